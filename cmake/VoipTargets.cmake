@@ -1,0 +1,44 @@
+# One function per kind of target.
+
+set(VOIP_WARNINGS
+    -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
+    -Wnull-dereference -Wduplicated-cond -Wlogical-op -Wformat=2)
+
+# Compiler settings of the project's own code. Includes are written from src/ ("store/DB.h").
+function(voip_own_code target)
+  target_compile_options(${target} PRIVATE ${VOIP_WARNINGS} -fpch-preprocess)
+  target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
+  target_precompile_headers(${target} PRIVATE
+      <QtCore/QtCore> <QtGui/QtGui> <QtWidgets/QtWidgets> <QtNetwork/QtNetwork>)
+endfunction()
+
+# voip_library(name SOURCES ... LINKS ...): the static library voip_name, known as Voip::name.
+function(voip_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(voip_${name} STATIC ${ARG_SOURCES})
+  add_library(Voip::${name} ALIAS voip_${name})
+  voip_own_code(voip_${name})
+  target_link_libraries(voip_${name} PUBLIC ${ARG_LINKS} Qt5::Core Qt5::Gui Qt5::Widgets Qt5::Network)
+endfunction()
+
+# voip_test(name SOURCES ... LINKS ... [ENV ...] [LABELS ...] [TIMEOUT s]): a Qt Test program, run in a folder,
+# a home and a temporary directory of its own, so that sockets and files of two tests never meet.
+function(voip_test name)
+  cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINKS;ENV;LABELS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  voip_own_code(${name})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt5::Test)
+  add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/isolated $<TARGET_FILE:${name}>)
+  if(NOT ARG_TIMEOUT)
+    set(ARG_TIMEOUT 300)
+  endif()
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT})
+  if(ARG_ENV)
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${ARG_ENV}")
+  endif()
+  if(ARG_LABELS)
+    set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}")
+  endif()
+endfunction()
