@@ -5,23 +5,14 @@
 
 #include "common/CommonFun.h"
 #include "plugin/BaseEvent.h"
+#include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"
 #include "plugin/PluginInterface.h"
 
 #include <QCoreApplication>
-#include <QDataStream>
 #include <QPluginLoader>
 
 namespace {
-
-template <typename... T>
-QByteArray pack(const T &...fields)
-{
-    QByteArray payload;
-    QDataStream out(&payload, QIODevice::WriteOnly);
-    (out << ... << fields);
-    return payload;
-}
 
 const QString &loginDomain()
 {
@@ -75,32 +66,29 @@ bool HostSession::ask(EMsgId msgId)
     const QString words = EventWords::describe(msgId, event.data);
     QCoreApplication::sendEvent(m_pPlugin, &event);
     emit eventPassed(false, msgId, words, EventWords::answer(msgId, event.data));
-    QDataStream in(event.data);
-    bool answer = false;
-    in >> answer;
-    return answer;
+    return PayloadReader(event.data).take<bool>();
 }
 
 void HostSession::setOnline(bool bOnline)
 {
     m_bOnline = bOnline;
     emit onlineChanged(bOnline);
-    post(MSG_CLIENT_CONNECT_STATUS, pack(bOnline));
+    post(MSG_CLIENT_CONNECT_STATUS, packPayload(bOnline));
 }
 
 void HostSession::callUser(const QString &strUid, bool bVideo)
 {
-    post(MSG_CALL_SINGLE_USER, pack(bVideo, strUid));
+    post(MSG_CALL_SINGLE_USER, packPayload(bVideo, strUid));
 }
 
 void HostSession::answerCall(bool bAccept)
 {
-    post(MSG_RESPONSE_VOIP_REQUEST, pack(bAccept));
+    post(MSG_RESPONSE_VOIP_REQUEST, packPayload(bAccept));
 }
 
 void HostSession::callConference(const QStringList &uids)
 {
-    post(MSG_CALL_CONFERENCE, pack(uids, QString(), false));
+    post(MSG_CALL_CONFERENCE, packPayload(uids, QString(), false));
 }
 
 void HostSession::sendCards(const QStringList &uids)
@@ -108,7 +96,7 @@ void HostSession::sendCards(const QStringList &uids)
     // The card is named by the full jid: that is what the call window compares with.
     for (const QString &uid : uids) {
         const auto address = qint64(reinterpret_cast<quintptr>(m_book.card(uid)));
-        post(MSG_UPDATE_USER_INFO, pack(m_book.jidOf(uid), address));
+        post(MSG_UPDATE_USER_INFO, packPayload(m_book.jidOf(uid), address));
     }
 }
 
