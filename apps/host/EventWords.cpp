@@ -67,16 +67,18 @@ QString fieldsText(const char *fields, const QByteArray &payload)
     PayloadReader in(payload);
     QStringList parts;
     const QStringList specs = QString::fromLatin1(fields).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    for (const QString &spec : specs)
+    for (const QString &spec : specs) {
         parts << spec.mid(2) + QLatin1Char('=') + fieldText(spec.at(0).toLatin1(), in);
+    }
     return parts.join(QStringLiteral(", "));
 }
 
 const EventRow *rowOf(EMsgId msgId)
 {
     for (const EventRow &row : rows) {
-        if (row.msgId == msgId)
+        if (row.msgId == msgId) {
             return &row;
+        }
     }
     return nullptr;
 }
@@ -86,8 +88,9 @@ const EventRow *rowOf(EMsgId msgId)
 QString EventWords::describe(EMsgId msgId, const QByteArray &payload)
 {
     const EventRow *row = rowOf(msgId);
-    if (row == nullptr)
+    if (row == nullptr) {
         return QString::number(msgId);
+    }
     const QString head = QStringLiteral("%1 %2").arg(int(msgId)).arg(QString::fromLatin1(row->words));
     const QString fields = fieldsText(row->fields, payload);
     return fields.isEmpty() ? head : head + QStringLiteral(": ") + fields;

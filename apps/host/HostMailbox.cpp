@@ -40,14 +40,16 @@ void HostMailbox::customEvent(QEvent *event)
         {signListPluginId(), MSG_SHOW_SIGN_LIST, &HostMailbox::showSignature},
         {signListPluginId(), MSG_CLOSE_SIGN_LIST, &HostMailbox::hideSignature},
     };
-    if (event->type() != QEvent::User)
+    if (event->type() != QEvent::User) {
         return;
+    }
     auto &message = static_cast<BaseEvent &>(*event);
     const QString words = EventWords::describe(message.msgId, message.data);
     const QByteArray question = message.data;
     for (const Row &row : rows) {
-        if (row.msgId == message.msgId && row.receiver == message.receiverId)
+        if (row.msgId == message.msgId && row.receiver == message.receiverId) {
             (this->*row.handle)(message);
+        }
     }
     const bool answered = message.data != question;
     emit eventReceived(message.msgId, words, answered ? EventWords::answer(message.msgId, message.data) : QString());

@@ -12,15 +12,10 @@
 #include <QCoreApplication>
 #include <QPluginLoader>
 
-namespace {
-
-const QString &loginDomain()
+QString HostSession::loginDomain()
 {
-    static const QString domain = QStringLiteral("im.example.org");
-    return domain;
+    return QStringLiteral("im.example.org");
 }
-
-} // namespace
 
 HostSession::HostSession(const ContactBook &book, QObject *parent) : QObject(parent), m_book(book), m_mailbox(book)
 {
@@ -52,16 +47,18 @@ bool HostSession::start(const QString &strModule, QString *strError)
 
 void HostSession::post(EMsgId msgId, const QByteArray &payload)
 {
-    if (m_pPlugin.isNull())
+    if (m_pPlugin.isNull()) {
         return;
+    }
     emit eventPassed(false, msgId, EventWords::describe(msgId, payload), QString());
     QCoreApplication::postEvent(m_pPlugin, new BaseEvent(msgId, sessionPluginId(), voipPluginId(), true, payload));
 }
 
 bool HostSession::ask(EMsgId msgId)
 {
-    if (m_pPlugin.isNull())
+    if (m_pPlugin.isNull()) {
         return false;
+    }
     BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false);
     const QString words = EventWords::describe(msgId, event.data);
     QCoreApplication::sendEvent(m_pPlugin, &event);
@@ -112,8 +109,9 @@ bool HostSession::isVideoCall()
 
 void HostSession::quit()
 {
-    if (m_bQuit || m_pPlugin.isNull())
+    if (m_bQuit || m_pPlugin.isNull()) {
         return;
+    }
     m_bQuit = true;
     emit eventPassed(false, MSG_EXIT_VOIP, EventWords::describe(MSG_EXIT_VOIP, QByteArray()), QString());
     // Delivered at once: the process may end before the queue is read again.
