@@ -1,9 +1,8 @@
+#pragma once
+
 // The one event class between the host and its plug-ins: who sends, who receives, which command, and a payload. It is
 // used on the GUI thread. An event that is posted belongs to Qt from then on; one that is delivered at once belongs to
 // its sender, who reads the answer from `data` and deletes it. The order of the fields is shared with the host.
-
-#ifndef VOIP_PLUGIN_BASEEVENT_H
-#define VOIP_PLUGIN_BASEEVENT_H
 
 #include "plugin/EMsgId.h"
 
@@ -41,5 +40,3 @@ public:
 private:
     Q_DISABLE_COPY(BaseEvent)
 };
-
-#endif

@@ -1,8 +1,7 @@
+#pragma once
+
 // The command numbers that stand in a BaseEvent. The enumeration belongs to the host; these are the commands that this
 // plug-in reads or sends. The underlying type is fixed, so any other number of the host can be carried and compared.
-
-#ifndef VOIP_PLUGIN_EMSGID_H
-#define VOIP_PLUGIN_EMSGID_H
 
 #include <QtGlobal>
 
@@ -29,5 +28,3 @@ enum EMsgId : qint32
     MSG_SHOW_VOICE_CONF = 4736,          ///< in: show the conference centre
     MSG_EXIT_VOIP = 4763,                ///< in: the host is about to quit
 };
-
-#endif

@@ -1,8 +1,7 @@
+#pragma once
+
 // How the fields of an event's payload are written and read: a QDataStream over a QByteArray with the stream's default
 // settings, on both sides. Values only; usable on any thread.
-
-#ifndef VOIP_PLUGIN_EVENTPAYLOAD_H
-#define VOIP_PLUGIN_EVENTPAYLOAD_H
 
 #include <QByteArray>
 #include <QDataStream>
@@ -55,5 +54,3 @@ Record recordAt(qint64 address)
     const auto *record = reinterpret_cast<const Record *>(static_cast<quintptr>(address));
     return record == nullptr ? Record() : *record;
 }
-
-#endif

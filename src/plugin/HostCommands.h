@@ -1,9 +1,8 @@
+#pragma once
+
 // The commands that the host may give, each with the function that carries it out. The mailbox knows only this header:
 // the rows themselves stand on the top floor, beside the engine they call, and put themselves in here when the program
 // or the module is loaded. GUI thread only.
-
-#ifndef VOIP_PLUGIN_HOSTCOMMANDS_H
-#define VOIP_PLUGIN_HOSTCOMMANDS_H
 
 #include "plugin/EMsgId.h"
 
@@ -21,5 +20,3 @@ void setHostCommands(const HostCommand *first, int count);
 
 /// The row of `msgId`, or null for an unknown command.
 const HostCommand *findHostCommand(int msgId);
-
-#endif

@@ -1,8 +1,7 @@
+#pragma once
+
 // The plug-in's requests to the host's other plug-ins as one table: which command goes to whom, in whose name, and how.
 // VoipManageEventProcess holds the operations that fill in the payloads.
-
-#ifndef VOIP_PLUGIN_HOSTREQUESTS_H
-#define VOIP_PLUGIN_HOSTREQUESTS_H
 
 #include "plugin/EMsgId.h"
 #include "plugin/PluginIds.h"
@@ -48,5 +47,3 @@ constexpr const HostRequest &hostRequest(EMsgId msgId)
     }
     return *row;
 }
-
-#endif

@@ -1,8 +1,7 @@
+#pragma once
+
 // The ids by which events name the host's plug-ins. They are compared as exact text: the mix of upper and lower case is
 // part of the value.
-
-#ifndef VOIP_PLUGIN_PLUGINIDS_H
-#define VOIP_PLUGIN_PLUGINIDS_H
 
 #include <QString>
 
@@ -18,5 +17,3 @@ const QString &vcardPluginId();
 const QString &msgBoxPluginId();
 /// The signature-list plug-in: the card shown beside a head image.
 const QString &signListPluginId();
-
-#endif

@@ -1,9 +1,8 @@
+#pragma once
+
 // What every plug-in of the host implements. The host loads a plug-in with QPluginLoader and casts its root object to
 // this interface by the id "kelvarim/1.0". All operations run on the GUI thread. The order of the virtual operations,
 // destructor first, is a binary contract with the host and must not change.
-
-#ifndef VOIP_PLUGIN_PLUGININTERFACE_H
-#define VOIP_PLUGIN_PLUGININTERFACE_H
 
 #include "plugin/EMsgId.h"
 
@@ -44,5 +43,3 @@ public:
 #define KELVARIM_PLUGIN_IID "kelvarim/1.0"
 
 Q_DECLARE_INTERFACE(PluginInterface, KELVARIM_PLUGIN_IID)
-
-#endif

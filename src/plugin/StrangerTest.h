@@ -1,8 +1,7 @@
+#pragma once
+
 // Collects the users of a new call whose cards the client does not have, and asks the vCard plug-in for them. A value
 // for the length of one flow; GUI thread.
-
-#ifndef VOIP_PLUGIN_STRANGERTEST_H
-#define VOIP_PLUGIN_STRANGERTEST_H
 
 #include <QString>
 #include <QStringList>
@@ -21,5 +20,3 @@ struct StrangerCards
     /// Asks for the cards of all strangers noted, with one queued request, also when there are none.
     void request() const;
 };
-
-#endif

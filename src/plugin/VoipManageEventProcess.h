@@ -1,9 +1,8 @@
+#pragma once
+
 // Everything that the plug-in asks of the host and of the host's other plug-ins. Each operation packs its arguments
 // into a BaseEvent, names the receiver by id and hands the event to the mailbox. GUI thread only; no state. Synchronous
 // operations run the receiver's handler to its end before they return, and that handler may open an event loop.
-
-#ifndef VOIP_PLUGIN_VOIPMANAGEEVENTPROCESS_H
-#define VOIP_PLUGIN_VOIPMANAGEEVENTPROCESS_H
 
 #include <QObject>
 #include <QString>
@@ -46,5 +45,3 @@ public:
     /// Hides the signature card.
     static void closeSignList();
 };
-
-#endif

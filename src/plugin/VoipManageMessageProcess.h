@@ -1,9 +1,8 @@
+#pragma once
+
 // The plug-in's mailbox. The host delivers its events to it; it checks that an event is meant for this plug-in and runs
 // the command's row of the table in HostCommands.h. In the other direction it delivers the plug-in's own events to the
 // object that the host gave. GUI thread only; one object for the life of the process, created on first use.
-
-#ifndef VOIP_PLUGIN_VOIPMANAGEMESSAGEPROCESS_H
-#define VOIP_PLUGIN_VOIPMANAGEMESSAGEPROCESS_H
 
 #include <QObject>
 #include <QPointer>
@@ -38,5 +37,3 @@ private:
     static VoipManageMessageProcess *m_pInstance;
     QPointer<QObject> m_pSendHandle;
 };
-
-#endif

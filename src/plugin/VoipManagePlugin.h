@@ -1,9 +1,8 @@
+#pragma once
+
 // The object that the host gets when it loads the plug-in: Qt's loader creates it once, with no parent, and it lives as
 // long as the library is loaded. It keeps nothing: what it is given goes to the mailbox and to CommonFun. Creating it
 // starts no process, opens no socket and shows no window. GUI thread only.
-
-#ifndef VOIP_PLUGIN_VOIPMANAGEPLUGIN_H
-#define VOIP_PLUGIN_VOIPMANAGEPLUGIN_H
 
 #include "plugin/PluginInterface.h"
 
@@ -39,5 +38,3 @@ public:
     /// Takes the shared client context for all common code. Not owned; null means none.
     void setCommonData(CommonData *data) override;
 };
-
-#endif

@@ -1,8 +1,7 @@
+#pragma once
+
 // The host and its other plug-ins as the plug-in sees them: one object that receives every outbound event, sent or
 // posted, keeps a copy of it, and answers the queries as told. GUI thread; give it to the mailbox by setSendEvent.
-
-#ifndef VOIP_FAKES_FAKEHOST_H
-#define VOIP_FAKES_FAKEHOST_H
 
 #include "model/FriendData.h"
 #include "plugin/BaseEvent.h"
@@ -68,5 +67,3 @@ private:
     std::map<QString, FriendData> m_records;
     FriendData m_unknown;
 };
-
-#endif

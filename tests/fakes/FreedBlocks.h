@@ -1,8 +1,7 @@
+#pragma once
+
 // Tells whether a memory block has been given back by the plain operator delete, which a program that links this file
 // replaces by one that looks at each block.
-
-#ifndef VOIP_FAKES_FREEDBLOCKS_H
-#define VOIP_FAKES_FREEDBLOCKS_H
 
 namespace FreedBlocks {
 
@@ -12,5 +11,3 @@ void *watched();
 bool isFreed(const void *block);
 
 } // namespace FreedBlocks
-
-#endif
