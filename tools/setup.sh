@@ -1,13 +1,15 @@
 #!/bin/sh
-# Installs what cmake/packages.debian lists and this system lacks. Quick and silent when nothing is missing; asks for
-# root only when something is. On a system without Debian's package manager it lists what is needed and fails.
+# usage: tools/setup.sh [LIST...]
+# Installs what cmake/packages.debian and the further package lists name and this system lacks. Quick and silent when
+# nothing is missing; asks for root only when something is. On a system without Debian's package manager it lists what
+# is needed and fails.
 set -u
-list=$(cd "$(dirname "$0")/.." && pwd)/cmake/packages.debian
-needed=$(sed -e 's/#.*//' "$list")
+set -- "$(cd "$(dirname "$0")/.." && pwd)/cmake/packages.debian" "$@"
+needed=$(sed -e 's/#.*//' "$@")
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
     echo "This system has no apt-get: please install what these Debian packages hold, by its own means:" >&2
-    sed -n 's/^\([a-z0-9][^ ]*\) *# */  \1 - /p' "$list" >&2
+    sed -n 's/^\([a-z0-9][^ ]*\) *# */  \1 - /p' "$@" >&2
     exit 1
 fi
 

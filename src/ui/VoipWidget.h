@@ -1,5 +1,12 @@
 #pragma once
 
+// The one window of a running call: a voice call, a video call or a conference.
+//
+// It holds no call logic. The call manager creates it without a parent, owns it, drives it through the operations below
+// and listens to its signals; the window never talks to the call process. It keeps what is shown: which pages are up,
+// which toggles are on, when the call began. Lives on the GUI thread. It does not count for Qt's
+// quit-on-last-window-closed, so that its close never ends a host that has no other window open.
+
 #include <QList>
 #include <QString>
 #include <QTime>
@@ -15,19 +22,13 @@ namespace Ui {
 class CVoipWidget;
 }
 
-/// The one window of a running call: a voice call, a video call or a conference.
-///
-/// It holds no call logic. The call manager creates it without a parent, owns it, drives it through the operations
-/// below and listens to its signals; the window never talks to the call process. It keeps what is shown: which pages
-/// are up, which toggles are on, when the call began. Lives on the GUI thread. It does not count for Qt's
-/// quit-on-last-window-closed.
 class CVoipWidget : public QWidget
 {
     Q_OBJECT
 
 public:
     /// Kind of call. Any other value passes through without a change of pages.
-    enum VoipType
+    enum VoipType : int
     {
         Voice = 0,
         Video = 1,
@@ -146,10 +147,9 @@ private slots:
     void slot_ReInviteConfUser(QString strUserID);
 
 private:
-    void setStyles();
     void connectControls();
-    void showConference(bool bMyCall);
-    void showPeer(const VcardInfo &vcard);
+    void showConference();
+    void showPeer();
     QString showPeerCard(const VcardInfo &vcard);
     void showPeerTitle(const QString &strShownName);
     void refreshMemberCount();

@@ -1,5 +1,11 @@
 #pragma once
 
+// The client's one small message dialog: a frameless, modal box with a title, a text and one or two buttons.
+//
+// Callers build it on the stack, choose the mode by one of the show operations, which run the dialog to its end, and
+// read m_bAccepted afterwards. GUI thread only. While it is open a nested event loop runs, so the caller's state may
+// have changed when the operation returns. It does not count for Qt's quit-on-last-window-closed.
+
 #include <QDialog>
 #include <QString>
 
@@ -9,11 +15,6 @@ namespace Ui {
 class ErrorMessage;
 }
 
-/// The client's one small message dialog: a frameless, modal box with a title, a text and one or two buttons.
-///
-/// Callers build it on the stack, choose the mode by one of the show operations, which run the dialog to its end, and
-/// read m_bAccepted afterwards. GUI thread only. While it is open a nested event loop runs, so the caller's state may
-/// have changed when the operation returns. It does not count for Qt's quit-on-last-window-closed.
 class ErrorMessage : public QDialog
 {
     Q_OBJECT
