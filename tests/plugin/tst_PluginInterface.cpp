@@ -50,6 +50,8 @@ public:
     void setCommonData(CommonData *) override { called << "setCommonData"; }
 };
 
+} // namespace
+
 // The table as a host knows it that was built apart from this header: the destructor, then one slot each.
 class SlotOrder
 {
@@ -66,8 +68,6 @@ public:
     virtual void slot11(CommonData *) = 0;
 };
 
-} // namespace
-
 class tst_PluginInterface : public QObject
 {
     Q_OBJECT
@@ -81,7 +81,8 @@ void tst_PluginInterface::operationsStandInTheSlotOrderOfTheHost()
 {
     called.clear();
     PluginInterface *plugin = new Recorder;
-    void *address = plugin;
+    // Read back at run time, so that the compiler draws no conclusion from the type that it was given.
+    void *volatile address = plugin;
     auto *table = static_cast<SlotOrder *>(address);
     table->slot3();
     table->slot4(nullptr);
