@@ -8,8 +8,9 @@
 
 HostContext::~HostContext()
 {
-    if (!m_logThread.isRunning())
+    if (!m_logThread.isRunning()) {
         return;
+    }
     m_logThread.stop();
     // A writer that waits on an empty queue leaves only after one more record.
     m_logThread.printLog(CustomLog::Info, QStringLiteral("HostContext"), QStringLiteral("log closed"));
