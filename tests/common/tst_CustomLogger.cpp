@@ -429,12 +429,10 @@ private slots:
         }
         QVERIFY(writer->wait());
         logger.close();
-        QCOMPARE(lines().size(), 3000);
+        const QList<QByteArray> all = lines();
+        QCOMPARE(all.size(), 3000);
         for (int i = 0; i < 3000; ++i) {
-            QVERIFY(lines().at(i).endsWith(": " + QByteArray::number(i)));
-            if (i % 500 != 0) {
-                i += 498;
-            }
+            QVERIFY(all.at(i).endsWith("]: " + QByteArray::number(i)));
         }
     }
 
