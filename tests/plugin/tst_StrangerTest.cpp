@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -40,27 +41,25 @@ private slots:
 private:
     void setRecordVersion(const QString &jid, int version);
 
-    FakeHost m_host;
+    std::unique_ptr<FakeHost> m_host;
     CommonData m_context;
     LoginData m_login;
 };
 
 void tst_StrangerTest::init()
 {
-    m_host.events.clear();
-    m_host.friendJids.clear();
-    m_host.bAnswers = true;
+    m_host = std::make_unique<FakeHost>();
     m_login.m_strUid = QStringLiteral("me");
     m_login.m_strDomain = QStringLiteral("d");
     m_context.setLoginData(&m_login);
     m_context.setFriendDataMap({});
     CommonFun::setCommonData(&m_context);
-    VoipManageMessageProcess::instance()->setSendEvent(&m_host);
+    VoipManageMessageProcess::instance()->setSendEvent(m_host.get());
 }
 
 void tst_StrangerTest::cleanup()
 {
-    VoipManageMessageProcess::instance()->setSendEvent(nullptr);
+    m_host.reset();
     CommonFun::setCommonData(nullptr);
 }
 
@@ -69,7 +68,7 @@ void tst_StrangerTest::setRecordVersion(const QString &jid, int version)
     FriendData record;
     record.m_strJid = jid;
     record.m_vcardInfo.m_iSmallVersion = version;
-    m_host.setRecord(jid, record);
+    m_host->setRecord(jid, record);
 }
 
 void tst_StrangerTest::strangerIsNotedWithTheVersionAtHand_data()
@@ -95,7 +94,7 @@ void tst_StrangerTest::strangerIsNotedWithTheVersionAtHand()
 
 void tst_StrangerTest::friendIsNotNoted()
 {
-    m_host.friendJids.insert(QStringLiteral("u1@d"));
+    m_host->friendJids.insert(QStringLiteral("u1@d"));
     StrangerCards cards;
     QVERIFY(!cards.test(QStringLiteral("u1")));
     QVERIFY(cards.ids.isEmpty());
@@ -113,7 +112,7 @@ void tst_StrangerTest::systemAccountIsNeverNoted()
 {
     QFETCH(bool, bFriend);
     if (bFriend) {
-        m_host.friendJids.insert(systemAccount + QStringLiteral("@d"));
+        m_host->friendJids.insert(systemAccount + QStringLiteral("@d"));
     }
     StrangerCards cards;
     QVERIFY(!cards.test(systemAccount));
@@ -125,7 +124,7 @@ void tst_StrangerTest::systemAccountIsStillAskedAbout()
 {
     StrangerCards cards;
     cards.test(systemAccount);
-    QCOMPARE(m_host.commands(), (QList<int>{4157, 4337}));
+    QCOMPARE(m_host->commands(), (QList<int>{4157, 4337}));
 }
 
 void tst_StrangerTest::existenceIsAskedAlsoForRecordsOfTheSharedMap()
@@ -133,7 +132,7 @@ void tst_StrangerTest::existenceIsAskedAlsoForRecordsOfTheSharedMap()
     m_context.setFriendDataMap({{QStringLiteral("u1@d"), FriendData()}});
     StrangerCards cards;
     QVERIFY(cards.test(QStringLiteral("u1")));
-    QCOMPARE(m_host.commands(), QList<int>{4337});
+    QCOMPARE(m_host->commands(), QList<int>{4337});
 }
 
 void tst_StrangerTest::recordOfTheSharedMapGivesTheVersion()
@@ -150,8 +149,8 @@ void tst_StrangerTest::recordIsAskedForBeforeExistence()
 {
     StrangerCards cards;
     cards.test(QStringLiteral("u1"));
-    QCOMPARE(m_host.commands(), (QList<int>{4157, 4337}));
-    for (const ReceivedEvent &event : qAsConst(m_host.events)) {
+    QCOMPARE(m_host->commands(), (QList<int>{4157, 4337}));
+    for (const ReceivedEvent &event : qAsConst(m_host->events)) {
         QCOMPARE(event.reader().take<QString>(), QStringLiteral("u1@d"));
     }
 }
@@ -160,7 +159,7 @@ void tst_StrangerTest::jidIsNotedAsUserId()
 {
     StrangerCards cards;
     QVERIFY(cards.test(QStringLiteral("u1@elsewhere")));
-    QCOMPARE(m_host.events.first().reader().take<QString>(), QStringLiteral("u1@elsewhere"));
+    QCOMPARE(m_host->events.first().reader().take<QString>(), QStringLiteral("u1@elsewhere"));
     QCOMPARE(cards.ids, QStringList(QStringLiteral("u1")));
 }
 
@@ -172,7 +171,7 @@ void tst_StrangerTest::idInOtherCaseIsNotTheSystemAccount()
 
 void tst_StrangerTest::withoutAnswerEveryoneIsAStrangerWithoutCard()
 {
-    m_host.bAnswers = false;
+    m_host->bAnswers = false;
     StrangerCards cards;
     QVERIFY(cards.test(QStringLiteral("u1")));
     QCOMPARE(cards.versions, QStringList(QStringLiteral("-1")));
@@ -181,24 +180,24 @@ void tst_StrangerTest::withoutAnswerEveryoneIsAStrangerWithoutCard()
 void tst_StrangerTest::requestGoesOutAlsoWithoutStrangers()
 {
     StrangerCards().request();
-    QCoreApplication::sendPostedEvents(&m_host);
-    QCOMPARE(m_host.commands(), QList<int>{4159});
-    QCOMPARE(m_host.events.first().payload, packPayload(QStringList(), QStringList(), true));
+    QCoreApplication::sendPostedEvents(m_host.get());
+    QCOMPARE(m_host->commands(), QList<int>{4159});
+    QCOMPARE(m_host->events.first().payload, packPayload(QStringList(), QStringList(), true));
 }
 
 void tst_StrangerTest::requestCarriesAllStrangersInTheirOrder()
 {
     setRecordVersion(QStringLiteral("u2@d"), 3);
-    m_host.friendJids.insert(QStringLiteral("u3@d"));
+    m_host->friendJids.insert(QStringLiteral("u3@d"));
     StrangerCards cards;
     for (const char *uid : {"u2", "u3", "u1"}) {
         cards.test(QString::fromLatin1(uid));
     }
-    m_host.events.clear();
+    m_host->events.clear();
     cards.request();
-    QCoreApplication::sendPostedEvents(&m_host);
-    QCOMPARE(m_host.commands(), QList<int>{4159});
-    PayloadReader reader = m_host.events.first().reader();
+    QCoreApplication::sendPostedEvents(m_host.get());
+    QCOMPARE(m_host->commands(), QList<int>{4159});
+    PayloadReader reader = m_host->events.first().reader();
     QCOMPARE(reader.takeTexts(), (QStringList{QStringLiteral("u2"), QStringLiteral("u1")}));
     QCOMPARE(reader.takeTexts(), (QStringList{QStringLiteral("3"), QStringLiteral("-1")}));
     QCOMPARE(reader.take<bool>(), true);
