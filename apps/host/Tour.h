@@ -28,9 +28,9 @@ struct TourStep
     QList<TourCheck> checks;
     int limitMs = 15000;
     /// Name of the picture without ".png"; empty for none.
-    QString picture;
+    QString picture = QString();
     /// The window to take; one that gives null fails the step.
-    std::function<QWidget *()> pictureOf;
+    std::function<QWidget *()> pictureOf = nullptr;
 };
 
 /// Runs the steps one after the other, by a timer, so that the program under way is never blocked, and says each as it
