@@ -1,4 +1,4 @@
-#include "FileText.h"
+#include "LogFile.h"
 
 #include "common/CLogThread.h"
 #include "common/CustomLogger.h"
@@ -6,13 +6,14 @@
 #include <QDateTime>
 #include <QtTest>
 
+#include <atomic>
 #include <ctime>
+#include <memory>
 #include <unistd.h>
 #include <vector>
 
 namespace {
 
-const QString LOG = QStringLiteral("client.log");
 std::atomic<int> rests{0};
 std::atomic<long> restNanoseconds{0};
 
