@@ -3,6 +3,7 @@
 #include "widgets/VcardHeadLabel.h"
 
 #include <QDir>
+#include <QImageReader>
 #include <QTest>
 
 class tst_HeadPicture : public QObject
@@ -24,7 +25,9 @@ private slots:
     void unusablePhotoGivesTheDefaultHead();
     void pictureIsRoundAndScaled_data();
     void pictureIsRoundAndScaled();
+    void contentCountsNotTheSuffix();
     void noPictureGivesTheNeutralHead();
+    void hugePictureGivesTheNeutralHead();
     void labelShowsAPictureOfItsWidth();
 };
 
@@ -70,6 +73,31 @@ void tst_HeadPicture::pictureIsRoundAndScaled()
     for (const QPoint &corner :
          {head.rect().topLeft(), head.rect().topRight(), head.rect().bottomLeft(), head.rect().bottomRight()})
         QCOMPARE(head.pixelColor(corner).alpha(), 0);
+}
+
+void tst_HeadPicture::contentCountsNotTheSuffix()
+{
+    QImage photo(8, 8, QImage::Format_RGB32);
+    photo.fill(Qt::blue);
+    QVERIFY(photo.save(QStringLiteral("bitmap.png"), "BMP"));
+    const QImage head = HeadPicture::round(QStringLiteral("bitmap.png"), 22, 1.0).toImage();
+    QCOMPARE(head.pixelColor(head.rect().center()), QColor(Qt::blue));
+}
+
+void tst_HeadPicture::hugePictureGivesTheNeutralHead()
+{
+    // A bitmap's header that announces 100000 by 100000 pixels.
+    QImage photo(1, 1, QImage::Format_RGB32);
+    photo.fill(Qt::blue);
+    QVERIFY(photo.save(QStringLiteral("huge.bmp")));
+    QFile file(QStringLiteral("huge.bmp"));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.seek(18));
+    file.write(QByteArray::fromHex("a0860100a0860100"));
+    file.close();
+    QCOMPARE(QImageReader(QStringLiteral("huge.bmp")).size(), QSize(100000, 100000));
+    QCOMPARE(HeadPicture::round(QStringLiteral("huge.bmp"), 22, 1.0).toImage(),
+             HeadPicture::round(QString(), 22, 1.0).toImage());
 }
 
 void tst_HeadPicture::noPictureGivesTheNeutralHead()
