@@ -23,6 +23,8 @@ void drawNeutralHead(QPainter &painter, qreal side)
 
 QImage readPhoto(const QString &strPath, const QSize &size)
 {
+    if (strPath.isEmpty())
+        return {};
     QImageReader reader(strPath);
     // Pictures come under all kinds of names: what the file holds counts, not its suffix.
     reader.setDecideFormatFromContent(true);
