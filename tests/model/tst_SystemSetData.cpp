@@ -40,8 +40,9 @@ private slots:
     {
         m_folder.reset(new QTemporaryDir);
         QVERIFY(m_folder->isValid());
-        QDir(strAPP_DOCUMENT_IM_PATH()).removeRecursively();
-        QDir(strAPP_DOCUMENT_IM_FILES_PATH()).removeRecursively();
+        // A home of its own for each test, so that none finds the files of another.
+        qputenv("HOME", m_folder->filePath("home").toLocal8Bit());
+        qputenv("XDG_CONFIG_HOME", m_folder->filePath("home/.config").toLocal8Bit());
     }
 
     void everyKeyOfTheUserIsARow()
