@@ -80,8 +80,7 @@ QString Trace::printable(const QByteArray &bytes)
 void Trace::record(char direction, const QString &text)
 {
     if (m_file.isOpen()) {
-        const QString line =
-            QStringLiteral("%1 %2 %3\n").arg(m_clock.elapsed(), 8).arg(QLatin1Char(direction)).arg(text);
+        const QString line = QStringLiteral("%1 %2 %3\n").arg(m_clock.elapsed()).arg(QLatin1Char(direction)).arg(text);
         m_file.write(line.toUtf8());
     }
 }

@@ -123,7 +123,7 @@ QStringList CallProcess::trace() const
     if (file.open(QIODevice::ReadOnly)) {
         const QList<QByteArray> records = file.readAll().split('\n');
         for (const QByteArray &record : records) {
-            lines.append(QString::fromUtf8(record.mid(9)));
+            lines.append(QString::fromUtf8(record.mid(record.indexOf(' ') + 1)));
         }
     }
     return lines;

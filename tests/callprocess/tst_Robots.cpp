@@ -283,11 +283,11 @@ bool joinConference(CallProcess &peer)
            peer.nextNotification().startsWith(QLatin1String("12 "));
 }
 
-void addMembers(CallProcess &peer, const QJsonValue &users)
+QByteArray addLine(const QJsonValue &users)
 {
-    peer.command(QStringLiteral("Add2Conference"),
-                 {users, QStringLiteral("100"), QStringLiteral("100"), false, QString(),
-                  QJsonArray{QStringLiteral("100"), QStringLiteral("30010001")}});
+    return CallProcess::line(QStringLiteral("Add2Conference"),
+                             {users, QStringLiteral("100"), QStringLiteral("100"), false, QString(),
+                              QJsonArray{QStringLiteral("100"), QStringLiteral("30010001")}});
 }
 
 } // namespace

@@ -371,23 +371,30 @@ void tst_ScenarioPlayer::killedScenarioDies_data()
 {
     QTest::addColumn<QString>("scenario");
     QTest::addColumn<QString>("command");
-    QTest::newRow("calling") << QStringLiteral("killed-while-calling") << QStringLiteral("CallUser");
-    QTest::newRow("ringing") << QStringLiteral("killed-while-ringing") << QString();
-    QTest::newRow("connected") << QStringLiteral("killed-while-connected") << QStringLiteral("CallUser");
+    QTest::addColumn<QString>("notification");
+    QTest::newRow("calling") << QStringLiteral("killed-while-calling") << QStringLiteral("CallUser") << QString();
+    QTest::newRow("ringing") << QStringLiteral("killed-while-ringing") << QString() << QStringLiteral("0 30010001");
+    QTest::newRow("connected") << QStringLiteral("killed-while-connected") << QStringLiteral("CallUser")
+                               << QStringLiteral("18");
 }
 
 void tst_ScenarioPlayer::killedScenarioDies()
 {
     QFETCH(QString, scenario);
     QFETCH(QString, command);
+    QFETCH(QString, notification);
     CallProcess peer;
     peer.start({QStringLiteral("--speed"), QStringLiteral("100"), QStringLiteral("--scenario"),
                 QStringLiteral(VOIPSDK_SCENARIOS "/") + scenario + QStringLiteral(".scn")});
     QVERIFY(peer.connectClient());
     peer.command(QStringLiteral("RegeditUser"),
                  {QStringLiteral("100"), QStringLiteral("Me"), QStringLiteral("r"), false});
+    QCOMPARE(peer.nextNotification(), QStringLiteral("17 true"));
     if (!command.isEmpty()) {
         peer.command(command, CALL);
+    }
+    if (!notification.isEmpty()) {
+        QCOMPARE(peer.nextNotification(), notification);
     }
     QCOMPARE(peer.exitCode(), 9);
     QVERIFY(QFile::exists(CallProcess::socketPath()));

@@ -102,11 +102,22 @@ private slots:
     void withoutALanguageTheSystemLocaleDecides()
     {
         QFETCH(QByteArray, locale);
-        const QByteArray before = qgetenv("LC_ALL");
-        qputenv("LC_ALL", locale);
-        const QString language = AppInfo::getApplicationLanguage();
-        qputenv("LC_ALL", before);
-        QTEST(language, "language");
+        QFETCH(QString, language);
+        // The locale is read once for a process, so each row needs a process of its own.
+        if (qEnvironmentVariableIsSet("IN_CHILD")) {
+            QCOMPARE(AppInfo::getApplicationLanguage(), language);
+            return;
+        }
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("IN_CHILD", "1");
+        environment.insert("LC_ALL", QString::fromLatin1(locale));
+        QProcess child;
+        child.setProcessEnvironment(environment);
+        child.start(QCoreApplication::applicationFilePath(),
+                    {QStringLiteral("withoutALanguageTheSystemLocaleDecides:") + QTest::currentDataTag()});
+        QVERIFY(child.waitForFinished());
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QVERIFY2(child.exitCode() == 0, child.readAllStandardOutput().constData());
     }
 
     void suffixIsOneOfTwo_data()

@@ -34,10 +34,13 @@ struct Host
     QStringList lines(int count)
     {
         thread.start();
-        QTest::qWaitFor([this, count] {
+        const bool written = QTest::qWaitFor([this, count] {
             logger.flush();
             return fileText(logFile).count('\n') >= count;
         });
+        if (!written) {
+            return {QStringLiteral("too few lines")};
+        }
         QStringList all = QString::fromUtf8(fileText(logFile)).split('\n', Qt::SkipEmptyParts);
         for (QString &line : all) {
             line.remove(QRegularExpression("^\\[[^\\]]*\\]"));
@@ -62,7 +65,11 @@ class tst_CLogManger : public QObject
     Q_OBJECT
 
     /// The line that one statement of the process's facade has made.
-    static QString nextLine() { return processHost->lines(++processLines).value(processLines - 1); }
+    static QString nextLine()
+    {
+        ++processLines;
+        return processHost->lines(processLines).last();
+    }
 
 private slots:
     void initTestCase()
@@ -84,23 +91,25 @@ private slots:
 
     void debugStatementWritesOneRecordOfLevelTwo()
     {
+        const int line = __LINE__ + 1;
         LOG_DEBUG << "setmic bMute = " << true << "\n";
-        QCOMPARE(nextLine(), QStringLiteral("[DEBUG][tst_CLogManger.cpp:%1]: setmic bMute = 1").arg(__LINE__ - 1));
+        QCOMPARE(nextLine(), QStringLiteral("[DEBUG][tst_CLogManger.cpp:%1]: setmic bMute = 1").arg(line));
     }
 
     void warnStatementWritesOneRecordOfLevelFour()
     {
-        LOG_WARN << "careful"
-                 << "\n";
-        QCOMPARE(nextLine(), QStringLiteral("[WARN][tst_CLogManger.cpp:%1]: careful").arg(__LINE__ - 1));
+        const int line = __LINE__ + 1;
+        LOG_WARN << "careful = " << 1 << "\n";
+        QCOMPARE(nextLine(), QStringLiteral("[WARN][tst_CLogManger.cpp:%1]: careful = 1").arg(line));
     }
 
     void wholeRecordsGoThroughWithTheirLevelAndPlace()
     {
+        const int line = __LINE__ + 1;
         CLogManger::instance()->printLog(CustomLog::Info, LOG_LOCATION, "told");
-        QCOMPARE(nextLine(), QStringLiteral("[INFO][tst_CLogManger.cpp:%1]: told").arg(__LINE__ - 1));
-        CLogManger::instance()->printLog(CustomLog::Error, LOG_LOCATION, "failed");
-        QCOMPARE(nextLine(), QStringLiteral("[ERROR][tst_CLogManger.cpp:%1]: failed").arg(__LINE__ - 1));
+        QCOMPARE(nextLine(), QStringLiteral("[INFO][tst_CLogManger.cpp:%1]: told").arg(line));
+        CLogManger::instance()->printLog(CustomLog::Error, "place", "failed");
+        QCOMPARE(nextLine(), QStringLiteral("[ERROR][place]: failed"));
     }
 
     void itemsAreWrittenAsATextStreamWritesThem()
@@ -246,9 +255,8 @@ private slots:
     void flushWritesOutAndClearEmpties()
     {
         Host host("flush.log");
-        const CLogManger reader;
-        host.logger.printLog(CustomLog::Info, "place", "text");
         CLogManger manger;
+        host.logger.printLog(CustomLog::Info, "place", "text");
         QCOMPARE(fileText("flush.log"), QByteArray());
         manger.flushLog();
         QVERIFY(fileText("flush.log").endsWith("[INFO][place]: text\n"));

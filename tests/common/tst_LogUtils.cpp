@@ -112,10 +112,10 @@ private slots:
     void missingTemplateGivesAnEmptyLogWithoutAWarning()
     {
         // The template is loaded once for a process, so this one needs a process of its own.
-        if (!qEnvironmentVariableIsSet("WITHOUT_TEMPLATE")) {
+        if (!qEnvironmentVariableIsSet("IN_CHILD")) {
             QProcess child;
             QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-            environment.insert("WITHOUT_TEMPLATE", "1");
+            environment.insert("IN_CHILD", "1");
             child.setProcessEnvironment(environment);
             child.setWorkingDirectory("/");
             child.start(QCoreApplication::applicationFilePath(), {"missingTemplateGivesAnEmptyLogWithoutAWarning"});

@@ -10,7 +10,7 @@ namespace {
 /// The palette as the code has it: name and constant, in order.
 const std::vector<std::pair<const char *, const QString *>> &palette()
 {
-#define PALETTE_COLOUR(name, value) {#name, &name},
+#define PALETTE_COLOUR(name, value) {#name, &(name)},
     static const std::vector<std::pair<const char *, const QString *>> colours = {
 #include "common/Palette.def"
     };

@@ -34,7 +34,7 @@ QString LogCapture::written()
     m_logger.flush();
     QFile file(logFileName);
     if (!file.open(QIODevice::ReadOnly)) {
-        return QString();
+        return {};
     }
     return QString::fromUtf8(file.readAll());
 }

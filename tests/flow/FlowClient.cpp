@@ -121,10 +121,10 @@ bool FlowClient::callProcessLives() const
     return status.open(QIODevice::ReadOnly) && !status.readAll().contains(") Z ");
 }
 
-void FlowClient::killCallProcess()
+bool FlowClient::killCallProcess()
 {
     ::kill(static_cast<pid_t>(callProcessId()), SIGKILL);
-    QTest::qWaitFor([this] { return !callProcessLives(); });
+    return QTest::qWaitFor([this] { return !callProcessLives(); });
 }
 
 bool FlowClient::startCallProcess()

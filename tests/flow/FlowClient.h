@@ -45,8 +45,8 @@ public:
     /// Process id of the youngest call process; 0 when none was started.
     qint64 callProcessId() const;
     bool callProcessLives() const;
-    /// Ends it without a chance to say anything.
-    void killCallProcess();
+    /// Ends it without a chance to say anything; true once it is gone.
+    bool killCallProcess();
     /// Starts another one, as an operator would.
     bool startCallProcess();
 

@@ -95,7 +95,7 @@ void tst_LostCallProcess::killedInEveryState()
     QVERIFY(enter(State(state)));
     const bool visible = m_client.callWindow()->isVisible();
 
-    m_client.killCallProcess();
+    QVERIFY(m_client.killCallProcess());
     QTest::qWait(100);
     QCOMPARE(m_client.ask(MSG_IS_EXIST_CALL), state != Idle);
     QCOMPARE(m_client.callWindow()->isVisible(), visible);
@@ -117,7 +117,7 @@ void tst_LostCallProcess::killedInEveryState()
 void tst_LostCallProcess::restartedDuringACallTheCallGoesOn()
 {
     QVERIFY(enter(Connected));
-    m_client.killCallProcess();
+    QVERIFY(m_client.killCallProcess());
     const int registrations = m_client.countOnWire(QStringLiteral("RegeditUser"));
     QVERIFY(m_client.startCallProcess());
     QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("RegeditUser")), registrations + 1, 20000);

@@ -63,7 +63,7 @@ void tst_ModuleCalls::cleanup()
 
 void tst_ModuleCalls::cleanupTestCase()
 {
-    m_client.killCallProcess();
+    QVERIFY(m_client.killCallProcess());
 }
 
 void tst_ModuleCalls::call(const QString &uid, bool video)

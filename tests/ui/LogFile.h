@@ -42,11 +42,13 @@ public:
         const QString strEnd = QStringLiteral("end of part %1").arg(++m_iPart);
         LOG_DEBUG << strEnd << "\n";
         QStringList records;
-        QTest::qWaitFor([&] {
+        const bool bWritten = QTest::qWaitFor([&] {
             CLogManger::instance()->flushLog();
             records = readRecords();
             return !records.isEmpty() && records.last().endsWith(strEnd);
         });
+        if (!bWritten)
+            return {QStringLiteral("the log file was not written")};
         const QStringList fresh = records.mid(m_iRead, records.size() - m_iRead - 1);
         m_iRead = records.size();
         return fresh;

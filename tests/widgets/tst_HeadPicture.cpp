@@ -24,7 +24,9 @@ private slots:
     void unusablePhotoGivesTheDefaultHead();
     void pictureIsRoundAndScaled_data();
     void pictureIsRoundAndScaled();
+    void contentCountsNotTheSuffix();
     void noPictureGivesTheNeutralHead();
+    void hugePictureGivesTheNeutralHead();
     void labelShowsAPictureOfItsWidth();
 };
 
@@ -70,6 +72,26 @@ void tst_HeadPicture::pictureIsRoundAndScaled()
     for (const QPoint &corner :
          {head.rect().topLeft(), head.rect().topRight(), head.rect().bottomLeft(), head.rect().bottomRight()})
         QCOMPARE(head.pixelColor(corner).alpha(), 0);
+}
+
+void tst_HeadPicture::contentCountsNotTheSuffix()
+{
+    QImage photo(8, 8, QImage::Format_RGB32);
+    photo.fill(Qt::blue);
+    QVERIFY(photo.save(QStringLiteral("bitmap.png"), "BMP"));
+    const QImage head = HeadPicture::round(QStringLiteral("bitmap.png"), 22, 1.0).toImage();
+    QCOMPARE(head.pixelColor(head.rect().center()), QColor(Qt::blue));
+}
+
+void tst_HeadPicture::hugePictureGivesTheNeutralHead()
+{
+    // Small as a file, 324 MB once it is read for painting.
+    QImage photo(9000, 9000, QImage::Format_Mono);
+    photo.setColorTable({qRgb(0, 0, 255), qRgb(0, 0, 255)});
+    photo.fill(0);
+    QVERIFY(photo.save(QStringLiteral("huge.png")));
+    QCOMPARE(HeadPicture::round(QStringLiteral("huge.png"), 22, 1.0).toImage(),
+             HeadPicture::round(QString(), 22, 1.0).toImage());
 }
 
 void tst_HeadPicture::noPictureGivesTheNeutralHead()
