@@ -1,0 +1,106 @@
+#include "ContactBook.h"
+
+namespace {
+
+struct Row
+{
+    const char *uid;
+    const char *nick;
+    const char *alternative;
+    bool known;
+    bool online;
+};
+
+// The robots of the stand-in call process go by these ids.
+constexpr Row rows[] = {
+    {"30010001", "李雷", "Answers", true, true},
+    {"30010002", "Maria Silva", "Busy", true, true},
+    {"30010003", "王芳", "Rejects", true, true},
+    {"30010004", "Tom Baker", "Never answers", true, true},
+    {"30010005", "赵强", "Call fails", true, false},
+    {"30010006", "Anna Novak", "Hangs up after ten seconds", true, true},
+    {"30010007", "韩梅梅", "Calls you back", false, true},
+};
+
+constexpr const char *ownId = "30010000";
+constexpr const char *ownName = "小明";
+constexpr const char *ownAlternative = "You";
+
+VcardInfo makeCard(const ContactBook::Entry &entry)
+{
+    VcardInfo card;
+    card.m_strNickName = entry.nick;
+    card.m_strAlternativeName = entry.alternative;
+    card.m_iSmallVersion = 1;
+    card.m_iFullVersion = 1;
+    card.setPhotoName(QString());
+    return card;
+}
+
+} // namespace
+
+ContactBook::ContactBook(const QString &strDomain) : m_strDomain(strDomain)
+{
+    for (const Row &row : rows) {
+        const Entry entry{QString::fromLatin1(row.uid), QString::fromUtf8(row.nick),
+                          QString::fromLatin1(row.alternative), row.known, row.online};
+        m_entries.append(entry);
+        add(entry);
+    }
+    add({ownUid(), QString::fromUtf8(ownName), QString::fromLatin1(ownAlternative), true, true});
+}
+
+void ContactBook::add(const Entry &entry)
+{
+    const VcardInfo card = makeCard(entry);
+    m_cards.emplace(entry.uid, card);
+    if (!entry.known) {
+        return;
+    }
+    FriendData record(jidOf(entry.uid));
+    record.setVcardInfo(card);
+    m_friends.emplace(jidOf(entry.uid), record);
+}
+
+QString ContactBook::ownUid()
+{
+    return QString::fromLatin1(ownId);
+}
+
+QMap<QString, FriendData> ContactBook::friendMap() const
+{
+    return QMap<QString, FriendData>(m_friends);
+}
+
+const FriendData *ContactBook::record(const QString &strJid) const
+{
+    const auto found = m_friends.find(strJid);
+    return found == m_friends.end() ? &m_unknown : &found->second;
+}
+
+bool ContactBook::isFriend(const QString &strJid) const
+{
+    return uidOf(strJid) != ownUid() && m_friends.count(strJid) != 0;
+}
+
+const VcardInfo *ContactBook::card(const QString &strUid) const
+{
+    const auto found = m_cards.find(strUid);
+    return found == m_cards.end() ? &m_unknownCard : &found->second;
+}
+
+QString ContactBook::nameOf(const QString &strUid) const
+{
+    const QString nick = card(strUid)->m_strNickName;
+    return nick.isEmpty() ? strUid : nick;
+}
+
+QString ContactBook::jidOf(const QString &strUid) const
+{
+    return strUid.contains(QLatin1Char('@')) ? strUid : strUid + QLatin1Char('@') + m_strDomain;
+}
+
+QString ContactBook::uidOf(const QString &strJid)
+{
+    return strJid.section(QLatin1Char('@'), 0, 0);
+}

@@ -1,0 +1,108 @@
+#include "EventWords.h"
+
+#include "CallRecord.h"
+
+#include "plugin/EventPayload.h"
+
+#include <QStringList>
+
+namespace {
+
+// Fields are "type:name" in stream order. Types: b bool, i 32-bit number, q 64-bit number, s text, l list of texts,
+// p address, r reason of a call's end.
+struct EventRow
+{
+    EMsgId msgId;
+    const char *words;
+    const char *fields;
+    const char *answer;
+};
+
+constexpr EventRow rows[] = {
+    {MSG_UPDATE_USER_INFO, "a user's card", "s:user p:card", ""},
+    {MSG_CLIENT_CONNECT_STATUS, "login state", "b:connected", ""},
+    {MSG_GET_FRIEND_INFO, "who is", "s:jid", "p:record"},
+    {MSG_GET_STRANGER_SMALL_VCARD, "fetch cards", "l:users l:versions b:flag", ""},
+    {MSG_SHOW_SIGN_LIST, "show signature card", "s:text i:x i:y i:height b:b1 b:b2", ""},
+    {MSG_IS_EXIST_FRIEND, "is a contact", "s:jid", "b:known"},
+    {MSG_CLOSE_AV_MSGBOX, "take the prompt away", "s:jid", ""},
+    {MSG_CALL_SINGLE_USER, "call a user", "b:video s:user", ""},
+    {MSG_CALL_FINISHED, "call finished", "b:video s:user r:result b:caller b:connected q:seconds", ""},
+    {MSG_IS_EXIST_CALL, "is there a call", "", "b:call"},
+    {MSG_IS_VIDEO_CALL, "is it a video call", "", "b:video"},
+    {MSG_CLOSE_SIGN_LIST, "hide signature card", "", ""},
+    {MSG_RECEVIE_VOIP_CALL, "incoming call", "s:user b:conference b:video", ""},
+    {MSG_RESPONSE_VOIP_REQUEST, "answer to the prompt", "b:accept", ""},
+    {MSG_CALL_CONFERENCE, "start a conference", "l:members s:text b:flag", ""},
+    {MSG_CREATE_VOICE_CONFERENCE, "pick members of a conference", "l:users", ""},
+    {MSG_ADD_CONFERENCE_MEMBER, "pick further members", "l:present", "l:users"},
+    {MSG_SHOW_VOICE_CONF, "show the conference centre", "", ""},
+    {MSG_EXIT_VOIP, "quit", "", ""},
+};
+
+QString fieldText(char type, PayloadReader &in)
+{
+    switch (type) {
+    case 'b':
+        return in.take<bool>() ? QStringLiteral("yes") : QStringLiteral("no");
+    case 'i':
+        return QString::number(in.take<qint32>());
+    case 'q':
+        return QString::number(in.take<qint64>());
+    case 'r': {
+        const qint32 result = in.take<qint32>();
+        return QStringLiteral("%1 %2").arg(result).arg(outcomeWord(result));
+    }
+    case 'p':
+        return in.take<qint64>() != 0 ? QStringLiteral("(address)") : QStringLiteral("(none)");
+    case 'l':
+        return QLatin1Char('[') + in.takeTexts().join(QStringLiteral(", ")) + QLatin1Char(']');
+    default:
+        return in.take<QString>();
+    }
+}
+
+QString fieldsText(const char *fields, const QByteArray &payload)
+{
+    PayloadReader in(payload);
+    QStringList parts;
+    const QStringList specs = QString::fromLatin1(fields).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &spec : specs) {
+        parts << spec.mid(2) + QLatin1Char('=') + fieldText(spec.at(0).toLatin1(), in);
+    }
+    return parts.join(QStringLiteral(", "));
+}
+
+const EventRow *rowOf(EMsgId msgId)
+{
+    for (const EventRow &row : rows) {
+        if (row.msgId == msgId) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+QString EventWords::describe(EMsgId msgId, const QByteArray &payload)
+{
+    const EventRow *row = rowOf(msgId);
+    if (row == nullptr) {
+        return QString::number(msgId);
+    }
+    const QString head = QStringLiteral("%1 %2").arg(int(msgId)).arg(QString::fromLatin1(row->words));
+    const QString fields = fieldsText(row->fields, payload);
+    return fields.isEmpty() ? head : head + QStringLiteral(": ") + fields;
+}
+
+QString EventWords::answer(EMsgId msgId, const QByteArray &payload)
+{
+    const EventRow *row = rowOf(msgId);
+    return row == nullptr ? QString() : fieldsText(row->answer, payload);
+}
+
+int EventWords::count()
+{
+    return int(std::size(rows));
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "plugin/EMsgId.h"
+
+#include <QByteArray>
+#include <QString>
+
+/// Says in words what an event between host and plug-in carries: for the status line, the log and the guided tour.
+///
+/// It knows each command's name and the fields of its payload and of its answer, as one table. No state.
+class EventWords
+{
+public:
+    /// "4470 call a user: video=no, user=30010001". An unknown command is its number alone; fields that the payload is
+    /// too short for read as empty, 0 or "no".
+    static QString describe(EMsgId msgId, const QByteArray &payload);
+
+    /// The answer of a synchronous command, "known=yes"; empty for a command that is not answered.
+    static QString answer(EMsgId msgId, const QByteArray &payload);
+
+    /// Number of commands in the table.
+    static int count();
+};

@@ -1,0 +1,130 @@
+#include "HostMailbox.h"
+
+#include "ContactBook.h"
+#include "EventWords.h"
+
+#include "plugin/BaseEvent.h"
+#include "plugin/EventPayload.h"
+#include "plugin/PluginIds.h"
+
+namespace {
+
+/// Rewrites the payload: that is how a question is answered.
+template <typename Value>
+void reply(BaseEvent &event, const Value &value)
+{
+    event.data = packPayload(value);
+}
+
+} // namespace
+
+HostMailbox::HostMailbox(const ContactBook &book, QObject *parent) : QObject(parent), m_book(book) {}
+
+void HostMailbox::customEvent(QEvent *event)
+{
+    struct Row
+    {
+        const QString &receiver;
+        EMsgId msgId;
+        void (HostMailbox::*handle)(BaseEvent &);
+    };
+    static const Row rows[] = {
+        {sessionPluginId(), MSG_RECEVIE_VOIP_CALL, &HostMailbox::promptCall},
+        {sessionPluginId(), MSG_CALL_FINISHED, &HostMailbox::writeRecord},
+        {sessionPluginId(), MSG_CREATE_VOICE_CONFERENCE, &HostMailbox::createConference},
+        {sessionPluginId(), MSG_ADD_CONFERENCE_MEMBER, &HostMailbox::pickMembers},
+        {contactPluginId(), MSG_GET_FRIEND_INFO, &HostMailbox::findRecord},
+        {contactPluginId(), MSG_IS_EXIST_FRIEND, &HostMailbox::testFriend},
+        {vcardPluginId(), MSG_GET_STRANGER_SMALL_VCARD, &HostMailbox::fetchCards},
+        {msgBoxPluginId(), MSG_CLOSE_AV_MSGBOX, &HostMailbox::closePrompt},
+        {signListPluginId(), MSG_SHOW_SIGN_LIST, &HostMailbox::showSignature},
+        {signListPluginId(), MSG_CLOSE_SIGN_LIST, &HostMailbox::hideSignature},
+    };
+    if (event->type() != QEvent::User) {
+        return;
+    }
+    auto &message = static_cast<BaseEvent &>(*event);
+    const QString words = EventWords::describe(message.msgId, message.data);
+    const QByteArray question = message.data;
+    for (const Row &row : rows) {
+        if (row.msgId == message.msgId && row.receiver == message.receiverId) {
+            (this->*row.handle)(message);
+        }
+    }
+    const bool answered = message.data != question;
+    emit eventReceived(message.msgId, words, answered ? EventWords::answer(message.msgId, message.data) : QString());
+}
+
+void HostMailbox::promptCall(BaseEvent &event)
+{
+    PayloadReader in(event.data);
+    const auto uid = in.take<QString>();
+    const auto conference = in.take<bool>();
+    const auto video = in.take<bool>();
+    emit callIncoming(uid, conference, video);
+}
+
+void HostMailbox::writeRecord(BaseEvent &event)
+{
+    PayloadReader in(event.data);
+    CallRecord record;
+    record.video = in.take<bool>();
+    record.uid = in.take<QString>();
+    record.result = in.take<qint32>();
+    record.caller = in.take<bool>();
+    record.connected = in.take<bool>();
+    record.seconds = in.take<qint64>();
+    record.endedAt = QDateTime::currentDateTime();
+    emit callFinished(record);
+}
+
+void HostMailbox::createConference(BaseEvent &event)
+{
+    emit conferenceWanted(PayloadReader(event.data).takeTexts());
+}
+
+void HostMailbox::pickMembers(BaseEvent &event)
+{
+    const QStringList present = PayloadReader(event.data).takeTexts();
+    reply(event, m_picker ? m_picker(present) : QStringList());
+}
+
+void HostMailbox::findRecord(BaseEvent &event)
+{
+    const auto jid = PayloadReader(event.data).take<QString>();
+    // The sender copies the record through this address before the delivery returns.
+    reply(event, qint64(reinterpret_cast<quintptr>(m_book.record(jid))));
+}
+
+void HostMailbox::testFriend(BaseEvent &event)
+{
+    reply(event, m_book.isFriend(PayloadReader(event.data).take<QString>()));
+}
+
+void HostMailbox::fetchCards(BaseEvent &event)
+{
+    const QStringList uids = PayloadReader(event.data).takeTexts();
+    if (!uids.isEmpty()) {
+        emit cardsWanted(uids);
+    }
+}
+
+void HostMailbox::closePrompt(BaseEvent &event)
+{
+    emit promptWithdrawn(ContactBook::uidOf(PayloadReader(event.data).take<QString>()));
+}
+
+void HostMailbox::showSignature(BaseEvent &event)
+{
+    PayloadReader in(event.data);
+    const auto text = in.take<QString>();
+    const auto x = in.take<qint32>();
+    const auto y = in.take<qint32>();
+    const auto height = in.take<qint32>();
+    emit signatureShown(text, x, y, height);
+}
+
+void HostMailbox::hideSignature(BaseEvent &)
+{
+    emit signatureHidden();
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "HostContext.h"
+#include "HostMailbox.h"
+
+#include "plugin/EMsgId.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+
+class ContactBook;
+
+/// The client's side of the call plug-in: signs the user in, loads the module and speaks to it by the public contract
+/// alone, that is by events. GUI thread. The contact book must outlive it. The module stays loaded to the process's
+/// end, as its singletons do.
+class HostSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit HostSession(const ContactBook &book, QObject *parent = nullptr);
+
+    /// The domain that this client's users belong to.
+    static QString loginDomain();
+
+    /// Signs the user in and loads the module at `strModule`. Returns false, with the reason in `strError`, when the
+    /// file is not a plug-in of this client.
+    bool start(const QString &strModule, QString *strError);
+
+    /// Tells the plug-in that the login came up or went down. The first command makes the plug-in start its call
+    /// process, which may take up to a second.
+    void setOnline(bool bOnline);
+    bool isOnline() const { return m_bOnline; }
+
+    /// Calls the user.
+    void callUser(const QString &strUid, bool bVideo);
+    /// Answers the prompt of an incoming call.
+    void answerCall(bool bAccept);
+    /// Starts a conference with these users.
+    void callConference(const QStringList &uids);
+
+    /// Whether the plug-in has a call, in any state.
+    bool isExistCall();
+    /// What the plug-in answers to the question for a video call.
+    bool isVideoCall();
+
+    /// Tells the plug-in that the client quits. A second call does nothing.
+    void quit();
+
+    /// Where the plug-in's events arrive.
+    HostMailbox &mailbox() { return m_mailbox; }
+    /// The plug-in's own words about itself, "FileManagePlugin {2EFF...}"; empty before start.
+    QString pluginWords() const { return m_strPlugin; }
+    /// Path of the client's log file.
+    QString logFile() const { return m_context.logFile(); }
+
+signals:
+    /// An event has passed: from the plug-in or to it, in words, with the answer where it was a question.
+    void eventPassed(bool bFromPlugin, int iMsgId, const QString &strWords, const QString &strAnswer);
+    void onlineChanged(bool bOnline);
+
+private:
+    void post(EMsgId msgId, const QByteArray &payload);
+    bool ask(EMsgId msgId);
+    void sendCards(const QStringList &uids);
+
+    const ContactBook &m_book;
+    HostContext m_context;
+    HostMailbox m_mailbox;
+    QPointer<QObject> m_pPlugin;
+    QString m_strPlugin;
+    bool m_bOnline = false;
+    bool m_bQuit = false;
+};

@@ -1,0 +1,74 @@
+// usage: bench_module_child none|load|command|call MODULE
+// Does as much as the word says and prints the microseconds that it took and the kilobytes of memory that are resident
+// then: nothing but a bare application; the module loaded; the first command answered; an outgoing call on the screen.
+
+#include "model/CommonData.h"
+#include "plugin/BaseEvent.h"
+#include "plugin/PluginIds.h"
+#include "plugin/PluginInterface.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLocalServer>
+#include <QPluginLoader>
+
+#include <cstdio>
+
+namespace {
+
+qint64 residentKilobytes()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    const QByteArray text = status.readAll();
+    const int start = text.indexOf("VmRSS:") + 6;
+    return text.mid(start, text.indexOf("kB", start) - start).trimmed().toLongLong();
+}
+
+void command(QObject *mailbox, EMsgId id, const QByteArray &data)
+{
+    BaseEvent event(id, QString(), voipPluginId(), false, data);
+    QCoreApplication::sendEvent(mailbox, &event);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc < 3)
+        return 2;
+    QApplication application(argc, argv);
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    const QByteArray word = argv[1];
+    QLocalServer server;
+    server.listen(QStringLiteral("VoipSDK"));
+    CommonData data;
+    QObject host;
+
+    QElapsedTimer clock;
+    clock.start();
+    QPluginLoader loader(QString::fromLocal8Bit(argv[2]));
+    if (word != "none") {
+        QObject *root = loader.instance();
+        if (!root)
+            return 1;
+        auto *plugin = qobject_cast<PluginInterface *>(root);
+        if (word == "command" || word == "call") {
+            plugin->setCommonData(&data);
+            plugin->setSendEventHandle(&host);
+            command(plugin->getReceiveEventHandle(), MSG_IS_EXIST_CALL, {});
+        }
+        if (word == "call") {
+            QByteArray payload;
+            QDataStream(&payload, QIODevice::WriteOnly) << false << QStringLiteral("30010001");
+            command(plugin->getReceiveEventHandle(), MSG_CALL_SINGLE_USER, payload);
+        }
+    }
+    const qint64 microseconds = clock.nsecsElapsed() / 1000;
+    QCoreApplication::processEvents();
+    std::printf("%lld %lld\n", static_cast<long long>(microseconds), static_cast<long long>(residentKilobytes()));
+    std::fflush(stdout);
+    std::_Exit(0);
+}

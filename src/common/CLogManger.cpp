@@ -1,0 +1,74 @@
+#include "common/CLogManger.h"
+
+#include "common/CLogThread.h"
+#include "common/CommonFun.h"
+#include "common/CustomLogger.h"
+
+#include <cstring>
+#include <utility>
+
+CLogManger *CLogManger::m_pInstance = nullptr;
+
+CLogManger *CLogManger::instance()
+{
+    if (!m_pInstance) {
+        m_pInstance = new CLogManger;
+    }
+    return m_pInstance;
+}
+
+CLogManger::CLogManger()
+    : m_pTextStream(std::make_unique<QTextStream>(&m_strMessage, QIODevice::ReadWrite)),
+      m_pLogger(CommonFun::getCustomLogger()), m_pLogThread(CommonFun::getLogThread())
+{
+    if (m_pLogThread) {
+        m_pLogThread->setCustomLogger(m_pLogger);
+    }
+}
+
+CustomLogger *CLogManger::getLogger() const
+{
+    return m_pLogger;
+}
+
+void CLogManger::printLog(CustomLog::LogLevel level, const QString &strLocation, const QString &strMessage)
+{
+    if (m_pLogThread) {
+        m_pLogThread->printLog(level, strLocation, strMessage);
+    }
+}
+
+void CLogManger::flushLog()
+{
+    if (m_pLogger) {
+        m_pLogger->flush();
+    }
+}
+
+void CLogManger::clearLog()
+{
+    if (m_pLogger) {
+        m_pLogger->clear();
+    }
+}
+
+CLogManger &CLogManger::startRecord(CustomLog::LogLevel level, QString strLocation)
+{
+    m_level = level;
+    m_strLocation = std::move(strLocation);
+    return *this;
+}
+
+CLogManger &CLogManger::operator<<(const char *szText)
+{
+    if (!szText) {
+        return *this;
+    }
+    if (std::strcmp(szText, "\n") != 0) {
+        *m_pTextStream << QString::fromUtf8(szText);
+        return *this;
+    }
+    printLog(m_level, m_strLocation, m_strMessage);
+    m_strMessage.clear();
+    return *this;
+}

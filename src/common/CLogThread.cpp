@@ -1,0 +1,67 @@
+#include "common/CLogThread.h"
+
+#include "common/CustomLogger.h"
+
+#include <QMutexLocker>
+
+namespace {
+
+const int RECORDS_BETWEEN_RESTS = 100;
+const unsigned long REST_MS = 10;
+
+} // namespace
+
+void CLogThread::run()
+{
+    static std::atomic<int> iWritten{0};
+    while (!m_bStop) {
+        const CustomLogData data = takeRecord();
+        if (CustomLogger *pLogger = getCustomLogger()) {
+            pLogger->printLog(data.level, data.location, data.message);
+        }
+        if (iWritten++ >= RECORDS_BETWEEN_RESTS - 1) {
+            iWritten = 0;
+            msleep(REST_MS);
+        }
+    }
+}
+
+CustomLogData CLogThread::takeRecord()
+{
+    const QMutexLocker lock(&m_mutex);
+    while (m_queue.isEmpty()) {
+        m_condition.wait(&m_mutex);
+    }
+    return m_queue.takeFirst();
+}
+
+void CLogThread::stop()
+{
+    // Deliberately wakes nobody: the host ends a waiting writer with one more record.
+    const QMutexLocker lock(&m_mutex);
+    m_bStop = true;
+}
+
+void CLogThread::printLog(const CustomLogData &data)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_queue.append(data);
+    m_condition.wakeAll();
+}
+
+void CLogThread::printLog(CustomLog::LogLevel level, const QString &strLocation, const QString &strMessage)
+{
+    printLog(CustomLogData{level, strLocation, strMessage});
+}
+
+void CLogThread::setCustomLogger(CustomLogger *pLogger)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_pLogger = pLogger;
+}
+
+CustomLogger *CLogThread::getCustomLogger()
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_pLogger;
+}

@@ -1,0 +1,56 @@
+#include "common/LogUtils.h"
+
+#include <QFile>
+
+namespace {
+
+QString fileText(const QString &strPath)
+{
+    QFile file(strPath);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+} // namespace
+
+QString LogUtils::getFormattedLog(const QString &strTime, const QString &strLevel, const QString &strLocation,
+                                  const QString &strMessage)
+{
+    static const QString strFormat = QStringLiteral("[%1][%2][%3]: %4\n");
+    return strFormat.arg(strTime, strLevel, strLocation, strMessage);
+}
+
+quint64 LogUtils::getEventSequenceByLog(const QString &strLog)
+{
+    const QString strHead = strLog.left(strLog.indexOf(QLatin1Char('"'), 1));
+    bool bNumber = false;
+    const quint64 iSequence = strHead.midRef(strHead.indexOf(QLatin1Char('-')) + 1).toULongLong(&bNumber);
+    return bNumber ? iSequence : 1;
+}
+
+QString LogUtils::getLogTemplate()
+{
+    return fileText(QStringLiteral("Resources/CustomLog/LogTemplate.txt"));
+}
+
+QString LogUtils::getLogHeader()
+{
+    return fileText(QStringLiteral("Resources/CustomLog/LogHeader.txt"));
+}
+
+QString LogUtils::getLogByTemplate(const QString &str1, const QString &str2, const QString &str3, const QString &str4,
+                                   const QString &str5, const QString &str6, const QString &str7,
+                                   const QString &strException, const QString &str9)
+{
+    static const QString strTemplate = getLogTemplate();
+    // Deliberately kept from call to call, for the client's one event logger: hence one thread at a time.
+    static QString strLog;
+    static QString strEscaped;
+    strLog = strTemplate;
+    strEscaped = strException;
+    strEscaped.replace(QLatin1String("\""), QLatin1String("\"\""));
+    strEscaped.replace(QLatin1String("\n"), QLatin1String("\\n"));
+    if (!strLog.isEmpty()) {
+        strLog = strLog.arg(str1, str2, str3, str4, str5, str6, str7, strEscaped, str9);
+    }
+    return strLog;
+}

@@ -1,0 +1,188 @@
+// A voice call among several: starting it, joining it, its members and their control.
+
+#include "common/CLogManger.h"
+#include "engine/JsonText.h"
+#include "engine/SdkCommand.h"
+#include "engine/VoipManage.h"
+#include "plugin/StrangerTest.h"
+#include "plugin/VoipManageEventProcess.h"
+#include "ui/VoipWidget.h"
+
+#include <QSet>
+
+namespace {
+
+const char *operationText(CVoipManage::ConfControlSignal operation)
+{
+    switch (operation) {
+    case CVoipManage::Kick:
+        return "kick";
+    case CVoipManage::Mute:
+        return "mute";
+    case CVoipManage::UnMute:
+        return "unmute";
+    }
+    return "";
+}
+
+QString joined(const QStringList &list)
+{
+    return list.join(QLatin1Char(','));
+}
+
+} // namespace
+
+void CVoipManage::callConference(QList<QString> userList, bool bFlag, QString strText)
+{
+    LOG_DEBUG << "call conf uselist = " << joined(userList) << "\n";
+    if (!canPlaceCall())
+        return;
+    m_callData.bIsCaller = true;
+    m_callData.bIsConf = true;
+    m_callData.memberList = userList;
+
+    StrangerCards strangers;
+    for (const QString &id : qAsConst(userList))
+        strangers.test(id);
+    strangers.request();
+
+    if (!m_callData.memberList.contains(m_strUserId))
+        m_callData.memberList.append(m_strUserId);
+    QStringList called = m_callData.memberList;
+    called.removeAll(m_strUserId);
+    sendIfConnected(SdkCommand::line(SdkCommand::RequestConference, SdkCommand::json(m_strUserId),
+                                     JsonText::arrayOrNull(called), bFlag, SdkCommand::json(strText)));
+    if (m_pVoipWidget) {
+        m_pVoipWidget->setVoipCallInfo(called, CVoipWidget::Conference, m_callData.bIsCaller, false);
+        m_pVoipWidget->setConferenceCreator(m_strUserId);
+        m_pVoipWidget->show();
+    }
+    m_inviteTimer.start(kInviteLimitMs);
+}
+
+void CVoipManage::acceptConference()
+{
+    LOG_DEBUG << "conf accepted!"
+              << "\n";
+    QStringList others = m_callData.memberList;
+    others.removeOne(m_strUserId);
+    if (m_pVoipWidget)
+        m_pVoipWidget->setVoipCallInfo(others, CVoipWidget::Conference, m_callData.bIsCaller, false);
+    sendVoipMessage(SdkCommand::line(SdkCommand::AcceptConf));
+}
+
+void CVoipManage::slot_AddConfMember()
+{
+    QStringList others = m_callData.memberList;
+    others.removeOne(m_strUserId);
+    QStringList answer = VoipManageEventProcess::addMemberToConference(others);
+    if (answer.isEmpty())
+        return;
+    // The host's picker may have run an event loop: what counts is the list as it is now.
+    const QSet<QString> members(m_callData.memberList.cbegin(), m_callData.memberList.cend());
+    QStringList rest;
+    for (const QString &id : qAsConst(answer)) {
+        if (!members.contains(id))
+            rest.append(id);
+    }
+    addConferenceMember(rest);
+}
+
+void CVoipManage::addConferenceMember(QList<QString> userList)
+{
+    LOG_DEBUG << "add conf member = " << joined(userList) << "\n";
+    QSet<QString> members(m_callData.memberList.cbegin(), m_callData.memberList.cend());
+    for (const QString &id : qAsConst(userList)) {
+        if (!members.contains(id)) {
+            members.insert(id);
+            m_callData.memberList.append(id);
+        }
+    }
+    StrangerCards strangers;
+    for (const QString &id : qAsConst(userList))
+        strangers.test(id);
+    strangers.request();
+    if (m_pVoipWidget) {
+        for (const QString &id : qAsConst(userList))
+            m_pVoipWidget->addConferenceMember(id);
+    }
+    if (m_callData.bIsConf) {
+        // The own id stands twice, deliberately: the call process reads both.
+        sendIfConnected(SdkCommand::line(SdkCommand::Add2Conference, JsonText::arrayOrNull(userList),
+                                         SdkCommand::json(m_strUserId), SdkCommand::json(m_strUserId),
+                                         m_callData.bIsVideo, "", JsonText::arrayOrNull(m_callData.connectedList)));
+    }
+}
+
+void CVoipManage::slot_ReInviteConfUser(QString strUserID)
+{
+    if (!m_callData.bIsConf || !m_callData.bIsCaller)
+        return;
+    LOG_DEBUG << "reInvite conf user = " << strUserID << "\n";
+    addConferenceMember({strUserID});
+    if (m_pVoipWidget)
+        m_pVoipWidget->updateConferenceUserStatus(strUserID, 0);
+}
+
+void CVoipManage::slot_RemoveConferenceMember(QString strUserID)
+{
+    LOG_DEBUG << "remove conf member = " << strUserID << "\n";
+    if (m_callData.memberList.removeOne(strUserID) && m_callData.connectedList.contains(strUserID))
+        controlConference(Kick, false, strUserID);
+    if (m_pVoipWidget)
+        m_pVoipWidget->removeConferenceMember(strUserID);
+}
+
+void CVoipManage::slot_MuteConferenceMember(QString strUserID, bool bMute)
+{
+    LOG_DEBUG << "mute conf user id = " << strUserID << ", bMute = " << bMute << "\n";
+    controlConference(bMute ? Mute : UnMute, false, strUserID);
+}
+
+void CVoipManage::slot_MuteAll(bool bMute)
+{
+    LOG_DEBUG << "bMuteAll = " << bMute << "\n";
+    controlConference(bMute ? Mute : UnMute, true, QString());
+}
+
+void CVoipManage::controlConference(ConfControlSignal iOperation, bool bIsAllMember, QString strUserId)
+{
+    LOG_DEBUG << "control conf operation = " << static_cast<int>(iOperation) << ", isAllMember = " << bIsAllMember
+              << ", userid = " << strUserId << "\n";
+    if (!m_bSocketConnected || !m_callData.bIsConf)
+        return;
+    const QString operation = QLatin1String(operationText(iOperation));
+    const QString target = bIsAllMember ? QStringLiteral("non_moderator") : strUserId;
+    if (operation.isEmpty() || target.isEmpty())
+        return;
+    sendVoipMessage(SdkCommand::line(SdkCommand::ControlConf, SdkCommand::json(operation), SdkCommand::json(target)));
+}
+
+void CVoipManage::updateConferenceListStatus()
+{
+    LOG_DEBUG << "update conf connected users = " << joined(m_callData.connectedList) << "\n";
+    if (m_pVoipWidget)
+        m_pVoipWidget->updateConferenceListStatus(m_callData.connectedList);
+}
+
+void CVoipManage::updateUserInfo(QString strUserId, VcardInfo vcard)
+{
+    LOG_DEBUG << "updateUserInfo userID = " << strUserId << "\n";
+    if (m_pVoipWidget)
+        m_pVoipWidget->updateUserInfo(strUserId, vcard);
+}
+
+void CVoipManage::showVoiceConf()
+{
+    LOG_DEBUG << "show voice conf detaileInfo!"
+              << "\n";
+}
+
+void CVoipManage::slot_VoiceConfWidgetClose()
+{
+    if (m_pVoiceConfWidget)
+        m_pVoiceConfWidget->deleteLater();
+    m_pVoiceConfWidget = nullptr;
+}
+
+void CVoipManage::slot_DeleteConfInfoData(QString) {}

@@ -1,0 +1,80 @@
+#include "engine/JsonText.h"
+
+#include <QStringList>
+
+#include <json/reader.h>
+#include <json/writer.h>
+
+#include <exception>
+#include <limits>
+
+// The wire is defined by the output and the leniency of these two classes, so their deprecation does not matter here.
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+
+namespace JsonText {
+
+bool parse(const QString &text, Json::Value &root)
+{
+    try {
+        Json::Reader reader;
+        if (reader.parse(text.toStdString(), root, true))
+            return true;
+    } catch (const std::exception &) {
+        // Nesting beyond the library's limit ends here and reads as text that does not parse.
+    }
+    root = Json::Value();
+    return false;
+}
+
+QString write(const Json::Value &root)
+{
+    return QString::fromStdString(Json::FastWriter().write(root));
+}
+
+const Json::Value &member(const Json::Value &object, const char *key)
+{
+    static const Json::Value s_absent;
+    return object.isObject() ? object[key] : s_absent;
+}
+
+QString text(const Json::Value &value)
+{
+    return value.isString() ? QString::fromStdString(value.asString()) : QString();
+}
+
+QStringList texts(const Json::Value &value)
+{
+    QStringList list;
+    if (!value.isArray())
+        return list;
+    list.reserve(static_cast<int>(value.size()));
+    for (const Json::Value &item : value) {
+        if (item.isString())
+            list.append(QString::fromStdString(item.asString()));
+    }
+    return list;
+}
+
+qint64 integer(const Json::Value &value)
+{
+    if (!value.isNumeric())
+        return 0;
+    // 2^63 is the first double above the range; its negative is the lowest value in it.
+    constexpr double limit = 9223372036854775808.0;
+    const double number = value.asDouble();
+    if (number >= limit)
+        return std::numeric_limits<qint64>::max();
+    if (number < -limit)
+        return std::numeric_limits<qint64>::min();
+    return static_cast<qint64>(number);
+}
+
+Json::Value arrayOrNull(const QStringList &list)
+{
+    Json::Value array;
+    for (const QString &item : list)
+        array.append(item.toStdString());
+    return array;
+}
+
+} // namespace JsonText

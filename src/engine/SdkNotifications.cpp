@@ -1,0 +1,238 @@
+// What the call process reports, one handler for each notification, named by the table.
+
+#include "common/CLogManger.h"
+#include "engine/ConferenceDocument.h"
+#include "engine/SdkNotification.h"
+#include "engine/VoipManage.h"
+#include "plugin/StrangerTest.h"
+#include "ui/VoipWidget.h"
+
+#include <QDebug>
+#include <QSet>
+
+#include <algorithm>
+#include <iterator>
+
+/// A code and what is done about it. Codes that stand in no row have no action.
+struct CVoipManage::NotificationRow
+{
+    int code;
+    void (CVoipManage::*act)(const QString &content);
+};
+
+const CVoipManage::NotificationRow CVoipManage::kNotifications[] = {
+    {SdkNotification::IncomingCall, &CVoipManage::onIncomingCall},
+    {SdkNotification::IncomingCallAlt, &CVoipManage::onIncomingCall},
+    {SdkNotification::IncomingConf, &CVoipManage::onIncomingConf},
+    {SdkNotification::RejectRequest, &CVoipManage::onRejectRequest},
+    {SdkNotification::PeerCanceled, &CVoipManage::onPeerCanceled},
+    {SdkNotification::UserRejected, &CVoipManage::onUserRejected},
+    {SdkNotification::CallEnded, &CVoipManage::onCallEnded},
+    {SdkNotification::PeerHangup, &CVoipManage::onPeerHangup},
+    {SdkNotification::PeerHangupAlt, &CVoipManage::onPeerHangup},
+    {SdkNotification::PeerRejected, &CVoipManage::onPeerRejected},
+    {SdkNotification::ConfUpdate, &CVoipManage::onConfUpdate},
+    {SdkNotification::ConfMemberLeft, &CVoipManage::onConfMemberLeft},
+    {SdkNotification::SdkFlag, &CVoipManage::onSdkFlag},
+    {SdkNotification::CallConnected, &CVoipManage::onCallConnected},
+    {SdkNotification::CallFailed, &CVoipManage::onCallFailed},
+    {SdkNotification::ConfCreated, &CVoipManage::onConfCreated},
+    {SdkNotification::ConfAddResult, &CVoipManage::onConfAddResult},
+    {SdkNotification::PeerBusy, &CVoipManage::onPeerBusy},
+    {SdkNotification::CallFailedAlt, &CVoipManage::onCallFailed},
+    {SdkNotification::CallFailedAlt2, &CVoipManage::onCallFailed},
+    {SdkNotification::ConfMemberRejected, &CVoipManage::onConfMemberRejected},
+    {SdkNotification::SdkLog, &CVoipManage::onSdkLog},
+};
+
+void CVoipManage::callbackMessage(int iCode, QString content)
+{
+    LOG_DEBUG << "Voip Sdk call back msg iCode=" << iCode << ", string=" << content << "\n";
+    const auto row = std::find_if(std::begin(kNotifications), std::end(kNotifications),
+                                  [iCode](const NotificationRow &candidate) { return candidate.code == iCode; });
+    if (row != std::end(kNotifications))
+        (this->*row->act)(content);
+}
+
+void CVoipManage::voipLogPrint(QString, QString) {}
+
+void CVoipManage::onIncomingCall(const QString &content)
+{
+    // Deliberate: no test for an existing call, and bIsConnected keeps its value. A second call must be refused by the
+    // call process.
+    m_callData.bIsConf = false;
+    m_callData.bIsVideo = false;
+    m_callData.bIsCaller = false;
+    m_callData.peerId = content;
+    playReceviceCall();
+    notifyRecevieVoipCall(content, false, false);
+}
+
+void CVoipManage::onIncomingConf(const QString &content)
+{
+    // Deliberate: the flags are set before anything is parsed and stay when the invitation is refused.
+    m_callData.bIsConf = true;
+    m_callData.bIsVideo = false;
+    m_callData.bIsCaller = false;
+    const ConferenceDocument document = ConferenceDocument::read(content);
+    if (!isOurConference(document))
+        return;
+    m_callData.confId = document.confId;
+    takeCreateTime(document.createTime);
+    if (!document.from.isEmpty())
+        m_callData.peerId = document.from;
+    playReceviceCall();
+    if (m_pVoipWidget)
+        m_pVoipWidget->setConferenceCreator(document.from);
+    notifyRecevieVoipCall(document.from, true, false);
+}
+
+void CVoipManage::onRejectRequest(const QString &)
+{
+    rejectVoipCall();
+}
+
+void CVoipManage::onPeerCanceled(const QString &)
+{
+    callFinished(CallData::FinishCanceled);
+}
+
+void CVoipManage::onUserRejected(const QString &content)
+{
+    if (content == m_strUserId)
+        callFinished(CallData::FinishCanceled);
+    else if (!m_callData.bIsConf)
+        callFinished(CallData::FinishRejected);
+    else if (m_pVoipWidget)
+        m_pVoipWidget->updateConferenceUserStatus(content, 5);
+}
+
+void CVoipManage::onCallEnded(const QString &)
+{
+    callFinished(m_callData.bIsConnected ? CallData::FinishHangup : CallData::FinishCanceled);
+}
+
+void CVoipManage::onPeerHangup(const QString &)
+{
+    callFinished(CallData::FinishHangup);
+}
+
+void CVoipManage::onPeerRejected(const QString &)
+{
+    callFinished(CallData::FinishRejected);
+}
+
+void CVoipManage::onConfUpdate(const QString &content)
+{
+    const ConferenceDocument document = ConferenceDocument::read(content);
+    if (!isOurConference(document))
+        return;
+    m_callData.confId = document.confId;
+    takeCreateTime(document.createTime);
+
+    QSet<QString> known(m_callData.memberList.cbegin(), m_callData.memberList.cend());
+    int listed = m_callData.memberList.size();
+    StrangerCards strangers;
+    for (const QString &id : document.conventioneer) {
+        // The host's answers may run an event loop, in which the list can change under this walk.
+        if (listed != m_callData.memberList.size())
+            known = QSet<QString>(m_callData.memberList.cbegin(), m_callData.memberList.cend());
+        if (!known.contains(id)) {
+            known.insert(id);
+            m_callData.memberList.append(id);
+            listed = m_callData.memberList.size();
+            if (m_pVoipWidget && id != m_strUserId)
+                m_pVoipWidget->addConferenceMember(id);
+            strangers.test(id);
+        }
+    }
+    m_callData.connectedList = document.conventioneer;
+    strangers.request();
+    updateConferenceListStatus();
+}
+
+void CVoipManage::onConfMemberLeft(const QString &content)
+{
+    const ConferenceDocument document = ConferenceDocument::read(content);
+    if (!isOurConference(document))
+        return;
+    m_callData.confId = document.confId;
+    if (!document.from.isEmpty() && m_callData.bIsConf && m_pVoipWidget)
+        m_pVoipWidget->updateConferenceUserStatus(document.from, 4);
+    m_callData.connectedList = document.conventioneer;
+    updateConferenceListStatus();
+}
+
+void CVoipManage::onSdkFlag(const QString &content)
+{
+    m_bSdkFlag = content == QLatin1String("true");
+}
+
+void CVoipManage::onCallConnected(const QString &)
+{
+    m_callData.bIsConnected = true;
+    if (m_pVoipWidget)
+        m_pVoipWidget->setVoipCallStatus(true);
+    m_callData.connectTime = QDateTime::currentDateTimeUtc();
+    if (m_inviteTimer.isActive())
+        m_inviteTimer.stop();
+    if (m_recevieTimer.isActive())
+        m_recevieTimer.stop();
+}
+
+void CVoipManage::onCallFailed(const QString &)
+{
+    callFinished(CallData::FinishFailed);
+}
+
+void CVoipManage::onConfCreated(const QString &content)
+{
+    if (content.isEmpty()) {
+        callFinished(CallData::FinishFailed);
+        return;
+    }
+    // Deliberate: an answer that does not parse clears the id.
+    m_callData.confId = createdConferenceId(content);
+}
+
+void CVoipManage::onConfAddResult(const QString &content)
+{
+    if (content.isEmpty())
+        return;
+    qDebug().noquote().nospace() << content;
+    LOG_DEBUG << "add conf member result=" << content << "\n";
+    const QStringList failed = failedNumbers(content);
+    if (!failed.isEmpty() && m_pVoipWidget)
+        m_pVoipWidget->setaddConfFailedList(failed);
+}
+
+void CVoipManage::onPeerBusy(const QString &)
+{
+    callFinished(CallData::FinishBusy);
+}
+
+void CVoipManage::onConfMemberRejected(const QString &content)
+{
+    if (m_callData.bIsConf && m_pVoipWidget)
+        m_pVoipWidget->updateConferenceUserStatus(content, 5);
+    onSdkLog(content);
+}
+
+void CVoipManage::onSdkLog(const QString &content)
+{
+    qDebug().noquote().nospace() << "voipsdk:" << content;
+    LOG_DEBUG << "voipsdk:" << content << "\n";
+}
+
+/// A document counts when it names a conference and this side is in none or in that one; anything else is silently
+/// ignored.
+bool CVoipManage::isOurConference(const ConferenceDocument &document) const
+{
+    return !document.confId.isEmpty() && (m_callData.confId.isEmpty() || m_callData.confId == document.confId);
+}
+
+void CVoipManage::takeCreateTime(qint64 msecs)
+{
+    if (msecs > 0)
+        m_callData.createTime = QDateTime::fromMSecsSinceEpoch(msecs);
+}

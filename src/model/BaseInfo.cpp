@@ -1,0 +1,21 @@
+#include "model/BaseInfo.h"
+
+QString BaseInfo::displayName() const
+{
+    for (const QString &strName : {m_strMySetFriendName, m_vcardInfo.m_strNickName, m_vcardInfo.m_strAlternativeName}) {
+        if (!strName.isEmpty()) {
+            return strName;
+        }
+    }
+    return m_strJid.left(m_strJid.indexOf(QLatin1Char('@')));
+}
+
+void BaseInfo::setMySetFriendName(const QString &strName)
+{
+    m_strMySetFriendName = strName;
+}
+
+void BaseInfo::setVcardInfo(const VcardInfo &vcardInfo)
+{
+    m_vcardInfo = vcardInfo;
+}

@@ -1,0 +1,303 @@
+#include "model/SystemSetData.h"
+
+#include "common/AppPaths.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QVariant>
+
+#include <iterator>
+
+namespace {
+
+using Data = SystemSetData;
+
+const QString ON_TEXT = QStringLiteral("1");
+const QString OFF_TEXT = QStringLiteral("0");
+const QString FALSE_TEXT = QStringLiteral("false");
+const QString DEFAULT_SEND_KEY = QStringLiteral("Ctrl+Enter");
+
+constexpr double OLD_DEFAULT_FONT_SIZE = 12.0;
+constexpr int DEFAULT_FONT_SIZE = 14;
+const QString CHAT_FONT_REWRITTEN = QStringLiteral("/chatFontSetting/fontSizeRewrited");
+const QString AGENT_FONT_REWRITTEN = QStringLiteral("/agentChatFontSetting/fontSizeRewrited");
+
+// One key of an INI file and the rule by which its value becomes a field.
+struct SettingRow
+{
+    const char *m_pKey;
+    void (*m_pRead)(Data &data, QSettings &settings, const QString &strKey);
+};
+
+void assign(QString &strField, const QVariant &value)
+{
+    strField = value.toString();
+}
+
+void assign(bool &bField, const QVariant &value)
+{
+    bField = value.toBool();
+}
+
+void assign(int &iField, const QVariant &value)
+{
+    iField = value.toInt();
+}
+
+void assign(double &dField, const QVariant &value)
+{
+    dField = value.toDouble();
+}
+
+void assign(QColor &field, const QVariant &value)
+{
+    field.setNamedColor(value.toString());
+}
+
+QString readText(const QSettings &settings, const QString &strKey)
+{
+    return settings.value(strKey).toString();
+}
+
+// The value as it is; empty, 0, false or invalid when absent.
+template <auto pField>
+void plain(Data &data, QSettings &settings, const QString &strKey)
+{
+    assign(data.*pField, settings.value(strKey));
+}
+
+template <void (Data::*pSetter)(const QStringList &)>
+void list(Data &data, QSettings &settings, const QString &strKey)
+{
+    (data.*pSetter)(settings.value(strKey).toStringList());
+}
+
+template <ChatFont Data::*pFont, auto pField>
+void font(Data &data, QSettings &settings, const QString &strKey)
+{
+    assign(data.*pFont.*pField, settings.value(strKey));
+}
+
+template <bool Data::*pField>
+void trueForOne(Data &data, QSettings &settings, const QString &strKey)
+{
+    data.*pField = readText(settings, strKey) == ON_TEXT;
+}
+
+template <bool Data::*pField>
+void trueForEmptyOrOne(Data &data, QSettings &settings, const QString &strKey)
+{
+    const QString strValue = readText(settings, strKey);
+    data.*pField = strValue.isEmpty() || strValue == ON_TEXT;
+}
+
+// "0" means true, deliberately: the settings dialog writes the switch the other way round.
+template <bool Data::*pField>
+void trueForEmptyOrZero(Data &data, QSettings &settings, const QString &strKey)
+{
+    const QString strValue = readText(settings, strKey);
+    data.*pField = strValue.isEmpty() || strValue == OFF_TEXT;
+}
+
+template <bool Data::*pField>
+void trueUnlessFalse(Data &data, QSettings &settings, const QString &strKey)
+{
+    data.*pField = readText(settings, strKey) != FALSE_TEXT;
+}
+
+template <QString Data::*pField>
+void zeroOrOne(Data &data, QSettings &settings, const QString &strKey)
+{
+    data.*pField = readText(settings, strKey) == OFF_TEXT ? OFF_TEXT : ON_TEXT;
+}
+
+template <QString Data::*pField>
+void onWhenEmptyAndStored(Data &data, QSettings &settings, const QString &strKey)
+{
+    data.*pField = readText(settings, strKey);
+    if ((data.*pField).isEmpty()) {
+        data.*pField = ON_TEXT;
+        settings.setValue(strKey, ON_TEXT);
+    }
+}
+
+void sendKey(Data &data, QSettings &settings, const QString &strKey)
+{
+    const QString strValue = readText(settings, strKey);
+    data.m_strSendMsgFastkey = strValue.isEmpty() ? DEFAULT_SEND_KEY : strValue;
+}
+
+void dataRoot(Data &data, QSettings &settings, const QString &strKey)
+{
+    const QString strValue = readText(settings, strKey);
+    data.m_strMsgFilePath = strValue.isEmpty() ? data.m_strDefaultDataRoot : strValue;
+}
+
+void receiveFolder(Data &data, QSettings &settings, const QString &strKey)
+{
+    data.m_strTransFilePath = readText(settings, strKey);
+    if (data.m_strTransFilePath.isEmpty()) {
+        // Under the default root even when the user chose another one, deliberately: files received earlier lie there.
+        data.m_strDefaultReceiveFolder =
+            data.m_strDefaultDataRoot + QLatin1Char('/') + data.m_strUserName + QLatin1String("/fileRec");
+        data.m_strTransFilePath = data.m_strDefaultReceiveFolder;
+    }
+}
+
+void rewriteFontSizeOnce(double &dSize, QSettings &settings, const QString &strSizeKey, const QString &strFlagKey)
+{
+    if (settings.value(strFlagKey).toBool()) {
+        return;
+    }
+    dSize = DEFAULT_FONT_SIZE;
+    settings.setValue(strSizeKey, DEFAULT_FONT_SIZE);
+    settings.setValue(strFlagKey, true);
+}
+
+// Raises the old default once, so that a 12 chosen later stays.
+void chatFontSize(Data &data, QSettings &settings, const QString &strKey)
+{
+    double &dSize = data.m_chatFont.m_dFontSize;
+    assign(dSize, settings.value(strKey));
+    if (dSize == OLD_DEFAULT_FONT_SIZE) {
+        rewriteFontSizeOnce(dSize, settings, strKey, CHAT_FONT_REWRITTEN);
+    }
+}
+
+// Rewritten once at any size, unlike the chat font, deliberately: the agents' windows had no size that was ever chosen.
+void agentFontSize(Data &data, QSettings &settings, const QString &strKey)
+{
+    double &dSize = data.m_agentChatFont.m_dFontSize;
+    assign(dSize, settings.value(strKey));
+    rewriteFontSizeOnce(dSize, settings, strKey, AGENT_FONT_REWRITTEN);
+}
+
+// clang-format off
+constexpr SettingRow COMMON_ROWS[] = {
+    {"/msgSetting/SaveToRoot",                 plain<&Data::m_strSaveToRoot>},
+    {"/msgSetting/SaveToMyDoc",                plain<&Data::m_strSaveToMyDoc>},
+    {"/msgSetting/SaveToMyChosen",             plain<&Data::m_strSaveToMyChosen>},
+    {"/msgSetting/msgfilepath",                dataRoot},
+};
+
+constexpr SettingRow USER_ROWS[] = {
+    {"/basicSetting/autoLogin",                plain<&Data::m_strAutoLogin>},
+    {"/basicSetting/autoLunch",                plain<&Data::m_strAutoLunch>},
+    {"/basicSetting/autoLogin_statu",          plain<&Data::m_strAutoLogin_statu>},
+    {"/basicSetting/mainwindowWarn",           plain<&Data::m_strMainwindowWarn>},
+    {"/basicSetting/hideMainWindow",           plain<&Data::m_strHideMainWindow>},
+    {"/basicSetting/closeMainWindow",          plain<&Data::m_strCloseMainWindow>},
+    {"/basicSetting/closeVoice",               plain<&Data::m_strCloseVoice>},
+    {"/basicSetting/openUnColsedDialog",       plain<&Data::m_strOpenUnColsedDialog>},
+    {"/basicSetting/alwaysCloseAllDialog",     plain<&Data::m_strAlwaysCloseAllDialog>},
+    {"/basicSetting/notAllIMUser",             plain<&Data::m_strNotAllIMUser>},
+    {"/basicSetting/haveExistFriend",          plain<&Data::m_strHaveExistFriend>},
+    {"/msgSetting/transfilepath",              receiveFolder},
+    {"/msgSetting/allowShaked",                plain<&Data::m_strAllowShaked>},
+    {"/msgSetting/msgSync",                    plain<&Data::m_strMsgSync>},
+    {"/msgSetting/NotAutoSort",                trueForEmptyOrZero<&Data::m_bNotAutoSort>},
+    {"/msgSetting/showAllRoom",                trueForOne<&Data::m_bShowAllRoom>},
+    {"/statusSetting/ChangeToAway",            plain<&Data::m_strChangeToAway>},
+    {"/statusSetting/awayMinute",              plain<&Data::m_strAwayMinute>},
+    {"/statusSetting/ChangeToBusy",            plain<&Data::m_strChangeToBusy>},
+    {"/statusSetting/IsAutoReply",             plain<&Data::m_strIsAutoReply>},
+    {"/statusSetting/AutoReplyStr",            plain<&Data::m_strAutoReplyStr>},
+    {"/statusSetting/AutoReplyList",           list<&Data::setAutoReplylist>},
+    {"/statusSetting/FastReplyStr",            plain<&Data::m_strFastReplyStr>},
+    {"/statusSetting/FastReplyList",           list<&Data::setFastReplylist>},
+    {"/hotkeySetting/CatchMsgHotkey",          plain<&Data::m_strCatchMsgHotkey>},
+    {"/hotkeySetting/CutPictureHotKey",        plain<&Data::m_strCutPictureHotKey>},
+    {"/hotkeySetting/SendMsgFastkey",          sendKey},
+    {"/hotkeySetting/SnapHide",                zeroOrOne<&Data::m_strSnapHide>},
+    {"/safeSetting/allAllowed",                plain<&Data::m_strAllAllowed>},
+    {"/safeSetting/someAllowed",               plain<&Data::m_strSomeAllowed>},
+    {"/safeSetting/allForbidden",              plain<&Data::m_strAllForbidden>},
+    {"/chatFontSetting/fontfamily",            font<&Data::m_chatFont, &ChatFont::m_strFontFamily>},
+    {"/chatFontSetting/isbold",                font<&Data::m_chatFont, &ChatFont::m_bIsBold>},
+    {"/chatFontSetting/isitalic",              font<&Data::m_chatFont, &ChatFont::m_bIsItalic>},
+    {"/chatFontSetting/fontsize",              chatFontSize},
+    {"/chatFontSetting/hasunderline",          font<&Data::m_chatFont, &ChatFont::m_bHasUnderline>},
+    {"/chatFontSetting/textcolor",             font<&Data::m_chatFont, &ChatFont::m_textColor>},
+    {"/HideSetting/NeedHide",                  plain<&Data::m_iNeedHide>},
+    {"/privacySetting/CanSearch",              onWhenEmptyAndStored<&Data::m_strCanSearch>},
+    {"/privacySetting/CanViewCompanyInfo",     onWhenEmptyAndStored<&Data::m_strCanViewCompanyInfo>},
+    {"/privacySetting/CanViewMobile",          onWhenEmptyAndStored<&Data::m_strCanViewMobile>},
+    {"/msgSetting/airBubbleMode",              trueForEmptyOrOne<&Data::m_bAirBubbleMode>},
+    {"/BurnMsg/FirstOpenBurn",                 trueUnlessFalse<&Data::m_bFirstOpenBurn>},
+    {"/BurnMsg/FirstReadBurnMsg",              trueUnlessFalse<&Data::m_bFirstReadBurnMsg>},
+    {"/RecallMsg/FirstRecallMsg",              trueUnlessFalse<&Data::m_bFirstRecallMsg>},
+    {"/agentChatFontSetting/fontfamily",       font<&Data::m_agentChatFont, &ChatFont::m_strFontFamily>},
+    {"/agentChatFontSetting/isbold",           font<&Data::m_agentChatFont, &ChatFont::m_bIsBold>},
+    {"/agentChatFontSetting/isitalic",         font<&Data::m_agentChatFont, &ChatFont::m_bIsItalic>},
+    {"/agentChatFontSetting/fontsize",         agentFontSize},
+    {"/agentChatFontSetting/hasunderline",     font<&Data::m_agentChatFont, &ChatFont::m_bHasUnderline>},
+    {"/agentChatFontSetting/textcolor",        font<&Data::m_agentChatFont, &ChatFont::m_textColor>},
+};
+// clang-format on
+
+template <std::size_t iCount>
+void readRows(Data &data, const SettingRow (&rows)[iCount], const QString &strFile)
+{
+    QSettings settings(strFile, QSettings::IniFormat);
+    settings.setIniCodec("UTF-8");
+    for (const SettingRow &row : rows) {
+        row.m_pRead(data, settings, QLatin1String(row.m_pKey));
+    }
+}
+
+QString absolute(const QString &strPath)
+{
+    return QFileInfo(strPath).absoluteFilePath();
+}
+
+} // namespace
+
+SystemSetData *SystemSetData::m_instance = nullptr;
+
+SystemSetData::SystemSetData() : m_strDefaultDataRoot(strAPP_DOCUMENT_IM_FILES_PATH()) {}
+
+SystemSetData *SystemSetData::instance()
+{
+    if (m_instance == nullptr) {
+        m_instance = new SystemSetData;
+    }
+    return m_instance;
+}
+
+void SystemSetData::initCommonData()
+{
+    readRows(*this, COMMON_ROWS, strAPP_INFO_FILE_PATH());
+    const QDir folder(absolute(m_strMsgFilePath));
+    if (!folder.exists()) {
+        folder.mkpath(folder.path());
+    }
+}
+
+void SystemSetData::initData(const QString &strUserName)
+{
+    initUserPaths(strUserName);
+    readRows(*this, USER_ROWS, m_strUserConfigPath);
+}
+
+QStringList SystemSetData::userConfigKeys()
+{
+    QStringList listKey;
+    for (const SettingRow &row : USER_ROWS) {
+        listKey.append(QLatin1String(row.m_pKey));
+    }
+    return listKey;
+}
+
+void SystemSetData::initUserPaths(const QString &strUserName)
+{
+    m_strUserName = strUserName;
+    m_strUserFolder = m_strMsgFilePath + QLatin1Char('/') + strUserName;
+    m_strHeadImageFolder = m_strUserFolder + QLatin1String("/designHeadImage/");
+    m_strDataLocation = absolute(QStandardPaths::writableLocation(QStandardPaths::DataLocation));
+    m_strUserConfigPath = m_strUserFolder + QLatin1String("/newConfig.ini");
+    m_strUsersInfoPath = m_strMsgFilePath + QLatin1String("/allusers/usersInfo.ini");
+    m_strAppInfoPath = strAPP_INFO_FILE_PATH();
+    m_strDatabasePath = absolute(m_strMsgFilePath) + QLatin1Char('/') + strUserName + QLatin1String("/localData.db");
+}

@@ -1,0 +1,24 @@
+#include "plugin/StrangerTest.h"
+
+#include "common/CommonFun.h"
+#include "model/FriendData.h"
+#include "plugin/VoipManageEventProcess.h"
+
+bool StrangerCards::test(const QString &uid)
+{
+    const QString jid = CommonFun::getJidByUid(uid);
+    const FriendData record = VoipManageEventProcess::getFriendInfoByJid(jid);
+    // Asked in any case, for the system account and for records at hand too: the contact plug-in counts on it.
+    const bool known = VoipManageEventProcess::isExistFriend(jid);
+    if (known || uid == QLatin1String("kv6005626532")) {
+        return false;
+    }
+    ids.append(CommonFun::getUidByJid(uid));
+    versions.append(QString::number(record.m_vcardInfo.m_iSmallVersion));
+    return true;
+}
+
+void StrangerCards::request() const
+{
+    VoipManageEventProcess::getStrangerSmallVCard(ids, versions, true);
+}

@@ -1,0 +1,198 @@
+#include "ui/ConferenceListView.h"
+
+#include "common/CLogManger.h"
+#include "common/CommonFun.h"
+#include "common/DpiScale.h"
+#include "common/Palette.h"
+#include "model/FriendData.h"
+#include "plugin/VoipManageEventProcess.h"
+#include "ui/ConferenceListViewDelegate.h"
+#include "ui/ConferenceRoles.h"
+#include "widgets/HeadPicture.h"
+
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QStandardItemModel>
+
+namespace {
+
+const QSize cRowSize(500, 38);
+
+} // namespace
+
+CConferenceListView::CConferenceListView(QWidget *parent)
+    : QListView(parent), m_pDelegate(new CConferenceListViewDelegate(this)), m_pModel(new QStandardItemModel(this)),
+      m_statusTimer(this)
+{
+    setMouseTracking(true);
+    setCursor(Qt::ArrowCursor);
+    verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setStyleSheet(strVerticalScrollBarNormalStyle);
+    installEventFilter(this);
+    connect(&m_statusTimer, &QTimer::timeout, this, &CConferenceListView::slot_UpdateCallStatu);
+    setItemDelegateForColumn(0, m_pDelegate);
+    setModel(m_pModel);
+}
+
+void CConferenceListView::setIsCallByMe(bool bIsCallByMe)
+{
+    m_bIsCallByMe = bIsCallByMe;
+}
+
+void CConferenceListView::addUserList(QList<QString> userList)
+{
+    m_userList = userList;
+    for (const QString &strUserID : qAsConst(userList))
+        appendUserItem(strUserID);
+}
+
+void CConferenceListView::addUser(QString strUserID)
+{
+    if (strUserID.isEmpty())
+        return;
+    if (!m_userList.contains(strUserID)) {
+        m_userList.append(strUserID);
+        appendUserItem(strUserID);
+    }
+    if (QStandardItem *pItem = m_userItemMap.value(strUserID))
+        pItem->setData(QTime::currentTime(), ROLE_INVITE_TIME);
+}
+
+void CConferenceListView::removeUser(QString strUserID)
+{
+    if (strUserID.isEmpty() || !m_userList.contains(strUserID))
+        return;
+    QStandardItem *pItem = m_userItemMap.value(strUserID);
+    if (pItem == nullptr)
+        return;
+    const int iRow = m_pModel->indexFromItem(pItem).row();
+    if (iRow < 0 || iRow >= m_pModel->rowCount())
+        return;
+    m_userItemMap.remove(strUserID);
+    m_userList.removeOne(strUserID);
+    m_pModel->removeRows(iRow, 1);
+}
+
+void CConferenceListView::clearMembers()
+{
+    m_pModel->clear();
+    m_userList.clear();
+    m_userItemMap.clear();
+    m_strCreator.clear();
+    m_statusTimer.stop();
+}
+
+void CConferenceListView::setConferenceCreator(QString strCreator)
+{
+    m_strCreator = strCreator;
+    if (QStandardItem *pItem = m_userItemMap.value(strCreator))
+        pItem->setData(true, ROLE_IS_CREATOR);
+    if (strCreator == CommonFun::getLoginUID())
+        m_statusTimer.start(cInviteCheckInterval);
+}
+
+void CConferenceListView::updateConferenceListStatus(QList<QString> list)
+{
+    for (auto it = m_userItemMap.cbegin(); it != m_userItemMap.cend(); ++it)
+        if (list.contains(it.key()))
+            it.value()->setData(int(ConferenceConnected), ROLE_CALL_STATUS);
+}
+
+void CConferenceListView::setAddConfFailedList(QList<QString> list)
+{
+    for (const QString &strUserID : qAsConst(list))
+        updateConferenceUserStatus(strUserID, ConferenceFailed);
+}
+
+void CConferenceListView::updateConferenceUserStatus(QString strUserID, qlonglong iStatus)
+{
+    if (QStandardItem *pItem = m_userItemMap.value(strUserID))
+        pItem->setData(static_cast<int>(iStatus), ROLE_CALL_STATUS);
+}
+
+void CConferenceListView::setMuteAll(bool bMute)
+{
+    for (int iRow = 0; iRow < m_pModel->rowCount(); ++iRow)
+        m_pModel->item(iRow)->setData(bMute, ROLE_MUTED);
+}
+
+void CConferenceListView::updateUserInfo(QString strJid, VcardInfo vcard)
+{
+    QStandardItem *pItem = m_userItemMap.value(CommonFun::getUidByJid(strJid));
+    if (pItem == nullptr)
+        return;
+    pItem->setData(HeadPicture::readablePath(vcard.m_strPhotoPath), ROLE_HEAD_PATH);
+    // The card's own name, not the contact's shown name: deliberate, strangers have no contact record.
+    pItem->setData(vcard.m_strNickName, ROLE_DISPLAY_NAME);
+}
+
+void CConferenceListView::slot_UpdateCallStatu()
+{
+    const QTime now = QTime::currentTime();
+    for (int iRow = 0; iRow < m_pModel->rowCount(); ++iRow) {
+        QStandardItem *pItem = m_pModel->item(iRow);
+        if (pItem->data(ROLE_CALL_STATUS).toInt() == ConferenceCalling &&
+            isInviteOver(pItem->data(ROLE_INVITE_TIME).toTime(), now))
+            pItem->setData(int(ConferenceFailed), ROLE_CALL_STATUS);
+    }
+}
+
+void CConferenceListView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton)
+        return;
+    const QModelIndex index = indexAt(event->pos());
+    if (!index.isValid()) {
+        repaint();
+        return;
+    }
+    QStandardItem *pItem = m_pModel->itemFromIndex(index);
+    if (pItem == nullptr) {
+        LOG_DEBUG << "selected is null"
+                  << "\n";
+        return;
+    }
+    // The status stays until the manager changes it, so the row keeps its failed look while the new call goes out.
+    if (canReInvite(pItem->data(ROLE_CALL_STATUS).toInt())) {
+        pItem->setData(QTime::currentTime(), ROLE_INVITE_TIME);
+        emit signal_ReInviteConfUser(pItem->data(ROLE_USER_ID).toString());
+    }
+    QAbstractItemView::mouseDoubleClickEvent(event);
+}
+
+bool CConferenceListView::eventFilter(QObject *obj, QEvent *event)
+{
+    if (obj == this && event->type() == QEvent::Leave)
+        setStyleSheet(strVerticalScrollBarNormalStyle);
+    else if (obj == this && event->type() == QEvent::Enter)
+        setStyleSheet(strVerticalScrollBarHoverStyle);
+    return QListView::eventFilter(obj, event);
+}
+
+void CConferenceListView::appendUserItem(const QString &strUserID)
+{
+    QStandardItem *pItem = creatUserItem(strUserID);
+    m_pModel->appendRow(pItem);
+    m_userItemMap.insert(strUserID, pItem);
+}
+
+QStandardItem *CConferenceListView::creatUserItem(const QString &strUserID)
+{
+    const FriendData member = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(strUserID));
+    // The model takes the item over as soon as it is appended.
+    auto *pItem = new QStandardItem;
+    pItem->setData(HeadPicture::readablePath(member.m_vcardInfo.m_strPhotoPath), ROLE_HEAD_PATH);
+    pItem->setData(strUserID, ROLE_USER_ID);
+    pItem->setData(member.displayName(), ROLE_DISPLAY_NAME);
+    pItem->setData(int(ConferenceCalling), ROLE_CALL_STATUS);
+    pItem->setData(false, ROLE_REMOVE_HOVER);
+    pItem->setData(false, ROLE_MUTE_HOVER);
+    pItem->setData(false, ROLE_MUTED);
+    pItem->setData(m_bIsCallByMe, ROLE_CALL_BY_ME);
+    pItem->setData(strUserID == m_strCreator, ROLE_IS_CREATOR);
+    pItem->setData(QTime::currentTime(), ROLE_INVITE_TIME);
+    pItem->setData(ADAPT_DPI_SIZE(cRowSize), Qt::SizeHintRole);
+    return pItem;
+}

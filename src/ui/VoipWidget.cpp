@@ -1,0 +1,399 @@
+#include "ui/VoipWidget.h"
+
+#include "ui_VoipWidget.h"
+
+#include "common/CLogManger.h"
+#include "common/CommonFun.h"
+#include "common/DpiScale.h"
+#include "common/Palette.h"
+#include "model/FriendData.h"
+#include "plugin/VoipManageEventProcess.h"
+#include "ui/CallWindowStyle.h"
+#include "widgets/ErrorMessage.h"
+#include "widgets/HeadPicture.h"
+
+#include <QCloseEvent>
+#include <QDebug>
+
+namespace {
+
+constexpr int cWindowWidth = 523;
+constexpr int cWindowHeight = 403;
+constexpr int cClockInterval = 1000;
+
+// Pages of the two stacks, in the form's order.
+constexpr int cVoicePage = 0;
+constexpr int cVideoPage = 1;
+constexpr int cConferencePage = 2;
+constexpr int cRequestPage = 0;
+constexpr int cCallingPage = 1;
+
+using Symbol = SymbolButton::Symbol;
+
+const QColor cToggleColor(184, 184, 184);
+const QColor cMuteAllColor(255, 96, 88);
+
+const char *boolText(bool bValue)
+{
+    return bValue ? "true" : "false";
+}
+
+// The name that a card shows in the call window. A card without any name gives an empty text.
+QString cardName(const VcardInfo &vcard)
+{
+    if (vcard.m_strNickName.isEmpty() && vcard.m_strAlternativeName.isEmpty())
+        return {};
+    return vcard.m_strNickName + QLatin1Char('(') + vcard.m_strAlternativeName + QLatin1Char(')');
+}
+
+} // namespace
+
+CVoipWidget::CVoipWidget(QWidget *parent)
+    : QWidget(parent), ui(std::make_unique<Ui::CVoipWidget>()), m_callTimeTimer(this)
+{
+    ui->setupUi(this);
+    setWindowFlags(Qt::FramelessWindowHint);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setMouseTracking(true);
+    setFixedHeight(cWindowHeight);
+    setFixedWidth(cWindowWidth);
+    ui->btnCamera->hide();
+    applyCallWindowStyle(this);
+    ui->btnClose->setSymbol(SymbolButton::Symbol::Close, QColor(strCOLOR_ICON_MID_GREY));
+    ui->btnClose->setHoverColor(QColor(strCOLOR_BRIGHT_RED));
+    ui->btnClose->setToolTip(tr("close"));
+    ui->currentPlayTimeLabel->hide();
+    ui->currentPlayTimeLabel->clear();
+    connectControls();
+    SetMicButton(m_bMicMute);
+    SetSpeakerButton(m_bSpeakerMute);
+    SetCameraButton(m_bCameraEnable);
+    setMuteAllButton(m_bMuteAll);
+    ADAPT_DPI_WIDGET(this);
+}
+
+CVoipWidget::~CVoipWidget() = default;
+
+void CVoipWidget::connectControls()
+{
+    connect(ui->HangUp, &QPushButton::clicked, this, &CVoipWidget::slot_HangUpCall);
+    connect(ui->btnClose, &QPushButton::clicked, this, &CVoipWidget::slot_close);
+    connect(ui->btnMic, &QPushButton::clicked, this, &CVoipWidget::slot_MicButtonClicked);
+    connect(ui->btnSpeaker, &QPushButton::clicked, this, &CVoipWidget::slot_SpeakerButtonClicked);
+    connect(ui->btnCamera, &QPushButton::clicked, this, &CVoipWidget::slot_CameraButtonClicked);
+    connect(&m_callTimeTimer, &QTimer::timeout, this, &CVoipWidget::slot_RefreshTime);
+    connect(ui->btnCancelCall, &QPushButton::clicked, this, &CVoipWidget::slot_CancelVoipCall);
+    connect(ui->btnAddMember, &QPushButton::clicked, this, &CVoipWidget::slot_AddConferenceMember);
+    connect(ui->btnMuteAll, &QPushButton::clicked, this, &CVoipWidget::slot_MuteAll);
+    connect(ui->listView, &CConferenceListView::signal_RemoveUser, this, &CVoipWidget::slot_RemoveConferenceMember);
+    connect(ui->listView, &CConferenceListView::signal_MuteUser, this, &CVoipWidget::slot_MuteConferenceMember);
+    connect(ui->listView, &CConferenceListView::signal_ReInviteConfUser, this, &CVoipWidget::slot_ReInviteConfUser);
+}
+
+void CVoipWidget::setVoipCallInfo(QList<QString> userList, VoipType iType, bool bMyCall, bool bConnected)
+{
+    LOG_DEBUG << "userlist = " << QStringList(userList).join(QLatin1Char(',')) << ", iType = " << int(iType)
+              << ", bMyCall = " << bMyCall << "\n";
+    if ((iType == Voice || iType == Video) && userList.isEmpty())
+        return;
+    if (iType == Voice) {
+        setWindowTitle(QStringLiteral("语音通话"));
+        ui->displayPane->setCurrentIndex(cVoicePage);
+        m_strPeerUid = userList.first();
+    } else if (iType == Video) {
+        setWindowTitle(QStringLiteral("视频通话"));
+        ui->displayPane->setCurrentIndex(cVideoPage);
+        m_strPeerUid = userList.first();
+    } else if (iType == Conference) {
+        setWindowTitle(QStringLiteral("语音会议"));
+        ui->displayPane->setCurrentIndex(cConferencePage);
+        m_memberList = userList;
+    }
+    ui->controlPane->setCurrentIndex(bConnected ? cCallingPage : cRequestPage);
+    m_bConnected = bConnected;
+    m_bIsMyCall = bMyCall;
+    m_iVoipType = iType;
+    if (iType == Conference)
+        showConference();
+    else
+        showPeer();
+}
+
+void CVoipWidget::showConference()
+{
+    ui->listView->setIsCallByMe(m_bIsMyCall);
+    ui->listView->addUserList(m_memberList);
+    ui->lblVoipTipMsg->setText(QStringLiteral("语音会议通话中"));
+    ui->btnMuteAll->setVisible(m_bIsMyCall);
+    ui->btnAddMember->setVisible(m_bIsMyCall);
+    ui->lblListCount->clear();
+    refreshMemberCount();
+}
+
+void CVoipWidget::showPeer()
+{
+    const FriendData peer = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(m_strPeerUid));
+    const QString strShownName = showPeerCard(peer.m_vcardInfo);
+    ui->lblStatus->setText(m_bIsMyCall ? QStringLiteral("正在呼叫...") : QStringLiteral("正在连接..."));
+    showPeerTitle(strShownName);
+    ui->btnMuteAll->hide();
+}
+
+QString CVoipWidget::showPeerCard(const VcardInfo &vcard)
+{
+    const QString strShownName = cardName(vcard);
+    const QString strPhotoPath = HeadPicture::readablePath(vcard.m_strPhotoPath);
+    LOG_DEBUG << "voip userName=" << strShownName << "\n";
+    LOG_DEBUG << "voip photourl = " << strPhotoPath << "\n";
+    ui->lblPhotoIcon->setHeadPictrue(strPhotoPath);
+    if (!strShownName.isEmpty())
+        ui->lblUserName->setText(strShownName);
+    return strShownName;
+}
+
+void CVoipWidget::showPeerTitle(const QString &strShownName)
+{
+    // A voice call shows the plain title and never the name: deliberate, the name stands below the head picture.
+    if (m_iVoipType == Voice)
+        ui->lblVoipTipMsg->setText(QStringLiteral("语音通话"));
+    else
+        ui->lblVoipTipMsg->setText(QStringLiteral("与%1(%2)通话中").arg(strShownName, m_strPeerUid));
+}
+
+void CVoipWidget::setVoipCallStatus(bool bConnect)
+{
+    LOG_DEBUG << "setVoipConnect statu = " << bConnect << "\n";
+    m_bConnected = bConnect;
+    if (bConnect) {
+        m_callTimeTimer.start(cClockInterval);
+        ui->currentPlayTimeLabel->show();
+        ui->controlPane->setCurrentIndex(cCallingPage);
+        ui->lblStatus->setText(QStringLiteral("已接通"));
+        m_callStartTime = QTime::currentTime();
+    } else {
+        ui->controlPane->setCurrentIndex(cRequestPage);
+        ui->lblStatus->setText(QStringLiteral("正在呼叫..."));
+    }
+}
+
+void CVoipWidget::show()
+{
+    showNormal();
+}
+
+void CVoipWidget::UserOffline()
+{
+    close();
+}
+
+void CVoipWidget::SetVoipCallHangUpMessage()
+{
+    ClearCallInfoData();
+}
+
+void CVoipWidget::ClearCallInfoData()
+{
+    LOG_DEBUG << "clear call info!"
+              << "\n";
+    m_bCallFlag = false;
+    m_bIsMyCall = false;
+    m_bMicMute = false;
+    m_bSpeakerMute = false;
+    m_bMuteAll = false;
+    m_bCameraEnable = true;
+    m_bConnected = false;
+    m_memberList.clear();
+    m_strPeerUid.clear();
+    m_strCreator.clear();
+    SetMicButton(false);
+    SetMicEnable(true);
+    SetSpeakerButton(false);
+    SetSpeakerEnable(true);
+    setMuteAllButton(false);
+}
+
+void CVoipWidget::clearUI()
+{
+    LOG_DEBUG << "clear voipwidget ui!"
+              << "\n";
+    ui->lblVoipTipMsg->clear();
+    ui->lblListCount->clear();
+    ui->currentPlayTimeLabel->clear();
+    ui->lblUserName->clear();
+    ui->lblStatus->clear();
+    ui->listView->clearMembers();
+    ui->lblPhotoIcon->clear();
+}
+
+void CVoipWidget::SetVoipMicVolume(qlonglong iVolume)
+{
+    m_iMicVolume = static_cast<int>(iVolume);
+    SetMicVolume(iVolume);
+}
+
+void CVoipWidget::SetVoipSpeakerVolume(qlonglong iVolume)
+{
+    m_iSpeakerVolume = static_cast<int>(iVolume);
+    SetSpeakerVolume(iVolume);
+}
+
+int CVoipWidget::GetCurrentCallStatus() const
+{
+    return m_iCallStatus;
+}
+
+QWidget *CVoipWidget::getWebEngineView() const
+{
+    return nullptr;
+}
+
+void CVoipWidget::addVoipWidget(QWidget *pWidget)
+{
+    if (pWidget != nullptr)
+        ui->WebViewLayout->addWidget(pWidget);
+}
+
+void CVoipWidget::updateUserInfo(QString strJid, VcardInfo vcard)
+{
+    if (m_iVoipType == Conference) {
+        ui->listView->updateUserInfo(strJid, vcard);
+        return;
+    }
+    if (strJid != CommonFun::getJidByUid(m_strPeerUid))
+        return;
+    showPeerTitle(showPeerCard(vcard));
+}
+
+QString CVoipWidget::GetCallTimeString(qulonglong iSeconds) const
+{
+    const auto twoDigits = [](qulonglong iPart) { return QStringLiteral("%1").arg(iPart, 2, 10, QLatin1Char('0')); };
+    return twoDigits(iSeconds / 3600) + QLatin1Char(':') + twoDigits(iSeconds / 60 % 60) + QLatin1Char(':') +
+           twoDigits(iSeconds % 60);
+}
+
+void CVoipWidget::SetMicButton(bool bMute)
+{
+    LOG_DEBUG << "setmic bMute = " << bMute << "\n";
+    ui->btnMic->setSymbol(bMute ? Symbol::MicrophoneOff : Symbol::Microphone, cToggleColor);
+    ui->btnMic->setToolTip(bMute ? tr("openmic") : tr("closemic"));
+}
+
+void CVoipWidget::SetSpeakerButton(bool bMute)
+{
+    LOG_DEBUG << "set speaker bMute = " << bMute << "\n";
+    ui->btnSpeaker->setSymbol(bMute ? Symbol::SpeakerOff : Symbol::Speaker, cToggleColor);
+    ui->btnSpeaker->setToolTip(bMute ? tr("openvioce") : tr("silence"));
+}
+
+void CVoipWidget::SetCameraButton(bool bEnable)
+{
+    LOG_DEBUG << "set camera bEnable = " << bEnable << "\n";
+    ui->btnCamera->setSymbol(bEnable ? Symbol::Camera : Symbol::CameraOff, cToggleColor);
+}
+
+void CVoipWidget::setMuteAllButton(bool bMute)
+{
+    ui->btnMuteAll->setSymbol(Symbol::SpeakerOff, bMute ? cMuteAllColor : cToggleColor);
+    ui->btnMuteAll->setToolTip(bMute ? QStringLiteral("取消全体静音") : QStringLiteral("全体静音"));
+}
+
+void CVoipWidget::SetMicEnable(bool bEnable)
+{
+    qDebug().noquote().nospace() << "SetMicEnable = " << boolText(bEnable);
+    emit signal_SetMicEnable(bEnable);
+}
+
+void CVoipWidget::SetSpeakerEnable(bool bEnable)
+{
+    // The microphone's words: deliberate, the debug log has always read so.
+    qDebug().noquote().nospace() << "SetMicEnable = " << boolText(bEnable);
+    emit signal_SetSpeakerEnable(bEnable);
+}
+
+void CVoipWidget::SetCamreraEnable(bool bEnable)
+{
+    qDebug().noquote().nospace() << "SetCamreraEnable = " << boolText(bEnable);
+    emit signal_SetCameraEnable(bEnable);
+}
+
+void CVoipWidget::SetMicVolume(qlonglong iVolume)
+{
+    qDebug().noquote().nospace() << "SetMicVolume = " << iVolume;
+    emit signal_SetMicVolume(iVolume);
+}
+
+void CVoipWidget::SetSpeakerVolume(qlonglong iVolume)
+{
+    qDebug().noquote().nospace() << "SetSpeakerVolume = " << iVolume;
+    emit signal_SetSpeakerVolume(iVolume);
+}
+
+void CVoipWidget::slot_HangUpCall()
+{
+    LOG_DEBUG << "click hangup button!"
+              << "\n";
+    emit signal_HangupCurrentCall();
+}
+
+void CVoipWidget::slot_close()
+{
+    LOG_DEBUG << "click close button!"
+              << "\n";
+    ErrorMessage question(QString(), QStringLiteral("确定"), nullptr);
+    question.setBtnText(tr("sure"), tr("cancel"));
+    question.chooseMsgShow(tr("tip"), tr("beSureToCloseCalling"));
+    if (question.m_bAccepted)
+        close();
+}
+
+void CVoipWidget::slot_RefreshTime()
+{
+    // On the time of day, so that a call across midnight runs negative: deliberate and left uncorrected.
+    const int iSeconds = m_callStartTime.secsTo(QTime::currentTime());
+    ui->currentPlayTimeLabel->setText(CommonFun::GetTimeString(iSeconds));
+}
+
+void CVoipWidget::slot_MicButtonClicked()
+{
+    LOG_DEBUG << "click mic button!"
+              << "\n";
+    m_bMicMute = !m_bMicMute;
+    SetMicButton(m_bMicMute);
+    SetMicEnable(!m_bMicMute);
+}
+
+void CVoipWidget::slot_SpeakerButtonClicked()
+{
+    LOG_DEBUG << "click speaker button!"
+              << "\n";
+    m_bSpeakerMute = !m_bSpeakerMute;
+    SetSpeakerButton(m_bSpeakerMute);
+    SetSpeakerEnable(!m_bSpeakerMute);
+}
+
+void CVoipWidget::slot_CameraButtonClicked()
+{
+    LOG_DEBUG << "click camera button!"
+              << "\n";
+    m_bCameraEnable = !m_bCameraEnable;
+    SetCameraButton(m_bCameraEnable);
+    SetCamreraEnable(m_bCameraEnable);
+}
+
+void CVoipWidget::slot_CancelVoipCall()
+{
+    LOG_DEBUG << "cancel button click!"
+              << "\n";
+    emit signal_HangupCurrentCall();
+    // The close path sends it a second time: deliberate, the manager ends a call once and ignores the rest.
+    close();
+}
+
+void CVoipWidget::closeEvent(QCloseEvent *event)
+{
+    ClearCallInfoData();
+    clearUI();
+    emit signal_HangupCurrentCall();
+    emit signal_ClearCallData();
+    QWidget::closeEvent(event);
+}

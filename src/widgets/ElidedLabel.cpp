@@ -1,0 +1,24 @@
+#include "widgets/ElidedLabel.h"
+
+#include <QStylePainter>
+
+ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+}
+
+QString ElidedLabel::shownText() const
+{
+    return fontMetrics().elidedText(text().simplified(), Qt::ElideRight, contentsRect().width());
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return {0, QLabel::minimumSizeHint().height()};
+}
+
+void ElidedLabel::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    painter.drawItemText(contentsRect(), int(alignment()), palette(), isEnabled(), shownText(), foregroundRole());
+}

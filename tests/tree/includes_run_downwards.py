@@ -1,0 +1,65 @@
+#!/usr/bin/env python3
+"""Checks the floors of src/: an include never runs upwards, and no files include each other in a circle."""
+
+import pathlib
+import re
+import sys
+
+FLOORS = ["common", "model", "front", "store and passport", "widgets and host requests", "ui", "engine", "plugin"]
+
+FOLDER_FLOOR = {
+    "common": 0, "model": 1, "store": 3, "passport": 3, "widgets": 4, "ui": 5, "engine": 6, "plugin": 7,
+}
+
+# Files that stand on another floor than their folder: the front of the common code, and the plug-in's side of what is
+# asked of the host, which windows and engine use.
+FILE_FLOOR = {
+    "common/CommonFun": 2, "common/CLogManger": 2,
+    "plugin/BaseEvent": 4, "plugin/EMsgId": 4, "plugin/EventPayload": 4, "plugin/HostCommands": 4,
+    "plugin/HostRequests": 4, "plugin/PluginIds": 4, "plugin/PluginInterface": 4, "plugin/StrangerTest": 4,
+    "plugin/VoipManageEventProcess": 4, "plugin/VoipManageMessageProcess": 4,
+}
+
+INCLUDE = re.compile(r'^\s*#include "([^"]+)"', re.MULTILINE)
+
+
+def floor_of(name):
+    return FILE_FLOOR.get(name.rsplit(".", 1)[0], FOLDER_FLOOR[name.split("/")[0]])
+
+
+def circle_from(start, graph):
+    """A list of files that leads from `start` back to it, or None."""
+    stack, seen = [(start, [start])], set()
+    while stack:
+        name, road = stack.pop()
+        for target in graph.get(name, ()):
+            if target == start:
+                return road + [start]
+            if target not in seen:
+                seen.add(target)
+                stack.append((target, road + [target]))
+    return None
+
+
+def main():
+    src = pathlib.Path(sys.argv[1])
+    files = sorted(p.relative_to(src).as_posix() for p in src.rglob("*") if p.suffix in (".h", ".cpp"))
+    graph = {}
+    for name in files:
+        targets = INCLUDE.findall((src / name).read_text(encoding="utf-8"))
+        graph[name] = [t for t in targets if t in files]
+    problems = [
+        f"{name} ({FLOORS[floor_of(name)]}) includes {target} ({FLOORS[floor_of(target)]}), which stands above it"
+        for name, targets in graph.items() for target in targets if floor_of(target) > floor_of(name)
+    ]
+    problems += [f"circle: {' > '.join(road)}" for road in filter(None, (circle_from(f, graph) for f in files))]
+    stale = [name for name in FILE_FLOOR if not any(f.startswith(name + ".") for f in files)]
+    problems += [f"{name} has a floor of its own but does not exist" for name in stale]
+    if not files:
+        problems.append("no sources found")
+    print("\n".join(problems) or f"{len(files)} files, every include runs downwards")
+    return 1 if problems else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,51 @@
+#pragma once
+
+// A host context with one signed-in user and a few contacts, for the tests of the windows. Sets the shared context
+// while it lives and takes it away at its end.
+
+#include "common/CommonFun.h"
+#include "model/CommonData.h"
+#include "model/FriendData.h"
+#include "model/LoginData.h"
+
+class ContactFixture
+{
+public:
+    ContactFixture()
+    {
+        m_login.m_strUid = QStringLiteral("me");
+        m_login.m_strDomain = QStringLiteral("kelvar.im");
+        m_data.setLoginData(&m_login);
+        CommonFun::setCommonData(&m_data);
+    }
+    ~ContactFixture() { CommonFun::setCommonData(nullptr); }
+    ContactFixture(const ContactFixture &) = delete;
+    ContactFixture &operator=(const ContactFixture &) = delete;
+
+    /// The user jid of `strUid` in the user's own domain.
+    static QString jid(const QString &strUid) { return strUid + QStringLiteral("@kelvar.im"); }
+
+    /// A card with these names and this picture.
+    static VcardInfo card(const QString &strNick, const QString &strAlternative, const QString &strPhoto = {})
+    {
+        VcardInfo vcard;
+        vcard.m_strNickName = strNick;
+        vcard.m_strAlternativeName = strAlternative;
+        vcard.m_strPhotoPath = strPhoto;
+        return vcard;
+    }
+
+    /// Puts a contact into the shared friend map.
+    void addContact(const QString &strUid, const VcardInfo &vcard)
+    {
+        FriendData contact(jid(strUid));
+        contact.setVcardInfo(vcard);
+        QMap<QString, FriendData> contacts = m_data.getFriendDataMap();
+        contacts.insert(jid(strUid), contact);
+        m_data.setFriendDataMap(contacts);
+    }
+
+private:
+    LoginData m_login;
+    CommonData m_data;
+};

@@ -1,0 +1,402 @@
+// How the call window is set up for each kind of call, and what it shows while the call runs.
+
+#include "ContactFixture.h"
+#include "ui/CallWindowStyle.h"
+#include "ui/ConferenceListView.h"
+#include "ui/ConferenceRoles.h"
+#include "ui/VoipWidget.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QTest>
+
+class tst_VoipWidgetCalls : public QObject
+{
+    Q_OBJECT
+
+private:
+    struct Shown
+    {
+        explicit Shown(CVoipWidget &window) : w(window) {}
+        QLabel *label(const char *name) const { return w.findChild<QLabel *>(QLatin1String(name)); }
+        QString text(const char *name) const { return label(name)->text(); }
+        int page(const char *name) const { return w.findChild<QStackedWidget *>(QLatin1String(name))->currentIndex(); }
+        QPushButton *button(const char *name) const { return w.findChild<QPushButton *>(QLatin1String(name)); }
+        QAbstractItemModel *rows() const { return w.findChild<CConferenceListView *>()->model(); }
+        CVoipWidget &w;
+    };
+
+private slots:
+    void voiceCallShowsNameStateAndRequestControls_data();
+    void voiceCallShowsNameStateAndRequestControls();
+    void videoCallShowsNameAndUidInTheTip();
+    void conferenceShowsMembersAndCount_data();
+    void conferenceShowsMembersAndCount();
+    void emptyListChangesNothingForSingleCalls_data();
+    void emptyListChangesNothingForSingleCalls();
+    void emptyConferenceShowsCountZero();
+    void otherTypeChangesNeitherPageNorTitle();
+    void connectedAtOnceShowsTheCallingControls();
+    void connectingStartsTheClock();
+    void droppedStatusGoesBackToRequestControlsAndTheClockRunsOn();
+    void clockShowsTheSecondsSinceConnecting();
+    void unknownContactLeavesTheNameAsItWas();
+    void oneOfTheTwoNamesIsEnough();
+    void percentSignsInNamesStayAsTheyAre();
+    void cardOfThePeerRefreshesNameAndTip();
+    void cardOfAnotherJidChangesNothing();
+    void cardInAConferenceGoesToTheMemberList();
+    void typeOfCallIsKeptWhenTheCallIsCleared();
+    void photoOfTheContactIsShownRound();
+    void missingPhotoGivesTheNeutralHead();
+    void newCallAfterACloseStartsWithAnEmptyList();
+};
+
+void tst_VoipWidgetCalls::voiceCallShowsNameStateAndRequestControls_data()
+{
+    QTest::addColumn<bool>("myCall");
+    QTest::addColumn<QString>("status");
+    QTest::newRow("outgoing") << true << QStringLiteral("正在呼叫...");
+    QTest::newRow("incoming") << false << QStringLiteral("正在连接...");
+}
+
+void tst_VoipWidgetCalls::voiceCallShowsNameStateAndRequestControls()
+{
+    QFETCH(bool, myCall);
+    QFETCH(QString, status);
+    ContactFixture contacts;
+    contacts.addContact(QStringLiteral("ann"), ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
+    CVoipWidget window;
+    const Shown shown(window);
+
+    window.setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, CVoipWidget::Voice, myCall, false);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    QCOMPARE(window.windowTitle(), QStringLiteral("语音通话"));
+    QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("语音通话"));
+    QCOMPARE(shown.text("lblUserName"), QStringLiteral("Ann(Annie)"));
+    QCOMPARE(shown.text("lblStatus"), status);
+    QCOMPARE(shown.page("displayPane"), 0);
+    QCOMPARE(shown.page("controlPane"), 0);
+    QVERIFY(shown.label("lblUserName")->isVisible());
+    QVERIFY(shown.button("btnCancelCall")->isVisible());
+    QVERIFY(!shown.button("HangUp")->isVisible());
+    QVERIFY(shown.button("btnMuteAll")->isHidden());
+    QVERIFY(shown.label("currentPlayTimeLabel")->isHidden());
+}
+
+void tst_VoipWidgetCalls::videoCallShowsNameAndUidInTheTip()
+{
+    ContactFixture contacts;
+    contacts.addContact(QStringLiteral("ann"), ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
+    CVoipWidget window;
+    const Shown shown(window);
+
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Video, true, false);
+
+    QCOMPARE(window.windowTitle(), QStringLiteral("视频通话"));
+    QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("与Ann(Annie)(ann)通话中"));
+    QCOMPARE(shown.page("displayPane"), 1);
+    QVERIFY(shown.button("btnMuteAll")->isHidden());
+}
+
+void tst_VoipWidgetCalls::conferenceShowsMembersAndCount_data()
+{
+    QTest::addColumn<bool>("myCall");
+    QTest::newRow("mine: mute-all and invite are shown") << true;
+    QTest::newRow("joined: mute-all and invite are hidden") << false;
+}
+
+void tst_VoipWidgetCalls::conferenceShowsMembersAndCount()
+{
+    QFETCH(bool, myCall);
+    ContactFixture contacts;
+    CVoipWidget window;
+    const Shown shown(window);
+
+    window.setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, CVoipWidget::Conference, myCall, false);
+
+    QCOMPARE(window.windowTitle(), QStringLiteral("语音会议"));
+    QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("语音会议通话中"));
+    QCOMPARE(shown.text("lblListCount"), QStringLiteral("参与人员(2)"));
+    QCOMPARE(shown.page("displayPane"), 2);
+    QCOMPARE(shown.button("btnMuteAll")->isHidden(), !myCall);
+    QCOMPARE(shown.button("btnAddMember")->isHidden(), !myCall);
+    QCOMPARE(shown.rows()->rowCount(), 2);
+    QCOMPARE(shown.rows()->index(1, 0).data(ROLE_USER_ID).toString(), QStringLiteral("bob"));
+    QCOMPARE(shown.rows()->index(0, 0).data(ROLE_CALL_BY_ME).toBool(), myCall);
+}
+
+void tst_VoipWidgetCalls::emptyListChangesNothingForSingleCalls_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("voice") << int(CVoipWidget::Voice);
+    QTest::newRow("video") << int(CVoipWidget::Video);
+}
+
+void tst_VoipWidgetCalls::emptyListChangesNothingForSingleCalls()
+{
+    QFETCH(int, type);
+    ContactFixture contacts;
+    CVoipWidget window;
+    const Shown shown(window);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Conference, true, true);
+
+    window.setVoipCallInfo({}, CVoipWidget::VoipType(type), false, false);
+
+    QCOMPARE(window.windowTitle(), QStringLiteral("语音会议"));
+    QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("语音会议通话中"));
+    QCOMPARE(shown.page("displayPane"), 2);
+    QCOMPARE(shown.page("controlPane"), 1);
+    QVERIFY(!shown.button("btnMuteAll")->isHidden());
+    // The type is still that of a conference: a card goes to the list.
+    window.updateUserInfo(ContactFixture::jid(QStringLiteral("ann")), ContactFixture::card(QStringLiteral("A"), {}));
+    QCOMPARE(shown.rows()->index(0, 0).data(ROLE_DISPLAY_NAME).toString(), QStringLiteral("A"));
+}
+
+void tst_VoipWidgetCalls::emptyConferenceShowsCountZero()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    const Shown shown(window);
+
+    window.setVoipCallInfo({}, CVoipWidget::Conference, false, false);
+
+    QCOMPARE(window.windowTitle(), QStringLiteral("语音会议"));
+    QCOMPARE(shown.text("lblListCount"), QStringLiteral("参与人员(0)"));
+    QCOMPARE(shown.rows()->rowCount(), 0);
+}
+
+void tst_VoipWidgetCalls::otherTypeChangesNeitherPageNorTitle()
+{
+    ContactFixture contacts;
+    contacts.addContact(QStringLiteral("ann"), ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
+    CVoipWidget window;
+    const Shown shown(window);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+
+    window.setVoipCallInfo({QStringLiteral("bob")}, CVoipWidget::VoipType(7), false, true);
+
+    QCOMPARE(window.windowTitle(), QStringLiteral("语音通话"));
+    QCOMPARE(shown.page("displayPane"), 0);
+    QCOMPARE(shown.page("controlPane"), 1);
+    QCOMPARE(shown.text("lblStatus"), QStringLiteral("正在连接..."));
+    QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("与Ann(Annie)(ann)通话中"));
+}
+
+void tst_VoipWidgetCalls::connectedAtOnceShowsTheCallingControls()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, true);
+    QCOMPARE(Shown(window).page("controlPane"), 1);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+    QCOMPARE(Shown(window).page("controlPane"), 0);
+}
+
+void tst_VoipWidgetCalls::connectingStartsTheClock()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    const Shown shown(window);
+    const auto *clock = window.findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+    QVERIFY(!clock->isActive());
+
+    window.setVoipCallStatus(true);
+
+    QVERIFY(clock->isActive());
+    QVERIFY(!clock->isSingleShot());
+    QCOMPARE(clock->interval(), 1000);
+    QCOMPARE(shown.page("controlPane"), 1);
+    QCOMPARE(shown.text("lblStatus"), QStringLiteral("已接通"));
+    QVERIFY(!shown.label("currentPlayTimeLabel")->isHidden());
+}
+
+void tst_VoipWidgetCalls::droppedStatusGoesBackToRequestControlsAndTheClockRunsOn()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    const Shown shown(window);
+    const auto *clock = window.findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, false, false);
+    window.setVoipCallStatus(true);
+
+    window.setVoipCallStatus(false);
+
+    QCOMPARE(shown.page("controlPane"), 0);
+    QCOMPARE(shown.text("lblStatus"), QStringLiteral("正在呼叫..."));
+    QVERIFY(clock->isActive());
+    QVERIFY(!shown.label("currentPlayTimeLabel")->isHidden());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(!shown.label("currentPlayTimeLabel")->isVisible());
+    window.close();
+    QVERIFY(clock->isActive());
+}
+
+void tst_VoipWidgetCalls::clockShowsTheSecondsSinceConnecting()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    const Shown shown(window);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+    window.setVoipCallStatus(true);
+    QCOMPARE(shown.text("currentPlayTimeLabel"), QString());
+
+    auto *clock = window.findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    clock->setInterval(0);
+
+    QTRY_VERIFY(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")));
+}
+
+void tst_VoipWidgetCalls::unknownContactLeavesTheNameAsItWas()
+{
+    ContactFixture contacts;
+    contacts.addContact(QStringLiteral("ann"), ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
+    CVoipWidget window;
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+
+    window.setVoipCallInfo({QStringLiteral("stranger")}, CVoipWidget::Voice, true, false);
+
+    QCOMPARE(Shown(window).text("lblUserName"), QStringLiteral("Ann(Annie)"));
+}
+
+void tst_VoipWidgetCalls::oneOfTheTwoNamesIsEnough()
+{
+    ContactFixture contacts;
+    contacts.addContact(QStringLiteral("ann"), ContactFixture::card(QStringLiteral("Ann"), {}));
+    contacts.addContact(QStringLiteral("bob"), ContactFixture::card({}, QStringLiteral("Bobby")));
+    CVoipWidget window;
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+    QCOMPARE(Shown(window).text("lblUserName"), QStringLiteral("Ann()"));
+    window.setVoipCallInfo({QStringLiteral("bob")}, CVoipWidget::Voice, true, false);
+    QCOMPARE(Shown(window).text("lblUserName"), QStringLiteral("(Bobby)"));
+}
+
+void tst_VoipWidgetCalls::percentSignsInNamesStayAsTheyAre()
+{
+    ContactFixture contacts;
+    contacts.addContact(QStringLiteral("ann"), ContactFixture::card(QStringLiteral("%2"), QStringLiteral("%1")));
+    CVoipWidget window;
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Video, true, false);
+    QCOMPARE(Shown(window).text("lblVoipTipMsg"), QStringLiteral("与%2(%1)(ann)通话中"));
+}
+
+void tst_VoipWidgetCalls::cardOfThePeerRefreshesNameAndTip()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    const Shown shown(window);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Video, true, false);
+    window.setVoipCallStatus(true);
+
+    window.updateUserInfo(ContactFixture::jid(QStringLiteral("ann")),
+                          ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
+
+    QCOMPARE(shown.text("lblUserName"), QStringLiteral("Ann(Annie)"));
+    QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("与Ann(Annie)(ann)通话中"));
+    QCOMPARE(shown.text("lblStatus"), QStringLiteral("已接通"));
+}
+
+void tst_VoipWidgetCalls::cardOfAnotherJidChangesNothing()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    const Shown shown(window);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+    const QString strStatus = shown.text("lblStatus");
+    const qint64 iHead = shown.label("lblPhotoIcon")->pixmap(Qt::ReturnByValue).cacheKey();
+
+    const VcardInfo card = ContactFixture::card(QStringLiteral("Bob"), QStringLiteral("Bobby"));
+    window.updateUserInfo(ContactFixture::jid(QStringLiteral("bob")), card);
+    // A bare uid is not the peer's jid either.
+    window.updateUserInfo(QStringLiteral("ann"), card);
+
+    QCOMPARE(shown.text("lblUserName"), QString());
+    QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("语音通话"));
+    QCOMPARE(shown.text("lblStatus"), strStatus);
+    QCOMPARE(shown.label("lblPhotoIcon")->pixmap(Qt::ReturnByValue).cacheKey(), iHead);
+}
+
+void tst_VoipWidgetCalls::cardInAConferenceGoesToTheMemberList()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    const Shown shown(window);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Conference, true, false);
+
+    window.updateUserInfo(ContactFixture::jid(QStringLiteral("ann")),
+                          ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
+
+    QCOMPARE(shown.rows()->index(0, 0).data(ROLE_DISPLAY_NAME).toString(), QStringLiteral("Ann"));
+    QCOMPARE(shown.text("lblUserName"), QString());
+}
+
+void tst_VoipWidgetCalls::typeOfCallIsKeptWhenTheCallIsCleared()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    const Shown shown(window);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Conference, true, false);
+    window.close();
+    window.addConferenceMember(QStringLiteral("bob"));
+
+    window.updateUserInfo(ContactFixture::jid(QStringLiteral("bob")), ContactFixture::card(QStringLiteral("Bob"), {}));
+
+    QCOMPARE(shown.rows()->index(0, 0).data(ROLE_DISPLAY_NAME).toString(), QStringLiteral("Bob"));
+}
+
+void tst_VoipWidgetCalls::photoOfTheContactIsShownRound()
+{
+    const QString strPhoto = QDir::current().absoluteFilePath(QStringLiteral("ann.png"));
+    QImage photo(40, 40, QImage::Format_RGB32);
+    photo.fill(Qt::red);
+    QVERIFY(photo.save(strPhoto));
+    ContactFixture contacts;
+    contacts.addContact(QStringLiteral("ann"), ContactFixture::card(QStringLiteral("Ann"), {}, strPhoto));
+    CVoipWidget window;
+
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+
+    const QImage head = Shown(window).label("lblPhotoIcon")->pixmap(Qt::ReturnByValue).toImage();
+    QCOMPARE(head.size() / head.devicePixelRatio(), QSize(100, 100));
+    QCOMPARE(head.pixelColor(head.width() / 2, head.height() / 2), QColor(Qt::red));
+    QCOMPARE(head.pixelColor(0, 0).alpha(), 0);
+}
+
+void tst_VoipWidgetCalls::missingPhotoGivesTheNeutralHead()
+{
+    ContactFixture contacts;
+    contacts.addContact(QStringLiteral("ann"),
+                        ContactFixture::card(QStringLiteral("Ann"), {}, QStringLiteral("no/such/photo.png")));
+    CVoipWidget window;
+
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+
+    const QImage head = Shown(window).label("lblPhotoIcon")->pixmap(Qt::ReturnByValue).toImage();
+    QCOMPARE(head.pixelColor(head.width() / 2, head.height() / 2).alpha(), 255);
+    QCOMPARE(head.pixelColor(0, 0).alpha(), 0);
+}
+
+void tst_VoipWidgetCalls::newCallAfterACloseStartsWithAnEmptyList()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    const Shown shown(window);
+    window.setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, CVoipWidget::Conference, true, false);
+    window.close();
+    QCOMPARE(shown.rows()->rowCount(), 0);
+
+    window.setVoipCallInfo({QStringLiteral("cat")}, CVoipWidget::Conference, false, false);
+
+    QCOMPARE(shown.rows()->rowCount(), 1);
+    QCOMPARE(shown.text("lblListCount"), QStringLiteral("参与人员(1)"));
+}
+
+QTEST_MAIN(tst_VoipWidgetCalls)
+
+#include "tst_VoipWidgetCalls.moc"
