@@ -1,0 +1,25 @@
+#pragma once
+
+// Takes Qt's messages while it lives: the debug log's lines and Qt's own warnings. One at a time; GUI thread.
+
+#include <QStringList>
+
+class QtMessages
+{
+public:
+    QtMessages();
+    ~QtMessages();
+    QtMessages(const QtMessages &) = delete;
+    QtMessages &operator=(const QtMessages &) = delete;
+
+    /// The lines of the debug channel, oldest first.
+    QStringList debugLines;
+    /// The warnings and worse, oldest first.
+    QStringList warnings;
+
+private:
+    static void take(QtMsgType type, const QMessageLogContext &context, const QString &text);
+
+    static QtMessages *s_current;
+    QtMessageHandler m_previous = nullptr;
+};
