@@ -1,6 +1,7 @@
 #include "fakes/EngineFixture.h"
 
 #include "common/CommonFun.h"
+#include "fakes/QtMessages.h"
 #include "plugin/VoipManageMessageProcess.h"
 
 #include <QCoreApplication>
@@ -46,8 +47,10 @@ EngineFixture::EngineFixture(Start start)
 
     if (start == NoCallProcess)
         process.close();
+    const QtMessages messages;
     manager = std::make_unique<VoipManageProbe>();
     manager->use();
+    startWarnings = messages.warnings;
 }
 
 EngineFixture::~EngineFixture()

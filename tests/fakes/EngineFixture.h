@@ -59,6 +59,8 @@ public:
     MessageBoxes boxes;
     FakeCallProcess process;
     std::unique_ptr<VoipManageProbe> manager;
+    /// Qt's warnings while the engine was made.
+    QStringList startWarnings;
     /// Runs at the end of each host event's handling. May be empty.
     std::function<void(BaseEvent &)> whileHandled;
 

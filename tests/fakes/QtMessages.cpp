@@ -2,26 +2,28 @@
 
 #include <QDebug>
 
-QtMessages *QtMessages::s_current = nullptr;
+QtMessages *QtMessages::s_innermost = nullptr;
 
-QtMessages::QtMessages()
+QtMessages::QtMessages() : m_pOuter(s_innermost)
 {
-    s_current = this;
+    s_innermost = this;
     m_previous = qInstallMessageHandler(&QtMessages::take);
 }
 
 QtMessages::~QtMessages()
 {
     qInstallMessageHandler(m_previous);
-    s_current = nullptr;
+    s_innermost = m_pOuter;
 }
 
 void QtMessages::take(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    if (type == QtFatalMsg)
-        s_current->m_previous(type, context, text);
-    else if (type == QtDebugMsg)
-        s_current->debugLines.append(text);
-    else if (type != QtInfoMsg)
-        s_current->warnings.append(text);
+    for (QtMessages *messages = s_innermost; messages; messages = messages->m_pOuter) {
+        if (type == QtDebugMsg)
+            messages->debugLines.append(text);
+        else if (type == QtFatalMsg && !messages->m_pOuter)
+            messages->m_previous(type, context, text);
+        else if (type != QtInfoMsg)
+            messages->warnings.append(text);
+    }
 }

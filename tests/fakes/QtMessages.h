@@ -1,6 +1,7 @@
 #pragma once
 
-// Takes Qt's messages while it lives: the debug log's lines and Qt's own warnings. One at a time; GUI thread.
+// Takes Qt's messages while it lives: the debug log's lines and Qt's own warnings. They can stand inside one another;
+// each then has the messages of its own time. GUI thread.
 
 #include <QStringList>
 
@@ -20,6 +21,7 @@ public:
 private:
     static void take(QtMsgType type, const QMessageLogContext &context, const QString &text);
 
-    static QtMessages *s_current;
+    static QtMessages *s_innermost;
+    QtMessages *m_pOuter;
     QtMessageHandler m_previous = nullptr;
 };
