@@ -4,13 +4,23 @@ set(VOIP_WARNINGS
     -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
     -Wnull-dereference -Wduplicated-cond -Wlogical-op -Wformat=2)
 
+# Every target sees the same Qt modules and is compiled with the same options, so that one precompiled header serves all.
+set(VOIP_QT Qt5::Core Qt5::Gui Qt5::Widgets Qt5::Network Qt5::Multimedia Qt5::Sql Qt5::Xml)
+
+file(WRITE ${CMAKE_BINARY_DIR}/voip_pch.cpp "")
+add_library(voip_pch OBJECT ${CMAKE_BINARY_DIR}/voip_pch.cpp)
+target_link_libraries(voip_pch PRIVATE ${VOIP_QT})
+target_precompile_headers(voip_pch PRIVATE
+    <QtCore/QtCore> <QtGui/QtGui> <QtWidgets/QtWidgets> <QtNetwork/QtNetwork>)
+set_target_properties(voip_pch PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+target_compile_options(voip_pch PRIVATE ${VOIP_WARNINGS} -fpch-preprocess -fPIC)
+
 # Compiler settings of the project's own code. Includes are written from src/ ("store/DB.h").
 function(voip_own_code target)
-  target_compile_options(${target} PRIVATE ${VOIP_WARNINGS} -fpch-preprocess)
+  target_compile_options(${target} PRIVATE ${VOIP_WARNINGS} -fpch-preprocess -fPIC)
   target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
-  target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
-  target_precompile_headers(${target} PRIVATE
-      <QtCore/QtCore> <QtGui/QtGui> <QtWidgets/QtWidgets> <QtNetwork/QtNetwork>)
+  target_link_libraries(${target} PRIVATE ${VOIP_QT})
+  target_precompile_headers(${target} REUSE_FROM voip_pch)
 endfunction()
 
 # voip_library(name SOURCES ... LINKS ...): the static library voip_name, known as Voip::name.
@@ -19,7 +29,7 @@ function(voip_library name)
   add_library(voip_${name} STATIC ${ARG_SOURCES})
   add_library(Voip::${name} ALIAS voip_${name})
   voip_own_code(voip_${name})
-  target_link_libraries(voip_${name} PUBLIC ${ARG_LINKS} Qt5::Core Qt5::Gui Qt5::Widgets Qt5::Network)
+  target_link_libraries(voip_${name} PUBLIC ${ARG_LINKS} ${VOIP_QT})
 endfunction()
 
 # voip_test(name SOURCES ... LINKS ... [ENV ...] [LABELS ...] [TIMEOUT s]): a Qt Test program, run in a folder,

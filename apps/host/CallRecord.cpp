@@ -17,8 +17,9 @@ constexpr OutcomeRow outcomes[] = {
 QString outcomeWord(int iResult)
 {
     for (const OutcomeRow &row : outcomes) {
-        if (row.result == iResult)
+        if (row.result == iResult) {
             return QString::fromLatin1(row.word);
+        }
     }
     return QString::number(iResult);
 }
@@ -27,7 +28,8 @@ QString durationText(qint64 iSeconds)
 {
     const qint64 all = qMax<qint64>(0, iSeconds);
     const QString tail = QStringLiteral("%1:%2").arg(all / 60 % 60).arg(all % 60, 2, 10, QLatin1Char('0'));
-    if (all < 3600)
+    if (all < 3600) {
         return tail;
+    }
     return QStringLiteral("%1:%2").arg(all / 3600).arg(tail.rightJustified(5, QLatin1Char('0')));
 }

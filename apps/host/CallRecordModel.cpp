@@ -27,15 +27,19 @@ int CallRecordModel::columnCount(const QModelIndex &parent) const
 
 QVariant CallRecordModel::data(const QModelIndex &index, int role) const
 {
-    if (!index.isValid() || index.row() >= m_records.size())
+    if (!index.isValid() || index.row() >= m_records.size()) {
         return QVariant();
+    }
     const CallRecord &record = m_records.at(index.row());
-    if (role == Qt::DisplayRole)
+    if (role == Qt::DisplayRole) {
         return text(record, index.column());
-    if (role == Qt::ForegroundRole && index.column() == Outcome && !record.connected)
+    }
+    if (role == Qt::ForegroundRole && index.column() == Outcome && !record.connected) {
         return QColor(0xc0, 0x39, 0x2b);
-    if (role == Qt::TextAlignmentRole && index.column() >= Connected)
+    }
+    if (role == Qt::TextAlignmentRole && index.column() >= Connected) {
         return int(Qt::AlignCenter);
+    }
     return QVariant();
 }
 
@@ -63,7 +67,8 @@ QVariant CallRecordModel::headerData(int section, Qt::Orientation orientation, i
 {
     static const QStringList titles = {tr("Who"),       tr("Call"),     tr("Outcome"),
                                        tr("Connected"), tr("Duration"), tr("Ended at")};
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return QVariant();
+    }
     return titles.value(section);
 }

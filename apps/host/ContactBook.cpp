@@ -54,8 +54,9 @@ void ContactBook::add(const Entry &entry)
 {
     const VcardInfo card = makeCard(entry);
     m_cards.emplace(entry.uid, card);
-    if (!entry.known)
+    if (!entry.known) {
         return;
+    }
     FriendData record(jidOf(entry.uid));
     record.setVcardInfo(card);
     m_friends.emplace(jidOf(entry.uid), record);

@@ -2,7 +2,8 @@
 
 #include "CallRecord.h"
 
-#include <QDataStream>
+#include "plugin/EventPayload.h"
+
 #include <QStringList>
 
 namespace {
@@ -39,51 +40,45 @@ constexpr EventRow rows[] = {
     {MSG_EXIT_VOIP, "quit", "", ""},
 };
 
-template <typename T>
-T take(QDataStream &in)
-{
-    T value{};
-    in >> value;
-    return value;
-}
-
-QString fieldText(char type, QDataStream &in)
+QString fieldText(char type, PayloadReader &in)
 {
     switch (type) {
     case 'b':
-        return take<bool>(in) ? QStringLiteral("yes") : QStringLiteral("no");
+        return in.take<bool>() ? QStringLiteral("yes") : QStringLiteral("no");
     case 'i':
-        return QString::number(take<qint32>(in));
+        return QString::number(in.take<qint32>());
     case 'q':
-        return QString::number(take<qint64>(in));
+        return QString::number(in.take<qint64>());
     case 'r': {
-        const qint32 result = take<qint32>(in);
+        const qint32 result = in.take<qint32>();
         return QStringLiteral("%1 %2").arg(result).arg(outcomeWord(result));
     }
     case 'p':
-        return take<qint64>(in) != 0 ? QStringLiteral("(address)") : QStringLiteral("(none)");
+        return in.take<qint64>() != 0 ? QStringLiteral("(address)") : QStringLiteral("(none)");
     case 'l':
-        return QLatin1Char('[') + take<QStringList>(in).join(QStringLiteral(", ")) + QLatin1Char(']');
+        return QLatin1Char('[') + in.takeTexts().join(QStringLiteral(", ")) + QLatin1Char(']');
     default:
-        return take<QString>(in);
+        return in.take<QString>();
     }
 }
 
 QString fieldsText(const char *fields, const QByteArray &payload)
 {
-    QDataStream in(payload);
+    PayloadReader in(payload);
     QStringList parts;
     const QStringList specs = QString::fromLatin1(fields).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    for (const QString &spec : specs)
+    for (const QString &spec : specs) {
         parts << spec.mid(2) + QLatin1Char('=') + fieldText(spec.at(0).toLatin1(), in);
+    }
     return parts.join(QStringLiteral(", "));
 }
 
 const EventRow *rowOf(EMsgId msgId)
 {
     for (const EventRow &row : rows) {
-        if (row.msgId == msgId)
+        if (row.msgId == msgId) {
             return &row;
+        }
     }
     return nullptr;
 }
@@ -93,8 +88,9 @@ const EventRow *rowOf(EMsgId msgId)
 QString EventWords::describe(EMsgId msgId, const QByteArray &payload)
 {
     const EventRow *row = rowOf(msgId);
-    if (row == nullptr)
+    if (row == nullptr) {
         return QString::number(msgId);
+    }
     const QString head = QStringLiteral("%1 %2").arg(int(msgId)).arg(QString::fromLatin1(row->words));
     const QString fields = fieldsText(row->fields, payload);
     return fields.isEmpty() ? head : head + QStringLiteral(": ") + fields;

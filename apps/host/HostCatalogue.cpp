@@ -30,8 +30,9 @@ constexpr Row rows[] = {
 QString HostCatalogue::translate(const char *, const char *sourceText, const char *, int) const
 {
     for (const Row &row : rows) {
-        if (std::strcmp(row.key, sourceText) == 0)
+        if (std::strcmp(row.key, sourceText) == 0) {
             return QString::fromUtf8(row.text);
+        }
     }
     return QString();
 }

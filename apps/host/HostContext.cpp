@@ -4,17 +4,45 @@
 
 #include "model/SystemSetData.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QThread>
+
+namespace {
+
+constexpr int drainMs = 2000;
+
+} // namespace
 
 HostContext::~HostContext()
 {
-    if (!m_logThread.isRunning())
+    if (!m_logThread.isRunning()) {
         return;
+    }
+    const QString lastWords = QStringLiteral("client closes %1").arg(QDateTime::currentMSecsSinceEpoch());
+    m_logThread.printLog(CustomLog::Info, QStringLiteral("HostContext"), lastWords);
+    // What is still queued when the thread is stopped stays unwritten, so the queue is given time to run empty.
+    QElapsedTimer clock;
+    clock.start();
+    while (!isInLog(lastWords) && !clock.hasExpired(drainMs)) {
+        QThread::msleep(1);
+    }
     m_logThread.stop();
     // A writer that waits on an empty queue leaves only after one more record.
     m_logThread.printLog(CustomLog::Info, QStringLiteral("HostContext"), QStringLiteral("log closed"));
     m_logThread.wait();
     m_pLogger->close();
+}
+
+bool HostContext::isInLog(const QString &strWords) const
+{
+    constexpr qint64 tail = 1024;
+    m_pLogger->flush();
+    QFile file(m_strLogFile);
+    return file.open(QIODevice::ReadOnly) && file.seek(qMax<qint64>(0, file.size() - tail)) &&
+           file.readAll().contains(strWords.toUtf8());
 }
 
 void HostContext::signIn(const QString &strUid, const QString &strDomain, const ContactBook &book)

@@ -20,7 +20,7 @@ class HostContext
 public:
     /// Nothing is opened yet.
     HostContext() = default;
-    /// Stops the log thread and closes the log file.
+    /// Lets the log thread write what is queued, for two seconds at most, stops it and closes the log file.
     ~HostContext();
     HostContext(const HostContext &) = delete;
     HostContext &operator=(const HostContext &) = delete;
@@ -36,6 +36,7 @@ public:
     QString logFile() const { return m_strLogFile; }
 
 private:
+    bool isInLog(const QString &strWords) const;
     void fillLogin(const QString &strUid, const QString &strDomain);
     void startLog(const QString &strFolder);
     void fillContacts(const ContactBook &book);

@@ -4,25 +4,16 @@
 #include "EventWords.h"
 
 #include "plugin/BaseEvent.h"
+#include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"
-
-#include <QDataStream>
 
 namespace {
 
-template <typename... T>
-void read(const BaseEvent &event, T &...fields)
+/// Rewrites the payload: that is how a question is answered.
+template <typename Value>
+void reply(BaseEvent &event, const Value &value)
 {
-    QDataStream in(event.data);
-    (in >> ... >> fields);
-}
-
-template <typename T>
-void reply(BaseEvent &event, const T &value)
-{
-    event.data.clear();
-    QDataStream out(&event.data, QIODevice::WriteOnly);
-    out << value;
+    event.data = packPayload(value);
 }
 
 } // namespace
@@ -49,14 +40,16 @@ void HostMailbox::customEvent(QEvent *event)
         {signListPluginId(), MSG_SHOW_SIGN_LIST, &HostMailbox::showSignature},
         {signListPluginId(), MSG_CLOSE_SIGN_LIST, &HostMailbox::hideSignature},
     };
-    if (event->type() != QEvent::User)
+    if (event->type() != QEvent::User) {
         return;
+    }
     auto &message = static_cast<BaseEvent &>(*event);
     const QString words = EventWords::describe(message.msgId, message.data);
     const QByteArray question = message.data;
     for (const Row &row : rows) {
-        if (row.msgId == message.msgId && row.receiver == message.receiverId)
+        if (row.msgId == message.msgId && row.receiver == message.receiverId) {
             (this->*row.handle)(message);
+        }
     }
     const bool answered = message.data != question;
     emit eventReceived(message.msgId, words, answered ? EventWords::answer(message.msgId, message.data) : QString());
@@ -64,74 +57,70 @@ void HostMailbox::customEvent(QEvent *event)
 
 void HostMailbox::promptCall(BaseEvent &event)
 {
-    QString uid;
-    bool conference = false;
-    bool video = false;
-    read(event, uid, conference, video);
+    PayloadReader in(event.data);
+    const auto uid = in.take<QString>();
+    const auto conference = in.take<bool>();
+    const auto video = in.take<bool>();
     emit callIncoming(uid, conference, video);
 }
 
 void HostMailbox::writeRecord(BaseEvent &event)
 {
+    PayloadReader in(event.data);
     CallRecord record;
-    qint32 result = 0;
-    read(event, record.video, record.uid, result, record.caller, record.connected, record.seconds);
-    record.result = result;
+    record.video = in.take<bool>();
+    record.uid = in.take<QString>();
+    record.result = in.take<qint32>();
+    record.caller = in.take<bool>();
+    record.connected = in.take<bool>();
+    record.seconds = in.take<qint64>();
     record.endedAt = QDateTime::currentDateTime();
     emit callFinished(record);
 }
 
 void HostMailbox::createConference(BaseEvent &event)
 {
-    QStringList uids;
-    read(event, uids);
-    emit conferenceWanted(uids);
+    emit conferenceWanted(PayloadReader(event.data).takeTexts());
 }
 
 void HostMailbox::pickMembers(BaseEvent &event)
 {
-    QStringList present;
-    read(event, present);
+    const QStringList present = PayloadReader(event.data).takeTexts();
     reply(event, m_picker ? m_picker(present) : QStringList());
 }
 
 void HostMailbox::findRecord(BaseEvent &event)
 {
-    QString jid;
-    read(event, jid);
-    // The receiver copies the record through this address before the delivery returns.
+    const auto jid = PayloadReader(event.data).take<QString>();
+    // The sender copies the record through this address before the delivery returns.
     reply(event, qint64(reinterpret_cast<quintptr>(m_book.record(jid))));
 }
 
 void HostMailbox::testFriend(BaseEvent &event)
 {
-    QString jid;
-    read(event, jid);
-    reply(event, m_book.isFriend(jid));
+    reply(event, m_book.isFriend(PayloadReader(event.data).take<QString>()));
 }
 
 void HostMailbox::fetchCards(BaseEvent &event)
 {
-    QStringList uids;
-    read(event, uids);
-    if (!uids.isEmpty())
+    const QStringList uids = PayloadReader(event.data).takeTexts();
+    if (!uids.isEmpty()) {
         emit cardsWanted(uids);
+    }
 }
 
 void HostMailbox::closePrompt(BaseEvent &event)
 {
-    QString jid;
-    read(event, jid);
-    emit promptWithdrawn(ContactBook::uidOf(jid));
+    emit promptWithdrawn(ContactBook::uidOf(PayloadReader(event.data).take<QString>()));
 }
 
 void HostMailbox::showSignature(BaseEvent &event)
 {
-    QString text;
-    qint32 x = 0;
-    qint32 y = 0;
-    qint32 height = 0;
-    read(event, text, x, y, height);
+    PayloadReader in(event.data);
+    const auto text = in.take<QString>();
+    const auto x = in.take<qint32>();
+    const auto y = in.take<qint32>();
+    const auto height = in.take<qint32>();
     emit signatureShown(text, x, y, height);
 }
 

@@ -5,31 +5,17 @@
 
 #include "common/CommonFun.h"
 #include "plugin/BaseEvent.h"
+#include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"
 #include "plugin/PluginInterface.h"
 
 #include <QCoreApplication>
-#include <QDataStream>
 #include <QPluginLoader>
 
-namespace {
-
-template <typename... T>
-QByteArray pack(const T &...fields)
+QString HostSession::loginDomain()
 {
-    QByteArray payload;
-    QDataStream out(&payload, QIODevice::WriteOnly);
-    (out << ... << fields);
-    return payload;
+    return QStringLiteral("im.example.org");
 }
-
-const QString &loginDomain()
-{
-    static const QString domain = QStringLiteral("im.example.org");
-    return domain;
-}
-
-} // namespace
 
 HostSession::HostSession(const ContactBook &book, QObject *parent) : QObject(parent), m_book(book), m_mailbox(book)
 {
@@ -61,46 +47,45 @@ bool HostSession::start(const QString &strModule, QString *strError)
 
 void HostSession::post(EMsgId msgId, const QByteArray &payload)
 {
-    if (m_pPlugin.isNull())
+    if (m_pPlugin.isNull()) {
         return;
+    }
     emit eventPassed(false, msgId, EventWords::describe(msgId, payload), QString());
     QCoreApplication::postEvent(m_pPlugin, new BaseEvent(msgId, sessionPluginId(), voipPluginId(), true, payload));
 }
 
 bool HostSession::ask(EMsgId msgId)
 {
-    if (m_pPlugin.isNull())
+    if (m_pPlugin.isNull()) {
         return false;
+    }
     BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false);
     const QString words = EventWords::describe(msgId, event.data);
     QCoreApplication::sendEvent(m_pPlugin, &event);
     emit eventPassed(false, msgId, words, EventWords::answer(msgId, event.data));
-    QDataStream in(event.data);
-    bool answer = false;
-    in >> answer;
-    return answer;
+    return PayloadReader(event.data).take<bool>();
 }
 
 void HostSession::setOnline(bool bOnline)
 {
     m_bOnline = bOnline;
     emit onlineChanged(bOnline);
-    post(MSG_CLIENT_CONNECT_STATUS, pack(bOnline));
+    post(MSG_CLIENT_CONNECT_STATUS, packPayload(bOnline));
 }
 
 void HostSession::callUser(const QString &strUid, bool bVideo)
 {
-    post(MSG_CALL_SINGLE_USER, pack(bVideo, strUid));
+    post(MSG_CALL_SINGLE_USER, packPayload(bVideo, strUid));
 }
 
 void HostSession::answerCall(bool bAccept)
 {
-    post(MSG_RESPONSE_VOIP_REQUEST, pack(bAccept));
+    post(MSG_RESPONSE_VOIP_REQUEST, packPayload(bAccept));
 }
 
 void HostSession::callConference(const QStringList &uids)
 {
-    post(MSG_CALL_CONFERENCE, pack(uids, QString(), false));
+    post(MSG_CALL_CONFERENCE, packPayload(uids, QString(), false));
 }
 
 void HostSession::sendCards(const QStringList &uids)
@@ -108,7 +93,7 @@ void HostSession::sendCards(const QStringList &uids)
     // The card is named by the full jid: that is what the call window compares with.
     for (const QString &uid : uids) {
         const auto address = qint64(reinterpret_cast<quintptr>(m_book.card(uid)));
-        post(MSG_UPDATE_USER_INFO, pack(m_book.jidOf(uid), address));
+        post(MSG_UPDATE_USER_INFO, packPayload(m_book.jidOf(uid), address));
     }
 }
 
@@ -124,8 +109,9 @@ bool HostSession::isVideoCall()
 
 void HostSession::quit()
 {
-    if (m_bQuit || m_pPlugin.isNull())
+    if (m_bQuit || m_pPlugin.isNull()) {
         return;
+    }
     m_bQuit = true;
     emit eventPassed(false, MSG_EXIT_VOIP, EventWords::describe(MSG_EXIT_VOIP, QByteArray()), QString());
     // Delivered at once: the process may end before the queue is read again.

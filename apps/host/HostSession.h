@@ -22,6 +22,9 @@ class HostSession : public QObject
 public:
     explicit HostSession(const ContactBook &book, QObject *parent = nullptr);
 
+    /// The domain that this client's users belong to.
+    static QString loginDomain();
+
     /// Signs the user in and loads the module at `strModule`. Returns false, with the reason in `strError`, when the
     /// file is not a plug-in of this client.
     bool start(const QString &strModule, QString *strError);

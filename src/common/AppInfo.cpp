@@ -36,7 +36,7 @@ bool AppInfo::IsPubicVersion()
 
 QString AppInfo::getApplicationLanguage()
 {
-    const QString strLanguage =
+    QString strLanguage =
         ConfigFile::getConfigValue(strAPP_INFO_FILE_PATH(), QStringLiteral("/languageSetting/language")).toString();
     if (!strLanguage.isEmpty()) {
         return strLanguage;

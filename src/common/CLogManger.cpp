@@ -5,6 +5,7 @@
 #include "common/CustomLogger.h"
 
 #include <cstring>
+#include <utility>
 
 CLogManger *CLogManger::m_pInstance = nullptr;
 

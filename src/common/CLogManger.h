@@ -59,8 +59,10 @@ public:
         return *this;
     }
 
-    /// The text of the record so far, and the stream that writes to it.
+    /// The text of the record so far.
     QString m_strMessage;
+
+    /// The stream that writes to it.
     std::unique_ptr<QTextStream> m_pTextStream;
 
 private:

@@ -5,10 +5,6 @@ QStringList PayloadReader::takeTexts()
     QStringList texts;
     const auto count = take<qint32>();
     for (qint32 i = 0; i < count; ++i) {
-        if (m_stream.atEnd()) {
-            m_stream.setStatus(QDataStream::ReadPastEnd);
-            break;
-        }
         const auto text = take<QString>();
         if (!isComplete()) {
             break;

@@ -51,6 +51,7 @@ private:
 template <typename Record>
 Record recordAt(qint64 address)
 {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the host writes the address as a number.
     const auto *record = reinterpret_cast<const Record *>(static_cast<quintptr>(address));
     return record == nullptr ? Record() : *record;
 }

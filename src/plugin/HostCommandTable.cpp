@@ -82,6 +82,6 @@ constexpr HostCommand commands[] = {
 };
 
 // The mailbox stands below the engine and cannot name these rows, so they enter themselves.
-const bool commandsAreSet = (setHostCommands(commands, static_cast<int>(std::size(commands))), true);
+[[maybe_unused]] const bool commandsAreSet = (setHostCommands(commands, static_cast<int>(std::size(commands))), true);
 
 } // namespace

@@ -63,7 +63,7 @@ FriendData VoipManageEventProcess::getFriendInfoByJid(QString strJid)
     const auto event = request<MSG_GET_FRIEND_INFO>(strJid);
     // Unanswered, the question's own bytes would be followed as an address.
     if (event->data == packPayload(strJid)) {
-        return FriendData();
+        return {};
     }
     return recordAt<FriendData>(PayloadReader(event->data).take<qint64>());
 }

@@ -44,7 +44,7 @@ bool VoipManagePlugin::disattachplugin(const QString &, EMsgId, const QString &)
 
 QStringList VoipManagePlugin::getRecListByMsgId(const QString &, EMsgId)
 {
-    return QStringList();
+    return {};
 }
 
 void VoipManagePlugin::setCommonData(CommonData *data)

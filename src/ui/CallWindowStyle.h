@@ -27,6 +27,5 @@ constexpr std::array<CallWindowStyleRow, 8> cCallWindowStyles{{
     {"currentPlayTimeLabel", "QLabel#currentPlayTimeLabel{color: #f3f3f3; font:14px 微软雅黑;}"},
 }};
 
-/// Sets the style sheets on the named children of `pWindow`, and plain dark text on white for what has none, whatever
-/// the desktop's own colours are.
+/// Sets the style sheets on the named children of `pWindow`.
 void applyCallWindowStyle(QWidget *pWindow);

@@ -29,6 +29,7 @@ CConferenceListView::CConferenceListView(QWidget *parent)
     verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
     setContextMenuPolicy(Qt::NoContextMenu);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setStyleSheet(strVerticalScrollBarNormalStyle);
     installEventFilter(this);
     connect(&m_statusTimer, &QTimer::timeout, this, &CConferenceListView::slot_UpdateCallStatu);
     setItemDelegateForColumn(0, m_pDelegate);

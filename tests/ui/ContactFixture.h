@@ -1,7 +1,7 @@
 #pragma once
 
-// A host context with one signed-in user and a few contacts, for the tests of the windows. Sets the shared context while
-// it lives and takes it away at its end.
+// A host context with one signed-in user and a few contacts, for the tests of the windows. Sets the shared context
+// while it lives and takes it away at its end.
 
 #include "common/CommonFun.h"
 #include "model/CommonData.h"

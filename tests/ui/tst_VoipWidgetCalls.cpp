@@ -1,9 +1,9 @@
 // How the call window is set up for each kind of call, and what it shows while the call runs.
 
+#include "ContactFixture.h"
 #include "ui/CallWindowStyle.h"
 #include "ui/ConferenceListView.h"
 #include "ui/ConferenceRoles.h"
-#include "ui/ContactFixture.h"
 #include "ui/VoipWidget.h"
 
 #include <QLabel>

@@ -1,0 +1,100 @@
+#include "callprocess/CallDesk.h"
+
+namespace {
+
+constexpr int FAILURE_AFTER_MS = 500;
+constexpr int CONNECT_AFTER_MS = 300;
+
+} // namespace
+
+CallDesk::CallDesk(Outlet &outlet, QObject *parent) : QObject(parent), m_outlet(outlet) {}
+
+CallDesk::~CallDesk() = default;
+
+void CallDesk::placeCall(const QString &userId)
+{
+    end();
+    m_robot = findRobot(userId);
+    enter(Phase::Calling);
+    if (m_robot == nullptr) {
+        m_outlet.note(QStringLiteral("nobody has the id %1").arg(userId));
+        after(FAILURE_AFTER_MS, [this] { finish(Code::CallFailed); });
+        return;
+    }
+    if (m_robot->reply != Reply::Silent) {
+        after(m_robot->replyAfterMs, [this] { reply(*m_robot); });
+    }
+}
+
+void CallDesk::ring(const Robot &robot)
+{
+    m_robot = &robot;
+    enter(Phase::Ringing);
+    m_outlet.notify(Code::IncomingCall, QString::fromLatin1(robot.id));
+    after(ROBOT_PATIENCE_MS, [this] { finish(Code::PeerCanceled); });
+}
+
+void CallDesk::accept()
+{
+    if (m_phase != Phase::Ringing) {
+        m_outlet.note(QStringLiteral("no call to accept"));
+        return;
+    }
+    enter(Phase::Ringing);
+    after(CONNECT_AFTER_MS, [this] { connectCall(*m_robot); });
+}
+
+void CallDesk::end()
+{
+    enter(Phase::None);
+    m_robot = nullptr;
+}
+
+void CallDesk::enter(Phase phase)
+{
+    m_phase = phase;
+    m_timers = std::make_unique<QObject>();
+}
+
+void CallDesk::after(int delayMs, const std::function<void()> &action)
+{
+    m_outlet.after(m_timers.get(), delayMs, action);
+}
+
+void CallDesk::reply(const Robot &robot)
+{
+    switch (robot.reply) {
+    case Reply::Answers:
+        connectCall(robot);
+        break;
+    case Reply::Busy:
+        finish(Code::PeerBusy);
+        break;
+    case Reply::Rejects:
+        finish(Code::PeerRejected);
+        if (robot.then != Return::Nothing) {
+            emit returnWanted(robot);
+        }
+        break;
+    case Reply::Fails:
+        finish(Code::CallFailed);
+        break;
+    case Reply::Silent:
+        break;
+    }
+}
+
+void CallDesk::connectCall(const Robot &robot)
+{
+    enter(Phase::Connected);
+    m_outlet.notify(Code::CallConnected);
+    if (robot.hangsUpAfterMs > 0) {
+        after(robot.hangsUpAfterMs, [this] { finish(Code::PeerHangup); });
+    }
+}
+
+void CallDesk::finish(Code code)
+{
+    end();
+    m_outlet.notify(code);
+}

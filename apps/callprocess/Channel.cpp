@@ -1,0 +1,186 @@
+#include "callprocess/Channel.h"
+
+#include "callprocess/SocketClaim.h"
+#include "callprocess/Trace.h"
+
+#include <QLocalSocket>
+
+#include <linux/sockios.h>
+#include <sys/ioctl.h>
+#include <utility>
+
+namespace {
+
+constexpr int PUMP_INTERVAL_MS = 1;
+constexpr int INPUT_LIMIT = 64 * 1024 * 1024;
+
+} // namespace
+
+Channel::Channel(QString serverName, Trace &trace, QObject *parent)
+    : QObject(parent), m_serverName(std::move(serverName)), m_trace(trace)
+{
+    m_server.setSocketOptions(QLocalServer::UserAccessOption);
+    m_pumpTimer.setSingleShot(true);
+    m_pumpTimer.setInterval(PUMP_INTERVAL_MS);
+    connect(&m_server, &QLocalServer::newConnection, this, &Channel::acceptClient);
+    connect(&m_pumpTimer, &QTimer::timeout, this, &Channel::pumpLater);
+}
+
+Channel::~Channel()
+{
+    drop();
+    stopListening();
+}
+
+Channel::Listen Channel::listen(QString *error)
+{
+    const SocketClaim claim(m_serverName);
+    if (m_server.isListening()) {
+        return Listen::Listening;
+    }
+    if (claim.isTaken()) {
+        return Listen::AnotherLives;
+    }
+    QLocalServer::removeServer(m_serverName);
+    if (!m_server.listen(m_serverName)) {
+        *error = m_server.errorString();
+        return Listen::Failed;
+    }
+    m_trace.event(QStringLiteral("listening at %1").arg(m_server.fullServerName()));
+    return Listen::Listening;
+}
+
+void Channel::stopListening()
+{
+    if (m_server.isListening()) {
+        // Closing removes the file by its path: under the lock, or a successor's file could go with it.
+        const SocketClaim claim(m_serverName);
+        m_server.close();
+        m_trace.event(QStringLiteral("stopped listening"));
+    }
+}
+
+void Channel::drop()
+{
+    if (m_client != nullptr) {
+        m_trace.event(QStringLiteral("dropped the client"));
+        releaseClient();
+        emit clientGone();
+    }
+}
+
+bool Channel::write(const QByteArray &bytes)
+{
+    if (m_client == nullptr) {
+        m_trace.event(QStringLiteral("nobody to tell: ") + Trace::printable(bytes));
+        return false;
+    }
+    m_output.append(bytes);
+    pump();
+    return true;
+}
+
+bool Channel::isAllWritten() const
+{
+    return m_client == nullptr || (m_output.isEmpty() && m_client->bytesToWrite() == 0);
+}
+
+void Channel::acceptClient()
+{
+    while (QLocalSocket *client = m_server.nextPendingConnection()) {
+        if (m_client != nullptr) {
+            m_trace.event(QStringLiteral("client replaced"));
+            releaseClient();
+            emit clientGone();
+        }
+        m_client = client;
+        connect(client, &QLocalSocket::readyRead, this, &Channel::readClient);
+        connect(client, &QLocalSocket::disconnected, this, [this] {
+            readClient();
+            if (m_client == nullptr) {
+                return;
+            }
+            m_trace.event(QStringLiteral("disconnected"));
+            releaseClient();
+            emit clientGone();
+        });
+        m_trace.event(QStringLiteral("connected"));
+        emit clientArrived();
+        readClient();
+    }
+}
+
+void Channel::releaseClient()
+{
+    if (!m_input.isEmpty()) {
+        m_trace.complaint(QStringLiteral("line without an end: ") + Trace::printable(m_input));
+    }
+    m_input.clear();
+    m_output.clear();
+    QLocalSocket *client = std::exchange(m_client, nullptr);
+    if (client != nullptr) {
+        client->disconnect(this);
+        client->abort();
+        client->deleteLater();
+    }
+    if (m_pumpTimer.isActive()) {
+        m_pumpTimer.start();
+    }
+}
+
+void Channel::readClient()
+{
+    if (m_client == nullptr) {
+        return;
+    }
+    int searchFrom = m_input.size();
+    m_input += m_client->readAll();
+    // All lines are taken out first: what a line leads to may close this connection.
+    QList<QByteArray> lines;
+    int begin = 0;
+    for (int end = m_input.indexOf('\n', searchFrom); end >= 0; end = m_input.indexOf('\n', begin)) {
+        lines.append(m_input.mid(begin, end - begin));
+        begin = end + 1;
+    }
+    m_input.remove(0, begin);
+    if (m_input.size() > INPUT_LIMIT) {
+        m_trace.complaint(QStringLiteral("%1 bytes without a line feed were dropped").arg(m_input.size()));
+        m_input.clear();
+    }
+    for (const QByteArray &line : std::as_const(lines)) {
+        m_trace.received(line);
+        emit lineReceived(line);
+    }
+}
+
+void Channel::pump()
+{
+    while (!m_output.isEmpty() && isLastWriteTaken()) {
+        const QByteArray bytes = m_output.takeFirst();
+        m_trace.sent(bytes);
+        m_client->write(bytes);
+        m_client->flush();
+    }
+    if (!isAllWritten()) {
+        m_pumpTimer.start();
+    }
+}
+
+void Channel::pumpLater()
+{
+    if (m_client != nullptr) {
+        pump();
+    }
+    if (isAllWritten()) {
+        emit allWritten();
+    }
+}
+
+bool Channel::isLastWriteTaken() const
+{
+    if (m_client->bytesToWrite() > 0) {
+        return false;
+    }
+    int unread = 0;
+    return ::ioctl(static_cast<int>(m_client->socketDescriptor()), SIOCOUTQ, &unread) != 0 || unread == 0;
+}

@@ -1,0 +1,160 @@
+#include "callprocess/Exchange.h"
+
+#include "callprocess/Trace.h"
+
+#include <array>
+
+/// Which function serves a command, null for one that a robot would not notice.
+struct ExchangeRow
+{
+    const char *command;
+    void (Exchange::*serve)(const Command &);
+
+    static const ExchangeRow *find(const QString &command);
+};
+
+const ExchangeRow *ExchangeRow::find(const QString &command)
+{
+    // clang-format off
+    static constexpr std::array<ExchangeRow, COMMANDS.size()> ROWS{{
+        {"RegeditUser",       &Exchange::registerUser},
+        {"UnReg",             &Exchange::unregisterUser},
+        {"CallUser",          &Exchange::callUser},
+        {"RequestConference", &Exchange::requestConference},
+        {"Add2Conference",    &Exchange::addToConference},
+        {"AcceptCall",        &Exchange::acceptCall},
+        {"AcceptConf",        &Exchange::acceptConference},
+        {"RejectCall",        &Exchange::endCall},
+        {"RejectConf",        &Exchange::endConference},
+        {"HangUpCall",        &Exchange::endCall},
+        {"HangupConf",        &Exchange::endConference},
+        {"ControlConf",       &Exchange::controlConference},
+        {"SetMicEnable",      nullptr},
+        {"SetSpeakerEnble",   nullptr},
+        {"SetCamreraEnable",  nullptr},
+        {"SetMicVolume",      nullptr},
+        {"SetSpeakerVolume",  nullptr},
+    }};
+    // clang-format on
+    for (const ExchangeRow &row : ROWS) {
+        if (command == QLatin1String(row.command)) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+Exchange::Exchange(Channel &channel, Trace &trace, double speed, QObject *parent)
+    : QObject(parent), m_trace(trace), m_outlet(channel, trace, speed), m_calls(m_outlet), m_conferences(m_outlet)
+{
+    connect(&m_calls, &CallDesk::returnWanted, this, &Exchange::letRobotReturn);
+}
+
+void Exchange::handleLine(const QByteArray &line)
+{
+    QString reason;
+    const std::optional<Command> command = parseCommand(line, &reason);
+    if (!command) {
+        m_trace.complaint(reason);
+        return;
+    }
+    reason = shapeFault(*command);
+    const ExchangeRow *row = ExchangeRow::find(command->name);
+    if (!reason.isEmpty() || row == nullptr) {
+        m_trace.complaint(reason);
+        return;
+    }
+    if (row->serve != nullptr) {
+        (this->*row->serve)(*command);
+    }
+}
+
+void Exchange::registerUser(const Command &command)
+{
+    const QString userId = command.text(1);
+    if (userId != m_userId) {
+        endAll();
+    }
+    m_userId = userId;
+    const bool registered = !m_userId.isEmpty();
+    m_outlet.notify(Code::SdkFlag, registered ? QStringLiteral("true") : QStringLiteral("false"));
+    m_outlet.notify(Code::SdkLog, registered ? QStringLiteral("registered %1").arg(m_userId)
+                                             : QStringLiteral("not registered: no user id"));
+}
+
+void Exchange::unregisterUser(const Command & /*command*/)
+{
+    endAll();
+    m_userId.clear();
+}
+
+void Exchange::callUser(const Command &command)
+{
+    if (m_userId.isEmpty()) {
+        m_outlet.note(QStringLiteral("the caller is not registered"));
+        m_outlet.notify(Code::CallFailed);
+        return;
+    }
+    m_conferences.end();
+    m_calls.placeCall(command.text(1));
+}
+
+void Exchange::requestConference(const Command &command)
+{
+    if (m_userId.isEmpty()) {
+        m_outlet.note(QStringLiteral("the caller is not registered"));
+        m_outlet.notify(Code::ConfCreated);
+        return;
+    }
+    m_calls.end();
+    m_conferences.request(m_userId, command.texts(2));
+}
+
+void Exchange::addToConference(const Command &command)
+{
+    m_conferences.add(command.texts(1));
+}
+
+void Exchange::acceptCall(const Command & /*command*/)
+{
+    m_calls.accept();
+}
+
+void Exchange::acceptConference(const Command & /*command*/)
+{
+    m_conferences.accept();
+}
+
+void Exchange::endCall(const Command & /*command*/)
+{
+    m_calls.end();
+}
+
+void Exchange::endConference(const Command & /*command*/)
+{
+    m_conferences.end();
+}
+
+void Exchange::controlConference(const Command &command)
+{
+    m_conferences.control(command.text(1), command.text(2));
+}
+
+void Exchange::letRobotReturn(const Robot &robot)
+{
+    m_outlet.after(this, robot.thenAfterMs, [this, &robot] {
+        if (m_userId.isEmpty() || m_calls.hasCall() || m_conferences.hasConference()) {
+            m_outlet.note(QStringLiteral("%1 finds the line busy or away").arg(QLatin1String(robot.name)));
+        } else if (robot.then == Return::Calls) {
+            m_calls.ring(robot);
+        } else {
+            m_conferences.invite(robot, m_userId);
+        }
+    });
+}
+
+void Exchange::endAll()
+{
+    m_calls.end();
+    m_conferences.end();
+}

@@ -1,0 +1,105 @@
+#include "callprocess/Options.h"
+
+#include <QCommandLineParser>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+struct OptionRow
+{
+    const char *option;
+    const char *variable; // empty: none
+    const char *value;
+    const char *text;
+};
+
+// clang-format off
+constexpr OptionRow SCENARIO    {"scenario",     "VOIPSDK_SCENARIO",     "FILE",   "run this scenario instead of the exchange of robots"};
+constexpr OptionRow TRACE       {"trace",        "VOIPSDK_TRACE",        "FILE",   "append a record of every line to this file, \"-\" for standard error"};
+constexpr OptionRow SPEED       {"speed",        "VOIPSDK_SPEED",        "FACTOR", "divide all delays by this"};
+constexpr OptionRow IDLE        {"idle-seconds", "VOIPSDK_IDLE_SECONDS", "N",      "end after this long without a client (600)"};
+constexpr OptionRow SOCKET_NAME {"socket-name",  "",                     "NAME",   "name of the local server (VoipSDK)"};
+// clang-format on
+
+QCommandLineOption optionOf(const OptionRow &row)
+{
+    QString text = QString::fromLatin1(row.text);
+    if (*row.variable != '\0') {
+        text += QStringLiteral(" [%1]").arg(QLatin1String(row.variable));
+    }
+    return {QString::fromLatin1(row.option), text, QString::fromLatin1(row.value)};
+}
+
+void addOptions(QCommandLineParser &parser)
+{
+    for (const OptionRow &row : {SCENARIO, TRACE, SPEED, IDLE, SOCKET_NAME}) {
+        parser.addOption(optionOf(row));
+    }
+    parser.addOption({QStringLiteral("help"), QStringLiteral("print this")});
+}
+
+QString valueOf(const QCommandLineParser &parser, const OptionRow &row)
+{
+    const QString option = QString::fromLatin1(row.option);
+    if (parser.isSet(option) || *row.variable == '\0') {
+        return parser.value(option);
+    }
+    return qEnvironmentVariable(row.variable);
+}
+
+/// Leaves `number` as it is when nothing was given.
+bool readNumber(const QCommandLineParser &parser, const OptionRow &row, double least, double *number, QString *error)
+{
+    const QString text = valueOf(parser, row);
+    if (text.isEmpty()) {
+        return true;
+    }
+    bool valid = false;
+    const double value = text.toDouble(&valid);
+    if (!valid || !std::isfinite(value) || value < least || value > 1e6) {
+        *error = QStringLiteral("--%1: bad number \"%2\"").arg(QLatin1String(row.option), text);
+        return false;
+    }
+    *number = value;
+    return true;
+}
+
+} // namespace
+
+bool Options::read(const QStringList &arguments, QString *error)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    if (!parser.parse(arguments)) {
+        *error = parser.errorText();
+        return false;
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        *error = QStringLiteral("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst());
+        return false;
+    }
+    help = parser.isSet(QStringLiteral("help"));
+    scenario = valueOf(parser, SCENARIO);
+    trace = valueOf(parser, TRACE);
+    const QString name = valueOf(parser, SOCKET_NAME);
+    if (!name.isEmpty()) {
+        socketName = name;
+    }
+    return readNumber(parser, SPEED, 0.001, &speed, error) && readNumber(parser, IDLE, 0.0, &idleSeconds, error);
+}
+
+QString Options::helpText()
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    parser.setApplicationDescription(QStringLiteral("Stands in for the call process of the voice and video plug-in."));
+    return parser.helpText();
+}
+
+int scaledDelay(int milliseconds, double speed)
+{
+    return static_cast<int>(std::min<double>(milliseconds / speed, std::numeric_limits<int>::max()));
+}

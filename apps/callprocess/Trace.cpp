@@ -1,0 +1,86 @@
+#include "callprocess/Trace.h"
+
+#include <QTextCodec>
+
+#include <cstdio>
+
+namespace {
+
+constexpr ushort CONTROL_PICTURES = 0x2400;
+constexpr ushort DELETE_PICTURE = 0x2421;
+
+} // namespace
+
+Trace::Trace()
+{
+    m_clock.start();
+}
+
+bool Trace::open(const QString &path, QString *error)
+{
+    if (path.isEmpty()) {
+        return true;
+    }
+    m_onStandardError = path == QLatin1String("-");
+    // Appended and unbuffered: a predecessor's records stay, and a killed process leaves all of its own.
+    const QIODevice::OpenMode mode = QIODevice::Append | QIODevice::Unbuffered;
+    m_file.setFileName(path);
+    const bool open = m_onStandardError ? m_file.open(stderr, mode) : m_file.open(mode);
+    if (!open) {
+        *error = QStringLiteral("cannot write the trace %1: %2").arg(path, m_file.errorString());
+    }
+    return open;
+}
+
+void Trace::received(const QByteArray &line)
+{
+    record('<', printable(line));
+}
+
+void Trace::sent(const QByteArray &bytes)
+{
+    if (bytes.endsWith('\n')) {
+        record('>', printable(bytes.left(bytes.size() - 1)));
+    } else {
+        record('>', printable(bytes) + QChar(0x2026));
+    }
+}
+
+void Trace::event(const QString &text)
+{
+    record('=', text);
+}
+
+void Trace::complaint(const QString &text)
+{
+    record('!', text);
+}
+
+QString Trace::printable(const QByteArray &bytes)
+{
+    QTextCodec::ConverterState state;
+    QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    if (state.invalidChars > 0 || state.remainingChars > 0) {
+        text.clear();
+        for (const char byte : bytes) {
+            const auto value = static_cast<uchar>(byte);
+            text += value < 0x80 ? QString(QChar(value)) : QString::asprintf("\\x%02X", value);
+        }
+    }
+    for (QChar &character : text) {
+        if (character.unicode() < 0x20) {
+            character = QChar(static_cast<ushort>(CONTROL_PICTURES + character.unicode()));
+        } else if (character.unicode() == 0x7F) {
+            character = QChar(DELETE_PICTURE);
+        }
+    }
+    return text;
+}
+
+void Trace::record(char direction, const QString &text)
+{
+    if (m_file.isOpen()) {
+        const QString line = QStringLiteral("%1 %2 %3\n").arg(m_clock.elapsed()).arg(QLatin1Char(direction)).arg(text);
+        m_file.write(line.toUtf8());
+    }
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+// The record of everything that goes over the channel and happens around it, one record a line, written at once:
+//     ms dir text
+// ms is a monotonic time since the process began; dir is "<" from the plug-in, ">" to the plug-in, "=" an event,
+// "!" a complaint. Owned by main; main thread. Without a file all records are dropped.
+
+#include <QByteArray>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QString>
+
+class Trace
+{
+public:
+    Trace();
+
+    /// Appends to the file at `path`, "-" being standard error. An empty path leaves the trace off. False with `error`
+    /// set when the file cannot be opened.
+    bool open(const QString &path, QString *error);
+
+    /// Whether the records go to standard error.
+    bool isOnStandardError() const { return m_onStandardError; }
+
+    /// One line that came in, without its line feed.
+    void received(const QByteArray &line);
+    /// The bytes of one write: a final line feed is not shown, bytes that end in the middle of a line end in "…".
+    void sent(const QByteArray &bytes);
+    void event(const QString &text);
+    void complaint(const QString &text);
+
+    /// The bytes as one line of text: control characters as their pictures (a line feed is "␊", a NUL "␀"), bytes that
+    /// are no UTF-8 as \xNN.
+    static QString printable(const QByteArray &bytes);
+
+private:
+    void record(char direction, const QString &text);
+
+    QElapsedTimer m_clock;
+    QFile m_file;
+    bool m_onStandardError = false;
+};

@@ -1,0 +1,122 @@
+#include "callprocess/Wire.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace {
+
+QString parameterKey(int number)
+{
+    return QStringLiteral("param%1").arg(number);
+}
+
+bool hasType(const QJsonValue &value, char type)
+{
+    switch (type) {
+    case 's':
+        return value.isString();
+    case 'b':
+        return value.isBool();
+    case 'i':
+        return value.isDouble() && value.toDouble() == static_cast<double>(static_cast<qint64>(value.toDouble()));
+    default:
+        break;
+    }
+    if (value.isNull()) {
+        return true;
+    }
+    const QJsonArray array = value.toArray();
+    return value.isArray() && std::all_of(array.begin(), array.end(), [](const QJsonValue &v) { return v.isString(); });
+}
+
+} // namespace
+
+QJsonValue Command::parameter(int number) const
+{
+    return object.value(parameterKey(number));
+}
+
+QString Command::text(int number) const
+{
+    return parameter(number).toString();
+}
+
+QStringList Command::texts(int number) const
+{
+    QStringList list;
+    const QJsonArray array = parameter(number).toArray();
+    for (const QJsonValue &value : array) {
+        if (value.isString()) {
+            list.append(value.toString());
+        }
+    }
+    return list;
+}
+
+const CommandRow *findCommand(const QString &name)
+{
+    const auto *row = std::find_if(COMMANDS.begin(), COMMANDS.end(),
+                                   [&](const CommandRow &entry) { return name == QLatin1String(entry.name); });
+    return row == COMMANDS.end() ? nullptr : row;
+}
+
+bool isNotification(int code)
+{
+    return std::any_of(NOTIFICATIONS.begin(), NOTIFICATIONS.end(),
+                       [code](const NotificationRow &row) { return static_cast<int>(row.code) == code; });
+}
+
+std::optional<Command> parseCommand(const QByteArray &line, QString *reason)
+{
+    QJsonParseError error{};
+    const QJsonDocument document = QJsonDocument::fromJson(line, &error);
+    if (error.error != QJsonParseError::NoError) {
+        *reason = QStringLiteral("not JSON: %1 at byte %2").arg(error.errorString()).arg(error.offset);
+        return std::nullopt;
+    }
+    if (!document.isObject()) {
+        *reason = QStringLiteral("not an object");
+        return std::nullopt;
+    }
+    Command command;
+    command.object = document.object();
+    const QJsonValue name = command.object.value(QStringLiteral("messagetype"));
+    if (!name.isString()) {
+        *reason = QStringLiteral("no text \"messagetype\"");
+        return std::nullopt;
+    }
+    command.name = name.toString();
+    return command;
+}
+
+QString shapeFault(const Command &command)
+{
+    const CommandRow *row = findCommand(command.name);
+    if (row == nullptr) {
+        return QStringLiteral("unknown command \"%1\"").arg(command.name);
+    }
+    int number = 0;
+    for (const char *type = row->parameters; *type != '\0'; ++type) {
+        ++number;
+        const QJsonValue value = command.parameter(number);
+        if (value.isUndefined()) {
+            return QStringLiteral("%1 lacks param%2").arg(command.name).arg(number);
+        }
+        if (!hasType(value, *type)) {
+            return QStringLiteral("%1 has a param%2 of the wrong type").arg(command.name).arg(number);
+        }
+    }
+    if (command.object.size() != number + 1) {
+        return QStringLiteral("%1 has keys that it does not use").arg(command.name);
+    }
+    return {};
+}
+
+QByteArray notificationLine(int code, const QString &content)
+{
+    const QJsonObject object{{QStringLiteral("resultCode"), code}, {QStringLiteral("content"), content}};
+    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+}

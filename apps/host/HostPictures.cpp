@@ -1,0 +1,82 @@
+#include "HostPictures.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+const QColor &lineColour()
+{
+    static const QColor green(0x2f, 0x80, 0x38);
+    return green;
+}
+
+QPixmap canvas(int iSize)
+{
+    const qreal ratio = qGuiApp->devicePixelRatio();
+    QPixmap pixmap(QSize(iSize, iSize) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    return pixmap;
+}
+
+} // namespace
+
+QPixmap HostPictures::head(const QString &strName, const QString &strUid, int iSize, bool bOnline)
+{
+    QPixmap pixmap = canvas(iSize);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromHsv(int(strUid.toULongLong() * 67 % 360), 110, 190));
+    painter.drawEllipse(QRectF(0, 0, iSize, iSize));
+
+    QFont font = painter.font();
+    font.setPixelSize(iSize * 45 / 100);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(QRectF(0, 0, iSize, iSize), Qt::AlignCenter, strName.left(1));
+
+    const qreal dot = iSize * 0.28;
+    painter.setPen(QPen(Qt::white, iSize * 0.05));
+    painter.setBrush(bOnline ? QColor(0x33, 0xaf, 0x56) : QColor(0xc8, 0xc8, 0xc8));
+    painter.drawEllipse(QRectF(iSize - dot - 1, iSize - dot - 1, dot, dot));
+    return pixmap;
+}
+
+QIcon HostPictures::call()
+{
+    constexpr int size = 36;
+    QPixmap pixmap = canvas(size);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(size / 2.0, size / 2.0);
+    painter.rotate(-135);
+    painter.setPen(QPen(lineColour(), 5, Qt::SolidLine, Qt::FlatCap));
+    painter.drawArc(QRectF(-13, -7, 26, 26), 25 * 16, 130 * 16);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(lineColour());
+    painter.drawRoundedRect(QRectF(-16, -3, 9, 9), 3, 3);
+    painter.drawRoundedRect(QRectF(7, -3, 9, 9), 3, 3);
+    return QIcon(pixmap);
+}
+
+QIcon HostPictures::video()
+{
+    constexpr int size = 36;
+    QPixmap pixmap = canvas(size);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(lineColour());
+    painter.drawRoundedRect(QRectF(3, 9, 19, 18), 4, 4);
+    QPainterPath lens;
+    lens.moveTo(24, 16);
+    lens.lineTo(33, 10);
+    lens.lineTo(33, 26);
+    lens.lineTo(24, 20);
+    lens.closeSubpath();
+    painter.drawPath(lens);
+    return QIcon(pixmap);
+}

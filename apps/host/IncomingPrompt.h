@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+class ContactBook;
+
+namespace Ui {
+class IncomingPrompt;
+}
+
+/// The prompt of an incoming call, in the lower right corner of the screen: who calls, accept, reject. Not modal.
+/// Closing the window rejects. GUI thread; it does not count for Qt's quit-on-last-window-closed.
+class IncomingPrompt : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit IncomingPrompt(const ContactBook &book, QWidget *parent = nullptr);
+    ~IncomingPrompt() override;
+
+    /// Shows the prompt for the call of this user; a prompt that is still up changes over to the new call.
+    void prompt(const QString &strUid, bool bConference, bool bVideo);
+
+    /// Takes the prompt away without an answer, when it is this user's.
+    void withdraw(const QString &strUid);
+
+signals:
+    /// The user has answered; the prompt is gone.
+    void answered(const QString &strUid, bool bAccept);
+
+public slots:
+    /// Escape, or the window's own close button.
+    void reject() override;
+
+private:
+    void answer(bool bAccept);
+
+    std::unique_ptr<Ui::IncomingPrompt> ui;
+    const ContactBook &m_book;
+    QString m_strUid;
+};

@@ -1,0 +1,123 @@
+#include "MainWindow.h"
+#include "ui_MainWindow.h"
+
+#include "ContactBook.h"
+#include "ContactRow.h"
+#include "HostPictures.h"
+#include "HostSession.h"
+#include "MemberPicker.h"
+
+#include <QCloseEvent>
+
+MainWindow::MainWindow(HostSession &session, const ContactBook &book)
+    : ui(std::make_unique<Ui::MainWindow>()), m_session(session), m_book(book), m_records(book), m_prompt(book)
+{
+    ui->setupUi(this);
+    m_signature.setWindowFlags(Qt::ToolTip);
+    m_signature.setMargin(10);
+    fillHeader();
+    fillContacts();
+    setUpRecords();
+    connectSession();
+    showOnline(m_session.isOnline());
+    connect(ui->btnOnline, &QPushButton::clicked, this, [this](bool bChecked) { m_session.setOnline(bChecked); });
+    connect(ui->btnCallNumber, &QPushButton::clicked, this, &MainWindow::callNumber);
+    connect(ui->editNumber, &QLineEdit::returnPressed, this, &MainWindow::callNumber);
+    connect(ui->editNumber, &QLineEdit::textChanged, this,
+            [this](const QString &strText) { ui->btnCallNumber->setEnabled(!strText.trimmed().isEmpty()); });
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::fillHeader()
+{
+    ui->lblOwnName->setText(m_book.nameOf(ContactBook::ownUid()));
+    ui->lblOwnUid->setText(ContactBook::ownUid());
+}
+
+void MainWindow::fillContacts()
+{
+    for (const ContactBook::Entry &entry : m_book.entries()) {
+        auto *row = new ContactRow(entry, ui->contactRows);
+        connect(row, &ContactRow::callClicked, this, &MainWindow::call);
+        ui->contactRowsLayout->addWidget(row);
+    }
+    ui->contactRowsLayout->addStretch();
+}
+
+void MainWindow::setUpRecords()
+{
+    ui->tableRecords->setModel(&m_records);
+    QHeaderView *header = ui->tableRecords->horizontalHeader();
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(CallRecordModel::Who, QHeaderView::Stretch);
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    ui->tableRecords->verticalHeader()->setDefaultSectionSize(32);
+}
+
+void MainWindow::connectSession()
+{
+    HostMailbox &mailbox = m_session.mailbox();
+    connect(&m_session, &HostSession::onlineChanged, this, &MainWindow::showOnline);
+    connect(&mailbox, &HostMailbox::callFinished, this, &MainWindow::showRecord);
+    connect(&mailbox, &HostMailbox::callIncoming, this, [this](const QString &strUid, bool bConference, bool bVideo) {
+        statusBar()->showMessage(tr("%1 is calling").arg(m_book.nameOf(strUid)));
+        m_prompt.prompt(strUid, bConference, bVideo);
+    });
+    connect(&mailbox, &HostMailbox::promptWithdrawn, &m_prompt, &IncomingPrompt::withdraw);
+    connect(&m_prompt, &IncomingPrompt::answered, this,
+            [this](const QString &, bool bAccept) { m_session.answerCall(bAccept); });
+    connect(&mailbox, &HostMailbox::conferenceWanted, this, [this](const QStringList &uids) {
+        m_session.callConference(uids + MemberPicker::pick(m_book, uids, this));
+    });
+    connect(&mailbox, &HostMailbox::signatureShown, this, &MainWindow::showSignature);
+    connect(&mailbox, &HostMailbox::signatureHidden, &m_signature, &QLabel::hide);
+    mailbox.setMemberPicker([this](const QStringList &present) { return MemberPicker::pick(m_book, present, this); });
+}
+
+void MainWindow::call(const QString &strUid, bool bVideo)
+{
+    statusBar()->showMessage(tr("Calling %1").arg(m_book.nameOf(strUid)));
+    m_session.callUser(strUid, bVideo);
+}
+
+void MainWindow::callNumber()
+{
+    const QString number = ui->editNumber->text().trimmed();
+    if (number.isEmpty()) {
+        return;
+    }
+    ui->editNumber->clear();
+    call(number, false);
+}
+
+void MainWindow::showOnline(bool bOnline)
+{
+    const QString name = m_book.nameOf(ContactBook::ownUid());
+    ui->lblOwnHead->setPixmap(HostPictures::head(name, ContactBook::ownUid(), 44, bOnline));
+    ui->btnOnline->setChecked(bOnline);
+    ui->btnOnline->setText(bOnline ? tr("Online") : tr("Offline"));
+    statusBar()->showMessage(bOnline ? tr("Signed in as %1").arg(name) : tr("Signed out"));
+}
+
+void MainWindow::showRecord(const CallRecord &record)
+{
+    m_records.add(record);
+    const QString words = tr("Call with %1: %2").arg(m_book.nameOf(record.uid), outcomeWord(record.result));
+    statusBar()->showMessage(record.connected ? words + tr(" after %1").arg(durationText(record.seconds)) : words);
+}
+
+void MainWindow::showSignature(const QString &strText, int iX, int iY, int iHeight)
+{
+    m_signature.setText(m_book.nameOf(ContactBook::uidOf(strText)) + QLatin1Char('\n') + strText);
+    m_signature.adjustSize();
+    m_signature.move(iX, iY + iHeight);
+    m_signature.show();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    m_prompt.hide();
+    m_session.quit();
+    QMainWindow::closeEvent(event);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "CallRecordModel.h"
+#include "IncomingPrompt.h"
+
+#include <QLabel>
+#include <QMainWindow>
+
+#include <memory>
+
+class ContactBook;
+class HostSession;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// The demo's window: contacts with call buttons on the left, the records of finished calls on the right, the login
+/// switch on top. It owns the prompt of incoming calls. GUI thread; session and book must outlive it.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    MainWindow(HostSession &session, const ContactBook &book);
+    ~MainWindow() override;
+
+    /// The records shown.
+    const CallRecordModel &records() const { return m_records; }
+    /// The prompt of incoming calls, hidden while none rings.
+    IncomingPrompt &prompt() { return m_prompt; }
+
+protected:
+    /// Tells the plug-in that the client quits.
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void fillHeader();
+    void fillContacts();
+    void setUpRecords();
+    void connectSession();
+    void call(const QString &strUid, bool bVideo);
+    void callNumber();
+    void showOnline(bool bOnline);
+    void showRecord(const CallRecord &record);
+    void showSignature(const QString &strText, int iX, int iY, int iHeight);
+
+    std::unique_ptr<Ui::MainWindow> ui;
+    HostSession &m_session;
+    const ContactBook &m_book;
+    CallRecordModel m_records;
+    IncomingPrompt m_prompt;
+    QLabel m_signature;
+};

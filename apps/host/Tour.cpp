@@ -1,0 +1,120 @@
+#include "Tour.h"
+
+#include "TourWatch.h"
+#include "WindowProbe.h"
+
+#include <QWidget>
+
+namespace {
+
+constexpr int tickMs = 25;
+// Time for the window to be raised and for the compositor to paint it.
+constexpr int settleMs = 500;
+
+} // namespace
+
+Tour::Tour(TourWatch &watch, QList<TourStep> steps, const QString &strFolder)
+    : m_watch(watch), m_steps(std::move(steps)), m_strFolder(strFolder)
+{
+    connect(&m_timer, &QTimer::timeout, this, &Tour::tick);
+}
+
+void Tour::start()
+{
+    m_timer.start(tickMs);
+}
+
+void Tour::tick()
+{
+    m_watch.look();
+    switch (m_phase) {
+    case Beginning:
+        begin();
+        break;
+    case Waiting:
+        wait();
+        break;
+    case Settling:
+        settle();
+        break;
+    }
+}
+
+void Tour::begin()
+{
+    if (m_iStep == m_steps.size()) {
+        end(true);
+        return;
+    }
+    m_watch.mark();
+    TourWatch::say(QStringLiteral("[%1/%2] %3").arg(m_iStep + 1, 2).arg(m_steps.size()).arg(step().title));
+    m_seen.clear();
+    for (int i = 0; i < step().checks.size(); ++i) {
+        m_seen.append(false);
+    }
+    m_clock.start();
+    m_phase = Waiting;
+    if (step().act) {
+        step().act();
+    }
+}
+
+void Tour::wait()
+{
+    for (int i = 0; i < m_seen.size(); ++i) {
+        if (!m_seen.at(i) && step().checks.at(i).seen()) {
+            m_seen[i] = true;
+            TourWatch::say(QStringLiteral("     ok %1").arg(step().checks.at(i).words));
+        }
+    }
+    if (!m_seen.contains(false)) {
+        if (step().pictureOf && step().pictureOf() != nullptr) {
+            step().pictureOf()->raise();
+        }
+        m_clock.start();
+        m_phase = Settling;
+        return;
+    }
+    if (m_clock.hasExpired(step().limitMs)) {
+        for (int i = 0; i < m_seen.size(); ++i) {
+            if (!m_seen.at(i)) {
+                TourWatch::say(QStringLiteral("   MISS %1").arg(step().checks.at(i).words));
+            }
+        }
+        end(false);
+    }
+}
+
+void Tour::settle()
+{
+    if (!step().picture.isEmpty()) {
+        if (!m_clock.hasExpired(settleMs)) {
+            return;
+        }
+        if (!takePicture()) {
+            TourWatch::say(QStringLiteral("   MISS picture %1.png").arg(step().picture));
+            end(false);
+            return;
+        }
+        TourWatch::say(QStringLiteral("        picture             %1.png").arg(step().picture));
+    }
+    ++m_iStep;
+    m_phase = Beginning;
+}
+
+bool Tour::takePicture()
+{
+    const QString file = QStringLiteral("%1/%2.png").arg(m_strFolder, step().picture);
+    return step().pictureOf ? WindowProbe::savePicture(step().pictureOf(), file) : WindowProbe::saveScreen(file);
+}
+
+void Tour::end(bool bOk)
+{
+    m_timer.stop();
+    if (bOk) {
+        TourWatch::say(QStringLiteral("Tour: all %1 steps had their effect").arg(m_steps.size()));
+    } else {
+        TourWatch::say(QStringLiteral("Tour: FAILED at step %1: %2").arg(m_iStep + 1).arg(step().title));
+    }
+    emit finished(bOk);
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <functional>
+
+class QWidget;
+class TourWatch;
+
+/// One thing that must be seen to happen in a step.
+struct TourCheck
+{
+    QString words;
+    std::function<bool()> seen;
+};
+
+/// One step of the tour: what is done, what must then be seen, and of which window a picture is taken.
+struct TourStep
+{
+    QString title;
+    /// Runs once, at the beginning; must not open an event loop of its own. May be empty.
+    std::function<void()> act;
+    /// Each needs to be seen once, in any order.
+    QList<TourCheck> checks;
+    int limitMs = 15000;
+    /// Name of the picture without ".png"; empty for none.
+    QString picture = QString();
+    /// The window to take; one that gives null fails the step.
+    std::function<QWidget *()> pictureOf = nullptr;
+};
+
+/// Runs the steps one after the other, by a timer, so that the program under way is never blocked, and says each as it
+/// is seen to have happened. It ends at the first step that lacks an effect after its time limit. GUI thread.
+class Tour : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Pictures go to the folder `strFolder`. The watch must outlive the tour.
+    Tour(TourWatch &watch, QList<TourStep> steps, const QString &strFolder);
+
+    void start();
+
+signals:
+    /// The tour is over; false when a step lacked an effect.
+    void finished(bool bOk);
+
+private:
+    enum Phase
+    {
+        Beginning,
+        Waiting,
+        Settling
+    };
+
+    void tick();
+    void begin();
+    void wait();
+    void settle();
+    void end(bool bOk);
+    bool takePicture();
+    const TourStep &step() const { return m_steps.at(m_iStep); }
+
+    TourWatch &m_watch;
+    QList<TourStep> m_steps;
+    QString m_strFolder;
+    QTimer m_timer;
+    QElapsedTimer m_clock;
+    Phase m_phase = Beginning;
+    int m_iStep = 0;
+    QList<bool> m_seen;
+};

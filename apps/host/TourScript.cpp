@@ -1,0 +1,152 @@
+#include "TourScript.h"
+
+#include "CallProcess.h"
+#include "EventWords.h"
+#include "MainWindow.h"
+#include "TourWatch.h"
+#include "WindowProbe.h"
+
+TourScript::Action TourScript::pressContact(const char *strUid, const char *strButton) const
+{
+    const MainWindow *window = &m_stage.window;
+    return [window, strUid, strButton] {
+        WindowProbe::press(window->findChild<QWidget *>(QLatin1String(strUid)), strButton);
+    };
+}
+
+TourScript::Action TourScript::pressMain(const char *strButton) const
+{
+    const MainWindow *window = &m_stage.window;
+    return [window, strButton] { WindowProbe::press(window, strButton); };
+}
+
+TourScript::Action TourScript::pressCallWindow(const char *strButton) const
+{
+    return [strButton] { WindowProbe::press(WindowProbe::callWindow(), strButton); };
+}
+
+TourScript::Action TourScript::pressPrompt(const char *strButton) const
+{
+    MainWindow *window = &m_stage.window;
+    return [window, strButton] { WindowProbe::press(&window->prompt(), strButton); };
+}
+
+TourScript::Action TourScript::pressBox(const char *strButton) const
+{
+    return [strButton] { WindowProbe::press(WindowProbe::messageBox(), strButton); };
+}
+
+TourScript::Window TourScript::mainWindow() const
+{
+    return [window = &m_stage.window] { return window; };
+}
+
+TourScript::Window TourScript::prompt() const
+{
+    return [window = &m_stage.window] { return &window->prompt(); };
+}
+
+TourScript::Window TourScript::callWindow()
+{
+    return [] { return WindowProbe::callWindow(); };
+}
+
+TourScript::Window TourScript::messageBox()
+{
+    return [] { return WindowProbe::messageBox(); };
+}
+
+TourCheck TourScript::command(const char *strType, const QString &strPart) const
+{
+    const QString type = QString::fromLatin1(strType);
+    const QString words = QStringLiteral("the plug-in has written \"%1\"").arg(type);
+    return {strPart.isEmpty() ? words : words + QStringLiteral(" with ") + strPart,
+            [watch = &m_stage.watch, type, strPart] { return watch->commanded(type, strPart); }};
+}
+
+TourCheck TourScript::order(const char *strFirst, const char *strSecond) const
+{
+    const QString first = QString::fromLatin1(strFirst);
+    const QString second = QString::fromLatin1(strSecond);
+    return {QStringLiteral("\"%1\" came before \"%2\"").arg(first, second),
+            [watch = &m_stage.watch, first, second] { return watch->commandedInOrder(first, second); }};
+}
+
+TourCheck TourScript::code(int iCode, const char *strMeaning) const
+{
+    return {QStringLiteral("the call process has reported code %1, %2").arg(iCode).arg(QString::fromUtf8(strMeaning)),
+            [watch = &m_stage.watch, iCode] { return watch->notified(iCode); }};
+}
+
+TourCheck TourScript::told(int iMsgId, const QString &strPart) const
+{
+    const QString words = QStringLiteral("the plug-in has told the host: %1 %2").arg(iMsgId).arg(strPart);
+    return {words.trimmed(), [watch = &m_stage.watch, iMsgId, strPart] { return watch->told(iMsgId, strPart); }};
+}
+
+TourCheck TourScript::asked(int iMsgId, const QString &strPart) const
+{
+    const QString words = QStringLiteral("the host has told the plug-in: %1 %2").arg(iMsgId).arg(strPart);
+    return {words.trimmed(), [watch = &m_stage.watch, iMsgId, strPart] { return watch->asked(iMsgId, strPart); }};
+}
+
+TourCheck TourScript::record(int iResult, bool bCaller, bool bConnected) const
+{
+    const QString words =
+        QStringLiteral("the record of the %1 call says \"%2\", %3")
+            .arg(bCaller ? QStringLiteral("outgoing") : QStringLiteral("incoming"), outcomeWord(iResult),
+                 bConnected ? QStringLiteral("connected") : QStringLiteral("not connected"));
+    return {words, [watch = &m_stage.watch, iResult, bCaller, bConnected] {
+                return watch->recorded(iResult, bCaller, bConnected);
+            }};
+}
+
+TourCheck TourScript::shows(const char *strPart, const QString &strText)
+{
+    return {QStringLiteral("the call window shows %1").arg(strText),
+            [strPart, strText] { return WindowProbe::text(WindowProbe::callWindow(), strPart).contains(strText); }};
+}
+
+TourCheck TourScript::clockRuns()
+{
+    return {QStringLiteral("the call window's clock runs"), [] {
+                const QString clock = WindowProbe::text(WindowProbe::callWindow(), "currentPlayTimeLabel");
+                return !clock.isEmpty() && clock != QLatin1String("00:00");
+            }};
+}
+
+TourCheck TourScript::windowGone()
+{
+    return {QStringLiteral("the call window is gone"), [] {
+                const QWidget *window = WindowProbe::callWindow();
+                return window == nullptr || !window->isVisible();
+            }};
+}
+
+TourCheck TourScript::boxSays(const QString &strText)
+{
+    return {QStringLiteral("a message says %1").arg(strText),
+            [strText] { return WindowProbe::text(WindowProbe::messageBox(), "msgLabel") == strText; }};
+}
+
+TourCheck TourScript::boxGone()
+{
+    return {QStringLiteral("the message is gone"), [] { return WindowProbe::messageBox() == nullptr; }};
+}
+
+TourCheck TourScript::prompted(const QString &strName) const
+{
+    return {QStringLiteral("the prompt says who calls: %1").arg(strName),
+            [window = &m_stage.window, strName] { return WindowProbe::text(&window->prompt(), "lblName") == strName; }};
+}
+
+TourCheck TourScript::promptGone() const
+{
+    return {QStringLiteral("the prompt is gone"), [window = &m_stage.window] { return !window->prompt().isVisible(); }};
+}
+
+TourCheck TourScript::processes(int iCount) const
+{
+    return {iCount == 0 ? QStringLiteral("no call process runs") : QStringLiteral("the call process runs"),
+            [process = &m_stage.process, iCount] { return process->pids().size() == iCount; }};
+}

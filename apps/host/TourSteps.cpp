@@ -1,0 +1,264 @@
+#include "TourSteps.h"
+
+#include "CallProcess.h"
+#include "HostSession.h"
+#include "MainWindow.h"
+#include "TourScript.h"
+#include "TourWatch.h"
+#include "WindowProbe.h"
+
+#include "plugin/EMsgId.h"
+
+namespace {
+
+constexpr int resultCancelled = 21;
+constexpr int resultFailed = 22;
+constexpr int resultHungUp = 24;
+constexpr int resultBusy = 25;
+constexpr int resultRejected = 26;
+
+constexpr const char *answers = "30010001";
+constexpr const char *busy = "30010002";
+constexpr const char *rejects = "30010003";
+constexpr const char *silent = "30010004";
+constexpr const char *fails = "30010005";
+constexpr const char *hangsUp = "30010006";
+constexpr const char *callsBack = "30010007";
+
+// The texts of the windows, as a person sees them.
+constexpr const char *voiceTitle = "语音通话";
+constexpr const char *calling = "正在呼叫...";
+constexpr const char *connected = "已接通";
+constexpr const char *lineInUse = "正在通话中，请先结束当前通话";
+constexpr const char *noProcess = "音频通话初始化失败，请尝试重启客户端解决";
+constexpr const char *sureToClose = "确定要结束当前通话吗？";
+
+QString u(const char *strText)
+{
+    return QString::fromUtf8(strText);
+}
+
+QString param1(const char *strUid)
+{
+    return QStringLiteral("\"param1\":\"%1\"").arg(QLatin1String(strUid));
+}
+
+using Steps = QList<TourStep>;
+
+Steps signIn(const TourScript &s, const TourStage &stage)
+{
+    return {
+        {u("The client has loaded the plug-in and not spoken to it yet"),
+         {},
+         {{QStringLiteral("it is %1").arg(stage.session.pluginWords()), [] { return true; }},
+          s.processes(0),
+          {u("it has made no window"), [] { return WindowProbe::callWindow() == nullptr; }}}},
+        {u("Sign in"),
+         s.pressMain("btnOnline"),
+         {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=yes")), s.processes(1),
+          s.command("RegeditUser", param1("30010000")), s.command("RegeditUser", u("\"param4\":false"))},
+         30000,
+         u("demo-window"),
+         s.mainWindow()},
+        {u("Ask the plug-in whether there is a call"),
+         [session = &stage.session] { session->isExistCall(); },
+         {s.asked(MSG_IS_EXIST_CALL, u("call=no"))}},
+    };
+}
+
+Steps unanswered(const TourScript &s, const char *strUid, const char *strTitle, int iCode, const char *strMeaning,
+                 int iResult)
+{
+    return {{u(strTitle),
+             s.pressContact(strUid, "btnCall"),
+             {s.command("CallUser", param1(strUid)), s.shows("lblStatus", u(calling)), s.code(iCode, strMeaning),
+              s.told(MSG_CLOSE_AV_MSGBOX), s.record(iResult, true, false), s.windowGone()}}};
+}
+
+Steps cancel(const TourScript &s)
+{
+    return {
+        {u("Call Tom Baker, who never answers"),
+         s.pressContact(silent, "btnCall"),
+         {s.asked(MSG_CALL_SINGLE_USER), s.command("CallUser", param1(silent)), s.shows("lblVoipTipMsg", u(voiceTitle)),
+          s.shows("lblUserName", u("Tom Baker(Never answers)")), s.shows("lblStatus", u(calling))},
+         15000,
+         u("call-outgoing"),
+         s.callWindow()},
+        {u("Cancel it"),
+         s.pressCallWindow("btnCancelCall"),
+         {s.command("HangUpCall"), s.record(resultCancelled, true, false), s.windowGone()}},
+    };
+}
+
+Steps call(const TourScript &s, const char *strTitle, const QString &strPicture = QString())
+{
+    return {{u(strTitle),
+             s.pressContact(answers, "btnCall"),
+             {s.command("CallUser", param1(answers)), s.code(18, "connected"), s.shows("lblStatus", u(connected)),
+              s.clockRuns()},
+             15000,
+             strPicture,
+             strPicture.isEmpty() ? TourScript::Window() : s.callWindow()}};
+}
+
+Steps hangUp(const TourScript &s, const char *strTitle)
+{
+    return {{u(strTitle),
+             s.pressCallWindow("HangUp"),
+             {s.command("HangUpCall"), s.order("HangUpCall", "SetMicEnable"),
+              s.command("SetSpeakerEnble", u("\"param1\":true")), s.record(resultHungUp, true, true), s.windowGone()}}};
+}
+
+Steps duringCall(const TourScript &s)
+{
+    return {
+        {u("The demo with the call on the screen"), {}, {s.shows("lblStatus", u(connected))}, 15000, u("desktop"), {}},
+        {u("Switch the microphone off"),
+         s.pressCallWindow("btnMic"),
+         {s.command("SetMicEnable", u("\"param1\":false"))}},
+        {u("Try a second call meanwhile"),
+         s.pressContact(busy, "btnCall"),
+         {s.boxSays(u(lineInUse))},
+         15000,
+         u("message"),
+         s.messageBox()},
+        {u("Close the message; the call goes on"),
+         s.pressBox("closeBtn"),
+         {s.boxGone(), s.shows("lblStatus", u(connected))}},
+    };
+}
+
+Steps video(const TourScript &s, const TourStage &stage)
+{
+    return {
+        {u("Call 李雷 by video"),
+         s.pressContact(answers, "btnVideo"),
+         {s.command("CallUser", u("\"param2\":true")), s.code(18, "connected"),
+          s.shows("lblVoipTipMsg", u("与李雷(Answers)(30010001)通话中")), s.clockRuns()},
+         15000,
+         u("call-video"),
+         s.callWindow()},
+        {u("Ask the plug-in whether it is a video call: it always says no"),
+         [session = &stage.session] { session->isVideoCall(); },
+         {s.asked(MSG_IS_VIDEO_CALL, u("video=no"))}},
+        {u("Close the call window: it asks first"),
+         s.pressCallWindow("btnClose"),
+         {s.boxSays(u(sureToClose))},
+         15000,
+         u("close-question"),
+         s.messageBox()},
+        {u("Confirm"),
+         s.pressBox("acceptBtn"),
+         {s.order("SetMicEnable", "HangUpCall"), s.told(MSG_CALL_FINISHED, u("video=yes")),
+          s.record(resultHungUp, true, true), s.windowGone()}},
+    };
+}
+
+Steps farEnd(const TourScript &s)
+{
+    return {
+        {u("Call Anna Novak, who hangs up after a while"),
+         s.pressContact(hangsUp, "btnCall"),
+         {s.code(18, "connected"), s.clockRuns(), s.code(8, "hung up by the other side"),
+          s.record(resultHungUp, true, true), s.windowGone()},
+         30000},
+    };
+}
+
+Steps callBack(const TourScript &s, const char *strTitle, const QString &strPicture)
+{
+    return {{u(strTitle),
+             s.pressContact(callsBack, "btnCall"),
+             {s.told(MSG_GET_STRANGER_SMALL_VCARD, QLatin1String(callsBack)), s.asked(MSG_UPDATE_USER_INFO),
+              s.shows("lblUserName", u("韩梅梅(Calls you back)")), s.code(10, "rejected"),
+              s.record(resultRejected, true, false), s.code(0, "incoming call"), s.told(MSG_RECEVIE_VOIP_CALL),
+              s.prompted(u("韩梅梅"))},
+             20000,
+             strPicture,
+             strPicture.isEmpty() ? TourScript::Window() : s.prompt()}};
+}
+
+Steps incoming(const TourScript &s)
+{
+    return callBack(s, "Call the stranger 30010007: a card is fetched, the call rejected, and the stranger calls back",
+                    u("incoming-prompt")) +
+           Steps{
+               {u("Accept"),
+                s.pressPrompt("btnAccept"),
+                {s.asked(MSG_RESPONSE_VOIP_REQUEST, u("accept=yes")), s.command("AcceptCall"), s.promptGone(),
+                 s.code(18, "connected"), s.shows("lblStatus", u(connected)), s.clockRuns()},
+                15000,
+                u("call-incoming"),
+                s.callWindow()},
+               {u("Wait for the other side to hang up"),
+                {},
+                {s.code(8, "hung up by the other side"), s.record(resultHungUp, false, true), s.windowGone()},
+                40000},
+           } +
+           callBack(s, "Let the stranger call once more", QString()) +
+           Steps{{u("Reject"),
+                  s.pressPrompt("btnReject"),
+                  {s.asked(MSG_RESPONSE_VOIP_REQUEST, u("accept=no")), s.command("RejectCall"), s.promptGone(),
+                   s.record(resultRejected, false, false), s.windowGone()}}};
+}
+
+Steps offline(const TourScript &s)
+{
+    return call(s, "Call 李雷 again") +
+           Steps{
+               {u("Lose the login during the call"),
+                s.pressMain("btnOnline"),
+                {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=no")), s.order("HangUpCall", "UnReg"),
+                 s.command("UnReg", param1("30010000")), s.record(resultHungUp, true, true), s.windowGone()}},
+               {u("Sign in again"),
+                s.pressMain("btnOnline"),
+                {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=yes")), s.command("RegeditUser", param1("30010000"))}},
+           };
+}
+
+Steps killed(const TourScript &s, const TourStage &stage)
+{
+    return call(s, "Call 李雷 once more") +
+           Steps{
+               {u("Kill the call process: the call stays on the screen and its clock runs on"),
+                [process = &stage.process] { process->kill(); },
+                {s.processes(0), s.shows("lblStatus", u(connected)), s.clockRuns()}},
+               {u("Hang up: the call is over although nobody hears of it"),
+                s.pressCallWindow("HangUp"),
+                {s.record(resultHungUp, true, true), s.windowGone()}},
+               {u("Call 李雷: refused while there is no call process"),
+                s.pressContact(answers, "btnCall"),
+                {s.boxSays(u(noProcess))},
+                15000,
+                u("message-no-process"),
+                s.messageBox()},
+               {u("Close the message"), s.pressBox("closeBtn"), {s.boxGone()}},
+               {u("Start the call process again: the plug-in finds it by itself and registers the user"),
+                [process = &stage.process] { process->start(); },
+                {s.processes(1), s.command("RegeditUser", param1("30010000"))},
+                60000},
+           };
+}
+
+Steps leave(const TourScript &s, const TourStage &stage)
+{
+    return {{u("Close the client"),
+             [window = &stage.window] { window->close(); },
+             {s.asked(MSG_EXIT_VOIP),
+              {u("the plug-in has written the line quit"), [watch = &stage.watch] { return watch->quitLine(); }},
+              s.processes(0)}}};
+}
+
+} // namespace
+
+QList<TourStep> tourSteps(const TourStage &stage)
+{
+    const TourScript s(stage);
+    return signIn(s, stage) + cancel(s) + unanswered(s, busy, "Call Maria Silva, who is busy", 22, "busy", resultBusy) +
+           unanswered(s, rejects, "Call 王芳, who rejects", 10, "rejected", resultRejected) +
+           unanswered(s, fails, "Call 赵强: the call fails", 19, "failed", resultFailed) +
+           call(s, "Call 李雷, who answers", u("call-connected")) + duringCall(s) + hangUp(s, "Hang up") +
+           video(s, stage) + farEnd(s) + incoming(s) + offline(s) + killed(s, stage) +
+           call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + leave(s, stage);
+}

@@ -1,0 +1,75 @@
+// The call window's conference side: the members, their count, and what the member list asks for.
+
+#include "ui/VoipWidget.h"
+
+#include "ui_VoipWidget.h"
+
+void CVoipWidget::addConferenceMember(QString strUserID)
+{
+    if (m_memberList.contains(strUserID))
+        return;
+    ui->listView->addUser(strUserID);
+    m_memberList.append(strUserID);
+    refreshMemberCount();
+}
+
+void CVoipWidget::removeConferenceMember(QString strUserID)
+{
+    ui->listView->removeUser(strUserID);
+    m_memberList.removeOne(strUserID);
+    refreshMemberCount();
+}
+
+void CVoipWidget::updateConferenceListStatus(QList<QString> list)
+{
+    ui->listView->updateConferenceListStatus(list);
+}
+
+void CVoipWidget::setConferenceCreator(QString strCreator)
+{
+    m_strCreator = strCreator;
+    ui->listView->setConferenceCreator(strCreator);
+}
+
+void CVoipWidget::setaddConfFailedList(QList<QString> list)
+{
+    ui->listView->setAddConfFailedList(list);
+}
+
+void CVoipWidget::updateConferenceUserStatus(QString strUserID, qlonglong iStatus)
+{
+    ui->listView->updateConferenceUserStatus(strUserID, iStatus);
+}
+
+void CVoipWidget::refreshMemberCount()
+{
+    ui->lblListCount->setText(QStringLiteral("参与人员(%1)").arg(m_memberList.size()));
+}
+
+void CVoipWidget::slot_AddConferenceMember()
+{
+    emit signal_AddConferenceMember();
+}
+
+void CVoipWidget::slot_RemoveConferenceMember(QString strUserID)
+{
+    emit signal_RemoveUser(strUserID);
+}
+
+void CVoipWidget::slot_MuteConferenceMember(QString strUserID, bool bMute)
+{
+    emit signal_MuteUser(strUserID, bMute);
+}
+
+void CVoipWidget::slot_MuteAll()
+{
+    m_bMuteAll = !m_bMuteAll;
+    setMuteAllButton(m_bMuteAll);
+    ui->listView->setMuteAll(m_bMuteAll);
+    emit signal_MuteAll(m_bMuteAll);
+}
+
+void CVoipWidget::slot_ReInviteConfUser(QString strUserID)
+{
+    emit signal_ReInviteConfUser(strUserID);
+}

@@ -1,0 +1,34 @@
+#pragma once
+// The log file of a test in its working directory, its backups and its lines.
+
+#include "FileText.h"
+
+#include <QDir>
+#include <QList>
+#include <QString>
+
+inline const QString LOG = QStringLiteral("client.log");
+
+/// The file name of a numbered backup.
+inline QString backup(int number)
+{
+    return LOG + '.' + QString::number(number);
+}
+
+/// The lines of the log file, without their line feeds.
+inline QList<QByteArray> lines()
+{
+    QList<QByteArray> all = fileText(LOG).split('\n');
+    all.removeLast();
+    return all;
+}
+
+/// Empties the working directory but for its folders.
+inline void removeFiles()
+{
+    QDir here;
+    const QStringList names = here.entryList(QDir::Files);
+    for (const QString &name : names) {
+        here.remove(name);
+    }
+}

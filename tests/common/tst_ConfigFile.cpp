@@ -1,0 +1,144 @@
+#include "FileText.h"
+
+#include "common/ConfigFile.h"
+
+#include <QSettings>
+#include <QtTest>
+
+class tst_ConfigFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void missingFileGivesTheDefault()
+    {
+        QCOMPARE(ConfigFile::getConfigValue("absent.ini", "a/b", 7).toInt(), 7);
+        QVERIFY(!ConfigFile::getConfigValue("absent.ini", "a/b").isValid());
+        QVERIFY(!QFile::exists("absent.ini"));
+    }
+
+    void missingKeyGivesTheDefault()
+    {
+        QVERIFY(writeFile("one.ini", "[a]\nb=1\n"));
+        QCOMPARE(ConfigFile::getConfigValue("one.ini", "a/c", "none").toString(), QStringLiteral("none"));
+    }
+
+    void leadingSlashNamesTheSameKey()
+    {
+        QVERIFY(writeFile("slash.ini", "[a]\nb=1\n"));
+        QCOMPARE(ConfigFile::getConfigValue("slash.ini", "/a/b", "none").toString(), QStringLiteral("1"));
+    }
+
+    void changeIsOnTheDiskAtOnce()
+    {
+        ConfigFile::changeConfigValue("new.ini", "section/name", "value");
+        QCOMPARE(fileText("new.ini"), QByteArray("[section]\nname=value\n"));
+    }
+
+    void otherKeysSurviveAChange()
+    {
+        QVERIFY(writeFile("keep.ini", "[a]\nb=1\nc=2\n"));
+        ConfigFile::changeConfigValue("keep.ini", "a/b", 3);
+        QCOMPARE(ConfigFile::getConfigValue("keep.ini", "a/b", {}).toInt(), 3);
+        QCOMPARE(ConfigFile::getConfigValue("keep.ini", "a/c", {}).toInt(), 2);
+    }
+
+    void textIsUtf8OnTheDisk()
+    {
+        ConfigFile::changeConfigValue("utf8.ini", "a/b", QStringLiteral("语音会议"));
+        QCOMPARE(fileText("utf8.ini"), QByteArray("[a]\nb=语音会议\n"));
+        QCOMPARE(ConfigFile::getConfigValue("utf8.ini", "a/b", {}).toString(), QStringLiteral("语音会议"));
+    }
+
+    void everyReadLooksAnew()
+    {
+        QVERIFY(writeFile("fresh.ini", "[a]\nb=old\n"));
+        QCOMPARE(ConfigFile::getConfigValue("fresh.ini", "a/b", {}).toString(), QStringLiteral("old"));
+        QVERIFY(writeFile("fresh.ini", "[a]\nb=newer\n"));
+        QCOMPARE(ConfigFile::getConfigValue("fresh.ini", "a/b", {}).toString(), QStringLiteral("newer"));
+    }
+
+    void unwritableFileIsIgnored()
+    {
+        QVERIFY(writeFile("plain", "x"));
+        ConfigFile::changeConfigValue("plain/inside.ini", "a/b", 1);
+        QVERIFY(!ConfigFile::getConfigValue("plain/inside.ini", "a/b").isValid());
+    }
+
+    void translationShortensOpenDialogs()
+    {
+        translate([](QSettings &source) {
+            source.setValue("DialogOpen/list", QStringList{"room1@conference.im.kelvar.example", "u1@im.kelvar.example",
+                                                           "other", "conference-conference"});
+        });
+        QCOMPARE(target("DialogOpen/list").toStringList(), (QStringList{"room1@c.im", "u1@im", "other", "c-c"}));
+    }
+
+    void translationShortensRoomKeysAndReadsNumbers()
+    {
+        translate([](QSettings &source) {
+            source.setValue("RoomMsgSet/room1@conference.im.kelvar.example", "2");
+            source.setValue("RoomMsgSet/plain", "no number");
+        });
+        QCOMPARE(target("RoomMsgSet/room1@c.im").toInt(), 2);
+        QVERIFY(!target("RoomMsgSet/room1@conference.im.kelvar.example").isValid());
+        QCOMPARE(target("RoomMsgSet/plain").toString(), QStringLiteral("0"));
+    }
+
+    void translationCopiesOtherGroupsAsTheyAre()
+    {
+        translate([](QSettings &source) {
+            source.setValue("Other/conference.im.kelvar.example", "conference.im.kelvar.example");
+            source.setValue("Other/sub/key", "nested");
+            source.setValue("Other/name", QStringLiteral("会议"));
+        });
+        QCOMPARE(target("Other/conference.im.kelvar.example").toString(),
+                 QStringLiteral("conference.im.kelvar.example"));
+        QCOMPARE(target("Other/sub/key").toString(), QStringLiteral("nested"));
+        QVERIFY(!fileText("source.ini").contains("会议"));
+        QVERIFY(fileText("target.ini").contains("name=会议\n"));
+    }
+
+    void translationLeavesKeysOutsideGroups()
+    {
+        translate([](QSettings &source) {
+            source.setValue("loose", 1);
+            source.setValue("Other/key", 2);
+        });
+        QVERIFY(!target("loose").isValid());
+        QCOMPARE(target("Other/key").toInt(), 2);
+    }
+
+    void translationKeepsWhatTheTargetHolds()
+    {
+        QVERIFY(writeFile("target.ini", "[Mine]\nkey=语音\n"));
+        QVERIFY(writeFile("source.ini", "[Other]\nkey=2\n"));
+        ConfigFile::translateIniToUtf8Code("source.ini", "target.ini");
+        QCOMPARE(target("Mine/key").toString(), QStringLiteral("语音"));
+        QCOMPARE(target("Other/key").toInt(), 2);
+    }
+
+    void translationOfAMissingSourceMakesNothing()
+    {
+        ConfigFile::translateIniToUtf8Code("absent.ini", "unmade.ini");
+        QVERIFY(!QFile::exists("unmade.ini"));
+    }
+
+private:
+    static QVariant target(const QString &key) { return ConfigFile::getConfigValue("target.ini", key); }
+
+    template <typename Fill>
+    static void translate(Fill fill)
+    {
+        QFile::remove("source.ini");
+        QFile::remove("target.ini");
+        {
+            QSettings source("source.ini", QSettings::IniFormat);
+            fill(source);
+        }
+        ConfigFile::translateIniToUtf8Code("source.ini", "target.ini");
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_ConfigFile)
+#include "tst_ConfigFile.moc"

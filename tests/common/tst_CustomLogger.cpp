@@ -1,0 +1,310 @@
+#include "LogFile.h"
+
+#include "common/CustomLogger.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QRegularExpression>
+#include <QtTest>
+
+#include <atomic>
+#include <csignal>
+#include <functional>
+#include <memory>
+#include <sys/resource.h>
+
+namespace {
+
+QStringList messagesOf(QtMsgType wanted, const std::function<void()> &action)
+{
+    static QStringList texts;
+    static QtMsgType type;
+    texts.clear();
+    type = wanted;
+    const QtMessageHandler before =
+        qInstallMessageHandler([](QtMsgType kind, const QMessageLogContext & /*context*/, const QString &text) {
+            if (kind == type) {
+                texts.append(text);
+            }
+        });
+    action();
+    qInstallMessageHandler(before);
+    return texts;
+}
+
+} // namespace
+
+class tst_CustomLogger : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { removeFiles(); }
+
+    void lifeIsTracedOnTheDebugChannel()
+    {
+        const QStringList texts = messagesOf(QtDebugMsg, [] { CustomLogger logger(LOG); });
+        QCOMPARE(texts,
+                 (QStringList{QStringLiteral("日志对象构造----------------------------CustomLogger::CustomLogger()."),
+                              QStringLiteral("日志对象析构---------------------CustomLogger::~CustomLogger().")}));
+    }
+
+    void lineHasTimeLevelLocationAndMessage()
+    {
+        CustomLogger logger(LOG);
+        const QDateTime before = QDateTime::currentDateTime();
+        logger.printLog(CustomLog::Debug, "VoipWidget.cpp:835", "setmic bMute = 1");
+        const QDateTime after = QDateTime::currentDateTime();
+        logger.flush();
+        const QRegularExpressionMatch line =
+            QRegularExpression("^\\[(\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3})\\]\\[DEBUG\\]"
+                               "\\[VoipWidget\\.cpp:835\\]: setmic bMute = 1\n$")
+                .match(QString::fromUtf8(fileText(LOG)));
+        QVERIFY(line.hasMatch());
+        const QDateTime written = QDateTime::fromString(line.captured(1), "yyyy-MM-dd hh:mm:ss.zzz");
+        QVERIFY(written >= before);
+        QVERIFY(written <= after);
+    }
+
+    void timesFollowTheClockIntoTheNextSecond()
+    {
+        CustomLogger logger(LOG);
+        logger.printLog(CustomLog::Debug, {}, {});
+        const qint64 second = QDateTime::currentSecsSinceEpoch();
+        QTRY_VERIFY(QDateTime::currentSecsSinceEpoch() != second);
+        const QDateTime before = QDateTime::currentDateTime();
+        logger.printLog(CustomLog::Debug, {}, {});
+        logger.flush();
+        QVERIFY(QDateTime::fromString(QString::fromLatin1(lines().last().mid(1, 23)), "yyyy-MM-dd hh:mm:ss.zzz") >=
+                before);
+    }
+
+    void levelTexts_data()
+    {
+        QTest::addColumn<int>("level");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("0") << 0 << "";
+        QTest::newRow("1") << 1 << "TRACE";
+        QTest::newRow("2") << 2 << "DEBUG";
+        QTest::newRow("3") << 3 << "INFO";
+        QTest::newRow("4") << 4 << "WARN";
+        QTest::newRow("5") << 5 << "ERROR";
+        QTest::newRow("6") << 6 << "FATAL";
+        QTest::newRow("7") << 7 << "";
+        QTest::newRow("99") << 99 << "";
+    }
+    void levelTexts()
+    {
+        QFETCH(int, level);
+        QFETCH(QString, text);
+        const auto value = static_cast<CustomLog::LogLevel>(level);
+        QCOMPARE(CustomLogger::getLevelString(value), text);
+
+        CustomLogger logger(LOG);
+        QVERIFY(logger.isLevelEnabled(value));
+        logger.printLog(value, "place", "text");
+        logger.flush();
+        QVERIFY(fileText(LOG).endsWith("][" + text.toLatin1() + "][place]: text\n"));
+    }
+
+    void levelBelowTheThresholdIsNotWritten()
+    {
+        CustomLogger logger(LOG);
+        const auto below = static_cast<CustomLog::LogLevel>(-1);
+        QVERIFY(!logger.isLevelEnabled(below));
+        logger.printLog(below, "place", "text");
+        logger.flush();
+        QCOMPARE(fileText(LOG), QByteArray());
+    }
+
+    void textIsUtf8()
+    {
+        CustomLogger logger(LOG);
+        logger.printLog(CustomLog::Info, "place", QStringLiteral("呼叫中"));
+        logger.flush();
+        QVERIFY(fileText(LOG).startsWith('['));
+        QVERIFY(fileText(LOG).endsWith(": 呼叫中\n"));
+    }
+
+    void lineFeedInAMessageMakesASecondLineWithoutPrefix()
+    {
+        CustomLogger logger(LOG);
+        logger.printLog(CustomLog::Info, "place", "one\ntwo");
+        logger.flush();
+        QCOMPARE(lines().size(), 2);
+        QVERIFY(lines().at(0).endsWith("[INFO][place]: one"));
+        QCOMPARE(lines().at(1), QByteArray("two"));
+    }
+
+    void linesReachTheDiskAtAFlushOnly()
+    {
+        CustomLogger logger(LOG);
+        logger.printLog(CustomLog::Info, "place", "text");
+        QCOMPARE(fileText(LOG), QByteArray());
+        logger.flush();
+        QCOMPARE(lines().size(), 1);
+    }
+
+    void newTextBeginsOnTheLastByteOfTheOld()
+    {
+        QVERIFY(writeFile(LOG, "the last line of an earlier run\n"));
+        CustomLogger logger(LOG);
+        logger.printLog(CustomLog::Info, "place", "text");
+        logger.flush();
+        QCOMPARE(lines().size(), 1);
+        QVERIFY(fileText(LOG).startsWith("the last line of an earlier run["));
+    }
+
+    void lastByteIsOverwrittenWhateverItIs()
+    {
+        QVERIFY(writeFile(LOG, "x"));
+        CustomLogger logger(LOG);
+        logger.printLog(CustomLog::Info, "place", "text");
+        logger.flush();
+        QVERIFY(fileText(LOG).startsWith('['));
+    }
+
+    void textBeginsAtTheStartOfAnEmptyFileWithoutAWarning()
+    {
+        const QStringList warnings = messagesOf(QtWarningMsg, [] {
+            CustomLogger logger(LOG);
+            logger.printLog(CustomLog::Info, "place", "text");
+            logger.flush();
+        });
+        QCOMPARE(warnings, QStringList());
+        QVERIFY(fileText(LOG).startsWith('['));
+    }
+
+    void fileThatCannotBeOpenedMakesTheLoggerSilent()
+    {
+        const QString path = QStringLiteral("missing/client.log");
+        const QStringList warnings = messagesOf(QtWarningMsg, [&path] {
+            CustomLogger logger(path);
+            logger.printLog(CustomLog::Fatal, "place", "text");
+            logger.flush();
+            logger.close();
+            QCOMPARE(QDir().exists(path), false);
+        });
+        QCOMPARE(warnings, QStringList());
+    }
+
+    void reopenTriesAnUnopenedFileAgain()
+    {
+        CustomLogger logger("later/client.log");
+        QVERIFY(QDir().mkdir("later"));
+        logger.printLog(CustomLog::Info, "place", "early");
+        QCOMPARE(QFile::exists("later/client.log"), false);
+        logger.reopen();
+        logger.printLog(CustomLog::Info, "place", "late");
+        logger.flush();
+        QCOMPARE(fileText("later/client.log").count('\n'), 1);
+    }
+
+    void closedLoggerDropsLinesUntilItIsReopened()
+    {
+        CustomLogger logger(LOG);
+        logger.printLog(CustomLog::Info, "place", "one");
+        logger.close();
+        QCOMPARE(lines().size(), 1);
+        logger.printLog(CustomLog::Info, "place", "lost");
+        logger.flush();
+        logger.close();
+        logger.reopen();
+        logger.printLog(CustomLog::Info, "place", "two");
+        logger.flush();
+        QCOMPARE(lines().size(), 1);
+        QVERIFY(fileText(LOG).contains(": one["));
+        QVERIFY(!fileText(LOG).contains("lost"));
+        QVERIFY(fileText(LOG).endsWith(": two\n"));
+    }
+
+    void reopeningAnOpenLogLosesNothing()
+    {
+        CustomLogger logger(LOG);
+        logger.printLog(CustomLog::Info, "place", "one");
+        logger.reopen();
+        logger.printLog(CustomLog::Info, "place", "two");
+        logger.flush();
+        QVERIFY(fileText(LOG).contains(": one["));
+        QVERIFY(fileText(LOG).endsWith(": two\n"));
+    }
+
+    void clearEmptiesTheLogAndKeepsBackups()
+    {
+        QVERIFY(writeFile(backup(1), "old"));
+        CustomLogger logger(LOG);
+        logger.printLog(CustomLog::Info, "place", "one");
+        logger.clear();
+        QCOMPARE(fileText(LOG), QByteArray());
+        logger.printLog(CustomLog::Info, "place", "two");
+        logger.flush();
+        QCOMPARE(lines().size(), 1);
+        QVERIFY(fileText(LOG).endsWith(": two\n"));
+        QCOMPARE(fileText(backup(1)), QByteArray("old"));
+    }
+
+    void unflushedTextDiesWithTheLogger()
+    {
+        const QStringList warnings = messagesOf(QtWarningMsg, [] {
+            CustomLogger logger(LOG);
+            logger.printLog(CustomLog::Info, "place", "kept");
+            logger.flush();
+            logger.printLog(CustomLog::Info, "place", "lost");
+        });
+        QCOMPARE(warnings, QStringList());
+        QVERIFY(fileText(LOG).endsWith(": kept\n"));
+    }
+
+    void fileNameComesWithoutItsFolders()
+    {
+        QCOMPARE(CustomLogger("/no/such/folder/client.log").getLogFileName(), QStringLiteral("client.log"));
+        QCOMPARE(CustomLogger(LOG).getLogFileName(), LOG);
+    }
+
+    void flushesFromAnotherThreadLoseNothing()
+    {
+        CustomLogger logger(LOG);
+        std::atomic<bool> done{false};
+        const std::unique_ptr<QThread> writer(QThread::create([&logger, &done] {
+            for (int i = 0; i < 3000; ++i) {
+                logger.printLog(CustomLog::Info, "place", QString::number(i));
+            }
+            done = true;
+        }));
+        writer->start();
+        while (!done) {
+            logger.flush();
+        }
+        QVERIFY(writer->wait());
+        logger.close();
+        const QList<QByteArray> all = lines();
+        QCOMPARE(all.size(), 3000);
+        for (int i = 0; i < 3000; ++i) {
+            QVERIFY(all.at(i).endsWith("]: " + QByteArray::number(i)));
+        }
+    }
+
+    void writingResumesWhenAFullDiskHasRoomAgain()
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        CustomLogger logger(LOG);
+        rlimit before{};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+        rlimit full = before;
+        full.rlim_cur = 1000;
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &full), 0);
+        for (int i = 0; i < 100; ++i) {
+            logger.printLog(CustomLog::Info, "place", QString(1000, 'x'));
+        }
+        logger.flush();
+        const qint64 size = QFileInfo(LOG).size();
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
+        QCOMPARE(size, qint64(1000));
+        logger.printLog(CustomLog::Info, "place", "room again");
+        logger.flush();
+        QVERIFY(fileText(LOG).endsWith(": room again\n"));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_CustomLogger)
+#include "tst_CustomLogger.moc"

@@ -1,0 +1,59 @@
+#include "fakes/LogCapture.h"
+
+#include "common/CommonFun.h"
+
+#include <QFile>
+#include <QTest>
+
+namespace {
+
+const QString logFileName = QStringLiteral("captured.log");
+
+} // namespace
+
+LogCapture::LogCapture() : m_logger(logFileName)
+{
+    m_thread.setCustomLogger(&m_logger);
+    context.setCustomLogger(&m_logger);
+    context.setCustomLogThread(&m_thread);
+    CommonFun::setCommonData(&context);
+    m_thread.start();
+}
+
+LogCapture::~LogCapture()
+{
+    m_thread.stop();
+    // The writer leaves only after one more record.
+    m_thread.printLog(CustomLog::Debug, QString(), QString());
+    m_thread.wait();
+    CommonFun::setCommonData(nullptr);
+}
+
+QString LogCapture::written()
+{
+    m_logger.flush();
+    QFile file(logFileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    return QString::fromUtf8(file.readAll());
+}
+
+QStringList LogCapture::take()
+{
+    const QString mark = QStringLiteral("take %1").arg(++m_takeCount);
+    m_thread.printLog(CustomLog::Debug, QString(), mark);
+    const QString lastLine = QStringLiteral("]: ") + mark + QLatin1Char('\n');
+    if (!QTest::qWaitFor([this, &lastLine] { return written().endsWith(lastLine); })) {
+        return {QStringLiteral("the log writer does not write")};
+    }
+    QStringList lines = written().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const int lineCount = lines.size();
+    lines = lines.mid(m_readLines);
+    m_readLines = lineCount;
+    lines.removeLast();
+    for (QString &line : lines) {
+        line.remove(0, line.indexOf(QLatin1Char(']')) + 1);
+    }
+    return lines;
+}

@@ -1,0 +1,182 @@
+#include "flow/FlowClient.h"
+
+#include "plugin/PluginIds.h"
+#include "plugin/PluginInterface.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLabel>
+#include <QProcess>
+#include <QTimer>
+#include <QtTest>
+
+#include <csignal>
+
+FlowClient::FlowClient(const QByteArray &speed) : m_strTrace(QDir::current().filePath(QStringLiteral("wire.trace")))
+{
+    // The plug-in starts the call process with this environment, and rings with a file under the working directory.
+    qputenv("VOIPSDK_TRACE", QFile::encodeName(m_strTrace));
+    qputenv("VOIPSDK_SPEED", speed);
+    QFile::link(QCoreApplication::applicationDirPath() + QStringLiteral("/Resources"), QStringLiteral("Resources"));
+
+    m_login.m_strDomain = QStringLiteral("example.org");
+    m_login.m_strUid = QStringLiteral("30010000");
+    m_login.m_strRegValue = QStringLiteral("registration");
+    m_data.setLoginData(&m_login);
+    FriendData me(QStringLiteral("30010000@example.org"));
+    me.m_vcardInfo.m_strNickName = QStringLiteral("自己");
+    host.setRecord(me.m_strJid, me);
+}
+
+bool FlowClient::load()
+{
+    m_loader.setFileName(QStringLiteral(VOIP_MODULE));
+    m_pPlugin = qobject_cast<PluginInterface *>(m_loader.instance());
+    if (!m_pPlugin) {
+        qWarning("%s", qPrintable(m_loader.errorString()));
+        return false;
+    }
+    m_pPlugin->setCommonData(&m_data);
+    m_pPlugin->setSendEventHandle(&host);
+    return true;
+}
+
+QByteArray FlowClient::deliver(EMsgId id, const QByteArray &payload)
+{
+    BaseEvent event(id, sessionPluginId(), voipPluginId(), false, payload);
+    QCoreApplication::sendEvent(m_pPlugin->getReceiveEventHandle(), &event);
+    return event.data;
+}
+
+bool FlowClient::ask(EMsgId id)
+{
+    return PayloadReader(command(id)).take<bool>();
+}
+
+bool FlowClient::goOnline()
+{
+    const int before = countOnWire(QStringLiteral("RegeditUser"));
+    command(MSG_CLIENT_CONNECT_STATUS, true);
+    return QTest::qWaitFor([&] { return countOnWire(QStringLiteral("RegeditUser")) > before; }, 15000);
+}
+
+QList<QByteArray> FlowClient::traceLines(char direction) const
+{
+    QFile file(m_strTrace);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QList<QByteArray> texts;
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    for (const QByteArray &line : lines) {
+        const int blank = line.indexOf(' ');
+        if (blank > 0 && line.mid(blank + 1, 1) == QByteArray(1, direction))
+            texts.append(line.mid(blank + 3));
+    }
+    return texts;
+}
+
+QStringList FlowClient::commandsOnWire() const
+{
+    QStringList names;
+    for (const QByteArray &line : traceLines('<'))
+        names.append(QJsonDocument::fromJson(line).object().value(QStringLiteral("messagetype")).toString());
+    return names;
+}
+
+int FlowClient::countOnWire(const QString &name) const
+{
+    return commandsOnWire().count(name);
+}
+
+QList<int> FlowClient::codesOnWire() const
+{
+    QList<int> codes;
+    for (const QByteArray &line : traceLines('>'))
+        codes.append(QJsonDocument::fromJson(line).object().value(QStringLiteral("resultCode")).toInt(-1));
+    return codes;
+}
+
+qint64 FlowClient::callProcessId() const
+{
+    static const QByteArray s_started = "started, process ";
+    qint64 id = 0;
+    for (const QByteArray &line : traceLines('=')) {
+        if (line.startsWith(s_started))
+            id = line.mid(s_started.size()).toLongLong();
+    }
+    return id;
+}
+
+bool FlowClient::callProcessLives() const
+{
+    const qint64 id = callProcessId();
+    if (id == 0)
+        return false;
+    // One that was killed may stand in the table until its parent, or init, has looked after it.
+    QFile status(QStringLiteral("/proc/%1/stat").arg(id));
+    return status.open(QIODevice::ReadOnly) && !status.readAll().contains(") Z ");
+}
+
+bool FlowClient::killCallProcess()
+{
+    ::kill(static_cast<pid_t>(callProcessId()), SIGKILL);
+    return QTest::qWaitFor([this] { return !callProcessLives(); });
+}
+
+bool FlowClient::startCallProcess()
+{
+    const qint64 before = callProcessId();
+    const QString program = QCoreApplication::applicationDirPath() + QStringLiteral("/VoipSDK/Contents/MacOS/VoipSDK");
+    return QProcess::startDetached(program, {}) && QTest::qWaitFor([&] { return callProcessId() != before; });
+}
+
+QWidget *FlowClient::callWindow() const
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->inherits("CVoipWidget"))
+            return window;
+    }
+    return nullptr;
+}
+
+QString FlowClient::callWindowText(const char *label) const
+{
+    const auto *found = callWindow()->findChild<QLabel *>(QLatin1String(label));
+    return found ? found->text() : QString();
+}
+
+QAbstractButton *FlowClient::callWindowButton(const char *name) const
+{
+    return callWindow()->findChild<QAbstractButton *>(QLatin1String(name));
+}
+
+void FlowClient::expectMessage()
+{
+    messageText.clear();
+    auto *timer = new QTimer(QCoreApplication::instance());
+    QObject::connect(timer, &QTimer::timeout, timer, [this, timer] {
+        QWidget *box = QApplication::activeModalWidget();
+        if (!box)
+            return;
+        timer->deleteLater();
+        messageText = box->findChild<QLabel *>(QStringLiteral("msgLabel"))->text();
+        QTest::mouseClick(box->findChild<QAbstractButton *>(QStringLiteral("closeBtn")), Qt::LeftButton);
+    });
+    timer->start(10);
+}
+
+CallRecord::CallRecord(const ReceivedEvent &event)
+{
+    PayloadReader reader(event.payload);
+    bIsVideo = reader.take<bool>();
+    strUserId = reader.take<QString>();
+    iResult = reader.take<int>();
+    bIsCaller = reader.take<bool>();
+    bIsConnected = reader.take<bool>();
+    iSeconds = reader.take<qint64>();
+}

@@ -1,0 +1,158 @@
+#include "ContactBook.h"
+#include "HostSession.h"
+#include "MainWindow.h"
+#include "WindowProbe.h"
+
+#include "plugin/BaseEvent.h"
+#include "plugin/EventPayload.h"
+#include "plugin/PluginIds.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+/// The window beside a session whose plug-in is not loaded: what comes from the plug-in is delivered by hand.
+class tst_MainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void everyContactHasBothCallButtons();
+    void incomingCallOpensThePrompt();
+    void answerTakesThePromptAway_data();
+    void answerTakesThePromptAway();
+    void escapeOnThePromptRejects();
+    void promptOfAnotherCallIsNotWithdrawn();
+    void endOfTheCallWithdrawsThePromptWithoutAnAnswer();
+    void recordsAndStatusLineTellTheCall();
+    void onlineSwitchFollowsTheSession();
+    void numberCanBeCalledOnlyWhenThereIsOne();
+
+private:
+    void deliver(EMsgId msgId, const QString &receiver, const QByteArray &payload)
+    {
+        BaseEvent event(msgId, voipPluginId(), receiver, false, payload);
+        QCoreApplication::sendEvent(&m_pSession->mailbox(), &event);
+    }
+    void ring(const QString &strUid)
+    {
+        deliver(MSG_RECEVIE_VOIP_CALL, sessionPluginId(), packPayload(strUid, false, false));
+    }
+
+    ContactBook m_book{QStringLiteral("example.org")};
+    std::unique_ptr<HostSession> m_pSession;
+    std::unique_ptr<MainWindow> m_pWindow;
+};
+
+void tst_MainWindow::init()
+{
+    m_pSession = std::make_unique<HostSession>(m_book);
+    m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
+    m_pWindow->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+}
+
+void tst_MainWindow::cleanup()
+{
+    m_pWindow.reset();
+    m_pSession.reset();
+}
+
+void tst_MainWindow::everyContactHasBothCallButtons()
+{
+    for (const ContactBook::Entry &entry : m_book.entries()) {
+        const auto *row = m_pWindow->findChild<QWidget *>(entry.uid);
+        QVERIFY2(row != nullptr, qPrintable(entry.uid));
+        QVERIFY(WindowProbe::isShown(row, "btnCall"));
+        QVERIFY(WindowProbe::isShown(row, "btnVideo"));
+        QCOMPARE(WindowProbe::text(row, "lblName"), entry.known ? entry.nick : entry.uid);
+    }
+}
+
+void tst_MainWindow::incomingCallOpensThePrompt()
+{
+    QVERIFY(!m_pWindow->prompt().isVisible());
+    ring(QStringLiteral("30010006"));
+    QVERIFY(m_pWindow->prompt().isVisible());
+    QCOMPARE(WindowProbe::text(&m_pWindow->prompt(), "lblName"), QStringLiteral("Anna Novak"));
+}
+
+void tst_MainWindow::answerTakesThePromptAway_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<bool>("accept");
+    QTest::newRow("accept") << QByteArray("btnAccept") << true;
+    QTest::newRow("reject") << QByteArray("btnReject") << false;
+}
+
+void tst_MainWindow::answerTakesThePromptAway()
+{
+    QFETCH(QByteArray, button);
+    QFETCH(bool, accept);
+    QSignalSpy answered(&m_pWindow->prompt(), &IncomingPrompt::answered);
+    ring(QStringLiteral("30010006"));
+    QVERIFY(WindowProbe::press(&m_pWindow->prompt(), button.constData()));
+    QTRY_COMPARE(answered.count(), 1);
+    QCOMPARE(answered.at(0), (QList<QVariant>{QStringLiteral("30010006"), accept}));
+    QVERIFY(!m_pWindow->prompt().isVisible());
+}
+
+void tst_MainWindow::escapeOnThePromptRejects()
+{
+    QSignalSpy answered(&m_pWindow->prompt(), &IncomingPrompt::answered);
+    ring(QStringLiteral("30010006"));
+    QTest::keyClick(&m_pWindow->prompt(), Qt::Key_Escape);
+    QCOMPARE(answered.count(), 1);
+    QCOMPARE(answered.at(0).at(1).toBool(), false);
+}
+
+void tst_MainWindow::promptOfAnotherCallIsNotWithdrawn()
+{
+    ring(QStringLiteral("30010006"));
+    deliver(MSG_CLOSE_AV_MSGBOX, msgBoxPluginId(), packPayload(QStringLiteral("30010001@example.org")));
+    QVERIFY(m_pWindow->prompt().isVisible());
+}
+
+void tst_MainWindow::endOfTheCallWithdrawsThePromptWithoutAnAnswer()
+{
+    QSignalSpy answered(&m_pWindow->prompt(), &IncomingPrompt::answered);
+    ring(QStringLiteral("30010006"));
+    deliver(MSG_CLOSE_AV_MSGBOX, msgBoxPluginId(), packPayload(QStringLiteral("30010006@example.org")));
+    QVERIFY(!m_pWindow->prompt().isVisible());
+    QCOMPARE(answered.count(), 0);
+}
+
+void tst_MainWindow::recordsAndStatusLineTellTheCall()
+{
+    deliver(MSG_CALL_FINISHED, sessionPluginId(),
+            packPayload(false, QStringLiteral("30010001"), qint32(24), true, true, qint64(5)));
+    QCOMPARE(m_pWindow->records().records().size(), 1);
+    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Call with 李雷: hung up after 0:05"));
+    deliver(MSG_CALL_FINISHED, sessionPluginId(),
+            packPayload(false, QStringLiteral("30010002"), qint32(25), true, false, qint64(0)));
+    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Call with Maria Silva: busy"));
+}
+
+void tst_MainWindow::onlineSwitchFollowsTheSession()
+{
+    QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Offline"));
+    QVERIFY(WindowProbe::press(m_pWindow.get(), "btnOnline"));
+    QTRY_VERIFY(m_pSession->isOnline());
+    QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Online"));
+    m_pSession->setOnline(false);
+    QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Offline"));
+}
+
+void tst_MainWindow::numberCanBeCalledOnlyWhenThereIsOne()
+{
+    auto *number = m_pWindow->findChild<QLineEdit *>(QStringLiteral("editNumber"));
+    QVERIFY(!WindowProbe::press(m_pWindow.get(), "btnCallNumber"));
+    QTest::keyClicks(number, QStringLiteral(" 4711 "));
+    QVERIFY(WindowProbe::press(m_pWindow.get(), "btnCallNumber"));
+    QTRY_VERIFY(number->text().isEmpty());
+    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Calling 4711"));
+}
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_MainWindow.moc"

@@ -1,0 +1,186 @@
+#include "model/CommonData.h"
+#include "model/SharedContext.h"
+#include "model/SystemSetData.h"
+#include "model/VcardInfo.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+namespace {
+
+const QString DEFAULT_HEAD = QStringLiteral("Resources/images/FriendDetail/defaultHead.png");
+const QString SERVICE_HEAD = QStringLiteral("Resources/images/FriendDetail/ic_portrait_server_90.png");
+
+// A built-in picture beside the test program, for as long as the object lives.
+struct BuiltInAvatar
+{
+    explicit BuiltInAvatar(const QString &strName)
+        : m_file(QCoreApplication::applicationDirPath() + "/Resources/SystemAvatar/" + strName)
+    {
+        QDir().mkpath(QCoreApplication::applicationDirPath() + "/Resources/SystemAvatar");
+        m_bMade = m_file.open(QIODevice::WriteOnly);
+        m_file.close();
+    }
+    ~BuiltInAvatar() { m_file.remove(); }
+    BuiltInAvatar(const BuiltInAvatar &) = delete;
+    BuiltInAvatar &operator=(const BuiltInAvatar &) = delete;
+
+    QFile m_file;
+    bool m_bMade = false;
+};
+
+} // namespace
+
+class tst_VcardInfo : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_settings.m_strHeadImageFolder = "/data/me/designHeadImage/";
+        m_context.setSystemSetData(&m_settings);
+        SharedContext::setCommonData(&m_context);
+    }
+
+    void cleanup() { SharedContext::setCommonData(nullptr); }
+
+    void aNewCardHasNoVersionsAndABuiltInPicture()
+    {
+        const VcardInfo card;
+        QCOMPARE(card.m_iFullVersion, -1);
+        QCOMPARE(card.m_iSmallVersion, -1);
+        QVERIFY(card.m_bSystemAvatar);
+        QVERIFY(card.m_bEmployee);
+        QVERIFY(!card.m_bAdmin);
+        const QStringList listText = {card.m_strAccountNo,       card.m_strNickName,     card.m_strSignature,
+                                      card.m_strBirthday,        card.m_strSex,          card.m_strPhotoName,
+                                      card.m_strPhotoPath,       card.m_strDepartment,   card.m_strFullDepartment,
+                                      card.m_strProfession,      card.m_strOtherPhone,   card.m_strDisplayMobile,
+                                      card.m_strExtensionNumber, card.m_strMail,         card.m_strLeaderName,
+                                      card.m_strLeaderUid,       card.m_strWorkLocation, card.m_strCompanyCode,
+                                      card.m_strAlternativeName};
+        QCOMPARE(listText.join(QString()), QString());
+    }
+
+    void mobileNumbersLoseTheirRepeats_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("kept");
+        QTest::newRow("empty") << ""
+                               << "";
+        QTest::newRow("one") << "139"
+                             << "139";
+        QTest::newRow("a repeat") << "139 139 021"
+                                  << "139 021";
+        QTest::newRow("a part of a longer one") << "1390 139"
+                                                << "1390";
+        QTest::newRow("the longer one second") << "139 1390"
+                                               << "139 1390";
+        QTest::newRow("two blanks") << "a  b"
+                                    << "a b";
+        QTest::newRow("blanks around") << " 139 "
+                                       << "139";
+        QTest::newRow("only blanks") << "   "
+                                     << "";
+        QTest::newRow("case-sensitive") << "Ab ab"
+                                        << "Ab ab";
+        QTest::newRow("digits are not masked") << "13912345678"
+                                               << "13912345678";
+    }
+
+    void mobileNumbersLoseTheirRepeats()
+    {
+        QFETCH(QString, text);
+        VcardInfo card;
+        card.m_strDisplayMobile = "from before";
+        card.setDisPlayMobile(text);
+        QTEST(card.m_strDisplayMobile, "kept");
+    }
+
+    void anEmptyPhotoNameIsTheDefaultHead_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("empty") << "";
+        QTest::newRow("its own name") << DEFAULT_HEAD;
+    }
+
+    void anEmptyPhotoNameIsTheDefaultHead()
+    {
+        QFETCH(QString, name);
+        VcardInfo card;
+        card.setPhotoName("own");
+        QVERIFY(!card.m_bSystemAvatar);
+        card.setPhotoName(name);
+        QCOMPARE(card.m_strPhotoName, DEFAULT_HEAD);
+        QCOMPARE(card.m_strPhotoPath, DEFAULT_HEAD);
+        QVERIFY(card.m_bSystemAvatar);
+    }
+
+    void theServicePictureIsBuiltIn()
+    {
+        VcardInfo card;
+        card.m_bSystemAvatar = false;
+        card.setPhotoName(SERVICE_HEAD);
+        QCOMPARE(card.m_strPhotoName, SERVICE_HEAD);
+        QCOMPARE(card.m_strPhotoPath, SERVICE_HEAD);
+        QVERIFY(card.m_bSystemAvatar);
+    }
+
+    void aPhotoOfTheApplicationIsFoundByItsName_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("file");
+        QTest::newRow("without a dot it is a jpg") << "tst_builtin"
+                                                   << "tst_builtin.jpg";
+        QTest::newRow("with a dot it is taken as it is") << "tst_builtin.png"
+                                                         << "tst_builtin.png";
+    }
+
+    void aPhotoOfTheApplicationIsFoundByItsName()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, file);
+        const BuiltInAvatar avatar(file);
+        QVERIFY(avatar.m_bMade);
+        VcardInfo card;
+        card.m_bSystemAvatar = false;
+        card.setPhotoName(name);
+        QCOMPARE(card.m_strPhotoName, name);
+        QCOMPARE(card.m_strPhotoPath, "Resources/SystemAvatar/" + file);
+        QVERIFY(card.m_bSystemAvatar);
+    }
+
+    void anyOtherPhotoLiesInTheUsersFolder()
+    {
+        VcardInfo card;
+        card.setPhotoName("tst_own");
+        QCOMPARE(card.m_strPhotoName, QString("tst_own"));
+        QCOMPARE(card.m_strPhotoPath, QString("/data/me/designHeadImage/tst_own.jpg"));
+        QVERIFY(!card.m_bSystemAvatar);
+        card.setPhotoName("tst_own.png");
+        QCOMPARE(card.m_strPhotoName, QString("tst_own.png"));
+        QCOMPARE(card.m_strPhotoPath, QString("/data/me/designHeadImage/tst_own.png"));
+    }
+
+    void withoutSettingsTheUsersFolderIsEmpty()
+    {
+        SharedContext::setCommonData(nullptr);
+        VcardInfo card;
+        card.setPhotoName("tst_own");
+        QCOMPARE(card.m_strPhotoPath, QString("tst_own.jpg"));
+        CommonData contextWithoutSettings;
+        SharedContext::setCommonData(&contextWithoutSettings);
+        card.setPhotoName("tst_other");
+        QCOMPARE(card.m_strPhotoPath, QString("tst_other.jpg"));
+    }
+
+private:
+    SystemSetData m_settings;
+    CommonData m_context;
+};
+
+QTEST_GUILESS_MAIN(tst_VcardInfo)
+#include "tst_VcardInfo.moc"

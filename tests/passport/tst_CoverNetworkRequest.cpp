@@ -1,0 +1,138 @@
+#include "common/CommonFun.h"
+#include "model/CommonData.h"
+#include "passport/PassportLoginServer.h"
+
+#include <QNetworkCookie>
+#include <QNetworkRequest>
+#include <QSslConfiguration>
+#include <QTest>
+#include <QUrl>
+
+#include <type_traits>
+
+// The front derives from each topic's class.
+static_assert(std::is_base_of_v<SharedContext, CommonFun> && std::is_base_of_v<UserIds, CommonFun>);
+
+class tst_CoverNetworkRequest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_keeper.SetPassportAuthIDCookie("id-1");
+        m_context.setPassportLoginServer(&m_keeper);
+        CommonFun::setCommonData(&m_context);
+    }
+
+    void cleanup() { CommonFun::setCommonData(nullptr); }
+
+    void headersPassAndAuthorizationDoesNot_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        for (const char *pName : {"Authorization", "authorization", "AUTHORIZATION", "aUTHORIZATION"}) {
+            QTest::newRow(pName) << QByteArray(pName);
+        }
+    }
+
+    void headersPassAndAuthorizationDoesNot()
+    {
+        QFETCH(QByteArray, name);
+        QNetworkRequest request(QUrl("https://im.example.org/x?y=1"));
+        request.setRawHeader(name, "Basic secret");
+        request.setRawHeader("X-Foo", "foo");
+        const QNetworkRequest sent = m_context.CoverNetworkRequest(request);
+        QVERIFY(!sent.hasRawHeader("Authorization"));
+        QCOMPARE(sent.rawHeaderList().size(), 2);
+        QCOMPARE(sent.rawHeader("X-Foo"), QByteArray("foo"));
+        QCOMPARE(sent.rawHeader("Cookie"), QByteArray("imAuthId=id-1"));
+        QCOMPARE(sent.url(), QUrl("https://im.example.org/x?y=1"));
+    }
+
+    void aHeaderWhoseNameOnlyContainsItPasses()
+    {
+        QNetworkRequest request;
+        request.setRawHeader("Proxy-Authorization", "p");
+        QCOMPARE(m_context.CoverNetworkRequest(request).rawHeader("Proxy-Authorization"), QByteArray("p"));
+    }
+
+    void theIdIsTheOneCookie()
+    {
+        QNetworkRequest request(QUrl("https://im.example.org/"));
+        request.setHeader(QNetworkRequest::CookieHeader,
+                          QVariant::fromValue(QList<QNetworkCookie>({QNetworkCookie("other", "1")})));
+        const QNetworkRequest sent = m_context.CoverNetworkRequest(request);
+        const QVariant cookie = sent.header(QNetworkRequest::CookieHeader);
+        QCOMPARE(cookie.userType(), qMetaTypeId<QNetworkCookie>());
+        QCOMPARE(cookie.value<QNetworkCookie>(), QNetworkCookie("imAuthId", "id-1"));
+        QCOMPARE(sent.rawHeader("Cookie"), QByteArray("imAuthId=id-1"));
+    }
+
+    void theGivenRequestIsNotChanged()
+    {
+        QNetworkRequest request(QUrl("https://im.example.org/"));
+        request.setRawHeader("Authorization", "Basic secret");
+        const QNetworkRequest before = request;
+        m_context.CoverNetworkRequest(request);
+        QCOMPARE(request, before);
+    }
+
+    void attributesAndSslSettingsAreNotCarriedOver()
+    {
+        QNetworkRequest request(QUrl("https://im.example.org/"));
+        request.setAttribute(QNetworkRequest::User, 5);
+        request.setPriority(QNetworkRequest::HighPriority);
+        QSslConfiguration ssl = request.sslConfiguration();
+        ssl.setPeerVerifyDepth(7);
+        request.setSslConfiguration(ssl);
+        const QNetworkRequest sent = m_context.CoverNetworkRequest(request);
+        QVERIFY(!sent.attribute(QNetworkRequest::User).isValid());
+        QCOMPARE(sent.priority(), QNetworkRequest::NormalPriority);
+        QVERIFY(sent.sslConfiguration().peerVerifyDepth() != 7);
+    }
+
+    void aLineBreakInTheIdDoesNotReachTheHeader()
+    {
+        m_keeper.SetPassportAuthIDCookie("id\r\nX-Evil: 1\n2\r3");
+        const QNetworkRequest sent = m_context.CoverNetworkRequest(QNetworkRequest());
+        QCOMPARE(sent.rawHeader("Cookie"), QByteArray("imAuthId=idX-Evil: 123"));
+    }
+
+    void theIdIsWrittenInLatin1()
+    {
+        m_keeper.SetPassportAuthIDCookie(QString::fromUtf8("é张"));
+        const QNetworkRequest sent = m_context.CoverNetworkRequest(QNetworkRequest());
+        QCOMPARE(sent.rawHeader("Cookie"), QByteArray("imAuthId=\xe9?"));
+    }
+
+    void withoutAPassportServerTheIdIsEmpty()
+    {
+        m_context.setPassportLoginServer(nullptr);
+        const QNetworkRequest sent = m_context.CoverNetworkRequest(QNetworkRequest(QUrl("https://im.example.org/")));
+        QCOMPARE(sent.rawHeader("Cookie"), QByteArray("imAuthId="));
+        QCOMPARE(sent.url(), QUrl("https://im.example.org/"));
+    }
+
+    void theFrontDecoratesThroughTheContext()
+    {
+        QCOMPARE(CommonFun::CoverNetworkRequest(QNetworkRequest()).rawHeader("Cookie"), QByteArray("imAuthId=id-1"));
+    }
+
+    void withoutAContextTheIdIsEmptyAndAuthorizationStaysBehind()
+    {
+        CommonFun::setCommonData(nullptr);
+        QNetworkRequest request(QUrl("https://im.example.org/"));
+        request.setRawHeader("authorization", "Basic secret");
+        const QNetworkRequest sent = CommonFun::CoverNetworkRequest(request);
+        QCOMPARE(sent.rawHeaderList(), QList<QByteArray>({"Cookie"}));
+        QCOMPARE(sent.rawHeader("Cookie"), QByteArray("imAuthId="));
+        QCOMPARE(sent.url(), request.url());
+    }
+
+private:
+    CPassportLoginServer m_keeper;
+    CommonData m_context;
+};
+
+QTEST_GUILESS_MAIN(tst_CoverNetworkRequest)
+#include "tst_CoverNetworkRequest.moc"

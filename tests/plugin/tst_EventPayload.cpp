@@ -1,0 +1,122 @@
+#include "plugin/EventPayload.h"
+
+#include <QTest>
+
+#include <limits>
+
+class tst_EventPayload : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void packsFieldsAsTheStreamWritesThem();
+    void packsNothingToAnEmptyPayload();
+    void stringListIsACountAndTheStrings();
+    void readsHandWrittenAndOperatorWrittenListsAlike();
+    void missingFieldsReadAsDefaults();
+    void fieldBehindAShortListReadsAsDefault();
+    void listEndsWhereThePayloadEnds_data();
+    void listEndsWhereThePayloadEnds();
+    void tellsWhetherAFieldWasMissing();
+    void zeroAddressGivesADefaultRecord();
+    void recordIsCopiedFromItsAddress();
+};
+
+void tst_EventPayload::packsFieldsAsTheStreamWritesThem()
+{
+    QByteArray expected;
+    QDataStream stream(&expected, QIODevice::WriteOnly);
+    stream << true << QStringLiteral("u1") << qint32(7) << qint64(8);
+    QCOMPARE(packPayload(true, QStringLiteral("u1"), 7, qint64(8)), expected);
+    QCOMPARE(expected.size(), 1 + (4 + 4) + 4 + 8);
+}
+
+void tst_EventPayload::packsNothingToAnEmptyPayload()
+{
+    QVERIFY(packPayload().isEmpty());
+}
+
+void tst_EventPayload::stringListIsACountAndTheStrings()
+{
+    QByteArray byHand;
+    QDataStream stream(&byHand, QIODevice::WriteOnly);
+    stream << qint32(2) << QStringLiteral("a") << QString();
+    QCOMPARE(packPayload(QStringList({QStringLiteral("a"), QString()})), byHand);
+    QCOMPARE(packPayload(QStringList()), QByteArray(4, '\0'));
+}
+
+void tst_EventPayload::readsHandWrittenAndOperatorWrittenListsAlike()
+{
+    const QStringList texts{QStringLiteral("一"), QString(), QStringLiteral("c")};
+    PayloadReader fromOperator(packPayload(texts, true));
+    QCOMPARE(fromOperator.takeTexts(), texts);
+    QVERIFY(fromOperator.take<bool>());
+    PayloadReader byHand(packPayload(3, texts.at(0), texts.at(1), texts.at(2)));
+    QCOMPARE(byHand.takeTexts(), texts);
+    QVERIFY(byHand.isComplete());
+}
+
+void tst_EventPayload::missingFieldsReadAsDefaults()
+{
+    PayloadReader reader{QByteArray()};
+    QCOMPARE(reader.take<bool>(), false);
+    QCOMPARE(reader.take<QString>(), QString());
+    QCOMPARE(reader.take<qint64>(), qint64(0));
+    QCOMPARE(reader.take<qint32>(), 0);
+    QCOMPARE(reader.takeTexts(), QStringList());
+}
+
+void tst_EventPayload::fieldBehindAShortListReadsAsDefault()
+{
+    PayloadReader reader(packPayload(3, QStringLiteral("a")));
+    QCOMPARE(reader.takeTexts(), QStringList(QStringLiteral("a")));
+    QCOMPARE(reader.take<QString>(), QString());
+    QCOMPARE(reader.take<bool>(), false);
+}
+
+void tst_EventPayload::listEndsWhereThePayloadEnds_data()
+{
+    QTest::addColumn<QByteArray>("payload");
+    QTest::addColumn<QStringList>("texts");
+    const QString a = QStringLiteral("a");
+    QTest::newRow("greatest count") << packPayload(std::numeric_limits<qint32>::max(), a) << QStringList(a);
+    QTest::newRow("negative count") << packPayload(-1, a) << QStringList();
+    QTest::newRow("least count") << packPayload(std::numeric_limits<qint32>::min(), a) << QStringList();
+    QTest::newRow("string cut off") << packPayload(2, a, QStringLiteral("bcd")).chopped(1) << QStringList(a);
+    QTest::newRow("string of 4 GB") << packPayload(2, a, quint32(0xfffffffe)) << QStringList(a);
+    QTest::newRow("string of odd length") << packPayload(2, a, quint32(3), qint64(0)) << QStringList(a);
+    QTest::newRow("half a count") << QByteArray(2, '\1') << QStringList();
+}
+
+void tst_EventPayload::listEndsWhereThePayloadEnds()
+{
+    QFETCH(QByteArray, payload);
+    QFETCH(QStringList, texts);
+    QCOMPARE(PayloadReader(payload).takeTexts(), texts);
+}
+
+void tst_EventPayload::tellsWhetherAFieldWasMissing()
+{
+    PayloadReader whole(packPayload(1, QStringLiteral("a")));
+    whole.takeTexts();
+    QVERIFY(whole.isComplete());
+    PayloadReader cut(packPayload(2, QStringLiteral("a")));
+    cut.takeTexts();
+    QVERIFY(!cut.isComplete());
+}
+
+void tst_EventPayload::zeroAddressGivesADefaultRecord()
+{
+    QVERIFY(recordAt<QString>(0).isNull());
+}
+
+void tst_EventPayload::recordIsCopiedFromItsAddress()
+{
+    QString record = QStringLiteral("before");
+    const QString copy = recordAt<QString>(static_cast<qint64>(reinterpret_cast<quintptr>(&record)));
+    record = QStringLiteral("after");
+    QCOMPARE(copy, QStringLiteral("before"));
+}
+
+QTEST_GUILESS_MAIN(tst_EventPayload)
+#include "tst_EventPayload.moc"

@@ -1,0 +1,324 @@
+// Each command goes through the real mailbox to the real call manager; a socket of the test stands for the call
+// process, so that what the command led to can be read off the wire.
+
+#include "engine/VoipManage.h"
+#include "fakes/FakeHost.h"
+#include "fakes/LogCapture.h"
+#include "model/LoginData.h"
+#include "plugin/EventPayload.h"
+#include "plugin/HostCommands.h"
+#include "plugin/PluginIds.h"
+#include "plugin/VoipManageMessageProcess.h"
+#include "ui/VoipWidget.h"
+
+#include <QApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QTest>
+
+namespace {
+
+// Opens the call manager's record of the call.
+class ManagerState : public CVoipManage
+{
+public:
+    static bool exists() { return m_pInstance != nullptr; }
+    static CallData &call() { return m_pInstance->*(&ManagerState::m_callData); }
+    static CVoipWidget *window() { return m_pInstance->*(&ManagerState::m_pVoipWidget); }
+};
+
+const QString peer = QStringLiteral("u1");
+
+} // namespace
+
+class tst_HostCommands : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void noCommandHasCreatedTheManagerYet();
+    void thereAreNineCommands();
+    void existCallAnswersExactlyOneBool();
+    void videoCallIsFalseAlsoDuringAVideoCall();
+    void callSingleUserReadsTheFlagBeforeTheUser_data();
+    void callSingleUserReadsTheFlagBeforeTheUser();
+    void callConferenceReadsTheTextBeforeTheFlag();
+    void callConferenceTakesAListWrittenByHand();
+    void callConferenceWithAHostileCountEndsAtThePayloadsEnd();
+    void responseIsPassedOn_data();
+    void responseIsPassedOn();
+    void connectStatusIsPassedOn();
+    void userInfoReachesTheCallWindow();
+    void userInfoWithZeroAddressStandsForADefaultCard_data();
+    void userInfoWithZeroAddressStandsForADefaultCard();
+    void showVoiceConfIsPassedOn();
+    void shortPayloadsReadAsDefaults();
+    void exitEndsTheLink();
+
+private:
+    void command(EMsgId msgId, const QByteArray &payload = QByteArray());
+    QByteArray query(EMsgId msgId, const QByteArray &payload);
+    QJsonObject nextLine(const QString &messageType);
+    QString logText();
+
+    LogCapture m_log;
+    LoginData m_login;
+    FakeHost m_host;
+    QLocalServer m_server;
+    QLocalSocket *m_link = nullptr;
+};
+
+void tst_HostCommands::initTestCase()
+{
+    QVERIFY2(m_server.listen(QStringLiteral("VoipSDK")), qPrintable(m_server.errorString()));
+    m_login.m_strUid = QStringLiteral("me");
+    m_login.m_strDomain = QStringLiteral("d");
+    m_login.m_strRegValue = QStringLiteral("value");
+    m_log.context.setLoginData(&m_login);
+    VoipManageMessageProcess::instance()->setSendEvent(&m_host);
+}
+
+void tst_HostCommands::init()
+{
+    m_host.events.clear();
+    m_log.take();
+}
+
+void tst_HostCommands::cleanup()
+{
+    if (!ManagerState::exists()) {
+        return;
+    }
+    CVoipManage::instance()->hangupVoipCall();
+    if (m_link != nullptr) {
+        // Nothing of this test may be taken for a line of the next.
+        CVoipManage::instance()->sendVoipMessage(QStringLiteral("{\"messagetype\":\"end of test\"}\n"));
+        QVERIFY(!nextLine(QStringLiteral("end of test")).isEmpty());
+    }
+}
+
+void tst_HostCommands::command(EMsgId msgId, const QByteArray &payload)
+{
+    BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false, payload);
+    QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &event);
+    QCOMPARE(event.data, payload);
+}
+
+QByteArray tst_HostCommands::query(EMsgId msgId, const QByteArray &payload)
+{
+    BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false, payload);
+    QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &event);
+    return event.data;
+}
+
+// The next line of that type on the wire; an empty object when none comes.
+QJsonObject tst_HostCommands::nextLine(const QString &messageType)
+{
+    QJsonObject found;
+    const bool came = QTest::qWaitFor([&] {
+        while (m_link->canReadLine()) {
+            found = QJsonDocument::fromJson(m_link->readLine()).object();
+            if (found.value(QStringLiteral("messagetype")).toString() == messageType) {
+                return true;
+            }
+        }
+        return false;
+    });
+    return came ? found : QJsonObject();
+}
+
+QString tst_HostCommands::logText()
+{
+    return m_log.take().join(QLatin1Char('\n'));
+}
+
+void tst_HostCommands::noCommandHasCreatedTheManagerYet()
+{
+    QVERIFY(!ManagerState::exists());
+    BaseEvent other(MSG_IS_EXIST_CALL, sessionPluginId(), contactPluginId(), false);
+    QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &other);
+    QVERIFY(!ManagerState::exists());
+    // An unknown command does not create it either.
+    QTest::ignoreMessage(QtDebugMsg, "1 enternothandle");
+    BaseEvent unknown(static_cast<EMsgId>(1), sessionPluginId(), voipPluginId(), false);
+    QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &unknown);
+    QVERIFY(!ManagerState::exists());
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_HostCommands::thereAreNineCommands()
+{
+    QList<int> numbers;
+    for (int msgId = -1; msgId < 20000; ++msgId) {
+        if (const HostCommand *row = findHostCommand(msgId)) {
+            QCOMPARE(static_cast<int>(row->msgId), msgId);
+            numbers.append(msgId);
+        }
+    }
+    QCOMPARE(numbers, (QList<int>{4105, 4135, 4470, 4491, 4492, 4732, 4733, 4736, 4763}));
+}
+
+void tst_HostCommands::existCallAnswersExactlyOneBool()
+{
+    // The first recognised command, a query here, creates the manager and its link.
+    QCOMPARE(query(MSG_IS_EXIST_CALL, "whatever it held before"), packPayload(false));
+    QVERIFY(ManagerState::exists());
+    QTRY_VERIFY(m_server.hasPendingConnections());
+    m_link = m_server.nextPendingConnection();
+    ManagerState::call().peerId = peer;
+    QCOMPARE(query(MSG_IS_EXIST_CALL, QByteArray()), packPayload(true));
+    QCOMPARE(packPayload(true).size(), 1);
+}
+
+void tst_HostCommands::videoCallIsFalseAlsoDuringAVideoCall()
+{
+    command(MSG_CALL_SINGLE_USER, packPayload(true, peer));
+    QVERIFY(ManagerState::call().bIsVideo);
+    QCOMPARE(query(MSG_IS_VIDEO_CALL, "whatever it held before"), packPayload(false));
+}
+
+void tst_HostCommands::callSingleUserReadsTheFlagBeforeTheUser_data()
+{
+    QTest::addColumn<bool>("bVideo");
+    QTest::newRow("voice") << false;
+    QTest::newRow("video") << true;
+}
+
+void tst_HostCommands::callSingleUserReadsTheFlagBeforeTheUser()
+{
+    QFETCH(bool, bVideo);
+    command(MSG_CALL_SINGLE_USER, packPayload(bVideo, peer));
+    const QJsonObject line = nextLine(QStringLiteral("CallUser"));
+    QCOMPARE(line.value(QStringLiteral("param1")).toString(), peer);
+    QCOMPARE(line.value(QStringLiteral("param2")), QJsonValue(bVideo));
+}
+
+void tst_HostCommands::callConferenceReadsTheTextBeforeTheFlag()
+{
+    const QStringList members{QStringLiteral("u2"), QStringLiteral("u3")};
+    command(MSG_CALL_CONFERENCE, packPayload(members, QStringLiteral("题目"), true));
+    const QJsonObject line = nextLine(QStringLiteral("RequestConference"));
+    QCOMPARE(line.value(QStringLiteral("param2")).toArray(), QJsonArray::fromStringList(members));
+    QCOMPARE(line.value(QStringLiteral("param3")), QJsonValue(true));
+    QCOMPARE(line.value(QStringLiteral("param4")).toString(), QStringLiteral("题目"));
+}
+
+void tst_HostCommands::callConferenceTakesAListWrittenByHand()
+{
+    command(MSG_CALL_CONFERENCE,
+            packPayload(2, QStringLiteral("u2"), QStringLiteral("u3"), QStringLiteral("t"), false));
+    const QJsonObject line = nextLine(QStringLiteral("RequestConference"));
+    QCOMPARE(line.value(QStringLiteral("param2")).toArray().size(), 2);
+    QCOMPARE(line.value(QStringLiteral("param3")), QJsonValue(false));
+    QCOMPARE(line.value(QStringLiteral("param4")).toString(), QStringLiteral("t"));
+}
+
+void tst_HostCommands::callConferenceWithAHostileCountEndsAtThePayloadsEnd()
+{
+    command(MSG_CALL_CONFERENCE, packPayload(0x7fffffff, QStringLiteral("u2")));
+    const QJsonObject line = nextLine(QStringLiteral("RequestConference"));
+    QCOMPARE(line.value(QStringLiteral("param2")).toArray(), QJsonArray{QStringLiteral("u2")});
+    QCOMPARE(line.value(QStringLiteral("param3")), QJsonValue(false));
+    QCOMPARE(line.value(QStringLiteral("param4")), QJsonValue(QString()));
+}
+
+void tst_HostCommands::responseIsPassedOn_data()
+{
+    QTest::addColumn<bool>("bAccept");
+    QTest::addColumn<QString>("messageType");
+    QTest::newRow("accept") << true << "AcceptCall";
+    QTest::newRow("reject") << false << "RejectCall";
+}
+
+void tst_HostCommands::responseIsPassedOn()
+{
+    QFETCH(bool, bAccept);
+    QFETCH(QString, messageType);
+    ManagerState::call().peerId = peer;
+    command(MSG_RESPONSE_VOIP_REQUEST, packPayload(bAccept));
+    QVERIFY(!nextLine(messageType).isEmpty());
+}
+
+void tst_HostCommands::connectStatusIsPassedOn()
+{
+    command(MSG_CLIENT_CONNECT_STATUS, packPayload(true));
+    QCOMPARE(nextLine(QStringLiteral("RegeditUser")).value(QStringLiteral("param1")).toString(), QStringLiteral("me"));
+    command(MSG_CLIENT_CONNECT_STATUS, packPayload(false));
+    QCOMPARE(nextLine(QStringLiteral("UnReg")).value(QStringLiteral("param1")).toString(), QStringLiteral("me"));
+}
+
+void tst_HostCommands::userInfoReachesTheCallWindow()
+{
+    command(MSG_CALL_SINGLE_USER, packPayload(false, peer));
+    VcardInfo card;
+    card.m_strNickName = QStringLiteral("甲");
+    const auto address = static_cast<qint64>(reinterpret_cast<quintptr>(&card));
+    command(MSG_UPDATE_USER_INFO, packPayload(peer + QStringLiteral("@d"), address));
+    QVERIFY(logText().contains(QStringLiteral("updateUserInfo userID = u1@d")));
+    bool bShown = false;
+    for (const QLabel *label : ManagerState::window()->findChildren<QLabel *>()) {
+        bShown =
+            bShown || label->text().contains(QStringLiteral("甲")) || label->toolTip().contains(QStringLiteral("甲"));
+    }
+    QVERIFY(bShown);
+}
+
+void tst_HostCommands::userInfoWithZeroAddressStandsForADefaultCard_data()
+{
+    QTest::addColumn<QByteArray>("payload");
+    QTest::addColumn<QString>("user");
+    QTest::newRow("zero") << packPayload(peer, qint64(0)) << peer;
+    QTest::newRow("no address") << packPayload(peer) << peer;
+    QTest::newRow("half an address") << packPayload(peer, qint32(-1)) << peer;
+    QTest::newRow("nothing") << QByteArray() << QString();
+}
+
+void tst_HostCommands::userInfoWithZeroAddressStandsForADefaultCard()
+{
+    QFETCH(QByteArray, payload);
+    QFETCH(QString, user);
+    command(MSG_UPDATE_USER_INFO, payload);
+    QVERIFY(logText().endsWith(QStringLiteral("updateUserInfo userID = ") + user));
+}
+
+void tst_HostCommands::showVoiceConfIsPassedOn()
+{
+    command(MSG_SHOW_VOICE_CONF);
+    QVERIFY(logText().contains(QStringLiteral("show voice conf detaileInfo!")));
+}
+
+void tst_HostCommands::shortPayloadsReadAsDefaults()
+{
+    command(MSG_CALL_SINGLE_USER);
+    QJsonObject line = nextLine(QStringLiteral("CallUser"));
+    QCOMPARE(line.value(QStringLiteral("param1")), QJsonValue(QString()));
+    QCOMPARE(line.value(QStringLiteral("param2")), QJsonValue(false));
+
+    command(MSG_CALL_SINGLE_USER, packPayload(true));
+    line = nextLine(QStringLiteral("CallUser"));
+    QCOMPARE(line.value(QStringLiteral("param1")), QJsonValue(QString()));
+    QCOMPARE(line.value(QStringLiteral("param2")), QJsonValue(true));
+
+    command(MSG_RESPONSE_VOIP_REQUEST);
+    QVERIFY(!nextLine(QStringLiteral("RejectCall")).isEmpty());
+
+    command(MSG_CLIENT_CONNECT_STATUS);
+    QVERIFY(!nextLine(QStringLiteral("UnReg")).isEmpty());
+}
+
+void tst_HostCommands::exitEndsTheLink()
+{
+    command(MSG_EXIT_VOIP);
+    QTRY_COMPARE(m_link->state(), QLocalSocket::UnconnectedState);
+    QVERIFY(m_link->readAll().endsWith("quit\n"));
+    m_link = nullptr;
+}
+
+QTEST_MAIN(tst_HostCommands)
+#include "tst_HostCommands.moc"

@@ -1,0 +1,728 @@
+// The call window's operations, its signals in their order, and what the user's clicks do.
+
+#include "ui/VoipWidget.h"
+
+#include "ContactFixture.h"
+#include "LogFile.h"
+#include "ui/CallWindowStyle.h"
+#include "ui/ConferenceListView.h"
+#include "ui/ConferenceRoles.h"
+#include "widgets/ErrorMessage.h"
+#include "widgets/SymbolButton.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMetaMethod>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+QStringList debugLines;
+
+void keepDebugLine(QtMsgType, const QMessageLogContext &, const QString &strText)
+{
+    debugLines.append(strText);
+}
+
+QString uid(const char *name)
+{
+    return QLatin1String(name);
+}
+
+} // namespace
+
+class tst_VoipWidget : public QObject
+{
+    Q_OBJECT
+
+private:
+    template <typename Widget>
+    Widget *part(const char *name) const
+    {
+        return m_pWindow->findChild<Widget *>(QLatin1String(name));
+    }
+    QString text(const char *name) const { return part<QLabel>(name)->text(); }
+    QAbstractItemModel *rows() const { return part<CConferenceListView>("listView")->model(); }
+    int status(int iRow) const { return rows()->index(iRow, 0).data(ROLE_CALL_STATUS).toInt(); }
+    void showWindow()
+    {
+        m_pWindow->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+    }
+    void click(const char *name) { QTest::mouseClick(part<QPushButton>(name), Qt::LeftButton); }
+    void startCall(CVoipWidget::VoipType type, bool bConnected = false)
+    {
+        m_pWindow->setVoipCallInfo({uid("ann"), uid("bob")}, type, true, bConnected);
+    }
+    // Clicks a button of the question that the next user action opens.
+    void answerQuestion(
+        const char *name, const std::function<void()> &before = [] {});
+    void record();
+
+    LogFile m_log;
+    std::unique_ptr<ContactFixture> m_pContacts;
+    std::unique_ptr<CVoipWidget> m_pWindow;
+    QStringList m_sent;
+
+private slots:
+    void init();
+    void cleanup();
+
+    void signalsStandInTheirOrder();
+    void privateSlotsStandInTheirOrder();
+    void windowIsFramelessAndOfFixedSize();
+    void windowStartsHiddenWithStartValues();
+    void everyStyleSheetIsSetOnItsPart();
+    void statusLabelKeepsThePlainLook();
+    void labelsNeverRunRichText();
+    void longNamesStayInsideTheWindow();
+    void showBringsBackAMinimisedWindow();
+
+    void micClickTogglesAndSendsTheInverse();
+    void speakerClickTogglesAndSendsTheInverse();
+    void cameraClickSendsTheFlagItself();
+    void cameraButtonStaysHidden_data();
+    void cameraButtonStaysHidden();
+    void muteAllClickMutesEveryRowAndSendsOnce();
+    void addMemberClickIsSent();
+    void hangUpClickIsSentAndTheWindowStays();
+    void cancelClickSendsHangUpTwice();
+    void listSignalsAreForwarded();
+
+    void closeSendsItsSignalsInOrder_data();
+    void closeSendsItsSignalsInOrder();
+    void closingAHiddenWindowDoesNotCountForQuit();
+    void confirmedCloseButtonCloses();
+    void cancelledCloseButtonLeavesTheCall();
+    void callThatEndsUnderTheOpenQuestionIsHarmless();
+    void userOfflineCloses();
+    void hangUpMessageClearsDataOnly();
+    void clearingPutsTheTogglesBack();
+    void clearUiEmptiesWhatIsShown();
+
+    void volumeGoesOutUnchanged_data();
+    void volumeGoesOutUnchanged();
+    void callStatusIsAlwaysZero();
+    void thereIsNoWebView();
+    void videoWidgetGoesToTheVideoPage();
+    void nullVideoWidgetIsIgnored();
+
+    void memberIsAddedOnce();
+    void memberIsRemovedAndTheCountRefreshed();
+    void removingAnUnknownMemberRefreshesTheCount();
+    void statusOperationsReachTheRows();
+    void creatorIsMarkedInTheList();
+    void callTimeText_data();
+    void callTimeText();
+
+    void operationsAreLogged();
+    void clicksAreLogged();
+    void enablesAndVolumesGoToTheDebugChannel();
+};
+
+void tst_VoipWidget::init()
+{
+    m_pContacts = std::make_unique<ContactFixture>();
+    m_pWindow = std::make_unique<CVoipWidget>();
+    m_sent.clear();
+    record();
+    m_log.newRecords();
+}
+
+void tst_VoipWidget::cleanup()
+{
+    m_pWindow.reset();
+    m_pContacts.reset();
+}
+
+void tst_VoipWidget::record()
+{
+    CVoipWidget *w = m_pWindow.get();
+    const auto flag = [this](const char *name) {
+        return [this, name](bool bOn) { m_sent.append(QLatin1String(name) + (bOn ? "+" : "-")); };
+    };
+    const auto number = [this](const char *name) {
+        return [this, name](qlonglong i) { m_sent.append(QLatin1String(name) + QString::number(i)); };
+    };
+    const auto plain = [this](const char *name) { return [this, name] { m_sent.append(QLatin1String(name)); }; };
+    const auto user = [this](const char *name) {
+        return [this, name](const QString &strUid) { m_sent.append(QLatin1String(name) + strUid); };
+    };
+    connect(w, &CVoipWidget::signal_SetMicEnable, this, flag("mic"));
+    connect(w, &CVoipWidget::signal_SetSpeakerEnable, this, flag("speaker"));
+    connect(w, &CVoipWidget::signal_SetCameraEnable, this, flag("camera"));
+    connect(w, &CVoipWidget::signal_SetMicVolume, this, number("micvolume="));
+    connect(w, &CVoipWidget::signal_SetSpeakerVolume, this, number("speakervolume="));
+    connect(w, &CVoipWidget::signal_HangupCurrentCall, this, plain("hangup"));
+    connect(w, &CVoipWidget::signal_AddConferenceMember, this, plain("add"));
+    connect(w, &CVoipWidget::signal_RemoveUser, this, user("remove "));
+    connect(w, &CVoipWidget::signal_MuteUser, this, [this](const QString &strUid, bool bMute) {
+        m_sent.append(QStringLiteral("mute ") + strUid + (bMute ? "+" : "-"));
+    });
+    connect(w, &CVoipWidget::signal_MuteAll, this, flag("muteall"));
+    connect(w, &CVoipWidget::signal_ClearCallData, this, plain("clear"));
+    connect(w, &CVoipWidget::signal_ReInviteConfUser, this, user("reinvite "));
+}
+
+void tst_VoipWidget::answerQuestion(const char *name, const std::function<void()> &before)
+{
+    QTimer::singleShot(0, this, [name, before] {
+        auto *pQuestion = qobject_cast<ErrorMessage *>(QApplication::activeModalWidget());
+        QVERIFY(pQuestion != nullptr);
+        QVERIFY(QTest::qWaitForWindowExposed(pQuestion));
+        before();
+        QTest::mouseClick(pQuestion->findChild<QPushButton *>(QLatin1String(name)), Qt::LeftButton);
+        QVERIFY(!pQuestion->isVisible());
+    });
+}
+
+void tst_VoipWidget::signalsStandInTheirOrder()
+{
+    QStringList signatures;
+    const QMetaObject &meta = CVoipWidget::staticMetaObject;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        if (meta.method(i).methodType() == QMetaMethod::Signal)
+            signatures.append(QString::fromLatin1(meta.method(i).methodSignature()));
+    const QStringList expected{
+        "signal_SetMicEnable(bool)",
+        "signal_SetSpeakerEnable(bool)",
+        "signal_SetCameraEnable(bool)",
+        "signal_SetMicVolume(qlonglong)",
+        "signal_SetSpeakerVolume(qlonglong)",
+        "signal_HangupCurrentCall()",
+        "signal_AddConferenceMember()",
+        "signal_RemoveUser(QString)",
+        "signal_MuteUser(QString,bool)",
+        "signal_MuteAll(bool)",
+        "signal_ClearCallData()",
+        "signal_ReInviteConfUser(QString)",
+    };
+    QCOMPARE(signatures, expected);
+}
+
+void tst_VoipWidget::privateSlotsStandInTheirOrder()
+{
+    QStringList signatures;
+    const QMetaObject &meta = CVoipWidget::staticMetaObject;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        if (meta.method(i).methodType() == QMetaMethod::Slot && meta.method(i).access() == QMetaMethod::Private)
+            signatures.append(QString::fromLatin1(meta.method(i).methodSignature()));
+    const QStringList expected{
+        "slot_HangUpCall()",
+        "slot_close()",
+        "slot_RefreshTime()",
+        "slot_MicButtonClicked()",
+        "slot_SpeakerButtonClicked()",
+        "slot_CameraButtonClicked()",
+        "slot_CancelVoipCall()",
+        "slot_AddConferenceMember()",
+        "slot_RemoveConferenceMember(QString)",
+        "slot_MuteConferenceMember(QString,bool)",
+        "slot_MuteAll()",
+        "slot_ReInviteConfUser(QString)",
+    };
+    QCOMPARE(signatures, expected);
+}
+
+void tst_VoipWidget::windowIsFramelessAndOfFixedSize()
+{
+    showWindow();
+    QVERIFY(m_pWindow->windowFlags().testFlag(Qt::FramelessWindowHint));
+    QCOMPARE(m_pWindow->size(), QSize(523, 403));
+    QCOMPARE(m_pWindow->minimumSize(), QSize(523, 403));
+    QCOMPARE(m_pWindow->maximumSize(), QSize(523, 403));
+}
+
+void tst_VoipWidget::windowStartsHiddenWithStartValues()
+{
+    QVERIFY(!m_pWindow->isVisible());
+    QVERIFY(part<QLabel>("currentPlayTimeLabel")->isHidden());
+    QCOMPARE(text("currentPlayTimeLabel"), QString());
+    QCOMPARE(part<QStackedWidget>("displayPane")->currentIndex(), 2);
+    QCOMPARE(part<QStackedWidget>("controlPane")->currentIndex(), 1);
+    QCOMPARE(part<QPushButton>("btnAddMember")->text(), QStringLiteral("邀请成员"));
+    QCOMPARE(part<QPushButton>("btnCancelCall")->text(), QStringLiteral("取消"));
+    QCOMPARE(part<QPushButton>("HangUp")->text(), QStringLiteral("挂断"));
+    QCOMPARE(part<QPushButton>("btnClose")->toolTip(), QStringLiteral("close"));
+    QCOMPARE(part<QPushButton>("btnMic")->toolTip(), QStringLiteral("closemic"));
+    QCOMPARE(part<QPushButton>("btnSpeaker")->toolTip(), QStringLiteral("silence"));
+    QCOMPARE(part<QPushButton>("btnMuteAll")->toolTip(), QStringLiteral("全体静音"));
+}
+
+void tst_VoipWidget::everyStyleSheetIsSetOnItsPart()
+{
+    QCOMPARE(cCallWindowStyles.size(), std::size_t(8));
+    for (const CallWindowStyleRow &row : cCallWindowStyles) {
+        QVERIFY2(part<QWidget>(row.pName) != nullptr, row.pName);
+        QCOMPARE(part<QWidget>(row.pName)->styleSheet(), QString::fromUtf8(row.pStyleSheet));
+    }
+}
+
+void tst_VoipWidget::statusLabelKeepsThePlainLook()
+{
+    showWindow();
+    QCOMPARE(part<QLabel>("lblStatus")->palette().color(QPalette::WindowText), QColor(0x33, 0x33, 0x33));
+    QCOMPARE(part<QLabel>("lblUserName")->palette().color(QPalette::WindowText), QColor(0x31, 0x31, 0x31));
+    QCOMPARE(part<QLabel>("lblUserName")->font().pixelSize(), 20);
+    QVERIFY(part<QLabel>("lblStatus")->font().pixelSize() != 14);
+}
+
+void tst_VoipWidget::labelsNeverRunRichText()
+{
+    const QList<QLabel *> labels = m_pWindow->findChildren<QLabel *>();
+    QVERIFY(labels.size() >= 7);
+    for (const QLabel *pLabel : labels)
+        QVERIFY2(pLabel->textFormat() == Qt::PlainText, qPrintable(pLabel->objectName()));
+}
+
+void tst_VoipWidget::longNamesStayInsideTheWindow()
+{
+    m_pContacts->addContact(uid("ann"), ContactFixture::card(QString(3000, QLatin1Char('m')), uid("x\ny")));
+    startCall(CVoipWidget::Video);
+    showWindow();
+    const auto *pClose = part<QPushButton>("btnClose");
+    QVERIFY(m_pWindow->rect().contains(QRect(pClose->mapTo(m_pWindow.get(), QPoint()), pClose->size())));
+    startCall(CVoipWidget::Voice);
+    const auto *pName = part<QLabel>("lblUserName");
+    QTRY_VERIFY(pName->isVisible());
+    QVERIFY(m_pWindow->rect().contains(QRect(pName->mapTo(m_pWindow.get(), QPoint()), pName->size())));
+}
+
+void tst_VoipWidget::showBringsBackAMinimisedWindow()
+{
+    m_pWindow->setWindowState(Qt::WindowMinimized);
+    m_pWindow->show();
+    QVERIFY(m_pWindow->isVisible());
+    QCOMPARE(m_pWindow->windowState(), Qt::WindowStates(Qt::WindowNoState));
+}
+
+void tst_VoipWidget::micClickTogglesAndSendsTheInverse()
+{
+    startCall(CVoipWidget::Voice, true);
+    showWindow();
+    const auto *pMic = part<SymbolButton>("btnMic");
+    click("btnMic");
+    QCOMPARE(m_sent, QStringList{"mic-"});
+    QCOMPARE(pMic->symbol(), SymbolButton::Symbol::MicrophoneOff);
+    QCOMPARE(pMic->toolTip(), QStringLiteral("openmic"));
+    click("btnMic");
+    QCOMPARE(m_sent, (QStringList{"mic-", "mic+"}));
+    QCOMPARE(pMic->symbol(), SymbolButton::Symbol::Microphone);
+    QCOMPARE(pMic->toolTip(), QStringLiteral("closemic"));
+}
+
+void tst_VoipWidget::speakerClickTogglesAndSendsTheInverse()
+{
+    startCall(CVoipWidget::Voice, true);
+    showWindow();
+    const auto *pSpeaker = part<SymbolButton>("btnSpeaker");
+    click("btnSpeaker");
+    QCOMPARE(m_sent, QStringList{"speaker-"});
+    QCOMPARE(pSpeaker->symbol(), SymbolButton::Symbol::SpeakerOff);
+    QCOMPARE(pSpeaker->toolTip(), QStringLiteral("openvioce"));
+    click("btnSpeaker");
+    QCOMPARE(m_sent, (QStringList{"speaker-", "speaker+"}));
+    QCOMPARE(pSpeaker->symbol(), SymbolButton::Symbol::Speaker);
+    QCOMPARE(pSpeaker->toolTip(), QStringLiteral("silence"));
+}
+
+void tst_VoipWidget::cameraClickSendsTheFlagItself()
+{
+    const auto *pCamera = part<SymbolButton>("btnCamera");
+    QCOMPARE(pCamera->symbol(), SymbolButton::Symbol::Camera);
+    part<QPushButton>("btnCamera")->click();
+    QCOMPARE(m_sent, QStringList{"camera-"});
+    QCOMPARE(pCamera->symbol(), SymbolButton::Symbol::CameraOff);
+    part<QPushButton>("btnCamera")->click();
+    QCOMPARE(m_sent, (QStringList{"camera-", "camera+"}));
+    QCOMPARE(pCamera->symbol(), SymbolButton::Symbol::Camera);
+}
+
+void tst_VoipWidget::cameraButtonStaysHidden_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("voice") << int(CVoipWidget::Voice);
+    QTest::newRow("video") << int(CVoipWidget::Video);
+    QTest::newRow("conference") << int(CVoipWidget::Conference);
+}
+
+void tst_VoipWidget::cameraButtonStaysHidden()
+{
+    QFETCH(int, type);
+    startCall(CVoipWidget::VoipType(type));
+    m_pWindow->setVoipCallStatus(true);
+    showWindow();
+    QVERIFY(part<QWidget>("btnMic")->isVisible());
+    QVERIFY(!part<QWidget>("btnCamera")->isVisible());
+}
+
+void tst_VoipWidget::muteAllClickMutesEveryRowAndSendsOnce()
+{
+    startCall(CVoipWidget::Conference, true);
+    showWindow();
+    const auto *pMuteAll = part<SymbolButton>("btnMuteAll");
+    click("btnMuteAll");
+    QCOMPARE(m_sent, QStringList{"muteall+"});
+    QVERIFY(rows()->index(0, 0).data(ROLE_MUTED).toBool());
+    QVERIFY(rows()->index(1, 0).data(ROLE_MUTED).toBool());
+    QCOMPARE(pMuteAll->symbolColor(), QColor(255, 96, 88));
+    QCOMPARE(pMuteAll->toolTip(), QStringLiteral("取消全体静音"));
+    click("btnMuteAll");
+    QCOMPARE(m_sent, (QStringList{"muteall+", "muteall-"}));
+    QVERIFY(!rows()->index(1, 0).data(ROLE_MUTED).toBool());
+    QCOMPARE(pMuteAll->symbolColor(), QColor(184, 184, 184));
+    QCOMPARE(pMuteAll->toolTip(), QStringLiteral("全体静音"));
+}
+
+void tst_VoipWidget::addMemberClickIsSent()
+{
+    startCall(CVoipWidget::Conference);
+    showWindow();
+    click("btnAddMember");
+    QCOMPARE(m_sent, QStringList{"add"});
+    QCOMPARE(rows()->rowCount(), 2);
+}
+
+void tst_VoipWidget::hangUpClickIsSentAndTheWindowStays()
+{
+    startCall(CVoipWidget::Voice, true);
+    showWindow();
+    click("HangUp");
+    QCOMPARE(m_sent, QStringList{"hangup"});
+    QVERIFY(m_pWindow->isVisible());
+}
+
+void tst_VoipWidget::cancelClickSendsHangUpTwice()
+{
+    startCall(CVoipWidget::Voice);
+    showWindow();
+    click("btnCancelCall");
+    QCOMPARE(m_sent, (QStringList{"hangup", "mic+", "speaker+", "hangup", "clear"}));
+    QVERIFY(!m_pWindow->isVisible());
+}
+
+void tst_VoipWidget::listSignalsAreForwarded()
+{
+    auto *pList = part<CConferenceListView>("listView");
+    emit pList->signal_RemoveUser(uid("ann"));
+    emit pList->signal_MuteUser(uid("bob"), true);
+    emit pList->signal_MuteUser(uid("bob"), false);
+    emit pList->signal_ReInviteConfUser(uid("cat"));
+    QCOMPARE(m_sent, (QStringList{"remove ann", "mute bob+", "mute bob-", "reinvite cat"}));
+}
+
+void tst_VoipWidget::closeSendsItsSignalsInOrder_data()
+{
+    QTest::addColumn<bool>("shown");
+    QTest::newRow("shown") << true;
+    QTest::newRow("never shown") << false;
+}
+
+void tst_VoipWidget::closeSendsItsSignalsInOrder()
+{
+    QFETCH(bool, shown);
+    startCall(CVoipWidget::Voice);
+    if (shown)
+        showWindow();
+    m_pWindow->close();
+    QCOMPARE(m_sent, (QStringList{"mic+", "speaker+", "hangup", "clear"}));
+    QCOMPARE(text("lblUserName"), QString());
+}
+
+void tst_VoipWidget::closingAHiddenWindowDoesNotCountForQuit()
+{
+    const QSignalSpy lastClosed(qApp, &QGuiApplication::lastWindowClosed);
+    m_pWindow->close();
+    showWindow();
+    QVERIFY(!m_pWindow->testAttribute(Qt::WA_QuitOnClose));
+    m_pWindow->close();
+    QCOMPARE(lastClosed.count(), 0);
+}
+
+void tst_VoipWidget::confirmedCloseButtonCloses()
+{
+    startCall(CVoipWidget::Voice, true);
+    showWindow();
+    QStringList words;
+    answerQuestion("acceptBtn", [&words] {
+        const QWidget *pQuestion = QApplication::activeModalWidget();
+        for (const char *name : {"titlelabel", "msgLabel"})
+            words.append(pQuestion->findChild<QLabel *>(QLatin1String(name))->text());
+        for (const char *name : {"acceptBtn", "closeBtn"})
+            words.append(pQuestion->findChild<QPushButton *>(QLatin1String(name))->text());
+    });
+    click("btnClose");
+    QCOMPARE(words, (QStringList{"tip", "beSureToCloseCalling", "sure", "cancel"}));
+    QVERIFY(!m_pWindow->isVisible());
+    QCOMPARE(m_sent, (QStringList{"mic+", "speaker+", "hangup", "clear"}));
+}
+
+void tst_VoipWidget::cancelledCloseButtonLeavesTheCall()
+{
+    startCall(CVoipWidget::Voice, true);
+    showWindow();
+    answerQuestion("closeBtn");
+    click("btnClose");
+    QVERIFY(m_pWindow->isVisible());
+    QCOMPARE(m_sent, QStringList());
+    QCOMPARE(text("lblVoipTipMsg"), QStringLiteral("语音通话"));
+}
+
+void tst_VoipWidget::callThatEndsUnderTheOpenQuestionIsHarmless()
+{
+    startCall(CVoipWidget::Voice, true);
+    showWindow();
+    answerQuestion("acceptBtn", [this] { m_pWindow->UserOffline(); });
+    click("btnClose");
+    QVERIFY(!m_pWindow->isVisible());
+    QCOMPARE(m_sent.count("clear"), 2);
+}
+
+void tst_VoipWidget::userOfflineCloses()
+{
+    startCall(CVoipWidget::Conference, true);
+    showWindow();
+    m_pWindow->UserOffline();
+    QVERIFY(!m_pWindow->isVisible());
+    QCOMPARE(m_sent, (QStringList{"mic+", "speaker+", "hangup", "clear"}));
+    QCOMPARE(rows()->rowCount(), 0);
+}
+
+void tst_VoipWidget::hangUpMessageClearsDataOnly()
+{
+    startCall(CVoipWidget::Conference, true);
+    showWindow();
+    m_pWindow->SetVoipCallHangUpMessage();
+    QCOMPARE(m_sent, (QStringList{"mic+", "speaker+"}));
+    QVERIFY(m_pWindow->isVisible());
+    QCOMPARE(text("lblVoipTipMsg"), QStringLiteral("语音会议通话中"));
+    QCOMPARE(rows()->rowCount(), 2);
+    // The members are forgotten: one that was there counts as new.
+    m_pWindow->addConferenceMember(uid("cat"));
+    QCOMPARE(text("lblListCount"), QStringLiteral("参与人员(1)"));
+}
+
+void tst_VoipWidget::clearingPutsTheTogglesBack()
+{
+    startCall(CVoipWidget::Conference, true);
+    showWindow();
+    for (const char *name : {"btnMic", "btnSpeaker", "btnMuteAll"})
+        click(name);
+    part<QPushButton>("btnCamera")->click();
+    m_sent.clear();
+
+    m_pWindow->ClearCallInfoData();
+
+    QCOMPARE(m_sent, (QStringList{"mic+", "speaker+"}));
+    QCOMPARE(part<SymbolButton>("btnMic")->symbol(), SymbolButton::Symbol::Microphone);
+    QCOMPARE(part<SymbolButton>("btnSpeaker")->symbol(), SymbolButton::Symbol::Speaker);
+    QCOMPARE(part<SymbolButton>("btnMuteAll")->toolTip(), QStringLiteral("全体静音"));
+    // The camera's face is left as it was, only its flag is put back.
+    QCOMPARE(part<SymbolButton>("btnCamera")->symbol(), SymbolButton::Symbol::CameraOff);
+    m_sent.clear();
+    for (const char *name : {"btnMic", "btnSpeaker", "btnMuteAll"})
+        click(name);
+    part<QPushButton>("btnCamera")->click();
+    QCOMPARE(m_sent, (QStringList{"mic-", "speaker-", "muteall+", "camera-"}));
+}
+
+void tst_VoipWidget::clearUiEmptiesWhatIsShown()
+{
+    m_pContacts->addContact(uid("ann"), ContactFixture::card(uid("Ann"), uid("Annie")));
+    startCall(CVoipWidget::Voice);
+    startCall(CVoipWidget::Conference);
+    part<QLabel>("currentPlayTimeLabel")->setText(uid("00:01"));
+
+    m_pWindow->clearUI();
+
+    for (const char *name : {"lblVoipTipMsg", "lblListCount", "currentPlayTimeLabel", "lblUserName", "lblStatus"})
+        QVERIFY2(text(name).isEmpty(), name);
+    QCOMPARE(rows()->rowCount(), 0);
+    QVERIFY(part<QLabel>("lblPhotoIcon")->pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(m_pWindow->windowTitle(), QStringLiteral("语音会议"));
+    QCOMPARE(m_sent, QStringList());
+}
+
+void tst_VoipWidget::volumeGoesOutUnchanged_data()
+{
+    QTest::addColumn<qlonglong>("volume");
+    QTest::newRow("none") << Q_INT64_C(0);
+    QTest::newRow("full") << Q_INT64_C(10);
+    QTest::newRow("negative") << Q_INT64_C(-3);
+    QTest::newRow("more than 32 bits") << Q_INT64_C(5000000000);
+}
+
+void tst_VoipWidget::volumeGoesOutUnchanged()
+{
+    QFETCH(qlonglong, volume);
+    m_pWindow->SetVoipMicVolume(volume);
+    m_pWindow->SetVoipSpeakerVolume(volume);
+    QCOMPARE(m_sent,
+             (QStringList{QStringLiteral("micvolume=%1").arg(volume), QStringLiteral("speakervolume=%1").arg(volume)}));
+}
+
+void tst_VoipWidget::callStatusIsAlwaysZero()
+{
+    QCOMPARE(m_pWindow->GetCurrentCallStatus(), 0);
+    startCall(CVoipWidget::Voice);
+    QCOMPARE(m_pWindow->GetCurrentCallStatus(), 0);
+    m_pWindow->setVoipCallStatus(true);
+    QCOMPARE(m_pWindow->GetCurrentCallStatus(), 0);
+    m_pWindow->setVoipCallStatus(false);
+    m_pWindow->close();
+    QCOMPARE(m_pWindow->GetCurrentCallStatus(), 0);
+}
+
+void tst_VoipWidget::thereIsNoWebView()
+{
+    QVERIFY(m_pWindow->getWebEngineView() == nullptr);
+}
+
+void tst_VoipWidget::videoWidgetGoesToTheVideoPage()
+{
+    auto *pSurface = new QWidget;
+    m_pWindow->addVoipWidget(pSurface);
+    auto *pLayout = m_pWindow->findChild<QVBoxLayout *>(QStringLiteral("WebViewLayout"));
+    QCOMPARE(pLayout->indexOf(pSurface), 0);
+    QCOMPARE(pLayout->stretch(0), 0);
+    QCOMPARE(pLayout->itemAt(0)->alignment(), Qt::Alignment());
+    QCOMPARE(pSurface->parentWidget(), part<QWidget>("playFramWidget"));
+    startCall(CVoipWidget::Video, true);
+    showWindow();
+    QTRY_VERIFY(pSurface->isVisible());
+    QVERIFY(pSurface->height() > 300);
+}
+
+void tst_VoipWidget::nullVideoWidgetIsIgnored()
+{
+    m_pWindow->addVoipWidget(nullptr);
+    QCOMPARE(m_pWindow->findChild<QVBoxLayout *>(QStringLiteral("WebViewLayout"))->count(), 0);
+}
+
+void tst_VoipWidget::memberIsAddedOnce()
+{
+    startCall(CVoipWidget::Conference);
+    m_pWindow->addConferenceMember(uid("cat"));
+    m_pWindow->addConferenceMember(uid("cat"));
+    QCOMPARE(rows()->rowCount(), 3);
+    QCOMPARE(text("lblListCount"), QStringLiteral("参与人员(3)"));
+}
+
+void tst_VoipWidget::memberIsRemovedAndTheCountRefreshed()
+{
+    startCall(CVoipWidget::Conference);
+    m_pWindow->removeConferenceMember(uid("ann"));
+    QCOMPARE(rows()->rowCount(), 1);
+    QCOMPARE(rows()->index(0, 0).data(ROLE_USER_ID).toString(), uid("bob"));
+    QCOMPARE(text("lblListCount"), QStringLiteral("参与人员(1)"));
+}
+
+void tst_VoipWidget::removingAnUnknownMemberRefreshesTheCount()
+{
+    startCall(CVoipWidget::Conference);
+    part<QLabel>("lblListCount")->clear();
+    m_pWindow->removeConferenceMember(uid("nobody"));
+    QCOMPARE(rows()->rowCount(), 2);
+    QCOMPARE(text("lblListCount"), QStringLiteral("参与人员(2)"));
+}
+
+void tst_VoipWidget::statusOperationsReachTheRows()
+{
+    startCall(CVoipWidget::Conference);
+    m_pWindow->updateConferenceListStatus({uid("bob"), uid("nobody")});
+    QCOMPARE(status(0), int(ConferenceCalling));
+    QCOMPARE(status(1), int(ConferenceConnected));
+    m_pWindow->setaddConfFailedList({uid("ann")});
+    QCOMPARE(status(0), int(ConferenceFailed));
+    m_pWindow->updateConferenceUserStatus(uid("bob"), 5);
+    QCOMPARE(status(1), int(ConferenceRejected));
+}
+
+void tst_VoipWidget::creatorIsMarkedInTheList()
+{
+    startCall(CVoipWidget::Conference);
+    m_pWindow->setConferenceCreator(uid("bob"));
+    QVERIFY(!rows()->index(0, 0).data(ROLE_IS_CREATOR).toBool());
+    QVERIFY(rows()->index(1, 0).data(ROLE_IS_CREATOR).toBool());
+}
+
+void tst_VoipWidget::callTimeText_data()
+{
+    QTest::addColumn<qulonglong>("seconds");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("none") << Q_UINT64_C(0) << QStringLiteral("00:00:00");
+    QTest::newRow("one digit each") << Q_UINT64_C(3661) << QStringLiteral("01:01:01");
+    QTest::newRow("two digits each") << Q_UINT64_C(86399) << QStringLiteral("23:59:59");
+    QTest::newRow("more than a day") << Q_UINT64_C(90000) << QStringLiteral("25:00:00");
+    QTest::newRow("hours of three digits") << Q_UINT64_C(360000) << QStringLiteral("100:00:00");
+    QTest::newRow("greatest") << ~Q_UINT64_C(0) << QStringLiteral("5124095576030431:00:15");
+}
+
+void tst_VoipWidget::callTimeText()
+{
+    QFETCH(qulonglong, seconds);
+    QTEST(m_pWindow->GetCallTimeString(seconds), "expected");
+}
+
+void tst_VoipWidget::operationsAreLogged()
+{
+    m_pContacts->addContact(uid("ann"), ContactFixture::card(uid("Ann"), uid("Annie")));
+    startCall(CVoipWidget::Voice);
+    m_pWindow->setVoipCallStatus(true);
+    m_pWindow->close();
+    const QStringList expected{
+        "VoipWidget.cpp: userlist = ann,bob, iType = 0, bMyCall = 1",
+        "VoipWidget.cpp: voip userName=Ann(Annie)",
+        "VoipWidget.cpp: voip photourl = Resources/images/FriendDetail/defaultHead.png",
+        "VoipWidget.cpp: setVoipConnect statu = 1",
+        "VoipWidget.cpp: clear call info!",
+        "VoipWidget.cpp: setmic bMute = 0",
+        "VoipWidget.cpp: set speaker bMute = 0",
+        "VoipWidget.cpp: clear voipwidget ui!",
+    };
+    QCOMPARE(m_log.newRecords(), expected);
+}
+
+void tst_VoipWidget::clicksAreLogged()
+{
+    for (const char *name : {"btnMic", "btnSpeaker", "btnCamera", "HangUp"})
+        part<QPushButton>(name)->click();
+    answerQuestion("closeBtn");
+    part<QPushButton>("btnClose")->click();
+    part<QPushButton>("btnCancelCall")->click();
+    const QStringList expected{
+        "VoipWidget.cpp: click mic button!",     "VoipWidget.cpp: setmic bMute = 1",
+        "VoipWidget.cpp: click speaker button!", "VoipWidget.cpp: set speaker bMute = 1",
+        "VoipWidget.cpp: click camera button!",  "VoipWidget.cpp: set camera bEnable = 0",
+        "VoipWidget.cpp: click hangup button!",  "VoipWidget.cpp: click close button!",
+        "VoipWidget.cpp: cancel button click!",
+    };
+    QCOMPARE(m_log.newRecords().mid(0, expected.size()), expected);
+}
+
+void tst_VoipWidget::enablesAndVolumesGoToTheDebugChannel()
+{
+    debugLines.clear();
+    const QtMessageHandler before = qInstallMessageHandler(keepDebugLine);
+    part<QPushButton>("btnMic")->click();
+    part<QPushButton>("btnSpeaker")->click();
+    part<QPushButton>("btnSpeaker")->click();
+    part<QPushButton>("btnCamera")->click();
+    m_pWindow->SetVoipMicVolume(7);
+    m_pWindow->SetVoipSpeakerVolume(-8);
+    qInstallMessageHandler(before);
+    // The speaker's line has the microphone's words.
+    const QStringList expected{"SetMicEnable = false",     "SetMicEnable = false", "SetMicEnable = true",
+                               "SetCamreraEnable = false", "SetMicVolume = 7",     "SetSpeakerVolume = -8"};
+    QCOMPARE(debugLines, expected);
+}
+
+QTEST_MAIN(tst_VoipWidget)
+
+#include "tst_VoipWidget.moc"
