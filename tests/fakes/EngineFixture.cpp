@@ -3,6 +3,9 @@
 #include "common/CommonFun.h"
 #include "fakes/QtMessages.h"
 #include "plugin/VoipManageMessageProcess.h"
+#include "ui/ConferenceListView.h"
+#include "ui/ConferenceRoles.h"
+#include "ui/VoipWidget.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -114,6 +117,18 @@ QString EngineFixture::state() const
     if (!manager->m_pRingSound->isFinished())
         parts << QStringLiteral("ring");
     return parts.join(QStringLiteral(", "));
+}
+
+QStringList EngineFixture::members() const
+{
+    const QAbstractItemModel *rows = manager->m_pVoipWidget->findChild<CConferenceListView *>()->model();
+    QStringList shown;
+    for (int row = 0; row < rows->rowCount(); ++row) {
+        const QModelIndex index = rows->index(row, 0);
+        shown << index.data(ROLE_USER_ID).toString() + ' ' + index.data(ROLE_CALL_STATUS).toString() +
+                     (index.data(ROLE_IS_CREATOR).toBool() ? "*" : "");
+    }
+    return shown;
 }
 
 qint64 EngineFixture::lastSeconds() const

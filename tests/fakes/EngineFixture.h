@@ -46,6 +46,9 @@ public:
     /// bert", and behind a comma what runs: "invite", "receive", "ring".
     QString state() const;
 
+    /// The member list of the call window: each row's uid and status code, and "*" for the creator.
+    QStringList members() const;
+
     /// Seconds in the last 4478 event; -1 when there was none.
     qint64 lastSeconds() const;
 

@@ -18,6 +18,9 @@ public:
     /// Whether the process has a manager.
     static bool exists() { return CVoipManage::m_pInstance != nullptr; }
 
+    /// Lets instance() make a new manager; the old one is the caller's.
+    static void forget() { CVoipManage::m_pInstance = nullptr; }
+
     using CVoipManage::m_bSdkFlag;
     using CVoipManage::m_bSocketConnected;
     using CVoipManage::m_callData;
