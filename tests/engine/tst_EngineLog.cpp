@@ -1,5 +1,6 @@
 // The log records of the engine: each operation's words, at debug level but for the call process's path.
 
+#include "common/CLogManger.h"
 #include "fakes/EngineFixture.h"
 #include "fakes/LogCapture.h"
 
@@ -36,6 +37,8 @@ private:
 void tst_EngineLog::initTestCase()
 {
     m_log = std::make_unique<LogCapture>();
+    // The log manager takes its writer when it is made, and keeps it.
+    CLogManger::instance();
 }
 
 void tst_EngineLog::cleanupTestCase()
@@ -43,12 +46,11 @@ void tst_EngineLog::cleanupTestCase()
     m_log.reset();
 }
 
-/// What has been logged since the last call, as "LEVEL text"; empty lines, the ends of sent messages, left out.
+/// What has been logged since the last call, as "LEVEL text".
 QStringList tst_EngineLog::takeTexts()
 {
     static const QRegularExpression prefix(QStringLiteral("^\\[(\\w+)\\]\\[[^\\]]*\\]: "));
     QStringList texts = m_log->take();
-    texts.removeAll(QString());
     for (QString &text : texts)
         text.replace(prefix, QStringLiteral("\\1 "));
     return texts;
