@@ -107,7 +107,8 @@ void CVoipManage::slot_DisplayError(QLocalSocket::LocalSocketError socketError)
 void CVoipManage::sendVoipMessage(QString strMessage)
 {
     LOG_DEBUG << "sendVoipMsg = " << strMessage << "\n";
-    if (m_pVoipSocket)
+    // Qt warns about a write to a socket that is not open.
+    if (m_pVoipSocket && m_pVoipSocket->isOpen())
         m_pVoipSocket->write(strMessage.toUtf8());
 }
 
@@ -147,9 +148,12 @@ void CVoipManage::disconnectVoipSDKSocket()
     LOG_DEBUG << "disconnenct voipsdk socket!"
               << "\n";
     if (m_pVoipSocket) {
-        m_pVoipSocket->write(kQuitLine);
+        // Each step looks at the socket anew, since the one before may have found the far side gone.
+        if (m_pVoipSocket->isOpen())
+            m_pVoipSocket->write(kQuitLine);
         m_pVoipSocket->flush();
-        m_pVoipSocket->waitForBytesWritten(kQuitWriteWaitMs);
+        if (m_pVoipSocket->state() == QLocalSocket::ConnectedState)
+            m_pVoipSocket->waitForBytesWritten(kQuitWriteWaitMs);
         // Deliberate order: the socket still reports its end, which arms the back-off timer once more.
         m_pVoipSocket->disconnectFromServer();
         disconnect(m_pVoipSocket, SIGNAL(readyRead()), this, SLOT(slot_VoipSDKDataRecevie()));

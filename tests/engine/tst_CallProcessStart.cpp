@@ -1,0 +1,42 @@
+// Starting the call process: which program, how, and that nothing of it is held. The program beside this test is a
+// script that writes down how it was started.
+
+#include "fakes/EngineFixture.h"
+#include "fakes/QtMessages.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+
+class tst_CallProcessStart : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void startsWithoutArgumentsInTheHostsFolder();
+    void processObjectHoldsNoChild();
+};
+
+void tst_CallProcessStart::startsWithoutArgumentsInTheHostsFolder()
+{
+    const QtMessages messages;
+    EngineFixture f(EngineFixture::NoCallProcess);
+    QTRY_VERIFY(QFile::exists("started"));
+    QFile started("started");
+    QVERIFY(started.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromUtf8(started.readAll()), "0 " + QDir::currentPath() + "\n");
+    QVERIFY(messages.debugLines.contains("voip startDetached,bResult: true"));
+}
+
+void tst_CallProcessStart::processObjectHoldsNoChild()
+{
+    EngineFixture f(EngineFixture::NoCallProcess);
+    QVERIFY(f.manager->m_pVoipProcess);
+    QVERIFY(!f.manager->m_pVoipProcess->parent());
+    QCOMPARE(f.manager->m_pVoipProcess->state(), QProcess::NotRunning);
+    f.manager->exitVoip();
+    QVERIFY(!f.manager->m_pVoipProcess);
+}
+
+QTEST_MAIN(tst_CallProcessStart)
+#include "tst_CallProcessStart.moc"
