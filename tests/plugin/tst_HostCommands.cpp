@@ -358,7 +358,7 @@ void tst_HostCommands::truncatedAndRandomPayloadsDoNoHarm()
         payloads.append(whole.left(size));
     }
     std::mt19937 random(static_cast<std::mt19937::result_type>(msgId));
-    while (payloads.size() < 100) {
+    while (payloads.size() < 40) {
         const QByteArray payload = randomPayload(random);
         if (msgId != MSG_UPDATE_USER_INFO || !holdsAnAddress(payload)) {
             payloads.append(payload);
