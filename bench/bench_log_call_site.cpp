@@ -33,7 +33,7 @@ void plainMutexAndList(benchmark::State &state)
     for (auto _ : state) {
         QString message;
         QTextStream(&message) << "sendVoipMsg = " << line << ", try = " << 3;
-        const CustomLogData record(CustomLog::Debug, QStringLiteral("bench.cpp:") + QString::number(__LINE__), message);
+        const CustomLogData record{CustomLog::Debug, QStringLiteral("bench.cpp:36"), message};
         const QMutexLocker locker(&mutex);
         queue.append(record);
     }

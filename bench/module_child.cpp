@@ -42,6 +42,8 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     const QByteArray word = argv[1];
+    // The child before this one ended without tidying up.
+    QLocalServer::removeServer(QStringLiteral("VoipSDK"));
     QLocalServer server;
     server.listen(QStringLiteral("VoipSDK"));
     CommonData data;

@@ -181,7 +181,7 @@ private:
 
     QString commandName(const ScenarioWord &word)
     {
-        const QString name = QString::fromUtf8(word.text);
+        QString name = QString::fromUtf8(word.text);
         if (findCommand(name) == nullptr && name != QLatin1String(QUIT_LINE)) {
             fail(QStringLiteral("unknown command \"%1\"").arg(name));
         }

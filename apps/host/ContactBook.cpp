@@ -18,7 +18,7 @@ constexpr Row rows[] = {
     {"30010003", "王芳", "Rejects", true, true},
     {"30010004", "Tom Baker", "Never answers", true, true},
     {"30010005", "赵强", "Call fails", true, false},
-    {"30010006", "Anna Novak", "Hangs up after ten seconds", true, true},
+    {"30010006", "Anna Novak", "Hangs up after 10 s", true, true},
     {"30010007", "韩梅梅", "Calls you back", false, true},
 };
 
@@ -72,10 +72,29 @@ QMap<QString, FriendData> ContactBook::friendMap() const
     return QMap<QString, FriendData>(m_friends);
 }
 
+const FriendData *ContactBook::find(const std::map<QString, FriendData> &records, const QString &strJid)
+{
+    const auto found = records.find(strJid);
+    return found == records.end() ? nullptr : &found->second;
+}
+
 const FriendData *ContactBook::record(const QString &strJid) const
 {
-    const auto found = m_friends.find(strJid);
-    return found == m_friends.end() ? &m_unknown : &found->second;
+    const FriendData *contact = find(m_friends, strJid);
+    const FriendData *stranger = find(m_strangers, strJid);
+    return contact != nullptr ? contact : stranger != nullptr ? stranger : &m_unknown;
+}
+
+void ContactBook::learn(const QString &strUid)
+{
+    const QString jid = jidOf(strUid);
+    const auto found = m_cards.find(strUid);
+    if (found == m_cards.end() || find(m_friends, jid) != nullptr) {
+        return;
+    }
+    FriendData record(jid);
+    record.setVcardInfo(found->second);
+    m_strangers.emplace(jid, record);
 }
 
 bool ContactBook::isFriend(const QString &strJid) const

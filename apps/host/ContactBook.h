@@ -37,7 +37,8 @@ public:
     /// Records by jid of all contacts and of the own user; strangers are left out.
     QMap<QString, FriendData> friendMap() const;
 
-    /// The record of `strJid`; a default record for anybody who is not a contact. Never null, owned by the book.
+    /// The record of `strJid`; a default record for anybody who is neither a contact nor a stranger whose card has been
+    /// fetched. Never null, owned by the book.
     const FriendData *record(const QString &strJid) const;
 
     /// True for contacts, false for strangers, for the own user's jid and for unknown jids.
@@ -45,6 +46,9 @@ public:
 
     /// The card of the user, contact or stranger; a default card for an unknown id. Never null, owned by the book.
     const VcardInfo *card(const QString &strUid) const;
+
+    /// The stranger's card has been fetched: from now on there is a record with it. Others stay as they are.
+    void learn(const QString &strUid);
 
     /// The nick name of the user, or the id where there is none.
     QString nameOf(const QString &strUid) const;
@@ -57,10 +61,12 @@ public:
 
 private:
     void add(const Entry &entry);
+    static const FriendData *find(const std::map<QString, FriendData> &records, const QString &strJid);
 
     QString m_strDomain;
     QList<Entry> m_entries;
     std::map<QString, FriendData> m_friends;
+    std::map<QString, FriendData> m_strangers;
     std::map<QString, VcardInfo> m_cards;
     FriendData m_unknown;
     VcardInfo m_unknownCard;

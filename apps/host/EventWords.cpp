@@ -102,6 +102,12 @@ QString EventWords::answer(EMsgId msgId, const QByteArray &payload)
     return row == nullptr ? QString() : fieldsText(row->answer, payload);
 }
 
+bool EventWords::isQuestion(EMsgId msgId)
+{
+    const EventRow *row = rowOf(msgId);
+    return row != nullptr && *row->answer != '\0';
+}
+
 int EventWords::count()
 {
     return int(std::size(rows));

@@ -18,6 +18,9 @@ public:
     /// The answer of a synchronous command, "known=yes"; empty for a command that is not answered.
     static QString answer(EMsgId msgId, const QByteArray &payload);
 
+    /// Whether the command is a question, answered within its delivery.
+    static bool isQuestion(EMsgId msgId);
+
     /// Number of commands in the table.
     static int count();
 };

@@ -45,14 +45,19 @@ void HostMailbox::customEvent(QEvent *event)
     }
     auto &message = static_cast<BaseEvent &>(*event);
     const QString words = EventWords::describe(message.msgId, message.data);
-    const QByteArray question = message.data;
+    // A question is reported together with its answer, anything else before what it leads to.
+    const bool question = EventWords::isQuestion(message.msgId);
+    if (!question) {
+        emit eventReceived(message.msgId, words, QString());
+    }
     for (const Row &row : rows) {
         if (row.msgId == message.msgId && row.receiver == message.receiverId) {
             (this->*row.handle)(message);
         }
     }
-    const bool answered = message.data != question;
-    emit eventReceived(message.msgId, words, answered ? EventWords::answer(message.msgId, message.data) : QString());
+    if (question) {
+        emit eventReceived(message.msgId, words, EventWords::answer(message.msgId, message.data));
+    }
 }
 
 void HostMailbox::promptCall(BaseEvent &event)

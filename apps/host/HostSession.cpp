@@ -17,7 +17,7 @@ QString HostSession::loginDomain()
     return QStringLiteral("im.example.org");
 }
 
-HostSession::HostSession(const ContactBook &book, QObject *parent) : QObject(parent), m_book(book), m_mailbox(book)
+HostSession::HostSession(ContactBook &book, QObject *parent) : QObject(parent), m_book(book), m_mailbox(book)
 {
     connect(&m_mailbox, &HostMailbox::eventReceived, this,
             [this](int iMsgId, const QString &strWords, const QString &strAnswer) {
@@ -35,7 +35,8 @@ bool HostSession::start(const QString &strModule, QString *strError)
     QObject *root = loader.instance();
     auto *plugin = qobject_cast<PluginInterface *>(root);
     if (plugin == nullptr) {
-        *strError = root == nullptr ? loader.errorString() : tr("%1 is not a plug-in of this client").arg(strModule);
+        *strError = strModule + QStringLiteral(": ") +
+                    (root == nullptr ? loader.errorString() : tr("not a plug-in of this client"));
         return false;
     }
     plugin->setCommonData(m_context.data());
@@ -92,6 +93,7 @@ void HostSession::sendCards(const QStringList &uids)
 {
     // The card is named by the full jid: that is what the call window compares with.
     for (const QString &uid : uids) {
+        m_book.learn(uid);
         const auto address = qint64(reinterpret_cast<quintptr>(m_book.card(uid)));
         post(MSG_UPDATE_USER_INFO, packPayload(m_book.jidOf(uid), address));
     }

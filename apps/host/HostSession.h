@@ -20,7 +20,7 @@ class HostSession : public QObject
     Q_OBJECT
 
 public:
-    explicit HostSession(const ContactBook &book, QObject *parent = nullptr);
+    explicit HostSession(ContactBook &book, QObject *parent = nullptr);
 
     /// The domain that this client's users belong to.
     static QString loginDomain();
@@ -66,7 +66,7 @@ private:
     bool ask(EMsgId msgId);
     void sendCards(const QStringList &uids);
 
-    const ContactBook &m_book;
+    ContactBook &m_book;
     HostContext m_context;
     HostMailbox m_mailbox;
     QPointer<QObject> m_pPlugin;

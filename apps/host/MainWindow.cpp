@@ -49,8 +49,12 @@ void MainWindow::setUpRecords()
 {
     ui->tableRecords->setModel(&m_records);
     QHeaderView *header = ui->tableRecords->horizontalHeader();
-    header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setSectionResizeMode(CallRecordModel::Who, QHeaderView::Stretch);
+    header->resizeSection(CallRecordModel::Direction, 130);
+    for (const int column :
+         {CallRecordModel::Outcome, CallRecordModel::Connected, CallRecordModel::Duration, CallRecordModel::EndedAt}) {
+        header->resizeSection(column, 84);
+    }
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui->tableRecords->verticalHeader()->setDefaultSectionSize(32);
 }

@@ -92,8 +92,10 @@ void Tour::settle()
             return;
         }
         if (!takePicture()) {
-            TourWatch::say(QStringLiteral("   MISS picture %1.png").arg(step().picture));
-            end(false);
+            if (m_clock.hasExpired(step().limitMs)) {
+                TourWatch::say(QStringLiteral("   MISS picture %1.png").arg(step().picture));
+                end(false);
+            }
             return;
         }
         TourWatch::say(QStringLiteral("        picture             %1.png").arg(step().picture));

@@ -1,6 +1,7 @@
 #include "TourSteps.h"
 
 #include "CallProcess.h"
+#include "DebugChannel.h"
 #include "HostSession.h"
 #include "MainWindow.h"
 #include "TourScript.h"
@@ -8,6 +9,9 @@
 #include "WindowProbe.h"
 
 #include "plugin/EMsgId.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -41,6 +45,22 @@ QString u(const char *strText)
 QString param1(const char *strUid)
 {
     return QStringLiteral("\"param1\":\"%1\"").arg(QLatin1String(strUid));
+}
+
+/// The call window's signal_ClearCallData is connected to an ordinary method, which Qt refuses; that it never takes
+/// effect is required. Qt says it in two lines. What the X server answers about windows that have just gone, of other
+/// programs too, is no warning of this program's.
+TourCheck onlyTheKnownWarning()
+{
+    return {u("Qt has warned of nothing but the one connection that must not take effect"), [] {
+                const QStringList all = DebugChannel::warnings();
+                QStringList warnings;
+                std::copy_if(all.begin(), all.end(), std::back_inserter(warnings), [](const QString &strText) {
+                    return !strText.contains(QLatin1String("XCB error: 3 (BadWindow)"));
+                });
+                return warnings.size() == 2 &&
+                       warnings.at(0).contains(QLatin1String("No such slot CVoipManage::clearLocalCallData()"));
+            }};
 }
 
 using Steps = QList<TourStep>;
@@ -187,7 +207,8 @@ Steps incoming(const TourScript &s)
                {u("Accept"),
                 s.pressPrompt("btnAccept"),
                 {s.asked(MSG_RESPONSE_VOIP_REQUEST, u("accept=yes")), s.command("AcceptCall"), s.promptGone(),
-                 s.code(18, "connected"), s.shows("lblStatus", u(connected)), s.clockRuns()},
+                 s.shows("lblUserName", u("韩梅梅(Calls you back)")), s.code(18, "connected"),
+                 s.shows("lblStatus", u(connected)), s.clockRuns()},
                 15000,
                 u("call-incoming"),
                 s.callWindow()},
@@ -247,7 +268,8 @@ Steps leave(const TourScript &s, const TourStage &stage)
              [window = &stage.window] { window->close(); },
              {s.asked(MSG_EXIT_VOIP),
               {u("the plug-in has written the line quit"), [watch = &stage.watch] { return watch->quitLine(); }},
-              s.processes(0)}}};
+              s.processes(0),
+              onlyTheKnownWarning()}}};
 }
 
 } // namespace

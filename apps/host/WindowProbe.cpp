@@ -103,6 +103,10 @@ bool WindowProbe::savePicture(const QWidget *window, const QString &strFile)
         return false;
     }
     const QRect frame = window->frameGeometry();
+    const QSize least = window->minimumSize().expandedTo(window->minimumSizeHint());
+    if (frame.width() < least.width() || frame.height() < least.height()) {
+        return false;
+    }
     return QGuiApplication::primaryScreen()
         ->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height())
         .save(strFile, "PNG");

@@ -27,7 +27,7 @@ QString callWindowWords();
 bool press(const QWidget *window, const char *strName);
 
 /// Saves what the screen shows at the window's place, frame included, as a PNG. Raise the window some time before.
-/// False when nothing could be written.
+/// False when nothing could be written, or while the window manager has not given the window its size yet.
 bool savePicture(const QWidget *window, const QString &strFile);
 
 /// Saves the whole screen as a PNG.

@@ -1,5 +1,7 @@
 #include "CallProcess.h"
 #include "ContactBook.h"
+#include "DebugChannel.h"
+#include "EndSignals.h"
 #include "HostCatalogue.h"
 #include "HostSession.h"
 #include "MainWindow.h"
@@ -8,30 +10,76 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QCursor>
 #include <QDir>
 #include <QFile>
+#include <QScreen>
 #include <QTextStream>
 #include <QTimer>
 
 #include <cstdlib>
+#include <memory>
 
 namespace {
 
 // Robots of the call process answer four times as fast while the tour runs.
 constexpr const char *tourSpeed = "4";
+// Leaves room for the call window beside the client's.
+constexpr QPoint tourCorner(20, 20);
+// Exit code of a client that was ended by a signal.
+constexpr int endedFromOutside = 130;
 
-int runTour(QApplication &app, HostSession &session, MainWindow &window, const QString &strFolder,
-            const QString &strTraceFile)
+/// The folder given by --tour, or a null text. Ends the program itself for --help and for bad arguments.
+QString readTourFolder(const QCoreApplication &app)
 {
-    app.setQuitOnLastWindowClosed(false);
+    QCommandLineParser options;
+    options.setApplicationDescription(QStringLiteral("KelvarIM demo: a client with the voice and video call plug-in"));
+    options.addHelpOption();
+    const QCommandLineOption tour(QStringLiteral("tour"),
+                                  QStringLiteral("Runs the guided tour; pictures and traces go to this folder."),
+                                  QStringLiteral("folder"));
+    options.addOption(tour);
+    options.process(app);
+    return options.isSet(tour) ? QDir(options.value(tour)).absolutePath() : QString();
+}
+
+/// Makes the folder and tells the call process, by the environment that it inherits, how the tour wants it.
+QString prepareTour(const QString &strFolder)
+{
+    const QString traceFile = strFolder + QStringLiteral("/wire.txt");
+    QDir().mkpath(strFolder);
+    QFile::remove(traceFile);
+    qputenv("VOIPSDK_TRACE", QFile::encodeName(traceFile));
+    qputenv("VOIPSDK_SPEED", tourSpeed);
+    return traceFile;
+}
+
+int runTour(HostSession &session, MainWindow &window, const QString &strFolder, const QString &strTraceFile)
+{
+    QApplication::setQuitOnLastWindowClosed(false);
+    // The pointer stays out of the way: under it, windows that come and go make Qt and the window manager race.
+    QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
+    window.move(tourCorner);
+    window.show();
     const CallProcess process(strTraceFile);
     TourWatch watch(session, strTraceFile);
     Tour tour(watch, tourSteps({session, window, watch, process}), strFolder);
-    QObject::connect(&tour, &Tour::finished, &app, [](bool bOk) { QCoreApplication::exit(bOk ? 0 : 1); });
+    QObject::connect(&tour, &Tour::finished, qApp, [](bool bOk) { QCoreApplication::exit(bOk ? 0 : 1); });
     tour.start();
     const int status = QApplication::exec();
     session.quit();
+    // A tour that was cut short must not leave the detached call process behind.
     process.kill();
+    return status;
+}
+
+int runByHand(HostSession &session, MainWindow &window)
+{
+    window.show();
+    // After the window is up: the plug-in's start may take a second.
+    QTimer::singleShot(0, &session, [&session] { session.setOnline(true); });
+    const int status = QApplication::exec();
+    session.quit();
     return status;
 }
 
@@ -40,32 +88,23 @@ int runTour(QApplication &app, HostSession &session, MainWindow &window, const Q
 int main(int argc, char **argv)
 {
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QApplication app(argc, argv);
-    QCommandLineParser options;
-    options.setApplicationDescription(QStringLiteral("KelvarIM demo: a client with the voice and video call plug-in"));
-    options.addHelpOption();
-    const QCommandLineOption tour(QStringLiteral("tour"),
-                                  QStringLiteral("Runs the guided tour and writes pictures to this folder."),
-                                  QStringLiteral("folder"));
-    options.addOption(tour);
-    options.process(app);
-
-    QString folder;
+    const QApplication app(argc, argv);
+    const QString folder = readTourFolder(app);
     QString traceFile;
-    if (options.isSet(tour)) {
-        folder = QDir(options.value(tour)).absolutePath();
-        traceFile = folder + QStringLiteral("/wire.txt");
-        QDir().mkpath(folder);
-        QFile::remove(traceFile);
-        qputenv("VOIPSDK_TRACE", QFile::encodeName(traceFile));
-        qputenv("VOIPSDK_SPEED", tourSpeed);
+    std::unique_ptr<DebugChannel> debug;
+    if (!folder.isNull()) {
+        traceFile = prepareTour(folder);
+        debug = std::make_unique<DebugChannel>(folder + QStringLiteral("/debug.txt"));
     }
     // Ring and resources are found relative to the working directory.
     QDir::setCurrent(QCoreApplication::applicationDirPath());
 
+    const EndSignals endSignals;
+    QObject::connect(&endSignals, &EndSignals::endRequested, &app, [] { QCoreApplication::exit(endedFromOutside); });
+
     HostCatalogue catalogue;
     QCoreApplication::installTranslator(&catalogue);
-    const ContactBook book(HostSession::loginDomain());
+    ContactBook book(HostSession::loginDomain());
     HostSession session(book);
     QString error;
     if (!session.start(QCoreApplication::applicationDirPath() + QStringLiteral("/libVoipManage.so"), &error)) {
@@ -73,11 +112,5 @@ int main(int argc, char **argv)
         return EXIT_FAILURE;
     }
     MainWindow window(session, book);
-    window.show();
-    if (options.isSet(tour)) {
-        return runTour(app, session, window, folder, traceFile);
-    }
-    // After the window is up: the plug-in's start may take a second.
-    QTimer::singleShot(0, &session, [&session] { session.setOnline(true); });
-    return QApplication::exec();
+    return folder.isNull() ? runByHand(session, window) : runTour(session, window, folder, traceFile);
 }

@@ -18,6 +18,7 @@ private slots:
     void plainFileInTheWayIsTakenOver();
     void secondOneStepsBackAndLeavesTheFirstAlone();
     void manyAtOnceLeaveOneAlive();
+    void socketFileIsClaimedUnderALock();
     void endsByItselfWithoutAClient();
     void endsByItselfWhenItsClientStaysAway();
     void reconnectingClientReplacesTheOldOne();
@@ -138,6 +139,25 @@ void tst_CallProcess::manyAtOnceLeaveOneAlive()
         return !peer.trace().filter(QStringLiteral("= listening")).isEmpty();
     });
     QCOMPARE(listening, 1);
+}
+
+void tst_CallProcess::socketFileIsClaimedUnderALock()
+{
+    QLockFile lock(CallProcess::socketPath() + QStringLiteral(".lock"));
+    QVERIFY(lock.tryLock());
+    CallProcess peer;
+    peer.start();
+    QVERIFY(peer.waitTrace(QStringLiteral("= started")));
+    // Long enough for the other to have listened too, had it not waited.
+    CallProcess passing;
+    passing.start({QStringLiteral("--help")});
+    QCOMPARE(passing.exitCode(), 0);
+    QVERIFY(!QFile::exists(CallProcess::socketPath()));
+    lock.unlock();
+    QVERIFY(peer.connectClient());
+    peer.write("quit\n");
+    QCOMPARE(peer.exitCode(), 0);
+    QVERIFY(!QFile::exists(CallProcess::socketPath() + QStringLiteral(".lock")));
 }
 
 void tst_CallProcess::endsByItselfWithoutAClient()

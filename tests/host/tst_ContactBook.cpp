@@ -15,6 +15,8 @@ private slots:
     void recordsNeverMove();
     void unknownJidGetsADefaultRecord();
     void cardsAreThereForStrangersToo();
+    void learntStrangerHasARecordAndIsStillNoFriend();
+    void learningAContactOrNobodyChangesNothing();
     void displayNameIsTheNickName();
     void idsAndJidsTurnIntoEachOther();
 
@@ -83,6 +85,27 @@ void tst_ContactBook::cardsAreThereForStrangersToo()
     QCOMPARE(m_book.card(QStringLiteral("30010007"))->m_strNickName, QStringLiteral("韩梅梅"));
     QVERIFY(m_book.card(QStringLiteral("4711")) != nullptr);
     QVERIFY(m_book.card(QStringLiteral("4711"))->m_strNickName.isEmpty());
+}
+
+void tst_ContactBook::learntStrangerHasARecordAndIsStillNoFriend()
+{
+    ContactBook book(QStringLiteral("example.org"));
+    const QString jid = QStringLiteral("30010007@example.org");
+    book.learn(QStringLiteral("30010007"));
+    QCOMPARE(book.record(jid)->m_strJid, jid);
+    QCOMPARE(book.record(jid)->displayName(), QStringLiteral("韩梅梅"));
+    QVERIFY(!book.isFriend(jid));
+    QVERIFY(!book.friendMap().contains(jid));
+}
+
+void tst_ContactBook::learningAContactOrNobodyChangesNothing()
+{
+    ContactBook book(QStringLiteral("example.org"));
+    const FriendData *contact = book.record(QStringLiteral("30010001@example.org"));
+    book.learn(QStringLiteral("30010001"));
+    book.learn(QStringLiteral("4711"));
+    QCOMPARE(book.record(QStringLiteral("30010001@example.org")), contact);
+    QVERIFY(book.record(QStringLiteral("4711@example.org"))->m_strJid.isEmpty());
 }
 
 void tst_ContactBook::displayNameIsTheNickName()

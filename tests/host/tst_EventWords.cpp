@@ -14,6 +14,7 @@ private slots:
     void payloadReadsInStreamOrder();
     void answersAreSaid_data();
     void answersAreSaid();
+    void questionsAreThoseWithAnAnswer();
     void unknownCommandIsItsNumber();
     void shortPayloadReadsAsEmpty();
     void brokenListReadsAsEmpty();
@@ -88,6 +89,17 @@ void tst_EventWords::answersAreSaid()
     QFETCH(int, msgId);
     QFETCH(QByteArray, payload);
     QTEST(EventWords::answer(EMsgId(msgId), payload), "words");
+}
+
+void tst_EventWords::questionsAreThoseWithAnAnswer()
+{
+    for (const EMsgId msgId :
+         {MSG_GET_FRIEND_INFO, MSG_IS_EXIST_FRIEND, MSG_ADD_CONFERENCE_MEMBER, MSG_IS_EXIST_CALL, MSG_IS_VIDEO_CALL}) {
+        QVERIFY(EventWords::isQuestion(msgId));
+    }
+    for (const EMsgId msgId : {MSG_CALL_FINISHED, MSG_GET_STRANGER_SMALL_VCARD, MSG_EXIT_VOIP, EMsgId(17)}) {
+        QVERIFY(!EventWords::isQuestion(msgId));
+    }
 }
 
 void tst_EventWords::unknownCommandIsItsNumber()

@@ -2,6 +2,7 @@
 #include "model/SystemSetData.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
@@ -40,8 +41,9 @@ private slots:
     {
         m_folder.reset(new QTemporaryDir);
         QVERIFY(m_folder->isValid());
-        QDir(strAPP_DOCUMENT_IM_PATH()).removeRecursively();
-        QDir(strAPP_DOCUMENT_IM_FILES_PATH()).removeRecursively();
+        // A home of its own for each test, so that none finds the files of another.
+        qputenv("HOME", m_folder->filePath("home").toLocal8Bit());
+        qputenv("XDG_CONFIG_HOME", m_folder->filePath("home/.config").toLocal8Bit());
     }
 
     void everyKeyOfTheUserIsARow()
@@ -107,6 +109,27 @@ private slots:
         QCOMPARE(data.m_strMsgFilePath, strRoot);
         QVERIFY(QDir(strRoot).exists());
         QVERIFY(!QDir(strAPP_DOCUMENT_IM_FILES_PATH()).exists());
+    }
+
+    void theCommonFileIsUtf8()
+    {
+        const QString strRoot = m_folder->filePath(QString::fromUtf8("数据"));
+        writeFile(strAPP_INFO_FILE_PATH(), "[msgSetting]\nmsgfilepath=" + strRoot.toUtf8() + "\n");
+        SystemSetData data;
+        data.initCommonData();
+        QCOMPARE(data.m_strMsgFilePath, strRoot);
+    }
+
+    void theUserFileIsUtf8AndStaysSoWhenRepaired()
+    {
+        const QString strReply = QString::fromUtf8("稍后回复");
+        writeFile(userFile(), "[statusSetting]\nAutoReplyStr=" + strReply.toUtf8() + "\n");
+        QCOMPARE(readUser({}).m_strAutoReplyStr, strReply);
+        QFile file(userFile());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray content = file.readAll();
+        QVERIFY(content.contains("AutoReplyStr=" + strReply.toUtf8()));
+        QVERIFY(content.contains("CanSearch=1"));
     }
 
     void anUnreadableCommonFileGivesTheDefaults()
@@ -376,6 +399,14 @@ private:
         row(group + "hasunderline", true, fontHolds<pFont, &ChatFont::m_bHasUnderline>(true));
         row(group + "textcolor", "#102030", fontHolds<pFont, &ChatFont::m_textColor>(QColor(0x10, 0x20, 0x30)));
         row(group + "textcolor", "nonsense", fontHolds<pFont, &ChatFont::m_textColor>(QColor()));
+    }
+
+    static void writeFile(const QString &strPath, const QByteArray &content)
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(strPath).path()));
+        QFile file(strPath);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), qint64(content.size()));
     }
 
     QString userFile() const { return m_folder->filePath(QString(USER) + "/newConfig.ini"); }
