@@ -43,7 +43,7 @@ public:
     explicit CVoipManage(QObject *parent = nullptr);
     ~CVoipManage() override;
 
-    // ---- Core -------------------------------------------------------------------------------------------------------
+    // Core.
     /// Starts the call process and makes the first attempt to connect.
     void initVoipSDK();
     /// Builds the hidden call window and connects its signals.
@@ -62,8 +62,7 @@ public:
     /// Stops the ring; harmless when nothing rings.
     void stopRinging();
 
-    // ---- Channel to the call process
-    // ---------------------------------------------------------------------------------
+    // Channel to the call process.
     /// Starts the call process, detached and without arguments. A failure shows only as a socket that never connects.
     void creatVoipSDK();
     /// Connects to the call process, waiting up to one second; a failure arms the back-off.
@@ -77,23 +76,20 @@ public:
     /// Arms the back-off timer: 1, 4, 9, 16, 25, 36, 49, 60 seconds, then again from 1. A connect resets it.
     void reconnectVoipSDK();
 
-    // ---- Commands to the call process
-    // --------------------------------------------------------------------------------
+    // Commands to the call process.
     /// Stores the user, socket up or not, and registers it at the call process; repeated by itself after each
     /// reconnection.
     void regeditVoipUser(QString strUserId, QString strNickName, QString strRegValue);
     /// Takes the stored user off the call process. The stored values stay, so a reconnection registers it again.
     void unRegeditCurrentVoipUser();
 
-    // ---- Notifications of the call process
-    // ---------------------------------------------------------------------------
+    // Notifications of the call process.
     /// Acts on one notification; an unknown code is only logged.
     void callbackMessage(int iCode, QString content);
     /// Takes a tracking record of a call library; does nothing.
     void voipLogPrint(QString url, QString value);
 
-    // ---- Single call
-    // -------------------------------------------------------------------------------------------------
+    // Single call.
     /// Calls `strUser`. Without a microphone, with a call in any state or without the call process it says so in a
     /// message box and changes nothing.
     void callSingleUser(QString strUser, bool bVideo);
@@ -115,8 +111,7 @@ public:
     /// Always false, during a video call too: the host relies on that answer.
     bool isVideoCall();
 
-    // ---- Conference
-    // --------------------------------------------------------------------------------------------------
+    // Conference.
     /// Starts a conference with `userList`; flag and text go to the call process unread. Same refusals as
     /// callSingleUser().
     void callConference(QList<QString> userList, bool bFlag, QString strText);
