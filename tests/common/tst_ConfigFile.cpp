@@ -133,6 +133,13 @@ private slots:
         QVERIFY(fileText("target.ini").contains("name=会议\n"));
     }
 
+    void translationReadsTheSourceInTheDefaultCoding()
+    {
+        QVERIFY(writeFile("latin.ini", "[Other]\nname=caf\xe9\n"));
+        ConfigFile::translateIniToUtf8Code("latin.ini", "utf8 of latin.ini");
+        QCOMPARE(fileText("utf8 of latin.ini"), QByteArray("[Other]\nname=café\n"));
+    }
+
     void translationLeavesKeysOutsideGroups()
     {
         translate([](QSettings &source) {
