@@ -35,7 +35,8 @@ bool HostSession::start(const QString &strModule, QString *strError)
     QObject *root = loader.instance();
     auto *plugin = qobject_cast<PluginInterface *>(root);
     if (plugin == nullptr) {
-        *strError = root == nullptr ? loader.errorString() : tr("%1 is not a plug-in of this client").arg(strModule);
+        *strError = strModule + QStringLiteral(": ") +
+                    (root == nullptr ? loader.errorString() : tr("not a plug-in of this client"));
         return false;
     }
     plugin->setCommonData(m_context.data());

@@ -1,6 +1,7 @@
 #include "CallProcess.h"
 #include "ContactBook.h"
 #include "DebugChannel.h"
+#include "EndSignals.h"
 #include "HostCatalogue.h"
 #include "HostSession.h"
 #include "MainWindow.h"
@@ -25,6 +26,8 @@ namespace {
 constexpr const char *tourSpeed = "4";
 // Leaves room for the call window beside the client's.
 constexpr QPoint tourCorner(20, 20);
+// Exit code of a client that was ended by a signal.
+constexpr int endedFromOutside = 130;
 
 /// The folder given by --tour, or a null text. Ends the program itself for --help and for bad arguments.
 QString readTourFolder(const QCoreApplication &app)
@@ -75,7 +78,9 @@ int runByHand(HostSession &session, MainWindow &window)
     window.show();
     // After the window is up: the plug-in's start may take a second.
     QTimer::singleShot(0, &session, [&session] { session.setOnline(true); });
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    session.quit();
+    return status;
 }
 
 } // namespace
@@ -93,6 +98,9 @@ int main(int argc, char **argv)
     }
     // Ring and resources are found relative to the working directory.
     QDir::setCurrent(QCoreApplication::applicationDirPath());
+
+    const EndSignals endSignals;
+    QObject::connect(&endSignals, &EndSignals::endRequested, &app, [] { QCoreApplication::exit(endedFromOutside); });
 
     HostCatalogue catalogue;
     QCoreApplication::installTranslator(&catalogue);

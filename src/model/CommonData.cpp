@@ -35,8 +35,7 @@ PresenceData blankPresence(const QString &strJid)
     return presence;
 }
 
-// The fields are treated unlike each other, deliberately: contact lists rely on a desktop state that outlives an update
-// about the other clients.
+// The fields are treated unlike each other, deliberately. Jid, text and flag stay as they were.
 void mergePresence(PresenceData &known, const PresenceData &update)
 {
     if (update.m_ePcShowType != PresenceData::PC_SHOW_NONE || !update.m_bFlag) {

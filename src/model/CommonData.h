@@ -99,7 +99,7 @@ public:
     /// Replaces the whole friend map; an empty map clears it.
     void setFriendDataMap(const QMap<QString, FriendData> &mapFriendData);
 
-    /// Appends a jid to the list of those whose head images are awaited.
+    /// Appends a jid to the head list, also one that is in it.
     void addHeadJidList(const QString &strJid) { m_listHeadJid.append(strJid); }
     /// A copy of that list.
     QList<QString> getHeadJidList() const { return m_listHeadJid; }
@@ -122,22 +122,22 @@ public:
 
     /// A copy of the whole service number map, code to record.
     QMap<QString, CServiceNumData> getServiceNumDataMap() const { return m_mapServiceNumData; }
-    /// A copy of the whole map, whatever the list holds: deliberate, callers expect to find every service number.
+    /// A copy of the whole map: deliberately, the list is ignored.
     QMap<QString, CServiceNumData> getServiceNumDataByCodes(const QStringList &listCode) const;
     /// Inserts or replaces the service numbers of that map; the others stay.
     void setServiceNumDataMap(const QMap<QString, CServiceNumData> &mapServiceNumData);
 
-    // What the server announces, kept by the server settings; without them a setter does nothing and a getter gives 0.
+    // What the server announces, kept by the server settings; without them a setter does nothing and a getter gives 0
+    // or false.
 
     /// Stores whether the server supports calls.
     void setSupportVoIPFlag(bool bSupport);
-    /// Always false, deliberately: the host takes the stored value from CServerSettings and relies on this one being
-    /// off.
+    /// Always false, deliberately: the stored value is read from CServerSettings.
     bool getSupportVoIPFlag() const;
     /// The greatest size of a file that may be sent, in bytes.
     void setFileTransferMaxSize(qint64 iSize);
     qint64 getFileTransferMaxSize() const;
-    /// Whether the user may change the password. Both expect the server settings to be set.
+    /// Whether the user may change the password.
     void setCanModifyPassword(bool bCan);
     bool getCanModifyPassword() const;
     /// The greatest number of members of a room.

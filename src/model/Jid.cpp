@@ -10,7 +10,7 @@ bool isBeyondAscii(char ch)
     return static_cast<unsigned char>(ch) >= 0x80;
 }
 
-// The class ends at 0x17, deliberately: peers have names with 0x18 to 0x1F in them.
+// The class ends at 0x17, deliberately: 0x18 to 0x1F are allowed.
 bool isRejectedControl(char ch)
 {
     return static_cast<unsigned char>(ch) <= 0x17 || ch == 0x7F;
@@ -142,8 +142,7 @@ std::string Jid::PrepResource(const std::string &strIn, bool *ok)
     std::string strOut;
     strOut.reserve(strIn.size());
     for (const char ch : strIn) {
-        // A rejected character becomes a NUL byte and the resource stays valid, deliberately: a peer whose client names
-        // itself oddly must stay reachable.
+        // A rejected character becomes a NUL byte and the resource stays valid, deliberately.
         bool bAccepted = false;
         strOut += PrepResourceAscii(ch, &bAccepted);
     }
@@ -159,8 +158,7 @@ std::string Jid::PrepDomain(const std::string &strIn, bool *ok)
 {
     std::string strOut;
     PrepDomain(strIn, &strOut, ok);
-    // Too long is empty but not invalid, deliberately: such a Jid keeps node and resource, and the client's code takes
-    // a node without a domain for a party that it cannot reach.
+    // Too long is empty but not invalid, deliberately: such a Jid keeps node and resource.
     return *ok && strOut.size() <= MAX_PART_BYTES ? strOut : std::string();
 }
 

@@ -12,7 +12,7 @@ const QString &effectiveName(const MucData &room)
     return room.m_strRoomNameOverride.isEmpty() ? room.m_strRoomName : room.m_strRoomNameOverride;
 }
 
-auto shownFields(const MucData &room)
+auto comparedFields(const MucData &room)
 {
     return std::tie(room.m_strOwnerJid, effectiveName(room), room.m_iTopSignType, room.m_strManagerJid,
                     room.m_strHeadImage, room.m_strMemberCount, room.m_strRoomName, room.m_strNoticeSubject,
@@ -36,5 +36,5 @@ bool MucDataUtils::getLocalExistFlag(const QString &strExist)
 
 bool MucDataUtils::compareMucInfo(const MucData &first, const MucData &second)
 {
-    return shownFields(first) == shownFields(second);
+    return comparedFields(first) == comparedFields(second);
 }

@@ -18,7 +18,7 @@ public:
     QString m_strMemberCount;
     /// When the room was made.
     QString m_strCreateTime;
-    /// The jid of the account that the record belongs to.
+    /// A jid that the store keeps beside the room's own.
     QString m_strJid;
     /// The room's name.
     QString m_strRoomName;
@@ -62,8 +62,7 @@ public:
 
     /// A room with no jid and the default picture.
     MucData() = default;
-    /// The room of that jid, taken as it is. The head image stays empty, deliberately: the host
-    /// relies on it to see that the room has no picture of its own yet.
+    /// The room of that jid, taken as it is. The head image stays empty, deliberately.
     explicit MucData(const QString &strRoomJid);
 
     /// True when the room jids are equal, whatever else differs.
@@ -79,6 +78,7 @@ public:
     static QString getLocalExistString(bool bExist);
     /// True exactly for "T".
     static bool getLocalExistFlag(const QString &strExist);
-    /// True when nothing differs that a user sees of the two rooms; versions, counts and dates do not take part.
+    /// True when both rooms have the same owner, managers, names, member count, head image, notice title, place at the
+    /// top and switches. The rest does not take part: a new version alone is no change.
     static bool compareMucInfo(const MucData &first, const MucData &second);
 };

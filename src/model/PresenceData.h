@@ -17,7 +17,7 @@ public:
 
     /// The jid, the record's key.
     QString m_strJid;
-    /// State of the contact's other clients, a number of the host; taken over only while the desktop shows nothing.
+    /// A state of the contact, a number of the host; an update changes it only with show type 0 and the flag true.
     int m_iStateA = 0;
     /// A further state of the contact, a number of the host; always taken over.
     int m_iStateB = 0;

@@ -94,8 +94,7 @@ QString UserIds::getJidByUid(const QString &strId)
     if (strId.contains(AT)) {
         return strId;
     }
-    // Any id that starts like a room's counts as a room, "office1" too, deliberately: the servers name rooms so, and
-    // every client has to come to the same jid.
+    // Any id that starts like a room's counts as a room, "office1" too, deliberately.
     return isMucJid(strId) ? strId + ROOM_DOMAIN_JOINT + getLoginDomain() : strId + AT + getLoginDomain();
 }
 

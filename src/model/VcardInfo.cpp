@@ -26,8 +26,7 @@ void VcardInfo::setDisPlayMobile(const QString &strMobile)
     const QStringList listNumber = strMobile.split(QLatin1Char(' '), Qt::KeepEmptyParts);
     m_strDisplayMobile = listNumber.first();
     for (const QString &strNumber : listNumber) {
-        // Tested as a part of the text, deliberately: contact windows rely on a number's short form to be dropped with
-        // it.
+        // Tested as a part of the text, deliberately: a number inside a longer one counts as its repeat.
         if (!strNumber.isEmpty() && !m_strDisplayMobile.contains(strNumber)) {
             m_strDisplayMobile += QLatin1Char(' ') + strNumber;
         }

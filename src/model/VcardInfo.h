@@ -64,8 +64,7 @@ public:
     void setDisPlayMobile(const QString &strMobile);
     /// Stores the photo's name and derives path and system avatar flag from it: the built-in default for an empty name,
     /// a built-in picture when the application has one of that name, else a file of the user's head image folder. A
-    /// name without
-    /// "." stands for a ".jpg".
+    /// name without "." stands for a ".jpg".
     void setPhotoName(const QString &strName);
 };
 

@@ -37,7 +37,7 @@ void CPassportLoginServer::SetPassportAuthIDCookie(const QString &strAuthId)
 
 void CPassportLoginServer::ManualRefreshAuthID()
 {
-    // In clear, deliberately: those who trace a lost session rely on the values in the log.
+    // The live values stand in clear, deliberately: they are part of the keeper's log output.
     LOG_DEBUG << "ManualRefreshAuthID authid =" << m_strAuthId << ", TGC = " << m_strTgcCookie
               << ",ids_r = " << m_strRemCookie << "\n";
     LOG_DEBUG << REFRESH_RETURNS << "\n";

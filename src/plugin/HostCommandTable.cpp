@@ -36,12 +36,12 @@ void callSingleUser(BaseEvent &event)
 
 void isExistCall(BaseEvent &event)
 {
-    event.data = packPayload(bool(CVoipManage::instance()->isExistCall()));
+    event.data = packPayload(CVoipManage::instance()->isExistCall());
 }
 
 void isVideoCall(BaseEvent &event)
 {
-    event.data = packPayload(bool(CVoipManage::instance()->isVideoCall()));
+    event.data = packPayload(CVoipManage::instance()->isVideoCall());
 }
 
 void responseVoipRequest(BaseEvent &event)

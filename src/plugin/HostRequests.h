@@ -23,8 +23,8 @@ struct HostRequest
     Delivery delivery;
 };
 
-/// All requests, one a line. Deliberate: 4734 goes out in the name of the vCard plug-in, which is the sender that the
-/// session plug-in knows it by; and the events of 4345 and 4540 stay undeleted, so a receiver may still hold them.
+/// All requests, one a line. Deliberate: 4734 alone names another plug-in, the vCard one, as its sender; and the events
+/// of 4345 and 4540 stay undeleted after their delivery.
 inline constexpr HostRequest hostRequests[] = {
     {MSG_RECEVIE_VOIP_CALL, sessionPluginId, voipPluginId, Delivery::AtOnce},
     {MSG_CALL_FINISHED, sessionPluginId, voipPluginId, Delivery::AtOnce},

@@ -8,7 +8,7 @@ bool StrangerCards::test(const QString &uid)
 {
     const QString jid = CommonFun::getJidByUid(uid);
     const FriendData record = VoipManageEventProcess::getFriendInfoByJid(jid);
-    // Asked in any case, for the system account and for records at hand too: the contact plug-in counts on it.
+    // Deliberate: the contact plug-in is asked in any case, for the system account and for records at hand too.
     const bool known = VoipManageEventProcess::isExistFriend(jid);
     if (known || uid == QLatin1String("kv6005626532")) {
         return false;

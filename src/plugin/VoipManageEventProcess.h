@@ -34,13 +34,13 @@ public:
     /// Whether the contact plug-in knows `strJid` as a contact. Without an answer the first byte of the question
     /// counts, which is false for any text but a null one.
     static bool isExistFriend(QString strJid);
-    /// Asks the vCard plug-in, by a queued event, for the cards of `ids` that are newer than `versions` (decimal texts,
-    /// one for each id). The cards come back one by one as command 4105. The engine always passes `flag` as true.
+    /// Asks the vCard plug-in, by a queued event, for the cards of `ids`; `versions` holds for each id the decimal
+    /// version of the card at hand. The cards come back as command 4105. The engine always passes `flag` as true.
     static void getStrangerSmallVCard(QStringList ids, QStringList versions, bool flag);
     /// Takes away the host's prompt of the call with `strJid`.
     static void closeAVMsgBox(QString strJid);
-    /// Shows the signature card for `text` (a jid) beside a list at the screen position `x`, `y`, in pixels; `height`
-    /// is the extent to keep clear of. The meaning of `b1` and `b2` is the receiver's.
+    /// Shows the signature card for `text` (a jid) at `x`, `y`; these and `height` are in pixels. The meaning of `b1`
+    /// and `b2` is the receiver's.
     static void showSignList(QString text, int x, int y, int height, bool b1, bool b2);
     /// Hides the signature card.
     static void closeSignList();

@@ -8,7 +8,7 @@ VoipManagePlugin::VoipManagePlugin(QObject *parent) : QObject(parent) {}
 
 QString VoipManagePlugin::getPluginName()
 {
-    // Deliberately not the class's name: the host has always been given this text.
+    // Deliberately not the class's name: the host sees this text, whatever it does with it.
     return QStringLiteral("FileManagePlugin");
 }
 

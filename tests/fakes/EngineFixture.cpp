@@ -65,6 +65,32 @@ EngineFixture::~EngineFixture()
     CommonFun::setCommonData(nullptr);
 }
 
+void EngineFixture::createConference()
+{
+    manager->m_strUserId = login.m_strUid;
+    manager->callConference({QStringLiteral("anna"), QStringLiteral("bert")}, false, QString());
+    notify(20, QStringLiteral(R"({"result":{"confId":"c1"}})"));
+    takeJournal();
+    deliverPosted();
+    host.events.clear();
+}
+
+QString EngineFixture::callText() const
+{
+    const CallData &call = manager->m_callData;
+    return QStringList{QString::number(call.bIsConf),
+                       QString::number(call.bIsVideo),
+                       QString::number(call.bIsCaller),
+                       QString::number(call.bIsConnected),
+                       call.memberList.join('+'),
+                       call.connectedList.join('+'),
+                       call.peerId,
+                       call.confId,
+                       call.connectTime.toString(Qt::ISODateWithMs),
+                       call.createTime.toString(Qt::ISODateWithMs)}
+        .join('|');
+}
+
 void EngineFixture::noteEvent(const BaseEvent &event)
 {
     PayloadReader reader(event.data);

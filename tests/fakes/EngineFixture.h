@@ -35,6 +35,12 @@ public:
     /// Sends a notification straight into the engine.
     void notify(int code, const QString &content = QString()) { manager->callbackMessage(code, content); }
 
+    /// Lets the user "me" create the conference c1 with anna and bert, and forgets what went out for it.
+    void createConference();
+
+    /// Everything the call data hold, as one text.
+    QString callText() const;
+
     /// The lines written to the call process since the last call, as FakeCallProcess shows them.
     QStringList takeLines() { return process.takeLines(manager->m_pVoipSocket); }
 

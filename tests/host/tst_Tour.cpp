@@ -1,37 +1,61 @@
-#include "Tour.h"
+#include "WireTrace.h"
 
 #include <QDir>
 #include <QImage>
 #include <QProcess>
 #include <QTest>
 
-/// The built demo client, started as a user's would be, guides itself through every way a call can go.
+/// The built demo client, started as a user's would be: by hand, and guiding itself through every way a call can go.
 class tst_Tour : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void everyStepHasItsEffectAndNothingIsLeftRunning();
+    void initTestCase();
+    void everyStepHasItsEffect();
+    void pictureOfEveryWindowIsTaken();
+    void endedByASignalItEndsTheCallProcess();
     void withoutTheModuleTheClientSaysSoAndEnds();
+
+private:
+    /// Whether the trace holds the text in a line of that direction by now.
+    static bool isTraced(const QString &strFile, WireLine::Direction direction, const QString &strText);
+
+    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+    const QString m_strDemo = QStringLiteral(VOIP_BIN_DIR "/kelvarim-demo");
 };
 
-void tst_Tour::everyStepHasItsEffectAndNothingIsLeftRunning()
+void tst_Tour::initTestCase()
 {
-    QProcess demo;
-    demo.setProcessChannelMode(QProcess::MergedChannels);
     // The tour counts Qt's warnings, and a missing runtime folder would be one more.
     QVERIFY(QDir().mkdir(QStringLiteral("run")));
     QVERIFY(QFile::setPermissions(QStringLiteral("run"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), QDir::current().absoluteFilePath(QStringLiteral("run")));
-    demo.setProcessEnvironment(environment);
-    demo.start(QStringLiteral(VOIP_BIN_DIR "/kelvarim-demo"), {QStringLiteral("--tour"), QStringLiteral("tour")});
+    m_environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), QDir::current().absoluteFilePath(QStringLiteral("run")));
+}
+
+bool tst_Tour::isTraced(const QString &strFile, WireLine::Direction direction, const QString &strText)
+{
+    const QList<WireLine> lines = WireTrace(strFile).readNew();
+    return std::any_of(lines.begin(), lines.end(), [&](const WireLine &line) {
+        return line.direction == direction && line.text.contains(strText);
+    });
+}
+
+void tst_Tour::everyStepHasItsEffect()
+{
+    QProcess demo;
+    demo.setProcessEnvironment(m_environment);
+    demo.setProcessChannelMode(QProcess::MergedChannels);
+    demo.start(m_strDemo, {QStringLiteral("--tour"), QStringLiteral("tour")});
     QVERIFY(demo.waitForFinished(500000));
     const QByteArray words = demo.readAll();
     QVERIFY2(demo.exitStatus() == QProcess::NormalExit && demo.exitCode() == 0, words.right(4000).constData());
-    QVERIFY2(!words.contains("MISS"), words.constData());
+    QVERIFY2(!words.contains("MISS"), words.right(4000).constData());
     QVERIFY(words.contains("steps had their effect"));
+}
 
+void tst_Tour::pictureOfEveryWindowIsTaken()
+{
     const QStringList pictures = QDir(QStringLiteral("tour")).entryList({QStringLiteral("*.png")});
     QCOMPARE(pictures, (QStringList{QStringLiteral("call-connected.png"), QStringLiteral("call-incoming.png"),
                                     QStringLiteral("call-outgoing.png"), QStringLiteral("call-video.png"),
@@ -39,15 +63,33 @@ void tst_Tour::everyStepHasItsEffectAndNothingIsLeftRunning()
                                     QStringLiteral("desktop.png"), QStringLiteral("incoming-prompt.png"),
                                     QStringLiteral("message-no-process.png"), QStringLiteral("message.png")}));
     for (const QString &picture : pictures) {
-        QVERIFY2(!QImage(QStringLiteral("tour/") + picture).isNull(), qPrintable(picture));
+        const QImage image(QStringLiteral("tour/") + picture);
+        QVERIFY2(image.width() > 200 && image.height() > 100, qPrintable(picture));
     }
+}
+
+void tst_Tour::endedByASignalItEndsTheCallProcess()
+{
+    const QString trace = QDir::current().absoluteFilePath(QStringLiteral("wire.txt"));
+    m_environment.insert(QStringLiteral("VOIPSDK_TRACE"), trace);
+    QProcess demo;
+    demo.setProcessEnvironment(m_environment);
+    demo.start(m_strDemo, QStringList());
+    QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::FromPlugin, QStringLiteral("RegeditUser")), 60000);
+    demo.terminate();
+    QVERIFY(demo.waitForFinished(60000));
+    QCOMPARE(demo.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(demo.exitCode(), 130);
+    QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::Event, QStringLiteral("stopped listening")), 60000);
+    QVERIFY(isTraced(trace, WireLine::FromPlugin, QStringLiteral("quit")));
 }
 
 void tst_Tour::withoutTheModuleTheClientSaysSoAndEnds()
 {
     const QString lonely = QDir::current().absoluteFilePath(QStringLiteral("kelvarim-demo"));
-    QVERIFY(QFile::copy(QStringLiteral(VOIP_BIN_DIR "/kelvarim-demo"), lonely));
+    QVERIFY(QFile::copy(m_strDemo, lonely));
     QProcess demo;
+    demo.setProcessEnvironment(m_environment);
     demo.start(lonely, {QStringLiteral("--tour"), QStringLiteral("tour-without")});
     QVERIFY(demo.waitForFinished(60000));
     QCOMPARE(demo.exitCode(), 1);

@@ -1,5 +1,6 @@
 #include "common/CServerSettings.h"
 #include "model/CommonData.h"
+#include "model/Somewhere.h"
 #include "model/SystemSetData.h"
 
 #include <QFont>
@@ -7,13 +8,6 @@
 #include <QTest>
 
 namespace {
-
-// Addresses that are only stored and given back.
-template <typename Type>
-Type *somewhere(quintptr iAddress)
-{
-    return reinterpret_cast<Type *>(iAddress);
-}
 
 MucData room(const QString &strJid, const QString &strName)
 {
@@ -217,12 +211,14 @@ private slots:
         QVERIFY(context.getCanModifyPassword());
     }
 
-    void withoutServerSettingsLimitsAreZero()
+    void withoutServerSettingsLimitsAreZeroAndFlagsFalse()
     {
         CommonData context;
         context.setSupportVoIPFlag(true);
         context.setFileTransferMaxSize(1);
         context.setMucRoomMaxSize(1);
+        context.setCanModifyPassword(true);
+        QVERIFY(!context.getCanModifyPassword());
         QCOMPARE(context.getFileTransferMaxSize(), qint64(0));
         QCOMPARE(context.getMucRoomMaxSize(), qint64(0));
         QVERIFY(!context.getSupportVoIPFlag());

@@ -59,7 +59,7 @@ private slots:
         }
     }
 
-    void aChangeIsWhatAUserSees_data()
+    void onlySomeFieldsCountAsAChange_data()
     {
         QTest::addColumn<Change>("change");
         QTest::addColumn<bool>("same");
@@ -95,7 +95,7 @@ private slots:
         row("company code", true, [](MucData &room) { room.m_strCompanyCode = "x"; });
     }
 
-    void aChangeIsWhatAUserSees()
+    void onlySomeFieldsCountAsAChange()
     {
         QFETCH(Change, change);
         QFETCH(bool, same);

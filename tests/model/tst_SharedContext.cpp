@@ -1,20 +1,10 @@
 #include "common/CServerSettings.h"
 #include "model/LoginData.h"
 #include "model/SharedContext.h"
+#include "model/Somewhere.h"
 #include "model/SystemSetData.h"
 
 #include <QTest>
-
-namespace {
-
-// Addresses that are only stored and given back.
-template <typename Type>
-Type *somewhere(quintptr iAddress)
-{
-    return reinterpret_cast<Type *>(iAddress);
-}
-
-} // namespace
 
 class tst_SharedContext : public QObject
 {

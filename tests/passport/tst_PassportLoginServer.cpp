@@ -1,12 +1,6 @@
-#include "common/CLogManger.h"
-#include "common/CLogThread.h"
-#include "common/CustomLogger.h"
-#include "model/CommonData.h"
-#include "model/SharedContext.h"
+#include "fakes/LogCapture.h"
 #include "passport/PassportLoginServer.h"
 
-#include <QDir>
-#include <QFile>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -31,21 +25,7 @@ class tst_PassportLoginServer : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        m_context.setCustomLogger(&m_logger);
-        m_context.setCustomLogThread(&m_logThread);
-        SharedContext::setCommonData(&m_context);
-        m_logThread.start();
-    }
-
-    void cleanupTestCase()
-    {
-        m_logThread.stop();
-        CLogManger::instance()->printLog(CustomLog::Debug, QString(), QString());
-        QVERIFY(m_logThread.wait());
-        SharedContext::setCommonData(nullptr);
-    }
+    void init() { m_log.take(); }
 
     void aNewKeeperHoldsNothing()
     {
@@ -133,7 +113,7 @@ private slots:
         QTest::ignoreMessage(QtDebugMsg, "CPassportLoginServer::ManualRefreshAuthID return direct.");
         keeper.ManualRefreshAuthID();
 
-        const QStringList listRecord = newRecords();
+        const QStringList listRecord = m_log.take();
         QCOMPARE(listRecord.size(), 2);
         QVERIFY2(listRecord.at(0).contains("[DEBUG]") && listRecord.at(0).endsWith("]: " + text),
                  qPrintable(listRecord.at(0)));
@@ -151,7 +131,7 @@ private slots:
         CPassportLoginServer keeper;
         const QSignalSpy overdue(&keeper, SIGNAL(signal_UserOverdue()));
         keeper.UserOverdue();
-        const QStringList listRecord = newRecords();
+        const QStringList listRecord = m_log.take();
         QCOMPARE(listRecord.size(), 1);
         QVERIFY2(listRecord.at(0).contains("[DEBUG]") &&
                      listRecord.at(0).endsWith("]: CPassportLoginServer::UserOverdue return direct."),
@@ -180,38 +160,10 @@ private slots:
         keeper.UserOverdue();
         keeper.UserCookieExpire();
         QVERIFY(!keeper.IsPassportKeeplived());
-        newRecords();
     }
 
 private:
-    // The records written since the last call, up to a closing one of its own.
-    QStringList newRecords()
-    {
-        const QString strMark = QStringLiteral("mark %1").arg(++m_iMark);
-        CLogManger::instance()->printLog(CustomLog::Debug, QString(), strMark);
-        QStringList listLine;
-        const auto isMarked = [&] {
-            m_logger.flush();
-            QFile file(m_strLogFile);
-            if (file.open(QIODevice::ReadOnly)) {
-                listLine = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
-            }
-            return !listLine.isEmpty() && listLine.last().endsWith(strMark);
-        };
-        if (!QTest::qWaitFor(isMarked)) {
-            return {};
-        }
-        const QStringList listNew = listLine.mid(m_iRead, listLine.size() - m_iRead - 1);
-        m_iRead = listLine.size();
-        return listNew;
-    }
-
-    const QString m_strLogFile = QDir::currentPath() + "/keeper.log";
-    CustomLogger m_logger{m_strLogFile};
-    CLogThread m_logThread;
-    CommonData m_context;
-    int m_iMark = 0;
-    int m_iRead = 0;
+    LogCapture m_log;
 };
 
 QTEST_GUILESS_MAIN(tst_PassportLoginServer)

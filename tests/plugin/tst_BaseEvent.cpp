@@ -2,7 +2,9 @@
 #include "plugin/BaseEvent.h"
 
 #include <QTest>
+#include <QVector>
 
+#include <algorithm>
 #include <memory>
 #include <type_traits>
 
@@ -14,6 +16,7 @@ private slots:
     void hasTheTypeOfAllHostEvents();
     void keepsWhatItIsBuiltWith();
     void isBuiltWithoutPayloadByDefault();
+    void fieldsStandInTheOrderSharedWithTheHost();
     void destructorFreesTheExtraBlocks();
     void destructorIsVirtual();
     void cannotBeCopiedSinceItOwnsBlocks();
@@ -43,6 +46,15 @@ void tst_BaseEvent::isBuiltWithoutPayloadByDefault()
     const BaseEvent event(MSG_EXIT_VOIP, QString(), QString(), false);
     QVERIFY(event.data.isEmpty());
     QVERIFY(!event.bAsync);
+}
+
+void tst_BaseEvent::fieldsStandInTheOrderSharedWithTheHost()
+{
+    const BaseEvent event(MSG_EXIT_VOIP, QString(), QString(), false);
+    const QVector<const void *> fields{&event.msgId,      &event.data,   &event.bFlag,    &event.senderId,
+                                       &event.receiverId, &event.bAsync, &event.extraList};
+    QVERIFY(fields.first() > static_cast<const void *>(static_cast<const QEvent *>(&event)));
+    QVERIFY(std::is_sorted(fields.cbegin(), fields.cend()));
 }
 
 void tst_BaseEvent::destructorFreesTheExtraBlocks()

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include <limits>
+#include <random>
 
 class tst_EventPayload : public QObject
 {
@@ -18,6 +19,7 @@ private slots:
     void listEndsWhereThePayloadEnds_data();
     void listEndsWhereThePayloadEnds();
     void tellsWhetherAFieldWasMissing();
+    void anyBytesReadLikeTheStreamOperatorOrEndEarly();
     void zeroAddressGivesADefaultRecord();
     void recordIsCopiedFromItsAddress();
 };
@@ -103,6 +105,34 @@ void tst_EventPayload::tellsWhetherAFieldWasMissing()
     PayloadReader cut(packPayload(2, QStringLiteral("a")));
     cut.takeTexts();
     QVERIFY(!cut.isComplete());
+}
+
+void tst_EventPayload::anyBytesReadLikeTheStreamOperatorOrEndEarly()
+{
+    std::mt19937 random(20261);
+    int wholeLists = 0;
+    for (int i = 0; i < 50000; ++i) {
+        QByteArray payload(static_cast<int>(random() % 48), '\0');
+        for (char &byte : payload) {
+            // Zeros and small numbers are frequent, so that counts and lengths often fit.
+            const auto pick = random() % 8;
+            byte = static_cast<char>(pick < 5 ? 0 : (pick < 7 ? random() % 9 : random() % 256));
+        }
+        PayloadReader reader(payload);
+        const QStringList texts = reader.takeTexts();
+        // Each string takes its length, at the least.
+        QVERIFY(texts.size() * 4 <= payload.size());
+        if (!reader.isComplete() || payload.at(0) < 0) {
+            continue;
+        }
+        ++wholeLists;
+        QDataStream stream(payload);
+        QStringList expected;
+        stream >> expected;
+        QCOMPARE(stream.status(), QDataStream::Ok);
+        QCOMPARE(texts, expected);
+    }
+    QVERIFY(wholeLists > 1000);
 }
 
 void tst_EventPayload::zeroAddressGivesADefaultRecord()

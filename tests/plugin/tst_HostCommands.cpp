@@ -19,6 +19,8 @@
 #include <QLocalSocket>
 #include <QTest>
 
+#include <random>
+
 namespace {
 
 // Opens the call manager's record of the call.
@@ -31,6 +33,24 @@ public:
 };
 
 const QString peer = QStringLiteral("u1");
+
+// Bytes with many zeros and small numbers, so that counts and lengths often fit.
+QByteArray randomPayload(std::mt19937 &random)
+{
+    QByteArray payload(static_cast<int>(random() % 40), '\0');
+    for (char &byte : payload) {
+        byte = static_cast<char>(random() % 2 == 0 ? random() % 9 : random() % 256);
+    }
+    return payload;
+}
+
+// The host vouches for the address of a card, so only a payload without one may hold any bytes.
+bool holdsAnAddress(const QByteArray &payload)
+{
+    PayloadReader reader(payload);
+    reader.take<QString>();
+    return reader.take<qint64>() != 0;
+}
 
 } // namespace
 
@@ -59,6 +79,8 @@ private slots:
     void userInfoWithZeroAddressStandsForADefaultCard();
     void showVoiceConfIsPassedOn();
     void shortPayloadsReadAsDefaults();
+    void truncatedAndRandomPayloadsDoNoHarm_data();
+    void truncatedAndRandomPayloadsDoNoHarm();
     void exitEndsTheLink();
 
 private:
@@ -312,9 +334,46 @@ void tst_HostCommands::shortPayloadsReadAsDefaults()
     QVERIFY(!nextLine(QStringLiteral("UnReg")).isEmpty());
 }
 
+void tst_HostCommands::truncatedAndRandomPayloadsDoNoHarm_data()
+{
+    QTest::addColumn<int>("msgId");
+    QTest::addColumn<QByteArray>("whole");
+    const QStringList members{peer, QStringLiteral("u2")};
+    QTest::newRow("updateUserInfo") << int(MSG_UPDATE_USER_INFO) << packPayload(peer, qint64(0));
+    QTest::newRow("clientConnectStatus") << int(MSG_CLIENT_CONNECT_STATUS) << packPayload(true);
+    QTest::newRow("callSingleUser") << int(MSG_CALL_SINGLE_USER) << packPayload(true, peer);
+    QTest::newRow("isExistCall") << int(MSG_IS_EXIST_CALL) << QByteArray();
+    QTest::newRow("isVideoCall") << int(MSG_IS_VIDEO_CALL) << QByteArray();
+    QTest::newRow("responseVoipRequest") << int(MSG_RESPONSE_VOIP_REQUEST) << packPayload(true);
+    QTest::newRow("callConference") << int(MSG_CALL_CONFERENCE) << packPayload(members, QStringLiteral("t"), true);
+    QTest::newRow("showVoiceConf") << int(MSG_SHOW_VOICE_CONF) << QByteArray();
+}
+
+void tst_HostCommands::truncatedAndRandomPayloadsDoNoHarm()
+{
+    QFETCH(int, msgId);
+    QFETCH(QByteArray, whole);
+    QList<QByteArray> payloads;
+    for (int size = 0; size <= whole.size(); ++size) {
+        payloads.append(whole.left(size));
+    }
+    std::mt19937 random(static_cast<std::mt19937::result_type>(msgId));
+    while (payloads.size() < 40) {
+        const QByteArray payload = randomPayload(random);
+        if (msgId != MSG_UPDATE_USER_INFO || !holdsAnAddress(payload)) {
+            payloads.append(payload);
+        }
+    }
+    for (const QByteArray &payload : qAsConst(payloads)) {
+        query(static_cast<EMsgId>(msgId), payload);
+        CVoipManage::instance()->hangupVoipCall();
+        QCOMPARE(query(MSG_IS_EXIST_CALL, payload), packPayload(false));
+    }
+}
+
 void tst_HostCommands::exitEndsTheLink()
 {
-    command(MSG_EXIT_VOIP);
+    command(MSG_EXIT_VOIP, "bytes that nobody reads");
     QTRY_COMPARE(m_link->state(), QLocalSocket::UnconnectedState);
     QVERIFY(m_link->readAll().endsWith("quit\n"));
     m_link = nullptr;
