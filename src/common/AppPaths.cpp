@@ -19,7 +19,7 @@ QString strSYSTEM_DOCUMENTS_LOCATION()
         strPath = QFileInfo(strWritable).absoluteFilePath();
     }
     strPath.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    // One pass is deliberate, "///" becomes "//": paths that users' files hold were made so.
+    // Deliberately one pass, "///" becomes "//": the client's other modules find the same folders by this rule.
     strPath.replace(QLatin1String("//"), QLatin1String("/"));
     return strPath;
 }

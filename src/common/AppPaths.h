@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// The user's documents folder, without a slash at the end.
+/// The user's documents folder.
 QString strSYSTEM_DOCUMENTS_LOCATION();
 
 /// The folder of the client's INI files: "KelvarIm" in the documents folder.

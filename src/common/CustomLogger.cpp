@@ -6,22 +6,16 @@
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMutexLocker>
 #include <QTextStream>
 
 namespace {
 
-/// The local time as "yyyy-MM-dd hh:mm:ss.zzz". All but the milliseconds is formatted once a second.
+/// The local time in ASCII digits, which QDateTime's own texts do not have under every system locale.
 QString currentTime()
 {
-    thread_local qint64 iSecond = -1;
-    thread_local QString strSecond;
-    const qint64 iNow = QDateTime::currentMSecsSinceEpoch();
-    if (iNow / 1000 != iSecond) {
-        iSecond = iNow / 1000;
-        strSecond = QDateTime::fromMSecsSinceEpoch(iNow).toString(QStringLiteral("yyyy-MM-dd hh:mm:ss."));
-    }
-    return strSecond + QString::number(1000 + iNow % 1000).rightRef(3);
+    return QLocale::c().toString(QDateTime::currentDateTime(), QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz"));
 }
 
 } // namespace

@@ -2,13 +2,12 @@
 
 namespace {
 
+// Deliberately kept, though nothing on this platform reads it.
 bool sg_bDpiInited = false;
 
 void noteFirstUse()
 {
-    if (!sg_bDpiInited) {
-        sg_bDpiInited = true;
-    }
+    sg_bDpiInited = true;
 }
 
 } // namespace

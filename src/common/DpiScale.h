@@ -1,6 +1,6 @@
 #pragma once
 // The scale helpers for high-resolution screens. All layout code passes its pixel values through them.
-// On this platform the toolkit scales by itself, so the family keeps its interface and returns what it gets.
+// On this platform nothing is scaled: the family keeps its interface and returns what it gets.
 // GUI thread; no state that anybody reads.
 
 #include <QMargins>

@@ -5,8 +5,8 @@
 
 #include <QString>
 
-/// A copy of `text` (may be empty) that is never destroyed.
-inline const QString &lastingText(const QString &text)
+/// A copy of `strText` (may be empty) that is never destroyed.
+inline const QString &lastingText(const QString &strText)
 {
-    return *new QString(text);
+    return *new QString(strText);
 }

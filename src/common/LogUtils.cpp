@@ -42,7 +42,7 @@ QString LogUtils::getLogByTemplate(const QString &str1, const QString &str2, con
                                    const QString &strException, const QString &str9)
 {
     static const QString strTemplate = getLogTemplate();
-    // Deliberately kept from call to call, for the client's one event logger: hence one thread at a time.
+    // Deliberately kept from call to call, so one thread at a time; only the client's other modules call this.
     static QString strLog;
     static QString strEscaped;
     strLog = strTemplate;

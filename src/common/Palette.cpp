@@ -68,9 +68,9 @@ QString StyleSheets::menuItemDisable()
     return QStringLiteral("QMenu::item:disabled{color:%1;}").arg(strCOLOT_DISABLE_GREY);
 }
 
-QString StyleSheets::menuChecked(const QString &kind)
+QString StyleSheets::menuChecked(const QString &strKind)
 {
     return QStringLiteral("QMenu::indicator:%1:checked {margin-left:10px;width:15;height:15;"
                           "border-image:url(Resources/images/CommonCtrls/kvim_list_ic_selected.png);}")
-        .arg(kind);
+        .arg(strKind);
 }

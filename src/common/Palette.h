@@ -18,7 +18,7 @@ QString menu();
 QString menuItem();
 QString menuItemSelect();
 QString menuItemDisable();
-QString menuChecked(const QString &kind);
+QString menuChecked(const QString &strKind);
 } // namespace StyleSheets
 
 /// A thin vertical scroll bar that shows only under the mouse.

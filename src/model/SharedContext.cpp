@@ -2,6 +2,8 @@
 
 namespace {
 
+constexpr qint64 DEFAULT_ROOM_SIZE = 1500;
+
 // What the getter gives, or an unset value without a context.
 template <typename Value, typename... Params, typename... Args>
 Value read(Value (CommonData::*pGetter)(Params...) const, const Args &...args)
@@ -189,4 +191,10 @@ void SharedContext::setMucRoomMaxSize(qint64 iSize)
 qint64 SharedContext::getMucRoomMaxSize()
 {
     return read(&CommonData::getMucRoomMaxSize);
+}
+
+qint64 SharedContext::getMucRoomMaxMemberSize()
+{
+    const qint64 iAnnounced = getMucRoomMaxSize();
+    return iAnnounced < 1 ? DEFAULT_ROOM_SIZE : iAnnounced;
 }

@@ -89,6 +89,8 @@ public:
     /// The greatest number of members of a room, as the server announced it.
     static void setMucRoomMaxSize(qint64 iSize);
     static qint64 getMucRoomMaxSize();
+    /// The same as a limit to go by: 1500 while the server announced none, or one below 1.
+    static qint64 getMucRoomMaxMemberSize();
 
     /// The request to send in place of the given one; without a context its authentication id is empty.
     static QNetworkRequest CoverNetworkRequest(const QNetworkRequest &request);

@@ -93,7 +93,7 @@ void trueForEmptyOrOne(Data &data, QSettings &settings, const QString &strKey)
     data.*pField = strValue.isEmpty() || strValue == ON_TEXT;
 }
 
-// "0" means true, deliberately: the settings dialog writes the switch the other way round.
+// Deliberate: "0" means true, as the readers of the flag know it.
 template <bool Data::*pField>
 void trueForEmptyOrZero(Data &data, QSettings &settings, const QString &strKey)
 {
@@ -139,7 +139,7 @@ void receiveFolder(Data &data, QSettings &settings, const QString &strKey)
 {
     data.m_strTransFilePath = readText(settings, strKey);
     if (data.m_strTransFilePath.isEmpty()) {
-        // Under the default root even when the user chose another one, deliberately: files received earlier lie there.
+        // Deliberately the default root, also when msgfilepath names another one: the host finds received files there.
         data.m_strDefaultReceiveFolder =
             data.m_strDefaultDataRoot + QLatin1Char('/') + data.m_strUserName + QLatin1String("/fileRec");
         data.m_strTransFilePath = data.m_strDefaultReceiveFolder;
@@ -166,7 +166,7 @@ void chatFontSize(Data &data, QSettings &settings, const QString &strKey)
     }
 }
 
-// Rewritten once at any size, unlike the chat font, deliberately: the agents' windows had no size that was ever chosen.
+// Deliberately unlike the chat font: rewritten once at any size, which the customer-service window relies on.
 void agentFontSize(Data &data, QSettings &settings, const QString &strKey)
 {
     double &dSize = data.m_agentChatFont.m_dFontSize;

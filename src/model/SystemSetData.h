@@ -10,111 +10,113 @@
 #include <QString>
 #include <QStringList>
 
-/// The font of one kind of chat window.
+/// The font of one kind of chat window: the keys of its section, as stored.
 struct ChatFont
 {
-    /// The family's name; empty: none chosen.
+    /// Key fontfamily.
     QString m_strFontFamily;
-    /// Heavy strokes.
+    /// Key isbold.
     bool m_bIsBold = false;
-    /// Slanted.
+    /// Key isitalic.
     bool m_bIsItalic = false;
-    /// The size in pixels; 0 when none was ever stored.
+    /// Key fontsize; 0 when none was ever stored.
     double m_dFontSize = 0.0;
-    /// A line below the text.
+    /// Key hasunderline.
     bool m_bHasUnderline = false;
-    /// The colour of the text; invalid: none chosen.
+    /// Key textcolor; invalid when none, or no colour, was stored.
     QColor m_textColor;
 };
 
 class SystemSetData
 {
 public:
-    // Basic settings.
-    /// "1" starts the client with the system.
+    // Texts of the keys named, as they are stored and empty when they are not; what a text means is up to its reader.
+
+    // Section basicSetting.
+    /// Key autoLunch.
     QString m_strAutoLunch;
-    /// "1" signs in at start.
+    /// Key autoLogin.
     QString m_strAutoLogin;
-    /// The status to sign in with.
+    /// Key autoLogin_statu.
     QString m_strAutoLogin_statu;
-    /// Whether the main window warns.
+    /// Key mainwindowWarn.
     QString m_strMainwindowWarn;
-    /// Whether the main window hides.
+    /// Key hideMainWindow.
     QString m_strHideMainWindow;
-    /// What closing the main window does.
+    /// Key closeMainWindow.
     QString m_strCloseMainWindow;
-    /// "1" keeps the ring of an incoming call silent.
+    /// Key closeVoice: "1" keeps the ring of an incoming call silent.
     QString m_strCloseVoice;
-    /// Whether dialogs that were left open come back.
+    /// Key openUnColsedDialog.
     QString m_strOpenUnColsedDialog;
 
-    // Where files are kept.
-    /// Whether files are kept under the application.
+    // Section msgSetting; the first four stand in the file that all users share.
+    /// Key SaveToRoot.
     QString m_strSaveToRoot;
-    /// Whether files are kept under the documents folder.
+    /// Key SaveToMyDoc.
     QString m_strSaveToMyDoc;
-    /// Whether files are kept in a folder of the user's choice.
+    /// Key SaveToMyChosen.
     QString m_strSaveToMyChosen;
-    /// The root of all users' folders.
+    /// Key msgfilepath: the root of all users' folders; the default data root when none is stored.
     QString m_strMsgFilePath;
-    /// The folder for received files.
+    /// Key transfilepath: the folder for received files; the default receive folder when none is stored.
     QString m_strTransFilePath;
     /// Two texts of the host, carried along and not read.
     QString m_strFilePlaceText1;
     QString m_strFilePlaceText2;
-    /// Whether others may shake the window.
+    /// Key allowShaked.
     QString m_strAllowShaked;
 
-    // Status and replies.
-    /// Whether idle time changes the status.
+    // Section statusSetting.
+    /// Key ChangeToAway.
     QString m_strChangeToAway;
-    /// After how many minutes it does.
+    /// Key awayMinute.
     QString m_strAwayMinute;
-    /// Whether a full screen changes the status.
+    /// Key ChangeToBusy.
     QString m_strChangeToBusy;
-    /// Whether messages are answered automatically.
+    /// Key IsAutoReply.
     QString m_strIsAutoReply;
-    /// The chosen automatic reply.
+    /// Key AutoReplyStr.
     QString m_strAutoReplyStr;
-    /// The automatic replies to choose from.
+    /// Key AutoReplyList; empty when none is stored.
     QStringList m_listAutoReplyList;
-    /// The chosen quick reply.
+    /// Key FastReplyStr.
     QString m_strFastReplyStr;
-    /// The quick replies to choose from.
+    /// Key FastReplyList; empty when none is stored.
     QStringList m_listFastReplyList;
 
-    // Hot keys.
-    /// The key that fetches waiting messages.
+    // Section hotkeySetting.
+    /// Key CatchMsgHotkey.
     QString m_strCatchMsgHotkey;
-    /// The key that takes a screen shot.
+    /// Key CutPictureHotKey.
     QString m_strCutPictureHotKey;
-    /// The key that sends a message.
+    /// Key SendMsgFastkey; "Ctrl+Enter" when none is stored.
     QString m_strSendMsgFastkey;
-    /// "1" hides the window for a screen shot; "0" or "1", nothing else once read.
+    /// Key SnapHide: "0" when "0" is stored, else "1".
     QString m_strSnapHide;
 
-    // Safety.
-    /// Whether everybody may become a contact.
+    // Section safeSetting.
+    /// Key allAllowed.
     QString m_strAllAllowed;
-    /// Whether that needs the user's consent.
+    /// Key someAllowed.
     QString m_strSomeAllowed;
-    /// Whether nobody may.
+    /// Key allForbidden.
     QString m_strAllForbidden;
 
-    // More basic settings.
-    /// Whether all dialogs close together without a question.
+    // Section basicSetting again.
+    /// Key alwaysCloseAllDialog.
     QString m_strAlwaysCloseAllDialog;
-    /// Whether somebody invited does not use the client.
+    /// Key notAllIMUser.
     QString m_strNotAllIMUser;
-    /// Whether somebody invited is a contact already.
+    /// Key haveExistFriend.
     QString m_strHaveExistFriend;
 
-    /// The font of the chat windows.
+    /// Section chatFontSetting; a size of 12 is raised to 14 once.
     ChatFont m_chatFont;
-    /// The font of the customer-service windows.
+    /// Section agentChatFontSetting, for the customer-service window; any size is set to 14 once.
     ChatFont m_agentChatFont;
 
-    /// How the main window hides at the screen's edge.
+    /// Key NeedHide of HideSetting; 0 when none is stored.
     int m_iNeedHide = 0;
 
     // Defaults.
@@ -128,23 +130,23 @@ public:
     QString m_strDefaultText3;
     QString m_strDefaultText4;
 
-    /// Whether messages are synchronised.
+    /// Key msgSync of msgSetting.
     QString m_strMsgSync;
 
     // Flags.
-    /// True when messages show as bubbles.
+    /// Key airBubbleMode of msgSetting: true for "1" and when none is stored.
     bool m_bAirBubbleMode = false;
-    /// A switch of the host that is off from the start.
+    /// A switch of the host that is off from the start and not read from a file.
     bool m_bHostFlag = false;
-    /// True when all rooms are listed.
+    /// Key showAllRoom of msgSetting: true for "1" alone.
     bool m_bShowAllRoom = false;
-    /// True until the burning messages were first opened.
+    /// Key FirstOpenBurn of BurnMsg: true unless "false" is stored.
     bool m_bFirstOpenBurn = false;
-    /// True until the first burning message was read.
+    /// Key FirstReadBurnMsg of BurnMsg: true unless "false" is stored.
     bool m_bFirstReadBurnMsg = false;
-    /// True when the conversations keep their order.
+    /// Key NotAutoSort of msgSetting: true for "0" and when none is stored.
     bool m_bNotAutoSort = false;
-    /// True until the first message was recalled.
+    /// Key FirstRecallMsg of RecallMsg: true unless "false" is stored.
     bool m_bFirstRecallMsg = false;
 
     // What derives from the user's name.
@@ -163,12 +165,12 @@ public:
     /// The file of the user's local store.
     QString m_strDatabasePath;
 
-    // Privacy: "1" where the user chose nothing.
-    /// Whether others may find the user.
+    // Section privacySetting: "1" when none is stored.
+    /// Key CanSearch.
     QString m_strCanSearch;
-    /// Whether others may see the user's company data.
+    /// Key CanViewCompanyInfo.
     QString m_strCanViewCompanyInfo;
-    /// Whether others may see the user's mobile number.
+    /// Key CanViewMobile.
     QString m_strCanViewMobile;
 
     /// The folder of the user's head images, with a "/" at its end.

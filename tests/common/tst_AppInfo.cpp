@@ -1,4 +1,5 @@
 #include "FileText.h"
+#include "OwnProcess.h"
 
 #include "common/AppInfo.h"
 #include "common/AppPaths.h"
@@ -10,14 +11,15 @@
 
 namespace {
 
-/// Knows the title's key alone.
+/// Knows the title's key alone, in the context of texts that belong to no class.
 class TitleTranslator : public QTranslator
 {
 public:
-    QString translate(const char * /*context*/, const char *sourceText, const char * /*disambiguation*/,
+    QString translate(const char *context, const char *sourceText, const char * /*disambiguation*/,
                       int /*n*/) const override
     {
-        return QLatin1String(sourceText) == QLatin1String("tarvoShowName") ? QStringLiteral("语音") : QString();
+        const bool known = qstrcmp(context, "QObject") == 0 && qstrcmp(sourceText, "tarvoShowName") == 0;
+        return known ? QStringLiteral("语音") : QString();
     }
 
     bool isEmpty() const override { return false; }
@@ -79,6 +81,17 @@ private slots:
         QCOMPARE(AppInfo::getIMWindowTitle(), QStringLiteral("tarvoShowName"));
     }
 
+    void foldersInPlaceOfTheFilesReadAsMissing()
+    {
+        QVERIFY(QDir().mkpath(strAPP_VERSION_FILE_PATH()));
+        QVERIFY(QDir().mkpath(strAPP_INFO_FILE_PATH()));
+        AppInfo::setIMVertion("9.9");
+        QCOMPARE(AppInfo::getIMWindowTitle(), QStringLiteral("tarvoShowName"));
+        QCOMPARE(AppInfo::getApplicationLanguage(), QStringLiteral("zh_CN"));
+        QVERIFY(QDir().rmdir(strAPP_VERSION_FILE_PATH()));
+        QVERIFY(QDir().rmdir(strAPP_INFO_FILE_PATH()));
+    }
+
     void thisIsThePublicVersion() { QVERIFY(AppInfo::IsPubicVersion()); }
 
     void languageInTheFileIsReturnedUnchecked()
@@ -103,21 +116,11 @@ private slots:
     {
         QFETCH(QByteArray, locale);
         QFETCH(QString, language);
-        // The locale is read once for a process, so each row needs a process of its own.
-        if (qEnvironmentVariableIsSet("IN_CHILD")) {
+        if (inOwnProcess()) {
             QCOMPARE(AppInfo::getApplicationLanguage(), language);
             return;
         }
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("IN_CHILD", "1");
-        environment.insert("LC_ALL", QString::fromLatin1(locale));
-        QProcess child;
-        child.setProcessEnvironment(environment);
-        child.start(QCoreApplication::applicationFilePath(),
-                    {QStringLiteral("withoutALanguageTheSystemLocaleDecides:") + QTest::currentDataTag()});
-        QVERIFY(child.waitForFinished());
-        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
-        QVERIFY2(child.exitCode() == 0, child.readAllStandardOutput().constData());
+        QCOMPARE(failureInOwnProcess({"LC_ALL=" + locale}), QByteArray());
     }
 
     void suffixIsOneOfTwo_data()

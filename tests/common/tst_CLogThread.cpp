@@ -60,6 +60,16 @@ public:
     /// Whether the thread sleeps; once its records are written, it can only do so on its empty queue.
     bool sleeps() const { return fileText(QStringLiteral("/proc/self/task/%1/stat").arg(m_taskId)).contains(") S "); }
 
+    /// Starts the thread, lets it write the record "before" and wait for the next one, and stops it then.
+    bool isStoppedOnItsEmptyQueue()
+    {
+        thread.start();
+        thread.printLog(CustomLog::Debug, {}, "before");
+        const bool waits = QTest::qWaitFor([this] { return hasWritten(1) && sleeps(); });
+        thread.stop();
+        return waits;
+    }
+
     CustomLogger logger{LOG};
     CLogThread thread;
 
@@ -184,11 +194,7 @@ private slots:
     void stopWithAnEmptyQueueWaitsForTheNextRecord()
     {
         Writer writer;
-        writer.thread.start();
-        writer.thread.printLog(CustomLog::Debug, {}, "before");
-        QTRY_VERIFY(writer.hasWritten(1));
-        QTRY_VERIFY(writer.sleeps());
-        writer.thread.stop();
+        QVERIFY(writer.isStoppedOnItsEmptyQueue());
         QVERIFY(!writer.thread.wait(200));
         writer.thread.printLog(CustomLog::Debug, {}, "after");
         QVERIFY(writer.thread.wait());
@@ -199,11 +205,7 @@ private slots:
     void recordsBehindTheStopStayUnwritten()
     {
         Writer writer;
-        writer.thread.start();
-        writer.thread.printLog(CustomLog::Debug, {}, "before");
-        QTRY_VERIFY(writer.hasWritten(1));
-        QTRY_VERIFY(writer.sleeps());
-        writer.thread.stop();
+        QVERIFY(writer.isStoppedOnItsEmptyQueue());
         writer.thread.printLog(CustomLog::Debug, {}, "last");
         writer.thread.printLog(CustomLog::Debug, {}, "unwritten");
         QVERIFY(writer.thread.wait());

@@ -2,6 +2,7 @@
 
 #include "common/ConfigFile.h"
 
+#include <QDir>
 #include <QSettings>
 #include <QtTest>
 
@@ -65,6 +66,39 @@ private slots:
         QVERIFY(!ConfigFile::getConfigValue("plain/inside.ini", "a/b").isValid());
     }
 
+    void folderInPlaceOfTheFileReadsAsMissing()
+    {
+        QVERIFY(QDir().mkpath("folder.ini"));
+        ConfigFile::changeConfigValue("folder.ini", "a/b", 1);
+        QCOMPARE(ConfigFile::getConfigValue("folder.ini", "a/b", 7).toInt(), 7);
+        QVERIFY(QDir("folder.ini").isEmpty());
+    }
+
+    void brokenFileIsReadAsFarAsItGoesAndCanBeWritten_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("value");
+        QTest::newRow("no section") << QByteArray("words only") << "none";
+        QTest::newRow("quote never closed") << QByteArray("[a]\nb=\"open") << "open";
+        QTest::newRow("escape of nothing") << QByteArray("[a]\nb=x\\") << "x";
+        QTest::newRow("escape of no digits") << QByteArray("[a]\nb=\\xZZ") << "ZZ";
+        QTest::newRow("brackets never closed") << QByteArray("[[[\n===\n[a]\nb=1") << "1";
+        QTest::newRow("NUL bytes") << QByteArray(100, '\0') << "none";
+        QTest::newRow("type that is none") << QByteArray("[a]\nb=@Variant(\\0\\0\\0\\xff)") << "";
+    }
+    void brokenFileIsReadAsFarAsItGoesAndCanBeWritten()
+    {
+        QFETCH(QByteArray, text);
+        const QString name = QStringLiteral("broken %1.ini").arg(QTest::currentDataTag());
+        QVERIFY(writeFile(name, text));
+        QString value = ConfigFile::getConfigValue(name, "a/b", "none").toString();
+        value.remove(QChar(QChar::Null));
+        QTEST(value, "value");
+        ConfigFile::changeConfigValue(name, "a/b", "mended");
+        QCOMPARE(ConfigFile::getConfigValue(name, "a/b").toString(), QStringLiteral("mended"));
+        QVERIFY(fileText(name).contains("b=mended\n"));
+    }
+
     void translationShortensOpenDialogs()
     {
         translate([](QSettings &source) {
@@ -97,6 +131,13 @@ private slots:
         QCOMPARE(target("Other/sub/key").toString(), QStringLiteral("nested"));
         QVERIFY(!fileText("source.ini").contains("会议"));
         QVERIFY(fileText("target.ini").contains("name=会议\n"));
+    }
+
+    void translationReadsTheSourceInTheDefaultCoding()
+    {
+        QVERIFY(writeFile("latin.ini", "[Other]\nname=caf\xe9\n"));
+        ConfigFile::translateIniToUtf8Code("latin.ini", "utf8 of latin.ini");
+        QCOMPARE(fileText("utf8 of latin.ini"), QByteArray("[Other]\nname=café\n"));
     }
 
     void translationLeavesKeysOutsideGroups()

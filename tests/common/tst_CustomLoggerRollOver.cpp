@@ -39,6 +39,18 @@ private slots:
         QTEST(QFile::exists(backup(1)), "rolls");
     }
 
+    void limitOfZeroRollsOverAfterEachRecord()
+    {
+        CustomLogger logger(LOG);
+        logger.setMaxFileSize(0);
+        logger.printLog(CustomLog::Info, "place", "first");
+        logger.printLog(CustomLog::Info, "place", "second");
+        QCOMPARE(fileText(LOG), QByteArray());
+        QVERIFY(fileText(backup(1)).endsWith(": second\n"));
+        QVERIFY(fileText(backup(2)).endsWith(": first\n"));
+        QVERIFY(!QFile::exists(backup(3)));
+    }
+
     void sizeSeenLagsBehindWhatIsBuffered()
     {
         CustomLogger logger(LOG);
@@ -127,6 +139,21 @@ private slots:
         QCOMPARE(fileText(backup(2)), QByteArray("one"));
         QVERIFY(!QFile::exists(backup(3)));
         QCOMPARE(fileText(backup(4)), QByteArray("three"));
+    }
+
+    void removedFileIsMadeAnewByTheNextRollOver()
+    {
+        CustomLogger logger(LOG);
+        QVERIFY(QFile::remove(LOG));
+        logger.printLog(CustomLog::Info, "place", "lost");
+        logger.flush();
+        QVERIFY(!QFile::exists(LOG));
+        logger.rollOver();
+        logger.printLog(CustomLog::Info, "place", "kept");
+        logger.flush();
+        QVERIFY(!QFile::exists(backup(1)));
+        QCOMPARE(lines().size(), 1);
+        QVERIFY(fileText(LOG).endsWith(": kept\n"));
     }
 
     void failedRenameIsIgnored()

@@ -1,4 +1,5 @@
 #include "FileText.h"
+#include "OwnProcess.h"
 
 #include "common/LogUtils.h"
 
@@ -111,17 +112,8 @@ private slots:
 
     void missingTemplateGivesAnEmptyLogWithoutAWarning()
     {
-        // The template is loaded once for a process, so this one needs a process of its own.
-        if (!qEnvironmentVariableIsSet("IN_CHILD")) {
-            QProcess child;
-            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-            environment.insert("IN_CHILD", "1");
-            child.setProcessEnvironment(environment);
-            child.setWorkingDirectory("/");
-            child.start(QCoreApplication::applicationFilePath(), {"missingTemplateGivesAnEmptyLogWithoutAWarning"});
-            QVERIFY(child.waitForFinished());
-            QCOMPARE(child.exitStatus(), QProcess::NormalExit);
-            QVERIFY2(child.exitCode() == 0, child.readAllStandardOutput().constData());
+        if (!inOwnProcess()) {
+            QCOMPARE(failureInOwnProcess({}, "/"), QByteArray());
             return;
         }
         const QtMessageHandler before = qInstallMessageHandler(keepWarnings);

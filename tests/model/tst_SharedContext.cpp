@@ -146,6 +146,28 @@ private slots:
         QVERIFY(SharedContext::getCanModifyPassword());
         QCOMPARE(SharedContext::getMucRoomMaxSize(), qint64(8));
     }
+
+    void aRoomMayHold1500WhileNoLimitIsKnown_data()
+    {
+        QTest::addColumn<qint64>("announced");
+        QTest::addColumn<qint64>("limit");
+        QTest::newRow("below zero") << qint64(-1) << qint64(1500);
+        QTest::newRow("zero") << qint64(0) << qint64(1500);
+        QTest::newRow("one") << qint64(1) << qint64(1);
+        QTest::newRow("more") << qint64(2000) << qint64(2000);
+    }
+
+    void aRoomMayHold1500WhileNoLimitIsKnown()
+    {
+        QFETCH(qint64, announced);
+        QCOMPARE(SharedContext::getMucRoomMaxMemberSize(), qint64(1500));
+        CServerSettings settings;
+        CommonData context;
+        context.setServerSettings(&settings);
+        SharedContext::setCommonData(&context);
+        SharedContext::setMucRoomMaxSize(announced);
+        QTEST(SharedContext::getMucRoomMaxMemberSize(), "limit");
+    }
 };
 
 QTEST_APPLESS_MAIN(tst_SharedContext)

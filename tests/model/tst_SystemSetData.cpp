@@ -18,6 +18,61 @@ namespace {
 
 constexpr char USER[] = "10000001";
 
+/// The keys of a user's file in the order of reading.
+const QStringList USER_KEYS = {
+    "/basicSetting/autoLogin",
+    "/basicSetting/autoLunch",
+    "/basicSetting/autoLogin_statu",
+    "/basicSetting/mainwindowWarn",
+    "/basicSetting/hideMainWindow",
+    "/basicSetting/closeMainWindow",
+    "/basicSetting/closeVoice",
+    "/basicSetting/openUnColsedDialog",
+    "/basicSetting/alwaysCloseAllDialog",
+    "/basicSetting/notAllIMUser",
+    "/basicSetting/haveExistFriend",
+    "/msgSetting/transfilepath",
+    "/msgSetting/allowShaked",
+    "/msgSetting/msgSync",
+    "/msgSetting/NotAutoSort",
+    "/msgSetting/showAllRoom",
+    "/statusSetting/ChangeToAway",
+    "/statusSetting/awayMinute",
+    "/statusSetting/ChangeToBusy",
+    "/statusSetting/IsAutoReply",
+    "/statusSetting/AutoReplyStr",
+    "/statusSetting/AutoReplyList",
+    "/statusSetting/FastReplyStr",
+    "/statusSetting/FastReplyList",
+    "/hotkeySetting/CatchMsgHotkey",
+    "/hotkeySetting/CutPictureHotKey",
+    "/hotkeySetting/SendMsgFastkey",
+    "/hotkeySetting/SnapHide",
+    "/safeSetting/allAllowed",
+    "/safeSetting/someAllowed",
+    "/safeSetting/allForbidden",
+    "/chatFontSetting/fontfamily",
+    "/chatFontSetting/isbold",
+    "/chatFontSetting/isitalic",
+    "/chatFontSetting/fontsize",
+    "/chatFontSetting/hasunderline",
+    "/chatFontSetting/textcolor",
+    "/HideSetting/NeedHide",
+    "/privacySetting/CanSearch",
+    "/privacySetting/CanViewCompanyInfo",
+    "/privacySetting/CanViewMobile",
+    "/msgSetting/airBubbleMode",
+    "/BurnMsg/FirstOpenBurn",
+    "/BurnMsg/FirstReadBurnMsg",
+    "/RecallMsg/FirstRecallMsg",
+    "/agentChatFontSetting/fontfamily",
+    "/agentChatFontSetting/isbold",
+    "/agentChatFontSetting/isitalic",
+    "/agentChatFontSetting/fontsize",
+    "/agentChatFontSetting/hasunderline",
+    "/agentChatFontSetting/textcolor",
+};
+
 template <auto pField, typename Value>
 Check holds(const Value &value)
 {
@@ -46,13 +101,10 @@ private slots:
         qputenv("XDG_CONFIG_HOME", m_folder->filePath("home/.config").toLocal8Bit());
     }
 
-    void everyKeyOfTheUserIsARow()
+    void theUsersKeysAreReadInOrder()
     {
-        const QStringList listKey = SystemSetData::userConfigKeys();
-        QCOMPARE(listKey.size(), 51);
-        QCOMPARE(QSet<QString>(listKey.cbegin(), listKey.cend()).size(), 51);
-        QCOMPARE(listKey.first(), QString("/basicSetting/autoLogin"));
-        QCOMPARE(listKey.last(), QString("/agentChatFontSetting/textcolor"));
+        QCOMPARE(USER_KEYS.size(), 51);
+        QCOMPARE(SystemSetData::userConfigKeys(), USER_KEYS);
     }
 
     void aNewObjectIsEmptyAndTouchesNoFile()
@@ -271,7 +323,7 @@ private slots:
         QFETCH(QString, key);
         QFETCH(QVariant, value);
         QFETCH(Check, check);
-        QVERIFY(SystemSetData::userConfigKeys().contains(key));
+        QVERIFY(USER_KEYS.contains(key));
         QVERIFY(check(readUser({{key, value}})));
     }
 
@@ -377,6 +429,16 @@ private slots:
         const SystemSetData data = readUser({});
         QCOMPARE(data.m_strSendMsgFastkey, QString("Ctrl+Enter"));
         QCOMPARE(data.m_strCanSearch, QString("1"));
+    }
+
+    void aBrokenUserFileGivesTheDefaultsAndIsRepaired()
+    {
+        writeFile(userFile(), QByteArray("[basicSetting\n=\"\\x\0[", 20) + QByteArray(100, '\0'));
+        const SystemSetData data = readUser({});
+        QCOMPARE(data.m_strSendMsgFastkey, QString("Ctrl+Enter"));
+        QCOMPARE(data.m_strCanSearch, QString("1"));
+        QCOMPARE(QSettings(userFile(), QSettings::IniFormat).value("/privacySetting/CanSearch").toString(),
+                 QString("1"));
     }
 
     void theReplyListsAreReplaced()
