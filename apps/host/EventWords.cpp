@@ -66,9 +66,9 @@ QString fieldsText(const char *fields, const QByteArray &payload)
 {
     PayloadReader in(payload);
     QStringList parts;
-    const QStringList specs = QString::fromLatin1(fields).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    for (const QString &spec : specs) {
-        parts << spec.mid(2) + QLatin1Char('=') + fieldText(spec.at(0).toLatin1(), in);
+    const QStringList shapes = QString::fromLatin1(fields).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &shape : shapes) {
+        parts << shape.mid(2) + QLatin1Char('=') + fieldText(shape.at(0).toLatin1(), in);
     }
     return parts.join(QStringLiteral(", "));
 }
