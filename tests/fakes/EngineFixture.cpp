@@ -31,7 +31,7 @@ QString word(bool value)
 
 } // namespace
 
-EngineFixture::EngineFixture(Start start)
+EngineFixture::EngineFixture(Start start) : m_start(start)
 {
     provideRing();
     login.m_strUid = QStringLiteral("me");
@@ -48,7 +48,7 @@ EngineFixture::EngineFixture(Start start)
     };
     VoipManageMessageProcess::instance()->setSendEvent(&host);
 
-    if (start == NoCallProcess)
+    if (start != WithCallProcess)
         process.close();
     const QtMessages messages;
     manager = std::make_unique<VoipManageProbe>();
@@ -117,6 +117,11 @@ void EngineFixture::noteEvent(const BaseEvent &event)
     if (manager)
         m_journal += takeLines();
     m_journal += words.join(' ');
+}
+
+QStringList EngineFixture::takeLines()
+{
+    return m_start == RealCallProcess ? QStringList() : process.takeLines(manager->m_pVoipSocket);
 }
 
 QStringList EngineFixture::takeJournal()

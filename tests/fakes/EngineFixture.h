@@ -22,6 +22,7 @@ public:
     {
         WithCallProcess, ///< the channel is up
         NoCallProcess,   ///< the first attempt to connect fails
+        RealCallProcess, ///< nobody yet: the engine has started a process and connects once that listens
     };
 
     explicit EngineFixture(Start start = WithCallProcess);
@@ -42,10 +43,11 @@ public:
     QString callText() const;
 
     /// The lines written to the call process since the last call, as FakeCallProcess shows them.
-    QStringList takeLines() { return process.takeLines(manager->m_pVoipSocket); }
+    QStringList takeLines();
 
-    /// What has gone out since the last call, in its order: the lines to the call process, and the host events of a
-    /// call's course ("4639 ...", "4345 ...", "4478 ...") with their fields, the length of the call left out.
+    /// What has gone out since the last call, in its order: the lines to the call process, unless that is a real one,
+    /// and the host events of a call's course ("4639 ...", "4345 ...", "4478 ...") with their fields, the length of the
+    /// call left out.
     QStringList takeJournal();
 
     /// The call's state as the call data and the timers tell it: "idle", "outgoing anna", "incoming bert", "connected
@@ -76,5 +78,6 @@ public:
 private:
     void noteEvent(const BaseEvent &event);
 
+    const Start m_start;
     QStringList m_journal;
 };

@@ -31,6 +31,8 @@ public:
     void send(const QByteArray &bytes);
     /// One notification as a line.
     static QByteArray line(int code, const QString &content = QString());
+    /// A line from the plug-in, with its line feed, as takeLines() shows it.
+    static QString shown(const QByteArray &line);
 
     /// Waits until `client`, the plug-in's end, has everything written through, and returns the lines of all
     /// connections since the last call. A command is given as its name and its parameters in compact JSON ("CallUser
@@ -44,7 +46,6 @@ public:
 private:
     void acceptClient();
     void readUntil(const QByteArray &end);
-    static QString shown(const QByteArray &line);
 
     QLocalServer m_server;
     QPointer<QLocalSocket> m_pClient;

@@ -7,8 +7,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QLabel>
 #include <QProcess>
 #include <QTimer>
@@ -16,10 +14,10 @@
 
 #include <csignal>
 
-FlowClient::FlowClient(const QByteArray &speed) : m_strTrace(QDir::current().filePath(QStringLiteral("wire.trace")))
+FlowClient::FlowClient(const QByteArray &speed) : m_trace(QDir::current().filePath(QStringLiteral("wire.trace")))
 {
     // The plug-in starts the call process with this environment, and rings with a file under the working directory.
-    qputenv("VOIPSDK_TRACE", QFile::encodeName(m_strTrace));
+    qputenv("VOIPSDK_TRACE", QFile::encodeName(m_trace.file()));
     qputenv("VOIPSDK_SPEED", speed);
     QFile::link(QCoreApplication::applicationDirPath() + QStringLiteral("/Resources"), QStringLiteral("Resources"));
 
@@ -64,27 +62,9 @@ bool FlowClient::goOnline()
     return QTest::qWaitFor([&] { return countOnWire(QStringLiteral("RegeditUser")) > before; }, 15000);
 }
 
-QList<QByteArray> FlowClient::traceLines(char direction) const
-{
-    QFile file(m_strTrace);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QList<QByteArray> texts;
-    const QList<QByteArray> lines = file.readAll().split('\n');
-    for (const QByteArray &line : lines) {
-        const int blank = line.indexOf(' ');
-        if (blank > 0 && line.mid(blank + 1, 1) == QByteArray(1, direction))
-            texts.append(line.mid(blank + 3));
-    }
-    return texts;
-}
-
 QStringList FlowClient::commandsOnWire() const
 {
-    QStringList names;
-    for (const QByteArray &line : traceLines('<'))
-        names.append(QJsonDocument::fromJson(line).object().value(QStringLiteral("messagetype")).toString());
-    return names;
+    return m_trace.commandNames();
 }
 
 int FlowClient::countOnWire(const QString &name) const
@@ -94,21 +74,12 @@ int FlowClient::countOnWire(const QString &name) const
 
 QList<int> FlowClient::codesOnWire() const
 {
-    QList<int> codes;
-    for (const QByteArray &line : traceLines('>'))
-        codes.append(QJsonDocument::fromJson(line).object().value(QStringLiteral("resultCode")).toInt(-1));
-    return codes;
+    return m_trace.codes();
 }
 
 qint64 FlowClient::callProcessId() const
 {
-    static const QByteArray s_started = "started, process ";
-    qint64 id = 0;
-    for (const QByteArray &line : traceLines('=')) {
-        if (line.startsWith(s_started))
-            id = line.mid(s_started.size()).toLongLong();
-    }
-    return id;
+    return m_trace.processId();
 }
 
 bool FlowClient::callProcessLives() const

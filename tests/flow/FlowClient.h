@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fakes/FakeHost.h"
+#include "flow/CallTrace.h"
 #include "model/CommonData.h"
 #include "model/LoginData.h"
 
@@ -65,9 +66,8 @@ public:
 
 private:
     QByteArray deliver(EMsgId id, const QByteArray &payload);
-    QList<QByteArray> traceLines(char direction) const;
 
-    QString m_strTrace;
+    CallTrace m_trace;
     LoginData m_login;
     CommonData m_data;
     QPluginLoader m_loader;

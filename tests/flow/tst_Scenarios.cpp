@@ -1,0 +1,330 @@
+// Every ready scenario of the stand-in call process, played against the real engine over the real socket: what the user
+// and the host do meanwhile, what goes over the wire, and what the host is told.
+
+#include "flow/ScenarioRun.h"
+#include "ui/VoipWidget.h"
+
+#include <QtTest>
+
+namespace {
+
+/// Something that is done or waited for; false when it cannot be done or does not come.
+struct Step
+{
+    QString name;
+    std::function<bool(ScenarioRun &)> run;
+};
+
+/// One scenario and what comes of it.
+struct Row
+{
+    QString scenario;
+    QString story; ///< what happens, beyond what the scenario's name says
+    QList<Step> steps;
+    QStringList wire;   ///< the commands, as CallTrace shows them, between the registration and the line "quit"
+    QStringList events; ///< the host events of the call's course, as EngineFixture shows them
+    int exitCode = 0;
+};
+
+Step until(const QString &name, const std::function<bool(ScenarioRun &)> &condition)
+{
+    return {"until " + name,
+            [condition](ScenarioRun &r) { return ScenarioRun::waitFor([&] { return condition(r); }); }};
+}
+
+// What the host does.
+
+Step call(const QString &uid)
+{
+    return {"call", [uid](ScenarioRun &r) {
+                r.command(MSG_CALL_SINGLE_USER, false, uid);
+                return r.engine.manager->isExistCall() && r.engine.manager->m_pVoipWidget->isVisible();
+            }};
+}
+
+Step conference(const QStringList &uids)
+{
+    return {"conference", [uids](ScenarioRun &r) {
+                r.command(MSG_CALL_CONFERENCE, uids, QString("talk"), true);
+                return r.engine.manager->isExistCall() && r.engine.manager->m_pVoipWidget->isVisible();
+            }};
+}
+
+Step answer(bool accept)
+{
+    return {accept ? "accept" : "reject", [accept](ScenarioRun &r) {
+                const bool hidden = !r.engine.manager->m_pVoipWidget->isVisible();
+                r.command(MSG_RESPONSE_VOIP_REQUEST, accept);
+                return hidden && r.engine.manager->m_pVoipWidget->isVisible() == accept;
+            }};
+}
+
+Step offline()
+{
+    return {"offline", [](ScenarioRun &r) {
+                r.command(MSG_CLIENT_CONNECT_STATUS, false);
+                return !r.engine.manager->isExistCall();
+            }};
+}
+
+// What the user does with the window.
+
+Step press(const char *button)
+{
+    return {QString("press ") + button, [button](ScenarioRun &r) { return r.press(button); }};
+}
+
+Step closeWindow()
+{
+    return {"close the window", [](ScenarioRun &r) { return r.engine.manager->m_pVoipWidget->close(); }};
+}
+
+// What the far end and time do.
+
+Step untilRinging(const QString &uid)
+{
+    return until("ringing", [uid](ScenarioRun &r) {
+        return r.engine.manager->m_callData.peerId == uid && r.engine.manager->m_recevieTimer.isActive();
+    });
+}
+
+Step untilConnected()
+{
+    return until("connected", [](ScenarioRun &r) {
+        return r.engine.manager->m_callData.bIsConnected && !r.engine.manager->m_inviteTimer.isActive();
+    });
+}
+
+/// The call is over on this side: nothing of it is left.
+Step untilIdle()
+{
+    return until("idle", [](ScenarioRun &r) {
+        return r.engine.state() == "idle" && !r.engine.manager->m_pVoipWidget->isVisible();
+    });
+}
+
+Step untilMembers(const QStringList &members)
+{
+    return until("members " + members.join(','), [members](ScenarioRun &r) { return r.engine.members() == members; });
+}
+
+/// The engine has ended a call that was there.
+Step untilEnded()
+{
+    return until("ended", [](ScenarioRun &r) { return !r.engine.host.received(MSG_CLOSE_AV_MSGBOX).isEmpty(); });
+}
+
+Step membersWere(const QStringList &members)
+{
+    return {"members were " + members.join(','), [members](ScenarioRun &r) { return r.membersAtEnd == members; }};
+}
+
+Step untilLogged(const QString &line, int count)
+{
+    return until(line, [line, count](ScenarioRun &r) { return r.messages.debugLines.count(line) == count; });
+}
+
+/// The channel is lost; whatever call there is stays.
+Step untilLost()
+{
+    return until("lost", [](ScenarioRun &r) {
+        return !r.engine.manager->m_bSocketConnected && r.engine.manager->m_reconnectTimer.isActive();
+    });
+}
+
+Step untilBack()
+{
+    return {"until back", [](ScenarioRun &r) { return r.connectChannel(); }};
+}
+
+Step stillInCall()
+{
+    return {"still in the call", [](ScenarioRun &r) { return r.engine.manager->isExistCall(); }};
+}
+
+Step giveUp(void (CVoipManage::*timeout)())
+{
+    return {"time is up", [timeout](ScenarioRun &r) {
+                (r.engine.manager.get()->*timeout)();
+                return !r.engine.manager->isExistCall();
+            }};
+}
+
+const QStringList kCalled{R"(CallUser "30010001" false)"};
+const QStringList kHungUp{"HangUpCall"};
+const QStringList kAccepted{"AcceptCall"};
+const QStringList kRejected{"RejectCall"};
+const QStringList kDevicesOn{"SetMicEnable true", "SetSpeakerEnble true"};
+
+QStringList ended(const QString &uid, int result, bool caller, bool connected)
+{
+    return {"4345 " + uid + "@kelvar.im", QStringLiteral("4478 false %1 %2 %3 %4")
+                                              .arg(uid)
+                                              .arg(result)
+                                              .arg(caller ? "true" : "false", connected ? "true" : "false")};
+}
+
+QStringList rang(const QString &uid)
+{
+    return {"4639 " + uid + " false false"};
+}
+
+// clang-format off
+QList<Row> callsOut()
+{
+    const Step out = call("30010001");
+    return {
+        {"call-answered", "hung up by the button, the devices are switched on behind the hang-up",
+         {out, untilConnected(), press("HangUp"), untilIdle()},
+         kCalled + kHungUp + kDevicesOn, ended("30010001", 24, true, true)},
+        {"call-answered", "closed by the user, the devices are switched on before the hang-up",
+         {out, untilConnected(), closeWindow(), untilIdle()},
+         kCalled + kDevicesOn + kHungUp, ended("30010001", 24, true, true)},
+        {"call-busy", "", {out, untilIdle()}, kCalled + kDevicesOn, ended("30010001", 25, true, false)},
+        {"call-failed", "", {out, untilIdle()}, kCalled + kDevicesOn, ended("30010001", 22, true, false)},
+        {"call-rejected", "", {out, untilIdle()}, kCalled + kDevicesOn, ended("30010001", 26, true, false)},
+        {"call-hung-up", "", {out, untilIdle()}, kCalled + kDevicesOn, ended("30010001", 24, true, true)},
+        {"call-never-answered", "cancelled by the user, the devices are switched on twice",
+         {out, press("btnCancelCall"), untilIdle()},
+         kCalled + kHungUp + kDevicesOn + kDevicesOn, ended("30010001", 21, true, false)},
+        {"call-never-answered", "given up after a minute",
+         {out, giveUp(&CVoipManage::slot_inviteCallTimeout), untilIdle()},
+         kCalled + kHungUp + kDevicesOn, ended("30010001", 21, true, false)},
+        {"call-never-answered", "ended by the host that goes offline, and the user is unregistered last",
+         {out, offline(), untilIdle()},
+         kCalled + kHungUp + kDevicesOn + QStringList(R"(UnReg "me")"), ended("30010001", 21, true, false)},
+    };
+}
+
+QList<Row> callsIn()
+{
+    const QString caller = "30010001";
+    const QString second = "30010002";
+    return {
+        {"incoming-accepted", "", {untilRinging(caller), answer(true), untilIdle()},
+         kAccepted + kDevicesOn, rang(caller) + ended(caller, 24, false, true)},
+        {"incoming-cancelled", "", {untilEnded(), untilIdle()},
+         kDevicesOn, rang(caller) + ended(caller, 21, false, false)},
+        {"incoming-rejected", "by the user, a window never shown switches the devices on too",
+         {untilRinging(caller), answer(false), untilIdle()},
+         kRejected + kDevicesOn, rang(caller) + ended(caller, 26, false, false)},
+        {"incoming-rejected", "after a minute without an answer",
+         {untilRinging(caller), giveUp(&CVoipManage::slot_recevieCallTimeout), untilIdle()},
+         kRejected + kDevicesOn, rang(caller) + ended(caller, 26, false, false)},
+        {"second-incoming-call", "the hang-up ends the second one as connected",
+         {untilRinging(caller), answer(true), untilConnected(), untilRinging(second), press("HangUp"), untilIdle()},
+         kAccepted + kHungUp + kDevicesOn, rang(caller) + rang(second) + ended(second, 24, false, true)},
+    };
+}
+
+QList<Row> conferences()
+{
+    return {
+        {"conference-created", "closed by the user, the devices are switched on before the leaving",
+         {conference({"30010001", "30010002"}), untilConnected(), untilMembers({"30010001 4", "30010002 5"}),
+          closeWindow(), untilIdle()},
+         QStringList(R"(RequestConference "me" ["30010001","30010002"] true "talk")") + kDevicesOn + QStringList("HangupConf"), {}},
+        {"conference-invited", "",
+         {untilRinging("30010008"), answer(true), untilEnded(), membersWere({"30010008 1*", "30010001 1"}),
+          untilIdle()},
+         QStringList("AcceptConf") + kDevicesOn, {"4639 30010008 true false", "4345 30010008@kelvar.im"}},
+        {"conference-refused", "", {conference({"30010001"}), untilIdle()},
+         QStringList(R"(RequestConference "me" ["30010001"] true "talk")") + kDevicesOn, {}},
+    };
+}
+
+QList<Row> lostCallProcess()
+{
+    const Step out = call("30010001");
+    const QStringList again{R"(RegeditUser "me" "" "ticket" false)"};
+    return {
+        {"away-for-a-while", "", {untilLost(), untilBack()}, again, {}},
+        {"reconnect", "", {out, untilConnected(), untilLost(), stillInCall(), untilBack(), stillInCall(), untilIdle()},
+         kCalled + again + kDevicesOn, ended("30010001", 24, true, true)},
+        {"killed-while-calling", "", {out, untilLost(), stillInCall(), press("btnCancelCall"), untilIdle()},
+         kCalled, ended("30010001", 21, true, false), 9},
+        {"killed-while-connected", "", {out, untilConnected(), untilLost(), stillInCall(), closeWindow(), untilIdle()},
+         kCalled, ended("30010001", 24, true, true), 9},
+        {"killed-while-ringing", "", {untilRinging("30010001"), untilLost(), stillInCall(), answer(false), untilIdle()},
+         {}, rang("30010001") + ended("30010001", 26, false, false), 9},
+    };
+}
+
+QList<Row> wireInput()
+{
+    const Step out = call("30010001");
+    const QStringList hungUp = kCalled + kHungUp + kDevicesOn;
+    return {
+        {"garbage", "", {out, untilConnected(), press("HangUp"), untilIdle()},
+         hungUp, ended("30010001", 24, true, true)},
+        {"split-line", "", {out, untilConnected(), press("HangUp"), untilIdle()},
+         hungUp, ended("30010001", 24, true, true)},
+        {"two-lines-one-read", "", {out, untilIdle()}, kCalled + kDevicesOn, ended("30010001", 24, true, true)},
+        {"same-line-twice", "", {untilLogged("voipsdk:apart", 2), untilLogged("voipsdk:joined", 1)}, {}, {}},
+    };
+}
+// clang-format on
+
+QList<Row> allRows()
+{
+    return callsOut() + callsIn() + conferences() + lostCallProcess() + wireInput();
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Row)
+
+class tst_Scenarios : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyScenarioHasARow();
+    void scenarioIsPlayed_data();
+    void scenarioIsPlayed();
+};
+
+void tst_Scenarios::everyScenarioHasARow()
+{
+    QStringList played;
+    for (const Row &row : allRows())
+        played.append(row.scenario);
+    played.sort();
+    played.removeDuplicates();
+    QCOMPARE(played, ScenarioRun::names());
+}
+
+void tst_Scenarios::scenarioIsPlayed_data()
+{
+    QTest::addColumn<Row>("row");
+    for (const Row &row : allRows())
+        QTest::newRow(qPrintable(row.scenario + (row.story.isEmpty() ? "" : ": ") + row.story)) << row;
+}
+
+void tst_Scenarios::scenarioIsPlayed()
+{
+    QFETCH(Row, row);
+    ScenarioRun run(row.scenario);
+    QVERIFY(run.connectChannel());
+    run.command(MSG_CLIENT_CONNECT_STATUS, true);
+    for (const Step &step : qAsConst(row.steps)) {
+        QVERIFY2(step.run(run), qPrintable(step.name + " failed; " + run.engine.state() +
+                                           "; on the wire: " + run.trace.commands().join(", ") +
+                                           "; members at the end: " + run.membersAtEnd.join(", ") + "; " +
+                                           run.complaints().join("; ")));
+    }
+    const int exitCode = run.finish();
+    QCOMPARE(run.complaints(), QList<QByteArray>());
+    QCOMPARE(exitCode, row.exitCode);
+
+    QStringList wire = row.wire;
+    wire.prepend(R"(RegeditUser "me" "" "ticket" false)");
+    if (exitCode == 0)
+        wire.append("quit");
+    QCOMPARE(run.trace.commands(), wire);
+    QCOMPARE(run.engine.takeJournal(), row.events);
+    QCOMPARE(run.engine.boxes.texts, QStringList());
+}
+
+QTEST_MAIN(tst_Scenarios)
+#include "tst_Scenarios.moc"
