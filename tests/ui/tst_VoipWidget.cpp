@@ -3,7 +3,8 @@
 #include "ui/VoipWidget.h"
 
 #include "ContactFixture.h"
-#include "LogFile.h"
+#include "fakes/LogCapture.h"
+#include "fakes/QtMessages.h"
 #include "ui/CallWindowStyle.h"
 #include "ui/ConferenceListView.h"
 #include "ui/ConferenceRoles.h"
@@ -13,6 +14,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMetaMethod>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
@@ -22,13 +24,6 @@
 #include <memory>
 
 namespace {
-
-QStringList debugLines;
-
-void keepDebugLine(QtMsgType, const QMessageLogContext &, const QString &strText)
-{
-    debugLines.append(strText);
-}
 
 QString uid(const char *name)
 {
@@ -64,8 +59,9 @@ private:
     void answerQuestion(
         const char *name, const std::function<void()> &before = [] {});
     void record();
+    QStringList newRecords();
 
-    LogFile m_log;
+    LogCapture m_log;
     std::unique_ptr<ContactFixture> m_pContacts;
     std::unique_ptr<CVoipWidget> m_pWindow;
     QStringList m_sent;
@@ -132,7 +128,7 @@ void tst_VoipWidget::init()
     m_pWindow = std::make_unique<CVoipWidget>();
     m_sent.clear();
     record();
-    m_log.newRecords();
+    newRecords();
 }
 
 void tst_VoipWidget::cleanup()
@@ -168,6 +164,13 @@ void tst_VoipWidget::record()
     connect(w, &CVoipWidget::signal_MuteAll, this, flag("muteall"));
     connect(w, &CVoipWidget::signal_ClearCallData, this, plain("clear"));
     connect(w, &CVoipWidget::signal_ReInviteConfUser, this, user("reinvite "));
+}
+
+// The log records since the last call, each as "source: message".
+QStringList tst_VoipWidget::newRecords()
+{
+    static const QRegularExpression prefix(QStringLiteral("^\\[DEBUG\\]\\[([^:]*):\\d+\\]: "));
+    return m_log.take().replaceInStrings(prefix, QStringLiteral("\\1: "));
 }
 
 void tst_VoipWidget::answerQuestion(const char *name, const std::function<void()> &before)
@@ -686,7 +689,7 @@ void tst_VoipWidget::operationsAreLogged()
         "VoipWidget.cpp: set speaker bMute = 0",
         "VoipWidget.cpp: clear voipwidget ui!",
     };
-    QCOMPARE(m_log.newRecords(), expected);
+    QCOMPARE(newRecords(), expected);
 }
 
 void tst_VoipWidget::clicksAreLogged()
@@ -703,24 +706,22 @@ void tst_VoipWidget::clicksAreLogged()
         "VoipWidget.cpp: click hangup button!",  "VoipWidget.cpp: click close button!",
         "VoipWidget.cpp: cancel button click!",
     };
-    QCOMPARE(m_log.newRecords().mid(0, expected.size()), expected);
+    QCOMPARE(newRecords().mid(0, expected.size()), expected);
 }
 
 void tst_VoipWidget::enablesAndVolumesGoToTheDebugChannel()
 {
-    debugLines.clear();
-    const QtMessageHandler before = qInstallMessageHandler(keepDebugLine);
+    const QtMessages messages;
     part<QPushButton>("btnMic")->click();
     part<QPushButton>("btnSpeaker")->click();
     part<QPushButton>("btnSpeaker")->click();
     part<QPushButton>("btnCamera")->click();
     m_pWindow->SetVoipMicVolume(7);
     m_pWindow->SetVoipSpeakerVolume(-8);
-    qInstallMessageHandler(before);
     // The speaker's line has the microphone's words.
     const QStringList expected{"SetMicEnable = false",     "SetMicEnable = false", "SetMicEnable = true",
                                "SetCamreraEnable = false", "SetMicVolume = 7",     "SetSpeakerVolume = -8"};
-    QCOMPARE(debugLines, expected);
+    QCOMPARE(messages.debugLines, expected);
 }
 
 QTEST_MAIN(tst_VoipWidget)
