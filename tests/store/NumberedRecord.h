@@ -18,7 +18,7 @@ inline ConfInfoData numberedRecord(int iNumber)
     for (int i = 0; i < members; ++i) {
         record.m_listMember.append(QString::number(30020000 + iNumber + i));
     }
-    record.m_bConnect = iNumber % 2 == 0;
+    record.m_bIsConnect = iNumber % 2 == 0;
     return record;
 }
 

@@ -57,7 +57,7 @@ private:
     QStringList fileNames() const { return QDir(m_strFolder).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
     /// Walks through everything that a session does with the file.
     void useStore() const;
-    void killWhenItSays(const QString &strStart, int iLines, int iMicroseconds, QList<int> *pSaved);
+    void killWhenItSays(const QString &strFirst, int iLines, int iMicroseconds, QList<int> *pSaved);
 
     const QString m_strUser = QStringLiteral("user");
     QString m_strBase;
@@ -72,8 +72,6 @@ private:
 };
 
 namespace {
-
-const QString trialWrites = QStringLiteral("the trial write");
 
 /// Makes a list of rows "seed 1" to "seed N" for a test with a column "seed".
 void addSeeds(int iCount)
@@ -101,11 +99,9 @@ void tst_StoreDamage::initTestCase()
     for (int i = 0; i < m_iRecords; ++i) {
         QVERIFY(DBConfInfo::saveConfInfo(numberedRecord(i)));
     }
-    QSqlQuery query(DB::getDB());
     for (int i = 0; i < m_iRecords; ++i) {
-        QVERIFY(query.exec(QStringLiteral("INSERT INTO msgrecord (id) VALUES ('message%1')").arg(i)));
+        QVERIFY(QSqlQuery(DB::getDB()).exec(QStringLiteral("INSERT INTO msgrecord (id) VALUES ('message%1')").arg(i)));
     }
-    query.clear();
     DB::closeDB();
     m_sound = fileBytes();
     m_iPageSize = ask(QStringLiteral("PRAGMA page_size")).toInt();
@@ -150,9 +146,8 @@ QString tst_StoreDamage::ask(const QString &strStatement) const
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
         db.setDatabaseName(m_strFile);
-        QSqlQuery query(db);
         if (db.open()) {
-            query = QSqlQuery(db);
+            QSqlQuery query(db);
             if (query.exec(strStatement) && query.next()) {
                 answer = query.value(0).toString();
             }
@@ -491,7 +486,7 @@ void tst_StoreDamage::killedWriterLeavesWholeRecordsOnly()
             QCOMPARE(record.m_strCreatTime, whole.m_strCreatTime);
             QCOMPARE(record.m_strCallTime, whole.m_strCallTime);
             QCOMPARE(record.m_listMember, whole.m_listMember);
-            QCOMPARE(record.m_bConnect, whole.m_bConnect);
+            QCOMPARE(record.m_bIsConnect, whole.m_bIsConnect);
             found.insert(number);
             next = qMax(next, number + 1);
         }
