@@ -1,7 +1,6 @@
 #include "MemberPicker.h"
 #include "ui_MemberPicker.h"
 
-#include "ContactBook.h"
 #include "HostPictures.h"
 
 #include <QPushButton>
@@ -16,7 +15,7 @@ constexpr int headSize = 32;
 } // namespace
 
 MemberPicker::MemberPicker(const ContactBook &book, Purpose purpose, const QStringList &named, QWidget *parent)
-    : QDialog(parent), ui(std::make_unique<Ui::MemberPicker>()), m_book(book)
+    : QDialog(parent), ui(std::make_unique<Ui::MemberPicker>())
 {
     ui->setupUi(this);
     ui->listPeople->setIconSize(QSize(headSize, headSize));
@@ -30,34 +29,38 @@ MemberPicker::MemberPicker(const ContactBook &book, Purpose purpose, const QStri
                               .arg(names.isEmpty() ? tr("nobody yet") : names.join(QStringLiteral(", "))));
     for (const ContactBook::Entry &entry : book.entries()) {
         if (fresh || !named.contains(entry.uid)) {
-            addPerson(entry.uid, entry.alternative, named.contains(entry.uid));
+            addPerson(entry, named.contains(entry.uid));
         }
     }
-    if (fresh) {
-        const auto isListed = [&](const QString &uid) {
-            return std::any_of(book.entries().begin(), book.entries().end(),
-                               [&](const ContactBook::Entry &entry) { return entry.uid == uid; });
-        };
-        for (const QString &uid : named) {
-            if (!isListed(uid)) {
-                addPerson(uid, QString(), true);
-            }
+    for (const QString &uid : named) {
+        const auto isThis = [&](const ContactBook::Entry &entry) { return entry.uid == uid; };
+        if (fresh && std::none_of(book.entries().begin(), book.entries().end(), isThis)) {
+            addPerson({uid, uid, QString(), false, false}, true);
         }
     }
+    ui->buttonBox->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("btnInvite"));
     connect(ui->listPeople, &QListWidget::itemChanged, this, &MemberPicker::showPicked);
+    // A click on the name counts as one on the box, which turns by itself.
+    connect(ui->listPeople, &QListWidget::itemPressed, this,
+            [this](const QListWidgetItem *item) { m_pressed = item->checkState(); });
+    connect(ui->listPeople, &QListWidget::itemClicked, this, [this](QListWidgetItem *item) {
+        if (item->checkState() == m_pressed) {
+            item->setCheckState(m_pressed == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+        }
+    });
     showPicked();
 }
 
 MemberPicker::~MemberPicker() = default;
 
-void MemberPicker::addPerson(const QString &strUid, const QString &strDetail, bool bChecked)
+void MemberPicker::addPerson(const ContactBook::Entry &entry, bool bChecked)
 {
-    const QString name = m_book.nameOf(strUid);
-    auto *item = new QListWidgetItem(strDetail.isEmpty() ? name : name + QStringLiteral(" · ") + strDetail);
-    item->setIcon(QIcon(HostPictures::head(name, strUid, headSize, true)));
-    item->setData(uidRole, strUid);
+    const QString words =
+        entry.alternative.isEmpty() ? entry.nick : entry.nick + QStringLiteral(" · ") + entry.alternative;
+    auto *item = new QListWidgetItem(words, ui->listPeople);
+    item->setIcon(QIcon(HostPictures::head(entry.nick, entry.uid, headSize, entry.online)));
+    item->setData(uidRole, entry.uid);
     item->setCheckState(bChecked ? Qt::Checked : Qt::Unchecked);
-    ui->listPeople->addItem(item);
 }
 
 void MemberPicker::showPicked()

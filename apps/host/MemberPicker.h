@@ -1,15 +1,13 @@
 #pragma once
 
 #include "ConferenceWish.h"
+#include "ContactBook.h"
 
 #include <QDialog>
 #include <QStringList>
 
 #include <memory>
 #include <optional>
-
-class ContactBook;
-class QListWidgetItem;
 
 namespace Ui {
 class MemberPicker;
@@ -42,9 +40,9 @@ public:
     static QStringList pickMore(const ContactBook &book, const QStringList &present, QWidget *parent);
 
 private:
-    void addPerson(const QString &strUid, const QString &strDetail, bool bChecked);
+    void addPerson(const ContactBook::Entry &entry, bool bChecked);
     void showPicked();
 
     std::unique_ptr<Ui::MemberPicker> ui;
-    const ContactBook &m_book;
+    Qt::CheckState m_pressed = Qt::Unchecked;
 };

@@ -69,6 +69,8 @@ QStringList ScenarioRun::names()
     QStringList names = QDir(folder()).entryList({QStringLiteral("*.scn")}, QDir::Files, QDir::Name);
     for (QString &name : names)
         name.chop(4);
+    // Without the ending they stand in another order.
+    names.sort();
     return names;
 }
 
