@@ -44,5 +44,5 @@ private:
     void showPicked();
 
     std::unique_ptr<Ui::MemberPicker> ui;
-    Qt::CheckState m_pressed = Qt::Unchecked;
+    std::optional<Qt::CheckState> m_pressed; // the mark at the press, when that was beside the box
 };

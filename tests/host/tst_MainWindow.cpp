@@ -9,6 +9,7 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 /// The window beside a session whose plug-in is not loaded: what comes from the plug-in is delivered by hand.
 class tst_MainWindow : public QObject
@@ -28,6 +29,8 @@ private slots:
     void recordsAndStatusLineTellTheCall();
     void onlineSwitchFollowsTheSession();
     void numberCanBeCalledOnlyWhenThereIsOne();
+    void conferenceButtonOpensThePicker();
+    void plugInsWishForAConferenceIsAnsweredWithTheCommand();
 
 private:
     void deliver(EMsgId msgId, const QString &receiver, const QByteArray &payload)
@@ -152,6 +155,36 @@ void tst_MainWindow::numberCanBeCalledOnlyWhenThereIsOne()
     QVERIFY(WindowProbe::press(m_pWindow.get(), "btnCallNumber"));
     QTRY_VERIFY(number->text().isEmpty());
     QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Calling 4711"));
+}
+
+void tst_MainWindow::conferenceButtonOpensThePicker()
+{
+    QVERIFY(WindowProbe::press(m_pWindow.get(), "btnConference"));
+    QString asked;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] {
+        if (WindowProbe::memberPicker() != nullptr) {
+            asked = WindowProbe::text(WindowProbe::memberPicker(), "lblAsked");
+            timer.stop();
+            WindowProbe::press(WindowProbe::memberPicker(), "btnCancel");
+        }
+    });
+    timer.start(10);
+    QTRY_COMPARE(asked, QStringLiteral("Whom to call together?"));
+    QTRY_VERIFY(WindowProbe::memberPicker() == nullptr);
+}
+
+void tst_MainWindow::plugInsWishForAConferenceIsAnsweredWithTheCommand()
+{
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] {
+        if (WindowProbe::press(WindowProbe::memberPicker(), "btnInvite")) {
+            timer.stop();
+        }
+    });
+    timer.start(10);
+    deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(), packPayload(QStringList{QStringLiteral("30010001")}));
+    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Starting a conference with 1 other(s)"));
 }
 
 QTEST_MAIN(tst_MainWindow)
