@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -30,17 +31,7 @@ MemberPicker::MemberPicker(const ContactBook &book, Purpose purpose, const QStri
     ui->lblAsked->setText(!fresh          ? tr("Already in the conference: %1").arg(who)
                           : who.isEmpty() ? tr("Whom to call together?")
                                           : tr("Asked for a conference with: %1").arg(who));
-    for (const ContactBook::Entry &entry : book.entries()) {
-        if (fresh || !named.contains(entry.uid)) {
-            addPerson(entry, named.contains(entry.uid));
-        }
-    }
-    for (const QString &uid : named) {
-        const auto isThis = [&](const ContactBook::Entry &entry) { return entry.uid == uid; };
-        if (fresh && std::none_of(book.entries().begin(), book.entries().end(), isThis)) {
-            addPerson({uid, uid, QString(), false, false}, true);
-        }
-    }
+    addPeople(book, purpose, named);
     ui->buttonBox->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("btnInvite"));
     ui->buttonBox->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("btnCancel"));
     connect(ui->listPeople, &QListWidget::itemChanged, this, &MemberPicker::showPicked);
@@ -56,6 +47,22 @@ MemberPicker::MemberPicker(const ContactBook &book, Purpose purpose, const QStri
 }
 
 MemberPicker::~MemberPicker() = default;
+
+void MemberPicker::addPeople(const ContactBook &book, Purpose purpose, const QStringList &named)
+{
+    const bool fresh = purpose == NewConference;
+    for (const ContactBook::Entry &entry : book.entries()) {
+        if (fresh || !named.contains(entry.uid)) {
+            addPerson(entry, named.contains(entry.uid));
+        }
+    }
+    for (const QString &uid : named) {
+        const auto isThis = [&](const ContactBook::Entry &entry) { return entry.uid == uid; };
+        if (fresh && std::none_of(book.entries().begin(), book.entries().end(), isThis)) {
+            addPerson({uid, uid, QString(), false, false}, true);
+        }
+    }
+}
 
 void MemberPicker::addPerson(const ContactBook::Entry &entry, bool bChecked)
 {

@@ -40,6 +40,7 @@ public:
     static QStringList pickMore(const ContactBook &book, const QStringList &present, QWidget *parent);
 
 private:
+    void addPeople(const ContactBook &book, Purpose purpose, const QStringList &named);
     void addPerson(const ContactBook::Entry &entry, bool bChecked);
     void showPicked();
 
