@@ -27,7 +27,7 @@ QString ExpectedTable::createSql() const
 
 QString ExpectedTable::createSql(const QStringList &ofColumns) const
 {
-    return "CREATE TABLE " + name + " (" + ofColumns.join(", ") + ")";
+    return "CREATE TABLE " + name + "(" + ofColumns.join(", ") + ")";
 }
 
 QString ExpectedTable::indexSql(const ExpectedIndex &index) const
