@@ -31,7 +31,7 @@ private slots:
     void theLastTimeRowIsSeededWithTheEmptyText();
     void messagesHaveNoSecondIndex();
     void messagesGetNoIndexWhenTheirTableIsNotCreated();
-    void dingIndexesAndFilesAreMadeAlsoWhenTheTableIsNotCreated();
+    void dingIndexesFilesAndColumnsComeAlsoWhenTheTableIsNotCreated();
     void deletionMarkOfAnApplicationHasNoDefault();
 
 private:
@@ -261,13 +261,15 @@ void tst_StoreSchemaFresh::messagesGetNoIndexWhenTheirTableIsNotCreated()
     QCOMPARE(store.indexesOf("MSGRECORD"), QStringList());
 }
 
-void tst_StoreSchemaFresh::dingIndexesAndFilesAreMadeAlsoWhenTheTableIsNotCreated()
+void tst_StoreSchemaFresh::dingIndexesFilesAndColumnsComeAlsoWhenTheTableIsNotCreated()
 {
     StoreFixture store;
-    store.run({expectedTable("dingmsginfo").createSql().replace("dingmsginfo", "DINGMSGINFO")});
+    const ExpectedTable &ding = expectedTable("dingmsginfo");
+    store.run({ding.createSql(ding.oldestColumns()).replace("dingmsginfo", "DINGMSGINFO")});
     QVERIFY(store.openTwice());
-    QCOMPARE(store.indexesOf("DINGMSGINFO"), expectedTable("dingmsginfo").indexNames());
+    QCOMPARE(store.indexesOf("DINGMSGINFO"), ding.indexNames());
     QCOMPARE(store.storedSql("dingsmsgfileoinfo"), expectedTable("dingsmsgfileoinfo").createSql());
+    QCOMPARE(store.columnsOf("DINGMSGINFO").size(), ding.columns.size());
 }
 
 void tst_StoreSchemaFresh::deletionMarkOfAnApplicationHasNoDefault()
