@@ -1,62 +1,100 @@
 #pragma once
 
-// One user's store in a temporary folder, with the client's shared context that DB needs. Statements given to the
-// fixture run on a connection of its own, beside the session's. GUI thread; one at a time.
+// What a test of the store stands on: a client context, a folder of its own, Qt's messages taken down, and a way to the
+// file that does not lead through the code under test.
 
+#include "common/CommonFun.h"
+#include "fakes/QtMessages.h"
 #include "model/CommonData.h"
+#include "store/DB.h"
 
-#include <QString>
+#include <QDir>
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
 #include <QStringList>
 #include <QTemporaryDir>
-#include <QVector>
 
+/// A file opened beside the session, with a connection of its own.
+class BesideFile
+{
+public:
+    explicit BesideFile(const QString &fileName)
+    {
+        m_db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("beside"));
+        m_db.setDatabaseName(fileName);
+        m_db.open();
+    }
+    ~BesideFile()
+    {
+        m_db = QSqlDatabase();
+        QSqlDatabase::removeDatabase(QStringLiteral("beside"));
+    }
+    BesideFile(const BesideFile &) = delete;
+    BesideFile &operator=(const BesideFile &) = delete;
+
+    /// Executes one statement; false when it fails.
+    bool run(const QString &statement) { return QSqlQuery(m_db).exec(statement); }
+
+    /// The rows of a query, their values joined by "|", NULL as "NULL".
+    QStringList rows(const QString &statement)
+    {
+        QStringList all;
+        QSqlQuery query(m_db);
+        query.exec(statement);
+        while (query.next()) {
+            QStringList values;
+            for (int column = 0; query.value(column).isValid(); ++column)
+                values.append(query.isNull(column) ? QStringLiteral("NULL") : query.value(column).toString());
+            all.append(values.join(QLatin1Char('|')));
+        }
+        return all;
+    }
+
+    /// Everything that sqlite_master tells of the file.
+    QStringList schema() { return rows(QStringLiteral("SELECT type,name,tbl_name,sql FROM sqlite_master")); }
+
+private:
+    QSqlDatabase m_db;
+};
+
+/// One test's context and folder; the session is closed with it.
 class StoreFixture
 {
 public:
-    /// Puts a fresh client context in place; there is no file yet.
-    StoreFixture();
-    /// Closes the session and takes the context away.
-    ~StoreFixture();
+    StoreFixture() { CommonFun::setCommonData(&context); }
+    ~StoreFixture()
+    {
+        CommonFun::setCommonData(&context);
+        if (!context.getSqlDatabase())
+            context.setSqlDatabase(&DB::m_db);
+        DB::closeDB();
+        CommonFun::setCommonData(nullptr);
+    }
     StoreFixture(const StoreFixture &) = delete;
     StoreFixture &operator=(const StoreFixture &) = delete;
 
-    /// Opens the user's store, or opens it once more; DB's answer.
-    bool open(bool createAll = true);
-    /// Closes the session.
-    void close();
-    /// Opens the store, closes it, and does the same again.
-    bool openTwice();
+    QString base() const { return m_dir.path(); }
+    QString folder(const QString &user = QStringLiteral("anna")) const { return m_dir.filePath(user); }
+    QString file(const QString &user = QStringLiteral("anna")) const { return folder(user) + "/localData.db"; }
 
-    /// Runs statements on the file, which comes into being when it is missing; fails the test where one fails.
-    void run(const QStringList &statements);
-    /// What a statement gives, the columns of a row as texts.
-    QVector<QStringList> rows(const QString &statement);
-    /// The first column of what a statement gives.
-    QStringList column(const QString &statement);
+    /// Opens the store of `user` in this fixture's folder.
+    bool open(const QString &user = QStringLiteral("anna")) const { return DB::initByUserName(user, base(), true); }
 
-    /// The tables in the order in which they were created.
-    QStringList tables();
-    /// One line a column: name, type, not null, default as SQL, place in the primary key.
-    QStringList columnsOf(const QString &table);
-    /// The names of the indexes on a table that a statement made, sorted.
-    QStringList indexesOf(const QString &table);
-    /// The text that the file keeps of that table, index or other object; empty when there is none.
-    QString storedSql(const QString &name);
-    /// The whole schema as the file keeps it, and the cookie that changes with it.
-    QStringList schema();
-    /// The bytes of the file.
-    QByteArray bytes() const;
+    /// Makes the folder of `user` and in it a store with these statements' outcome.
+    void make(const QStringList &statements, const QString &user = QStringLiteral("anna")) const
+    {
+        QDir().mkpath(folder(user));
+        QFile(file(user)).open(QIODevice::WriteOnly);
+        BesideFile beside(file(user));
+        for (const QString &statement : statements)
+            beside.run(statement);
+    }
 
-    /// Runs a function on the open session; the statements that it executed there, the SELECTs left out, exactly as
-    /// they reached the database.
-    QStringList writesOf(void (*work)());
-
-    /// The store's file.
-    QString file() const;
-
-    /// The client's context.
     CommonData context;
+    QtMessages messages;
 
 private:
-    QTemporaryDir m_folder;
+    QTemporaryDir m_dir;
 };
