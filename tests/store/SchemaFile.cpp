@@ -24,7 +24,7 @@ bool SchemaFile::openTwice() const
     DB::closeDB();
     const bool second = open();
     DB::closeDB();
-    return first && second;
+    return first && second && messages.warnings.isEmpty();
 }
 
 void SchemaFile::run(const QStringList &statements) const

@@ -9,7 +9,7 @@ class SchemaFile : public StoreFixture
 public:
     /// Opens a file that is there for signing in only: DB looks after the login table and nothing else.
     bool openForSignIn() const;
-    /// Opens the store, closes it, and does the same again.
+    /// Opens the store, closes it, and does the same again; whether all went well, without a warning of Qt's.
     bool openTwice() const;
 
     /// Runs statements on the file, which comes into being when it is missing; one that fails ends the program.
