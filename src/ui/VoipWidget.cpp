@@ -141,7 +141,7 @@ void CVoipWidget::showPeer()
 
 QString CVoipWidget::showPeerCard(const VcardInfo &vcard)
 {
-    const QString strShownName = cardName(vcard);
+    QString strShownName = cardName(vcard);
     const QString strPhotoPath = HeadPicture::readablePath(vcard.m_strPhotoPath);
     LOG_DEBUG << "voip userName=" << strShownName << "\n";
     LOG_DEBUG << "voip photourl = " << strPhotoPath << "\n";
