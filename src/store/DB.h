@@ -66,8 +66,8 @@ public:
                              const QString &to);
 
     // The tables. Each creator makes its table when it is missing and otherwise adds the columns and indexes that the
-    // file lacks; it never drops or changes a column. Without an open connection nothing happens. The descriptions that
-    // the statements come from stand in the Schema*.cpp files, beside the creators.
+    // file lacks; it never drops or changes a column. Without an open connection no table changes. The descriptions
+    // that the statements come from stand in the Schema*.cpp files, beside the creators.
 
     /// Runs all creators below but createDingVersion(), in one fixed order.
     static void createTable();

@@ -57,7 +57,11 @@ bool exists(const StoreTable &table);
 /// CREATE TABLE with all columns, without the indexes; false when it fails.
 bool create(const StoreTable &table);
 
-/// ALTER TABLE for each later column that is missing, in the order of their adding.
+/// ALTER TABLE for the column with that place in the order of adding, if the table lacks it; true when it did, whatever
+/// became of the statement. False also when no column has that place.
+bool addIfMissing(const StoreTable &table, int added);
+
+/// The same for each later column, in the order of their adding.
 void addLaterColumns(const StoreTable &table);
 
 /// CREATE INDEX, also when there is one already: the statement then fails.

@@ -1,0 +1,82 @@
+// The check of a store for damage, on a connection and a file that the session has not opened.
+
+#include "store/DB.h"
+#include "store/StoreFiles.h"
+
+#include <QFileInfo>
+#include <QSqlError>
+#include <QSqlQuery>
+
+namespace {
+
+const QString checkConnection = QStringLiteral("my_sql_db");
+
+// Whole error texts of an older SQLite and its driver. They stay beside the codes that any SQLite gives.
+const QString duplicateText = QStringLiteral("column id is not unique 不能获取行");
+const QString malformedText = QStringLiteral("database disk image is malformed 不能获取行");
+
+// SQLite's own codes, the low byte of an extended one.
+constexpr int corruptCode = 11;
+constexpr int constraintCode = 19;
+
+int sqliteCode(const QSqlError &error)
+{
+    return error.nativeErrorCode().toInt() & 0xff;
+}
+
+bool quickCheck(QSqlQuery &query)
+{
+    return query.exec(QStringLiteral("PRAGMA quick_check")) && query.next() &&
+           query.value(0).toString() == QLatin1String("ok");
+}
+
+void deleteTrialRow(QSqlQuery &query)
+{
+    query.exec(QStringLiteral("DELETE FROM msgrecord WHERE id = 'checkid'"));
+}
+
+bool trialWrite(QSqlQuery &query)
+{
+    query.prepare(QStringLiteral("INSERT INTO ") + QStringLiteral("msgrecord") + QStringLiteral(" (id)VALUES (?)"));
+    query.addBindValue(QStringLiteral("checkid"));
+    query.exec();
+    const QSqlError error = query.lastError();
+    const QString text = error.text();
+    if (error.type() == QSqlError::NoError || text == duplicateText) {
+        deleteTrialRow(query);
+        return true;
+    }
+    if (text == malformedText || sqliteCode(error) == corruptCode)
+        return false;
+    const bool bSound = quickCheck(query);
+    // A row that an earlier check left behind, in the words of this SQLite.
+    if (sqliteCode(error) == constraintCode)
+        deleteTrialRow(query);
+    return bSound;
+}
+
+} // namespace
+
+bool DB::checkDB(QString dir, bool quickOnly)
+{
+    const QString fileName = StoreFiles::current(dir);
+    if (!QFileInfo::exists(fileName))
+        return true;
+    // A check that could not open its file has left its connection.
+    if (QSqlDatabase::contains(checkConnection))
+        QSqlDatabase::removeDatabase(checkConnection);
+    bool bSound = true;
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), checkConnection);
+        db.setDatabaseName(fileName);
+        // Deliberate: a file that cannot be opened is not reported as damaged.
+        if (!db.open())
+            return true;
+        QSqlQuery query(db);
+        bSound = quickOnly ? quickCheck(query) : trialWrite(query);
+        query.clear();
+        db.close();
+    }
+    QSqlDatabase::removeDatabase(checkConnection);
+    return bSound;
+}

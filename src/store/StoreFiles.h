@@ -1,0 +1,22 @@
+#pragma once
+
+// The names of the store's files in a user's folder.
+
+#include <QFileInfo>
+#include <QString>
+
+namespace StoreFiles {
+
+/// The absolute path of the store in `folder`.
+inline QString current(const QString &folder)
+{
+    return QFileInfo(folder + QStringLiteral("/localData.db")).absoluteFilePath();
+}
+
+/// The absolute path that the generation before has. Such a file is never opened here.
+inline QString older(const QString &folder)
+{
+    return QFileInfo(folder + QStringLiteral("/data.db")).absoluteFilePath();
+}
+
+} // namespace StoreFiles
