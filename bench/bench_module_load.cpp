@@ -39,9 +39,9 @@ int main(int argc, char **argv)
         const char *module;
     };
     static constexpr Row rows[] = {
-        {"bareApplication", "none", VOIP_MODULE},     {"loadEmptyModule", "load", EMPTY_MODULE},
-        {"loadModule", "load", VOIP_MODULE},          {"loadAndFirstCommand", "command", VOIP_MODULE},
-        {"loadAndOutgoingCall", "call", VOIP_MODULE},
+        {"bareApplication", "none", VOIP_MODULE},        {"bareWindow", "window", VOIP_MODULE},
+        {"loadEmptyModule", "load", EMPTY_MODULE},       {"loadModule", "load", VOIP_MODULE},
+        {"loadAndFirstCommand", "command", VOIP_MODULE}, {"loadAndOutgoingCall", "call", VOIP_MODULE},
     };
     for (const Row &row : rows) {
         benchmark::RegisterBenchmark(row.name, [&row](benchmark::State &state) { child(state, row.word, row.module); })

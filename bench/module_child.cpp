@@ -1,6 +1,7 @@
-// usage: bench_module_child none|load|command|call MODULE
+// usage: bench_module_child none|window|load|command|call MODULE
 // Does as much as the word says and prints the microseconds that it took and the kilobytes of memory that are resident
-// then: nothing but a bare application; the module loaded; the first command answered; an outgoing call on the screen.
+// then: nothing but a bare application; a bare application with a Chinese text on the screen; the module loaded; the
+// first command answered; an outgoing call on the screen.
 
 #include "model/CommonData.h"
 #include "plugin/BaseEvent.h"
@@ -10,10 +11,12 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QLabel>
 #include <QLocalServer>
 #include <QPluginLoader>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -51,8 +54,13 @@ int main(int argc, char **argv)
 
     QElapsedTimer clock;
     clock.start();
+    std::unique_ptr<QLabel> label;
+    if (word == "window") {
+        label = std::make_unique<QLabel>(QStringLiteral("正在呼叫..."));
+        label->show();
+    }
     QPluginLoader loader(QString::fromLocal8Bit(argv[2]));
-    if (word != "none") {
+    if (word != "none" && word != "window") {
         QObject *root = loader.instance();
         if (!root)
             return 1;

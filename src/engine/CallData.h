@@ -1,14 +1,15 @@
 #pragma once
 
+// The one current call of the engine, as far as this side knows it. A plain value; GUI thread only, owned by
+// CVoipManage.
+//
+// There is no state variable: a call exists when `peerId` or `memberList` is not empty, and its state follows from the
+// flags.
+
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
 
-/// The one current call of the engine, as far as this side knows it. A plain value; GUI thread only, owned by
-/// CVoipManage.
-///
-/// There is no state variable: a call exists when `peerId` or `memberList` is not empty, and its state follows from the
-/// flags.
 struct CallData
 {
     /// Why a call ended. The numbers go to the host with the call record and are part of its contract.

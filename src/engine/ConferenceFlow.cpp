@@ -107,7 +107,7 @@ void CVoipManage::addConferenceMember(QList<QString> userList)
             m_pVoipWidget->addConferenceMember(id);
     }
     if (m_callData.bIsConf) {
-        // The own id stands twice, deliberately: the call process reads both.
+        // Deliberate: the own id stands twice.
         sendIfConnected(SdkCommand::line(SdkCommand::Add2Conference, JsonText::arrayOrNull(userList),
                                          SdkCommand::json(m_strUserId), SdkCommand::json(m_strUserId),
                                          m_callData.bIsVideo, "", JsonText::arrayOrNull(m_callData.connectedList)));

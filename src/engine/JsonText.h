@@ -1,10 +1,12 @@
 #pragma once
 
+// The one boundary to the JSON library: text in, values out, and nothing thrown. No state; any thread. References to
+// members live as long as the value they belong to.
+
 #include <QString>
 
 #include <json/value.h>
 
-/// The one boundary to the JSON library: text in, values out, and nothing thrown. Any thread.
 namespace JsonText {
 
 /// Parses `text` into `root`. False for text that is no JSON or nests too deep; `root` is then null, never half read.
@@ -25,7 +27,7 @@ QStringList texts(const Json::Value &value);
 /// A number cut to a 64-bit integer, towards zero and at most to the limits; 0 when `value` is not a number.
 qint64 integer(const Json::Value &value);
 
-/// An array of texts, or null for an empty list: the peer tells "nobody" by null.
+/// An array of texts, or null for an empty list, as the commands have it.
 Json::Value arrayOrNull(const QStringList &list);
 
 } // namespace JsonText

@@ -1,5 +1,13 @@
 #pragma once
 
+// The call engine: the one object that knows whether a call exists. It owns the link to the call process, the current
+// call, the ring, the call window and three timers. The host's commands reach it through the mailbox, the user's clicks
+// through the signals of the call window, the call process's reports through the socket.
+//
+// GUI thread only, no lock, nothing thrown. It blocks for at most one second while the socket connects and one second
+// while the last line is written at the exit. The singleton is created at the host's first command and lives to the
+// process's end.
+
 #include "engine/CallData.h"
 #include "model/VcardInfo.h"
 
@@ -12,23 +20,17 @@ class CVoipWidget;
 class QProcess;
 class QSound;
 
-/// The call engine: the one object that knows whether a call exists. It owns the link to the call process, the current
-/// call, the ring, the call window and three timers. The host's commands reach it through the mailbox, the user's
-/// clicks through the signals of the call window, the call process's reports through the socket.
-///
-/// GUI thread only, no lock, nothing thrown. It blocks for at most one second while the socket connects and one second
-/// while the last line is written at the exit. The singleton is created at the host's first command and lives to the
-/// process's end.
 class CVoipManage : public QObject
 {
     Q_OBJECT
 
 public:
-    /// How long an outgoing call may ring, and how long an incoming one may stay unconnected, in milliseconds.
+    /// How long an outgoing call may ring, in milliseconds.
     static constexpr int kInviteLimitMs = 60000;
+    /// How long an incoming call may stay unconnected, accepted or not, in milliseconds.
     static constexpr int kRecevieLimitMs = 60000;
 
-    /// What a member of a conference can be made to do. The numbers are those of the log.
+    /// What a member of a conference can be made to do. The numbers stand in the log.
     enum ConfControlSignal
     {
         Kick = 0,
@@ -86,7 +88,7 @@ public:
     // Notifications of the call process.
     /// Acts on one notification; an unknown code is only logged.
     void callbackMessage(int iCode, QString content);
-    /// Takes a tracking record of a call library; does nothing.
+    /// Takes a tracking record; does nothing.
     void voipLogPrint(QString url, QString value);
 
     // Single call.
@@ -108,7 +110,7 @@ public:
     void callFinished(CallData::FinishResult result);
     /// The host's report on its own login: registers the user, or hangs up and unregisters.
     void clientConnectStatus(bool bConnected);
-    /// Always false, during a video call too: the host relies on that answer.
+    /// Always false, during a video call too: deliberate.
     bool isVideoCall();
 
     // Conference.
@@ -123,30 +125,50 @@ public:
     void updateConferenceListStatus();
     /// Hands a contact's card on to the window.
     void updateUserInfo(QString strUserId, VcardInfo vcard);
-    /// The host's command to show the conference centre.
+    /// The host's command to show the conference centre; logged, as there is no centre to show.
     void showVoiceConf();
 
 public slots:
     // The order is that of the meta-object and stays; parameter names are part of it.
+    /// Switches the microphone; goes out without a call too.
     void slot_SetMicEnable(bool bEnable);
+    /// Switches the speaker; goes out without a call too.
     void slot_SetSpeakerEnable(bool bEnable);
+    /// Switches the camera; goes out without a call too.
     void slot_SetCameraEnable(bool bEnable);
+    /// Sets the microphone's volume to a tenth of the slider's value, cut towards zero.
     void slot_SetMicVolume(qlonglong iVolume);
+    /// Sets the speaker's volume to a tenth of the slider's value, cut towards zero.
     void slot_SetSpeakerVolume(qlonglong iVolume);
+    /// The user ends the call.
     void slot_HangupCurrentCall();
+    /// Lets the host's picker choose further members and adds those that are new.
     void slot_AddConfMember();
+    /// The channel is up: the back-off starts anew, a stored user is registered again.
     void slot_VoipSDKConnected();
+    /// The channel is lost or could not be made: arms the back-off timer. A call stays as it is.
     void slot_VoipSDKDisConnected();
+    /// Takes one read off the channel and acts on its whole lines.
     void slot_VoipSDKDataRecevie();
+    /// Writes a socket error to the logs; changes nothing.
     void slot_DisplayError(QLocalSocket::LocalSocketError socketError);
+    /// The back-off is over: tries to connect again.
     void slot_ReConnectVoipSDK();
+    /// An outgoing call has rung too long: hangs it up.
     void slot_inviteCallTimeout();
+    /// An incoming call has stayed unconnected too long: hangs it up.
     void slot_recevieCallTimeout();
+    /// Takes a member off the list and, when connected, out of the conference. An unknown id changes nothing.
     void slot_RemoveConferenceMember(QString strUserID);
+    /// Mutes or unmutes one member; an empty id sends nothing.
     void slot_MuteConferenceMember(QString strUserID, bool bMute);
+    /// The conference centre was closed: forgets its window, which is deleted later.
     void slot_VoiceConfWidgetClose();
+    /// Mutes or unmutes everybody.
     void slot_MuteAll(bool bMute);
+    /// Calls a member again who was not reached; the creator's right alone.
     void slot_ReInviteConfUser(QString strUserID);
+    /// The conference centre drops a conference's record. Records are not kept, so there is nothing to drop.
     void slot_DeleteConfInfoData(QString strConfID);
 
 protected:
@@ -159,7 +181,7 @@ protected:
     CallData m_callData;
     QLocalSocket *m_pVoipSocket = nullptr; ///< the channel; child of the manager
     bool m_bSocketConnected = false;
-    bool m_bSdkFlag = false;      ///< last word of notification 17; nothing reads it
+    bool m_bSdkFlag = false;      ///< notification 17 said "true"; nothing reads it
     qint64 m_nReconnectCount = 0; ///< back-off counter
     QTimer m_reconnectTimer;
     QWidget *m_pVoiceConfWidget = nullptr; ///< the conference centre, while open

@@ -207,12 +207,11 @@ constexpr StoreTable dingsmsgfileoinfo{"dingsmsgfileoinfo", dingsmsgfileoinfoCol
 // The files' table has no existence test of its own, deliberately: it comes with `dingmsginfo` or never.
 void DB::createDingMsgTable()
 {
-    if (StoreSchema::exists(dingmsginfo)) {
-        StoreSchema::addLaterColumns(dingmsginfo);
-        return;
+    if (!StoreSchema::exists(dingmsginfo)) {
+        StoreSchema::create(dingmsginfo);
+        StoreSchema::create(dingsmsgfileoinfo);
+        for (const StoreIndex &index : dingmsginfo.indexes)
+            StoreSchema::createIndex(dingmsginfo, index);
     }
-    StoreSchema::create(dingmsginfo);
-    StoreSchema::create(dingsmsgfileoinfo);
-    for (const StoreIndex &index : dingmsginfo.indexes)
-        StoreSchema::createIndex(dingmsginfo, index);
+    StoreSchema::addLaterColumns(dingmsginfo);
 }

@@ -14,7 +14,7 @@ struct CallWindowStyleRow
 };
 
 /// All parts that have a style sheet of their own.
-/// The one of lblStatus names another label, so it does not take hold: deliberate, the status keeps the plain look.
+/// The one of lblStatus names another label, so it does not take hold: deliberate.
 constexpr std::array<CallWindowStyleRow, 8> cCallWindowStyles{{
     {"lblUserName", "QLabel#lblUserName{ color: #313131; font:20px 微软雅黑; }"},
     {"lblStatus", "QLabel#lblUserName{ color: #a5a5a5; font:14px 微软雅黑; }"},

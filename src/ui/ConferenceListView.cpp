@@ -95,9 +95,8 @@ void CConferenceListView::setConferenceCreator(QString strCreator)
 
 void CConferenceListView::updateConferenceListStatus(QList<QString> list)
 {
-    for (auto it = m_userItemMap.cbegin(); it != m_userItemMap.cend(); ++it)
-        if (list.contains(it.key()))
-            it.value()->setData(int(ConferenceConnected), ROLE_CALL_STATUS);
+    for (const QString &strUserID : qAsConst(list))
+        updateConferenceUserStatus(strUserID, ConferenceConnected);
 }
 
 void CConferenceListView::setAddConfFailedList(QList<QString> list)
@@ -124,7 +123,7 @@ void CConferenceListView::updateUserInfo(QString strJid, VcardInfo vcard)
     if (pItem == nullptr)
         return;
     pItem->setData(HeadPicture::readablePath(vcard.m_strPhotoPath), ROLE_HEAD_PATH);
-    // The card's own name, not the contact's shown name: deliberate, strangers have no contact record.
+    // Deliberate: the card's nick name, not the contact's shown name.
     pItem->setData(vcard.m_strNickName, ROLE_DISPLAY_NAME);
 }
 

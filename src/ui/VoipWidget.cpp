@@ -141,7 +141,7 @@ void CVoipWidget::showPeer()
 
 QString CVoipWidget::showPeerCard(const VcardInfo &vcard)
 {
-    const QString strShownName = cardName(vcard);
+    QString strShownName = cardName(vcard);
     const QString strPhotoPath = HeadPicture::readablePath(vcard.m_strPhotoPath);
     LOG_DEBUG << "voip userName=" << strShownName << "\n";
     LOG_DEBUG << "voip photourl = " << strPhotoPath << "\n";
@@ -153,7 +153,7 @@ QString CVoipWidget::showPeerCard(const VcardInfo &vcard)
 
 void CVoipWidget::showPeerTitle(const QString &strShownName)
 {
-    // A voice call shows the plain title and never the name: deliberate, the name stands below the head picture.
+    // Deliberate: a voice call shows the plain title and never the name.
     if (m_iVoipType == Voice)
         ui->lblVoipTipMsg->setText(QStringLiteral("语音通话"));
     else
@@ -305,7 +305,7 @@ void CVoipWidget::SetMicEnable(bool bEnable)
 
 void CVoipWidget::SetSpeakerEnable(bool bEnable)
 {
-    // The microphone's words: deliberate, the debug log has always read so.
+    // Deliberate: the microphone's words.
     qDebug().noquote().nospace() << "SetMicEnable = " << boolText(bEnable);
     emit signal_SetSpeakerEnable(bEnable);
 }

@@ -69,7 +69,7 @@ public:
     /// Stores the speaker's volume (cut to 32 bits) and sends the value given by signal_SetSpeakerVolume. No unit.
     void SetVoipSpeakerVolume(qlonglong iVolume);
 
-    /// Always 0, whatever the call's state: callers of the shared surface rely on the constant.
+    /// Always 0, whatever the call's state: deliberate.
     int GetCurrentCallStatus() const;
 
     /// Always a null pointer: there is no web view in this window.

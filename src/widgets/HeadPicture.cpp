@@ -10,7 +10,7 @@ const QColor cHeadBack(0xdc, 0xe5, 0xee);
 const QColor cHeadFront(0x93, 0xa9, 0xbf);
 
 // A picture of more pixels than this is not read: it is no head, and its memory could bring the host down.
-constexpr qint64 cMaxPixels = 64 * 1024 * 1024;
+constexpr qint64 cMaxPixels = Q_INT64_C(64) * 1024 * 1024;
 
 void drawNeutralHead(QPainter &painter, qreal side)
 {

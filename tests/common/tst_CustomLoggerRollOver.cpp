@@ -1,4 +1,4 @@
-#include "LogFile.h"
+#include "ClientLogFile.h"
 
 #include "common/CustomLogger.h"
 

@@ -3,7 +3,9 @@
 #include "fakes/EngineFixture.h"
 #include "ui/VoipWidget.h"
 
+#include <QStackedWidget>
 #include <QTest>
+#include <QTimer>
 
 #include <functional>
 
@@ -217,11 +219,13 @@ void tst_CallStates::socketLossLeavesTheCall()
     EngineFixture f;
     enter(f, state);
     const bool shown = f.manager->m_pVoipWidget->isVisible();
+    const auto *clock = f.manager->m_pVoipWidget->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
     QVERIFY(!f.manager->m_reconnectTimer.isActive());
     f.process.close();
     QTRY_VERIFY(!f.manager->m_bSocketConnected);
     QCOMPARE(f.state(), stateAfter);
     QCOMPARE(f.manager->m_pVoipWidget->isVisible(), shown);
+    QCOMPARE(clock->isActive(), state == "Connected");
     QVERIFY(f.manager->m_reconnectTimer.isActive());
     QCOMPARE(f.manager->m_reconnectTimer.interval(), 1000);
     QCOMPARE(f.takeJournal(), QStringList());
@@ -312,6 +316,8 @@ void tst_CallStates::codeEighteenInIdleLeavesFlagAndTime()
     QVERIFY(f.manager->m_callData.bIsConnected);
     QVERIFY(f.manager->m_callData.connectTime.isValid());
     QCOMPARE(f.manager->m_callData.connectTime.timeSpec(), Qt::UTC);
+    // The window is told as in a call.
+    QCOMPARE(f.manager->m_pVoipWidget->findChild<QStackedWidget *>("controlPane")->currentIndex(), 1);
     // The next call starts with what was left.
     f.manager->callSingleUser("anna", false);
     QVERIFY(f.manager->m_callData.bIsConnected);

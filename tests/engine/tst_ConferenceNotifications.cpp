@@ -27,6 +27,7 @@ private slots:
     void invitationSetsTheConference();
     void invitationThatIsRefusedLeavesItsFlags_data();
     void invitationThatIsRefusedLeavesItsFlags();
+    void callAfterARefusedInvitationGoesOnAsAConference();
     void invitationWithoutSenderKeepsThePeer();
     void invitationOfTheSameConferenceIsTakenAgain();
     void secondInvitationTakesTheCreatorsRights();
@@ -103,6 +104,20 @@ void tst_ConferenceNotifications::invitationThatIsRefusedLeavesItsFlags()
     QCOMPARE(f.callText(), QString("1|0|0|0||||c1||"));
     QCOMPARE(f.state(), QString("idle"));
     QCOMPARE(f.takeJournal(), QStringList());
+}
+
+void tst_ConferenceNotifications::callAfterARefusedInvitationGoesOnAsAConference()
+{
+    EngineFixture f;
+    f.notify(2, document(R"("from":"anna","confId":"")"));
+    // Placing a call does not write the flag, so its end is that of a conference: no record for the host.
+    f.manager->callSingleUser("bert", false);
+    QVERIFY(f.manager->m_callData.bIsConf);
+    f.takeJournal();
+    f.manager->hangupVoipCall();
+    QCOMPARE(f.takeJournal(),
+             QStringList({"HangupConf", "4345 bert@kelvar.im", "SetMicEnable true", "SetSpeakerEnble true"}));
+    QVERIFY(!f.manager->m_callData.bIsConf);
 }
 
 void tst_ConferenceNotifications::invitationWithoutSenderKeepsThePeer()

@@ -1,6 +1,5 @@
 // The log records of the engine: each operation's words, at debug level but for the call process's path.
 
-#include "common/CLogManger.h"
 #include "fakes/EngineFixture.h"
 #include "fakes/LogCapture.h"
 
@@ -37,8 +36,6 @@ private:
 void tst_EngineLog::initTestCase()
 {
     m_log = std::make_unique<LogCapture>();
-    // The log manager takes its writer when it is made, and keeps it.
-    CLogManger::instance();
 }
 
 void tst_EngineLog::cleanupTestCase()

@@ -1,5 +1,6 @@
 #include "fakes/LogCapture.h"
 
+#include "common/CLogManger.h"
 #include "common/CommonFun.h"
 
 #include <QFile>
@@ -17,6 +18,7 @@ LogCapture::LogCapture() : m_logger(logFileName)
     context.setCustomLogger(&m_logger);
     context.setCustomLogThread(&m_thread);
     CommonFun::setCommonData(&context);
+    CLogManger::instance();
     m_thread.start();
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 // The host's side of logging for a test: a log file in the working directory, its writer thread, and a client context
-// that holds both. Create one before the first log statement of the program and keep it to the end, since the log
-// manager takes both once. GUI thread.
+// that holds both. Create one before the first log statement of the program and keep it to the end: the log manager
+// takes both once, when it is made, which is here. GUI thread.
 
 #include "common/CLogThread.h"
 #include "common/CustomLogger.h"
@@ -14,7 +14,7 @@
 class LogCapture
 {
 public:
-    /// Starts the writer and sets `context` as the shared client context.
+    /// Starts the writer, sets `context` as the shared client context and makes the log manager.
     LogCapture();
     /// Stops the writer.
     ~LogCapture();

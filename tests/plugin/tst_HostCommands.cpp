@@ -338,27 +338,34 @@ void tst_HostCommands::truncatedAndRandomPayloadsDoNoHarm_data()
 {
     QTest::addColumn<int>("msgId");
     QTest::addColumn<QByteArray>("whole");
+    QTest::addColumn<int>("randomCount");
     const QStringList members{peer, QStringLiteral("u2")};
-    QTest::newRow("updateUserInfo") << int(MSG_UPDATE_USER_INFO) << packPayload(peer, qint64(0));
-    QTest::newRow("clientConnectStatus") << int(MSG_CLIENT_CONNECT_STATUS) << packPayload(true);
-    QTest::newRow("callSingleUser") << int(MSG_CALL_SINGLE_USER) << packPayload(true, peer);
-    QTest::newRow("isExistCall") << int(MSG_IS_EXIST_CALL) << QByteArray();
-    QTest::newRow("isVideoCall") << int(MSG_IS_VIDEO_CALL) << QByteArray();
-    QTest::newRow("responseVoipRequest") << int(MSG_RESPONSE_VOIP_REQUEST) << packPayload(true);
-    QTest::newRow("callConference") << int(MSG_CALL_CONFERENCE) << packPayload(members, QStringLiteral("t"), true);
-    QTest::newRow("showVoiceConf") << int(MSG_SHOW_VOICE_CONF) << QByteArray();
+    // Each call shows a window, which takes its time.
+    constexpr int few = 4;
+    constexpr int many = 40;
+    QTest::newRow("updateUserInfo") << int(MSG_UPDATE_USER_INFO) << packPayload(peer, qint64(0)) << many;
+    QTest::newRow("clientConnectStatus") << int(MSG_CLIENT_CONNECT_STATUS) << packPayload(true) << many;
+    QTest::newRow("callSingleUser") << int(MSG_CALL_SINGLE_USER) << packPayload(true, peer) << few;
+    QTest::newRow("isExistCall") << int(MSG_IS_EXIST_CALL) << QByteArray() << many;
+    QTest::newRow("isVideoCall") << int(MSG_IS_VIDEO_CALL) << QByteArray() << many;
+    QTest::newRow("responseVoipRequest") << int(MSG_RESPONSE_VOIP_REQUEST) << packPayload(true) << few;
+    QTest::newRow("callConference") << int(MSG_CALL_CONFERENCE) << packPayload(members, QStringLiteral("t"), true)
+                                    << few;
+    QTest::newRow("showVoiceConf") << int(MSG_SHOW_VOICE_CONF) << QByteArray() << many;
 }
 
 void tst_HostCommands::truncatedAndRandomPayloadsDoNoHarm()
 {
     QFETCH(int, msgId);
     QFETCH(QByteArray, whole);
+    QFETCH(int, randomCount);
     QList<QByteArray> payloads;
     for (int size = 0; size <= whole.size(); ++size) {
         payloads.append(whole.left(size));
     }
     std::mt19937 random(static_cast<std::mt19937::result_type>(msgId));
-    while (payloads.size() < 40) {
+    const int count = payloads.size() + randomCount;
+    while (payloads.size() < count) {
         const QByteArray payload = randomPayload(random);
         if (msgId != MSG_UPDATE_USER_INFO || !holdsAnAddress(payload)) {
             payloads.append(payload);
