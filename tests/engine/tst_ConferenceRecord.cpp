@@ -382,7 +382,7 @@ void tst_ConferenceRecord::memberTextIsStoredAsItIs()
     f.notify(20, R"({"result":{"confId":"c1"}})");
     f.notify(4);
     QCOMPARE(f.rows().constFirst().at(4), "'" + text + "'");
-    QTEST(DBConfInfo::getAllConfInfo().constFirst().m_listMember, "readBack");
+    QTEST(QStringList(DBConfInfo::getAllConfInfo().constFirst().m_listMember), "readBack");
 }
 
 void tst_ConferenceRecord::oddConferenceIds_data()
