@@ -19,6 +19,7 @@ MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     fillContacts();
     setUpRecords();
     connectSession();
+    showNotice();
     showOnline(m_session.isOnline());
     connect(ui->btnOnline, &QPushButton::clicked, this, [this](bool bChecked) { m_session.setOnline(bChecked); });
     connect(ui->btnCallNumber, &QPushButton::clicked, this, &MainWindow::callNumber);
@@ -102,6 +103,13 @@ void MainWindow::showOnline(bool bOnline)
     ui->btnOnline->setChecked(bOnline);
     ui->btnOnline->setText(bOnline ? tr("Online") : tr("Offline"));
     statusBar()->showMessage(bOnline ? tr("Signed in as %1").arg(name) : tr("Signed out"));
+}
+
+void MainWindow::showNotice()
+{
+    const QStringList &reports = m_session.store().reports();
+    ui->lblNotice->setText(reports.join(QLatin1Char('\n')));
+    ui->lblNotice->setVisible(!reports.isEmpty());
 }
 
 void MainWindow::showRecord(const CallRecord &record)

@@ -16,7 +16,8 @@ class MainWindow;
 }
 
 /// The demo's window: contacts with call buttons on the left, the records of finished calls on the right, the login
-/// switch on top. It owns the prompt of incoming calls. GUI thread; session and book must outlive it.
+/// switch on top, and below it what has to be told of the local store. It owns the prompt of incoming calls. GUI
+/// thread; session and book must outlive it.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -42,6 +43,7 @@ private:
     void call(const QString &strUid, bool bVideo);
     void callNumber();
     void showOnline(bool bOnline);
+    void showNotice();
     void showRecord(const CallRecord &record);
     void showSignature(const QString &strText, int iX, int iY, int iHeight);
 
