@@ -44,6 +44,7 @@ void CConferenceListView::setIsCallByMe(bool bIsCallByMe)
 void CConferenceListView::addUserList(QList<QString> userList)
 {
     m_userList = userList;
+    m_userCounts = UidCounts(userList);
     for (const QString &strUserID : qAsConst(userList))
         appendUserItem(strUserID);
 }
@@ -52,8 +53,9 @@ void CConferenceListView::addUser(QString strUserID)
 {
     if (strUserID.isEmpty())
         return;
-    if (!m_userList.contains(strUserID)) {
+    if (!m_userCounts.contains(strUserID)) {
         m_userList.append(strUserID);
+        m_userCounts.add(strUserID);
         appendUserItem(strUserID);
     }
     if (QStandardItem *pItem = m_userItemMap.value(strUserID))
@@ -62,7 +64,7 @@ void CConferenceListView::addUser(QString strUserID)
 
 void CConferenceListView::removeUser(QString strUserID)
 {
-    if (strUserID.isEmpty() || !m_userList.contains(strUserID))
+    if (strUserID.isEmpty() || !m_userCounts.contains(strUserID))
         return;
     QStandardItem *pItem = m_userItemMap.value(strUserID);
     if (pItem == nullptr)
@@ -72,6 +74,7 @@ void CConferenceListView::removeUser(QString strUserID)
         return;
     m_userItemMap.remove(strUserID);
     m_userList.removeOne(strUserID);
+    m_userCounts.remove(strUserID);
     m_pModel->removeRows(iRow, 1);
 }
 
@@ -79,6 +82,7 @@ void CConferenceListView::clearMembers()
 {
     m_pModel->clear();
     m_userList.clear();
+    m_userCounts.clear();
     m_userItemMap.clear();
     m_strCreator.clear();
     m_statusTimer.stop();

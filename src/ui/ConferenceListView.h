@@ -6,6 +6,8 @@
 // watchdog that marks members who never answered. Part of the call window, which owns it and drives it. GUI thread
 // only.
 
+#include "ui/UidCounts.h"
+
 #include <QList>
 #include <QListView>
 #include <QMap>
@@ -82,6 +84,7 @@ private:
     CConferenceListViewDelegate *m_pDelegate;
     QStandardItemModel *m_pModel;
     QList<QString> m_userList;
+    UidCounts m_userCounts; ///< of m_userList
     QMap<QString, QStandardItem *> m_userItemMap;
     QString m_strCreator;
     bool m_bIsCallByMe = true;
