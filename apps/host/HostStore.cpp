@@ -73,6 +73,17 @@ bool moveFile(const QString &strFrom, const QString &strTo)
     return all;
 }
 
+/// Whether a write to the open store would succeed, found by one that is taken back. It also finds a folder that takes
+/// no journal and a disk without room, which a look at the file's rights does not.
+bool takesWrites()
+{
+    QSqlQuery query(DB::getDB());
+    const bool ok = query.exec(QStringLiteral("BEGIN IMMEDIATE")) &&
+                    query.exec(QStringLiteral("CREATE TABLE hostwritetrial (id INTEGER)"));
+    query.exec(QStringLiteral("ROLLBACK"));
+    return ok;
+}
+
 } // namespace
 
 HostStore::~HostStore()
@@ -115,8 +126,8 @@ bool HostStore::open(const QString &strUid, const QString &strBase)
         // Even a failed open leaves its connection with the shared context.
         DB::closeDB();
         report(tr("The local store %1 cannot be opened. Nothing of this session will be kept.").arg(file));
-    } else if (!QFileInfo(file).isWritable() || !QFileInfo(folder).isWritable()) {
-        report(tr("The local store %1 can only be read. Nothing of this session will be kept.").arg(file));
+    } else if (!takesWrites()) {
+        report(tr("The local store %1 cannot be written to. Nothing of this session will be kept.").arg(file));
     }
     return m_bOpen;
 }

@@ -72,6 +72,7 @@ Steps signIn(const TourScript &s, const TourStage &stage)
         {u("The client has loaded the plug-in and not spoken to it yet"),
          {},
          {{QStringLiteral("it is %1").arg(stage.session.pluginWords()), [] { return true; }},
+          {u("the user's local store is open"), [session = &stage.session] { return session->store().isOpen(); }},
           s.processes(0),
           {u("it has made no window"), [] { return WindowProbe::callWindow() == nullptr; }}}},
         {u("Sign in"),

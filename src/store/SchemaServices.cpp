@@ -148,10 +148,15 @@ void DB::creatFileStatusLocalInfo()
     StoreSchema::createOrUpgrade(filestatuslocalinfo);
 }
 
+// clang-format off
 constexpr StoreColumn videoinfoColumns[] = {
-    {"msgId", "VARCHAR(20) PRIMARY KEY"}, {"videoUrl", "VARCHAR(256)"},     {"picUrl", "VARCHAR(256)"},
-    {"videoName", "VARCHAR(256)"},        {"videoPicName", "VARCHAR(256)"},
+    {"msgId", "VARCHAR(20) PRIMARY KEY"},
+    {"videoUrl", "VARCHAR(256)"},
+    {"picUrl", "VARCHAR(256)"},
+    {"videoName", "VARCHAR(256)"},
+    {"videoPicName", "VARCHAR(256)"},
 };
+// clang-format on
 constexpr StoreTable videoinfo{"videoinfo", videoinfoColumns};
 
 void DB::creatVideoInfo()
@@ -207,12 +212,11 @@ constexpr StoreTable dingsmsgfileoinfo{"dingsmsgfileoinfo", dingsmsgfileoinfoCol
 // The files' table has no existence test of its own, deliberately: it comes with `dingmsginfo` or never.
 void DB::createDingMsgTable()
 {
-    if (StoreSchema::exists(dingmsginfo)) {
-        StoreSchema::addLaterColumns(dingmsginfo);
-        return;
+    if (!StoreSchema::exists(dingmsginfo)) {
+        StoreSchema::create(dingmsginfo);
+        StoreSchema::create(dingsmsgfileoinfo);
+        for (const StoreIndex &index : dingmsginfo.indexes)
+            StoreSchema::createIndex(dingmsginfo, index);
     }
-    StoreSchema::create(dingmsginfo);
-    StoreSchema::create(dingsmsgfileoinfo);
-    for (const StoreIndex &index : dingmsginfo.indexes)
-        StoreSchema::createIndex(dingmsginfo, index);
+    StoreSchema::addLaterColumns(dingmsginfo);
 }

@@ -21,6 +21,8 @@ class tst_HostStore : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { m_pLog = std::make_unique<LogCapture>(); }
+    void cleanupTestCase() { m_pLog.reset(); }
     void init();
     void cleanup();
     void firstLoginMakesTheStore();
@@ -36,7 +38,8 @@ private slots:
     void takenNameGetsAnother();
     void damagedFileThatCannotBeMovedStaysAndIsTold();
     void heldFileIsLeftAloneAndTold();
-    void readOnlyStoreIsTold();
+    void storeThatTakesNoWritesIsTold_data();
+    void storeThatTakesNoWritesIsTold();
     void storeThatCannotBeOpenedIsTold();
     void oldGenerationIsToldAndStays();
     void nextLoginHasNothingToTell();
@@ -68,7 +71,7 @@ void tst_HostStore::init()
 {
     m_strBase = QDir::current().absoluteFilePath(QStringLiteral("round%1").arg(++m_iRound));
     m_strFolder = m_strBase + QLatin1Char('/') + m_strUser;
-    m_pLog = std::make_unique<LogCapture>();
+    m_pLog->take();
     m_pMessages = std::make_unique<QtMessages>();
     m_pStore = std::make_unique<HostStore>();
 }
@@ -78,9 +81,8 @@ void tst_HostStore::cleanup()
     m_pStore.reset();
     const QStringList warnings = m_pMessages->warnings;
     m_pMessages.reset();
-    m_pLog.reset();
     QCOMPARE(warnings, QStringList());
-    QCOMPARE(QSqlDatabase::connectionNames(), QStringList());
+    QVERIFY(!QSqlDatabase::contains(QStringLiteral("KelvarIM")));
 }
 
 QByteArray tst_HostStore::read(const QString &strName) const
@@ -199,11 +201,13 @@ void tst_HostStore::hiddenDamageIsFoundToo()
 void tst_HostStore::halfWriteOfTheDamagedFileGoesWithIt()
 {
     QVERIFY(write(m_strFile, QByteArray("no database").repeated(100)));
-    QVERIFY(write(m_strFile + QStringLiteral("-wal"), "half a write"));
+    // SQLite leaves a journal that begins like this one alone.
+    const QByteArray half = QByteArray("\0half a write", 13);
+    QVERIFY(write(m_strFile + QStringLiteral("-journal"), half));
     QVERIFY(open());
     QCOMPARE(asideNames().size(), 1);
-    QCOMPARE(read(asideNames().constFirst() + QStringLiteral("-wal")), QByteArray("half a write"));
-    QVERIFY(!fileNames().contains(m_strFile + QStringLiteral("-wal")));
+    QCOMPARE(read(asideNames().constFirst() + QStringLiteral("-journal")), half);
+    QVERIFY(!fileNames().contains(m_strFile + QStringLiteral("-journal")));
 }
 
 void tst_HostStore::takenNameGetsAnother_data()
@@ -234,7 +238,7 @@ void tst_HostStore::damagedFileThatCannotBeMovedStaysAndIsTold()
 {
     const QByteArray bytes = QByteArray("no database").repeated(100);
     QVERIFY(write(m_strFile, bytes));
-    QVERIFY(write(m_strFile + QStringLiteral("-wal"), "half a write"));
+    QVERIFY(write(m_strFile + QStringLiteral("-journal"), "half a write"));
     QVERIFY(QFile::setPermissions(m_strFolder, QFile::ReadOwner | QFile::ExeOwner));
     {
         const OrdinaryRights rights;
@@ -245,7 +249,7 @@ void tst_HostStore::damagedFileThatCannotBeMovedStaysAndIsTold()
     QVERIFY(m_pLog->context.getSqlDatabase() == nullptr);
     QVERIFY(told(QStringLiteral("is damaged and cannot be moved aside")));
     QCOMPARE(read(m_strFile), bytes);
-    QCOMPARE(read(m_strFile + QStringLiteral("-wal")), QByteArray("half a write"));
+    QCOMPARE(read(m_strFile + QStringLiteral("-journal")), QByteArray("half a write"));
 }
 
 void tst_HostStore::heldFileIsLeftAloneAndTold()
@@ -270,16 +274,38 @@ void tst_HostStore::heldFileIsLeftAloneAndTold()
     QCOMPARE(DBConfInfo::getAllConfInfo().size(), 1);
 }
 
-void tst_HostStore::readOnlyStoreIsTold()
+void tst_HostStore::storeThatTakesNoWritesIsTold_data()
 {
+    QTest::addColumn<QString>("readOnly");
+    QTest::newRow("a read-only file") << QStringLiteral("/30010000/localData.db");
+    QTest::newRow("a read-only folder") << QStringLiteral("/30010000");
+    QTest::newRow("a full disk") << QString();
+}
+
+void tst_HostStore::storeThatTakesNoWritesIsTold()
+{
+    QFETCH(QString, readOnly);
     QVERIFY(open());
     QVERIFY(DBConfInfo::saveConfInfo(record()));
     m_pStore->close();
-    QVERIFY(QFile::setPermissions(m_strFolder + QLatin1Char('/') + m_strFile, QFile::ReadOwner));
-    const OrdinaryRights rights;
-    QVERIFY(open());
-    QVERIFY(told(QStringLiteral("can only be read")));
+    const QByteArray bytes = read(m_strFile);
+    const QString path = m_strBase + readOnly;
+    {
+        const OrdinaryRights rights;
+        std::unique_ptr<FullDisk> full;
+        if (readOnly.isEmpty()) {
+            full = std::make_unique<FullDisk>(0);
+        } else {
+            QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner));
+        }
+        QVERIFY(open());
+    }
+    QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    QVERIFY(told(QStringLiteral("cannot be written to")));
     QCOMPARE(DBConfInfo::getAllConfInfo().size(), 1);
+    m_pStore->close();
+    QCOMPARE(read(m_strFile), bytes);
+    QCOMPARE(fileNames(), QStringList(m_strFile));
 }
 
 void tst_HostStore::storeThatCannotBeOpenedIsTold()

@@ -1,75 +1,18 @@
-// The call window's operations, its signals in their order, and what the user's clicks do.
+// The call window's form, its operations, and the order of its signals and slots.
 
-#include "ui/VoipWidget.h"
-
-#include "ContactFixture.h"
-#include "fakes/LogCapture.h"
+#include "CallWindowTest.h"
 #include "fakes/QtMessages.h"
 #include "ui/CallWindowStyle.h"
-#include "ui/ConferenceListView.h"
-#include "ui/ConferenceRoles.h"
-#include "widgets/ErrorMessage.h"
 #include "widgets/SymbolButton.h"
 
-#include <QApplication>
-#include <QLabel>
 #include <QMetaMethod>
-#include <QRegularExpression>
-#include <QSignalSpy>
 #include <QStackedWidget>
-#include <QTest>
-#include <QTimer>
 
-#include <functional>
-#include <memory>
-
-namespace {
-
-QString uid(const char *name)
-{
-    return QLatin1String(name);
-}
-
-} // namespace
-
-class tst_VoipWidget : public QObject
+class tst_VoipWidget : public CallWindowTest
 {
     Q_OBJECT
 
-private:
-    template <typename Widget>
-    Widget *part(const char *name) const
-    {
-        return m_pWindow->findChild<Widget *>(QLatin1String(name));
-    }
-    QString text(const char *name) const { return part<QLabel>(name)->text(); }
-    QAbstractItemModel *rows() const { return part<CConferenceListView>("listView")->model(); }
-    int status(int iRow) const { return rows()->index(iRow, 0).data(ROLE_CALL_STATUS).toInt(); }
-    void showWindow()
-    {
-        m_pWindow->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
-    }
-    void click(const char *name) { QTest::mouseClick(part<QPushButton>(name), Qt::LeftButton); }
-    void startCall(CVoipWidget::VoipType type, bool bConnected = false)
-    {
-        m_pWindow->setVoipCallInfo({uid("ann"), uid("bob")}, type, true, bConnected);
-    }
-    // Clicks a button of the question that the next user action opens.
-    void answerQuestion(
-        const char *name, const std::function<void()> &before = [] {});
-    void record();
-    QStringList newRecords();
-
-    LogCapture m_log;
-    std::unique_ptr<ContactFixture> m_pContacts;
-    std::unique_ptr<CVoipWidget> m_pWindow;
-    QStringList m_sent;
-
 private slots:
-    void init();
-    void cleanup();
-
     void signalsStandInTheirOrder();
     void privateSlotsStandInTheirOrder();
     void windowIsFramelessAndOfFixedSize();
@@ -80,24 +23,9 @@ private slots:
     void longNamesStayInsideTheWindow();
     void showBringsBackAMinimisedWindow();
 
-    void micClickTogglesAndSendsTheInverse();
-    void speakerClickTogglesAndSendsTheInverse();
-    void cameraClickSendsTheFlagItself();
     void cameraButtonStaysHidden_data();
     void cameraButtonStaysHidden();
-    void muteAllClickMutesEveryRowAndSendsOnce();
-    void addMemberClickIsSent();
-    void hangUpClickIsSentAndTheWindowStays();
-    void cancelClickSendsHangUpTwice();
-    void listSignalsAreForwarded();
 
-    void closeSendsItsSignalsInOrder_data();
-    void closeSendsItsSignalsInOrder();
-    void closingAHiddenWindowDoesNotCountForQuit();
-    void confirmedCloseButtonCloses();
-    void cancelledCloseButtonLeavesTheCall();
-    void callThatEndsUnderTheOpenQuestionIsHarmless();
-    void userOfflineCloses();
     void hangUpMessageClearsDataOnly();
     void clearingPutsTheTogglesBack();
     void clearUiEmptiesWhatIsShown();
@@ -118,72 +46,8 @@ private slots:
     void callTimeText();
 
     void operationsAreLogged();
-    void clicksAreLogged();
     void enablesAndVolumesGoToTheDebugChannel();
 };
-
-void tst_VoipWidget::init()
-{
-    m_pContacts = std::make_unique<ContactFixture>();
-    m_pWindow = std::make_unique<CVoipWidget>();
-    m_sent.clear();
-    record();
-    newRecords();
-}
-
-void tst_VoipWidget::cleanup()
-{
-    m_pWindow.reset();
-    m_pContacts.reset();
-}
-
-void tst_VoipWidget::record()
-{
-    CVoipWidget *w = m_pWindow.get();
-    const auto flag = [this](const char *name) {
-        return [this, name](bool bOn) { m_sent.append(QLatin1String(name) + (bOn ? "+" : "-")); };
-    };
-    const auto number = [this](const char *name) {
-        return [this, name](qlonglong i) { m_sent.append(QLatin1String(name) + QString::number(i)); };
-    };
-    const auto plain = [this](const char *name) { return [this, name] { m_sent.append(QLatin1String(name)); }; };
-    const auto user = [this](const char *name) {
-        return [this, name](const QString &strUid) { m_sent.append(QLatin1String(name) + strUid); };
-    };
-    connect(w, &CVoipWidget::signal_SetMicEnable, this, flag("mic"));
-    connect(w, &CVoipWidget::signal_SetSpeakerEnable, this, flag("speaker"));
-    connect(w, &CVoipWidget::signal_SetCameraEnable, this, flag("camera"));
-    connect(w, &CVoipWidget::signal_SetMicVolume, this, number("micvolume="));
-    connect(w, &CVoipWidget::signal_SetSpeakerVolume, this, number("speakervolume="));
-    connect(w, &CVoipWidget::signal_HangupCurrentCall, this, plain("hangup"));
-    connect(w, &CVoipWidget::signal_AddConferenceMember, this, plain("add"));
-    connect(w, &CVoipWidget::signal_RemoveUser, this, user("remove "));
-    connect(w, &CVoipWidget::signal_MuteUser, this, [this](const QString &strUid, bool bMute) {
-        m_sent.append(QStringLiteral("mute ") + strUid + (bMute ? "+" : "-"));
-    });
-    connect(w, &CVoipWidget::signal_MuteAll, this, flag("muteall"));
-    connect(w, &CVoipWidget::signal_ClearCallData, this, plain("clear"));
-    connect(w, &CVoipWidget::signal_ReInviteConfUser, this, user("reinvite "));
-}
-
-// The log records since the last call, each as "source: message".
-QStringList tst_VoipWidget::newRecords()
-{
-    static const QRegularExpression prefix(QStringLiteral("^\\[DEBUG\\]\\[([^:]*):\\d+\\]: "));
-    return m_log.take().replaceInStrings(prefix, QStringLiteral("\\1: "));
-}
-
-void tst_VoipWidget::answerQuestion(const char *name, const std::function<void()> &before)
-{
-    QTimer::singleShot(0, this, [name, before] {
-        auto *pQuestion = qobject_cast<ErrorMessage *>(QApplication::activeModalWidget());
-        QVERIFY(pQuestion != nullptr);
-        QVERIFY(QTest::qWaitForWindowExposed(pQuestion));
-        before();
-        QTest::mouseClick(pQuestion->findChild<QPushButton *>(QLatin1String(name)), Qt::LeftButton);
-        QVERIFY(!pQuestion->isVisible());
-    });
-}
 
 void tst_VoipWidget::signalsStandInTheirOrder()
 {
@@ -305,48 +169,6 @@ void tst_VoipWidget::showBringsBackAMinimisedWindow()
     QCOMPARE(m_pWindow->windowState(), Qt::WindowStates(Qt::WindowNoState));
 }
 
-void tst_VoipWidget::micClickTogglesAndSendsTheInverse()
-{
-    startCall(CVoipWidget::Voice, true);
-    showWindow();
-    const auto *pMic = part<SymbolButton>("btnMic");
-    click("btnMic");
-    QCOMPARE(m_sent, QStringList{"mic-"});
-    QCOMPARE(pMic->symbol(), SymbolButton::Symbol::MicrophoneOff);
-    QCOMPARE(pMic->toolTip(), QStringLiteral("openmic"));
-    click("btnMic");
-    QCOMPARE(m_sent, (QStringList{"mic-", "mic+"}));
-    QCOMPARE(pMic->symbol(), SymbolButton::Symbol::Microphone);
-    QCOMPARE(pMic->toolTip(), QStringLiteral("closemic"));
-}
-
-void tst_VoipWidget::speakerClickTogglesAndSendsTheInverse()
-{
-    startCall(CVoipWidget::Voice, true);
-    showWindow();
-    const auto *pSpeaker = part<SymbolButton>("btnSpeaker");
-    click("btnSpeaker");
-    QCOMPARE(m_sent, QStringList{"speaker-"});
-    QCOMPARE(pSpeaker->symbol(), SymbolButton::Symbol::SpeakerOff);
-    QCOMPARE(pSpeaker->toolTip(), QStringLiteral("openvioce"));
-    click("btnSpeaker");
-    QCOMPARE(m_sent, (QStringList{"speaker-", "speaker+"}));
-    QCOMPARE(pSpeaker->symbol(), SymbolButton::Symbol::Speaker);
-    QCOMPARE(pSpeaker->toolTip(), QStringLiteral("silence"));
-}
-
-void tst_VoipWidget::cameraClickSendsTheFlagItself()
-{
-    const auto *pCamera = part<SymbolButton>("btnCamera");
-    QCOMPARE(pCamera->symbol(), SymbolButton::Symbol::Camera);
-    part<QPushButton>("btnCamera")->click();
-    QCOMPARE(m_sent, QStringList{"camera-"});
-    QCOMPARE(pCamera->symbol(), SymbolButton::Symbol::CameraOff);
-    part<QPushButton>("btnCamera")->click();
-    QCOMPARE(m_sent, (QStringList{"camera-", "camera+"}));
-    QCOMPARE(pCamera->symbol(), SymbolButton::Symbol::Camera);
-}
-
 void tst_VoipWidget::cameraButtonStaysHidden_data()
 {
     QTest::addColumn<int>("type");
@@ -363,138 +185,6 @@ void tst_VoipWidget::cameraButtonStaysHidden()
     showWindow();
     QVERIFY(part<QWidget>("btnMic")->isVisible());
     QVERIFY(!part<QWidget>("btnCamera")->isVisible());
-}
-
-void tst_VoipWidget::muteAllClickMutesEveryRowAndSendsOnce()
-{
-    startCall(CVoipWidget::Conference, true);
-    showWindow();
-    const auto *pMuteAll = part<SymbolButton>("btnMuteAll");
-    click("btnMuteAll");
-    QCOMPARE(m_sent, QStringList{"muteall+"});
-    QVERIFY(rows()->index(0, 0).data(ROLE_MUTED).toBool());
-    QVERIFY(rows()->index(1, 0).data(ROLE_MUTED).toBool());
-    QCOMPARE(pMuteAll->symbolColor(), QColor(255, 96, 88));
-    QCOMPARE(pMuteAll->toolTip(), QStringLiteral("取消全体静音"));
-    click("btnMuteAll");
-    QCOMPARE(m_sent, (QStringList{"muteall+", "muteall-"}));
-    QVERIFY(!rows()->index(1, 0).data(ROLE_MUTED).toBool());
-    QCOMPARE(pMuteAll->symbolColor(), QColor(184, 184, 184));
-    QCOMPARE(pMuteAll->toolTip(), QStringLiteral("全体静音"));
-}
-
-void tst_VoipWidget::addMemberClickIsSent()
-{
-    startCall(CVoipWidget::Conference);
-    showWindow();
-    click("btnAddMember");
-    QCOMPARE(m_sent, QStringList{"add"});
-    QCOMPARE(rows()->rowCount(), 2);
-}
-
-void tst_VoipWidget::hangUpClickIsSentAndTheWindowStays()
-{
-    startCall(CVoipWidget::Voice, true);
-    showWindow();
-    click("HangUp");
-    QCOMPARE(m_sent, QStringList{"hangup"});
-    QVERIFY(m_pWindow->isVisible());
-}
-
-void tst_VoipWidget::cancelClickSendsHangUpTwice()
-{
-    startCall(CVoipWidget::Voice);
-    showWindow();
-    click("btnCancelCall");
-    QCOMPARE(m_sent, (QStringList{"hangup", "mic+", "speaker+", "hangup", "clear"}));
-    QVERIFY(!m_pWindow->isVisible());
-}
-
-void tst_VoipWidget::listSignalsAreForwarded()
-{
-    auto *pList = part<CConferenceListView>("listView");
-    emit pList->signal_RemoveUser(uid("ann"));
-    emit pList->signal_MuteUser(uid("bob"), true);
-    emit pList->signal_MuteUser(uid("bob"), false);
-    emit pList->signal_ReInviteConfUser(uid("cat"));
-    QCOMPARE(m_sent, (QStringList{"remove ann", "mute bob+", "mute bob-", "reinvite cat"}));
-}
-
-void tst_VoipWidget::closeSendsItsSignalsInOrder_data()
-{
-    QTest::addColumn<bool>("shown");
-    QTest::newRow("shown") << true;
-    QTest::newRow("never shown") << false;
-}
-
-void tst_VoipWidget::closeSendsItsSignalsInOrder()
-{
-    QFETCH(bool, shown);
-    startCall(CVoipWidget::Voice);
-    if (shown)
-        showWindow();
-    m_pWindow->close();
-    QCOMPARE(m_sent, (QStringList{"mic+", "speaker+", "hangup", "clear"}));
-    QCOMPARE(text("lblUserName"), QString());
-}
-
-void tst_VoipWidget::closingAHiddenWindowDoesNotCountForQuit()
-{
-    const QSignalSpy lastClosed(qApp, &QGuiApplication::lastWindowClosed);
-    m_pWindow->close();
-    showWindow();
-    QVERIFY(!m_pWindow->testAttribute(Qt::WA_QuitOnClose));
-    m_pWindow->close();
-    QCOMPARE(lastClosed.count(), 0);
-}
-
-void tst_VoipWidget::confirmedCloseButtonCloses()
-{
-    startCall(CVoipWidget::Voice, true);
-    showWindow();
-    QStringList words;
-    answerQuestion("acceptBtn", [&words] {
-        const QWidget *pQuestion = QApplication::activeModalWidget();
-        for (const char *name : {"titlelabel", "msgLabel"})
-            words.append(pQuestion->findChild<QLabel *>(QLatin1String(name))->text());
-        for (const char *name : {"acceptBtn", "closeBtn"})
-            words.append(pQuestion->findChild<QPushButton *>(QLatin1String(name))->text());
-    });
-    click("btnClose");
-    QCOMPARE(words, (QStringList{"tip", "beSureToCloseCalling", "sure", "cancel"}));
-    QVERIFY(!m_pWindow->isVisible());
-    QCOMPARE(m_sent, (QStringList{"mic+", "speaker+", "hangup", "clear"}));
-}
-
-void tst_VoipWidget::cancelledCloseButtonLeavesTheCall()
-{
-    startCall(CVoipWidget::Voice, true);
-    showWindow();
-    answerQuestion("closeBtn");
-    click("btnClose");
-    QVERIFY(m_pWindow->isVisible());
-    QCOMPARE(m_sent, QStringList());
-    QCOMPARE(text("lblVoipTipMsg"), QStringLiteral("语音通话"));
-}
-
-void tst_VoipWidget::callThatEndsUnderTheOpenQuestionIsHarmless()
-{
-    startCall(CVoipWidget::Voice, true);
-    showWindow();
-    answerQuestion("acceptBtn", [this] { m_pWindow->UserOffline(); });
-    click("btnClose");
-    QVERIFY(!m_pWindow->isVisible());
-    QCOMPARE(m_sent.count("clear"), 2);
-}
-
-void tst_VoipWidget::userOfflineCloses()
-{
-    startCall(CVoipWidget::Conference, true);
-    showWindow();
-    m_pWindow->UserOffline();
-    QVERIFY(!m_pWindow->isVisible());
-    QCOMPARE(m_sent, (QStringList{"mic+", "speaker+", "hangup", "clear"}));
-    QCOMPARE(rows()->rowCount(), 0);
 }
 
 void tst_VoipWidget::hangUpMessageClearsDataOnly()
@@ -690,23 +380,6 @@ void tst_VoipWidget::operationsAreLogged()
         "VoipWidget.cpp: clear voipwidget ui!",
     };
     QCOMPARE(newRecords(), expected);
-}
-
-void tst_VoipWidget::clicksAreLogged()
-{
-    for (const char *name : {"btnMic", "btnSpeaker", "btnCamera", "HangUp"})
-        part<QPushButton>(name)->click();
-    answerQuestion("closeBtn");
-    part<QPushButton>("btnClose")->click();
-    part<QPushButton>("btnCancelCall")->click();
-    const QStringList expected{
-        "VoipWidget.cpp: click mic button!",     "VoipWidget.cpp: setmic bMute = 1",
-        "VoipWidget.cpp: click speaker button!", "VoipWidget.cpp: set speaker bMute = 1",
-        "VoipWidget.cpp: click camera button!",  "VoipWidget.cpp: set camera bEnable = 0",
-        "VoipWidget.cpp: click hangup button!",  "VoipWidget.cpp: click close button!",
-        "VoipWidget.cpp: cancel button click!",
-    };
-    QCOMPARE(newRecords().mid(0, expected.size()), expected);
 }
 
 void tst_VoipWidget::enablesAndVolumesGoToTheDebugChannel()

@@ -1,0 +1,389 @@
+#include "StoreFixture.h"
+
+#include "common/AppPaths.h"
+
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+// The tables of a new file in the order of their making.
+const QStringList newTables = {
+    "loginInfo",
+    "latestfriendnew",
+    "deletedfriendnew",
+    "msgrecord",
+    "message_session",
+    "message_unread_session",
+    "last_time",
+    "localfriendNew",
+    "mucrecord",
+    "mucmembers",
+    "grouptable",
+    "groupfriendversionNew",
+    "friendGrouptable",
+    "outsidegroupfriendversionNew",
+    "filereceviestatus",
+    "cloudfilelocalinfo",
+    "sharefilelocalinfo",
+    "filestatuslocalinfo",
+    "videoinfo",
+    "filedisplayinfo",
+    "servicenumber",
+    "localservicenumber",
+    "servicenumberversion",
+    "appnumbernew",
+    "appnumberversionnew",
+    "favorite",
+    "favoriteFileLocalInfo",
+    "unclosesession",
+    "unclosesessionorder",
+    "roomnotice",
+    "voipConferenceInfo",
+    "cs_agentInfo",
+    "cs_channel",
+    "cs_workgroup",
+    "cs_quikrply",
+    "cs_agent_session",
+    "cs_comment",
+    "cs_chatsummary",
+    "cs_channelquikrply",
+    "cs_topchannelIdlist",
+    "cs_chatsum",
+    "cs_chatandquickversion",
+    "dingmsginfo",
+    "dingsmsgfileoinfo",
+};
+
+const QString allTables = QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY rowid");
+
+} // namespace
+
+class tst_DB : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_store = std::make_unique<StoreFixture>(); }
+
+    // No test may make Qt warn: not of a connection in use, not of a closed one.
+    void cleanup()
+    {
+        DB::closeDB();
+        const QStringList warnings = m_store->messages.warnings;
+        m_store.reset();
+        QCOMPARE(warnings, QStringList());
+    }
+
+    void aNewFileHasAllTablesInTheFixedOrder()
+    {
+        QVERIFY(m_store->open());
+        QCOMPARE(newTables.size(), 44);
+        QCOMPARE(BesideFile(m_store->file()).rows(allTables), newTables);
+    }
+
+    void theUrgentMessagesVersionIsMadeOnlyWhenAskedFor()
+    {
+        QVERIFY(m_store->open());
+        QVERIFY(!DB::isExistTable("dingmsgversion"));
+        DB::createDingVersion();
+        QVERIFY(DB::isExistTable("dingmsgversion"));
+    }
+
+    void anEmptyPathMeansTheDocumentsFolder()
+    {
+        QVERIFY(DB::initByUserName("anna", QString(), true));
+        QVERIFY(QFile::exists(strAPP_DOCUMENT_IM_FILES_PATH() + "/anna/localData.db"));
+    }
+
+    void aRelativePathIsMadeAbsolute()
+    {
+        QVERIFY(DB::initByUserName("anna", "here", true));
+        QCOMPARE(DB::getDB().databaseName(), QDir::currentPath() + "/here/anna/localData.db");
+    }
+
+    void theSessionConnectionIsNamedAndPointedTo()
+    {
+        QVERIFY(m_store->open());
+        QCOMPARE(m_store->context.getSqlDatabase(), &DB::m_db);
+        QCOMPARE(DB::getDB().connectionName(), QString("KelvarIM"));
+        QCOMPARE(DB::getDB().driverName(), QString("QSQLITE"));
+        QVERIFY(DB::getDB().isOpen());
+    }
+
+    void writesDoNotWaitForTheDisk()
+    {
+        QVERIFY(m_store->open());
+        QSqlQuery query("PRAGMA synchronous", DB::getDB());
+        QVERIFY(query.next());
+        QCOMPARE(query.value(0).toInt(), 0);
+    }
+
+    void signingInOnAFreshUserFailsAndLeavesNoFolder()
+    {
+        QVERIFY(!DB::initByUserName("anna", m_store->base(), false));
+        QVERIFY(!QFile::exists(m_store->folder()));
+        QCOMPARE(m_store->context.getSqlDatabase(), &DB::m_db);
+        QVERIFY(!DB::getDB().isOpen());
+    }
+
+    void signingInWithAFolderButNoFileFailsAndMakesNone()
+    {
+        QVERIFY(QDir().mkpath(m_store->folder()));
+        QVERIFY(!DB::initByUserName("anna", m_store->base(), false));
+        QVERIFY(!QFile::exists(m_store->file()));
+    }
+
+    void signingInMakesTheLoginTableAlone()
+    {
+        m_store->make({});
+        QVERIFY(DB::initByUserName("anna", m_store->base(), false));
+        QCOMPARE(BesideFile(m_store->file()).rows(allTables), QStringList("loginInfo"));
+    }
+
+    void aFileThatCannotBeCreatedFailsTheOpenButIsPointedTo()
+    {
+        QVERIFY(QFile(m_store->folder()).open(QIODevice::WriteOnly));
+        QVERIFY(!m_store->open());
+        QCOMPARE(m_store->context.getSqlDatabase(), &DB::m_db);
+        QVERIFY(!DB::getDB().isOpen());
+    }
+
+    void aFileThatCannotBeOpenedFailsTheOpen()
+    {
+        QVERIFY(QDir().mkpath(m_store->file()));
+        QVERIFY(!m_store->open());
+        QCOMPARE(m_store->context.getSqlDatabase(), &DB::m_db);
+        QVERIFY(!DB::getDB().isOpen());
+    }
+
+    void anOpenAfterAFailedOneSucceeds()
+    {
+        QVERIFY(!DB::initByUserName("anna", m_store->base(), false));
+        QVERIFY(m_store->open());
+        QVERIFY(DB::getDB().isOpen());
+    }
+
+    void aSecondOpenSwitchesUsers()
+    {
+        QVERIFY(m_store->open("anna"));
+        QVERIFY(m_store->open("bert"));
+        QCOMPARE(DB::getDB().databaseName(), m_store->file("bert"));
+    }
+
+    void closingTakesTheConnectionAway()
+    {
+        QVERIFY(m_store->open());
+        DB::closeDB();
+        QVERIFY(!m_store->context.getSqlDatabase());
+        QVERIFY(!QSqlDatabase::contains("KelvarIM"));
+        QVERIFY(!DB::getDB().isValid());
+        QVERIFY(!DB::m_db.isValid());
+    }
+
+    void closingAClosedSessionDoesNothing()
+    {
+        DB::closeDB();
+        DB::closeDB();
+        QVERIFY(!m_store->context.getSqlDatabase());
+    }
+
+    void closingClosesTheConnectionThatTheContextPointsTo()
+    {
+        QVERIFY(m_store->open());
+        {
+            QSqlDatabase other = QSqlDatabase::addDatabase("QSQLITE", "other");
+            other.setDatabaseName(":memory:");
+            QVERIFY(other.open());
+            m_store->context.setSqlDatabase(&other);
+            DB::closeDB();
+            QVERIFY(!other.isOpen());
+        }
+        QSqlDatabase::removeDatabase("other");
+        QVERIFY(!m_store->context.getSqlDatabase());
+        QVERIFY(!QSqlDatabase::contains("KelvarIM"));
+    }
+
+    void theConnectionComesFromTheContext()
+    {
+        QVERIFY(m_store->open());
+        m_store->context.setSqlDatabase(nullptr);
+        QVERIFY(!DB::getDB().isValid());
+        m_store->context.setSqlDatabase(&DB::m_db);
+        QVERIFY(DB::getDB().isOpen());
+    }
+
+    void withoutAContextTheFileOpensAndNothingPointsToIt()
+    {
+        CommonFun::setCommonData(nullptr);
+        QVERIFY(!DB::getDB().isValid());
+        DB::closeDB();
+        QVERIFY(m_store->open("anna"));
+        QVERIFY(m_store->open("bert"));
+        QCOMPARE(DB::m_db.databaseName(), m_store->file("bert"));
+        QVERIFY(!DB::getDB().isValid());
+    }
+
+    void aSecondPassOverTheTablesChangesNothing()
+    {
+        QVERIFY(m_store->open());
+        BesideFile beside(m_store->file());
+        const QStringList schema = beside.schema();
+        const QStringList version = beside.rows("PRAGMA schema_version");
+        const QStringList rows = beside.rows("SELECT * FROM last_time");
+        DB::createTable();
+        QCOMPARE(beside.schema(), schema);
+        QCOMPARE(beside.rows("PRAGMA schema_version"), version);
+        QCOMPARE(beside.rows("SELECT * FROM last_time"), rows);
+    }
+
+    void oldMessagesGainTheMentionsAndReadNull()
+    {
+        m_store->make({"CREATE TABLE msgrecord(id VARCHAR(20) PRIMARY KEY, jid VARCHAR(100), sequenceId INT64)",
+                       "INSERT INTO msgrecord VALUES ('m1', 'bert@x', 7)"});
+        QVERIFY(m_store->open());
+        QCOMPARE(BesideFile(m_store->file()).rows("SELECT id,jid,sequenceId,atlist FROM msgrecord"),
+                 QStringList("m1|bert@x|7|NULL"));
+    }
+
+    void aTableOfFewerColumnsIsNeverRebuilt()
+    {
+        m_store->make({"CREATE TABLE favorite(own TEXT)", "INSERT INTO favorite VALUES ('kept')"});
+        QVERIFY(m_store->open());
+        QCOMPARE(BesideFile(m_store->file()).rows("SELECT * FROM favorite"), QStringList("kept"));
+    }
+
+    void creatorsWithoutAnOpenStoreDoNothing()
+    {
+        DB::createTable();
+        DB::createDingVersion();
+        DB::dropNoUseTable();
+        QVERIFY(!DB::isExistTable("loginInfo"));
+        QVERIFY(!DB::isExistFiled("loginInfo", "password"));
+        QVERIFY(!DB::isExistIndex("msgrecord", "_index1"));
+    }
+
+    void aTableIsFoundByItsWholeName()
+    {
+        QVERIFY(m_store->open());
+        QVERIFY(DB::isExistTable("loginInfo"));
+        QVERIFY(!DB::isExistTable("login"));
+        QVERIFY(!DB::isExistTable("logininfo"));
+        QVERIFY(!DB::isExistTable(QString()));
+        QVERIFY(!DB::isExistTable("msgrecord_index1"));
+        QVERIFY(DB::isExistTable("login'Info"));
+    }
+
+    void aColumnIsSoughtAsTextWhateverTheCase_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<bool>("found");
+        QTest::newRow("whole") << "isFold" << true;
+        QTest::newRow("other case") << "ISFOLD" << true;
+        QTest::newRow("part of a name") << "Fol" << true;
+        QTest::newRow("type text") << "primary key" << true;
+        QTest::newRow("missing") << "isOpen" << false;
+        QTest::newRow("apostrophe breaks the statement") << "is'Fold" << false;
+    }
+    void aColumnIsSoughtAsTextWhateverTheCase()
+    {
+        QFETCH(const QString, field);
+        QVERIFY(m_store->open());
+        QTEST(DB::isExistFiled("unclosesession", field), "found");
+        QVERIFY(!DB::isExistFiled("noSuchTable", field));
+    }
+
+    void anIndexIsFoundOnItsOwnTable()
+    {
+        QVERIFY(m_store->open());
+        QVERIFY(DB::isExistIndex("msgrecord", "_index1"));
+        QVERIFY(!DB::isExistIndex("msgrecord", "_index2"));
+        QVERIFY(!DB::isExistIndex("mucrecord", "_index1"));
+        QVERIFY(BesideFile(m_store->file()).run("CREATE INDEX favorite_index1 ON msgrecord(jid)"));
+        QVERIFY(!DB::isExistIndex("favorite", "_index1"));
+    }
+
+    void retiredTablesAreDroppedAndTheirSuccessorsStay()
+    {
+        const QStringList retired = {"deletedfriend", "grouptableNew",   "groupfriendversion", "localfriend",
+                                     "latestfriend",  "friendlist",      "muclocalmsg",        "msglist",
+                                     "appnumber",     "appnumberversion"};
+        QStringList statements;
+        for (const QString &table : retired)
+            statements.append("CREATE TABLE " + table + "(id TEXT)");
+        m_store->make(statements);
+        QVERIFY(m_store->open());
+        BesideFile beside(m_store->file());
+        QCOMPARE(beside.rows(allTables), retired + newTables);
+        DB::dropNoUseTable();
+        QCOMPARE(beside.rows(allTables), newTables);
+        DB::dropNoUseTable();
+        QCOMPARE(beside.rows(allTables), newTables);
+    }
+
+    void aTextIsReplacedInEveryRowOfOneColumn()
+    {
+        QVERIFY(m_store->open());
+        BesideFile beside(m_store->file());
+        QVERIFY(beside.run("INSERT INTO grouptable VALUES ('a/b', 'x/y/z'), ('c', '/'), ('d', NULL)"));
+        QVERIFY(DB::replaceFiled(DB::getDB(), "grouptable", "groupName", "/", "--"));
+        QCOMPARE(beside.rows("SELECT * FROM grouptable"), QStringList({"a/b|x--y--z", "c|--", "d|NULL"}));
+    }
+
+    void aReplacementThatIsNoStatementFails()
+    {
+        QVERIFY(m_store->open());
+        QVERIFY(!DB::replaceFiled(DB::getDB(), "grouptable", "groupName", "it's", "its"));
+        QVERIFY(!DB::replaceFiled(DB::getDB(), "noSuchTable", "groupName", "a", "b"));
+        QVERIFY(!DB::replaceFiled(QSqlDatabase(), "grouptable", "groupName", "a", "b"));
+    }
+
+    void apostrophesAreRemovedNotDoubled_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("literal");
+        QTest::newRow("one") << "it's"
+                             << "'its'";
+        QTest::newRow("name") << "O'Neil"
+                              << "'ONeil'";
+        QTest::newRow("several") << "''a''b'"
+                                 << "'ab'";
+        QTest::newRow("none") << "anna"
+                              << "'anna'";
+        QTest::newRow("empty") << ""
+                               << "''";
+        QTest::newRow("null") << QString() << "''";
+        QTest::newRow("only apostrophes") << "'''"
+                                          << "''";
+    }
+    void apostrophesAreRemovedNotDoubled()
+    {
+        QFETCH(const QString, text);
+        QTEST(DB::addYinHao(text), "literal");
+    }
+
+    void onlyAnOldFileWithoutANewOneNeedsTheUpdate_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<bool>("needed");
+        QTest::newRow("old one alone") << QStringList{"data.db"} << true;
+        QTest::newRow("both") << QStringList{"data.db", "localData.db"} << false;
+        QTest::newRow("new one alone") << QStringList{"localData.db"} << false;
+        QTest::newRow("none") << QStringList() << false;
+    }
+    void onlyAnOldFileWithoutANewOneNeedsTheUpdate()
+    {
+        QFETCH(const QStringList, files);
+        for (const QString &name : files)
+            QVERIFY(QFile(m_store->base() + '/' + name).open(QIODevice::WriteOnly));
+        QTEST(DB::isNeedUpdate(m_store->base()), "needed");
+        QCOMPARE(QDir(m_store->base()).entryList(QDir::Files), files);
+    }
+
+private:
+    std::unique_ptr<StoreFixture> m_store;
+};
+
+QTEST_GUILESS_MAIN(tst_DB)
+#include "tst_DB.moc"

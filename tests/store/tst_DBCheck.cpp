@@ -1,0 +1,230 @@
+#include "StoreFixture.h"
+#include "common/FileText.h"
+
+#include <QTest>
+#include <QTranslator>
+
+#include <memory>
+
+namespace {
+
+// The driver in the language in which the compared texts stand.
+class ChineseDriver : public QTranslator
+{
+public:
+    ChineseDriver() { QCoreApplication::installTranslator(this); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        return qstrcmp(source, "Unable to fetch row") == 0 ? QStringLiteral("不能获取行") : QString();
+    }
+};
+
+constexpr qint64 pageSize = 4096;
+
+const QString trialRows = QStringLiteral("SELECT id FROM msgrecord WHERE id = 'checkid'");
+
+// A table of many pages, the last made ones of which a test can spoil.
+const QStringList filler = {
+    "CREATE TABLE filler(text TEXT)",
+    "INSERT INTO filler WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 200)"
+    " SELECT hex(zeroblob(500)) FROM n",
+};
+
+} // namespace
+
+class tst_DBCheck : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_store = std::make_unique<StoreFixture>(); }
+
+    void cleanup()
+    {
+        const QStringList warnings = m_store->messages.warnings;
+        m_store.reset();
+        QCOMPARE(warnings, QStringList());
+    }
+
+    void aFolderWithoutAStoreIsSoundAndStaysAsItIs()
+    {
+        QVERIFY(DB::checkDB(m_store->base(), false));
+        QVERIFY(DB::checkDB(m_store->base(), true));
+        QVERIFY(QDir(m_store->base()).isEmpty());
+        QVERIFY(DB::checkDB(m_store->folder(), false));
+        QVERIFY(!QFile::exists(m_store->folder()));
+    }
+
+    void aSoundStorePassesAndKeepsNoTrialRow()
+    {
+        makeStore();
+        QVERIFY(DB::checkDB(m_store->folder(), false));
+        QCOMPARE(BesideFile(m_store->file()).rows(trialRows), QStringList());
+    }
+
+    void theQuickCheckAloneWritesNothing()
+    {
+        makeStore();
+        const QByteArray before = fileText(m_store->file());
+        QVERIFY(DB::checkDB(m_store->folder(), true));
+        QCOMPARE(fileText(m_store->file()), before);
+    }
+
+    void aLeftoverTrialRowIsRecognisedAndDeleted()
+    {
+        makeStore({"INSERT INTO msgrecord (id) VALUES ('checkid')"});
+        QVERIFY(DB::checkDB(m_store->folder(), false));
+        QCOMPARE(BesideFile(m_store->file()).rows(trialRows), QStringList());
+    }
+
+    void aLeftoverTrialRowIsDeletedButDoesNotVouchForTheRest()
+    {
+        makeStore(filler + QStringList("INSERT INTO msgrecord (id) VALUES ('checkid')"));
+        spoilTail();
+        QVERIFY(!DB::checkDB(m_store->folder(), false));
+        QCOMPARE(BesideFile(m_store->file()).rows(trialRows), QStringList());
+    }
+
+    void aStoreWithoutMessagesFallsThroughToTheQuickCheck()
+    {
+        m_store->make(filler);
+        QVERIFY(DB::checkDB(m_store->folder(), false));
+        spoilTail();
+        QVERIFY(!DB::checkDB(m_store->folder(), false));
+    }
+
+    void anEmptyFileIsSound()
+    {
+        m_store->make({});
+        QVERIFY(DB::checkDB(m_store->folder(), false));
+        QVERIFY(DB::checkDB(m_store->folder(), true));
+    }
+
+    void aWorkingTrialWriteVouchesForTheFile()
+    {
+        makeStore(filler);
+        spoilTail();
+        QVERIFY(DB::checkDB(m_store->folder(), false));
+        QVERIFY(!DB::checkDB(m_store->folder(), true));
+    }
+
+    void aMalformedMessageTableIsDamage()
+    {
+        makeStore();
+        spoilRootPageOf("msgrecord");
+        QVERIFY(!DB::checkDB(m_store->folder(), false));
+    }
+
+    void aFileThatIsNoDatabaseIsDamage()
+    {
+        QVERIFY(QDir().mkpath(m_store->folder()));
+        QVERIFY(writeFile(m_store->file(), QByteArray(5000, 'x')));
+        QVERIFY(!DB::checkDB(m_store->folder(), false));
+        QVERIFY(!DB::checkDB(m_store->folder(), true));
+        QCOMPARE(fileText(m_store->file()), QByteArray(5000, 'x'));
+    }
+
+    void aTruncatedFileIsDamageAndIsLeftAsItIs()
+    {
+        makeStore(filler);
+        QVERIFY(QFile::resize(m_store->file(), 3000));
+        const QByteArray before = fileText(m_store->file());
+        QVERIFY(!DB::checkDB(m_store->folder(), false));
+        QCOMPARE(fileText(m_store->file()), before);
+    }
+
+    // A trigger speaks for the older SQLite, on a file that the quick check would judge otherwise.
+    void theOlderWordsAreRecognisedWholeAndByCase_data()
+    {
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<bool>("translated");
+        QTest::addColumn<bool>("damaged");
+        QTest::addColumn<bool>("sound");
+        QTest::newRow("duplicate, other damage") << "column id is not unique" << true << true << true;
+        QTest::newRow("duplicate, driver in English") << "column id is not unique" << false << true << false;
+        QTest::newRow("duplicate, other case") << "Column id is not unique" << true << true << false;
+        QTest::newRow("duplicate, more text") << "column id is not unique." << true << true << false;
+        QTest::newRow("malformed, sound file") << "database disk image is malformed" << true << false << false;
+        QTest::newRow("malformed, driver in English") << "database disk image is malformed" << false << false << true;
+        QTest::newRow("malformed, other case") << "Database disk image is malformed" << true << false << true;
+        QTest::newRow("other words, sound file") << "no" << true << false << true;
+        QTest::newRow("other words, damage") << "no" << true << true << false;
+    }
+    void theOlderWordsAreRecognisedWholeAndByCase()
+    {
+        QFETCH(const QString, message);
+        QFETCH(const bool, translated);
+        QFETCH(const bool, damaged);
+        makeStore(filler + QStringList("CREATE TRIGGER say BEFORE INSERT ON msgrecord BEGIN SELECT RAISE(ABORT, '" +
+                                       message + "'); END"));
+        if (damaged)
+            spoilTail();
+        std::unique_ptr<ChineseDriver> driver;
+        if (translated)
+            driver = std::make_unique<ChineseDriver>();
+        QTEST(DB::checkDB(m_store->folder(), false), "sound");
+    }
+
+    void aFileThatCannotBeOpenedIsNotReportedAndItsConnectionStays()
+    {
+        QVERIFY(QDir().mkpath(m_store->file()));
+        QVERIFY(DB::checkDB(m_store->folder(), false));
+        QVERIFY(QSqlDatabase::contains("my_sql_db"));
+        QVERIFY(DB::checkDB(m_store->folder(), true));
+        QVERIFY(QSqlDatabase::contains("my_sql_db"));
+        QVERIFY(DB::checkDB(m_store->base(), true));
+        QVERIFY(QSqlDatabase::contains("my_sql_db"));
+        makeStore({}, "bert");
+        QVERIFY(DB::checkDB(m_store->folder("bert"), false));
+        QVERIFY(!QSqlDatabase::contains("my_sql_db"));
+    }
+
+    void theSessionIsNotTouched()
+    {
+        makeStore({}, "bert");
+        QVERIFY(m_store->open("anna"));
+        QVERIFY(DB::checkDB(m_store->folder("bert"), false));
+        QVERIFY(DB::checkDB(m_store->folder("anna"), false));
+        QCOMPARE(DB::getDB().databaseName(), m_store->file("anna"));
+        QVERIFY(DB::isExistTable("loginInfo"));
+    }
+
+private:
+    /// A complete store, closed again, with further statements carried out on it.
+    void makeStore(const QStringList &statements = {}, const QString &user = QStringLiteral("anna"))
+    {
+        QVERIFY(m_store->open(user));
+        DB::closeDB();
+        BesideFile beside(m_store->file(user));
+        for (const QString &statement : statements)
+            QVERIFY2(beside.run(statement), qPrintable(statement));
+    }
+
+    /// Overwrites a page of the filler table.
+    void spoilTail()
+    {
+        QFile file(m_store->file());
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.seek(file.size() - 10 * pageSize));
+        QCOMPARE(file.write(QByteArray(int(pageSize), '\x77')), pageSize);
+    }
+
+    void spoilRootPageOf(const QString &table)
+    {
+        const qint64 page = BesideFile(m_store->file())
+                                .rows("SELECT rootpage FROM sqlite_master WHERE name = '" + table + "'")
+                                .value(0)
+                                .toLongLong();
+        QVERIFY(page > 1);
+        QFile file(m_store->file());
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.seek((page - 1) * pageSize));
+        QCOMPARE(file.write(QByteArray(int(pageSize), '\x77')), pageSize);
+    }
+
+    std::unique_ptr<StoreFixture> m_store;
+};
+
+QTEST_GUILESS_MAIN(tst_DBCheck)
+#include "tst_DBCheck.moc"

@@ -1,0 +1,56 @@
+#pragma once
+
+// What the tests of the call window share: a fresh window for each test function beside a few contacts, its parts by
+// name, all that it sends, and what it logs. Derive the test class from it. GUI thread.
+
+#include "ContactFixture.h"
+#include "fakes/LogCapture.h"
+#include "ui/ConferenceListView.h"
+#include "ui/ConferenceRoles.h"
+#include "ui/VoipWidget.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include <functional>
+#include <memory>
+
+class CallWindowTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    static QString uid(const char *name) { return QLatin1String(name); }
+    /// The part of the form with this object name.
+    template <typename Widget>
+    Widget *part(const char *name) const
+    {
+        return m_pWindow->findChild<Widget *>(QLatin1String(name));
+    }
+    QString text(const char *name) const { return part<QLabel>(name)->text(); }
+    QAbstractItemModel *rows() const { return part<CConferenceListView>("listView")->model(); }
+    int status(int iRow) const { return rows()->index(iRow, 0).data(ROLE_CALL_STATUS).toInt(); }
+    void showWindow();
+    void click(const char *name) { QTest::mouseClick(part<QPushButton>(name), Qt::LeftButton); }
+    /// Sets the window up for an own call with ann (and bob).
+    void startCall(CVoipWidget::VoipType type, bool bConnected = false);
+    /// Clicks a button of the question that the next user action opens.
+    void answerQuestion(
+        const char *name, const std::function<void()> &before = [] {});
+    /// The log records since the last call, each as "source: message".
+    QStringList newRecords();
+
+    LogCapture m_log;
+    std::unique_ptr<ContactFixture> m_pContacts;
+    std::unique_ptr<CVoipWidget> m_pWindow;
+    /// The signals sent in this test function, oldest first: "mic+", "speaker-", "hangup" and so on.
+    QStringList m_sent;
+
+private slots:
+    void init();
+    void cleanup();
+
+private:
+    void record();
+};
