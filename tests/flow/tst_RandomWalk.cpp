@@ -17,6 +17,28 @@
 
 namespace {
 
+QString shown(const QString &text)
+{
+    return text;
+}
+QString shown(const QStringList &texts)
+{
+    return texts.isEmpty() ? QStringLiteral("nothing") : texts.join(", ");
+}
+QString shown(bool value)
+{
+    return value ? QStringLiteral("true") : QStringLiteral("false");
+}
+
+/// A line of text when the two are not the same.
+template <class Value>
+QString difference(const char *what, const Value &engineHas, const Value &modelHas)
+{
+    if (engineHas == modelHas)
+        return {};
+    return QStringLiteral("%1: %2 instead of %3\n").arg(QLatin1String(what), shown(engineHas), shown(modelHas));
+}
+
 /// One engine, its model, and what is done to both.
 class Walk
 {
@@ -45,9 +67,6 @@ private:
 
     template <class... Fields>
     QByteArray command(EMsgId id, const Fields &...fields);
-    template <class Value>
-    QString difference(const char *what, const Value &engineHas, const Value &modelHas);
-
     void callSingleUser();
     void callConference();
     void answer();
@@ -77,9 +96,9 @@ const QList<Walk::Action> &Walk::actions()
 {
     static const QList<Action> s_actions{
         {60, &Walk::takeLine},  {6, &Walk::callSingleUser},    {4, &Walk::callConference},
-        {5, &Walk::answer},     {2, &Walk::setOnline},         {4, &Walk::query},
+        {5, &Walk::answer},     {2, &Walk::setOnline},         {3, &Walk::query},
         {4, &Walk::updateCard}, {1, &Walk::showCentre},        {1, &Walk::exit},
-        {3, &Walk::hangUp},     {3, &Walk::closeWindow},       {4, &Walk::timeouts},
+        {3, &Walk::hangUp},     {6, &Walk::closeWindow},       {4, &Walk::timeouts},
         {4, &Walk::addMembers}, {8, &Walk::changeMember},      {2, &Walk::muteAll},
         {4, &Walk::device},     {4, &Walk::loseOrFindChannel},
     };
@@ -306,16 +325,6 @@ void Walk::holdReconnection()
     manager().m_reconnectTimer.stop();
 }
 
-template <class Value>
-QString Walk::difference(const char *what, const Value &engineHas, const Value &modelHas)
-{
-    if (engineHas == modelHas)
-        return {};
-    return QStringLiteral("%1: %2 instead of %3\n")
-        .arg(QLatin1String(what), QVariant(engineHas).toStringList().join(", "),
-             QVariant(modelHas).toStringList().join(", "));
-}
-
 QString Walk::fault()
 {
     QStringList journal = engine.takeJournal();
@@ -332,7 +341,7 @@ QString Walk::fault()
     fault += difference("said", journal, std::exchange(model.journal, {}));
     fault += difference("boxes", std::exchange(engine.boxes.texts, {}), std::exchange(model.boxes, {}));
     if (last == "query")
-        fault += difference("answers", m_answer, packPayload(model.exists(), false));
+        fault += difference("answered", m_answer == packPayload(model.exists(), false), true);
     if (journal.filter(QRegularExpression("^4478 ")).size() > 1)
         fault += "more than one record\n";
     if (last.endsWith("does not run"))
