@@ -257,8 +257,10 @@ void listRecords(benchmark::State &state)
 {
     DB::initByUserName(user, storeWith(int(state.range(0))), true);
     for (auto _ : state) {
-        if (DBConfInfo::getAllConfInfo().size() != state.range(0))
+        if (DBConfInfo::getAllConfInfo().size() != state.range(0)) {
             state.SkipWithError("records are missing");
+            break;
+        }
     }
     DB::closeDB();
     state.SetItemsProcessed(state.iterations() * state.range(0));
@@ -269,8 +271,10 @@ void listRecordsBareSqlite(benchmark::State &state)
 {
     sqlite3 *db = openBare(fileOf(storeWith(int(state.range(0)))));
     for (auto _ : state) {
-        if (listBare(db).size() != state.range(0))
+        if (listBare(db).size() != state.range(0)) {
             state.SkipWithError("records are missing");
+            break;
+        }
     }
     sqlite3_close(db);
     state.SetItemsProcessed(state.iterations() * state.range(0));
