@@ -86,9 +86,9 @@ void HostSession::answerCall(bool bAccept)
     post(MSG_RESPONSE_VOIP_REQUEST, packPayload(bAccept));
 }
 
-void HostSession::callConference(const QStringList &uids)
+void HostSession::callConference(const ConferenceWish &wish)
 {
-    post(MSG_CALL_CONFERENCE, packPayload(uids, QString(), false));
+    post(MSG_CALL_CONFERENCE, packPayload(wish.uids, wish.text, wish.flag));
 }
 
 void HostSession::sendCards(const QStringList &uids)

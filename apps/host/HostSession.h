@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ConferenceWish.h"
 #include "HostContext.h"
 #include "HostMailbox.h"
 #include "HostStore.h"
@@ -40,8 +41,8 @@ public:
     void callUser(const QString &strUid, bool bVideo);
     /// Answers the prompt of an incoming call.
     void answerCall(bool bAccept);
-    /// Starts a conference with these users.
-    void callConference(const QStringList &uids);
+    /// Starts a conference.
+    void callConference(const ConferenceWish &wish);
 
     /// Whether the plug-in has a call, in any state.
     bool isExistCall();

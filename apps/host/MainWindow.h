@@ -41,6 +41,8 @@ private:
     void setUpRecords();
     void connectSession();
     void call(const QString &strUid, bool bVideo);
+    /// Lets the user pick people, those named checked from the start, and calls them together.
+    void startConference(const QStringList &named);
     void callNumber();
     void showOnline(bool bOnline);
     void showNotice();

@@ -71,6 +71,8 @@ signals:
     void signal_ReInviteConfUser(QString strUserID);
 
 protected:
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     bool eventFilter(QObject *obj, QEvent *event) override;
 
@@ -78,6 +80,8 @@ private slots:
     void slot_UpdateCallStatu();
 
 private:
+    void hoverItem(QStandardItem *pItem, const QPoint &position);
+    void clickItem(QStandardItem *pItem, const QPoint &position);
     QStandardItem *creatUserItem(const QString &strUserID);
     void appendUserItem(const QString &strUserID);
 
