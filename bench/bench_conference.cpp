@@ -1,0 +1,203 @@
+// A conference update of 10, 100 and 1,000 members, from the inbound line to the repainted window: all members new to
+// this side, and all known already. "member" is the cost of one member, which must not grow with their number. Beside
+// it a bare list view that gets as many rows.
+
+#include "common/CommonFun.h"
+#include "engine/VoipManage.h"
+#include "model/CommonData.h"
+#include "model/FriendData.h"
+#include "model/LoginData.h"
+#include "plugin/BaseEvent.h"
+#include "plugin/EventPayload.h"
+#include "plugin/VoipManageMessageProcess.h"
+#include "ui/ConferenceListView.h"
+#include "ui/VoipWidget.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLocalServer>
+#include <QStandardItemModel>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+constexpr int kMostMembers = 1000;
+
+QString uid(int number)
+{
+    return QStringLiteral("3001") + QString::number(number);
+}
+
+/// Knows every member as a contact.
+class Host : public QObject
+{
+protected:
+    void customEvent(QEvent *event) override
+    {
+        auto *command = static_cast<BaseEvent *>(event);
+        if (command->msgId == MSG_IS_EXIST_FRIEND)
+            command->data = packPayload(true);
+    }
+};
+
+/// Whether a widget has been painted since the last look.
+class PaintWatch : public QObject
+{
+public:
+    explicit PaintWatch(QWidget *widget) { widget->installEventFilter(this); }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        m_painted = m_painted || event->type() == QEvent::Paint;
+        return false;
+    }
+    void wait()
+    {
+        for (m_painted = false; !m_painted;)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+
+private:
+    bool m_painted = false;
+};
+
+void settle()
+{
+    QElapsedTimer time;
+    for (time.start(); time.elapsed() < 20;)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+}
+
+class Engine : public CVoipManage
+{
+public:
+    CVoipWidget *window() { return m_pVoipWidget; }
+    QWidget *rows() { return m_pVoipWidget->findChild<CConferenceListView *>()->viewport(); }
+
+    /// In a conference, connected, with nobody in it and the empty list on the screen.
+    void joinAnew()
+    {
+        callFinished(CallData::FinishHangup);
+        m_callData.bIsConf = true;
+        m_callData.peerId = uid(0);
+        m_callData.confId = QStringLiteral("c1");
+        m_pVoipWidget->setVoipCallInfo({}, CVoipWidget::Conference, false, true);
+        m_pVoipWidget->show();
+        settle();
+    }
+};
+
+QString updateLine(int members)
+{
+    QStringList ids;
+    for (int i = 0; i < members; ++i)
+        ids << uid(i);
+    return R"({"resultCode":12,"content":"{\"content\":{\"confId\":\"c1\",\"conventioneer\":[\")" +
+           ids.join(QStringLiteral(R"(\",\")")) + R"(\"]}}"})";
+}
+
+void countMembers(benchmark::State &state)
+{
+    state.counters["member"] = benchmark::Counter(static_cast<double>(state.iterations() * state.range(0)),
+                                                  benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+}
+
+void takeTime(benchmark::State &state, const QElapsedTimer &time)
+{
+    state.SetIterationTime(static_cast<double>(time.nsecsElapsed()) * 1e-9);
+}
+
+void membersNew(benchmark::State &state)
+{
+    Engine engine;
+    PaintWatch rows(engine.rows());
+    const QString line = updateLine(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        engine.joinAnew();
+        QElapsedTimer time;
+        time.start();
+        engine.recevieVoipMessage(line);
+        rows.wait();
+        takeTime(state, time);
+    }
+    countMembers(state);
+    engine.callFinished(CallData::FinishHangup);
+}
+BENCHMARK(membersNew)->Arg(10)->Arg(100)->Arg(kMostMembers)->UseManualTime()->Iterations(10);
+
+void membersKnown(benchmark::State &state)
+{
+    Engine engine;
+    const QString line = updateLine(static_cast<int>(state.range(0)));
+    engine.joinAnew();
+    engine.recevieVoipMessage(line);
+    settle();
+    for (auto _ : state) {
+        engine.recevieVoipMessage(line);
+        QCoreApplication::processEvents();
+    }
+    countMembers(state);
+    engine.callFinished(CallData::FinishHangup);
+}
+BENCHMARK(membersKnown)->Arg(10)->Arg(100)->Arg(kMostMembers)->UseRealTime();
+
+void bareListView(benchmark::State &state)
+{
+    QListView view;
+    QStandardItemModel model;
+    view.setModel(&model);
+    view.resize(500, 300);
+    view.show();
+    PaintWatch rows(view.viewport());
+    for (auto _ : state) {
+        model.clear();
+        settle();
+        QElapsedTimer time;
+        time.start();
+        for (int i = 0; i < state.range(0); ++i)
+            model.appendRow(new QStandardItem(uid(i)));
+        rows.wait();
+        takeTime(state, time);
+    }
+    countMembers(state);
+}
+BENCHMARK(bareListView)->Arg(10)->Arg(100)->Arg(kMostMembers)->UseManualTime()->Iterations(10);
+
+QMap<QString, FriendData> contacts()
+{
+    QMap<QString, FriendData> contacts;
+    for (int i = 0; i < kMostMembers; ++i) {
+        FriendData contact;
+        contact.m_vcardInfo.m_strNickName = QStringLiteral("成员") + QString::number(i);
+        contacts.insert(CommonFun::getJidByUid(uid(i)), contact);
+    }
+    return contacts;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    // What the host does with the debug channel is its own cost.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    LoginData login;
+    login.m_strUid = QStringLiteral("me");
+    login.m_strDomain = QStringLiteral("kelvar.im");
+    CommonData data;
+    data.setLoginData(&login);
+    CommonFun::setCommonData(&data);
+    data.setFriendDataMap(contacts());
+    Host host;
+    VoipManageMessageProcess::instance()->setSendEvent(&host);
+    QLocalServer server;
+    if (!server.listen(QStringLiteral("VoipSDK")))
+        return 1;
+
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    VoipManageMessageProcess::instance()->setSendEvent(nullptr);
+    CommonFun::setCommonData(nullptr);
+    return 0;
+}
