@@ -5,12 +5,25 @@
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
 constexpr int CREATED_AFTER_MS = 200;
 constexpr int CONNECT_AFTER_MS = 300;
+constexpr int ANOTHER_AFTER_MS = 1000;
 constexpr const char *INVITED_WITH = "30010001";
+constexpr const char *ANOTHER_CONFERENCE = "another";
+constexpr const char *EVERYBODY = "non_moderator";
+
+/// A word of control and how the trace tells that it was obeyed.
+struct ControlRow
+{
+    const char *operation;
+    const char *done;
+};
+
+constexpr std::array<ControlRow, 3> CONTROLS{{{"kick", "kicked"}, {"mute", "muted"}, {"unmute", "unmuted"}}};
 
 QString compact(const QJsonObject &object)
 {
@@ -27,6 +40,13 @@ void ConferenceDesk::request(const QString &ownId, const QStringList &members)
 {
     open(Phase::Creating, ownId, ownId);
     afterInConference(CREATED_AFTER_MS, [this, members] {
+        const auto reachable = [this](const QString &id) { return canReach(id); };
+        if (!members.isEmpty() && std::none_of(members.begin(), members.end(), reachable)) {
+            m_outlet.note(QStringLiteral("no conference: nobody can be reached"));
+            end();
+            m_outlet.notify(Code::ConfCreated);
+            return;
+        }
         m_outlet.notify(Code::ConfCreated,
                         compact({{QStringLiteral("result"), QJsonObject{{QStringLiteral("confId"), m_confId}}}}));
         afterInConference(CONNECT_AFTER_MS, [this, members] {
@@ -43,6 +63,9 @@ void ConferenceDesk::invite(const Robot &robot, const QString &ownId)
 {
     const QString creator = QString::fromLatin1(robot.id);
     open(Phase::Invited, ownId, creator);
+    if (robot.then == Return::InvitesUntimed) {
+        m_createTime = 0;
+    }
     m_connected.append(creator);
     m_outlet.notify(Code::IncomingConf, document(creator));
     afterInConference(ROBOT_PATIENCE_MS, [this] {
@@ -61,6 +84,9 @@ void ConferenceDesk::accept()
     afterInConference(CONNECT_AFTER_MS, [this] {
         join(findRobot(m_creator));
         callMembers({QString::fromLatin1(INVITED_WITH)});
+        if (findRobot(m_creator)->then == Return::InvitesUntimed) {
+            afterInConference(ANOTHER_AFTER_MS, [this] { tellOfAnotherConference(); });
+        }
     });
 }
 
@@ -75,9 +101,37 @@ void ConferenceDesk::add(const QStringList &users)
 
 void ConferenceDesk::control(const QString &operation, const QString &userId)
 {
-    if (operation == QLatin1String("kick") && userId != m_ownId && m_connected.contains(userId)) {
-        memberLeaves(userId);
+    const auto *row = std::find_if(CONTROLS.begin(), CONTROLS.end(), [&](const ControlRow &entry) {
+        return operation == QLatin1String(entry.operation);
+    });
+    const QStringList obeying = controlled(userId);
+    if (row == CONTROLS.end() || obeying.isEmpty()) {
+        m_outlet.note(QStringLiteral("nobody to %1: %2").arg(operation, userId));
+        return;
     }
+    m_outlet.note(QStringLiteral("%1 %2").arg(QLatin1String(row->done), obeying.join(QLatin1Char(' '))));
+    for (const QString &id : obeying) {
+        m_muted.removeAll(id);
+        if (operation == QLatin1String("mute")) {
+            m_muted.append(id);
+        } else if (operation == QLatin1String("kick")) {
+            memberLeaves(id);
+        }
+    }
+    m_outlet.note(QStringLiteral("muted now: [%1]").arg(m_muted.join(QLatin1Char(' '))));
+}
+
+/// The connected members whom a word of control for this id is meant for.
+QStringList ConferenceDesk::controlled(const QString &userId) const
+{
+    const bool everybody = userId == QLatin1String(EVERYBODY);
+    QStringList ids;
+    for (const QString &id : m_connected) {
+        if (id != m_ownId && (everybody ? id != m_creator : id == userId)) {
+            ids.append(id);
+        }
+    }
+    return ids;
 }
 
 void ConferenceDesk::end()
@@ -88,6 +142,7 @@ void ConferenceDesk::end()
     m_confId.clear();
     m_createTime = 0;
     m_connected.clear();
+    m_muted.clear();
     m_timers = std::make_unique<QObject>();
     m_memberTimers.clear();
 }
@@ -124,18 +179,23 @@ void ConferenceDesk::join(const Robot *creator)
     }
 }
 
+bool ConferenceDesk::canReach(const QString &id) const
+{
+    const Robot *robot = findRobot(id);
+    return robot != nullptr && robot->reply != Reply::Fails;
+}
+
 QStringList ConferenceDesk::callMembers(const QStringList &users)
 {
     QStringList failed;
     for (const QString &id : users) {
-        const Robot *robot = findRobot(id);
         if (id == m_ownId || m_connected.contains(id)) {
             continue;
         }
-        if (robot == nullptr || robot->reply == Reply::Fails) {
-            failed.append(id);
+        if (canReach(id)) {
+            callMember(*findRobot(id));
         } else {
-            callMember(*robot);
+            failed.append(id);
         }
     }
     return failed;
@@ -154,23 +214,48 @@ void ConferenceDesk::memberReplies(const Robot &robot)
 {
     const QString id = QString::fromLatin1(robot.id);
     if (robot.reply == Reply::Busy) {
-        m_outlet.notify(Code::ConfMemberRejected, id);
-    } else if (robot.reply == Reply::Rejects) {
         m_outlet.notify(Code::UserRejected, id);
+    } else if (robot.reply == Reply::Rejects) {
+        m_outlet.notify(Code::ConfMemberRejected, id);
     } else {
-        m_connected.append(id);
-        m_outlet.notify(Code::ConfUpdate, document(id));
-        if (robot.hangsUpAfterMs > 0) {
-            m_outlet.after(m_memberTimers[id].get(), robot.hangsUpAfterMs, [this, id] { memberLeaves(id); });
-        }
+        memberJoins(robot);
     }
+}
+
+void ConferenceDesk::memberJoins(const Robot &robot)
+{
+    const QString id = QString::fromLatin1(robot.id);
+    m_connected.append(id);
+    m_outlet.notify(Code::ConfUpdate, document(id));
+    if (robot.hangsUpAfterMs == 0) {
+        return;
+    }
+    m_outlet.after(m_memberTimers[id].get(), robot.hangsUpAfterMs, [this, &robot, id] {
+        memberLeaves(id);
+        if (robot.then == Return::Rejoins) {
+            m_memberTimers[id] = std::make_unique<QObject>();
+            m_outlet.after(m_memberTimers[id].get(), robot.thenAfterMs, [this, &robot] { memberJoins(robot); });
+        }
+    });
 }
 
 void ConferenceDesk::memberLeaves(const QString &id)
 {
     m_connected.removeAll(id);
+    m_muted.removeAll(id);
     m_memberTimers.erase(id);
     m_outlet.notify(Code::ConfMemberLeft, document(id));
+}
+
+/// A conference that the plug-in has nothing to do with: none of these lines may have an effect on the members.
+void ConferenceDesk::tellOfAnotherConference()
+{
+    const QString another = QString::fromLatin1(ANOTHER_CONFERENCE);
+    const QString member = QStringLiteral("30010006");
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    m_outlet.notify(Code::ConfUpdate, document(another, member, {member}, now));
+    m_outlet.notify(Code::ConfMemberLeft, document(another, m_creator, {}, now));
+    m_outlet.notify(Code::IncomingConf, document(another, member, {member}, now));
 }
 
 void ConferenceDesk::tellAddResult(const QStringList &failed)
@@ -181,9 +266,17 @@ void ConferenceDesk::tellAddResult(const QStringList &failed)
 
 QString ConferenceDesk::document(const QString &from) const
 {
-    const QJsonObject body{{QStringLiteral("from"), from},
-                           {QStringLiteral("conventioneer"), QJsonArray::fromStringList(m_connected)},
-                           {QStringLiteral("confId"), m_confId},
-                           {QStringLiteral("createTime"), static_cast<double>(m_createTime)}};
+    return document(m_confId, from, m_connected, m_createTime);
+}
+
+QString ConferenceDesk::document(const QString &confId, const QString &from, const QStringList &members,
+                                 qint64 createTime)
+{
+    QJsonObject body{{QStringLiteral("from"), from},
+                     {QStringLiteral("conventioneer"), QJsonArray::fromStringList(members)},
+                     {QStringLiteral("confId"), confId}};
+    if (createTime > 0) {
+        body.insert(QStringLiteral("createTime"), static_cast<double>(createTime));
+    }
     return compact({{QStringLiteral("content"), body}});
 }

@@ -24,6 +24,7 @@ public:
     bool hasConference() const { return m_phase != Phase::None; }
 
     /// The plug-in's user `ownId` asks for a conference with `members`; one that was still there ends without a word.
+    /// When none of the members can be reached there is no conference, unless nobody was to be called.
     void request(const QString &ownId, const QStringList &members);
     /// A robot invites `ownId` to a conference of its own.
     void invite(const Robot &robot, const QString &ownId);
@@ -31,8 +32,8 @@ public:
     void accept();
     /// The plug-in adds `users`; those who are in already are passed over. Answered by the list of failed ones.
     void add(const QStringList &users);
-    /// The plug-in removes a member; one who is not connected is passed over. "mute" and "unmute" change nothing that
-    /// could be told.
+    /// The plug-in removes, mutes or unmutes a connected member, or every one but the creator ("non_moderator"). The
+    /// trace says who obeyed; only a removal is told to the plug-in.
     void control(const QString &operation, const QString &userId);
     /// The plug-in rejects or hangs up: the conference is over for it.
     void end();
@@ -49,21 +50,27 @@ private:
     void open(Phase phase, const QString &ownId, const QString &creator);
     void afterInConference(int delayMs, const std::function<void()> &action);
     void join(const Robot *creator);
+    bool canReach(const QString &id) const;
     /// Calls each of the users; gives the ids that cannot be reached.
     QStringList callMembers(const QStringList &users);
     void callMember(const Robot &robot);
     void memberReplies(const Robot &robot);
+    void memberJoins(const Robot &robot);
     void memberLeaves(const QString &id);
+    QStringList controlled(const QString &userId) const;
+    void tellOfAnotherConference();
     void tellAddResult(const QStringList &failed);
     QString document(const QString &from) const;
+    static QString document(const QString &confId, const QString &from, const QStringList &members, qint64 createTime);
 
     Outlet &m_outlet;
     Phase m_phase = Phase::None;
     QString m_ownId;
     QString m_creator;
     QString m_confId;
-    qint64 m_createTime = 0;
+    qint64 m_createTime = 0; // milliseconds since 1970, 0: not told
     QStringList m_connected;
+    QStringList m_muted;
     std::unique_ptr<QObject> m_timers; // context of the conference's own timers: they go with it
     std::map<QString, std::unique_ptr<QObject>> m_memberTimers; // the same for each member that was called
 };

@@ -4,6 +4,7 @@
 #include "EventWords.h"
 
 #include "common/CommonFun.h"
+#include "model/SystemSetData.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"
@@ -30,6 +31,7 @@ bool HostSession::start(const QString &strModule, QString *strError)
 {
     m_context.signIn(ContactBook::ownUid(), loginDomain(), m_book);
     CommonFun::setCommonData(m_context.data());
+    m_store.open(ContactBook::ownUid(), SystemSetData::instance()->m_strMsgFilePath);
 
     QPluginLoader loader(strModule);
     QObject *root = loader.instance();
@@ -84,9 +86,9 @@ void HostSession::answerCall(bool bAccept)
     post(MSG_RESPONSE_VOIP_REQUEST, packPayload(bAccept));
 }
 
-void HostSession::callConference(const QStringList &uids)
+void HostSession::callConference(const ConferenceWish &wish)
 {
-    post(MSG_CALL_CONFERENCE, packPayload(uids, QString(), false));
+    post(MSG_CALL_CONFERENCE, packPayload(wish.uids, wish.text, wish.flag));
 }
 
 void HostSession::sendCards(const QStringList &uids)
@@ -119,4 +121,6 @@ void HostSession::quit()
     // Delivered at once: the process may end before the queue is read again.
     BaseEvent event(MSG_EXIT_VOIP, sessionPluginId(), voipPluginId(), false);
     QCoreApplication::sendEvent(m_pPlugin, &event);
+    // Only now: the end of a conference still writes its record.
+    m_store.close();
 }

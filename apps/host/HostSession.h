@@ -1,7 +1,9 @@
 #pragma once
 
+#include "ConferenceWish.h"
 #include "HostContext.h"
 #include "HostMailbox.h"
+#include "HostStore.h"
 
 #include "plugin/EMsgId.h"
 
@@ -25,8 +27,9 @@ public:
     /// The domain that this client's users belong to.
     static QString loginDomain();
 
-    /// Signs the user in and loads the module at `strModule`. Returns false, with the reason in `strError`, when the
-    /// file is not a plug-in of this client.
+    /// Signs the user in, opens the user's local store and loads the module at `strModule`. Returns false, with the
+    /// reason in `strError`, when the file is not a plug-in of this client. A store that cannot be opened is no reason:
+    /// see store().
     bool start(const QString &strModule, QString *strError);
 
     /// Tells the plug-in that the login came up or went down. The first command makes the plug-in start its call
@@ -38,19 +41,21 @@ public:
     void callUser(const QString &strUid, bool bVideo);
     /// Answers the prompt of an incoming call.
     void answerCall(bool bAccept);
-    /// Starts a conference with these users.
-    void callConference(const QStringList &uids);
+    /// Starts a conference.
+    void callConference(const ConferenceWish &wish);
 
     /// Whether the plug-in has a call, in any state.
     bool isExistCall();
     /// What the plug-in answers to the question for a video call.
     bool isVideoCall();
 
-    /// Tells the plug-in that the client quits. A second call does nothing.
+    /// Tells the plug-in that the client quits and closes the store behind it. A second call does nothing.
     void quit();
 
     /// Where the plug-in's events arrive.
     HostMailbox &mailbox() { return m_mailbox; }
+    /// The user's local store: whether it is open, and what has to be told of it.
+    const HostStore &store() const { return m_store; }
     /// The plug-in's own words about itself, "FileManagePlugin {2EFF...}"; empty before start.
     QString pluginWords() const { return m_strPlugin; }
     /// Path of the client's log file.
@@ -68,6 +73,7 @@ private:
 
     ContactBook &m_book;
     HostContext m_context;
+    HostStore m_store;
     HostMailbox m_mailbox;
     QPointer<QObject> m_pPlugin;
     QString m_strPlugin;

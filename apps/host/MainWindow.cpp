@@ -19,9 +19,11 @@ MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     fillContacts();
     setUpRecords();
     connectSession();
+    showNotice();
     showOnline(m_session.isOnline());
     connect(ui->btnOnline, &QPushButton::clicked, this, [this](bool bChecked) { m_session.setOnline(bChecked); });
     connect(ui->btnCallNumber, &QPushButton::clicked, this, &MainWindow::callNumber);
+    connect(ui->btnConference, &QPushButton::clicked, this, [this] { startConference(QStringList()); });
     connect(ui->editNumber, &QLineEdit::returnPressed, this, &MainWindow::callNumber);
     connect(ui->editNumber, &QLineEdit::textChanged, this,
             [this](const QString &strText) { ui->btnCallNumber->setEnabled(!strText.trimmed().isEmpty()); });
@@ -71,18 +73,25 @@ void MainWindow::connectSession()
     connect(&mailbox, &HostMailbox::promptWithdrawn, &m_prompt, &IncomingPrompt::withdraw);
     connect(&m_prompt, &IncomingPrompt::answered, this,
             [this](const QString &, bool bAccept) { m_session.answerCall(bAccept); });
-    connect(&mailbox, &HostMailbox::conferenceWanted, this, [this](const QStringList &uids) {
-        m_session.callConference(uids + MemberPicker::pick(m_book, uids, this));
-    });
+    connect(&mailbox, &HostMailbox::conferenceWanted, this, &MainWindow::startConference);
     connect(&mailbox, &HostMailbox::signatureShown, this, &MainWindow::showSignature);
     connect(&mailbox, &HostMailbox::signatureHidden, &m_signature, &QLabel::hide);
-    mailbox.setMemberPicker([this](const QStringList &present) { return MemberPicker::pick(m_book, present, this); });
+    mailbox.setMemberPicker(
+        [this](const QStringList &present) { return MemberPicker::pickMore(m_book, present, this); });
 }
 
 void MainWindow::call(const QString &strUid, bool bVideo)
 {
     statusBar()->showMessage(tr("Calling %1").arg(m_book.nameOf(strUid)));
     m_session.callUser(strUid, bVideo);
+}
+
+void MainWindow::startConference(const QStringList &named)
+{
+    if (const std::optional<ConferenceWish> wish = MemberPicker::pickNew(m_book, named, this)) {
+        statusBar()->showMessage(tr("Starting a conference with %n other(s)", nullptr, wish->uids.size()));
+        m_session.callConference(*wish);
+    }
 }
 
 void MainWindow::callNumber()
@@ -102,6 +111,13 @@ void MainWindow::showOnline(bool bOnline)
     ui->btnOnline->setChecked(bOnline);
     ui->btnOnline->setText(bOnline ? tr("Online") : tr("Offline"));
     statusBar()->showMessage(bOnline ? tr("Signed in as %1").arg(name) : tr("Signed out"));
+}
+
+void MainWindow::showNotice()
+{
+    const QStringList &reports = m_session.store().reports();
+    ui->lblNotice->setText(reports.join(QLatin1Char('\n')));
+    ui->lblNotice->setVisible(!reports.isEmpty());
 }
 
 void MainWindow::showRecord(const CallRecord &record)

@@ -16,7 +16,8 @@ class MainWindow;
 }
 
 /// The demo's window: contacts with call buttons on the left, the records of finished calls on the right, the login
-/// switch on top. It owns the prompt of incoming calls. GUI thread; session and book must outlive it.
+/// switch on top, and below it what has to be told of the local store. It owns the prompt of incoming calls. GUI
+/// thread; session and book must outlive it.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -40,8 +41,11 @@ private:
     void setUpRecords();
     void connectSession();
     void call(const QString &strUid, bool bVideo);
+    /// Lets the user pick people, those named checked from the start, and calls them together.
+    void startConference(const QStringList &named);
     void callNumber();
     void showOnline(bool bOnline);
+    void showNotice();
     void showRecord(const CallRecord &record);
     void showSignature(const QString &strText, int iX, int iY, int iHeight);
 

@@ -1,38 +1,98 @@
 #include "MemberPicker.h"
 #include "ui_MemberPicker.h"
 
-#include "ContactBook.h"
+#include "HostPictures.h"
 
-MemberPicker::MemberPicker(const ContactBook &book, const QStringList &present, QWidget *parent)
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int uidRole = Qt::UserRole;
+constexpr int headSize = 32;
+
+} // namespace
+
+MemberPicker::MemberPicker(const ContactBook &book, Purpose purpose, const QStringList &named, QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::MemberPicker>())
 {
     ui->setupUi(this);
+    ui->listPeople->setIconSize(QSize(headSize, headSize));
+    const bool fresh = purpose == NewConference;
+    setWindowTitle(fresh ? tr("New conference") : tr("Invite to the conference"));
+    ui->passedOn->setVisible(fresh);
+    QStringList names;
+    std::transform(named.begin(), named.end(), std::back_inserter(names),
+                   [&](const QString &uid) { return book.nameOf(uid); });
+    ui->lblAsked->setText((fresh ? tr("A new conference with: %1") : tr("Already in the conference: %1"))
+                              .arg(names.isEmpty() ? tr("nobody yet") : names.join(QStringLiteral(", "))));
     for (const ContactBook::Entry &entry : book.entries()) {
-        if (present.contains(entry.uid)) {
-            continue;
+        if (fresh || !named.contains(entry.uid)) {
+            addPerson(entry, named.contains(entry.uid));
         }
-        auto *item = new QListWidgetItem(book.nameOf(entry.uid), ui->listPeople);
-        item->setData(Qt::UserRole, entry.uid);
-        item->setCheckState(Qt::Unchecked);
     }
+    for (const QString &uid : named) {
+        const auto isThis = [&](const ContactBook::Entry &entry) { return entry.uid == uid; };
+        if (fresh && std::none_of(book.entries().begin(), book.entries().end(), isThis)) {
+            addPerson({uid, uid, QString(), false, false}, true);
+        }
+    }
+    ui->buttonBox->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("btnInvite"));
+    connect(ui->listPeople, &QListWidget::itemChanged, this, &MemberPicker::showPicked);
+    // A click on the name counts as one on the box, which turns by itself.
+    connect(ui->listPeople, &QListWidget::itemPressed, this,
+            [this](const QListWidgetItem *item) { m_pressed = item->checkState(); });
+    connect(ui->listPeople, &QListWidget::itemClicked, this, [this](QListWidgetItem *item) {
+        if (item->checkState() == m_pressed) {
+            item->setCheckState(m_pressed == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+        }
+    });
+    showPicked();
 }
 
 MemberPicker::~MemberPicker() = default;
 
-QStringList MemberPicker::picked() const
+void MemberPicker::addPerson(const ContactBook::Entry &entry, bool bChecked)
 {
-    QStringList uids;
+    const QString words =
+        entry.alternative.isEmpty() ? entry.nick : entry.nick + QStringLiteral(" · ") + entry.alternative;
+    auto *item = new QListWidgetItem(words, ui->listPeople);
+    item->setIcon(QIcon(HostPictures::head(entry.nick, entry.uid, headSize, entry.online)));
+    item->setData(uidRole, entry.uid);
+    item->setCheckState(bChecked ? Qt::Checked : Qt::Unchecked);
+}
+
+void MemberPicker::showPicked()
+{
+    const int count = wish().uids.size();
+    QPushButton *ok = ui->buttonBox->button(QDialogButtonBox::Ok);
+    ok->setEnabled(count > 0);
+    ok->setText(count > 0 ? tr("Invite (%1)").arg(count) : tr("Invite"));
+}
+
+ConferenceWish MemberPicker::wish() const
+{
+    ConferenceWish wish;
     for (int row = 0; row < ui->listPeople->count(); ++row) {
         const QListWidgetItem *item = ui->listPeople->item(row);
         if (item->checkState() == Qt::Checked) {
-            uids << item->data(Qt::UserRole).toString();
+            wish.uids << item->data(uidRole).toString();
         }
     }
-    return uids;
+    wish.text = ui->editText->text();
+    wish.flag = ui->boxFlag->isChecked();
+    return wish;
 }
 
-QStringList MemberPicker::pick(const ContactBook &book, const QStringList &present, QWidget *parent)
+std::optional<ConferenceWish> MemberPicker::pickNew(const ContactBook &book, const QStringList &named, QWidget *parent)
 {
-    MemberPicker picker(book, present, parent);
-    return picker.exec() == QDialog::Accepted ? picker.picked() : QStringList();
+    MemberPicker picker(book, NewConference, named, parent);
+    return picker.exec() == QDialog::Accepted ? std::make_optional(picker.wish()) : std::nullopt;
+}
+
+QStringList MemberPicker::pickMore(const ContactBook &book, const QStringList &present, QWidget *parent)
+{
+    MemberPicker picker(book, MoreMembers, present, parent);
+    return picker.exec() == QDialog::Accepted ? picker.wish().uids : QStringList();
 }

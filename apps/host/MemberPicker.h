@@ -1,32 +1,48 @@
 #pragma once
 
+#include "ConferenceWish.h"
+#include "ContactBook.h"
+
 #include <QDialog>
 #include <QStringList>
 
 #include <memory>
-
-class ContactBook;
+#include <optional>
 
 namespace Ui {
 class MemberPicker;
 }
 
-/// The session plug-in's picker: a list of people with check marks. GUI thread.
+/// The session plug-in's picker: a list of people with check marks, for a new conference or for further members of a
+/// running one. It says above the list what the call plug-in has asked. GUI thread.
 class MemberPicker : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Lists everybody of the book but `present` (user ids), unchecked.
-    MemberPicker(const ContactBook &book, const QStringList &present, QWidget *parent);
+    /// For which question the picker is opened.
+    enum Purpose
+    {
+        NewConference, ///< the people named (user ids) are checked from the start; text and flag can be given
+        MoreMembers    ///< the people named are in the conference and left out of the list
+    };
+
+    MemberPicker(const ContactBook &book, Purpose purpose, const QStringList &named, QWidget *parent);
     ~MemberPicker() override;
 
-    /// The checked people's user ids, in the order of the list.
-    QStringList picked() const;
+    /// What has been picked: the checked people in the order of the list, text and flag. Without text and flag for
+    /// further members.
+    ConferenceWish wish() const;
 
-    /// Runs the dialog; returns the picked user ids, none when it was cancelled.
-    static QStringList pick(const ContactBook &book, const QStringList &present, QWidget *parent);
+    /// Runs the dialog for a new conference; nothing when it was cancelled or nobody was picked.
+    static std::optional<ConferenceWish> pickNew(const ContactBook &book, const QStringList &named, QWidget *parent);
+    /// Runs the dialog for further members; returns the picked user ids, none when it was cancelled.
+    static QStringList pickMore(const ContactBook &book, const QStringList &present, QWidget *parent);
 
 private:
+    void addPerson(const ContactBook::Entry &entry, bool bChecked);
+    void showPicked();
+
     std::unique_ptr<Ui::MemberPicker> ui;
+    Qt::CheckState m_pressed = Qt::Unchecked;
 };

@@ -6,6 +6,19 @@
 #include "TourWatch.h"
 #include "WindowProbe.h"
 
+#include "ui/ConferenceRoles.h"
+
+#include <algorithm>
+
+namespace {
+
+WindowProbe::Row memberRow(const char *strUid)
+{
+    return {"listView", ROLE_USER_ID, QString::fromLatin1(strUid)};
+}
+
+} // namespace
+
 TourScript::Action TourScript::pressContact(const char *strUid, const char *strButton) const
 {
     const MainWindow *window = &m_stage.window;
@@ -36,6 +49,30 @@ TourScript::Action TourScript::pressBox(const char *strButton) const
     return [strButton] { WindowProbe::press(WindowProbe::messageBox(), strButton); };
 }
 
+TourScript::Action TourScript::pressPicker(const char *strButton)
+{
+    return [strButton] { WindowProbe::press(WindowProbe::memberPicker(), strButton); };
+}
+
+TourScript::Action TourScript::pick(const QStringList &uids)
+{
+    return [uids] {
+        for (const QString &uid : uids) {
+            WindowProbe::pressRow(WindowProbe::memberPicker(), {"listPeople", Qt::UserRole, uid}, false);
+        }
+    };
+}
+
+TourScript::Action TourScript::pressMember(const char *strUid, int rectRole)
+{
+    return [strUid, rectRole] { WindowProbe::pressRowPart(WindowProbe::callWindow(), memberRow(strUid), rectRole); };
+}
+
+TourScript::Action TourScript::doubleClickMember(const char *strUid)
+{
+    return [strUid] { WindowProbe::pressRow(WindowProbe::callWindow(), memberRow(strUid), true); };
+}
+
 TourScript::Window TourScript::mainWindow() const
 {
     return [window = &m_stage.window] { return window; };
@@ -54,6 +91,11 @@ TourScript::Window TourScript::callWindow()
 TourScript::Window TourScript::messageBox()
 {
     return [] { return WindowProbe::messageBox(); };
+}
+
+TourScript::Window TourScript::picker()
+{
+    return [] { return WindowProbe::memberPicker(); };
 }
 
 TourCheck TourScript::command(const char *strType, const QString &strPart) const
@@ -76,6 +118,12 @@ TourCheck TourScript::code(int iCode, const char *strMeaning) const
 {
     return {QStringLiteral("the call process has reported code %1, %2").arg(iCode).arg(QString::fromUtf8(strMeaning)),
             [watch = &m_stage.watch, iCode] { return watch->notified(iCode); }};
+}
+
+TourCheck TourScript::happened(const QString &strWords) const
+{
+    return {QStringLiteral("the call process has noted: %1").arg(strWords),
+            [watch = &m_stage.watch, strWords] { return watch->happened(strWords); }};
 }
 
 TourCheck TourScript::told(int iMsgId, const QString &strPart) const
@@ -148,6 +196,40 @@ TourCheck TourScript::prompted(const QString &strName) const
 TourCheck TourScript::promptGone() const
 {
     return {QStringLiteral("the prompt is gone"), [window = &m_stage.window] { return !window->prompt().isVisible(); }};
+}
+
+TourCheck TourScript::pickerSays(const char *strPart, const QString &strText)
+{
+    return {QStringLiteral("the picker says: %1").arg(strText),
+            [strPart, strText] { return WindowProbe::text(WindowProbe::memberPicker(), strPart) == strText; }};
+}
+
+TourCheck TourScript::pickerGone()
+{
+    return {QStringLiteral("the picker is gone"), [] { return WindowProbe::memberPicker() == nullptr; }};
+}
+
+TourCheck TourScript::member(const char *strUid, const char *strName, int iStatus)
+{
+    const auto *row = std::find_if(cConferenceStatusTable.begin(), cConferenceStatusTable.end(),
+                                   [iStatus](const ConferenceStatusRow &entry) { return entry.iStatus == iStatus; });
+    return {
+        QStringLiteral("the member list shows %1: %2").arg(QString::fromUtf8(strName), QString::fromUtf8(row->pText)),
+        [strUid, iStatus] {
+            return WindowProbe::rowData(WindowProbe::callWindow(), memberRow(strUid), ROLE_CALL_STATUS) == iStatus;
+        }};
+}
+
+TourCheck TourScript::memberGone(const char *strUid, const char *strName)
+{
+    return {QStringLiteral("the member list has no %1 any more").arg(QString::fromUtf8(strName)), [strUid] {
+                return !WindowProbe::rowData(WindowProbe::callWindow(), memberRow(strUid), ROLE_USER_ID).isValid();
+            }};
+}
+
+TourCheck TourScript::memberCount(int iCount)
+{
+    return shows("lblListCount", QStringLiteral("参与人员(%1)").arg(iCount));
 }
 
 TourCheck TourScript::processes(int iCount) const

@@ -4,6 +4,7 @@
 #include "DebugChannel.h"
 #include "HostSession.h"
 #include "MainWindow.h"
+#include "TourConference.h"
 #include "TourScript.h"
 #include "TourWatch.h"
 #include "WindowProbe.h"
@@ -71,6 +72,7 @@ Steps signIn(const TourScript &s, const TourStage &stage)
         {u("The client has loaded the plug-in and not spoken to it yet"),
          {},
          {{QStringLiteral("it is %1").arg(stage.session.pluginWords()), [] { return true; }},
+          {u("the user's local store is open"), [session = &stage.session] { return session->store().isOpen(); }},
           s.processes(0),
           {u("it has made no window"), [] { return WindowProbe::callWindow() == nullptr; }}}},
         {u("Sign in"),
@@ -281,6 +283,6 @@ QList<TourStep> tourSteps(const TourStage &stage)
            unanswered(s, rejects, "Call 王芳, who rejects", 10, "rejected", resultRejected) +
            unanswered(s, fails, "Call 赵强: the call fails", 19, "failed", resultFailed) +
            call(s, "Call 李雷, who answers", u("call-connected")) + duringCall(s) + hangUp(s, "Hang up") +
-           video(s, stage) + farEnd(s) + incoming(s) + offline(s) + killed(s, stage) +
+           video(s, stage) + farEnd(s) + incoming(s) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
            call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + leave(s, stage);
 }

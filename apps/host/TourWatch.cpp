@@ -111,6 +111,13 @@ bool TourWatch::notified(int iCode) const
     });
 }
 
+bool TourWatch::happened(const QString &strPart) const
+{
+    return std::any_of(m_lines.begin(), m_lines.end(), [&](const WireLine &line) {
+        return line.direction == WireLine::Event && line.text.contains(strPart);
+    });
+}
+
 bool TourWatch::passed(bool bFromPlugin, int iMsgId, const QString &strPart) const
 {
     return std::any_of(m_events.begin(), m_events.end(), [&](const PassedEvent &event) {

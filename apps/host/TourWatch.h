@@ -34,6 +34,8 @@ public:
     bool quitLine() const;
     /// A notification of the call process with this code.
     bool notified(int iCode) const;
+    /// Something that happened to the call process or that it did, whose words contain `strPart`.
+    bool happened(const QString &strPart) const;
     /// An event from the plug-in, or to it, whose words or answer contain `strPart`.
     bool told(int iMsgId, const QString &strPart = QString()) const;
     bool asked(int iMsgId, const QString &strPart = QString()) const;

@@ -1,6 +1,7 @@
 #include "WindowProbe.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QLabel>
 #include <QMouseEvent>
@@ -30,11 +31,27 @@ QWidget *shownPart(const QWidget *window, const char *strName)
     return part != nullptr && part->isVisible() ? part : nullptr;
 }
 
-void postClick(QWidget *button, QEvent::Type type, Qt::MouseButtons held)
+void postMouse(QWidget *target, const QPoint &position, QEvent::Type type, Qt::MouseButtons held)
 {
-    const QPoint centre = button->rect().center();
     QCoreApplication::postEvent(
-        button, new QMouseEvent(type, centre, button->mapToGlobal(centre), Qt::LeftButton, held, Qt::NoModifier));
+        target, new QMouseEvent(type, position, target->mapToGlobal(position), Qt::LeftButton, held, Qt::NoModifier));
+}
+
+void postClick(QWidget *target, const QPoint &position)
+{
+    postMouse(target, position, QEvent::MouseButtonPress, Qt::LeftButton);
+    postMouse(target, position, QEvent::MouseButtonRelease, Qt::NoButton);
+}
+
+QAbstractItemView *shownList(const QWidget *window, const WindowProbe::Row &row)
+{
+    return qobject_cast<QAbstractItemView *>(shownPart(window, row.list));
+}
+
+QModelIndex find(const QAbstractItemView *list, const WindowProbe::Row &row)
+{
+    const QAbstractItemModel *model = list->model();
+    return model->match(model->index(0, 0), row.idRole, row.id, 1, Qt::MatchExactly).value(0);
 }
 
 } // namespace
@@ -48,6 +65,44 @@ QWidget *WindowProbe::messageBox()
 {
     QWidget *box = topLevel("ErrorMessage");
     return box != nullptr && box->isVisible() ? box : nullptr;
+}
+
+QWidget *WindowProbe::memberPicker()
+{
+    QWidget *picker = topLevel("MemberPicker");
+    return picker != nullptr && picker->isVisible() ? picker : nullptr;
+}
+
+QVariant WindowProbe::rowData(const QWidget *window, const Row &row, int iRole)
+{
+    const QAbstractItemView *list = shownList(window, row);
+    return list == nullptr ? QVariant() : find(list, row).data(iRole);
+}
+
+bool WindowProbe::pressRowPart(const QWidget *window, const Row &row, int rectRole)
+{
+    const QRect part = rowData(window, row, rectRole).toRect();
+    if (part.isNull()) {
+        return false;
+    }
+    postClick(shownList(window, row)->viewport(), part.center());
+    return true;
+}
+
+bool WindowProbe::pressRow(const QWidget *window, const Row &row, bool bTwice)
+{
+    const QAbstractItemView *list = shownList(window, row);
+    const QModelIndex index = list == nullptr ? QModelIndex() : find(list, row);
+    if (!index.isValid()) {
+        return false;
+    }
+    const QPoint middle = list->visualRect(index).center();
+    postClick(list->viewport(), middle);
+    if (bTwice) {
+        postMouse(list->viewport(), middle, QEvent::MouseButtonDblClick, Qt::LeftButton);
+        postMouse(list->viewport(), middle, QEvent::MouseButtonRelease, Qt::NoButton);
+    }
+    return true;
 }
 
 QString WindowProbe::text(const QWidget *window, const char *strName)
@@ -92,8 +147,7 @@ bool WindowProbe::press(const QWidget *window, const char *strName)
     if (button == nullptr || !button->isEnabled()) {
         return false;
     }
-    postClick(button, QEvent::MouseButtonPress, Qt::LeftButton);
-    postClick(button, QEvent::MouseButtonRelease, Qt::NoButton);
+    postClick(button, button->rect().center());
     return true;
 }
 

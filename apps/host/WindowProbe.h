@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 
 class QWidget;
 
@@ -13,6 +14,27 @@ QWidget *callWindow();
 
 /// The message dialog that is open, or null.
 QWidget *messageBox();
+
+/// The client's picker of people that is open, or null.
+QWidget *memberPicker();
+
+/// A row of a list: the list's object name, and the data by which the row is known.
+struct Row
+{
+    const char *list;
+    int idRole;
+    QString id;
+};
+
+/// The row's data of that role; invalid when there is no such row or its list is not shown.
+QVariant rowData(const QWidget *window, const Row &row, int iRole);
+
+/// Clicks into the rectangle, of the list's viewport, that stands in the row's data of the role `rectRole`. False when
+/// there is none.
+bool pressRowPart(const QWidget *window, const Row &row, int rectRole);
+
+/// Clicks in the middle of the row, twice for a double click. False when there is no such row.
+bool pressRow(const QWidget *window, const Row &row, bool bTwice);
 
 /// The text of a label or button in `window`; null when the window, the part or the part's place is not shown.
 QString text(const QWidget *window, const char *strName);

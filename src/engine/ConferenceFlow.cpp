@@ -6,6 +6,7 @@
 #include "engine/VoipManage.h"
 #include "plugin/StrangerTest.h"
 #include "plugin/VoipManageEventProcess.h"
+#include "store/DBConfInfo.h"
 #include "ui/VoipWidget.h"
 
 #include <QSet>
@@ -28,6 +29,12 @@ const char *operationText(CVoipManage::ConfControlSignal operation)
 QString joined(const QStringList &list)
 {
     return list.join(QLatin1Char(','));
+}
+
+/// Empty for a time that was never reported, but never null: the text goes into a row.
+QString creationText(const QDateTime &time)
+{
+    return time.isNull() ? QStringLiteral("") : time.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
 }
 
 } // namespace
@@ -172,6 +179,19 @@ void CVoipManage::updateUserInfo(QString strUserId, VcardInfo vcard)
         m_pVoipWidget->updateUserInfo(strUserId, vcard);
 }
 
+void CVoipManage::recordConference(qint64 iSeconds)
+{
+    // Whatever became of the conference it has a record, a rejected invitation too.
+    ConfInfoData record;
+    record.m_strConfID = m_callData.confId;
+    record.m_strCreatUserID = m_callData.bIsCaller ? m_strUserId : m_callData.peerId;
+    record.m_strCreatTime = creationText(m_callData.createTime);
+    record.m_strCallTime = QString::number(iSeconds);
+    record.m_listMember = m_callData.memberList;
+    record.m_bIsConnect = m_callData.bIsConnected;
+    DBConfInfo::saveConfInfo(record);
+}
+
 void CVoipManage::showVoiceConf()
 {
     LOG_DEBUG << "show voice conf detaileInfo!"
@@ -185,4 +205,8 @@ void CVoipManage::slot_VoiceConfWidgetClose()
     m_pVoiceConfWidget = nullptr;
 }
 
-void CVoipManage::slot_DeleteConfInfoData(QString) {}
+void CVoipManage::slot_DeleteConfInfoData(QString strConfID)
+{
+    if (!strConfID.isEmpty())
+        DBConfInfo::deleteConfInfo(strConfID);
+}

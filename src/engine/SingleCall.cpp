@@ -148,7 +148,9 @@ void CVoipManage::callFinished(CallData::FinishResult result)
     qint64 iSeconds = 0;
     if (!m_callData.connectTime.isNull())
         iSeconds = m_callData.connectTime.secsTo(QDateTime::currentDateTimeUtc());
-    if (!m_callData.bIsConf && !m_callData.peerId.isEmpty()) {
+    if (m_callData.bIsConf) {
+        recordConference(iSeconds);
+    } else if (!m_callData.peerId.isEmpty()) {
         VoipManageEventProcess::notifyCallFinished(m_callData.bIsVideo, m_callData.peerId, result, m_callData.bIsCaller,
                                                    m_callData.bIsConnected, iSeconds);
     }

@@ -105,8 +105,8 @@ public:
     void hangupVoipCall();
     /// The user's answer to the host's prompt.
     void responseVoipRequest(bool bAccept);
-    /// The one end of every call: timers, ring, the host's prompt and record, the call data, the window. A second end
-    /// of the same call does nothing.
+    /// The one end of every call: timers, ring, the host's prompt, the record (the host writes that of a single call, a
+    /// conference's goes into the store), the call data, the window. A second end of the same call does nothing.
     void callFinished(CallData::FinishResult result);
     /// The host's report on its own login: registers the user, or hangs up and unregisters.
     void clientConnectStatus(bool bConnected);
@@ -168,7 +168,7 @@ public slots:
     void slot_MuteAll(bool bMute);
     /// Calls a member again who was not reached; the creator's right alone.
     void slot_ReInviteConfUser(QString strUserID);
-    /// The conference centre drops a conference's record. Records are not kept, so there is nothing to drop.
+    /// The conference centre drops a conference's record from the store. An empty or unknown id touches nothing.
     void slot_DeleteConfInfoData(QString strConfID);
 
 protected:
@@ -194,6 +194,7 @@ private:
     void connectVoipWidget();
     void showCallInWindow();
     void acceptConference();
+    void recordConference(qint64 iSeconds);
     bool canPlaceCall();
     void showMessage(const QString &text);
     void sendIfConnected(const QString &line);

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSqlQuery>
+#include <QVariant>
 
 QSqlDatabase DB::m_db;
 

@@ -5,6 +5,7 @@
 
 #include <QSqlQuery>
 #include <QStringList>
+#include <QVariant>
 
 namespace {
 

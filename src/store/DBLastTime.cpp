@@ -6,6 +6,7 @@
 
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QVariant>
 
 namespace {
 
@@ -54,7 +55,7 @@ void DBLastTime::updateLastTime(const QString &time)
 
 QString DBLastTime::getLastTime()
 {
-    const QString notStored = QStringLiteral("-1");
+    QString notStored = QStringLiteral("-1");
     const QSqlDatabase db = DB::getDB();
     if (!db.isOpen())
         return notStored;
@@ -63,6 +64,6 @@ QString DBLastTime::getLastTime()
     query.prepare(QStringLiteral("SELECT lastTime FROM last_time WHERE sessionId = ?"));
     query.addBindValue(allSessions);
     query.exec();
-    const QString strTime = query.next() ? query.value(0).toString() : QString();
+    QString strTime = query.next() ? query.value(0).toString() : QString();
     return strTime.isEmpty() ? notStored : strTime;
 }

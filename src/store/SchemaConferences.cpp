@@ -4,10 +4,16 @@
 #include "store/DBLastTime.h"
 #include "store/StoreSchema.h"
 
+// clang-format off
 constexpr StoreColumn voipConferenceInfoColumns[] = {
-    {"ConfID", "VARCHAR(100) primary key"}, {"CreatUserID", "VARCHAR(100)"}, {"CreatTime", "VARCHAR(100)"},
-    {"CallTime", "VARCHAR(100)"},           {"MemberList", "VARCHAR(1000)"}, {"IsConnect", "INT"},
+    {"ConfID", "VARCHAR(100) primary key"},
+    {"CreatUserID", "VARCHAR(100)"},
+    {"CreatTime", "VARCHAR(100)"},
+    {"CallTime", "VARCHAR(100)"},
+    {"MemberList", "VARCHAR(1000)"},
+    {"IsConnect", "INT"},
 };
+// clang-format on
 constexpr StoreTable voipConferenceInfo{"voipConferenceInfo", voipConferenceInfoColumns};
 
 void DB::creatVoipConferenceInfoTable()

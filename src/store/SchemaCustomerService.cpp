@@ -50,10 +50,15 @@ void DB::createCSWorkgroupTable()
     StoreSchema::createOrUpgrade(cs_workgroup);
 }
 
+// clang-format off
 constexpr StoreColumn quikrplyColumns[] = {
-    {"quikrplyId", "VARCHAR(40) primary key"}, {"quikrplyIsGrp", "INT"},       {"quikrplyName", "VARCHAR(20)"},
-    {"quikrplyCont", "VARCHAR(20)"},           {"quikrplyPId", "VARCHAR(20)"},
+    {"quikrplyId", "VARCHAR(40) primary key"},
+    {"quikrplyIsGrp", "INT"},
+    {"quikrplyName", "VARCHAR(20)"},
+    {"quikrplyCont", "VARCHAR(20)"},
+    {"quikrplyPId", "VARCHAR(20)"},
 };
+// clang-format on
 constexpr StoreTable cs_quikrply{"cs_quikrply", quikrplyColumns};
 constexpr StoreTable cs_channelquikrply{"cs_channelquikrply", quikrplyColumns};
 
@@ -88,10 +93,15 @@ void DB::createCSCommentTable()
     StoreSchema::createOrUpgrade(cs_comment);
 }
 
+// clang-format off
 constexpr StoreColumn cs_chatsummaryColumns[] = {
-    {"chatsumId", "VARCHAR(40) primary key"}, {"chatsumIsGrp", "INT"},       {"chatsumName", "VARCHAR(20)"},
-    {"chatsumCont", "VARCHAR(20)"},           {"chatsumPId", "VARCHAR(20)"},
+    {"chatsumId", "VARCHAR(40) primary key"},
+    {"chatsumIsGrp", "INT"},
+    {"chatsumName", "VARCHAR(20)"},
+    {"chatsumCont", "VARCHAR(20)"},
+    {"chatsumPId", "VARCHAR(20)"},
 };
+// clang-format on
 constexpr StoreTable cs_chatsummary{"cs_chatsummary", cs_chatsummaryColumns};
 
 void DB::createCSChatSumTable()

@@ -104,14 +104,22 @@ void DB::createUnreadSessionTable()
     StoreSchema::createOrUpgrade(message_unread_session);
 }
 
+// clang-format off
 constexpr StoreColumn latestfriendnewColumns[] = {
-    {"jid", "VARCHAR(100) primary key"}, {"displayname", "VARCHAR(100)"},
-    {"accountNo", "VARCHAR(100)"},       {"icon", "VARCHAR(100)"},
-    {"signature", "VARCHAR(100)"},       {"time", "VARCHAR(100)"},
-    {"lastcontent", "VARCHAR(1000)"},    {"onjob", "VARCHAR(100)"},
-    {"issystemnotice", "INT"},           {"appkey", "VARCHAR(100)"},
-    {"isTop", "INT", 1, "INT"},          {"isLocalSession", "INT", 2, "INT"},
+    {"jid", "VARCHAR(100) primary key"},
+    {"displayname", "VARCHAR(100)"},
+    {"accountNo", "VARCHAR(100)"},
+    {"icon", "VARCHAR(100)"},
+    {"signature", "VARCHAR(100)"},
+    {"time", "VARCHAR(100)"},
+    {"lastcontent", "VARCHAR(1000)"},
+    {"onjob", "VARCHAR(100)"},
+    {"issystemnotice", "INT"},
+    {"appkey", "VARCHAR(100)"},
+    {"isTop", "INT", 1, "INT"},
+    {"isLocalSession", "INT", 2, "INT"},
 };
+// clang-format on
 constexpr StoreTable latestfriendnew{"latestfriendnew", latestfriendnewColumns};
 
 void DB::createLatestFrdTable()

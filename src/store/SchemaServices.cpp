@@ -148,10 +148,15 @@ void DB::creatFileStatusLocalInfo()
     StoreSchema::createOrUpgrade(filestatuslocalinfo);
 }
 
+// clang-format off
 constexpr StoreColumn videoinfoColumns[] = {
-    {"msgId", "VARCHAR(20) PRIMARY KEY"}, {"videoUrl", "VARCHAR(256)"},     {"picUrl", "VARCHAR(256)"},
-    {"videoName", "VARCHAR(256)"},        {"videoPicName", "VARCHAR(256)"},
+    {"msgId", "VARCHAR(20) PRIMARY KEY"},
+    {"videoUrl", "VARCHAR(256)"},
+    {"picUrl", "VARCHAR(256)"},
+    {"videoName", "VARCHAR(256)"},
+    {"videoPicName", "VARCHAR(256)"},
 };
+// clang-format on
 constexpr StoreTable videoinfo{"videoinfo", videoinfoColumns};
 
 void DB::creatVideoInfo()

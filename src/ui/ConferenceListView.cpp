@@ -13,6 +13,7 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QStandardItemModel>
+#include <QToolTip>
 
 namespace {
 
@@ -44,6 +45,7 @@ void CConferenceListView::setIsCallByMe(bool bIsCallByMe)
 void CConferenceListView::addUserList(QList<QString> userList)
 {
     m_userList = userList;
+    m_userCounts = UidCounts(userList);
     for (const QString &strUserID : qAsConst(userList))
         appendUserItem(strUserID);
 }
@@ -52,8 +54,9 @@ void CConferenceListView::addUser(QString strUserID)
 {
     if (strUserID.isEmpty())
         return;
-    if (!m_userList.contains(strUserID)) {
+    if (!m_userCounts.contains(strUserID)) {
         m_userList.append(strUserID);
+        m_userCounts.add(strUserID);
         appendUserItem(strUserID);
     }
     if (QStandardItem *pItem = m_userItemMap.value(strUserID))
@@ -62,7 +65,7 @@ void CConferenceListView::addUser(QString strUserID)
 
 void CConferenceListView::removeUser(QString strUserID)
 {
-    if (strUserID.isEmpty() || !m_userList.contains(strUserID))
+    if (strUserID.isEmpty() || !m_userCounts.contains(strUserID))
         return;
     QStandardItem *pItem = m_userItemMap.value(strUserID);
     if (pItem == nullptr)
@@ -72,6 +75,7 @@ void CConferenceListView::removeUser(QString strUserID)
         return;
     m_userItemMap.remove(strUserID);
     m_userList.removeOne(strUserID);
+    m_userCounts.remove(strUserID);
     m_pModel->removeRows(iRow, 1);
 }
 
@@ -79,6 +83,7 @@ void CConferenceListView::clearMembers()
 {
     m_pModel->clear();
     m_userList.clear();
+    m_userCounts.clear();
     m_userItemMap.clear();
     m_strCreator.clear();
     m_statusTimer.stop();
@@ -135,6 +140,68 @@ void CConferenceListView::slot_UpdateCallStatu()
         if (pItem->data(ROLE_CALL_STATUS).toInt() == ConferenceCalling &&
             isInviteOver(pItem->data(ROLE_INVITE_TIME).toTime(), now))
             pItem->setData(int(ConferenceFailed), ROLE_CALL_STATUS);
+    }
+}
+
+void CConferenceListView::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint position = event->localPos().toPoint();
+    if (QStandardItem *pItem = m_pModel->itemFromIndex(indexAt(position)))
+        hoverItem(pItem, position);
+    QListView::mouseMoveEvent(event);
+}
+
+void CConferenceListView::hoverItem(QStandardItem *pItem, const QPoint &position)
+{
+    // Deliberate: moving from one button onto the other leaves the first one's flag; only a place beside both clears.
+    if (pItem->data(ROLE_REMOVE_RECT).toRect().contains(position)) {
+        pItem->setData(true, ROLE_REMOVE_HOVER);
+        setCursor(Qt::PointingHandCursor);
+        QToolTip::showText(QCursor::pos(), QStringLiteral("移出会议"));
+    } else if (pItem->data(ROLE_MUTE_RECT).toRect().contains(position)) {
+        pItem->setData(true, ROLE_MUTE_HOVER);
+        setCursor(Qt::PointingHandCursor);
+        QToolTip::showText(QCursor::pos(),
+                           pItem->data(ROLE_MUTED).toBool() ? QStringLiteral("取消静音") : QStringLiteral("静音"));
+    } else {
+        pItem->setData(false, ROLE_REMOVE_HOVER);
+        pItem->setData(false, ROLE_MUTE_HOVER);
+        setCursor(Qt::ArrowCursor);
+        QToolTip::hideText();
+    }
+}
+
+void CConferenceListView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton) {
+        event->ignore();
+        return;
+    }
+    const QPoint position = event->localPos().toPoint();
+    const QModelIndex index = indexAt(position);
+    if (event->button() != Qt::LeftButton || !index.isValid()) {
+        QListView::mouseReleaseEvent(event);
+        return;
+    }
+    event->accept();
+    if (QStandardItem *pItem = m_pModel->itemFromIndex(index)) {
+        clickItem(pItem, position);
+        return;
+    }
+    LOG_DEBUG << "selected is null"
+              << "\n";
+}
+
+void CConferenceListView::clickItem(QStandardItem *pItem, const QPoint &position)
+{
+    // The rectangles are those of the last painting, whatever the row's status has become since.
+    const QString strUserID = pItem->data(ROLE_USER_ID).toString();
+    if (pItem->data(ROLE_REMOVE_RECT).toRect().contains(position)) {
+        emit signal_RemoveUser(strUserID);
+    } else if (pItem->data(ROLE_MUTE_RECT).toRect().contains(position)) {
+        const bool bMute = !pItem->data(ROLE_MUTED).toBool();
+        pItem->setData(bMute, ROLE_MUTED);
+        emit signal_MuteUser(strUserID, bMute);
     }
 }
 

@@ -6,6 +6,8 @@
 // watchdog that marks members who never answered. Part of the call window, which owns it and drives it. GUI thread
 // only.
 
+#include "ui/UidCounts.h"
+
 #include <QList>
 #include <QListView>
 #include <QMap>
@@ -69,6 +71,8 @@ signals:
     void signal_ReInviteConfUser(QString strUserID);
 
 protected:
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     bool eventFilter(QObject *obj, QEvent *event) override;
 
@@ -76,12 +80,15 @@ private slots:
     void slot_UpdateCallStatu();
 
 private:
+    void hoverItem(QStandardItem *pItem, const QPoint &position);
+    void clickItem(QStandardItem *pItem, const QPoint &position);
     QStandardItem *creatUserItem(const QString &strUserID);
     void appendUserItem(const QString &strUserID);
 
     CConferenceListViewDelegate *m_pDelegate;
     QStandardItemModel *m_pModel;
     QList<QString> m_userList;
+    UidCounts m_userCounts; ///< of m_userList
     QMap<QString, QStandardItem *> m_userItemMap;
     QString m_strCreator;
     bool m_bIsCallByMe = true;

@@ -108,6 +108,7 @@ void CVoipWidget::setVoipCallInfo(QList<QString> userList, VoipType iType, bool 
         setWindowTitle(QStringLiteral("语音会议"));
         ui->displayPane->setCurrentIndex(cConferencePage);
         m_memberList = userList;
+        m_memberCounts = UidCounts(userList);
     }
     ui->controlPane->setCurrentIndex(bConnected ? cCallingPage : cRequestPage);
     m_bConnected = bConnected;
@@ -203,6 +204,7 @@ void CVoipWidget::ClearCallInfoData()
     m_bCameraEnable = true;
     m_bConnected = false;
     m_memberList.clear();
+    m_memberCounts.clear();
     m_strPeerUid.clear();
     m_strCreator.clear();
     SetMicButton(false);

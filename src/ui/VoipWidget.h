@@ -7,6 +7,8 @@
 // which toggles are on, when the call began. Lives on the GUI thread. It does not count for Qt's
 // quit-on-last-window-closed, so that its close never ends a host that has no other window open.
 
+#include "ui/UidCounts.h"
+
 #include <QList>
 #include <QString>
 #include <QTime>
@@ -178,6 +180,7 @@ private:
     bool m_bConnected = false;
     QString m_strPeerUid;
     QList<QString> m_memberList;
+    UidCounts m_memberCounts; ///< of m_memberList
     QString m_strCreator;
     VoipType m_iVoipType = Voice;
 };

@@ -6,10 +6,11 @@
 
 void CVoipWidget::addConferenceMember(QString strUserID)
 {
-    if (m_memberList.contains(strUserID))
+    if (m_memberCounts.contains(strUserID))
         return;
     ui->listView->addUser(strUserID);
     m_memberList.append(strUserID);
+    m_memberCounts.add(strUserID);
     refreshMemberCount();
 }
 
@@ -17,6 +18,7 @@ void CVoipWidget::removeConferenceMember(QString strUserID)
 {
     ui->listView->removeUser(strUserID);
     m_memberList.removeOne(strUserID);
+    m_memberCounts.remove(strUserID);
     refreshMemberCount();
 }
 

@@ -22,20 +22,9 @@ private slots:
     void unregisterEndsTheCall();
     void registrationWithoutAnIdIsRefused();
     void deviceCommandsAreTakenInSilence();
-    void robotsJoinAConference();
-    void conferenceOfNobody();
-    void addedMembersJoinAndFailedOnesAreNamed();
-    void addWithoutUsersNamesNoFailure();
-    void kickedMemberLeaves();
-    void hangupConfEndsTheConference();
-    void robotInvitesAndEndsTheConference();
-    void rejectedInvitationIsOver();
-    void unregisteredCreatorGetsNoConference();
 
 private:
     static QString call(CallProcess &peer, const QString &id);
-    static QJsonObject document(const QString &notification, int code);
-    static QStringList members(const QJsonObject &document);
 };
 
 void tst_Robots::init()
@@ -48,27 +37,6 @@ QString tst_Robots::call(CallProcess &peer, const QString &id)
 {
     peer.command(QStringLiteral("CallUser"), {id, false});
     return peer.nextNotification();
-}
-
-QJsonObject tst_Robots::document(const QString &notification, int code)
-{
-    const QString prefix = QString::number(code) + QLatin1Char(' ');
-    if (!notification.startsWith(prefix)) {
-        qWarning("not of code %d: %s", code, qPrintable(notification));
-        return {};
-    }
-    return QJsonDocument::fromJson(notification.mid(prefix.size()).toUtf8()).object();
-}
-
-QStringList tst_Robots::members(const QJsonObject &document)
-{
-    QStringList list;
-    const QJsonArray array =
-        document.value(QStringLiteral("content")).toObject().value(QStringLiteral("conventioneer")).toArray();
-    for (const QJsonValue &value : array) {
-        list.append(value.toString());
-    }
-    return list;
 }
 
 void tst_Robots::outcomeOfACall_data()
@@ -226,159 +194,6 @@ void tst_Robots::deviceCommandsAreTakenInSilence()
     peer.command(QStringLiteral("SetSpeakerVolume"), {0});
     QCOMPARE(call(peer, QStringLiteral("30010002")), QStringLiteral("22"));
     QCOMPARE(peer.trace().filter(QRegularExpression(QStringLiteral("^!"))).size(), 0);
-}
-
-void tst_Robots::robotsJoinAConference()
-{
-    CallProcess peer;
-    QVERIFY(peer.startRegistered({QStringLiteral("--speed"), QStringLiteral("20")}));
-    const QJsonArray called{QStringLiteral("30010001"), QStringLiteral("30010002"), QStringLiteral("30010003"),
-                            QStringLiteral("30010004"), QStringLiteral("30010005"), QStringLiteral("30010006")};
-    peer.command(QStringLiteral("RequestConference"), {QStringLiteral("100"), called, false, QString()});
-    const QJsonObject created = document(peer.nextNotification(), 20);
-    const QString confId =
-        created.value(QStringLiteral("result")).toObject().value(QStringLiteral("confId")).toString();
-    QVERIFY(!confId.isEmpty());
-    QCOMPARE(peer.nextNotification(), QStringLiteral("18"));
-    const QJsonObject own = document(peer.nextNotification(), 12);
-    const QJsonObject body = own.value(QStringLiteral("content")).toObject();
-    QCOMPARE(body.value(QStringLiteral("from")).toString(), QStringLiteral("100"));
-    QCOMPARE(body.value(QStringLiteral("confId")).toString(), confId);
-    QVERIFY(body.value(QStringLiteral("createTime")).toDouble() > 1e12);
-    QCOMPARE(members(own), QStringList{QStringLiteral("100")});
-    QCOMPARE(peer.nextNotification(), QStringLiteral("21 {\"result\":{\"failedNums\":[\"30010005\"]},\"status\":0}"));
-    QCOMPARE(peer.nextNotification(), QStringLiteral("25 30010002"));
-    const QStringList first = members(document(peer.nextNotification(), 12));
-    QCOMPARE(first.size(), 2);
-    const QStringList both = members(document(peer.nextNotification(), 12));
-    QCOMPARE(both.size(), 3);
-    QCOMPARE(both.constFirst(), QStringLiteral("100"));
-    QVERIFY(both.contains(QStringLiteral("30010001")) && both.contains(QStringLiteral("30010006")));
-    QCOMPARE(peer.nextNotification(), QStringLiteral("5 30010003"));
-    const QJsonObject left = document(peer.nextNotification(), 13);
-    QCOMPARE(left.value(QStringLiteral("content")).toObject().value(QStringLiteral("from")).toString(),
-             QStringLiteral("30010006"));
-    QCOMPARE(members(left), (QStringList{QStringLiteral("100"), QStringLiteral("30010001")}));
-}
-
-void tst_Robots::conferenceOfNobody()
-{
-    CallProcess peer;
-    QVERIFY(peer.startRegistered());
-    peer.command(QStringLiteral("RequestConference"), {QStringLiteral("100"), QJsonValue(), false, QString()});
-    QVERIFY(!document(peer.nextNotification(), 20).isEmpty());
-    QCOMPARE(peer.nextNotification(), QStringLiteral("18"));
-    QCOMPARE(members(document(peer.nextNotification(), 12)), QStringList{QStringLiteral("100")});
-    QCOMPARE(peer.trace().filter(QRegularExpression(QStringLiteral("^!"))).size(), 0);
-}
-
-namespace {
-
-bool joinConference(CallProcess &peer)
-{
-    peer.command(QStringLiteral("RequestConference"),
-                 {QStringLiteral("100"), QJsonArray{QStringLiteral("30010001")}, true, QStringLiteral("text")});
-    return peer.nextNotification().startsWith(QLatin1String("20 ")) && peer.nextNotification() == QLatin1String("18") &&
-           peer.nextNotification().startsWith(QLatin1String("12 ")) &&
-           peer.nextNotification().startsWith(QLatin1String("12 "));
-}
-
-QByteArray addLine(const QJsonValue &users)
-{
-    return CallProcess::line(QStringLiteral("Add2Conference"),
-                             {users, QStringLiteral("100"), QStringLiteral("100"), false, QString(),
-                              QJsonArray{QStringLiteral("100"), QStringLiteral("30010001")}});
-}
-
-} // namespace
-
-void tst_Robots::addedMembersJoinAndFailedOnesAreNamed()
-{
-    CallProcess peer;
-    QVERIFY(peer.startRegistered());
-    QVERIFY(joinConference(peer));
-    peer.write(addLine(QJsonArray{QStringLiteral("30010001"), QStringLiteral("30010005"), QStringLiteral("nobody"),
-                                  QStringLiteral("30010006")}));
-    QCOMPARE(peer.nextNotification(),
-             QStringLiteral("21 {\"result\":{\"failedNums\":[\"30010005\",\"nobody\"]},\"status\":0}"));
-    QCOMPARE(members(document(peer.nextNotification(), 12)).size(), 3);
-}
-
-void tst_Robots::addWithoutUsersNamesNoFailure()
-{
-    CallProcess peer;
-    QVERIFY(peer.startRegistered());
-    QVERIFY(joinConference(peer));
-    peer.write(addLine(QJsonValue()));
-    QCOMPARE(peer.nextNotification(), QStringLiteral("21 {\"result\":{\"failedNums\":[]},\"status\":0}"));
-}
-
-void tst_Robots::kickedMemberLeaves()
-{
-    CallProcess peer;
-    QVERIFY(peer.startRegistered());
-    QVERIFY(joinConference(peer));
-    for (const char *operation : {"mute", "unmute"}) {
-        peer.command(QStringLiteral("ControlConf"), {QString::fromLatin1(operation), QStringLiteral("non_moderator")});
-    }
-    peer.command(QStringLiteral("ControlConf"), {QStringLiteral("kick"), QStringLiteral("30010004")});
-    peer.command(QStringLiteral("ControlConf"), {QStringLiteral("kick"), QStringLiteral("30010001")});
-    const QJsonObject left = document(peer.nextNotification(), 13);
-    QCOMPARE(left.value(QStringLiteral("content")).toObject().value(QStringLiteral("from")).toString(),
-             QStringLiteral("30010001"));
-    QCOMPARE(members(left), QStringList{QStringLiteral("100")});
-}
-
-void tst_Robots::hangupConfEndsTheConference()
-{
-    CallProcess peer;
-    QVERIFY(peer.startRegistered());
-    QVERIFY(joinConference(peer));
-    peer.write(addLine(QJsonArray{QStringLiteral("30010006")}) + CallProcess::line(QStringLiteral("HangupConf")) +
-               addLine(QJsonArray{QStringLiteral("30010001")}));
-    QVERIFY(peer.nextNotification().startsWith(QLatin1String("21 ")));
-    QVERIFY(peer.waitTrace(QStringLiteral("= no conference to add to")));
-    // The member who was being called does not join what is over.
-    QCOMPARE(call(peer, QStringLiteral("30010003")), QStringLiteral("10"));
-}
-
-void tst_Robots::robotInvitesAndEndsTheConference()
-{
-    CallProcess peer;
-    QVERIFY(peer.startRegistered({QStringLiteral("--speed"), QStringLiteral("20")}));
-    QCOMPARE(call(peer, QStringLiteral("30010008")), QStringLiteral("10"));
-    const QJsonObject invitation = document(peer.nextNotification(), 2);
-    QCOMPARE(members(invitation), QStringList{QStringLiteral("30010008")});
-    peer.command(QStringLiteral("AcceptConf"));
-    QCOMPARE(peer.nextNotification(), QStringLiteral("18"));
-    const QJsonObject joined = document(peer.nextNotification(), 12);
-    QCOMPARE(members(joined), (QStringList{QStringLiteral("30010008"), QStringLiteral("100")}));
-    const QString id = QStringLiteral("confId");
-    QCOMPARE(joined.value(QStringLiteral("content")).toObject().value(id),
-             invitation.value(QStringLiteral("content")).toObject().value(id));
-    QCOMPARE(members(document(peer.nextNotification(), 12)).size(), 3);
-    QCOMPARE(peer.nextNotification(), QStringLiteral("7"));
-}
-
-void tst_Robots::rejectedInvitationIsOver()
-{
-    CallProcess peer;
-    QVERIFY(peer.startRegistered({QStringLiteral("--speed"), QStringLiteral("10")}));
-    QCOMPARE(call(peer, QStringLiteral("30010008")), QStringLiteral("10"));
-    QVERIFY(peer.nextNotification().startsWith(QLatin1String("2 ")));
-    peer.command(QStringLiteral("RejectConf"));
-    peer.command(QStringLiteral("AcceptConf"));
-    QVERIFY(peer.waitTrace(QStringLiteral("= no conference to accept")));
-    QCOMPARE(call(peer, QStringLiteral("30010002")), QStringLiteral("22"));
-}
-
-void tst_Robots::unregisteredCreatorGetsNoConference()
-{
-    CallProcess peer;
-    peer.start();
-    QVERIFY(peer.connectClient());
-    peer.command(QStringLiteral("RequestConference"), {QStringLiteral("100"), QJsonValue(), false, QString()});
-    QCOMPARE(peer.nextNotification(), QStringLiteral("20"));
 }
 
 QTEST_GUILESS_MAIN(tst_Robots)

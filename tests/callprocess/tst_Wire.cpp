@@ -56,12 +56,12 @@ void tst_Wire::robotIdsArePlainUserIds()
     QSet<QString> ids;
     for (const Robot &robot : ROBOTS) {
         const QString id = QString::fromLatin1(robot.id);
-        QVERIFY(id.contains(QRegularExpression(QStringLiteral("^3001000[1-8]$"))));
+        QVERIFY(id.contains(QRegularExpression(QStringLiteral("^300100(0[1-9]|10)$"))));
         QCOMPARE(findRobot(id), &robot);
         ids.insert(id);
     }
-    QCOMPARE(ids.size(), 8);
-    QVERIFY(findRobot(QStringLiteral("30010009")) == nullptr);
+    QCOMPARE(ids.size(), 10);
+    QVERIFY(findRobot(QStringLiteral("30010011")) == nullptr);
 }
 
 void tst_Wire::commandShapes_data()

@@ -15,7 +15,7 @@ public:
 
     /// The lines of the debug channel, oldest first.
     QStringList debugLines;
-    /// The warnings and worse, oldest first.
+    /// The warnings and worse, oldest first, but for those that a race with the window manager may bring.
     QStringList warnings;
 
 private:

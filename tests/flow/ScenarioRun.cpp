@@ -2,6 +2,8 @@
 
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
+#include "ui/ConferenceListView.h"
+#include "ui/ConferenceRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QAbstractButton>
@@ -67,6 +69,8 @@ QStringList ScenarioRun::names()
     QStringList names = QDir(folder()).entryList({QStringLiteral("*.scn")}, QDir::Files, QDir::Name);
     for (QString &name : names)
         name.chop(4);
+    // Without the ending they stand in another order.
+    names.sort();
     return names;
 }
 
@@ -97,6 +101,34 @@ bool ScenarioRun::press(const char *button)
     if (!found || !found->isVisible())
         return false;
     QTest::mouseClick(found, Qt::LeftButton);
+    return true;
+}
+
+QModelIndex ScenarioRun::memberIndex(const QString &strUid) const
+{
+    const auto *list = engine.manager->m_pVoipWidget->findChild<CConferenceListView *>();
+    return list->model()->match(list->model()->index(0, 0), ROLE_USER_ID, strUid).value(0);
+}
+
+bool ScenarioRun::clickMember(const QString &strUid, int rectRole)
+{
+    QWidget *rows = engine.manager->m_pVoipWidget->findChild<CConferenceListView *>()->viewport();
+    // The rectangles are those of the latest painting.
+    rows->grab();
+    const QRect place = memberIndex(strUid).data(rectRole).toRect();
+    if (place.isNull())
+        return false;
+    QTest::mouseClick(rows, Qt::LeftButton, Qt::NoModifier, place.center());
+    return true;
+}
+
+bool ScenarioRun::doubleClickMember(const QString &strUid)
+{
+    const auto *list = engine.manager->m_pVoipWidget->findChild<CConferenceListView *>();
+    const QModelIndex index = memberIndex(strUid);
+    if (!index.isValid())
+        return false;
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, list->visualRect(index).center());
     return true;
 }
 

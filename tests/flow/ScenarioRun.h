@@ -6,6 +6,7 @@
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 
+#include <QModelIndex>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -41,6 +42,11 @@ public:
     bool connectChannel();
     /// Presses a button of the call window; false when the window has none of this name or does not show it.
     bool press(const char *button);
+    /// Clicks into the rectangle that stands in the role `rectRole` of the member's row in the call window; false when
+    /// there is no such row or it has none.
+    bool clickMember(const QString &strUid, int rectRole);
+    /// Double-clicks on the member's row; false when there is none.
+    bool doubleClickMember(const QString &strUid);
 
     /// Waits until the scenario has been gone through or its process has died of it, gives the host's exit command, and
     /// returns the exit code of the call process; -1 when it did not end.
@@ -50,6 +56,7 @@ public:
 
 private:
     QByteArray deliver(EMsgId id, const QByteArray &payload);
+    QModelIndex memberIndex(const QString &strUid) const;
     bool isOver() const;
     bool reap();
 

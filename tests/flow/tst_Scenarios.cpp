@@ -2,6 +2,8 @@
 // and the host do meanwhile, what goes over the wire, and what the host is told.
 
 #include "flow/ScenarioRun.h"
+#include "ui/ConferenceListView.h"
+#include "ui/ConferenceRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QtTest>
@@ -79,6 +81,26 @@ Step closeWindow()
     return {"close the window", [](ScenarioRun &r) { return r.engine.manager->m_pVoipWidget->close(); }};
 }
 
+/// Clicks on the button of a member's row whose rectangle stands in that role.
+Step clickMember(const QString &uid, ConferenceRole button)
+{
+    return {"click at " + uid, [uid, button](ScenarioRun &r) { return r.clickMember(uid, button); }};
+}
+
+Step callAgain(const QString &uid)
+{
+    return {"call again " + uid, [uid](ScenarioRun &r) { return r.doubleClickMember(uid); }};
+}
+
+/// The user asks for more members, and the host's picker gives these.
+Step addMembers(const QStringList &uids)
+{
+    return {"add " + uids.join(','), [uids](ScenarioRun &r) {
+                r.engine.host.membersToAdd = uids;
+                return r.press("btnAddMember");
+            }};
+}
+
 // What the far end and time do.
 
 Step untilRinging(const QString &uid)
@@ -117,6 +139,11 @@ Step untilEnded()
 Step membersWere(const QStringList &members)
 {
     return {"members were " + members.join(','), [members](ScenarioRun &r) { return r.membersAtEnd == members; }};
+}
+
+Step noCreateTime()
+{
+    return {"no creation time", [](ScenarioRun &r) { return r.engine.manager->m_callData.createTime.isNull(); }};
 }
 
 Step untilLogged(const QString &line, int count)
@@ -217,19 +244,76 @@ QList<Row> callsIn()
     };
 }
 
-QList<Row> conferences()
+QStringList requested(const QString &uids)
 {
+    return {R"(RequestConference "me" )" + uids + R"( true "talk")"};
+}
+
+QStringList added(const QString &uids, const QString &connected)
+{
+    return {"Add2Conference " + uids + R"( "me" "me" false "" )" + connected};
+}
+
+QStringList invited(const QString &uid)
+{
+    return {"4639 " + uid + " true false", "4345 " + uid + "@kelvar.im"};
+}
+
+QList<Row> conferencesOfMyOwn()
+{
+    const QStringList closed = kDevicesOn + QStringList("HangupConf");
     return {
         {"conference-created", "closed by the user, the devices are switched on before the leaving",
          {conference({"30010001", "30010002"}), untilConnected(), untilMembers({"30010001 4", "30010002 5"}),
           closeWindow(), untilIdle()},
-         QStringList(R"(RequestConference "me" ["30010001","30010002"] true "talk")") + kDevicesOn + QStringList("HangupConf"), {}},
+         requested(R"(["30010001","30010002"])") + closed, {}},
+        {"conference-members", "the one who has left is called again",
+         {conference({"30010001", "30010002", "30010003", "30010004", "30010009"}),
+          untilMembers({"30010001 1", "30010002 5", "30010003 5", "30010004 0", "30010009 4"}), callAgain("30010009"),
+          untilMembers({"30010001 1", "30010002 5", "30010003 5", "30010004 0", "30010009 1"}), closeWindow(),
+          untilIdle()},
+         requested(R"(["30010001","30010002","30010003","30010004","30010009"])") +
+             added(R"(["30010009"])", R"(["me","30010001"])") + closed, {}},
+        {"conference-added", "one who could not be added is called again",
+         {conference({"30010001"}), untilMembers({"30010001 1"}), addMembers({"30010001", "30010004", "30010005"}),
+          untilMembers({"30010001 1", "30010004 0", "30010005 2"}), callAgain("30010005"),
+          untilMembers({"30010001 1", "30010004 0", "30010005 1"}), closeWindow(), untilIdle()},
+         requested(R"(["30010001"])") + added(R"(["30010004","30010005"])", R"(["me","30010001"])") +
+             added(R"(["30010005"])", R"(["me","30010001"])") + closed, {}},
+        {"conference-controlled", "by the buttons of the list and of the window",
+         {conference({"30010001", "30010006"}), untilMembers({"30010001 1", "30010006 1"}),
+          clickMember("30010001", ROLE_MUTE_RECT), clickMember("30010001", ROLE_MUTE_RECT), press("btnMuteAll"),
+          press("btnMuteAll"), clickMember("30010001", ROLE_REMOVE_RECT), untilMembers({"30010006 1"}), untilIdle()},
+         requested(R"(["30010001","30010006"])") +
+             QStringList{R"(ControlConf "mute" "30010001")", R"(ControlConf "unmute" "30010001")",
+                         R"(ControlConf "mute" "non_moderator")", R"(ControlConf "unmute" "non_moderator")",
+                         R"(ControlConf "kick" "30010001")"} + kDevicesOn, {}},
+        {"conference-crossed", "the creator loses the right to call again",
+         {conference({"30010001", "30010002"}), untilLogged("voipsdk:crossed", 1), callAgain("30010002"),
+          untilMembers({"30010001 1", "30010002 5"}), closeWindow(), untilIdle()},
+         requested(R"(["30010001","30010002"])") + closed, {}},
+        {"conference-refused", "", {conference({"30010001"}), untilIdle()},
+         requested(R"(["30010001"])") + kDevicesOn, {}},
+    };
+}
+
+QList<Row> conferencesOfOthers()
+{
+    const QStringList joined = QStringList("AcceptConf") + kDevicesOn;
+    return {
         {"conference-invited", "",
          {untilRinging("30010008"), answer(true), untilEnded(), membersWere({"30010008 1*", "30010001 1"}),
           untilIdle()},
-         QStringList("AcceptConf") + kDevicesOn, {"4639 30010008 true false", "4345 30010008@kelvar.im"}},
-        {"conference-refused", "", {conference({"30010001"}), untilIdle()},
-         QStringList(R"(RequestConference "me" ["30010001"] true "talk")") + kDevicesOn, {}},
+         joined, invited("30010008")},
+        {"conference-invited-untimed", "",
+         {untilRinging("30010010"), answer(true), untilConnected(), noCreateTime(), untilEnded(),
+          membersWere({"30010010 1*"}), untilIdle()},
+         joined, invited("30010010")},
+        {"conference-invited-twice", "the second invitation is not heard",
+         {untilRinging("30010008"), answer(true), untilEnded(), membersWere({"30010008 1*"}), untilIdle()},
+         joined, invited("30010008")},
+        {"conference-rejected", "", {untilRinging("30010008"), answer(false), untilIdle()},
+         QStringList("RejectConf") + kDevicesOn, invited("30010008")},
     };
 }
 
@@ -267,7 +351,7 @@ QList<Row> wireInput()
 
 QList<Row> allRows()
 {
-    return callsOut() + callsIn() + conferences() + lostCallProcess() + wireInput();
+    return callsOut() + callsIn() + conferencesOfMyOwn() + conferencesOfOthers() + lostCallProcess() + wireInput();
 }
 
 } // namespace

@@ -32,15 +32,15 @@ void tst_ContactBook::hasEveryRobotOnce()
         QVERIFY(!entry.nick.isEmpty());
         QVERIFY(!entry.alternative.isEmpty());
     }
-    QCOMPARE(m_book.entries().size(), 7);
-    QCOMPARE(uids.size(), 7);
+    QCOMPARE(m_book.entries().size(), 10);
+    QCOMPARE(uids.size(), 10);
     QVERIFY(!uids.contains(ContactBook::ownUid()));
 }
 
 void tst_ContactBook::friendMapHoldsContactsAndTheOwnUser()
 {
     const QMap<QString, FriendData> map = m_book.friendMap();
-    QCOMPARE(map.size(), 7);
+    QCOMPARE(map.size(), 10);
     QVERIFY(map.contains(QStringLiteral("30010001@example.org")));
     QVERIFY(map.contains(ContactBook::ownUid() + QStringLiteral("@example.org")));
     for (auto it = map.begin(); it != map.end(); ++it) {

@@ -3,10 +3,13 @@
 #include "MainWindow.h"
 #include "WindowProbe.h"
 
+#include "model/SystemSetData.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"
 
+#include <QDir>
+#include <QFile>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -28,6 +31,8 @@ private slots:
     void recordsAndStatusLineTellTheCall();
     void onlineSwitchFollowsTheSession();
     void numberCanBeCalledOnlyWhenThereIsOne();
+    void noticeIsHiddenWhileThereIsNothingToTell();
+    void damagedStoreIsToldBelowTheHeader();
 
 private:
     void deliver(EMsgId msgId, const QString &receiver, const QByteArray &payload)
@@ -152,6 +157,35 @@ void tst_MainWindow::numberCanBeCalledOnlyWhenThereIsOne()
     QVERIFY(WindowProbe::press(m_pWindow.get(), "btnCallNumber"));
     QTRY_VERIFY(number->text().isEmpty());
     QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Calling 4711"));
+}
+
+void tst_MainWindow::noticeIsHiddenWhileThereIsNothingToTell()
+{
+    QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "lblNotice"));
+}
+
+void tst_MainWindow::damagedStoreIsToldBelowTheHeader()
+{
+    SystemSetData *settings = SystemSetData::instance();
+    settings->initCommonData();
+    settings->initData(ContactBook::ownUid());
+    QVERIFY(QDir().mkpath(settings->m_strUserFolder));
+    QFile file(settings->m_strDatabasePath);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no database") > 0);
+    file.close();
+
+    // The store is opened before the module, which is not there.
+    QString error;
+    QVERIFY(!m_pSession->start(QStringLiteral("/no/module.so"), &error));
+    QVERIFY(m_pSession->store().isOpen());
+    MainWindow window(*m_pSession, m_book);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(WindowProbe::isShown(&window, "lblNotice"));
+    const QString notice = WindowProbe::text(&window, "lblNotice");
+    QVERIFY2(notice.startsWith(QStringLiteral("The local store was damaged. The file is kept as ")),
+             qPrintable(notice));
+    QCOMPARE(notice, m_pSession->store().reports().join(QLatin1Char('\n')));
 }
 
 QTEST_MAIN(tst_MainWindow)

@@ -59,9 +59,12 @@ void tst_Tour::pictureOfEveryWindowIsTaken()
     const QStringList pictures = QDir(QStringLiteral("tour")).entryList({QStringLiteral("*.png")});
     QCOMPARE(pictures, (QStringList{QStringLiteral("call-connected.png"), QStringLiteral("call-incoming.png"),
                                     QStringLiteral("call-outgoing.png"), QStringLiteral("call-video.png"),
-                                    QStringLiteral("close-question.png"), QStringLiteral("demo-window.png"),
-                                    QStringLiteral("desktop.png"), QStringLiteral("incoming-prompt.png"),
-                                    QStringLiteral("message-no-process.png"), QStringLiteral("message.png")}));
+                                    QStringLiteral("close-question.png"), QStringLiteral("conference-invited.png"),
+                                    QStringLiteral("conference-members.png"), QStringLiteral("conference-more.png"),
+                                    QStringLiteral("conference-muted.png"), QStringLiteral("conference-picker.png"),
+                                    QStringLiteral("demo-window.png"), QStringLiteral("desktop.png"),
+                                    QStringLiteral("incoming-prompt.png"), QStringLiteral("message-no-process.png"),
+                                    QStringLiteral("message.png")}));
     for (const QString &picture : pictures) {
         const QImage image(QStringLiteral("tour/") + picture);
         QVERIFY2(image.width() > 200 && image.height() > 100, qPrintable(picture));

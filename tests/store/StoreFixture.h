@@ -15,6 +15,7 @@
 #include <QSqlQuery>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QVariant>
 
 /// A file opened beside the session, with a connection of its own.
 class BesideFile

@@ -20,6 +20,8 @@ public:
     }
 };
 
+constexpr qint64 pageSize = 4096;
+
 const QString trialRows = QStringLiteral("SELECT id FROM msgrecord WHERE id = 'checkid'");
 
 // A table of many pages, the last made ones of which a test can spoil.
@@ -204,21 +206,21 @@ private:
     {
         QFile file(m_store->file());
         QVERIFY(file.open(QIODevice::ReadWrite));
-        QVERIFY(file.seek(file.size() - 10 * 4096));
-        QCOMPARE(file.write(QByteArray(4096, '\x77')), qint64(4096));
+        QVERIFY(file.seek(file.size() - 10 * pageSize));
+        QCOMPARE(file.write(QByteArray(int(pageSize), '\x77')), pageSize);
     }
 
     void spoilRootPageOf(const QString &table)
     {
-        const int page = BesideFile(m_store->file())
-                             .rows("SELECT rootpage FROM sqlite_master WHERE name = '" + table + "'")
-                             .value(0)
-                             .toInt();
+        const qint64 page = BesideFile(m_store->file())
+                                .rows("SELECT rootpage FROM sqlite_master WHERE name = '" + table + "'")
+                                .value(0)
+                                .toLongLong();
         QVERIFY(page > 1);
         QFile file(m_store->file());
         QVERIFY(file.open(QIODevice::ReadWrite));
-        QVERIFY(file.seek((page - 1) * 4096));
-        QCOMPARE(file.write(QByteArray(4096, '\x77')), qint64(4096));
+        QVERIFY(file.seek((page - 1) * pageSize));
+        QCOMPARE(file.write(QByteArray(int(pageSize), '\x77')), pageSize);
     }
 
     std::unique_ptr<StoreFixture> m_store;

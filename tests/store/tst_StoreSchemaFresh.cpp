@@ -2,7 +2,7 @@
 
 #include "store/DB.h"
 #include "store/ExpectedSchema.h"
-#include "store/SchemaFixture.h"
+#include "store/SchemaFile.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -50,10 +50,10 @@ QStringList expectedTableNames()
 }
 
 // A file that is open with nothing but the login table in it.
-void openWithLoginTableOnly(SchemaFixture &store)
+void openWithLoginTableOnly(SchemaFile &store)
 {
     store.run({});
-    QVERIFY(store.open(false));
+    QVERIFY(store.openForSignIn());
 }
 
 } // namespace
@@ -83,19 +83,19 @@ void tst_StoreSchemaFresh::aFreshFileHas44TablesOf298ColumnsAnd8IndexesAnd38Colu
     QCOMPARE(later, 38);
     QCOMPARE(tablesWithLaterColumns, 12);
 
-    SchemaFixture store;
+    SchemaFile store;
     QVERIFY(store.open());
-    QCOMPARE(store.column("select count(*) from sqlite_master where type = 'table'"), QStringList("44"));
-    QCOMPARE(store.column("select count(*) from sqlite_master m, pragma_table_info(m.name) where m.type = 'table'"),
+    QCOMPARE(store.rows("select count(*) from sqlite_master where type = 'table'"), QStringList("44"));
+    QCOMPARE(store.rows("select count(*) from sqlite_master m, pragma_table_info(m.name) where m.type = 'table'"),
              QStringList("298"));
-    QCOMPARE(store.column("select count(*) from sqlite_master where type = 'index' and sql is not null"),
+    QCOMPARE(store.rows("select count(*) from sqlite_master where type = 'index' and sql is not null"),
              QStringList("8"));
-    QCOMPARE(store.column("select count(*) from sqlite_master where type not in ('table', 'index')"), QStringList("0"));
+    QCOMPARE(store.rows("select count(*) from sqlite_master where type not in ('table', 'index')"), QStringList("0"));
 }
 
 void tst_StoreSchemaFresh::aFreshFileHasTheseTablesInThisOrderAndNoOther()
 {
-    SchemaFixture store;
+    SchemaFile store;
     QVERIFY(store.open());
     QCOMPARE(store.tables(), expectedTableNames());
 }
@@ -108,7 +108,7 @@ void tst_StoreSchemaFresh::columnsOfAFreshTable_data()
 void tst_StoreSchemaFresh::columnsOfAFreshTable()
 {
     QFETCH(QString, table);
-    SchemaFixture store;
+    SchemaFile store;
     QVERIFY(store.open());
     QStringList columns;
     for (const QString &column : expectedTable(table).columns)
@@ -124,7 +124,7 @@ void tst_StoreSchemaFresh::storedTextOfAFreshTable_data()
 void tst_StoreSchemaFresh::storedTextOfAFreshTable()
 {
     QFETCH(QString, table);
-    SchemaFixture store;
+    SchemaFile store;
     QVERIFY(store.open());
     QCOMPARE(store.storedSql(table), expectedTable(table).createSql());
 }
@@ -137,17 +137,17 @@ void tst_StoreSchemaFresh::indexesOfAFreshTable_data()
 void tst_StoreSchemaFresh::indexesOfAFreshTable()
 {
     QFETCH(QString, table);
-    SchemaFixture store;
+    SchemaFile store;
     QVERIFY(store.open());
     const ExpectedTable &expected = expectedTable(table);
     QCOMPARE(store.indexesOf(table), expected.indexNames());
     for (const ExpectedIndex &index : expected.indexes) {
         QCOMPARE(store.storedSql(index.name), expected.indexSql(index));
-        QCOMPARE(store.column("select name from pragma_index_info('" + index.name + "') order by seqno"),
+        QCOMPARE(store.rows("select name from pragma_index_info('" + index.name + "') order by seqno"),
                  index.columns.split(','));
     }
     const bool keyed = expected.columns.first().contains("primary key", Qt::CaseInsensitive);
-    QCOMPARE(store.column("select origin from pragma_index_list('" + table + "') where origin <> 'c'"),
+    QCOMPARE(store.rows("select origin from pragma_index_list('" + table + "') where origin <> 'c'"),
              keyed ? QStringList("pk") : QStringList());
 }
 
@@ -170,7 +170,7 @@ void tst_StoreSchemaFresh::aFreshFileIsMadeByTheseStatements()
         first = last + 1;
     }
 
-    SchemaFixture store;
+    SchemaFile store;
     openWithLoginTableOnly(store);
     QStringList writes = store.writesOf(&DB::createTable);
     writes.replaceInStrings(QRegularExpression(" VALUES .*"), QString());
@@ -179,7 +179,7 @@ void tst_StoreSchemaFresh::aFreshFileIsMadeByTheseStatements()
 
 void tst_StoreSchemaFresh::signInModeMakesOnlyTheLoginTable()
 {
-    SchemaFixture store;
+    SchemaFile store;
     openWithLoginTableOnly(store);
     QCOMPARE(store.tables(), QStringList("loginInfo"));
     QCOMPARE(store.storedSql("loginInfo"), expectedTable("loginInfo").createSql());
@@ -187,14 +187,14 @@ void tst_StoreSchemaFresh::signInModeMakesOnlyTheLoginTable()
 
 void tst_StoreSchemaFresh::aSecondCreateTableChangesNotOneByte()
 {
-    SchemaFixture store;
+    SchemaFile store;
     QVERIFY(store.open());
     const QStringList schema = store.schema();
     const QByteArray bytes = store.bytes();
     DB::createTable();
     QCOMPARE(store.schema(), schema);
     QVERIFY(store.bytes() == bytes);
-    store.close();
+    DB::closeDB();
     QVERIFY(store.open());
     QCOMPARE(store.schema(), schema);
     QVERIFY(store.bytes() == bytes);
@@ -202,7 +202,7 @@ void tst_StoreSchemaFresh::aSecondCreateTableChangesNotOneByte()
 
 void tst_StoreSchemaFresh::aSecondCreateTableWritesNothing()
 {
-    SchemaFixture store;
+    SchemaFile store;
     QVERIFY(store.open());
     QCOMPARE(store.writesOf(&DB::createTable), QStringList());
 }
@@ -221,7 +221,7 @@ void tst_StoreSchemaFresh::eachCreatorMakesItsOwnTables()
         if (expected.creator == creator && expected.name != "loginInfo")
             names.append(expected.name);
     }
-    SchemaFixture store;
+    SchemaFile store;
     openWithLoginTableOnly(store);
     creator();
     QCOMPARE(store.tables(), names);
@@ -230,7 +230,7 @@ void tst_StoreSchemaFresh::eachCreatorMakesItsOwnTables()
 void tst_StoreSchemaFresh::theDingVersionTableIsMadeOnlyOnRequest()
 {
     const ExpectedTable &expected = expectedDingVersionTable();
-    SchemaFixture store;
+    SchemaFile store;
     QVERIFY(store.open());
     QVERIFY(!store.tables().contains(expected.name));
     expected.creator();
@@ -242,23 +242,22 @@ void tst_StoreSchemaFresh::theDingVersionTableIsMadeOnlyOnRequest()
 
 void tst_StoreSchemaFresh::theLastTimeRowIsSeededWithTheEmptyText()
 {
-    SchemaFixture store;
+    SchemaFile store;
     QVERIFY(store.open());
-    QCOMPARE(store.rows("select quote(sessionId), quote(lastTime) from last_time"),
-             QVector<QStringList>({{"'all_session'", "''"}}));
+    QCOMPARE(store.rows("select quote(sessionId), quote(lastTime) from last_time"), QStringList("'all_session'|''"));
 }
 
 void tst_StoreSchemaFresh::messagesHaveNoSecondIndex()
 {
-    SchemaFixture store;
+    SchemaFile store;
     QVERIFY(store.open());
-    QCOMPARE(store.column("select count(*) from sqlite_master where name like 'msgrecord_index2'"), QStringList("0"));
+    QCOMPARE(store.rows("select count(*) from sqlite_master where name like 'msgrecord_index2'"), QStringList("0"));
 }
 
 // A table whose name differs only in case is another one to the existence test and the same one to CREATE TABLE.
 void tst_StoreSchemaFresh::messagesGetNoIndexWhenTheirTableIsNotCreated()
 {
-    SchemaFixture store;
+    SchemaFile store;
     store.run({expectedTable("msgrecord").createSql().replace("msgrecord", "MSGRECORD")});
     QVERIFY(store.openTwice());
     QCOMPARE(store.indexesOf("MSGRECORD"), QStringList());
@@ -266,7 +265,7 @@ void tst_StoreSchemaFresh::messagesGetNoIndexWhenTheirTableIsNotCreated()
 
 void tst_StoreSchemaFresh::dingIndexesFilesAndColumnsComeAlsoWhenTheTableIsNotCreated()
 {
-    SchemaFixture store;
+    SchemaFile store;
     const ExpectedTable &ding = expectedTable("dingmsginfo");
     store.run({ding.createSql(ding.oldestColumns()).replace("dingmsginfo", "DINGMSGINFO")});
     QVERIFY(store.openTwice());
@@ -277,10 +276,10 @@ void tst_StoreSchemaFresh::dingIndexesFilesAndColumnsComeAlsoWhenTheTableIsNotCr
 
 void tst_StoreSchemaFresh::deletionMarkOfAnApplicationHasNoDefault()
 {
-    SchemaFixture store;
+    SchemaFile store;
     QVERIFY(store.open());
     store.run({"insert into appnumbernew (appcode) values ('a')"});
-    QCOMPARE(store.column("select quote(isdelete) from appnumbernew"), QStringList("NULL"));
+    QCOMPARE(store.rows("select quote(isdelete) from appnumbernew"), QStringList("NULL"));
 }
 
 QTEST_GUILESS_MAIN(tst_StoreSchemaFresh)

@@ -3,7 +3,7 @@
 
 #include "store/DB.h"
 #include "store/ExpectedSchema.h"
-#include "store/SchemaFixture.h"
+#include "store/SchemaFile.h"
 
 #include <QTest>
 
@@ -152,12 +152,12 @@ void tst_StoreSchemaUpgrade::columnsAndRowsOfAnOldTable()
     QFETCH(QStringList, columns);
     const QStringList missing = missingFrom(columns, expectedTable(table).later);
 
-    SchemaFixture store;
+    SchemaFile store;
     store.run(QStringList(expectedTable(table).createSql(columns)) + insertRows(table, columns));
     const QString select = "select " + quotedColumns(columns) + " from " + table + " order by rowid";
-    const QVector<QStringList> rows = store.rows(select);
+    const QStringList rows = store.rows(select);
     QVERIFY(store.open());
-    store.close();
+    DB::closeDB();
 
     QStringList infos;
     QString sql = expectedTable(table).createSql(columns);
@@ -173,14 +173,14 @@ void tst_StoreSchemaUpgrade::columnsAndRowsOfAnOldTable()
     QCOMPARE(store.rows(select), rows);
     for (const QString &column : missing) {
         const QString value = columnName(column) == "isdelete" ? "0" : "NULL";
-        QCOMPARE(store.column("select quote(" + columnName(column) + ") from " + table),
+        QCOMPARE(store.rows("select quote(" + columnName(column) + ") from " + table),
                  QStringList({value, value, value}));
     }
 
     const QStringList schema = store.schema();
     const QByteArray bytes = store.bytes();
     QVERIFY(store.open());
-    store.close();
+    DB::closeDB();
     QCOMPARE(store.schema(), schema);
     QVERIFY(store.bytes() == bytes);
 }
@@ -198,16 +198,16 @@ void tst_StoreSchemaUpgrade::statementsThatUpgradeAnOldTable()
     for (const QString &text : missingFrom(columns, expectedTable(table).later))
         expected.append("ALTER TABLE " + table + " ADD " + text);
 
-    SchemaFixture store;
+    SchemaFile store;
     store.run({expectedTable(table).createSql(columns)});
-    QVERIFY(store.open(false));
+    QVERIFY(store.openForSignIn());
     QCOMPARE(store.writesOf(expectedTable(table).creator).filter("ALTER"), expected);
     QCOMPARE(store.writesOf(expectedTable(table).creator), QStringList());
 }
 
 void tst_StoreSchemaUpgrade::missingTablesJoinAnOldFile()
 {
-    SchemaFixture store;
+    SchemaFile store;
     store.run(oldest("mucmembers"));
     QVERIFY(store.openTwice());
     QStringList names("mucmembers");
@@ -223,7 +223,7 @@ void tst_StoreSchemaUpgrade::foreignColumnsTablesAndIndexesStay()
     const QStringList statements = {
         "CREATE TABLE message_session (sessionId INTEGER primary key, mine TEXT default 'x')",
         "CREATE INDEX message_session_mine on message_session(mine)", "CREATE TABLE friendlist (a, b)"};
-    SchemaFixture store;
+    SchemaFile store;
     store.run(statements + QStringList{"insert into message_session (sessionId) values (7)",
                                        "insert into friendlist values (1, 2)"});
     QVERIFY(store.openTwice());
@@ -232,14 +232,13 @@ void tst_StoreSchemaUpgrade::foreignColumnsTablesAndIndexesStay()
                      "noticeid VARCHAR(100), noticestatus INT)"));
     QCOMPARE(store.storedSql("message_session_mine"), statements[1]);
     QCOMPARE(store.storedSql("friendlist"), statements[2]);
-    QCOMPARE(store.rows("select * from friendlist"), QVector<QStringList>({{"1", "2"}}));
-    QCOMPARE(store.rows("select sessionId, mine, quote(recall) from message_session"),
-             QVector<QStringList>({{"7", "x", "NULL"}}));
+    QCOMPARE(store.rows("select * from friendlist"), QStringList("1|2"));
+    QCOMPARE(store.rows("select sessionId, mine, quote(recall) from message_session"), QStringList("7|x|NULL"));
 }
 
 void tst_StoreSchemaUpgrade::oldMessagesLoseTheirOldIndexesAndGainTheCompositeOnes()
 {
-    SchemaFixture store;
+    SchemaFile store;
     store.run(oldest("msgrecord") + QStringList{"CREATE INDEX msgrecord_index1 on msgrecord(unique_jid)",
                                                 "CREATE INDEX msgrecord_index2 on msgrecord(ztime)",
                                                 "CREATE INDEX msgrecord_index3 on msgrecord(messageid)",
@@ -248,12 +247,12 @@ void tst_StoreSchemaUpgrade::oldMessagesLoseTheirOldIndexesAndGainTheCompositeOn
     QCOMPARE(store.indexesOf("msgrecord"), expectedTable("msgrecord").indexNames());
     for (const ExpectedIndex &index : expectedTable("msgrecord").indexes)
         QCOMPARE(store.storedSql(index.name), expectedTable("msgrecord").indexSql(index));
-    QCOMPARE(store.column("PRAGMA integrity_check"), QStringList("ok"));
+    QCOMPARE(store.rows("PRAGMA integrity_check"), QStringList("ok"));
 }
 
 void tst_StoreSchemaUpgrade::oldMessagesWithoutIndexesGetOnlyTheCompositeOnes()
 {
-    SchemaFixture store;
+    SchemaFile store;
     store.run(oldest("msgrecord"));
     QVERIFY(store.openTwice());
     QCOMPARE(store.indexesOf("msgrecord"),
@@ -262,7 +261,7 @@ void tst_StoreSchemaUpgrade::oldMessagesWithoutIndexesGetOnlyTheCompositeOnes()
 
 void tst_StoreSchemaUpgrade::changeOfMessageIndexesRidesOnTheSequenceColumn()
 {
-    SchemaFixture store;
+    SchemaFile store;
     const ExpectedTable &messages = expectedTable("msgrecord");
     store.run(
         {messages.createSql(without(messages.columns, "atlist")), "CREATE INDEX msgrecord_index2 on msgrecord(ztime)"});
@@ -273,10 +272,10 @@ void tst_StoreSchemaUpgrade::changeOfMessageIndexesRidesOnTheSequenceColumn()
 
 void tst_StoreSchemaUpgrade::misspelledMessageIndexIsDroppedAtEachOpen()
 {
-    SchemaFixture store;
+    SchemaFile store;
     QVERIFY(store.open());
     for (int i = 0; i < 2; ++i) {
-        store.close();
+        DB::closeDB();
         store.run({"CREATE INDEX msgrecord_index_sqeuenceId on msgrecord(sequenceId)"});
         QVERIFY(store.open());
         QCOMPARE(store.indexesOf("msgrecord"), expectedTable("msgrecord").indexNames());
@@ -285,10 +284,10 @@ void tst_StoreSchemaUpgrade::misspelledMessageIndexIsDroppedAtEachOpen()
 
 void tst_StoreSchemaUpgrade::sequenceIndexIsMadeAtEachOpenThatFindsItMissing()
 {
-    SchemaFixture store;
+    SchemaFile store;
     QVERIFY(store.open());
     for (int i = 0; i < 2; ++i) {
-        store.close();
+        DB::closeDB();
         store.run({"DROP INDEX msgrecord_index_uniquejid_sequenceId"});
         QVERIFY(store.open());
         QCOMPARE(store.indexesOf("msgrecord"), expectedTable("msgrecord").indexNames());
@@ -297,10 +296,10 @@ void tst_StoreSchemaUpgrade::sequenceIndexIsMadeAtEachOpenThatFindsItMissing()
 
 void tst_StoreSchemaUpgrade::statementsOfAMessageUpgrade()
 {
-    SchemaFixture store;
+    SchemaFile store;
     store.run(oldest("msgrecord") + QStringList{"CREATE INDEX msgrecord_index2 on msgrecord(ztime)",
                                                 "CREATE INDEX msgrecord_index_sqeuenceId on msgrecord(burnFlag)"});
-    QVERIFY(store.open(false));
+    QVERIFY(store.openForSignIn());
     QCOMPARE(store.writesOf(&DB::createMessageTable),
              QStringList({"ALTER TABLE msgrecord ADD atlist TEXT", "ALTER TABLE msgrecord ADD sequenceId INT64",
                           "DROP INDEX msgrecord_index2;",
@@ -324,7 +323,7 @@ void tst_StoreSchemaUpgrade::roomIndexIsMadeAlsoWhenNoColumnIsMissing()
     QFETCH(QString, table);
     QFETCH(QStringList, columns);
     const ExpectedTable &expected = expectedTable(table);
-    SchemaFixture store;
+    SchemaFile store;
     store.run({expected.createSql(columns)});
     QVERIFY(store.open());
     QCOMPARE(store.indexesOf(table), expected.indexNames());
@@ -333,7 +332,7 @@ void tst_StoreSchemaUpgrade::roomIndexIsMadeAlsoWhenNoColumnIsMissing()
 
 void tst_StoreSchemaUpgrade::existenceOfARoomIsNotConfusedWithItsLocalOne()
 {
-    SchemaFixture store;
+    SchemaFile store;
     store.run({"CREATE TABLE mucrecord (roomJid VARCHAR(100), localExist VARCHAR(1))"});
     QVERIFY(store.open());
     QVERIFY(DB::isExistFiled("mucrecord", "isExist"));
@@ -344,40 +343,40 @@ void tst_StoreSchemaUpgrade::existenceOfARoomIsNotConfusedWithItsLocalOne()
 
 void tst_StoreSchemaUpgrade::sessionOrderComesOnItsOwnTest()
 {
-    SchemaFixture store;
+    SchemaFile store;
     store.run(oldest("unclosesession"));
     QVERIFY(store.openTwice());
     QCOMPARE(store.storedSql("unclosesessionorder"), expectedTable("unclosesessionorder").createSql());
-    QCOMPARE(store.column("select Jid from unclosesession order by rowid"),
+    QCOMPARE(store.rows("select Jid from unclosesession order by rowid"),
              QStringList({"first Jid", "Jid 第二", "alone"}));
 }
 
 void tst_StoreSchemaUpgrade::openSessionsComeWhereOnlyTheirOrderIsThere()
 {
-    SchemaFixture store;
+    SchemaFile store;
     store.run(oldest("unclosesessionorder"));
     QVERIFY(store.openTwice());
     QCOMPARE(store.storedSql("unclosesession"), expectedTable("unclosesession").createSql());
-    QCOMPARE(store.column("select count(*) from unclosesessionorder"), QStringList("3"));
+    QCOMPARE(store.rows("select count(*) from unclosesessionorder"), QStringList("3"));
 }
 
 void tst_StoreSchemaUpgrade::localServiceNumbersAreNeverAltered()
 {
     const QStringList columns = expectedTable("servicenumber").oldestColumns();
     const QString sql = expectedTable("localservicenumber").createSql(columns);
-    SchemaFixture store;
+    SchemaFile store;
     store.run(oldest("servicenumber") + QStringList(sql) + insertRows("localservicenumber", columns));
     QVERIFY(store.openTwice());
     QCOMPARE(store.columnsOf("servicenumber").size(), 14);
     QCOMPARE(store.storedSql("localservicenumber"), sql);
-    QCOMPARE(store.column("select count(*) from localservicenumber"), QStringList("3"));
+    QCOMPARE(store.rows("select count(*) from localservicenumber"), QStringList("3"));
 }
 
 void tst_StoreSchemaUpgrade::localServiceNumbersComeBesideOldServiceNumbers()
 {
-    SchemaFixture store;
+    SchemaFile store;
     store.run({expectedTable("servicenumber").createSql(expectedTable("servicenumber").oldestColumns())});
-    QVERIFY(store.open(false));
+    QVERIFY(store.openForSignIn());
     QStringList statements;
     for (const QString &text : expectedTable("servicenumber").later)
         statements.append("ALTER TABLE servicenumber ADD " + text);
@@ -387,20 +386,20 @@ void tst_StoreSchemaUpgrade::localServiceNumbersComeBesideOldServiceNumbers()
 
 void tst_StoreSchemaUpgrade::oldApplicationsReadZeroInTheDeletionMark()
 {
-    SchemaFixture store;
+    SchemaFile store;
     store.run(oldest("appnumbernew"));
     QVERIFY(store.openTwice());
     store.run({"insert into appnumbernew (appcode) values ('new')"});
-    QCOMPARE(store.column("select quote(isdelete) from appnumbernew"), QStringList({"0", "0", "0", "0"}));
+    QCOMPARE(store.rows("select quote(isdelete) from appnumbernew"), QStringList({"0", "0", "0", "0"}));
 }
 
 void tst_StoreSchemaUpgrade::dingFilesNeverJoinAnOldFile()
 {
-    SchemaFixture store;
+    SchemaFile store;
     store.run(oldest("dingmsginfo"));
     for (int i = 0; i < 3; ++i) {
         QVERIFY(store.open());
-        store.close();
+        DB::closeDB();
         QVERIFY(!store.tables().contains("dingsmsgfileoinfo"));
         QCOMPARE(store.indexesOf("dingmsginfo"), QStringList());
     }
@@ -408,23 +407,23 @@ void tst_StoreSchemaUpgrade::dingFilesNeverJoinAnOldFile()
 
 void tst_StoreSchemaUpgrade::dingFilesAreKeptWhenTheirMessagesAreMadeAnew()
 {
-    SchemaFixture store;
+    SchemaFile store;
     store.run(oldest("dingsmsgfileoinfo"));
     QVERIFY(store.openTwice());
-    QCOMPARE(store.column("select count(*) from dingsmsgfileoinfo"), QStringList("3"));
+    QCOMPARE(store.rows("select count(*) from dingsmsgfileoinfo"), QStringList("3"));
     QCOMPARE(store.storedSql("dingmsginfo"), expectedTable("dingmsginfo").createSql());
     QCOMPARE(store.indexesOf("dingmsginfo"), expectedTable("dingmsginfo").indexNames());
 }
 
 void tst_StoreSchemaUpgrade::lastTimeIsSeededOnlyWithItsTable()
 {
-    SchemaFixture store;
+    SchemaFile store;
     store.run({expectedTable("last_time").createSql()});
     QVERIFY(store.openTwice());
-    QCOMPARE(store.column("select count(*) from last_time"), QStringList("0"));
+    QCOMPARE(store.rows("select count(*) from last_time"), QStringList("0"));
     store.run({"insert into last_time values ('all_session', '1700000000')"});
     QVERIFY(store.openTwice());
-    QCOMPARE(store.rows("select * from last_time"), QVector<QStringList>({{"all_session", "1700000000"}}));
+    QCOMPARE(store.rows("select * from last_time"), QStringList("all_session|1700000000"));
 }
 
 // Deliberate: the test for a column is a search in the stored text, without regard to case.
@@ -439,7 +438,7 @@ void tst_StoreSchemaUpgrade::aColumnIsTakenForThereWhenItsNameStandsInAnother_da
 void tst_StoreSchemaUpgrade::aColumnIsTakenForThereWhenItsNameStandsInAnother()
 {
     QFETCH(QString, sql);
-    SchemaFixture store;
+    SchemaFile store;
     store.run({sql});
     QVERIFY(store.openTwice());
     QCOMPARE(store.storedSql("mucmembers"), sql);

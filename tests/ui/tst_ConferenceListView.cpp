@@ -532,7 +532,7 @@ void tst_ConferenceListView::longNameAndOddTextAreDrawnInTheRow()
     const QRect row = m_pList->visualRect(m_pList->model()->index(0, 0));
     // Between creator mark and status there is a gap, however long the name is.
     const qreal ratio = picture.devicePixelRatio();
-    const int x = qRound((row.right() - 20 - 60 - 4) * ratio);
+    const int x = qRound((row.right() - 224 - 4) * ratio);
     for (int y = row.top(); y < row.bottom(); ++y)
         QCOMPARE(picture.pixelColor(x, qRound(y * ratio)), picture.pixelColor(qRound(2 * ratio), qRound(2 * ratio)));
 }

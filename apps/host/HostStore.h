@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+#include <QStringList>
+
+class QDateTime;
+
+/// The signed-in user's local store as this client keeps it, from login to quit. The store's own class gives verdicts
+/// only; this one has the rule for them: a damaged file is moved aside and never deleted, one that another program
+/// holds is left alone, the file of an older client is left as it is, and each of these is told. GUI thread. The shared
+/// context must be set before open() and outlive this object; it keeps the connection that plug-ins use.
+class HostStore
+{
+    Q_DECLARE_TR_FUNCTIONS(HostStore)
+
+public:
+    /// Nothing is opened yet.
+    HostStore() = default;
+    /// Closes the store.
+    ~HostStore();
+    HostStore(const HostStore &) = delete;
+    HostStore &operator=(const HostStore &) = delete;
+
+    /// Checks and opens the store of the user `strUid` in the folder `strBase`/`strUid`, which is made when it is
+    /// missing; an open one is closed first. Returns whether the store is open. May wait some seconds for a file that
+    /// another program holds.
+    bool open(const QString &strUid, const QString &strBase);
+    /// Closes the store and takes the connection from the shared context. Without an open store nothing happens.
+    void close();
+    /// Whether the last open() succeeded and close() has not been called since.
+    bool isOpen() const { return m_bOpen; }
+
+    /// What the person has to know of the last open(), a sentence or two each, in the client's language; empty when all
+    /// was well. They stand in the log as well.
+    const QStringList &reports() const { return m_reports; }
+
+    /// The path, in the folder `strFolder`, to which a file found damaged at that time is moved: one that neither a
+    /// file nor what SQLite would keep beside it has yet.
+    static QString asidePath(const QString &strFolder, const QDateTime &when);
+
+private:
+    bool putAside(const QString &strFolder, const QString &strFile);
+    void report(const QString &strWords);
+
+    bool m_bOpen = false;
+    QStringList m_reports;
+};

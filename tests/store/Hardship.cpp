@@ -1,0 +1,70 @@
+#include "Hardship.h"
+
+#include <QtGlobal>
+
+#include <linux/capability.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr uint32_t exemptions = (1U << CAP_DAC_OVERRIDE) | (1U << CAP_DAC_READ_SEARCH);
+
+__user_cap_header_struct ownThread()
+{
+    return {_LINUX_CAPABILITY_VERSION_3, 0};
+}
+
+void readRights(__user_cap_data_struct *data)
+{
+    __user_cap_header_struct header = ownThread();
+    if (syscall(SYS_capget, &header, data) != 0) {
+        qFatal("the rights of this thread cannot be read");
+    }
+}
+
+void writeRights(const __user_cap_data_struct *data)
+{
+    __user_cap_header_struct header = ownThread();
+    if (syscall(SYS_capset, &header, data) != 0) {
+        qFatal("the rights of this thread cannot be set");
+    }
+}
+
+} // namespace
+
+OrdinaryRights::OrdinaryRights()
+{
+    __user_cap_data_struct data[_LINUX_CAPABILITY_U32S_3] = {};
+    readRights(data);
+    m_before[0] = data[0].effective;
+    m_before[1] = data[1].effective;
+    data[0].effective &= ~exemptions;
+    writeRights(data);
+}
+
+OrdinaryRights::~OrdinaryRights()
+{
+    __user_cap_data_struct data[_LINUX_CAPABILITY_U32S_3] = {};
+    readRights(data);
+    data[0].effective = m_before[0];
+    data[1].effective = m_before[1];
+    writeRights(data);
+}
+
+FullDisk::FullDisk(rlim_t iBytes)
+{
+    // Writing on then fails with an error instead of ending the process.
+    m_handler = signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &m_before);
+    const rlimit limit{iBytes, m_before.rlim_max};
+    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+        qFatal("the size of files cannot be limited");
+    }
+}
+
+FullDisk::~FullDisk()
+{
+    setrlimit(RLIMIT_FSIZE, &m_before);
+    signal(SIGXFSZ, m_handler);
+}

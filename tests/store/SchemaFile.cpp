@@ -1,0 +1,90 @@
+#include "store/SchemaFile.h"
+
+#include <QFileInfo>
+#include <QSqlDriver>
+
+#include <sqlite3.h>
+
+static int noteStatement(unsigned, void *list, void *statement, void *)
+{
+    const QString text = QString::fromUtf8(sqlite3_sql(static_cast<sqlite3_stmt *>(statement)));
+    if (!text.startsWith("SELECT", Qt::CaseInsensitive))
+        static_cast<QStringList *>(list)->append(text);
+    return 0;
+}
+
+bool SchemaFile::openForSignIn() const
+{
+    return DB::initByUserName(QFileInfo(folder()).fileName(), base(), false);
+}
+
+bool SchemaFile::openTwice() const
+{
+    const bool first = open();
+    DB::closeDB();
+    const bool second = open();
+    DB::closeDB();
+    return first && second && messages.warnings.isEmpty();
+}
+
+void SchemaFile::run(const QStringList &statements) const
+{
+    if (!QFileInfo::exists(file()))
+        make({});
+    BesideFile beside(file());
+    for (const QString &statement : statements) {
+        if (!beside.run(statement))
+            qFatal("this statement fails: %s", qPrintable(statement));
+    }
+}
+
+QStringList SchemaFile::rows(const QString &statement) const
+{
+    return BesideFile(file()).rows(statement);
+}
+
+QStringList SchemaFile::tables() const
+{
+    return rows("select name from sqlite_master where type = 'table' order by rowid");
+}
+
+QStringList SchemaFile::columnsOf(const QString &table) const
+{
+    return rows("select name, type, \"notnull\", quote(dflt_value), pk from pragma_table_info('" + table +
+                "') order by cid");
+}
+
+QStringList SchemaFile::indexesOf(const QString &table) const
+{
+    return rows("select name from pragma_index_list('" + table + "') where origin = 'c' order by name");
+}
+
+QString SchemaFile::storedSql(const QString &name) const
+{
+    return rows("select sql from sqlite_master where name = '" + name + "'").value(0);
+}
+
+QStringList SchemaFile::schema() const
+{
+    return rows("select type, name, tbl_name, sql from sqlite_master order by rowid") + rows("PRAGMA schema_version");
+}
+
+QByteArray SchemaFile::bytes() const
+{
+    QFile store(file());
+    if (!store.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(file()));
+    return store.readAll();
+}
+
+QStringList SchemaFile::writesOf(void (*work)())
+{
+    const QSqlDatabase session = DB::getDB();
+    const QVariant handle = session.driver()->handle();
+    sqlite3 *pDatabase = *static_cast<sqlite3 *const *>(handle.constData());
+    QStringList statements;
+    sqlite3_trace_v2(pDatabase, SQLITE_TRACE_STMT, &noteStatement, &statements);
+    work();
+    sqlite3_trace_v2(pDatabase, 0, nullptr, nullptr);
+    return statements;
+}

@@ -1,0 +1,355 @@
+// The remove and mute buttons of the conference member list: when they are painted, where, and what the mouse does
+// there.
+
+#include "ContactFixture.h"
+#include "ui/ConferenceListView.h"
+#include "ui/ConferenceRoles.h"
+
+#include <QApplication>
+#include <QSignalSpy>
+#include <QStandardItemModel>
+#include <QTest>
+#include <QToolTip>
+
+#include <memory>
+
+namespace {
+
+constexpr int cListWidth = 521;
+
+} // namespace
+
+class tst_ConferenceListButtons : public QObject
+{
+    Q_OBJECT
+
+private:
+    QModelIndex index(int iRow) const { return m_pList->model()->index(iRow, 0); }
+    QVariant data(int iRow, int iRole) const { return index(iRow).data(iRole); }
+    QRect place(int iRow, int iRole) const { return data(iRow, iRole).toRect(); }
+    QRect row(int iRow) const { return m_pList->visualRect(index(iRow)); }
+    /// The list as it is painted now. The rows move to their new places from the event loop.
+    QImage picture() const
+    {
+        QCoreApplication::processEvents();
+        return m_pList->viewport()->grab().toImage();
+    }
+
+    /// Ann in the first row with this status, bob in the second one with the same; painted once.
+    void show(int iStatus, bool bCallByMe = true)
+    {
+        m_pList->setIsCallByMe(bCallByMe);
+        m_pList->addUserList({QStringLiteral("ann"), QStringLiteral("bob")});
+        for (const char *uid : {"ann", "bob"})
+            m_pList->updateConferenceUserStatus(QLatin1String(uid), iStatus);
+        m_pList->resize(cListWidth, 280);
+        m_pList->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_pList.get()));
+        picture();
+    }
+    void moveTo(const QPoint &position) { QTest::mouseMove(m_pList->viewport(), position); }
+    void click(const QPoint &position, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mouseClick(m_pList->viewport(), button, Qt::NoModifier, position);
+    }
+    /// The number of pixels in the rectangle that are exactly of this colour.
+    static int count(const QImage &image, const QRect &place, const QColor &color)
+    {
+        const qreal ratio = image.devicePixelRatio();
+        int iCount = 0;
+        for (int y = qRound(place.top() * ratio); y < qRound((place.bottom() + 1) * ratio); ++y) {
+            for (int x = qRound(place.left() * ratio); x < qRound((place.right() + 1) * ratio); ++x)
+                iCount += image.pixelColor(x, y) == color ? 1 : 0;
+        }
+        return iCount;
+    }
+
+    /// Whether anything green stands in the rectangle, as the word of a connected member is.
+    static bool hasGreen(const QImage &image, const QRect &place)
+    {
+        const qreal ratio = image.devicePixelRatio();
+        for (int y = qRound(place.top() * ratio); y < qRound((place.bottom() + 1) * ratio); ++y) {
+            for (int x = qRound(place.left() * ratio); x < qRound((place.right() + 1) * ratio); ++x) {
+                const QColor color = image.pixelColor(x, y);
+                if (color.green() > color.red() + 40 && color.green() > color.blue() + 40)
+                    return true;
+            }
+        }
+        return false;
+    }
+
+    std::unique_ptr<ContactFixture> m_pContacts;
+    std::unique_ptr<CConferenceListView> m_pList;
+
+private slots:
+    void init();
+    void cleanup();
+
+    void statusDecidesWhichButtonsThereAre_data();
+    void statusDecidesWhichButtonsThereAre();
+    void invitedMemberSeesNoButtons();
+    void buttonsStandAtTheRowsRightEnd();
+    void statusStandsLeftOfTheButtonsForTheCallerOnly();
+    void paintingAgainDoesNotChangeTheItem();
+    void mutedMemberShowsAnotherMicrophone();
+
+    void cursorOnTheRemoveButtonLightsItUp();
+    void cursorOnTheMuteButtonLightsItUp();
+    void muteTipTellsWhatAClickDoes();
+    void leavingTheButtonsWithinTheRowPutsThemOut();
+    void movingFromButtonToButtonKeepsTheFirstOnesFlag();
+    void movingBelowTheRowsChangesNothing();
+
+    void clickOnRemoveAsksForTheRowsMember();
+    void clickOnMuteTurnsItAndTellsWhichWay();
+    void clickOnTheEdgeOfAButtonCounts();
+    void clickBesideTheButtonsAsksForNothing();
+    void rightAndMiddleClicksAskForNothing();
+    void buttonAnswersAtItsOldPlaceAfterTheStatusFellBack();
+    void removedRowsPlaceBelongsToTheNextOne();
+};
+
+void tst_ConferenceListButtons::init()
+{
+    m_pContacts = std::make_unique<ContactFixture>();
+    m_pList = std::make_unique<CConferenceListView>();
+}
+
+void tst_ConferenceListButtons::cleanup()
+{
+    m_pList.reset();
+    m_pContacts.reset();
+    QToolTip::hideText();
+}
+
+void tst_ConferenceListButtons::statusDecidesWhichButtonsThereAre_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::addColumn<bool>("remove");
+    QTest::addColumn<bool>("mute");
+    QTest::newRow("calling") << 0 << false << false;
+    QTest::newRow("connected") << 1 << true << true;
+    QTest::newRow("failed") << 2 << true << false;
+    QTest::newRow("busy") << 3 << true << false;
+    QTest::newRow("hung up") << 4 << true << false;
+    QTest::newRow("rejected") << 5 << true << false;
+    QTest::newRow("negative") << -1 << true << false;
+}
+
+void tst_ConferenceListButtons::statusDecidesWhichButtonsThereAre()
+{
+    QFETCH(int, status);
+    QFETCH(bool, remove);
+    QFETCH(bool, mute);
+    show(status);
+    QCOMPARE(!place(0, ROLE_REMOVE_RECT).isNull(), remove);
+    QCOMPARE(!place(0, ROLE_MUTE_RECT).isNull(), mute);
+    const QColor gray(158, 158, 158);
+    const QImage now = picture();
+    const QRect r = row(0);
+    QCOMPARE(count(now, QRect(r.right() - 37, r.top() + 10, 18, 18), gray) > 0, remove);
+    QCOMPARE(count(now, QRect(r.right() - 73, r.top() + 10, 18, 18), gray) > 0, mute);
+}
+
+void tst_ConferenceListButtons::invitedMemberSeesNoButtons()
+{
+    show(1, false);
+    QVERIFY(!data(0, ROLE_REMOVE_RECT).isValid());
+    QVERIFY(!data(0, ROLE_MUTE_RECT).isValid());
+}
+
+void tst_ConferenceListButtons::buttonsStandAtTheRowsRightEnd()
+{
+    show(1);
+    for (const int iRow : {0, 1}) {
+        const QRect r = row(iRow);
+        QCOMPARE(place(iRow, ROLE_REMOVE_RECT), QRect(r.right() + 1 - 38, r.top() + 10, 18, 18));
+        QCOMPARE(place(iRow, ROLE_MUTE_RECT), QRect(r.right() + 1 - 74, r.top() + 10, 18, 18));
+    }
+}
+
+void tst_ConferenceListButtons::statusStandsLeftOfTheButtonsForTheCallerOnly()
+{
+    show(1);
+    const QRect r = row(0);
+    const QRect mine(r.right() + 1 - 224, r.top() + 10, 50, 27);
+    const QRect theirs(r.right() + 1 - 70, r.top() + 10, 50, 27);
+    QVERIFY(hasGreen(picture(), mine));
+    QVERIFY(!hasGreen(picture(), theirs));
+    m_pList->clearMembers();
+    show(1, false);
+    QVERIFY(!hasGreen(picture(), mine));
+    QVERIFY(hasGreen(picture(), theirs));
+}
+
+void tst_ConferenceListButtons::paintingAgainDoesNotChangeTheItem()
+{
+    show(1);
+    const QSignalSpy changed(m_pList->model(), &QAbstractItemModel::dataChanged);
+    picture();
+    QCOMPARE(changed.count(), 0);
+}
+
+void tst_ConferenceListButtons::mutedMemberShowsAnotherMicrophone()
+{
+    show(1);
+    const QImage before = picture();
+    m_pList->setMuteAll(true);
+    QVERIFY(picture() != before);
+}
+
+void tst_ConferenceListButtons::cursorOnTheRemoveButtonLightsItUp()
+{
+    show(1);
+    const QRect button = place(0, ROLE_REMOVE_RECT);
+    moveTo(button.center());
+    QTRY_COMPARE(data(0, ROLE_REMOVE_HOVER), QVariant(true));
+    QCOMPARE(data(0, ROLE_MUTE_HOVER), QVariant(false));
+    QCOMPARE(data(1, ROLE_REMOVE_HOVER), QVariant(false));
+    QCOMPARE(m_pList->cursor().shape(), Qt::PointingHandCursor);
+    QCOMPARE(QToolTip::text(), QStringLiteral("移出会议"));
+    const QColor red(255, 97, 88);
+    QVERIFY(count(picture(), button, red) > 0);
+    QCOMPARE(count(picture(), place(1, ROLE_REMOVE_RECT), red), 0);
+}
+
+void tst_ConferenceListButtons::cursorOnTheMuteButtonLightsItUp()
+{
+    show(1);
+    const QRect button = place(1, ROLE_MUTE_RECT);
+    moveTo(button.center());
+    QTRY_COMPARE(data(1, ROLE_MUTE_HOVER), QVariant(true));
+    QCOMPARE(data(1, ROLE_REMOVE_HOVER), QVariant(false));
+    QCOMPARE(m_pList->cursor().shape(), Qt::PointingHandCursor);
+    QVERIFY(count(picture(), button, QColor(0, 185, 31)) > 0);
+}
+
+void tst_ConferenceListButtons::muteTipTellsWhatAClickDoes()
+{
+    show(1);
+    moveTo(place(0, ROLE_MUTE_RECT).center());
+    QTRY_COMPARE(QToolTip::text(), QStringLiteral("静音"));
+    m_pList->setMuteAll(true);
+    moveTo(place(0, ROLE_MUTE_RECT).center() + QPoint(1, 0));
+    QTRY_COMPARE(QToolTip::text(), QStringLiteral("取消静音"));
+}
+
+void tst_ConferenceListButtons::leavingTheButtonsWithinTheRowPutsThemOut()
+{
+    show(1);
+    moveTo(place(0, ROLE_REMOVE_RECT).center());
+    QTRY_COMPARE(data(0, ROLE_REMOVE_HOVER), QVariant(true));
+    moveTo(QPoint(100, row(0).center().y()));
+    QTRY_COMPARE(data(0, ROLE_REMOVE_HOVER), QVariant(false));
+    QCOMPARE(data(0, ROLE_MUTE_HOVER), QVariant(false));
+    QCOMPARE(m_pList->cursor().shape(), Qt::ArrowCursor);
+}
+
+void tst_ConferenceListButtons::movingFromButtonToButtonKeepsTheFirstOnesFlag()
+{
+    show(1);
+    moveTo(place(0, ROLE_REMOVE_RECT).center());
+    QTRY_COMPARE(data(0, ROLE_REMOVE_HOVER), QVariant(true));
+    moveTo(place(0, ROLE_MUTE_RECT).center());
+    QTRY_COMPARE(data(0, ROLE_MUTE_HOVER), QVariant(true));
+    QCOMPARE(data(0, ROLE_REMOVE_HOVER), QVariant(true));
+}
+
+void tst_ConferenceListButtons::movingBelowTheRowsChangesNothing()
+{
+    show(1);
+    moveTo(place(1, ROLE_REMOVE_RECT).center());
+    QTRY_COMPARE(data(1, ROLE_REMOVE_HOVER), QVariant(true));
+    const QSignalSpy changed(m_pList->model(), &QAbstractItemModel::dataChanged);
+    moveTo(QPoint(100, row(1).bottom() + 60));
+    QCoreApplication::processEvents();
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(m_pList->cursor().shape(), Qt::PointingHandCursor);
+}
+
+void tst_ConferenceListButtons::clickOnRemoveAsksForTheRowsMember()
+{
+    const QSignalSpy removed(m_pList.get(), &CConferenceListView::signal_RemoveUser);
+    const QSignalSpy muted(m_pList.get(), &CConferenceListView::signal_MuteUser);
+    show(2);
+    click(place(1, ROLE_REMOVE_RECT).center());
+    QCOMPARE(removed.count(), 1);
+    QCOMPARE(removed.at(0).at(0).toString(), QStringLiteral("bob"));
+    QCOMPARE(muted.count(), 0);
+    QCOMPARE(m_pList->model()->rowCount(), 2);
+}
+
+void tst_ConferenceListButtons::clickOnMuteTurnsItAndTellsWhichWay()
+{
+    const QSignalSpy removed(m_pList.get(), &CConferenceListView::signal_RemoveUser);
+    const QSignalSpy muted(m_pList.get(), &CConferenceListView::signal_MuteUser);
+    show(1);
+    for (const bool bMute : {true, false}) {
+        click(place(0, ROLE_MUTE_RECT).center());
+        QCOMPARE(muted.last(), (QList<QVariant>{QStringLiteral("ann"), bMute}));
+        QCOMPARE(data(0, ROLE_MUTED), QVariant(bMute));
+        QCOMPARE(data(1, ROLE_MUTED), QVariant(false));
+    }
+    QCOMPARE(muted.count(), 2);
+    QCOMPARE(removed.count(), 0);
+}
+
+void tst_ConferenceListButtons::clickOnTheEdgeOfAButtonCounts()
+{
+    const QSignalSpy removed(m_pList.get(), &CConferenceListView::signal_RemoveUser);
+    show(2);
+    const QRect button = place(0, ROLE_REMOVE_RECT);
+    click(button.topLeft());
+    click(button.bottomRight());
+    QCOMPARE(removed.count(), 2);
+    click(button.topLeft() - QPoint(1, 0));
+    click(button.bottomRight() + QPoint(0, 1));
+    QCOMPARE(removed.count(), 2);
+}
+
+void tst_ConferenceListButtons::clickBesideTheButtonsAsksForNothing()
+{
+    const QSignalSpy removed(m_pList.get(), &CConferenceListView::signal_RemoveUser);
+    const QSignalSpy muted(m_pList.get(), &CConferenceListView::signal_MuteUser);
+    show(1);
+    click(row(0).center());
+    click(QPoint(100, row(1).bottom() + 60));
+    QCOMPARE(removed.count() + muted.count(), 0);
+}
+
+void tst_ConferenceListButtons::rightAndMiddleClicksAskForNothing()
+{
+    const QSignalSpy removed(m_pList.get(), &CConferenceListView::signal_RemoveUser);
+    show(1);
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton})
+        click(place(0, ROLE_REMOVE_RECT).center(), button);
+    QCOMPARE(removed.count(), 0);
+}
+
+void tst_ConferenceListButtons::buttonAnswersAtItsOldPlaceAfterTheStatusFellBack()
+{
+    const QSignalSpy muted(m_pList.get(), &CConferenceListView::signal_MuteUser);
+    show(1);
+    m_pList->updateConferenceUserStatus(QStringLiteral("ann"), 0);
+    picture();
+    click(place(0, ROLE_MUTE_RECT).center());
+    QCOMPARE(muted.count(), 1);
+}
+
+void tst_ConferenceListButtons::removedRowsPlaceBelongsToTheNextOne()
+{
+    const QSignalSpy removed(m_pList.get(), &CConferenceListView::signal_RemoveUser);
+    connect(m_pList.get(), &CConferenceListView::signal_RemoveUser, m_pList.get(), &CConferenceListView::removeUser);
+    show(1);
+    const QPoint position = place(0, ROLE_REMOVE_RECT).center();
+    click(position);
+    QCOMPARE(m_pList->model()->rowCount(), 1);
+    picture();
+    click(position);
+    QCOMPARE(m_pList->model()->rowCount(), 0);
+    QCOMPARE(removed.last().at(0).toString(), QStringLiteral("bob"));
+}
+
+QTEST_MAIN(tst_ConferenceListButtons)
+
+#include "tst_ConferenceListButtons.moc"
