@@ -32,7 +32,7 @@ void tst_RandomWalk::engineStandsAsTheModelAfterEachStep()
     Walk walk(seed);
     const QtMessages messages;
     int records = 0;
-    for (int step = 0; step < 600; ++step) {
+    for (int step = 0; step < 500; ++step) {
         walk.step();
         records += walk.engine.host.received(MSG_CALL_FINISHED).size();
         const QString fault = walk.fault();
@@ -73,7 +73,7 @@ void tst_RandomWalk::whateverTheHostDoesInsideItsHandlersIsSurvived()
         stepInside();
         walk.boxIsOpen = false;
     };
-    for (int step = 0; step < 300; ++step) {
+    for (int step = 0; step < 250; ++step) {
         walk.step();
         walk.model.channelUp = walk.engine.manager->m_bSocketConnected;
         walk.engine.host.events.clear();
