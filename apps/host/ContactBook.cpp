@@ -20,9 +20,9 @@ constexpr Row rows[] = {
     {"30010005", "赵强", "Call fails", true, false},
     {"30010006", "Anna Novak", "Hangs up after 10 s", true, true},
     {"30010007", "韩梅梅", "Calls you back", false, true},
-    {"30010008", "Ivan Petrov", "Invites you to a conference", true, true},
-    {"30010009", "林涛", "Leaves a conference and comes back", true, true},
-    {"30010010", "Sara Klein", "Invites you, lines crossed", true, true},
+    {"30010008", "Ivan Petrov", "Invites you", true, true},
+    {"30010009", "林涛", "Leaves and returns", true, true},
+    {"30010010", "Sara Klein", "Invites, lines crossed", true, true},
 };
 
 constexpr const char *ownId = "30010000";

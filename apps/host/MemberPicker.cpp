@@ -6,6 +6,8 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -25,8 +27,30 @@ MemberPicker::MemberPicker(const ContactBook &book, Purpose purpose, const QStri
     QStringList names;
     std::transform(named.begin(), named.end(), std::back_inserter(names),
                    [&](const QString &uid) { return book.nameOf(uid); });
-    ui->lblAsked->setText((fresh ? tr("A new conference with: %1") : tr("Already in the conference: %1"))
-                              .arg(names.isEmpty() ? tr("nobody yet") : names.join(QStringLiteral(", "))));
+    const QString who = names.join(QStringLiteral(", "));
+    ui->lblAsked->setText(!fresh          ? tr("Already in the conference: %1").arg(who)
+                          : who.isEmpty() ? tr("Whom to call together?")
+                                          : tr("Asked for a conference with: %1").arg(who));
+    addPeople(book, purpose, named);
+    ui->buttonBox->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("btnInvite"));
+    ui->buttonBox->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("btnCancel"));
+    connect(ui->listPeople, &QListWidget::itemChanged, this, &MemberPicker::showPicked);
+    // A click on the name counts as one on the box. The box turns by itself and does not report the press.
+    connect(ui->listPeople, &QListWidget::itemPressed, this,
+            [this](const QListWidgetItem *item) { m_pressed = item->checkState(); });
+    connect(ui->listPeople, &QListWidget::itemClicked, this, [this](QListWidgetItem *item) {
+        if (item->checkState() == std::exchange(m_pressed, std::nullopt)) {
+            item->setCheckState(item->checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+        }
+    });
+    showPicked();
+}
+
+MemberPicker::~MemberPicker() = default;
+
+void MemberPicker::addPeople(const ContactBook &book, Purpose purpose, const QStringList &named)
+{
+    const bool fresh = purpose == NewConference;
     for (const ContactBook::Entry &entry : book.entries()) {
         if (fresh || !named.contains(entry.uid)) {
             addPerson(entry, named.contains(entry.uid));
@@ -38,20 +62,7 @@ MemberPicker::MemberPicker(const ContactBook &book, Purpose purpose, const QStri
             addPerson({uid, uid, QString(), false, false}, true);
         }
     }
-    ui->buttonBox->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("btnInvite"));
-    connect(ui->listPeople, &QListWidget::itemChanged, this, &MemberPicker::showPicked);
-    // A click on the name counts as one on the box, which turns by itself.
-    connect(ui->listPeople, &QListWidget::itemPressed, this,
-            [this](const QListWidgetItem *item) { m_pressed = item->checkState(); });
-    connect(ui->listPeople, &QListWidget::itemClicked, this, [this](QListWidgetItem *item) {
-        if (item->checkState() == m_pressed) {
-            item->setCheckState(m_pressed == Qt::Checked ? Qt::Unchecked : Qt::Checked);
-        }
-    });
-    showPicked();
 }
-
-MemberPicker::~MemberPicker() = default;
 
 void MemberPicker::addPerson(const ContactBook::Entry &entry, bool bChecked)
 {

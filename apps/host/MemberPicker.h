@@ -40,9 +40,10 @@ public:
     static QStringList pickMore(const ContactBook &book, const QStringList &present, QWidget *parent);
 
 private:
+    void addPeople(const ContactBook &book, Purpose purpose, const QStringList &named);
     void addPerson(const ContactBook::Entry &entry, bool bChecked);
     void showPicked();
 
     std::unique_ptr<Ui::MemberPicker> ui;
-    Qt::CheckState m_pressed = Qt::Unchecked;
+    std::optional<Qt::CheckState> m_pressed; // the mark at the press, when that was beside the box
 };

@@ -39,7 +39,7 @@ Steps start(const TourScript &s)
     return {
         {u("Start a conference: the client lets one pick people"),
          s.pressMain("btnConference"),
-         {s.pickerSays("lblAsked", u("A new conference with: nobody yet"))}},
+         {s.pickerSays("lblAsked", u("Whom to call together?"))}},
         {u("Pick six people"),
          s.pick({answers, busy, rejects, silent, fails, hangsUp}),
          {s.pickerSays("btnInvite", u("Invite (6)"))},

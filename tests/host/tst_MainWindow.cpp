@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 /// The window beside a session whose plug-in is not loaded: what comes from the plug-in is delivered by hand.
 class tst_MainWindow : public QObject
@@ -33,6 +34,8 @@ private slots:
     void numberCanBeCalledOnlyWhenThereIsOne();
     void noticeIsHiddenWhileThereIsNothingToTell();
     void damagedStoreIsToldBelowTheHeader();
+    void conferenceButtonOpensThePicker();
+    void plugInsWishForAConferenceIsAnsweredWithTheCommand();
 
 private:
     void deliver(EMsgId msgId, const QString &receiver, const QByteArray &payload)
@@ -186,6 +189,36 @@ void tst_MainWindow::damagedStoreIsToldBelowTheHeader()
     QVERIFY2(notice.startsWith(QStringLiteral("The local store was damaged. The file is kept as ")),
              qPrintable(notice));
     QCOMPARE(notice, m_pSession->store().reports().join(QLatin1Char('\n')));
+}
+
+void tst_MainWindow::conferenceButtonOpensThePicker()
+{
+    QVERIFY(WindowProbe::press(m_pWindow.get(), "btnConference"));
+    QString asked;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] {
+        if (WindowProbe::memberPicker() != nullptr) {
+            asked = WindowProbe::text(WindowProbe::memberPicker(), "lblAsked");
+            timer.stop();
+            WindowProbe::press(WindowProbe::memberPicker(), "btnCancel");
+        }
+    });
+    timer.start(10);
+    QTRY_COMPARE(asked, QStringLiteral("Whom to call together?"));
+    QTRY_VERIFY(WindowProbe::memberPicker() == nullptr);
+}
+
+void tst_MainWindow::plugInsWishForAConferenceIsAnsweredWithTheCommand()
+{
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] {
+        if (WindowProbe::press(WindowProbe::memberPicker(), "btnInvite")) {
+            timer.stop();
+        }
+    });
+    timer.start(10);
+    deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(), packPayload(QStringList{QStringLiteral("30010001")}));
+    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Starting a conference with 1 other(s)"));
 }
 
 QTEST_MAIN(tst_MainWindow)
