@@ -32,10 +32,10 @@ private slots:
     void recordsAndStatusLineTellTheCall();
     void onlineSwitchFollowsTheSession();
     void numberCanBeCalledOnlyWhenThereIsOne();
-    void noticeIsHiddenWhileThereIsNothingToTell();
-    void damagedStoreIsToldBelowTheHeader();
     void conferenceButtonOpensThePicker();
     void plugInsWishForAConferenceIsAnsweredWithTheCommand();
+    void noticeIsHiddenWhileThereIsNothingToTell();
+    void damagedStoreIsToldBelowTheHeader();
 
 private:
     void deliver(EMsgId msgId, const QString &receiver, const QByteArray &payload)
@@ -162,35 +162,6 @@ void tst_MainWindow::numberCanBeCalledOnlyWhenThereIsOne()
     QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Calling 4711"));
 }
 
-void tst_MainWindow::noticeIsHiddenWhileThereIsNothingToTell()
-{
-    QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "lblNotice"));
-}
-
-void tst_MainWindow::damagedStoreIsToldBelowTheHeader()
-{
-    SystemSetData *settings = SystemSetData::instance();
-    settings->initCommonData();
-    settings->initData(ContactBook::ownUid());
-    QVERIFY(QDir().mkpath(settings->m_strUserFolder));
-    QFile file(settings->m_strDatabasePath);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no database") > 0);
-    file.close();
-
-    // The store is opened before the module, which is not there.
-    QString error;
-    QVERIFY(!m_pSession->start(QStringLiteral("/no/module.so"), &error));
-    QVERIFY(m_pSession->store().isOpen());
-    MainWindow window(*m_pSession, m_book);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QVERIFY(WindowProbe::isShown(&window, "lblNotice"));
-    const QString notice = WindowProbe::text(&window, "lblNotice");
-    QVERIFY2(notice.startsWith(QStringLiteral("The local store was damaged. The file is kept as ")),
-             qPrintable(notice));
-    QCOMPARE(notice, m_pSession->store().reports().join(QLatin1Char('\n')));
-}
-
 void tst_MainWindow::conferenceButtonOpensThePicker()
 {
     QVERIFY(WindowProbe::press(m_pWindow.get(), "btnConference"));
@@ -219,6 +190,35 @@ void tst_MainWindow::plugInsWishForAConferenceIsAnsweredWithTheCommand()
     timer.start(10);
     deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(), packPayload(QStringList{QStringLiteral("30010001")}));
     QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Starting a conference with 1 other(s)"));
+}
+
+void tst_MainWindow::noticeIsHiddenWhileThereIsNothingToTell()
+{
+    QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "lblNotice"));
+}
+
+void tst_MainWindow::damagedStoreIsToldBelowTheHeader()
+{
+    SystemSetData *settings = SystemSetData::instance();
+    settings->initCommonData();
+    settings->initData(ContactBook::ownUid());
+    QVERIFY(QDir().mkpath(settings->m_strUserFolder));
+    QFile file(settings->m_strDatabasePath);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no database") > 0);
+    file.close();
+
+    // The store is opened before the module, which is not there.
+    QString error;
+    QVERIFY(!m_pSession->start(QStringLiteral("/no/module.so"), &error));
+    QVERIFY(m_pSession->store().isOpen());
+    MainWindow window(*m_pSession, m_book);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(WindowProbe::isShown(&window, "lblNotice"));
+    const QString notice = WindowProbe::text(&window, "lblNotice");
+    QVERIFY2(notice.startsWith(QStringLiteral("The local store was damaged. The file is kept as ")),
+             qPrintable(notice));
+    QCOMPARE(notice, m_pSession->store().reports().join(QLatin1Char('\n')));
 }
 
 QTEST_MAIN(tst_MainWindow)
