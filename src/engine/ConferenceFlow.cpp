@@ -92,6 +92,7 @@ void CVoipManage::slot_AddConfMember()
         if (!members.contains(id))
             rest.append(id);
     }
+    // Deliberate: with nobody left too, the call process gets its request.
     addConferenceMember(rest);
 }
 

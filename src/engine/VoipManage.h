@@ -114,10 +114,11 @@ public:
     bool isVideoCall();
 
     // Conference.
-    /// Starts a conference with `userList`; flag and text go to the call process unread. Same refusals as
-    /// callSingleUser().
+    /// Starts a conference with `userList`, this side added when it is not in it; flag and text go to the call process
+    /// unread. Same refusals as callSingleUser(); an empty list is none.
     void callConference(QList<QString> userList, bool bFlag, QString strText);
-    /// Adds members to the list, to the window and to the conference of the call process.
+    /// Adds members to the list, to the window and, inside a conference, to that of the call process, which is asked
+    /// for an empty list too.
     void addConferenceMember(QList<QString> userList);
     /// Sends a control command for one member, or for everybody; dropped outside a conference.
     void controlConference(ConfControlSignal iOperation, bool bIsAllMember, QString strUserId);

@@ -3,7 +3,8 @@
 // The signed-in user's store: one SQLite file "localData.db" in the user's folder, opened, checked for damage, and
 // brought up to date at each open by adding what it lacks. There is no schema version: what a file has is read from its
 // sqlite_master every time. All static. Everything runs on the thread that opened the connection; there is no lock, no
-// transaction and no line in the log. Schema statements report nothing: what fails is tried again at the next open.
+// transaction and no line in the log. Schema statements report nothing: an open can succeed with a part of the
+// schema, and the next one adds what it can.
 
 #include <QSqlDatabase>
 #include <QString>
@@ -65,9 +66,9 @@ public:
     static bool replaceFiled(const QSqlDatabase &db, const QString &table, const QString &field, const QString &from,
                              const QString &to);
 
-    // The tables. Each creator makes its table when it is missing and otherwise adds the columns and indexes that the
-    // file lacks; it never drops or changes a column. Without an open connection no table changes. The descriptions
-    // that the statements come from stand in the Schema*.cpp files, beside the creators.
+    // The tables. Each creator makes its table when it is missing and otherwise adds the later columns that the file
+    // lacks, for a few tables indexes too; it never drops or changes a column. Without an open connection no table
+    // changes. The descriptions that the statements come from stand in the Schema*.cpp files, beside the creators.
 
     /// Runs all creators below but createDingVersion(), in one fixed order.
     static void createTable();

@@ -33,5 +33,5 @@ void DB::createLastTimeTable()
     if (StoreSchema::exists(last_time))
         return;
     StoreSchema::create(last_time);
-    DBLastTime::saveLastTime(QString());
+    DBLastTime::saveLastTime(QStringLiteral(""));
 }

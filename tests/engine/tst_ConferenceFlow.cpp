@@ -3,6 +3,8 @@
 #include "fakes/EngineFixture.h"
 #include "ui/VoipWidget.h"
 
+#include <QCoreApplication>
+#include <QPointer>
 #include <QStackedWidget>
 #include <QTest>
 
@@ -24,6 +26,7 @@ private slots:
     void startAsksForTheCardsOfStrangers();
     void startIsRefusedLikeACall_data();
     void startIsRefusedLikeACall();
+    void startIsRefusedInAConferenceOfOnesOwn();
     void conferenceThatNobodyJoinsTimesOut();
     void createdIdLetsTheUpdatesPass();
 
@@ -39,6 +42,7 @@ private slots:
     void pickerGetsTheOthersAndIsReadAgainstTheListAsItIs();
     void emptyAnswerOfThePickerDoesNothing();
     void addingOutsideAConferenceSendsNothing();
+    void addingWhileTheChannelIsDownSendsNothing();
     void invitingAgainIsTheCreatorsRight_data();
     void invitingAgainIsTheCreatorsRight();
     void removingAMember_data();
@@ -48,6 +52,7 @@ private slots:
     void mutingKeepsNoState();
     void cardIsHandedToTheWindow();
     void conferenceEndTakesAwayThePromptOfTheCreator();
+    void closedCentreIsForgottenAndDeletedLater();
 
 private:
     static void create(EngineFixture &f);
@@ -185,6 +190,20 @@ void tst_ConferenceFlow::startIsRefusedLikeACall()
     QCOMPARE(f.manager->m_callData.memberList, QStringList());
     QCOMPARE(f.takeJournal(), QStringList());
     QVERIFY(!f.manager->m_pVoipWidget->isVisible());
+}
+
+void tst_ConferenceFlow::startIsRefusedInAConferenceOfOnesOwn()
+{
+    // A creator has no peer: what tells of the call is the member list alone.
+    EngineFixture f;
+    create(f);
+    QCOMPARE(f.manager->m_callData.peerId, QString());
+    f.manager->callConference({"carl"}, false, "");
+    f.manager->callSingleUser("carl", false);
+    QCOMPARE(f.boxes.texts, QStringList({"soundfailedinsound", "soundfailedinsound"}));
+    QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me"}));
+    QCOMPARE(f.manager->m_callData.peerId, QString());
+    QCOMPARE(f.takeJournal(), QStringList());
 }
 
 void tst_ConferenceFlow::conferenceThatNobodyJoinsTimesOut()
@@ -362,6 +381,17 @@ void tst_ConferenceFlow::addingOutsideAConferenceSendsNothing()
     QCOMPARE(f.members(), QStringList{"carl 0"});
 }
 
+void tst_ConferenceFlow::addingWhileTheChannelIsDownSendsNothing()
+{
+    EngineFixture f;
+    create(f);
+    f.manager->m_bSocketConnected = false;
+    f.manager->addConferenceMember({"carl"});
+    QCOMPARE(f.takeJournal(), QStringList());
+    QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl"}));
+    QCOMPARE(f.members(), QStringList({"anna 0", "bert 0", "carl 0"}));
+}
+
 void tst_ConferenceFlow::invitingAgainIsTheCreatorsRight_data()
 {
     QTest::addColumn<bool>("conference");
@@ -453,6 +483,14 @@ void tst_ConferenceFlow::control_data()
             f.manager->slot_MuteAll(true);
         },
         {});
+    add("while the channel is down",
+        [](EngineFixture &f) {
+            f.manager->m_bSocketConnected = false;
+            f.manager->slot_MuteAll(true);
+            f.manager->slot_MuteConferenceMember("anna", false);
+            f.manager->slot_RemoveConferenceMember("anna");
+        },
+        {});
 }
 
 void tst_ConferenceFlow::control()
@@ -494,6 +532,20 @@ void tst_ConferenceFlow::conferenceEndTakesAwayThePromptOfTheCreator()
     create(f);
     f.notify(7);
     QCOMPARE(f.takeJournal(), QStringList({"SetMicEnable true", "SetSpeakerEnble true"}));
+}
+
+void tst_ConferenceFlow::closedCentreIsForgottenAndDeletedLater()
+{
+    EngineFixture f;
+    const QPointer<QWidget> centre = new QWidget;
+    f.manager->m_pVoiceConfWidget = centre;
+    f.manager->slot_VoiceConfWidgetClose();
+    QVERIFY(!f.manager->m_pVoiceConfWidget);
+    QVERIFY(centre);
+    QCoreApplication::sendPostedEvents(centre, QEvent::DeferredDelete);
+    QVERIFY(!centre);
+    f.manager->slot_VoiceConfWidgetClose();
+    QVERIFY(!f.manager->m_pVoiceConfWidget);
 }
 
 QTEST_MAIN(tst_ConferenceFlow)

@@ -398,6 +398,9 @@ void tst_ConferenceRecord::oddConferenceIds_data()
                              << "'c\"1'";
     QTest::newRow("a line feed") << "c\\n1"
                                  << "'c\n1'";
+    // Stored whole; what quotes it for this test stops at the NUL.
+    QTest::newRow("NUL") << "c\\u00001"
+                         << "'c'";
     QTest::newRow("a statement") << "'; DROP TABLE voipConferenceInfo; --"
                                  << "'''; DROP TABLE voipConferenceInfo; --'";
     QTest::newRow("ten thousand characters") << QString(10000, 'c') << "'" + QString(10000, 'c') + "'";

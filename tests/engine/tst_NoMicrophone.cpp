@@ -46,6 +46,7 @@ void tst_NoMicrophone::callIsRefusedWithTheFirstMessage_data()
     QTest::newRow("single call while the channel is down") << false << false << false;
     QTest::newRow("conference") << true << true << false;
     QTest::newRow("conference while a call exists") << true << true << true;
+    QTest::newRow("conference while the channel is down") << true << false << false;
 }
 
 void tst_NoMicrophone::callIsRefusedWithTheFirstMessage()

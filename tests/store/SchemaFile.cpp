@@ -5,13 +5,39 @@
 
 #include <sqlite3.h>
 
-static int noteStatement(unsigned, void *list, void *statement, void *)
+namespace {
+
+using Note = int (*)(unsigned, void *, void *, void *);
+
+int noteWrite(unsigned, void *list, void *statement, void *)
 {
     const QString text = QString::fromUtf8(sqlite3_sql(static_cast<sqlite3_stmt *>(statement)));
     if (!text.startsWith("SELECT", Qt::CaseInsensitive))
         static_cast<QStringList *>(list)->append(text);
     return 0;
 }
+
+int noteStatement(unsigned, void *list, void *statement, void *)
+{
+    char *text = sqlite3_expanded_sql(static_cast<sqlite3_stmt *>(statement));
+    static_cast<QStringList *>(list)->append(QString::fromUtf8(text));
+    sqlite3_free(text);
+    return 0;
+}
+
+QStringList noted(Note note, void (*work)())
+{
+    const QSqlDatabase session = DB::getDB();
+    const QVariant handle = session.driver()->handle();
+    sqlite3 *pDatabase = *static_cast<sqlite3 *const *>(handle.constData());
+    QStringList statements;
+    sqlite3_trace_v2(pDatabase, SQLITE_TRACE_STMT, note, &statements);
+    work();
+    sqlite3_trace_v2(pDatabase, 0, nullptr, nullptr);
+    return statements;
+}
+
+} // namespace
 
 bool SchemaFile::openForSignIn() const
 {
@@ -79,12 +105,10 @@ QByteArray SchemaFile::bytes() const
 
 QStringList SchemaFile::writesOf(void (*work)())
 {
-    const QSqlDatabase session = DB::getDB();
-    const QVariant handle = session.driver()->handle();
-    sqlite3 *pDatabase = *static_cast<sqlite3 *const *>(handle.constData());
-    QStringList statements;
-    sqlite3_trace_v2(pDatabase, SQLITE_TRACE_STMT, &noteStatement, &statements);
-    work();
-    sqlite3_trace_v2(pDatabase, 0, nullptr, nullptr);
-    return statements;
+    return noted(&noteWrite, work);
+}
+
+QStringList SchemaFile::statementsOf(void (*work)())
+{
+    return noted(&noteStatement, work);
 }

@@ -33,4 +33,6 @@ public:
     /// Runs a function on the open session; the statements that it executed there, the SELECTs left out, exactly as
     /// they reached the database.
     static QStringList writesOf(void (*work)());
+    /// The same with the SELECTs, and with the values in the places that they were bound to.
+    static QStringList statementsOf(void (*work)());
 };

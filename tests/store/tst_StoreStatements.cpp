@@ -1,0 +1,128 @@
+// The statements themselves, as they reach the database: an existing file is read and written by exactly these.
+
+#include "SchemaFile.h"
+#include "store/DBConfInfo.h"
+#include "store/DBLastTime.h"
+
+#include <QTest>
+
+class tst_StoreStatements : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void existenceIsAskedInTheseWords();
+    void retiredTablesAreDroppedInThisOrder();
+    void textIsReplacedWithTwoBlanksAfterTheEqualsSign();
+    void recordIsLookedUpBeforeItIsInserted();
+    void knownRecordIsLookedUpOnly();
+    void recordsAreListedAndDeletedInTheseWords();
+    void lastTimeIsKeptInTheseWords();
+};
+
+void tst_StoreStatements::existenceIsAskedInTheseWords()
+{
+    SchemaFile store;
+    QVERIFY(store.open());
+    const QStringList statements = store.statementsOf([] {
+        DB::isExistTable("it's");
+        DB::isExistFiled("fa'vorite", "own");
+        DB::isExistIndex("msgrecord", "_index1");
+    });
+    QCOMPARE(statements, QStringList({"SELECT 1 FROM sqlite_master where type = 'table' and  name = 'its'",
+                                      "SELECT 1 FROM sqlite_master where type = 'table' and name= 'favorite'"
+                                      " and sql like '%own%'",
+                                      "SELECT * FROM sqlite_master WHERE type = 'index' AND tbl_name = 'msgrecord'"
+                                      " AND name = 'msgrecord_index1'"}));
+}
+
+void tst_StoreStatements::retiredTablesAreDroppedInThisOrder()
+{
+    const QStringList retired{"deletedfriend", "grouptableNew",   "groupfriendversion", "localfriend",
+                              "latestfriend",  "friendlist",      "muclocalmsg",        "msglist",
+                              "appnumber",     "appnumberversion"};
+    SchemaFile store;
+    QStringList drops;
+    for (const QString &table : retired) {
+        store.run({"CREATE TABLE " + table + "(id TEXT)"});
+        drops << "drop table " + table + ";";
+    }
+    QVERIFY(store.open());
+    QCOMPARE(store.writesOf(&DB::dropNoUseTable), drops);
+    QCOMPARE(store.writesOf(&DB::dropNoUseTable), QStringList());
+}
+
+void tst_StoreStatements::textIsReplacedWithTwoBlanksAfterTheEqualsSign()
+{
+    SchemaFile store;
+    QVERIFY(store.open());
+    const QStringList writes =
+        store.writesOf([] { DB::replaceFiled(DB::getDB(), "grouptable", "groupName", "old", "new"); });
+    QCOMPARE(writes, QStringList("UPDATE grouptable SET groupName =  REPLACE(groupName,'old','new')"));
+}
+
+void tst_StoreStatements::recordIsLookedUpBeforeItIsInserted()
+{
+    SchemaFile store;
+    QVERIFY(store.open());
+    const QStringList statements = store.statementsOf([] {
+        ConfInfoData record;
+        record.m_strConfID = "c'1";
+        record.m_strCreatUserID = "anna";
+        record.m_strCreatTime = "2024-02-03 04:05:06";
+        record.m_strCallTime = "61";
+        record.m_listMember = QStringList{"a", "b"};
+        record.m_bIsConnect = true;
+        DBConfInfo::saveConfInfo(record);
+    });
+    QCOMPARE(statements, QStringList({"SELECT ConfID FROM voipConferenceInfo WHERE ConfID = 'c1'",
+                                      "INSERT INTO voipConferenceInfo (ConfID,CreatUserID,CreatTime,CallTime,"
+                                      "MemberList,IsConnect) VALUES ('c''1', 'anna', '2024-02-03 04:05:06', '61', "
+                                      "'a,b,', 1)"}));
+}
+
+void tst_StoreStatements::knownRecordIsLookedUpOnly()
+{
+    SchemaFile store;
+    QVERIFY(store.open());
+    ConfInfoData record;
+    record.m_strConfID = "c1";
+    QVERIFY(DBConfInfo::saveConfInfo(record));
+    const QStringList statements = store.statementsOf([] {
+        ConfInfoData again;
+        again.m_strConfID = "c1";
+        DBConfInfo::saveConfInfo(again);
+    });
+    QCOMPARE(statements, QStringList("SELECT ConfID FROM voipConferenceInfo WHERE ConfID = 'c1'"));
+}
+
+void tst_StoreStatements::recordsAreListedAndDeletedInTheseWords()
+{
+    SchemaFile store;
+    QVERIFY(store.open());
+    const QStringList statements = store.statementsOf([] {
+        DBConfInfo::getAllConfInfo();
+        DBConfInfo::deleteConfInfo("c'1");
+    });
+    QCOMPARE(statements, QStringList({"SELECT ConfID,CreatUserID,CreatTime,CallTime,MemberList,IsConnect "
+                                      "FROM voipConferenceInfo ORDER BY ConfID DESC",
+                                      "DELETE FROM voipConferenceInfo WHERE ConfID = 'c1'"}));
+}
+
+void tst_StoreStatements::lastTimeIsKeptInTheseWords()
+{
+    SchemaFile store;
+    QVERIFY(store.open());
+    store.run({"DELETE FROM last_time"});
+    const QStringList statements = store.statementsOf([] {
+        DBLastTime::saveLastTime("17");
+        DBLastTime::updateLastTime("18");
+        DBLastTime::getLastTime();
+    });
+    QCOMPARE(statements, QStringList({"INSERT INTO last_time (sessionId, lastTime) VALUES ('all_session', '17')",
+                                      "UPDATE last_time SET lastTime = '18' WHERE sessionId = 'all_session'",
+                                      "SELECT lastTime FROM last_time WHERE sessionId = 'all_session'"}));
+}
+
+QTEST_GUILESS_MAIN(tst_StoreStatements)
+#include "tst_StoreStatements.moc"
