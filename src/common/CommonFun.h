@@ -7,8 +7,14 @@
 #include "common/ConfigFile.h"
 #include "common/TimeText.h"
 #include "model/SharedContext.h"
+#include "model/SkinContext.h"
 #include "model/UserIds.h"
 
-class CommonFun : public SharedContext, public UserIds, public ConfigFile, public AppInfo, public TimeText
+class CommonFun : public SharedContext,
+                  public SkinContext,
+                  public UserIds,
+                  public ConfigFile,
+                  public AppInfo,
+                  public TimeText
 {
 };
