@@ -5,6 +5,10 @@
 
 #include "common/AppInfo.h"
 #include "common/ConfigFile.h"
+#include "common/DigitText.h"
+#include "common/SizeText.h"
+#include "common/TextCompare.h"
+#include "common/TextMeasure.h"
 #include "common/TimeText.h"
 #include "model/SharedContext.h"
 #include "model/SkinContext.h"
@@ -15,6 +19,10 @@ class CommonFun : public SharedContext,
                   public UserIds,
                   public ConfigFile,
                   public AppInfo,
-                  public TimeText
+                  public TimeText,
+                  public TextMeasure,
+                  public TextCompare,
+                  public SizeText,
+                  public DigitText
 {
 };
