@@ -19,9 +19,12 @@ private slots:
     {
         QTest::addColumn<QString>("account");
         QTest::addColumn<QString>("uid");
-        QTest::newRow("an equal account goes before one that holds it") << "wang" << "102";
-        QTest::newRow("an item that holds it") << "longer" << "101";
-        QTest::newRow("UTF-8") << "李" << "103";
+        QTest::newRow("an equal account goes before one that holds it") << "wang"
+                                                                        << "102";
+        QTest::newRow("an item that holds it") << "longer"
+                                               << "101";
+        QTest::newRow("UTF-8") << "李"
+                               << "103";
         QTest::newRow("an item without its uid") << "broken" << QString();
         QTest::newRow("an item with an empty uid") << "half" << QString();
         QTest::newRow("unknown") << "nobody" << QString();

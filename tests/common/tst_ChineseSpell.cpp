@@ -33,17 +33,22 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("initials");
         QTest::newRow("empty") << QString() << QString();
-        QTest::newRow("letters, digits") << "aZ09" << "AZ09";
-        QTest::newRow("character, blank, digit, letter") << "张 3a" << "Z3A";
+        QTest::newRow("letters, digits") << "aZ09"
+                                         << "AZ09";
+        QTest::newRow("character, blank, digit, letter") << "张 3a"
+                                                         << "Z3A";
         QTest::newRow("first of the table") << QString(QChar(0x4E00)) << "Y";
         QTest::newRow("last of the table") << QString(QChar(0x9FA5)) << "Y";
         QTest::newRow("below the table") << QString(QChar(0x4DFF)) << QString();
         QTest::newRow("above the table") << QString(QChar(0x9FA6)) << QString();
         QTest::newRow("other alphabets") << "éßЖ" << QString();
         QTest::newRow("other digits") << "٣３²" << QString();
-        QTest::newRow("punctuation, line feed") << "a-b\n，c" << "ABC";
-        QTest::newRow("outside the plane") << QString::fromUcs4(U"\U00020000") + "b" << "B";
-        QTest::newRow("without a reading") << "兙" << "S";
+        QTest::newRow("punctuation, line feed") << "a-b\n，c"
+                                                << "ABC";
+        QTest::newRow("outside the plane") << QString::fromUcs4(U"\U00020000") + "b"
+                                           << "B";
+        QTest::newRow("without a reading") << "兙"
+                                           << "S";
     }
 
     void texts()

@@ -38,7 +38,8 @@ private slots:
 
     void theBytesOfAnIdentifierAreInOrderOfTheStandard()
     {
-        const QByteArray bytes = QByteArray::fromBase64(Identifiers::getUuid().toLatin1(), QByteArray::Base64UrlEncoding);
+        const QByteArray bytes =
+            QByteArray::fromBase64(Identifiers::getUuid().toLatin1(), QByteArray::Base64UrlEncoding);
         QCOMPARE(bytes.size(), 16);
         QCOMPARE(bytes.at(6) & 0xf0, 0x40); // a random identifier, version 4, stands in the seventh octet
     }

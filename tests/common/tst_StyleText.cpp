@@ -38,10 +38,14 @@ private slots:
     {
         QTest::addColumn<QString>("colour");
         QTest::addColumn<QString>("decimal");
-        QTest::newRow("green") << "#33af56" << "51,175,86";
-        QTest::newRow("without the mark") << "ffffff" << "255,255,255";
-        QTest::newRow("last two digits") << "#01020304" << "1,2,4";
-        QTest::newRow("no number") << "#zzzzzz" << "0,0,0";
+        QTest::newRow("green") << "#33af56"
+                               << "51,175,86";
+        QTest::newRow("without the mark") << "ffffff"
+                                          << "255,255,255";
+        QTest::newRow("last two digits") << "#01020304"
+                                         << "1,2,4";
+        QTest::newRow("no number") << "#zzzzzz"
+                                   << "0,0,0";
         QTest::newRow("empty") << QString() << "0,0,0";
     }
 
