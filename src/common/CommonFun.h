@@ -8,9 +8,11 @@
 #include "common/IconFont.h"
 #include "common/TimeText.h"
 #include "model/SharedContext.h"
+#include "model/SkinContext.h"
 #include "model/UserIds.h"
 
 class CommonFun : public SharedContext,
+                  public SkinContext,
                   public UserIds,
                   public ConfigFile,
                   public AppInfo,
