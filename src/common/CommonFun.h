@@ -12,11 +12,11 @@
 #include "model/UserIds.h"
 
 class CommonFun : public SharedContext,
-                  public SkinContext,
                   public UserIds,
                   public ConfigFile,
                   public AppInfo,
                   public TimeText,
-                  public IconFont
+                  public IconFont,
+                  public SkinContext
 {
 };
