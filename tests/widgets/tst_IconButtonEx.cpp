@@ -105,6 +105,8 @@ private slots:
     void iconColourStandsInTheSheetAsItIs();
     void skinsIconColourIsTakenOnceItsHoverColourAtEachRestyle();
     void checkedFaceHasTheHoverColour();
+    void checkedButtonHasNoFrameOfItsOwn_data();
+    void checkedButtonHasNoFrameOfItsOwn();
     void notCheckableIsNotChecked();
     void checkedFaceStaysWhenTheButtonStopsBeingCheckable();
     void checkedBackgroundChangesOnlyOnRequest();
@@ -332,6 +334,22 @@ void tst_IconButtonEx::checkedFaceHasTheHoverColour()
     QVERIFY(!m_pButton->isChecked());
     QVERIFY(!inner(*m_pButton)->isChecked());
     QCOMPARE(face(*m_pButton), glyphIn(cIcon, cHover));
+}
+
+void tst_IconButtonEx::checkedButtonHasNoFrameOfItsOwn_data()
+{
+    QTest::addColumn<int>("type");
+    for (int iType = 0; iType <= 5; ++iType)
+        QTest::addRow("%d", iType) << iType;
+}
+
+void tst_IconButtonEx::checkedButtonHasNoFrameOfItsOwn()
+{
+    QFETCH(int, type);
+    m_pButton->setIconFont(QString(), 12, type);
+    const QImage before = m_pButton->grab().toImage();
+    m_pButton->setChecked(true);
+    QCOMPARE(m_pButton->grab().toImage(), before);
 }
 
 void tst_IconButtonEx::notCheckableIsNotChecked()
