@@ -5,8 +5,14 @@
 
 #include "common/AppInfo.h"
 #include "common/ConfigFile.h"
+#include "common/FileIcons.h"
+#include "common/HeadImages.h"
 #include "common/IconFont.h"
+#include "common/ImagePath.h"
+#include "common/NinePatch.h"
+#include "common/PictureNames.h"
 #include "common/TimeText.h"
+#include "common/WaterMark.h"
 #include "model/SharedContext.h"
 #include "model/SkinContext.h"
 #include "model/UserIds.h"
@@ -17,6 +23,12 @@ class CommonFun : public SharedContext,
                   public AppInfo,
                   public TimeText,
                   public IconFont,
+                  public HeadImages,
+                  public ImagePath,
+                  public PictureNames,
+                  public NinePatch,
+                  public WaterMark,
+                  public FileIcons,
                   public SkinContext
 {
 };
