@@ -5,7 +5,11 @@
 
 #include "common/AppInfo.h"
 #include "common/ConfigFile.h"
+#include "common/DigitText.h"
 #include "common/IconFont.h"
+#include "common/SizeText.h"
+#include "common/TextCompare.h"
+#include "common/TextMeasure.h"
 #include "common/TimeText.h"
 #include "model/SharedContext.h"
 #include "model/SkinContext.h"
@@ -17,6 +21,10 @@ class CommonFun : public SharedContext,
                   public AppInfo,
                   public TimeText,
                   public IconFont,
-                  public SkinContext
+                  public SkinContext,
+                  public TextMeasure,
+                  public TextCompare,
+                  public SizeText,
+                  public DigitText
 {
 };

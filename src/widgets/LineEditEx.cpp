@@ -63,9 +63,9 @@ void CLineEditEx::setStyles()
         QStringLiteral("QLineEdit#lineEdit{border-radius:2px;background-color:%1;border:1px solid %2;color:%3;}");
     m_strEditHoverStyle = QStringLiteral("QLineEdit#lineEdit::hover{border: 1px solid %1;}");
     m_strLineStyle = QStringLiteral("QLabel{background-color:%1;}");
-    ui->lineEdit->setStyleSheet(m_strEditStyle.arg(skin.m_strEditBackgroundColor, skin.m_strEditBorderColor,
-                                                   strCOLOR_MAININFO_LIGHT_BLACK) +
-                                m_strEditHoverStyle.arg(skin.m_strEditHoverBorderColor));
+    ui->lineEdit->setStyleSheet(
+        m_strEditStyle.arg(skin.m_strEditBackgroundColor, skin.m_strEditBorderColor, strCOLOR_MAININFO_LIGHT_BLACK) +
+        m_strEditHoverStyle.arg(skin.m_strEditHoverBorderColor));
     // The padding of the menu's entries stays unfilled on purpose: this sheet is the one that the field's standard
     // context menu has always had. Set again it would only repeat the warning with which Qt refuses it.
     const QString strMenu = strMenuStyle + strMenuItemStyle + strMenuItemSelectStyle + strMenuItemDisableStyle;

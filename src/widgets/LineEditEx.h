@@ -1,7 +1,7 @@
 #pragma once
 
-// The kit's edit field of one line: a QLineEdit in a wrapper that takes its colours from the skin, limits the text by its
-// width (a Chinese character counts 2) and can carry a delete button. QLineEdit's own limit stays as Qt sets it.
+// The kit's edit field of one line: a QLineEdit in a wrapper that takes its colours from the skin, limits the text by
+// its width (a Chinese character counts 2) and can carry a delete button. QLineEdit's own limit stays as Qt sets it.
 // GUI thread only; Qt's ownership by parent applies. Several operations hide those of QWidget that have the same name
 // and mean the inner edit: call them through this class.
 
@@ -24,7 +24,11 @@ class CLineEditEx : public QWidget
 
 public:
     /// What the field is for. Every value but SearchField is a plain field.
-    enum LineEditType : int { PlainField = 0, SearchField = 1 };
+    enum LineEditType : int
+    {
+        PlainField = 0,
+        SearchField = 1
+    };
 
     /// An empty plain field without a limit. `parent` may be null.
     explicit CLineEditEx(QWidget *parent = nullptr);

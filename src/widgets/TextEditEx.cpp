@@ -76,9 +76,9 @@ void CTextEditEx::setStyles()
     const SysUIData &skin = *CommonFun::getSkinData();
     m_strEditStyle = QStringLiteral("QTextEdit{border-radius:2px;background-color:%1;border:1px solid %2;color:%3;}");
     m_strEditHoverStyle = QStringLiteral("QTextEdit::hover{border: 1px solid %1;}");
-    m_strStyle = m_strEditStyle.arg(skin.m_strEditBackgroundColor, skin.m_strEditBorderColor,
-                                    strCOLOR_MAININFO_LIGHT_BLACK) +
-                 m_strEditHoverStyle.arg(skin.m_strEditHoverBorderColor);
+    m_strStyle =
+        m_strEditStyle.arg(skin.m_strEditBackgroundColor, skin.m_strEditBorderColor, strCOLOR_MAININFO_LIGHT_BLACK) +
+        m_strEditHoverStyle.arg(skin.m_strEditHoverBorderColor);
     setStyleSheet(m_strStyle);
 }
 
