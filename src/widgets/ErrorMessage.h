@@ -18,8 +18,6 @@ namespace Ui {
 class ErrorMessage;
 }
 
-class QLineEdit;
-
 class ErrorMessage : public QDialog
 {
     Q_OBJECT
@@ -36,8 +34,8 @@ public:
     /// Asks a question with both buttons; returns m_bAccepted when the dialog is closed.
     bool chooseMsgShow(QString title, QString msg);
 
-    /// Lets the user edit several lines that start as `text`, at most 200 columns of them; returns the trimmed text when
-    /// the dialog is closed, however that happened.
+    /// Lets the user edit several lines that start as `text`, at most 200 columns of them; returns the trimmed text
+    /// when the dialog is closed, however that happened.
     QString lineEditShow(QString title, QString text);
 
     /// Asks for one line, which starts empty; returns it when the dialog is closed, however that happened.
@@ -86,15 +84,15 @@ private slots:
 
 private:
     void setUpWindow();
-    void setUpControls();
     void connectControls();
     void watchControls();
     void setStyles();
     void setUIText();
     void showPage(QWidget *pPage, const QString &strTitle);
-    void showMessageOnly(const QString &strTitle, const QString &strMessage, int iWrapWidth);
     void showCloseButtonOnly();
-    bool makeDefault(const QObject *pPressed);
+    void showBothButtons();
+    void fillHotKeyLabels();
+    void makeDefault(const QObject *pPressed);
 
     std::unique_ptr<Ui::ErrorMessage> ui;
     QPoint m_dragOffset;

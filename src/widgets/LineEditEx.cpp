@@ -14,6 +14,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 
+#include <numeric>
+
 namespace {
 
 constexpr int cFontSize = 12;
@@ -155,7 +157,10 @@ QLineEdit *CLineEditEx::getLineEdit() const
 
 int CLineEditEx::widthOf(const QStringRef &text) const
 {
-    return m_bCountEachAsOne ? text.size() : CommonFun::getStrCounnt(text.toString());
+    if (m_bCountEachAsOne)
+        return text.size();
+    return std::accumulate(text.begin(), text.end(), 0,
+                           [](int iSum, QChar unit) { return iSum + CommonFun::columnsOf(unit); });
 }
 
 void CLineEditEx::cutToWidth(int iLength)

@@ -22,8 +22,8 @@ int cutRange(const QString &strText, int iBegin, int iEnd, qint64 &excess)
 {
     while (excess > 0 && iEnd > iBegin) {
         const int iFrom = before(strText, iEnd);
-        excess -= CommonFun::getStrCounnt(strText.mid(iFrom, iEnd - iFrom));
-        iEnd = iFrom;
+        while (iEnd > iFrom)
+            excess -= CommonFun::columnsOf(strText.at(--iEnd));
     }
     return iEnd;
 }

@@ -166,7 +166,7 @@ void tst_VoipWidgetClicks::confirmedCloseButtonCloses()
         for (const char *name : {"titlelabel", "msgLabel"})
             words.append(pQuestion->findChild<QLabel *>(QLatin1String(name))->text());
         for (const char *name : {"acceptBtn", "closeBtn"})
-            words.append(pQuestion->findChild<QPushButton *>(QLatin1String(name))->text());
+            words.append(pQuestion->findChild<PushButtonEx *>(QLatin1String(name))->text());
     });
     click("btnClose");
     QCOMPARE(words, (QStringList{"tip", "beSureToCloseCalling", "sure", "cancel"}));
