@@ -1,6 +1,7 @@
 // What the user's clicks in the call window do, and the ways in which it closes.
 
 #include "CallWindowTest.h"
+#include "widgets/PushButtonEx.h"
 #include "widgets/SymbolButton.h"
 
 #include <QApplication>

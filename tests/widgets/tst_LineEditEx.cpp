@@ -184,7 +184,8 @@ void tst_LineEditEx::limitTakesWhatFitsWhileTyping_data()
     QTest::newRow("seven Chinese characters fit") << chinese(7) << chinese(7);
     QTest::newRow("the eighth is dropped") << chinese(8) << chinese(7);
     QTest::newRow("a Chinese one does not fit into one column") << latin(13) + chinese(1) << latin(13);
-    QTest::newRow("a Latin one still does") << latin(13) + chinese(1) + QLatin1Char('y') << latin(13) + QLatin1Char('y');
+    QTest::newRow("a Latin one still does")
+        << latin(13) + chinese(1) + QLatin1Char('y') << latin(13) + QLatin1Char('y');
     QTest::newRow("first of the wide range") << QString(8, QChar(0x4E00)) << QString(7, QChar(0x4E00));
     QTest::newRow("last of the wide range") << QString(8, QChar(0x9FA5)) << QString(7, QChar(0x9FA5));
     QTest::newRow("before the wide range") << QString(15, QChar(0x4DFF)) << QString(14, QChar(0x4DFF));

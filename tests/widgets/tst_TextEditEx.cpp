@@ -193,12 +193,18 @@ void tst_TextEditEx::entriesAreEnabledByTextSelectionAndClipboard_data()
     QTest::addColumn<bool>("selected");
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("enabled");
-    QTest::newRow("nothing") << "" << false << "" << "-----";
-    QTest::newRow("text") << "abc" << false << "" << "---xx";
-    QTest::newRow("selection") << "abc" << true << "" << "xx-xx";
-    QTest::newRow("clipboard text") << "" << false << "text/plain" << "--x--";
-    QTest::newRow("clipboard HTML") << "" << false << "text/html" << "--x--";
-    QTest::newRow("clipboard of another kind") << "" << false << "application/x-other" << "-----";
+    QTest::newRow("nothing") << "" << false << ""
+                             << "-----";
+    QTest::newRow("text") << "abc" << false << ""
+                          << "---xx";
+    QTest::newRow("selection") << "abc" << true << ""
+                               << "xx-xx";
+    QTest::newRow("clipboard text") << "" << false << "text/plain"
+                                    << "--x--";
+    QTest::newRow("clipboard HTML") << "" << false << "text/html"
+                                    << "--x--";
+    QTest::newRow("clipboard of another kind") << "" << false << "application/x-other"
+                                               << "-----";
 }
 
 void tst_TextEditEx::entriesAreEnabledByTextSelectionAndClipboard()
@@ -310,10 +316,11 @@ void tst_TextEditEx::longPasteIsInsertedToItsLimit_data()
     const QByteArray big(cSize, 'x');
     const QString kept(20, QLatin1Char('x'));
     QTest::newRow("ten megabytes of text") << "text/plain" << big << kept;
-    QTest::newRow("ten megabytes of HTML") << "text/html" << "<b>" + big + "</b>" << kept;
+    QTest::newRow("ten megabytes of HTML") << "text/html"
+                                           << "<b>" + big + "</b>" << kept;
     QTest::newRow("one unit more than the limit") << "text/plain" << QByteArray(21, 'x') << kept;
-    QTest::newRow("ten megabytes of lines") << "text/plain" << QByteArray("x\n").repeated(cSize / 2)
-                                            << QStringLiteral("x\n").repeated(10);
+    QTest::newRow("ten megabytes of lines")
+        << "text/plain" << QByteArray("x\n").repeated(cSize / 2) << QStringLiteral("x\n").repeated(10);
 }
 
 void tst_TextEditEx::longPasteIsInsertedToItsLimit()
