@@ -14,7 +14,25 @@
 #include <QSignalSpy>
 #include <QTranslator>
 
+Q_DECLARE_METATYPE(QMargins)
+
 using namespace ShownDialog;
+
+namespace {
+
+/// Whether `pWidget` is one of the kit's composed widgets or a part of one; their layouts share names with the form's.
+bool isWithinAKitWidget(const QWidget *pWidget)
+{
+    for (; pWidget != nullptr; pWidget = pWidget->parentWidget()) {
+        if (qobject_cast<const PushButtonEx *>(pWidget) != nullptr ||
+            qobject_cast<const CLineEditEx *>(pWidget) != nullptr ||
+            qobject_cast<const CIconButtonEx *>(pWidget) != nullptr)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
 
 class tst_ErrorMessage : public QObject
 {
@@ -117,12 +135,8 @@ void tst_ErrorMessage::layoutsHaveTheirMargins()
     QFETCH(QByteArray, name);
     const ErrorMessage dialog(QString(), QString(), nullptr);
     const QLayout *pFound = nullptr;
-    // The kit's widgets use some of the names within.
     for (const QLayout *pLayout : dialog.findChildren<QLayout *>(QLatin1String(name))) {
-        const QObject *pOwner = pLayout->parentWidget();
-        if (qobject_cast<const PushButtonEx *>(pOwner->parent()) == nullptr &&
-            qobject_cast<const CLineEditEx *>(pOwner->parent()) == nullptr &&
-            qobject_cast<const CLineEditEx *>(pOwner) == nullptr)
+        if (!isWithinAKitWidget(pLayout->parentWidget()))
             pFound = pLayout;
     }
     QVERIFY(pFound != nullptr);
