@@ -64,6 +64,13 @@ private:
     }
     static QString face(const CIconButtonEx &button) { return inner(button)->styleSheet(); }
 
+    // The colour of the button at that point, which is in the screen's own pixels where the picture is.
+    QColor seenAt(int x, int y) const
+    {
+        const QImage image = m_pButton->grab().toImage();
+        return image.pixelColor(QPoint(x, y) * image.devicePixelRatio());
+    }
+
     void moveTo(const QPoint &point) { QTest::mouseMove(m_window.windowHandle(), point); }
     void moveIn() { moveTo(m_pButton->geometry().center()); }
     void moveOut() { moveTo(QPoint(2, 2)); }
@@ -105,6 +112,8 @@ private slots:
     void iconColourStandsInTheSheetAsItIs();
     void skinsIconColourIsTakenOnceItsHoverColourAtEachRestyle();
     void checkedFaceHasTheHoverColour();
+    void checkedButtonHasNoFrameOfItsOwn_data();
+    void checkedButtonHasNoFrameOfItsOwn();
     void notCheckableIsNotChecked();
     void checkedFaceStaysWhenTheButtonStopsBeingCheckable();
     void checkedBackgroundChangesOnlyOnRequest();
@@ -309,7 +318,7 @@ void tst_IconButtonEx::iconColourStandsInTheSheetAsItIs()
     m_pButton->setIconFont(cBlock, 20, 4);
     m_pButton->setIconColor(text);
     QCOMPARE(face(*m_pButton), glyphIn(text));
-    QCOMPARE(m_pButton->grab().toImage().pixelColor(cSide / 2, cSide / 2), shown);
+    QCOMPARE(seenAt(cSide / 2, cSide / 2), shown);
 }
 
 void tst_IconButtonEx::skinsIconColourIsTakenOnceItsHoverColourAtEachRestyle()
@@ -332,6 +341,22 @@ void tst_IconButtonEx::checkedFaceHasTheHoverColour()
     QVERIFY(!m_pButton->isChecked());
     QVERIFY(!inner(*m_pButton)->isChecked());
     QCOMPARE(face(*m_pButton), glyphIn(cIcon, cHover));
+}
+
+void tst_IconButtonEx::checkedButtonHasNoFrameOfItsOwn_data()
+{
+    QTest::addColumn<int>("type");
+    for (int iType = 0; iType <= 5; ++iType)
+        QTest::addRow("%d", iType) << iType;
+}
+
+void tst_IconButtonEx::checkedButtonHasNoFrameOfItsOwn()
+{
+    QFETCH(int, type);
+    m_pButton->setIconFont(QString(), 12, type);
+    const QImage before = m_pButton->grab().toImage();
+    m_pButton->setChecked(true);
+    QCOMPARE(m_pButton->grab().toImage(), before);
 }
 
 void tst_IconButtonEx::notCheckableIsNotChecked()
@@ -369,7 +394,7 @@ void tst_IconButtonEx::checkedBackgroundChangesOnlyOnRequest()
     m_pButton->setChecked(true);
     QCOMPARE(back(*m_pButton)->styleSheet(), background(QStringLiteral("252,164,152,255")));
     QCOMPARE(face(*m_pButton), glyphIn(cHover));
-    QCOMPARE(m_pButton->grab().toImage().pixelColor(3, 3), QColor(strCOLOR_PINK));
+    QCOMPARE(seenAt(3, 3), QColor(strCOLOR_PINK));
     m_pButton->setChecked(false);
     QCOMPARE(back(*m_pButton)->styleSheet(), background(QStringLiteral("10,20,30,0")));
     QCOMPARE(face(*m_pButton), glyphIn(cIcon, cHover));
@@ -453,17 +478,16 @@ void tst_IconButtonEx::hoverBackgroundShowsUnderTheMouse()
 {
     m_pButton->setIconFont(cBlock, 10, 3);
     const QColor around = m_window.grab().toImage().pixelColor(2, 2);
-    QCOMPARE(m_pButton->grab().toImage().pixelColor(3, cSide / 2), around);
+    QCOMPARE(seenAt(3, cSide / 2), around);
     moveIn();
     QTRY_VERIFY(m_pButton->underMouse());
-    const QImage under = m_pButton->grab().toImage();
-    QCOMPARE(under.pixelColor(3, cSide / 2), QColor(cFifth));
-    QCOMPARE(under.pixelColor(cSide / 2, cSide / 2), QColor(Qt::white));
+    QCOMPARE(seenAt(3, cSide / 2), QColor(cFifth));
+    QCOMPARE(seenAt(cSide / 2, cSide / 2), QColor(Qt::white));
     // The background's corners are round.
-    QVERIFY(under.pixelColor(0, 0) != QColor(cFifth));
+    QVERIFY(seenAt(0, 0) != QColor(cFifth));
     moveOut();
     QTRY_VERIFY(!m_pButton->underMouse());
-    QCOMPARE(m_pButton->grab().toImage().pixelColor(3, cSide / 2), around);
+    QCOMPARE(seenAt(3, cSide / 2), around);
 }
 
 void tst_IconButtonEx::clickIsSentOnRelease()
