@@ -8,6 +8,7 @@
 #include "common/IconFont.h"
 #include "common/TimeText.h"
 #include "model/SharedContext.h"
+#include "model/SkinContext.h"
 #include "model/UserIds.h"
 
 class CommonFun : public SharedContext,
@@ -15,6 +16,7 @@ class CommonFun : public SharedContext,
                   public ConfigFile,
                   public AppInfo,
                   public TimeText,
-                  public IconFont
+                  public IconFont,
+                  public SkinContext
 {
 };
