@@ -6,6 +6,7 @@
 #include "common/AppInfo.h"
 #include "common/ConfigFile.h"
 #include "common/IconFont.h"
+#include "common/ShortText.h"
 #include "common/TimeText.h"
 #include "model/SharedContext.h"
 #include "model/SkinContext.h"
@@ -15,6 +16,7 @@ class CommonFun : public SharedContext,
                   public UserIds,
                   public ConfigFile,
                   public AppInfo,
+                  public ShortText,
                   public TimeText,
                   public IconFont,
                   public SkinContext
