@@ -74,13 +74,11 @@ signals:
     /// The user calls a member again who was not reached.
     void signal_ReInviteConfUser(QString strUserID);
 
-protected slots:
+protected:
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QVector<int> &roles = QVector<int>()) override;
     void rowsInserted(const QModelIndex &parent, int iFirst, int iLast) override;
     void rowsAboutToBeRemoved(const QModelIndex &parent, int iFirst, int iLast) override;
-
-protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
