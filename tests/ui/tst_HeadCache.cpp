@@ -28,7 +28,7 @@ class tst_HeadCache : public QObject
     Q_OBJECT
 
 private:
-    const QString m_strPath = QStringLiteral("head.png");
+    const QString m_strPath = QStringLiteral("head.bmp");
 
     static QColor middle(const QPixmap &picture)
     {
