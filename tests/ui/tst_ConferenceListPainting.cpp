@@ -19,7 +19,12 @@ const QString FONT = QStringLiteral("微软雅黑");
 class Repaints : public QObject
 {
 public:
-    explicit Repaints(QWidget *pWidget) : m_pWidget(pWidget) { pWidget->installEventFilter(this); }
+    /// Counts from here on, with nothing due.
+    explicit Repaints(QWidget *pWidget) : m_pWidget(pWidget)
+    {
+        pWidget->repaint();
+        pWidget->installEventFilter(this);
+    }
     bool eventFilter(QObject *, QEvent *event) override
     {
         if (event->type() == QEvent::Paint)
@@ -396,9 +401,9 @@ private slots:
 
     void newMembersAndTheirStatusesAreOneRepaint()
     {
-        showMembers(1);
+        showMembers(20);
         const Repaints repaints(m_pList->viewport());
-        for (int i = 1; i < 1000; ++i) {
+        for (int i = 20; i < 1000; ++i) {
             m_pList->addUser(QStringLiteral("m%1").arg(i));
             m_pList->updateConferenceUserStatus(QStringLiteral("m%1").arg(i), ConferenceConnected);
         }

@@ -77,9 +77,9 @@ private slots:
     {
         QFile file(QStringLiteral("huge.ppm"));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("P6\n100000 100000\n255\n");
+        file.write("P6\n20000 20000\n255\n");
         file.close();
-        QCOMPARE(QImageReader(QStringLiteral("huge.ppm")).size(), QSize(100000, 100000));
+        QCOMPARE(QImageReader(QStringLiteral("huge.ppm")).size(), QSize(20000, 20000));
         QVERIFY(RowPainter::maskedHead(QStringLiteral("huge.ppm"), 22).isNull());
     }
 
