@@ -9,9 +9,14 @@
 #include "common/ConfigFile.h"
 #include "common/DigitText.h"
 #include "common/FileDigest.h"
+#include "common/FileIcons.h"
 #include "common/FolderCopy.h"
+#include "common/HeadImages.h"
 #include "common/IconFont.h"
 #include "common/Identifiers.h"
+#include "common/ImagePath.h"
+#include "common/NinePatch.h"
+#include "common/PictureNames.h"
 #include "common/ScreenPlace.h"
 #include "common/Sha1.h"
 #include "common/ShortText.h"
@@ -21,6 +26,7 @@
 #include "common/TextCompare.h"
 #include "common/TextMeasure.h"
 #include "common/TimeText.h"
+#include "common/WaterMark.h"
 #include "common/WeatherFiles.h"
 #include "model/SharedContext.h"
 #include "model/SkinContext.h"
@@ -33,6 +39,12 @@ class CommonFun : public SharedContext,
                   public ShortText,
                   public TimeText,
                   public IconFont,
+                  public HeadImages,
+                  public ImagePath,
+                  public PictureNames,
+                  public NinePatch,
+                  public WaterMark,
+                  public FileIcons,
                   public SkinContext,
                   public TextMeasure,
                   public TextCompare,

@@ -2,11 +2,11 @@
 
 #include "common/CommonFun.h"
 #include "common/DpiScale.h"
+#include "common/PictureFile.h"
 
 #include <QAbstractItemModel>
 #include <QBitmap>
 #include <QFontMetrics>
-#include <QImageReader>
 #include <QPainter>
 #include <QTextOption>
 
@@ -14,24 +14,8 @@ namespace {
 
 constexpr int cTextPixels = 12;
 
-// A picture of more pixels than this is no head, and its memory could bring the host down.
-constexpr qint64 cMostPixels = Q_INT64_C(64) * 1024 * 1024;
-
 // No line of text is measured beyond so many characters: more of them fit only where they have no width.
 constexpr int cMostCharacters = 2048;
-
-QPixmap readPicture(const QString &strPath)
-{
-    if (strPath.isEmpty())
-        return {};
-    QImageReader reader(strPath);
-    // What the file holds counts, not its suffix.
-    reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (!size.isValid() || qint64(size.width()) * size.height() > cMostPixels)
-        return {};
-    return QPixmap::fromImageReader(&reader);
-}
 
 QBitmap roundMask(int iSide)
 {
@@ -71,7 +55,7 @@ KeptPenAndFont::~KeptPenAndFont()
 
 QPixmap RowPainter::maskedHead(const QString &strPath, int iSide)
 {
-    const QPixmap picture = readPicture(strPath);
+    const QPixmap picture = readPictureFile(strPath);
     if (picture.isNull())
         return {};
     // The mask has hard edges: cut at twice the size, scaling down makes them smooth.

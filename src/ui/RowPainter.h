@@ -37,8 +37,8 @@ private:
 class RowPainter
 {
 public:
-    /// The picture of the file at `strPath`, cut to a circle of `iSide` pixels. A file that is missing, holds no
-    /// picture or one of more than 64 million pixels gives a null pixmap. Reads the file: see ui/HeadCache.h.
+    /// The picture of the file at `strPath`, cut to a circle of `iSide` pixels. What readPictureFile does not read
+    /// gives a null pixmap. Reads the file: see ui/HeadCache.h.
     static QPixmap maskedHead(const QString &strPath, int iSide);
 
     /// The lists' text font, 12 pixels high.

@@ -4,7 +4,6 @@
 
 #include <QFile>
 #include <QFontMetrics>
-#include <QImageReader>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QStandardItemModel>
@@ -71,16 +70,6 @@ private slots:
         file.write(QByteArray("\x89PNG\r\n\x1a\n", 8) + QByteArray(100, 'x'));
         file.close();
         QVERIFY(RowPainter::maskedHead(QStringLiteral("bad.png"), 22).isNull());
-    }
-
-    void hugePictureHasNoHead()
-    {
-        QFile file(QStringLiteral("huge.ppm"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("P6\n20000 20000\n255\n");
-        file.close();
-        QCOMPARE(QImageReader(QStringLiteral("huge.ppm")).size(), QSize(20000, 20000));
-        QVERIFY(RowPainter::maskedHead(QStringLiteral("huge.ppm"), 22).isNull());
     }
 
     void textFontHasTwelvePixels()
