@@ -99,9 +99,9 @@ private:
         font.setPixelSize(12);
         painter.setFont(font);
         const int iRoom = status.left() - (r.left() + 42) - 10 - 18 - 2 * 18;
-        const QString strName = painter.fontMetrics().elidedText(
-            row.data(Qt::UserRole + 1).toString().replace(QLatin1Char('\n'), QLatin1Char(' ')), Qt::ElideRight, iRoom);
-        const int iWidth = painter.fontMetrics().horizontalAdvance(strName);
+        const QString strWhole = row.data(Qt::UserRole + 1).toString().replace(QLatin1Char('\n'), QLatin1Char(' '));
+        const int iWidth = qMin(painter.fontMetrics().horizontalAdvance(strWhole), iRoom);
+        const QString strName = painter.fontMetrics().elidedText(strWhole, Qt::ElideRight, iRoom);
         QTextOption oneLine;
         oneLine.setWrapMode(QTextOption::NoWrap);
         painter.drawText(QRect(r.left() + 52, r.top() + 10, iWidth, r.height()), strName, oneLine);
