@@ -156,10 +156,9 @@ signals:
     /// The user calls a member (uid) again who was not reached.
     void signal_ReInviteConfUser(QString strUserID);
 
-    /// For Qt: Escape in the window or one of its watched controls asks whether to hang up; leaving them is swallowed.
-    bool eventFilter(QObject *obj, QEvent *event) override;
-
 protected:
+    /// Escape in the window or one of its watched controls asks whether to hang up; leaving them is swallowed.
+    bool eventFilter(QObject *obj, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
