@@ -5,10 +5,18 @@
 
 #include "common/AppInfo.h"
 #include "common/ConfigFile.h"
+#include "common/IconFont.h"
 #include "common/TimeText.h"
 #include "model/SharedContext.h"
+#include "model/SkinContext.h"
 #include "model/UserIds.h"
 
-class CommonFun : public SharedContext, public UserIds, public ConfigFile, public AppInfo, public TimeText
+class CommonFun : public SharedContext,
+                  public UserIds,
+                  public ConfigFile,
+                  public AppInfo,
+                  public TimeText,
+                  public IconFont,
+                  public SkinContext
 {
 };

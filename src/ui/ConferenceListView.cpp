@@ -7,7 +7,7 @@
 #include "model/FriendData.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/ConferenceListViewDelegate.h"
-#include "ui/ConferenceRoles.h"
+#include "ui/MemberRoles.h"
 #include "widgets/HeadPicture.h"
 
 #include <QMouseEvent>

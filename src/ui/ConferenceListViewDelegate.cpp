@@ -1,7 +1,7 @@
 #include "ui/ConferenceListViewDelegate.h"
 
 #include "common/DpiScale.h"
-#include "ui/ConferenceRoles.h"
+#include "ui/MemberRoles.h"
 #include "widgets/HeadPicture.h"
 
 #include <QPainter>

@@ -1,6 +1,6 @@
 #pragma once
 
-// Paints the rows of the conference member list from the item data of ui/ConferenceRoles.h, and writes back into it
+// Paints the rows of the conference member list from the item data of ui/MemberRoles.h, and writes back into it
 // where the row's buttons stand, which is how the list's mouse handlers learn it. Owned by the list; GUI thread only.
 
 #include <QStyledItemDelegate>

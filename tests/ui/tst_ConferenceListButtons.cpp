@@ -3,7 +3,7 @@
 
 #include "ContactFixture.h"
 #include "ui/ConferenceListView.h"
-#include "ui/ConferenceRoles.h"
+#include "ui/MemberRoles.h"
 
 #include <QApplication>
 #include <QSignalSpy>

@@ -2,7 +2,7 @@
 
 #include "ContactFixture.h"
 #include "common/Palette.h"
-#include "ui/ConferenceRoles.h"
+#include "ui/MemberRoles.h"
 
 #include <QApplication>
 #include <QMetaMethod>

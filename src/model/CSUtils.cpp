@@ -1,0 +1,13 @@
+#include "model/CSUtils.h"
+
+#include "model/AvatarFiles.h"
+
+QString CSUtils::getChannelIconPath(const QString &photoName)
+{
+    const QString strDefault = QStringLiteral("Resources/images/CommonCtrls/kvim_customer.png");
+    if (photoName.isEmpty() || photoName == strDefault) {
+        return strDefault;
+    }
+    const QString strAvatar = AvatarFiles::systemAvatar(AvatarFiles::withSuffix(photoName));
+    return strAvatar.isEmpty() ? AvatarFiles::headImageFolder() + photoName : strAvatar;
+}

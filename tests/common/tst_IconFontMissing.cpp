@@ -1,0 +1,30 @@
+#include "common/IconFont.h"
+
+#include <QtTest>
+
+// The font file is looked for once per process: here there is none.
+class tst_IconFontMissing : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void missingFileLeavesTextReadable()
+    {
+        QVERIFY(!QFile::exists(QStringLiteral("Resources/BaseConfig/kelvarimiconfont.ttf")));
+        const QFont font = IconFont::getIconFont();
+        QCOMPARE(font.family(), QFont().family());
+        QCOMPARE(font.pixelSize(), 12);
+        QVERIFY(QFontMetrics(font).horizontalAdvance(QStringLiteral("text")) > 12);
+    }
+
+    void missingFileStillGivesPictures()
+    {
+        const QImage image = IconFont::getIconFontPixmap(QStringLiteral("H"), Qt::red, QSize(30, 30), 20).toImage();
+        QImage blank = image;
+        blank.fill(0);
+        QVERIFY(image != blank);
+    }
+};
+
+QTEST_MAIN(tst_IconFontMissing)
+#include "tst_IconFontMissing.moc"

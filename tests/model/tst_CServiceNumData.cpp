@@ -1,0 +1,310 @@
+#include "model/CSUtils.h"
+#include "model/CServiceNumData.h"
+#include "model/CommonData.h"
+#include "model/SharedContext.h"
+#include "model/SystemSetData.h"
+
+#include "fakes/BuiltInAvatar.h"
+
+#include <json/reader.h>
+#include <json/value.h>
+
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTest>
+
+namespace {
+
+const QString SERVICE_HEAD = QStringLiteral("Resources/images/FriendDetail/ic_portrait_server_90.png");
+const QString CHANNEL_HEAD = QStringLiteral("Resources/images/CommonCtrls/kvim_customer.png");
+
+Json::Value json(const char *text)
+{
+    Json::Value root;
+    Json::CharReaderBuilder builder;
+    std::string errors;
+    const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+    reader->parse(text, text + strlen(text), &root, &errors);
+    return root;
+}
+
+const char *const WHOLE_SERVICE = R"({
+  "iServiceCode":"c1","name":"\u516c\u544a","description":"d","icon":"bell","subType":3,"isBindApp":true,"isSub":true,
+  "isInteractive":true,"subject":"s","contactWay":"w","fold":true,"status":5,"version":"17",
+  "menuList":[{"name":"top","leaf":false,"type":1,"value":"v","pcLink":"p","moLink":"m",
+               "child":[{"name":"one","leaf":true,"type":2},{"name":"two","leaf":true}]},
+              {"name":"end","leaf":true}],
+  "channel":{"id":"ch","name":"desk","welcome":"hi","photoName":"face","version":9007199254740993,
+             "agentCloseSession":true,"agentOpenSession":true,
+             "workgroupList":[{"id":"g1","name":"first"},{"id":"g2","name":"second"}]}})";
+
+} // namespace
+
+class tst_CServiceNumData : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_settings.m_strHeadImageFolder = "/data/me/designHeadImage/";
+        m_context.setSystemSetData(&m_settings);
+        SharedContext::setCommonData(&m_context);
+    }
+
+    void cleanup() { SharedContext::setCommonData(nullptr); }
+
+    void aFreshRecordWasNeverReceived()
+    {
+        const CServiceNumData data;
+        QCOMPARE(data.m_strVersion, QString("-1"));
+        QVERIFY(data.m_strServiceCode.isEmpty() && data.m_strMenuText.isEmpty() && data.m_listMenu.isEmpty());
+        QCOMPARE(data.m_iStatus + data.m_iSubType + data.m_channel.m_iStatus, 0);
+    }
+
+    void everyKeyFindsItsField()
+    {
+        CServiceNumData data;
+        data.parseFromJson(json(WHOLE_SERVICE));
+        QCOMPARE(data.m_strServiceCode, QString("c1"));
+        QCOMPARE(data.m_strName, QString("公告"));
+        QCOMPARE(data.m_strDescription, QString("d"));
+        QCOMPARE(data.m_strIconName, QString("bell"));
+        QCOMPARE(data.m_strIconPath, QString("/data/me/designHeadImage/bell.jpg"));
+        QCOMPARE(data.m_iSubType, 3);
+        QVERIFY(data.m_bBindApp && data.m_bSubscribed && data.m_bInteractive && data.m_bFold);
+        QCOMPARE(data.m_strSubject, QString("s"));
+        QCOMPARE(data.m_strContactWay, QString("w"));
+        QCOMPARE(data.m_iStatus, 5);
+        QCOMPARE(data.m_strVersion, QString("17"));
+        QCOMPARE(data.m_listMenu.size(), 2);
+        const ServiceMenu top = data.m_listMenu.first();
+        QCOMPARE(top.m_strName, QString("top"));
+        QCOMPARE(top.m_iType, 1);
+        QCOMPARE(top.m_strValue + top.m_strPcLink + top.m_strMoLink, QString("vpm"));
+        QVERIFY(!top.m_bLeaf);
+        QCOMPARE(top.m_listChild.size(), 2);
+        QCOMPARE(top.m_listChild.at(1).m_strName, QString("two"));
+        QVERIFY(data.m_listMenu.at(1).m_bLeaf);
+    }
+
+    void aChannelCarriesItsIdIntoItsGroups()
+    {
+        CServiceNumData data;
+        data.parseFromJson(json(WHOLE_SERVICE));
+        const CSChannelData &channel = data.m_channel;
+        QCOMPARE(channel.m_strChannelId, QString("ch"));
+        QCOMPARE(channel.m_strChannelName, QString("desk"));
+        QCOMPARE(channel.m_strWelcome, QString("hi"));
+        QCOMPARE(channel.m_strPhotoName, QString("face"));
+        QCOMPARE(channel.m_iStatus, 1);
+        QCOMPARE(channel.m_iVersion, Q_INT64_C(9007199254740993));
+        QVERIFY(channel.m_bAllowClose && channel.m_bAllowOpen);
+        QCOMPARE(channel.m_listWorkGroup.size(), 2);
+        QVERIFY((channel.m_listWorkGroup.at(1) == CSWorkGroupData{"g2", "second", "ch"}));
+    }
+
+    void withoutAChannelTheDefaultStays_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("missing") << QByteArray("{}");
+        QTest::newRow("null") << QByteArray(R"({"channel":null})");
+    }
+
+    void withoutAChannelTheDefaultStays()
+    {
+        QFETCH(QByteArray, text);
+        CServiceNumData data;
+        data.parseFromJson(json(text.constData()));
+        QCOMPARE(data.m_channel.m_iStatus, 0);
+        QVERIFY(data.m_channel.m_strChannelId.isEmpty());
+    }
+
+    void missingKeysOverwriteWithNothing()
+    {
+        CServiceNumData data;
+        data.parseFromJson(json(WHOLE_SERVICE));
+        data.parseFromJson(json("{}"));
+        QVERIFY(data.m_strServiceCode.isEmpty() && data.m_strName.isEmpty() && data.m_strIconPath.isEmpty());
+        QVERIFY(!data.m_bFold && !data.m_bSubscribed);
+        QCOMPARE(data.m_iStatus, 0);
+        QCOMPARE(data.m_strVersion, QString());
+        QVERIFY(data.m_strVersion != "-1");
+        // What was parsed before stays: menus are appended, the channel is replaced only by another.
+        QCOMPARE(data.m_listMenu.size(), 2);
+        QCOMPARE(data.m_channel.m_strChannelId, QString("ch"));
+    }
+
+    void aLeafIgnoresItsChildren()
+    {
+        ServiceMenu menu;
+        menu.parseMenu(json(R"({"name":"n","leaf":true,"child":[{"name":"x","leaf":true}],"pcLink":"l"})"));
+        QVERIFY(menu.m_bLeaf && menu.m_listChild.isEmpty());
+        QCOMPARE(menu.m_strPcLink, QString("l"));
+    }
+
+    void aNodeWithoutLeafReadsItsChildren()
+    {
+        ServiceMenu menu;
+        menu.parseMenu(json(R"({"child":[{"name":"x","leaf":true}]})"));
+        QCOMPARE(menu.m_listChild.size(), 1);
+    }
+
+    void childrenThatAreNoArrayAreNone()
+    {
+        ServiceMenu menu;
+        menu.parseMenu(json(R"({"name":"n","child":{"a":{"name":"x"}}})"));
+        QVERIFY(menu.m_listChild.isEmpty());
+    }
+
+    void anEmptyMenuListLeavesTheMenuTextEmpty()
+    {
+        CServiceNumData data;
+        data.parseFromJson(json(R"({"menuList":[]})"));
+        QVERIFY(data.m_strMenuText.isEmpty());
+    }
+
+    void menusAreAppended()
+    {
+        CServiceNumData data;
+        data.parseServiceMenu(json(R"([{"name":"a","leaf":true}])"));
+        data.parseServiceMenu(json(R"([{"name":"b","leaf":true},{"name":"c","leaf":true}])"));
+        QCOMPARE(data.m_listMenu.size(), 3);
+        QCOMPARE(data.m_listMenu.at(2).m_strName, QString("c"));
+    }
+
+    void theMenuTextGoesThroughItsColumnAndBack()
+    {
+        CServiceNumData data;
+        data.parseFromJson(json(WHOLE_SERVICE));
+        QVERIFY(data.m_strMenuText.contains("\n\t\t\"name\" : \"top\"") ||
+                data.m_strMenuText.contains("\"name\" : \"top\""));
+        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "menu");
+        db.setDatabaseName("menu.db");
+        QVERIFY(db.open());
+        QSqlQuery query(db);
+        QVERIFY(query.exec("CREATE TABLE service (menu VARCHAR(100))"));
+        query.prepare("INSERT INTO service VALUES (?)");
+        query.addBindValue(data.m_strMenuText);
+        QVERIFY(query.exec());
+        QVERIFY(query.exec("SELECT menu FROM service") && query.next());
+        CServiceNumData other;
+        other.parseServiceMenuFromString(query.value(0).toString());
+        QCOMPARE(other.m_strMenuText, data.m_strMenuText);
+        QCOMPARE(other.m_listMenu.size(), 2);
+        QCOMPARE(other.m_listMenu.first().m_listChild.at(1).m_strName, QString("two"));
+        query.finish();
+        db.close();
+    }
+
+    void aMenuTextMayHoldComments()
+    {
+        CServiceNumData data;
+        data.parseServiceMenuFromString("// the menu\n[{\"name\":\"a\",\"leaf\":true}]");
+        QCOMPARE(data.m_listMenu.size(), 1);
+        QVERIFY(data.m_strMenuText.startsWith("// the menu"));
+    }
+
+    void brokenMenuTextChangesNothing_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("empty") << QString();
+        QTest::newRow("no JSON") << "[{\"name\":";
+        QTest::newRow("nested too deep") << QString(100000, '[');
+        QTest::newRow("nested too deep, closed") << QString(2000, '[') + QString(2000, ']');
+    }
+
+    void brokenMenuTextChangesNothing()
+    {
+        QFETCH(QString, text);
+        CServiceNumData data;
+        data.parseServiceMenuFromString("[{\"name\":\"a\",\"leaf\":true}]");
+        data.parseServiceMenuFromString(text);
+        QCOMPARE(data.m_strMenuText, QString("[{\"name\":\"a\",\"leaf\":true}]"));
+        QCOMPARE(data.m_listMenu.size(), 1);
+    }
+
+    void aWronglyTypedValueRaisesAndLeavesTheRecordWhole_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("name is a list") << QByteArray(R"({"iServiceCode":"new","name":[]})");
+        QTest::newRow("status is a text") << QByteArray(R"({"iServiceCode":"new","status":"x"})");
+        QTest::newRow("menu type is a text") << QByteArray(R"({"iServiceCode":"new","menuList":[{"type":"x"}]})");
+        QTest::newRow("menu node is a number") << QByteArray(R"({"iServiceCode":"new","menuList":[7]})");
+        QTest::newRow("channel version is a text") << QByteArray(R"({"iServiceCode":"new","channel":{"version":"x"}})");
+        QTest::newRow("record is a list") << QByteArray("[]");
+    }
+
+    void aWronglyTypedValueRaisesAndLeavesTheRecordWhole()
+    {
+        QFETCH(QByteArray, text);
+        CServiceNumData data;
+        data.parseFromJson(json(WHOLE_SERVICE));
+        QVERIFY_EXCEPTION_THROWN(data.parseFromJson(json(text.constData())), Json::LogicError);
+        QCOMPARE(data.m_strServiceCode, QString("c1"));
+        QCOMPARE(data.m_listMenu.size(), 2);
+        QCOMPARE(data.m_channel.m_iVersion, Q_INT64_C(9007199254740993));
+        QVERIFY_EXCEPTION_THROWN(data.parseServiceMenuFromString("[{\"name\":\"x\"},7]"), Json::LogicError);
+        QCOMPARE(data.m_listMenu.size(), 2);
+    }
+
+    void channelsCompareByVersionAlone()
+    {
+        CSChannelData one;
+        CSChannelData other;
+        one.m_iVersion = other.m_iVersion = 4;
+        other.m_strChannelName = "another name";
+        QVERIFY(one == other);
+        QVERIFY(!(one != other));
+        other.m_iVersion = 5;
+        QVERIFY(one != other);
+    }
+
+    void groupsCompareByAllThree()
+    {
+        const CSWorkGroupData group{"i", "n", "c"};
+        QVERIFY((group == CSWorkGroupData{"i", "n", "c"}));
+        QVERIFY((group != CSWorkGroupData{"x", "n", "c"}));
+        QVERIFY((group != CSWorkGroupData{"i", "x", "c"}));
+        QVERIFY((group != CSWorkGroupData{"i", "n", "x"}));
+    }
+
+    void iconsAndChannelPictures_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("icon");
+        QTest::addColumn<QString>("channel");
+        QTest::newRow("empty") << QString() << QString() << CHANNEL_HEAD;
+        QTest::newRow("the service head") << SERVICE_HEAD << SERVICE_HEAD << "/data/me/designHeadImage/" + SERVICE_HEAD;
+        QTest::newRow("the channel head") << CHANNEL_HEAD << "/data/me/designHeadImage/" + CHANNEL_HEAD << CHANNEL_HEAD;
+        QTest::newRow("built in") << "99"
+                                  << "Resources/SystemAvatar/99.jpg"
+                                  << "Resources/SystemAvatar/99.jpg";
+        // Deliberately unlike: the channel's own picture is looked for without the added suffix.
+        QTest::newRow("own") << "me"
+                             << "/data/me/designHeadImage/me.jpg"
+                             << "/data/me/designHeadImage/me";
+        QTest::newRow("own png") << "me.png"
+                                 << "/data/me/designHeadImage/me.png"
+                                 << "/data/me/designHeadImage/me.png";
+    }
+
+    void iconsAndChannelPictures()
+    {
+        QFETCH(QString, name);
+        const BuiltInAvatar avatar("99.jpg");
+        CServiceNumData data;
+        data.setServiceIconName(name);
+        QCOMPARE(data.m_strIconName, name);
+        QTEST(data.m_strIconPath, "icon");
+        QTEST(CSUtils::getChannelIconPath(name), "channel");
+    }
+
+private:
+    SystemSetData m_settings;
+    CommonData m_context;
+};
+
+QTEST_GUILESS_MAIN(tst_CServiceNumData)
+#include "tst_CServiceNumData.moc"
