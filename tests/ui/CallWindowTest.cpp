@@ -6,10 +6,23 @@
 #include <QRegularExpression>
 #include <QTimer>
 
+void CallWindowTest::startAnew()
+{
+    cleanup();
+    init();
+}
+
 void CallWindowTest::showWindow()
 {
     m_pWindow->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+}
+
+QAbstractButton *CallWindowTest::button(const char *name) const
+{
+    auto *pPart = part<QWidget>(name);
+    auto *pButton = qobject_cast<QAbstractButton *>(pPart);
+    return pButton != nullptr ? pButton : pPart->findChild<QAbstractButton *>();
 }
 
 void CallWindowTest::startCall(CVoipWidget::VoipType type, bool bConnected)
@@ -74,7 +87,9 @@ void CallWindowTest::answerQuestion(const char *name, const std::function<void()
         QVERIFY(pQuestion != nullptr);
         QVERIFY(QTest::qWaitForWindowExposed(pQuestion));
         before();
-        QTest::mouseClick(pQuestion->findChild<QPushButton *>(QLatin1String(name)), Qt::LeftButton);
+        auto *pPart = pQuestion->findChild<QWidget *>(QLatin1String(name));
+        auto *pButton = qobject_cast<QAbstractButton *>(pPart);
+        QTest::mouseClick(pButton != nullptr ? pButton : pPart->findChild<QAbstractButton *>(), Qt::LeftButton);
         QVERIFY(!pQuestion->isVisible());
     });
 }
