@@ -1,5 +1,7 @@
 #include "model/SysUIData.h"
 
+#include "common/StyleText.h"
+
 #include <QStringList>
 
 namespace {
@@ -68,12 +70,7 @@ QColor SysUIData::transformToRGBA(const QString &strColor)
 
 QString SysUIData::transformToRGBStr(const QString &strColor)
 {
-    QString strDigits = strColor;
-    strDigits.remove(QLatin1Char('#'));
-    return QStringLiteral("%1,%2,%3")
-        .arg(hexNumber(strDigits.left(2)))
-        .arg(hexNumber(strDigits.mid(2, 2)))
-        .arg(hexNumber(strDigits.right(2)));
+    return StyleText::transformToRGBAStr(strColor);
 }
 
 void SysUIData::setLeftChatBubble(const QString &strPath)

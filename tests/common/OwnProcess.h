@@ -12,8 +12,10 @@ inline bool inOwnProcess()
 }
 
 /// Runs the current test function and data row again, in another process with these further variables ("NAME=value")
-/// and in that folder (empty: the same one). What the process printed when it failed; empty when it passed.
-inline QByteArray failureInOwnProcess(const QStringList &variables, const QString &folder = {})
+/// and in that folder (empty: the same one). `program` is a copy of this test program that runs in its place. What the
+/// process printed when it failed; empty when it passed.
+inline QByteArray failureInOwnProcess(const QStringList &variables, const QString &folder = {},
+                                      const QString &program = QCoreApplication::applicationFilePath())
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("TEST_IN_OWN_PROCESS", "1");
@@ -27,7 +29,7 @@ inline QByteArray failureInOwnProcess(const QStringList &variables, const QStrin
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(folder);
-    process.start(QCoreApplication::applicationFilePath(), {function});
+    process.start(program, {function});
     if (!process.waitForFinished()) {
         return "did not end: " + process.errorString().toUtf8();
     }

@@ -1,0 +1,21 @@
+#pragma once
+
+// The one door through which text from outside becomes a DOM tree. Any thread; no state.
+
+class QByteArray;
+class QDomDocument;
+class QString;
+
+namespace DomText {
+
+/// How many elements may lie in each other; the tree's own code works on it recursively, so a deeper text would exhaust
+/// the stack.
+constexpr int DEEPEST = 512;
+
+/// Parses XML into `document`. False, with `document` empty, for text that is not well-formed or nests deeper than
+/// DEEPEST.
+bool parse(const QString &strText, QDomDocument &document);
+/// The same for bytes, whose XML head names their codec.
+bool parse(const QByteArray &bytes, QDomDocument &document);
+
+} // namespace DomText

@@ -1,0 +1,48 @@
+#include "common/AccountMap.h"
+
+#include <QFile>
+#include <QTest>
+
+class tst_AccountMap : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QFile file("accounts.ini");
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[accounts]\naccountuidmap=longer.wang^^101, wang^^102, 李^^103, broken, half^^\n");
+    }
+
+    void accounts_data()
+    {
+        QTest::addColumn<QString>("account");
+        QTest::addColumn<QString>("uid");
+        QTest::newRow("an equal account goes before one that holds it") << "wang"
+                                                                        << "102";
+        QTest::newRow("an item that holds it") << "longer"
+                                               << "101";
+        QTest::newRow("UTF-8") << "李"
+                               << "103";
+        QTest::newRow("an item without its uid") << "broken" << QString();
+        QTest::newRow("an item with an empty uid") << "half" << QString();
+        QTest::newRow("unknown") << "nobody" << QString();
+        QTest::newRow("empty") << QString() << QString();
+    }
+
+    void accounts()
+    {
+        QFETCH(QString, account);
+        QTEST(AccountMap::getUIDByAccountNo("accounts.ini", account), "uid");
+    }
+
+    void aMissingFileKnowsNobody()
+    {
+        QCOMPARE(AccountMap::getUIDByAccountNo("missing.ini", "wang"), QString());
+        QCOMPARE(AccountMap::getUIDByAccountNo(".", "wang"), QString());
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_AccountMap)
+#include "tst_AccountMap.moc"

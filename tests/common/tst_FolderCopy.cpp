@@ -1,0 +1,125 @@
+#include "common/FolderCopy.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+namespace {
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QByteArray read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+}
+
+} // namespace
+
+class tst_FolderCopy : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        QVERIFY(QDir("from").removeRecursively());
+        QVERIFY(QDir("to").removeRecursively());
+        write("from/a.txt", "a");
+        write("from/sub/b.txt", "b");
+        write("from/sub/deep/c.txt", "c");
+        QVERIFY(QDir("from").mkdir("empty"));
+    }
+
+    void everythingGoesIntoAFolderThatIsMade()
+    {
+        QVERIFY(FolderCopy::copyDirectory(QDir("from"), QDir("to"), false));
+        QCOMPARE(read("to/a.txt"), QByteArray("a"));
+        QCOMPARE(read("to/sub/deep/c.txt"), QByteArray("c"));
+        QVERIFY(QDir("to/empty").exists());
+    }
+
+    void onlyTheLastFolderIsMade()
+    {
+        QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir("to/missing"), false));
+        QVERIFY(!QDir("to").exists());
+    }
+
+    void withoutOverwriteAPresentFileEndsTheCopy()
+    {
+        write("to/a.txt", "old");
+        QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir("to"), false));
+        QCOMPARE(read("to/a.txt"), QByteArray("old"));
+    }
+
+    void inSubFoldersFilesAreOverwrittenInAnyCase()
+    {
+        write("to/sub/b.txt", "old");
+        QVERIFY(FolderCopy::copyDirectory(QDir("from"), QDir("to"), false));
+        QCOMPARE(read("to/sub/b.txt"), QByteArray("b"));
+    }
+
+    void withOverwriteAPresentFileIsReplaced()
+    {
+        write("to/a.txt", "old");
+        QVERIFY(FolderCopy::copyDirectory(QDir("from"), QDir("to"), true));
+        QCOMPARE(read("to/a.txt"), QByteArray("a"));
+    }
+
+    void aFileInPlaceOfAFolderFails()
+    {
+        write("to/sub", "a file");
+        QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir("to"), true));
+    }
+
+    void aFolderIsNotCopiedIntoItself_data()
+    {
+        QTest::addColumn<QString>("to");
+        QTest::newRow("itself") << "from";
+        QTest::newRow("its own folder") << "from/sub";
+        QTest::newRow("a new folder in it") << "from/new";
+        QTest::newRow("by another way") << "from/../from/new";
+    }
+
+    void aFolderIsNotCopiedIntoItself()
+    {
+        QFETCH(QString, to);
+        QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir(to), true));
+        QCOMPARE(read("from/a.txt"), QByteArray("a"));
+        QVERIFY(!QDir("from/new").exists());
+    }
+
+    void aFolderWhoseNameGoesOnIsAnother()
+    {
+        QVERIFY(QDir("from2").removeRecursively());
+        QVERIFY(FolderCopy::copyDirectory(QDir("from"), QDir("from2"), true));
+        QCOMPARE(read("from2/sub/b.txt"), QByteArray("b"));
+    }
+
+    void aLinkLoopFails()
+    {
+        QVERIFY(QFile::link(QDir("from").absolutePath(), "from/sub/loop"));
+        QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir("to"), true));
+    }
+
+    void aLinkToAFolderThatHoldsTheTargetFails()
+    {
+        QVERIFY(QFile::link(QDir::currentPath(), "from/up"));
+        QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir("to"), true));
+    }
+
+    void aMissingFolderCopiesNothing()
+    {
+        QVERIFY(FolderCopy::copyDirectory(QDir("nothing here"), QDir("to"), true));
+        QVERIFY(QDir("to").isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_FolderCopy)
+#include "tst_FolderCopy.moc"

@@ -1,0 +1,182 @@
+#include "common/CSettingsManager.h"
+#include "common/SystemOpen.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QHostAddress>
+#include <QNetworkInterface>
+#include <QSettings>
+#include <QTest>
+#include <QUrl>
+
+namespace {
+
+// Takes the addresses of one scheme in the system's place.
+class Addresses : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Addresses(const QString &scheme) : m_scheme(scheme)
+    {
+        QDesktopServices::setUrlHandler(scheme, this, "take");
+    }
+    ~Addresses() override { QDesktopServices::unsetUrlHandler(m_scheme); }
+    Addresses(const Addresses &) = delete;
+    Addresses &operator=(const Addresses &) = delete;
+
+    QStringList m_taken;
+
+public slots:
+    void take(const QUrl &url) { m_taken.append(url.toString()); }
+
+private:
+    QString m_scheme;
+};
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QByteArray read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void setOfficeAddress(const QString &address)
+{
+    QSettings *settings = CSettingsManager::instance()->getUrlSettings();
+    settings->setValue("oaurl/theurl", address);
+    settings->setValue("oaurl/tarurl", "");
+}
+
+} // namespace
+
+class tst_SystemOpen : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        // A command "open" that writes its words down, and nothing else that could open anything.
+        write("bin/open", "#!/bin/sh\n{ for word in \"$@\"; do echo \"$word\"; done; echo end; } > " +
+                              QFile::encodeName(QDir::current().absoluteFilePath("opened")) + "\n");
+        QVERIFY(QFile::setPermissions("bin/open", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        qputenv("PATH", QFile::encodeName(QDir::current().absoluteFilePath("bin")));
+    }
+
+    void init() { QFile::remove("opened"); }
+
+    void aFileIsOpenedUnderItsQuotedPath()
+    {
+        write("my folder/a file.txt", "x");
+        QVERIFY(SystemOpen::openLocalFile("my folder/a file.txt"));
+        const QByteArray wanted =
+            QFile::encodeName(QDir::current().absoluteFilePath("my folder/a file.txt")) + "\nend\n";
+        QTRY_COMPARE(read("opened"), wanted);
+    }
+
+    void aFileThatCannotBeReadIsNotOpened()
+    {
+        QVERIFY(!SystemOpen::openLocalFile("missing.txt"));
+        QVERIFY(!SystemOpen::openLocalFile("."));
+        QVERIFY(!SystemOpen::openLocalFile(QString()));
+    }
+
+    void theFolderOfAPathIsOpenedUnquoted_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QByteArray>("words");
+        QTest::newRow("plain") << "plain/" << QByteArray("plain/\nend\n");
+        QTest::newRow("with a blank") << "my folder/" << QByteArray("my\nfolder/\nend\n");
+    }
+
+    void theFolderOfAPathIsOpenedUnquoted()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QByteArray, words);
+        QVERIFY(QDir().mkpath(folder));
+        QVERIFY(SystemOpen::openLocalDir(folder + "missing file.txt"));
+        QTRY_COMPARE(read("opened"), words);
+    }
+
+    void theFolderEndsAtTheFirstPlaceOfTheFileName()
+    {
+        QVERIFY(QDir().mkpath("data/data"));
+        QVERIFY(!SystemOpen::openLocalDir("data/data"));
+        QVERIFY(SystemOpen::openLocalDir("./data/data"));
+        QTRY_COMPARE(read("opened"), QByteArray("./\nend\n"));
+    }
+
+    void aMissingFolderIsNotOpened()
+    {
+        QVERIFY(!SystemOpen::openLocalDir("missing/file.txt"));
+        QVERIFY(!SystemOpen::openLocalDir("file.txt"));
+        QVERIFY(!SystemOpen::openLocalDir(QString()));
+    }
+
+    void theDesktopOpensAFile()
+    {
+        write("desk.txt", "x");
+        const QString path = QDir::current().absoluteFilePath("desk.txt");
+        QCOMPARE(SystemOpen::openMacLocalFile("missing.txt"), 0);
+        QCOMPARE(SystemOpen::openMacLocalFile(path), 1);
+        Addresses files("file");
+        QCOMPARE(SystemOpen::openMacLocalFile(path), 2);
+        QCOMPARE(files.m_taken, QStringList("file://" + path));
+    }
+
+    void aMailGoesToAllRecipients()
+    {
+        Addresses mail("mailto");
+        SystemOpen::sendMail({"a@kelvar.example", "b@kelvar.example"});
+        QCOMPARE(mail.m_taken, QStringList("mailto:a@kelvar.example;b@kelvar.example"));
+    }
+
+    void withoutAMailProgramTheOfficeSystemOpens()
+    {
+        SystemOpen::setSOALoginInfo("me");
+        QCOMPARE(SystemOpen::getSOALoginInfo(), QString("me"));
+        setOfficeAddress("http://office.example/?user=%1");
+        Addresses office("http");
+        SystemOpen::sendMail({"a@kelvar.example"});
+        QCOMPARE(office.m_taken, QStringList("http://office.example/?user=me"));
+    }
+
+    void withoutAnAddressNothingOpens()
+    {
+        setOfficeAddress(QString());
+        Addresses office("http");
+        Addresses none("");
+        SystemOpen::sendMail({"a@kelvar.example"});
+        QVERIFY(office.m_taken.isEmpty() && none.m_taken.isEmpty());
+    }
+
+    void theLocalAddressIsOneOfARunningInterface()
+    {
+        const QString address = SystemOpen::getLocalIPAddress();
+        QStringList candidates;
+        for (const QNetworkInterface &interface : QNetworkInterface::allInterfaces()) {
+            const bool wanted = (interface.flags() & QNetworkInterface::IsRunning) &&
+                                (interface.flags() & QNetworkInterface::CanMulticast) &&
+                                !(interface.flags() & QNetworkInterface::IsLoopBack);
+            for (const QNetworkAddressEntry &entry : interface.addressEntries()) {
+                if (wanted && entry.ip().protocol() == QAbstractSocket::IPv4Protocol) {
+                    candidates.append(entry.ip().toString());
+                }
+            }
+        }
+        QCOMPARE(address.isEmpty(), candidates.isEmpty());
+        QVERIFY(address.isEmpty() || candidates.contains(address));
+    }
+};
+
+QTEST_MAIN(tst_SystemOpen)
+#include "tst_SystemOpen.moc"

@@ -1,0 +1,61 @@
+#!/usr/bin/env python3
+"""Writes src/common/ChineseInitials.cpp: the first letter of the Mandarin reading of each character U+4E00 to U+9FA5.
+
+The readings are Unicode's own, from Debian's package unicode-data.
+Usage: tools/make_initials.py [Unihan_Readings.txt.bz2]
+"""
+import bz2
+import pathlib
+import sys
+import unicodedata
+
+FIRST, LAST = 0x4E00, 0x9FA5
+PER_LINE = 100
+READINGS = "/usr/share/unicode/Unihan_Readings.txt.bz2"
+
+# Characters without a Mandarin reading there: metric units made in Japan and the like, by the sound of their parts.
+OTHERS = {
+    "兙": "S",  # shi ke
+    "兡": "B",  # bai ke
+    "嗧": "J",  # jia lun
+    "桛": "L",
+    "烪": "G",
+    "瓧": "S",  # shi wa
+    "瓰": "F",  # fen wa
+    "瓱": "M",  # mao wa
+    "瓼": "L",  # li wa
+    "甅": "L",  # li
+}
+
+HEAD = """// Made by tools/make_initials.py from Unicode's readings; not to be edited by hand.
+
+#include "common/ChineseSpell.h"
+
+// clang-format off
+const QString strChineseFirstPY = QStringLiteral(
+"""
+TAIL = """);
+// clang-format on
+"""
+
+
+def initials(path):
+    letters = {ord(character): letter for character, letter in OTHERS.items()}
+    with bz2.open(path, "rt", encoding="utf-8") as readings:
+        for line in readings:
+            fields = line.rstrip("\n").split("\t")
+            if len(fields) == 3 and fields[1] == "kMandarin":
+                # The first of several readings is the one of the mainland.
+                letters[int(fields[0][2:], 16)] = unicodedata.normalize("NFD", fields[2])[0].upper()
+    return "".join(letters[code] for code in range(FIRST, LAST + 1))
+
+
+def main():
+    text = initials(sys.argv[1] if len(sys.argv) > 1 else READINGS)
+    rows = [text[start:start + PER_LINE] for start in range(0, len(text), PER_LINE)]
+    target = pathlib.Path(__file__).resolve().parent.parent / "src" / "common" / "ChineseInitials.cpp"
+    target.write_text(HEAD + "\n".join(f'    "{row}"' for row in rows) + TAIL, encoding="utf-8")
+
+
+if __name__ == "__main__":
+    main()
