@@ -19,6 +19,7 @@
 #include "common/SystemOpen.h"
 #include "common/TextCompare.h"
 #include "common/TextMeasure.h"
+#include "common/ShortText.h"
 #include "common/TimeText.h"
 #include "common/WeatherFiles.h"
 #include "model/SharedContext.h"
@@ -29,6 +30,7 @@ class CommonFun : public SharedContext,
                   public UserIds,
                   public ConfigFile,
                   public AppInfo,
+                  public ShortText,
                   public TimeText,
                   public IconFont,
                   public SkinContext,

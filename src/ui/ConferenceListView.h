@@ -53,7 +53,8 @@ public:
     /// The members of `list` (uids) could not be called. Unknown uids and an empty list do nothing.
     void setAddConfFailedList(QList<QString> list);
 
-    /// Sets a member's status code, cut to 32 bits. An unknown uid is ignored.
+    /// Sets a member's status code; a number beyond an int's range becomes the nearest int, which has no text of its
+    /// own either. An unknown uid is ignored.
     void updateConferenceUserStatus(QString strUserID, qlonglong iStatus);
 
     /// Marks every row as muted or not. No signal goes out.
@@ -61,6 +62,9 @@ public:
 
     /// Puts a card's nick name and picture into the row of the member with this jid. An unknown jid is ignored.
     void updateUserInfo(QString strJid, VcardInfo vcard);
+
+    /// Places the rows, so that single changes need not ask for it any more.
+    void doItemsLayout() override;
 
 signals:
     /// The user takes a member out of the conference.
@@ -71,6 +75,11 @@ signals:
     void signal_ReInviteConfUser(QString strUserID);
 
 protected:
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QVector<int> &roles = QVector<int>()) override;
+    void rowsInserted(const QModelIndex &parent, int iFirst, int iLast) override;
+    void rowsAboutToBeRemoved(const QModelIndex &parent, int iFirst, int iLast) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
@@ -88,9 +97,10 @@ private:
     CConferenceListViewDelegate *m_pDelegate;
     QStandardItemModel *m_pModel;
     QList<QString> m_userList;
-    UidCounts m_userCounts; ///< of m_userList
     QMap<QString, QStandardItem *> m_userItemMap;
     QString m_strCreator;
     bool m_bIsCallByMe = true;
     QTimer m_statusTimer;
+    UidCounts m_userCounts;     ///< of m_userList
+    bool m_bRowsToPlace = true; ///< rows came or went since the last layout
 };

@@ -22,6 +22,8 @@ constexpr int cMostCharacters = 2048;
 
 QPixmap readPicture(const QString &strPath)
 {
+    if (strPath.isEmpty())
+        return {};
     QImageReader reader(strPath);
     // What the file holds counts, not its suffix.
     reader.setDecideFormatFromContent(true);
