@@ -47,15 +47,19 @@ QString HeadImages::getFormattedImage(const QString & /*strUnused*/, const QStri
     if (strName.contains(QLatin1Char('/'))) {
         return {};
     }
-    const QString strFolder = headImageFolder();
+    const QString strFolder = PictureFolders::headImages();
     const QString strTarget = strFolder + strName + QLatin1Char('.') + strSuffix;
+    if (pixmap.isNull() || size.isEmpty()) {
+        return strTarget;
+    }
     const QString strJpg = strFolder + strName + QLatin1String(".jpg");
     const QString strPng = strFolder + strName + QLatin1String(".png");
     const QString strJpeg = strFolder + strName + QLatin1String(".jpeg");
     if (strJpg != strTarget) {
         QFile::remove(strJpg);
     }
-    // Deliberately the name with ".jpg": a png is removed also when it is the target, and is written anew below.
+    // Deliberately the name with ".jpg", which the host's head cache goes by: a png is removed also when it is the
+    // target, and written anew below, and stays beside a jpg.
     if (strJpg != strTarget) {
         QFile::remove(strPng);
     }
@@ -63,9 +67,7 @@ QString HeadImages::getFormattedImage(const QString & /*strUnused*/, const QStri
         QFile::remove(strJpeg);
     }
     QDir().mkpath(strFolder);
-    if (!pixmap.isNull() && !size.isEmpty()) {
-        pixmap.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation).save(strTarget, nullptr, BEST_QUALITY);
-    }
+    pixmap.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation).save(strTarget, nullptr, BEST_QUALITY);
     return strTarget;
 }
 
@@ -117,8 +119,7 @@ QPixmap HeadImages::getIrregularPix(const QString &strPath, int iRadius)
     const QPixmap mask = shape.scaled(area, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     QPixmap head = picture.scaled(mask.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
     // A picture of other proportions than the mask's keeps them; a mask has to be as large as what it cuts.
-    head.setMask(QBitmap(head.size() == mask.size()
-                             ? mask
-                             : mask.scaled(head.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
+    head.setMask(QBitmap(
+        head.size() == mask.size() ? mask : mask.scaled(head.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
     return head.scaled(iRadius, iRadius, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }

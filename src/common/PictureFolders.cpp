@@ -39,26 +39,26 @@ QString dataFolder(const QString &strName)
 
 } // namespace
 
-QString headImageFolder()
+QString PictureFolders::headImages()
 {
     const QString strOwn = ownUserFolder();
     const bool bOwn = !strOwn.isEmpty() && QFileInfo(strOwn).isDir();
     return subFolder(bOwn ? strOwn : documentsUserFolder(), QStringLiteral("designHeadImage")) + QLatin1Char('/');
 }
 
-QString waterMarkFolder()
+QString PictureFolders::waterMarks()
 {
     const QString strOwn = ownUserFolder();
     const QString strUser = strOwn.isEmpty() ? documentsUserFolder() : strOwn;
     return QFileInfo(subFolder(strUser, QStringLiteral("waterMark"))).absoluteFilePath() + QLatin1Char('/');
 }
 
-QString iconCacheFolder()
+QString PictureFolders::icons()
 {
     return dataFolder(QStringLiteral("icon"));
 }
 
-QString cloudIconCacheFolder()
+QString PictureFolders::cloudIcons()
 {
     return dataFolder(QStringLiteral("CloudIcon"));
 }

@@ -5,16 +5,20 @@
 
 #include <QString>
 
+namespace PictureFolders {
+
 /// The folder of the head images, ending with one slash: "designHeadImage" in the user's folder when the settings name
 /// one that exists, else in the user's folder below the documents folder.
-QString headImageFolder();
+QString headImages();
 
 /// The folder of the watermarks, absolute, ending with one slash: "waterMark" in the user's folder, which need not
 /// exist; without one in the settings it is that below the documents folder.
-QString waterMarkFolder();
+QString waterMarks();
 
 /// The folder of the icons of file types, absolute, ending with one slash.
-QString iconCacheFolder();
+QString icons();
 
 /// The same for the cloud's file lists.
-QString cloudIconCacheFolder();
+QString cloudIcons();
+
+} // namespace PictureFolders

@@ -3,10 +3,9 @@
 #include "common/AppPaths.h"
 #include "common/BuiltInPictures.h"
 #include "common/PictureFolders.h"
+#include "model/AvatarFiles.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 
 namespace {
 
@@ -37,15 +36,12 @@ constexpr TypeRow TYPE_ROWS[] = {
 
 QString systemAvatarPath(const QString &strFile)
 {
-    const QString strAvatar = strSYSTEM_AVATAR_PATH + strFile;
     const int iNumber = strFile.section(QLatin1Char('.'), 0, 0).toInt();
     if (iNumber >= FIRST_NUMBERED_AVATAR && iNumber <= LAST_NUMBERED_AVATAR) {
-        return strAvatar;
+        return strSYSTEM_AVATAR_PATH + strFile;
     }
-    if (QFile::exists(QCoreApplication::applicationDirPath() + QLatin1Char('/') + strAvatar)) {
-        return strAvatar;
-    }
-    return headImageFolder() + strFile;
+    const QString strAvatar = AvatarFiles::systemAvatar(strFile);
+    return strAvatar.isEmpty() ? PictureFolders::headImages() + strFile : strAvatar;
 }
 
 } // namespace
@@ -86,14 +82,14 @@ QString PictureFun::savePhotoToLocalFile(const QString &strName, int iKind, cons
     if (strName.isEmpty() || strLast.isEmpty()) {
         return strDEFAULT_HEAD_PATH;
     }
-    const QString strFile = strName.contains(QLatin1Char('.')) ? strName : strName + QLatin1String(".jpg");
+    const QString strFile = AvatarFiles::withSuffix(strName);
     switch (iKind) {
     case 0:
         return systemAvatarPath(strFile);
     case 1:
-        return headImageFolder() + QLatin1String("hf") + strFile;
+        return PictureFolders::headImages() + QLatin1String("hf") + strFile;
     case 2:
-        return headImageFolder() + QLatin1String("hs") + strFile;
+        return PictureFolders::headImages() + QLatin1String("hs") + strFile;
     default:
         return {};
     }
