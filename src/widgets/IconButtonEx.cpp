@@ -9,28 +9,10 @@
 
 #include <QMouseEvent>
 
-#include <array>
-
 namespace {
 
 constexpr int cTransparent = 0;
 constexpr int cOpaque = 255;
-
-// The colour of "red,green,blue" in decimal; not valid for any other text.
-QColor colorOfDecimals(const QString &strColor)
-{
-    const QStringList parts = strColor.split(QLatin1Char(','));
-    if (parts.size() != 3)
-        return {};
-    std::array<int, 3> rgb{};
-    for (int i = 0; i < 3; ++i) {
-        bool bOk = false;
-        rgb[size_t(i)] = parts.at(i).toInt(&bOk);
-        if (!bOk || rgb[size_t(i)] < 0 || rgb[size_t(i)] > 255)
-            return {};
-    }
-    return {rgb[0], rgb[1], rgb[2]};
-}
 
 } // namespace
 
@@ -71,13 +53,6 @@ void CIconButtonEx::setIconColor(const QString &color)
 {
     if (!color.isEmpty())
         m_strIconColor = color;
-    // Style sheets do not know a colour of three decimals and leave the palette's: so it is given that one.
-    const QColor decimals = colorOfDecimals(m_strIconColor);
-    if (decimals.isValid()) {
-        QPalette palette = ui->pushButton->palette();
-        palette.setColor(QPalette::ButtonText, decimals);
-        ui->pushButton->setPalette(palette);
-    }
     setBtnStyles(m_iStyleType);
 }
 

@@ -26,8 +26,9 @@ public:
     /// size below 1 keeps the font's own.
     void setIconFont(QString glyph, int size, int type);
 
-    /// The glyph's colour at rest, "#rrggbb" or red, green and blue in decimal, "184,184,184". Empty keeps the colour
-    /// and only restyles.
+    /// The glyph's colour at rest, as style sheets write one: the text goes into the sheet as it is, and one that
+    /// sheets cannot read, such as the three decimals "184,184,184", shows black. Empty keeps the colour and only
+    /// restyles.
     void setIconColor(const QString &color);
 
     /// Takes the looks of a style type: 0 and 1 turn to the skin's hover colour under the mouse and while checked, 2
