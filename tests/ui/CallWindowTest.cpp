@@ -1,5 +1,6 @@
 #include "CallWindowTest.h"
 
+#include "fakes/ClickTarget.h"
 #include "widgets/ErrorMessage.h"
 
 #include <QApplication>
@@ -20,9 +21,7 @@ void CallWindowTest::showWindow()
 
 QAbstractButton *CallWindowTest::button(const char *name) const
 {
-    auto *pPart = part<QWidget>(name);
-    auto *pButton = qobject_cast<QAbstractButton *>(pPart);
-    return pButton != nullptr ? pButton : pPart->findChild<QAbstractButton *>();
+    return qobject_cast<QAbstractButton *>(clickTarget(part<QWidget>(name)));
 }
 
 void CallWindowTest::startCall(CVoipWidget::VoipType type, bool bConnected)
@@ -87,9 +86,7 @@ void CallWindowTest::answerQuestion(const char *name, const std::function<void()
         QVERIFY(pQuestion != nullptr);
         QVERIFY(QTest::qWaitForWindowExposed(pQuestion));
         before();
-        auto *pPart = pQuestion->findChild<QWidget *>(QLatin1String(name));
-        auto *pButton = qobject_cast<QAbstractButton *>(pPart);
-        QTest::mouseClick(pButton != nullptr ? pButton : pPart->findChild<QAbstractButton *>(), Qt::LeftButton);
+        QTest::mouseClick(clickTarget(pQuestion->findChild<QWidget *>(QLatin1String(name))), Qt::LeftButton);
         QVERIFY(!pQuestion->isVisible());
     });
 }
