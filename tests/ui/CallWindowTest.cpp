@@ -21,7 +21,9 @@ void CallWindowTest::showWindow()
 
 QAbstractButton *CallWindowTest::button(const char *name) const
 {
-    return qobject_cast<QAbstractButton *>(clickTarget(part<QWidget>(name)));
+    auto *pPart = part<QWidget>(name);
+    auto *pButton = qobject_cast<QAbstractButton *>(pPart);
+    return pButton != nullptr ? pButton : pPart->findChild<QAbstractButton *>();
 }
 
 void CallWindowTest::startCall(CVoipWidget::VoipType type, bool bConnected)

@@ -5,6 +5,7 @@
 
 #include "ContactFixture.h"
 #include "common/IconGlyphs.h"
+#include "fakes/ClickTarget.h"
 #include "fakes/LogCapture.h"
 #include "ui/ConferenceListView.h"
 #include "ui/MemberRoles.h"
@@ -41,7 +42,7 @@ protected:
     ushort glyph(const char *name) const { return button(name)->text().at(0).unicode(); }
     QColor glyphColor(const char *name) const { return button(name)->palette().color(QPalette::ButtonText); }
     /// Clicks a button that is shown.
-    void click(const char *name) { QTest::mouseClick(button(name), Qt::LeftButton); }
+    void click(const char *name) { QTest::mouseClick(clickTarget(part<QWidget>(name)), Qt::LeftButton); }
     /// Clicks a button, shown or not, by its signal.
     void press(const char *name) { QMetaObject::invokeMethod(part<QWidget>(name), "clicked"); }
     /// Calls a slot that nothing on the screen reaches.
