@@ -21,7 +21,7 @@ QChar sortUnit(QChar unit)
     const SortRange *pRange = SORT_RANGES;
     while (unit.unicode() > pRange->last)
         ++pRange;
-    return QChar(unit.unicode() * pRange->factor + pRange->increment);
+    return {unit.unicode() * pRange->factor + pRange->increment};
 }
 
 } // namespace

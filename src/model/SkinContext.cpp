@@ -3,6 +3,8 @@
 #include "common/Palette.h"
 #include "model/SharedContext.h"
 
+#include <QObject>
+
 #include <deque>
 
 namespace {

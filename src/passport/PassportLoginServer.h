@@ -1,9 +1,11 @@
 #pragma once
 
 // The holder of the single-sign-on session: the cookies that the passport service gave the user, and the signals that
-// tell the client when they change or lapse. The host creates one, registers it with CommonData and owns it. It keeps
-// nothing alive by itself: refresh and expiry log their call and return, and the timers and flags stand ready for a
-// refresh. On the GUI thread; there is no lock.
+// tell the client when they change or lapse. The host creates one, registers it with CommonData and owns it; plug-ins
+// reach it through CommonFun::getPassportLoginServer. The host's login code stores the cookies, and each request that
+// goes through CommonFun::CoverNetworkRequest carries the authorisation identifier of that moment.
+// It keeps nothing alive by itself: refresh and expiry log their call and return, and the timers and flags stand ready
+// for a refresh. On the GUI thread; there is no lock.
 
 #include <QObject>
 #include <QString>
@@ -42,9 +44,9 @@ public:
     bool IsPassportKeeplived() const { return m_bIsPassportKeeplived; }
 
 signals:
-    /// The remember-me cookie changed.
+    /// The remember-me cookie changed, to this value. For a refresh: storing a cookie does not emit it.
     void signal_RemCookieChanged(QString strNewCookie);
-    /// The session ended.
+    /// The session ended: the user has to sign in again.
     void signal_UserOverdue();
 
 protected:

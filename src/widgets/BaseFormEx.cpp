@@ -13,7 +13,7 @@ namespace {
 
 constexpr int cBodyAlpha = 230;
 
-// Nearly invisible, yet it makes the strip a part of the window that takes the mouse.
+// Deliberately all but invisible: what a title shows is the colour of the skin, to which windows fit their words.
 constexpr int cTitleAlpha = 1;
 
 QColor whiteOf(int iAlpha)

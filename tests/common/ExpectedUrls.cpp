@@ -262,3 +262,12 @@ std::vector<ExpectedUrl> expectedUrls()
 {
     return {std::begin(EXPECTED_URLS), std::end(EXPECTED_URLS)};
 }
+
+QStringList everyAnswer()
+{
+    QStringList answers;
+    for (const ExpectedUrl &row : expectedUrls()) {
+        answers << row.ask("group 7");
+    }
+    return answers;
+}

@@ -33,3 +33,6 @@ struct ExpectedUrl
 
 /// All of them, in no order that matters.
 std::vector<ExpectedUrl> expectedUrls();
+
+/// What each of them answers now, in the same order; those of the form Arg to "group 7".
+QStringList everyAnswer();

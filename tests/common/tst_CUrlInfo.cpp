@@ -13,8 +13,6 @@ namespace {
 
 constexpr int kGetters = 220;
 
-const char GOOD_ADDRESS[] = "http://card.example/load";
-
 /// Whether the name of a row's form in the getters' own list is the expected one.
 bool isForm(const QString &listed, UrlForm form)
 {
@@ -43,55 +41,21 @@ QByteArray fileWithEveryKey(Value value)
 
 QString setAddress(size_t number, const QString &item)
 {
-    return QString("http://set.example/%1/%2?a=b&c=%20").arg(number).arg(item);
+    return "http://set.example/" + QString::number(number) + "/" + item + "?a=b&c=d";
 }
 
 /// What the address file names for a row: a template for one of the form Arg.
 QString setEntry(const ExpectedUrl &row, size_t number)
 {
-    return setAddress(number, row.form == UrlForm::Arg ? "ITEM" : "x").replace("ITEM", "%1").replace("%20", "d");
+    return setAddress(number, row.form == UrlForm::Arg ? "%1" : "x");
 }
 
 QString setAnswer(const ExpectedUrl &row, size_t number)
 {
-    return setAddress(number, row.form == UrlForm::Arg ? "group 7" : "x").replace("%20", "d");
+    return setAddress(number, row.form == UrlForm::Arg ? "group 7" : "x");
 }
-
-QStringList everyAnswer(bool cachedOnly = false)
-{
-    QStringList answers;
-    for (const ExpectedUrl &row : expectedUrls()) {
-        if (!cachedOnly || row.form == UrlForm::Cached) {
-            answers << row.ask("group 7");
-        }
-    }
-    return answers;
-}
-
-QStringList everyDefault()
-{
-    QStringList answers;
-    for (const ExpectedUrl &row : expectedUrls()) {
-        answers << row.defaultValue();
-    }
-    return answers;
-}
-
-class CatchAllTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return qstrcmp(context, "CUrlInfo") == 0 && qstrcmp(text, "000000") == 0 ? QString("rest") : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
-
-using Domains = QMap<QString, QString>;
 
 } // namespace
-
-Q_DECLARE_METATYPE(Domains)
 
 class tst_CUrlInfo : public QObject
 {
@@ -193,9 +157,6 @@ private slots:
                 rows[i].form == UrlForm::Cached ? before.at(static_cast<int>(i)) : QString("http://new.example");
             QVERIFY2(rows[i].ask("group 7") == expected, rows[i].name);
         }
-        CSettingsManager::instance()->getUrlSettings()->setValue("/favorite/addUrl", "http://newer.example");
-        QCOMPARE(CUrlInfo::getAddFavoriteUrl(), everyAnswer(true).last());
-        QVERIFY(!CUrlInfo::getAddFavoriteUrl().contains("newer"));
     }
 
     void aGetterDoesNotOpenTheFileAgain()
@@ -270,207 +231,6 @@ private slots:
         QFETCH(QByteArray, file);
         IN_A_CLIENT_WITH(file)
         QTEST(CUrlInfo::getSOAUrl("user one"), "link");
-    }
-
-    void numberRangesGoToTheirHosts_data()
-    {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<Domains>("domains");
-        QTest::newRow("no file") << QByteArray() << Domains{{"000000", "sip.kelvar.example"}};
-        QTest::newRow("no keys") << QByteArray("[sipphone]\n") << Domains{{"000000", "sip.kelvar.example"}};
-        QTest::newRow("a host without ranges ends the list")
-            << QByteArray("[sipphone]\ndomain0=x\ndomain1=y\nnumrange1=025\n") << Domains{{"000000", "x"}};
-        QTest::newRow("ranges and no catch-all")
-            << QByteArray("[sipphone]\ndomain0=x\nnumrange0=025,010\n") << Domains{{"025", "x"}, {"010", "x"}};
-        QTest::newRow("one range") << QByteArray("[sipphone]\ndomain0=x\nnumrange0=025\n") << Domains{{"025", "x"}};
-        QTest::newRow("a catch-all after ranges")
-            << QByteArray("[sipphone]\ndomain0=x\nnumrange0=025\ndomain1=y\ndomain2=z\nnumrange2=020\n")
-            << Domains{{"025", "x"}, {"000000", "y"}};
-        QTest::newRow("a gap ends the list")
-            << QByteArray("[sipphone]\ndomain0=x\nnumrange0=025\ndomain2=z\nnumrange2=020\n") << Domains{{"025", "x"}};
-        QTest::newRow("a list that starts at 1 is not found")
-            << QByteArray("[sipphone]\ndomain1=x\nnumrange1=025\n") << Domains{{"000000", "sip.kelvar.example"}};
-        QTest::newRow("a later pair wins") << QByteArray("[sipphone]\ndomain0=x\nnumrange0=025,010\ndomain1=y\n"
-                                                         "numrange1=010\n")
-                                           << Domains{{"025", "x"}, {"010", "y"}};
-        QTest::newRow("empty ranges") << QByteArray("[sipphone]\ndomain0=x\nnumrange0=\n") << Domains{{"000000", "x"}};
-        QTest::newRow("empty items") << QByteArray("[sipphone]\ndomain0=x\nnumrange0=,025,,010,\n")
-                                     << Domains{{"025", "x"}, {"010", "x"}};
-        QTest::newRow("only empty items")
-            << QByteArray("[sipphone]\ndomain0=x\nnumrange0=,,\n") << Domains{{"000000", "x"}};
-        QTest::newRow("a range in quotes is one range")
-            << QByteArray("[sipphone]\ndomain0=x\nnumrange0=\"025,010\"\n") << Domains{{"025,010", "x"}};
-        QTest::newRow("a host with a comma is none")
-            << QByteArray("[sipphone]\ndomain0=x,y\nnumrange0=025\n") << Domains{{"000000", "sip.kelvar.example"}};
-    }
-
-    void numberRangesGoToTheirHosts()
-    {
-        QFETCH(QByteArray, file);
-        IN_A_CLIENT_WITH(file)
-        Domains domains;
-        CUrlInfo::getSipPhoneRegDomain(domains);
-        QTEST(domains, "domains");
-    }
-
-    void twelvePairsAreRead()
-    {
-        QByteArray file = "[sipphone]\n";
-        for (int i = 0; i < 12; ++i) {
-            file += QString("domain%1=host%1\nnumrange%1=range%1\n").arg(i).toLatin1();
-        }
-        IN_A_CLIENT_WITH(file)
-        Domains domains;
-        CUrlInfo::getSipPhoneRegDomain(domains);
-        QCOMPARE(domains.size(), 12);
-        QCOMPARE(domains.value("range11"), QString("host11"));
-    }
-
-    void entriesOfTheMapAreKept_data()
-    {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<Domains>("domains");
-        QTest::newRow("and count, so that no catch-all is added")
-            << QByteArray() << Domains{{"021", "kept"}, {"025", "kept"}};
-        QTest::newRow("unless a range has the same key") << QByteArray("[sipphone]\ndomain0=x\nnumrange0=025,010\n")
-                                                         << Domains{{"021", "kept"}, {"025", "x"}, {"010", "x"}};
-    }
-
-    void entriesOfTheMapAreKept()
-    {
-        QFETCH(QByteArray, file);
-        IN_A_CLIENT_WITH(file)
-        Domains domains{{"021", "kept"}, {"025", "kept"}};
-        CUrlInfo::getSipPhoneRegDomain(domains);
-        QTEST(domains, "domains");
-    }
-
-    void theCatchAllsKeyIsTranslated_data()
-    {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<Domains>("domains");
-        QTest::newRow("built-in host") << QByteArray() << Domains{{"rest", "sip.kelvar.example"}};
-        QTest::newRow("host of the file") << QByteArray("[sipphone]\ndomain0=x\n") << Domains{{"rest", "x"}};
-    }
-
-    void theCatchAllsKeyIsTranslated()
-    {
-        QFETCH(QByteArray, file);
-        IN_A_CLIENT_WITH(file)
-        CatchAllTranslator translator;
-        QVERIFY(QCoreApplication::installTranslator(&translator));
-        Domains domains;
-        CUrlInfo::getSipPhoneRegDomain(domains);
-        QCoreApplication::removeTranslator(&translator);
-        QTEST(domains, "domains");
-    }
-
-    void howAValueIsWritten_data()
-    {
-        QTest::addColumn<QByteArray>("value");
-        QTest::addColumn<QString>("answer");
-        QTest::newRow("UTF-8") << QByteArray("http://卡片.example/") << "http://卡片.example/";
-        QTest::newRow("a bare comma makes a list, which is no text") << QByteArray("http://a.example/x,y") << "";
-        QTest::newRow("a comma in quotes") << QByteArray("\"http://a.example/x,y\"") << "http://a.example/x,y";
-        QTest::newRow("a bare semicolon ends the value") << QByteArray("http://a.example/x;y") << "http://a.example/x";
-        QTest::newRow("a semicolon in quotes") << QByteArray("\"http://a.example/x;y\"") << "http://a.example/x;y";
-        QTest::newRow("equals signs, percent and number signs")
-            << QByteArray("http://a.example/?a=b&c=%41#top") << "http://a.example/?a=b&c=%41#top";
-        QTest::newRow("a doubled backslash") << QByteArray(R"(http://a.example/x\\y)") << R"(http://a.example/x\y)";
-        QTest::newRow("blanks around it") << QByteArray("   http://a.example/  ") << "http://a.example/";
-    }
-
-    void howAValueIsWritten()
-    {
-        QFETCH(QByteArray, value);
-        IN_A_CLIENT_WITH("[vcard]\nloadurl=" + value + "\nemailurl=" + value + "\n")
-        QFETCH(QString, answer);
-        QCOMPARE(CUrlInfo::userVcardUrl(), answer);
-        QCOMPARE(CUrlInfo::getEmailUrl(),
-                 answer.isEmpty() ? QString("http://center.kelvar.example/center/user/getEmails.do") : answer);
-    }
-
-    void theModulesListIsQuotedInTheFile()
-    {
-        IN_A_CLIENT_WITH("[plugins]\ndlls=\"A.dll,B.dll\"\n")
-        QCOMPARE(CUrlInfo::getPluginList(), QString("A.dll,B.dll"));
-    }
-
-    void theBuiltInModulesAreNineFiles()
-    {
-        IN_A_CLIENT_WITH(QByteArray())
-        const QStringList modules = CUrlInfo::getPluginList().split(',');
-        QCOMPARE(modules.size(), 9);
-        QCOMPARE(QSet<QString>(modules.begin(), modules.end()).size(), 9);
-        for (const QString &module : modules) {
-            QVERIFY2(module.endsWith(".dll") && module.size() > 4, qPrintable(module));
-        }
-    }
-
-    void aBrokenEntryHarmsNoOther_data()
-    {
-        QTest::addColumn<QByteArray>("broken");
-        QTest::newRow("hexadecimal escape without digits") << QByteArray(R"(updateurl=http://a\xzz)");
-        QTest::newRow("hexadecimal escape without an end") << QByteArray("updateurl=\\x") + QByteArray(5000, 'f');
-        QTest::newRow("unknown escape") << QByteArray(R"(updateurl=\q\8\")");
-        QTest::newRow("backslash at the end") << QByteArray("updateurl=http://a\\\n");
-        QTest::newRow("zero bytes") << QByteArray("updateurl=a\0b\0\0", 14);
-        QTest::newRow("zero bytes in the key") << QByteArray("update\0url=a\n\0\0\0=b", 18);
-        QTest::newRow("not UTF-8") << QByteArray("updateurl=\xff\xfe\xc0\x80");
-        QTest::newRow("no equals sign") << QByteArray("updateurl\n===\n=");
-        QTest::newRow("section without an end") << QByteArray("[vcard\nupdateurl=a");
-        QTest::newRow("bytes of no type") << QByteArray("updateurl=@Variant(\\0\\0\\0\\x7f\\xff\\xff\\xff)");
-        QTest::newRow("half a rectangle") << QByteArray("updateurl=@Rect(1 2");
-        QTest::newRow("invalid on purpose") << QByteArray("updateurl=@Invalid()");
-        QTest::newRow("a list of 100,000 items") << QByteArray("updateurl=") + QByteArray("a,").repeated(100000);
-        QTest::newRow("a megabyte") << QByteArray("updateurl=") + QByteArray(1 << 20, 'a');
-    }
-
-    void aBrokenEntryHarmsNoOther()
-    {
-        QFETCH(QByteArray, broken);
-        const QByteArray good = QByteArray("\n[innerquery]\ntheurl=") + GOOD_ADDRESS + "\n";
-        IN_A_CLIENT_WITH("[vcard]\nloadurl=" + QByteArray(GOOD_ADDRESS) + "\n" + broken + good)
-        CUrlInfo::updateUserVcardUrl();
-        QCOMPARE(CUrlInfo::userVcardUrl(), QString(GOOD_ADDRESS));
-        QCOMPARE(CUrlInfo::innerQueryUrl(), QString(GOOD_ADDRESS));
-        QCOMPARE(CUrlInfo::getModifyUrl(), QString("http://passport.kelvar.example/ids/login"));
-        QCOMPARE(everyAnswer(), everyAnswer());
-    }
-
-    void anOpenQuoteTakesTheRestOfTheFileAndNoMore()
-    {
-        IN_A_CLIENT_WITH("[innerquery]\ntheurl=first\n[vcard]\nupdateurl=\"http://a\nloadurl=x\n")
-        QCOMPARE(CUrlInfo::innerQueryUrl(), QString("first"));
-        QCOMPARE(CUrlInfo::userVcardUrl(), QString());
-        QCOMPARE(CUrlInfo::getModifyUrl(), QString("http://passport.kelvar.example/ids/login"));
-    }
-
-    void bytesOfNoTextGiveTheDefaults()
-    {
-        QByteArray noise;
-        for (int i = 0; i < 70000; ++i) {
-            noise += static_cast<char>((i * 7919 + i / 256) % 256);
-        }
-        IN_A_CLIENT_WITH(noise)
-        QCOMPARE(everyAnswer(), everyDefault());
-    }
-
-    void aFolderInPlaceOfTheFileGivesTheDefaults()
-    {
-        if (!inOwnProcess()) {
-            QFile::remove("client/allurl.ini");
-            QVERIFY(QDir().mkpath("client/allurl.ini"));
-            const QByteArray failure = failureInTheClient();
-            QVERIFY(QDir().rmdir("client/allurl.ini"));
-            QCOMPARE(failure, QByteArray());
-            return;
-        }
-        QCOMPARE(everyAnswer(), everyDefault());
-        Domains domains;
-        CUrlInfo::getSipPhoneRegDomain(domains);
-        QCOMPARE(domains, Domains({{"000000", "sip.kelvar.example"}}));
-        QCOMPARE(CUrlInfo::getSOAUrl("x"), QString());
     }
 
     void threadsReadTogetherAfterTheFirstCall()

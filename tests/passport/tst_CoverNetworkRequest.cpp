@@ -68,6 +68,32 @@ private slots:
         QCOMPARE(sent.rawHeader("Cookie"), QByteArray("imAuthId=id-1"));
     }
 
+    void aRawCookieHeaderIsReplaced_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("Cookie") << QByteArray("Cookie");
+        QTest::newRow("cookie") << QByteArray("cookie");
+    }
+
+    void aRawCookieHeaderIsReplaced()
+    {
+        QFETCH(QByteArray, name);
+        QNetworkRequest request;
+        request.setRawHeader(name, "imAuthId=stolen; other=1");
+        const QNetworkRequest sent = m_context.CoverNetworkRequest(request);
+        QCOMPARE(sent.rawHeaderList().size(), 1);
+        QCOMPARE(sent.rawHeader("Cookie"), QByteArray("imAuthId=id-1"));
+    }
+
+    void eachRequestCarriesTheIdOfItsMoment()
+    {
+        m_keeper.SetPassportAuthIDCookie("id-2");
+        QCOMPARE(m_context.CoverNetworkRequest(QNetworkRequest()).rawHeader("Cookie"), QByteArray("imAuthId=id-2"));
+        m_keeper.UserCookieExpire();
+        m_keeper.SetPassportAuthIDCookie("");
+        QCOMPARE(m_context.CoverNetworkRequest(QNetworkRequest()).rawHeader("Cookie"), QByteArray("imAuthId=id-2"));
+    }
+
     void theGivenRequestIsNotChanged()
     {
         QNetworkRequest request(QUrl("https://im.example.org/"));

@@ -64,6 +64,13 @@ private:
     }
     static QString face(const CIconButtonEx &button) { return inner(button)->styleSheet(); }
 
+    // The colour of the button at that point, which is in the screen's own pixels where the picture is.
+    QColor seenAt(int x, int y) const
+    {
+        const QImage image = m_pButton->grab().toImage();
+        return image.pixelColor(QPoint(x, y) * image.devicePixelRatio());
+    }
+
     void moveTo(const QPoint &point) { QTest::mouseMove(m_window.windowHandle(), point); }
     void moveIn() { moveTo(m_pButton->geometry().center()); }
     void moveOut() { moveTo(QPoint(2, 2)); }
@@ -301,7 +308,10 @@ void tst_IconButtonEx::iconColourStandsInTheSheetAsItIs_data()
     QTest::newRow("#rrggbb") << QStringLiteral("#0000ff") << QColor(Qt::blue);
     QTest::newRow("a name") << QStringLiteral("red") << QColor(Qt::red);
     QTest::newRow("rgb()") << QStringLiteral("rgb(184,184,184)") << QColor(184, 184, 184);
-    QTest::newRow("three decimals are no colour of a sheet") << QStringLiteral("184,184,184") << QColor(Qt::black);
+    QTest::newRow("three decimals") << QStringLiteral("184,184,184") << QColor(184, 184, 184);
+    QTest::newRow("three decimals with blanks") << QStringLiteral("255, 96, 88") << QColor(255, 96, 88);
+    QTest::newRow("out of range") << QStringLiteral("256,0,0") << QColor(Qt::black);
+    QTest::newRow("no numbers") << QStringLiteral("a,b,c") << QColor(Qt::black);
 }
 
 void tst_IconButtonEx::iconColourStandsInTheSheetAsItIs()
@@ -311,7 +321,7 @@ void tst_IconButtonEx::iconColourStandsInTheSheetAsItIs()
     m_pButton->setIconFont(cBlock, 20, 4);
     m_pButton->setIconColor(text);
     QCOMPARE(face(*m_pButton), glyphIn(text));
-    QCOMPARE(m_pButton->grab().toImage().pixelColor(cSide / 2, cSide / 2), shown);
+    QCOMPARE(seenAt(cSide / 2, cSide / 2), shown);
 }
 
 void tst_IconButtonEx::skinsIconColourIsTakenOnceItsHoverColourAtEachRestyle()
@@ -387,7 +397,7 @@ void tst_IconButtonEx::checkedBackgroundChangesOnlyOnRequest()
     m_pButton->setChecked(true);
     QCOMPARE(back(*m_pButton)->styleSheet(), background(QStringLiteral("252,164,152,255")));
     QCOMPARE(face(*m_pButton), glyphIn(cHover));
-    QCOMPARE(m_pButton->grab().toImage().pixelColor(3, 3), QColor(strCOLOR_PINK));
+    QCOMPARE(seenAt(3, 3), QColor(strCOLOR_PINK));
     m_pButton->setChecked(false);
     QCOMPARE(back(*m_pButton)->styleSheet(), background(QStringLiteral("10,20,30,0")));
     QCOMPARE(face(*m_pButton), glyphIn(cIcon, cHover));
@@ -471,17 +481,16 @@ void tst_IconButtonEx::hoverBackgroundShowsUnderTheMouse()
 {
     m_pButton->setIconFont(cBlock, 10, 3);
     const QColor around = m_window.grab().toImage().pixelColor(2, 2);
-    QCOMPARE(m_pButton->grab().toImage().pixelColor(3, cSide / 2), around);
+    QCOMPARE(seenAt(3, cSide / 2), around);
     moveIn();
     QTRY_VERIFY(m_pButton->underMouse());
-    const QImage under = m_pButton->grab().toImage();
-    QCOMPARE(under.pixelColor(3, cSide / 2), QColor(cFifth));
-    QCOMPARE(under.pixelColor(cSide / 2, cSide / 2), QColor(Qt::white));
+    QCOMPARE(seenAt(3, cSide / 2), QColor(cFifth));
+    QCOMPARE(seenAt(cSide / 2, cSide / 2), QColor(Qt::white));
     // The background's corners are round.
-    QVERIFY(under.pixelColor(0, 0) != QColor(cFifth));
+    QVERIFY(seenAt(0, 0) != QColor(cFifth));
     moveOut();
     QTRY_VERIFY(!m_pButton->underMouse());
-    QCOMPARE(m_pButton->grab().toImage().pixelColor(3, cSide / 2), around);
+    QCOMPARE(seenAt(3, cSide / 2), around);
 }
 
 void tst_IconButtonEx::clickIsSentOnRelease()
