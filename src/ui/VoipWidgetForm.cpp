@@ -61,6 +61,9 @@ void CVoipWidget::setUpForm()
     ui->btnMuteAll->setIconFont(IconGlyph::text(IconGlyph::SpeakerOff), 16, 0);
     for (CIconButtonEx *pButton : {ui->btnMic, ui->btnSpeaker, ui->btnCamera, ui->btnChangeWindow})
         pButton->installEventFilter(this);
+    // The window comes up while the user types elsewhere: no blank or return may press what ends the call.
+    for (PushButtonEx *pButton : {ui->btnCancelCall, ui->HangUp})
+        pButton->findChild<QAbstractButton *>()->setFocusPolicy(Qt::NoFocus);
     // Deliberate: no call shows these two; what they do is reached by code only.
     ui->btnCamera->hide();
     ui->btnChangeWindow->hide();

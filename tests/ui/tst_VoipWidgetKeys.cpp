@@ -32,6 +32,7 @@ private slots:
     void everyEscapeAsks();
     void confirmedEscapeInsideAButtonHangsUpOnce();
     void otherKeysAskNothing();
+    void typedKeysEndNoCall();
     void leavingIsSwallowed_data();
     void leavingIsSwallowed();
     void enteringGoesOn();
@@ -147,6 +148,20 @@ void tst_VoipWidgetKeys::otherKeysAskNothing()
     QVERIFY(!isSwallowed(m_pWindow.get(), &release));
     QCoreApplication::processEvents();
     QCOMPARE(questions.texts, QStringList());
+    QCOMPARE(m_sent, QStringList());
+}
+
+void tst_VoipWidgetKeys::typedKeysEndNoCall()
+{
+    // A call window that comes up under typing hands takes the next blank: it must not press a button with it.
+    for (const bool bConnected : {false, true}) {
+        startCall(CVoipWidget::Voice, bConnected);
+        showWindow();
+        m_pWindow->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+        for (const int iKey : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return})
+            QTest::keyClick(m_pWindow->windowHandle(), Qt::Key(iKey));
+    }
     QCOMPARE(m_sent, QStringList());
 }
 

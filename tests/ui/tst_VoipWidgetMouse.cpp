@@ -63,6 +63,8 @@ void tst_VoipWidgetMouse::showAtHome()
 {
     // The real pointer stays away: its own enter events would count as moves.
     QCursor::setPos(workArea().bottomRight() - QPoint(20, 20));
+    // Without a window manager's own opinion on places beyond the screen.
+    m_pWindow->setWindowFlag(Qt::X11BypassWindowManagerHint);
     m_pWindow->move(cHome);
     startCall(CVoipWidget::Voice, true);
     showWindow();

@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QRegularExpression>
 #include <QSlider>
 #include <QStandardPaths>
 
@@ -15,7 +17,6 @@ class tst_VoipWidgetVolume : public CallWindowTest
     Q_OBJECT
 
 private:
-    QTimer *timer(const char *name) const { return part<QTimer>(name); }
     /// Saves the dialog's picture under that name as soon as it is open; an empty name cancels.
     void answerDialog(const QString &strName, QStringList *pSeen = nullptr);
     /// A red surface on the video page.
@@ -106,32 +107,27 @@ void tst_VoipWidgetVolume::enablesAndVolumesGoToTheDebugChannel()
 
 void tst_VoipWidgetVolume::answerDialog(const QString &strName, QStringList *pSeen)
 {
-    auto *pTimer = new QTimer(m_pWindow.get());
-    connect(pTimer, &QTimer::timeout, pTimer, [pTimer, strName, pSeen] {
-        QWidget *pModal = QApplication::activeModalWidget();
-        if (pModal == nullptr)
-            return;
-        auto *pDialog = qobject_cast<QFileDialog *>(pModal);
-        if (pDialog == nullptr) {
-            // The question whether the file may be replaced.
-            pTimer->stop();
-            QTest::keyClick(pModal, Qt::Key_Y, Qt::AltModifier);
-            return;
-        }
+    QTimer::singleShot(0, this, [this, strName, pSeen] {
+        auto *pDialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        QVERIFY(pDialog != nullptr);
+        auto *pName = pDialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
         if (pSeen != nullptr)
             *pSeen = QStringList{pDialog->windowTitle(), pDialog->selectedNameFilter(), pDialog->directory().path(),
-                                 pDialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text()};
+                                 pName->text()};
         if (strName.isEmpty()) {
-            pTimer->stop();
             pDialog->reject();
             return;
         }
-        pDialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(strName);
-        if (!QFile::exists(strName))
-            pTimer->stop();
+        pName->setText(strName);
+        // A file of that name brings up the question whether it may be replaced.
+        if (QFile::exists(strName))
+            QTimer::singleShot(0, this, [] {
+                auto *pQuestion = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+                QVERIFY(pQuestion != nullptr);
+                pQuestion->button(QMessageBox::Yes)->click();
+            });
         QMetaObject::invokeMethod(pDialog, "accept");
     });
-    pTimer->start(0);
 }
 
 void tst_VoipWidgetVolume::showVideo()
