@@ -223,10 +223,10 @@ void tst_VoipWidgetForm::everyLayoutHasItsMarginsAndSpacing_data()
     QTest::addColumn<QMargins>("margins");
     QTest::addColumn<int>("spacing");
     const QMargins none;
-    for (const char *name : {"verticalLayout", "horizontalLayout_12", "verticalLayout_9", "horizontalLayout_5",
-                             "horizontalLayout_6", "horizontalLayout_7", "verticalLayout_5", "verticalLayout_2",
-                             "WebViewLayout", "verticalLayout_7", "verticalLayout_11", "verticalLayout_8",
-                             "verticalLayout_10", "horizontalLayout_4", "horizontalLayout_3"})
+    for (const char *name :
+         {"verticalLayout", "horizontalLayout_12", "verticalLayout_9", "horizontalLayout_5", "horizontalLayout_6",
+          "horizontalLayout_7", "verticalLayout_5", "verticalLayout_2", "WebViewLayout", "verticalLayout_7",
+          "verticalLayout_11", "verticalLayout_8", "verticalLayout_10", "horizontalLayout_4", "horizontalLayout_3"})
         QTest::newRow(name) << none << 0;
     QTest::newRow("callingControlPage") << none << 0;
     QTest::newRow("verticalLayout_3") << QMargins(3, 3, 3, 3) << 0;
