@@ -2,6 +2,7 @@
 
 #include "ui_VoipWidget.h"
 
+#include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
 #include "common/CommonFun.h"
 #include "common/IconGlyphs.h"
@@ -29,8 +30,6 @@ constexpr int cHoverFace = 0;
 constexpr int cPlainFace = 4;
 const QString cToggleColor = QStringLiteral("184,184,184");
 const QString cMuteAllColor = QStringLiteral("255, 96, 88");
-
-const QString cDefaultHead = QStringLiteral("Resources/images/FriendDetail/defaultHead.png");
 
 const char *boolText(bool bValue)
 {
@@ -106,7 +105,7 @@ void CVoipWidget::showPeer()
 QString CVoipWidget::showPeerCard(const VcardInfo &vcard)
 {
     QString strShownName = cardName(vcard);
-    const QString strPhotoPath = CommonFun::getTrueImagePath(vcard.m_strPhotoPath, cDefaultHead);
+    const QString strPhotoPath = CommonFun::getTrueImagePath(vcard.m_strPhotoPath, strDEFAULT_HEAD_PATH);
     LOG_DEBUG << "voip userName=" << strShownName << "\n";
     LOG_DEBUG << "voip photourl = " << strPhotoPath << "\n";
     ui->lblPhotoIcon->setHeadPictrue(strPhotoPath);

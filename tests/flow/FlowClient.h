@@ -9,7 +9,7 @@
 #include <QStringList>
 
 class PluginInterface;
-class QAbstractButton;
+class QWidget;
 
 /// A client that knows the plug-in from outside only: it loads the built module, speaks to it by events, reads what
 /// went over the wire from the call process's trace, and finds the windows on the screen. GUI thread; one in a process,
