@@ -10,7 +10,7 @@ namespace {
 const QColor cBackdrop(0x5a, 0x78, 0x96);
 
 // Smoothed edges may come out a shade apart, a few pixels may differ; a stroke through a glyph is more than that.
-constexpr int cShade = 64;
+constexpr int cShade = 32;
 constexpr int cFewPixels = 8;
 
 QString fileName(const QString &strName)
