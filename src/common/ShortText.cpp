@@ -1,6 +1,6 @@
 #include "common/ShortText.h"
 
-#include "common/TextColumns.h"
+#include "common/TextMeasure.h"
 
 #include <QStringView>
 #include <QXmlStreamWriter>
@@ -13,7 +13,8 @@ constexpr int cElidedColumns = 9;
 
 int columnsOf(QStringView text)
 {
-    return std::accumulate(text.begin(), text.end(), 0, [](int iSum, QChar c) { return iSum + textColumns(c); });
+    return std::accumulate(text.begin(), text.end(), 0,
+                           [](int iSum, QChar c) { return iSum + TextMeasure::columnsOf(c); });
 }
 
 /// The position behind the character at `i`; a surrogate pair is one character.

@@ -154,35 +154,17 @@ void CConferenceListView::slot_UpdateCallStatu()
     }
 }
 
-void CConferenceListView::doItemsLayout()
-{
-    QListView::doItemsLayout();
-    m_bRowsToPlace = false;
-}
-
 void CConferenceListView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                       const QVector<int> &roles)
 {
     // The painting itself writes the buttons' places back: they must not call for the next painting.
     if (!areRolesShown(roles))
         return;
-    // Finding a row's place would lay out all rows at once, for each change anew while members arrive.
-    if (m_bRowsToPlace)
-        viewport()->update();
-    else
+    // QListView would place all rows anew for each change, and paint them all; only a new size calls for that.
+    if (roles.isEmpty() || roles.contains(Qt::SizeHintRole))
         QListView::dataChanged(topLeft, bottomRight, roles);
-}
-
-void CConferenceListView::rowsInserted(const QModelIndex &parent, int iFirst, int iLast)
-{
-    m_bRowsToPlace = true;
-    QListView::rowsInserted(parent, iFirst, iLast);
-}
-
-void CConferenceListView::rowsAboutToBeRemoved(const QModelIndex &parent, int iFirst, int iLast)
-{
-    m_bRowsToPlace = true;
-    QListView::rowsAboutToBeRemoved(parent, iFirst, iLast);
+    else
+        QAbstractItemView::dataChanged(topLeft, bottomRight, roles);
 }
 
 void CConferenceListView::mousePressEvent(QMouseEvent *event)

@@ -63,9 +63,6 @@ public:
     /// Puts a card's nick name and picture into the row of the member with this jid. An unknown jid is ignored.
     void updateUserInfo(QString strJid, VcardInfo vcard);
 
-    /// Places the rows, so that single changes need not ask for it any more.
-    void doItemsLayout() override;
-
 signals:
     /// The user takes a member out of the conference.
     void signal_RemoveUser(QString strUserID);
@@ -77,8 +74,6 @@ signals:
 protected:
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QVector<int> &roles = QVector<int>()) override;
-    void rowsInserted(const QModelIndex &parent, int iFirst, int iLast) override;
-    void rowsAboutToBeRemoved(const QModelIndex &parent, int iFirst, int iLast) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -101,6 +96,5 @@ private:
     QString m_strCreator;
     bool m_bIsCallByMe = true;
     QTimer m_statusTimer;
-    UidCounts m_userCounts;     ///< of m_userList
-    bool m_bRowsToPlace = true; ///< rows came or went since the last layout
+    UidCounts m_userCounts; ///< of m_userList
 };

@@ -2,11 +2,11 @@
 
 #include "common/CommonFun.h"
 #include "common/DpiScale.h"
+#include "common/PictureFile.h"
 
 #include <QAbstractItemModel>
 #include <QBitmap>
 #include <QFontMetrics>
-#include <QImageReader>
 #include <QPainter>
 #include <QTextOption>
 
@@ -14,24 +14,8 @@ namespace {
 
 constexpr int cTextPixels = 12;
 
-// A picture of more pixels than this is no head, and its memory could bring the host down.
-constexpr qint64 cMostPixels = Q_INT64_C(64) * 1024 * 1024;
-
 // No line of text is measured beyond so many characters: more of them fit only where they have no width.
 constexpr int cMostCharacters = 2048;
-
-QPixmap readPicture(const QString &strPath)
-{
-    if (strPath.isEmpty())
-        return {};
-    QImageReader reader(strPath);
-    // What the file holds counts, not its suffix.
-    reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (!size.isValid() || qint64(size.width()) * size.height() > cMostPixels)
-        return {};
-    return QPixmap::fromImageReader(&reader);
-}
 
 QBitmap roundMask(int iSide)
 {
@@ -56,6 +40,18 @@ QString withBlanks(QString strText)
     return strText;
 }
 
+/// As much of the text as decides how it looks in `iWidth` pixels: what stands well past them never shows.
+QString beginning(const QFontMetrics &metrics, const QString &strText, int iWidth)
+{
+    const int iMost = qMin(strText.size(), cMostCharacters);
+    const int iEnough = iWidth + 4 * metrics.height();
+    for (int iLength = iWidth / 2 + 32;; iLength *= 2) {
+        const QString strLine = withBlanks(strText.left(qMin(iLength, iMost)));
+        if (iLength >= iMost || metrics.horizontalAdvance(strLine) > iEnough)
+            return strLine;
+    }
+}
+
 } // namespace
 
 KeptPenAndFont::KeptPenAndFont(QPainter *pPainter)
@@ -71,7 +67,7 @@ KeptPenAndFont::~KeptPenAndFont()
 
 QPixmap RowPainter::maskedHead(const QString &strPath, int iSide)
 {
-    const QPixmap picture = readPicture(strPath);
+    const QPixmap picture = readPictureFile(strPath);
     if (picture.isNull())
         return {};
     // The mask has hard edges: cut at twice the size, scaling down makes them smooth.
@@ -90,16 +86,12 @@ QFont RowPainter::textFont()
 
 QString RowPainter::elidedLine(const QFontMetrics &metrics, const QString &strText, int iWidth)
 {
-    if (iWidth < 1)
-        return {};
-    const int iMost = qMin(strText.size(), cMostCharacters);
-    // What stands well past the width never shows, so it is not measured either.
-    const int iEnough = iWidth + 4 * metrics.height();
-    for (int iLength = iWidth / 2 + 32;; iLength *= 2) {
-        const QString strLine = withBlanks(strText.left(qMin(iLength, iMost)));
-        if (iLength >= iMost || metrics.horizontalAdvance(strLine) > iEnough)
-            return metrics.elidedText(strLine, Qt::ElideRight, iWidth);
-    }
+    return iWidth < 1 ? QString() : metrics.elidedText(beginning(metrics, strText, iWidth), Qt::ElideRight, iWidth);
+}
+
+int RowPainter::lineWidth(const QFontMetrics &metrics, const QString &strText, int iWidth)
+{
+    return iWidth < 1 ? 0 : qMin(metrics.horizontalAdvance(beginning(metrics, strText, iWidth)), iWidth);
 }
 
 void RowPainter::drawLine(QPainter &painter, const QRect &place, const QString &strText)

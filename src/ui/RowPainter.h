@@ -37,8 +37,8 @@ private:
 class RowPainter
 {
 public:
-    /// The picture of the file at `strPath`, cut to a circle of `iSide` pixels. A file that is missing, holds no
-    /// picture or one of more than 64 million pixels gives a null pixmap. Reads the file: see ui/HeadCache.h.
+    /// The picture of the file at `strPath`, cut to a circle of `iSide` pixels. What readPictureFile does not read
+    /// gives a null pixmap. Reads the file: see ui/HeadCache.h.
     static QPixmap maskedHead(const QString &strPath, int iSide);
 
     /// The lists' text font, 12 pixels high.
@@ -48,6 +48,9 @@ public:
     /// other control characters become blanks. Costs as much as fits into the line, however long the text is. A width
     /// below 1 gives an empty text.
     static QString elidedLine(const QFontMetrics &metrics, const QString &strText, int iWidth);
+
+    /// The width of that line before it is cut, or `iWidth` where that is smaller; 0 for a width below 1.
+    static int lineWidth(const QFontMetrics &metrics, const QString &strText, int iWidth);
 
     /// Draws one line from `place`'s top left corner with the painter's font and pen. Nothing in it is interpreted.
     static void drawLine(QPainter &painter, const QRect &place, const QString &strText);

@@ -192,7 +192,9 @@ void CLineEditEx::setNewMaxLength(int iLength)
 void CLineEditEx::slot_cursorchanged(int oldPos, int newPos)
 {
     QString strText = ui->lineEdit->text();
-    if (oldPos < 0 || newPos <= oldPos || newPos > strText.size())
+    // Qt tells the first move of all as one from -1.
+    oldPos = qMax(0, oldPos);
+    if (newPos <= oldPos || newPos > strText.size())
         return;
     qint64 width = qint64(widthOf(strText.leftRef(oldPos))) + widthOf(strText.midRef(newPos));
     int iFitEnd = oldPos;
@@ -253,6 +255,7 @@ void CLineEditEx::addDeleteBtn()
     connect(m_pDeleteBtn, SIGNAL(clicked()), this, SIGNAL(signal_delete()));
     auto *pLayout = new QHBoxLayout(ui->lineEdit);
     pLayout->setContentsMargins(0, 0, 5, 0);
+    pLayout->setSpacing(0);
     pLayout->addStretch();
     pLayout->addWidget(m_pDeleteLine);
     pLayout->addWidget(m_pDeleteBtn);

@@ -1,6 +1,4 @@
 #include "common/CommonFun.h"
-#include "common/ShortText.h"
-#include "common/TextColumns.h"
 
 #include <QTest>
 
@@ -9,23 +7,6 @@ class tst_ShortText : public QObject
     Q_OBJECT
 
 private slots:
-    void chineseCharactersAreTwoColumns_data()
-    {
-        QTest::addColumn<int>("unit");
-        QTest::addColumn<int>("columns");
-        QTest::newRow("letter") << int('a') << 1;
-        QTest::newRow("before the range") << 0x4DFF << 1;
-        QTest::newRow("first") << 0x4E00 << 2;
-        QTest::newRow("last") << 0x9FA5 << 2;
-        QTest::newRow("behind the range") << 0x9FA6 << 1;
-        QTest::newRow("full-width bracket") << 0x3010 << 1;
-    }
-    void chineseCharactersAreTwoColumns()
-    {
-        QFETCH(int, unit);
-        QTEST(textColumns(QChar(ushort(unit))), "columns");
-    }
-
     void tipIsBrokenAtItsWidth_data()
     {
         QTest::addColumn<QString>("text");

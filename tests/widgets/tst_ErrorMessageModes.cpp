@@ -199,7 +199,8 @@ void tst_ErrorMessageModes::replyIsGivenBackTrimmed()
     whenShown(dialog, [&] {
         QCOMPARE(reply(dialog)->toPlainText(), QStringLiteral("  start"));
         reply(dialog)->moveCursor(QTextCursor::End);
-        QTest::keyClicks(reply(dialog), QStringLiteral(" end \n "));
+        QTest::keyClicks(reply(dialog), QStringLiteral(" end "));
+        QTest::keyClick(reply(dialog), Qt::Key_Return);
         click(dialog, "acceptBtn");
     });
     QCOMPARE(dialog.lineEditShow(QStringLiteral("Title"), QStringLiteral("  start")), QStringLiteral("start end"));
