@@ -19,9 +19,6 @@ private:
     }
 
 private slots:
-    void readablePhotoIsUsed();
-    void unusablePhotoGivesTheDefaultHead_data();
-    void unusablePhotoGivesTheDefaultHead();
     void pictureIsRoundAndScaled_data();
     void pictureIsRoundAndScaled();
     void contentCountsNotTheSuffix();
@@ -29,30 +26,6 @@ private slots:
     void hugePictureGivesTheNeutralHead();
     void labelShowsAPictureOfItsWidth();
 };
-
-void tst_HeadPicture::readablePhotoIsUsed()
-{
-    const QString strPath = writePhoto(QStringLiteral("photo.png"), QSize(8, 8));
-    QVERIFY(!strPath.isEmpty());
-    QCOMPARE(HeadPicture::readablePath(strPath), strPath);
-}
-
-void tst_HeadPicture::unusablePhotoGivesTheDefaultHead_data()
-{
-    QTest::addColumn<QString>("path");
-    QFile empty(QStringLiteral("empty.png"));
-    QVERIFY(empty.open(QIODevice::WriteOnly));
-    QTest::newRow("no path") << QString();
-    QTest::newRow("no such file") << QStringLiteral("no/such/photo.png");
-    QTest::newRow("a folder") << QDir::currentPath();
-    QTest::newRow("an empty file") << QStringLiteral("empty.png");
-}
-
-void tst_HeadPicture::unusablePhotoGivesTheDefaultHead()
-{
-    QFETCH(QString, path);
-    QCOMPARE(HeadPicture::readablePath(path), QStringLiteral("Resources/images/FriendDetail/defaultHead.png"));
-}
 
 void tst_HeadPicture::pictureIsRoundAndScaled_data()
 {
