@@ -104,7 +104,7 @@ QString bareForm(const HtmlTag &tag)
                                       "h1",      "h2",         "h3",   "h4",     "h5", "h6",  "hr", "li",
                                       "ol",      "p",          "pre",  "table",  "td", "th",  "tr", "ul"};
     if (BLOCKS.contains(tag.strName))
-        return QStringLiteral("<p>");
+        return tag.bClosing ? QStringLiteral("</p>") : QStringLiteral("<p>");
     if (tag.strName == QLatin1String("br"))
         return QStringLiteral("<br/>");
     return tag.strName == QLatin1String("img") ? QString(QChar::ObjectReplacementCharacter) : QString();

@@ -9,7 +9,7 @@
 namespace BoundedHtml {
 
 /// The most of each that HTML may hold to stay as it is.
-constexpr int MOST_TAGS = 8192;
+constexpr int MOST_TAGS = 4096;
 /// Open elements in each other.
 constexpr int MOST_DEPTH = 128;
 constexpr int MOST_IMAGES = 512;
@@ -24,7 +24,7 @@ constexpr int MOST_NAMELESS = 16;
 /// True for HTML that stays within all of these, and whose table cells span less than 100 others.
 bool isModest(const QString &strHtml);
 
-/// Modest HTML as it is. Of any other the bare text: a paragraph for each tag that begins or ends a block, line breaks,
+/// Modest HTML as it is. Of any other the bare text: a paragraph for each block, line breaks,
 /// and the character U+FFFC for an image; no attributes, no style sheets.
 QString modest(const QString &strHtml);
 
