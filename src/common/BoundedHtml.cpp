@@ -98,6 +98,20 @@ private:
     bool m_bWideCell = false;
 };
 
+// How white space counts is up to the sheet.
+QString shortStyle(const QString &strHtml)
+{
+    HtmlTag tag = HtmlTags::next(strHtml, 0);
+    while (tag.iBegin >= 0 && tag.strName != QLatin1String("style"))
+        tag = HtmlTags::next(strHtml, HtmlTags::behind(strHtml, tag));
+    if (tag.iBegin < 0 || tag.bClosing)
+        return {};
+    const int iUnits = HtmlTags::behind(strHtml, tag) - tag.iEnd;
+    if (iUnits > BoundedHtml::MOST_KEPT_STYLE_UNITS)
+        return {};
+    return QLatin1String("<style>") + strHtml.midRef(tag.iEnd, iUnits) + QLatin1String("</style>");
+}
+
 QString bareForm(const HtmlTag &tag)
 {
     static const QSet<QString> BLOCKS{"address", "blockquote", "body", "center", "dd", "div", "dl", "dt",
@@ -128,7 +142,7 @@ QString BoundedHtml::modest(const QString &strHtml)
 {
     if (isModest(strHtml))
         return strHtml;
-    QString strBare;
+    QString strBare = shortStyle(strHtml);
     int iDone = 0;
     for (HtmlTag tag = HtmlTags::next(strHtml, 0); tag.iBegin >= 0; tag = HtmlTags::next(strHtml, iDone)) {
         strBare += strHtml.midRef(iDone, tag.iBegin - iDone);

@@ -16,6 +16,8 @@ constexpr int MOST_IMAGES = 512;
 /// Units of text in all style sheets of the HTML, and their number.
 constexpr int MOST_STYLE_UNITS = 2048;
 constexpr int MOST_STYLES = 16;
+/// The longest style sheet that HTML which is not modest keeps: enough for the one that Qt's editors write.
+constexpr int MOST_KEPT_STYLE_UNITS = 128;
 /// Rows times cells of all tables.
 constexpr int MOST_TABLE_PLACES = 65536;
 /// Tags without a name, such as a bare "<".
@@ -25,7 +27,7 @@ constexpr int MOST_NAMELESS = 16;
 bool isModest(const QString &strHtml);
 
 /// Modest HTML as it is. Of any other the bare text: a paragraph for each block, line breaks,
-/// and the character U+FFFC for an image; no attributes, no style sheets.
+/// and the character U+FFFC for an image; no attributes, and no style sheet but the first if it is short.
 QString modest(const QString &strHtml);
 
 } // namespace BoundedHtml

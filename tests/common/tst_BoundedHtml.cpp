@@ -73,8 +73,11 @@ private slots:
     {
         const QString strDeep = many("<b>", MOST_DEPTH + 1);
         const QString strHtml =
-            strDeep + "a<div class=\"x\">b</DIV>c<br>d<!-- e<p> -->f<img src=\"g\">h<style>i</style>j";
-        QCOMPARE(modest(strHtml), QString("a<p>b</p>c<br/>df") + QChar(0xFFFC) + "hj");
+            strDeep +
+            "a<div class=\"x\">b</DIV>c<br>d<!-- e<p> -->f<img src=\"g\">h<style>i{}</style>j<style>k</style>";
+        QCOMPARE(modest(strHtml), QString("<style>i{}</style>a<p>b</p>c<br/>df") + QChar(0xFFFC) + "hj");
+        const QString strLong = "<style>" + many("a", MOST_KEPT_STYLE_UNITS + 1) + "</style>";
+        QCOMPARE(modest(strLong + strDeep + "b"), QString("b"));
         QCOMPARE(modest(strDeep + "&lt;b&gt; <b"), QString("&lt;b&gt; "));
     }
 };

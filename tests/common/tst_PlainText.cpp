@@ -4,6 +4,7 @@
 #include "RandomMessage.h"
 
 #include <QTest>
+#include <QTextCursor>
 #include <QTextDocument>
 
 namespace {
@@ -69,6 +70,25 @@ private slots:
             else
                 QVERIFY(iSeed % 2 == 0);
         }
+    }
+
+    void longMessageReadsAsAShortOneDoes()
+    {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        QTextCharFormat red;
+        red.setForeground(Qt::red);
+        for (int i = 0; i < BoundedHtml::MOST_TAGS; ++i) {
+            cursor.insertText(" a   b & <c> ");
+            cursor.insertText(" d ", red);
+            cursor.insertBlock();
+        }
+        const QString strHtml = document.toHtml();
+        QVERIFY(!BoundedHtml::isModest(strHtml));
+        QCOMPARE(plain(strHtml), plainStepByStep(strHtml));
+        const QString strFragment = QString("<div>a <b>b</b></div><ul><li>c<li>d</ul>e<h1>f</h1>").repeated(1000);
+        QVERIFY(!BoundedHtml::isModest(strFragment));
+        QCOMPARE(plain(strFragment), plainStepByStep(strFragment));
     }
 
     void filesThatAMessageNamesAreNotRead()

@@ -1,7 +1,5 @@
 #include "widgets/HeadPicture.h"
 
-#include "widgets/VcardHeadLabel.h"
-
 #include <QDir>
 #include <QTest>
 
@@ -24,7 +22,6 @@ private slots:
     void contentCountsNotTheSuffix();
     void noPictureGivesTheNeutralHead();
     void hugePictureGivesTheNeutralHead();
-    void labelShowsAPictureOfItsWidth();
 };
 
 void tst_HeadPicture::pictureIsRoundAndScaled_data()
@@ -76,15 +73,6 @@ void tst_HeadPicture::noPictureGivesTheNeutralHead()
     const QImage none = HeadPicture::round(QString(), 22, 1.0).toImage();
     QCOMPARE(none.pixelColor(none.rect().center()).alpha(), 255);
     QCOMPARE(HeadPicture::round(QStringLiteral("text.png"), 22, 1.0).toImage(), none);
-}
-
-void tst_HeadPicture::labelShowsAPictureOfItsWidth()
-{
-    VcardHeadLabel label;
-    label.setFixedSize(100, 100);
-    label.setHeadPictrue(writePhoto(QStringLiteral("label.png"), QSize(10, 10)));
-    const QPixmap shown = label.pixmap(Qt::ReturnByValue);
-    QCOMPARE(shown.size() / shown.devicePixelRatio(), QSize(100, 100));
 }
 
 QTEST_MAIN(tst_HeadPicture)
