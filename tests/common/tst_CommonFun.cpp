@@ -24,6 +24,27 @@ private slots:
         QVERIFY(!CommonFun::getChatBubblesList());
     }
 
+    void messageHtmlIsReachedByTheOneName()
+    {
+        QString strText = "a  b";
+        CommonFun::replaceSpace(strText);
+        QCOMPARE(CommonFun::convertMessageBody("a  b", false), strText);
+        CommonFun::convertWebLink(strText, {});
+        CommonFun::replaceLineBreak(strText);
+        QCOMPARE(strText, QString("a&nbsp;&nbsp;b"));
+        QCOMPARE(CommonFun::regainHtmlText(CommonFun::getDealWithHtmlText("<")), QString("<"));
+        CommonFun::escapeURLChar(strText);
+        QCOMPARE(strText, QString("a%26nbsp;%26nbsp;b"));
+        CommonFun::replaceLineBreakToParagraph(strText = "a");
+        QCOMPARE(strText, QString("<p>a</p>\n"));
+        QVERIFY(CommonFun::getImageListFromHtml("", "", "").isEmpty());
+        QVERIFY(CommonFun::getFileIdListFromHtml("", "", "").isEmpty());
+        QCOMPARE(CommonFun::getTrueImagePath("", "b"), QString("b"));
+        QVERIFY(!CommonFun::getIsImageFixError(strText));
+        QCOMPARE(CommonFun::getShortString("ab", 1), QString("a\nb"));
+        QCOMPARE(CommonFun::getElidedText("a"), QString("a"));
+    }
+
     void theTextsAreReachedByTheOneName()
     {
         unsigned long iBytes = 2048;
