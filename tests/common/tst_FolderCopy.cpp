@@ -136,6 +136,7 @@ private slots:
     void theOwnFiltersOfTheFolderHoldForItsEntries()
     {
         write("from/b.log", "b");
+        write("from/folder.txt/c.txt", "c");
         QDir from("from");
         from.setFilter(QDir::Files);
         from.setNameFilters({"*.txt"});
