@@ -9,9 +9,14 @@
 #include "common/ConfigFile.h"
 #include "common/DigitText.h"
 #include "common/FileDigest.h"
+#include "common/FileIcons.h"
 #include "common/FolderCopy.h"
+#include "common/HeadImages.h"
 #include "common/IconFont.h"
 #include "common/Identifiers.h"
+#include "common/ImagePath.h"
+#include "common/NinePatch.h"
+#include "common/PictureNames.h"
 #include "common/ScreenPlace.h"
 #include "common/Sha1.h"
 #include "common/SizeText.h"
@@ -20,6 +25,7 @@
 #include "common/TextCompare.h"
 #include "common/TextMeasure.h"
 #include "common/TimeText.h"
+#include "common/WaterMark.h"
 #include "common/WeatherFiles.h"
 #include "model/SharedContext.h"
 #include "model/SkinContext.h"
@@ -45,6 +51,12 @@ class CommonFun : public SharedContext,
                   public FolderCopy,
                   public FileDigest,
                   public ChineseSpell,
-                  public AccountMap
+                  public AccountMap,
+                  public HeadImages,
+                  public ImagePath,
+                  public PictureNames,
+                  public NinePatch,
+                  public WaterMark,
+                  public FileIcons
 {
 };

@@ -1,11 +1,14 @@
 #include "common/IconFont.h"
 
 #include "common/DpiScale.h"
+#include "common/IconGlyphs.h"
 #include "model/SharedContext.h"
 
 #include <QFontDatabase>
 #include <QImage>
 #include <QPainter>
+
+#include <limits>
 
 namespace {
 
@@ -13,7 +16,7 @@ const QString FONT_FILE = QStringLiteral("Resources/BaseConfig/kelvarimiconfont.
 constexpr int DEFAULT_PIXEL_SIZE = 12;
 
 // Stands for every value that has no row of its own.
-constexpr int ANY = -1;
+constexpr int ANY = std::numeric_limits<int>::min();
 
 struct StatusRow
 {
@@ -25,18 +28,18 @@ struct StatusRow
 // The first row that fits counts, so kind 0 goes before status 0.
 // clang-format off
 constexpr StatusRow STATUS_ROWS[] = {
-    {0,   0,   0xE628},
-    {0,   1,   0xE625},
-    {0,   2,   0xE627},
-    {0,   3,   0xE627},
-    {0,   4,   0xE626},
-    {0,   ANY, 0xE625},
-    {1,   0,   0xE698},
-    {2,   0,   0xE699},
-    {ANY, 0,   0xF624},
-    {1,   ANY, 0xE6A1},
-    {2,   ANY, 0xE69E},
-    {ANY, ANY, 0xE62D},
+    {0,   0,   IconGlyph::DesktopOffline},
+    {0,   1,   IconGlyph::DesktopOnline},
+    {0,   2,   IconGlyph::DesktopAway},
+    {0,   3,   IconGlyph::DesktopAway},
+    {0,   4,   IconGlyph::DesktopBusy},
+    {0,   ANY, IconGlyph::DesktopOnline},
+    {1,   0,   IconGlyph::PhoneOffline},
+    {2,   0,   IconGlyph::TabletOffline},
+    {ANY, 0,   IconGlyph::OtherDeviceOffline},
+    {1,   ANY, IconGlyph::PhoneOnline},
+    {2,   ANY, IconGlyph::TabletOnline},
+    {ANY, ANY, IconGlyph::OtherDeviceOnline},
 };
 // clang-format on
 
@@ -85,7 +88,7 @@ QString IconFont::getStatusTypeName(int iStatus, int iKind, bool /*bUnused*/)
 {
     for (const StatusRow &row : STATUS_ROWS) {
         if ((row.m_iKind == iKind || row.m_iKind == ANY) && (row.m_iStatus == iStatus || row.m_iStatus == ANY)) {
-            return QChar(row.m_uGlyph);
+            return IconGlyph::text(row.m_uGlyph);
         }
     }
     return {};

@@ -22,7 +22,7 @@ public:
     /// pixels; an `iPixelSize` below 1 keeps the font's own size. An empty size gives a null pixmap.
     static QPixmap getIconFontPixmap(const QString &strGlyph, const QColor &color, const QSize &size, int iPixelSize);
 
-    /// The glyph of a presence state: `iKind` 0 is the computer, 1 and 2 are the kinds of phones, any other a further
-    /// device; `iStatus` 0 is offline. Status values without a glyph of their own read as online. The flag is not used.
+    /// The glyph of a presence state: `iKind` 0 is the computer, 1 a phone, 2 a tablet, any other a further device;
+    /// `iStatus` 0 is offline. Status values without a glyph of their own read as online. The flag is not used.
     static QString getStatusTypeName(int iStatus, int iKind, bool bUnused);
 };

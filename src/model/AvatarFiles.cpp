@@ -1,5 +1,6 @@
 #include "model/AvatarFiles.h"
 
+#include "common/BuiltInPictures.h"
 #include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 
@@ -15,7 +16,7 @@ QString AvatarFiles::withSuffix(const QString &name)
 
 QString AvatarFiles::systemAvatar(const QString &file)
 {
-    const QString strPath = QLatin1String("Resources/SystemAvatar/") + file;
+    const QString strPath = strSYSTEM_AVATAR_PATH + file;
     const bool bExists = QFile::exists(QCoreApplication::applicationDirPath() + QLatin1Char('/') + strPath);
     return bExists ? strPath : QString();
 }

@@ -1,14 +1,9 @@
 #include "model/VcardInfo.h"
 
+#include "common/BuiltInPictures.h"
 #include "model/AvatarFiles.h"
 
 #include <QStringList>
-
-namespace {
-
-const QString DEFAULT_HEAD = QStringLiteral("Resources/images/FriendDetail/defaultHead.png");
-
-} // namespace
 
 void VcardInfo::setDisPlayMobile(const QString &strMobile)
 {
@@ -25,9 +20,9 @@ void VcardInfo::setDisPlayMobile(const QString &strMobile)
 
 void VcardInfo::setPhotoName(const QString &strName)
 {
-    m_strPhotoName = strName.isEmpty() ? DEFAULT_HEAD : strName;
+    m_strPhotoName = strName.isEmpty() ? strDEFAULT_HEAD_PATH : strName;
     m_bSystemAvatar = true;
-    if (m_strPhotoName == DEFAULT_HEAD || m_strPhotoName == AvatarFiles::SERVICE_HEAD) {
+    if (m_strPhotoName == strDEFAULT_HEAD_PATH || m_strPhotoName == AvatarFiles::SERVICE_HEAD) {
         m_strPhotoPath = m_strPhotoName;
         return;
     }

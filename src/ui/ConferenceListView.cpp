@@ -1,5 +1,6 @@
 #include "ui/ConferenceListView.h"
 
+#include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
 #include "common/CommonFun.h"
 #include "common/DpiScale.h"
@@ -8,7 +9,6 @@
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/ConferenceListViewDelegate.h"
 #include "ui/ConferenceRoles.h"
-#include "widgets/HeadPicture.h"
 
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -127,7 +127,7 @@ void CConferenceListView::updateUserInfo(QString strJid, VcardInfo vcard)
     QStandardItem *pItem = m_userItemMap.value(CommonFun::getUidByJid(strJid));
     if (pItem == nullptr)
         return;
-    pItem->setData(HeadPicture::readablePath(vcard.m_strPhotoPath), ROLE_HEAD_PATH);
+    pItem->setData(CommonFun::getTrueImagePath(vcard.m_strPhotoPath, strDEFAULT_HEAD_PATH), ROLE_HEAD_PATH);
     // Deliberate: the card's nick name, not the contact's shown name.
     pItem->setData(vcard.m_strNickName, ROLE_DISPLAY_NAME);
 }
@@ -249,7 +249,8 @@ QStandardItem *CConferenceListView::creatUserItem(const QString &strUserID)
     const FriendData member = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(strUserID));
     // The model takes the item over as soon as it is appended.
     auto *pItem = new QStandardItem;
-    pItem->setData(HeadPicture::readablePath(member.m_vcardInfo.m_strPhotoPath), ROLE_HEAD_PATH);
+    pItem->setData(CommonFun::getTrueImagePath(member.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
+                   ROLE_HEAD_PATH);
     pItem->setData(strUserID, ROLE_USER_ID);
     pItem->setData(member.displayName(), ROLE_DISPLAY_NAME);
     pItem->setData(int(ConferenceCalling), ROLE_CALL_STATUS);

@@ -2,6 +2,7 @@
 
 #include "ui_VoipWidget.h"
 
+#include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
 #include "common/CommonFun.h"
 #include "common/DpiScale.h"
@@ -10,7 +11,6 @@
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/CallWindowStyle.h"
 #include "widgets/ErrorMessage.h"
-#include "widgets/HeadPicture.h"
 
 #include <QCloseEvent>
 #include <QDebug>
@@ -143,7 +143,7 @@ void CVoipWidget::showPeer()
 QString CVoipWidget::showPeerCard(const VcardInfo &vcard)
 {
     QString strShownName = cardName(vcard);
-    const QString strPhotoPath = HeadPicture::readablePath(vcard.m_strPhotoPath);
+    const QString strPhotoPath = CommonFun::getTrueImagePath(vcard.m_strPhotoPath, strDEFAULT_HEAD_PATH);
     LOG_DEBUG << "voip userName=" << strShownName << "\n";
     LOG_DEBUG << "voip photourl = " << strPhotoPath << "\n";
     ui->lblPhotoIcon->setHeadPictrue(strPhotoPath);

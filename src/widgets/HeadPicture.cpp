@@ -1,7 +1,7 @@
 #include "widgets/HeadPicture.h"
 
-#include <QFileInfo>
-#include <QImageReader>
+#include "common/CommonFun.h"
+
 #include <QPainter>
 
 namespace {
@@ -9,63 +9,31 @@ namespace {
 const QColor cHeadBack(0xdc, 0xe5, 0xee);
 const QColor cHeadFront(0x93, 0xa9, 0xbf);
 
-// A picture of more pixels than this is not read: it is no head, and its memory could bring the host down.
-constexpr qint64 cMaxPixels = Q_INT64_C(64) * 1024 * 1024;
-
-void drawNeutralHead(QPainter &painter, qreal side)
+// A disc with a head and shoulders that stay within it.
+QPixmap neutralHead(int iSide)
 {
-    painter.fillRect(QRectF(0, 0, side, side), cHeadBack);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(cHeadFront);
-    painter.drawEllipse(QPointF(side * 0.5, side * 0.4), side * 0.18, side * 0.18);
-    painter.drawEllipse(QPointF(side * 0.5, side * 0.96), side * 0.34, side * 0.32);
-}
-
-QImage readPhoto(const QString &strPath, const QSize &size)
-{
-    if (strPath.isEmpty())
-        return {};
-    QImageReader reader(strPath);
-    // Pictures come under all kinds of names: what the file holds counts, not its suffix.
-    reader.setDecideFormatFromContent(true);
-    const QSize whole = reader.size();
-    if (!whole.isValid() || qint64(whole.width()) * whole.height() > cMaxPixels)
-        return {};
-    return reader.read().scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
-} // namespace
-
-QString HeadPicture::readablePath(const QString &strPhotoPath)
-{
-    const QFileInfo photo(strPhotoPath);
-    if (photo.isFile() && photo.isReadable() && photo.size() > 0)
-        return strPhotoPath;
-    return QStringLiteral("Resources/images/FriendDetail/defaultHead.png");
-}
-
-QPixmap HeadPicture::round(const QString &strPath, int iSide, qreal dRatio)
-{
-    const int iPixels = qMax(1, qRound(iSide * dRatio));
-    QPixmap face(iPixels, iPixels);
-    const QImage photo = readPhoto(strPath, face.size());
-    QPainter facePainter(&face);
-    facePainter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    if (photo.isNull())
-        drawNeutralHead(facePainter, iPixels);
-    else
-        facePainter.drawImage(0, 0, photo);
-    facePainter.end();
-
-    // A brush in an ellipse has a smooth edge; a clip path has none.
-    QPixmap head(iPixels, iPixels);
+    QPixmap head(iSide, iSide);
     head.fill(Qt::transparent);
     QPainter painter(&head);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QBrush(face));
-    painter.drawEllipse(QRectF(0, 0, iPixels, iPixels));
-    painter.end();
+    painter.setBrush(cHeadBack);
+    painter.drawEllipse(head.rect());
+    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    painter.setBrush(cHeadFront);
+    painter.drawEllipse(QPointF(iSide * 0.5, iSide * 0.4), iSide * 0.18, iSide * 0.18);
+    painter.drawEllipse(QPointF(iSide * 0.5, iSide * 0.96), iSide * 0.34, iSide * 0.32);
+    return head;
+}
+
+} // namespace
+
+QPixmap HeadPicture::round(const QString &strPath, int iSide, qreal dRatio)
+{
+    const int iPixels = qMax(1, qRound(iSide * dRatio));
+    QPixmap head = CommonFun::getRoundedImage(strPath, iPixels);
+    if (head.isNull())
+        head = neutralHead(iPixels);
     head.setDevicePixelRatio(dRatio);
     return head;
 }

@@ -1,11 +1,19 @@
 #include "widgets/VcardHeadLabel.h"
 
-#include "widgets/HeadPicture.h"
+#include "common/BuiltInPictures.h"
+#include "common/CommonFun.h"
 
 VcardHeadLabel::VcardHeadLabel(QWidget *parent) : QLabel(parent) {}
 
 void VcardHeadLabel::setHeadPictrue(const QString &path)
 {
-    setPixmap(HeadPicture::round(path, width(), devicePixelRatioF()));
+    // In the screen's own pixels, so that a head is as sharp as the text beside it.
+    const qreal dRatio = devicePixelRatioF();
+    const int iWidth = qRound(width() * dRatio);
+    QPixmap head = CommonFun::getRoundedImage(CommonFun::getTrueImagePath(path, strDEFAULT_HEAD_PATH), iWidth);
+    if (head.isNull())
+        head = CommonFun::getRoundedImage(strDEFAULT_HEAD_PATH, iWidth);
+    head.setDevicePixelRatio(dRatio);
+    setPixmap(head);
     update(rect());
 }

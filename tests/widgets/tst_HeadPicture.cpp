@@ -1,7 +1,5 @@
 #include "widgets/HeadPicture.h"
 
-#include "widgets/VcardHeadLabel.h"
-
 #include <QDir>
 #include <QTest>
 
@@ -19,40 +17,12 @@ private:
     }
 
 private slots:
-    void readablePhotoIsUsed();
-    void unusablePhotoGivesTheDefaultHead_data();
-    void unusablePhotoGivesTheDefaultHead();
     void pictureIsRoundAndScaled_data();
     void pictureIsRoundAndScaled();
     void contentCountsNotTheSuffix();
     void noPictureGivesTheNeutralHead();
     void hugePictureGivesTheNeutralHead();
-    void labelShowsAPictureOfItsWidth();
 };
-
-void tst_HeadPicture::readablePhotoIsUsed()
-{
-    const QString strPath = writePhoto(QStringLiteral("photo.png"), QSize(8, 8));
-    QVERIFY(!strPath.isEmpty());
-    QCOMPARE(HeadPicture::readablePath(strPath), strPath);
-}
-
-void tst_HeadPicture::unusablePhotoGivesTheDefaultHead_data()
-{
-    QTest::addColumn<QString>("path");
-    QFile empty(QStringLiteral("empty.png"));
-    QVERIFY(empty.open(QIODevice::WriteOnly));
-    QTest::newRow("no path") << QString();
-    QTest::newRow("no such file") << QStringLiteral("no/such/photo.png");
-    QTest::newRow("a folder") << QDir::currentPath();
-    QTest::newRow("an empty file") << QStringLiteral("empty.png");
-}
-
-void tst_HeadPicture::unusablePhotoGivesTheDefaultHead()
-{
-    QFETCH(QString, path);
-    QCOMPARE(HeadPicture::readablePath(path), QStringLiteral("Resources/images/FriendDetail/defaultHead.png"));
-}
 
 void tst_HeadPicture::pictureIsRoundAndScaled_data()
 {
@@ -103,15 +73,6 @@ void tst_HeadPicture::noPictureGivesTheNeutralHead()
     const QImage none = HeadPicture::round(QString(), 22, 1.0).toImage();
     QCOMPARE(none.pixelColor(none.rect().center()).alpha(), 255);
     QCOMPARE(HeadPicture::round(QStringLiteral("text.png"), 22, 1.0).toImage(), none);
-}
-
-void tst_HeadPicture::labelShowsAPictureOfItsWidth()
-{
-    VcardHeadLabel label;
-    label.setFixedSize(100, 100);
-    label.setHeadPictrue(writePhoto(QStringLiteral("label.png"), QSize(10, 10)));
-    const QPixmap shown = label.pixmap(Qt::ReturnByValue);
-    QCOMPARE(shown.size() / shown.devicePixelRatio(), QSize(100, 100));
 }
 
 QTEST_MAIN(tst_HeadPicture)

@@ -1,0 +1,243 @@
+#include "widgets/IconButtonEx.h"
+
+#include "ui_IconButtonEx.h"
+
+#include "common/CommonFun.h"
+#include "common/DpiScale.h"
+#include "common/Palette.h"
+#include "model/SysUIData.h"
+
+#include <QMouseEvent>
+
+namespace {
+
+constexpr int cTransparent = 0;
+constexpr int cOpaque = 255;
+
+} // namespace
+
+CIconButtonEx::CIconButtonEx(QWidget *parent) : QWidget(parent), ui(std::make_unique<Ui::CIconButtonEx>())
+{
+    ui->setupUi(this);
+    ui->widgetBG->installEventFilter(this);
+    ui->pushButton->installEventFilter(this);
+    ui->pushButton->setEnabled(true);
+    setStyles();
+}
+
+CIconButtonEx::~CIconButtonEx() = default;
+
+void CIconButtonEx::setStyles()
+{
+    m_strIconColor = CommonFun::getSkinData()->m_strIconColor;
+    m_strBtnStyle = QStringLiteral("QPushButton{color: %1;background:transparent;}");
+    m_strBtnHoverStyle = QStringLiteral("QPushButton::hover{color: %1;background:transparent;}");
+    m_strBgStyle = QStringLiteral("QWidget{border-radius:2px;background-color:rgba(%1,%2);}");
+    m_strBgHoverStyle = QStringLiteral("QWidget::hover{background-color: %1;}");
+}
+
+void CIconButtonEx::setIconFont(QString glyph, int size, int type)
+{
+    QFont font = CommonFun::getIconFont();
+    if (ADAPT_DPI_INT(size) > 0)
+        font.setPixelSize(ADAPT_DPI_INT(size));
+    ui->pushButton->setFont(font);
+    ui->pushButton->setText(glyph);
+    m_strGlyph = glyph;
+    m_iGlyphSize = size;
+    m_iStyleType = type;
+    setBtnStyles(type);
+}
+
+void CIconButtonEx::setIconColor(const QString &color)
+{
+    if (!color.isEmpty())
+        m_strIconColor = color;
+    setBtnStyles(m_iStyleType);
+}
+
+void CIconButtonEx::setBtnStyles(int type)
+{
+    const SysUIData &skin = *CommonFun::getSkinData();
+    switch (type) {
+    case 0:
+    case 1:
+        m_strHoverColor = skin.m_strIconHoverColor;
+        if (m_bCheckedState)
+            showGlyph(m_strHoverColor);
+        else
+            showNormal();
+        break;
+    case 2:
+        if (m_bBackGroundDark) {
+            showGlyph(strCOLOR_WHITE, strCOLOR_WHITE);
+            showBackground(strCOLOR_SKINTHEME_GREEN, strCOLOR_SKINTHEME_GREEN);
+        } else {
+            m_strHoverColor = skin.m_strThirdIconColor;
+            showNormal();
+            showBackground(skin.m_strFifthIconColor, skin.m_strFourthIconColor);
+        }
+        break;
+    case 3:
+        if (m_bBackGroundDark) {
+            showGlyph(strCOLOR_WHITE, strCOLOR_WHITE);
+        } else {
+            m_strHoverColor = skin.m_strThirdIconColor;
+            showGlyph(m_strIconColor, strCOLOR_WHITE);
+            showBackground(skin.m_strFifthIconColor, skin.m_strFifthIconColor);
+        }
+        break;
+    case 4:
+        showGlyph(m_strIconColor);
+        break;
+    default:
+        m_strHoverColor = skin.m_strIconHoverColor;
+        showNormal();
+    }
+}
+
+void CIconButtonEx::showNormal()
+{
+    showGlyph(m_strIconColor, m_strHoverColor);
+}
+
+void CIconButtonEx::showGlyph(const QString &color)
+{
+    ui->pushButton->setStyleSheet(m_strBtnStyle.arg(color));
+}
+
+void CIconButtonEx::showGlyph(const QString &color, const QString &hoverColor)
+{
+    ui->pushButton->setStyleSheet(m_strBtnStyle.arg(color) + m_strBtnHoverStyle.arg(hoverColor));
+}
+
+QString CIconButtonEx::backgroundOf(const QString &color, int iAlpha) const
+{
+    return m_strBgStyle.arg(SysUIData::transformToRGBStr(color)).arg(iAlpha);
+}
+
+void CIconButtonEx::showBackground(const QString &color, const QString &hoverColor)
+{
+    ui->widgetBG->setStyleSheet(backgroundOf(color, cTransparent) + m_strBgHoverStyle.arg(hoverColor));
+}
+
+void CIconButtonEx::setText(const QString &text)
+{
+    ui->pushButton->setText(text);
+    ui->pushButton->setFlat(true);
+}
+
+void CIconButtonEx::setFlat(bool bFlat)
+{
+    ui->pushButton->setFlat(bFlat);
+}
+
+void CIconButtonEx::setAutoDefault(bool bAutoDefault)
+{
+    ui->pushButton->setAutoDefault(bAutoDefault);
+}
+
+void CIconButtonEx::setDefault(bool bDefault)
+{
+    ui->pushButton->setDefault(bDefault);
+}
+
+void CIconButtonEx::setIconSize(QSize size)
+{
+    ui->pushButton->setIconSize(size);
+}
+
+void CIconButtonEx::setCheckable(bool bCheckable)
+{
+    m_bCheckable = bCheckable;
+    ui->pushButton->setCheckable(bCheckable);
+}
+
+void CIconButtonEx::setChecked(bool bChecked)
+{
+    if (!m_bCheckable)
+        return;
+    ui->pushButton->setChecked(bChecked);
+    m_bCheckedState = bChecked;
+    if (m_bChangeBackgroundOnChecked)
+        ui->widgetBG->setStyleSheet(bChecked
+                                        ? backgroundOf(strCOLOR_PINK, cOpaque)
+                                        : backgroundOf(CommonFun::getSkinData()->m_strFifthIconColor, cTransparent));
+    if (bChecked)
+        showGlyph(m_strHoverColor);
+    else
+        showNormal();
+}
+
+void CIconButtonEx::setEnabled(bool bEnabled)
+{
+    m_bEnabled = bEnabled;
+    showEnabled(bEnabled);
+}
+
+void CIconButtonEx::setDisabled(bool bDisabled)
+{
+    // Deliberately without m_bEnabled: what the owner told setEnabled last stays the answer of isEnabled.
+    showEnabled(!bDisabled);
+}
+
+void CIconButtonEx::showEnabled(bool bEnabled)
+{
+    ui->pushButton->setEnabled(bEnabled);
+    if (bEnabled)
+        showNormal();
+    else
+        showGlyph(CommonFun::getSkinData()->m_strDisabledIconColor);
+}
+
+void CIconButtonEx::setChangeBackgroundOnChecked(bool bChange)
+{
+    m_bChangeBackgroundOnChecked = bChange;
+}
+
+void CIconButtonEx::setBackGroundDark(bool bDark)
+{
+    m_bBackGroundDark = bDark;
+}
+
+void CIconButtonEx::enterEvent(QEvent *)
+{
+    if (m_bEnabled)
+        setBtnStyles(m_iStyleType);
+}
+
+void CIconButtonEx::leaveEvent(QEvent *)
+{
+    if (m_bEnabled)
+        setBtnStyles(m_iStyleType);
+}
+
+bool CIconButtonEx::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == ui->pushButton || watched == ui->widgetBG) {
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        // The second press of two quick ones: seen by the inner button it would stay down.
+        case QEvent::MouseButtonDblClick:
+            return true;
+        case QEvent::MouseButtonRelease:
+            if (takeRelease(*static_cast<QMouseEvent *>(event)))
+                return true;
+            break;
+        default:
+            break;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+bool CIconButtonEx::takeRelease(const QMouseEvent &event)
+{
+    if (!m_bEnabled || !ui->pushButton->isEnabled() || event.button() == Qt::RightButton)
+        return true;
+    const QRect face(QPoint(0, 0), QPoint(ui->widgetBG->width() - 1, ui->widgetBG->height() - 1));
+    if (!face.contains(event.pos()))
+        return false;
+    emit clicked();
+    return true;
+}

@@ -1,0 +1,72 @@
+#include "common/PictureFile.h"
+
+#include "fakes/PictureFiles.h"
+
+#include <QtTest>
+
+using namespace PictureFiles;
+
+class tst_PictureFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void pictureIsRead_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("name");
+        const QImage image = plain(QSize(6, 4), Qt::red);
+        QTest::newRow("png") << encoded(image, "PNG") << "a.png";
+        QTest::newRow("jpg") << encoded(image, "JPG") << "a.jpg";
+        QTest::newRow("jpeg") << encoded(image, "JPG") << "a.jpeg";
+        QTest::newRow("bmp") << encoded(image, "BMP") << "a.bmp";
+        QTest::newRow("gif") << gifThatDeclares(6, 4) << "a.gif";
+        QTest::newRow("wrong suffix") << encoded(image, "BMP") << "b.png";
+        QTest::newRow("no picture's suffix") << encoded(image, "PNG") << "c.txt";
+        QTest::newRow("no suffix") << encoded(image, "JPG") << "d";
+    }
+    void pictureIsRead()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, name);
+        const QImage read = readPictureFile(writeBytes(name, bytes)).toImage();
+        QCOMPARE(read.size(), QSize(6, 4));
+        const QColor first = read.pixelColor(0, 0);
+        QVERIFY(first.red() >= 0xFD && first.green() <= 2 && first.blue() <= 2);
+    }
+
+    void badPictureIsNull_data() { addBadPictureRows(); }
+    void badPictureIsNull()
+    {
+        QFETCH(QString, path);
+        QVERIFY(readPictureFile(path).isNull());
+    }
+
+    void sizeIsAllowedUpToTheLimit()
+    {
+        // Two colours take little memory as a file; what counts is the number of pixels.
+        QImage image(8192, 8193, QImage::Format_Mono);
+        image.setColorTable({qRgb(0, 0, 255), qRgb(255, 0, 0)});
+        image.fill(0);
+        QVERIFY(readPictureFile(writeBytes(QStringLiteral("more.png"), encoded(image, "PNG"))).isNull());
+        image = image.copy(0, 0, 8192, 8192);
+        QCOMPARE(qint64(image.width()) * image.height(), iMOST_PICTURE_PIXELS);
+        QCOMPARE(readPictureFile(writeBytes(QStringLiteral("most.png"), encoded(image, "PNG"))).size(),
+                 QSize(8192, 8192));
+    }
+
+    void pictureWithinAnIconFileIsNotRead()
+    {
+        // The directory says 4 by 4, the picture within says more.
+        const QByteArray inner = pngThatDeclares(20000, 20000);
+        const QByteArray icon = QByteArray::fromHex("000001000100") + QByteArray::fromHex("0404000001002000") +
+                                le16(quint16(inner.size())) + le16(0) + QByteArray::fromHex("16000000") + inner;
+        QVERIFY(readPictureFile(writeBytes(QStringLiteral("icon.png"), icon)).isNull());
+        const QByteArray small = encoded(plain(QSize(4, 4), Qt::red), "PPM");
+        QVERIFY(!QImage::fromData(small).isNull());
+        QVERIFY(readPictureFile(writeBytes(QStringLiteral("other.png"), small)).isNull());
+    }
+};
+
+QTEST_MAIN(tst_PictureFile)
+#include "tst_PictureFile.moc"

@@ -1,0 +1,119 @@
+#include "widgets/HotLabel.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QTranslator>
+
+class tst_HotLabel : public QObject
+{
+    Q_OBJECT
+
+private:
+    // Knows the label's key in the context that all dialogs share, and nothing else.
+    class Words : public QTranslator
+    {
+    public:
+        bool isEmpty() const override { return false; }
+        QString translate(const char *context, const char *sourceText, const char *, int) const override
+        {
+            const bool bOwn = qstrcmp(context, "QObject") == 0 && qstrcmp(sourceText, "modifyhotkey") == 0;
+            return bOwn ? QStringLiteral("修改热键") : QString();
+        }
+    };
+
+    QWidget m_window;
+    HotLabel *m_pLabel = nullptr;
+
+    void moveTo(const QPoint &point) { QTest::mouseMove(m_window.windowHandle(), point); }
+    QPoint middle() const { return m_pLabel->geometry().center(); }
+
+private slots:
+    void init();
+    void cleanup();
+    void wordsBecomeALinkUnderTheMouse();
+    void wordsAreTranslatedInTheSharedContext();
+    void leftReleaseSendsTheShownText();
+    void otherButtonsSendNothing_data();
+    void otherButtonsSendNothing();
+    void releaseOfALinkStillReachesTheLabel();
+};
+
+void tst_HotLabel::init()
+{
+    m_window.resize(200, 100);
+    m_pLabel = new HotLabel(&m_window);
+    m_pLabel->setGeometry(50, 40, 120, 20);
+    m_pLabel->setText(QStringLiteral("from the form"));
+    m_window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&m_window));
+    moveTo(QPoint(2, 2));
+}
+
+void tst_HotLabel::cleanup()
+{
+    moveTo(QPoint(2, 2));
+    delete m_pLabel;
+    m_window.hide();
+}
+
+void tst_HotLabel::wordsBecomeALinkUnderTheMouse()
+{
+    QCOMPARE(m_pLabel->text(), QStringLiteral("from the form"));
+    moveTo(middle());
+    QTRY_COMPARE(m_pLabel->text(), QStringLiteral("<a href=\"#\">modifyhotkey</a>"));
+    moveTo(QPoint(2, 2));
+    QTRY_COMPARE(m_pLabel->text(), QStringLiteral("modifyhotkey"));
+}
+
+void tst_HotLabel::wordsAreTranslatedInTheSharedContext()
+{
+    Words words;
+    QVERIFY(QCoreApplication::installTranslator(&words));
+    moveTo(middle());
+    QTRY_COMPARE(m_pLabel->text(), QStringLiteral("<a href=\"#\">修改热键</a>"));
+    moveTo(QPoint(2, 2));
+    QTRY_COMPARE(m_pLabel->text(), QStringLiteral("修改热键"));
+    QCoreApplication::removeTranslator(&words);
+}
+
+void tst_HotLabel::leftReleaseSendsTheShownText()
+{
+    QSignalSpy clicked(m_pLabel, &HotLabel::signal_clickNameLabel);
+    moveTo(middle());
+    QTest::mousePress(m_window.windowHandle(), Qt::LeftButton, {}, middle());
+    QCOMPARE(clicked.count(), 0);
+    QTest::mouseRelease(m_window.windowHandle(), Qt::LeftButton, {}, middle());
+    QTRY_COMPARE(clicked.count(), 1);
+    QCOMPARE(clicked.first().first().toString(), QStringLiteral("<a href=\"#\">modifyhotkey</a>"));
+}
+
+void tst_HotLabel::otherButtonsSendNothing_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::newRow("right") << int(Qt::RightButton);
+    QTest::newRow("middle") << int(Qt::MiddleButton);
+}
+
+void tst_HotLabel::otherButtonsSendNothing()
+{
+    QFETCH(int, button);
+    const QSignalSpy clicked(m_pLabel, &HotLabel::signal_clickNameLabel);
+    QTest::mouseClick(m_pLabel, Qt::MouseButton(button));
+    QCOMPARE(clicked.count(), 0);
+}
+
+void tst_HotLabel::releaseOfALinkStillReachesTheLabel()
+{
+    QSignalSpy activated(m_pLabel, &QLabel::linkActivated);
+    moveTo(middle());
+    QTRY_VERIFY(m_pLabel->text().startsWith(QLatin1String("<a ")));
+    const QPoint onTheWords = m_pLabel->geometry().topLeft() + QPoint(10, m_pLabel->height() / 2);
+    moveTo(onTheWords);
+    QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, onTheWords);
+    QTRY_COMPARE(activated.count(), 1);
+    QCOMPARE(activated.first().first().toString(), QStringLiteral("#"));
+}
+
+QTEST_MAIN(tst_HotLabel)
+
+#include "tst_HotLabel.moc"

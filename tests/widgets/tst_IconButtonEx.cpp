@@ -1,0 +1,617 @@
+#include "widgets/IconButtonEx.h"
+
+#include "widgets/OwnSkin.h"
+
+#include "common/Palette.h"
+
+#include <QLayout>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+// What the skin's members are in these tests: no two alike, so that a mixed-up member shows.
+const QString cIcon = QStringLiteral("#010203");
+const QString cHover = QStringLiteral("#112233");
+const QString cThird = QStringLiteral("#445566");
+const QString cFourth = QStringLiteral("#778899");
+const QString cFifth = QStringLiteral("#0a141e");
+const QString cDisabled = QStringLiteral("#abcdef");
+
+QString glyphIn(const QString &color)
+{
+    return QStringLiteral("QPushButton{color: ") + color + QStringLiteral(";background:transparent;}");
+}
+
+QString glyphIn(const QString &color, const QString &hover)
+{
+    return glyphIn(color) + QStringLiteral("QPushButton::hover{color: ") + hover +
+           QStringLiteral(";background:transparent;}");
+}
+
+QString background(const QString &rgba)
+{
+    return QStringLiteral("QWidget{border-radius:2px;background-color:rgba(") + rgba + QStringLiteral(");}");
+}
+
+QString background(const QString &rgba, const QString &hover)
+{
+    return background(rgba) + QStringLiteral("QWidget::hover{background-color: ") + hover + QStringLiteral(";}");
+}
+
+// A solid block: in its middle a pixel has the glyph's colour alone.
+const QString cBlock = QStringLiteral("\u2588");
+
+const QString cUntouched = QStringLiteral("untouched");
+
+} // namespace
+
+class tst_IconButtonEx : public QObject
+{
+    Q_OBJECT
+
+private:
+    static constexpr int cSide = 26;
+
+    static QPushButton *inner(const CIconButtonEx &button)
+    {
+        return button.findChild<QPushButton *>(QStringLiteral("pushButton"));
+    }
+    static QWidget *back(const CIconButtonEx &button)
+    {
+        return button.findChild<QWidget *>(QStringLiteral("widgetBG"));
+    }
+    static QString face(const CIconButtonEx &button) { return inner(button)->styleSheet(); }
+
+    // The colour of the button at that point, which is in the screen's own pixels where the picture is.
+    QColor seenAt(int x, int y) const
+    {
+        const QImage image = m_pButton->grab().toImage();
+        return image.pixelColor(QPoint(x, y) * image.devicePixelRatio());
+    }
+
+    void moveTo(const QPoint &point) { QTest::mouseMove(m_window.windowHandle(), point); }
+    void moveIn() { moveTo(m_pButton->geometry().center()); }
+    void moveOut() { moveTo(QPoint(2, 2)); }
+    void press(Qt::MouseButton button, const QPoint &at) { mouse(QTest::MousePress, button, at); }
+    void release(Qt::MouseButton button, const QPoint &at) { mouse(QTest::MouseRelease, button, at); }
+    void mouse(QTest::MouseAction action, Qt::MouseButton button, const QPoint &at)
+    {
+        const QPoint inWindow = m_pButton->pos() + at;
+        if (action == QTest::MousePress)
+            QTest::mousePress(m_window.windowHandle(), button, {}, inWindow);
+        else
+            QTest::mouseRelease(m_window.windowHandle(), button, {}, inWindow);
+        QCoreApplication::processEvents();
+    }
+    void click(Qt::MouseButton button, const QPoint &at)
+    {
+        press(button, at);
+        release(button, at);
+    }
+
+    OwnSkin m_skin;
+    QWidget m_window;
+    CIconButtonEx *m_pButton = nullptr;
+
+private slots:
+    void init();
+    void cleanup();
+    void formHasItsNamesAndSizes();
+    void newButtonIsEnabledCheckableAndUnchecked();
+    void glyphIsShownInTheIconFontAtItsSize();
+    void sizeBelowOneKeepsTheFontsOwn();
+    void styleTypesLookAsTheTableSays_data();
+    void styleTypesLookAsTheTableSays();
+    void hoverColourOfTheTypeIsTheOneOfTheCheckedFace_data();
+    void hoverColourOfTheTypeIsTheOneOfTheCheckedFace();
+    void iconColourReplacesTheSkins();
+    void emptyIconColourKeepsTheOldOneAndRestyles();
+    void iconColourStandsInTheSheetAsItIs_data();
+    void iconColourStandsInTheSheetAsItIs();
+    void skinsIconColourIsTakenOnceItsHoverColourAtEachRestyle();
+    void checkedFaceHasTheHoverColour();
+    void checkedButtonHasNoFrameOfItsOwn_data();
+    void checkedButtonHasNoFrameOfItsOwn();
+    void notCheckableIsNotChecked();
+    void checkedFaceStaysWhenTheButtonStopsBeingCheckable();
+    void checkedBackgroundChangesOnlyOnRequest();
+    void disabledGlyphHasTheSkinsDisabledColour();
+    void setDisabledDoesNotTouchTheAnswer();
+    void textMakesTheButtonFlat();
+    void innerButtonTakesWhatItIsGiven();
+    void enterAndLeaveRestyle();
+    void enterDoesNotRestyleADisabledButton();
+    void hoverBackgroundShowsUnderTheMouse();
+    void clickIsSentOnRelease();
+    void everyPixelOfTheButtonClicks_data();
+    void everyPixelOfTheButtonClicks();
+    void pressIsSwallowed();
+    void rightClickSendsNothing();
+    void middleClickIsSent();
+    void releaseOutsideSendsNothing_data();
+    void releaseOutsideSendsNothing();
+    void doubleClickIsTwoClicksAndLeavesTheButtonUp();
+    void disabledByEitherFlagSendsNothing_data();
+    void disabledByEitherFlagSendsNothing();
+    void releaseOnTheBackgroundClicksToo();
+    void keyboardDoesNotReachTheInnerButton();
+};
+
+void tst_IconButtonEx::init()
+{
+    m_skin->m_strIconColor = cIcon;
+    m_skin->m_strIconHoverColor = cHover;
+    m_skin->m_strThirdIconColor = cThird;
+    m_skin->m_strFourthIconColor = cFourth;
+    m_skin->m_strFifthIconColor = cFifth;
+    m_skin->m_strDisabledIconColor = cDisabled;
+    m_window.resize(120, 100);
+    m_pButton = new CIconButtonEx(&m_window);
+    m_pButton->setGeometry(40, 40, cSide, cSide);
+    m_window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&m_window));
+    moveOut();
+    QCoreApplication::processEvents();
+}
+
+void tst_IconButtonEx::cleanup()
+{
+    moveOut();
+    delete m_pButton;
+    m_window.hide();
+}
+
+void tst_IconButtonEx::formHasItsNamesAndSizes()
+{
+    QCOMPARE(m_pButton->objectName(), QStringLiteral("CIconButtonEx"));
+    QCOMPARE(m_pButton->minimumSize(), QSize(22, 22));
+    QCOMPARE(m_pButton->layout()->objectName(), QStringLiteral("verticalLayout_2"));
+    QCOMPARE(m_pButton->layout()->contentsMargins(), QMargins());
+    const QWidget *pBack = back(*m_pButton);
+    QCOMPARE(pBack->minimumSize(), QSize(22, 22));
+    QCOMPARE(pBack->layout()->objectName(), QStringLiteral("verticalLayout"));
+    QCOMPARE(pBack->layout()->contentsMargins(), QMargins());
+    const QPushButton *pInner = inner(*m_pButton);
+    QCOMPARE(pInner->parentWidget(), pBack);
+    QCOMPARE(pInner->minimumSize(), QSize(12, 12));
+    QCOMPARE(pInner->cursor().shape(), Qt::PointingHandCursor);
+    QVERIFY(pInner->isFlat());
+    QCOMPARE(pInner->geometry(), QRect(0, 0, cSide, cSide));
+}
+
+void tst_IconButtonEx::newButtonIsEnabledCheckableAndUnchecked()
+{
+    QVERIFY(m_pButton->isEnabled());
+    QVERIFY(inner(*m_pButton)->isEnabled());
+    QVERIFY(m_pButton->isCheckable());
+    QVERIFY(!m_pButton->isChecked());
+    QCOMPARE(face(*m_pButton), QString());
+    QCOMPARE(back(*m_pButton)->styleSheet(), QString());
+}
+
+void tst_IconButtonEx::glyphIsShownInTheIconFontAtItsSize()
+{
+    m_pButton->setIconFont(QStringLiteral("\uE62C"), 17, 0);
+    QCOMPARE(inner(*m_pButton)->text(), QStringLiteral("\uE62C"));
+    QCOMPARE(inner(*m_pButton)->font().pixelSize(), 17);
+    QCOMPARE(inner(*m_pButton)->font().family(), CommonFun::getIconFont().family());
+    QCOMPARE(inner(*m_pButton)->font().styleStrategy(), QFont::PreferAntialias);
+}
+
+void tst_IconButtonEx::sizeBelowOneKeepsTheFontsOwn()
+{
+    m_pButton->setIconFont(QStringLiteral("x"), 0, 0);
+    QCOMPARE(inner(*m_pButton)->font().pixelSize(), 12);
+    m_pButton->setIconFont(QStringLiteral("x"), -4, 0);
+    QCOMPARE(inner(*m_pButton)->font().pixelSize(), 12);
+}
+
+void tst_IconButtonEx::styleTypesLookAsTheTableSays_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<bool>("checked");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("back");
+    const QString strWhite = strCOLOR_WHITE;
+    for (const int iType : {0, 1}) {
+        QTest::addRow("%d", iType) << iType << false << false << glyphIn(cIcon, cHover) << cUntouched;
+        QTest::addRow("%d dark", iType) << iType << true << false << glyphIn(cIcon, cHover) << cUntouched;
+        QTest::addRow("%d checked", iType) << iType << false << true << glyphIn(cHover) << cUntouched;
+    }
+    const QString strLight = background(QStringLiteral("10,20,30,0"), cFourth);
+    const QString strRed = background(QStringLiteral("10,20,30,0"), cFifth);
+    const QString strGreen = background(QStringLiteral("51,175,86,0"), strCOLOR_SKINTHEME_GREEN);
+    QTest::newRow("2") << 2 << false << false << glyphIn(cIcon, cThird) << strLight;
+    QTest::newRow("2 checked") << 2 << false << true << glyphIn(cIcon, cThird) << strLight;
+    QTest::newRow("2 dark") << 2 << true << false << glyphIn(strWhite, strWhite) << strGreen;
+    QTest::newRow("3") << 3 << false << false << glyphIn(cIcon, strWhite) << strRed;
+    QTest::newRow("3 checked") << 3 << false << true << glyphIn(cIcon, strWhite) << strRed;
+    QTest::newRow("3 dark") << 3 << true << false << glyphIn(strWhite, strWhite) << cUntouched;
+    QTest::newRow("4") << 4 << false << false << glyphIn(cIcon) << cUntouched;
+    QTest::newRow("4 dark") << 4 << true << false << glyphIn(cIcon) << cUntouched;
+    QTest::newRow("4 checked") << 4 << false << true << glyphIn(cIcon) << cUntouched;
+    for (const int iType : {5, 99, -1}) {
+        QTest::addRow("%d", iType) << iType << false << false << glyphIn(cIcon, cHover) << cUntouched;
+        QTest::addRow("%d checked", iType) << iType << false << true << glyphIn(cIcon, cHover) << cUntouched;
+    }
+}
+
+void tst_IconButtonEx::styleTypesLookAsTheTableSays()
+{
+    QFETCH(int, type);
+    QFETCH(bool, dark);
+    QFETCH(bool, checked);
+    QFETCH(QString, button);
+    QFETCH(QString, back);
+    const QString strOld = QStringLiteral("QWidget{border:none;}");
+    tst_IconButtonEx::back(*m_pButton)->setStyleSheet(strOld);
+    m_pButton->setBackGroundDark(dark);
+    m_pButton->setChecked(checked);
+    m_pButton->setIconFont(QStringLiteral("x"), 12, type);
+    QCOMPARE(face(*m_pButton), button);
+    QCOMPARE(tst_IconButtonEx::back(*m_pButton)->styleSheet(), back == cUntouched ? strOld : back);
+}
+
+void tst_IconButtonEx::hoverColourOfTheTypeIsTheOneOfTheCheckedFace_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<QString>("hover");
+    QTest::newRow("0") << 0 << false << cHover;
+    QTest::newRow("2") << 2 << false << cThird;
+    QTest::newRow("2 dark keeps the last one") << 2 << true << cHover;
+    QTest::newRow("3") << 3 << false << cThird;
+    QTest::newRow("3 dark keeps the last one") << 3 << true << cHover;
+    QTest::newRow("4 keeps the last one") << 4 << false << cHover;
+    QTest::newRow("other") << 5 << false << cHover;
+}
+
+void tst_IconButtonEx::hoverColourOfTheTypeIsTheOneOfTheCheckedFace()
+{
+    QFETCH(int, type);
+    QFETCH(bool, dark);
+    QFETCH(QString, hover);
+    m_pButton->setBtnStyles(0);
+    m_pButton->setBackGroundDark(dark);
+    m_pButton->setBtnStyles(type);
+    m_pButton->setChecked(true);
+    QCOMPARE(face(*m_pButton), glyphIn(hover));
+    m_pButton->setChecked(false);
+    QCOMPARE(face(*m_pButton), glyphIn(cIcon, hover));
+}
+
+void tst_IconButtonEx::iconColourReplacesTheSkins()
+{
+    m_pButton->setIconFont(QStringLiteral("x"), 12, 4);
+    m_pButton->setIconColor(QStringLiteral("#ff0000"));
+    QCOMPARE(face(*m_pButton), glyphIn(QStringLiteral("#ff0000")));
+    m_pButton->setIconFont(QStringLiteral("x"), 12, 0);
+    QCOMPARE(face(*m_pButton), glyphIn(QStringLiteral("#ff0000"), cHover));
+}
+
+void tst_IconButtonEx::emptyIconColourKeepsTheOldOneAndRestyles()
+{
+    m_pButton->setIconFont(QStringLiteral("x"), 12, 0);
+    m_pButton->setIconColor(QStringLiteral("#ff0000"));
+    inner(*m_pButton)->setStyleSheet(QString());
+    m_pButton->setIconColor(QString());
+    QCOMPARE(face(*m_pButton), glyphIn(QStringLiteral("#ff0000"), cHover));
+}
+
+void tst_IconButtonEx::iconColourStandsInTheSheetAsItIs_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QColor>("shown");
+    QTest::newRow("#rrggbb") << QStringLiteral("#0000ff") << QColor(Qt::blue);
+    QTest::newRow("a name") << QStringLiteral("red") << QColor(Qt::red);
+    QTest::newRow("rgb()") << QStringLiteral("rgb(184,184,184)") << QColor(184, 184, 184);
+    QTest::newRow("three decimals are no colour of a sheet") << QStringLiteral("184,184,184") << QColor(Qt::black);
+}
+
+void tst_IconButtonEx::iconColourStandsInTheSheetAsItIs()
+{
+    QFETCH(QString, text);
+    QFETCH(QColor, shown);
+    m_pButton->setIconFont(cBlock, 20, 4);
+    m_pButton->setIconColor(text);
+    QCOMPARE(face(*m_pButton), glyphIn(text));
+    QCOMPARE(seenAt(cSide / 2, cSide / 2), shown);
+}
+
+void tst_IconButtonEx::skinsIconColourIsTakenOnceItsHoverColourAtEachRestyle()
+{
+    m_pButton->setIconFont(QStringLiteral("x"), 12, 0);
+    m_skin->m_strIconColor = QStringLiteral("#00ff00");
+    m_skin->m_strIconHoverColor = QStringLiteral("#0000ff");
+    m_pButton->setBtnStyles(0);
+    QCOMPARE(face(*m_pButton), glyphIn(cIcon, QStringLiteral("#0000ff")));
+}
+
+void tst_IconButtonEx::checkedFaceHasTheHoverColour()
+{
+    m_pButton->setIconFont(QStringLiteral("x"), 12, 0);
+    m_pButton->setChecked(true);
+    QVERIFY(m_pButton->isChecked());
+    QVERIFY(inner(*m_pButton)->isChecked());
+    QCOMPARE(face(*m_pButton), glyphIn(cHover));
+    m_pButton->setChecked(false);
+    QVERIFY(!m_pButton->isChecked());
+    QVERIFY(!inner(*m_pButton)->isChecked());
+    QCOMPARE(face(*m_pButton), glyphIn(cIcon, cHover));
+}
+
+void tst_IconButtonEx::checkedButtonHasNoFrameOfItsOwn_data()
+{
+    QTest::addColumn<int>("type");
+    for (int iType = 0; iType <= 5; ++iType)
+        QTest::addRow("%d", iType) << iType;
+}
+
+void tst_IconButtonEx::checkedButtonHasNoFrameOfItsOwn()
+{
+    QFETCH(int, type);
+    m_pButton->setIconFont(QString(), 12, type);
+    const QImage before = m_pButton->grab().toImage();
+    m_pButton->setChecked(true);
+    QCOMPARE(m_pButton->grab().toImage(), before);
+}
+
+void tst_IconButtonEx::notCheckableIsNotChecked()
+{
+    m_pButton->setIconFont(QStringLiteral("x"), 12, 0);
+    m_pButton->setChangeBackgroundOnChecked(true);
+    m_pButton->setCheckable(false);
+    m_pButton->setChecked(true);
+    QVERIFY(!m_pButton->isCheckable());
+    QVERIFY(!m_pButton->isChecked());
+    QCOMPARE(face(*m_pButton), glyphIn(cIcon, cHover));
+    QCOMPARE(back(*m_pButton)->styleSheet(), QString());
+    m_pButton->setCheckable(true);
+    QVERIFY(!m_pButton->isChecked());
+}
+
+void tst_IconButtonEx::checkedFaceStaysWhenTheButtonStopsBeingCheckable()
+{
+    m_pButton->setIconFont(QStringLiteral("x"), 12, 0);
+    m_pButton->setChecked(true);
+    m_pButton->setCheckable(false);
+    QVERIFY(!m_pButton->isChecked());
+    m_pButton->setBtnStyles(0);
+    QCOMPARE(face(*m_pButton), glyphIn(cHover));
+    m_pButton->setCheckable(true);
+    QVERIFY(m_pButton->isChecked());
+}
+
+void tst_IconButtonEx::checkedBackgroundChangesOnlyOnRequest()
+{
+    m_pButton->setIconFont(QStringLiteral("x"), 12, 0);
+    m_pButton->setChecked(true);
+    QCOMPARE(back(*m_pButton)->styleSheet(), QString());
+    m_pButton->setChangeBackgroundOnChecked(true);
+    m_pButton->setChecked(true);
+    QCOMPARE(back(*m_pButton)->styleSheet(), background(QStringLiteral("252,164,152,255")));
+    QCOMPARE(face(*m_pButton), glyphIn(cHover));
+    QCOMPARE(seenAt(3, 3), QColor(strCOLOR_PINK));
+    m_pButton->setChecked(false);
+    QCOMPARE(back(*m_pButton)->styleSheet(), background(QStringLiteral("10,20,30,0")));
+    QCOMPARE(face(*m_pButton), glyphIn(cIcon, cHover));
+}
+
+void tst_IconButtonEx::disabledGlyphHasTheSkinsDisabledColour()
+{
+    m_pButton->setIconFont(QStringLiteral("x"), 12, 0);
+    m_pButton->setEnabled(false);
+    QVERIFY(!m_pButton->isEnabled());
+    QVERIFY(!inner(*m_pButton)->isEnabled());
+    QCOMPARE(face(*m_pButton), glyphIn(cDisabled));
+    m_pButton->setEnabled(true);
+    QVERIFY(m_pButton->isEnabled());
+    QVERIFY(inner(*m_pButton)->isEnabled());
+    QCOMPARE(face(*m_pButton), glyphIn(cIcon, cHover));
+}
+
+void tst_IconButtonEx::setDisabledDoesNotTouchTheAnswer()
+{
+    m_pButton->setIconFont(QStringLiteral("x"), 12, 0);
+    m_pButton->setDisabled(true);
+    QVERIFY(m_pButton->isEnabled());
+    QVERIFY(!inner(*m_pButton)->isEnabled());
+    QCOMPARE(face(*m_pButton), glyphIn(cDisabled));
+    moveIn();
+    QTRY_COMPARE(face(*m_pButton), glyphIn(cIcon, cHover));
+    m_pButton->setDisabled(false);
+    QVERIFY(inner(*m_pButton)->isEnabled());
+    QCOMPARE(face(*m_pButton), glyphIn(cIcon, cHover));
+    m_pButton->setEnabled(false);
+    m_pButton->setDisabled(false);
+    QVERIFY(!m_pButton->isEnabled());
+}
+
+void tst_IconButtonEx::textMakesTheButtonFlat()
+{
+    m_pButton->setFlat(false);
+    QVERIFY(!inner(*m_pButton)->isFlat());
+    m_pButton->setText(QStringLiteral("word"));
+    QCOMPARE(inner(*m_pButton)->text(), QStringLiteral("word"));
+    QVERIFY(inner(*m_pButton)->isFlat());
+}
+
+void tst_IconButtonEx::innerButtonTakesWhatItIsGiven()
+{
+    m_pButton->setAutoDefault(true);
+    QVERIFY(inner(*m_pButton)->autoDefault());
+    m_pButton->setAutoDefault(false);
+    QVERIFY(!inner(*m_pButton)->autoDefault());
+    m_pButton->setDefault(true);
+    QVERIFY(inner(*m_pButton)->isDefault());
+    m_pButton->setIconSize(QSize(9, 7));
+    QCOMPARE(inner(*m_pButton)->iconSize(), QSize(9, 7));
+}
+
+void tst_IconButtonEx::enterAndLeaveRestyle()
+{
+    m_pButton->setIconFont(QStringLiteral("x"), 12, 2);
+    m_skin->m_strThirdIconColor = QStringLiteral("#00ff00");
+    moveIn();
+    QTRY_COMPARE(face(*m_pButton), glyphIn(cIcon, QStringLiteral("#00ff00")));
+    m_skin->m_strThirdIconColor = QStringLiteral("#0000ff");
+    moveOut();
+    QTRY_COMPARE(face(*m_pButton), glyphIn(cIcon, QStringLiteral("#0000ff")));
+}
+
+void tst_IconButtonEx::enterDoesNotRestyleADisabledButton()
+{
+    m_pButton->setIconFont(QStringLiteral("x"), 12, 0);
+    m_pButton->setEnabled(false);
+    moveIn();
+    QTRY_VERIFY(m_pButton->underMouse());
+    QCOMPARE(face(*m_pButton), glyphIn(cDisabled));
+    moveOut();
+    QTRY_VERIFY(!m_pButton->underMouse());
+    QCOMPARE(face(*m_pButton), glyphIn(cDisabled));
+}
+
+void tst_IconButtonEx::hoverBackgroundShowsUnderTheMouse()
+{
+    m_pButton->setIconFont(cBlock, 10, 3);
+    const QColor around = m_window.grab().toImage().pixelColor(2, 2);
+    QCOMPARE(seenAt(3, cSide / 2), around);
+    moveIn();
+    QTRY_VERIFY(m_pButton->underMouse());
+    QCOMPARE(seenAt(3, cSide / 2), QColor(cFifth));
+    QCOMPARE(seenAt(cSide / 2, cSide / 2), QColor(Qt::white));
+    // The background's corners are round.
+    QVERIFY(seenAt(0, 0) != QColor(cFifth));
+    moveOut();
+    QTRY_VERIFY(!m_pButton->underMouse());
+    QCOMPARE(seenAt(3, cSide / 2), around);
+}
+
+void tst_IconButtonEx::clickIsSentOnRelease()
+{
+    const QSignalSpy clicked(m_pButton, &CIconButtonEx::clicked);
+    const QSignalSpy innerClicked(inner(*m_pButton), &QPushButton::clicked);
+    press(Qt::LeftButton, QPoint(13, 13));
+    QCOMPARE(clicked.count(), 0);
+    release(Qt::LeftButton, QPoint(13, 13));
+    QCOMPARE(clicked.count(), 1);
+    QCOMPARE(innerClicked.count(), 0);
+}
+
+void tst_IconButtonEx::everyPixelOfTheButtonClicks_data()
+{
+    QTest::addColumn<QPoint>("at");
+    QTest::newRow("first") << QPoint(0, 0);
+    QTest::newRow("last") << QPoint(cSide - 1, cSide - 1);
+}
+
+void tst_IconButtonEx::everyPixelOfTheButtonClicks()
+{
+    QFETCH(QPoint, at);
+    const QSignalSpy clicked(m_pButton, &CIconButtonEx::clicked);
+    click(Qt::LeftButton, at);
+    QCOMPARE(clicked.count(), 1);
+}
+
+void tst_IconButtonEx::pressIsSwallowed()
+{
+    const QSignalSpy pressed(inner(*m_pButton), &QPushButton::pressed);
+    press(Qt::LeftButton, QPoint(13, 13));
+    QVERIFY(!inner(*m_pButton)->isDown());
+    QCOMPARE(pressed.count(), 0);
+    release(Qt::LeftButton, QPoint(13, 13));
+}
+
+void tst_IconButtonEx::rightClickSendsNothing()
+{
+    const QSignalSpy clicked(m_pButton, &CIconButtonEx::clicked);
+    click(Qt::RightButton, QPoint(13, 13));
+    QCOMPARE(clicked.count(), 0);
+}
+
+void tst_IconButtonEx::middleClickIsSent()
+{
+    const QSignalSpy clicked(m_pButton, &CIconButtonEx::clicked);
+    click(Qt::MiddleButton, QPoint(13, 13));
+    QCOMPARE(clicked.count(), 1);
+}
+
+void tst_IconButtonEx::releaseOutsideSendsNothing_data()
+{
+    QTest::addColumn<QPoint>("at");
+    QTest::newRow("right of it") << QPoint(cSide, 13);
+    QTest::newRow("left of it") << QPoint(-1, 13);
+    QTest::newRow("above") << QPoint(13, -1);
+    QTest::newRow("below") << QPoint(13, cSide);
+}
+
+void tst_IconButtonEx::releaseOutsideSendsNothing()
+{
+    QFETCH(QPoint, at);
+    const QSignalSpy clicked(m_pButton, &CIconButtonEx::clicked);
+    press(Qt::LeftButton, QPoint(13, 13));
+    moveTo(m_pButton->pos() + at);
+    release(Qt::LeftButton, at);
+    QCOMPARE(clicked.count(), 0);
+    click(Qt::LeftButton, QPoint(13, 13));
+    QCOMPARE(clicked.count(), 1);
+}
+
+void tst_IconButtonEx::doubleClickIsTwoClicksAndLeavesTheButtonUp()
+{
+    const QSignalSpy clicked(m_pButton, &CIconButtonEx::clicked);
+    QTest::mouseDClick(m_window.windowHandle(), Qt::LeftButton, {}, m_pButton->geometry().center());
+    QCoreApplication::processEvents();
+    QCOMPARE(clicked.count(), 2);
+    QVERIFY(!inner(*m_pButton)->isDown());
+}
+
+void tst_IconButtonEx::disabledByEitherFlagSendsNothing_data()
+{
+    QTest::addColumn<bool>("own");
+    QTest::addColumn<bool>("innerButtons");
+    QTest::newRow("own flag") << true << false;
+    QTest::newRow("inner button's") << false << true;
+    QTest::newRow("both") << true << true;
+}
+
+void tst_IconButtonEx::disabledByEitherFlagSendsNothing()
+{
+    QFETCH(bool, own);
+    QFETCH(bool, innerButtons);
+    const QSignalSpy clicked(m_pButton, &CIconButtonEx::clicked);
+    m_pButton->setEnabled(!own);
+    inner(*m_pButton)->setEnabled(!innerButtons);
+    click(Qt::LeftButton, QPoint(13, 13));
+    QCOMPARE(clicked.count(), 0);
+    m_pButton->setEnabled(true);
+    click(Qt::LeftButton, QPoint(13, 13));
+    QCOMPARE(clicked.count(), 1);
+}
+
+void tst_IconButtonEx::releaseOnTheBackgroundClicksToo()
+{
+    const QSignalSpy clicked(m_pButton, &CIconButtonEx::clicked);
+    inner(*m_pButton)->setFixedSize(12, 12);
+    back(*m_pButton)->layout()->activate();
+    QVERIFY(!inner(*m_pButton)->geometry().contains(QPoint(1, cSide - 2)));
+    click(Qt::LeftButton, QPoint(1, cSide - 2));
+    QCOMPARE(clicked.count(), 1);
+}
+
+void tst_IconButtonEx::keyboardDoesNotReachTheInnerButton()
+{
+    const QSignalSpy clicked(m_pButton, &CIconButtonEx::clicked);
+    QApplication::setActiveWindow(&m_window);
+    QTest::keyClick(&m_window, Qt::Key_Tab);
+    QVERIFY(!inner(*m_pButton)->hasFocus());
+    QCOMPARE(inner(*m_pButton)->focusPolicy(), Qt::NoFocus);
+    QCOMPARE(clicked.count(), 0);
+}
+
+QTEST_MAIN(tst_IconButtonEx)
+
+#include "tst_IconButtonEx.moc"

@@ -1,0 +1,35 @@
+#include "widgets/QtWin.h"
+
+#include <QTest>
+#include <QWidget>
+
+class tst_QtWin : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void desktopHasNoGlassEffect();
+    void windowStaysAsItIs();
+};
+
+void tst_QtWin::desktopHasNoGlassEffect()
+{
+    QVERIFY(!QtWin::isCompositionEnabled());
+}
+
+void tst_QtWin::windowStaysAsItIs()
+{
+    QWidget window;
+    window.resize(30, 20);
+    const QImage before = window.grab().toImage();
+    QtWin::addAeroWindow(&window, 1, 2, 3, 4);
+    QtWin::removeAeroWindow(&window);
+    QtWin::addAeroWindow(nullptr, 1, 2, 3, 4);
+    QtWin::removeAeroWindow(nullptr);
+    QCOMPARE(window.grab().toImage(), before);
+    QCOMPARE(window.contentsMargins(), QMargins());
+}
+
+QTEST_MAIN(tst_QtWin)
+
+#include "tst_QtWin.moc"
