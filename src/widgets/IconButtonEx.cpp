@@ -9,10 +9,28 @@
 
 #include <QMouseEvent>
 
+#include <array>
+
 namespace {
 
 constexpr int cTransparent = 0;
 constexpr int cOpaque = 255;
+
+// The colour of three decimals, "184,184,184"; invalid for any other text.
+QColor colorOfDecimals(const QString &text)
+{
+    const QStringList listPart = text.split(QLatin1Char(','));
+    if (listPart.size() != 3)
+        return {};
+    std::array<int, 3> part{};
+    for (int i = 0; i < listPart.size(); ++i) {
+        bool bNumber = false;
+        part.at(static_cast<std::size_t>(i)) = listPart.at(i).trimmed().toInt(&bNumber);
+        if (!bNumber)
+            return {};
+    }
+    return {part[0], part[1], part[2]}; // invalid again for a part outside 0 to 255
+}
 
 } // namespace
 
@@ -53,6 +71,11 @@ void CIconButtonEx::setIconColor(const QString &color)
 {
     if (!color.isEmpty())
         m_strIconColor = color;
+    // A style sheet cannot read decimals and then leaves the glyph to the palette.
+    const QColor decimals = colorOfDecimals(m_strIconColor);
+    QPalette palette = ui->pushButton->palette();
+    palette.setColor(QPalette::ButtonText, decimals.isValid() ? decimals : QColor(Qt::black));
+    ui->pushButton->setPalette(palette);
     setBtnStyles(m_iStyleType);
 }
 

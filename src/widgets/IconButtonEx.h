@@ -26,9 +26,9 @@ public:
     /// size below 1 keeps the font's own.
     void setIconFont(QString glyph, int size, int type);
 
-    /// The glyph's colour at rest, as style sheets write one: the text goes into the sheet as it is, and one that
-    /// sheets cannot read, such as the three decimals "184,184,184", shows black. Empty keeps the colour and only
-    /// restyles.
+    /// The glyph's colour at rest, as style sheets write one or as three decimals, "184,184,184". The text goes into
+    /// the sheet as it is; decimals, which sheets cannot read, show by the palette, and any other text that sheets
+    /// cannot read shows black. Empty keeps the colour and only restyles.
     void setIconColor(const QString &color);
 
     /// Takes the looks of a style type: 0 and 1 turn to the skin's hover colour under the mouse and while checked, 2

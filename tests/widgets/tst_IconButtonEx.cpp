@@ -308,7 +308,10 @@ void tst_IconButtonEx::iconColourStandsInTheSheetAsItIs_data()
     QTest::newRow("#rrggbb") << QStringLiteral("#0000ff") << QColor(Qt::blue);
     QTest::newRow("a name") << QStringLiteral("red") << QColor(Qt::red);
     QTest::newRow("rgb()") << QStringLiteral("rgb(184,184,184)") << QColor(184, 184, 184);
-    QTest::newRow("three decimals are no colour of a sheet") << QStringLiteral("184,184,184") << QColor(Qt::black);
+    QTest::newRow("three decimals") << QStringLiteral("184,184,184") << QColor(184, 184, 184);
+    QTest::newRow("three decimals with blanks") << QStringLiteral("255, 96, 88") << QColor(255, 96, 88);
+    QTest::newRow("out of range") << QStringLiteral("256,0,0") << QColor(Qt::black);
+    QTest::newRow("no numbers") << QStringLiteral("a,b,c") << QColor(Qt::black);
 }
 
 void tst_IconButtonEx::iconColourStandsInTheSheetAsItIs()
