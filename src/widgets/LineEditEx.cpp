@@ -255,6 +255,7 @@ void CLineEditEx::addDeleteBtn()
     connect(m_pDeleteBtn, SIGNAL(clicked()), this, SIGNAL(signal_delete()));
     auto *pLayout = new QHBoxLayout(ui->lineEdit);
     pLayout->setContentsMargins(0, 0, 5, 0);
+    pLayout->setSpacing(0);
     pLayout->addStretch();
     pLayout->addWidget(m_pDeleteLine);
     pLayout->addWidget(m_pDeleteBtn);

@@ -32,6 +32,19 @@ bool isWithinAKitWidget(const QWidget *pWidget)
     return false;
 }
 
+/// Gives the dialog its size and place without showing it, so that no window manager has a say.
+void place(ErrorMessage &dialog)
+{
+    dialog.layout()->activate();
+    dialog.setGeometry(200, 150, 288, 158);
+}
+
+void drag(QWidget *pWidget, const QPoint &to)
+{
+    QMouseEvent move(QEvent::MouseMove, to, pWidget->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(pWidget, &move);
+}
+
 } // namespace
 
 class tst_ErrorMessage : public QObject
@@ -65,6 +78,8 @@ private slots:
     void languageChangeRefillsTheHotKeyPage();
     void dialogFollowsTheMouse();
     void otherButtonsDoNotMoveTheDialog();
+    void otherButtonsReleaseDoesNotEndTheMove();
+    void lastRowAndColumnDoNotMoveTheDialog_data();
     void lastRowAndColumnDoNotMoveTheDialog();
 };
 
@@ -410,53 +425,58 @@ void tst_ErrorMessage::languageChangeRefillsTheHotKeyPage()
 void tst_ErrorMessage::dialogFollowsTheMouse()
 {
     ErrorMessage dialog(QString(), QString(), nullptr);
-    dialog.showHotKeyError(QStringLiteral("Title"), 0);
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    dialog.move(200, 150);
-    QTRY_COMPARE(dialog.pos(), QPoint(200, 150));
-    QWidget *pTitle = part<QWidget>(dialog, "titlelabel");
+    place(dialog);
+    QWidget *pTitle = part<QWidget>(dialog, "titleWidget");
     QTest::mousePress(pTitle, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
-    QMouseEvent move(QEvent::MouseMove, QPointF(40, 30), pTitle->mapToGlobal(QPoint(40, 30)), Qt::NoButton,
-                     Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(pTitle, &move);
-    QTRY_COMPARE(dialog.pos(), QPoint(230, 170));
-    QTest::mouseRelease(pTitle, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
-    QMouseEvent later(QEvent::MouseMove, QPointF(90, 90), pTitle->mapToGlobal(QPoint(90, 90)), Qt::NoButton,
-                      Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(pTitle, &later);
-    QCoreApplication::processEvents();
+    drag(pTitle, QPoint(40, 30));
     QCOMPARE(dialog.pos(), QPoint(230, 170));
+    // No edge of the screen holds it back.
+    drag(pTitle, QPoint(-990, 10));
+    QCOMPARE(dialog.pos(), QPoint(-770, 170));
+    QTest::mouseRelease(pTitle, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+    drag(pTitle, QPoint(90, 90));
+    QCOMPARE(dialog.pos(), QPoint(-770, 170));
 }
 
 void tst_ErrorMessage::otherButtonsDoNotMoveTheDialog()
 {
     ErrorMessage dialog(QString(), QString(), nullptr);
-    dialog.showHotKeyError(QStringLiteral("Title"), 0);
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    const QPoint place = dialog.pos();
+    place(dialog);
     QTest::mousePress(&dialog, Qt::RightButton, Qt::NoModifier, QPoint(10, 10));
-    QMouseEvent move(QEvent::MouseMove, QPointF(40, 30), dialog.mapToGlobal(QPoint(40, 30)), Qt::NoButton,
-                     Qt::RightButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&dialog, &move);
-    QCoreApplication::processEvents();
-    QCOMPARE(dialog.pos(), place);
+    drag(&dialog, QPoint(40, 30));
+    QCOMPARE(dialog.pos(), QPoint(200, 150));
+}
+
+void tst_ErrorMessage::otherButtonsReleaseDoesNotEndTheMove()
+{
+    ErrorMessage dialog(QString(), QString(), nullptr);
+    place(dialog);
+    QTest::mousePress(&dialog, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+    QTest::mouseRelease(&dialog, Qt::RightButton, Qt::NoModifier, QPoint(10, 10));
+    drag(&dialog, QPoint(40, 30));
+    QCOMPARE(dialog.pos(), QPoint(230, 170));
+}
+
+void tst_ErrorMessage::lastRowAndColumnDoNotMoveTheDialog_data()
+{
+    QTest::addColumn<QPoint>("pressed");
+    QTest::addColumn<bool>("moves");
+    QTest::newRow("first pixel but the corner") << QPoint(1, 0) << true;
+    QTest::newRow("last column but one") << QPoint(286, 20) << true;
+    QTest::newRow("last column") << QPoint(287, 20) << false;
+    QTest::newRow("last row but one") << QPoint(20, 156) << true;
+    QTest::newRow("last row") << QPoint(20, 157) << false;
 }
 
 void tst_ErrorMessage::lastRowAndColumnDoNotMoveTheDialog()
 {
+    QFETCH(QPoint, pressed);
+    QFETCH(bool, moves);
     ErrorMessage dialog(QString(), QString(), nullptr);
-    dialog.showHotKeyError(QStringLiteral("Title"), 0);
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    const QPoint place = dialog.pos();
-    for (const QPoint &edge : {QPoint(287, 20), QPoint(20, 157)}) {
-        QTest::mousePress(&dialog, Qt::LeftButton, Qt::NoModifier, edge);
-        QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), dialog.mapToGlobal(QPoint(5, 5)), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&dialog, &move);
-        QTest::mouseRelease(&dialog, Qt::LeftButton, Qt::NoModifier, edge);
-        QCoreApplication::processEvents();
-        QCOMPARE(dialog.pos(), place);
-    }
+    place(dialog);
+    QTest::mousePress(&dialog, Qt::LeftButton, Qt::NoModifier, pressed);
+    drag(&dialog, pressed + QPoint(30, 20));
+    QCOMPARE(dialog.pos(), moves ? QPoint(230, 170) : QPoint(200, 150));
 }
 
 QTEST_MAIN(tst_ErrorMessage)
