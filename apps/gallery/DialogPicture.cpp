@@ -14,9 +14,6 @@ QPixmap take(ErrorMessage &dialog, const DialogMode &mode)
     if (mode.act != nullptr) {
         mode.act(dialog);
     }
-    if (QWidget *focused = dialog.focusWidget()) {
-        focused->clearFocus();
-    }
     const QPixmap picture = dialog.grab();
     dialog.close();
     return picture;

@@ -15,7 +15,7 @@ namespace DialogPicture {
 /// A fresh dialog with the client's two usual words. `parent` may be null.
 std::unique_ptr<ErrorMessage> create(QWidget *parent);
 
-/// What the dialog looks like in that mode, without a text cursor. A nested event loop runs meanwhile.
+/// What the dialog looks like in that mode. A nested event loop runs meanwhile.
 QPixmap of(const DialogMode &mode);
 
 } // namespace DialogPicture

@@ -10,7 +10,7 @@
 
 DialogsPage::DialogsPage(QWidget *parent) : Sheet(parent)
 {
-    section(QStringLiteral("ErrorMessage"), {QStringLiteral("mode"), QStringLiteral("look"), QStringLiteral("result")});
+    section(QStringLiteral("ErrorMessage"), {QStringLiteral("open"), QStringLiteral("look"), QStringLiteral("result")});
     for (const DialogMode &mode : DialogModes::all()) {
         addMode(mode);
     }

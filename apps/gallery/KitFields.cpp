@@ -130,6 +130,7 @@ QWidget *menuSpecimen(void (*fill)(CMenuEx &))
     layout->addWidget(Sheet::picture(example.grab()));
 
     auto *menu = new CMenuEx(specimen);
+    menu->setObjectName(QStringLiteral("openedMenu"));
     fill(*menu);
     auto *open = new PushButtonEx;
     open->setFixedSize(70, 30);

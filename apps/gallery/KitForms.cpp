@@ -71,6 +71,7 @@ QWidget *styledList(int iSize)
 {
     auto *list = new QListWidget;
     list->setFixedSize(130, 72);
+    list->setFrameShape(QFrame::NoFrame);
     auto *style = new CustomIconStyle;
     style->setParent(list);
     style->SetCustomSize(iSize);

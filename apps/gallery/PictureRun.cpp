@@ -5,12 +5,16 @@
 #include "GalleryPages.h"
 
 #include <QDir>
+#include <QPainter>
 #include <QPixmap>
 #include <QWidget>
 
 #include <memory>
 
 namespace {
+
+constexpr QSize groundMargin(10, 10);
+const QColor ground(0xc8, 0xcf, 0xd6);
 
 QString fileOf(const GalleryPage &page)
 {
@@ -20,6 +24,20 @@ QString fileOf(const GalleryPage &page)
 QString fileOf(const DialogMode &mode)
 {
     return QStringLiteral("dialog-") + QLatin1String(mode.id) + QStringLiteral(".png");
+}
+
+/// The dialog on a plain ground, which shows where its corners are transparent.
+QPixmap pictureOf(const DialogMode &mode)
+{
+    const QPixmap dialog = DialogPicture::of(mode);
+    const QSize size = dialog.size() / dialog.devicePixelRatio();
+    QImage picture((size + 2 * groundMargin) * dialog.devicePixelRatio(), QImage::Format_RGB32);
+    picture.setDevicePixelRatio(dialog.devicePixelRatio());
+    picture.fill(ground);
+    QPainter painter(&picture);
+    painter.drawPixmap(groundMargin.width(), groundMargin.height(), dialog);
+    painter.end();
+    return QPixmap::fromImage(picture);
 }
 
 QPixmap pictureOf(const GalleryPage &page)
@@ -58,7 +76,7 @@ bool PictureRun::write(const QString &strFolder, const GalleryPage *page, QStrin
         }
     }
     for (const DialogMode &mode : DialogModes::all()) {
-        if (!save(DialogPicture::of(mode), folder, fileOf(mode), strError)) {
+        if (!save(pictureOf(mode), folder, fileOf(mode), strError)) {
             return false;
         }
     }

@@ -16,7 +16,7 @@ constexpr int avatarCount = 20;
 constexpr int avatarsInARow = 10;
 constexpr int avatarSide = 56;
 // The part of the watermark that is shown, in pixels of the picture.
-constexpr QRect waterMarkPart(0, 0, 660, 260);
+constexpr QRect waterMarkPart(0, 0, 560, 260);
 
 struct NamedPictures
 {

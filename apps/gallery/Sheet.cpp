@@ -13,7 +13,7 @@ namespace {
 
 constexpr int pageMargin = 24;
 constexpr int sectionGap = 22;
-constexpr int nameWidth = 150;
+constexpr int nameWidth = 170;
 constexpr int headingPixels = 16;
 constexpr int captionPixels = 11;
 constexpr int darkMargin = 6;
@@ -108,11 +108,12 @@ QWidget *Sheet::picture(const QPixmap &pixmap)
 
 QWidget *Sheet::hovered(QWidget *widget)
 {
+    widget->resize(widget->sizeHint());
     const QList<QWidget *> parts = QList<QWidget *>{widget} + widget->findChildren<QWidget *>();
     for (QWidget *part : parts) {
         part->ensurePolished();
         part->setAttribute(Qt::WA_UnderMouse);
-        // A push button waits for the first movement within its edges.
+        // A button waits for the first movement over its face.
         QMouseEvent move(QEvent::MouseMove, part->rect().center(), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
         QCoreApplication::sendEvent(part, &move);
     }

@@ -16,6 +16,7 @@ namespace {
 
 // Exit code for bad arguments.
 constexpr int badArguments = 2;
+constexpr int fontPixels = 12;
 
 struct Options
 {
@@ -53,6 +54,8 @@ int run(const Options &options, const GalleryPage *page)
         window.show();
         return QApplication::exec();
     }
+    // A text cursor that does not blink is in every picture or in none.
+    QApplication::setCursorFlashTime(0);
     QString error;
     if (!PictureRun::write(options.pictureFolder, page, &error)) {
         QTextStream(stderr) << error << '\n';
@@ -78,6 +81,9 @@ int main(int argc, char **argv)
     // Resources are found relative to the working directory.
     QDir::setCurrent(QCoreApplication::applicationDirPath());
     WindowFont::substituteMissing();
+    QFont font(WindowFont::families().constFirst());
+    font.setPixelSize(fontPixels);
+    QApplication::setFont(font);
     HostCatalogue catalogue;
     catalogue.read(HostCatalogue::folder(), options.language);
     QCoreApplication::installTranslator(&catalogue);

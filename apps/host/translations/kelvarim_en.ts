@@ -57,6 +57,22 @@
         <source>beSureToCloseCalling</source>
         <translation>Do you want to end this call?</translation>
     </message>
+    <message>
+        <source>fullscreen</source>
+        <translation>Full screen</translation>
+    </message>
+    <message>
+        <source>restore</source>
+        <translation>Restore</translation>
+    </message>
+    <message>
+        <source>tarvoPhoto</source>
+        <translation>KelvarIM-</translation>
+    </message>
+    <message>
+        <source>savepic</source>
+        <translation>Save picture</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

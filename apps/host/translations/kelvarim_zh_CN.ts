@@ -57,6 +57,22 @@
         <source>beSureToCloseCalling</source>
         <translation>确定要结束当前通话吗？</translation>
     </message>
+    <message>
+        <source>fullscreen</source>
+        <translation>全屏</translation>
+    </message>
+    <message>
+        <source>restore</source>
+        <translation>还原</translation>
+    </message>
+    <message>
+        <source>tarvoPhoto</source>
+        <translation>KelvarIM图片</translation>
+    </message>
+    <message>
+        <source>savepic</source>
+        <translation>保存图片</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -57,6 +57,22 @@
         <source>beSureToCloseCalling</source>
         <translation>確定要結束目前的通話嗎？</translation>
     </message>
+    <message>
+        <source>fullscreen</source>
+        <translation>全螢幕</translation>
+    </message>
+    <message>
+        <source>restore</source>
+        <translation>還原</translation>
+    </message>
+    <message>
+        <source>tarvoPhoto</source>
+        <translation>KelvarIM圖片</translation>
+    </message>
+    <message>
+        <source>savepic</source>
+        <translation>儲存圖片</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
