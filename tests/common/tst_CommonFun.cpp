@@ -49,7 +49,34 @@ private slots:
         QVERIFY(CommonFun::combareString("a,b", ",", "b"));
         QCOMPARE(CommonFun::getSortText("a"), QString("L"));
     }
+
+    void thePicturesAreReachedByTheOneName()
+    {
+        const QSize size(30, 30);
+        QString strName;
+        QString strId;
+        QString strPath;
+        QVERIFY(CommonFun::getFormattedImage("", "1001@d", QPixmap(), size, "png").endsWith("/1001.png"));
+        QVERIFY(CommonFun::getScaledPixmap("none.png", size).isNull());
+        QVERIFY(CommonFun::getRoundedImage("none.png", 10).isNull());
+        QVERIFY(CommonFun::getIrregularPix("none.png", 10).isNull());
+        QCOMPARE(CommonFun::drawNinePatch(size, QPixmap()).size(), size);
+        QVERIFY(CommonFun::generateWaterMark(strName, strId, strPath));
+        QVERIFY(QFile::exists(strPath));
+        QCOMPARE(CommonFun::getIconFont().pixelSize(), 12);
+        QCOMPARE(CommonFun::getIconFontPixmap("x", Qt::red, size, 12).size(), size);
+        QCOMPARE(CommonFun::getStatusTypeName(0, 0, false), QString(QChar(0xE628)));
+        QCOMPARE(CommonFun::getFileIcon("a.txt").size(), QSize(32, 32));
+        QVERIFY(CommonFun::getFileIconPath("a.txt", 16).endsWith("/icon/txt_x16.png"));
+        QVERIFY(CommonFun::extractFileIcon("none.txt", true).isNull());
+        QVERIFY(!CommonFun::getFileImg("a.txt", true, false).isNull());
+        QCOMPARE(CommonFun::getImageType("none.xyz"), QString("xyz"));
+        QCOMPARE(CommonFun::GetPictureSuffix().size(), 5);
+        QVERIFY(CommonFun::getPicSaveSuffixes("bmp").startsWith("BMP"));
+        QCOMPARE(CommonFun::getTrueImagePath("none.png", "fallback.png"), QString("fallback.png"));
+        QVERIFY(!CommonFun::getIsImageFixError(strName));
+    }
 };
 
-QTEST_GUILESS_MAIN(tst_CommonFun)
+QTEST_MAIN(tst_CommonFun)
 #include "tst_CommonFun.moc"
