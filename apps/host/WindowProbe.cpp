@@ -143,8 +143,15 @@ QString WindowProbe::callWindowWords()
 
 bool WindowProbe::press(const QWidget *window, const char *strName)
 {
-    auto *button = qobject_cast<QAbstractButton *>(shownPart(window, strName));
-    if (button == nullptr || !button->isEnabled()) {
+    QWidget *part = shownPart(window, strName);
+    if (part == nullptr) {
+        return false;
+    }
+    // The button may stand inside a part of that name; the mouse meets the innermost widget.
+    const QPoint centre = part->rect().center();
+    QWidget *inner = part->childAt(centre);
+    QWidget *button = inner != nullptr ? inner : part;
+    if (!button->isEnabled()) {
         return false;
     }
     postClick(button, button->rect().center());

@@ -2,13 +2,59 @@
 
 #include "ui_ErrorMessage.h"
 
+#include "common/CommonFun.h"
 #include "common/DpiScale.h"
-#include "common/Palette.h"
+#include "common/IconGlyphs.h"
+#include "widgets/TextLimit.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <array>
 
 namespace {
 
-// From this label width on, a message is broken into lines.
-constexpr int cWrapWidth = 260;
+// From these label widths on, a message is broken into lines.
+constexpr int cMessageWrapWidth = 260;
+constexpr int cTipWrapWidth = 242;
+
+// Limits in columns: a reply of 100 Chinese characters, a tag of 7.
+constexpr int cReplyColumns = 200;
+constexpr int cTagColumns = 14;
+
+constexpr int cTagMode = 3;
+constexpr int cTagPage = 3;
+constexpr int cTitleHeight = 100;
+
+constexpr int cScreenCutType = 1;
+
+// What the hot key page says before and after the line break, by the type of the hot key.
+struct HotKeyWords
+{
+    const char *used;
+    const char *makeSure;
+};
+constexpr std::array<HotKeyWords, 3> cHotKeyWords{{
+    {QT_TRANSLATE_NOOP("QObject", "yourPickMsgHotKeyUsedAndRevise"), QT_TRANSLATE_NOOP("QObject", "makeSureFunction")},
+    {QT_TRANSLATE_NOOP("QObject", "yourScreenCutHotKeyUsedAndRevise"),
+     QT_TRANSLATE_NOOP("QObject", "makeSureFunction")},
+    {QT_TRANSLATE_NOOP("QObject", "yourHotKeyUsedAndRevise"), QT_TRANSLATE_NOOP("QObject", "makeSureCanBeUsed")},
+}};
+
+bool isHotKeyType(int iType)
+{
+    return iType >= 0 && iType < int(cHotKeyWords.size());
+}
+
+bool isPasteKey(const QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const auto *key = static_cast<const QKeyEvent *>(event);
+    return key->key() == Qt::Key_V && key->modifiers().testFlag(Qt::ControlModifier);
+}
 
 } // namespace
 
@@ -16,58 +62,197 @@ ErrorMessage::ErrorMessage(QString strAcceptText, QString strCloseText, QWidget 
     : QDialog(parent), ui(std::make_unique<Ui::ErrorMessage>())
 {
     ui->setupUi(this);
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    setAttribute(Qt::WA_QuitOnClose, false);
-    setMouseTracking(true);
-    setWindowIcon(QIcon(QStringLiteral("Resources/Images/SysTrayIcon/MiniToTaskBar.png")));
-    ui->btnClose->setSymbol(SymbolButton::Symbol::Close, QColor(strCOLOR_ICON_MID_GREY));
-    ui->btnClose->setHoverColor(QColor(strCOLOR_BRIGHT_RED));
+    setUpWindow();
     setStyles();
-    connect(ui->acceptBtn, &QPushButton::clicked, this, &ErrorMessage::slot_clickedAccptBtn);
-    connect(ui->closeBtn, &QPushButton::clicked, this, &ErrorMessage::slot_clickedCloseBtn);
-    connect(ui->btnClose, &QPushButton::clicked, this, &ErrorMessage::slot_clickedCloseBtn);
-    setBtnText(strAcceptText, strCloseText);
+    connectControls();
+    watchControls();
+    ui->acceptBtn->setAutoDefault(false);
+    ui->closeBtn->setAutoDefault(false);
+    ui->acceptBtn->setText(strAcceptText);
+    ui->acceptBtn->setBtnType(0);
+    ui->closeBtn->setText(strCloseText);
     ui->btnClose->setToolTip(QObject::tr("close"));
+    ui->AutoReplytextEdit->setLongestPaste(cReplyColumns + 1);
     ADAPT_DPI_WIDGET(this);
     ui->acceptBtn->setEnabled(false);
 }
 
 ErrorMessage::~ErrorMessage() = default;
 
+void ErrorMessage::setUpWindow()
+{
+    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setMouseTracking(true);
+    setWindowIcon(QIcon(QStringLiteral("Resources/Images/SysTrayIcon/MiniToTaskBar.png")));
+    ui->backWidget->setTitleHeight(cTitleHeight);
+    ui->backWidget->setPaintPic(false);
+    ui->btnClose->setAutoDefault(false);
+    ui->btnClose->setIconFont(IconGlyph::text(IconGlyph::Close), 8, 3);
+}
+
+void ErrorMessage::connectControls()
+{
+    connect(ui->acceptBtn, SIGNAL(clicked()), this, SLOT(slot_clickedAccptBtn()));
+    connect(ui->closeBtn, SIGNAL(clicked()), this, SLOT(slot_clickedCloseBtn()));
+    connect(ui->btnClose, SIGNAL(clicked()), this, SLOT(slot_clickedCloseBtn()));
+    connect(ui->AutoReplytextEdit, SIGNAL(textChanged()), this, SLOT(slot_textChanged()));
+    connect(ui->AddLineEdit, SIGNAL(textChanged(const QString &)), this, SLOT(slot_textChanged(QString)));
+    connect(ui->label_11, SIGNAL(linkActivated(const QString &)), this, SLOT(slot_linkActivated(QString)));
+}
+
+// Keys and presses reach the control inside each of the kit's widgets first, and mostly end there.
+void ErrorMessage::watchControls()
+{
+    for (QWidget *pControl : {static_cast<QWidget *>(ui->acceptBtn), static_cast<QWidget *>(ui->closeBtn),
+                              static_cast<QWidget *>(ui->AddLineEdit)}) {
+        pControl->installEventFilter(this);
+        for (QWidget *pInner : pControl->findChildren<QWidget *>())
+            pInner->installEventFilter(this);
+    }
+}
+
 void ErrorMessage::setStyles()
 {
-    setStyleSheet(ADAPT_DPI_STYLESHEET(QStringLiteral("QLabel{font-family:'微软雅黑';}"
-                                                      "QLabel{font-size:12px;color:#585858;}"
-                                                      "QLabel#titlelabel{font-size:14px;color:#000000;}"
-                                                      "QLabel#msgLabel{font-size:12px;color:#585858;}")));
+    // "text - decoration" is no property; the sheet is shared with the client's other dialogs as it stands.
+    setStyleSheet(ADAPT_DPI_STYLESHEET(
+        QStringLiteral("QLabel{font-family:'微软雅黑';}"
+                       "QLabel{font-size:12px;color:#585858;}"
+                       "QLabel#titlelabel{font-size:14px;color:#000000;}"
+                       "QLabel#msgLabel{font-size:12px;color:#585858;}"
+                       "QLabel#autoReplyLabel{font-size:12px;color:#585858;}"
+                       "QLabel#label_11{font-size:12px;color:#2AB0FF;}"
+                       "QLabel#label_11:hover{font-size:12px;color:#0066FF;text-decoration:underline;}"
+                       "a:link{font-size:12px;color:#2AB0FF;}"
+                       "a:hover{font-size:12px;color:#2AB0FF;text - decoration: underline;}")));
+}
+
+void ErrorMessage::showPage(QWidget *pPage, const QString &strTitle)
+{
+    ui->stackedWidget->setCurrentWidget(pPage);
+    ui->titlelabel->setText(strTitle);
+}
+
+void ErrorMessage::showCloseButtonOnly()
+{
+    ui->acceptBtn->hide();
+    ui->closeBtn->setText(QObject::tr("sure"));
+    setBtnFocus(false);
+}
+
+void ErrorMessage::showBothButtons()
+{
+    ui->acceptBtn->show();
+    setBtnFocus(true);
 }
 
 void ErrorMessage::getMsgShow(QString title, QString msg)
 {
-    ui->stackedWidget->setCurrentWidget(ui->MsgShow);
-    ui->titlelabel->setText(title);
+    showPage(ui->MsgShow, title);
     ui->msgLabel->setText(msg);
+    ui->msgLabel->show();
     ui->msgLabel->setOpenExternalLinks(true);
-    ui->acceptBtn->hide();
-    ui->closeBtn->setText(QObject::tr("sure"));
-    if (ui->msgLabel->width() >= cWrapWidth)
+    if (ui->msgLabel->width() >= cMessageWrapWidth)
         ui->msgLabel->setWordWrap(true);
-    setBtnFocus(false);
+    showCloseButtonOnly();
     exec();
 }
 
 bool ErrorMessage::chooseMsgShow(QString title, QString msg)
 {
-    ui->stackedWidget->setCurrentWidget(ui->MsgShow);
-    ui->titlelabel->setText(title);
+    showPage(ui->MsgShow, title);
     ui->msgLabel->setText(msg);
+    ui->msgLabel->show();
     if (msg.contains(QObject::tr("lookupHistoryMsg")))
         ui->acceptBtn->setText(QObject::tr("readrecord"));
-    ui->acceptBtn->show();
     ui->acceptBtn->setEnabled(true);
-    setBtnFocus(true);
+    showBothButtons();
     exec();
     return m_bAccepted;
+}
+
+QString ErrorMessage::lineEditShow(QString title, QString text)
+{
+    showPage(ui->TextEdit, title);
+    ui->AutoReplytextEdit->setText(text);
+    ui->acceptBtn->setEnabled(true);
+    showBothButtons();
+    exec();
+    return ui->AutoReplytextEdit->toPlainText().trimmed();
+}
+
+QString ErrorMessage::modifyShow(QString title)
+{
+    showPage(ui->LineEdit, title);
+    ui->lineEdit->show();
+    ui->acceptBtn->setEnabled(false);
+    connect(ui->lineEdit, SIGNAL(textChanged(const QString &)), this, SLOT(slot_textChanged(QString)));
+    // Enabled after all, on purpose: the callers let an empty name through to their own check.
+    ui->acceptBtn->setEnabled(true);
+    ui->lineEdit->clear();
+    ui->lineEdit->setFocus();
+    showBothButtons();
+    exec();
+    return ui->lineEdit->text();
+}
+
+void ErrorMessage::messagelogTip()
+{
+    showPage(ui->MsgShow, QObject::tr("tip"));
+    ui->AutoReplytextEdit->hide();
+    ui->msgLabel->setText(QObject::tr("inputkeyword"));
+    if (ui->msgLabel->width() >= cTipWrapWidth)
+        ui->msgLabel->setWordWrap(true);
+    showCloseButtonOnly();
+    exec();
+}
+
+QString ErrorMessage::addLabelToFriend(QString title)
+{
+    showPage(ui->AddLabel, title);
+    m_iShowMode = cTagMode;
+    ui->lblerror->hide();
+    ui->AddLineEdit->setMaxLength(cTagColumns);
+    ui->AddLineEdit->setPlaceholderText(QObject::tr("tagsevenwords"));
+    showBothButtons();
+    exec();
+    return ui->AddLineEdit->text();
+}
+
+void ErrorMessage::showHotKeyError(QString title, int type)
+{
+    ui->titlelabel->setText(title);
+    if (isHotKeyType(type))
+        ui->stackedWidget->setCurrentWidget(ui->page_MsgAndScreen);
+    m_iHotKeyType = type;
+    m_strHotKeyTitle = title;
+    fillHotKeyLabels();
+    if (isHotKeyType(type))
+        ui->label_10->setText(QObject::tr("period"));
+    showCloseButtonOnly();
+    show();
+}
+
+void ErrorMessage::fillHotKeyLabels()
+{
+    if (!isHotKeyType(m_iHotKeyType))
+        return;
+    const HotKeyWords &words = cHotKeyWords.at(size_t(m_iHotKeyType));
+    ui->label_8->setText(QObject::tr(words.used));
+    ui->label_9->setText(QObject::tr(words.makeSure));
+    ui->label_11->setText(QObject::tr("modifyhotkey"));
+}
+
+// Whatever the dialog was showing, a new language brings the hot key page, and the screen capture's page keeps its old
+// full stop. Both are deliberate: the client's settings window relies on finding the page after it changed the
+// language.
+void ErrorMessage::setUIText()
+{
+    fillHotKeyLabels();
+    if (isHotKeyType(m_iHotKeyType) && m_iHotKeyType != cScreenCutType)
+        ui->label_10->setText(QObject::tr("period"));
+    showPage(ui->page_MsgAndScreen, m_strHotKeyTitle);
 }
 
 void ErrorMessage::setBtnText(QString accept, QString close)
@@ -82,9 +267,20 @@ void ErrorMessage::setBtnFocus(bool bAccept)
     ui->closeBtn->setDefault(!bAccept);
 }
 
+void ErrorMessage::setSkinData(SysUIData skin)
+{
+    ui->backWidget->setSkinData(skin);
+}
+
 void ErrorMessage::slot_clickedAccptBtn()
 {
     m_bAccepted = true;
+    if (ui->stackedWidget->currentIndex() == cTagPage && ui->AddLineEdit->text().trimmed().isEmpty()) {
+        ui->lblerror->setText(QObject::tr("tagcannotspace"));
+        ui->lblerror->setStyleSheet(QStringLiteral("color:red;"));
+        ui->lblerror->show();
+        return;
+    }
     close();
 }
 
@@ -92,4 +288,100 @@ void ErrorMessage::slot_clickedCloseBtn()
 {
     m_bAccepted = false;
     close();
+}
+
+void ErrorMessage::slot_textChanged(QString text)
+{
+    const bool bBlank = text.trimmed().isEmpty();
+    ui->acceptBtn->setEnabled(!bBlank);
+    if (bBlank)
+        ui->lblerror->hide();
+}
+
+void ErrorMessage::slot_textChanged()
+{
+    QString strText = ui->AutoReplytextEdit->toPlainText();
+    if (CommonFun::getStrCounnt(strText) <= cReplyColumns)
+        return;
+    QTextCursor cursor = ui->AutoReplytextEdit->textCursor();
+    const int iPosition = TextLimit::cutBackwards(strText, cursor.position(), cReplyColumns);
+    ui->AutoReplytextEdit->setPlainText(strText);
+    cursor = ui->AutoReplytextEdit->textCursor();
+    cursor.setPosition(iPosition);
+    ui->AutoReplytextEdit->setTextCursor(cursor);
+}
+
+void ErrorMessage::slot_linkActivated(QString)
+{
+    m_bAccepted = false;
+    emit signal_OpenSysSetUi();
+    close();
+}
+
+// The field ends up with one character, the last that fitted. This is deliberate: the client's tags are typed one
+// character after the other.
+void ErrorMessage::slot_paste()
+{
+    if (m_iShowMode != cTagMode)
+        return;
+    const QString strText = QGuiApplication::clipboard()->text();
+    int iColumns = 0;
+    for (int i = 0; i < strText.size();) {
+        const QString strCharacter = strText.mid(i, TextLimit::unitsAt(strText, i));
+        iColumns += CommonFun::getStrCounnt(strCharacter);
+        if (iColumns > cTagColumns)
+            return;
+        ui->AddLineEdit->setText(strCharacter);
+        i += strCharacter.size();
+    }
+}
+
+bool ErrorMessage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress)
+        makeDefault(watched);
+    if (isPasteKey(event)) {
+        slot_paste();
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void ErrorMessage::makeDefault(const QObject *pPressed)
+{
+    const auto *pWidget = qobject_cast<const QWidget *>(pPressed);
+    if (pWidget == ui->acceptBtn || ui->acceptBtn->isAncestorOf(pWidget))
+        setBtnFocus(true);
+    else if (pWidget == ui->closeBtn || ui->closeBtn->isAncestorOf(pWidget))
+        setBtnFocus(false);
+}
+
+void ErrorMessage::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    ui->retranslateUi(this);
+    setUIText();
+}
+
+void ErrorMessage::mousePressEvent(QMouseEvent *event)
+{
+    QDialog::mousePressEvent(event);
+    if (event->button() == Qt::LeftButton && QRect(0, 0, width() - 1, height() - 1).contains(event->pos()))
+        m_dragOffset = event->globalPos() - frameGeometry().topLeft();
+}
+
+void ErrorMessage::mouseMoveEvent(QMouseEvent *event)
+{
+    QDialog::mouseMoveEvent(event);
+    if (!m_dragOffset.isNull() && event->globalPos() != m_dragOffset)
+        move(event->globalPos() - m_dragOffset);
+}
+
+void ErrorMessage::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        m_dragOffset = QPoint();
+    QDialog::mouseReleaseEvent(event);
 }

@@ -176,7 +176,7 @@ void tst_SingleCall::messageIsTitledAndHasOneButton()
     EngineFixture f(EngineFixture::NoCallProcess);
     bool acceptShown = true;
     f.boxes.whileOpen = [&acceptShown] {
-        acceptShown = QApplication::activeModalWidget()->findChild<QPushButton *>("acceptBtn")->isVisible();
+        acceptShown = QApplication::activeModalWidget()->findChild<QWidget *>("acceptBtn")->isVisible();
     };
     f.manager->callSingleUser("anna", false);
     QCOMPARE(f.boxes.titles, QStringList{"tip"});

@@ -1,5 +1,6 @@
 #include "flow/FlowClient.h"
 
+#include "fakes/ClickTarget.h"
 #include "plugin/PluginIds.h"
 #include "plugin/PluginInterface.h"
 
@@ -136,7 +137,7 @@ void FlowClient::expectMessage()
             return;
         timer->deleteLater();
         messageText = box->findChild<QLabel *>(QStringLiteral("msgLabel"))->text();
-        QTest::mouseClick(box->findChild<QAbstractButton *>(QStringLiteral("closeBtn")), Qt::LeftButton);
+        QTest::mouseClick(clickTarget(box->findChild<QWidget *>(QStringLiteral("closeBtn"))), Qt::LeftButton);
     });
     timer->start(10);
 }

@@ -1,5 +1,6 @@
 #include "CallWindowTest.h"
 
+#include "fakes/ClickTarget.h"
 #include "widgets/ErrorMessage.h"
 
 #include <QApplication>
@@ -74,7 +75,7 @@ void CallWindowTest::answerQuestion(const char *name, const std::function<void()
         QVERIFY(pQuestion != nullptr);
         QVERIFY(QTest::qWaitForWindowExposed(pQuestion));
         before();
-        QTest::mouseClick(pQuestion->findChild<QPushButton *>(QLatin1String(name)), Qt::LeftButton);
+        QTest::mouseClick(clickTarget(pQuestion->findChild<QWidget *>(QLatin1String(name))), Qt::LeftButton);
         QVERIFY(!pQuestion->isVisible());
     });
 }

@@ -1,6 +1,7 @@
 // What the user's clicks in the call window do, and the ways in which it closes.
 
 #include "CallWindowTest.h"
+#include "widgets/PushButtonEx.h"
 #include "widgets/SymbolButton.h"
 
 #include <QApplication>
@@ -166,7 +167,7 @@ void tst_VoipWidgetClicks::confirmedCloseButtonCloses()
         for (const char *name : {"titlelabel", "msgLabel"})
             words.append(pQuestion->findChild<QLabel *>(QLatin1String(name))->text());
         for (const char *name : {"acceptBtn", "closeBtn"})
-            words.append(pQuestion->findChild<QPushButton *>(QLatin1String(name))->text());
+            words.append(pQuestion->findChild<PushButtonEx *>(QLatin1String(name))->text());
     });
     click("btnClose");
     QCOMPARE(words, (QStringList{"tip", "beSureToCloseCalling", "sure", "cancel"}));
