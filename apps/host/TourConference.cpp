@@ -6,7 +6,7 @@
 
 #include "plugin/EMsgId.h"
 #include "store/DBConfInfo.h"
-#include "ui/ConferenceRoles.h"
+#include "ui/MemberRoles.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "TourWatch.h"
 #include "WindowProbe.h"
 
-#include "ui/ConferenceRoles.h"
+#include "ui/MemberRoles.h"
 
 #include <algorithm>
 

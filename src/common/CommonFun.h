@@ -19,6 +19,7 @@
 #include "common/PictureNames.h"
 #include "common/ScreenPlace.h"
 #include "common/Sha1.h"
+#include "common/ShortText.h"
 #include "common/SizeText.h"
 #include "common/StyleText.h"
 #include "common/SystemOpen.h"
@@ -35,6 +36,7 @@ class CommonFun : public SharedContext,
                   public UserIds,
                   public ConfigFile,
                   public AppInfo,
+                  public ShortText,
                   public TimeText,
                   public IconFont,
                   public SkinContext,

@@ -16,7 +16,6 @@
 #include <QPixmap>
 #include <QScreen>
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -36,8 +35,8 @@ constexpr int ODD_ROW_INDENT = 60;
 // that the shifted rows have no gap there.
 constexpr int COUNTED_GAP = 110;
 
-// As wide as a picture can be painted. A name that asks for more is no name, and must not take all memory.
-constexpr int MOST_WIDTH = 32767;
+// Far more than a screen shows. Measuring a text without end takes its time, and its width fits into no number.
+constexpr int MOST_CHARACTERS = 10000;
 
 // The two texts in turn, with the measures of their font.
 class Tiles
@@ -101,7 +100,7 @@ QPixmap drawWaterMark(const QSize &area, const QColor &color, const QString &str
     tiles.draw(painter, canvas.size());
     painter.rotate(ANGLE);
     painter.end();
-    const int iWidth = int(std::min<double>(3.0 * tiles.period() * COSINE, MOST_WIDTH));
+    const int iWidth = int(3 * tiles.period() * COSINE);
     return canvas.copy(int(canvas.height() * TANGENT * SINE) - 3, int(canvas.width() * SINE), iWidth, area.height());
 }
 
@@ -122,8 +121,8 @@ bool WaterMark::generateWaterMark(QString &strName, QString &strId, QString &str
         return false;
     }
     const QString strUser = strId.isEmpty() ? strName : strName + QLatin1Char('(') + strId + QLatin1Char(')');
-    const QPixmap picture =
-        drawWaterMark(pScreen->availableGeometry().size(), QColor(strColor), QObject::tr("tarvoShoot"), strUser);
+    const QPixmap picture = drawWaterMark(pScreen->availableGeometry().size(), QColor(strColor),
+                                          QObject::tr("tarvoShoot"), strUser.left(MOST_CHARACTERS));
     QDir().mkpath(PictureFolders::waterMarks());
     return picture.save(strPath, "png");
 }

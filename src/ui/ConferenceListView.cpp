@@ -8,16 +8,24 @@
 #include "model/FriendData.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/ConferenceListViewDelegate.h"
-#include "ui/ConferenceRoles.h"
+#include "ui/MemberRoles.h"
 
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QStandardItemModel>
 #include <QToolTip>
 
+#include <limits>
+
 namespace {
 
-const QSize cRowSize(500, 38);
+constexpr QSize cRowSize(500, 38);
+constexpr int cTipColumns = 40;
+
+void showTip(const QString &strTip)
+{
+    QToolTip::showText(QCursor::pos(), CommonFun::getShortString(strTip, cTipColumns));
+}
 
 } // namespace
 
@@ -30,7 +38,8 @@ CConferenceListView::CConferenceListView(QWidget *parent)
     verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
     setContextMenuPolicy(Qt::NoContextMenu);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setStyleSheet(strVerticalScrollBarNormalStyle);
+    // All rows are of one size; so placing a thousand asks for one.
+    setUniformItemSizes(true);
     installEventFilter(this);
     connect(&m_statusTimer, &QTimer::timeout, this, &CConferenceListView::slot_UpdateCallStatu);
     setItemDelegateForColumn(0, m_pDelegate);
@@ -112,8 +121,10 @@ void CConferenceListView::setAddConfFailedList(QList<QString> list)
 
 void CConferenceListView::updateConferenceUserStatus(QString strUserID, qlonglong iStatus)
 {
+    constexpr qlonglong cLeast = std::numeric_limits<int>::min();
+    constexpr qlonglong cGreatest = std::numeric_limits<int>::max();
     if (QStandardItem *pItem = m_userItemMap.value(strUserID))
-        pItem->setData(static_cast<int>(iStatus), ROLE_CALL_STATUS);
+        pItem->setData(int(qBound(cLeast, iStatus, cGreatest)), ROLE_CALL_STATUS);
 }
 
 void CConferenceListView::setMuteAll(bool bMute)
@@ -143,6 +154,24 @@ void CConferenceListView::slot_UpdateCallStatu()
     }
 }
 
+void CConferenceListView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                      const QVector<int> &roles)
+{
+    // The painting itself writes the buttons' places back: they must not call for the next painting.
+    if (!areRolesShown(roles))
+        return;
+    // QListView would place all rows anew for each change, and paint them all; only a new size calls for that.
+    if (roles.isEmpty() || roles.contains(Qt::SizeHintRole))
+        QListView::dataChanged(topLeft, bottomRight, roles);
+    else
+        QAbstractItemView::dataChanged(topLeft, bottomRight, roles);
+}
+
+void CConferenceListView::mousePressEvent(QMouseEvent *event)
+{
+    QListView::mousePressEvent(event);
+}
+
 void CConferenceListView::mouseMoveEvent(QMouseEvent *event)
 {
     const QPoint position = event->localPos().toPoint();
@@ -157,12 +186,11 @@ void CConferenceListView::hoverItem(QStandardItem *pItem, const QPoint &position
     if (pItem->data(ROLE_REMOVE_RECT).toRect().contains(position)) {
         pItem->setData(true, ROLE_REMOVE_HOVER);
         setCursor(Qt::PointingHandCursor);
-        QToolTip::showText(QCursor::pos(), QStringLiteral("移出会议"));
+        showTip(QStringLiteral("移出会议"));
     } else if (pItem->data(ROLE_MUTE_RECT).toRect().contains(position)) {
         pItem->setData(true, ROLE_MUTE_HOVER);
         setCursor(Qt::PointingHandCursor);
-        QToolTip::showText(QCursor::pos(),
-                           pItem->data(ROLE_MUTED).toBool() ? QStringLiteral("取消静音") : QStringLiteral("静音"));
+        showTip(pItem->data(ROLE_MUTED).toBool() ? QStringLiteral("取消静音") : QStringLiteral("静音"));
     } else {
         pItem->setData(false, ROLE_REMOVE_HOVER);
         pItem->setData(false, ROLE_MUTE_HOVER);
@@ -209,7 +237,9 @@ void CConferenceListView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::RightButton)
         return;
-    const QModelIndex index = indexAt(event->pos());
+    const QModelIndex index = indexAt(event->localPos().toPoint());
+    if (model() == nullptr)
+        return;
     if (!index.isValid()) {
         repaint();
         return;

@@ -2,7 +2,7 @@
 
 // The member list of a running conference: one row for each member with head picture, name, creator mark and status.
 //
-// All state of a row lives in its item data (ui/ConferenceRoles.h). At the creator's side the list also runs the
+// All state of a row lives in its item data (ui/MemberRoles.h). At the creator's side the list also runs the
 // watchdog that marks members who never answered. Part of the call window, which owns it and drives it. GUI thread
 // only.
 
@@ -53,7 +53,8 @@ public:
     /// The members of `list` (uids) could not be called. Unknown uids and an empty list do nothing.
     void setAddConfFailedList(QList<QString> list);
 
-    /// Sets a member's status code, cut to 32 bits. An unknown uid is ignored.
+    /// Sets a member's status code; a number beyond an int's range becomes the nearest int, which has no text of its
+    /// own either. An unknown uid is ignored.
     void updateConferenceUserStatus(QString strUserID, qlonglong iStatus);
 
     /// Marks every row as muted or not. No signal goes out.
@@ -71,6 +72,9 @@ signals:
     void signal_ReInviteConfUser(QString strUserID);
 
 protected:
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QVector<int> &roles = QVector<int>()) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
@@ -88,9 +92,9 @@ private:
     CConferenceListViewDelegate *m_pDelegate;
     QStandardItemModel *m_pModel;
     QList<QString> m_userList;
-    UidCounts m_userCounts; ///< of m_userList
     QMap<QString, QStandardItem *> m_userItemMap;
     QString m_strCreator;
     bool m_bIsCallByMe = true;
     QTimer m_statusTimer;
+    UidCounts m_userCounts; ///< of m_userList
 };

@@ -64,10 +64,10 @@ private slots:
         QTest::newRow("wider, as high") << QSize(100, 50) << QSize(31, 50) << QSize(31, 50) << QPoint(34, 0);
         QTest::newRow("taller") << QSize(40, 100) << QSize(50, 30) << QSize(40, 30) << QPoint(0, 35);
         QTest::newRow("taller, as wide") << QSize(50, 100) << QSize(50, 31) << QSize(50, 31) << QPoint(0, 34);
-        QTest::newRow("twice the size") << QSize(100, 100) << QSize(50, 50) << QSize(50, 50) << QPoint(1, 1);
-        QTest::newRow("larger, of a wider shape") << QSize(200, 100) << QSize(50, 50) << QSize(50, 50) << QPoint(51, 1);
+        QTest::newRow("twice the size") << QSize(100, 100) << QSize(50, 50) << QSize(50, 50) << QPoint(0, 0);
+        QTest::newRow("larger, of a wider shape") << QSize(200, 100) << QSize(50, 50) << QSize(50, 50) << QPoint(50, 0);
         QTest::newRow("larger, of a higher shape")
-            << QSize(100, 200) << QSize(50, 50) << QSize(50, 50) << QPoint(1, 51);
+            << QSize(100, 200) << QSize(50, 50) << QSize(50, 50) << QPoint(0, 50);
         // 100 times (3 / 7) is 42.86: a column of 42 is cut, which the ratio makes 2 wide at a height of 5.
         QTest::newRow("lengths are cut off") << QSize(90, 100) << QSize(3, 7) << QSize(2, 7) << QPoint(34, 7);
     }

@@ -104,11 +104,12 @@ private slots:
         QCOMPARE(frame.pixelColor(9, 9), PARTS[0][0]);
     }
 
-    void targetSmallerThanTheCornersHasNoMiddle()
+    void targetSmallerThanTheCornersShowsTheLastOfThem()
     {
         const QImage frame = drawn(QSize(12, 12), source(QSize(40, 40)));
         QCOMPARE(frame.size(), QSize(12, 12));
-        QCOMPARE(frame.pixelColor(0, 0), PARTS[0][0]);
+        QCOMPARE(frame.pixelColor(0, 0), PARTS[2][2]);
+        QCOMPARE(frame.pixelColor(11, 11), PARTS[2][2]);
     }
 
     void noPictureGivesATransparentFrame() { QCOMPARE(drawn(QSize(40, 30), QPixmap()), transparent(QSize(40, 30))); }

@@ -2,7 +2,7 @@
 
 #include "fakes/EngineFixture.h"
 #include "ui/ConferenceListView.h"
-#include "ui/ConferenceRoles.h"
+#include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QAbstractItemModel>

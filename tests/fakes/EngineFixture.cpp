@@ -4,7 +4,7 @@
 #include "fakes/QtMessages.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
-#include "ui/ConferenceRoles.h"
+#include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QCoreApplication>

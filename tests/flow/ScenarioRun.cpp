@@ -3,7 +3,7 @@
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
-#include "ui/ConferenceRoles.h"
+#include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QAbstractButton>

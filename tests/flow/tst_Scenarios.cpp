@@ -3,7 +3,7 @@
 
 #include "flow/ScenarioRun.h"
 #include "ui/ConferenceListView.h"
-#include "ui/ConferenceRoles.h"
+#include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QtTest>

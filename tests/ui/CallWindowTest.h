@@ -6,7 +6,7 @@
 #include "ContactFixture.h"
 #include "fakes/LogCapture.h"
 #include "ui/ConferenceListView.h"
-#include "ui/ConferenceRoles.h"
+#include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QLabel>

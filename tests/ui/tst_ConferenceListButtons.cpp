@@ -1,40 +1,17 @@
 // The remove and mute buttons of the conference member list: when they are painted, where, and what the mouse does
 // there.
 
-#include "ContactFixture.h"
-#include "ui/ConferenceListView.h"
-#include "ui/ConferenceRoles.h"
+#include "MemberListTest.h"
 
 #include <QApplication>
 #include <QSignalSpy>
-#include <QStandardItemModel>
-#include <QTest>
 #include <QToolTip>
 
-#include <memory>
-
-namespace {
-
-constexpr int cListWidth = 521;
-
-} // namespace
-
-class tst_ConferenceListButtons : public QObject
+class tst_ConferenceListButtons : public MemberListTest
 {
     Q_OBJECT
 
 private:
-    QModelIndex index(int iRow) const { return m_pList->model()->index(iRow, 0); }
-    QVariant data(int iRow, int iRole) const { return index(iRow).data(iRole); }
-    QRect place(int iRow, int iRole) const { return data(iRow, iRole).toRect(); }
-    QRect row(int iRow) const { return m_pList->visualRect(index(iRow)); }
-    /// The list as it is painted now. The rows move to their new places from the event loop.
-    QImage picture() const
-    {
-        QCoreApplication::processEvents();
-        return m_pList->viewport()->grab().toImage();
-    }
-
     /// Ann in the first row with this status, bob in the second one with the same; painted once.
     void show(int iStatus, bool bCallByMe = true)
     {
@@ -42,26 +19,7 @@ private:
         m_pList->addUserList({QStringLiteral("ann"), QStringLiteral("bob")});
         for (const char *uid : {"ann", "bob"})
             m_pList->updateConferenceUserStatus(QLatin1String(uid), iStatus);
-        m_pList->resize(cListWidth, 280);
-        m_pList->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_pList.get()));
-        picture();
-    }
-    void moveTo(const QPoint &position) { QTest::mouseMove(m_pList->viewport(), position); }
-    void click(const QPoint &position, Qt::MouseButton button = Qt::LeftButton)
-    {
-        QTest::mouseClick(m_pList->viewport(), button, Qt::NoModifier, position);
-    }
-    /// The number of pixels in the rectangle that are exactly of this colour.
-    static int count(const QImage &image, const QRect &place, const QColor &color)
-    {
-        const qreal ratio = image.devicePixelRatio();
-        int iCount = 0;
-        for (int y = qRound(place.top() * ratio); y < qRound((place.bottom() + 1) * ratio); ++y) {
-            for (int x = qRound(place.left() * ratio); x < qRound((place.right() + 1) * ratio); ++x)
-                iCount += image.pixelColor(x, y) == color ? 1 : 0;
-        }
-        return iCount;
+        showList();
     }
 
     /// Whether anything green stands in the rectangle, as the word of a connected member is.
@@ -78,13 +36,7 @@ private:
         return false;
     }
 
-    std::unique_ptr<ContactFixture> m_pContacts;
-    std::unique_ptr<CConferenceListView> m_pList;
-
 private slots:
-    void init();
-    void cleanup();
-
     void statusDecidesWhichButtonsThereAre_data();
     void statusDecidesWhichButtonsThereAre();
     void invitedMemberSeesNoButtons();
@@ -109,19 +61,6 @@ private slots:
     void removedRowsPlaceBelongsToTheNextOne();
 };
 
-void tst_ConferenceListButtons::init()
-{
-    m_pContacts = std::make_unique<ContactFixture>();
-    m_pList = std::make_unique<CConferenceListView>();
-}
-
-void tst_ConferenceListButtons::cleanup()
-{
-    m_pList.reset();
-    m_pContacts.reset();
-    QToolTip::hideText();
-}
-
 void tst_ConferenceListButtons::statusDecidesWhichButtonsThereAre_data()
 {
     QTest::addColumn<int>("status");
@@ -133,6 +72,7 @@ void tst_ConferenceListButtons::statusDecidesWhichButtonsThereAre_data()
     QTest::newRow("busy") << 3 << true << false;
     QTest::newRow("hung up") << 4 << true << false;
     QTest::newRow("rejected") << 5 << true << false;
+    QTest::newRow("six") << 6 << true << false;
     QTest::newRow("negative") << -1 << true << false;
 }
 
@@ -147,8 +87,8 @@ void tst_ConferenceListButtons::statusDecidesWhichButtonsThereAre()
     const QColor gray(158, 158, 158);
     const QImage now = picture();
     const QRect r = row(0);
-    QCOMPARE(count(now, QRect(r.right() - 37, r.top() + 10, 18, 18), gray) > 0, remove);
-    QCOMPARE(count(now, QRect(r.right() - 73, r.top() + 10, 18, 18), gray) > 0, mute);
+    QCOMPARE(countPixels(now, QRect(r.right() - 37, r.top() + 10, 18, 18), gray) > 0, remove);
+    QCOMPARE(countPixels(now, QRect(r.right() - 73, r.top() + 10, 18, 18), gray) > 0, mute);
 }
 
 void tst_ConferenceListButtons::invitedMemberSeesNoButtons()
@@ -209,8 +149,8 @@ void tst_ConferenceListButtons::cursorOnTheRemoveButtonLightsItUp()
     QCOMPARE(m_pList->cursor().shape(), Qt::PointingHandCursor);
     QCOMPARE(QToolTip::text(), QStringLiteral("移出会议"));
     const QColor red(255, 97, 88);
-    QVERIFY(count(picture(), button, red) > 0);
-    QCOMPARE(count(picture(), place(1, ROLE_REMOVE_RECT), red), 0);
+    QVERIFY(countPixels(picture(), button, red) > 0);
+    QCOMPARE(countPixels(picture(), place(1, ROLE_REMOVE_RECT), red), 0);
 }
 
 void tst_ConferenceListButtons::cursorOnTheMuteButtonLightsItUp()
@@ -221,7 +161,7 @@ void tst_ConferenceListButtons::cursorOnTheMuteButtonLightsItUp()
     QTRY_COMPARE(data(1, ROLE_MUTE_HOVER), QVariant(true));
     QCOMPARE(data(1, ROLE_REMOVE_HOVER), QVariant(false));
     QCOMPARE(m_pList->cursor().shape(), Qt::PointingHandCursor);
-    QVERIFY(count(picture(), button, QColor(0, 185, 31)) > 0);
+    QVERIFY(countPixels(picture(), button, QColor(0, 185, 31)) > 0);
 }
 
 void tst_ConferenceListButtons::muteTipTellsWhatAClickDoes()

@@ -3,7 +3,7 @@
 #include "ContactFixture.h"
 #include "ui/CallWindowStyle.h"
 #include "ui/ConferenceListView.h"
-#include "ui/ConferenceRoles.h"
+#include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QLabel>

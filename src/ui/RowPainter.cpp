@@ -1,0 +1,114 @@
+#include "ui/RowPainter.h"
+
+#include "common/CommonFun.h"
+#include "common/DpiScale.h"
+#include "common/PictureFile.h"
+
+#include <QAbstractItemModel>
+#include <QBitmap>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QTextOption>
+
+namespace {
+
+constexpr int cTextPixels = 12;
+
+// No line of text is measured beyond so many characters: more of them fit only where they have no width.
+constexpr int cMostCharacters = 2048;
+
+QBitmap roundMask(int iSide)
+{
+    QBitmap mask(iSide, iSide);
+    mask.fill(Qt::white);
+    QPainter painter(&mask);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QBrush(Qt::black, Qt::SolidPattern));
+    painter.drawEllipse(mask.rect());
+    return mask;
+}
+
+QString withBlanks(QString strText)
+{
+    for (QChar &c : strText) {
+        const QChar::Category category = c.category();
+        if (category == QChar::Other_Control || category == QChar::Separator_Line ||
+            category == QChar::Separator_Paragraph)
+            c = QLatin1Char(' ');
+    }
+    return strText;
+}
+
+} // namespace
+
+KeptPenAndFont::KeptPenAndFont(QPainter *pPainter)
+    : m_pPainter(pPainter), m_font(pPainter->font()), m_pen(pPainter->pen())
+{
+}
+
+KeptPenAndFont::~KeptPenAndFont()
+{
+    m_pPainter->setFont(m_font);
+    m_pPainter->setPen(m_pen);
+}
+
+QPixmap RowPainter::maskedHead(const QString &strPath, int iSide)
+{
+    const QPixmap picture = readPictureFile(strPath);
+    if (picture.isNull())
+        return {};
+    // The mask has hard edges: cut at twice the size, scaling down makes them smooth.
+    const int iTwice = 2 * iSide;
+    QPixmap head = picture.scaled(iTwice, iTwice, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    head.setMask(roundMask(iTwice));
+    return head.scaled(iSide, iSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+QFont RowPainter::textFont()
+{
+    QFont font(QStringLiteral("微软雅黑"));
+    font.setPixelSize(ADAPT_DPI_INT(cTextPixels));
+    return font;
+}
+
+QString RowPainter::elidedLine(const QFontMetrics &metrics, const QString &strText, int iWidth)
+{
+    if (iWidth < 1)
+        return {};
+    const int iMost = qMin(strText.size(), cMostCharacters);
+    // What stands well past the width never shows, so it is not measured either.
+    const int iEnough = iWidth + 4 * metrics.height();
+    for (int iLength = iWidth / 2 + 32;; iLength *= 2) {
+        const QString strLine = withBlanks(strText.left(qMin(iLength, iMost)));
+        if (iLength >= iMost || metrics.horizontalAdvance(strLine) > iEnough)
+            return metrics.elidedText(strLine, Qt::ElideRight, iWidth);
+    }
+}
+
+void RowPainter::drawLine(QPainter &painter, const QRect &place, const QString &strText)
+{
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    painter.drawText(place, strText, option);
+}
+
+void RowPainter::drawGlyph(QPainter &painter, const QRect &place, ushort glyph, int iPixels, const QColor &color)
+{
+    QFont font = CommonFun::getIconFont();
+    font.setPixelSize(iPixels);
+    painter.setFont(font);
+    if (color.isValid())
+        painter.setPen(color);
+    drawLine(painter, place, QString(QChar(glyph)));
+}
+
+void RowPainter::drawBottomLine(QPainter &painter, int iLeft, int iRight, int iBottom)
+{
+    painter.fillRect(QRect(QPoint(iLeft, iBottom), QPoint(iRight, iBottom)), cLineColor_);
+}
+
+void RowPainter::keepRect(const QModelIndex &index, int iRole, const QRect &place)
+{
+    const_cast<QAbstractItemModel *>(index.model())->setData(index, place, iRole);
+}

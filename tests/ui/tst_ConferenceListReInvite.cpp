@@ -1,0 +1,120 @@
+// A double click in the conference member list calls members again who were not reached.
+
+#include "MemberListTest.h"
+#include "fakes/LogCapture.h"
+
+#include <QSignalSpy>
+#include <QStringListModel>
+
+class tst_ConferenceListReInvite : public MemberListTest
+{
+    Q_OBJECT
+
+private:
+    LogCapture m_log;
+
+private slots:
+    void doubleClickReInvitesMembersWhoWereNotReached_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<bool>("invites");
+        QTest::newRow("negative") << -1 << false;
+        QTest::newRow("calling") << 0 << false;
+        QTest::newRow("connected") << 1 << false;
+        QTest::newRow("failed") << 2 << true;
+        QTest::newRow("busy") << 3 << true;
+        QTest::newRow("hung up") << 4 << true;
+        QTest::newRow("rejected") << 5 << true;
+        QTest::newRow("any higher") << 99 << true;
+    }
+
+    void doubleClickReInvitesMembersWhoWereNotReached()
+    {
+        QFETCH(int, code);
+        QFETCH(bool, invites);
+        const QSignalSpy invited(m_pList.get(), &CConferenceListView::signal_ReInviteConfUser);
+        m_pList->addUserList({uid("ann"), uid("bob")});
+        m_pList->updateConferenceUserStatus(uid("bob"), code);
+        setData(1, ROLE_INVITE_TIME, QTime());
+        showList();
+        doubleClick(1);
+        QCOMPARE(invited.count(), invites ? 1 : 0);
+        if (invites)
+            QCOMPARE(invited.first().first().toString(), uid("bob"));
+        QCOMPARE(data(1, ROLE_INVITE_TIME).toTime().isValid(), invites);
+        QCOMPARE(status(1), code);
+    }
+
+    void doubleClickWorksForAnyUser()
+    {
+        const QSignalSpy invited(m_pList.get(), &CConferenceListView::signal_ReInviteConfUser);
+        m_pList->setIsCallByMe(false);
+        m_pList->addUser(uid("ann"));
+        m_pList->updateConferenceUserStatus(uid("ann"), 2);
+        showList();
+        doubleClick(0);
+        QCOMPARE(invited.count(), 1);
+    }
+
+    void rowKeepsItsFailedLookAndCanBeCalledTwice()
+    {
+        const QSignalSpy invited(m_pList.get(), &CConferenceListView::signal_ReInviteConfUser);
+        showMembers(1, ConferenceRejected);
+        doubleClick(0);
+        QCOMPARE(status(0), int(ConferenceRejected));
+        doubleClick(0);
+        QCOMPARE(invited.count(), 2);
+    }
+
+    void middleDoubleClickCountsToo()
+    {
+        const QSignalSpy invited(m_pList.get(), &CConferenceListView::signal_ReInviteConfUser);
+        showMembers(1, ConferenceFailed);
+        doubleClick(0, Qt::MiddleButton);
+        QCOMPARE(invited.count(), 1);
+    }
+
+    void rowsOfAnotherModelAskForNothing()
+    {
+        const QSignalSpy invited(m_pList.get(), &CConferenceListView::signal_ReInviteConfUser);
+        QStringListModel foreign({QStringLiteral("a")});
+        m_pList->setModel(&foreign);
+        showList();
+        m_log.take();
+        doubleClick(0);
+        const QStringList records = m_log.take();
+        // Once for the click's release before the double click, once for the double click, once for its own release.
+        QVERIFY(!records.isEmpty());
+        for (const QString &strRecord : records) {
+            QVERIFY2(strRecord.startsWith(QStringLiteral("[DEBUG][ConferenceListView.cpp:")), qPrintable(strRecord));
+            QVERIFY2(strRecord.endsWith(QStringLiteral("]: selected is null")), qPrintable(strRecord));
+        }
+        m_pList->setModel(nullptr);
+        QTest::mouseDClick(m_pList->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 10));
+        QCOMPARE(invited.count(), 0);
+    }
+
+    void rightDoubleClickDoesNothing()
+    {
+        const QSignalSpy invited(m_pList.get(), &CConferenceListView::signal_ReInviteConfUser);
+        m_pList->addUser(uid("ann"));
+        m_pList->updateConferenceUserStatus(uid("ann"), 2);
+        showList();
+        doubleClick(0, Qt::RightButton);
+        QCOMPARE(invited.count(), 0);
+    }
+
+    void doubleClickBesideTheRowsDoesNothing()
+    {
+        const QSignalSpy invited(m_pList.get(), &CConferenceListView::signal_ReInviteConfUser);
+        m_pList->addUser(uid("ann"));
+        m_pList->updateConferenceUserStatus(uid("ann"), 2);
+        showList();
+        QTest::mouseDClick(m_pList->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 250));
+        QCOMPARE(invited.count(), 0);
+    }
+};
+
+QTEST_MAIN(tst_ConferenceListReInvite)
+
+#include "tst_ConferenceListReInvite.moc"

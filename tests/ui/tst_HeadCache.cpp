@@ -1,0 +1,136 @@
+#include "ui/HeadCache.h"
+
+#include <QFile>
+#include <QTest>
+
+namespace {
+
+int s_iDrawn = 0;
+
+QPixmap drawTest(const QString &strPath, int iSide)
+{
+    ++s_iDrawn;
+    const QPixmap picture(strPath);
+    return picture.isNull() ? picture : picture.scaled(iSide, iSide);
+}
+
+void writePicture(const QString &strPath, const QColor &color, int iSide = 8)
+{
+    QPixmap picture(iSide, iSide);
+    picture.fill(color);
+    QVERIFY(picture.save(strPath));
+}
+
+} // namespace
+
+class tst_HeadCache : public QObject
+{
+    Q_OBJECT
+
+private:
+    const QString m_strPath = QStringLiteral("head.bmp");
+
+    static QColor middle(const QPixmap &picture)
+    {
+        return picture.toImage().pixelColor(picture.width() / 2, picture.height() / 2);
+    }
+
+private slots:
+    void init() { s_iDrawn = 0; }
+    void cleanup() { QFile::remove(m_strPath); }
+
+    void pictureIsDrawnOnce()
+    {
+        writePicture(m_strPath, Qt::red);
+        HeadCache cache(&drawTest);
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(middle(cache.picture(m_strPath, 22, 1.0)), QColor(Qt::red));
+        QCOMPARE(s_iDrawn, 1);
+    }
+
+    void eachSizeIsDrawnByItself()
+    {
+        writePicture(m_strPath, Qt::red);
+        HeadCache cache(&drawTest);
+        QCOMPARE(cache.picture(m_strPath, 22, 1.0).size(), QSize(22, 22));
+        QCOMPARE(cache.picture(m_strPath, 40, 1.0).size(), QSize(40, 40));
+        const QPixmap dense = cache.picture(m_strPath, 22, 2.0);
+        QCOMPARE(dense.size(), QSize(44, 44));
+        QCOMPARE(dense.devicePixelRatioF(), 2.0);
+        QCOMPARE(cache.picture(m_strPath, 22, 1.0).size(), QSize(22, 22));
+        QCOMPARE(s_iDrawn, 3);
+    }
+
+    void fileOfAnotherSizeShowsAtOnce()
+    {
+        writePicture(m_strPath, Qt::red);
+        HeadCache cache(&drawTest);
+        cache.picture(m_strPath, 22, 1.0);
+        writePicture(m_strPath, Qt::blue, 300);
+        QCOMPARE(middle(cache.picture(m_strPath, 22, 1.0)), QColor(Qt::blue));
+    }
+
+    void fileOfTheSameSizeShowsByItsTime()
+    {
+        writePicture(m_strPath, Qt::red);
+        const qint64 iSize = QFile(m_strPath).size();
+        HeadCache cache(&drawTest);
+        cache.picture(m_strPath, 22, 1.0);
+        writePicture(m_strPath, Qt::blue);
+        QCOMPARE(QFile(m_strPath).size(), iSize);
+        QFile file(m_strPath);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(QDateTime::currentDateTimeUtc().addSecs(5), QFileDevice::FileModificationTime));
+        file.close();
+        QCOMPARE(middle(cache.picture(m_strPath, 22, 1.0)), QColor(Qt::blue));
+    }
+
+    void fileThatComesAndGoesIsFollowed()
+    {
+        HeadCache cache(&drawTest);
+        QVERIFY(cache.picture(m_strPath, 22, 1.0).isNull());
+        writePicture(m_strPath, Qt::red);
+        QVERIFY(!cache.picture(m_strPath, 22, 1.0).isNull());
+        QVERIFY(QFile::remove(m_strPath));
+        QVERIFY(cache.picture(m_strPath, 22, 1.0).isNull());
+        QCOMPARE(s_iDrawn, 1);
+    }
+
+    void fileThatHoldsNoPictureIsReadOnce()
+    {
+        QFile file(m_strPath);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("no picture");
+        file.close();
+        HeadCache cache(&drawTest);
+        QVERIFY(cache.picture(m_strPath, 22, 1.0).isNull());
+        QVERIFY(cache.picture(m_strPath, 22, 1.0).isNull());
+        QCOMPARE(s_iDrawn, 1);
+    }
+
+    void emptyPathAndFolderHaveNoPicture()
+    {
+        HeadCache cache(&drawTest);
+        QVERIFY(cache.picture(QString(), 22, 1.0).isNull());
+        QVERIFY(cache.picture(QStringLiteral("."), 22, 1.0).isNull());
+        QCOMPARE(s_iDrawn, 0);
+    }
+
+    void cacheOfManyPicturesStartsAnew()
+    {
+        writePicture(m_strPath, Qt::red);
+        HeadCache cache(&drawTest);
+        // Pictures of four million bytes: the fifth has no room beside the others.
+        for (int iSide = 1000; iSide < 1005; ++iSide)
+            cache.picture(m_strPath, iSide, 1.0);
+        QCOMPARE(s_iDrawn, 5);
+        cache.picture(m_strPath, 1004, 1.0);
+        QCOMPARE(s_iDrawn, 5);
+        cache.picture(m_strPath, 1000, 1.0);
+        QCOMPARE(s_iDrawn, 6);
+    }
+};
+
+QTEST_MAIN(tst_HeadCache)
+
+#include "tst_HeadCache.moc"
