@@ -112,6 +112,23 @@ private slots:
         QCOMPARE(frame.pixelColor(11, 11), PARTS[2][2]);
     }
 
+    void stretchWithoutRoomIsNotPainted()
+    {
+        QImage image = source(QSize(40, 40)).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        for (int y = 0; y < 40; ++y) {
+            for (int x = 0; x < 40; ++x) {
+                if (x >= 19 || y >= 19) {
+                    image.setPixel(x, y, 0);
+                }
+            }
+        }
+        const QImage frame = drawn(QSize(20, 20), QPixmap::fromImage(image));
+        QCOMPARE(frame.pixelColor(9, 9), PARTS[0][0]);
+        QCOMPARE(frame.pixel(10, 5), QRgb(0));
+        QCOMPARE(frame.pixel(5, 10), QRgb(0));
+        QCOMPARE(frame.pixel(10, 10), QRgb(0));
+    }
+
     void noPictureGivesATransparentFrame() { QCOMPARE(drawn(QSize(40, 30), QPixmap()), transparent(QSize(40, 30))); }
 
     void emptySizeGivesANullPixmap_data()
