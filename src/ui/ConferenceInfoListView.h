@@ -76,6 +76,7 @@ private:
     void clickRow(const QModelIndex &index, const QPoint &position);
     void showMenu(const QStandardItem *pItem);
 
+protected:
     CConferenceInfoListViewDelegate *m_pDelegate;
     QStandardItemModel *m_pModel;
     QList<ConfInfoData> m_confInfoList; ///< new records at the end, deleted ones still there: not the rows' order
