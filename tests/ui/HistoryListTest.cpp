@@ -3,7 +3,29 @@
 #include "plugin/EMsgId.h"
 #include "plugin/VoipManageMessageProcess.h"
 
+#include <QMouseEvent>
 #include <QStandardItemModel>
+
+namespace {
+
+/// Whether the widget has been told that the cursor is at a place.
+class ArrivedMove : public QObject
+{
+public:
+    ArrivedMove(QWidget *pWidget, const QPoint &position) : m_position(position) { pWidget->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::MouseMove && static_cast<QMouseEvent *>(event)->pos() == m_position)
+            bArrived = true;
+        return false;
+    }
+    bool bArrived = false;
+
+private:
+    QPoint m_position;
+};
+
+} // namespace
 
 void HistoryListTest::initTestCase()
 {
@@ -73,8 +95,10 @@ QImage HistoryListTest::picture() const
 
 void HistoryListTest::moveTo(const QPoint &position)
 {
+    // The X server tells of the move when it gets there.
+    ArrivedMove move(m_pList->viewport(), position);
     QTest::mouseMove(m_pList->viewport(), position);
-    QCoreApplication::processEvents();
+    QVERIFY(QTest::qWaitFor([&move] { return move.bArrived; }));
 }
 
 void HistoryListTest::click(const QPoint &position, Qt::MouseButton button)
@@ -108,7 +132,9 @@ void HistoryListTest::choose(int iEntry)
     CMenuEx *pMenu = m_pList->m_pMenu;
     QVERIFY(QTest::qWaitForWindowExposed(pMenu));
     const QPoint entry = pMenu->actionGeometry(pMenu->actions().at(iEntry)).center();
+    ArrivedMove move(pMenu, entry);
     QTest::mouseMove(pMenu, entry);
+    QVERIFY(QTest::qWaitFor([&move] { return move.bArrived; }));
     QTest::mouseClick(pMenu, Qt::LeftButton, Qt::NoModifier, entry);
 }
 

@@ -25,6 +25,7 @@ public:
     using CConferenceInfoListView::m_pRecallAction;
     using CConferenceInfoListView::m_signPos;
     using CConferenceInfoListView::m_signTimer;
+    using CConferenceInfoListView::mouseReleaseEvent;
 };
 
 class HistoryListTest : public QObject

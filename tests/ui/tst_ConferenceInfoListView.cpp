@@ -247,7 +247,7 @@ void tst_ConferenceInfoListView::hundredThousandRecords()
     show({});
     QCOMPARE(m_pList->model()->rowCount(), 100000);
     m_pList->scrollToBottom();
-    QCOMPARE(m_pList->indexAt(QPoint(5, m_pList->viewport()->height() - 1)).row(), 99999);
+    QVERIFY(m_pList->viewport()->rect().contains(row(99999)));
     m_pList->addConfInfoData(record(QStringLiteral("new")));
     m_pList->removeConfInfoData(QStringLiteral("100001"));
     QCOMPARE(data(0, ROLE_CONF_ID).toString(), QStringLiteral("new"));

@@ -206,9 +206,10 @@ void tst_ConferenceInfoPainting::painterKeepsItsPenAndFont()
     show({record(QStringLiteral("a"))});
     QPixmap canvas(517, 62);
     QPainter painter(&canvas);
-    QFont font(QStringLiteral("serif"));
-    font.setPixelSize(31);
-    painter.setFont(font);
+    QFont serif(QStringLiteral("serif"));
+    serif.setPixelSize(31);
+    painter.setFont(serif);
+    const QFont font = painter.font();
     painter.setPen(QPen(Qt::red, 3));
     QStyleOptionViewItem option;
     option.rect = canvas.rect();
