@@ -55,9 +55,9 @@ QRect paintName(QPainter &painter, const QRect &row, const QRect &status, const 
     const int iLeft = iHeadEnd + dpi(cGap);
     const int iRoom = status.left() - iHeadEnd - dpi(cGap) - dpi(cButtonSide) - 2 * dpi(cButtonSide);
     const QFontMetrics metrics = painter.fontMetrics();
-    const QString strLine = RowPainter::elidedLine(metrics, strName, iRoom);
-    const int iWidth = metrics.horizontalAdvance(strLine);
-    RowPainter::drawLine(painter, QRect(iLeft, row.top() + dpi(cTop), iWidth, row.height()), strLine);
+    const int iWidth = RowPainter::lineWidth(metrics, strName, iRoom);
+    RowPainter::drawLine(painter, QRect(iLeft, row.top() + dpi(cTop), iWidth, row.height()),
+                         RowPainter::elidedLine(metrics, strName, iRoom));
     return {iLeft + iWidth + dpi(cButtonSide), row.top() + dpi(cTop), dpi(cButtonSide), dpi(cButtonSide)};
 }
 

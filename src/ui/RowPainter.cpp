@@ -40,6 +40,18 @@ QString withBlanks(QString strText)
     return strText;
 }
 
+/// As much of the text as decides how it looks in `iWidth` pixels: what stands well past them never shows.
+QString beginning(const QFontMetrics &metrics, const QString &strText, int iWidth)
+{
+    const int iMost = qMin(strText.size(), cMostCharacters);
+    const int iEnough = iWidth + 4 * metrics.height();
+    for (int iLength = iWidth / 2 + 32;; iLength *= 2) {
+        const QString strLine = withBlanks(strText.left(qMin(iLength, iMost)));
+        if (iLength >= iMost || metrics.horizontalAdvance(strLine) > iEnough)
+            return strLine;
+    }
+}
+
 } // namespace
 
 KeptPenAndFont::KeptPenAndFont(QPainter *pPainter)
@@ -74,16 +86,12 @@ QFont RowPainter::textFont()
 
 QString RowPainter::elidedLine(const QFontMetrics &metrics, const QString &strText, int iWidth)
 {
-    if (iWidth < 1)
-        return {};
-    const int iMost = qMin(strText.size(), cMostCharacters);
-    // What stands well past the width never shows, so it is not measured either.
-    const int iEnough = iWidth + 4 * metrics.height();
-    for (int iLength = iWidth / 2 + 32;; iLength *= 2) {
-        const QString strLine = withBlanks(strText.left(qMin(iLength, iMost)));
-        if (iLength >= iMost || metrics.horizontalAdvance(strLine) > iEnough)
-            return metrics.elidedText(strLine, Qt::ElideRight, iWidth);
-    }
+    return iWidth < 1 ? QString() : metrics.elidedText(beginning(metrics, strText, iWidth), Qt::ElideRight, iWidth);
+}
+
+int RowPainter::lineWidth(const QFontMetrics &metrics, const QString &strText, int iWidth)
+{
+    return iWidth < 1 ? 0 : qMin(metrics.horizontalAdvance(beginning(metrics, strText, iWidth)), iWidth);
 }
 
 void RowPainter::drawLine(QPainter &painter, const QRect &place, const QString &strText)

@@ -49,6 +49,9 @@ public:
     /// below 1 gives an empty text.
     static QString elidedLine(const QFontMetrics &metrics, const QString &strText, int iWidth);
 
+    /// The width of that line before it is cut, or `iWidth` where that is smaller; 0 for a width below 1.
+    static int lineWidth(const QFontMetrics &metrics, const QString &strText, int iWidth);
+
     /// Draws one line from `place`'s top left corner with the painter's font and pen. Nothing in it is interpreted.
     static void drawLine(QPainter &painter, const QRect &place, const QString &strText);
 

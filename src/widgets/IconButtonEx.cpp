@@ -71,11 +71,6 @@ void CIconButtonEx::setIconColor(const QString &color)
 {
     if (!color.isEmpty())
         m_strIconColor = color;
-    // A style sheet cannot read decimals and then leaves the glyph to the palette.
-    const QColor decimals = colorOfDecimals(m_strIconColor);
-    QPalette palette = ui->pushButton->palette();
-    palette.setColor(QPalette::ButtonText, decimals.isValid() ? decimals : QColor(Qt::black));
-    ui->pushButton->setPalette(palette);
     setBtnStyles(m_iStyleType);
 }
 
@@ -127,11 +122,24 @@ void CIconButtonEx::showNormal()
 void CIconButtonEx::showGlyph(const QString &color)
 {
     ui->pushButton->setStyleSheet(m_strBtnStyle.arg(color));
+    showDecimals(color);
 }
 
 void CIconButtonEx::showGlyph(const QString &color, const QString &hoverColor)
 {
     ui->pushButton->setStyleSheet(m_strBtnStyle.arg(color) + m_strBtnHoverStyle.arg(hoverColor));
+    showDecimals(color);
+}
+
+void CIconButtonEx::showDecimals(const QString &color)
+{
+    // A sheet cannot read three decimals and then leaves the glyph to the palette, which each new sheet puts back.
+    const QColor decimals = colorOfDecimals(color);
+    if (decimals.isValid()) {
+        QPalette palette = ui->pushButton->palette();
+        palette.setColor(QPalette::ButtonText, decimals);
+        ui->pushButton->setPalette(palette);
+    }
 }
 
 QString CIconButtonEx::backgroundOf(const QString &color, int iAlpha) const

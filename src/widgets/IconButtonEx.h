@@ -94,6 +94,7 @@ private:
     void showEnabled(bool bEnabled);
     void showGlyph(const QString &color);
     void showGlyph(const QString &color, const QString &hoverColor);
+    void showDecimals(const QString &color);
     void showBackground(const QString &color, const QString &hoverColor);
     QString backgroundOf(const QString &color, int iAlpha) const;
     bool takeRelease(const QMouseEvent &event);

@@ -42,10 +42,6 @@ CLineEditEx::CLineEditEx(QWidget *parent) : QWidget(parent), ui(std::make_unique
     ui->setupUi(this);
     ui->lineEdit->setFont(pixelFont(ui->lineEdit->font()));
     ui->lineEdit->setTextMargins(0, 1, 2, 1);
-    // The sheet's colour is the text's alone: the hint of an empty field stays apart from a text.
-    QPalette colours = ui->lineEdit->palette();
-    colours.setColor(QPalette::PlaceholderText, QColor(strCOLOR_THIED_MID_GREY));
-    ui->lineEdit->setPalette(colours);
     ui->lineEdit->installEventFilter(this);
     ui->lineEdit->setMouseTracking(true);
     setStyles();

@@ -60,7 +60,7 @@ public:
     void setEnabled(bool bEnabled);
     /// Accepts only input that passes `pValidator`, which stays the caller's; null takes any.
     void setValidator(const QValidator *pValidator);
-    /// The grey text of the empty field; may be empty.
+    /// The hint in the empty field, in the colour of the text; may be empty.
     void setPlaceholderText(const QString &text);
     /// Who makes the context menu of the inner edit.
     void setContextMenuPolicy(Qt::ContextMenuPolicy policy);

@@ -82,7 +82,7 @@ Step closeWindow()
 }
 
 /// Clicks on the button of a member's row whose rectangle stands in that role.
-Step clickMember(const QString &uid, ConferenceRole button)
+Step clickMember(const QString &uid, MemberRole button)
 {
     return {"click at " + uid, [uid, button](ScenarioRun &r) { return r.clickMember(uid, button); }};
 }

@@ -93,6 +93,7 @@ private slots:
     {
         QFETCH(QString, text);
         QCOMPARE(RowPainter::elidedLine(m_metrics, text, 400), text);
+        QCOMPARE(RowPainter::lineWidth(m_metrics, text, 400), m_metrics.horizontalAdvance(text));
     }
 
     void controlCharactersBecomeBlanks()
@@ -122,6 +123,7 @@ private slots:
         for (const int iWidth : {1, 10, 50, 200, 500}) {
             const QString strLine = RowPainter::elidedLine(m_metrics, strText, iWidth);
             QCOMPARE(strLine, m_metrics.elidedText(strText, Qt::ElideRight, iWidth));
+            QCOMPARE(RowPainter::lineWidth(m_metrics, strText, iWidth), iWidth);
             QVERIFY(iWidth < 20 || m_metrics.horizontalAdvance(strLine) <= iWidth);
         }
     }
@@ -136,8 +138,10 @@ private slots:
 
     void noRoomShowsNothing()
     {
-        for (const int iWidth : {0, -1, -100000})
+        for (const int iWidth : {0, -1, -100000}) {
             QCOMPARE(RowPainter::elidedLine(m_metrics, QStringLiteral("Ann"), iWidth), QString());
+            QCOMPARE(RowPainter::lineWidth(m_metrics, QStringLiteral("Ann"), iWidth), 0);
+        }
     }
 
     void markupIsDrawnAsItStands()

@@ -9,12 +9,9 @@
 #include <QIntValidator>
 #include <QLabel>
 #include <QLayout>
-#include <QMenu>
-#include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 
 #include <memory>
 
@@ -62,7 +59,7 @@ private slots:
 
     void formHasItsNamesAndMargins();
     void sheetTakesTheSkinsColours();
-    void menuSheetIsKeptUnfilledAndWarnsOnce();
+    void menuSheetIsKeptUnfilledAndNothingElseWarns();
     void operationsForwardToTheInnerEdit();
     void limitTakesWhatFitsWhileTyping_data();
     void limitTakesWhatFitsWhileTyping();
@@ -122,7 +119,7 @@ void tst_LineEditEx::sheetTakesTheSkinsColours()
                                                    "QLineEdit#lineEdit::hover{border: 1px solid #33af56;}"));
 }
 
-void tst_LineEditEx::menuSheetIsKeptUnfilledAndWarnsOnce()
+void tst_LineEditEx::menuSheetIsKeptUnfilledAndNothingElseWarns()
 {
     const QtMessages messages;
     m_pEdit = std::make_unique<CLineEditEx>();
