@@ -10,6 +10,7 @@
 #include "ui/ConferenceInfoListViewDelegate.h"
 #include "ui/ConferenceTexts.h"
 #include "ui/MemberRoles.h"
+#include "ui/SignCard.h"
 #include "widgets/MenuEx.h"
 
 #include <QGuiApplication>
@@ -21,8 +22,6 @@
 namespace {
 
 constexpr QSize cRowSize(500, 62);
-constexpr int cSignDelay = 500; // milliseconds
-constexpr int cSignLeft = 2;
 
 /// Where a menu of this length begins along one axis: at the cursor, or ending there where the screen has no room.
 int menuStart(int iCursor, int iMenu, int iScreen)
@@ -165,8 +164,7 @@ void CConferenceInfoListView::hoverRow(const QModelIndex &index, const QPoint &p
         return;
     }
     if (head.contains(position)) {
-        const QPoint corner = mapToGlobal(head.topLeft());
-        m_signPos = QPoint(corner.x() + cSignLeft - head.left(), corner.y());
+        m_signPos = signCardPlace(*this, head);
         m_strSignJid = CommonFun::getJidByUid(index.data(ROLE_USER_ID).toString());
         // Each move inside the head starts the delay anew.
         m_signTimer.start(cSignDelay);
