@@ -15,6 +15,7 @@
 
 #include <QGuiApplication>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStandardItemModel>
@@ -241,10 +242,19 @@ void CConferenceInfoListView::slot_selectAction(QAction *pAction)
 {
     if (m_strSelectedConfID.isEmpty())
         return;
+    // The host may run an event loop in which this list is destroyed; the menu, which is still at work then, outlives
+    // it up to the loop that brought the click.
+    CMenuEx *const pMenu = m_pMenu;
+    const QPointer<CConferenceInfoListView> self = this;
+    pMenu->setParent(nullptr, pMenu->windowFlags());
     if (pAction == m_pRecallAction)
         emit signal_ReCallConf(m_strSelectedConfID);
     else if (pAction == m_pDeleteAction)
         emit signal_DeleteConfInfo(m_strSelectedConfID);
+    if (self)
+        pMenu->setParent(this, pMenu->windowFlags());
+    else
+        pMenu->deleteLater();
 }
 
 bool CConferenceInfoListView::eventFilter(QObject *obj, QEvent *event)

@@ -83,6 +83,8 @@ void CVoiceConferenceWidget::initButtons()
     ui->backBtn->setFont(font);
     ui->creatConferenceBtn->setIcon(CommonFun::getIconFontPixmap(
         IconGlyph::text(IconGlyph::MicOn), QColor(strCOLOR_ICON_MID_GREY), cCreateIconSize, cCreateGlyphPixels));
+    // Shown at its own size: buttons shrink a picture to the style's size of small icons.
+    ui->creatConferenceBtn->setIconSize(cCreateIconSize);
     ui->creatConferenceBtn->setText(QStringLiteral("发起语音会议"));
     ui->creatConferenceBtn->setFont(font);
 }

@@ -1,31 +1,10 @@
 #include "HistoryListTest.h"
 
+#include "RealCursor.h"
 #include "plugin/EMsgId.h"
 #include "plugin/VoipManageMessageProcess.h"
 
-#include <QMouseEvent>
 #include <QStandardItemModel>
-
-namespace {
-
-/// Whether the widget has been told that the cursor is at a place.
-class ArrivedMove : public QObject
-{
-public:
-    ArrivedMove(QWidget *pWidget, const QPoint &position) : m_position(position) { pWidget->installEventFilter(this); }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() == QEvent::MouseMove && static_cast<QMouseEvent *>(event)->pos() == m_position)
-            bArrived = true;
-        return false;
-    }
-    bool bArrived = false;
-
-private:
-    QPoint m_position;
-};
-
-} // namespace
 
 void HistoryListTest::initTestCase()
 {
@@ -95,10 +74,7 @@ QImage HistoryListTest::picture() const
 
 void HistoryListTest::moveTo(const QPoint &position)
 {
-    // The X server tells of the move when it gets there.
-    ArrivedMove move(m_pList->viewport(), position);
-    QTest::mouseMove(m_pList->viewport(), position);
-    QVERIFY(QTest::qWaitFor([&move] { return move.bArrived; }));
+    QVERIFY(RealCursor::moveTo(m_pList->viewport(), position));
 }
 
 void HistoryListTest::click(const QPoint &position, Qt::MouseButton button)
@@ -132,9 +108,7 @@ void HistoryListTest::choose(int iEntry)
     CMenuEx *pMenu = m_pList->m_pMenu;
     QVERIFY(QTest::qWaitForWindowExposed(pMenu));
     const QPoint entry = pMenu->actionGeometry(pMenu->actions().at(iEntry)).center();
-    ArrivedMove move(pMenu, entry);
-    QTest::mouseMove(pMenu, entry);
-    QVERIFY(QTest::qWaitFor([&move] { return move.bArrived; }));
+    QVERIFY(RealCursor::moveTo(pMenu, entry));
     QTest::mouseClick(pMenu, Qt::LeftButton, Qt::NoModifier, entry);
 }
 

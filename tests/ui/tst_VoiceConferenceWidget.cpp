@@ -1,6 +1,7 @@
 // The conference centre: its look, its pages, what it tells the host and the call manager, and how it is moved.
 
 #include "ContactFixture.h"
+#include "RealCursor.h"
 #include "fakes/FakeHost.h"
 #include "plugin/EMsgId.h"
 #include "plugin/VoipManageMessageProcess.h"
@@ -151,7 +152,7 @@ private slots:
     void moveWithoutAPressDoesNotMove();
     void otherButtonsDoNotDrag();
     void dragGoesOnUntilTheLeftButtonIsReleased();
-    void realMouseDragsTheTitle();
+    void titleDragsTheWindow();
 
     void pictures();
 };
@@ -295,6 +296,7 @@ void tst_VoiceConferenceWidget::textsAndStyles()
     QCOMPARE(part<QPushButton>("backBtn")->text(), QStringLiteral("返回"));
     QCOMPARE(part<QPushButton>("creatConferenceBtn")->text(), QStringLiteral("发起语音会议"));
     QVERIFY(!part<QPushButton>("creatConferenceBtn")->icon().isNull());
+    QCOMPARE(part<QPushButton>("creatConferenceBtn")->iconSize(), QSize(30, 30));
     QCOMPARE(part<QLabel>("label")->text(), QStringLiteral("会议记录"));
     QCOMPARE(part<QLabel>("lblVoipTipMsg")->text(), QStringLiteral("语音会议"));
     QCOMPARE(part<QLabel>("lblVoipTipMsg")->styleSheet(),
@@ -373,10 +375,7 @@ void tst_VoiceConferenceWidget::detailButtonShowsTheDetailPage()
     open({"b", "a"});
     showAt({100, 100});
     const QRect row = list()->visualRect(list()->model()->index(1, 0));
-    for (const QPoint &place : {row.center() - QPoint(1, 0), row.center()}) {
-        QTest::mouseMove(list()->viewport(), place);
-        QTest::qWait(0);
-    }
+    QVERIFY(RealCursor::moveTo(list()->viewport(), row.center()));
     QTRY_VERIFY(!list()->model()->index(1, 0).data(ROLE_REMOVE_RECT).toRect().isNull());
     const QPoint button = list()->model()->index(1, 0).data(ROLE_REMOVE_RECT).toRect().center();
     QTest::mouseClick(list()->viewport(), Qt::LeftButton, Qt::NoModifier, button);
@@ -455,8 +454,7 @@ void tst_VoiceConferenceWidget::hostMayCloseTheWindowWhileItTakesTheRedial()
     auto *const pMenu = list()->findChild<CMenuEx *>();
     QVERIFY(QTest::qWaitForWindowExposed(pMenu));
     const QPoint entry = pMenu->actionGeometry(pMenu->actions().first()).center();
-    QTest::mouseMove(pMenu, entry);
-    QTRY_COMPARE(pMenu->activeAction(), pMenu->actions().first());
+    QVERIFY(RealCursor::moveTo(pMenu, entry));
     QTest::mouseClick(pMenu, Qt::LeftButton, Qt::NoModifier, entry);
     QCOMPARE(wishes().size(), 1);
 }
@@ -600,19 +598,22 @@ void tst_VoiceConferenceWidget::dragGoesOnUntilTheLeftButtonIsReleased()
     mouse(QEvent::MouseButtonPress, {300, 160});
     mouse(QEvent::MouseButtonRelease, {300, 160}, Qt::RightButton);
     // What the buttons are now is not asked.
-    mouse(QEvent::MouseMove, {310, 160}, Qt::NoButton);
+    mouse(QEvent::MouseMove, {310, 160}, Qt::RightButton);
     QCOMPARE(m_pWindow->pos(), QPoint(110, 100));
 }
 
-void tst_VoiceConferenceWidget::realMouseDragsTheTitle()
+void tst_VoiceConferenceWidget::titleDragsTheWindow()
 {
     open({});
     showAt({100, 100});
-    QWidget *pTitle = part<QWidget>("titleWidget");
-    QTest::mousePress(pTitle, Qt::LeftButton, Qt::NoModifier, QPoint(200, 10));
-    QCursor::setPos(pTitle->mapToGlobal(QPoint(240, 30)));
-    QTRY_COMPARE(m_pWindow->pos(), QPoint(140, 120));
-    QTest::mouseRelease(pTitle, Qt::LeftButton, Qt::NoModifier, QPoint(200, 10));
+    auto *const pTitle = part<QLabel>("lblVoipTipMsg");
+    const QPoint start = pTitle->mapToGlobal(QPoint(3, 3));
+    QTest::mousePress(pTitle, Qt::LeftButton, Qt::NoModifier, QPoint(3, 3));
+    QMouseEvent move(QEvent::MouseMove, QPointF(43, 23), start + QPoint(40, 20), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(pTitle, &move);
+    QCOMPARE(m_pWindow->pos(), QPoint(140, 120));
+    QTest::mouseRelease(pTitle, Qt::LeftButton, Qt::NoModifier, QPoint(3, 3));
 }
 
 void tst_VoiceConferenceWidget::pictures()
