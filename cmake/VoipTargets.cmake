@@ -33,14 +33,19 @@ function(voip_library name)
 endfunction()
 
 # voip_test(name SOURCES ... LINKS ... [ENV ...] [LABELS ...] [TIMEOUT s]): a Qt Test program, run in a folder,
-# a home and a temporary directory of its own, so that sockets and files of two tests never meet.
+# a home and a temporary directory of its own, so that sockets and files of two tests never meet. Where VOIP_TEST_SCREEN is
+# set it has a screen of its own as well, so that no other test's window covers its windows or moves its cursor.
 function(voip_test name)
   cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINKS;ENV;LABELS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   voip_own_code(${name})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt5::Test)
-  add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/isolated $<TARGET_FILE:${name}>)
+  set(screen)
+  if(VOIP_TEST_SCREEN)
+    set(screen --screen)
+  endif()
+  add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/isolated ${screen} $<TARGET_FILE:${name}>)
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 300)
   endif()

@@ -111,10 +111,15 @@ QString WindowProbe::text(const QWidget *window, const char *strName)
     if (const auto *label = qobject_cast<const QLabel *>(part)) {
         return label->text();
     }
-    if (const auto *button = qobject_cast<const QAbstractButton *>(part)) {
-        return button->text();
+    if (part == nullptr) {
+        return QString();
     }
-    return QString();
+    // The button may stand inside a part of that name.
+    const auto *button = qobject_cast<const QAbstractButton *>(part);
+    if (button == nullptr) {
+        button = part->findChild<const QAbstractButton *>();
+    }
+    return button == nullptr ? QString() : button->text();
 }
 
 bool WindowProbe::isShown(const QWidget *window, const char *strName)

@@ -12,11 +12,17 @@
 #include "common/FileIcons.h"
 #include "common/FolderCopy.h"
 #include "common/HeadImages.h"
+#include "common/HtmlImages.h"
+#include "common/HtmlLinks.h"
+#include "common/HtmlText.h"
 #include "common/IconFont.h"
 #include "common/Identifiers.h"
 #include "common/ImagePath.h"
+#include "common/LabelText.h"
+#include "common/MessageHtml.h"
 #include "common/NinePatch.h"
 #include "common/PictureNames.h"
+#include "common/PlainText.h"
 #include "common/ScreenPlace.h"
 #include "common/Sha1.h"
 #include "common/ShortText.h"
@@ -37,6 +43,12 @@ class CommonFun : public SharedContext,
                   public ConfigFile,
                   public AppInfo,
                   public ShortText,
+                  public LabelText,
+                  public HtmlText,
+                  public HtmlLinks,
+                  public HtmlImages,
+                  public MessageHtml,
+                  public PlainText,
                   public TimeText,
                   public IconFont,
                   public SkinContext,

@@ -8,6 +8,8 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QImageWriter>
 #include <QPainter>
 
 namespace {
@@ -38,30 +40,33 @@ QPixmap cutToShape(const QPixmap &picture, const QSize &size)
     return middleRow(picture, int(picture.width() * (double(size.height()) / size.width())));
 }
 
+// Whether a picture can be written in the format that the suffix tells.
+bool canBeSaved(const QString &strPath)
+{
+    return QImageWriter::supportedImageFormats().contains(QFileInfo(strPath).suffix().toLower().toLatin1());
+}
+
 } // namespace
 
 QString HeadImages::getFormattedImage(const QString & /*strUnused*/, const QString &strJid, const QPixmap &pixmap,
                                       const QSize &size, const QString &strSuffix)
 {
     const QString strName = strJid.section(QLatin1Char('@'), 0, 0);
-    if (strName.contains(QLatin1Char('/'))) {
+    if (strName.contains(QLatin1Char('/')) || strSuffix.contains(QLatin1Char('/'))) {
         return {};
     }
     const QString strFolder = PictureFolders::headImages();
     const QString strTarget = strFolder + strName + QLatin1Char('.') + strSuffix;
-    if (pixmap.isNull() || size.isEmpty()) {
+    if (pixmap.isNull() || size.isEmpty() || !canBeSaved(strTarget)) {
         return strTarget;
     }
     const QString strJpg = strFolder + strName + QLatin1String(".jpg");
-    const QString strPng = strFolder + strName + QLatin1String(".png");
     const QString strJpeg = strFolder + strName + QLatin1String(".jpeg");
     if (strJpg != strTarget) {
         QFile::remove(strJpg);
-    }
-    // Deliberately the name with ".jpg", which the host's head cache goes by: a png is removed also when it is the
-    // target, and written anew below, and stays beside a jpg.
-    if (strJpg != strTarget) {
-        QFile::remove(strPng);
+        // Deliberately not by its own name, which the host's head cache goes by: a png is removed also when it is the
+        // target, and written anew below, and stays beside a jpg.
+        QFile::remove(strFolder + strName + QLatin1String(".png"));
     }
     if (strJpeg != strTarget) {
         QFile::remove(strJpeg);

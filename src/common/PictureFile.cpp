@@ -18,6 +18,14 @@ bool isPictureFormat(const QByteArray &format)
                        [&format](const char *pFormat) { return format == pFormat; });
 }
 
+// A bitmap that is stored from its top row down declares a negative height.
+bool isAllowedSize(const QSize &size)
+{
+    const qint64 iWidth = size.width();
+    const qint64 iHeight = qAbs(qint64(size.height()));
+    return iWidth > 0 && iHeight > 0 && iWidth * iHeight <= iMOST_PICTURE_PIXELS;
+}
+
 } // namespace
 
 QPixmap readPictureFile(const QString &strPath)
@@ -28,9 +36,7 @@ QPixmap readPictureFile(const QString &strPath)
     }
     QImageReader reader(strPath);
     reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (size.isEmpty() || qint64(size.width()) * size.height() > iMOST_PICTURE_PIXELS ||
-        !isPictureFormat(reader.format())) {
+    if (!isAllowedSize(reader.size()) || !isPictureFormat(reader.format())) {
         return {};
     }
     return QPixmap::fromImageReader(&reader);

@@ -1,6 +1,7 @@
 #pragma once
 
-// The look of the call window: one style sheet for each named part of its form. GUI thread only.
+// The look of the call window: one style sheet for each named part of its form, and one for the window. GUI thread
+// only.
 
 #include <array>
 
@@ -26,6 +27,12 @@ constexpr std::array<CallWindowStyleRow, 8> cCallWindowStyles{{
     {"lblLine", "QLabel#lblLine{background-color: #dbdddd;}"},
     {"currentPlayTimeLabel", "QLabel#currentPlayTimeLabel{color: #f3f3f3; font:14px 微软雅黑;}"},
 }};
+
+/// The window's own style sheet: the look of the volume sliders.
+constexpr const char *cSliderStyleSheet =
+    "QSlider::groove:vertical{border-image: url(./Resources/images/skins/bg_slider_vertical.png);}"
+    "                       "
+    "QSlider::handle:vertical{width:25px;height: 12px;background: #80c84c;margin: 20px 13px;}";
 
 /// Sets the style sheets on the named children of `pWindow`.
 void applyCallWindowStyle(QWidget *pWindow);

@@ -5,20 +5,16 @@
 #include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
 #include "common/CommonFun.h"
-#include "common/DpiScale.h"
-#include "common/Palette.h"
+#include "common/IconGlyphs.h"
 #include "model/FriendData.h"
 #include "plugin/VoipManageEventProcess.h"
-#include "ui/CallWindowStyle.h"
 #include "widgets/ErrorMessage.h"
 
-#include <QCloseEvent>
 #include <QDebug>
+#include <QSlider>
 
 namespace {
 
-constexpr int cWindowWidth = 523;
-constexpr int cWindowHeight = 403;
 constexpr int cClockInterval = 1000;
 
 // Pages of the two stacks, in the form's order.
@@ -28,10 +24,12 @@ constexpr int cConferencePage = 2;
 constexpr int cRequestPage = 0;
 constexpr int cCallingPage = 1;
 
-using Symbol = SymbolButton::Symbol;
-
-const QColor cToggleColor(184, 184, 184);
-const QColor cMuteAllColor(255, 96, 88);
+// The faces of the toggle buttons: size in pixels, style types, colours.
+constexpr int cGlyphSize = 16;
+constexpr int cHoverFace = 0;
+constexpr int cPlainFace = 4;
+const QString cToggleColor = QStringLiteral("184,184,184");
+const QString cMuteAllColor = QStringLiteral("255, 96, 88");
 
 const char *boolText(bool bValue)
 {
@@ -46,49 +44,13 @@ QString cardName(const VcardInfo &vcard)
     return vcard.m_strNickName + QLatin1Char('(') + vcard.m_strAlternativeName + QLatin1Char(')');
 }
 
+void setFace(CIconButtonEx *pButton, ushort glyph)
+{
+    pButton->setIconFont(IconGlyph::text(glyph), cGlyphSize, cHoverFace);
+    pButton->setIconColor(cToggleColor);
+}
+
 } // namespace
-
-CVoipWidget::CVoipWidget(QWidget *parent)
-    : QWidget(parent), ui(std::make_unique<Ui::CVoipWidget>()), m_callTimeTimer(this)
-{
-    ui->setupUi(this);
-    setWindowFlags(Qt::FramelessWindowHint);
-    setAttribute(Qt::WA_QuitOnClose, false);
-    setMouseTracking(true);
-    setFixedHeight(cWindowHeight);
-    setFixedWidth(cWindowWidth);
-    ui->btnCamera->hide();
-    applyCallWindowStyle(this);
-    ui->btnClose->setSymbol(SymbolButton::Symbol::Close, QColor(strCOLOR_ICON_MID_GREY));
-    ui->btnClose->setHoverColor(QColor(strCOLOR_BRIGHT_RED));
-    ui->btnClose->setToolTip(tr("close"));
-    ui->currentPlayTimeLabel->hide();
-    ui->currentPlayTimeLabel->clear();
-    connectControls();
-    SetMicButton(m_bMicMute);
-    SetSpeakerButton(m_bSpeakerMute);
-    SetCameraButton(m_bCameraEnable);
-    setMuteAllButton(m_bMuteAll);
-    ADAPT_DPI_WIDGET(this);
-}
-
-CVoipWidget::~CVoipWidget() = default;
-
-void CVoipWidget::connectControls()
-{
-    connect(ui->HangUp, &QPushButton::clicked, this, &CVoipWidget::slot_HangUpCall);
-    connect(ui->btnClose, &QPushButton::clicked, this, &CVoipWidget::slot_close);
-    connect(ui->btnMic, &QPushButton::clicked, this, &CVoipWidget::slot_MicButtonClicked);
-    connect(ui->btnSpeaker, &QPushButton::clicked, this, &CVoipWidget::slot_SpeakerButtonClicked);
-    connect(ui->btnCamera, &QPushButton::clicked, this, &CVoipWidget::slot_CameraButtonClicked);
-    connect(&m_callTimeTimer, &QTimer::timeout, this, &CVoipWidget::slot_RefreshTime);
-    connect(ui->btnCancelCall, &QPushButton::clicked, this, &CVoipWidget::slot_CancelVoipCall);
-    connect(ui->btnAddMember, &QPushButton::clicked, this, &CVoipWidget::slot_AddConferenceMember);
-    connect(ui->btnMuteAll, &QPushButton::clicked, this, &CVoipWidget::slot_MuteAll);
-    connect(ui->listView, &CConferenceListView::signal_RemoveUser, this, &CVoipWidget::slot_RemoveConferenceMember);
-    connect(ui->listView, &CConferenceListView::signal_MuteUser, this, &CVoipWidget::slot_MuteConferenceMember);
-    connect(ui->listView, &CConferenceListView::signal_ReInviteConfUser, this, &CVoipWidget::slot_ReInviteConfUser);
-}
 
 void CVoipWidget::setVoipCallInfo(QList<QString> userList, VoipType iType, bool bMyCall, bool bConnected)
 {
@@ -177,21 +139,6 @@ void CVoipWidget::setVoipCallStatus(bool bConnect)
     }
 }
 
-void CVoipWidget::show()
-{
-    showNormal();
-}
-
-void CVoipWidget::UserOffline()
-{
-    close();
-}
-
-void CVoipWidget::SetVoipCallHangUpMessage()
-{
-    ClearCallInfoData();
-}
-
 void CVoipWidget::ClearCallInfoData()
 {
     LOG_DEBUG << "clear call info!"
@@ -202,6 +149,10 @@ void CVoipWidget::ClearCallInfoData()
     m_bSpeakerMute = false;
     m_bMuteAll = false;
     m_bCameraEnable = true;
+    m_bLeftPressed = false;
+    m_bResized = false;
+    m_bGeometryLocked = false;
+    m_bFullScreen = false;
     m_bConnected = false;
     m_memberList.clear();
     m_memberCounts.clear();
@@ -227,34 +178,6 @@ void CVoipWidget::clearUI()
     ui->lblPhotoIcon->clear();
 }
 
-void CVoipWidget::SetVoipMicVolume(qlonglong iVolume)
-{
-    m_iMicVolume = static_cast<int>(iVolume);
-    SetMicVolume(iVolume);
-}
-
-void CVoipWidget::SetVoipSpeakerVolume(qlonglong iVolume)
-{
-    m_iSpeakerVolume = static_cast<int>(iVolume);
-    SetSpeakerVolume(iVolume);
-}
-
-int CVoipWidget::GetCurrentCallStatus() const
-{
-    return m_iCallStatus;
-}
-
-QWidget *CVoipWidget::getWebEngineView() const
-{
-    return nullptr;
-}
-
-void CVoipWidget::addVoipWidget(QWidget *pWidget)
-{
-    if (pWidget != nullptr)
-        ui->WebViewLayout->addWidget(pWidget);
-}
-
 void CVoipWidget::updateUserInfo(QString strJid, VcardInfo vcard)
 {
     if (m_iVoipType == Conference) {
@@ -266,36 +189,32 @@ void CVoipWidget::updateUserInfo(QString strJid, VcardInfo vcard)
     showPeerTitle(showPeerCard(vcard));
 }
 
-QString CVoipWidget::GetCallTimeString(qulonglong iSeconds) const
-{
-    const auto twoDigits = [](qulonglong iPart) { return QStringLiteral("%1").arg(iPart, 2, 10, QLatin1Char('0')); };
-    return twoDigits(iSeconds / 3600) + QLatin1Char(':') + twoDigits(iSeconds / 60 % 60) + QLatin1Char(':') +
-           twoDigits(iSeconds % 60);
-}
-
 void CVoipWidget::SetMicButton(bool bMute)
 {
     LOG_DEBUG << "setmic bMute = " << bMute << "\n";
-    ui->btnMic->setSymbol(bMute ? Symbol::MicrophoneOff : Symbol::Microphone, cToggleColor);
+    setFace(ui->btnMic, bMute ? IconGlyph::MicOff : IconGlyph::MicOn);
     ui->btnMic->setToolTip(bMute ? tr("openmic") : tr("closemic"));
 }
 
 void CVoipWidget::SetSpeakerButton(bool bMute)
 {
     LOG_DEBUG << "set speaker bMute = " << bMute << "\n";
-    ui->btnSpeaker->setSymbol(bMute ? Symbol::SpeakerOff : Symbol::Speaker, cToggleColor);
+    setFace(ui->btnSpeaker, bMute ? IconGlyph::SpeakerOff : IconGlyph::SpeakerOn);
     ui->btnSpeaker->setToolTip(bMute ? tr("openvioce") : tr("silence"));
 }
 
 void CVoipWidget::SetCameraButton(bool bEnable)
 {
     LOG_DEBUG << "set camera bEnable = " << bEnable << "\n";
-    ui->btnCamera->setSymbol(bEnable ? Symbol::Camera : Symbol::CameraOff, cToggleColor);
+    setFace(ui->btnCamera, bEnable ? IconGlyph::CameraOn : IconGlyph::CameraOff);
 }
 
 void CVoipWidget::setMuteAllButton(bool bMute)
 {
-    ui->btnMuteAll->setSymbol(Symbol::SpeakerOff, bMute ? cMuteAllColor : cToggleColor);
+    // Colour before glyph, the other way round than the toggles above.
+    ui->btnMuteAll->setIconColor(bMute ? cMuteAllColor : cToggleColor);
+    ui->btnMuteAll->setIconFont(IconGlyph::text(bMute ? IconGlyph::MuteAllOn : IconGlyph::SpeakerOff), cGlyphSize,
+                                bMute ? cPlainFace : cHoverFace);
     ui->btnMuteAll->setToolTip(bMute ? QStringLiteral("取消全体静音") : QStringLiteral("全体静音"));
 }
 
@@ -318,18 +237,6 @@ void CVoipWidget::SetCamreraEnable(bool bEnable)
     emit signal_SetCameraEnable(bEnable);
 }
 
-void CVoipWidget::SetMicVolume(qlonglong iVolume)
-{
-    qDebug().noquote().nospace() << "SetMicVolume = " << iVolume;
-    emit signal_SetMicVolume(iVolume);
-}
-
-void CVoipWidget::SetSpeakerVolume(qlonglong iVolume)
-{
-    qDebug().noquote().nospace() << "SetSpeakerVolume = " << iVolume;
-    emit signal_SetSpeakerVolume(iVolume);
-}
-
 void CVoipWidget::slot_HangUpCall()
 {
     LOG_DEBUG << "click hangup button!"
@@ -341,11 +248,16 @@ void CVoipWidget::slot_close()
 {
     LOG_DEBUG << "click close button!"
               << "\n";
+    if (askToEndTheCall())
+        close();
+}
+
+bool CVoipWidget::askToEndTheCall()
+{
     ErrorMessage question(QString(), QStringLiteral("确定"), nullptr);
     question.setBtnText(tr("sure"), tr("cancel"));
     question.chooseMsgShow(tr("tip"), tr("beSureToCloseCalling"));
-    if (question.m_bAccepted)
-        close();
+    return question.m_bAccepted;
 }
 
 void CVoipWidget::slot_RefreshTime()
@@ -359,6 +271,7 @@ void CVoipWidget::slot_MicButtonClicked()
 {
     LOG_DEBUG << "click mic button!"
               << "\n";
+    m_pMicSlider->hide();
     m_bMicMute = !m_bMicMute;
     SetMicButton(m_bMicMute);
     SetMicEnable(!m_bMicMute);
@@ -368,6 +281,7 @@ void CVoipWidget::slot_SpeakerButtonClicked()
 {
     LOG_DEBUG << "click speaker button!"
               << "\n";
+    m_pSpeakerSlider->hide();
     m_bSpeakerMute = !m_bSpeakerMute;
     SetSpeakerButton(m_bSpeakerMute);
     SetSpeakerEnable(!m_bSpeakerMute);
@@ -391,11 +305,9 @@ void CVoipWidget::slot_CancelVoipCall()
     close();
 }
 
-void CVoipWidget::closeEvent(QCloseEvent *event)
+void CVoipWidget::slot_CaptureButtonClicked()
 {
-    ClearCallInfoData();
-    clearUI();
-    emit signal_HangupCurrentCall();
-    emit signal_ClearCallData();
-    QWidget::closeEvent(event);
+    LOG_DEBUG << "click capture button!"
+              << "\n";
+    savePicture();
 }

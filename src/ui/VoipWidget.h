@@ -4,12 +4,19 @@
 //
 // It holds no call logic. The call manager creates it without a parent, owns it, drives it through the operations below
 // and listens to its signals; the window never talks to the call process. It keeps what is shown: which pages are up,
-// which toggles are on, when the call began. Lives on the GUI thread. It does not count for Qt's
-// quit-on-last-window-closed, so that its close never ends a host that has no other window open.
+// which toggles are on, when the call began. It has no system frame, so it moves and resizes itself. Lives on the GUI
+// thread. It does not count for Qt's quit-on-last-window-closed, so that its close never ends a host that has no other
+// window open.
+//
+// All that it logs stands in VoipWidget.cpp, whose name is the source tag that readers of the log look for.
 
+#include "ui/EdgeDrag.h"
 #include "ui/UidCounts.h"
 
 #include <QList>
+#include <QPoint>
+#include <QPointer>
+#include <QRect>
 #include <QString>
 #include <QTime>
 #include <QTimer>
@@ -17,8 +24,12 @@
 
 #include <memory>
 
+class CIconButtonEx;
+class MyRubberBand;
 class VcardInfo;
 class QCloseEvent;
+class QMouseEvent;
+class QSlider;
 
 namespace Ui {
 class CVoipWidget;
@@ -35,6 +46,20 @@ public:
         Voice = 0,
         Video = 1,
         Conference = 2
+    };
+
+    /// Where the cursor stands, as a sum of edges: 0 away from them, else the edge or corner that a drag moves.
+    enum MouseState : int
+    {
+        NoEdge = 0,
+        LeftEdge = EdgeDrag::Left,
+        TopEdge = EdgeDrag::Top,
+        TopLeftCorner = EdgeDrag::Left + EdgeDrag::Top,
+        RightEdge = EdgeDrag::Right,
+        TopRightCorner = EdgeDrag::Top + EdgeDrag::Right,
+        BottomEdge = EdgeDrag::Bottom,
+        BottomLeftCorner = EdgeDrag::Left + EdgeDrag::Bottom,
+        BottomRightCorner = EdgeDrag::Right + EdgeDrag::Bottom
     };
 
     /// Builds the hidden window. `parent` may be null; Qt's ownership rule applies to it.
@@ -132,15 +157,26 @@ signals:
     void signal_ReInviteConfUser(QString strUserID);
 
 protected:
+    /// Escape in the window or one of its watched controls asks whether to hang up; leaving them is swallowed.
+    bool eventFilter(QObject *obj, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private slots:
     void slot_HangUpCall();
     void slot_close();
+    void slot_MicVolumChanged(int iVolum);
+    void slot_SpeakerVolumChanged(int iVolum);
+    void slot_MicSilderHide();
+    void slot_SpeakerSilderHide();
     void slot_RefreshTime();
     void slot_MicButtonClicked();
     void slot_SpeakerButtonClicked();
     void slot_CameraButtonClicked();
+    void slot_CaptureButtonClicked();
+    void slot_WindowChangeButtonClicked();
     void slot_CancelVoipCall();
     void slot_AddConferenceMember();
     void slot_RemoveConferenceMember(QString strUserID);
@@ -149,12 +185,23 @@ private slots:
     void slot_ReInviteConfUser(QString strUserID);
 
 private:
+    void setUpForm();
+    QSlider *newVolumeSlider();
     void connectControls();
+    void connectConferenceControls();
     void showConference();
     void showPeer();
     QString showPeerCard(const VcardInfo &vcard);
     void showPeerTitle(const QString &strShownName);
     void refreshMemberCount();
+    bool askToEndTheCall();
+    bool isEscapeAskedAlready(const QObject *obj, const QEvent *event);
+    void savePicture();
+    MouseState cursorState(int x, int y) const;
+    void setCursorStyle(MouseState state);
+    void showRubberBand(const QRect &rect);
+    void dragEdges(const QPoint &cursor);
+    void dragWindow(const QPoint &cursor);
     void SetMicButton(bool bMute);
     void SetSpeakerButton(bool bMute);
     void SetCameraButton(bool bEnable);
@@ -166,12 +213,26 @@ private:
     void SetSpeakerVolume(qlonglong iVolume);
 
     std::unique_ptr<Ui::CVoipWidget> ui;
+    QTimer m_reservedTimer; ///< deliberate: never started or connected, a place among the members
     bool m_bCallFlag = false;
     bool m_bIsMyCall = false;
+    QSlider *m_pMicSlider = nullptr;
+    QSlider *m_pSpeakerSlider = nullptr;
     bool m_bMicMute = false;
     bool m_bSpeakerMute = false;
     bool m_bMuteAll = false;
     bool m_bCameraEnable = true;
+    QPoint m_dragOffset;            ///< from the window's corner to the cursor that holds it
+    bool m_bGeometryLocked = false; ///< deliberate: tested wherever the geometry changes, set by nothing
+    bool m_bFullScreen = false;
+    QRect m_normalGeometry; ///< the place to come back to from the full screen
+    bool m_bLeftPressed = false;
+    MouseState m_mouseState = NoEdge;
+    QPointer<MyRubberBand> m_pRubberBand; ///< built on first need; stands on the desktop, not in this window
+    bool m_bResized = false;
+    QRect m_rubberRect;
+    QTimer m_micSliderTimer;
+    QTimer m_speakerSliderTimer;
     QTimer m_callTimeTimer;
     QTime m_callStartTime;
     int m_iCallStatus = 0;
@@ -183,4 +244,5 @@ private:
     UidCounts m_memberCounts; ///< of m_memberList
     QString m_strCreator;
     VoipType m_iVoipType = Voice;
+    const QEvent *m_pAskedEscape = nullptr; ///< the key press that a control has asked about, on its way to the window
 };

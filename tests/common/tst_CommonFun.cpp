@@ -2,6 +2,8 @@
 
 #include <QtTest>
 
+#include <type_traits>
+
 class tst_CommonFun : public QObject
 {
     Q_OBJECT
@@ -22,6 +24,27 @@ private slots:
         QCOMPARE(context.getSkinData()->m_strMainColor, QString("#123456"));
         QVERIFY(!CommonFun::getSysUIDataList());
         QVERIFY(!CommonFun::getChatBubblesList());
+    }
+
+    void messageHtmlIsReachedByTheOneName()
+    {
+        QString strText = "a  b";
+        CommonFun::replaceSpace(strText);
+        QCOMPARE(CommonFun::convertMessageBody("a  b", false), strText);
+        CommonFun::convertWebLink(strText, {});
+        CommonFun::replaceLineBreak(strText);
+        QCOMPARE(strText, QString("a&nbsp;&nbsp;b"));
+        QCOMPARE(CommonFun::regainHtmlText(CommonFun::getDealWithHtmlText("<")), QString("<"));
+        CommonFun::escapeURLChar(strText);
+        QCOMPARE(strText, QString("a%26nbsp;%26nbsp;b"));
+        CommonFun::replaceLineBreakToParagraph(strText = "a");
+        QCOMPARE(strText, QString("<p>a</p>\n"));
+        QVERIFY(CommonFun::getImageListFromHtml("", "", "").isEmpty());
+        QVERIFY(CommonFun::getFileIdListFromHtml("", "", "").isEmpty());
+        QCOMPARE(CommonFun::getTrueImagePath("", "b"), QString("b"));
+        QVERIFY(!CommonFun::getIsImageFixError(strText));
+        QCOMPARE(CommonFun::getShortString("ab", 1), QString("a\nb"));
+        QCOMPARE(CommonFun::getElidedText("a"), QString("a"));
     }
 
     void theTextsAreReachedByTheOneName()
@@ -49,7 +72,81 @@ private slots:
         QVERIFY(CommonFun::combareString("a,b", ",", "b"));
         QCOMPARE(CommonFun::getSortText("a"), QString("L"));
     }
+
+    void thePicturesAreReachedByTheOneName()
+    {
+        const QSize size(30, 30);
+        QString strName;
+        QString strId;
+        QString strPath;
+        QVERIFY(CommonFun::getFormattedImage("", "1001@d", QPixmap(), size, "png").endsWith("/1001.png"));
+        QVERIFY(CommonFun::getScaledPixmap("none.png", size).isNull());
+        QVERIFY(CommonFun::getRoundedImage("none.png", 10).isNull());
+        QVERIFY(CommonFun::getIrregularPix("none.png", 10).isNull());
+        QCOMPARE(CommonFun::drawNinePatch(size, QPixmap()).size(), size);
+        QVERIFY(CommonFun::generateWaterMark(strName, strId, strPath));
+        QVERIFY(QFile::exists(strPath));
+        QCOMPARE(CommonFun::getIconFont().pixelSize(), 12);
+        QCOMPARE(CommonFun::getIconFontPixmap("x", Qt::red, size, 12).size(), size);
+        QCOMPARE(CommonFun::getStatusTypeName(0, 0, false), QString(QChar(0xE628)));
+        QCOMPARE(CommonFun::getFileIcon("a.txt").size(), QSize(32, 32));
+        QVERIFY(CommonFun::getFileIconPath("a.txt", 16).endsWith("/icon/txt_x16.png"));
+        QVERIFY(CommonFun::extractFileIcon("none.txt", true).isNull());
+        QVERIFY(!CommonFun::getFileImg("a.txt", true, false).isNull());
+        QCOMPARE(CommonFun::getImageType("none.xyz"), QString("xyz"));
+        QCOMPARE(CommonFun::GetPictureSuffix().size(), 5);
+        QVERIFY(CommonFun::getPicSaveSuffixes("bmp").startsWith("BMP"));
+        QCOMPARE(CommonFun::getTrueImagePath("none.png", "fallback.png"), QString("fallback.png"));
+        QVERIFY(!CommonFun::getIsImageFixError(strName));
+    }
+
+    void theDigestsAreReachedByTheOneName()
+    {
+        const char *const pEmpty = "da39a3ee5e6b4b0d3255bfef95601890afd80709";
+        uint32_t digest[5];
+        CommonFun::sha1(nullptr, 0, digest);
+        QCOMPARE(CommonFun::octet_string_hex_string1(digest, 20), pEmpty);
+        sha1_ctx_t context;
+        CommonFun::sha1_init(&context);
+        CommonFun::sha1_update(&context, nullptr, 0);
+        CommonFun::sha1_final(&context, digest);
+        QCOMPARE(CommonFun::octet_string_hex_string1(digest, 20), pEmpty);
+        QCOMPARE(CommonFun::nibble_to_hex_char1(15), 'f');
+        QCOMPARE(CommonFun::getFileHash(QString()), QString(pEmpty));
+        QCOMPARE(CommonFun::getSha1(QString()), QString(pEmpty).toUpper());
+        QCOMPARE(CommonFun::getMd5(QString()), QString("D41D8CD98F00B204E9800998ECF8427E"));
+        QTest::ignoreMessage(QtDebugMsg, "error");
+        QCOMPARE(CommonFun::getFileMd5("missing"), QString());
+        QTest::ignoreMessage(QtDebugMsg, "error");
+        QCOMPARE(CommonFun::getFileSha1("missing"), QString());
+    }
+
+    void theSmallServicesAreReachedByTheOneName()
+    {
+        QCOMPARE(CommonFun::getUuid().size(), 22);
+        CommonFun::m_nAutoIncrementNumber = 7;
+        QCOMPARE(CommonFun::getShortId(), QString("impc7"));
+        QCOMPARE(CommonFun::getAutoIncrementNumber(), QString("8"));
+        QCOMPARE(CommonFun::toChineseSpell("张 3a"), QString("Z3A"));
+        QVERIFY(CommonFun::copyDirectory(QDir("missing"), QDir("copied"), false));
+        CommonFun::setSOALoginInfo("me");
+        QCOMPARE(CommonFun::getSOALoginInfo(), QString("me"));
+        QCOMPARE(CommonFun::m_strSOALoginInfo, QString("me"));
+        QVERIFY(!CommonFun::openLocalFile("missing"));
+        QVERIFY(!CommonFun::openLocalDir("missing/file"));
+        QCOMPARE(CommonFun::openMacLocalFile("missing"), 0);
+        QVERIFY(CommonFun::parseWeatherXml("missing").isEmpty());
+        QVERIFY(CommonFun::parseCityXml().isEmpty());
+        QCOMPARE(CommonFun::readStyleSheet({"missing"}), QStringList(QString()));
+        QCOMPARE(CommonFun::transformToRGBAStr("#010203"), QString("1,2,3"));
+        QVERIFY(CommonFun::isVideoChat("VRoom1"));
+        QCOMPARE(CommonFun::getUIDByAccountNo("missing", "a"), QString());
+        QCOMPARE(CommonFun::getMucRoomMaxMemberSize(), Q_INT64_C(1500));
+        static_assert(std::is_same_v<decltype(&CommonFun::getLocalIPAddress), QString (*)()>);
+        static_assert(std::is_same_v<decltype(&CommonFun::sendMail), void (*)(const QStringList &)>);
+        static_assert(std::is_same_v<decltype(&CommonFun::getAvailableMovePos), QPoint (*)(QPoint, QRect)>);
+    }
 };
 
-QTEST_GUILESS_MAIN(tst_CommonFun)
+QTEST_MAIN(tst_CommonFun)
 #include "tst_CommonFun.moc"

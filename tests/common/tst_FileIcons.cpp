@@ -28,9 +28,10 @@ private:
             QFile::remove(m_strFolder + "/unknown.png");
         }
         Q_DISABLE_COPY(OwnIcons)
+        QString pathOf(const QString &strName) const { return m_strFolder + "/" + strName; }
         QString write(const QString &strName, const QColor &color) const
         {
-            return writeBytes(m_strFolder + "/" + strName, encoded(plain(QSize(32, 32), color), "PNG"));
+            return writeBytes(pathOf(strName), encoded(plain(QSize(32, 32), color), "PNG"));
         }
 
     private:
@@ -55,6 +56,27 @@ private slots:
         const QPixmap icon = FileIcons::getFileIcon(QStringLiteral("/no/such/folder/report.txt"));
         QCOMPARE(icon.size(), QSize(32, 32));
         QCOMPARE(QDir::temp().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), before);
+    }
+
+    void existingFileIsAskedForItself()
+    {
+        // What looks like a text by its name is a folder, and shows as one.
+        QVERIFY(QDir().mkpath(QStringLiteral("box.txt")));
+        const QIcon folder = QFileIconProvider().icon(QFileInfo(QStringLiteral("box.txt")));
+        const QPixmap missing = FileIcons::getFileIcon(QStringLiteral("/no/such/box.txt"));
+        QVERIFY(QFile::remove(PictureFolders::icons() + "txt.png"));
+        const QPixmap icon = FileIcons::getFileIcon(QStringLiteral("box.txt"));
+        QCOMPARE(icon.toImage(), folder.pixmap(32, 32).toImage());
+        QVERIFY(icon.toImage() != missing.toImage());
+    }
+
+    void programsWithoutTheClientsIconGetTheSystemsInItsPlace()
+    {
+        const OwnIcons own;
+        const QPixmap icon = FileIcons::getFileIcon(QStringLiteral("/no/such/setup.exe"));
+        QCOMPARE(icon.size(), QSize(32, 32));
+        QCOMPARE(QImage(own.pathOf("exe.png")).size(), QSize(32, 32));
+        QVERIFY(filesIn(PictureFolders::icons()).isEmpty());
     }
 
     void fileOfThatNameInTheTemporaryFolderStays()

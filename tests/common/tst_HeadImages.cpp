@@ -83,6 +83,17 @@ private slots:
         QCOMPARE(QPoint(corner.red(), corner.green()), first);
     }
 
+    void largerPictureIsCutAndThenScaledFast()
+    {
+        const QImage map = mapOf(QSize(200, 90));
+        const QImage cut = map.copy(55, 0, 90, 90);
+        const QString strPath = writePng(QStringLiteral("map.png"), map);
+        const QImage scaled = HeadImages::getScaledPixmap(strPath, QSize(20, 20)).toImage();
+        const QImage fast = cut.scaled(20, 20, Qt::KeepAspectRatio, Qt::FastTransformation);
+        QVERIFY(fast != cut.scaled(20, 20, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        QCOMPARE(scaled.convertToFormat(QImage::Format_RGB32), fast);
+    }
+
     void scalingIsToldOnTheDebugChannel()
     {
         QTest::ignoreMessage(QtDebugMsg, "CommonFun::getScaledPixmap \"some/path.png\" ,resultSize: QSize(-1, 7)");
@@ -250,6 +261,14 @@ private slots:
                  mapOf(QSize(40, 20)).scaled(10, 10, Qt::IgnoreAspectRatio, Qt::FastTransformation));
     }
 
+    void headImageIsStoredAtTheBestQuality()
+    {
+        const QPixmap pixmap = QPixmap::fromImage(mapOf(QSize(40, 40)));
+        QFile file(HeadImages::getFormattedImage({}, "1001@d", pixmap, QSize(40, 40), "jpg"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), encoded(mapOf(QSize(40, 40)), "JPG"));
+    }
+
     void otherFilesOfTheAccountAreRemoved_data()
     {
         QTest::addColumn<QString>("suffix");
@@ -294,6 +313,17 @@ private slots:
         QCOMPARE(HeadImages::getFormattedImage({}, "1001@d", QPixmap(), QSize(20, 20), "png"), folder() + "1001.png");
         QCOMPARE(HeadImages::getFormattedImage({}, "1001@d", pixmap, QSize(0, 20), "png"), folder() + "1001.png");
         QCOMPARE(QDir(folder()).entryList(QDir::Files), QStringList("1001.jpg"));
+    }
+
+    void formatThatCannotBeWrittenKeepsTheOldHead()
+    {
+        QVERIFY(QDir().mkpath(folder()));
+        writeBytes(folder() + "1001.jpg", "old");
+        const QPixmap pixmap = QPixmap::fromImage(plain(QSize(30, 30), Qt::blue));
+        QCOMPARE(HeadImages::getFormattedImage({}, "1001@d", pixmap, QSize(20, 20), "gif"), folder() + "1001.gif");
+        QCOMPARE(HeadImages::getFormattedImage({}, "1001@d", pixmap, QSize(20, 20), ""), folder() + "1001.");
+        QCOMPARE(HeadImages::getFormattedImage({}, "1001@d", pixmap, QSize(20, 20), "x/png"), QString());
+        QCOMPARE(QDir(folder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList("1001.jpg"));
     }
 
     void jidCannotLeadOutOfTheFolder()

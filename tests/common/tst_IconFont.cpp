@@ -103,6 +103,16 @@ private slots:
         QVERIFY(iFull > 50);
     }
 
+    void glyphIsCentredAlsoFromTopToBottom()
+    {
+        const auto inkAt = [](int iHeight) {
+            return inkOf(IconFont::getIconFontPixmap(IconGlyph::text(IconGlyph::DesktopOnline), Qt::black,
+                                                     QSize(64, iHeight), 40)
+                             .toImage());
+        };
+        QCOMPARE(inkAt(48).translated(0, 10), inkAt(68));
+    }
+
     void pixelSizeScalesTheGlyph()
     {
         const auto heightAt = [](int iPixelSize) {

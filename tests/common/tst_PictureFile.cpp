@@ -35,6 +35,14 @@ private slots:
         QVERIFY(first.red() >= 0xFD && first.green() <= 2 && first.blue() <= 2);
     }
 
+    void bitmapFromTheTopDownIsRead()
+    {
+        QImage image = plain(QSize(6, 4), Qt::red);
+        image.setPixelColor(5, 0, Qt::blue);
+        const QString strPath = writeBytes(QStringLiteral("down.bmp"), bmpFromTheTopDown(image, -4));
+        QCOMPARE(readPictureFile(strPath).toImage().convertToFormat(QImage::Format_RGB32), image);
+    }
+
     void badPictureIsNull_data() { addBadPictureRows(); }
     void badPictureIsNull()
     {

@@ -2,6 +2,7 @@
 
 #include "fakes/EngineFixture.h"
 #include "ui/VoipWidget.h"
+#include "widgets/PushButtonEx.h"
 
 #include <QPushButton>
 #include <QTest>
@@ -227,7 +228,7 @@ void tst_CallEnd::managerEndingTheCallSendsThePairAfterTheHangUp()
     f.manager->callSingleUser("anna", false);
     f.notify(18);
     f.takeJournal();
-    f.manager->m_pVoipWidget->findChild<QPushButton *>("HangUp")->click();
+    emit f.manager->m_pVoipWidget->findChild<PushButtonEx *>("HangUp")->clicked();
     QCOMPARE(f.takeJournal(),
              QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 24 true true"}) + kWindowCloses);
 }
@@ -237,7 +238,7 @@ void tst_CallEnd::cancelSendsThePairTwice()
     EngineFixture f;
     f.manager->callSingleUser("anna", false);
     f.takeJournal();
-    f.manager->m_pVoipWidget->findChild<QPushButton *>("btnCancelCall")->click();
+    emit f.manager->m_pVoipWidget->findChild<PushButtonEx *>("btnCancelCall")->clicked();
     QCOMPARE(f.takeJournal(), QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 21 true false"}) +
                                   kWindowCloses + kWindowCloses);
 }

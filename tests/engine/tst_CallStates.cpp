@@ -219,7 +219,7 @@ void tst_CallStates::socketLossLeavesTheCall()
     EngineFixture f;
     enter(f, state);
     const bool shown = f.manager->m_pVoipWidget->isVisible();
-    const auto *clock = f.manager->m_pVoipWidget->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    const auto *clock = f.manager->m_pVoipWidget->findChild<QTimer *>("m_callTimeTimer");
     QVERIFY(!f.manager->m_reconnectTimer.isActive());
     f.process.close();
     QTRY_VERIFY(!f.manager->m_bSocketConnected);

@@ -38,7 +38,9 @@ QString LogCapture::written()
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
-    return QString::fromUtf8(file.readAll());
+    const QByteArray bytes = file.readAll();
+    // With its length, as a record may hold a null character.
+    return QString::fromUtf8(bytes.constData(), bytes.size());
 }
 
 QStringList LogCapture::take()

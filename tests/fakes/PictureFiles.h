@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QtEndian>
 
+#include <limits>
+
 namespace PictureFiles {
 
 inline QString writeBytes(const QString &strName, const QByteArray &bytes)
@@ -98,6 +100,15 @@ inline QByteArray bmpThatDeclares(quint16 uWidth, quint16 uHeight)
     return bytes.replace(18, 8, le16(uWidth) + le16(0) + le16(uHeight) + le16(0));
 }
 
+/// `image` as a BMP whose rows are stored from the top down, which it tells by a height of that negative number.
+inline QByteArray bmpFromTheTopDown(const QImage &image, qint32 iHeight)
+{
+    QByteArray bytes = encoded(image.mirrored(), "BMP");
+    QByteArray height(4, '\0');
+    qToLittleEndian(iHeight, height.data());
+    return bytes.replace(22, 4, height);
+}
+
 /// Rows of paths at which there is no picture that may be read.
 inline void addBadPictureRows()
 {
@@ -116,6 +127,8 @@ inline void addBadPictureRows()
     QTest::newRow("huge jpeg") << writeBytes(QStringLiteral("huge.jpg"), jpegThatDeclares(20000, 20000));
     QTest::newRow("huge gif") << writeBytes(QStringLiteral("huge.gif"), gifThatDeclares(20000, 20000));
     QTest::newRow("huge bmp") << writeBytes(QStringLiteral("huge.bmp"), bmpThatDeclares(20000, 20000));
+    QTest::newRow("highest bmp from the top down") << writeBytes(
+        QStringLiteral("down.bmp"), bmpFromTheTopDown(plain(QSize(4, 4), Qt::red), std::numeric_limits<qint32>::min()));
     QTest::newRow("widest png") << writeBytes(QStringLiteral("wide.png"), pngThatDeclares(0x7FFFFFFF, 0x7FFFFFFF));
 }
 

@@ -15,7 +15,8 @@ public:
 
     /// The lines of the debug channel, oldest first.
     QStringList debugLines;
-    /// The warnings and worse, oldest first, but for those that a race with the window manager may bring.
+    /// The warnings and worse, oldest first, but for those that a race with the window manager may bring and those
+    /// of the edit fields' menu sheet.
     QStringList warnings;
 
 private:

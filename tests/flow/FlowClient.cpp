@@ -122,9 +122,9 @@ QString FlowClient::callWindowText(const char *label) const
     return found ? found->text() : QString();
 }
 
-QAbstractButton *FlowClient::callWindowButton(const char *name) const
+QWidget *FlowClient::callWindowButton(const char *name) const
 {
-    return callWindow()->findChild<QAbstractButton *>(QLatin1String(name));
+    return clickTarget(callWindow()->findChild<QWidget *>(QLatin1String(name)));
 }
 
 void FlowClient::expectMessage()

@@ -9,7 +9,7 @@
 #include <QStringList>
 
 class PluginInterface;
-class QAbstractButton;
+class QWidget;
 
 /// A client that knows the plug-in from outside only: it loads the built module, speaks to it by events, reads what
 /// went over the wire from the call process's trace, and finds the windows on the screen. GUI thread; one in a process,
@@ -55,8 +55,8 @@ public:
     QWidget *callWindow() const;
     /// Text of a label of the call window.
     QString callWindowText(const char *label) const;
-    /// A button of the call window.
-    QAbstractButton *callWindowButton(const char *name) const;
+    /// What takes the clicks on a button of the call window.
+    QWidget *callWindowButton(const char *name) const;
 
     /// Closes the next message box with its default button and keeps its text in `messageText`.
     void expectMessage();

@@ -1,12 +1,12 @@
 #include "flow/ScenarioRun.h"
 
+#include "fakes/ClickTarget.h"
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
 #include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
-#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -97,10 +97,10 @@ bool ScenarioRun::connectChannel()
 
 bool ScenarioRun::press(const char *button)
 {
-    auto *found = engine.manager->m_pVoipWidget->findChild<QAbstractButton *>(QLatin1String(button));
+    auto *found = engine.manager->m_pVoipWidget->findChild<QWidget *>(QLatin1String(button));
     if (!found || !found->isVisible())
         return false;
-    QTest::mouseClick(found, Qt::LeftButton);
+    QTest::mouseClick(clickTarget(found), Qt::LeftButton);
     return true;
 }
 

@@ -14,9 +14,9 @@ FOLDER_FLOOR = {
 # Files that stand on another floor than their folder: the front of the common code, and the plug-in's side of what is
 # asked of the host, which windows and engine use.
 FILE_FLOOR = {
-    "common/CommonFun": 2, "common/CLogManger": 2, "common/FileIcons": 2, "common/HeadImages": 2, "common/IconFont": 2,
-    "common/ImagePath": 2, "common/PictureFolders": 2, "common/PictureFun": 2, "common/PictureNames": 2,
-    "common/WaterMark": 2,
+    "common/CommonFun": 2, "common/CLogManger": 2, "common/FileIcons": 2, "common/HeadImages": 2,
+    "common/HtmlImages": 2, "common/IconFont": 2, "common/ImagePath": 2, "common/MessageHtml": 2,
+    "common/PictureFolders": 2, "common/PictureFun": 2, "common/PictureNames": 2, "common/WaterMark": 2,
     "plugin/BaseEvent": 4, "plugin/EMsgId": 4, "plugin/EventPayload": 4, "plugin/HostCommands": 4,
     "plugin/HostRequests": 4, "plugin/PluginIds": 4, "plugin/PluginInterface": 4, "plugin/StrangerTest": 4,
     "plugin/VoipManageEventProcess": 4, "plugin/VoipManageMessageProcess": 4,

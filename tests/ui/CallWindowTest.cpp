@@ -7,10 +7,23 @@
 #include <QRegularExpression>
 #include <QTimer>
 
+void CallWindowTest::startAnew()
+{
+    cleanup();
+    init();
+}
+
 void CallWindowTest::showWindow()
 {
     m_pWindow->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+}
+
+QAbstractButton *CallWindowTest::button(const char *name) const
+{
+    auto *pPart = part<QWidget>(name);
+    auto *pButton = qobject_cast<QAbstractButton *>(pPart);
+    return pButton != nullptr ? pButton : pPart->findChild<QAbstractButton *>();
 }
 
 void CallWindowTest::startCall(CVoipWidget::VoipType type, bool bConnected)

@@ -4,6 +4,8 @@
 // name, all that it sends, and what it logs. Derive the test class from it. GUI thread.
 
 #include "ContactFixture.h"
+#include "common/IconGlyphs.h"
+#include "fakes/ClickTarget.h"
 #include "fakes/LogCapture.h"
 #include "ui/ConferenceListView.h"
 #include "ui/MemberRoles.h"
@@ -32,7 +34,19 @@ protected:
     QAbstractItemModel *rows() const { return part<CConferenceListView>("listView")->model(); }
     int status(int iRow) const { return rows()->index(iRow, 0).data(ROLE_CALL_STATUS).toInt(); }
     void showWindow();
-    void click(const char *name) { QTest::mouseClick(part<QPushButton>(name), Qt::LeftButton); }
+    /// A new window and no contacts, as at the start of a test function.
+    void startAnew();
+    /// The part of a button that takes the clicks: the kit's buttons hold a push button.
+    QAbstractButton *button(const char *name) const;
+    /// The glyph that a kit button shows, and its colour at rest.
+    ushort glyph(const char *name) const { return button(name)->text().at(0).unicode(); }
+    QColor glyphColor(const char *name) const { return button(name)->palette().color(QPalette::ButtonText); }
+    /// Clicks a button that is shown.
+    void click(const char *name) { QTest::mouseClick(clickTarget(part<QWidget>(name)), Qt::LeftButton); }
+    /// Clicks a button, shown or not, by its signal.
+    void press(const char *name) { QMetaObject::invokeMethod(part<QWidget>(name), "clicked"); }
+    /// Calls a slot that nothing on the screen reaches.
+    void call(const char *slot) { QVERIFY(QMetaObject::invokeMethod(m_pWindow.get(), slot)); }
     /// Sets the window up for an own call with ann (and bob).
     void startCall(CVoipWidget::VoipType type, bool bConnected = false);
     /// Clicks a button of the question that the next user action opens.

@@ -7,7 +7,6 @@
 #include "ui/VoipWidget.h"
 
 #include <QLabel>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
@@ -23,7 +22,7 @@ private:
         QLabel *label(const char *name) const { return w.findChild<QLabel *>(QLatin1String(name)); }
         QString text(const char *name) const { return label(name)->text(); }
         int page(const char *name) const { return w.findChild<QStackedWidget *>(QLatin1String(name))->currentIndex(); }
-        QPushButton *button(const char *name) const { return w.findChild<QPushButton *>(QLatin1String(name)); }
+        QWidget *part(const char *name) const { return w.findChild<QWidget *>(QLatin1String(name)); }
         QAbstractItemModel *rows() const { return w.findChild<CConferenceListView *>()->model(); }
         CVoipWidget &w;
     };
@@ -50,7 +49,7 @@ private slots:
     void cardInAConferenceGoesToTheMemberList();
     void typeOfCallIsKeptWhenTheCallIsCleared();
     void photoOfTheContactIsShownRound();
-    void missingPhotoGivesTheNeutralHead();
+    void missingPhotoGivesTheDefaultHead();
     void newCallAfterACloseStartsWithAnEmptyList();
 };
 
@@ -82,9 +81,9 @@ void tst_VoipWidgetCalls::voiceCallShowsNameStateAndRequestControls()
     QCOMPARE(shown.page("displayPane"), 0);
     QCOMPARE(shown.page("controlPane"), 0);
     QVERIFY(shown.label("lblUserName")->isVisible());
-    QVERIFY(shown.button("btnCancelCall")->isVisible());
-    QVERIFY(!shown.button("HangUp")->isVisible());
-    QVERIFY(shown.button("btnMuteAll")->isHidden());
+    QVERIFY(shown.part("btnCancelCall")->isVisible());
+    QVERIFY(!shown.part("HangUp")->isVisible());
+    QVERIFY(shown.part("btnMuteAll")->isHidden());
     QVERIFY(shown.label("currentPlayTimeLabel")->isHidden());
 }
 
@@ -100,7 +99,7 @@ void tst_VoipWidgetCalls::videoCallShowsNameAndUidInTheTip()
     QCOMPARE(window.windowTitle(), QStringLiteral("视频通话"));
     QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("与Ann(Annie)(ann)通话中"));
     QCOMPARE(shown.page("displayPane"), 1);
-    QVERIFY(shown.button("btnMuteAll")->isHidden());
+    QVERIFY(shown.part("btnMuteAll")->isHidden());
 }
 
 void tst_VoipWidgetCalls::conferenceShowsMembersAndCount_data()
@@ -123,8 +122,8 @@ void tst_VoipWidgetCalls::conferenceShowsMembersAndCount()
     QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("语音会议通话中"));
     QCOMPARE(shown.text("lblListCount"), QStringLiteral("参与人员(2)"));
     QCOMPARE(shown.page("displayPane"), 2);
-    QCOMPARE(shown.button("btnMuteAll")->isHidden(), !myCall);
-    QCOMPARE(shown.button("btnAddMember")->isHidden(), !myCall);
+    QCOMPARE(shown.part("btnMuteAll")->isHidden(), !myCall);
+    QCOMPARE(shown.part("btnAddMember")->isHidden(), !myCall);
     QCOMPARE(shown.rows()->rowCount(), 2);
     QCOMPARE(shown.rows()->index(1, 0).data(ROLE_USER_ID).toString(), QStringLiteral("bob"));
     QCOMPARE(shown.rows()->index(0, 0).data(ROLE_CALL_BY_ME).toBool(), myCall);
@@ -151,7 +150,7 @@ void tst_VoipWidgetCalls::emptyListChangesNothingForSingleCalls()
     QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("语音会议通话中"));
     QCOMPARE(shown.page("displayPane"), 2);
     QCOMPARE(shown.page("controlPane"), 1);
-    QVERIFY(!shown.button("btnMuteAll")->isHidden());
+    QVERIFY(!shown.part("btnMuteAll")->isHidden());
     // The type is still that of a conference: a card goes to the list.
     window.updateUserInfo(ContactFixture::jid(QStringLiteral("ann")), ContactFixture::card(QStringLiteral("A"), {}));
     QCOMPARE(shown.rows()->index(0, 0).data(ROLE_DISPLAY_NAME).toString(), QStringLiteral("A"));
@@ -202,7 +201,7 @@ void tst_VoipWidgetCalls::connectingStartsTheClock()
     ContactFixture contacts;
     CVoipWidget window;
     const Shown shown(window);
-    const auto *clock = window.findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    const auto *clock = window.findChild<QTimer *>(QStringLiteral("m_callTimeTimer"));
     window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
     QVERIFY(!clock->isActive());
 
@@ -221,7 +220,7 @@ void tst_VoipWidgetCalls::droppedStatusGoesBackToRequestControlsAndTheClockRunsO
     ContactFixture contacts;
     CVoipWidget window;
     const Shown shown(window);
-    const auto *clock = window.findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    const auto *clock = window.findChild<QTimer *>(QStringLiteral("m_callTimeTimer"));
     window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, false, false);
     window.setVoipCallStatus(true);
 
@@ -247,7 +246,7 @@ void tst_VoipWidgetCalls::clockShowsTheSecondsSinceConnecting()
     window.setVoipCallStatus(true);
     QCOMPARE(shown.text("currentPlayTimeLabel"), QString());
 
-    auto *clock = window.findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    auto *clock = window.findChild<QTimer *>(QStringLiteral("m_callTimeTimer"));
     clock->setInterval(0);
 
     QTRY_VERIFY(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")));
@@ -368,8 +367,13 @@ void tst_VoipWidgetCalls::photoOfTheContactIsShownRound()
     QCOMPARE(head.pixelColor(0, 0).alpha(), 0);
 }
 
-void tst_VoipWidgetCalls::missingPhotoGivesTheNeutralHead()
+void tst_VoipWidgetCalls::missingPhotoGivesTheDefaultHead()
 {
+    const QString strDefault = QStringLiteral("Resources/images/FriendDetail/defaultHead.png");
+    QVERIFY(QDir().mkpath(QFileInfo(strDefault).path()));
+    QImage head(40, 40, QImage::Format_RGB32);
+    head.fill(Qt::blue);
+    QVERIFY(head.save(strDefault));
     ContactFixture contacts;
     contacts.addContact(QStringLiteral("ann"),
                         ContactFixture::card(QStringLiteral("Ann"), {}, QStringLiteral("no/such/photo.png")));
@@ -377,9 +381,9 @@ void tst_VoipWidgetCalls::missingPhotoGivesTheNeutralHead()
 
     window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
 
-    const QImage head = Shown(window).label("lblPhotoIcon")->pixmap(Qt::ReturnByValue).toImage();
-    QCOMPARE(head.pixelColor(head.width() / 2, head.height() / 2).alpha(), 255);
-    QCOMPARE(head.pixelColor(0, 0).alpha(), 0);
+    const QImage shown = Shown(window).label("lblPhotoIcon")->pixmap(Qt::ReturnByValue).toImage();
+    QCOMPARE(shown.pixelColor(shown.width() / 2, shown.height() / 2), QColor(Qt::blue));
+    QCOMPARE(shown.pixelColor(0, 0).alpha(), 0);
 }
 
 void tst_VoipWidgetCalls::newCallAfterACloseStartsWithAnEmptyList()

@@ -150,7 +150,9 @@ void tst_IconButtonEx::init()
     m_window.resize(120, 100);
     m_pButton = new CIconButtonEx(&m_window);
     m_pButton->setGeometry(40, 40, cSide, cSide);
+    // Shown once for all: a window manager may miss one that goes and comes back at once.
     m_window.show();
+    m_pButton->show();
     QVERIFY(QTest::qWaitForWindowExposed(&m_window));
     moveOut();
     QCoreApplication::processEvents();
@@ -160,7 +162,6 @@ void tst_IconButtonEx::cleanup()
 {
     moveOut();
     delete m_pButton;
-    m_window.hide();
 }
 
 void tst_IconButtonEx::formHasItsNamesAndSizes()

@@ -1,0 +1,28 @@
+#include "common/PlainText.h"
+
+#include "common/BoundedHtml.h"
+#include "common/HtmlText.h"
+
+#include <QTextDocument>
+#include <QVariant>
+
+namespace {
+
+/// A document that reads none of the files that a message names.
+class ClosedDocument : public QTextDocument
+{
+protected:
+    QVariant loadResource(int, const QUrl &) override { return {}; }
+};
+
+} // namespace
+
+void PlainText::convertToPlaintText(QString &strText)
+{
+    HtmlText::replaceSpace(strText);
+    ClosedDocument document;
+    document.setUndoRedoEnabled(false);
+    document.setHtml(BoundedHtml::modest(strText));
+    strText = document.toPlainText();
+    strText.replace(QLatin1String("\n\n"), QLatin1String("\n"));
+}

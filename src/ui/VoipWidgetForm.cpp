@@ -1,0 +1,96 @@
+// The call window's construction: the form, the look of its parts, and what its controls are connected to.
+
+#include "ui/VoipWidget.h"
+
+#include "ui_VoipWidget.h"
+
+#include "common/DpiScale.h"
+#include "common/IconGlyphs.h"
+#include "ui/CallWindowStyle.h"
+#include "widgets/MyRubberBand.h"
+
+#include <QSlider>
+
+namespace {
+
+constexpr int cWindowWidth = 523;
+constexpr int cWindowHeight = 403;
+
+} // namespace
+
+CVoipWidget::CVoipWidget(QWidget *parent) : QWidget(parent), ui(std::make_unique<Ui::CVoipWidget>())
+{
+    setUpForm();
+    m_pMicSlider = newVolumeSlider();
+    m_pMicSlider->setObjectName(QStringLiteral("m_pMicSlider"));
+    m_pSpeakerSlider = newVolumeSlider();
+    m_pSpeakerSlider->setObjectName(QStringLiteral("m_pSpeakerSlider"));
+    m_callTimeTimer.setParent(this);
+    m_callTimeTimer.setObjectName(QStringLiteral("m_callTimeTimer"));
+    applyCallWindowStyle(this);
+    ui->currentPlayTimeLabel->hide();
+    ui->currentPlayTimeLabel->clear();
+    connectControls();
+    setStyleSheet(QString::fromUtf8(cSliderStyleSheet));
+    SetMicButton(m_bMicMute);
+    SetSpeakerButton(m_bSpeakerMute);
+    SetCameraButton(m_bCameraEnable);
+    setMuteAllButton(m_bMuteAll);
+    ADAPT_DPI_WIDGET(this);
+}
+
+CVoipWidget::~CVoipWidget()
+{
+    if (m_pRubberBand != nullptr)
+        m_pRubberBand->deleteLater();
+    m_pRubberBand = nullptr;
+}
+
+void CVoipWidget::setUpForm()
+{
+    ui->setupUi(this);
+    setWindowFlags(Qt::FramelessWindowHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setMouseTracking(true);
+    installEventFilter(this);
+    setFixedHeight(cWindowHeight);
+    setFixedWidth(cWindowWidth);
+    ui->btnClose->setIconFont(IconGlyph::text(IconGlyph::Close), 8, 3);
+    ui->btnClose->setToolTip(tr("close"));
+    ui->btnMuteAll->setIconFont(IconGlyph::text(IconGlyph::SpeakerOff), 16, 0);
+    for (CIconButtonEx *pButton : {ui->btnMic, ui->btnSpeaker, ui->btnCamera, ui->btnChangeWindow})
+        pButton->installEventFilter(this);
+    // The window comes up while the user types elsewhere: no blank or return may press what ends the call.
+    for (PushButtonEx *pButton : {ui->btnCancelCall, ui->HangUp})
+        pButton->findChild<QAbstractButton *>()->setFocusPolicy(Qt::NoFocus);
+    // Deliberate: no call shows these two; what they do is reached by code only.
+    ui->btnCamera->hide();
+    ui->btnChangeWindow->hide();
+}
+
+void CVoipWidget::connectControls()
+{
+    connect(ui->HangUp, &PushButtonEx::clicked, this, &CVoipWidget::slot_HangUpCall);
+    connect(ui->btnClose, &CIconButtonEx::clicked, this, &CVoipWidget::slot_close);
+    connect(ui->btnMic, &CIconButtonEx::clicked, this, &CVoipWidget::slot_MicButtonClicked);
+    connect(ui->btnSpeaker, &CIconButtonEx::clicked, this, &CVoipWidget::slot_SpeakerButtonClicked);
+    connect(ui->btnCamera, &CIconButtonEx::clicked, this, &CVoipWidget::slot_CameraButtonClicked);
+    connect(ui->btnChangeWindow, &CIconButtonEx::clicked, this, &CVoipWidget::slot_WindowChangeButtonClicked);
+    connect(m_pMicSlider, &QSlider::valueChanged, this, &CVoipWidget::slot_MicVolumChanged);
+    connect(m_pSpeakerSlider, &QSlider::valueChanged, this, &CVoipWidget::slot_SpeakerVolumChanged);
+    connect(&m_micSliderTimer, &QTimer::timeout, this, &CVoipWidget::slot_MicSilderHide);
+    connect(&m_speakerSliderTimer, &QTimer::timeout, this, &CVoipWidget::slot_SpeakerSilderHide);
+    connect(&m_callTimeTimer, &QTimer::timeout, this, &CVoipWidget::slot_RefreshTime);
+    connect(ui->btnCancelCall, &PushButtonEx::clicked, this, &CVoipWidget::slot_CancelVoipCall);
+    connectConferenceControls();
+}
+
+void CVoipWidget::connectConferenceControls()
+{
+    connect(ui->btnAddMember, &QPushButton::clicked, this, &CVoipWidget::slot_AddConferenceMember);
+    connect(ui->btnMuteAll, &CIconButtonEx::clicked, this, &CVoipWidget::slot_MuteAll);
+    connect(ui->listView, &CConferenceListView::signal_RemoveUser, this, &CVoipWidget::slot_RemoveConferenceMember);
+    connect(ui->listView, &CConferenceListView::signal_MuteUser, this, &CVoipWidget::slot_MuteConferenceMember);
+    connect(ui->listView, &CConferenceListView::signal_ReInviteConfUser, this, &CVoipWidget::slot_ReInviteConfUser);
+}

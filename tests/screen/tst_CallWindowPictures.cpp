@@ -1,0 +1,234 @@
+// The call window's pages and states beside committed pictures.
+
+#include "ComparedPicture.h"
+#include "ui/ContactFixture.h"
+#include "ui/MemberRoles.h"
+#include "ui/VoipWidget.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFontInfo>
+#include <QLabel>
+#include <QStyleFactory>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+const QString cFamily = QStringLiteral("Noto Sans CJK SC");
+
+using SetUp = std::function<void(CVoipWidget &)>;
+
+/// The name of a picture, and how the window comes to look like it.
+struct Page
+{
+    const char *name;
+    SetUp setUp;
+};
+
+QString uid(const char *name)
+{
+    return QLatin1String(name);
+}
+
+SetUp call(CVoipWidget::VoipType type, bool bMine)
+{
+    return [=](CVoipWidget &w) {
+        w.setVoipCallInfo({uid("ann"), uid("bob"), uid("cat"), uid("dan")}, type, bMine, false);
+    };
+}
+
+// The clock stands still at a time of its own.
+SetUp connected(const SetUp &first)
+{
+    return [=](CVoipWidget &w) {
+        first(w);
+        w.setVoipCallStatus(true);
+        w.findChild<QTimer *>(QStringLiteral("m_callTimeTimer"))->stop();
+        w.findChild<QLabel *>(QStringLiteral("currentPlayTimeLabel"))->setText(QStringLiteral("00:01:25"));
+    };
+}
+
+SetUp clicked(const SetUp &first, const QList<const char *> &buttons)
+{
+    return [=](CVoipWidget &w) {
+        first(w);
+        for (const char *button : buttons)
+            QMetaObject::invokeMethod(w.findChild<QWidget *>(QLatin1String(button)), "clicked");
+    };
+}
+
+SetUp dropped(const SetUp &first)
+{
+    return [=](CVoipWidget &w) {
+        first(w);
+        w.setVoipCallStatus(false);
+    };
+}
+
+SetUp withSurface(const SetUp &first)
+{
+    return [=](CVoipWidget &w) {
+        auto *pSurface = new QWidget;
+        pSurface->setAutoFillBackground(true);
+        pSurface->setPalette(QPalette(QColor(0x20, 0x24, 0x2a)));
+        w.addVoipWidget(pSurface);
+        first(w);
+    };
+}
+
+SetUp withStatuses(const SetUp &first)
+{
+    return [=](CVoipWidget &w) {
+        first(w);
+        w.setConferenceCreator(uid("ann"));
+        w.updateConferenceListStatus({uid("ann"), uid("bob")});
+        w.setaddConfFailedList({uid("cat")});
+    };
+}
+
+const QList<Page> &pages()
+{
+    const SetUp voice = call(CVoipWidget::Voice, true);
+    const SetUp video = withSurface(call(CVoipWidget::Video, true));
+    const SetUp mine = withStatuses(call(CVoipWidget::Conference, true));
+    const SetUp joined = withStatuses(call(CVoipWidget::Conference, false));
+    static const QList<Page> all{
+        {"voice-outgoing", voice},
+        {"voice-incoming", call(CVoipWidget::Voice, false)},
+        {"voice-connected", connected(voice)},
+        {"voice-muted", clicked(connected(voice), {"btnMic", "btnSpeaker"})},
+        {"voice-dropped", dropped(connected(voice))},
+        {"voice-full-screen", clicked(connected(voice), {"btnChangeWindow"})},
+        {"voice-long-name", [](CVoipWidget &w) { w.setVoipCallInfo({uid("long")}, CVoipWidget::Voice, true, false); }},
+        {"video-outgoing", video},
+        {"video-connected", connected(video)},
+        {"video-long-name", [](CVoipWidget &w) { w.setVoipCallInfo({uid("long")}, CVoipWidget::Video, true, false); }},
+        {"conference-mine", mine},
+        {"conference-mine-connected", connected(mine)},
+        {"conference-mute-all", clicked(connected(mine), {"btnMuteAll"})},
+        {"conference-joined", joined},
+        {"conference-joined-connected", connected(joined)},
+        {"conference-empty", [](CVoipWidget &w) { w.setVoipCallInfo({}, CVoipWidget::Conference, true, false); }},
+    };
+    return all;
+}
+
+} // namespace
+
+class tst_CallWindowPictures : public QObject
+{
+    Q_OBJECT
+
+private:
+    /// The window with that page on the screen.
+    QImage picture(const SetUp &setUp);
+    QImage picture(const char *name);
+
+    std::unique_ptr<ContactFixture> m_pContacts;
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void pageLooksAsCommitted_data();
+    void pageLooksAsCommitted();
+    void oneGlyphIsADifference_data();
+    void oneGlyphIsADifference();
+};
+
+void tst_CallWindowPictures::initTestCase()
+{
+    // The program finds its pictures and its icon font below the working directory, which is the test's own.
+    for (const char *pFile : {"BaseConfig/kelvarimiconfont.ttf", "images/FriendDetail/defaultHead.png",
+                              "SystemAvatar/3.jpg", "SystemAvatar/8.jpg", "SystemAvatar/12.jpg"}) {
+        const QString strFile = QStringLiteral("Resources/") + QLatin1String(pFile);
+        QVERIFY(QDir().mkpath(QFileInfo(strFile).path()));
+        QVERIFY2(QFile::copy(QStringLiteral(VOIP_RESOURCES "/") + QLatin1String(pFile), strFile), pFile);
+    }
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(QApplication::style()->standardPalette());
+    QFont::insertSubstitution(QStringLiteral("微软雅黑"), cFamily);
+    QFont font(cFamily);
+    font.setPixelSize(12);
+    QApplication::setFont(font);
+    QVERIFY2(QFontInfo(font).family() == cFamily, "the package fonts-noto-cjk is missing");
+    QCursor::setPos(QPoint(0, 0));
+}
+
+void tst_CallWindowPictures::init()
+{
+    m_pContacts = std::make_unique<ContactFixture>();
+    m_pContacts->addContact(uid("ann"), ContactFixture::card(QStringLiteral("安然"), uid("Ann"),
+                                                             QStringLiteral("Resources/SystemAvatar/3.jpg")));
+    m_pContacts->addContact(uid("bob"), ContactFixture::card(QStringLiteral("包博"), uid("Bob"),
+                                                             QStringLiteral("Resources/SystemAvatar/8.jpg")));
+    m_pContacts->addContact(uid("cat"), ContactFixture::card(QStringLiteral("陈可"), uid("Cat"),
+                                                             QStringLiteral("Resources/SystemAvatar/12.jpg")));
+    m_pContacts->addContact(uid("long"), ContactFixture::card(QString(100, QChar(0x540d)), uid("<b>%2</b>")));
+}
+
+void tst_CallWindowPictures::cleanup()
+{
+    m_pContacts.reset();
+}
+
+QImage tst_CallWindowPictures::picture(const SetUp &setUp)
+{
+    CVoipWidget window;
+    window.move(200, 200);
+    setUp(window);
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window))
+        return {};
+    // The second of two: rows are at their places once they have been painted.
+    ComparedPicture::of(&window);
+    QCoreApplication::processEvents();
+    return ComparedPicture::of(&window);
+}
+
+QImage tst_CallWindowPictures::picture(const char *name)
+{
+    for (const Page &page : pages())
+        if (qstrcmp(page.name, name) == 0)
+            return picture(page.setUp);
+    return {};
+}
+
+void tst_CallWindowPictures::pageLooksAsCommitted_data()
+{
+    QTest::addColumn<bool>("committed");
+    for (const Page &page : pages())
+        QTest::newRow(page.name) << true;
+}
+
+void tst_CallWindowPictures::pageLooksAsCommitted()
+{
+    const char *name = QTest::currentDataTag();
+    const QImage found = picture(name);
+    QCOMPARE(found.size(), QSize(523, 403) * qApp->devicePixelRatio());
+    const QString strComplaint = ComparedPicture::complaint(uid(name), found);
+    QVERIFY2(strComplaint.isEmpty(), qPrintable(strComplaint));
+}
+
+void tst_CallWindowPictures::oneGlyphIsADifference_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    for (const char *button : {"btnMic", "btnSpeaker"})
+        QTest::newRow(button) << QByteArray(button);
+}
+
+void tst_CallWindowPictures::oneGlyphIsADifference()
+{
+    QFETCH(QByteArray, button);
+    const SetUp voice = connected(call(CVoipWidget::Voice, true));
+    const QImage changed = picture(clicked(voice, {button.constData()}));
+    QVERIFY(ComparedPicture::differingPixels(changed, picture(voice)) > 12);
+}
+
+QTEST_MAIN(tst_CallWindowPictures)
+
+#include "tst_CallWindowPictures.moc"

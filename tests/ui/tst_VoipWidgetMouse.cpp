@@ -1,0 +1,325 @@
+// How the mouse moves and resizes the call window: events through the window system, from the press to the release.
+
+#include "CallWindowTest.h"
+#include "widgets/MyRubberBand.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QWindow>
+
+namespace {
+
+const QPoint cHome(400, 300);
+const QSize cSize(523, 403);
+
+// A place inside that no control takes: the title, left of its text.
+const QPoint cInside(15, 20);
+
+} // namespace
+
+class tst_VoipWidgetMouse : public CallWindowTest
+{
+    Q_OBJECT
+
+private:
+    static QRect workArea() { return QGuiApplication::primaryScreen()->availableGeometry(); }
+    static MyRubberBand *band();
+    static bool isBandShown() { return band() != nullptr && band()->isVisible(); }
+    void showAtHome();
+    // Mouse events at a global place, in pixels away from the window's home.
+    QPoint local(const QPoint &away) const { return cHome + away - m_pWindow->windowHandle()->geometry().topLeft(); }
+    void mouseTo(const QPoint &away) { QTest::mouseMove(m_pWindow->windowHandle(), local(away)); }
+    void mouseDown(const QPoint &away, Qt::MouseButton held = Qt::LeftButton);
+    void mouseUp(const QPoint &away, Qt::MouseButton held = Qt::LeftButton);
+
+private slots:
+    void cursorFollowsTheEdge_data();
+    void cursorFollowsTheEdge();
+    void dragOfAnEdgeMovesTheBandAndThenTheCorner_data();
+    void dragOfAnEdgeMovesTheBandAndThenTheCorner();
+    void dragInwardsKeepsTheSmallestSize_data();
+    void dragInwardsKeepsTheSmallestSize();
+    void dragBeyondTheWorkAreaKeepsItsSize();
+    void pressInTheBandWithoutAMoveOnlyHidesTheBand();
+    void dragOfTheInsideMovesTheWindowAtOnce();
+    void draggedDownTheWindowStaysReachable();
+    void rightButtonEndsTheDragButKeepsTheEdge();
+    void rightButtonAloneMovesNothing();
+    void releaseForgetsTheEdge();
+    void clearedCallForgetsTheDrag();
+    void bandGoesWithTheWindow();
+    void fullScreenAndBack();
+};
+
+MyRubberBand *tst_VoipWidgetMouse::band()
+{
+    for (QWidget *pWidget : QApplication::topLevelWidgets())
+        if (auto *pBand = qobject_cast<MyRubberBand *>(pWidget))
+            return pBand;
+    return nullptr;
+}
+
+void tst_VoipWidgetMouse::showAtHome()
+{
+    // The real pointer stays away: its own enter events would count as moves.
+    QCursor::setPos(workArea().bottomRight() - QPoint(20, 20));
+    // Without a window manager's own opinion on places beyond the screen.
+    m_pWindow->setWindowFlag(Qt::X11BypassWindowManagerHint);
+    m_pWindow->move(cHome);
+    startCall(CVoipWidget::Voice, true);
+    showWindow();
+    QTRY_COMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
+    QTRY_COMPARE(m_pWindow->windowHandle()->geometry(), QRect(cHome, cSize));
+}
+
+void tst_VoipWidgetMouse::mouseDown(const QPoint &away, Qt::MouseButton held)
+{
+    QTest::mousePress(m_pWindow->windowHandle(), held, Qt::NoModifier, local(away));
+}
+
+void tst_VoipWidgetMouse::mouseUp(const QPoint &away, Qt::MouseButton held)
+{
+    QTest::mouseRelease(m_pWindow->windowHandle(), held, Qt::NoModifier, local(away));
+}
+
+void tst_VoipWidgetMouse::cursorFollowsTheEdge_data()
+{
+    QTest::addColumn<QPoint>("place");
+    QTest::addColumn<Qt::CursorShape>("shape");
+    QTest::newRow("inside") << cInside << Qt::ArrowCursor;
+    QTest::newRow("left") << QPoint(1, 200) << Qt::SizeHorCursor;
+    QTest::newRow("top") << QPoint(200, 1) << Qt::SizeVerCursor;
+    QTest::newRow("top left") << QPoint(1, 1) << Qt::SizeFDiagCursor;
+    QTest::newRow("right") << QPoint(521, 200) << Qt::SizeHorCursor;
+    QTest::newRow("top right") << QPoint(521, 1) << Qt::SizeBDiagCursor;
+    QTest::newRow("bottom") << QPoint(200, 401) << Qt::SizeVerCursor;
+    QTest::newRow("bottom left") << QPoint(1, 401) << Qt::SizeBDiagCursor;
+    QTest::newRow("bottom right") << QPoint(521, 401) << Qt::SizeFDiagCursor;
+}
+
+void tst_VoipWidgetMouse::cursorFollowsTheEdge()
+{
+    QFETCH(QPoint, place);
+    showAtHome();
+    m_pWindow->setCursor(Qt::WaitCursor);
+    mouseTo(place);
+    QTEST(m_pWindow->cursor().shape(), "shape");
+    QVERIFY(!isBandShown());
+}
+
+void tst_VoipWidgetMouse::dragOfAnEdgeMovesTheBandAndThenTheCorner_data()
+{
+    QTest::addColumn<QPoint>("press");
+    QTest::addColumn<QPoint>("target");
+    QTest::addColumn<QRect>("bandRect"); // away from the window's home
+    QTest::newRow("left") << QPoint(1, 200) << QPoint(-50, 210) << QRect(QPoint(-50, 0), QPoint(522, 402));
+    QTest::newRow("top") << QPoint(200, 1) << QPoint(210, -40) << QRect(QPoint(0, -40), QPoint(522, 402));
+    QTest::newRow("top left") << QPoint(1, 1) << QPoint(-50, -40) << QRect(QPoint(-50, -40), QPoint(522, 402));
+    QTest::newRow("right") << QPoint(521, 200) << QPoint(600, 210) << QRect(QPoint(0, 0), QPoint(599, 402));
+    QTest::newRow("top right") << QPoint(521, 1) << QPoint(600, -40) << QRect(QPoint(0, -40), QPoint(599, 402));
+    QTest::newRow("bottom") << QPoint(200, 401) << QPoint(210, 500) << QRect(QPoint(0, 0), QPoint(522, 499));
+    QTest::newRow("bottom left") << QPoint(1, 401) << QPoint(-50, 500) << QRect(QPoint(-50, 0), QPoint(522, 499));
+    // The one corner that has the cursor's own pixel.
+    QTest::newRow("bottom right") << QPoint(521, 401) << QPoint(600, 500) << QRect(QPoint(0, 0), QPoint(600, 500));
+}
+
+void tst_VoipWidgetMouse::dragOfAnEdgeMovesTheBandAndThenTheCorner()
+{
+    QFETCH(QPoint, press);
+    QFETCH(QPoint, target);
+    QFETCH(QRect, bandRect);
+    showAtHome();
+    mouseTo(press);
+    mouseDown(press);
+    QVERIFY(isBandShown());
+    QCOMPARE(band()->geometry(), QRect(cHome, cSize));
+
+    mouseTo((press + target) / 2);
+    mouseTo(target);
+    QCOMPARE(band()->geometry(), bandRect.translated(cHome));
+    QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
+
+    mouseUp(target);
+    QVERIFY(!isBandShown());
+    // The window's size is fixed: only the corner comes from the band.
+    QTRY_COMPARE(m_pWindow->geometry(), QRect(cHome + bandRect.topLeft(), cSize));
+}
+
+void tst_VoipWidgetMouse::dragInwardsKeepsTheSmallestSize_data()
+{
+    QTest::addColumn<QPoint>("press");
+    for (const QPoint &press : {QPoint(1, 200), QPoint(200, 1), QPoint(1, 1), QPoint(521, 200), QPoint(521, 1),
+                                QPoint(200, 401), QPoint(1, 401), QPoint(521, 401)})
+        QTest::addRow("%d,%d", press.x(), press.y()) << press;
+}
+
+void tst_VoipWidgetMouse::dragInwardsKeepsTheSmallestSize()
+{
+    QFETCH(QPoint, press);
+    showAtHome();
+    mouseTo(press);
+    mouseDown(press);
+    mouseTo(QPoint(260, 200));
+    QCOMPARE(band()->geometry(), QRect(cHome, cSize));
+    mouseUp(QPoint(260, 200));
+    QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
+}
+
+void tst_VoipWidgetMouse::dragBeyondTheWorkAreaKeepsItsSize()
+{
+    showAtHome();
+    mouseTo(QPoint(521, 401));
+    mouseDown(QPoint(521, 401));
+    mouseTo(QPoint(9000, 8000));
+    QCOMPARE(band()->geometry(), QRect(cHome, workArea().size()));
+    mouseUp(QPoint(9000, 8000));
+    QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
+}
+
+void tst_VoipWidgetMouse::pressInTheBandWithoutAMoveOnlyHidesTheBand()
+{
+    showAtHome();
+    // A finished drag before leaves a rectangle behind, which the second release must not use.
+    mouseTo(QPoint(1, 200));
+    mouseDown(QPoint(1, 200));
+    mouseTo(QPoint(-50, 200));
+    mouseUp(QPoint(-50, 200));
+    QTRY_COMPARE(m_pWindow->pos(), cHome + QPoint(-50, 0));
+    m_pWindow->move(cHome);
+    QTRY_COMPARE(m_pWindow->windowHandle()->geometry(), QRect(cHome, cSize));
+
+    mouseTo(QPoint(1, 200));
+    mouseDown(QPoint(1, 200));
+    QVERIFY(isBandShown());
+    mouseUp(QPoint(1, 200));
+    QVERIFY(!isBandShown());
+    QCOMPARE(m_pWindow->pos(), cHome);
+}
+
+void tst_VoipWidgetMouse::dragOfTheInsideMovesTheWindowAtOnce()
+{
+    showAtHome();
+    mouseTo(cInside);
+    mouseDown(cInside);
+    mouseTo(cInside + QPoint(30, 40));
+    QTRY_COMPARE(m_pWindow->windowHandle()->geometry(), QRect(cHome + QPoint(30, 40), cSize));
+    QVERIFY(band() == nullptr);
+    mouseTo(cInside + QPoint(-60, -70));
+    QTRY_COMPARE(m_pWindow->windowHandle()->geometry(), QRect(cHome + QPoint(-60, -70), cSize));
+    mouseUp(cInside + QPoint(-60, -70));
+    QCOMPARE(m_pWindow->pos(), cHome + QPoint(-60, -70));
+    mouseTo(cInside + QPoint(5, 5));
+    QCOMPARE(m_pWindow->pos(), cHome + QPoint(-60, -70));
+}
+
+void tst_VoipWidgetMouse::draggedDownTheWindowStaysReachable()
+{
+    showAtHome();
+    mouseTo(cInside);
+    mouseDown(cInside);
+    mouseTo(cInside + QPoint(0, 5000));
+    QCOMPARE(m_pWindow->pos(), QPoint(cHome.x(), workArea().height() - 10));
+    mouseUp(cInside + QPoint(0, 5000));
+    QCOMPARE(m_pWindow->pos(), QPoint(cHome.x(), workArea().height() - 10));
+}
+
+void tst_VoipWidgetMouse::rightButtonEndsTheDragButKeepsTheEdge()
+{
+    showAtHome();
+    mouseTo(QPoint(1, 200));
+    mouseDown(QPoint(1, 200));
+    QMouseEvent right(QEvent::MouseButtonPress, QPointF(1, 200), QPointF(1, 200), cHome + QPointF(1, 200),
+                      Qt::RightButton, Qt::LeftButton | Qt::RightButton, Qt::NoModifier);
+    QApplication::sendEvent(m_pWindow.get(), &right);
+    // Not pressed any more: the next move only looks where the cursor is.
+    mouseTo(QPoint(-50, 200));
+    QCOMPARE(band()->geometry(), QRect(cHome, cSize));
+
+    // The edge of before the right press still counts for a left press without a move in between.
+    mouseTo(QPoint(1, 200));
+    QApplication::sendEvent(m_pWindow.get(), &right);
+    mouseUp(QPoint(1, 200), Qt::RightButton);
+    band()->hide();
+    mouseDown(QPoint(1, 200));
+    QVERIFY(isBandShown());
+    mouseUp(QPoint(1, 200));
+}
+
+void tst_VoipWidgetMouse::rightButtonAloneMovesNothing()
+{
+    showAtHome();
+    mouseTo(cInside);
+    mouseDown(cInside, Qt::RightButton);
+    mouseTo(cInside + QPoint(30, 40));
+    mouseUp(cInside + QPoint(30, 40), Qt::RightButton);
+    QCOMPARE(m_pWindow->pos(), cHome);
+    QVERIFY(!isBandShown());
+}
+
+void tst_VoipWidgetMouse::releaseForgetsTheEdge()
+{
+    showAtHome();
+    mouseTo(QPoint(1, 200));
+    mouseDown(QPoint(1, 200));
+    mouseUp(QPoint(1, 200));
+    // Without a move in between the next press is one of the inside.
+    mouseDown(QPoint(1, 200));
+    QVERIFY(!isBandShown());
+    mouseTo(QPoint(21, 200));
+    QTRY_COMPARE(m_pWindow->pos(), cHome + QPoint(20, 0));
+    mouseUp(QPoint(21, 200));
+}
+
+void tst_VoipWidgetMouse::clearedCallForgetsTheDrag()
+{
+    showAtHome();
+    mouseTo(QPoint(1, 200));
+    mouseDown(QPoint(1, 200));
+    mouseTo(QPoint(-50, 200));
+    m_pWindow->ClearCallInfoData();
+    mouseUp(QPoint(-50, 200));
+    QVERIFY(!isBandShown());
+    QCOMPARE(m_pWindow->pos(), cHome);
+}
+
+void tst_VoipWidgetMouse::bandGoesWithTheWindow()
+{
+    showAtHome();
+    mouseTo(QPoint(1, 200));
+    mouseDown(QPoint(1, 200));
+    const QPointer<MyRubberBand> pBand = band();
+    QCOMPARE(pBand->shape(), QRubberBand::Rectangle);
+    mouseUp(QPoint(1, 200));
+    mouseTo(QPoint(200, 1));
+    mouseDown(QPoint(200, 1));
+    QCOMPARE(band(), pBand.data());
+    mouseUp(QPoint(200, 1));
+    m_pWindow.reset();
+    QVERIFY(!pBand.isNull());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(pBand.isNull());
+}
+
+void tst_VoipWidgetMouse::fullScreenAndBack()
+{
+    showAtHome();
+    call("slot_WindowChangeButtonClicked");
+    // The fixed size wins; the corner overshoots the work area.
+    QCOMPARE(m_pWindow->geometry(), QRect(workArea().topLeft() - QPoint(4, 4), cSize));
+    QVERIFY(part<QWidget>("titleWidget")->isHidden());
+    QCOMPARE(glyph("btnChangeWindow"), IconGlyph::Restore);
+    QCOMPARE(glyphColor("btnChangeWindow"), QColor(Qt::white));
+    QCOMPARE(part<QWidget>("btnChangeWindow")->toolTip(), QStringLiteral("restore"));
+
+    call("slot_WindowChangeButtonClicked");
+    QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
+    QVERIFY(!part<QWidget>("titleWidget")->isHidden());
+    QCOMPARE(glyph("btnChangeWindow"), IconGlyph::FullScreen);
+    QCOMPARE(glyphColor("btnChangeWindow"), QColor(Qt::white));
+    QCOMPARE(part<QWidget>("btnChangeWindow")->toolTip(), QStringLiteral("fullscreen"));
+    QVERIFY(part<QWidget>("btnChangeWindow")->isHidden());
+}
+
+QTEST_MAIN(tst_VoipWidgetMouse)
+
+#include "tst_VoipWidgetMouse.moc"

@@ -1,0 +1,187 @@
+// The call window's volume sliders, and its snapshot of the video.
+
+#include "CallWindowTest.h"
+#include "fakes/QtMessages.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QRegularExpression>
+#include <QSlider>
+#include <QStandardPaths>
+
+class tst_VoipWidgetVolume : public CallWindowTest
+{
+    Q_OBJECT
+
+private:
+    /// Saves the dialog's picture under that name as soon as it is open; an empty name cancels.
+    void answerDialog(const QString &strName, QStringList *pSeen = nullptr);
+    /// A red surface on the video page.
+    void showVideo();
+
+private slots:
+    void volumeGoesOutUnchanged_data();
+    void volumeGoesOutUnchanged();
+    void slidersSendTheirValue();
+    void clicksHideTheSliders();
+    void hideSlotsHideTheSliders();
+    void enablesAndVolumesGoToTheDebugChannel();
+
+    void snapshotIsSaved();
+    void snapshotReplacesAFile();
+    void cancelledSnapshotSavesNothing();
+};
+
+void tst_VoipWidgetVolume::volumeGoesOutUnchanged_data()
+{
+    QTest::addColumn<qlonglong>("volume");
+    QTest::newRow("none") << Q_INT64_C(0);
+    QTest::newRow("full") << Q_INT64_C(10);
+    QTest::newRow("negative") << Q_INT64_C(-3);
+    QTest::newRow("more than 32 bits") << Q_INT64_C(5000000000);
+}
+
+void tst_VoipWidgetVolume::volumeGoesOutUnchanged()
+{
+    QFETCH(qlonglong, volume);
+    m_pWindow->SetVoipMicVolume(volume);
+    m_pWindow->SetVoipSpeakerVolume(volume);
+    QCOMPARE(m_sent,
+             (QStringList{QStringLiteral("micvolume=%1").arg(volume), QStringLiteral("speakervolume=%1").arg(volume)}));
+}
+
+void tst_VoipWidgetVolume::slidersSendTheirValue()
+{
+    part<QSlider>("m_pMicSlider")->setValue(10);
+    part<QSlider>("m_pMicSlider")->setValue(0);
+    part<QSlider>("m_pSpeakerSlider")->setValue(7);
+    part<QSlider>("m_pSpeakerSlider")->setValue(99);
+    QCOMPARE(m_sent, (QStringList{"micvolume=10", "micvolume=0", "speakervolume=7", "speakervolume=10"}));
+}
+
+void tst_VoipWidgetVolume::clicksHideTheSliders()
+{
+    startCall(CVoipWidget::Voice, true);
+    showWindow();
+    auto *pMic = part<QSlider>("m_pMicSlider");
+    auto *pSpeaker = part<QSlider>("m_pSpeakerSlider");
+    pMic->show();
+    pSpeaker->show();
+    press("btnMic");
+    QVERIFY(pMic->isHidden());
+    QVERIFY(!pSpeaker->isHidden());
+    press("btnSpeaker");
+    QVERIFY(pSpeaker->isHidden());
+}
+
+void tst_VoipWidgetVolume::hideSlotsHideTheSliders()
+{
+    auto *pMic = part<QSlider>("m_pMicSlider");
+    auto *pSpeaker = part<QSlider>("m_pSpeakerSlider");
+    pMic->show();
+    pSpeaker->show();
+    call("slot_MicSilderHide");
+    QVERIFY(pMic->isHidden());
+    QVERIFY(!pSpeaker->isHidden());
+    call("slot_SpeakerSilderHide");
+    QVERIFY(pSpeaker->isHidden());
+}
+
+void tst_VoipWidgetVolume::enablesAndVolumesGoToTheDebugChannel()
+{
+    const QtMessages messages;
+    press("btnMic");
+    press("btnSpeaker");
+    press("btnSpeaker");
+    press("btnCamera");
+    m_pWindow->SetVoipMicVolume(7);
+    m_pWindow->SetVoipSpeakerVolume(-8);
+    // The speaker's line has the microphone's words.
+    const QStringList expected{"SetMicEnable = false",     "SetMicEnable = false", "SetMicEnable = true",
+                               "SetCamreraEnable = false", "SetMicVolume = 7",     "SetSpeakerVolume = -8"};
+    QCOMPARE(messages.debugLines, expected);
+}
+
+void tst_VoipWidgetVolume::answerDialog(const QString &strName, QStringList *pSeen)
+{
+    QTimer::singleShot(0, this, [this, strName, pSeen] {
+        auto *pDialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        QVERIFY(pDialog != nullptr);
+        auto *pName = pDialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        if (pSeen != nullptr)
+            *pSeen = QStringList{pDialog->windowTitle(), pDialog->selectedNameFilter(), pDialog->directory().path(),
+                                 pName->text()};
+        if (strName.isEmpty()) {
+            pDialog->reject();
+            return;
+        }
+        pName->setText(strName);
+        // A file of that name brings up the question whether it may be replaced.
+        if (QFile::exists(strName))
+            QTimer::singleShot(0, this, [] {
+                auto *pQuestion = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+                QVERIFY(pQuestion != nullptr);
+                pQuestion->button(QMessageBox::Yes)->click();
+            });
+        QMetaObject::invokeMethod(pDialog, "accept");
+    });
+}
+
+void tst_VoipWidgetVolume::showVideo()
+{
+    auto *pSurface = new QWidget;
+    pSurface->setAutoFillBackground(true);
+    pSurface->setPalette(QPalette(Qt::red));
+    m_pWindow->addVoipWidget(pSurface);
+    startCall(CVoipWidget::Video, true);
+    showWindow();
+    newRecords();
+}
+
+void tst_VoipWidgetVolume::snapshotIsSaved()
+{
+    showVideo();
+    QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
+    QStringList seen;
+    const QString strPath = QDir::current().absoluteFilePath(QStringLiteral("shot.png"));
+    answerDialog(strPath, &seen);
+    call("slot_CaptureButtonClicked");
+
+    const QImage picture(strPath);
+    QCOMPARE(picture.size(), part<QWidget>("playFramWidget")->geometry().size());
+    QCOMPARE(picture.pixelColor(200, 150), QColor(Qt::red));
+    QCOMPARE(seen.at(0), QStringLiteral("savepic"));
+    QCOMPARE(seen.at(1), CommonFun::getPicSaveSuffixes(QStringLiteral(".jpg")).section(QStringLiteral(";;"), 0, 0));
+    QCOMPARE(seen.at(2), QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
+    const QRegularExpression proposed(QStringLiteral("^tarvoPhoto\\d{17}\\.jpg$"));
+    QVERIFY2(proposed.match(seen.at(3)).hasMatch(), qPrintable(seen.at(3)));
+    QCOMPARE(newRecords(), QStringList{"VoipWidget.cpp: click capture button!"});
+}
+
+void tst_VoipWidgetVolume::snapshotReplacesAFile()
+{
+    showVideo();
+    const QString strPath = QDir::current().absoluteFilePath(QStringLiteral("old.jpg"));
+    QFile old(strPath);
+    QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
+    old.close();
+    answerDialog(strPath);
+    call("slot_CaptureButtonClicked");
+    QCOMPARE(QImage(strPath).size(), part<QWidget>("playFramWidget")->geometry().size());
+}
+
+void tst_VoipWidgetVolume::cancelledSnapshotSavesNothing()
+{
+    showVideo();
+    const QStringList before = QDir::current().entryList();
+    answerDialog(QString());
+    call("slot_CaptureButtonClicked");
+    QCOMPARE(QDir::current().entryList(), before);
+}
+
+QTEST_MAIN(tst_VoipWidgetVolume)
+
+#include "tst_VoipWidgetVolume.moc"
