@@ -193,6 +193,18 @@ private slots:
         QCOMPARE(strWrapped, strOut);
     }
 
+    void textWiderThanANumberOfPixelsIsBroken()
+    {
+        // Its width has more than 31 bits in the 64ths of a pixel that fonts reckon with, and would read as negative.
+        const QString strText(40000000 / m_iEm, 'x');
+        QLabel label;
+        label.setFont(evenFont());
+        label.resize(6 * m_iEm, 10);
+        QString strOut;
+        QVERIFY(CommonFun::stringFormatWithControl(strText, &label, strOut, 1));
+        QCOMPARE(strOut, QString("xxx..."));
+    }
+
 private:
     int m_iEm = 0;
 };
