@@ -162,6 +162,19 @@ private slots:
         QCOMPARE(label.maximumHeight(), label.minimumHeight());
     }
 
+    void linesAreFivePixelsNarrowerThanTheLabel()
+    {
+        QLabel label;
+        label.setFont(evenFont());
+        QString strOut;
+        label.resize(4 * m_iEm + 5, 10);
+        QVERIFY(CommonFun::stringFormatWithControl("abcdefg", &label, strOut, 0));
+        QCOMPARE(strOut, QString("abcd\nefg"));
+        label.resize(4 * m_iEm + 4, 10);
+        QVERIFY(CommonFun::stringFormatWithControl("abcdefg", &label, strOut, 0));
+        QCOMPARE(strOut, QString("abc\ndef\ng"));
+    }
+
     void labelWithoutWidthGetsACharacterALine()
     {
         QLabel label;
