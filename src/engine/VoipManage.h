@@ -1,8 +1,9 @@
 #pragma once
 
 // The call engine: the one object that knows whether a call exists. It owns the link to the call process, the current
-// call, the ring, the call window and three timers. The host's commands reach it through the mailbox, the user's clicks
-// through the signals of the call window, the call process's reports through the socket.
+// call, the ring, the call window, the conference centre while it is open, and three timers. The host's commands reach
+// it through the mailbox, the user's clicks through the signals of both windows, the call process's reports through the
+// socket.
 //
 // GUI thread only, no lock, nothing thrown. It blocks for at most one second while the socket connects and one second
 // while the last line is written at the exit. The singleton is created at the host's first command and lives to the
@@ -16,6 +17,7 @@
 #include <QTimer>
 
 struct ConferenceDocument;
+class CVoiceConferenceWidget;
 class CVoipWidget;
 class QProcess;
 class QSound;
@@ -126,7 +128,7 @@ public:
     void updateConferenceListStatus();
     /// Hands a contact's card on to the window.
     void updateUserInfo(QString strUserId, VcardInfo vcard);
-    /// The host's command to show the conference centre; logged, as there is no centre to show.
+    /// Opens the conference centre, or brings the open one to the front.
     void showVoiceConf();
 
 public slots:
@@ -185,11 +187,11 @@ protected:
     bool m_bSdkFlag = false;      ///< notification 17 said "true"; nothing reads it
     qint64 m_nReconnectCount = 0; ///< back-off counter
     QTimer m_reconnectTimer;
-    QWidget *m_pVoiceConfWidget = nullptr; ///< the conference centre, while open
-    QProcess *m_pVoipProcess = nullptr;    ///< holds no child: the call process is started detached
-    QSound *m_pRingSound = nullptr;        ///< the incoming ring; child of the manager
-    QTimer m_inviteTimer;                  ///< limits how long an outgoing call may ring
-    QTimer m_recevieTimer;                 ///< limits how long an incoming call stays unconnected
+    CVoiceConferenceWidget *m_pVoiceConfWidget = nullptr; ///< the conference centre, while open; owned
+    QProcess *m_pVoipProcess = nullptr;                   ///< holds no child: the call process is started detached
+    QSound *m_pRingSound = nullptr;                       ///< the incoming ring; child of the manager
+    QTimer m_inviteTimer;                                 ///< limits how long an outgoing call may ring
+    QTimer m_recevieTimer;                                ///< limits how long an incoming call stays unconnected
 
 private:
     void connectVoipWidget();
