@@ -46,7 +46,9 @@ void Tour::begin()
         end(true);
         return;
     }
-    m_watch.mark();
+    if (step().act) {
+        m_watch.mark();
+    }
     TourWatch::say(QStringLiteral("[%1/%2] %3").arg(m_iStep + 1, 2).arg(m_steps.size()).arg(step().title));
     m_seen.clear();
     for (int i = 0; i < step().checks.size(); ++i) {
@@ -54,12 +56,23 @@ void Tour::begin()
     }
     m_clock.start();
     m_phase = Waiting;
-    if (step().act) {
-        step().act();
+    m_bActed = false;
+    act();
+}
+
+void Tour::act()
+{
+    if (m_bActed) {
+        return;
+    }
+    m_bActed = !step().act || step().act();
+    if (m_bActed) {
+        // Behind the clicks in the queue: what they change at once is seen however soon the call process answers.
+        QMetaObject::invokeMethod(this, &Tour::check, Qt::QueuedConnection);
     }
 }
 
-void Tour::wait()
+void Tour::check()
 {
     for (int i = 0; i < m_seen.size(); ++i) {
         if (!m_seen.at(i) && step().checks.at(i).seen()) {
@@ -67,7 +80,13 @@ void Tour::wait()
             TourWatch::say(QStringLiteral("     ok %1").arg(step().checks.at(i).words));
         }
     }
-    if (!m_seen.contains(false)) {
+}
+
+void Tour::wait()
+{
+    act();
+    check();
+    if (m_bActed && !m_seen.contains(false)) {
         if (step().pictureOf && step().pictureOf() != nullptr) {
             step().pictureOf()->raise();
         }
@@ -76,6 +95,9 @@ void Tour::wait()
         return;
     }
     if (m_clock.hasExpired(step().limitMs)) {
+        if (!m_bActed) {
+            TourWatch::say(QStringLiteral("   MISS what it acts on is not shown"));
+        }
         for (int i = 0; i < m_seen.size(); ++i) {
             if (!m_seen.at(i)) {
                 TourWatch::say(QStringLiteral("   MISS %1").arg(step().checks.at(i).words));

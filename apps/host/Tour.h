@@ -22,8 +22,9 @@ struct TourCheck
 struct TourStep
 {
     QString title;
-    /// Runs once, at the beginning; must not open an event loop of its own. May be empty.
-    std::function<void()> act;
+    /// Tried until it says that it has been done; must not open an event loop of its own. Empty for a step that only
+    /// waits: what was seen since the last action counts for it.
+    std::function<bool()> act;
     /// Each needs to be seen once, in any order.
     QList<TourCheck> checks;
     int limitMs = 15000;
@@ -59,6 +60,8 @@ private:
 
     void tick();
     void begin();
+    void act();
+    void check();
     void wait();
     void settle();
     void end(bool bOk);
@@ -72,5 +75,6 @@ private:
     QElapsedTimer m_clock;
     Phase m_phase = Beginning;
     int m_iStep = 0;
+    bool m_bActed = false;
     QList<bool> m_seen;
 };

@@ -112,7 +112,7 @@ ConfInfoData newestRecord()
     return DBConfInfo::getAllConfInfo().value(0);
 }
 
-void sayRecords()
+bool sayRecords()
 {
     const QList<ConfInfoData> records = DBConfInfo::getAllConfInfo();
     for (const ConfInfoData &record : records) {
@@ -122,6 +122,7 @@ void sayRecords()
                                 record.m_bIsConnect ? QStringLiteral("connected") : QStringLiteral("not connected"),
                                 QStringList(record.m_listMember).join(QLatin1Char(','))));
     }
+    return true;
 }
 
 Steps stored(const char *strTitle, const QString &strCreator, const QStringList &members)

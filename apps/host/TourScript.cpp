@@ -23,54 +23,56 @@ TourScript::Action TourScript::pressContact(const char *strUid, const char *strB
 {
     const MainWindow *window = &m_stage.window;
     return [window, strUid, strButton] {
-        WindowProbe::press(window->findChild<QWidget *>(QLatin1String(strUid)), strButton);
+        return WindowProbe::press(window->findChild<QWidget *>(QLatin1String(strUid)), strButton);
     };
 }
 
 TourScript::Action TourScript::pressMain(const char *strButton) const
 {
     const MainWindow *window = &m_stage.window;
-    return [window, strButton] { WindowProbe::press(window, strButton); };
+    return [window, strButton] { return WindowProbe::press(window, strButton); };
 }
 
 TourScript::Action TourScript::pressCallWindow(const char *strButton) const
 {
-    return [strButton] { WindowProbe::press(WindowProbe::callWindow(), strButton); };
+    return [strButton] { return WindowProbe::press(WindowProbe::callWindow(), strButton); };
 }
 
 TourScript::Action TourScript::pressPrompt(const char *strButton) const
 {
     MainWindow *window = &m_stage.window;
-    return [window, strButton] { WindowProbe::press(&window->prompt(), strButton); };
+    return [window, strButton] { return WindowProbe::press(&window->prompt(), strButton); };
 }
 
 TourScript::Action TourScript::pressBox(const char *strButton) const
 {
-    return [strButton] { WindowProbe::press(WindowProbe::messageBox(), strButton); };
+    return [strButton] { return WindowProbe::press(WindowProbe::messageBox(), strButton); };
 }
 
 TourScript::Action TourScript::pressPicker(const char *strButton)
 {
-    return [strButton] { WindowProbe::press(WindowProbe::memberPicker(), strButton); };
+    return [strButton] { return WindowProbe::press(WindowProbe::memberPicker(), strButton); };
 }
 
 TourScript::Action TourScript::pick(const QStringList &uids)
 {
     return [uids] {
-        for (const QString &uid : uids) {
-            WindowProbe::pressRow(WindowProbe::memberPicker(), {"listPeople", Qt::UserRole, uid}, false);
-        }
+        return std::all_of(uids.begin(), uids.end(), [](const QString &uid) {
+            return WindowProbe::pressRow(WindowProbe::memberPicker(), {"listPeople", Qt::UserRole, uid}, false);
+        });
     };
 }
 
 TourScript::Action TourScript::pressMember(const char *strUid, int rectRole)
 {
-    return [strUid, rectRole] { WindowProbe::pressRowPart(WindowProbe::callWindow(), memberRow(strUid), rectRole); };
+    return [strUid, rectRole] {
+        return WindowProbe::pressRowPart(WindowProbe::callWindow(), memberRow(strUid), rectRole);
+    };
 }
 
 TourScript::Action TourScript::doubleClickMember(const char *strUid)
 {
-    return [strUid] { WindowProbe::pressRow(WindowProbe::callWindow(), memberRow(strUid), true); };
+    return [strUid] { return WindowProbe::pressRow(WindowProbe::callWindow(), memberRow(strUid), true); };
 }
 
 TourScript::Window TourScript::mainWindow() const

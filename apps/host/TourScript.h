@@ -9,10 +9,10 @@ class TourScript
 public:
     explicit TourScript(const TourStage &stage) : m_stage(stage) {}
 
-    using Action = std::function<void()>;
+    using Action = std::function<bool()>;
     using Window = std::function<QWidget *()>;
 
-    // Actions: clicks on real buttons.
+    // Actions: clicks on real buttons. Each says whether what it clicks on stood there.
     Action pressContact(const char *strUid, const char *strButton) const;
     Action pressMain(const char *strButton) const;
     Action pressCallWindow(const char *strButton) const;
