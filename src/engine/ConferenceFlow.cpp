@@ -7,6 +7,7 @@
 #include "plugin/StrangerTest.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "store/DBConfInfo.h"
+#include "ui/VoiceConferenceWidget.h"
 #include "ui/VoipWidget.h"
 
 #include <QSet>
@@ -191,12 +192,22 @@ void CVoipManage::recordConference(qint64 iSeconds)
     record.m_listMember = m_callData.memberList;
     record.m_bIsConnect = m_callData.bIsConnected;
     DBConfInfo::saveConfInfo(record);
+    if (m_pVoiceConfWidget)
+        m_pVoiceConfWidget->addConferenceInfo(record);
 }
 
 void CVoipManage::showVoiceConf()
 {
     LOG_DEBUG << "show voice conf detaileInfo!"
               << "\n";
+    if (!m_pVoiceConfWidget) {
+        m_pVoiceConfWidget = new CVoiceConferenceWidget;
+        connect(m_pVoiceConfWidget, SIGNAL(signal_VoiceConfWidgetClose()), this, SLOT(slot_VoiceConfWidgetClose()));
+        connect(m_pVoiceConfWidget, SIGNAL(signal_DeleteConfInfoData(QString)), this,
+                SLOT(slot_DeleteConfInfoData(QString)));
+    }
+    m_pVoiceConfWidget->showNormal();
+    m_pVoiceConfWidget->activateWindow();
 }
 
 void CVoipManage::slot_VoiceConfWidgetClose()

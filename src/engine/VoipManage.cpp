@@ -3,6 +3,7 @@
 #include "common/CLogManger.h"
 #include "common/CommonFun.h"
 #include "model/SystemSetData.h"
+#include "ui/VoiceConferenceWidget.h"
 #include "ui/VoipWidget.h"
 
 #include <QAudioDeviceInfo>
@@ -34,6 +35,7 @@ CVoipManage::CVoipManage(QObject *parent) : QObject(parent)
 CVoipManage::~CVoipManage()
 {
     disconnectVoipSDKSocket();
+    delete m_pVoiceConfWidget;
     delete m_pVoipWidget;
     delete m_pVoipProcess;
 }

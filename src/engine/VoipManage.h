@@ -16,6 +16,7 @@
 #include <QTimer>
 
 struct ConferenceDocument;
+class CVoiceConferenceWidget;
 class CVoipWidget;
 class QProcess;
 class QSound;
@@ -126,7 +127,7 @@ public:
     void updateConferenceListStatus();
     /// Hands a contact's card on to the window.
     void updateUserInfo(QString strUserId, VcardInfo vcard);
-    /// The host's command to show the conference centre; logged, as there is no centre to show.
+    /// Opens the conference centre, or brings the open one to the front.
     void showVoiceConf();
 
 public slots:
@@ -185,11 +186,11 @@ protected:
     bool m_bSdkFlag = false;      ///< notification 17 said "true"; nothing reads it
     qint64 m_nReconnectCount = 0; ///< back-off counter
     QTimer m_reconnectTimer;
-    QWidget *m_pVoiceConfWidget = nullptr; ///< the conference centre, while open
-    QProcess *m_pVoipProcess = nullptr;    ///< holds no child: the call process is started detached
-    QSound *m_pRingSound = nullptr;        ///< the incoming ring; child of the manager
-    QTimer m_inviteTimer;                  ///< limits how long an outgoing call may ring
-    QTimer m_recevieTimer;                 ///< limits how long an incoming call stays unconnected
+    CVoiceConferenceWidget *m_pVoiceConfWidget = nullptr; ///< the conference centre, while open; owned
+    QProcess *m_pVoipProcess = nullptr;                   ///< holds no child: the call process is started detached
+    QSound *m_pRingSound = nullptr;                       ///< the incoming ring; child of the manager
+    QTimer m_inviteTimer;                                 ///< limits how long an outgoing call may ring
+    QTimer m_recevieTimer;                                ///< limits how long an incoming call stays unconnected
 
 private:
     void connectVoipWidget();

@@ -4,7 +4,6 @@
 #include "ui/VoipWidget.h"
 
 #include <QCoreApplication>
-#include <QPointer>
 #include <QStackedWidget>
 #include <QTest>
 
@@ -52,7 +51,6 @@ private slots:
     void mutingKeepsNoState();
     void cardIsHandedToTheWindow();
     void conferenceEndTakesAwayThePromptOfTheCreator();
-    void closedCentreIsForgottenAndDeletedLater();
 
 private:
     static void create(EngineFixture &f);
@@ -532,20 +530,6 @@ void tst_ConferenceFlow::conferenceEndTakesAwayThePromptOfTheCreator()
     create(f);
     f.notify(7);
     QCOMPARE(f.takeJournal(), QStringList({"SetMicEnable true", "SetSpeakerEnble true"}));
-}
-
-void tst_ConferenceFlow::closedCentreIsForgottenAndDeletedLater()
-{
-    EngineFixture f;
-    const QPointer<QWidget> centre = new QWidget;
-    f.manager->m_pVoiceConfWidget = centre;
-    f.manager->slot_VoiceConfWidgetClose();
-    QVERIFY(!f.manager->m_pVoiceConfWidget);
-    QVERIFY(centre);
-    QCoreApplication::sendPostedEvents(centre, QEvent::DeferredDelete);
-    QVERIFY(!centre);
-    f.manager->slot_VoiceConfWidgetClose();
-    QVERIFY(!f.manager->m_pVoiceConfWidget);
 }
 
 QTEST_MAIN(tst_ConferenceFlow)

@@ -45,7 +45,15 @@ public:
         m_data.setFriendDataMap(contacts);
     }
 
+    /// Hands out `font` as the client's icon font.
+    void setIconFont(const QFont &font)
+    {
+        m_iconFont = font;
+        m_data.setIconFont(&m_iconFont);
+    }
+
 private:
     LoginData m_login;
+    QFont m_iconFont;
     CommonData m_data;
 };

@@ -1,0 +1,138 @@
+#include "ui/ConfDetailMemberTableView.h"
+
+#include "common/BuiltInPictures.h"
+#include "common/CommonFun.h"
+#include "common/DpiScale.h"
+#include "model/FriendData.h"
+#include "plugin/VoipManageEventProcess.h"
+#include "ui/ConfDetailTableViewDelegate.h"
+#include "ui/MemberRoles.h"
+#include "ui/SignCard.h"
+
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QStandardItemModel>
+
+namespace {
+
+constexpr int cColumns = 6;
+constexpr int cCellSide = 80;
+
+} // namespace
+
+CConfDetailMemberTableView::CConfDetailMemberTableView(QWidget *parent)
+    : QTableView(parent), m_pModel(new QStandardItemModel(this)), m_pDelegate(new CConfDetailTableViewDelegate(this)),
+      m_signTimer(this)
+{
+    initTableView();
+}
+
+void CConfDetailMemberTableView::initTableView()
+{
+    setShowGrid(false);
+    setModel(m_pModel);
+    for (QHeaderView *pHeader : {horizontalHeader(), verticalHeader()}) {
+        pHeader->setDefaultSectionSize(ADAPT_DPI_INT(cCellSide));
+        pHeader->hide();
+    }
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setItemDelegate(m_pDelegate);
+    setMouseTracking(true);
+    connect(&m_signTimer, &QTimer::timeout, this, &CConfDetailMemberTableView::slot_ShowSign);
+}
+
+void CConfDetailMemberTableView::setMemList(QList<QString> list)
+{
+    if (list.isEmpty())
+        return;
+    m_memberList = list;
+    for (int i = 0; i < list.size(); ++i)
+        placeMember(i / cColumns, i % cColumns, list.at(i));
+}
+
+void CConfDetailMemberTableView::clearData()
+{
+    m_pModel->clear();
+    m_memberItemMap.clear();
+    m_memberList.clear();
+}
+
+QStandardItem *CConfDetailMemberTableView::creatMemberItem(const QString &strUserID)
+{
+    const FriendData member = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(strUserID));
+    // The model takes the item over as soon as it is in a cell.
+    auto *pItem = new QStandardItem;
+    pItem->setData(strUserID, ROLE_USER_ID);
+    pItem->setData(member.displayName(), ROLE_DISPLAY_NAME);
+    pItem->setData(CommonFun::getTrueImagePath(member.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
+                   ROLE_HEAD_PATH);
+    return pItem;
+}
+
+void CConfDetailMemberTableView::placeMember(int iRow, int iColumn, const QString &strUserID)
+{
+    if (const QStandardItem *pOld = m_pModel->item(iRow, iColumn)) {
+        // The model deletes what stood in the cell.
+        const auto known = m_memberItemMap.find(pOld->data(ROLE_USER_ID).toString());
+        if (known != m_memberItemMap.end() && *known == pOld)
+            m_memberItemMap.erase(known);
+    }
+    QStandardItem *pItem = creatMemberItem(strUserID);
+    m_pModel->setItem(iRow, iColumn, pItem);
+    m_memberItemMap.insert(strUserID, pItem);
+}
+
+void CConfDetailMemberTableView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                             const QVector<int> &roles)
+{
+    // The painting itself writes the heads' places back: they must not call for the next painting.
+    if (areRolesShown(roles))
+        QTableView::dataChanged(topLeft, bottomRight, roles);
+}
+
+void CConfDetailMemberTableView::scrollContentsBy(int dx, int dy)
+{
+    QTableView::scrollContentsBy(dx, dy);
+    // Cells whose pixels are only moved would keep the place of their head from before.
+    viewport()->update();
+}
+
+void CConfDetailMemberTableView::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint position = event->localPos().toPoint();
+    const QModelIndex index = indexAt(position);
+    // Deliberate: away from all members nothing changes, so a card that is due still comes.
+    if (m_pModel->item(index.row(), index.column()) != nullptr)
+        hoverItem(index, position);
+    QAbstractItemView::mouseMoveEvent(event);
+}
+
+void CConfDetailMemberTableView::hoverItem(const QModelIndex &index, const QPoint &position)
+{
+    const QRect head = index.data(ROLE_HEAD_RECT).toRect();
+    if (head.contains(position)) {
+        m_signPos = signCardPlace(*this, head);
+        m_strSignJid = CommonFun::getJidByUid(index.data(ROLE_USER_ID).toString());
+        // Each move inside the head starts the delay anew.
+        m_signTimer.start(cSignDelay);
+    } else {
+        m_signTimer.stop();
+        VoipManageEventProcess::closeSignList();
+    }
+    setCursor(Qt::ArrowCursor);
+}
+
+void CConfDetailMemberTableView::slot_ShowSign()
+{
+    // Deliberate: the card's host takes the grid's width where it asks for a height.
+    VoipManageEventProcess::showSignList(m_strSignJid, m_signPos.x(), m_signPos.y(), width(), true, false);
+    m_signTimer.stop();
+}
+
+void CConfDetailMemberTableView::leaveEvent(QEvent *event)
+{
+    m_signTimer.stop();
+    VoipManageEventProcess::closeSignList();
+    QTableView::leaveEvent(event);
+}

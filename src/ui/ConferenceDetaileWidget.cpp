@@ -1,0 +1,63 @@
+#include "ui/ConferenceDetaileWidget.h"
+
+#include "common/BuiltInPictures.h"
+#include "common/CommonFun.h"
+#include "common/IconGlyphs.h"
+#include "model/FriendData.h"
+#include "plugin/VoipManageEventProcess.h"
+#include "ui/ConferenceTexts.h"
+#include "ui_ConferenceDetaileWidget.h"
+
+CConferenceDetaileWidget::CConferenceDetaileWidget(QWidget *parent)
+    : QWidget(parent), ui(std::make_unique<Ui::CConferenceDetaileWidget>())
+{
+    ui->setupUi(this);
+    initWidget();
+}
+
+CConferenceDetaileWidget::~CConferenceDetaileWidget() = default;
+
+void CConferenceDetaileWidget::initWidget()
+{
+    const QString strTitleStyle = QStringLiteral("QLabel#lblTableViewTitle{ color: #313131; font:14px 微软雅黑; }");
+    ui->lblTableViewTitle->setStyleSheet(strTitleStyle);
+    // Deliberate: the sheet names the title alone, so these three keep the default look that users know.
+    ui->CreatName->setStyleSheet(strTitleStyle);
+    ui->lblCallTime->setStyleSheet(strTitleStyle);
+    ui->lblCreateTime->setStyleSheet(strTitleStyle);
+    ui->isCreatorIcon->setFont(CommonFun::getIconFont());
+    ui->lblLine->setStyleSheet(QStringLiteral("QLabel#lblLine{background-color: #dbdddd;}"));
+    ui->lblTableViewTitle->setText(QStringLiteral("参与人员"));
+}
+
+void CConferenceDetaileWidget::setConferenceDetail(ConfInfoData confInfo)
+{
+    m_confInfoData = confInfo;
+    showCreator(confInfo.m_strCreatUserID);
+    ui->lblCallTime->setText(ConferenceTexts::callLength(confInfo.m_strCallTime));
+    const bool bCreatedByMe = confInfo.m_strCreatUserID == CommonFun::getLoginUID();
+    ui->isCreatorIcon->setText(IconGlyph::text(bCreatedByMe ? IconGlyph::CreatedByMe : IconGlyph::JoinedByMe));
+    ui->lblCreateTime->setText(ConferenceTexts::titleLine(confInfo.m_strCreatTime));
+    ui->tableView->setMemList(confInfo.m_listMember);
+}
+
+void CConferenceDetaileWidget::showCreator(const QString &strUserID)
+{
+    const FriendData creator = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(strUserID));
+    ui->creatUserIcon->setHeadPictrue(
+        CommonFun::getTrueImagePath(creator.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH));
+    const QString strName = creator.displayName();
+    if (!strName.isEmpty())
+        ui->CreatName->setText(strName);
+}
+
+void CConferenceDetaileWidget::clearDetail()
+{
+    m_confInfoData = ConfInfoData();
+    ui->creatUserIcon->clear();
+    ui->CreatName->clear();
+    ui->lblCallTime->clear();
+    ui->isCreatorIcon->clear();
+    ui->lblCreateTime->clear();
+    ui->tableView->clearData();
+}

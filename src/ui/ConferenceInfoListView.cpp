@@ -1,0 +1,267 @@
+#include "ui/ConferenceInfoListView.h"
+
+#include "common/BuiltInPictures.h"
+#include "common/CLogManger.h"
+#include "common/CommonFun.h"
+#include "common/DpiScale.h"
+#include "common/Palette.h"
+#include "model/FriendData.h"
+#include "plugin/VoipManageEventProcess.h"
+#include "ui/ConferenceInfoListViewDelegate.h"
+#include "ui/ConferenceTexts.h"
+#include "ui/MemberRoles.h"
+#include "ui/SignCard.h"
+#include "widgets/MenuEx.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QScreen>
+#include <QScrollBar>
+#include <QStandardItemModel>
+
+namespace {
+
+constexpr QSize cRowSize(500, 62);
+
+/// Where a menu of this length begins along one axis: at the cursor, or ending there where the screen has no room.
+int menuStart(int iCursor, int iMenu, int iScreen)
+{
+    return iCursor + iMenu > iScreen ? iCursor - 1 - (iMenu - 1) : iCursor;
+}
+
+} // namespace
+
+CConferenceInfoListView::CConferenceInfoListView(QWidget *parent)
+    : QListView(parent), m_pDelegate(new CConferenceInfoListViewDelegate(this)), m_pModel(new QStandardItemModel(this)),
+      m_pMenu(new CMenuEx(this)),
+      // The view's, not the menu's: emptying the menu deletes what belongs to it.
+      m_pRecallAction(new QAction(QStringLiteral("再次发起"), this)),
+      m_pDeleteAction(new QAction(QStringLiteral("删除"), this)), m_signTimer(this)
+{
+    setMouseTracking(true);
+    // Which row the cursor is on counts in every style: its detail button depends on it.
+    viewport()->setAttribute(Qt::WA_Hover);
+    setCursor(Qt::ArrowCursor);
+    verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // All rows are of one size; so placing a hundred thousand asks for one.
+    setUniformItemSizes(true);
+    installEventFilter(this);
+    setItemDelegateForColumn(0, m_pDelegate);
+    setModel(m_pModel);
+    initMenu();
+    connect(&m_signTimer, &QTimer::timeout, this, &CConferenceInfoListView::slot_ShowSign);
+}
+
+void CConferenceInfoListView::initMenu()
+{
+    m_pMenu->addAction(m_pRecallAction);
+    m_pMenu->addAction(m_pDeleteAction);
+    connect(m_pMenu, &QMenu::triggered, this, &CConferenceInfoListView::slot_selectAction);
+}
+
+void CConferenceInfoListView::addConfInfoList(QList<ConfInfoData> confInfoList)
+{
+    m_confInfoList = confInfoList;
+    if (confInfoList.isEmpty())
+        return;
+    const QString strLoginUID = CommonFun::getLoginUID();
+    QHash<QString, Creator> creators;
+    QList<QStandardItem *> items;
+    items.reserve(confInfoList.size());
+    for (const ConfInfoData &confInfo : qAsConst(confInfoList)) {
+        const QString &strUserID = confInfo.m_strCreatUserID;
+        auto creator = creators.constFind(strUserID);
+        if (creator == creators.constEnd())
+            creator = creators.insert(strUserID, creatorOf(strUserID));
+        items.append(creatListItem(confInfo, *creator, strUserID == strLoginUID));
+        // The store gives the greatest id first: each goes in front of the one before.
+        m_confItemMap.insert(m_confItemMap.constBegin(), confInfo.m_strConfID, items.constLast());
+    }
+    m_pModel->invisibleRootItem()->appendRows(items);
+}
+
+void CConferenceInfoListView::addConfInfoData(ConfInfoData confInfo)
+{
+    if (confInfo.m_strConfID.isEmpty() || m_confItemMap.contains(confInfo.m_strConfID))
+        return;
+    QStandardItem *pItem = creatListItem(confInfo);
+    m_pModel->insertRow(0, pItem);
+    m_confItemMap.insert(confInfo.m_strConfID, pItem);
+    // Deliberate: on top of the rows, but at the end of the list.
+    m_confInfoList.append(confInfo);
+}
+
+void CConferenceInfoListView::removeConfInfoData(QString strConfID)
+{
+    QStandardItem *pItem = strConfID.isEmpty() ? nullptr : m_confItemMap.value(strConfID);
+    if (pItem == nullptr)
+        return;
+    // Deliberate: the list keeps the record.
+    m_pModel->removeRows(m_pModel->indexFromItem(pItem).row(), 1);
+    m_confItemMap.remove(strConfID);
+}
+
+CConferenceInfoListView::Creator CConferenceInfoListView::creatorOf(const QString &strUserID)
+{
+    const FriendData creator = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(strUserID));
+    return {creator.displayName(),
+            CommonFun::getTrueImagePath(creator.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH)};
+}
+
+QStandardItem *CConferenceInfoListView::creatListItem(const ConfInfoData &confInfo) const
+{
+    const QString &strUserID = confInfo.m_strCreatUserID;
+    return creatListItem(confInfo, creatorOf(strUserID), strUserID == CommonFun::getLoginUID());
+}
+
+QStandardItem *CConferenceInfoListView::creatListItem(const ConfInfoData &confInfo, const Creator &creator,
+                                                      bool bCreatedByMe)
+{
+    // The model takes the item over as soon as it is in a row.
+    auto *pItem = new QStandardItem;
+    pItem->setData(confInfo.m_strConfID, ROLE_CONF_ID);
+    pItem->setData(creator.strHeadPath, ROLE_HEAD_PATH);
+    pItem->setData(confInfo.m_strCreatUserID, ROLE_USER_ID);
+    pItem->setData(creator.strName, ROLE_DISPLAY_NAME);
+    pItem->setData(confInfo.m_strCreatTime, ROLE_CONF_CREATE_TIME);
+    pItem->setData(ConferenceTexts::callLength(confInfo.m_strCallTime), ROLE_CONF_CALL_TIME);
+    pItem->setData(confInfo.m_bIsConnect, ROLE_CALL_STATUS);
+    pItem->setData(bCreatedByMe, ROLE_CREATED_BY_ME);
+    pItem->setData(ADAPT_DPI_SIZE(cRowSize), Qt::SizeHintRole);
+    return pItem;
+}
+
+void CConferenceInfoListView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                          const QVector<int> &roles)
+{
+    // The painting itself writes places back into the rows: they must not call for the next painting.
+    if (areRolesShown(roles))
+        QListView::dataChanged(topLeft, bottomRight, roles);
+}
+
+void CConferenceInfoListView::mousePressEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
+void CConferenceInfoListView::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint position = event->localPos().toPoint();
+    const QModelIndex index = indexAt(position);
+    // Deliberate: away from all rows nothing changes, so a card that is due still comes.
+    if (m_pModel->itemFromIndex(index) != nullptr)
+        hoverRow(index, position);
+    QListView::mouseMoveEvent(event);
+}
+
+void CConferenceInfoListView::hoverRow(const QModelIndex &index, const QPoint &position)
+{
+    const QRect head = index.data(ROLE_HEAD_RECT).toRect();
+    if (index.data(ROLE_REMOVE_RECT).toRect().contains(position)) {
+        setCursor(Qt::PointingHandCursor);
+        return;
+    }
+    if (head.contains(position)) {
+        m_signPos = signCardPlace(*this, head);
+        m_strSignJid = CommonFun::getJidByUid(index.data(ROLE_USER_ID).toString());
+        // Each move inside the head starts the delay anew.
+        m_signTimer.start(cSignDelay);
+    } else {
+        m_signTimer.stop();
+        VoipManageEventProcess::closeSignList();
+    }
+    setCursor(Qt::ArrowCursor);
+}
+
+void CConferenceInfoListView::slot_ShowSign()
+{
+    // Deliberate: the card's host takes the list's width where it asks for a height.
+    VoipManageEventProcess::showSignList(m_strSignJid, m_signPos.x(), m_signPos.y(), width(), true, false);
+    m_signTimer.stop();
+}
+
+void CConferenceInfoListView::leaveEvent(QEvent *event)
+{
+    m_signTimer.stop();
+    VoipManageEventProcess::closeSignList();
+    QListView::leaveEvent(event);
+}
+
+void CConferenceInfoListView::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QPoint position = event->localPos().toPoint();
+    const QModelIndex index = indexAt(position);
+    if (event->button() == Qt::LeftButton && index.isValid()) {
+        clickRow(index, position);
+        event->accept();
+    } else if (event->button() == Qt::RightButton) {
+        showMenu(m_pModel->itemFromIndex(index));
+        event->ignore();
+    } else {
+        QListView::mouseReleaseEvent(event);
+    }
+}
+
+void CConferenceInfoListView::clickRow(const QModelIndex &index, const QPoint &position)
+{
+    const QStandardItem *pItem = m_pModel->itemFromIndex(index);
+    if (pItem == nullptr) {
+        LOG_DEBUG << "selected is null"
+                  << "\n";
+        return;
+    }
+    // The button's place is that of the last painting under the cursor, also when it is no longer shown.
+    if (pItem->data(ROLE_REMOVE_RECT).toRect().contains(position))
+        emit signal_ShowConfDetail(pItem->data(ROLE_CONF_ID).toString());
+}
+
+void CConferenceInfoListView::showMenu(const QStandardItem *pItem)
+{
+    if (pItem == nullptr) {
+        LOG_DEBUG << "selected is null"
+                  << "\n";
+        return;
+    }
+    m_strSelectedConfID = pItem->data(ROLE_CONF_ID).toString();
+    m_pMenu->clear();
+    // A conference that never connected can only be deleted.
+    if (pItem->data(ROLE_CALL_STATUS).toBool())
+        m_pMenu->addAction(m_pRecallAction);
+    m_pMenu->addAction(m_pDeleteAction);
+    m_pMenu->show();
+    const QPoint cursor = QCursor::pos();
+    const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
+    m_pMenu->move(menuStart(cursor.x(), m_pMenu->width(), screen.width()),
+                  menuStart(cursor.y(), m_pMenu->height(), screen.height()));
+}
+
+void CConferenceInfoListView::slot_selectAction(QAction *pAction)
+{
+    if (m_strSelectedConfID.isEmpty())
+        return;
+    // The host may run an event loop in which this list is destroyed; the menu, which is still at work then, outlives
+    // it up to the loop that brought the click.
+    CMenuEx *const pMenu = m_pMenu;
+    const QPointer<CConferenceInfoListView> self = this;
+    pMenu->setParent(nullptr, pMenu->windowFlags());
+    if (pAction == m_pRecallAction)
+        emit signal_ReCallConf(m_strSelectedConfID);
+    else if (pAction == m_pDeleteAction)
+        emit signal_DeleteConfInfo(m_strSelectedConfID);
+    if (self)
+        pMenu->setParent(this, pMenu->windowFlags());
+    else
+        pMenu->deleteLater();
+}
+
+bool CConferenceInfoListView::eventFilter(QObject *obj, QEvent *event)
+{
+    if (obj == this && event->type() == QEvent::Leave)
+        setStyleSheet(strVerticalScrollBarNormalStyle);
+    else if (obj == this && event->type() == QEvent::Enter)
+        setStyleSheet(strVerticalScrollBarHoverStyle);
+    return QListView::eventFilter(obj, event);
+}

@@ -1,0 +1,91 @@
+#pragma once
+
+// The history list of the conference centre: one row for each conference record with the creator's head and name, when
+// it was and how long it lasted.
+//
+// All state of a row lives in its item data (ui/MemberRoles.h). The right button opens a menu, resting on a head brings
+// the creator's signature card. Part of the conference centre, which owns it and drives it. GUI thread only.
+
+#include "store/DBConfInfo.h"
+
+#include <QHash>
+#include <QList>
+#include <QListView>
+#include <QMap>
+#include <QPoint>
+#include <QString>
+#include <QTimer>
+
+class CConferenceInfoListViewDelegate;
+class CMenuEx;
+class QAction;
+class QStandardItem;
+class QStandardItemModel;
+
+class CConferenceInfoListView : public QListView
+{
+    Q_OBJECT
+
+public:
+    /// An empty list. `parent` may be null.
+    explicit CConferenceInfoListView(QWidget *parent = nullptr);
+
+    /// Appends a row for each record, in the order given; each creator is looked up once. Rows that are there already
+    /// stay. An empty list adds nothing.
+    void addConfInfoList(QList<ConfInfoData> confInfoList);
+
+    /// Puts a new record's row on top. An empty conference id, or one that has a row, does nothing.
+    void addConfInfoData(ConfInfoData confInfo);
+
+    /// Takes one conference's row away. An empty or unknown id does nothing.
+    void removeConfInfoData(QString strConfID);
+
+signals:
+    /// The user wants to see a conference's details.
+    void signal_ShowConfDetail(QString strConfID);
+    /// The user wants to call a conference's members again.
+    void signal_ReCallConf(QString strConfID);
+    /// The user deletes a conference's record.
+    void signal_DeleteConfInfo(QString strConfID);
+
+protected:
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QVector<int> &roles = QVector<int>()) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    bool eventFilter(QObject *obj, QEvent *event) override;
+
+private slots:
+    void slot_selectAction(QAction *pAction);
+    void slot_ShowSign();
+
+private:
+    /// What a row shows of a conference's creator.
+    struct Creator
+    {
+        QString strName;
+        QString strHeadPath;
+    };
+    static Creator creatorOf(const QString &strUserID);
+    static QStandardItem *creatListItem(const ConfInfoData &confInfo, const Creator &creator, bool bCreatedByMe);
+    QStandardItem *creatListItem(const ConfInfoData &confInfo) const;
+    void initMenu();
+    void hoverRow(const QModelIndex &index, const QPoint &position);
+    void clickRow(const QModelIndex &index, const QPoint &position);
+    void showMenu(const QStandardItem *pItem);
+
+protected:
+    CConferenceInfoListViewDelegate *m_pDelegate;
+    QStandardItemModel *m_pModel;
+    QList<ConfInfoData> m_confInfoList; ///< new records at the end, deleted ones still there: not the rows' order
+    QMap<QString, QStandardItem *> m_confItemMap; ///< by conference id; the model owns the items
+    QString m_strSelectedConfID;                  ///< the row that the menu was opened for last
+    CMenuEx *m_pMenu;
+    QAction *m_pRecallAction;
+    QAction *m_pDeleteAction;
+    QTimer m_signTimer;
+    QPoint m_signPos;
+    QString m_strSignJid;
+};

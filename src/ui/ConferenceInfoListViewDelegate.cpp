@@ -1,0 +1,114 @@
+#include "ui/ConferenceInfoListViewDelegate.h"
+
+#include "common/CommonFun.h"
+#include "common/DpiScale.h"
+#include "common/IconGlyphs.h"
+#include "common/Palette.h"
+#include "ui/ConferenceTexts.h"
+#include "ui/MemberRoles.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int cMargin = 10;
+constexpr int cHeadSide = 40;
+constexpr int cTextLeft = 60;
+constexpr int cLineHeight = 20;
+constexpr int cSecondTop = 35;
+constexpr int cGlyphSide = 16;
+constexpr int cDirectionPixels = 12;
+constexpr int cDetailPixels = 16;
+
+constexpr QColor cLineColor = cLineColor_;
+constexpr QColor cButtonColor(76, 152, 223);
+
+int dpi(int iPixels)
+{
+    return ADAPT_DPI_INT(iPixels);
+}
+
+void drawWrapped(QPainter &painter, const QRect &place, const QString &strText)
+{
+    painter.drawText(place, Qt::TextWrapAnywhere, strText);
+}
+
+void paintDetailButton(QPainter &painter, const QRect &row, const QModelIndex &index)
+{
+    const QRect place(row.right() + 1 - dpi(cMargin) - dpi(cGlyphSide), row.top() + dpi(10) + dpi(5) + dpi(20),
+                      dpi(cGlyphSide), dpi(cGlyphSide));
+    RowPainter::drawGlyph(painter, place, IconGlyph::Detail, cDetailPixels, cButtonColor);
+    RowPainter::keepRect(index, ROLE_REMOVE_RECT, place);
+}
+
+QString statusText(const QModelIndex &index, bool bConnected)
+{
+    return bConnected ? index.data(ROLE_CONF_CALL_TIME).toString() : QStringLiteral("未接通");
+}
+
+/// The status at the right and the name in the room that it leaves.
+void paintFirstLine(QPainter &painter, const QRect &row, const QString &strStatus, const QString &strName)
+{
+    painter.setFont(RowPainter::textFont());
+    painter.setPen(strCOLOR_MAININFO_LIGHT_BLACK);
+    const QFontMetrics metrics = painter.fontMetrics();
+    const int iStatusWidth = metrics.horizontalAdvance(strStatus);
+    const int iTop = row.top() + dpi(cMargin);
+    RowPainter::drawLine(
+        painter, QRect(row.right() + 1 - dpi(cMargin) - iStatusWidth, iTop, iStatusWidth, dpi(cLineHeight)), strStatus);
+    QRect place(row.left() + dpi(cTextLeft), iTop, 0, dpi(cLineHeight));
+    place.setRight(place.left() + (row.right() - row.left()) - iStatusWidth - dpi(80));
+    drawWrapped(painter, place, RowPainter::elidedLine(metrics, strName, place.width()));
+}
+
+void paintDirection(QPainter &painter, const QRect &row, bool bCreatedByMe)
+{
+    QFont font = CommonFun::getIconFont();
+    font.setPixelSize(dpi(cDirectionPixels));
+    painter.setFont(font);
+    drawWrapped(painter,
+                QRect(row.left() + dpi(cTextLeft), row.top() + dpi(cSecondTop), dpi(cGlyphSide), dpi(cGlyphSide)),
+                IconGlyph::text(bCreatedByMe ? IconGlyph::CreatedByMe : IconGlyph::JoinedByMe));
+}
+
+/// The line that tells when. Deliberate: it is drawn in the icon font that the direction has left in the painter.
+void paintSecondLine(QPainter &painter, const QRect &row, bool bDetailButton, const QString &strLine)
+{
+    const int iButtonRoom = bDetailButton ? dpi(cGlyphSide) + dpi(10) : 0;
+    const int iWidth = row.width() - dpi(cGlyphSide) - dpi(10) - dpi(10) - dpi(cHeadSide) - 2 * dpi(10) - iButtonRoom;
+    const QRect place(row.left() + dpi(10) + dpi(cHeadSide) + dpi(20) + dpi(cGlyphSide), row.top() + dpi(cSecondTop),
+                      iWidth, dpi(cLineHeight));
+    drawWrapped(painter, place, RowPainter::elidedLine(painter.fontMetrics(), strLine, iWidth));
+}
+
+} // namespace
+
+CConferenceInfoListViewDelegate::CConferenceInfoListViewDelegate(QObject *parent) : QStyledItemDelegate(parent) {}
+
+void CConferenceInfoListViewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                                            const QModelIndex &index) const
+{
+    const KeptPenAndFont kept(painter);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
+    const QRect row = option.rect;
+    const bool bConnected = index.data(ROLE_CALL_STATUS).toBool();
+    const bool bDetailButton = bConnected && option.state.testFlag(QStyle::State_MouseOver);
+
+    paintHead(*painter, row, index);
+    if (bDetailButton)
+        paintDetailButton(*painter, row, index);
+    paintFirstLine(*painter, row, statusText(index, bConnected), index.data(ROLE_DISPLAY_NAME).toString());
+    paintDirection(*painter, row, index.data(ROLE_CREATED_BY_ME).toBool());
+    paintSecondLine(*painter, row, bDetailButton,
+                    ConferenceTexts::titleLine(index.data(ROLE_CONF_CREATE_TIME).toString()));
+    painter->fillRect(QRect(QPoint(row.left() + dpi(cTextLeft), row.bottom()), QPoint(row.right(), row.bottom())),
+                      cLineColor);
+}
+
+void CConferenceInfoListViewDelegate::paintHead(QPainter &painter, const QRect &row, const QModelIndex &index) const
+{
+    const QRect place(row.left() + dpi(cMargin), row.top() + dpi(cMargin), dpi(cHeadSide), dpi(cHeadSide));
+    RowPainter::keepRect(index, ROLE_HEAD_RECT, place);
+    painter.drawPixmap(place.topLeft(), m_heads.picture(index.data(ROLE_HEAD_PATH).toString(), dpi(cHeadSide),
+                                                        painter.device()->devicePixelRatioF()));
+}
