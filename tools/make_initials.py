@@ -1,9 +1,11 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Writes src/common/ChineseInitials.cpp: the first letter of the Mandarin reading of each character U+4E00 to U+9FA5.
 
 The readings are Unicode's own, from Debian's package unicode-data.
-Usage: tools/make_initials.py [Unihan_Readings.txt.bz2]
+Usage: tools/make_initials.py [--check] [Unihan_Readings.txt.bz2]
+With --check nothing is written; the committed file has to be what the readings give.
 """
+import argparse
 import bz2
 import pathlib
 import sys
@@ -12,6 +14,7 @@ import unicodedata
 FIRST, LAST = 0x4E00, 0x9FA5
 PER_LINE = 100
 READINGS = "/usr/share/unicode/Unihan_Readings.txt.bz2"
+TABLE = pathlib.Path(__file__).resolve().parent.parent / "src" / "common" / "ChineseInitials.cpp"
 
 # Characters without a Mandarin reading there: metric units made in Japan and the like, by the sound of their parts.
 OTHERS = {
@@ -50,11 +53,23 @@ def initials(path):
     return "".join(letters[code] for code in range(FIRST, LAST + 1))
 
 
-def main():
-    text = initials(sys.argv[1] if len(sys.argv) > 1 else READINGS)
+def source(path):
+    text = initials(path)
     rows = [text[start:start + PER_LINE] for start in range(0, len(text), PER_LINE)]
-    target = pathlib.Path(__file__).resolve().parent.parent / "src" / "common" / "ChineseInitials.cpp"
-    target.write_text(HEAD + "\n".join(f'    "{row}"' for row in rows) + TAIL, encoding="utf-8")
+    return HEAD + "\n".join(f'    "{row}"' for row in rows) + TAIL
+
+
+def main():
+    arguments = argparse.ArgumentParser(description="Writes the table of initials.")
+    arguments.add_argument("--check", action="store_true", help="compare with the committed table instead")
+    arguments.add_argument("readings", nargs="?", default=READINGS)
+    given = arguments.parse_args()
+    text = source(given.readings)
+    if given.check:
+        if TABLE.read_text(encoding="utf-8") != text:
+            sys.exit(f"{TABLE} is not what {given.readings} gives: run {sys.argv[0]}")
+        return
+    TABLE.write_text(text, encoding="utf-8")
 
 
 if __name__ == "__main__":

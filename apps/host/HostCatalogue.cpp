@@ -1,38 +1,38 @@
 #include "HostCatalogue.h"
 
-#include <cstring>
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
-struct Row
+// The language as the settings name it, and the suffix of its file. The first stands in for all others.
+struct Language
 {
-    const char *key;
-    const char *text;
+    const char *setting;
+    const char *suffix;
 };
 
-constexpr Row rows[] = {
-    {"sure", "确定"},
-    {"cancel", "取消"},
-    {"close", "关闭"},
-    {"tip", "提示"},
-    {"soundfailedinsound", "正在通话中，请先结束当前通话"},
-    {"beSureToCloseCalling", "确定要结束当前通话吗？"},
-    {"openmic", "打开麦克风"},
-    {"closemic", "关闭麦克风"},
-    {"openvioce", "打开声音"},
-    {"silence", "静音"},
-    {"enternothandle", "未处理的消息"},
-    {"tarvoShowName", "KelvarIM"},
+constexpr Language languages[] = {
+    {"zh_CN", "zh_CN"},
+    {"zh_TW", "zh_TW"},
+    {"en", "en"},
+    {"uk", "en"},
 };
 
 } // namespace
 
-QString HostCatalogue::translate(const char *, const char *sourceText, const char *, int) const
+bool HostCatalogue::read(const QString &strFolder, const QString &strLanguage)
 {
-    for (const Row &row : rows) {
-        if (std::strcmp(row.key, sourceText) == 0) {
-            return QString::fromUtf8(row.text);
-        }
-    }
-    return QString();
+    const auto *found = std::find_if(std::begin(languages), std::end(languages), [&](const Language &language) {
+        return strLanguage == QLatin1String(language.setting);
+    });
+    const Language &language = found == std::end(languages) ? languages[0] : *found;
+    return load(QStringLiteral("kelvarim_") + QLatin1String(language.suffix), strFolder);
+}
+
+QString HostCatalogue::folder()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/Resources/Translations");
 }

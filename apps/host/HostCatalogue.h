@@ -1,9 +1,11 @@
 #pragma once
 
+// The client's translation catalogue: the texts behind the keys that the plug-in and the common code show. There is one
+// file for each language, kelvarim_<language>.qm; the demo client's own words stay as they are.
+// GUI thread; the creator owns it and installs it in the application.
+
 #include <QTranslator>
 
-/// The client's translation catalogue, as far as the call windows need it: the texts behind the keys of their dialogs
-/// and tool tips. The key alone decides, whatever the context, because the same keys serve all windows.
 class HostCatalogue : public QTranslator
 {
     Q_OBJECT
@@ -11,9 +13,11 @@ class HostCatalogue : public QTranslator
 public:
     using QTranslator::QTranslator;
 
-    /// The text of the key, or a null text for an unknown one, so that Qt goes on to the next catalogue.
-    QString translate(const char *context, const char *sourceText, const char *disambiguation, int n) const override;
+    /// Reads the catalogue of `strLanguage` from `strFolder`: "zh_CN", "zh_TW", or English as "en" or under its older
+    /// name "uk". Any other language, an empty one too, gets "zh_CN". False when the file is missing or damaged; every
+    /// key then shows as itself.
+    bool read(const QString &strFolder, const QString &strLanguage);
 
-    /// False: an empty catalogue would not be installed.
-    bool isEmpty() const override { return false; }
+    /// The folder of the catalogues beside the executable.
+    static QString folder();
 };

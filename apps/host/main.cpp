@@ -7,6 +7,9 @@
 #include "MainWindow.h"
 #include "TourSteps.h"
 #include "TourWatch.h"
+#include "WindowFont.h"
+
+#include "common/CommonFun.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -102,7 +105,11 @@ int main(int argc, char **argv)
     const EndSignals endSignals;
     QObject::connect(&endSignals, &EndSignals::endRequested, &app, [] { QCoreApplication::exit(endedFromOutside); });
 
+    WindowFont::substituteMissing();
     HostCatalogue catalogue;
+    if (!catalogue.read(HostCatalogue::folder(), CommonFun::getApplicationLanguage())) {
+        QTextStream(stderr) << "No translations in " << HostCatalogue::folder() << '\n';
+    }
     QCoreApplication::installTranslator(&catalogue);
     ContactBook book(HostSession::loginDomain());
     HostSession session(book);

@@ -20,7 +20,8 @@ QString realPath(const QDir &dir)
 
 bool isInside(const QString &strPath, const QString &strFolder)
 {
-    return strPath == strFolder || strPath.startsWith(strFolder + QLatin1Char('/'));
+    const QString strBelow = strFolder.endsWith(QLatin1Char('/')) ? strFolder : strFolder + QLatin1Char('/');
+    return strPath == strFolder || strPath.startsWith(strBelow);
 }
 
 bool copyFile(const QFileInfo &file, const QDir &to, bool bOverwrite)
@@ -42,8 +43,11 @@ bool copyFolder(const QDir &from, const QDir &to, bool bOverwrite, QStringList l
     if (!to.exists() && !QDir().mkdir(to.absolutePath())) {
         return false;
     }
-    const QFileInfoList listEntry = from.entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    const QFileInfoList listEntry = from.entryInfoList();
     for (const QFileInfo &entry : listEntry) {
+        if (entry.fileName() == QLatin1String(".") || entry.fileName() == QLatin1String("..")) {
+            continue;
+        }
         const bool bCopied =
             entry.isDir() ? copyFolder(QDir(entry.filePath()), QDir(to.filePath(entry.fileName())), true, listUnderWay)
                           : copyFile(entry, to, bOverwrite);

@@ -32,6 +32,6 @@ public:
     /// Sets that parameter.
     static void setSOALoginInfo(const QString &strInfo) { m_strSOALoginInfo = strInfo; }
 
-private:
+    /// The parameter itself; empty until it is set.
     static QString m_strSOALoginInfo;
 };

@@ -18,7 +18,9 @@ class CServiceNumData
 {
 public:
     /// Fills the record from the JSON object `value`: all fields, the menu tree (added behind the present one) and,
-    /// when "channel" is there, the channel. The menu text is written when the menu list is not empty, else it stays.
+    /// when "channel" is there, the channel. When the menu list has nodes then, the menu text becomes that of the
+    /// "menuList" in `value`, also where the nodes were there before; else it stays. So read a new version of an
+    /// account into a fresh record.
     void parseFromJson(Json::Value value);
 
     /// Appends the nodes of the array `value` to the menu list; what is there stays. No array: nothing.

@@ -2,6 +2,8 @@
 
 #include <QtTest>
 
+#include <type_traits>
+
 class tst_CommonFun : public QObject
 {
     Q_OBJECT
@@ -96,6 +98,53 @@ private slots:
         QVERIFY(CommonFun::getPicSaveSuffixes("bmp").startsWith("BMP"));
         QCOMPARE(CommonFun::getTrueImagePath("none.png", "fallback.png"), QString("fallback.png"));
         QVERIFY(!CommonFun::getIsImageFixError(strName));
+    }
+
+    void theDigestsAreReachedByTheOneName()
+    {
+        const char *const pEmpty = "da39a3ee5e6b4b0d3255bfef95601890afd80709";
+        uint32_t digest[5];
+        CommonFun::sha1(nullptr, 0, digest);
+        QCOMPARE(CommonFun::octet_string_hex_string1(digest, 20), pEmpty);
+        sha1_ctx_t context;
+        CommonFun::sha1_init(&context);
+        CommonFun::sha1_update(&context, nullptr, 0);
+        CommonFun::sha1_final(&context, digest);
+        QCOMPARE(CommonFun::octet_string_hex_string1(digest, 20), pEmpty);
+        QCOMPARE(CommonFun::nibble_to_hex_char1(15), 'f');
+        QCOMPARE(CommonFun::getFileHash(QString()), QString(pEmpty));
+        QCOMPARE(CommonFun::getSha1(QString()), QString(pEmpty).toUpper());
+        QCOMPARE(CommonFun::getMd5(QString()), QString("D41D8CD98F00B204E9800998ECF8427E"));
+        QTest::ignoreMessage(QtDebugMsg, "error");
+        QCOMPARE(CommonFun::getFileMd5("missing"), QString());
+        QTest::ignoreMessage(QtDebugMsg, "error");
+        QCOMPARE(CommonFun::getFileSha1("missing"), QString());
+    }
+
+    void theSmallServicesAreReachedByTheOneName()
+    {
+        QCOMPARE(CommonFun::getUuid().size(), 22);
+        CommonFun::m_nAutoIncrementNumber = 7;
+        QCOMPARE(CommonFun::getShortId(), QString("impc7"));
+        QCOMPARE(CommonFun::getAutoIncrementNumber(), QString("8"));
+        QCOMPARE(CommonFun::toChineseSpell("张 3a"), QString("Z3A"));
+        QVERIFY(CommonFun::copyDirectory(QDir("missing"), QDir("copied"), false));
+        CommonFun::setSOALoginInfo("me");
+        QCOMPARE(CommonFun::getSOALoginInfo(), QString("me"));
+        QCOMPARE(CommonFun::m_strSOALoginInfo, QString("me"));
+        QVERIFY(!CommonFun::openLocalFile("missing"));
+        QVERIFY(!CommonFun::openLocalDir("missing/file"));
+        QCOMPARE(CommonFun::openMacLocalFile("missing"), 0);
+        QVERIFY(CommonFun::parseWeatherXml("missing").isEmpty());
+        QVERIFY(CommonFun::parseCityXml().isEmpty());
+        QCOMPARE(CommonFun::readStyleSheet({"missing"}), QStringList(QString()));
+        QCOMPARE(CommonFun::transformToRGBAStr("#010203"), QString("1,2,3"));
+        QVERIFY(CommonFun::isVideoChat("VRoom1"));
+        QCOMPARE(CommonFun::getUIDByAccountNo("missing", "a"), QString());
+        QCOMPARE(CommonFun::getMucRoomMaxMemberSize(), Q_INT64_C(1500));
+        static_assert(std::is_same_v<decltype(&CommonFun::getLocalIPAddress), QString (*)()>);
+        static_assert(std::is_same_v<decltype(&CommonFun::sendMail), void (*)(const QStringList &)>);
+        static_assert(std::is_same_v<decltype(&CommonFun::getAvailableMovePos), QPoint (*)(QPoint, QRect)>);
     }
 };
 

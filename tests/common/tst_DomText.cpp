@@ -10,6 +10,16 @@ QString nested(int depth)
     return QString("<a>").repeated(depth) + QString("</a>").repeated(depth);
 }
 
+// A text of a few lines whose one entity stands for 10 to the power of `levels` letters.
+QString multiplied(int levels)
+{
+    QString text = "<!DOCTYPE a [<!ENTITY e0 'x'>";
+    for (int level = 1; level <= levels; ++level) {
+        text += QString("<!ENTITY e%1 '%2'>").arg(level).arg(QString("&e%1;").arg(level - 1).repeated(10));
+    }
+    return text + QString("]><a>&e%1;</a>").arg(levels);
+}
+
 } // namespace
 
 class tst_DomText : public QObject
@@ -37,6 +47,7 @@ private slots:
         QTest::newRow("empty") << QString();
         QTest::newRow("plain") << "hello";
         QTest::newRow("open") << "<a><b></a>";
+        QTest::newRow("entities that multiply") << multiplied(20);
         QTest::newRow("one too deep") << nested(DomText::DEEPEST + 1);
         QTest::newRow("bottomless") << QString("<a>").repeated(1000000);
         QTest::newRow("bottomless behind a comment") << "<r><!--</a></a>-->" + nested(100000) + "</r>";

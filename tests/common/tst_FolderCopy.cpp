@@ -119,6 +119,30 @@ private slots:
         QVERIFY(FolderCopy::copyDirectory(QDir("nothing here"), QDir("to"), true));
         QVERIFY(QDir("to").isEmpty());
     }
+
+    void hiddenFilesAreLeftOutUnlessTheFolderListsThem()
+    {
+        write("from/.hidden", "h");
+        write("from/sub/.hidden", "h");
+        QDir from("from");
+        QVERIFY(FolderCopy::copyDirectory(from, QDir("to"), true));
+        QVERIFY(!QFile::exists("to/.hidden"));
+        from.setFilter(QDir::AllEntries | QDir::Hidden);
+        QVERIFY(FolderCopy::copyDirectory(from, QDir("to"), true));
+        QCOMPARE(read("to/.hidden"), QByteArray("h"));
+        QVERIFY(!QFile::exists("to/sub/.hidden"));
+    }
+
+    void theOwnFiltersOfTheFolderHoldForItsEntries()
+    {
+        write("from/b.log", "b");
+        write("from/folder.txt/c.txt", "c");
+        QDir from("from");
+        from.setFilter(QDir::Files);
+        from.setNameFilters({"*.txt"});
+        QVERIFY(FolderCopy::copyDirectory(from, QDir("to"), true));
+        QCOMPARE(QDir("to").entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList("a.txt"));
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_FolderCopy)

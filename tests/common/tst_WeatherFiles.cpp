@@ -38,6 +38,14 @@ private slots:
         QCOMPARE(WeatherFiles::parseWeatherXml("w.xml"), wanted);
     }
 
+    void aReplyMayBeLaidOutInLines()
+    {
+        write("w.xml", "<reply>\n  <city>\n    <name>a</name>\n    <code>1</code>\n    <wind/>\n    <time>8</time>\n"
+                       "    <day>\n      <low>1</low>\n    </day>\n  </city>\n</reply>\n");
+        const Maps wanted = {{{"name", "a"}, {"code", "1"}, {"wind", ""}, {"time", "8"}}, {{"low", "1"}}};
+        QCOMPARE(WeatherFiles::parseWeatherXml("w.xml"), wanted);
+    }
+
     void otherShapes_data()
     {
         QTest::addColumn<QByteArray>("text");

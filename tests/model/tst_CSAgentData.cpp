@@ -10,12 +10,31 @@ private slots:
     void freshRecordsAreBlank()
     {
         const CSAgentSessionData session;
-        QVERIFY(session.m_strSessionId.isEmpty() && session.m_strWorkGroupId.isEmpty());
-        QCOMPARE(session.m_iStatus + session.m_iUnreadCount + session.m_iStartTime + session.m_iEndTime, Q_INT64_C(0));
-        QCOMPARE(CSWaitingSessionData().m_iPosition, 0);
-        QCOMPARE(CSAgentMessageData().m_iTime, Q_INT64_C(0));
-        QCOMPARE(CSAgentSessionTransferReply().getResponseCode(), 0);
-        QVERIFY(CSAgentSessionTransferAsk().getReason().isEmpty());
+        QCOMPARE(session.m_strSessionId + session.m_strAgentSessionId + session.m_strCustomerId + session.m_strAgentId +
+                     session.m_strChannelId + session.m_strWorkGroupId,
+                 QString());
+        QCOMPARE(session.m_iStatus, 0);
+        QCOMPARE(session.m_iUnreadCount, 0);
+        QCOMPARE(session.m_iStartTime, Q_INT64_C(0));
+        QCOMPARE(session.m_iEndTime, Q_INT64_C(0));
+        const CSWaitingSessionData waiting;
+        QCOMPARE(waiting.m_strSessionId + waiting.m_strCustomerId, QString());
+        QCOMPARE(waiting.m_iPosition, 0);
+        const CSAgentMessageData message;
+        QCOMPARE(message.m_strMessageId + message.m_strSessionId + message.m_strSenderId + message.m_strReceiverId +
+                     message.m_strBody,
+                 QString());
+        QCOMPARE(message.m_iType, 0);
+        QCOMPARE(message.m_iTime, Q_INT64_C(0));
+        const CSAgentSessionTransferAsk ask;
+        QCOMPARE(ask.getSessionId() + ask.getAgentSessionId() + ask.getRequestAgentId() + ask.getTargetAgentId() +
+                     ask.getWorkGroupId() + ask.getReason(),
+                 QString());
+        const CSAgentSessionTransferReply reply;
+        QCOMPARE(reply.getSessionId() + reply.getAgentSessionId() + reply.getRequestAgentId() +
+                     reply.getTargetAgentId() + reply.getTargetAgentName(),
+                 QString());
+        QCOMPARE(reply.getResponseCode(), 0);
     }
 
     void anAskKeepsEachOfItsSixTexts()

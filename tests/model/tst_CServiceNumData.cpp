@@ -10,8 +10,6 @@
 #include <json/value.h>
 
 #include <QFile>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QTest>
 
 namespace {
@@ -59,8 +57,23 @@ private slots:
     {
         const CServiceNumData data;
         QCOMPARE(data.m_strVersion, QString("-1"));
-        QVERIFY(data.m_strServiceCode.isEmpty() && data.m_strMenuText.isEmpty() && data.m_listMenu.isEmpty());
-        QCOMPARE(data.m_iStatus + data.m_iSubType + data.m_channel.m_iStatus, 0);
+        for (const QString &text : {data.m_strServiceCode, data.m_strName, data.m_strDescription, data.m_strIconName,
+                                    data.m_strIconPath, data.m_strSubject, data.m_strContactWay, data.m_strMenuText}) {
+            QCOMPARE(text, QString());
+        }
+        QVERIFY(data.m_listMenu.isEmpty());
+        QCOMPARE(data.m_iSubType, 0);
+        QCOMPARE(data.m_iStatus, 0);
+        QVERIFY(!data.m_bBindApp && !data.m_bSubscribed && !data.m_bInteractive && !data.m_bFold);
+        const CSChannelData &channel = data.m_channel;
+        for (const QString &text :
+             {channel.m_strChannelId, channel.m_strChannelName, channel.m_strPhotoName, channel.m_strWelcome}) {
+            QCOMPARE(text, QString());
+        }
+        QVERIFY(channel.m_listWorkGroup.isEmpty());
+        QCOMPARE(channel.m_iStatus, 0);
+        QCOMPARE(channel.m_iVersion, Q_INT64_C(0));
+        QVERIFY(!channel.m_bAllowClose && !channel.m_bAllowOpen);
     }
 
     void everyKeyFindsItsField()
@@ -174,28 +187,32 @@ private slots:
         QCOMPARE(data.m_listMenu.at(2).m_strName, QString("c"));
     }
 
-    void theMenuTextGoesThroughItsColumnAndBack()
+    void theMenuTextIsTheStyledFormOfTheList()
     {
         CServiceNumData data;
-        data.parseFromJson(json(WHOLE_SERVICE));
-        QVERIFY(data.m_strMenuText.contains("\n\t\t\"name\" : \"top\"") ||
-                data.m_strMenuText.contains("\"name\" : \"top\""));
-        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "menu");
-        db.setDatabaseName("menu.db");
-        QVERIFY(db.open());
-        QSqlQuery query(db);
-        QVERIFY(query.exec("CREATE TABLE service (menu VARCHAR(100))"));
-        query.prepare("INSERT INTO service VALUES (?)");
-        query.addBindValue(data.m_strMenuText);
-        QVERIFY(query.exec());
-        QVERIFY(query.exec("SELECT menu FROM service") && query.next());
-        CServiceNumData other;
-        other.parseServiceMenuFromString(query.value(0).toString());
-        QCOMPARE(other.m_strMenuText, data.m_strMenuText);
-        QCOMPARE(other.m_listMenu.size(), 2);
-        QCOMPARE(other.m_listMenu.first().m_listChild.at(1).m_strName, QString("two"));
-        query.finish();
-        db.close();
+        data.parseFromJson(json(R"({"menuList":[{"name":"end","leaf":true}]})"));
+        QCOMPARE(data.m_strMenuText, QString("[\n   {\n      \"leaf\" : true,\n      \"name\" : \"end\"\n   }\n]\n"));
+    }
+
+    void theMenuTextIsThatOfTheLastMessage()
+    {
+        CServiceNumData data;
+        data.parseFromJson(json(R"({"menuList":[{"name":"a","leaf":true}]})"));
+        data.parseFromJson(json(R"({"menuList":[{"name":"b","leaf":true}]})"));
+        QCOMPARE(data.m_listMenu.size(), 2);
+        QVERIFY(data.m_strMenuText.contains("\"b\"") && !data.m_strMenuText.contains("\"a\""));
+        // The list still has nodes, so an empty one is kept as a text too.
+        data.parseFromJson(json(R"({"menuList":[]})"));
+        QCOMPARE(data.m_strMenuText.trimmed(), QString("[]"));
+    }
+
+    void numbersInPlaceOfTextsReadAsTheirDigits()
+    {
+        CServiceNumData data;
+        data.parseFromJson(json(R"({"iServiceCode":12,"version":3,"isSub":1})"));
+        QCOMPARE(data.m_strServiceCode, QString("12"));
+        QCOMPARE(data.m_strVersion, QString("3"));
+        QVERIFY(data.m_bSubscribed);
     }
 
     void aMenuTextMayHoldComments()

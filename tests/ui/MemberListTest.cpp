@@ -1,5 +1,7 @@
 #include "MemberListTest.h"
 
+#include "ShippedFiles.h"
+
 #include <QStandardItemModel>
 #include <QTimer>
 #include <QToolTip>
@@ -12,13 +14,7 @@ void MemberListTest::initTestCase()
     qputenv("TZ", "NOON" + QByteArray::number(QDateTime::currentDateTimeUtc().time().hour() - 12));
     tzset();
     QCOMPARE(QTime::currentTime().hour(), 12);
-    // The program finds its pictures and its icon font below the working directory, which is the test's own.
-    const QString strResources = QStringLiteral(VOIP_RESOURCES "/");
-    for (const char *pFile : {"BaseConfig/kelvarimiconfont.ttf", "images/FriendDetail/defaultHead.png"}) {
-        const QString strFile = QStringLiteral("Resources/") + QLatin1String(pFile);
-        QVERIFY(QDir().mkpath(QFileInfo(strFile).path()));
-        QVERIFY(QFile::copy(strResources + QLatin1String(pFile), strFile));
-    }
+    QVERIFY(placeShippedFiles());
 }
 
 void MemberListTest::init()

@@ -1,0 +1,117 @@
+#include "KitForms.h"
+
+#include "Sheet.h"
+
+#include "common/IconFont.h"
+#include "common/IconGlyphs.h"
+#include "common/Palette.h"
+#include "model/SkinContext.h"
+#include "widgets/BaseFormEx.h"
+#include "widgets/CustomIconStyle.h"
+#include "widgets/HotLabel.h"
+#include "widgets/MyRubberBand.h"
+#include "widgets/VcardHeadLabel.h"
+
+#include <QListWidget>
+
+namespace {
+
+constexpr QSize formSize(130, 96);
+constexpr int titleHeight = 30;
+// The inset of a window with a list at its left.
+constexpr int lineOffset = 40;
+
+CBaseFormEx *form(int iTitleHeight)
+{
+    auto *form = new CBaseFormEx;
+    form->setFixedSize(formSize);
+    form->setTitleHeightEx(iTitleHeight);
+    return form;
+}
+
+CBaseFormEx *formWithOffset()
+{
+    CBaseFormEx *offset = form(titleHeight);
+    offset->setPaintLineOffset(lineOffset);
+    return offset;
+}
+
+CBaseFormEx *formWithoutBody()
+{
+    CBaseFormEx *bare = form(titleHeight);
+    bare->setNoSeparate(true);
+    return bare;
+}
+
+HotLabel *hotLabel()
+{
+    auto *label = new HotLabel;
+    label->setText(QObject::tr("modifyhotkey"));
+    label->setStyleSheet(QStringLiteral("font:12px 微软雅黑;color:%1;").arg(strCOLOR_SKINTHEME_GREEN));
+    return label;
+}
+
+HotLabel *hotLabelUnderMouse()
+{
+    HotLabel *label = hotLabel();
+    QEvent enter(QEvent::Enter);
+    QCoreApplication::sendEvent(label, &enter);
+    return label;
+}
+
+VcardHeadLabel *headLabel(int iWidth, const QString &strPath)
+{
+    auto *label = new VcardHeadLabel;
+    label->setFixedSize(iWidth, iWidth);
+    label->setHeadPictrue(strPath);
+    return label;
+}
+
+QWidget *styledList(int iSize)
+{
+    auto *list = new QListWidget;
+    list->setFixedSize(130, 72);
+    list->setFrameShape(QFrame::NoFrame);
+    auto *style = new CustomIconStyle;
+    style->setParent(list);
+    style->SetCustomSize(iSize);
+    list->setStyle(style);
+    const QColor color(SkinContext::getSkinData()->m_strIconColor);
+    for (const ushort glyph : {IconGlyph::Messages, IconGlyph::Contacts}) {
+        const QIcon icon(IconFont::getIconFontPixmap(IconGlyph::text(glyph), color, QSize(64, 64), 64));
+        list->addItem(new QListWidgetItem(icon, QStringLiteral("%1 px").arg(iSize)));
+    }
+    return list;
+}
+
+QWidget *rubberBand()
+{
+    auto *frame = new QWidget;
+    frame->setFixedSize(130, 72);
+    auto *band = new MyRubberBand(QRubberBand::Rectangle, frame);
+    band->setGeometry(frame->rect());
+    band->show();
+    return frame;
+}
+
+} // namespace
+
+void KitForms::addForms(Sheet &sheet)
+{
+    sheet.section(QStringLiteral("CBaseFormEx"), {QStringLiteral("with a title"), QStringLiteral("no title"),
+                                                  QStringLiteral("line offset"), QStringLiteral("no body")});
+    sheet.row(QStringLiteral("on dark ground"), {form(titleHeight), form(0), formWithOffset(), formWithoutBody()},
+              true);
+}
+
+void KitForms::addSmallParts(Sheet &sheet)
+{
+    const QString avatar = QStringLiteral("Resources/SystemAvatar/%1.jpg");
+    sheet.section(QStringLiteral("Smaller parts"));
+    sheet.row(QStringLiteral("HotLabel; under the mouse"), {hotLabel(), hotLabelUnderMouse()});
+    sheet.row(QStringLiteral("VcardHeadLabel; no such file"),
+              {headLabel(32, avatar.arg(1)), headLabel(48, avatar.arg(2)), headLabel(64, avatar.arg(3)),
+               headLabel(64, QStringLiteral("Resources/SystemAvatar/none.jpg"))});
+    sheet.row(QStringLiteral("CustomIconStyle"), {styledList(16), styledList(20), styledList(28)});
+    sheet.row(QStringLiteral("MyRubberBand"), {rubberBand()});
+}

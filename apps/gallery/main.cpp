@@ -1,0 +1,92 @@
+#include "GalleryPages.h"
+#include "GalleryUser.h"
+#include "GalleryWindow.h"
+#include "HostCatalogue.h"
+#include "PictureRun.h"
+#include "WindowFont.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QTextStream>
+
+#include <cstdlib>
+
+namespace {
+
+// Exit code for bad arguments.
+constexpr int badArguments = 2;
+constexpr int fontPixels = 12;
+
+struct Options
+{
+    QString pictureFolder;
+    QString page;
+    QString language;
+};
+
+/// Ends the program itself for --help and for arguments that it does not know.
+Options readOptions(const QCoreApplication &app)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("KelvarIM gallery: the kit's widgets, dialogs, glyphs and pictures"));
+    parser.addHelpOption();
+    const QCommandLineOption picture(QStringLiteral("picture"),
+                                     QStringLiteral("Writes the pages and dialogs as PNG files to this folder."),
+                                     QStringLiteral("folder"));
+    const QCommandLineOption page(QStringLiteral("page"),
+                                  QStringLiteral("Only this page, or this page first: %1.").arg(GalleryPages::names()),
+                                  QStringLiteral("name"));
+    const QCommandLineOption language(QStringLiteral("language"),
+                                      QStringLiteral("Language of the kit's words: zh_CN, zh_TW, en."),
+                                      QStringLiteral("language"), QStringLiteral("zh_CN"));
+    parser.addOptions({picture, page, language});
+    parser.process(app);
+    return {parser.isSet(picture) ? QDir(parser.value(picture)).absolutePath() : QString(), parser.value(page),
+            parser.value(language)};
+}
+
+int run(const Options &options, const GalleryPage *page)
+{
+    if (options.pictureFolder.isNull()) {
+        GalleryWindow window(page);
+        window.show();
+        return QApplication::exec();
+    }
+    // A text cursor that does not blink is in every picture or in none.
+    QApplication::setCursorFlashTime(0);
+    QString error;
+    if (!PictureRun::write(options.pictureFolder, page, &error)) {
+        QTextStream(stderr) << error << '\n';
+        return EXIT_FAILURE;
+    }
+    return EXIT_SUCCESS;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // The same on every desktop, so that pictures can be compared.
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    const QApplication app(argc, argv);
+    const Options options = readOptions(app);
+    const GalleryPage *page = GalleryPages::find(options.page);
+    if (page == nullptr && !options.page.isEmpty()) {
+        QTextStream(stderr) << "no page " << options.page << "; there are " << GalleryPages::names() << '\n';
+        return badArguments;
+    }
+    // Resources are found relative to the working directory.
+    QDir::setCurrent(QCoreApplication::applicationDirPath());
+    WindowFont::substituteMissing();
+    QFont font(WindowFont::families().constFirst());
+    font.setPixelSize(fontPixels);
+    QApplication::setFont(font);
+    HostCatalogue catalogue;
+    catalogue.read(HostCatalogue::folder(), options.language);
+    QCoreApplication::installTranslator(&catalogue);
+    const GalleryUser user;
+    return run(options, page);
+}
