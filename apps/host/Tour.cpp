@@ -1,5 +1,6 @@
 #include "Tour.h"
 
+#include "TourHand.h"
 #include "TourWatch.h"
 #include "WindowProbe.h"
 
@@ -13,8 +14,8 @@ constexpr int settleMs = 500;
 
 } // namespace
 
-Tour::Tour(TourWatch &watch, QList<TourStep> steps, const QString &strFolder)
-    : m_watch(watch), m_steps(std::move(steps)), m_strFolder(strFolder)
+Tour::Tour(TourWatch &watch, TourHand &hand, QList<TourStep> steps, const QString &strFolder)
+    : m_watch(watch), m_hand(hand), m_steps(std::move(steps)), m_strFolder(strFolder)
 {
     connect(&m_timer, &QTimer::timeout, this, &Tour::tick);
 }
@@ -27,6 +28,7 @@ void Tour::start()
 void Tour::tick()
 {
     m_watch.look();
+    m_hand.work();
     switch (m_phase) {
     case Beginning:
         begin();
@@ -59,7 +61,7 @@ void Tour::begin()
     }
 }
 
-void Tour::wait()
+void Tour::lookFor()
 {
     for (int i = 0; i < m_seen.size(); ++i) {
         if (!m_seen.at(i) && step().checks.at(i).seen()) {
@@ -67,20 +69,33 @@ void Tour::wait()
             TourWatch::say(QStringLiteral("     ok %1").arg(step().checks.at(i).words));
         }
     }
-    if (!m_seen.contains(false)) {
+}
+
+void Tour::sayMissing() const
+{
+    if (!m_hand.isIdle()) {
+        TourWatch::say(QStringLiteral("   MISS what the mouse is to reach"));
+    }
+    for (int i = 0; i < m_seen.size(); ++i) {
+        if (!m_seen.at(i)) {
+            TourWatch::say(QStringLiteral("   MISS %1").arg(step().checks.at(i).words));
+        }
+    }
+}
+
+void Tour::wait()
+{
+    if (m_hand.isIdle()) {
+        lookFor();
+    }
+    if (m_hand.isIdle() && !m_seen.contains(false)) {
         if (step().pictureOf && step().pictureOf() != nullptr) {
             step().pictureOf()->raise();
         }
         m_clock.start();
         m_phase = Settling;
-        return;
-    }
-    if (m_clock.hasExpired(step().limitMs)) {
-        for (int i = 0; i < m_seen.size(); ++i) {
-            if (!m_seen.at(i)) {
-                TourWatch::say(QStringLiteral("   MISS %1").arg(step().checks.at(i).words));
-            }
-        }
+    } else if (m_clock.hasExpired(step().limitMs)) {
+        sayMissing();
         end(false);
     }
 }

@@ -9,6 +9,7 @@
 #include <functional>
 
 class QWidget;
+class TourHand;
 class TourWatch;
 
 /// One thing that must be seen to happen in a step.
@@ -22,7 +23,8 @@ struct TourCheck
 struct TourStep
 {
     QString title;
-    /// Runs once, at the beginning; must not open an event loop of its own. May be empty.
+    /// Runs once, at the beginning; must not open an event loop of its own. What it tells the hand is done before
+    /// anything is looked for. May be empty.
     std::function<void()> act;
     /// Each needs to be seen once, in any order.
     QList<TourCheck> checks;
@@ -40,8 +42,8 @@ class Tour : public QObject
     Q_OBJECT
 
 public:
-    /// Pictures go to the folder `strFolder`. The watch must outlive the tour.
-    Tour(TourWatch &watch, QList<TourStep> steps, const QString &strFolder);
+    /// Pictures go to the folder `strFolder`. Watch and hand must outlive the tour.
+    Tour(TourWatch &watch, TourHand &hand, QList<TourStep> steps, const QString &strFolder);
 
     void start();
 
@@ -60,12 +62,15 @@ private:
     void tick();
     void begin();
     void wait();
+    void lookFor();
+    void sayMissing() const;
     void settle();
     void end(bool bOk);
     bool takePicture();
     const TourStep &step() const { return m_steps.at(m_iStep); }
 
     TourWatch &m_watch;
+    TourHand &m_hand;
     QList<TourStep> m_steps;
     QString m_strFolder;
     QTimer m_timer;
