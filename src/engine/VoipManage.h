@@ -1,8 +1,9 @@
 #pragma once
 
 // The call engine: the one object that knows whether a call exists. It owns the link to the call process, the current
-// call, the ring, the call window and three timers. The host's commands reach it through the mailbox, the user's clicks
-// through the signals of the call window, the call process's reports through the socket.
+// call, the ring, the call window, the conference centre while it is open, and three timers. The host's commands reach
+// it through the mailbox, the user's clicks through the signals of both windows, the call process's reports through the
+// socket.
 //
 // GUI thread only, no lock, nothing thrown. It blocks for at most one second while the socket connects and one second
 // while the last line is written at the exit. The singleton is created at the host's first command and lives to the

@@ -1,6 +1,7 @@
 #include "HistoryListTest.h"
 
 #include "RealCursor.h"
+#include "ShippedFiles.h"
 #include "plugin/EMsgId.h"
 #include "plugin/VoipManageMessageProcess.h"
 
@@ -8,13 +9,7 @@
 
 void HistoryListTest::initTestCase()
 {
-    // The program finds its pictures and its icon font below the working directory, which is the test's own.
-    const QString strResources = QStringLiteral(VOIP_RESOURCES "/");
-    for (const char *pFile : {"BaseConfig/kelvarimiconfont.ttf", "images/FriendDetail/defaultHead.png"}) {
-        const QString strFile = QStringLiteral("Resources/") + QLatin1String(pFile);
-        QVERIFY(QDir().mkpath(QFileInfo(strFile).path()));
-        QVERIFY(QFile::copy(strResources + QLatin1String(pFile), strFile));
-    }
+    QVERIFY(placeShippedFiles());
 }
 
 void HistoryListTest::init()

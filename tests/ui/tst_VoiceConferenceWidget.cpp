@@ -2,6 +2,7 @@
 
 #include "ContactFixture.h"
 #include "RealCursor.h"
+#include "ShippedFiles.h"
 #include "fakes/FakeHost.h"
 #include "plugin/EMsgId.h"
 #include "plugin/VoipManageMessageProcess.h"
@@ -159,13 +160,11 @@ private slots:
 
 void tst_VoiceConferenceWidget::initTestCase()
 {
-    const QString strResources = QStringLiteral(VOIP_RESOURCES "/");
-    for (const char *pFile :
-         {"BaseConfig/kelvarimiconfont.ttf", "images/FriendDetail/defaultHead.png",
-          "images/CommonCtrls/kvim_common_back_normal.png", "images/CommonCtrls/kvim_common_back_press.png"}) {
-        const QString strFile = QStringLiteral("Resources/") + QLatin1String(pFile);
-        QVERIFY(QDir().mkpath(QFileInfo(strFile).path()));
-        QVERIFY(QFile::copy(strResources + QLatin1String(pFile), strFile));
+    QVERIFY(placeShippedFiles());
+    QVERIFY(QDir().mkpath(QStringLiteral("Resources/images/CommonCtrls")));
+    for (const char *pState : {"normal", "press"}) {
+        const QString strFile = QStringLiteral("images/CommonCtrls/kvim_common_back_%1.png").arg(QLatin1String(pState));
+        QVERIFY(QFile::copy(QStringLiteral(VOIP_RESOURCES "/") + strFile, QStringLiteral("Resources/") + strFile));
     }
 }
 
