@@ -71,8 +71,11 @@ void MainWindow::connectSession()
         m_prompt.prompt(strUid, bConference, bVideo);
     });
     connect(&mailbox, &HostMailbox::promptWithdrawn, &m_prompt, &IncomingPrompt::withdraw);
-    connect(&m_prompt, &IncomingPrompt::answered, this,
-            [this](const QString &, bool bAccept) { m_session.answerCall(bAccept); });
+    connect(&m_prompt, &IncomingPrompt::answered, this, [this](const QString &strUid, bool bAccept) {
+        const QString name = m_book.nameOf(strUid);
+        statusBar()->showMessage(bAccept ? tr("Call of %1 accepted").arg(name) : tr("Call of %1 rejected").arg(name));
+        m_session.answerCall(bAccept);
+    });
     connect(&mailbox, &HostMailbox::conferenceWanted, this, &MainWindow::startConference);
     connect(&mailbox, &HostMailbox::signatureShown, &m_signature, &SignatureCard::showCard);
     connect(&mailbox, &HostMailbox::signatureHidden, &m_signature, &QWidget::hide);

@@ -94,19 +94,22 @@ void tst_MainWindow::answerTakesThePromptAway_data()
 {
     QTest::addColumn<QByteArray>("button");
     QTest::addColumn<bool>("accept");
-    QTest::newRow("accept") << QByteArray("btnAccept") << true;
-    QTest::newRow("reject") << QByteArray("btnReject") << false;
+    QTest::addColumn<QString>("status");
+    QTest::newRow("accept") << QByteArray("btnAccept") << true << QStringLiteral("Call of Anna Novak accepted");
+    QTest::newRow("reject") << QByteArray("btnReject") << false << QStringLiteral("Call of Anna Novak rejected");
 }
 
 void tst_MainWindow::answerTakesThePromptAway()
 {
     QFETCH(QByteArray, button);
     QFETCH(bool, accept);
+    QFETCH(QString, status);
     QSignalSpy answered(&m_pWindow->prompt(), &IncomingPrompt::answered);
     ring(QStringLiteral("30010006"));
     QVERIFY(pressButton(&m_pWindow->prompt(), button.constData()));
     QTRY_COMPARE(answered.count(), 1);
     QCOMPARE(answered.at(0), (QList<QVariant>{QStringLiteral("30010006"), accept}));
+    QCOMPARE(m_pWindow->statusBar()->currentMessage(), status);
     QVERIFY(!m_pWindow->prompt().isVisible());
 }
 
