@@ -18,6 +18,7 @@ Tour::Tour(TourWatch &watch, TourHand &hand, QList<TourStep> steps, const QStrin
     : m_watch(watch), m_hand(hand), m_steps(std::move(steps)), m_strFolder(strFolder)
 {
     connect(&m_timer, &QTimer::timeout, this, &Tour::tick);
+    connect(&m_hand, &TourHand::done, this, &Tour::lookFor);
 }
 
 void Tour::start()
@@ -48,7 +49,9 @@ void Tour::begin()
         end(true);
         return;
     }
-    m_watch.mark();
+    if (step().act) {
+        m_watch.mark();
+    }
     TourWatch::say(QStringLiteral("[%1/%2] %3").arg(m_iStep + 1, 2).arg(m_steps.size()).arg(step().title));
     m_seen.clear();
     for (int i = 0; i < step().checks.size(); ++i) {
@@ -56,13 +59,25 @@ void Tour::begin()
     }
     m_clock.start();
     m_phase = Waiting;
-    if (step().act) {
-        step().act();
-    }
+    m_bActed = false;
+    act();
+}
+
+void Tour::act()
+{
+    m_bActed = m_bActed || !step().act || step().act();
+}
+
+bool Tour::hasActed() const
+{
+    return m_bActed && m_hand.isIdle();
 }
 
 void Tour::lookFor()
 {
+    if (m_phase != Waiting || !hasActed()) {
+        return;
+    }
     for (int i = 0; i < m_seen.size(); ++i) {
         if (!m_seen.at(i) && step().checks.at(i).seen()) {
             m_seen[i] = true;
@@ -73,8 +88,8 @@ void Tour::lookFor()
 
 void Tour::sayMissing() const
 {
-    if (!m_hand.isIdle()) {
-        TourWatch::say(QStringLiteral("   MISS what the mouse is to reach"));
+    if (!hasActed()) {
+        TourWatch::say(QStringLiteral("   MISS what it acts on is not shown"));
     }
     for (int i = 0; i < m_seen.size(); ++i) {
         if (!m_seen.at(i)) {
@@ -85,10 +100,9 @@ void Tour::sayMissing() const
 
 void Tour::wait()
 {
-    if (m_hand.isIdle()) {
-        lookFor();
-    }
-    if (m_hand.isIdle() && !m_seen.contains(false)) {
+    act();
+    lookFor();
+    if (hasActed() && !m_seen.contains(false)) {
         if (step().pictureOf && step().pictureOf() != nullptr) {
             step().pictureOf()->raise();
         }

@@ -23,9 +23,10 @@ struct TourCheck
 struct TourStep
 {
     QString title;
-    /// Runs once, at the beginning; must not open an event loop of its own. What it tells the hand is done before
-    /// anything is looked for. May be empty.
-    std::function<void()> act;
+    /// Tried until it says that it has been done; must not open an event loop of its own. What it tells the hand is
+    /// done before anything is looked for. Empty for a step that only waits: what was seen since the last action counts
+    /// for it.
+    std::function<bool()> act;
     /// Each needs to be seen once, in any order.
     QList<TourCheck> checks;
     int limitMs = 15000;
@@ -62,6 +63,8 @@ private:
     void tick();
     void begin();
     void wait();
+    void act();
+    bool hasActed() const;
     void lookFor();
     void sayMissing() const;
     void settle();
@@ -77,5 +80,6 @@ private:
     QElapsedTimer m_clock;
     Phase m_phase = Beginning;
     int m_iStep = 0;
+    bool m_bActed = false;
     QList<bool> m_seen;
 };

@@ -119,7 +119,10 @@ Steps removeNewest(const TourScript &s)
     // What the store held before is known only when the tour has come here.
     const auto before = std::make_shared<QStringList>();
     const TourStep look{u("Look into the user's store"),
-                        [before] { *before = storedIds(); },
+                        [before] {
+                            *before = storedIds();
+                            return true;
+                        },
                         {{u("it has three conferences"), [before] { return before->size() == 3; }}}};
     const TourCheck removed{u("the user's store has lost that conference and kept the others"),
                             [before] { return storedIds() == before->mid(1); }};

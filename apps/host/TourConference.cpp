@@ -113,7 +113,7 @@ ConfInfoData newestRecord()
     return DBConfInfo::getAllConfInfo().value(0);
 }
 
-void sayRecords()
+bool sayRecords()
 {
     const QList<ConfInfoData> records = DBConfInfo::getAllConfInfo();
     for (const ConfInfoData &record : records) {
@@ -123,6 +123,7 @@ void sayRecords()
                                 record.m_bIsConnect ? QStringLiteral("connected") : QStringLiteral("not connected"),
                                 QStringList(record.m_listMember).join(QLatin1Char(','))));
     }
+    return true;
 }
 
 Steps stored(const char *strTitle, const QString &strCreator, const QStringList &members)

@@ -7,8 +7,8 @@
 
 namespace {
 
-// Calls of work() after which a pointer that has not been seen to arrive is sent once more: another window was in
-// front.
+// Calls of work() after which a move or a press that the program has not heard of is done once more: another window was
+// in front.
 constexpr int patience = 20;
 
 } // namespace
@@ -35,38 +35,29 @@ void TourHand::rest()
 
 void TourHand::work()
 {
-    if (m_gestures.isEmpty() || m_iReleases > 0) {
+    if (m_gestures.isEmpty() || m_bPressSeen) {
         return;
     }
-    const Gesture &gesture = m_gestures.head();
-    const WindowProbe::Spot spot = gesture.where();
+    const WindowProbe::Spot spot = m_gestures.head().where();
     if (spot.widget == nullptr) {
+        m_phase = Waiting;
         return;
     }
     const QPoint place = spot.widget->mapToGlobal(spot.place);
-    if (!m_bArrived || place != m_place) {
+    const bool lost = m_phase != Arrived && --m_iPatience <= 0;
+    if (m_phase == Waiting || place != m_place || lost) {
         reach(spot, place);
-        return;
-    }
-    if (gesture.times == 0) {
-        finish();
-        return;
-    }
-    m_iReleases = gesture.times;
-    for (int i = 0; i < gesture.times; ++i) {
-        m_pointer.click(gesture.button);
+    } else if (m_phase == Arrived) {
+        press(m_gestures.head());
     }
 }
 
 void TourHand::reach(const WindowProbe::Spot &spot, const QPoint &place)
 {
-    if (place == m_place && m_pWindow != nullptr && --m_iPatience > 0) {
-        return;
-    }
     QWidget *window = spot.widget->window();
     m_pWindow = window->windowHandle();
     m_place = place;
-    m_bArrived = false;
+    m_phase = Reaching;
     m_iPatience = patience;
     window->raise();
     // From beside, so that it moves even when it is there already.
@@ -74,11 +65,39 @@ void TourHand::reach(const WindowProbe::Spot &spot, const QPoint &place)
     m_pointer.moveTo(place);
 }
 
+void TourHand::press(const Gesture &gesture)
+{
+    if (gesture.times == 0) {
+        finish();
+        return;
+    }
+    m_phase = Pressed;
+    m_iPatience = patience;
+    m_iReleases = gesture.times;
+    for (int i = 0; i < gesture.times; ++i) {
+        m_pointer.click(gesture.button);
+    }
+}
+
 void TourHand::finish()
 {
+    const bool clicked = m_phase == Pressed;
     m_gestures.dequeue();
-    m_pWindow = nullptr;
-    m_bArrived = false;
+    m_phase = Waiting;
+    m_bPressSeen = false;
+    if (clicked && m_gestures.isEmpty()) {
+        // Not before the click has been dealt with: a menu opens where the pointer is.
+        QMetaObject::invokeMethod(this, &TourHand::settle, Qt::QueuedConnection);
+    }
+}
+
+void TourHand::settle()
+{
+    // The click may have led to the next gesture already.
+    if (isIdle()) {
+        rest();
+        emit done();
+    }
 }
 
 bool TourHand::eventFilter(QObject *watched, QEvent *event)
@@ -86,12 +105,12 @@ bool TourHand::eventFilter(QObject *watched, QEvent *event)
     if (watched != m_pWindow) {
         return false;
     }
-    if (event->type() == QEvent::MouseMove) {
-        m_bArrived = static_cast<QMouseEvent *>(event)->globalPos() == m_place;
-    } else if (event->type() == QEvent::MouseButtonRelease && m_iReleases > 0 && --m_iReleases == 0) {
+    if (event->type() == QEvent::MouseMove && m_phase == Reaching) {
+        m_phase = static_cast<QMouseEvent *>(event)->globalPos() == m_place ? Arrived : Reaching;
+    } else if (event->type() == QEvent::MouseButtonPress && m_phase == Pressed) {
+        m_bPressSeen = true;
+    } else if (event->type() == QEvent::MouseButtonRelease && m_bPressSeen && --m_iReleases == 0) {
         finish();
-        // Not before the click has been dealt with: a menu opens where the pointer is.
-        QMetaObject::invokeMethod(this, &TourHand::rest, Qt::QueuedConnection);
     }
     return false;
 }

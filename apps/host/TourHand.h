@@ -37,11 +37,22 @@ public:
     /// Goes on with what is to be done; to be called often.
     void work();
 
+signals:
+    /// Everything has been done, and what the last click changes at once has changed.
+    void done();
+
 protected:
-    /// Sees the pointer arrive and the button come up.
+    /// Sees the pointer arrive, and the button go down and come up.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    enum Phase
+    {
+        Waiting,  ///< for the place to be there
+        Reaching, ///< the pointer is on its way
+        Arrived,
+        Pressed
+    };
     struct Gesture
     {
         Finder where;
@@ -50,13 +61,16 @@ private:
     };
 
     void reach(const WindowProbe::Spot &spot, const QPoint &place);
+    void press(const Gesture &gesture);
     void finish();
+    void settle();
 
     ScreenPointer m_pointer;
     QQueue<Gesture> m_gestures;
+    Phase m_phase = Waiting;
     const QObject *m_pWindow = nullptr; // only compared
     QPoint m_place;
-    int m_iPatience = 0;
-    bool m_bArrived = false;
-    int m_iReleases = 0; // still to come after the press
+    int m_iPatience = 0; // calls of work() until the present phase is taken for lost
+    int m_iReleases = 0; // still to come
+    bool m_bPressSeen = false;
 };

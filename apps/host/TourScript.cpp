@@ -35,17 +35,26 @@ WindowProbe::Row detailCell(const char *strUid)
 
 TourScript::Action TourScript::click(const Finder &where, Qt::MouseButton button, int iTimes) const
 {
-    return [hand = &m_stage.hand, where, button, iTimes] { hand->click(where, button, iTimes); };
+    return [hand = &m_stage.hand, where, button, iTimes] {
+        hand->click(where, button, iTimes);
+        return true;
+    };
 }
 
 TourScript::Action TourScript::hover(const Finder &where) const
 {
-    return [hand = &m_stage.hand, where] { hand->hover(where); };
+    return [hand = &m_stage.hand, where] {
+        hand->hover(where);
+        return true;
+    };
 }
 
 TourScript::Action TourScript::leave() const
 {
-    return [hand = &m_stage.hand] { hand->rest(); };
+    return [hand = &m_stage.hand] {
+        hand->rest();
+        return true;
+    };
 }
 
 TourScript::Action TourScript::pressContact(const char *strUid, const char *strButton) const
@@ -93,6 +102,7 @@ TourScript::Action TourScript::pick(const QStringList &uids) const
                 return WindowProbe::rowMiddle(WindowProbe::memberPicker(), {"listPeople", Qt::UserRole, uid});
             });
         }
+        return true;
     };
 }
 

@@ -10,7 +10,7 @@ class TourScript
 public:
     explicit TourScript(const TourStage &stage) : m_stage(stage) {}
 
-    using Action = std::function<void()>;
+    using Action = std::function<bool()>;
     using Window = std::function<QWidget *()>;
 
     // Actions: clicks on real buttons with the real mouse.

@@ -24,6 +24,18 @@ QWidget *topLevel(const char *strClass)
     return nullptr;
 }
 
+/// One that was closed may still wait to be deleted beside the one that is open.
+QWidget *shownTopLevel(const char *strClass)
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->isVisible() && std::strcmp(window->metaObject()->className(), strClass) == 0) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
 QWidget *shownPart(const QWidget *window, const char *strName)
 {
     if (window == nullptr || !window->isVisible()) {
@@ -70,20 +82,17 @@ QWidget *WindowProbe::callWindow()
 
 QWidget *WindowProbe::conferenceCentre()
 {
-    QWidget *centre = topLevel("CVoiceConferenceWidget");
-    return centre != nullptr && centre->isVisible() ? centre : nullptr;
+    return shownTopLevel("CVoiceConferenceWidget");
 }
 
 QWidget *WindowProbe::messageBox()
 {
-    QWidget *box = topLevel("ErrorMessage");
-    return box != nullptr && box->isVisible() ? box : nullptr;
+    return shownTopLevel("ErrorMessage");
 }
 
 QWidget *WindowProbe::memberPicker()
 {
-    QWidget *picker = topLevel("MemberPicker");
-    return picker != nullptr && picker->isVisible() ? picker : nullptr;
+    return shownTopLevel("MemberPicker");
 }
 
 QVariant WindowProbe::rowData(const QWidget *window, const Row &row, int iRole)
