@@ -7,9 +7,10 @@
 
 namespace {
 
-// Calls of work() after which a move or a press that the program has not heard of is done once more: another window was
+// Calls of work() after which a move or a press is done once more that the program has not heard of: another window was
 // in front.
-constexpr int patience = 20;
+constexpr int patienceForMove = 2;
+constexpr int patienceForPress = 20;
 
 } // namespace
 
@@ -45,7 +46,8 @@ void TourHand::work()
     }
     const QPoint place = spot.widget->mapToGlobal(spot.place);
     const bool lost = m_phase != Arrived && --m_iPatience <= 0;
-    if (m_phase == Waiting || place != m_place || lost) {
+    const bool moved = m_phase != Pressed && place != m_place;
+    if (m_phase == Waiting || moved || lost) {
         reach(spot, place);
     } else if (m_phase == Arrived) {
         press(m_gestures.head());
@@ -58,11 +60,11 @@ void TourHand::reach(const WindowProbe::Spot &spot, const QPoint &place)
     m_pWindow = window->windowHandle();
     m_place = place;
     m_phase = Reaching;
-    m_iPatience = patience;
+    m_iPatience = patienceForMove;
     window->raise();
-    // From beside, so that it moves even when it is there already.
-    m_pointer.moveTo(place - QPoint(1, 1));
-    m_pointer.moveTo(place);
+    // Beside it and onto it in turn: Qt does not tell of a move to where it has seen the pointer last.
+    m_bBeside = !m_bBeside;
+    m_pointer.moveTo(m_bBeside ? place - QPoint(1, 1) : place);
 }
 
 void TourHand::press(const Gesture &gesture)
@@ -72,7 +74,7 @@ void TourHand::press(const Gesture &gesture)
         return;
     }
     m_phase = Pressed;
-    m_iPatience = patience;
+    m_iPatience = patienceForPress;
     m_iReleases = gesture.times;
     for (int i = 0; i < gesture.times; ++i) {
         m_pointer.click(gesture.button);
@@ -85,6 +87,7 @@ void TourHand::finish()
     m_gestures.dequeue();
     m_phase = Waiting;
     m_bPressSeen = false;
+    m_bBeside = false;
     if (clicked && m_gestures.isEmpty()) {
         // Not before the click has been dealt with: a menu opens where the pointer is.
         QMetaObject::invokeMethod(this, &TourHand::settle, Qt::QueuedConnection);

@@ -70,7 +70,8 @@ private:
     Phase m_phase = Waiting;
     const QObject *m_pWindow = nullptr; // only compared
     QPoint m_place;
-    int m_iPatience = 0; // calls of work() until the present phase is taken for lost
-    int m_iReleases = 0; // still to come
+    int m_iPatience = 0;    // calls of work() until the present phase is taken for lost
+    bool m_bBeside = false; // where the pointer has been sent last
+    int m_iReleases = 0;    // still to come
     bool m_bPressSeen = false;
 };
