@@ -1,5 +1,6 @@
 #include "Tour.h"
 
+#include "TourHand.h"
 #include "TourWatch.h"
 #include "WindowProbe.h"
 
@@ -13,10 +14,11 @@ constexpr int settleMs = 500;
 
 } // namespace
 
-Tour::Tour(TourWatch &watch, QList<TourStep> steps, const QString &strFolder)
-    : m_watch(watch), m_steps(std::move(steps)), m_strFolder(strFolder)
+Tour::Tour(TourWatch &watch, TourHand &hand, QList<TourStep> steps, const QString &strFolder)
+    : m_watch(watch), m_hand(hand), m_steps(std::move(steps)), m_strFolder(strFolder)
 {
     connect(&m_timer, &QTimer::timeout, this, &Tour::tick);
+    connect(&m_hand, &TourHand::done, this, &Tour::lookFor);
 }
 
 void Tour::start()
@@ -27,6 +29,7 @@ void Tour::start()
 void Tour::tick()
 {
     m_watch.look();
+    m_hand.work();
     switch (m_phase) {
     case Beginning:
         begin();
@@ -62,18 +65,19 @@ void Tour::begin()
 
 void Tour::act()
 {
-    if (m_bActed) {
-        return;
-    }
-    m_bActed = !step().act || step().act();
-    if (m_bActed) {
-        // Behind the clicks in the queue: what they change at once is seen however soon the call process answers.
-        QMetaObject::invokeMethod(this, &Tour::check, Qt::QueuedConnection);
-    }
+    m_bActed = m_bActed || !step().act || step().act();
 }
 
-void Tour::check()
+bool Tour::hasActed() const
 {
+    return m_bActed && m_hand.isIdle();
+}
+
+void Tour::lookFor()
+{
+    if (m_phase != Waiting || !hasActed()) {
+        return;
+    }
     for (int i = 0; i < m_seen.size(); ++i) {
         if (!m_seen.at(i) && step().checks.at(i).seen()) {
             m_seen[i] = true;
@@ -82,27 +86,30 @@ void Tour::check()
     }
 }
 
+void Tour::sayMissing() const
+{
+    if (!hasActed()) {
+        TourWatch::say(QStringLiteral("   MISS what it acts on is not shown"));
+    }
+    for (int i = 0; i < m_seen.size(); ++i) {
+        if (!m_seen.at(i)) {
+            TourWatch::say(QStringLiteral("   MISS %1").arg(step().checks.at(i).words));
+        }
+    }
+}
+
 void Tour::wait()
 {
     act();
-    check();
-    if (m_bActed && !m_seen.contains(false)) {
+    lookFor();
+    if (hasActed() && !m_seen.contains(false)) {
         if (step().pictureOf && step().pictureOf() != nullptr) {
             step().pictureOf()->raise();
         }
         m_clock.start();
         m_phase = Settling;
-        return;
-    }
-    if (m_clock.hasExpired(step().limitMs)) {
-        if (!m_bActed) {
-            TourWatch::say(QStringLiteral("   MISS what it acts on is not shown"));
-        }
-        for (int i = 0; i < m_seen.size(); ++i) {
-            if (!m_seen.at(i)) {
-                TourWatch::say(QStringLiteral("   MISS %1").arg(step().checks.at(i).words));
-            }
-        }
+    } else if (m_clock.hasExpired(step().limitMs)) {
+        sayMissing();
         end(false);
     }
 }

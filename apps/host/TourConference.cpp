@@ -1,6 +1,7 @@
 #include "TourConference.h"
 
 #include "ContactBook.h"
+#include "TourCentre.h"
 #include "TourScript.h"
 #include "TourWatch.h"
 
@@ -58,7 +59,7 @@ Steps start(const TourScript &s)
          {},
          {s.code(13, "a member has left"), s.member(hangsUp, "Anna Novak", ConferenceHungUp)},
          limitMs,
-         u("conference-members"),
+         u("conference"),
          s.callWindow()},
     };
 }
@@ -187,5 +188,5 @@ Steps refused(const TourScript &s)
 QList<TourStep> conferenceSteps(const TourStage &stage)
 {
     const TourScript s(stage);
-    return start(s) + control(s) + addMore(s) + end(s) + invited(s) + refused(s);
+    return start(s) + control(s) + addMore(s) + end(s) + invited(s) + centreSteps(stage) + refused(s);
 }

@@ -295,7 +295,7 @@ QList<TourStep> tourSteps(const TourStage &stage)
     return signIn(s, stage) + cancel(s) + unanswered(s, busy, "Call Maria Silva, who is busy", 22, "busy", resultBusy) +
            unanswered(s, rejects, "Call 王芳, who rejects", 10, "rejected", resultRejected) +
            unanswered(s, fails, "Call 赵强: the call fails", 19, "failed", resultFailed) +
-           call(s, "Call 李雷, who answers", u("call-connected")) + duringCall(s) + hangUp(s, "Hang up") +
-           video(s, stage) + farEnd(s) + incoming(s) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
+           call(s, "Call 李雷, who answers", u("call-voice")) + duringCall(s) + hangUp(s, "Hang up") + video(s, stage) +
+           farEnd(s) + incoming(s) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
            call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + leave(s, stage);
 }
