@@ -270,14 +270,19 @@ void tst_ConferenceListButtons::rightAndMiddleClicksAskForNothing()
 
 void tst_ConferenceListButtons::leftReleaseIsTakenAndRightReleaseIsNot()
 {
-    show(1);
-    for (const QPoint &position : {row(0).center(), place(0, ROLE_REMOVE_RECT).center()})
-        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
-            QMouseEvent release(QEvent::MouseButtonRelease, position, button, Qt::NoButton, Qt::NoModifier);
-            release.setAccepted(button == Qt::RightButton);
-            QApplication::sendEvent(m_pList->viewport(), &release);
-            QCOMPARE(release.isAccepted(), button == Qt::LeftButton);
-        }
+    struct OpenList : CConferenceListView
+    {
+        using CConferenceListView::mouseReleaseEvent;
+    };
+    OpenList list;
+    list.addUser(QStringLiteral("ann"));
+    const QPoint position = list.visualRect(list.model()->index(0, 0)).center();
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        QMouseEvent release(QEvent::MouseButtonRelease, position, button, Qt::NoButton, Qt::NoModifier);
+        release.setAccepted(button == Qt::RightButton);
+        list.mouseReleaseEvent(&release);
+        QCOMPARE(release.isAccepted(), button == Qt::LeftButton);
+    }
 }
 
 void tst_ConferenceListButtons::buttonAnswersAtItsOldPlaceAfterTheStatusFellBack()

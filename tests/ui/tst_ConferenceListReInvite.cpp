@@ -111,7 +111,7 @@ private slots:
         m_pList->addUser(uid("ann"));
         m_pList->updateConferenceUserStatus(uid("ann"), 2);
         showList();
-        const Repaints repaints(m_pList.get());
+        const Repaints repaints(m_pList->viewport());
         QTest::mouseDClick(m_pList->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 250));
         QCOMPARE(invited.count(), 0);
         QCOMPARE(repaints.count(), 1);
