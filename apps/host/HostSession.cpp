@@ -3,7 +3,7 @@
 #include "ContactBook.h"
 #include "EventWords.h"
 
-#include "common/CommonFun.h"
+#include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
@@ -30,7 +30,7 @@ HostSession::HostSession(ContactBook &book, QObject *parent) : QObject(parent), 
 bool HostSession::start(const QString &strModule, QString *strError)
 {
     m_context.signIn(ContactBook::ownUid(), loginDomain(), m_book);
-    CommonFun::setCommonData(m_context.data());
+    SharedContext::setCommonData(m_context.data());
     m_store.open(ContactBook::ownUid(), SystemSetData::instance()->m_strMsgFilePath);
 
     QPluginLoader loader(strModule);

@@ -10,7 +10,7 @@
 #include "TourWatch.h"
 #include "WindowFont.h"
 
-#include "common/CommonFun.h"
+#include "common/AppInfo.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -110,7 +110,7 @@ int main(int argc, char **argv)
 
     WindowFont::substituteMissing();
     HostCatalogue catalogue;
-    if (!catalogue.read(HostCatalogue::folder(), CommonFun::getApplicationLanguage())) {
+    if (!catalogue.read(HostCatalogue::folder(), AppInfo::getApplicationLanguage())) {
         QTextStream(stderr) << "No translations in " << HostCatalogue::folder() << '\n';
     }
     QCoreApplication::installTranslator(&catalogue);
