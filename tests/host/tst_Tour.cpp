@@ -72,7 +72,7 @@ void tst_Tour::pictureOfEveryWindowIsTaken()
                                     QStringLiteral("message.png")}));
     for (const QString &picture : pictures) {
         const QImage image(QStringLiteral("tour/") + picture);
-        QVERIFY2(image.width() > 200 && image.height() > 100, qPrintable(picture));
+        QVERIFY2(image.width() > 80 && image.height() > 60, qPrintable(picture));
     }
 }
 
