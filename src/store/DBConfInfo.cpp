@@ -3,7 +3,6 @@
 #include "store/DB.h"
 #include "store/StoredText.h"
 
-#include <QHash>
 #include <QSet>
 #include <QSqlQuery>
 #include <QStringList>
@@ -45,18 +44,13 @@ private:
     QString shared(const QString &text) { return *m_texts.insert(text); }
     QList<QString> sharedMembers(const QString &text)
     {
-        const auto known = m_members.constFind(text);
-        if (known != m_members.constEnd())
-            return *known;
         QList<QString> members = membersOf(text);
         for (QString &member : members)
             member = shared(member);
-        m_members.insert(text, members);
         return members;
     }
 
     QSet<QString> m_texts;
-    QHash<QString, QList<QString>> m_members; ///< by the text that they are stored as
 };
 
 } // namespace
