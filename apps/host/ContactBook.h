@@ -23,6 +23,7 @@ public:
         QString alternative; ///< alternative name of the card: what this contact does
         bool known = true;   ///< false: a stranger, not a contact of this user
         bool online = true;  ///< presence
+        QString photo;       ///< name of the built-in head picture; empty for none
     };
 
     /// Builds the records for the login domain `strDomain`.

@@ -1,5 +1,8 @@
 #include "HostPictures.h"
 
+#include "common/BuiltInPictures.h"
+#include "common/CommonFun.h"
+
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
@@ -21,22 +24,37 @@ QPixmap canvas(int iSize)
     return pixmap;
 }
 
-} // namespace
-
-QPixmap HostPictures::head(const QString &strName, const QString &strUid, int iSize, bool bOnline)
+QPixmap photoOf(const QString &strPhoto, int iSize)
 {
-    QPixmap pixmap = canvas(iSize);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
+    const bool bNone = strPhoto.isEmpty() || strPhoto == strDEFAULT_HEAD_PATH;
+    return bNone ? QPixmap() : CommonFun::getRoundedImage(strPhoto, iSize);
+}
+
+void drawInitial(QPainter &painter, const QString &strName, const QString &strUid, int iSize)
+{
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor::fromHsv(int(strUid.toULongLong() * 67 % 360), 110, 190));
     painter.drawEllipse(QRectF(0, 0, iSize, iSize));
-
     QFont font = painter.font();
     font.setPixelSize(iSize * 45 / 100);
     painter.setFont(font);
     painter.setPen(Qt::white);
     painter.drawText(QRectF(0, 0, iSize, iSize), Qt::AlignCenter, strName.left(1));
+}
+
+} // namespace
+
+QPixmap HostPictures::head(const QString &strName, const QString &strUid, int iSize, bool bOnline,
+                           const QString &strPhoto)
+{
+    QPixmap pixmap = canvas(iSize);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPixmap photo = photoOf(strPhoto, qRound(iSize * pixmap.devicePixelRatioF()));
+    if (photo.isNull())
+        drawInitial(painter, strName, strUid, iSize);
+    else
+        painter.drawPixmap(QRect(0, 0, iSize, iSize), photo);
 
     const qreal dot = iSize * 0.28;
     painter.setPen(QPen(Qt::white, iSize * 0.05));

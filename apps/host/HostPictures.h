@@ -7,9 +7,10 @@
 /// The demo's own drawings, made by code at the screen's resolution. GUI thread.
 namespace HostPictures {
 
-/// A round head picture of `iSize` pixels with the first character of `strName`, in a colour that follows from
-/// `strUid`; with a presence dot, green or grey.
-QPixmap head(const QString &strName, const QString &strUid, int iSize, bool bOnline);
+/// A round head picture of `iSize` pixels with a presence dot, green or grey: the picture of the file `strPhoto`, or,
+/// where that is empty, the default head's or no picture, the first character of `strName` in a colour that follows
+/// from `strUid`.
+QPixmap head(const QString &strName, const QString &strUid, int iSize, bool bOnline, const QString &strPhoto);
 
 /// A telephone handset.
 QIcon call();

@@ -24,7 +24,7 @@ void IncomingPrompt::prompt(const QString &strUid, bool bConference, bool bVideo
 {
     m_strUid = strUid;
     const QString name = m_book.nameOf(strUid);
-    ui->lblHead->setPixmap(HostPictures::head(name, strUid, 56, true));
+    ui->lblHead->setPixmap(HostPictures::head(name, strUid, 56, true, m_book.card(strUid)->m_strPhotoPath));
     ui->lblName->setText(name);
     ui->lblKind->setText(bConference ? tr("invites you to a conference")
                          : bVideo    ? tr("video call")

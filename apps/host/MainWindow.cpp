@@ -110,7 +110,8 @@ void MainWindow::callNumber()
 void MainWindow::showOnline(bool bOnline)
 {
     const QString name = m_book.nameOf(ContactBook::ownUid());
-    ui->lblOwnHead->setPixmap(HostPictures::head(name, ContactBook::ownUid(), 44, bOnline));
+    ui->lblOwnHead->setPixmap(HostPictures::head(name, ContactBook::ownUid(), 44, bOnline,
+                                                 m_book.card(ContactBook::ownUid())->m_strPhotoPath));
     ui->btnOnline->setChecked(bOnline);
     ui->btnOnline->setText(bOnline ? tr("Online") : tr("Offline"));
     statusBar()->showMessage(bOnline ? tr("Signed in as %1").arg(name) : tr("Signed out"));

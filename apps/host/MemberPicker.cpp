@@ -2,6 +2,7 @@
 #include "ui_MemberPicker.h"
 
 #include "HostPictures.h"
+#include "model/AvatarFiles.h"
 
 #include <QPushButton>
 
@@ -59,7 +60,7 @@ void MemberPicker::addPeople(const ContactBook &book, Purpose purpose, const QSt
     for (const QString &uid : named) {
         const auto isThis = [&](const ContactBook::Entry &entry) { return entry.uid == uid; };
         if (fresh && std::none_of(book.entries().begin(), book.entries().end(), isThis)) {
-            addPerson({uid, uid, QString(), false, false}, true);
+            addPerson({uid, uid, QString(), false, false, QString()}, true);
         }
     }
 }
@@ -69,7 +70,8 @@ void MemberPicker::addPerson(const ContactBook::Entry &entry, bool bChecked)
     const QString words =
         entry.alternative.isEmpty() ? entry.nick : entry.nick + QStringLiteral(" · ") + entry.alternative;
     auto *item = new QListWidgetItem(words, ui->listPeople);
-    item->setIcon(QIcon(HostPictures::head(entry.nick, entry.uid, headSize, entry.online)));
+    item->setIcon(QIcon(
+        HostPictures::head(entry.nick, entry.uid, headSize, entry.online, AvatarFiles::systemAvatar(entry.photo))));
     item->setData(uidRole, entry.uid);
     item->setCheckState(bChecked ? Qt::Checked : Qt::Unchecked);
 }

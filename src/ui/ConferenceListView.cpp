@@ -258,6 +258,13 @@ void CConferenceListView::mouseDoubleClickEvent(QMouseEvent *event)
     QAbstractItemView::mouseDoubleClickEvent(event);
 }
 
+void CConferenceListView::scrollContentsBy(int dx, int dy)
+{
+    QListView::scrollContentsBy(dx, dy);
+    // Rows whose pixels are only moved would keep the places of their buttons from before.
+    viewport()->update();
+}
+
 bool CConferenceListView::eventFilter(QObject *obj, QEvent *event)
 {
     if (obj == this && event->type() == QEvent::Leave)

@@ -276,6 +276,20 @@ private slots:
         compareWithNumbers("members-scrolled");
     }
 
+    void buttonsAnswerWhereTheyStandAfterTheSmallestScroll()
+    {
+        const QSignalSpy removed(m_pList.get(), &CConferenceListView::signal_RemoveUser);
+        showMembers(1000);
+        picture();
+        m_pList->verticalScrollBar()->setValue(1);
+        QCoreApplication::processEvents();
+        for (int number : {2, 3, 4})
+            QCOMPARE(place(number, ROLE_REMOVE_RECT).top(), row(number).top() + 10);
+        click(place(3, ROLE_REMOVE_RECT).center());
+        QCOMPARE(removed.count(), 1);
+        QCOMPARE(removed.last().first().toString(), QStringLiteral("m3"));
+    }
+
     void buttonsAnswerAsSoonAsAStatusBringsThem()
     {
         const QSignalSpy removed(m_pList.get(), &CConferenceListView::signal_RemoveUser);
