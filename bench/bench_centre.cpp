@@ -13,6 +13,7 @@
 #include "ui/VoiceConferenceWidget.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QScrollBar>
 #include <QSqlQuery>
 #include <QStandardItemModel>
@@ -36,7 +37,7 @@ ConfInfoData record(int number)
     ConfInfoData info;
     info.m_strConfID = QStringLiteral("conf%1").arg(number, 8, 10, QLatin1Char('0'));
     info.m_strCreatUserID = creator(number);
-    info.m_strCreatTime = QStringLiteral("2024-03-05 09:08:07");
+    info.m_strCreatTime = QDateTime::fromSecsSinceEpoch(1700000000 + number).toString("yyyy-MM-dd hh:mm:ss");
     info.m_strCallTime = QString::number(number % 4000);
     info.m_listMember = {creator(number), creator(number + 1), creator(number + 2)};
     info.m_bIsConnect = number % 3 != 0;

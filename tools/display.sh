@@ -1,7 +1,8 @@
 # A screen and a sound card of one's own, to be sourced by bash scripts. Everything lives in one private folder and ends
 # with stop_all, which the caller puts into its EXIT trap. Nothing here touches a running desktop or its sound server.
 #
-#   start_display [WIDTHxHEIGHT]   X server in memory, window manager, compositor; exports DISPLAY
+#   start_display [WIDTHxHEIGHT]   X server in memory, window manager, compositor, the cursor in the far corner; exports
+#                                  DISPLAY
 #   start_sound                    sound server with a null sink and a null source; exports PULSE_SERVER
 #   stop_all                       ends what was started, by process id, and removes the folder
 
@@ -37,8 +38,9 @@ voip_make_box() {
 start_display() {
     local size=${1:-1600x1000}
     voip_make_box || return 1
-    # -displayfd picks a free number and writes it once the server takes clients.
-    voip_start xserver sh -c 'exec Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$2"' sh "$size" "$voip_box/display"
+    # -displayfd picks a free number and writes it once the server takes clients. Without -noreset the server throws
+    # everybody out when its first client goes before the second comes.
+    voip_start xserver sh -c 'exec Xvfb -displayfd 3 -screen 0 "$1x24" -noreset -nolisten tcp 3>"$2"' sh "$size" "$voip_box/display"
     if ! voip_wait_for 20 test -s "$voip_box/display"; then
         echo "The X server did not start:" >&2
         cat "$voip_box/xserver.log" >&2
@@ -49,6 +51,14 @@ start_display() {
     unset WAYLAND_DISPLAY XAUTHORITY
     voip_start openbox openbox --sm-disable
     voip_start picom picom --backend xrender --config /dev/null
+    # A window that comes before its manager is placed and shown a second time.
+    if ! voip_wait_for 20 xdotool get_num_desktops || ! voip_wait_for 20 xdotool search --name '^picom$'; then
+        echo "The window manager or the compositor did not start:" >&2
+        cat "$voip_box/openbox.log" "$voip_box/picom.log" >&2
+        return 1
+    fi
+    # Not in the middle, where the server puts it and windows open under it.
+    xdotool mousemove "$((${size%x*} - 1))" "$((${size#*x} - 1))"
 }
 
 start_sound() {

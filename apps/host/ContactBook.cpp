@@ -1,5 +1,7 @@
 #include "ContactBook.h"
 
+#include <algorithm>
+
 namespace {
 
 struct Row
@@ -7,33 +9,36 @@ struct Row
     const char *uid;
     const char *nick;
     const char *alternative;
+    const char *signature;
     bool known;
     bool online;
 };
 
 // The robots of the stand-in call process go by these ids.
 constexpr Row rows[] = {
-    {"30010001", "李雷", "Answers", true, true},
-    {"30010002", "Maria Silva", "Busy", true, true},
-    {"30010003", "王芳", "Rejects", true, true},
-    {"30010004", "Tom Baker", "Never answers", true, true},
-    {"30010005", "赵强", "Call fails", true, false},
-    {"30010006", "Anna Novak", "Hangs up after 10 s", true, true},
-    {"30010007", "韩梅梅", "Calls you back", false, true},
-    {"30010008", "Ivan Petrov", "Invites you", true, true},
-    {"30010009", "林涛", "Leaves and returns", true, true},
-    {"30010010", "Sara Klein", "Invites, lines crossed", true, true},
+    {"30010001", "李雷", "Answers", "学而时习之，不亦说乎", true, true},
+    {"30010002", "Maria Silva", "Busy", "Back in five minutes", true, true},
+    {"30010003", "王芳", "Rejects", "Please write instead", true, true},
+    {"30010004", "Tom Baker", "Never answers", "Counting clouds", true, true},
+    {"30010005", "赵强", "Call fails", "出差中，下周回来", true, false},
+    {"30010006", "Anna Novak", "Hangs up after 10 s", "Short and sweet", true, true},
+    {"30010007", "韩梅梅", "Calls you back", "", false, true},
+    {"30010008", "Ivan Petrov", "Invites you", "One meeting a day keeps the mail away", true, true},
+    {"30010009", "林涛", "Leaves and returns", "去去就来", true, true},
+    {"30010010", "Sara Klein", "Invites, lines crossed", "Crossing the streams", true, true},
 };
 
 constexpr const char *ownId = "30010000";
 constexpr const char *ownName = "小明";
 constexpr const char *ownAlternative = "You";
+constexpr const char *ownSignature = "每天都是新的一天";
 
-VcardInfo makeCard(const ContactBook::Entry &entry)
+VcardInfo makeCard(const ContactBook::Entry &entry, const char *strSignature)
 {
     VcardInfo card;
     card.m_strNickName = entry.nick;
     card.m_strAlternativeName = entry.alternative;
+    card.m_strSignature = QString::fromUtf8(strSignature);
     card.m_iSmallVersion = 1;
     card.m_iFullVersion = 1;
     card.setPhotoName(QString());
@@ -48,14 +53,14 @@ ContactBook::ContactBook(const QString &strDomain) : m_strDomain(strDomain)
         const Entry entry{QString::fromLatin1(row.uid), QString::fromUtf8(row.nick),
                           QString::fromLatin1(row.alternative), row.known, row.online};
         m_entries.append(entry);
-        add(entry);
+        add(entry, row.signature);
     }
-    add({ownUid(), QString::fromUtf8(ownName), QString::fromLatin1(ownAlternative), true, true});
+    add({ownUid(), QString::fromUtf8(ownName), QString::fromLatin1(ownAlternative), true, true}, ownSignature);
 }
 
-void ContactBook::add(const Entry &entry)
+void ContactBook::add(const Entry &entry, const char *strSignature)
 {
-    const VcardInfo card = makeCard(entry);
+    const VcardInfo card = makeCard(entry, strSignature);
     m_cards.emplace(entry.uid, card);
     if (!entry.known) {
         return;
@@ -109,6 +114,12 @@ const VcardInfo *ContactBook::card(const QString &strUid) const
 {
     const auto found = m_cards.find(strUid);
     return found == m_cards.end() ? &m_unknownCard : &found->second;
+}
+
+bool ContactBook::isOnline(const QString &strUid) const
+{
+    return strUid == ownUid() || std::any_of(m_entries.begin(), m_entries.end(),
+                                             [&](const Entry &entry) { return entry.uid == strUid && entry.online; });
 }
 
 QString ContactBook::nameOf(const QString &strUid) const

@@ -50,6 +50,9 @@ public:
     /// The stranger's card has been fetched: from now on there is a record with it. Others stay as they are.
     void learn(const QString &strUid);
 
+    /// Presence of the user; false for an unknown id.
+    bool isOnline(const QString &strUid) const;
+
     /// The nick name of the user, or the id where there is none.
     QString nameOf(const QString &strUid) const;
 
@@ -60,7 +63,7 @@ public:
     static QString uidOf(const QString &strJid);
 
 private:
-    void add(const Entry &entry);
+    void add(const Entry &entry, const char *strSignature);
     static const FriendData *find(const std::map<QString, FriendData> &records, const QString &strJid);
 
     QString m_strDomain;

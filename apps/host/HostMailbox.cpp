@@ -85,7 +85,16 @@ void HostMailbox::writeRecord(BaseEvent &event)
 
 void HostMailbox::createConference(BaseEvent &event)
 {
-    emit conferenceWanted(PayloadReader(event.data).takeTexts());
+    // A conference that is called again names everybody by jid, the own user too, who calls and is not called.
+    QStringList uids;
+    const QStringList asked = PayloadReader(event.data).takeTexts();
+    for (const QString &jid : asked) {
+        uids << ContactBook::uidOf(jid);
+    }
+    uids.removeAll(ContactBook::ownUid());
+    uids.removeAll(QString());
+    uids.removeDuplicates();
+    emit conferenceWanted(uids);
 }
 
 void HostMailbox::pickMembers(BaseEvent &event)
@@ -125,8 +134,9 @@ void HostMailbox::showSignature(BaseEvent &event)
     const auto text = in.take<QString>();
     const auto x = in.take<qint32>();
     const auto y = in.take<qint32>();
-    const auto height = in.take<qint32>();
-    emit signatureShown(text, x, y, height);
+    // The field is there for a height; the lists fill it with their width.
+    const auto listWidth = in.take<qint32>();
+    emit signatureShown(text, {x, y}, listWidth);
 }
 
 void HostMailbox::hideSignature(BaseEvent &)

@@ -3,6 +3,7 @@
 #include "CallRecord.h"
 
 #include <QObject>
+#include <QPoint>
 #include <QStringList>
 
 #include <functional>
@@ -39,10 +40,11 @@ signals:
     void callFinished(const CallRecord &record);
     /// The cards of these users are wanted; they go out one by one as command 4105.
     void cardsWanted(const QStringList &uids);
-    /// A new conference with these users and whom else the user picks is wanted.
+    /// A new conference with these users, without oneself, and whom else the user picks is wanted.
     void conferenceWanted(const QStringList &uids);
-    /// A signature card for `strText` is to be shown beside the screen position, or hidden again.
-    void signatureShown(const QString &strText, int iX, int iY, int iHeight);
+    /// The signature card of `strJid` is to be shown beside the list that begins at `place` on the screen and is
+    /// `iListWidth` wide, or hidden again.
+    void signatureShown(const QString &strJid, const QPoint &place, int iListWidth);
     void signatureHidden();
 
 protected:

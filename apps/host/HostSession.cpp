@@ -91,6 +91,11 @@ void HostSession::callConference(const ConferenceWish &wish)
     post(MSG_CALL_CONFERENCE, packPayload(wish.uids, wish.text, wish.flag));
 }
 
+void HostSession::showConferenceCentre()
+{
+    post(MSG_SHOW_VOICE_CONF, QByteArray());
+}
+
 void HostSession::sendCards(const QStringList &uids)
 {
     // The card is named by the full jid: that is what the call window compares with.

@@ -44,6 +44,9 @@ public:
     /// Starts a conference.
     void callConference(const ConferenceWish &wish);
 
+    /// Opens the plug-in's window of past conferences, or brings it to the front.
+    void showConferenceCentre();
+
     /// Whether the plug-in has a call, in any state.
     bool isExistCall();
     /// What the plug-in answers to the question for a video call.

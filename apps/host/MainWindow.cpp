@@ -10,11 +10,10 @@
 #include <QCloseEvent>
 
 MainWindow::MainWindow(HostSession &session, const ContactBook &book)
-    : ui(std::make_unique<Ui::MainWindow>()), m_session(session), m_book(book), m_records(book), m_prompt(book)
+    : ui(std::make_unique<Ui::MainWindow>()), m_session(session), m_book(book), m_records(book), m_prompt(book),
+      m_signature(book)
 {
     ui->setupUi(this);
-    m_signature.setWindowFlags(Qt::ToolTip);
-    m_signature.setMargin(10);
     fillHeader();
     fillContacts();
     setUpRecords();
@@ -24,6 +23,7 @@ MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     connect(ui->btnOnline, &QPushButton::clicked, this, [this](bool bChecked) { m_session.setOnline(bChecked); });
     connect(ui->btnCallNumber, &QPushButton::clicked, this, &MainWindow::callNumber);
     connect(ui->btnConference, &QPushButton::clicked, this, [this] { startConference(QStringList()); });
+    connect(ui->btnCentre, &QPushButton::clicked, &m_session, &HostSession::showConferenceCentre);
     connect(ui->editNumber, &QLineEdit::returnPressed, this, &MainWindow::callNumber);
     connect(ui->editNumber, &QLineEdit::textChanged, this,
             [this](const QString &strText) { ui->btnCallNumber->setEnabled(!strText.trimmed().isEmpty()); });
@@ -71,11 +71,14 @@ void MainWindow::connectSession()
         m_prompt.prompt(strUid, bConference, bVideo);
     });
     connect(&mailbox, &HostMailbox::promptWithdrawn, &m_prompt, &IncomingPrompt::withdraw);
-    connect(&m_prompt, &IncomingPrompt::answered, this,
-            [this](const QString &, bool bAccept) { m_session.answerCall(bAccept); });
+    connect(&m_prompt, &IncomingPrompt::answered, this, [this](const QString &strUid, bool bAccept) {
+        const QString name = m_book.nameOf(strUid);
+        statusBar()->showMessage(bAccept ? tr("Call of %1 accepted").arg(name) : tr("Call of %1 rejected").arg(name));
+        m_session.answerCall(bAccept);
+    });
     connect(&mailbox, &HostMailbox::conferenceWanted, this, &MainWindow::startConference);
-    connect(&mailbox, &HostMailbox::signatureShown, this, &MainWindow::showSignature);
-    connect(&mailbox, &HostMailbox::signatureHidden, &m_signature, &QLabel::hide);
+    connect(&mailbox, &HostMailbox::signatureShown, &m_signature, &SignatureCard::showCard);
+    connect(&mailbox, &HostMailbox::signatureHidden, &m_signature, &QWidget::hide);
     mailbox.setMemberPicker(
         [this](const QStringList &present) { return MemberPicker::pickMore(m_book, present, this); });
 }
@@ -127,17 +130,10 @@ void MainWindow::showRecord(const CallRecord &record)
     statusBar()->showMessage(record.connected ? words + tr(" after %1").arg(durationText(record.seconds)) : words);
 }
 
-void MainWindow::showSignature(const QString &strText, int iX, int iY, int iHeight)
-{
-    m_signature.setText(m_book.nameOf(ContactBook::uidOf(strText)) + QLatin1Char('\n') + strText);
-    m_signature.adjustSize();
-    m_signature.move(iX, iY + iHeight);
-    m_signature.show();
-}
-
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     m_prompt.hide();
+    m_signature.hide();
     m_session.quit();
     QMainWindow::closeEvent(event);
 }

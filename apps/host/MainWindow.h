@@ -2,8 +2,8 @@
 
 #include "CallRecordModel.h"
 #include "IncomingPrompt.h"
+#include "SignatureCard.h"
 
-#include <QLabel>
 #include <QMainWindow>
 
 #include <memory>
@@ -16,8 +16,8 @@ class MainWindow;
 }
 
 /// The demo's window: contacts with call buttons on the left, the records of finished calls on the right, the login
-/// switch on top, and below it what has to be told of the local store. It owns the prompt of incoming calls. GUI
-/// thread; session and book must outlive it.
+/// switch on top, and below it what has to be told of the local store. It owns the prompt of incoming calls and the
+/// signature card. GUI thread; session and book must outlive it.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -30,6 +30,8 @@ public:
     const CallRecordModel &records() const { return m_records; }
     /// The prompt of incoming calls, hidden while none rings.
     IncomingPrompt &prompt() { return m_prompt; }
+    /// The signature card, hidden while none is asked for.
+    SignatureCard &signature() { return m_signature; }
 
 protected:
     /// Tells the plug-in that the client quits.
@@ -47,12 +49,11 @@ private:
     void showOnline(bool bOnline);
     void showNotice();
     void showRecord(const CallRecord &record);
-    void showSignature(const QString &strText, int iX, int iY, int iHeight);
 
     std::unique_ptr<Ui::MainWindow> ui;
     HostSession &m_session;
     const ContactBook &m_book;
     CallRecordModel m_records;
     IncomingPrompt m_prompt;
-    QLabel m_signature;
+    SignatureCard m_signature;
 };

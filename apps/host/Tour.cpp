@@ -1,5 +1,6 @@
 #include "Tour.h"
 
+#include "TourHand.h"
 #include "TourWatch.h"
 #include "WindowProbe.h"
 
@@ -13,10 +14,11 @@ constexpr int settleMs = 500;
 
 } // namespace
 
-Tour::Tour(TourWatch &watch, QList<TourStep> steps, const QString &strFolder)
-    : m_watch(watch), m_steps(std::move(steps)), m_strFolder(strFolder)
+Tour::Tour(TourWatch &watch, TourHand &hand, QList<TourStep> steps, const QString &strFolder)
+    : m_watch(watch), m_hand(hand), m_steps(std::move(steps)), m_strFolder(strFolder)
 {
     connect(&m_timer, &QTimer::timeout, this, &Tour::tick);
+    connect(&m_hand, &TourHand::done, this, &Tour::lookFor);
 }
 
 void Tour::start()
@@ -27,6 +29,7 @@ void Tour::start()
 void Tour::tick()
 {
     m_watch.look();
+    m_hand.work();
     switch (m_phase) {
     case Beginning:
         begin();
@@ -46,7 +49,9 @@ void Tour::begin()
         end(true);
         return;
     }
-    m_watch.mark();
+    if (step().act) {
+        m_watch.mark();
+    }
     TourWatch::say(QStringLiteral("[%1/%2] %3").arg(m_iStep + 1, 2).arg(m_steps.size()).arg(step().title));
     m_seen.clear();
     for (int i = 0; i < step().checks.size(); ++i) {
@@ -54,33 +59,57 @@ void Tour::begin()
     }
     m_clock.start();
     m_phase = Waiting;
-    if (step().act) {
-        step().act();
-    }
+    m_bActed = false;
+    act();
 }
 
-void Tour::wait()
+void Tour::act()
 {
+    m_bActed = m_bActed || !step().act || step().act();
+}
+
+bool Tour::hasActed() const
+{
+    return m_bActed && m_hand.isIdle();
+}
+
+void Tour::lookFor()
+{
+    if (m_phase != Waiting || !hasActed()) {
+        return;
+    }
     for (int i = 0; i < m_seen.size(); ++i) {
         if (!m_seen.at(i) && step().checks.at(i).seen()) {
             m_seen[i] = true;
             TourWatch::say(QStringLiteral("     ok %1").arg(step().checks.at(i).words));
         }
     }
-    if (!m_seen.contains(false)) {
+}
+
+void Tour::sayMissing() const
+{
+    if (!hasActed()) {
+        TourWatch::say(QStringLiteral("   MISS what it acts on is not shown"));
+    }
+    for (int i = 0; i < m_seen.size(); ++i) {
+        if (!m_seen.at(i)) {
+            TourWatch::say(QStringLiteral("   MISS %1").arg(step().checks.at(i).words));
+        }
+    }
+}
+
+void Tour::wait()
+{
+    act();
+    lookFor();
+    if (hasActed() && !m_seen.contains(false)) {
         if (step().pictureOf && step().pictureOf() != nullptr) {
             step().pictureOf()->raise();
         }
         m_clock.start();
         m_phase = Settling;
-        return;
-    }
-    if (m_clock.hasExpired(step().limitMs)) {
-        for (int i = 0; i < m_seen.size(); ++i) {
-            if (!m_seen.at(i)) {
-                TourWatch::say(QStringLiteral("   MISS %1").arg(step().checks.at(i).words));
-            }
-        }
+    } else if (m_clock.hasExpired(step().limitMs)) {
+        sayMissing();
         end(false);
     }
 }

@@ -9,6 +9,7 @@
 #include <functional>
 
 class QWidget;
+class TourHand;
 class TourWatch;
 
 /// One thing that must be seen to happen in a step.
@@ -22,8 +23,10 @@ struct TourCheck
 struct TourStep
 {
     QString title;
-    /// Runs once, at the beginning; must not open an event loop of its own. May be empty.
-    std::function<void()> act;
+    /// Tried until it says that it has been done; must not open an event loop of its own. What it tells the hand is
+    /// done before anything is looked for. Empty for a step that only waits: what was seen since the last action counts
+    /// for it.
+    std::function<bool()> act;
     /// Each needs to be seen once, in any order.
     QList<TourCheck> checks;
     int limitMs = 15000;
@@ -40,8 +43,8 @@ class Tour : public QObject
     Q_OBJECT
 
 public:
-    /// Pictures go to the folder `strFolder`. The watch must outlive the tour.
-    Tour(TourWatch &watch, QList<TourStep> steps, const QString &strFolder);
+    /// Pictures go to the folder `strFolder`. Watch and hand must outlive the tour.
+    Tour(TourWatch &watch, TourHand &hand, QList<TourStep> steps, const QString &strFolder);
 
     void start();
 
@@ -60,17 +63,23 @@ private:
     void tick();
     void begin();
     void wait();
+    void act();
+    bool hasActed() const;
+    void lookFor();
+    void sayMissing() const;
     void settle();
     void end(bool bOk);
     bool takePicture();
     const TourStep &step() const { return m_steps.at(m_iStep); }
 
     TourWatch &m_watch;
+    TourHand &m_hand;
     QList<TourStep> m_steps;
     QString m_strFolder;
     QTimer m_timer;
     QElapsedTimer m_clock;
     Phase m_phase = Beginning;
     int m_iStep = 0;
+    bool m_bActed = false;
     QList<bool> m_seen;
 };

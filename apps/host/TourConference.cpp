@@ -1,6 +1,7 @@
 #include "TourConference.h"
 
 #include "ContactBook.h"
+#include "TourCentre.h"
 #include "TourScript.h"
 #include "TourWatch.h"
 
@@ -58,7 +59,7 @@ Steps start(const TourScript &s)
          {},
          {s.code(13, "a member has left"), s.member(hangsUp, "Anna Novak", ConferenceHungUp)},
          limitMs,
-         u("conference-members"),
+         u("conference"),
          s.callWindow()},
     };
 }
@@ -112,7 +113,7 @@ ConfInfoData newestRecord()
     return DBConfInfo::getAllConfInfo().value(0);
 }
 
-void sayRecords()
+bool sayRecords()
 {
     const QList<ConfInfoData> records = DBConfInfo::getAllConfInfo();
     for (const ConfInfoData &record : records) {
@@ -122,6 +123,7 @@ void sayRecords()
                                 record.m_bIsConnect ? QStringLiteral("connected") : QStringLiteral("not connected"),
                                 QStringList(record.m_listMember).join(QLatin1Char(','))));
     }
+    return true;
 }
 
 Steps stored(const char *strTitle, const QString &strCreator, const QStringList &members)
@@ -186,5 +188,5 @@ Steps refused(const TourScript &s)
 QList<TourStep> conferenceSteps(const TourStage &stage)
 {
     const TourScript s(stage);
-    return start(s) + control(s) + addMore(s) + end(s) + invited(s) + refused(s);
+    return start(s) + control(s) + addMore(s) + end(s) + invited(s) + centreSteps(stage) + refused(s);
 }

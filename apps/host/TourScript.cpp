@@ -3,10 +3,13 @@
 #include "CallProcess.h"
 #include "EventWords.h"
 #include "MainWindow.h"
+#include "TourHand.h"
 #include "TourWatch.h"
 #include "WindowProbe.h"
 
 #include "ui/MemberRoles.h"
+
+#include <QApplication>
 
 #include <algorithm>
 
@@ -17,60 +20,137 @@ WindowProbe::Row memberRow(const char *strUid)
     return {"listView", ROLE_USER_ID, QString::fromLatin1(strUid)};
 }
 
+/// A row of the conference centre's list: known by the creator.
+WindowProbe::Row recordRow(const char *strUid)
+{
+    return memberRow(strUid);
+}
+
+WindowProbe::Row detailCell(const char *strUid)
+{
+    return {"tableView", ROLE_USER_ID, QString::fromLatin1(strUid)};
+}
+
 } // namespace
+
+TourScript::Action TourScript::click(const Finder &where, Qt::MouseButton button, int iTimes) const
+{
+    return [hand = &m_stage.hand, where, button, iTimes] {
+        hand->click(where, button, iTimes);
+        return true;
+    };
+}
+
+TourScript::Action TourScript::hover(const Finder &where) const
+{
+    return [hand = &m_stage.hand, where] {
+        hand->hover(where);
+        return true;
+    };
+}
+
+TourScript::Action TourScript::leave() const
+{
+    return [hand = &m_stage.hand] {
+        hand->rest();
+        return true;
+    };
+}
 
 TourScript::Action TourScript::pressContact(const char *strUid, const char *strButton) const
 {
-    const MainWindow *window = &m_stage.window;
-    return [window, strUid, strButton] {
-        WindowProbe::press(window->findChild<QWidget *>(QLatin1String(strUid)), strButton);
-    };
+    return click([window = &m_stage.window, strUid, strButton] {
+        return WindowProbe::button(window->findChild<QWidget *>(QLatin1String(strUid)), strButton);
+    });
 }
 
 TourScript::Action TourScript::pressMain(const char *strButton) const
 {
-    const MainWindow *window = &m_stage.window;
-    return [window, strButton] { WindowProbe::press(window, strButton); };
+    return click([window = &m_stage.window, strButton] { return WindowProbe::button(window, strButton); });
 }
 
 TourScript::Action TourScript::pressCallWindow(const char *strButton) const
 {
-    return [strButton] { WindowProbe::press(WindowProbe::callWindow(), strButton); };
+    return click([strButton] { return WindowProbe::button(WindowProbe::callWindow(), strButton); });
 }
 
 TourScript::Action TourScript::pressPrompt(const char *strButton) const
 {
-    MainWindow *window = &m_stage.window;
-    return [window, strButton] { WindowProbe::press(&window->prompt(), strButton); };
+    return click([window = &m_stage.window, strButton] { return WindowProbe::button(&window->prompt(), strButton); });
 }
 
 TourScript::Action TourScript::pressBox(const char *strButton) const
 {
-    return [strButton] { WindowProbe::press(WindowProbe::messageBox(), strButton); };
+    return click([strButton] { return WindowProbe::button(WindowProbe::messageBox(), strButton); });
 }
 
-TourScript::Action TourScript::pressPicker(const char *strButton)
+TourScript::Action TourScript::pressPicker(const char *strButton) const
 {
-    return [strButton] { WindowProbe::press(WindowProbe::memberPicker(), strButton); };
+    return click([strButton] { return WindowProbe::button(WindowProbe::memberPicker(), strButton); });
 }
 
-TourScript::Action TourScript::pick(const QStringList &uids)
+TourScript::Action TourScript::pressCentre(const char *strButton) const
 {
-    return [uids] {
+    return click([strButton] { return WindowProbe::button(WindowProbe::conferenceCentre(), strButton); });
+}
+
+TourScript::Action TourScript::pick(const QStringList &uids) const
+{
+    return [hand = &m_stage.hand, uids] {
         for (const QString &uid : uids) {
-            WindowProbe::pressRow(WindowProbe::memberPicker(), {"listPeople", Qt::UserRole, uid}, false);
+            hand->click([uid] {
+                return WindowProbe::rowMiddle(WindowProbe::memberPicker(), {"listPeople", Qt::UserRole, uid});
+            });
         }
+        return true;
     };
 }
 
-TourScript::Action TourScript::pressMember(const char *strUid, int rectRole)
+TourScript::Action TourScript::pressMember(const char *strUid, int rectRole) const
 {
-    return [strUid, rectRole] { WindowProbe::pressRowPart(WindowProbe::callWindow(), memberRow(strUid), rectRole); };
+    return click(
+        [strUid, rectRole] { return WindowProbe::rowPart(WindowProbe::callWindow(), memberRow(strUid), rectRole); });
 }
 
-TourScript::Action TourScript::doubleClickMember(const char *strUid)
+TourScript::Action TourScript::doubleClickMember(const char *strUid) const
 {
-    return [strUid] { WindowProbe::pressRow(WindowProbe::callWindow(), memberRow(strUid), true); };
+    return click([strUid] { return WindowProbe::rowMiddle(WindowProbe::callWindow(), memberRow(strUid)); },
+                 Qt::LeftButton, 2);
+}
+
+TourScript::Action TourScript::pressRecord(const char *strUid, int rectRole) const
+{
+    return click([strUid, rectRole] {
+        return WindowProbe::rowPart(WindowProbe::conferenceCentre(), recordRow(strUid), rectRole);
+    });
+}
+
+TourScript::Action TourScript::rightPressRecord(const char *strUid) const
+{
+    return click([strUid] { return WindowProbe::rowMiddle(WindowProbe::conferenceCentre(), recordRow(strUid)); },
+                 Qt::RightButton);
+}
+
+TourScript::Action TourScript::hoverRecord(const char *strUid) const
+{
+    return hover([strUid] { return WindowProbe::rowMiddle(WindowProbe::conferenceCentre(), recordRow(strUid)); });
+}
+
+TourScript::Action TourScript::hoverRecordHead(const char *strUid) const
+{
+    return hover(
+        [strUid] { return WindowProbe::rowPart(WindowProbe::conferenceCentre(), recordRow(strUid), ROLE_HEAD_RECT); });
+}
+
+TourScript::Action TourScript::hoverDetailHead(const char *strUid) const
+{
+    return hover(
+        [strUid] { return WindowProbe::rowPart(WindowProbe::conferenceCentre(), detailCell(strUid), ROLE_HEAD_RECT); });
+}
+
+TourScript::Action TourScript::choose(const char *strText) const
+{
+    return click([strText] { return WindowProbe::menuItem(QString::fromUtf8(strText)); });
 }
 
 TourScript::Window TourScript::mainWindow() const
@@ -96,6 +176,16 @@ TourScript::Window TourScript::messageBox()
 TourScript::Window TourScript::picker()
 {
     return [] { return WindowProbe::memberPicker(); };
+}
+
+TourScript::Window TourScript::centre()
+{
+    return [] { return WindowProbe::conferenceCentre(); };
+}
+
+TourScript::Window TourScript::menu()
+{
+    return [] { return QApplication::activePopupWidget(); };
 }
 
 TourCheck TourScript::command(const char *strType, const QString &strPart) const
@@ -230,6 +320,60 @@ TourCheck TourScript::memberGone(const char *strUid, const char *strName)
 TourCheck TourScript::memberCount(int iCount)
 {
     return shows("lblListCount", QStringLiteral("参与人员(%1)").arg(iCount));
+}
+
+TourCheck TourScript::centreShows(const char *strPart, const QString &strText)
+{
+    return {QStringLiteral("the conference centre shows %1").arg(strText), [strPart, strText] {
+                return WindowProbe::text(WindowProbe::conferenceCentre(), strPart).contains(strText);
+            }};
+}
+
+TourCheck TourScript::centreGone()
+{
+    return {QStringLiteral("the conference centre is gone"), [] { return WindowProbe::conferenceCentre() == nullptr; }};
+}
+
+TourCheck TourScript::recordCount(int iCount)
+{
+    return {QStringLiteral("the conference centre lists %1 conferences").arg(iCount), [iCount] {
+                return WindowProbe::rowCount(WindowProbe::conferenceCentre(), "listView", ROLE_CONF_ID) == iCount;
+            }};
+}
+
+TourCheck TourScript::recordHas(const char *strUid, int rectRole, const QString &strWords)
+{
+    return {QStringLiteral("the row shows %1").arg(strWords), [strUid, rectRole] {
+                return !WindowProbe::rowData(WindowProbe::conferenceCentre(), recordRow(strUid), rectRole)
+                            .toRect()
+                            .isNull();
+            }};
+}
+
+TourCheck TourScript::detailCount(int iCount)
+{
+    return {QStringLiteral("the detail page shows %1 people").arg(iCount), [iCount] {
+                return WindowProbe::rowCount(WindowProbe::conferenceCentre(), "tableView", ROLE_USER_ID) == iCount;
+            }};
+}
+
+TourCheck TourScript::menuOffers(const QStringList &texts)
+{
+    return {QStringLiteral("the menu offers %1").arg(texts.join(QStringLiteral(", "))),
+            [texts] { return WindowProbe::menuTexts() == texts; }};
+}
+
+TourCheck TourScript::card(const char *strPart, const QString &strText) const
+{
+    return {QStringLiteral("the signature card says %1").arg(strText), [window = &m_stage.window, strPart, strText] {
+                return WindowProbe::text(&window->signature(), strPart) == strText;
+            }};
+}
+
+TourCheck TourScript::cardGone() const
+{
+    return {QStringLiteral("the signature card is gone"),
+            [window = &m_stage.window] { return !window->signature().isVisible(); }};
 }
 
 TourCheck TourScript::processes(int iCount) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "TourSteps.h"
+#include "WindowProbe.h"
 
 /// The words in which the tour's steps are written: actions as a person does them, by real buttons, and checks of what
 /// must then be seen. The stage's parts must outlive what is made here. GUI thread.
@@ -9,22 +10,34 @@ class TourScript
 public:
     explicit TourScript(const TourStage &stage) : m_stage(stage) {}
 
-    using Action = std::function<void()>;
+    using Action = std::function<bool()>;
     using Window = std::function<QWidget *()>;
 
-    // Actions: clicks on real buttons.
+    // Actions: clicks on real buttons with the real mouse.
     Action pressContact(const char *strUid, const char *strButton) const;
     Action pressMain(const char *strButton) const;
     Action pressCallWindow(const char *strButton) const;
     Action pressPrompt(const char *strButton) const;
     Action pressBox(const char *strButton) const;
-
-    static Action pressPicker(const char *strButton);
+    Action pressPicker(const char *strButton) const;
+    Action pressCentre(const char *strButton) const;
     /// Turns the check marks of these people (user ids) in the picker.
-    static Action pick(const QStringList &uids);
+    Action pick(const QStringList &uids) const;
     /// Clicks on a member's button in the call window, by the role that holds its rectangle.
-    static Action pressMember(const char *strUid, int rectRole);
-    static Action doubleClickMember(const char *strUid);
+    Action pressMember(const char *strUid, int rectRole) const;
+    Action doubleClickMember(const char *strUid) const;
+
+    // Actions on the newest record, in the conference centre's list, of a conference that this user (id) created.
+    Action pressRecord(const char *strUid, int rectRole) const;
+    Action rightPressRecord(const char *strUid) const;
+    Action hoverRecord(const char *strUid) const;
+    Action hoverRecordHead(const char *strUid) const;
+    /// Moves over the head of a member on the centre's detail page.
+    Action hoverDetailHead(const char *strUid) const;
+    /// Chooses from the menu that is open.
+    Action choose(const char *strText) const;
+    /// Takes the mouse out of the way.
+    Action leave() const;
 
     // Windows, for pictures.
     Window mainWindow() const;
@@ -32,6 +45,8 @@ public:
     static Window callWindow();
     static Window messageBox();
     static Window picker();
+    static Window centre();
+    static Window menu();
 
     // Checks of the lines between plug-in and call process.
     TourCheck command(const char *strType, const QString &strPart = QString()) const;
@@ -60,9 +75,25 @@ public:
     static TourCheck memberGone(const char *strUid, const char *strName);
     static TourCheck memberCount(int iCount);
 
+    // Checks of the conference centre and of what the client shows for it.
+    static TourCheck centreShows(const char *strPart, const QString &strText);
+    static TourCheck centreGone();
+    static TourCheck recordCount(int iCount);
+    /// The place of that role in the record's row is shown.
+    static TourCheck recordHas(const char *strUid, int rectRole, const QString &strWords);
+    static TourCheck detailCount(int iCount);
+    static TourCheck menuOffers(const QStringList &texts);
+    TourCheck card(const char *strPart, const QString &strText) const;
+    TourCheck cardGone() const;
+
     // Checks of the call process itself.
     TourCheck processes(int iCount) const;
 
 private:
+    using Finder = std::function<WindowProbe::Spot()>;
+
+    Action click(const Finder &where, Qt::MouseButton button = Qt::LeftButton, int iTimes = 1) const;
+    Action hover(const Finder &where) const;
+
     TourStage m_stage;
 };

@@ -50,8 +50,9 @@ QString param1(const char *strUid)
 
 /// The call window's signal_ClearCallData is connected to an ordinary method, which Qt refuses; that it never takes
 /// effect is required. Qt says it in two lines. What the X server answers about windows that have just gone, of other
-/// programs too, is no warning of this program's. The message dialog's edit fields keep a menu sheet with an unfilled
-/// number, which Qt refuses with a line for each field; that is required too.
+/// programs too, or that it cannot give the focus at this moment, is no warning of this program's. The message dialog's
+/// edit fields keep a menu sheet with an unfilled number, which Qt refuses with a line for each field; that is required
+/// too.
 TourCheck onlyTheKnownWarning()
 {
     return {u("Qt has warned of nothing but the one connection that must not take effect"), [] {
@@ -59,6 +60,7 @@ TourCheck onlyTheKnownWarning()
                 QStringList warnings;
                 std::copy_if(all.begin(), all.end(), std::back_inserter(warnings), [](const QString &strText) {
                     return !strText.contains(QLatin1String("XCB error: 3 (BadWindow)")) &&
+                           !strText.contains(QLatin1String("(SetInputFocus)")) &&
                            !strText.contains(QLatin1String("Could not parse stylesheet of object CLineEditEx"));
                 });
                 return warnings.size() == 2 &&
@@ -67,6 +69,15 @@ TourCheck onlyTheKnownWarning()
 }
 
 using Steps = QList<TourStep>;
+
+/// An action that always succeeds.
+TourScript::Action done(const std::function<void()> &act)
+{
+    return [act] {
+        act();
+        return true;
+    };
+}
 
 Steps signIn(const TourScript &s, const TourStage &stage)
 {
@@ -85,7 +96,7 @@ Steps signIn(const TourScript &s, const TourStage &stage)
          u("demo-window"),
          s.mainWindow()},
         {u("Ask the plug-in whether there is a call"),
-         [session = &stage.session] { session->isExistCall(); },
+         done([session = &stage.session] { session->isExistCall(); }),
          {s.asked(MSG_IS_EXIST_CALL, u("call=no"))}},
     };
 }
@@ -164,7 +175,7 @@ Steps video(const TourScript &s, const TourStage &stage)
          u("call-video"),
          s.callWindow()},
         {u("Ask the plug-in whether it is a video call: it always says no"),
-         [session = &stage.session] { session->isVideoCall(); },
+         done([session = &stage.session] { session->isVideoCall(); }),
          {s.asked(MSG_IS_VIDEO_CALL, u("video=no"))}},
         {u("Close the call window: it asks first"),
          s.pressCallWindow("btnClose"),
@@ -247,7 +258,7 @@ Steps killed(const TourScript &s, const TourStage &stage)
     return call(s, "Call 李雷 once more") +
            Steps{
                {u("Kill the call process: the call stays on the screen and its clock runs on"),
-                [process = &stage.process] { process->kill(); },
+                done([process = &stage.process] { process->kill(); }),
                 {s.processes(0), s.shows("lblStatus", u(connected)), s.clockRuns()}},
                {u("Hang up: the call is over although nobody hears of it"),
                 s.pressCallWindow("HangUp"),
@@ -260,7 +271,7 @@ Steps killed(const TourScript &s, const TourStage &stage)
                 s.messageBox()},
                {u("Close the message"), s.pressBox("closeBtn"), {s.boxGone()}},
                {u("Start the call process again: the plug-in finds it by itself and registers the user"),
-                [process = &stage.process] { process->start(); },
+                [process = &stage.process] { return process->start(); },
                 {s.processes(1), s.command("RegeditUser", param1("30010000"))},
                 60000},
            };
@@ -269,7 +280,7 @@ Steps killed(const TourScript &s, const TourStage &stage)
 Steps leave(const TourScript &s, const TourStage &stage)
 {
     return {{u("Close the client"),
-             [window = &stage.window] { window->close(); },
+             [window = &stage.window] { return window->close(); },
              {s.asked(MSG_EXIT_VOIP),
               {u("the plug-in has written the line quit"), [watch = &stage.watch] { return watch->quitLine(); }},
               s.processes(0),
@@ -284,7 +295,7 @@ QList<TourStep> tourSteps(const TourStage &stage)
     return signIn(s, stage) + cancel(s) + unanswered(s, busy, "Call Maria Silva, who is busy", 22, "busy", resultBusy) +
            unanswered(s, rejects, "Call 王芳, who rejects", 10, "rejected", resultRejected) +
            unanswered(s, fails, "Call 赵强: the call fails", 19, "failed", resultFailed) +
-           call(s, "Call 李雷, who answers", u("call-connected")) + duringCall(s) + hangUp(s, "Hang up") +
-           video(s, stage) + farEnd(s) + incoming(s) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
+           call(s, "Call 李雷, who answers", u("call-voice")) + duringCall(s) + hangUp(s, "Hang up") + video(s, stage) +
+           farEnd(s) + incoming(s) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
            call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + leave(s, stage);
 }

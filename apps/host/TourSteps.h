@@ -5,6 +5,7 @@
 class CallProcess;
 class HostSession;
 class MainWindow;
+class TourHand;
 
 /// What the tour's steps act on and look at. All must outlive the tour.
 struct TourStage
@@ -12,6 +13,7 @@ struct TourStage
     HostSession &session;
     MainWindow &window;
     TourWatch &watch;
+    TourHand &hand;
     const CallProcess &process;
 };
 

@@ -4,10 +4,12 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QLabel>
-#include <QMouseEvent>
+#include <QMenu>
 #include <QScreen>
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace {
 
@@ -16,6 +18,18 @@ QWidget *topLevel(const char *strClass)
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
         if (std::strcmp(window->metaObject()->className(), strClass) == 0) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+/// One that was closed may still wait to be deleted beside the one that is open.
+QWidget *shownTopLevel(const char *strClass)
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->isVisible() && std::strcmp(window->metaObject()->className(), strClass) == 0) {
             return window;
         }
     }
@@ -31,27 +45,32 @@ QWidget *shownPart(const QWidget *window, const char *strName)
     return part != nullptr && part->isVisible() ? part : nullptr;
 }
 
-void postMouse(QWidget *target, const QPoint &position, QEvent::Type type, Qt::MouseButtons held)
+QAbstractItemView *shownList(const QWidget *window, const char *strList)
 {
-    QCoreApplication::postEvent(
-        target, new QMouseEvent(type, position, target->mapToGlobal(position), Qt::LeftButton, held, Qt::NoModifier));
-}
-
-void postClick(QWidget *target, const QPoint &position)
-{
-    postMouse(target, position, QEvent::MouseButtonPress, Qt::LeftButton);
-    postMouse(target, position, QEvent::MouseButtonRelease, Qt::NoButton);
-}
-
-QAbstractItemView *shownList(const QWidget *window, const WindowProbe::Row &row)
-{
-    return qobject_cast<QAbstractItemView *>(shownPart(window, row.list));
+    return qobject_cast<QAbstractItemView *>(shownPart(window, strList));
 }
 
 QModelIndex find(const QAbstractItemView *list, const WindowProbe::Row &row)
 {
     const QAbstractItemModel *model = list->model();
-    return model->match(model->index(0, 0), row.idRole, row.id, 1, Qt::MatchExactly).value(0);
+    for (int column = 0; column < model->columnCount(); ++column) {
+        const QModelIndexList found = model->match(model->index(0, column), row.idRole, row.id, 1, Qt::MatchExactly);
+        if (!found.isEmpty()) {
+            return found.first();
+        }
+    }
+    return {};
+}
+
+QMenu *openMenu()
+{
+    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
+}
+
+/// The place in the list's viewport, unless it is scrolled away.
+WindowProbe::Spot inView(const QAbstractItemView *list, const QPoint &place)
+{
+    return list->viewport()->rect().contains(place) ? WindowProbe::Spot{list->viewport(), place} : WindowProbe::Spot();
 }
 
 } // namespace
@@ -61,48 +80,78 @@ QWidget *WindowProbe::callWindow()
     return topLevel("CVoipWidget");
 }
 
+QWidget *WindowProbe::conferenceCentre()
+{
+    return shownTopLevel("CVoiceConferenceWidget");
+}
+
 QWidget *WindowProbe::messageBox()
 {
-    QWidget *box = topLevel("ErrorMessage");
-    return box != nullptr && box->isVisible() ? box : nullptr;
+    return shownTopLevel("ErrorMessage");
 }
 
 QWidget *WindowProbe::memberPicker()
 {
-    QWidget *picker = topLevel("MemberPicker");
-    return picker != nullptr && picker->isVisible() ? picker : nullptr;
+    return shownTopLevel("MemberPicker");
 }
 
 QVariant WindowProbe::rowData(const QWidget *window, const Row &row, int iRole)
 {
-    const QAbstractItemView *list = shownList(window, row);
+    const QAbstractItemView *list = shownList(window, row.list);
     return list == nullptr ? QVariant() : find(list, row).data(iRole);
 }
 
-bool WindowProbe::pressRowPart(const QWidget *window, const Row &row, int rectRole)
+WindowProbe::Spot WindowProbe::rowPart(const QWidget *window, const Row &row, int rectRole)
 {
     const QRect part = rowData(window, row, rectRole).toRect();
-    if (part.isNull()) {
-        return false;
-    }
-    postClick(shownList(window, row)->viewport(), part.center());
-    return true;
+    return part.isNull() ? Spot() : inView(shownList(window, row.list), part.center());
 }
 
-bool WindowProbe::pressRow(const QWidget *window, const Row &row, bool bTwice)
+WindowProbe::Spot WindowProbe::rowMiddle(const QWidget *window, const Row &row)
 {
-    const QAbstractItemView *list = shownList(window, row);
+    const QAbstractItemView *list = shownList(window, row.list);
     const QModelIndex index = list == nullptr ? QModelIndex() : find(list, row);
-    if (!index.isValid()) {
-        return false;
+    return index.isValid() ? inView(list, list->visualRect(index).center()) : Spot();
+}
+
+int WindowProbe::rowCount(const QWidget *window, const char *strList, int idRole)
+{
+    const QAbstractItemView *list = shownList(window, strList);
+    if (list == nullptr) {
+        return -1;
     }
-    const QPoint middle = list->visualRect(index).center();
-    postClick(list->viewport(), middle);
-    if (bTwice) {
-        postMouse(list->viewport(), middle, QEvent::MouseButtonDblClick, Qt::LeftButton);
-        postMouse(list->viewport(), middle, QEvent::MouseButtonRelease, Qt::NoButton);
+    const QAbstractItemModel *model = list->model();
+    int count = 0;
+    for (int cell = 0; cell < model->rowCount() * model->columnCount(); ++cell) {
+        const QModelIndex index = model->index(cell / model->columnCount(), cell % model->columnCount());
+        count += index.data(idRole).toString().isEmpty() ? 0 : 1;
     }
-    return true;
+    return count;
+}
+
+WindowProbe::Spot WindowProbe::menuItem(const QString &strText)
+{
+    QMenu *menu = openMenu();
+    if (menu != nullptr) {
+        const QList<QAction *> actions = menu->actions();
+        for (QAction *action : actions) {
+            if (action->text() == strText) {
+                return {menu, menu->actionGeometry(action).center()};
+            }
+        }
+    }
+    return {};
+}
+
+QStringList WindowProbe::menuTexts()
+{
+    QStringList texts;
+    if (const QMenu *menu = openMenu()) {
+        const QList<QAction *> actions = menu->actions();
+        std::transform(actions.begin(), actions.end(), std::back_inserter(texts),
+                       [](const QAction *action) { return action->text(); });
+    }
+    return texts;
 }
 
 QString WindowProbe::text(const QWidget *window, const char *strName)
@@ -146,21 +195,16 @@ QString WindowProbe::callWindowWords()
     return words.join(QStringLiteral(" | "));
 }
 
-bool WindowProbe::press(const QWidget *window, const char *strName)
+WindowProbe::Spot WindowProbe::button(const QWidget *window, const char *strName)
 {
     QWidget *part = shownPart(window, strName);
     if (part == nullptr) {
-        return false;
+        return {};
     }
     // The button may stand inside a part of that name; the mouse meets the innermost widget.
-    const QPoint centre = part->rect().center();
-    QWidget *inner = part->childAt(centre);
-    QWidget *button = inner != nullptr ? inner : part;
-    if (!button->isEnabled()) {
-        return false;
-    }
-    postClick(button, button->rect().center());
-    return true;
+    QWidget *inner = part->childAt(part->rect().center());
+    QWidget *target = inner != nullptr ? inner : part;
+    return target->isEnabled() ? Spot{target, target->rect().center()} : Spot();
 }
 
 bool WindowProbe::savePicture(const QWidget *window, const QString &strFile)

@@ -5,6 +5,7 @@
 #include "HostCatalogue.h"
 #include "HostSession.h"
 #include "MainWindow.h"
+#include "TourHand.h"
 #include "TourSteps.h"
 #include "TourWatch.h"
 #include "WindowFont.h"
@@ -13,10 +14,8 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QCursor>
 #include <QDir>
 #include <QFile>
-#include <QScreen>
 #include <QTextStream>
 #include <QTimer>
 
@@ -60,13 +59,17 @@ QString prepareTour(const QString &strFolder)
 int runTour(HostSession &session, MainWindow &window, const QString &strFolder, const QString &strTraceFile)
 {
     QApplication::setQuitOnLastWindowClosed(false);
-    // The pointer stays out of the way: under it, windows that come and go make Qt and the window manager race.
-    QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
+    TourHand hand;
+    if (!hand.isReady()) {
+        QTextStream(stderr) << "The tour needs an X server whose pointer it can move\n";
+        return EXIT_FAILURE;
+    }
+    hand.rest();
     window.move(tourCorner);
     window.show();
     const CallProcess process(strTraceFile);
     TourWatch watch(session, strTraceFile);
-    Tour tour(watch, tourSteps({session, window, watch, process}), strFolder);
+    Tour tour(watch, hand, tourSteps({session, window, watch, hand, process}), strFolder);
     QObject::connect(&tour, &Tour::finished, qApp, [](bool bOk) { QCoreApplication::exit(bOk ? 0 : 1); });
     tour.start();
     const int status = QApplication::exec();

@@ -28,6 +28,7 @@ public:
     {
         return m_iTags <= BoundedHtml::MOST_TAGS && m_iDepth <= BoundedHtml::MOST_DEPTH &&
                m_iImages <= BoundedHtml::MOST_IMAGES && m_iStyleUnits <= BoundedHtml::MOST_STYLE_UNITS &&
+               qint64(m_iTags) * m_iStyleUnits <= BoundedHtml::MOST_TAGS_TIMES_STYLE_UNITS &&
                m_iStyles <= BoundedHtml::MOST_STYLES && m_iNameless <= BoundedHtml::MOST_NAMELESS && !m_bWideCell &&
                m_iRows * m_iCells <= BoundedHtml::MOST_TABLE_PLACES;
     }
@@ -72,17 +73,19 @@ private:
         m_iStyleUnits += HtmlTags::behind(m_strHtml, tag) - tag.iEnd;
     }
 
+    // A span of three digits and more, or one that only shows when an entity is read, is wide; "100%" is no number and
+    // counts as one cell.
     void addCell(const HtmlTag &tag)
     {
-        static const QRegularExpression spans("(?:col|row)span\\s*=\\s*[\"']?0*(\\d{1,2})[\\s\"'/>]",
+        static const QRegularExpression spans(R"((?:col|row)span\s*=\s*["']?(?:0*(\d{1,2})[\s"'/>]|\d+%))",
                                               QRegularExpression::CaseInsensitiveOption);
+        static const QRegularExpression anySpan("(?:col|row)span", QRegularExpression::CaseInsensitiveOption);
         ++m_iCells;
         QString strTag = tag.in(m_strHtml).toString();
         auto found = spans.globalMatch(strTag);
         while (found.hasNext())
             m_iCells += found.next().captured(1).toInt();
-        m_bWideCell = m_bWideCell || strTag.remove(spans).contains(QLatin1String("span"), Qt::CaseInsensitive) ||
-                      strTag.contains(QLatin1Char('&'));
+        m_bWideCell = m_bWideCell || strTag.remove(spans).contains(anySpan) || strTag.contains(QLatin1String("&#"));
     }
 
     const QString &m_strHtml;

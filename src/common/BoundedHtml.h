@@ -13,15 +13,17 @@ constexpr int MOST_TAGS = 4096;
 /// Open elements in each other.
 constexpr int MOST_DEPTH = 128;
 constexpr int MOST_IMAGES = 512;
-/// Units of text in all style sheets of the HTML, and their number.
-constexpr int MOST_STYLE_UNITS = 2048;
+/// Units of text in all style sheets of the HTML, and their number. Every tag is held against every rule, so that many
+/// tags go with less: tags times units stay below the last of these.
+constexpr int MOST_STYLE_UNITS = 65536;
 constexpr int MOST_STYLES = 16;
+constexpr int MOST_TAGS_TIMES_STYLE_UNITS = 1 << 23;
 /// The longest style sheet that HTML which is not modest keeps: enough for the one that Qt's editors write.
 constexpr int MOST_KEPT_STYLE_UNITS = 128;
 /// Rows times cells of all tables.
 constexpr int MOST_TABLE_PLACES = 65536;
 /// Tags without a name, such as a bare "<".
-constexpr int MOST_NAMELESS = 16;
+constexpr int MOST_NAMELESS = 256;
 
 /// True for HTML that stays within all of these, and whose table cells span less than 100 others.
 bool isModest(const QString &strHtml);

@@ -24,6 +24,12 @@ public:
         return true;
     }
 
+    // Millions of short references to a long entity would fill the memory.
+    bool internalEntityDecl(const QString &, const QString &strValue) override
+    {
+        return strValue.size() <= DomText::LONGEST_ENTITY && !strValue.contains(QLatin1Char('&'));
+    }
+
 private:
     int m_iDepth = 0;
 };
@@ -38,6 +44,7 @@ bool parseGuarded(const Text &text, QDomDocument &document)
     QXmlSimpleReader reader;
     reader.setContentHandler(&guard);
     reader.setErrorHandler(&guard);
+    reader.setDeclHandler(&guard);
     return reader.parse(&source) && document.setContent(text);
 }
 

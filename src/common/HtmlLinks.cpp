@@ -1,6 +1,7 @@
 #include "common/HtmlLinks.h"
 
 #include "common/HtmlText.h"
+#include "common/ReplaceAll.h"
 
 #include <QRegExp>
 
@@ -28,7 +29,7 @@ QString link(const QString &strUrl, const QString &strStyle)
 void HtmlLinks::convertWebLink(QString &strText, const QString &strStyle)
 {
     QString strRest = strText;
-    strRest.replace(QLatin1String("&nbsp;&nbsp;"), QLatin1String("  "));
+    replaceAll(strRest, QStringLiteral("&nbsp;&nbsp;"), QStringLiteral("  "));
     const QRegExp pattern = linkPattern();
     QString strOutput;
     int iDone = 0;

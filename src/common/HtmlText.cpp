@@ -1,5 +1,7 @@
 #include "common/HtmlText.h"
 
+#include "common/ReplaceAll.h"
+
 #include <QStringList>
 
 namespace {
@@ -19,12 +21,12 @@ constexpr Escape URL_ESCAPES[] = {
 
 void HtmlText::replaceSpace(QString &strText)
 {
-    strText.replace(QLatin1String("  "), QLatin1String("&nbsp;&nbsp;"));
+    replaceAll(strText, QStringLiteral("  "), QStringLiteral("&nbsp;&nbsp;"));
 }
 
 void HtmlText::replaceLineBreak(QString &strText)
 {
-    strText.replace(QLatin1Char('\n'), QLatin1String("<br/>"));
+    replaceAll(strText, QStringLiteral("\n"), QStringLiteral("<br/>"));
 }
 
 void HtmlText::replaceLineBreakToParagraph(QString &strText)
@@ -39,20 +41,20 @@ void HtmlText::replaceLineBreakToParagraph(QString &strText)
 
 QString HtmlText::regainHtmlText(QString strText)
 {
-    strText.replace(QLatin1String("&lt;"), QLatin1String("<"));
-    strText.replace(QLatin1String("&gt;"), QLatin1String(">"));
-    strText.replace(QLatin1String("&quot;"), QLatin1String("\""));
+    replaceAll(strText, QStringLiteral("&lt;"), QStringLiteral("<"));
+    replaceAll(strText, QStringLiteral("&gt;"), QStringLiteral(">"));
+    replaceAll(strText, QStringLiteral("&quot;"), QStringLiteral("\""));
     return strText;
 }
 
 QString HtmlText::getDealWithHtmlText(QString strText)
 {
-    strText.replace(QLatin1Char('<'), QLatin1String("&lt;"));
+    replaceAll(strText, QStringLiteral("<"), QStringLiteral("&lt;"));
     return strText;
 }
 
 void HtmlText::escapeURLChar(QString &strText)
 {
     for (const Escape &escape : URL_ESCAPES)
-        strText.replace(QLatin1Char(escape.cPlain), QLatin1String(escape.pEncoded));
+        replaceAll(strText, QString(QLatin1Char(escape.cPlain)), QLatin1String(escape.pEncoded));
 }

@@ -9,6 +9,8 @@ namespace {
 constexpr int LINE_SLACK = 5;
 constexpr int HEIGHT_SLACK = 2;
 constexpr int DOTS_REPLACE = 2;
+// The width of a text of millions of characters is no number any more, so a longer one is never measured whole.
+constexpr int MEASURED_WHOLE = 10000;
 
 QString dots()
 {
@@ -32,9 +34,9 @@ int widthAt(const QFontMetrics &metrics, const QString &strText, int i)
                                 : metrics.horizontalAdvance(strText.at(i));
 }
 
-/// The length of the longest beginning from `iStart` on that fits, at least one character. The stretch that is looked
-/// at doubles until it is too wide, so that a line costs no more than its own length.
-int fittingLength(const QFontMetrics &metrics, const QString &strText, int iStart, int iWidth)
+/// The length of the longest beginning from `iStart` on that fits. The stretch that is looked at doubles until it is
+/// too wide, so that a line costs no more than its own length.
+int fittingUnits(const QFontMetrics &metrics, const QString &strText, int iStart, int iWidth)
 {
     const int iLeft = strText.size() - iStart;
     const auto fits = [&](int iLength) { return metrics.horizontalAdvance(strText.mid(iStart, iLength)) <= iWidth; };
@@ -50,6 +52,19 @@ int fittingLength(const QFontMetrics &metrics, const QString &strText, int iStar
         const int iMiddle = iFitting + (iTooLong - iFitting) / 2;
         (fits(iMiddle) ? iFitting : iTooLong) = iMiddle;
     }
+    return iFitting;
+}
+
+bool fitsWhole(const QFontMetrics &metrics, const QString &strText, int iWidth)
+{
+    return strText.size() <= MEASURED_WHOLE ? metrics.horizontalAdvance(strText) <= iWidth
+                                            : fittingUnits(metrics, strText, 0, iWidth) == strText.size();
+}
+
+/// The length of the line that starts at `iStart`: what fits, at least one character.
+int fittingLength(const QFontMetrics &metrics, const QString &strText, int iStart, int iWidth)
+{
+    int iFitting = fittingUnits(metrics, strText, iStart, iWidth);
     if (isPairAt(strText, iStart + iFitting - 1))
         --iFitting;
     return iFitting > 0 ? iFitting : (isPairAt(strText, iStart) ? 2 : 1);
@@ -131,7 +146,7 @@ bool LabelText::stringFormatWithControl(QString strText, QWidget *pLabel, QStrin
     }
     strText.remove(QLatin1Char('\n'));
     const int iWidth = pLabel->rect().width();
-    if (metrics.horizontalAdvance(strText) <= iWidth) {
+    if (fitsWhole(metrics, strText, iWidth)) {
         strOut = strText;
         fixHeight(pLabel, metrics.height() + HEIGHT_SLACK);
         return false;

@@ -4,6 +4,7 @@
 #include "common/HtmlLinks.h"
 #include "common/HtmlText.h"
 #include "common/Palette.h"
+#include "common/ReplaceAll.h"
 #include "model/SkinContext.h"
 
 #include <QDomDocument>
@@ -11,9 +12,10 @@
 
 namespace {
 
-// Each costs a walk over the message. Beyond them a text could only show where an entity stands beside two spaces:
-// links take "&nbsp;&nbsp;" and two spaces for the same.
-constexpr int MOST_SPACED_TEXTS = 100;
+// Each spaced text costs a walk over the message. So many units are walked over in all, but at least so many texts are
+// replaced: an ordinary message has all of its own replaced, one of megabytes still ends soon.
+constexpr int MOST_WALKED_UNITS = 100000000;
+constexpr int FEWEST_SPACED_TEXTS = 20;
 
 QString linkColour()
 {
@@ -43,7 +45,7 @@ struct SpanFindings
             strStyle = linkStyle(span.attribute(QStringLiteral("style")));
         const QDomNode first = span.firstChild();
         const QString strText = first.isElement() ? first.toElement().text() : first.nodeValue();
-        if (listSpacedText.size() < MOST_SPACED_TEXTS && strText.contains(QLatin1String("  ")))
+        if (strText.contains(QLatin1String("  ")))
             listSpacedText.append(strText);
     }
 };
@@ -65,6 +67,21 @@ SpanFindings spansOf(const QString &strBody)
     return findings;
 }
 
+// Links take "&nbsp;&nbsp;" and two spaces for the same, so this shows only where the message has entities of its own.
+void keepSpaces(const QStringList &listSpacedText, QString &strResult)
+{
+    if (!strResult.contains(QLatin1String("&nbsp;")))
+        return;
+    int iMost = qMax(FEWEST_SPACED_TEXTS, MOST_WALKED_UNITS / strResult.size());
+    for (const QString &strText : listSpacedText) {
+        if (iMost-- == 0)
+            return;
+        QString strSpaced = strText;
+        HtmlText::replaceSpace(strSpaced);
+        replaceAll(strResult, strText, strSpaced);
+    }
+}
+
 } // namespace
 
 QString MessageHtml::convertMessageBody(const QString &strBody, bool bReplaceSpace)
@@ -79,11 +96,7 @@ QString MessageHtml::convertMessageBody(const QString &strBody, bool bReplaceSpa
     if (iFirst >= 0 && iLast > iFirst)
         strResult = strBody.mid(iFirst, iLast + strEnd.size() - iFirst);
     const SpanFindings findings = spansOf(strBody);
-    for (const QString &strText : findings.listSpacedText) {
-        QString strSpaced = strText;
-        HtmlText::replaceSpace(strSpaced);
-        strResult.replace(strText, strSpaced);
-    }
+    keepSpaces(findings.listSpacedText, strResult);
     HtmlLinks::convertWebLink(strResult, findings.strStyle);
     return strResult;
 }

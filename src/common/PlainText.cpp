@@ -2,6 +2,7 @@
 
 #include "common/BoundedHtml.h"
 #include "common/HtmlText.h"
+#include "common/ReplaceAll.h"
 
 #include <QTextDocument>
 #include <QVariant>
@@ -24,5 +25,5 @@ void PlainText::convertToPlaintText(QString &strText)
     document.setUndoRedoEnabled(false);
     document.setHtml(BoundedHtml::modest(strText));
     strText = document.toPlainText();
-    strText.replace(QLatin1String("\n\n"), QLatin1String("\n"));
+    replaceAll(strText, QStringLiteral("\n\n"), QStringLiteral("\n"));
 }

@@ -3,6 +3,8 @@
 #include "store/DB.h"
 #include "store/StoredText.h"
 
+#include <QHash>
+#include <QSet>
 #include <QSqlQuery>
 #include <QStringList>
 #include <QVariant>
@@ -23,17 +25,39 @@ QList<QString> membersOf(const QString &text)
     return text.split(QLatin1Char(','), Qt::SkipEmptyParts, Qt::CaseSensitive);
 }
 
-ConfInfoData recordOf(const QSqlQuery &query)
+/// Reads records so that equal texts of a history, the same people and lengths again and again, share their memory.
+class RecordReader
 {
-    ConfInfoData info;
-    info.m_strConfID = query.value(0).toString();
-    info.m_strCreatUserID = query.value(1).toString();
-    info.m_strCreatTime = query.value(2).toString();
-    info.m_strCallTime = query.value(3).toString();
-    info.m_listMember = membersOf(query.value(4).toString());
-    info.m_bIsConnect = query.value(5).toInt() == 1;
-    return info;
-}
+public:
+    ConfInfoData recordOf(const QSqlQuery &query)
+    {
+        ConfInfoData info;
+        info.m_strConfID = query.value(0).toString();
+        info.m_strCreatUserID = shared(query.value(1).toString());
+        info.m_strCreatTime = query.value(2).toString();
+        info.m_strCallTime = shared(query.value(3).toString());
+        info.m_listMember = sharedMembers(query.value(4).toString());
+        info.m_bIsConnect = query.value(5).toInt() == 1;
+        return info;
+    }
+
+private:
+    QString shared(const QString &text) { return *m_texts.insert(text); }
+    QList<QString> sharedMembers(const QString &text)
+    {
+        const auto known = m_members.constFind(text);
+        if (known != m_members.constEnd())
+            return *known;
+        QList<QString> members = membersOf(text);
+        for (QString &member : members)
+            member = shared(member);
+        m_members.insert(text, members);
+        return members;
+    }
+
+    QSet<QString> m_texts;
+    QHash<QString, QList<QString>> m_members; ///< by the text that they are stored as
+};
 
 } // namespace
 
@@ -73,8 +97,9 @@ QList<ConfInfoData> DBConfInfo::getAllConfInfo()
     query.setForwardOnly(true);
     query.exec(QStringLiteral("SELECT ConfID,CreatUserID,CreatTime,CallTime,MemberList,IsConnect "
                               "FROM voipConferenceInfo ORDER BY ConfID DESC"));
+    RecordReader reader;
     while (query.next())
-        records.append(recordOf(query));
+        records.append(reader.recordOf(query));
     return records;
 }
 

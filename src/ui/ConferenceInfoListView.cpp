@@ -3,12 +3,11 @@
 #include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
 #include "common/CommonFun.h"
-#include "common/DpiScale.h"
 #include "common/Palette.h"
 #include "model/FriendData.h"
 #include "plugin/VoipManageEventProcess.h"
+#include "ui/ConferenceInfoItem.h"
 #include "ui/ConferenceInfoListViewDelegate.h"
-#include "ui/ConferenceTexts.h"
 #include "ui/MemberRoles.h"
 #include "ui/SignCard.h"
 #include "widgets/MenuEx.h"
@@ -21,8 +20,6 @@
 #include <QStandardItemModel>
 
 namespace {
-
-constexpr QSize cRowSize(500, 62);
 
 /// Where a menu of this length begins along one axis: at the cursor, or ending there where the screen has no room.
 int menuStart(int iCursor, int iMenu, int iScreen)
@@ -67,16 +64,14 @@ void CConferenceInfoListView::addConfInfoList(QList<ConfInfoData> confInfoList)
     m_confInfoList = confInfoList;
     if (confInfoList.isEmpty())
         return;
-    const QString strLoginUID = CommonFun::getLoginUID();
-    QHash<QString, Creator> creators;
+    QHash<QString, std::shared_ptr<const ConferenceCreator>> creators;
     QList<QStandardItem *> items;
     items.reserve(confInfoList.size());
     for (const ConfInfoData &confInfo : qAsConst(confInfoList)) {
-        const QString &strUserID = confInfo.m_strCreatUserID;
-        auto creator = creators.constFind(strUserID);
-        if (creator == creators.constEnd())
-            creator = creators.insert(strUserID, creatorOf(strUserID));
-        items.append(creatListItem(confInfo, *creator, strUserID == strLoginUID));
+        std::shared_ptr<const ConferenceCreator> &pCreator = creators[confInfo.m_strCreatUserID];
+        if (!pCreator)
+            pCreator = creatorOf(confInfo.m_strCreatUserID);
+        items.append(creatListItem(confInfo, pCreator));
         // The store gives the greatest id first: each goes in front of the one before.
         m_confItemMap.insert(m_confItemMap.constBegin(), confInfo.m_strConfID, items.constLast());
     }
@@ -87,7 +82,7 @@ void CConferenceInfoListView::addConfInfoData(ConfInfoData confInfo)
 {
     if (confInfo.m_strConfID.isEmpty() || m_confItemMap.contains(confInfo.m_strConfID))
         return;
-    QStandardItem *pItem = creatListItem(confInfo);
+    QStandardItem *pItem = creatListItem(confInfo, creatorOf(confInfo.m_strCreatUserID));
     m_pModel->insertRow(0, pItem);
     m_confItemMap.insert(confInfo.m_strConfID, pItem);
     // Deliberate: on top of the rows, but at the end of the list.
@@ -104,34 +99,20 @@ void CConferenceInfoListView::removeConfInfoData(QString strConfID)
     m_confItemMap.remove(strConfID);
 }
 
-CConferenceInfoListView::Creator CConferenceInfoListView::creatorOf(const QString &strUserID)
+std::shared_ptr<const ConferenceCreator> CConferenceInfoListView::creatorOf(const QString &strUserID)
 {
     const FriendData creator = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(strUserID));
-    return {creator.displayName(),
-            CommonFun::getTrueImagePath(creator.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH)};
+    return std::make_shared<const ConferenceCreator>(
+        ConferenceCreator{strUserID, creator.displayName(),
+                          CommonFun::getTrueImagePath(creator.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
+                          strUserID == CommonFun::getLoginUID()});
 }
 
-QStandardItem *CConferenceInfoListView::creatListItem(const ConfInfoData &confInfo) const
-{
-    const QString &strUserID = confInfo.m_strCreatUserID;
-    return creatListItem(confInfo, creatorOf(strUserID), strUserID == CommonFun::getLoginUID());
-}
-
-QStandardItem *CConferenceInfoListView::creatListItem(const ConfInfoData &confInfo, const Creator &creator,
-                                                      bool bCreatedByMe)
+QStandardItem *CConferenceInfoListView::creatListItem(const ConfInfoData &confInfo,
+                                                      const std::shared_ptr<const ConferenceCreator> &pCreator)
 {
     // The model takes the item over as soon as it is in a row.
-    auto *pItem = new QStandardItem;
-    pItem->setData(confInfo.m_strConfID, ROLE_CONF_ID);
-    pItem->setData(creator.strHeadPath, ROLE_HEAD_PATH);
-    pItem->setData(confInfo.m_strCreatUserID, ROLE_USER_ID);
-    pItem->setData(creator.strName, ROLE_DISPLAY_NAME);
-    pItem->setData(confInfo.m_strCreatTime, ROLE_CONF_CREATE_TIME);
-    pItem->setData(ConferenceTexts::callLength(confInfo.m_strCallTime), ROLE_CONF_CALL_TIME);
-    pItem->setData(confInfo.m_bIsConnect, ROLE_CALL_STATUS);
-    pItem->setData(bCreatedByMe, ROLE_CREATED_BY_ME);
-    pItem->setData(ADAPT_DPI_SIZE(cRowSize), Qt::SizeHintRole);
-    return pItem;
+    return new ConferenceInfoItem(confInfo, pCreator);
 }
 
 void CConferenceInfoListView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
@@ -140,6 +121,13 @@ void CConferenceInfoListView::dataChanged(const QModelIndex &topLeft, const QMod
     // The painting itself writes places back into the rows: they must not call for the next painting.
     if (areRolesShown(roles))
         QListView::dataChanged(topLeft, bottomRight, roles);
+}
+
+void CConferenceInfoListView::scrollContentsBy(int dx, int dy)
+{
+    QListView::scrollContentsBy(dx, dy);
+    // Rows whose pixels are only moved would keep the places of their head and button from before.
+    viewport()->update();
 }
 
 void CConferenceInfoListView::mousePressEvent(QMouseEvent *event)

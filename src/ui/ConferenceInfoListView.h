@@ -16,11 +16,14 @@
 #include <QString>
 #include <QTimer>
 
+#include <memory>
+
 class CConferenceInfoListViewDelegate;
 class CMenuEx;
 class QAction;
 class QStandardItem;
 class QStandardItemModel;
+struct ConferenceCreator;
 
 class CConferenceInfoListView : public QListView
 {
@@ -51,6 +54,7 @@ signals:
 protected:
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QVector<int> &roles = QVector<int>()) override;
+    void scrollContentsBy(int dx, int dy) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -62,15 +66,9 @@ private slots:
     void slot_ShowSign();
 
 private:
-    /// What a row shows of a conference's creator.
-    struct Creator
-    {
-        QString strName;
-        QString strHeadPath;
-    };
-    static Creator creatorOf(const QString &strUserID);
-    static QStandardItem *creatListItem(const ConfInfoData &confInfo, const Creator &creator, bool bCreatedByMe);
-    QStandardItem *creatListItem(const ConfInfoData &confInfo) const;
+    static std::shared_ptr<const ConferenceCreator> creatorOf(const QString &strUserID);
+    static QStandardItem *creatListItem(const ConfInfoData &confInfo,
+                                        const std::shared_ptr<const ConferenceCreator> &pCreator);
     void initMenu();
     void hoverRow(const QModelIndex &index, const QPoint &position);
     void clickRow(const QModelIndex &index, const QPoint &position);

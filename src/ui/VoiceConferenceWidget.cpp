@@ -30,6 +30,15 @@ constexpr int cDetailPage = 1;
 // The detail page's margin at the bottom, as the list page has it.
 constexpr QMargins cPageMargins(0, 0, 0, 10);
 
+/// The picture of the button that starts a conference, as fine as a screen of that density shows it.
+QPixmap createIcon(qreal dRatio)
+{
+    QPixmap icon = CommonFun::getIconFontPixmap(IconGlyph::text(IconGlyph::MicOn), QColor(strCOLOR_ICON_MID_GREY),
+                                                cCreateIconSize * dRatio, qRound(cCreateGlyphPixels * dRatio));
+    icon.setDevicePixelRatio(dRatio);
+    return icon;
+}
+
 } // namespace
 
 CVoiceConferenceWidget::CVoiceConferenceWidget(QWidget *parent)
@@ -81,8 +90,7 @@ void CVoiceConferenceWidget::initButtons()
         "QPushButton#backBtn:press{border:none;"
         "border-image:url(Resources/images/CommonCtrls/kvim_common_back_press.png);}"));
     ui->backBtn->setFont(font);
-    ui->creatConferenceBtn->setIcon(CommonFun::getIconFontPixmap(
-        IconGlyph::text(IconGlyph::MicOn), QColor(strCOLOR_ICON_MID_GREY), cCreateIconSize, cCreateGlyphPixels));
+    ui->creatConferenceBtn->setIcon(createIcon(devicePixelRatioF()));
     // Shown at its own size: buttons shrink a picture to the style's size of small icons.
     ui->creatConferenceBtn->setIconSize(cCreateIconSize);
     ui->creatConferenceBtn->setText(QStringLiteral("发起语音会议"));

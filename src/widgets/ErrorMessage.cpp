@@ -132,6 +132,7 @@ void ErrorMessage::showPage(QWidget *pPage, const QString &strTitle)
 {
     ui->stackedWidget->setCurrentWidget(pPage);
     ui->titlelabel->setText(strTitle);
+    m_iShowMode = 0;
 }
 
 void ErrorMessage::showCloseButtonOnly()
@@ -363,6 +364,16 @@ void ErrorMessage::changeEvent(QEvent *event)
         return;
     ui->retranslateUi(this);
     setUIText();
+}
+
+// The form's size is fixed: a message without the room in it can be read whole in the label's tip.
+void ErrorMessage::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    const QLabel &label = *ui->msgLabel;
+    const bool bHasRoom =
+        label.heightForWidth(label.width()) <= label.height() && label.minimumSizeHint().width() <= label.width();
+    ui->msgLabel->setToolTip(bHasRoom ? QString() : label.text());
 }
 
 void ErrorMessage::mousePressEvent(QMouseEvent *event)

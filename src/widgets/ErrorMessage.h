@@ -28,7 +28,8 @@ public:
     ErrorMessage(QString strAcceptText, QString strCloseText, QWidget *parent);
     ~ErrorMessage() override;
 
-    /// Shows a message with the close button alone, whose word becomes "sure"; returns when the dialog is closed.
+    /// Shows a message with the close button alone, whose word becomes "sure"; returns when the dialog is closed. A
+    /// message without the room in the window can be read whole in its tip, here and in chooseMsgShow.
     void getMsgShow(QString title, QString msg);
 
     /// Asks a question with both buttons; returns m_bAccepted when the dialog is closed.
@@ -70,6 +71,7 @@ signals:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;

@@ -47,11 +47,20 @@ private slots:
         row("one without an end", "<STYLE>" + many("a", MOST_STYLE_UNITS + 1), false);
         row("most style sheets", many("<style></style>", MOST_STYLES), true);
         row("one more", many("<style></style>", MOST_STYLES + 1), false);
+        row("a sheet of a word processor", "<style>" + many("p.a{margin:0px}", 2000) + "</style>" + many("<p>x", 200),
+            true);
+        row("a long one for many tags", "<style>" + many("p.a{margin:0px}", 2000) + "</style>" + many("<p>x", 400),
+            false);
         row("most table places", ::row(256) + ::row(0).repeated(255), true);
         row("one more row", ::row(256) + ::row(0).repeated(256), false);
         row("a cell over 99", "<table><tr><td colspan=\"99\">x</td></tr></table>", true);
         row("a cell over 100", "<table><tr><td colspan=\"100\">x</td></tr></table>", false);
         row("a cell over as many rows", "<table><tr><th ROWSPAN = 100>x</td></tr></table>", false);
+        row("a cell over a hundred per cent", "<table><tr><td colspan=\"100%\">x</td></tr></table>", true);
+        row("another word with span", "<table><tr><td class=\"span600\">x</td></tr></table>", true);
+        row("an address in a cell's tag", "<table><tr><td background=\"a?b=1&amp;c=2\">x</td></tr></table>", true);
+        row("a name in disguise", "<table><tr><td &#99;olspan=999>x</td></tr></table>", false);
+        row("blanks before the number", "<table><tr><td colspan=\" 999\">x</td></tr></table>", false);
         row("a span in disguise", "<table><tr><td colspan=\"&#57;9\">x</td></tr></table>", false);
         row("cells over others count as many", ("<tr>" + many("<td colspan=99>", 10)).repeated(8), true);
         row("too many of them", ("<tr>" + many("<td colspan=99>", 10)).repeated(9), false);

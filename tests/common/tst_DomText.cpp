@@ -20,6 +20,13 @@ QString multiplied(int levels)
     return text + QString("]><a>&e%1;</a>").arg(levels);
 }
 
+// A text with an entity of so many letters, and so many references to it.
+QString declared(int letters, int references)
+{
+    return "<!DOCTYPE a [<!ENTITY b '" + QString(letters, 'x') + "'>]><a>" + QString("&b;").repeated(references) +
+           "</a>";
+}
+
 } // namespace
 
 class tst_DomText : public QObject
@@ -48,6 +55,11 @@ private slots:
         QTest::newRow("plain") << "hello";
         QTest::newRow("open") << "<a><b></a>";
         QTest::newRow("entities that multiply") << multiplied(20);
+        QTest::newRow("two levels of entities") << multiplied(1);
+        QTest::newRow("entities in disguise") << "<!DOCTYPE a [<!ENTITY b 'c'><!ENTITY d '&#38;b;'>]><a>&d;</a>";
+        QTest::newRow("an entity too long") << declared(DomText::LONGEST_ENTITY + 1, 1);
+        QTest::newRow("a long entity millions of times") << declared(4000, 2000000);
+        QTest::newRow("in an attribute") << declared(4000, 2000000).replace("<a>", "<a b='").replace("</a>", "'/>");
         QTest::newRow("one too deep") << nested(DomText::DEEPEST + 1);
         QTest::newRow("bottomless") << QString("<a>").repeated(1000000);
         QTest::newRow("bottomless behind a comment") << "<r><!--</a></a>-->" + nested(100000) + "</r>";
@@ -59,6 +71,13 @@ private slots:
         QDomDocument document("old");
         QVERIFY(!DomText::parse(text, document));
         QVERIFY(document.documentElement().isNull());
+    }
+
+    void shortEntitiesAreRead()
+    {
+        QDomDocument document;
+        QVERIFY(DomText::parse(declared(DomText::LONGEST_ENTITY, 2), document));
+        QCOMPARE(document.documentElement().text(), QString(2 * DomText::LONGEST_ENTITY, 'x'));
     }
 
     void theDeepestTreeStands()

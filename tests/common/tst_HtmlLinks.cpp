@@ -67,6 +67,7 @@ private slots:
         row("Chinese host", "www.中文.com。", link("www.中文.com") + "。");
         row("Chinese ends a path", "www.a.com/中", link("www.a.com/") + "中");
         row("no host", "www. http:// x", "www. http:// x");
+        row("www without a dot", "wwwx.a wwwab", "wwwx.a wwwab");
         row("another scheme", "mailto:a@b file:///c", "mailto:a@b file:///c");
         row("within a word", "xwww.a", "x" + link("www.a"));
         row("an entity belongs to it", "www.a&amp;b=c d", link("www.a&amp;b=c") + " d");

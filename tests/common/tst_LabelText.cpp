@@ -162,6 +162,19 @@ private slots:
         QCOMPARE(label.maximumHeight(), label.minimumHeight());
     }
 
+    void linesAreFivePixelsNarrowerThanTheLabel()
+    {
+        QLabel label;
+        label.setFont(evenFont());
+        QString strOut;
+        label.resize(4 * m_iEm + 5, 10);
+        QVERIFY(CommonFun::stringFormatWithControl("abcdefg", &label, strOut, 0));
+        QCOMPARE(strOut, QString("abcd\nefg"));
+        label.resize(4 * m_iEm + 4, 10);
+        QVERIFY(CommonFun::stringFormatWithControl("abcdefg", &label, strOut, 0));
+        QCOMPARE(strOut, QString("abc\ndef\ng"));
+    }
+
     void labelWithoutWidthGetsACharacterALine()
     {
         QLabel label;
@@ -191,6 +204,18 @@ private slots:
         const QString strWrapped =
             CommonFun::getLineWrapText(50 * m_iEm, QString(LENGTH, 'x'), QFontMetrics(evenFont()), 0);
         QCOMPARE(strWrapped, strOut);
+    }
+
+    void textWiderThanANumberOfPixelsIsBroken()
+    {
+        // Its width has more than 31 bits in the 64ths of a pixel that fonts reckon with, and would read as negative.
+        const QString strText(40000000 / m_iEm, 'x');
+        QLabel label;
+        label.setFont(evenFont());
+        label.resize(6 * m_iEm, 10);
+        QString strOut;
+        QVERIFY(CommonFun::stringFormatWithControl(strText, &label, strOut, 1));
+        QCOMPARE(strOut, QString("xxx..."));
     }
 
 private:

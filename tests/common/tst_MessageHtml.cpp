@@ -175,6 +175,23 @@ private slots:
         QVERIFY(CommonFun::convertMessageBody(inDocument("<p>" + strDeep + "</p>"), true).contains(link("www.a")));
     }
 
+    void everySpanOfALongMessageCounts()
+    {
+        QString strSpans;
+        for (int i = 0; i < 500; ++i)
+            strSpans += QString("<span>www.a%1&nbsp;</span><span>  %1</span>").arg(i);
+        strSpans += "<span>  z</span>www.a&nbsp;  z";
+        QVERIFY(CommonFun::convertMessageBody(inDocument("<p>" + strSpans + "</p>"), false)
+                    .endsWith(link("www.a") + "&nbsp;&nbsp;&nbsp;z</p>"));
+    }
+
+    void tenMillionSpacesAreKept()
+    {
+        constexpr int SPACES = 10000000;
+        const QString strShown = CommonFun::convertMessageBody(QString(SPACES, ' '), true);
+        QCOMPARE(strShown, QString("&nbsp;").repeated(SPACES));
+    }
+
     void thousandsOfSpansWithSpacesOfTheirOwn()
     {
         constexpr int SPANS = 20000;

@@ -72,6 +72,22 @@ private slots:
         }
     }
 
+    void whatEditorsAndWebPagesWriteReadsAsItIs_data()
+    {
+        QTest::addColumn<QString>("html");
+        QTest::newRow("a long style sheet")
+            << "<style>" + QString("p.a { margin: 0px }\n").repeated(500) + "</style><pre>a\n  b</pre><p>c</p>";
+        QTest::newRow("words in a cell's tag") << "<table><tr><td class=\"span6\">a</td><td>b</td></tr></table>c";
+        QTest::newRow("an address in a cell's tag") << "<table><tr><td x=\"a&amp;b\">a</td></tr></table>c";
+        QTest::newRow("a share of a row") << "<table><tr><td colspan=\"100%\">a</td></tr></table>c";
+        QTest::newRow("comparisons") << "<p>" + QString("< b >").repeated(100) + "</p><pre>a\nb</pre>c";
+    }
+    void whatEditorsAndWebPagesWriteReadsAsItIs()
+    {
+        QFETCH(QString, html);
+        QCOMPARE(plain(html), plainStepByStep(html));
+    }
+
     void longMessageReadsAsAShortOneDoes()
     {
         QTextDocument document;

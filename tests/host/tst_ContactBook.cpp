@@ -17,6 +17,7 @@ private slots:
     void cardsAreThereForStrangersToo();
     void learntStrangerHasARecordAndIsStillNoFriend();
     void learningAContactOrNobodyChangesNothing();
+    void presenceIsTheContacts();
     void displayNameIsTheNickName();
     void idsAndJidsTurnIntoEachOther();
 
@@ -106,6 +107,14 @@ void tst_ContactBook::learningAContactOrNobodyChangesNothing()
     book.learn(QStringLiteral("4711"));
     QCOMPARE(book.record(QStringLiteral("30010001@example.org")), contact);
     QVERIFY(book.record(QStringLiteral("4711@example.org"))->m_strJid.isEmpty());
+}
+
+void tst_ContactBook::presenceIsTheContacts()
+{
+    QVERIFY(m_book.isOnline(QStringLiteral("30010001")));
+    QVERIFY(!m_book.isOnline(QStringLiteral("30010005")));
+    QVERIFY(m_book.isOnline(ContactBook::ownUid()));
+    QVERIFY(!m_book.isOnline(QStringLiteral("4711")));
 }
 
 void tst_ContactBook::displayNameIsTheNickName()

@@ -22,6 +22,8 @@ private slots:
     void promptIsWithdrawnByUserId();
     void strangersCardsAreWanted();
     void noStrangersMeansNoCards();
+    void conferenceCalledAgainLeavesTheOwnUserOut();
+    void newConferenceNamesNobody();
     void signatureCardComesAndGoes();
     void commandForAnotherRoleIsOnlyReported();
     void questionAndAnswerAreReported();
@@ -130,6 +132,24 @@ void tst_HostMailbox::noStrangersMeansNoCards()
     QCOMPARE(wanted.count(), 0);
 }
 
+void tst_HostMailbox::conferenceCalledAgainLeavesTheOwnUserOut()
+{
+    QSignalSpy wanted(&m_mailbox, &HostMailbox::conferenceWanted);
+    deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(),
+            packPayload(QStringList{QStringLiteral("30010001@example.org"), QStringLiteral("30010000@example.org"),
+                                    QStringLiteral("4711"), QString(), QStringLiteral("30010001@example.org")}));
+    QCOMPARE(wanted.count(), 1);
+    QCOMPARE(wanted.at(0).at(0).toStringList(), (QStringList{QStringLiteral("30010001"), QStringLiteral("4711")}));
+}
+
+void tst_HostMailbox::newConferenceNamesNobody()
+{
+    QSignalSpy wanted(&m_mailbox, &HostMailbox::conferenceWanted);
+    deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(), packPayload(QStringList()));
+    QCOMPARE(wanted.count(), 1);
+    QVERIFY(wanted.at(0).at(0).toStringList().isEmpty());
+}
+
 void tst_HostMailbox::signatureCardComesAndGoes()
 {
     QSignalSpy shown(&m_mailbox, &HostMailbox::signatureShown);
@@ -138,7 +158,7 @@ void tst_HostMailbox::signatureCardComesAndGoes()
             packPayload(QStringLiteral("30010001@example.org"), qint32(10), qint32(20), qint32(30), true, false));
     deliver(MSG_CLOSE_SIGN_LIST, signListPluginId(), QByteArray());
     QCOMPARE(shown.count(), 1);
-    QCOMPARE(shown.at(0), (QList<QVariant>{QStringLiteral("30010001@example.org"), 10, 20, 30}));
+    QCOMPARE(shown.at(0), (QList<QVariant>{QStringLiteral("30010001@example.org"), QPoint(10, 20), 30}));
     QCOMPARE(hidden.count(), 1);
 }
 

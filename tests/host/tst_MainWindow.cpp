@@ -1,6 +1,7 @@
 #include "ContactBook.h"
 #include "HostSession.h"
 #include "MainWindow.h"
+#include "PressButton.h"
 #include "WindowProbe.h"
 
 #include "model/SystemSetData.h"
@@ -34,6 +35,9 @@ private slots:
     void numberCanBeCalledOnlyWhenThereIsOne();
     void conferenceButtonOpensThePicker();
     void plugInsWishForAConferenceIsAnsweredWithTheCommand();
+    void declinedConferenceIsNotStarted();
+    void conferenceCentreHasItsButton();
+    void signatureCardComesAndGoesAsThePlugInAsks();
     void noticeIsHiddenWhileThereIsNothingToTell();
     void damagedStoreIsToldBelowTheHeader();
 
@@ -90,19 +94,22 @@ void tst_MainWindow::answerTakesThePromptAway_data()
 {
     QTest::addColumn<QByteArray>("button");
     QTest::addColumn<bool>("accept");
-    QTest::newRow("accept") << QByteArray("btnAccept") << true;
-    QTest::newRow("reject") << QByteArray("btnReject") << false;
+    QTest::addColumn<QString>("status");
+    QTest::newRow("accept") << QByteArray("btnAccept") << true << QStringLiteral("Call of Anna Novak accepted");
+    QTest::newRow("reject") << QByteArray("btnReject") << false << QStringLiteral("Call of Anna Novak rejected");
 }
 
 void tst_MainWindow::answerTakesThePromptAway()
 {
     QFETCH(QByteArray, button);
     QFETCH(bool, accept);
+    QFETCH(QString, status);
     QSignalSpy answered(&m_pWindow->prompt(), &IncomingPrompt::answered);
     ring(QStringLiteral("30010006"));
-    QVERIFY(WindowProbe::press(&m_pWindow->prompt(), button.constData()));
+    QVERIFY(pressButton(&m_pWindow->prompt(), button.constData()));
     QTRY_COMPARE(answered.count(), 1);
     QCOMPARE(answered.at(0), (QList<QVariant>{QStringLiteral("30010006"), accept}));
+    QCOMPARE(m_pWindow->statusBar()->currentMessage(), status);
     QVERIFY(!m_pWindow->prompt().isVisible());
 }
 
@@ -145,7 +152,7 @@ void tst_MainWindow::recordsAndStatusLineTellTheCall()
 void tst_MainWindow::onlineSwitchFollowsTheSession()
 {
     QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Offline"));
-    QVERIFY(WindowProbe::press(m_pWindow.get(), "btnOnline"));
+    QVERIFY(pressButton(m_pWindow.get(), "btnOnline"));
     QTRY_VERIFY(m_pSession->isOnline());
     QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Online"));
     m_pSession->setOnline(false);
@@ -155,41 +162,76 @@ void tst_MainWindow::onlineSwitchFollowsTheSession()
 void tst_MainWindow::numberCanBeCalledOnlyWhenThereIsOne()
 {
     auto *number = m_pWindow->findChild<QLineEdit *>(QStringLiteral("editNumber"));
-    QVERIFY(!WindowProbe::press(m_pWindow.get(), "btnCallNumber"));
+    QVERIFY(!pressButton(m_pWindow.get(), "btnCallNumber"));
     QTest::keyClicks(number, QStringLiteral(" 4711 "));
-    QVERIFY(WindowProbe::press(m_pWindow.get(), "btnCallNumber"));
+    QVERIFY(pressButton(m_pWindow.get(), "btnCallNumber"));
     QTRY_VERIFY(number->text().isEmpty());
     QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Calling 4711"));
 }
 
 void tst_MainWindow::conferenceButtonOpensThePicker()
 {
-    QVERIFY(WindowProbe::press(m_pWindow.get(), "btnConference"));
     QString asked;
     QTimer timer;
     connect(&timer, &QTimer::timeout, this, [&] {
         if (WindowProbe::memberPicker() != nullptr) {
             asked = WindowProbe::text(WindowProbe::memberPicker(), "lblAsked");
             timer.stop();
-            WindowProbe::press(WindowProbe::memberPicker(), "btnCancel");
+            pressButton(WindowProbe::memberPicker(), "btnCancel");
         }
     });
     timer.start(10);
-    QTRY_COMPARE(asked, QStringLiteral("Whom to call together?"));
-    QTRY_VERIFY(WindowProbe::memberPicker() == nullptr);
+    QVERIFY(pressButton(m_pWindow.get(), "btnConference"));
+    QCOMPARE(asked, QStringLiteral("Whom to call together?"));
+    QVERIFY(WindowProbe::memberPicker() == nullptr);
 }
 
 void tst_MainWindow::plugInsWishForAConferenceIsAnsweredWithTheCommand()
 {
     QTimer timer;
     connect(&timer, &QTimer::timeout, this, [&] {
-        if (WindowProbe::press(WindowProbe::memberPicker(), "btnInvite")) {
+        if (pressButton(WindowProbe::memberPicker(), "btnInvite")) {
             timer.stop();
         }
     });
     timer.start(10);
     deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(), packPayload(QStringList{QStringLiteral("30010001")}));
     QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Starting a conference with 1 other(s)"));
+}
+
+void tst_MainWindow::declinedConferenceIsNotStarted()
+{
+    const QString before = m_pWindow->statusBar()->currentMessage();
+    QString asked;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] {
+        if (WindowProbe::memberPicker() != nullptr) {
+            asked = WindowProbe::text(WindowProbe::memberPicker(), "lblAsked");
+            timer.stop();
+            pressButton(WindowProbe::memberPicker(), "btnCancel");
+        }
+    });
+    timer.start(10);
+    deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(),
+            packPayload(QStringList{QStringLiteral("30010001@example.org"), QStringLiteral("30010000@example.org"),
+                                    QStringLiteral("30010002@example.org")}));
+    QCOMPARE(asked, QStringLiteral("Asked for a conference with: 李雷, Maria Silva"));
+    QCOMPARE(m_pWindow->statusBar()->currentMessage(), before);
+}
+
+void tst_MainWindow::conferenceCentreHasItsButton()
+{
+    QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnCentre"), QStringLiteral("Conference centre"));
+    QVERIFY(WindowProbe::button(m_pWindow.get(), "btnCentre").widget != nullptr);
+}
+
+void tst_MainWindow::signatureCardComesAndGoesAsThePlugInAsks()
+{
+    deliver(MSG_SHOW_SIGN_LIST, signListPluginId(),
+            packPayload(QStringLiteral("30010002@example.org"), qint32(600), qint32(200), qint32(500), true, false));
+    QCOMPARE(WindowProbe::text(&m_pWindow->signature(), "lblName"), QStringLiteral("Maria Silva"));
+    deliver(MSG_CLOSE_SIGN_LIST, signListPluginId(), QByteArray());
+    QVERIFY(!m_pWindow->signature().isVisible());
 }
 
 void tst_MainWindow::noticeIsHiddenWhileThereIsNothingToTell()

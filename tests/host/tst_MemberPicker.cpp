@@ -1,5 +1,6 @@
 #include "ContactBook.h"
 #include "MemberPicker.h"
+#include "PressButton.h"
 #include "WindowProbe.h"
 
 #include <QCheckBox>
@@ -43,7 +44,7 @@ private:
     {
         auto *timer = new QTimer(qApp);
         QObject::connect(timer, &QTimer::timeout, timer, [timer, button] {
-            if (WindowProbe::press(WindowProbe::memberPicker(), button)) {
+            if (pressButton(WindowProbe::memberPicker(), button)) {
                 timer->deleteLater();
             }
         });
@@ -109,10 +110,10 @@ void tst_MemberPicker::nobodyPickedCannotBeInvited()
 {
     MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
     show(picker);
-    QVERIFY(!WindowProbe::press(&picker, "btnInvite"));
+    QVERIFY(!pressButton(&picker, "btnInvite"));
     list(picker)->item(0)->setCheckState(Qt::Checked);
     QCOMPARE(WindowProbe::text(&picker, "btnInvite"), QStringLiteral("Invite (1)"));
-    QVERIFY(WindowProbe::press(&picker, "btnInvite"));
+    QVERIFY(pressButton(&picker, "btnInvite"));
 }
 
 void tst_MemberPicker::textAndFlagBelongToANewConferenceOnly()

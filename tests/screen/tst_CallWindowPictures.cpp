@@ -1,15 +1,13 @@
 // The call window's pages and states beside committed pictures.
 
 #include "ComparedPicture.h"
+#include "PictureSetting.h"
 #include "ui/ContactFixture.h"
 #include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFontInfo>
 #include <QLabel>
-#include <QStyleFactory>
 #include <QTest>
 #include <QTimer>
 
@@ -17,8 +15,6 @@
 #include <memory>
 
 namespace {
-
-const QString cFamily = QStringLiteral("Noto Sans CJK SC");
 
 using SetUp = std::function<void(CVoipWidget &)>;
 
@@ -142,33 +138,14 @@ private slots:
 
 void tst_CallWindowPictures::initTestCase()
 {
-    // The program finds its pictures and its icon font below the working directory, which is the test's own.
-    for (const char *pFile : {"BaseConfig/kelvarimiconfont.ttf", "images/FriendDetail/defaultHead.png",
-                              "SystemAvatar/3.jpg", "SystemAvatar/8.jpg", "SystemAvatar/12.jpg"}) {
-        const QString strFile = QStringLiteral("Resources/") + QLatin1String(pFile);
-        QVERIFY(QDir().mkpath(QFileInfo(strFile).path()));
-        QVERIFY2(QFile::copy(QStringLiteral(VOIP_RESOURCES "/") + QLatin1String(pFile), strFile), pFile);
-    }
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(QApplication::style()->standardPalette());
-    QFont::insertSubstitution(QStringLiteral("微软雅黑"), cFamily);
-    QFont font(cFamily);
-    font.setPixelSize(12);
-    QApplication::setFont(font);
-    QVERIFY2(QFontInfo(font).family() == cFamily, "the package fonts-noto-cjk is missing");
-    QCursor::setPos(QPoint(0, 0));
+    const QString strMissing = PictureSetting::prepare();
+    QVERIFY2(strMissing.isEmpty(), qPrintable(strMissing));
 }
 
 void tst_CallWindowPictures::init()
 {
     m_pContacts = std::make_unique<ContactFixture>();
-    m_pContacts->addContact(uid("ann"), ContactFixture::card(QStringLiteral("安然"), uid("Ann"),
-                                                             QStringLiteral("Resources/SystemAvatar/3.jpg")));
-    m_pContacts->addContact(uid("bob"), ContactFixture::card(QStringLiteral("包博"), uid("Bob"),
-                                                             QStringLiteral("Resources/SystemAvatar/8.jpg")));
-    m_pContacts->addContact(uid("cat"), ContactFixture::card(QStringLiteral("陈可"), uid("Cat"),
-                                                             QStringLiteral("Resources/SystemAvatar/12.jpg")));
-    m_pContacts->addContact(uid("long"), ContactFixture::card(QString(100, QChar(0x540d)), uid("<b>%2</b>")));
+    PictureSetting::addContacts(*m_pContacts);
 }
 
 void tst_CallWindowPictures::cleanup()

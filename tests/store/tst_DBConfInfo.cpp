@@ -51,6 +51,18 @@ private slots:
         QCOMPARE(warnings, QStringList());
     }
 
+    void equalTextsOfAHistoryShareTheirMemory()
+    {
+        for (const char *id : {"c1", "c2"})
+            QVERIFY(DBConfInfo::saveConfInfo(record(id)));
+        const QList<ConfInfoData> all = DBConfInfo::getAllConfInfo();
+        QCOMPARE(all.size(), 2);
+        QCOMPARE(all[0].m_strCreatUserID.constData(), all[1].m_strCreatUserID.constData());
+        QCOMPARE(all[0].m_strCallTime.constData(), all[1].m_strCallTime.constData());
+        QCOMPARE(all[0].m_listMember[0].constData(), all[0].m_strCreatUserID.constData());
+        QCOMPARE(all[0].m_listMember[1].constData(), all[1].m_listMember[1].constData());
+    }
+
     void aRecordComesBackAsItWasSaved()
     {
         QVERIFY(DBConfInfo::saveConfInfo(record("c1")));

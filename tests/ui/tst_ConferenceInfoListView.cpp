@@ -5,6 +5,7 @@
 #include "common/Palette.h"
 #include "plugin/EMsgId.h"
 
+#include <QMetaMethod>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStandardItemModel>
@@ -23,7 +24,9 @@ private:
     }
 
 private slots:
+    void signalsAndSlotsInOrder();
     void rowHoldsTheRecord();
+    void whatIsSetInARowCountsBeforeTheRecord();
     void unknownCreatorHasAnEmptyNameAndTheDefaultHead();
     void creatorOutsideTheFriendMapIsAskedForOnce();
     void ownConferenceIsMarked();
@@ -44,6 +47,17 @@ private slots:
     void hundredThousandRecords();
 };
 
+void tst_ConferenceInfoListView::signalsAndSlotsInOrder()
+{
+    const QMetaObject &meta = CConferenceInfoListView::staticMetaObject;
+    QStringList methods;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        methods.append(QString::fromLatin1(meta.method(i).methodSignature()));
+    QCOMPARE(methods,
+             QStringList({"signal_ShowConfDetail(QString)", "signal_ReCallConf(QString)",
+                          "signal_DeleteConfInfo(QString)", "slot_selectAction(QAction*)", "slot_ShowSign()"}));
+}
+
 void tst_ConferenceInfoListView::rowHoldsTheRecord()
 {
     m_pContacts->addContact(QStringLiteral("ann"),
@@ -61,6 +75,17 @@ void tst_ConferenceInfoListView::rowHoldsTheRecord()
     QVERIFY(!data(0, Qt::UserRole + 10).isValid());
     QVERIFY(!data(0, Qt::UserRole + 140).isValid());
     QVERIFY(!data(0, Qt::DisplayRole).isValid());
+}
+
+void tst_ConferenceInfoListView::whatIsSetInARowCountsBeforeTheRecord()
+{
+    m_pList->addConfInfoList({record(QStringLiteral("b")), record(QStringLiteral("a"))});
+    QVERIFY(m_pList->m_pModel->setData(index(0), QStringLiteral("Anna"), ROLE_DISPLAY_NAME));
+    QVERIFY(m_pList->m_pModel->setData(index(0), false, ROLE_CALL_STATUS));
+    QCOMPARE(data(0, ROLE_DISPLAY_NAME).toString(), QStringLiteral("Anna"));
+    QCOMPARE(data(0, ROLE_CALL_STATUS), QVariant(false));
+    QCOMPARE(data(1, ROLE_DISPLAY_NAME).toString(), QString());
+    QCOMPARE(data(1, ROLE_CALL_STATUS), QVariant(true));
 }
 
 void tst_ConferenceInfoListView::unknownCreatorHasAnEmptyNameAndTheDefaultHead()

@@ -1,11 +1,9 @@
-// The mouse on the conference history list: the detail button, the signature card and the menu.
+// The mouse on the conference history list: the detail button and the signature card.
 
 #include "HistoryListTest.h"
 
-#include "fakes/LogCapture.h"
-
 #include <QApplication>
-#include <QScreen>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 
@@ -31,8 +29,6 @@ private:
         return {QStringLiteral("ann@kelvar.im %1 %2 517 1 0").arg(view.x() + iX).arg(view.y() + iY)};
     }
 
-    LogCapture m_log;
-
 private slots:
     void clickOnTheDetailButtonShowsTheDetail();
     void clickElsewhereOnARowDoesNothing();
@@ -42,25 +38,16 @@ private slots:
     void otherButtonsDoNotShowTheDetail();
     void pressSelectsNothing();
     void cursorIsAHandOnTheDetailButton();
+    void scrolledButtonAndHeadAnswerWhereTheyStandNow();
 
     void restingOnAHeadShowsTheCardOnce();
+    void delaysEndShowsTheCard();
     void cardStandsAtTheHeadOfItsRow();
     void eachMoveInsideTheHeadStartsTheDelayAnew();
     void movingOffTheHeadCancelsTheCard();
     void movingOntoNoRowLeavesTheDelayRunning();
     void detailButtonLeavesTheDelayRunning();
     void leavingTheListCancelsTheCard();
-
-    void menuOfAConnectedRecordHasBothEntries();
-    void menuOfAnUnconnectedRecordCanOnlyDelete();
-    void menuCanBeOpenedAgainAndAgain();
-    void recallTellsTheRow();
-    void deleteTellsTheRow();
-    void rowWithoutAnIdTellsNothing();
-    void menuStaysOnTheScreen_data();
-    void menuStaysOnTheScreen();
-    void rightClickBelowTheRowsOpensNothing();
-    void rightClickIsLeftToTheWindow();
 };
 
 void tst_ConferenceInfoMouse::clickOnTheDetailButtonShowsTheDetail()
@@ -167,6 +154,28 @@ void tst_ConferenceInfoMouse::cursorIsAHandOnTheDetailButton()
     QCOMPARE(shape(), Qt::ArrowCursor);
 }
 
+void tst_ConferenceInfoMouse::scrolledButtonAndHeadAnswerWhereTheyStandNow()
+{
+    QList<ConfInfoData> records;
+    for (int i = 20; i > 0; --i)
+        records.append(record(QString::number(i + 10)));
+    show(records);
+    hover(2);
+    const QRect button = place(2, ROLE_REMOVE_RECT);
+    m_pList->verticalScrollBar()->setValue(1);
+    QCoreApplication::processEvents();
+    // The cursor has not moved: the row that is below it now has the button.
+    QCOMPARE(place(3, ROLE_REMOVE_RECT), button);
+    QSignalSpy spy(m_pList.get(), SIGNAL(signal_ShowConfDetail(QString)));
+    click(button.center() - QPoint(0, 62));
+    QCOMPARE(spy.size(), 0);
+    click(button.center());
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(spy.first().first().toString(), data(3, ROLE_CONF_ID).toString());
+    for (int i = 1; i < 5; ++i)
+        QCOMPARE(place(i, ROLE_HEAD_RECT), QRect(10, 62 * i - 52, 40, 40));
+}
+
 void tst_ConferenceInfoMouse::restingOnAHeadShowsTheCardOnce()
 {
     showTwo();
@@ -176,6 +185,15 @@ void tst_ConferenceInfoMouse::restingOnAHeadShowsTheCardOnce()
     QCOMPARE(m_pList->m_signTimer.interval(), 500);
     QCOMPARE(takeSigns(), QStringList());
     signDelayIsOver();
+    QCOMPARE(takeSigns(), signFields(2, 10));
+    QVERIFY(!m_pList->m_signTimer.isActive());
+}
+
+void tst_ConferenceInfoMouse::delaysEndShowsTheCard()
+{
+    showTwo();
+    moveTo(cOnHead + QPoint(3, 2));
+    QVERIFY(QMetaObject::invokeMethod(&m_pList->m_signTimer, "timeout"));
     QCOMPARE(takeSigns(), signFields(2, 10));
     QVERIFY(!m_pList->m_signTimer.isActive());
 }
@@ -239,129 +257,6 @@ void tst_ConferenceInfoMouse::leavingTheListCancelsTheCard()
     QCursor::setPos(10, 10);
     QTRY_VERIFY(!m_pList->m_signTimer.isActive());
     QCOMPARE(takeSigns(), QStringList{"close"});
-}
-
-void tst_ConferenceInfoMouse::menuOfAConnectedRecordHasBothEntries()
-{
-    showTwo();
-    openMenu(0);
-    QVERIFY(m_pList->m_pMenu->isVisible());
-    QCOMPARE(entries(), QStringList({QStringLiteral("再次发起"), QStringLiteral("删除")}));
-}
-
-void tst_ConferenceInfoMouse::menuOfAnUnconnectedRecordCanOnlyDelete()
-{
-    showTwo();
-    openMenu(1);
-    QCOMPARE(entries(), QStringList{QStringLiteral("删除")});
-}
-
-void tst_ConferenceInfoMouse::menuCanBeOpenedAgainAndAgain()
-{
-    showTwo();
-    for (int i = 0; i < 3; ++i) {
-        openMenu(0);
-        QCOMPARE(entries().size(), 2);
-        m_pList->m_pMenu->hide();
-        openMenu(1);
-        QCOMPARE(entries().size(), 1);
-        m_pList->m_pMenu->hide();
-    }
-    QCOMPARE(m_pList->m_pRecallAction->parent(), m_pList.get());
-    QCOMPARE(m_pList->m_pDeleteAction->parent(), m_pList.get());
-}
-
-void tst_ConferenceInfoMouse::recallTellsTheRow()
-{
-    showTwo();
-    QSignalSpy recall(m_pList.get(), SIGNAL(signal_ReCallConf(QString)));
-    QSignalSpy remove(m_pList.get(), SIGNAL(signal_DeleteConfInfo(QString)));
-    openMenu(0);
-    choose(0);
-    QCOMPARE(recall.size(), 1);
-    QCOMPARE(recall.first().first().toString(), QStringLiteral("b"));
-    QCOMPARE(remove.size(), 0);
-    QVERIFY(!m_pList->m_pMenu->isVisible());
-}
-
-void tst_ConferenceInfoMouse::deleteTellsTheRow()
-{
-    showTwo();
-    QSignalSpy recall(m_pList.get(), SIGNAL(signal_ReCallConf(QString)));
-    QSignalSpy remove(m_pList.get(), SIGNAL(signal_DeleteConfInfo(QString)));
-    openMenu(1);
-    choose(0);
-    QCOMPARE(remove.size(), 1);
-    QCOMPARE(remove.first().first().toString(), QStringLiteral("a"));
-    QCOMPARE(recall.size(), 0);
-    // The row goes only when it is told to.
-    QCOMPARE(ids(), QStringList({"b", "a"}));
-}
-
-void tst_ConferenceInfoMouse::rowWithoutAnIdTellsNothing()
-{
-    show({record(QString())});
-    QSignalSpy recall(m_pList.get(), SIGNAL(signal_ReCallConf(QString)));
-    QSignalSpy remove(m_pList.get(), SIGNAL(signal_DeleteConfInfo(QString)));
-    for (const int iEntry : {0, 1}) {
-        openMenu(0);
-        choose(iEntry);
-    }
-    QCOMPARE(recall.size() + remove.size(), 0);
-}
-
-void tst_ConferenceInfoMouse::menuStaysOnTheScreen_data()
-{
-    QTest::addColumn<QPoint>("cursor");
-    QTest::addColumn<bool>("left");
-    QTest::addColumn<bool>("above");
-    const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
-    const int iRight = screen.width() - 1;
-    const int iBottom = screen.height() - 1;
-    QTest::newRow("top left") << QPoint(0, 0) << false << false;
-    QTest::newRow("top right") << QPoint(iRight, 0) << true << false;
-    QTest::newRow("bottom left") << QPoint(0, iBottom) << false << true;
-    QTest::newRow("bottom right") << QPoint(iRight, iBottom) << true << true;
-    QTest::newRow("middle") << QPoint(iRight / 2, iBottom / 2) << false << false;
-}
-
-void tst_ConferenceInfoMouse::menuStaysOnTheScreen()
-{
-    QFETCH(QPoint, cursor);
-    QFETCH(bool, left);
-    QFETCH(bool, above);
-    showTwo();
-    QCursor::setPos(cursor);
-    const QPoint c = QCursor::pos();
-    click(cBeside, Qt::RightButton);
-    const QMenu *pMenu = m_pList->m_pMenu;
-    QVERIFY(pMenu->width() > 50 && pMenu->height() > 50);
-    QCOMPARE(pMenu->x(), left ? c.x() - pMenu->width() : c.x());
-    QCOMPARE(pMenu->y(), above ? c.y() - pMenu->height() : c.y());
-    QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(pMenu->geometry()));
-}
-
-void tst_ConferenceInfoMouse::rightClickBelowTheRowsOpensNothing()
-{
-    showTwo();
-    m_log.take();
-    click(QPoint(200, 200), Qt::RightButton);
-    QVERIFY(!m_pList->m_pMenu->isVisible());
-    const QStringList lines = m_log.take();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(lines.first().startsWith(QStringLiteral("[DEBUG][ConferenceInfoListView.cpp:")));
-    QVERIFY(lines.first().endsWith(QStringLiteral(": selected is null")));
-}
-
-void tst_ConferenceInfoMouse::rightClickIsLeftToTheWindow()
-{
-    showTwo();
-    for (const QPoint &position : {cBeside, QPoint(200, 200)}) {
-        QMouseEvent release(QEvent::MouseButtonRelease, position, Qt::RightButton, Qt::NoButton, Qt::NoModifier);
-        m_pList->mouseReleaseEvent(&release);
-        QVERIFY(!release.isAccepted());
-        m_pList->m_pMenu->hide();
-    }
 }
 
 QTEST_MAIN(tst_ConferenceInfoMouse)

@@ -4,6 +4,7 @@
 #include "MemberListTest.h"
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QToolTip>
 
@@ -57,6 +58,7 @@ private slots:
     void clickOnTheEdgeOfAButtonCounts();
     void clickBesideTheButtonsAsksForNothing();
     void rightAndMiddleClicksAskForNothing();
+    void leftReleaseIsTakenAndRightReleaseIsNot();
     void buttonAnswersAtItsOldPlaceAfterTheStatusFellBack();
     void removedRowsPlaceBelongsToTheNextOne();
 };
@@ -264,6 +266,23 @@ void tst_ConferenceListButtons::rightAndMiddleClicksAskForNothing()
     for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton})
         click(place(0, ROLE_REMOVE_RECT).center(), button);
     QCOMPARE(removed.count(), 0);
+}
+
+void tst_ConferenceListButtons::leftReleaseIsTakenAndRightReleaseIsNot()
+{
+    struct OpenList : CConferenceListView
+    {
+        using CConferenceListView::mouseReleaseEvent;
+    };
+    OpenList list;
+    list.addUser(QStringLiteral("ann"));
+    const QPoint position = list.visualRect(list.model()->index(0, 0)).center();
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        QMouseEvent release(QEvent::MouseButtonRelease, position, button, Qt::NoButton, Qt::NoModifier);
+        release.setAccepted(button == Qt::RightButton);
+        list.mouseReleaseEvent(&release);
+        QCOMPARE(release.isAccepted(), button == Qt::LeftButton);
+    }
 }
 
 void tst_ConferenceListButtons::buttonAnswersAtItsOldPlaceAfterTheStatusFellBack()

@@ -1,6 +1,7 @@
 // A double click in the conference member list calls members again who were not reached.
 
 #include "MemberListTest.h"
+#include "PaintCost.h"
 #include "fakes/LogCapture.h"
 
 #include <QSignalSpy>
@@ -110,8 +111,10 @@ private slots:
         m_pList->addUser(uid("ann"));
         m_pList->updateConferenceUserStatus(uid("ann"), 2);
         showList();
+        const Repaints repaints(m_pList->viewport());
         QTest::mouseDClick(m_pList->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 250));
         QCOMPARE(invited.count(), 0);
+        QCOMPARE(repaints.count(), 1);
     }
 };
 

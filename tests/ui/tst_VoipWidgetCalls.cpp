@@ -11,6 +11,8 @@
 #include <QStackedWidget>
 #include <QTest>
 
+#include <ctime>
+
 class tst_VoipWidgetCalls : public QObject
 {
     Q_OBJECT
@@ -41,6 +43,8 @@ private slots:
     void connectingStartsTheClock();
     void droppedStatusGoesBackToRequestControlsAndTheClockRunsOn();
     void clockShowsTheSecondsSinceConnecting();
+    void clockWritesAgainAfterTheCallWasCleared();
+    void clockRunsNegativeAcrossMidnight();
     void unknownContactLeavesTheNameAsItWas();
     void oneOfTheTwoNamesIsEnough();
     void percentSignsInNamesStayAsTheyAre();
@@ -250,6 +254,47 @@ void tst_VoipWidgetCalls::clockShowsTheSecondsSinceConnecting()
     clock->setInterval(0);
 
     QTRY_VERIFY(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")));
+}
+
+void tst_VoipWidgetCalls::clockWritesAgainAfterTheCallWasCleared()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    const Shown shown(window);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+    window.setVoipCallStatus(true);
+    window.close();
+    QCOMPARE(shown.text("currentPlayTimeLabel"), QString());
+    QVERIFY(!shown.label("currentPlayTimeLabel")->isHidden());
+
+    window.findChild<QTimer *>(QStringLiteral("m_callTimeTimer"))->setInterval(0);
+
+    QTRY_VERIFY(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")));
+}
+
+void tst_VoipWidgetCalls::clockRunsNegativeAcrossMidnight()
+{
+    // Two zones so that the time of day is about 14 when the call connects and about 12 from then on.
+    const int iHour = QDateTime::currentDateTimeUtc().time().hour();
+    const QByteArray oldZone = qgetenv("TZ");
+    const auto enterZone = [](const QByteArray &zone) {
+        qputenv("TZ", zone);
+        tzset();
+    };
+    enterZone("LATER" + QByteArray::number(iHour - 14));
+    ContactFixture contacts;
+    CVoipWidget window;
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+    window.setVoipCallStatus(true);
+
+    enterZone("EARLIER" + QByteArray::number(iHour - 12));
+    QVERIFY(QMetaObject::invokeMethod(&window, "slot_RefreshTime"));
+    enterZone(oldZone);
+
+    const QString strClock = Shown(window).text("currentPlayTimeLabel");
+    // A second may have begun since the call connected.
+    QVERIFY2(strClock == QLatin1String("0-2:00:00") || strClock.startsWith(QLatin1String("0-1:0-59:0-")),
+             qPrintable(strClock));
 }
 
 void tst_VoipWidgetCalls::unknownContactLeavesTheNameAsItWas()

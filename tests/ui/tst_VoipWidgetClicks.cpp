@@ -2,6 +2,26 @@
 
 #include "CallWindowTest.h"
 
+namespace {
+
+/// The glyph that a button still had when it was first told of a new style sheet.
+class GlyphAtFirstStyle : public QObject
+{
+public:
+    explicit GlyphAtFirstStyle(QAbstractButton *pButton) : m_pButton(pButton) { pButton->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::StyleChange && m_glyph == 0)
+            m_glyph = m_pButton->text().at(0).unicode();
+        return false;
+    }
+
+    QAbstractButton *m_pButton;
+    ushort m_glyph = 0;
+};
+
+} // namespace
+
 class tst_VoipWidgetClicks : public CallWindowTest
 {
     Q_OBJECT
@@ -11,6 +31,7 @@ private slots:
     void speakerClickTogglesAndSendsTheInverse();
     void cameraClickSendsTheFlagItself();
     void muteAllClickMutesEveryRowAndSendsOnce();
+    void muteAllSetsItsColourFirstAndTheOthersTheirGlyph();
     void addMemberClickIsSent();
     void hangUpClickIsSentAndTheWindowStays();
     void cancelClickSendsHangUpTwice();
@@ -26,11 +47,12 @@ void tst_VoipWidgetClicks::micClickTogglesAndSendsTheInverse()
     const auto *pMic = part<QWidget>("btnMic");
     click("btnMic");
     QCOMPARE(m_sent, QStringList{"mic-"});
-    QCOMPARE(glyph("btnMic"), IconGlyph::MicOff);
+    QCOMPARE(glyph("btnMic"), ushort(0xE64C));
+    QCOMPARE(glyphColor("btnMic"), QColor(184, 184, 184));
     QCOMPARE(pMic->toolTip(), QStringLiteral("openmic"));
     click("btnMic");
     QCOMPARE(m_sent, (QStringList{"mic-", "mic+"}));
-    QCOMPARE(glyph("btnMic"), IconGlyph::MicOn);
+    QCOMPARE(glyph("btnMic"), ushort(0xE64D));
     QCOMPARE(pMic->toolTip(), QStringLiteral("closemic"));
 }
 
@@ -41,23 +63,25 @@ void tst_VoipWidgetClicks::speakerClickTogglesAndSendsTheInverse()
     const auto *pSpeaker = part<QWidget>("btnSpeaker");
     click("btnSpeaker");
     QCOMPARE(m_sent, QStringList{"speaker-"});
-    QCOMPARE(glyph("btnSpeaker"), IconGlyph::SpeakerOff);
+    QCOMPARE(glyph("btnSpeaker"), ushort(0xE66A));
+    QCOMPARE(glyphColor("btnSpeaker"), QColor(184, 184, 184));
     QCOMPARE(pSpeaker->toolTip(), QStringLiteral("openvioce"));
     click("btnSpeaker");
     QCOMPARE(m_sent, (QStringList{"speaker-", "speaker+"}));
-    QCOMPARE(glyph("btnSpeaker"), IconGlyph::SpeakerOn);
+    QCOMPARE(glyph("btnSpeaker"), ushort(0xE669));
     QCOMPARE(pSpeaker->toolTip(), QStringLiteral("silence"));
 }
 
 void tst_VoipWidgetClicks::cameraClickSendsTheFlagItself()
 {
-    QCOMPARE(glyph("btnCamera"), IconGlyph::CameraOn);
+    QCOMPARE(glyph("btnCamera"), ushort(0xE667));
     press("btnCamera");
     QCOMPARE(m_sent, QStringList{"camera-"});
-    QCOMPARE(glyph("btnCamera"), IconGlyph::CameraOff);
+    QCOMPARE(glyph("btnCamera"), ushort(0xE721));
+    QCOMPARE(glyphColor("btnCamera"), QColor(184, 184, 184));
     press("btnCamera");
     QCOMPARE(m_sent, (QStringList{"camera-", "camera+"}));
-    QCOMPARE(glyph("btnCamera"), IconGlyph::CameraOn);
+    QCOMPARE(glyph("btnCamera"), ushort(0xE667));
 }
 
 void tst_VoipWidgetClicks::muteAllClickMutesEveryRowAndSendsOnce()
@@ -65,17 +89,36 @@ void tst_VoipWidgetClicks::muteAllClickMutesEveryRowAndSendsOnce()
     startCall(CVoipWidget::Conference, true);
     showWindow();
     const auto *pMuteAll = part<QWidget>("btnMuteAll");
+    // The rows are muted before anybody hears of it.
+    connect(m_pWindow.get(), &CVoipWidget::signal_MuteAll, this,
+            [this](bool bMute) { QCOMPARE(rows()->index(0, 0).data(ROLE_MUTED).toBool(), bMute); });
     click("btnMuteAll");
     QCOMPARE(m_sent, QStringList{"muteall+"});
     QVERIFY(rows()->index(0, 0).data(ROLE_MUTED).toBool());
     QVERIFY(rows()->index(1, 0).data(ROLE_MUTED).toBool());
+    QCOMPARE(glyph("btnMuteAll"), ushort(0xF66A));
     QCOMPARE(glyphColor("btnMuteAll"), QColor(255, 96, 88));
     QCOMPARE(pMuteAll->toolTip(), QStringLiteral("取消全体静音"));
     click("btnMuteAll");
     QCOMPARE(m_sent, (QStringList{"muteall+", "muteall-"}));
     QVERIFY(!rows()->index(1, 0).data(ROLE_MUTED).toBool());
+    QCOMPARE(glyph("btnMuteAll"), ushort(0xE66A));
     QCOMPARE(glyphColor("btnMuteAll"), QColor(184, 184, 184));
     QCOMPARE(pMuteAll->toolTip(), QStringLiteral("全体静音"));
+}
+
+void tst_VoipWidgetClicks::muteAllSetsItsColourFirstAndTheOthersTheirGlyph()
+{
+    startCall(CVoipWidget::Conference, true);
+    showWindow();
+    const GlyphAtFirstStyle muteAll(button("btnMuteAll"));
+    const GlyphAtFirstStyle mic(button("btnMic"));
+    const GlyphAtFirstStyle speaker(button("btnSpeaker"));
+    for (const char *name : {"btnMuteAll", "btnMic", "btnSpeaker"})
+        click(name);
+    QCOMPARE(muteAll.m_glyph, ushort(0xE66A));
+    QCOMPARE(mic.m_glyph, ushort(0xE64C));
+    QCOMPARE(speaker.m_glyph, ushort(0xE66A));
 }
 
 void tst_VoipWidgetClicks::addMemberClickIsSent()

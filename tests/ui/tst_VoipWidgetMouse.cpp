@@ -42,6 +42,7 @@ private slots:
     void dragBeyondTheWorkAreaKeepsItsSize();
     void pressInTheBandWithoutAMoveOnlyHidesTheBand();
     void dragOfTheInsideMovesTheWindowAtOnce();
+    void dragToTheVeryCornerOfTheScreenIsSkipped();
     void draggedDownTheWindowStaysReachable();
     void rightButtonEndsTheDragButKeepsTheEdge();
     void rightButtonAloneMovesNothing();
@@ -210,6 +211,19 @@ void tst_VoipWidgetMouse::dragOfTheInsideMovesTheWindowAtOnce()
     QCOMPARE(m_pWindow->pos(), cHome + QPoint(-60, -70));
     mouseTo(cInside + QPoint(5, 5));
     QCOMPARE(m_pWindow->pos(), cHome + QPoint(-60, -70));
+}
+
+void tst_VoipWidgetMouse::dragToTheVeryCornerOfTheScreenIsSkipped()
+{
+    showAtHome();
+    mouseTo(cInside);
+    mouseDown(cInside);
+    // A cursor that stands as far from the origin as from the window's corner moves nothing.
+    mouseTo(cInside - cHome);
+    QCOMPARE(m_pWindow->pos(), cHome);
+    mouseTo(cInside - cHome + QPoint(1, 0));
+    QCOMPARE(m_pWindow->pos(), QPoint(1, 0));
+    mouseUp(cInside - cHome + QPoint(1, 0));
 }
 
 void tst_VoipWidgetMouse::draggedDownTheWindowStaysReachable()

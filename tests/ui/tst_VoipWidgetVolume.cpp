@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QRegularExpression>
@@ -31,6 +32,7 @@ private slots:
     void enablesAndVolumesGoToTheDebugChannel();
 
     void snapshotIsSaved();
+    void snapshotTakesThePlaceInTheParent();
     void snapshotReplacesAFile();
     void cancelledSnapshotSavesNothing();
 };
@@ -159,6 +161,23 @@ void tst_VoipWidgetVolume::snapshotIsSaved()
     const QRegularExpression proposed(QStringLiteral("^tarvoPhoto\\d{17}\\.jpg$"));
     QVERIFY2(proposed.match(seen.at(3)).hasMatch(), qPrintable(seen.at(3)));
     QCOMPARE(newRecords(), QStringList{"VoipWidget.cpp: click capture button!"});
+}
+
+void tst_VoipWidgetVolume::snapshotTakesThePlaceInTheParent()
+{
+    showVideo();
+    part<QWidget>("videoDisplayPage")->layout()->setContentsMargins(30, 20, 0, 0);
+    QTRY_COMPARE(part<QWidget>("playFramWidget")->pos(), QPoint(30, 20));
+    const QString strPath = QDir::current().absoluteFilePath(QStringLiteral("moved.png"));
+    answerDialog(strPath);
+    call("slot_CaptureButtonClicked");
+    const QImage picture(strPath);
+    QCOMPARE(picture.size(), part<QWidget>("playFramWidget")->size());
+    QCOMPARE(picture.pixelColor(0, 0), QColor(Qt::red));
+    QCOMPARE(picture.pixelColor(picture.width() - 31, picture.height() - 21), QColor(Qt::red));
+    // As far as the widget stands away from its parent's corner, there is nothing of it.
+    QVERIFY(picture.pixelColor(picture.width() - 30, 50) != QColor(Qt::red));
+    QVERIFY(picture.pixelColor(50, picture.height() - 20) != QColor(Qt::red));
 }
 
 void tst_VoipWidgetVolume::snapshotReplacesAFile()

@@ -2,10 +2,29 @@
 
 #include "widgets/OwnSkin.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QTest>
 
 #include <functional>
+
+namespace {
+
+/// Counts how often it was asked to paint.
+class CountingForm : public CBaseFormEx
+{
+public:
+    int m_iPaints = 0;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        ++m_iPaints;
+        CBaseFormEx::paintEvent(event);
+    }
+};
+
+} // namespace
 
 using FormAct = std::function<void(CBaseFormEx &)>;
 Q_DECLARE_METATYPE(FormAct)
@@ -71,6 +90,8 @@ private slots:
     void storedFlagsDoNotChangeTheLook_data();
     void storedFlagsDoNotChangeTheLook();
     void pictureOfTheBodyNeverShows();
+    void onlyTheTitlePictureAsksForAPaint_data();
+    void onlyTheTitlePictureAsksForAPaint();
 };
 
 void tst_BaseFormEx::init()
@@ -315,6 +336,49 @@ void tst_BaseFormEx::pictureOfTheBodyNeverShows()
     if (bOwn)
         QVERIFY(QFile::remove(strPicture));
     QCOMPARE(with, without);
+}
+
+void tst_BaseFormEx::onlyTheTitlePictureAsksForAPaint_data()
+{
+    QTest::addColumn<FormAct>("act");
+    QTest::addColumn<bool>("paints");
+    const auto row = [](const char *name, const FormAct &act, bool bPaints) { QTest::newRow(name) << act << bPaints; };
+    row(
+        "setTitleImage", [](CBaseFormEx &form) { form.setTitleImage(QString()); }, true);
+    row(
+        "setTitleHeight", [](CBaseFormEx &form) { form.setTitleHeight(30); }, false);
+    row(
+        "setTitleHeightEx", [](CBaseFormEx &form) { form.setTitleHeightEx(30); }, false);
+    row(
+        "setPaintLineOffset", [](CBaseFormEx &form) { form.setPaintLineOffset(30); }, false);
+    row(
+        "setNoSeparate", [](CBaseFormEx &form) { form.setNoSeparate(true); }, false);
+    row(
+        "setNoneShadow", [](CBaseFormEx &form) { form.setNoneShadow(true); }, false);
+    row(
+        "setWhiteTranspatent", [](CBaseFormEx &form) { form.setWhiteTranspatent(true); }, false);
+    row(
+        "setOnlyMainWindow", [](CBaseFormEx &form) { form.setOnlyMainWindow(true); }, false);
+    row(
+        "setPaintPic", [](CBaseFormEx &form) { form.setPaintPic(true); }, false);
+    row(
+        "setSkinData", [](CBaseFormEx &form) { form.setSkinData(SysUIData()); }, false);
+}
+
+void tst_BaseFormEx::onlyTheTitlePictureAsksForAPaint()
+{
+    QFETCH(FormAct, act);
+    QFETCH(bool, paints);
+    CountingForm form;
+    form.resize(cWidth, cHeight);
+    form.setAttribute(Qt::WA_DontShowOnScreen);
+    form.show();
+    QTRY_VERIFY(form.m_iPaints > 0);
+    QCoreApplication::processEvents();
+    const int iBefore = form.m_iPaints;
+    act(form);
+    QCoreApplication::processEvents();
+    QCOMPARE(form.m_iPaints > iBefore, paints);
 }
 
 QTEST_MAIN(tst_BaseFormEx)

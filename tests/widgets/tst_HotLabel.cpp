@@ -1,5 +1,7 @@
 #include "widgets/HotLabel.h"
 
+#include "widgets/BareWindow.h"
+
 #include <QSignalSpy>
 #include <QTest>
 #include <QTranslator>
@@ -21,7 +23,7 @@ private:
         }
     };
 
-    QWidget m_window;
+    BareWindow m_window;
     HotLabel *m_pLabel = nullptr;
 
     void moveTo(const QPoint &point) { QTest::mouseMove(m_window.windowHandle(), point); }

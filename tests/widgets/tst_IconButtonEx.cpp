@@ -1,5 +1,6 @@
 #include "widgets/IconButtonEx.h"
 
+#include "widgets/BareWindow.h"
 #include "widgets/OwnSkin.h"
 
 #include "common/Palette.h"
@@ -92,7 +93,7 @@ private:
     }
 
     OwnSkin m_skin;
-    QWidget m_window;
+    BareWindow m_window;
     CIconButtonEx *m_pButton = nullptr;
 
 private slots:
@@ -150,9 +151,7 @@ void tst_IconButtonEx::init()
     m_window.resize(120, 100);
     m_pButton = new CIconButtonEx(&m_window);
     m_pButton->setGeometry(40, 40, cSide, cSide);
-    // Shown once for all: a window manager may miss one that goes and comes back at once.
     m_window.show();
-    m_pButton->show();
     QVERIFY(QTest::qWaitForWindowExposed(&m_window));
     moveOut();
     QCoreApplication::processEvents();
@@ -162,6 +161,7 @@ void tst_IconButtonEx::cleanup()
 {
     moveOut();
     delete m_pButton;
+    m_window.hide();
 }
 
 void tst_IconButtonEx::formHasItsNamesAndSizes()

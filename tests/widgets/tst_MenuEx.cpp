@@ -2,6 +2,7 @@
 
 #include "common/Palette.h"
 
+#include <QShowEvent>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -36,6 +37,13 @@ const QString cIconSheet =
                    "QMenu::item{color:#333333;height:30px; padding-left:35px;padding-right:20px;}"
                    "QMenu::icon{padding-left:20px;}");
 
+/// The menu with its handler in reach.
+class DerivedMenu : public CMenuEx
+{
+public:
+    using CMenuEx::showEvent;
+};
+
 } // namespace
 
 class tst_MenuEx : public QObject
@@ -59,6 +67,7 @@ private slots:
     void newMenuIsPlainAndAtMost300Wide();
     void titleConstructorGivesThePlainMenuToo();
     void longEntryStaysWithin300Pixels();
+    void showEventIsAccepted();
     void leftClickTriggersTheEntryAndClosesTheMenu();
     void rightClickOnAnEntryLeavesTheMenuOpen();
     void pressOutsideClosesTheMenu();
@@ -162,6 +171,15 @@ void tst_MenuEx::choiceIsTheResultOfExec()
         menu.close();
     });
     QCOMPARE(menu.exec(QPoint(100, 100)), pEntry);
+}
+
+void tst_MenuEx::showEventIsAccepted()
+{
+    DerivedMenu menu;
+    QShowEvent show;
+    show.ignore();
+    menu.showEvent(&show);
+    QVERIFY(show.isAccepted());
 }
 
 QTEST_MAIN(tst_MenuEx)

@@ -1,5 +1,6 @@
 #include "widgets/PushButtonEx.h"
 
+#include "widgets/BareWindow.h"
 #include "widgets/OwnSkin.h"
 
 #include <QDialog>
@@ -74,7 +75,7 @@ private:
     void moveOut() { moveTo(QPoint(2, 2)); }
 
     OwnSkin m_skin;
-    QWidget m_window;
+    BareWindow m_window;
     PushButtonEx *m_pButton = nullptr;
 
 private slots:

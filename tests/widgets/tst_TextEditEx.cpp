@@ -1,5 +1,7 @@
 #include "widgets/TextEditEx.h"
 
+#include "widgets/OwnSkin.h"
+
 #include "common/Palette.h"
 #include "widgets/MenuEx.h"
 
@@ -84,6 +86,7 @@ private slots:
     void cleanup() { m_pEdit.reset(); }
 
     void sheetTakesTheSkinsColours();
+    void eachColourIsItsOwnMemberOfTheSkin();
     void fontIsTwelvePixels();
     void filterSwallowsEnterAndLeave_data();
     void filterSwallowsEnterAndLeave();
@@ -172,7 +175,8 @@ void tst_TextEditEx::ownStyleStopsAllRestyling()
 void tst_TextEditEx::menuHasItsEntries()
 {
     show();
-    withMenu([](const CMenuEx &menu) {
+    withMenu([this](const CMenuEx &menu) {
+        QCOMPARE(menu.pos(), m_pEdit->mapToGlobal(QPoint(10, 10)));
         QStringList texts;
         QList<QKeySequence> shortcuts;
         for (const QAction *pAction : menu.actions()) {
@@ -355,6 +359,18 @@ void tst_TextEditEx::pasteWithoutALimitIsWhole()
     QGuiApplication::clipboard()->setText(strText);
     QTest::keySequence(m_pEdit.get(), QKeySequence::Paste);
     QCOMPARE(m_pEdit->toPlainText(), strText);
+}
+
+void tst_TextEditEx::eachColourIsItsOwnMemberOfTheSkin()
+{
+    OwnSkin skin;
+    skin->m_strEditBackgroundColor = QStringLiteral("#000050");
+    skin->m_strEditBorderColor = QStringLiteral("#000051");
+    skin->m_strEditHoverBorderColor = QStringLiteral("#000052");
+    send(*m_pEdit, QEvent::Enter);
+    QCOMPARE(m_pEdit->styleSheet(),
+             QStringLiteral("QTextEdit{border-radius:2px;background-color:#000050;border:1px solid #000051;"
+                            "color:#333333;}QTextEdit::hover{border: 1px solid #000052;}"));
 }
 
 QTEST_MAIN(tst_TextEditEx)

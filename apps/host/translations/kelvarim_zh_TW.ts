@@ -20,6 +20,13 @@
     </message>
 </context>
 <context>
+    <name>CVoiceConferenceWidget</name>
+    <message>
+        <source>close</source>
+        <translation>關閉</translation>
+    </message>
+</context>
+<context>
     <name>CVoipWidget</name>
     <message>
         <source>close</source>

@@ -1,0 +1,175 @@
+// The conference centre's pages beside committed pictures.
+
+#include "ComparedPicture.h"
+#include "PictureSetting.h"
+#include "ui/ContactFixture.h"
+#include "ui/RealCursor.h"
+#include "ui/VoiceConferenceWidget.h"
+
+#include <QListView>
+#include <QPushButton>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+struct Row
+{
+    const char *confId;
+    const char *creator;
+    const char *createTime;
+    const char *callTime;
+    bool connected;
+};
+
+// The last is the newest: it comes on top.
+const Row cRows[] = {
+    {"c1", "cat", "2024-03-01 18:30:00", "0", false},    {"c2", "long", "2024-03-04 08:15:42", "7384", true},
+    {"c3", "nobody", "2024-03-04 10:00:00", "59", true}, {"c4", "me", "2024-03-05 09:08:07", "0", false},
+    {"c5", "bob", "2024-03-05 14:00:31", "3600", true},  {"c6", "ann", "2024-03-06 16:20:05", "1511", true},
+};
+
+ConfInfoData record(const Row &row)
+{
+    ConfInfoData info;
+    info.m_strConfID = QLatin1String(row.confId);
+    info.m_strCreatUserID = QLatin1String(row.creator);
+    info.m_strCreatTime = QLatin1String(row.createTime);
+    info.m_strCallTime = QLatin1String(row.callTime);
+    info.m_listMember = {"ann", "bob", "cat", "long", "me", "nobody", "o'brien", "ann"};
+    info.m_bIsConnect = row.connected;
+    return info;
+}
+
+} // namespace
+
+class tst_CentrePictures : public QObject
+{
+    Q_OBJECT
+
+private:
+    QListView *list() const { return m_pWindow->findChild<QListView *>(QStringLiteral("listView")); }
+    QWidget *backButton() const { return m_pWindow->findChild<QPushButton *>(QStringLiteral("backBtn")); }
+    void open(bool bRecords);
+    void hover(int iRow);
+    void showDetail(const QString &strConfID);
+    void compare(const char *pName);
+
+    std::unique_ptr<ContactFixture> m_pContacts;
+    std::unique_ptr<CVoiceConferenceWidget> m_pWindow;
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void emptyList();
+    void listOfRecords();
+    void rowUnderTheCursor();
+    void menuOfARow();
+    void detail();
+    void detailOfAConferenceThatNeverConnected();
+};
+
+void tst_CentrePictures::initTestCase()
+{
+    const QString strMissing =
+        PictureSetting::prepare({QStringLiteral("images/CommonCtrls/kvim_common_back_normal.png"),
+                                 QStringLiteral("images/CommonCtrls/kvim_common_back_press.png")});
+    QVERIFY2(strMissing.isEmpty(), qPrintable(strMissing));
+}
+
+void tst_CentrePictures::init()
+{
+    QCursor::setPos(QPoint(0, 0));
+    m_pContacts = std::make_unique<ContactFixture>();
+    PictureSetting::addContacts(*m_pContacts);
+    m_pContacts->addContact(QStringLiteral("me"), ContactFixture::card(QStringLiteral("我"), {}));
+}
+
+void tst_CentrePictures::cleanup()
+{
+    m_pWindow.reset();
+    m_pContacts.reset();
+}
+
+void tst_CentrePictures::open(bool bRecords)
+{
+    m_pWindow = std::make_unique<CVoiceConferenceWidget>();
+    for (const Row &row : cRows)
+        if (bRecords)
+            m_pWindow->addConferenceInfo(record(row));
+    m_pWindow->move(200, 200);
+    m_pWindow->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+}
+
+void tst_CentrePictures::hover(int iRow)
+{
+    QVERIFY(RealCursor::moveTo(list()->viewport(), list()->visualRect(list()->model()->index(iRow, 0)).center()));
+    QCoreApplication::processEvents();
+}
+
+void tst_CentrePictures::showDetail(const QString &strConfID)
+{
+    QVERIFY(QMetaObject::invokeMethod(m_pWindow.get(), "slot_ShowConfDetail", Q_ARG(QString, strConfID)));
+    QCoreApplication::processEvents();
+}
+
+void tst_CentrePictures::compare(const char *pName)
+{
+    // The second of two: rows are at their places once they have been painted.
+    ComparedPicture::of(m_pWindow.get());
+    QCoreApplication::processEvents();
+    const QString strComplaint = ComparedPicture::complaint(QLatin1String(pName), ComparedPicture::of(m_pWindow.get()));
+    QVERIFY2(strComplaint.isEmpty(), qPrintable(strComplaint));
+}
+
+void tst_CentrePictures::emptyList()
+{
+    open(false);
+    compare("centre-empty");
+}
+
+void tst_CentrePictures::listOfRecords()
+{
+    open(true);
+    compare("centre-list");
+}
+
+void tst_CentrePictures::rowUnderTheCursor()
+{
+    open(true);
+    hover(1);
+    compare("centre-list-hover");
+}
+
+void tst_CentrePictures::menuOfARow()
+{
+    open(true);
+    const QPoint row = list()->visualRect(list()->model()->index(0, 0)).center();
+    QTest::mouseClick(list()->viewport(), Qt::RightButton, Qt::NoModifier, row);
+    auto *const pMenu = list()->findChild<QMenu *>();
+    QVERIFY(QTest::qWaitForWindowExposed(pMenu));
+    const QString strComplaint = ComparedPicture::complaint(QStringLiteral("centre-menu"), ComparedPicture::of(pMenu));
+    QVERIFY2(strComplaint.isEmpty(), qPrintable(strComplaint));
+}
+
+void tst_CentrePictures::detail()
+{
+    open(true);
+    showDetail(QStringLiteral("c6"));
+    QVERIFY(backButton()->isVisible());
+    compare("centre-detail");
+}
+
+void tst_CentrePictures::detailOfAConferenceThatNeverConnected()
+{
+    open(true);
+    showDetail(QStringLiteral("c4"));
+    compare("centre-detail-unconnected");
+}
+
+QTEST_MAIN(tst_CentrePictures)
+
+#include "tst_CentrePictures.moc"
