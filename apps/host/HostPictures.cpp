@@ -1,7 +1,7 @@
 #include "HostPictures.h"
 
 #include "common/BuiltInPictures.h"
-#include "common/CommonFun.h"
+#include "common/HeadImages.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -27,7 +27,7 @@ QPixmap canvas(int iSize)
 QPixmap photoOf(const QString &strPhoto, int iSize)
 {
     const bool bNone = strPhoto.isEmpty() || strPhoto == strDEFAULT_HEAD_PATH;
-    return bNone ? QPixmap() : CommonFun::getRoundedImage(strPhoto, iSize);
+    return bNone ? QPixmap() : HeadImages::getRoundedImage(strPhoto, iSize);
 }
 
 void drawInitial(QPainter &painter, const QString &strName, const QString &strUid, int iSize)
