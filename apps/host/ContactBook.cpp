@@ -18,21 +18,21 @@ struct Row
 // The robots of the stand-in call process go by these ids.
 constexpr Row rows[] = {
     {"30010001", "李雷", "Answers", "学而时习之，不亦说乎", true, true, "1.jpg"},
-    {"30010002", "Maria Silva", "Busy", "Back in five minutes", true, true, "7.jpg"},
-    {"30010003", "王芳", "Rejects", "Please write instead", true, true, "12.jpg"},
+    {"30010002", "Maria Silva", "Busy", "Back in five minutes", true, true, "15.jpg"},
+    {"30010003", "王芳", "Rejects", "Please write instead", true, true, "11.jpg"},
     {"30010004", "Tom Baker", "Never answers", "Counting clouds", true, true, "10.jpg"},
-    {"30010005", "赵强", "Call fails", "出差中，下周回来", true, false, "11.jpg"},
-    {"30010006", "Anna Novak", "Hangs up after 10 s", "Short and sweet", true, true, "9.jpg"},
-    {"30010007", "韩梅梅", "Calls you back", "", false, true, "5.jpg"},
-    {"30010008", "Ivan Petrov", "Invites you", "One meeting a day keeps the mail away", true, true, "6.jpg"},
+    {"30010005", "赵强", "Call fails", "出差中，下周回来", true, false, "7.jpg"},
+    {"30010006", "Anna Novak", "Hangs up after 10 s", "Short and sweet", true, true, "6.jpg"},
+    {"30010007", "韩梅梅", "Calls you back", "", false, true, "9.jpg"},
+    {"30010008", "Ivan Petrov", "Invites you", "One meeting a day keeps the mail away", true, true, "19.jpg"},
     {"30010009", "林涛", "Leaves and returns", "去去就来", true, true, "4.jpg"},
-    {"30010010", "Sara Klein", "Invites, lines crossed", "Crossing the streams", true, true, "14.jpg"},
+    {"30010010", "Sara Klein", "Invites, lines crossed", "Crossing the streams", true, true, "17.jpg"},
 };
 
 constexpr const char *ownId = "30010000";
 constexpr const char *ownName = "小明";
 constexpr const char *ownAlternative = "You";
-constexpr const char *ownPhoto = "2.jpg";
+constexpr const char *ownPhoto = "16.jpg";
 constexpr const char *ownSignature = "每天都是新的一天";
 
 VcardInfo makeCard(const ContactBook::Entry &entry, const char *strSignature)
