@@ -4,6 +4,9 @@ set(VOIP_WARNINGS
     -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
     -Wnull-dereference -Wduplicated-cond -Wlogical-op -Wformat=2)
 
+# A log statement holds its source's name from here on, not the folder that it was built in.
+set(VOIP_PATHS -fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
+
 # Every target sees the same Qt modules and is compiled with the same options, so that one precompiled header serves all.
 set(VOIP_QT Qt5::Core Qt5::Gui Qt5::Widgets Qt5::Network Qt5::Multimedia Qt5::Sql Qt5::Xml)
 
@@ -13,11 +16,11 @@ target_link_libraries(voip_pch PRIVATE ${VOIP_QT})
 target_precompile_headers(voip_pch PRIVATE
     <QtCore/QtCore> <QtGui/QtGui> <QtWidgets/QtWidgets> <QtNetwork/QtNetwork>)
 set_target_properties(voip_pch PROPERTIES AUTOMOC OFF AUTOUIC OFF)
-target_compile_options(voip_pch PRIVATE ${VOIP_WARNINGS} -fpch-preprocess -fPIC)
+target_compile_options(voip_pch PRIVATE ${VOIP_WARNINGS} -fpch-preprocess -fPIC ${VOIP_PATHS})
 
 # Compiler settings of the project's own code. Includes are written from src/ ("store/DB.h").
 function(voip_own_code target)
-  target_compile_options(${target} PRIVATE ${VOIP_WARNINGS} -fpch-preprocess -fPIC)
+  target_compile_options(${target} PRIVATE ${VOIP_WARNINGS} -fpch-preprocess -fPIC ${VOIP_PATHS})
   target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   target_link_libraries(${target} PRIVATE ${VOIP_QT})
   target_precompile_headers(${target} REUSE_FROM voip_pch)
