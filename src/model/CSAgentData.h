@@ -63,8 +63,8 @@ public:
     qint64 m_iTime = 0;
 };
 
-/// An agent's question whether another takes a session over.
-class CSAgentSessionTransferAsk
+/// What the question and its answer have in common: which session goes from whom to whom.
+class CSAgentSessionTransfer
 {
 public:
     /// The session's id.
@@ -83,6 +83,18 @@ public:
     const QString &getTargetAgentId() const { return m_strTargetAgentId; }
     /// Sets the agent who is asked.
     void setTargetAgentId(const QString &strId) { m_strTargetAgentId = strId; }
+
+private:
+    QString m_strSessionId;
+    QString m_strAgentSessionId;
+    QString m_strRequestAgentId;
+    QString m_strTargetAgentId;
+};
+
+/// An agent's question whether another takes a session over.
+class CSAgentSessionTransferAsk : public CSAgentSessionTransfer
+{
+public:
     /// The work group that serves the session.
     const QString &getWorkGroupId() const { return m_strWorkGroupId; }
     /// Sets the work group that serves the session.
@@ -93,34 +105,14 @@ public:
     void setReason(const QString &strReason) { m_strReason = strReason; }
 
 private:
-    QString m_strSessionId;
-    QString m_strAgentSessionId;
-    QString m_strRequestAgentId;
-    QString m_strTargetAgentId;
     QString m_strWorkGroupId;
     QString m_strReason;
 };
 
 /// The answer to such a question.
-class CSAgentSessionTransferReply
+class CSAgentSessionTransferReply : public CSAgentSessionTransfer
 {
 public:
-    /// The session's id.
-    const QString &getSessionId() const { return m_strSessionId; }
-    /// Sets the session's id.
-    void setSessionId(const QString &strId) { m_strSessionId = strId; }
-    /// The id of the asking agent's side of the session.
-    const QString &getAgentSessionId() const { return m_strAgentSessionId; }
-    /// Sets the id of the asking agent's side of the session.
-    void setAgentSessionId(const QString &strId) { m_strAgentSessionId = strId; }
-    /// The agent who asked.
-    const QString &getRequestAgentId() const { return m_strRequestAgentId; }
-    /// Sets the agent who asked.
-    void setRequestAgentId(const QString &strId) { m_strRequestAgentId = strId; }
-    /// The agent who was asked.
-    const QString &getTargetAgentId() const { return m_strTargetAgentId; }
-    /// Sets the agent who was asked.
-    void setTargetAgentId(const QString &strId) { m_strTargetAgentId = strId; }
     /// The shown name of the agent who was asked.
     const QString &getTargetAgentName() const { return m_strTargetAgentName; }
     /// Sets the shown name of the agent who was asked.
@@ -131,10 +123,6 @@ public:
     void setResponseCode(int iCode) { m_iResponseCode = iCode; }
 
 private:
-    QString m_strSessionId;
-    QString m_strAgentSessionId;
-    QString m_strRequestAgentId;
-    QString m_strTargetAgentId;
     QString m_strTargetAgentName;
     int m_iResponseCode = 0;
 };

@@ -1,20 +1,11 @@
 #include "common/FileDigest.h"
 
+#include "fakes/FileBytes.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QTest>
-
-namespace {
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), qint64(bytes.size()));
-}
-
-} // namespace
 
 class tst_FileDigest : public QObject
 {
@@ -43,14 +34,14 @@ private slots:
     {
         QFETCH(int, length);
         const QByteArray bytes(length, 'a');
-        write("digest.bin", bytes);
+        writeFile("digest.bin", bytes);
         QCOMPARE(FileDigest::getFileMd5("digest.bin"), FileDigest::getMd5(QString::fromLatin1(bytes)));
         QCOMPARE(FileDigest::getFileSha1("digest.bin"), FileDigest::getSha1(QString::fromLatin1(bytes)));
     }
 
     void aMillionLettersGiveThePublishedDigests()
     {
-        write("million.bin", QByteArray(1000000, 'a'));
+        writeFile("million.bin", QByteArray(1000000, 'a'));
         QCOMPARE(FileDigest::getFileSha1("million.bin"), QString("34AA973CD4C4DAA4F61EEB2BDBAD27316534016F"));
         QCOMPARE(FileDigest::getFileMd5("million.bin"), QString("7707D6AE4E027C70EEA2A935C2296F21"));
     }
@@ -78,9 +69,9 @@ private slots:
         const QString key =
             QString::fromLatin1(QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha1).toHex());
         QCOMPARE(FileDigest::getFileHash(path), key);
-        write(path, "one");
+        writeFile(path, "one");
         QCOMPARE(FileDigest::getFileHash(path), key);
-        write(path, "another");
+        writeFile(path, "another");
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadWrite));
         QVERIFY(file.setFileTime(QDateTime::fromSecsSinceEpoch(86400), QFileDevice::FileModificationTime));

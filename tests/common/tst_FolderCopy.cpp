@@ -1,26 +1,10 @@
 #include "common/FolderCopy.h"
 
+#include "fakes/FileBytes.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTest>
-
-namespace {
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-QByteArray read(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-}
-
-} // namespace
 
 class tst_FolderCopy : public QObject
 {
@@ -31,17 +15,17 @@ private slots:
     {
         QVERIFY(QDir("from").removeRecursively());
         QVERIFY(QDir("to").removeRecursively());
-        write("from/a.txt", "a");
-        write("from/sub/b.txt", "b");
-        write("from/sub/deep/c.txt", "c");
+        writeFile("from/a.txt", "a");
+        writeFile("from/sub/b.txt", "b");
+        writeFile("from/sub/deep/c.txt", "c");
         QVERIFY(QDir("from").mkdir("empty"));
     }
 
     void everythingGoesIntoAFolderThatIsMade()
     {
         QVERIFY(FolderCopy::copyDirectory(QDir("from"), QDir("to"), false));
-        QCOMPARE(read("to/a.txt"), QByteArray("a"));
-        QCOMPARE(read("to/sub/deep/c.txt"), QByteArray("c"));
+        QCOMPARE(readBytes("to/a.txt"), QByteArray("a"));
+        QCOMPARE(readBytes("to/sub/deep/c.txt"), QByteArray("c"));
         QVERIFY(QDir("to/empty").exists());
     }
 
@@ -53,28 +37,28 @@ private slots:
 
     void withoutOverwriteAPresentFileEndsTheCopy()
     {
-        write("to/a.txt", "old");
+        writeFile("to/a.txt", "old");
         QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir("to"), false));
-        QCOMPARE(read("to/a.txt"), QByteArray("old"));
+        QCOMPARE(readBytes("to/a.txt"), QByteArray("old"));
     }
 
     void inSubFoldersFilesAreOverwrittenInAnyCase()
     {
-        write("to/sub/b.txt", "old");
+        writeFile("to/sub/b.txt", "old");
         QVERIFY(FolderCopy::copyDirectory(QDir("from"), QDir("to"), false));
-        QCOMPARE(read("to/sub/b.txt"), QByteArray("b"));
+        QCOMPARE(readBytes("to/sub/b.txt"), QByteArray("b"));
     }
 
     void withOverwriteAPresentFileIsReplaced()
     {
-        write("to/a.txt", "old");
+        writeFile("to/a.txt", "old");
         QVERIFY(FolderCopy::copyDirectory(QDir("from"), QDir("to"), true));
-        QCOMPARE(read("to/a.txt"), QByteArray("a"));
+        QCOMPARE(readBytes("to/a.txt"), QByteArray("a"));
     }
 
     void aFileInPlaceOfAFolderFails()
     {
-        write("to/sub", "a file");
+        writeFile("to/sub", "a file");
         QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir("to"), true));
     }
 
@@ -91,7 +75,7 @@ private slots:
     {
         QFETCH(QString, to);
         QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir(to), true));
-        QCOMPARE(read("from/a.txt"), QByteArray("a"));
+        QCOMPARE(readBytes("from/a.txt"), QByteArray("a"));
         QVERIFY(!QDir("from/new").exists());
     }
 
@@ -99,7 +83,7 @@ private slots:
     {
         QVERIFY(QDir("from2").removeRecursively());
         QVERIFY(FolderCopy::copyDirectory(QDir("from"), QDir("from2"), true));
-        QCOMPARE(read("from2/sub/b.txt"), QByteArray("b"));
+        QCOMPARE(readBytes("from2/sub/b.txt"), QByteArray("b"));
     }
 
     void aLinkLoopFails()
@@ -122,21 +106,21 @@ private slots:
 
     void hiddenFilesAreLeftOutUnlessTheFolderListsThem()
     {
-        write("from/.hidden", "h");
-        write("from/sub/.hidden", "h");
+        writeFile("from/.hidden", "h");
+        writeFile("from/sub/.hidden", "h");
         QDir from("from");
         QVERIFY(FolderCopy::copyDirectory(from, QDir("to"), true));
         QVERIFY(!QFile::exists("to/.hidden"));
         from.setFilter(QDir::AllEntries | QDir::Hidden);
         QVERIFY(FolderCopy::copyDirectory(from, QDir("to"), true));
-        QCOMPARE(read("to/.hidden"), QByteArray("h"));
+        QCOMPARE(readBytes("to/.hidden"), QByteArray("h"));
         QVERIFY(!QFile::exists("to/sub/.hidden"));
     }
 
     void theOwnFiltersOfTheFolderHoldForItsEntries()
     {
-        write("from/b.log", "b");
-        write("from/folder.txt/c.txt", "c");
+        writeFile("from/b.log", "b");
+        writeFile("from/folder.txt/c.txt", "c");
         QDir from("from");
         from.setFilter(QDir::Files);
         from.setNameFilters({"*.txt"});

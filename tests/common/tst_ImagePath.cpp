@@ -1,5 +1,6 @@
 #include "common/ImagePath.h"
 
+#include "fakes/FileBytes.h"
 #include "fakes/PictureFiles.h"
 
 #include <QtTest>
@@ -11,12 +12,6 @@ namespace {
 const QByteArray PNG = QByteArray::fromHex("89504E470D0A1A0A0000");
 const QByteArray JPEG = QByteArray::fromHex("FFD8FFE000104A46");
 const QString FALLBACK = QStringLiteral("fallback.png");
-
-QByteArray contentOf(const QString &strPath)
-{
-    QFile file(strPath);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 
@@ -52,7 +47,7 @@ private slots:
         QString strFixed = strPath;
         QVERIFY(!ImagePath::getIsImageFixError(strFixed));
         QCOMPARE(strFixed, strPath);
-        QCOMPARE(contentOf(strPath), bytes);
+        QCOMPARE(readBytes(strPath), bytes);
     }
 
     void wrongSuffixIsCorrected_data()
@@ -79,14 +74,14 @@ private slots:
         const QString strTrue = m_folder->filePath(corrected);
         QCOMPARE(ImagePath::getTrueImagePath(strPath, FALLBACK), strTrue);
         QVERIFY(!QFile::exists(strPath));
-        QCOMPARE(contentOf(strTrue), bytes);
+        QCOMPARE(readBytes(strTrue), bytes);
 
         QVERIFY(QFile::rename(strTrue, strPath));
         QString strFixed = strPath;
         QVERIFY(ImagePath::getIsImageFixError(strFixed));
         QCOMPARE(strFixed, strTrue);
         QVERIFY(!QFile::exists(strPath));
-        QCOMPARE(contentOf(strTrue), bytes);
+        QCOMPARE(readBytes(strTrue), bytes);
     }
 
     void fileOfTheTrueNameStays()
@@ -94,8 +89,8 @@ private slots:
         const QString strPath = writeBytes(m_folder->filePath("a.png"), JPEG);
         const QString strTrue = writeBytes(m_folder->filePath("a.jpg"), "another");
         QCOMPARE(ImagePath::getTrueImagePath(strPath, FALLBACK), strTrue);
-        QCOMPARE(contentOf(strPath), JPEG);
-        QCOMPARE(contentOf(strTrue), QByteArray("another"));
+        QCOMPARE(readBytes(strPath), JPEG);
+        QCOMPARE(readBytes(strTrue), QByteArray("another"));
     }
 
     void fileThatCannotBeCopiedIsNotLost()
@@ -107,7 +102,7 @@ private slots:
         QCOMPARE(ImagePath::getTrueImagePath(strPath, FALLBACK), strPath);
         QVERIFY(!ImagePath::getIsImageFixError(strFixed));
         QCOMPARE(strFixed, strPath);
-        QCOMPARE(contentOf(strPath), JPEG);
+        QCOMPARE(readBytes(strPath), JPEG);
     }
 
     void unreadableFileGivesTheFallback_data()

@@ -1,18 +1,9 @@
 #include "common/StyleText.h"
 
+#include "fakes/FileBytes.h"
+
 #include <QFile>
 #include <QTest>
-
-namespace {
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-} // namespace
 
 class tst_StyleText : public QObject
 {
@@ -21,15 +12,15 @@ class tst_StyleText : public QObject
 private slots:
     void sheetsAreReadInTheirCodec()
     {
-        write("one.qss", "QLabel{font:'\xce\xa2\xc8\xed'}\r\n");
-        write("two.qss", "");
+        writeFile("one.qss", "QLabel{font:'\xce\xa2\xc8\xed'}\r\n");
+        writeFile("two.qss", "");
         QCOMPARE(StyleText::readStyleSheet({"one.qss", "two.qss"}), QStringList({"QLabel{font:'微软'}\n", ""}));
         QVERIFY(StyleText::readStyleSheet({}).isEmpty());
     }
 
     void oneMissingSheetDropsAll()
     {
-        write("one.qss", "a");
+        writeFile("one.qss", "a");
         QCOMPARE(StyleText::readStyleSheet({"one.qss", "missing.qss"}), QStringList({QString()}));
         QCOMPARE(StyleText::readStyleSheet({"."}), QStringList({QString()}));
     }

@@ -1,6 +1,8 @@
 #include "common/CSettingsManager.h"
 #include "common/SystemOpen.h"
 
+#include "fakes/FileBytes.h"
+
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
@@ -35,20 +37,6 @@ private:
     QString m_scheme;
 };
 
-void write(const QString &path, const QByteArray &bytes)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-QByteArray read(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 void setOfficeAddress(const QString &address)
 {
     QSettings *settings = CSettingsManager::instance()->getUrlSettings();
@@ -66,8 +54,8 @@ private slots:
     void initTestCase()
     {
         // A command "open" that writes its words down, and nothing else that could open anything.
-        write("bin/open", "#!/bin/sh\n{ for word in \"$@\"; do echo \"$word\"; done; echo end; } > " +
-                              QFile::encodeName(QDir::current().absoluteFilePath("opened")) + "\n");
+        writeFile("bin/open", "#!/bin/sh\n{ for word in \"$@\"; do echo \"$word\"; done; echo end; } > " +
+                                  QFile::encodeName(QDir::current().absoluteFilePath("opened")) + "\n");
         QVERIFY(QFile::setPermissions("bin/open", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         qputenv("PATH", QFile::encodeName(QDir::current().absoluteFilePath("bin")));
     }
@@ -76,11 +64,11 @@ private slots:
 
     void aFileIsOpenedUnderItsQuotedPath()
     {
-        write("my folder/a file.txt", "x");
+        writeFile("my folder/a file.txt", "x");
         QVERIFY(SystemOpen::openLocalFile("my folder/a file.txt"));
         const QByteArray wanted =
             QFile::encodeName(QDir::current().absoluteFilePath("my folder/a file.txt")) + "\nend\n";
-        QTRY_COMPARE(read("opened"), wanted);
+        QTRY_COMPARE(readBytes("opened"), wanted);
     }
 
     void aFileThatCannotBeReadIsNotOpened()
@@ -104,7 +92,7 @@ private slots:
         QFETCH(QByteArray, words);
         QVERIFY(QDir().mkpath(folder));
         QVERIFY(SystemOpen::openLocalDir(folder + "missing file.txt"));
-        QTRY_COMPARE(read("opened"), words);
+        QTRY_COMPARE(readBytes("opened"), words);
     }
 
     void theFolderEndsAtTheFirstPlaceOfTheFileName()
@@ -112,7 +100,7 @@ private slots:
         QVERIFY(QDir().mkpath("data/data"));
         QVERIFY(!SystemOpen::openLocalDir("data/data"));
         QVERIFY(SystemOpen::openLocalDir("./data/data"));
-        QTRY_COMPARE(read("opened"), QByteArray("./\nend\n"));
+        QTRY_COMPARE(readBytes("opened"), QByteArray("./\nend\n"));
     }
 
     void aMissingFolderIsNotOpened()
@@ -124,7 +112,7 @@ private slots:
 
     void theDesktopOpensAFile()
     {
-        write("desk.txt", "x");
+        writeFile("desk.txt", "x");
         const QString path = QDir::current().absoluteFilePath("desk.txt");
         QCOMPARE(SystemOpen::openMacLocalFile("missing.txt"), 0);
         QCOMPARE(SystemOpen::openMacLocalFile(path), 1);

@@ -1,5 +1,7 @@
 #include "common/WeatherFiles.h"
 
+#include "fakes/FileBytes.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTest>
@@ -7,14 +9,6 @@
 namespace {
 
 using Maps = QList<QMap<QString, QString>>;
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 const QString CITIES = QStringLiteral("Resources/BaseConfig/ProvinceWeath.xml");
 
@@ -29,9 +23,9 @@ private slots:
 
     void aReplyBecomesOneMapOfFourAndOneForEachDay()
     {
-        write("w.xml", "<?xml version='1.0' encoding='UTF-8'?><reply><city><name>北京</name><code>1</code><wind/>"
-                       "<time>8</time><day><low>1</low><high>9</high></day><day><low>2</low></day></city>"
-                       "<city><name>other</name></city></reply>");
+        writeFile("w.xml", "<?xml version='1.0' encoding='UTF-8'?><reply><city><name>北京</name><code>1</code><wind/>"
+                           "<time>8</time><day><low>1</low><high>9</high></day><day><low>2</low></day></city>"
+                           "<city><name>other</name></city></reply>");
         const Maps wanted = {{{"name", "北京"}, {"code", "1"}, {"wind", ""}, {"time", "8"}},
                              {{"low", "1"}, {"high", "9"}},
                              {{"low", "2"}}};
@@ -40,8 +34,9 @@ private slots:
 
     void aReplyMayBeLaidOutInLines()
     {
-        write("w.xml", "<reply>\n  <city>\n    <name>a</name>\n    <code>1</code>\n    <wind/>\n    <time>8</time>\n"
-                       "    <day>\n      <low>1</low>\n    </day>\n  </city>\n</reply>\n");
+        writeFile("w.xml",
+                  "<reply>\n  <city>\n    <name>a</name>\n    <code>1</code>\n    <wind/>\n    <time>8</time>\n"
+                  "    <day>\n      <low>1</low>\n    </day>\n  </city>\n</reply>\n");
         const Maps wanted = {{{"name", "a"}, {"code", "1"}, {"wind", ""}, {"time", "8"}}, {{"low", "1"}}};
         QCOMPARE(WeatherFiles::parseWeatherXml("w.xml"), wanted);
     }
@@ -64,7 +59,7 @@ private slots:
     void otherShapes()
     {
         QFETCH(QByteArray, text);
-        write("w.xml", text);
+        writeFile("w.xml", text);
         QTEST(WeatherFiles::parseWeatherXml("w.xml").size(), "maps");
     }
 
@@ -78,14 +73,14 @@ private slots:
 
     void provincesStandBeforeTheirCities()
     {
-        write(CITIES, "<all><p Name='A'><c Name='a1'/><c Name='a2'/></p><!-- --><p Name='B'/><p><c/></p></all>");
+        writeFile(CITIES, "<all><p Name='A'><c Name='a1'/><c Name='a2'/></p><!-- --><p Name='B'/><p><c/></p></all>");
         QCOMPARE(WeatherFiles::parseCityXml(), QStringList({"A", "a1", "a2", "B", "", ""}));
     }
 
     void withoutItsFileThereAreNoCities()
     {
         QVERIFY(WeatherFiles::parseCityXml().isEmpty());
-        write(CITIES, "<all><p Name='A'>");
+        writeFile(CITIES, "<all><p Name='A'>");
         QVERIFY(WeatherFiles::parseCityXml().isEmpty());
     }
 
