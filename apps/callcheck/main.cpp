@@ -50,9 +50,9 @@ bool openForOneself(QFile &file)
 
 /// The call process is asked to end when this process is, so that the recording comes to its end too. The signals must
 /// have been blocked.
-void obeySignals(const sigset_t &signals, Relay &relay)
+void obeySignals(const sigset_t &stopSignals, Relay &relay)
 {
-    const int descriptor = ::signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
+    const int descriptor = ::signalfd(-1, &stopSignals, SFD_CLOEXEC | SFD_NONBLOCK);
     auto *notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, &relay);
     QObject::connect(notifier, &QSocketNotifier::activated, &relay, [&relay, notifier, descriptor] {
         notifier->setEnabled(false);
@@ -77,15 +77,15 @@ int record(const CheckOptions &options, Trace &trace)
         file.remove();
         return complain(CheckExit::CannotStart, error);
     }
-    sigset_t signals;
-    sigemptyset(&signals);
-    sigaddset(&signals, SIGTERM);
-    sigaddset(&signals, SIGINT);
-    sigprocmask(SIG_BLOCK, &signals, nullptr);
+    sigset_t stopSignals;
+    sigemptyset(&stopSignals);
+    sigaddset(&stopSignals, SIGTERM);
+    sigaddset(&stopSignals, SIGINT);
+    sigprocmask(SIG_BLOCK, &stopSignals, nullptr);
     ScenarioWriter writer([&file](const QByteArray &text) { file.write(text); });
     Channel channel(options.socketName, trace);
     Relay relay(subject, channel, writer);
-    obeySignals(signals, relay);
+    obeySignals(stopSignals, relay);
     QObject::connect(&relay, &Relay::failed, qApp,
                      [](const QString &reason) { QCoreApplication::exit(complain(CheckExit::CannotStart, reason)); });
     QObject::connect(&relay, &Relay::finished, qApp, [&subject](int exitCode, bool died) {
