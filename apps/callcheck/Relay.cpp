@@ -115,7 +115,7 @@ void Relay::clientArrives()
     connect(m_farEnd, &QLocalSocket::disconnected, this, &Relay::subjectCloses);
     m_farEnd->connectToServer(m_subject.socketPath(), QIODevice::ReadWrite);
     if (m_farEnd->waitForConnected(CONNECT_MS)) {
-        m_writer.happened(m_clock.elapsed(), "await-client");
+        m_writer.pluginDid(m_clock.elapsed(), "await-client");
     } else {
         releaseFarEnd();
         m_channel.drop();
@@ -126,7 +126,7 @@ void Relay::clientArrives()
 void Relay::clientGoes()
 {
     if (m_farEnd != nullptr && !m_closing) {
-        m_writer.happened(m_clock.elapsed(), "await-gone");
+        m_writer.pluginDid(m_clock.elapsed(), "await-gone");
     }
     releaseFarEnd();
     settleEnd();

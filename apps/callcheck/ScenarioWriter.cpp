@@ -17,8 +17,7 @@ constexpr qint64 ROUNDED_TO_MS = 100;
 
 constexpr const char *OPENING = "# Recorded by kelvarim-callcheck.\n"
                                 "ignore SetMicEnable SetSpeakerEnble SetCamreraEnable SetMicVolume SetSpeakerVolume\n"
-                                "timeout 0s\n"
-                                "await-client\n";
+                                "timeout 0s\n";
 
 bool isUtf8(const QByteArray &bytes)
 {
@@ -189,6 +188,16 @@ void ScenarioWriter::happened(qint64 now, const char *statement)
     }
     flushPart();
     pause(now);
+    add(statement);
+}
+
+void ScenarioWriter::pluginDid(qint64 now, const char *statement)
+{
+    if (m_quit) {
+        return;
+    }
+    flushPart();
+    m_last = now;
     add(statement);
 }
 

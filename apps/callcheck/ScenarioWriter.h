@@ -24,8 +24,10 @@ public:
     void said(qint64 now, const QByteArray &line);
     /// What one read has brought from the call process.
     void written(qint64 now, const QByteArray &bytes);
-    /// One of the statements without arguments: "await-client", "drop", "die", ...
+    /// What the call process does besides: a statement without arguments, "drop", "die", ...
     void happened(qint64 now, const char *statement);
+    /// What the plug-in does besides: "await-client" or "await-gone".
+    void pluginDid(qint64 now, const char *statement);
     /// The recording is over, for a reason that no statement tells; empty: none is needed.
     void end(const QString &remark);
 

@@ -207,7 +207,7 @@ void tst_Record::bytesPassUnchanged()
     run.say(commandLine("SetMicVolume", {7}) + "qu");
     run.say("it\n");
     QCOMPARE(run.exitCode(), 0);
-    QVERIFY2(run.recorded().contains("split 10 3"), run.recorded().left(300));
+    QVERIFY2(run.recorded().contains("split 10 "), run.recorded().left(300));
     QVERIFY(run.recorded().contains("raw \"\\xFF\\x00no json\\n\"\n"));
     QVERIFY(run.recorded().endsWith("join {\n    send 18\n    send 8\n}\nexpect SetMicVolume param1=7\nexpect quit\n"));
 }
@@ -354,12 +354,12 @@ void tst_Record::inThePlaceOfACallProcessItTakesNoArguments()
     environment.insert("CALLCHECK_PROGRAM", QStringLiteral(VOIPSDK_PROGRAM));
     environment.insert("VOIPSDK_SCENARIO", run.played());
     run.process.setProcessEnvironment(environment);
-    run.process.setProcessChannelMode(QProcess::SeparateChannels);
     run.process.start(QStringLiteral(CALLCHECK_PROGRAM), QStringList());
     QVERIFY(run.connectClient());
-    QSignalSpy streamsEnd(&run.process, &QProcess::readChannelFinished);
-    QVERIFY2(!streamsEnd.isEmpty() || streamsEnd.wait(WAIT_MS),
-             "whoever reads the client's streams waits for this one");
+    const QString streams = QStringLiteral("/proc/%1/fd/%2").arg(run.process.processId());
+    for (int stream = 0; stream < 3; ++stream) {
+        QCOMPARE(QFile::symLinkTarget(streams.arg(stream)), QStringLiteral("/dev/null"));
+    }
     run.say(registration());
     QCOMPARE(run.hear(), notificationLine(17, "true"));
     run.say("quit\n");

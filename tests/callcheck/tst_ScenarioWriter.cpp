@@ -53,7 +53,7 @@ void tst_ScenarioWriter::openingIsAScenarioThatWaitsForItsClient()
 {
     Recording recording;
     recording.writer.begin();
-    recording.writer.happened(0, "await-client");
+    recording.writer.pluginDid(7000, "await-client");
     const std::optional<Scenario> scenario = recording.scenario();
     QVERIFY(scenario);
     QVERIFY(scenario->statements.constFirst().kind == StatementKind::Ignore);
