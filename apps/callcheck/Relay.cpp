@@ -57,6 +57,7 @@ void Relay::start()
 
 void Relay::stop()
 {
+    m_stopped = true;
     if (m_subject.isChild()) {
         m_subject.process().terminate();
     } else {
@@ -204,16 +205,19 @@ void Relay::settleEnd()
 
 void Relay::tellEnd()
 {
-    const bool child = m_subject.isChild();
-    const bool killed = child && m_subject.process().exitStatus() != QProcess::NormalExit;
-    const int exitCode = child ? m_subject.process().exitCode() : 0;
-    const bool died = killed || (exitCode != 0 && !m_quit);
-    if (!m_quit) {
-        m_writer.happened(m_dropTime > 0 ? m_dropTime : m_clock.elapsed(), died ? "die" : "end");
+    if (m_stopped || !m_subject.isChild()) {
+        m_writer.end(m_stopped ? QStringLiteral("The recording was stopped.") : QString());
+        emit finished(0, false);
+        return;
     }
-    m_writer.end(killed || exitCode != 0 ? QStringLiteral("The call process ended with %1.").arg(m_subject.ending())
-                                         : QString());
-    emit finished(exitCode, died);
+    const bool killed = m_subject.process().exitStatus() != QProcess::NormalExit;
+    const int exitCode = m_subject.process().exitCode();
+    const bool failed = killed || exitCode != 0;
+    if (!m_quit) {
+        m_writer.happened(m_dropTime > 0 ? m_dropTime : m_clock.elapsed(), failed ? "die" : "end");
+    }
+    m_writer.end(failed ? QStringLiteral("The call process ended with %1.").arg(m_subject.ending()) : QString());
+    emit finished(exitCode, killed || (failed && !m_quit));
 }
 
 void Relay::releaseFarEnd()

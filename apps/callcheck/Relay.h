@@ -25,7 +25,7 @@ public:
 
     /// Begins.
     void start();
-    /// Asks the call process to end, as a signal from outside does.
+    /// Ends the recording and the call process with it, as a signal from outside does.
     void stop();
 
 signals:
@@ -64,6 +64,7 @@ private:
     bool m_open = false;
     bool m_closing = false; // the call process has closed; what it wrote before is still on its way
     bool m_quit = false;
+    bool m_stopped = false;
     bool m_ended = false; // the call process has
     bool m_told = false;  // and `finished` or `failed` has said so
 };

@@ -10,6 +10,7 @@
 #include <csignal>
 #include <sys/prctl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -21,6 +22,8 @@ constexpr const char *SERVER_NAME = "VoipSDK";
 void BoundProcess::setupChildProcess()
 {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    // A key that stops the checker is none of the call process's business.
+    ::setpgid(0, 0);
 }
 
 Subject::~Subject()

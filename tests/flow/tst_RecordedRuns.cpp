@@ -79,6 +79,7 @@ QString tst_RecordedRuns::record(const QString &strRun)
     const QString folder = folderFor(QStringLiteral("record-") + strRun);
     const QString scenario = folder + QStringLiteral("/run.scn");
     QFile::remove(scenario);
+    QFile::remove(folder + QStringLiteral("/wire.trace"));
     const Outcome outcome =
         run(QStringLiteral(VOIP_KIT_HANDS), {strRun},
             {{"CALLCHECK_OUT", scenario}, {"CALLCHECK_PROGRAM", QStringLiteral(VOIP_STAND_IN)}, {"VOIPSDK_SPEED", "4"}},

@@ -1,6 +1,7 @@
 // docs/wire-protocol.md beside what the plug-in says and understands: every command and every notification has an
 // example, each command's is what the plug-in writes, and each notification's has its effect in the engine.
 
+#include "callcheck/PluginCommand.h"
 #include "callprocess/Wire.h"
 #include "engine/SdkCommand.h"
 #include "engine/SdkNotification.h"
@@ -8,6 +9,7 @@
 #include "fakes/QtMessages.h"
 
 #include <QFile>
+#include <QJsonArray>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -199,6 +201,12 @@ void tst_WireDocument::everyCommandHasItsExample()
     const std::optional<Command> command = parseCommand(lines.constFirst().toUtf8(), &reason);
     QVERIFY2(command, qPrintable(reason));
     QCOMPARE(shapeFault(*command), QString());
+
+    // The checker's replay says it in the very same bytes.
+    QJsonArray parameters;
+    for (int parameter = 1; !command->parameter(parameter).isUndefined(); ++parameter)
+        parameters.append(command->parameter(parameter));
+    QCOMPARE(commandLine(wireName, parameters), lines.constFirst().toUtf8() + '\n');
 }
 
 void tst_WireDocument::documentHasNoOtherCommands()
