@@ -9,7 +9,7 @@ import subprocess
 import sys
 
 # Where a path in a document may begin, beside the folder of the project and that of the document.
-BEGINNINGS = ("src", "tests", "apps", "apps/host", "apps/callprocess", "resources")
+BEGINNINGS = ("src", "tests", "apps", "apps/host", "apps/callprocess", "apps/callprocess/scenarios", "resources")
 # What is there only once something was built, installed or run; tests/packaging looks at it.
 MADE = re.compile(r"build/|~/|/usr/|(bin|include|lib|share)/|Resources/|VoipSDK/|lib\w+\.(so|a)$|allurl\.ini$|data\.db$|.*localData\.db$")
 # A file of the reader's own project.
