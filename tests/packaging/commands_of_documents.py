@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Prints every command that stands in README.md and docs/*.md, one a line, each once.
+"""Prints every command that stands in *.md and docs/*.md, one a line, each once.
 
 Usage: commands_of_documents.py SOURCE BUILD
 A command is a line of a block of shell, or of a block whose first line begins with a program, or a piece of code in a sentence
@@ -63,5 +63,5 @@ def commands(document):
     yield from filter(is_spoken, CODE.findall(INDENTED.sub("", text)))
 
 
-documents = (SOURCE / "README.md", *(SOURCE / "docs").glob("*.md"))
+documents = (*SOURCE.glob("*.md"), *(SOURCE / "docs").glob("*.md"))
 print("\n".join(sorted({command for document in documents for command in commands(document)})))

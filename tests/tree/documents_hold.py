@@ -26,11 +26,11 @@ SECTION = re.compile(r"```.*?^```", re.DOTALL | re.MULTILINE)
 LINK = re.compile(r"!?\[[^\]]*\]\(([^)\s]+)\)")
 CODE = re.compile(r"`([^`\n]+)`")
 PATH = re.compile(r"[\w.*@+-]*(/[\w.*@+-]+)*/?")
-SUFFIX = re.compile(r"\.(cpp|h|def|ui|py|ts|sh|scn|md|cmake|png|svg|txt|debian|ini|db|so|a|\*)$")
+SUFFIX = re.compile(r"[\w*]\.(cpp|h|def|ui|py|ts|sh|scn|md|cmake|png|svg|txt|debian|ini|db|so|a|\*)$")
 
 
 def documents(root):
-    return [root / "README.md", *sorted((root / "docs").glob("*.md"))]
+    return [*sorted(root.glob("*.md")), *sorted((root / "docs").glob("*.md"))]
 
 
 def links(document):
