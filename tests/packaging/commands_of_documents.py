@@ -35,7 +35,7 @@ def is_command(text):
     name = program(text)
     if not name or name.startswith("tests/"):
         return False
-    if name in BUILT or name in PROGRAMS or re.match(r"\./|build/[\w-]+$|.*/bin/", name):
+    if name in BUILT or name in PROGRAMS or re.match(r"\./|build/[\w-]+$|.*/bin/[\w-]", name):
         return True
     path = SOURCE / name
     return path.is_file() and os.access(path, os.X_OK)

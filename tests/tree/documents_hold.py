@@ -12,14 +12,14 @@ import sys
 BEGINNINGS = ("src", "tests", "apps", "apps/host", "apps/callprocess", "apps/callprocess/scenarios", "resources")
 # What is there only once something was built, installed or run; tests/packaging looks at it.
 MADE = re.compile(r"build/|~/|/usr/|(bin|include|lib|share)/|Resources/|VoipSDK/|lib\w+\.(so|a)$|allurl\.ini$|data\.db$|.*localData\.db$")
-# A file of the reader's own project.
-READERS = {"main.cpp", "CMakeLists.txt"}
+# Files of the reader's own.
+READERS = {"main.cpp", "CMakeLists.txt", "run.scn"}
 # Texts that look like paths: a key of the settings, the id of the interface.
 KEYS = {"languageSetting/language", "kelvarim/1.0"}
 # Words in code marks that are no names: what the reader fills in, programs of the system, made-up examples.
 FOREIGN = {
     "DURATION", "CONTENT", "BYTES", "CODE", "VALUE", "paramN", "pkill", "diff", "myatlist", "quikrply",
-    "sqlite_autoindex_",
+    "sqlite_autoindex_", "uXXXX",
 }
 SOURCES = (".cpp", ".h", ".def", ".ui", ".cmake", ".txt", ".map", ".scn", ".py", ".ts", ".in", ".json", "")
 SECTION = re.compile(r"```.*?^```", re.DOTALL | re.MULTILINE)
