@@ -4,6 +4,7 @@ set(manuals share/doc/kelvarim-voip)
 install(
   FILES
     share/doc/copyright
+    ${CMAKE_SOURCE_DIR}/docs/call-process-kit.md
     ${CMAKE_SOURCE_DIR}/docs/host-contract.md
     ${CMAKE_SOURCE_DIR}/docs/scenario-language.md
     ${CMAKE_SOURCE_DIR}/docs/wire-protocol.md
