@@ -140,7 +140,8 @@ void tst_ClockJumps::limitsOfACallDoNotGoByTheTimeOfDay()
     QCoreApplication::processEvents();
     QCOMPARE(f.state(), QStringLiteral("outgoing anna, invite"));
     QVERIFY(f.manager->m_inviteTimer.remainingTime() > 30000);
-    QVERIFY(f.manager->m_inviteTimer.remainingTime() <= 60000);
+    // Coarse timers may be late by a twentieth.
+    QVERIFY(f.manager->m_inviteTimer.remainingTime() <= 63000);
     f.manager->hangupVoipCall();
     callOnce(f);
 }

@@ -28,9 +28,10 @@ QString faultOf(const QStringList &row, bool bMayLackCall)
     const bool named = s_id.match(row.at(0)).hasMatch();
     const bool timed = QDateTime::fromString(row.at(2), QStringLiteral("yyyy-MM-dd hh:mm:ss")).isValid();
     const bool heardOf = named && timed && connected;
-    const bool whole = (heardOf || (bMayLackCall && (named || row.at(0).isEmpty()) && (timed || row.at(2).isEmpty()))) &&
-                       row.at(1) == QLatin1String("30010000") && row.at(3).toInt() >= 0 && !row.at(3).isEmpty() &&
-                       row.at(4) == QLatin1String("30010001,30010006,30010000,");
+    const bool whole =
+        (heardOf || (bMayLackCall && (named || row.at(0).isEmpty()) && (timed || row.at(2).isEmpty()))) &&
+        row.at(1) == QLatin1String("30010000") && row.at(3).toInt() >= 0 && !row.at(3).isEmpty() &&
+        row.at(4) == QLatin1String("30010001,30010006,30010000,");
     return whole ? QString() : QStringLiteral("not whole: ") + row.join('|');
 }
 
@@ -56,7 +57,7 @@ std::unique_ptr<QProcess> HostWorld::startHost() const
 {
     auto host = std::make_unique<QProcess>();
     host->setWorkingDirectory(m_folder.path());
-    host->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    host->setStandardErrorFile(QProcess::nullDevice());
     host->start(program(QStringLiteral("host_child")), {m_folder.path()});
     return host;
 }
@@ -85,6 +86,25 @@ QList<QStringList> HostWorld::ask(const QString &strStatement) const
     }
     QSqlDatabase::removeDatabase(name);
     return rows;
+}
+
+QStringList HostWorld::records() const
+{
+    QStringList ids;
+    const QList<QStringList> rows = ask(QStringLiteral("SELECT ConfID FROM voipConferenceInfo"));
+    for (const QStringList &row : rows)
+        ids.append(row.value(0));
+    return ids;
+}
+
+QStringList HostWorld::created() const
+{
+    static const QRegularExpression s_created(QStringLiteral("> .*confId\\D+(\\d{13}).*\"resultCode\":20"));
+    QStringList ids;
+    auto match = s_created.globalMatch(QString::fromUtf8(trace()));
+    while (match.hasNext())
+        ids.append(match.next().captured(1));
+    return ids;
 }
 
 QString HostWorld::fault(bool bMayLackCall) const

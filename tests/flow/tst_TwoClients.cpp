@@ -28,7 +28,6 @@ void tst_TwoClients::channelChangesHandsAndTheStoreKeepsAllRecords()
         QVERIFY(readLines(*first, "saved", 5, &saidByFirst));
         QVERIFY(readLines(*second, "saved", 5, &saidBySecond));
     }
-    QVERIFY(world.trace().count("client replaced") >= 3);
 
     for (QProcess *host : {first.get(), second.get()}) {
         host->write("quit\n");
@@ -42,7 +41,15 @@ void tst_TwoClients::channelChangesHandsAndTheStoreKeepsAllRecords()
     const auto recorded = std::count_if(saidByFirst.cbegin(), saidByFirst.cend(), isRecorded) +
                           std::count_if(saidBySecond.cbegin(), saidBySecond.cend(), isRecorded);
     QCOMPARE(world.fault(true), QString());
-    QCOMPARE(world.records(), static_cast<int>(recorded));
+    QVERIFY(world.trace().count("client replaced") >= 3);
+    // The exchange goes on with a conference when the channel changes hands and tells the other client of it too, which
+    // then ends it under the same id: one record for both. But no conference that was created lacks its record.
+    const QStringList records = world.records();
+    QVERIFY(records.size() <= recorded);
+    const QStringList created = world.created();
+    QVERIFY(created.size() >= 10);
+    for (const QString &id : created)
+        QVERIFY2(records.contains(id), qPrintable(id));
 }
 
 QTEST_GUILESS_MAIN(tst_TwoClients)

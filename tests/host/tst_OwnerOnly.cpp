@@ -126,7 +126,7 @@ void tst_OwnerOnly::initTestCase()
     m_strTrace = QDir::current().absoluteFilePath(QStringLiteral("wire.trace"));
     qputenv("VOIPSDK_TRACE", QFile::encodeName(m_strTrace));
     m_demo.setProcessChannelMode(QProcess::ForwardedChannels);
-    m_demo.start(QStringLiteral(VOIP_BIN_DIR "/kelvarim-demo"), {});
+    m_demo.start(QStringLiteral(VOIP_BIN_DIR "/kelvarim-demo"), QStringList());
     QVERIFY(m_demo.waitForStarted());
     // The registration is the last thing of a start.
     QTRY_VERIFY_WITH_TIMEOUT(
