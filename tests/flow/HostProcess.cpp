@@ -53,12 +53,12 @@ HostWorld::~HostWorld()
     m_callProcess.waitForFinished();
 }
 
-std::unique_ptr<QProcess> HostWorld::startHost() const
+std::unique_ptr<QProcess> HostWorld::startHost(int iPatienceMs) const
 {
     auto host = std::make_unique<QProcess>();
     host->setWorkingDirectory(m_folder.path());
     host->setStandardErrorFile(QProcess::nullDevice());
-    host->start(program(QStringLiteral("host_child")), {m_folder.path()});
+    host->start(program(QStringLiteral("host_child")), {m_folder.path(), QString::number(iPatienceMs)});
     return host;
 }
 

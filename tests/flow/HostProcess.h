@@ -21,8 +21,8 @@ public:
     HostWorld(const HostWorld &) = delete;
     HostWorld &operator=(const HostWorld &) = delete;
 
-    /// Starts a host over the user's store.
-    std::unique_ptr<QProcess> startHost() const;
+    /// Starts a host over the user's store that gives a conference so long to connect.
+    std::unique_ptr<QProcess> startHost(int iPatienceMs) const;
 
     /// Why the store is not sound, or which record is not whole; empty when all is well. With `bMayLackCall` a record
     /// may be one of a conference that was never heard of again.

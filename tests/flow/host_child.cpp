@@ -2,7 +2,9 @@
 // the other until it is ended. It says on standard output what it has done, a line each: "begun" when a conference is
 // placed, "refused" when none could be, "saved" once its end has been recorded. A line on standard input makes it quit.
 //
-//   host_child BASE    BASE: the folder with the users' folders
+//   host_child BASE PATIENCE    BASE: the folder with the users' folders; PATIENCE: how many milliseconds a conference
+//   may
+//                               take to connect, since a channel that another client has taken answers never
 
 #include "fakes/MessageBoxes.h"
 #include "flow/FlowClient.h"
@@ -21,8 +23,6 @@
 
 namespace {
 
-// Long enough for a loaded machine; a channel that another client has taken answers never.
-constexpr int kConnectWaitMs = 3000;
 constexpr int kRetryMs = 50;
 
 void say(const char *line)
@@ -40,7 +40,7 @@ bool areMembersConnected(const FlowClient &client)
     return connected == 2;
 }
 
-void holdConference(FlowClient &client)
+void holdConference(FlowClient &client, int iPatienceMs)
 {
     client.command(MSG_CALL_CONFERENCE, QStringList{QStringLiteral("30010001"), QStringLiteral("30010006")},
                    QStringLiteral("talk"), true);
@@ -50,7 +50,7 @@ void holdConference(FlowClient &client)
         return;
     }
     say("begun");
-    const bool connected = QTest::qWaitFor([&] { return areMembersConnected(client); }, kConnectWaitMs);
+    const bool connected = QTest::qWaitFor([&] { return areMembersConnected(client); }, iPatienceMs);
     client.callWindow()->close();
     say(connected ? "saved" : "saved unconnected");
 }
@@ -63,7 +63,7 @@ int main(int argc, char **argv)
     QApplication::setQuitOnLastWindowClosed(false);
     FlowClient client("1000");
     SharedContext::setCommonData(&client.context());
-    if (argc != 2 || !DB::initByUserName(QStringLiteral("30010000"), QString::fromLocal8Bit(argv[1]), true) ||
+    if (argc != 3 || !DB::initByUserName(QStringLiteral("30010000"), QString::fromLocal8Bit(argv[1]), true) ||
         !client.load()) {
         return EXIT_FAILURE;
     }
@@ -73,7 +73,7 @@ int main(int argc, char **argv)
     QObject::connect(&input, &QSocketNotifier::activated, [&quit] { quit = true; });
     client.command(MSG_CLIENT_CONNECT_STATUS, true);
     while (!quit)
-        holdConference(client);
+        holdConference(client, QByteArray(argv[2]).toInt());
     client.command(MSG_EXIT_VOIP);
     DB::closeDB();
     return EXIT_SUCCESS;

@@ -17,11 +17,11 @@ private slots:
 void tst_TwoClients::channelChangesHandsAndTheStoreKeepsAllRecords()
 {
     const HostWorld world;
-    const std::unique_ptr<QProcess> first = world.startHost();
+    const std::unique_ptr<QProcess> first = world.startHost(3000);
     QList<QByteArray> saidByFirst;
     QList<QByteArray> saidBySecond;
     QVERIFY(readLines(*first, "saved", 3, &saidByFirst));
-    const std::unique_ptr<QProcess> second = world.startHost();
+    const std::unique_ptr<QProcess> second = world.startHost(3000);
     QVERIFY(readLines(*second, "saved", 3, &saidBySecond));
     // Both go on in turns.
     for (int turn = 0; turn < 3; ++turn) {
