@@ -15,6 +15,7 @@
 #include <csignal>
 #include <cstdio>
 #include <memory>
+#include <sys/stat.h>
 
 namespace {
 
@@ -75,6 +76,8 @@ int serve(const Options &options, std::optional<Scenario> scenario, Channel &cha
 int main(int argc, char *argv[])
 {
     std::signal(SIGPIPE, SIG_IGN);
+    // The trace holds what clients sign in with.
+    ::umask(S_IRWXG | S_IRWXO);
     const QCoreApplication application(argc, argv);
     Options options;
     QString error;
