@@ -7,6 +7,7 @@
 #include <QDomDocument>
 #include <QFileInfo>
 #include <QRegExp>
+#include <QStringMatcher>
 
 namespace {
 
@@ -31,21 +32,22 @@ QString bodyOf(const QString &strHtml)
     return strHtml.mid(iFirst, iLast + strEnd.size() - iFirst);
 }
 
-// Calls `take` with each image element. The text is cut at every ">" first, which no image can contain but at its end:
-// the pattern is then tried once for each piece, from the only place where it can begin.
+// Calls `take` with each image element. An image holds no ">" but at its end, so the pattern is tried once for each
+// stretch up to the next one, from the first place where it can begin.
 template <typename Take>
 void forEachImage(const QString &strHtml, const QString &strNames, Take take)
 {
     const QRegExp pattern = imagePattern(strNames);
     const QString strBody = bodyOf(strHtml);
-    int iStart = 0;
-    for (int i = strBody.indexOf(QLatin1Char('>')); i >= 0; i = strBody.indexOf(QLatin1Char('>'), iStart)) {
-        const QStringRef piece = strBody.midRef(iStart, i + 1 - iStart);
-        iStart = i + 1;
-        const int iImage = piece.indexOf(QLatin1String("<img"));
-        const QString strImage = iImage < 0 ? QString() : piece.mid(iImage).toString();
+    const QStringMatcher begin(QStringLiteral("<img"));
+    int iEnd = 0;
+    for (int iImage = begin.indexIn(strBody); iImage >= 0; iImage = begin.indexIn(strBody, iEnd)) {
+        iEnd = strBody.indexOf(QLatin1Char('>'), iImage) + 1;
+        if (iEnd == 0)
+            return;
+        const QString strImage = strBody.mid(iImage, iEnd - iImage);
         QDomDocument document;
-        if (strImage.isEmpty() || !pattern.exactMatch(strImage) || !DomText::parse(strImage, document))
+        if (!pattern.exactMatch(strImage) || !DomText::parse(strImage, document))
             continue;
         const QDomElement image = document.firstChildElement(QStringLiteral("img"));
         if (!image.isNull())
