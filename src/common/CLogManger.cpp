@@ -4,8 +4,19 @@
 #include "common/CommonFun.h"
 #include "common/CustomLogger.h"
 
-#include <cstring>
-#include <utility>
+#include <algorithm>
+
+namespace {
+
+/// Most records are no longer, so that the growing text is moved by none of its items.
+constexpr int USUAL_LENGTH = 100;
+
+bool isAscii(QLatin1String text)
+{
+    return std::all_of(text.begin(), text.end(), [](char character) { return (character & 0x80) == 0; });
+}
+
+} // namespace
 
 CLogManger *CLogManger::m_pInstance = nullptr;
 
@@ -52,10 +63,10 @@ void CLogManger::clearLog()
     }
 }
 
-CLogManger &CLogManger::startRecord(CustomLog::LogLevel level, QString strLocation)
+CLogManger &CLogManger::startRecord(CustomLog::LogLevel level, const QString &strLocation)
 {
     m_level = level;
-    m_strLocation = std::move(strLocation);
+    m_strLocation = strLocation;
     return *this;
 }
 
@@ -64,11 +75,15 @@ CLogManger &CLogManger::operator<<(const char *szText)
     if (!szText) {
         return *this;
     }
-    if (std::strcmp(szText, "\n") != 0) {
+    const QLatin1String text(szText);
+    if (text == QLatin1String("\n")) {
+        printLog(m_level, m_strLocation, m_strMessage);
+        m_strMessage = QString();
+        m_strMessage.reserve(USUAL_LENGTH);
+    } else if (isAscii(text)) {
+        *m_pTextStream << text;
+    } else {
         *m_pTextStream << QString::fromUtf8(szText);
-        return *this;
     }
-    printLog(m_level, m_strLocation, m_strMessage);
-    m_strMessage.clear();
     return *this;
 }

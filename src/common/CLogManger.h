@@ -42,7 +42,7 @@ public:
     void clearLog();
 
     /// Sets level and location of the record to come. For the macros below.
-    CLogManger &startRecord(CustomLog::LogLevel level, QString strLocation);
+    CLogManger &startRecord(CustomLog::LogLevel level, const QString &strLocation);
 
     /// Adds UTF-8 text to the record, or, for exactly "\n", queues the record and starts an empty one. Null counts as
     /// empty.

@@ -44,14 +44,18 @@ void CLogThread::stop()
 
 void CLogThread::printLog(const CustomLogData &data)
 {
-    const QMutexLocker lock(&m_mutex);
-    m_queue.append(data);
-    m_condition.wakeAll();
+    printLog(data.level, data.location, data.message);
 }
 
 void CLogThread::printLog(CustomLog::LogLevel level, const QString &strLocation, const QString &strMessage)
 {
-    printLog(CustomLogData{level, strLocation, strMessage});
+    const QMutexLocker lock(&m_mutex);
+    m_queue.append(CustomLogData());
+    CustomLogData &record = m_queue.last();
+    record.level = level;
+    record.location = strLocation;
+    record.message = strMessage;
+    m_condition.wakeAll();
 }
 
 void CLogThread::setCustomLogger(CustomLogger *pLogger)

@@ -150,9 +150,76 @@ void LineCutter::glueToNext(const QString &own, const Cut &cut)
         m_fronts.push_front({cut.round, rest});
 }
 
+/// All lines of a read with their line feeds, as if none removed another.
+QStringList plainLines(const QString &text)
+{
+    QStringList lines;
+    int start = 0;
+    for (int end = text.indexOf(QLatin1Char('\n')); end >= 0; end = text.indexOf(QLatin1Char('\n'), start)) {
+        lines.append(text.mid(start, end + 1 - start));
+        start = end + 1;
+    }
+    return lines;
+}
+
+/// A set of hashes, in a table of at least twice its size.
+class HashSet
+{
+public:
+    explicit HashSet(int count)
+    {
+        while ((std::size_t{1} << (64 - m_shift)) < 2 * static_cast<std::size_t>(count) + 1)
+            --m_shift;
+        m_places.resize(std::size_t{1} << (64 - m_shift));
+    }
+    bool contains(quint64 hash) const { return m_places[placeOf(hash)] == hash; }
+    void insert(quint64 hash) { m_places[placeOf(hash)] = hash; }
+
+private:
+    /// Where the hash stands, or the empty place that waits for it.
+    std::size_t placeOf(quint64 hash) const
+    {
+        auto place = static_cast<std::size_t>(hash >> m_shift);
+        while (m_places[place] != 0 && m_places[place] != hash)
+            place = (place + 1) & (m_places.size() - 1);
+        return place;
+    }
+
+    int m_shift = 63;
+    std::vector<quint64> m_places;
+};
+
+/// Whether no line is empty or ends with an earlier one, so that nothing is removed. One pass over the text: each
+/// line's tails are hashed, and those as long as an earlier line are looked up. Equal hashes of different texts only
+/// give a false "no".
+bool standApart(const QStringList &lines)
+{
+    constexpr quint64 factor = 0x9E3779B97F4A7C15;
+    HashSet earlier(lines.size());
+    std::vector<char> lengths;
+    for (const QString &line : lines) {
+        const auto length = static_cast<std::size_t>(line.size()) - 1;
+        if (lengths.size() <= length)
+            lengths.resize(length + 1);
+        quint64 hash = 1;
+        const QChar *const end = line.constData() + length;
+        for (std::size_t tail = 1; tail <= length; ++tail) {
+            hash = (hash + (end - tail)->unicode()) * factor;
+            if (lengths[tail] != 0 && earlier.contains(hash))
+                return false;
+        }
+        if (length == 0)
+            return false;
+        earlier.insert(hash);
+        lengths[length] = 1;
+    }
+    return true;
+}
+
 } // namespace
 
 QStringList cutLines(const QString &text)
 {
-    return LineCutter().cut(text);
+    const QStringList lines = plainLines(text);
+    return standApart(lines) ? lines : LineCutter().cut(text);
 }

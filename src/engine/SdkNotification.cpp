@@ -12,7 +12,9 @@ Line read(const QString &line)
     if (!JsonText::parse(line, root))
         return {};
     try {
-        return {root["resultCode"].asInt(), QString::fromStdString(root["content"].asString())};
+        const Json::Value &content = root["content"];
+        return {root["resultCode"].asInt(),
+                content.isString() ? JsonText::text(content) : QString::fromStdString(content.asString())};
     } catch (const std::exception &) {
         return {};
     }
