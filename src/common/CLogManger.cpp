@@ -5,6 +5,10 @@
 #include "common/CustomLogger.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
+#include <limits>
+#include <utility>
 
 namespace {
 
@@ -77,13 +81,33 @@ CLogManger &CLogManger::operator<<(const char *szText)
     }
     const QLatin1String text(szText);
     if (text == QLatin1String("\n")) {
-        printLog(m_level, m_strLocation, m_strMessage);
-        m_strMessage = QString();
-        m_strMessage.reserve(USUAL_LENGTH);
+        closeRecord();
     } else if (isAscii(text)) {
         *m_pTextStream << text;
     } else {
         *m_pTextStream << QString::fromUtf8(szText);
     }
+    return *this;
+}
+
+void CLogManger::closeRecord()
+{
+    if (m_pLogThread) {
+        m_pLogThread->printLog(CustomLogData{m_level, m_strLocation, std::move(m_strMessage)});
+    }
+    m_strMessage = QString();
+    m_strMessage.reserve(USUAL_LENGTH);
+}
+
+CLogManger &CLogManger::operator<<(int iNumber)
+{
+    // A text stream makes a text by the locale's rules for each number; most are written in plain digits.
+    if (m_pTextStream->integerBase() != 0 || m_pTextStream->numberFlags() != 0) {
+        *m_pTextStream << iNumber;
+        return *this;
+    }
+    std::array<char, std::numeric_limits<int>::digits10 + 2> digits{};
+    const auto end = std::to_chars(digits.begin(), digits.end(), iNumber).ptr;
+    *m_pTextStream << QLatin1String(digits.data(), static_cast<int>(end - digits.data()));
     return *this;
 }

@@ -4,6 +4,8 @@
 
 #include <QMutexLocker>
 
+#include <utility>
+
 namespace {
 
 const int RECORDS_BETWEEN_RESTS = 100;
@@ -44,18 +46,21 @@ void CLogThread::stop()
 
 void CLogThread::printLog(const CustomLogData &data)
 {
-    printLog(data.level, data.location, data.message);
+    printLog(CustomLogData(data));
+}
+
+void CLogThread::printLog(CustomLogData &&data)
+{
+    const QMutexLocker lock(&m_mutex);
+    // A list copies what is appended; the record's texts are moved.
+    m_queue.append(CustomLogData());
+    m_queue.last() = std::move(data);
+    m_condition.wakeAll();
 }
 
 void CLogThread::printLog(CustomLog::LogLevel level, const QString &strLocation, const QString &strMessage)
 {
-    const QMutexLocker lock(&m_mutex);
-    m_queue.append(CustomLogData());
-    CustomLogData &record = m_queue.last();
-    record.level = level;
-    record.location = strLocation;
-    record.message = strMessage;
-    m_condition.wakeAll();
+    printLog(CustomLogData{level, strLocation, strMessage});
 }
 
 void CLogThread::setCustomLogger(CustomLogger *pLogger)

@@ -1,10 +1,13 @@
 #include "engine/LineCutter.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <limits>
 #include <list>
 #include <map>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -162,58 +165,53 @@ QStringList plainLines(const QString &text)
     return lines;
 }
 
-/// A set of hashes, in a table of at least twice its size.
+/// Hashes of texts, in a table of at least twice their number.
 class HashSet
 {
 public:
     explicit HashSet(int count)
     {
-        while ((std::size_t{1} << (64 - m_shift)) < 2 * static_cast<std::size_t>(count) + 1)
-            --m_shift;
-        m_places.resize(std::size_t{1} << (64 - m_shift));
+        while (m_table.size() < 2 * static_cast<std::size_t>(count) + 1)
+            m_table.resize(2 * m_table.size());
     }
-    bool contains(quint64 hash) const { return m_places[placeOf(hash)] == hash; }
-    void insert(quint64 hash) { m_places[placeOf(hash)] = hash; }
+
+    /// False when the hash is there already, or is the one that marks empty places.
+    bool insert(std::size_t hash)
+    {
+        std::size_t place = hash & (m_table.size() - 1);
+        while (m_table[place] != 0 && m_table[place] != hash)
+            place = (place + 1) & (m_table.size() - 1);
+        return std::exchange(m_table[place], hash) != hash;
+    }
 
 private:
-    /// Where the hash stands, or the empty place that waits for it.
-    std::size_t placeOf(quint64 hash) const
-    {
-        auto place = static_cast<std::size_t>(hash >> m_shift);
-        while (m_places[place] != 0 && m_places[place] != hash)
-            place = (place + 1) & (m_places.size() - 1);
-        return place;
-    }
-
-    int m_shift = 63;
-    std::vector<quint64> m_places;
+    std::vector<std::size_t> m_table = std::vector<std::size_t>(2);
 };
 
-/// Whether no line is empty or ends with an earlier one, so that nothing is removed. One pass over the text: each
-/// line's tails are hashed, and those as long as an earlier line are looked up. Equal hashes of different texts only
-/// give a false "no".
+/// Whether `start`, which stands at the start of `line`, stands elsewhere in it as well.
+bool occursAgain(const QString &line, QStringView start)
+{
+    for (int at = line.indexOf(start.front(), 1); at >= 0; at = line.indexOf(start.front(), at + 1)) {
+        if (QStringView(line).mid(at).startsWith(start))
+            return true;
+    }
+    return false;
+}
+
+/// Whether it is plain that none of the lines is empty or ends with an earlier one: all begin alike, nowhere else does
+/// this beginning stand, so that no line is the tail of a longer one, and all are different.
 bool standApart(const QStringList &lines)
 {
-    constexpr quint64 factor = 0x9E3779B97F4A7C15;
-    HashSet earlier(lines.size());
-    std::vector<char> lengths;
-    for (const QString &line : lines) {
-        const auto length = static_cast<std::size_t>(line.size()) - 1;
-        if (lengths.size() <= length)
-            lengths.resize(length + 1);
-        quint64 hash = 1;
-        const QChar *const end = line.constData() + length;
-        for (std::size_t tail = 1; tail <= length; ++tail) {
-            hash = (hash + (end - tail)->unicode()) * factor;
-            if (lengths[tail] != 0 && earlier.contains(hash))
-                return false;
-        }
-        if (length == 0)
-            return false;
-        earlier.insert(hash);
-        lengths[length] = 1;
-    }
-    return true;
+    constexpr int beginning = 4;
+    if (lines.isEmpty() || lines.first().size() <= beginning)
+        return false;
+    const QStringView start = QStringView(lines.first()).left(beginning);
+    HashSet hashes(lines.size());
+    return std::all_of(lines.cbegin(), lines.cend(), [&](const QString &line) {
+        const std::u16string_view text(QStringView(line).utf16(), static_cast<std::size_t>(line.size()));
+        return line.startsWith(start) && !occursAgain(line, start) &&
+               hashes.insert(std::hash<std::u16string_view>()(text));
+    });
 }
 
 } // namespace

@@ -8,9 +8,11 @@ namespace SdkNotification {
 
 Line read(const QString &line)
 {
-    Json::Value root;
-    if (!JsonText::parse(line, root))
+    Json::Value document;
+    if (!JsonText::parse(line, document))
         return {};
+    // Read through a constant, what is absent is not added.
+    const Json::Value &root = document;
     try {
         const Json::Value &content = root["content"];
         return {root["resultCode"].asInt(),
