@@ -41,6 +41,8 @@ class Figure:
     def text(self, value):
         if self.counter.endswith("_KiB"):
             return f"{value / 1024:.1f} MB"
+        if self.counter.endswith("_bytes"):
+            return f"{value:.0f} bytes"
         if self.counter.endswith("_ns"):
             value *= 1e-9
         for factor, unit in ((1, "s"), (1e3, "ms"), (1e6, "µs")):

@@ -4,14 +4,9 @@
 #include "common/ReplaceAll.h"
 
 #include <QRegExp>
+#include <QStringBuilder>
 
 namespace {
-
-// The view takes addresses of this private scheme out of its own navigation and opens what follows.
-QString linkTemplate()
-{
-    return QStringLiteral("<a onfocus='this.blur()' href='web://urllink//@URL@' target='_blank' @STYLE@>@URL@</a>");
-}
 
 QRegExp linkPattern()
 {
@@ -41,9 +36,11 @@ int nextPlaceOfLink(const QString &strText, int iFrom)
     return -1;
 }
 
-QString link(const QString &strUrl, const QString &strStyle)
+// The view takes addresses of this private scheme out of its own navigation and opens what follows.
+void appendLink(QString &strOutput, const QString &strUrl, const QString &strStyle)
 {
-    return linkTemplate().replace(QLatin1String("@URL@"), strUrl).replace(QLatin1String("@STYLE@"), strStyle);
+    strOutput += QLatin1String("<a onfocus='this.blur()' href='web://urllink//") % strUrl %
+                 QLatin1String("' target='_blank' ") % strStyle % QLatin1Char('>') % strUrl % QLatin1String("</a>");
 }
 
 } // namespace
@@ -60,7 +57,7 @@ void HtmlLinks::convertWebLink(QString &strText, const QString &strStyle)
         if (iLink < 0)
             break;
         strOutput += strRest.midRef(iDone, iLink - iDone);
-        strOutput += link(pattern.cap(0), strStyle);
+        appendLink(strOutput, pattern.cap(0), strStyle);
         iDone = iLink + pattern.matchedLength();
     }
     strOutput += strRest.midRef(iDone);
