@@ -165,7 +165,7 @@ void membersKnown(benchmark::State &state)
     countMembers(state);
     engine.callFinished(CallData::FinishHangup);
 }
-BENCHMARK(membersKnown)->Arg(10)->Arg(100)->Arg(1000)->Arg(kMostMembers)->UseRealTime();
+BENCHMARK(membersKnown)->Arg(10)->Arg(100)->Arg(1000)->Arg(kMostMembers);
 
 void bareListView(benchmark::State &state)
 {
