@@ -106,6 +106,16 @@ void queueToFile(benchmark::State &state)
 }
 BENCHMARK(queueToFile)->UseManualTime()->Iterations(1)->Unit(benchmark::kMillisecond);
 
+/// What this machine makes of the rests alone.
+void bareRests(benchmark::State &state)
+{
+    for (auto _ : state) {
+        for (int i = 0; i < 50; ++i)
+            QThread::msleep(10);
+    }
+}
+BENCHMARK(bareRests)->UseRealTime()->Iterations(1)->Unit(benchmark::kMillisecond);
+
 } // namespace
 
 int main(int argc, char **argv)

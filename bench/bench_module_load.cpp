@@ -13,7 +13,8 @@ namespace {
 
 void child(benchmark::State &state, const char *word, const char *module)
 {
-    double kilobytes = 0;
+    double resident = 0;
+    double own = 0;
     for (auto _ : state) {
         QProcess process;
         process.start(QStringLiteral(MODULE_CHILD), {QString::fromLatin1(word), QString::fromLatin1(module)});
@@ -23,9 +24,11 @@ void child(benchmark::State &state, const char *word, const char *module)
         }
         const QList<QByteArray> words = process.readAllStandardOutput().trimmed().split(' ');
         state.SetIterationTime(words.value(0).toDouble() / 1e6);
-        kilobytes = words.value(1).toDouble();
+        resident = words.value(1).toDouble();
+        own = words.value(2).toDouble();
     }
-    state.counters["resident_KiB"] = kilobytes;
+    state.counters["resident_KiB"] = resident;
+    state.counters["own_KiB"] = own;
 }
 
 } // namespace

@@ -170,8 +170,8 @@ def main():
     if options.action == "programs":
         print(*sorted({figure.program for figure in figures + families}))
     elif options.action == "filter":
-        names = {re.escape(f.name) for f in figures if f.program == options.program}
-        names |= {re.escape(f.name) + r"/[0-9]+" for f in families if f.program == options.program}
+        names = {f.name for f in figures if f.program == options.program}
+        names |= {f.name + r"/[0-9]+" for f in families if f.program == options.program}
         print("^(" + "|".join(sorted(names)) + ")(/(iterations|min_time|manual_time|real_time|process_time).*)?$")
     else:
         results = read_results(options.results)

@@ -12,8 +12,8 @@
 
 namespace {
 
-/// Most records are no longer, so that the growing text is moved by none of its items.
-constexpr int USUAL_LENGTH = 100;
+/// Most records are shorter, so that none of their items moves the growing text.
+constexpr int BUFFER_LENGTH = 1000;
 
 bool isAscii(QLatin1String text)
 {
@@ -36,6 +36,7 @@ CLogManger::CLogManger()
     : m_pTextStream(std::make_unique<QTextStream>(&m_strMessage, QIODevice::ReadWrite)),
       m_pLogger(CommonFun::getCustomLogger()), m_pLogThread(CommonFun::getLogThread())
 {
+    m_strMessage.reserve(BUFFER_LENGTH);
     if (m_pLogThread) {
         m_pLogThread->setCustomLogger(m_pLogger);
     }
@@ -92,11 +93,19 @@ CLogManger &CLogManger::operator<<(const char *szText)
 
 void CLogManger::closeRecord()
 {
+    // The queue has no limit, so a record takes no more room than its text; the buffer keeps its own.
+    const bool bUsual = m_strMessage.size() < BUFFER_LENGTH;
     if (m_pLogThread) {
-        m_pLogThread->printLog(CustomLogData{m_level, m_strLocation, std::move(m_strMessage)});
+        m_pLogThread->printLog(
+            CustomLogData{m_level, m_strLocation,
+                          bUsual ? QString(m_strMessage.constData(), m_strMessage.size()) : std::move(m_strMessage)});
     }
-    m_strMessage = QString();
-    m_strMessage.reserve(USUAL_LENGTH);
+    if (bUsual) {
+        m_strMessage.resize(0);
+    } else {
+        m_strMessage = QString();
+        m_strMessage.reserve(BUFFER_LENGTH);
+    }
 }
 
 CLogManger &CLogManger::operator<<(int iNumber)

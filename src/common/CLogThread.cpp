@@ -17,8 +17,9 @@ void CLogThread::run()
 {
     static std::atomic<int> iWritten{0};
     while (!m_bStop) {
-        const CustomLogData data = takeRecord();
-        if (CustomLogger *pLogger = getCustomLogger()) {
+        CustomLogger *pLogger = nullptr;
+        const CustomLogData data = takeRecord(pLogger);
+        if (pLogger) {
             pLogger->printLog(data.level, data.location, data.message);
         }
         if (iWritten++ >= RECORDS_BETWEEN_RESTS - 1) {
@@ -28,12 +29,14 @@ void CLogThread::run()
     }
 }
 
-CustomLogData CLogThread::takeRecord()
+/// Waits for a record. One lock for it and for the log file to write it to, since callers stand at that lock.
+CustomLogData CLogThread::takeRecord(CustomLogger *&pLogger)
 {
     const QMutexLocker lock(&m_mutex);
     while (m_queue.isEmpty()) {
         m_condition.wait(&m_mutex);
     }
+    pLogger = m_pLogger;
     return m_queue.takeFirst();
 }
 

@@ -47,7 +47,7 @@ public:
     CustomLogger *getCustomLogger();
 
 private:
-    CustomLogData takeRecord();
+    CustomLogData takeRecord(CustomLogger *&pLogger);
 
     std::atomic<bool> m_bStop{false};
     QMutex m_mutex;
