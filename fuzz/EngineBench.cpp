@@ -73,9 +73,10 @@ void EngineBench::openChannel()
     manager->m_pVoipSocket = m_pSocket;
 }
 
-void EngineBench::useWindow(bool use)
+void EngineBench::begin(bool withWindow)
 {
-    manager->m_pVoipWidget = use ? m_pWindow : nullptr;
+    CommonFun::setCommonData(&m_context);
+    manager->m_pVoipWidget = withWindow ? m_pWindow : nullptr;
 }
 
 void EngineBench::receive(const QByteArray &bytes)

@@ -1,7 +1,8 @@
 #pragma once
 
-// One call engine for all inputs of a process, with a channel in memory and a host that answers. An input drives it and
-// then calls reset(), after which the engine is idle, its windows empty and closed, nothing posted. GUI thread.
+// One call engine for all inputs of a process, with a channel in memory and a host that answers. An input calls
+// begin(), drives it and calls reset(), after which the engine is idle, its windows empty and closed, nothing posted.
+// GUI thread.
 
 #include "fakes/FakeHost.h"
 #include "fakes/MessageBoxes.h"
@@ -22,8 +23,10 @@ public:
     /// The process's bench, built at the first call and never deleted.
     static EngineBench &instance();
 
-    /// Whether the engine has its call window from here on.
-    void useWindow(bool use);
+    /// Makes the bench's context the process's; the engine has its call window from here on, or not.
+    void begin(bool withWindow);
+    /// Whether it has.
+    bool usesWindow() const { return manager->m_pVoipWidget != nullptr; }
     /// Has the engine find `bytes` as one read of its channel. Nothing happens without a channel or bytes.
     void receive(const QByteArray &bytes);
     /// Delivers what the engine posted to the host and to its windows.

@@ -11,10 +11,12 @@ namespace FuzzTargets {
 /// Reads of the channel, cut into lines and acted on by a call engine without its call window, and what user and host
 /// do meanwhile.
 void wire(const QByteArray &input);
-/// The same with the call window, which takes most of the time.
+/// The same with the call window, the conference centre and message boxes, which take most of the time.
 void window(const QByteArray &input);
-/// Events of the host with payloads of any bytes.
+/// Events of the host with payloads of any bytes, for a call engine without its call window.
 void hostevent(const QByteArray &input);
+/// The same with the call window, the conference centre and message boxes.
+void hostwindow(const QByteArray &input);
 /// A jid as text and in parts, and the rules of user ids.
 void jid(const QByteArray &input);
 /// The JSON of service numbers, their menus and channels.
@@ -47,6 +49,7 @@ inline constexpr FuzzTarget fuzzTargets[] = {
     {"wire", "wire", FuzzTargets::wire, 4096},
     {"window", "wire", FuzzTargets::window, 4096},
     {"hostevent", "hostevent", FuzzTargets::hostevent, 1024},
+    {"hostwindow", "hostevent", FuzzTargets::hostwindow, 1024},
     {"jid", "jid", FuzzTargets::jid, 2200},
     {"service", "service", FuzzTargets::service, 4096},
     {"html", "html", FuzzTargets::html, 4096},

@@ -74,6 +74,16 @@ QString receiverOf(uchar choices)
     return choices & ForNobody ? QString() : voipPluginId();
 }
 
+/// Without the call window no other one comes up either, which keeps such inputs fast.
+bool isAllowed(int command, const EngineBench &bench)
+{
+    if (bench.usesWindow())
+        return true;
+    if (command == MSG_CALL_SINGLE_USER || command == MSG_CALL_CONFERENCE)
+        return !bench.manager->isExistCall() && bench.manager->m_bSocketConnected;
+    return command != MSG_SHOW_VOICE_CONF;
+}
+
 void deliver(EngineBench &bench, int row, uchar choices, const QByteArray &payload)
 {
     static VcardInfo s_card;
@@ -85,6 +95,8 @@ void deliver(EngineBench &bench, int row, uchar choices, const QByteArray &paylo
     }
     if (choices & CallComesIn)
         bench.manager->callbackMessage(0, QStringLiteral("anna"));
+    if (!isAllowed(command, bench))
+        return;
     const QByteArray data =
         command == MSG_UPDATE_USER_INFO ? withAddress(payload, choices & WithCard ? &s_card : nullptr) : payload;
     BaseEvent event(static_cast<EMsgId>(command), sessionPluginId(), receiverOf(choices), false, data);
@@ -93,12 +105,8 @@ void deliver(EngineBench &bench, int row, uchar choices, const QByteArray &paylo
         requirePromise(event.data.size() == 1, "a query is answered");
 }
 
-} // namespace
-
-void FuzzTargets::hostevent(const QByteArray &input)
+void deliverAll(const QByteArray &input, EngineBench &bench)
 {
-    EngineBench &bench = EngineBench::instance();
-    bench.useWindow(true);
     int position = 0;
     for (int count = 0; count < kMostEvents && input.size() - position >= kHeadBytes; ++count) {
         const auto byte = [&](int offset) { return uchar(input.at(position + offset)); };
@@ -109,4 +117,18 @@ void FuzzTargets::hostevent(const QByteArray &input)
         position += kHeadBytes + length;
     }
     bench.reset();
+}
+
+} // namespace
+
+void FuzzTargets::hostevent(const QByteArray &input)
+{
+    EngineBench::instance().begin(false);
+    deliverAll(input, EngineBench::instance());
+}
+
+void FuzzTargets::hostwindow(const QByteArray &input)
+{
+    EngineBench::instance().begin(true);
+    deliverAll(input, EngineBench::instance());
 }

@@ -19,6 +19,17 @@
 
 namespace {
 
+// Every getter of an address. An input asks some of them, the numbers in its first bytes.
+#define URL_ASK_Plain
+#define URL_ASK_Cached
+#define URL_ASK_SignIn
+#define URL_ASK_Arg QStringLiteral("%1 %2")
+#define URL_GETTER(name, key, endpoint, path, form) [] { return CUrlInfo::name(URL_ASK_##form); },
+constexpr QString (*kGetters[])() = {
+#include "common/CUrlInfo.def"
+};
+constexpr int kAskedGetters = 8;
+
 /// Writes `bytes` as the file `path` with its folder.
 void writeFile(const QString &path, const QByteArray &bytes)
 {
@@ -92,12 +103,9 @@ void readAddresses(const QByteArray &bytes)
     QMap<QString, QString> domains;
     CUrlInfo::getSipPhoneRegDomain(domains);
     requirePromise(!domains.isEmpty(), "there is always a host");
-#define URL_ASK_Plain(name) CUrlInfo::name()
-#define URL_ASK_Cached(name) CUrlInfo::name()
-#define URL_ASK_SignIn(name) CUrlInfo::name()
-#define URL_ASK_Arg(name) CUrlInfo::name(QStringLiteral("%1 %2"))
-#define URL_GETTER(name, key, endpoint, path, form) URL_ASK_##form(name);
-#include "common/CUrlInfo.def"
+    constexpr auto count = int(std::size(kGetters));
+    for (const char byte : bytes.left(kAskedGetters))
+        kGetters[uchar(byte) % count]();
     QFile::remove(path);
 }
 
