@@ -1,5 +1,6 @@
 // The short run of the fuzzers in the suite: the kept inputs and some thousand changed ones through each target. What
-// breaks a target ends the program; QTest names the input then.
+// breaks a target ends the program. More changed inputs than that, and from more kept ones, on request:
+//   FUZZ_INPUTS=1000000 FUZZ_FOLDER=.../build-fuzz/corpus/jid tst_FuzzTargets changedInputsPass:jid
 
 #include "FuzzApplication.h"
 #include "FuzzTargets.h"
@@ -14,6 +15,8 @@ namespace {
 
 constexpr quint32 kSeed = 20240607;
 constexpr int kMostChanges = 8;
+constexpr int kChangedInputs = 2000;
+constexpr qint64 kMostGrowthMiB = 64;
 
 QString folderOf(const char *kind, const char *target)
 {
@@ -24,6 +27,23 @@ QByteArray contentOf(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The files of a folder; none for an empty name.
+QList<QByteArray> contentsOf(const QString &folder)
+{
+    QList<QByteArray> contents;
+    const QFileInfoList files = folder.isEmpty() ? QFileInfoList() : QDir(folder).entryInfoList(QDir::Files);
+    for (const QFileInfo &file : files)
+        contents += contentOf(file.filePath());
+    return contents;
+}
+
+/// The memory that this process has in the machine.
+qint64 residentMiB()
+{
+    const QList<QByteArray> words = contentOf(QStringLiteral("/proc/self/statm")).split(' ');
+    return words.value(1).toLongLong() * 4096 / (1024 * 1024);
 }
 
 /// The kept inputs of a target by their paths below fuzz/.
@@ -67,7 +87,8 @@ class Changer
 {
 public:
     explicit Changer(const FuzzTarget &target)
-        : m_inputs(keptInputs(target).values()), m_words(dictionaryOf(target)), m_longest(target.longest)
+        : m_inputs(keptInputs(target).values() + contentsOf(qEnvironmentVariable("FUZZ_FOLDER"))),
+          m_words(dictionaryOf(target)), m_longest(target.longest)
     {
     }
 
@@ -192,7 +213,9 @@ void tst_FuzzTargets::keptInputsPass()
 void tst_FuzzTargets::changedInputsPass()
 {
     QFETCH(const QByteArray, name);
-    constexpr int count = 2000;
+    const int count =
+        qEnvironmentVariableIsSet("FUZZ_INPUTS") ? qEnvironmentVariableIntValue("FUZZ_INPUTS") : kChangedInputs;
+    const qint64 before = residentMiB();
     const FuzzTarget &target = *findFuzzTarget(name);
     Changer changer(target);
     for (int i = 0; i < count; ++i) {
@@ -201,6 +224,8 @@ void tst_FuzzTargets::changedInputsPass()
         QVERIFY2(cpuMs <= mostCpuMs(),
                  qPrintable(QStringLiteral("%1 ms: %2").arg(cpuMs).arg(input.toHex().constData())));
     }
+    const qint64 growth = residentMiB() - before;
+    QVERIFY2(growth <= kMostGrowthMiB, qPrintable(QStringLiteral("%1 MiB more").arg(growth)));
 }
 
 int main(int argc, char **argv)
