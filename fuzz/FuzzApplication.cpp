@@ -30,7 +30,7 @@ void linkPlugins(const QString &folder)
 
 } // namespace
 
-FuzzApplication::FuzzApplication()
+FuzzApplication::FuzzApplication(const QString &folder) : m_box(folder + QLatin1String("/fuzz-XXXXXX"))
 {
     makeFolder(m_box.filePath("tmp"), "TMPDIR");
     makeFolder(m_box.filePath("home"), "HOME");

@@ -12,7 +12,8 @@
 class FuzzApplication
 {
 public:
-    FuzzApplication();
+    /// `folder` is where the folders of its own are made; they go with it.
+    explicit FuzzApplication(const QString &folder);
     ~FuzzApplication();
     FuzzApplication(const FuzzApplication &) = delete;
     FuzzApplication &operator=(const FuzzApplication &) = delete;

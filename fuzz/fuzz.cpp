@@ -3,6 +3,8 @@
 #include "FuzzApplication.h"
 #include "FuzzTargets.h"
 
+#include <QDir>
+
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -25,7 +27,7 @@ int LLVMFuzzerInitialize(int *, char ***)
         std::exit(2);
     }
     // Never destroyed: what Qt keeps to the end stays reachable, so that only true leaks are told.
-    static const auto *s_pApplication = new FuzzApplication;
+    static const auto *s_pApplication = new FuzzApplication(QDir::tempPath());
     static_cast<void>(s_pApplication);
     // The first input pays for what is made once.
     g_pTarget->run(QByteArray());

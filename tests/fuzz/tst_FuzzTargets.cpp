@@ -230,7 +230,9 @@ void tst_FuzzTargets::changedInputsPass()
 
 int main(int argc, char **argv)
 {
-    const FuzzApplication application;
+    // In memory where there is room, since some targets write a file for each input.
+    const QString memory = QStringLiteral("/dev/shm");
+    const FuzzApplication application(QFileInfo(memory).isWritable() ? memory : QDir::tempPath());
     tst_FuzzTargets test;
     return QTest::qExec(&test, argc, argv);
 }
