@@ -50,7 +50,7 @@ QString fieldText(char type, PayloadReader &in)
     case 'q':
         return QString::number(in.take<qint64>());
     case 'r': {
-        const qint32 result = in.take<qint32>();
+        const auto result = in.take<qint32>();
         return QStringLiteral("%1 %2").arg(result).arg(outcomeWord(result));
     }
     case 'p':
