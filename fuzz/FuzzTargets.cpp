@@ -13,10 +13,12 @@ constexpr int kHangMs = 100;
 // The sanitizers' own share, with assertions on and little optimisation.
 constexpr int kSanitizerFactor = 4;
 
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define FUZZ_SANITIZED
-#endif
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kSanitized = true;
+#elif defined(__has_feature)
+constexpr bool kSanitized = __has_feature(address_sanitizer);
+#else
+constexpr bool kSanitized = false;
 #endif
 
 qint64 cpuMicroseconds()
@@ -36,13 +38,14 @@ const FuzzTarget *findFuzzTarget(const char *name)
     return row == end ? nullptr : row;
 }
 
+bool isSanitized()
+{
+    return kSanitized;
+}
+
 int mostCpuMs()
 {
-#ifdef FUZZ_SANITIZED
-    return kHangMs * kSanitizerFactor;
-#else
-    return kHangMs;
-#endif
+    return kSanitized ? kHangMs * kSanitizerFactor : kHangMs;
 }
 
 int cpuMsOf(const FuzzTarget &target, const QByteArray &input)

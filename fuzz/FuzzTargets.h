@@ -63,6 +63,9 @@ inline constexpr FuzzTarget fuzzTargets[] = {
 /// The target of that name, or null.
 const FuzzTarget *findFuzzTarget(const char *name);
 
+/// Whether this is a build with AddressSanitizer, which takes time and keeps freed memory back.
+bool isSanitized();
+
 /// The processor time that a target may take for one input, in milliseconds. More counts as a hang.
 int mostCpuMs();
 

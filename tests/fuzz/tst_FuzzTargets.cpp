@@ -43,7 +43,7 @@ QList<QByteArray> contentsOf(const QString &folder)
 qint64 residentMiB()
 {
     const QList<QByteArray> words = contentOf(QStringLiteral("/proc/self/statm")).split(' ');
-    return words.value(1).toLongLong() * 4096 / (1024 * 1024);
+    return words.value(1).toLongLong() * Q_INT64_C(4096) / Q_INT64_C(1048576);
 }
 
 /// The kept inputs of a target by their paths below fuzz/.
@@ -225,7 +225,7 @@ void tst_FuzzTargets::changedInputsPass()
                  qPrintable(QStringLiteral("%1 ms: %2").arg(cpuMs).arg(input.toHex().constData())));
     }
     const qint64 growth = residentMiB() - before;
-    QVERIFY2(growth <= kMostGrowthMiB, qPrintable(QStringLiteral("%1 MiB more").arg(growth)));
+    QVERIFY2(isSanitized() || growth <= kMostGrowthMiB, qPrintable(QStringLiteral("%1 MiB more").arg(growth)));
 }
 
 int main(int argc, char **argv)
