@@ -54,7 +54,7 @@ inline constexpr FuzzTarget fuzzTargets[] = {
     {"service", "service", FuzzTargets::service, 4096},
     {"html", "html", FuzzTargets::html, 4096},
     {"settings", "settings", FuzzTargets::settings, 4096},
-    {"picture", "picture", FuzzTargets::picture, 8192},
+    {"picture", "picture", FuzzTargets::picture, 2048},
     {"members", "members", FuzzTargets::members, 2048},
     {"bubble", "bubble", FuzzTargets::bubble, 512},
     // clang-format on
