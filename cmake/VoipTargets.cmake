@@ -2,7 +2,14 @@
 
 set(VOIP_WARNINGS
     -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
-    -Wnull-dereference -Wduplicated-cond -Wlogical-op -Wformat=2)
+    -Wnull-dereference)
+set(VOIP_COMPILER)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  list(APPEND VOIP_WARNINGS -Wduplicated-cond -Wlogical-op)
+  # ccache needs it to know a precompiled header's content.
+  set(VOIP_COMPILER -fpch-preprocess)
+endif()
+list(APPEND VOIP_WARNINGS -Wformat=2)
 
 # A log statement holds its source's name from here on, not the folder that it was built in.
 set(VOIP_PATHS -fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
@@ -16,11 +23,11 @@ target_link_libraries(voip_pch PRIVATE ${VOIP_QT})
 target_precompile_headers(voip_pch PRIVATE
     <QtCore/QtCore> <QtGui/QtGui> <QtWidgets/QtWidgets> <QtNetwork/QtNetwork>)
 set_target_properties(voip_pch PROPERTIES AUTOMOC OFF AUTOUIC OFF)
-target_compile_options(voip_pch PRIVATE ${VOIP_WARNINGS} -fpch-preprocess -fPIC ${VOIP_PATHS})
+target_compile_options(voip_pch PRIVATE ${VOIP_WARNINGS} ${VOIP_COMPILER} -fPIC ${VOIP_PATHS})
 
 # Compiler settings of the project's own code. Includes are written from src/ ("store/DB.h").
 function(voip_own_code target)
-  target_compile_options(${target} PRIVATE ${VOIP_WARNINGS} -fpch-preprocess -fPIC ${VOIP_PATHS})
+  target_compile_options(${target} PRIVATE ${VOIP_WARNINGS} ${VOIP_COMPILER} -fPIC ${VOIP_PATHS})
   target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   target_link_libraries(${target} PRIVATE ${VOIP_QT})
   target_precompile_headers(${target} REUSE_FROM voip_pch)
