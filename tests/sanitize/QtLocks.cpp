@@ -7,6 +7,7 @@
 #include <QWaitCondition>
 
 #include <dlfcn.h>
+#include <pthread.h>
 
 extern "C" {
 void __tsan_acquire(void *address);
@@ -15,8 +16,8 @@ void __tsan_release(void *address);
 
 namespace {
 
-// Whatever a thread did before it last let a lock go has happened when somebody has waited for its end.
-char s_anyLock;
+// A thread that ends wakes those who wait for that: whatever it did before has happened for them.
+char s_ends;
 
 template <typename Function>
 Function *libraryOwn(const char *name)
@@ -39,7 +40,6 @@ STANDS_BEFORE_QT void QMutex::unlock() noexcept
 {
     static auto *const s_own = libraryOwn<void(QMutex *)>("_ZN6QMutex6unlockEv");
     __tsan_release(this);
-    __tsan_release(&s_anyLock);
     s_own(this);
 }
 
@@ -57,6 +57,13 @@ STANDS_BEFORE_QT bool QThread::wait(QDeadlineTimer deadline)
 {
     static auto *const s_own = libraryOwn<bool(QThread *, QDeadlineTimer)>("_ZN7QThread4waitE14QDeadlineTimer");
     const bool ended = s_own(this, deadline);
-    __tsan_acquire(&s_anyLock);
+    __tsan_acquire(&s_ends);
     return ended;
+}
+
+extern "C" STANDS_BEFORE_QT int pthread_cond_broadcast(pthread_cond_t *condition) noexcept
+{
+    static auto *const s_own = libraryOwn<int(pthread_cond_t *)>("pthread_cond_broadcast");
+    __tsan_release(&s_ends);
+    return s_own(condition);
 }

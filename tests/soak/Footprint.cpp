@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <malloc.h>
+#include <numeric>
 #include <unistd.h>
 
 namespace {
@@ -75,6 +76,11 @@ Footprint Footprint::now()
     return print;
 }
 
+int Footprint::objectCount() const
+{
+    return std::accumulate(objects.cbegin(), objects.cend(), 0);
+}
+
 QString Footprint::text() const
 {
     const QString heap = isHeapKnown() ? QStringLiteral("%L1 bytes").arg(heapBytes) : QStringLiteral("unknown");
@@ -83,6 +89,6 @@ QString Footprint::text() const
         .arg(residentBytes / 1024)
         .arg(descriptors)
         .arg(windows)
-        .arg(objects)
+        .arg(objectCount())
         .arg(timers.join(QStringLiteral(", ")));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>
@@ -12,7 +13,11 @@ struct Footprint
     int descriptors = 0;
     int windows = 0;    ///< top windows, shown or hidden
     QStringList timers; ///< that run on the GUI thread, see ObjectCensus
-    int objects = 0;    ///< QObjects
+
+    QMap<QString, int> objects; ///< QObjects, by their classes
+
+    /// How many QObjects.
+    int objectCount() const;
 
     /// Measures, after what the allocator holds in reserve was given back to the system.
     static Footprint now();

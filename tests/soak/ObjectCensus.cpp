@@ -49,10 +49,14 @@ void ObjectCensus::start()
     qtHookData[removeObject] = reinterpret_cast<quintptr>(&removed);
 }
 
-int ObjectCensus::objects()
+QMap<QString, int> ObjectCensus::objects()
 {
+    QMap<QString, int> counts;
     const QMutexLocker lock(&living().mutex);
-    return int(living().objects.size());
+    for (const QObject *object : living().objects) {
+        ++counts[QLatin1String(object->metaObject()->className())];
+    }
+    return counts;
 }
 
 QStringList ObjectCensus::runningTimers()

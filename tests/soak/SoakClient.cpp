@@ -133,9 +133,13 @@ void SoakClient::callConference(const QStringList &uids)
 
 void SoakClient::letCallBack(const QString &uid)
 {
+    constexpr int rejected = 26;
     const int before = m_incoming;
     call(uid);
-    finished();
+    while (finished().result != rejected) {
+        ++givenUp;
+        call(uid);
+    }
     waitFor(uid + QStringLiteral(" to call"), [&] { return m_incoming > before; });
 }
 
@@ -156,21 +160,24 @@ void SoakClient::waitForNoCall()
     waitFor(QStringLiteral("the end of every call"), [this] { return !m_session.isExistCall(); });
 }
 
-void SoakClient::waitForConnection()
+bool SoakClient::waitForConnection()
 {
-    waitFor(QStringLiteral("the connection"), [this] {
-        return window("CVoipWidget")->findChild<QLabel *>(QStringLiteral("lblStatus"))->text() == m_connectedText;
-    });
+    const auto *status = window("CVoipWidget")->findChild<QLabel *>(QStringLiteral("lblStatus"));
+    waitFor(QStringLiteral("the connection"),
+            [&] { return status->text() == m_connectedText || !m_session.isExistCall(); });
+    return m_session.isExistCall();
 }
 
 void SoakClient::waitForStatus(const QString &uid)
 {
-    waitFor(QStringLiteral("a status of ") + uid, [&] { return statusOf(uid) != ConferenceCalling; });
+    waitFor(QStringLiteral("a status of ") + uid,
+            [&] { return statusOf(uid) != ConferenceCalling || !m_session.isExistCall(); });
 }
 
 void SoakClient::waitForStatus(const QString &uid, int status)
 {
-    waitFor(QStringLiteral("status %1 of %2").arg(status).arg(uid), [&] { return statusOf(uid) == status; });
+    waitFor(QStringLiteral("status %1 of %2").arg(status).arg(uid),
+            [&] { return statusOf(uid) == status || !m_session.isExistCall(); });
 }
 
 int SoakClient::registrations() const

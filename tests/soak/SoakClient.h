@@ -50,11 +50,12 @@ public:
     CallRecord finished();
     /// Waits until there is no call in any state.
     void waitForNoCall();
-    /// Waits until the call window says that the call is connected.
-    void waitForConnection();
-    /// Waits until the member's row in the call window has another status than that of being called.
+    /// Waits until the call window says that the call is connected; false when the call has ended before.
+    bool waitForConnection();
+    /// Waits until the conference has ended or the member's row in the call window has another status than that of
+    /// being called.
     void waitForStatus(const QString &uid);
-    /// Waits until the member's row has this status.
+    /// Waits until the conference has ended or the member's row has this status.
     void waitForStatus(const QString &uid, int status);
     /// Waits until the call process has answered to a registration: nothing that it said before is still on its way.
     void waitForSilence();
@@ -82,6 +83,8 @@ public:
     void settle();
 
     UndeletedEvents undeleted;
+    /// How many calls ended before they could go as they should have.
+    int givenUp = 0;
 
 private:
     QWidget *window(const char *className) const;

@@ -29,10 +29,14 @@ constexpr int hungUp = 24;
 constexpr int isBusy = 25;
 constexpr int rejected = 26;
 
+/// Takes the call's record. Either side may have given the call up first when the machine is busy elsewhere; that is
+/// counted.
 void expect(SoakClient &client, int result)
 {
     const CallRecord record = client.finished();
-    if (record.result != result) {
+    if (record.result == cancelled && result != cancelled) {
+        ++client.givenUp;
+    } else if (record.result != result) {
         throw SoakFailure(QStringLiteral("the call with %1 ended with %2 and not with %3")
                               .arg(record.uid)
                               .arg(record.result)
@@ -67,9 +71,10 @@ int cancelledByClosing(SoakClient &client)
 int hungUpByUser(SoakClient &client)
 {
     client.call(answers);
-    client.waitForConnection();
-    client.click("btnMic");
-    client.click("HangUp");
+    if (client.waitForConnection()) {
+        client.click("btnMic");
+        client.click("HangUp");
+    }
     expect(client, hungUp);
     return 1;
 }
@@ -78,11 +83,7 @@ int acceptedCall(SoakClient &client)
 {
     client.letCallBack(callsBack);
     client.answer(true);
-    // A robot gives up when a busy machine lets it wait.
-    const int result = client.finished().result;
-    if (result != hungUp && result != cancelled) {
-        throw SoakFailure(QStringLiteral("an accepted call ended with %1").arg(result));
-    }
+    expect(client, hungUp);
     client.waitForSilence();
     return 2;
 }
@@ -91,10 +92,7 @@ int rejectedCall(SoakClient &client)
 {
     client.letCallBack(callsBack);
     client.answer(false);
-    const int result = client.finished().result;
-    if (result != rejected && result != cancelled) {
-        throw SoakFailure(QStringLiteral("a rejected call ended with %1").arg(result));
-    }
+    expect(client, rejected);
     client.waitForSilence();
     return 2;
 }
@@ -183,7 +181,10 @@ void Workload::nextConference()
 void Workload::longCall()
 {
     m_client.call(answers);
-    m_client.waitForConnection();
+    if (!m_client.waitForConnection()) {
+        expect(m_client, hungUp);
+        return;
+    }
     m_client.pass(longCallSeconds);
     m_client.click("HangUp");
     const CallRecord record = m_client.finished();
