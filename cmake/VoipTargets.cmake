@@ -25,12 +25,22 @@ target_precompile_headers(voip_pch PRIVATE
 set_target_properties(voip_pch PROPERTIES AUTOMOC OFF AUTOUIC OFF)
 target_compile_options(voip_pch PRIVATE ${VOIP_WARNINGS} ${VOIP_COMPILER} -fPIC ${VOIP_PATHS})
 
+if(VOIP_SANITIZE)
+  add_library(voip_keep_libraries OBJECT ${CMAKE_SOURCE_DIR}/tests/sanitize/KeepLibraries.cpp)
+  set_target_properties(voip_keep_libraries PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+  target_compile_options(voip_keep_libraries PRIVATE -fPIC)
+endif()
+
 # Compiler settings of the project's own code. Includes are written from src/ ("store/DB.h").
 function(voip_own_code target)
   target_compile_options(${target} PRIVATE ${VOIP_WARNINGS} ${VOIP_COMPILER} -fPIC ${VOIP_PATHS})
   target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   target_link_libraries(${target} PRIVATE ${VOIP_QT})
   target_precompile_headers(${target} REUSE_FROM voip_pch)
+  get_target_property(type ${target} TYPE)
+  if(VOIP_SANITIZE AND type STREQUAL "EXECUTABLE")
+    target_link_libraries(${target} PRIVATE voip_keep_libraries)
+  endif()
 endfunction()
 
 # voip_library(name SOURCES ... LINKS ...): the static library voip_name, known as Voip::name.
@@ -58,6 +68,9 @@ function(voip_test name)
   add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/isolated ${screen} $<TARGET_FILE:${name}>)
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 300)
+  endif()
+  if(VOIP_SANITIZE)
+    math(EXPR ARG_TIMEOUT "3 * ${ARG_TIMEOUT}")
   endif()
   set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT})
   if(ARG_ENV)
