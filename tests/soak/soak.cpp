@@ -24,6 +24,8 @@ constexpr int warmUpCalls = 100;
 constexpr int warmUpHours = 1;
 // What is held is shown after each of them.
 constexpr int parts = 10;
+// After so many parts everything that is made on a first need has been needed, glyphs of the fonts above all.
+constexpr int settlingParts = 2;
 constexpr qint64 mostGrowthPercent = 1;
 // Qt makes a few objects on a first need that comes later.
 constexpr int lateObjects = 8;
@@ -120,8 +122,8 @@ void runCalls(SoakClient &client, Workload &work, const Plan &plan, Course &cour
     };
     const std::int64_t start = FastClock::realMs();
     course.early = after(warmUpCalls);
-    course.settled = after(qMax(warmUpCalls, plan.calls / parts));
-    for (int part = 2; part < parts; ++part) {
+    course.settled = after(qMax(warmUpCalls, plan.calls * settlingParts / parts));
+    for (int part = settlingParts + 1; part < parts; ++part) {
         after(int(qint64(plan.calls) * part / parts));
     }
     course.late = after(plan.calls);
@@ -142,7 +144,7 @@ void runHours(SoakClient &client, Workload &work, const Plan &plan, Course &cour
         if (hour == warmUpHours) {
             course.early = print;
         }
-        if (hour == qMax(warmUpHours, plan.hours / parts)) {
+        if (hour == qMax(warmUpHours, plan.hours * settlingParts / parts)) {
             course.settled = print;
         }
         course.late = print;
