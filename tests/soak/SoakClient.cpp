@@ -138,6 +138,7 @@ void SoakClient::letCallBack(const QString &uid)
     call(uid);
     while (finished().result != rejected) {
         ++givenUp;
+        waitForSilence();
         call(uid);
     }
     waitFor(uid + QStringLiteral(" to call"), [&] { return m_incoming > before; });

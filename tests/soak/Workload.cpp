@@ -36,6 +36,7 @@ void expect(SoakClient &client, int result)
     const CallRecord record = client.finished();
     if (record.result == cancelled && result != cancelled) {
         ++client.givenUp;
+        client.waitForSilence();
     } else if (record.result != result) {
         throw SoakFailure(QStringLiteral("the call with %1 ended with %2 and not with %3")
                               .arg(record.uid)

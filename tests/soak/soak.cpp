@@ -24,7 +24,11 @@ constexpr int warmUpCalls = 100;
 constexpr int warmUpHours = 1;
 // What is held is shown after each of them.
 constexpr int parts = 10;
+// After so many parts everything that is made on a first need has been needed, glyphs of the fonts above all.
+constexpr int settlingParts = 2;
 constexpr qint64 mostGrowthPercent = 1;
+// Lists keep the room of the longest that they have been: the log's queue, the queues of events.
+constexpr qint64 keptRoomBytes = 96 * 1024;
 // Qt makes a few objects on a first need that comes later.
 constexpr int lateObjects = 8;
 
@@ -120,8 +124,8 @@ void runCalls(SoakClient &client, Workload &work, const Plan &plan, Course &cour
     };
     const std::int64_t start = FastClock::realMs();
     course.early = after(warmUpCalls);
-    course.settled = after(qMax(warmUpCalls, plan.calls / parts));
-    for (int part = 2; part < parts; ++part) {
+    course.settled = after(qMax(warmUpCalls, plan.calls * settlingParts / parts));
+    for (int part = settlingParts + 1; part < parts; ++part) {
         after(int(qint64(plan.calls) * part / parts));
     }
     course.late = after(plan.calls);
@@ -142,7 +146,7 @@ void runHours(SoakClient &client, Workload &work, const Plan &plan, Course &cour
         if (hour == warmUpHours) {
             course.early = print;
         }
-        if (hour == qMax(warmUpHours, plan.hours / parts)) {
+        if (hour == qMax(warmUpHours, plan.hours * settlingParts / parts)) {
             course.settled = print;
         }
         course.late = print;
@@ -171,7 +175,8 @@ bool isHeld(const Course &course)
                 .arg(ratio(late.residentBytes, course.early.residentBytes),
                      ratio(late.heapBytes, course.early.heapBytes), ratio(late.heapBytes, course.settled.heapBytes)));
         check("resident memory", late.residentBytes, course.early.residentBytes * (100 + mostGrowthPercent) / 100);
-        check("heap in use", late.heapBytes, course.settled.heapBytes * (100 + mostGrowthPercent) / 100);
+        check("heap in use", late.heapBytes,
+              course.settled.heapBytes * (100 + mostGrowthPercent) / 100 + keptRoomBytes);
     }
     check("descriptors", late.descriptors, course.early.descriptors);
     check("windows", late.windows, course.start.windows);
