@@ -65,8 +65,10 @@ public:
     QString logFile() const { return m_context.logFile(); }
 
 signals:
-    /// An event has passed: from the plug-in or to it, in words, with the answer where it was a question.
-    void eventPassed(bool bFromPlugin, int iMsgId, const QString &strWords, const QString &strAnswer);
+    /// An event has passed: from the plug-in or to it, in words, with the answer where it was a question. `payload` is
+    /// what it carried, `reply` what a question carried back.
+    void eventPassed(bool bFromPlugin, int iMsgId, const QString &strWords, const QString &strAnswer,
+                     const QByteArray &payload, const QByteArray &reply);
     void onlineChanged(bool bOnline);
 
 private:

@@ -3,11 +3,14 @@
 
 #include "ContactBook.h"
 #include "ContactRow.h"
+#include "HappeningsPanel.h"
 #include "HostPictures.h"
 #include "HostSession.h"
 #include "MemberPicker.h"
+#include "TraceFolder.h"
 
 #include <QCloseEvent>
+#include <QShortcut>
 
 MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     : ui(std::make_unique<Ui::MainWindow>()), m_session(session), m_book(book), m_records(book), m_prompt(book),
@@ -17,6 +20,7 @@ MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     fillHeader();
     fillContacts();
     setUpRecords();
+    setUpHappenings();
     connectSession();
     showNotice();
     showOnline(m_session.isOnline());
@@ -59,6 +63,18 @@ void MainWindow::setUpRecords()
     }
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui->tableRecords->verticalHeader()->setDefaultSectionSize(32);
+}
+
+void MainWindow::setUpHappenings()
+{
+    auto *panel = new HappeningsPanel(m_session, TraceFolder::file(), this);
+    panel->hide();
+    ui->splitter->addWidget(panel);
+    ui->happeningsButton->setText(panel->windowTitle());
+    connect(panel, &QWidget::windowTitleChanged, ui->happeningsButton, &QAbstractButton::setText);
+    connect(ui->happeningsButton, &QAbstractButton::toggled, panel, &QWidget::setVisible);
+    const auto *shortcut = new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_H, this);
+    connect(shortcut, &QShortcut::activated, ui->happeningsButton, &QAbstractButton::toggle);
 }
 
 void MainWindow::connectSession()

@@ -16,8 +16,8 @@ class MainWindow;
 }
 
 /// The demo's window: contacts with call buttons on the left, the records of finished calls on the right, the login
-/// switch on top, and below it what has to be told of the local store. It owns the prompt of incoming calls and the
-/// signature card. GUI thread; session and book must outlive it.
+/// switch on top, and below it what has to be told of the local store; to the right, on demand, what happens. It owns
+/// the prompt of incoming calls and the signature card. GUI thread; session and book must outlive it.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -41,6 +41,7 @@ private:
     void fillHeader();
     void fillContacts();
     void setUpRecords();
+    void setUpHappenings();
     void connectSession();
     void call(const QString &strUid, bool bVideo);
     /// Lets the user pick people, those named checked from the start, and calls them together.

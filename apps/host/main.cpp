@@ -8,6 +8,7 @@
 #include "TourHand.h"
 #include "TourSteps.h"
 #include "TourWatch.h"
+#include "TraceFolder.h"
 #include "WindowFont.h"
 
 #include "common/AppInfo.h"
@@ -102,6 +103,7 @@ int main(int argc, char **argv)
         traceFile = prepareTour(folder);
         debug = std::make_unique<DebugChannel>(folder + QStringLiteral("/debug.txt"));
     }
+    const TraceFolder traces;
     // Ring and resources are found relative to the working directory.
     QDir::setCurrent(QCoreApplication::applicationDirPath());
 
