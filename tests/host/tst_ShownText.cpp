@@ -62,21 +62,30 @@ void tst_ShownText::valuesOfSecretKeysAreMasked_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("masked");
-    QTest::newRow("json") << R"({"cookie":"s3cr3t","a":"b"})" << R"({"cookie":"••••••","a":"b"})";
-    QTest::newRow("json with spaces") << R"({"Password" : "s3cr3t"})" << R"({"Password" : "••••••"})";
-    QTest::newRow("part of a name") << R"({"access_token":"s3cr3t"})" << R"({"access_token":"••••••"})";
-    QTest::newRow("quote within") << R"({"secret":"s3\"cr3t","a":1})" << R"({"secret":"••••••","a":1})";
+    QTest::newRow("json") << R"({"cookie":"s3cr3t","a":"b"})"
+                          << R"({"cookie":"••••••","a":"b"})";
+    QTest::newRow("json with spaces") << R"({"Password" : "s3cr3t"})"
+                                      << R"({"Password" : "••••••"})";
+    QTest::newRow("part of a name") << R"({"access_token":"s3cr3t"})"
+                                    << R"({"access_token":"••••••"})";
+    QTest::newRow("quote within") << R"({"secret":"s3\"cr3t","a":1})"
+                                  << R"({"secret":"••••••","a":1})";
     QTest::newRow("json within json") << R"({"content":"{\"token\":\"s3cr3t\",\"a\":1}"})"
                                       << R"({"content":"{\"token\":\"••••••\",\"a\":1}"})";
-    QTest::newRow("quote within json within json")
-        << R"({"content":"{\"pwd\":\"s3\\\"cr3t\",\"a\":1}"})" << R"({"content":"{\"pwd\":\"••••••\",\"a\":1}"})";
-    QTest::newRow("log line") << "GET / Cookie: sid=s3cr3t; theme=s3cr3t" << "GET / Cookie: ••••••";
+    QTest::newRow("quote within json within json") << R"({"content":"{\"pwd\":\"s3\\\"cr3t\",\"a\":1}"})"
+                                                   << R"({"content":"{\"pwd\":\"••••••\",\"a\":1}"})";
+    QTest::newRow("log line") << "GET / Cookie: sid=s3cr3t; theme=s3cr3t"
+                              << "GET / Cookie: ••••••";
     QTest::newRow("header in json") << R"({"content":"Authorization: Bearer s3cr3t","resultCode":999})"
                                     << R"({"content":"Authorization: ••••••","resultCode":999})";
-    QTest::newRow("number") << R"({"token":12345})" << R"({"token":••••••)";
-    QTest::newRow("list") << R"({"cookies":[{"name":"sid","value":"s3cr3t"}]})" << R"({"cookies":••••••)";
-    QTest::newRow("several") << R"({"pwd":"s3cr3t","token":"s3cr3t"})" << R"({"pwd":"••••••","token":"••••••"})";
-    QTest::newRow("empty") << R"({"pwd":"","a":"b"})" << R"({"pwd":"","a":"b"})";
+    QTest::newRow("number") << R"({"token":12345})"
+                            << R"({"token":••••••)";
+    QTest::newRow("list") << R"({"cookies":[{"name":"sid","value":"s3cr3t"}]})"
+                          << R"({"cookies":••••••)";
+    QTest::newRow("several") << R"({"pwd":"s3cr3t","token":"s3cr3t"})"
+                             << R"({"pwd":"••••••","token":"••••••"})";
+    QTest::newRow("empty") << R"({"pwd":"","a":"b"})"
+                           << R"({"pwd":"","a":"b"})";
 }
 
 void tst_ShownText::valuesOfSecretKeysAreMasked()

@@ -70,6 +70,11 @@ QStringList sourceFiles()
     QStringList files;
     while (walk.hasNext())
         files.append(walk.next());
+    QDirIterator panel(QStringLiteral(VOIP_CLIENT),
+                       {"Happenings*", "Sentence.cpp", "EventSentences.cpp", "ShownText.cpp", "WireWords.cpp"},
+                       QDir::Files);
+    while (panel.hasNext())
+        files.append(panel.next());
     return files;
 }
 

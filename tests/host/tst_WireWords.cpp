@@ -57,13 +57,13 @@ void tst_WireWords::everyNotificationOfTheProtocolHasItsWords()
         QVERIFY2(WireWords::hasNotification(int(row.code)), row.name);
     }
     for (const SdkNotification::Code code :
-         {SdkNotification::IncomingCall, SdkNotification::IncomingCallAlt, SdkNotification::IncomingConf,
-          SdkNotification::RejectRequest, SdkNotification::PeerCanceled, SdkNotification::UserRejected,
-          SdkNotification::CallEnded, SdkNotification::PeerHangup, SdkNotification::PeerHangupAlt,
-          SdkNotification::PeerRejected, SdkNotification::ConfUpdate, SdkNotification::ConfMemberLeft,
-          SdkNotification::SdkFlag, SdkNotification::CallConnected, SdkNotification::CallFailed,
-          SdkNotification::ConfCreated, SdkNotification::ConfAddResult, SdkNotification::PeerBusy,
-          SdkNotification::CallFailedAlt, SdkNotification::CallFailedAlt2, SdkNotification::ConfMemberRejected,
+         {SdkNotification::IncomingCall,  SdkNotification::IncomingCallAlt, SdkNotification::IncomingConf,
+          SdkNotification::RejectRequest, SdkNotification::PeerCanceled,    SdkNotification::UserRejected,
+          SdkNotification::CallEnded,     SdkNotification::PeerHangup,      SdkNotification::PeerHangupAlt,
+          SdkNotification::PeerRejected,  SdkNotification::ConfUpdate,      SdkNotification::ConfMemberLeft,
+          SdkNotification::SdkFlag,       SdkNotification::CallConnected,   SdkNotification::CallFailed,
+          SdkNotification::ConfCreated,   SdkNotification::ConfAddResult,   SdkNotification::PeerBusy,
+          SdkNotification::CallFailedAlt, SdkNotification::CallFailedAlt2,  SdkNotification::ConfMemberRejected,
           SdkNotification::SdkLog}) {
         QVERIFY2(WireWords::hasNotification(code), qPrintable(QString::number(code)));
     }
@@ -75,8 +75,9 @@ void tst_WireWords::commandsAreSaid_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("words");
-    QTest::newRow("register") << R"({"messagetype":"RegeditUser","param1":"30010000","param2":"Li","param3":"s","param4":false})"
-                              << "the plug-in registers 30010000 (Li) at the call process";
+    QTest::newRow("register")
+        << R"({"messagetype":"RegeditUser","param1":"30010000","param2":"Li","param3":"s","param4":false})"
+        << "the plug-in registers 30010000 (Li) at the call process";
     QTest::newRow("unregister") << R"({"messagetype":"UnReg","param1":"30010000"})"
                                 << "the plug-in takes the registration of 30010000 back";
     QTest::newRow("voice") << R"({"messagetype":"CallUser","param1":"30010001","param2":false})"
@@ -102,7 +103,8 @@ void tst_WireWords::commandsAreSaid_data()
                             << "the plug-in sets the microphone to volume 55";
     QTest::newRow("without its parameters") << R"({"messagetype":"CallUser"})"
                                             << "the plug-in asks the call process to call — —";
-    QTest::newRow("quit") << "quit" << "the plug-in tells the call process to quit";
+    QTest::newRow("quit") << "quit"
+                          << "the plug-in tells the call process to quit";
 }
 
 void tst_WireWords::commandsAreSaid()
@@ -117,10 +119,12 @@ void tst_WireWords::notificationsAreSaid_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("words");
-    QTest::newRow("answered") << R"({"content":"","resultCode":18})" << "call process: the far end has answered (18)";
+    QTest::newRow("answered") << R"({"content":"","resultCode":18})"
+                              << "call process: the far end has answered (18)";
     QTest::newRow("rings") << R"({"content":"30010007","resultCode":0})"
                            << "call process: 30010007 is calling (0)";
-    QTest::newRow("without content") << R"({"resultCode":22})" << "call process: the far end is busy (22)";
+    QTest::newRow("without content") << R"({"resultCode":22})"
+                                     << "call process: the far end is busy (22)";
     QTest::newRow("invitation")
         << R"({"content":"{\"content\":{\"from\":\"30010008\",\"conventioneer\":[\"1\",\"2\"],\"confId\":\"c\"}}","resultCode":2})"
         << "call process: 30010008 invites to a conference, connected: 1, 2 (2)";
@@ -132,7 +136,8 @@ void tst_WireWords::notificationsAreSaid_data()
                                    << "call process: the conference could not be made (20)";
     QTest::newRow("added") << R"({"content":"{\"status\":0,\"result\":{\"failedNums\":[\"5\"]}}","resultCode":21})"
                            << "call process: people were added, not reached: 5 (21)";
-    QTest::newRow("log") << R"({"content":"<b>line</b>","resultCode":999})" << "call process logs: <b>line</b> (999)";
+    QTest::newRow("log") << R"({"content":"<b>line</b>","resultCode":999})"
+                         << "call process logs: <b>line</b> (999)";
     QTest::newRow("without action") << R"({"content":"x","resultCode":14})"
                                     << "call process: a notification that leads to nothing, content x (14)";
 }
@@ -182,8 +187,8 @@ void tst_WireWords::linesThatBreakTheProtocolAreSaidToDoSo_data()
                                    << "call process: an unknown notification, content x (-3)";
     QTest::newRow("no document") << false << R"({"content":"x","resultCode":12})"
                                  << "call process: a document that cannot be read: x (12)";
-    QTest::newRow("too deep") << false << QString(5000, QLatin1Char('[')) << broken + QString(160, QLatin1Char('[')) +
-                                                                                 "… (5000 in all)";
+    QTest::newRow("too deep") << false << QString(5000, QLatin1Char('['))
+                              << broken + QString(160, QLatin1Char('[')) + "… (5000 in all)";
 }
 
 void tst_WireWords::linesThatBreakTheProtocolAreSaidToDoSo()
@@ -210,8 +215,9 @@ void tst_WireWords::lineThatWasCutIsNotDecoded()
 
 void tst_WireWords::valuesTakeNoPlaceOfOthers()
 {
-    QCOMPARE(say(WireLine::FromPlugin, R"({"messagetype":"ControlConf","param1":"%2%1","param2":"%9"})").sentence.text(),
-             QStringLiteral("the plug-in moderates the conference: %2%1, %9"));
+    QCOMPARE(
+        say(WireLine::FromPlugin, R"({"messagetype":"ControlConf","param1":"%2%1","param2":"%9"})").sentence.text(),
+        QStringLiteral("the plug-in moderates the conference: %2%1, %9"));
 }
 
 void tst_WireWords::longListsAreShortened()
