@@ -1,4 +1,5 @@
 #include "ContactBook.h"
+#include "HappeningsPanel.h"
 #include "HostSession.h"
 #include "MainWindow.h"
 #include "PressButton.h"
@@ -37,6 +38,7 @@ private slots:
     void plugInsWishForAConferenceIsAnsweredWithTheCommand();
     void declinedConferenceIsNotStarted();
     void conferenceCentreHasItsButton();
+    void whatHappensComesAndGoesByButtonAndKeys();
     void signatureCardComesAndGoesAsThePlugInAsks();
     void noticeIsHiddenWhileThereIsNothingToTell();
     void damagedStoreIsToldBelowTheHeader();
@@ -62,7 +64,7 @@ void tst_MainWindow::init()
     m_pSession = std::make_unique<HostSession>(m_book);
     m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
     m_pWindow->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
 }
 
 void tst_MainWindow::cleanup()
@@ -223,6 +225,21 @@ void tst_MainWindow::conferenceCentreHasItsButton()
 {
     QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnCentre"), QStringLiteral("Conference centre"));
     QVERIFY(WindowProbe::button(m_pWindow.get(), "btnCentre").widget != nullptr);
+}
+
+void tst_MainWindow::whatHappensComesAndGoesByButtonAndKeys()
+{
+    auto *panel = m_pWindow->findChild<HappeningsPanel *>();
+    QVERIFY(panel != nullptr);
+    QVERIFY(!panel->isVisible());
+    QCOMPARE(WindowProbe::text(m_pWindow.get(), "happeningsButton"), QStringLiteral("What happens"));
+    QVERIFY(pressButton(m_pWindow.get(), "happeningsButton"));
+    QVERIFY(panel->isVisible());
+    QTest::keyClick(m_pWindow.get(), Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(!panel->isVisible());
+    // It collects while it is hidden.
+    deliver(MSG_CLOSE_SIGN_LIST, signListPluginId(), QByteArray());
+    QTRY_COMPARE(panel->model().rowCount(), 1);
 }
 
 void tst_MainWindow::signatureCardComesAndGoesAsThePlugInAsks()
