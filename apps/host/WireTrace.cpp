@@ -73,7 +73,7 @@ void WireTrace::take(const QByteArray &bytes, QList<WireLine> *lines)
 void WireTrace::endLine(QList<WireLine> *lines)
 {
     WireLine line;
-    if (parseLine(QString::fromUtf8(m_rest), &line)) {
+    if (parseLine(QString::fromUtf8(m_rest.constData(), m_rest.size()), &line)) {
         line.length = m_iRestLength;
         line.isCut = m_iRestLength > m_rest.size();
         lines->append(line);
