@@ -17,6 +17,13 @@ if(NOT CMAKE_BUILD_TYPE)
 endif()
 set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O2 -g1 -DNDEBUG")
 
+option(VOIP_COVERAGE "Count what the tests reach, for tools/coverage" OFF)
+if(VOIP_COVERAGE)
+  set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g1 -DNDEBUG")
+  add_compile_options(--coverage -fprofile-update=atomic $<$<COMPILE_LANGUAGE:CXX>:-Wno-error>)
+  add_link_options(--coverage)
+endif()
+
 # The demo client, the plug-in and what ships beside them stand together, laid out as at run time.
 set(VOIP_BIN_DIR ${CMAKE_BINARY_DIR}/bin)
 

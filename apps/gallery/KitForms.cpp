@@ -12,6 +12,8 @@
 #include "widgets/MyRubberBand.h"
 #include "widgets/VcardHeadLabel.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QListWidget>
 
 namespace {

@@ -27,7 +27,7 @@ QString outcomeWord(int iResult)
 QString durationText(qint64 iSeconds)
 {
     const qint64 all = qMax<qint64>(0, iSeconds);
-    const QString tail = QStringLiteral("%1:%2").arg(all / 60 % 60).arg(all % 60, 2, 10, QLatin1Char('0'));
+    QString tail = QStringLiteral("%1:%2").arg(all / 60 % 60).arg(all % 60, 2, 10, QLatin1Char('0'));
     if (all < 3600) {
         return tail;
     }

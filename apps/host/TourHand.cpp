@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QWidget>
 #include <QWindow>
 
 namespace {

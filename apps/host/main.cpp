@@ -49,7 +49,7 @@ QString readTourFolder(const QCoreApplication &app)
 /// Makes the folder and tells the call process, by the environment that it inherits, how the tour wants it.
 QString prepareTour(const QString &strFolder)
 {
-    const QString traceFile = strFolder + QStringLiteral("/wire.txt");
+    QString traceFile = strFolder + QStringLiteral("/wire.txt");
     QDir().mkpath(strFolder);
     QFile::remove(traceFile);
     qputenv("VOIPSDK_TRACE", QFile::encodeName(traceFile));

@@ -19,7 +19,7 @@ QString AccountMap::getUIDByAccountNo(QString strFile, QString strAccount)
         ConfigFile::getConfigValue(strFile, QStringLiteral("/accounts/accountuidmap"), QVariant()).toStringList();
     QString strSimilar;
     for (const QString &strItem : listItem) {
-        const QString strUid = strItem.section(strSpacer, 1);
+        QString strUid = strItem.section(strSpacer, 1);
         if (strItem.section(strSpacer, 0, 0) == strAccount) {
             return strUid;
         }

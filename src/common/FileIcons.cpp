@@ -91,7 +91,7 @@ QString FileIcons::getFileIconPath(const QString &strPath, int iSize)
     if (iSize < 1) {
         return {};
     }
-    const QString strFile = iconFile(strPath, iSize);
+    QString strFile = iconFile(strPath, iSize);
     if (QFile::exists(strFile)) {
         return strFile;
     }

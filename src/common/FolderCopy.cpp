@@ -11,7 +11,7 @@ namespace {
 QString realPath(const QDir &dir)
 {
     const QFileInfo info(dir.absolutePath());
-    const QString strReal = info.canonicalFilePath();
+    QString strReal = info.canonicalFilePath();
     if (!strReal.isEmpty() || info.isRoot()) {
         return strReal;
     }

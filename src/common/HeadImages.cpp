@@ -56,7 +56,7 @@ QString HeadImages::getFormattedImage(const QString & /*strUnused*/, const QStri
         return {};
     }
     const QString strFolder = PictureFolders::headImages();
-    const QString strTarget = strFolder + strName + QLatin1Char('.') + strSuffix;
+    QString strTarget = strFolder + strName + QLatin1Char('.') + strSuffix;
     if (pixmap.isNull() || size.isEmpty() || !canBeSaved(strTarget)) {
         return strTarget;
     }

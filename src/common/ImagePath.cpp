@@ -35,7 +35,7 @@ QString corrected(const QString &strPath, const QByteArray &head)
     if (iType == 0 || QFileInfo(strPath).suffix() == strSuffix) {
         return strPath;
     }
-    const QString strTrue = withSuffix(strPath, strSuffix);
+    QString strTrue = withSuffix(strPath, strSuffix);
     if (!QFile::exists(strTrue)) {
         if (!QFile::copy(strPath, strTrue)) {
             return strPath;

@@ -87,7 +87,7 @@ void Sha1::sha1_final(sha1_ctx_t *context, uint32_t *digest)
 
     uint8_t octets[20];
     for (int i = 0; i < 5; ++i) {
-        writeBigEndian(context->H[i], octets + 4 * i);
+        writeBigEndian(context->H[i], octets + ptrdiff_t(4) * i);
     }
     memcpy(digest, octets, sizeof octets);
 }
@@ -96,7 +96,7 @@ void Sha1::sha1_core(const uint8_t *block, uint32_t *state)
 {
     uint32_t w[80];
     for (int i = 0; i < 16; ++i) {
-        w[i] = readBigEndian(block + 4 * i);
+        w[i] = readBigEndian(block + ptrdiff_t(4) * i);
     }
     for (int i = 16; i < 80; ++i) {
         w[i] = rotate(w[i - 3] ^ w[i - 8] ^ w[i - 14] ^ w[i - 16], 1);

@@ -57,7 +57,7 @@ QString ShortText::getShortString(const QString &strText, int iColumns)
     while (iColumns > 0 && iLeft >= iColumns) {
         const int iEnd = endOfStretch(strText, iStart, iColumns);
         const QStringView stretch = QStringView(strText).mid(iStart, iEnd - iStart);
-        strLines.append(stretch.data(), stretch.size());
+        strLines.append(stretch.data(), int(stretch.size()));
         if (iEnd < strText.size())
             strLines.append(QLatin1Char('\n'));
         iLeft -= columnsOf(stretch);

@@ -49,7 +49,7 @@ QString SystemOpen::getLocalIPAddress()
         if (!interface.isValid() || (flags & wanted) != wanted || flags.testFlag(QNetworkInterface::IsLoopBack)) {
             continue;
         }
-        const QString strAddress = firstIPv4(interface);
+        QString strAddress = firstIPv4(interface);
         if (!strAddress.isEmpty()) {
             return strAddress;
         }

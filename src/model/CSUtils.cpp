@@ -4,7 +4,7 @@
 
 QString CSUtils::getChannelIconPath(const QString &photoName)
 {
-    const QString strDefault = QStringLiteral("Resources/images/CommonCtrls/kvim_customer.png");
+    QString strDefault = QStringLiteral("Resources/images/CommonCtrls/kvim_customer.png");
     if (photoName.isEmpty() || photoName == strDefault) {
         return strDefault;
     }

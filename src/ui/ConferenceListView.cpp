@@ -164,7 +164,7 @@ void CConferenceListView::dataChanged(const QModelIndex &topLeft, const QModelIn
     if (roles.isEmpty() || roles.contains(Qt::SizeHintRole))
         QListView::dataChanged(topLeft, bottomRight, roles);
     else
-        QAbstractItemView::dataChanged(topLeft, bottomRight, roles);
+        QAbstractItemView::dataChanged(topLeft, bottomRight, roles); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void CConferenceListView::mousePressEvent(QMouseEvent *event)

@@ -46,7 +46,7 @@ QString beginning(const QFontMetrics &metrics, const QString &strText, int iWidt
     const int iMost = qMin(strText.size(), cMostCharacters);
     const int iEnough = iWidth + 4 * metrics.height();
     for (int iLength = iWidth / 2 + 32;; iLength *= 2) {
-        const QString strLine = withBlanks(strText.left(qMin(iLength, iMost)));
+        QString strLine = withBlanks(strText.left(qMin(iLength, iMost)));
         if (iLength >= iMost || metrics.horizontalAdvance(strLine) > iEnough)
             return strLine;
     }
