@@ -2,15 +2,13 @@
 #include "ContactBook.h"
 #include "DebugChannel.h"
 #include "EndSignals.h"
-#include "HostCatalogue.h"
+#include "HostLanguage.h"
 #include "HostSession.h"
 #include "MainWindow.h"
 #include "TourHand.h"
 #include "TourSteps.h"
 #include "TourWatch.h"
 #include "WindowFont.h"
-
-#include "common/AppInfo.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -109,11 +107,10 @@ int main(int argc, char **argv)
     QObject::connect(&endSignals, &EndSignals::endRequested, &app, [] { QCoreApplication::exit(endedFromOutside); });
 
     WindowFont::substituteMissing();
-    HostCatalogue catalogue;
-    if (!catalogue.read(HostCatalogue::folder(), AppInfo::getApplicationLanguage())) {
+    HostLanguage language(HostCatalogue::folder());
+    if (!language.use(HostSettings::language())) {
         QTextStream(stderr) << "No translations in " << HostCatalogue::folder() << '\n';
     }
-    QCoreApplication::installTranslator(&catalogue);
     ContactBook book(HostSession::loginDomain());
     HostSession session(book);
     QString error;
@@ -121,6 +118,7 @@ int main(int argc, char **argv)
         QTextStream(stderr) << error << '\n';
         return EXIT_FAILURE;
     }
+    QObject::connect(&session.settings(), &HostSettings::languageChanged, &language, &HostLanguage::use);
     MainWindow window(session, book);
     return folder.isNull() ? runByHand(session, window) : runTour(session, window, folder, traceFile);
 }
