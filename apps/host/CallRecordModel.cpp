@@ -65,6 +65,7 @@ QString CallRecordModel::text(const CallRecord &record, int column) const
     case Who:
         return m_book.nameOf(record.uid);
     case Direction:
+        return directionText(record);
 
     case Outcome:
         return outcomeWord(record.result);

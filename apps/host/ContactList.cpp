@@ -43,7 +43,7 @@ int ContactList::filter(const QString &strText)
         row->setVisible(ContactSearch::finds(row->entry(), strText));
     }
     const QList<ContactRow *> shown = shownRows();
-    if (!shown.isEmpty() && !shown.contains(m_pCurrent)) {
+    if (!shown.isEmpty()) {
         setCurrent(shown.first());
     }
     return shown.size();

@@ -19,7 +19,8 @@ public:
 
     /// Puts a row for each of these into the list, below those that are there.
     void add(const QList<ContactBook::Entry> &entries);
-    /// Leaves the rows that the text finds, see ContactSearch; returns their number.
+    /// Leaves the rows that the text finds, see ContactSearch, the first of them as the current one; returns their
+    /// number.
     int filter(const QString &strText);
     /// Makes the rows follow `before` in the order of the Tab key.
     void followInTabOrder(QWidget *before);

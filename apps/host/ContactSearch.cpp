@@ -6,6 +6,5 @@ bool ContactSearch::finds(const ContactBook::Entry &entry, const QString &strTex
 {
     const QString wanted = strText.trimmed();
     const auto has = [&](const QString &strWhere) { return strWhere.contains(wanted, Qt::CaseInsensitive); };
-    return has(entry.uid) || has(entry.alternative) ||
-           (entry.known && (has(entry.nick) || has(CommonFun::toChineseSpell(entry.nick))));
+    return has(entry.uid) || (entry.known && (has(entry.nick) || has(CommonFun::toChineseSpell(entry.nick))));
 }

@@ -23,6 +23,7 @@ MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     takeSkin();
     showNotice();
     showOnline(m_session.isOnline());
+    ui->contactPane->startSearch();
 }
 
 MainWindow::~MainWindow() = default;
