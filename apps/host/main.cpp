@@ -108,7 +108,8 @@ int main(int argc, char **argv)
 
     WindowFont::substituteMissing();
     HostLanguage language(HostCatalogue::folder());
-    if (!language.use(HostSettings::language())) {
+    // The tour knows the windows by their English words.
+    if (!language.use(folder.isNull() ? HostSettings::language() : QStringLiteral("en"))) {
         QTextStream(stderr) << "No translations in " << HostCatalogue::folder() << '\n';
     }
     ContactBook book(HostSession::loginDomain());
