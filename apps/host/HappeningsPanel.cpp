@@ -26,7 +26,17 @@ HappeningsPanel::HappeningsPanel(HostSession &session, const QString &strTraceFi
     showCount();
 }
 
-HappeningsPanel::~HappeningsPanel() = default;
+HappeningsPanel::~HappeningsPanel()
+{
+    // The view goes after the form's pointers, and may still scroll or select while it does.
+    ui->viewHappenings->verticalScrollBar()->disconnect(this);
+    ui->viewHappenings->selectionModel()->disconnect(this);
+}
+
+QSize HappeningsPanel::sizeHint() const
+{
+    return {480, 640};
+}
 
 void HappeningsPanel::setUpView()
 {

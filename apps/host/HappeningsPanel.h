@@ -26,6 +26,9 @@ public:
     HappeningsPanel(HostSession &session, const QString &strTraceFile, QWidget *parent = nullptr);
     ~HappeningsPanel() override;
 
+    /// Wide enough for most sentences.
+    QSize sizeHint() const override;
+
     /// All rows, whatever the filter shows.
     const HappeningsModel &model() const { return m_model; }
     /// Where the rows come from.

@@ -26,6 +26,12 @@ HostSession::HostSession(ContactBook &book, QObject *parent) : QObject(parent), 
     connect(&m_mailbox, &HostMailbox::cardsWanted, this, &HostSession::sendCards);
 }
 
+HostSession::~HostSession()
+{
+    m_store.close();
+    SharedContext::setCommonData(nullptr);
+}
+
 bool HostSession::start(const QString &strModule, QString *strError)
 {
     m_context.signIn(ContactBook::ownUid(), loginDomain(), m_book);

@@ -16,6 +16,7 @@ public:
     // Actions: clicks on real buttons with the real mouse.
     Action pressContact(const char *strUid, const char *strButton) const;
     Action pressMain(const char *strButton) const;
+    Action pressSettings(const QString &strButton) const;
     Action pressCallWindow(const char *strButton) const;
     Action pressPrompt(const char *strButton) const;
     Action pressBox(const char *strButton) const;
@@ -39,6 +40,12 @@ public:
     /// Takes the mouse out of the way.
     Action leave() const;
 
+    // Actions with the real keyboard, in an edit field of the main window.
+    /// Clicks into the field, and behind what stands in it types the text: small Latin letters, digits, spaces.
+    Action typeInto(const char *strEdit, const QString &strText) const;
+    /// Presses Escape in the field.
+    Action escapeFrom(const char *strEdit) const;
+
     // Windows, for pictures.
     Window mainWindow() const;
     Window prompt() const;
@@ -60,6 +67,8 @@ public:
 
     // Checks of what the person sees.
     TourCheck record(int iResult, bool bCaller, bool bConnected) const;
+    TourCheck mainSays(const char *strPart, const QString &strText) const;
+    TourCheck mainShows(const char *strPart, bool bShown) const;
     static TourCheck shows(const char *strPart, const QString &strText);
     static TourCheck clockRuns();
     static TourCheck windowGone();
@@ -94,6 +103,8 @@ private:
 
     Action click(const Finder &where, Qt::MouseButton button = Qt::LeftButton, int iTimes = 1) const;
     Action hover(const Finder &where) const;
+    /// Clicks into the field and does `act` once it has the keyboard.
+    Action withKeys(const char *strEdit, const std::function<bool()> &act) const;
 
     TourStage m_stage;
 };

@@ -2,7 +2,7 @@
 #include "ContactBook.h"
 #include "DebugChannel.h"
 #include "EndSignals.h"
-#include "HostCatalogue.h"
+#include "HostLanguage.h"
 #include "HostSession.h"
 #include "MainWindow.h"
 #include "TourHand.h"
@@ -10,8 +10,6 @@
 #include "TourWatch.h"
 #include "TraceFolder.h"
 #include "WindowFont.h"
-
-#include "common/AppInfo.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -111,11 +109,11 @@ int main(int argc, char **argv)
     QObject::connect(&endSignals, &EndSignals::endRequested, &app, [] { QCoreApplication::exit(endedFromOutside); });
 
     WindowFont::substituteMissing();
-    HostCatalogue catalogue;
-    if (!catalogue.read(HostCatalogue::folder(), AppInfo::getApplicationLanguage())) {
+    HostLanguage language(HostCatalogue::folder());
+    // The tour knows the windows by their English words.
+    if (!language.use(folder.isNull() ? HostSettings::language() : QStringLiteral("en"))) {
         QTextStream(stderr) << "No translations in " << HostCatalogue::folder() << '\n';
     }
-    QCoreApplication::installTranslator(&catalogue);
     ContactBook book(HostSession::loginDomain());
     HostSession session(book);
     QString error;
@@ -123,6 +121,7 @@ int main(int argc, char **argv)
         QTextStream(stderr) << error << '\n';
         return EXIT_FAILURE;
     }
+    QObject::connect(&session.settings(), &HostSettings::languageChanged, &language, &HostLanguage::use);
     MainWindow window(session, book);
     return folder.isNull() ? runByHand(session, window) : runTour(session, window, folder, traceFile);
 }

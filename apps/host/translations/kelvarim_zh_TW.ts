@@ -725,4 +725,472 @@
         <translation>未處理的訊息</translation>
     </message>
 </context>
+<context>
+    <name>CallRecord</name>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>hung up</source>
+        <translation>已掛斷</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>忙線</translation>
+    </message>
+    <message>
+        <source>rejected</source>
+        <translation>已拒絕</translation>
+    </message>
+</context>
+<context>
+    <name>CallRecordModel</name>
+    <message>
+        <source>outgoing video</source>
+        <translation>撥出視訊</translation>
+    </message>
+    <message>
+        <source>incoming video</source>
+        <translation>撥入視訊</translation>
+    </message>
+    <message>
+        <source>outgoing</source>
+        <translation>撥出</translation>
+    </message>
+    <message>
+        <source>incoming</source>
+        <translation>撥入</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Who</source>
+        <translation>聯絡人</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>呼叫</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>接通</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>時長</translation>
+    </message>
+    <message>
+        <source>Ended at</source>
+        <translation>結束時間</translation>
+    </message>
+</context>
+<context>
+    <name>CallsPane</name>
+    <message>
+        <source>Calls</source>
+        <translation>通話記錄</translation>
+    </message>
+    <message>
+        <source>Past conferences: look at them, call them again, delete them</source>
+        <translation>以往的會議：檢視、再次呼叫、刪除</translation>
+    </message>
+    <message>
+        <source>Conference ce&amp;ntre</source>
+        <translation>會議中心(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Double click or Enter calls again</source>
+        <translation>按兩下或按 Enter 鍵再次呼叫</translation>
+    </message>
+    <message>
+        <source>Enter calls again</source>
+        <translation>按 Enter 鍵再次呼叫</translation>
+    </message>
+    <message>
+        <source>No calls yet</source>
+        <translation>還沒有通話</translation>
+    </message>
+</context>
+<context>
+    <name>ContactPane</name>
+    <message>
+        <source>Contacts</source>
+        <translation>聯絡人</translation>
+    </message>
+    <message>
+        <source>Search the contacts (Ctrl+F)</source>
+        <translation>搜尋聯絡人 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search the contacts</source>
+        <translation>搜尋聯絡人</translation>
+    </message>
+    <message>
+        <source>Search by name, number or initials</source>
+        <translation>以姓名、號碼或拼音首字母搜尋</translation>
+    </message>
+    <message>
+        <source>No contact matches</source>
+        <translation>沒有符合的聯絡人</translation>
+    </message>
+    <message>
+        <source>Number to call</source>
+        <translation>要撥打的號碼</translation>
+    </message>
+    <message>
+        <source>Call another number</source>
+        <translation>撥打其他號碼</translation>
+    </message>
+    <message>
+        <source>&amp;Call</source>
+        <translation>呼叫(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Call several people together</source>
+        <translation>同時呼叫多人</translation>
+    </message>
+    <message>
+        <source>Con&amp;ference...</source>
+        <translation>會議(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>清除搜尋</translation>
+    </message>
+</context>
+<context>
+    <name>ContactRow</name>
+    <message>
+        <source>not a contact</source>
+        <translation>非聯絡人</translation>
+    </message>
+    <message>
+        <source>Call %1</source>
+        <translation>呼叫 %1</translation>
+    </message>
+    <message>
+        <source>Call %1 by video</source>
+        <translation>視訊呼叫 %1</translation>
+    </message>
+</context>
+<context>
+    <name>HostSession</name>
+    <message>
+        <source>not a plug-in of this client</source>
+        <translation>不是本用戶端的外掛程式</translation>
+    </message>
+</context>
+<context>
+    <name>HostSkins</name>
+    <message>
+        <source>Green</source>
+        <translation>綠色</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>藍色</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>紅色</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>灰色</translation>
+    </message>
+</context>
+<context>
+    <name>HostStore</name>
+    <message>
+        <source>%1 is the store of an older client. It stays as it is; what it holds is not shown here.</source>
+        <translation>%1 是舊版用戶端的資料庫，將保持原樣，其中的內容不在此顯示。</translation>
+    </message>
+    <message>
+        <source>The local store %1 cannot be opened. Nothing of this session will be kept.</source>
+        <translation>無法開啟本機資料庫 %1。本次工作階段的內容不會儲存。</translation>
+    </message>
+    <message>
+        <source>The local store %1 cannot be written to. Nothing of this session will be kept.</source>
+        <translation>無法寫入本機資料庫 %1。本次工作階段的內容不會儲存。</translation>
+    </message>
+    <message>
+        <source>The local store %1 is in use by another program. Nothing of this session will be kept.</source>
+        <translation>本機資料庫 %1 正由其他程式使用。本次工作階段的內容不會儲存。</translation>
+    </message>
+    <message>
+        <source>The local store %1 is damaged and cannot be moved aside. Nothing of this session will be kept.</source>
+        <translation>本機資料庫 %1 已損毀且無法移開。本次工作階段的內容不會儲存。</translation>
+    </message>
+    <message>
+        <source>The local store was damaged. The file is kept as %1; a new one has been started.</source>
+        <translation>本機資料庫已損毀。原檔案保留為 %1，並已新建資料庫。</translation>
+    </message>
+</context>
+<context>
+    <name>IncomingPrompt</name>
+    <message>
+        <source>Incoming call</source>
+        <translation>來電</translation>
+    </message>
+    <message>
+        <source>&amp;Reject</source>
+        <translation>拒絕(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>接聽(&amp;A)</translation>
+    </message>
+    <message>
+        <source>invites you to a conference</source>
+        <translation>邀請您參加會議</translation>
+    </message>
+    <message>
+        <source>video call</source>
+        <translation>視訊來電</translation>
+    </message>
+    <message>
+        <source>is calling you</source>
+        <translation>來電</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>KelvarIM demo</source>
+        <translation>KelvarIM 示範</translation>
+    </message>
+    <message>
+        <source>Ring, language, colour and folders</source>
+        <translation>鈴聲、語言、色彩和資料夾</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>設定(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Sign in to calls, or out of them</source>
+        <translation>登入或登出通話</translation>
+    </message>
+    <message>
+        <source>%1 is calling</source>
+        <translation>%1 來電</translation>
+    </message>
+    <message>
+        <source>Call of %1 accepted</source>
+        <translation>已接聽 %1 的來電</translation>
+    </message>
+    <message>
+        <source>Call of %1 rejected</source>
+        <translation>已拒絕 %1 的來電</translation>
+    </message>
+    <message>
+        <source>Calling %1</source>
+        <translation>正在呼叫 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Starting a conference with %n other(s)</source>
+        <translation>
+            <numerusform>正在發起與另外 %n 人的會議</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Online</source>
+        <translation>線上(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Offline</source>
+        <translation>離線(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Signed in as %1</source>
+        <translation>已登入：%1</translation>
+    </message>
+    <message>
+        <source>Signed out</source>
+        <translation>已登出</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2 after %3</source>
+        <translation>與 %1 的通話：%2，時長 %3</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2</source>
+        <translation>與 %1 的通話：%2</translation>
+    </message>
+</context>
+<context>
+    <name>MemberPicker</name>
+    <message>
+        <source>People</source>
+        <translation>人員</translation>
+    </message>
+    <message>
+        <source>Text passed on to the call process</source>
+        <translation>傳給通話處理程序的文字</translation>
+    </message>
+    <message>
+        <source>Passed on to the call process</source>
+        <translation>傳給通話處理程序</translation>
+    </message>
+    <message>
+        <source>Flag</source>
+        <translation>旗標</translation>
+    </message>
+    <message>
+        <source>New conference</source>
+        <translation>新會議</translation>
+    </message>
+    <message>
+        <source>Invite to the conference</source>
+        <translation>邀請參加會議</translation>
+    </message>
+    <message>
+        <source>Already in the conference: %1</source>
+        <translation>已在會議中：%1</translation>
+    </message>
+    <message>
+        <source>Whom to call together?</source>
+        <translation>同時呼叫哪些人？</translation>
+    </message>
+    <message>
+        <source>Asked for a conference with: %1</source>
+        <translation>請求與以下人員開會：%1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Invite (%1)</source>
+        <translation>邀請 (%1)</translation>
+    </message>
+    <message>
+        <source>Invite</source>
+        <translation>邀請</translation>
+    </message>
+</context>
+<context>
+    <name>Presence</name>
+    <message>
+        <source>offline</source>
+        <translation>離線</translation>
+    </message>
+    <message>
+        <source>online</source>
+        <translation>線上</translation>
+    </message>
+    <message>
+        <source>away</source>
+        <translation>離開</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>忙碌</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>通話</translation>
+    </message>
+    <message>
+        <source>Keep the &amp;ring of incoming calls silent</source>
+        <translation>來電不響鈴(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>語言</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>色彩</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>資料夾</translation>
+    </message>
+    <message>
+        <source>&amp;Data</source>
+        <translation>資料(&amp;D)</translation>
+    </message>
+    <message>
+        <source>An empty field means the standard folder</source>
+        <translation>留空則使用預設資料夾</translation>
+    </message>
+    <message>
+        <source>Data folder</source>
+        <translation>資料儲存資料夾</translation>
+    </message>
+    <message>
+        <source>Choose: Data folder</source>
+        <translation>選擇：資料儲存資料夾</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>瀏覽...</translation>
+    </message>
+    <message>
+        <source>Received &amp;files</source>
+        <translation>接收的檔案(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Folder for received files</source>
+        <translation>接收檔案的資料夾</translation>
+    </message>
+    <message>
+        <source>Choose: Folder for received files</source>
+        <translation>選擇：接收檔案的資料夾</translation>
+    </message>
+    <message>
+        <source>These settings are kept in</source>
+        <translation>這些設定儲存在</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>關閉(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start; what is in the old folder stays there.</source>
+        <translation>下次啟動時生效；舊資料夾中的內容保留在原處。</translation>
+    </message>
+    <message>
+        <source>Holds the settings, the conference records and the log of each user.</source>
+        <translation>存放每位使用者的設定、會議記錄和日誌。</translation>
+    </message>
+    <message>
+        <source>This folder cannot be used: %1</source>
+        <translation>無法使用此資料夾：%1</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>選擇資料夾</translation>
+    </message>
+</context>
+<context>
+    <name>SignatureCard</name>
+    <message>
+        <source>(no signature)</source>
+        <translation>（沒有簽名）</translation>
+    </message>
+</context>
 </TS>
