@@ -278,6 +278,19 @@ Steps killed(const TourScript &s, const TourStage &stage)
            };
 }
 
+Steps happenings(const TourScript &s)
+{
+    return {
+        {u("Look at what has happened so far"),
+         s.pressMain("happeningsButton"),
+         {s.mainShows("HappeningsPanel", true)},
+         15000,
+         u("happenings"),
+         s.mainWindow()},
+        {u("Close that panel"), s.pressMain("happeningsButton"), {s.mainShows("HappeningsPanel", false)}},
+    };
+}
+
 Steps leave(const TourScript &s, const TourStage &stage)
 {
     return {{u("Close the client"),
@@ -299,6 +312,6 @@ QList<TourStep> tourSteps(const TourStage &stage)
            unanswered(s, fails, "Call 赵强: the call fails", 19, "failed", resultFailed) +
            call(s, "Call 李雷, who answers", u("call-voice")) + duringCall(s) + hangUp(s, "Hang up") + video(s, stage) +
            farEnd(s) + incoming(s) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
-           call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + settingsSteps(stage) +
-           leave(s, stage);
+           call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + happenings(s) +
+           settingsSteps(stage) + leave(s, stage);
 }

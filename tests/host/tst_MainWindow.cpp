@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -308,10 +309,14 @@ void tst_MainWindow::whatHappensComesAndGoesByButtonAndKeys()
     QVERIFY(panel != nullptr);
     QVERIFY(!panel->isVisible());
     QCOMPARE(WindowProbe::text(m_pWindow.get(), "happeningsButton"), QStringLiteral("What happens"));
+    const int width = m_pWindow->width();
     QVERIFY(pressButton(m_pWindow.get(), "happeningsButton"));
     QVERIFY(panel->isVisible());
+    QTRY_VERIFY(m_pWindow->width() > width);
+    QVERIFY(m_pWindow->frameGeometry().right() <= m_pWindow->screen()->availableGeometry().right());
     QTest::keyClick(m_pWindow.get(), Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
     QVERIFY(!panel->isVisible());
+    QTRY_COMPARE(m_pWindow->width(), width);
     // It collects while it is hidden.
     deliver(MSG_CLOSE_SIGN_LIST, signListPluginId(), QByteArray());
     QTRY_COMPARE(panel->model().rowCount(), 1);

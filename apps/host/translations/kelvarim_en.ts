@@ -975,6 +975,10 @@
         <translation>KelvarIM demo</translation>
     </message>
     <message>
+        <source>What client, plug-in and call process tell each other (Ctrl+Shift+H)</source>
+        <translation>What client, plug-in and call process tell each other (Ctrl+Shift+H)</translation>
+    </message>
+    <message>
         <source>Ring, language, colour and folders</source>
         <translation>Ring, language, colour and folders</translation>
     </message>

@@ -975,6 +975,10 @@
         <translation>KelvarIM 演示</translation>
     </message>
     <message>
+        <source>What client, plug-in and call process tell each other (Ctrl+Shift+H)</source>
+        <translation>客户端、插件和通话进程之间的往来 (Ctrl+Shift+H)</translation>
+    </message>
+    <message>
         <source>Ring, language, colour and folders</source>
         <translation>铃声、语言、颜色和文件夹</translation>
     </message>

@@ -975,6 +975,10 @@
         <translation>KelvarIM 示範</translation>
     </message>
     <message>
+        <source>What client, plug-in and call process tell each other (Ctrl+Shift+H)</source>
+        <translation>用戶端、外掛和通話程序之間的往來 (Ctrl+Shift+H)</translation>
+    </message>
+    <message>
         <source>Ring, language, colour and folders</source>
         <translation>鈴聲、語言、色彩和資料夾</translation>
     </message>
