@@ -111,7 +111,7 @@ QString ShownText::plain(const QString &strText, int iLimit, qint64 iLength)
     if (iLength <= iLimit) {
         return result;
     }
-    if (!result.isEmpty() && result.back().isHighSurrogate()) {
+    if (!result.isEmpty() && result.at(result.size() - 1).isHighSurrogate()) {
         result.chop(1);
     }
     return result + QChar(0x2026) + QLatin1Char(' ') +
