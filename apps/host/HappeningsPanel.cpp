@@ -35,11 +35,12 @@ HappeningsPanel::~HappeningsPanel()
 
 QSize HappeningsPanel::sizeHint() const
 {
-    return {480, 640};
+    return {540, 640};
 }
 
 void HappeningsPanel::setUpView()
 {
+    ui->splitter->setSizes({440, 130});
     QTreeView *view = ui->viewHappenings;
     view->setModel(&m_filter);
     view->header()->setSectionsMovable(false);
