@@ -88,9 +88,7 @@ void SettingsPage::showSettings()
     ui->boxSilent->setChecked(HostSettings::isSilent());
     const QString language = QStringLiteral("language_") + HostLanguage::choiceOf(HostSettings::language());
     ui->languages->findChild<QRadioButton *>(language)->setChecked(true);
-    if (auto *skin = ui->skins->findChild<QRadioButton *>(QStringLiteral("skin_") + HostSettings::skin())) {
-        skin->setChecked(true);
-    }
+    ui->skins->findChild<QRadioButton *>(QStringLiteral("skin_") + HostSettings::skin())->setChecked(true);
     ui->editDataFolder->setText(QDir::toNativeSeparators(HostSettings::dataFolder()));
     ui->editReceiveFolder->setText(QDir::toNativeSeparators(HostSettings::receiveFolder()));
     ui->lblDataNote->setText(HostSettings::isDataFolderPending()

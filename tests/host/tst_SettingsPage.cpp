@@ -62,7 +62,7 @@ private:
         auto *edit = part<QLineEdit>(strEdit);
         edit->selectAll();
         QTest::keyClick(edit, Qt::Key_Delete);
-        QTest::keyClicks(edit, strText);
+        edit->insert(strText);
         QTest::keyClick(edit, Qt::Key_Return);
     }
     void start()
