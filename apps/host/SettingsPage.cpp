@@ -22,6 +22,7 @@ SettingsPage::SettingsPage(HostSettings &settings, QWidget *parent)
     setAttribute(Qt::WA_QuitOnClose, false);
     addLanguages();
     addSkins();
+    orderTabs();
     connectFolders();
     HostSkins::dress(this);
     connect(ui->boxSilent, &QCheckBox::clicked, this, &HostSettings::setSilent);
@@ -60,6 +61,19 @@ void SettingsPage::nameSkins()
 {
     for (const QString &name : HostSkins::names()) {
         ui->skins->findChild<QRadioButton *>(QStringLiteral("skin_") + name)->setText(HostSkins::shownName(name));
+    }
+}
+
+/// Puts what the form does not know behind what stands above it.
+void SettingsPage::orderTabs()
+{
+    QWidget *last = ui->boxSilent;
+    for (const QWidget *group : {ui->languages, ui->skins}) {
+        const QList<QRadioButton *> buttons = group->findChildren<QRadioButton *>();
+        for (QRadioButton *button : buttons) {
+            setTabOrder(last, button);
+            last = button;
+        }
     }
 }
 
