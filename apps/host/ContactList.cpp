@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <numeric>
 
 ContactList::ContactList(QWidget *parent) : QScrollArea(parent)
 {
@@ -51,8 +50,13 @@ int ContactList::filter(const QString &strText)
 
 void ContactList::followInTabOrder(QWidget *before)
 {
-    std::accumulate(m_rows.begin(), m_rows.end(), before,
-                    [](QWidget *last, ContactRow *row) { return row->followInTabOrder(last); });
+    QWidget *last = before;
+    for (ContactRow *row : qAsConst(m_rows)) {
+        // Qt leaves what takes no focus where it stands.
+        row->setTabStop(true);
+        last = row->followInTabOrder(last);
+        row->setTabStop(row == m_pCurrent);
+    }
 }
 
 bool ContactList::enter()

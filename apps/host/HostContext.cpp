@@ -74,8 +74,7 @@ void HostContext::fillLogin(const QString &strUid, const QString &strDomain)
 void HostContext::fillSkins()
 {
     m_skins = HostSkins::makeAll();
-    const int chosen = HostSkins::names().indexOf(HostSettings::skin());
-    m_skin = m_skins.at(qMax(0, chosen));
+    m_skin = m_skins.at(HostSkins::names().indexOf(HostSettings::skin()));
     m_data.setListSysUIData(&m_skins);
     m_data.setSkinData(&m_skin);
 }

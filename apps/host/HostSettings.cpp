@@ -112,7 +112,8 @@ void HostSettings::setLanguage(const QString &strLanguage)
 
 QString HostSettings::skin()
 {
-    return CommonFun::getConfigValue(userFile(), SKIN_KEY, HostSkins::standardName()).toString();
+    const QString stored = CommonFun::getConfigValue(userFile(), SKIN_KEY).toString();
+    return HostSkins::names().contains(stored) ? stored : HostSkins::standardName();
 }
 
 void HostSettings::setSkin(const QString &strName)

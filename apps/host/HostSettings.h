@@ -39,7 +39,7 @@ public:
     static QString language();
     void setLanguage(const QString &strLanguage);
 
-    /// The name of the skin in the settings.
+    /// The name of the skin in the settings; the standard one where they name none that there is.
     static QString skin();
     /// Makes it the current skin of the shared context, for the plug-in's windows too.
     void setSkin(const QString &strName);

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr unsigned int escapeKey = 0xff1b;
-
 struct Freed
 {
     void operator()(void *reply) const { std::free(reply); }
@@ -66,13 +64,4 @@ bool ScreenKeys::type(const QString &strText)
         std::for_each(codes.begin(), codes.end(), [this](unsigned char code) { press(code); });
     }
     return bAll;
-}
-
-bool ScreenKeys::escape()
-{
-    const unsigned char code = codeOf(escapeKey);
-    if (code != 0) {
-        press(code);
-    }
-    return code != 0;
 }

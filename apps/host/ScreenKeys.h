@@ -17,8 +17,6 @@ public:
 
     /// Types small Latin letters, digits and spaces; false, with nothing typed, when the keyboard lacks one of them.
     bool type(const QString &strText);
-    /// Presses Escape; false when the keyboard has no such key.
-    bool escape();
 
 private:
     unsigned char codeOf(unsigned int keysym) const;

@@ -22,6 +22,7 @@ SettingsPage::SettingsPage(HostSettings &settings, QWidget *parent)
     setAttribute(Qt::WA_QuitOnClose, false);
     addLanguages();
     addSkins();
+    orderTabs();
     connectFolders();
     HostSkins::dress(this);
     connect(ui->boxSilent, &QCheckBox::clicked, this, &HostSettings::setSilent);
@@ -63,6 +64,19 @@ void SettingsPage::nameSkins()
     }
 }
 
+/// Puts what the form does not know behind what stands above it.
+void SettingsPage::orderTabs()
+{
+    QWidget *last = ui->boxSilent;
+    for (const QWidget *group : {ui->languages, ui->skins}) {
+        const QList<QRadioButton *> buttons = group->findChildren<QRadioButton *>();
+        for (QRadioButton *button : buttons) {
+            setTabOrder(last, button);
+            last = button;
+        }
+    }
+}
+
 void SettingsPage::connectFolders()
 {
     connect(ui->editDataFolder, &QLineEdit::editingFinished, this,
@@ -88,9 +102,7 @@ void SettingsPage::showSettings()
     ui->boxSilent->setChecked(HostSettings::isSilent());
     const QString language = QStringLiteral("language_") + HostLanguage::choiceOf(HostSettings::language());
     ui->languages->findChild<QRadioButton *>(language)->setChecked(true);
-    if (auto *skin = ui->skins->findChild<QRadioButton *>(QStringLiteral("skin_") + HostSettings::skin())) {
-        skin->setChecked(true);
-    }
+    ui->skins->findChild<QRadioButton *>(QStringLiteral("skin_") + HostSettings::skin())->setChecked(true);
     ui->editDataFolder->setText(QDir::toNativeSeparators(HostSettings::dataFolder()));
     ui->editReceiveFolder->setText(QDir::toNativeSeparators(HostSettings::receiveFolder()));
     ui->lblDataNote->setText(HostSettings::isDataFolderPending()

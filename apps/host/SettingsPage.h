@@ -33,6 +33,7 @@ private:
 
     void addLanguages();
     void addSkins();
+    void orderTabs();
     void connectFolders();
     void nameSkins();
     void showSettings();

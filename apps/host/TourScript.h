@@ -40,11 +40,9 @@ public:
     /// Takes the mouse out of the way.
     Action leave() const;
 
-    // Actions with the real keyboard, in an edit field of the main window.
-    /// Clicks into the field, and behind what stands in it types the text: small Latin letters, digits, spaces.
+    /// Clicks into an edit field of the main window, and behind what stands in it types the text with the real
+    /// keyboard: small Latin letters, digits, spaces.
     Action typeInto(const char *strEdit, const QString &strText) const;
-    /// Presses Escape in the field.
-    Action escapeFrom(const char *strEdit) const;
 
     // Windows, for pictures.
     Window mainWindow() const;
@@ -103,8 +101,6 @@ private:
 
     Action click(const Finder &where, Qt::MouseButton button = Qt::LeftButton, int iTimes = 1) const;
     Action hover(const Finder &where) const;
-    /// Clicks into the field and does `act` once it has the keyboard.
-    Action withKeys(const char *strEdit, const std::function<bool()> &act) const;
 
     TourStage m_stage;
 };

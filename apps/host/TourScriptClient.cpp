@@ -28,23 +28,14 @@ TourScript::Action TourScript::pressSettings(const QString &strButton) const
     });
 }
 
-TourScript::Action TourScript::withKeys(const char *strEdit, const std::function<bool()> &act) const
-{
-    return [hand = &m_stage.hand, act, press = pressMain(strEdit), strEdit, bPressed = false]() mutable {
-        bPressed = bPressed || press();
-        const QWidget *focus = QApplication::focusWidget();
-        return hand->isIdle() && focus != nullptr && focus->objectName() == QLatin1String(strEdit) && act();
-    };
-}
-
 TourScript::Action TourScript::typeInto(const char *strEdit, const QString &strText) const
 {
-    return withKeys(strEdit, [strText] { return ScreenKeys().type(strText); });
-}
-
-TourScript::Action TourScript::escapeFrom(const char *strEdit) const
-{
-    return withKeys(strEdit, [] { return ScreenKeys().escape(); });
+    return [hand = &m_stage.hand, press = pressMain(strEdit), strEdit, strText, bPressed = false]() mutable {
+        bPressed = bPressed || press();
+        const QWidget *focus = QApplication::focusWidget();
+        return hand->isIdle() && focus != nullptr && focus->objectName() == QLatin1String(strEdit) &&
+               ScreenKeys().type(strText);
+    };
 }
 
 TourCheck TourScript::mainSays(const char *strPart, const QString &strText) const

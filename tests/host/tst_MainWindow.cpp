@@ -139,6 +139,8 @@ void tst_MainWindow::keyOnThePromptAnswers()
     QFETCH(int, tabs);
     IncomingPrompt &prompt = m_pWindow->prompt();
     QSignalSpy answered(&prompt, &IncomingPrompt::answered);
+    m_pWindow->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
     ring(QStringLiteral("30010006"));
     QVERIFY(QTest::qWaitForWindowActive(&prompt));
     for (int i = 0; i < tabs; ++i) {

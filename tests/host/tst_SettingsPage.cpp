@@ -44,6 +44,7 @@ private slots:
     void colourIsThereAgainAtTheNextStart();
     void everySkinHasAPlaceInTheSharedList();
     void unknownSkinChangesNothing();
+    void tabGoesDownThePage();
     void escapeClosesThePage();
     void filesAreNamed();
 
@@ -62,7 +63,7 @@ private:
         auto *edit = part<QLineEdit>(strEdit);
         edit->selectAll();
         QTest::keyClick(edit, Qt::Key_Delete);
-        QTest::keyClicks(edit, strText);
+        edit->insert(strText);
         QTest::keyClick(edit, Qt::Key_Return);
     }
     void start()
@@ -322,6 +323,20 @@ void tst_SettingsPage::unknownSkinChangesNothing()
     start();
     QCOMPARE(CommonFun::getSkinData()->m_strSkinName, HostSkins::standardName());
     QVERIFY(part<QRadioButton>("skin_ThemeGreen")->isChecked());
+}
+
+void tst_SettingsPage::tabGoesDownThePage()
+{
+    SettingsPage &page = m_pWindow->settingsPage();
+    part<QRadioButton>("language_en")->setChecked(true);
+    part<QCheckBox>("boxSilent")->setFocus();
+    QStringList stops;
+    for (int i = 0; i < 7; ++i) {
+        QTest::keyClick(page.focusWidget(), Qt::Key_Tab);
+        stops.append(page.focusWidget()->objectName());
+    }
+    QCOMPARE(stops, (QStringList{"language_en", "skin_ThemeGreen", "editDataFolder", "btnDataFolder",
+                                 "editReceiveFolder", "btnReceiveFolder", "btnClose"}));
 }
 
 void tst_SettingsPage::escapeClosesThePage()
