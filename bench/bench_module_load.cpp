@@ -1,5 +1,6 @@
 // Loading the module and its first command, and the memory that stays resident, each in a fresh process: the module
-// beside an empty one that is linked with the same libraries, and both beside a bare application.
+// beside an empty one that is linked with the same libraries, and both beside a bare application. What the module needs
+// while no call is on is told in a client that has a window of its own on the screen.
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -12,7 +13,8 @@ namespace {
 
 void child(benchmark::State &state, const char *word, const char *module)
 {
-    double kilobytes = 0;
+    double resident = 0;
+    double own = 0;
     for (auto _ : state) {
         QProcess process;
         process.start(QStringLiteral(MODULE_CHILD), {QString::fromLatin1(word), QString::fromLatin1(module)});
@@ -22,9 +24,11 @@ void child(benchmark::State &state, const char *word, const char *module)
         }
         const QList<QByteArray> words = process.readAllStandardOutput().trimmed().split(' ');
         state.SetIterationTime(words.value(0).toDouble() / 1e6);
-        kilobytes = words.value(1).toDouble();
+        resident = words.value(1).toDouble();
+        own = words.value(2).toDouble();
     }
-    state.counters["resident_KiB"] = kilobytes;
+    state.counters["resident_KiB"] = resident;
+    state.counters["own_KiB"] = own;
 }
 
 } // namespace
@@ -39,9 +43,10 @@ int main(int argc, char **argv)
         const char *module;
     };
     static constexpr Row rows[] = {
-        {"bareApplication", "none", VOIP_MODULE},        {"bareWindow", "window", VOIP_MODULE},
-        {"loadEmptyModule", "load", EMPTY_MODULE},       {"loadModule", "load", VOIP_MODULE},
-        {"loadAndFirstCommand", "command", VOIP_MODULE}, {"loadAndOutgoingCall", "call", VOIP_MODULE},
+        {"bareApplication", "none", VOIP_MODULE},          {"bareWindow", "window", VOIP_MODULE},
+        {"loadEmptyModule", "load", EMPTY_MODULE},         {"loadModule", "load", VOIP_MODULE},
+        {"loadAndFirstCommand", "command", VOIP_MODULE},   {"loadAndOutgoingCall", "call", VOIP_MODULE},
+        {"clientWithEmptyModule", "client", EMPTY_MODULE}, {"idleModule", "idle", VOIP_MODULE},
     };
     for (const Row &row : rows) {
         benchmark::RegisterBenchmark(row.name, [&row](benchmark::State &state) { child(state, row.word, row.module); })

@@ -1,7 +1,9 @@
-// usage: bench_module_child none|window|load|command|call MODULE
-// Does as much as the word says and prints the microseconds that it took and the kilobytes of memory that are resident
-// then: nothing but a bare application; a bare application with a Chinese text on the screen; the module loaded; the
-// first command answered; an outgoing call on the screen.
+// usage: bench_module_child none|window|load|command|call|client|idle MODULE
+// Does as much as the word says and prints the microseconds that it took, the kilobytes of memory that are resident
+// then, and how many of them are the process's own: what it has written, and the module's file. The word asks for
+// nothing but a bare application; a bare application with a Chinese text on the screen; the module loaded; the first
+// command answered; an outgoing call on the screen; a client with a window on the screen and the module loaded; the
+// same and the first command answered, after which the call window stands by.
 
 #include "model/CommonData.h"
 #include "plugin/BaseEvent.h"
@@ -20,14 +22,32 @@
 
 namespace {
 
-qint64 residentKilobytes()
+struct Memory
 {
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    const QByteArray text = status.readAll();
-    const int start = text.indexOf("VmRSS:") + 6;
-    return text.mid(start, text.indexOf("kB", start) - start).trimmed().toLongLong();
+    qint64 resident = 0;
+    qint64 own = 0;
+};
+
+/// In kilobytes; `module` is the file whose pages count as own, read or written.
+Memory memory(const QByteArray &module)
+{
+    Memory sum;
+    QFile maps(QStringLiteral("/proc/self/smaps"));
+    if (!maps.open(QIODevice::ReadOnly))
+        return sum;
+    bool ofModule = false;
+    for (QByteArray line = maps.readLine(); !line.isEmpty(); line = maps.readLine()) {
+        const QList<QByteArray> words = line.simplified().split(' ');
+        const QByteArray &key = words.first();
+        const qint64 kilobytes = words.value(1).toLongLong();
+        if (!key.endsWith(':'))
+            ofModule = words.last() == module;
+        else if (key == "Rss:")
+            sum.resident += kilobytes;
+        if (key == (ofModule ? "Rss:" : "Anonymous:"))
+            sum.own += kilobytes;
+    }
+    return sum;
 }
 
 void command(QObject *mailbox, EMsgId id, const QByteArray &data)
@@ -55,9 +75,10 @@ int main(int argc, char **argv)
     QElapsedTimer clock;
     clock.start();
     std::unique_ptr<QLabel> label;
-    if (word == "window") {
+    if (word == "window" || word == "client" || word == "idle") {
         label = std::make_unique<QLabel>(QStringLiteral("正在呼叫..."));
         label->show();
+        QCoreApplication::processEvents();
     }
     QPluginLoader loader(QString::fromLocal8Bit(argv[2]));
     if (word != "none" && word != "window") {
@@ -65,7 +86,7 @@ int main(int argc, char **argv)
         if (!root)
             return 1;
         auto *plugin = qobject_cast<PluginInterface *>(root);
-        if (word == "command" || word == "call") {
+        if (word == "command" || word == "call" || word == "idle") {
             plugin->setCommonData(&data);
             plugin->setSendEventHandle(&host);
             command(plugin->getReceiveEventHandle(), MSG_IS_EXIST_CALL, {});
@@ -78,7 +99,9 @@ int main(int argc, char **argv)
     }
     const qint64 microseconds = clock.nsecsElapsed() / 1000;
     QCoreApplication::processEvents();
-    std::printf("%lld %lld\n", static_cast<long long>(microseconds), static_cast<long long>(residentKilobytes()));
+    const Memory used = memory(argv[2]);
+    std::printf("%lld %lld %lld\n", static_cast<long long>(microseconds), static_cast<long long>(used.resident),
+                static_cast<long long>(used.own));
     std::fflush(stdout);
     std::_Exit(0);
 }

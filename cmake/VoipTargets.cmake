@@ -2,7 +2,14 @@
 
 set(VOIP_WARNINGS
     -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
-    -Wnull-dereference -Wduplicated-cond -Wlogical-op -Wformat=2)
+    -Wnull-dereference)
+set(VOIP_COMPILER)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  list(APPEND VOIP_WARNINGS -Wduplicated-cond -Wlogical-op)
+  # ccache needs it to know a precompiled header's content.
+  set(VOIP_COMPILER -fpch-preprocess)
+endif()
+list(APPEND VOIP_WARNINGS -Wformat=2)
 
 # A log statement holds its source's name from here on, not the folder that it was built in.
 set(VOIP_PATHS -fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
@@ -16,14 +23,24 @@ target_link_libraries(voip_pch PRIVATE ${VOIP_QT})
 target_precompile_headers(voip_pch PRIVATE
     <QtCore/QtCore> <QtGui/QtGui> <QtWidgets/QtWidgets> <QtNetwork/QtNetwork>)
 set_target_properties(voip_pch PROPERTIES AUTOMOC OFF AUTOUIC OFF)
-target_compile_options(voip_pch PRIVATE ${VOIP_WARNINGS} -fpch-preprocess -fPIC ${VOIP_PATHS})
+target_compile_options(voip_pch PRIVATE ${VOIP_WARNINGS} ${VOIP_COMPILER} -fPIC ${VOIP_PATHS})
+
+if(VOIP_SANITIZE)
+  add_library(voip_keep_libraries OBJECT ${CMAKE_SOURCE_DIR}/tests/sanitize/KeepLibraries.cpp)
+  set_target_properties(voip_keep_libraries PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+  target_compile_options(voip_keep_libraries PRIVATE -fPIC)
+endif()
 
 # Compiler settings of the project's own code. Includes are written from src/ ("store/DB.h").
 function(voip_own_code target)
-  target_compile_options(${target} PRIVATE ${VOIP_WARNINGS} -fpch-preprocess -fPIC ${VOIP_PATHS})
+  target_compile_options(${target} PRIVATE ${VOIP_WARNINGS} ${VOIP_COMPILER} -fPIC ${VOIP_PATHS})
   target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   target_link_libraries(${target} PRIVATE ${VOIP_QT})
   target_precompile_headers(${target} REUSE_FROM voip_pch)
+  get_target_property(type ${target} TYPE)
+  if(VOIP_SANITIZE AND type STREQUAL "EXECUTABLE")
+    target_link_libraries(${target} PRIVATE voip_keep_libraries)
+  endif()
 endfunction()
 
 # voip_library(name SOURCES ... LINKS ...): the static library voip_name, known as Voip::name.
@@ -51,6 +68,9 @@ function(voip_test name)
   add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/isolated ${screen} $<TARGET_FILE:${name}>)
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 300)
+  endif()
+  if(VOIP_SANITIZE)
+    math(EXPR ARG_TIMEOUT "3 * ${ARG_TIMEOUT}")
   endif()
   set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT})
   if(ARG_ENV)

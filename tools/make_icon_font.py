@@ -142,7 +142,7 @@ def built_font():
     builder.setupHorizontalMetrics({name: (EM, builder.font["glyf"][name].xMin) for name in glyphs})
     builder.setupHorizontalHeader(ascent=EM, descent=0)
     builder.setupOS2(sTypoAscender=EM, sTypoDescender=0, sTypoLineGap=0, usWinAscent=EM, usWinDescent=0,
-                     sxHeight=EM // 2, sCapHeight=EM, fsSelection=0x40)
+                     sxHeight=EM // 2, sCapHeight=EM, fsSelection=0x40, fsType=0)
     builder.setupPost(keepGlyphNames=True)
     builder.setupNameTable({
         "familyName": FAMILY, "styleName": "Regular", "uniqueFontIdentifier": f"{FAMILY} {VERSION}",

@@ -134,7 +134,11 @@ void Channel::readClient()
         return;
     }
     int searchFrom = m_input.size();
-    m_input += m_client->readAll();
+    const QByteArray bytes = m_client->readAll();
+    if (!bytes.isEmpty()) {
+        emit bytesReceived(bytes);
+    }
+    m_input += bytes;
     // All lines are taken out first: what a line leads to may close this connection.
     QList<QByteArray> lines;
     int begin = 0;

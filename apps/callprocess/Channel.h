@@ -48,6 +48,8 @@ public:
 signals:
     void clientArrived();
     void clientGone();
+    /// What one read has brought from the client, ahead of the lines in it.
+    void bytesReceived(const QByteArray &bytes);
     /// One line from the client, without its line feed.
     void lineReceived(const QByteArray &line);
     /// The queue has run empty some time after a `write`. Not given when a write went out at once.

@@ -27,9 +27,9 @@ QString SocketClaim::socketPath(const QString &serverName)
     return serverName.startsWith(QLatin1Char('/')) ? serverName : QDir(QDir::tempPath()).filePath(serverName);
 }
 
-bool SocketClaim::isTaken() const
+bool SocketClaim::isAnswered(const QString &socketFile)
 {
-    const QByteArray path = QFile::encodeName(m_path);
+    const QByteArray path = QFile::encodeName(socketFile);
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     if (path.size() >= static_cast<int>(sizeof(address.sun_path))) {

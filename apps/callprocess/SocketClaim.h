@@ -15,8 +15,11 @@ public:
     /// Where the local server of this name has its socket file.
     static QString socketPath(const QString &serverName);
 
-    /// Whether a live process has the socket file. It is not noticed there: no connection arrives.
-    bool isTaken() const;
+    /// Whether a live process has the socket file.
+    bool isTaken() const { return isAnswered(m_path); }
+    /// Whether a live process listens at the socket file of this path, lock or no lock. It is not noticed there: no
+    /// connection arrives.
+    static bool isAnswered(const QString &socketFile);
 
 private:
     QString m_path;

@@ -6,6 +6,7 @@
 #include "callprocess/Options.h"
 #include "callprocess/Scenario.h"
 #include "callprocess/ScenarioPlayer.h"
+#include "callprocess/Streams.h"
 #include "callprocess/Trace.h"
 
 #include <QCoreApplication>
@@ -13,9 +14,8 @@
 
 #include <csignal>
 #include <cstdio>
-#include <fcntl.h>
 #include <memory>
-#include <unistd.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -26,21 +26,6 @@ int complain(int exitCode, const QString &text)
 {
     std::fprintf(stderr, "VoipSDK: %s\n", qPrintable(text));
     return exitCode;
-}
-
-/// The client starts this process detached but with its own streams. Whoever reads those to their end must not have to
-/// wait for this process too.
-void letGoOfStreams(bool keepStandardError)
-{
-    const int nothing = ::open("/dev/null", O_RDWR | O_CLOEXEC);
-    if (nothing >= 0) {
-        ::dup2(nothing, STDIN_FILENO);
-        ::dup2(nothing, STDOUT_FILENO);
-        if (!keepStandardError) {
-            ::dup2(nothing, STDERR_FILENO);
-        }
-        ::close(nothing);
-    }
 }
 
 /// Ends the process when it has had no client for the given time.
@@ -91,6 +76,8 @@ int serve(const Options &options, std::optional<Scenario> scenario, Channel &cha
 int main(int argc, char *argv[])
 {
     std::signal(SIGPIPE, SIG_IGN);
+    // The trace holds what clients sign in with.
+    ::umask(S_IRWXG | S_IRWXO);
     const QCoreApplication application(argc, argv);
     Options options;
     QString error;

@@ -16,6 +16,13 @@ namespace {
 
 constexpr int drainMs = 2000;
 
+/// Makes the user's folder for its owner alone, whatever an earlier run or another client has left.
+void closeFolder(const QString &strFolder)
+{
+    QDir().mkpath(strFolder);
+    QFile::setPermissions(strFolder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
 } // namespace
 
 HostContext::~HostContext()
@@ -52,6 +59,7 @@ void HostContext::signIn(const QString &strUid, const QString &strDomain, const 
     SystemSetData *settings = SystemSetData::instance();
     settings->initCommonData();
     settings->initData(strUid);
+    closeFolder(settings->m_strUserFolder);
     m_data.setSystemSetData(settings);
     m_data.setNetWorkManager(&m_network);
     m_data.setServerSettings(&m_server);

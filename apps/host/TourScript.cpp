@@ -236,13 +236,12 @@ TourCheck TourScript::shows(const char *strPart, const QString &strText)
 TourCheck TourScript::clockRuns()
 {
     return {QStringLiteral("the call window's clock runs"), [last = QString(), shown = false]() mutable {
-                // Until its first second the clock is blank, and "00:00:09" sorts before "00:00:10": a later time is a
-                // greater text.
+                // Until its first second the clock is blank or shows how long the call before lasted.
                 const QString before = last;
                 const bool wasShown = shown;
                 last = WindowProbe::text(WindowProbe::callWindow(), "currentPlayTimeLabel");
                 shown = WindowProbe::isShown(WindowProbe::callWindow(), "currentPlayTimeLabel");
-                return wasShown && shown && last > before;
+                return wasShown && shown && last != before && last > QLatin1String("00:00:00");
             }};
 }
 

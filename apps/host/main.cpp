@@ -20,6 +20,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <sys/stat.h>
 
 namespace {
 
@@ -29,6 +30,8 @@ constexpr const char *tourSpeed = "4";
 constexpr QPoint tourCorner(20, 20);
 // Exit code of a client that was ended by a signal.
 constexpr int endedFromOutside = 130;
+// Log, store and settings tell who calls whom, the log also what this client signs in with: nobody else reads them.
+constexpr mode_t ownerOnly = 077;
 
 /// The folder given by --tour, or a null text. Ends the program itself for --help and for bad arguments.
 QString readTourFolder(const QCoreApplication &app)
@@ -92,6 +95,7 @@ int runByHand(HostSession &session, MainWindow &window)
 
 int main(int argc, char **argv)
 {
+    ::umask(ownerOnly);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication app(argc, argv);
     const QString folder = readTourFolder(app);

@@ -4,6 +4,8 @@
 
 #include <QMutexLocker>
 
+#include <utility>
+
 namespace {
 
 const int RECORDS_BETWEEN_RESTS = 100;
@@ -15,8 +17,9 @@ void CLogThread::run()
 {
     static std::atomic<int> iWritten{0};
     while (!m_bStop) {
-        const CustomLogData data = takeRecord();
-        if (CustomLogger *pLogger = getCustomLogger()) {
+        CustomLogger *pLogger = nullptr;
+        const CustomLogData data = takeRecord(pLogger);
+        if (pLogger) {
             pLogger->printLog(data.level, data.location, data.message);
         }
         if (iWritten++ >= RECORDS_BETWEEN_RESTS - 1) {
@@ -26,12 +29,14 @@ void CLogThread::run()
     }
 }
 
-CustomLogData CLogThread::takeRecord()
+/// Waits for a record. One lock for it and for the log file to write it to, since callers stand at that lock.
+CustomLogData CLogThread::takeRecord(CustomLogger *&pLogger)
 {
     const QMutexLocker lock(&m_mutex);
     while (m_queue.isEmpty()) {
         m_condition.wait(&m_mutex);
     }
+    pLogger = m_pLogger;
     return m_queue.takeFirst();
 }
 
@@ -44,8 +49,15 @@ void CLogThread::stop()
 
 void CLogThread::printLog(const CustomLogData &data)
 {
+    printLog(CustomLogData(data));
+}
+
+void CLogThread::printLog(CustomLogData &&data)
+{
     const QMutexLocker lock(&m_mutex);
-    m_queue.append(data);
+    // A list copies what is appended; the record's texts are moved.
+    m_queue.append(CustomLogData());
+    m_queue.last() = std::move(data);
     m_condition.wakeAll();
 }
 

@@ -34,6 +34,9 @@ public:
     /// Queues a record.
     void printLog(const CustomLogData &data);
 
+    /// Queues a record that the caller needs no more.
+    void printLog(CustomLogData &&data);
+
     /// Queues a record of these three parts.
     void printLog(CustomLog::LogLevel level, const QString &strLocation, const QString &strMessage);
 
@@ -44,7 +47,7 @@ public:
     CustomLogger *getCustomLogger();
 
 private:
-    CustomLogData takeRecord();
+    CustomLogData takeRecord(CustomLogger *&pLogger);
 
     std::atomic<bool> m_bStop{false};
     QMutex m_mutex;

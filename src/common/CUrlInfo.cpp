@@ -9,19 +9,19 @@
 // The base address of each endpoint: where a client without an address file goes.
 namespace Endpoint {
 namespace {
-constexpr QLatin1String NoDefault("");
-constexpr QLatin1String Text("");
-constexpr QLatin1String Main("http://center.kelvar.example");
-constexpr QLatin1String MainInternal("http://center.internal.kelvar.example");
-constexpr QLatin1String Sso("http://sso.kelvar.example");
-constexpr QLatin1String Passport("http://passport.kelvar.example");
-constexpr QLatin1String PassportInternal("http://passport.internal.kelvar.example");
-constexpr QLatin1String Image("http://image.kelvar.example");
-constexpr QLatin1String Monitor("http://monitor.kelvar.example");
-constexpr QLatin1String AgentPlatform("http://agent.kelvar.example");
-constexpr QLatin1String Admin("http://admin.kelvar.example");
-constexpr QLatin1String ObjectStore("http://objectstore.kelvar.example");
-constexpr QLatin1String SipRegistration("sip.kelvar.example");
+const QLatin1String NoDefault("");
+const QLatin1String Text("");
+const QLatin1String Main("http://center.kelvar.example");
+const QLatin1String MainInternal("http://center.internal.kelvar.example");
+const QLatin1String Sso("http://sso.kelvar.example");
+const QLatin1String Passport("http://passport.kelvar.example");
+const QLatin1String PassportInternal("http://passport.internal.kelvar.example");
+const QLatin1String Image("http://image.kelvar.example");
+const QLatin1String Monitor("http://monitor.kelvar.example");
+const QLatin1String AgentPlatform("http://agent.kelvar.example");
+const QLatin1String Admin("http://admin.kelvar.example");
+const QLatin1String ObjectStore("http://objectstore.kelvar.example");
+const QLatin1String SipRegistration("sip.kelvar.example");
 } // namespace
 } // namespace Endpoint
 

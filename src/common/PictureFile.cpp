@@ -18,12 +18,17 @@ bool isPictureFormat(const QByteArray &format)
                        [&format](const char *pFormat) { return format == pFormat; });
 }
 
+// No picture format says more pixels with a byte of its file. A damaged file that declares more would cost the memory and
+// the time of a picture that it does not hold.
+constexpr qint64 MOST_PIXELS_PER_BYTE = 10000;
+
 // A bitmap that is stored from its top row down declares a negative height.
-bool isAllowedSize(const QSize &size)
+bool isAllowedSize(const QSize &size, qint64 iFileBytes)
 {
     const qint64 iWidth = size.width();
     const qint64 iHeight = qAbs(qint64(size.height()));
-    return iWidth > 0 && iHeight > 0 && iWidth * iHeight <= iMOST_PICTURE_PIXELS;
+    const qint64 iMost = qMin(iMOST_PICTURE_PIXELS, iFileBytes * MOST_PIXELS_PER_BYTE);
+    return iWidth > 0 && iHeight > 0 && iWidth * iHeight <= iMost;
 }
 
 } // namespace
@@ -31,12 +36,13 @@ bool isAllowedSize(const QSize &size)
 QPixmap readPictureFile(const QString &strPath)
 {
     // Anything but a plain file could also keep the reader waiting.
-    if (!QFileInfo(strPath).isFile()) {
+    const QFileInfo file(strPath);
+    if (!file.isFile()) {
         return {};
     }
     QImageReader reader(strPath);
     reader.setDecideFormatFromContent(true);
-    if (!isAllowedSize(reader.size()) || !isPictureFormat(reader.format())) {
+    if (!isAllowedSize(reader.size(), file.size()) || !isPictureFormat(reader.format())) {
         return {};
     }
     return QPixmap::fromImageReader(&reader);

@@ -12,5 +12,5 @@ constexpr qint64 iMOST_PICTURE_PIXELS = Q_INT64_C(64) * 1024 * 1024;
 
 /// The first image of the picture file at `strPath`, in one of the client's picture formats; its content counts, not
 /// its suffix. Null when there is no such file, when it is a folder or no such picture, when it is damaged, and when it
-/// declares no size or more pixels than are allowed.
+/// declares no size, more pixels than are allowed, or more than its bytes can hold.
 QPixmap readPictureFile(const QString &strPath);

@@ -116,6 +116,10 @@ bool WaterMark::generateWaterMark(QString &strName, QString &strId, QString &str
     if (QFile::exists(strPath)) {
         return true;
     }
+    // Neither part of the name leads out of the folder.
+    if (strUid.contains(QLatin1Char('/')) || strColor.contains(QLatin1Char('/'))) {
+        return false;
+    }
     const QScreen *pScreen = QGuiApplication::primaryScreen();
     if (pScreen == nullptr) {
         return false;

@@ -67,9 +67,9 @@ void CConferenceListView::addUser(QString strUserID)
         m_userList.append(strUserID);
         m_userCounts.add(strUserID);
         appendUserItem(strUserID);
-    }
-    if (QStandardItem *pItem = m_userItemMap.value(strUserID))
+    } else if (QStandardItem *pItem = m_userItemMap.value(strUserID)) {
         pItem->setData(QTime::currentTime(), ROLE_INVITE_TIME);
+    }
 }
 
 void CConferenceListView::removeUser(QString strUserID)

@@ -14,6 +14,7 @@ private slots:
     void cutsAsTheRuleTells();
     void agreesWithThePlainRuleOnRandomTexts_data();
     void agreesWithThePlainRuleOnRandomTexts();
+    void agreesWithThePlainRuleOnRandomLines_data();
     void agreesWithThePlainRuleOnRandomLines();
     void largeReadsAreCutInTime_data();
     void largeReadsAreCutInTime();
@@ -102,17 +103,31 @@ void tst_LineCutter::agreesWithThePlainRuleOnRandomTexts()
     }
 }
 
+void tst_LineCutter::agreesWithThePlainRuleOnRandomLines_data()
+{
+    QTest::addColumn<QStringList>("pieces");
+
+    QTest::newRow("documents and parts of them") << QStringList{R"({"resultCode":12,"content":"x"})",
+                                                                R"({"resultCode":2,"content":"x"})",
+                                                                R"("content":"x"})",
+                                                                "}",
+                                                                "x\"}",
+                                                                R"({"resultCode":18})",
+                                                                R"({"resultCode":1)",
+                                                                "8}",
+                                                                R"({})"};
+    QTest::newRow("documents that begin alike") << QStringList{R"({"content":"a"})",
+                                                               R"({"content":"b"})",
+                                                               R"({"content":"{\"content\":{}}"})",
+                                                               R"({"content":{"content":"a"}})",
+                                                               R"({"content":1})",
+                                                               R"({"content":11})",
+                                                               R"({"cont)"};
+}
+
 void tst_LineCutter::agreesWithThePlainRuleOnRandomLines()
 {
-    const QStringList pieces{R"({"resultCode":12,"content":"x"})",
-                             R"({"resultCode":2,"content":"x"})",
-                             R"("content":"x"})",
-                             "}",
-                             "x\"}",
-                             R"({"resultCode":18})",
-                             R"({"resultCode":1)",
-                             "8}",
-                             R"({})"};
+    QFETCH(QStringList, pieces);
     QRandomGenerator random(42);
     for (int round = 0; round < 20000; ++round) {
         QString read;

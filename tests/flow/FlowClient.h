@@ -64,6 +64,9 @@ public:
 
     FakeHost host;
 
+    /// What the client shares with the plug-in; a test may fill in more.
+    CommonData &context() { return m_data; }
+
 private:
     QByteArray deliver(EMsgId id, const QByteArray &payload);
 

@@ -10,15 +10,23 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QLocalSocket>
+#include <QProcess>
 #include <QtTest>
 
 #include <csignal>
+#include <sys/ioctl.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 
 namespace {
 
-constexpr int kPatienceMs = 15000;
+constexpr int kWhole = -1;
+
+bool patiently(const std::function<bool()> &condition)
+{
+    return QTest::qWaitFor(condition, 15000);
+}
 
 /// A folder below the test's own temporary directory, as that was before any run took its place.
 QString folderTemplate()
@@ -27,23 +35,73 @@ QString folderTemplate()
     return s_temporary + QStringLiteral("/XXXXXX");
 }
 
+QString scenarioFile(const QString &strName)
+{
+    return ScenarioRun::folder() + '/' + strName + ".scn";
+}
+
 /// The engine starts the call process with this process's environment; returns the trace's path.
-QString prepare(const QString &strName, const QTemporaryDir &folder)
+QString prepare(const QString &strScenario, const QTemporaryDir &folder)
 {
     // A detached process comes back to this one as its child, so that its exit code can be seen.
     ::prctl(PR_SET_CHILD_SUBREAPER, 1);
     const QString trace = folder.filePath(QStringLiteral("trace"));
     qputenv("TMPDIR", QFile::encodeName(folder.path()));
     qputenv("VOIPSDK_TRACE", QFile::encodeName(trace));
-    qputenv("VOIPSDK_SCENARIO", QFile::encodeName(ScenarioRun::folder() + '/' + strName + ".scn"));
+    qputenv("VOIPSDK_SCENARIO", QFile::encodeName(strScenario));
     qputenv("VOIPSDK_SPEED", "20");
     return trace;
 }
 
+/// Whether the line does something that the far side can see.
+bool isPlayable(const QByteArray &line)
+{
+    const QByteArray word = line.left(line.indexOf(' '));
+    return !word.isEmpty() && !word.startsWith('#') && word != "ignore" && word != "timeout" && word != "die";
+}
+
+/// The scenario's text up to its statement `iStatements`. How many there are at most goes into `pCount`.
+QByteArray beginning(const QString &strName, int iStatements, int *pCount = nullptr)
+{
+    QFile file(scenarioFile(strName));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("no scenario %s", qPrintable(strName));
+    QByteArray text;
+    int count = 0;
+    int depth = 0;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine();
+        const QByteArray words = line.trimmed();
+        const bool inBlock = depth > 0;
+        depth += words.endsWith('{') ? 1 : words == "}" ? -1 : 0;
+        if (!inBlock && isPlayable(words))
+            ++count;
+        if (count <= iStatements && words != "die")
+            text += line;
+    }
+    if (pCount)
+        *pCount = count;
+    return text;
+}
+
+QString cutScenario(const QString &strName, int iStatements, const QTemporaryDir &folder)
+{
+    const QString path = folder.filePath(QStringLiteral("scenario"));
+    QFile file(path);
+    const QByteArray text = beginning(strName, iStatements);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        qFatal("no place for a scenario");
+    return path;
+}
+
 } // namespace
 
-ScenarioRun::ScenarioRun(const QString &strName)
-    : m_folder(folderTemplate()), trace(prepare(strName, m_folder)), engine(EngineFixture::RealCallProcess)
+ScenarioRun::ScenarioRun(const QString &strName) : ScenarioRun(strName, kWhole) {}
+
+ScenarioRun::ScenarioRun(const QString &strName, int iStatements)
+    : m_folder(folderTemplate()), m_bCut(iStatements != kWhole),
+      trace(prepare(m_bCut ? cutScenario(strName, iStatements, m_folder) : scenarioFile(strName), m_folder)),
+      engine(EngineFixture::RealCallProcess)
 {
     engine.whileHandled = [this](BaseEvent &event) {
         if (event.msgId == MSG_CLOSE_AV_MSGBOX)
@@ -56,7 +114,7 @@ ScenarioRun::~ScenarioRun()
     if (trace.processId() == 0 || reap())
         return;
     ::kill(static_cast<pid_t>(trace.processId()), SIGKILL);
-    waitFor([this] { return reap(); });
+    patiently([this] { return reap(); });
 }
 
 QString ScenarioRun::folder()
@@ -74,6 +132,13 @@ QStringList ScenarioRun::names()
     return names;
 }
 
+int ScenarioRun::statements(const QString &strName)
+{
+    int count = 0;
+    beginning(strName, 0, &count);
+    return count;
+}
+
 QByteArray ScenarioRun::deliver(EMsgId id, const QByteArray &payload)
 {
     BaseEvent event(id, sessionPluginId(), voipPluginId(), false, payload);
@@ -81,18 +146,47 @@ QByteArray ScenarioRun::deliver(EMsgId id, const QByteArray &payload)
     return event.data;
 }
 
-bool ScenarioRun::waitFor(const std::function<bool()> &condition)
+bool ScenarioRun::waitFor(const std::function<bool()> &condition) const
 {
-    return QTest::qWaitFor(condition, kPatienceMs);
+    return patiently([&] { return condition() || (m_bCut && isPlayed()); });
 }
 
 bool ScenarioRun::connectChannel()
 {
-    return waitFor([this] {
+    return patiently([this] {
         if (!engine.manager->m_bSocketConnected)
             engine.manager->slot_ReConnectVoipSDK();
         return engine.manager->m_bSocketConnected;
     });
+}
+
+bool ScenarioRun::hasReadAll() const
+{
+    const QLocalSocket *socket = engine.manager->m_pVoipSocket;
+    int unread = 0;
+    return socket->bytesAvailable() == 0 &&
+           (socket->socketDescriptor() < 0 ||
+            ::ioctl(static_cast<int>(socket->socketDescriptor()), FIONREAD, &unread) != 0 || unread == 0);
+}
+
+bool ScenarioRun::killCallProcess()
+{
+    const auto id = static_cast<pid_t>(trace.processId());
+    if (id == 0 || !patiently([this] { return hasReadAll(); }) || ::kill(id, SIGKILL) != 0)
+        return false;
+    return patiently([this] { return reap() && !engine.manager->m_bSocketConnected; });
+}
+
+bool ScenarioRun::startAnother(const QString &strName)
+{
+    trace = CallTrace(m_folder.filePath(QStringLiteral("trace-of-another")));
+    m_bCut = false;
+    m_iReaped = 0;
+    m_iExitCode = -1;
+    qputenv("VOIPSDK_TRACE", QFile::encodeName(trace.file()));
+    qputenv("VOIPSDK_SCENARIO", QFile::encodeName(scenarioFile(strName)));
+    const QString program = QCoreApplication::applicationDirPath() + QStringLiteral("/VoipSDK/Contents/MacOS/VoipSDK");
+    return QProcess::startDetached(program, {}) && patiently([this] { return trace.processId() != 0; });
 }
 
 bool ScenarioRun::press(const char *button)
@@ -140,10 +234,10 @@ bool ScenarioRun::isOver() const
 
 int ScenarioRun::finish()
 {
-    if (!waitFor([this] { return isOver(); }))
+    if (!patiently([this] { return isOver(); }))
         return -1;
     command(MSG_EXIT_VOIP);
-    waitFor([this] { return reap(); });
+    patiently([this] { return reap(); });
     return m_iExitCode;
 }
 

@@ -19,6 +19,8 @@ class ScenarioRun
 public:
     /// Starts the engine, which starts the call process with the scenario `strName`; its delays are much shortened.
     explicit ScenarioRun(const QString &strName);
+    /// Plays only the first `iStatements` of the scenario. Whatever is waited for, the waiting ends with the last one.
+    ScenarioRun(const QString &strName, int iStatements);
     /// Ends the call process in any case.
     ~ScenarioRun();
     ScenarioRun(const ScenarioRun &) = delete;
@@ -28,6 +30,9 @@ public:
     static QString folder();
     /// The names of all ready scenarios, sorted.
     static QStringList names();
+    /// How many statements of the scenario `strName` can be played and leave its process alive; a block counts as one,
+    /// one that only prepares the rest as none.
+    static int statements(const QString &strName);
 
     /// Gives a host command with its payload fields through the mailbox; returns the event's data afterwards.
     template <class... Fields>
@@ -37,7 +42,9 @@ public:
     }
 
     /// Lets the event loop run until `condition` holds; false when it does not come to that.
-    static bool waitFor(const std::function<bool()> &condition);
+    bool waitFor(const std::function<bool()> &condition) const;
+    /// Whether the call process has gone through its scenario.
+    bool isPlayed() const { return trace.texts('=').contains("scenario played"); }
     /// Tries to connect until the call process is there, without waiting for the back-off.
     bool connectChannel();
     /// Presses a button of the call window; false when the window has none of this name or does not show it.
@@ -47,6 +54,14 @@ public:
     bool clickMember(const QString &strUid, int rectRole);
     /// Double-clicks on the member's row; false when there is none.
     bool doubleClickMember(const QString &strUid);
+
+    /// Whether nothing waits in the channel to be read; nothing does in one that is gone.
+    bool hasReadAll() const;
+    /// Kills the call process once the engine has read all that it wrote. False when either does not happen, or when
+    /// the engine does not see the loss.
+    bool killCallProcess();
+    /// Starts another call process with the scenario `strName`, as an operator would. From here on `trace` is its own.
+    bool startAnother(const QString &strName);
 
     /// Waits until the scenario has been gone through or its process has died of it, gives the host's exit command, and
     /// returns the exit code of the call process; -1 when it did not end.
@@ -61,6 +76,7 @@ private:
     bool reap();
 
     QTemporaryDir m_folder;
+    bool m_bCut;
 
 public:
     CallTrace trace;

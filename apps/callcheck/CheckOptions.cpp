@@ -1,0 +1,128 @@
+#include "callcheck/CheckOptions.h"
+
+#include <QCommandLineParser>
+
+#include <cmath>
+
+namespace {
+
+constexpr const char *OUT_VARIABLE = "CALLCHECK_OUT";
+constexpr const char *PROGRAM_VARIABLE = "CALLCHECK_PROGRAM";
+
+struct OptionRow
+{
+    const char *option;
+    const char *value;
+    const char *byDefault;
+    const char *text;
+};
+
+// clang-format off
+constexpr OptionRow OUT          {"out",          "FILE",    "",             "record: the scenario to write; it must not exist yet"};
+constexpr OptionRow SOCKET_NAME  {"socket-name",  "NAME",    "VoipSDK",      "record: name of the local server for the plug-in"};
+constexpr OptionRow ATTACH       {"attach",       "NAME",    "",             "speak with the call process that listens at this name or path, instead of starting PROGRAM"};
+constexpr OptionRow TRACE        {"trace",        "FILE",    "",             "append a record of every line to this file, \"-\" for standard error"};
+constexpr OptionRow PATIENCE     {"patience",     "SECONDS", "10",           "replay: how much later than recorded an answer may come"};
+constexpr OptionRow USER         {"user",         "ID",      "30010000",     "replay: user id, where the scenario names none"};
+constexpr OptionRow NICK_NAME    {"nick",         "NAME",    "callcheck",    "replay: nick name, where the scenario names none"};
+constexpr OptionRow REGISTRATION {"registration", "VALUE",   "registration", "replay: registration value, where the scenario names none"};
+// clang-format on
+
+void addOptions(QCommandLineParser &parser)
+{
+    for (const OptionRow &row : {OUT, SOCKET_NAME, ATTACH, TRACE, PATIENCE, USER, NICK_NAME, REGISTRATION}) {
+        parser.addOption({QString::fromLatin1(row.option), QString::fromLatin1(row.text),
+                          QString::fromLatin1(row.value), QString::fromLatin1(row.byDefault)});
+    }
+    parser.addOption({QStringLiteral("help"), QStringLiteral("print this")});
+}
+
+QString valueOf(const QCommandLineParser &parser, const OptionRow &row)
+{
+    return parser.value(QString::fromLatin1(row.option));
+}
+
+QString faultOf(const CheckOptions &options)
+{
+    const bool record = options.mode == CheckOptions::Mode::Record;
+    if (record && options.output.isEmpty()) {
+        return QStringLiteral("record needs --out FILE");
+    }
+    if (!record && options.scenario.isEmpty()) {
+        return QStringLiteral("replay needs a scenario");
+    }
+    if (options.program.isEmpty() == options.attachTo.isEmpty()) {
+        return QStringLiteral("needs either -- PROGRAM or --attach NAME");
+    }
+    if (options.socketName.isEmpty()) {
+        return QStringLiteral("--socket-name is empty");
+    }
+    if (!std::isfinite(options.patience) || options.patience <= 0.0 || options.patience > 1e6) {
+        return QStringLiteral("--patience: not a number of seconds above 0");
+    }
+    return {};
+}
+
+} // namespace
+
+bool CheckOptions::read(const QStringList &arguments_, QString *error)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    if (!parser.parse(arguments_)) {
+        *error = parser.errorText();
+        return false;
+    }
+    QStringList words = parser.positionalArguments();
+    inPlace = arguments_.size() == 1 && qEnvironmentVariableIsSet(OUT_VARIABLE);
+    output = inPlace ? qEnvironmentVariable(OUT_VARIABLE) : valueOf(parser, OUT);
+    socketName = valueOf(parser, SOCKET_NAME);
+    attachTo = valueOf(parser, ATTACH);
+    trace = valueOf(parser, TRACE);
+    userId = valueOf(parser, USER);
+    nickName = valueOf(parser, NICK_NAME);
+    registration = valueOf(parser, REGISTRATION);
+    bool number = false;
+    patience = valueOf(parser, PATIENCE).toDouble(&number);
+    patience = number ? patience : 0.0;
+    if (inPlace) {
+        words = QStringList{QStringLiteral("record"), qEnvironmentVariable(PROGRAM_VARIABLE)};
+    }
+    if (parser.isSet(QStringLiteral("help")) || words.isEmpty()) {
+        mode = Mode::Help;
+        *error = words.isEmpty() ? QStringLiteral("record or replay?") : QString();
+        return parser.isSet(QStringLiteral("help"));
+    }
+    const QString command = words.takeFirst();
+    if (command != QLatin1String("record") && command != QLatin1String("replay")) {
+        *error = QStringLiteral("unknown command \"%1\": record or replay?").arg(command);
+        return false;
+    }
+    mode = command == QLatin1String("record") ? Mode::Record : Mode::Replay;
+    if (mode == Mode::Replay && !words.isEmpty()) {
+        scenario = words.takeFirst();
+    }
+    if (!words.isEmpty()) {
+        program = words.takeFirst();
+        arguments = words;
+    }
+    *error = faultOf(*this);
+    return error->isEmpty();
+}
+
+QString CheckOptions::helpText()
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    parser.setApplicationDescription(
+        QStringLiteral("Checks a call process of the voice and video plug-in.\n\n"
+                       "record  stands between the plug-in and a call process and writes what happens as a scenario\n"
+                       "replay  plays the plug-in's part of a scenario against a call process\n\n"
+                       "Started without arguments in the place of a call process, it records into the file that %1\n"
+                       "names, with the call process that %2 names.")
+            .arg(QLatin1String(OUT_VARIABLE), QLatin1String(PROGRAM_VARIABLE)));
+    parser.addPositionalArgument(QStringLiteral("record"), QString(), QStringLiteral("record|replay [SCENARIO]"));
+    parser.addPositionalArgument(QStringLiteral("PROGRAM"), QStringLiteral("the call process and its arguments"),
+                                 QStringLiteral("[-- PROGRAM ARGUMENTS...]"));
+    return parser.helpText();
+}

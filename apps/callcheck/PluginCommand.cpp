@@ -1,0 +1,103 @@
+#include "callcheck/PluginCommand.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+constexpr const char *SOMEBODY = "30010001";
+
+/// A text parameter that is the user's own or has a value that means something.
+struct OpenRow
+{
+    const char *command;
+    int parameter;
+    QString (*value)(const PluginUser &user);
+};
+
+QString ownId(const PluginUser &user)
+{
+    return user.id;
+}
+
+// clang-format off
+const OpenRow OPEN_TEXTS[] = {
+    {"RegeditUser",       1, ownId},
+    {"RegeditUser",       2, [](const PluginUser &user) { return user.nickName; }},
+    {"RegeditUser",       3, [](const PluginUser &user) { return user.registration; }},
+    {"UnReg",             1, ownId},
+    {"CallUser",          1, [](const PluginUser &) { return QString::fromLatin1(SOMEBODY); }},
+    {"RequestConference", 1, ownId},
+    {"Add2Conference",    2, ownId},
+    {"Add2Conference",    3, ownId},
+    {"ControlConf",       1, [](const PluginUser &) { return QStringLiteral("mute"); }},
+    {"ControlConf",       2, [](const PluginUser &) { return QStringLiteral("non_moderator"); }},
+};
+// clang-format on
+
+QJsonValue openValue(const CommandRow &command, int parameter, const PluginUser &user)
+{
+    switch (command.parameters[parameter - 1]) {
+    case 'b':
+        return false;
+    case 'i':
+        return 0;
+    case 'a':
+        return QJsonValue::Null;
+    default:
+        break;
+    }
+    for (const OpenRow &row : OPEN_TEXTS) {
+        if (qstrcmp(row.command, command.name) == 0 && row.parameter == parameter) {
+            return row.value(user);
+        }
+    }
+    return QString();
+}
+
+QJsonValue namedValue(const ExpectedParameter &parameter, char type)
+{
+    if (parameter.textOnly || type == 's') {
+        return parameter.text;
+    }
+    const QJsonArray values = QJsonDocument::fromJson("[" + parameter.text.toUtf8() + "]").array();
+    return values.size() == 1 ? values.first() : QJsonValue(parameter.text);
+}
+
+} // namespace
+
+QByteArray pluginLine(const Statement &statement, const PluginUser &user)
+{
+    const CommandRow *row = findCommand(statement.commands.constFirst());
+    if (row == nullptr) {
+        return QByteArray(QUIT_LINE) + '\n';
+    }
+    QJsonArray values;
+    for (int number = 1; number <= static_cast<int>(qstrlen(row->parameters)); ++number) {
+        QJsonValue value = openValue(*row, number, user);
+        for (const ExpectedParameter &parameter : statement.parameters) {
+            if (parameter.key == QStringLiteral("param%1").arg(number)) {
+                value = namedValue(parameter, row->parameters[number - 1]);
+            }
+        }
+        values.append(value);
+    }
+    return commandLine(QString::fromLatin1(row->name), values);
+}
+
+QByteArray commandLine(const QString &name, const QJsonArray &parameters)
+{
+    QJsonObject object{{QStringLiteral("messagetype"), name}};
+    for (int i = 0; i < parameters.size(); ++i) {
+        object.insert(QStringLiteral("param%1").arg(i + 1), parameters.at(i));
+    }
+    const QString text = QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+    QByteArray line;
+    for (const QChar character : text) {
+        line += character.unicode() < 0x80
+                    ? QByteArray(1, character.toLatin1())
+                    : QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0')).toLatin1();
+    }
+    return line + '\n';
+}

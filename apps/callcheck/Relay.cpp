@@ -1,0 +1,231 @@
+#include "callcheck/Relay.h"
+
+#include "callcheck/Subject.h"
+#include "callprocess/Channel.h"
+#include "callprocess/Wire.h"
+
+#include <QLocalSocket>
+
+#include <utility>
+
+namespace {
+
+constexpr int LOOK_MS = 10;
+constexpr int CONNECT_MS = 1000;
+/// A process that dies closes its socket first, so it takes a moment to tell a death from a drop.
+constexpr int DEATH_SHOWS_MS = 300;
+constexpr int LOOKS_TO_BELIEVE = 3;
+
+} // namespace
+
+Relay::Relay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject *parent)
+    : QObject(parent), m_subject(subject), m_channel(channel), m_writer(writer)
+{
+    m_clock.start();
+    m_lookTimer.setInterval(LOOK_MS);
+    m_dropTimer.setInterval(DEATH_SHOWS_MS);
+    m_dropTimer.setSingleShot(true);
+    connect(&m_lookTimer, &QTimer::timeout, this, &Relay::look);
+    connect(&m_dropTimer, &QTimer::timeout, this, [this] { settleDrop("drop"); });
+    connect(&m_channel, &Channel::clientArrived, this, &Relay::clientArrives);
+    connect(&m_channel, &Channel::clientGone, this, &Relay::clientGoes);
+    connect(&m_channel, &Channel::bytesReceived, this, &Relay::passOn);
+    connect(&m_channel, &Channel::allWritten, this, [this] {
+        dropClient();
+        settleEnd();
+    });
+    connect(&m_channel, &Channel::lineReceived, this, [this](const QByteArray &line) {
+        m_quit = m_quit || line == QUIT_LINE;
+        m_writer.said(m_clock.elapsed(), line);
+    });
+}
+
+void Relay::start()
+{
+    m_writer.begin();
+    if (m_subject.isChild()) {
+        connect(&m_subject.process(), qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
+                &Relay::subjectEnds);
+        if (m_subject.process().state() == QProcess::NotRunning) {
+            QTimer::singleShot(0, this, &Relay::subjectEnds);
+            return;
+        }
+    }
+    m_lookTimer.start();
+    look();
+}
+
+void Relay::stop()
+{
+    m_stopped = true;
+    if (m_subject.isChild()) {
+        m_subject.process().terminate();
+    } else {
+        subjectEnds();
+    }
+}
+
+void Relay::look()
+{
+    const bool listening = m_subject.isListening();
+    m_looksUnanswered = listening ? 0 : m_looksUnanswered + 1;
+    if (listening && !m_open) {
+        openServer();
+    } else if (m_open && m_looksUnanswered >= LOOKS_TO_BELIEVE) {
+        if (m_subject.isChild() || !m_quit) {
+            closeServer();
+        } else {
+            subjectEnds();
+        }
+    }
+}
+
+void Relay::openServer()
+{
+    QString error;
+    if (m_channel.listen(&error) != Channel::Listen::Listening) {
+        m_lookTimer.stop();
+        emit failed(QStringLiteral("cannot listen for the plug-in: %1").arg(error));
+        return;
+    }
+    m_open = true;
+    if (m_wasOpen) {
+        settleDrop("drop");
+        m_writer.happened(m_clock.elapsed(), "restart-listen");
+    }
+    m_wasOpen = true;
+}
+
+void Relay::closeServer()
+{
+    if (m_dropTimer.isActive()) {
+        return; // it may be dying
+    }
+    m_open = false;
+    m_channel.stopListening();
+    m_writer.happened(m_clock.elapsed(), "stop-listen");
+}
+
+void Relay::clientArrives()
+{
+    settleDrop("drop");
+    releaseFarEnd();
+    m_closing = false;
+    m_farEnd = new QLocalSocket(this);
+    connect(m_farEnd, &QLocalSocket::readyRead, this, &Relay::takeAnswer);
+    connect(m_farEnd, &QLocalSocket::disconnected, this, &Relay::subjectCloses);
+    m_farEnd->connectToServer(m_subject.socketPath(), QIODevice::ReadWrite);
+    if (m_farEnd->waitForConnected(CONNECT_MS)) {
+        m_writer.pluginDid(m_clock.elapsed(), "await-client");
+    } else {
+        releaseFarEnd();
+        m_channel.drop();
+    }
+}
+
+/// The plug-in has gone, or has been sent away here.
+void Relay::clientGoes()
+{
+    if (m_farEnd != nullptr && !m_closing) {
+        m_writer.pluginDid(m_clock.elapsed(), "await-gone");
+    }
+    releaseFarEnd();
+    settleEnd();
+}
+
+void Relay::passOn(const QByteArray &bytes)
+{
+    if (m_farEnd != nullptr) {
+        m_farEnd->write(bytes);
+        m_farEnd->flush();
+    }
+}
+
+void Relay::takeAnswer()
+{
+    const QByteArray bytes = m_farEnd->readAll();
+    if (!bytes.isEmpty()) {
+        m_writer.written(m_clock.elapsed(), bytes);
+        m_channel.write(bytes);
+    }
+}
+
+void Relay::subjectCloses()
+{
+    takeAnswer();
+    m_closing = true;
+    m_dropTime = m_clock.elapsed();
+    if (!m_quit) {
+        m_dropTimer.start();
+    }
+    dropClient();
+    settleEnd();
+}
+
+/// Closes the plug-in's connection when the call process has closed its own and all it wrote has been passed on.
+void Relay::dropClient()
+{
+    if (m_closing && m_channel.isAllWritten()) {
+        m_channel.drop();
+    }
+}
+
+void Relay::settleDrop(const char *statement)
+{
+    if (m_dropTime > 0 && !m_quit) {
+        m_dropTimer.stop();
+        m_writer.happened(std::exchange(m_dropTime, 0), statement);
+    }
+}
+
+void Relay::subjectEnds()
+{
+    m_lookTimer.stop();
+    m_dropTimer.stop();
+    m_ended = true;
+    settleEnd();
+}
+
+/// The end is told when all that the call process wrote before it has been passed on.
+void Relay::settleEnd()
+{
+    const bool heardOut = m_farEnd == nullptr || m_closing || !m_subject.isChild();
+    if (!m_ended || m_told || !heardOut || !m_channel.isAllWritten()) {
+        return;
+    }
+    m_told = true;
+    if (!m_wasOpen) {
+        emit failed(m_subject.isChild()
+                        ? QStringLiteral("the call process ended with %1 before it listened").arg(m_subject.ending())
+                        : QStringLiteral("nothing listened at %1").arg(m_subject.socketPath()));
+        return;
+    }
+    tellEnd();
+}
+
+void Relay::tellEnd()
+{
+    if (m_stopped || !m_subject.isChild()) {
+        m_writer.end(m_stopped ? QStringLiteral("The recording was stopped.") : QString());
+        emit finished(0, false);
+        return;
+    }
+    const bool killed = m_subject.process().exitStatus() != QProcess::NormalExit;
+    const int exitCode = m_subject.process().exitCode();
+    const bool failed = killed || exitCode != 0;
+    if (!m_quit) {
+        m_writer.happened(m_dropTime > 0 ? m_dropTime : m_clock.elapsed(), failed ? "die" : "end");
+    }
+    m_writer.end(failed ? QStringLiteral("The call process ended with %1.").arg(m_subject.ending()) : QString());
+    emit finished(exitCode, killed || (failed && !m_quit));
+}
+
+void Relay::releaseFarEnd()
+{
+    QLocalSocket *farEnd = std::exchange(m_farEnd, nullptr);
+    if (farEnd != nullptr) {
+        farEnd->disconnect(this);
+        farEnd->disconnectFromServer();
+        farEnd->deleteLater();
+    }
+}

@@ -1,0 +1,129 @@
+#include "FuzzTargets.h"
+
+#include "common/BoundedHtml.h"
+#include "common/CommonFun.h"
+#include "common/DomText.h"
+#include "common/HtmlImages.h"
+#include "common/HtmlLinks.h"
+#include "common/HtmlTags.h"
+#include "common/HtmlText.h"
+#include "common/LabelText.h"
+#include "common/MessageHtml.h"
+#include "common/PlainText.h"
+#include "common/ShortText.h"
+#include "common/TextMeasure.h"
+#include "model/CommonData.h"
+#include "model/SystemSetData.h"
+
+#include <QDomDocument>
+#include <QFontMetrics>
+#include <QLabel>
+
+#include <iterator>
+
+namespace {
+
+void body(const QString &text)
+{
+    MessageHtml::convertMessageBody(text, text.size() % 2 == 0);
+}
+
+void links(const QString &text)
+{
+    QString linked = text;
+    HtmlLinks::convertWebLink(linked, QStringLiteral("color:#000000"));
+    requirePromise(linked.isEmpty() == text.isEmpty(), "links leave no text empty");
+}
+
+void plain(const QString &text)
+{
+    QString bare = text;
+    PlainText::convertToPlaintText(bare);
+}
+
+void images(const QString &text)
+{
+    HtmlImages::getImageListFromHtml(text, QString(), QString());
+    HtmlImages::getFileIdListFromHtml(text, QString(), QString());
+}
+
+void bounds(const QString &text)
+{
+    const QString modest = BoundedHtml::modest(text);
+    requirePromise(!BoundedHtml::isModest(text) || modest == text, "modest HTML stays as it is");
+    requirePromise(BoundedHtml::isModest(modest), "what becomes modest is modest");
+}
+
+void tags(const QString &text)
+{
+    int position = 0;
+    for (HtmlTag tag = HtmlTags::next(text, 0); tag.iBegin >= 0; tag = HtmlTags::next(text, position)) {
+        requirePromise(tag.iBegin >= position && tag.iEnd > tag.iBegin && tag.iEnd <= text.size(),
+                       "tags follow each other in the text");
+        const int behind = HtmlTags::behind(text, tag);
+        requirePromise(behind >= tag.iEnd && behind <= text.size(), "an element ends behind its tag");
+        position = tag.iEnd;
+    }
+}
+
+void dom(const QString &text)
+{
+    QDomDocument document;
+    if (!DomText::parse(text, document))
+        requirePromise(document.isNull() || !document.hasChildNodes(), "what does not parse leaves nothing");
+    DomText::parse(text.toUtf8(), document);
+    document.toString();
+}
+
+void entities(const QString &text)
+{
+    QString changed = text;
+    HtmlText::replaceSpace(changed);
+    HtmlText::replaceLineBreak(changed);
+    HtmlText::replaceLineBreakToParagraph(changed);
+    HtmlText::escapeURLChar(changed);
+    const QString escaped = HtmlText::getDealWithHtmlText(text);
+    requirePromise(!escaped.contains(QLatin1Char('<')), "escaped text has no tag");
+    HtmlText::regainHtmlText(text);
+}
+
+void label(const QString &text)
+{
+    static QLabel s_label;
+    s_label.setFixedWidth(40 + text.size() % 200);
+    QString shown;
+    LabelText::stringFormatWithControl(text, &s_label, shown, text.size() % 5);
+    LabelText::getLineWrapText(60, text, s_label.fontMetrics(), text.size() % 4);
+}
+
+void shortened(const QString &text)
+{
+    const int columns = TextMeasure::getStrCounnt(text);
+    for (const int limit : {-1, 0, 1, 7, columns, columns + 1}) {
+        const QString cut = TextMeasure::getStringByLen(text, limit);
+        requirePromise(text.startsWith(cut) && TextMeasure::getStrCounnt(cut) <= qMax(limit, 0),
+                       "a cut text is a beginning within the limit");
+        TextMeasure::getLimitPosition(text, limit);
+        ShortText::getShortString(text, limit);
+    }
+    ShortText::getElidedText(text);
+}
+
+constexpr void (*kReaders[])(const QString &text) = {body, links, plain,    images, bounds,
+                                                     tags, dom,   entities, label,  shortened};
+
+} // namespace
+
+// The first byte says which of the readers gets the rest.
+void FuzzTargets::html(const QByteArray &input)
+{
+    static CommonData s_context;
+    static SystemSetData s_settings;
+    s_context.setSystemSetData(&s_settings);
+    CommonFun::setCommonData(&s_context);
+
+    if (input.isEmpty())
+        return;
+    const auto reader = uchar(input.at(0)) % std::size(kReaders);
+    kReaders[reader](QString::fromUtf8(input.mid(1)));
+}

@@ -1,0 +1,24 @@
+# The Debian package: what is installed, under the name and with the dependencies below.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME kelvarim-voip)
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_VENDOR KelvarIM)
+set(CPACK_PACKAGE_CONTACT "KelvarIM calls <calls@im.example.org>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "voice and video calls for KelvarIM: plug-in, host kit, demo client")
+set(CPACK_PACKAGE_DESCRIPTION
+    "The plug-in that gives the KelvarIM desktop client its calls, with the headers
+and the archive for programs that load it, a demo client that tries every way
+a call can go against a stand-in call process, and a gallery of the widgets.")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION net)
+# What the programs link is read from them; these are loaded at run time.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt5multimedia5-plugins, libqt5sql5-sqlite")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-noto-cjk")
+# For building a host.
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "cmake, g++, libjsoncpp-dev, qtbase5-dev")
+include(CPack)

@@ -1,0 +1,24 @@
+# The manuals beside the programs, as Debian wants them: the pages of the programs and the changelog packed, and the documents
+# that one reads without the sources.
+set(manuals share/doc/kelvarim-voip)
+install(
+  FILES
+    share/doc/copyright
+    ${CMAKE_SOURCE_DIR}/docs/call-process-kit.md
+    ${CMAKE_SOURCE_DIR}/docs/host-contract.md
+    ${CMAKE_SOURCE_DIR}/docs/scenario-language.md
+    ${CMAKE_SOURCE_DIR}/docs/wire-protocol.md
+  DESTINATION ${manuals})
+
+find_program(VOIP_GZIP gzip REQUIRED)
+# packed_file(file folder): installs the file into the folder, packed without name and time.
+function(packed_file file folder)
+  get_filename_component(name ${file} NAME)
+  configure_file(${file} ${CMAKE_CURRENT_BINARY_DIR}/${name})
+  execute_process(COMMAND ${VOIP_GZIP} -9nf ${CMAKE_CURRENT_BINARY_DIR}/${name} COMMAND_ERROR_IS_FATAL ANY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.gz DESTINATION ${folder})
+endfunction()
+packed_file(share/doc/changelog ${manuals})
+foreach(program kelvarim-demo kelvarim-gallery VoipSDK)
+  packed_file(share/man/man1/${program}.1 share/man/man1)
+endforeach()

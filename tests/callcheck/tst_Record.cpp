@@ -1,0 +1,379 @@
+// The checker's recording, as the program that it is, between a client played by the test and the stand-in.
+
+#include "callcheck/PluginCommand.h"
+#include "callprocess/Scenario.h"
+#include "callprocess/Wire.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <memory>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr int WAIT_MS = 30000;
+
+const char *const OPENING = "# Recorded by kelvarim-callcheck.\n"
+                            "ignore SetMicEnable SetSpeakerEnble SetCamreraEnable SetMicVolume SetSpeakerVolume\n"
+                            "timeout 0s\n"
+                            "await-client\n";
+
+QByteArray registration()
+{
+    return commandLine("RegeditUser", {"me", "Nick", "secret", false});
+}
+
+const QByteArray REGISTERED = "expect RegeditUser param1=me param4=false\n";
+
+/// The checker with a stand-in that plays a scenario, and the plug-in's end of the connection.
+class Recording
+{
+public:
+    explicit Recording(const QByteArray &scenario)
+    {
+        writeFile(played(), scenario);
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    }
+
+    ~Recording()
+    {
+        process.kill();
+        process.waitForFinished();
+    }
+
+    QString played() const { return m_folder.filePath("played.scn"); }
+    QString file() const { return m_folder.filePath("recorded.scn"); }
+
+    void start(const QStringList &options = {})
+    {
+        process.start(QStringLiteral(CALLCHECK_PROGRAM),
+                      QStringList{"record", "--out", file()} + options +
+                          QStringList{"--", QStringLiteral(VOIPSDK_PROGRAM), "--scenario", played()});
+    }
+
+    static void writeFile(const QString &path, const QByteArray &text)
+    {
+        QFile file(path);
+        if (file.open(QIODevice::WriteOnly)) {
+            file.write(text);
+        }
+    }
+
+    bool connectClient()
+    {
+        client = std::make_unique<QLocalSocket>();
+        return QTest::qWaitFor(
+            [this] {
+                client->connectToServer("VoipSDK");
+                return client->waitForConnected(1000);
+            },
+            WAIT_MS);
+    }
+
+    void say(const QByteArray &bytes)
+    {
+        client->write(bytes);
+        client->flush();
+    }
+
+    /// The next read.
+    QByteArray hear()
+    {
+        if (client->bytesAvailable() == 0) {
+            client->waitForReadyRead(WAIT_MS);
+        }
+        return client->readAll();
+    }
+
+    bool waitDisconnected()
+    {
+        return client->state() == QLocalSocket::UnconnectedState || client->waitForDisconnected(WAIT_MS);
+    }
+
+    int exitCode()
+    {
+        const bool ended = process.state() == QProcess::NotRunning || process.waitForFinished(WAIT_MS);
+        return ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    }
+
+    /// The recorded text behind the opening, which must be there.
+    QByteArray recorded() const
+    {
+        QFile opened(file());
+        const QByteArray text = opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray("no file");
+        return text.startsWith(OPENING) ? text.mid(static_cast<int>(qstrlen(OPENING))) : "no opening: " + text;
+    }
+
+    QProcess process;
+    std::unique_ptr<QLocalSocket> client;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+class tst_Record : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void runIsWrittenAsAScenario();
+    void fileAndSocketAreForTheSameUserOnly();
+    void bytesPassUnchanged();
+    void lostConnectionsOfBothSidesAreRecorded();
+    void closedServerIsRecorded();
+    void deathIsRecordedAndMirrored();
+    void endOfItsOwnIsRecorded();
+    void existingFileIsLeftAlone();
+    void anotherLivesSoItStepsBack();
+    void stoppingTheRecorderIsNoDeath();
+    void callProcessGoesWithAKilledRecorder();
+    void inThePlaceOfACallProcessItTakesNoArguments();
+    void callProcessThatCannotBeStartedLeavesNoFile();
+};
+
+void tst_Record::init()
+{
+    // Of a test before that mirrored a death.
+    QFile::remove(QDir(QDir::tempPath()).filePath("VoipSDK"));
+}
+
+void tst_Record::runIsWrittenAsAScenario()
+{
+    Recording run("await RegeditUser\nsend 17 true\nexpect CallUser\nwait 500ms\nsend 18\nexpect HangUpCall\n");
+    run.start();
+    QVERIFY(run.connectClient());
+    run.say(registration());
+    QCOMPARE(run.hear(), notificationLine(17, "true"));
+    run.say(commandLine("CallUser", {"30010001", false}));
+    QCOMPARE(run.hear(), notificationLine(18, ""));
+    run.say(commandLine("HangUpCall", {}) + "quit\n");
+    QCOMPARE(run.exitCode(), 0);
+    QCOMPARE(run.recorded(), REGISTERED + "send 17 true\nexpect CallUser param1=30010001 param2=false\nwait 500ms\n"
+                                          "send 18\nexpect HangUpCall\nexpect quit\n");
+    QVERIFY(!run.recorded().contains("secret"));
+    QString error;
+    QVERIFY2(Scenario::load(run.file(), &error), qPrintable(error));
+}
+
+void tst_Record::fileAndSocketAreForTheSameUserOnly()
+{
+    Recording run("await RegeditUser\n");
+    run.start();
+    QVERIFY(run.connectClient());
+    const QStringList paths{QDir(QDir::tempPath()).filePath("VoipSDK"), run.file()};
+    for (const QString &path : paths) {
+        struct stat status = {};
+        QCOMPARE(::stat(qPrintable(path), &status), 0);
+        QCOMPARE(status.st_mode & 077U, 0U);
+    }
+    const QStringList folders = QDir(QDir::tempPath()).entryList({"callcheck-*"}, QDir::Dirs);
+    QCOMPARE(folders.size(), 1);
+    struct stat status = {};
+    QCOMPARE(::stat(qPrintable(QDir(QDir::tempPath()).filePath(folders.constFirst())), &status), 0);
+    QCOMPARE(status.st_mode & 077U, 0U);
+    run.say(registration() + "quit\n");
+    QCOMPARE(run.exitCode(), 0);
+    QCOMPARE(QDir(QDir::tempPath()).entryList({"callcheck-*"}, QDir::Dirs), QStringList());
+}
+
+void tst_Record::bytesPassUnchanged()
+{
+    const QByteArray long_(100000, 'x');
+    Recording run("await RegeditUser\nsplit 10 300ms 22\nraw \"\\xFF\\0no json\\n\"\nsend 999 " + long_ +
+                  "\njoin {\nsend 18\nsend 8\n}\nexpect SetMicVolume\n");
+    run.start();
+    QVERIFY(run.connectClient());
+    run.say(registration());
+    const QByteArray busy = notificationLine(22, "");
+    QCOMPARE(run.hear(), busy.left(10));
+    QCOMPARE(run.hear(), busy.mid(10));
+    QCOMPARE(run.hear(), QByteArray("\xFF\0no json\n", 10));
+    QByteArray log;
+    while (!log.endsWith('\n')) {
+        log += run.hear();
+    }
+    QCOMPARE(log, notificationLine(999, long_));
+    QCOMPARE(run.hear(), notificationLine(18, "") + notificationLine(8, ""));
+    run.say(commandLine("SetMicVolume", {7}) + "qu");
+    run.say("it\n");
+    QCOMPARE(run.exitCode(), 0);
+    QVERIFY2(run.recorded().contains("split 10 "), run.recorded().left(300));
+    QVERIFY(run.recorded().contains("raw \"\\xFF\\x00no json\\n\"\n"));
+    QVERIFY(run.recorded().endsWith("join {\n    send 18\n    send 8\n}\nexpect SetMicVolume param1=7\nexpect quit\n"));
+}
+
+void tst_Record::lostConnectionsOfBothSidesAreRecorded()
+{
+    Recording run("await RegeditUser\nsend 17 true\ndrop\nawait-client\nexpect RegeditUser\nsend 18\nawait-gone\n"
+                  "await-client\nsend 8\nexpect HangUpCall\n");
+    run.start();
+    QVERIFY(run.connectClient());
+    run.say(registration());
+    QCOMPARE(run.hear(), notificationLine(17, "true"));
+    QVERIFY(run.waitDisconnected());
+    QVERIFY(run.connectClient());
+    run.say(registration());
+    QCOMPARE(run.hear(), notificationLine(18, ""));
+    run.client->disconnectFromServer();
+    QVERIFY(run.connectClient());
+    QCOMPARE(run.hear(), notificationLine(8, ""));
+    run.say(commandLine("HangUpCall", {}) + "quit\n");
+    QCOMPARE(run.exitCode(), 0);
+    QCOMPARE(run.recorded(), REGISTERED + "send 17 true\ndrop\nawait-client\n" + REGISTERED +
+                                 "send 18\nawait-gone\nawait-client\nsend 8\nexpect HangUpCall\nexpect quit\n");
+}
+
+void tst_Record::closedServerIsRecorded()
+{
+    Recording run("await RegeditUser\nsend 17 true\nstop-listen\nwait 500ms\ndrop\nwait 1s\nrestart-listen\n"
+                  "await-client\nexpect RegeditUser\nsend 18\n");
+    run.start();
+    QVERIFY(run.connectClient());
+    run.say(registration());
+    QCOMPARE(run.hear(), notificationLine(17, "true"));
+    QVERIFY(run.waitDisconnected());
+    QLocalSocket refused;
+    refused.connectToServer("VoipSDK");
+    QVERIFY2(!refused.waitForConnected(1000), "the plug-in meets a server where the call process has none");
+    QVERIFY(run.connectClient());
+    run.say(registration());
+    QCOMPARE(run.hear(), notificationLine(18, ""));
+    run.say("quit\n");
+    QCOMPARE(run.exitCode(), 0);
+    QByteArray steps;
+    for (const QByteArray &line : run.recorded().split('\n')) {
+        steps += line.isEmpty() || line.startsWith("wait ") ? QByteArray() : line + '\n';
+    }
+    QCOMPARE(steps, REGISTERED + "send 17 true\nstop-listen\ndrop\nrestart-listen\nawait-client\n" + REGISTERED +
+                        "send 18\nexpect quit\n");
+}
+
+void tst_Record::deathIsRecordedAndMirrored()
+{
+    Recording run("await RegeditUser\nsend 17 true\ndie\n");
+    run.start();
+    QVERIFY(run.connectClient());
+    run.say(registration());
+    QCOMPARE(run.hear(), notificationLine(17, "true"));
+    QVERIFY(run.waitDisconnected());
+    QCOMPARE(run.exitCode(), 9);
+    QCOMPARE(run.recorded(), REGISTERED + "send 17 true\ndie\n# The call process ended with code 9.\n");
+    QVERIFY2(QFile::exists(QDir(QDir::tempPath()).filePath("VoipSDK")), "a killed process leaves its socket file");
+    QCOMPARE(QDir(QDir::tempPath()).entryList({"callcheck-*"}, QDir::Dirs), QStringList());
+}
+
+void tst_Record::endOfItsOwnIsRecorded()
+{
+    Recording run("await RegeditUser\nsend 17 true\nend\n");
+    run.start();
+    QVERIFY(run.connectClient());
+    run.say(registration());
+    QCOMPARE(run.exitCode(), 0);
+    QCOMPARE(run.recorded(), REGISTERED + "send 17 true\nend\n");
+    QVERIFY(!QFile::exists(QDir(QDir::tempPath()).filePath("VoipSDK")));
+}
+
+void tst_Record::existingFileIsLeftAlone()
+{
+    Recording run("await RegeditUser\n");
+    Recording::writeFile(run.file(), "mine");
+    run.start();
+    QCOMPARE(run.exitCode(), 2);
+    QFile file(run.file());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("mine"));
+}
+
+void tst_Record::anotherLivesSoItStepsBack()
+{
+    Recording first("await RegeditUser\n");
+    first.start();
+    QVERIFY(first.connectClient());
+    Recording second("await RegeditUser\n");
+    second.start();
+    QCOMPARE(second.exitCode(), 0);
+    QVERIFY(!QFile::exists(second.file()));
+    first.say(registration() + "quit\n");
+    QCOMPARE(first.exitCode(), 0);
+    QCOMPARE(first.recorded(), REGISTERED + "expect quit\n");
+}
+
+void tst_Record::stoppingTheRecorderIsNoDeath()
+{
+    Recording run("await RegeditUser\nsend 17 true\nexpect HangUpCall\n");
+    run.start();
+    QVERIFY(run.connectClient());
+    run.say(registration());
+    QCOMPARE(run.hear(), notificationLine(17, "true"));
+    run.process.terminate();
+    QCOMPARE(run.exitCode(), 0);
+    QVERIFY(run.waitDisconnected());
+    QCOMPARE(run.recorded(), REGISTERED + "send 17 true\n# The recording was stopped.\n");
+}
+
+void tst_Record::callProcessGoesWithAKilledRecorder()
+{
+    Recording run("await RegeditUser\nsend 17 true\nexpect HangUpCall\n");
+    const QString trace = run.file() + ".trace";
+    qputenv("VOIPSDK_TRACE", QFile::encodeName(trace));
+    run.start();
+    qunsetenv("VOIPSDK_TRACE");
+    QVERIFY(run.connectClient());
+    QFile file(trace);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray started = "started, process ";
+    const QByteArray text = file.readAll();
+    const int at = text.indexOf(started) + started.size();
+    const auto id = static_cast<pid_t>(text.mid(at, text.indexOf('\n', at) - at).toInt());
+    QVERIFY(id > 0 && ::kill(id, 0) == 0);
+    run.process.kill();
+    run.process.waitForFinished(WAIT_MS);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        [id] {
+            QFile status(QStringLiteral("/proc/%1/stat").arg(id));
+            return !status.open(QIODevice::ReadOnly) || status.readAll().contains(") Z ");
+        }(),
+        WAIT_MS);
+}
+
+void tst_Record::inThePlaceOfACallProcessItTakesNoArguments()
+{
+    Recording run("await RegeditUser\nsend 17 true\n");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("CALLCHECK_OUT", run.file());
+    environment.insert("CALLCHECK_PROGRAM", QStringLiteral(VOIPSDK_PROGRAM));
+    environment.insert("VOIPSDK_SCENARIO", run.played());
+    run.process.setProcessEnvironment(environment);
+    run.process.start(QStringLiteral(CALLCHECK_PROGRAM), QStringList());
+    QVERIFY(run.connectClient());
+    const QString streams = QStringLiteral("/proc/%1/fd/%2").arg(run.process.processId());
+    for (int stream = 0; stream < 3; ++stream) {
+        QCOMPARE(QFile::symLinkTarget(streams.arg(stream)), QStringLiteral("/dev/null"));
+    }
+    run.say(registration());
+    QCOMPARE(run.hear(), notificationLine(17, "true"));
+    run.say("quit\n");
+    QCOMPARE(run.exitCode(), 0);
+    QCOMPARE(run.recorded(), REGISTERED + "send 17 true\nexpect quit\n");
+}
+
+void tst_Record::callProcessThatCannotBeStartedLeavesNoFile()
+{
+    Recording run("");
+    run.process.start(QStringLiteral(CALLCHECK_PROGRAM), {"record", "--out", run.file(), "--", "/nothing/here"});
+    QCOMPARE(run.exitCode(), 1);
+    QVERIFY(!QFile::exists(run.file()));
+}
+
+QTEST_GUILESS_MAIN(tst_Record)
+#include "tst_Record.moc"

@@ -1,0 +1,210 @@
+// The checker's replay, as the program that it is, against the stand-in and against call processes that do wrong.
+
+#include "callprocess/Wire.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QtTest>
+
+namespace {
+
+constexpr int WAIT_MS = 60000;
+
+struct Outcome
+{
+    int exitCode;
+    QString said; ///< on either stream
+};
+
+Outcome check(const QStringList &arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QStringLiteral(CALLCHECK_PROGRAM), arguments);
+    // The test's own event loop may play the call process meanwhile.
+    const bool ended = QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, WAIT_MS);
+    return {ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            QString::fromUtf8(process.readAll())};
+}
+
+QString scenarioFile(const QByteArray &text)
+{
+    QFile file(QDir::current().filePath(QStringLiteral("run.scn")));
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(text);
+    }
+    return file.fileName();
+}
+
+Outcome replayAgainst(const QByteArray &scenario, const QStringList &callProcess)
+{
+    return check(QStringList{"replay", "--patience", "5", scenarioFile(scenario), "--"} + callProcess);
+}
+
+QStringList standIn(const QStringList &options = {"--speed", "100"})
+{
+    return QStringList{QStringLiteral(VOIPSDK_PROGRAM)} + options;
+}
+
+QString readyScenario(const QString &name)
+{
+    return QStringLiteral(VOIPSDK_SCENARIOS "/") + name;
+}
+
+const QByteArray ANSWERED = "await RegeditUser\nsend 17 true\nsend 999\nexpect CallUser param1=30010001 param2=false\n"
+                            "wait 1.5s\nsend 18\nexpect HangUpCall\nexpect quit\n";
+
+} // namespace
+
+class tst_Replay : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyReadyScenarioIsKeptToByItsOwnPlayer_data();
+    void everyReadyScenarioIsKeptToByItsOwnPlayer();
+    void robotsDoAsWasRecorded();
+    void whatIsNotAsRecordedIsTold_data();
+    void whatIsNotAsRecordedIsTold();
+    void lineInTwoReadsIsTold();
+    void nothingMoreMayBeSaid();
+    void codeAfterQuitMustBeNought();
+    void socketThatIsOpenToOthersIsTold();
+    void callProcessThatNeverListensIsTold();
+    void badScenarioIsRefused();
+    void runningCallProcessIsAttachedTo();
+};
+
+void tst_Replay::everyReadyScenarioIsKeptToByItsOwnPlayer_data()
+{
+    QTest::addColumn<QString>("file");
+    const QStringList names = QDir(QStringLiteral(VOIPSDK_SCENARIOS)).entryList({"*.scn"}, QDir::Files);
+    for (const QString &name : names) {
+        QTest::newRow(qPrintable(name)) << readyScenario(name);
+    }
+}
+
+void tst_Replay::everyReadyScenarioIsKeptToByItsOwnPlayer()
+{
+    QFETCH(QString, file);
+    const Outcome outcome = check(QStringList{"replay", file, "--"} + standIn({"--scenario", file, "--speed", "20"}));
+    QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.said));
+}
+
+void tst_Replay::robotsDoAsWasRecorded()
+{
+    const Outcome outcome = replayAgainst(ANSWERED, standIn());
+    QCOMPARE(outcome.said, QString("as recorded: 3 commands, 2 notifications\n"));
+    QCOMPARE(outcome.exitCode, 0);
+}
+
+void tst_Replay::whatIsNotAsRecordedIsTold_data()
+{
+    QTest::addColumn<QByteArray>("instead");
+    QTest::addColumn<QByteArray>("of");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("code") << QByteArray("send 22") << QByteArray("send 18")
+                          << QString("run.scn:6: expected 22 (PeerBusy), got 18 (CallConnected)");
+    QTest::newRow("content") << QByteArray("17 false") << QByteArray("17 true")
+                             << QString("run.scn:2: expected 17 (SdkFlag) false, got 17 (SdkFlag) true");
+    QTest::newRow("called user") << QByteArray("param1=30010002") << QByteArray("param1=30010001")
+                                 << QString("run.scn:6: expected 18 (CallConnected), got 22 (PeerBusy)");
+    QTest::newRow("one more") << QByteArray("send 18\nsend 8") << QByteArray("send 18")
+                              << QString("run.scn:7: expected 8 (PeerHangup), got nothing for 5000 ms");
+    QTest::newRow("drop") << QByteArray("drop") << QByteArray("send 18")
+                          << QString("run.scn:6: the connection is not closed");
+    QTest::newRow("death") << QByteArray("die") << QByteArray("send 18")
+                           << QString("run.scn:6: expected the call process to die, it lives");
+    QTest::newRow("end") << QByteArray("end") << QByteArray("send 18")
+                         << QString("run.scn:6: expected the call process to end by itself, it lives");
+    QTest::newRow("server") << QByteArray("stop-listen") << QByteArray("send 18")
+                            << QString("run.scn:6: the call process still listens");
+}
+
+void tst_Replay::whatIsNotAsRecordedIsTold()
+{
+    QFETCH(QByteArray, instead);
+    QFETCH(QByteArray, of);
+    QFETCH(QString, told);
+    const Outcome outcome = replayAgainst(QByteArray(ANSWERED).replace(of, instead), standIn());
+    QCOMPARE(outcome.exitCode, 3);
+    QVERIFY2(outcome.said.contains(told), qPrintable(outcome.said));
+}
+
+void tst_Replay::lineInTwoReadsIsTold()
+{
+    const QString split = readyScenario("split-line.scn");
+    QFile file(split);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray whole = file.readAll().replace("split 10 200ms 22", "send 22");
+    const Outcome outcome = replayAgainst(whole, standIn({"--scenario", split}));
+    QCOMPARE(outcome.exitCode, 3);
+    QVERIFY2(outcome.said.contains("more than one read"), qPrintable(outcome.said));
+}
+
+void tst_Replay::nothingMoreMayBeSaid()
+{
+    const Outcome outcome = replayAgainst("await RegeditUser\nexpect quit\n", standIn());
+    QCOMPARE(outcome.exitCode, 3);
+    QVERIFY2(outcome.said.contains("expected nothing more, got 17 (SdkFlag) true"), qPrintable(outcome.said));
+}
+
+void tst_Replay::codeAfterQuitMustBeNought()
+{
+    const QString missed = QDir::current().filePath("missed.scn");
+    QFile file(missed);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("await RegeditUser\nsend 17 true\nexpect HangUpCall\n");
+    file.close();
+    const Outcome outcome =
+        replayAgainst("await RegeditUser\nsend 17 true\nexpect quit\n", standIn({"--scenario", missed}));
+    QCOMPARE(outcome.exitCode, 3);
+    QVERIFY2(outcome.said.contains("expected code 0 after quit, the call process ended with code 3"),
+             qPrintable(outcome.said));
+}
+
+void tst_Replay::socketThatIsOpenToOthersIsTold()
+{
+    QLocalServer server;
+    server.setSocketOptions(QLocalServer::WorldAccessOption);
+    QVERIFY(server.listen("open"));
+    const Outcome outcome = check({"replay", "--attach", "open", scenarioFile("await RegeditUser\n")});
+    QCOMPARE(outcome.exitCode, 3);
+    QVERIFY2(outcome.said.contains("the socket file is open to other users: its mode is 0777"),
+             qPrintable(outcome.said));
+}
+
+void tst_Replay::callProcessThatNeverListensIsTold()
+{
+    const Outcome silent = check({"replay", "--patience", "0.1", scenarioFile(ANSWERED), "--", "/bin/sleep", "100"});
+    QCOMPARE(silent.exitCode, 1);
+    QVERIFY2(silent.said.contains("does not listen"), qPrintable(silent.said));
+    const Outcome ended = replayAgainst(ANSWERED, {"/bin/false"});
+    QCOMPARE(ended.exitCode, 1);
+    QVERIFY2(ended.said.contains("ended with code 1 before it listened"), qPrintable(ended.said));
+    QCOMPARE(replayAgainst(ANSWERED, {"/nothing/here"}).exitCode, 1);
+}
+
+void tst_Replay::badScenarioIsRefused()
+{
+    const Outcome outcome = replayAgainst("await RegeditUser\ndance\n", standIn());
+    QCOMPARE(outcome.exitCode, 2);
+    QVERIFY2(outcome.said.contains("run.scn:2: unknown statement"), qPrintable(outcome.said));
+}
+
+void tst_Replay::runningCallProcessIsAttachedTo()
+{
+    QProcess running;
+    running.start(QStringLiteral(VOIPSDK_PROGRAM), {"--socket-name", "running", "--speed", "100"});
+    QVERIFY(running.waitForStarted());
+    const Outcome outcome = check({"replay", "--attach", "running", scenarioFile(ANSWERED)});
+    QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.said));
+    QVERIFY(running.state() == QProcess::NotRunning || running.waitForFinished());
+    QCOMPARE(running.exitCode(), 0);
+}
+
+QTEST_GUILESS_MAIN(tst_Replay)
+#include "tst_Replay.moc"

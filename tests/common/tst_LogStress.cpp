@@ -1,0 +1,116 @@
+// The log from several threads at once while its file rolls over again and again: no record is lost, doubled or torn,
+// and each thread's records keep their order.
+
+#include "FileText.h"
+
+#include "common/CLogManger.h"
+#include "common/CLogThread.h"
+#include "common/CommonFun.h"
+#include "common/CustomLogger.h"
+#include "model/CommonData.h"
+
+#include <QtTest>
+
+#include <atomic>
+#include <thread>
+#include <vector>
+
+namespace {
+
+const QString LOG = QStringLiteral("client.log");
+constexpr int CALLERS = 4;
+constexpr int RECORDS = 1500; // of each caller
+constexpr int FILE_KIB = 32;
+constexpr int MOST_BACKUPS = 1000;
+
+/// The messages of all backups and of the file, oldest first.
+QStringList messages()
+{
+    QByteArray text;
+    int backups = 0;
+    while (QFile::exists(LOG + QLatin1Char('.') + QString::number(backups + 1))) {
+        ++backups;
+    }
+    for (int i = backups; i > 0; --i) {
+        text += fileText(LOG + QLatin1Char('.') + QString::number(i));
+    }
+    text += fileText(LOG);
+    QStringList all;
+    const QStringList lines = QString::fromUtf8(text).split('\n', Qt::SkipEmptyParts);
+    for (const QString &line : lines) {
+        all.append(line.section(QStringLiteral("]: "), 1));
+    }
+    return all;
+}
+
+} // namespace
+
+class tst_LogStress : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void nothingIsLostWhileTheFileRollsOver();
+};
+
+void tst_LogStress::nothingIsLostWhileTheFileRollsOver()
+{
+    CustomLogger logger(LOG);
+    logger.setMaxFileSize(FILE_KIB);
+    logger.setMaxBackupIndex(MOST_BACKUPS);
+    CLogThread writer;
+    CommonData data;
+    data.setCustomLogger(&logger);
+    data.setCustomLogThread(&writer);
+    CommonFun::setCommonData(&data);
+    // Made before the threads: its creation has no lock.
+    CLogManger *log = CLogManger::instance();
+    writer.start();
+
+    std::atomic<int> running{CALLERS};
+    std::vector<std::thread> callers;
+    for (int caller = 0; caller < CALLERS; ++caller) {
+        callers.emplace_back([log, caller, &running] {
+            for (int i = 0; i < RECORDS; ++i) {
+                log->printLog(CustomLog::Info, LOG_LOCATION, QStringLiteral("%1:%2").arg(caller).arg(i));
+            }
+            --running;
+        });
+    }
+    // Statements build their text in fields without a lock, so one thread alone makes them.
+    int own = 0;
+    while (running > 0) {
+        LOG_DEBUG << CALLERS << ":" << own++ << "\n";
+        log->flushLog();
+        QCOMPARE(writer.getCustomLogger(), &logger);
+    }
+    for (std::thread &caller : callers) {
+        caller.join();
+    }
+    LOG_DEBUG << "last"
+              << "\n";
+    const auto lastIsWritten = [log] {
+        log->flushLog();
+        return messages().contains(QStringLiteral("last"));
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(lastIsWritten(), 60000);
+    writer.stop();
+    log->printLog(CustomLog::Debug, {}, {});
+    QVERIFY(writer.wait());
+    logger.close();
+    CommonFun::setCommonData(nullptr);
+
+    QVERIFY2(QFile::exists(LOG + QStringLiteral(".1")), "the file has not rolled over");
+    const QStringList all = messages();
+    QCOMPARE(all.size(), CALLERS * RECORDS + own + 2);
+    for (int caller = 0; caller <= CALLERS; ++caller) {
+        const QStringList ofCaller = all.filter(QRegularExpression(QStringLiteral("^%1:").arg(caller)));
+        QCOMPARE(ofCaller.size(), caller < CALLERS ? RECORDS : own);
+        for (int i = 0; i < ofCaller.size(); ++i) {
+            QCOMPARE(ofCaller.at(i), QStringLiteral("%1:%2").arg(caller).arg(i));
+        }
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_LogStress)
+#include "tst_LogStress.moc"

@@ -1,0 +1,41 @@
+#include "soak/UndeletedEvents.h"
+
+#include "soak/Footprint.h"
+
+#include "plugin/BaseEvent.h"
+
+#include <algorithm>
+
+UndeletedEvents::~UndeletedEvents()
+{
+    take();
+}
+
+bool UndeletedEvents::eventFilter(QObject *, QEvent *event)
+{
+    if (event->type() == QEvent::User) {
+        auto *command = static_cast<BaseEvent *>(event);
+        const auto *const kind = std::find(kinds.begin(), kinds.end(), command->msgId);
+        if (kind != kinds.end()) {
+            ++m_taken.at(std::size_t(kind - kinds.begin()));
+            m_events.push_back(command);
+        }
+    }
+    return false;
+}
+
+void UndeletedEvents::take()
+{
+    const qint64 before = Footprint::heapInUse();
+    for (BaseEvent *event : m_events) {
+        delete event;
+    }
+    m_bytes += before - Footprint::heapInUse();
+    m_events = {};
+}
+
+qint64 UndeletedEvents::taken(EMsgId kind) const
+{
+    const auto *const place = std::find(kinds.begin(), kinds.end(), kind);
+    return m_taken.at(std::size_t(place - kinds.begin()));
+}

@@ -1,0 +1,110 @@
+#!/usr/bin/python3
+"""Checks what the documents name against the tree: links, pictures, paths, and the names of the code.
+
+Usage: documents_hold.py SOURCE
+"""
+import pathlib
+import re
+import subprocess
+import sys
+
+# Where a path in a document may begin, beside the folder of the project and that of the document.
+BEGINNINGS = ("src", "tests", "apps", "apps/host", "apps/callprocess", "apps/callprocess/scenarios", "resources")
+# What is there only once something was built, installed or run; tests/packaging looks at it.
+MADE = re.compile(r"build/|~/|/usr/|(bin|include|lib|share)/|Resources/|VoipSDK/|lib\w+\.(so|a)$|allurl\.ini$|data\.db$|.*localData\.db$")
+# Files of the reader's own.
+READERS = {"main.cpp", "CMakeLists.txt", "run.scn"}
+# Texts that look like paths: a key of the settings, the id of the interface.
+KEYS = {"languageSetting/language", "kelvarim/1.0"}
+# Words in code marks that are no names: what the reader fills in, programs of the system, made-up examples.
+FOREIGN = {
+    "DURATION", "CONTENT", "BYTES", "CODE", "VALUE", "paramN", "pkill", "diff", "myatlist", "quikrply",
+    "sqlite_autoindex_", "uXXXX",
+}
+SOURCES = (".cpp", ".h", ".def", ".ui", ".cmake", ".txt", ".map", ".scn", ".py", ".ts", ".in", ".json", "")
+SECTION = re.compile(r"```.*?^```", re.DOTALL | re.MULTILINE)
+LINK = re.compile(r"!?\[[^\]]*\]\(([^)\s]+)\)")
+CODE = re.compile(r"`([^`\n]+)`")
+PATH = re.compile(r"[\w.*@+-]*(/[\w.*@+-]+)*/?")
+SUFFIX = re.compile(r"[\w*]\.(cpp|h|def|ui|py|ts|sh|scn|md|cmake|png|svg|txt|debian|ini|db|so|a|\*)$")
+
+
+def documents(root):
+    return [*sorted(root.glob("*.md")), *sorted((root / "docs").glob("*.md"))]
+
+
+def links(document):
+    """Places of the tree that the document leads to."""
+    text = SECTION.sub("", document.read_text())
+    targets = [target.split("#")[0] for target in LINK.findall(text) if "://" not in target]
+    return [(document.parent / target).resolve() for target in targets if target]
+
+
+def exists(root, document, path):
+    """Whether a path as documents write it, with stars or without its suffix, is in the tree."""
+    path = path.rstrip("/")
+    beginnings = [root, document.parent, *(root / beginning for beginning in BEGINNINGS)]
+    if "/" not in path:
+        beginnings += [folder for beginning in ("src", "apps") for folder in (root / beginning).iterdir()]
+        beginnings.append(root / "docs")
+    return any(next(beginning.glob(pattern), None) for beginning in beginnings for pattern in (path, path + ".*"))
+
+
+def is_path(code):
+    return PATH.fullmatch(code) and ("/" in code or SUFFIX.search(code))
+
+
+def words_of_the_code(root):
+    files = [path for path in root.iterdir() if path.is_file()]
+    for folder in ("src", "apps", "tests", "bench", "packaging", "cmake", "tools", "resources"):
+        files += (root / folder).rglob("*")
+    words = set()
+    for path in files:
+        if path.suffix in SOURCES and path.is_file() and path != pathlib.Path(__file__).resolve():
+            words.update(re.findall(r"\w+", path.read_bytes().decode(errors="replace")))
+    return words
+
+
+def complaints_about_names(root, document, words):
+    for code in CODE.findall(SECTION.sub("", document.read_text())):
+        if MADE.match(code) or code in READERS:
+            continue
+        if is_path(code):
+            if not exists(root, document, code) and code not in KEYS:
+                yield f"{document.name}: no {code} in the tree"
+            continue
+        for word in re.findall(r"[A-Za-z_]\w{2,}", code):
+            if word not in words and word not in FOREIGN:
+                yield f"{document.name}: {word} of `{code}` is no name of the code"
+
+
+def main():
+    root = pathlib.Path(sys.argv[1]).resolve()
+    words = words_of_the_code(root)
+    complaints = []
+    reached = {document: links(document) for document in documents(root)}
+    for document, targets in reached.items():
+        complaints += [f"{document.name}: leads to {target}, which is not there" for target in targets if not target.exists()]
+        complaints += complaints_about_names(root, document, words)
+
+    found, waiting = set(), [root / "README.md"]
+    while waiting:
+        document = waiting.pop()
+        if document not in found:
+            found.add(document)
+            waiting += [target for target in reached.get(document, []) if target in reached]
+    complaints += [f"{document.name}: no way leads there from README.md" for document in reached if document not in found]
+
+    listed = subprocess.run([root / "tools/make_document_pictures", "--list"], capture_output=True, check=True, text=True).stdout
+    made = {root / "docs/pictures" / (row.split()[0] + ".png") for row in listed.splitlines()}
+    there = set((root / "docs/pictures").iterdir())
+    shown = {target for targets in reached.values() for target in targets}
+    complaints += [f"{picture.name}: tools/make_document_pictures does not make it" for picture in sorted(there - made)]
+    complaints += [f"{picture.name}: made, but not in docs/pictures" for picture in sorted(made - there)]
+    complaints += [f"{picture.name}: no document shows it" for picture in sorted(there - shown)]
+
+    print("\n".join(complaints))
+    sys.exit(1 if complaints else 0)
+
+
+main()
