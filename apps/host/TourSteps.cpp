@@ -2,6 +2,7 @@
 
 #include "CallProcess.h"
 #include "DebugChannel.h"
+#include "HappeningsPanel.h"
 #include "HostSession.h"
 #include "MainWindow.h"
 #include "TourConference.h"
@@ -11,6 +12,8 @@
 #include "WindowProbe.h"
 
 #include "plugin/EMsgId.h"
+
+#include <QTreeView>
 
 #include <algorithm>
 #include <iterator>
@@ -278,7 +281,17 @@ Steps killed(const TourScript &s, const TourStage &stage)
            };
 }
 
-Steps happenings(const TourScript &s)
+TourCheck onlyMatchesShown(const TourStage &stage)
+{
+    return {u("the panel shows the lines that hold the text and no other"), [window = &stage.window] {
+                const auto *view = window->findChild<QTreeView *>(u("viewHappenings"));
+                const auto *panel = window->findChild<HappeningsPanel *>();
+                const int shown = view->model()->rowCount();
+                return shown > 0 && shown < panel->model().rowCount();
+            }};
+}
+
+Steps happenings(const TourScript &s, const TourStage &stage)
 {
     return {
         {u("Look at what has happened so far"),
@@ -286,6 +299,12 @@ Steps happenings(const TourScript &s)
          {s.mainShows("HappeningsPanel", true)},
          15000,
          u("happenings"),
+         s.mainWindow()},
+        {u("Look for the conferences in it"),
+         s.typeInto("editFilter", u("conf")),
+         {onlyMatchesShown(stage)},
+         15000,
+         u("happenings-conference"),
          s.mainWindow()},
         {u("Close that panel"), s.pressMain("happeningsButton"), {s.mainShows("HappeningsPanel", false)}},
     };
@@ -312,6 +331,6 @@ QList<TourStep> tourSteps(const TourStage &stage)
            unanswered(s, fails, "Call 赵强: the call fails", 19, "failed", resultFailed) +
            call(s, "Call 李雷, who answers", u("call-voice")) + duringCall(s) + hangUp(s, "Hang up") + video(s, stage) +
            farEnd(s) + incoming(s) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
-           call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + happenings(s) +
+           call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + happenings(s, stage) +
            settingsSteps(stage) + leave(s, stage);
 }

@@ -76,6 +76,7 @@ void tst_Tour::pictureOfEveryWindowIsTaken()
                                     QStringLiteral("conference.png"),
                                     QStringLiteral("demo-window.png"),
                                     QStringLiteral("desktop.png"),
+                                    QStringLiteral("happenings-conference.png"),
                                     QStringLiteral("happenings.png"),
                                     QStringLiteral("incoming-prompt.png"),
                                     QStringLiteral("message-no-process.png"),
