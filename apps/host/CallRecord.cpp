@@ -1,5 +1,7 @@
 #include "CallRecord.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 struct OutcomeRow
@@ -9,7 +11,9 @@ struct OutcomeRow
 };
 
 constexpr OutcomeRow outcomes[] = {
-    {21, "cancelled"}, {22, "failed"}, {24, "hung up"}, {25, "busy"}, {26, "rejected"},
+    {21, QT_TRANSLATE_NOOP("CallRecord", "cancelled")}, {22, QT_TRANSLATE_NOOP("CallRecord", "failed")},
+    {24, QT_TRANSLATE_NOOP("CallRecord", "hung up")},   {25, QT_TRANSLATE_NOOP("CallRecord", "busy")},
+    {26, QT_TRANSLATE_NOOP("CallRecord", "rejected")},
 };
 
 } // namespace
@@ -18,7 +22,7 @@ QString outcomeWord(int iResult)
 {
     for (const OutcomeRow &row : outcomes) {
         if (row.result == iResult) {
-            return QString::fromLatin1(row.word);
+            return QCoreApplication::translate("CallRecord", row.word);
         }
     }
     return QString::number(iResult);

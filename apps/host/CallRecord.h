@@ -18,8 +18,8 @@ struct CallRecord
 
 Q_DECLARE_METATYPE(CallRecord)
 
-/// The word for the reason of a call's end: 21 "cancelled", 22 "failed", 24 "hung up", 25 "busy", 26 "rejected"; any
-/// other number as it is.
+/// The word, in the client's language, for the reason of a call's end: in English 21 "cancelled", 22 "failed", 24 "hung
+/// up", 25 "busy", 26 "rejected"; any other number as it is.
 QString outcomeWord(int iResult);
 
 /// Seconds as "m:ss", hours in front from 60 minutes on; a negative number counts as 0.

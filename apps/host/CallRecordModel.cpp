@@ -15,6 +15,14 @@ void CallRecordModel::add(const CallRecord &record)
     endInsertRows();
 }
 
+void CallRecordModel::retranslate()
+{
+    emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+    if (!m_records.isEmpty()) {
+        emit dataChanged(index(0, 0), index(m_records.size() - 1, ColumnCount - 1));
+    }
+}
+
 int CallRecordModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : m_records.size();
@@ -43,13 +51,22 @@ QVariant CallRecordModel::data(const QModelIndex &index, int role) const
     return QVariant();
 }
 
+QString CallRecordModel::directionText(const CallRecord &record)
+{
+    const QString arrow(record.caller ? QChar(0x2192) : QChar(0x2190));
+    const QString words = record.video ? (record.caller ? tr("outgoing video") : tr("incoming video"))
+                                       : (record.caller ? tr("outgoing") : tr("incoming"));
+    return arrow + QLatin1Char(' ') + words;
+}
+
 QString CallRecordModel::text(const CallRecord &record, int column) const
 {
     switch (column) {
     case Who:
         return m_book.nameOf(record.uid);
     case Direction:
-        return (record.caller ? tr("→ outgoing") : tr("← incoming")) + (record.video ? tr(" video") : QString());
+        return directionText(record);
+
     case Outcome:
         return outcomeWord(record.result);
     case Connected:
@@ -65,8 +82,7 @@ QString CallRecordModel::text(const CallRecord &record, int column) const
 
 QVariant CallRecordModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    static const QStringList titles = {tr("Who"),       tr("Call"),     tr("Outcome"),
-                                       tr("Connected"), tr("Duration"), tr("Ended at")};
+    const QStringList titles = {tr("Who"), tr("Call"), tr("Outcome"), tr("Connected"), tr("Duration"), tr("Ended at")};
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return QVariant();
     }

@@ -30,6 +30,9 @@ public:
     /// Puts the record on top.
     void add(const CallRecord &record);
 
+    /// Says the words anew after a change of the language.
+    void retranslate();
+
     /// All records, newest first.
     const QList<CallRecord> &records() const { return m_records; }
 
@@ -39,6 +42,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    static QString directionText(const CallRecord &record);
     QString text(const CallRecord &record, int column) const;
 
     const ContactBook &m_book;

@@ -11,22 +11,23 @@ struct Row
     const char *alternative;
     const char *signature;
     bool known;
-    bool online;
+    Presence presence;
     const char *photo;
 };
 
 // The robots of the stand-in call process go by these ids.
 constexpr Row rows[] = {
-    {"30010001", "李雷", "Answers", "学而时习之，不亦说乎", true, true, "1.jpg"},
-    {"30010002", "Maria Silva", "Busy", "Back in five minutes", true, true, "15.jpg"},
-    {"30010003", "王芳", "Rejects", "Please write instead", true, true, "11.jpg"},
-    {"30010004", "Tom Baker", "Never answers", "Counting clouds", true, true, "10.jpg"},
-    {"30010005", "赵强", "Call fails", "出差中，下周回来", true, false, "7.jpg"},
-    {"30010006", "Anna Novak", "Hangs up after 10 s", "Short and sweet", true, true, "6.jpg"},
-    {"30010007", "韩梅梅", "Calls you back", "", false, true, "9.jpg"},
-    {"30010008", "Ivan Petrov", "Invites you", "One meeting a day keeps the mail away", true, true, "19.jpg"},
-    {"30010009", "林涛", "Leaves and returns", "去去就来", true, true, "4.jpg"},
-    {"30010010", "Sara Klein", "Invites, lines crossed", "Crossing the streams", true, true, "17.jpg"},
+    {"30010001", "李雷", "Answers", "学而时习之，不亦说乎", true, Presence::Online, "1.jpg"},
+    {"30010002", "Maria Silva", "Busy", "Back in five minutes", true, Presence::Busy, "15.jpg"},
+    {"30010003", "王芳", "Rejects", "Please write instead", true, Presence::Online, "11.jpg"},
+    {"30010004", "Tom Baker", "Never answers", "Counting clouds", true, Presence::Away, "10.jpg"},
+    {"30010005", "赵强", "Call fails", "出差中，下周回来", true, Presence::Offline, "7.jpg"},
+    {"30010006", "Anna Novak", "Hangs up after 10 s", "Short and sweet", true, Presence::Online, "6.jpg"},
+    {"30010007", "韩梅梅", "Calls you back", "", false, Presence::Online, "9.jpg"},
+    {"30010008", "Ivan Petrov", "Invites you", "One meeting a day keeps the mail away", true, Presence::Online,
+     "19.jpg"},
+    {"30010009", "林涛", "Leaves and returns", "去去就来", true, Presence::Online, "4.jpg"},
+    {"30010010", "Sara Klein", "Invites, lines crossed", "Crossing the streams", true, Presence::Online, "17.jpg"},
 };
 
 constexpr const char *ownId = "30010000";
@@ -56,12 +57,12 @@ ContactBook::ContactBook(const QString &strDomain) : m_strDomain(strDomain)
                           QString::fromUtf8(row.nick),
                           QString::fromLatin1(row.alternative),
                           row.known,
-                          row.online,
+                          row.presence,
                           QString::fromLatin1(row.photo)};
         m_entries.append(entry);
         add(entry, row.signature);
     }
-    add({ownUid(), QString::fromUtf8(ownName), QString::fromLatin1(ownAlternative), true, true,
+    add({ownUid(), QString::fromUtf8(ownName), QString::fromLatin1(ownAlternative), true, Presence::Online,
          QString::fromLatin1(ownPhoto)},
         ownSignature);
 }
@@ -124,10 +125,11 @@ const VcardInfo *ContactBook::card(const QString &strUid) const
     return found == m_cards.end() ? &m_unknownCard : &found->second;
 }
 
-bool ContactBook::isOnline(const QString &strUid) const
+Presence ContactBook::presenceOf(const QString &strUid) const
 {
-    return strUid == ownUid() || std::any_of(m_entries.begin(), m_entries.end(),
-                                             [&](const Entry &entry) { return entry.uid == strUid && entry.online; });
+    const auto found =
+        std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry &entry) { return entry.uid == strUid; });
+    return strUid == ownUid() ? Presence::Online : found == m_entries.end() ? Presence::Offline : found->presence;
 }
 
 QString ContactBook::nameOf(const QString &strUid) const

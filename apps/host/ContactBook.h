@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Presence.h"
+
 #include "model/FriendData.h"
 
 #include <QList>
@@ -22,8 +24,8 @@ public:
         QString nick;        ///< nick name of the card
         QString alternative; ///< alternative name of the card: what this contact does
         bool known = true;   ///< false: a stranger, not a contact of this user
-        bool online = true;  ///< presence
-        QString photo;       ///< name of the built-in head picture; empty for none
+        Presence presence = Presence::Online;
+        QString photo; ///< name of the built-in head picture; empty for none
     };
 
     /// Builds the records for the login domain `strDomain`.
@@ -51,8 +53,8 @@ public:
     /// The stranger's card has been fetched: from now on there is a record with it. Others stay as they are.
     void learn(const QString &strUid);
 
-    /// Presence of the user; false for an unknown id.
-    bool isOnline(const QString &strUid) const;
+    /// Presence of the user; offline for an unknown id.
+    Presence presenceOf(const QString &strUid) const;
 
     /// The nick name of the user, or the id where there is none.
     QString nameOf(const QString &strUid) const;

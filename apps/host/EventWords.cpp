@@ -40,37 +40,69 @@ constexpr EventRow rows[] = {
     {MSG_EXIT_VOIP, "quit", "", ""},
 };
 
-QString fieldText(char type, PayloadReader &in)
+QVariant fieldValue(char type, PayloadReader &in)
 {
     switch (type) {
     case 'b':
-        return in.take<bool>() ? QStringLiteral("yes") : QStringLiteral("no");
+        return in.take<bool>();
     case 'i':
-        return QString::number(in.take<qint32>());
+        return in.take<qint32>();
     case 'q':
-        return QString::number(in.take<qint64>());
-    case 'r': {
-        const auto result = in.take<qint32>();
-        return QStringLiteral("%1 %2").arg(result).arg(outcomeWord(result));
-    }
+        return in.take<qint64>();
+    case 'r':
+        return in.take<qint32>();
     case 'p':
-        return in.take<qint64>() != 0 ? QStringLiteral("(address)") : QStringLiteral("(none)");
+        return in.take<qint64>() != 0;
     case 'l':
-        return QLatin1Char('[') + in.takeTexts().join(QStringLiteral(", ")) + QLatin1Char(']');
+        return in.takeTexts();
     default:
         return in.take<QString>();
     }
+}
+
+QString fieldText(char type, const QVariant &value)
+{
+    switch (type) {
+    case 'b':
+        return value.toBool() ? QStringLiteral("yes") : QStringLiteral("no");
+    case 'r':
+        return QStringLiteral("%1 %2").arg(value.toInt()).arg(outcomeWord(value.toInt()));
+    case 'p':
+        return value.toBool() ? QStringLiteral("(address)") : QStringLiteral("(none)");
+    case 'l':
+        return QLatin1Char('[') + value.toStringList().join(QStringLiteral(", ")) + QLatin1Char(']');
+    default:
+        return value.toString();
+    }
+}
+
+/// The shapes "type:name" of a row's fields.
+QStringList shapesOf(const char *fields)
+{
+    return QString::fromLatin1(fields).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
 QString fieldsText(const char *fields, const QByteArray &payload)
 {
     PayloadReader in(payload);
     QStringList parts;
-    const QStringList shapes = QString::fromLatin1(fields).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QStringList shapes = shapesOf(fields);
     for (const QString &shape : shapes) {
-        parts << shape.mid(2) + QLatin1Char('=') + fieldText(shape.at(0).toLatin1(), in);
+        const char type = shape.at(0).toLatin1();
+        parts << shape.mid(2) + QLatin1Char('=') + fieldText(type, fieldValue(type, in));
     }
     return parts.join(QStringLiteral(", "));
+}
+
+void appendValues(const char *fields, const QByteArray &payload, QVariantList *values)
+{
+    PayloadReader in(payload);
+    const QStringList shapes = shapesOf(fields);
+    for (const QString &shape : shapes) {
+        const char type = shape.at(0).toLatin1();
+        const QVariant value = fieldValue(type, in);
+        values->append(type == 'r' ? QVariant(outcomeWord(value.toInt())) : value);
+    }
 }
 
 const EventRow *rowOf(EMsgId msgId)
@@ -100,6 +132,16 @@ QString EventWords::answer(EMsgId msgId, const QByteArray &payload)
 {
     const EventRow *row = rowOf(msgId);
     return row == nullptr ? QString() : fieldsText(row->answer, payload);
+}
+
+QVariantList EventWords::values(EMsgId msgId, const QByteArray &payload, const QByteArray &reply)
+{
+    QVariantList values;
+    if (const EventRow *row = rowOf(msgId)) {
+        appendValues(row->fields, payload, &values);
+        appendValues(row->answer, reply, &values);
+    }
+    return values;
 }
 
 bool EventWords::isQuestion(EMsgId msgId)

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QVariant>
 
 /// Says in words what an event between host and plug-in carries: for the status line, the log and the guided tour.
 ///
@@ -17,6 +18,10 @@ public:
 
     /// The answer of a synchronous command, "known=yes"; empty for a command that is not answered.
     static QString answer(EMsgId msgId, const QByteArray &payload);
+
+    /// The fields of the payload and, of a question, those of its answer: truth values (of an address: whether there is
+    /// one), numbers, texts, lists of texts, a call's end as its word. Empty for an unknown command.
+    static QVariantList values(EMsgId msgId, const QByteArray &payload, const QByteArray &reply);
 
     /// Whether the command is a question, answered within its delivery.
     static bool isQuestion(EMsgId msgId);

@@ -23,13 +23,17 @@ constexpr Language languages[] = {
 
 } // namespace
 
-bool HostCatalogue::read(const QString &strFolder, const QString &strLanguage)
+QString HostCatalogue::suffixOf(const QString &strLanguage)
 {
     const auto *found = std::find_if(std::begin(languages), std::end(languages), [&](const Language &language) {
         return strLanguage == QLatin1String(language.setting);
     });
-    const Language &language = found == std::end(languages) ? languages[0] : *found;
-    return load(QStringLiteral("kelvarim_") + QLatin1String(language.suffix), strFolder);
+    return QLatin1String(found == std::end(languages) ? languages[0].suffix : found->suffix);
+}
+
+bool HostCatalogue::read(const QString &strFolder, const QString &strLanguage)
+{
+    return load(QStringLiteral("kelvarim_") + suffixOf(strLanguage), strFolder);
 }
 
 QString HostCatalogue::folder()

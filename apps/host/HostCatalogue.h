@@ -1,8 +1,8 @@
 #pragma once
 
-// The client's translation catalogue: the texts behind the keys that the plug-in and the common code show. There is one
-// file for each language, kelvarim_<language>.qm; the demo client's own words stay as they are.
-// GUI thread; the creator owns it and installs it in the application.
+// The client's translation catalogue: the texts behind the keys that the plug-in and the common code show, and the
+// words of the client's own windows. There is one file for each language, kelvarim_<language>.qm. GUI thread; the
+// creator owns it and installs it in the application.
 
 #include <QTranslator>
 
@@ -17,6 +17,9 @@ public:
     /// name "uk". Any other language, an empty one too, gets "zh_CN". False when the file is missing or damaged; every
     /// key then shows as itself.
     bool read(const QString &strFolder, const QString &strLanguage);
+
+    /// The suffix of the file that holds `strLanguage`.
+    static QString suffixOf(const QString &strLanguage);
 
     /// The folder of the catalogues beside the executable.
     static QString folder();

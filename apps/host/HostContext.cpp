@@ -1,6 +1,8 @@
 #include "HostContext.h"
 
 #include "ContactBook.h"
+#include "HostSettings.h"
+#include "HostSkins.h"
 
 #include "model/SystemSetData.h"
 
@@ -62,6 +64,7 @@ void HostContext::signIn(const QString &strUid, const QString &strDomain, const 
     m_data.setNetWorkManager(&m_network);
     m_data.setServerSettings(&m_server);
     fillLogin(strUid, strDomain);
+    fillSkins();
     startLog(settings->m_strUserFolder + QStringLiteral("/log"));
     fillContacts(book);
 }
@@ -74,6 +77,14 @@ void HostContext::fillLogin(const QString &strUid, const QString &strDomain)
     m_login.m_strCompanyName = QStringLiteral("Kelvar");
     m_login.m_strRegValue = QStringLiteral("demo-registration");
     m_data.setLoginData(&m_login);
+}
+
+void HostContext::fillSkins()
+{
+    m_skins = HostSkins::makeAll();
+    m_skin = m_skins.at(HostSkins::names().indexOf(HostSettings::skin()));
+    m_data.setListSysUIData(&m_skins);
+    m_data.setSkinData(&m_skin);
 }
 
 void HostContext::startLog(const QString &strFolder)
@@ -93,7 +104,7 @@ void HostContext::fillContacts(const ContactBook &book)
     for (const ContactBook::Entry &entry : book.entries()) {
         PresenceData data;
         data.m_strJid = book.jidOf(entry.uid);
-        data.m_iStateA = entry.online ? 1 : 0;
+        data.m_iStateA = presenceState(entry.presence);
         presence.insert(data.m_strJid, data);
     }
     m_data.setFriendDataMap(book.friendMap());

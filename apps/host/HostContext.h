@@ -5,7 +5,9 @@
 #include "common/CustomLogger.h"
 #include "model/CommonData.h"
 #include "model/LoginData.h"
+#include "model/SysUIData.h"
 
+#include <QList>
 #include <QNetworkAccessManager>
 #include <QString>
 
@@ -13,8 +15,8 @@
 
 class ContactBook;
 
-/// The shared client context as a real client fills it: log file and its thread, login record, settings, network,
-/// friends and presence. It owns all that the `CommonData` points to; the plug-in only borrows. GUI thread.
+/// The shared client context as a real client fills it: log file and its thread, login record, settings, skins,
+/// network, friends and presence. It owns all that the `CommonData` points to; the plug-in only borrows. GUI thread.
 class HostContext
 {
 public:
@@ -38,12 +40,15 @@ public:
 private:
     bool isInLog(const QString &strWords) const;
     void fillLogin(const QString &strUid, const QString &strDomain);
+    void fillSkins();
     void startLog(const QString &strFolder);
     void fillContacts(const ContactBook &book);
 
     QNetworkAccessManager m_network;
     LoginData m_login;
     CServerSettings m_server;
+    QList<SysUIData> m_skins;
+    SysUIData m_skin;
     QString m_strLogFile;
     std::unique_ptr<CustomLogger> m_pLogger;
     CLogThread m_logThread;

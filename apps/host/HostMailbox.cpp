@@ -46,9 +46,10 @@ void HostMailbox::customEvent(QEvent *event)
     auto &message = static_cast<BaseEvent &>(*event);
     const QString words = EventWords::describe(message.msgId, message.data);
     // A question is reported together with its answer, anything else before what it leads to.
+    const QByteArray payload = message.data;
     const bool question = EventWords::isQuestion(message.msgId);
     if (!question) {
-        emit eventReceived(message.msgId, words, QString());
+        emit eventReceived(message.msgId, words, QString(), payload, QByteArray());
     }
     for (const Row &row : rows) {
         if (row.msgId == message.msgId && row.receiver == message.receiverId) {
@@ -56,7 +57,8 @@ void HostMailbox::customEvent(QEvent *event)
         }
     }
     if (question) {
-        emit eventReceived(message.msgId, words, EventWords::answer(message.msgId, message.data));
+        emit eventReceived(message.msgId, words, EventWords::answer(message.msgId, message.data), payload,
+                           message.data);
     }
 }
 

@@ -30,8 +30,10 @@ public:
     void setMemberPicker(MemberPicker picker) { m_picker = std::move(picker); }
 
 signals:
-    /// An event came; `strAnswer` is what a synchronous question was answered with, else empty.
-    void eventReceived(int iMsgId, const QString &strWords, const QString &strAnswer);
+    /// An event came; `strAnswer` is what a synchronous question was answered with, else empty. `payload` is what the
+    /// event carried, `reply` what a question carried back.
+    void eventReceived(int iMsgId, const QString &strWords, const QString &strAnswer, const QByteArray &payload,
+                       const QByteArray &reply);
     /// A call rings: prompt the user.
     void callIncoming(const QString &strUid, bool bConference, bool bVideo);
     /// The prompt of the call with this user is to go away.

@@ -9,12 +9,6 @@
 
 namespace {
 
-const QColor &lineColour()
-{
-    static const QColor green(0x2f, 0x80, 0x38);
-    return green;
-}
-
 QPixmap canvas(int iSize)
 {
     const qreal ratio = qGuiApp->devicePixelRatio();
@@ -44,7 +38,7 @@ void drawInitial(QPainter &painter, const QString &strName, const QString &strUi
 
 } // namespace
 
-QPixmap HostPictures::head(const QString &strName, const QString &strUid, int iSize, bool bOnline,
+QPixmap HostPictures::head(const QString &strName, const QString &strUid, int iSize, Presence presence,
                            const QString &strPhoto)
 {
     QPixmap pixmap = canvas(iSize);
@@ -58,12 +52,12 @@ QPixmap HostPictures::head(const QString &strName, const QString &strUid, int iS
 
     const qreal dot = iSize * 0.28;
     painter.setPen(QPen(Qt::white, iSize * 0.05));
-    painter.setBrush(bOnline ? QColor(0x33, 0xaf, 0x56) : QColor(0xc8, 0xc8, 0xc8));
+    painter.setBrush(presenceColour(presence));
     painter.drawEllipse(QRectF(iSize - dot - 1, iSize - dot - 1, dot, dot));
     return pixmap;
 }
 
-QIcon HostPictures::call()
+QIcon HostPictures::call(const QColor &colour)
 {
     constexpr int size = 36;
     QPixmap pixmap = canvas(size);
@@ -71,23 +65,23 @@ QIcon HostPictures::call()
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(size / 2.0, size / 2.0);
     painter.rotate(-135);
-    painter.setPen(QPen(lineColour(), 5, Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(QPen(colour, 5, Qt::SolidLine, Qt::FlatCap));
     painter.drawArc(QRectF(-13, -7, 26, 26), 25 * 16, 130 * 16);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(lineColour());
+    painter.setBrush(colour);
     painter.drawRoundedRect(QRectF(-16, -3, 9, 9), 3, 3);
     painter.drawRoundedRect(QRectF(7, -3, 9, 9), 3, 3);
     return QIcon(pixmap);
 }
 
-QIcon HostPictures::video()
+QIcon HostPictures::video(const QColor &colour)
 {
     constexpr int size = 36;
     QPixmap pixmap = canvas(size);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(lineColour());
+    painter.setBrush(colour);
     painter.drawRoundedRect(QRectF(3, 9, 19, 18), 4, 4);
     QPainterPath lens;
     lens.moveTo(24, 16);
@@ -96,5 +90,16 @@ QIcon HostPictures::video()
     lens.lineTo(24, 20);
     lens.closeSubpath();
     painter.drawPath(lens);
+    return QIcon(pixmap);
+}
+
+QIcon HostPictures::swatch(const QColor &colour, int iSize)
+{
+    QPixmap pixmap = canvas(iSize);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawEllipse(QRectF(0, 0, iSize, iSize));
     return QIcon(pixmap);
 }

@@ -21,10 +21,15 @@ QString HostSession::loginDomain()
 HostSession::HostSession(ContactBook &book, QObject *parent) : QObject(parent), m_book(book), m_mailbox(book)
 {
     connect(&m_mailbox, &HostMailbox::eventReceived, this,
-            [this](int iMsgId, const QString &strWords, const QString &strAnswer) {
-                emit eventPassed(true, iMsgId, strWords, strAnswer);
-            });
+            [this](int iMsgId, const QString &strWords, const QString &strAnswer, const QByteArray &payload,
+                   const QByteArray &reply) { emit eventPassed(true, iMsgId, strWords, strAnswer, payload, reply); });
     connect(&m_mailbox, &HostMailbox::cardsWanted, this, &HostSession::sendCards);
+}
+
+HostSession::~HostSession()
+{
+    m_store.close();
+    SharedContext::setCommonData(nullptr);
 }
 
 bool HostSession::start(const QString &strModule, QString *strError)
@@ -53,7 +58,7 @@ void HostSession::post(EMsgId msgId, const QByteArray &payload)
     if (m_pPlugin.isNull()) {
         return;
     }
-    emit eventPassed(false, msgId, EventWords::describe(msgId, payload), QString());
+    emit eventPassed(false, msgId, EventWords::describe(msgId, payload), QString(), payload, QByteArray());
     QCoreApplication::postEvent(m_pPlugin, new BaseEvent(msgId, sessionPluginId(), voipPluginId(), true, payload));
 }
 
@@ -65,7 +70,7 @@ bool HostSession::ask(EMsgId msgId)
     BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false);
     const QString words = EventWords::describe(msgId, event.data);
     QCoreApplication::sendEvent(m_pPlugin, &event);
-    emit eventPassed(false, msgId, words, EventWords::answer(msgId, event.data));
+    emit eventPassed(false, msgId, words, EventWords::answer(msgId, event.data), QByteArray(), event.data);
     return PayloadReader(event.data).take<bool>();
 }
 
@@ -122,7 +127,8 @@ void HostSession::quit()
         return;
     }
     m_bQuit = true;
-    emit eventPassed(false, MSG_EXIT_VOIP, EventWords::describe(MSG_EXIT_VOIP, QByteArray()), QString());
+    emit eventPassed(false, MSG_EXIT_VOIP, EventWords::describe(MSG_EXIT_VOIP, QByteArray()), QString(), QByteArray(),
+                     QByteArray());
     // Delivered at once: the process may end before the queue is read again.
     BaseEvent event(MSG_EXIT_VOIP, sessionPluginId(), voipPluginId(), false);
     QCoreApplication::sendEvent(m_pPlugin, &event);

@@ -3,6 +3,7 @@
 #include "ConferenceWish.h"
 #include "HostContext.h"
 #include "HostMailbox.h"
+#include "HostSettings.h"
 #include "HostStore.h"
 
 #include "plugin/EMsgId.h"
@@ -23,6 +24,8 @@ class HostSession : public QObject
 
 public:
     explicit HostSession(ContactBook &book, QObject *parent = nullptr);
+    /// Closes the store and takes the shared context away from this client's own code.
+    ~HostSession() override;
 
     /// The domain that this client's users belong to.
     static QString loginDomain();
@@ -59,14 +62,18 @@ public:
     HostMailbox &mailbox() { return m_mailbox; }
     /// The user's local store: whether it is open, and what has to be told of it.
     const HostStore &store() const { return m_store; }
+    /// The user's settings; to be used after start.
+    HostSettings &settings() { return m_settings; }
     /// The plug-in's own words about itself, "FileManagePlugin {2EFF...}"; empty before start.
     QString pluginWords() const { return m_strPlugin; }
     /// Path of the client's log file.
     QString logFile() const { return m_context.logFile(); }
 
 signals:
-    /// An event has passed: from the plug-in or to it, in words, with the answer where it was a question.
-    void eventPassed(bool bFromPlugin, int iMsgId, const QString &strWords, const QString &strAnswer);
+    /// An event has passed: from the plug-in or to it, in words, with the answer where it was a question. `payload` is
+    /// what it carried, `reply` what a question carried back.
+    void eventPassed(bool bFromPlugin, int iMsgId, const QString &strWords, const QString &strAnswer,
+                     const QByteArray &payload, const QByteArray &reply);
     void onlineChanged(bool bOnline);
 
 private:
@@ -78,6 +85,7 @@ private:
     HostContext m_context;
     HostStore m_store;
     HostMailbox m_mailbox;
+    HostSettings m_settings;
     QPointer<QObject> m_pPlugin;
     QString m_strPlugin;
     bool m_bOnline = false;

@@ -11,7 +11,9 @@ class IncomingPrompt;
 }
 
 /// The prompt of an incoming call, in the lower right corner of the screen: who calls, accept, reject. Not modal.
-/// Closing the window rejects. GUI thread; it does not count for Qt's quit-on-last-window-closed.
+/// Enter accepts, Escape or closing the window rejects. It takes the keyboard when it comes up, unless the user is
+/// typing something or works in another program: a key meant for that must not answer the call. GUI thread; it does not
+/// count for Qt's quit-on-last-window-closed.
 class IncomingPrompt : public QDialog
 {
     Q_OBJECT
@@ -22,6 +24,9 @@ public:
 
     /// Shows the prompt for the call of this user; a prompt that is still up changes over to the new call.
     void prompt(const QString &strUid, bool bConference, bool bVideo);
+
+    /// Gives the keyboard to the prompt if it is up.
+    void enter();
 
     /// Takes the prompt away without an answer, when it is this user's.
     void withdraw(const QString &strUid);
@@ -34,10 +39,16 @@ public slots:
     /// Escape, or the window's own close button.
     void reject() override;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void showWords();
     void answer(bool bAccept);
 
     std::unique_ptr<Ui::IncomingPrompt> ui;
     const ContactBook &m_book;
     QString m_strUid;
+    bool m_bConference = false;
+    bool m_bVideo = false;
 };

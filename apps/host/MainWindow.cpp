@@ -2,31 +2,34 @@
 #include "ui_MainWindow.h"
 
 #include "ContactBook.h"
-#include "ContactRow.h"
+#include "HappeningsPanel.h"
 #include "HostPictures.h"
 #include "HostSession.h"
+#include "HostSkins.h"
 #include "MemberPicker.h"
+#include "TraceFolder.h"
 
 #include <QCloseEvent>
+#include <QScreen>
+#include <QShortcut>
+
+#include <utility>
 
 MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     : ui(std::make_unique<Ui::MainWindow>()), m_session(session), m_book(book), m_records(book), m_prompt(book),
-      m_signature(book)
+      m_signature(book), m_settingsPage(session.settings())
 {
     ui->setupUi(this);
     fillHeader();
-    fillContacts();
-    setUpRecords();
+    ui->contactPane->fill(m_book);
+    ui->callsPane->setModel(&m_records);
+    setUpHappenings();
+    connectParts();
     connectSession();
+    takeSkin();
     showNotice();
     showOnline(m_session.isOnline());
-    connect(ui->btnOnline, &QPushButton::clicked, this, [this](bool bChecked) { m_session.setOnline(bChecked); });
-    connect(ui->btnCallNumber, &QPushButton::clicked, this, &MainWindow::callNumber);
-    connect(ui->btnConference, &QPushButton::clicked, this, [this] { startConference(QStringList()); });
-    connect(ui->btnCentre, &QPushButton::clicked, &m_session, &HostSession::showConferenceCentre);
-    connect(ui->editNumber, &QLineEdit::returnPressed, this, &MainWindow::callNumber);
-    connect(ui->editNumber, &QLineEdit::textChanged, this,
-            [this](const QString &strText) { ui->btnCallNumber->setEnabled(!strText.trimmed().isEmpty()); });
+    ui->contactPane->startSearch();
 }
 
 MainWindow::~MainWindow() = default;
@@ -37,34 +40,57 @@ void MainWindow::fillHeader()
     ui->lblOwnUid->setText(ContactBook::ownUid());
 }
 
-void MainWindow::fillContacts()
+void MainWindow::connectParts()
 {
-    for (const ContactBook::Entry &entry : m_book.entries()) {
-        auto *row = new ContactRow(entry, ui->contactRows);
-        connect(row, &ContactRow::callClicked, this, &MainWindow::call);
-        ui->contactRowsLayout->addWidget(row);
-    }
-    ui->contactRowsLayout->addStretch();
+    connect(ui->btnSettings, &QPushButton::clicked, &m_settingsPage, &SettingsPage::open);
+    connect(ui->btnOnline, &QPushButton::clicked, this, [this](bool bChecked) { m_session.setOnline(bChecked); });
+    connect(ui->contactPane, &ContactPane::callWanted, this, &MainWindow::call);
+    connect(ui->contactPane, &ContactPane::conferenceWanted, this, [this] { startConference(QStringList()); });
+    connect(ui->callsPane, &CallsPane::callWanted, this, &MainWindow::call);
+    connect(ui->callsPane, &CallsPane::centreWanted, &m_session, &HostSession::showConferenceCentre);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, ui->contactPane, &ContactPane::startSearch);
+    connect(new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_I), this), &QShortcut::activated, &m_prompt,
+            &IncomingPrompt::enter);
 }
 
-void MainWindow::setUpRecords()
+void MainWindow::takeSkin()
 {
-    ui->tableRecords->setModel(&m_records);
-    QHeaderView *header = ui->tableRecords->horizontalHeader();
-    header->setSectionResizeMode(CallRecordModel::Who, QHeaderView::Stretch);
-    header->resizeSection(CallRecordModel::Direction, 130);
-    for (const int column :
-         {CallRecordModel::Outcome, CallRecordModel::Connected, CallRecordModel::Duration, CallRecordModel::EndedAt}) {
-        header->resizeSection(column, 84);
+    HostSkins::dress(this);
+    ui->contactPane->takeSkin();
+}
+
+void MainWindow::setUpHappenings()
+{
+    m_pHappenings = new HappeningsPanel(m_session, TraceFolder::file(), this);
+    m_pHappenings->hide();
+    ui->splitter->addWidget(m_pHappenings);
+    ui->happeningsButton->setText(m_pHappenings->windowTitle());
+    connect(m_pHappenings, &QWidget::windowTitleChanged, ui->happeningsButton, &QAbstractButton::setText);
+    connect(ui->happeningsButton, &QAbstractButton::toggled, this, &MainWindow::showHappenings);
+    const auto *shortcut = new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_H, this);
+    connect(shortcut, &QShortcut::activated, ui->happeningsButton, &QAbstractButton::toggle);
+}
+
+void MainWindow::showHappenings(bool bShown)
+{
+    m_pHappenings->setVisible(bShown);
+    if (isMaximized() || isFullScreen()) {
+        return;
     }
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    ui->tableRecords->verticalHeader()->setDefaultSectionSize(32);
+    // The panel comes beside the other parts, as far as the screen has room, and gives that room back.
+    int grown = -std::exchange(m_iGrown, 0);
+    if (bShown) {
+        const int wanted = m_pHappenings->sizeHint().width() + ui->splitter->handleWidth();
+        grown = m_iGrown = qBound(0, screen()->availableGeometry().right() - frameGeometry().right(), wanted);
+    }
+    resize(width() + grown, height());
 }
 
 void MainWindow::connectSession()
 {
     HostMailbox &mailbox = m_session.mailbox();
     connect(&m_session, &HostSession::onlineChanged, this, &MainWindow::showOnline);
+    connect(&m_session.settings(), &HostSettings::skinChanged, this, &MainWindow::takeSkin);
     connect(&mailbox, &HostMailbox::callFinished, this, &MainWindow::showRecord);
     connect(&mailbox, &HostMailbox::callIncoming, this, [this](const QString &strUid, bool bConference, bool bVideo) {
         statusBar()->showMessage(tr("%1 is calling").arg(m_book.nameOf(strUid)));
@@ -97,23 +123,14 @@ void MainWindow::startConference(const QStringList &named)
     }
 }
 
-void MainWindow::callNumber()
-{
-    const QString number = ui->editNumber->text().trimmed();
-    if (number.isEmpty()) {
-        return;
-    }
-    ui->editNumber->clear();
-    call(number, false);
-}
-
 void MainWindow::showOnline(bool bOnline)
 {
     const QString name = m_book.nameOf(ContactBook::ownUid());
-    ui->lblOwnHead->setPixmap(HostPictures::head(name, ContactBook::ownUid(), 44, bOnline,
+    ui->lblOwnHead->setPixmap(HostPictures::head(name, ContactBook::ownUid(), 44,
+                                                 bOnline ? Presence::Online : Presence::Offline,
                                                  m_book.card(ContactBook::ownUid())->m_strPhotoPath));
     ui->btnOnline->setChecked(bOnline);
-    ui->btnOnline->setText(bOnline ? tr("Online") : tr("Offline"));
+    ui->btnOnline->setText(bOnline ? tr("&Online") : tr("&Offline"));
     statusBar()->showMessage(bOnline ? tr("Signed in as %1").arg(name) : tr("Signed out"));
 }
 
@@ -127,14 +144,27 @@ void MainWindow::showNotice()
 void MainWindow::showRecord(const CallRecord &record)
 {
     m_records.add(record);
-    const QString words = tr("Call with %1: %2").arg(m_book.nameOf(record.uid), outcomeWord(record.result));
-    statusBar()->showMessage(record.connected ? words + tr(" after %1").arg(durationText(record.seconds)) : words);
+    const QString name = m_book.nameOf(record.uid);
+    const QString outcome = outcomeWord(record.result);
+    statusBar()->showMessage(record.connected
+                                 ? tr("Call with %1: %2 after %3").arg(name, outcome, durationText(record.seconds))
+                                 : tr("Call with %1: %2").arg(name, outcome));
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        showOnline(m_session.isOnline());
+    }
+    QMainWindow::changeEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     m_prompt.hide();
     m_signature.hide();
+    m_settingsPage.hide();
     m_session.quit();
     QMainWindow::closeEvent(event);
 }

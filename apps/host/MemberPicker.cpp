@@ -2,6 +2,7 @@
 #include "ui_MemberPicker.h"
 
 #include "HostPictures.h"
+#include "HostSkins.h"
 #include "model/AvatarFiles.h"
 
 #include <QPushButton>
@@ -35,6 +36,8 @@ MemberPicker::MemberPicker(const ContactBook &book, Purpose purpose, const QStri
     addPeople(book, purpose, named);
     ui->buttonBox->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("btnInvite"));
     ui->buttonBox->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("btnCancel"));
+    ui->buttonBox->button(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
+    HostSkins::dress(this);
     connect(ui->listPeople, &QListWidget::itemChanged, this, &MemberPicker::showPicked);
     // A click on the name counts as one on the box. The box turns by itself and does not report the press.
     connect(ui->listPeople, &QListWidget::itemPressed, this,
@@ -60,7 +63,7 @@ void MemberPicker::addPeople(const ContactBook &book, Purpose purpose, const QSt
     for (const QString &uid : named) {
         const auto isThis = [&](const ContactBook::Entry &entry) { return entry.uid == uid; };
         if (fresh && std::none_of(book.entries().begin(), book.entries().end(), isThis)) {
-            addPerson({uid, uid, QString(), false, false, QString()}, true);
+            addPerson({uid, uid, QString(), false, Presence::Offline, QString()}, true);
         }
     }
 }
@@ -71,8 +74,9 @@ void MemberPicker::addPerson(const ContactBook::Entry &entry, bool bChecked)
         entry.alternative.isEmpty() ? entry.nick : entry.nick + QStringLiteral(" · ") + entry.alternative;
     auto *item = new QListWidgetItem(words, ui->listPeople);
     item->setIcon(QIcon(
-        HostPictures::head(entry.nick, entry.uid, headSize, entry.online, AvatarFiles::systemAvatar(entry.photo))));
+        HostPictures::head(entry.nick, entry.uid, headSize, entry.presence, AvatarFiles::systemAvatar(entry.photo))));
     item->setData(uidRole, entry.uid);
+    item->setData(Qt::AccessibleTextRole, QStringLiteral("%1, %2").arg(words, presenceWord(entry.presence)));
     item->setCheckState(bChecked ? Qt::Checked : Qt::Unchecked);
 }
 

@@ -49,7 +49,7 @@ void SignatureCard::showCard(const QString &strJid, const QPoint &place, int iLi
     const QString name = m_book.nameOf(uid);
     const QString signature = m_book.card(uid)->m_strSignature;
     ui->lblHead->setPixmap(
-        HostPictures::head(name, uid, headSize, m_book.isOnline(uid), m_book.card(uid)->m_strPhotoPath));
+        HostPictures::head(name, uid, headSize, m_book.presenceOf(uid), m_book.card(uid)->m_strPhotoPath));
     ui->lblName->setText(shortened(name));
     ui->lblSignature->setText(signature.isEmpty() ? tr("(no signature)") : shortened(signature));
     adjustSize();

@@ -57,18 +57,6 @@ TourScript::Action TourScript::leave() const
     };
 }
 
-TourScript::Action TourScript::pressContact(const char *strUid, const char *strButton) const
-{
-    return click([window = &m_stage.window, strUid, strButton] {
-        return WindowProbe::button(window->findChild<QWidget *>(QLatin1String(strUid)), strButton);
-    });
-}
-
-TourScript::Action TourScript::pressMain(const char *strButton) const
-{
-    return click([window = &m_stage.window, strButton] { return WindowProbe::button(window, strButton); });
-}
-
 TourScript::Action TourScript::pressCallWindow(const char *strButton) const
 {
     return click([strButton] { return WindowProbe::button(WindowProbe::callWindow(), strButton); });

@@ -16,6 +16,7 @@ public:
     // Actions: clicks on real buttons with the real mouse.
     Action pressContact(const char *strUid, const char *strButton) const;
     Action pressMain(const char *strButton) const;
+    Action pressSettings(const QString &strButton) const;
     Action pressCallWindow(const char *strButton) const;
     Action pressPrompt(const char *strButton) const;
     Action pressBox(const char *strButton) const;
@@ -39,6 +40,10 @@ public:
     /// Takes the mouse out of the way.
     Action leave() const;
 
+    /// Clicks into an edit field of the main window, and behind what stands in it types the text with the real
+    /// keyboard: small Latin letters, digits, spaces.
+    Action typeInto(const char *strEdit, const QString &strText) const;
+
     // Windows, for pictures.
     Window mainWindow() const;
     Window prompt() const;
@@ -60,6 +65,8 @@ public:
 
     // Checks of what the person sees.
     TourCheck record(int iResult, bool bCaller, bool bConnected) const;
+    TourCheck mainSays(const char *strPart, const QString &strText) const;
+    TourCheck mainShows(const char *strPart, bool bShown) const;
     static TourCheck shows(const char *strPart, const QString &strText);
     static TourCheck clockRuns();
     static TourCheck windowGone();

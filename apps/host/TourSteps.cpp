@@ -2,14 +2,18 @@
 
 #include "CallProcess.h"
 #include "DebugChannel.h"
+#include "HappeningsPanel.h"
 #include "HostSession.h"
 #include "MainWindow.h"
 #include "TourConference.h"
 #include "TourScript.h"
+#include "TourSettings.h"
 #include "TourWatch.h"
 #include "WindowProbe.h"
 
 #include "plugin/EMsgId.h"
+
+#include <QTreeView>
 
 #include <algorithm>
 #include <iterator>
@@ -34,9 +38,9 @@ constexpr const char *callsBack = "30010007";
 constexpr const char *voiceTitle = "语音通话";
 constexpr const char *calling = "正在呼叫...";
 constexpr const char *connected = "已接通";
-constexpr const char *lineInUse = "正在通话中，请先结束当前通话";
+constexpr const char *lineInUse = "You are in a call already. Please end it first.";
 constexpr const char *noProcess = "音频通话初始化失败，请尝试重启客户端解决";
-constexpr const char *sureToClose = "确定要结束当前通话吗？";
+constexpr const char *sureToClose = "Do you want to end this call?";
 
 QString u(const char *strText)
 {
@@ -277,6 +281,35 @@ Steps killed(const TourScript &s, const TourStage &stage)
            };
 }
 
+TourCheck onlyMatchesShown(const TourStage &stage)
+{
+    return {u("the panel shows the lines that hold the text and no other"), [window = &stage.window] {
+                const auto *view = window->findChild<QTreeView *>(u("viewHappenings"));
+                const auto *panel = window->findChild<HappeningsPanel *>();
+                const int shown = view->model()->rowCount();
+                return shown > 0 && shown < panel->model().rowCount();
+            }};
+}
+
+Steps happenings(const TourScript &s, const TourStage &stage)
+{
+    return {
+        {u("Look at what has happened so far"),
+         s.pressMain("happeningsButton"),
+         {s.mainShows("HappeningsPanel", true)},
+         15000,
+         u("happenings"),
+         s.mainWindow()},
+        {u("Look for the conferences in it"),
+         s.typeInto("editFilter", u("conf")),
+         {onlyMatchesShown(stage)},
+         15000,
+         u("happenings-conference"),
+         s.mainWindow()},
+        {u("Close that panel"), s.pressMain("happeningsButton"), {s.mainShows("HappeningsPanel", false)}},
+    };
+}
+
 Steps leave(const TourScript &s, const TourStage &stage)
 {
     return {{u("Close the client"),
@@ -292,10 +325,12 @@ Steps leave(const TourScript &s, const TourStage &stage)
 QList<TourStep> tourSteps(const TourStage &stage)
 {
     const TourScript s(stage);
-    return signIn(s, stage) + cancel(s) + unanswered(s, busy, "Call Maria Silva, who is busy", 22, "busy", resultBusy) +
+    return signIn(s, stage) + searchSteps(stage) + cancel(s) +
+           unanswered(s, busy, "Call Maria Silva, who is busy", 22, "busy", resultBusy) +
            unanswered(s, rejects, "Call 王芳, who rejects", 10, "rejected", resultRejected) +
            unanswered(s, fails, "Call 赵强: the call fails", 19, "failed", resultFailed) +
            call(s, "Call 李雷, who answers", u("call-voice")) + duringCall(s) + hangUp(s, "Hang up") + video(s, stage) +
            farEnd(s) + incoming(s) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
-           call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + leave(s, stage);
+           call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + happenings(s, stage) +
+           settingsSteps(stage) + leave(s, stage);
 }

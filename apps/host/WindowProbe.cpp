@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QScreen>
 
 #include <algorithm>
@@ -43,6 +44,13 @@ QWidget *shownPart(const QWidget *window, const char *strName)
     }
     auto *part = window->findChild<QWidget *>(QLatin1String(strName));
     return part != nullptr && part->isVisible() ? part : nullptr;
+}
+
+/// A button's text as it is seen: "&" marks the letter behind it, "&&" is one that is shown.
+QString withoutMarks(const QString &strText)
+{
+    static const QRegularExpression mark(QStringLiteral("&(.)"));
+    return QString(strText).replace(mark, QStringLiteral("\\1"));
 }
 
 QAbstractItemView *shownList(const QWidget *window, const char *strList)
@@ -168,7 +176,7 @@ QString WindowProbe::text(const QWidget *window, const char *strName)
     if (button == nullptr) {
         button = part->findChild<const QAbstractButton *>();
     }
-    return button == nullptr ? QString() : button->text();
+    return button == nullptr ? QString() : withoutMarks(button->text());
 }
 
 bool WindowProbe::isShown(const QWidget *window, const char *strName)

@@ -2,15 +2,14 @@
 #include "ContactBook.h"
 #include "DebugChannel.h"
 #include "EndSignals.h"
-#include "HostCatalogue.h"
+#include "HostLanguage.h"
 #include "HostSession.h"
 #include "MainWindow.h"
 #include "TourHand.h"
 #include "TourSteps.h"
 #include "TourWatch.h"
+#include "TraceFolder.h"
 #include "WindowFont.h"
-
-#include "common/AppInfo.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -106,6 +105,7 @@ int main(int argc, char **argv)
         traceFile = prepareTour(folder);
         debug = std::make_unique<DebugChannel>(folder + QStringLiteral("/debug.txt"));
     }
+    const TraceFolder traces;
     // Ring and resources are found relative to the working directory.
     QDir::setCurrent(QCoreApplication::applicationDirPath());
 
@@ -113,11 +113,11 @@ int main(int argc, char **argv)
     QObject::connect(&endSignals, &EndSignals::endRequested, &app, [] { QCoreApplication::exit(endedFromOutside); });
 
     WindowFont::substituteMissing();
-    HostCatalogue catalogue;
-    if (!catalogue.read(HostCatalogue::folder(), AppInfo::getApplicationLanguage())) {
+    HostLanguage language(HostCatalogue::folder());
+    // The tour knows the windows by their English words.
+    if (!language.use(folder.isNull() ? HostSettings::language() : QStringLiteral("en"))) {
         QTextStream(stderr) << "No translations in " << HostCatalogue::folder() << '\n';
     }
-    QCoreApplication::installTranslator(&catalogue);
     ContactBook book(HostSession::loginDomain());
     HostSession session(book);
     QString error;
@@ -125,6 +125,7 @@ int main(int argc, char **argv)
         QTextStream(stderr) << error << '\n';
         return EXIT_FAILURE;
     }
+    QObject::connect(&session.settings(), &HostSettings::languageChanged, &language, &HostLanguage::use);
     MainWindow window(session, book);
     return folder.isNull() ? runByHand(session, window) : runTour(session, window, folder, traceFile);
 }

@@ -111,10 +111,12 @@ void tst_ContactBook::learningAContactOrNobodyChangesNothing()
 
 void tst_ContactBook::presenceIsTheContacts()
 {
-    QVERIFY(m_book.isOnline(QStringLiteral("30010001")));
-    QVERIFY(!m_book.isOnline(QStringLiteral("30010005")));
-    QVERIFY(m_book.isOnline(ContactBook::ownUid()));
-    QVERIFY(!m_book.isOnline(QStringLiteral("4711")));
+    QVERIFY(m_book.presenceOf(QStringLiteral("30010001")) == Presence::Online);
+    QVERIFY(m_book.presenceOf(QStringLiteral("30010002")) == Presence::Busy);
+    QVERIFY(m_book.presenceOf(QStringLiteral("30010004")) == Presence::Away);
+    QVERIFY(m_book.presenceOf(QStringLiteral("30010005")) == Presence::Offline);
+    QVERIFY(m_book.presenceOf(ContactBook::ownUid()) == Presence::Online);
+    QVERIFY(m_book.presenceOf(QStringLiteral("4711")) == Presence::Offline);
 }
 
 void tst_ContactBook::displayNameIsTheNickName()

@@ -1,4 +1,5 @@
 #include "ContactBook.h"
+#include "HappeningsPanel.h"
 #include "HostSession.h"
 #include "MainWindow.h"
 #include "PressButton.h"
@@ -11,6 +12,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -27,7 +29,13 @@ private slots:
     void incomingCallOpensThePrompt();
     void answerTakesThePromptAway_data();
     void answerTakesThePromptAway();
-    void escapeOnThePromptRejects();
+    void keyOnThePromptAnswers_data();
+    void keyOnThePromptAnswers();
+    void promptTakesTheKeyboardOfAnIdleUserOnly_data();
+    void promptTakesTheKeyboardOfAnIdleUserOnly();
+    void shortcutLeadsToThePrompt();
+    void shortcutLeadsToTheSearch();
+    void recordIsCalledAgainByDoubleClick();
     void promptOfAnotherCallIsNotWithdrawn();
     void endOfTheCallWithdrawsThePromptWithoutAnAnswer();
     void recordsAndStatusLineTellTheCall();
@@ -37,6 +45,7 @@ private slots:
     void plugInsWishForAConferenceIsAnsweredWithTheCommand();
     void declinedConferenceIsNotStarted();
     void conferenceCentreHasItsButton();
+    void whatHappensComesAndGoesByButtonAndKeys();
     void signatureCardComesAndGoesAsThePlugInAsks();
     void noticeIsHiddenWhileThereIsNothingToTell();
     void damagedStoreIsToldBelowTheHeader();
@@ -62,7 +71,7 @@ void tst_MainWindow::init()
     m_pSession = std::make_unique<HostSession>(m_book);
     m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
     m_pWindow->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
 }
 
 void tst_MainWindow::cleanup()
@@ -113,13 +122,84 @@ void tst_MainWindow::answerTakesThePromptAway()
     QVERIFY(!m_pWindow->prompt().isVisible());
 }
 
-void tst_MainWindow::escapeOnThePromptRejects()
+void tst_MainWindow::keyOnThePromptAnswers_data()
 {
-    QSignalSpy answered(&m_pWindow->prompt(), &IncomingPrompt::answered);
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<int>("tabs");
+    QTest::addColumn<bool>("accept");
+    QTest::newRow("Return accepts") << Qt::Key_Return << 0 << true;
+    QTest::newRow("Enter accepts") << Qt::Key_Enter << 0 << true;
+    QTest::newRow("Escape rejects") << Qt::Key_Escape << 0 << false;
+    QTest::newRow("the other button is one Tab away") << Qt::Key_Return << 1 << false;
+}
+
+void tst_MainWindow::keyOnThePromptAnswers()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(int, tabs);
+    IncomingPrompt &prompt = m_pWindow->prompt();
+    QSignalSpy answered(&prompt, &IncomingPrompt::answered);
+    m_pWindow->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
     ring(QStringLiteral("30010006"));
-    QTest::keyClick(&m_pWindow->prompt(), Qt::Key_Escape);
+    QVERIFY(QTest::qWaitForWindowActive(&prompt));
+    for (int i = 0; i < tabs; ++i) {
+        QTest::keyClick(prompt.focusWidget(), Qt::Key_Tab);
+    }
+    QTest::keyClick(prompt.focusWidget(), key);
     QCOMPARE(answered.count(), 1);
-    QCOMPARE(answered.at(0).at(1).toBool(), false);
+    QTEST(answered.at(0).at(1).toBool(), "accept");
+}
+
+void tst_MainWindow::promptTakesTheKeyboardOfAnIdleUserOnly_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<bool>("takes");
+    QTest::newRow("nothing typed") << QString() << true;
+    QTest::newRow("in the middle of typing") << "mari" << false;
+}
+
+void tst_MainWindow::promptTakesTheKeyboardOfAnIdleUserOnly()
+{
+    QFETCH(QString, typed);
+    m_pWindow->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+    QTest::keyClicks(m_pWindow->findChild<QLineEdit *>(QStringLiteral("editSearch")), typed);
+    ring(QStringLiteral("30010006"));
+    QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt()));
+    QTEST(QTest::qWaitForWindowActive(&m_pWindow->prompt(), 1000), "takes");
+}
+
+void tst_MainWindow::shortcutLeadsToThePrompt()
+{
+    m_pWindow->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+    QTest::keyClicks(m_pWindow->findChild<QLineEdit *>(QStringLiteral("editSearch")), QStringLiteral("mari"));
+    ring(QStringLiteral("30010006"));
+    QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt()));
+    QTest::keyClick(m_pWindow.get(), Qt::Key_I, Qt::ControlModifier);
+    QVERIFY(QTest::qWaitForWindowActive(&m_pWindow->prompt()));
+    QCOMPARE(m_pWindow->prompt().focusWidget()->objectName(), QStringLiteral("btnAccept"));
+}
+
+void tst_MainWindow::shortcutLeadsToTheSearch()
+{
+    m_pWindow->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+    m_pWindow->findChild<QWidget *>(QStringLiteral("btnConference"))->setFocus();
+    QTest::keyClick(m_pWindow.get(), Qt::Key_F, Qt::ControlModifier);
+    QCOMPARE(m_pWindow->focusWidget()->objectName(), QStringLiteral("editSearch"));
+}
+
+void tst_MainWindow::recordIsCalledAgainByDoubleClick()
+{
+    deliver(MSG_CALL_FINISHED, sessionPluginId(),
+            packPayload(false, QStringLiteral("30010002"), qint32(25), true, false, qint64(0)));
+    auto *table = m_pWindow->findChild<QTableView *>(QStringLiteral("tableRecords"));
+    const QPoint place = table->visualRect(table->model()->index(0, 0)).center();
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTest::mouseDClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Calling Maria Silva"));
 }
 
 void tst_MainWindow::promptOfAnotherCallIsNotWithdrawn()
@@ -223,6 +303,25 @@ void tst_MainWindow::conferenceCentreHasItsButton()
 {
     QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnCentre"), QStringLiteral("Conference centre"));
     QVERIFY(WindowProbe::button(m_pWindow.get(), "btnCentre").widget != nullptr);
+}
+
+void tst_MainWindow::whatHappensComesAndGoesByButtonAndKeys()
+{
+    auto *panel = m_pWindow->findChild<HappeningsPanel *>();
+    QVERIFY(panel != nullptr);
+    QVERIFY(!panel->isVisible());
+    QCOMPARE(WindowProbe::text(m_pWindow.get(), "happeningsButton"), QStringLiteral("What happens"));
+    const int width = m_pWindow->width();
+    QVERIFY(pressButton(m_pWindow.get(), "happeningsButton"));
+    QVERIFY(panel->isVisible());
+    QTRY_VERIFY(m_pWindow->width() > width);
+    QVERIFY(m_pWindow->frameGeometry().right() <= m_pWindow->screen()->availableGeometry().right());
+    QTest::keyClick(m_pWindow.get(), Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(!panel->isVisible());
+    QTRY_COMPARE(m_pWindow->width(), width);
+    // It collects while it is hidden.
+    deliver(MSG_CLOSE_SIGN_LIST, signListPluginId(), QByteArray());
+    QTRY_COMPARE(panel->model().rowCount(), 1);
 }
 
 void tst_MainWindow::signatureCardComesAndGoesAsThePlugInAsks()

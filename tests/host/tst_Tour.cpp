@@ -60,16 +60,28 @@ void tst_Tour::everyStepHasItsEffect()
 void tst_Tour::pictureOfEveryWindowIsTaken()
 {
     const QStringList pictures = QDir(QStringLiteral("tour")).entryList({QStringLiteral("*.png")});
-    QCOMPARE(pictures, (QStringList{QStringLiteral("call-incoming.png"), QStringLiteral("call-outgoing.png"),
-                                    QStringLiteral("call-video.png"), QStringLiteral("call-voice.png"),
-                                    QStringLiteral("centre-card.png"), QStringLiteral("centre-detail.png"),
-                                    QStringLiteral("centre-list.png"), QStringLiteral("centre-menu.png"),
-                                    QStringLiteral("close-question.png"), QStringLiteral("conference-invited.png"),
-                                    QStringLiteral("conference-more.png"), QStringLiteral("conference-muted.png"),
-                                    QStringLiteral("conference-picker.png"), QStringLiteral("conference.png"),
-                                    QStringLiteral("demo-window.png"), QStringLiteral("desktop.png"),
-                                    QStringLiteral("incoming-prompt.png"), QStringLiteral("message-no-process.png"),
-                                    QStringLiteral("message.png")}));
+    QCOMPARE(pictures, (QStringList{QStringLiteral("call-incoming.png"),
+                                    QStringLiteral("call-outgoing.png"),
+                                    QStringLiteral("call-video.png"),
+                                    QStringLiteral("call-voice.png"),
+                                    QStringLiteral("centre-card.png"),
+                                    QStringLiteral("centre-detail.png"),
+                                    QStringLiteral("centre-list.png"),
+                                    QStringLiteral("centre-menu.png"),
+                                    QStringLiteral("close-question.png"),
+                                    QStringLiteral("conference-invited.png"),
+                                    QStringLiteral("conference-more.png"),
+                                    QStringLiteral("conference-muted.png"),
+                                    QStringLiteral("conference-picker.png"),
+                                    QStringLiteral("conference.png"),
+                                    QStringLiteral("demo-window.png"),
+                                    QStringLiteral("desktop.png"),
+                                    QStringLiteral("happenings-conference.png"),
+                                    QStringLiteral("happenings.png"),
+                                    QStringLiteral("incoming-prompt.png"),
+                                    QStringLiteral("message-no-process.png"),
+                                    QStringLiteral("message.png"),
+                                    QStringLiteral("settings.png")}));
     for (const QString &picture : pictures) {
         const QImage image(QStringLiteral("tour/") + picture);
         QVERIFY2(image.width() > 80 && image.height() > 60, qPrintable(picture));

@@ -1,4 +1,5 @@
-// The texts behind the keys: every key of the sources has one in each language, and the windows show them.
+// The texts behind the keys of the plug-in and the words of the client: each has one in each language, and the windows
+// show them.
 
 #include "HostCatalogue.h"
 
@@ -24,11 +25,21 @@ QString entryName(const QString &strContext, const QString &strKey)
     return strContext + QStringLiteral("::") + strKey;
 }
 
+/// A text with forms for several numbers stands in its first form.
 QString readText(QXmlStreamReader &xml)
 {
     const QString state = xml.attributes().value(QStringLiteral("type")).toString();
-    const QString text = xml.readElementText();
-    return state.isEmpty() ? text : QString();
+    QString text;
+    QString form;
+    while (!(xml.readNext() == QXmlStreamReader::EndElement && xml.name() == QLatin1String("translation"))) {
+        if (xml.isCharacters())
+            text.append(xml.text());
+        else if (xml.isStartElement() && form.isEmpty())
+            form = xml.readElementText();
+        else if (xml.isStartElement())
+            xml.skipCurrentElement();
+    }
+    return state.isEmpty() ? (form.isEmpty() ? text : form) : QString();
 }
 
 /// The entries of a translation file in its order; an unfinished, vanished or obsolete one has no text.
@@ -64,12 +75,15 @@ QStringList namesOf(const QList<Entry> &entries)
 
 QStringList sourceFiles()
 {
-    // The forms stay out: their texts are Chinese in every language.
-    QDirIterator walk(QStringLiteral(VOIP_SOURCES), {"*.cpp", "*.h", "*.def"}, QDir::Files,
-                      QDirIterator::Subdirectories);
     QStringList files;
-    while (walk.hasNext())
-        files.append(walk.next());
+    const auto collect = [&](const QString &strFolder, const QStringList &names) {
+        QDirIterator walk(strFolder, names, QDir::Files, QDirIterator::Subdirectories);
+        while (walk.hasNext())
+            files.append(walk.next());
+    };
+    // The plug-in's forms stay out: their texts are Chinese in every language.
+    collect(QStringLiteral(VOIP_SOURCES), {"*.cpp", "*.h", "*.def"});
+    collect(QStringLiteral(VOIP_CLIENT), {"*.cpp", "*.h", "*.ui"});
     return files;
 }
 
@@ -117,7 +131,9 @@ void tst_Translations::initTestCase()
     // One of each way in which a key can stand in the sources: a class's own, another's, in a table, in a list.
     const QStringList names = namesOf(m_wanted);
     for (const char *known : {"CVoipWidget::beSureToCloseCalling", "QObject::yesterday",
-                              "QObject::yourHotKeyUsedAndRevise", "QObject::ThemeGreen"})
+                              "QObject::yourHotKeyUsedAndRevise", "QObject::ThemeGreen",
+                              // The client's own words, of a form, of a source and of a table.
+                              "SettingsPage::Language", "MainWindow::Signed out", "Presence::away"})
         QVERIFY2(names.contains(QLatin1String(known)), known);
 }
 

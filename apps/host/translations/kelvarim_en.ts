@@ -2,6 +2,536 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en">
 <context>
+    <name>EventSentences</name>
+    <message>
+        <source>yes</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>with picture</source>
+        <translation>with picture</translation>
+    </message>
+    <message>
+        <source>with sound only</source>
+        <translation>with sound only</translation>
+    </message>
+    <message>
+        <source>the client gives the plug-in the card of %1</source>
+        <translation>the client gives the plug-in the card of %1</translation>
+    </message>
+    <message>
+        <source>the client tells the plug-in that the user is %1</source>
+        <translation>the client tells the plug-in that the user is %1</translation>
+    </message>
+    <message>
+        <source>signed in</source>
+        <translation>signed in</translation>
+    </message>
+    <message>
+        <source>signed out</source>
+        <translation>signed out</translation>
+    </message>
+    <message>
+        <source>the plug-in asks who %1 is: %2</source>
+        <translation>the plug-in asks who %1 is: %2</translation>
+    </message>
+    <message>
+        <source>here is the record</source>
+        <translation>here is the record</translation>
+    </message>
+    <message>
+        <source>there is no record</source>
+        <translation>there is no record</translation>
+    </message>
+    <message>
+        <source>the plug-in asks for the cards of %1</source>
+        <translation>the plug-in asks for the cards of %1</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to show the signature card of %1 at %2, %3</source>
+        <translation>the plug-in asks to show the signature card of %1 at %2, %3</translation>
+    </message>
+    <message>
+        <source>the plug-in asks whether %1 is a contact: %2</source>
+        <translation>the plug-in asks whether %1 is a contact: %2</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to take away the prompt of the call with %1</source>
+        <translation>the plug-in asks to take away the prompt of the call with %1</translation>
+    </message>
+    <message>
+        <source>the client asks the plug-in to call %2 %1</source>
+        <translation>the client asks the plug-in to call %2 %1</translation>
+    </message>
+    <message>
+        <source>the plug-in reports the end of the call with %2: %3; %4, %5, %6 s</source>
+        <translation>the plug-in reports the end of the call with %2: %3; %4, %5, %6 s</translation>
+    </message>
+    <message>
+        <source>called by this side</source>
+        <translation>called by this side</translation>
+    </message>
+    <message>
+        <source>called by the other side</source>
+        <translation>called by the other side</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>connected</translation>
+    </message>
+    <message>
+        <source>never connected</source>
+        <translation>never connected</translation>
+    </message>
+    <message>
+        <source>the client asks whether there is a call: %1</source>
+        <translation>the client asks whether there is a call: %1</translation>
+    </message>
+    <message>
+        <source>the client asks whether the call has a picture: %1</source>
+        <translation>the client asks whether the call has a picture: %1</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to hide the signature card</source>
+        <translation>the plug-in asks to hide the signature card</translation>
+    </message>
+    <message>
+        <source>the plug-in reports that %1 %2, %3</source>
+        <translation>the plug-in reports that %1 %2, %3</translation>
+    </message>
+    <message>
+        <source>invites to a conference</source>
+        <translation>invites to a conference</translation>
+    </message>
+    <message>
+        <source>calls</source>
+        <translation>calls</translation>
+    </message>
+    <message>
+        <source>the client tells the plug-in that the user %1 the call</source>
+        <translation>the client tells the plug-in that the user %1 the call</translation>
+    </message>
+    <message>
+        <source>takes</source>
+        <translation>takes</translation>
+    </message>
+    <message>
+        <source>rejects</source>
+        <translation>rejects</translation>
+    </message>
+    <message>
+        <source>the client asks the plug-in to start a conference with %1</source>
+        <translation>the client asks the plug-in to start a conference with %1</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to pick people for a conference, to begin with %1</source>
+        <translation>the plug-in asks to pick people for a conference, to begin with %1</translation>
+    </message>
+    <message>
+        <source>the plug-in asks whom to add to the conference of %1: %2</source>
+        <translation>the plug-in asks whom to add to the conference of %1: %2</translation>
+    </message>
+    <message>
+        <source>the client asks for the conference centre</source>
+        <translation>the client asks for the conference centre</translation>
+    </message>
+    <message>
+        <source>the client tells the plug-in that it quits</source>
+        <translation>the client tells the plug-in that it quits</translation>
+    </message>
+    <message>
+        <source>a command that is not in the contract, with %1 bytes of payload</source>
+        <translation>a command that is not in the contract, with %1 bytes of payload</translation>
+    </message>
+</context>
+<context>
+    <name>HappeningsModel</name>
+    <message>
+        <source>client → plug-in</source>
+        <translation>client → plug-in</translation>
+    </message>
+    <message>
+        <source>plug-in → client</source>
+        <translation>plug-in → client</translation>
+    </message>
+    <message>
+        <source>plug-in → call process</source>
+        <translation>plug-in → call process</translation>
+    </message>
+    <message>
+        <source>call process → plug-in</source>
+        <translation>call process → plug-in</translation>
+    </message>
+    <message>
+        <source>call process</source>
+        <translation>call process</translation>
+    </message>
+    <message>
+        <source>event</source>
+        <translation>event</translation>
+    </message>
+    <message>
+        <source>wire</source>
+        <translation>wire</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>error</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>What happened</translation>
+    </message>
+</context>
+<context>
+    <name>HappeningsPanel</name>
+    <message>
+        <source>What happens</source>
+        <translation>What happens</translation>
+    </message>
+    <message>
+        <source>Let new lines wait until this is pressed again</source>
+        <translation>Let new lines wait until this is pressed again</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Copy the selected lines, or all that are shown when none is selected</source>
+        <translation>Copy the selected lines, or all that are shown when none is selected</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Take all lines away</source>
+        <translation>Take all lines away</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Show only lines with this text</source>
+        <translation>Show only lines with this text</translation>
+    </message>
+    <message>
+        <source>Events between client and plug-in</source>
+        <translation>Events between client and plug-in</translation>
+    </message>
+    <message>
+        <source>Show events</source>
+        <translation>Show events</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Events</translation>
+    </message>
+    <message>
+        <source>Lines between plug-in and call process</source>
+        <translation>Lines between plug-in and call process</translation>
+    </message>
+    <message>
+        <source>Show wire lines</source>
+        <translation>Show wire lines</translation>
+    </message>
+    <message>
+        <source>Wire lines</source>
+        <translation>Wire lines</translation>
+    </message>
+    <message>
+        <source>Whatever does not follow the contract</source>
+        <translation>Whatever does not follow the contract</translation>
+    </message>
+    <message>
+        <source>Show errors</source>
+        <translation>Show errors</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Errors</translation>
+    </message>
+    <message>
+        <source>Keep the newest line in sight</source>
+        <translation>Keep the newest line in sight</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Follow</translation>
+    </message>
+    <message>
+        <source>Lines of what happens</source>
+        <translation>Lines of what happens</translation>
+    </message>
+    <message>
+        <source>The line in full</source>
+        <translation>The line in full</translation>
+    </message>
+    <message>
+        <source>Choose a line to read it in full</source>
+        <translation>Choose a line to read it in full</translation>
+    </message>
+    <message>
+        <source>Copy all lines shown</source>
+        <translation>Copy all lines shown</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 lines</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines</source>
+        <translation>%1 of %2 lines</translation>
+    </message>
+    <message>
+        <source>paused, %1 waiting</source>
+        <translation>paused, %1 waiting</translation>
+    </message>
+    <message>
+        <source>the oldest %1 were dropped</source>
+        <translation>the oldest %1 were dropped</translation>
+    </message>
+</context>
+<context>
+    <name>Sentence</name>
+    <message>
+        <source>nobody</source>
+        <translation>nobody</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+</context>
+<context>
+    <name>ShownText</name>
+    <message>
+        <source>(%1 in all)</source>
+        <translation>(%1 in all)</translation>
+    </message>
+</context>
+<context>
+    <name>WireWords</name>
+    <message>
+        <source>on</source>
+        <translation>on</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>off</translation>
+    </message>
+    <message>
+        <source>the plug-in registers %1 (%2) at the call process</source>
+        <translation>the plug-in registers %1 (%2) at the call process</translation>
+    </message>
+    <message>
+        <source>the plug-in takes the registration of %1 back</source>
+        <translation>the plug-in takes the registration of %1 back</translation>
+    </message>
+    <message>
+        <source>the plug-in asks the call process to call %1 %2</source>
+        <translation>the plug-in asks the call process to call %1 %2</translation>
+    </message>
+    <message>
+        <source>with picture</source>
+        <translation>with picture</translation>
+    </message>
+    <message>
+        <source>with sound only</source>
+        <translation>with sound only</translation>
+    </message>
+    <message>
+        <source>the plug-in asks the call process for a conference of %1 with %2</source>
+        <translation>the plug-in asks the call process for a conference of %1 with %2</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to add %1 to the conference of %6</source>
+        <translation>the plug-in asks to add %1 to the conference of %6</translation>
+    </message>
+    <message>
+        <source>the plug-in takes the call</source>
+        <translation>the plug-in takes the call</translation>
+    </message>
+    <message>
+        <source>the plug-in joins the conference</source>
+        <translation>the plug-in joins the conference</translation>
+    </message>
+    <message>
+        <source>the plug-in rejects the call</source>
+        <translation>the plug-in rejects the call</translation>
+    </message>
+    <message>
+        <source>the plug-in rejects the conference</source>
+        <translation>the plug-in rejects the conference</translation>
+    </message>
+    <message>
+        <source>the plug-in hangs up</source>
+        <translation>the plug-in hangs up</translation>
+    </message>
+    <message>
+        <source>the plug-in leaves the conference</source>
+        <translation>the plug-in leaves the conference</translation>
+    </message>
+    <message>
+        <source>the plug-in moderates the conference: %1, %2</source>
+        <translation>the plug-in moderates the conference: %1, %2</translation>
+    </message>
+    <message>
+        <source>the plug-in turns the microphone %1</source>
+        <translation>the plug-in turns the microphone %1</translation>
+    </message>
+    <message>
+        <source>the plug-in turns the speaker %1</source>
+        <translation>the plug-in turns the speaker %1</translation>
+    </message>
+    <message>
+        <source>the plug-in turns the camera %1</source>
+        <translation>the plug-in turns the camera %1</translation>
+    </message>
+    <message>
+        <source>the plug-in sets the microphone to volume %1</source>
+        <translation>the plug-in sets the microphone to volume %1</translation>
+    </message>
+    <message>
+        <source>the plug-in sets the speaker to volume %1</source>
+        <translation>the plug-in sets the speaker to volume %1</translation>
+    </message>
+    <message>
+        <source>the plug-in tells the call process to quit</source>
+        <translation>the plug-in tells the call process to quit</translation>
+    </message>
+    <message>
+        <source>call process: %1 is calling</source>
+        <translation>call process: %1 is calling</translation>
+    </message>
+    <message>
+        <source>call process: %1 invites to a conference, connected: %2</source>
+        <translation>call process: %1 invites to a conference, connected: %2</translation>
+    </message>
+    <message>
+        <source>call process: the call is to be rejected</source>
+        <translation>call process: the call is to be rejected</translation>
+    </message>
+    <message>
+        <source>call process: the caller has given up</source>
+        <translation>call process: the caller has given up</translation>
+    </message>
+    <message>
+        <source>call process: %1 has rejected</source>
+        <translation>call process: %1 has rejected</translation>
+    </message>
+    <message>
+        <source>call process: a notification that leads to nothing, content %1</source>
+        <translation>call process: a notification that leads to nothing, content %1</translation>
+    </message>
+    <message>
+        <source>call process: the call has ended</source>
+        <translation>call process: the call has ended</translation>
+    </message>
+    <message>
+        <source>call process: the far end has hung up</source>
+        <translation>call process: the far end has hung up</translation>
+    </message>
+    <message>
+        <source>call process: the far end has rejected</source>
+        <translation>call process: the far end has rejected</translation>
+    </message>
+    <message>
+        <source>call process: connected in the conference are %2</source>
+        <translation>call process: connected in the conference are %2</translation>
+    </message>
+    <message>
+        <source>call process: %1 has left the conference, connected are %2</source>
+        <translation>call process: %1 has left the conference, connected are %2</translation>
+    </message>
+    <message>
+        <source>call process: its flag is %1</source>
+        <translation>call process: its flag is %1</translation>
+    </message>
+    <message>
+        <source>call process: the far end has answered</source>
+        <translation>call process: the far end has answered</translation>
+    </message>
+    <message>
+        <source>call process: the call has failed</source>
+        <translation>call process: the call has failed</translation>
+    </message>
+    <message>
+        <source>call process: the conference is made, its id is %1</source>
+        <translation>call process: the conference is made, its id is %1</translation>
+    </message>
+    <message>
+        <source>call process: people were added, not reached: %1</source>
+        <translation>call process: people were added, not reached: %1</translation>
+    </message>
+    <message>
+        <source>call process: the far end is busy</source>
+        <translation>call process: the far end is busy</translation>
+    </message>
+    <message>
+        <source>call process: %1 has rejected the conference</source>
+        <translation>call process: %1 has rejected the conference</translation>
+    </message>
+    <message>
+        <source>call process logs: %1</source>
+        <translation>call process logs: %1</translation>
+    </message>
+    <message>
+        <source>call process: the conference could not be made</source>
+        <translation>call process: the conference could not be made</translation>
+    </message>
+    <message>
+        <source>call process notes: %1</source>
+        <translation>call process notes: %1</translation>
+    </message>
+    <message>
+        <source>call process complains: %1</source>
+        <translation>call process complains: %1</translation>
+    </message>
+    <message>
+        <source>a line of %1 bytes, too long to be decoded: %2</source>
+        <translation>a line of %1 bytes, too long to be decoded: %2</translation>
+    </message>
+    <message>
+        <source>no line of the protocol: %1</source>
+        <translation>no line of the protocol: %1</translation>
+    </message>
+    <message>
+        <source>the plug-in sends an unknown command: %1</source>
+        <translation>the plug-in sends an unknown command: %1</translation>
+    </message>
+    <message>
+        <source>call process: an unknown notification, content %1</source>
+        <translation>call process: an unknown notification, content %1</translation>
+    </message>
+    <message>
+        <source>call process: a document that cannot be read: %1</source>
+        <translation>call process: a document that cannot be read: %1</translation>
+    </message>
+</context>
+<context>
     <name>CUrlInfo</name>
     <message>
         <source>000000</source>
@@ -193,6 +723,479 @@
     <message>
         <source>enternothandle</source>
         <translation>message not handled</translation>
+    </message>
+</context>
+<context>
+    <name>CallRecord</name>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelled</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>failed</translation>
+    </message>
+    <message>
+        <source>hung up</source>
+        <translation>hung up</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>busy</translation>
+    </message>
+    <message>
+        <source>rejected</source>
+        <translation>rejected</translation>
+    </message>
+</context>
+<context>
+    <name>CallRecordModel</name>
+    <message>
+        <source>outgoing video</source>
+        <translation>outgoing video</translation>
+    </message>
+    <message>
+        <source>incoming video</source>
+        <translation>incoming video</translation>
+    </message>
+    <message>
+        <source>outgoing</source>
+        <translation>outgoing</translation>
+    </message>
+    <message>
+        <source>incoming</source>
+        <translation>incoming</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>Who</source>
+        <translation>Who</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Call</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Outcome</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duration</translation>
+    </message>
+    <message>
+        <source>Ended at</source>
+        <translation>Ended at</translation>
+    </message>
+</context>
+<context>
+    <name>CallsPane</name>
+    <message>
+        <source>Calls</source>
+        <translation>Calls</translation>
+    </message>
+    <message>
+        <source>Past conferences: look at them, call them again, delete them</source>
+        <translation>Past conferences: look at them, call them again, delete them</translation>
+    </message>
+    <message>
+        <source>Conference ce&amp;ntre</source>
+        <translation>Conference ce&amp;ntre</translation>
+    </message>
+    <message>
+        <source>Double click or Enter calls again</source>
+        <translation>Double click or Enter calls again</translation>
+    </message>
+    <message>
+        <source>Enter calls again</source>
+        <translation>Enter calls again</translation>
+    </message>
+    <message>
+        <source>No calls yet</source>
+        <translation>No calls yet</translation>
+    </message>
+</context>
+<context>
+    <name>ContactPane</name>
+    <message>
+        <source>Contacts</source>
+        <translation>Contacts</translation>
+    </message>
+    <message>
+        <source>Search the contacts (Ctrl+F)</source>
+        <translation>Search the contacts (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search the contacts</source>
+        <translation>Search the contacts</translation>
+    </message>
+    <message>
+        <source>Search by name, number or initials</source>
+        <translation>Search by name, number or initials</translation>
+    </message>
+    <message>
+        <source>No contact matches</source>
+        <translation>No contact matches</translation>
+    </message>
+    <message>
+        <source>Number to call</source>
+        <translation>Number to call</translation>
+    </message>
+    <message>
+        <source>Call another number</source>
+        <translation>Call another number</translation>
+    </message>
+    <message>
+        <source>&amp;Call</source>
+        <translation>&amp;Call</translation>
+    </message>
+    <message>
+        <source>Call several people together</source>
+        <translation>Call several people together</translation>
+    </message>
+    <message>
+        <source>Con&amp;ference...</source>
+        <translation>Con&amp;ference...</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Clear the search</translation>
+    </message>
+</context>
+<context>
+    <name>ContactRow</name>
+    <message>
+        <source>not a contact</source>
+        <translation>not a contact</translation>
+    </message>
+    <message>
+        <source>Call %1</source>
+        <translation>Call %1</translation>
+    </message>
+    <message>
+        <source>Call %1 by video</source>
+        <translation>Call %1 by video</translation>
+    </message>
+</context>
+<context>
+    <name>HostSession</name>
+    <message>
+        <source>not a plug-in of this client</source>
+        <translation>not a plug-in of this client</translation>
+    </message>
+</context>
+<context>
+    <name>HostSkins</name>
+    <message>
+        <source>Green</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grey</translation>
+    </message>
+</context>
+<context>
+    <name>HostStore</name>
+    <message>
+        <source>%1 is the store of an older client. It stays as it is; what it holds is not shown here.</source>
+        <translation>%1 is the store of an older client. It stays as it is; what it holds is not shown here.</translation>
+    </message>
+    <message>
+        <source>The local store %1 cannot be opened. Nothing of this session will be kept.</source>
+        <translation>The local store %1 cannot be opened. Nothing of this session will be kept.</translation>
+    </message>
+    <message>
+        <source>The local store %1 cannot be written to. Nothing of this session will be kept.</source>
+        <translation>The local store %1 cannot be written to. Nothing of this session will be kept.</translation>
+    </message>
+    <message>
+        <source>The local store %1 is in use by another program. Nothing of this session will be kept.</source>
+        <translation>The local store %1 is in use by another program. Nothing of this session will be kept.</translation>
+    </message>
+    <message>
+        <source>The local store %1 is damaged and cannot be moved aside. Nothing of this session will be kept.</source>
+        <translation>The local store %1 is damaged and cannot be moved aside. Nothing of this session will be kept.</translation>
+    </message>
+    <message>
+        <source>The local store was damaged. The file is kept as %1; a new one has been started.</source>
+        <translation>The local store was damaged. The file is kept as %1; a new one has been started.</translation>
+    </message>
+</context>
+<context>
+    <name>IncomingPrompt</name>
+    <message>
+        <source>Incoming call</source>
+        <translation>Incoming call</translation>
+    </message>
+    <message>
+        <source>&amp;Reject</source>
+        <translation>&amp;Reject</translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>&amp;Accept</translation>
+    </message>
+    <message>
+        <source>invites you to a conference</source>
+        <translation>invites you to a conference</translation>
+    </message>
+    <message>
+        <source>video call</source>
+        <translation>video call</translation>
+    </message>
+    <message>
+        <source>is calling you</source>
+        <translation>is calling you</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>KelvarIM demo</source>
+        <translation>KelvarIM demo</translation>
+    </message>
+    <message>
+        <source>What client, plug-in and call process tell each other (Ctrl+Shift+H)</source>
+        <translation>What client, plug-in and call process tell each other (Ctrl+Shift+H)</translation>
+    </message>
+    <message>
+        <source>Ring, language, colour and folders</source>
+        <translation>Ring, language, colour and folders</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>&amp;Settings</translation>
+    </message>
+    <message>
+        <source>Sign in to calls, or out of them</source>
+        <translation>Sign in to calls, or out of them</translation>
+    </message>
+    <message>
+        <source>%1 is calling</source>
+        <translation>%1 is calling</translation>
+    </message>
+    <message>
+        <source>Call of %1 accepted</source>
+        <translation>Call of %1 accepted</translation>
+    </message>
+    <message>
+        <source>Call of %1 rejected</source>
+        <translation>Call of %1 rejected</translation>
+    </message>
+    <message>
+        <source>Calling %1</source>
+        <translation>Calling %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Starting a conference with %n other(s)</source>
+        <translation>
+            <numerusform>Starting a conference with %n other person</numerusform>
+            <numerusform>Starting a conference with %n others</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Online</source>
+        <translation>&amp;Online</translation>
+    </message>
+    <message>
+        <source>&amp;Offline</source>
+        <translation>&amp;Offline</translation>
+    </message>
+    <message>
+        <source>Signed in as %1</source>
+        <translation>Signed in as %1</translation>
+    </message>
+    <message>
+        <source>Signed out</source>
+        <translation>Signed out</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2 after %3</source>
+        <translation>Call with %1: %2 after %3</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2</source>
+        <translation>Call with %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MemberPicker</name>
+    <message>
+        <source>People</source>
+        <translation>People</translation>
+    </message>
+    <message>
+        <source>Text passed on to the call process</source>
+        <translation>Text passed on to the call process</translation>
+    </message>
+    <message>
+        <source>Passed on to the call process</source>
+        <translation>Passed on to the call process</translation>
+    </message>
+    <message>
+        <source>Flag</source>
+        <translation>Flag</translation>
+    </message>
+    <message>
+        <source>New conference</source>
+        <translation>New conference</translation>
+    </message>
+    <message>
+        <source>Invite to the conference</source>
+        <translation>Invite to the conference</translation>
+    </message>
+    <message>
+        <source>Already in the conference: %1</source>
+        <translation>Already in the conference: %1</translation>
+    </message>
+    <message>
+        <source>Whom to call together?</source>
+        <translation>Whom to call together?</translation>
+    </message>
+    <message>
+        <source>Asked for a conference with: %1</source>
+        <translation>Asked for a conference with: %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Invite (%1)</source>
+        <translation>Invite (%1)</translation>
+    </message>
+    <message>
+        <source>Invite</source>
+        <translation>Invite</translation>
+    </message>
+</context>
+<context>
+    <name>Presence</name>
+    <message>
+        <source>offline</source>
+        <translation>offline</translation>
+    </message>
+    <message>
+        <source>online</source>
+        <translation>online</translation>
+    </message>
+    <message>
+        <source>away</source>
+        <translation>away</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>busy</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>Calls</translation>
+    </message>
+    <message>
+        <source>Keep the &amp;ring of incoming calls silent</source>
+        <translation>Keep the &amp;ring of incoming calls silent</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Colour</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Folders</translation>
+    </message>
+    <message>
+        <source>&amp;Data</source>
+        <translation>&amp;Data</translation>
+    </message>
+    <message>
+        <source>An empty field means the standard folder</source>
+        <translation>An empty field means the standard folder</translation>
+    </message>
+    <message>
+        <source>Data folder</source>
+        <translation>Data folder</translation>
+    </message>
+    <message>
+        <source>Choose: Data folder</source>
+        <translation>Choose: Data folder</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Browse...</translation>
+    </message>
+    <message>
+        <source>Received &amp;files</source>
+        <translation>Received &amp;files</translation>
+    </message>
+    <message>
+        <source>Folder for received files</source>
+        <translation>Folder for received files</translation>
+    </message>
+    <message>
+        <source>Choose: Folder for received files</source>
+        <translation>Choose: Folder for received files</translation>
+    </message>
+    <message>
+        <source>These settings are kept in</source>
+        <translation>These settings are kept in</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start; what is in the old folder stays there.</source>
+        <translation>Takes effect at the next start; what is in the old folder stays there.</translation>
+    </message>
+    <message>
+        <source>Holds the settings, the conference records and the log of each user.</source>
+        <translation>Holds the settings, the conference records and the log of each user.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be used: %1</source>
+        <translation>This folder cannot be used: %1</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Choose a folder</translation>
+    </message>
+</context>
+<context>
+    <name>SignatureCard</name>
+    <message>
+        <source>(no signature)</source>
+        <translation>(no signature)</translation>
     </message>
 </context>
 </TS>

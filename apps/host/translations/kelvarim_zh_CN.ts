@@ -2,6 +2,536 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>EventSentences</name>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>with picture</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>with sound only</source>
+        <translation>语音</translation>
+    </message>
+    <message>
+        <source>the client gives the plug-in the card of %1</source>
+        <translation>客户端把 %1 的名片交给插件</translation>
+    </message>
+    <message>
+        <source>the client tells the plug-in that the user is %1</source>
+        <translation>客户端告知插件：用户%1</translation>
+    </message>
+    <message>
+        <source>signed in</source>
+        <translation>已登录</translation>
+    </message>
+    <message>
+        <source>signed out</source>
+        <translation>已退出</translation>
+    </message>
+    <message>
+        <source>the plug-in asks who %1 is: %2</source>
+        <translation>插件询问 %1 是谁：%2</translation>
+    </message>
+    <message>
+        <source>here is the record</source>
+        <translation>已给出资料</translation>
+    </message>
+    <message>
+        <source>there is no record</source>
+        <translation>没有资料</translation>
+    </message>
+    <message>
+        <source>the plug-in asks for the cards of %1</source>
+        <translation>插件请求 %1 的名片</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to show the signature card of %1 at %2, %3</source>
+        <translation>插件请求在 %2, %3 处显示 %1 的签名卡</translation>
+    </message>
+    <message>
+        <source>the plug-in asks whether %1 is a contact: %2</source>
+        <translation>插件询问 %1 是否为联系人：%2</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to take away the prompt of the call with %1</source>
+        <translation>插件请求撤下与 %1 通话的提示</translation>
+    </message>
+    <message>
+        <source>the client asks the plug-in to call %2 %1</source>
+        <translation>客户端请插件呼叫 %2（%1）</translation>
+    </message>
+    <message>
+        <source>the plug-in reports the end of the call with %2: %3; %4, %5, %6 s</source>
+        <translation>插件报告与 %2 的通话结束：%3；%4，%5，%6 秒</translation>
+    </message>
+    <message>
+        <source>called by this side</source>
+        <translation>本方呼叫</translation>
+    </message>
+    <message>
+        <source>called by the other side</source>
+        <translation>对方呼叫</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>已接通</translation>
+    </message>
+    <message>
+        <source>never connected</source>
+        <translation>未接通</translation>
+    </message>
+    <message>
+        <source>the client asks whether there is a call: %1</source>
+        <translation>客户端询问是否有通话：%1</translation>
+    </message>
+    <message>
+        <source>the client asks whether the call has a picture: %1</source>
+        <translation>客户端询问是否为视频通话：%1</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to hide the signature card</source>
+        <translation>插件请求隐藏签名卡</translation>
+    </message>
+    <message>
+        <source>the plug-in reports that %1 %2, %3</source>
+        <translation>插件报告：%1 %2（%3）</translation>
+    </message>
+    <message>
+        <source>invites to a conference</source>
+        <translation>邀请加入会议</translation>
+    </message>
+    <message>
+        <source>calls</source>
+        <translation>来电</translation>
+    </message>
+    <message>
+        <source>the client tells the plug-in that the user %1 the call</source>
+        <translation>客户端告知插件：用户%1来电</translation>
+    </message>
+    <message>
+        <source>takes</source>
+        <translation>接听</translation>
+    </message>
+    <message>
+        <source>rejects</source>
+        <translation>拒绝</translation>
+    </message>
+    <message>
+        <source>the client asks the plug-in to start a conference with %1</source>
+        <translation>客户端请插件与 %1 开会</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to pick people for a conference, to begin with %1</source>
+        <translation>插件请求为新会议选人，已有 %1</translation>
+    </message>
+    <message>
+        <source>the plug-in asks whom to add to the conference of %1: %2</source>
+        <translation>插件询问向 %1 的会议添加谁：%2</translation>
+    </message>
+    <message>
+        <source>the client asks for the conference centre</source>
+        <translation>客户端请求显示会议中心</translation>
+    </message>
+    <message>
+        <source>the client tells the plug-in that it quits</source>
+        <translation>客户端告知插件：即将退出</translation>
+    </message>
+    <message>
+        <source>a command that is not in the contract, with %1 bytes of payload</source>
+        <translation>约定之外的命令，数据 %1 字节</translation>
+    </message>
+</context>
+<context>
+    <name>HappeningsModel</name>
+    <message>
+        <source>client → plug-in</source>
+        <translation>客户端 → 插件</translation>
+    </message>
+    <message>
+        <source>plug-in → client</source>
+        <translation>插件 → 客户端</translation>
+    </message>
+    <message>
+        <source>plug-in → call process</source>
+        <translation>插件 → 通话进程</translation>
+    </message>
+    <message>
+        <source>call process → plug-in</source>
+        <translation>通话进程 → 插件</translation>
+    </message>
+    <message>
+        <source>call process</source>
+        <translation>通话进程</translation>
+    </message>
+    <message>
+        <source>event</source>
+        <translation>事件</translation>
+    </message>
+    <message>
+        <source>wire</source>
+        <translation>线路</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>发生了什么</translation>
+    </message>
+</context>
+<context>
+    <name>HappeningsPanel</name>
+    <message>
+        <source>What happens</source>
+        <translation>实时动态</translation>
+    </message>
+    <message>
+        <source>Let new lines wait until this is pressed again</source>
+        <translation>新记录先等待，再按一次才显示</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Copy the selected lines, or all that are shown when none is selected</source>
+        <translation>复制选中的记录；未选中时复制显示的全部记录</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Take all lines away</source>
+        <translation>清除全部记录</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>Show only lines with this text</source>
+        <translation>只显示包含此文字的记录</translation>
+    </message>
+    <message>
+        <source>Events between client and plug-in</source>
+        <translation>客户端与插件之间的事件</translation>
+    </message>
+    <message>
+        <source>Show events</source>
+        <translation>显示事件</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>事件</translation>
+    </message>
+    <message>
+        <source>Lines between plug-in and call process</source>
+        <translation>插件与通话进程之间的线路记录</translation>
+    </message>
+    <message>
+        <source>Show wire lines</source>
+        <translation>显示线路记录</translation>
+    </message>
+    <message>
+        <source>Wire lines</source>
+        <translation>线路</translation>
+    </message>
+    <message>
+        <source>Whatever does not follow the contract</source>
+        <translation>一切不合约定的内容</translation>
+    </message>
+    <message>
+        <source>Show errors</source>
+        <translation>显示错误</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Keep the newest line in sight</source>
+        <translation>始终显示最新记录</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>跟随</translation>
+    </message>
+    <message>
+        <source>Lines of what happens</source>
+        <translation>实时动态记录</translation>
+    </message>
+    <message>
+        <source>The line in full</source>
+        <translation>完整记录</translation>
+    </message>
+    <message>
+        <source>Choose a line to read it in full</source>
+        <translation>选择一条记录以查看全文</translation>
+    </message>
+    <message>
+        <source>Copy all lines shown</source>
+        <translation>复制显示的全部记录</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 条</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines</source>
+        <translation>%2 条中的 %1 条</translation>
+    </message>
+    <message>
+        <source>paused, %1 waiting</source>
+        <translation>已暂停，%1 条等待</translation>
+    </message>
+    <message>
+        <source>the oldest %1 were dropped</source>
+        <translation>已丢弃最早的 %1 条</translation>
+    </message>
+</context>
+<context>
+    <name>Sentence</name>
+    <message>
+        <source>nobody</source>
+        <translation>无人</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+</context>
+<context>
+    <name>ShownText</name>
+    <message>
+        <source>(%1 in all)</source>
+        <translation>（共 %1）</translation>
+    </message>
+</context>
+<context>
+    <name>WireWords</name>
+    <message>
+        <source>on</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>the plug-in registers %1 (%2) at the call process</source>
+        <translation>插件在通话进程注册 %1（%2）</translation>
+    </message>
+    <message>
+        <source>the plug-in takes the registration of %1 back</source>
+        <translation>插件注销 %1</translation>
+    </message>
+    <message>
+        <source>the plug-in asks the call process to call %1 %2</source>
+        <translation>插件请通话进程呼叫 %1（%2）</translation>
+    </message>
+    <message>
+        <source>with picture</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>with sound only</source>
+        <translation>语音</translation>
+    </message>
+    <message>
+        <source>the plug-in asks the call process for a conference of %1 with %2</source>
+        <translation>插件请通话进程为 %1 召开会议，成员 %2</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to add %1 to the conference of %6</source>
+        <translation>插件请求把 %1 加入 %6 的会议</translation>
+    </message>
+    <message>
+        <source>the plug-in takes the call</source>
+        <translation>插件接听来电</translation>
+    </message>
+    <message>
+        <source>the plug-in joins the conference</source>
+        <translation>插件加入会议</translation>
+    </message>
+    <message>
+        <source>the plug-in rejects the call</source>
+        <translation>插件拒绝来电</translation>
+    </message>
+    <message>
+        <source>the plug-in rejects the conference</source>
+        <translation>插件拒绝会议</translation>
+    </message>
+    <message>
+        <source>the plug-in hangs up</source>
+        <translation>插件挂断</translation>
+    </message>
+    <message>
+        <source>the plug-in leaves the conference</source>
+        <translation>插件退出会议</translation>
+    </message>
+    <message>
+        <source>the plug-in moderates the conference: %1, %2</source>
+        <translation>插件主持会议：%1，%2</translation>
+    </message>
+    <message>
+        <source>the plug-in turns the microphone %1</source>
+        <translation>插件%1麦克风</translation>
+    </message>
+    <message>
+        <source>the plug-in turns the speaker %1</source>
+        <translation>插件%1扬声器</translation>
+    </message>
+    <message>
+        <source>the plug-in turns the camera %1</source>
+        <translation>插件%1摄像头</translation>
+    </message>
+    <message>
+        <source>the plug-in sets the microphone to volume %1</source>
+        <translation>插件把麦克风音量设为 %1</translation>
+    </message>
+    <message>
+        <source>the plug-in sets the speaker to volume %1</source>
+        <translation>插件把扬声器音量设为 %1</translation>
+    </message>
+    <message>
+        <source>the plug-in tells the call process to quit</source>
+        <translation>插件让通话进程退出</translation>
+    </message>
+    <message>
+        <source>call process: %1 is calling</source>
+        <translation>通话进程：%1 来电</translation>
+    </message>
+    <message>
+        <source>call process: %1 invites to a conference, connected: %2</source>
+        <translation>通话进程：%1 邀请加入会议，已接通 %2</translation>
+    </message>
+    <message>
+        <source>call process: the call is to be rejected</source>
+        <translation>通话进程：应拒绝该来电</translation>
+    </message>
+    <message>
+        <source>call process: the caller has given up</source>
+        <translation>通话进程：呼叫方已取消</translation>
+    </message>
+    <message>
+        <source>call process: %1 has rejected</source>
+        <translation>通话进程：%1 已拒绝</translation>
+    </message>
+    <message>
+        <source>call process: a notification that leads to nothing, content %1</source>
+        <translation>通话进程：不引起任何动作的通知，内容 %1</translation>
+    </message>
+    <message>
+        <source>call process: the call has ended</source>
+        <translation>通话进程：通话已结束</translation>
+    </message>
+    <message>
+        <source>call process: the far end has hung up</source>
+        <translation>通话进程：对方已挂断</translation>
+    </message>
+    <message>
+        <source>call process: the far end has rejected</source>
+        <translation>通话进程：对方已拒绝</translation>
+    </message>
+    <message>
+        <source>call process: connected in the conference are %2</source>
+        <translation>通话进程：会议中已接通 %2</translation>
+    </message>
+    <message>
+        <source>call process: %1 has left the conference, connected are %2</source>
+        <translation>通话进程：%1 已离开会议，已接通 %2</translation>
+    </message>
+    <message>
+        <source>call process: its flag is %1</source>
+        <translation>通话进程：标志为 %1</translation>
+    </message>
+    <message>
+        <source>call process: the far end has answered</source>
+        <translation>通话进程：对方已接听</translation>
+    </message>
+    <message>
+        <source>call process: the call has failed</source>
+        <translation>通话进程：呼叫失败</translation>
+    </message>
+    <message>
+        <source>call process: the conference is made, its id is %1</source>
+        <translation>通话进程：会议已创建，编号 %1</translation>
+    </message>
+    <message>
+        <source>call process: people were added, not reached: %1</source>
+        <translation>通话进程：已添加成员，未能联系 %1</translation>
+    </message>
+    <message>
+        <source>call process: the far end is busy</source>
+        <translation>通话进程：对方正忙</translation>
+    </message>
+    <message>
+        <source>call process: %1 has rejected the conference</source>
+        <translation>通话进程：%1 已拒绝会议</translation>
+    </message>
+    <message>
+        <source>call process logs: %1</source>
+        <translation>通话进程日志：%1</translation>
+    </message>
+    <message>
+        <source>call process: the conference could not be made</source>
+        <translation>通话进程：会议未能创建</translation>
+    </message>
+    <message>
+        <source>call process notes: %1</source>
+        <translation>通话进程记录：%1</translation>
+    </message>
+    <message>
+        <source>call process complains: %1</source>
+        <translation>通话进程报错：%1</translation>
+    </message>
+    <message>
+        <source>a line of %1 bytes, too long to be decoded: %2</source>
+        <translation>%1 字节的一行，过长而未解读：%2</translation>
+    </message>
+    <message>
+        <source>no line of the protocol: %1</source>
+        <translation>不合协议的一行：%1</translation>
+    </message>
+    <message>
+        <source>the plug-in sends an unknown command: %1</source>
+        <translation>插件发送未知命令：%1</translation>
+    </message>
+    <message>
+        <source>call process: an unknown notification, content %1</source>
+        <translation>通话进程：未知通知，内容 %1</translation>
+    </message>
+    <message>
+        <source>call process: a document that cannot be read: %1</source>
+        <translation>通话进程：无法读取的文档：%1</translation>
+    </message>
+</context>
+<context>
     <name>CUrlInfo</name>
     <message>
         <source>000000</source>
@@ -193,6 +723,478 @@
     <message>
         <source>enternothandle</source>
         <translation>未处理的消息</translation>
+    </message>
+</context>
+<context>
+    <name>CallRecord</name>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>hung up</source>
+        <translation>已挂断</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>忙线</translation>
+    </message>
+    <message>
+        <source>rejected</source>
+        <translation>已拒绝</translation>
+    </message>
+</context>
+<context>
+    <name>CallRecordModel</name>
+    <message>
+        <source>outgoing video</source>
+        <translation>呼出视频</translation>
+    </message>
+    <message>
+        <source>incoming video</source>
+        <translation>呼入视频</translation>
+    </message>
+    <message>
+        <source>outgoing</source>
+        <translation>呼出</translation>
+    </message>
+    <message>
+        <source>incoming</source>
+        <translation>呼入</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Who</source>
+        <translation>联系人</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>呼叫</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>接通</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>Ended at</source>
+        <translation>结束时间</translation>
+    </message>
+</context>
+<context>
+    <name>CallsPane</name>
+    <message>
+        <source>Calls</source>
+        <translation>通话记录</translation>
+    </message>
+    <message>
+        <source>Past conferences: look at them, call them again, delete them</source>
+        <translation>以往的会议：查看、再次呼叫、删除</translation>
+    </message>
+    <message>
+        <source>Conference ce&amp;ntre</source>
+        <translation>会议中心(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Double click or Enter calls again</source>
+        <translation>双击或按回车键再次呼叫</translation>
+    </message>
+    <message>
+        <source>Enter calls again</source>
+        <translation>按回车键再次呼叫</translation>
+    </message>
+    <message>
+        <source>No calls yet</source>
+        <translation>还没有通话</translation>
+    </message>
+</context>
+<context>
+    <name>ContactPane</name>
+    <message>
+        <source>Contacts</source>
+        <translation>联系人</translation>
+    </message>
+    <message>
+        <source>Search the contacts (Ctrl+F)</source>
+        <translation>搜索联系人 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search the contacts</source>
+        <translation>搜索联系人</translation>
+    </message>
+    <message>
+        <source>Search by name, number or initials</source>
+        <translation>按姓名、号码或拼音首字母搜索</translation>
+    </message>
+    <message>
+        <source>No contact matches</source>
+        <translation>没有匹配的联系人</translation>
+    </message>
+    <message>
+        <source>Number to call</source>
+        <translation>要呼叫的号码</translation>
+    </message>
+    <message>
+        <source>Call another number</source>
+        <translation>呼叫其他号码</translation>
+    </message>
+    <message>
+        <source>&amp;Call</source>
+        <translation>呼叫(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Call several people together</source>
+        <translation>同时呼叫多人</translation>
+    </message>
+    <message>
+        <source>Con&amp;ference...</source>
+        <translation>会议(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>清除搜索</translation>
+    </message>
+</context>
+<context>
+    <name>ContactRow</name>
+    <message>
+        <source>not a contact</source>
+        <translation>非联系人</translation>
+    </message>
+    <message>
+        <source>Call %1</source>
+        <translation>呼叫 %1</translation>
+    </message>
+    <message>
+        <source>Call %1 by video</source>
+        <translation>视频呼叫 %1</translation>
+    </message>
+</context>
+<context>
+    <name>HostSession</name>
+    <message>
+        <source>not a plug-in of this client</source>
+        <translation>不是本客户端的插件</translation>
+    </message>
+</context>
+<context>
+    <name>HostSkins</name>
+    <message>
+        <source>Green</source>
+        <translation>绿色</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>蓝色</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>红色</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>灰色</translation>
+    </message>
+</context>
+<context>
+    <name>HostStore</name>
+    <message>
+        <source>%1 is the store of an older client. It stays as it is; what it holds is not shown here.</source>
+        <translation>%1 是旧版客户端的数据库，将保持原样，其中的内容不在此显示。</translation>
+    </message>
+    <message>
+        <source>The local store %1 cannot be opened. Nothing of this session will be kept.</source>
+        <translation>无法打开本地数据库 %1。本次会话的内容不会保存。</translation>
+    </message>
+    <message>
+        <source>The local store %1 cannot be written to. Nothing of this session will be kept.</source>
+        <translation>无法写入本地数据库 %1。本次会话的内容不会保存。</translation>
+    </message>
+    <message>
+        <source>The local store %1 is in use by another program. Nothing of this session will be kept.</source>
+        <translation>本地数据库 %1 正被其他程序使用。本次会话的内容不会保存。</translation>
+    </message>
+    <message>
+        <source>The local store %1 is damaged and cannot be moved aside. Nothing of this session will be kept.</source>
+        <translation>本地数据库 %1 已损坏且无法移开。本次会话的内容不会保存。</translation>
+    </message>
+    <message>
+        <source>The local store was damaged. The file is kept as %1; a new one has been started.</source>
+        <translation>本地数据库已损坏。原文件保留为 %1，并已新建数据库。</translation>
+    </message>
+</context>
+<context>
+    <name>IncomingPrompt</name>
+    <message>
+        <source>Incoming call</source>
+        <translation>来电</translation>
+    </message>
+    <message>
+        <source>&amp;Reject</source>
+        <translation>拒绝(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>接听(&amp;A)</translation>
+    </message>
+    <message>
+        <source>invites you to a conference</source>
+        <translation>邀请您参加会议</translation>
+    </message>
+    <message>
+        <source>video call</source>
+        <translation>视频来电</translation>
+    </message>
+    <message>
+        <source>is calling you</source>
+        <translation>来电</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>KelvarIM demo</source>
+        <translation>KelvarIM 演示</translation>
+    </message>
+    <message>
+        <source>What client, plug-in and call process tell each other (Ctrl+Shift+H)</source>
+        <translation>客户端、插件和通话进程之间的往来 (Ctrl+Shift+H)</translation>
+    </message>
+    <message>
+        <source>Ring, language, colour and folders</source>
+        <translation>铃声、语言、颜色和文件夹</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>设置(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Sign in to calls, or out of them</source>
+        <translation>登录或退出通话</translation>
+    </message>
+    <message>
+        <source>%1 is calling</source>
+        <translation>%1 来电</translation>
+    </message>
+    <message>
+        <source>Call of %1 accepted</source>
+        <translation>已接听 %1 的来电</translation>
+    </message>
+    <message>
+        <source>Call of %1 rejected</source>
+        <translation>已拒绝 %1 的来电</translation>
+    </message>
+    <message>
+        <source>Calling %1</source>
+        <translation>正在呼叫 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Starting a conference with %n other(s)</source>
+        <translation>
+            <numerusform>正在发起与另外 %n 人的会议</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Online</source>
+        <translation>在线(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Offline</source>
+        <translation>离线(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Signed in as %1</source>
+        <translation>已登录：%1</translation>
+    </message>
+    <message>
+        <source>Signed out</source>
+        <translation>已退出登录</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2 after %3</source>
+        <translation>与 %1 的通话：%2，时长 %3</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2</source>
+        <translation>与 %1 的通话：%2</translation>
+    </message>
+</context>
+<context>
+    <name>MemberPicker</name>
+    <message>
+        <source>People</source>
+        <translation>人员</translation>
+    </message>
+    <message>
+        <source>Text passed on to the call process</source>
+        <translation>传给通话进程的文字</translation>
+    </message>
+    <message>
+        <source>Passed on to the call process</source>
+        <translation>传给通话进程</translation>
+    </message>
+    <message>
+        <source>Flag</source>
+        <translation>标志</translation>
+    </message>
+    <message>
+        <source>New conference</source>
+        <translation>新会议</translation>
+    </message>
+    <message>
+        <source>Invite to the conference</source>
+        <translation>邀请参加会议</translation>
+    </message>
+    <message>
+        <source>Already in the conference: %1</source>
+        <translation>已在会议中：%1</translation>
+    </message>
+    <message>
+        <source>Whom to call together?</source>
+        <translation>同时呼叫哪些人？</translation>
+    </message>
+    <message>
+        <source>Asked for a conference with: %1</source>
+        <translation>请求与以下人员开会：%1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Invite (%1)</source>
+        <translation>邀请 (%1)</translation>
+    </message>
+    <message>
+        <source>Invite</source>
+        <translation>邀请</translation>
+    </message>
+</context>
+<context>
+    <name>Presence</name>
+    <message>
+        <source>offline</source>
+        <translation>离线</translation>
+    </message>
+    <message>
+        <source>online</source>
+        <translation>在线</translation>
+    </message>
+    <message>
+        <source>away</source>
+        <translation>离开</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>忙碌</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>通话</translation>
+    </message>
+    <message>
+        <source>Keep the &amp;ring of incoming calls silent</source>
+        <translation>来电不响铃(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>&amp;Data</source>
+        <translation>数据(&amp;D)</translation>
+    </message>
+    <message>
+        <source>An empty field means the standard folder</source>
+        <translation>留空则使用默认文件夹</translation>
+    </message>
+    <message>
+        <source>Data folder</source>
+        <translation>数据文件夹</translation>
+    </message>
+    <message>
+        <source>Choose: Data folder</source>
+        <translation>选择：数据文件夹</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>浏览...</translation>
+    </message>
+    <message>
+        <source>Received &amp;files</source>
+        <translation>接收的文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Folder for received files</source>
+        <translation>接收文件的文件夹</translation>
+    </message>
+    <message>
+        <source>Choose: Folder for received files</source>
+        <translation>选择：接收文件的文件夹</translation>
+    </message>
+    <message>
+        <source>These settings are kept in</source>
+        <translation>这些设置保存在</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start; what is in the old folder stays there.</source>
+        <translation>下次启动时生效；旧文件夹中的内容保留在原处。</translation>
+    </message>
+    <message>
+        <source>Holds the settings, the conference records and the log of each user.</source>
+        <translation>存放每个用户的设置、会议记录和日志。</translation>
+    </message>
+    <message>
+        <source>This folder cannot be used: %1</source>
+        <translation>无法使用此文件夹：%1</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>选择文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>SignatureCard</name>
+    <message>
+        <source>(no signature)</source>
+        <translation>（没有签名）</translation>
     </message>
 </context>
 </TS>

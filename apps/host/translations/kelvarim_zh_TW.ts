@@ -2,6 +2,536 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW">
 <context>
+    <name>EventSentences</name>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>with picture</source>
+        <translation>視訊</translation>
+    </message>
+    <message>
+        <source>with sound only</source>
+        <translation>語音</translation>
+    </message>
+    <message>
+        <source>the client gives the plug-in the card of %1</source>
+        <translation>用戶端把 %1 的名片交給外掛</translation>
+    </message>
+    <message>
+        <source>the client tells the plug-in that the user is %1</source>
+        <translation>用戶端告知外掛：使用者%1</translation>
+    </message>
+    <message>
+        <source>signed in</source>
+        <translation>已登入</translation>
+    </message>
+    <message>
+        <source>signed out</source>
+        <translation>已登出</translation>
+    </message>
+    <message>
+        <source>the plug-in asks who %1 is: %2</source>
+        <translation>外掛詢問 %1 是誰：%2</translation>
+    </message>
+    <message>
+        <source>here is the record</source>
+        <translation>已給出資料</translation>
+    </message>
+    <message>
+        <source>there is no record</source>
+        <translation>沒有資料</translation>
+    </message>
+    <message>
+        <source>the plug-in asks for the cards of %1</source>
+        <translation>外掛請求 %1 的名片</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to show the signature card of %1 at %2, %3</source>
+        <translation>外掛請求在 %2, %3 處顯示 %1 的簽名卡</translation>
+    </message>
+    <message>
+        <source>the plug-in asks whether %1 is a contact: %2</source>
+        <translation>外掛詢問 %1 是否為聯絡人：%2</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to take away the prompt of the call with %1</source>
+        <translation>外掛請求撤下與 %1 通話的提示</translation>
+    </message>
+    <message>
+        <source>the client asks the plug-in to call %2 %1</source>
+        <translation>用戶端請外掛呼叫 %2（%1）</translation>
+    </message>
+    <message>
+        <source>the plug-in reports the end of the call with %2: %3; %4, %5, %6 s</source>
+        <translation>外掛報告與 %2 的通話結束：%3；%4，%5，%6 秒</translation>
+    </message>
+    <message>
+        <source>called by this side</source>
+        <translation>本方呼叫</translation>
+    </message>
+    <message>
+        <source>called by the other side</source>
+        <translation>對方呼叫</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>已接通</translation>
+    </message>
+    <message>
+        <source>never connected</source>
+        <translation>未接通</translation>
+    </message>
+    <message>
+        <source>the client asks whether there is a call: %1</source>
+        <translation>用戶端詢問是否有通話：%1</translation>
+    </message>
+    <message>
+        <source>the client asks whether the call has a picture: %1</source>
+        <translation>用戶端詢問是否為視訊通話：%1</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to hide the signature card</source>
+        <translation>外掛請求隱藏簽名卡</translation>
+    </message>
+    <message>
+        <source>the plug-in reports that %1 %2, %3</source>
+        <translation>外掛報告：%1 %2（%3）</translation>
+    </message>
+    <message>
+        <source>invites to a conference</source>
+        <translation>邀請加入會議</translation>
+    </message>
+    <message>
+        <source>calls</source>
+        <translation>來電</translation>
+    </message>
+    <message>
+        <source>the client tells the plug-in that the user %1 the call</source>
+        <translation>用戶端告知外掛：使用者%1來電</translation>
+    </message>
+    <message>
+        <source>takes</source>
+        <translation>接聽</translation>
+    </message>
+    <message>
+        <source>rejects</source>
+        <translation>拒絕</translation>
+    </message>
+    <message>
+        <source>the client asks the plug-in to start a conference with %1</source>
+        <translation>用戶端請外掛與 %1 開會</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to pick people for a conference, to begin with %1</source>
+        <translation>外掛請求為新會議選人，已有 %1</translation>
+    </message>
+    <message>
+        <source>the plug-in asks whom to add to the conference of %1: %2</source>
+        <translation>外掛詢問向 %1 的會議加入誰：%2</translation>
+    </message>
+    <message>
+        <source>the client asks for the conference centre</source>
+        <translation>用戶端請求顯示會議中心</translation>
+    </message>
+    <message>
+        <source>the client tells the plug-in that it quits</source>
+        <translation>用戶端告知外掛：即將結束</translation>
+    </message>
+    <message>
+        <source>a command that is not in the contract, with %1 bytes of payload</source>
+        <translation>約定之外的命令，資料 %1 位元組</translation>
+    </message>
+</context>
+<context>
+    <name>HappeningsModel</name>
+    <message>
+        <source>client → plug-in</source>
+        <translation>用戶端 → 外掛</translation>
+    </message>
+    <message>
+        <source>plug-in → client</source>
+        <translation>外掛 → 用戶端</translation>
+    </message>
+    <message>
+        <source>plug-in → call process</source>
+        <translation>外掛 → 通話程序</translation>
+    </message>
+    <message>
+        <source>call process → plug-in</source>
+        <translation>通話程序 → 外掛</translation>
+    </message>
+    <message>
+        <source>call process</source>
+        <translation>通話程序</translation>
+    </message>
+    <message>
+        <source>event</source>
+        <translation>事件</translation>
+    </message>
+    <message>
+        <source>wire</source>
+        <translation>線路</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>錯誤</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時間</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>類別</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>發生了什麼</translation>
+    </message>
+</context>
+<context>
+    <name>HappeningsPanel</name>
+    <message>
+        <source>What happens</source>
+        <translation>即時動態</translation>
+    </message>
+    <message>
+        <source>Let new lines wait until this is pressed again</source>
+        <translation>新記錄先等待，再按一次才顯示</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暫停</translation>
+    </message>
+    <message>
+        <source>Copy the selected lines, or all that are shown when none is selected</source>
+        <translation>複製選取的記錄；未選取時複製顯示的全部記錄</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Take all lines away</source>
+        <translation>清除全部記錄</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>篩選</translation>
+    </message>
+    <message>
+        <source>Show only lines with this text</source>
+        <translation>只顯示包含此文字的記錄</translation>
+    </message>
+    <message>
+        <source>Events between client and plug-in</source>
+        <translation>用戶端與外掛之間的事件</translation>
+    </message>
+    <message>
+        <source>Show events</source>
+        <translation>顯示事件</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>事件</translation>
+    </message>
+    <message>
+        <source>Lines between plug-in and call process</source>
+        <translation>外掛與通話程序之間的線路記錄</translation>
+    </message>
+    <message>
+        <source>Show wire lines</source>
+        <translation>顯示線路記錄</translation>
+    </message>
+    <message>
+        <source>Wire lines</source>
+        <translation>線路</translation>
+    </message>
+    <message>
+        <source>Whatever does not follow the contract</source>
+        <translation>一切不合約定的內容</translation>
+    </message>
+    <message>
+        <source>Show errors</source>
+        <translation>顯示錯誤</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>錯誤</translation>
+    </message>
+    <message>
+        <source>Keep the newest line in sight</source>
+        <translation>始終顯示最新記錄</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>跟隨</translation>
+    </message>
+    <message>
+        <source>Lines of what happens</source>
+        <translation>即時動態記錄</translation>
+    </message>
+    <message>
+        <source>The line in full</source>
+        <translation>完整記錄</translation>
+    </message>
+    <message>
+        <source>Choose a line to read it in full</source>
+        <translation>選擇一條記錄以檢視全文</translation>
+    </message>
+    <message>
+        <source>Copy all lines shown</source>
+        <translation>複製顯示的全部記錄</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 條</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines</source>
+        <translation>%2 條中的 %1 條</translation>
+    </message>
+    <message>
+        <source>paused, %1 waiting</source>
+        <translation>已暫停，%1 條等待</translation>
+    </message>
+    <message>
+        <source>the oldest %1 were dropped</source>
+        <translation>已捨棄最早的 %1 條</translation>
+    </message>
+</context>
+<context>
+    <name>Sentence</name>
+    <message>
+        <source>nobody</source>
+        <translation>無人</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+</context>
+<context>
+    <name>ShownText</name>
+    <message>
+        <source>(%1 in all)</source>
+        <translation>（共 %1）</translation>
+    </message>
+</context>
+<context>
+    <name>WireWords</name>
+    <message>
+        <source>on</source>
+        <translation>開啟</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>the plug-in registers %1 (%2) at the call process</source>
+        <translation>外掛在通話程序註冊 %1（%2）</translation>
+    </message>
+    <message>
+        <source>the plug-in takes the registration of %1 back</source>
+        <translation>外掛登出 %1</translation>
+    </message>
+    <message>
+        <source>the plug-in asks the call process to call %1 %2</source>
+        <translation>外掛請通話程序呼叫 %1（%2）</translation>
+    </message>
+    <message>
+        <source>with picture</source>
+        <translation>視訊</translation>
+    </message>
+    <message>
+        <source>with sound only</source>
+        <translation>語音</translation>
+    </message>
+    <message>
+        <source>the plug-in asks the call process for a conference of %1 with %2</source>
+        <translation>外掛請通話程序為 %1 召開會議，成員 %2</translation>
+    </message>
+    <message>
+        <source>the plug-in asks to add %1 to the conference of %6</source>
+        <translation>外掛請求把 %1 加入 %6 的會議</translation>
+    </message>
+    <message>
+        <source>the plug-in takes the call</source>
+        <translation>外掛接聽來電</translation>
+    </message>
+    <message>
+        <source>the plug-in joins the conference</source>
+        <translation>外掛加入會議</translation>
+    </message>
+    <message>
+        <source>the plug-in rejects the call</source>
+        <translation>外掛拒絕來電</translation>
+    </message>
+    <message>
+        <source>the plug-in rejects the conference</source>
+        <translation>外掛拒絕會議</translation>
+    </message>
+    <message>
+        <source>the plug-in hangs up</source>
+        <translation>外掛掛斷</translation>
+    </message>
+    <message>
+        <source>the plug-in leaves the conference</source>
+        <translation>外掛退出會議</translation>
+    </message>
+    <message>
+        <source>the plug-in moderates the conference: %1, %2</source>
+        <translation>外掛主持會議：%1，%2</translation>
+    </message>
+    <message>
+        <source>the plug-in turns the microphone %1</source>
+        <translation>外掛%1麥克風</translation>
+    </message>
+    <message>
+        <source>the plug-in turns the speaker %1</source>
+        <translation>外掛%1喇叭</translation>
+    </message>
+    <message>
+        <source>the plug-in turns the camera %1</source>
+        <translation>外掛%1攝影機</translation>
+    </message>
+    <message>
+        <source>the plug-in sets the microphone to volume %1</source>
+        <translation>外掛把麥克風音量設為 %1</translation>
+    </message>
+    <message>
+        <source>the plug-in sets the speaker to volume %1</source>
+        <translation>外掛把喇叭音量設為 %1</translation>
+    </message>
+    <message>
+        <source>the plug-in tells the call process to quit</source>
+        <translation>外掛讓通話程序結束</translation>
+    </message>
+    <message>
+        <source>call process: %1 is calling</source>
+        <translation>通話程序：%1 來電</translation>
+    </message>
+    <message>
+        <source>call process: %1 invites to a conference, connected: %2</source>
+        <translation>通話程序：%1 邀請加入會議，已接通 %2</translation>
+    </message>
+    <message>
+        <source>call process: the call is to be rejected</source>
+        <translation>通話程序：應拒絕該來電</translation>
+    </message>
+    <message>
+        <source>call process: the caller has given up</source>
+        <translation>通話程序：呼叫方已取消</translation>
+    </message>
+    <message>
+        <source>call process: %1 has rejected</source>
+        <translation>通話程序：%1 已拒絕</translation>
+    </message>
+    <message>
+        <source>call process: a notification that leads to nothing, content %1</source>
+        <translation>通話程序：不引起任何動作的通知，內容 %1</translation>
+    </message>
+    <message>
+        <source>call process: the call has ended</source>
+        <translation>通話程序：通話已結束</translation>
+    </message>
+    <message>
+        <source>call process: the far end has hung up</source>
+        <translation>通話程序：對方已掛斷</translation>
+    </message>
+    <message>
+        <source>call process: the far end has rejected</source>
+        <translation>通話程序：對方已拒絕</translation>
+    </message>
+    <message>
+        <source>call process: connected in the conference are %2</source>
+        <translation>通話程序：會議中已接通 %2</translation>
+    </message>
+    <message>
+        <source>call process: %1 has left the conference, connected are %2</source>
+        <translation>通話程序：%1 已離開會議，已接通 %2</translation>
+    </message>
+    <message>
+        <source>call process: its flag is %1</source>
+        <translation>通話程序：旗標為 %1</translation>
+    </message>
+    <message>
+        <source>call process: the far end has answered</source>
+        <translation>通話程序：對方已接聽</translation>
+    </message>
+    <message>
+        <source>call process: the call has failed</source>
+        <translation>通話程序：呼叫失敗</translation>
+    </message>
+    <message>
+        <source>call process: the conference is made, its id is %1</source>
+        <translation>通話程序：會議已建立，編號 %1</translation>
+    </message>
+    <message>
+        <source>call process: people were added, not reached: %1</source>
+        <translation>通話程序：已加入成員，未能聯絡 %1</translation>
+    </message>
+    <message>
+        <source>call process: the far end is busy</source>
+        <translation>通話程序：對方忙線中</translation>
+    </message>
+    <message>
+        <source>call process: %1 has rejected the conference</source>
+        <translation>通話程序：%1 已拒絕會議</translation>
+    </message>
+    <message>
+        <source>call process logs: %1</source>
+        <translation>通話程序日誌：%1</translation>
+    </message>
+    <message>
+        <source>call process: the conference could not be made</source>
+        <translation>通話程序：會議未能建立</translation>
+    </message>
+    <message>
+        <source>call process notes: %1</source>
+        <translation>通話程序記錄：%1</translation>
+    </message>
+    <message>
+        <source>call process complains: %1</source>
+        <translation>通話程序報錯：%1</translation>
+    </message>
+    <message>
+        <source>a line of %1 bytes, too long to be decoded: %2</source>
+        <translation>%1 位元組的一行，過長而未解讀：%2</translation>
+    </message>
+    <message>
+        <source>no line of the protocol: %1</source>
+        <translation>不合協定的一行：%1</translation>
+    </message>
+    <message>
+        <source>the plug-in sends an unknown command: %1</source>
+        <translation>外掛送出未知命令：%1</translation>
+    </message>
+    <message>
+        <source>call process: an unknown notification, content %1</source>
+        <translation>通話程序：未知通知，內容 %1</translation>
+    </message>
+    <message>
+        <source>call process: a document that cannot be read: %1</source>
+        <translation>通話程序：無法讀取的文件：%1</translation>
+    </message>
+</context>
+<context>
     <name>CUrlInfo</name>
     <message>
         <source>000000</source>
@@ -193,6 +723,478 @@
     <message>
         <source>enternothandle</source>
         <translation>未處理的訊息</translation>
+    </message>
+</context>
+<context>
+    <name>CallRecord</name>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>hung up</source>
+        <translation>已掛斷</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>忙線</translation>
+    </message>
+    <message>
+        <source>rejected</source>
+        <translation>已拒絕</translation>
+    </message>
+</context>
+<context>
+    <name>CallRecordModel</name>
+    <message>
+        <source>outgoing video</source>
+        <translation>撥出視訊</translation>
+    </message>
+    <message>
+        <source>incoming video</source>
+        <translation>撥入視訊</translation>
+    </message>
+    <message>
+        <source>outgoing</source>
+        <translation>撥出</translation>
+    </message>
+    <message>
+        <source>incoming</source>
+        <translation>撥入</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Who</source>
+        <translation>聯絡人</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>呼叫</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>接通</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>時長</translation>
+    </message>
+    <message>
+        <source>Ended at</source>
+        <translation>結束時間</translation>
+    </message>
+</context>
+<context>
+    <name>CallsPane</name>
+    <message>
+        <source>Calls</source>
+        <translation>通話記錄</translation>
+    </message>
+    <message>
+        <source>Past conferences: look at them, call them again, delete them</source>
+        <translation>以往的會議：檢視、再次呼叫、刪除</translation>
+    </message>
+    <message>
+        <source>Conference ce&amp;ntre</source>
+        <translation>會議中心(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Double click or Enter calls again</source>
+        <translation>按兩下或按 Enter 鍵再次呼叫</translation>
+    </message>
+    <message>
+        <source>Enter calls again</source>
+        <translation>按 Enter 鍵再次呼叫</translation>
+    </message>
+    <message>
+        <source>No calls yet</source>
+        <translation>還沒有通話</translation>
+    </message>
+</context>
+<context>
+    <name>ContactPane</name>
+    <message>
+        <source>Contacts</source>
+        <translation>聯絡人</translation>
+    </message>
+    <message>
+        <source>Search the contacts (Ctrl+F)</source>
+        <translation>搜尋聯絡人 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search the contacts</source>
+        <translation>搜尋聯絡人</translation>
+    </message>
+    <message>
+        <source>Search by name, number or initials</source>
+        <translation>以姓名、號碼或拼音首字母搜尋</translation>
+    </message>
+    <message>
+        <source>No contact matches</source>
+        <translation>沒有符合的聯絡人</translation>
+    </message>
+    <message>
+        <source>Number to call</source>
+        <translation>要撥打的號碼</translation>
+    </message>
+    <message>
+        <source>Call another number</source>
+        <translation>撥打其他號碼</translation>
+    </message>
+    <message>
+        <source>&amp;Call</source>
+        <translation>呼叫(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Call several people together</source>
+        <translation>同時呼叫多人</translation>
+    </message>
+    <message>
+        <source>Con&amp;ference...</source>
+        <translation>會議(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>清除搜尋</translation>
+    </message>
+</context>
+<context>
+    <name>ContactRow</name>
+    <message>
+        <source>not a contact</source>
+        <translation>非聯絡人</translation>
+    </message>
+    <message>
+        <source>Call %1</source>
+        <translation>呼叫 %1</translation>
+    </message>
+    <message>
+        <source>Call %1 by video</source>
+        <translation>視訊呼叫 %1</translation>
+    </message>
+</context>
+<context>
+    <name>HostSession</name>
+    <message>
+        <source>not a plug-in of this client</source>
+        <translation>不是本用戶端的外掛程式</translation>
+    </message>
+</context>
+<context>
+    <name>HostSkins</name>
+    <message>
+        <source>Green</source>
+        <translation>綠色</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>藍色</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>紅色</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>灰色</translation>
+    </message>
+</context>
+<context>
+    <name>HostStore</name>
+    <message>
+        <source>%1 is the store of an older client. It stays as it is; what it holds is not shown here.</source>
+        <translation>%1 是舊版用戶端的資料庫，將保持原樣，其中的內容不在此顯示。</translation>
+    </message>
+    <message>
+        <source>The local store %1 cannot be opened. Nothing of this session will be kept.</source>
+        <translation>無法開啟本機資料庫 %1。本次工作階段的內容不會儲存。</translation>
+    </message>
+    <message>
+        <source>The local store %1 cannot be written to. Nothing of this session will be kept.</source>
+        <translation>無法寫入本機資料庫 %1。本次工作階段的內容不會儲存。</translation>
+    </message>
+    <message>
+        <source>The local store %1 is in use by another program. Nothing of this session will be kept.</source>
+        <translation>本機資料庫 %1 正由其他程式使用。本次工作階段的內容不會儲存。</translation>
+    </message>
+    <message>
+        <source>The local store %1 is damaged and cannot be moved aside. Nothing of this session will be kept.</source>
+        <translation>本機資料庫 %1 已損毀且無法移開。本次工作階段的內容不會儲存。</translation>
+    </message>
+    <message>
+        <source>The local store was damaged. The file is kept as %1; a new one has been started.</source>
+        <translation>本機資料庫已損毀。原檔案保留為 %1，並已新建資料庫。</translation>
+    </message>
+</context>
+<context>
+    <name>IncomingPrompt</name>
+    <message>
+        <source>Incoming call</source>
+        <translation>來電</translation>
+    </message>
+    <message>
+        <source>&amp;Reject</source>
+        <translation>拒絕(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>接聽(&amp;A)</translation>
+    </message>
+    <message>
+        <source>invites you to a conference</source>
+        <translation>邀請您參加會議</translation>
+    </message>
+    <message>
+        <source>video call</source>
+        <translation>視訊來電</translation>
+    </message>
+    <message>
+        <source>is calling you</source>
+        <translation>來電</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>KelvarIM demo</source>
+        <translation>KelvarIM 示範</translation>
+    </message>
+    <message>
+        <source>What client, plug-in and call process tell each other (Ctrl+Shift+H)</source>
+        <translation>用戶端、外掛和通話程序之間的往來 (Ctrl+Shift+H)</translation>
+    </message>
+    <message>
+        <source>Ring, language, colour and folders</source>
+        <translation>鈴聲、語言、色彩和資料夾</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>設定(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Sign in to calls, or out of them</source>
+        <translation>登入或登出通話</translation>
+    </message>
+    <message>
+        <source>%1 is calling</source>
+        <translation>%1 來電</translation>
+    </message>
+    <message>
+        <source>Call of %1 accepted</source>
+        <translation>已接聽 %1 的來電</translation>
+    </message>
+    <message>
+        <source>Call of %1 rejected</source>
+        <translation>已拒絕 %1 的來電</translation>
+    </message>
+    <message>
+        <source>Calling %1</source>
+        <translation>正在呼叫 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Starting a conference with %n other(s)</source>
+        <translation>
+            <numerusform>正在發起與另外 %n 人的會議</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Online</source>
+        <translation>線上(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Offline</source>
+        <translation>離線(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Signed in as %1</source>
+        <translation>已登入：%1</translation>
+    </message>
+    <message>
+        <source>Signed out</source>
+        <translation>已登出</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2 after %3</source>
+        <translation>與 %1 的通話：%2，時長 %3</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2</source>
+        <translation>與 %1 的通話：%2</translation>
+    </message>
+</context>
+<context>
+    <name>MemberPicker</name>
+    <message>
+        <source>People</source>
+        <translation>人員</translation>
+    </message>
+    <message>
+        <source>Text passed on to the call process</source>
+        <translation>傳給通話處理程序的文字</translation>
+    </message>
+    <message>
+        <source>Passed on to the call process</source>
+        <translation>傳給通話處理程序</translation>
+    </message>
+    <message>
+        <source>Flag</source>
+        <translation>旗標</translation>
+    </message>
+    <message>
+        <source>New conference</source>
+        <translation>新會議</translation>
+    </message>
+    <message>
+        <source>Invite to the conference</source>
+        <translation>邀請參加會議</translation>
+    </message>
+    <message>
+        <source>Already in the conference: %1</source>
+        <translation>已在會議中：%1</translation>
+    </message>
+    <message>
+        <source>Whom to call together?</source>
+        <translation>同時呼叫哪些人？</translation>
+    </message>
+    <message>
+        <source>Asked for a conference with: %1</source>
+        <translation>請求與以下人員開會：%1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Invite (%1)</source>
+        <translation>邀請 (%1)</translation>
+    </message>
+    <message>
+        <source>Invite</source>
+        <translation>邀請</translation>
+    </message>
+</context>
+<context>
+    <name>Presence</name>
+    <message>
+        <source>offline</source>
+        <translation>離線</translation>
+    </message>
+    <message>
+        <source>online</source>
+        <translation>線上</translation>
+    </message>
+    <message>
+        <source>away</source>
+        <translation>離開</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>忙碌</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>通話</translation>
+    </message>
+    <message>
+        <source>Keep the &amp;ring of incoming calls silent</source>
+        <translation>來電不響鈴(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>語言</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>色彩</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>資料夾</translation>
+    </message>
+    <message>
+        <source>&amp;Data</source>
+        <translation>資料(&amp;D)</translation>
+    </message>
+    <message>
+        <source>An empty field means the standard folder</source>
+        <translation>留空則使用預設資料夾</translation>
+    </message>
+    <message>
+        <source>Data folder</source>
+        <translation>資料儲存資料夾</translation>
+    </message>
+    <message>
+        <source>Choose: Data folder</source>
+        <translation>選擇：資料儲存資料夾</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>瀏覽...</translation>
+    </message>
+    <message>
+        <source>Received &amp;files</source>
+        <translation>接收的檔案(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Folder for received files</source>
+        <translation>接收檔案的資料夾</translation>
+    </message>
+    <message>
+        <source>Choose: Folder for received files</source>
+        <translation>選擇：接收檔案的資料夾</translation>
+    </message>
+    <message>
+        <source>These settings are kept in</source>
+        <translation>這些設定儲存在</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>關閉(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start; what is in the old folder stays there.</source>
+        <translation>下次啟動時生效；舊資料夾中的內容保留在原處。</translation>
+    </message>
+    <message>
+        <source>Holds the settings, the conference records and the log of each user.</source>
+        <translation>存放每位使用者的設定、會議記錄和日誌。</translation>
+    </message>
+    <message>
+        <source>This folder cannot be used: %1</source>
+        <translation>無法使用此資料夾：%1</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>選擇資料夾</translation>
+    </message>
+</context>
+<context>
+    <name>SignatureCard</name>
+    <message>
+        <source>(no signature)</source>
+        <translation>（沒有簽名）</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+/// The user's settings as this client writes them: to the INI files that the plug-in and the common code read, and
+/// nowhere else. What the plug-in reads from the shared context follows at once, but for the data folder, in which
+/// files are open. To be used after the user's settings have been read (`SystemSetData::initData`). GUI thread.
+class HostSettings : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// The file of the signed-in user's settings.
+    static QString userFile();
+    /// The file of the settings that all users of this computer share.
+    static QString commonFile();
+
+    /// Whether the ring of an incoming call is kept silent.
+    static bool isSilent();
+    static void setSilent(bool bSilent);
+
+    /// The root of all users' folders from the next start on.
+    static QString dataFolder();
+    /// Sets it; the empty text means the default one. False, and nothing is changed, for a folder that cannot be used:
+    /// no absolute path, or one that cannot be made or written to.
+    static bool setDataFolder(const QString &strFolder);
+    /// Whether dataFolder() is another one than the folder in use.
+    static bool isDataFolderPending();
+
+    /// The folder for received files.
+    static QString receiveFolder();
+    /// Sets it, as setDataFolder does.
+    static bool setReceiveFolder(const QString &strFolder);
+
+    /// The language in the settings. At the very first start there is none, and one is chosen and written.
+    static QString language();
+    void setLanguage(const QString &strLanguage);
+
+    /// The name of the skin in the settings; the standard one where they name none that there is.
+    static QString skin();
+    /// Makes it the current skin of the shared context, for the plug-in's windows too.
+    void setSkin(const QString &strName);
+
+signals:
+    void languageChanged(const QString &strLanguage);
+    void skinChanged();
+};

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+class HostSettings;
+class QLineEdit;
+
+namespace Ui {
+class SettingsPage;
+}
+
+/// The window of the settings that the calls and the client's common code read: ring, language, colour, folders. Each
+/// change is written at once and takes effect at once, but for the data folder, of which the page says so. Not modal.
+/// GUI thread; the settings must outlive it.
+class SettingsPage : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit SettingsPage(HostSettings &settings, QWidget *parent = nullptr);
+    ~SettingsPage() override;
+
+    /// Shows the settings as they stand in the files, in front of the other windows.
+    void open() override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    using FolderSetter = bool (*)(const QString &);
+
+    void addLanguages();
+    void addSkins();
+    void orderTabs();
+    void connectFolders();
+    void nameSkins();
+    void showSettings();
+    void takeFolder(const QLineEdit *edit, const QString &strBefore, FolderSetter set);
+    void browse(QLineEdit *edit);
+
+    std::unique_ptr<Ui::SettingsPage> ui;
+    HostSettings &m_settings;
+};

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <QTemporaryDir>
+
+/// Sees to it that the call process, which inherits this process's environment, writes its trace where it can be
+/// followed: a place that is named in the environment stays, else it is a temporary folder that goes with this object.
+class TraceFolder
+{
+public:
+    TraceFolder();
+
+    /// The file that the environment names; empty when there is none to follow.
+    static QString file();
+
+private:
+    QTemporaryDir m_folder;
+};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Sentence.h"
+#include "WireTrace.h"
+
+#include <QString>
+#include <QStringList>
+
+class SecretMask;
+
+/// Says in a sentence what a line between plug-in and call process means, by one table of commands and one of
+/// notifications. Lines come from outside: whatever does not follow the protocol is said to be so. No state.
+class WireWords
+{
+public:
+    /// What a line says.
+    struct Said
+    {
+        Sentence sentence;
+        bool bad = false; ///< the line does not follow the protocol, or is a complaint of the call process
+    };
+
+    /// The sentence of one line of the trace, with its secrets masked. A line that was cut is not decoded.
+    static Said say(const WireLine &line, const SecretMask &mask);
+
+    /// The lines of the protocol in a text of the trace, which holds all that was written at once: as it stands when it
+    /// is one line, else cut at the pictures of the line feeds.
+    static QStringList split(const QString &strText);
+
+    /// The registration value in the line of a command; empty when there is none.
+    static QString secretOf(const QString &strText);
+
+    /// Whether the tables have the command or the notification.
+    static bool hasCommand(const QString &strName);
+    static bool hasNotification(int iCode);
+    /// Number of rows.
+    static int commandCount();
+    static int notificationCount();
+};
