@@ -328,14 +328,14 @@ void tst_SettingsPage::unknownSkinChangesNothing()
 void tst_SettingsPage::tabGoesDownThePage()
 {
     SettingsPage &page = m_pWindow->settingsPage();
-    part<QRadioButton>("language_en")->setChecked(true);
     part<QCheckBox>("boxSilent")->setFocus();
     QStringList stops;
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 12; ++i) {
         QTest::keyClick(page.focusWidget(), Qt::Key_Tab);
         stops.append(page.focusWidget()->objectName());
     }
-    QCOMPARE(stops, (QStringList{"language_en", "skin_ThemeGreen", "editDataFolder", "btnDataFolder",
+    QCOMPARE(stops, (QStringList{"language_zh_CN", "language_zh_TW", "language_en", "skin_ThemeGreen", "skin_ThemeBlue",
+                                 "skin_ThemeRed", "skin_ThemeGrey", "editDataFolder", "btnDataFolder",
                                  "editReceiveFolder", "btnReceiveFolder", "btnClose"}));
 }
 
