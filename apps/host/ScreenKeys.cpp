@@ -50,7 +50,8 @@ void ScreenKeys::press(unsigned char code)
     for (const std::uint8_t type : {std::uint8_t(XCB_KEY_PRESS), std::uint8_t(XCB_KEY_RELEASE)}) {
         xcb_test_fake_input(m_pConnection, type, code, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
     }
-    xcb_flush(m_pConnection);
+    // An answer tells that the keys have arrived: a connection that ends before may take them along.
+    std::free(xcb_get_input_focus_reply(m_pConnection, xcb_get_input_focus(m_pConnection), nullptr));
 }
 
 bool ScreenKeys::type(const QString &strText)
