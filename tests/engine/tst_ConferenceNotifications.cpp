@@ -25,6 +25,7 @@ class tst_ConferenceNotifications : public QObject
 
 private slots:
     void invitationSetsTheConference();
+    void invitationRingsBeforeThePrompt();
     void invitationThatIsRefusedLeavesItsFlags_data();
     void invitationThatIsRefusedLeavesItsFlags();
     void callAfterARefusedInvitationGoesOnAsAConference();
@@ -80,6 +81,25 @@ void tst_ConferenceNotifications::invitationSetsTheConference()
     QVERIFY(!f.manager->m_pVoipWidget->isVisible());
     f.manager->m_pVoipWidget->addConferenceMember("anna");
     QCOMPARE(f.members(), QStringList{"anna 0*"});
+}
+
+void tst_ConferenceNotifications::invitationRingsBeforeThePrompt()
+{
+    EngineFixture f;
+    QString stateMeanwhile;
+    QStringList membersMeanwhile;
+    f.whileHandled = [&](BaseEvent &event) {
+        if (event.msgId != MSG_RECEVIE_VOIP_CALL)
+            return;
+        stateMeanwhile = f.state();
+        f.manager->m_pVoipWidget->addConferenceMember("anna");
+        membersMeanwhile = f.members();
+    };
+    f.notify(2, document(R"("from":"anna","confId":"c1")"));
+    // The window knows the creator by then; the timer runs from the prompt's end.
+    QCOMPARE(stateMeanwhile, QString("incoming anna, ring"));
+    QCOMPARE(membersMeanwhile, QStringList{"anna 0*"});
+    QCOMPARE(f.state(), QString("incoming anna, receive, ring"));
 }
 
 void tst_ConferenceNotifications::invitationThatIsRefusedLeavesItsFlags_data()
