@@ -24,6 +24,7 @@ class tst_CallEnd : public QObject
 
 private slots:
     void hangUpWithoutACallOnlyStopsTheRing();
+    void endWithoutACallStopsRingAndTimers();
     void everyEndHasItsResult_data();
     void everyEndHasItsResult();
     void recordSaysWhoCalledAndHowLong_data();
@@ -48,6 +49,19 @@ void tst_CallEnd::hangUpWithoutACallOnlyStopsTheRing()
     QCOMPARE(f.state(), QString("idle"));
     QCOMPARE(f.takeJournal(), QStringList());
     QVERIFY(f.manager->m_pVoipWidget->isVisible());
+}
+
+void tst_CallEnd::endWithoutACallStopsRingAndTimers()
+{
+    EngineFixture f;
+    // A call of nobody is none, but it rings.
+    f.notify(0, "");
+    f.manager->m_inviteTimer.start(60000);
+    QCOMPARE(f.state(), QString("idle, invite, receive, ring"));
+    f.takeJournal();
+    f.notify(4);
+    QCOMPARE(f.state(), QString("idle"));
+    QCOMPARE(f.takeJournal(), QStringList());
 }
 
 void tst_CallEnd::everyEndHasItsResult_data()

@@ -4,7 +4,10 @@
 #include "fakes/EngineFixture.h"
 #include "fakes/QtMessages.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QFile>
+#include <QPointer>
 #include <QProcess>
 #include <QTest>
 
@@ -34,8 +37,12 @@ void tst_CallProcessStart::processObjectHoldsNoChild()
     QVERIFY(f.manager->m_pVoipProcess);
     QVERIFY(!f.manager->m_pVoipProcess->parent());
     QCOMPARE(f.manager->m_pVoipProcess->state(), QProcess::NotRunning);
+    const QPointer<QProcess> process = f.manager->m_pVoipProcess;
     f.manager->exitVoip();
     QVERIFY(!f.manager->m_pVoipProcess);
+    QVERIFY(process);
+    QCoreApplication::sendPostedEvents(process, QEvent::DeferredDelete);
+    QVERIFY(!process);
 }
 
 QTEST_MAIN(tst_CallProcessStart)

@@ -71,6 +71,7 @@ private slots:
     void openingShowsTheStoresRecords();
     void openingTwiceKeepsTheWindow();
     void minimisedCentreComesBack();
+    void openedCentreIsTheActiveWindow();
     void endedConferenceComesOnTop();
     void rejectedInvitationComesOnTopToo();
     void conferenceWithoutAnIdIsNotShown();
@@ -118,6 +119,18 @@ void tst_ConferenceCentre::minimisedCentreComesBack()
     f.manager->m_pVoiceConfWidget->hide();
     f.manager->showVoiceConf();
     QVERIFY(f.manager->m_pVoiceConfWidget->isVisible());
+}
+
+void tst_ConferenceCentre::openedCentreIsTheActiveWindow()
+{
+    RecordedEngine f;
+    open(f);
+    QVERIFY(QTest::qWaitForWindowActive(f.manager->m_pVoiceConfWidget));
+    QWidget other;
+    other.show();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    f.manager->showVoiceConf();
+    QVERIFY(QTest::qWaitForWindowActive(f.manager->m_pVoiceConfWidget));
 }
 
 void tst_ConferenceCentre::endedConferenceComesOnTop()

@@ -116,6 +116,7 @@ void tst_ConferenceDocument::createTimeIsCutToSixtyFourBits_data()
     QTest::newRow("whole") << "1600000000123" << Q_INT64_C(1600000000123);
     QTest::newRow("with an exponent") << "1.6e12" << Q_INT64_C(1600000000000);
     QTest::newRow("fraction is cut off") << "1600000000123.9" << Q_INT64_C(1600000000123);
+    QTest::newRow("read as a double") << "9007199254740993" << Q_INT64_C(9007199254740992);
     QTest::newRow("negative") << "-5" << Q_INT64_C(-5);
     QTest::newRow("negative fraction is cut towards zero") << "-5.9" << Q_INT64_C(-5);
     QTest::newRow("just above 64 bits") << "9223372036854775808" << kMost;

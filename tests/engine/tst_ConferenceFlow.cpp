@@ -23,6 +23,7 @@ private slots:
     void startedConferenceShowsTheWindow();
     void startAsksForTheCardsOfStrangers_data();
     void startAsksForTheCardsOfStrangers();
+    void startIsSentAndShownBehindTheQueries();
     void startIsRefusedLikeACall_data();
     void startIsRefusedLikeACall();
     void startIsRefusedInAConferenceOfOnesOwn();
@@ -31,6 +32,7 @@ private slots:
 
     void acceptedInvitationShowsTheMembers();
     void acceptedInvitationWithoutMembersShowsAnEmptyList();
+    void ownIdIsLeftOutOnceOnly();
     void membersComeAfterTheAccept();
     void rejectedInvitationSendsRejectConf();
     void anyoneHangingUpEndsItForThisSide_data();
@@ -38,6 +40,7 @@ private slots:
 
     void addingPeople_data();
     void addingPeople();
+    void addedPeopleAreMembersBeforeTheHostIsAsked();
     void pickerGetsTheOthersAndIsReadAgainstTheListAsItIs();
     void emptyAnswerOfThePickerDoesNothing();
     void addingOutsideAConferenceSendsNothing();
@@ -155,6 +158,28 @@ void tst_ConferenceFlow::startAsksForTheCardsOfStrangers()
     QCOMPARE(f.host.received(MSG_IS_EXIST_FRIEND).size(), users.size());
 }
 
+void tst_ConferenceFlow::startIsSentAndShownBehindTheQueries()
+{
+    EngineFixture f;
+    f.manager->m_strUserId = "me";
+    QString callMeanwhile;
+    QStringList linesMeanwhile{"not asked"};
+    bool shownMeanwhile = true;
+    f.whileHandled = [&](BaseEvent &event) {
+        if (event.msgId != MSG_IS_EXIST_FRIEND)
+            return;
+        callMeanwhile = f.callText();
+        linesMeanwhile = f.takeLines();
+        shownMeanwhile = f.manager->m_pVoipWidget->isVisible() || f.manager->m_inviteTimer.isActive();
+    };
+    f.manager->callConference({"anna", "bert"}, false, "");
+    // The list is still the host's: the own id comes behind the queries.
+    QCOMPARE(callMeanwhile, QString("1|0|1|0|anna+bert|||||"));
+    QCOMPARE(linesMeanwhile, QStringList());
+    QVERIFY(!shownMeanwhile);
+    QCOMPARE(f.callText(), QString("1|0|1|0|anna+bert+me|||||"));
+}
+
 void tst_ConferenceFlow::startIsRefusedLikeACall_data()
 {
     QTest::addColumn<bool>("channel");
@@ -251,6 +276,17 @@ void tst_ConferenceFlow::acceptedInvitationWithoutMembersShowsAnEmptyList()
     QVERIFY(f.manager->m_pVoipWidget->isVisible());
 }
 
+void tst_ConferenceFlow::ownIdIsLeftOutOnceOnly()
+{
+    EngineFixture f;
+    beInvited(f);
+    f.manager->m_callData.memberList = QStringList{"me", "anna", "me"};
+    f.manager->responseVoipRequest(true);
+    QCOMPARE(f.members(), QStringList({"anna 0*", "me 0"}));
+    f.manager->slot_AddConfMember();
+    QCOMPARE(f.host.received(MSG_ADD_CONFERENCE_MEMBER).constFirst().reader().takeTexts(), QStringList({"anna", "me"}));
+}
+
 void tst_ConferenceFlow::membersComeAfterTheAccept()
 {
     EngineFixture f;
@@ -336,6 +372,24 @@ void tst_ConferenceFlow::addingPeople()
     EngineFixture::deliverPosted();
     QCOMPARE(f.host.received(MSG_GET_STRANGER_SMALL_VCARD).size(), 1);
     QCOMPARE(f.host.received(MSG_IS_EXIST_FRIEND).size(), users.size());
+}
+
+void tst_ConferenceFlow::addedPeopleAreMembersBeforeTheHostIsAsked()
+{
+    EngineFixture f;
+    create(f);
+    QStringList memberListMeanwhile;
+    QStringList membersMeanwhile;
+    f.whileHandled = [&](BaseEvent &event) {
+        if (event.msgId != MSG_IS_EXIST_FRIEND)
+            return;
+        memberListMeanwhile = f.manager->m_callData.memberList;
+        membersMeanwhile = f.members();
+    };
+    f.manager->addConferenceMember({"carl"});
+    QCOMPARE(memberListMeanwhile, QStringList({"anna", "bert", "me", "carl"}));
+    // The window follows behind the queries.
+    QCOMPARE(membersMeanwhile, QStringList({"anna 0", "bert 0"}));
 }
 
 void tst_ConferenceFlow::pickerGetsTheOthersAndIsReadAgainstTheListAsItIs()

@@ -25,6 +25,7 @@ class tst_ConferenceNotifications : public QObject
 
 private slots:
     void invitationSetsTheConference();
+    void invitationRingsBeforeThePrompt();
     void invitationThatIsRefusedLeavesItsFlags_data();
     void invitationThatIsRefusedLeavesItsFlags();
     void callAfterARefusedInvitationGoesOnAsAConference();
@@ -43,6 +44,7 @@ private slots:
     void updateOfAnotherConferenceIsIgnored();
     void updateInIdleHasItsEffects();
     void updateSeesMembersThatCameWhileTheHostAnswered();
+    void updateAsksTheHostBetweenTheMembersAndTheConnected();
     void leavingMarksTheMemberAndReplacesTheConnected();
     void leavingTakesNoTime();
     void leavingOutsideAConferenceMarksNobody();
@@ -79,6 +81,25 @@ void tst_ConferenceNotifications::invitationSetsTheConference()
     QVERIFY(!f.manager->m_pVoipWidget->isVisible());
     f.manager->m_pVoipWidget->addConferenceMember("anna");
     QCOMPARE(f.members(), QStringList{"anna 0*"});
+}
+
+void tst_ConferenceNotifications::invitationRingsBeforeThePrompt()
+{
+    EngineFixture f;
+    QString stateMeanwhile;
+    QStringList membersMeanwhile;
+    f.whileHandled = [&](BaseEvent &event) {
+        if (event.msgId != MSG_RECEVIE_VOIP_CALL)
+            return;
+        stateMeanwhile = f.state();
+        f.manager->m_pVoipWidget->addConferenceMember("anna");
+        membersMeanwhile = f.members();
+    };
+    f.notify(2, document(R"("from":"anna","confId":"c1")"));
+    // The window knows the creator by then; the timer runs from the prompt's end.
+    QCOMPARE(stateMeanwhile, QString("incoming anna, ring"));
+    QCOMPARE(membersMeanwhile, QStringList{"anna 0*"});
+    QCOMPARE(f.state(), QString("incoming anna, receive, ring"));
 }
 
 void tst_ConferenceNotifications::invitationThatIsRefusedLeavesItsFlags_data()
@@ -128,6 +149,9 @@ void tst_ConferenceNotifications::invitationWithoutSenderKeepsThePeer()
     f.notify(2, document(R"("confId":"c1")"));
     QCOMPARE(f.manager->m_callData.peerId, QString("bert"));
     QCOMPARE(f.takeJournal(), QStringList{"4639  true false"});
+    // The creator is the sender, not whoever stands as the peer.
+    f.manager->m_pVoipWidget->addConferenceMember("bert");
+    QCOMPARE(f.members(), QStringList{"bert 0"});
 }
 
 void tst_ConferenceNotifications::invitationOfTheSameConferenceIsTakenAgain()
@@ -315,6 +339,24 @@ void tst_ConferenceNotifications::updateSeesMembersThatCameWhileTheHostAnswered(
     };
     f.notify(12, document(R"("confId":"c1","conventioneer":["carl","dora"])"));
     QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl", "dora"}));
+}
+
+void tst_ConferenceNotifications::updateAsksTheHostBetweenTheMembersAndTheConnected()
+{
+    EngineFixture f;
+    f.createConference();
+    f.manager->m_callData.connectedList = QStringList{"me"};
+    QStringList membersMeanwhile;
+    QStringList connectedMeanwhile;
+    f.whileHandled = [&](BaseEvent &event) {
+        if (event.msgId != MSG_IS_EXIST_FRIEND)
+            return;
+        membersMeanwhile = f.members();
+        connectedMeanwhile = f.manager->m_callData.connectedList;
+    };
+    f.notify(12, document(R"("confId":"c1","conventioneer":["me","carl"])"));
+    QCOMPARE(membersMeanwhile, QStringList({"anna 0", "bert 0", "carl 0"}));
+    QCOMPARE(connectedMeanwhile, QStringList{"me"});
 }
 
 void tst_ConferenceNotifications::leavingMarksTheMemberAndReplacesTheConnected()

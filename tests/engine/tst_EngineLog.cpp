@@ -24,6 +24,7 @@ private slots:
     void operationWritesItsRecord_data();
     void operationWritesItsRecord();
     void operationWithoutAnEffectWritesNothing();
+    void commandWithoutASocketIsStillLogged();
     void wholeCallReadsInItsOrder();
     void cleanupTestCase();
 
@@ -164,6 +165,15 @@ void tst_EngineLog::operationWithoutAnEffectWritesNothing()
     f.manager->recevieVoipMessage("{\"resultCode\":-1}\n");
     f.manager->voipLogPrint("u", "v");
     QCOMPARE(takeTexts(), QStringList("DEBUG sendVoipMsg = {\"messagetype\":\"SetMicVolume\",\"param1\":5}"));
+}
+
+void tst_EngineLog::commandWithoutASocketIsStillLogged()
+{
+    EngineFixture f;
+    f.manager->disconnectVoipSDKSocket();
+    takeTexts();
+    f.manager->sendVoipMessage("text\n");
+    QCOMPARE(takeTexts(), QStringList{"DEBUG sendVoipMsg = text"});
 }
 
 void tst_EngineLog::wholeCallReadsInItsOrder()

@@ -3,7 +3,10 @@
 #include "fakes/EngineFixture.h"
 #include "fakes/QtMessages.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QEventLoop>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -30,6 +33,7 @@ private slots:
     void lossesWaitLongerEachTimeAndThenFromOneSecondAgain_data();
     void lossesWaitLongerEachTimeAndThenFromOneSecondAgain();
     void connectAfterSevenFailuresMakesTheNextLossWaitOneSecond();
+    void timerOfTheBackOffReconnects();
     void retriesWithoutASocketToTalkTo();
     void reconnectStopsTheTimerAndUsesTheSameSocket();
     void socketErrorChangesNoState();
@@ -49,12 +53,15 @@ private slots:
     void linesWithoutEffect();
     void bytesThatComeDuringAnEventLoopInAHandlerAreHandled();
     void readIsWrittenToTheDebugLog();
+    void readOfNothingIsNotWrittenToTheDebugLog();
 
     void exitHangsUpSaysQuitAndArmsTheTimer();
     void exitWithoutACallSaysQuitOnly();
     void exitWithoutAConnectionIsQuiet();
     void exitWithTheFarSideJustGoneIsQuiet();
     void secondExitDoesNothing();
+    void exitLetsGoOfTheSocket();
+    void endOfTheChannelClearsTheFlagWithoutASocketToo();
     void destructionSaysQuit();
     void writeToALostSocketIsLost();
 
@@ -141,6 +148,16 @@ void tst_SdkChannel::connectAfterSevenFailuresMakesTheNextLossWaitOneSecond()
     f.process.close();
     QTRY_VERIFY(f.manager->m_reconnectTimer.isActive());
     QCOMPARE(f.manager->m_reconnectTimer.interval(), 1000);
+}
+
+void tst_SdkChannel::timerOfTheBackOffReconnects()
+{
+    EngineFixture f(EngineFixture::NoCallProcess);
+    f.process.open();
+    // The timer itself, not its slot.
+    f.manager->m_reconnectTimer.start(0);
+    QTRY_VERIFY(f.manager->m_bSocketConnected);
+    QVERIFY(!f.manager->m_reconnectTimer.isActive());
 }
 
 void tst_SdkChannel::retriesWithoutASocketToTalkTo()
@@ -369,6 +386,16 @@ void tst_SdkChannel::readIsWrittenToTheDebugLog()
     QTRY_COMPARE(messages.debugLines, QStringList{QStringLiteral("Voip返回数据") + QString::fromUtf8(bytes)});
 }
 
+void tst_SdkChannel::readOfNothingIsNotWrittenToTheDebugLog()
+{
+    EngineFixture f;
+    const QtMessages messages;
+    f.manager->slot_VoipSDKDataRecevie();
+    f.manager->disconnectVoipSDKSocket();
+    f.manager->slot_VoipSDKDataRecevie();
+    QCOMPARE(messages.debugLines, QStringList());
+}
+
 void tst_SdkChannel::exitHangsUpSaysQuitAndArmsTheTimer()
 {
     EngineFixture f;
@@ -429,6 +456,32 @@ void tst_SdkChannel::secondExitDoesNothing()
     f.manager->exitVoip();
     QCOMPARE(messages.warnings, QStringList());
     QVERIFY(!f.manager->m_reconnectTimer.isActive());
+}
+
+void tst_SdkChannel::exitLetsGoOfTheSocket()
+{
+    EngineFixture f;
+    const QPointer<QLocalSocket> socket = f.manager->m_pVoipSocket;
+    f.manager->exitVoip();
+    f.manager->m_reconnectTimer.stop();
+    QVERIFY(socket);
+    const QtMessages messages;
+    // What it still reports until it is gone reaches nobody.
+    emit socket->disconnected();
+    QMetaObject::invokeMethod(socket, "error", Q_ARG(QLocalSocket::LocalSocketError, QLocalSocket::PeerClosedError));
+    QVERIFY(!f.manager->m_reconnectTimer.isActive());
+    QCOMPARE(messages.debugLines, QStringList());
+    QCoreApplication::sendPostedEvents(socket, QEvent::DeferredDelete);
+    QVERIFY(!socket);
+}
+
+void tst_SdkChannel::endOfTheChannelClearsTheFlagWithoutASocketToo()
+{
+    EngineFixture f;
+    f.manager->disconnectVoipSDKSocket();
+    f.manager->m_bSocketConnected = true;
+    f.manager->disconnectVoipSDKSocket();
+    QVERIFY(!f.manager->m_bSocketConnected);
 }
 
 void tst_SdkChannel::destructionSaysQuit()

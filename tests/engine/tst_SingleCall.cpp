@@ -2,6 +2,7 @@
 
 #include "fakes/EngineFixture.h"
 #include "ui/VoipWidget.h"
+#include "widgets/PushButtonEx.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -24,6 +25,7 @@ private slots:
     void placedCallAsksForTheCardOfAStrangerOnly_data();
     void placedCallAsksForTheCardOfAStrangerOnly();
     void placedCallAsksTheHostAboutEverybody();
+    void placedCallIsSentAndShownBehindTheQueries();
     void callWhileACallExistsIsRefusedWithAMessage_data();
     void callWhileACallExistsIsRefusedWithAMessage();
     void callWithoutTheChannelIsRefusedWithAMessage();
@@ -120,6 +122,27 @@ void tst_SingleCall::placedCallAsksTheHostAboutEverybody()
     QCOMPARE(f.host.received(MSG_GET_FRIEND_INFO).size(), 0);
 }
 
+void tst_SingleCall::placedCallIsSentAndShownBehindTheQueries()
+{
+    EngineFixture f;
+    QString callMeanwhile;
+    QStringList linesMeanwhile{"not asked"};
+    bool shownMeanwhile = true;
+    f.whileHandled = [&](BaseEvent &event) {
+        if (event.msgId != MSG_IS_EXIST_FRIEND)
+            return;
+        callMeanwhile = f.callText();
+        linesMeanwhile = f.takeLines();
+        shownMeanwhile = f.manager->m_pVoipWidget->isVisible() || f.manager->m_inviteTimer.isActive();
+    };
+    f.manager->callSingleUser("anna", true);
+    // The caller and the peer are known by then, the video is not.
+    QCOMPARE(callMeanwhile, QString("0|0|1|0|||anna|||"));
+    QCOMPARE(linesMeanwhile, QStringList());
+    QVERIFY(!shownMeanwhile);
+    QCOMPARE(f.callText(), QString("0|1|1|0|||anna|||"));
+}
+
 void tst_SingleCall::callWhileACallExistsIsRefusedWithAMessage_data()
 {
     QTest::addColumn<Step>("enter");
@@ -175,12 +198,20 @@ void tst_SingleCall::messageIsTitledAndHasOneButton()
 {
     EngineFixture f(EngineFixture::NoCallProcess);
     bool acceptShown = true;
-    f.boxes.whileOpen = [&acceptShown] {
-        acceptShown = QApplication::activeModalWidget()->findChild<QWidget *>("acceptBtn")->isVisible();
+    QStringList buttonTexts;
+    const QWidget *parent = f.manager->m_pVoipWidget;
+    f.boxes.whileOpen = [&] {
+        const QWidget *box = QApplication::activeModalWidget();
+        const auto *accept = box->findChild<PushButtonEx *>("acceptBtn");
+        acceptShown = accept->isVisible();
+        buttonTexts = QStringList{accept->text(), box->findChild<PushButtonEx *>("closeBtn")->text()};
+        parent = box->parentWidget();
     };
     f.manager->callSingleUser("anna", false);
     QCOMPARE(f.boxes.titles, QStringList{"tip"});
     QVERIFY(!acceptShown);
+    QCOMPARE(buttonTexts, QStringList({"", "sure"}));
+    QVERIFY(!parent);
 }
 
 void tst_SingleCall::incomingCallAsksForCardsInAnyCase_data()
@@ -205,19 +236,16 @@ void tst_SingleCall::incomingCallAsksForCardsInAnyCase()
 void tst_SingleCall::promptComesAfterTheQueriesAndBeforeTheTimer()
 {
     EngineFixture f;
-    bool timerRan = true;
-    bool rang = false;
+    QString stateMeanwhile;
     f.whileHandled = [&](BaseEvent &event) {
         if (event.msgId != MSG_RECEVIE_VOIP_CALL)
             return;
-        timerRan = f.manager->m_recevieTimer.isActive();
-        rang = f.state().contains("ring");
+        stateMeanwhile = f.state();
     };
     f.notify(0, "bert");
     QCOMPARE(f.host.commands(), QList<int>({MSG_GET_FRIEND_INFO, MSG_IS_EXIST_FRIEND, MSG_RECEVIE_VOIP_CALL}));
-    QVERIFY(rang);
-    QVERIFY(!timerRan);
-    QVERIFY(f.manager->m_recevieTimer.isActive());
+    QCOMPARE(stateMeanwhile, QString("incoming bert, ring"));
+    QCOMPARE(f.state(), QString("incoming bert, receive, ring"));
 }
 
 void tst_SingleCall::acceptShowsTheWindowAndKeepsTheTimer()

@@ -23,6 +23,7 @@ class tst_VoipManage : public QObject
 private slots:
     void startsIdle();
     void startPrintsTheOneKnownWarningAndNoOther();
+    void missingCallProcessIsWrittenToTheDebugLog();
     void slotsStandInTheirOrderWithTheirParameters();
     void finishResultsAndControlSignalsHaveTheirNumbers();
     void instanceIsMadeOnceWithoutAParent();
@@ -69,6 +70,14 @@ void tst_VoipManage::startPrintsTheOneKnownWarningAndNoOther()
     // Qt says the sender's name in a second line, which belongs to the first.
     QCOMPARE(f.startWarnings, QStringList({"QObject::connect: No such slot CVoipManage::clearLocalCallData()",
                                            "QObject::connect:  (sender name:   'CVoipWidget')"}));
+}
+
+void tst_VoipManage::missingCallProcessIsWrittenToTheDebugLog()
+{
+    // No call process stands beside this program.
+    const QtMessages messages;
+    EngineFixture f(EngineFixture::NoCallProcess);
+    QVERIFY(messages.debugLines.contains("voip startDetached,bResult: false"));
 }
 
 void tst_VoipManage::slotsStandInTheirOrderWithTheirParameters()
