@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QRegExp>
+#include <QTextDocument>
 
 #include <benchmark/benchmark.h>
 
@@ -31,6 +32,11 @@ QString message(const benchmark::State &state)
 QString hostileMessage(const benchmark::State &state)
 {
     return "<html><body><p>" + grown("<img src=\"http://a ", int(state.range(0))) + "/></p></body></html>";
+}
+
+QString messageWithoutLinks(const benchmark::State &state)
+{
+    return message(state).replace("www.", "web ").replace("<img", "<i").replace("://", " ");
 }
 
 QString bottomlessMessage(const benchmark::State &state)
@@ -77,6 +83,26 @@ int images(const QString &text)
     return CommonFun::getImageListFromHtml(text, {}, {}).size();
 }
 
+/// One pass of the pattern of an image, over all of the text.
+int imageMatches(const QString &text)
+{
+    const QString attribute = "([^>]*)(src|type|style){1,1}=\"([^>]*)\"";
+    QRegExp pattern("<img" + attribute + attribute + attribute + "[^>]*>");
+    pattern.setMinimal(true);
+    int count = 0;
+    for (int i = pattern.indexIn(text); i >= 0; i = pattern.indexIn(text, i + pattern.matchedLength()))
+        ++count;
+    return count;
+}
+
+/// What the plain text is made of.
+QString documentText(const QString &text)
+{
+    QTextDocument document;
+    document.setHtml(text);
+    return document.toPlainText();
+}
+
 int fileIds(const QString &text)
 {
     return CommonFun::getFileIdListFromHtml(text, {}, {}).size();
@@ -85,6 +111,26 @@ int fileIds(const QString &text)
 void barePatternPass(benchmark::State &state)
 {
     measure(state, message(state), matches);
+}
+void barePatternPassWithoutLinks(benchmark::State &state)
+{
+    measure(state, messageWithoutLinks(state), matches);
+}
+void linksWithoutLinks(benchmark::State &state)
+{
+    measure(state, messageWithoutLinks(state), linked);
+}
+void bareImagePass(benchmark::State &state)
+{
+    measure(state, message(state), imageMatches);
+}
+void imageListWithoutImages(benchmark::State &state)
+{
+    measure(state, messageWithoutLinks(state), images);
+}
+void bareDocument(benchmark::State &state)
+{
+    measure(state, message(state), documentText);
 }
 void links(benchmark::State &state)
 {
@@ -124,6 +170,11 @@ void imageListHostile(benchmark::State &state)
 }
 
 BENCHMARK(barePatternPass)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
+BENCHMARK(barePatternPassWithoutLinks)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
+BENCHMARK(linksWithoutLinks)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
+BENCHMARK(bareImagePass)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
+BENCHMARK(imageListWithoutImages)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
+BENCHMARK(bareDocument)->Arg(kShort)->Arg(kMiddle);
 BENCHMARK(links)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
 BENCHMARK(wholeMessage)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
 BENCHMARK(plainText)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);

@@ -1,6 +1,6 @@
 // The local store: opening a file that is up to date, at 0 and 100,000 rows, making a fresh one, saving and listing
-// conference records. Beside each the same statements through SQLite's C interface. What an open asks of SQLite is
-// taken down once and played back, so that the peer does what the store does at any time.
+// conference records. Beside each the same statements through SQLite's C interface, and through bare QSqlQuery. What an
+// open asks of SQLite is taken down once and played back, so that the peer does what the store does at any time.
 
 #include "common/CommonFun.h"
 #include "store/DB.h"
@@ -9,6 +9,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
@@ -139,6 +141,42 @@ QList<ConfInfoData> listBare(sqlite3 *db)
     return list;
 }
 
+/// The same through Qt's own driver, the least that a Qt program can do.
+QList<ConfInfoData> listBareQuery(const QSqlDatabase &db)
+{
+    QList<ConfInfoData> list;
+    QSqlQuery query(db);
+    query.setForwardOnly(true);
+    query.exec(QStringLiteral("SELECT ConfID,CreatUserID,CreatTime,CallTime,MemberList,IsConnect "
+                              "FROM voipConferenceInfo ORDER BY ConfID DESC"));
+    while (query.next()) {
+        ConfInfoData record;
+        record.m_strConfID = query.value(0).toString();
+        record.m_strCreatUserID = query.value(1).toString();
+        record.m_strCreatTime = query.value(2).toString();
+        record.m_strCallTime = query.value(3).toString();
+        record.m_listMember = query.value(4).toString().split(QLatin1Char(','), Qt::SkipEmptyParts);
+        record.m_bIsConnect = query.value(5).toInt() == 1;
+        list.append(record);
+    }
+    return list;
+}
+
+/// A connection of Qt's driver to that file, of the name "bare".
+QSqlDatabase openedByQt(const QString &file)
+{
+    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("bare"));
+    db.setDatabaseName(file);
+    db.open();
+    return db;
+}
+
+void closeByQt(QSqlDatabase &db)
+{
+    db = QSqlDatabase();
+    QSqlDatabase::removeDatabase(QStringLiteral("bare"));
+}
+
 /// The base folder of a store with that many records, made at the first call.
 QString storeWith(int records)
 {
@@ -187,6 +225,24 @@ void openBareSqlite(benchmark::State &state)
     state.counters["statements"] = double(statements.size());
 }
 BENCHMARK(openBareSqlite)->Arg(0)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void openBareQuery(benchmark::State &state)
+{
+    const QString base = storeWith(int(state.range(0)));
+    QStringList statements;
+    for (const std::string &text : statementsOfOpen(base))
+        statements.append(QString::fromStdString(text));
+    for (auto _ : state) {
+        QSqlDatabase db = openedByQt(fileOf(base));
+        for (const QString &text : qAsConst(statements)) {
+            QSqlQuery query(db);
+            query.exec(text);
+            query.next();
+        }
+        closeByQt(db);
+    }
+}
+BENCHMARK(openBareQuery)->Arg(0)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 void createStore(benchmark::State &state)
 {
@@ -280,6 +336,20 @@ void listRecordsBareSqlite(benchmark::State &state)
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 BENCHMARK(listRecordsBareSqlite)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+void listRecordsBareQuery(benchmark::State &state)
+{
+    QSqlDatabase db = openedByQt(fileOf(storeWith(int(state.range(0)))));
+    for (auto _ : state) {
+        if (listBareQuery(db).size() != state.range(0)) {
+            state.SkipWithError("records are missing");
+            break;
+        }
+    }
+    closeByQt(db);
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+BENCHMARK(listRecordsBareQuery)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

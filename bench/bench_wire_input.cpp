@@ -1,6 +1,10 @@
-// Inbound lines from the socket to the end of callbackMessage(), at 1 to 1,000 lines in one read. Beside it the bare
-// JSON reader over the same documents.
+// Inbound lines from readyRead to the end of callbackMessage(), at 1 to 10,000 lines in one read and for each code.
+// Beside it the bare JSON reader over the same documents, the nested ones included. What the log thread takes is queued
+// as in the client, but not written while the clock runs.
 
+#include "ProcessorClock.h"
+
+#include "common/CLogThread.h"
 #include "common/CommonFun.h"
 #include "engine/VoipManage.h"
 #include "model/CommonData.h"
@@ -11,28 +15,138 @@
 
 #include <benchmark/benchmark.h>
 #include <json/reader.h>
+#include <malloc.h>
+
+#include <optional>
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace {
 
+constexpr int kLinesOfACode = 1000;
+constexpr int kNoAction = 6;
+
+QLocalServer *g_server = nullptr;
+std::optional<CLogThread> g_logThread;
+
+/// Payloads of a kind, made different by a number: equal lines of one read are delivered once.
+std::string payload(int code, int number)
+{
+    const std::string digits = std::to_string(number);
+    switch (code) {
+    case 2:
+    case 12:
+    case 13:
+        return R"({\"content\":{\"confId\":\"c1\",\"conventioneer\":[\"30010001\",\"30010002\"],\"createTime\":)" +
+               std::to_string(1462266764000 + number) + R"(,\"from\":\"30010001\"}})";
+    case 20:
+        return R"({\"result\":{\"confId\":\"c)" + digits + R"(\"}})";
+    case 21:
+        return R"({\"result\":{\"failedNums\":[\"3001)" + digits + R"(\"]},\"status\":0})";
+    default:
+        return "3001" + digits;
+    }
+}
+
+bool isNested(int code)
+{
+    return payload(code, 0).front() == '{';
+}
+
+std::vector<std::string> documents(int code, int count)
+{
+    std::vector<std::string> lines;
+    for (int i = 0; i < count; ++i)
+        lines.push_back(R"({"content":")" + payload(code, i) + R"(","resultCode":)" + std::to_string(code) + "}\n");
+    return lines;
+}
+
 class Engine : public CVoipManage
 {
 public:
+    QLocalSocket *socket() { return m_pVoipSocket; }
     bool flag() const { return m_bSdkFlag; }
+
+    /// In the state in which the code comes: updates and leavings in a conference whose members are known.
+    void prepare(int code)
+    {
+        const bool inConference = code == 12 || code == 13;
+        clearLocalCallData();
+        m_callData.bIsConf = inConference;
+        if (inConference) {
+            m_callData.confId = QStringLiteral("c1");
+            m_callData.memberList << QStringLiteral("30010001") << QStringLiteral("30010002");
+        }
+    }
+
+    /// Takes `bytes` in with one read; the time from readyRead on.
+    double take(QLocalSocket *peer, const QByteArray &bytes)
+    {
+        {
+            const QSignalBlocker block(m_pVoipSocket);
+            peer->write(bytes);
+            while (m_pVoipSocket->bytesAvailable() < bytes.size())
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        const ProcessorClock clock;
+        emit m_pVoipSocket->readyRead();
+        return clock.seconds();
+    }
 };
 
-QLocalServer *g_server = nullptr;
-
-/// `count` different lines without effect, and one that lifts or lowers the flag, so that the end can be seen.
-QByteArray linesWithFlag(int count, bool flag)
+void fromReadyRead(benchmark::State &state, int code)
 {
-    QByteArray lines;
-    for (int i = 1; i < count; ++i)
-        lines += "{\"content\":\"3001" + QByteArray::number(i) + "\",\"resultCode\":6}\n";
-    return lines + "{\"content\":\"" + (flag ? "true" : "false") + "\",\"resultCode\":17}\n";
+    Engine engine;
+    if (!g_server->waitForNewConnection(2000)) {
+        state.SkipWithError("the engine did not connect");
+        return;
+    }
+    QLocalSocket *peer = g_server->nextPendingConnection();
+    QObject::connect(peer, &QLocalSocket::readyRead, [peer] { peer->readAll(); });
+    QByteArray bytes;
+    for (const std::string &line : documents(code, static_cast<int>(state.range(0))))
+        bytes += line.c_str();
+    for (auto _ : state) {
+        engine.prepare(code);
+        // A new one in the same place: its queue is empty again.
+        g_logThread.emplace();
+        state.SetIterationTime(engine.take(peer, bytes));
+        QCoreApplication::processEvents();
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+    engine.prepare(code);
+    engine.stopRinging();
+    peer->deleteLater();
 }
 
+/// One document and, where its payload is one, that too; what is read of it is its code and its payload's size.
+int readBare(const std::string &document, bool nested)
+{
+    Json::Reader reader;
+    Json::Value root;
+    if (!reader.parse(document, root))
+        return 0;
+    const std::string content = root["content"].asString();
+    Json::Value inner;
+    if (nested)
+        Json::Reader().parse(content, inner);
+    return root["resultCode"].asInt() + static_cast<int>(content.size() + inner.size());
+}
+
+void bareReader(benchmark::State &state, int code)
+{
+    const std::vector<std::string> lines = documents(code, static_cast<int>(state.range(0)));
+    const bool nested = isNested(code);
+    for (auto _ : state) {
+        const ProcessorClock clock;
+        for (const std::string &line : lines)
+            benchmark::DoNotOptimize(readBare(line, nested));
+        state.SetIterationTime(clock.seconds());
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+/// The far side's write, the socket and the event loop included.
 void socketToCallback(benchmark::State &state)
 {
     Engine engine;
@@ -41,50 +155,57 @@ void socketToCallback(benchmark::State &state)
         return;
     }
     QLocalSocket *peer = g_server->nextPendingConnection();
-    const auto count = static_cast<int>(state.range(0));
     bool flag = false;
     for (auto _ : state) {
         flag = !flag;
-        peer->write(linesWithFlag(count, flag));
+        peer->write(flag ? "{\"content\":\"true\",\"resultCode\":17}\n"
+                         : "{\"content\":\"false\",\"resultCode\":17}\n");
         peer->flush();
         while (engine.flag() != flag)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
-    state.SetItemsProcessed(state.iterations() * count);
+    g_logThread.emplace();
     peer->deleteLater();
 }
-BENCHMARK(socketToCallback)->Arg(1)->Arg(10)->Arg(100)->Arg(1000);
 
-void bareReader(benchmark::State &state)
+void registerAll()
 {
-    const auto count = static_cast<int>(state.range(0));
-    for (auto _ : state) {
-        const QList<QByteArray> lines = linesWithFlag(count, true).split('\n');
-        for (const QByteArray &line : lines) {
-            Json::Reader reader;
-            Json::Value root;
-            if (!line.isEmpty() && reader.parse(line.toStdString(), root))
-                benchmark::DoNotOptimize(root["resultCode"].asInt() + root["content"].asString().size());
-        }
+    benchmark::RegisterBenchmark("socketToCallback", socketToCallback);
+    for (const int lines : {1, 10, 100, 1000, 10000}) {
+        benchmark::RegisterBenchmark("readyReadToCallback", fromReadyRead, kNoAction)->Arg(lines)->UseManualTime();
+        benchmark::RegisterBenchmark("bareReader", bareReader, kNoAction)->Arg(lines)->UseManualTime();
     }
-    state.SetItemsProcessed(state.iterations() * count);
+    // All that have an action, and one that has none.
+    for (const int code : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12, 13, 17, 18, 19, 20, 21, 22, 23, 24, 25, 999}) {
+        const std::string suffix = "Code" + std::to_string(code);
+        benchmark::RegisterBenchmark(("callback" + suffix).c_str(), fromReadyRead, code)
+            ->Arg(kLinesOfACode)
+            ->UseManualTime();
+        benchmark::RegisterBenchmark(("bareReader" + suffix).c_str(), bareReader, code)
+            ->Arg(kLinesOfACode)
+            ->UseManualTime();
+    }
 }
-BENCHMARK(bareReader)->Arg(1)->Arg(10)->Arg(100)->Arg(1000);
 
 } // namespace
 
 int main(int argc, char **argv)
 {
+    // A client's memory has grown to its size long ago, so the queue's records need none from the system.
+    mallopt(M_TRIM_THRESHOLD, 1 << 30);
     const QApplication application(argc, argv);
     // What the host does with the debug channel is its own cost.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     CommonData data;
+    g_logThread.emplace();
+    data.setCustomLogThread(&*g_logThread);
     CommonFun::setCommonData(&data);
     QLocalServer server;
     if (!server.listen(QStringLiteral("VoipSDK")))
         return 1;
     g_server = &server;
 
+    registerAll();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     CommonFun::setCommonData(nullptr);

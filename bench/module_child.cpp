@@ -1,7 +1,8 @@
-// usage: bench_module_child none|window|load|command|call MODULE
+// usage: bench_module_child none|window|load|command|call|client|idle MODULE
 // Does as much as the word says and prints the microseconds that it took and the kilobytes of memory that are resident
 // then: nothing but a bare application; a bare application with a Chinese text on the screen; the module loaded; the
-// first command answered; an outgoing call on the screen.
+// first command answered; an outgoing call on the screen; a client with a window on the screen and the module loaded;
+// the same and the first command answered, after which the call window stands by.
 
 #include "model/CommonData.h"
 #include "plugin/BaseEvent.h"
@@ -55,9 +56,10 @@ int main(int argc, char **argv)
     QElapsedTimer clock;
     clock.start();
     std::unique_ptr<QLabel> label;
-    if (word == "window") {
+    if (word == "window" || word == "client" || word == "idle") {
         label = std::make_unique<QLabel>(QStringLiteral("正在呼叫..."));
         label->show();
+        QCoreApplication::processEvents();
     }
     QPluginLoader loader(QString::fromLocal8Bit(argv[2]));
     if (word != "none" && word != "window") {
@@ -65,7 +67,7 @@ int main(int argc, char **argv)
         if (!root)
             return 1;
         auto *plugin = qobject_cast<PluginInterface *>(root);
-        if (word == "command" || word == "call") {
+        if (word == "command" || word == "call" || word == "idle") {
             plugin->setCommonData(&data);
             plugin->setSendEventHandle(&host);
             command(plugin->getReceiveEventHandle(), MSG_IS_EXIST_CALL, {});

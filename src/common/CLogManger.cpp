@@ -4,8 +4,23 @@
 #include "common/CommonFun.h"
 #include "common/CustomLogger.h"
 
-#include <cstring>
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <limits>
 #include <utility>
+
+namespace {
+
+/// Most records are no longer, so that the growing text is moved by none of its items.
+constexpr int USUAL_LENGTH = 100;
+
+bool isAscii(QLatin1String text)
+{
+    return std::all_of(text.begin(), text.end(), [](char character) { return (character & 0x80) == 0; });
+}
+
+} // namespace
 
 CLogManger *CLogManger::m_pInstance = nullptr;
 
@@ -52,10 +67,10 @@ void CLogManger::clearLog()
     }
 }
 
-CLogManger &CLogManger::startRecord(CustomLog::LogLevel level, QString strLocation)
+CLogManger &CLogManger::startRecord(CustomLog::LogLevel level, const QString &strLocation)
 {
     m_level = level;
-    m_strLocation = std::move(strLocation);
+    m_strLocation = strLocation;
     return *this;
 }
 
@@ -64,11 +79,35 @@ CLogManger &CLogManger::operator<<(const char *szText)
     if (!szText) {
         return *this;
     }
-    if (std::strcmp(szText, "\n") != 0) {
+    const QLatin1String text(szText);
+    if (text == QLatin1String("\n")) {
+        closeRecord();
+    } else if (isAscii(text)) {
+        *m_pTextStream << text;
+    } else {
         *m_pTextStream << QString::fromUtf8(szText);
+    }
+    return *this;
+}
+
+void CLogManger::closeRecord()
+{
+    if (m_pLogThread) {
+        m_pLogThread->printLog(CustomLogData{m_level, m_strLocation, std::move(m_strMessage)});
+    }
+    m_strMessage = QString();
+    m_strMessage.reserve(USUAL_LENGTH);
+}
+
+CLogManger &CLogManger::operator<<(int iNumber)
+{
+    // A text stream makes a text by the locale's rules for each number; most are written in plain digits.
+    if (m_pTextStream->integerBase() != 0 || m_pTextStream->numberFlags() != 0) {
+        *m_pTextStream << iNumber;
         return *this;
     }
-    printLog(m_level, m_strLocation, m_strMessage);
-    m_strMessage.clear();
+    std::array<char, std::numeric_limits<int>::digits10 + 2> digits{};
+    const auto end = std::to_chars(digits.begin(), digits.end(), iNumber).ptr;
+    *m_pTextStream << QLatin1String(digits.data(), static_cast<int>(end - digits.data()));
     return *this;
 }

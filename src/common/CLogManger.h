@@ -42,7 +42,7 @@ public:
     void clearLog();
 
     /// Sets level and location of the record to come. For the macros below.
-    CLogManger &startRecord(CustomLog::LogLevel level, QString strLocation);
+    CLogManger &startRecord(CustomLog::LogLevel level, const QString &strLocation);
 
     /// Adds UTF-8 text to the record, or, for exactly "\n", queues the record and starts an empty one. Null counts as
     /// empty.
@@ -50,6 +50,9 @@ public:
 
     /// The same for text in a buffer.
     CLogManger &operator<<(char *szText) { return *this << static_cast<const char *>(szText); }
+
+    /// Adds a number as the text stream writes it.
+    CLogManger &operator<<(int iNumber);
 
     /// Adds any other item as a text stream writes it: a bool as 1 or 0, a QString as it is, also when it is "\n".
     template <typename Item>
@@ -66,6 +69,8 @@ public:
     std::unique_ptr<QTextStream> m_pTextStream;
 
 private:
+    void closeRecord();
+
     static CLogManger *m_pInstance;
 
     CustomLogger *m_pLogger = nullptr;

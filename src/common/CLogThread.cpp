@@ -4,6 +4,8 @@
 
 #include <QMutexLocker>
 
+#include <utility>
+
 namespace {
 
 const int RECORDS_BETWEEN_RESTS = 100;
@@ -44,8 +46,15 @@ void CLogThread::stop()
 
 void CLogThread::printLog(const CustomLogData &data)
 {
+    printLog(CustomLogData(data));
+}
+
+void CLogThread::printLog(CustomLogData &&data)
+{
     const QMutexLocker lock(&m_mutex);
-    m_queue.append(data);
+    // A list copies what is appended; the record's texts are moved.
+    m_queue.append(CustomLogData());
+    m_queue.last() = std::move(data);
     m_condition.wakeAll();
 }
 

@@ -34,6 +34,9 @@ public:
     /// Queues a record.
     void printLog(const CustomLogData &data);
 
+    /// Queues a record that the caller needs no more.
+    void printLog(CustomLogData &&data);
+
     /// Queues a record of these three parts.
     void printLog(CustomLog::LogLevel level, const QString &strLocation, const QString &strMessage);
 

@@ -10,16 +10,6 @@
 #include <QMutexLocker>
 #include <QTextStream>
 
-namespace {
-
-/// The local time in ASCII digits, which QDateTime's own texts do not have under every system locale.
-QString currentTime()
-{
-    return QLocale::c().toString(QDateTime::currentDateTime(), QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz"));
-}
-
-} // namespace
-
 CustomLogger::CustomLogger(const QString &strFileName) : m_strFileName(strFileName)
 {
     qDebug().noquote().nospace() << QStringLiteral(
@@ -57,21 +47,48 @@ void CustomLogger::printLog(CustomLog::LogLevel level, const QString &strLocatio
     if (!m_bOpened || !isLevelEnabled(level)) {
         return;
     }
-    const QString strTime = currentTime();
     const QString strLevel = getLevelString(level);
     bool bFull = false;
     {
         const QMutexLocker lock(&m_mutex);
         if (m_pFile && m_pStream) {
-            *m_pStream << LogUtils::getFormattedLog(strTime, strLevel, strLocation, strMessage);
+            *m_pStream << LogUtils::getFormattedLog(currentTime(), strLevel, strLocation, strMessage);
             // A full disk loses lines; without this the stream would keep all further ones in memory.
             m_pStream->resetStatus();
-            bFull = m_pFile->size() >= m_iMaxFileSize;
+            bFull = fileSize() >= m_iMaxFileSize;
         }
     }
     if (bFull) {
         rollOver();
     }
+}
+
+/// The local time in ASCII digits, which QDateTime's own texts do not have under every system locale. Only the
+/// milliseconds are new within a second: what the zone makes of it is looked up in the file system.
+const QString &CustomLogger::currentTime()
+{
+    const qint64 iNow = QDateTime::currentMSecsSinceEpoch();
+    if (iNow / 1000 != m_iSecond) {
+        m_iSecond = iNow / 1000;
+        m_strTime =
+            QLocale::c().toString(QDateTime::fromMSecsSinceEpoch(iNow), QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz"));
+    }
+    auto iRest = static_cast<ushort>(iNow % 1000);
+    for (int i = 1; i <= 3; ++i, iRest /= 10) {
+        m_strTime[m_strTime.size() - i] = QChar(static_cast<ushort>(u'0' + iRest % 10));
+    }
+    return m_strTime;
+}
+
+/// The size on the disk. It is asked for anew when the stream has handed its buffer on, which moves the position.
+qint64 CustomLogger::fileSize()
+{
+    const qint64 iPosition = m_pFile->pos();
+    if (iPosition != m_iSizedPosition) {
+        m_iSizedPosition = iPosition;
+        m_iFileSize = m_pFile->size();
+    }
+    return m_iFileSize;
 }
 
 bool CustomLogger::isLevelEnabled(CustomLog::LogLevel level) const
@@ -155,6 +172,7 @@ void CustomLogger::reopen()
     // first new line stands directly behind the last one of an earlier run. In an empty file the seek fails and the
     // text begins at the start.
     m_pStream->seek(m_pFile->size() - 1);
+    m_iSizedPosition = -1;
 }
 
 void CustomLogger::clear()

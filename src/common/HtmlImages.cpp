@@ -6,17 +6,40 @@
 
 #include <QDomDocument>
 #include <QFileInfo>
-#include <QRegExp>
+#include <QStringMatcher>
+
+#include <algorithm>
+#include <array>
 
 namespace {
 
-// The three places take the same attribute names.
-QRegExp imagePattern(const QString &strNames)
+// The names of which three attributes make an image.
+using AttributeNames = std::array<QLatin1String, 3>;
+
+/// Behind the next attribute of one of these names and its value from `iFrom` on; -1 where there is none. What stands
+/// before the name does not matter, not even a letter.
+int behindAttribute(const QString &strImage, const AttributeNames &names, int iFrom)
 {
-    const QString strAttribute = QStringLiteral("([^>]*)(%1){1,1}=\"([^>]*)\"").arg(strNames);
-    QRegExp pattern(QLatin1String("<img") + strAttribute + strAttribute + strAttribute + QLatin1String("[^>]*>"));
-    pattern.setMinimal(true);
-    return pattern;
+    for (int i = strImage.indexOf(QLatin1String("=\""), iFrom); i >= 0;
+         i = strImage.indexOf(QLatin1String("=\""), i + 1)) {
+        const QStringRef before = strImage.midRef(iFrom, i - iFrom);
+        if (std::any_of(names.begin(), names.end(), [&](QLatin1String name) { return before.endsWith(name); })) {
+            const int iQuote = strImage.indexOf(QLatin1Char('"'), i + 2);
+            return iQuote < 0 ? -1 : iQuote + 1;
+        }
+    }
+    return -1;
+}
+
+/// Whether `strImage`, which runs from "<img" through the next ">", is what this pattern finds, with the names in each
+/// of its three places:
+/// <img([^>]*)(NAMES){1,1}="([^>]*)"([^>]*)(NAMES){1,1}="([^>]*)"([^>]*)(NAMES){1,1}="([^>]*)"[^>]*>
+bool isImage(const QString &strImage, const AttributeNames &names)
+{
+    int i = int(qstrlen("<img"));
+    for (int iPlace = 0; iPlace < 3 && i >= 0; ++iPlace)
+        i = behindAttribute(strImage, names, i);
+    return i >= 0;
 }
 
 // All from the first "<body" through the last "</body>", which no second body can follow.
@@ -31,21 +54,21 @@ QString bodyOf(const QString &strHtml)
     return strHtml.mid(iFirst, iLast + strEnd.size() - iFirst);
 }
 
-// Calls `take` with each image element. The text is cut at every ">" first, which no image can contain but at its end:
-// the pattern is then tried once for each piece, from the only place where it can begin.
+// Calls `take` with each image element. An image holds no ">" but at its end, so each stretch from a "<img" to the next
+// one is looked at once.
 template <typename Take>
-void forEachImage(const QString &strHtml, const QString &strNames, Take take)
+void forEachImage(const QString &strHtml, const AttributeNames &names, Take take)
 {
-    const QRegExp pattern = imagePattern(strNames);
     const QString strBody = bodyOf(strHtml);
-    int iStart = 0;
-    for (int i = strBody.indexOf(QLatin1Char('>')); i >= 0; i = strBody.indexOf(QLatin1Char('>'), iStart)) {
-        const QStringRef piece = strBody.midRef(iStart, i + 1 - iStart);
-        iStart = i + 1;
-        const int iImage = piece.indexOf(QLatin1String("<img"));
-        const QString strImage = iImage < 0 ? QString() : piece.mid(iImage).toString();
+    const QStringMatcher begin(QStringLiteral("<img"));
+    int iEnd = 0;
+    for (int iImage = begin.indexIn(strBody); iImage >= 0; iImage = begin.indexIn(strBody, iEnd)) {
+        iEnd = strBody.indexOf(QLatin1Char('>'), iImage) + 1;
+        if (iEnd == 0)
+            return;
+        const QString strImage = strBody.mid(iImage, iEnd - iImage);
         QDomDocument document;
-        if (strImage.isEmpty() || !pattern.exactMatch(strImage) || !DomText::parse(strImage, document))
+        if (!isImage(strImage, names) || !DomText::parse(strImage, document))
             continue;
         const QDomElement image = document.firstChildElement(QStringLiteral("img"));
         if (!image.isNull())
@@ -79,23 +102,25 @@ QStringList HtmlImages::getImageListFromHtml(const QString &strHtml, const QStri
     const SystemSetData *pSettings = SharedContext::getSystemSetData();
     const QString strFolder = (pSettings ? pSettings->m_strUserFolder : QString()) + QLatin1String("/picRec/");
     QStringList listPath;
-    forEachImage(strHtml, QStringLiteral("src|type|style"), [&](const QDomElement &image) {
-        const QString strSrc = image.attribute(QStringLiteral("src"));
-        if (!strSrc.isEmpty() && !isPlaceholder(strSrc))
-            listPath.append(QFileInfo(strFolder + QFileInfo(strSrc).fileName()).absoluteFilePath());
-    });
+    forEachImage(strHtml, {QLatin1String("src"), QLatin1String("type"), QLatin1String("style")},
+                 [&](const QDomElement &image) {
+                     const QString strSrc = image.attribute(QStringLiteral("src"));
+                     if (!strSrc.isEmpty() && !isPlaceholder(strSrc))
+                         listPath.append(QFileInfo(strFolder + QFileInfo(strSrc).fileName()).absoluteFilePath());
+                 });
     return listPath;
 }
 
 QMap<QString, CImageData> HtmlImages::getFileIdListFromHtml(const QString &strHtml, const QString &, const QString &)
 {
     QMap<QString, CImageData> mapImage;
-    forEachImage(strHtml, QStringLiteral("src|name|fileid"), [&](const QDomElement &image) {
-        QString strName = image.attribute(QStringLiteral("name"));
-        if (strName.contains(QLatin1String("downagain.png")))
-            return;
-        strName.remove(QLatin1String("file:///"));
-        mapImage.insert(strName, recordOf(image));
-    });
+    forEachImage(strHtml, {QLatin1String("src"), QLatin1String("name"), QLatin1String("fileid")},
+                 [&](const QDomElement &image) {
+                     QString strName = image.attribute(QStringLiteral("name"));
+                     if (strName.contains(QLatin1String("downagain.png")))
+                         return;
+                     strName.remove(QLatin1String("file:///"));
+                     mapImage.insert(strName, recordOf(image));
+                 });
     return mapImage;
 }

@@ -4,14 +4,9 @@
 #include "common/ReplaceAll.h"
 
 #include <QRegExp>
+#include <QStringBuilder>
 
 namespace {
-
-// The view takes addresses of this private scheme out of its own navigation and opens what follows.
-QString linkTemplate()
-{
-    return QStringLiteral("<a onfocus='this.blur()' href='web://urllink//@URL@' target='_blank' @STYLE@>@URL@</a>");
-}
 
 QRegExp linkPattern()
 {
@@ -19,9 +14,33 @@ QRegExp linkPattern()
                    Qt::CaseInsensitive);
 }
 
-QString link(const QString &strUrl, const QString &strStyle)
+// What every link begins with at most so many characters before, and has: the end of a scheme, or "www.".
+constexpr int LONGEST_SCHEME = 5;
+
+bool isMarkOfLink(const QChar *pFirst, int iSize, int i)
 {
-    return linkTemplate().replace(QLatin1String("@URL@"), strUrl).replace(QLatin1String("@STYLE@"), strStyle);
+    const auto isW = [pFirst](int iAt) { return (pFirst[iAt].unicode() | 0x20) == 'w'; };
+    if (pFirst[i] == QLatin1Char(':'))
+        return i + 2 < iSize && pFirst[i + 1] == QLatin1Char('/') && pFirst[i + 2] == QLatin1Char('/');
+    return pFirst[i] == QLatin1Char('.') && i >= 3 && isW(i - 1) && isW(i - 2) && isW(i - 3);
+}
+
+/// Where the pattern's search may begin so that it finds the next link from `iFrom` on; -1 where there is none. Looking
+/// for the marks costs a small part of what the pattern does.
+int nextPlaceOfLink(const QString &strText, int iFrom)
+{
+    for (int i = iFrom; i < strText.size(); ++i) {
+        if (isMarkOfLink(strText.constData(), strText.size(), i))
+            return qMax(iFrom, i - LONGEST_SCHEME);
+    }
+    return -1;
+}
+
+// The view takes addresses of this private scheme out of its own navigation and opens what follows.
+void appendLink(QString &strOutput, const QString &strUrl, const QString &strStyle)
+{
+    strOutput += QLatin1String("<a onfocus='this.blur()' href='web://urllink//") % strUrl %
+                 QLatin1String("' target='_blank' ") % strStyle % QLatin1Char('>') % strUrl % QLatin1String("</a>");
 }
 
 } // namespace
@@ -33,10 +52,13 @@ void HtmlLinks::convertWebLink(QString &strText, const QString &strStyle)
     const QRegExp pattern = linkPattern();
     QString strOutput;
     int iDone = 0;
-    for (int i = pattern.indexIn(strRest); i >= 0; i = pattern.indexIn(strRest, iDone)) {
-        strOutput += strRest.midRef(iDone, i - iDone);
-        strOutput += link(pattern.cap(0), strStyle);
-        iDone = i + pattern.matchedLength();
+    for (int iPlace = nextPlaceOfLink(strRest, 0); iPlace >= 0; iPlace = nextPlaceOfLink(strRest, iDone)) {
+        const int iLink = pattern.indexIn(strRest, iPlace);
+        if (iLink < 0)
+            break;
+        strOutput += strRest.midRef(iDone, iLink - iDone);
+        appendLink(strOutput, pattern.cap(0), strStyle);
+        iDone = iLink + pattern.matchedLength();
     }
     strOutput += strRest.midRef(iDone);
     HtmlText::replaceSpace(strOutput);

@@ -1,9 +1,10 @@
 #pragma once
 // The place of a log statement, "VoipWidget.cpp:835": the source's name without its folders, a colon, the line.
-// The compiler finds where the name begins and joins the line to it, so a statement pays for one text and no search.
-// Any thread; no state.
+// The compiler finds where the name begins and joins the line to it, and the text is made when the statement is first
+// reached. Any thread. The texts live to the end of the process, also when the module that made them is unloaded: the
+// log thread may still hold some.
 
-#include <QString>
+#include "common/LastingText.h"
 
 #include <cstddef>
 #include <string_view>
@@ -30,4 +31,9 @@ QString text(const char (&literal)[Size])
 #define LOG_LOCATION_TEXT(line) LOG_LOCATION_TEXT_OF(line)
 
 /// The place where it stands, as a QString.
-#define LOG_LOCATION LogLocation::text<LogLocation::fileNameStart(__FILE__)>(__FILE__ ":" LOG_LOCATION_TEXT(__LINE__))
+#define LOG_LOCATION                                                                                                   \
+    []() -> const QString & {                                                                                          \
+        static const QString &location = lastingText(                                                                  \
+            LogLocation::text<LogLocation::fileNameStart(__FILE__)>(__FILE__ ":" LOG_LOCATION_TEXT(__LINE__)));        \
+        return location;                                                                                               \
+    }()

@@ -1,6 +1,7 @@
 #include "common/LogUtils.h"
 
 #include <QFile>
+#include <QStringBuilder>
 
 namespace {
 
@@ -15,8 +16,8 @@ QString fileText(const QString &strPath)
 QString LogUtils::getFormattedLog(const QString &strTime, const QString &strLevel, const QString &strLocation,
                                   const QString &strMessage)
 {
-    static const QString strFormat = QStringLiteral("[%1][%2][%3]: %4\n");
-    return strFormat.arg(strTime, strLevel, strLocation, strMessage);
+    return QLatin1Char('[') % strTime % QLatin1String("][") % strLevel % QLatin1String("][") % strLocation %
+           QLatin1String("]: ") % strMessage % QLatin1Char('\n');
 }
 
 quint64 LogUtils::getEventSequenceByLog(const QString &strLog)

@@ -1,10 +1,13 @@
 #include "engine/LineCutter.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <limits>
 #include <list>
 #include <map>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -150,9 +153,71 @@ void LineCutter::glueToNext(const QString &own, const Cut &cut)
         m_fronts.push_front({cut.round, rest});
 }
 
+/// All lines of a read with their line feeds, as if none removed another.
+QStringList plainLines(const QString &text)
+{
+    QStringList lines;
+    int start = 0;
+    for (int end = text.indexOf(QLatin1Char('\n')); end >= 0; end = text.indexOf(QLatin1Char('\n'), start)) {
+        lines.append(text.mid(start, end + 1 - start));
+        start = end + 1;
+    }
+    return lines;
+}
+
+/// Hashes of texts, in a table of at least twice their number.
+class HashSet
+{
+public:
+    explicit HashSet(int count)
+    {
+        while (m_table.size() < 2 * static_cast<std::size_t>(count) + 1)
+            m_table.resize(2 * m_table.size());
+    }
+
+    /// False when the hash is there already, or is the one that marks empty places.
+    bool insert(std::size_t hash)
+    {
+        std::size_t place = hash & (m_table.size() - 1);
+        while (m_table[place] != 0 && m_table[place] != hash)
+            place = (place + 1) & (m_table.size() - 1);
+        return std::exchange(m_table[place], hash) != hash;
+    }
+
+private:
+    std::vector<std::size_t> m_table = std::vector<std::size_t>(2);
+};
+
+/// Whether `start`, which stands at the start of `line`, stands elsewhere in it as well.
+bool occursAgain(const QString &line, QStringView start)
+{
+    for (int at = line.indexOf(start.front(), 1); at >= 0; at = line.indexOf(start.front(), at + 1)) {
+        if (QStringView(line).mid(at).startsWith(start))
+            return true;
+    }
+    return false;
+}
+
+/// Whether it is plain that none of the lines is empty or ends with an earlier one: all begin alike, nowhere else does
+/// this beginning stand, so that no line is the tail of a longer one, and all are different.
+bool standApart(const QStringList &lines)
+{
+    constexpr int beginning = 4;
+    if (lines.isEmpty() || lines.first().size() <= beginning)
+        return false;
+    const QStringView start = QStringView(lines.first()).left(beginning);
+    HashSet hashes(lines.size());
+    return std::all_of(lines.cbegin(), lines.cend(), [&](const QString &line) {
+        const std::u16string_view text(QStringView(line).utf16(), static_cast<std::size_t>(line.size()));
+        return line.startsWith(start) && !occursAgain(line, start) &&
+               hashes.insert(std::hash<std::u16string_view>()(text));
+    });
+}
+
 } // namespace
 
 QStringList cutLines(const QString &text)
 {
-    return LineCutter().cut(text);
+    const QStringList lines = plainLines(text);
+    return standApart(lines) ? lines : LineCutter().cut(text);
 }

@@ -8,11 +8,15 @@ namespace SdkNotification {
 
 Line read(const QString &line)
 {
-    Json::Value root;
-    if (!JsonText::parse(line, root))
+    Json::Value document;
+    if (!JsonText::parse(line, document))
         return {};
+    // Read through a constant, what is absent is not added.
+    const Json::Value &root = document;
     try {
-        return {root["resultCode"].asInt(), QString::fromStdString(root["content"].asString())};
+        const Json::Value &content = root["content"];
+        return {root["resultCode"].asInt(),
+                content.isString() ? JsonText::text(content) : QString::fromStdString(content.asString())};
     } catch (const std::exception &) {
         return {};
     }

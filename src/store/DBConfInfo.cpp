@@ -3,10 +3,10 @@
 #include "store/DB.h"
 #include "store/StoredText.h"
 
-#include <QSet>
 #include <QSqlQuery>
 #include <QStringList>
 #include <QVariant>
+#include <QVector>
 
 namespace {
 
@@ -41,7 +41,13 @@ public:
     }
 
 private:
-    QString shared(const QString &text) { return *m_texts.insert(text); }
+    QString shared(const QString &text)
+    {
+        QString &known = m_texts[qHash(text) % cKnownTexts];
+        if (known != text)
+            known = text;
+        return known;
+    }
     QList<QString> sharedMembers(const QString &text)
     {
         QList<QString> members = membersOf(text);
@@ -50,7 +56,9 @@ private:
         return members;
     }
 
-    QSet<QString> m_texts;
+    // The text read last of those that share a place: enough for what comes again and again, and cheaper than a set.
+    static constexpr int cKnownTexts = 4096;
+    QVector<QString> m_texts = QVector<QString>(cKnownTexts);
 };
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "ui/ConferenceInfoListViewDelegate.h"
 
-#include "common/CommonFun.h"
 #include "common/DpiScale.h"
 #include "common/IconGlyphs.h"
 #include "common/Palette.h"
@@ -20,6 +19,9 @@ constexpr int cGlyphSide = 16;
 constexpr int cDirectionPixels = 12;
 constexpr int cDetailPixels = 16;
 
+// More room than the time of any conference needs.
+constexpr int cLongestStatus = 1024;
+
 constexpr QColor cLineColor = cLineColor_;
 constexpr QColor cButtonColor(76, 152, 223);
 
@@ -28,16 +30,17 @@ int dpi(int iPixels)
     return ADAPT_DPI_INT(iPixels);
 }
 
-void drawWrapped(QPainter &painter, const QRect &place, const QString &strText)
+/// Draws a line cut to the width of its place.
+void drawCut(QPainter &painter, LineCache &lines, const QRect &place, const QString &strText)
 {
-    painter.drawText(place, Qt::TextWrapAnywhere, strText);
+    RowPainter::drawLine(painter, place, lines.line(painter, strText, place.width()).text);
 }
 
-void paintDetailButton(QPainter &painter, const QRect &row, const QModelIndex &index)
+void paintDetailButton(QPainter &painter, LineCache &lines, const QRect &row, const QModelIndex &index)
 {
     const QRect place(row.right() + 1 - dpi(cMargin) - dpi(cGlyphSide), row.top() + dpi(10) + dpi(5) + dpi(20),
                       dpi(cGlyphSide), dpi(cGlyphSide));
-    RowPainter::drawGlyph(painter, place, IconGlyph::Detail, cDetailPixels, cButtonColor);
+    RowPainter::drawGlyph(painter, lines, place, IconGlyph::Detail, cDetailPixels, cButtonColor);
     RowPainter::keepRect(index, ROLE_REMOVE_RECT, place);
 }
 
@@ -47,38 +50,38 @@ QString statusText(const QModelIndex &index, bool bConnected)
 }
 
 /// The status at the right and the name in the room that it leaves.
-void paintFirstLine(QPainter &painter, const QRect &row, const QString &strStatus, const QString &strName)
+void paintFirstLine(QPainter &painter, LineCache &lines, const QRect &row, const QString &strStatus,
+                    const QString &strName)
 {
     painter.setFont(RowPainter::textFont());
     painter.setPen(strCOLOR_MAININFO_LIGHT_BLACK);
-    const QFontMetrics metrics = painter.fontMetrics();
-    const int iStatusWidth = metrics.horizontalAdvance(strStatus);
+    const LineCache::Line &status = lines.line(painter, strStatus, cLongestStatus);
+    const int iStatusWidth = status.iWidth;
     const int iTop = row.top() + dpi(cMargin);
-    RowPainter::drawLine(
-        painter, QRect(row.right() + 1 - dpi(cMargin) - iStatusWidth, iTop, iStatusWidth, dpi(cLineHeight)), strStatus);
+    RowPainter::drawLine(painter,
+                         QRect(row.right() + 1 - dpi(cMargin) - iStatusWidth, iTop, iStatusWidth, dpi(cLineHeight)),
+                         status.text);
     QRect place(row.left() + dpi(cTextLeft), iTop, 0, dpi(cLineHeight));
     place.setRight(place.left() + (row.right() - row.left()) - iStatusWidth - dpi(80));
-    drawWrapped(painter, place, RowPainter::elidedLine(metrics, strName, place.width()));
+    drawCut(painter, lines, place, strName);
 }
 
-void paintDirection(QPainter &painter, const QRect &row, bool bCreatedByMe)
+void paintDirection(QPainter &painter, LineCache &lines, const QRect &row, bool bCreatedByMe)
 {
-    QFont font = CommonFun::getIconFont();
-    font.setPixelSize(dpi(cDirectionPixels));
-    painter.setFont(font);
-    drawWrapped(painter,
-                QRect(row.left() + dpi(cTextLeft), row.top() + dpi(cSecondTop), dpi(cGlyphSide), dpi(cGlyphSide)),
-                IconGlyph::text(bCreatedByMe ? IconGlyph::CreatedByMe : IconGlyph::JoinedByMe));
+    RowPainter::drawGlyph(
+        painter, lines,
+        QRect(row.left() + dpi(cTextLeft), row.top() + dpi(cSecondTop), dpi(cGlyphSide), dpi(cGlyphSide)),
+        bCreatedByMe ? IconGlyph::CreatedByMe : IconGlyph::JoinedByMe, dpi(cDirectionPixels), QColor());
 }
 
 /// The line that tells when. Deliberate: it is drawn in the icon font that the direction has left in the painter.
-void paintSecondLine(QPainter &painter, const QRect &row, bool bDetailButton, const QString &strLine)
+void paintSecondLine(QPainter &painter, LineCache &lines, const QRect &row, bool bDetailButton, const QString &strLine)
 {
     const int iButtonRoom = bDetailButton ? dpi(cGlyphSide) + dpi(10) : 0;
     const int iWidth = row.width() - dpi(cGlyphSide) - dpi(10) - dpi(10) - dpi(cHeadSide) - 2 * dpi(10) - iButtonRoom;
     const QRect place(row.left() + dpi(10) + dpi(cHeadSide) + dpi(20) + dpi(cGlyphSide), row.top() + dpi(cSecondTop),
                       iWidth, dpi(cLineHeight));
-    drawWrapped(painter, place, RowPainter::elidedLine(painter.fontMetrics(), strLine, iWidth));
+    drawCut(painter, lines, place, strLine);
 }
 
 } // namespace
@@ -96,10 +99,10 @@ void CConferenceInfoListViewDelegate::paint(QPainter *painter, const QStyleOptio
 
     paintHead(*painter, row, index);
     if (bDetailButton)
-        paintDetailButton(*painter, row, index);
-    paintFirstLine(*painter, row, statusText(index, bConnected), index.data(ROLE_DISPLAY_NAME).toString());
-    paintDirection(*painter, row, index.data(ROLE_CREATED_BY_ME).toBool());
-    paintSecondLine(*painter, row, bDetailButton,
+        paintDetailButton(*painter, m_lines, row, index);
+    paintFirstLine(*painter, m_lines, row, statusText(index, bConnected), index.data(ROLE_DISPLAY_NAME).toString());
+    paintDirection(*painter, m_lines, row, index.data(ROLE_CREATED_BY_ME).toBool());
+    paintSecondLine(*painter, m_lines, row, bDetailButton,
                     ConferenceTexts::titleLine(index.data(ROLE_CONF_CREATE_TIME).toString()));
     painter->fillRect(QRect(QPoint(row.left() + dpi(cTextLeft), row.bottom()), QPoint(row.right(), row.bottom())),
                       cLineColor);

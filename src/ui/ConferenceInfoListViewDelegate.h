@@ -5,6 +5,7 @@
 // only.
 
 #include "ui/HeadCache.h"
+#include "ui/LineCache.h"
 #include "ui/RowPainter.h"
 
 #include <QStyledItemDelegate>
@@ -26,5 +27,6 @@ public:
 private:
     void paintHead(QPainter &painter, const QRect &row, const QModelIndex &index) const;
 
+    mutable LineCache m_lines;
     mutable HeadCache m_heads{&RowPainter::maskedHead};
 };

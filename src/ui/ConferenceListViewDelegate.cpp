@@ -19,6 +19,9 @@ constexpr int cStatusWidth = 50;
 constexpr int cStatusDistance = 100;
 constexpr int cGlyphPixels = 14;
 
+// More room than a status needs in any font.
+constexpr int cLongestStatus = 1024;
+
 constexpr QColor cDefault_Button_Color(158, 158, 158);
 constexpr QColor cRemove_Button_Hover_Color(255, 97, 88);
 
@@ -48,40 +51,44 @@ struct RowPlaces
 };
 
 /// Draws the name in the room up to the status and returns where the creator's mark stands behind it.
-QRect paintName(QPainter &painter, const QRect &row, const QRect &status, const QString &strName)
+QRect paintName(QPainter &painter, LineCache &lines, const QRect &row, const QRect &status, const QString &strName)
 {
     painter.setFont(RowPainter::textFont());
     const int iHeadEnd = row.left() + dpi(cMargin) + dpi(cHeadSide);
     const int iLeft = iHeadEnd + dpi(cGap);
     const int iRoom = status.left() - iHeadEnd - dpi(cGap) - dpi(cButtonSide) - 2 * dpi(cButtonSide);
-    const QFontMetrics metrics = painter.fontMetrics();
-    const int iWidth = RowPainter::lineWidth(metrics, strName, iRoom);
-    RowPainter::drawLine(painter, QRect(iLeft, row.top() + dpi(cTop), iWidth, row.height()),
-                         RowPainter::elidedLine(metrics, strName, iRoom));
-    return {iLeft + iWidth + dpi(cButtonSide), row.top() + dpi(cTop), dpi(cButtonSide), dpi(cButtonSide)};
+    const LineCache::Line &name = lines.line(painter, strName, iRoom);
+    RowPainter::drawLine(painter, QRect(iLeft, row.top() + dpi(cTop), name.iWidth, row.height()), name.text);
+    return {iLeft + name.iWidth + dpi(cButtonSide), row.top() + dpi(cTop), dpi(cButtonSide), dpi(cButtonSide)};
 }
 
-void paintStatus(QPainter &painter, const QRect &place, int iStatus)
+void paintStatus(QPainter &painter, LineCache &lines, const QRect &place, int iStatus)
 {
     const QPen pen = painter.pen();
     const QColor color = conferenceStatusColor(iStatus);
     if (color.isValid())
         painter.setPen(color);
-    painter.drawText(place, conferenceStatusText(iStatus), QTextOption());
+    const QString strText = conferenceStatusText(iStatus);
+    const LineCache::Line &line = lines.line(painter, strText, cLongestStatus);
+    // A font too wide for the place breaks the text into lines.
+    if (line.iWidth <= place.width())
+        RowPainter::drawLine(painter, place, line.text);
+    else
+        painter.drawText(place, strText, QTextOption());
     painter.setPen(pen);
 }
 
-void paintButtons(QPainter &painter, const RowPlaces &places, int iStatus, const QModelIndex &index)
+void paintButtons(QPainter &painter, LineCache &lines, const RowPlaces &places, int iStatus, const QModelIndex &index)
 {
     const QColor removeColor =
         index.data(ROLE_REMOVE_HOVER).toBool() ? cRemove_Button_Hover_Color : cDefault_Button_Color;
-    RowPainter::drawGlyph(painter, places.remove, IconGlyph::Remove, dpi(cGlyphPixels), removeColor);
+    RowPainter::drawGlyph(painter, lines, places.remove, IconGlyph::Remove, dpi(cGlyphPixels), removeColor);
     RowPainter::keepRect(index, ROLE_REMOVE_RECT, places.remove);
     if (iStatus != ConferenceConnected)
         return;
     const QColor muteColor = index.data(ROLE_MUTE_HOVER).toBool() ? cMute_Button_Hover_Color : cDefault_Button_Color;
     const ushort glyph = index.data(ROLE_MUTED).toBool() ? IconGlyph::MemberMuted : IconGlyph::MemberUnmuted;
-    RowPainter::drawGlyph(painter, places.mute, glyph, dpi(cGlyphPixels), muteColor);
+    RowPainter::drawGlyph(painter, lines, places.mute, glyph, dpi(cGlyphPixels), muteColor);
     RowPainter::keepRect(index, ROLE_MUTE_RECT, places.mute);
 }
 
@@ -100,12 +107,13 @@ void CConferenceListViewDelegate::paint(QPainter *painter, const QStyleOptionVie
     const RowPlaces places(row, bCallByMe);
 
     paintHead(*painter, row, index);
-    const QRect creator = paintName(*painter, row, places.status, index.data(ROLE_DISPLAY_NAME).toString());
-    paintStatus(*painter, places.status, iStatus);
+    const QRect creator = paintName(*painter, m_lines, row, places.status, index.data(ROLE_DISPLAY_NAME).toString());
+    paintStatus(*painter, m_lines, places.status, iStatus);
     if (bCallByMe && iStatus != ConferenceCalling)
-        paintButtons(*painter, places, iStatus, index);
+        paintButtons(*painter, m_lines, places, iStatus, index);
     if (index.data(ROLE_IS_CREATOR).toBool())
-        RowPainter::drawGlyph(*painter, creator, IconGlyph::Creator, dpi(cGlyphPixels), strCOLOR_ICON_MID_GREY);
+        RowPainter::drawGlyph(*painter, m_lines, creator, IconGlyph::Creator, dpi(cGlyphPixels),
+                              strCOLOR_ICON_MID_GREY);
     RowPainter::drawBottomLine(*painter, row.left() + dpi(cMargin), row.right() - dpi(cMargin), row.bottom());
 }
 

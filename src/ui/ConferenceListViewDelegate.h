@@ -4,6 +4,7 @@
 // the row's buttons stand, which is how the list's mouse handlers learn it. Owned by the list; GUI thread only.
 
 #include "ui/HeadCache.h"
+#include "ui/LineCache.h"
 #include "ui/RowPainter.h"
 
 #include <QStyledItemDelegate>
@@ -24,5 +25,6 @@ public:
 private:
     void paintHead(QPainter &painter, const QRect &row, const QModelIndex &index) const;
 
+    mutable LineCache m_lines;
     mutable HeadCache m_heads{&RowPainter::maskedHead};
 };

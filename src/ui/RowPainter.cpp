@@ -3,6 +3,7 @@
 #include "common/CommonFun.h"
 #include "common/DpiScale.h"
 #include "common/PictureFile.h"
+#include "ui/LineCache.h"
 
 #include <QAbstractItemModel>
 #include <QBitmap>
@@ -13,6 +14,9 @@
 namespace {
 
 constexpr int cTextPixels = 12;
+
+// More than any glyph is wide: one is never cut.
+constexpr int cGlyphRoom = 1024;
 
 // No line of text is measured beyond so many characters: more of them fit only where they have no width.
 constexpr int cMostCharacters = 2048;
@@ -101,14 +105,28 @@ void RowPainter::drawLine(QPainter &painter, const QRect &place, const QString &
     painter.drawText(place, strText, option);
 }
 
-void RowPainter::drawGlyph(QPainter &painter, const QRect &place, ushort glyph, int iPixels, const QColor &color)
+void RowPainter::drawLine(QPainter &painter, const QRect &place, const QStaticText &line)
+{
+    // As QPainter::drawText does it: nothing shows outside the place.
+    const bool bClipped = !QRectF(place).contains(QRectF(place.topLeft(), line.size()));
+    if (bClipped) {
+        painter.save();
+        painter.setClipRect(place, Qt::IntersectClip);
+    }
+    painter.drawStaticText(place.topLeft(), line);
+    if (bClipped)
+        painter.restore();
+}
+
+void RowPainter::drawGlyph(QPainter &painter, LineCache &lines, const QRect &place, ushort glyph, int iPixels,
+                           const QColor &color)
 {
     QFont font = CommonFun::getIconFont();
     font.setPixelSize(iPixels);
     painter.setFont(font);
     if (color.isValid())
         painter.setPen(color);
-    drawLine(painter, place, QString(QChar(glyph)));
+    drawLine(painter, place, lines.line(painter, QString(QChar(glyph)), cGlyphRoom).text);
 }
 
 void RowPainter::drawBottomLine(QPainter &painter, int iLeft, int iRight, int iBottom)

@@ -10,10 +10,12 @@
 #include <QPixmap>
 #include <QString>
 
+class LineCache;
 class QFontMetrics;
 class QModelIndex;
 class QPainter;
 class QRect;
+class QStaticText;
 
 /// The colour of the line below a row.
 constexpr QColor cLineColor_(224, 224, 224);
@@ -55,9 +57,14 @@ public:
     /// Draws one line from `place`'s top left corner with the painter's font and pen. Nothing in it is interpreted.
     static void drawLine(QPainter &painter, const QRect &place, const QString &strText);
 
-    /// Draws a character of the icon font, `iPixels` high, from `place`'s top left corner. The painter keeps the icon
-    /// font and, if `color` is valid, a pen of that colour; one that is not leaves the pen as it is.
-    static void drawGlyph(QPainter &painter, const QRect &place, ushort glyph, int iPixels, const QColor &color);
+    /// The same with a line that is laid out already.
+    static void drawLine(QPainter &painter, const QRect &place, const QStaticText &line);
+
+    /// Draws a character of the icon font, `iPixels` high, from `place`'s top left corner, laid out by `lines`. The
+    /// painter keeps the icon font and, if `color` is valid, a pen of that colour; one that is not leaves the pen as it
+    /// is.
+    static void drawGlyph(QPainter &painter, LineCache &lines, const QRect &place, ushort glyph, int iPixels,
+                          const QColor &color);
 
     /// The line below a row: from `iLeft` to `iRight`, both covered, at the height `iBottom`.
     static void drawBottomLine(QPainter &painter, int iLeft, int iRight, int iBottom);

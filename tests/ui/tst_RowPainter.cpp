@@ -1,6 +1,7 @@
 #include "ui/RowPainter.h"
 
 #include "common/CommonFun.h"
+#include "ui/LineCache.h"
 
 #include <QFile>
 #include <QFontMetrics>
@@ -161,6 +162,7 @@ private slots:
 
     void glyphStandsInTheIconFontAtItsPlace()
     {
+        LineCache lines;
         const QRect place(30, 10, 18, 18);
         const QImage expected = painted([&](QPainter &painter) {
             QFont font = CommonFun::getIconFont();
@@ -170,7 +172,7 @@ private slots:
             painter.drawText(place, QStringLiteral("A"), QTextOption());
         });
         QCOMPARE(painted([&](QPainter &painter) {
-                     RowPainter::drawGlyph(painter, place, ushort('A'), 14, QColor(255, 97, 88));
+                     RowPainter::drawGlyph(painter, lines, place, ushort('A'), 14, QColor(255, 97, 88));
                      QCOMPARE(painter.font().pixelSize(), 14);
                      QCOMPARE(painter.pen().color(), QColor(255, 97, 88));
                  }),
@@ -180,8 +182,9 @@ private slots:
     void glyphWithoutAColourKeepsThePen()
     {
         painted([](QPainter &painter) {
+            LineCache lines;
             painter.setPen(Qt::blue);
-            RowPainter::drawGlyph(painter, QRect(0, 0, 18, 18), ushort('A'), 14, QColor());
+            RowPainter::drawGlyph(painter, lines, QRect(0, 0, 18, 18), ushort('A'), 14, QColor());
             QCOMPARE(painter.pen().color(), QColor(Qt::blue));
         });
     }

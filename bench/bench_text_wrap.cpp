@@ -1,0 +1,68 @@
+// Long texts broken into lines: for a tip, for a view and for a label. All are to grow with the text and no faster.
+
+#include "common/CommonFun.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QLabel>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+constexpr int kMiddle = 10000;
+constexpr int kLong = 100000;
+constexpr int kWidth = 240;
+
+QString mixedText(const benchmark::State &state)
+{
+    return QStringLiteral("a few words 中文 ").repeated(int(state.range(0)) / 15);
+}
+
+void countedCharacter(benchmark::State &state)
+{
+    const QString text = mixedText(state);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(text.count(QLatin1Char('a')));
+}
+
+void shortString(benchmark::State &state)
+{
+    const QString text = mixedText(state);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(CommonFun::getShortString(text, 40));
+}
+
+void lineWrapText(benchmark::State &state)
+{
+    const QString text = mixedText(state);
+    const QFontMetrics metrics{QFont()};
+    for (auto _ : state)
+        benchmark::DoNotOptimize(CommonFun::getLineWrapText(kWidth, text, metrics, 0));
+}
+
+void formatWithControl(benchmark::State &state)
+{
+    const QString text = mixedText(state);
+    QLabel label;
+    label.resize(kWidth, 100);
+    for (auto _ : state) {
+        QString out;
+        benchmark::DoNotOptimize(CommonFun::stringFormatWithControl(text, &label, out, 0));
+    }
+}
+
+BENCHMARK(countedCharacter)->Arg(kMiddle)->Arg(kLong);
+BENCHMARK(shortString)->Arg(kMiddle)->Arg(kLong)->Arg(10 * kLong)->Arg(100 * kLong);
+BENCHMARK(lineWrapText)->Arg(kMiddle)->Arg(kLong);
+BENCHMARK(formatWithControl)->Arg(kMiddle)->Arg(kLong);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

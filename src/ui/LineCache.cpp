@@ -1,0 +1,37 @@
+#include "ui/LineCache.h"
+
+#include "ui/RowPainter.h"
+
+#include <QPainter>
+
+namespace {
+
+// A list that shows more texts than this starts its cache anew.
+constexpr int cMostLines = 4096;
+
+QStaticText laidOut(const QString &strLine, const QFont &font)
+{
+    QStaticText text(strLine);
+    text.setTextFormat(Qt::PlainText);
+    text.setPerformanceHint(QStaticText::AggressiveCaching);
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    text.setTextOption(option);
+    text.prepare(QTransform(), font);
+    return text;
+}
+
+} // namespace
+
+const LineCache::Line &LineCache::line(const QPainter &painter, const QString &strText, int iWidth)
+{
+    const Key key{strText, iWidth, painter.font()};
+    const auto known = m_lines.constFind(key);
+    if (known != m_lines.constEnd())
+        return *known;
+    if (m_lines.size() >= cMostLines)
+        m_lines.clear();
+    const QFontMetrics metrics = painter.fontMetrics();
+    return *m_lines.insert(key, {laidOut(RowPainter::elidedLine(metrics, strText, iWidth), key.font),
+                                 RowPainter::lineWidth(metrics, strText, iWidth)});
+}
