@@ -154,7 +154,7 @@ void tst_CentreForm::createButtonShowsAGreyMicrophone()
     const qreal dRatio = m_pWindow->devicePixelRatioF();
     const QPixmap expected = CommonFun::getIconFontPixmap(QString(QChar(0xE64D)), QColor(0x7c, 0x7c, 0x7c),
                                                           QSize(30, 30) * dRatio, qRound(16 * dRatio));
-    QCOMPARE(pButton->icon().pixmap(QSize(30, 30)).toImage().convertToFormat(QImage::Format_ARGB32),
+    QCOMPARE(pButton->icon().pixmap(expected.size()).toImage().convertToFormat(QImage::Format_ARGB32),
              expected.toImage().convertToFormat(QImage::Format_ARGB32));
 }
 
