@@ -1,6 +1,7 @@
 // The conference centre's form: names, sizes, texts, styles, signals and slots.
 
 #include "CentreTest.h"
+#include "common/CommonFun.h"
 #include "widgets/BaseFormEx.h"
 #include "widgets/IconButtonEx.h"
 
@@ -22,6 +23,8 @@ private slots:
     void layoutsHaveTheirMargins_data();
     void layoutsHaveTheirMargins();
     void buttonsTakeNoFocus();
+    void titleBarIsAsTheFormSaysIt();
+    void createButtonShowsAGreyMicrophone();
     void textsAndStyles();
     void signalsAndSlotsInOrder();
 };
@@ -125,6 +128,34 @@ void tst_CentreForm::buttonsTakeNoFocus()
     QVERIFY(part<CBaseFormEx>("widget"));
     QVERIFY(part<CIconButtonEx>("btnClose"));
     QCOMPARE(part<QWidget>("btnClose")->toolTip(), QStringLiteral("close"));
+}
+
+void tst_CentreForm::titleBarIsAsTheFormSaysIt()
+{
+    open({});
+    QVERIFY(part<QWidget>("titleWidget")->testAttribute(Qt::WA_SetCursor));
+    QCOMPARE(part<QWidget>("titleWidget")->cursor().shape(), Qt::ArrowCursor);
+    CIconButtonEx red;
+    red.setIconFont(QString(QChar(0xE62C)), 8, 3);
+    const auto *pExpected = red.findChild<QPushButton *>();
+    const auto *pClose = part<QWidget>("btnClose")->findChild<QPushButton *>();
+    QCOMPARE(pClose->text(), pExpected->text());
+    QCOMPARE(pClose->font(), pExpected->font());
+    QCOMPARE(pClose->styleSheet(), pExpected->styleSheet());
+    QCOMPARE(pClose->parentWidget()->styleSheet(), pExpected->parentWidget()->styleSheet());
+    QVERIFY(pClose->autoDefault());
+    QVERIFY(pClose->isFlat());
+}
+
+void tst_CentreForm::createButtonShowsAGreyMicrophone()
+{
+    open({});
+    const auto *pButton = part<QPushButton>("creatConferenceBtn");
+    const qreal dRatio = m_pWindow->devicePixelRatioF();
+    const QPixmap expected = CommonFun::getIconFontPixmap(QString(QChar(0xE64D)), QColor(0x7c, 0x7c, 0x7c),
+                                                          QSize(30, 30) * dRatio, qRound(16 * dRatio));
+    QCOMPARE(pButton->icon().pixmap(expected.size()).toImage().convertToFormat(QImage::Format_ARGB32),
+             expected.toImage().convertToFormat(QImage::Format_ARGB32));
 }
 
 void tst_CentreForm::textsAndStyles()

@@ -307,6 +307,19 @@ private slots:
         QCOMPARE(reader.take<qint32>(), m_iTop + 12);
     }
 
+    void cardHasTheGridsWholeWidthBesideAScrollBar()
+    {
+        show(60);
+        QVERIFY(m_pGrid->viewport()->width() < 517);
+        moveTo(head(0, 0).center());
+        runOut();
+        PayloadReader reader = m_pHost->received(MSG_SHOW_SIGN_LIST).constFirst().reader();
+        reader.take<QString>();
+        reader.take<qint32>();
+        reader.take<qint32>();
+        QCOMPARE(reader.take<qint32>(), 517);
+    }
+
     void delaysEndShowsTheCardOnce()
     {
         show(1);

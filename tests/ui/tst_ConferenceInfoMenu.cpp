@@ -33,6 +33,7 @@ private slots:
     void rowWithoutAnIdTellsNothing();
     void menuStaysOnTheScreen_data();
     void menuStaysOnTheScreen();
+    void menuThatJustFitsOpensAtTheCursor();
     void rightClickBelowTheRowsOpensNothing();
     void rightClickIsLeftToTheWindow();
 };
@@ -149,6 +150,25 @@ void tst_ConferenceInfoMenu::menuStaysOnTheScreen()
     QCOMPARE(pMenu->x(), left ? c.x() - pMenu->width() : c.x());
     QCOMPARE(pMenu->y(), above ? c.y() - pMenu->height() : c.y());
     QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(pMenu->geometry()));
+}
+
+void tst_ConferenceInfoMenu::menuThatJustFitsOpensAtTheCursor()
+{
+    showTwo();
+    openMenu(0);
+    const QMenu *pMenu = m_pList->m_pMenu;
+    const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
+    const QPoint last(screen.width() - pMenu->width(), screen.height() - pMenu->height());
+    for (const QPoint &step : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1)}) {
+        m_pList->m_pMenu->hide();
+        const QPoint cursor = last + step;
+        QCursor::setPos(cursor);
+        QTRY_COMPARE(QCursor::pos(), cursor);
+        QMouseEvent release(QEvent::MouseButtonRelease, cBeside, Qt::RightButton, Qt::NoButton, Qt::NoModifier);
+        m_pList->mouseReleaseEvent(&release);
+        QCOMPARE(pMenu->x(), step.x() == 0 ? cursor.x() : cursor.x() - pMenu->width());
+        QCOMPARE(pMenu->y(), step.y() == 0 ? cursor.y() : cursor.y() - pMenu->height());
+    }
 }
 
 void tst_ConferenceInfoMenu::rightClickBelowTheRowsOpensNothing()

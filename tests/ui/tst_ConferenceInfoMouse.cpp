@@ -43,6 +43,7 @@ private slots:
     void restingOnAHeadShowsTheCardOnce();
     void delaysEndShowsTheCard();
     void cardStandsAtTheHeadOfItsRow();
+    void cardHasTheListsWholeWidthBesideAScrollBar();
     void eachMoveInsideTheHeadStartsTheDelayAnew();
     void movingOffTheHeadCancelsTheCard();
     void movingOntoNoRowLeavesTheDelayRunning();
@@ -204,6 +205,19 @@ void tst_ConferenceInfoMouse::cardStandsAtTheHeadOfItsRow()
     moveTo(cOnHead + QPoint(15, 62));
     signDelayIsOver();
     QCOMPARE(takeSigns(), signFields(2, 72));
+}
+
+void tst_ConferenceInfoMouse::cardHasTheListsWholeWidthBesideAScrollBar()
+{
+    QList<ConfInfoData> records;
+    for (int i = 20; i > 0; --i)
+        records.append(record(QString::number(i + 10)));
+    show(records);
+    moveTo(cOnHead + QPoint(5, 4));
+    QTRY_VERIFY(m_pList->viewport()->width() < m_pList->width());
+    takeSigns();
+    signDelayIsOver();
+    QCOMPARE(takeSigns(), signFields(2, 10));
 }
 
 void tst_ConferenceInfoMouse::eachMoveInsideTheHeadStartsTheDelayAnew()

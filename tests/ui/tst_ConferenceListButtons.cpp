@@ -185,6 +185,7 @@ void tst_ConferenceListButtons::leavingTheButtonsWithinTheRowPutsThemOut()
     QTRY_COMPARE(data(0, ROLE_REMOVE_HOVER), QVariant(false));
     QCOMPARE(data(0, ROLE_MUTE_HOVER), QVariant(false));
     QCOMPARE(m_pList->cursor().shape(), Qt::ArrowCursor);
+    QTRY_VERIFY(!QToolTip::isVisible());
 }
 
 void tst_ConferenceListButtons::movingFromButtonToButtonKeepsTheFirstOnesFlag()

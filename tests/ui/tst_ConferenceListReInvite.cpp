@@ -94,6 +94,20 @@ private slots:
         QCOMPARE(invited.count(), 0);
     }
 
+    void everyRowsDoubleClickIsToldByTheViewToo()
+    {
+        const QSignalSpy told(m_pList.get(), &QAbstractItemView::doubleClicked);
+        showMembers(2, ConferenceConnected);
+        m_pList->updateConferenceUserStatus(QStringLiteral("m1"), ConferenceFailed);
+        for (const int iRow : {0, 1}) {
+            click(row(iRow).center());
+            doubleClick(iRow);
+            QCOMPARE(told.count(), iRow + 1);
+        }
+        doubleClick(1, Qt::RightButton);
+        QCOMPARE(told.count(), 2);
+    }
+
     void rightDoubleClickDoesNothing()
     {
         const QSignalSpy invited(m_pList.get(), &CConferenceListView::signal_ReInviteConfUser);

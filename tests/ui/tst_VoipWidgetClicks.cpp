@@ -32,6 +32,7 @@ private slots:
     void cameraClickSendsTheFlagItself();
     void muteAllClickMutesEveryRowAndSendsOnce();
     void muteAllSetsItsColourFirstAndTheOthersTheirGlyph();
+    void togglesHaveAHoverColourButTheMutedConferenceHasNone();
     void addMemberClickIsSent();
     void hangUpClickIsSentAndTheWindowStays();
     void cancelClickSendsHangUpTwice();
@@ -119,6 +120,17 @@ void tst_VoipWidgetClicks::muteAllSetsItsColourFirstAndTheOthersTheirGlyph()
     QCOMPARE(muteAll.m_glyph, ushort(0xE66A));
     QCOMPARE(mic.m_glyph, ushort(0xE64C));
     QCOMPARE(speaker.m_glyph, ushort(0xE66A));
+}
+
+void tst_VoipWidgetClicks::togglesHaveAHoverColourButTheMutedConferenceHasNone()
+{
+    for (const bool bOn : {true, false}) {
+        for (const char *name : {"btnMic", "btnSpeaker", "btnCamera", "btnMuteAll"}) {
+            press(name);
+            const bool bHover = !bOn || qstrcmp(name, "btnMuteAll") != 0;
+            QVERIFY2(button(name)->styleSheet().contains(QLatin1String("::hover")) == bHover, name);
+        }
+    }
 }
 
 void tst_VoipWidgetClicks::addMemberClickIsSent()

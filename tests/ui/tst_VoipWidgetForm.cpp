@@ -2,6 +2,7 @@
 
 #include "CallWindowTest.h"
 #include "ui/CallWindowStyle.h"
+#include "widgets/IconButtonEx.h"
 
 #include <QLayout>
 #include <QMetaMethod>
@@ -33,6 +34,9 @@ private slots:
     void everyFixedSizeHolds();
     void everyFaceIsSet_data();
     void everyFaceIsSet();
+    void closeButtonLooksLikeThoseOfTheOtherWindows();
+    void controlsBehaveAsTheFormSaysIt();
+    void stretchedLayoutsConstrainNothing();
     void slidersWaitHiddenWithTheirValues();
     void memberListStandsAsTheFormSaysIt();
 };
@@ -322,6 +326,42 @@ void tst_VoipWidgetForm::everyFaceIsSet()
     QTEST(part<QWidget>(name)->toolTip(), "toolTip");
     if (qstrcmp(name, "btnClose") != 0)
         QCOMPARE(glyphColor(name), QColor(184, 184, 184));
+}
+
+void tst_VoipWidgetForm::closeButtonLooksLikeThoseOfTheOtherWindows()
+{
+    CIconButtonEx red;
+    red.setIconFont(IconGlyph::text(IconGlyph::Close), 8, 3);
+    QCOMPARE(button("btnClose")->styleSheet(), red.findChild<QAbstractButton *>()->styleSheet());
+    QCOMPARE(button("btnClose")->parentWidget()->styleSheet(),
+             red.findChild<QAbstractButton *>()->parentWidget()->styleSheet());
+}
+
+void tst_VoipWidgetForm::controlsBehaveAsTheFormSaysIt()
+{
+    for (const char *name : {"btnClose", "btnMuteAll", "btnCancelCall"})
+        QCOMPARE(part<QWidget>(name)->focusPolicy(), Qt::NoFocus);
+    const auto inner = [this](const char *name) { return qobject_cast<QPushButton *>(button(name)); };
+    QVERIFY(inner("btnClose")->autoDefault());
+    QVERIFY(inner("btnClose")->isFlat());
+    QVERIFY(!inner("btnMuteAll")->isFlat());
+    QVERIFY(!inner("HangUp")->autoDefault());
+    QVERIFY(inner("HangUp")->isFlat());
+    QVERIFY(inner("btnAddMember")->autoDefault());
+    QVERIFY(inner("btnAddMember")->isFlat());
+    QCOMPARE(part<QWidget>("btnAddMember")->cursor().shape(), Qt::PointingHandCursor);
+    QVERIFY(part<QWidget>("titleWidget")->testAttribute(Qt::WA_SetCursor));
+    QCOMPARE(part<QWidget>("titleWidget")->cursor().shape(), Qt::ArrowCursor);
+    QVERIFY(part<QWidget>("titleWidget")->hasMouseTracking());
+    QVERIFY(part<QWidget>("widget4")->hasMouseTracking());
+    for (const char *name : {"currentPlayTimeLabel", "HangUp"})
+        QCOMPARE(part<QWidget>(name)->font().family(), QStringLiteral("微软雅黑"));
+}
+
+void tst_VoipWidgetForm::stretchedLayoutsConstrainNothing()
+{
+    for (const char *name : {"horizontalLayout_13", "WebViewLayout"})
+        QCOMPARE(part<QLayout>(name)->sizeConstraint(), QLayout::SetNoConstraint);
 }
 
 void tst_VoipWidgetForm::slidersWaitHiddenWithTheirValues()

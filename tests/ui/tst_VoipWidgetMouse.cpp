@@ -35,6 +35,7 @@ private:
 private slots:
     void cursorFollowsTheEdge_data();
     void cursorFollowsTheEdge();
+    void cursorBetweenOppositeEdgesIsAnArrow();
     void dragOfAnEdgeMovesTheBandAndThenTheCorner_data();
     void dragOfAnEdgeMovesTheBandAndThenTheCorner();
     void dragInwardsKeepsTheSmallestSize_data();
@@ -106,6 +107,16 @@ void tst_VoipWidgetMouse::cursorFollowsTheEdge()
     mouseTo(place);
     QTEST(m_pWindow->cursor().shape(), "shape");
     QVERIFY(!isBandShown());
+}
+
+void tst_VoipWidgetMouse::cursorBetweenOppositeEdgesIsAnArrow()
+{
+    // Only a window narrower than its two bands has such a place.
+    m_pWindow->setFixedWidth(6);
+    m_pWindow->setCursor(Qt::WaitCursor);
+    QMouseEvent move(QEvent::MouseMove, QPointF(3, 200), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(m_pWindow.get(), &move);
+    QCOMPARE(m_pWindow->cursor().shape(), Qt::ArrowCursor);
 }
 
 void tst_VoipWidgetMouse::dragOfAnEdgeMovesTheBandAndThenTheCorner_data()

@@ -249,6 +249,7 @@ void tst_LineEditEx::deleteButtonStandsAtTheRightEnd()
     QCOMPARE(pButton->cursor().shape(), Qt::ArrowCursor);
     QCOMPARE(pButton->findChild<QPushButton *>()->text(), QString(QChar(0xE62C)));
     QCOMPARE(pButton->findChild<QPushButton *>()->font().pixelSize(), 8);
+    QVERIFY(pButton->findChild<QPushButton *>()->styleSheet().contains(QLatin1String("::hover")));
     QCOMPARE(pLine->size(), QSize(1, 18));
     QCOMPARE(pLine->styleSheet(), QStringLiteral("QLabel{background-color:#e0e0e0;}"));
     QCOMPARE(inner()->layout()->contentsMargins(), QMargins(0, 0, 5, 0));
