@@ -18,8 +18,8 @@ bool isPictureFormat(const QByteArray &format)
                        [&format](const char *pFormat) { return format == pFormat; });
 }
 
-// No picture format says more pixels with a byte of its file. A damaged file that declares more would cost the memory and
-// the time of a picture that it does not hold.
+// No picture format says more pixels with a byte of its file. A damaged file that declares more would cost the memory
+// and the time of a picture that it does not hold.
 constexpr qint64 MOST_PIXELS_PER_BYTE = 10000;
 
 // A bitmap that is stored from its top row down declares a negative height.

@@ -11,14 +11,14 @@ import sys
 # Where a path in a document may begin, beside the folder of the project and that of the document.
 BEGINNINGS = ("src", "tests", "apps", "apps/host", "apps/callprocess", "apps/callprocess/scenarios", "resources")
 # What is there only once something was built, installed or run; tests/packaging looks at it.
-MADE = re.compile(r"build/|~/|/usr/|(bin|include|lib|share)/|Resources/|VoipSDK/|lib\w+\.(so|a)$|allurl\.ini$|data\.db$|.*localData\.db$")
+MADE = re.compile(r"build(-\w+)?/|~/|/usr/|(bin|include|lib|share)/|Resources/|VoipSDK/|lib\w+\.(so|a)$|allurl\.ini$|data\.db$|.*localData\.db$")
 # Files of the reader's own.
 READERS = {"main.cpp", "CMakeLists.txt", "run.scn"}
 # Texts that look like paths: a key of the settings, the id of the interface.
 KEYS = {"languageSetting/language", "kelvarim/1.0"}
 # Words in code marks that are no names: what the reader fills in, programs of the system, made-up examples.
 FOREIGN = {
-    "DURATION", "CONTENT", "BYTES", "CODE", "VALUE", "paramN", "pkill", "diff", "myatlist", "quikrply",
+    "DURATION", "CONTENT", "BYTES", "CODE", "VALUE", "paramN", "pkill", "diff", "callgrind", "myatlist", "quikrply",
     "sqlite_autoindex_", "uXXXX",
 }
 SOURCES = (".cpp", ".h", ".def", ".ui", ".cmake", ".txt", ".map", ".scn", ".py", ".ts", ".in", ".json", "")
@@ -56,12 +56,14 @@ def is_path(code):
 
 def words_of_the_code(root):
     files = [path for path in root.iterdir() if path.is_file()]
-    for folder in ("src", "apps", "tests", "bench", "packaging", "cmake", "tools", "resources"):
+    for folder in ("src", "apps", "tests", "bench", "packaging", "cmake", "tools", "resources", "fuzz"):
         files += (root / folder).rglob("*")
     words = set()
     for path in files:
         if path.suffix in SOURCES and path.is_file() and path != pathlib.Path(__file__).resolve():
             words.update(re.findall(r"\w+", path.read_bytes().decode(errors="replace")))
+            # ./test --only takes the name of a test program without what all begin with.
+            words.add(path.stem.removeprefix("tst_"))
     return words
 
 
