@@ -119,6 +119,17 @@ private slots:
         QVERIFY(nextLine().endsWith(QStringLiteral("]: 7,-1,2.5,10,会议,语音,18446744073709551615")));
     }
 
+    void numbersFollowTheSettingsOfTheStream()
+    {
+        CLogManger manger;
+        manger.m_pTextStream->setNumberFlags(QTextStream::ForceSign);
+        manger << 7;
+        manger.m_pTextStream->setNumberFlags({});
+        manger.m_pTextStream->setIntegerBase(16);
+        manger << ',' << 255;
+        QCOMPARE(manger.m_strMessage, QStringLiteral("+7,ff"));
+    }
+
     void textItemsAreUtf8()
     {
         LOG_DEBUG << "呼叫中 " << u8"对方正忙" << "\n";

@@ -164,6 +164,16 @@ private slots:
         QCOMPARE(menu.m_listChild.size(), 1);
     }
 
+    void childrenAtHandStayBeforeTheNewOnes()
+    {
+        ServiceMenu menu;
+        menu.parseMenu(json(R"({"child":[{"name":"x","leaf":true}]})"));
+        menu.parseMenu(json(R"({"child":[{"name":"y","leaf":true}]})"));
+        QCOMPARE(menu.m_listChild.size(), 2);
+        QCOMPARE(menu.m_listChild.at(0).m_strName, QString("x"));
+        QCOMPARE(menu.m_listChild.at(1).m_strName, QString("y"));
+    }
+
     void childrenThatAreNoArrayAreNone()
     {
         ServiceMenu menu;

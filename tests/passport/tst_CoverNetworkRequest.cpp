@@ -53,7 +53,10 @@ private slots:
     {
         QNetworkRequest request;
         request.setRawHeader("Proxy-Authorization", "p");
-        QCOMPARE(m_context.CoverNetworkRequest(request).rawHeader("Proxy-Authorization"), QByteArray("p"));
+        request.setRawHeader("Authorization-Info", "i");
+        const QNetworkRequest sent = m_context.CoverNetworkRequest(request);
+        QCOMPARE(sent.rawHeader("Proxy-Authorization"), QByteArray("p"));
+        QCOMPARE(sent.rawHeader("Authorization-Info"), QByteArray("i"));
     }
 
     void theIdIsTheOneCookie()

@@ -253,6 +253,9 @@ void tst_VoipManageEventProcess::friendIsAskedForWhenTheMapHasAnother()
     m_context.setFriendDataMap({{QStringLiteral("U1@d"), FriendData()}});
     Requests::getFriendInfoByJid(jid);
     QCOMPARE(host()->commands(), QList<int>{4157});
+    m_context.setFriendDataMap({{jid, FriendData()}});
+    Requests::getFriendInfoByJid(QStringLiteral("U1@d"));
+    QCOMPARE(host()->commands(), (QList<int>{4157, 4157}));
 }
 
 void tst_VoipManageEventProcess::unknownFriendIsCopiedFromTheAnsweredAddress()
