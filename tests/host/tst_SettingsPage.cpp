@@ -329,14 +329,15 @@ void tst_SettingsPage::tabGoesDownThePage()
 {
     SettingsPage &page = m_pWindow->settingsPage();
     part<QCheckBox>("boxSilent")->setFocus();
+    // A group of choices is one stop or one for each, as the desktop has it.
     QStringList stops;
-    for (int i = 0; i < 12; ++i) {
+    for (int i = 0; i < 12 && (stops.isEmpty() || stops.last() != "btnClose"); ++i) {
         QTest::keyClick(page.focusWidget(), Qt::Key_Tab);
-        stops.append(page.focusWidget()->objectName());
+        stops.append(page.focusWidget()->objectName().section('_', 0, 0));
     }
-    QCOMPARE(stops, (QStringList{"language_zh_CN", "language_zh_TW", "language_en", "skin_ThemeGreen", "skin_ThemeBlue",
-                                 "skin_ThemeRed", "skin_ThemeGrey", "editDataFolder", "btnDataFolder",
-                                 "editReceiveFolder", "btnReceiveFolder", "btnClose"}));
+    stops.removeDuplicates();
+    QCOMPARE(stops, (QStringList{"language", "skin", "editDataFolder", "btnDataFolder", "editReceiveFolder",
+                                 "btnReceiveFolder", "btnClose"}));
 }
 
 void tst_SettingsPage::escapeClosesThePage()
