@@ -38,7 +38,7 @@ unsigned char ScreenKeys::codeOf(unsigned int keysym) const
     }
     const xcb_keysym_t *symbols = xcb_get_keyboard_mapping_keysyms(map.get());
     for (int key = 0; key < count; ++key) {
-        if (symbols[key * map->keysyms_per_keycode] == keysym) {
+        if (symbols[std::ptrdiff_t(key) * map->keysyms_per_keycode] == keysym) {
             return std::uint8_t(setup->min_keycode + key);
         }
     }

@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr qint64 mostAtOnce = 8 * 1024 * 1024;
-constexpr qint64 pieceSize = 256 * 1024;
+constexpr qint64 mostAtOnce = Q_INT64_C(8) * 1024 * 1024;
+constexpr qint64 pieceSize = Q_INT64_C(256) * 1024;
 constexpr int longestLine = 64 * 1024;
 
 bool parseLine(const QString &strLine, WireLine *line)

@@ -43,7 +43,7 @@ public:
 private:
     QString shared(const QString &text)
     {
-        QString &known = m_texts[qHash(text) % cKnownTexts];
+        QString &known = m_texts[int(qHash(text) % cKnownTexts)];
         if (known != text)
             known = text;
         return known;
