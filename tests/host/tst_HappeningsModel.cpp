@@ -1,25 +1,10 @@
 #include "HappeningRows.h"
 #include "HappeningsModel.h"
+#include "Waves.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTranslator>
-
-namespace {
-
-/// A language in which every text begins with a wave.
-class Waves : public QTranslator
-{
-public:
-    QString translate(const char *, const char *strText, const char *, int) const override
-    {
-        return QLatin1Char('~') + QString::fromUtf8(strText);
-    }
-    bool isEmpty() const override { return false; }
-};
-
-} // namespace
 
 class tst_HappeningsModel : public QObject
 {

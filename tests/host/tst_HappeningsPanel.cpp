@@ -2,6 +2,7 @@
 #include "HappeningsPanel.h"
 #include "HostSession.h"
 #include "PressButton.h"
+#include "Waves.h"
 
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
@@ -10,7 +11,6 @@
 #include <QClipboard>
 #include <QFile>
 #include <QTest>
-#include <QTranslator>
 
 namespace {
 
@@ -25,16 +25,6 @@ protected:
         count += event->type() == QEvent::Paint ? 1 : 0;
         return QObject::eventFilter(watched, event);
     }
-};
-
-class Waves : public QTranslator
-{
-public:
-    QString translate(const char *, const char *strText, const char *, int) const override
-    {
-        return QLatin1Char('~') + QString::fromUtf8(strText);
-    }
-    bool isEmpty() const override { return false; }
 };
 
 } // namespace
