@@ -1,5 +1,6 @@
 // A conference: starting it, being invited, adding, removing and muting members, its end.
 
+#include "WhileAsked.h"
 #include "fakes/EngineFixture.h"
 #include "ui/VoipWidget.h"
 
@@ -162,21 +163,12 @@ void tst_ConferenceFlow::startIsSentAndShownBehindTheQueries()
 {
     EngineFixture f;
     f.manager->m_strUserId = "me";
-    QString callMeanwhile;
-    QStringList linesMeanwhile{"not asked"};
-    bool shownMeanwhile = true;
-    f.whileHandled = [&](BaseEvent &event) {
-        if (event.msgId != MSG_IS_EXIST_FRIEND)
-            return;
-        callMeanwhile = f.callText();
-        linesMeanwhile = f.takeLines();
-        shownMeanwhile = f.manager->m_pVoipWidget->isVisible() || f.manager->m_inviteTimer.isActive();
-    };
+    WhileAsked asked(f);
     f.manager->callConference({"anna", "bert"}, false, "");
     // The list is still the host's: the own id comes behind the queries.
-    QCOMPARE(callMeanwhile, QString("1|0|1|0|anna+bert|||||"));
-    QCOMPARE(linesMeanwhile, QStringList());
-    QVERIFY(!shownMeanwhile);
+    QCOMPARE(asked.call, QString("1|0|1|0|anna+bert|||||"));
+    QCOMPARE(asked.lines, QStringList());
+    QVERIFY(!asked.bShown);
     QCOMPARE(f.callText(), QString("1|0|1|0|anna+bert+me|||||"));
 }
 

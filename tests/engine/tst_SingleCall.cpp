@@ -1,5 +1,6 @@
 // One call between two people: placing, receiving and accepting it, and what goes out meanwhile.
 
+#include "WhileAsked.h"
 #include "fakes/EngineFixture.h"
 #include "ui/VoipWidget.h"
 #include "widgets/PushButtonEx.h"
@@ -125,21 +126,12 @@ void tst_SingleCall::placedCallAsksTheHostAboutEverybody()
 void tst_SingleCall::placedCallIsSentAndShownBehindTheQueries()
 {
     EngineFixture f;
-    QString callMeanwhile;
-    QStringList linesMeanwhile{"not asked"};
-    bool shownMeanwhile = true;
-    f.whileHandled = [&](BaseEvent &event) {
-        if (event.msgId != MSG_IS_EXIST_FRIEND)
-            return;
-        callMeanwhile = f.callText();
-        linesMeanwhile = f.takeLines();
-        shownMeanwhile = f.manager->m_pVoipWidget->isVisible() || f.manager->m_inviteTimer.isActive();
-    };
+    WhileAsked asked(f);
     f.manager->callSingleUser("anna", true);
     // The caller and the peer are known by then, the video is not.
-    QCOMPARE(callMeanwhile, QString("0|0|1|0|||anna|||"));
-    QCOMPARE(linesMeanwhile, QStringList());
-    QVERIFY(!shownMeanwhile);
+    QCOMPARE(asked.call, QString("0|0|1|0|||anna|||"));
+    QCOMPARE(asked.lines, QStringList());
+    QVERIFY(!asked.bShown);
     QCOMPARE(f.callText(), QString("0|1|1|0|||anna|||"));
 }
 
