@@ -4,6 +4,8 @@
 #include "common/CommonFun.h"
 #include "common/CustomLogger.h"
 
+#include <QLocale>
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -110,8 +112,9 @@ void CLogManger::closeRecord()
 
 CLogManger &CLogManger::operator<<(int iNumber)
 {
-    // A text stream makes a text by the locale's rules for each number; most are written in plain digits.
-    if (m_pTextStream->integerBase() != 0 || m_pTextStream->numberFlags() != 0) {
+    // A text stream makes a text by the locale's rules for each number; one that nobody has set writes plain digits.
+    if (m_pTextStream->integerBase() != 0 || m_pTextStream->numberFlags() != 0 || m_pTextStream->fieldWidth() != 0 ||
+        m_pTextStream->locale() != QLocale::c()) {
         *m_pTextStream << iNumber;
         return *this;
     }

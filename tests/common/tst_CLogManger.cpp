@@ -130,6 +130,18 @@ private slots:
         QCOMPARE(manger.m_strMessage, QStringLiteral("+7,ff"));
     }
 
+    void numbersFollowTheLocaleAndTheFieldOfTheStream()
+    {
+        CLogManger manger;
+        manger.m_pTextStream->setLocale(QLocale(QLocale::German));
+        manger << 12345;
+        manger.m_pTextStream->setLocale(QLocale::c());
+        manger.m_pTextStream->setFieldAlignment(QTextStream::AlignAccountingStyle);
+        manger.m_pTextStream->setFieldWidth(5);
+        manger << -42;
+        QCOMPARE(manger.m_strMessage, QStringLiteral("12.345-  42"));
+    }
+
     void textItemsAreUtf8()
     {
         LOG_DEBUG << "呼叫中 " << u8"对方正忙" << "\n";
