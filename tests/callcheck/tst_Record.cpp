@@ -3,6 +3,7 @@
 #include "callcheck/PluginCommand.h"
 #include "callprocess/Scenario.h"
 #include "callprocess/Wire.h"
+#include "fakes/FileBytes.h"
 
 #include <QDir>
 #include <QFile>
@@ -38,7 +39,8 @@ class Recording
 public:
     explicit Recording(const QByteArray &scenario)
     {
-        writeFile(played(), scenario);
+        if (!writeFile(played(), scenario))
+            qFatal("cannot write %s", qPrintable(played()));
         process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     }
 
@@ -56,14 +58,6 @@ public:
         process.start(QStringLiteral(CALLCHECK_PROGRAM),
                       QStringList{"record", "--out", file()} + options +
                           QStringList{"--", QStringLiteral(VOIPSDK_PROGRAM), "--scenario", played()});
-    }
-
-    static void writeFile(const QString &path, const QByteArray &text)
-    {
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly)) {
-            file.write(text);
-        }
     }
 
     bool connectClient()
@@ -106,8 +100,7 @@ public:
     /// The recorded text behind the opening, which must be there.
     QByteArray recorded() const
     {
-        QFile opened(file());
-        const QByteArray text = opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray("no file");
+        const QByteArray text = readBytes(file());
         return text.startsWith(OPENING) ? text.mid(static_cast<int>(qstrlen(OPENING))) : "no opening: " + text;
     }
 
@@ -289,12 +282,10 @@ void tst_Record::endOfItsOwnIsRecorded()
 void tst_Record::existingFileIsLeftAlone()
 {
     Recording run("await RegeditUser\n");
-    Recording::writeFile(run.file(), "mine");
+    QVERIFY(writeFile(run.file(), "mine"));
     run.start();
     QCOMPARE(run.exitCode(), 2);
-    QFile file(run.file());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("mine"));
+    QCOMPARE(readBytes(run.file()), QByteArray("mine"));
 }
 
 void tst_Record::anotherLivesSoItStepsBack()
@@ -332,10 +323,8 @@ void tst_Record::callProcessGoesWithAKilledRecorder()
     run.start();
     qunsetenv("VOIPSDK_TRACE");
     QVERIFY(run.connectClient());
-    QFile file(trace);
-    QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray started = "started, process ";
-    const QByteArray text = file.readAll();
+    const QByteArray text = readBytes(trace);
     const int at = text.indexOf(started) + started.size();
     const auto id = static_cast<pid_t>(text.mid(at, text.indexOf('\n', at) - at).toInt());
     QVERIFY(id > 0 && ::kill(id, 0) == 0);

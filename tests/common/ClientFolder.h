@@ -1,8 +1,8 @@
 #pragma once
 // A client of a test's own: a folder with a copy of the test program, so that "allurl.ini" can lie beside it.
 
-#include "FileText.h"
 #include "OwnProcess.h"
+#include "fakes/FileBytes.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #pragma once
 // The log file of a test in its working directory, its backups and its lines.
 
-#include "FileText.h"
+#include "fakes/FileBytes.h"
 
 #include <QDir>
 #include <QList>
@@ -18,7 +18,7 @@ inline QString backup(int number)
 /// The lines of the log file, without their line feeds.
 inline QList<QByteArray> lines()
 {
-    QList<QByteArray> all = fileText(LOG).split('\n');
+    QList<QByteArray> all = readBytes(LOG).split('\n');
     all.removeLast();
     return all;
 }

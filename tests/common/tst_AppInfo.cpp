@@ -1,5 +1,5 @@
-#include "FileText.h"
 #include "OwnProcess.h"
+#include "fakes/FileBytes.h"
 
 #include "common/AppInfo.h"
 #include "common/AppPaths.h"
@@ -47,7 +47,7 @@ private slots:
     void settingTheVersionWritesTheVersionFile()
     {
         AppInfo::setIMVertion(QStringLiteral("4.6 版"));
-        QCOMPARE(fileText(strAPP_VERSION_FILE_PATH()), QByteArray("[ThisVersion]\nthisversion=4.6 版\n"));
+        QCOMPARE(readBytes(strAPP_VERSION_FILE_PATH()), QByteArray("[ThisVersion]\nthisversion=4.6 版\n"));
     }
 
     void settingTheVersionMakesAFileNamedByItsRegistryPath()
@@ -55,7 +55,7 @@ private slots:
         const QString name = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Kelvar\\IM");
         QFile::remove(name);
         AppInfo::setIMVertion(QStringLiteral("4.6 版"));
-        QCOMPARE(fileText(QDir::currentPath() + '/' + name), QByteArray("[General]\nThisVersion=4.6 版\n"));
+        QCOMPARE(readBytes(QDir::currentPath() + '/' + name), QByteArray("[General]\nThisVersion=4.6 版\n"));
     }
 
     void titleComesFromTheVersionFile()

@@ -1,4 +1,4 @@
-#include "FileText.h"
+#include "fakes/FileBytes.h"
 
 #include "common/AppPaths.h"
 

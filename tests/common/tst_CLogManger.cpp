@@ -1,4 +1,4 @@
-#include "FileText.h"
+#include "fakes/FileBytes.h"
 
 #include "common/CLogManger.h"
 #include "common/CLogThread.h"
@@ -36,12 +36,12 @@ struct Host
         thread.start();
         const bool written = QTest::qWaitFor([this, count] {
             logger.flush();
-            return fileText(logFile).count('\n') >= count;
+            return readBytes(logFile).count('\n') >= count;
         });
         if (!written) {
             return {QStringLiteral("too few lines")};
         }
-        QStringList all = QString::fromUtf8(fileText(logFile)).split('\n', Qt::SkipEmptyParts);
+        QStringList all = QString::fromUtf8(readBytes(logFile)).split('\n', Qt::SkipEmptyParts);
         for (QString &line : all) {
             line.remove(QRegularExpression("^\\[[^\\]]*\\]"));
         }
@@ -241,7 +241,7 @@ private slots:
                << "\n";
         QCOMPARE(manger.m_strMessage, QString());
         manger.flushLog();
-        QCOMPARE(fileText("threadless.log"), QByteArray());
+        QCOMPARE(readBytes("threadless.log"), QByteArray());
     }
 
     void withoutALoggerTheThreadLosesRecords()
@@ -280,11 +280,11 @@ private slots:
         Host host("flush.log");
         CLogManger manger;
         host.logger.printLog(CustomLog::Info, "place", "text");
-        QCOMPARE(fileText("flush.log"), QByteArray());
+        QCOMPARE(readBytes("flush.log"), QByteArray());
         manger.flushLog();
-        QVERIFY(fileText("flush.log").endsWith("[INFO][place]: text\n"));
+        QVERIFY(readBytes("flush.log").endsWith("[INFO][place]: text\n"));
         manger.clearLog();
-        QCOMPARE(fileText("flush.log"), QByteArray());
+        QCOMPARE(readBytes("flush.log"), QByteArray());
         QVERIFY(QFile::exists("flush.log"));
     }
 };

@@ -20,7 +20,7 @@ std::atomic<long> restNanoseconds{0};
 QStringList messages()
 {
     QStringList all;
-    const QStringList lines = QString::fromUtf8(fileText(LOG)).split('\n');
+    const QStringList lines = QString::fromUtf8(readBytes(LOG)).split('\n');
     for (const QString &line : lines) {
         if (!line.isEmpty()) {
             all.append(line.section("]: ", 1));
@@ -58,7 +58,7 @@ public:
     }
 
     /// Whether the thread sleeps; once its records are written, it can only do so on its empty queue.
-    bool sleeps() const { return fileText(QStringLiteral("/proc/self/task/%1/stat").arg(m_taskId)).contains(") S "); }
+    bool sleeps() const { return readBytes(QStringLiteral("/proc/self/task/%1/stat").arg(m_taskId)).contains(") S "); }
 
     /// Starts the thread, lets it write the record "before" and wait for the next one, and stops it then.
     bool isStoppedOnItsEmptyQueue()
@@ -114,9 +114,9 @@ private slots:
         writer.thread.printLog(CustomLog::Debug, "c.cpp:3", "third");
         QTRY_VERIFY(writer.hasWritten(3));
         QCOMPARE(messages(), (QStringList{"first", "second", "third"}));
-        QVERIFY(fileText(LOG).contains("[WARN][a.cpp:1]: first\n"));
-        QVERIFY(fileText(LOG).contains("[INFO][b.cpp:2]: second\n"));
-        QVERIFY(fileText(LOG).contains("[DEBUG][c.cpp:3]: third\n"));
+        QVERIFY(readBytes(LOG).contains("[WARN][a.cpp:1]: first\n"));
+        QVERIFY(readBytes(LOG).contains("[INFO][b.cpp:2]: second\n"));
+        QVERIFY(readBytes(LOG).contains("[DEBUG][c.cpp:3]: third\n"));
     }
 
     void recordsOfManyThreadsKeepEachThreadsOrder()
@@ -156,7 +156,7 @@ private slots:
         }
         writer.thread.start();
         QTRY_VERIFY(writer.hasWritten(1));
-        QVERIFY(QDateTime::fromString(QString::fromLatin1(fileText(LOG).mid(1, 23)), "yyyy-MM-dd hh:mm:ss.zzz") >
+        QVERIFY(QDateTime::fromString(QString::fromLatin1(readBytes(LOG).mid(1, 23)), "yyyy-MM-dd hh:mm:ss.zzz") >
                 queued);
     }
 

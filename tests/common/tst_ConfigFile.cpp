@@ -1,4 +1,4 @@
-#include "FileText.h"
+#include "fakes/FileBytes.h"
 
 #include "common/ConfigFile.h"
 
@@ -33,7 +33,7 @@ private slots:
     void changeIsOnTheDiskAtOnce()
     {
         ConfigFile::changeConfigValue("new.ini", "section/name", "value");
-        QCOMPARE(fileText("new.ini"), QByteArray("[section]\nname=value\n"));
+        QCOMPARE(readBytes("new.ini"), QByteArray("[section]\nname=value\n"));
     }
 
     void otherKeysSurviveAChange()
@@ -47,7 +47,7 @@ private slots:
     void textIsUtf8OnTheDisk()
     {
         ConfigFile::changeConfigValue("utf8.ini", "a/b", QStringLiteral("语音会议"));
-        QCOMPARE(fileText("utf8.ini"), QByteArray("[a]\nb=语音会议\n"));
+        QCOMPARE(readBytes("utf8.ini"), QByteArray("[a]\nb=语音会议\n"));
         QCOMPARE(ConfigFile::getConfigValue("utf8.ini", "a/b", {}).toString(), QStringLiteral("语音会议"));
     }
 
@@ -96,7 +96,7 @@ private slots:
         QTEST(value, "value");
         ConfigFile::changeConfigValue(name, "a/b", "mended");
         QCOMPARE(ConfigFile::getConfigValue(name, "a/b").toString(), QStringLiteral("mended"));
-        QVERIFY(fileText(name).contains("b=mended\n"));
+        QVERIFY(readBytes(name).contains("b=mended\n"));
     }
 
     void translationShortensOpenDialogs()
@@ -129,15 +129,15 @@ private slots:
         QCOMPARE(target("Other/conference.im.kelvar.example").toString(),
                  QStringLiteral("conference.im.kelvar.example"));
         QCOMPARE(target("Other/sub/key").toString(), QStringLiteral("nested"));
-        QVERIFY(!fileText("source.ini").contains("会议"));
-        QVERIFY(fileText("target.ini").contains("name=会议\n"));
+        QVERIFY(!readBytes("source.ini").contains("会议"));
+        QVERIFY(readBytes("target.ini").contains("name=会议\n"));
     }
 
     void translationReadsTheSourceInTheDefaultCoding()
     {
         QVERIFY(writeFile("latin.ini", "[Other]\nname=caf\xe9\n"));
         ConfigFile::translateIniToUtf8Code("latin.ini", "utf8 of latin.ini");
-        QCOMPARE(fileText("utf8 of latin.ini"), QByteArray("[Other]\nname=café\n"));
+        QCOMPARE(readBytes("utf8 of latin.ini"), QByteArray("[Other]\nname=café\n"));
     }
 
     void translationLeavesKeysOutsideGroups()

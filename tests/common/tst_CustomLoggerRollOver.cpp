@@ -45,9 +45,9 @@ private slots:
         logger.setMaxFileSize(0);
         logger.printLog(CustomLog::Info, "place", "first");
         logger.printLog(CustomLog::Info, "place", "second");
-        QCOMPARE(fileText(LOG), QByteArray());
-        QVERIFY(fileText(backup(1)).endsWith(": second\n"));
-        QVERIFY(fileText(backup(2)).endsWith(": first\n"));
+        QCOMPARE(readBytes(LOG), QByteArray());
+        QVERIFY(readBytes(backup(1)).endsWith(": second\n"));
+        QVERIFY(readBytes(backup(2)).endsWith(": first\n"));
         QVERIFY(!QFile::exists(backup(3)));
     }
 
@@ -60,9 +60,9 @@ private slots:
         QVERIFY(!QFile::exists(backup(1)));
         logger.flush();
         logger.printLog(CustomLog::Info, "place", "last");
-        QCOMPARE(fileText(backup(1)).count('\n'), 3);
-        QVERIFY(fileText(backup(1)).endsWith(": last\n"));
-        QCOMPARE(fileText(LOG), QByteArray());
+        QCOMPARE(readBytes(backup(1)).count('\n'), 3);
+        QVERIFY(readBytes(backup(1)).endsWith(": last\n"));
+        QCOMPARE(readBytes(LOG), QByteArray());
     }
 
     void rollOverMovesEachBackupOneUp_data()
@@ -84,12 +84,12 @@ private slots:
         CustomLogger logger(LOG);
         logger.setMaxBackupIndex(backups);
         logger.rollOver();
-        QCOMPARE(fileText(LOG), QByteArray());
-        QCOMPARE(fileText(backup(1)), QByteArray("current\n"));
+        QCOMPARE(readBytes(LOG), QByteArray());
+        QCOMPARE(readBytes(backup(1)), QByteArray("current\n"));
         for (int i = 2; i <= count; ++i) {
-            QCOMPARE(fileText(backup(i)), "backup " + QByteArray::number(i - 1));
+            QCOMPARE(readBytes(backup(i)), "backup " + QByteArray::number(i - 1));
         }
-        QCOMPARE(fileText(backup(count + 1)), "backup " + QByteArray::number(count + 1));
+        QCOMPARE(readBytes(backup(count + 1)), "backup " + QByteArray::number(count + 1));
     }
 
     void withOneBackupOnlyNumberOneIsMade()
@@ -100,7 +100,7 @@ private slots:
         logger.rollOver();
         logger.printLog(CustomLog::Info, "place", "second");
         logger.rollOver();
-        QVERIFY(fileText(backup(1)).endsWith(": second\n"));
+        QVERIFY(readBytes(backup(1)).endsWith(": second\n"));
         QCOMPARE(QDir().entryList(QDir::Files), (QStringList{LOG, backup(1)}));
     }
 
@@ -111,7 +111,7 @@ private slots:
         logger.printLog(CustomLog::Info, "place", "text");
         logger.rollOver();
         QCOMPARE(QDir().entryList(QDir::Files), QStringList{LOG});
-        QCOMPARE(fileText(LOG), QByteArray());
+        QCOMPARE(readBytes(LOG), QByteArray());
         logger.printLog(CustomLog::Info, "place", "next");
         logger.flush();
         QCOMPARE(lines().size(), 1);
@@ -125,8 +125,8 @@ private slots:
             logger.rollOver();
         }
         QCOMPARE(QDir().entryList(QDir::Files).size(), 11);
-        QVERIFY(fileText(backup(1)).endsWith(": 12\n"));
-        QVERIFY(fileText(backup(10)).endsWith(": 3\n"));
+        QVERIFY(readBytes(backup(1)).endsWith(": 12\n"));
+        QVERIFY(readBytes(backup(10)).endsWith(": 3\n"));
     }
 
     void gapInTheBackupsMovesUpToo()
@@ -136,9 +136,9 @@ private slots:
         CustomLogger logger(LOG);
         logger.setMaxBackupIndex(4);
         logger.rollOver();
-        QCOMPARE(fileText(backup(2)), QByteArray("one"));
+        QCOMPARE(readBytes(backup(2)), QByteArray("one"));
         QVERIFY(!QFile::exists(backup(3)));
-        QCOMPARE(fileText(backup(4)), QByteArray("three"));
+        QCOMPARE(readBytes(backup(4)), QByteArray("three"));
     }
 
     void removedFileIsMadeAnewByTheNextRollOver()
@@ -153,7 +153,7 @@ private slots:
         logger.flush();
         QVERIFY(!QFile::exists(backup(1)));
         QCOMPARE(lines().size(), 1);
-        QVERIFY(fileText(LOG).endsWith(": kept\n"));
+        QVERIFY(readBytes(LOG).endsWith(": kept\n"));
     }
 
     void failedRenameIsIgnored()
@@ -168,7 +168,7 @@ private slots:
         QVERIFY(QDir(backup(1) + "/occupied").exists());
         QVERIFY(QDir(backup(1)).removeRecursively());
         QCOMPARE(lines().size(), 1);
-        QVERIFY(fileText(LOG).endsWith(": kept\n"));
+        QVERIFY(readBytes(LOG).endsWith(": kept\n"));
     }
 };
 

@@ -34,14 +34,14 @@ private slots:
     {
         QFETCH(int, length);
         const QByteArray bytes(length, 'a');
-        writeFile("digest.bin", bytes);
+        QVERIFY(writeFile("digest.bin", bytes));
         QCOMPARE(FileDigest::getFileMd5("digest.bin"), FileDigest::getMd5(QString::fromLatin1(bytes)));
         QCOMPARE(FileDigest::getFileSha1("digest.bin"), FileDigest::getSha1(QString::fromLatin1(bytes)));
     }
 
     void aMillionLettersGiveThePublishedDigests()
     {
-        writeFile("million.bin", QByteArray(1000000, 'a'));
+        QVERIFY(writeFile("million.bin", QByteArray(1000000, 'a')));
         QCOMPARE(FileDigest::getFileSha1("million.bin"), QString("34AA973CD4C4DAA4F61EEB2BDBAD27316534016F"));
         QCOMPARE(FileDigest::getFileMd5("million.bin"), QString("7707D6AE4E027C70EEA2A935C2296F21"));
     }
@@ -69,9 +69,9 @@ private slots:
         const QString key =
             QString::fromLatin1(QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha1).toHex());
         QCOMPARE(FileDigest::getFileHash(path), key);
-        writeFile(path, "one");
+        QVERIFY(writeFile(path, "one"));
         QCOMPARE(FileDigest::getFileHash(path), key);
-        writeFile(path, "another");
+        QVERIFY(writeFile(path, "another"));
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadWrite));
         QVERIFY(file.setFileTime(QDateTime::fromSecsSinceEpoch(86400), QFileDevice::FileModificationTime));

@@ -15,9 +15,9 @@ private slots:
     {
         QVERIFY(QDir("from").removeRecursively());
         QVERIFY(QDir("to").removeRecursively());
-        writeFile("from/a.txt", "a");
-        writeFile("from/sub/b.txt", "b");
-        writeFile("from/sub/deep/c.txt", "c");
+        QVERIFY(writeFile("from/a.txt", "a"));
+        QVERIFY(writeFile("from/sub/b.txt", "b"));
+        QVERIFY(writeFile("from/sub/deep/c.txt", "c"));
         QVERIFY(QDir("from").mkdir("empty"));
     }
 
@@ -37,28 +37,28 @@ private slots:
 
     void withoutOverwriteAPresentFileEndsTheCopy()
     {
-        writeFile("to/a.txt", "old");
+        QVERIFY(writeFile("to/a.txt", "old"));
         QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir("to"), false));
         QCOMPARE(readBytes("to/a.txt"), QByteArray("old"));
     }
 
     void inSubFoldersFilesAreOverwrittenInAnyCase()
     {
-        writeFile("to/sub/b.txt", "old");
+        QVERIFY(writeFile("to/sub/b.txt", "old"));
         QVERIFY(FolderCopy::copyDirectory(QDir("from"), QDir("to"), false));
         QCOMPARE(readBytes("to/sub/b.txt"), QByteArray("b"));
     }
 
     void withOverwriteAPresentFileIsReplaced()
     {
-        writeFile("to/a.txt", "old");
+        QVERIFY(writeFile("to/a.txt", "old"));
         QVERIFY(FolderCopy::copyDirectory(QDir("from"), QDir("to"), true));
         QCOMPARE(readBytes("to/a.txt"), QByteArray("a"));
     }
 
     void aFileInPlaceOfAFolderFails()
     {
-        writeFile("to/sub", "a file");
+        QVERIFY(writeFile("to/sub", "a file"));
         QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir("to"), true));
     }
 
@@ -106,8 +106,8 @@ private slots:
 
     void hiddenFilesAreLeftOutUnlessTheFolderListsThem()
     {
-        writeFile("from/.hidden", "h");
-        writeFile("from/sub/.hidden", "h");
+        QVERIFY(writeFile("from/.hidden", "h"));
+        QVERIFY(writeFile("from/sub/.hidden", "h"));
         QDir from("from");
         QVERIFY(FolderCopy::copyDirectory(from, QDir("to"), true));
         QVERIFY(!QFile::exists("to/.hidden"));
@@ -119,8 +119,8 @@ private slots:
 
     void theOwnFiltersOfTheFolderHoldForItsEntries()
     {
-        writeFile("from/b.log", "b");
-        writeFile("from/folder.txt/c.txt", "c");
+        QVERIFY(writeFile("from/b.log", "b"));
+        QVERIFY(writeFile("from/folder.txt/c.txt", "c"));
         QDir from("from");
         from.setFilter(QDir::Files);
         from.setNameFilters({"*.txt"});

@@ -73,7 +73,7 @@ void tst_LogHardship::cleanup()
 QStringList tst_LogHardship::texts(const QString &strName) const
 {
     QStringList all;
-    const QList<QByteArray> lines = fileText(m_pFolder->filePath(strName)).split('\n');
+    const QList<QByteArray> lines = readBytes(m_pFolder->filePath(strName)).split('\n');
     for (const QByteArray &line : lines) {
         if (!line.isEmpty())
             all.append(QString::fromUtf8(line).section(QStringLiteral("[place]: "), 1));
@@ -114,7 +114,7 @@ void tst_LogHardship::readOnlyFolderKeepsTheFileThatIsOpen()
     print(QStringLiteral("again"));
     QCOMPARE(names(), QStringList{LOG});
     // A roll-over opens the same file anew, so that the next line stands directly behind the last one.
-    const QByteArray text = fileText(m_strFile);
+    const QByteArray text = readBytes(m_strFile);
     QCOMPARE(text.count("[place]: "), 3);
     QVERIFY(text.contains("[place]: before\n"));
     QVERIFY(text.contains("[place]: in the same file["));

@@ -1,7 +1,7 @@
 // The log from several threads at once while its file rolls over again and again: no record is lost, doubled or torn,
 // and each thread's records keep their order.
 
-#include "FileText.h"
+#include "fakes/FileBytes.h"
 
 #include "common/CLogManger.h"
 #include "common/CLogThread.h"
@@ -32,9 +32,9 @@ QStringList messages()
         ++backups;
     }
     for (int i = backups; i > 0; --i) {
-        text += fileText(LOG + QLatin1Char('.') + QString::number(i));
+        text += readBytes(LOG + QLatin1Char('.') + QString::number(i));
     }
-    text += fileText(LOG);
+    text += readBytes(LOG);
     QStringList all;
     const QStringList lines = QString::fromUtf8(text).split('\n', Qt::SkipEmptyParts);
     for (const QString &line : lines) {

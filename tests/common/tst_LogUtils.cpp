@@ -1,5 +1,5 @@
-#include "FileText.h"
 #include "OwnProcess.h"
+#include "fakes/FileBytes.h"
 
 #include "common/LogUtils.h"
 

@@ -12,15 +12,15 @@ class tst_StyleText : public QObject
 private slots:
     void sheetsAreReadInTheirCodec()
     {
-        writeFile("one.qss", "QLabel{font:'\xce\xa2\xc8\xed'}\r\n");
-        writeFile("two.qss", "");
+        QVERIFY(writeFile("one.qss", "QLabel{font:'\xce\xa2\xc8\xed'}\r\n"));
+        QVERIFY(writeFile("two.qss", ""));
         QCOMPARE(StyleText::readStyleSheet({"one.qss", "two.qss"}), QStringList({"QLabel{font:'微软'}\n", ""}));
         QVERIFY(StyleText::readStyleSheet({}).isEmpty());
     }
 
     void oneMissingSheetDropsAll()
     {
-        writeFile("one.qss", "a");
+        QVERIFY(writeFile("one.qss", "a"));
         QCOMPARE(StyleText::readStyleSheet({"one.qss", "missing.qss"}), QStringList({QString()}));
         QCOMPARE(StyleText::readStyleSheet({"."}), QStringList({QString()}));
     }

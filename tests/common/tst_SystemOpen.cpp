@@ -54,8 +54,8 @@ private slots:
     void initTestCase()
     {
         // A command "open" that writes its words down, and nothing else that could open anything.
-        writeFile("bin/open", "#!/bin/sh\n{ for word in \"$@\"; do echo \"$word\"; done; echo end; } > " +
-                                  QFile::encodeName(QDir::current().absoluteFilePath("opened")) + "\n");
+        QVERIFY(writeFile("bin/open", "#!/bin/sh\n{ for word in \"$@\"; do echo \"$word\"; done; echo end; } > " +
+                                          QFile::encodeName(QDir::current().absoluteFilePath("opened")) + "\n"));
         QVERIFY(QFile::setPermissions("bin/open", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         qputenv("PATH", QFile::encodeName(QDir::current().absoluteFilePath("bin")));
     }
@@ -64,7 +64,7 @@ private slots:
 
     void aFileIsOpenedUnderItsQuotedPath()
     {
-        writeFile("my folder/a file.txt", "x");
+        QVERIFY(writeFile("my folder/a file.txt", "x"));
         QVERIFY(SystemOpen::openLocalFile("my folder/a file.txt"));
         const QByteArray wanted =
             QFile::encodeName(QDir::current().absoluteFilePath("my folder/a file.txt")) + "\nend\n";
@@ -112,7 +112,7 @@ private slots:
 
     void theDesktopOpensAFile()
     {
-        writeFile("desk.txt", "x");
+        QVERIFY(writeFile("desk.txt", "x"));
         const QString path = QDir::current().absoluteFilePath("desk.txt");
         QCOMPARE(SystemOpen::openMacLocalFile("missing.txt"), 0);
         QCOMPARE(SystemOpen::openMacLocalFile(path), 1);

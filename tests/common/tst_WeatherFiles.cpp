@@ -23,9 +23,10 @@ private slots:
 
     void aReplyBecomesOneMapOfFourAndOneForEachDay()
     {
-        writeFile("w.xml", "<?xml version='1.0' encoding='UTF-8'?><reply><city><name>北京</name><code>1</code><wind/>"
-                           "<time>8</time><day><low>1</low><high>9</high></day><day><low>2</low></day></city>"
-                           "<city><name>other</name></city></reply>");
+        QVERIFY(writeFile("w.xml",
+                          "<?xml version='1.0' encoding='UTF-8'?><reply><city><name>北京</name><code>1</code><wind/>"
+                          "<time>8</time><day><low>1</low><high>9</high></day><day><low>2</low></day></city>"
+                          "<city><name>other</name></city></reply>"));
         const Maps wanted = {{{"name", "北京"}, {"code", "1"}, {"wind", ""}, {"time", "8"}},
                              {{"low", "1"}, {"high", "9"}},
                              {{"low", "2"}}};
@@ -34,9 +35,9 @@ private slots:
 
     void aReplyMayBeLaidOutInLines()
     {
-        writeFile("w.xml",
-                  "<reply>\n  <city>\n    <name>a</name>\n    <code>1</code>\n    <wind/>\n    <time>8</time>\n"
-                  "    <day>\n      <low>1</low>\n    </day>\n  </city>\n</reply>\n");
+        QVERIFY(writeFile("w.xml",
+                          "<reply>\n  <city>\n    <name>a</name>\n    <code>1</code>\n    <wind/>\n    <time>8</time>\n"
+                          "    <day>\n      <low>1</low>\n    </day>\n  </city>\n</reply>\n"));
         const Maps wanted = {{{"name", "a"}, {"code", "1"}, {"wind", ""}, {"time", "8"}}, {{"low", "1"}}};
         QCOMPARE(WeatherFiles::parseWeatherXml("w.xml"), wanted);
     }
@@ -59,7 +60,7 @@ private slots:
     void otherShapes()
     {
         QFETCH(QByteArray, text);
-        writeFile("w.xml", text);
+        QVERIFY(writeFile("w.xml", text));
         QTEST(WeatherFiles::parseWeatherXml("w.xml").size(), "maps");
     }
 
@@ -73,14 +74,15 @@ private slots:
 
     void provincesStandBeforeTheirCities()
     {
-        writeFile(CITIES, "<all><p Name='A'><c Name='a1'/><c Name='a2'/></p><!-- --><p Name='B'/><p><c/></p></all>");
+        QVERIFY(writeFile(CITIES,
+                          "<all><p Name='A'><c Name='a1'/><c Name='a2'/></p><!-- --><p Name='B'/><p><c/></p></all>"));
         QCOMPARE(WeatherFiles::parseCityXml(), QStringList({"A", "a1", "a2", "B", "", ""}));
     }
 
     void withoutItsFileThereAreNoCities()
     {
         QVERIFY(WeatherFiles::parseCityXml().isEmpty());
-        writeFile(CITIES, "<all><p Name='A'>");
+        QVERIFY(writeFile(CITIES, "<all><p Name='A'>"));
         QVERIFY(WeatherFiles::parseCityXml().isEmpty());
     }
 

@@ -1,19 +1,17 @@
 #pragma once
 
-// Files that a test makes and looks at, as bytes.
+// Files that a test makes and looks at, as bytes. Paths begin in its working directory unless they say otherwise.
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTest>
 
-/// Writes the file anew, with the folders that lead to it; the test fails where that cannot be done.
-inline void writeFile(const QString &strPath, const QByteArray &bytes)
+/// Writes the file anew, with the folders that lead to it; false when that cannot be done.
+[[nodiscard]] inline bool writeFile(const QString &strPath, const QByteArray &bytes)
 {
-    QVERIFY(QDir().mkpath(QFileInfo(strPath).path()));
     QFile file(strPath);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+    return QDir().mkpath(QFileInfo(strPath).path()) && file.open(QIODevice::WriteOnly) &&
+           file.write(bytes) == bytes.size() && file.flush();
 }
 
 /// What the file holds; empty for one that does not open.

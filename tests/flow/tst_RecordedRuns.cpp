@@ -2,6 +2,7 @@
 // ways: to the module by the stand-in, and to the stand-in by the checker.
 
 #include "callcheck/CheckOptions.h"
+#include "fakes/FileBytes.h"
 #include "flow/CallTrace.h"
 
 #include <QDir>
@@ -32,12 +33,6 @@ Outcome run(const QString &strProgram, const QStringList &arguments, const QMap<
     process.start(strProgram, arguments);
     const bool ended = process.waitForFinished(kPatienceMs) && process.exitStatus() == QProcess::NormalExit;
     return {ended ? process.exitCode() : -1, QString::fromUtf8(process.readAll())};
-}
-
-QByteArray fileBytes(const QString &strPath)
-{
-    QFile file(strPath);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// The text with the first `before` in it replaced; empty when there is none.
@@ -85,11 +80,11 @@ QString tst_RecordedRuns::record(const QString &strRun)
             {{"CALLCHECK_OUT", scenario}, {"CALLCHECK_PROGRAM", QStringLiteral(VOIP_STAND_IN)}, {"VOIPSDK_SPEED", "4"}},
             folder);
     if (outcome.exitCode != 0) {
-        qWarning("%s\n%s", qPrintable(outcome.said), fileBytes(scenario).constData());
+        qWarning("%s\n%s", qPrintable(outcome.said), readBytes(scenario).constData());
         return {};
     }
     // The recorder sees the end of its call process a moment after the client does.
-    return QTest::qWaitFor([&] { return fileBytes(scenario).endsWith("expect quit\n"); }) ? scenario : QString();
+    return QTest::qWaitFor([&] { return readBytes(scenario).endsWith("expect quit\n"); }) ? scenario : QString();
 }
 
 /// Lets the stand-in play the scenario to the module, with the same hands.
@@ -128,7 +123,7 @@ void tst_RecordedRuns::runIsRecordedAndPlayedBothWays()
     QFETCH(QByteArrayList, lines);
     const QString scenario = record(name);
     QVERIFY(!scenario.isEmpty());
-    const QByteArrayList recorded = fileBytes(scenario).split('\n');
+    const QByteArrayList recorded = readBytes(scenario).split('\n');
     for (const QByteArray &line : lines)
         QVERIFY2(recorded.contains(line), line + " is not in:\n" + recorded.join('\n'));
     QVERIFY2(!recorded.join().contains("registration"), "the registration value belongs to the user alone");
@@ -141,7 +136,7 @@ void tst_RecordedRuns::runIsRecordedAndPlayedBothWays()
     QCOMPARE(trace.texts('=').contains("quit"), true);
 
     const Outcome replayed = replayToRobots(scenario);
-    QVERIFY2(replayed.exitCode == 0, qPrintable(replayed.said + fileBytes(scenario)));
+    QVERIFY2(replayed.exitCode == 0, qPrintable(replayed.said + readBytes(scenario)));
 }
 
 void tst_RecordedRuns::wrongCodeIsFoundBothWays()
@@ -150,10 +145,7 @@ void tst_RecordedRuns::wrongCodeIsFoundBothWays()
     QVERIFY(!scenario.isEmpty());
     const QString folder = folderFor("wrong-code");
     const QString wrong = folder + "/wrong.scn";
-    QFile file(wrong);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(replacedOnce(fileBytes(scenario), "\nsend 18\n", "\nsend 22\n"));
-    file.close();
+    QVERIFY(writeFile(wrong, replacedOnce(readBytes(scenario), "\nsend 18\n", "\nsend 22\n")));
 
     const Outcome replayed = replayToRobots(wrong);
     QCOMPARE(replayed.exitCode, static_cast<int>(CheckExit::NotAsRecorded));
@@ -172,10 +164,8 @@ void tst_RecordedRuns::otherCommandIsFoundByTheStandIn()
     QVERIFY(!scenario.isEmpty());
     const QString folder = folderFor("other-command");
     const QString other = folder + "/other.scn";
-    QFile file(other);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(replacedOnce(fileBytes(scenario), "CallUser param1=30010001", "CallUser param1=30010006"));
-    file.close();
+    QVERIFY(
+        writeFile(other, replacedOnce(readBytes(scenario), "CallUser param1=30010001", "CallUser param1=30010006")));
     QVERIFY(playToModule("single", other, folder).exitCode != 0);
     const QList<QByteArray> complaints = CallTrace(folder + "/wire.trace").texts('!');
     QVERIFY2(complaints.value(0).contains("expected CallUser param1=30010006"), complaints.value(0));

@@ -4,9 +4,9 @@
 
 #include "FuzzApplication.h"
 #include "FuzzTargets.h"
+#include "fakes/FileBytes.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTest>
 
 #include <random>
@@ -23,26 +23,20 @@ QString folderOf(const char *kind, const char *target)
     return QStringLiteral(VOIP_FUZZ_FOLDER "/") + QLatin1String(kind) + QLatin1Char('/') + QLatin1String(target);
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// The files of a folder; none for an empty name.
 QList<QByteArray> contentsOf(const QString &folder)
 {
     QList<QByteArray> contents;
     const QFileInfoList files = folder.isEmpty() ? QFileInfoList() : QDir(folder).entryInfoList(QDir::Files);
     for (const QFileInfo &file : files)
-        contents += contentOf(file.filePath());
+        contents += readBytes(file.filePath());
     return contents;
 }
 
 /// The memory that this process has in the machine.
 qint64 residentMiB()
 {
-    const QList<QByteArray> words = contentOf(QStringLiteral("/proc/self/statm")).split(' ');
+    const QList<QByteArray> words = readBytes(QStringLiteral("/proc/self/statm")).split(' ');
     return words.value(1).toLongLong() * Q_INT64_C(4096) / Q_INT64_C(1048576);
 }
 
@@ -54,7 +48,7 @@ QMap<QString, QByteArray> keptInputs(const FuzzTarget &target)
         const QDir folder(folderOf(kind, target.seeds));
         const QStringList names = folder.entryList(QDir::Files);
         for (const QString &name : names)
-            inputs[QLatin1String(kind) + QLatin1Char('/') + name] = contentOf(folder.filePath(name));
+            inputs[QLatin1String(kind) + QLatin1Char('/') + name] = readBytes(folder.filePath(name));
     }
     return inputs;
 }
@@ -64,7 +58,7 @@ QList<QByteArray> dictionaryOf(const FuzzTarget &target)
 {
     QList<QByteArray> words;
     const QList<QByteArray> lines =
-        contentOf(folderOf(".", target.seeds) + QLatin1String(".dict")).trimmed().split('\n');
+        readBytes(folderOf(".", target.seeds) + QLatin1String(".dict")).trimmed().split('\n');
     for (const QByteArray &line : lines) {
         QByteArray word;
         for (int i = 1; i < line.size() - 1; ++i) {

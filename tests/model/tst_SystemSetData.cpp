@@ -1,9 +1,8 @@
 #include "common/AppPaths.h"
+#include "fakes/FileBytes.h"
 #include "model/SystemSetData.h"
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -166,7 +165,7 @@ private slots:
     void theCommonFileIsUtf8()
     {
         const QString strRoot = m_folder->filePath(QString::fromUtf8("数据"));
-        writeFile(strAPP_INFO_FILE_PATH(), "[msgSetting]\nmsgfilepath=" + strRoot.toUtf8() + "\n");
+        QVERIFY(writeFile(strAPP_INFO_FILE_PATH(), "[msgSetting]\nmsgfilepath=" + strRoot.toUtf8() + "\n"));
         SystemSetData data;
         data.initCommonData();
         QCOMPARE(data.m_strMsgFilePath, strRoot);
@@ -175,11 +174,9 @@ private slots:
     void theUserFileIsUtf8AndStaysSoWhenRepaired()
     {
         const QString strReply = QString::fromUtf8("稍后回复");
-        writeFile(userFile(), "[statusSetting]\nAutoReplyStr=" + strReply.toUtf8() + "\n");
+        QVERIFY(writeFile(userFile(), "[statusSetting]\nAutoReplyStr=" + strReply.toUtf8() + "\n"));
         QCOMPARE(readUser({}).m_strAutoReplyStr, strReply);
-        QFile file(userFile());
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray content = file.readAll();
+        const QByteArray content = readBytes(userFile());
         QVERIFY(content.contains("AutoReplyStr=" + strReply.toUtf8()));
         QVERIFY(content.contains("CanSearch=1"));
     }
@@ -433,7 +430,7 @@ private slots:
 
     void aBrokenUserFileGivesTheDefaultsAndIsRepaired()
     {
-        writeFile(userFile(), QByteArray("[basicSetting\n=\"\\x\0[", 20) + QByteArray(100, '\0'));
+        QVERIFY(writeFile(userFile(), QByteArray("[basicSetting\n=\"\\x\0[", 20) + QByteArray(100, '\0')));
         const SystemSetData data = readUser({});
         QCOMPARE(data.m_strSendMsgFastkey, QString("Ctrl+Enter"));
         QCOMPARE(data.m_strCanSearch, QString("1"));
@@ -461,14 +458,6 @@ private:
         row(group + "hasunderline", true, fontHolds<pFont, &ChatFont::m_bHasUnderline>(true));
         row(group + "textcolor", "#102030", fontHolds<pFont, &ChatFont::m_textColor>(QColor(0x10, 0x20, 0x30)));
         row(group + "textcolor", "nonsense", fontHolds<pFont, &ChatFont::m_textColor>(QColor()));
-    }
-
-    static void writeFile(const QString &strPath, const QByteArray &content)
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(strPath).path()));
-        QFile file(strPath);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), qint64(content.size()));
     }
 
     QString userFile() const { return m_folder->filePath(QString(USER) + "/newConfig.ini"); }

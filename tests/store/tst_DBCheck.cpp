@@ -1,5 +1,5 @@
 #include "StoreFixture.h"
-#include "common/FileText.h"
+#include "fakes/FileBytes.h"
 
 #include <QTest>
 #include <QTranslator>
@@ -66,9 +66,9 @@ private slots:
     void theQuickCheckAloneWritesNothing()
     {
         makeStore();
-        const QByteArray before = fileText(m_store->file());
+        const QByteArray before = readBytes(m_store->file());
         QVERIFY(DB::checkDB(m_store->folder(), true));
-        QCOMPARE(fileText(m_store->file()), before);
+        QCOMPARE(readBytes(m_store->file()), before);
     }
 
     void aLeftoverTrialRowIsRecognisedAndDeleted()
@@ -122,16 +122,16 @@ private slots:
         QVERIFY(writeFile(m_store->file(), QByteArray(5000, 'x')));
         QVERIFY(!DB::checkDB(m_store->folder(), false));
         QVERIFY(!DB::checkDB(m_store->folder(), true));
-        QCOMPARE(fileText(m_store->file()), QByteArray(5000, 'x'));
+        QCOMPARE(readBytes(m_store->file()), QByteArray(5000, 'x'));
     }
 
     void aTruncatedFileIsDamageAndIsLeftAsItIs()
     {
         makeStore(filler);
         QVERIFY(QFile::resize(m_store->file(), 3000));
-        const QByteArray before = fileText(m_store->file());
+        const QByteArray before = readBytes(m_store->file());
         QVERIFY(!DB::checkDB(m_store->folder(), false));
-        QCOMPARE(fileText(m_store->file()), before);
+        QCOMPARE(readBytes(m_store->file()), before);
     }
 
     // A trigger speaks for the older SQLite, on a file that the quick check would judge otherwise.
