@@ -1,17 +1,12 @@
-// A conference: starting it, being invited, adding, removing and muting members, its end.
+// A conference as a whole: starting it, being invited to it, its end.
 
+#include "StartedConference.h"
 #include "WhileAsked.h"
 #include "fakes/EngineFixture.h"
 #include "ui/VoipWidget.h"
 
-#include <QCoreApplication>
 #include <QStackedWidget>
 #include <QTest>
-
-#include <functional>
-
-using Step = std::function<void(EngineFixture &)>;
-Q_DECLARE_METATYPE(Step)
 
 class tst_ConferenceFlow : public QObject
 {
@@ -38,39 +33,11 @@ private slots:
     void rejectedInvitationSendsRejectConf();
     void anyoneHangingUpEndsItForThisSide_data();
     void anyoneHangingUpEndsItForThisSide();
-
-    void addingPeople_data();
-    void addingPeople();
-    void addedPeopleAreMembersBeforeTheHostIsAsked();
-    void pickerGetsTheOthersAndIsReadAgainstTheListAsItIs();
-    void emptyAnswerOfThePickerDoesNothing();
-    void addingOutsideAConferenceSendsNothing();
-    void addingWhileTheChannelIsDownSendsNothing();
-    void invitingAgainIsTheCreatorsRight_data();
-    void invitingAgainIsTheCreatorsRight();
-    void removingAMember_data();
-    void removingAMember();
-    void control_data();
-    void control();
-    void mutingKeepsNoState();
-    void cardIsHandedToTheWindow();
     void conferenceEndTakesAwayThePromptOfTheCreator();
 
 private:
-    static void create(EngineFixture &f);
     static void beInvited(EngineFixture &f);
 };
-
-/// This side has created a conference with anna and bert, and anna is connected.
-void tst_ConferenceFlow::create(EngineFixture &f)
-{
-    f.manager->m_strUserId = "me";
-    f.manager->callConference({"anna", "bert"}, false, "");
-    f.manager->m_callData.connectedList = QStringList{"me", "anna"};
-    f.takeJournal();
-    EngineFixture::deliverPosted();
-    f.host.events.clear();
-}
 
 /// Anna has invited this side.
 void tst_ConferenceFlow::beInvited(EngineFixture &f)
@@ -211,7 +178,7 @@ void tst_ConferenceFlow::startIsRefusedInAConferenceOfOnesOwn()
 {
     // A creator has no peer: what tells of the call is the member list alone.
     EngineFixture f;
-    create(f);
+    startConference(f);
     QCOMPARE(f.manager->m_callData.peerId, QString());
     f.manager->callConference({"carl"}, false, "");
     f.manager->callSingleUser("carl", false);
@@ -224,7 +191,7 @@ void tst_ConferenceFlow::startIsRefusedInAConferenceOfOnesOwn()
 void tst_ConferenceFlow::conferenceThatNobodyJoinsTimesOut()
 {
     EngineFixture f;
-    create(f);
+    startConference(f);
     f.manager->slot_inviteCallTimeout();
     QCOMPARE(f.takeJournal(), QStringList({"HangupConf", "SetMicEnable true", "SetSpeakerEnble true"}));
     QCOMPARE(f.state(), QString("idle"));
@@ -234,7 +201,7 @@ void tst_ConferenceFlow::conferenceThatNobodyJoinsTimesOut()
 void tst_ConferenceFlow::createdIdLetsTheUpdatesPass()
 {
     EngineFixture f;
-    create(f);
+    startConference(f);
     f.notify(20, R"({"result":{"confId":"c1"}})");
     f.notify(12, R"({"content":{"confId":"c1","conventioneer":["me","bert","carl"]}})");
     QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl"}));
@@ -318,7 +285,7 @@ void tst_ConferenceFlow::anyoneHangingUpEndsItForThisSide()
     QFETCH(bool, creator);
     EngineFixture f;
     if (creator) {
-        create(f);
+        startConference(f);
     } else {
         beInvited(f);
         f.manager->responseVoipRequest(true);
@@ -331,249 +298,13 @@ void tst_ConferenceFlow::anyoneHangingUpEndsItForThisSide()
     QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 0);
 }
 
-void tst_ConferenceFlow::addingPeople_data()
-{
-    QTest::addColumn<QStringList>("users");
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QStringList>("memberList");
-    QTest::addColumn<QStringList>("members");
-
-    const QString rest(" \"me\" \"me\" false \"\" [\"me\",\"anna\"]");
-    QTest::newRow("one") << QStringList{"carl"} << "Add2Conference [\"carl\"]" + rest
-                         << QStringList{"anna", "bert", "me", "carl"} << QStringList{"anna 0", "bert 0", "carl 0"};
-    QTest::newRow("a known one") << QStringList{"bert", "carl"} << "Add2Conference [\"bert\",\"carl\"]" + rest
-                                 << QStringList{"anna", "bert", "me", "carl"}
-                                 << QStringList{"anna 0", "bert 0", "carl 0"};
-    QTest::newRow("the same twice") << QStringList{"carl", "carl"} << "Add2Conference [\"carl\",\"carl\"]" + rest
-                                    << QStringList{"anna", "bert", "me", "carl"}
-                                    << QStringList{"anna 0", "bert 0", "carl 0"};
-    QTest::newRow("nobody") << QStringList() << "Add2Conference null" + rest << QStringList{"anna", "bert", "me"}
-                            << QStringList{"anna 0", "bert 0"};
-}
-
-void tst_ConferenceFlow::addingPeople()
-{
-    QFETCH(QStringList, users);
-    QFETCH(QString, line);
-    EngineFixture f;
-    create(f);
-    f.manager->addConferenceMember(users);
-    QCOMPARE(f.takeJournal(), QStringList{line});
-    QTEST(f.manager->m_callData.memberList, "memberList");
-    QTEST(f.members(), "members");
-    EngineFixture::deliverPosted();
-    QCOMPARE(f.host.received(MSG_GET_STRANGER_SMALL_VCARD).size(), 1);
-    QCOMPARE(f.host.received(MSG_IS_EXIST_FRIEND).size(), users.size());
-}
-
-void tst_ConferenceFlow::addedPeopleAreMembersBeforeTheHostIsAsked()
-{
-    EngineFixture f;
-    create(f);
-    QStringList memberListMeanwhile;
-    QStringList membersMeanwhile;
-    f.whileHandled = [&](BaseEvent &event) {
-        if (event.msgId != MSG_IS_EXIST_FRIEND)
-            return;
-        memberListMeanwhile = f.manager->m_callData.memberList;
-        membersMeanwhile = f.members();
-    };
-    f.manager->addConferenceMember({"carl"});
-    QCOMPARE(memberListMeanwhile, QStringList({"anna", "bert", "me", "carl"}));
-    // The window follows behind the queries.
-    QCOMPARE(membersMeanwhile, QStringList({"anna 0", "bert 0"}));
-}
-
-void tst_ConferenceFlow::pickerGetsTheOthersAndIsReadAgainstTheListAsItIs()
-{
-    EngineFixture f;
-    create(f);
-    f.manager->m_callData.connectedList.clear();
-    f.host.membersToAdd = QStringList{"bert", "carl", "dora"};
-    f.whileHandled = [&f](BaseEvent &event) {
-        // Dora joins while the user picks.
-        if (event.msgId == MSG_ADD_CONFERENCE_MEMBER)
-            f.notify(12, R"({"content":{"confId":"c1","conventioneer":["dora"]}})");
-    };
-    f.manager->slot_AddConfMember();
-    QCOMPARE(f.host.received(MSG_ADD_CONFERENCE_MEMBER).constFirst().reader().takeTexts(),
-             QStringList({"anna", "bert"}));
-    QCOMPARE(f.takeJournal(), QStringList{"Add2Conference [\"carl\"] \"me\" \"me\" false \"\" [\"dora\"]"});
-    // Picking only those who are there already still asks the call process.
-    f.whileHandled = nullptr;
-    f.host.membersToAdd = QStringList{"bert"};
-    f.manager->slot_AddConfMember();
-    QCOMPARE(f.takeJournal(), QStringList{"Add2Conference null \"me\" \"me\" false \"\" [\"dora\"]"});
-}
-
-void tst_ConferenceFlow::emptyAnswerOfThePickerDoesNothing()
-{
-    EngineFixture f;
-    create(f);
-    f.manager->slot_AddConfMember();
-    QCOMPARE(f.takeJournal(), QStringList());
-    EngineFixture::deliverPosted();
-    QCOMPARE(f.host.commands(), QList<int>{MSG_ADD_CONFERENCE_MEMBER});
-}
-
-void tst_ConferenceFlow::addingOutsideAConferenceSendsNothing()
-{
-    EngineFixture f;
-    f.manager->addConferenceMember({"carl"});
-    QCOMPARE(f.takeJournal(), QStringList());
-    QCOMPARE(f.manager->m_callData.memberList, QStringList{"carl"});
-    QCOMPARE(f.members(), QStringList{"carl 0"});
-}
-
-void tst_ConferenceFlow::addingWhileTheChannelIsDownSendsNothing()
-{
-    EngineFixture f;
-    create(f);
-    f.manager->m_bSocketConnected = false;
-    f.manager->addConferenceMember({"carl"});
-    QCOMPARE(f.takeJournal(), QStringList());
-    QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl"}));
-    QCOMPARE(f.members(), QStringList({"anna 0", "bert 0", "carl 0"}));
-}
-
-void tst_ConferenceFlow::invitingAgainIsTheCreatorsRight_data()
-{
-    QTest::addColumn<bool>("conference");
-    QTest::addColumn<bool>("caller");
-    QTest::addColumn<QStringList>("journal");
-    QTest::addColumn<QStringList>("members");
-
-    const QStringList unchanged{"anna 0", "bert 5"};
-    QTest::newRow("creator") << true << true
-                             << QStringList{"Add2Conference [\"bert\"] \"me\" \"me\" false \"\" [\"me\",\"anna\"]"}
-                             << QStringList{"anna 0", "bert 0"};
-    QTest::newRow("invited") << true << false << QStringList() << unchanged;
-    QTest::newRow("no conference") << false << true << QStringList() << unchanged;
-}
-
-void tst_ConferenceFlow::invitingAgainIsTheCreatorsRight()
-{
-    QFETCH(bool, conference);
-    QFETCH(bool, caller);
-    EngineFixture f;
-    create(f);
-    f.notify(5, "bert");
-    f.manager->m_callData.bIsConf = conference;
-    f.manager->m_callData.bIsCaller = caller;
-    f.manager->slot_ReInviteConfUser("bert");
-    QTEST(f.takeJournal(), "journal");
-    QTEST(f.members(), "members");
-}
-
-void tst_ConferenceFlow::removingAMember_data()
-{
-    QTest::addColumn<QString>("user");
-    QTest::addColumn<QStringList>("journal");
-    QTest::addColumn<QStringList>("memberList");
-    QTest::addColumn<QStringList>("members");
-
-    QTest::newRow("connected") << "anna" << QStringList{"ControlConf \"kick\" \"anna\""} << QStringList{"bert", "me"}
-                               << QStringList{"bert 0"};
-    QTest::newRow("not connected yet") << "bert" << QStringList() << QStringList{"anna", "me"} << QStringList{"anna 0"};
-    QTest::newRow("unknown") << "carl" << QStringList() << QStringList{"anna", "bert", "me"}
-                             << QStringList{"anna 0", "bert 0"};
-    QTest::newRow("connected but no member")
-        << "dora" << QStringList() << QStringList{"anna", "bert", "me"} << QStringList{"anna 0", "bert 0"};
-}
-
-void tst_ConferenceFlow::removingAMember()
-{
-    QFETCH(QString, user);
-    EngineFixture f;
-    create(f);
-    const QStringList connected{"me", "anna", "dora"};
-    f.manager->m_callData.connectedList = connected;
-    f.manager->slot_RemoveConferenceMember(user);
-    QTEST(f.takeJournal(), "journal");
-    QTEST(f.manager->m_callData.memberList, "memberList");
-    QTEST(f.members(), "members");
-    QCOMPARE(f.manager->m_callData.connectedList, connected);
-}
-
-void tst_ConferenceFlow::control_data()
-{
-    QTest::addColumn<Step>("run");
-    QTest::addColumn<QStringList>("journal");
-
-    const auto add = [](const char *name, const Step &run, const QStringList &journal) {
-        QTest::newRow(name) << run << journal;
-    };
-    add("mute one", [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("anna", true); },
-        {"ControlConf \"mute\" \"anna\""});
-    add("unmute one", [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("anna", false); },
-        {"ControlConf \"unmute\" \"anna\""});
-    add("mute nobody", [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("", true); }, {});
-    add("mute all", [](EngineFixture &f) { f.manager->slot_MuteAll(true); },
-        {"ControlConf \"mute\" \"non_moderator\""});
-    add("unmute all", [](EngineFixture &f) { f.manager->slot_MuteAll(false); },
-        {"ControlConf \"unmute\" \"non_moderator\""});
-    add("kick", [](EngineFixture &f) { f.manager->controlConference(CVoipManage::Kick, false, "bert"); },
-        {"ControlConf \"kick\" \"bert\""});
-    add("an id with all members", [](EngineFixture &f) { f.manager->controlConference(CVoipManage::Kick, true, "b"); },
-        {"ControlConf \"kick\" \"non_moderator\""});
-    add("an operation that does not exist",
-        [](EngineFixture &f) {
-            f.manager->controlConference(static_cast<CVoipManage::ConfControlSignal>(3), false, "anna");
-        },
-        {});
-    add("outside a conference",
-        [](EngineFixture &f) {
-            f.manager->m_callData.bIsConf = false;
-            f.manager->slot_MuteAll(true);
-        },
-        {});
-    add("while the channel is down",
-        [](EngineFixture &f) {
-            f.manager->m_bSocketConnected = false;
-            f.manager->slot_MuteAll(true);
-            f.manager->slot_MuteConferenceMember("anna", false);
-            f.manager->slot_RemoveConferenceMember("anna");
-        },
-        {});
-}
-
-void tst_ConferenceFlow::control()
-{
-    QFETCH(Step, run);
-    EngineFixture f;
-    create(f);
-    run(f);
-    QTEST(f.takeJournal(), "journal");
-}
-
-void tst_ConferenceFlow::mutingKeepsNoState()
-{
-    EngineFixture f;
-    create(f);
-    f.manager->slot_MuteAll(true);
-    f.manager->slot_MuteAll(true);
-    QCOMPARE(f.takeJournal(),
-             QStringList({"ControlConf \"mute\" \"non_moderator\"", "ControlConf \"mute\" \"non_moderator\""}));
-}
-
-void tst_ConferenceFlow::cardIsHandedToTheWindow()
-{
-    EngineFixture f;
-    create(f);
-    VcardInfo card;
-    card.m_strNickName = QStringLiteral("安娜");
-    f.manager->updateUserInfo(EngineFixture::jid("anna"), card);
-    const QAbstractItemModel *rows = f.manager->m_pVoipWidget->findChild<QListView *>("listView")->model();
-    QCOMPARE(rows->index(0, 0).data(Qt::UserRole + 1).toString(), QStringLiteral("安娜"));
-}
-
 void tst_ConferenceFlow::conferenceEndTakesAwayThePromptOfTheCreator()
 {
     EngineFixture f;
     beInvited(f);
     f.notify(4);
     QCOMPARE(f.takeJournal(), QStringList({"4345 anna@kelvar.im", "SetMicEnable true", "SetSpeakerEnble true"}));
-    create(f);
+    startConference(f);
     f.notify(7);
     QCOMPARE(f.takeJournal(), QStringList({"SetMicEnable true", "SetSpeakerEnble true"}));
 }
