@@ -1,8 +1,9 @@
-// What becomes of files of every age: each form of a table that files in the field have, with rows in it, opened,
-// closed and opened again.
+// What becomes of files of every age: each form of a table that files in the field have, with rows in it, gains the
+// missing columns when it is opened, and nothing when it is opened again.
 
 #include "store/DB.h"
 #include "store/ExpectedSchema.h"
+#include "store/OldTables.h"
 #include "store/SchemaFile.h"
 
 #include <QTest>
@@ -21,29 +22,6 @@ private slots:
     void missingTablesJoinAnOldFile();
     void foreignColumnsTablesAndIndexesStay();
 
-    void oldMessagesLoseTheirOldIndexesAndGainTheCompositeOnes();
-    void oldMessagesWithoutIndexesGetOnlyTheCompositeOnes();
-    void changeOfMessageIndexesRidesOnTheSequenceColumn();
-    void misspelledMessageIndexIsDroppedAtEachOpen();
-    void sequenceIndexIsMadeAtEachOpenThatFindsItMissing();
-    void statementsOfAMessageUpgrade();
-
-    void roomIndexIsMadeAlsoWhenNoColumnIsMissing_data();
-    void roomIndexIsMadeAlsoWhenNoColumnIsMissing();
-    void existenceOfARoomIsNotConfusedWithItsLocalOne();
-
-    void sessionOrderComesOnItsOwnTest();
-    void openSessionsComeWhereOnlyTheirOrderIsThere();
-
-    void localServiceNumbersAreNeverAltered();
-    void localServiceNumbersComeBesideOldServiceNumbers();
-
-    void oldApplicationsReadZeroInTheDeletionMark();
-    void dingFilesNeverJoinAnOldFile();
-    void dingFilesAreKeptWhenTheirMessagesAreMadeAnew();
-
-    void lastTimeIsSeededOnlyWithItsTable();
-
     void aColumnIsTakenForThereWhenItsNameStandsInAnother_data();
     void aColumnIsTakenForThereWhenItsNameStandsInAnother();
 
@@ -52,23 +30,6 @@ private:
 };
 
 namespace {
-
-// Two rows with a text of their own in every column, and one with nothing but its first column.
-QStringList insertRows(const QString &table, const QStringList &columns)
-{
-    QStringList names;
-    QStringList first;
-    QStringList second;
-    for (const QString &column : columns) {
-        const QString name = columnName(column);
-        names.append(name);
-        first.append("'first " + name + "'");
-        second.append("'" + name + " 第二'");
-    }
-    const QString insert = "insert into " + table + " (" + names.join(',') + ") values (";
-    return {insert + first.join(',') + ")", insert + second.join(',') + ")",
-            "insert into " + table + " (" + names.first() + ") values ('alone')"};
-}
 
 QString quotedColumns(const QStringList &columns)
 {
@@ -92,28 +53,11 @@ QStringList missingFrom(const QStringList &columns, const QStringList &later)
     return missing;
 }
 
-QStringList without(const QStringList &columns, const QString &name)
-{
-    QStringList rest;
-    for (const QString &column : columns) {
-        if (columnName(column) != name)
-            rest.append(column);
-    }
-    return rest;
-}
-
 QString trimmedEnd(QString text)
 {
     while (text.endsWith(' '))
         text.chop(1);
     return text;
-}
-
-// The statements for a table of the oldest form.
-QStringList oldest(const QString &table)
-{
-    const ExpectedTable &expected = expectedTable(table);
-    return QStringList(expected.createSql(expected.oldestColumns())) + insertRows(table, expected.oldestColumns());
 }
 
 } // namespace
@@ -134,7 +78,7 @@ void tst_StoreSchemaUpgrade::eachOldForm()
         for (const QString &text : table.later) {
             const QString name = columnName(text);
             QTest::addRow("%s without %s", qPrintable(table.name), qPrintable(name))
-                << table.name << without(table.columns, name);
+                << table.name << columnsWithout(table.columns, name);
             ++forms;
         }
     }
@@ -208,7 +152,7 @@ void tst_StoreSchemaUpgrade::statementsThatUpgradeAnOldTable()
 void tst_StoreSchemaUpgrade::missingTablesJoinAnOldFile()
 {
     SchemaFile store;
-    store.run(oldest("mucmembers"));
+    store.run(oldestTable("mucmembers"));
     QVERIFY(store.openTwice());
     QStringList names("mucmembers");
     for (const ExpectedTable &table : expectedTables()) {
@@ -234,196 +178,6 @@ void tst_StoreSchemaUpgrade::foreignColumnsTablesAndIndexesStay()
     QCOMPARE(store.storedSql("friendlist"), statements[2]);
     QCOMPARE(store.rows("select * from friendlist"), QStringList("1|2"));
     QCOMPARE(store.rows("select sessionId, mine, quote(recall) from message_session"), QStringList("7|x|NULL"));
-}
-
-void tst_StoreSchemaUpgrade::oldMessagesLoseTheirOldIndexesAndGainTheCompositeOnes()
-{
-    SchemaFile store;
-    store.run(oldest("msgrecord") + QStringList{"CREATE INDEX msgrecord_index1 on msgrecord(unique_jid)",
-                                                "CREATE INDEX msgrecord_index2 on msgrecord(ztime)",
-                                                "CREATE INDEX msgrecord_index3 on msgrecord(messageid)",
-                                                "CREATE INDEX msgrecord_index_sqeuenceId on msgrecord(burnFlag)"});
-    QVERIFY(store.open());
-    QCOMPARE(store.indexesOf("msgrecord"), expectedTable("msgrecord").indexNames());
-    for (const ExpectedIndex &index : expectedTable("msgrecord").indexes)
-        QCOMPARE(store.storedSql(index.name), expectedTable("msgrecord").indexSql(index));
-    QCOMPARE(store.rows("PRAGMA integrity_check"), QStringList("ok"));
-}
-
-void tst_StoreSchemaUpgrade::oldMessagesWithoutIndexesGetOnlyTheCompositeOnes()
-{
-    SchemaFile store;
-    store.run(oldest("msgrecord"));
-    QVERIFY(store.openTwice());
-    QCOMPARE(store.indexesOf("msgrecord"),
-             QStringList({"msgrecord_index_uniquejid_sequenceId", "msgrecord_index_uniquejid_time"}));
-}
-
-void tst_StoreSchemaUpgrade::changeOfMessageIndexesRidesOnTheSequenceColumn()
-{
-    SchemaFile store;
-    const ExpectedTable &messages = expectedTable("msgrecord");
-    store.run(
-        {messages.createSql(without(messages.columns, "atlist")), "CREATE INDEX msgrecord_index2 on msgrecord(ztime)"});
-    QVERIFY(store.openTwice());
-    QVERIFY(store.columnsOf("msgrecord").contains(columnInfo("atlist TEXT")));
-    QCOMPARE(store.indexesOf("msgrecord"), QStringList({"msgrecord_index2", "msgrecord_index_uniquejid_sequenceId"}));
-}
-
-void tst_StoreSchemaUpgrade::misspelledMessageIndexIsDroppedAtEachOpen()
-{
-    SchemaFile store;
-    QVERIFY(store.open());
-    for (int i = 0; i < 2; ++i) {
-        DB::closeDB();
-        store.run({"CREATE INDEX msgrecord_index_sqeuenceId on msgrecord(sequenceId)"});
-        QVERIFY(store.open());
-        QCOMPARE(store.indexesOf("msgrecord"), expectedTable("msgrecord").indexNames());
-    }
-}
-
-void tst_StoreSchemaUpgrade::sequenceIndexIsMadeAtEachOpenThatFindsItMissing()
-{
-    SchemaFile store;
-    QVERIFY(store.open());
-    for (int i = 0; i < 2; ++i) {
-        DB::closeDB();
-        store.run({"DROP INDEX msgrecord_index_uniquejid_sequenceId"});
-        QVERIFY(store.open());
-        QCOMPARE(store.indexesOf("msgrecord"), expectedTable("msgrecord").indexNames());
-    }
-}
-
-void tst_StoreSchemaUpgrade::statementsOfAMessageUpgrade()
-{
-    SchemaFile store;
-    store.run(oldest("msgrecord") + QStringList{"CREATE INDEX msgrecord_index2 on msgrecord(ztime)",
-                                                "CREATE INDEX msgrecord_index_sqeuenceId on msgrecord(burnFlag)"});
-    QVERIFY(store.openForSignIn());
-    QCOMPARE(store.writesOf(&DB::createMessageTable),
-             QStringList({"ALTER TABLE msgrecord ADD atlist TEXT", "ALTER TABLE msgrecord ADD sequenceId INT64",
-                          "DROP INDEX msgrecord_index2;",
-                          "CREATE INDEX msgrecord_index_uniquejid_time on msgrecord(unique_jid,ztime)",
-                          "DROP INDEX msgrecord_index_sqeuenceId;",
-                          "CREATE INDEX msgrecord_index_uniquejid_sequenceId on msgrecord(unique_jid,sequenceId)"}));
-}
-
-void tst_StoreSchemaUpgrade::roomIndexIsMadeAlsoWhenNoColumnIsMissing_data()
-{
-    QTest::addColumn<QString>("table");
-    QTest::addColumn<QStringList>("columns");
-    for (const QString &table : {QString("mucrecord"), QString("mucmembers")}) {
-        QTest::addRow("%s up to date", qPrintable(table)) << table << expectedTable(table).columns;
-        QTest::addRow("%s of the oldest form", qPrintable(table)) << table << expectedTable(table).oldestColumns();
-    }
-}
-
-void tst_StoreSchemaUpgrade::roomIndexIsMadeAlsoWhenNoColumnIsMissing()
-{
-    QFETCH(QString, table);
-    QFETCH(QStringList, columns);
-    const ExpectedTable &expected = expectedTable(table);
-    SchemaFile store;
-    store.run({expected.createSql(columns)});
-    QVERIFY(store.open());
-    QCOMPARE(store.indexesOf(table), expected.indexNames());
-    QCOMPARE(store.storedSql(expected.indexes.first().name), expected.indexSql(expected.indexes.first()));
-}
-
-void tst_StoreSchemaUpgrade::existenceOfARoomIsNotConfusedWithItsLocalOne()
-{
-    SchemaFile store;
-    store.run({"CREATE TABLE mucrecord (roomJid VARCHAR(100), localExist VARCHAR(1))"});
-    QVERIFY(store.open());
-    QVERIFY(DB::isExistFiled("mucrecord", "isExist"));
-    QCOMPARE(store.columnsOf("mucrecord").mid(0, 3),
-             QStringList({columnInfo("roomJid VARCHAR(100)"), columnInfo("localExist VARCHAR(1)"),
-                          columnInfo("isExist VARCHAR(1)")}));
-}
-
-void tst_StoreSchemaUpgrade::sessionOrderComesOnItsOwnTest()
-{
-    SchemaFile store;
-    store.run(oldest("unclosesession"));
-    QVERIFY(store.openTwice());
-    QCOMPARE(store.storedSql("unclosesessionorder"), expectedTable("unclosesessionorder").createSql());
-    QCOMPARE(store.rows("select Jid from unclosesession order by rowid"),
-             QStringList({"first Jid", "Jid 第二", "alone"}));
-}
-
-void tst_StoreSchemaUpgrade::openSessionsComeWhereOnlyTheirOrderIsThere()
-{
-    SchemaFile store;
-    store.run(oldest("unclosesessionorder"));
-    QVERIFY(store.openTwice());
-    QCOMPARE(store.storedSql("unclosesession"), expectedTable("unclosesession").createSql());
-    QCOMPARE(store.rows("select count(*) from unclosesessionorder"), QStringList("3"));
-}
-
-void tst_StoreSchemaUpgrade::localServiceNumbersAreNeverAltered()
-{
-    const QStringList columns = expectedTable("servicenumber").oldestColumns();
-    const QString sql = expectedTable("localservicenumber").createSql(columns);
-    SchemaFile store;
-    store.run(oldest("servicenumber") + QStringList(sql) + insertRows("localservicenumber", columns));
-    QVERIFY(store.openTwice());
-    QCOMPARE(store.columnsOf("servicenumber").size(), 14);
-    QCOMPARE(store.storedSql("localservicenumber"), sql);
-    QCOMPARE(store.rows("select count(*) from localservicenumber"), QStringList("3"));
-}
-
-void tst_StoreSchemaUpgrade::localServiceNumbersComeBesideOldServiceNumbers()
-{
-    SchemaFile store;
-    store.run({expectedTable("servicenumber").createSql(expectedTable("servicenumber").oldestColumns())});
-    QVERIFY(store.openForSignIn());
-    QStringList statements;
-    for (const QString &text : expectedTable("servicenumber").later)
-        statements.append("ALTER TABLE servicenumber ADD " + text);
-    statements.append(expectedTable("localservicenumber").createSql());
-    QCOMPARE(store.writesOf(&DB::createServiceTable), statements);
-}
-
-void tst_StoreSchemaUpgrade::oldApplicationsReadZeroInTheDeletionMark()
-{
-    SchemaFile store;
-    store.run(oldest("appnumbernew"));
-    QVERIFY(store.openTwice());
-    store.run({"insert into appnumbernew (appcode) values ('new')"});
-    QCOMPARE(store.rows("select quote(isdelete) from appnumbernew"), QStringList({"0", "0", "0", "0"}));
-}
-
-void tst_StoreSchemaUpgrade::dingFilesNeverJoinAnOldFile()
-{
-    SchemaFile store;
-    store.run(oldest("dingmsginfo"));
-    for (int i = 0; i < 3; ++i) {
-        QVERIFY(store.open());
-        DB::closeDB();
-        QVERIFY(!store.tables().contains("dingsmsgfileoinfo"));
-        QCOMPARE(store.indexesOf("dingmsginfo"), QStringList());
-    }
-}
-
-void tst_StoreSchemaUpgrade::dingFilesAreKeptWhenTheirMessagesAreMadeAnew()
-{
-    SchemaFile store;
-    store.run(oldest("dingsmsgfileoinfo"));
-    QVERIFY(store.openTwice());
-    QCOMPARE(store.rows("select count(*) from dingsmsgfileoinfo"), QStringList("3"));
-    QCOMPARE(store.storedSql("dingmsginfo"), expectedTable("dingmsginfo").createSql());
-    QCOMPARE(store.indexesOf("dingmsginfo"), expectedTable("dingmsginfo").indexNames());
-}
-
-void tst_StoreSchemaUpgrade::lastTimeIsSeededOnlyWithItsTable()
-{
-    SchemaFile store;
-    store.run({expectedTable("last_time").createSql()});
-    QVERIFY(store.openTwice());
-    QCOMPARE(store.rows("select count(*) from last_time"), QStringList("0"));
-    store.run({"insert into last_time values ('all_session', '1700000000')"});
-    QVERIFY(store.openTwice());
-    QCOMPARE(store.rows("select * from last_time"), QStringList("all_session|1700000000"));
 }
 
 // Deliberate: the test for a column is a search in the stored text, without regard to case.
