@@ -36,6 +36,8 @@ public:
     void write(const QByteArray &bytes);
     /// One command as a line; `parameters` become param1, param2, ...
     static QByteArray line(const QString &name, const QJsonArray &parameters = {});
+    /// The parameters of CallUser for a call by voice to 30010001.
+    static QJsonArray callParameters() { return {QStringLiteral("30010001"), false}; }
     /// Writes one command.
     void command(const QString &name, const QJsonArray &parameters = {});
     /// The next read as it comes, empty when none does.

@@ -1,3 +1,5 @@
+// What the player of scenarios does: expectations, the bytes that go out, the connection, the end.
+
 #include "callprocess/CallProcess.h"
 #include "callprocess/Wire.h"
 
@@ -32,17 +34,7 @@ private slots:
     void quitBeforeWhatIsExpectedEndsWithThree();
     void quitDuringAWaitChecksTheRest_data();
     void quitDuringAWaitChecksTheRest();
-    void readyScenarioPlays_data();
-    void readyScenarioPlays();
-    void killedScenarioDies_data();
-    void killedScenarioDies();
 };
-
-namespace {
-
-const QJsonArray CALL{QStringLiteral("30010001"), false};
-
-} // namespace
 
 void tst_ScenarioPlayer::init()
 {
@@ -55,7 +47,7 @@ void tst_ScenarioPlayer::metExpectationsLeadToTheEnd()
     CallProcess peer;
     peer.startScenario("expect CallUser param1=30010001 param2=false\nsend 18\nexpect HangUpCall\nend\n");
     QVERIFY(peer.connectClient());
-    peer.command(QStringLiteral("CallUser"), CALL);
+    peer.command(QStringLiteral("CallUser"), CallProcess::callParameters());
     QCOMPARE(peer.nextNotification(), QStringLiteral("18"));
     peer.command(QStringLiteral("HangUpCall"));
     QCOMPARE(peer.exitCode(), 0);
@@ -78,7 +70,7 @@ void tst_ScenarioPlayer::unmetExpectationEndsWithThree()
     CallProcess peer;
     peer.startScenario("# first\nexpect CallUser param1=30010002\n");
     QVERIFY(peer.connectClient());
-    peer.command(QStringLiteral("CallUser"), CALL);
+    peer.command(QStringLiteral("CallUser"), CallProcess::callParameters());
     QCOMPARE(peer.exitCode(), 3);
     QVERIFY(peer.waitTrace(QStringLiteral(":2: expected CallUser param1=30010002, got "
                                           "{\"messagetype\":\"CallUser\",\"param1\":\"30010001\",\"param2\":false}")));
@@ -129,7 +121,7 @@ void tst_ScenarioPlayer::awaitPassesOverOthers()
     CallProcess peer;
     peer.startScenario("await HangUpCall\nend\n");
     QVERIFY(peer.connectClient());
-    peer.command(QStringLiteral("CallUser"), CALL);
+    peer.command(QStringLiteral("CallUser"), CallProcess::callParameters());
     peer.command(QStringLiteral("HangUpCall"));
     QCOMPARE(peer.exitCode(), 0);
 }
@@ -309,95 +301,6 @@ void tst_ScenarioPlayer::quitDuringAWaitChecksTheRest()
     QVERIFY(peer.connectClient());
     peer.write("{\"messagetype\":\"HangUpCall\"}\nquit\n");
     QCOMPARE(peer.exitCode(), exitCode);
-}
-
-void tst_ScenarioPlayer::readyScenarioPlays_data()
-{
-    QTest::addColumn<QString>("scenario");
-    QTest::addColumn<QString>("commands");
-    QTest::addColumn<QString>("notifications");
-    const auto row = [](const char *scenario, const char *commands, const char *notifications) {
-        QTest::newRow(scenario) << QString::fromLatin1(scenario) << QString::fromLatin1(commands)
-                                << QString::fromLatin1(notifications);
-    };
-    row("call-answered", "CallUser HangUpCall", "18");
-    row("call-hung-up", "CallUser", "18 8");
-    row("call-busy", "CallUser", "22");
-    row("call-rejected", "CallUser", "10");
-    row("call-failed", "CallUser", "19");
-    row("call-never-answered", "CallUser HangUpCall", "");
-    row("incoming-accepted", "AcceptCall", "0 18 8");
-    row("incoming-rejected", "RejectCall", "0");
-    row("incoming-cancelled", "", "0 4");
-    row("second-incoming-call", "AcceptCall", "0 18 0");
-    row("conference-created", "RequestConference HangupConf", "20 18 12 25 13");
-    row("conference-refused", "RequestConference", "20");
-    row("conference-invited", "AcceptConf", "2 18 12 7");
-    row("split-line", "CallUser HangUpCall", "22 18");
-    row("two-lines-one-read", "CallUser", "18 8");
-    row("same-line-twice", "", "999 999 999 999");
-}
-
-void tst_ScenarioPlayer::readyScenarioPlays()
-{
-    QFETCH(QString, scenario);
-    QFETCH(QString, commands);
-    QFETCH(QString, notifications);
-    const QMap<QString, QJsonArray> parameters{
-        {QStringLiteral("CallUser"), CALL},
-        {QStringLiteral("RequestConference"), {QStringLiteral("100"), QJsonValue(), false, QString()}}};
-    CallProcess peer;
-    peer.start({QStringLiteral("--speed"), QStringLiteral("100"), QStringLiteral("--scenario"),
-                QStringLiteral(VOIPSDK_SCENARIOS "/") + scenario + QStringLiteral(".scn")});
-    QVERIFY(peer.connectClient());
-    peer.command(QStringLiteral("RegeditUser"),
-                 {QStringLiteral("100"), QStringLiteral("Me"), QStringLiteral("r"), false});
-    QCOMPARE(peer.nextNotification(), QStringLiteral("17 true"));
-    const QStringList names = commands.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    for (const QString &name : names) {
-        peer.command(name, parameters.value(name));
-    }
-    const QStringList codes = notifications.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    for (const QString &code : codes) {
-        QCOMPARE(peer.nextNotification().section(QLatin1Char(' '), 0, 0), code);
-    }
-    QVERIFY(peer.waitTrace(QStringLiteral("= scenario played")));
-    peer.write("quit\n");
-    QCOMPARE(peer.exitCode(), 0);
-    QCOMPARE(peer.trace().filter(QRegularExpression(QStringLiteral("^!"))).size(), 0);
-}
-
-void tst_ScenarioPlayer::killedScenarioDies_data()
-{
-    QTest::addColumn<QString>("scenario");
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<QString>("notification");
-    QTest::newRow("calling") << QStringLiteral("killed-while-calling") << QStringLiteral("CallUser") << QString();
-    QTest::newRow("ringing") << QStringLiteral("killed-while-ringing") << QString() << QStringLiteral("0 30010001");
-    QTest::newRow("connected") << QStringLiteral("killed-while-connected") << QStringLiteral("CallUser")
-                               << QStringLiteral("18");
-}
-
-void tst_ScenarioPlayer::killedScenarioDies()
-{
-    QFETCH(QString, scenario);
-    QFETCH(QString, command);
-    QFETCH(QString, notification);
-    CallProcess peer;
-    peer.start({QStringLiteral("--speed"), QStringLiteral("100"), QStringLiteral("--scenario"),
-                QStringLiteral(VOIPSDK_SCENARIOS "/") + scenario + QStringLiteral(".scn")});
-    QVERIFY(peer.connectClient());
-    peer.command(QStringLiteral("RegeditUser"),
-                 {QStringLiteral("100"), QStringLiteral("Me"), QStringLiteral("r"), false});
-    QCOMPARE(peer.nextNotification(), QStringLiteral("17 true"));
-    if (!command.isEmpty()) {
-        peer.command(command, CALL);
-    }
-    if (!notification.isEmpty()) {
-        QCOMPARE(peer.nextNotification(), notification);
-    }
-    QCOMPARE(peer.exitCode(), 9);
-    QVERIFY(QFile::exists(CallProcess::socketPath()));
 }
 
 QTEST_GUILESS_MAIN(tst_ScenarioPlayer)
