@@ -59,14 +59,6 @@ QString signInAddress(const QString &strKey, QLatin1String base, QLatin1String p
     return strValue.isEmpty() ? QString(base) + path + signInQuery() : strValue;
 }
 
-// The ranges of the pair `iPair` without its empty items, so that "numrange0=" makes a catch-all.
-QStringList numberRanges(int iPair)
-{
-    QStringList listRange = entry(QStringLiteral("/sipphone/numrange%1").arg(iPair)).toStringList();
-    listRange.removeAll(QString());
-    return listRange;
-}
-
 } // namespace
 
 #define URL_ANSWER_Plain(key, endpoint, path)                                                                          \
@@ -103,7 +95,7 @@ void CUrlInfo::getSipPhoneRegDomain(QMap<QString, QString> &map)
         if (strDomain.isEmpty()) {
             break;
         }
-        const QStringList listRange = numberRanges(i);
+        const QStringList listRange = entry(QStringLiteral("/sipphone/numrange%1").arg(i)).toStringList();
         if (listRange.isEmpty()) {
             map[tr("000000")] = strDomain;
             break;

@@ -18,7 +18,8 @@ class QTextStream;
 class CustomLogger
 {
 public:
-    /// Opens `strFileName` for writing behind what it holds already; the file is created when missing, folders are not.
+    /// Opens `strFileName` for writing from the last byte of what it holds on, which is overwritten; the file is
+    /// created when missing, folders are not.
     explicit CustomLogger(const QString &strFileName);
 
     /// Closes the file. Text that was neither flushed nor closed before is lost.

@@ -29,8 +29,8 @@ namespace LogUtils {
 QString getFormattedLog(const QString &strTime, const QString &strLevel, const QString &strLocation,
                         const QString &strMessage);
 
-/// The number behind the first "-" that stands left of the first double quote at index 1 or later; 1 when none is
-/// there.
+/// The number behind the first "-" of what stands left of the first double quote at index 1 or later, or the number
+/// that all of it is when it has no "-"; 1 when there is none.
 quint64 getEventSequenceByLog(const QString &strLog);
 
 /// The content of "Resources/CustomLog/LogTemplate.txt" in the working directory; empty when it cannot be read.

@@ -33,8 +33,8 @@ public:
 
     /// The lower-case digit of a nibble, 0 to 15; only the low four bits count.
     static char nibble_to_hex_char1(int nibble);
-    /// `n` octets as lower-case hexadecimal text of at most 63 characters. The text lies in a buffer of the process
-    /// that the next call overwrites; 0 or less gives the empty text.
+    /// `n` octets as lower-case hexadecimal text of 2n characters, of more than 32 octets the first 63. The text lies
+    /// in a buffer of the process that the next call overwrites; 0 or less gives the empty text.
     static const char *octet_string_hex_string1(const void *data, int n);
 
 private:

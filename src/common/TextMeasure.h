@@ -13,8 +13,8 @@ public:
     /// The columns of the text; 0 for the empty one.
     static int getStrCounnt(const QString &strText);
     /// The number of UTF-16 units up to the limit of `iLimit` columns: where they are reached exactly, the unit that
-    /// does so is counted, where it goes one column beyond, it is not. Otherwise (a longer limit, none or a negative
-    /// one) the columns of the whole text.
+    /// does so is counted, where it goes one column beyond, it is not. Otherwise (a limit that the text does
+    /// not reach, a negative one, or 0 before a wide character) the columns of the whole text.
     static int getLimitPosition(const QString &strText, int iLimit);
     /// The longest beginning of the text of at most `iLimit` columns, cut between any two UTF-16 units; empty with no
     /// or a negative limit.

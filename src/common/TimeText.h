@@ -14,7 +14,7 @@ public:
     /// "thedaybeforeyesterday", "MM-dd", and "yyyy-MM-dd" in another year. `strTime` is "yyyy-MM-dd hh:mm:ss" or
     /// "yyyy-MM-dd hh:mm:ss.zzz".
     static QString getTime(const QString &strTime, const QDateTime &now = QDateTime::currentDateTime());
-    /// The same, each followed by a blank and "hh:mm"; in another year these are the letters.
+    /// The same; the words and dates are followed by a blank and "hh:mm", which in another year are the letters.
     static QString getTimeEx(const QString &strTime, const QDateTime &now = QDateTime::currentDateTime());
     /// The time of a message of `strMilliseconds` since the epoch: "hh:mm" today, behind the word for the last two days
     /// with no blank between, behind "MM-dd " on other days of the year and behind "yyyy-MM-dd " in other years.

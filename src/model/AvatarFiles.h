@@ -1,7 +1,7 @@
 #pragma once
 
 // Where head pictures lie: the system avatars beside the application and the user's own folder of head images. Reads
-// the file system at each call; any thread for which the shared context is set up.
+// the file system at each call. For the GUI thread, since the user's folder comes from the settings.
 
 #include <QString>
 

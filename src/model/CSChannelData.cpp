@@ -28,7 +28,9 @@ CSChannelData CSChannelData::fromJson(const Json::Value &value)
     channel.m_iVersion = value["version"].asInt64();
     channel.m_bAllowClose = value["agentCloseSession"].asBool();
     channel.m_bAllowOpen = value["agentOpenSession"].asBool();
-    for (const Json::Value &group : value["workgroupList"]) {
+    const Json::Value &groups = value["workgroupList"];
+    for (Json::ArrayIndex i = 0; i < groups.size(); ++i) {
+        const Json::Value &group = groups[i];
         channel.m_listWorkGroup.append({text(group, "id"), text(group, "name"), channel.m_strChannelId});
     }
     return channel;

@@ -30,7 +30,8 @@ class CSChannelData
 {
 public:
     /// The channel of the JSON object `value`, whose groups bear its id; its status is 1. A missing key reads as empty,
-    /// 0 or false; a value of a wrong type raises the JSON library's own error.
+    /// 0 or false; a value of a wrong type raises the JSON library's own error, but a text or number in the list's
+    /// place is one without groups.
     static CSChannelData fromJson(const Json::Value &value);
 
     /// Compares the version alone, deliberately: callers ask in this way whether a channel has to be stored anew.

@@ -1,6 +1,6 @@
 #pragma once
 
-// Helpers around the customer-service records; static functions for any thread.
+// Helpers around the customer-service records; for the GUI thread: the user's folder of head images is asked for.
 
 #include <QString>
 

@@ -23,7 +23,8 @@ public:
     /// account into a fresh record.
     void parseFromJson(Json::Value value);
 
-    /// Appends the nodes of the array `value` to the menu list; what is there stays. No array: nothing.
+    /// Appends the nodes of the array `value` to the menu list; what is there stays. Null, a text
+    /// or a number has none.
     void parseServiceMenu(const Json::Value &value);
 
     /// Reads a menu from its JSON text, as the `menu` column stores it: the text becomes the menu text and its nodes go

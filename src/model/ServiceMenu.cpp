@@ -20,13 +20,10 @@ void ServiceMenu::parseMenu(const Json::Value &value)
 QList<ServiceMenu> ServiceMenu::parseList(const Json::Value &value)
 {
     QList<ServiceMenu> listMenu;
-    if (!value.isArray()) {
-        return listMenu;
-    }
     listMenu.reserve(static_cast<int>(value.size()));
-    for (const Json::Value &child : value) {
+    for (Json::ArrayIndex i = 0; i < value.size(); ++i) {
         ServiceMenu menu;
-        menu.parseMenu(child);
+        menu.parseMenu(value[i]);
         listMenu.append(menu);
     }
     return listMenu;

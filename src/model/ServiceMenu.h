@@ -18,7 +18,8 @@ public:
     /// node is then unchanged.
     void parseMenu(const Json::Value &value);
 
-    /// The nodes of the array `value`, in its order; anything but an array has none.
+    /// The nodes of the array `value`, in its order; null, a text or a number has none, an object with members raises
+    /// the JSON library's error.
     static QList<ServiceMenu> parseList(const Json::Value &value);
 
     /// The shown name.

@@ -3,8 +3,8 @@
 // The signed-in user's store: one SQLite file "localData.db" in the user's folder, opened, checked for damage, and
 // brought up to date at each open by adding what it lacks. There is no schema version: what a file has is read from its
 // sqlite_master every time. All static. Everything runs on the thread that opened the connection; there is no lock, no
-// transaction and no line in the log. Schema statements report nothing: an open can succeed with a part of the
-// schema, and the next one adds what it can.
+// transaction and no line in the log but that of DBLastTime when a new file's row cannot be made. Schema statements
+// report nothing: an open can succeed with a part of the schema, and the next one adds what it can.
 
 #include <QSqlDatabase>
 #include <QString>

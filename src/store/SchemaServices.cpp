@@ -1,4 +1,4 @@
-// Service numbers and applications, favourites, what is known of files, customer service, urgent messages.
+// Service numbers and applications, favourites, what is known of files, urgent messages.
 
 #include "store/DB.h"
 #include "store/StoreSchema.h"

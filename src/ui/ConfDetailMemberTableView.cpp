@@ -39,7 +39,7 @@ void CConfDetailMemberTableView::initTableView()
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setItemDelegate(m_pDelegate);
     setMouseTracking(true);
-    connect(&m_signTimer, &QTimer::timeout, this, &CConfDetailMemberTableView::slot_ShowSign);
+    connect(&m_signTimer, SIGNAL(timeout()), this, SLOT(slot_ShowSign()));
 }
 
 void CConfDetailMemberTableView::setMemList(QList<QString> list)

@@ -49,14 +49,14 @@ CConferenceInfoListView::CConferenceInfoListView(QWidget *parent)
     setItemDelegateForColumn(0, m_pDelegate);
     setModel(m_pModel);
     initMenu();
-    connect(&m_signTimer, &QTimer::timeout, this, &CConferenceInfoListView::slot_ShowSign);
+    connect(&m_signTimer, SIGNAL(timeout()), this, SLOT(slot_ShowSign()));
 }
 
 void CConferenceInfoListView::initMenu()
 {
     m_pMenu->addAction(m_pRecallAction);
     m_pMenu->addAction(m_pDeleteAction);
-    connect(m_pMenu, &QMenu::triggered, this, &CConferenceInfoListView::slot_selectAction);
+    connect(m_pMenu, SIGNAL(triggered(QAction *)), this, SLOT(slot_selectAction(QAction *)));
 }
 
 void CConferenceInfoListView::addConfInfoList(QList<ConfInfoData> confInfoList)

@@ -41,7 +41,7 @@ CConferenceListView::CConferenceListView(QWidget *parent)
     // All rows are of one size; so placing a thousand asks for one.
     setUniformItemSizes(true);
     installEventFilter(this);
-    connect(&m_statusTimer, &QTimer::timeout, this, &CConferenceListView::slot_UpdateCallStatu);
+    connect(&m_statusTimer, SIGNAL(timeout()), this, SLOT(slot_UpdateCallStatu()));
     setItemDelegateForColumn(0, m_pDelegate);
     setModel(m_pModel);
 }

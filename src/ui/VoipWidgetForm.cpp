@@ -71,26 +71,26 @@ void CVoipWidget::setUpForm()
 
 void CVoipWidget::connectControls()
 {
-    connect(ui->HangUp, &PushButtonEx::clicked, this, &CVoipWidget::slot_HangUpCall);
-    connect(ui->btnClose, &CIconButtonEx::clicked, this, &CVoipWidget::slot_close);
-    connect(ui->btnMic, &CIconButtonEx::clicked, this, &CVoipWidget::slot_MicButtonClicked);
-    connect(ui->btnSpeaker, &CIconButtonEx::clicked, this, &CVoipWidget::slot_SpeakerButtonClicked);
-    connect(ui->btnCamera, &CIconButtonEx::clicked, this, &CVoipWidget::slot_CameraButtonClicked);
-    connect(ui->btnChangeWindow, &CIconButtonEx::clicked, this, &CVoipWidget::slot_WindowChangeButtonClicked);
-    connect(m_pMicSlider, &QSlider::valueChanged, this, &CVoipWidget::slot_MicVolumChanged);
-    connect(m_pSpeakerSlider, &QSlider::valueChanged, this, &CVoipWidget::slot_SpeakerVolumChanged);
-    connect(&m_micSliderTimer, &QTimer::timeout, this, &CVoipWidget::slot_MicSilderHide);
-    connect(&m_speakerSliderTimer, &QTimer::timeout, this, &CVoipWidget::slot_SpeakerSilderHide);
-    connect(&m_callTimeTimer, &QTimer::timeout, this, &CVoipWidget::slot_RefreshTime);
-    connect(ui->btnCancelCall, &PushButtonEx::clicked, this, &CVoipWidget::slot_CancelVoipCall);
+    connect(ui->HangUp, SIGNAL(clicked()), this, SLOT(slot_HangUpCall()));
+    connect(ui->btnClose, SIGNAL(clicked()), this, SLOT(slot_close()));
+    connect(ui->btnMic, SIGNAL(clicked()), this, SLOT(slot_MicButtonClicked()));
+    connect(ui->btnSpeaker, SIGNAL(clicked()), this, SLOT(slot_SpeakerButtonClicked()));
+    connect(ui->btnCamera, SIGNAL(clicked()), this, SLOT(slot_CameraButtonClicked()));
+    connect(ui->btnChangeWindow, SIGNAL(clicked()), this, SLOT(slot_WindowChangeButtonClicked()));
+    connect(m_pMicSlider, SIGNAL(valueChanged(int)), this, SLOT(slot_MicVolumChanged(int)));
+    connect(m_pSpeakerSlider, SIGNAL(valueChanged(int)), this, SLOT(slot_SpeakerVolumChanged(int)));
+    connect(&m_micSliderTimer, SIGNAL(timeout()), this, SLOT(slot_MicSilderHide()));
+    connect(&m_speakerSliderTimer, SIGNAL(timeout()), this, SLOT(slot_SpeakerSilderHide()));
+    connect(&m_callTimeTimer, SIGNAL(timeout()), this, SLOT(slot_RefreshTime()));
+    connect(ui->btnCancelCall, SIGNAL(clicked()), this, SLOT(slot_CancelVoipCall()));
     connectConferenceControls();
 }
 
 void CVoipWidget::connectConferenceControls()
 {
-    connect(ui->btnAddMember, &QPushButton::clicked, this, &CVoipWidget::slot_AddConferenceMember);
-    connect(ui->btnMuteAll, &CIconButtonEx::clicked, this, &CVoipWidget::slot_MuteAll);
-    connect(ui->listView, &CConferenceListView::signal_RemoveUser, this, &CVoipWidget::slot_RemoveConferenceMember);
-    connect(ui->listView, &CConferenceListView::signal_MuteUser, this, &CVoipWidget::slot_MuteConferenceMember);
-    connect(ui->listView, &CConferenceListView::signal_ReInviteConfUser, this, &CVoipWidget::slot_ReInviteConfUser);
+    connect(ui->btnAddMember, SIGNAL(clicked()), this, SLOT(slot_AddConferenceMember()));
+    connect(ui->btnMuteAll, SIGNAL(clicked()), this, SLOT(slot_MuteAll()));
+    connect(ui->listView, SIGNAL(signal_RemoveUser(QString)), this, SLOT(slot_RemoveConferenceMember(QString)));
+    connect(ui->listView, SIGNAL(signal_MuteUser(QString, bool)), this, SLOT(slot_MuteConferenceMember(QString, bool)));
+    connect(ui->listView, SIGNAL(signal_ReInviteConfUser(QString)), this, SLOT(slot_ReInviteConfUser(QString)));
 }

@@ -125,17 +125,17 @@ void CTextEditEx::fillMenu(CMenuEx &menu)
 {
     const bool bSelected = hasSelectedText(textCursor());
     const bool bFilled = !document()->isEmpty();
-    const auto add = [this, &menu](const QString &strText, bool bEnabled, void (CTextEditEx::*action)()) {
+    const auto add = [this, &menu](const QString &strText, bool bEnabled, const char *szAction) {
         QAction *pAction = menu.addAction(strText);
         pAction->setEnabled(bEnabled);
-        connect(pAction, &QAction::triggered, this, action);
+        connect(pAction, SIGNAL(triggered()), this, szAction);
         return pAction;
     };
-    add(QObject::tr("cut"), bSelected, &CTextEditEx::cut)->setShortcut(QKeySequence::Cut);
-    add(QObject::tr("duplicate"), bSelected, &CTextEditEx::copy)->setShortcut(QKeySequence::Copy);
-    add(QObject::tr("paste"), clipboardHasText(), &CTextEditEx::pasteFromMenu);
-    add(QObject::tr("clear"), bFilled, &CTextEditEx::clear);
-    add(QObject::tr("allSelect"), bFilled, &CTextEditEx::selectAll)->setShortcut(QKeySequence::SelectAll);
+    add(QObject::tr("cut"), bSelected, SLOT(cut()))->setShortcut(QKeySequence::Cut);
+    add(QObject::tr("duplicate"), bSelected, SLOT(copy()))->setShortcut(QKeySequence::Copy);
+    add(QObject::tr("paste"), clipboardHasText(), SLOT(pasteFromMenu()));
+    add(QObject::tr("clear"), bFilled, SLOT(clear()));
+    add(QObject::tr("allSelect"), bFilled, SLOT(selectAll()))->setShortcut(QKeySequence::SelectAll);
 }
 
 void CTextEditEx::pasteFromMenu()

@@ -34,11 +34,13 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void insertFromMimeData(const QMimeData *source) override;
 
+private slots:
+    void pasteFromMenu();
+
 private:
     void setStyles();
     void appendStyle(const QString &strStyle);
     void fillMenu(CMenuEx &menu);
-    void pasteFromMenu();
 
     QString m_strStyle;
     bool m_bEmitPaste = false;

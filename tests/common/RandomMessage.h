@@ -11,7 +11,8 @@ class RandomMessage
 public:
     explicit RandomMessage(quint32 iSeed) : m_random(iSeed) {}
 
-    /// A whole document with paragraphs, spans and images, well-formed.
+    /// A whole document with paragraphs, spans and images, well-formed but for images that nothing closes or that name
+    /// an attribute twice.
     QString document()
     {
         QString strBody;

@@ -48,11 +48,11 @@ private slots:
         QTest::newRow("a later pair wins") << QByteArray("[sipphone]\ndomain0=x\nnumrange0=025,010\ndomain1=y\n"
                                                          "numrange1=010\n")
                                            << Domains{{"025", "x"}, {"010", "y"}};
-        QTest::newRow("empty ranges") << QByteArray("[sipphone]\ndomain0=x\nnumrange0=\n") << Domains{{"000000", "x"}};
-        QTest::newRow("empty items") << QByteArray("[sipphone]\ndomain0=x\nnumrange0=,025,,010,\n")
-                                     << Domains{{"025", "x"}, {"010", "x"}};
-        QTest::newRow("only empty items")
-            << QByteArray("[sipphone]\ndomain0=x\nnumrange0=,,\n") << Domains{{"000000", "x"}};
+        // The settings read an empty value as a list of one empty item.
+        QTest::newRow("an empty value is an empty range")
+            << QByteArray("[sipphone]\ndomain0=x\nnumrange0=\ndomain1=y\n") << Domains{{"", "x"}, {"000000", "y"}};
+        QTest::newRow("an empty item is an empty range") << QByteArray("[sipphone]\ndomain0=x\nnumrange0=025,,010\n")
+                                                         << Domains{{"", "x"}, {"025", "x"}, {"010", "x"}};
         QTest::newRow("a range in quotes is one range")
             << QByteArray("[sipphone]\ndomain0=x\nnumrange0=\"025,010\"\n") << Domains{{"025,010", "x"}};
         QTest::newRow("a host with a comma is none")

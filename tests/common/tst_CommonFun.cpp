@@ -1,3 +1,4 @@
+#include "common/AppPaths.h"
 #include "common/CommonFun.h"
 
 #include <QtTest>
@@ -145,6 +146,20 @@ private slots:
         static_assert(std::is_same_v<decltype(&CommonFun::getLocalIPAddress), QString (*)()>);
         static_assert(std::is_same_v<decltype(&CommonFun::sendMail), void (*)(const QStringList &)>);
         static_assert(std::is_same_v<decltype(&CommonFun::getAvailableMovePos), QPoint (*)(QPoint, QRect)>);
+    }
+
+    void theInstallationIsReachedByTheOneName()
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(strAPP_VERSION_FILE_PATH()).path()));
+        CommonFun::setIMVertion("7.1");
+        QVERIFY(QFile::exists(strAPP_VERSION_FILE_PATH()));
+        QCOMPARE(CommonFun::getIMVertion(), AppInfo::getIMVertion());
+        QVERIFY(!CommonFun::getIMWindowTitle().isEmpty());
+        QVERIFY(CommonFun::IsPubicVersion());
+        QCOMPARE(CommonFun::getAbsoluteWebviewFilePath("a.html"), AppInfo::getAbsoluteWebviewFilePath("a.html"));
+        QVERIFY(CommonFun::GetRemainDiskSpace(QDir::currentPath()) > 0);
+        static_assert(std::is_same_v<decltype(&CommonFun::translateIniToUtf8Code),
+                                     decltype(&ConfigFile::translateIniToUtf8Code)>);
     }
 };
 

@@ -33,7 +33,11 @@ QStringList messagesOf(QtMsgType wanted, const std::function<void()> &action)
     return texts;
 }
 
+using Work = std::function<void(CustomLogger &)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Work)
 
 class tst_CustomLogger : public QObject
 {
@@ -190,16 +194,26 @@ private slots:
         QCOMPARE(warnings, QStringList());
     }
 
-    void reopenTriesAnUnopenedFileAgain()
+    void anUnopenedFileIsTriedAgain_data()
     {
-        CustomLogger logger("later/client.log");
-        QVERIFY(QDir().mkdir("later"));
+        QTest::addColumn<Work>("tryAgain");
+        QTest::newRow("reopen") << Work([](CustomLogger &logger) { logger.reopen(); });
+        QTest::newRow("roll-over") << Work([](CustomLogger &logger) { logger.rollOver(); });
+        QTest::newRow("clear") << Work([](CustomLogger &logger) { logger.clear(); });
+    }
+
+    void anUnopenedFileIsTriedAgain()
+    {
+        QFETCH(Work, tryAgain);
+        const QString folder = QTest::currentDataTag();
+        CustomLogger logger(folder + "/client.log");
+        QVERIFY(QDir().mkdir(folder));
         logger.printLog(CustomLog::Info, "place", "early");
-        QCOMPARE(QFile::exists("later/client.log"), false);
-        logger.reopen();
+        QCOMPARE(QFile::exists(folder + "/client.log"), false);
+        tryAgain(logger);
         logger.printLog(CustomLog::Info, "place", "late");
         logger.flush();
-        QCOMPARE(readBytes("later/client.log").count('\n'), 1);
+        QCOMPARE(readBytes(folder + "/client.log").count('\n'), 1);
     }
 
     void closedLoggerDropsLinesUntilItIsReopened()

@@ -294,7 +294,7 @@ private slots:
 
     void existingPngIsRemovedBeforeItIsWrittenAnew()
     {
-        // A second name of the file tells: writing into it would change what that name shows.
+        // An open handle tells: writing into the file would change what it reads.
         QVERIFY(QDir().mkpath(folder()));
         const QString strOld = writeBytes(folder() + "1001.png", "old");
         QFile kept(strOld);

@@ -51,6 +51,7 @@ class tst_LogStress : public QObject
 
 private slots:
     void nothingIsLostWhileTheFileRollsOver();
+    void clearingWhileTheWriterWritesTearsNoLine();
 };
 
 void tst_LogStress::nothingIsLostWhileTheFileRollsOver()
@@ -110,6 +111,40 @@ void tst_LogStress::nothingIsLostWhileTheFileRollsOver()
             QCOMPARE(ofCaller.at(i), QStringLiteral("%1:%2").arg(caller).arg(i));
         }
     }
+}
+
+void tst_LogStress::clearingWhileTheWriterWritesTearsNoLine()
+{
+    constexpr int LINES = 3000;
+    constexpr int FEW_BACKUPS = 2;
+    CustomLogger logger(QStringLiteral("cleared.log"));
+    logger.setMaxFileSize(FILE_KIB);
+    logger.setMaxBackupIndex(FEW_BACKUPS);
+    std::atomic<bool> done{false};
+    std::thread writer([&logger, &done] {
+        for (int i = 0; i < LINES; ++i) {
+            logger.printLog(CustomLog::Info, QStringLiteral("place"), QStringLiteral("line %1.").arg(i));
+        }
+        done = true;
+    });
+    while (!done) {
+        logger.flush();
+        logger.clear();
+    }
+    writer.join();
+    logger.clear();
+    logger.printLog(CustomLog::Info, QStringLiteral("place"), QStringLiteral("line last."));
+    logger.close();
+
+    const QRegularExpression whole(QStringLiteral("^\\[[^\\]]+\\]\\[[^\\]]+\\]\\[place\\]: line (\\d+|last)\\.$"));
+    for (const char *name : {"cleared.log", "cleared.log.1", "cleared.log.2"}) {
+        const QStringList lines =
+            QString::fromUtf8(readBytes(QLatin1String(name))).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        for (const QString &line : lines) {
+            QVERIFY2(whole.match(line).hasMatch(), qPrintable(QLatin1String(name) + QLatin1String(": ") + line));
+        }
+    }
+    QVERIFY(readBytes(QStringLiteral("cleared.log")).contains("line last."));
 }
 
 QTEST_GUILESS_MAIN(tst_LogStress)

@@ -116,6 +116,7 @@ private slots:
         QTest::addColumn<QString>("path");
         QTest::newRow("ring") << "Audio/ring.wav";
         QTest::newRow("icon font") << "BaseConfig/kelvarimiconfont.ttf";
+        QTest::newRow("provinces and cities") << "BaseConfig/ProvinceWeath.xml";
         QTest::newRow("log header") << "CustomLog/LogHeader.txt";
         QTest::newRow("log template") << "CustomLog/LogTemplate.txt";
     }

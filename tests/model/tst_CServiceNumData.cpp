@@ -118,6 +118,21 @@ private slots:
         QVERIFY((channel.m_listWorkGroup.at(1) == CSWorkGroupData{"g2", "second", "ch"}));
     }
 
+    void anotherChannelTakesThePlaceOfTheWholeOne()
+    {
+        CServiceNumData data;
+        data.parseFromJson(json(WHOLE_SERVICE));
+        data.parseChannel(json(R"({"id":"other","workgroupList":[{"id":"g3","name":"third"}]})"));
+        QCOMPARE(data.m_channel.m_strChannelId, QString("other"));
+        QVERIFY(data.m_channel.m_strWelcome.isEmpty());
+        QCOMPARE(data.m_channel.m_listWorkGroup, (QList<CSWorkGroupData>{{"g3", "third", "other"}}));
+        CSChannelData blank;
+        blank.m_strChannelId = "blank";
+        data.setChannelData(blank);
+        QCOMPARE(data.m_channel.m_strChannelId, QString("blank"));
+        QVERIFY(data.m_channel.m_listWorkGroup.isEmpty());
+    }
+
     void withoutAChannelTheDefaultStays_data()
     {
         QTest::addColumn<QByteArray>("text");
@@ -174,11 +189,13 @@ private slots:
         QCOMPARE(menu.m_listChild.at(1).m_strName, QString("y"));
     }
 
-    void childrenThatAreNoArrayAreNone()
+    void aTextInPlaceOfAListHasNoItems()
     {
-        ServiceMenu menu;
-        menu.parseMenu(json(R"({"name":"n","child":{"a":{"name":"x"}}})"));
-        QVERIFY(menu.m_listChild.isEmpty());
+        CServiceNumData data;
+        data.parseFromJson(json(R"({"menuList":"m","channel":{"id":"ch","workgroupList":"w"}})"));
+        QVERIFY(data.m_listMenu.isEmpty());
+        QCOMPARE(data.m_channel.m_strChannelId, QString("ch"));
+        QVERIFY(data.m_channel.m_listWorkGroup.isEmpty());
     }
 
     void anEmptyMenuListLeavesTheMenuTextEmpty()
@@ -259,6 +276,9 @@ private slots:
         QTest::newRow("status is a text") << QByteArray(R"({"iServiceCode":"new","status":"x"})");
         QTest::newRow("menu type is a text") << QByteArray(R"({"iServiceCode":"new","menuList":[{"type":"x"}]})");
         QTest::newRow("menu node is a number") << QByteArray(R"({"iServiceCode":"new","menuList":[7]})");
+        QTest::newRow("menu is an object") << QByteArray(R"({"iServiceCode":"new","menuList":{"a":{"leaf":true}}})");
+        QTest::newRow("child is an object") << QByteArray(R"({"menuList":[{"child":{"a":{"leaf":true}}}]})");
+        QTest::newRow("groups are an object") << QByteArray(R"({"channel":{"workgroupList":{"a":{"id":"g"}}}})");
         QTest::newRow("channel version is a text") << QByteArray(R"({"iServiceCode":"new","channel":{"version":"x"}})");
         QTest::newRow("record is a list") << QByteArray("[]");
     }

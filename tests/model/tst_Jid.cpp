@@ -180,6 +180,8 @@ private slots:
 
         const std::string strLongest = strDomain.substr(0, 1023);
         QCOMPARE(Jid("node", strLongest, "").domain(), strLongest);
+        QCOMPARE(Jid::PrepDomain('x' + strLongest, &ok), std::string());
+        QVERIFY(ok);
     }
 
     void comparesNodeThenDomainThenResource_data()

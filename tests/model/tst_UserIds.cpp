@@ -226,8 +226,8 @@ private slots:
         QTest::addColumn<QString>("user");
         QTest::newRow("my channel session") << "KFCNL1_me" << true << false << "KFCNL1"
                                             << "me";
-        QTest::newRow("mine, the channel second") << "12_KFCNL1" << true << true << "KFCNL1"
-                                                  << "12";
+        QTest::newRow("another's, the channel second") << "12_KFCNL1" << true << true << "KFCNL1"
+                                                       << "12";
         QTest::newRow("another's") << "KFCNL1_you" << true << true << "KFCNL1"
                                    << "you";
         QTest::newRow("two channels") << "KFCNL1_KFCNL2" << true << true << "KFCNL1"

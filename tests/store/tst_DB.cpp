@@ -1,4 +1,5 @@
 #include "StoreFixture.h"
+#include "fakes/FileBytes.h"
 
 #include "common/AppPaths.h"
 
@@ -114,10 +115,12 @@ private slots:
 
     void writesDoNotWaitForTheDisk()
     {
-        QVERIFY(m_store->open());
-        QSqlQuery query("PRAGMA synchronous", DB::getDB());
-        QVERIFY(query.next());
-        QCOMPARE(query.value(0).toInt(), 0);
+        for (const bool createAll : {true, false, true}) {
+            QVERIFY(DB::initByUserName("anna", m_store->base(), createAll));
+            QSqlQuery query("PRAGMA synchronous", DB::getDB());
+            QVERIFY(query.next());
+            QCOMPARE(query.value(0).toInt(), 0);
+        }
     }
 
     void signingInOnAFreshUserFailsAndLeavesNoFolder()
@@ -210,6 +213,10 @@ private slots:
         QVERIFY(m_store->open());
         m_store->context.setSqlDatabase(nullptr);
         QVERIFY(!DB::getDB().isValid());
+        // These ask the session's own connection.
+        QVERIFY(DB::isExistTable("loginInfo"));
+        QVERIFY(DB::isExistFiled("loginInfo", "password"));
+        QVERIFY(DB::isExistIndex("msgrecord", "_index1"));
         m_store->context.setSqlDatabase(&DB::m_db);
         QVERIFY(DB::getDB().isOpen());
     }
@@ -256,9 +263,14 @@ private slots:
 
     void creatorsWithoutAnOpenStoreDoNothing()
     {
+        QVERIFY(m_store->open());
+        QVERIFY(BesideFile(m_store->file()).run("DROP TABLE favorite"));
+        DB::m_db.close();
+        const QByteArray before = readBytes(m_store->file());
         DB::createTable();
         DB::createDingVersion();
         DB::dropNoUseTable();
+        QCOMPARE(readBytes(m_store->file()), before);
         QVERIFY(!DB::isExistTable("loginInfo"));
         QVERIFY(!DB::isExistFiled("loginInfo", "password"));
         QVERIFY(!DB::isExistIndex("msgrecord", "_index1"));

@@ -120,7 +120,16 @@ private slots:
         DBLastTime::saveLastTime("1");
         DBLastTime::updateLastTime("2");
         QCOMPARE(DBLastTime::getLastTime(), QString("-1"));
-        QCOMPARE(m_log->take().size(), 2);
+        logHoldsBothFailures();
+    }
+
+    void aTableThatCannotBeMadeIsLogged()
+    {
+        DB::closeDB();
+        DB::createLastTimeTable();
+        const QStringList log = m_log->take();
+        QCOMPARE(log.size(), 1);
+        QVERIFY(log.constFirst().contains(QStringLiteral("保存最后一次时间失败.strLastTime=，")));
     }
 
     void aStoreWithoutTheTableIsLoggedToo()
@@ -129,10 +138,18 @@ private slots:
         DBLastTime::saveLastTime("1");
         DBLastTime::updateLastTime("2");
         QCOMPARE(DBLastTime::getLastTime(), QString("-1"));
-        QCOMPARE(m_log->take().size(), 2);
+        logHoldsBothFailures();
     }
 
 private:
+    void logHoldsBothFailures()
+    {
+        const QStringList log = m_log->take();
+        QCOMPARE(log.size(), 2);
+        QVERIFY(log.constFirst().contains(QStringLiteral("保存最后一次时间失败.strLastTime=1，")));
+        QVERIFY(log.constLast().contains(QStringLiteral("更新时间信息失败.strLastTime=2，")));
+    }
+
     QStringList stored()
     {
         return BesideFile(m_store->file()).rows("SELECT sessionId, typeof(lastTime), lastTime FROM last_time");
