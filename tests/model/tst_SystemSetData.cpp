@@ -243,6 +243,14 @@ private slots:
         QVERIFY(!data.m_chatFont.m_textColor.isValid());
         QCOMPARE(data.m_iNeedHide, 0);
         QVERIFY(!data.m_bShowAllRoom);
+        const QString strReceived = data.m_strDefaultDataRoot + "/other/fileRec";
+        QCOMPARE(data.m_strTransFilePath, strReceived);
+        // A user with a folder of their own leaves the default one as it was.
+        data.m_strMsgFilePath = inFolder({});
+        QVERIFY(!readUser({{"/msgSetting/transfilepath", "/mine"}}).m_strUserName.isEmpty());
+        data.initData(USER);
+        QCOMPARE(data.m_strTransFilePath, QString("/mine"));
+        QCOMPARE(data.m_strDefaultReceiveFolder, strReceived);
     }
 
     void theReplyListsAreReplaced()

@@ -47,6 +47,15 @@ private slots:
         QVERIFY(!QDir(strAPP_DOCUMENT_IM_FILES_PATH()).exists());
     }
 
+    void aRelativeRootIsMadeInTheWorkingFolder()
+    {
+        QVERIFY(writeFile(strAPP_INFO_FILE_PATH(), "[msgSetting]\nmsgfilepath=relative/root\n"));
+        SystemSetData data;
+        data.initCommonData();
+        QCOMPARE(data.m_strMsgFilePath, QString("relative/root"));
+        QVERIFY(QDir::current().exists("relative/root"));
+    }
+
     void theCommonFileIsUtf8()
     {
         const QString strRoot = inFolder(QString::fromUtf8("数据"));
