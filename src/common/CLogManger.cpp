@@ -77,6 +77,23 @@ CLogManger &CLogManger::startRecord(CustomLog::LogLevel level, const QString &st
     return *this;
 }
 
+/// Text that a stream would take over as it is goes into the record without that detour.
+template <typename Text>
+void CLogManger::add(const Text &text)
+{
+    if (m_pTextStream->fieldWidth() == 0 && m_pTextStream->string() == &m_strMessage) {
+        m_strMessage += text;
+    } else {
+        *m_pTextStream << text;
+    }
+}
+
+CLogManger &CLogManger::operator<<(const QString &strText)
+{
+    add(strText);
+    return *this;
+}
+
 CLogManger &CLogManger::operator<<(const char *szText)
 {
     if (!szText) {
@@ -86,9 +103,9 @@ CLogManger &CLogManger::operator<<(const char *szText)
     if (text == QLatin1String("\n")) {
         closeRecord();
     } else if (isAscii(text)) {
-        *m_pTextStream << text;
+        add(text);
     } else {
-        *m_pTextStream << QString::fromUtf8(szText);
+        add(QString::fromUtf8(szText));
     }
     return *this;
 }
@@ -113,13 +130,14 @@ void CLogManger::closeRecord()
 CLogManger &CLogManger::operator<<(int iNumber)
 {
     // A text stream makes a text by the locale's rules for each number; one that nobody has set writes plain digits.
+    static const QLocale s_plain = QLocale::c();
     if (m_pTextStream->integerBase() != 0 || m_pTextStream->numberFlags() != 0 || m_pTextStream->fieldWidth() != 0 ||
-        m_pTextStream->locale() != QLocale::c()) {
+        m_pTextStream->locale() != s_plain) {
         *m_pTextStream << iNumber;
         return *this;
     }
     std::array<char, std::numeric_limits<int>::digits10 + 2> digits{};
     const auto end = std::to_chars(digits.begin(), digits.end(), iNumber).ptr;
-    *m_pTextStream << QLatin1String(digits.data(), static_cast<int>(end - digits.data()));
+    add(QLatin1String(digits.data(), static_cast<int>(end - digits.data())));
     return *this;
 }

@@ -54,7 +54,10 @@ public:
     /// Adds a number as the text stream writes it.
     CLogManger &operator<<(int iNumber);
 
-    /// Adds any other item as a text stream writes it: a bool as 1 or 0, a QString as it is, also when it is "\n".
+    /// Adds text, also when it is "\n".
+    CLogManger &operator<<(const QString &strText);
+
+    /// Adds any other item as a text stream writes it: a bool as 1 or 0.
     template <typename Item>
     CLogManger &operator<<(const Item &item)
     {
@@ -69,6 +72,8 @@ public:
     std::unique_ptr<QTextStream> m_pTextStream;
 
 private:
+    template <typename Text>
+    void add(const Text &text);
     void closeRecord();
 
     static CLogManger *m_pInstance;

@@ -55,10 +55,14 @@ void CLogThread::printLog(const CustomLogData &data)
 void CLogThread::printLog(CustomLogData &&data)
 {
     const QMutexLocker lock(&m_mutex);
+    // A writer waits at an empty queue only.
+    const bool bWriterMayWait = m_queue.isEmpty();
     // A list copies what is appended; the record's texts are moved.
     m_queue.append(CustomLogData());
     m_queue.last() = std::move(data);
-    m_condition.wakeAll();
+    if (bWriterMayWait) {
+        m_condition.wakeAll();
+    }
 }
 
 void CLogThread::printLog(CustomLog::LogLevel level, const QString &strLocation, const QString &strMessage)

@@ -55,7 +55,7 @@ void CustomLogger::printLog(CustomLog::LogLevel level, const QString &strLocatio
             *m_pStream << LogUtils::getFormattedLog(currentTime(), strLevel, strLocation, strMessage);
             // A full disk loses lines; without this the stream would keep all further ones in memory.
             m_pStream->resetStatus();
-            bFull = m_pFile->size() >= m_iMaxFileSize;
+            bFull = fileSize() >= m_iMaxFileSize;
         }
     }
     if (bFull) {
@@ -78,6 +78,18 @@ const QString &CustomLogger::currentTime()
         m_strTime[m_strTime.size() - i] = QChar(static_cast<ushort>(u'0' + iRest % 10));
     }
     return m_strTime;
+}
+
+/// The size on the disk. It changes when the stream has handed its buffer on, which moves the position. While a full disk
+/// does not take that, the file answers 0 and is asked at each line, which offers the rest again.
+qint64 CustomLogger::fileSize()
+{
+    const qint64 iPosition = m_pFile->pos();
+    if (iPosition != m_iSizedPosition || m_iFileSize == 0) {
+        m_iSizedPosition = iPosition;
+        m_iFileSize = m_pFile->size();
+    }
+    return m_iFileSize;
 }
 
 bool CustomLogger::isLevelEnabled(CustomLog::LogLevel level) const
@@ -161,6 +173,7 @@ void CustomLogger::reopen()
     // first new line stands directly behind the last one of an earlier run. In an empty file the seek fails and the
     // text begins at the start.
     m_pStream->seek(m_pFile->size() - 1);
+    m_iSizedPosition = -1;
 }
 
 void CustomLogger::clear()

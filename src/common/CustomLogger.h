@@ -65,6 +65,7 @@ public:
 private:
     void shiftBackups();
     const QString &currentTime();
+    qint64 fileSize();
 
     const QString m_strFileName;
     const CustomLog::LogLevel m_level = CustomLog::All;
@@ -74,6 +75,8 @@ private:
     std::unique_ptr<QTextStream> m_pStream;
     std::atomic<bool> m_bOpened{false};
     QMutex m_mutex;
-    qint64 m_iSecond = -1; ///< the second since 1970 that m_strTime tells
-    QString m_strTime;     ///< time of the last line
+    qint64 m_iSecond = -1;        ///< the second since 1970 that m_strTime tells
+    QString m_strTime;            ///< time of the last line
+    qint64 m_iSizedPosition = -1; ///< the file's position when its size was asked for; -1 before
+    qint64 m_iFileSize = 0;
 };

@@ -49,10 +49,12 @@ void HtmlLinks::convertWebLink(QString &strText, const QString &strStyle)
 {
     QString strRest = strText;
     replaceAll(strRest, QStringLiteral("&nbsp;&nbsp;"), QStringLiteral("  "));
-    const QRegExp pattern = linkPattern();
+    QRegExp pattern; // made for a text that may have a link only
     QString strOutput;
     int iDone = 0;
     for (int iPlace = nextPlaceOfLink(strRest, 0); iPlace >= 0; iPlace = nextPlaceOfLink(strRest, iDone)) {
+        if (pattern.isEmpty())
+            pattern = linkPattern();
         const int iLink = pattern.indexIn(strRest, iPlace);
         if (iLink < 0)
             break;
