@@ -52,6 +52,35 @@ function(voip_library name)
   target_link_libraries(voip_${name} PUBLIC ${ARG_LINKS} ${VOIP_QT})
 endfunction()
 
+# moc for a test program, by itself: CMake's own search starts two processes and compiles one more file for each of them. A
+# source tst_X.cpp includes its tst_X.moc at its end; headers with a QObject are named among the program's sources.
+function(voip_moc target)
+  set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+  target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
+  get_target_property(sources ${target} SOURCES)
+  foreach(source IN LISTS sources)
+    get_filename_component(stem ${source} NAME_WE)
+    if(source MATCHES "tst_[^/]*\\.cpp$")
+      set(moc ${CMAKE_CURRENT_BINARY_DIR}/${stem}.moc)
+    elseif(source MATCHES "\\.h$")
+      file(STRINGS ${source} objects REGEX "Q_OBJECT$" LIMIT_COUNT 1)
+      if(NOT objects)
+        continue()
+      endif()
+      set(moc ${CMAKE_CURRENT_BINARY_DIR}/moc_${stem}.cpp)
+    else()
+      continue()
+    endif()
+    # Once in a folder, also for a header that several programs name.
+    get_property(made DIRECTORY PROPERTY VOIP_MOCS)
+    if(NOT moc IN_LIST made)
+      qt5_generate_moc(${source} ${moc} TARGET ${target})
+      set_property(DIRECTORY APPEND PROPERTY VOIP_MOCS ${moc})
+    endif()
+    target_sources(${target} PRIVATE ${moc})
+  endforeach()
+endfunction()
+
 # voip_test(name SOURCES ... LINKS ... [ENV ...] [LABELS ...] [TIMEOUT s]): a Qt Test program, run in a folder,
 # a home and a temporary directory of its own, so that sockets and files of two tests never meet. Where VOIP_TEST_SCREEN is
 # set it has a screen of its own as well, so that no other test's window covers its windows or moves its cursor.
@@ -59,6 +88,7 @@ function(voip_test name)
   cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINKS;ENV;LABELS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   voip_own_code(${name})
+  voip_moc(${name})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt5::Test)
   set(screen)

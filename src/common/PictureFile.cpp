@@ -9,25 +9,28 @@
 
 namespace {
 
-// Other formats may hold pictures within pictures, whose size is not the declared one.
-constexpr const char *PICTURE_FORMATS[] = {"png", "jpg", "jpeg", "bmp", "gif"};
-
-bool isPictureFormat(const QByteArray &format)
+struct PictureFormat
 {
-    return std::any_of(std::begin(PICTURE_FORMATS), std::end(PICTURE_FORMATS),
-                       [&format](const char *pFormat) { return format == pFormat; });
-}
+    const char *pName;
+    /// A byte of the file says no more pixels. A damaged file that declares more would cost the memory and the time of
+    /// a picture that it does not hold.
+    qint64 iMostPixelsPerByte;
+};
 
-// No picture format says more pixels with a byte of its file. A damaged file that declares more would cost the memory
-// and the time of a picture that it does not hold.
-constexpr qint64 MOST_PIXELS_PER_BYTE = 10000;
+// Other formats may hold pictures within pictures, whose size is not the declared one.
+constexpr PictureFormat PICTURE_FORMATS[] = {
+    {"png", 10000}, {"jpg", 10000}, {"jpeg", 10000}, {"bmp", 128}, {"gif", 10000}};
 
 // A bitmap that is stored from its top row down declares a negative height.
-bool isAllowedSize(const QSize &size, qint64 iFileBytes)
+bool isAllowed(const QByteArray &format, const QSize &size, qint64 iFileBytes)
 {
+    const auto row = std::find_if(std::begin(PICTURE_FORMATS), std::end(PICTURE_FORMATS),
+                                  [&format](const PictureFormat &known) { return format == known.pName; });
+    if (row == std::end(PICTURE_FORMATS))
+        return false;
     const qint64 iWidth = size.width();
     const qint64 iHeight = qAbs(qint64(size.height()));
-    const qint64 iMost = qMin(iMOST_PICTURE_PIXELS, iFileBytes * MOST_PIXELS_PER_BYTE);
+    const qint64 iMost = qMin(iMOST_PICTURE_PIXELS, iFileBytes * row->iMostPixelsPerByte);
     return iWidth > 0 && iHeight > 0 && iWidth * iHeight <= iMost;
 }
 
@@ -42,7 +45,7 @@ QPixmap readPictureFile(const QString &strPath)
     }
     QImageReader reader(strPath);
     reader.setDecideFormatFromContent(true);
-    if (!isAllowedSize(reader.size(), file.size()) || !isPictureFormat(reader.format())) {
+    if (!isAllowed(reader.format(), reader.size(), file.size())) {
         return {};
     }
     return QPixmap::fromImageReader(&reader);

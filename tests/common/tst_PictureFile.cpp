@@ -63,6 +63,23 @@ private slots:
                  QSize(8192, 8192));
     }
 
+    void bitmapHoldsAsManyPixelsAsItsBytesCanSay()
+    {
+        // One colour and the end: a byte of the count and one of the colour for 255 pixels.
+        const int iRuns = 1000;
+        QByteArray bitmap = encoded(QImage(255, 1, QImage::Format_Grayscale8), "BMP");
+        const int iPixels = 14 + 40 + 4 * 256;
+        bitmap.resize(iPixels);
+        bitmap.replace(22, 4, le32(iRuns));
+        bitmap.replace(30, 4, le32(1));
+        bitmap += QByteArray::fromHex("ff070000").repeated(iRuns) + QByteArray::fromHex("0001");
+        const QImage read = readPictureFile(writeBytes(QStringLiteral("runs.bmp"), bitmap)).toImage();
+        QCOMPARE(read.size(), QSize(255, iRuns));
+        QCOMPARE(read.pixelColor(254, 0), read.pixelColor(0, iRuns - 1));
+        bitmap.replace(22, 4, le32(bitmap.size() * 128 / 255 + 1));
+        QVERIFY(readPictureFile(writeBytes(QStringLiteral("claims.bmp"), bitmap)).isNull());
+    }
+
     void pictureWithinAnIconFileIsNotRead()
     {
         // The directory says 4 by 4, the picture within says more.

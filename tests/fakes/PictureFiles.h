@@ -56,6 +56,12 @@ inline QByteArray le16(quint16 uValue)
     return bytes;
 }
 
+/// Four bytes, little-endian.
+inline QByteArray le32(quint32 uValue)
+{
+    return le16(static_cast<quint16>(uValue)) + le16(static_cast<quint16>(uValue >> 16));
+}
+
 /// The checksum of a PNG chunk.
 inline quint32 pngChecksum(const QByteArray &bytes)
 {
@@ -97,7 +103,7 @@ inline QByteArray gifThatDeclares(quint16 uWidth, quint16 uHeight)
 inline QByteArray bmpThatDeclares(quint16 uWidth, quint16 uHeight)
 {
     QByteArray bytes = encoded(plain(QSize(4, 4), Qt::red), "BMP");
-    return bytes.replace(18, 8, le16(uWidth) + le16(0) + le16(uHeight) + le16(0));
+    return bytes.replace(18, 8, le32(uWidth) + le32(uHeight));
 }
 
 /// `image` as a BMP whose rows are stored from the top down, which it tells by a height of that negative number.
