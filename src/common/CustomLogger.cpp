@@ -80,8 +80,8 @@ const QString &CustomLogger::currentTime()
     return m_strTime;
 }
 
-/// The size on the disk. It changes when the stream has handed its buffer on, which moves the position. While a full disk
-/// does not take that, the file answers 0 and is asked at each line, which offers the rest again.
+/// The size on the disk. It changes when the stream has handed its buffer on, which moves the position. While a full
+/// disk does not take that, the file answers 0 and is asked at each line, which offers the rest again.
 qint64 CustomLogger::fileSize()
 {
     const qint64 iPosition = m_pFile->pos();
