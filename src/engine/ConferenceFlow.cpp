@@ -7,6 +7,7 @@
 #include "plugin/StrangerTest.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "store/DBConfInfo.h"
+#include "ui/MemberRoles.h"
 #include "ui/VoiceConferenceWidget.h"
 #include "ui/VoipWidget.h"
 
@@ -130,7 +131,7 @@ void CVoipManage::slot_ReInviteConfUser(QString strUserID)
     LOG_DEBUG << "reInvite conf user = " << strUserID << "\n";
     addConferenceMember({strUserID});
     if (m_pVoipWidget)
-        m_pVoipWidget->updateConferenceUserStatus(strUserID, 0);
+        m_pVoipWidget->updateConferenceUserStatus(strUserID, ConferenceCalling);
 }
 
 void CVoipManage::slot_RemoveConferenceMember(QString strUserID)

@@ -5,6 +5,7 @@
 #include "engine/SdkNotification.h"
 #include "engine/VoipManage.h"
 #include "plugin/StrangerTest.h"
+#include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QDebug>
@@ -104,7 +105,7 @@ void CVoipManage::onUserRejected(const QString &content)
     else if (!m_callData.bIsConf)
         callFinished(CallData::FinishRejected);
     else if (m_pVoipWidget)
-        m_pVoipWidget->updateConferenceUserStatus(content, 5);
+        m_pVoipWidget->updateConferenceUserStatus(content, ConferenceRejected);
 }
 
 void CVoipManage::onCallEnded(const QString &)
@@ -158,7 +159,7 @@ void CVoipManage::onConfMemberLeft(const QString &content)
         return;
     m_callData.confId = document.confId;
     if (!document.from.isEmpty() && m_callData.bIsConf && m_pVoipWidget)
-        m_pVoipWidget->updateConferenceUserStatus(document.from, 4);
+        m_pVoipWidget->updateConferenceUserStatus(document.from, ConferenceHungUp);
     m_callData.connectedList = document.conventioneer;
     updateConferenceListStatus();
 }
@@ -214,7 +215,7 @@ void CVoipManage::onPeerBusy(const QString &)
 void CVoipManage::onConfMemberRejected(const QString &content)
 {
     if (m_callData.bIsConf && m_pVoipWidget)
-        m_pVoipWidget->updateConferenceUserStatus(content, 5);
+        m_pVoipWidget->updateConferenceUserStatus(content, ConferenceRejected);
     onSdkLog(content);
 }
 
