@@ -3,6 +3,7 @@
 #include "common/BuiltInPictures.h"
 #include "common/PictureFile.h"
 #include "common/PictureFolders.h"
+#include "model/UserIds.h"
 
 #include <QBitmap>
 #include <QDebug>
@@ -51,7 +52,7 @@ bool canBeSaved(const QString &strPath)
 QString HeadImages::getFormattedImage(const QString & /*strUnused*/, const QString &strJid, const QPixmap &pixmap,
                                       const QSize &size, const QString &strSuffix)
 {
-    const QString strName = strJid.section(QLatin1Char('@'), 0, 0);
+    const QString strName = UserIds::getUidByJid(strJid);
     if (strName.contains(QLatin1Char('/')) || strSuffix.contains(QLatin1Char('/'))) {
         return {};
     }

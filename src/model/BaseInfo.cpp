@@ -1,5 +1,7 @@
 #include "model/BaseInfo.h"
 
+#include "model/UserIds.h"
+
 QString BaseInfo::displayName() const
 {
     for (const QString &strName : {m_strMySetFriendName, m_vcardInfo.m_strNickName, m_vcardInfo.m_strAlternativeName}) {
@@ -7,7 +9,7 @@ QString BaseInfo::displayName() const
             return strName;
         }
     }
-    return m_strJid.left(m_strJid.indexOf(QLatin1Char('@')));
+    return UserIds::getUidByJid(m_strJid);
 }
 
 void BaseInfo::setMySetFriendName(const QString &strName)
