@@ -4,7 +4,7 @@
 #include "engine/JsonText.h"
 #include "engine/SdkCommand.h"
 #include "engine/VoipManage.h"
-#include "plugin/StrangerTest.h"
+#include "plugin/StrangerCards.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "store/DBConfInfo.h"
 #include "ui/MemberRoles.h"

@@ -4,7 +4,7 @@
 #include "engine/ConferenceDocument.h"
 #include "engine/SdkNotification.h"
 #include "engine/VoipManage.h"
-#include "plugin/StrangerTest.h"
+#include "plugin/StrangerCards.h"
 #include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 

@@ -6,7 +6,7 @@
 #include "engine/VoipManage.h"
 #include "model/FriendData.h"
 #include "model/LoginData.h"
-#include "plugin/StrangerTest.h"
+#include "plugin/StrangerCards.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/VoipWidget.h"
 #include "widgets/ErrorMessage.h"

@@ -1,7 +1,7 @@
 #include "common/CommonFun.h"
 #include "fakes/FakeHost.h"
 #include "model/LoginData.h"
-#include "plugin/StrangerTest.h"
+#include "plugin/StrangerCards.h"
 #include "plugin/VoipManageMessageProcess.h"
 
 #include <QCoreApplication>
@@ -16,7 +16,7 @@ const QString systemAccount = QStringLiteral("kv6005626532");
 
 } // namespace
 
-class tst_StrangerTest : public QObject
+class tst_StrangerCards : public QObject
 {
     Q_OBJECT
 
@@ -46,7 +46,7 @@ private:
     LoginData m_login;
 };
 
-void tst_StrangerTest::init()
+void tst_StrangerCards::init()
 {
     m_host = std::make_unique<FakeHost>();
     m_login.m_strUid = QStringLiteral("me");
@@ -57,13 +57,13 @@ void tst_StrangerTest::init()
     VoipManageMessageProcess::instance()->setSendEvent(m_host.get());
 }
 
-void tst_StrangerTest::cleanup()
+void tst_StrangerCards::cleanup()
 {
     m_host.reset();
     CommonFun::setCommonData(nullptr);
 }
 
-void tst_StrangerTest::setRecordVersion(const QString &jid, int version)
+void tst_StrangerCards::setRecordVersion(const QString &jid, int version)
 {
     FriendData record;
     record.m_strJid = jid;
@@ -71,7 +71,7 @@ void tst_StrangerTest::setRecordVersion(const QString &jid, int version)
     m_host->setRecord(jid, record);
 }
 
-void tst_StrangerTest::strangerIsNotedWithTheVersionAtHand_data()
+void tst_StrangerCards::strangerIsNotedWithTheVersionAtHand_data()
 {
     QTest::addColumn<int>("version");
     QTest::addColumn<QString>("text");
@@ -81,7 +81,7 @@ void tst_StrangerTest::strangerIsNotedWithTheVersionAtHand_data()
     QTest::newRow("least") << std::numeric_limits<qint32>::min() << "-2147483648";
 }
 
-void tst_StrangerTest::strangerIsNotedWithTheVersionAtHand()
+void tst_StrangerCards::strangerIsNotedWithTheVersionAtHand()
 {
     QFETCH(int, version);
     QFETCH(QString, text);
@@ -92,7 +92,7 @@ void tst_StrangerTest::strangerIsNotedWithTheVersionAtHand()
     QCOMPARE(cards.versions, QStringList(text));
 }
 
-void tst_StrangerTest::friendIsNotNoted()
+void tst_StrangerCards::friendIsNotNoted()
 {
     m_host->friendJids.insert(QStringLiteral("u1@d"));
     StrangerCards cards;
@@ -101,14 +101,14 @@ void tst_StrangerTest::friendIsNotNoted()
     QVERIFY(cards.versions.isEmpty());
 }
 
-void tst_StrangerTest::systemAccountIsNeverNoted_data()
+void tst_StrangerCards::systemAccountIsNeverNoted_data()
 {
     QTest::addColumn<bool>("bFriend");
     QTest::newRow("stranger") << false;
     QTest::newRow("friend") << true;
 }
 
-void tst_StrangerTest::systemAccountIsNeverNoted()
+void tst_StrangerCards::systemAccountIsNeverNoted()
 {
     QFETCH(bool, bFriend);
     if (bFriend) {
@@ -120,14 +120,14 @@ void tst_StrangerTest::systemAccountIsNeverNoted()
     QVERIFY(cards.versions.isEmpty());
 }
 
-void tst_StrangerTest::systemAccountIsStillAskedAbout()
+void tst_StrangerCards::systemAccountIsStillAskedAbout()
 {
     StrangerCards cards;
     cards.test(systemAccount);
     QCOMPARE(m_host->commands(), (QList<int>{4157, 4337}));
 }
 
-void tst_StrangerTest::existenceIsAskedAlsoForRecordsOfTheSharedMap()
+void tst_StrangerCards::existenceIsAskedAlsoForRecordsOfTheSharedMap()
 {
     m_context.setFriendDataMap({{QStringLiteral("u1@d"), FriendData()}});
     StrangerCards cards;
@@ -135,7 +135,7 @@ void tst_StrangerTest::existenceIsAskedAlsoForRecordsOfTheSharedMap()
     QCOMPARE(m_host->commands(), QList<int>{4337});
 }
 
-void tst_StrangerTest::recordOfTheSharedMapGivesTheVersion()
+void tst_StrangerCards::recordOfTheSharedMapGivesTheVersion()
 {
     FriendData record;
     record.m_vcardInfo.m_iSmallVersion = 5;
@@ -145,7 +145,7 @@ void tst_StrangerTest::recordOfTheSharedMapGivesTheVersion()
     QCOMPARE(cards.versions, QStringList(QStringLiteral("5")));
 }
 
-void tst_StrangerTest::recordIsAskedForBeforeExistence()
+void tst_StrangerCards::recordIsAskedForBeforeExistence()
 {
     StrangerCards cards;
     cards.test(QStringLiteral("u1"));
@@ -155,7 +155,7 @@ void tst_StrangerTest::recordIsAskedForBeforeExistence()
     }
 }
 
-void tst_StrangerTest::jidIsNotedAsUserId()
+void tst_StrangerCards::jidIsNotedAsUserId()
 {
     StrangerCards cards;
     QVERIFY(cards.test(QStringLiteral("u1@elsewhere")));
@@ -163,13 +163,13 @@ void tst_StrangerTest::jidIsNotedAsUserId()
     QCOMPARE(cards.ids, QStringList(QStringLiteral("u1")));
 }
 
-void tst_StrangerTest::idInOtherCaseIsNotTheSystemAccount()
+void tst_StrangerCards::idInOtherCaseIsNotTheSystemAccount()
 {
     StrangerCards cards;
     QVERIFY(cards.test(systemAccount.toUpper()));
 }
 
-void tst_StrangerTest::withoutAnswerEveryoneIsAStrangerWithoutCard()
+void tst_StrangerCards::withoutAnswerEveryoneIsAStrangerWithoutCard()
 {
     m_host->bAnswers = false;
     StrangerCards cards;
@@ -177,7 +177,7 @@ void tst_StrangerTest::withoutAnswerEveryoneIsAStrangerWithoutCard()
     QCOMPARE(cards.versions, QStringList(QStringLiteral("-1")));
 }
 
-void tst_StrangerTest::requestGoesOutAlsoWithoutStrangers()
+void tst_StrangerCards::requestGoesOutAlsoWithoutStrangers()
 {
     StrangerCards().request();
     QCoreApplication::sendPostedEvents(m_host.get());
@@ -185,7 +185,7 @@ void tst_StrangerTest::requestGoesOutAlsoWithoutStrangers()
     QCOMPARE(m_host->events.first().payload, packPayload(QStringList(), QStringList(), true));
 }
 
-void tst_StrangerTest::requestCarriesAllStrangersInTheirOrder()
+void tst_StrangerCards::requestCarriesAllStrangersInTheirOrder()
 {
     setRecordVersion(QStringLiteral("u2@d"), 3);
     m_host->friendJids.insert(QStringLiteral("u3@d"));
@@ -203,5 +203,5 @@ void tst_StrangerTest::requestCarriesAllStrangersInTheirOrder()
     QCOMPARE(reader.take<bool>(), true);
 }
 
-QTEST_GUILESS_MAIN(tst_StrangerTest)
-#include "tst_StrangerTest.moc"
+QTEST_GUILESS_MAIN(tst_StrangerCards)
+#include "tst_StrangerCards.moc"

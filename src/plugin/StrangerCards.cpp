@@ -1,4 +1,4 @@
-#include "plugin/StrangerTest.h"
+#include "plugin/StrangerCards.h"
 
 #include "common/CommonFun.h"
 #include "model/FriendData.h"
