@@ -1,5 +1,6 @@
 #include "model/SkinContext.h"
 
+#include "common/IconGlyphs.h"
 #include "common/Palette.h"
 #include "model/SharedContext.h"
 
@@ -15,7 +16,9 @@ SysUIData builtInSkin()
 #define SKIN_TEXT(position, name, value) skin.name = value;
 #include "model/SysUIData.def"
 #undef SKIN_TEXT
-    skin.m_iconCodes = {0xE603, 0xF603, 0xE602, 0xF602, 0xE604, 0xF604, 0xE610, 0xF610};
+    skin.m_iconCodes = {IconGlyph::Messages,       IconGlyph::MessagesChosen, IconGlyph::Contacts,
+                        IconGlyph::ContactsChosen, IconGlyph::Applications,   IconGlyph::ApplicationsChosen,
+                        IconGlyph::Discover,       IconGlyph::DiscoverChosen};
     skin.setLeftChatBubble(QStringLiteral("images/Bubbles/bg_chat_bubble_default_left_22_3_3_9.png"));
     skin.setRightChatBubble(QStringLiteral("images/Bubbles/bg_chat_bubble_default_right_22_9_3_3.png"));
     return skin;
