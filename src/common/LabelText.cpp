@@ -1,10 +1,16 @@
 #include "common/LabelText.h"
 
+#include "common/SurrogatePairs.h"
+
 #include <QFontMetrics>
 #include <QStringList>
 #include <QWidget>
 
 namespace {
+
+using SurrogatePairs::before;
+using SurrogatePairs::isPairAt;
+using SurrogatePairs::unitsAt;
 
 constexpr int LINE_SLACK = 5;
 constexpr int HEIGHT_SLACK = 2;
@@ -15,17 +21,6 @@ constexpr int MEASURED_WHOLE = 10000;
 QString dots()
 {
     return QStringLiteral("...");
-}
-
-bool isPairAt(const QString &strText, int i)
-{
-    return i >= 0 && i + 1 < strText.size() && strText.at(i).isHighSurrogate() && strText.at(i + 1).isLowSurrogate();
-}
-
-/// The position of the character before `i`; 0 at the front.
-int before(const QString &strText, int i)
-{
-    return isPairAt(strText, i - 2) ? i - 2 : qMax(0, i - 1);
 }
 
 int widthAt(const QFontMetrics &metrics, const QString &strText, int i)
@@ -67,7 +62,7 @@ int fittingLength(const QFontMetrics &metrics, const QString &strText, int iStar
     int iFitting = fittingUnits(metrics, strText, iStart, iWidth);
     if (isPairAt(strText, iStart + iFitting - 1))
         --iFitting;
-    return iFitting > 0 ? iFitting : (isPairAt(strText, iStart) ? 2 : 1);
+    return iFitting > 0 ? iFitting : unitsAt(strText, iStart);
 }
 
 QStringList fittingLines(const QFontMetrics &metrics, const QString &strText, int iWidth, int iMaxLines)
@@ -125,7 +120,7 @@ QString LabelText::getLineWrapText(int iWidth, const QString &strText, const QFo
             ++i;
             continue;
         }
-        const int iUnits = isPairAt(strText, i) ? 2 : 1;
+        const int iUnits = unitsAt(strText, i);
         strWrapped += strText.midRef(i, iUnits);
         iSum += iOwn;
         i += iUnits;

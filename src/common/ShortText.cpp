@@ -1,5 +1,6 @@
 #include "common/ShortText.h"
 
+#include "common/SurrogatePairs.h"
 #include "common/TextMeasure.h"
 
 #include <QStringView>
@@ -20,8 +21,7 @@ int columnsOf(QStringView text)
 /// The position behind the character at `i`; a surrogate pair is one character.
 int behind(const QString &strText, int i)
 {
-    const bool bPair = strText.at(i).isHighSurrogate() && i + 1 < strText.size() && strText.at(i + 1).isLowSurrogate();
-    return i + (bPair ? 2 : 1);
+    return i + SurrogatePairs::unitsAt(strText, i);
 }
 
 /// The position at which the columns from `iStart` on have reached `iColumns`.

@@ -1,27 +1,16 @@
 #include "widgets/TextLimit.h"
 
 #include "common/CommonFun.h"
+#include "common/SurrogatePairs.h"
 
 namespace {
-
-bool isPairAt(const QString &strText, int iPosition)
-{
-    return iPosition >= 0 && iPosition + 1 < strText.size() && strText.at(iPosition).isHighSurrogate() &&
-           strText.at(iPosition + 1).isLowSurrogate();
-}
-
-// The position of the character before `iEnd`.
-int before(const QString &strText, int iEnd)
-{
-    return isPairAt(strText, iEnd - 2) ? iEnd - 2 : iEnd - 1;
-}
 
 // Takes characters of `strText` away backwards from `iEnd`, down to `iBegin` at most, until `excess` columns are gone.
 // Gives the position of the last one.
 int cutRange(const QString &strText, int iBegin, int iEnd, qint64 &excess)
 {
     while (excess > 0 && iEnd > iBegin) {
-        const int iFrom = before(strText, iEnd);
+        const int iFrom = SurrogatePairs::before(strText, iEnd);
         while (iEnd > iFrom)
             excess -= CommonFun::columnsOf(strText.at(--iEnd));
     }
@@ -34,13 +23,13 @@ int TextLimit::unitsAt(const QString &strText, int iPosition)
 {
     if (iPosition >= strText.size())
         return 0;
-    return isPairAt(strText, iPosition) ? 2 : 1;
+    return SurrogatePairs::unitsAt(strText, iPosition);
 }
 
 int TextLimit::cutBackwards(QString &strText, int iCursor, int iLimit)
 {
     int iTo = qBound(0, iCursor, strText.size());
-    if (isPairAt(strText, iTo - 1))
+    if (SurrogatePairs::isPairAt(strText, iTo - 1))
         ++iTo;
     qint64 excess = qint64(CommonFun::getStrCounnt(strText)) - iLimit;
     if (excess <= 0)
