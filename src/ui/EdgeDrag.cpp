@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr int cMinimumWidth = 523;
-constexpr int cMinimumHeight = 403;
 constexpr int cEdgeBand = 5;
 constexpr int cReachable = 10;
 constexpr int cOverhang = 4;
@@ -98,7 +96,7 @@ QRect limited(QRect rect, const QRect &workArea)
 
 QSize EdgeDrag::minimumSize()
 {
-    return {ADAPT_DPI_INT(cMinimumWidth), ADAPT_DPI_INT(cMinimumHeight)};
+    return {ADAPT_DPI_INT(cWindowSize.width()), ADAPT_DPI_INT(cWindowSize.height())};
 }
 
 int EdgeDrag::edgesAt(QPoint position, QSize size)

@@ -8,6 +8,9 @@
 #include <QRect>
 #include <QSize>
 
+/// The size of the call window and of the conference centre before scaling.
+constexpr QSize cWindowSize(523, 403);
+
 class EdgeDrag
 {
 public:
@@ -20,7 +23,7 @@ public:
         Bottom = 8
     };
 
-    /// The smallest size that a drag leaves.
+    /// The smallest size that a drag leaves: cWindowSize, scaled.
     static QSize minimumSize();
 
     /// The sum of the edges of a window of `size` that are less than 5 pixels away from `position`, which is local to

@@ -7,6 +7,7 @@
 #include "common/IconGlyphs.h"
 #include "common/Palette.h"
 #include "plugin/VoipManageEventProcess.h"
+#include "ui/EdgeDrag.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -14,8 +15,6 @@
 
 namespace {
 
-constexpr int cWindowWidth = 523;
-constexpr int cWindowHeight = 403;
 constexpr int cCloseGlyphPixels = 8;
 constexpr int cCloseStyleType = 3;
 constexpr int cButtonTextPixels = 12;
@@ -60,8 +59,8 @@ void CVoiceConferenceWidget::initWidget()
     setAttribute(Qt::WA_QuitOnClose, false);
     setMouseTracking(true);
     installEventFilter(this);
-    setFixedHeight(cWindowHeight);
-    setFixedWidth(cWindowWidth);
+    setFixedHeight(cWindowSize.height());
+    setFixedWidth(cWindowSize.width());
     ui->conferenceDetaileWidget->setContentsMargins(cPageMargins);
     initTitle();
     initButtons();

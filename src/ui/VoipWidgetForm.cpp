@@ -7,16 +7,10 @@
 #include "common/DpiScale.h"
 #include "common/IconGlyphs.h"
 #include "ui/CallWindowStyle.h"
+#include "ui/EdgeDrag.h"
 #include "widgets/MyRubberBand.h"
 
 #include <QSlider>
-
-namespace {
-
-constexpr int cWindowWidth = 523;
-constexpr int cWindowHeight = 403;
-
-} // namespace
 
 CVoipWidget::CVoipWidget(QWidget *parent) : QWidget(parent), ui(std::make_unique<Ui::CVoipWidget>())
 {
@@ -54,8 +48,8 @@ void CVoipWidget::setUpForm()
     setAttribute(Qt::WA_QuitOnClose, false);
     setMouseTracking(true);
     installEventFilter(this);
-    setFixedHeight(cWindowHeight);
-    setFixedWidth(cWindowWidth);
+    setFixedHeight(cWindowSize.height());
+    setFixedWidth(cWindowSize.width());
     ui->btnClose->setIconFont(IconGlyph::text(IconGlyph::Close), 8, 3);
     ui->btnClose->setToolTip(tr("close"));
     ui->btnMuteAll->setIconFont(IconGlyph::text(IconGlyph::SpeakerOff), 16, 0);
