@@ -1,7 +1,7 @@
 #pragma once
 
-// The one boundary to the JSON library: text in, values out, and nothing thrown. No state; any thread. References to
-// members live as long as the value they belong to.
+// The engine's one boundary to the JSON library: text in, values out, and nothing thrown. No state; any thread.
+// References to members live as long as the value they belong to.
 
 #include <QString>
 

@@ -1,15 +1,8 @@
 #include "model/CSChannelData.h"
 
-#include <json/value.h>
+#include "model/JsonMember.h"
 
-namespace {
-
-QString text(const Json::Value &object, const char *key)
-{
-    return QString::fromStdString(object[key].asString());
-}
-
-} // namespace
+using JsonMember::text;
 
 bool CSWorkGroupData::operator==(const CSWorkGroupData &other) const
 {

@@ -1,6 +1,7 @@
 #include "model/CServiceNumData.h"
 
 #include "model/AvatarFiles.h"
+#include "model/JsonMember.h"
 
 #include <json/reader.h>
 #include <json/writer.h>
@@ -8,14 +9,7 @@
 // The menu column is defined by the output and the leniency of these two classes, so their deprecation does not matter.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
-namespace {
-
-QString text(const Json::Value &object, const char *key)
-{
-    return QString::fromStdString(object[key].asString());
-}
-
-} // namespace
+using JsonMember::text;
 
 void CServiceNumData::parseFromJson(Json::Value value)
 {

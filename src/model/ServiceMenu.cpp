@@ -1,19 +1,21 @@
 #include "model/ServiceMenu.h"
 
-#include <json/value.h>
+#include "model/JsonMember.h"
+
+using JsonMember::text;
 
 void ServiceMenu::parseMenu(const Json::Value &value)
 {
     ServiceMenu menu(*this);
-    menu.m_strName = QString::fromStdString(value["name"].asString());
+    menu.m_strName = text(value, "name");
     menu.m_bLeaf = value["leaf"].asBool();
     if (!menu.m_bLeaf) {
         menu.m_listChild += parseList(value["child"]);
     }
     menu.m_iType = value["type"].asInt();
-    menu.m_strValue = QString::fromStdString(value["value"].asString());
-    menu.m_strPcLink = QString::fromStdString(value["pcLink"].asString());
-    menu.m_strMoLink = QString::fromStdString(value["moLink"].asString());
+    menu.m_strValue = text(value, "value");
+    menu.m_strPcLink = text(value, "pcLink");
+    menu.m_strMoLink = text(value, "moLink");
     *this = menu;
 }
 

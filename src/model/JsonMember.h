@@ -1,0 +1,18 @@
+#pragma once
+
+// How the model's records read the members of a JSON object. For the sources of the model only; any thread.
+
+#include <QString>
+
+#include <json/value.h>
+
+namespace JsonMember {
+
+/// The member `key` of `object` as text; empty when it is missing. A member that is no text and cannot become one, or
+/// an `object` that is none, raises the JSON library's error.
+inline QString text(const Json::Value &object, const char *key)
+{
+    return QString::fromStdString(object[key].asString());
+}
+
+} // namespace JsonMember
