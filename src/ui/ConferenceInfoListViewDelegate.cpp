@@ -22,7 +22,6 @@ constexpr int cDetailPixels = 16;
 // More room than the time of any conference needs.
 constexpr int cLongestStatus = 1024;
 
-constexpr QColor cLineColor = cLineColor_;
 constexpr QColor cButtonColor(76, 152, 223);
 
 int dpi(int iPixels)
@@ -104,8 +103,7 @@ void CConferenceInfoListViewDelegate::paint(QPainter *painter, const QStyleOptio
     paintDirection(*painter, m_lines, row, index.data(ROLE_CREATED_BY_ME).toBool());
     paintSecondLine(*painter, m_lines, row, bDetailButton,
                     ConferenceTexts::titleLine(index.data(ROLE_CONF_CREATE_TIME).toString()));
-    painter->fillRect(QRect(QPoint(row.left() + dpi(cTextLeft), row.bottom()), QPoint(row.right(), row.bottom())),
-                      cLineColor);
+    RowPainter::drawBottomLine(*painter, row.left() + dpi(cTextLeft), row.right(), row.bottom());
 }
 
 void CConferenceInfoListViewDelegate::paintHead(QPainter &painter, const QRect &row, const QModelIndex &index) const

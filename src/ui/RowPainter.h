@@ -43,7 +43,7 @@ public:
     /// gives a null pixmap. Reads the file: see ui/HeadCache.h.
     static QPixmap maskedHead(const QString &strPath, int iSide);
 
-    /// The lists' text font, 12 pixels high.
+    /// The text font of the lists and of the conference centre's buttons, 12 pixels high.
     static QFont textFont();
 
     /// `strText` as one line of plain text that ends in "…" where it is wider than `iWidth` pixels. Line feeds and

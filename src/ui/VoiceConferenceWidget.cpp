@@ -8,6 +8,7 @@
 #include "common/Palette.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/EdgeDrag.h"
+#include "ui/RowPainter.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -17,7 +18,6 @@ namespace {
 
 constexpr int cCloseGlyphPixels = 8;
 constexpr int cCloseStyleType = 3;
-constexpr int cButtonTextPixels = 12;
 constexpr QSize cCreateIconSize(30, 30);
 constexpr int cCreateGlyphPixels = 16;
 // As much of the window as a drag leaves on the screen below.
@@ -79,8 +79,7 @@ void CVoiceConferenceWidget::initTitle()
 
 void CVoiceConferenceWidget::initButtons()
 {
-    QFont font(QStringLiteral("微软雅黑"));
-    font.setPixelSize(ADAPT_DPI_INT(cButtonTextPixels));
+    const QFont font = RowPainter::textFont();
     // Deliberate: ":press" is no state that sheets know, so the last rule never holds.
     ui->backBtn->setStyleSheet(QStringLiteral(
         "QPushButton#backBtn{border:none;border-image:url(Resources/images/CommonCtrls/kvim_common_back_normal.png);}"
