@@ -39,6 +39,15 @@ QString creationText(const QDateTime &time)
     return time.isNull() ? QStringLiteral("") : time.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
 }
 
+/// Asks the host about each of the users, and for the cards of those who are strangers.
+void askForStrangers(const QStringList &users)
+{
+    StrangerCards strangers;
+    for (const QString &id : users)
+        strangers.test(id);
+    strangers.request();
+}
+
 } // namespace
 
 void CVoipManage::callConference(QList<QString> userList, bool bFlag, QString strText)
@@ -50,10 +59,7 @@ void CVoipManage::callConference(QList<QString> userList, bool bFlag, QString st
     m_callData.bIsConf = true;
     m_callData.memberList = userList;
 
-    StrangerCards strangers;
-    for (const QString &id : qAsConst(userList))
-        strangers.test(id);
-    strangers.request();
+    askForStrangers(userList);
 
     if (!m_callData.memberList.contains(m_strUserId))
         m_callData.memberList.append(m_strUserId);
@@ -108,10 +114,7 @@ void CVoipManage::addConferenceMember(QList<QString> userList)
             m_callData.memberList.append(id);
         }
     }
-    StrangerCards strangers;
-    for (const QString &id : qAsConst(userList))
-        strangers.test(id);
-    strangers.request();
+    askForStrangers(userList);
     if (m_pVoipWidget) {
         for (const QString &id : qAsConst(userList))
             m_pVoipWidget->addConferenceMember(id);

@@ -175,10 +175,7 @@ void CVoipManage::onCallConnected(const QString &)
     if (m_pVoipWidget)
         m_pVoipWidget->setVoipCallStatus(true);
     m_callData.connectTime = QDateTime::currentDateTimeUtc();
-    if (m_inviteTimer.isActive())
-        m_inviteTimer.stop();
-    if (m_recevieTimer.isActive())
-        m_recevieTimer.stop();
+    stopCallTimers();
 }
 
 void CVoipManage::onCallFailed(const QString &)

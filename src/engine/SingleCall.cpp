@@ -132,13 +132,18 @@ void CVoipManage::slot_HangupCurrentCall()
     hangupVoipCall();
 }
 
-void CVoipManage::callFinished(CallData::FinishResult result)
+void CVoipManage::stopCallTimers()
 {
-    stopRinging();
     if (m_inviteTimer.isActive())
         m_inviteTimer.stop();
     if (m_recevieTimer.isActive())
         m_recevieTimer.stop();
+}
+
+void CVoipManage::callFinished(CallData::FinishResult result)
+{
+    stopRinging();
+    stopCallTimers();
     if (!isExistCall())
         return;
     LOG_DEBUG << "call finish!"

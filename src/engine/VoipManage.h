@@ -196,6 +196,7 @@ protected:
 private:
     void connectVoipWidget();
     void showCallInWindow();
+    void stopCallTimers();
     void acceptConference();
     void recordConference(qint64 iSeconds);
     bool canPlaceCall();
