@@ -117,10 +117,6 @@ void DB::createFriendGroupTable()
     StoreSchema::createOrUpgrade(friendGrouptable);
 }
 
-constexpr StoreColumn versionColumns[] = {
-    {"myjid", "VARCHAR(20) PRIMARY KEY"},
-    {"version", "VARCHAR(20)"},
-};
 constexpr StoreTable groupfriendversionNew{"groupfriendversionNew", versionColumns};
 constexpr StoreTable outsidegroupfriendversionNew{"outsidegroupfriendversionNew", versionColumns};
 

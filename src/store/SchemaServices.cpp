@@ -55,10 +55,6 @@ void DB::createApplicationNewTableNew()
     StoreSchema::createOrUpgrade(appnumbernew);
 }
 
-constexpr StoreColumn versionColumns[] = {
-    {"myjid", "VARCHAR(20) PRIMARY KEY"},
-    {"version", "VARCHAR(20)"},
-};
 constexpr StoreTable servicenumberversion{"servicenumberversion", versionColumns};
 constexpr StoreTable appnumberversionnew{"appnumberversionnew", versionColumns};
 constexpr StoreTable dingmsgversion{"dingmsgversion", versionColumns};

@@ -22,6 +22,12 @@ struct StoreIndex
     const char *columns; ///< comma-separated
 };
 
+/// The columns of the tables that hold one version for each account.
+inline constexpr StoreColumn versionColumns[] = {
+    {"myjid", "VARCHAR(20) PRIMARY KEY"},
+    {"version", "VARCHAR(20)"},
+};
+
 /// The rows of a constant array.
 template <typename Row>
 struct StoreRows
