@@ -7,7 +7,6 @@
 
 #include "common/CustomLogData.h"
 #include "common/LogLocation.h"
-#include "common/LogUtils.h"
 
 #include <QObject>
 #include <QTextStream>

@@ -4,7 +4,6 @@
 #include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 

@@ -1,6 +1,7 @@
 #include "common/Sha1.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 
 namespace {

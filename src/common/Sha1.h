@@ -3,7 +3,6 @@
 // SHA-1 as published, in one call or in steps. The steps keep no state of their own: any thread with its own context.
 // The hexadecimal text lies in one buffer of the process: main thread.
 
-#include <cstddef>
 #include <cstdint>
 
 /// What the steps carry along: the five state words, the block being filled, how many octets it holds, and the total.

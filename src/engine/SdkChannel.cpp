@@ -10,8 +10,6 @@
 #include <QDebug>
 #include <QProcess>
 
-#include <cstring>
-
 namespace {
 
 constexpr int kConnectWaitMs = 1000;

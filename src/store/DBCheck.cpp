@@ -38,7 +38,7 @@ void deleteTrialRow(QSqlQuery &query)
 
 bool trialWrite(QSqlQuery &query)
 {
-    query.prepare(QStringLiteral("INSERT INTO ") + QStringLiteral("msgrecord") + QStringLiteral(" (id)VALUES (?)"));
+    query.prepare(QStringLiteral("INSERT INTO msgrecord (id)VALUES (?)"));
     query.addBindValue(QStringLiteral("checkid"));
     query.exec();
     const QSqlError error = query.lastError();

@@ -13,6 +13,7 @@
 #include "widgets/MenuEx.h"
 
 #include <QGuiApplication>
+#include <QHash>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QScreen>
@@ -48,15 +49,8 @@ CConferenceInfoListView::CConferenceInfoListView(QWidget *parent)
     installEventFilter(this);
     setItemDelegateForColumn(0, m_pDelegate);
     setModel(m_pModel);
-    initMenu();
-    connect(&m_signTimer, SIGNAL(timeout()), this, SLOT(slot_ShowSign()));
-}
-
-void CConferenceInfoListView::initMenu()
-{
-    m_pMenu->addAction(m_pRecallAction);
-    m_pMenu->addAction(m_pDeleteAction);
     connect(m_pMenu, SIGNAL(triggered(QAction *)), this, SLOT(slot_selectAction(QAction *)));
+    connect(&m_signTimer, SIGNAL(timeout()), this, SLOT(slot_ShowSign()));
 }
 
 void CConferenceInfoListView::addConfInfoList(QList<ConfInfoData> confInfoList)

@@ -8,7 +8,6 @@
 
 #include "store/DBConfInfo.h"
 
-#include <QHash>
 #include <QList>
 #include <QListView>
 #include <QMap>
@@ -69,7 +68,6 @@ private:
     static std::shared_ptr<const ConferenceCreator> creatorOf(const QString &strUserID);
     static QStandardItem *creatListItem(const ConfInfoData &confInfo,
                                         const std::shared_ptr<const ConferenceCreator> &pCreator);
-    void initMenu();
     void hoverRow(const QModelIndex &index, const QPoint &position);
     void clickRow(const QModelIndex &index, const QPoint &position);
     void showMenu(const QStandardItem *pItem);
