@@ -1,12 +1,13 @@
 #include "engine/JsonText.h"
 
+#include "common/WholeNumber.h"
+
 #include <QStringList>
 
 #include <json/reader.h>
 #include <json/writer.h>
 
 #include <exception>
-#include <limits>
 
 // The wire is defined by the output and the leniency of these two classes, so their deprecation does not matter here.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -61,16 +62,7 @@ QStringList texts(const Json::Value &value)
 
 qint64 integer(const Json::Value &value)
 {
-    if (!value.isNumeric())
-        return 0;
-    // 2^63 is the first double above the range; its negative is the lowest value in it.
-    constexpr double limit = 9223372036854775808.0;
-    const double number = value.asDouble();
-    if (number >= limit)
-        return std::numeric_limits<qint64>::max();
-    if (number < -limit)
-        return std::numeric_limits<qint64>::min();
-    return static_cast<qint64>(number);
+    return value.isNumeric() ? WholeNumber::cut(value.asDouble()) : 0;
 }
 
 Json::Value arrayOrNull(const QStringList &list)

@@ -1,23 +1,15 @@
 #include "ui/ConferenceTexts.h"
 
 #include "common/CommonFun.h"
+#include "common/WholeNumber.h"
 
 #include <cmath>
-#include <limits>
 
 namespace {
 
 qint64 cutToSeconds(double dSeconds)
 {
-    // 2 to the 63rd: the first number beyond 64 bits, and exact as a double.
-    constexpr double cBeyond = 9223372036854775808.0;
-    if (std::isnan(dSeconds))
-        return 0;
-    if (dSeconds >= cBeyond)
-        return std::numeric_limits<qint64>::max();
-    if (dSeconds < -cBeyond)
-        return std::numeric_limits<qint64>::min();
-    return static_cast<qint64>(dSeconds);
+    return std::isnan(dSeconds) ? 0 : WholeNumber::cut(dSeconds);
 }
 
 } // namespace
