@@ -10,13 +10,18 @@ constexpr int VISIBLE = 10;
 
 } // namespace
 
-QPoint ScreenPlace::getAvailableMovePos(QPoint point, QRect rect)
+QRect ScreenPlace::workArea()
 {
     const QScreen *pScreen = QGuiApplication::primaryScreen();
-    if (pScreen == nullptr) {
+    return pScreen == nullptr ? QRect() : pScreen->availableGeometry();
+}
+
+QPoint ScreenPlace::getAvailableMovePos(QPoint point, QRect rect)
+{
+    const QRect area = workArea();
+    if (area.isNull()) {
         return point;
     }
-    const QRect area = pScreen->availableGeometry();
     const int iLeft = area.left() - rect.width() + VISIBLE;
     const int iTop = area.top() - rect.height() + VISIBLE;
     const int iRight = area.left() + area.width() - VISIBLE;

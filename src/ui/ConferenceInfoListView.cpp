@@ -12,11 +12,9 @@
 #include "ui/SignCard.h"
 #include "widgets/MenuEx.h"
 
-#include <QGuiApplication>
 #include <QHash>
 #include <QMouseEvent>
 #include <QPointer>
-#include <QScreen>
 #include <QScrollBar>
 #include <QStandardItemModel>
 
@@ -215,7 +213,7 @@ void CConferenceInfoListView::showMenu(const QStandardItem *pItem)
     m_pMenu->addAction(m_pDeleteAction);
     m_pMenu->show();
     const QPoint cursor = QCursor::pos();
-    const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
+    const QSize screen = CommonFun::workArea().size();
     m_pMenu->move(menuStart(cursor.x(), m_pMenu->width(), screen.width()),
                   menuStart(cursor.y(), m_pMenu->height(), screen.height()));
 }

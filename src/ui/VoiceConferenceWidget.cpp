@@ -10,9 +10,7 @@
 #include "ui/EdgeDrag.h"
 #include "ui/RowPainter.h"
 
-#include <QGuiApplication>
 #include <QMouseEvent>
-#include <QScreen>
 
 namespace {
 
@@ -198,7 +196,7 @@ void CVoiceConferenceWidget::mouseMoveEvent(QMouseEvent *event)
     QPoint corner = event->globalPos() - m_dragOffset;
     if (corner.isNull())
         return;
-    const int iLowest = QGuiApplication::primaryScreen()->availableGeometry().height() - ADAPT_DPI_INT(cLeastVisible);
+    const int iLowest = CommonFun::workArea().height() - ADAPT_DPI_INT(cLeastVisible);
     corner.setY(qMin(corner.y(), iLowest));
     move(corner);
 }

@@ -5,6 +5,7 @@
 
 #include "ui_VoipWidget.h"
 
+#include "common/CommonFun.h"
 #include "common/IconGlyphs.h"
 #include "widgets/MyRubberBand.h"
 
@@ -12,7 +13,6 @@
 #include <QDesktopWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QScreen>
 
 #include <array>
 
@@ -37,11 +37,6 @@ constexpr std::array<CursorRow, 9> cCursors{{
 }};
 
 const QString cFaceColor = QStringLiteral("255,255,255");
-
-QRect workArea()
-{
-    return QGuiApplication::primaryScreen()->availableGeometry();
-}
 
 } // namespace
 
@@ -100,7 +95,7 @@ void CVoipWidget::mouseMoveEvent(QMouseEvent *event)
 void CVoipWidget::dragEdges(const QPoint &cursor)
 {
     m_bResized = true;
-    m_rubberRect = EdgeDrag::resized(m_mouseState, QRect(pos(), size()), cursor, workArea(), m_rubberRect);
+    m_rubberRect = EdgeDrag::resized(m_mouseState, QRect(pos(), size()), cursor, CommonFun::workArea(), m_rubberRect);
     showRubberBand(m_rubberRect.normalized());
 }
 
@@ -108,7 +103,7 @@ void CVoipWidget::dragWindow(const QPoint &cursor)
 {
     m_bResized = false;
     if (!m_bGeometryLocked && cursor != m_dragOffset)
-        move(EdgeDrag::moved(cursor, m_dragOffset, workArea()));
+        move(EdgeDrag::moved(cursor, m_dragOffset, CommonFun::workArea()));
 }
 
 void CVoipWidget::mouseReleaseEvent(QMouseEvent *event)
@@ -138,7 +133,7 @@ void CVoipWidget::slot_WindowChangeButtonClicked()
         m_bFullScreen = true;
         m_normalGeometry = frameGeometry();
         ui->titleWidget->hide();
-        setGeometry(EdgeDrag::overWorkArea(workArea()));
+        setGeometry(EdgeDrag::overWorkArea(CommonFun::workArea()));
         ui->btnChangeWindow->setIconFont(IconGlyph::text(IconGlyph::Restore), 16, 0);
         ui->btnChangeWindow->setIconColor(cFaceColor);
         ui->btnChangeWindow->setToolTip(tr("restore"));

@@ -4,11 +4,30 @@
 #include <QScreen>
 #include <QTest>
 
+namespace {
+
+// Asked before main, when no application has found its screens yet.
+const QRect areaWithoutScreen = ScreenPlace::workArea();
+const QPoint placeWithoutScreen = ScreenPlace::getAvailableMovePos({-99999, 99999}, QRect(0, 0, 300, 200));
+
+} // namespace
+
 class tst_ScreenPlace : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void theWorkAreaIsThePrimaryScreens()
+    {
+        QCOMPARE(ScreenPlace::workArea(), QGuiApplication::primaryScreen()->availableGeometry());
+    }
+
+    void withoutAScreenNothingIsLimited()
+    {
+        QVERIFY(areaWithoutScreen.isNull());
+        QCOMPARE(placeWithoutScreen, QPoint(-99999, 99999));
+    }
+
     void tenPixelsStayOnTheScreen()
     {
         const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
