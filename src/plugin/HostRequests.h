@@ -23,8 +23,8 @@ struct HostRequest
     Delivery delivery;
 };
 
-/// All requests, one a line. Deliberate: 4734 alone names another plug-in, the vCard one, as its sender; and the events
-/// of 4345 and 4540 stay undeleted after their delivery.
+/// All requests, one a line. Deliberate: MSG_CREATE_VOICE_CONFERENCE alone names another plug-in, the vCard one, as its
+/// sender; and the events of MSG_CLOSE_AV_MSGBOX and MSG_CLOSE_SIGN_LIST stay undeleted after their delivery.
 inline constexpr HostRequest hostRequests[] = {
     {MSG_RECEVIE_VOIP_CALL, sessionPluginId, voipPluginId, Delivery::AtOnce},
     {MSG_CALL_FINISHED, sessionPluginId, voipPluginId, Delivery::AtOnce},

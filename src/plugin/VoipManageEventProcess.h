@@ -16,7 +16,8 @@ class VoipManageEventProcess : public QObject
     Q_OBJECT
 
 public:
-    /// Tells the session plug-in that `strUserId` calls; it prompts the user and answers with command 4732.
+    /// Tells the session plug-in that `strUserId` calls; it prompts the user and answers with
+    /// MSG_RESPONSE_VOIP_REQUEST.
     static void notifyRecevieVoipCall(QString strUserId, bool bIsConf, bool bIsVideo);
     /// Tells the session plug-in that a call with `strUserId` has ended: `iResult` is a CallData::FinishResult,
     /// `iSeconds` the length of the call in seconds.
@@ -35,7 +36,8 @@ public:
     /// counts, which is false for any text but a null one.
     static bool isExistFriend(QString strJid);
     /// Asks the vCard plug-in, by a queued event, for the cards of `ids`; `versions` holds for each id the decimal
-    /// version of the card at hand. The cards come back as command 4105. The engine always passes `flag` as true.
+    /// version of the card at hand. The cards come back as MSG_UPDATE_USER_INFO. The engine always passes `flag` as
+    /// true.
     static void getStrangerSmallVCard(QStringList ids, QStringList versions, bool flag);
     /// Takes away the host's prompt of the call with `strJid`.
     static void closeAVMsgBox(QString strJid);

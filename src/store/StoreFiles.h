@@ -1,6 +1,6 @@
 #pragma once
 
-// The names of the store's files in a user's folder.
+// The names of the store's files in a user's folder. Pure functions; any thread.
 
 #include <QFileInfo>
 #include <QString>

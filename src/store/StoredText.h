@@ -1,6 +1,6 @@
 #pragma once
 
-// Texts on their way into a statement.
+// Texts on their way into a statement. A pure function; any thread.
 
 #include <QString>
 
