@@ -5,6 +5,7 @@
 #include "common/Palette.h"
 #include "ui/ConferenceTexts.h"
 #include "ui/MemberRoles.h"
+#include "ui/RowPainter.h"
 
 #include <QPainter>
 

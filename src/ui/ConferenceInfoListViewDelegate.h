@@ -4,9 +4,9 @@
 // row's head and detail button stand, which is how the list's mouse handlers learn it. Owned by the list; GUI thread
 // only.
 
+#include "common/CommonFun.h"
 #include "ui/HeadCache.h"
 #include "ui/LineCache.h"
-#include "ui/RowPainter.h"
 
 #include <QStyledItemDelegate>
 
@@ -28,5 +28,5 @@ private:
     void paintHead(QPainter &painter, const QRect &row, const QModelIndex &index) const;
 
     mutable LineCache m_lines;
-    mutable HeadCache m_heads{&RowPainter::maskedHead};
+    mutable HeadCache m_heads{&CommonFun::getRoundedImage};
 };

@@ -4,6 +4,7 @@
 #include "common/IconGlyphs.h"
 #include "common/Palette.h"
 #include "ui/MemberRoles.h"
+#include "ui/RowPainter.h"
 
 #include <QPainter>
 

@@ -3,9 +3,9 @@
 // Paints the rows of the conference member list from the item data of ui/MemberRoles.h, and writes back into it where
 // the row's buttons stand, which is how the list's mouse handlers learn it. Owned by the list; GUI thread only.
 
+#include "common/CommonFun.h"
 #include "ui/HeadCache.h"
 #include "ui/LineCache.h"
-#include "ui/RowPainter.h"
 
 #include <QStyledItemDelegate>
 
@@ -26,5 +26,5 @@ private:
     void paintHead(QPainter &painter, const QRect &row, const QModelIndex &index) const;
 
     mutable LineCache m_lines;
-    mutable HeadCache m_heads{&RowPainter::maskedHead};
+    mutable HeadCache m_heads{&CommonFun::getRoundedImage};
 };

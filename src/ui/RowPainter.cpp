@@ -2,11 +2,9 @@
 
 #include "common/CommonFun.h"
 #include "common/DpiScale.h"
-#include "common/PictureFile.h"
 #include "ui/LineCache.h"
 
 #include <QAbstractItemModel>
-#include <QBitmap>
 #include <QFontMetrics>
 #include <QPainter>
 #include <QTextOption>
@@ -14,24 +12,13 @@
 namespace {
 
 constexpr int cTextPixels = 12;
+constexpr QColor cLineColor(224, 224, 224);
 
 // More than any glyph is wide: one is never cut.
 constexpr int cGlyphRoom = 1024;
 
 // No line of text is measured beyond so many characters: more of them fit only where they have no width.
 constexpr int cMostCharacters = 2048;
-
-QBitmap roundMask(int iSide)
-{
-    QBitmap mask(iSide, iSide);
-    mask.fill(Qt::white);
-    QPainter painter(&mask);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QBrush(Qt::black, Qt::SolidPattern));
-    painter.drawEllipse(mask.rect());
-    return mask;
-}
 
 QString withBlanks(QString strText)
 {
@@ -67,18 +54,6 @@ KeptPenAndFont::~KeptPenAndFont()
 {
     m_pPainter->setFont(m_font);
     m_pPainter->setPen(m_pen);
-}
-
-QPixmap RowPainter::maskedHead(const QString &strPath, int iSide)
-{
-    const QPixmap picture = readPictureFile(strPath);
-    if (picture.isNull())
-        return {};
-    // The mask has hard edges: cut at twice the size, scaling down makes them smooth.
-    const int iTwice = 2 * iSide;
-    QPixmap head = picture.scaled(iTwice, iTwice, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    head.setMask(roundMask(iTwice));
-    return head.scaled(iSide, iSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 QFont RowPainter::textFont()
@@ -131,7 +106,7 @@ void RowPainter::drawGlyph(QPainter &painter, LineCache &lines, const QRect &pla
 
 void RowPainter::drawBottomLine(QPainter &painter, int iLeft, int iRight, int iBottom)
 {
-    painter.fillRect(QRect(QPoint(iLeft, iBottom), QPoint(iRight, iBottom)), cLineColor_);
+    painter.fillRect(QRect(QPoint(iLeft, iBottom), QPoint(iRight, iBottom)), cLineColor);
 }
 
 void RowPainter::keepRect(const QModelIndex &index, int iRole, const QRect &place)

@@ -1,13 +1,11 @@
 #pragma once
 
-// What the delegates of the member list, the history list and the detail page paint alike: round heads, one-line texts,
-// buttons of the icon font, the line below a row, and the way a hit rectangle goes back into its item. No state; GUI
-// thread only.
+// What the delegates of the member list, the history list and the detail page paint alike: one-line texts, buttons of
+// the icon font, the line below a row, and the way a hit rectangle goes back into its item. No state; GUI thread only.
 
 #include <QColor>
 #include <QFont>
 #include <QPen>
-#include <QPixmap>
 #include <QString>
 
 class LineCache;
@@ -16,9 +14,6 @@ class QModelIndex;
 class QPainter;
 class QRect;
 class QStaticText;
-
-/// The colour of the line below a row.
-constexpr QColor cLineColor_(224, 224, 224);
 
 /// Gives a painter its font and pen back when it goes out of scope.
 class KeptPenAndFont
@@ -39,10 +34,6 @@ private:
 class RowPainter
 {
 public:
-    /// The picture of the file at `strPath`, cut to a circle of `iSide` pixels. What readPictureFile does not read
-    /// gives a null pixmap. Reads the file: see ui/HeadCache.h.
-    static QPixmap maskedHead(const QString &strPath, int iSide);
-
     /// The text font of the lists and of the conference centre's buttons, 12 pixels high.
     static QFont textFont();
 

@@ -3,7 +3,6 @@
 #include "common/CommonFun.h"
 #include "ui/LineCache.h"
 
-#include <QFile>
 #include <QFontMetrics>
 #include <QPainter>
 #include <QSignalSpy>
@@ -36,43 +35,6 @@ private:
     }
 
 private slots:
-    void headIsARoundCutOfThePicture()
-    {
-        QPixmap square(90, 30);
-        square.fill(Qt::red);
-        QVERIFY(square.save(QStringLiteral("red.png")));
-        const QImage head = RowPainter::maskedHead(QStringLiteral("red.png"), 22).toImage();
-        QCOMPARE(head.size(), QSize(22, 22));
-        QCOMPARE(head.pixelColor(11, 11), QColor(Qt::red));
-        QCOMPARE(head.pixelColor(0, 11).red(), 255);
-        for (const QPoint corner : {QPoint(0, 0), QPoint(21, 0), QPoint(0, 21), QPoint(21, 21)})
-            QCOMPARE(head.pixelColor(corner).alpha(), 0);
-        // The edge is smooth: some pixels are neither inside nor outside.
-        int iHalf = 0;
-        for (int x = 0; x < 22; ++x)
-            iHalf += head.pixelColor(x, 1).alpha() > 0 && head.pixelColor(x, 1).alpha() < 255 ? 1 : 0;
-        QVERIFY(iHalf > 0);
-    }
-
-    void fileUnderAWrongSuffixIsAPicture()
-    {
-        QPixmap square(30, 30);
-        square.fill(Qt::green);
-        QVERIFY(square.save(QStringLiteral("green.jpg"), "PNG"));
-        QVERIFY(!RowPainter::maskedHead(QStringLiteral("green.jpg"), 22).isNull());
-    }
-
-    void missingOrBadFileHasNoHead()
-    {
-        QVERIFY(RowPainter::maskedHead(QString(), 22).isNull());
-        QVERIFY(RowPainter::maskedHead(QStringLiteral("nowhere.png"), 22).isNull());
-        QFile file(QStringLiteral("bad.png"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray("\x89PNG\r\n\x1a\n", 8) + QByteArray(100, 'x'));
-        file.close();
-        QVERIFY(RowPainter::maskedHead(QStringLiteral("bad.png"), 22).isNull());
-    }
-
     void textFontHasTwelvePixels()
     {
         QCOMPARE(RowPainter::textFont().family(), QStringLiteral("微软雅黑"));
