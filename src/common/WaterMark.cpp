@@ -23,8 +23,8 @@ namespace {
 const QString DEFAULT_COLOR = QStringLiteral("#e8e9eb");
 
 constexpr double ANGLE = 16;
-// Deliberate: of the angle with 3.14 for pi, where the painter turns by the true one. Files that lie there already were
-// drawn so.
+// Of ANGLE, deliberately reckoned with 3.14 for pi, though the painter turns by the true angle: the watermarks that the
+// host has already are laid out so.
 constexpr double COSINE = 0.9613007080676148;
 constexpr double SINE = 0.2755012679983567;
 constexpr double TANGENT = 0.28659218253585106;
