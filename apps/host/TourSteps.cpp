@@ -1,6 +1,7 @@
 #include "TourSteps.h"
 
 #include "CallProcess.h"
+#include "CallRecord.h"
 #include "ContactBook.h"
 #include "DebugChannel.h"
 #include "HappeningsPanel.h"
@@ -23,12 +24,6 @@
 using namespace TourCast;
 
 namespace {
-
-constexpr int resultCancelled = 21;
-constexpr int resultFailed = 22;
-constexpr int resultHungUp = 24;
-constexpr int resultBusy = 25;
-constexpr int resultRejected = 26;
 
 // The texts of the windows, as a person sees them.
 constexpr const char *voiceTitle = "语音通话";
