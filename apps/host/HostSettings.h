@@ -13,6 +13,9 @@ class HostSettings : public QObject
 public:
     using QObject::QObject;
 
+    /// The key of isSilent() in the user's file.
+    static constexpr const char *silentKey = "/basicSetting/closeVoice";
+
     /// The file of the signed-in user's settings.
     static QString userFile();
     /// The file of the settings that all users of this computer share.

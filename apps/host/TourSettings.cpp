@@ -15,7 +15,7 @@ namespace {
 TourCheck silentInFile(const char *strValue)
 {
     return {QStringLiteral("the user's settings file says closeVoice=%1").arg(QLatin1String(strValue)), [strValue] {
-                return CommonFun::getConfigValue(HostSettings::userFile(), QStringLiteral("/basicSetting/closeVoice"))
+                return CommonFun::getConfigValue(HostSettings::userFile(), QLatin1String(HostSettings::silentKey))
                            .toString() == QLatin1String(strValue);
             }};
 }
