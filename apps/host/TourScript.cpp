@@ -1,7 +1,7 @@
 #include "TourScript.h"
 
 #include "CallProcess.h"
-#include "EventWords.h"
+#include "CallRecord.h"
 #include "MainWindow.h"
 #include "TourHand.h"
 #include "TourWatch.h"

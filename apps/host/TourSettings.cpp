@@ -4,7 +4,6 @@
 #include "MainWindow.h"
 #include "TourCast.h"
 #include "TourScript.h"
-#include "WindowProbe.h"
 
 #include "common/CommonFun.h"
 
