@@ -4,7 +4,8 @@
 #include <QString>
 
 /// The call process as the operating system sees it: the plug-in starts it detached, so the tour has to look for it. It
-/// goes by its program's path and by the trace file in its environment, so that nobody else's is ever taken for it.
+/// goes by its program's path and by the trace file in its environment, so that nobody else's is ever taken for it. GUI
+/// thread.
 class CallProcess
 {
 public:

@@ -14,7 +14,7 @@ enum CallResult
     resultRejected = 26   ///< here or there
 };
 
-/// One finished call, as the session plug-in is told of it by command 4478.
+/// One finished call, as the session plug-in is told of it by command 4478. A value; GUI thread.
 struct CallRecord
 {
     bool video = false;     ///< it was placed as a video call

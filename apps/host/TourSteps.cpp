@@ -38,11 +38,11 @@ QString param1(const char *strUid)
     return QStringLiteral("\"param1\":\"%1\"").arg(QLatin1String(strUid));
 }
 
-/// The call window's signal_ClearCallData is connected to an ordinary method, which Qt refuses; that it never takes
-/// effect is required. Qt says it in two lines. What the X server answers about windows that have just gone, of other
-/// programs too, or that it cannot give the focus at this moment, is no warning of this program's. The message dialog's
-/// edit fields keep a menu sheet with an unfilled number, which Qt refuses with a line for each field; that is required
-/// too.
+/// The call window's signal_ClearCallData is connected to an ordinary method, which Qt refuses in two lines: the window
+/// never clears the call. What the X server answers about windows that have just gone, of other programs too, or that
+/// it cannot give the focus at this moment, is no warning of this program's. The message dialog's edit fields keep a
+/// menu sheet with an unfilled number, which Qt refuses with a line for each field: without it their menus would look
+/// different.
 TourCheck onlyTheKnownWarning()
 {
     return {u("Qt has warned of nothing but the one connection that must not take effect"), [] {
