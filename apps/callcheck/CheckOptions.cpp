@@ -65,16 +65,16 @@ QString faultOf(const CheckOptions &options)
 
 } // namespace
 
-bool CheckOptions::read(const QStringList &arguments_, QString *error)
+bool CheckOptions::read(const QStringList &commandLine, QString *error)
 {
     QCommandLineParser parser;
     addOptions(parser);
-    if (!parser.parse(arguments_)) {
+    if (!parser.parse(commandLine)) {
         *error = parser.errorText();
         return false;
     }
     QStringList words = parser.positionalArguments();
-    inPlace = arguments_.size() == 1 && qEnvironmentVariableIsSet(OUT_VARIABLE);
+    inPlace = commandLine.size() == 1 && qEnvironmentVariableIsSet(OUT_VARIABLE);
     output = inPlace ? qEnvironmentVariable(OUT_VARIABLE) : valueOf(parser, OUT);
     socketName = valueOf(parser, SOCKET_NAME);
     attachTo = valueOf(parser, ATTACH);
