@@ -63,48 +63,60 @@ QString faultOf(const CheckOptions &options)
     return {};
 }
 
-} // namespace
-
-bool CheckOptions::read(const QStringList &arguments_, QString *error)
+void takeValues(const QCommandLineParser &parser, CheckOptions &options)
 {
-    QCommandLineParser parser;
-    addOptions(parser);
-    if (!parser.parse(arguments_)) {
-        *error = parser.errorText();
-        return false;
-    }
-    QStringList words = parser.positionalArguments();
-    inPlace = arguments_.size() == 1 && qEnvironmentVariableIsSet(OUT_VARIABLE);
-    output = inPlace ? qEnvironmentVariable(OUT_VARIABLE) : valueOf(parser, OUT);
-    socketName = valueOf(parser, SOCKET_NAME);
-    attachTo = valueOf(parser, ATTACH);
-    trace = valueOf(parser, TRACE);
-    userId = valueOf(parser, USER);
-    nickName = valueOf(parser, NICK_NAME);
-    registration = valueOf(parser, REGISTRATION);
+    options.output = options.inPlace ? qEnvironmentVariable(OUT_VARIABLE) : valueOf(parser, OUT);
+    options.socketName = valueOf(parser, SOCKET_NAME);
+    options.attachTo = valueOf(parser, ATTACH);
+    options.trace = valueOf(parser, TRACE);
+    options.userId = valueOf(parser, USER);
+    options.nickName = valueOf(parser, NICK_NAME);
+    options.registration = valueOf(parser, REGISTRATION);
     bool number = false;
-    patience = valueOf(parser, PATIENCE).toDouble(&number);
-    patience = number ? patience : 0.0;
-    if (inPlace) {
-        words = QStringList{QStringLiteral("record"), qEnvironmentVariable(PROGRAM_VARIABLE)};
-    }
-    if (parser.isSet(QStringLiteral("help")) || words.isEmpty()) {
-        mode = Mode::Help;
-        *error = words.isEmpty() ? QStringLiteral("record or replay?") : QString();
-        return parser.isSet(QStringLiteral("help"));
-    }
+    const double patience = valueOf(parser, PATIENCE).toDouble(&number);
+    options.patience = number ? patience : 0.0;
+}
+
+/// The command with what it works on. `words` are not empty; false for an unknown command.
+bool takeWords(QStringList words, CheckOptions &options, QString *error)
+{
     const QString command = words.takeFirst();
     if (command != QLatin1String("record") && command != QLatin1String("replay")) {
         *error = QStringLiteral("unknown command \"%1\": record or replay?").arg(command);
         return false;
     }
-    mode = command == QLatin1String("record") ? Mode::Record : Mode::Replay;
-    if (mode == Mode::Replay && !words.isEmpty()) {
-        scenario = words.takeFirst();
+    options.mode = command == QLatin1String("record") ? CheckOptions::Mode::Record : CheckOptions::Mode::Replay;
+    if (options.mode == CheckOptions::Mode::Replay && !words.isEmpty()) {
+        options.scenario = words.takeFirst();
     }
     if (!words.isEmpty()) {
-        program = words.takeFirst();
-        arguments = words;
+        options.program = words.takeFirst();
+        options.arguments = words;
+    }
+    return true;
+}
+
+} // namespace
+
+bool CheckOptions::read(const QStringList &commandLine, QString *error)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    if (!parser.parse(commandLine)) {
+        *error = parser.errorText();
+        return false;
+    }
+    inPlace = commandLine.size() == 1 && qEnvironmentVariableIsSet(OUT_VARIABLE);
+    takeValues(parser, *this);
+    const QStringList words = inPlace ? QStringList{QStringLiteral("record"), qEnvironmentVariable(PROGRAM_VARIABLE)}
+                                      : parser.positionalArguments();
+    if (parser.isSet(QStringLiteral("help")) || words.isEmpty()) {
+        mode = Mode::Help;
+        *error = words.isEmpty() ? QStringLiteral("record or replay?") : QString();
+        return parser.isSet(QStringLiteral("help"));
+    }
+    if (!takeWords(words, *this, error)) {
+        return false;
     }
     *error = faultOf(*this);
     return error->isEmpty();

@@ -74,10 +74,10 @@ QByteArray pluginLine(const Statement &statement, const PluginUser &user)
         return QByteArray(QUIT_LINE) + '\n';
     }
     QJsonArray values;
-    for (int number = 1; number <= static_cast<int>(qstrlen(row->parameters)); ++number) {
+    for (int number = 1; number <= parameterCount(*row); ++number) {
         QJsonValue value = openValue(*row, number, user);
         for (const ExpectedParameter &parameter : statement.parameters) {
-            if (parameter.key == QStringLiteral("param%1").arg(number)) {
+            if (parameter.key == parameterKey(number)) {
                 value = namedValue(parameter, row->parameters[number - 1]);
             }
         }
@@ -90,7 +90,7 @@ QByteArray commandLine(const QString &name, const QJsonArray &parameters)
 {
     QJsonObject object{{QStringLiteral("messagetype"), name}};
     for (int i = 0; i < parameters.size(); ++i) {
-        object.insert(QStringLiteral("param%1").arg(i + 1), parameters.at(i));
+        object.insert(parameterKey(i + 1), parameters.at(i));
     }
     const QString text = QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
     QByteArray line;

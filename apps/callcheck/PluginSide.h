@@ -23,6 +23,7 @@ public:
     bool connectTo(const QString &path, int milliseconds);
     /// Closes the connection; lines that have come before can still be taken.
     void disconnect();
+    /// Whether the connection stands.
     bool isConnected() const { return m_socket && m_socket->state() == QLocalSocket::ConnectedState; }
 
     /// Writes the bytes. False without a connection.

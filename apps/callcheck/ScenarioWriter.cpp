@@ -6,7 +6,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTextCodec>
 
 #include <algorithm>
 #include <utility>
@@ -18,13 +17,6 @@ constexpr qint64 ROUNDED_TO_MS = 100;
 constexpr const char *OPENING = "# Recorded by kelvarim-callcheck.\n"
                                 "ignore SetMicEnable SetSpeakerEnble SetCamreraEnable SetMicVolume SetSpeakerVolume\n"
                                 "timeout 0s\n";
-
-bool isUtf8(const QByteArray &bytes)
-{
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
-}
 
 bool isControl(char character)
 {
@@ -100,7 +92,7 @@ QByteArray parameterWord(const QJsonValue &value)
 QByteArray expectation(const Command &command, const CommandRow &row)
 {
     QByteArray text = "expect " + command.name.toUtf8();
-    for (int number = 1; number <= static_cast<int>(qstrlen(row.parameters)); ++number) {
+    for (int number = 1; number <= parameterCount(row); ++number) {
         const QJsonValue value = command.parameter(number);
         const QByteArray word = value.isUndefined() ? QByteArray() : parameterWord(value);
         if (!word.isEmpty() && !isPrivate(command.name, number)) {

@@ -19,6 +19,7 @@ public:
     explicit CallDesk(Outlet &outlet, QObject *parent = nullptr);
     ~CallDesk() override;
 
+    /// Whether a call is being placed, rings or is connected.
     bool hasCall() const { return m_phase != Phase::None; }
 
     /// The plug-in calls `userId`; a call that was still there ends without a word. An id without a robot fails.

@@ -36,6 +36,7 @@ public:
     /// Closes the server and removes its socket file; a client that is connected stays. Without a server: no effect.
     void stopListening();
 
+    /// Whether a client is connected.
     bool hasClient() const { return m_client != nullptr; }
     /// Closes the client's connection, unwritten bytes with it. Without a client: no effect.
     void drop();
@@ -46,7 +47,9 @@ public:
     bool isAllWritten() const;
 
 signals:
+    /// A client has connected.
     void clientArrived();
+    /// The client has gone, was dropped or gave way to another one.
     void clientGone();
     /// What one read has brought from the client, ahead of the lines in it.
     void bytesReceived(const QByteArray &bytes);

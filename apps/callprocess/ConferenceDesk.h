@@ -21,6 +21,7 @@ public:
     explicit ConferenceDesk(Outlet &outlet, QObject *parent = nullptr);
     ~ConferenceDesk() override;
 
+    /// Whether a conference is being created, the plug-in is invited to one or is in one.
     bool hasConference() const { return m_phase != Phase::None; }
 
     /// The plug-in's user `ownId` asks for a conference with `members`; one that was still there ends without a word.

@@ -14,19 +14,33 @@ struct OptionRow
     const char *variable; // empty: none
     const char *value;
     const char *text;
+    QString (*byDefault)(const Options &options); // as the help shows it; null: not shown
 };
 
+QString idleByDefault(const Options &options)
+{
+    return QString::number(options.idleSeconds);
+}
+
+QString socketNameByDefault(const Options &options)
+{
+    return options.socketName;
+}
+
 // clang-format off
-constexpr OptionRow SCENARIO    {"scenario",     "VOIPSDK_SCENARIO",     "FILE",   "run this scenario instead of the exchange of robots"};
-constexpr OptionRow TRACE       {"trace",        "VOIPSDK_TRACE",        "FILE",   "append a record of every line to this file, \"-\" for standard error"};
-constexpr OptionRow SPEED       {"speed",        "VOIPSDK_SPEED",        "FACTOR", "divide all delays by this"};
-constexpr OptionRow IDLE        {"idle-seconds", "VOIPSDK_IDLE_SECONDS", "N",      "end after this long without a client (600)"};
-constexpr OptionRow SOCKET_NAME {"socket-name",  "",                     "NAME",   "name of the local server (VoipSDK)"};
+constexpr OptionRow SCENARIO    {"scenario",     "VOIPSDK_SCENARIO",     "FILE",   "run this scenario instead of the exchange of robots", nullptr};
+constexpr OptionRow TRACE       {"trace",        "VOIPSDK_TRACE",        "FILE",   "append a record of every line to this file, \"-\" for standard error", nullptr};
+constexpr OptionRow SPEED       {"speed",        "VOIPSDK_SPEED",        "FACTOR", "divide all delays by this", nullptr};
+constexpr OptionRow IDLE        {"idle-seconds", "VOIPSDK_IDLE_SECONDS", "N",      "end after this long without a client", idleByDefault};
+constexpr OptionRow SOCKET_NAME {"socket-name",  "",                     "NAME",   "name of the local server", socketNameByDefault};
 // clang-format on
 
 QCommandLineOption optionOf(const OptionRow &row)
 {
     QString text = QString::fromLatin1(row.text);
+    if (row.byDefault != nullptr) {
+        text += QStringLiteral(" (%1)").arg(row.byDefault(Options()));
+    }
     if (*row.variable != '\0') {
         text += QStringLiteral(" [%1]").arg(QLatin1String(row.variable));
     }

@@ -3,7 +3,6 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QTextCodec>
 
 #include <algorithm>
 #include <limits>
@@ -160,7 +159,7 @@ private:
     {
         statement.commands.append(commandName(words.at(0)));
         const CommandRow *row = findCommand(statement.commands.constFirst());
-        const int known = row == nullptr ? 0 : static_cast<int>(qstrlen(row->parameters));
+        const int known = row == nullptr ? 0 : parameterCount(*row);
         for (const ScenarioWord &word : words.mid(1)) {
             const int equals = word.text.indexOf('=');
             const ExpectedParameter parameter{QString::fromUtf8(word.text.left(equals)),
@@ -168,7 +167,7 @@ private:
                                               word.quotedFrom == equals + 1};
             bool isKnown = false;
             for (int number = 1; number <= known; ++number) {
-                isKnown = isKnown || (equals > 0 && parameter.key == QStringLiteral("param%1").arg(number));
+                isKnown = isKnown || (equals > 0 && parameter.key == parameterKey(number));
             }
             if (!isKnown) {
                 fail(QStringLiteral("%1 has no parameter \"%2\"")
@@ -198,12 +197,10 @@ private:
             return {};
         }
         const QByteArray content = words.size() > 1 ? words.at(1).text : QByteArray();
-        QTextCodec::ConverterState state;
-        const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(content.constData(), content.size(), &state);
-        if (state.invalidChars > 0 || state.remainingChars > 0) {
+        if (!isUtf8(content)) {
             fail(QStringLiteral("the content is no UTF-8 (use \"raw\" for such bytes)"));
         }
-        return notificationLine(code, text);
+        return notificationLine(code, QString::fromUtf8(content.constData(), content.size()));
     }
 
     int duration(const ScenarioWord &word)

@@ -1,6 +1,6 @@
 #include "callprocess/Trace.h"
 
-#include <QTextCodec>
+#include "callprocess/Wire.h"
 
 #include <cstdio>
 
@@ -58,10 +58,10 @@ void Trace::complaint(const QString &text)
 
 QString Trace::printable(const QByteArray &bytes)
 {
-    QTextCodec::ConverterState state;
-    QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    if (state.invalidChars > 0 || state.remainingChars > 0) {
-        text.clear();
+    QString text;
+    if (isUtf8(bytes)) {
+        text = QString::fromUtf8(bytes.constData(), bytes.size());
+    } else {
         for (const char byte : bytes) {
             const auto value = static_cast<uchar>(byte);
             text += value < 0x80 ? QString(QChar(value)) : QString::asprintf("\\x%02X", value);

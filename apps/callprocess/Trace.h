@@ -26,7 +26,9 @@ public:
     void received(const QByteArray &line);
     /// The bytes of one write: a final line feed is not shown, bytes that end in the middle of a line end in "…".
     void sent(const QByteArray &bytes);
+    /// Something that happened to the call process, in words.
     void event(const QString &text);
+    /// Something that should not be, in words.
     void complaint(const QString &text);
 
     /// The bytes as one line of text: control characters as their pictures (a line feed is "␊", a NUL "␀"), bytes that

@@ -3,15 +3,11 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QStringList>
+#include <QTextCodec>
 
 #include <algorithm>
 
 namespace {
-
-QString parameterKey(int number)
-{
-    return QStringLiteral("param%1").arg(number);
-}
 
 bool hasType(const QJsonValue &value, char type)
 {
@@ -33,6 +29,18 @@ bool hasType(const QJsonValue &value, char type)
 }
 
 } // namespace
+
+QString parameterKey(int number)
+{
+    return QStringLiteral("param%1").arg(number);
+}
+
+bool isUtf8(const QByteArray &bytes)
+{
+    QTextCodec::ConverterState state;
+    QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
 
 QJsonValue Command::parameter(int number) const
 {

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <optional>
+#include <string_view>
 
 /// A notification's number on the wire.
 enum class Code : int
@@ -117,6 +118,18 @@ inline constexpr std::array<CommandRow, 17> COMMANDS{{
 
 /// The one line that is no JSON, without its line feed.
 inline constexpr const char *QUIT_LINE = "quit";
+
+/// How many of param1, param2, ... the command has.
+constexpr int parameterCount(const CommandRow &row)
+{
+    return static_cast<int>(std::string_view(row.parameters).size());
+}
+
+/// The key of a parameter, counted from 1: "param<number>".
+QString parameterKey(int number);
+
+/// Whether the bytes are UTF-8 from begin to end.
+bool isUtf8(const QByteArray &bytes);
 
 /// A command as it came in.
 struct Command

@@ -6,7 +6,7 @@ GalleryUser::GalleryUser()
 {
     m_login.m_strUid = QStringLiteral("30010000");
     m_settings.m_strUserFolder = m_folder.path();
-    m_settings.m_strHeadImageFolder = m_folder.filePath(QStringLiteral("heads"));
+    m_settings.m_strHeadImageFolder = m_folder.filePath(QStringLiteral("heads/"));
     m_context.setLoginData(&m_login);
     m_context.setSystemSetData(&m_settings);
     SharedContext::setCommonData(&m_context);

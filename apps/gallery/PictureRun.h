@@ -15,7 +15,7 @@ namespace PictureRun {
 /// `strError`, when a file cannot be written.
 bool write(const QString &strFolder, const GalleryPage *page, QString *strError);
 
-/// The names of the files that a run of all pages writes.
+/// The names of the files that a run of all pages writes. For tests.
 QStringList files();
 
 } // namespace PictureRun

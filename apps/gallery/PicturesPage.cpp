@@ -6,7 +6,6 @@
 #include "common/WaterMark.h"
 
 #include <QGridLayout>
-#include <QLabel>
 
 namespace {
 

@@ -1,5 +1,7 @@
 #include "CallProcess.h"
 
+#include "TraceFolder.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -18,7 +20,7 @@ QString CallProcess::program()
 QList<qint64> CallProcess::pids() const
 {
     const QString wanted = QFileInfo(program()).canonicalFilePath();
-    const QByteArray mark = "VOIPSDK_TRACE=" + QFile::encodeName(m_strTraceFile);
+    const QByteArray mark = QByteArray(TraceFolder::variable) + '=' + QFile::encodeName(m_strTraceFile);
     QList<qint64> found;
     const QStringList entries = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString &entry : entries) {

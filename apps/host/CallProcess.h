@@ -4,11 +4,12 @@
 #include <QString>
 
 /// The call process as the operating system sees it: the plug-in starts it detached, so the tour has to look for it. It
-/// goes by its program's path and by the trace file in its environment, so that nobody else's is ever taken for it.
+/// goes by its program's path and by the trace file in its environment, so that nobody else's is ever taken for it. GUI
+/// thread.
 class CallProcess
 {
 public:
-    /// `strTraceFile` is the value of VOIPSDK_TRACE that the processes were started with.
+    /// `strTraceFile` is the value of TraceFolder::variable that the processes were started with.
     explicit CallProcess(const QString &strTraceFile);
 
     /// Process ids of those that run.

@@ -11,9 +11,11 @@ struct OutcomeRow
 };
 
 constexpr OutcomeRow outcomes[] = {
-    {21, QT_TRANSLATE_NOOP("CallRecord", "cancelled")}, {22, QT_TRANSLATE_NOOP("CallRecord", "failed")},
-    {24, QT_TRANSLATE_NOOP("CallRecord", "hung up")},   {25, QT_TRANSLATE_NOOP("CallRecord", "busy")},
-    {26, QT_TRANSLATE_NOOP("CallRecord", "rejected")},
+    {resultCancelled, QT_TRANSLATE_NOOP("CallRecord", "cancelled")},
+    {resultFailed, QT_TRANSLATE_NOOP("CallRecord", "failed")},
+    {resultHungUp, QT_TRANSLATE_NOOP("CallRecord", "hung up")},
+    {resultBusy, QT_TRANSLATE_NOOP("CallRecord", "busy")},
+    {resultRejected, QT_TRANSLATE_NOOP("CallRecord", "rejected")},
 };
 
 } // namespace

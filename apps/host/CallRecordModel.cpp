@@ -66,7 +66,6 @@ QString CallRecordModel::text(const CallRecord &record, int column) const
         return m_book.nameOf(record.uid);
     case Direction:
         return directionText(record);
-
     case Outcome:
         return outcomeWord(record.result);
     case Connected:

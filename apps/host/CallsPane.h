@@ -26,7 +26,9 @@ public:
     void setModel(CallRecordModel *pModel);
 
 signals:
+    /// The user wants to call the other party of a record again, by voice or video as it was then.
     void callWanted(const QString &strUid, bool bVideo);
+    /// The button for the conference centre was pressed.
     void centreWanted();
 
 protected:

@@ -30,7 +30,6 @@ constexpr Row rows[] = {
     {"30010010", "Sara Klein", "Invites, lines crossed", "Crossing the streams", true, Presence::Online, "17.jpg"},
 };
 
-constexpr const char *ownId = "30010000";
 constexpr const char *ownName = "小明";
 constexpr const char *ownAlternative = "You";
 constexpr const char *ownPhoto = "16.jpg";

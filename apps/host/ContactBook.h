@@ -31,7 +31,9 @@ public:
     /// Builds the records for the login domain `strDomain`.
     explicit ContactBook(const QString &strDomain);
 
-    /// User id of the signed-in user.
+    /// User id of the signed-in user, for tables.
+    static constexpr const char *ownId = "30010000";
+    /// The same as a text.
     static QString ownUid();
 
     /// Everybody but the own user, in the order of the list.

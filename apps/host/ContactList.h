@@ -30,6 +30,7 @@ public:
     void takeSkin();
 
 signals:
+    /// The user wants to call the contact of a row, by voice or video.
     void callClicked(const QString &strUid, bool bVideo);
     /// Up was pressed in the first row.
     void leftUpwards();

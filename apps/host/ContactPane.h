@@ -28,7 +28,9 @@ public:
     void takeSkin();
 
 signals:
+    /// The user wants to call `strUid`, of a contact or as it was typed, by voice or video.
     void callWanted(const QString &strUid, bool bVideo);
+    /// The button for a new conference was pressed.
     void conferenceWanted();
 
 protected:

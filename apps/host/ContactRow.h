@@ -31,6 +31,7 @@ public:
     void takeSkin();
 
 signals:
+    /// The user wants to call this contact, by voice or video.
     void callClicked(const QString &strUid, bool bVideo);
     /// The row, or a button in it, has got the focus.
     void entered();

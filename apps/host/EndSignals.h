@@ -15,6 +15,7 @@ public:
     Q_DISABLE_COPY(EndSignals)
 
 signals:
+    /// One of the signals has come.
     void endRequested();
 
 private:

@@ -16,6 +16,6 @@ public:
     /// Whether the command has a sentence of its own.
     static bool isKnown(EMsgId msgId);
 
-    /// Number of commands in the table.
+    /// Number of commands in the table. For tests.
     static int count();
 };

@@ -26,6 +26,6 @@ public:
     /// Whether the command is a question, answered within its delivery.
     static bool isQuestion(EMsgId msgId);
 
-    /// Number of commands in the table.
+    /// Number of commands in the table. For tests.
     static int count();
 };

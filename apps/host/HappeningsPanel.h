@@ -31,7 +31,7 @@ public:
 
     /// All rows, whatever the filter shows.
     const HappeningsModel &model() const { return m_model; }
-    /// Where the rows come from.
+    /// Where the rows come from. For tests.
     HappeningsFeed &feed() { return m_feed; }
 
 protected:

@@ -38,6 +38,7 @@ public:
     /// Tells the plug-in that the login came up or went down. The first command makes the plug-in start its call
     /// process, which may take up to a second.
     void setOnline(bool bOnline);
+    /// What setOnline() was told last; false before.
     bool isOnline() const { return m_bOnline; }
 
     /// Calls the user.
@@ -74,6 +75,7 @@ signals:
     /// what it carried, `reply` what a question carried back.
     void eventPassed(bool bFromPlugin, int iMsgId, const QString &strWords, const QString &strAnswer,
                      const QByteArray &payload, const QByteArray &reply);
+    /// The login came up or went down, by setOnline(). The plug-in is told after this.
     void onlineChanged(bool bOnline);
 
 private:

@@ -17,7 +17,6 @@
 
 namespace {
 
-const QString SILENT_KEY = QStringLiteral("/basicSetting/closeVoice");
 const QString RECEIVE_KEY = QStringLiteral("/msgSetting/transfilepath");
 const QString DATA_KEY = QStringLiteral("/msgSetting/msgfilepath");
 const QString LANGUAGE_KEY = QStringLiteral("/languageSetting/language");
@@ -56,7 +55,7 @@ bool HostSettings::isSilent()
 
 void HostSettings::setSilent(bool bSilent)
 {
-    writeForUser(SILENT_KEY, bSilent ? QStringLiteral("1") : QStringLiteral("0"));
+    writeForUser(QLatin1String(silentKey), bSilent ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
 QString HostSettings::dataFolder()

@@ -13,6 +13,9 @@ class HostSettings : public QObject
 public:
     using QObject::QObject;
 
+    /// The key of isSilent() in the user's file.
+    static constexpr const char *silentKey = "/basicSetting/closeVoice";
+
     /// The file of the signed-in user's settings.
     static QString userFile();
     /// The file of the settings that all users of this computer share.
@@ -20,6 +23,7 @@ public:
 
     /// Whether the ring of an incoming call is kept silent.
     static bool isSilent();
+    /// Writes it; the plug-in follows with the next call.
     static void setSilent(bool bSilent);
 
     /// The root of all users' folders from the next start on.
@@ -37,6 +41,7 @@ public:
 
     /// The language in the settings. At the very first start there is none, and one is chosen and written.
     static QString language();
+    /// Writes it and says so by languageChanged().
     void setLanguage(const QString &strLanguage);
 
     /// The name of the skin in the settings; the standard one where they name none that there is.
@@ -45,6 +50,8 @@ public:
     void setSkin(const QString &strName);
 
 signals:
+    /// setLanguage() has written this language; the windows are still to follow.
     void languageChanged(const QString &strLanguage);
+    /// The shared context has another skin.
     void skinChanged();
 };

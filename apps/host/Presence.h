@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QString>
 
-/// How a person can be reached, as the demo's windows show it by a dot and a word.
+/// How a person can be reached, as the demo's windows show it by a dot and a word. GUI thread.
 enum class Presence
 {
     Offline,

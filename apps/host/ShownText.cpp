@@ -1,5 +1,7 @@
 #include "ShownText.h"
 
+#include "WireTrace.h"
+
 #include <QCoreApplication>
 #include <QRegularExpression>
 
@@ -8,7 +10,6 @@ namespace {
 constexpr int shortestSecret = 4;
 // A program that registers under ever new values does not make every line slower.
 constexpr int mostSecrets = 16;
-const QChar lineFeedPicture(0x240A);
 
 QString mark()
 {

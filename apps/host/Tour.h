@@ -12,6 +12,9 @@ class QWidget;
 class TourHand;
 class TourWatch;
 
+/// How long the effects of a usual step may take, in milliseconds.
+inline constexpr int usualLimitMs = 15000;
+
 /// One thing that must be seen to happen in a step.
 struct TourCheck
 {
@@ -29,7 +32,7 @@ struct TourStep
     std::function<bool()> act;
     /// Each needs to be seen once, in any order.
     QList<TourCheck> checks;
-    int limitMs = 15000;
+    int limitMs = usualLimitMs;
     /// Name of the picture without ".png"; empty for none.
     QString picture = QString();
     /// The window to take; one that gives null fails the step.

@@ -1,6 +1,7 @@
 #include "TourCentre.h"
 
 #include "ContactBook.h"
+#include "TourCast.h"
 #include "TourScript.h"
 
 #include "plugin/EMsgId.h"
@@ -10,24 +11,14 @@
 #include <algorithm>
 #include <memory>
 
+using namespace TourCast;
+
 namespace {
 
 using Steps = QList<TourStep>;
 
-constexpr const char *own = "30010000";
-constexpr const char *busy = "30010002";
-constexpr const char *hangsUp = "30010006";
-constexpr const char *invites = "30010008";
-constexpr const char *comesBack = "30010009";
-constexpr int limitMs = 15000;
-
 constexpr const char *again = "再次发起";
 constexpr const char *remove = "删除";
-
-QString u(const char *strText)
-{
-    return QString::fromUtf8(strText);
-}
 
 /// The ids of the conferences in the user's store, newest first.
 QStringList storedIds()
@@ -45,19 +36,19 @@ Steps list(const TourScript &s)
         {u("Open the conference centre"),
          s.pressMain("btnCentre"),
          {s.asked(MSG_SHOW_VOICE_CONF), s.centreShows("lblVoipTipMsg", u("语音会议")), s.recordCount(2),
-          s.recordHas(own, ROLE_HEAD_RECT, u("the own head"))}},
+          s.recordHas(ContactBook::ownId, ROLE_HEAD_RECT, u("the own head"))}},
         {u("Rest the mouse on the creator's head: the plug-in asks the client for the signature card"),
          s.hoverRecordHead(invites),
          {s.told(MSG_SHOW_SIGN_LIST, QLatin1String(invites)), s.card("lblName", u("Ivan Petrov")),
           s.card("lblSignature", u("One meeting a day keeps the mail away"))},
-         limitMs,
+         usualLimitMs,
          u("centre-card"),
          {}},
         {u("Take the mouse away: the card goes"), s.leave(), {s.told(MSG_CLOSE_SIGN_LIST), s.cardGone()}},
         {u("Move over the own conference: its row shows the button for the details"),
-         s.hoverRecord(own),
-         {s.recordHas(own, ROLE_REMOVE_RECT, u("the button for the details"))},
-         limitMs,
+         s.hoverRecord(ContactBook::ownId),
+         {s.recordHas(ContactBook::ownId, ROLE_REMOVE_RECT, u("the button for the details"))},
+         usualLimitMs,
          u("centre-list"),
          s.centre()},
     };
@@ -67,10 +58,10 @@ Steps detail(const TourScript &s)
 {
     return {
         {u("Click on it"),
-         s.pressRecord(own, ROLE_REMOVE_RECT),
+         s.pressRecord(ContactBook::ownId, ROLE_REMOVE_RECT),
          {s.centreShows("CreatName", u("小明")), s.centreShows("lblCreateTime", u("【语音会议】")),
           s.centreShows("lblTableViewTitle", u("参与人员")), s.detailCount(7)},
-         limitMs,
+         usualLimitMs,
          u("centre-detail"),
          s.centre()},
         {u("Rest the mouse on the head of 林涛"),
@@ -86,14 +77,15 @@ Steps askAgain(const TourScript &s, const QString &strPicture)
 {
     return {
         {u("Press the right button on the own conference"),
-         s.rightPressRecord(own),
+         s.rightPressRecord(ContactBook::ownId),
          {s.menuOffers({u(again), u(remove)})},
-         limitMs,
+         usualLimitMs,
          strPicture,
          strPicture.isEmpty() ? TourScript::Window() : s.menu()},
         {u("Choose to call it again: the client asks who shall be called, without oneself"),
          s.choose(again),
-         {s.told(MSG_CREATE_VOICE_CONFERENCE, QLatin1String(own)), s.pickerSays("btnInvite", u("Invite (6)"))}},
+         {s.told(MSG_CREATE_VOICE_CONFERENCE, QLatin1String(ContactBook::ownId)),
+          s.pickerSays("btnInvite", u("Invite (6)"))}},
     };
 }
 
@@ -129,7 +121,7 @@ Steps removeNewest(const TourScript &s)
     return {
         look,
         {u("Press the right button on the newest conference"),
-         s.rightPressRecord(own),
+         s.rightPressRecord(ContactBook::ownId),
          {s.menuOffers({u(again), u(remove)})}},
         {u("Delete it"), s.choose(remove), {s.recordCount(2), removed}},
     };

@@ -1,6 +1,7 @@
 #include "TourConference.h"
 
 #include "ContactBook.h"
+#include "TourCast.h"
 #include "TourCentre.h"
 #include "TourScript.h"
 #include "TourWatch.h"
@@ -9,25 +10,13 @@
 #include "store/DBConfInfo.h"
 #include "ui/MemberRoles.h"
 
+using namespace TourCast;
+
 namespace {
 
 using Steps = QList<TourStep>;
 
-constexpr const char *answers = "30010001";
-constexpr const char *busy = "30010002";
-constexpr const char *rejects = "30010003";
-constexpr const char *silent = "30010004";
-constexpr const char *fails = "30010005";
-constexpr const char *hangsUp = "30010006";
-constexpr const char *invites = "30010008";
-constexpr const char *comesBack = "30010009";
-constexpr int limitMs = 15000;
 constexpr int longLimitMs = 40000;
-
-QString u(const char *strText)
-{
-    return QString::fromUtf8(strText);
-}
 
 /// A list with this one text, as it stands on the wire.
 QString only(const char *strUid)
@@ -44,7 +33,7 @@ Steps start(const TourScript &s)
         {u("Pick six people"),
          s.pick({answers, busy, rejects, silent, fails, hangsUp}),
          {s.pickerSays("btnInvite", u("Invite (6)"))},
-         limitMs,
+         usualLimitMs,
          u("conference-picker"),
          s.picker()},
         {u("Invite them: some join, one is busy, one rejects, one never answers, one cannot be reached"),
@@ -58,7 +47,7 @@ Steps start(const TourScript &s)
         {u("Wait for Anna Novak to leave"),
          {},
          {s.code(13, "a member has left"), s.member(hangsUp, "Anna Novak", ConferenceHungUp)},
-         limitMs,
+         usualLimitMs,
          u("conference"),
          s.callWindow()},
     };
@@ -71,7 +60,7 @@ Steps control(const TourScript &s)
          s.pressCallWindow("btnMuteAll"),
          {s.command("ControlConf", u("\"param1\":\"mute\",\"param2\":\"non_moderator\"")),
           s.happened(u("muted now: [30010001]"))},
-         limitMs,
+         usualLimitMs,
          u("conference-muted"),
          s.callWindow()},
         {u("Let 李雷 speak again, by the button of the row"),
@@ -95,7 +84,7 @@ Steps addMore(const TourScript &s)
         {u("Ask for more members: the plug-in asks the client, which lets one pick people"),
          s.pressCallWindow("btnAddMember"),
          {s.pickerSays("lblAsked", u("Already in the conference: Maria Silva, 王芳, Tom Baker, 赵强, Anna Novak"))},
-         limitMs,
+         usualLimitMs,
          u("conference-more"),
          s.picker()},
         {u("Pick 林涛"), s.pick({comesBack}), {s.pickerSays("btnInvite", u("Invite (1)"))}},
@@ -162,7 +151,7 @@ Steps invited(const TourScript &s)
                 {s.command("AcceptConf"), s.promptGone(), s.code(18, "connected"),
                  s.member(invites, "Ivan Petrov", ConferenceConnected), s.member(answers, "李雷", ConferenceConnected),
                  s.clockRuns()},
-                limitMs,
+                usualLimitMs,
                 u("conference-invited"),
                 s.callWindow()},
                {u("Wait for Ivan Petrov to end it"), {}, {s.code(7, "ended"), s.windowGone()}, longLimitMs},

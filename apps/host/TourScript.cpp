@@ -1,7 +1,7 @@
 #include "TourScript.h"
 
 #include "CallProcess.h"
-#include "EventWords.h"
+#include "CallRecord.h"
 #include "MainWindow.h"
 #include "TourHand.h"
 #include "TourWatch.h"
@@ -29,6 +29,14 @@ WindowProbe::Row recordRow(const char *strUid)
 WindowProbe::Row detailCell(const char *strUid)
 {
     return {"tableView", ROLE_USER_ID, QString::fromLatin1(strUid)};
+}
+
+/// The text beside a member's name; a status that the list has no text for is its number.
+QString statusWord(int iStatus)
+{
+    const auto *row = std::find_if(cConferenceStatusTable.begin(), cConferenceStatusTable.end(),
+                                   [iStatus](const ConferenceStatusRow &entry) { return entry.iStatus == iStatus; });
+    return row != cConferenceStatusTable.end() ? QString::fromUtf8(row->pText) : QString::number(iStatus);
 }
 
 } // namespace
@@ -288,13 +296,10 @@ TourCheck TourScript::pickerGone()
 
 TourCheck TourScript::member(const char *strUid, const char *strName, int iStatus)
 {
-    const auto *row = std::find_if(cConferenceStatusTable.begin(), cConferenceStatusTable.end(),
-                                   [iStatus](const ConferenceStatusRow &entry) { return entry.iStatus == iStatus; });
-    return {
-        QStringLiteral("the member list shows %1: %2").arg(QString::fromUtf8(strName), QString::fromUtf8(row->pText)),
-        [strUid, iStatus] {
-            return WindowProbe::rowData(WindowProbe::callWindow(), memberRow(strUid), ROLE_CALL_STATUS) == iStatus;
-        }};
+    return {QStringLiteral("the member list shows %1: %2").arg(QString::fromUtf8(strName), statusWord(iStatus)),
+            [strUid, iStatus] {
+                return WindowProbe::rowData(WindowProbe::callWindow(), memberRow(strUid), ROLE_CALL_STATUS) == iStatus;
+            }};
 }
 
 TourCheck TourScript::memberGone(const char *strUid, const char *strName)

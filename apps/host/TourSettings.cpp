@@ -2,22 +2,19 @@
 
 #include "HostSettings.h"
 #include "MainWindow.h"
+#include "TourCast.h"
 #include "TourScript.h"
-#include "WindowProbe.h"
 
 #include "common/CommonFun.h"
 
-namespace {
+using namespace TourCast;
 
-QString u(const char *strText)
-{
-    return QString::fromUtf8(strText);
-}
+namespace {
 
 TourCheck silentInFile(const char *strValue)
 {
     return {QStringLiteral("the user's settings file says closeVoice=%1").arg(QLatin1String(strValue)), [strValue] {
-                return CommonFun::getConfigValue(HostSettings::userFile(), QStringLiteral("/basicSetting/closeVoice"))
+                return CommonFun::getConfigValue(HostSettings::userFile(), QLatin1String(HostSettings::silentKey))
                            .toString() == QLatin1String(strValue);
             }};
 }
@@ -36,13 +33,13 @@ QList<TourStep> searchSteps(const TourStage &stage)
     return {
         {u("Search the contacts by the initials of a Chinese name"),
          s.typeInto("editSearch", u("ll")),
-         {s.mainShows("30010001", true), s.mainShows("30010002", false)}},
+         {s.mainShows(answers, true), s.mainShows(busy, false)}},
         {u("Search for somebody who is not there"),
          s.typeInto("editSearch", u("zz")),
          {s.mainSays("lblNoMatch", u("No contact matches"))}},
         {u("Empty the search: everybody is there again"),
          s.pressMain("btnClearSearch"),
-         {s.mainShows("30010001", true), s.mainShows("30010010", true)}},
+         {s.mainShows(answers, true), s.mainShows(crosses, true)}},
     };
 }
 
@@ -57,7 +54,7 @@ QList<TourStep> settingsSteps(const TourStage &stage)
         {u("Open the settings"),
          s.pressMain("btnSettings"),
          {{u("the settings page is shown"), pageShown}},
-         15000,
+         usualLimitMs,
          u("settings"),
          page},
         {u("Keep the ring silent"), s.pressSettings(u("boxSilent")), {silentInFile("1")}},

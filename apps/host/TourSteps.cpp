@@ -1,10 +1,13 @@
 #include "TourSteps.h"
 
 #include "CallProcess.h"
+#include "CallRecord.h"
+#include "ContactBook.h"
 #include "DebugChannel.h"
 #include "HappeningsPanel.h"
 #include "HostSession.h"
 #include "MainWindow.h"
+#include "TourCast.h"
 #include "TourConference.h"
 #include "TourScript.h"
 #include "TourSettings.h"
@@ -18,21 +21,9 @@
 #include <algorithm>
 #include <iterator>
 
+using namespace TourCast;
+
 namespace {
-
-constexpr int resultCancelled = 21;
-constexpr int resultFailed = 22;
-constexpr int resultHungUp = 24;
-constexpr int resultBusy = 25;
-constexpr int resultRejected = 26;
-
-constexpr const char *answers = "30010001";
-constexpr const char *busy = "30010002";
-constexpr const char *rejects = "30010003";
-constexpr const char *silent = "30010004";
-constexpr const char *fails = "30010005";
-constexpr const char *hangsUp = "30010006";
-constexpr const char *callsBack = "30010007";
 
 // The texts of the windows, as a person sees them.
 constexpr const char *voiceTitle = "语音通话";
@@ -42,21 +33,16 @@ constexpr const char *lineInUse = "You are in a call already. Please end it firs
 constexpr const char *noProcess = "音频通话初始化失败，请尝试重启客户端解决";
 constexpr const char *sureToClose = "Do you want to end this call?";
 
-QString u(const char *strText)
-{
-    return QString::fromUtf8(strText);
-}
-
 QString param1(const char *strUid)
 {
     return QStringLiteral("\"param1\":\"%1\"").arg(QLatin1String(strUid));
 }
 
-/// The call window's signal_ClearCallData is connected to an ordinary method, which Qt refuses; that it never takes
-/// effect is required. Qt says it in two lines. What the X server answers about windows that have just gone, of other
-/// programs too, or that it cannot give the focus at this moment, is no warning of this program's. The message dialog's
-/// edit fields keep a menu sheet with an unfilled number, which Qt refuses with a line for each field; that is required
-/// too.
+/// The call window's signal_ClearCallData is connected to an ordinary method, which Qt refuses in two lines: the window
+/// never clears the call. What the X server answers about windows that have just gone, of other programs too, or that
+/// it cannot give the focus at this moment, is no warning of this program's. The message dialog's edit fields keep a
+/// menu sheet with an unfilled number, which Qt refuses with a line for each field: without it their menus would look
+/// different.
 TourCheck onlyTheKnownWarning()
 {
     return {u("Qt has warned of nothing but the one connection that must not take effect"), [] {
@@ -95,7 +81,7 @@ Steps signIn(const TourScript &s, const TourStage &stage)
         {u("Sign in"),
          s.pressMain("btnOnline"),
          {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=yes")), s.processes(1),
-          s.command("RegeditUser", param1("30010000")), s.command("RegeditUser", u("\"param4\":false"))},
+          s.command("RegeditUser", param1(ContactBook::ownId)), s.command("RegeditUser", u("\"param4\":false"))},
          30000,
          u("demo-window"),
          s.mainWindow()},
@@ -121,7 +107,7 @@ Steps cancel(const TourScript &s)
          s.pressContact(silent, "btnCall"),
          {s.asked(MSG_CALL_SINGLE_USER), s.command("CallUser", param1(silent)), s.shows("lblVoipTipMsg", u(voiceTitle)),
           s.shows("lblUserName", u("Tom Baker(Never answers)")), s.shows("lblStatus", u(calling))},
-         15000,
+         usualLimitMs,
          u("call-outgoing"),
          s.callWindow()},
         {u("Cancel it"),
@@ -136,7 +122,7 @@ Steps call(const TourScript &s, const char *strTitle, const QString &strPicture 
              s.pressContact(answers, "btnCall"),
              {s.command("CallUser", param1(answers)), s.code(18, "connected"), s.shows("lblStatus", u(connected)),
               s.clockRuns()},
-             15000,
+             usualLimitMs,
              strPicture,
              strPicture.isEmpty() ? TourScript::Window() : s.callWindow()}};
 }
@@ -152,14 +138,19 @@ Steps hangUp(const TourScript &s, const char *strTitle)
 Steps duringCall(const TourScript &s)
 {
     return {
-        {u("The demo with the call on the screen"), {}, {s.shows("lblStatus", u(connected))}, 15000, u("desktop"), {}},
+        {u("The demo with the call on the screen"),
+         {},
+         {s.shows("lblStatus", u(connected))},
+         usualLimitMs,
+         u("desktop"),
+         {}},
         {u("Switch the microphone off"),
          s.pressCallWindow("btnMic"),
          {s.command("SetMicEnable", u("\"param1\":false"))}},
         {u("Try a second call meanwhile"),
          s.pressContact(busy, "btnCall"),
          {s.boxSays(u(lineInUse))},
-         15000,
+         usualLimitMs,
          u("message"),
          s.messageBox()},
         {u("Close the message; the call goes on"),
@@ -175,7 +166,7 @@ Steps video(const TourScript &s, const TourStage &stage)
          s.pressContact(answers, "btnVideo"),
          {s.command("CallUser", u("\"param2\":true")), s.code(18, "connected"),
           s.shows("lblVoipTipMsg", u("与李雷(Answers)(30010001)通话中")), s.clockRuns()},
-         15000,
+         usualLimitMs,
          u("call-video"),
          s.callWindow()},
         {u("Ask the plug-in whether it is a video call: it always says no"),
@@ -184,7 +175,7 @@ Steps video(const TourScript &s, const TourStage &stage)
         {u("Close the call window: it asks first"),
          s.pressCallWindow("btnClose"),
          {s.boxSays(u(sureToClose))},
-         15000,
+         usualLimitMs,
          u("close-question"),
          s.messageBox()},
         {u("Confirm"),
@@ -228,7 +219,7 @@ Steps incoming(const TourScript &s)
                 {s.asked(MSG_RESPONSE_VOIP_REQUEST, u("accept=yes")), s.command("AcceptCall"), s.promptGone(),
                  s.shows("lblUserName", u("韩梅梅(Calls you back)")), s.code(18, "connected"),
                  s.shows("lblStatus", u(connected)), s.clockRuns()},
-                15000,
+                usualLimitMs,
                 u("call-incoming"),
                 s.callWindow()},
                {u("Wait for the other side to hang up"),
@@ -250,10 +241,11 @@ Steps offline(const TourScript &s)
                {u("Lose the login during the call"),
                 s.pressMain("btnOnline"),
                 {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=no")), s.order("HangUpCall", "UnReg"),
-                 s.command("UnReg", param1("30010000")), s.record(resultHungUp, true, true), s.windowGone()}},
+                 s.command("UnReg", param1(ContactBook::ownId)), s.record(resultHungUp, true, true), s.windowGone()}},
                {u("Sign in again"),
                 s.pressMain("btnOnline"),
-                {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=yes")), s.command("RegeditUser", param1("30010000"))}},
+                {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=yes")),
+                 s.command("RegeditUser", param1(ContactBook::ownId))}},
            };
 }
 
@@ -270,13 +262,13 @@ Steps killed(const TourScript &s, const TourStage &stage)
                {u("Call 李雷: refused while there is no call process"),
                 s.pressContact(answers, "btnCall"),
                 {s.boxSays(u(noProcess))},
-                15000,
+                usualLimitMs,
                 u("message-no-process"),
                 s.messageBox()},
                {u("Close the message"), s.pressBox("closeBtn"), {s.boxGone()}},
                {u("Start the call process again: the plug-in finds it by itself and registers the user"),
                 [process = &stage.process] { return process->start(); },
-                {s.processes(1), s.command("RegeditUser", param1("30010000"))},
+                {s.processes(1), s.command("RegeditUser", param1(ContactBook::ownId))},
                 60000},
            };
 }
@@ -297,13 +289,13 @@ Steps happenings(const TourScript &s, const TourStage &stage)
         {u("Look at what has happened so far"),
          s.pressMain("happeningsButton"),
          {s.mainShows("HappeningsPanel", true)},
-         15000,
+         usualLimitMs,
          u("happenings"),
          s.mainWindow()},
         {u("Look for the conferences in it"),
          s.typeInto("editFilter", u("conf")),
          {onlyMatchesShown(stage)},
-         15000,
+         usualLimitMs,
          u("happenings-conference"),
          s.mainWindow()},
         {u("Close that panel"), s.pressMain("happeningsButton"), {s.mainShows("HappeningsPanel", false)}},

@@ -2,12 +2,6 @@
 
 #include <QFile>
 
-namespace {
-
-constexpr const char *variable = "VOIPSDK_TRACE";
-
-} // namespace
-
 TraceFolder::TraceFolder()
 {
     if (qEnvironmentVariableIsEmpty(variable) && m_folder.isValid()) {

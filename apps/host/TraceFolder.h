@@ -8,6 +8,9 @@
 class TraceFolder
 {
 public:
+    /// The variable of the environment in which the call process looks for its trace's file.
+    static constexpr const char *variable = "VOIPSDK_TRACE";
+
     TraceFolder();
 
     /// The file that the environment names; empty when there is none to follow.

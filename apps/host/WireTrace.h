@@ -1,8 +1,12 @@
 #pragma once
 
 #include <QByteArray>
+#include <QChar>
 #include <QList>
 #include <QString>
+
+/// What stands in the trace for a line feed within one write.
+inline constexpr QChar lineFeedPicture(0x240A);
 
 /// One line of the call process's trace.
 struct WireLine

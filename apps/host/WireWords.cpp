@@ -15,7 +15,6 @@ namespace {
 
 constexpr const char *context = "WireWords";
 constexpr int mostParameters = 6;
-const QChar lineFeedPicture(0x240A);
 
 // The values are param1, param2...
 struct CommandRow

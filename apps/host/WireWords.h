@@ -30,10 +30,10 @@ public:
     /// The registration value in the line of a command; empty when there is none.
     static QString secretOf(const QString &strText);
 
-    /// Whether the tables have the command or the notification.
+    /// Whether the tables have the command or the notification. For tests.
     static bool hasCommand(const QString &strName);
     static bool hasNotification(int iCode);
-    /// Number of rows.
+    /// Number of rows. For tests.
     static int commandCount();
     static int notificationCount();
 };

@@ -53,7 +53,7 @@ QString prepareTour(const QString &strFolder)
     QString traceFile = strFolder + QStringLiteral("/wire.txt");
     QDir().mkpath(strFolder);
     QFile::remove(traceFile);
-    qputenv("VOIPSDK_TRACE", QFile::encodeName(traceFile));
+    qputenv(TraceFolder::variable, QFile::encodeName(traceFile));
     qputenv("VOIPSDK_SPEED", tourSpeed);
     return traceFile;
 }

@@ -32,6 +32,7 @@ void tst_CheckOptions::recordTakesAProgramWithItsOwnOptions()
     QVERIFY(!options.inPlace);
     QCOMPARE(options.output, QString("run.scn"));
     QCOMPARE(options.socketName, QString("VoipSDK"));
+    QCOMPARE(options.patience, 10.0);
     QCOMPARE(options.program, QString("peer"));
     QCOMPARE(options.arguments, (QStringList{"--speed", "10"}));
 }

@@ -274,8 +274,8 @@ void tst_CallProcess::helpIsPrinted()
     peer.start({QStringLiteral("--help")});
     QCOMPARE(peer.exitCode(), 0);
     const QByteArray text = peer.process().readAllStandardOutput();
-    for (const char *option :
-         {"--scenario", "--trace", "--speed", "--idle-seconds", "--socket-name", "VOIPSDK_TRACE"}) {
+    for (const char *option : {"--scenario", "--trace", "--speed", "--idle-seconds", "--socket-name", "VOIPSDK_TRACE",
+                               "(600)", "(VoipSDK)"}) {
         QVERIFY2(text.contains(option), option);
     }
 }

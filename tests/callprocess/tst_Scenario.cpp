@@ -11,6 +11,7 @@ private slots:
     void everyStatementIsRead();
     void commentsAndBlankLinesAreSkipped();
     void quotesAndEscapes();
+    void contentMayHoldNul();
     void joinGathersItsLines();
     void blocksNest();
     void expectationMatching_data();
@@ -100,6 +101,14 @@ void tst_Scenario::quotesAndEscapes()
     QCOMPARE(scenario.statements.at(0).bytes, QByteArray("\n\r\t\0\\\"\xFF x", 9));
     QCOMPARE(scenario.statements.at(1).bytes, QByteArray("a \\n \"b\""));
     QCOMPARE(scenario.statements.at(2).bytes, QByteArray("{\"a\":\"b\"}"));
+}
+
+void tst_Scenario::contentMayHoldNul()
+{
+    const Scenario scenario = good("send 999 \"呼\\0叫\"\n");
+    QCOMPARE(scenario.statements.size(), 1);
+    QCOMPARE(scenario.statements.at(0).bytes,
+             notificationLine(999, QStringLiteral("呼") + QChar(0) + QStringLiteral("叫")));
 }
 
 void tst_Scenario::joinGathersItsLines()

@@ -9,6 +9,7 @@
 #include "WidgetsPage.h"
 
 #include "common/IconGlyphs.h"
+#include "model/AvatarFiles.h"
 #include "widgets/BaseFormEx.h"
 #include "widgets/ErrorMessage.h"
 #include "widgets/HotLabel.h"
@@ -36,6 +37,7 @@ private slots:
     void initTestCase();
     void pagesAreFoundByNameInAnyCase();
     void windowOpensAtThePageAskedFor();
+    void headImagesLieInAFolderOfTheirOwn();
     void everyGlyphStandsWithItsCodePointInEachSize();
     void everyKindOfWidgetIsShown();
     void everyPageOfTheDialogHasAMode();
@@ -79,6 +81,13 @@ void tst_GalleryPages::windowOpensAtThePageAskedFor()
     const auto *tabs = window.findChild<QTabWidget *>(QStringLiteral("tabs"));
     QCOMPARE(tabs->count(), 4);
     QCOMPARE(tabs->tabText(tabs->currentIndex()), QStringLiteral("Dialogs"));
+}
+
+void tst_GalleryPages::headImagesLieInAFolderOfTheirOwn()
+{
+    const GalleryUser user;
+    QVERIFY2(AvatarFiles::headImageFolder().endsWith(QStringLiteral("/heads/")),
+             qPrintable(AvatarFiles::headImageFolder()));
 }
 
 void tst_GalleryPages::everyGlyphStandsWithItsCodePointInEachSize()
