@@ -21,10 +21,8 @@ CSChannelData CSChannelData::fromJson(const Json::Value &value)
     channel.m_iVersion = value["version"].asInt64();
     channel.m_bAllowClose = value["agentCloseSession"].asBool();
     channel.m_bAllowOpen = value["agentOpenSession"].asBool();
-    const Json::Value &groups = value["workgroupList"];
-    for (Json::ArrayIndex i = 0; i < groups.size(); ++i) {
-        const Json::Value &group = groups[i];
+    JsonMember::forEachItem(value["workgroupList"], [&channel](const Json::Value &group) {
         channel.m_listWorkGroup.append({text(group, "id"), text(group, "name"), channel.m_strChannelId});
-    }
+    });
     return channel;
 }

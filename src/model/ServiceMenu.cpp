@@ -23,10 +23,10 @@ QList<ServiceMenu> ServiceMenu::parseList(const Json::Value &value)
 {
     QList<ServiceMenu> listMenu;
     listMenu.reserve(static_cast<int>(value.size()));
-    for (Json::ArrayIndex i = 0; i < value.size(); ++i) {
+    JsonMember::forEachItem(value, [&listMenu](const Json::Value &child) {
         ServiceMenu menu;
-        menu.parseMenu(value[i]);
+        menu.parseMenu(child);
         listMenu.append(menu);
-    }
+    });
     return listMenu;
 }
