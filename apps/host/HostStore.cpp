@@ -2,7 +2,6 @@
 
 #include "common/CLogManger.h"
 #include "store/DB.h"
-#include "store/StoreFiles.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -114,13 +113,13 @@ bool HostStore::open(const QString &strUid, const QString &strBase)
     close();
     m_reports.clear();
     const QString folder = QDir(strBase + QLatin1Char('/') + strUid).absolutePath();
-    const QString file = StoreFiles::current(folder);
+    const QString file = folder + QStringLiteral("/localData.db");
     if (!isSound(folder) && !putAside(folder, file)) {
         return false;
     }
     if (DB::isNeedUpdate(folder)) {
         report(tr("%1 is the store of an older client. It stays as it is; what it holds is not shown here.")
-                   .arg(StoreFiles::older(folder)));
+                   .arg(folder + QStringLiteral("/data.db")));
     }
     m_bOpen = DB::initByUserName(strUid, strBase, true);
     if (!m_bOpen) {
