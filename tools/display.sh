@@ -68,7 +68,8 @@ start_sound() {
         pulseaudio -n --daemonize=no --exit-idle-time=-1 --use-pid-file=no --disable-shm=yes \
         -L "module-native-protocol-unix socket=$voip_box/pulse auth-anonymous=1" \
         -L "module-null-sink sink_name=null_sink" -L "module-null-source source_name=null_source"
-    if ! voip_wait_for 20 test -S "$voip_box/pulse"; then
+    # The socket stands a moment before the server listens at it, and a client that is refused then goes without sound.
+    if ! voip_wait_for 20 python3 -c 'import socket, sys; socket.socket(socket.AF_UNIX).connect(sys.argv[1])' "$voip_box/pulse"; then
         echo "The sound server did not start:" >&2
         cat "$voip_box/pulse.log" >&2
         return 1
