@@ -7,6 +7,7 @@
 
 #include "common/CustomLogData.h"
 #include "common/LogLocation.h"
+#include "common/LogUtils.h" // its separators are for every source that logs
 
 #include <QObject>
 #include <QTextStream>

@@ -12,8 +12,8 @@ namespace {
 
 const QString checkConnection = QStringLiteral("my_sql_db");
 
-// Whole error texts of an older SQLite and its driver in Chinese. Damage in other words is left to the quick check, on
-// purpose: it also has to pass what a single statement stumbles over.
+// Whole error texts of an older SQLite with its driver in Chinese. The same failure in other words is deliberately left
+// to the quick check's verdict, which hosts rely on.
 const QString duplicateText = QStringLiteral("column id is not unique 不能获取行");
 const QString malformedText = QStringLiteral("database disk image is malformed 不能获取行");
 
