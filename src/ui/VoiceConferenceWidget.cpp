@@ -18,8 +18,6 @@ constexpr int cCloseGlyphPixels = 8;
 constexpr int cCloseStyleType = 3;
 constexpr QSize cCreateIconSize(30, 30);
 constexpr int cCreateGlyphPixels = 16;
-// As much of the window as a drag leaves on the screen below.
-constexpr int cLeastVisible = 10;
 
 // Pages of the stack, in the form's order.
 constexpr int cListPage = 0;
@@ -193,12 +191,8 @@ void CVoiceConferenceWidget::mouseMoveEvent(QMouseEvent *event)
     // Deliberate: the offset alone tells whether a drag is on, so one from the window's very corner moves nothing.
     if (m_dragOffset.isNull())
         return;
-    QPoint corner = event->globalPos() - m_dragOffset;
-    if (corner.isNull())
-        return;
-    const int iLowest = CommonFun::workArea().height() - ADAPT_DPI_INT(cLeastVisible);
-    corner.setY(qMin(corner.y(), iLowest));
-    move(corner);
+    if (event->globalPos() != m_dragOffset)
+        move(EdgeDrag::moved(event->globalPos(), m_dragOffset, CommonFun::workArea()));
 }
 
 void CVoiceConferenceWidget::mouseReleaseEvent(QMouseEvent *event)

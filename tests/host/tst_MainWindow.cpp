@@ -51,6 +51,18 @@ private slots:
     void damagedStoreIsToldBelowTheHeader();
 
 private:
+    /// Cancels the picker as soon as it is open, with what it asked left in `asked`.
+    void cancelThePicker(QTimer &timer, QString &asked)
+    {
+        connect(&timer, &QTimer::timeout, this, [&timer, &asked] {
+            if (WindowProbe::memberPicker() != nullptr) {
+                asked = WindowProbe::text(WindowProbe::memberPicker(), "lblAsked");
+                timer.stop();
+                pressButton(WindowProbe::memberPicker(), "btnCancel");
+            }
+        });
+        timer.start(10);
+    }
     void deliver(EMsgId msgId, const QString &receiver, const QByteArray &payload)
     {
         BaseEvent event(msgId, voipPluginId(), receiver, false, payload);
@@ -253,14 +265,7 @@ void tst_MainWindow::conferenceButtonOpensThePicker()
 {
     QString asked;
     QTimer timer;
-    connect(&timer, &QTimer::timeout, this, [&] {
-        if (WindowProbe::memberPicker() != nullptr) {
-            asked = WindowProbe::text(WindowProbe::memberPicker(), "lblAsked");
-            timer.stop();
-            pressButton(WindowProbe::memberPicker(), "btnCancel");
-        }
-    });
-    timer.start(10);
+    cancelThePicker(timer, asked);
     QVERIFY(pressButton(m_pWindow.get(), "btnConference"));
     QCOMPARE(asked, QStringLiteral("Whom to call together?"));
     QVERIFY(WindowProbe::memberPicker() == nullptr);
@@ -284,14 +289,7 @@ void tst_MainWindow::declinedConferenceIsNotStarted()
     const QString before = m_pWindow->statusBar()->currentMessage();
     QString asked;
     QTimer timer;
-    connect(&timer, &QTimer::timeout, this, [&] {
-        if (WindowProbe::memberPicker() != nullptr) {
-            asked = WindowProbe::text(WindowProbe::memberPicker(), "lblAsked");
-            timer.stop();
-            pressButton(WindowProbe::memberPicker(), "btnCancel");
-        }
-    });
-    timer.start(10);
+    cancelThePicker(timer, asked);
     deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(),
             packPayload(QStringList{QStringLiteral("30010001@example.org"), QStringLiteral("30010000@example.org"),
                                     QStringLiteral("30010002@example.org")}));

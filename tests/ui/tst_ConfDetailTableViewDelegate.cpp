@@ -3,6 +3,7 @@
 
 #include "ContactFixture.h"
 #include "PaintCost.h"
+#include "PaintedPicture.h"
 #include "ShippedFiles.h"
 #include "common/BuiltInPictures.h"
 #include "ui/ConfDetailMemberTableView.h"
@@ -98,31 +99,22 @@ private:
     QImage pictureByNumbers() const
     {
         const QWidget *const pPort = m_pGrid->viewport();
-        QPixmap numbers(pPort->size() * pPort->devicePixelRatioF());
-        numbers.setDevicePixelRatio(pPort->devicePixelRatioF());
-        numbers.fill(pPort->palette().color(pPort->backgroundRole()));
-        QPainter painter(&numbers);
-        painter.setPen(pPort->palette().color(pPort->foregroundRole()));
-        const QAbstractItemModel &model = *m_pGrid->model();
-        for (int i = 0; i < model.rowCount() * model.columnCount(); ++i) {
-            const QModelIndex index = model.index(i / model.columnCount(), i % model.columnCount());
-            if (m_pGrid->visualRect(index).intersects(pPort->rect()))
-                paintByNumbers(painter, m_pGrid->visualRect(index), index);
-        }
-        painter.end();
-        return numbers.toImage().convertToFormat(QImage::Format_RGB32);
+        return paintedLike(*pPort, [&](QPainter &painter) {
+            const QAbstractItemModel &model = *m_pGrid->model();
+            for (int i = 0; i < model.rowCount() * model.columnCount(); ++i) {
+                const QModelIndex index = model.index(i / model.columnCount(), i % model.columnCount());
+                if (m_pGrid->visualRect(index).intersects(pPort->rect()))
+                    paintByNumbers(painter, m_pGrid->visualRect(index), index);
+            }
+        });
     }
-    /// Both pictures are left behind where VOIP_PICTURES names a folder.
+    /// Both pictures are left behind for a person to look at.
     void compareWithNumbers(const char *pName)
     {
         const QImage actual = picture();
         const QImage expected = pictureByNumbers();
-        const QString strFolder = qEnvironmentVariable("VOIP_PICTURES");
-        if (!strFolder.isEmpty()) {
-            const QString strRatio = QStringLiteral("@%1x.png").arg(actual.devicePixelRatio());
-            actual.save(strFolder + QLatin1Char('/') + QLatin1String(pName) + strRatio);
-            expected.save(strFolder + QLatin1Char('/') + QLatin1String(pName) + QStringLiteral("-numbers") + strRatio);
-        }
+        leavePicture(actual, QLatin1String(pName));
+        leavePicture(expected, QLatin1String(pName) + QStringLiteral("-numbers"));
         QCOMPARE(actual, expected);
     }
 

@@ -1,6 +1,7 @@
 // The conference detail page: its widgets, and what it shows of a record.
 
 #include "ContactFixture.h"
+#include "PaintedPicture.h"
 #include "ShippedFiles.h"
 #include "fakes/FakeHost.h"
 #include "plugin/VoipManageMessageProcess.h"
@@ -46,7 +47,7 @@ private:
     {
         m_pContacts->addContact(strUid, ContactFixture::card(strName, {}, strPhoto));
     }
-    /// The page as wide as the conference centre lays it out, on white. Left behind where VOIP_PICTURES names a folder.
+    /// The page as wide as the conference centre lays it out, on white. Left behind for a person to look at.
     QImage picture(const char *pName)
     {
         QPalette palette = m_pPage->palette();
@@ -58,10 +59,7 @@ private:
             return {};
         QCoreApplication::processEvents();
         const QImage image = m_pPage->grab().toImage().convertToFormat(QImage::Format_RGB32);
-        const QString strFolder = qEnvironmentVariable("VOIP_PICTURES");
-        if (!strFolder.isEmpty())
-            image.save(
-                QStringLiteral("%1/%2@%3x.png").arg(strFolder, QLatin1String(pName)).arg(image.devicePixelRatio()));
+        leavePicture(image, QLatin1String(pName));
         return image;
     }
 

@@ -2,6 +2,7 @@
 // leaves in the item.
 
 #include "HistoryListTest.h"
+#include "PaintedPicture.h"
 
 #include <QBitmap>
 #include <QPainter>
@@ -94,13 +95,10 @@ private:
     /// The list as the numbers tell it, the row with the cursor hovered.
     QImage byNumbers(int iHovered) const
     {
-        QPixmap canvas = m_pList->viewport()->grab();
-        canvas.fill(m_pList->palette().color(QPalette::Base));
-        QPainter painter(&canvas);
-        for (int i = 0; i < m_pList->model()->rowCount(); ++i)
-            paintByNumbers(painter, row(i), index(i), i == iHovered);
-        painter.end();
-        return canvas.toImage().convertToFormat(QImage::Format_RGB32);
+        return paintedLike(*m_pList->viewport(), [&](QPainter &painter) {
+            for (int i = 0; i < m_pList->model()->rowCount(); ++i)
+                paintByNumbers(painter, row(i), index(i), i == iHovered);
+        });
     }
 
     static ConfInfoData longRecord(const QString &strConfID, bool bConnected)
@@ -149,9 +147,7 @@ void tst_ConferenceInfoPainting::rowsAreAsTheNumbersTell()
         hover(hovered);
     const QImage painted = picture();
     const QImage told = byNumbers(hovered);
-    const QString strFolder = qEnvironmentVariable("VOIP_PICTURES");
-    if (!strFolder.isEmpty())
-        painted.save(strFolder + QStringLiteral("/history_%1_%2x.png").arg(hovered).arg(painted.devicePixelRatio()));
+    leavePicture(painted, QStringLiteral("history-%1").arg(hovered));
     QCOMPARE(painted, told);
 }
 

@@ -2,6 +2,7 @@
 // answer after scrolling and changes.
 
 #include "MemberListTest.h"
+#include "PaintedPicture.h"
 
 #include <QBitmap>
 #include <QPainter>
@@ -103,31 +104,22 @@ private:
     QImage pictureByNumbers() const
     {
         const QWidget *const pPort = m_pList->viewport();
-        QPixmap picture(pPort->size() * pPort->devicePixelRatioF());
-        picture.setDevicePixelRatio(pPort->devicePixelRatioF());
-        picture.fill(pPort->palette().color(pPort->backgroundRole()));
-        QPainter painter(&picture);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.setPen(pPort->palette().color(pPort->foregroundRole()));
-        for (int iRow = 0; iRow < rowCount(); ++iRow) {
-            if (row(iRow).intersects(pPort->rect()))
-                paintByNumbers(painter, row(iRow), index(iRow));
-        }
-        painter.end();
-        return picture.toImage().convertToFormat(QImage::Format_RGB32);
+        return paintedLike(*pPort, [&](QPainter &painter) {
+            painter.setRenderHint(QPainter::SmoothPixmapTransform);
+            for (int iRow = 0; iRow < rowCount(); ++iRow) {
+                if (row(iRow).intersects(pPort->rect()))
+                    paintByNumbers(painter, row(iRow), index(iRow));
+            }
+        });
     }
 
-    /// Compares the list's picture with the one by numbers; both are left behind where VOIP_PICTURES names a folder.
+    /// Compares the list's picture with the one by numbers; both are left behind for a person to look at.
     void compareWithNumbers(const char *pName)
     {
         const QImage actual = picture();
         const QImage expected = pictureByNumbers();
-        const QString strFolder = qEnvironmentVariable("VOIP_PICTURES");
-        if (!strFolder.isEmpty()) {
-            const QString strRatio = QStringLiteral("@%1x.png").arg(actual.devicePixelRatio());
-            actual.save(strFolder + QLatin1Char('/') + QLatin1String(pName) + strRatio);
-            expected.save(strFolder + QLatin1Char('/') + QLatin1String(pName) + QStringLiteral("-numbers") + strRatio);
-        }
+        leavePicture(actual, QLatin1String(pName));
+        leavePicture(expected, QLatin1String(pName) + QStringLiteral("-numbers"));
         QCOMPARE(actual, expected);
     }
 

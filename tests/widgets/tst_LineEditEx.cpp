@@ -1,4 +1,4 @@
-#include "widgets/LineEditEx.h"
+#include "widgets/LineEditTest.h"
 
 #include "widgets/OwnSkin.h"
 
@@ -16,29 +16,11 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <memory>
-
-class tst_LineEditEx : public QObject
+class tst_LineEditEx : public LineEditTest
 {
     Q_OBJECT
 
-private:
-    void paste() { QTest::keySequence(inner(), QKeySequence::Paste); }
-    QLineEdit *inner() const { return m_pEdit->getLineEdit(); }
-    void show()
-    {
-        m_pEdit->resize(236, 30);
-        m_pEdit->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_pEdit.get()));
-        m_pEdit->setFocus();
-    }
-
-    std::unique_ptr<CLineEditEx> m_pEdit;
-
 private slots:
-    void init() { m_pEdit = std::make_unique<CLineEditEx>(); }
-    void cleanup() { m_pEdit.reset(); }
-
     void formHasItsNamesAndMargins();
     void sheetTakesTheSkinsColours();
     void menuSheetIsKeptUnfilledAndNothingElseWarns();

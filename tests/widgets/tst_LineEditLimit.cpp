@@ -1,12 +1,9 @@
 // The edit field's limit: what typing, pasting and the limit itself leave of a text.
 
-#include "widgets/LineEditEx.h"
+#include "widgets/LineEditTest.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QTest>
-
-#include <memory>
 
 namespace {
 
@@ -29,27 +26,11 @@ void putOnClipboard(const QString &strText)
 
 } // namespace
 
-class tst_LineEditLimit : public QObject
+class tst_LineEditLimit : public LineEditTest
 {
     Q_OBJECT
 
-private:
-    void paste() { QTest::keySequence(inner(), QKeySequence::Paste); }
-    QLineEdit *inner() const { return m_pEdit->getLineEdit(); }
-    void show()
-    {
-        m_pEdit->resize(236, 30);
-        m_pEdit->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_pEdit.get()));
-        m_pEdit->setFocus();
-    }
-
-    std::unique_ptr<CLineEditEx> m_pEdit;
-
 private slots:
-    void init() { m_pEdit = std::make_unique<CLineEditEx>(); }
-    void cleanup() { m_pEdit.reset(); }
-
     void limitTakesWhatFitsWhileTyping_data();
     void limitTakesWhatFitsWhileTyping();
     void pasteIsCut_data();
