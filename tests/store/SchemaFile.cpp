@@ -20,7 +20,7 @@ int noteWrite(unsigned, void *list, void *statement, void *)
 QString textWithValues(void *statement)
 {
     char *text = sqlite3_expanded_sql(static_cast<sqlite3_stmt *>(statement));
-    const QString copy = QString::fromUtf8(text);
+    QString copy = QString::fromUtf8(text);
     sqlite3_free(text);
     return copy;
 }
