@@ -6,6 +6,9 @@
 #include "model/SkinContext.h"
 #include "model/SystemSetData.h"
 
+#include <QPainter>
+#include <QScreen>
+#include <QTranslator>
 #include <QtTest>
 
 #include <cmath>
