@@ -182,7 +182,7 @@ private slots:
         const auto mapImage =
             records(inBody("<img src=\"s\" name=\"file:///d/a.png\" fileid=\"f1\" sequence=\"7\"" + tail + "/>"));
         QCOMPARE(mapImage.keys(), QStringList("d/a.png"));
-        const CImageData data = mapImage.first();
+        const CImageData &data = mapImage.first();
         QCOMPARE(data.m_strFileId, QString("f1"));
         QCOMPARE(data.m_strSequence, QString("7"));
         QTEST(data.m_strSize, "size");
