@@ -99,6 +99,7 @@ CLogManger &CLogManger::operator<<(const char *szText)
     if (!szText) {
         return *this;
     }
+    // UTF-8 on purpose: the sources' own Chinese texts come this way, and a text stream alone would read Latin-1.
     const QLatin1String text(szText);
     if (text == QLatin1String("\n")) {
         closeRecord();

@@ -4,7 +4,8 @@
 
 #include <QString>
 
-/// Upper-case letters, one for each character from U+4E00 to U+9FA5: the first letter of its Mandarin reading.
+/// Upper-case letters, one for each character from U+4E00 to U+9FA5: the first letter of its Mandarin reading. Of
+/// several readings a common character has the one by which GB 2312 sorts it.
 extern const QString strChineseFirstPY;
 
 class ChineseSpell

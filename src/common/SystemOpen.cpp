@@ -1,12 +1,12 @@
 #include "common/SystemOpen.h"
 
 #include "common/CUrlInfo.h"
+#include "common/LocalAddress.h"
 
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QHostAddress>
 #include <QHostInfo>
 #include <QNetworkInterface>
 #include <QProcess>
@@ -14,17 +14,6 @@
 #include <QUrl>
 
 namespace {
-
-QString firstIPv4(const QNetworkInterface &interface)
-{
-    const QList<QNetworkAddressEntry> listEntry = interface.addressEntries();
-    for (const QNetworkAddressEntry &entry : listEntry) {
-        if (entry.ip().protocol() == QAbstractSocket::IPv4Protocol) {
-            return entry.ip().toString();
-        }
-    }
-    return {};
-}
 
 void startCommand(const QString &strCommand)
 {
@@ -41,20 +30,7 @@ QString SystemOpen::getLocalIPAddress()
 {
     // Asked for its effect alone: it wakes the resolver, and the interfaces give the answer.
     QHostInfo::fromName(QHostInfo::localHostName());
-    const QNetworkInterface::InterfaceFlags wanted = QNetworkInterface::IsUp | QNetworkInterface::IsRunning |
-                                                     QNetworkInterface::CanBroadcast | QNetworkInterface::CanMulticast;
-    const QList<QNetworkInterface> listInterface = QNetworkInterface::allInterfaces();
-    for (const QNetworkInterface &interface : listInterface) {
-        const QNetworkInterface::InterfaceFlags flags = interface.flags();
-        if (!interface.isValid() || (flags & wanted) != wanted || flags.testFlag(QNetworkInterface::IsLoopBack)) {
-            continue;
-        }
-        QString strAddress = firstIPv4(interface);
-        if (!strAddress.isEmpty()) {
-            return strAddress;
-        }
-    }
-    return {};
+    return LocalAddress::firstFit(QNetworkInterface::allInterfaces());
 }
 
 void SystemOpen::sendMail(const QStringList &listRecipient)

@@ -54,7 +54,7 @@ private:
     {
         QString strText;
         for (int i = below(4); i >= 0; --i) {
-            switch (below(4)) {
+            switch (below(5)) {
             case 0:
                 strText += "<span style=\"" + pick({"", "color:red;", "font-size:12px;"}) + "\">" + words() + "</span>";
                 break;
@@ -62,6 +62,9 @@ private:
                 strText += "<span>" + words() + "</span>";
                 break;
             case 2:
+                strText += "<span><b>" + words() + "</b>" + pick({"", "  y"}) + "</span>";
+                break;
+            case 3:
                 strText += image();
                 break;
             default:

@@ -12,7 +12,7 @@ private slots:
     {
         QFile file("accounts.ini");
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("[accounts]\naccountuidmap=longer.wang^^101, wang^^102, 李^^103, broken, half^^\n");
+        file.write("[accounts]\naccountuidmap=longer.wang^^101, wang^^102, 李^^103, broken, half^^, half2^^9\n");
     }
 
     void accounts_data()
@@ -27,6 +27,10 @@ private slots:
                                << "103";
         QTest::newRow("an item without its uid") << "broken" << QString();
         QTest::newRow("an item with an empty uid") << "half" << QString();
+        QTest::newRow("items that hold it, the first without its uid") << "ha"
+                                                                       << "9";
+        QTest::newRow("several items that hold it") << "ang"
+                                                    << "101";
         QTest::newRow("unknown") << "nobody" << QString();
         QTest::newRow("empty") << QString() << QString();
     }

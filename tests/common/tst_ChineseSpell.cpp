@@ -1,6 +1,7 @@
 #include "common/ChineseSpell.h"
 
 #include <QTest>
+#include <QTextCodec>
 
 class tst_ChineseSpell : public QObject
 {
@@ -20,12 +21,38 @@ private slots:
     {
         const QString names = "李王张刘陈杨赵黄周吴徐孙胡朱高林何郭马罗梁宋郑谢韩唐冯于董萧程曹袁邓许傅沈彭吕苏"
                               "卢蒋蔡贾丁魏薛叶阎余潘杜戴夏钟汪田任姜范方石姚谭廖邹熊金陆郝孔白崔康毛邱秦江史"
-                              "顾侯邵孟龙万段雷钱汤尹黎易常武乔贺赖龚文庞樊兰殷施陶洪安颜倪严牛温";
+                              "顾侯邵孟龙万段雷钱汤尹黎易常武乔贺赖龚文庞樊兰殷施陶洪安颜倪严牛温曾";
         const QString initials = "LWZLCYZHZWXSHZGLHGMLLSZXHTFYDXCCYDXFSPLS"
                                  "LJCJDWXYYYPDDXZWTRJFFSYTLZXJLHKBCKMQQJS"
-                                 "GHSMLWDLQTYLYCWQHLGWPFLYSTHAYNYNW";
+                                 "GHSMLWDLQTYLYCWQHLGWPFLYSTHAYNYNWZ";
         QVERIFY(names.size() >= 100);
         QCOMPARE(ChineseSpell::toChineseSpell(names), initials);
+    }
+
+    void ofSeveralReadingsTheUsualOneCounts()
+    {
+        QCOMPARE(ChineseSpell::toChineseSpell("长厦茄咳蛤泊埔畜"), QString("CXQKGBPX"));
+    }
+
+    void commonCharactersStandInTheOrderOfTheirStandard()
+    {
+        // The first level of GB 2312 is sorted by readings: a letter begins at each of these and holds up to the next.
+        const QString firsts = "啊芭擦搭蛾发噶哈击喀垃妈拿哦啪期然撒塌挖昔压匝";
+        const QString letters = "ABCDEFGHJKLMNOPQRSTWXYZ";
+        const QTextCodec *codec = QTextCodec::codecForName("GB18030");
+        QVERIFY(codec);
+        int letter = -1;
+        int count = 0;
+        for (int row = 0xB0; row <= 0xD7; ++row) {
+            const int last = row == 0xD7 ? 0xF9 : 0xFE;
+            for (int cell = 0xA1; cell <= last; ++cell, ++count) {
+                const QString character = codec->toUnicode(QByteArray(1, char(row)) + char(cell));
+                letter += firsts.midRef(letter + 1, 1) == character ? 1 : 0;
+                QCOMPARE(character + ChineseSpell::toChineseSpell(character), character + letters.at(letter));
+            }
+        }
+        QCOMPARE(letter, letters.size() - 1);
+        QCOMPARE(count, 3755);
     }
 
     void texts_data()

@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <algorithm>
 #include <atomic>
 #include <csignal>
 #include <functional>
@@ -33,6 +34,34 @@ QStringList messagesOf(QtMsgType wanted, const std::function<void()> &action)
     return texts;
 }
 
+/// The log file at the time of a line of the debug channel.
+struct FileState
+{
+    bool exists = false;
+    bool open = false;
+};
+
+bool isOpen(const QString &name)
+{
+    const QString path = QDir().canonicalPath() + '/' + name;
+    const QFileInfoList descriptors = QDir("/proc/self/fd").entryInfoList(QDir::AllEntries | QDir::System);
+    return std::any_of(descriptors.begin(), descriptors.end(),
+                       [&path](const QFileInfo &descriptor) { return descriptor.symLinkTarget() == path; });
+}
+
+QVector<FileState> filesAtTheLinesOf(const std::function<void()> &action)
+{
+    static QVector<FileState> states;
+    states.clear();
+    const QtMessageHandler before = qInstallMessageHandler(
+        [](QtMsgType /*kind*/, const QMessageLogContext & /*context*/, const QString & /*text*/) {
+            states.append({QFile::exists(LOG), isOpen(LOG)});
+        });
+    action();
+    qInstallMessageHandler(before);
+    return states;
+}
+
 using Work = std::function<void(CustomLogger &)>;
 
 } // namespace
@@ -52,6 +81,19 @@ private slots:
         QCOMPARE(texts,
                  (QStringList{QStringLiteral("日志对象构造----------------------------CustomLogger::CustomLogger()."),
                               QStringLiteral("日志对象析构---------------------CustomLogger::~CustomLogger().")}));
+    }
+
+    void lifeIsTracedBeforeTheFileIsOpenedAndAfterItIsClosed()
+    {
+        bool openBetween = false;
+        const QVector<FileState> seen = filesAtTheLinesOf([&openBetween] {
+            CustomLogger logger(LOG);
+            openBetween = isOpen(LOG);
+        });
+        QCOMPARE(seen.size(), 2);
+        QVERIFY(!seen.at(0).exists && !seen.at(0).open);
+        QVERIFY(openBetween);
+        QVERIFY(seen.at(1).exists && !seen.at(1).open);
     }
 
     void lineHasTimeLevelLocationAndMessage()

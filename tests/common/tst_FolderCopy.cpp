@@ -40,6 +40,7 @@ private slots:
         QVERIFY(writeFile("to/a.txt", "old"));
         QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir("to"), false));
         QCOMPARE(readBytes("to/a.txt"), QByteArray("old"));
+        QVERIFY(!QDir("to/sub").exists());
     }
 
     void inSubFoldersFilesAreOverwrittenInAnyCase()
@@ -60,6 +61,24 @@ private slots:
     {
         QVERIFY(writeFile("to/sub", "a file"));
         QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir("to"), true));
+    }
+
+    void aFolderThatFailsEndsTheWholeCopy_data()
+    {
+        QTest::addColumn<QString>("blocked");
+        QTest::newRow("in the top folder") << "to/sub";
+        QTest::newRow("further down") << "to/sub/deep";
+    }
+
+    void aFolderThatFailsEndsTheWholeCopy()
+    {
+        QFETCH(QString, blocked);
+        QVERIFY(writeFile("from/z.txt", "z"));
+        QVERIFY(writeFile("from/sub/z.txt", "z"));
+        QVERIFY(writeFile(blocked, "a file"));
+        QVERIFY(!FolderCopy::copyDirectory(QDir("from"), QDir("to"), true));
+        QCOMPARE(readBytes("to/a.txt"), QByteArray("a"));
+        QVERIFY(!QFile::exists("to/z.txt") && !QFile::exists("to/sub/z.txt"));
     }
 
     void aFolderIsNotCopiedIntoItself_data()

@@ -149,6 +149,23 @@ private slots:
         QCOMPARE(paths(inBody("<img src=\"a.png\" type=\"\" style=\"\"/>")), QStringList("/picRec/a.png"));
     }
 
+    void pathsAreAbsolute_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("path");
+        QTest::newRow("a relative folder") << "data/u1" << QDir::currentPath() + "/data/u1/picRec/a.png";
+        QTest::newRow("a folder above") << "/data/../u1"
+                                        << "/u1/picRec/a.png";
+        QTest::newRow("a slash at the end") << FOLDER + "/" << FOLDER + "/picRec/a.png";
+    }
+    void pathsAreAbsolute()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, path);
+        SystemSetData::instance()->m_strUserFolder = folder;
+        QCOMPARE(paths(inBody("<img src=\"a.png\" type=\"\" style=\"\"/>")), QStringList(path));
+    }
+
     void recordsHoldWhatTheImageSays_data()
     {
         QTest::addColumn<QString>("tail");
@@ -165,7 +182,7 @@ private slots:
         const auto mapImage =
             records(inBody("<img src=\"s\" name=\"file:///d/a.png\" fileid=\"f1\" sequence=\"7\"" + tail + "/>"));
         QCOMPARE(mapImage.keys(), QStringList("d/a.png"));
-        const CImageData data = mapImage.first();
+        const CImageData &data = mapImage.first();
         QCOMPARE(data.m_strFileId, QString("f1"));
         QCOMPARE(data.m_strSequence, QString("7"));
         QTEST(data.m_strSize, "size");

@@ -89,6 +89,9 @@ private slots:
         const QString strPath = writeBytes(m_folder->filePath("a.png"), JPEG);
         const QString strTrue = writeBytes(m_folder->filePath("a.jpg"), "another");
         QCOMPARE(ImagePath::getTrueImagePath(strPath, FALLBACK), strTrue);
+        QString strFixed = strPath;
+        QVERIFY(ImagePath::getIsImageFixError(strFixed));
+        QCOMPARE(strFixed, strTrue);
         QCOMPARE(readBytes(strPath), JPEG);
         QCOMPARE(readBytes(strTrue), QByteArray("another"));
     }

@@ -8,6 +8,11 @@
 
 namespace {
 
+/// Made before main() runs, from texts that must stand by then.
+const QStringList EARLY_TEXTS{strLOG_TRACE,   strLOG_DEBUG,       strLOG_INFO,    strLOG_WARN,
+                              strLOG_ERROR,   strLOG_FATAL,       strHTTP_SPACER, strFIELD_SPACER,
+                              strDATA_SPACER, strMAP_DATA_SPACER, STR_EMPTY};
+
 QStringList warnings;
 
 void keepWarnings(QtMsgType type, const QMessageLogContext & /*context*/, const QString &text)
@@ -58,6 +63,12 @@ private slots:
     {
         QFETCH(QString, constant);
         QTEST(constant, "text");
+    }
+
+    void constantsStandDuringStaticInitialisation()
+    {
+        QCOMPARE(EARLY_TEXTS,
+                 (QStringList{"TRACE", "DEBUG", "INFO", "WARN", "ERROR", "FATAL", "&", "|", "#@#", "#$#", ""}));
     }
 
     void eventSequence_data()

@@ -46,7 +46,8 @@ QString convertedStepByStep(const QString &strBody, bool bReplace)
             const QString strOwn = node.toElement().attribute("style");
             if (strStyle.isEmpty() && !strOwn.isEmpty())
                 strStyle = styled(QString(strOwn + "color: @UINT_COLOR@;").replace("@UINT_COLOR@", GREEN));
-            const QString strText = node.firstChild().nodeValue();
+            const QDomNode first = node.firstChild();
+            const QString strText = first.isElement() ? first.toElement().text() : first.nodeValue();
             QString strCopy = strText;
             CommonFun::replaceSpace(strCopy);
             if (strCopy != strText)
@@ -115,6 +116,11 @@ private slots:
             "<p><span>a&nbsp;&nbsp;b&nbsp;&nbsp; c</span></p>");
         row("an entity beside a span's spaces", inDocument("<p><span>  x</span>www.a&nbsp;  x</p>"),
             "<p><span>&nbsp;&nbsp;x</span>" + link("www.a") + "&nbsp;&nbsp;&nbsp;x</p>");
+        row("an entity beside the spaces of an element that a span begins with",
+            inDocument("<p><span><b>  x</b></span>www.a&nbsp;  x</p>"),
+            "<p><span><b>&nbsp;&nbsp;x</b></span>" + link("www.a") + "&nbsp;&nbsp;&nbsp;x</p>");
+        row("spaces behind a span's first child", inDocument("<p><span>y<b>  x</b></span>www.a&nbsp;  x</p>"),
+            "<p><span>y<b>&nbsp;&nbsp;x</b></span>" + link("www.a&nbsp;") + "&nbsp;&nbsp;x</p>");
     }
     void bodyBecomesWhatTheViewShows()
     {

@@ -1,4 +1,5 @@
 #include "common/CSettingsManager.h"
+#include "common/LocalAddress.h"
 #include "common/SystemOpen.h"
 
 #include "fakes/FileBytes.h"
@@ -128,6 +129,16 @@ private slots:
         QCOMPARE(mail.m_taken, QStringList("mailto:a@kelvar.example;b@kelvar.example"));
     }
 
+    void aMailThatGoesOffOpensNothingElse()
+    {
+        setOfficeAddress("http://office.example/?user=%1");
+        Addresses mail("mailto");
+        Addresses office("http");
+        SystemOpen::sendMail({"a@kelvar.example"});
+        QCOMPARE(mail.m_taken.size(), 1);
+        QCOMPARE(office.m_taken, QStringList());
+    }
+
     void withoutAMailProgramTheOfficeSystemOpens()
     {
         SystemOpen::setSOALoginInfo("me");
@@ -147,21 +158,11 @@ private slots:
         QVERIFY(office.m_taken.isEmpty() && none.m_taken.isEmpty());
     }
 
-    void theLocalAddressIsTheFirstOfTheFirstFitInterface()
+    void theLocalAddressIsThatOfTheMachinesInterfaces()
     {
-        QString wanted;
-        for (const QNetworkInterface &interface : QNetworkInterface::allInterfaces()) {
-            const auto is = [&](QNetworkInterface::InterfaceFlag flag) { return interface.flags().testFlag(flag); };
-            const bool fit = is(QNetworkInterface::IsUp) && is(QNetworkInterface::IsRunning) &&
-                             is(QNetworkInterface::CanBroadcast) && is(QNetworkInterface::CanMulticast) &&
-                             !is(QNetworkInterface::IsLoopBack);
-            for (const QNetworkAddressEntry &entry : interface.addressEntries()) {
-                if (fit && wanted.isEmpty() && entry.ip().protocol() == QAbstractSocket::IPv4Protocol) {
-                    wanted = entry.ip().toString();
-                }
-            }
-        }
-        QCOMPARE(SystemOpen::getLocalIPAddress(), wanted);
+        const QString address = SystemOpen::getLocalIPAddress();
+        QCOMPARE(address, LocalAddress::firstFit(QNetworkInterface::allInterfaces()));
+        QVERIFY(!QHostAddress(address).isLoopback());
     }
 };
 

@@ -6,6 +6,9 @@
 #include "model/SkinContext.h"
 #include "model/SystemSetData.h"
 
+#include <QPainter>
+#include <QScreen>
+#include <QTranslator>
 #include <QtTest>
 
 #include <cmath>
@@ -15,6 +18,19 @@ namespace {
 constexpr double T = 0.28659218253585106;
 constexpr double COSINE = 0.9613007080676148;
 constexpr double SINE = 0.2755012679983567;
+
+// Another language's word for the client's own text.
+class OwnText : public QTranslator
+{
+public:
+    QString translate(const char *pContext, const char *pSource, const char * /*pRemark*/,
+                      int /*iCount*/) const override
+    {
+        const bool bOwn = qstrcmp(pContext, "QObject") == 0 && qstrcmp(pSource, "tarvoShoot") == 0;
+        return bOwn ? QStringLiteral("a longer own text") : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
 
 } // namespace
 
@@ -31,9 +47,8 @@ private:
     }
 
     // The watermark as it is told, drawn without the helpers of the unit.
-    static QImage expected(const QString &strTwo, const QColor &color)
+    static QImage expected(const QString &strTwo, const QColor &color, const QString &strOne = "tarvoShoot")
     {
-        const QString strOne = QStringLiteral("tarvoShoot");
         const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
         QPixmap canvas(int(screen.width() / COSINE), int(screen.width() * T + screen.height()));
         canvas.fill(Qt::transparent);
@@ -126,6 +141,15 @@ private slots:
         QVERIFY(m_bResult);
         QCOMPARE(picture.height(), QGuiApplication::primaryScreen()->availableGeometry().height());
         QCOMPARE(picture, expected(second, Qt::red));
+    }
+
+    void ownTextIsThatOfTheLanguage()
+    {
+        OwnText translator;
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        const QImage picture = QImage(generate("Name", "1001")).convertToFormat(QImage::Format_ARGB32);
+        QVERIFY(QCoreApplication::removeTranslator(&translator));
+        QCOMPARE(picture, expected("Name(1001)", Qt::red, "a longer own text"));
     }
 
     void secondCallDrawsNothing()

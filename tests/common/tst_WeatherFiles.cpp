@@ -1,6 +1,7 @@
 #include "common/WeatherFiles.h"
 
 #include "fakes/FileBytes.h"
+#include "fakes/QtMessages.h"
 
 #include <QDir>
 #include <QFile>
@@ -64,7 +65,12 @@ private slots:
         QTEST(WeatherFiles::parseWeatherXml("w.xml").size(), "maps");
     }
 
-    void aMissingFileGivesNothing() { QVERIFY(WeatherFiles::parseWeatherXml("none.xml").isEmpty()); }
+    void aMissingFileGivesNothingAndSaysNothing()
+    {
+        const QtMessages messages;
+        QVERIFY(WeatherFiles::parseWeatherXml("none.xml").isEmpty());
+        QCOMPARE(messages.debugLines, QStringList());
+    }
 
     void aFileThatDoesNotOpenSaysSo()
     {
