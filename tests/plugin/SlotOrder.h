@@ -34,7 +34,7 @@ public:
 /// it is called as, just as for a host: a sanitizer would object. The address is read back at run time, so that the
 /// compiler draws no conclusion from the type that it was given.
 template <typename Base>
-[[gnu::no_sanitize("vptr")]] void callEachSlot(void *volatile address)
+__attribute__((no_sanitize("vptr"))) void callEachSlot(void *volatile address)
 {
     auto *table = static_cast<SlotOrder<Base> *>(address);
     table->slot3();

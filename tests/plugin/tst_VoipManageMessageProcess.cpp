@@ -375,7 +375,7 @@ void tst_VoipManageMessageProcess::nullCommandIsIgnored()
 void tst_VoipManageMessageProcess::inboundCommandIsHandledWhileOutboundOneIsInProgress()
 {
     FakeHost host;
-    host.whileHandled = [this](BaseEvent &) {
+    host.whileHandled = [](BaseEvent &) {
         BaseEvent inbound(MSG_CALL_SINGLE_USER, QString(), QString(), false, "meanwhile");
         QCoreApplication::sendEvent(mailbox(), &inbound);
     };
