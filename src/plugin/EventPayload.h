@@ -18,8 +18,8 @@ QByteArray packPayload(const Fields &...fields)
     return payload;
 }
 
-/// Reads the fields of a payload in their order. A payload that is too short gives default values: false, an empty
-/// text, 0, an empty list.
+/// Reads the fields of a payload in their order. A payload that is too short gives default values (false, an empty
+/// text, 0) and of a list of strings those that are there.
 class PayloadReader
 {
 public:

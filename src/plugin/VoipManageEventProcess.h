@@ -41,8 +41,8 @@ public:
     static void getStrangerSmallVCard(QStringList ids, QStringList versions, bool flag);
     /// Takes away the host's prompt of the call with `strJid`.
     static void closeAVMsgBox(QString strJid);
-    /// Shows the signature card for `text` (a jid) at `x`, `y`; these and `height` are in pixels. The meaning of `b1`
-    /// and `b2` is the receiver's.
+    /// Shows the signature card for `text` (a jid) at `x`, `y`; these and `height` are in pixels, and the lists pass
+    /// their view's width as `height`. The meaning of `b1` and `b2` is the receiver's.
     static void showSignList(QString text, int x, int y, int height, bool b1, bool b2);
     /// Hides the signature card.
     static void closeSignList();

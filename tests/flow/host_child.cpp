@@ -2,9 +2,10 @@
 // the other until it is ended. It says on standard output what it has done, a line each: "begun" when a conference is
 // placed, "refused" when none could be, "saved" once its end has been recorded. A line on standard input makes it quit.
 //
-//   host_child BASE PATIENCE    BASE: the folder with the users' folders; PATIENCE: how many milliseconds a conference
-//   may
-//                               take to connect, since a channel that another client has taken answers never
+//   host_child BASE PATIENCE
+//
+// BASE is the folder with the users' folders. PATIENCE is how many milliseconds a conference may take to connect, since
+// a channel that another client has taken answers never.
 
 #include "fakes/MessageBoxes.h"
 #include "flow/FlowClient.h"

@@ -8,22 +8,61 @@
 #include <QApplication>
 #include <QFile>
 #include <QJsonObject>
+#include <QLibrary>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QPluginLoader>
 #include <QProcess>
 #include <QTest>
+#include <QtPlugin>
+
+#include <cerrno>
+#include <unistd.h>
 
 namespace {
 
 const QString moduleFile = QStringLiteral(VOIP_MODULE_FILE);
 
-// The program that stands where the call process belongs adds a line here at each start.
-int startedCallProcesses()
+// The program that stands where the call process belongs adds a line to a file at each start. Everything started from
+// here inherits the writing end of a pipe, so that the pipe's end is reached once all that was started has run.
+class CallProcessStarts
 {
-    QFile marks(QStringLiteral("started-call-processes"));
-    return marks.open(QIODevice::ReadOnly) ? marks.readAll().count('\n') : 0;
-}
+public:
+    CallProcessStarts() { openPipe(); }
+    ~CallProcessStarts() { closeEnds(); }
+    Q_DISABLE_COPY(CallProcessStarts)
+
+    int count()
+    {
+        ::close(m_ends[1]);
+        m_ends[1] = -1;
+        char byte = 0;
+        while (::read(m_ends[0], &byte, 1) < 0 && errno == EINTR) {
+        }
+        closeEnds();
+        openPipe();
+        QFile marks(QStringLiteral("started-call-processes"));
+        return marks.open(QIODevice::ReadOnly) ? marks.readAll().count('\n') : 0;
+    }
+
+private:
+    void openPipe()
+    {
+        if (::pipe(m_ends) != 0) {
+            qFatal("no pipe could be opened");
+        }
+    }
+    void closeEnds()
+    {
+        for (const int end : m_ends) {
+            if (end >= 0) {
+                ::close(end);
+            }
+        }
+    }
+
+    int m_ends[2] = {-1, -1};
+};
 
 } // namespace
 
@@ -36,7 +75,7 @@ private slots:
     void metadataIsReadWithoutLoading();
     void exportsTheTwoEntryPointsOnly();
     void rootObjectAnswersTheIdentityQuestions();
-    void rootObjectIsOneForAllLoaders();
+    void rootObjectIsMadeOnTheFirstCallOnly();
     void loadedButNeverSpokenToStartsNothing();
     void commandForAnotherPluginStartsNothing();
     void firstRecognisedCommandEvenAQueryCreatesTheManager();
@@ -44,24 +83,32 @@ private slots:
 private:
     PluginInterface *m_plugin = nullptr;
     QPluginLoader m_loader{moduleFile};
+    QJsonObject m_metadata;
+    bool m_bLoadedForMetadata = true;
+    CallProcessStarts m_starts;
     QLocalServer m_callServer;
 };
 
 void tst_PluginModule::initTestCase()
 {
     QVERIFY2(m_callServer.listen(QStringLiteral("VoipSDK")), qPrintable(m_callServer.errorString()));
+    m_metadata = m_loader.metaData();
+    m_bLoadedForMetadata = m_loader.isLoaded();
+    QVERIFY2(m_loader.load(), qPrintable(m_loader.errorString()));
+    m_plugin = qobject_cast<PluginInterface *>(m_loader.instance());
+    QVERIFY(m_plugin != nullptr);
 }
 
 void tst_PluginModule::metadataIsReadWithoutLoading()
 {
-    const QJsonObject metadata = m_loader.metaData();
-    QVERIFY(!m_loader.isLoaded());
-    QCOMPARE(metadata.value(QStringLiteral("IID")).toString(), QStringLiteral("kelvarim/1.0"));
-    QCOMPARE(metadata.value(QStringLiteral("className")).toString(), QStringLiteral("VoipManagePlugin"));
-    QVERIFY(metadata.value(QStringLiteral("debug")).isBool());
-    QCOMPARE(metadata.value(QStringLiteral("debug")).toBool(), false);
-    QCOMPARE(metadata.value(QStringLiteral("version")).toInt() & ~0xff, QT_VERSION & ~0xff);
-    QVERIFY(metadata.value(QStringLiteral("MetaData")).toObject().isEmpty());
+    QVERIFY(!m_bLoadedForMetadata);
+    QCOMPARE(m_metadata.value(QStringLiteral("IID")).toString(), QStringLiteral("kelvarim/1.0"));
+    QCOMPARE(m_metadata.value(QStringLiteral("className")).toString(), QStringLiteral("VoipManagePlugin"));
+    QCOMPARE(m_metadata.value(QStringLiteral("debug")), QJsonValue(false));
+    QCOMPARE(m_metadata.value(QStringLiteral("version")).toInt() & ~0xff, QT_VERSION & ~0xff);
+    // This moc leaves the key out where there is nothing below it, others write the empty object.
+    const QJsonValue further = m_metadata.value(QStringLiteral("MetaData"));
+    QVERIFY(further.isUndefined() || further == QJsonValue(QJsonObject()));
 }
 
 void tst_PluginModule::exportsTheTwoEntryPointsOnly()
@@ -79,9 +126,6 @@ void tst_PluginModule::exportsTheTwoEntryPointsOnly()
 
 void tst_PluginModule::rootObjectAnswersTheIdentityQuestions()
 {
-    QVERIFY2(m_loader.load(), qPrintable(m_loader.errorString()));
-    m_plugin = qobject_cast<PluginInterface *>(m_loader.instance());
-    QVERIFY(m_plugin != nullptr);
     QVERIFY(m_loader.instance()->parent() == nullptr);
     QCOMPARE(m_loader.instance()->qt_metacast("kelvarim/1.0"), static_cast<void *>(m_plugin));
     QCOMPARE(m_plugin->getPluginName(), QStringLiteral("FileManagePlugin"));
@@ -93,10 +137,14 @@ void tst_PluginModule::rootObjectAnswersTheIdentityQuestions()
     QVERIFY(m_plugin->getReceiveEventHandle() != nullptr);
 }
 
-void tst_PluginModule::rootObjectIsOneForAllLoaders()
+void tst_PluginModule::rootObjectIsMadeOnTheFirstCallOnly()
 {
-    QPluginLoader second(moduleFile);
-    QCOMPARE(second.instance(), m_loader.instance());
+    // A second QPluginLoader would not ask again: all loaders of one file share the object that the first was given.
+    QLibrary library(moduleFile);
+    const auto instance = reinterpret_cast<QtPluginInstanceFunction>(library.resolve("qt_plugin_instance"));
+    QVERIFY(instance != nullptr);
+    QCOMPARE(instance(), m_loader.instance());
+    QCOMPARE(instance(), m_loader.instance());
 }
 
 void tst_PluginModule::loadedButNeverSpokenToStartsNothing()
@@ -104,7 +152,7 @@ void tst_PluginModule::loadedButNeverSpokenToStartsNothing()
     m_plugin->setSendEventHandle(this);
     m_plugin->setCommonData(nullptr);
     QCoreApplication::processEvents();
-    QCOMPARE(startedCallProcesses(), 0);
+    QCOMPARE(m_starts.count(), 0);
     QVERIFY(!m_callServer.hasPendingConnections());
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
@@ -115,6 +163,7 @@ void tst_PluginModule::commandForAnotherPluginStartsNothing()
     QCoreApplication::sendEvent(m_plugin->getReceiveEventHandle(), &event);
     QCOMPARE(event.data, QByteArray("payload"));
     QCoreApplication::processEvents();
+    QCOMPARE(m_starts.count(), 0);
     QVERIFY(!m_callServer.hasPendingConnections());
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
@@ -129,7 +178,7 @@ void tst_PluginModule::firstRecognisedCommandEvenAQueryCreatesTheManager()
     QTRY_VERIFY(m_callServer.hasPendingConnections());
     QVERIFY(!QApplication::topLevelWidgets().isEmpty());
     // One start in all: neither loading nor the second query brought one.
-    QTRY_COMPARE(startedCallProcesses(), 1);
+    QCOMPARE(m_starts.count(), 1);
 }
 
 QTEST_MAIN(tst_PluginModule)

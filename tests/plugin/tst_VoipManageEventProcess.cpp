@@ -30,6 +30,7 @@ private slots:
     void init();
     void cleanup();
     void thereAreTenRequests();
+    void declaresNoSignalsSlotsOrPropertiesOfItsOwn();
     void eachRequestIsBuiltAsTheHostExpects_data();
     void eachRequestIsBuiltAsTheHostExpects();
     void callFinishedBeginsWithTheFlagThenTheUser();
@@ -83,6 +84,13 @@ void tst_VoipManageEventProcess::thereAreTenRequests()
         numbers.insert(row.msgId);
     }
     QCOMPARE(numbers.size(), 10);
+}
+
+void tst_VoipManageEventProcess::declaresNoSignalsSlotsOrPropertiesOfItsOwn()
+{
+    const QMetaObject &meta = VoipManageEventProcess::staticMetaObject;
+    QCOMPARE(meta.methodCount(), QObject::staticMetaObject.methodCount());
+    QCOMPARE(meta.propertyCount(), QObject::staticMetaObject.propertyCount());
 }
 
 void tst_VoipManageEventProcess::eachRequestIsBuiltAsTheHostExpects_data()

@@ -38,6 +38,22 @@ void keepDebugLine(QtMsgType, const QMessageLogContext &, const QString &text)
     debugLines.append(text);
 }
 
+// Notes each event of the host system that an object is about to receive.
+class SeenEvents : public QObject
+{
+public:
+    QList<QEvent *> events;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::User) {
+            events.append(event);
+        }
+        return false;
+    }
+};
+
 // The host's catalogue, as far as the mailbox reads it.
 class Catalogue : public QTranslator
 {
@@ -73,7 +89,9 @@ private slots:
     void queryIsAnsweredInItsPayload();
     void flagAndSenderAreNotRead();
     void synchronousCommandIsHandledOnReturnAndStaysTheCallers();
+    void synchronousCommandPassesTheFiltersOfTheHandle();
     void queuedCommandIsPostedAndFreedByQt();
+    void queuedCommandKeepsItsPlaceAmongPostedEvents();
     void withoutHandleQueuedCommandIsFreed();
     void withoutHandleSynchronousCommandComesBackUntouched();
     void handleThatDiedCountsAsNone();
@@ -241,12 +259,23 @@ void tst_VoipManageMessageProcess::synchronousCommandIsHandledOnReturnAndStaysTh
     event->extraList << block;
     mailbox()->sendCommand(event.get());
     QCOMPARE(host.events.size(), 1);
-    QVERIFY(!event->spontaneous());
     QCOMPARE(event->data, packPayload(false));
     QCoreApplication::processEvents();
     QVERIFY(!FreedBlocks::isFreed(block));
     event.reset();
     QVERIFY(FreedBlocks::isFreed(block));
+}
+
+void tst_VoipManageMessageProcess::synchronousCommandPassesTheFiltersOfTheHandle()
+{
+    FakeHost host;
+    SeenEvents filter;
+    host.installEventFilter(&filter);
+    mailbox()->setSendEvent(&host);
+    BaseEvent event(MSG_CLOSE_SIGN_LIST, QString(), QString(), false);
+    mailbox()->sendCommand(&event);
+    QCOMPARE(filter.events, QList<QEvent *>{&event});
+    QCOMPARE(host.commands(), QList<int>{4540});
 }
 
 void tst_VoipManageMessageProcess::queuedCommandIsPostedAndFreedByQt()
@@ -262,6 +291,18 @@ void tst_VoipManageMessageProcess::queuedCommandIsPostedAndFreedByQt()
     QCoreApplication::sendPostedEvents(&host);
     QCOMPARE(host.events.size(), 1);
     QVERIFY(FreedBlocks::isFreed(block));
+}
+
+void tst_VoipManageMessageProcess::queuedCommandKeepsItsPlaceAmongPostedEvents()
+{
+    FakeHost host;
+    mailbox()->setSendEvent(&host);
+    const auto posted = [](int msgId) { return new BaseEvent(static_cast<EMsgId>(msgId), {}, {}, true); };
+    QCoreApplication::postEvent(&host, posted(1));
+    mailbox()->sendCommand(posted(MSG_GET_STRANGER_SMALL_VCARD));
+    QCoreApplication::postEvent(&host, posted(2));
+    QCoreApplication::sendPostedEvents(&host);
+    QCOMPARE(host.commands(), (QList<int>{1, 4159, 2}));
 }
 
 void tst_VoipManageMessageProcess::withoutHandleQueuedCommandIsFreed()
@@ -334,7 +375,7 @@ void tst_VoipManageMessageProcess::nullCommandIsIgnored()
 void tst_VoipManageMessageProcess::inboundCommandIsHandledWhileOutboundOneIsInProgress()
 {
     FakeHost host;
-    host.whileHandled = [this](BaseEvent &) {
+    host.whileHandled = [](BaseEvent &) {
         BaseEvent inbound(MSG_CALL_SINGLE_USER, QString(), QString(), false, "meanwhile");
         QCoreApplication::sendEvent(mailbox(), &inbound);
     };

@@ -1,3 +1,4 @@
+#include "SlotOrder.h"
 #include "common/CommonFun.h"
 #include "fakes/FakeHost.h"
 #include "plugin/BaseEvent.h"
@@ -5,7 +6,10 @@
 #include "plugin/VoipManagePlugin.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QTest>
+
+#include <memory>
 
 class tst_VoipManagePlugin : public QObject
 {
@@ -16,6 +20,7 @@ private slots:
     void idIsAGuidInUpperCase();
     void receiveHandleIsTheSameObjectAlsoWithoutSendHandle();
     void receiveHandleIsTheMailbox();
+    void receiveHandleOutlivesThePlugin();
     void sendHandleReceivesOutboundEvents();
     void windowHandleIsZero();
     void subscriptionsAreTakenWithoutEffect_data();
@@ -23,6 +28,8 @@ private slots:
     void commonDataReachesTheCommonCode();
     void castsByNameAndInterfaceId();
     void basesStandInTheOrderTheHostExpects();
+    void operationsStandBehindThoseOfTheObject();
+    void declaresNoSignalsSlotsOrPropertiesOfItsOwn();
     void parentIsTheGivenOne();
     void creatingItShowsNoWindow();
 };
@@ -57,6 +64,17 @@ void tst_VoipManagePlugin::receiveHandleIsTheMailbox()
 {
     VoipManagePlugin plugin;
     QCOMPARE(plugin.getReceiveEventHandle(), static_cast<QObject *>(VoipManageMessageProcess::instance()));
+}
+
+void tst_VoipManagePlugin::receiveHandleOutlivesThePlugin()
+{
+    auto plugin = std::make_unique<VoipManagePlugin>();
+    const QPointer<QObject> handle = plugin->getReceiveEventHandle();
+    plugin.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!handle.isNull());
+    VoipManagePlugin later;
+    QCOMPARE(later.getReceiveEventHandle(), handle.data());
 }
 
 void tst_VoipManagePlugin::sendHandleReceivesOutboundEvents()
@@ -129,6 +147,24 @@ void tst_VoipManagePlugin::basesStandInTheOrderTheHostExpects()
     QCOMPARE(reinterpret_cast<char *>(static_cast<PluginInterface *>(&plugin)) - reinterpret_cast<char *>(&plugin),
              std::ptrdiff_t(sizeof(QObject)));
     QCOMPARE(sizeof(VoipManagePlugin), sizeof(QObject) + sizeof(PluginInterface));
+}
+
+void tst_VoipManagePlugin::operationsStandBehindThoseOfTheObject()
+{
+    QStringList called;
+    OperationRecorder<VoipManagePlugin> plugin(called);
+    callEachSlot<QObject>(static_cast<VoipManagePlugin *>(&plugin));
+    QCOMPARE(called, operationsInOrder());
+    called.clear();
+    callEachSlot<DestructorOnly>(static_cast<PluginInterface *>(&plugin));
+    QCOMPARE(called, operationsInOrder());
+}
+
+void tst_VoipManagePlugin::declaresNoSignalsSlotsOrPropertiesOfItsOwn()
+{
+    const QMetaObject &meta = VoipManagePlugin::staticMetaObject;
+    QCOMPARE(meta.methodCount(), QObject::staticMetaObject.methodCount());
+    QCOMPARE(meta.propertyCount(), QObject::staticMetaObject.propertyCount());
 }
 
 void tst_VoipManagePlugin::parentIsTheGivenOne()
