@@ -144,7 +144,9 @@ void tst_ErrorMessageForm::formHasItsTexts()
     QCOMPARE(text(dialog, "label_group"), QStringLiteral("组名："));
     const auto *pTitle = part<QLabel>(dialog, "titlelabel");
     QCOMPARE(pTitle->styleSheet(), QStringLiteral("font: 12px \"微软雅黑\";"));
+    QCOMPARE(pTitle->font().family(), QStringLiteral("微软雅黑"));
     QCOMPARE(pTitle->font().weight(), 50);
+    QVERIFY(pTitle->font().resolve() & QFont::WeightResolved);
     const auto *pMessage = part<QLabel>(dialog, "msgLabel");
     QCOMPARE(pMessage->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
     QCOMPARE(pMessage->frameShape(), QFrame::NoFrame);
