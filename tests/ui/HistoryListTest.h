@@ -26,6 +26,7 @@ public:
     using CConferenceInfoListView::m_pRecallAction;
     using CConferenceInfoListView::m_signPos;
     using CConferenceInfoListView::m_signTimer;
+    using CConferenceInfoListView::mousePressEvent;
     using CConferenceInfoListView::mouseReleaseEvent;
     using CConferenceInfoListView::NoState;
     using CConferenceInfoListView::setState;
