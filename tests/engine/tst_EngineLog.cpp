@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QLocalSocket>
-#include <QRegularExpression>
 #include <QTest>
 
 #include <functional>
@@ -47,11 +46,7 @@ void tst_EngineLog::cleanupTestCase()
 /// What has been logged since the last call, as "LEVEL text".
 QStringList tst_EngineLog::takeTexts()
 {
-    static const QRegularExpression prefix(QStringLiteral("^\\[(\\w+)\\]\\[[^\\]]*\\]: "));
-    QStringList texts = m_log->take();
-    for (QString &text : texts)
-        text.replace(prefix, QStringLiteral("\\1 "));
-    return texts;
+    return m_log->takeTexts();
 }
 
 void tst_EngineLog::startNamesTheProgramAndTheSteps()
