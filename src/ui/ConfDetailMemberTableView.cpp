@@ -11,6 +11,7 @@
 
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QStandardItemModel>
 
 namespace {
@@ -47,7 +48,8 @@ void CConfDetailMemberTableView::setMemList(QList<QString> list)
     if (list.isEmpty())
         return;
     m_memberList = list;
-    for (int i = 0; i < list.size(); ++i)
+    const QPointer<CConfDetailMemberTableView> self = this;
+    for (int i = 0; self && i < list.size(); ++i)
         placeMember(i / cColumns, i % cColumns, list.at(i));
 }
 
@@ -58,11 +60,10 @@ void CConfDetailMemberTableView::clearData()
     m_memberList.clear();
 }
 
-QStandardItem *CConfDetailMemberTableView::creatMemberItem(const QString &strUserID)
+std::unique_ptr<QStandardItem> CConfDetailMemberTableView::creatMemberItem(const QString &strUserID)
 {
     const FriendData member = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(strUserID));
-    // The model takes the item over as soon as it is in a cell.
-    auto *pItem = new QStandardItem;
+    auto pItem = std::make_unique<QStandardItem>();
     pItem->setData(strUserID, ROLE_USER_ID);
     pItem->setData(member.displayName(), ROLE_DISPLAY_NAME);
     pItem->setData(CommonFun::getTrueImagePath(member.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
@@ -72,15 +73,19 @@ QStandardItem *CConfDetailMemberTableView::creatMemberItem(const QString &strUse
 
 void CConfDetailMemberTableView::placeMember(int iRow, int iColumn, const QString &strUserID)
 {
+    // The host may destroy the grid while it looks the member up.
+    const QPointer<CConfDetailMemberTableView> self = this;
+    std::unique_ptr<QStandardItem> pItem = creatMemberItem(strUserID);
+    if (!self)
+        return;
     if (const QStandardItem *pOld = m_pModel->item(iRow, iColumn)) {
         // The model deletes what stood in the cell.
         const auto known = m_memberItemMap.find(pOld->data(ROLE_USER_ID).toString());
         if (known != m_memberItemMap.end() && *known == pOld)
             m_memberItemMap.erase(known);
     }
-    QStandardItem *pItem = creatMemberItem(strUserID);
-    m_pModel->setItem(iRow, iColumn, pItem);
-    m_memberItemMap.insert(strUserID, pItem);
+    m_pModel->setItem(iRow, iColumn, pItem.get());
+    m_memberItemMap.insert(strUserID, pItem.release());
 }
 
 void CConfDetailMemberTableView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
@@ -103,9 +108,11 @@ void CConfDetailMemberTableView::mouseMoveEvent(QMouseEvent *event)
     const QPoint position = event->localPos().toPoint();
     const QModelIndex index = indexAt(position);
     // Deliberate: away from all members nothing changes, so a card that is due still comes.
+    const QPointer<CConfDetailMemberTableView> self = this;
     if (m_pModel->item(index.row(), index.column()) != nullptr)
         hoverItem(index, position);
-    QAbstractItemView::mouseMoveEvent(event);
+    if (self)
+        QAbstractItemView::mouseMoveEvent(event);
 }
 
 void CConfDetailMemberTableView::hoverItem(const QModelIndex &index, const QPoint &position)
@@ -116,23 +123,32 @@ void CConfDetailMemberTableView::hoverItem(const QModelIndex &index, const QPoin
         m_strSignJid = CommonFun::getJidByUid(index.data(ROLE_USER_ID).toString());
         // Each move inside the head starts the delay anew.
         m_signTimer.start(cSignDelay);
-    } else {
-        m_signTimer.stop();
-        VoipManageEventProcess::closeSignList();
+    } else if (!cancelCard()) {
+        return;
     }
     setCursor(Qt::ArrowCursor);
 }
 
+// False when the host has destroyed the grid while it took the request.
+bool CConfDetailMemberTableView::cancelCard()
+{
+    const QPointer<CConfDetailMemberTableView> self = this;
+    m_signTimer.stop();
+    VoipManageEventProcess::closeSignList();
+    return !self.isNull();
+}
+
 void CConfDetailMemberTableView::slot_ShowSign()
 {
+    const QPointer<CConfDetailMemberTableView> self = this;
     // Deliberate: the card's host takes the grid's width where it asks for a height.
     VoipManageEventProcess::showSignList(m_strSignJid, m_signPos.x(), m_signPos.y(), width(), true, false);
-    m_signTimer.stop();
+    if (self)
+        m_signTimer.stop();
 }
 
 void CConfDetailMemberTableView::leaveEvent(QEvent *event)
 {
-    m_signTimer.stop();
-    VoipManageEventProcess::closeSignList();
-    QTableView::leaveEvent(event);
+    if (cancelCard())
+        QTableView::leaveEvent(event);
 }

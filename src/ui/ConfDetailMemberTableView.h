@@ -13,6 +13,8 @@
 #include <QTableView>
 #include <QTimer>
 
+#include <memory>
+
 class CConfDetailTableViewDelegate;
 class QStandardItem;
 class QStandardItemModel;
@@ -44,9 +46,10 @@ private slots:
 
 private:
     void initTableView();
-    static QStandardItem *creatMemberItem(const QString &strUserID);
+    static std::unique_ptr<QStandardItem> creatMemberItem(const QString &strUserID);
     void placeMember(int iRow, int iColumn, const QString &strUserID);
     void hoverItem(const QModelIndex &index, const QPoint &position);
+    bool cancelCard();
 
     QStandardItemModel *m_pModel;
     QList<QString> m_memberList;

@@ -8,6 +8,8 @@
 #include "ui/ConferenceTexts.h"
 #include "ui_ConferenceDetaileWidget.h"
 
+#include <QPointer>
+
 CConferenceDetaileWidget::CConferenceDetaileWidget(QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::CConferenceDetaileWidget>())
 {
@@ -33,7 +35,13 @@ void CConferenceDetaileWidget::initWidget()
 void CConferenceDetaileWidget::setConferenceDetail(ConfInfoData confInfo)
 {
     m_confInfoData = confInfo;
-    showCreator(confInfo.m_strCreatUserID);
+    // The host may destroy the page while it looks the creator up.
+    const QPointer<CConferenceDetaileWidget> self = this;
+    const FriendData creator =
+        VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(confInfo.m_strCreatUserID));
+    if (!self)
+        return;
+    showCreator(creator);
     ui->lblCallTime->setText(ConferenceTexts::callLength(confInfo.m_strCallTime));
     const bool bCreatedByMe = confInfo.m_strCreatUserID == CommonFun::getLoginUID();
     ui->isCreatorIcon->setText(IconGlyph::text(bCreatedByMe ? IconGlyph::CreatedByMe : IconGlyph::JoinedByMe));
@@ -41,9 +49,8 @@ void CConferenceDetaileWidget::setConferenceDetail(ConfInfoData confInfo)
     ui->tableView->setMemList(confInfo.m_listMember);
 }
 
-void CConferenceDetaileWidget::showCreator(const QString &strUserID)
+void CConferenceDetaileWidget::showCreator(const FriendData &creator)
 {
-    const FriendData creator = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(strUserID));
     ui->creatUserIcon->setHeadPictrue(
         CommonFun::getTrueImagePath(creator.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH));
     const QString strName = creator.displayName();

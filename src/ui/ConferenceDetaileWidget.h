@@ -9,6 +9,8 @@
 
 #include <memory>
 
+class FriendData;
+
 namespace Ui {
 class CConferenceDetaileWidget;
 }
@@ -31,7 +33,7 @@ public:
 
 private:
     void initWidget();
-    void showCreator(const QString &strUserID);
+    void showCreator(const FriendData &creator);
 
     std::unique_ptr<Ui::CConferenceDetaileWidget> ui;
     ConfInfoData m_confInfoData;

@@ -47,6 +47,8 @@ CConferenceInfoListView::CConferenceInfoListView(QWidget *parent)
     installEventFilter(this);
     setItemDelegateForColumn(0, m_pDelegate);
     setModel(m_pModel);
+    m_pMenu->addAction(m_pRecallAction);
+    m_pMenu->addAction(m_pDeleteAction);
     connect(m_pMenu, SIGNAL(triggered(QAction *)), this, SLOT(slot_selectAction(QAction *)));
     connect(&m_signTimer, SIGNAL(timeout()), this, SLOT(slot_ShowSign()));
 }
@@ -56,14 +58,19 @@ void CConferenceInfoListView::addConfInfoList(QList<ConfInfoData> confInfoList)
     m_confInfoList = confInfoList;
     if (confInfoList.isEmpty())
         return;
+    const QPointer<CConferenceInfoListView> self = this;
+    // Deliberate: one request per creator, not per record. The centre opens a hundred thousand records on it.
     QHash<QString, std::shared_ptr<const ConferenceCreator>> creators;
+    for (const ConfInfoData &confInfo : qAsConst(confInfoList)) {
+        if (!creators.contains(confInfo.m_strCreatUserID))
+            creators.insert(confInfo.m_strCreatUserID, creatorOf(confInfo.m_strCreatUserID));
+    }
+    if (!self)
+        return;
     QList<QStandardItem *> items;
     items.reserve(confInfoList.size());
     for (const ConfInfoData &confInfo : qAsConst(confInfoList)) {
-        std::shared_ptr<const ConferenceCreator> &pCreator = creators[confInfo.m_strCreatUserID];
-        if (!pCreator)
-            pCreator = creatorOf(confInfo.m_strCreatUserID);
-        items.append(creatListItem(confInfo, pCreator));
+        items.append(creatListItem(confInfo, creators.value(confInfo.m_strCreatUserID)));
         // The store gives the greatest id first: each goes in front of the one before.
         m_confItemMap.insert(m_confItemMap.constBegin(), confInfo.m_strConfID, items.constLast());
     }
@@ -74,7 +81,11 @@ void CConferenceInfoListView::addConfInfoData(ConfInfoData confInfo)
 {
     if (confInfo.m_strConfID.isEmpty() || m_confItemMap.contains(confInfo.m_strConfID))
         return;
-    QStandardItem *pItem = creatListItem(confInfo, creatorOf(confInfo.m_strCreatUserID));
+    const QPointer<CConferenceInfoListView> self = this;
+    const auto pCreator = creatorOf(confInfo.m_strCreatUserID);
+    if (!self)
+        return;
+    QStandardItem *pItem = creatListItem(confInfo, pCreator);
     m_pModel->insertRow(0, pItem);
     m_confItemMap.insert(confInfo.m_strConfID, pItem);
     // Deliberate: on top of the rows, but at the end of the list.
@@ -132,9 +143,11 @@ void CConferenceInfoListView::mouseMoveEvent(QMouseEvent *event)
     const QPoint position = event->localPos().toPoint();
     const QModelIndex index = indexAt(position);
     // Deliberate: away from all rows nothing changes, so a card that is due still comes.
+    const QPointer<CConferenceInfoListView> self = this;
     if (m_pModel->itemFromIndex(index) != nullptr)
         hoverRow(index, position);
-    QListView::mouseMoveEvent(event);
+    if (self)
+        QListView::mouseMoveEvent(event);
 }
 
 void CConferenceInfoListView::hoverRow(const QModelIndex &index, const QPoint &position)
@@ -149,25 +162,34 @@ void CConferenceInfoListView::hoverRow(const QModelIndex &index, const QPoint &p
         m_strSignJid = CommonFun::getJidByUid(index.data(ROLE_USER_ID).toString());
         // Each move inside the head starts the delay anew.
         m_signTimer.start(cSignDelay);
-    } else {
-        m_signTimer.stop();
-        VoipManageEventProcess::closeSignList();
+    } else if (!cancelCard()) {
+        return;
     }
     setCursor(Qt::ArrowCursor);
 }
 
+// False when the host has destroyed the list while it took the request.
+bool CConferenceInfoListView::cancelCard()
+{
+    const QPointer<CConferenceInfoListView> self = this;
+    m_signTimer.stop();
+    VoipManageEventProcess::closeSignList();
+    return !self.isNull();
+}
+
 void CConferenceInfoListView::slot_ShowSign()
 {
+    const QPointer<CConferenceInfoListView> self = this;
     // Deliberate: the card's host takes the list's width where it asks for a height.
     VoipManageEventProcess::showSignList(m_strSignJid, m_signPos.x(), m_signPos.y(), width(), true, false);
-    m_signTimer.stop();
+    if (self)
+        m_signTimer.stop();
 }
 
 void CConferenceInfoListView::leaveEvent(QEvent *event)
 {
-    m_signTimer.stop();
-    VoipManageEventProcess::closeSignList();
-    QListView::leaveEvent(event);
+    if (cancelCard())
+        QListView::leaveEvent(event);
 }
 
 void CConferenceInfoListView::mouseReleaseEvent(QMouseEvent *event)

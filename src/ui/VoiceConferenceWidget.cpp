@@ -10,6 +10,7 @@
 #include "ui/EdgeDrag.h"
 #include "ui/RowPainter.h"
 
+#include <QBoxLayout>
 #include <QMouseEvent>
 
 namespace {
@@ -57,11 +58,24 @@ void CVoiceConferenceWidget::initWidget()
     installEventFilter(this);
     setFixedHeight(cWindowSize.height());
     setFixedWidth(cWindowSize.width());
-    ui->conferenceDetaileWidget->setContentsMargins(cPageMargins);
+    insetDetailPage();
     initTitle();
     initButtons();
     connectParts();
     showPage(cListPage);
+}
+
+// The page lays itself out without margins; what it laid out stands in one more layout here, which has them.
+void CVoiceConferenceWidget::insetDetailPage()
+{
+    auto *pPage = qobject_cast<QBoxLayout *>(ui->conferenceDetaileWidget->layout());
+    auto *pInset = new QVBoxLayout;
+    pInset->setObjectName(QStringLiteral("verticalLayout_5"));
+    pInset->setSpacing(0);
+    pInset->setContentsMargins(cPageMargins);
+    while (QLayoutItem *pItem = pPage->takeAt(0))
+        pInset->addItem(pItem);
+    pPage->addLayout(pInset);
 }
 
 void CVoiceConferenceWidget::initTitle()

@@ -55,6 +55,7 @@ private:
     void initWidget();
     void initTitle();
     void initButtons();
+    void insetDetailPage();
     void connectParts();
     void initListView();
     void showPage(int iPage);

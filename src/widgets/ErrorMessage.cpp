@@ -129,11 +129,11 @@ void ErrorMessage::setStyles()
                        "a:hover{font-size:12px;color:#2AB0FF;text - decoration: underline;}")));
 }
 
-void ErrorMessage::showPage(QWidget *pPage, const QString &strTitle)
+void ErrorMessage::showPage(QWidget *pPage, const QString &strTitle, int iShowMode)
 {
     ui->stackedWidget->setCurrentWidget(pPage);
     ui->titlelabel->setText(strTitle);
-    m_iShowMode = 0;
+    m_iShowMode = iShowMode;
 }
 
 void ErrorMessage::showCloseButtonOnly()
@@ -212,8 +212,7 @@ void ErrorMessage::messagelogTip()
 
 QString ErrorMessage::addLabelToFriend(QString title)
 {
-    showPage(ui->AddLabel, title);
-    m_iShowMode = cTagMode;
+    showPage(ui->AddLabel, title, cTagMode);
     ui->lblerror->hide();
     ui->AddLineEdit->setMaxLength(cTagColumns);
     ui->AddLineEdit->setPlaceholderText(QObject::tr("tagsevenwords"));
@@ -224,9 +223,7 @@ QString ErrorMessage::addLabelToFriend(QString title)
 
 void ErrorMessage::showHotKeyError(QString title, int type)
 {
-    ui->titlelabel->setText(title);
-    if (isHotKeyType(type))
-        ui->stackedWidget->setCurrentWidget(ui->page_MsgAndScreen);
+    showPage(isHotKeyType(type) ? ui->page_MsgAndScreen : ui->stackedWidget->currentWidget(), title);
     m_iHotKeyType = type;
     m_strHotKeyTitle = title;
     fillHotKeyLabels();
@@ -254,7 +251,7 @@ void ErrorMessage::setUIText()
     fillHotKeyLabels();
     if (isHotKeyType(m_iHotKeyType) && m_iHotKeyType != cScreenCutType)
         ui->label_10->setText(QObject::tr("period"));
-    showPage(ui->page_MsgAndScreen, m_strHotKeyTitle);
+    showPage(ui->page_MsgAndScreen, m_strHotKeyTitle, m_iShowMode);
 }
 
 void ErrorMessage::setBtnText(QString accept, QString close)

@@ -61,7 +61,8 @@ public:
     /// Hands the skin to the painted background.
     void setSkinData(SysUIData skin);
 
-    /// True once the accept button was used; false before and after any other way to close.
+    /// True once the accept button was used. Only the two close buttons and the settings link make it false again;
+    /// every other way to close, Escape among them, and the next mode leave it as it is.
     bool m_bAccepted = false;
 
 signals:
@@ -90,7 +91,7 @@ private:
     void watchControls();
     void setStyles();
     void setUIText();
-    void showPage(QWidget *pPage, const QString &strTitle);
+    void showPage(QWidget *pPage, const QString &strTitle, int iShowMode = 0);
     void showCloseButtonOnly();
     void showBothButtons();
     void fillHotKeyLabels();

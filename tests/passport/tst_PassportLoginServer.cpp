@@ -1,6 +1,7 @@
 #include "fakes/LogCapture.h"
 #include "passport/PassportLoginServer.h"
 
+#include <QMetaMethod>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -12,6 +13,7 @@ class KeeperProbe : public CPassportLoginServer
 public:
     using CPassportLoginServer::m_arrKeeperFlags;
     using CPassportLoginServer::m_arrKeeperTimers;
+    using CPassportLoginServer::m_bIsPassportKeeplived;
     using CPassportLoginServer::m_iKeeperCount;
     using CPassportLoginServer::m_iKeeperState;
     using CPassportLoginServer::m_strKeeperText1;
@@ -36,13 +38,26 @@ private slots:
         QCOMPARE(keeper.m_iKeeperState, 1);
         QCOMPARE(keeper.m_iKeeperCount, qint64(0));
         QVERIFY(keeper.m_strKeeperText1.isEmpty() && keeper.m_strKeeperText2.isEmpty());
+        QCOMPARE(int(keeper.m_arrKeeperTimers.size()), 3);
         for (const QTimer &timer : keeper.m_arrKeeperTimers) {
             QVERIFY(!timer.isActive());
             QVERIFY(!timer.parent());
         }
+        // Ten flags and the one that has a name.
+        QCOMPARE(int(keeper.m_arrKeeperFlags.size()), 10);
+        QVERIFY(!keeper.m_bIsPassportKeeplived);
         for (const bool bFlag : keeper.m_arrKeeperFlags) {
             QVERIFY(!bFlag);
         }
+    }
+
+    void signalsStandInTheirOrder()
+    {
+        const QMetaObject &meta = CPassportLoginServer::staticMetaObject;
+        QStringList listName;
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+            listName.append(QString::fromLatin1(meta.method(i).methodSignature()));
+        QCOMPARE(listName, QStringList({"signal_RemCookieChanged(QString)", "signal_UserOverdue()"}));
     }
 
     void eachCookieIsStoredByItself()

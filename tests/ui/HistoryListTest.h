@@ -18,6 +18,7 @@
 class HistoryList : public CConferenceInfoListView
 {
 public:
+    using CConferenceInfoListView::DragSelectingState;
     using CConferenceInfoListView::m_confInfoList;
     using CConferenceInfoListView::m_pDeleteAction;
     using CConferenceInfoListView::m_pMenu;
@@ -25,7 +26,11 @@ public:
     using CConferenceInfoListView::m_pRecallAction;
     using CConferenceInfoListView::m_signPos;
     using CConferenceInfoListView::m_signTimer;
+    using CConferenceInfoListView::mousePressEvent;
     using CConferenceInfoListView::mouseReleaseEvent;
+    using CConferenceInfoListView::NoState;
+    using CConferenceInfoListView::setState;
+    using CConferenceInfoListView::state;
 };
 
 class HistoryListTest : public QObject

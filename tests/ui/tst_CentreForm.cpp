@@ -95,6 +95,7 @@ void tst_CentreForm::layoutsHaveTheirMargins_data()
     QTest::newRow("verticalLayout_3") << "conferenceListWidget" << QMargins(0, 0, 0, 10);
     QTest::newRow("horizontalLayout") << "listTitleWidget" << QMargins(20, 0, 0, 0);
     QTest::newRow("verticalLayout_4") << "voiceConferenceListWidget" << QMargins();
+    QTest::newRow("verticalLayout_5") << "conferenceDetaileWidget" << QMargins(0, 0, 0, 10);
 }
 
 void tst_CentreForm::layoutsHaveTheirMargins()

@@ -43,6 +43,7 @@ private slots:
     void oddCallTimes();
     void oddTextsAreKeptAsTheyAre();
     void rowsAreSixtyTwoHigh();
+    void rowsCannotBeEdited();
     void scrollBarShowsUnderTheCursorOnly();
     void hundredThousandRecords();
 };
@@ -249,6 +250,11 @@ void tst_ConferenceInfoListView::rowsAreSixtyTwoHigh()
     show({record(QStringLiteral("b")), record(QStringLiteral("a"))});
     QCOMPARE(row(0), QRect(0, 0, 517, 62));
     QCOMPARE(row(1), QRect(0, 62, 517, 62));
+}
+
+void tst_ConferenceInfoListView::rowsCannotBeEdited()
+{
+    QCOMPARE(m_pList->editTriggers(), QAbstractItemView::NoEditTriggers);
 }
 
 void tst_ConferenceInfoListView::scrollBarShowsUnderTheCursorOnly()

@@ -24,6 +24,7 @@ private:
     LogCapture m_log;
 
 private slots:
+    void menuHasBothEntriesFromTheStart();
     void menuOfAConnectedRecordHasBothEntries();
     void menuOfAnUnconnectedRecordCanOnlyDelete();
     void menuCanBeOpenedAgainAndAgain();
@@ -37,6 +38,12 @@ private slots:
     void rightClickBelowTheRowsOpensNothing();
     void rightClickIsLeftToTheWindow();
 };
+
+void tst_ConferenceInfoMenu::menuHasBothEntriesFromTheStart()
+{
+    QCOMPARE(m_pList->m_pMenu->actions(), QList<QAction *>({m_pList->m_pRecallAction, m_pList->m_pDeleteAction}));
+    QCOMPARE(entries(), QStringList({QStringLiteral("再次发起"), QStringLiteral("删除")}));
+}
 
 void tst_ConferenceInfoMenu::menuOfAConnectedRecordHasBothEntries()
 {

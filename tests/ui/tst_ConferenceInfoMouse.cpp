@@ -36,10 +36,15 @@ private slots:
     void unconnectedRowHasNoDetailButton();
     void detailButtonAnswersAfterTheHoverEnded();
     void otherButtonsDoNotShowTheDetail();
+    void releaseThatIsNotTheListsGoesToTheBase_data();
+    void releaseThatIsNotTheListsGoesToTheBase();
     void pressSelectsNothing();
     void cursorIsAHandOnTheDetailButton();
     void scrolledButtonAndHeadAnswerWhereTheyStandNow();
+    void moveTellsTheRowInEveryCase();
 
+    void headReachesFromItsFirstToItsLastPixel_data();
+    void headReachesFromItsFirstToItsLastPixel();
     void restingOnAHeadShowsTheCardOnce();
     void delaysEndShowsTheCard();
     void cardStandsAtTheHeadOfItsRow();
@@ -82,7 +87,9 @@ void tst_ConferenceInfoMouse::clickOnARowThatWasNeverHoveredDoesNothing()
     QSignalSpy spy(m_pList.get(), SIGNAL(signal_ShowConfDetail(QString)));
     QVERIFY(place(0, ROLE_REMOVE_RECT).isNull());
     QMouseEvent release(QEvent::MouseButtonRelease, QPointF(499, 43), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(m_pList->viewport(), &release);
+    // Not by way of Qt, which accepts an event before it delivers it.
+    release.ignore();
+    m_pList->mouseReleaseEvent(&release);
     QCOMPARE(spy.size(), 0);
     QVERIFY(release.isAccepted());
 }
@@ -122,6 +129,32 @@ void tst_ConferenceInfoMouse::otherButtonsDoNotShowTheDetail()
     QCOMPARE(spy.size(), 0);
 }
 
+void tst_ConferenceInfoMouse::releaseThatIsNotTheListsGoesToTheBase_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<QPoint>("position");
+    QTest::addColumn<bool>("toBase");
+    const QPoint noRow(300, 200);
+    QTest::newRow("left on a row") << int(Qt::LeftButton) << cBeside << false;
+    QTest::newRow("left on no row") << int(Qt::LeftButton) << noRow << true;
+    QTest::newRow("middle on a row") << int(Qt::MiddleButton) << cBeside << true;
+    QTest::newRow("middle on no row") << int(Qt::MiddleButton) << noRow << true;
+    QTest::newRow("right on no row") << int(Qt::RightButton) << noRow << false;
+}
+
+void tst_ConferenceInfoMouse::releaseThatIsNotTheListsGoesToTheBase()
+{
+    QFETCH(int, button);
+    QFETCH(QPoint, position);
+    QFETCH(bool, toBase);
+    showTwo();
+    // The base ends a selection by dragging.
+    m_pList->setState(HistoryList::DragSelectingState);
+    QMouseEvent release(QEvent::MouseButtonRelease, position, Qt::MouseButton(button), Qt::NoButton, Qt::NoModifier);
+    m_pList->mouseReleaseEvent(&release);
+    QCOMPARE(m_pList->state() == HistoryList::NoState, toBase);
+}
+
 void tst_ConferenceInfoMouse::pressSelectsNothing()
 {
     showTwo();
@@ -130,7 +163,7 @@ void tst_ConferenceInfoMouse::pressSelectsNothing()
     const QPoint second = row(1).center();
     QMouseEvent press(QEvent::MouseButtonPress, second, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     press.ignore();
-    QApplication::sendEvent(m_pList->viewport(), &press);
+    m_pList->mousePressEvent(&press);
     QVERIFY(press.isAccepted());
     click(second);
     QVERIFY(!m_pList->selectionModel()->hasSelection());
@@ -140,7 +173,9 @@ void tst_ConferenceInfoMouse::pressSelectsNothing()
 void tst_ConferenceInfoMouse::cursorIsAHandOnTheDetailButton()
 {
     showTwo();
+    QVERIFY(m_pList->testAttribute(Qt::WA_SetCursor));
     QCOMPARE(shape(), Qt::ArrowCursor);
+    m_pList->setCursor(Qt::CrossCursor);
     hover(0);
     QCOMPARE(shape(), Qt::ArrowCursor);
     moveTo(onButton(0));
@@ -175,6 +210,47 @@ void tst_ConferenceInfoMouse::scrolledButtonAndHeadAnswerWhereTheyStandNow()
     QCOMPARE(spy.first().first().toString(), data(3, ROLE_CONF_ID).toString());
     for (int i = 1; i < 5; ++i)
         QCOMPARE(place(i, ROLE_HEAD_RECT), QRect(10, 62 * i - 52, 40, 40));
+}
+
+void tst_ConferenceInfoMouse::moveTellsTheRowInEveryCase()
+{
+    show({record(QStringLiteral("b")), record(QStringLiteral("a"))});
+    hover(0);
+    QList<int> entered;
+    connect(m_pList.get(), &QAbstractItemView::entered, this,
+            [&entered](const QModelIndex &index) { entered.append(index.row()); });
+    const QSignalSpy left(m_pList.get(), &QAbstractItemView::viewportEntered);
+    const QPoint nextRow(0, 62);
+    moveTo(cBeside + nextRow);
+    moveTo(onButton(0));
+    moveTo(cOnHead + nextRow);
+    moveTo(cBeside);
+    QCOMPARE(entered, QList<int>({1, 0, 1, 0}));
+    QCOMPARE(left.count(), 0);
+    moveTo(QPoint(300, 200));
+    QCOMPARE(left.count(), 1);
+}
+
+void tst_ConferenceInfoMouse::headReachesFromItsFirstToItsLastPixel_data()
+{
+    QTest::addColumn<QPoint>("position");
+    QTest::addColumn<bool>("onHead");
+    QTest::newRow("first") << QPoint(10, 72) << true;
+    QTest::newRow("last") << QPoint(49, 111) << true;
+    QTest::newRow("left of it") << QPoint(9, 72) << false;
+    QTest::newRow("above") << QPoint(10, 71) << false;
+    QTest::newRow("right of it") << QPoint(50, 111) << false;
+    QTest::newRow("below") << QPoint(49, 112) << false;
+}
+
+void tst_ConferenceInfoMouse::headReachesFromItsFirstToItsLastPixel()
+{
+    QFETCH(QPoint, position);
+    QFETCH(bool, onHead);
+    showTwo();
+    moveTo(position);
+    QCOMPARE(m_pList->m_signTimer.isActive(), onHead);
+    QCOMPARE(takeSigns(), onHead ? QStringList() : QStringList{"close"});
 }
 
 void tst_ConferenceInfoMouse::restingOnAHeadShowsTheCardOnce()

@@ -7,6 +7,8 @@
 #include "ui/MemberRoles.h"
 #include "widgets/MenuEx.h"
 
+#include <QAbstractScrollArea>
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -34,6 +36,7 @@ private slots:
     void newRecordComesOnTop();
     void knownOrEmptyIdChangesNothing();
     void detailButtonShowsTheDetailPage();
+    void recordOfTheShownDetailCannotBeDeleted();
     void unknownIdShowsNoDetail();
     void backButtonGoesToTheListAndClearsTheDetail();
     void createButtonTellsTheHostWithAnEmptyList();
@@ -97,7 +100,26 @@ void tst_VoiceConferenceWidget::detailButtonShowsTheDetailPage()
     QTest::mouseClick(list()->viewport(), Qt::LeftButton, Qt::NoModifier, button);
     expectPage(1);
     QCOMPARE(part<QLabel>("lblCallTime")->text(), QStringLiteral("1分15秒"));
-    QCOMPARE(part<QWidget>("conferenceDetaileWidget")->contentsMargins(), QMargins(0, 0, 0, 10));
+    const auto *pPage = part<QWidget>("conferenceDetaileWidget");
+    const auto *pGrid = part<QWidget>("tableView");
+    QTRY_COMPARE(QRect(pGrid->mapTo(pPage, QPoint()), pGrid->size()),
+                 QRect(0, 94, pPage->width(), pPage->height() - 94 - 10));
+}
+
+void tst_VoiceConferenceWidget::recordOfTheShownDetailCannotBeDeleted()
+{
+    open({"a"});
+    showAt({100, 100});
+    QVERIFY(list()->isVisible());
+    call("slot_ShowConfDetail", "a");
+    QVERIFY(!list()->isVisible());
+    // The list's menu is the only one.
+    QCOMPARE(m_pWindow->findChildren<QMenu *>(), QList<QMenu *>{list()->findChild<CMenuEx *>()});
+    for (const char *pName : {"conferenceDetaileWidget", "creatUserIcon", "buttonWidget"})
+        QTest::mouseClick(part<QWidget>(pName), Qt::RightButton);
+    QTest::mouseClick(part<QAbstractScrollArea>("tableView")->viewport(), Qt::RightButton);
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
+    QCOMPARE(ids(), QStringList{"a"});
 }
 
 void tst_VoiceConferenceWidget::unknownIdShowsNoDetail()

@@ -7,6 +7,8 @@
 #include "widgets/ErrorMessage.h"
 #include "widgets/PushButtonEx.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -60,6 +62,19 @@ inline QString page(const ErrorMessage &dialog)
 inline void click(const ErrorMessage &dialog, const char *name)
 {
     QTest::mouseClick(clickTarget(part<QWidget>(dialog, name)), Qt::LeftButton);
+}
+
+/// Presses Ctrl+V over `pTarget` with this text on the clipboard.
+inline void paste(QWidget *pTarget, const QString &strText)
+{
+    QGuiApplication::clipboard()->setText(strText);
+    QTest::keyClick(pTarget, Qt::Key_V, Qt::ControlModifier);
+}
+
+/// A text of so many Chinese characters.
+inline QString chinese(int iCount)
+{
+    return QString(iCount, QChar(0x4E2D));
 }
 
 } // namespace ShownDialog

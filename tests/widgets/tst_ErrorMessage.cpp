@@ -2,11 +2,12 @@
 // tests of their own.
 
 #include "ShownDialog.h"
+#include "widgets/Brackets.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLayout>
 #include <QSignalSpy>
-#include <QTranslator>
 
 using namespace ShownDialog;
 
@@ -33,7 +34,9 @@ class tst_ErrorMessage : public QObject
 
 private slots:
     void dialogIsFramelessModalAndOnTop();
+    void windowHasTheClientsIcon();
     void closingDoesNotCountForQuit();
+    void formsOwnConnectionClosesToo();
     void acceptButtonStartsDisabledWithTheConstructorsWord();
     void buttonTextsAreSet();
     void focusMovesBetweenTheButtons();
@@ -48,6 +51,7 @@ private slots:
     void languageChangeRefillsTheHotKeyPage_data();
     void languageChangeRefillsTheHotKeyPage();
     void dialogFollowsTheMouse();
+    void cursorAtTheOffsetMovesNothing();
     void otherButtonsDoNotMoveTheDialog();
     void otherButtonsReleaseDoesNotEndTheMove();
     void lastRowAndColumnDoNotMoveTheDialog_data();
@@ -74,6 +78,17 @@ void tst_ErrorMessage::dialogIsFramelessModalAndOnTop()
     QCOMPARE(size, QSize(288, 158));
 }
 
+void tst_ErrorMessage::windowHasTheClientsIcon()
+{
+    const QString strFolder = QStringLiteral("Resources/Images/SysTrayIcon");
+    QVERIFY(QDir().mkpath(strFolder));
+    QImage green(16, 16, QImage::Format_RGB32);
+    green.fill(Qt::green);
+    QVERIFY(green.save(strFolder + QStringLiteral("/MiniToTaskBar.png")));
+    const ErrorMessage dialog(QString(), QString(), nullptr);
+    QCOMPARE(dialog.windowIcon().pixmap(16, 16).toImage().convertToFormat(QImage::Format_RGB32), green);
+}
+
 void tst_ErrorMessage::closingDoesNotCountForQuit()
 {
     const QSignalSpy lastClosed(qApp, &QGuiApplication::lastWindowClosed);
@@ -82,6 +97,18 @@ void tst_ErrorMessage::closingDoesNotCountForQuit()
     dialog.getMsgShow(QStringLiteral("Title"), QStringLiteral("Text"));
     QVERIFY(!dialog.testAttribute(Qt::WA_QuitOnClose));
     QCOMPARE(lastClosed.count(), 0);
+}
+
+void tst_ErrorMessage::formsOwnConnectionClosesToo()
+{
+    ErrorMessage dialog(QString(), QString(), nullptr);
+    QVERIFY(QObject::disconnect(button(dialog, "closeBtn"), SIGNAL(clicked()), &dialog, SLOT(slot_clickedCloseBtn())));
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    dialog.m_bAccepted = true;
+    click(dialog, "closeBtn");
+    QVERIFY(!dialog.isVisible());
+    QVERIFY(dialog.m_bAccepted);
 }
 
 void tst_ErrorMessage::acceptButtonStartsDisabledWithTheConstructorsWord()
@@ -229,21 +256,6 @@ void tst_ErrorMessage::languageChangeRefillsTheHotKeyPage_data()
                                    << "";
 }
 
-namespace {
-
-/// A language whose words are the keys in angle brackets.
-class Brackets : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *key, const char *, int) const override
-    {
-        return qstrcmp(context, "QObject") == 0 ? QLatin1Char('<') + QLatin1String(key) + QLatin1Char('>') : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
-
-} // namespace
-
 void tst_ErrorMessage::languageChangeRefillsTheHotKeyPage()
 {
     QFETCH(int, type);
@@ -273,6 +285,22 @@ void tst_ErrorMessage::dialogFollowsTheMouse()
     QTest::mouseRelease(pTitle, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
     drag(pTitle, QPoint(90, 90));
     QCOMPARE(dialog.pos(), QPoint(-770, 170));
+}
+
+void tst_ErrorMessage::cursorAtTheOffsetMovesNothing()
+{
+    ErrorMessage dialog(QString(), QString(), nullptr);
+    place(dialog);
+    const QPoint offset(10, 12);
+    QTest::mousePress(&dialog, Qt::LeftButton, Qt::NoModifier, offset);
+    const auto moveTo = [&dialog](const QPoint &global) {
+        QMouseEvent move(QEvent::MouseMove, QPoint(), global, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&dialog, &move);
+    };
+    moveTo(offset);
+    QCOMPARE(dialog.pos(), QPoint(200, 150));
+    moveTo(offset + QPoint(1, 0));
+    QCOMPARE(dialog.pos(), QPoint(1, 0));
 }
 
 void tst_ErrorMessage::otherButtonsDoNotMoveTheDialog()

@@ -1,4 +1,5 @@
-// What the message dialog's fields let in and give back: the reply of several lines, the name and the tag.
+// What the message dialog's fields let in and give back: the reply of several lines and the name. The tag has a test of
+// its own.
 
 #include "ShownDialog.h"
 
@@ -13,27 +14,12 @@
 
 using namespace ShownDialog;
 
-namespace {
-
-QString chinese(int iCount)
-{
-    return QString(iCount, QChar(0x4E2D));
-}
-
-} // namespace
-
 class tst_ErrorMessageFields : public QObject
 {
     Q_OBJECT
 
 private:
-    static CLineEditEx *tag(const ErrorMessage &dialog) { return part<CLineEditEx>(dialog, "AddLineEdit"); }
     static CTextEditEx *reply(const ErrorMessage &dialog) { return part<CTextEditEx>(dialog, "AutoReplytextEdit"); }
-    static void paste(QWidget *pTarget, const QString &strText)
-    {
-        QGuiApplication::clipboard()->setText(strText);
-        QTest::keyClick(pTarget, Qt::Key_V, Qt::ControlModifier);
-    }
 
 private slots:
     void replyIsGivenBackTrimmed();
@@ -46,15 +32,7 @@ private slots:
     void blankNameCannotBeAccepted();
     void nameIsGivenBack();
     void nameAskedTwiceStartsEmptyAgain();
-    void modeAfterATagTakesNoPasteIntoTheTag();
-    void tagTakesSevenWideOrFourteenNarrow_data();
-    void tagTakesSevenWideOrFourteenNarrow();
-    void acceptingABlankTagKeepsTheDialogOpen();
-    void typingAfterTheErrorHidesItOnlyWhenBlank();
-    void pasteIntoTheTagLeavesTheLastCharacterThatFits_data();
-    void pasteIntoTheTagLeavesTheLastCharacterThatFits();
-    void pasteFromAButtonWorksInTagMode();
-    void pasteOutsideTagModeIsConsumed();
+    void nameTakesAPaste();
 };
 
 void tst_ErrorMessageFields::replyIsGivenBackTrimmed()
@@ -197,125 +175,6 @@ void tst_ErrorMessageFields::nameIsGivenBack()
     QVERIFY(dialog.m_bAccepted);
 }
 
-void tst_ErrorMessageFields::tagTakesSevenWideOrFourteenNarrow_data()
-{
-    QTest::addColumn<QString>("character");
-    QTest::addColumn<int>("count");
-    QTest::newRow("Chinese") << chinese(1) << 7;
-    QTest::newRow("Latin") << QStringLiteral("x") << 14;
-}
-
-void tst_ErrorMessageFields::tagTakesSevenWideOrFourteenNarrow()
-{
-    QFETCH(QString, character);
-    QFETCH(int, count);
-    ErrorMessage dialog(QStringLiteral("Yes"), QStringLiteral("No"), nullptr);
-    whenShown(dialog, [&] {
-        QCOMPARE(tag(dialog)->getLineEdit()->placeholderText(), QStringLiteral("tagsevenwords"));
-        QVERIFY(!part<QLabel>(dialog, "lblerror")->isVisible());
-        for (int i = 0; i < 20; ++i) {
-            QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, character);
-            QCoreApplication::sendEvent(tag(dialog)->getLineEdit(), &press);
-        }
-        click(dialog, "acceptBtn");
-    });
-    QCOMPARE(dialog.addLabelToFriend(QStringLiteral("Title")), character.repeated(count));
-    QVERIFY(dialog.m_bAccepted);
-}
-
-void tst_ErrorMessageFields::acceptingABlankTagKeepsTheDialogOpen()
-{
-    ErrorMessage dialog(QStringLiteral("Yes"), QStringLiteral("No"), nullptr);
-    bool bAcceptedWhileOpen = false;
-    whenShown(dialog, [&] {
-        QTest::keyClick(tag(dialog)->getLineEdit(), Qt::Key_Space);
-        // Blanks disable the button; somebody may still use it.
-        button(dialog, "acceptBtn")->setEnabled(true);
-        click(dialog, "acceptBtn");
-        QVERIFY(dialog.isVisible());
-        bAcceptedWhileOpen = dialog.m_bAccepted;
-        QVERIFY(part<QLabel>(dialog, "lblerror")->isVisible());
-        QCOMPARE(text(dialog, "lblerror"), QStringLiteral("tagcannotspace"));
-        QCOMPARE(part<QLabel>(dialog, "lblerror")->styleSheet(), QStringLiteral("color:red;"));
-        click(dialog, "closeBtn");
-        QVERIFY(!dialog.isVisible());
-    });
-    QCOMPARE(dialog.addLabelToFriend(QStringLiteral("Title")), QStringLiteral(" "));
-    QVERIFY(bAcceptedWhileOpen);
-    QVERIFY(!dialog.m_bAccepted);
-}
-
-void tst_ErrorMessageFields::typingAfterTheErrorHidesItOnlyWhenBlank()
-{
-    ErrorMessage dialog(QStringLiteral("Yes"), QStringLiteral("No"), nullptr);
-    bool bSeen = false;
-    whenShown(dialog, [&] {
-        QLineEdit *pField = tag(dialog)->getLineEdit();
-        button(dialog, "acceptBtn")->setEnabled(true);
-        click(dialog, "acceptBtn");
-        QTest::keyClick(pField, Qt::Key_A);
-        QVERIFY(part<QLabel>(dialog, "lblerror")->isVisible());
-        QVERIFY(button(dialog, "acceptBtn")->isEnabled());
-        QTest::keyClick(pField, Qt::Key_Backspace);
-        QVERIFY(!part<QLabel>(dialog, "lblerror")->isVisible());
-        QVERIFY(!button(dialog, "acceptBtn")->isEnabled());
-        bSeen = true;
-    });
-    dialog.addLabelToFriend(QStringLiteral("Title"));
-    QVERIFY(bSeen);
-}
-
-void tst_ErrorMessageFields::pasteIntoTheTagLeavesTheLastCharacterThatFits_data()
-{
-    QTest::addColumn<QString>("pasted");
-    QTest::addColumn<QString>("left");
-    const QString strPair = QString::fromUcs4(U"\U0001F600", 1);
-    QTest::newRow("abc") << "abc"
-                         << "c";
-    QTest::newRow("fifteen Latin") << "abcdefghijklmno"
-                                   << "n";
-    QTest::newRow("Chinese") << chinese(7) + QStringLiteral("文") << chinese(1);
-    QTest::newRow("the wide one does not fit any more") << "abcdefghijklm" + chinese(1) + "z"
-                                                        << "m";
-    QTest::newRow("a pair stays whole") << "a" + strPair << strPair;
-    QTest::newRow("nothing") << ""
-                             << "old";
-    QTest::newRow("ten megabytes") << QString(10 * 1024 * 1024, QLatin1Char('x')) << "x";
-}
-
-void tst_ErrorMessageFields::pasteIntoTheTagLeavesTheLastCharacterThatFits()
-{
-    QFETCH(QString, pasted);
-    ErrorMessage dialog(QStringLiteral("Yes"), QStringLiteral("No"), nullptr);
-    whenShown(dialog, [&] {
-        QTest::keyClicks(tag(dialog)->getLineEdit(), QStringLiteral("old"));
-        paste(tag(dialog)->getLineEdit(), pasted);
-    });
-    const QString strLeft = dialog.addLabelToFriend(QStringLiteral("Title"));
-    QTEST(strLeft, "left");
-    QGuiApplication::clipboard()->clear();
-}
-
-void tst_ErrorMessageFields::pasteFromAButtonWorksInTagMode()
-{
-    ErrorMessage dialog(QStringLiteral("Yes"), QStringLiteral("No"), nullptr);
-    whenShown(dialog, [&] { paste(inner(dialog, "closeBtn"), QStringLiteral("xyz")); });
-    QCOMPARE(dialog.addLabelToFriend(QStringLiteral("Title")), QStringLiteral("z"));
-}
-
-void tst_ErrorMessageFields::pasteOutsideTagModeIsConsumed()
-{
-    ErrorMessage dialog(QStringLiteral("Yes"), QStringLiteral("No"), nullptr);
-    whenShown(dialog, [&] {
-        QGuiApplication::clipboard()->setText(QStringLiteral("abc"));
-        QKeyEvent press(QEvent::KeyPress, Qt::Key_V, Qt::ControlModifier);
-        press.ignore();
-        QVERIFY(QCoreApplication::sendEvent(tag(dialog)->getLineEdit(), &press));
-    });
-    dialog.modifyShow(QStringLiteral("Title"));
-    QVERIFY(tag(dialog)->text().isEmpty());
-}
-
 void tst_ErrorMessageFields::nameAskedTwiceStartsEmptyAgain()
 {
     ErrorMessage dialog(QStringLiteral("Yes"), QStringLiteral("No"), nullptr);
@@ -340,14 +199,12 @@ void tst_ErrorMessageFields::nameAskedTwiceStartsEmptyAgain()
     QVERIFY(!dialog.m_bAccepted);
 }
 
-void tst_ErrorMessageFields::modeAfterATagTakesNoPasteIntoTheTag()
+void tst_ErrorMessageFields::nameTakesAPaste()
 {
     ErrorMessage dialog(QStringLiteral("Yes"), QStringLiteral("No"), nullptr);
-    whenShown(dialog, [&] { QTest::keyClick(tag(dialog)->getLineEdit(), Qt::Key_T); });
-    QCOMPARE(dialog.addLabelToFriend(QStringLiteral("Title")), QStringLiteral("t"));
-    whenShown(dialog, [&] { paste(inner(dialog, "closeBtn"), QStringLiteral("xyz")); });
-    dialog.modifyShow(QStringLiteral("Title"));
-    QCOMPARE(tag(dialog)->text(), QStringLiteral("t"));
+    whenShown(dialog, [&] { paste(part<CLineEditEx>(dialog, "lineEdit")->getLineEdit(), QStringLiteral("abc")); });
+    QCOMPARE(dialog.modifyShow(QStringLiteral("Title")), QStringLiteral("abc"));
+    QGuiApplication::clipboard()->clear();
 }
 
 QTEST_MAIN(tst_ErrorMessageFields)

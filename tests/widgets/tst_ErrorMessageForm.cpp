@@ -45,6 +45,7 @@ private slots:
     void partsHaveTheirSizes_data();
     void partsHaveTheirSizes();
     void formHasItsTexts();
+    void titleHasItsFont();
     void formIsMadeOfTheKitsWidgets();
     void sheetIsTheClients();
     void buttonsTakeNoFocusAndAreNotAutoDefault();
@@ -142,13 +143,26 @@ void tst_ErrorMessageForm::formHasItsTexts()
     QCOMPARE(dialog.windowTitle(), QStringLiteral("提示"));
     QCOMPARE(text(dialog, "autoReplyLabel"), QStringLiteral("回复内容(100字以内)："));
     QCOMPARE(text(dialog, "label_group"), QStringLiteral("组名："));
-    const auto *pTitle = part<QLabel>(dialog, "titlelabel");
-    QCOMPARE(pTitle->styleSheet(), QStringLiteral("font: 12px \"微软雅黑\";"));
-    QCOMPARE(pTitle->font().weight(), 50);
     const auto *pMessage = part<QLabel>(dialog, "msgLabel");
     QCOMPARE(pMessage->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
     QCOMPARE(pMessage->frameShape(), QFrame::NoFrame);
     QVERIFY(pMessage->wordWrap());
+}
+
+void tst_ErrorMessageForm::titleHasItsFont()
+{
+    ErrorMessage dialog(QString(), QString(), nullptr);
+    auto *pTitle = part<QLabel>(dialog, "titlelabel");
+    QCOMPARE(pTitle->styleSheet(), QStringLiteral("font: 12px \"微软雅黑\";"));
+    pTitle->ensurePolished();
+    QCOMPARE(pTitle->font().family(), QStringLiteral("微软雅黑"));
+    QCOMPARE(pTitle->font().pixelSize(), 12);
+    // Without the sheets the form's own font shows, with its weight although that is the usual one.
+    pTitle->setStyleSheet(QString());
+    dialog.setStyleSheet(QString());
+    QCOMPARE(pTitle->font().family(), QStringLiteral("微软雅黑"));
+    QCOMPARE(pTitle->font().weight(), 50);
+    QVERIFY(pTitle->font().resolve() & QFont::WeightResolved);
 }
 
 void tst_ErrorMessageForm::formIsMadeOfTheKitsWidgets()

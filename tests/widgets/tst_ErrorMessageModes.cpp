@@ -192,6 +192,9 @@ void tst_ErrorMessageModes::unknownHotKeyTypeLeavesThePage()
     QVERIFY(!dialog.isModal());
     QCOMPARE(page(dialog), QStringLiteral("MsgShow"));
     QCOMPARE(text(dialog, "titlelabel"), QStringLiteral("Title"));
+    QVERIFY(!button(dialog, "acceptBtn")->isVisible());
+    QCOMPARE(button(dialog, "closeBtn")->text(), QStringLiteral("sure"));
+    QVERIFY(inner(dialog, "closeBtn")->isDefault());
     for (const char *name : {"label_8", "label_9", "label_11", "label_10"})
         QVERIFY(text(dialog, name).isEmpty());
 }

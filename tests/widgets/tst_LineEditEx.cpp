@@ -16,6 +16,11 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <functional>
+
+using EditAct = std::function<void(CLineEditEx &)>;
+Q_DECLARE_METATYPE(EditAct)
+
 class tst_LineEditEx : public LineEditTest
 {
     Q_OBJECT
@@ -35,7 +40,10 @@ private slots:
     void hoveringRestyles();
     void loginFieldIsAPassword();
     void searchFieldTakesTextLikeAnyOther();
+    void searchFieldTellsItsTextToTheSearchSlot_data();
+    void searchFieldTellsItsTextToTheSearchSlot();
     void deleteButtonStandsAtTheRightEnd();
+    void deleteButtonLooksLikeTypeZero();
     void secondDeleteButtonIsNotMade();
     void deleteButtonSendsItsSignal();
     void deleteButtonShowsAndHides();
@@ -220,6 +228,28 @@ void tst_LineEditEx::searchFieldTakesTextLikeAnyOther()
     QCOMPARE(m_pEdit->text(), QStringLiteral("abc"));
 }
 
+void tst_LineEditEx::searchFieldTellsItsTextToTheSearchSlot_data()
+{
+    QTest::addColumn<EditAct>("act");
+    QTest::addColumn<bool>("connected");
+    QTest::newRow("new field") << EditAct([](CLineEditEx &) {}) << false;
+    QTest::newRow("plain field") << EditAct([](CLineEditEx &edit) { edit.setType(CLineEditEx::PlainField); }) << false;
+    QTest::newRow("type 2") << EditAct([](CLineEditEx &edit) { edit.setType(CLineEditEx::LineEditType(2)); }) << false;
+    QTest::newRow("search field") << EditAct([](CLineEditEx &edit) { edit.setType(CLineEditEx::SearchField); }) << true;
+    QTest::newRow("search button") << EditAct([](CLineEditEx &edit) { edit.setSearchBtn(true); }) << true;
+    QTest::newRow("no search button") << EditAct([](CLineEditEx &edit) { edit.setSearchBtn(false); }) << true;
+}
+
+void tst_LineEditEx::searchFieldTellsItsTextToTheSearchSlot()
+{
+    QFETCH(EditAct, act);
+    QFETCH(bool, connected);
+    act(*m_pEdit);
+    QCOMPARE(QObject::disconnect(inner(), SIGNAL(textChanged(QString)), m_pEdit.get(),
+                                 SLOT(slot_changeSearchBtnImg(QString))),
+             connected);
+}
+
 void tst_LineEditEx::deleteButtonStandsAtTheRightEnd()
 {
     m_pEdit->addDeleteBtn();
@@ -231,13 +261,29 @@ void tst_LineEditEx::deleteButtonStandsAtTheRightEnd()
     QCOMPARE(pButton->cursor().shape(), Qt::ArrowCursor);
     QCOMPARE(pButton->findChild<QPushButton *>()->text(), QString(QChar(0xE62C)));
     QCOMPARE(pButton->findChild<QPushButton *>()->font().pixelSize(), 8);
-    QVERIFY(pButton->findChild<QPushButton *>()->styleSheet().contains(QLatin1String("::hover")));
     QCOMPARE(pLine->size(), QSize(1, 18));
     QCOMPARE(pLine->styleSheet(), QStringLiteral("QLabel{background-color:#e0e0e0;}"));
     QCOMPARE(inner()->layout()->contentsMargins(), QMargins(0, 0, 5, 0));
     QCOMPARE(inner()->textMargins(), QMargins(0, 1, 23, 1));
-    QVERIFY(pButton->geometry().right() <= inner()->contentsRect().right() - 5);
-    QCOMPARE(pLine->geometry().right() + 1 <= pButton->x(), true);
+    QCOMPARE(inner()->size(), QSize(236, 30));
+    QCOMPARE(pButton->geometry(), QRect(236 - 5 - 22, 4, 22, 22));
+    QCOMPARE(pLine->geometry(), QRect(236 - 5 - 22 - 1, 6, 1, 18));
+}
+
+void tst_LineEditEx::deleteButtonLooksLikeTypeZero()
+{
+    m_pEdit->addDeleteBtn();
+    const auto *pButton = inner()->findChild<CIconButtonEx *>();
+    const auto sheets = [](const CIconButtonEx &icon) {
+        return QStringList{icon.findChild<QPushButton *>()->styleSheet(),
+                           icon.findChild<QWidget *>(QStringLiteral("widgetBG"))->styleSheet()};
+    };
+    CIconButtonEx zero;
+    zero.setIconFont(QString(QChar(0xE62C)), 8, 0);
+    CIconButtonEx three;
+    three.setIconFont(QString(QChar(0xE62C)), 8, 3);
+    QCOMPARE(sheets(*pButton), sheets(zero));
+    QVERIFY(sheets(*pButton) != sheets(three));
 }
 
 void tst_LineEditEx::secondDeleteButtonIsNotMade()
