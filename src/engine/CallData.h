@@ -15,7 +15,9 @@ struct CallData
     /// Why a call ended. The numbers go to the host with the call record and are part of its contract.
     enum FinishResult
     {
-        FinishCanceled = 21, ///< ended before it connected, by this side or by the caller
+        /// ended before it connected, by this side or by the caller; also notification 4, or 5 naming the own user, at
+        /// any time
+        FinishCanceled = 21,
         FinishFailed = 22,   ///< the call process could not make the call
         FinishHangup = 24,   ///< ended after it connected, or by the far end
         FinishBusy = 25,     ///< the far end is in another call

@@ -131,17 +131,22 @@ void CVoipManage::onConfUpdate(const QString &content)
     m_callData.confId = document.confId;
     takeCreateTime(document.createTime);
 
-    QSet<QString> known(m_callData.memberList.cbegin(), m_callData.memberList.cend());
-    int listed = m_callData.memberList.size();
+    QStringList listed = m_callData.memberList;
+    QSet<QString> known(listed.cbegin(), listed.cend());
     StrangerCards strangers;
     for (const QString &id : document.conventioneer) {
-        // The host's answers may run an event loop, in which the list can change under this walk.
-        if (listed != m_callData.memberList.size())
-            known = QSet<QString>(m_callData.memberList.cbegin(), m_callData.memberList.cend());
+        // The host's answers may run an event loop, in which the list can change under this walk. As long as both share
+        // their data the comparison costs nothing.
+        if (listed != m_callData.memberList) {
+            listed = m_callData.memberList;
+            known = QSet<QString>(listed.cbegin(), listed.cend());
+        }
         if (!known.contains(id)) {
             known.insert(id);
+            // A list that is still shared would be copied whole by the append.
+            listed.clear();
             m_callData.memberList.append(id);
-            listed = m_callData.memberList.size();
+            listed = m_callData.memberList;
             if (m_pVoipWidget && id != m_strUserId)
                 m_pVoipWidget->addConferenceMember(id);
             strangers.test(id);

@@ -161,7 +161,8 @@ public slots:
     void slot_inviteCallTimeout();
     /// An incoming call has stayed unconnected too long: hangs it up.
     void slot_recevieCallTimeout();
-    /// Takes a member off the list and, when connected, out of the conference. An unknown id changes nothing.
+    /// Takes a member off the list and, when connected, out of the conference. An id that is no member is only taken
+    /// out of the window.
     void slot_RemoveConferenceMember(QString strUserID);
     /// Mutes or unmutes one member; an empty id sends nothing.
     void slot_MuteConferenceMember(QString strUserID, bool bMute);

@@ -34,7 +34,7 @@ public:
     /// place is one without groups.
     static CSChannelData fromJson(const Json::Value &value);
 
-    /// Compares the version alone, deliberately: callers ask in this way whether a channel has to be stored anew.
+    /// Compares the version alone, deliberately.
     bool operator==(const CSChannelData &other) const { return m_iVersion == other.m_iVersion; }
     /// The opposite of ==.
     bool operator!=(const CSChannelData &other) const { return !(*this == other); }

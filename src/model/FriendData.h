@@ -34,9 +34,9 @@ public:
     /// All empty.
     FriendData() = default;
     /// The contact of that jid, normalised and without its resource; a malformed jid leaves the key empty.
-    explicit FriendData(const QString &strJid);
+    FriendData(const QString &strJid);
     /// The user's own profile as a contact.
-    explicit FriendData(const MyProfileData &profile);
+    FriendData(const MyProfileData &profile);
 
     /// True when the jids are equal, whatever else differs.
     bool operator==(const FriendData &other) const { return m_strJid == other.m_strJid; }

@@ -12,7 +12,7 @@ public:
     /// All three parts empty.
     Jid() = default;
     /// Takes a text of the form [node@]domain[/resource] apart and normalises it; a malformed text gives an empty Jid.
-    explicit Jid(const std::string &strFull);
+    Jid(const std::string &strFull);
     /// Takes the parts as they are and normalises them; one malformed part gives an empty Jid.
     Jid(const std::string &strNode, const std::string &strDomain, const std::string &strResource);
 

@@ -63,7 +63,7 @@ public:
     /// A room with no jid and the default picture.
     MucData() = default;
     /// The room of that jid, taken as it is. The head image stays empty, deliberately.
-    explicit MucData(const QString &strRoomJid);
+    MucData(const QString &strRoomJid);
 
     /// True when the room jids are equal, whatever else differs.
     bool operator==(const MucData &other) const { return m_strRoomJid == other.m_strRoomJid; }

@@ -48,7 +48,7 @@ QString marginInside(const QString &strMargin, const QString &strBorderWidths)
 
 void SysUIData::resetData(const SysUIData &other)
 {
-    // Deliberate: the host's themes rely on the shown name and the first of the two colours standing in both places.
+    // Deliberate: the shown name and the first of the two colours then stand in both places.
     const QString strShownName = other.m_strShownName;
     const QString strColor = other.m_strColor7;
     *this = other;

@@ -93,7 +93,7 @@ void trueForEmptyOrOne(Data &data, QSettings &settings, const QString &strKey)
     data.*pField = strValue.isEmpty() || strValue == ON_TEXT;
 }
 
-// Deliberate: "0" means true, as the readers of the flag know it.
+// Deliberate: "0" means true.
 template <bool Data::*pField>
 void trueForEmptyOrZero(Data &data, QSettings &settings, const QString &strKey)
 {
@@ -139,7 +139,7 @@ void receiveFolder(Data &data, QSettings &settings, const QString &strKey)
 {
     data.m_strTransFilePath = readText(settings, strKey);
     if (data.m_strTransFilePath.isEmpty()) {
-        // Deliberately the default root, also when msgfilepath names another one: the host finds received files there.
+        // Deliberately the default root, also when msgfilepath names another one.
         data.m_strDefaultReceiveFolder =
             data.m_strDefaultDataRoot + QLatin1Char('/') + data.m_strUserName + QLatin1String("/fileRec");
         data.m_strTransFilePath = data.m_strDefaultReceiveFolder;
@@ -166,7 +166,7 @@ void chatFontSize(Data &data, QSettings &settings, const QString &strKey)
     }
 }
 
-// Deliberately unlike the chat font: rewritten once at any size, which the customer-service window relies on.
+// Deliberately unlike the chat font: rewritten once at any size.
 void agentFontSize(Data &data, QSettings &settings, const QString &strKey)
 {
     double &dSize = data.m_agentChatFont.m_dFontSize;
@@ -275,7 +275,8 @@ void SystemSetData::initCommonData()
     }
 }
 
-void SystemSetData::initData(const QString &strUserName)
+// By value: a caller may hand over one of the members that are written here.
+void SystemSetData::initData(QString strUserName)
 {
     initUserPaths(strUserName);
     readRows(*this, USER_ROWS, m_strUserConfigPath);

@@ -24,7 +24,7 @@ public:
     /// Whether the store in folder `dir` is usable: true too when there is none, and, deliberately, when it cannot be
     /// opened at all. `quickOnly` leaves out the trial write. Works on a connection of its own, never repairs, moves or
     /// deletes the file; what becomes of a damaged one is the caller's business. A file that another process keeps
-    /// locked answers nothing to either test, which reads as false, after SQLite's waiting time.
+    /// locked against reading too answers nothing to either test, which reads as false, after SQLite's waiting time.
     static bool checkDB(QString dir, bool quickOnly);
 
     /// Opens the store of `userName` under `path`, or under strAPP_DOCUMENT_IM_FILES_PATH() when that is empty, and

@@ -50,7 +50,8 @@ bool trialWrite(QSqlQuery &query)
     if (text == malformedText)
         return false;
     const bool bSound = quickCheck(query);
-    // A row that an earlier check left behind, in the words of this SQLite.
+    // A row that an earlier check left behind, in the words of this SQLite. Any other constraint's refusal, a trigger's
+    // too, has the same code and leads here as well: the id is no message's, so nothing is lost.
     if (sqliteCode(error) == constraintCode)
         deleteTrialRow(query);
     return bSound;

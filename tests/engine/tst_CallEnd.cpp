@@ -45,8 +45,11 @@ void tst_CallEnd::hangUpWithoutACallOnlyStopsTheRing()
     EngineFixture f;
     f.manager->playReceviceCall();
     f.manager->m_pVoipWidget->show();
+    f.manager->m_inviteTimer.start(60000);
+    f.manager->m_recevieTimer.start(60000);
+    QCOMPARE(f.state(), QString("idle, invite, receive, ring"));
     f.manager->hangupVoipCall();
-    QCOMPARE(f.state(), QString("idle"));
+    QCOMPARE(f.state(), QString("idle, invite, receive"));
     QCOMPARE(f.takeJournal(), QStringList());
     QVERIFY(f.manager->m_pVoipWidget->isVisible());
 }
@@ -82,6 +85,13 @@ void tst_CallEnd::everyEndHasItsResult_data()
         },
         QStringList{"CallUser \"anna\" false", "HangUpCall", annasPrompt, "4478 false anna 21 true false"} +
             kWindowCloses);
+    add(
+        "21: a refusal by nobody, before the own id is known",
+        [](EngineFixture &f) {
+            f.manager->callSingleUser("anna", false);
+            f.notify(5, "");
+        },
+        QStringList{"CallUser \"anna\" false", annasPrompt, "4478 false anna 21 true false"} + kWindowCloses);
     add(
         "22: the call failed",
         [](EngineFixture &f) {
@@ -156,29 +166,43 @@ void tst_CallEnd::everyEndHasItsResult()
 
 void tst_CallEnd::recordSaysWhoCalledAndHowLong_data()
 {
+    QTest::addColumn<bool>("caller");
     QTest::addColumn<bool>("connected");
     QTest::addColumn<qint64>("age");
+    QTest::addColumn<QString>("record");
     QTest::addColumn<qint64>("least");
     QTest::addColumn<qint64>("most");
 
-    QTest::newRow("never connected") << false << Q_INT64_C(0) << Q_INT64_C(0) << Q_INT64_C(0);
-    QTest::newRow("an hour") << true << Q_INT64_C(3600) << Q_INT64_C(3600) << Q_INT64_C(3900);
-    QTest::newRow("three days") << true << Q_INT64_C(259200) << Q_INT64_C(259200) << Q_INT64_C(259500);
+    const QString record("4478 false anna ");
+    QTest::newRow("called, never connected")
+        << true << false << Q_INT64_C(0) << record + "21 true false" << Q_INT64_C(0) << Q_INT64_C(0);
+    QTest::newRow("was called, never connected")
+        << false << false << Q_INT64_C(0) << record + "21 false false" << Q_INT64_C(0) << Q_INT64_C(0);
+    QTest::newRow("called, an hour") << true << true << Q_INT64_C(3600) << record + "24 true true" << Q_INT64_C(3600)
+                                     << Q_INT64_C(3900);
+    QTest::newRow("was called, three days")
+        << false << true << Q_INT64_C(259200) << record + "24 false true" << Q_INT64_C(259200) << Q_INT64_C(259500);
 }
 
 void tst_CallEnd::recordSaysWhoCalledAndHowLong()
 {
+    QFETCH(bool, caller);
     QFETCH(bool, connected);
     QFETCH(qint64, age);
+    QFETCH(QString, record);
     QFETCH(qint64, least);
     QFETCH(qint64, most);
     EngineFixture f;
-    f.manager->callSingleUser("anna", false);
+    if (caller)
+        f.manager->callSingleUser("anna", false);
+    else
+        f.notify(0, "anna");
     if (connected) {
         f.notify(18);
         f.manager->m_callData.connectTime = f.manager->m_callData.connectTime.addSecs(-age);
     }
-    f.manager->hangupVoipCall();
+    f.notify(7);
+    QCOMPARE(f.takeJournal().filter("4478 "), QStringList(record));
     QVERIFY(f.lastSeconds() >= least);
     QVERIFY(f.lastSeconds() <= most);
 }

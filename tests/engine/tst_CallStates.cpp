@@ -42,6 +42,7 @@ const QString kOutgoing = QStringLiteral("outgoing anna, invite");
 const QString kIncoming = QStringLiteral("incoming bert, receive, ring");
 const QString kConnected = QStringLiteral("connected anna");
 const QString kNewPrompt = QStringLiteral("4639 carl false false");
+const QString kInvitation = QStringLiteral(R"({"content":{"from":"anna","confId":"c1"}})");
 const QString kIncomingCarl = QStringLiteral("incoming carl, receive, ring");
 
 } // namespace
@@ -59,9 +60,13 @@ private slots:
     void socketLossLeavesTheCall();
     void hangUpAfterSocketLossEndsTheCallWithoutALine();
     void timersRunForSixtySeconds();
+    void acceptingDoesNotStartTheReceiveTimerAgain_data();
+    void acceptingDoesNotStartTheReceiveTimerAgain();
+    void secondIncomingCallStartsTheReceiveTimerAgain_data();
+    void secondIncomingCallStartsTheReceiveTimerAgain();
     void inviteTimerOfAnIncomingCallOnlyStops();
     void receiveTimerOfAnOutgoingCallOnlyStops();
-    void receiveTimerRestartedByASecondCallHangsUpTheConnectedOne();
+    void receiveTimerOfASecondCallHangsUpTheConnectedOne();
     void secondIncomingCallKeepsFlagTimeListsAndWindow();
     void codeEighteenInIdleLeavesFlagAndTime();
     void reconnectingTakesTheConnectTimeAgain();
@@ -253,6 +258,45 @@ void tst_CallStates::timersRunForSixtySeconds()
     QCOMPARE(f.manager->m_recevieTimer.interval(), 60000);
 }
 
+void tst_CallStates::acceptingDoesNotStartTheReceiveTimerAgain_data()
+{
+    QTest::addColumn<Event>("ring");
+
+    QTest::newRow("call") << code(0, "bert");
+    QTest::newRow("conference") << code(2, kInvitation);
+}
+
+void tst_CallStates::acceptingDoesNotStartTheReceiveTimerAgain()
+{
+    QFETCH(Event, ring);
+    EngineFixture f;
+    ring(f);
+    f.manager->m_recevieTimer.start(30000);
+    f.manager->responseVoipRequest(true);
+    QVERIFY(f.manager->m_recevieTimer.isActive());
+    QCOMPARE(f.manager->m_recevieTimer.interval(), 30000);
+}
+
+void tst_CallStates::secondIncomingCallStartsTheReceiveTimerAgain_data()
+{
+    QTest::addColumn<Event>("ring");
+
+    QTest::newRow("code 0") << code(0, "carl");
+    QTest::newRow("code 1") << code(1, "carl");
+    QTest::newRow("code 2") << code(2, kInvitation);
+}
+
+void tst_CallStates::secondIncomingCallStartsTheReceiveTimerAgain()
+{
+    QFETCH(Event, ring);
+    EngineFixture f;
+    f.notify(0, "bert");
+    f.manager->m_recevieTimer.start(30000);
+    ring(f);
+    QVERIFY(f.manager->m_recevieTimer.isActive());
+    QCOMPARE(f.manager->m_recevieTimer.interval(), 60000);
+}
+
 void tst_CallStates::inviteTimerOfAnIncomingCallOnlyStops()
 {
     EngineFixture f;
@@ -274,7 +318,7 @@ void tst_CallStates::receiveTimerOfAnOutgoingCallOnlyStops()
     QCOMPARE(f.state(), kOutgoing);
 }
 
-void tst_CallStates::receiveTimerRestartedByASecondCallHangsUpTheConnectedOne()
+void tst_CallStates::receiveTimerOfASecondCallHangsUpTheConnectedOne()
 {
     EngineFixture f;
     enter(f, "Connected");

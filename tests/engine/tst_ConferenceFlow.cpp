@@ -29,6 +29,8 @@ private slots:
     void acceptedInvitationShowsTheMembers();
     void acceptedInvitationWithoutMembersShowsAnEmptyList();
     void ownIdIsLeftOutOnceOnly();
+    void acceptTellsTheWindowWhoseConferenceItIs_data();
+    void acceptTellsTheWindowWhoseConferenceItIs();
     void membersComeAfterTheAccept();
     void rejectedInvitationSendsRejectConf();
     void anyoneHangingUpEndsItForThisSide_data();
@@ -108,6 +110,7 @@ void tst_ConferenceFlow::startAsksForTheCardsOfStrangers_data()
     QTest::newRow("strangers and a contact")
         << QStringList{"carl", "bert", "kv6005626532", "dora"} << QStringList{"carl", "dora"};
     QTest::newRow("contacts only") << QStringList{"bert"} << QStringList();
+    QTest::newRow("the own id among them") << QStringList{"carl", "me"} << QStringList{"carl", "me"};
     QTest::newRow("nobody") << QStringList() << QStringList();
 }
 
@@ -122,7 +125,7 @@ void tst_ConferenceFlow::startAsksForTheCardsOfStrangers()
     const QList<ReceivedEvent> requests = f.host.received(MSG_GET_STRANGER_SMALL_VCARD);
     QCOMPARE(requests.size(), 1);
     QTEST(requests.constFirst().reader().takeTexts(), "ids");
-    // Asked about those that the host named, the own id not among them.
+    // Asked about those that the host named, the own id only when it is among them.
     QCOMPARE(f.host.received(MSG_IS_EXIST_FRIEND).size(), users.size());
 }
 
@@ -244,6 +247,30 @@ void tst_ConferenceFlow::ownIdIsLeftOutOnceOnly()
     QCOMPARE(f.members(), QStringList({"anna 0*", "me 0"}));
     f.manager->slot_AddConfMember();
     QCOMPARE(f.host.received(MSG_ADD_CONFERENCE_MEMBER).constFirst().reader().takeTexts(), QStringList({"anna", "me"}));
+}
+
+void tst_ConferenceFlow::acceptTellsTheWindowWhoseConferenceItIs_data()
+{
+    QTest::addColumn<bool>("own");
+
+    QTest::newRow("the own one") << true;
+    QTest::newRow("another's") << false;
+}
+
+void tst_ConferenceFlow::acceptTellsTheWindowWhoseConferenceItIs()
+{
+    QFETCH(bool, own);
+    EngineFixture f;
+    if (own)
+        startConference(f);
+    else
+        beInvited(f);
+    // What the window showed before must not count.
+    f.manager->m_pVoipWidget->setVoipCallInfo({}, CVoipWidget::Conference, !own, false);
+    f.manager->responseVoipRequest(true);
+    QCOMPARE(f.takeJournal(), QStringList{"AcceptConf"});
+    for (const char *button : {"btnMuteAll", "btnAddMember"})
+        QCOMPARE(!f.manager->m_pVoipWidget->findChild<QWidget *>(button)->isHidden(), own);
 }
 
 void tst_ConferenceFlow::membersComeAfterTheAccept()

@@ -50,6 +50,8 @@ void tst_ConferenceMembers::addingPeople_data()
     QTest::newRow("the same twice") << QStringList{"carl", "carl"} << "Add2Conference [\"carl\",\"carl\"]" + rest
                                     << QStringList{"anna", "bert", "me", "carl"}
                                     << QStringList{"anna 0", "bert 0", "carl 0"};
+    QTest::newRow("the own id") << QStringList{"me"} << "Add2Conference [\"me\"]" + rest
+                                << QStringList{"anna", "bert", "me"} << QStringList{"anna 0", "bert 0", "me 0*"};
     QTest::newRow("nobody") << QStringList() << "Add2Conference null" + rest << QStringList{"anna", "bert", "me"}
                             << QStringList{"anna 0", "bert 0"};
 }

@@ -1,10 +1,13 @@
 // The notifications of who is in a conference: the update of its members, and that one has left.
 
 #include "ConferenceContent.h"
+#include "WhileAsked.h"
 #include "fakes/EngineFixture.h"
 #include "ui/VoipWidget.h"
 
 #include <QTest>
+
+#include <utility>
 
 class tst_ConferenceUpdates : public QObject
 {
@@ -13,12 +16,15 @@ class tst_ConferenceUpdates : public QObject
 private slots:
     void updateAddsEachMemberOnceAndReplacesTheConnected();
     void updateAsksForStrangersEvenWithNone();
+    void updateAsksForTheOwnIdToo();
     void updateNeverTakesAMemberAway();
     void updateLeavesTheOwnIdOutOfTheWindow();
     void updateOfAnotherConferenceIsIgnored_data();
     void updateOfAnotherConferenceIsIgnored();
     void updateInIdleHasItsEffects();
     void updateSeesMembersThatCameWhileTheHostAnswered();
+    void updateSeesMembersThatChangedPlacesWhileTheHostAnswered();
+    void updateTakesIdAndTimeBeforeTheHostIsAsked();
     void updateAsksTheHostBetweenTheMembersAndTheConnected();
     void leavingMarksTheMemberAndReplacesTheConnected();
     void leavingTakesNoTime();
@@ -66,6 +72,16 @@ void tst_ConferenceUpdates::updateAsksForStrangersEvenWithNone()
     // Known members are not asked for again.
     f.notify(12, conferenceContent(R"("confId":"c1","conventioneer":["carl","dora"])"));
     QCOMPARE(asked(), QStringList{"||1"});
+}
+
+void tst_ConferenceUpdates::updateAsksForTheOwnIdToo()
+{
+    EngineFixture f;
+    f.manager->m_strUserId = "me";
+    f.notify(12, conferenceContent(R"("confId":"c1","conventioneer":["me"])"));
+    QCOMPARE(f.host.received(MSG_IS_EXIST_FRIEND).size(), 1);
+    EngineFixture::deliverPosted();
+    QCOMPARE(f.host.received(MSG_GET_STRANGER_SMALL_VCARD).constLast().reader().takeTexts(), QStringList{"me"});
 }
 
 void tst_ConferenceUpdates::updateNeverTakesAMemberAway()
@@ -133,6 +149,31 @@ void tst_ConferenceUpdates::updateSeesMembersThatCameWhileTheHostAnswered()
     };
     f.notify(12, conferenceContent(R"("confId":"c1","conventioneer":["carl","dora"])"));
     QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl", "dora"}));
+}
+
+void tst_ConferenceUpdates::updateSeesMembersThatChangedPlacesWhileTheHostAnswered()
+{
+    EngineFixture f;
+    f.createConference();
+    f.whileHandled = [&f, bAsked = false](BaseEvent &event) mutable {
+        if (event.msgId != MSG_IS_EXIST_FRIEND || std::exchange(bAsked, true))
+            return;
+        // While carl is asked about one goes and one comes: the list is as long as before.
+        QStringList &members = f.manager->m_callData.memberList;
+        members.removeOne("anna");
+        members.append("dora");
+    };
+    f.notify(12, conferenceContent(R"("confId":"c1","conventioneer":["carl","dora","anna"])"));
+    QCOMPARE(f.manager->m_callData.memberList, QStringList({"bert", "me", "carl", "dora", "anna"}));
+}
+
+void tst_ConferenceUpdates::updateTakesIdAndTimeBeforeTheHostIsAsked()
+{
+    EngineFixture f;
+    WhileAsked asked(f);
+    f.notify(12, conferenceContent(R"("confId":"c1","conventioneer":["anna"],"createTime":1600000000123)"));
+    const QString time = QDateTime::fromMSecsSinceEpoch(1600000000123).toString(Qt::ISODateWithMs);
+    QCOMPARE(asked.call, "0|0|0|0|anna|||c1||" + time);
 }
 
 void tst_ConferenceUpdates::updateAsksTheHostBetweenTheMembersAndTheConnected()

@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QLocalSocket>
-#include <QRegularExpression>
 #include <QTest>
 
 #include <functional>
@@ -26,6 +25,11 @@ private slots:
     void operationWithoutAnEffectWritesNothing();
     void commandWithoutASocketIsStillLogged();
     void wholeCallReadsInItsOrder();
+    void refusedCallIsLoggedBeforeItsTests_data();
+    void refusedCallIsLoggedBeforeItsTests();
+    void operationReadsInItsOrder_data();
+    void operationReadsInItsOrder();
+    void clientGoneUnregistersBehindTheHangUp();
     void cleanupTestCase();
 
 private:
@@ -47,11 +51,7 @@ void tst_EngineLog::cleanupTestCase()
 /// What has been logged since the last call, as "LEVEL text".
 QStringList tst_EngineLog::takeTexts()
 {
-    static const QRegularExpression prefix(QStringLiteral("^\\[(\\w+)\\]\\[[^\\]]*\\]: "));
-    QStringList texts = m_log->take();
-    for (QString &text : texts)
-        text.replace(prefix, QStringLiteral("\\1 "));
-    return texts;
+    return m_log->takeTexts();
 }
 
 void tst_EngineLog::startNamesTheProgramAndTheSteps()
@@ -189,6 +189,74 @@ void tst_EngineLog::wholeCallReadsInItsOrder()
                   "DEBUG recevie call user=bert, bIsConf=0, bIsVideo=0", "DEBUG use response voip request, baccept = 0",
                   "DEBUG reject call!", "DEBUG sendVoipMsg = {\"messagetype\":\"RejectCall\"}", "DEBUG stop ring!",
                   "DEBUG call finish!", "DEBUG clear call data!", "DEBUG clear call info!", "DEBUG setmic bMute = 0"}));
+}
+
+void tst_EngineLog::refusedCallIsLoggedBeforeItsTests_data()
+{
+    QTest::addColumn<Step>("run");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("single call") << Step([](EngineFixture &f) { f.manager->callSingleUser("anna", false); })
+                                 << "DEBUG user singlecall touser = anna, isVideo = 0";
+    QTest::newRow("conference") << Step([](EngineFixture &f) { f.manager->callConference({"anna"}, false, ""); })
+                                << "DEBUG call conf uselist = anna";
+}
+
+void tst_EngineLog::refusedCallIsLoggedBeforeItsTests()
+{
+    QFETCH(Step, run);
+    QFETCH(QString, text);
+    EngineFixture f;
+    f.notify(0, "bert");
+    takeTexts();
+    run(f);
+    QCOMPARE(f.boxes.texts.size(), 1);
+    QCOMPARE(takeTexts(), QStringList{text});
+}
+
+void tst_EngineLog::operationReadsInItsOrder_data()
+{
+    QTest::addColumn<Step>("run");
+    QTest::addColumn<QStringList>("texts");
+
+    const auto add = [](const char *name, const Step &run, const QStringList &texts) {
+        QTest::newRow(name) << run << texts;
+    };
+    add("accept", [](EngineFixture &f) { f.manager->acceptVoipCall(); },
+        {"DEBUG accept voip call", "DEBUG stop ring!"});
+    add("hang-up", [](EngineFixture &f) { f.manager->hangupVoipCall(); },
+        {"DEBUG hangup voip call!", "DEBUG stop ring!"});
+    add("mute one", [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("anna", true); },
+        {"DEBUG mute conf user id = anna, bMute = 1",
+         "DEBUG control conf operation = 1, isAllMember = 0, userid = anna"});
+    add("mute all", [](EngineFixture &f) { f.manager->slot_MuteAll(true); },
+        {"DEBUG bMuteAll = 1", "DEBUG control conf operation = 1, isAllMember = 1, userid = "});
+    add("invite again", [](EngineFixture &f) { f.manager->slot_ReInviteConfUser("anna"); },
+        {"DEBUG reInvite conf user = anna", "DEBUG add conf member = anna"});
+    add("remove", [](EngineFixture &f) { f.manager->slot_RemoveConferenceMember("anna"); },
+        {"DEBUG remove conf member = anna", "DEBUG control conf operation = 0, isAllMember = 0, userid = anna"});
+}
+
+void tst_EngineLog::operationReadsInItsOrder()
+{
+    QFETCH(Step, run);
+    QFETCH(QStringList, texts);
+    EngineFixture f;
+    f.createConference();
+    f.manager->m_callData.connectedList = QStringList{"anna"};
+    takeTexts();
+    run(f);
+    QCOMPARE(takeTexts().mid(0, texts.size()), texts);
+}
+
+void tst_EngineLog::clientGoneUnregistersBehindTheHangUp()
+{
+    EngineFixture f;
+    takeTexts();
+    f.manager->clientConnectStatus(false);
+    QCOMPARE(takeTexts().mid(0, 4),
+             QStringList({"DEBUG client disconnect, hangupcall, unrededit user!", "DEBUG hangup voip call!",
+                          "DEBUG stop ring!", "DEBUG unregedit current user "}));
 }
 
 QTEST_MAIN(tst_EngineLog)

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QPointer>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace {
@@ -24,10 +25,12 @@ private slots:
     void failedConnectArmsOneSecondOnce();
     void lossesWaitLongerEachTimeAndThenFromOneSecondAgain_data();
     void lossesWaitLongerEachTimeAndThenFromOneSecondAgain();
+    void furtherLossStartsARunningTimerWithTheNextDelay();
     void connectAfterSevenFailuresMakesTheNextLossWaitOneSecond();
     void timerOfTheBackOffReconnects();
     void retriesWithoutASocketToTalkTo();
     void reconnectStopsTheTimerAndUsesTheSameSocket();
+    void connectingAgainKeepsTheConnectionAndRegistersAgain();
     void socketErrorChangesNoState();
 
     void exitHangsUpSaysQuitAndArmsTheTimer();
@@ -85,6 +88,15 @@ void tst_SdkChannel::lossesWaitLongerEachTimeAndThenFromOneSecondAgain()
     QCOMPARE(intervals, kBackOff + kBackOff + kBackOff);
 }
 
+void tst_SdkChannel::furtherLossStartsARunningTimerWithTheNextDelay()
+{
+    EngineFixture f(EngineFixture::NoCallProcess);
+    QVERIFY(f.manager->m_reconnectTimer.isActive());
+    f.manager->slot_VoipSDKDisConnected();
+    QVERIFY(f.manager->m_reconnectTimer.isActive());
+    QCOMPARE(f.manager->m_reconnectTimer.interval(), 4000);
+}
+
 void tst_SdkChannel::connectAfterSevenFailuresMakesTheNextLossWaitOneSecond()
 {
     EngineFixture f(EngineFixture::NoCallProcess);
@@ -135,6 +147,24 @@ void tst_SdkChannel::reconnectStopsTheTimerAndUsesTheSameSocket()
     const QtMessages messages;
     f.process.send(FakeCallProcess::line(999, "once"));
     QTRY_COMPARE(deliveredPayloads(messages), QStringList{"once"});
+}
+
+void tst_SdkChannel::connectingAgainKeepsTheConnectionAndRegistersAgain()
+{
+    EngineFixture f;
+    f.manager->regeditVoipUser("me", "Nick", "ticket");
+    f.takeLines();
+    QLocalSocket *socket = f.manager->m_pVoipSocket;
+    const QSignalSpy ends(socket, &QLocalSocket::disconnected);
+    const QtMessages messages;
+    f.manager->creatVoipSDKSocket();
+    QCOMPARE(messages.debugLines, QStringList{QString::number(QLocalSocket::OperationError)});
+    QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"me\" \"Nick\" \"ticket\" false"});
+    QVERIFY(f.manager->m_bSocketConnected);
+    QCOMPARE(f.manager->m_pVoipSocket, socket);
+    QCOMPARE(socket->state(), QLocalSocket::ConnectedState);
+    QCOMPARE(ends.count(), 0);
+    QVERIFY(!f.manager->m_reconnectTimer.isActive());
 }
 
 void tst_SdkChannel::socketErrorChangesNoState()

@@ -40,12 +40,11 @@ public:
     QStringList takeLines(QLocalSocket *client);
     /// The same after the client has closed its end.
     QStringList takeLastLines();
-    /// The lines of takeLines() as bytes, with their line feeds.
-    QList<QByteArray> takeRawLines(QLocalSocket *client);
 
 private:
     void acceptClient();
     void readUntil(const QByteArray &end);
+    QList<QByteArray> takeRawLines(QLocalSocket *client);
 
     QLocalServer m_server;
     QPointer<QLocalSocket> m_pClient;

@@ -4,6 +4,7 @@
 #include "common/CommonFun.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 
 namespace {
@@ -60,4 +61,13 @@ QStringList LogCapture::take()
         line.remove(0, line.indexOf(QLatin1Char(']')) + 1);
     }
     return lines;
+}
+
+QStringList LogCapture::takeTexts()
+{
+    static const QRegularExpression prefix(QStringLiteral("^\\[(\\w+)\\]\\[[^\\]]*\\]: "));
+    QStringList texts = take();
+    for (QString &text : texts)
+        text.replace(prefix, QStringLiteral("\\1 "));
+    return texts;
 }

@@ -23,12 +23,16 @@ public:
     /// their way are waited for.
     QStringList take();
 
+    /// The same as "LEVEL text", without the place.
+    QStringList takeTexts();
+
+    /// The whole log as it stands in the file; what is still on its way is not in it.
+    QString written();
+
     /// The shared client context; a test may fill in more.
     CommonData context;
 
 private:
-    QString written();
-
     CustomLogger m_logger;
     CLogThread m_thread;
     int m_takeCount = 0;

@@ -242,6 +242,40 @@ private slots:
         QVERIFY(data.m_bSubscribed);
     }
 
+    void anEmptyChannelIsAChannel()
+    {
+        CServiceNumData data;
+        data.parseFromJson(json(R"({"channel":null})"));
+        QCOMPARE(data.m_channel.m_iStatus, CSChannelData().m_iStatus);
+        data.parseFromJson(json(R"({"channel":{}})"));
+        QCOMPARE(data.m_channel.m_iStatus, 1);
+    }
+
+    void eachSwitchFillsItsOwnField_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<int>("field");
+        QTest::newRow("isSub") << QByteArray(R"({"channel":{},"isSub":true})") << 0;
+        QTest::newRow("isBindApp") << QByteArray(R"({"channel":{},"isBindApp":true})") << 1;
+        QTest::newRow("isInteractive") << QByteArray(R"({"channel":{},"isInteractive":true})") << 2;
+        QTest::newRow("fold") << QByteArray(R"({"channel":{},"fold":true})") << 3;
+        QTest::newRow("agentCloseSession") << QByteArray(R"({"channel":{"agentCloseSession":true}})") << 4;
+        QTest::newRow("agentOpenSession") << QByteArray(R"({"channel":{"agentOpenSession":true}})") << 5;
+    }
+
+    void eachSwitchFillsItsOwnField()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(int, field);
+        CServiceNumData data;
+        data.parseFromJson(json(text.constData()));
+        QVector<bool> expected(6, false);
+        expected[field] = true;
+        QCOMPARE((QVector<bool>{data.m_bSubscribed, data.m_bBindApp, data.m_bInteractive, data.m_bFold,
+                                data.m_channel.m_bAllowClose, data.m_channel.m_bAllowOpen}),
+                 expected);
+    }
+
     void aMenuTextMayHoldComments()
     {
         CServiceNumData data;
@@ -292,8 +326,10 @@ private slots:
         QCOMPARE(data.m_strServiceCode, QString("c1"));
         QCOMPARE(data.m_listMenu.size(), 2);
         QCOMPARE(data.m_channel.m_iVersion, Q_INT64_C(9007199254740993));
+        const QString strMenuText = data.m_strMenuText;
         QVERIFY_EXCEPTION_THROWN(data.parseServiceMenuFromString("[{\"name\":\"x\"},7]"), Json::LogicError);
         QCOMPARE(data.m_listMenu.size(), 2);
+        QCOMPARE(data.m_strMenuText, strMenuText);
     }
 
     void channelsCompareByVersionAlone()

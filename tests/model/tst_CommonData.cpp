@@ -164,7 +164,6 @@ private slots:
         context.setServiceNumDataMap({});
         QCOMPARE(context.getServiceNumDataMap().keys(), QStringList({"1", "2"}));
         QCOMPARE(context.getServiceNumDataMap().value("1").m_strName, QString("Eins"));
-        QCOMPARE(CServiceNumData().m_strVersion, QString("-1"));
     }
 
     void serviceNumbersByCodesIgnoreTheList()

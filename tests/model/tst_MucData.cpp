@@ -83,7 +83,7 @@ private slots:
         row("inner room", false, [](MucData &room) { room.m_bIsInnerMuc = true; });
         row("version", true, [](MucData &room) { room.m_strVersion = "9"; });
         row("room jid", true, [](MucData &room) { room.m_strRoomJid = "x"; });
-        row("account", true, [](MucData &room) { room.m_strJid = "x"; });
+        row("stored jid", true, [](MucData &room) { room.m_strJid = "x"; });
         row("create time", true, [](MucData &room) { room.m_strCreateTime = "x"; });
         row("size limit", true, [](MucData &room) { room.m_iMaxMemberCount = 1; });
         row("class", true, [](MucData &room) { room.m_strClassify = "x"; });

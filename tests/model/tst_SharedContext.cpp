@@ -63,12 +63,19 @@ private slots:
         SharedContext::setCanModifyPassword(true);
         SharedContext::setMucRoomMaxSize(1);
 
+        // Neither kept for a context to come nor answered while there is none.
         CommonData context;
-        SharedContext::setCommonData(&context);
-        QVERIFY(SharedContext::getFriendDataMap().isEmpty());
-        QVERIFY(SharedContext::getHeadJidList().isEmpty());
-        QVERIFY(SharedContext::getMucDataMap().isEmpty());
-        QVERIFY(SharedContext::getServiceNumDataMap().isEmpty());
+        for (CommonData *pContext : {static_cast<CommonData *>(nullptr), &context}) {
+            SharedContext::setCommonData(pContext);
+            QVERIFY(SharedContext::getFriendDataMap().isEmpty());
+            QVERIFY(SharedContext::getHeadJidList().isEmpty());
+            QVERIFY(SharedContext::getMucDataMap().isEmpty());
+            QVERIFY(SharedContext::getServiceNumDataMap().isEmpty());
+            QVERIFY(!SharedContext::getSupportVoIPFlag());
+            QCOMPARE(SharedContext::getFileTransferMaxSize(), qint64(0));
+            QVERIFY(!SharedContext::getCanModifyPassword());
+            QCOMPARE(SharedContext::getMucRoomMaxSize(), qint64(0));
+        }
     }
 
     void objectsAreThoseOfTheContext()

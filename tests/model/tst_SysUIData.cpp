@@ -146,15 +146,16 @@ private slots:
     {
         SysUIData skin = markedSkin("a");
         SysUIData other = markedSkin("b");
-        other.m_bSecondMark = false;
+        other.m_bFirstMark = false;
+        skin.m_bSecondMark = false;
         skin.resetData(other);
         for (const Text &text : texts()) {
             const int iSource = text.iPosition == 4 ? 3 : text.iPosition == 8 ? 7 : text.iPosition;
             QVERIFY2(skin.*text.pMember == "b" + QString::number(iSource), text.pName);
         }
         QVERIFY(skin.m_iconCodes == other.m_iconCodes);
-        QVERIFY(skin.m_bFirstMark);
-        QVERIFY(!skin.m_bSecondMark);
+        QVERIFY(!skin.m_bFirstMark);
+        QVERIFY(skin.m_bSecondMark);
         QCOMPARE(other.m_strText4, QString("b4"));
         QCOMPARE(other.m_strColor8, QString("b8"));
     }

@@ -24,6 +24,15 @@ private slots:
         QCOMPARE(data.m_strSaveToMyChosen, QString());
         QCOMPARE(data.m_strMsgFilePath, strAPP_DOCUMENT_IM_FILES_PATH());
         QVERIFY(QDir(strAPP_DOCUMENT_IM_FILES_PATH()).exists());
+        QVERIFY(!QFileInfo::exists(strAPP_INFO_FILE_PATH()));
+    }
+
+    void aStoredButEmptyRootIsTheDefaultRoot()
+    {
+        QVERIFY(writeFile(strAPP_INFO_FILE_PATH(), "[msgSetting]\nmsgfilepath=\n"));
+        SystemSetData data;
+        data.initCommonData();
+        QCOMPARE(data.m_strMsgFilePath, strAPP_DOCUMENT_IM_FILES_PATH());
     }
 
     void theCommonFileIsReadAndItsRootMade()
@@ -113,6 +122,20 @@ private slots:
         QCOMPARE(settings.value("privacySetting/CanViewCompanyInfo").toString(), QString("1"));
         QCOMPARE(settings.value("privacySetting/CanViewMobile").toString(), QString("1"));
         QCOMPARE(settings.value("agentChatFontSetting/fontsize").toString(), QString("14"));
+    }
+
+    void anEmptyPrivacyChoiceIsRepaired_data()
+    {
+        QTest::addColumn<QString>("key");
+        for (const char *pKey : {"CanSearch", "CanViewCompanyInfo", "CanViewMobile"})
+            QTest::newRow(pKey) << QStringLiteral("/privacySetting/") + pKey;
+    }
+
+    void anEmptyPrivacyChoiceIsRepaired()
+    {
+        QFETCH(QString, key);
+        readUser({{key, ""}});
+        QCOMPARE(QSettings(userFile(), QSettings::IniFormat).value(key).toString(), QString("1"));
     }
 
     void aStoredPrivacyChoiceIsNotOverwritten()

@@ -263,6 +263,16 @@ private slots:
         QVERIFY(!UserIds::isAgentSystemSession("12_KFCNL1"));
     }
 
+    void sessionOfTwoChannelsIsTheSystemsUnlessTheSecondIsMine()
+    {
+        {
+            const SignedInContext context("KFCNL1", "example.org");
+            QVERIFY(UserIds::isAgentSystemSession("KFCNL1_KFCNL2"));
+        }
+        const SignedInContext context("KFCNL2", "example.org");
+        QVERIFY(!UserIds::isAgentSystemSession("KFCNL1_KFCNL2"));
+    }
+
     void noChannelIsANullTextAndNoUserAnEmptyOne()
     {
         QVERIFY(UserIds::getChannelIdBySessionId("a_b").isNull());

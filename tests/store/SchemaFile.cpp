@@ -17,12 +17,38 @@ int noteWrite(unsigned, void *list, void *statement, void *)
     return 0;
 }
 
-int noteStatement(unsigned, void *list, void *statement, void *)
+QString textWithValues(void *statement)
 {
     char *text = sqlite3_expanded_sql(static_cast<sqlite3_stmt *>(statement));
-    static_cast<QStringList *>(list)->append(QString::fromUtf8(text));
+    QString copy = QString::fromUtf8(text);
     sqlite3_free(text);
+    return copy;
+}
+
+int noteStatement(unsigned, void *list, void *statement, void *)
+{
+    static_cast<QStringList *>(list)->append(textWithValues(statement));
     return 0;
+}
+
+int noteBothTexts(unsigned, void *list, void *statement, void *)
+{
+    const QString text = QString::fromUtf8(sqlite3_sql(static_cast<sqlite3_stmt *>(statement)));
+    const QString withValues = textWithValues(statement);
+    static_cast<QStringList *>(list)->append(withValues == text ? text : text + " | " + withValues);
+    return 0;
+}
+
+// As long as the program, as a connection may outlive the function that opened it.
+QStringList &notedOnNewConnections()
+{
+    static QStringList statements;
+    return statements;
+}
+
+int noteNewConnection(sqlite3 *pDatabase, char **, const struct sqlite3_api_routines *)
+{
+    return sqlite3_trace_v2(pDatabase, SQLITE_TRACE_STMT, &noteBothTexts, &notedOnNewConnections());
 }
 
 QStringList noted(Note note, void (*work)())
@@ -111,4 +137,14 @@ QStringList SchemaFile::writesOf(void (*work)())
 QStringList SchemaFile::statementsOf(void (*work)())
 {
     return noted(&noteStatement, work);
+}
+
+QStringList SchemaFile::statementsOfNewConnections(const std::function<void()> &work)
+{
+    const auto hook = reinterpret_cast<void (*)()>(&noteNewConnection);
+    notedOnNewConnections().clear();
+    sqlite3_auto_extension(hook);
+    work();
+    sqlite3_cancel_auto_extension(hook);
+    return notedOnNewConnections();
 }

@@ -4,6 +4,8 @@
 
 #include "store/StoreFixture.h"
 
+#include <functional>
+
 class SchemaFile : public StoreFixture
 {
 public:
@@ -35,4 +37,7 @@ public:
     static QStringList writesOf(void (*work)());
     /// The same with the SELECTs, and with the values in the places that they were bound to.
     static QStringList statementsOf(void (*work)());
+    /// Runs a function; what the connections that it opens execute from their first statement on, as the texts that
+    /// reached the database, each with " | " and the same text with its values behind it when it has some.
+    static QStringList statementsOfNewConnections(const std::function<void()> &work);
 };

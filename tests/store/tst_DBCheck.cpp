@@ -109,6 +109,15 @@ private slots:
         QVERIFY(!DB::checkDB(m_store->folder(), true));
     }
 
+    void aTrialRowThatCannotBeDeletedDoesNotChangeTheVerdict()
+    {
+        makeStore(filler + QStringList("CREATE TRIGGER keep BEFORE DELETE ON msgrecord BEGIN SELECT RAISE(ABORT, 'no');"
+                                       " END"));
+        spoilTail();
+        QVERIFY(DB::checkDB(m_store->folder(), false));
+        QCOMPARE(BesideFile(m_store->file()).rows(trialRows), QStringList("checkid"));
+    }
+
     void aMalformedMessageTableIsDamage()
     {
         makeStore();

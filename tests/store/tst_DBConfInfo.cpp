@@ -4,6 +4,13 @@
 #include <QTest>
 
 #include <memory>
+#include <type_traits>
+
+static_assert(std::is_default_constructible_v<DBConfInfo> && std::is_empty_v<DBConfInfo>);
+static_assert(std::is_same_v<decltype(&DBConfInfo::saveConfInfo), bool (*)(ConfInfoData)>);
+static_assert(std::is_same_v<decltype(&DBConfInfo::getAllConfInfo), QList<ConfInfoData> (*)()>);
+static_assert(std::is_same_v<decltype(&DBConfInfo::deleteConfInfo), bool (*)(QString)>);
+static_assert(std::is_copy_constructible_v<ConfInfoData> && std::is_copy_assignable_v<ConfInfoData>);
 
 namespace {
 

@@ -7,6 +7,18 @@
 #include <QTest>
 
 #include <memory>
+#include <type_traits>
+
+static_assert(std::is_same_v<decltype(&DBLastTime::saveLastTime), void (*)(const QString &)>);
+static_assert(std::is_same_v<decltype(&DBLastTime::updateLastTime), void (*)(const QString &)>);
+static_assert(std::is_same_v<decltype(&DBLastTime::getLastTime), QString (*)()>);
+
+namespace {
+
+const QString noConnection = QStringLiteral("Driver not loaded Driver not loaded");
+const QString noTable = QStringLiteral("no such table: last_time Unable to execute statement");
+
+} // namespace
 
 class tst_DBLastTime : public QObject
 {
@@ -94,60 +106,83 @@ private slots:
         DBLastTime::updateLastTime("1700000000");
         DBLastTime::saveLastTime("1700000001");
         QCOMPARE(DBLastTime::getLastTime(), QString("1700000000"));
-        const QStringList log = m_log->take();
-        QCOMPARE(log.size(), 1);
-        const QRegularExpression line("^\\[ERROR\\]\\[DBLastTime\\.cpp:\\d+\\]: (.*)$");
-        QCOMPARE(line.match(log[0]).captured(1),
-                 QStringLiteral("DBLastTime::saveLastTime(),ERROR:保存最后一次时间失败.strLastTime=1700000001"
-                                "，数据库错误:UNIQUE constraint failed: last_time.sessionId Unable to fetch row"));
+        QCOMPARE(loggedErrors(), QStringList(saveFailed("1700000001") +
+                                             "UNIQUE constraint failed: last_time.sessionId Unable to fetch row"));
     }
 
     void aFailedUpdateIsLogged()
     {
         QVERIFY(run("CREATE TRIGGER refuse BEFORE UPDATE ON last_time BEGIN SELECT RAISE(ABORT, 'refused'); END"));
         DBLastTime::updateLastTime("1700000001");
-        const QStringList log = m_log->take();
-        QCOMPARE(log.size(), 1);
-        const QRegularExpression line("^\\[ERROR\\]\\[DBLastTime\\.cpp:\\d+\\]: (.*)$");
-        QCOMPARE(line.match(log[0]).captured(1),
-                 QStringLiteral("DBLastTime::updateLastTime(),ERROR:更新时间信息失败.strLastTime=1700000001"
-                                "，数据库错误:refused Unable to fetch row"));
+        QCOMPARE(loggedErrors(), QStringList(updateFailed("1700000001") + "refused Unable to fetch row"));
     }
 
     void withoutAnOpenStoreWritesAreLoggedAndNoTimeIsRead()
     {
         DB::closeDB();
-        DBLastTime::saveLastTime("1");
-        DBLastTime::updateLastTime("2");
-        QCOMPARE(DBLastTime::getLastTime(), QString("-1"));
-        logHoldsBothFailures();
+        writeAndRead();
+        QCOMPARE(loggedErrors(), QStringList({saveFailed("1") + noConnection, updateFailed("2") + noConnection}));
+    }
+
+    // The closed connection has a driver, which has nothing to say.
+    void afterAFailedOpenWritesAreLoggedAndNoTimeIsRead()
+    {
+        QVERIFY(!DB::initByUserName("bert", m_store->base(), false));
+        writeAndRead();
+        QCOMPARE(loggedErrors(), QStringList({saveFailed("1"), updateFailed("2")}));
     }
 
     void aTableThatCannotBeMadeIsLogged()
     {
         DB::closeDB();
         DB::createLastTimeTable();
-        const QStringList log = m_log->take();
-        QCOMPARE(log.size(), 1);
-        QVERIFY(log.constFirst().contains(QStringLiteral("保存最后一次时间失败.strLastTime=，")));
+        QCOMPARE(loggedErrors(), QStringList(saveFailed(QString()) + noConnection));
     }
 
     void aStoreWithoutTheTableIsLoggedToo()
     {
-        QVERIFY(run("DROP TABLE last_time"));
-        DBLastTime::saveLastTime("1");
-        DBLastTime::updateLastTime("2");
-        QCOMPARE(DBLastTime::getLastTime(), QString("-1"));
-        logHoldsBothFailures();
+        // By the session itself: its next statement then fails when it is prepared.
+        QVERIFY(QSqlQuery(DB::getDB()).exec("DROP TABLE last_time"));
+        writeAndRead();
+        QCOMPARE(loggedErrors(), QStringList({saveFailed("1") + noTable, updateFailed("2") + noTable}));
+    }
+
+    void aFirstOpenWithoutAContextLeavesTheRowMissingForGood()
+    {
+        DB::closeDB();
+        CommonFun::setCommonData(nullptr);
+        QVERIFY(m_store->open("bert"));
+        QCOMPARE(loggedErrors(), QStringList(saveFailed(QString()) + noConnection));
+        QVERIFY(m_store->open("bert"));
+        CommonFun::setCommonData(&m_store->context);
+        QVERIFY(m_store->open("bert"));
+        QVERIFY(DB::isExistTable("last_time"));
+        QCOMPARE(BesideFile(m_store->file("bert")).rows("SELECT * FROM last_time"), QStringList());
+        QCOMPARE(m_log->take(), QStringList());
     }
 
 private:
-    void logHoldsBothFailures()
+    static QString saveFailed(const QString &time)
     {
-        const QStringList log = m_log->take();
-        QCOMPARE(log.size(), 2);
-        QVERIFY(log.constFirst().contains(QStringLiteral("保存最后一次时间失败.strLastTime=1，")));
-        QVERIFY(log.constLast().contains(QStringLiteral("更新时间信息失败.strLastTime=2，")));
+        return "DBLastTime::saveLastTime(),ERROR:保存最后一次时间失败.strLastTime=" + time + "，数据库错误:";
+    }
+    static QString updateFailed(const QString &time)
+    {
+        return "DBLastTime::updateLastTime(),ERROR:更新时间信息失败.strLastTime=" + time + "，数据库错误:";
+    }
+
+    static void writeAndRead()
+    {
+        DBLastTime::saveLastTime("1");
+        DBLastTime::updateLastTime("2");
+        QCOMPARE(DBLastTime::getLastTime(), QString("-1"));
+    }
+
+    /// The texts of the records since the last look; a record that is no error or comes from elsewhere as it is.
+    QStringList loggedErrors()
+    {
+        return m_log->take().replaceInStrings(QRegularExpression("^\\[ERROR\\]\\[DBLastTime\\.cpp:\\d+\\]: "),
+                                              QString());
     }
 
     QStringList stored()

@@ -18,6 +18,9 @@ private slots:
     void knownRecordIsLookedUpOnly();
     void recordsAreListedAndDeletedInTheseWords();
     void lastTimeIsKeptInTheseWords();
+    void waitingForTheDiskIsSwitchedOffBeforeAnyTable();
+    void checkWritesAndDeletesInTheseWords();
+    void quickCheckIsAskedInTheseWords();
 };
 
 void tst_StoreStatements::existenceIsAskedInTheseWords()
@@ -122,6 +125,42 @@ void tst_StoreStatements::lastTimeIsKeptInTheseWords()
     QCOMPARE(statements, QStringList({"INSERT INTO last_time (sessionId, lastTime) VALUES ('all_session', '17')",
                                       "UPDATE last_time SET lastTime = '18' WHERE sessionId = 'all_session'",
                                       "SELECT lastTime FROM last_time WHERE sessionId = 'all_session'"}));
+}
+
+void tst_StoreStatements::waitingForTheDiskIsSwitchedOffBeforeAnyTable()
+{
+    const QString off = "PRAGMA synchronous = OFF";
+    SchemaFile store;
+    const QStringList full = store.statementsOfNewConnections([&store] { QVERIFY(store.open()); });
+    QCOMPARE(full.value(0), off);
+    QCOMPARE(full.count(off), 1);
+    const QStringList signIn = store.statementsOfNewConnections([&store] { QVERIFY(store.openForSignIn()); });
+    QCOMPARE(signIn, QStringList({off, "SELECT 1 FROM sqlite_master where type = 'table' and  name = 'loginInfo'"}));
+}
+
+void tst_StoreStatements::checkWritesAndDeletesInTheseWords()
+{
+    // Qt gives the question mark a name on the way.
+    const QString insert = "INSERT INTO msgrecord (id)VALUES (:a) | INSERT INTO msgrecord (id)VALUES ('checkid')";
+    const QString trialDelete = "DELETE FROM msgrecord WHERE id = 'checkid'";
+    SchemaFile store;
+    QVERIFY(store.open());
+    DB::closeDB();
+    const auto check = [&store] { QVERIFY(DB::checkDB(store.folder(), false)); };
+    QCOMPARE(store.statementsOfNewConnections(check), QStringList({insert, trialDelete}));
+    store.run({"INSERT INTO msgrecord (id) VALUES ('checkid')"});
+    QCOMPARE(store.statementsOfNewConnections(check), QStringList({insert, "PRAGMA quick_check", trialDelete}));
+}
+
+void tst_StoreStatements::quickCheckIsAskedInTheseWords()
+{
+    SchemaFile store;
+    store.run({"CREATE TABLE others(id TEXT)"});
+    for (const bool quickOnly : {true, false}) {
+        const QStringList statements =
+            store.statementsOfNewConnections([&store, quickOnly] { QVERIFY(DB::checkDB(store.folder(), quickOnly)); });
+        QCOMPARE(statements, QStringList("PRAGMA quick_check"));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_StoreStatements)

@@ -17,6 +17,7 @@ private slots:
     void oldMessagesWithoutIndexesGetOnlyTheCompositeOnes();
     void changeOfMessageIndexesRidesOnTheSequenceColumn();
     void misspelledMessageIndexIsDroppedAtEachOpen();
+    void misspelledIndexOfAnotherTableStays();
     void sequenceIndexIsMadeAtEachOpenThatFindsItMissing();
     void statementsOfAMessageUpgrade();
 
@@ -82,6 +83,15 @@ void tst_StoreTableUpgrades::misspelledMessageIndexIsDroppedAtEachOpen()
         QVERIFY(store.open());
         QCOMPARE(store.indexesOf("msgrecord"), expectedTable("msgrecord").indexNames());
     }
+}
+
+void tst_StoreTableUpgrades::misspelledIndexOfAnotherTableStays()
+{
+    SchemaFile store;
+    store.run(oldestTable("msgrecord") +
+              QStringList{"CREATE TABLE others(id TEXT)", "CREATE INDEX msgrecord_index_sqeuenceId on others(id)"});
+    QVERIFY(store.openTwice());
+    QCOMPARE(store.indexesOf("others"), QStringList("msgrecord_index_sqeuenceId"));
 }
 
 void tst_StoreTableUpgrades::sequenceIndexIsMadeAtEachOpenThatFindsItMissing()

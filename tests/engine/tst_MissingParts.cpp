@@ -1,0 +1,71 @@
+// The engine when a part of it is not there: no window, no ring, a channel that never opened or that goes away while
+// its own lines are handled.
+
+#include "fakes/EngineFixture.h"
+#include "fakes/QtMessages.h"
+#include "plugin/EMsgId.h"
+#include "ui/VoipWidget.h"
+
+#include <QLocalSocket>
+#include <QSound>
+#include <QTest>
+
+#include <utility>
+
+class tst_MissingParts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void rejectionInAConferenceNeedsNoWindow();
+    void callsNeedNoRing();
+    void lineToAChannelThatIsNotOpenIsDroppedWithoutAWarning();
+    void exitWhileALineIsHandledEndsTheReading();
+};
+
+void tst_MissingParts::rejectionInAConferenceNeedsNoWindow()
+{
+    EngineFixture f;
+    f.createConference();
+    delete std::exchange(f.manager->m_pVoipWidget, nullptr);
+    const QString before = f.callText();
+    f.notify(5, "anna");
+    QCOMPARE(f.callText(), before);
+    QCOMPARE(f.takeJournal(), QStringList());
+}
+
+void tst_MissingParts::callsNeedNoRing()
+{
+    EngineFixture f;
+    QSound *pRing = std::exchange(f.manager->m_pRingSound, nullptr);
+    f.notify(0, "bert");
+    f.manager->responseVoipRequest(false);
+    f.manager->m_pRingSound = pRing;
+    QCOMPARE(f.state(), QString("idle"));
+    QVERIFY(pRing->isFinished());
+}
+
+void tst_MissingParts::lineToAChannelThatIsNotOpenIsDroppedWithoutAWarning()
+{
+    EngineFixture f(EngineFixture::NoCallProcess);
+    QVERIFY(f.manager->m_pVoipSocket && !f.manager->m_pVoipSocket->isOpen());
+    QtMessages messages;
+    f.manager->sendVoipMessage("{}\n");
+    QCOMPARE(messages.warnings, QStringList());
+}
+
+void tst_MissingParts::exitWhileALineIsHandledEndsTheReading()
+{
+    EngineFixture f;
+    f.whileHandled = [&f](BaseEvent &event) {
+        if (event.msgId == MSG_RECEVIE_VOIP_CALL)
+            f.manager->exitVoip();
+    };
+    f.process.send(FakeCallProcess::line(0, "bert") + FakeCallProcess::line(5, "bert"));
+    QTRY_VERIFY(f.manager->m_pVoipSocket == nullptr);
+    EngineFixture::deliverPosted();
+    QVERIFY(!f.manager->m_bSocketConnected);
+}
+
+QTEST_MAIN(tst_MissingParts)
+#include "tst_MissingParts.moc"
