@@ -4,6 +4,7 @@
 #include "ui/CallWindowStyle.h"
 
 #include <QScreen>
+#include <QVBoxLayout>
 
 class tst_VoipWidget : public CallWindowTest
 {

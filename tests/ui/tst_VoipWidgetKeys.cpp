@@ -130,7 +130,7 @@ void tst_VoipWidgetKeys::everyEscapeAsks()
     startCall(CVoipWidget::Voice, true);
     showWindow();
     const MessageBoxes questions;
-    QWidget *pMic = part<QWidget>("btnMic");
+    auto *pMic = part<QWidget>("btnMic");
     for (int i = 0; i < 3; ++i)
         QTest::keyClick(pMic, Qt::Key_Escape);
     pressEscape();
