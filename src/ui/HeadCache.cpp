@@ -24,6 +24,9 @@ qint64 bytesOf(const QPixmap &picture)
 
 HeadCache::FileState HeadCache::stateOf(const QString &strPath)
 {
+    // What the program carries within itself never changes.
+    if (strPath.startsWith(QLatin1Char(':')))
+        return {0, 0, 0};
     // Asked at every painting of a row: QFileInfo's times pass through the time zone, which costs more than the rest.
     struct stat file = {};
     if (stat(QFile::encodeName(strPath).constData(), &file) != 0 || !S_ISREG(file.st_mode))

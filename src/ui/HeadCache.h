@@ -2,7 +2,7 @@
 
 // The drawn head pictures of one list, so that a repaint opens no file: a picture is drawn again only when its file has
 // changed since, told by the file's modification time, time of its last change of any kind, and size. Owned by the
-// list's delegate. GUI thread only.
+// list's delegate. A picture among the program's resources (":/...") is drawn once. GUI thread only.
 
 #include <QHash>
 #include <QPair>

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr int cTextPixels = 12;
-constexpr QColor cLineColor(224, 224, 224);
+constexpr QColor cLineColor_(224, 224, 224);
 
 // More than any glyph is wide: one is never cut.
 constexpr int cGlyphRoom = 1024;
@@ -106,7 +106,7 @@ void RowPainter::drawGlyph(QPainter &painter, LineCache &lines, const QRect &pla
 
 void RowPainter::drawBottomLine(QPainter &painter, int iLeft, int iRight, int iBottom)
 {
-    painter.fillRect(QRect(QPoint(iLeft, iBottom), QPoint(iRight, iBottom)), cLineColor);
+    painter.fillRect(QRect(QPoint(iLeft, iBottom), QPoint(iRight, iBottom)), cLineColor_);
 }
 
 void RowPainter::keepRect(const QModelIndex &index, int iRole, const QRect &place)

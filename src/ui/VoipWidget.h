@@ -195,7 +195,6 @@ private:
     void showPeerTitle(const QString &strShownName);
     void refreshMemberCount();
     bool askToEndTheCall();
-    bool isEscapeAskedAlready(const QObject *obj, const QEvent *event);
     void savePicture();
     MouseState cursorState(int x, int y) const;
     void setCursorStyle(MouseState state);
@@ -244,5 +243,5 @@ private:
     UidCounts m_memberCounts; ///< of m_memberList
     QString m_strCreator;
     VoipType m_iVoipType = Voice;
-    const QEvent *m_pAskedEscape = nullptr; ///< the key press that a control has asked about, on its way to the window
+    const QEvent *m_pAskedEscape = nullptr; ///< the key press that a control has asked about, until any other event
 };

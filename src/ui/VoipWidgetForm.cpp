@@ -12,6 +12,17 @@
 
 #include <QSlider>
 
+namespace {
+
+/// A timer that is a member is found by name like the parts of the form.
+void giveName(QTimer &timer, QObject *pOwner, const QString &strName)
+{
+    timer.setParent(pOwner);
+    timer.setObjectName(strName);
+}
+
+} // namespace
+
 CVoipWidget::CVoipWidget(QWidget *parent) : QWidget(parent), ui(std::make_unique<Ui::CVoipWidget>())
 {
     setUpForm();
@@ -19,8 +30,9 @@ CVoipWidget::CVoipWidget(QWidget *parent) : QWidget(parent), ui(std::make_unique
     m_pMicSlider->setObjectName(QStringLiteral("m_pMicSlider"));
     m_pSpeakerSlider = newVolumeSlider();
     m_pSpeakerSlider->setObjectName(QStringLiteral("m_pSpeakerSlider"));
-    m_callTimeTimer.setParent(this);
-    m_callTimeTimer.setObjectName(QStringLiteral("m_callTimeTimer"));
+    giveName(m_micSliderTimer, this, QStringLiteral("m_micSliderTimer"));
+    giveName(m_speakerSliderTimer, this, QStringLiteral("m_speakerSliderTimer"));
+    giveName(m_callTimeTimer, this, QStringLiteral("m_callTimeTimer"));
     applyCallWindowStyle(this);
     ui->currentPlayTimeLabel->hide();
     ui->currentPlayTimeLabel->clear();

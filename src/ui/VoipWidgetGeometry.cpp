@@ -142,12 +142,19 @@ void CVoipWidget::slot_WindowChangeButtonClicked()
 
 bool CVoipWidget::eventFilter(QObject *obj, QEvent *event)
 {
+    // One key press passes the control that has the focus and then, as nobody takes it, the window around it, with no
+    // other event in between. Only the first of the two asks.
+    const bool bAskedAlready = obj == this && m_pAskedEscape == event;
+    m_pAskedEscape = nullptr;
     switch (event->type()) {
     case QEvent::KeyPress:
         if (static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
             return QWidget::eventFilter(obj, event);
-        if (!isEscapeAskedAlready(obj, event) && askToEndTheCall())
+        if (!bAskedAlready && askToEndTheCall())
             slot_HangUpCall();
+        // Last, as the window gets events of all kinds while the question is open.
+        if (obj != this)
+            m_pAskedEscape = event;
         return false;
     case QEvent::Leave:
         // Deliberate: the window and its controls keep the look they have under the cursor.
@@ -155,13 +162,4 @@ bool CVoipWidget::eventFilter(QObject *obj, QEvent *event)
     default:
         return QWidget::eventFilter(obj, event);
     }
-}
-
-// One key press passes the control that has the focus and then, as nobody takes it, the window around it. Only the
-// first of the two asks.
-bool CVoipWidget::isEscapeAskedAlready(const QObject *obj, const QEvent *event)
-{
-    const bool bAsked = obj == this && m_pAskedEscape == event;
-    m_pAskedEscape = obj == this ? nullptr : event;
-    return bAsked;
 }

@@ -35,11 +35,12 @@ public:
         return vcard;
     }
 
-    /// Puts a contact into the shared friend map.
-    void addContact(const QString &strUid, const VcardInfo &vcard)
+    /// Puts a contact into the shared friend map, with the name that the user gave it.
+    void addContact(const QString &strUid, const VcardInfo &vcard, const QString &strFriendName = {})
     {
         FriendData contact(jid(strUid));
         contact.setVcardInfo(vcard);
+        contact.setMySetFriendName(strFriendName);
         QMap<QString, FriendData> contacts = m_data.getFriendDataMap();
         contacts.insert(jid(strUid), contact);
         m_data.setFriendDataMap(contacts);

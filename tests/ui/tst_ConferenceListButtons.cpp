@@ -59,6 +59,9 @@ private slots:
     void clickBesideTheButtonsAsksForNothing();
     void rightAndMiddleClicksAskForNothing();
     void leftReleaseIsTakenAndRightReleaseIsNot();
+    void clickOnARowIsNotToldByTheView();
+    void viewTellsWhichRowTheMouseEnters();
+    void memberIsMutedBeforeItIsTold();
     void buttonAnswersAtItsOldPlaceAfterTheStatusFellBack();
     void removedRowsPlaceBelongsToTheNextOne();
 };
@@ -284,6 +287,43 @@ void tst_ConferenceListButtons::leftReleaseIsTakenAndRightReleaseIsNot()
         list.mouseReleaseEvent(&release);
         QCOMPARE(release.isAccepted(), button == Qt::LeftButton);
     }
+}
+
+void tst_ConferenceListButtons::clickOnARowIsNotToldByTheView()
+{
+    const QSignalSpy told(m_pList.get(), &QAbstractItemView::clicked);
+    show(1);
+    for (const QPoint &position :
+         {row(0).center(), place(0, ROLE_REMOVE_RECT).center(), place(1, ROLE_MUTE_RECT).center()})
+        click(position);
+    QCOMPARE(told.count(), 0);
+}
+
+void tst_ConferenceListButtons::viewTellsWhichRowTheMouseEnters()
+{
+    const QSignalSpy entered(m_pList.get(), &QAbstractItemView::entered);
+    const QSignalSpy left(m_pList.get(), &QAbstractItemView::viewportEntered);
+    show(1);
+    const QList<QPoint> positions{place(0, ROLE_REMOVE_RECT).center(), place(1, ROLE_MUTE_RECT).center(),
+                                  row(0).center()};
+    for (int i = 0; i < positions.size(); ++i) {
+        moveTo(positions.at(i));
+        QTRY_COMPARE(entered.count(), i + 1);
+        QCOMPARE(entered.last().first().toModelIndex(), m_pList->indexAt(positions.at(i)));
+    }
+    const int iBefore = left.count();
+    moveTo(QPoint(100, row(1).bottom() + 60));
+    QTRY_COMPARE(left.count(), iBefore + 1);
+}
+
+void tst_ConferenceListButtons::memberIsMutedBeforeItIsTold()
+{
+    show(1);
+    bool bMuted = false;
+    connect(m_pList.get(), &CConferenceListView::signal_MuteUser, m_pList.get(),
+            [&] { bMuted = data(0, ROLE_MUTED).toBool(); });
+    click(place(0, ROLE_MUTE_RECT).center());
+    QVERIFY(bMuted);
 }
 
 void tst_ConferenceListButtons::buttonAnswersAtItsOldPlaceAfterTheStatusFellBack()

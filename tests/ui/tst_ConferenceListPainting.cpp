@@ -189,12 +189,14 @@ private slots:
 
     void narrowListShowsNoName()
     {
+        addContact("m0", QStringLiteral("Ann"));
+        addContact("m1", QStringLiteral("成员 member"));
         showMembers(2);
         m_pList->setMinimumWidth(100);
         m_pList->resize(100, 280);
         setData(0, Qt::SizeHintRole, QSize(100, 38));
         setData(1, Qt::SizeHintRole, QSize(100, 38));
-        QVERIFY(!picture().isNull());
+        compareWithNumbers("members-narrow");
     }
 
     void headsAreThoseOfTheContacts()
@@ -205,6 +207,15 @@ private slots:
         showList();
         compareWithNumbers("members-heads");
         QVERIFY(countPixels(picture(), QRect(row(0).left() + 20, row(0).top() + 8, 22, 22), Qt::red) > 0);
+    }
+
+    void pictureOfTheProgramIsAHeadToo()
+    {
+        showMembers(1);
+        const QString strPath = QStringLiteral(":/qt-project.org/styles/commonstyle/images/filelink-32.png");
+        QVERIFY(!QPixmap(strPath).isNull());
+        setData(0, ROLE_HEAD_PATH, strPath);
+        compareWithNumbers("members-resource-head");
     }
 
     void missingPictureLeavesItsPlaceEmpty()

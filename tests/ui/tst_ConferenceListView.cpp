@@ -50,6 +50,15 @@ private slots:
         QCOMPARE(data(0, Qt::SizeHintRole).toSize(), QSize(500, 38));
     }
 
+    void newRowHasTheShownNameOfTheContact()
+    {
+        m_pContacts->addContact(uid("ann"), ContactFixture::card(uid("Ann"), uid("Annie")), uid("My Ann"));
+        m_pContacts->addContact(uid("bob"), ContactFixture::card({}, uid("Bobby")));
+        m_pList->addUserList({uid("ann"), uid("bob")});
+        QCOMPARE(data(0, ROLE_DISPLAY_NAME).toString(), uid("My Ann"));
+        QCOMPARE(data(1, ROLE_DISPLAY_NAME).toString(), uid("Bobby"));
+    }
+
     void emptyListForgetsTheMembersButKeepsTheRows()
     {
         m_pList->addUserList({uid("ann")});
@@ -143,6 +152,15 @@ private slots:
         m_pList->addUser(uid("me"));
         QCOMPARE(rowCount(), 1);
         QVERIFY(!data(0, ROLE_IS_CREATOR).toBool());
+    }
+
+    void secondCreatorLeavesTheFirstOnesMark()
+    {
+        m_pList->addUserList({uid("ann"), uid("bob")});
+        m_pList->setConferenceCreator(uid("ann"));
+        m_pList->setConferenceCreator(uid("bob"));
+        QVERIFY(data(0, ROLE_IS_CREATOR).toBool());
+        QVERIFY(data(1, ROLE_IS_CREATOR).toBool());
     }
 
     void scrollBarShowsWhileTheMouseIsThere()

@@ -116,6 +116,17 @@ private slots:
         QCOMPARE(s_iDrawn, 0);
     }
 
+    void pictureOfTheProgramIsDrawnOnce()
+    {
+        // Qt's own widgets carry it.
+        const QString strPath = QStringLiteral(":/qt-project.org/styles/commonstyle/images/filelink-32.png");
+        HeadCache cache(&drawTest);
+        QCOMPARE(cache.picture(strPath, 22, 1.0).size(), QSize(22, 22));
+        QCOMPARE(cache.picture(strPath, 22, 1.0).size(), QSize(22, 22));
+        QVERIFY(cache.picture(QStringLiteral(":/no/such/picture.png"), 22, 1.0).isNull());
+        QCOMPARE(s_iDrawn, 2);
+    }
+
     void cacheOfManyPicturesStartsAnew()
     {
         writePicture(m_strPath, Qt::red);

@@ -1,6 +1,10 @@
-// The call window's plain operations.
+// The call window's plain operations, and its full screen.
 
 #include "CallWindowTest.h"
+#include "ui/CallWindowStyle.h"
+
+#include <QScreen>
+#include <QVBoxLayout>
 
 class tst_VoipWidget : public CallWindowTest
 {
@@ -10,6 +14,9 @@ private slots:
     void showBringsBackAMinimisedWindow();
     void hangUpMessageClearsDataOnly();
     void clearingPutsTheTogglesBack();
+    void clearingTellsTheMicBeforeItTouchesTheSpeaker();
+    void fullScreenAndBack();
+    void clearedCallIsNotInFullScreen();
     void clearUiEmptiesWhatIsShown();
     void callStatusIsAlwaysZero();
     void thereIsNoWebView();
@@ -23,6 +30,9 @@ private slots:
     void callTimeText_data();
     void callTimeText();
     void operationsAreLogged();
+    void everySetUpIsLogged();
+    void constructionIsLogged();
+    void cardOfThePeerIsLogged();
 };
 
 void tst_VoipWidget::showBringsBackAMinimisedWindow()
@@ -69,6 +79,61 @@ void tst_VoipWidget::clearingPutsTheTogglesBack()
         click(name);
     press("btnCamera");
     QCOMPARE(m_sent, (QStringList{"mic-", "speaker-", "muteall+", "camera-"}));
+}
+
+void tst_VoipWidget::clearingTellsTheMicBeforeItTouchesTheSpeaker()
+{
+    press("btnMic");
+    press("btnSpeaker");
+    newRecords();
+    QStringList records;
+    connect(m_pWindow.get(), &CVoipWidget::signal_SetMicEnable, this, [&] {
+        QCOMPARE(glyph("btnMic"), IconGlyph::MicOn);
+        QCOMPARE(glyph("btnSpeaker"), IconGlyph::SpeakerOff);
+        records = newRecords();
+    });
+    m_pWindow->ClearCallInfoData();
+    QCOMPARE(records, (QStringList{"VoipWidget.cpp: clear call info!", "VoipWidget.cpp: setmic bMute = 0"}));
+    QCOMPARE(newRecords(), QStringList{"VoipWidget.cpp: set speaker bMute = 0"});
+}
+
+void tst_VoipWidget::fullScreenAndBack()
+{
+    const QPoint home(400, 300);
+    const QRect workArea = QGuiApplication::primaryScreen()->availableGeometry();
+    // Without a window manager's own opinion on places beyond the screen.
+    m_pWindow->setWindowFlag(Qt::X11BypassWindowManagerHint);
+    m_pWindow->move(home);
+    startCall(CVoipWidget::Voice, true);
+    showWindow();
+    QTRY_COMPARE(m_pWindow->pos(), home);
+    call("slot_WindowChangeButtonClicked");
+    // The fixed size wins; the corner overshoots the work area.
+    QCOMPARE(m_pWindow->geometry(), QRect(workArea.topLeft() - QPoint(4, 4), cWindowSize));
+    QVERIFY(part<QWidget>("titleWidget")->isHidden());
+    QCOMPARE(glyph("btnChangeWindow"), IconGlyph::Restore);
+    QCOMPARE(glyphColor("btnChangeWindow"), QColor(Qt::white));
+    QCOMPARE(part<QWidget>("btnChangeWindow")->toolTip(), QStringLiteral("restore"));
+
+    call("slot_WindowChangeButtonClicked");
+    QCOMPARE(m_pWindow->geometry(), QRect(home, cWindowSize));
+    QVERIFY(!part<QWidget>("titleWidget")->isHidden());
+    QCOMPARE(glyph("btnChangeWindow"), IconGlyph::FullScreen);
+    QCOMPARE(glyphColor("btnChangeWindow"), QColor(Qt::white));
+    QCOMPARE(part<QWidget>("btnChangeWindow")->toolTip(), QStringLiteral("fullscreen"));
+    QVERIFY(part<QWidget>("btnChangeWindow")->isHidden());
+}
+
+void tst_VoipWidget::clearedCallIsNotInFullScreen()
+{
+    call("slot_WindowChangeButtonClicked");
+    m_pWindow->ClearCallInfoData();
+    // Into full screen again, from the place where the window stands.
+    call("slot_WindowChangeButtonClicked");
+    QVERIFY(part<QWidget>("titleWidget")->isHidden());
+    QCOMPARE(part<QWidget>("btnChangeWindow")->toolTip(), QStringLiteral("restore"));
+    call("slot_WindowChangeButtonClicked");
+    QVERIFY(!part<QWidget>("titleWidget")->isHidden());
 }
 
 void tst_VoipWidget::clearUiEmptiesWhatIsShown()
@@ -206,6 +271,46 @@ void tst_VoipWidget::operationsAreLogged()
         "VoipWidget.cpp: setmic bMute = 0",
         "VoipWidget.cpp: set speaker bMute = 0",
         "VoipWidget.cpp: clear voipwidget ui!",
+    };
+    QCOMPARE(newRecords(), expected);
+}
+
+void tst_VoipWidget::everySetUpIsLogged()
+{
+    // Also one that changes nothing.
+    m_pWindow->setVoipCallInfo({}, CVoipWidget::Voice, true, false);
+    m_pWindow->setVoipCallInfo({}, CVoipWidget::Video, false, true);
+    m_pWindow->setVoipCallInfo({uid("ann"), uid("bob")}, CVoipWidget::Conference, false, false);
+    const QStringList expected{
+        "VoipWidget.cpp: userlist = , iType = 0, bMyCall = 1",
+        "VoipWidget.cpp: userlist = , iType = 1, bMyCall = 0",
+        "VoipWidget.cpp: userlist = ann,bob, iType = 2, bMyCall = 0",
+    };
+    QCOMPARE(newRecords(), expected);
+}
+
+void tst_VoipWidget::constructionIsLogged()
+{
+    const CVoipWidget window;
+    const QStringList expected{
+        "VoipWidget.cpp: setmic bMute = 0",
+        "VoipWidget.cpp: set speaker bMute = 0",
+        "VoipWidget.cpp: set camera bEnable = 1",
+    };
+    QCOMPARE(newRecords(), expected);
+}
+
+void tst_VoipWidget::cardOfThePeerIsLogged()
+{
+    startCall(CVoipWidget::Voice);
+    newRecords();
+    const VcardInfo card = ContactFixture::card(uid("Ann"), uid("Annie"));
+    m_pWindow->updateUserInfo(ContactFixture::jid(uid("bob")), card);
+    QCOMPARE(newRecords(), QStringList());
+    m_pWindow->updateUserInfo(ContactFixture::jid(uid("ann")), card);
+    const QStringList expected{
+        "VoipWidget.cpp: voip userName=Ann(Annie)",
+        "VoipWidget.cpp: voip photourl = Resources/images/FriendDetail/defaultHead.png",
     };
     QCOMPARE(newRecords(), expected);
 }

@@ -11,6 +11,29 @@
 
 #include <ctime>
 
+namespace {
+
+/// Moves the time of day by entering other time zones; the old one comes back at its end.
+class DayTime
+{
+public:
+    ~DayTime() { enterZone(m_oldZone); }
+    /// From now on it is past this hour, with the minutes as they are.
+    void makeIt(int iHour) const { enterZone("HERE" + QByteArray::number(m_iHour - iHour)); }
+
+private:
+    static void enterZone(const QByteArray &zone)
+    {
+        qputenv("TZ", zone);
+        tzset();
+    }
+
+    const int m_iHour = QDateTime::currentDateTimeUtc().time().hour();
+    const QByteArray m_oldZone = qgetenv("TZ");
+};
+
+} // namespace
+
 class tst_VoipWidgetCalls : public QObject
 {
     Q_OBJECT
@@ -19,6 +42,7 @@ private slots:
     void voiceCallShowsNameStateAndRequestControls_data();
     void voiceCallShowsNameStateAndRequestControls();
     void videoCallShowsNameAndUidInTheTip();
+    void conferenceLeavesThePartsOfASingleCall();
     void conferenceShowsMembersAndCount_data();
     void conferenceShowsMembersAndCount();
     void emptyListChangesNothingForSingleCalls_data();
@@ -31,6 +55,7 @@ private slots:
     void clockShowsTheSecondsSinceConnecting();
     void clockWritesAgainAfterTheCallWasCleared();
     void clockRunsNegativeAcrossMidnight();
+    void clockStartsAnewAtEachConnecting();
     void newCallAfterACloseStartsWithAnEmptyList();
 };
 
@@ -81,6 +106,22 @@ void tst_VoipWidgetCalls::videoCallShowsNameAndUidInTheTip()
     QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("与Ann(Annie)(ann)通话中"));
     QCOMPARE(shown.page("displayPane"), 1);
     QVERIFY(shown.part("btnMuteAll")->isHidden());
+}
+
+void tst_VoipWidgetCalls::conferenceLeavesThePartsOfASingleCall()
+{
+    ContactFixture contacts;
+    contacts.addContact(QStringLiteral("ann"), ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
+    CVoipWidget window;
+    const ShownCall shown(window);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+    const qint64 iHead = shown.label("lblPhotoIcon")->pixmap(Qt::ReturnByValue).cacheKey();
+
+    window.setVoipCallInfo({QStringLiteral("bob")}, CVoipWidget::Conference, false, false);
+
+    QCOMPARE(shown.text("lblStatus"), QStringLiteral("正在呼叫..."));
+    QCOMPARE(shown.text("lblUserName"), QStringLiteral("Ann(Annie)"));
+    QCOMPARE(shown.label("lblPhotoIcon")->pixmap(Qt::ReturnByValue).cacheKey(), iHead);
 }
 
 void tst_VoipWidgetCalls::conferenceShowsMembersAndCount_data()
@@ -251,27 +292,37 @@ void tst_VoipWidgetCalls::clockWritesAgainAfterTheCallWasCleared()
 
 void tst_VoipWidgetCalls::clockRunsNegativeAcrossMidnight()
 {
-    // Two zones so that the time of day is about 14 when the call connects and about 12 from then on.
-    const int iHour = QDateTime::currentDateTimeUtc().time().hour();
-    const QByteArray oldZone = qgetenv("TZ");
-    const auto enterZone = [](const QByteArray &zone) {
-        qputenv("TZ", zone);
-        tzset();
-    };
-    enterZone("LATER" + QByteArray::number(iHour - 14));
+    DayTime time;
+    time.makeIt(14);
     ContactFixture contacts;
     CVoipWidget window;
     window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
     window.setVoipCallStatus(true);
 
-    enterZone("EARLIER" + QByteArray::number(iHour - 12));
+    time.makeIt(12);
     QVERIFY(QMetaObject::invokeMethod(&window, "slot_RefreshTime"));
-    enterZone(oldZone);
 
     const QString strClock = ShownCall(window).text("currentPlayTimeLabel");
     // A second may have begun since the call connected.
     QVERIFY2(strClock == QLatin1String("0-2:00:00") || strClock.startsWith(QLatin1String("0-1:0-59:0-")),
              qPrintable(strClock));
+}
+
+void tst_VoipWidgetCalls::clockStartsAnewAtEachConnecting()
+{
+    DayTime time;
+    time.makeIt(12);
+    ContactFixture contacts;
+    CVoipWidget window;
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+    window.setVoipCallStatus(true);
+    time.makeIt(14);
+    window.setVoipCallStatus(true);
+
+    QVERIFY(QMetaObject::invokeMethod(&window, "slot_RefreshTime"));
+
+    const QString strClock = ShownCall(window).text("currentPlayTimeLabel");
+    QVERIFY2(strClock.startsWith(QLatin1String("00:00:")), qPrintable(strClock));
 }
 
 void tst_VoipWidgetCalls::newCallAfterACloseStartsWithAnEmptyList()

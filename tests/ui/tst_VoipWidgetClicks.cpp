@@ -32,6 +32,7 @@ private slots:
     void cameraClickSendsTheFlagItself();
     void muteAllClickMutesEveryRowAndSendsOnce();
     void muteAllSetsItsColourFirstAndTheOthersTheirGlyph();
+    void toggleHasItsNewFaceBeforeItIsTold();
     void togglesHaveAHoverColourButTheMutedConferenceHasNone();
     void addMemberClickIsSent();
     void hangUpClickIsSentAndTheWindowStays();
@@ -120,6 +121,18 @@ void tst_VoipWidgetClicks::muteAllSetsItsColourFirstAndTheOthersTheirGlyph()
     QCOMPARE(muteAll.m_glyph, ushort(0xE66A));
     QCOMPARE(mic.m_glyph, ushort(0xE64C));
     QCOMPARE(speaker.m_glyph, ushort(0xE66A));
+}
+
+void tst_VoipWidgetClicks::toggleHasItsNewFaceBeforeItIsTold()
+{
+    QList<ushort> faces;
+    const auto note = [&](const char *name) { return [&faces, name, this] { faces.append(glyph(name)); }; };
+    connect(m_pWindow.get(), &CVoipWidget::signal_SetMicEnable, this, note("btnMic"));
+    connect(m_pWindow.get(), &CVoipWidget::signal_SetSpeakerEnable, this, note("btnSpeaker"));
+    connect(m_pWindow.get(), &CVoipWidget::signal_SetCameraEnable, this, note("btnCamera"));
+    for (const char *name : {"btnMic", "btnSpeaker", "btnCamera"})
+        press(name);
+    QCOMPARE(faces, (QList<ushort>{0xE64C, 0xE66A, 0xE721}));
 }
 
 void tst_VoipWidgetClicks::togglesHaveAHoverColourButTheMutedConferenceHasNone()

@@ -54,6 +54,7 @@ private:
 private slots:
     void everyStateClosesWithTheSameSignals_data();
     void everyStateClosesWithTheSameSignals();
+    void windowIsEmptyWhenTheCloseIsTold();
     void secondCallFindsNothingLeftOver_data();
     void secondCallFindsNothingLeftOver();
     void closingAHiddenWindowDoesNotCountForQuit();
@@ -151,6 +152,21 @@ void tst_VoipWidgetClose::everyStateClosesWithTheSameSignals()
     for (const char *name : {"lblVoipTipMsg", "lblListCount", "currentPlayTimeLabel", "lblUserName", "lblStatus"})
         QVERIFY2(text(name).isEmpty(), name);
     QCOMPARE(rows()->rowCount(), 0);
+}
+
+void tst_VoipWidgetClose::windowIsEmptyWhenTheCloseIsTold()
+{
+    startCall(CVoipWidget::Voice);
+    startCall(CVoipWidget::Conference);
+    QStringList left{QStringLiteral("nothing sent")};
+    connect(m_pWindow.get(), &CVoipWidget::signal_HangupCurrentCall, this, [&] {
+        left.clear();
+        for (const char *name : {"lblVoipTipMsg", "lblListCount", "lblStatus"})
+            left += text(name);
+        left += QString::number(rows()->rowCount());
+    });
+    m_pWindow->close();
+    QCOMPARE(left, (QStringList{QString(), QString(), QString(), QStringLiteral("0")}));
 }
 
 void tst_VoipWidgetClose::secondCallFindsNothingLeftOver_data()

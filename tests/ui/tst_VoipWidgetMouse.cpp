@@ -25,12 +25,15 @@ private:
     static QRect workArea() { return QGuiApplication::primaryScreen()->availableGeometry(); }
     static MyRubberBand *band();
     static bool isBandShown() { return band() != nullptr && band()->isVisible(); }
+    static QRect bandRect();
     void showAtHome();
     // Mouse events at a global place, in pixels away from the window's home.
     QPoint local(const QPoint &away) const { return cHome + away - m_pWindow->windowHandle()->geometry().topLeft(); }
     void mouseTo(const QPoint &away) { QTest::mouseMove(m_pWindow->windowHandle(), local(away)); }
     void mouseDown(const QPoint &away, Qt::MouseButton held = Qt::LeftButton);
     void mouseUp(const QPoint &away, Qt::MouseButton held = Qt::LeftButton);
+    /// An event that no hand on one mouse brings about, straight to the window.
+    void send(QEvent::Type type, const QPoint &away, Qt::MouseButton button, Qt::MouseButtons held);
 
 private slots:
     void cursorFollowsTheEdge_data();
@@ -49,8 +52,10 @@ private slots:
     void rightButtonAloneMovesNothing();
     void releaseForgetsTheEdge();
     void clearedCallForgetsTheDrag();
+    void moveWithoutTheButtonHeldMovesNothing();
+    void rectangleOfADragStaysUntilTheNextPress();
+    void rightReleaseEndsADragAndKeepsTheBand();
     void bandGoesWithTheWindow();
-    void fullScreenAndBack();
 };
 
 MyRubberBand *tst_VoipWidgetMouse::band()
@@ -59,6 +64,12 @@ MyRubberBand *tst_VoipWidgetMouse::band()
         if (auto *pBand = qobject_cast<MyRubberBand *>(pWidget))
             return pBand;
     return nullptr;
+}
+
+QRect tst_VoipWidgetMouse::bandRect()
+{
+    const MyRubberBand *pBand = band();
+    return pBand != nullptr ? pBand->geometry() : QRect();
 }
 
 void tst_VoipWidgetMouse::showAtHome()
@@ -82,6 +93,12 @@ void tst_VoipWidgetMouse::mouseDown(const QPoint &away, Qt::MouseButton held)
 void tst_VoipWidgetMouse::mouseUp(const QPoint &away, Qt::MouseButton held)
 {
     QTest::mouseRelease(m_pWindow->windowHandle(), held, Qt::NoModifier, local(away));
+}
+
+void tst_VoipWidgetMouse::send(QEvent::Type type, const QPoint &away, Qt::MouseButton button, Qt::MouseButtons held)
+{
+    QMouseEvent event(type, away, away, cHome + away, button, held, Qt::NoModifier);
+    QApplication::sendEvent(m_pWindow.get(), &event);
 }
 
 void tst_VoipWidgetMouse::cursorFollowsTheEdge_data()
@@ -253,16 +270,14 @@ void tst_VoipWidgetMouse::rightButtonEndsTheDragButKeepsTheEdge()
     showAtHome();
     mouseTo(QPoint(1, 200));
     mouseDown(QPoint(1, 200));
-    QMouseEvent right(QEvent::MouseButtonPress, QPointF(1, 200), QPointF(1, 200), cHome + QPointF(1, 200),
-                      Qt::RightButton, Qt::LeftButton | Qt::RightButton, Qt::NoModifier);
-    QApplication::sendEvent(m_pWindow.get(), &right);
+    send(QEvent::MouseButtonPress, QPoint(1, 200), Qt::RightButton, Qt::LeftButton | Qt::RightButton);
     // Not pressed any more: the next move only looks where the cursor is.
     mouseTo(QPoint(-50, 200));
     QCOMPARE(band()->geometry(), QRect(cHome, cSize));
 
     // The edge of before the right press still counts for a left press without a move in between.
     mouseTo(QPoint(1, 200));
-    QApplication::sendEvent(m_pWindow.get(), &right);
+    send(QEvent::MouseButtonPress, QPoint(1, 200), Qt::RightButton, Qt::LeftButton | Qt::RightButton);
     mouseUp(QPoint(1, 200), Qt::RightButton);
     band()->hide();
     mouseDown(QPoint(1, 200));
@@ -301,10 +316,59 @@ void tst_VoipWidgetMouse::clearedCallForgetsTheDrag()
     mouseTo(QPoint(1, 200));
     mouseDown(QPoint(1, 200));
     mouseTo(QPoint(-50, 200));
+    const QRect before = bandRect();
     m_pWindow->ClearCallInfoData();
-    mouseUp(QPoint(-50, 200));
+    mouseTo(QPoint(-90, 200));
+    QCOMPARE(bandRect(), before);
+    mouseUp(QPoint(-90, 200));
     QVERIFY(!isBandShown());
     QCOMPARE(m_pWindow->pos(), cHome);
+}
+
+void tst_VoipWidgetMouse::moveWithoutTheButtonHeldMovesNothing()
+{
+    for (const QPoint &press : {QPoint(1, 200), cInside}) {
+        startAnew();
+        showAtHome();
+        mouseTo(press);
+        mouseDown(press);
+        m_pWindow->setCursor(Qt::WaitCursor);
+        send(QEvent::MouseMove, press - QPoint(50, 0), Qt::NoButton, Qt::NoButton);
+        QCOMPARE(m_pWindow->pos(), cHome);
+        QVERIFY(!isBandShown() || bandRect() == QRect(cHome, cSize));
+        QCOMPARE(m_pWindow->cursor().shape(), Qt::WaitCursor);
+        mouseUp(press);
+    }
+}
+
+void tst_VoipWidgetMouse::rectangleOfADragStaysUntilTheNextPress()
+{
+    showAtHome();
+    mouseTo(QPoint(1, 200));
+    mouseDown(QPoint(1, 200));
+    mouseTo(QPoint(-50, 200));
+    mouseUp(QPoint(-50, 200));
+    QTRY_COMPARE(m_pWindow->pos(), cHome + QPoint(-50, 0));
+    m_pWindow->move(cHome);
+    // A release that no press came before.
+    send(QEvent::MouseButtonRelease, QPoint(200, 200), Qt::LeftButton, Qt::NoButton);
+    QCOMPARE(m_pWindow->pos(), cHome + QPoint(-50, 0));
+}
+
+void tst_VoipWidgetMouse::rightReleaseEndsADragAndKeepsTheBand()
+{
+    showAtHome();
+    mouseTo(QPoint(1, 200));
+    mouseDown(QPoint(1, 200));
+    mouseTo(QPoint(-50, 200));
+    const QRect before = bandRect();
+    send(QEvent::MouseButtonRelease, QPoint(-50, 200), Qt::RightButton, Qt::LeftButton);
+    QVERIFY(isBandShown());
+    send(QEvent::MouseMove, QPoint(-90, 200), Qt::NoButton, Qt::LeftButton);
+    QCOMPARE(bandRect(), before);
+    QCOMPARE(m_pWindow->pos(), cHome);
+    mouseUp(QPoint(-90, 200));
+    QVERIFY(!isBandShown());
 }
 
 void tst_VoipWidgetMouse::bandGoesWithTheWindow()
@@ -313,6 +377,8 @@ void tst_VoipWidgetMouse::bandGoesWithTheWindow()
     mouseTo(QPoint(1, 200));
     mouseDown(QPoint(1, 200));
     const QPointer<MyRubberBand> pBand = band();
+    // A window of the desktop's, not a part of this one.
+    QVERIFY(!pBand.isNull());
     QCOMPARE(pBand->shape(), QRubberBand::Rectangle);
     mouseUp(QPoint(1, 200));
     mouseTo(QPoint(200, 1));
@@ -323,26 +389,6 @@ void tst_VoipWidgetMouse::bandGoesWithTheWindow()
     QVERIFY(!pBand.isNull());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(pBand.isNull());
-}
-
-void tst_VoipWidgetMouse::fullScreenAndBack()
-{
-    showAtHome();
-    call("slot_WindowChangeButtonClicked");
-    // The fixed size wins; the corner overshoots the work area.
-    QCOMPARE(m_pWindow->geometry(), QRect(workArea().topLeft() - QPoint(4, 4), cSize));
-    QVERIFY(part<QWidget>("titleWidget")->isHidden());
-    QCOMPARE(glyph("btnChangeWindow"), IconGlyph::Restore);
-    QCOMPARE(glyphColor("btnChangeWindow"), QColor(Qt::white));
-    QCOMPARE(part<QWidget>("btnChangeWindow")->toolTip(), QStringLiteral("restore"));
-
-    call("slot_WindowChangeButtonClicked");
-    QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
-    QVERIFY(!part<QWidget>("titleWidget")->isHidden());
-    QCOMPARE(glyph("btnChangeWindow"), IconGlyph::FullScreen);
-    QCOMPARE(glyphColor("btnChangeWindow"), QColor(Qt::white));
-    QCOMPARE(part<QWidget>("btnChangeWindow")->toolTip(), QStringLiteral("fullscreen"));
-    QVERIFY(part<QWidget>("btnChangeWindow")->isHidden());
 }
 
 QTEST_MAIN(tst_VoipWidgetMouse)

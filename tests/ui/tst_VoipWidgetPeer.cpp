@@ -17,6 +17,9 @@ private slots:
     void oneOfTheTwoNamesIsEnough();
     void percentSignsInNamesStayAsTheyAre();
     void cardOfThePeerRefreshesNameAndTip();
+    void voiceCallKeepsItsTipWhenTheCardComes();
+    void videoCallWithAnUnknownContactShowsTheUidAlone();
+    void cardAfterTheCallChangesNothing();
     void cardOfAnotherJidChangesNothing();
     void cardInAConferenceGoesToTheMemberList();
     void typeOfCallIsKeptWhenTheCallIsCleared();
@@ -71,6 +74,44 @@ void tst_VoipWidgetPeer::cardOfThePeerRefreshesNameAndTip()
     QCOMPARE(shown.text("lblUserName"), QStringLiteral("Ann(Annie)"));
     QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("与Ann(Annie)(ann)通话中"));
     QCOMPARE(shown.text("lblStatus"), QStringLiteral("已接通"));
+}
+
+void tst_VoipWidgetPeer::voiceCallKeepsItsTipWhenTheCardComes()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    const ShownCall shown(window);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+
+    window.updateUserInfo(ContactFixture::jid(QStringLiteral("ann")),
+                          ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
+
+    QCOMPARE(shown.text("lblUserName"), QStringLiteral("Ann(Annie)"));
+    QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("语音通话"));
+}
+
+void tst_VoipWidgetPeer::videoCallWithAnUnknownContactShowsTheUidAlone()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Video, true, false);
+    QCOMPARE(ShownCall(window).text("lblVoipTipMsg"), QStringLiteral("与(ann)通话中"));
+}
+
+void tst_VoipWidgetPeer::cardAfterTheCallChangesNothing()
+{
+    ContactFixture contacts;
+    CVoipWidget window;
+    const ShownCall shown(window);
+    window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+    window.close();
+
+    window.updateUserInfo(ContactFixture::jid(QStringLiteral("ann")),
+                          ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
+
+    QCOMPARE(shown.text("lblUserName"), QString());
+    QCOMPARE(shown.text("lblVoipTipMsg"), QString());
+    QVERIFY(shown.label("lblPhotoIcon")->pixmap(Qt::ReturnByValue).isNull());
 }
 
 void tst_VoipWidgetPeer::cardOfAnotherJidChangesNothing()

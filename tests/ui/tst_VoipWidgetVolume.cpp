@@ -1,6 +1,7 @@
 // The call window's volume sliders, and its snapshot of the video.
 
 #include "CallWindowTest.h"
+#include "fakes/FileBytes.h"
 #include "fakes/QtMessages.h"
 
 #include <QApplication>
@@ -13,6 +14,8 @@
 #include <QSlider>
 #include <QStandardPaths>
 
+#include <unistd.h>
+
 class tst_VoipWidgetVolume : public CallWindowTest
 {
     Q_OBJECT
@@ -21,7 +24,7 @@ private:
     /// Saves the dialog's picture under that name as soon as it is open; an empty name cancels.
     void answerDialog(const QString &strName, QStringList *pSeen = nullptr);
     /// A red surface on the video page.
-    void showVideo();
+    QWidget *showVideo();
 
 private slots:
     void volumeGoesOutUnchanged_data();
@@ -29,10 +32,13 @@ private slots:
     void slidersSendTheirValue();
     void clicksHideTheSliders();
     void hideSlotsHideTheSliders();
+    void timersHideTheirSliderOnce_data();
+    void timersHideTheirSliderOnce();
     void enablesAndVolumesGoToTheDebugChannel();
 
     void snapshotIsSaved();
     void snapshotTakesThePlaceInTheParent();
+    void snapshotIsOfTheMomentBeforeTheDialog();
     void snapshotReplacesAFile();
     void cancelledSnapshotSavesNothing();
 };
@@ -92,6 +98,25 @@ void tst_VoipWidgetVolume::hideSlotsHideTheSliders()
     QVERIFY(pSpeaker->isHidden());
 }
 
+void tst_VoipWidgetVolume::timersHideTheirSliderOnce_data()
+{
+    QTest::addColumn<QByteArray>("timer");
+    QTest::newRow("m_pMicSlider") << QByteArray("m_micSliderTimer");
+    QTest::newRow("m_pSpeakerSlider") << QByteArray("m_speakerSliderTimer");
+}
+
+void tst_VoipWidgetVolume::timersHideTheirSliderOnce()
+{
+    QFETCH(QByteArray, timer);
+    auto *pSlider = part<QSlider>(QTest::currentDataTag());
+    auto *pTimer = m_pWindow->findChild<QTimer *>(QLatin1String(timer));
+    QVERIFY(!pTimer->isActive());
+    pSlider->show();
+    pTimer->start(0);
+    QTRY_VERIFY(pSlider->isHidden());
+    QVERIFY(!pTimer->isActive());
+}
+
 void tst_VoipWidgetVolume::enablesAndVolumesGoToTheDebugChannel()
 {
     const QtMessages messages;
@@ -114,8 +139,8 @@ void tst_VoipWidgetVolume::answerDialog(const QString &strName, QStringList *pSe
         QVERIFY(pDialog != nullptr);
         auto *pName = pDialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
         if (pSeen != nullptr)
-            *pSeen = QStringList{pDialog->windowTitle(), pDialog->selectedNameFilter(), pDialog->directory().path(),
-                                 pName->text()};
+            *pSeen = QStringList{pDialog->windowTitle(), pDialog->nameFilters().join(QStringLiteral(";;")),
+                                 pDialog->directory().path(), pName->text()};
         if (strName.isEmpty()) {
             pDialog->reject();
             return;
@@ -132,7 +157,7 @@ void tst_VoipWidgetVolume::answerDialog(const QString &strName, QStringList *pSe
     });
 }
 
-void tst_VoipWidgetVolume::showVideo()
+QWidget *tst_VoipWidgetVolume::showVideo()
 {
     auto *pSurface = new QWidget;
     pSurface->setAutoFillBackground(true);
@@ -141,6 +166,7 @@ void tst_VoipWidgetVolume::showVideo()
     startCall(CVoipWidget::Video, true);
     showWindow();
     newRecords();
+    return pSurface;
 }
 
 void tst_VoipWidgetVolume::snapshotIsSaved()
@@ -156,7 +182,7 @@ void tst_VoipWidgetVolume::snapshotIsSaved()
     QCOMPARE(picture.size(), part<QWidget>("playFramWidget")->geometry().size());
     QCOMPARE(picture.pixelColor(200, 150), QColor(Qt::red));
     QCOMPARE(seen.at(0), QStringLiteral("savepic"));
-    QCOMPARE(seen.at(1), CommonFun::getPicSaveSuffixes(QStringLiteral(".jpg")).section(QStringLiteral(";;"), 0, 0));
+    QCOMPARE(seen.at(1), CommonFun::getPicSaveSuffixes(QStringLiteral(".jpg")));
     QCOMPARE(seen.at(2), QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
     const QRegularExpression proposed(QStringLiteral("^tarvoPhoto\\d{17}\\.jpg$"));
     QVERIFY2(proposed.match(seen.at(3)).hasMatch(), qPrintable(seen.at(3)));
@@ -180,16 +206,28 @@ void tst_VoipWidgetVolume::snapshotTakesThePlaceInTheParent()
     QVERIFY(picture.pixelColor(50, picture.height() - 20) != QColor(Qt::red));
 }
 
+void tst_VoipWidgetVolume::snapshotIsOfTheMomentBeforeTheDialog()
+{
+    QWidget *pSurface = showVideo();
+    const QString strPath = QDir::current().absoluteFilePath(QStringLiteral("before.png"));
+    QTimer::singleShot(0, this, [pSurface] { pSurface->setPalette(QPalette(Qt::blue)); });
+    answerDialog(strPath);
+    call("slot_CaptureButtonClicked");
+    QCOMPARE(QImage(strPath).pixelColor(200, 150), QColor(Qt::red));
+    QCOMPARE(pSurface->palette().color(QPalette::Window), QPalette(Qt::blue).color(QPalette::Window));
+}
+
 void tst_VoipWidgetVolume::snapshotReplacesAFile()
 {
     showVideo();
     const QString strPath = QDir::current().absoluteFilePath(QStringLiteral("old.jpg"));
-    QFile old(strPath);
-    QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
-    old.close();
+    QVERIFY(writeFile(strPath, "old"));
+    // A second name of the old file: it is taken away, not written over.
+    QCOMPARE(link("old.jpg", "kept.jpg"), 0);
     answerDialog(strPath);
     call("slot_CaptureButtonClicked");
     QCOMPARE(QImage(strPath).size(), part<QWidget>("playFramWidget")->geometry().size());
+    QCOMPARE(readBytes(QStringLiteral("kept.jpg")), QByteArray("old"));
 }
 
 void tst_VoipWidgetVolume::cancelledSnapshotSavesNothing()
