@@ -244,6 +244,7 @@ private slots:
         CUrlInfo::getEmailUrl();
         std::array<QStringList, 4> answers;
         std::vector<std::thread> threads;
+        threads.reserve(answers.size());
         for (QStringList &list : answers) {
             threads.emplace_back([&list] {
                 for (int round = 0; round < 20; ++round) {

@@ -3,6 +3,7 @@
 #include "common/IconGlyphs.h"
 #include "model/SharedContext.h"
 
+#include <QFontDatabase>
 #include <QtTest>
 
 #include <memory>

@@ -70,6 +70,7 @@ void tst_LogStress::nothingIsLostWhileTheFileRollsOver()
 
     std::atomic<int> running{CALLERS};
     std::vector<std::thread> callers;
+    callers.reserve(CALLERS);
     for (int caller = 0; caller < CALLERS; ++caller) {
         callers.emplace_back([log, caller, &running] {
             for (int i = 0; i < RECORDS; ++i) {

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QStringList>
 #include <QTest>
+#include <QTextDocument>
 #include <QWidget>
 
 namespace ForeignText {

@@ -118,7 +118,7 @@ QString HostWorld::fault(bool bMayLackCall) const
     for (const QStringList &row : rows) {
         if (row.size() != 6)
             return QStringLiteral("a column without a value: ") + row.join('|');
-        const QString strFault = faultOf(row, bMayLackCall);
+        QString strFault = faultOf(row, bMayLackCall);
         if (!strFault.isEmpty())
             return strFault;
         if (!row.at(0).isEmpty() && ids.contains(row.at(0)))

@@ -45,7 +45,7 @@ QString prepare(const QString &strScenario, const QTemporaryDir &folder)
 {
     // A detached process comes back to this one as its child, so that its exit code can be seen.
     ::prctl(PR_SET_CHILD_SUBREAPER, 1);
-    const QString trace = folder.filePath(QStringLiteral("trace"));
+    QString trace = folder.filePath(QStringLiteral("trace"));
     qputenv("TMPDIR", QFile::encodeName(folder.path()));
     qputenv("VOIPSDK_TRACE", QFile::encodeName(trace));
     qputenv("VOIPSDK_SCENARIO", QFile::encodeName(strScenario));
@@ -86,7 +86,7 @@ QByteArray beginning(const QString &strName, int iStatements, int *pCount = null
 
 QString cutScenario(const QString &strName, int iStatements, const QTemporaryDir &folder)
 {
-    const QString path = folder.filePath(QStringLiteral("scenario"));
+    QString path = folder.filePath(QStringLiteral("scenario"));
     QFile file(path);
     const QByteArray text = beginning(strName, iStatements);
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())

@@ -63,7 +63,7 @@ private:
 
 QString tst_RecordedRuns::folderFor(const QString &strName) const
 {
-    const QString folder = QDir::current().filePath(strName);
+    QString folder = QDir::current().filePath(strName);
     QDir().mkpath(folder);
     return folder;
 }
@@ -110,11 +110,11 @@ void tst_RecordedRuns::runIsRecordedAndPlayedBothWays_data()
                                  << QByteArrayList{"expect RegeditUser param1=30010000 param4=false", "send 17 true",
                                                    "expect CallUser param1=30010001 param2=false", "send 18",
                                                    "expect HangUpCall"};
+    const QByteArray request = "expect RequestConference param1=30010000 "
+                               "param2=[\"30010001\",\"30010002\",\"30010003\"] param3=true param4=title";
     QTest::newRow("conference") << "conference"
-                                << QByteArrayList{
-                                       "expect RequestConference param1=30010000 "
-                                       "param2=[\"30010001\",\"30010002\",\"30010003\"] param3=true param4=title",
-                                       "send 18", "send 5 30010002", "send 25 30010003", "expect HangupConf"};
+                                << QByteArrayList{request, "send 18", "send 5 30010002", "send 25 30010003",
+                                                  "expect HangupConf"};
 }
 
 void tst_RecordedRuns::runIsRecordedAndPlayedBothWays()

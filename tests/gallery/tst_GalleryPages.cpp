@@ -21,9 +21,11 @@
 #include "widgets/TextEditEx.h"
 #include "widgets/VcardHeadLabel.h"
 
+#include <QCheckBox>
 #include <QDir>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTest>

@@ -4,6 +4,7 @@
 #include "MainWindow.h"
 #include "MemberPicker.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QLabel>
 #include <QMap>

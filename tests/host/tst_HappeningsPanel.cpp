@@ -8,9 +8,16 @@
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"
 
+#include <QCheckBox>
 #include <QClipboard>
 #include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
+#include <QTreeView>
 
 namespace {
 
@@ -66,7 +73,7 @@ private:
         file.close();
         m_pPanel->feed().look();
     }
-    void event()
+    void hostEvent()
     {
         BaseEvent event(MSG_CLOSE_SIGN_LIST, voipPluginId(), signListPluginId(), false);
         QCoreApplication::sendEvent(&m_pSession->mailbox(), &event);
@@ -128,7 +135,7 @@ void tst_HappeningsPanel::typedFilterShowsFewerLines()
 void tst_HappeningsPanel::boxesHideKinds()
 {
     lines(0, 2);
-    event();
+    hostEvent();
     QFile file(QStringLiteral("wire.txt"));
     QVERIFY(file.open(QIODevice::Append) && file.write("9 ! odd\n") > 0);
     file.close();

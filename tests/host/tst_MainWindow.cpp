@@ -12,8 +12,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QStatusBar>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 

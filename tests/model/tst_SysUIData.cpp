@@ -32,7 +32,7 @@ SysUIData markedSkin(const QString &strMark)
     for (const Text &text : texts())
         skin.*text.pMember = strMark + QString::number(text.iPosition);
     for (size_t i = 0; i < skin.m_iconCodes.size(); ++i)
-        skin.m_iconCodes[i] = ushort(strMark.at(0).unicode() * 16 + i);
+        skin.m_iconCodes[i] = ushort(strMark.at(0).unicode() * size_t(16) + i);
     skin.m_bFirstMark = true;
     skin.m_bSecondMark = true;
     return skin;

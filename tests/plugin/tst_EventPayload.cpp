@@ -143,7 +143,7 @@ void tst_EventPayload::zeroAddressGivesADefaultRecord()
 void tst_EventPayload::recordIsCopiedFromItsAddress()
 {
     QString record = QStringLiteral("before");
-    const QString copy = recordAt<QString>(static_cast<qint64>(reinterpret_cast<quintptr>(&record)));
+    const auto copy = recordAt<QString>(static_cast<qint64>(reinterpret_cast<quintptr>(&record)));
     record = QStringLiteral("after");
     QCOMPARE(copy, QStringLiteral("before"));
 }

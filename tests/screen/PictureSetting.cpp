@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QFontInfo>
+#include <QStyle>
 #include <QStyleFactory>
 
 namespace {

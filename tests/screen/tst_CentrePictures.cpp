@@ -7,6 +7,7 @@
 #include "ui/VoiceConferenceWidget.h"
 
 #include <QListView>
+#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 

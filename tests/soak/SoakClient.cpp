@@ -43,7 +43,7 @@ void watchDebugChannel(QtMsgType type, const QMessageLogContext &, const QString
 QString traceFile()
 {
     // By this name the call process is found again; what is written there goes nowhere.
-    const QString file = QDir::current().filePath(QStringLiteral("wire.trace"));
+    QString file = QDir::current().filePath(QStringLiteral("wire.trace"));
     QFile::link(QStringLiteral("/dev/null"), file);
     return file;
 }

@@ -197,7 +197,7 @@ void Workload::longCall()
 
 void Workload::unansweredCall()
 {
-    const QDeadlineTimer limit(invitationSeconds * 1000);
+    const QDeadlineTimer limit(qint64(invitationSeconds) * 1000);
     m_client.call(never);
     expect(m_client, cancelled);
     if (!limit.hasExpired()) {
@@ -232,7 +232,7 @@ void Workload::timeWithoutCallProcess()
 
 void Workload::hour()
 {
-    const QDeadlineTimer over(secondsInHour * 1000);
+    const QDeadlineTimer over(qint64(secondsInHour) * 1000);
     longCall();
     unansweredCall();
     conferenceWithAbsentMember();

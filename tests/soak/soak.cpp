@@ -28,7 +28,7 @@ constexpr int parts = 10;
 constexpr int settlingParts = 2;
 constexpr qint64 mostGrowthPercent = 1;
 // Lists keep the room of the longest that they have been: the log's queue, the queues of events.
-constexpr qint64 keptRoomBytes = 96 * 1024;
+constexpr qint64 keptRoomBytes = qint64(96) * 1024;
 // Qt makes a few objects on a first need that comes later.
 constexpr int lateObjects = 8;
 
@@ -74,7 +74,7 @@ Plan readPlan(const QCoreApplication &app)
 Footprint measure(SoakClient &client, const QString &when)
 {
     client.settle();
-    const Footprint print = Footprint::now();
+    Footprint print = Footprint::now();
     say(when + QStringLiteral(": ") + print.text());
     return print;
 }

@@ -17,7 +17,7 @@ private:
     /// A mouse event on the window's empty strip beside its buttons, where the cursor is at `global`.
     void mouse(QEvent::Type type, const QPoint &global, Qt::MouseButton button = Qt::LeftButton)
     {
-        QWidget *pStrip = part<QWidget>("buttonWidget");
+        auto *pStrip = part<QWidget>("buttonWidget");
         QMouseEvent event(type, pStrip->mapFromGlobal(global), global,
                           type == QEvent::MouseMove ? Qt::NoButton : button,
                           type == QEvent::MouseButtonRelease ? Qt::NoButton : button, Qt::NoModifier);

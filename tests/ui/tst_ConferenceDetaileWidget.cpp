@@ -58,7 +58,7 @@ private:
         if (!QTest::qWaitForWindowExposed(m_pPage.get()))
             return {};
         QCoreApplication::processEvents();
-        const QImage image = m_pPage->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        QImage image = m_pPage->grab().toImage().convertToFormat(QImage::Format_RGB32);
         leavePicture(image, QLatin1String(pName));
         return image;
     }

@@ -275,7 +275,7 @@ void tst_ErrorMessage::dialogFollowsTheMouse()
 {
     ErrorMessage dialog(QString(), QString(), nullptr);
     place(dialog);
-    QWidget *pTitle = part<QWidget>(dialog, "titleWidget");
+    auto *pTitle = part<QWidget>(dialog, "titleWidget");
     QTest::mousePress(pTitle, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
     drag(pTitle, QPoint(40, 30));
     QCOMPARE(dialog.pos(), QPoint(230, 170));

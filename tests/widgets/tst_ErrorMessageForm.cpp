@@ -127,7 +127,7 @@ void tst_ErrorMessageForm::partsHaveTheirSizes()
 {
     QFETCH(QByteArray, name);
     const ErrorMessage dialog(QString(), QString(), nullptr);
-    QWidget *pPart = dialog.findChild<QWidget *>(QLatin1String(name));
+    auto *pPart = dialog.findChild<QWidget *>(QLatin1String(name));
     QVERIFY(pPart != nullptr);
     // The inner edits have the same name as the page's field.
     if (name == "lineEdit")

@@ -51,8 +51,8 @@ void tst_ErrorMessageModes::eachModeHasItsPageAndButtons_data()
     QTest::addColumn<bool>("acceptEnabled");
     QTest::addColumn<QString>("closeWord");
     const QString t = QStringLiteral("Title");
-    const auto row = [&t](const char *name, const Mode &mode, const char *pageName, bool bShown, bool bEnabled,
-                          const char *word, const char *title = "Title") {
+    const auto row = [](const char *name, const Mode &mode, const char *pageName, bool bShown, bool bEnabled,
+                        const char *word, const char *title = "Title") {
         QTest::newRow(name) << mode << QString(title) << QString(pageName) << bShown << bEnabled << QString(word);
     };
     row("getMsgShow", {[t](ErrorMessage &d) { d.getMsgShow(t, t); }, true}, "MsgShow", false, false, "sure");
