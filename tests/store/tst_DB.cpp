@@ -1,9 +1,6 @@
-#include "StoreFixture.h"
+#include "StoreTest.h"
 #include "fakes/FileBytes.h"
 
-#include <QTest>
-
-#include <memory>
 #include <type_traits>
 
 namespace {
@@ -89,22 +86,11 @@ static_assert(allAre<void (*)(), DB::closeDB, DB::dropNoUseTable, DB::createTabl
 
 } // namespace
 
-class tst_DB : public QObject
+class tst_DB : public StoreTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_store = std::make_unique<StoreFixture>(); }
-
-    // No test may make Qt warn: not of a connection in use, not of a closed one.
-    void cleanup()
-    {
-        DB::closeDB();
-        const QStringList warnings = m_store->messages.warnings;
-        m_store.reset();
-        QCOMPARE(warnings, QStringList());
-    }
-
     void aNewFileHasAllTablesInTheFixedOrder()
     {
         QVERIFY(m_store->open());
@@ -290,9 +276,6 @@ private slots:
         QTEST(DB::isNeedUpdate(m_store->base()), "needed");
         QCOMPARE(QDir(m_store->base()).entryList(QDir::Files), files);
     }
-
-private:
-    std::unique_ptr<StoreFixture> m_store;
 };
 
 QTEST_GUILESS_MAIN(tst_DB)

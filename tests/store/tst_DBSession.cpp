@@ -1,12 +1,8 @@
 // The session connection: how a user's store is opened, switched and closed, and where the context points meanwhile.
 
-#include "StoreFixture.h"
+#include "StoreTest.h"
 
 #include "common/AppPaths.h"
-
-#include <QTest>
-
-#include <memory>
 
 namespace {
 
@@ -33,22 +29,11 @@ public:
 
 } // namespace
 
-class tst_DBSession : public QObject
+class tst_DBSession : public StoreTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_store = std::make_unique<StoreFixture>(); }
-
-    // No test may make Qt warn: not of a connection in use, not of a closed one.
-    void cleanup()
-    {
-        DB::closeDB();
-        const QStringList warnings = m_store->messages.warnings;
-        m_store.reset();
-        QCOMPARE(warnings, QStringList());
-    }
-
     void anEmptyPathMeansTheDocumentsFolder()
     {
         QVERIFY(DB::initByUserName("anna", QString(), true));
@@ -226,9 +211,6 @@ private slots:
         QCOMPARE(DB::m_db.databaseName(), m_store->file("bert"));
         QVERIFY(!DB::getDB().isValid());
     }
-
-private:
-    std::unique_ptr<StoreFixture> m_store;
 };
 
 QTEST_GUILESS_MAIN(tst_DBSession)

@@ -32,6 +32,8 @@ private:
     void mouseTo(const QPoint &away) { QTest::mouseMove(m_pWindow->windowHandle(), local(away)); }
     void mouseDown(const QPoint &away, Qt::MouseButton held = Qt::LeftButton);
     void mouseUp(const QPoint &away, Qt::MouseButton held = Qt::LeftButton);
+    /// Leaves a drag's rectangle behind, 50 pixels to the left of where the window then is.
+    void dragLeftEdgeAndMoveHome();
     /// An event that no hand on one mouse brings about, straight to the window.
     void send(QEvent::Type type, const QPoint &away, Qt::MouseButton button, Qt::MouseButtons held);
 
@@ -205,16 +207,21 @@ void tst_VoipWidgetMouse::dragBeyondTheWorkAreaKeepsItsSize()
     QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
 }
 
-void tst_VoipWidgetMouse::pressInTheBandWithoutAMoveOnlyHidesTheBand()
+void tst_VoipWidgetMouse::dragLeftEdgeAndMoveHome()
 {
-    showAtHome();
-    // A finished drag before leaves a rectangle behind, which the second release must not use.
     mouseTo(QPoint(1, 200));
     mouseDown(QPoint(1, 200));
     mouseTo(QPoint(-50, 200));
     mouseUp(QPoint(-50, 200));
     QTRY_COMPARE(m_pWindow->pos(), cHome + QPoint(-50, 0));
     m_pWindow->move(cHome);
+}
+
+void tst_VoipWidgetMouse::pressInTheBandWithoutAMoveOnlyHidesTheBand()
+{
+    showAtHome();
+    // A finished drag before leaves a rectangle behind, which the second release must not use.
+    dragLeftEdgeAndMoveHome();
     QTRY_COMPARE(m_pWindow->windowHandle()->geometry(), QRect(cHome, cSize));
 
     mouseTo(QPoint(1, 200));
@@ -344,12 +351,7 @@ void tst_VoipWidgetMouse::moveWithoutTheButtonHeldMovesNothing()
 void tst_VoipWidgetMouse::rectangleOfADragStaysUntilTheNextPress()
 {
     showAtHome();
-    mouseTo(QPoint(1, 200));
-    mouseDown(QPoint(1, 200));
-    mouseTo(QPoint(-50, 200));
-    mouseUp(QPoint(-50, 200));
-    QTRY_COMPARE(m_pWindow->pos(), cHome + QPoint(-50, 0));
-    m_pWindow->move(cHome);
+    dragLeftEdgeAndMoveHome();
     // A release that no press came before.
     send(QEvent::MouseButtonRelease, QPoint(200, 200), Qt::LeftButton, Qt::NoButton);
     QCOMPARE(m_pWindow->pos(), cHome + QPoint(-50, 0));
