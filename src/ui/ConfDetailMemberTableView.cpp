@@ -123,32 +123,19 @@ void CConfDetailMemberTableView::hoverItem(const QModelIndex &index, const QPoin
         m_strSignJid = CommonFun::getJidByUid(index.data(ROLE_USER_ID).toString());
         // Each move inside the head starts the delay anew.
         m_signTimer.start(cSignDelay);
-    } else if (!cancelCard()) {
+    } else if (!cancelSignCard(*this, m_signTimer)) {
         return;
     }
     setCursor(Qt::ArrowCursor);
 }
 
-// False when the host has destroyed the grid while it took the request.
-bool CConfDetailMemberTableView::cancelCard()
-{
-    const QPointer<CConfDetailMemberTableView> self = this;
-    m_signTimer.stop();
-    VoipManageEventProcess::closeSignList();
-    return !self.isNull();
-}
-
 void CConfDetailMemberTableView::slot_ShowSign()
 {
-    const QPointer<CConfDetailMemberTableView> self = this;
-    // Deliberate: the card's host takes the grid's width where it asks for a height.
-    VoipManageEventProcess::showSignList(m_strSignJid, m_signPos.x(), m_signPos.y(), width(), true, false);
-    if (self)
-        m_signTimer.stop();
+    showSignCard(*this, m_signTimer, m_strSignJid, m_signPos);
 }
 
 void CConfDetailMemberTableView::leaveEvent(QEvent *event)
 {
-    if (cancelCard())
+    if (cancelSignCard(*this, m_signTimer))
         QTableView::leaveEvent(event);
 }

@@ -49,7 +49,6 @@ private:
     static std::unique_ptr<QStandardItem> creatMemberItem(const QString &strUserID);
     void placeMember(int iRow, int iColumn, const QString &strUserID);
     void hoverItem(const QModelIndex &index, const QPoint &position);
-    bool cancelCard();
 
     QStandardItemModel *m_pModel;
     QList<QString> m_memberList;

@@ -59,14 +59,15 @@ void CConferenceInfoListView::addConfInfoList(QList<ConfInfoData> confInfoList)
     if (confInfoList.isEmpty())
         return;
     const QPointer<CConferenceInfoListView> self = this;
-    // Deliberate: one request per creator, not per record. The centre opens a hundred thousand records on it.
+    // Deliberate: one request per creator, not per record, of which there may be a hundred thousand.
     QHash<QString, std::shared_ptr<const ConferenceCreator>> creators;
     for (const ConfInfoData &confInfo : qAsConst(confInfoList)) {
-        if (!creators.contains(confInfo.m_strCreatUserID))
-            creators.insert(confInfo.m_strCreatUserID, creatorOf(confInfo.m_strCreatUserID));
+        if (creators.contains(confInfo.m_strCreatUserID))
+            continue;
+        creators.insert(confInfo.m_strCreatUserID, creatorOf(confInfo.m_strCreatUserID));
+        if (!self)
+            return;
     }
-    if (!self)
-        return;
     QList<QStandardItem *> items;
     items.reserve(confInfoList.size());
     for (const ConfInfoData &confInfo : qAsConst(confInfoList)) {
@@ -162,33 +163,20 @@ void CConferenceInfoListView::hoverRow(const QModelIndex &index, const QPoint &p
         m_strSignJid = CommonFun::getJidByUid(index.data(ROLE_USER_ID).toString());
         // Each move inside the head starts the delay anew.
         m_signTimer.start(cSignDelay);
-    } else if (!cancelCard()) {
+    } else if (!cancelSignCard(*this, m_signTimer)) {
         return;
     }
     setCursor(Qt::ArrowCursor);
 }
 
-// False when the host has destroyed the list while it took the request.
-bool CConferenceInfoListView::cancelCard()
-{
-    const QPointer<CConferenceInfoListView> self = this;
-    m_signTimer.stop();
-    VoipManageEventProcess::closeSignList();
-    return !self.isNull();
-}
-
 void CConferenceInfoListView::slot_ShowSign()
 {
-    const QPointer<CConferenceInfoListView> self = this;
-    // Deliberate: the card's host takes the list's width where it asks for a height.
-    VoipManageEventProcess::showSignList(m_strSignJid, m_signPos.x(), m_signPos.y(), width(), true, false);
-    if (self)
-        m_signTimer.stop();
+    showSignCard(*this, m_signTimer, m_strSignJid, m_signPos);
 }
 
 void CConferenceInfoListView::leaveEvent(QEvent *event)
 {
-    if (cancelCard())
+    if (cancelSignCard(*this, m_signTimer))
         QListView::leaveEvent(event);
 }
 

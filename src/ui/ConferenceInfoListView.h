@@ -69,7 +69,6 @@ private:
     static QStandardItem *creatListItem(const ConfInfoData &confInfo,
                                         const std::shared_ptr<const ConferenceCreator> &pCreator);
     void hoverRow(const QModelIndex &index, const QPoint &position);
-    bool cancelCard();
     void clickRow(const QModelIndex &index, const QPoint &position);
     void showMenu(const QStandardItem *pItem);
 

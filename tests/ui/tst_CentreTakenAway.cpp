@@ -112,7 +112,11 @@ void tst_CentreTakenAway::listMayGoWhileItsCreatorsAreLookedUp()
 {
     auto pList = std::make_unique<CConferenceInfoListView>();
     takeAwayAt(MSG_GET_FRIEND_INFO, pList);
-    pList->addConfInfoList({unknownRecord(), record(QStringLiteral("b"))});
+    ConfInfoData second = unknownRecord();
+    second.m_strConfID = QStringLiteral("b");
+    second.m_strCreatUserID = QStringLiteral("another stranger");
+    pList->addConfInfoList({unknownRecord(), second});
+    // With the list gone nobody needs the second creator.
     QCOMPARE(requests(MSG_GET_FRIEND_INFO), 1);
     QVERIFY(!pList);
 }
