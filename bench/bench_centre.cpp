@@ -3,10 +3,11 @@
 // "record" is the time of one record. Beside it a list view with the default delegate and a plain item model that shows
 // the same texts, read from the same store.
 
-#include "common/CommonFun.h"
 #include "model/CommonData.h"
 #include "model/FriendData.h"
 #include "model/LoginData.h"
+#include "model/SharedContext.h"
+#include "model/UserIds.h"
 #include "store/DB.h"
 #include "store/DBConfInfo.h"
 #include "ui/ConferenceInfoListView.h"
@@ -54,10 +55,10 @@ public:
         m_login.m_strUid = creator(0);
         m_login.m_strDomain = QStringLiteral("kelvar.im");
         m_data.setLoginData(&m_login);
-        CommonFun::setCommonData(&m_data);
+        SharedContext::setCommonData(&m_data);
         QMap<QString, FriendData> contacts;
         for (int i = 0; i < kCreators; ++i) {
-            const QString strJid = CommonFun::getJidByUid(creator(i));
+            const QString strJid = UserIds::getJidByUid(creator(i));
             FriendData contact(strJid);
             contact.m_vcardInfo.m_strNickName = QStringLiteral("Contact %1").arg(i);
             contacts.insert(strJid, contact);

@@ -4,11 +4,12 @@
 
 #include "ProcessorClock.h"
 
-#include "common/CommonFun.h"
 #include "engine/VoipManage.h"
 #include "model/CommonData.h"
 #include "model/FriendData.h"
 #include "model/LoginData.h"
+#include "model/SharedContext.h"
+#include "model/UserIds.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/VoipManageMessageProcess.h"
@@ -106,7 +107,7 @@ QMap<QString, FriendData> contacts(int count)
     for (int i = 0; i < count; ++i) {
         FriendData contact;
         contact.m_vcardInfo.m_strNickName = QStringLiteral("成员") + QString::number(i);
-        contacts.insert(CommonFun::getJidByUid(uid(i)), contact);
+        contacts.insert(UserIds::getJidByUid(uid(i)), contact);
     }
     return contacts;
 }
@@ -137,7 +138,7 @@ BENCHMARK(membersNew)->Arg(10)->Arg(100)->Arg(1000)->Arg(kMostMembers)->UseManua
 /// 1,000 new members among so many contacts: none of them is copied or walked through for a member.
 void membersNewAmong(benchmark::State &state)
 {
-    CommonFun::setFriendDataMap(contacts(static_cast<int>(state.range(0))));
+    SharedContext::setFriendDataMap(contacts(static_cast<int>(state.range(0))));
     Engine engine;
     const QString line = updateLine(1000);
     for (auto _ : state) {
@@ -147,7 +148,7 @@ void membersNewAmong(benchmark::State &state)
         state.SetIterationTime(clock.seconds());
     }
     engine.callFinished(CallData::FinishHangup);
-    CommonFun::setFriendDataMap(contacts(kMostMembers));
+    SharedContext::setFriendDataMap(contacts(kMostMembers));
 }
 BENCHMARK(membersNewAmong)->Arg(1000)->Arg(100000)->UseManualTime()->Iterations(2);
 
@@ -203,7 +204,7 @@ int main(int argc, char **argv)
     login.m_strDomain = QStringLiteral("kelvar.im");
     CommonData data;
     data.setLoginData(&login);
-    CommonFun::setCommonData(&data);
+    SharedContext::setCommonData(&data);
     data.setFriendDataMap(contacts(kMostMembers));
     Host host;
     VoipManageMessageProcess::instance()->setSendEvent(&host);
@@ -214,6 +215,6 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     VoipManageMessageProcess::instance()->setSendEvent(nullptr);
-    CommonFun::setCommonData(nullptr);
+    SharedContext::setCommonData(nullptr);
     return 0;
 }

@@ -5,10 +5,10 @@
 
 #include "common/CLogManger.h"
 #include "common/CLogThread.h"
-#include "common/CommonFun.h"
 #include "common/CustomLogData.h"
 #include "common/CustomLogger.h"
 #include "model/CommonData.h"
+#include "model/SharedContext.h"
 
 #include <QCoreApplication>
 #include <QMutex>
@@ -176,10 +176,10 @@ int main(int argc, char **argv)
     CommonData data;
     g_logThread.emplace();
     data.setCustomLogThread(&*g_logThread);
-    CommonFun::setCommonData(&data);
+    SharedContext::setCommonData(&data);
 
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    CommonFun::setCommonData(nullptr);
+    SharedContext::setCommonData(nullptr);
     return 0;
 }

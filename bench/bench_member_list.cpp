@@ -3,9 +3,10 @@
 // which must not grow with their number. Beside it a list view with the default delegate that shows as many rows of
 // a cached picture and a text.
 
-#include "common/CommonFun.h"
 #include "model/CommonData.h"
 #include "model/LoginData.h"
+#include "model/SharedContext.h"
+#include "model/UserIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
 #include "ui/MemberRoles.h"
@@ -181,7 +182,7 @@ QMap<QString, FriendData> contacts()
         QPixmap head(96, 96);
         head.fill(QColor::fromHsv(i % 360, 200, 200));
         head.save(contact.m_vcardInfo.m_strPhotoPath);
-        contacts.insert(CommonFun::getJidByUid(uid(i)), contact);
+        contacts.insert(UserIds::getJidByUid(uid(i)), contact);
     }
     return contacts;
 }
@@ -196,11 +197,11 @@ int main(int argc, char **argv)
     login.m_strDomain = QStringLiteral("kelvar.im");
     CommonData data;
     data.setLoginData(&login);
-    CommonFun::setCommonData(&data);
+    SharedContext::setCommonData(&data);
     data.setFriendDataMap(contacts());
 
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    CommonFun::setCommonData(nullptr);
+    SharedContext::setCommonData(nullptr);
     return 0;
 }

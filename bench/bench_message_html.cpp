@@ -1,7 +1,10 @@
 // A message's HTML on its way to the screen: links, plain text and image lists of ordinary messages and of hostile
 // ones, beside one bare pass of the link pattern over the same text. All are to grow with the text and no faster.
 
-#include "common/CommonFun.h"
+#include "common/HtmlImages.h"
+#include "common/HtmlLinks.h"
+#include "common/MessageHtml.h"
+#include "common/PlainText.h"
 
 #include <QApplication>
 #include <QRegExp>
@@ -63,24 +66,24 @@ int matches(const QString &text)
 
 QString linked(QString text)
 {
-    CommonFun::convertWebLink(text, {});
+    HtmlLinks::convertWebLink(text, {});
     return text;
 }
 
 QString shown(const QString &text)
 {
-    return CommonFun::convertMessageBody(text, true);
+    return MessageHtml::convertMessageBody(text, true);
 }
 
 QString plain(QString text)
 {
-    CommonFun::convertToPlaintText(text);
+    PlainText::convertToPlaintText(text);
     return text;
 }
 
 int images(const QString &text)
 {
-    return CommonFun::getImageListFromHtml(text, {}, {}).size();
+    return HtmlImages::getImageListFromHtml(text, {}, {}).size();
 }
 
 /// One pass of the pattern of an image, over all of the text.
@@ -105,7 +108,7 @@ QString documentText(const QString &text)
 
 int fileIds(const QString &text)
 {
-    return CommonFun::getFileIdListFromHtml(text, {}, {}).size();
+    return HtmlImages::getFileIdListFromHtml(text, {}, {}).size();
 }
 
 void barePatternPass(benchmark::State &state)

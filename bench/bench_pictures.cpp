@@ -2,7 +2,10 @@
 // the same picture to that size, and the watermark, drawn and known already, beside a scale to the size of the screen
 // that is saved as well.
 
-#include "common/CommonFun.h"
+#include "common/HeadImages.h"
+#include "common/NinePatch.h"
+#include "common/WaterMark.h"
+#include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 
 #include <QApplication>
@@ -31,7 +34,7 @@ QPixmap picture(int iSide)
 void roundedHead(benchmark::State &state)
 {
     for (auto _ : state)
-        benchmark::DoNotOptimize(CommonFun::getRoundedImage(HEAD_FILE, int(state.range(0))));
+        benchmark::DoNotOptimize(HeadImages::getRoundedImage(HEAD_FILE, int(state.range(0))));
 }
 BENCHMARK(roundedHead)->Arg(22)->Arg(40)->Arg(100);
 
@@ -49,7 +52,7 @@ void ninePatch(benchmark::State &state)
 {
     const QPixmap source = picture(29);
     for (auto _ : state)
-        benchmark::DoNotOptimize(CommonFun::drawNinePatch(QSize(FRAME_WIDTH, FRAME_HEIGHT), source));
+        benchmark::DoNotOptimize(NinePatch::drawNinePatch(QSize(FRAME_WIDTH, FRAME_HEIGHT), source));
 }
 BENCHMARK(ninePatch);
 
@@ -66,11 +69,11 @@ void waterMark(benchmark::State &state, bool bKnown)
     QString strName = QStringLiteral("成员");
     QString strId = QStringLiteral("30010001");
     QString strPath;
-    CommonFun::generateWaterMark(strName, strId, strPath);
+    WaterMark::generateWaterMark(strName, strId, strPath);
     for (auto _ : state) {
         if (!bKnown)
             QFile::remove(strPath);
-        benchmark::DoNotOptimize(CommonFun::generateWaterMark(strName, strId, strPath));
+        benchmark::DoNotOptimize(WaterMark::generateWaterMark(strName, strId, strPath));
     }
 }
 BENCHMARK_CAPTURE(waterMark, drawnAndSaved, false)->Unit(benchmark::kMillisecond);
@@ -96,12 +99,12 @@ int main(int argc, char **argv)
     settings.m_strUserFolder = QDir::currentPath();
     CommonData data;
     data.setSystemSetData(&settings);
-    CommonFun::setCommonData(&data);
+    SharedContext::setCommonData(&data);
     if (!picture(200).save(HEAD_FILE))
         return 1;
 
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    CommonFun::setCommonData(nullptr);
+    SharedContext::setCommonData(nullptr);
     return 0;
 }

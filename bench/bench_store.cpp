@@ -2,7 +2,7 @@
 // conference records. Beside each the same statements through SQLite's C interface, and through bare QSqlQuery. What an
 // open asks of SQLite is taken down once and played back, so that the peer does what the store does at any time.
 
-#include "common/CommonFun.h"
+#include "model/SharedContext.h"
 #include "store/DB.h"
 #include "store/DBConfInfo.h"
 
@@ -357,11 +357,11 @@ int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     CommonData data;
-    CommonFun::setCommonData(&data);
+    SharedContext::setCommonData(&data);
     sqlite3_auto_extension(reinterpret_cast<void (*)()>(watchConnection));
 
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    CommonFun::setCommonData(nullptr);
+    SharedContext::setCommonData(nullptr);
     return 0;
 }

@@ -1,6 +1,7 @@
 // Long texts broken into lines: for a tip, for a view and for a label. All are to grow with the text and no faster.
 
-#include "common/CommonFun.h"
+#include "common/LabelText.h"
+#include "common/ShortText.h"
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -30,7 +31,7 @@ void shortString(benchmark::State &state)
 {
     const QString text = mixedText(state);
     for (auto _ : state)
-        benchmark::DoNotOptimize(CommonFun::getShortString(text, 40));
+        benchmark::DoNotOptimize(ShortText::getShortString(text, 40));
 }
 
 void lineWrapText(benchmark::State &state)
@@ -38,7 +39,7 @@ void lineWrapText(benchmark::State &state)
     const QString text = mixedText(state);
     const QFontMetrics metrics{QFont()};
     for (auto _ : state)
-        benchmark::DoNotOptimize(CommonFun::getLineWrapText(kWidth, text, metrics, 0));
+        benchmark::DoNotOptimize(LabelText::getLineWrapText(kWidth, text, metrics, 0));
 }
 
 void formatWithControl(benchmark::State &state)
@@ -48,7 +49,7 @@ void formatWithControl(benchmark::State &state)
     label.resize(kWidth, 100);
     for (auto _ : state) {
         QString out;
-        benchmark::DoNotOptimize(CommonFun::stringFormatWithControl(text, &label, out, 0));
+        benchmark::DoNotOptimize(LabelText::stringFormatWithControl(text, &label, out, 0));
     }
 }
 

@@ -5,9 +5,9 @@
 #include "ProcessorClock.h"
 
 #include "common/CLogThread.h"
-#include "common/CommonFun.h"
 #include "engine/VoipManage.h"
 #include "model/CommonData.h"
+#include "model/SharedContext.h"
 
 #include <QApplication>
 #include <QLocalServer>
@@ -202,7 +202,7 @@ int main(int argc, char **argv)
     CommonData data;
     g_logThread.emplace();
     data.setCustomLogThread(&*g_logThread);
-    CommonFun::setCommonData(&data);
+    SharedContext::setCommonData(&data);
     QLocalServer server;
     if (!server.listen(QStringLiteral("VoipSDK")))
         return 1;
@@ -211,6 +211,6 @@ int main(int argc, char **argv)
     registerAll();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    CommonFun::setCommonData(nullptr);
+    SharedContext::setCommonData(nullptr);
     return 0;
 }

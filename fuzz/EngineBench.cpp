@@ -2,7 +2,7 @@
 
 #include "FuzzTargets.h"
 
-#include "common/CommonFun.h"
+#include "model/SharedContext.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
 #include "ui/VoiceConferenceWidget.h"
@@ -56,7 +56,7 @@ EngineBench::EngineBench()
     m_settings.m_strCloseVoice = QStringLiteral("1");
     m_context.setLoginData(&m_login);
     m_context.setSystemSetData(&m_settings);
-    CommonFun::setCommonData(&m_context);
+    SharedContext::setCommonData(&m_context);
     VoipManageMessageProcess::instance()->setSendEvent(&host);
     manager = std::make_unique<VoipManageProbe>();
     manager->use();
@@ -75,7 +75,7 @@ void EngineBench::openChannel()
 
 void EngineBench::begin(bool withWindow)
 {
-    CommonFun::setCommonData(&m_context);
+    SharedContext::setCommonData(&m_context);
     manager->m_pVoipWidget = withWindow ? m_pWindow : nullptr;
 }
 

@@ -1,6 +1,6 @@
 #include "HostLanguage.h"
 
-#include "common/CommonFun.h"
+#include "common/AppInfo.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
@@ -29,7 +29,7 @@ QString HostLanguage::choiceOf(const QString &strLanguage)
 QString HostLanguage::firstLanguage(const QString &strSystem)
 {
     const QLocale system(strSystem);
-    return system.language() == QLocale::Chinese ? CommonFun::getLanguageFileSuffix(system.language(), system.country())
+    return system.language() == QLocale::Chinese ? AppInfo::getLanguageFileSuffix(system.language(), system.country())
                                                  : QStringLiteral("en");
 }
 

@@ -4,7 +4,8 @@
 #include "HostSkins.h"
 
 #include "common/AppPaths.h"
-#include "common/CommonFun.h"
+#include "common/ConfigFile.h"
+#include "model/SkinContext.h"
 #include "model/SystemSetData.h"
 
 #include <QApplication>
@@ -26,7 +27,7 @@ const QString SKIN_KEY = QStringLiteral("/skinSetting/skinName");
 void writeForUser(const QString &strKey, const QString &strValue)
 {
     SystemSetData *settings = SystemSetData::instance();
-    CommonFun::changeConfigValue(settings->m_strUserConfigPath, strKey, strValue);
+    ConfigFile::changeConfigValue(settings->m_strUserConfigPath, strKey, strValue);
     settings->initData(settings->m_strUserName);
 }
 
@@ -60,7 +61,7 @@ void HostSettings::setSilent(bool bSilent)
 
 QString HostSettings::dataFolder()
 {
-    const QString stored = CommonFun::getConfigValue(commonFile(), DATA_KEY).toString();
+    const QString stored = ConfigFile::getConfigValue(commonFile(), DATA_KEY).toString();
     return stored.isEmpty() ? SystemSetData::instance()->m_strDefaultDataRoot : stored;
 }
 
@@ -68,7 +69,7 @@ bool HostSettings::setDataFolder(const QString &strFolder)
 {
     const bool bOk = strFolder.isEmpty() || canHold(strFolder);
     if (bOk) {
-        CommonFun::changeConfigValue(commonFile(), DATA_KEY, strFolder);
+        ConfigFile::changeConfigValue(commonFile(), DATA_KEY, strFolder);
     }
     return bOk;
 }
@@ -94,38 +95,38 @@ bool HostSettings::setReceiveFolder(const QString &strFolder)
 
 QString HostSettings::language()
 {
-    QString language = CommonFun::getConfigValue(commonFile(), LANGUAGE_KEY).toString();
+    QString language = ConfigFile::getConfigValue(commonFile(), LANGUAGE_KEY).toString();
     if (language.isEmpty()) {
         // Written down, so that everybody who asks the settings finds the language that the windows speak.
         language = HostLanguage::firstLanguage(QLocale::system().name());
-        CommonFun::changeConfigValue(commonFile(), LANGUAGE_KEY, language);
+        ConfigFile::changeConfigValue(commonFile(), LANGUAGE_KEY, language);
     }
     return language;
 }
 
 void HostSettings::setLanguage(const QString &strLanguage)
 {
-    CommonFun::changeConfigValue(commonFile(), LANGUAGE_KEY, strLanguage);
+    ConfigFile::changeConfigValue(commonFile(), LANGUAGE_KEY, strLanguage);
     emit languageChanged(strLanguage);
 }
 
 QString HostSettings::skin()
 {
-    const QString stored = CommonFun::getConfigValue(userFile(), SKIN_KEY).toString();
+    const QString stored = ConfigFile::getConfigValue(userFile(), SKIN_KEY).toString();
     return HostSkins::names().contains(stored) ? stored : HostSkins::standardName();
 }
 
 void HostSettings::setSkin(const QString &strName)
 {
-    CommonFun::changeConfigValue(userFile(), SKIN_KEY, strName);
-    const QList<SysUIData> *skins = CommonFun::getSysUIDataList();
+    ConfigFile::changeConfigValue(userFile(), SKIN_KEY, strName);
+    const QList<SysUIData> *skins = SkinContext::getSysUIDataList();
     if (skins == nullptr) {
         return;
     }
     const auto found = std::find_if(skins->begin(), skins->end(),
                                     [&](const SysUIData &skin) { return skin.m_strSkinName == strName; });
     if (found != skins->end()) {
-        CommonFun::setSkinData(*found);
+        SkinContext::setSkinData(*found);
         emit skinChanged();
         // The plug-in's windows fetch the colour of their frame at each paint.
         const QWidgetList widgets = QApplication::allWidgets();

@@ -1,7 +1,7 @@
 #include "HostSkins.h"
 
-#include "common/CommonFun.h"
 #include "common/Palette.h"
+#include "model/SkinContext.h"
 
 #include <QCoreApplication>
 #include <QVariant>
@@ -53,7 +53,7 @@ const SkinRow &rowOf(const QString &strName)
 
 const SkinRow &currentRow()
 {
-    return rowOf(CommonFun::getSkinData()->m_strSkinName);
+    return rowOf(SkinContext::getSkinData()->m_strSkinName);
 }
 
 /// The text with the standard skin's colours replaced by the row's.
@@ -86,7 +86,7 @@ QString HostSkins::standardName()
 
 QList<SysUIData> HostSkins::makeAll()
 {
-    const SysUIData standard = *CommonFun::getSkinData();
+    const SysUIData standard = *SkinContext::getSkinData();
     QList<SysUIData> skins;
     std::transform(rows().begin(), rows().end(), std::back_inserter(skins),
                    [&](const SkinRow &row) { return makeSkin(standard, row); });

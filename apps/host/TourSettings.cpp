@@ -5,7 +5,8 @@
 #include "TourCast.h"
 #include "TourScript.h"
 
-#include "common/CommonFun.h"
+#include "common/ConfigFile.h"
+#include "model/SkinContext.h"
 
 using namespace TourCast;
 
@@ -14,7 +15,7 @@ namespace {
 TourCheck silentInFile(const char *strValue)
 {
     return {QStringLiteral("the user's settings file says closeVoice=%1").arg(QLatin1String(strValue)), [strValue] {
-                return CommonFun::getConfigValue(HostSettings::userFile(), QLatin1String(HostSettings::silentKey))
+                return ConfigFile::getConfigValue(HostSettings::userFile(), QLatin1String(HostSettings::silentKey))
                            .toString() == QLatin1String(strValue);
             }};
 }
@@ -22,7 +23,7 @@ TourCheck silentInFile(const char *strValue)
 TourCheck skinIs(const QString &strName)
 {
     return {QStringLiteral("the shared context has the skin %1").arg(strName),
-            [strName] { return CommonFun::getSkinData()->m_strSkinName == strName; }};
+            [strName] { return SkinContext::getSkinData()->m_strSkinName == strName; }};
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "FuzzTargets.h"
 
 #include "common/BoundedHtml.h"
-#include "common/CommonFun.h"
 #include "common/DomText.h"
 #include "common/HtmlImages.h"
 #include "common/HtmlLinks.h"
@@ -13,6 +12,7 @@
 #include "common/ShortText.h"
 #include "common/TextMeasure.h"
 #include "model/CommonData.h"
+#include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 
 #include <QDomDocument>
@@ -120,7 +120,7 @@ void FuzzTargets::html(const QByteArray &input)
     static CommonData s_context;
     static SystemSetData s_settings;
     s_context.setSystemSetData(&s_settings);
-    CommonFun::setCommonData(&s_context);
+    SharedContext::setCommonData(&s_context);
 
     if (input.isEmpty())
         return;

@@ -1,9 +1,10 @@
 #include "FuzzTargets.h"
 
-#include "common/CommonFun.h"
 #include "model/CommonData.h"
 #include "model/Jid.h"
 #include "model/LoginData.h"
+#include "model/SharedContext.h"
+#include "model/UserIds.h"
 
 #include <QList>
 
@@ -32,22 +33,22 @@ void requireOrder(const Jid &left, const Jid &right)
 
 void askUserIds(const QString &text, const QString &other)
 {
-    CommonFun::getJidByUid(text);
-    CommonFun::getUidByJid(text);
-    const QString session = CommonFun::getSessionIdByChatJid(text);
-    CommonFun::getChatJidBySessionId(session);
-    CommonFun::getChatJidBySessionId(text);
-    CommonFun::isMucJid(text);
-    CommonFun::isMucSession(text);
-    CommonFun::isAgentSession(text);
-    CommonFun::isAgentSystemSession(text);
-    CommonFun::isAgentId(text);
-    CommonFun::isChannelId(text);
-    CommonFun::getChannelIdBySessionId(text);
-    CommonFun::getSessionIdByChannelId(text);
-    CommonFun::getSessionIdByUserAndChannel(text, other);
-    CommonFun::getCSUserIdBySessionId(text);
-    CommonFun::isVideoChat(text);
+    UserIds::getJidByUid(text);
+    UserIds::getUidByJid(text);
+    const QString session = UserIds::getSessionIdByChatJid(text);
+    UserIds::getChatJidBySessionId(session);
+    UserIds::getChatJidBySessionId(text);
+    UserIds::isMucJid(text);
+    UserIds::isMucSession(text);
+    UserIds::isAgentSession(text);
+    UserIds::isAgentSystemSession(text);
+    UserIds::isAgentId(text);
+    UserIds::isChannelId(text);
+    UserIds::getChannelIdBySessionId(text);
+    UserIds::getSessionIdByChannelId(text);
+    UserIds::getSessionIdByUserAndChannel(text, other);
+    UserIds::getCSUserIdBySessionId(text);
+    UserIds::isVideoChat(text);
 }
 
 } // namespace
@@ -59,7 +60,7 @@ void FuzzTargets::jid(const QByteArray &input)
     s_login.m_strUid = QStringLiteral("me");
     s_login.m_strDomain = QStringLiteral("kelvar.im");
     s_context.setLoginData(&s_login);
-    CommonFun::setCommonData(&s_context);
+    SharedContext::setCommonData(&s_context);
 
     const Jid whole(input.toStdString());
     requireSound(whole);

@@ -1,8 +1,8 @@
 #include "FuzzTargets.h"
 
-#include "common/CommonFun.h"
 #include "engine/ConferenceDocument.h"
 #include "model/CommonData.h"
+#include "model/SharedContext.h"
 #include "store/DB.h"
 #include "store/DBConfInfo.h"
 
@@ -23,7 +23,7 @@ void read(const QString &text)
 void openStore()
 {
     static CommonData s_context;
-    CommonFun::setCommonData(&s_context);
+    SharedContext::setCommonData(&s_context);
     if (!DB::getDB().isOpen()) {
         requirePromise(DB::initByUserName(QStringLiteral("me"), QDir::currentPath(), true), "the store opens");
         QSqlQuery(DB::getDB()).exec(QStringLiteral("PRAGMA journal_mode = MEMORY"));

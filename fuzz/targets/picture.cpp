@@ -1,6 +1,5 @@
 #include "FuzzTargets.h"
 
-#include "common/CommonFun.h"
 #include "common/HeadImages.h"
 #include "common/ImagePath.h"
 #include "common/NinePatch.h"
@@ -8,6 +7,7 @@
 #include "common/PictureFun.h"
 #include "common/PictureNames.h"
 #include "model/CommonData.h"
+#include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 
 #include <QDir>
@@ -81,7 +81,7 @@ void FuzzTargets::picture(const QByteArray &input)
     static SystemSetData s_settings;
     s_settings.m_strHeadImageFolder = QDir::currentPath() + QLatin1String("/heads/");
     s_context.setSystemSetData(&s_settings);
-    CommonFun::setCommonData(&s_context);
+    SharedContext::setCommonData(&s_context);
 
     if (input.isEmpty())
         return;

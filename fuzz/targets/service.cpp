@@ -1,9 +1,9 @@
 #include "FuzzTargets.h"
 
-#include "common/CommonFun.h"
 #include "model/CSUtils.h"
 #include "model/CServiceNumData.h"
 #include "model/CommonData.h"
+#include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 
 #include <json/reader.h>
@@ -74,7 +74,7 @@ void FuzzTargets::service(const QByteArray &input)
     static CommonData s_context;
     static SystemSetData s_settings;
     s_context.setSystemSetData(&s_settings);
-    CommonFun::setCommonData(&s_context);
+    SharedContext::setCommonData(&s_context);
 
     CServiceNumData data;
     try {

@@ -1,8 +1,8 @@
 #include "common/CLogManger.h"
 
 #include "common/CLogThread.h"
-#include "common/CommonFun.h"
 #include "common/CustomLogger.h"
+#include "model/SharedContext.h"
 
 #include <QLocale>
 
@@ -36,7 +36,7 @@ CLogManger *CLogManger::instance()
 
 CLogManger::CLogManger()
     : m_pTextStream(std::make_unique<QTextStream>(&m_strMessage, QIODevice::ReadWrite)),
-      m_pLogger(CommonFun::getCustomLogger()), m_pLogThread(CommonFun::getLogThread())
+      m_pLogger(SharedContext::getCustomLogger()), m_pLogThread(SharedContext::getLogThread())
 {
     m_strMessage.reserve(BUFFER_LENGTH);
     if (m_pLogThread) {

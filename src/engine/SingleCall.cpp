@@ -1,11 +1,12 @@
 // One call between two people, from its start to callFinished(), which also ends conferences.
 
 #include "common/CLogManger.h"
-#include "common/CommonFun.h"
 #include "engine/SdkCommand.h"
 #include "engine/VoipManage.h"
 #include "model/FriendData.h"
 #include "model/LoginData.h"
+#include "model/SharedContext.h"
+#include "model/UserIds.h"
 #include "plugin/StrangerCards.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/VoipWidget.h"
@@ -149,7 +150,7 @@ void CVoipManage::callFinished(CallData::FinishResult result)
     LOG_DEBUG << "call finish!"
               << "\n";
     if (!m_callData.peerId.isEmpty())
-        VoipManageEventProcess::closeAVMsgBox(CommonFun::getJidByUid(m_callData.peerId));
+        VoipManageEventProcess::closeAVMsgBox(UserIds::getJidByUid(m_callData.peerId));
     qint64 iSeconds = 0;
     if (!m_callData.connectTime.isNull())
         iSeconds = m_callData.connectTime.secsTo(QDateTime::currentDateTimeUtc());
@@ -170,9 +171,9 @@ void CVoipManage::clientConnectStatus(bool bConnected)
     if (bConnected) {
         LOG_DEBUG << "client connected, regedit user!"
                   << "\n";
-        const FriendData me = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getLoginMyJID());
-        const LoginData *login = CommonFun::getLoginData();
-        regeditVoipUser(CommonFun::getLoginUID(), me.displayName(), login ? login->m_strRegValue : QString());
+        const FriendData me = VoipManageEventProcess::getFriendInfoByJid(UserIds::getLoginMyJID());
+        const LoginData *login = SharedContext::getLoginData();
+        regeditVoipUser(UserIds::getLoginUID(), me.displayName(), login ? login->m_strRegValue : QString());
     } else {
         LOG_DEBUG << "client disconnect, hangupcall, unrededit user!"
                   << "\n";

@@ -1,7 +1,7 @@
 #include "engine/VoipManage.h"
 
 #include "common/CLogManger.h"
-#include "common/CommonFun.h"
+#include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 #include "ui/VoiceConferenceWidget.h"
 #include "ui/VoipWidget.h"
@@ -109,7 +109,7 @@ void CVoipManage::playReceviceCall()
               << "\n";
     if (!m_pRingSound)
         return;
-    const SystemSetData *settings = CommonFun::getSystemSetData();
+    const SystemSetData *settings = SharedContext::getSystemSetData();
     if (settings && settings->m_strCloseVoice == QLatin1String("1"))
         return;
     m_pRingSound->play();

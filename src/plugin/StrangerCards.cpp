@@ -1,19 +1,19 @@
 #include "plugin/StrangerCards.h"
 
-#include "common/CommonFun.h"
 #include "model/FriendData.h"
+#include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 
 bool StrangerCards::test(const QString &uid)
 {
-    const QString jid = CommonFun::getJidByUid(uid);
+    const QString jid = UserIds::getJidByUid(uid);
     const FriendData record = VoipManageEventProcess::getFriendInfoByJid(jid);
     // Deliberate: the contact plug-in is asked in any case, for the system account and for records at hand too.
     const bool known = VoipManageEventProcess::isExistFriend(jid);
     if (known || uid == QLatin1String("kv6005626532")) {
         return false;
     }
-    ids.append(CommonFun::getUidByJid(uid));
+    ids.append(UserIds::getUidByJid(uid));
     versions.append(QString::number(record.m_vcardInfo.m_iSmallVersion));
     return true;
 }

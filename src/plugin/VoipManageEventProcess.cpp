@@ -1,7 +1,7 @@
 #include "plugin/VoipManageEventProcess.h"
 
-#include "common/CommonFun.h"
 #include "model/FriendData.h"
+#include "model/SharedContext.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/HostRequests.h"
@@ -55,7 +55,7 @@ QStringList VoipManageEventProcess::addMemberToConference(QStringList list)
 
 FriendData VoipManageEventProcess::getFriendInfoByJid(QString strJid)
 {
-    const auto friends = CommonFun::getFriendDataMap();
+    const auto friends = SharedContext::getFriendDataMap();
     const auto known = friends.constFind(strJid);
     if (known != friends.constEnd()) {
         return known.value();

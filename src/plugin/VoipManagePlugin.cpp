@@ -1,6 +1,6 @@
 #include "plugin/VoipManagePlugin.h"
 
-#include "common/CommonFun.h"
+#include "model/SharedContext.h"
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 
@@ -49,5 +49,5 @@ QStringList VoipManagePlugin::getRecListByMsgId(const QString &, EMsgId)
 
 void VoipManagePlugin::setCommonData(CommonData *data)
 {
-    CommonFun::setCommonData(data);
+    SharedContext::setCommonData(data);
 }

@@ -1,7 +1,7 @@
 #include "store/DB.h"
 
 #include "common/AppPaths.h"
-#include "common/CommonFun.h"
+#include "model/SharedContext.h"
 #include "store/StoreFiles.h"
 #include "store/StoreSchema.h"
 
@@ -79,7 +79,7 @@ void openFreshConnection()
     if (QSqlDatabase::contains(sessionConnection))
         removeSessionConnection();
     DB::m_db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), sessionConnection);
-    if (CommonData *pContext = CommonFun::getCommonData())
+    if (CommonData *pContext = SharedContext::getCommonData())
         pContext->setSqlDatabase(&DB::m_db);
 }
 
@@ -133,17 +133,17 @@ bool DB::initByUserName(QString userName, QString path, bool createAll)
 
 void DB::closeDB()
 {
-    QSqlDatabase *pDatabase = CommonFun::getSqlDatabase();
+    QSqlDatabase *pDatabase = SharedContext::getSqlDatabase();
     if (!pDatabase)
         return;
     pDatabase->close();
     removeSessionConnection();
-    CommonFun::getCommonData()->setSqlDatabase(nullptr);
+    SharedContext::getCommonData()->setSqlDatabase(nullptr);
 }
 
 QSqlDatabase DB::getDB()
 {
-    const QSqlDatabase *pDatabase = CommonFun::getSqlDatabase();
+    const QSqlDatabase *pDatabase = SharedContext::getSqlDatabase();
     return pDatabase ? *pDatabase : QSqlDatabase();
 }
 

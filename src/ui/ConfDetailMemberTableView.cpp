@@ -1,9 +1,10 @@
 #include "ui/ConfDetailMemberTableView.h"
 
 #include "common/BuiltInPictures.h"
-#include "common/CommonFun.h"
 #include "common/DpiScale.h"
+#include "common/ImagePath.h"
 #include "model/FriendData.h"
+#include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/ConfDetailTableViewDelegate.h"
 #include "ui/MemberRoles.h"
@@ -62,11 +63,11 @@ void CConfDetailMemberTableView::clearData()
 
 std::unique_ptr<QStandardItem> CConfDetailMemberTableView::creatMemberItem(const QString &strUserID)
 {
-    const FriendData member = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(strUserID));
+    const FriendData member = VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(strUserID));
     auto pItem = std::make_unique<QStandardItem>();
     pItem->setData(strUserID, ROLE_USER_ID);
     pItem->setData(member.displayName(), ROLE_DISPLAY_NAME);
-    pItem->setData(CommonFun::getTrueImagePath(member.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
+    pItem->setData(ImagePath::getTrueImagePath(member.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
                    ROLE_HEAD_PATH);
     return pItem;
 }
@@ -120,7 +121,7 @@ void CConfDetailMemberTableView::hoverItem(const QModelIndex &index, const QPoin
     const QRect head = index.data(ROLE_HEAD_RECT).toRect();
     if (head.contains(position)) {
         m_signPos = signCardPlace(*this, head);
-        m_strSignJid = CommonFun::getJidByUid(index.data(ROLE_USER_ID).toString());
+        m_strSignJid = UserIds::getJidByUid(index.data(ROLE_USER_ID).toString());
         // Each move inside the head starts the delay anew.
         m_signTimer.start(cSignDelay);
     } else if (!cancelSignCard(*this, m_signTimer)) {

@@ -1,7 +1,7 @@
 #include "ui/ConfDetailTableViewDelegate.h"
 
-#include "common/CommonFun.h"
 #include "common/DpiScale.h"
+#include "common/HeadImages.h"
 #include "ui/MemberRoles.h"
 #include "ui/RowPainter.h"
 
@@ -28,7 +28,7 @@ void paintName(QPainter &painter, const QRect &cell, const QString &strName)
 } // namespace
 
 CConfDetailTableViewDelegate::CConfDetailTableViewDelegate(QObject *parent)
-    : QStyledItemDelegate(parent), m_heads(&CommonFun::getRoundedImage)
+    : QStyledItemDelegate(parent), m_heads(&HeadImages::getRoundedImage)
 {
 }
 

@@ -1,9 +1,11 @@
 #include "ui/ConferenceDetaileWidget.h"
 
 #include "common/BuiltInPictures.h"
-#include "common/CommonFun.h"
+#include "common/IconFont.h"
 #include "common/IconGlyphs.h"
+#include "common/ImagePath.h"
 #include "model/FriendData.h"
+#include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/ConferenceTexts.h"
 #include "ui_ConferenceDetaileWidget.h"
@@ -27,7 +29,7 @@ void CConferenceDetaileWidget::initWidget()
     ui->CreatName->setStyleSheet(strTitleStyle);
     ui->lblCallTime->setStyleSheet(strTitleStyle);
     ui->lblCreateTime->setStyleSheet(strTitleStyle);
-    ui->isCreatorIcon->setFont(CommonFun::getIconFont());
+    ui->isCreatorIcon->setFont(IconFont::getIconFont());
     ui->lblLine->setStyleSheet(QStringLiteral("QLabel#lblLine{background-color: #dbdddd;}"));
     ui->lblTableViewTitle->setText(QStringLiteral("参与人员"));
 }
@@ -38,12 +40,12 @@ void CConferenceDetaileWidget::setConferenceDetail(ConfInfoData confInfo)
     // The host may destroy the page while it looks the creator up.
     const QPointer<CConferenceDetaileWidget> self = this;
     const FriendData creator =
-        VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(confInfo.m_strCreatUserID));
+        VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(confInfo.m_strCreatUserID));
     if (!self)
         return;
     showCreator(creator);
     ui->lblCallTime->setText(ConferenceTexts::callLength(confInfo.m_strCallTime));
-    const bool bCreatedByMe = confInfo.m_strCreatUserID == CommonFun::getLoginUID();
+    const bool bCreatedByMe = confInfo.m_strCreatUserID == UserIds::getLoginUID();
     ui->isCreatorIcon->setText(IconGlyph::text(bCreatedByMe ? IconGlyph::CreatedByMe : IconGlyph::JoinedByMe));
     ui->lblCreateTime->setText(ConferenceTexts::titleLine(confInfo.m_strCreatTime));
     ui->tableView->setMemList(confInfo.m_listMember);
@@ -52,7 +54,7 @@ void CConferenceDetaileWidget::setConferenceDetail(ConfInfoData confInfo)
 void CConferenceDetaileWidget::showCreator(const FriendData &creator)
 {
     ui->creatUserIcon->setHeadPictrue(
-        CommonFun::getTrueImagePath(creator.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH));
+        ImagePath::getTrueImagePath(creator.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH));
     const QString strName = creator.displayName();
     if (!strName.isEmpty())
         ui->CreatName->setText(strName);

@@ -2,9 +2,11 @@
 
 #include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
-#include "common/CommonFun.h"
+#include "common/ImagePath.h"
 #include "common/Palette.h"
+#include "common/ScreenPlace.h"
 #include "model/FriendData.h"
+#include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/ConferenceInfoItem.h"
 #include "ui/ConferenceInfoListViewDelegate.h"
@@ -105,11 +107,11 @@ void CConferenceInfoListView::removeConfInfoData(QString strConfID)
 
 std::shared_ptr<const ConferenceCreator> CConferenceInfoListView::creatorOf(const QString &strUserID)
 {
-    const FriendData creator = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(strUserID));
+    const FriendData creator = VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(strUserID));
     return std::make_shared<const ConferenceCreator>(
         ConferenceCreator{strUserID, creator.displayName(),
-                          CommonFun::getTrueImagePath(creator.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
-                          strUserID == CommonFun::getLoginUID()});
+                          ImagePath::getTrueImagePath(creator.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
+                          strUserID == UserIds::getLoginUID()});
 }
 
 QStandardItem *CConferenceInfoListView::creatListItem(const ConfInfoData &confInfo,
@@ -160,7 +162,7 @@ void CConferenceInfoListView::hoverRow(const QModelIndex &index, const QPoint &p
     }
     if (head.contains(position)) {
         m_signPos = signCardPlace(*this, head);
-        m_strSignJid = CommonFun::getJidByUid(index.data(ROLE_USER_ID).toString());
+        m_strSignJid = UserIds::getJidByUid(index.data(ROLE_USER_ID).toString());
         // Each move inside the head starts the delay anew.
         m_signTimer.start(cSignDelay);
     } else if (!cancelSignCard(*this, m_signTimer)) {
@@ -223,7 +225,7 @@ void CConferenceInfoListView::showMenu(const QStandardItem *pItem)
     m_pMenu->addAction(m_pDeleteAction);
     m_pMenu->show();
     const QPoint cursor = QCursor::pos();
-    const QSize screen = CommonFun::workArea().size();
+    const QSize screen = ScreenPlace::workArea().size();
     m_pMenu->move(menuStart(cursor.x(), m_pMenu->width(), screen.width()),
                   menuStart(cursor.y(), m_pMenu->height(), screen.height()));
 }

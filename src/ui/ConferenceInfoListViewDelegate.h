@@ -4,7 +4,7 @@
 // row's head and detail button stand, which is how the list's mouse handlers learn it. Owned by the list; GUI thread
 // only.
 
-#include "common/CommonFun.h"
+#include "common/HeadImages.h"
 #include "ui/HeadCache.h"
 #include "ui/LineCache.h"
 
@@ -28,5 +28,5 @@ private:
     void paintHead(QPainter &painter, const QRect &row, const QModelIndex &index) const;
 
     mutable LineCache m_lines;
-    mutable HeadCache m_heads{&CommonFun::getRoundedImage};
+    mutable HeadCache m_heads{&HeadImages::getRoundedImage};
 };

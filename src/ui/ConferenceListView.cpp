@@ -2,10 +2,12 @@
 
 #include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
-#include "common/CommonFun.h"
 #include "common/DpiScale.h"
+#include "common/ImagePath.h"
 #include "common/Palette.h"
+#include "common/ShortText.h"
 #include "model/FriendData.h"
+#include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/ConferenceListViewDelegate.h"
 #include "ui/MemberRoles.h"
@@ -24,7 +26,7 @@ constexpr int cTipColumns = 40;
 
 void showTip(const QString &strTip)
 {
-    QToolTip::showText(QCursor::pos(), CommonFun::getShortString(strTip, cTipColumns));
+    QToolTip::showText(QCursor::pos(), ShortText::getShortString(strTip, cTipColumns));
 }
 
 } // namespace
@@ -103,7 +105,7 @@ void CConferenceListView::setConferenceCreator(QString strCreator)
     m_strCreator = strCreator;
     if (QStandardItem *pItem = m_userItemMap.value(strCreator))
         pItem->setData(true, ROLE_IS_CREATOR);
-    if (strCreator == CommonFun::getLoginUID())
+    if (strCreator == UserIds::getLoginUID())
         m_statusTimer.start(cInviteCheckInterval);
 }
 
@@ -135,10 +137,10 @@ void CConferenceListView::setMuteAll(bool bMute)
 
 void CConferenceListView::updateUserInfo(QString strJid, VcardInfo vcard)
 {
-    QStandardItem *pItem = m_userItemMap.value(CommonFun::getUidByJid(strJid));
+    QStandardItem *pItem = m_userItemMap.value(UserIds::getUidByJid(strJid));
     if (pItem == nullptr)
         return;
-    pItem->setData(CommonFun::getTrueImagePath(vcard.m_strPhotoPath, strDEFAULT_HEAD_PATH), ROLE_HEAD_PATH);
+    pItem->setData(ImagePath::getTrueImagePath(vcard.m_strPhotoPath, strDEFAULT_HEAD_PATH), ROLE_HEAD_PATH);
     // Deliberate: the card's nick name, not the contact's shown name.
     pItem->setData(vcard.m_strNickName, ROLE_DISPLAY_NAME);
 }
@@ -283,10 +285,10 @@ void CConferenceListView::appendUserItem(const QString &strUserID)
 
 QStandardItem *CConferenceListView::creatUserItem(const QString &strUserID)
 {
-    const FriendData member = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(strUserID));
+    const FriendData member = VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(strUserID));
     // The model takes the item over as soon as it is appended.
     auto *pItem = new QStandardItem;
-    pItem->setData(CommonFun::getTrueImagePath(member.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
+    pItem->setData(ImagePath::getTrueImagePath(member.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
                    ROLE_HEAD_PATH);
     pItem->setData(strUserID, ROLE_USER_ID);
     pItem->setData(member.displayName(), ROLE_DISPLAY_NAME);

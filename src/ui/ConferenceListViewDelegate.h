@@ -3,7 +3,7 @@
 // Paints the rows of the conference member list from the item data of ui/MemberRoles.h, and writes back into it where
 // the row's buttons stand, which is how the list's mouse handlers learn it. Owned by the list; GUI thread only.
 
-#include "common/CommonFun.h"
+#include "common/HeadImages.h"
 #include "ui/HeadCache.h"
 #include "ui/LineCache.h"
 
@@ -26,5 +26,5 @@ private:
     void paintHead(QPainter &painter, const QRect &row, const QModelIndex &index) const;
 
     mutable LineCache m_lines;
-    mutable HeadCache m_heads{&CommonFun::getRoundedImage};
+    mutable HeadCache m_heads{&HeadImages::getRoundedImage};
 };

@@ -1,6 +1,6 @@
 #include "ui/ConferenceTexts.h"
 
-#include "common/CommonFun.h"
+#include "common/TimeText.h"
 #include "common/WholeNumber.h"
 
 #include <cmath>
@@ -21,5 +21,5 @@ QString ConferenceTexts::titleLine(const QString &strCreatTime)
 
 QString ConferenceTexts::callLength(const QString &strCallTime)
 {
-    return CommonFun::getTimeStringBySecond(cutToSeconds(strCallTime.toDouble()));
+    return TimeText::getTimeStringBySecond(cutToSeconds(strCallTime.toDouble()));
 }

@@ -1,7 +1,7 @@
 #include "ui/RowPainter.h"
 
-#include "common/CommonFun.h"
 #include "common/DpiScale.h"
+#include "common/IconFont.h"
 #include "ui/LineCache.h"
 
 #include <QAbstractItemModel>
@@ -96,7 +96,7 @@ void RowPainter::drawLine(QPainter &painter, const QRect &place, const QStaticTe
 void RowPainter::drawGlyph(QPainter &painter, LineCache &lines, const QRect &place, ushort glyph, int iPixels,
                            const QColor &color)
 {
-    QFont font = CommonFun::getIconFont();
+    QFont font = IconFont::getIconFont();
     font.setPixelSize(iPixels);
     painter.setFont(font);
     if (color.isValid())

@@ -2,10 +2,12 @@
 
 #include "ui_VoiceConferenceWidget.h"
 
-#include "common/CommonFun.h"
 #include "common/DpiScale.h"
+#include "common/IconFont.h"
 #include "common/IconGlyphs.h"
 #include "common/Palette.h"
+#include "common/ScreenPlace.h"
+#include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/EdgeDrag.h"
 #include "ui/RowPainter.h"
@@ -29,8 +31,8 @@ constexpr QMargins cPageMargins(0, 0, 0, 10);
 /// The picture of the button that starts a conference, as fine as a screen of that density shows it.
 QPixmap createIcon(qreal dRatio)
 {
-    QPixmap icon = CommonFun::getIconFontPixmap(IconGlyph::text(IconGlyph::MicOn), QColor(strCOLOR_ICON_MID_GREY),
-                                                cCreateIconSize * dRatio, qRound(cCreateGlyphPixels * dRatio));
+    QPixmap icon = IconFont::getIconFontPixmap(IconGlyph::text(IconGlyph::MicOn), QColor(strCOLOR_ICON_MID_GREY),
+                                               cCreateIconSize * dRatio, qRound(cCreateGlyphPixels * dRatio));
     icon.setDevicePixelRatio(dRatio);
     return icon;
 }
@@ -169,7 +171,7 @@ void CVoiceConferenceWidget::slot_ReCallConf(QString strConfID)
     QStringList members;
     for (const QString &strUserID : record->m_listMember) {
         if (!strUserID.isEmpty())
-            members.append(CommonFun::getJidByUid(strUserID));
+            members.append(UserIds::getJidByUid(strUserID));
     }
     VoipManageEventProcess::notifyCreateVoiceConference(members);
 }
@@ -206,7 +208,7 @@ void CVoiceConferenceWidget::mouseMoveEvent(QMouseEvent *event)
     if (m_dragOffset.isNull())
         return;
     if (event->globalPos() != m_dragOffset)
-        move(EdgeDrag::moved(event->globalPos(), m_dragOffset, CommonFun::workArea()));
+        move(EdgeDrag::moved(event->globalPos(), m_dragOffset, ScreenPlace::workArea()));
 }
 
 void CVoiceConferenceWidget::mouseReleaseEvent(QMouseEvent *event)

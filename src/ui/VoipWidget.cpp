@@ -4,9 +4,11 @@
 
 #include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
-#include "common/CommonFun.h"
 #include "common/IconGlyphs.h"
+#include "common/ImagePath.h"
+#include "common/TimeText.h"
 #include "model/FriendData.h"
+#include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "widgets/ErrorMessage.h"
 
@@ -95,7 +97,7 @@ void CVoipWidget::showConference()
 
 void CVoipWidget::showPeer()
 {
-    const FriendData peer = VoipManageEventProcess::getFriendInfoByJid(CommonFun::getJidByUid(m_strPeerUid));
+    const FriendData peer = VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(m_strPeerUid));
     const QString strShownName = showPeerCard(peer.m_vcardInfo);
     ui->lblStatus->setText(m_bIsMyCall ? QStringLiteral("正在呼叫...") : QStringLiteral("正在连接..."));
     showPeerTitle(strShownName);
@@ -105,7 +107,7 @@ void CVoipWidget::showPeer()
 QString CVoipWidget::showPeerCard(const VcardInfo &vcard)
 {
     QString strShownName = cardName(vcard);
-    const QString strPhotoPath = CommonFun::getTrueImagePath(vcard.m_strPhotoPath, strDEFAULT_HEAD_PATH);
+    const QString strPhotoPath = ImagePath::getTrueImagePath(vcard.m_strPhotoPath, strDEFAULT_HEAD_PATH);
     LOG_DEBUG << "voip userName=" << strShownName << "\n";
     LOG_DEBUG << "voip photourl = " << strPhotoPath << "\n";
     ui->lblPhotoIcon->setHeadPictrue(strPhotoPath);
@@ -184,7 +186,7 @@ void CVoipWidget::updateUserInfo(QString strJid, VcardInfo vcard)
         ui->listView->updateUserInfo(strJid, vcard);
         return;
     }
-    if (strJid != CommonFun::getJidByUid(m_strPeerUid))
+    if (strJid != UserIds::getJidByUid(m_strPeerUid))
         return;
     showPeerTitle(showPeerCard(vcard));
 }
@@ -264,7 +266,7 @@ void CVoipWidget::slot_RefreshTime()
 {
     // On the time of day, so that a call across midnight runs negative: deliberate and left uncorrected.
     const int iSeconds = m_callStartTime.secsTo(QTime::currentTime());
-    ui->currentPlayTimeLabel->setText(CommonFun::GetTimeString(iSeconds));
+    ui->currentPlayTimeLabel->setText(TimeText::GetTimeString(iSeconds));
 }
 
 void CVoipWidget::slot_MicButtonClicked()

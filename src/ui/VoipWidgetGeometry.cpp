@@ -5,8 +5,8 @@
 
 #include "ui_VoipWidget.h"
 
-#include "common/CommonFun.h"
 #include "common/IconGlyphs.h"
+#include "common/ScreenPlace.h"
 #include "widgets/MyRubberBand.h"
 
 #include <QApplication>
@@ -95,7 +95,7 @@ void CVoipWidget::mouseMoveEvent(QMouseEvent *event)
 void CVoipWidget::dragEdges(const QPoint &cursor)
 {
     m_bResized = true;
-    m_rubberRect = EdgeDrag::resized(m_mouseState, QRect(pos(), size()), cursor, CommonFun::workArea(), m_rubberRect);
+    m_rubberRect = EdgeDrag::resized(m_mouseState, QRect(pos(), size()), cursor, ScreenPlace::workArea(), m_rubberRect);
     showRubberBand(m_rubberRect.normalized());
 }
 
@@ -103,7 +103,7 @@ void CVoipWidget::dragWindow(const QPoint &cursor)
 {
     m_bResized = false;
     if (!m_bGeometryLocked && cursor != m_dragOffset)
-        move(EdgeDrag::moved(cursor, m_dragOffset, CommonFun::workArea()));
+        move(EdgeDrag::moved(cursor, m_dragOffset, ScreenPlace::workArea()));
 }
 
 void CVoipWidget::mouseReleaseEvent(QMouseEvent *event)
@@ -133,7 +133,7 @@ void CVoipWidget::slot_WindowChangeButtonClicked()
         m_bFullScreen = true;
         m_normalGeometry = frameGeometry();
         ui->titleWidget->hide();
-        setGeometry(EdgeDrag::overWorkArea(CommonFun::workArea()));
+        setGeometry(EdgeDrag::overWorkArea(ScreenPlace::workArea()));
         ui->btnChangeWindow->setIconFont(IconGlyph::text(IconGlyph::Restore), 16, 0);
         ui->btnChangeWindow->setIconColor(cFaceColor);
         ui->btnChangeWindow->setToolTip(tr("restore"));

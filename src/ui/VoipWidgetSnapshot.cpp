@@ -4,7 +4,7 @@
 
 #include "ui_VoipWidget.h"
 
-#include "common/CommonFun.h"
+#include "common/PictureNames.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -21,7 +21,7 @@ void CVoipWidget::savePicture()
         QStandardPaths::writableLocation(QStandardPaths::DesktopLocation) + QLatin1Char('/') + tr("tarvoPhoto") +
         QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMddhhmmsszzz")) + QStringLiteral(".jpg");
     const QString strPath = QFileDialog::getSaveFileName(nullptr, tr("savepic"), strDefault,
-                                                         CommonFun::getPicSaveSuffixes(QStringLiteral(".jpg")));
+                                                         PictureNames::getPicSaveSuffixes(QStringLiteral(".jpg")));
     if (strPath.isEmpty())
         return;
     const QFileInfo file(strPath);

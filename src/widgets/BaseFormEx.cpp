@@ -2,8 +2,8 @@
 
 #include "ui_BaseFormEx.h"
 
-#include "common/CommonFun.h"
 #include "common/DpiScale.h"
+#include "model/SkinContext.h"
 #include "widgets/QtWin.h"
 
 #include <QCoreApplication>
@@ -101,7 +101,7 @@ void CBaseFormEx::paintPanel(QPainter &painter) const
 {
     painter.save();
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(CommonFun::getSkinData()->m_strPanelColor));
+    painter.setBrush(QColor(SkinContext::getSkinData()->m_strPanelColor));
     painter.drawRoundedRect(QRectF(2, 2, width() - 4, height() - 4), 2, 2);
     painter.restore();
 }

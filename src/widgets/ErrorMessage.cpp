@@ -2,9 +2,9 @@
 
 #include "ui_ErrorMessage.h"
 
-#include "common/CommonFun.h"
 #include "common/DpiScale.h"
 #include "common/IconGlyphs.h"
+#include "common/TextMeasure.h"
 #include "widgets/TextLimit.h"
 
 #include <QClipboard>
@@ -300,7 +300,7 @@ void ErrorMessage::slot_textChanged(QString text)
 void ErrorMessage::slot_textChanged()
 {
     QString strText = ui->AutoReplytextEdit->toPlainText();
-    if (CommonFun::getStrCounnt(strText) <= cReplyColumns)
+    if (TextMeasure::getStrCounnt(strText) <= cReplyColumns)
         return;
     QTextCursor cursor = ui->AutoReplytextEdit->textCursor();
     const int iPosition = TextLimit::cutBackwards(strText, cursor.position(), cReplyColumns);
@@ -327,7 +327,7 @@ void ErrorMessage::slot_paste()
     int iColumns = 0;
     for (int i = 0; i < strText.size();) {
         const QString strCharacter = strText.mid(i, TextLimit::unitsAt(strText, i));
-        iColumns += CommonFun::getStrCounnt(strCharacter);
+        iColumns += TextMeasure::getStrCounnt(strCharacter);
         if (iColumns > cTagColumns)
             return;
         ui->AddLineEdit->setText(strCharacter);

@@ -2,9 +2,10 @@
 
 #include "ui_IconButtonEx.h"
 
-#include "common/CommonFun.h"
 #include "common/DpiScale.h"
+#include "common/IconFont.h"
 #include "common/Palette.h"
+#include "model/SkinContext.h"
 #include "model/SysUIData.h"
 
 #include <QMouseEvent>
@@ -47,7 +48,7 @@ CIconButtonEx::~CIconButtonEx() = default;
 
 void CIconButtonEx::setStyles()
 {
-    m_strIconColor = CommonFun::getSkinData()->m_strIconColor;
+    m_strIconColor = SkinContext::getSkinData()->m_strIconColor;
     m_strBtnStyle = QStringLiteral("QPushButton{color: %1;background:transparent;}");
     m_strBtnHoverStyle = QStringLiteral("QPushButton::hover{color: %1;background:transparent;}");
     m_strBgStyle = QStringLiteral("QWidget{border-radius:2px;background-color:rgba(%1,%2);}");
@@ -56,7 +57,7 @@ void CIconButtonEx::setStyles()
 
 void CIconButtonEx::setIconFont(QString glyph, int size, int type)
 {
-    QFont font = CommonFun::getIconFont();
+    QFont font = IconFont::getIconFont();
     if (ADAPT_DPI_INT(size) > 0)
         font.setPixelSize(ADAPT_DPI_INT(size));
     ui->pushButton->setFont(font);
@@ -76,7 +77,7 @@ void CIconButtonEx::setIconColor(const QString &color)
 
 void CIconButtonEx::setBtnStyles(int type)
 {
-    const SysUIData &skin = *CommonFun::getSkinData();
+    const SysUIData &skin = *SkinContext::getSkinData();
     switch (type) {
     case 0:
     case 1:
@@ -193,7 +194,7 @@ void CIconButtonEx::setChecked(bool bChecked)
     if (m_bChangeBackgroundOnChecked)
         ui->widgetBG->setStyleSheet(bChecked
                                         ? backgroundOf(strCOLOR_PINK, cOpaque)
-                                        : backgroundOf(CommonFun::getSkinData()->m_strFifthIconColor, cTransparent));
+                                        : backgroundOf(SkinContext::getSkinData()->m_strFifthIconColor, cTransparent));
     if (bChecked)
         showGlyph(m_strHoverColor);
     else
@@ -218,7 +219,7 @@ void CIconButtonEx::showEnabled(bool bEnabled)
     if (bEnabled)
         showNormal();
     else
-        showGlyph(CommonFun::getSkinData()->m_strDisabledIconColor);
+        showGlyph(SkinContext::getSkinData()->m_strDisabledIconColor);
 }
 
 void CIconButtonEx::setChangeBackgroundOnChecked(bool bChange)

@@ -2,10 +2,11 @@
 
 #include "ui_LineEditEx.h"
 
-#include "common/CommonFun.h"
 #include "common/DpiScale.h"
 #include "common/IconGlyphs.h"
 #include "common/Palette.h"
+#include "common/TextMeasure.h"
+#include "model/SkinContext.h"
 #include "widgets/IconButtonEx.h"
 #include "widgets/TextLimit.h"
 
@@ -54,7 +55,7 @@ CLineEditEx::~CLineEditEx() = default;
 
 const SysUIData &CLineEditEx::currentSkin()
 {
-    m_pSkin = CommonFun::getSkinData();
+    m_pSkin = SkinContext::getSkinData();
     return *m_pSkin;
 }
 
@@ -160,7 +161,7 @@ int CLineEditEx::widthOf(const QStringRef &text) const
     if (m_bCountEachAsOne)
         return text.size();
     return std::accumulate(text.begin(), text.end(), 0,
-                           [](int iSum, QChar unit) { return iSum + CommonFun::columnsOf(unit); });
+                           [](int iSum, QChar unit) { return iSum + TextMeasure::columnsOf(unit); });
 }
 
 void CLineEditEx::cutToWidth(int iLength)
@@ -175,7 +176,7 @@ void CLineEditEx::cutToWidth(int iLength)
 
 void CLineEditEx::setMaxLength(int iLength)
 {
-    if (CommonFun::getStrCounnt(ui->lineEdit->text()) > iLength)
+    if (TextMeasure::getStrCounnt(ui->lineEdit->text()) > iLength)
         cutToWidth(iLength);
     m_iMaxLength = iLength;
 }

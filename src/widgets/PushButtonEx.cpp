@@ -2,8 +2,8 @@
 
 #include "ui_PushButtonEx.h"
 
-#include "common/CommonFun.h"
 #include "common/DpiScale.h"
+#include "model/SkinContext.h"
 #include "model/SysUIData.h"
 
 namespace {
@@ -33,7 +33,7 @@ PushButtonEx::~PushButtonEx() = default;
 
 void PushButtonEx::setStyles()
 {
-    const SysUIData &skin = *CommonFun::getSkinData();
+    const SysUIData &skin = *SkinContext::getSkinData();
     m_setA.m_strNormal = cNormal.arg(skin.m_strButtonTextColor, skin.m_strButtonBackgroundColor);
     m_setA.m_strHover = cHover.arg(skin.m_strButtonHoverTextColor, skin.m_strButtonHoverBackgroundColor);
     m_setA.m_strChecked = cChecked.arg(skin.m_strButtonHoverTextColor, skin.m_strButtonHoverBackgroundColor);

@@ -1,8 +1,8 @@
 #include "widgets/TextEditEx.h"
 
-#include "common/CommonFun.h"
 #include "common/DpiScale.h"
 #include "common/Palette.h"
+#include "model/SkinContext.h"
 #include "widgets/MenuEx.h"
 
 #include <QClipboard>
@@ -73,7 +73,7 @@ void CTextEditEx::setLongestPaste(int iUnits)
 
 void CTextEditEx::setStyles()
 {
-    const SysUIData &skin = *CommonFun::getSkinData();
+    const SysUIData &skin = *SkinContext::getSkinData();
     m_strEditStyle = QStringLiteral("QTextEdit{border-radius:2px;background-color:%1;border:1px solid %2;color:%3;}");
     m_strEditHoverStyle = QStringLiteral("QTextEdit::hover{border: 1px solid %1;}");
     m_strStyle =

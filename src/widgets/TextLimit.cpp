@@ -1,7 +1,7 @@
 #include "widgets/TextLimit.h"
 
-#include "common/CommonFun.h"
 #include "common/SurrogatePairs.h"
+#include "common/TextMeasure.h"
 
 namespace {
 
@@ -12,7 +12,7 @@ int cutRange(const QString &strText, int iBegin, int iEnd, qint64 &excess)
     while (excess > 0 && iEnd > iBegin) {
         const int iFrom = SurrogatePairs::before(strText, iEnd);
         while (iEnd > iFrom)
-            excess -= CommonFun::columnsOf(strText.at(--iEnd));
+            excess -= TextMeasure::columnsOf(strText.at(--iEnd));
     }
     return iEnd;
 }
@@ -31,7 +31,7 @@ int TextLimit::cutBackwards(QString &strText, int iCursor, int iLimit)
     int iTo = qBound(0, iCursor, strText.size());
     if (SurrogatePairs::isPairAt(strText, iTo - 1))
         ++iTo;
-    qint64 excess = qint64(CommonFun::getStrCounnt(strText)) - iLimit;
+    qint64 excess = qint64(TextMeasure::getStrCounnt(strText)) - iLimit;
     if (excess <= 0)
         return iTo;
     const int iFrom = cutRange(strText, 0, iTo, excess);

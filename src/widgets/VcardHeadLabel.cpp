@@ -1,7 +1,8 @@
 #include "widgets/VcardHeadLabel.h"
 
 #include "common/BuiltInPictures.h"
-#include "common/CommonFun.h"
+#include "common/HeadImages.h"
+#include "common/ImagePath.h"
 
 VcardHeadLabel::VcardHeadLabel(QWidget *parent) : QLabel(parent) {}
 
@@ -10,9 +11,9 @@ void VcardHeadLabel::setHeadPictrue(const QString &path)
     // In the screen's own pixels, so that a head is as sharp as the text beside it.
     const qreal dRatio = devicePixelRatioF();
     const int iWidth = qRound(width() * dRatio);
-    QPixmap head = CommonFun::getRoundedImage(CommonFun::getTrueImagePath(path, strDEFAULT_HEAD_PATH), iWidth);
+    QPixmap head = HeadImages::getRoundedImage(ImagePath::getTrueImagePath(path, strDEFAULT_HEAD_PATH), iWidth);
     if (head.isNull())
-        head = CommonFun::getRoundedImage(strDEFAULT_HEAD_PATH, iWidth);
+        head = HeadImages::getRoundedImage(strDEFAULT_HEAD_PATH, iWidth);
     head.setDevicePixelRatio(dRatio);
     setPixmap(head);
     update(rect());

@@ -2,8 +2,8 @@
 
 #include "common/CLogManger.h"
 #include "common/CLogThread.h"
-#include "common/CommonFun.h"
 #include "common/CustomLogger.h"
+#include "model/SharedContext.h"
 
 #include <QtTest>
 
@@ -16,12 +16,12 @@ struct Host
     {
         context.setCustomLogger(&logger);
         context.setCustomLogThread(&thread);
-        CommonFun::setCommonData(&context);
+        SharedContext::setCommonData(&context);
     }
 
     ~Host()
     {
-        CommonFun::setCommonData(nullptr);
+        SharedContext::setCommonData(nullptr);
         thread.stop();
         thread.printLog(CustomLog::Debug, {}, {});
         thread.wait();
@@ -76,7 +76,7 @@ private slots:
     {
         processHost = new Host("process.log");
         QVERIFY(CLogManger::instance());
-        CommonFun::setCommonData(nullptr);
+        SharedContext::setCommonData(nullptr);
     }
 
     void cleanupTestCase() { delete processHost; }

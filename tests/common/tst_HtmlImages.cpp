@@ -1,4 +1,5 @@
-#include "common/CommonFun.h"
+#include "common/HtmlImages.h"
+#include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 
 #include "RandomMessage.h"
@@ -18,12 +19,12 @@ QString inBody(const QString &strHtml)
 
 QStringList paths(const QString &strHtml)
 {
-    return CommonFun::getImageListFromHtml(strHtml, {}, {});
+    return HtmlImages::getImageListFromHtml(strHtml, {}, {});
 }
 
 QMap<QString, CImageData> records(const QString &strHtml)
 {
-    return CommonFun::getFileIdListFromHtml(strHtml, {}, {});
+    return HtmlImages::getFileIdListFromHtml(strHtml, {}, {});
 }
 
 // The image elements, found by one pattern after the other, each match cut from a copy.
@@ -84,9 +85,9 @@ private slots:
     {
         SystemSetData::instance()->m_strUserFolder = FOLDER;
         m_context.setSystemSetData(SystemSetData::instance());
-        CommonFun::setCommonData(&m_context);
+        SharedContext::setCommonData(&m_context);
     }
-    void cleanup() { CommonFun::setCommonData(nullptr); }
+    void cleanup() { SharedContext::setCommonData(nullptr); }
 
     void imagesAreListedByTheirFiles_data()
     {
@@ -145,7 +146,7 @@ private slots:
 
     void withoutSettingsThePathsStartAtTheRoot()
     {
-        CommonFun::setCommonData(nullptr);
+        SharedContext::setCommonData(nullptr);
         QCOMPARE(paths(inBody("<img src=\"a.png\" type=\"\" style=\"\"/>")), QStringList("/picRec/a.png"));
     }
 

@@ -1,4 +1,4 @@
-#include "common/CommonFun.h"
+#include "common/HtmlLinks.h"
 
 #include "RandomMessage.h"
 
@@ -9,7 +9,7 @@ namespace {
 
 QString converted(QString strText, const QString &strStyle = {})
 {
-    CommonFun::convertWebLink(strText, strStyle);
+    HtmlLinks::convertWebLink(strText, strStyle);
     return strText;
 }
 

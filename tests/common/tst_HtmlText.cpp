@@ -1,4 +1,4 @@
-#include "common/CommonFun.h"
+#include "common/HtmlText.h"
 
 #include <QTest>
 
@@ -37,7 +37,7 @@ private slots:
     void eachTwoSpacesAreKept()
     {
         QFETCH(QString, text);
-        QTEST(changed(CommonFun::replaceSpace, text), "expected");
+        QTEST(changed(HtmlText::replaceSpace, text), "expected");
     }
 
     void lineFeedsBecomeBreaks_data()
@@ -58,8 +58,8 @@ private slots:
     void lineFeedsBecomeBreaks()
     {
         QFETCH(QString, text);
-        QTEST(changed(CommonFun::replaceLineBreak, text), "breaks");
-        QTEST(changed(CommonFun::replaceLineBreakToParagraph, text), "paragraphs");
+        QTEST(changed(HtmlText::replaceLineBreak, text), "breaks");
+        QTEST(changed(HtmlText::replaceLineBreakToParagraph, text), "paragraphs");
     }
 
     void threeEntitiesAreUndone_data()
@@ -79,14 +79,14 @@ private slots:
     void threeEntitiesAreUndone()
     {
         QFETCH(QString, text);
-        QTEST(CommonFun::regainHtmlText(text), "expected");
+        QTEST(HtmlText::regainHtmlText(text), "expected");
     }
 
     void onlyTheOpeningAngleIsMadeSafe()
     {
-        QCOMPARE(CommonFun::getDealWithHtmlText("<a> & <b>"), QString("&lt;a> & &lt;b>"));
-        QCOMPARE(CommonFun::getDealWithHtmlText("&lt;"), QString("&lt;"));
-        QCOMPARE(CommonFun::getDealWithHtmlText(""), QString());
+        QCOMPARE(HtmlText::getDealWithHtmlText("<a> & <b>"), QString("&lt;a> & &lt;b>"));
+        QCOMPARE(HtmlText::getDealWithHtmlText("&lt;"), QString("&lt;"));
+        QCOMPARE(HtmlText::getDealWithHtmlText(""), QString());
     }
 
     void addressesAreEscaped_data()
@@ -105,7 +105,7 @@ private slots:
     void addressesAreEscaped()
     {
         QFETCH(QString, text);
-        QTEST(changed(CommonFun::escapeURLChar, text), "expected");
+        QTEST(changed(HtmlText::escapeURLChar, text), "expected");
     }
 };
 

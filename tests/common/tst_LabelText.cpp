@@ -1,4 +1,4 @@
-#include "common/CommonFun.h"
+#include "common/LabelText.h"
 
 #include <QFontMetrics>
 #include <QLabel>
@@ -57,15 +57,15 @@ private slots:
     {
         QFETCH(QString, text);
         QFETCH(int, maxLines);
-        QTEST(CommonFun::getLineWrapText(4 * m_iEm, text, QFontMetrics(evenFont()), maxLines), "expected");
+        QTEST(LabelText::getLineWrapText(4 * m_iEm, text, QFontMetrics(evenFont()), maxLines), "expected");
     }
 
     void textThatCannotBeWrappedStays()
     {
         const QFontMetrics metrics(evenFont());
-        QCOMPARE(CommonFun::getLineWrapText(m_iEm - 1, "abc\nd", metrics, 1), QString("abc\nd"));
-        QCOMPARE(CommonFun::getLineWrapText(-5, "abc", metrics, 1), QString("abc"));
-        QCOMPARE(CommonFun::getLineWrapText(m_iEm, "abc", metrics, 0), QString("a\nb\nc"));
+        QCOMPARE(LabelText::getLineWrapText(m_iEm - 1, "abc\nd", metrics, 1), QString("abc\nd"));
+        QCOMPARE(LabelText::getLineWrapText(-5, "abc", metrics, 1), QString("abc"));
+        QCOMPARE(LabelText::getLineWrapText(m_iEm, "abc", metrics, 0), QString("a\nb\nc"));
     }
 
     void characterWiderThanALineStandsAlone()
@@ -73,7 +73,7 @@ private slots:
         const QFontMetrics metrics(evenFont());
         const QString strWide(QChar(0x4E2D));
         QVERIFY(metrics.horizontalAdvance(strWide) > m_iEm);
-        QCOMPARE(CommonFun::getLineWrapText(m_iEm, "a" + strWide + "b", metrics, 0), "a\n" + strWide + "\nb");
+        QCOMPARE(LabelText::getLineWrapText(m_iEm, "a" + strWide + "b", metrics, 0), "a\n" + strWide + "\nb");
     }
 
     void pairIsNotTorn()
@@ -81,9 +81,9 @@ private slots:
         const QFontMetrics metrics(evenFont());
         const QString strPair = QString::fromUtf8("\U0001F600");
         const int iWidth = metrics.horizontalAdvance(strPair) + m_iEm;
-        QCOMPARE(CommonFun::getLineWrapText(iWidth, "a" + strPair + strPair, metrics, 0),
+        QCOMPARE(LabelText::getLineWrapText(iWidth, "a" + strPair + strPair, metrics, 0),
                  "a" + strPair + "\n" + strPair);
-        QCOMPARE(CommonFun::getLineWrapText(iWidth, "a" + strPair + strPair, metrics, 1), QString("a..."));
+        QCOMPARE(LabelText::getLineWrapText(iWidth, "a" + strPair + strPair, metrics, 1), QString("a..."));
     }
 
     void paragraphsGetTheirHeight_data()
@@ -107,7 +107,7 @@ private slots:
         QLabel label;
         label.setFont(evenFont());
         QString strOut;
-        QVERIFY(CommonFun::stringFormatWithControl(text, &label, strOut, 1));
+        QVERIFY(LabelText::stringFormatWithControl(text, &label, strOut, 1));
         QCOMPARE(strOut, text);
         QCOMPARE(label.minimumHeight(), (paragraphs - 1) * gap + paragraphs * label.fontMetrics().height());
         QCOMPARE(label.maximumHeight(), label.minimumHeight());
@@ -117,10 +117,10 @@ private slots:
     {
         QLabel label;
         QString strOut;
-        QVERIFY(CommonFun::stringFormatWithControl("<p style=\"margin:2000000000px\">" + QString("</p>").repeated(9),
+        QVERIFY(LabelText::stringFormatWithControl("<p style=\"margin:2000000000px\">" + QString("</p>").repeated(9),
                                                    &label, strOut, 0));
         QCOMPARE(label.maximumHeight(), QWIDGETSIZE_MAX);
-        QVERIFY(CommonFun::stringFormatWithControl("<p style=\"margin:2000000000px\">", &label, strOut, 0));
+        QVERIFY(LabelText::stringFormatWithControl("<p style=\"margin:2000000000px\">", &label, strOut, 0));
         QCOMPARE(label.maximumHeight(), 0);
     }
 
@@ -155,7 +155,7 @@ private slots:
         label.setFont(evenFont());
         label.resize(6 * m_iEm, 10);
         QString strOut;
-        QTEST(CommonFun::stringFormatWithControl(text, &label, strOut, maxLines), "broken");
+        QTEST(LabelText::stringFormatWithControl(text, &label, strOut, maxLines), "broken");
         QTEST(strOut, "expected");
         const int iLines = strOut.count('\n') + 1;
         QCOMPARE(label.minimumHeight(), iLines * label.fontMetrics().height() + 2);
@@ -168,10 +168,10 @@ private slots:
         label.setFont(evenFont());
         QString strOut;
         label.resize(4 * m_iEm + 5, 10);
-        QVERIFY(CommonFun::stringFormatWithControl("abcdefg", &label, strOut, 0));
+        QVERIFY(LabelText::stringFormatWithControl("abcdefg", &label, strOut, 0));
         QCOMPARE(strOut, QString("abcd\nefg"));
         label.resize(4 * m_iEm + 4, 10);
-        QVERIFY(CommonFun::stringFormatWithControl("abcdefg", &label, strOut, 0));
+        QVERIFY(LabelText::stringFormatWithControl("abcdefg", &label, strOut, 0));
         QCOMPARE(strOut, QString("abc\ndef\ng"));
     }
 
@@ -180,14 +180,14 @@ private slots:
         QLabel label;
         label.resize(0, 0);
         QString strOut;
-        QVERIFY(CommonFun::stringFormatWithControl(QString::fromUtf8("a\U0001F600b"), &label, strOut, 0));
+        QVERIFY(LabelText::stringFormatWithControl(QString::fromUtf8("a\U0001F600b"), &label, strOut, 0));
         QCOMPARE(strOut, QString::fromUtf8("a\n\U0001F600\nb"));
     }
 
     void textWithoutALabelStays()
     {
         QString strOut;
-        QVERIFY(!CommonFun::stringFormatWithControl("a\nb", nullptr, strOut, 1));
+        QVERIFY(!LabelText::stringFormatWithControl("a\nb", nullptr, strOut, 1));
         QCOMPARE(strOut, QString("a\nb"));
     }
 
@@ -198,11 +198,11 @@ private slots:
         label.setFont(evenFont());
         label.resize(50 * m_iEm + 5, 10);
         QString strOut;
-        QVERIFY(CommonFun::stringFormatWithControl(QString(LENGTH, 'x'), &label, strOut, 0));
+        QVERIFY(LabelText::stringFormatWithControl(QString(LENGTH, 'x'), &label, strOut, 0));
         QCOMPARE(strOut.count('x'), LENGTH);
         QCOMPARE(strOut.count('\n'), LENGTH / 50 - 1);
         const QString strWrapped =
-            CommonFun::getLineWrapText(50 * m_iEm, QString(LENGTH, 'x'), QFontMetrics(evenFont()), 0);
+            LabelText::getLineWrapText(50 * m_iEm, QString(LENGTH, 'x'), QFontMetrics(evenFont()), 0);
         QCOMPARE(strWrapped, strOut);
     }
 
@@ -214,7 +214,7 @@ private slots:
         label.setFont(evenFont());
         label.resize(6 * m_iEm, 10);
         QString strOut;
-        QVERIFY(CommonFun::stringFormatWithControl(strText, &label, strOut, 1));
+        QVERIFY(LabelText::stringFormatWithControl(strText, &label, strOut, 1));
         QCOMPARE(strOut, QString("xxx..."));
     }
 

@@ -5,9 +5,9 @@
 
 #include "common/CLogManger.h"
 #include "common/CLogThread.h"
-#include "common/CommonFun.h"
 #include "common/CustomLogger.h"
 #include "model/CommonData.h"
+#include "model/SharedContext.h"
 
 #include <QtTest>
 
@@ -63,7 +63,7 @@ void tst_LogStress::nothingIsLostWhileTheFileRollsOver()
     CommonData data;
     data.setCustomLogger(&logger);
     data.setCustomLogThread(&writer);
-    CommonFun::setCommonData(&data);
+    SharedContext::setCommonData(&data);
     // Made before the threads: its creation has no lock.
     CLogManger *log = CLogManger::instance();
     writer.start();
@@ -100,7 +100,7 @@ void tst_LogStress::nothingIsLostWhileTheFileRollsOver()
     log->printLog(CustomLog::Debug, {}, {});
     QVERIFY(writer.wait());
     logger.close();
-    CommonFun::setCommonData(nullptr);
+    SharedContext::setCommonData(nullptr);
 
     QVERIFY2(QFile::exists(LOG + QStringLiteral(".1")), "the file has not rolled over");
     const QStringList all = messages();

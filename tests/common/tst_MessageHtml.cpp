@@ -1,4 +1,7 @@
-#include "common/CommonFun.h"
+#include "common/HtmlLinks.h"
+#include "common/HtmlText.h"
+#include "common/MessageHtml.h"
+#include "model/SharedContext.h"
 
 #include "RandomMessage.h"
 
@@ -29,7 +32,7 @@ QString convertedStepByStep(const QString &strBody, bool bReplace)
 {
     QString strResult = strBody;
     if (bReplace)
-        CommonFun::replaceSpace(strResult);
+        HtmlText::replaceSpace(strResult);
     const int iFirst = strBody.indexOf("<p");
     const int iLast = strBody.lastIndexOf("</p>");
     if (iFirst >= 0 && iLast > iFirst)
@@ -49,12 +52,12 @@ QString convertedStepByStep(const QString &strBody, bool bReplace)
             const QDomNode first = node.firstChild();
             const QString strText = first.isElement() ? first.toElement().text() : first.nodeValue();
             QString strCopy = strText;
-            CommonFun::replaceSpace(strCopy);
+            HtmlText::replaceSpace(strCopy);
             if (strCopy != strText)
                 strResult.replace(strText, strCopy);
         }
     }
-    CommonFun::convertWebLink(strResult, strStyle);
+    HtmlLinks::convertWebLink(strResult, strStyle);
     return strResult;
 }
 
@@ -65,7 +68,7 @@ class tst_MessageHtml : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { CommonFun::setCommonData(nullptr); }
+    void cleanup() { SharedContext::setCommonData(nullptr); }
 
     void bodyBecomesWhatTheViewShows_data()
     {
@@ -126,16 +129,16 @@ private slots:
     {
         QFETCH(QString, body);
         QFETCH(QString, expected);
-        QCOMPARE(CommonFun::convertMessageBody(body, false), expected);
-        QCOMPARE(CommonFun::convertMessageBody(body, true), expected);
+        QCOMPARE(MessageHtml::convertMessageBody(body, false), expected);
+        QCOMPARE(MessageHtml::convertMessageBody(body, true), expected);
     }
 
     void keptSpacesAreLostWhereParagraphsAre()
     {
         // Before the address is looked for, a kept pair is taken for two spaces again: only an entity tells.
-        QCOMPARE(CommonFun::convertMessageBody("www.a&nbsp;  b", true), link("www.a") + "&nbsp;&nbsp;&nbsp;b");
-        QCOMPARE(CommonFun::convertMessageBody("www.a&nbsp;  b", false), link("www.a&nbsp;") + "&nbsp;&nbsp;b");
-        QCOMPARE(CommonFun::convertMessageBody("<p>www.a&nbsp;  b</p>", true),
+        QCOMPARE(MessageHtml::convertMessageBody("www.a&nbsp;  b", true), link("www.a") + "&nbsp;&nbsp;&nbsp;b");
+        QCOMPARE(MessageHtml::convertMessageBody("www.a&nbsp;  b", false), link("www.a&nbsp;") + "&nbsp;&nbsp;b");
+        QCOMPARE(MessageHtml::convertMessageBody("<p>www.a&nbsp;  b</p>", true),
                  "<p>" + link("www.a&nbsp;") + "&nbsp;&nbsp;b</p>");
     }
 
@@ -159,8 +162,8 @@ private slots:
         data.m_strMainColor = "#123456";
         CommonData context;
         context.setSkinData(&data);
-        CommonFun::setCommonData(&context);
-        QVERIFY(CommonFun::convertMessageBody(inDocument("<p><span style=\"x;\">www.a</span></p>"), false)
+        SharedContext::setCommonData(&context);
+        QVERIFY(MessageHtml::convertMessageBody(inDocument("<p><span style=\"x;\">www.a</span></p>"), false)
                     .contains(link("www.a", styled("x;color: " + colour + ";"))));
     }
 
@@ -170,7 +173,7 @@ private slots:
             RandomMessage message(iSeed);
             const QString strBody = iSeed % 4 ? message.document() : message.scraps();
             for (const bool bReplace : {false, true})
-                QCOMPARE(CommonFun::convertMessageBody(strBody, bReplace), convertedStepByStep(strBody, bReplace));
+                QCOMPARE(MessageHtml::convertMessageBody(strBody, bReplace), convertedStepByStep(strBody, bReplace));
         }
     }
 
@@ -178,7 +181,7 @@ private slots:
     {
         const QString strDeep =
             QString("<span style=\"x\">").repeated(30000) + "www.a" + QString("</span>").repeated(30000);
-        QVERIFY(CommonFun::convertMessageBody(inDocument("<p>" + strDeep + "</p>"), true).contains(link("www.a")));
+        QVERIFY(MessageHtml::convertMessageBody(inDocument("<p>" + strDeep + "</p>"), true).contains(link("www.a")));
     }
 
     void everySpanOfALongMessageCounts()
@@ -187,14 +190,14 @@ private slots:
         for (int i = 0; i < 500; ++i)
             strSpans += QString("<span>www.a%1&nbsp;</span><span>  %1</span>").arg(i);
         strSpans += "<span>  z</span>www.a&nbsp;  z";
-        QVERIFY(CommonFun::convertMessageBody(inDocument("<p>" + strSpans + "</p>"), false)
+        QVERIFY(MessageHtml::convertMessageBody(inDocument("<p>" + strSpans + "</p>"), false)
                     .endsWith(link("www.a") + "&nbsp;&nbsp;&nbsp;z</p>"));
     }
 
     void tenMillionSpacesAreKept()
     {
         constexpr int SPACES = 10000000;
-        const QString strShown = CommonFun::convertMessageBody(QString(SPACES, ' '), true);
+        const QString strShown = MessageHtml::convertMessageBody(QString(SPACES, ' '), true);
         QCOMPARE(strShown, QString("&nbsp;").repeated(SPACES));
     }
 
@@ -204,7 +207,7 @@ private slots:
         QString strSpans;
         for (int i = 0; i < SPANS; ++i)
             strSpans += QString("<span style=\"x\">%1  www.a</span>").arg(i);
-        const QString strShown = CommonFun::convertMessageBody(inDocument("<p>" + strSpans + "</p>"), true);
+        const QString strShown = MessageHtml::convertMessageBody(inDocument("<p>" + strSpans + "</p>"), true);
         QCOMPARE(strShown.count(link("www.a", styled("xcolor: " + GREEN + ";"))), SPANS);
         QCOMPARE(strShown.count("&nbsp;&nbsp;"), SPANS);
     }

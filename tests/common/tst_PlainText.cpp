@@ -1,5 +1,5 @@
 #include "common/BoundedHtml.h"
-#include "common/CommonFun.h"
+#include "common/PlainText.h"
 
 #include "RandomMessage.h"
 
@@ -11,7 +11,7 @@ namespace {
 
 QString plain(QString strText)
 {
-    CommonFun::convertToPlaintText(strText);
+    PlainText::convertToPlaintText(strText);
     return strText;
 }
 

@@ -1,4 +1,4 @@
-#include "common/CommonFun.h"
+#include "common/ShortText.h"
 
 #include <QTest>
 
@@ -33,7 +33,7 @@ private slots:
     {
         QFETCH(QString, text);
         QFETCH(int, columns);
-        QTEST(CommonFun::getShortString(text, columns), "expected");
+        QTEST(ShortText::getShortString(text, columns), "expected");
     }
 
     void tipIsSafeAsRichText_data()
@@ -52,17 +52,17 @@ private slots:
     void tipIsSafeAsRichText()
     {
         QFETCH(QString, text);
-        QTEST(CommonFun::getShortString(text, 40), "expected");
+        QTEST(ShortText::getShortString(text, 40), "expected");
     }
 
     void tipIsBrokenBeforeItIsEscaped()
     {
-        QCOMPARE(CommonFun::getShortString(QStringLiteral("<<<<"), 2), QStringLiteral("&lt;&lt;\n&lt;&lt;"));
+        QCOMPARE(ShortText::getShortString(QStringLiteral("<<<<"), 2), QStringLiteral("&lt;&lt;\n&lt;&lt;"));
     }
 
     void veryLongTipKeepsEveryCharacter()
     {
-        const QString strLines = CommonFun::getShortString(QString(100000, QLatin1Char('x')), 40);
+        const QString strLines = ShortText::getShortString(QString(100000, QLatin1Char('x')), 40);
         QCOMPARE(strLines.count(QLatin1Char('x')), 100000);
         QCOMPARE(strLines.count(QLatin1Char('\n')), 2499);
     }
@@ -84,7 +84,7 @@ private slots:
     void shortTextStaysBelowNineColumns()
     {
         QFETCH(QString, text);
-        QTEST(CommonFun::getElidedText(text), "expected");
+        QTEST(ShortText::getElidedText(text), "expected");
     }
 };
 

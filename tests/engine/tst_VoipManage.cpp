@@ -1,8 +1,8 @@
 // The call manager itself: how it starts, what it offers to Qt, the ring, the window's wires, the exit.
 
-#include "common/CommonFun.h"
 #include "fakes/EngineFixture.h"
 #include "fakes/QtMessages.h"
+#include "model/SharedContext.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/VoipWidget.h"
 
@@ -306,7 +306,7 @@ void tst_VoipManage::closingTheLastWindowDoesNotEndTheHost()
 void tst_VoipManage::lifeWithoutAHost()
 {
     EngineFixture f;
-    CommonFun::setCommonData(nullptr);
+    SharedContext::setCommonData(nullptr);
     VoipManageMessageProcess::instance()->setSendEvent(nullptr);
     f.manager->clientConnectStatus(true);
     f.notify(0, "bert");

@@ -1,7 +1,7 @@
 #include "fakes/EngineFixture.h"
 
-#include "common/CommonFun.h"
 #include "fakes/QtMessages.h"
+#include "model/SharedContext.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
 #include "ui/MemberRoles.h"
@@ -39,7 +39,7 @@ EngineFixture::EngineFixture(Start start) : m_start(start)
     login.m_strRegValue = QStringLiteral("ticket");
     context.setLoginData(&login);
     context.setSystemSetData(&settings);
-    CommonFun::setCommonData(&context);
+    SharedContext::setCommonData(&context);
 
     host.whileHandled = [this](BaseEvent &event) {
         noteEvent(event);
@@ -62,7 +62,7 @@ EngineFixture::~EngineFixture()
     process.close();
     manager.reset();
     VoipManageMessageProcess::instance()->setSendEvent(nullptr);
-    CommonFun::setCommonData(nullptr);
+    SharedContext::setCommonData(nullptr);
 }
 
 void EngineFixture::createConference()

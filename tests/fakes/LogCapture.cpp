@@ -1,7 +1,7 @@
 #include "fakes/LogCapture.h"
 
 #include "common/CLogManger.h"
-#include "common/CommonFun.h"
+#include "model/SharedContext.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -18,7 +18,7 @@ LogCapture::LogCapture() : m_logger(logFileName)
     m_thread.setCustomLogger(&m_logger);
     context.setCustomLogger(&m_logger);
     context.setCustomLogThread(&m_thread);
-    CommonFun::setCommonData(&context);
+    SharedContext::setCommonData(&context);
     CLogManger::instance();
     m_thread.start();
 }
@@ -29,7 +29,7 @@ LogCapture::~LogCapture()
     // The writer leaves only after one more record.
     m_thread.printLog(CustomLog::Debug, QString(), QString());
     m_thread.wait();
-    CommonFun::setCommonData(nullptr);
+    SharedContext::setCommonData(nullptr);
 }
 
 QString LogCapture::written()

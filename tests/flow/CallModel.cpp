@@ -1,8 +1,8 @@
 #include "flow/CallModel.h"
 
-#include "common/CommonFun.h"
 #include "engine/ConferenceDocument.h"
 #include "engine/SdkNotification.h"
+#include "model/UserIds.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -137,7 +137,7 @@ void CallModel::finish(int result)
     if (!exists())
         return;
     if (!call.peerId.isEmpty()) {
-        journal += "4345 " + CommonFun::getJidByUid(call.peerId);
+        journal += "4345 " + UserIds::getJidByUid(call.peerId);
         if (!call.bIsConf)
             journal += QStringList{"4478",
                                    word(call.bIsVideo),

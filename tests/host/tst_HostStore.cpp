@@ -1,6 +1,5 @@
 #include "HostStore.h"
 
-#include "common/CommonFun.h"
 #include "fakes/LogCapture.h"
 #include "fakes/QtMessages.h"
 #include "store/DB.h"

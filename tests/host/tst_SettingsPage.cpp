@@ -6,7 +6,10 @@
 #include "PressButton.h"
 #include "WindowProbe.h"
 
-#include "common/CommonFun.h"
+#include "common/AppInfo.h"
+#include "common/ConfigFile.h"
+#include "model/SharedContext.h"
+#include "model/SkinContext.h"
 #include "model/SystemSetData.h"
 
 #include <QCheckBox>
@@ -56,7 +59,7 @@ private:
     }
     static QString stored(const QString &strFile, const char *strKey)
     {
-        return CommonFun::getConfigValue(strFile, QLatin1String(strKey)).toString();
+        return ConfigFile::getConfigValue(strFile, QLatin1String(strKey)).toString();
     }
     void type(const char *strEdit, const QString &strText)
     {
@@ -123,7 +126,7 @@ void tst_SettingsPage::chosenAtTheFirstStartTheLanguageStandsInTheFile()
     const QString language = HostSettings::language();
     QVERIFY(!language.isEmpty());
     QCOMPARE(stored(HostSettings::commonFile(), "/languageSetting/language"), language);
-    QCOMPARE(CommonFun::getApplicationLanguage(), language);
+    QCOMPARE(AppInfo::getApplicationLanguage(), language);
 }
 
 void tst_SettingsPage::ringSwitchIsWrittenAndTakesEffect()
@@ -133,10 +136,10 @@ void tst_SettingsPage::ringSwitchIsWrittenAndTakesEffect()
     silent->setFocus();
     QTest::keyClick(silent, Qt::Key_Space);
     QCOMPARE(stored(HostSettings::userFile(), "/basicSetting/closeVoice"), QStringLiteral("1"));
-    QCOMPARE(CommonFun::getSystemSetData()->m_strCloseVoice, QStringLiteral("1"));
+    QCOMPARE(SharedContext::getSystemSetData()->m_strCloseVoice, QStringLiteral("1"));
     QTest::keyClick(silent, Qt::Key_Space);
     QCOMPARE(stored(HostSettings::userFile(), "/basicSetting/closeVoice"), QStringLiteral("0"));
-    QCOMPARE(CommonFun::getSystemSetData()->m_strCloseVoice, QStringLiteral("0"));
+    QCOMPARE(SharedContext::getSystemSetData()->m_strCloseVoice, QStringLiteral("0"));
 }
 
 void tst_SettingsPage::ringSwitchFollowsTheFile()
@@ -153,7 +156,7 @@ void tst_SettingsPage::receiveFolderIsMadeWrittenAndInForce()
     type("editReceiveFolder", folder);
     QVERIFY(QDir(folder).exists());
     QCOMPARE(stored(HostSettings::userFile(), "/msgSetting/transfilepath"), folder);
-    QCOMPARE(CommonFun::getSystemSetData()->m_strTransFilePath, folder);
+    QCOMPARE(SharedContext::getSystemSetData()->m_strTransFilePath, folder);
 }
 
 void tst_SettingsPage::emptyFieldGivesTheStandardFolderBack()
@@ -168,12 +171,12 @@ void tst_SettingsPage::emptyFieldGivesTheStandardFolderBack()
 
 void tst_SettingsPage::dataFolderIsForTheNextStart()
 {
-    const QString inUse = CommonFun::getSystemSetData()->m_strMsgFilePath;
+    const QString inUse = SharedContext::getSystemSetData()->m_strMsgFilePath;
     const QString note = part<QLabel>("lblDataNote")->text();
     const QString folder = QDir::current().absoluteFilePath(QStringLiteral("data"));
     type("editDataFolder", folder);
     QCOMPARE(stored(HostSettings::commonFile(), "/msgSetting/msgfilepath"), folder);
-    QCOMPARE(CommonFun::getSystemSetData()->m_strMsgFilePath, inUse);
+    QCOMPARE(SharedContext::getSystemSetData()->m_strMsgFilePath, inUse);
     QCOMPARE(part<QLabel>("lblDataNote")->text(),
              QStringLiteral("Takes effect at the next start; what is in the old folder stays there."));
     SystemSetData nextStart;
@@ -277,12 +280,12 @@ void tst_SettingsPage::colourReachesThePlugInsWidgetsAndTheClientsWindows()
 {
     QVERIFY(m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")));
     QVERIFY(pressButton(&m_pWindow->settingsPage(), "skin_ThemeBlue"));
-    QTRY_COMPARE(CommonFun::getSkinData()->m_strSkinName, QStringLiteral("ThemeBlue"));
+    QTRY_COMPARE(SkinContext::getSkinData()->m_strSkinName, QStringLiteral("ThemeBlue"));
     QCOMPARE(stored(HostSettings::userFile(), "/skinSetting/skinName"), QStringLiteral("ThemeBlue"));
     QVERIFY(!m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")));
     QVERIFY(m_pWindow->styleSheet().contains(QStringLiteral("#1f5bb3")));
     QVERIFY(m_pWindow->settingsPage().styleSheet().contains(QStringLiteral("#1f5bb3")));
-    QCOMPARE(CommonFun::getSkinData()->m_strSecondButtonBackgroundColor, QStringLiteral("#2b83fd"));
+    QCOMPARE(SkinContext::getSkinData()->m_strSecondButtonBackgroundColor, QStringLiteral("#2b83fd"));
     QCOMPARE(HostSkins::darkColour(), QColor(QStringLiteral("#1f5bb3")));
     QVERIFY(pressButton(&m_pWindow->settingsPage(), "skin_ThemeGreen"));
     QTRY_VERIFY(m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")));
@@ -294,13 +297,13 @@ void tst_SettingsPage::colourIsThereAgainAtTheNextStart()
     m_pWindow.reset();
     m_pSession.reset();
     start();
-    QCOMPARE(CommonFun::getSkinData()->m_strSkinName, QStringLiteral("ThemeRed"));
+    QCOMPARE(SkinContext::getSkinData()->m_strSkinName, QStringLiteral("ThemeRed"));
     QVERIFY(part<QRadioButton>("skin_ThemeRed")->isChecked());
 }
 
 void tst_SettingsPage::everySkinHasAPlaceInTheSharedList()
 {
-    const QList<SysUIData> *skins = CommonFun::getSysUIDataList();
+    const QList<SysUIData> *skins = SkinContext::getSysUIDataList();
     QVERIFY(skins != nullptr);
     QStringList names;
     QStringList colours;
@@ -316,12 +319,12 @@ void tst_SettingsPage::everySkinHasAPlaceInTheSharedList()
 
 void tst_SettingsPage::unknownSkinChangesNothing()
 {
-    CommonFun::changeConfigValue(HostSettings::userFile(), QStringLiteral("/skinSetting/skinName"),
-                                 QStringLiteral("x"));
+    ConfigFile::changeConfigValue(HostSettings::userFile(), QStringLiteral("/skinSetting/skinName"),
+                                  QStringLiteral("x"));
     m_pWindow.reset();
     m_pSession.reset();
     start();
-    QCOMPARE(CommonFun::getSkinData()->m_strSkinName, HostSkins::standardName());
+    QCOMPARE(SkinContext::getSkinData()->m_strSkinName, HostSkins::standardName());
     QVERIFY(part<QRadioButton>("skin_ThemeGreen")->isChecked());
 }
 

@@ -1,5 +1,6 @@
 #include "common/CommonFun.h"
 #include "model/CommonData.h"
+#include "model/SharedContext.h"
 #include "passport/PassportLoginServer.h"
 
 #include <QNetworkCookie>
@@ -22,10 +23,10 @@ private slots:
     {
         m_keeper.SetPassportAuthIDCookie("id-1");
         m_context.setPassportLoginServer(&m_keeper);
-        CommonFun::setCommonData(&m_context);
+        SharedContext::setCommonData(&m_context);
     }
 
-    void cleanup() { CommonFun::setCommonData(nullptr); }
+    void cleanup() { SharedContext::setCommonData(nullptr); }
 
     void headersPassAndAuthorizationDoesNot_data()
     {
@@ -144,15 +145,16 @@ private slots:
 
     void theFrontDecoratesThroughTheContext()
     {
-        QCOMPARE(CommonFun::CoverNetworkRequest(QNetworkRequest()).rawHeader("Cookie"), QByteArray("imAuthId=id-1"));
+        QCOMPARE(SharedContext::CoverNetworkRequest(QNetworkRequest()).rawHeader("Cookie"),
+                 QByteArray("imAuthId=id-1"));
     }
 
     void withoutAContextTheIdIsEmptyAndAuthorizationStaysBehind()
     {
-        CommonFun::setCommonData(nullptr);
+        SharedContext::setCommonData(nullptr);
         QNetworkRequest request(QUrl("https://im.example.org/"));
         request.setRawHeader("authorization", "Basic secret");
-        const QNetworkRequest sent = CommonFun::CoverNetworkRequest(request);
+        const QNetworkRequest sent = SharedContext::CoverNetworkRequest(request);
         QCOMPARE(sent.rawHeaderList(), QList<QByteArray>({"Cookie"}));
         QCOMPARE(sent.rawHeader("Cookie"), QByteArray("imAuthId="));
         QCOMPARE(sent.url(), request.url());

@@ -1,6 +1,6 @@
-#include "common/CommonFun.h"
 #include "fakes/FakeHost.h"
 #include "model/LoginData.h"
+#include "model/SharedContext.h"
 #include "plugin/StrangerCards.h"
 #include "plugin/VoipManageMessageProcess.h"
 
@@ -53,14 +53,14 @@ void tst_StrangerCards::init()
     m_login.m_strDomain = QStringLiteral("d");
     m_context.setLoginData(&m_login);
     m_context.setFriendDataMap({});
-    CommonFun::setCommonData(&m_context);
+    SharedContext::setCommonData(&m_context);
     VoipManageMessageProcess::instance()->setSendEvent(m_host.get());
 }
 
 void tst_StrangerCards::cleanup()
 {
     m_host.reset();
-    CommonFun::setCommonData(nullptr);
+    SharedContext::setCommonData(nullptr);
 }
 
 void tst_StrangerCards::setRecordVersion(const QString &jid, int version)

@@ -1,6 +1,6 @@
-#include "common/CommonFun.h"
 #include "fakes/FakeHost.h"
 #include "fakes/FreedBlocks.h"
+#include "model/SharedContext.h"
 #include "plugin/HostRequests.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "plugin/VoipManageMessageProcess.h"
@@ -67,13 +67,13 @@ void tst_VoipManageEventProcess::init()
     m_host = std::make_unique<FakeHost>();
     VoipManageMessageProcess::instance()->setSendEvent(host());
     m_context.setFriendDataMap({});
-    CommonFun::setCommonData(&m_context);
+    SharedContext::setCommonData(&m_context);
 }
 
 void tst_VoipManageEventProcess::cleanup()
 {
     m_host.reset();
-    CommonFun::setCommonData(nullptr);
+    SharedContext::setCommonData(nullptr);
 }
 
 void tst_VoipManageEventProcess::thereAreTenRequests()
@@ -253,7 +253,7 @@ void tst_VoipManageEventProcess::friendOfTheSharedMapIsACopy()
     m_context.setFriendDataMap({{jid, FriendData()}});
     FriendData copy = Requests::getFriendInfoByJid(jid);
     copy.m_vcardInfo.m_strNickName = QStringLiteral("changed");
-    QVERIFY(CommonFun::getFriendDataMap().value(jid).m_vcardInfo.m_strNickName.isEmpty());
+    QVERIFY(SharedContext::getFriendDataMap().value(jid).m_vcardInfo.m_strNickName.isEmpty());
 }
 
 void tst_VoipManageEventProcess::friendIsAskedForWhenTheMapHasAnother()
@@ -357,7 +357,7 @@ void tst_VoipManageEventProcess::hostileMemberAnswerGivesAnEmptyList()
 void tst_VoipManageEventProcess::requestsWithoutHostReturnDefaults()
 {
     VoipManageMessageProcess::instance()->setSendEvent(nullptr);
-    CommonFun::setCommonData(nullptr);
+    SharedContext::setCommonData(nullptr);
     QVERIFY(Requests::getFriendInfoByJid(jid).m_strJid.isEmpty());
     QVERIFY(!Requests::isExistFriend(jid));
     QCOMPARE(Requests::addMemberToConference({}), QStringList());

@@ -1,6 +1,6 @@
 #include "SlotOrder.h"
-#include "common/CommonFun.h"
 #include "fakes/FakeHost.h"
+#include "model/SharedContext.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "plugin/VoipManagePlugin.h"
@@ -123,9 +123,9 @@ void tst_VoipManagePlugin::commonDataReachesTheCommonCode()
     VoipManagePlugin plugin;
     CommonData context;
     plugin.setCommonData(&context);
-    QCOMPARE(CommonFun::getCommonData(), &context);
+    QCOMPARE(SharedContext::getCommonData(), &context);
     plugin.setCommonData(nullptr);
-    QVERIFY(CommonFun::getCommonData() == nullptr);
+    QVERIFY(SharedContext::getCommonData() == nullptr);
 }
 
 void tst_VoipManagePlugin::castsByNameAndInterfaceId()

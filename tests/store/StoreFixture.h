@@ -3,9 +3,9 @@
 // What a test of the store stands on: a client context, a folder of its own, Qt's messages taken down, and a way to the
 // file that does not lead through the code under test.
 
-#include "common/CommonFun.h"
 #include "fakes/QtMessages.h"
 #include "model/CommonData.h"
+#include "model/SharedContext.h"
 #include "store/DB.h"
 
 #include <QDir>
@@ -64,14 +64,14 @@ private:
 class StoreFixture
 {
 public:
-    StoreFixture() { CommonFun::setCommonData(&context); }
+    StoreFixture() { SharedContext::setCommonData(&context); }
     ~StoreFixture()
     {
-        CommonFun::setCommonData(&context);
+        SharedContext::setCommonData(&context);
         if (!context.getSqlDatabase())
             context.setSqlDatabase(&DB::m_db);
         DB::closeDB();
-        CommonFun::setCommonData(nullptr);
+        SharedContext::setCommonData(nullptr);
     }
     StoreFixture(const StoreFixture &) = delete;
     StoreFixture &operator=(const StoreFixture &) = delete;

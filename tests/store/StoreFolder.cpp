@@ -1,6 +1,6 @@
 #include "StoreFolder.h"
 
-#include "common/CommonFun.h"
+#include "model/SharedContext.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,7 +10,7 @@
 
 void StoreFolder::initTestCase()
 {
-    CommonFun::setCommonData(&m_data);
+    SharedContext::setCommonData(&m_data);
     init();
     QVERIFY(DB::initByUserName(m_strUser, m_strBase, true));
     for (int i = 0; i < m_iRecords; ++i) {

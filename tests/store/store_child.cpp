@@ -7,7 +7,7 @@
 
 #include "NumberedRecord.h"
 
-#include "common/CommonFun.h"
+#include "model/SharedContext.h"
 #include "store/DB.h"
 
 #include <QCoreApplication>
@@ -41,7 +41,7 @@ int hold(const QString &strFile, const QString &strStatement)
 int write(const QString &strBase, int iFirst)
 {
     CommonData data;
-    CommonFun::setCommonData(&data);
+    SharedContext::setCommonData(&data);
     say("start");
     if (!DB::initByUserName(QStringLiteral("user"), strBase, true)) {
         return EXIT_FAILURE;

@@ -1,6 +1,7 @@
 #include "StoreFixture.h"
 #include "common/CLogManger.h"
 #include "fakes/LogCapture.h"
+#include "model/SharedContext.h"
 #include "store/DBLastTime.h"
 
 #include <QRegularExpression>
@@ -150,11 +151,11 @@ private slots:
     void aFirstOpenWithoutAContextLeavesTheRowMissingForGood()
     {
         DB::closeDB();
-        CommonFun::setCommonData(nullptr);
+        SharedContext::setCommonData(nullptr);
         QVERIFY(m_store->open("bert"));
         QCOMPARE(loggedErrors(), QStringList(saveFailed(QString()) + noConnection));
         QVERIFY(m_store->open("bert"));
-        CommonFun::setCommonData(&m_store->context);
+        SharedContext::setCommonData(&m_store->context);
         QVERIFY(m_store->open("bert"));
         QVERIFY(DB::isExistTable("last_time"));
         QCOMPARE(BesideFile(m_store->file("bert")).rows("SELECT * FROM last_time"), QStringList());

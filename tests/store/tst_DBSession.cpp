@@ -3,6 +3,7 @@
 #include "StoreTest.h"
 
 #include "common/AppPaths.h"
+#include "model/SharedContext.h"
 
 namespace {
 
@@ -153,7 +154,7 @@ private slots:
         DB::closeDB();
         QVERIFY(DB::m_db.isOpen());
         QVERIFY(DB::isExistTable("loginInfo"));
-        CommonFun::setCommonData(nullptr);
+        SharedContext::setCommonData(nullptr);
         DB::closeDB();
         QVERIFY(DB::m_db.isOpen());
         QVERIFY(QSqlDatabase::contains("KelvarIM"));
@@ -203,7 +204,7 @@ private slots:
 
     void withoutAContextTheFileOpensAndNothingPointsToIt()
     {
-        CommonFun::setCommonData(nullptr);
+        SharedContext::setCommonData(nullptr);
         QVERIFY(!DB::getDB().isValid());
         DB::closeDB();
         QVERIFY(m_store->open("anna"));

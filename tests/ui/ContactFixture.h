@@ -3,10 +3,10 @@
 // A host context with one signed-in user and a few contacts, for the tests of the windows. Sets the shared context
 // while it lives and takes it away at its end.
 
-#include "common/CommonFun.h"
 #include "model/CommonData.h"
 #include "model/FriendData.h"
 #include "model/LoginData.h"
+#include "model/SharedContext.h"
 
 class ContactFixture
 {
@@ -16,9 +16,9 @@ public:
         m_login.m_strUid = QStringLiteral("me");
         m_login.m_strDomain = QStringLiteral("kelvar.im");
         m_data.setLoginData(&m_login);
-        CommonFun::setCommonData(&m_data);
+        SharedContext::setCommonData(&m_data);
     }
-    ~ContactFixture() { CommonFun::setCommonData(nullptr); }
+    ~ContactFixture() { SharedContext::setCommonData(nullptr); }
     ContactFixture(const ContactFixture &) = delete;
     ContactFixture &operator=(const ContactFixture &) = delete;
 

@@ -1,7 +1,7 @@
 // The conference centre's form: names, sizes, texts, styles, signals and slots.
 
 #include "CentreTest.h"
-#include "common/CommonFun.h"
+#include "common/IconFont.h"
 #include "widgets/BaseFormEx.h"
 #include "widgets/IconButtonEx.h"
 
@@ -153,8 +153,8 @@ void tst_CentreForm::createButtonShowsAGreyMicrophone()
     open({});
     const auto *pButton = part<QPushButton>("creatConferenceBtn");
     const qreal dRatio = m_pWindow->devicePixelRatioF();
-    const QPixmap expected = CommonFun::getIconFontPixmap(QString(QChar(0xE64D)), QColor(0x7c, 0x7c, 0x7c),
-                                                          QSize(30, 30) * dRatio, qRound(16 * dRatio));
+    const QPixmap expected = IconFont::getIconFontPixmap(QString(QChar(0xE64D)), QColor(0x7c, 0x7c, 0x7c),
+                                                         QSize(30, 30) * dRatio, qRound(16 * dRatio));
     QCOMPARE(pButton->icon().pixmap(expected.size()).toImage().convertToFormat(QImage::Format_ARGB32),
              expected.toImage().convertToFormat(QImage::Format_ARGB32));
 }

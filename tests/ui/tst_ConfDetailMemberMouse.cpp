@@ -2,6 +2,8 @@
 
 #include "MemberGridTest.h"
 
+#include "model/SharedContext.h"
+
 #include <QScrollBar>
 #include <QSignalSpy>
 
@@ -160,7 +162,7 @@ private slots:
         show(1);
         moveTo(head(0, 0).center());
         m_pHost.reset();
-        CommonFun::setCommonData(nullptr);
+        SharedContext::setCommonData(nullptr);
         runOut();
         moveTo(cell(0, 0) + QPoint(40, 70));
         QVERIFY(!delay()->isActive());

@@ -3,7 +3,9 @@
 #include "ContactFixture.h"
 #include "PaintedPicture.h"
 #include "ShippedFiles.h"
+#include "common/IconFont.h"
 #include "fakes/FakeHost.h"
+#include "model/SharedContext.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConfDetailMemberTableView.h"
 #include "ui/ConferenceDetaileWidget.h"
@@ -165,7 +167,7 @@ private slots:
         QCOMPARE(pIcon->maximumSize(), QSize(42, 42));
         QCOMPARE(grid()->frameShape(), QFrame::NoFrame);
         QCOMPARE(text("lblTableViewTitle"), QStringLiteral("参与人员"));
-        QCOMPARE(label("isCreatorIcon")->font().family(), CommonFun::getIconFont().family());
+        QCOMPARE(label("isCreatorIcon")->font().family(), IconFont::getIconFont().family());
         QCOMPARE(m_pPage->objectName(), QStringLiteral("CConferenceDetaileWidget"));
     }
 
@@ -365,7 +367,7 @@ private slots:
 
     void pageWorksWithoutAHost()
     {
-        CommonFun::setCommonData(nullptr);
+        SharedContext::setCommonData(nullptr);
         m_pHost.reset();
         m_pPage->setConferenceDetail(record(QStringLiteral("ann"), QStringLiteral("75"), {QStringLiteral("a")}));
         QCOMPARE(text("lblCallTime"), QStringLiteral("1分15秒"));

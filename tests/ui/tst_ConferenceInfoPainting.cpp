@@ -4,6 +4,8 @@
 #include "HistoryListTest.h"
 #include "PaintedPicture.h"
 
+#include "common/IconFont.h"
+
 #include <QBitmap>
 #include <QPainter>
 #include <QScrollBar>
@@ -62,7 +64,7 @@ private:
         const QString strStatus = bConnected ? index.data(Qt::UserRole + 147).toString() : QStringLiteral("未接通");
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         paintHeadByNumbers(painter, r, index.data(Qt::UserRole + 2).toString());
-        QFont icons = CommonFun::getIconFont();
+        QFont icons = IconFont::getIconFont();
         if (bConnected && bHovered) {
             icons.setPixelSize(16);
             painter.setFont(icons);
@@ -185,7 +187,7 @@ void tst_ConferenceInfoPainting::secondLineIsDrawnInTheIconFont()
     // An icon font of wide letters moves the end of the second line and of nothing else.
     show({record(QStringLiteral("a"))});
     const QImage before = picture();
-    QFont wide = CommonFun::getIconFont();
+    QFont wide = IconFont::getIconFont();
     wide.setStretch(200);
     m_pContacts->setIconFont(wide);
     const QImage after = picture();

@@ -4,6 +4,8 @@
 #include "MemberListTest.h"
 #include "PaintedPicture.h"
 
+#include "common/IconFont.h"
+
 #include <QBitmap>
 #include <QPainter>
 #include <QScrollBar>
@@ -57,7 +59,7 @@ private:
         painter.setPen(iStatus == 1 ? QPen(QColor(0, 185, 31)) : pen);
         painter.drawText(status, words.value(iStatus, QStringLiteral("未接通")), QTextOption());
 
-        font = CommonFun::getIconFont();
+        font = IconFont::getIconFont();
         font.setPixelSize(14);
         painter.setFont(font);
         if (bMine && iStatus != 0) {

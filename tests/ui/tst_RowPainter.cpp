@@ -1,6 +1,6 @@
 #include "ui/RowPainter.h"
 
-#include "common/CommonFun.h"
+#include "common/IconFont.h"
 #include "ui/LineCache.h"
 
 #include <QFontMetrics>
@@ -127,7 +127,7 @@ private slots:
         LineCache lines;
         const QRect place(30, 10, 18, 18);
         const QImage expected = painted([&](QPainter &painter) {
-            QFont font = CommonFun::getIconFont();
+            QFont font = IconFont::getIconFont();
             font.setPixelSize(14);
             painter.setFont(font);
             painter.setPen(QColor(255, 97, 88));

@@ -1,6 +1,7 @@
 // The call window's volume sliders, and its snapshot of the video.
 
 #include "CallWindowTest.h"
+#include "common/PictureNames.h"
 #include "fakes/FileBytes.h"
 #include "fakes/QtMessages.h"
 
@@ -182,7 +183,7 @@ void tst_VoipWidgetVolume::snapshotIsSaved()
     QCOMPARE(picture.size(), part<QWidget>("playFramWidget")->geometry().size());
     QCOMPARE(picture.pixelColor(200, 150), QColor(Qt::red));
     QCOMPARE(seen.at(0), QStringLiteral("savepic"));
-    QCOMPARE(seen.at(1), CommonFun::getPicSaveSuffixes(QStringLiteral(".jpg")));
+    QCOMPARE(seen.at(1), PictureNames::getPicSaveSuffixes(QStringLiteral(".jpg")));
     QCOMPARE(seen.at(2), QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
     const QRegularExpression proposed(QStringLiteral("^tarvoPhoto\\d{17}\\.jpg$"));
     QVERIFY2(proposed.match(seen.at(3)).hasMatch(), qPrintable(seen.at(3)));

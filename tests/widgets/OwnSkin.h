@@ -3,7 +3,7 @@
 // A skin of the test's own in a context of the test's own, so that a test can give each member a colour that no other
 // one has and change it while widgets live.
 
-#include "common/CommonFun.h"
+#include "model/SharedContext.h"
 
 class OwnSkin
 {
@@ -11,9 +11,9 @@ public:
     OwnSkin()
     {
         m_context.setSkinData(&m_skin);
-        CommonFun::setCommonData(&m_context);
+        SharedContext::setCommonData(&m_context);
     }
-    ~OwnSkin() { CommonFun::setCommonData(nullptr); }
+    ~OwnSkin() { SharedContext::setCommonData(nullptr); }
     Q_DISABLE_COPY_MOVE(OwnSkin)
 
     SysUIData *operator->() { return &m_skin; }

@@ -1,3 +1,4 @@
+#include "common/IconFont.h"
 #include "widgets/IconButtonTest.h"
 
 #include "common/Palette.h"
@@ -67,7 +68,7 @@ void tst_IconButtonEx::glyphIsShownInTheIconFontAtItsSize()
     m_pButton->setIconFont(QStringLiteral("\uE62C"), 17, 0);
     QCOMPARE(inner(*m_pButton)->text(), QStringLiteral("\uE62C"));
     QCOMPARE(inner(*m_pButton)->font().pixelSize(), 17);
-    QCOMPARE(inner(*m_pButton)->font().family(), CommonFun::getIconFont().family());
+    QCOMPARE(inner(*m_pButton)->font().family(), IconFont::getIconFont().family());
     QCOMPARE(inner(*m_pButton)->font().styleStrategy(), QFont::PreferAntialias);
 }
 

@@ -1,6 +1,6 @@
 #include "widgets/TextLimit.h"
 
-#include "common/CommonFun.h"
+#include "common/TextMeasure.h"
 
 #include <QTest>
 
@@ -33,12 +33,12 @@ void tst_TextLimit::unitsOfCharacters()
 void tst_TextLimit::cutTextMeasuresTheLimitOrOneLess()
 {
     const QString strText = QStringLiteral("a中b文") + cPair + QStringLiteral("字c") + cPair + QStringLiteral("d");
-    const int iWidth = CommonFun::getStrCounnt(strText);
+    const int iWidth = TextMeasure::getStrCounnt(strText);
     for (int iCursor = 0; iCursor <= strText.size(); ++iCursor) {
         for (int iLimit = 0; iLimit < iWidth; ++iLimit) {
             QString strCut = strText;
             const int iPosition = TextLimit::cutBackwards(strCut, iCursor, iLimit);
-            const int iLeft = CommonFun::getStrCounnt(strCut);
+            const int iLeft = TextMeasure::getStrCounnt(strCut);
             QVERIFY(iLeft == iLimit || iLeft == iLimit - 1);
             QVERIFY(iPosition >= 0 && iPosition <= strCut.size());
             QVERIFY(!strCut.remove(cPair).contains(cPair.at(0)));
