@@ -2,6 +2,7 @@
 #include "common/HtmlText.h"
 #include "common/MessageHtml.h"
 #include "model/SharedContext.h"
+#include "model/SysUIData.h"
 
 #include "RandomMessage.h"
 

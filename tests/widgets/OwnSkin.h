@@ -4,6 +4,7 @@
 // one has and change it while widgets live.
 
 #include "model/SharedContext.h"
+#include "model/SysUIData.h"
 
 class OwnSkin
 {
