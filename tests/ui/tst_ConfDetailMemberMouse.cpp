@@ -185,6 +185,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ConfDetailMemberMouse)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConfDetailMemberMouse, Widgets)
 
 #include "tst_ConfDetailMemberMouse.moc"
