@@ -12,10 +12,12 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTOUIC ON)
 
-if(NOT CMAKE_BUILD_TYPE)
-  set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Kind of build" FORCE)
+if(PROJECT_IS_TOP_LEVEL)
+  if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Kind of build" FORCE)
+  endif()
+  set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O2 -g1 -DNDEBUG")
 endif()
-set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O2 -g1 -DNDEBUG")
 # The module says the same of itself in every build, "debug": false in its metadata; Q_ASSERT stays in force.
 add_compile_definitions($<$<CONFIG:Debug>:QT_NO_DEBUG> $<$<CONFIG:Debug>:QT_FORCE_ASSERTS>)
 
@@ -37,7 +39,7 @@ if(VOIP_SANITIZE)
 endif()
 
 # The demo client, the plug-in and what ships beside them stand together, laid out as at run time.
-set(VOIP_BIN_DIR ${CMAKE_BINARY_DIR}/bin)
+set(VOIP_BIN_DIR ${PROJECT_BINARY_DIR}/bin)
 
 find_program(VOIP_CCACHE ccache)
 if(VOIP_CCACHE)

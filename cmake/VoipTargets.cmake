@@ -1,7 +1,12 @@
 # One function per kind of target.
 
+# A build that takes this one in may have another compiler: a warning of ours is not to end it.
+set(errors)
+if(PROJECT_IS_TOP_LEVEL)
+  set(errors -Werror)
+endif()
 set(VOIP_WARNINGS
-    -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
+    -Wall -Wextra -Wpedantic ${errors} -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
     -Wnull-dereference)
 set(VOIP_COMPILER)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
@@ -12,21 +17,26 @@ endif()
 list(APPEND VOIP_WARNINGS -Wformat=2)
 
 # A log statement holds its source's name from here on, not the folder that it was built in.
-set(VOIP_PATHS -fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
+set(VOIP_PATHS -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
 
-# Every target sees the same Qt modules and is compiled with the same options, so that one precompiled header serves all.
-set(VOIP_QT Qt5::Core Qt5::Gui Qt5::Widgets Qt5::Network Qt5::Multimedia Qt5::Sql Qt5::Xml)
+# Every target is compiled with the headers of the same Qt modules and the same options, so that one precompiled header serves
+# all. What a target links are the modules that it uses.
+add_library(voip_qt_headers INTERFACE)
+foreach(module Core Gui Widgets Network Multimedia Sql Xml)
+  target_include_directories(voip_qt_headers SYSTEM INTERFACE $<TARGET_PROPERTY:Qt5::${module},INTERFACE_INCLUDE_DIRECTORIES>)
+  target_compile_definitions(voip_qt_headers INTERFACE $<TARGET_PROPERTY:Qt5::${module},INTERFACE_COMPILE_DEFINITIONS>)
+endforeach()
 
-file(WRITE ${CMAKE_BINARY_DIR}/voip_pch.cpp "")
-add_library(voip_pch OBJECT ${CMAKE_BINARY_DIR}/voip_pch.cpp)
-target_link_libraries(voip_pch PRIVATE ${VOIP_QT})
+file(WRITE ${PROJECT_BINARY_DIR}/voip_pch.cpp "")
+add_library(voip_pch OBJECT ${PROJECT_BINARY_DIR}/voip_pch.cpp)
+target_link_libraries(voip_pch PRIVATE voip_qt_headers)
 target_precompile_headers(voip_pch PRIVATE
     <QtCore/QtCore> <QtGui/QtGui> <QtWidgets/QtWidgets> <QtNetwork/QtNetwork>)
 set_target_properties(voip_pch PROPERTIES AUTOMOC OFF AUTOUIC OFF)
 target_compile_options(voip_pch PRIVATE ${VOIP_WARNINGS} ${VOIP_COMPILER} -fPIC ${VOIP_PATHS})
 
 if(VOIP_SANITIZE)
-  add_library(voip_keep_libraries OBJECT ${CMAKE_SOURCE_DIR}/tests/sanitize/KeepLibraries.cpp)
+  add_library(voip_keep_libraries OBJECT ${PROJECT_SOURCE_DIR}/tests/sanitize/KeepLibraries.cpp)
   set_target_properties(voip_keep_libraries PROPERTIES AUTOMOC OFF AUTOUIC OFF)
   target_compile_options(voip_keep_libraries PRIVATE -fPIC)
 endif()
@@ -34,8 +44,8 @@ endif()
 # Compiler settings of the project's own code. Includes are written from src/ ("store/DB.h").
 function(voip_own_code target)
   target_compile_options(${target} PRIVATE ${VOIP_WARNINGS} ${VOIP_COMPILER} -fPIC ${VOIP_PATHS})
-  target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
-  target_link_libraries(${target} PRIVATE ${VOIP_QT})
+  target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(${target} PRIVATE voip_qt_headers)
   target_precompile_headers(${target} REUSE_FROM voip_pch)
   get_target_property(type ${target} TYPE)
   if(VOIP_SANITIZE AND type STREQUAL "EXECUTABLE")
@@ -43,13 +53,13 @@ function(voip_own_code target)
   endif()
 endfunction()
 
-# voip_library(name SOURCES ... LINKS ...): the static library voip_name, known as Voip::name.
+# voip_library(name SOURCES ... LINKS ...): the static library voip_name, known as Voip::name. It links Qt5::Core without being told.
 function(voip_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_library(voip_${name} STATIC ${ARG_SOURCES})
   add_library(Voip::${name} ALIAS voip_${name})
   voip_own_code(voip_${name})
-  target_link_libraries(voip_${name} PUBLIC ${ARG_LINKS} ${VOIP_QT})
+  target_link_libraries(voip_${name} PUBLIC ${ARG_LINKS} Qt5::Core)
 endfunction()
 
 # moc for a test program, by itself: CMake's own search starts two processes and compiles one more file for each of them. A
@@ -81,32 +91,68 @@ function(voip_moc target)
   endforeach()
 endfunction()
 
-# voip_test(name SOURCES ... LINKS ... [ENV ...] [LABELS ...] [TIMEOUT s]): a Qt Test program, run in a folder,
-# a home and a temporary directory of its own, so that sockets and files of two tests never meet. Where VOIP_TEST_SCREEN is
-# set it has a screen of its own as well, so that no other test's window covers its windows or moves its cursor.
-function(voip_test name)
-  cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINKS;ENV;LABELS" ${ARGN})
-  add_executable(${name} ${ARG_SOURCES})
-  voip_own_code(${name})
-  voip_moc(${name})
-  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-  target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt5::Test)
+# voip_add_test(name COMMAND ... [NEEDS target ...] [TIMEOUT s] [ENV ...] [LABELS ...]): runs the command as a test in a folder, a
+# home and a temporary directory of its own, so that sockets and files of two tests never meet. Where VOIP_TEST_SCREEN is set
+# it has a screen of its own as well, so that no other test's window covers its windows or moves its cursor. NEEDS are the
+# targets that `./test --only` builds for it; without them it builds everything.
+function(voip_add_test name)
+  cmake_parse_arguments(ARG "" "TIMEOUT" "COMMAND;NEEDS;ENV;LABELS" ${ARGN})
   set(screen)
   if(VOIP_TEST_SCREEN)
     set(screen --screen)
   endif()
-  add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/isolated ${screen} $<TARGET_FILE:${name}>)
+  add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/isolated ${screen} ${ARG_COMMAND})
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 300)
   endif()
-  if(VOIP_SANITIZE)
-    math(EXPR ARG_TIMEOUT "3 * ${ARG_TIMEOUT}")
+  voip_set_test(${name} TIMEOUT ${ARG_TIMEOUT} ENV ${ARG_ENV} LABELS ${ARG_LABELS})
+  if(ARG_NEEDS)
+    voip_test_needs(${name} ${ARG_NEEDS})
   endif()
-  set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT})
+endfunction()
+
+# voip_set_test(name [TIMEOUT s] [ENV ...] [LABELS ...]): what is other for one test.
+function(voip_set_test name)
+  cmake_parse_arguments(ARG "" "TIMEOUT" "ENV;LABELS" ${ARGN})
+  if(ARG_TIMEOUT)
+    if(VOIP_SANITIZE)
+      math(EXPR ARG_TIMEOUT "3 * ${ARG_TIMEOUT}")
+    endif()
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT})
+  endif()
   if(ARG_ENV)
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${ARG_ENV}")
+    set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT ${ARG_ENV})
   endif()
   if(ARG_LABELS)
-    set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}")
+    set_property(TEST ${name} APPEND PROPERTY LABELS ${ARG_LABELS})
   endif()
+endfunction()
+
+# voip_test_needs(name [target ...]): a row of build/tests/needs, from which ./test knows what to build for the test.
+function(voip_test_needs name)
+  string(JOIN " " row ${name} ${ARGN})
+  set_property(GLOBAL APPEND_STRING PROPERTY VOIP_TEST_NEEDS "${row}\n")
+endfunction()
+
+# voip_tests(program CLASSES tst_A tst_B ... [SOURCES ...] LINKS ... [FOLDER ...]): the test program of that name in this room
+# (or in FOLDER), of the classes in tst_A.cpp, tst_B.cpp ... and what they share. Each class is a test of its own with a
+# process of its own.
+function(voip_tests program)
+  cmake_parse_arguments(ARG "" "FOLDER" "CLASSES;SOURCES;LINKS" ${ARGN})
+  get_filename_component(room ${CMAKE_CURRENT_SOURCE_DIR} NAME)
+  set(target ${room}_${program})
+  add_executable(${target} ${ARG_SOURCES})
+  list(TRANSFORM ARG_CLASSES APPEND .cpp OUTPUT_VARIABLE sources)
+  target_sources(${target} PRIVATE ${sources})
+  voip_own_code(${target})
+  voip_moc(${target})
+  target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${target} PRIVATE ${ARG_LINKS} Voip::testprogram Qt5::Test)
+  set_target_properties(${target} PROPERTIES OUTPUT_NAME ${program})
+  if(ARG_FOLDER)
+    set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${ARG_FOLDER})
+  endif()
+  foreach(class ${ARG_CLASSES})
+    voip_add_test(${class} COMMAND $<TARGET_FILE:${target}> ${class} NEEDS ${target})
+  endforeach()
 endfunction()

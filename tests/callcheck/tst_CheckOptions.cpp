@@ -102,5 +102,6 @@ void tst_CheckOptions::badUsageIsRefused()
     QVERIFY(!error.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(tst_CheckOptions)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CheckOptions, Guiless)
 #include "tst_CheckOptions.moc"

@@ -86,5 +86,6 @@ void tst_LineMatch::messagesNameTheNotification()
     QCOMPARE(LineMatch::shown("no\tjson"), QString("\"no\u2409json\""));
 }
 
-QTEST_GUILESS_MAIN(tst_LineMatch)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_LineMatch, Guiless)
 #include "tst_LineMatch.moc"

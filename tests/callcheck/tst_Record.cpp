@@ -367,5 +367,6 @@ void tst_Record::callProcessThatCannotBeStartedLeavesNoFile()
     QVERIFY(!QFile::exists(run.file()));
 }
 
-QTEST_GUILESS_MAIN(tst_Record)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Record, Guiless)
 #include "tst_Record.moc"

@@ -206,5 +206,6 @@ void tst_Replay::runningCallProcessIsAttachedTo()
     QCOMPARE(running.exitCode(), 0);
 }
 
-QTEST_GUILESS_MAIN(tst_Replay)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Replay, Guiless)
 #include "tst_Replay.moc"

@@ -83,5 +83,6 @@ void tst_ScenarioDocument::exampleIsAScenario()
     QVERIFY(scenario->statements.size() > 5);
 }
 
-QTEST_GUILESS_MAIN(tst_ScenarioDocument)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ScenarioDocument, Guiless)
 #include "tst_ScenarioDocument.moc"

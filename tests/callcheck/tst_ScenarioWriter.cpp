@@ -218,5 +218,6 @@ void tst_ScenarioWriter::wordsAreReadBack()
     QVERIFY2(!words.at(1).isBare("{") && !words.at(1).isBare("}"), "it would open or close a block");
 }
 
-QTEST_GUILESS_MAIN(tst_ScenarioWriter)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ScenarioWriter, Guiless)
 #include "tst_ScenarioWriter.moc"

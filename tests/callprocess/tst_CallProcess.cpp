@@ -313,5 +313,6 @@ void tst_CallProcess::environmentStandsInForOptions()
     QVERIFY(QString::fromUtf8(trace.readAll()).contains(QRegularExpression(QStringLiteral("(?m)^[0-9]+ = idle$"))));
 }
 
-QTEST_GUILESS_MAIN(tst_CallProcess)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CallProcess, Guiless)
 #include "tst_CallProcess.moc"

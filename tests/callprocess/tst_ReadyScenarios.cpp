@@ -117,5 +117,6 @@ void tst_ReadyScenarios::killedScenarioDies()
     QVERIFY(QFile::exists(CallProcess::socketPath()));
 }
 
-QTEST_GUILESS_MAIN(tst_ReadyScenarios)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ReadyScenarios, Guiless)
 #include "tst_ReadyScenarios.moc"

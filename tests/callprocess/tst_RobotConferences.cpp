@@ -395,5 +395,6 @@ void tst_RobotConferences::invitationWithoutACreationTimeAndLinesOfAnotherConfer
     QCOMPARE(peer.nextNotification(), QStringLiteral("7"));
 }
 
-QTEST_GUILESS_MAIN(tst_RobotConferences)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_RobotConferences, Guiless)
 #include "tst_RobotConferences.moc"

@@ -196,5 +196,6 @@ void tst_Robots::deviceCommandsAreTakenInSilence()
     QCOMPARE(peer.trace().filter(QRegularExpression(QStringLiteral("^!"))).size(), 0);
 }
 
-QTEST_GUILESS_MAIN(tst_Robots)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Robots, Guiless)
 #include "tst_Robots.moc"

@@ -240,5 +240,6 @@ void tst_Scenario::readyScenariosAreGood()
     QVERIFY(!scenario->statements.isEmpty());
 }
 
-QTEST_APPLESS_MAIN(tst_Scenario)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Scenario, Appless)
 #include "tst_Scenario.moc"

@@ -303,5 +303,6 @@ void tst_ScenarioPlayer::quitDuringAWaitChecksTheRest()
     QCOMPARE(peer.exitCode(), exitCode);
 }
 
-QTEST_GUILESS_MAIN(tst_ScenarioPlayer)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ScenarioPlayer, Guiless)
 #include "tst_ScenarioPlayer.moc"

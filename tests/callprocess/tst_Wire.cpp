@@ -203,5 +203,6 @@ void tst_Wire::delaysAreDividedBySpeed()
     QCOMPARE(scaledDelay(2000000000, 0.001), std::numeric_limits<int>::max());
 }
 
-QTEST_APPLESS_MAIN(tst_Wire)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Wire, Appless)
 #include "tst_Wire.moc"

@@ -29,7 +29,7 @@ inline QByteArray failureInOwnProcess(const QStringList &variables, const QStrin
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(folder);
-    process.start(program, {function});
+    process.start(program, {QTest::testObject()->metaObject()->className(), function});
     if (!process.waitForFinished()) {
         return "did not end: " + process.errorString().toUtf8();
     }

@@ -48,5 +48,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_AccountMap)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_AccountMap, Guiless)
 #include "tst_AccountMap.moc"

@@ -158,5 +158,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_AppInfo)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_AppInfo, Guiless)
 #include "tst_AppInfo.moc"

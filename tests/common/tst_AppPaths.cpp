@@ -64,5 +64,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_AppPaths)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_AppPaths, Guiless)
 #include "tst_AppPaths.moc"

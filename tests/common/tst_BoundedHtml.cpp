@@ -91,5 +91,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_BoundedHtml)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_BoundedHtml, Guiless)
 #include "tst_BoundedHtml.moc"

@@ -289,5 +289,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CLogManger)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CLogManger, Guiless)
 #include "tst_CLogManger.moc"

@@ -270,5 +270,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CLogThread)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CLogThread, Guiless)
 #include "tst_CLogThread.moc"

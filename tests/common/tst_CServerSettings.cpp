@@ -30,5 +30,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CServerSettings)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CServerSettings, Guiless)
 #include "tst_CServerSettings.moc"

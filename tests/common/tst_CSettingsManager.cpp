@@ -73,5 +73,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CSettingsManager)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CSettingsManager, Guiless)
 #include "tst_CSettingsManager.moc"

@@ -268,5 +268,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CUrlInfo)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CUrlInfo, Guiless)
 #include "tst_CUrlInfo.moc"

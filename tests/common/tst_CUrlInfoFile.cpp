@@ -134,5 +134,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CUrlInfoFile)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CUrlInfoFile, Guiless)
 #include "tst_CUrlInfoFile.moc"

@@ -121,5 +121,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CUrlInfoSipPhone)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CUrlInfoSipPhone, Guiless)
 #include "tst_CUrlInfoSipPhone.moc"

@@ -85,5 +85,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_ChineseSpell)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ChineseSpell, Guiless)
 #include "tst_ChineseSpell.moc"

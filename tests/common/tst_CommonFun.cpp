@@ -163,5 +163,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_CommonFun)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CommonFun, Widgets)
 #include "tst_CommonFun.moc"

@@ -181,5 +181,6 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_ConfigFile)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConfigFile, Guiless)
 #include "tst_ConfigFile.moc"

@@ -364,5 +364,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CustomLogger)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CustomLogger, Guiless)
 #include "tst_CustomLogger.moc"

@@ -172,5 +172,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CustomLoggerRollOver)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CustomLoggerRollOver, Guiless)
 #include "tst_CustomLoggerRollOver.moc"

@@ -111,5 +111,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_DigitText)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_DigitText, Guiless)
 #include "tst_DigitText.moc"

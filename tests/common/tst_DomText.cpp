@@ -88,5 +88,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_DomText)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_DomText, Guiless)
 #include "tst_DomText.moc"

@@ -51,5 +51,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_DpiScale)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_DpiScale, Widgets)
 #include "tst_DpiScale.moc"

@@ -85,5 +85,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_FileDigest)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_FileDigest, Guiless)
 #include "tst_FileDigest.moc"

@@ -228,5 +228,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_FileIcons)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_FileIcons, Widgets)
 #include "tst_FileIcons.moc"

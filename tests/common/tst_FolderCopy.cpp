@@ -148,5 +148,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_FolderCopy)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_FolderCopy, Guiless)
 #include "tst_FolderCopy.moc"

@@ -198,5 +198,6 @@ void tst_ForeignPaths::waterMarkStaysInItsFolder()
     WaterMark::generateWaterMark(user, id, path);
 }
 
-QTEST_MAIN(tst_ForeignPaths)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ForeignPaths, Widgets)
 #include "tst_ForeignPaths.moc"

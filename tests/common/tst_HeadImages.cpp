@@ -352,5 +352,6 @@ private:
     SystemSetData m_settings;
 };
 
-QTEST_MAIN(tst_HeadImages)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HeadImages, Widgets)
 #include "tst_HeadImages.moc"

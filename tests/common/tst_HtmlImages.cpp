@@ -261,5 +261,6 @@ private:
     CommonData m_context;
 };
 
-QTEST_GUILESS_MAIN(tst_HtmlImages)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HtmlImages, Guiless)
 #include "tst_HtmlImages.moc"

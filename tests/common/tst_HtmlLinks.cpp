@@ -115,5 +115,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_HtmlLinks)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HtmlLinks, Guiless)
 #include "tst_HtmlLinks.moc"

@@ -109,5 +109,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_HtmlText)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HtmlText, Guiless)
 #include "tst_HtmlText.moc"

@@ -184,5 +184,6 @@ private:
     QString m_strFamily;
 };
 
-QTEST_MAIN(tst_IconFont)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_IconFont, Widgets)
 #include "tst_IconFont.moc"

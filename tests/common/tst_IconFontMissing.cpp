@@ -26,5 +26,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_IconFontMissing)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_IconFontMissing, Widgets)
 #include "tst_IconFontMissing.moc"

@@ -217,5 +217,6 @@ private:
     QString m_strFamily;
 };
 
-QTEST_MAIN(tst_IconGlyphs)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_IconGlyphs, Widgets)
 #include "tst_IconGlyphs.moc"

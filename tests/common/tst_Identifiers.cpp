@@ -45,5 +45,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_Identifiers)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Identifiers, Guiless)
 #include "tst_Identifiers.moc"

@@ -130,5 +130,6 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-QTEST_GUILESS_MAIN(tst_ImagePath)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ImagePath, Guiless)
 #include "tst_ImagePath.moc"

@@ -222,5 +222,6 @@ private:
     int m_iEm = 0;
 };
 
-QTEST_MAIN(tst_LabelText)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_LabelText, Widgets)
 #include "tst_LabelText.moc"

@@ -76,5 +76,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_LocalAddress)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_LocalAddress, Guiless)
 #include "tst_LocalAddress.moc"

@@ -194,5 +194,6 @@ void tst_LogHardship::rollOverOnAFullDiskGoesOnWhenThereIsRoom()
     QCOMPARE(texts().constLast(), QStringLiteral("room again"));
 }
 
-QTEST_GUILESS_MAIN(tst_LogHardship)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_LogHardship, Guiless)
 #include "tst_LogHardship.moc"

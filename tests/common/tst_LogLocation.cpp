@@ -31,5 +31,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_LogLocation)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_LogLocation, Guiless)
 #include "tst_LogLocation.moc"

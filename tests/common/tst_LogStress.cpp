@@ -148,5 +148,6 @@ void tst_LogStress::clearingWhileTheWriterWritesTearsNoLine()
     QVERIFY(readBytes(QStringLiteral("cleared.log")).contains("line last."));
 }
 
-QTEST_GUILESS_MAIN(tst_LogStress)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_LogStress, Guiless)
 #include "tst_LogStress.moc"

@@ -142,5 +142,6 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_LogUtils)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_LogUtils, Guiless)
 #include "tst_LogUtils.moc"

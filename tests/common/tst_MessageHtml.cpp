@@ -214,5 +214,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_MessageHtml)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_MessageHtml, Guiless)
 #include "tst_MessageHtml.moc"

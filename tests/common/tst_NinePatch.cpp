@@ -145,5 +145,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_NinePatch)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_NinePatch, Widgets)
 #include "tst_NinePatch.moc"

@@ -135,5 +135,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_Palette)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Palette, Guiless)
 #include "tst_Palette.moc"

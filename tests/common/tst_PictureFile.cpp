@@ -94,5 +94,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_PictureFile)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_PictureFile, Widgets)
 #include "tst_PictureFile.moc"

@@ -179,5 +179,6 @@ private:
     SystemSetData m_settings;
 };
 
-QTEST_GUILESS_MAIN(tst_PictureFun)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_PictureFun, Guiless)
 #include "tst_PictureFun.moc"

@@ -89,5 +89,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_PictureNames)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_PictureNames, Widgets)
 #include "tst_PictureNames.moc"

@@ -150,5 +150,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_PlainText)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_PlainText, Widgets)
 #include "tst_PlainText.moc"

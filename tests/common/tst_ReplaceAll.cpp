@@ -54,5 +54,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_ReplaceAll)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ReplaceAll, Guiless)
 #include "tst_ReplaceAll.moc"

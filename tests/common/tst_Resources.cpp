@@ -205,5 +205,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_Resources)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Resources, Widgets)
 #include "tst_Resources.moc"

@@ -45,5 +45,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ScreenPlace)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ScreenPlace, Widgets)
 #include "tst_ScreenPlace.moc"

@@ -113,5 +113,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_Sha1)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Sha1, Guiless)
 #include "tst_Sha1.moc"

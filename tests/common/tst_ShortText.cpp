@@ -88,6 +88,7 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_ShortText)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ShortText, Guiless)
 
 #include "tst_ShortText.moc"

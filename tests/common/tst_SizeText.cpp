@@ -134,5 +134,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_SizeText)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SizeText, Guiless)
 #include "tst_SizeText.moc"

@@ -47,5 +47,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_StyleText)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_StyleText, Guiless)
 #include "tst_StyleText.moc"

@@ -166,5 +166,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_SystemOpen)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SystemOpen, Widgets)
 #include "tst_SystemOpen.moc"

@@ -169,5 +169,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_TextCompare)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_TextCompare, Guiless)
 #include "tst_TextCompare.moc"

@@ -110,5 +110,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_TextMeasure)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_TextMeasure, Guiless)
 #include "tst_TextMeasure.moc"

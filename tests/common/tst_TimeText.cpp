@@ -271,5 +271,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_TimeText)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_TimeText, Guiless)
 #include "tst_TimeText.moc"

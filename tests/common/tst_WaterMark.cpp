@@ -210,5 +210,6 @@ private:
     SysUIData m_skin;
 };
 
-QTEST_MAIN(tst_WaterMark)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_WaterMark, Widgets)
 #include "tst_WaterMark.moc"

@@ -103,5 +103,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_WeatherFiles)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_WeatherFiles, Guiless)
 #include "tst_WeatherFiles.moc"

@@ -309,5 +309,6 @@ void tst_CallEnd::callIsForgottenBeforeTheWindowCloses()
     QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 1);
 }
 
-QTEST_MAIN(tst_CallEnd)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CallEnd, Widgets)
 #include "tst_CallEnd.moc"

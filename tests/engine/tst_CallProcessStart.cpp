@@ -45,5 +45,6 @@ void tst_CallProcessStart::processObjectHoldsNoChild()
     QVERIFY(!process);
 }
 
-QTEST_MAIN(tst_CallProcessStart)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CallProcessStart, Widgets)
 #include "tst_CallProcessStart.moc"

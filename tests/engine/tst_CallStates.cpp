@@ -385,5 +385,6 @@ void tst_CallStates::noTimerIsSingleShot()
     QVERIFY(!f.manager->m_reconnectTimer.isSingleShot());
 }
 
-QTEST_MAIN(tst_CallStates)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CallStates, Widgets)
 #include "tst_CallStates.moc"

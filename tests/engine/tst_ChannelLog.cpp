@@ -127,5 +127,6 @@ void tst_ChannelLog::connectingAgainLogsTheRefusalAndTheRegistration()
                           "DEBUG sdk socket connected!", "DEBUG regedit userid = me, nickName = Nick"}));
 }
 
-QTEST_MAIN(tst_ChannelLog)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ChannelLog, Widgets)
 #include "tst_ChannelLog.moc"

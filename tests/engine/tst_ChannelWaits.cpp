@@ -65,5 +65,6 @@ void tst_ChannelWaits::endWithAPeerThatDoesNotReadTakesASecond()
     QVERIFY(!f.manager->m_bSocketConnected);
 }
 
-QTEST_MAIN(tst_ChannelWaits)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ChannelWaits, Widgets)
 #include "tst_ChannelWaits.moc"

@@ -73,5 +73,6 @@ void tst_ClientConnect::logoutHangsUpThenUnregisters()
     QCOMPARE(f.manager->m_strRegValue, QString("ticket"));
 }
 
-QTEST_MAIN(tst_ClientConnect)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ClientConnect, Widgets)
 #include "tst_ClientConnect.moc"

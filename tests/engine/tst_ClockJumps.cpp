@@ -266,5 +266,6 @@ void tst_ClockJumps::allTimersAtOnceEndTheCallAndBringTheChannelBack()
     callOnce(f);
 }
 
-QTEST_MAIN(tst_ClockJumps)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ClockJumps, Widgets)
 #include "tst_ClockJumps.moc"

@@ -271,5 +271,6 @@ void tst_ConferenceCentre::singleCallChangesNothing()
     QCOMPARE(shown(f), QStringList());
 }
 
-QTEST_MAIN(tst_ConferenceCentre)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceCentre, Widgets)
 #include "tst_ConferenceCentre.moc"

@@ -46,5 +46,6 @@ void tst_ConferenceCommands::additionWithNobodyConnectedHasANullList()
     QCOMPARE(f.takeLines(), QStringList{"Add2Conference [\"carl\"] \"me\" \"me\" false \"\" null"});
 }
 
-QTEST_MAIN(tst_ConferenceCommands)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceCommands, Widgets)
 #include "tst_ConferenceCommands.moc"

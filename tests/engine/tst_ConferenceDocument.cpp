@@ -187,5 +187,6 @@ void tst_ConferenceDocument::failedNumbersAreReadFromTheResult()
     QTEST(failedNumbers(content), "failed");
 }
 
-QTEST_GUILESS_MAIN(tst_ConferenceDocument)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceDocument, Guiless)
 #include "tst_ConferenceDocument.moc"

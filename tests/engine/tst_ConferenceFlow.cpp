@@ -336,5 +336,6 @@ void tst_ConferenceFlow::conferenceEndTakesAwayThePromptOfTheCreator()
     QCOMPARE(f.takeJournal(), QStringList({"SetMicEnable true", "SetSpeakerEnble true"}));
 }
 
-QTEST_MAIN(tst_ConferenceFlow)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceFlow, Widgets)
 #include "tst_ConferenceFlow.moc"

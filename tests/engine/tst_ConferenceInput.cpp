@@ -200,5 +200,6 @@ void tst_ConferenceInput::tenThousandMembers()
     QCOMPARE(f.members(), QStringList());
 }
 
-QTEST_MAIN(tst_ConferenceInput)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceInput, Widgets)
 #include "tst_ConferenceInput.moc"

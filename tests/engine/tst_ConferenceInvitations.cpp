@@ -330,5 +330,6 @@ void tst_ConferenceInvitations::rejectedMemberIsMarkedInAConferenceOnly()
     QCOMPARE(f.takeJournal(), QStringList());
 }
 
-QTEST_MAIN(tst_ConferenceInvitations)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceInvitations, Widgets)
 #include "tst_ConferenceInvitations.moc"

@@ -272,5 +272,6 @@ void tst_ConferenceMembers::cardIsHandedToTheWindow()
     QCOMPARE(rows->index(0, 0).data(Qt::UserRole + 1).toString(), QStringLiteral("安娜"));
 }
 
-QTEST_MAIN(tst_ConferenceMembers)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceMembers, Widgets)
 #include "tst_ConferenceMembers.moc"

@@ -255,5 +255,6 @@ void tst_ConferenceRecord::deletingARecord()
     QTEST(left, "left");
 }
 
-QTEST_MAIN(tst_ConferenceRecord)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceRecord, Widgets)
 #include "tst_ConferenceRecord.moc"

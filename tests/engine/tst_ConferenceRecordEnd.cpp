@@ -202,5 +202,6 @@ void tst_ConferenceRecordEnd::withoutAStoreTheConferenceEndsAllTheSame()
     f.manager->slot_DeleteConfInfoData("c1");
 }
 
-QTEST_MAIN(tst_ConferenceRecordEnd)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceRecordEnd, Widgets)
 #include "tst_ConferenceRecordEnd.moc"

@@ -236,5 +236,6 @@ void tst_ConferenceUpdates::leavingOfAnotherConferenceChangesNothing()
     QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
 }
 
-QTEST_MAIN(tst_ConferenceUpdates)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceUpdates, Widgets)
 #include "tst_ConferenceUpdates.moc"

@@ -40,5 +40,6 @@ void tst_ConferenceWalk::whatMustHoldHoldsAfterEachStep()
     QVERIFY2(walk.ends > kSteps / 50 && walk.engine.count() > kSteps / 100, qPrintable(QString::number(walk.ends)));
 }
 
-QTEST_MAIN(tst_ConferenceWalk)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceWalk, Widgets)
 #include "tst_ConferenceWalk.moc"

@@ -172,5 +172,6 @@ void tst_ConferenceWindow::knownMemberIsFoundByCount()
     QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
 }
 
-QTEST_MAIN(tst_ConferenceWindow)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceWindow, Widgets)
 #include "tst_ConferenceWindow.moc"

@@ -177,5 +177,6 @@ void tst_EffectOrder::callThatComesInMeanwhileTakesTheWindowButNotTheCommand()
     QCOMPARE(f.manager->m_pVoipWidget->findChild<QLabel *>("lblStatus")->text(), QStringLiteral("正在连接..."));
 }
 
-QTEST_MAIN(tst_EffectOrder)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_EffectOrder, Widgets)
 #include "tst_EffectOrder.moc"

@@ -259,5 +259,6 @@ void tst_EngineLog::clientGoneUnregistersBehindTheHangUp()
                           "DEBUG stop ring!", "DEBUG unregedit current user "}));
 }
 
-QTEST_MAIN(tst_EngineLog)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_EngineLog, Widgets)
 #include "tst_EngineLog.moc"

@@ -76,5 +76,6 @@ void tst_JsonText::writtenKeysAreSortedAndTheLineEndsInALineFeed()
     QCOMPARE(JsonText::write(root), QString("{\"messagetype\":\"x\",\"param1\":null,\"param2\":true}\n"));
 }
 
-QTEST_GUILESS_MAIN(tst_JsonText)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_JsonText, Guiless)
 #include "tst_JsonText.moc"

@@ -195,5 +195,6 @@ void tst_LineCutter::largeReadsAreCutInTime()
     QVERIFY(lines.constLast() == last);
 }
 
-QTEST_GUILESS_MAIN(tst_LineCutter)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_LineCutter, Guiless)
 #include "tst_LineCutter.moc"

@@ -67,5 +67,6 @@ void tst_MissingParts::exitWhileALineIsHandledEndsTheReading()
     QVERIFY(!f.manager->m_bSocketConnected);
 }
 
-QTEST_MAIN(tst_MissingParts)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_MissingParts, Widgets)
 #include "tst_MissingParts.moc"

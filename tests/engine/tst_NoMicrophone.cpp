@@ -141,5 +141,6 @@ void tst_NoMicrophone::socketLinesAreHandledWhileTheMessageIsOpen()
                                            "SetSpeakerEnble true", "RejectCall"}));
 }
 
-QTEST_MAIN(tst_NoMicrophone)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_NoMicrophone, Widgets)
 #include "tst_NoMicrophone.moc"

@@ -120,5 +120,6 @@ void tst_Notifications::logLineOfTheCallProcessChangesNothing()
     QCOMPARE(f.takeJournal(), QStringList());
 }
 
-QTEST_MAIN(tst_Notifications)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Notifications, Widgets)
 #include "tst_Notifications.moc"

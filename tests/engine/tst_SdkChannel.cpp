@@ -272,5 +272,6 @@ void tst_SdkChannel::destructionSaysQuit()
     QCOMPARE(f.process.takeLastLines(), QStringList{"quit"});
 }
 
-QTEST_MAIN(tst_SdkChannel)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SdkChannel, Widgets)
 #include "tst_SdkChannel.moc"

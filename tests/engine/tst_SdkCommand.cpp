@@ -88,5 +88,6 @@ void tst_SdkCommand::emptyListIsNullAndAFilledOneAnArray()
     QCOMPARE(QString::fromStdString(one[0].asString()), QString("anna"));
 }
 
-QTEST_GUILESS_MAIN(tst_SdkCommand)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SdkCommand, Guiless)
 #include "tst_SdkCommand.moc"

@@ -101,5 +101,6 @@ void tst_SdkNotification::lineWithoutEffectGivesMinusOne()
     QCOMPARE(SdkNotification::read(line).code, -1);
 }
 
-QTEST_GUILESS_MAIN(tst_SdkNotification)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SdkNotification, Guiless)
 #include "tst_SdkNotification.moc"

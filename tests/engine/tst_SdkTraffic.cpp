@@ -258,5 +258,6 @@ void tst_SdkTraffic::writeToALostSocketIsLost()
     QCOMPARE(f.takeLines(), QStringList());
 }
 
-QTEST_MAIN(tst_SdkTraffic)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SdkTraffic, Widgets)
 #include "tst_SdkTraffic.moc"

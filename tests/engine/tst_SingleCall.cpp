@@ -309,5 +309,6 @@ void tst_SingleCall::nothingGoesOutWhileTheChannelIsDown()
     QCOMPARE(f.takeLines(), QStringList{"AcceptCall"});
 }
 
-QTEST_MAIN(tst_SingleCall)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SingleCall, Widgets)
 #include "tst_SingleCall.moc"

@@ -61,5 +61,6 @@ void tst_VoipCallbacks::callbacksMakeTheManager()
     VoipManageProbe::forget();
 }
 
-QTEST_MAIN(tst_VoipCallbacks)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipCallbacks, Widgets)
 #include "tst_VoipCallbacks.moc"

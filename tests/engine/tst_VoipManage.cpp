@@ -325,5 +325,6 @@ void tst_VoipManage::lifeWithoutAHost()
                                          "SetMicEnable true", "SetSpeakerEnble true", "UnReg \"\""}));
 }
 
-QTEST_MAIN(tst_VoipManage)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipManage, Widgets)
 #include "tst_VoipManage.moc"

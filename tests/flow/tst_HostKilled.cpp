@@ -54,5 +54,6 @@ void tst_HostKilled::storeIsSoundAndEveryRecordWhole()
     qInfo("%d conferences, the host killed %d times, %d records", begun, kills, saved);
 }
 
-QTEST_GUILESS_MAIN(tst_HostKilled)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HostKilled, Guiless)
 #include "tst_HostKilled.moc"

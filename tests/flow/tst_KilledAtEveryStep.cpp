@@ -139,5 +139,6 @@ void tst_KilledAtEveryStep::killedAtStep()
     QCOMPARE(run.engine.boxes.texts, QStringList());
 }
 
-QTEST_MAIN(tst_KilledAtEveryStep)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_KilledAtEveryStep, Widgets)
 #include "tst_KilledAtEveryStep.moc"

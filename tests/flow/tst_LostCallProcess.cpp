@@ -133,5 +133,6 @@ void tst_LostCallProcess::restartedDuringACallTheCallGoesOn()
     QTRY_COMPARE(m_client.countOnWire(QStringLiteral("HangUpCall")), 1);
 }
 
-QTEST_MAIN(tst_LostCallProcess)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_LostCallProcess, Widgets)
 #include "tst_LostCallProcess.moc"

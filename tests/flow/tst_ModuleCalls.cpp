@@ -217,5 +217,6 @@ void tst_ModuleCalls::exitEndsTheCallProcess()
     QTRY_VERIFY_WITH_TIMEOUT(!m_client.callProcessLives(), 15000);
 }
 
-QTEST_MAIN(tst_ModuleCalls)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ModuleCalls, Widgets)
 #include "tst_ModuleCalls.moc"

@@ -95,5 +95,6 @@ void tst_RandomWalk::whateverTheHostDoesInsideItsHandlersIsSurvived()
     QCOMPARE(walk.engine.boxes.texts, QStringList());
 }
 
-QTEST_MAIN(tst_RandomWalk)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_RandomWalk, Widgets)
 #include "tst_RandomWalk.moc"

@@ -171,5 +171,6 @@ void tst_RecordedRuns::otherCommandIsFoundByTheStandIn()
     QVERIFY2(complaints.value(0).contains("expected CallUser param1=30010006"), complaints.value(0));
 }
 
-QTEST_GUILESS_MAIN(tst_RecordedRuns)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_RecordedRuns, Guiless)
 #include "tst_RecordedRuns.moc"

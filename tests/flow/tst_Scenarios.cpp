@@ -57,5 +57,6 @@ void tst_Scenarios::scenarioIsPlayed()
     QCOMPARE(run.engine.boxes.texts, QStringList());
 }
 
-QTEST_MAIN(tst_Scenarios)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Scenarios, Widgets)
 #include "tst_Scenarios.moc"

@@ -54,5 +54,6 @@ void tst_TwoClients::channelChangesHandsAndTheStoreKeepsAllRecords()
     qInfo("%d changes of the channel, %d conferences, %d records", changes, static_cast<int>(recorded), records.size());
 }
 
-QTEST_GUILESS_MAIN(tst_TwoClients)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_TwoClients, Guiless)
 #include "tst_TwoClients.moc"

@@ -295,5 +295,6 @@ void tst_WireDocument::sequencesNameWhatThereIs()
     QVERIFY(commands >= 9 && notifications >= 12);
 }
 
-QTEST_MAIN(tst_WireDocument)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_WireDocument, Widgets)
 #include "tst_WireDocument.moc"

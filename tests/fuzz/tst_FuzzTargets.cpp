@@ -137,6 +137,13 @@ void eachTargetIsARow()
         QTest::newRow(target.name) << QByteArray(target.name);
 }
 
+/// In memory where there is room, since some targets write a file for each input.
+QString folderForInputs()
+{
+    const QString memory = QStringLiteral("/dev/shm");
+    return QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
+}
+
 } // namespace
 
 class tst_FuzzTargets : public QObject
@@ -152,6 +159,9 @@ private slots:
     void keptInputsPass();
     void changedInputsPass_data() { eachTargetIsARow(); }
     void changedInputsPass();
+
+private:
+    FuzzApplication m_application{folderForInputs()};
 };
 
 void tst_FuzzTargets::initTestCase()
@@ -222,13 +232,7 @@ void tst_FuzzTargets::changedInputsPass()
     QVERIFY2(isSanitized() || growth <= kMostGrowthMiB, qPrintable(QStringLiteral("%1 MiB more").arg(growth)));
 }
 
-int main(int argc, char **argv)
-{
-    // In memory where there is room, since some targets write a file for each input.
-    const QString memory = QStringLiteral("/dev/shm");
-    const FuzzApplication application(QFileInfo(memory).isWritable() ? memory : QDir::tempPath());
-    tst_FuzzTargets test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+// Its application is one of its own.
+#include "support/TestProgram.h"
+VOIP_TEST(tst_FuzzTargets, Appless)
 #include "tst_FuzzTargets.moc"

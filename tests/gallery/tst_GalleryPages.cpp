@@ -188,5 +188,6 @@ void tst_GalleryPages::answerOfTheDialogIsShown()
     QCOMPARE(texts.count(QStringLiteral("accepted")), 1);
 }
 
-QTEST_MAIN(tst_GalleryPages)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_GalleryPages, Widgets)
 #include "tst_GalleryPages.moc"

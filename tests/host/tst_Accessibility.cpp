@@ -176,5 +176,6 @@ void tst_Accessibility::everyControlOfTheWindowIsReachedByTab()
     QCOMPARE(m_pWindow->focusWidget()->objectName(), QStringLiteral("btnOnline"));
 }
 
-QTEST_MAIN(tst_Accessibility)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Accessibility, Widgets)
 #include "tst_Accessibility.moc"

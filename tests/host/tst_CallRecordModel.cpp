@@ -129,5 +129,6 @@ void tst_CallRecordModel::titlesStandOverAllColumns()
     QVERIFY(!model.headerData(0, Qt::Vertical, Qt::DisplayRole).isValid());
 }
 
-QTEST_GUILESS_MAIN(tst_CallRecordModel)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CallRecordModel, Guiless)
 #include "tst_CallRecordModel.moc"

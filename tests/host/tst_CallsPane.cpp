@@ -106,5 +106,6 @@ void tst_CallsPane::tabLeavesTheTable()
     QCOMPARE(m_pPane->focusWidget()->objectName(), QStringLiteral("btnCentre"));
 }
 
-QTEST_MAIN(tst_CallsPane)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CallsPane, Widgets)
 #include "tst_CallsPane.moc"

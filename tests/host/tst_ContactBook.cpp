@@ -134,5 +134,6 @@ void tst_ContactBook::idsAndJidsTurnIntoEachOther()
     QCOMPARE(ContactBook::uidOf(QStringLiteral("1")), QStringLiteral("1"));
 }
 
-QTEST_GUILESS_MAIN(tst_ContactBook)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ContactBook, Guiless)
 #include "tst_ContactBook.moc"

@@ -251,5 +251,6 @@ void tst_ContactPane::numberIsCalledByReturn()
     QVERIFY(number->text().isEmpty());
 }
 
-QTEST_MAIN(tst_ContactPane)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ContactPane, Widgets)
 #include "tst_ContactPane.moc"

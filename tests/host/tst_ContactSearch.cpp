@@ -48,5 +48,6 @@ void tst_ContactSearch::textFindsByNameNumberAndInitials()
     QTEST(found, "found");
 }
 
-QTEST_GUILESS_MAIN(tst_ContactSearch)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ContactSearch, Guiless)
 #include "tst_ContactSearch.moc"

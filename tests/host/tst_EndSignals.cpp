@@ -43,5 +43,6 @@ void tst_EndSignals::defaultHandlingComesBack()
     QVERIFY(action.sa_handler == SIG_DFL);
 }
 
-QTEST_GUILESS_MAIN(tst_EndSignals)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_EndSignals, Guiless)
 #include "tst_EndSignals.moc"

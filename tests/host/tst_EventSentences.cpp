@@ -68,5 +68,6 @@ void tst_EventSentences::sentencesSayWhatThePayloadMeans()
     QTEST(EventSentences::say(EMsgId(msgId), payload, reply).text(), "words");
 }
 
-QTEST_GUILESS_MAIN(tst_EventSentences)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_EventSentences, Guiless)
 #include "tst_EventSentences.moc"

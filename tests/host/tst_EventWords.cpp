@@ -120,5 +120,6 @@ void tst_EventWords::brokenListReadsAsEmpty()
              QStringLiteral("4734 pick members of a conference: users=[]"));
 }
 
-QTEST_GUILESS_MAIN(tst_EventWords)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_EventWords, Guiless)
 #include "tst_EventWords.moc"

@@ -81,5 +81,6 @@ void tst_ForeignNames::signatureCardShowsText()
     QCOMPARE(ForeignText::faults(&card, name), QStringList());
 }
 
-QTEST_MAIN(tst_ForeignNames)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ForeignNames, Widgets)
 #include "tst_ForeignNames.moc"

@@ -258,5 +258,6 @@ void tst_HappeningsFeed::timerLooksByItself()
     QTRY_COMPARE(m_pModel->rowCount(), 1);
 }
 
-QTEST_GUILESS_MAIN(tst_HappeningsFeed)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HappeningsFeed, Guiless)
 #include "tst_HappeningsFeed.moc"

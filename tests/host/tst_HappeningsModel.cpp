@@ -181,5 +181,6 @@ void tst_HappeningsModel::filterHidesKinds()
     QCOMPARE(filter.rowCount(), 3);
 }
 
-QTEST_GUILESS_MAIN(tst_HappeningsModel)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HappeningsModel, Guiless)
 #include "tst_HappeningsModel.moc"

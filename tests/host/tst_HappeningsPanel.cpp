@@ -324,5 +324,6 @@ void tst_HappeningsPanel::languageIsTakenAnew()
     QVERIFY(part<QPlainTextEdit>("textDetail")->toPlainText().contains(QStringLiteral("\n~call process notes: n0\n")));
 }
 
-QTEST_MAIN(tst_HappeningsPanel)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HappeningsPanel, Widgets)
 #include "tst_HappeningsPanel.moc"

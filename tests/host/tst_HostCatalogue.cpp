@@ -90,5 +90,6 @@ void tst_HostCatalogue::cataloguesLieBesideTheExecutable()
     QCOMPARE(HostCatalogue::folder(), QCoreApplication::applicationDirPath() + "/Resources/Translations");
 }
 
-QTEST_GUILESS_MAIN(tst_HostCatalogue)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HostCatalogue, Guiless)
 #include "tst_HostCatalogue.moc"

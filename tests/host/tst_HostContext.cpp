@@ -59,5 +59,6 @@ void tst_HostContext::neverSignedInEndsQuietly()
     QVERIFY(context.logFile().isEmpty());
 }
 
-QTEST_GUILESS_MAIN(tst_HostContext)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HostContext, Guiless)
 #include "tst_HostContext.moc"

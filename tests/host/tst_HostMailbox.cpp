@@ -181,5 +181,6 @@ void tst_HostMailbox::questionAndAnswerAreReported()
     QCOMPARE(received.at(0).at(2).toString(), QStringLiteral("known=yes"));
 }
 
-QTEST_GUILESS_MAIN(tst_HostMailbox)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HostMailbox, Guiless)
 #include "tst_HostMailbox.moc"

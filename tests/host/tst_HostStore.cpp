@@ -336,5 +336,6 @@ void tst_HostStore::nextLoginHasNothingToTell()
     QCOMPARE(asideNames().size(), 1);
 }
 
-QTEST_GUILESS_MAIN(tst_HostStore)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HostStore, Guiless)
 #include "tst_HostStore.moc"

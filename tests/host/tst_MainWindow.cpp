@@ -364,5 +364,6 @@ void tst_MainWindow::damagedStoreIsToldBelowTheHeader()
     QCOMPARE(notice, m_pSession->store().reports().join(QLatin1Char('\n')));
 }
 
-QTEST_MAIN(tst_MainWindow)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_MainWindow, Widgets)
 #include "tst_MainWindow.moc"

@@ -145,5 +145,6 @@ void tst_MemberPicker::acceptedPickerGivesWhatWasPicked()
     QCOMPARE(wish->uids, QStringList{kBusy});
 }
 
-QTEST_MAIN(tst_MemberPicker)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_MemberPicker, Widgets)
 #include "tst_MemberPicker.moc"

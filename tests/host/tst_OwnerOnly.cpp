@@ -210,5 +210,6 @@ void tst_OwnerOnly::anotherUserCannotPutAFileBesideThem()
     QVERIFY(!isDoneByAnother([&] { return canOpen(log + "/kelvarim-demo.log.1", O_CREAT | O_WRONLY); }));
 }
 
-QTEST_GUILESS_MAIN(tst_OwnerOnly)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_OwnerOnly, Guiless)
 #include "tst_OwnerOnly.moc"

@@ -357,5 +357,6 @@ void tst_SettingsPage::filesAreNamed()
     QVERIFY(files.contains(SystemSetData::instance()->m_strAppInfoPath));
 }
 
-QTEST_MAIN(tst_SettingsPage)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SettingsPage, Widgets)
 #include "tst_SettingsPage.moc"

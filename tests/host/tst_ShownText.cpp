@@ -143,5 +143,6 @@ void tst_ShownText::cutSecretIsMaskedToTheEnd()
     QCOMPARE(SecretMask().masked(slashes), QStringLiteral("{\"token\":\"••••••"));
 }
 
-QTEST_GUILESS_MAIN(tst_ShownText)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ShownText, Guiless)
 #include "tst_ShownText.moc"

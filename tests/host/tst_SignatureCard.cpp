@@ -119,5 +119,6 @@ void tst_SignatureCard::takesNeitherFocusNorMouse()
     QVERIFY(card.windowFlags().testFlag(Qt::FramelessWindowHint));
 }
 
-QTEST_MAIN(tst_SignatureCard)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SignatureCard, Widgets)
 #include "tst_SignatureCard.moc"

@@ -135,5 +135,6 @@ void tst_Tour::withoutTheModuleTheClientSaysSoAndEnds()
     QVERIFY(demo.readAllStandardError().contains("libVoipManage.so"));
 }
 
-QTEST_GUILESS_MAIN(tst_Tour)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Tour, Guiless)
 #include "tst_Tour.moc"

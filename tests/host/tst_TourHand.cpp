@@ -184,5 +184,6 @@ void tst_TourHand::pointerGoesOutOfTheWayAfterAClick()
     QTRY_VERIFY(!button.geometry().contains(QCursor::pos()));
 }
 
-QTEST_MAIN(tst_TourHand)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_TourHand, Widgets)
 #include "tst_TourHand.moc"

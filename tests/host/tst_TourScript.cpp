@@ -32,5 +32,6 @@ void tst_TourScript::memberCheckSaysTheStatusAsTheListDoes()
              QStringLiteral("the member list shows 李雷: ") + words);
 }
 
-QTEST_APPLESS_MAIN(tst_TourScript)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_TourScript, Appless)
 #include "tst_TourScript.moc"

@@ -48,5 +48,6 @@ void tst_TraceFolder::standardErrorIsNotFollowed()
     QCOMPARE(TraceFolder::file(), QString());
 }
 
-QTEST_GUILESS_MAIN(tst_TraceFolder)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_TraceFolder, Guiless)
 #include "tst_TraceFolder.moc"

@@ -249,5 +249,6 @@ void tst_Translations::messageOfTheEngineShowsItsKeysWithoutACatalogue()
     QCOMPARE(f.boxes.texts, QStringList{"soundfailedinsound"});
 }
 
-QTEST_MAIN(tst_Translations)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Translations, Widgets)
 #include "tst_Translations.moc"

@@ -74,5 +74,6 @@ void tst_WindowFont::secondCallChangesNothing()
     QCOMPARE(QFont::substitutes(WindowFont::families().first()), once);
 }
 
-QTEST_MAIN(tst_WindowFont)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_WindowFont, Widgets)
 #include "tst_WindowFont.moc"

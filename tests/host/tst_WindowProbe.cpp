@@ -128,5 +128,6 @@ void tst_WindowProbe::buttonThatCannotBePressedHasNoPlace()
     QVERIFY(WindowProbe::button(nullptr, "button").widget == nullptr);
 }
 
-QTEST_MAIN(tst_WindowProbe)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_WindowProbe, Widgets)
 #include "tst_WindowProbe.moc"

@@ -166,5 +166,6 @@ void tst_WireTrace::presentCallProcessKeepsItsStart()
     QCOMPARE(trace.readNew().at(0).time, written.toMSecsSinceEpoch() + 2000);
 }
 
-QTEST_GUILESS_MAIN(tst_WireTrace)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_WireTrace, Guiless)
 #include "tst_WireTrace.moc"

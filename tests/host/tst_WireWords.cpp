@@ -276,5 +276,6 @@ void tst_WireWords::registrationValueIsTold()
     QCOMPARE(WireWords::secretOf("RegeditUser"), QString());
 }
 
-QTEST_GUILESS_MAIN(tst_WireWords)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_WireWords, Guiless)
 #include "tst_WireWords.moc"

@@ -87,5 +87,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_BaseInfo)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_BaseInfo, Appless)
 #include "tst_BaseInfo.moc"

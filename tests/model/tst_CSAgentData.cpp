@@ -67,5 +67,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CSAgentData)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CSAgentData, Guiless)
 #include "tst_CSAgentData.moc"

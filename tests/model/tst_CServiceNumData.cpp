@@ -389,5 +389,6 @@ private:
     CommonData m_context;
 };
 
-QTEST_GUILESS_MAIN(tst_CServiceNumData)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CServiceNumData, Guiless)
 #include "tst_CServiceNumData.moc"

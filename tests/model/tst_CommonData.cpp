@@ -236,5 +236,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_CommonData)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CommonData, Appless)
 #include "tst_CommonData.moc"

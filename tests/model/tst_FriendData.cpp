@@ -68,5 +68,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_FriendData)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_FriendData, Appless)
 #include "tst_FriendData.moc"

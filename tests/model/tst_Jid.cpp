@@ -311,5 +311,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_Jid)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Jid, Appless)
 #include "tst_Jid.moc"

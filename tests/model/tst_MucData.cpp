@@ -117,5 +117,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_MucData)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_MucData, Appless)
 #include "tst_MucData.moc"

@@ -127,5 +127,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_PresenceData)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_PresenceData, Appless)
 #include "tst_PresenceData.moc"

@@ -177,5 +177,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_SharedContext)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SharedContext, Appless)
 #include "tst_SharedContext.moc"

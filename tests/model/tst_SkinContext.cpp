@@ -224,5 +224,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_SkinContext)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SkinContext, Guiless)
 #include "tst_SkinContext.moc"

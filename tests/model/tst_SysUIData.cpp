@@ -347,5 +347,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_SysUIData)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SysUIData, Guiless)
 #include "tst_SysUIData.moc"

@@ -276,5 +276,6 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_SystemSetData)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SystemSetData, Guiless)
 #include "tst_SystemSetData.moc"

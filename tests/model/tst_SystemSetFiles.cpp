@@ -227,5 +227,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_SystemSetFiles)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_SystemSetFiles, Guiless)
 #include "tst_SystemSetFiles.moc"

@@ -301,5 +301,6 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_UserIds)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_UserIds, Appless)
 #include "tst_UserIds.moc"

@@ -163,5 +163,6 @@ private:
     CommonData m_context;
 };
 
-QTEST_GUILESS_MAIN(tst_VcardInfo)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VcardInfo, Guiless)
 #include "tst_VcardInfo.moc"

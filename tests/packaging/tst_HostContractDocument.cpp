@@ -232,5 +232,6 @@ void tst_HostContractDocument::otherAnswersOfTheInterfaceAreDocumented()
     QVERIFY(fileText(VOIP_DOCUMENT).contains(QStringLiteral("| \"%1\", the name to go by |").arg(voipPluginId())));
 }
 
-QTEST_MAIN(tst_HostContractDocument)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HostContractDocument, Widgets)
 #include "tst_HostContractDocument.moc"

@@ -165,5 +165,6 @@ private:
     CommonData m_context;
 };
 
-QTEST_GUILESS_MAIN(tst_CoverNetworkRequest)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CoverNetworkRequest, Guiless)
 #include "tst_CoverNetworkRequest.moc"

@@ -181,5 +181,6 @@ private:
     LogCapture m_log;
 };
 
-QTEST_GUILESS_MAIN(tst_PassportLoginServer)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_PassportLoginServer, Guiless)
 #include "tst_PassportLoginServer.moc"

@@ -94,5 +94,6 @@ void tst_BaseEvent::commandNumberHas32Bits()
     QCOMPARE(static_cast<int>(event.msgId), -2147483647);
 }
 
-QTEST_GUILESS_MAIN(tst_BaseEvent)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_BaseEvent, Guiless)
 #include "tst_BaseEvent.moc"

@@ -148,5 +148,6 @@ void tst_EventPayload::recordIsCopiedFromItsAddress()
     QCOMPARE(copy, QStringLiteral("before"));
 }
 
-QTEST_GUILESS_MAIN(tst_EventPayload)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_EventPayload, Guiless)
 #include "tst_EventPayload.moc"

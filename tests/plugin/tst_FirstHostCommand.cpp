@@ -86,5 +86,6 @@ void tst_FirstHostCommand::unknownCommandCreatesNone()
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
-QTEST_MAIN(tst_FirstHostCommand)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_FirstHostCommand, Widgets)
 #include "tst_FirstHostCommand.moc"

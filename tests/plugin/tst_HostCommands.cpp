@@ -390,5 +390,6 @@ void tst_HostCommands::exitEndsTheLink()
     m_link = nullptr;
 }
 
-QTEST_MAIN(tst_HostCommands)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HostCommands, Widgets)
 #include "tst_HostCommands.moc"

@@ -37,5 +37,6 @@ void tst_PluginIds::ownIdIsUpperCase()
     QCOMPARE(voipPluginId().toUpper(), voipPluginId());
 }
 
-QTEST_GUILESS_MAIN(tst_PluginIds)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_PluginIds, Guiless)
 #include "tst_PluginIds.moc"

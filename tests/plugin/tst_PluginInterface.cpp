@@ -25,5 +25,6 @@ void tst_PluginInterface::interfaceIdIsTheHosts()
     QCOMPARE(qobject_interface_iid<PluginInterface *>(), "kelvarim/1.0");
 }
 
-QTEST_GUILESS_MAIN(tst_PluginInterface)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_PluginInterface, Guiless)
 #include "tst_PluginInterface.moc"

@@ -181,5 +181,6 @@ void tst_PluginModule::firstRecognisedCommandEvenAQueryCreatesTheManager()
     QCOMPARE(m_starts.count(), 1);
 }
 
-QTEST_MAIN(tst_PluginModule)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_PluginModule, Widgets)
 #include "tst_PluginModule.moc"

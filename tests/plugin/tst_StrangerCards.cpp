@@ -203,5 +203,6 @@ void tst_StrangerCards::requestCarriesAllStrangersInTheirOrder()
     QCOMPARE(reader.take<bool>(), true);
 }
 
-QTEST_GUILESS_MAIN(tst_StrangerCards)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_StrangerCards, Guiless)
 #include "tst_StrangerCards.moc"

@@ -383,5 +383,6 @@ void tst_VoipManageEventProcess::receiverMayDeliverFurtherRequestsMeanwhile()
     QCOMPARE(host()->commands(), (QList<int>{4157, 4157}));
 }
 
-QTEST_GUILESS_MAIN(tst_VoipManageEventProcess)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipManageEventProcess, Guiless)
 #include "tst_VoipManageEventProcess.moc"

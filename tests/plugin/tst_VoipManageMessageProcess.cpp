@@ -386,5 +386,6 @@ void tst_VoipManageMessageProcess::inboundCommandIsHandledWhileOutboundOneIsInPr
     QCOMPARE(outbound.data, packPayload(false));
 }
 
-QTEST_MAIN(tst_VoipManageMessageProcess)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipManageMessageProcess, Widgets)
 #include "tst_VoipManageMessageProcess.moc"

@@ -183,5 +183,6 @@ void tst_VoipManagePlugin::creatingItShowsNoWindow()
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
-QTEST_MAIN(tst_VoipManagePlugin)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipManagePlugin, Widgets)
 #include "tst_VoipManagePlugin.moc"

@@ -206,6 +206,7 @@ void tst_CallWindowPictures::oneGlyphIsADifference()
     QVERIFY(ComparedPicture::differingPixels(changed, picture(voice)) > 12);
 }
 
-QTEST_MAIN(tst_CallWindowPictures)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CallWindowPictures, Widgets)
 
 #include "tst_CallWindowPictures.moc"

@@ -171,6 +171,7 @@ void tst_CentrePictures::detailOfAConferenceThatNeverConnected()
     compare("centre-detail-unconnected");
 }
 
-QTEST_MAIN(tst_CentrePictures)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CentrePictures, Widgets)
 
 #include "tst_CentrePictures.moc"

@@ -157,5 +157,6 @@ void tst_GalleryPictures::folderThatCannotBeMadeIsTold()
     QVERIFY2(run.error.contains(QStringLiteral("cannot make the folder")), qPrintable(run.error));
 }
 
-QTEST_MAIN(tst_GalleryPictures)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_GalleryPictures, Widgets)
 #include "tst_GalleryPictures.moc"

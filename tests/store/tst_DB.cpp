@@ -278,5 +278,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_DB)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_DB, Guiless)
 #include "tst_DB.moc"

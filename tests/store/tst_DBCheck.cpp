@@ -261,5 +261,6 @@ private:
     std::unique_ptr<StoreFixture> m_store;
 };
 
-QTEST_GUILESS_MAIN(tst_DBCheck)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_DBCheck, Guiless)
 #include "tst_DBCheck.moc"

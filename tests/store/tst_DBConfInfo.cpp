@@ -232,5 +232,6 @@ private:
     std::unique_ptr<StoreFixture> m_store;
 };
 
-QTEST_GUILESS_MAIN(tst_DBConfInfo)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_DBConfInfo, Guiless)
 #include "tst_DBConfInfo.moc"

@@ -196,5 +196,6 @@ private:
     std::unique_ptr<StoreFixture> m_store;
 };
 
-QTEST_GUILESS_MAIN(tst_DBLastTime)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_DBLastTime, Guiless)
 #include "tst_DBLastTime.moc"

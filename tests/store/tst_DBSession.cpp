@@ -214,5 +214,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_DBSession)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_DBSession, Guiless)
 #include "tst_DBSession.moc"

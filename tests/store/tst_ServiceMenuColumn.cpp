@@ -67,5 +67,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_ServiceMenuColumn)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ServiceMenuColumn, Guiless)
 #include "tst_ServiceMenuColumn.moc"

@@ -206,5 +206,6 @@ void tst_StoreDamage::fileThatCannotBeOpenedIsNotReported()
     QVERIFY(QFile::exists(m_strFile));
 }
 
-QTEST_GUILESS_MAIN(tst_StoreDamage)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_StoreDamage, Guiless)
 #include "tst_StoreDamage.moc"

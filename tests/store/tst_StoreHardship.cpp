@@ -160,5 +160,6 @@ void tst_StoreHardship::fileLockedByAnotherProcess()
     QVERIFY(DB::checkDB(m_strFolder, false));
 }
 
-QTEST_GUILESS_MAIN(tst_StoreHardship)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_StoreHardship, Guiless)
 #include "tst_StoreHardship.moc"

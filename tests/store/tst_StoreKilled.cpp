@@ -95,5 +95,6 @@ void tst_StoreKilled::killedOpenIsFinishedByTheNextOne()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_StoreKilled)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_StoreKilled, Guiless)
 #include "tst_StoreKilled.moc"

@@ -119,5 +119,6 @@ void tst_StoreSchemaDocument::tellsNoOtherTable()
     QCOMPARE(m_lines.filter(QRegularExpression("^### ")).size(), allTables().size());
 }
 
-QTEST_APPLESS_MAIN(tst_StoreSchemaDocument)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_StoreSchemaDocument, Appless)
 #include "tst_StoreSchemaDocument.moc"

@@ -282,5 +282,6 @@ void tst_StoreSchemaFresh::deletionMarkOfAnApplicationHasNoDefault()
     QCOMPARE(store.rows("select quote(isdelete) from appnumbernew"), QStringList("NULL"));
 }
 
-QTEST_GUILESS_MAIN(tst_StoreSchemaFresh)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_StoreSchemaFresh, Guiless)
 #include "tst_StoreSchemaFresh.moc"

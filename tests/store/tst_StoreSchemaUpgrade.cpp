@@ -198,5 +198,6 @@ void tst_StoreSchemaUpgrade::aColumnIsTakenForThereWhenItsNameStandsInAnother()
     QCOMPARE(store.storedSql("mucmembers"), sql);
 }
 
-QTEST_GUILESS_MAIN(tst_StoreSchemaUpgrade)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_StoreSchemaUpgrade, Guiless)
 #include "tst_StoreSchemaUpgrade.moc"

@@ -163,5 +163,6 @@ void tst_StoreStatements::quickCheckIsAskedInTheseWords()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_StoreStatements)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_StoreStatements, Guiless)
 #include "tst_StoreStatements.moc"

@@ -238,5 +238,6 @@ void tst_StoreTableUpgrades::lastTimeIsSeededOnlyWithItsTable()
     QCOMPARE(store.rows("select * from last_time"), QStringList("all_session|1700000000"));
 }
 
-QTEST_GUILESS_MAIN(tst_StoreTableUpgrades)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_StoreTableUpgrades, Guiless)
 #include "tst_StoreTableUpgrades.moc"

@@ -62,7 +62,7 @@ def words_of_the_code(root):
     for path in files:
         if path.suffix in SOURCES and path.is_file() and path != pathlib.Path(__file__).resolve():
             words.update(re.findall(r"\w+", path.read_bytes().decode(errors="replace")))
-            # ./test --only takes the name of a test program without what all begin with.
+            # ./test --only takes the name of a test class without what all begin with.
             words.add(path.stem.removeprefix("tst_"))
     return words
 

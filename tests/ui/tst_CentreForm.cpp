@@ -199,5 +199,6 @@ void tst_CentreForm::signalsAndSlotsInOrder()
                           "slot_ReCallConf(QString)", "slot_DeleteConfInfo(QString)"}));
 }
 
-QTEST_MAIN(tst_CentreForm)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CentreForm, Widgets)
 #include "tst_CentreForm.moc"

@@ -160,5 +160,6 @@ void tst_CentreMoving::titleDragsTheWindow()
     QTest::mouseRelease(pTitle, Qt::LeftButton, Qt::NoModifier, QPoint(3, 3));
 }
 
-QTEST_MAIN(tst_CentreMoving)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CentreMoving, Widgets)
 #include "tst_CentreMoving.moc"

@@ -48,5 +48,6 @@ void tst_CentreNames::labelsForNamesNeverRunMarkup()
     QCOMPARE(part<QLabel>("lblCallTime")->textFormat(), Qt::PlainText);
 }
 
-QTEST_MAIN(tst_CentreNames)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CentreNames, Widgets)
 #include "tst_CentreNames.moc"

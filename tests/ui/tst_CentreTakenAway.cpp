@@ -171,5 +171,6 @@ void tst_CentreTakenAway::centreMayGoWhileItShowsADetail()
     QVERIFY(!m_pWindow);
 }
 
-QTEST_MAIN(tst_CentreTakenAway)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CentreTakenAway, Widgets)
 #include "tst_CentreTakenAway.moc"

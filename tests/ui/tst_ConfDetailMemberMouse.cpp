@@ -187,6 +187,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ConfDetailMemberMouse)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConfDetailMemberMouse, Widgets)
 
 #include "tst_ConfDetailMemberMouse.moc"

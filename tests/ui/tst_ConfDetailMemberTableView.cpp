@@ -142,6 +142,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ConfDetailMemberTableView)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConfDetailMemberTableView, Widgets)
 
 #include "tst_ConfDetailMemberTableView.moc"

@@ -297,6 +297,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ConfDetailTableViewDelegate)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConfDetailTableViewDelegate, Widgets)
 
 #include "tst_ConfDetailTableViewDelegate.moc"

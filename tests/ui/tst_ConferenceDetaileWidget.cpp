@@ -375,6 +375,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ConferenceDetaileWidget)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceDetaileWidget, Widgets)
 
 #include "tst_ConferenceDetaileWidget.moc"

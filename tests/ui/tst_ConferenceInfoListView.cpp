@@ -287,5 +287,6 @@ void tst_ConferenceInfoListView::hundredThousandRecords()
     picture();
 }
 
-QTEST_MAIN(tst_ConferenceInfoListView)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceInfoListView, Widgets)
 #include "tst_ConferenceInfoListView.moc"

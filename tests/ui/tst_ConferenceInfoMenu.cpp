@@ -201,5 +201,6 @@ void tst_ConferenceInfoMenu::rightClickIsLeftToTheWindow()
     }
 }
 
-QTEST_MAIN(tst_ConferenceInfoMenu)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceInfoMenu, Widgets)
 #include "tst_ConferenceInfoMenu.moc"

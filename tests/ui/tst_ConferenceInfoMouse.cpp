@@ -349,5 +349,6 @@ void tst_ConferenceInfoMouse::leavingTheListCancelsTheCard()
     QCOMPARE(takeSigns(), QStringList{"close"});
 }
 
-QTEST_MAIN(tst_ConferenceInfoMouse)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceInfoMouse, Widgets)
 #include "tst_ConferenceInfoMouse.moc"

@@ -270,5 +270,6 @@ void tst_ConferenceInfoPainting::lineBreaksStandAsBlanks()
     QCOMPARE(image.copy(0, 0, image.width(), iRow), image.copy(0, iRow, image.width(), iRow));
 }
 
-QTEST_MAIN(tst_ConferenceInfoPainting)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceInfoPainting, Widgets)
 #include "tst_ConferenceInfoPainting.moc"

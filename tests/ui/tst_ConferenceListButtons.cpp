@@ -350,6 +350,7 @@ void tst_ConferenceListButtons::removedRowsPlaceBelongsToTheNextOne()
     QCOMPARE(removed.last().at(0).toString(), QStringLiteral("bob"));
 }
 
-QTEST_MAIN(tst_ConferenceListButtons)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceListButtons, Widgets)
 
 #include "tst_ConferenceListButtons.moc"

@@ -328,6 +328,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ConferenceListPainting)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceListPainting, Widgets)
 
 #include "tst_ConferenceListPainting.moc"

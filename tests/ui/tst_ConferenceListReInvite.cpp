@@ -176,6 +176,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ConferenceListReInvite)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceListReInvite, Widgets)
 
 #include "tst_ConferenceListReInvite.moc"

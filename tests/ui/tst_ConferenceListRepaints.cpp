@@ -77,6 +77,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ConferenceListRepaints)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceListRepaints, Widgets)
 
 #include "tst_ConferenceListRepaints.moc"

@@ -117,6 +117,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ConferenceListStatus)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceListStatus, Widgets)
 
 #include "tst_ConferenceListStatus.moc"

@@ -184,6 +184,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ConferenceListView)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceListView, Widgets)
 
 #include "tst_ConferenceListView.moc"

@@ -126,6 +126,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ConferenceListWatchdog)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceListWatchdog, Widgets)
 
 #include "tst_ConferenceListWatchdog.moc"

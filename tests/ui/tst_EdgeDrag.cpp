@@ -164,6 +164,7 @@ void tst_EdgeDrag::smallestSizeIsThatOfTheWindow()
              QRect(0, 0, 400, 403));
 }
 
-QTEST_APPLESS_MAIN(tst_EdgeDrag)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_EdgeDrag, Appless)
 
 #include "tst_EdgeDrag.moc"

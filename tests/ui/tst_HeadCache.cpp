@@ -142,6 +142,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_HeadCache)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HeadCache, Widgets)
 
 #include "tst_HeadCache.moc"

@@ -96,5 +96,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_LineCache)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_LineCache, Widgets)
 #include "tst_LineCache.moc"

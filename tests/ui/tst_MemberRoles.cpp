@@ -103,6 +103,7 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_MemberRoles)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_MemberRoles, Guiless)
 
 #include "tst_MemberRoles.moc"

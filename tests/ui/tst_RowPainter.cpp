@@ -192,6 +192,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_RowPainter)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_RowPainter, Widgets)
 
 #include "tst_RowPainter.moc"

@@ -232,5 +232,6 @@ void tst_VoiceConferenceWidget::deletedIdCanComeAgain()
     QCOMPARE(ids(), QStringList({"a", "b"}));
 }
 
-QTEST_MAIN(tst_VoiceConferenceWidget)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoiceConferenceWidget, Widgets)
 #include "tst_VoiceConferenceWidget.moc"

@@ -315,6 +315,7 @@ void tst_VoipWidget::cardOfThePeerIsLogged()
     QCOMPARE(newRecords(), expected);
 }
 
-QTEST_MAIN(tst_VoipWidget)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipWidget, Widgets)
 
 #include "tst_VoipWidget.moc"

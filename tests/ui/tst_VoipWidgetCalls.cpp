@@ -340,6 +340,7 @@ void tst_VoipWidgetCalls::newCallAfterACloseStartsWithAnEmptyList()
     QCOMPARE(shown.text("lblListCount"), QStringLiteral("参与人员(1)"));
 }
 
-QTEST_MAIN(tst_VoipWidgetCalls)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipWidgetCalls, Widgets)
 
 #include "tst_VoipWidgetCalls.moc"

@@ -200,6 +200,7 @@ void tst_VoipWidgetClicks::clicksAreLogged()
     QCOMPARE(newRecords().mid(0, expected.size()), expected);
 }
 
-QTEST_MAIN(tst_VoipWidgetClicks)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipWidgetClicks, Widgets)
 
 #include "tst_VoipWidgetClicks.moc"

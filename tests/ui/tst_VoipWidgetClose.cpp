@@ -259,6 +259,7 @@ void tst_VoipWidgetClose::userOfflineCloses()
     QCOMPARE(rows()->rowCount(), 0);
 }
 
-QTEST_MAIN(tst_VoipWidgetClose)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipWidgetClose, Widgets)
 
 #include "tst_VoipWidgetClose.moc"

@@ -394,6 +394,7 @@ void tst_VoipWidgetForm::memberListStandsAsTheFormSaysIt()
     QCOMPARE(pList->batchSize(), 50);
 }
 
-QTEST_MAIN(tst_VoipWidgetForm)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipWidgetForm, Widgets)
 
 #include "tst_VoipWidgetForm.moc"

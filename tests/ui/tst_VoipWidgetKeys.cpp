@@ -226,6 +226,7 @@ void tst_VoipWidgetKeys::enteringGoesOn()
     QVERIFY(!pButton->styleSheet().isEmpty());
 }
 
-QTEST_MAIN(tst_VoipWidgetKeys)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipWidgetKeys, Widgets)
 
 #include "tst_VoipWidgetKeys.moc"

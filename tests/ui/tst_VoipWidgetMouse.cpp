@@ -393,6 +393,7 @@ void tst_VoipWidgetMouse::bandGoesWithTheWindow()
     QVERIFY(pBand.isNull());
 }
 
-QTEST_MAIN(tst_VoipWidgetMouse)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipWidgetMouse, Widgets)
 
 #include "tst_VoipWidgetMouse.moc"

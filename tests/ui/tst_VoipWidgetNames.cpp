@@ -125,6 +125,7 @@ void tst_VoipWidgetNames::oddUidsAreHarmless()
     QCOMPARE(m_pWindow->size(), QSize(523, 403));
 }
 
-QTEST_MAIN(tst_VoipWidgetNames)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipWidgetNames, Widgets)
 
 #include "tst_VoipWidgetNames.moc"

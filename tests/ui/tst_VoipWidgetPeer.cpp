@@ -199,6 +199,7 @@ void tst_VoipWidgetPeer::missingPhotoGivesTheDefaultHead()
     QCOMPARE(shown.pixelColor(0, 0).alpha(), 0);
 }
 
-QTEST_MAIN(tst_VoipWidgetPeer)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipWidgetPeer, Widgets)
 
 #include "tst_VoipWidgetPeer.moc"

@@ -240,6 +240,7 @@ void tst_VoipWidgetVolume::cancelledSnapshotSavesNothing()
     QCOMPARE(QDir::current().entryList(), before);
 }
 
-QTEST_MAIN(tst_VoipWidgetVolume)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VoipWidgetVolume, Widgets)
 
 #include "tst_VoipWidgetVolume.moc"

@@ -381,6 +381,7 @@ void tst_BaseFormEx::onlyTheTitlePictureAsksForAPaint()
     QCOMPARE(form.m_iPaints > iBefore, paints);
 }
 
-QTEST_MAIN(tst_BaseFormEx)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_BaseFormEx, Widgets)
 
 #include "tst_BaseFormEx.moc"

@@ -87,6 +87,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_BaseFormPicture)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_BaseFormPicture, Widgets)
 
 #include "tst_BaseFormPicture.moc"

@@ -47,6 +47,7 @@ void tst_CustomIconStyle::otherMetricsAreTheCommonStyles()
     QCOMPARE(style.pixelMetric(QStyle::PixelMetric(metric)), common.pixelMetric(QStyle::PixelMetric(metric)));
 }
 
-QTEST_MAIN(tst_CustomIconStyle)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CustomIconStyle, Widgets)
 
 #include "tst_CustomIconStyle.moc"

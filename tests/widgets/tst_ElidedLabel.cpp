@@ -68,6 +68,7 @@ void tst_ElidedLabel::textIsPainted()
     QVERIFY(label.grab().toImage() != empty);
 }
 
-QTEST_MAIN(tst_ElidedLabel)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ElidedLabel, Widgets)
 
 #include "tst_ElidedLabel.moc"

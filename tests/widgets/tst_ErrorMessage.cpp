@@ -348,6 +348,7 @@ void tst_ErrorMessage::lastRowAndColumnDoNotMoveTheDialog()
     QCOMPARE(dialog.pos(), moves ? QPoint(230, 170) : QPoint(200, 150));
 }
 
-QTEST_MAIN(tst_ErrorMessage)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ErrorMessage, Widgets)
 
 #include "tst_ErrorMessage.moc"

@@ -207,6 +207,7 @@ void tst_ErrorMessageFields::nameTakesAPaste()
     QGuiApplication::clipboard()->clear();
 }
 
-QTEST_MAIN(tst_ErrorMessageFields)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ErrorMessageFields, Widgets)
 
 #include "tst_ErrorMessageFields.moc"

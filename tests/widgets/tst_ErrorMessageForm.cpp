@@ -271,6 +271,7 @@ void tst_ErrorMessageForm::slotsStandInTheirOrder()
                                  "slot_paste()"}));
 }
 
-QTEST_MAIN(tst_ErrorMessageForm)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ErrorMessageForm, Widgets)
 
 #include "tst_ErrorMessageForm.moc"

@@ -265,6 +265,7 @@ void tst_ErrorMessageModes::messageWithoutRoomIsWholeInItsTip()
     QCOMPARE(part<QLabel>(dialog, "msgLabel")->toolTip(), fits ? QString() : message);
 }
 
-QTEST_MAIN(tst_ErrorMessageModes)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ErrorMessageModes, Widgets)
 
 #include "tst_ErrorMessageModes.moc"

@@ -208,6 +208,7 @@ void tst_ErrorMessageTag::escapeLeavesTheFlagOfABlankTag()
     QVERIFY(dialog.m_bAccepted);
 }
 
-QTEST_MAIN(tst_ErrorMessageTag)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ErrorMessageTag, Widgets)
 
 #include "tst_ErrorMessageTag.moc"

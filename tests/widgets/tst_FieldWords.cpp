@@ -48,6 +48,7 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_FieldWords)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_FieldWords, Widgets)
 
 #include "tst_FieldWords.moc"

@@ -116,6 +116,7 @@ void tst_HotLabel::releaseOfALinkStillReachesTheLabel()
     QCOMPARE(activated.first().first().toString(), QStringLiteral("#"));
 }
 
-QTEST_MAIN(tst_HotLabel)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HotLabel, Widgets)
 
 #include "tst_HotLabel.moc"

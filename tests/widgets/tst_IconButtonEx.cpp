@@ -326,6 +326,7 @@ void tst_IconButtonEx::innerButtonTakesWhatItIsGiven()
     QCOMPARE(inner(*m_pButton)->iconSize(), QSize(9, 7));
 }
 
-QTEST_MAIN(tst_IconButtonEx)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_IconButtonEx, Widgets)
 
 #include "tst_IconButtonEx.moc"

@@ -187,6 +187,7 @@ void tst_IconButtonMouse::keyboardDoesNotReachTheInnerButton()
     QCOMPARE(clicked.count(), 0);
 }
 
-QTEST_MAIN(tst_IconButtonMouse)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_IconButtonMouse, Widgets)
 
 #include "tst_IconButtonMouse.moc"

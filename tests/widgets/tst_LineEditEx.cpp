@@ -366,6 +366,7 @@ void tst_LineEditEx::signalsStandInTheirOrder()
                                  "slot_cursorchanged(int,int)"}));
 }
 
-QTEST_MAIN(tst_LineEditEx)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_LineEditEx, Widgets)
 
 #include "tst_LineEditEx.moc"

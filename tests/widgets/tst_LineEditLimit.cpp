@@ -257,6 +257,7 @@ void tst_LineEditLimit::hugePasteWithoutALimitEnds()
     putOnClipboard(QString());
 }
 
-QTEST_MAIN(tst_LineEditLimit)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_LineEditLimit, Widgets)
 
 #include "tst_LineEditLimit.moc"

@@ -182,6 +182,7 @@ void tst_MenuEx::showEventIsAccepted()
     QVERIFY(show.isAccepted());
 }
 
-QTEST_MAIN(tst_MenuEx)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_MenuEx, Widgets)
 
 #include "tst_MenuEx.moc"

@@ -96,5 +96,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_MyRubberBand)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_MyRubberBand, Widgets)
 #include "tst_MyRubberBand.moc"

@@ -332,6 +332,7 @@ void tst_PushButtonEx::keyboardClicks()
     QCOMPARE(clicked.count(), 2);
 }
 
-QTEST_MAIN(tst_PushButtonEx)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_PushButtonEx, Widgets)
 
 #include "tst_PushButtonEx.moc"

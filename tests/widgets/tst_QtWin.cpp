@@ -30,6 +30,7 @@ void tst_QtWin::windowStaysAsItIs()
     QCOMPARE(window.contentsMargins(), QMargins());
 }
 
-QTEST_MAIN(tst_QtWin)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_QtWin, Widgets)
 
 #include "tst_QtWin.moc"

@@ -373,6 +373,7 @@ void tst_TextEditEx::eachColourIsItsOwnMemberOfTheSkin()
                             "color:#333333;}QTextEdit::hover{border: 1px solid #000052;}"));
 }
 
-QTEST_MAIN(tst_TextEditEx)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_TextEditEx, Widgets)
 
 #include "tst_TextEditEx.moc"

@@ -62,6 +62,7 @@ void tst_TextLimit::cursorOutsideTheTextIsItsNearestEnd()
     QCOMPARE(strText, QStringLiteral("ab"));
 }
 
-QTEST_MAIN(tst_TextLimit)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_TextLimit, Widgets)
 
 #include "tst_TextLimit.moc"

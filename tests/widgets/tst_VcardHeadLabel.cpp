@@ -110,6 +110,7 @@ void tst_VcardHeadLabel::fileGetsTheSuffixOfWhatItHolds()
     QVERIFY(shown(label).pixelColor(shown(label).rect().center()).blue() > 250);
 }
 
-QTEST_MAIN(tst_VcardHeadLabel)
+#include "support/TestProgram.h"
+VOIP_TEST(tst_VcardHeadLabel, Widgets)
 
 #include "tst_VcardHeadLabel.moc"
