@@ -33,6 +33,8 @@ public:
     /// Waits, at most so long, until the far end has closed the connection. True without one.
     bool waitClosed(int milliseconds);
 
+    /// What has come behind the last whole line.
+    const QByteArray &rest() const { return m_input; }
     /// Whether a read so far ended inside a line: the plug-in would have lost that line.
     bool hasBrokenRead() const { return m_hasBrokenRead; }
 

@@ -26,7 +26,12 @@ Relay::Relay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject
     m_dropTimer.setInterval(DEATH_SHOWS_MS);
     m_dropTimer.setSingleShot(true);
     connect(&m_lookTimer, &QTimer::timeout, this, &Relay::look);
-    connect(&m_dropTimer, &QTimer::timeout, this, [this] { settleDrop("drop"); });
+    connect(&m_dropTimer, &QTimer::timeout, this, [this] {
+        // On a busy machine the news of a death may wait behind this timer: taking it in settles all.
+        if (!m_subject.isChild() || !m_subject.waitEnded(0)) {
+            settleDrop("drop");
+        }
+    });
     connect(&m_channel, &Channel::clientArrived, this, &Relay::clientArrives);
     connect(&m_channel, &Channel::clientGone, this, &Relay::clientGoes);
     connect(&m_channel, &Channel::bytesReceived, this, &Relay::passOn);
@@ -36,7 +41,7 @@ Relay::Relay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject
     });
     connect(&m_channel, &Channel::lineReceived, this, [this](const QByteArray &line) {
         m_quit = m_quit || line == QUIT_LINE;
-        m_writer.said(m_clock.elapsed(), line);
+        m_writer.said(m_heardTime, line);
     });
 }
 
@@ -135,6 +140,8 @@ void Relay::clientGoes()
 
 void Relay::passOn(const QByteArray &bytes)
 {
+    // Before the far end can count its own pauses from it: what is recorded is never shorter than they are.
+    m_heardTime = m_clock.elapsed();
     if (m_farEnd != nullptr) {
         m_farEnd->write(bytes);
         m_farEnd->flush();

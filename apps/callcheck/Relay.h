@@ -58,7 +58,8 @@ private:
     QTimer m_lookTimer;
     QTimer m_dropTimer;
     QElapsedTimer m_clock;
-    qint64 m_dropTime = 0; // of a closed connection whose reason is not known yet
+    qint64 m_heardTime = 0; // when the plug-in's latest bytes came
+    qint64 m_dropTime = 0;  // of a closed connection whose reason is not known yet
     int m_looksUnanswered = 0;
     bool m_wasOpen = false; // the server has been open before
     bool m_open = false;

@@ -1,10 +1,18 @@
 #include "callprocess/ScenarioWords.h"
 
+#include <algorithm>
+
 namespace {
 
 bool isBlank(char character)
 {
     return character == ' ' || character == '\t' || character == '\r';
+}
+
+bool isHexDigit(char character)
+{
+    return (character >= '0' && character <= '9') || (character >= 'a' && character <= 'f') ||
+           (character >= 'A' && character <= 'F');
 }
 
 class LineReader
@@ -95,15 +103,13 @@ private:
 
     char readHexByte()
     {
-        bool valid = false;
         const QByteArray digits = m_line.mid(m_position, 2);
-        const int value = digits.toInt(&valid, 16);
-        if (!valid || digits.size() != 2 || value < 0) {
+        if (digits.size() != 2 || !std::all_of(digits.begin(), digits.end(), isHexDigit)) {
             fail(QStringLiteral("\\x needs two hexadecimal digits"));
             return '\0';
         }
         m_position += 2;
-        return static_cast<char>(value);
+        return QByteArray::fromHex(digits).at(0);
     }
 
     void fail(const QString &text)

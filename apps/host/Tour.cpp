@@ -4,6 +4,8 @@
 #include "TourWatch.h"
 #include "WindowProbe.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QWidget>
 
 namespace {
@@ -12,6 +14,13 @@ constexpr int tickMs = 25;
 // Time for the window to be raised and for the compositor to paint it.
 constexpr int settleMs = 500;
 
+/// Whether it is a line of the call process or an event between host and plug-in. What they lead to may last for less
+/// than a tick.
+bool mayChangeWindows(const QEvent &event)
+{
+    return event.type() == QEvent::SockAct || event.type() == QEvent::User;
+}
+
 } // namespace
 
 Tour::Tour(TourWatch &watch, TourHand &hand, QList<TourStep> steps, const QString &strFolder)
@@ -19,6 +28,21 @@ Tour::Tour(TourWatch &watch, TourHand &hand, QList<TourStep> steps, const QStrin
 {
     connect(&m_timer, &QTimer::timeout, this, &Tour::tick);
     connect(&m_hand, &TourHand::done, this, &Tour::lookFor);
+    qApp->installEventFilter(this);
+}
+
+bool Tour::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!m_bLooking && mayChangeWindows(*event)) {
+        m_bLooking = true;
+        // Queued behind this event and before the next read of a socket.
+        const auto look = [this] {
+            m_bLooking = false;
+            lookFor();
+        };
+        QMetaObject::invokeMethod(this, look, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void Tour::start()

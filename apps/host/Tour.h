@@ -12,8 +12,8 @@ class QWidget;
 class TourHand;
 class TourWatch;
 
-/// How long the effects of a usual step may take, in milliseconds.
-inline constexpr int usualLimitMs = 15000;
+/// How long the effects of a usual step may take on a machine that is busy with other work, in milliseconds.
+inline constexpr int usualLimitMs = 60000;
 
 /// One thing that must be seen to happen in a step.
 struct TourCheck
@@ -55,6 +55,10 @@ signals:
     /// The tour is over; false when a step lacked an effect.
     void finished(bool bOk);
 
+protected:
+    /// Sees what may change a window.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     enum Phase
     {
@@ -84,5 +88,6 @@ private:
     Phase m_phase = Beginning;
     int m_iStep = 0;
     bool m_bActed = false;
+    bool m_bLooking = false; // will look once more, behind the event that is being dealt with
     QList<bool> m_seen;
 };

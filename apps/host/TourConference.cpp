@@ -16,8 +16,6 @@ namespace {
 
 using Steps = QList<TourStep>;
 
-constexpr int longLimitMs = 40000;
-
 /// A list with this one text, as it stands on the wire.
 QString only(const char *strUid)
 {
@@ -144,8 +142,7 @@ Steps invited(const TourScript &s)
                {u("Call Ivan Petrov, who rejects and invites to a conference of his own"),
                 s.pressContact(invites, "btnCall"),
                 {s.code(10, "rejected"), s.code(2, "invitation"), s.told(MSG_RECEVIE_VOIP_CALL, u("conference=yes")),
-                 s.prompted(u("Ivan Petrov"))},
-                longLimitMs},
+                 s.prompted(u("Ivan Petrov"))}},
                {u("Accept"),
                 s.pressPrompt("btnAccept"),
                 {s.command("AcceptConf"), s.promptGone(), s.code(18, "connected"),
@@ -154,7 +151,7 @@ Steps invited(const TourScript &s)
                 usualLimitMs,
                 u("conference-invited"),
                 s.callWindow()},
-               {u("Wait for Ivan Petrov to end it"), {}, {s.code(7, "ended"), s.windowGone()}, longLimitMs},
+               {u("Wait for Ivan Petrov to end it"), {}, {s.code(7, "ended"), s.windowGone()}},
            } +
            stored("Look into the user's store again", invites, {invites, ContactBook::ownUid(), answers});
 }

@@ -9,9 +9,9 @@
 namespace {
 
 // Calls of work() after which a move or a press is done once more that the program has not heard of: another window was
-// in front.
+// in front. A press that is only late on a busy machine would count twice.
 constexpr int patienceForMove = 2;
-constexpr int patienceForPress = 20;
+constexpr int patienceForPress = 200;
 
 } // namespace
 

@@ -82,7 +82,7 @@ Steps signIn(const TourScript &s, const TourStage &stage)
          s.pressMain("btnOnline"),
          {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=yes")), s.processes(1),
           s.command("RegeditUser", param1(ContactBook::ownId)), s.command("RegeditUser", u("\"param4\":false"))},
-         30000,
+         usualLimitMs,
          u("demo-window"),
          s.mainWindow()},
         {u("Ask the plug-in whether there is a call"),
@@ -190,9 +190,8 @@ Steps farEnd(const TourScript &s)
     return {
         {u("Call Anna Novak, who hangs up after a while"),
          s.pressContact(hangsUp, "btnCall"),
-         {s.code(18, "connected"), s.clockRuns(), s.code(8, "hung up by the other side"),
-          s.record(resultHungUp, true, true), s.windowGone()},
-         30000},
+         {s.code(18, "connected"), s.code(8, "hung up by the other side"), s.record(resultHungUp, true, true),
+          s.windowGone()}},
     };
 }
 
@@ -204,7 +203,7 @@ Steps callBack(const TourScript &s, const char *strTitle, const QString &strPict
               s.shows("lblUserName", u("韩梅梅(Calls you back)")), s.code(10, "rejected"),
               s.record(resultRejected, true, false), s.code(0, "incoming call"), s.told(MSG_RECEVIE_VOIP_CALL),
               s.prompted(u("韩梅梅"))},
-             20000,
+             usualLimitMs,
              strPicture,
              strPicture.isEmpty() ? TourScript::Window() : s.prompt()}};
 }
@@ -224,8 +223,7 @@ Steps incoming(const TourScript &s)
                 s.callWindow()},
                {u("Wait for the other side to hang up"),
                 {},
-                {s.code(8, "hung up by the other side"), s.record(resultHungUp, false, true), s.windowGone()},
-                40000},
+                {s.code(8, "hung up by the other side"), s.record(resultHungUp, false, true), s.windowGone()}},
            } +
            callBack(s, "Let the stranger call once more", QString()) +
            Steps{{u("Reject"),
@@ -269,7 +267,7 @@ Steps killed(const TourScript &s, const TourStage &stage)
                {u("Start the call process again: the plug-in finds it by itself and registers the user"),
                 [process = &stage.process] { return process->start(); },
                 {s.processes(1), s.command("RegeditUser", param1(ContactBook::ownId))},
-                60000},
+                2 * usualLimitMs},
            };
 }
 

@@ -1,6 +1,8 @@
 // The checker's replay, as the program that it is, against the stand-in and against call processes that do wrong.
 
 #include "callprocess/Wire.h"
+#include "fakes/FileBytes.h"
+#include "fakes/Patience.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,8 +12,6 @@
 #include <QtTest>
 
 namespace {
-
-constexpr int WAIT_MS = 60000;
 
 struct Outcome
 {
@@ -25,7 +25,7 @@ Outcome check(const QStringList &arguments)
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QStringLiteral(CALLCHECK_PROGRAM), arguments);
     // The test's own event loop may play the call process meanwhile.
-    const bool ended = QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, WAIT_MS);
+    const bool ended = QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, kPatienceMs);
     return {ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             QString::fromUtf8(process.readAll())};
 }
@@ -47,6 +47,16 @@ Outcome replayAgainst(const QByteArray &scenario, const QStringList &callProcess
 QStringList standIn(const QStringList &options = {"--speed", "100"})
 {
     return QStringList{QStringLiteral(VOIPSDK_PROGRAM)} + options;
+}
+
+/// Replays the recorded scenario against the stand-in that plays another one.
+Outcome replayAgainstPlayed(const QByteArray &recorded, const QByteArray &played)
+{
+    const QString path = QDir::current().filePath("played.scn");
+    if (!writeFile(path, played)) {
+        qFatal("cannot write %s", qPrintable(path));
+    }
+    return replayAgainst(recorded, standIn({"--scenario", path}));
 }
 
 QString readyScenario(const QString &name)
@@ -71,6 +81,12 @@ private slots:
     void whatIsNotAsRecordedIsTold();
     void lineInTwoReadsIsTold();
     void nothingMoreMayBeSaid();
+    void whatComesBehindTheLastLineIsTold_data();
+    void whatComesBehindTheLastLineIsTold();
+    void halfLineOfTheScenarioMayStandBehindTheLast();
+    void endThatIsNotAsRecordedIsTold_data();
+    void endThatIsNotAsRecordedIsTold();
+    void callProcessThatOutlivesQuitIsTold();
     void codeAfterQuitMustBeNought();
     void socketThatIsOpenToOthersIsTold();
     void callProcessThatNeverListensIsTold();
@@ -152,15 +168,81 @@ void tst_Replay::nothingMoreMayBeSaid()
     QVERIFY2(outcome.said.contains("expected nothing more, got 17 (SdkFlag) true"), qPrintable(outcome.said));
 }
 
+void tst_Replay::whatComesBehindTheLastLineIsTold_data()
+{
+    QTest::addColumn<QByteArray>("recorded");
+    QTest::addColumn<QByteArray>("more");
+    QTest::addColumn<QString>("told");
+    const QString half = "expected nothing more, got \"{\"resultCode\":1\"";
+    QTest::newRow("line") << QByteArray("send 17 true") << QByteArray("send 18")
+                          << QString("expected nothing more, got 18 (CallConnected)");
+    QTest::newRow("half a line") << QByteArray("send 17 true") << QByteArray("raw '{\"resultCode\":1'") << half;
+    QTest::newRow("half a line where lines come in pieces")
+        << QByteArray("split 10 1ms 17 true") << QByteArray("raw '{\"resultCode\":1'") << half;
+    QTest::newRow("log in two reads") << QByteArray("send 17 true") << QByteArray("split 10 1ms 999 text")
+                                      << QString("a line came in more than one read");
+}
+
+void tst_Replay::whatComesBehindTheLastLineIsTold()
+{
+    QFETCH(QByteArray, recorded);
+    QFETCH(QByteArray, more);
+    QFETCH(QString, told);
+    const QByteArray begin = "await RegeditUser\n" + recorded + '\n';
+    const Outcome outcome = replayAgainstPlayed(begin + "drop\nend\n", begin + more + "\ndrop\nend\n");
+    QCOMPARE(outcome.exitCode, 3);
+    QVERIFY2(outcome.said.contains(told), qPrintable(outcome.said));
+}
+
+void tst_Replay::halfLineOfTheScenarioMayStandBehindTheLast()
+{
+    const QByteArray scenario = "await RegeditUser\nsend 17 true\nraw '{\"resultCode\":1'\ndrop\nend\n";
+    const Outcome outcome = replayAgainstPlayed(scenario, scenario);
+    QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.said));
+}
+
+void tst_Replay::endThatIsNotAsRecordedIsTold_data()
+{
+    QTest::addColumn<QByteArray>("recorded");
+    QTest::addColumn<QByteArray>("played");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("end for a death") << QByteArray("die") << QByteArray("end")
+                                     << QString("expected the call process to die, it ended with code 0");
+    QTest::newRow("death for an end") << QByteArray("end") << QByteArray("die")
+                                      << QString("expected the call process to end with code 0, it ended with code 9");
+    QTest::newRow("lost connection") << QByteArray("send 18") << QByteArray("drop")
+                                     << QString("expected 18 (CallConnected), got the end of the connection");
+    QTest::newRow("server that stays closed")
+        << QByteArray("stop-listen\nrestart-listen") << QByteArray("stop-listen\nexpect HangUpCall")
+        << QString("run.scn:4: the call process does not listen again");
+}
+
+void tst_Replay::endThatIsNotAsRecordedIsTold()
+{
+    QFETCH(QByteArray, recorded);
+    QFETCH(QByteArray, played);
+    QFETCH(QString, told);
+    const QByteArray begin = "await RegeditUser\nsend 17 true\n";
+    const Outcome outcome = replayAgainstPlayed(begin + recorded + '\n', begin + played + '\n');
+    QCOMPARE(outcome.exitCode, 3);
+    QVERIFY2(outcome.said.contains(told), qPrintable(outcome.said));
+}
+
+void tst_Replay::callProcessThatOutlivesQuitIsTold()
+{
+    QLocalServer server;
+    server.setSocketOptions(QLocalServer::UserAccessOption);
+    QVERIFY(server.listen("stays"));
+    const Outcome outcome =
+        check({"replay", "--attach", "stays", "--patience", "0.1", scenarioFile("await RegeditUser\n")});
+    QCOMPARE(outcome.exitCode, 3);
+    QVERIFY2(outcome.said.contains("the call process has not ended 100 ms after quit"), qPrintable(outcome.said));
+}
+
 void tst_Replay::codeAfterQuitMustBeNought()
 {
-    const QString missed = QDir::current().filePath("missed.scn");
-    QFile file(missed);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("await RegeditUser\nsend 17 true\nexpect HangUpCall\n");
-    file.close();
-    const Outcome outcome =
-        replayAgainst("await RegeditUser\nsend 17 true\nexpect quit\n", standIn({"--scenario", missed}));
+    const Outcome outcome = replayAgainstPlayed("await RegeditUser\nsend 17 true\nexpect quit\n",
+                                                "await RegeditUser\nsend 17 true\nexpect HangUpCall\n");
     QCOMPARE(outcome.exitCode, 3);
     QVERIFY2(outcome.said.contains("expected code 0 after quit, the call process ended with code 3"),
              qPrintable(outcome.said));

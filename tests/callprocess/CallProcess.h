@@ -3,6 +3,8 @@
 // A running call process with a client at its socket, for tests: the child is the real executable, the socket the real
 // one under the test's temporary directory. Main thread; everything is bounded by `WAIT_MS`.
 
+#include "fakes/Patience.h"
+
 #include <QByteArray>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -15,7 +17,7 @@
 class CallProcess
 {
 public:
-    static constexpr int WAIT_MS = 20000;
+    static constexpr int WAIT_MS = kPatienceMs;
 
     CallProcess();
     /// Kills the child when it still runs.

@@ -13,6 +13,8 @@ private slots:
     void quotesAndEscapes();
     void contentMayHoldNul();
     void joinGathersItsLines();
+    void joinTakesNothingButSendAndRaw_data();
+    void joinTakesNothingButSendAndRaw();
     void blocksNest();
     void expectationMatching_data();
     void expectationMatching();
@@ -119,6 +121,40 @@ void tst_Scenario::joinGathersItsLines()
              notificationLine(18, {}) + "x" + notificationLine(8, QStringLiteral("y")));
 }
 
+void tst_Scenario::joinTakesNothingButSendAndRaw_data()
+{
+    QTest::addColumn<QByteArray>("statement");
+    const QList<QByteArray> statements{"expect CallUser",
+                                       "await UnReg",
+                                       "ignore SetMicEnable",
+                                       "expect-nothing 1s",
+                                       "timeout 1s",
+                                       "split 10 20ms 0",
+                                       "join {\nsend 18\n}",
+                                       "wait 1s",
+                                       "repeat 2 {\nsend 18\n}",
+                                       "await-client",
+                                       "await-gone",
+                                       "drop",
+                                       "stop-listen",
+                                       "restart-listen",
+                                       "die",
+                                       "end"};
+    QCOMPARE(statements.size() + 2, static_cast<int>(STATEMENTS.size()));
+    for (const QByteArray &statement : statements) {
+        QTest::newRow(statement.split(' ').constFirst().constData()) << statement;
+    }
+}
+
+void tst_Scenario::joinTakesNothingButSendAndRaw()
+{
+    QFETCH(QByteArray, statement);
+    QCOMPARE(good(statement + '\n').statements.size(), 1);
+    QString reason;
+    QVERIFY(!Scenario::parse(QStringLiteral("x.scn"), "join {\nsend 18\n" + statement + "\n}\n", &reason).has_value());
+    QCOMPARE(reason, QStringLiteral("x.scn:3: only \"send\" and \"raw\" can be joined"));
+}
+
 void tst_Scenario::blocksNest()
 {
     const Scenario scenario = good("repeat 2 {\n repeat 3 {\n  send 18\n }\n wait 1ms\n}\nend\n");
@@ -184,9 +220,14 @@ void tst_Scenario::faultsNameFileAndLine_data()
     row("unknown command", "expect HangupCall\n", "x.scn:1: unknown command \"HangupCall\"");
     row("unknown parameter", "expect CallUser param3=1\n", "x.scn:1: CallUser has no parameter \"param3=1\"");
     row("no parameter", "expect CallUser 30010001\n", "x.scn:1: CallUser has no parameter \"30010001\"");
+    row("parameter of quit", "expect quit param1=1\n", "x.scn:1: quit has no parameter \"param1=1\"");
+    row("parameter without a name", "expect CallUser =1\n", "x.scn:1: CallUser has no parameter \"=1\"");
+    row("unknown command ignored", "ignore UnReg HangupCall\n", "x.scn:1: unknown command \"HangupCall\"");
     row("quit ignored", "ignore quit\n", "x.scn:1: \"quit\" cannot be ignored");
     row("duration without a unit", "wait 5\n", "x.scn:1: bad duration \"5\": a number and ms or s");
     row("negative duration", "wait -5ms\n", "x.scn:1: bad duration \"-5ms\": a number and ms or s");
+    row("duration without a number", "wait ms\n", "x.scn:1: bad duration \"ms\": a number and ms or s");
+    row("duration beyond all timers", "wait 3000000s\n", "x.scn:1: bad duration \"3000000s\": a number and ms or s");
     row("endless duration", "wait infs\n", "x.scn:1: bad duration \"infs\": a number and ms or s");
     row("split behind the end", "split 40 1ms 18\n", "x.scn:1: the line has only 31 bytes");
     row("split at the end", "split 31 1ms 18\n", "x.scn:1: the line has only 31 bytes");
@@ -196,12 +237,19 @@ void tst_Scenario::faultsNameFileAndLine_data()
     row("block where none is", "wait 1s {\n", "x.scn:1: \"wait\" has no block");
     row("block not closed", "end\njoin {\nsend 18\n", "x.scn:2: the block of \"join\" is not closed");
     row("block empty", "end\nrepeat 2 {\n}\n", "x.scn:2: the block of \"repeat\" is empty");
+    row("block not closed by a quoted brace", "repeat 2 {\nsend 18\n\"}\"\n", "x.scn:3: unknown statement \"}\"");
+    row("block not opened by a quoted brace", "repeat 2 '{'\n",
+        "x.scn:1: \"repeat\" needs a block: \"{\" at the end of its line");
     row("closed too often", "end\n}\n", "x.scn:2: unknown statement \"}\"");
-    row("wait in a join", "join {\nsend 18\nwait 1s\n}\n", "x.scn:3: only \"send\" and \"raw\" can be joined");
     row("open quote", "raw \"abc\n", "x.scn:1: a quote is not closed");
     row("behind a quote", "raw \"abc\"d\n", "x.scn:1: text right behind a closing quote");
     row("unknown escape", "raw \"\\q\"\n", "x.scn:1: unknown escape in a quoted text");
     row("half an escape", "raw \"\\xF\"\n", "x.scn:1: \\x needs two hexadecimal digits");
+    row("escape with a minus", "raw \"\\x-1\"\n", "x.scn:1: \\x needs two hexadecimal digits");
+    row("escape with a plus", "raw \"\\x+1\"\n", "x.scn:1: \\x needs two hexadecimal digits");
+    row("escape with a blank", "raw \"\\x 1\"\n", "x.scn:1: \\x needs two hexadecimal digits");
+    row("escape at the end of the line", "raw \"\\x4\n", "x.scn:1: \\x needs two hexadecimal digits");
+    row("backslash at the end of the line", "raw \"\\\n", "x.scn:1: unknown escape in a quoted text");
     QTest::newRow("too deep") << QByteArray("repeat 2 {\n").repeated(30)
                               << QStringLiteral("x.scn:21: blocks are nested too deep");
 }

@@ -1,5 +1,7 @@
 #include "fakes/FakeCallProcess.h"
 
+#include "fakes/Patience.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -7,7 +9,6 @@
 
 namespace {
 
-constexpr int kPatienceMs = 10000;
 const QByteArray kEndMark = "end of what was written\n";
 
 QString compact(const QJsonValue &value)

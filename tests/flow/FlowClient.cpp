@@ -1,6 +1,7 @@
 #include "flow/FlowClient.h"
 
 #include "fakes/ClickTarget.h"
+#include "fakes/Patience.h"
 #include "plugin/PluginIds.h"
 #include "plugin/PluginInterface.h"
 
@@ -60,7 +61,7 @@ bool FlowClient::goOnline()
 {
     const int before = countOnWire(QStringLiteral("RegeditUser"));
     command(MSG_CLIENT_CONNECT_STATUS, true);
-    return QTest::qWaitFor([&] { return countOnWire(QStringLiteral("RegeditUser")) > before; }, 15000);
+    return QTest::qWaitFor([&] { return countOnWire(QStringLiteral("RegeditUser")) > before; }, kPatienceMs);
 }
 
 QStringList FlowClient::commandsOnWire() const
@@ -96,14 +97,15 @@ bool FlowClient::callProcessLives() const
 bool FlowClient::killCallProcess()
 {
     ::kill(static_cast<pid_t>(callProcessId()), SIGKILL);
-    return QTest::qWaitFor([this] { return !callProcessLives(); });
+    return QTest::qWaitFor([this] { return !callProcessLives(); }, kPatienceMs);
 }
 
 bool FlowClient::startCallProcess()
 {
     const qint64 before = callProcessId();
     const QString program = QCoreApplication::applicationDirPath() + QStringLiteral("/VoipSDK/Contents/MacOS/VoipSDK");
-    return QProcess::startDetached(program, {}) && QTest::qWaitFor([&] { return callProcessId() != before; });
+    return QProcess::startDetached(program, {}) &&
+           QTest::qWaitFor([&] { return callProcessId() != before; }, kPatienceMs);
 }
 
 QWidget *FlowClient::callWindow() const

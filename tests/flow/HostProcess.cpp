@@ -1,5 +1,7 @@
 #include "flow/HostProcess.h"
 
+#include "fakes/Patience.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
@@ -12,8 +14,6 @@
 #include <QtTest>
 
 namespace {
-
-constexpr int kPatienceMs = 30000;
 
 QString program(const QString &strName)
 {

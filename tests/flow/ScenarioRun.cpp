@@ -1,6 +1,7 @@
 #include "flow/ScenarioRun.h"
 
 #include "fakes/ClickTarget.h"
+#include "fakes/Patience.h"
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
@@ -25,7 +26,7 @@ constexpr int kWhole = -1;
 
 bool patiently(const std::function<bool()> &condition)
 {
-    return QTest::qWaitFor(condition, 15000);
+    return QTest::qWaitFor(condition, kPatienceMs);
 }
 
 /// A folder below the test's own temporary directory, as that was before any run took its place.

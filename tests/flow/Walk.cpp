@@ -1,5 +1,6 @@
 #include "flow/Walk.h"
 
+#include "fakes/Patience.h"
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/VoipWidget.h"
@@ -251,7 +252,7 @@ void Walk::loseOrFindChannel()
     if (model.channelUp) {
         last = "lose the channel";
         engine.process.dropClient();
-        model.channelUp = manager().m_pVoipSocket && !manager().m_pVoipSocket->waitForDisconnected(10000);
+        model.channelUp = manager().m_pVoipSocket && !manager().m_pVoipSocket->waitForDisconnected(kPatienceMs);
         holdReconnection();
     } else {
         last = "find the channel";

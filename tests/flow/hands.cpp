@@ -2,6 +2,7 @@
 // runs below and ends with 0 when all of it had its effect. The call process is the one that stands beside this
 // program.
 
+#include "fakes/Patience.h"
 #include "flow/FlowClient.h"
 
 #include <QApplication>
@@ -12,8 +13,6 @@
 #include <functional>
 
 namespace {
-
-constexpr int kPatienceMs = 20000;
 
 bool waitFor(const std::function<bool()> &condition)
 {

@@ -2,6 +2,7 @@
 // host nothing; the user's hang-up ends what there was; another call process is found, gets the registration again and
 // takes the next call.
 
+#include "fakes/Patience.h"
 #include "flow/CallModel.h"
 #include "flow/ScenarioRows.h"
 #include "ui/VoipWidget.h"
@@ -120,7 +121,7 @@ void tst_KilledAtEveryStep::killedAtStep()
     if (QTest::currentTestFailed())
         return;
 
-    QVERIFY(QTest::qWaitFor([&] { return run.hasReadAll(); }));
+    QVERIFY(QTest::qWaitFor([&] { return run.hasReadAll(); }, kPatienceMs));
     run.engine.takeJournal();
     const QString call = run.engine.callText();
     const QString state = run.engine.state();

@@ -1,6 +1,7 @@
 // The call process is killed in every state of a call, and another one is started: nothing ends by itself, nothing
 // hangs, and the user is registered again.
 
+#include "fakes/Patience.h"
 #include "fakes/QtMessages.h"
 #include "flow/FlowClient.h"
 
@@ -52,7 +53,7 @@ void tst_LostCallProcess::init()
 void tst_LostCallProcess::cleanupTestCase()
 {
     m_client.command(MSG_EXIT_VOIP);
-    QTRY_VERIFY_WITH_TIMEOUT(!m_client.callProcessLives(), 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_client.callProcessLives(), kPatienceMs);
 }
 
 bool tst_LostCallProcess::enter(State state)
@@ -67,7 +68,8 @@ bool tst_LostCallProcess::enter(State state)
         return waitForIncoming();
     case Connected:
         m_client.command(MSG_CALL_SINGLE_USER, false, QStringLiteral("30010001"));
-        return QTest::qWaitFor([&] { return m_client.callWindowText("lblStatus") == QStringLiteral("已接通"); }, 15000);
+        return QTest::qWaitFor([&] { return m_client.callWindowText("lblStatus") == QStringLiteral("已接通"); },
+                               kPatienceMs);
     }
     return false;
 }
@@ -75,7 +77,8 @@ bool tst_LostCallProcess::enter(State state)
 bool tst_LostCallProcess::waitForIncoming()
 {
     m_client.command(MSG_CALL_SINGLE_USER, false, QStringLiteral("30010007"));
-    const bool rings = QTest::qWaitFor([&] { return !m_client.host.received(MSG_RECEVIE_VOIP_CALL).isEmpty(); }, 15000);
+    const bool rings =
+        QTest::qWaitFor([&] { return !m_client.host.received(MSG_RECEVIE_VOIP_CALL).isEmpty(); }, kPatienceMs);
     m_client.host.events.clear();
     return rings;
 }
@@ -100,7 +103,7 @@ void tst_LostCallProcess::killedInEveryState()
     const QtMessages messages;
     QVERIFY(m_client.killCallProcess());
     // The engine writes the socket's error to the debug log once it has seen the loss.
-    QTRY_VERIFY(messages.debugLines.contains(QString::number(QLocalSocket::PeerClosedError)));
+    QTRY_VERIFY_WITH_TIMEOUT(messages.debugLines.contains(QString::number(QLocalSocket::PeerClosedError)), kPatienceMs);
     QCOMPARE(m_client.ask(MSG_IS_EXIST_CALL), state != Idle);
     QCOMPARE(m_client.callWindow()->isVisible(), visible);
     QVERIFY2(m_client.host.received(MSG_CALL_FINISHED).isEmpty(), "the loss ends nothing by itself");
@@ -124,13 +127,13 @@ void tst_LostCallProcess::restartedDuringACallTheCallGoesOn()
     QVERIFY(m_client.killCallProcess());
     const int registrations = m_client.countOnWire(QStringLiteral("RegeditUser"));
     QVERIFY(m_client.startCallProcess());
-    QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("RegeditUser")), registrations + 1, 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("RegeditUser")), registrations + 1, kPatienceMs);
     QVERIFY2(m_client.ask(MSG_IS_EXIST_CALL), "the call is neither told nor changed");
     QVERIFY(m_client.callWindow()->isVisible());
 
     QTest::mouseClick(m_client.callWindowButton("HangUp"), Qt::LeftButton);
     QCOMPARE(CallRecord(m_client.host.received(MSG_CALL_FINISHED).constFirst()).iResult, 24);
-    QTRY_COMPARE(m_client.countOnWire(QStringLiteral("HangUpCall")), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("HangUpCall")), 1, kPatienceMs);
 }
 
 #include "support/TestProgram.h"

@@ -1,6 +1,7 @@
 // Whole calls, from the host's event to the record that it gets back: the built module, a real call process full of
 // robots, real clicks on the call window.
 
+#include "fakes/Patience.h"
 #include "flow/FlowClient.h"
 
 #include <QAbstractButton>
@@ -73,7 +74,7 @@ void tst_ModuleCalls::call(const QString &uid, bool video)
 
 bool tst_ModuleCalls::waitForRecord(int count)
 {
-    return QTest::qWaitFor([&] { return m_client.host.received(MSG_CALL_FINISHED).size() >= count; }, 15000);
+    return QTest::qWaitFor([&] { return m_client.host.received(MSG_CALL_FINISHED).size() >= count; }, kPatienceMs);
 }
 
 /// Lets the robot that calls back do so.
@@ -81,7 +82,7 @@ bool tst_ModuleCalls::waitForIncoming()
 {
     call(kCallsBack);
     return waitForRecord() &&
-           QTest::qWaitFor([&] { return !m_client.host.received(MSG_RECEVIE_VOIP_CALL).isEmpty(); }, 15000);
+           QTest::qWaitFor([&] { return !m_client.host.received(MSG_RECEVIE_VOIP_CALL).isEmpty(); }, kPatienceMs);
 }
 
 void tst_ModuleCalls::firstCommandStartsTheCallProcessAndTheUserIsRegistered()
@@ -129,9 +130,10 @@ void tst_ModuleCalls::answeredCallRunsUntilTheUserHangsUp()
 {
     call(kAnswers);
     QCOMPARE(m_client.callWindowText("lblStatus"), QStringLiteral("正在呼叫..."));
-    QTRY_COMPARE_WITH_TIMEOUT(m_client.callWindowText("lblStatus"), QStringLiteral("已接通"), 15000);
+    QTRY_COMPARE_WITH_TIMEOUT(m_client.callWindowText("lblStatus"), QStringLiteral("已接通"), kPatienceMs);
     // A whole second by the window's clock may be a little less by the record's, two are one in any case.
-    QTRY_VERIFY_WITH_TIMEOUT(m_client.callWindowText("currentPlayTimeLabel") >= QStringLiteral("00:00:02"), 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(m_client.callWindowText("currentPlayTimeLabel") >= QStringLiteral("00:00:02"),
+                             kPatienceMs);
 
     const int hangUps = m_client.countOnWire(QStringLiteral("HangUpCall"));
     QTest::mouseClick(m_client.callWindowButton("HangUp"), Qt::LeftButton);
@@ -139,7 +141,7 @@ void tst_ModuleCalls::answeredCallRunsUntilTheUserHangsUp()
     QCOMPARE(lastRecord().iResult, 24);
     QVERIFY(lastRecord().bIsConnected);
     QVERIFY(lastRecord().iSeconds >= 1);
-    QTRY_COMPARE(m_client.countOnWire(QStringLiteral("HangUpCall")), hangUps + 1);
+    QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("HangUpCall")), hangUps + 1, kPatienceMs);
 }
 
 void tst_ModuleCalls::ringingCallIsCancelledByTheUser()
@@ -170,7 +172,7 @@ void tst_ModuleCalls::incomingCallIsAcceptedAndEndedByTheCaller()
 
     m_client.command(MSG_RESPONSE_VOIP_REQUEST, true);
     QVERIFY(m_client.callWindow()->isVisible());
-    QTRY_COMPARE_WITH_TIMEOUT(m_client.callWindowText("lblStatus"), QStringLiteral("已接通"), 15000);
+    QTRY_COMPARE_WITH_TIMEOUT(m_client.callWindowText("lblStatus"), QStringLiteral("已接通"), kPatienceMs);
     QVERIFY(waitForRecord(2));
     QCOMPARE(lastRecord().iResult, 24);
     QVERIFY(!lastRecord().bIsCaller);
@@ -184,7 +186,7 @@ void tst_ModuleCalls::incomingCallIsRejected()
     m_client.command(MSG_RESPONSE_VOIP_REQUEST, false);
     QCOMPARE(m_client.host.received(MSG_CALL_FINISHED).size(), 2);
     QCOMPARE(lastRecord().iResult, 26);
-    QTRY_COMPARE(m_client.countOnWire(QStringLiteral("RejectCall")), rejects + 1);
+    QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("RejectCall")), rejects + 1, kPatienceMs);
     QVERIFY(!m_client.callWindow()->isVisible());
 }
 
@@ -193,7 +195,7 @@ void tst_ModuleCalls::goingOfflineHangsUpAndUnregisters()
     call(kNever);
     m_client.command(MSG_CLIENT_CONNECT_STATUS, false);
     QCOMPARE(lastRecord().iResult, 21);
-    QTRY_COMPARE(m_client.commandsOnWire().constLast(), QStringLiteral("UnReg"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_client.commandsOnWire().constLast(), QStringLiteral("UnReg"), kPatienceMs);
     QVERIFY(m_client.goOnline());
 }
 
@@ -202,11 +204,11 @@ void tst_ModuleCalls::conferenceIsStartedAndLeft()
     m_client.command(MSG_CALL_CONFERENCE, QStringList{kAnswers, kNever}, QStringLiteral("title"), true);
     QVERIFY(m_client.ask(MSG_IS_EXIST_CALL));
     QVERIFY(m_client.callWindow()->isVisible());
-    QTRY_VERIFY_WITH_TIMEOUT(m_client.codesOnWire().contains(12), 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(m_client.codesOnWire().contains(12), kPatienceMs);
     const int hangUps = m_client.countOnWire(QStringLiteral("HangupConf"));
     m_client.callWindow()->close();
     QVERIFY(!m_client.ask(MSG_IS_EXIST_CALL));
-    QTRY_COMPARE(m_client.countOnWire(QStringLiteral("HangupConf")), hangUps + 1);
+    QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("HangupConf")), hangUps + 1, kPatienceMs);
     QVERIFY2(m_client.host.received(MSG_CALL_FINISHED).isEmpty(), "a conference leaves no call record at the host");
 }
 
@@ -214,7 +216,7 @@ void tst_ModuleCalls::exitEndsTheCallProcess()
 {
     QVERIFY(m_client.callProcessLives());
     m_client.command(MSG_EXIT_VOIP);
-    QTRY_VERIFY_WITH_TIMEOUT(!m_client.callProcessLives(), 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_client.callProcessLives(), kPatienceMs);
 }
 
 #include "support/TestProgram.h"

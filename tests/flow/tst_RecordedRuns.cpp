@@ -3,6 +3,7 @@
 
 #include "callcheck/CheckOptions.h"
 #include "fakes/FileBytes.h"
+#include "fakes/Patience.h"
 #include "flow/CallTrace.h"
 
 #include <QDir>
@@ -11,8 +12,6 @@
 #include <QtTest>
 
 namespace {
-
-constexpr int kPatienceMs = 90000;
 
 struct Outcome
 {
@@ -84,7 +83,8 @@ QString tst_RecordedRuns::record(const QString &strRun)
         return {};
     }
     // The recorder sees the end of its call process a moment after the client does.
-    return QTest::qWaitFor([&] { return readBytes(scenario).endsWith("expect quit\n"); }) ? scenario : QString();
+    return QTest::qWaitFor([&] { return readBytes(scenario).endsWith("expect quit\n"); }, kPatienceMs) ? scenario
+                                                                                                       : QString();
 }
 
 /// Lets the stand-in play the scenario to the module, with the same hands.

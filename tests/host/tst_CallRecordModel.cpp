@@ -54,6 +54,9 @@ void tst_CallRecordModel::durationIsMinutesAndSeconds_data()
     QTest::newRow("seconds") << qint64(9) << QStringLiteral("0:09");
     QTest::newRow("minutes") << qint64(754) << QStringLiteral("12:34");
     QTest::newRow("just below an hour") << qint64(3599) << QStringLiteral("59:59");
+    QTest::newRow("one hour") << qint64(3600) << QStringLiteral("1:00:00");
+    QTest::newRow("one minute") << qint64(60) << QStringLiteral("1:00");
+    QTest::newRow("longer than a day") << qint64(100 * 3600) << QStringLiteral("100:00:00");
     QTest::newRow("hours") << qint64(3600 + 62) << QStringLiteral("1:01:02");
     QTest::newRow("a clock set back") << qint64(-5) << QStringLiteral("0:00");
 }

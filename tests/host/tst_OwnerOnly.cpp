@@ -2,6 +2,7 @@
 // the settings, the trace. Looked at by file modes, and, where the tests run as root, by the real attempts of another
 // user.
 
+#include "fakes/Patience.h"
 #include "model/SystemSetData.h"
 
 #include <QCoreApplication>
@@ -135,7 +136,7 @@ void tst_OwnerOnly::initTestCase()
                 QFile trace(m_strTrace);
                 return trace.open(QIODevice::ReadOnly) && trace.readAll().contains("RegeditUser");
             }(),
-        30000);
+        kPatienceMs);
 }
 
 void tst_OwnerOnly::cleanupTestCase()

@@ -39,6 +39,9 @@ private slots:
     void dataFolderIsForTheNextStart();
     void folderThatCannotBeUsedIsToldAndNotTaken_data();
     void folderThatCannotBeUsedIsToldAndNotTaken();
+    void folderErrorIsGoneWhenThePageOpensAgain_data();
+    void folderErrorIsGoneWhenThePageOpensAgain();
+    void folderErrorGoesWithAGoodFolderAndWithTheLanguage();
     void browsingTakesTheFolder();
     void languageChangesTheOpenWindows_data();
     void languageChangesTheOpenWindows();
@@ -209,6 +212,46 @@ void tst_SettingsPage::folderThatCannotBeUsedIsToldAndNotTaken()
     QCOMPARE(HostSettings::dataFolder(), data);
     type("editReceiveFolder", receive);
     QVERIFY(part<QLabel>("lblFolderError")->text().isEmpty());
+}
+
+void tst_SettingsPage::folderErrorIsGoneWhenThePageOpensAgain_data()
+{
+    QTest::addColumn<QByteArray>("edit");
+    QTest::newRow("data") << QByteArray("editDataFolder");
+    QTest::newRow("received files") << QByteArray("editReceiveFolder");
+}
+
+void tst_SettingsPage::folderErrorIsGoneWhenThePageOpensAgain()
+{
+    QFETCH(QByteArray, edit);
+    SettingsPage &page = m_pWindow->settingsPage();
+    const QString folder = part<QLineEdit>(edit)->text();
+    for (const bool bClosed : {true, false}) {
+        type(edit, QStringLiteral("somewhere"));
+        QVERIFY(WindowProbe::text(&page, "lblFolderError").contains(QStringLiteral("somewhere")));
+        if (bClosed) {
+            QTest::keyClick(&page, Qt::Key_Escape);
+            QVERIFY(!page.isVisible());
+        }
+        QVERIFY(pressButton(m_pWindow.get(), "btnSettings"));
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+        QCOMPARE(part<QLabel>("lblFolderError")->text(), QString());
+        QCOMPARE(part<QLineEdit>(edit)->text(), folder);
+    }
+}
+
+void tst_SettingsPage::folderErrorGoesWithAGoodFolderAndWithTheLanguage()
+{
+    type("editReceiveFolder", QStringLiteral("somewhere"));
+    QVERIFY(!part<QLabel>("lblFolderError")->text().isEmpty());
+    type("editReceiveFolder", QDir::current().absoluteFilePath(QStringLiteral("good")));
+    QCOMPARE(part<QLabel>("lblFolderError")->text(), QString());
+    type("editReceiveFolder", QStringLiteral("somewhere"));
+    QVERIFY(!part<QLabel>("lblFolderError")->text().isEmpty());
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(&m_pWindow->settingsPage(), &change);
+    QCOMPARE(part<QLabel>("lblFolderError")->text(), QString());
+    QCOMPARE(part<QLineEdit>("editReceiveFolder")->text(), QDir::current().absoluteFilePath(QStringLiteral("good")));
 }
 
 void tst_SettingsPage::browsingTakesTheFolder()

@@ -1,5 +1,7 @@
 #include "WireTrace.h"
 
+#include "fakes/Patience.h"
+
 #include <QDir>
 #include <QImage>
 #include <QProcess>
@@ -55,6 +57,8 @@ void tst_Tour::everyStepHasItsEffect()
     QVERIFY2(demo.exitStatus() == QProcess::NormalExit && demo.exitCode() == 0, words.right(900).constData());
     QVERIFY2(!words.contains("MISS"), words.right(900).constData());
     QVERIFY(words.contains("steps had their effect"));
+    // Closing the window quits, and so does the end of the program behind it.
+    QCOMPARE(words.count("4763 quit"), 1);
 }
 
 void tst_Tour::pictureOfEveryWindowIsTaken()
@@ -114,12 +118,12 @@ void tst_Tour::endedByASignalItEndsTheCallProcess()
     QProcess demo;
     demo.setProcessEnvironment(m_environment);
     demo.start(m_strDemo, QStringList());
-    QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::FromPlugin, QStringLiteral("RegeditUser")), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::FromPlugin, QStringLiteral("RegeditUser")), kPatienceMs);
     demo.terminate();
-    QVERIFY(demo.waitForFinished(60000));
+    QVERIFY(demo.waitForFinished(kPatienceMs));
     QCOMPARE(demo.exitStatus(), QProcess::NormalExit);
     QCOMPARE(demo.exitCode(), 130);
-    QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::Event, QStringLiteral("stopped listening")), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::Event, QStringLiteral("stopped listening")), kPatienceMs);
     QVERIFY(isTraced(trace, WireLine::FromPlugin, QStringLiteral("quit")));
 }
 
@@ -130,7 +134,7 @@ void tst_Tour::withoutTheModuleTheClientSaysSoAndEnds()
     QProcess demo;
     demo.setProcessEnvironment(m_environment);
     demo.start(lonely, {QStringLiteral("--tour"), QStringLiteral("tour-without")});
-    QVERIFY(demo.waitForFinished(60000));
+    QVERIFY(demo.waitForFinished(kPatienceMs));
     QCOMPARE(demo.exitCode(), 1);
     QVERIFY(demo.readAllStandardError().contains("libVoipManage.so"));
 }

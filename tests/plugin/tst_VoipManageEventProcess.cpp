@@ -283,6 +283,8 @@ void tst_VoipManageEventProcess::unansweredFriendIsADefaultRecord_data()
     QTest::addColumn<QString>("asked");
     QTest::addColumn<QByteArray>("answer");
     QTest::newRow("unchanged") << jid << packPayload(jid);
+    // Two characters fill as many bytes as an address.
+    QTest::newRow("unchanged, as long as an address") << QStringLiteral("ab") << packPayload(QStringLiteral("ab"));
     QTest::newRow("unchanged null jid") << QString() << packPayload(QString());
     QTest::newRow("unchanged long jid") << QString(100, QLatin1Char('x'))
                                         << packPayload(QString(100, QLatin1Char('x')));

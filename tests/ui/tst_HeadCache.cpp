@@ -1,7 +1,12 @@
 #include "ui/HeadCache.h"
 
+#include "common/PictureFile.h"
+
+#include <QDateTime>
 #include <QFile>
 #include <QTest>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -10,7 +15,8 @@ int s_iDrawn = 0;
 QPixmap drawTest(const QString &strPath, int iSide)
 {
     ++s_iDrawn;
-    const QPixmap picture(strPath);
+    // Not by the path: Qt keeps such a picture by its modification time alone.
+    const QPixmap picture = readPictureFile(strPath);
     return picture.isNull() ? picture : picture.scaled(iSide, iSide);
 }
 
@@ -19,6 +25,25 @@ void writePicture(const QString &strPath, const QColor &color, int iSide = 8)
     QPixmap picture(iSide, iSide);
     picture.fill(color);
     QVERIFY(picture.save(strPath));
+}
+
+void setModified(const QString &strPath, const QDateTime &time)
+{
+    QFile file(strPath);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
+}
+
+struct stat stateOf(const QString &strPath)
+{
+    struct stat state = {};
+    stat(QFile::encodeName(strPath).constData(), &state);
+    return state;
+}
+
+bool isSameTime(const timespec &one, const timespec &other)
+{
+    return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
 }
 
 } // namespace
@@ -78,10 +103,26 @@ private slots:
         cache.picture(m_strPath, 22, 1.0);
         writePicture(m_strPath, Qt::blue);
         QCOMPARE(QFile(m_strPath).size(), iSize);
-        QFile file(m_strPath);
-        QVERIFY(file.open(QIODevice::ReadWrite));
-        QVERIFY(file.setFileTime(QDateTime::currentDateTimeUtc().addSecs(5), QFileDevice::FileModificationTime));
-        file.close();
+        setModified(m_strPath, QDateTime::currentDateTimeUtc().addSecs(5));
+        QCOMPARE(middle(cache.picture(m_strPath, 22, 1.0)), QColor(Qt::blue));
+    }
+
+    // As a copy that keeps the file's times leaves it.
+    void fileOfTheSameSizeAndTimeShowsByItsChange()
+    {
+        const QDateTime time(QDate(2024, 5, 3), QTime(9, 8, 7), Qt::UTC);
+        writePicture(m_strPath, Qt::red);
+        setModified(m_strPath, time);
+        const struct stat before = stateOf(m_strPath);
+        HeadCache cache(&drawTest);
+        cache.picture(m_strPath, 22, 1.0);
+        // The file system's clock ticks every few milliseconds.
+        do {
+            writePicture(m_strPath, Qt::blue);
+            setModified(m_strPath, time);
+        } while (isSameTime(stateOf(m_strPath).st_ctim, before.st_ctim));
+        QVERIFY(isSameTime(stateOf(m_strPath).st_mtim, before.st_mtim));
+        QCOMPARE(stateOf(m_strPath).st_size, before.st_size);
         QCOMPARE(middle(cache.picture(m_strPath, 22, 1.0)), QColor(Qt::blue));
     }
 
@@ -138,6 +179,33 @@ private slots:
         cache.picture(m_strPath, 1004, 1.0);
         QCOMPARE(s_iDrawn, 5);
         cache.picture(m_strPath, 1000, 1.0);
+        QCOMPARE(s_iDrawn, 6);
+    }
+
+    void cacheOfManyHeadsWithoutAPictureStartsAnew()
+    {
+        HeadCache cache(&drawTest);
+        for (int iHead = 0; iHead < 4096; ++iHead)
+            cache.picture(QStringLiteral(":/no/%1").arg(iHead), 22, 1.0);
+        cache.picture(QStringLiteral(":/no/0"), 22, 1.0);
+        QCOMPARE(s_iDrawn, 4096);
+        cache.picture(QStringLiteral(":/no/4096"), 22, 1.0);
+        cache.picture(QStringLiteral(":/no/0"), 22, 1.0);
+        QCOMPARE(s_iDrawn, 4098);
+    }
+
+    void pictureThatIsDrawnAgainTakesThePlaceOfTheFirst()
+    {
+        const QString strOther = QStringLiteral(":/no/such/picture.png");
+        HeadCache cache(&drawTest);
+        cache.picture(strOther, 22, 1.0);
+        // Five times four million bytes, of which one is kept.
+        for (int iRound = 0; iRound < 5; ++iRound) {
+            writePicture(m_strPath, Qt::red, 8 + iRound);
+            cache.picture(m_strPath, 1000, 1.0);
+        }
+        QCOMPARE(s_iDrawn, 6);
+        cache.picture(strOther, 22, 1.0);
         QCOMPARE(s_iDrawn, 6);
     }
 };

@@ -36,6 +36,8 @@ private slots:
     void wideLabelBreaksItsLines();
     void messageWithoutRoomIsWholeInItsTip_data();
     void messageWithoutRoomIsWholeInItsTip();
+    void dialogUsedAgainHasTheTipOfItsOwnMessage();
+    void dialogUsedAgainHasTheButtonsOfItsOwnMode();
     void hotKeyPageHasItsWords_data();
     void hotKeyPageHasItsWords();
     void unknownHotKeyTypeLeavesThePage();
@@ -263,6 +265,57 @@ void tst_ErrorMessageModes::messageWithoutRoomIsWholeInItsTip()
     whenShown(dialog, [] {});
     dialog.getMsgShow(QStringLiteral("Title"), message);
     QCOMPARE(part<QLabel>(dialog, "msgLabel")->toolTip(), fits ? QString() : message);
+}
+
+void tst_ErrorMessageModes::dialogUsedAgainHasTheTipOfItsOwnMessage()
+{
+    const QString strLong = QStringLiteral("Text\n").repeated(12);
+    const QString strOther = QStringLiteral("Other\n").repeated(12);
+    ErrorMessage dialog(QString(), QString(), nullptr);
+    const auto *pLabel = part<QLabel>(dialog, "msgLabel");
+    const auto show = [&](const QString &strMessage) {
+        whenShown(dialog, [] {});
+        dialog.getMsgShow(QStringLiteral("Title"), strMessage);
+        return pLabel->toolTip();
+    };
+    QCOMPARE(show(strLong), strLong);
+    QCOMPARE(show(strOther), strOther);
+    QCOMPARE(show(QStringLiteral("Text")), QString());
+    QCOMPARE(show(strLong), strLong);
+    whenShown(dialog, [] {});
+    dialog.chooseMsgShow(QStringLiteral("Title"), QStringLiteral("Text"));
+    QCOMPARE(pLabel->toolTip(), QString());
+    QCOMPARE(show(strLong), strLong);
+    whenShown(dialog, [] {});
+    dialog.messagelogTip();
+    QCOMPARE(pLabel->toolTip(), QString());
+}
+
+void tst_ErrorMessageModes::dialogUsedAgainHasTheButtonsOfItsOwnMode()
+{
+    ErrorMessage dialog(QStringLiteral("Yes"), QStringLiteral("No"), nullptr);
+    const QString strText = QStringLiteral("Text");
+    const auto acceptShown = [&](const Mode &mode) {
+        bool bShown = false;
+        whenShown(dialog, [&] {
+            bShown = button(dialog, "acceptBtn")->isVisible();
+            QCOMPARE(inner(dialog, "acceptBtn")->isDefault(), bShown);
+            QCOMPARE(inner(dialog, "closeBtn")->isDefault(), !bShown);
+        });
+        mode.run(dialog);
+        return bShown;
+    };
+    const Mode message{[strText](ErrorMessage &d) { d.getMsgShow(strText, strText); }, true};
+    const QList<Mode> questions{
+        {[strText](ErrorMessage &d) { d.chooseMsgShow(strText, strText); }, true},
+        {[strText](ErrorMessage &d) { d.lineEditShow(strText, strText); }, true},
+        {[strText](ErrorMessage &d) { d.modifyShow(strText); }, true},
+        {[strText](ErrorMessage &d) { d.addLabelToFriend(strText); }, true},
+    };
+    for (const Mode &question : questions) {
+        QVERIFY(!acceptShown(message));
+        QVERIFY(acceptShown(question));
+    }
 }
 
 #include "support/TestProgram.h"

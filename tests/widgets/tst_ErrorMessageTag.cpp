@@ -18,6 +18,7 @@ private slots:
     void tagTakesSevenWideOrFourteenNarrow();
     void acceptingABlankTagKeepsTheDialogOpen();
     void typingAfterTheErrorHidesItOnlyWhenBlank();
+    void dialogUsedAgainShowsNoOldError();
     void pasteIntoTheTagLeavesTheLastCharacterThatFits_data();
     void pasteIntoTheTagLeavesTheLastCharacterThatFits();
     void pasteFromAButtonWorksInTagMode();
@@ -95,6 +96,22 @@ void tst_ErrorMessageTag::typingAfterTheErrorHidesItOnlyWhenBlank()
     });
     dialog.addLabelToFriend(QStringLiteral("Title"));
     QVERIFY(bSeen);
+}
+
+void tst_ErrorMessageTag::dialogUsedAgainShowsNoOldError()
+{
+    ErrorMessage dialog(QStringLiteral("Yes"), QStringLiteral("No"), nullptr);
+    const auto *pError = part<QLabel>(dialog, "lblerror");
+    whenShown(dialog, [&] {
+        button(dialog, "acceptBtn")->setEnabled(true);
+        click(dialog, "acceptBtn");
+        QVERIFY(pError->isVisible());
+    });
+    dialog.addLabelToFriend(QStringLiteral("Title"));
+    bool bSeen = true;
+    whenShown(dialog, [&] { bSeen = pError->isVisible(); });
+    dialog.addLabelToFriend(QStringLiteral("Title"));
+    QVERIFY(!bSeen);
 }
 
 void tst_ErrorMessageTag::pasteIntoTheTagLeavesTheLastCharacterThatFits_data()
