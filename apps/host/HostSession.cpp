@@ -36,7 +36,7 @@ bool HostSession::start(const QString &strModule, QString *strError)
 {
     m_context.signIn(ContactBook::ownUid(), loginDomain(), m_book);
     SharedContext::setCommonData(m_context.data());
-    m_store.open(ContactBook::ownUid(), SystemSetData::instance()->m_strMsgFilePath);
+    openStore();
 
     QPluginLoader loader(strModule);
     QObject *root = loader.instance();
@@ -51,6 +51,11 @@ bool HostSession::start(const QString &strModule, QString *strError)
     m_pPlugin = plugin->getReceiveEventHandle();
     m_strPlugin = plugin->getPluginName() + QLatin1Char(' ') + plugin->getPluginId();
     return true;
+}
+
+bool HostSession::openStore()
+{
+    return m_store.open(ContactBook::ownUid(), SystemSetData::instance()->m_strMsgFilePath);
 }
 
 void HostSession::post(EMsgId msgId, const QByteArray &payload)

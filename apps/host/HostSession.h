@@ -35,6 +35,10 @@ public:
     /// see store().
     bool start(const QString &strModule, QString *strError);
 
+    /// Opens the user's local store anew, to be tried again when another program held it; an open one is closed first.
+    /// Returns whether it is open; what has to be told stands in store(). To be used after start.
+    bool openStore();
+
     /// Tells the plug-in that the login came up or went down. The first command makes the plug-in start its call
     /// process, which may take up to a second.
     void setOnline(bool bOnline);

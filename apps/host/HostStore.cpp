@@ -22,23 +22,54 @@ constexpr const char *companions[] = {"-journal", "-wal", "-shm"};
 constexpr int busyCode = 5;
 constexpr int primaryCodeMask = 0xff;
 
-/// Whether another connection keeps this one from reading the file.
-bool isHeldByAnother(const QString &strFile)
+// How long the first look at the file waits for another program, in milliseconds.
+constexpr int patience = 1800;
+
+/// A connection to the file beside the session's own.
+class Probe
 {
-    const QString name = QStringLiteral("kelvarim-demo-probe");
-    bool held = false;
+public:
+    Probe(const QString &strFile, const QString &strOptions)
     {
-        QSqlDatabase probe = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-        probe.setDatabaseName(strFile);
-        probe.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=0"));
-        if (probe.open()) {
-            QSqlQuery query(probe);
-            held = !query.exec(QStringLiteral("PRAGMA schema_version")) &&
-                   (query.lastError().nativeErrorCode().toInt() & primaryCodeMask) == busyCode;
-        }
+        m_db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_strName);
+        m_db.setDatabaseName(strFile);
+        m_db.setConnectOptions(strOptions);
+        m_db.open();
     }
-    QSqlDatabase::removeDatabase(name);
-    return held;
+    ~Probe()
+    {
+        m_db = QSqlDatabase();
+        QSqlDatabase::removeDatabase(m_strName);
+    }
+    Probe(const Probe &) = delete;
+    Probe &operator=(const Probe &) = delete;
+
+    bool run(const char *statement)
+    {
+        if (!m_db.isOpen()) {
+            return false;
+        }
+        QSqlQuery query(m_db);
+        const bool ok = query.exec(QLatin1String(statement));
+        if (!ok) {
+            m_bMetALock = (query.lastError().nativeErrorCode().toInt() & primaryCodeMask) == busyCode;
+        }
+        return ok;
+    }
+    /// Whether the last statement that failed did so because another program has locked the file.
+    bool hasMetALock() const { return m_bMetALock; }
+
+private:
+    const QString m_strName = QStringLiteral("kelvarim-demo-probe");
+    QSqlDatabase m_db;
+    bool m_bMetALock = false;
+};
+
+/// Whether another program keeps this one from reading the file, for that many milliseconds.
+bool isShutAgainstReading(const QString &strFile, int iMilliseconds)
+{
+    Probe probe(strFile, QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=%1").arg(iMilliseconds));
+    return !probe.run("PRAGMA schema_version") && probe.hasMetALock();
 }
 
 /// The first check reads every page, the second one tries a write.
@@ -73,15 +104,22 @@ bool moveFile(const QString &strFrom, const QString &strTo)
     return all;
 }
 
-/// Whether a write to the open store would succeed, found by one that is taken back. It also finds a folder that takes
-/// no journal and a disk without room, which a look at the file's rights does not.
-bool takesWrites()
+enum class Writing
 {
-    QSqlQuery query(DB::getDB());
-    const bool ok = query.exec(QStringLiteral("BEGIN IMMEDIATE")) &&
-                    query.exec(QStringLiteral("CREATE TABLE hostwritetrial (id INTEGER)"));
-    query.exec(QStringLiteral("ROLLBACK"));
-    return ok;
+    Possible,
+    Refused,
+    Held ///< by another program
+};
+
+/// What would become of a write to the store, found by one that is taken back. It also finds a folder that takes no
+/// journal and a disk without room, which a look at the file's rights does not.
+Writing tryWriting(const QString &strFile)
+{
+    Probe probe(strFile, QStringLiteral("QSQLITE_BUSY_TIMEOUT=0"));
+    if (probe.run("BEGIN IMMEDIATE") && probe.run("CREATE TABLE hostwritetrial (id INTEGER)")) {
+        return Writing::Possible;
+    }
+    return probe.hasMetALock() ? Writing::Held : Writing::Refused;
 }
 
 } // namespace
@@ -112,8 +150,13 @@ bool HostStore::open(const QString &strUid, const QString &strBase)
 {
     close();
     m_reports.clear();
+    m_bHeld = false;
     const QString folder = QDir(strBase + QLatin1Char('/') + strUid).absolutePath();
     const QString file = folder + QStringLiteral("/localData.db");
+    if (isShutAgainstReading(file, patience)) {
+        reportHeld(file);
+        return false;
+    }
     if (!isSound(folder) && !putAside(folder, file)) {
         return false;
     }
@@ -122,14 +165,18 @@ bool HostStore::open(const QString &strUid, const QString &strBase)
                    .arg(folder + QStringLiteral("/data.db")));
     }
     m_bOpen = DB::initByUserName(strUid, strBase, true);
-    if (!m_bOpen) {
-        // Even a failed open leaves its connection with the shared context.
-        DB::closeDB();
-        report(tr("The local store %1 cannot be opened. Nothing of this session will be kept.").arg(file));
-    } else if (!takesWrites()) {
-        report(tr("The local store %1 cannot be written to. Nothing of this session will be kept.").arg(file));
+    if (m_bOpen) {
+        reportWriting(file);
+        return true;
     }
-    return m_bOpen;
+    // Even a failed open leaves its connection with the shared context.
+    DB::closeDB();
+    if (isShutAgainstReading(file, 0)) {
+        reportHeld(file);
+    } else {
+        report(tr("The local store %1 cannot be opened. Nothing of this session will be kept.").arg(file));
+    }
+    return false;
 }
 
 void HostStore::close()
@@ -140,13 +187,16 @@ void HostStore::close()
     }
 }
 
-/// Returns whether the way is free for a new file.
+/// Returns whether the way is free: for the file after all, or for a new one.
 bool HostStore::putAside(const QString &strFolder, const QString &strFile)
 {
-    if (isHeldByAnother(strFile)) {
-        report(
-            tr("The local store %1 is in use by another program. Nothing of this session will be kept.").arg(strFile));
+    if (isShutAgainstReading(strFile, 0)) {
+        reportHeld(strFile);
         return false;
+    }
+    // A file that was locked while it was looked at reads as damaged, too: only now does the verdict count.
+    if (isSound(strFolder)) {
+        return true;
     }
     const QString aside = asidePath(strFolder, QDateTime::currentDateTime());
     if (!moveFile(strFile, aside)) {
@@ -156,6 +206,24 @@ bool HostStore::putAside(const QString &strFolder, const QString &strFile)
     }
     report(tr("The local store was damaged. The file is kept as %1; a new one has been started.").arg(aside));
     return true;
+}
+
+void HostStore::reportWriting(const QString &strFile)
+{
+    const Writing writing = tryWriting(strFile);
+    if (writing == Writing::Held) {
+        reportHeld(strFile);
+    } else if (writing == Writing::Refused) {
+        report(tr("The local store %1 cannot be written to. Nothing of this session will be kept.").arg(strFile));
+    }
+}
+
+void HostStore::reportHeld(const QString &strFile)
+{
+    m_bHeld = true;
+    report(
+        tr("The local store %1 is in use by another program. Until that lets it go, nothing of this session is kept.")
+            .arg(strFile));
 }
 
 void HostStore::report(const QString &strWords)

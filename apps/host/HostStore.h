@@ -23,13 +23,16 @@ public:
     HostStore &operator=(const HostStore &) = delete;
 
     /// Checks and opens the store of the user `strUid` in the folder `strBase`/`strUid`, which is made when it is
-    /// missing; an open one is closed first. Returns whether the store is open. May wait some seconds for a file that
-    /// another program holds.
+    /// missing; an open one is closed first. Returns whether the store is open. Waits some two seconds for a file that
+    /// another program holds, and may be called again later.
     bool open(const QString &strUid, const QString &strBase);
     /// Closes the store and takes the connection from the shared context. Without an open store nothing happens.
     void close();
     /// Whether the last open() succeeded and close() has not been called since.
     bool isOpen() const { return m_bOpen; }
+
+    /// Whether another program kept the last open() from the file, or from writing to it: the next one may go better.
+    bool isHeldByAnother() const { return m_bHeld; }
 
     /// What the person has to know of the last open(), a sentence or two each, in the client's language; empty when all
     /// was well. They stand in the log as well.
@@ -41,8 +44,11 @@ public:
 
 private:
     bool putAside(const QString &strFolder, const QString &strFile);
+    void reportWriting(const QString &strFile);
+    void reportHeld(const QString &strFile);
     void report(const QString &strWords);
 
     bool m_bOpen = false;
+    bool m_bHeld = false;
     QStringList m_reports;
 };

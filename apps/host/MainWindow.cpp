@@ -44,6 +44,7 @@ void MainWindow::connectParts()
 {
     connect(ui->btnSettings, &QPushButton::clicked, &m_settingsPage, &SettingsPage::open);
     connect(ui->btnOnline, &QPushButton::clicked, this, [this](bool bChecked) { m_session.setOnline(bChecked); });
+    connect(ui->btnTryStore, &QPushButton::clicked, this, &MainWindow::tryStoreAgain);
     connect(ui->contactPane, &ContactPane::callWanted, this, &MainWindow::call);
     connect(ui->contactPane, &ContactPane::conferenceWanted, this, [this] { startConference(QStringList()); });
     connect(ui->callsPane, &CallsPane::callWanted, this, &MainWindow::call);
@@ -138,7 +139,17 @@ void MainWindow::showNotice()
 {
     const QStringList &reports = m_session.store().reports();
     ui->lblNotice->setText(reports.join(QLatin1Char('\n')));
-    ui->lblNotice->setVisible(!reports.isEmpty());
+    ui->notice->setVisible(!reports.isEmpty());
+    ui->btnTryStore->setVisible(m_session.store().isHeldByAnother());
+}
+
+void MainWindow::tryStoreAgain()
+{
+    m_session.openStore();
+    showNotice();
+    if (m_session.store().reports().isEmpty()) {
+        statusBar()->showMessage(tr("The local store is open"));
+    }
 }
 
 void MainWindow::showRecord(const CallRecord &record)

@@ -55,6 +55,7 @@ private:
     void startConference(const QStringList &named);
     void showOnline(bool bOnline);
     void showNotice();
+    void tryStoreAgain();
     void showRecord(const CallRecord &record);
 
     std::unique_ptr<Ui::MainWindow> ui;

@@ -2,7 +2,9 @@
 
 #include "common/AppPaths.h"
 #include "model/SharedContext.h"
+#include "store/LockWait.h"
 #include "store/StoreFiles.h"
+#include "store/StoreOpening.h"
 #include "store/StoreSchema.h"
 
 #include <QDir>
@@ -100,7 +102,20 @@ bool findsRow(const QString &statement)
         return false;
     QSqlQuery query(DB::m_db);
     query.setForwardOnly(true);
-    return query.exec(statement) && query.next() && query.value(0).toInt() != 0;
+    return StoreOpening::ask(query, statement) && query.value(0).toInt() != 0;
+}
+
+/// False when another process kept the open file from being read. One that only keeps it from being written leaves, as
+/// any failure to write does, a part of the schema to the next open.
+bool bringUpToDate(bool createAll)
+{
+    const StoreOpening opening(DB::m_db);
+    StoreSchema::run(QStringLiteral("PRAGMA synchronous = OFF"));
+    if (createAll)
+        DB::createTable();
+    else
+        DB::createLoginTable();
+    return !StoreOpening::isShutOut();
 }
 
 } // namespace
@@ -121,14 +136,13 @@ bool DB::initByUserName(QString userName, QString path, bool createAll)
         return false;
 
     m_db.setDatabaseName(fileName);
+    m_db.setConnectOptions(LockWait::connectOption());
     if (!m_db.open())
         return false;
-    StoreSchema::run(QStringLiteral("PRAGMA synchronous = OFF"));
-    if (createAll)
-        createTable();
-    else
-        createLoginTable();
-    return true;
+    const bool bOpen = bringUpToDate(createAll);
+    if (!bOpen)
+        m_db.close();
+    return bOpen;
 }
 
 void DB::closeDB()
@@ -176,10 +190,9 @@ bool DB::isExistIndex(const QString &table, const QString &suffix)
         return false;
     QSqlQuery query(m_db);
     query.setForwardOnly(true);
-    return query.exec(QStringLiteral("SELECT * FROM sqlite_master"
-                                     " WHERE type = 'index' AND tbl_name = ") +
-                      addYinHao(table) + QStringLiteral(" AND name = ") + addYinHao(table + suffix)) &&
-           query.next();
+    return StoreOpening::ask(query, QStringLiteral("SELECT * FROM sqlite_master"
+                                                   " WHERE type = 'index' AND tbl_name = ") +
+                                        addYinHao(table) + QStringLiteral(" AND name = ") + addYinHao(table + suffix));
 }
 
 void DB::dropNoUseTable()
@@ -203,6 +216,9 @@ bool DB::replaceFiled(const QSqlDatabase &db, const QString &table, const QStrin
 
 void DB::createTable()
 {
-    for (const auto creator : tableCreators)
+    for (const auto creator : tableCreators) {
+        if (StoreOpening::isShutOut())
+            return;
         creator();
+    }
 }

@@ -1,6 +1,7 @@
 // The check of a store for damage, on a connection and a file that the session has not opened.
 
 #include "store/DB.h"
+#include "store/LockWait.h"
 #include "store/StoreFiles.h"
 
 #include <QFileInfo>
@@ -36,13 +37,14 @@ void deleteTrialRow(QSqlQuery &query)
     query.exec(QStringLiteral("DELETE FROM msgrecord WHERE id = 'checkid'"));
 }
 
-bool trialWrite(QSqlQuery &query)
+bool trialWrite(QSqlQuery &query, LockWait &wait)
 {
     query.prepare(QStringLiteral("INSERT INTO msgrecord (id)VALUES (?)"));
     query.addBindValue(QStringLiteral("checkid"));
     query.exec();
     const QSqlError error = query.lastError();
     const QString text = error.text();
+    wait.shorten();
     if (error.type() == QSqlError::NoError || text == duplicateText) {
         deleteTrialRow(query);
         return true;
@@ -50,6 +52,7 @@ bool trialWrite(QSqlQuery &query)
     if (text == malformedText)
         return false;
     const bool bSound = quickCheck(query);
+    wait.shorten();
     // A row that an earlier check left behind, in the words of this SQLite. Any other constraint's refusal, a trigger's
     // too, has the same code and leads here as well: the id is no message's, so nothing is lost.
     if (sqliteCode(error) == constraintCode)
@@ -71,11 +74,13 @@ bool DB::checkDB(QString dir, bool quickOnly)
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), checkConnection);
         db.setDatabaseName(fileName);
+        db.setConnectOptions(LockWait::connectOption());
         // Deliberate: a file that cannot be opened is not reported as damaged.
         if (!db.open())
             return true;
+        LockWait wait(db);
         QSqlQuery query(db);
-        bSound = quickOnly ? quickCheck(query) : trialWrite(query);
+        bSound = quickOnly ? quickCheck(query) : trialWrite(query, wait);
         query.clear();
         db.close();
     }

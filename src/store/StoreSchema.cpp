@@ -1,6 +1,7 @@
 #include "store/StoreSchema.h"
 
 #include "store/DB.h"
+#include "store/StoreOpening.h"
 
 #include <QSqlQuery>
 #include <QStringList>
@@ -23,7 +24,7 @@ bool StoreSchema::run(const QString &statement)
     if (!DB::m_db.isOpen())
         return false;
     QSqlQuery query(DB::m_db);
-    const bool bDone = query.exec(statement);
+    const bool bDone = StoreOpening::execute(query, statement);
     query.clear();
     return bDone;
 }

@@ -5,6 +5,7 @@
 #include "store/DB.h"
 #include "store/DBConfInfo.h"
 #include "store/Hardship.h"
+#include "store/LockHolder.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -37,7 +38,9 @@ private slots:
     void takenNameGetsAnother_data();
     void takenNameGetsAnother();
     void damagedFileThatCannotBeMovedStaysAndIsTold();
+    void heldFileIsLeftAloneAndTold_data();
     void heldFileIsLeftAloneAndTold();
+    void shortHoldIsWaitedFor();
     void storeThatTakesNoWritesIsTold_data();
     void storeThatTakesNoWritesIsTold();
     void storeThatCannotBeOpenedIsTold();
@@ -252,26 +255,53 @@ void tst_HostStore::damagedFileThatCannotBeMovedStaysAndIsTold()
     QCOMPARE(read(m_strFile + QStringLiteral("-journal")), QByteArray("half a write"));
 }
 
+void tst_HostStore::heldFileIsLeftAloneAndTold_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<bool>("readable");
+    QTest::newRow("from reading") << QStringLiteral("BEGIN EXCLUSIVE") << false;
+    QTest::newRow("from writing") << QStringLiteral("BEGIN IMMEDIATE") << true;
+}
+
 void tst_HostStore::heldFileIsLeftAloneAndTold()
 {
+    QFETCH(QString, statement);
+    QFETCH(bool, readable);
     QVERIFY(open());
+    QVERIFY(!m_pStore->isHeldByAnother());
     QVERIFY(DBConfInfo::saveConfInfo(record()));
     m_pStore->close();
     const QByteArray bytes = read(m_strFile);
-    const QString holder = QStringLiteral("holder");
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), holder);
-        db.setDatabaseName(m_strFolder + QLatin1Char('/') + m_strFile);
-        QVERIFY(db.open());
-        QVERIFY(QSqlQuery(db).exec(QStringLiteral("BEGIN EXCLUSIVE")));
-        QVERIFY(!open());
-    }
-    QSqlDatabase::removeDatabase(holder);
+    LockHolder holder(m_strFolder + QLatin1Char('/') + m_strFile, statement);
+    QVERIFY(holder.hasHeld());
+    QCOMPARE(open(), readable);
+    QVERIFY(holder.holds());
+    QVERIFY(m_pStore->isHeldByAnother());
     QVERIFY(told(QStringLiteral("is in use by another program")));
+    QVERIFY(asideNames().isEmpty());
+    QCOMPARE(m_pLog->context.getSqlDatabase() != nullptr, readable);
+    m_pStore->close();
+    QVERIFY(holder.letGo());
     QCOMPARE(fileNames(), QStringList(m_strFile));
     QCOMPARE(read(m_strFile), bytes);
+
     QVERIFY(open());
+    QVERIFY(!m_pStore->isHeldByAnother());
+    QCOMPARE(m_pStore->reports(), QStringList());
     QCOMPARE(DBConfInfo::getAllConfInfo().size(), 1);
+}
+
+void tst_HostStore::shortHoldIsWaitedFor()
+{
+    QVERIFY(open());
+    m_pStore->close();
+    constexpr int shortHold = 800;
+    LockHolder holder(m_strFolder + QLatin1Char('/') + m_strFile, QStringLiteral("BEGIN EXCLUSIVE"), shortHold);
+    QVERIFY(holder.hasHeld());
+    QVERIFY(open());
+    QCOMPARE(m_pStore->reports(), QStringList());
+    QVERIFY(asideNames().isEmpty());
+    QVERIFY(holder.letGo());
 }
 
 void tst_HostStore::storeThatTakesNoWritesIsTold_data()

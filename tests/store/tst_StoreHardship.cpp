@@ -3,13 +3,10 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QSqlQuery>
 #include <QTest>
 
-#include <memory>
-
-/// The store where it may not write, has no room or is kept out by another program: what is answered and what stays.
+/// The store where it may not write or has no room: what is answered and what stays.
 class tst_StoreHardship : public StoreFolder
 {
     Q_OBJECT
@@ -22,8 +19,6 @@ private slots:
     void fullDiskRefusesTheRecordAndKeepsTheOthers();
     void fileBegunOnAFullDiskIsFinishedByTheNextOpen_data();
     void fileBegunOnAFullDiskIsFinishedByTheNextOpen();
-    void fileLockedByAnotherProcess_data();
-    void fileLockedByAnotherProcess();
 };
 
 void tst_StoreHardship::readOnlyFileIsReadAndRefusesRecords_data()
@@ -125,39 +120,6 @@ void tst_StoreHardship::fileBegunOnAFullDiskIsFinishedByTheNextOpen()
     DB::closeDB();
     QCOMPARE(tables(), all);
     QCOMPARE(ask(QStringLiteral("PRAGMA integrity_check")), QStringLiteral("ok"));
-}
-
-void tst_StoreHardship::fileLockedByAnotherProcess_data()
-{
-    QTest::addColumn<QString>("statement");
-    QTest::addColumn<bool>("readable");
-    QTest::newRow("for reading and writing") << QStringLiteral("BEGIN EXCLUSIVE") << false;
-    QTest::newRow("for writing") << QStringLiteral("BEGIN IMMEDIATE") << true;
-}
-
-void tst_StoreHardship::fileLockedByAnotherProcess()
-{
-    QFETCH(QString, statement);
-    QFETCH(bool, readable);
-    QVERIFY(putFile(m_sound));
-    QProcess holder;
-    holder.start(QStringLiteral(STORE_CHILD), {QStringLiteral("hold"), m_strFile, statement});
-    QVERIFY(holder.waitForReadyRead());
-    QCOMPARE(holder.readLine(), QByteArray("held\n"));
-
-    // What cannot be read has no "ok" to say.
-    QCOMPARE(DB::checkDB(m_strFolder, false), readable);
-    QVERIFY(DB::initByUserName(m_strUser, m_strBase, false));
-    QVERIFY(QSqlQuery(DB::getDB()).exec(QStringLiteral("PRAGMA busy_timeout = 0")));
-    QVERIFY(!DBConfInfo::saveConfInfo(numberedRecord(m_iRecords)));
-    QCOMPARE(DBConfInfo::getAllConfInfo().size(), readable ? m_iRecords : 0);
-    DB::closeDB();
-
-    holder.closeWriteChannel();
-    QVERIFY(holder.waitForFinished());
-    QCOMPARE(holder.exitCode(), 0);
-    QCOMPARE(fileBytes(), m_sound);
-    QVERIFY(DB::checkDB(m_strFolder, false));
 }
 
 #include "support/TestProgram.h"

@@ -135,7 +135,12 @@ void tst_StoreStatements::waitingForTheDiskIsSwitchedOffBeforeAnyTable()
     QCOMPARE(full.value(0), off);
     QCOMPARE(full.count(off), 1);
     const QStringList signIn = store.statementsOfNewConnections([&store] { QVERIFY(store.openForSignIn()); });
-    QCOMPARE(signIn, QStringList({off, "SELECT 1 FROM sqlite_master where type = 'table' and  name = 'loginInfo'"}));
+    // Last, the session's statements get their own waiting time.
+    const QString wait = "PRAGMA busy_timeout = 5000";
+    QCOMPARE(signIn,
+             QStringList({off, "SELECT 1 FROM sqlite_master where type = 'table' and  name = 'loginInfo'", wait}));
+    QCOMPARE(full.filter("busy_timeout"), QStringList(wait));
+    QCOMPARE(full.last(), wait);
 }
 
 void tst_StoreStatements::checkWritesAndDeletesInTheseWords()

@@ -929,8 +929,8 @@
         <translation>The local store %1 cannot be written to. Nothing of this session will be kept.</translation>
     </message>
     <message>
-        <source>The local store %1 is in use by another program. Nothing of this session will be kept.</source>
-        <translation>The local store %1 is in use by another program. Nothing of this session will be kept.</translation>
+        <source>The local store %1 is in use by another program. Until that lets it go, nothing of this session is kept.</source>
+        <translation>The local store %1 is in use by another program. Until that lets it go, nothing of this session is kept.</translation>
     </message>
     <message>
         <source>The local store %1 is damaged and cannot be moved aside. Nothing of this session will be kept.</source>
@@ -991,6 +991,14 @@
         <translation>Sign in to calls, or out of them</translation>
     </message>
     <message>
+        <source>Open the local store once more</source>
+        <translation>Open the local store once more</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Try again</translation>
+    </message>
+    <message>
         <source>%1 is calling</source>
         <translation>%1 is calling</translation>
     </message>
@@ -1036,6 +1044,10 @@
     <message>
         <source>Call with %1: %2</source>
         <translation>Call with %1: %2</translation>
+    </message>
+    <message>
+        <source>The local store is open</source>
+        <translation>The local store is open</translation>
     </message>
 </context>
 <context>

@@ -929,8 +929,8 @@
         <translation>无法写入本地数据库 %1。本次会话的内容不会保存。</translation>
     </message>
     <message>
-        <source>The local store %1 is in use by another program. Nothing of this session will be kept.</source>
-        <translation>本地数据库 %1 正被其他程序使用。本次会话的内容不会保存。</translation>
+        <source>The local store %1 is in use by another program. Until that lets it go, nothing of this session is kept.</source>
+        <translation>本地数据库 %1 正由其他程序使用。在其释放之前，本次会话的内容不会保存。</translation>
     </message>
     <message>
         <source>The local store %1 is damaged and cannot be moved aside. Nothing of this session will be kept.</source>
@@ -991,6 +991,14 @@
         <translation>登录或退出通话</translation>
     </message>
     <message>
+        <source>Open the local store once more</source>
+        <translation>再次打开本地数据库</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>重试(&amp;T)</translation>
+    </message>
+    <message>
         <source>%1 is calling</source>
         <translation>%1 来电</translation>
     </message>
@@ -1035,6 +1043,10 @@
     <message>
         <source>Call with %1: %2</source>
         <translation>与 %1 的通话：%2</translation>
+    </message>
+    <message>
+        <source>The local store is open</source>
+        <translation>本地数据库已打开</translation>
     </message>
 </context>
 <context>

@@ -929,8 +929,8 @@
         <translation>無法寫入本機資料庫 %1。本次工作階段的內容不會儲存。</translation>
     </message>
     <message>
-        <source>The local store %1 is in use by another program. Nothing of this session will be kept.</source>
-        <translation>本機資料庫 %1 正由其他程式使用。本次工作階段的內容不會儲存。</translation>
+        <source>The local store %1 is in use by another program. Until that lets it go, nothing of this session is kept.</source>
+        <translation>本機資料庫 %1 正由其他程式使用。在其釋放之前，本次工作階段的內容不會儲存。</translation>
     </message>
     <message>
         <source>The local store %1 is damaged and cannot be moved aside. Nothing of this session will be kept.</source>
@@ -991,6 +991,14 @@
         <translation>登入或登出通話</translation>
     </message>
     <message>
+        <source>Open the local store once more</source>
+        <translation>再次開啟本機資料庫</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>重試(&amp;T)</translation>
+    </message>
+    <message>
         <source>%1 is calling</source>
         <translation>%1 來電</translation>
     </message>
@@ -1035,6 +1043,10 @@
     <message>
         <source>Call with %1: %2</source>
         <translation>與 %1 的通話：%2</translation>
+    </message>
+    <message>
+        <source>The local store is open</source>
+        <translation>本機資料庫已開啟</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,49 @@
+#include "store/LockWait.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+
+namespace {
+
+// What Qt's driver gives a statement by default, in milliseconds.
+constexpr int kDriverMs = 5000;
+// Statements that did not wait are done in less; it is not worth a statement to take it off.
+constexpr int kStepMs = 50;
+// SQLite's primary result code for a file that another connection has locked; the upper bytes tell details.
+constexpr int kBusyCode = 5;
+constexpr int kPrimaryCodeMask = 0xff;
+
+} // namespace
+
+QString LockWait::connectOption()
+{
+    return QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(kLimitMs);
+}
+
+bool LockWait::isLockedOut(const QSqlError &error)
+{
+    return (error.nativeErrorCode().toInt() & kPrimaryCodeMask) == kBusyCode;
+}
+
+LockWait::LockWait(const QSqlDatabase &db) : m_db(db)
+{
+    m_clock.start();
+}
+
+void LockWait::shorten()
+{
+    const int left = static_cast<int>(qMax<qint64>(0, kLimitMs - m_clock.elapsed()));
+    if (m_iGiven - left >= kStepMs || (left == 0 && m_iGiven > 0))
+        give(left);
+}
+
+void LockWait::end()
+{
+    give(kDriverMs);
+}
+
+void LockWait::give(int iMilliseconds)
+{
+    QSqlQuery(m_db).exec(QStringLiteral("PRAGMA busy_timeout = %1").arg(iMilliseconds));
+    m_iGiven = iMilliseconds;
+}

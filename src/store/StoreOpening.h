@@ -1,0 +1,36 @@
+#pragma once
+
+// The opening of the session's store, while it lasts: it may stand at another process's locks for a span that all its
+// statements share, and it fails when such a lock kept it from reading the schema. The statements of the schema go
+// through the functions here, with an opening under way or without. One at a time; on the session's thread.
+
+#include "store/LockWait.h"
+
+#include <QString>
+
+class QSqlDatabase;
+class QSqlQuery;
+
+class StoreOpening
+{
+public:
+    /// Begins over `db`, which has been opened with LockWait::connectOption().
+    explicit StoreOpening(const QSqlDatabase &db);
+    /// The session's statements wait again as Qt's driver lets them.
+    ~StoreOpening();
+    StoreOpening(const StoreOpening &) = delete;
+    StoreOpening &operator=(const StoreOpening &) = delete;
+
+    /// Whether there is an opening whose question about the schema met a lock that stayed. It goes no further then.
+    static bool isShutOut();
+    /// Executes a statement that changes something; whether it ran. A lock in its way has no further consequence.
+    static bool execute(QSqlQuery &query, const QString &statement);
+    /// Executes a question about the schema; whether a first row came back, on which `query` stands then.
+    static bool ask(QSqlQuery &query, const QString &statement);
+
+private:
+    static StoreOpening *s_pCurrent;
+
+    LockWait m_wait;
+    bool m_bShutOut = false;
+};
