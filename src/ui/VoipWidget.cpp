@@ -13,6 +13,7 @@
 #include "widgets/ErrorMessage.h"
 
 #include <QDebug>
+#include <QEvent>
 #include <QSlider>
 
 namespace {
@@ -50,6 +51,16 @@ void setFace(CIconButtonEx *pButton, ushort glyph)
 {
     pButton->setIconFont(IconGlyph::text(glyph), cGlyphSize, cHoverFace);
     pButton->setIconColor(cToggleColor);
+}
+
+QString micTip(bool bMute)
+{
+    return bMute ? CVoipWidget::tr("openmic") : CVoipWidget::tr("closemic");
+}
+
+QString speakerTip(bool bMute)
+{
+    return bMute ? CVoipWidget::tr("openvioce") : CVoipWidget::tr("silence");
 }
 
 } // namespace
@@ -195,14 +206,14 @@ void CVoipWidget::SetMicButton(bool bMute)
 {
     LOG_DEBUG << "setmic bMute = " << bMute << "\n";
     setFace(ui->btnMic, bMute ? IconGlyph::MicOff : IconGlyph::MicOn);
-    ui->btnMic->setToolTip(bMute ? tr("openmic") : tr("closemic"));
+    ui->btnMic->setToolTip(micTip(bMute));
 }
 
 void CVoipWidget::SetSpeakerButton(bool bMute)
 {
     LOG_DEBUG << "set speaker bMute = " << bMute << "\n";
     setFace(ui->btnSpeaker, bMute ? IconGlyph::SpeakerOff : IconGlyph::SpeakerOn);
-    ui->btnSpeaker->setToolTip(bMute ? tr("openvioce") : tr("silence"));
+    ui->btnSpeaker->setToolTip(speakerTip(bMute));
 }
 
 void CVoipWidget::SetCameraButton(bool bEnable)
@@ -218,6 +229,20 @@ void CVoipWidget::setMuteAllButton(bool bMute)
     ui->btnMuteAll->setIconFont(IconGlyph::text(bMute ? IconGlyph::MuteAllOn : IconGlyph::SpeakerOff), cGlyphSize,
                                 bMute ? cPlainFace : cHoverFace);
     ui->btnMuteAll->setToolTip(bMute ? QStringLiteral("取消全体静音") : QStringLiteral("全体静音"));
+}
+
+// The window lives as long as the host, which may change its language at any time.
+void CVoipWidget::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    const QString strTime = ui->currentPlayTimeLabel->text();
+    ui->retranslateUi(this);
+    ui->currentPlayTimeLabel->setText(strTime);
+    ui->btnClose->setToolTip(tr("close"));
+    ui->btnMic->setToolTip(micTip(m_bMicMute));
+    ui->btnSpeaker->setToolTip(speakerTip(m_bSpeakerMute));
 }
 
 void CVoipWidget::SetMicEnable(bool bEnable)

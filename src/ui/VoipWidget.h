@@ -159,6 +159,8 @@ signals:
 protected:
     /// Escape in the window or one of its watched controls asks whether to hang up; leaving them is swallowed.
     bool eventFilter(QObject *obj, QEvent *event) override;
+    /// A change of language renews the words of the buttons and their tips, nothing else.
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;

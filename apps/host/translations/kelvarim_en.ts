@@ -610,6 +610,45 @@
         <source>savepic</source>
         <translation>Save picture</translation>
     </message>
+    <message>
+        <source>邀请成员</source>
+        <translation>Invite</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>00:00</source>
+        <translation>00:00</translation>
+    </message>
+    <message>
+        <source>挂断</source>
+        <translation>Hang up</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessage</name>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>回复内容(100字以内)：</source>
+        <translation>Reply (up to 200 letters):</translation>
+    </message>
+    <message>
+        <source>组名：</source>
+        <translation>Group name:</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

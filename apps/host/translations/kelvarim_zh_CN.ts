@@ -610,6 +610,45 @@
         <source>savepic</source>
         <translation>保存图片</translation>
     </message>
+    <message>
+        <source>邀请成员</source>
+        <translation>邀请成员</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>00:00</source>
+        <translation>00:00</translation>
+    </message>
+    <message>
+        <source>挂断</source>
+        <translation>挂断</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessage</name>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>回复内容(100字以内)：</source>
+        <translation>回复内容(100字以内)：</translation>
+    </message>
+    <message>
+        <source>组名：</source>
+        <translation>组名：</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

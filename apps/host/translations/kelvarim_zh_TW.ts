@@ -610,6 +610,45 @@
         <source>savepic</source>
         <translation>儲存圖片</translation>
     </message>
+    <message>
+        <source>邀请成员</source>
+        <translation>邀請成員</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>00:00</source>
+        <translation>00:00</translation>
+    </message>
+    <message>
+        <source>挂断</source>
+        <translation>掛斷</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMessage</name>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>回复内容(100字以内)：</source>
+        <translation>回覆內容(100字以內)：</translation>
+    </message>
+    <message>
+        <source>组名：</source>
+        <translation>群組名稱：</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>確定</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
