@@ -4,10 +4,10 @@ set(manuals share/doc/kelvarim-voip)
 install(
   FILES
     share/doc/copyright
-    ${CMAKE_SOURCE_DIR}/docs/call-process-kit.md
-    ${CMAKE_SOURCE_DIR}/docs/host-contract.md
-    ${CMAKE_SOURCE_DIR}/docs/scenario-language.md
-    ${CMAKE_SOURCE_DIR}/docs/wire-protocol.md
+    ${PROJECT_SOURCE_DIR}/docs/call-process-kit.md
+    ${PROJECT_SOURCE_DIR}/docs/host-contract.md
+    ${PROJECT_SOURCE_DIR}/docs/scenario-language.md
+    ${PROJECT_SOURCE_DIR}/docs/wire-protocol.md
   DESTINATION ${manuals})
 
 find_program(VOIP_GZIP gzip REQUIRED)

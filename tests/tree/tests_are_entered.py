@@ -14,6 +14,7 @@ import subprocess
 import sys
 
 OWN_MAIN = re.compile(r"^(QTEST_\w*MAIN\w*|int main)\b.*", re.MULTILINE)
+NAMESPACE = re.compile(r"^(?:inline )?namespace ?([\w:]*) ?\{$")
 TYPE = re.compile(r"^(?:class|struct|union|enum class|enum) (\w+)[^;]*$")
 # Rooms whose headers and sources are part of the programs of all others.
 SHARED = ("fakes", "support")
@@ -38,14 +39,14 @@ def classes_of_ctest(build):
 
 def types_of(source):
     """The types that a source or header defines for every source of its program."""
-    is_own = True
+    namespaces = []
     for line in source.read_text(encoding="utf-8").splitlines():
-        if line.startswith("namespace {"):
-            is_own = False
+        if found := NAMESPACE.match(line):
+            namespaces.append(found[1])
         elif line.startswith("} // namespace"):
-            is_own = True
-        elif is_own and (found := TYPE.match(line)):
-            yield found[1]
+            namespaces.pop()
+        elif "" not in namespaces and (found := TYPE.match(line)):
+            yield "::".join((*namespaces, found[1]))
 
 
 def complaints_about_types(tests):
