@@ -36,9 +36,10 @@ set_target_properties(voip_pch PROPERTIES AUTOMOC OFF AUTOUIC OFF)
 target_compile_options(voip_pch PRIVATE ${VOIP_WARNINGS} ${VOIP_COMPILER} -fPIC ${VOIP_PATHS})
 
 if(VOIP_SANITIZE)
-  add_library(voip_keep_libraries OBJECT ${PROJECT_SOURCE_DIR}/tests/sanitize/KeepLibraries.cpp)
-  set_target_properties(voip_keep_libraries PROPERTIES AUTOMOC OFF AUTOUIC OFF)
-  target_compile_options(voip_keep_libraries PRIVATE -fPIC)
+  add_library(voip_sanitized_end OBJECT
+    ${PROJECT_SOURCE_DIR}/tests/sanitize/KeepLibraries.cpp ${PROJECT_SOURCE_DIR}/tests/sanitize/LeakCheck.cpp)
+  set_target_properties(voip_sanitized_end PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+  target_compile_options(voip_sanitized_end PRIVATE -fPIC)
 endif()
 
 # Compiler settings of the project's own code. Includes are written from src/ ("store/DB.h").
@@ -49,7 +50,7 @@ function(voip_own_code target)
   target_precompile_headers(${target} REUSE_FROM voip_pch)
   get_target_property(type ${target} TYPE)
   if(VOIP_SANITIZE AND type STREQUAL "EXECUTABLE")
-    target_link_libraries(${target} PRIVATE voip_keep_libraries)
+    target_link_libraries(${target} PRIVATE voip_sanitized_end)
   endif()
 endfunction()
 

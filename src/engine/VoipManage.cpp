@@ -1,6 +1,7 @@
 #include "engine/VoipManage.h"
 
 #include "common/CLogManger.h"
+#include "engine/CallRing.h"
 #include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 #include "ui/VoiceConferenceWidget.h"
@@ -21,8 +22,8 @@ CVoipManage *CVoipManage::instance()
 
 CVoipManage::CVoipManage(QObject *parent) : QObject(parent)
 {
-    m_pRingSound = new QSound(QStringLiteral("Resources/Audio/ring.wav"), this);
-    m_pRingSound->setLoops(QSound::Infinite);
+    m_pRingSound = CallRing::player();
+    connect(m_pRingSound, &QObject::destroyed, this, [this] { m_pRingSound = nullptr; });
 
     connect(&m_reconnectTimer, SIGNAL(timeout()), this, SLOT(slot_ReConnectVoipSDK()));
     connect(&m_inviteTimer, SIGNAL(timeout()), this, SLOT(slot_inviteCallTimeout()));
@@ -35,6 +36,8 @@ CVoipManage::CVoipManage(QObject *parent) : QObject(parent)
 CVoipManage::~CVoipManage()
 {
     disconnectVoipSDKSocket();
+    if (m_pRingSound)
+        m_pRingSound->stop();
     delete m_pVoiceConfWidget;
     delete m_pVoipWidget;
     delete m_pVoipProcess;

@@ -43,7 +43,7 @@ public:
     /// The singleton, created without a parent on the first call and never deleted.
     static CVoipManage *instance();
 
-    /// Makes the ring, starts the call process, tries to connect (up to one second) and builds the hidden call window.
+    /// Takes the ring, starts the call process, tries to connect (up to one second) and builds the hidden call window.
     explicit CVoipManage(QObject *parent = nullptr);
     ~CVoipManage() override;
 
@@ -190,7 +190,7 @@ protected:
     QTimer m_reconnectTimer;
     CVoiceConferenceWidget *m_pVoiceConfWidget = nullptr; ///< the conference centre, while open; owned
     QProcess *m_pVoipProcess = nullptr;                   ///< holds no child: the call process is started detached
-    QSound *m_pRingSound = nullptr;                       ///< the incoming ring; child of the manager
+    QSound *m_pRingSound = nullptr;                       ///< the incoming ring; CallRing's, null once that has ended
     QTimer m_inviteTimer;                                 ///< limits how long an outgoing call may ring
     QTimer m_recevieTimer;                                ///< limits how long an incoming call stays unconnected
 
