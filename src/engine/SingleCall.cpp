@@ -2,7 +2,7 @@
 
 #include "common/CLogManger.h"
 #include "common/CommonFun.h"
-#include "engine/SdkCommand.h"
+#include "engine/SdkLine.h"
 #include "engine/VoipManage.h"
 #include "model/FriendData.h"
 #include "model/LoginData.h"
@@ -55,7 +55,7 @@ void CVoipManage::callSingleUser(QString strUser, bool bVideo)
         stranger.request();
 
     m_callData.bIsVideo = bVideo;
-    sendIfConnected(SdkCommand::line(SdkCommand::CallUser, SdkCommand::json(strUser), bVideo));
+    sendIfConnected(SdkLine::of<Wire::Command::CallUser>(strUser, bVideo));
     showCallInWindow();
     if (m_pVoipWidget)
         m_pVoipWidget->show();
@@ -98,7 +98,7 @@ void CVoipManage::acceptVoipCall()
         LOG_DEBUG << "singel call accept !"
                   << "\n";
         showCallInWindow();
-        sendVoipMessage(SdkCommand::line(SdkCommand::AcceptCall));
+        sendVoipMessage(SdkLine::of<Wire::Command::AcceptCall>());
     }
     if (m_pVoipWidget)
         m_pVoipWidget->show();
@@ -108,7 +108,8 @@ void CVoipManage::rejectVoipCall()
 {
     LOG_DEBUG << "reject call!"
               << "\n";
-    sendIfConnected(SdkCommand::line(m_callData.bIsConf ? SdkCommand::RejectConf : SdkCommand::RejectCall));
+    sendIfConnected(m_callData.bIsConf ? SdkLine::of<Wire::Command::RejectConf>()
+                                       : SdkLine::of<Wire::Command::RejectCall>());
     callFinished(CallData::FinishRejected);
 }
 
@@ -123,7 +124,8 @@ void CVoipManage::hangupVoipCall()
         rejectVoipCall();
         return;
     }
-    sendIfConnected(SdkCommand::line(m_callData.bIsConf ? SdkCommand::HangupConf : SdkCommand::HangUpCall));
+    sendIfConnected(m_callData.bIsConf ? SdkLine::of<Wire::Command::HangupConf>()
+                                       : SdkLine::of<Wire::Command::HangUpCall>());
     callFinished(m_callData.bIsConnected ? CallData::FinishHangup : CallData::FinishCanceled);
 }
 

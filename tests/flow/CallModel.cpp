@@ -2,7 +2,7 @@
 
 #include "common/CommonFun.h"
 #include "engine/ConferenceDocument.h"
-#include "engine/SdkNotification.h"
+#include "engine/SdkLine.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -234,7 +234,7 @@ void CallModel::recevieTimeout()
 void CallModel::receiveLine(const QString &line)
 {
     // What of a line counts is held by the reader's own test.
-    const SdkNotification::Line read = SdkNotification::read(line);
+    const SdkLine::Notification read = SdkLine::read(line);
     if (read.code >= 0)
         notify(read.code, read.content);
 }
