@@ -2,6 +2,7 @@
 // show them.
 
 #include "HostCatalogue.h"
+#include "HostLanguage.h"
 
 #include "fakes/EngineFixture.h"
 
@@ -142,8 +143,8 @@ void tst_Translations::addLanguages()
 {
     QTest::addColumn<QString>("language");
 
-    for (const char *language : {"zh_CN", "zh_TW", "en"})
-        QTest::newRow(language) << language;
+    for (const HostLanguage::Choice &choice : HostLanguage::choices())
+        QTest::newRow(qPrintable(choice.setting)) << choice.setting;
 }
 
 void tst_Translations::everyKeyOfTheSourcesAndNoOtherHasATranslation_data()

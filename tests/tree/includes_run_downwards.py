@@ -19,7 +19,7 @@ FILE_FLOOR = {
     "common/HtmlImages": 2, "common/IconFont": 2, "common/ImagePath": 2, "common/MessageHtml": 2,
     "common/PictureFolders": 2, "common/PictureFun": 2, "common/PictureNames": 2, "common/WaterMark": 2,
     "plugin/BaseEvent": 4, "plugin/EMsgId": 4, "plugin/EventPayload": 4, "plugin/HostCommands": 4,
-    "plugin/HostRequests": 4, "plugin/PluginIds": 4, "plugin/PluginInterface": 4, "plugin/StrangerCards": 4,
+    "plugin/HostEvents": 4, "plugin/HostRequests": 4, "plugin/PluginIds": 4, "plugin/PluginInterface": 4, "plugin/StrangerCards": 4,
     "plugin/VoipManageEventProcess": 4, "plugin/VoipManageMessageProcess": 4,
 }
 
