@@ -20,10 +20,13 @@ set(VOIP_HOST_HEADERS
     plugin/BaseEvent.h
     plugin/EMsgId.h
     plugin/EventPayload.h
+    plugin/HostEvents.h
     plugin/PluginIds.h
     plugin/PluginInterface.h
     store/DB.h
-    store/DBConfInfo.h)
+    store/DBConfInfo.h
+    wire/Commands.h
+    wire/Notifications.h)
 set(installed_headers)
 while(VOIP_HOST_HEADERS)
   list(POP_FRONT VOIP_HOST_HEADERS header)

@@ -1,5 +1,8 @@
 #include "callcheck/CheckOptions.h"
 
+#include "robots/RobotIds.h"
+#include "wire/Commands.h"
+
 #include <QCommandLineParser>
 
 #include <cmath>
@@ -19,11 +22,11 @@ struct OptionRow
 
 // clang-format off
 constexpr OptionRow OUT          {"out",          "FILE",    "",             "record: the scenario to write; it must not exist yet"};
-constexpr OptionRow SOCKET_NAME  {"socket-name",  "NAME",    "VoipSDK",      "record: name of the local server for the plug-in"};
+constexpr OptionRow SOCKET_NAME  {"socket-name",  "NAME",    Wire::kServerName, "record: name of the local server for the plug-in"};
 constexpr OptionRow ATTACH       {"attach",       "NAME",    "",             "speak with the call process that listens at this name or path, instead of starting PROGRAM"};
 constexpr OptionRow TRACE        {"trace",        "FILE",    "",             "append a record of every line to this file, \"-\" for standard error"};
 constexpr OptionRow PATIENCE     {"patience",     "SECONDS", "10",           "replay: how much later than recorded an answer may come"};
-constexpr OptionRow USER         {"user",         "ID",      "30010000",     "replay: user id, where the scenario names none"};
+constexpr OptionRow USER         {"user",         "ID",      Robots::ownUser, "replay: user id, where the scenario names none"};
 constexpr OptionRow NICK_NAME    {"nick",         "NAME",    "callcheck",    "replay: nick name, where the scenario names none"};
 constexpr OptionRow REGISTRATION {"registration", "VALUE",   "registration", "replay: registration value, where the scenario names none"};
 // clang-format on

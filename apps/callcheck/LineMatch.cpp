@@ -38,10 +38,9 @@ std::optional<Notification> Notification::read(const QByteArray &line)
 QString Notification::shown() const
 {
     QString text = QString::number(code);
-    for (const NotificationRow &row : NOTIFICATIONS) {
-        if (static_cast<int>(row.code) == code && *row.name != '\0') {
-            text += QStringLiteral(" (%1)").arg(QLatin1String(row.name));
-        }
+    const Wire::NotificationRow *row = Wire::findNotification(code);
+    if (row != nullptr && *row->name != '\0') {
+        text += QStringLiteral(" (%1)").arg(QLatin1String(row->name));
     }
     return content.isEmpty() ? text : text + QLatin1Char(' ') + Trace::printable(content.toUtf8());
 }
@@ -65,7 +64,7 @@ QString LineMatch::shown(const QByteArray &line)
 bool LineMatch::isLog(const QByteArray &line)
 {
     const std::optional<Notification> notification = Notification::read(line);
-    return notification && notification->code == static_cast<int>(Code::SdkLog);
+    return notification && notification->code == static_cast<int>(Wire::Code::SdkLog);
 }
 
 bool LineMatch::contentMatches(const QString &recorded, const QString &content)

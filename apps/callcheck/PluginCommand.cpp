@@ -1,17 +1,17 @@
 #include "callcheck/PluginCommand.h"
 
+#include "robots/RobotIds.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 namespace {
 
-constexpr const char *SOMEBODY = "30010001";
-
 /// A text parameter that is the user's own or has a value that means something.
 struct OpenRow
 {
-    const char *command;
+    Wire::Command command;
     int parameter;
     QString (*value)(const PluginUser &user);
 };
@@ -23,20 +23,20 @@ QString ownId(const PluginUser &user)
 
 // clang-format off
 const OpenRow OPEN_TEXTS[] = {
-    {"RegeditUser",       1, ownId},
-    {"RegeditUser",       2, [](const PluginUser &user) { return user.nickName; }},
-    {"RegeditUser",       3, [](const PluginUser &user) { return user.registration; }},
-    {"UnReg",             1, ownId},
-    {"CallUser",          1, [](const PluginUser &) { return QString::fromLatin1(SOMEBODY); }},
-    {"RequestConference", 1, ownId},
-    {"Add2Conference",    2, ownId},
-    {"Add2Conference",    3, ownId},
-    {"ControlConf",       1, [](const PluginUser &) { return QStringLiteral("mute"); }},
-    {"ControlConf",       2, [](const PluginUser &) { return QStringLiteral("non_moderator"); }},
+    {Wire::Command::RegeditUser,       1, ownId},
+    {Wire::Command::RegeditUser,       2, [](const PluginUser &user) { return user.nickName; }},
+    {Wire::Command::RegeditUser,       3, [](const PluginUser &user) { return user.registration; }},
+    {Wire::Command::UnReg,             1, ownId},
+    {Wire::Command::CallUser,          1, [](const PluginUser &) { return QString::fromLatin1(Robots::answers); }},
+    {Wire::Command::RequestConference, 1, ownId},
+    {Wire::Command::Add2Conference,    2, ownId},
+    {Wire::Command::Add2Conference,    3, ownId},
+    {Wire::Command::ControlConf,       1, [](const PluginUser &) { return QStringLiteral("mute"); }},
+    {Wire::Command::ControlConf,       2, [](const PluginUser &) { return QStringLiteral("non_moderator"); }},
 };
 // clang-format on
 
-QJsonValue openValue(const CommandRow &command, int parameter, const PluginUser &user)
+QJsonValue openValue(const Wire::CommandRow &command, int parameter, const PluginUser &user)
 {
     switch (command.parameters[parameter - 1]) {
     case 'b':
@@ -49,7 +49,7 @@ QJsonValue openValue(const CommandRow &command, int parameter, const PluginUser 
         break;
     }
     for (const OpenRow &row : OPEN_TEXTS) {
-        if (qstrcmp(row.command, command.name) == 0 && row.parameter == parameter) {
+        if (row.command == command.command && row.parameter == parameter) {
             return row.value(user);
         }
     }
@@ -69,12 +69,12 @@ QJsonValue namedValue(const ExpectedParameter &parameter, char type)
 
 QByteArray pluginLine(const Statement &statement, const PluginUser &user)
 {
-    const CommandRow *row = findCommand(statement.commands.constFirst());
+    const Wire::CommandRow *row = findCommand(statement.commands.constFirst());
     if (row == nullptr) {
-        return QByteArray(QUIT_LINE) + '\n';
+        return QByteArray(Wire::kQuitLine) + '\n';
     }
     QJsonArray values;
-    for (int number = 1; number <= parameterCount(*row); ++number) {
+    for (int number = 1; number <= Wire::parameterCount(*row); ++number) {
         QJsonValue value = openValue(*row, number, user);
         for (const ExpectedParameter &parameter : statement.parameters) {
             if (parameter.key == parameterKey(number)) {

@@ -40,7 +40,7 @@ Relay::Relay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject
         settleEnd();
     });
     connect(&m_channel, &Channel::lineReceived, this, [this](const QByteArray &line) {
-        m_quit = m_quit || line == QUIT_LINE;
+        m_quit = m_quit || line == Wire::kQuitLine;
         m_writer.said(m_heardTime, line);
     });
 }

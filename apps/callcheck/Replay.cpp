@@ -105,7 +105,7 @@ bool Replay::playOne(const Statement &statement)
 bool Replay::say(const Statement &statement)
 {
     const QString name = statement.commands.constFirst();
-    if (name == QLatin1String(QUIT_LINE)) {
+    if (name == QLatin1String(Wire::kQuitLine)) {
         return expectQuit();
     }
     if (name == QLatin1String("RegeditUser")) {
@@ -160,7 +160,7 @@ bool Replay::expectQuit()
     if (!m_plugin.isConnected() && !connectAnew()) {
         return false;
     }
-    m_plugin.write(QByteArray(QUIT_LINE) + '\n');
+    m_plugin.write(QByteArray(Wire::kQuitLine) + '\n');
     if (!m_subject.waitEnded(limit())) {
         return fail(QStringLiteral("the call process has not ended %1 ms after quit").arg(limit()));
     }

@@ -14,9 +14,10 @@ namespace {
 
 constexpr qint64 ROUNDED_TO_MS = 100;
 
-constexpr const char *OPENING = "# Recorded by kelvarim-callcheck.\n"
-                                "ignore SetMicEnable SetSpeakerEnble SetCamreraEnable SetMicVolume SetSpeakerVolume\n"
-                                "timeout 0s\n";
+/// The controls of the call window, which the user may move at any time.
+constexpr Wire::Command IGNORED[] = {Wire::Command::SetMicEnable, Wire::Command::SetSpeakerEnble,
+                                     Wire::Command::SetCamreraEnable, Wire::Command::SetMicVolume,
+                                     Wire::Command::SetSpeakerVolume};
 
 bool isControl(char character)
 {
@@ -62,7 +63,7 @@ QByteArray codeAndContent(const Notification &notification)
 std::optional<Notification> sendable(const QByteArray &line)
 {
     const std::optional<Notification> notification = Notification::read(line);
-    const bool known = notification && isNotification(notification->code) && isUtf8(line);
+    const bool known = notification && Wire::findNotification(notification->code) != nullptr && isUtf8(line);
     return known ? notification : std::nullopt;
 }
 
@@ -73,9 +74,9 @@ QByteArray writtenLine(const QByteArray &line)
 }
 
 /// Whether a parameter is the user's own and of no use to anybody else.
-bool isPrivate(const QString &command, int parameter)
+bool isPrivate(Wire::Command command, int parameter)
 {
-    return command == QLatin1String("RegeditUser") && (parameter == 2 || parameter == 3);
+    return command == Wire::Command::RegeditUser && (parameter == 2 || parameter == 3);
 }
 
 QByteArray parameterWord(const QJsonValue &value)
@@ -89,13 +90,13 @@ QByteArray parameterWord(const QJsonValue &value)
     return isPlain(bare) ? bare : QByteArray();
 }
 
-QByteArray expectation(const Command &command, const CommandRow &row)
+QByteArray expectation(const Command &command, const Wire::CommandRow &row)
 {
     QByteArray text = "expect " + command.name.toUtf8();
-    for (int number = 1; number <= parameterCount(row); ++number) {
+    for (int number = 1; number <= Wire::parameterCount(row); ++number) {
         const QJsonValue value = command.parameter(number);
         const QByteArray word = value.isUndefined() ? QByteArray() : parameterWord(value);
-        if (!word.isEmpty() && !isPrivate(command.name, number)) {
+        if (!word.isEmpty() && !isPrivate(row.command, number)) {
             text += " param" + QByteArray::number(number) + '=' + word;
         }
     }
@@ -117,7 +118,11 @@ ScenarioWriter::ScenarioWriter(std::function<void(const QByteArray &)> write) : 
 
 void ScenarioWriter::begin()
 {
-    m_write(OPENING);
+    QByteArray ignored = "ignore";
+    for (const Wire::Command command : IGNORED) {
+        ignored += ' ' + QByteArray(Wire::nameOf(command));
+    }
+    m_write("# Recorded by kelvarim-callcheck.\n" + ignored + "\ntimeout 0s\n");
 }
 
 void ScenarioWriter::said(qint64 now, const QByteArray &line)
@@ -127,14 +132,14 @@ void ScenarioWriter::said(qint64 now, const QByteArray &line)
     }
     flushPart();
     m_last = now;
-    if (line == QUIT_LINE) {
+    if (line == Wire::kQuitLine) {
         m_quit = true;
         add("expect quit");
         return;
     }
     QString reason;
     const std::optional<Command> command = parseCommand(line, &reason);
-    const CommandRow *row = command ? findCommand(command->name) : nullptr;
+    const Wire::CommandRow *row = command ? findCommand(command->name) : nullptr;
     add(row != nullptr ? expectation(*command, *row) : "# not understood: " + doubleQuoted(line));
 }
 

@@ -1,6 +1,7 @@
 #include "callcheck/Subject.h"
 
 #include "callprocess/SocketClaim.h"
+#include "wire/Commands.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -15,7 +16,6 @@
 namespace {
 
 constexpr int LOOK_AGAIN_MS = 5;
-constexpr const char *SERVER_NAME = "VoipSDK";
 
 } // namespace
 
@@ -41,7 +41,7 @@ bool Subject::start(const QString &program, const QStringList &arguments, QStrin
         *error = m_folder->errorString();
         return false;
     }
-    m_socketPath = m_folder->filePath(QString::fromLatin1(SERVER_NAME));
+    m_socketPath = m_folder->filePath(QString::fromLatin1(Wire::kServerName));
     m_process = std::make_unique<BoundProcess>();
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("TMPDIR"), m_folder->path());

@@ -18,7 +18,7 @@ void CallDesk::placeCall(const QString &userId)
     enter(Phase::Calling);
     if (m_robot == nullptr) {
         m_outlet.note(QStringLiteral("nobody has the id %1").arg(userId));
-        after(FAILURE_AFTER_MS, [this] { finish(Code::CallFailed); });
+        after(FAILURE_AFTER_MS, [this] { finish(Wire::Code::CallFailed); });
         return;
     }
     if (m_robot->reply != Reply::Silent) {
@@ -30,8 +30,8 @@ void CallDesk::ring(const Robot &robot)
 {
     m_robot = &robot;
     enter(Phase::Ringing);
-    m_outlet.notify(Code::IncomingCall, QString::fromLatin1(robot.id));
-    after(ROBOT_PATIENCE_MS, [this] { finish(Code::PeerCanceled); });
+    m_outlet.notify(Wire::Code::IncomingCall, QString::fromLatin1(robot.id));
+    after(ROBOT_PATIENCE_MS, [this] { finish(Wire::Code::PeerCanceled); });
 }
 
 void CallDesk::accept()
@@ -68,16 +68,16 @@ void CallDesk::reply(const Robot &robot)
         connectCall(robot);
         break;
     case Reply::Busy:
-        finish(Code::PeerBusy);
+        finish(Wire::Code::PeerBusy);
         break;
     case Reply::Rejects:
-        finish(Code::PeerRejected);
+        finish(Wire::Code::PeerRejected);
         if (robot.then != Return::Nothing) {
             emit returnWanted(robot);
         }
         break;
     case Reply::Fails:
-        finish(Code::CallFailed);
+        finish(Wire::Code::CallFailed);
         break;
     case Reply::Silent:
         break;
@@ -87,13 +87,13 @@ void CallDesk::reply(const Robot &robot)
 void CallDesk::connectCall(const Robot &robot)
 {
     enter(Phase::Connected);
-    m_outlet.notify(Code::CallConnected);
+    m_outlet.notify(Wire::Code::CallConnected);
     if (robot.hangsUpAfterMs > 0) {
-        after(robot.hangsUpAfterMs, [this] { finish(Code::PeerHangup); });
+        after(robot.hangsUpAfterMs, [this] { finish(Wire::Code::PeerHangup); });
     }
 }
 
-void CallDesk::finish(Code code)
+void CallDesk::finish(Wire::Code code)
 {
     end();
     m_outlet.notify(code);

@@ -48,7 +48,7 @@ private:
     void after(int delayMs, const std::function<void()> &action);
     void reply(const Robot &robot);
     void connectCall(const Robot &robot);
-    void finish(Code code);
+    void finish(Wire::Code code);
 
     Outlet &m_outlet;
     Phase m_phase = Phase::None;

@@ -1,5 +1,7 @@
 #include "callprocess/ConferenceDesk.h"
 
+#include "robots/RobotIds.h"
+
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -12,9 +14,7 @@ namespace {
 constexpr int CREATED_AFTER_MS = 200;
 constexpr int CONNECT_AFTER_MS = 300;
 constexpr int ANOTHER_AFTER_MS = 1000;
-constexpr const char *INVITED_WITH = "30010001";
 constexpr const char *ANOTHER_CONFERENCE = "another";
-constexpr const char *EVERYBODY = "non_moderator";
 
 /// A word of control and how the trace tells that it was obeyed.
 struct ControlRow
@@ -23,7 +23,8 @@ struct ControlRow
     const char *done;
 };
 
-constexpr std::array<ControlRow, 3> CONTROLS{{{"kick", "kicked"}, {"mute", "muted"}, {"unmute", "unmuted"}}};
+constexpr std::array<ControlRow, 3> CONTROLS{
+    {{Wire::kKick, "kicked"}, {Wire::kMute, "muted"}, {Wire::kUnmute, "unmuted"}}};
 
 QString compact(const QJsonObject &object)
 {
@@ -44,10 +45,10 @@ void ConferenceDesk::request(const QString &ownId, const QStringList &members)
         if (!members.isEmpty() && std::none_of(members.begin(), members.end(), reachable)) {
             m_outlet.note(QStringLiteral("no conference: nobody can be reached"));
             end();
-            m_outlet.notify(Code::ConfCreated);
+            m_outlet.notify(Wire::Code::ConfCreated);
             return;
         }
-        m_outlet.notify(Code::ConfCreated,
+        m_outlet.notify(Wire::Code::ConfCreated,
                         compact({{QStringLiteral("result"), QJsonObject{{QStringLiteral("confId"), m_confId}}}}));
         afterInConference(CONNECT_AFTER_MS, [this, members] {
             join(nullptr);
@@ -67,10 +68,10 @@ void ConferenceDesk::invite(const Robot &robot, const QString &ownId)
         m_createTime = 0;
     }
     m_connected.append(creator);
-    m_outlet.notify(Code::IncomingConf, document(creator));
+    m_outlet.notify(Wire::Code::IncomingConf, document(creator));
     afterInConference(ROBOT_PATIENCE_MS, [this] {
         end();
-        m_outlet.notify(Code::PeerCanceled);
+        m_outlet.notify(Wire::Code::PeerCanceled);
     });
 }
 
@@ -83,7 +84,7 @@ void ConferenceDesk::accept()
     m_timers = std::make_unique<QObject>();
     afterInConference(CONNECT_AFTER_MS, [this] {
         join(findRobot(m_creator));
-        callMembers({QString::fromLatin1(INVITED_WITH)});
+        callMembers({QString::fromLatin1(Robots::answers)});
         if (findRobot(m_creator)->then == Return::InvitesUntimed) {
             afterInConference(ANOTHER_AFTER_MS, [this] { tellOfAnotherConference(); });
         }
@@ -112,9 +113,9 @@ void ConferenceDesk::control(const QString &operation, const QString &userId)
     m_outlet.note(QStringLiteral("%1 %2").arg(QLatin1String(row->done), obeying.join(QLatin1Char(' '))));
     for (const QString &id : obeying) {
         m_muted.removeAll(id);
-        if (operation == QLatin1String("mute")) {
+        if (operation == QLatin1String(Wire::kMute)) {
             m_muted.append(id);
-        } else if (operation == QLatin1String("kick")) {
+        } else if (operation == QLatin1String(Wire::kKick)) {
             memberLeaves(id);
         }
     }
@@ -124,7 +125,7 @@ void ConferenceDesk::control(const QString &operation, const QString &userId)
 /// The connected members whom a word of control for this id is meant for.
 QStringList ConferenceDesk::controlled(const QString &userId) const
 {
-    const bool everybody = userId == QLatin1String(EVERYBODY);
+    const bool everybody = userId == QLatin1String(Wire::kEverybody);
     QStringList ids;
     for (const QString &id : m_connected) {
         if (id != m_ownId && (everybody ? id != m_creator : id == userId)) {
@@ -169,12 +170,12 @@ void ConferenceDesk::join(const Robot *creator)
 {
     m_phase = Phase::Joined;
     m_connected.append(m_ownId);
-    m_outlet.notify(Code::CallConnected);
-    m_outlet.notify(Code::ConfUpdate, document(m_ownId));
+    m_outlet.notify(Wire::Code::CallConnected);
+    m_outlet.notify(Wire::Code::ConfUpdate, document(m_ownId));
     if (creator != nullptr && creator->hangsUpAfterMs > 0) {
         afterInConference(creator->hangsUpAfterMs, [this] {
             end();
-            m_outlet.notify(Code::CallEnded);
+            m_outlet.notify(Wire::Code::CallEnded);
         });
     }
 }
@@ -214,9 +215,9 @@ void ConferenceDesk::memberReplies(const Robot &robot)
 {
     const QString id = QString::fromLatin1(robot.id);
     if (robot.reply == Reply::Busy) {
-        m_outlet.notify(Code::UserRejected, id);
+        m_outlet.notify(Wire::Code::UserRejected, id);
     } else if (robot.reply == Reply::Rejects) {
-        m_outlet.notify(Code::ConfMemberRejected, id);
+        m_outlet.notify(Wire::Code::ConfMemberRejected, id);
     } else {
         memberJoins(robot);
     }
@@ -226,7 +227,7 @@ void ConferenceDesk::memberJoins(const Robot &robot)
 {
     const QString id = QString::fromLatin1(robot.id);
     m_connected.append(id);
-    m_outlet.notify(Code::ConfUpdate, document(id));
+    m_outlet.notify(Wire::Code::ConfUpdate, document(id));
     if (robot.hangsUpAfterMs == 0) {
         return;
     }
@@ -244,24 +245,25 @@ void ConferenceDesk::memberLeaves(const QString &id)
     m_connected.removeAll(id);
     m_muted.removeAll(id);
     m_memberTimers.erase(id);
-    m_outlet.notify(Code::ConfMemberLeft, document(id));
+    m_outlet.notify(Wire::Code::ConfMemberLeft, document(id));
 }
 
 /// A conference that the plug-in has nothing to do with: none of these lines may have an effect on the members.
 void ConferenceDesk::tellOfAnotherConference()
 {
     const QString another = QString::fromLatin1(ANOTHER_CONFERENCE);
-    const QString member = QStringLiteral("30010006");
+    const QString member = QString::fromLatin1(Robots::hangsUp);
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    m_outlet.notify(Code::ConfUpdate, document(another, member, {member}, now));
-    m_outlet.notify(Code::ConfMemberLeft, document(another, m_creator, {}, now));
-    m_outlet.notify(Code::IncomingConf, document(another, member, {member}, now));
+    m_outlet.notify(Wire::Code::ConfUpdate, document(another, member, {member}, now));
+    m_outlet.notify(Wire::Code::ConfMemberLeft, document(another, m_creator, {}, now));
+    m_outlet.notify(Wire::Code::IncomingConf, document(another, member, {member}, now));
 }
 
 void ConferenceDesk::tellAddResult(const QStringList &failed)
 {
     const QJsonObject result{{QStringLiteral("failedNums"), QJsonArray::fromStringList(failed)}};
-    m_outlet.notify(Code::ConfAddResult, compact({{QStringLiteral("status"), 0}, {QStringLiteral("result"), result}}));
+    m_outlet.notify(Wire::Code::ConfAddResult,
+                    compact({{QStringLiteral("status"), 0}, {QStringLiteral("result"), result}}));
 }
 
 QString ConferenceDesk::document(const QString &from) const

@@ -7,41 +7,37 @@
 /// Which function serves a command, null for one that a robot would not notice.
 struct ExchangeRow
 {
-    const char *command;
+    Wire::Command command;
     void (Exchange::*serve)(const Command &);
 
-    static const ExchangeRow *find(const QString &command);
+    static const ExchangeRow &of(Wire::Command command);
 };
 
-const ExchangeRow *ExchangeRow::find(const QString &command)
+const ExchangeRow &ExchangeRow::of(Wire::Command command)
 {
     // clang-format off
-    static constexpr std::array<ExchangeRow, COMMANDS.size()> ROWS{{
-        {"RegeditUser",       &Exchange::registerUser},
-        {"UnReg",             &Exchange::unregisterUser},
-        {"CallUser",          &Exchange::callUser},
-        {"RequestConference", &Exchange::requestConference},
-        {"Add2Conference",    &Exchange::addToConference},
-        {"AcceptCall",        &Exchange::acceptCall},
-        {"AcceptConf",        &Exchange::acceptConference},
-        {"RejectCall",        &Exchange::endCall},
-        {"RejectConf",        &Exchange::endConference},
-        {"HangUpCall",        &Exchange::endCall},
-        {"HangupConf",        &Exchange::endConference},
-        {"ControlConf",       &Exchange::controlConference},
-        {"SetMicEnable",      nullptr},
-        {"SetSpeakerEnble",   nullptr},
-        {"SetCamreraEnable",  nullptr},
-        {"SetMicVolume",      nullptr},
-        {"SetSpeakerVolume",  nullptr},
+    static constexpr std::array<ExchangeRow, Wire::kCommands.size()> ROWS{{
+        {Wire::Command::RegeditUser,       &Exchange::registerUser},
+        {Wire::Command::UnReg,             &Exchange::unregisterUser},
+        {Wire::Command::CallUser,          &Exchange::callUser},
+        {Wire::Command::RequestConference, &Exchange::requestConference},
+        {Wire::Command::Add2Conference,    &Exchange::addToConference},
+        {Wire::Command::AcceptCall,        &Exchange::acceptCall},
+        {Wire::Command::AcceptConf,        &Exchange::acceptConference},
+        {Wire::Command::RejectCall,        &Exchange::endCall},
+        {Wire::Command::RejectConf,        &Exchange::endConference},
+        {Wire::Command::HangUpCall,        &Exchange::endCall},
+        {Wire::Command::HangupConf,        &Exchange::endConference},
+        {Wire::Command::ControlConf,       &Exchange::controlConference},
+        {Wire::Command::SetMicEnable,      nullptr},
+        {Wire::Command::SetSpeakerEnble,   nullptr},
+        {Wire::Command::SetCamreraEnable,  nullptr},
+        {Wire::Command::SetMicVolume,      nullptr},
+        {Wire::Command::SetSpeakerVolume,  nullptr},
     }};
     // clang-format on
-    for (const ExchangeRow &row : ROWS) {
-        if (command == QLatin1String(row.command)) {
-            return &row;
-        }
-    }
-    return nullptr;
+    static_assert(Wire::tellOfEveryCommand(ROWS), "a command that nobody serves");
+    return ROWS.at(static_cast<std::size_t>(command));
 }
 
 Exchange::Exchange(Channel &channel, Trace &trace, double speed, QObject *parent)
@@ -59,13 +55,14 @@ void Exchange::handleLine(const QByteArray &line)
         return;
     }
     reason = shapeFault(*command);
-    const ExchangeRow *row = ExchangeRow::find(command->name);
-    if (!reason.isEmpty() || row == nullptr) {
+    if (!reason.isEmpty()) {
         m_trace.complaint(reason);
         return;
     }
-    if (row->serve != nullptr) {
-        (this->*row->serve)(*command);
+    // What has the right shape has a row.
+    const ExchangeRow &row = ExchangeRow::of(findCommand(command->name)->command);
+    if (row.serve != nullptr) {
+        (this->*row.serve)(*command);
     }
 }
 
@@ -77,9 +74,9 @@ void Exchange::registerUser(const Command &command)
     }
     m_userId = userId;
     const bool registered = !m_userId.isEmpty();
-    m_outlet.notify(Code::SdkFlag, registered ? QStringLiteral("true") : QStringLiteral("false"));
-    m_outlet.notify(Code::SdkLog, registered ? QStringLiteral("registered %1").arg(m_userId)
-                                             : QStringLiteral("not registered: no user id"));
+    m_outlet.notify(Wire::Code::SdkFlag, registered ? QStringLiteral("true") : QStringLiteral("false"));
+    m_outlet.notify(Wire::Code::SdkLog, registered ? QStringLiteral("registered %1").arg(m_userId)
+                                                   : QStringLiteral("not registered: no user id"));
 }
 
 void Exchange::unregisterUser(const Command & /*command*/)
@@ -92,7 +89,7 @@ void Exchange::callUser(const Command &command)
 {
     if (m_userId.isEmpty()) {
         m_outlet.note(QStringLiteral("the caller is not registered"));
-        m_outlet.notify(Code::CallFailed);
+        m_outlet.notify(Wire::Code::CallFailed);
         return;
     }
     m_conferences.end();
@@ -103,7 +100,7 @@ void Exchange::requestConference(const Command &command)
 {
     if (m_userId.isEmpty()) {
         m_outlet.note(QStringLiteral("the caller is not registered"));
-        m_outlet.notify(Code::ConfCreated);
+        m_outlet.notify(Wire::Code::ConfCreated);
         return;
     }
     m_calls.end();

@@ -8,7 +8,7 @@
 
 Outlet::Outlet(Channel &channel, Trace &trace, double speed) : m_channel(channel), m_trace(trace), m_speed(speed) {}
 
-void Outlet::notify(Code code, const QString &content)
+void Outlet::notify(Wire::Code code, const QString &content)
 {
     m_channel.write(notificationLine(static_cast<int>(code), content));
 }

@@ -18,7 +18,7 @@ public:
     Outlet(Channel &channel, Trace &trace, double speed);
 
     /// Sends one notification, as one line of its own. Without a client it is lost.
-    void notify(Code code, const QString &content = {});
+    void notify(Wire::Code code, const QString &content = {});
     /// Writes an event to the trace.
     void note(const QString &text);
     /// Calls `action` after the delay divided by the speed, unless `context` is gone by then.

@@ -1,7 +1,6 @@
 #pragma once
 
-// The robots of the exchange, one row each: whom one can call and what then happens. Ids are plain user ids. A robot's
-// answer to a call is also its answer to a conference. Values only.
+// The robots of the exchange: whom one can call and what then happens. Rows of robots/Robots.def. Values only.
 
 #include <QString>
 
@@ -39,21 +38,13 @@ struct Robot
     int thenAfterMs; ///< from the rejection to the robot's own call, or from leaving to joining again
 };
 
-// clang-format off
-inline constexpr std::array<Robot, 10> ROBOTS{{
-    // id         name               reply           after  hangs up  then                    after
-    {"30010001", "robot-answers",    Reply::Answers, 1500,      0,    Return::Nothing,           0},
-    {"30010002", "robot-busy",       Reply::Busy,    1000,      0,    Return::Nothing,           0},
-    {"30010003", "robot-rejects",    Reply::Rejects, 2000,      0,    Return::Nothing,           0},
-    {"30010004", "robot-never",      Reply::Silent,     0,      0,    Return::Nothing,           0},
-    {"30010005", "robot-fails",      Reply::Fails,    500,      0,    Return::Nothing,           0},
-    {"30010006", "robot-hangs-up",   Reply::Answers, 1500,  10000,    Return::Nothing,           0},
-    {"30010007", "robot-calls-you",  Reply::Rejects, 1000,  20000,    Return::Calls,          3000},
-    {"30010008", "robot-invites",    Reply::Rejects, 1000,  30000,    Return::Invites,        3000},
-    {"30010009", "robot-comes-back", Reply::Answers, 2500,   6000,    Return::Rejoins,        4000},
-    {"30010010", "robot-crosses",    Reply::Rejects, 1000,  30000,    Return::InvitesUntimed, 3000},
-}};
-// clang-format on
+/// Every robot, in the order of the table.
+inline constexpr std::array ROBOTS{
+#define ROBOT(word, id, name, reply, replyAfter, hangsUpAfter, then, thenAfter)                                        \
+    Robot{id, name, Reply::reply, replyAfter, hangsUpAfter, Return::then, thenAfter},
+#include "robots/Robots.def"
+#undef ROBOT
+};
 
 /// How long a robot that calls or invites lets it ring before it gives up.
 inline constexpr int ROBOT_PATIENCE_MS = 30000;

@@ -122,7 +122,7 @@ private:
             for (const ScenarioWord &word : words) {
                 statement.commands.append(commandName(word));
             }
-            if (statement.commands.contains(QLatin1String(QUIT_LINE))) {
+            if (statement.commands.contains(QLatin1String(Wire::kQuitLine))) {
                 fail(QStringLiteral("\"quit\" cannot be ignored"));
             }
             break;
@@ -158,8 +158,8 @@ private:
     void readExpectation(Statement &statement, const Words &words)
     {
         statement.commands.append(commandName(words.at(0)));
-        const CommandRow *row = findCommand(statement.commands.constFirst());
-        const int known = row == nullptr ? 0 : parameterCount(*row);
+        const Wire::CommandRow *row = findCommand(statement.commands.constFirst());
+        const int known = row == nullptr ? 0 : Wire::parameterCount(*row);
         for (const ScenarioWord &word : words.mid(1)) {
             const int equals = word.text.indexOf('=');
             const ExpectedParameter parameter{QString::fromUtf8(word.text.left(equals)),
@@ -181,7 +181,7 @@ private:
     QString commandName(const ScenarioWord &word)
     {
         QString name = QString::fromUtf8(word.text);
-        if (findCommand(name) == nullptr && name != QLatin1String(QUIT_LINE)) {
+        if (findCommand(name) == nullptr && name != QLatin1String(Wire::kQuitLine)) {
             fail(QStringLiteral("unknown command \"%1\"").arg(name));
         }
         return name;
@@ -191,7 +191,7 @@ private:
     {
         bool valid = false;
         const int code = words.at(0).text.toInt(&valid);
-        if (!valid || !isNotification(code)) {
+        if (!valid || Wire::findNotification(code) == nullptr) {
             fail(QStringLiteral("no notification has the code \"%1\" (use \"raw\" for what no call process sends)")
                      .arg(QString::fromUtf8(words.at(0).text)));
             return {};

@@ -49,7 +49,7 @@ void ScenarioPlayer::handleQuit()
     }
     m_quit = true;
     m_restOfLine.clear();
-    m_arrivals.enqueue({Command{QString::fromLatin1(QUIT_LINE), {}}, QUIT_LINE});
+    m_arrivals.enqueue({Command{QString::fromLatin1(Wire::kQuitLine), {}}, Wire::kQuitLine});
     // Nothing can be sent any more, so the rest is gone through without its delays.
     if (m_waiting == Waiting::Line) {
         serveArrivals();
@@ -194,7 +194,7 @@ void ScenarioPlayer::serveArrivals()
 {
     while (!m_arrivals.isEmpty() && (m_waiting == Waiting::Line || m_waiting == Waiting::Quiet)) {
         const Arrival arrival = m_arrivals.dequeue();
-        const bool isQuit = arrival.line == QUIT_LINE;
+        const bool isQuit = arrival.line == Wire::kQuitLine;
         if (m_waiting == Waiting::Quiet) {
             if (isQuit) {
                 m_arrivals.prepend(arrival);

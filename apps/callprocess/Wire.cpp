@@ -64,17 +64,9 @@ QStringList Command::texts(int number) const
     return list;
 }
 
-const CommandRow *findCommand(const QString &name)
+const Wire::CommandRow *findCommand(const QString &name)
 {
-    const auto *row = std::find_if(COMMANDS.begin(), COMMANDS.end(),
-                                   [&](const CommandRow &entry) { return name == QLatin1String(entry.name); });
-    return row == COMMANDS.end() ? nullptr : row;
-}
-
-bool isNotification(int code)
-{
-    return std::any_of(NOTIFICATIONS.begin(), NOTIFICATIONS.end(),
-                       [code](const NotificationRow &row) { return static_cast<int>(row.code) == code; });
+    return Wire::findCommand(name.toStdString());
 }
 
 std::optional<Command> parseCommand(const QByteArray &line, QString *reason)
@@ -102,7 +94,7 @@ std::optional<Command> parseCommand(const QByteArray &line, QString *reason)
 
 QString shapeFault(const Command &command)
 {
-    const CommandRow *row = findCommand(command.name);
+    const Wire::CommandRow *row = findCommand(command.name);
     if (row == nullptr) {
         return QStringLiteral("unknown command \"%1\"").arg(command.name);
     }

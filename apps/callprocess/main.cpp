@@ -48,7 +48,7 @@ int serve(const Options &options, std::optional<Scenario> scenario, Channel &cha
     if (!scenario) {
         Exchange exchange(channel, trace, options.speed);
         QObject::connect(&channel, &Channel::lineReceived, &exchange, [&](const QByteArray &line) {
-            if (line == QUIT_LINE) {
+            if (line == Wire::kQuitLine) {
                 trace.event(QStringLiteral("quit"));
                 QCoreApplication::exit(0);
             } else {
@@ -60,7 +60,7 @@ int serve(const Options &options, std::optional<Scenario> scenario, Channel &cha
     ScenarioPlayer player(std::move(*scenario), channel, trace, options.speed);
     QObject::connect(&player, &ScenarioPlayer::finished, qApp, &QCoreApplication::exit);
     QObject::connect(&channel, &Channel::lineReceived, &player, [&](const QByteArray &line) {
-        if (line == QUIT_LINE) {
+        if (line == Wire::kQuitLine) {
             player.handleQuit();
         } else {
             player.handleLine(line);

@@ -2,6 +2,7 @@
 #include "GalleryUser.h"
 #include "GalleryWindow.h"
 #include "HostCatalogue.h"
+#include "HostLanguage.h"
 #include "PictureRun.h"
 #include "WindowFont.h"
 
@@ -38,9 +39,14 @@ Options readOptions(const QCoreApplication &app)
     const QCommandLineOption page(QStringLiteral("page"),
                                   QStringLiteral("Only this page, or this page first: %1.").arg(GalleryPages::names()),
                                   QStringLiteral("name"));
-    const QCommandLineOption language(QStringLiteral("language"),
-                                      QStringLiteral("Language of the kit's words: zh_CN, zh_TW, en."),
-                                      QStringLiteral("language"), QStringLiteral("zh_CN"));
+    QStringList languages;
+    for (const HostLanguage::Choice &choice : HostLanguage::choices()) {
+        languages << choice.setting;
+    }
+    const QCommandLineOption language(
+        QStringLiteral("language"),
+        QStringLiteral("Language of the kit's words: %1.").arg(languages.join(QStringLiteral(", "))),
+        QStringLiteral("language"), QStringLiteral("zh_CN"));
     parser.addOptions({picture, page, language});
     parser.process(app);
     return {parser.isSet(picture) ? QDir(parser.value(picture)).absolutePath() : QString(), parser.value(page),

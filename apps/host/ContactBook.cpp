@@ -1,6 +1,7 @@
 #include "ContactBook.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace {
 
@@ -15,20 +16,32 @@ struct Row
     const char *photo;
 };
 
-// The robots of the stand-in call process go by these ids.
+// The robots of the stand-in call process, in the order of their ids.
 constexpr Row rows[] = {
-    {"30010001", "李雷", "Answers", "学而时习之，不亦说乎", true, Presence::Online, "1.jpg"},
-    {"30010002", "Maria Silva", "Busy", "Back in five minutes", true, Presence::Busy, "15.jpg"},
-    {"30010003", "王芳", "Rejects", "Please write instead", true, Presence::Online, "11.jpg"},
-    {"30010004", "Tom Baker", "Never answers", "Counting clouds", true, Presence::Away, "10.jpg"},
-    {"30010005", "赵强", "Call fails", "出差中，下周回来", true, Presence::Offline, "7.jpg"},
-    {"30010006", "Anna Novak", "Hangs up after 10 s", "Short and sweet", true, Presence::Online, "6.jpg"},
-    {"30010007", "韩梅梅", "Calls you back", "", false, Presence::Online, "9.jpg"},
-    {"30010008", "Ivan Petrov", "Invites you", "One meeting a day keeps the mail away", true, Presence::Online,
+    {Robots::answers, "李雷", "Answers", "学而时习之，不亦说乎", true, Presence::Online, "1.jpg"},
+    {Robots::busy, "Maria Silva", "Busy", "Back in five minutes", true, Presence::Busy, "15.jpg"},
+    {Robots::rejects, "王芳", "Rejects", "Please write instead", true, Presence::Online, "11.jpg"},
+    {Robots::silent, "Tom Baker", "Never answers", "Counting clouds", true, Presence::Away, "10.jpg"},
+    {Robots::fails, "赵强", "Call fails", "出差中，下周回来", true, Presence::Offline, "7.jpg"},
+    {Robots::hangsUp, "Anna Novak", "Hangs up after 10 s", "Short and sweet", true, Presence::Online, "6.jpg"},
+    {Robots::callsBack, "韩梅梅", "Calls you back", "", false, Presence::Online, "9.jpg"},
+    {Robots::invites, "Ivan Petrov", "Invites you", "One meeting a day keeps the mail away", true, Presence::Online,
      "19.jpg"},
-    {"30010009", "林涛", "Leaves and returns", "去去就来", true, Presence::Online, "4.jpg"},
-    {"30010010", "Sara Klein", "Invites, lines crossed", "Crossing the streams", true, Presence::Online, "17.jpg"},
+    {Robots::comesBack, "林涛", "Leaves and returns", "去去就来", true, Presence::Online, "4.jpg"},
+    {Robots::crosses, "Sara Klein", "Invites, lines crossed", "Crossing the streams", true, Presence::Online, "17.jpg"},
 };
+
+constexpr bool everyRobotIsThere()
+{
+    std::size_t place = 0;
+    for (const Row &row : rows) {
+        if (place == Robots::kIds.size() || row.uid != std::string_view(Robots::kIds.at(place++))) {
+            return false;
+        }
+    }
+    return place == Robots::kIds.size();
+}
+static_assert(everyRobotIsThere(), "a robot that is in nobody's list of contacts");
 
 constexpr const char *ownName = "小明";
 constexpr const char *ownAlternative = "You";

@@ -3,6 +3,7 @@
 #include "Presence.h"
 
 #include "model/FriendData.h"
+#include "robots/RobotIds.h"
 
 #include <QList>
 #include <QMap>
@@ -32,7 +33,7 @@ public:
     explicit ContactBook(const QString &strDomain);
 
     /// User id of the signed-in user, for tables.
-    static constexpr const char *ownId = "30010000";
+    static constexpr const char *ownId = Robots::ownUser;
     /// The same as a text.
     static QString ownUid();
 

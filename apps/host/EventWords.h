@@ -1,14 +1,16 @@
 #pragma once
 
+#include "Sentence.h"
+
 #include "plugin/EMsgId.h"
 
 #include <QByteArray>
 #include <QString>
-#include <QVariant>
 
-/// Says in words what an event between host and plug-in carries: for the status line, the log and the guided tour.
+/// Says in words what an event between host and plug-in carries, for the status line, the log and the guided tour, and
+/// in a sentence what it means.
 ///
-/// It knows each command's name and the fields of its payload and of its answer, as one table. No state.
+/// One table has both for each event; the fields are those of plugin/HostEvents.h. No state.
 class EventWords
 {
 public:
@@ -19,13 +21,12 @@ public:
     /// The answer of a synchronous command, "known=yes"; empty for a command that is not answered.
     static QString answer(EMsgId msgId, const QByteArray &payload);
 
-    /// The fields of the payload and, of a question, those of its answer: truth values (of an address: whether there is
-    /// one), numbers, texts, lists of texts, a call's end as its word. Empty for an unknown command.
-    static QVariantList values(EMsgId msgId, const QByteArray &payload, const QByteArray &reply);
+    /// The sentence of a command with its payload; `reply` is the payload that a question was answered with.
+    static Sentence say(EMsgId msgId, const QByteArray &payload, const QByteArray &reply);
 
     /// Whether the command is a question, answered within its delivery.
     static bool isQuestion(EMsgId msgId);
 
-    /// Number of commands in the table. For tests.
-    static int count();
+    /// Whether the command is one of the contract.
+    static bool isKnown(EMsgId msgId);
 };

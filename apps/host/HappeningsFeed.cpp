@@ -1,6 +1,6 @@
 #include "HappeningsFeed.h"
 
-#include "EventSentences.h"
+#include "EventWords.h"
 #include "HostSession.h"
 #include "WireWords.h"
 
@@ -82,9 +82,9 @@ void HappeningsFeed::noteEvent(bool bFromPlugin, int iMsgId, const QString &strW
     const auto msgId = EMsgId(iMsgId);
     Happening happening;
     happening.time = QDateTime::currentMSecsSinceEpoch();
-    happening.kind = EventSentences::isKnown(msgId) ? Happening::Event : Happening::Error;
+    happening.kind = EventWords::isKnown(msgId) ? Happening::Event : Happening::Error;
     happening.way = bFromPlugin ? Happening::PluginToClient : Happening::ClientToPlugin;
-    happening.sentence = EventSentences::say(msgId, payload, reply);
+    happening.sentence = EventWords::say(msgId, payload, reply);
     happening.raw = strAnswer.isEmpty() ? strWords : strWords + QStringLiteral(" => ") + strAnswer;
     happening.raw = ShownText::plain(m_mask.masked(happening.raw), HappeningsModel::longestRaw);
     add(std::move(happening));

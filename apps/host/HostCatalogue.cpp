@@ -15,10 +15,10 @@ struct Language
 };
 
 constexpr Language languages[] = {
-    {"zh_CN", "zh_CN"},
-    {"zh_TW", "zh_TW"},
-    {"en", "en"},
-    {"uk", "en"},
+#define LANGUAGE(suffix, ownName) {#suffix, #suffix},
+#include "Languages.def"
+#undef LANGUAGE
+    {"uk", "en"}, // its older name
 };
 
 } // namespace

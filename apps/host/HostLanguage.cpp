@@ -11,9 +11,9 @@
 const std::vector<HostLanguage::Choice> &HostLanguage::choices()
 {
     static const std::vector<Choice> all = {
-        {QStringLiteral("zh_CN"), QStringLiteral("简体中文")},
-        {QStringLiteral("zh_TW"), QStringLiteral("繁體中文")},
-        {QStringLiteral("en"), QStringLiteral("English")},
+#define LANGUAGE(suffix, ownName) {QStringLiteral(#suffix), QStringLiteral(ownName)},
+#include "Languages.def"
+#undef LANGUAGE
     };
     return all;
 }

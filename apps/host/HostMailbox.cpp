@@ -5,6 +5,7 @@
 
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
+#include "plugin/HostEvents.h"
 #include "plugin/PluginIds.h"
 
 namespace {
@@ -24,22 +25,23 @@ void HostMailbox::customEvent(QEvent *event)
 {
     struct Row
     {
-        const QString &receiver;
+        const QString &(*receiver)();
         EMsgId msgId;
         void (HostMailbox::*handle)(BaseEvent &);
     };
-    static const Row rows[] = {
-        {sessionPluginId(), MSG_RECEVIE_VOIP_CALL, &HostMailbox::promptCall},
-        {sessionPluginId(), MSG_CALL_FINISHED, &HostMailbox::writeRecord},
-        {sessionPluginId(), MSG_CREATE_VOICE_CONFERENCE, &HostMailbox::createConference},
-        {sessionPluginId(), MSG_ADD_CONFERENCE_MEMBER, &HostMailbox::pickMembers},
-        {contactPluginId(), MSG_GET_FRIEND_INFO, &HostMailbox::findRecord},
-        {contactPluginId(), MSG_IS_EXIST_FRIEND, &HostMailbox::testFriend},
-        {vcardPluginId(), MSG_GET_STRANGER_SMALL_VCARD, &HostMailbox::fetchCards},
-        {msgBoxPluginId(), MSG_CLOSE_AV_MSGBOX, &HostMailbox::closePrompt},
-        {signListPluginId(), MSG_SHOW_SIGN_LIST, &HostMailbox::showSignature},
-        {signListPluginId(), MSG_CLOSE_SIGN_LIST, &HostMailbox::hideSignature},
+    static constexpr Row rows[] = {
+        {sessionPluginId, MSG_RECEVIE_VOIP_CALL, &HostMailbox::promptCall},
+        {sessionPluginId, MSG_CALL_FINISHED, &HostMailbox::writeRecord},
+        {sessionPluginId, MSG_CREATE_VOICE_CONFERENCE, &HostMailbox::createConference},
+        {sessionPluginId, MSG_ADD_CONFERENCE_MEMBER, &HostMailbox::pickMembers},
+        {contactPluginId, MSG_GET_FRIEND_INFO, &HostMailbox::findRecord},
+        {contactPluginId, MSG_IS_EXIST_FRIEND, &HostMailbox::testFriend},
+        {vcardPluginId, MSG_GET_STRANGER_SMALL_VCARD, &HostMailbox::fetchCards},
+        {msgBoxPluginId, MSG_CLOSE_AV_MSGBOX, &HostMailbox::closePrompt},
+        {signListPluginId, MSG_SHOW_SIGN_LIST, &HostMailbox::showSignature},
+        {signListPluginId, MSG_CLOSE_SIGN_LIST, &HostMailbox::hideSignature},
     };
+    static_assert(tellOfEveryEvent(rows, EventWay::Request), "a request that nobody takes");
     if (event->type() != QEvent::User) {
         return;
     }
@@ -52,7 +54,7 @@ void HostMailbox::customEvent(QEvent *event)
         emit eventReceived(message.msgId, words, QString(), payload, QByteArray());
     }
     for (const Row &row : rows) {
-        if (row.msgId == message.msgId && row.receiver == message.receiverId) {
+        if (row.msgId == message.msgId && row.receiver() == message.receiverId) {
             (this->*row.handle)(message);
         }
     }

@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int uidRole = Qt::UserRole;
 constexpr int headSize = 32;
 
 } // namespace

@@ -27,6 +27,9 @@ public:
         MoreMembers    ///< the people named are in the conference and left out of the list
     };
 
+    /// The item data of a row that holds the user id.
+    static constexpr int uidRole = Qt::UserRole;
+
     MemberPicker(const ContactBook &book, Purpose purpose, const QStringList &named, QWidget *parent);
     ~MemberPicker() override;
 

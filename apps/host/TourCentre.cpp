@@ -12,6 +12,8 @@
 #include <memory>
 
 using namespace TourCast;
+using Wire::Code;
+using Wire::Command;
 
 namespace {
 
@@ -97,12 +99,12 @@ Steps callAgain(const TourScript &s)
            Steps{
                {u("Invite them: the conference runs once more"),
                 s.pressPicker("btnInvite"),
-                {s.pickerGone(), s.asked(MSG_CALL_CONFERENCE), s.command("RequestConference"), s.memberCount(6),
-                 s.code(18, "connected"), s.member(busy, "Maria Silva", ConferenceRejected),
+                {s.pickerGone(), s.asked(MSG_CALL_CONFERENCE), s.command(Command::RequestConference), s.memberCount(6),
+                 s.code(Code::CallConnected, "connected"), s.member(busy, "Maria Silva", ConferenceRejected),
                  s.member(hangsUp, "Anna Novak", ConferenceConnected), s.clockRuns()}},
                {u("Hang up: the centre, still open, has the new conference on top"),
                 s.pressCallWindow("HangUp"),
-                {s.command("HangupConf"), s.windowGone(), s.recordCount(3)}},
+                {s.command(Command::HangupConf), s.windowGone(), s.recordCount(3)}},
            };
 }
 

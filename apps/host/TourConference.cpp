@@ -11,6 +11,8 @@
 #include "ui/MemberRoles.h"
 
 using namespace TourCast;
+using Wire::Code;
+using Wire::Command;
 
 namespace {
 
@@ -37,14 +39,15 @@ Steps start(const TourScript &s)
         {u("Invite them: some join, one is busy, one rejects, one never answers, one cannot be reached"),
          s.pressPicker("btnInvite"),
          {s.pickerGone(), s.asked(MSG_CALL_CONFERENCE, u("members=[30010001, 30010002")),
-          s.command("RequestConference"), s.memberCount(6), s.code(20, "conference created"), s.code(18, "connected"),
-          s.code(12, "members"), s.code(21, "result of adding"), s.member(fails, "赵强", ConferenceFailed),
+          s.command(Command::RequestConference), s.memberCount(6), s.code(Code::ConfCreated, "conference created"),
+          s.code(Code::CallConnected, "connected"), s.code(Code::ConfUpdate, "members"),
+          s.code(Code::ConfAddResult, "result of adding"), s.member(fails, "赵强", ConferenceFailed),
           s.member(busy, "Maria Silva", ConferenceRejected), s.member(rejects, "王芳", ConferenceRejected),
           s.member(silent, "Tom Baker", ConferenceCalling), s.member(answers, "李雷", ConferenceConnected),
           s.member(hangsUp, "Anna Novak", ConferenceConnected)}},
         {u("Wait for Anna Novak to leave"),
          {},
-         {s.code(13, "a member has left"), s.member(hangsUp, "Anna Novak", ConferenceHungUp)},
+         {s.code(Code::ConfMemberLeft, "a member has left"), s.member(hangsUp, "Anna Novak", ConferenceHungUp)},
          usualLimitMs,
          u("conference"),
          s.callWindow()},
@@ -56,23 +59,24 @@ Steps control(const TourScript &s)
     return {
         {u("Mute everybody"),
          s.pressCallWindow("btnMuteAll"),
-         {s.command("ControlConf", u("\"param1\":\"mute\",\"param2\":\"non_moderator\"")),
+         {s.command(Command::ControlConf, u("\"param1\":\"mute\",\"param2\":\"non_moderator\"")),
           s.happened(u("muted now: [30010001]"))},
          usualLimitMs,
          u("conference-muted"),
          s.callWindow()},
         {u("Let 李雷 speak again, by the button of the row"),
          s.pressMember(answers, ROLE_MUTE_RECT),
-         {s.command("ControlConf", u("\"param1\":\"unmute\",\"param2\":\"30010001\"")),
+         {s.command(Command::ControlConf, u("\"param1\":\"unmute\",\"param2\":\"30010001\"")),
           s.happened(u("unmuted 30010001"))}},
         {u("Call Anna Novak again, by a double click on her row"),
          s.doubleClickMember(hangsUp),
-         {s.command("Add2Conference", only(hangsUp)), s.member(hangsUp, "Anna Novak", ConferenceCalling),
-          s.code(21, "result of adding"), s.member(hangsUp, "Anna Novak", ConferenceConnected)}},
+         {s.command(Command::Add2Conference, only(hangsUp)), s.member(hangsUp, "Anna Novak", ConferenceCalling),
+          s.code(Code::ConfAddResult, "result of adding"), s.member(hangsUp, "Anna Novak", ConferenceConnected)}},
         {u("Remove 李雷, by the button of the row"),
          s.pressMember(answers, ROLE_REMOVE_RECT),
-         {s.command("ControlConf", u("\"param1\":\"kick\",\"param2\":\"30010001\"")), s.happened(u("kicked 30010001")),
-          s.code(13, "a member has left"), s.memberGone(answers, "李雷"), s.memberCount(5)}},
+         {s.command(Command::ControlConf, u("\"param1\":\"kick\",\"param2\":\"30010001\"")),
+          s.happened(u("kicked 30010001")), s.code(Code::ConfMemberLeft, "a member has left"),
+          s.memberGone(answers, "李雷"), s.memberCount(5)}},
     };
 }
 
@@ -89,7 +93,7 @@ Steps addMore(const TourScript &s)
         {u("Invite: the picker's answer goes back within the question"),
          s.pressPicker("btnInvite"),
          {s.pickerGone(), s.told(MSG_ADD_CONFERENCE_MEMBER, u("users=[30010009]")),
-          s.command("Add2Conference", only(comesBack)), s.memberCount(6),
+          s.command(Command::Add2Conference, only(comesBack)), s.memberCount(6),
           s.member(comesBack, "林涛", ConferenceConnected)}},
     };
 }
@@ -131,7 +135,7 @@ Steps end(const TourScript &s)
 {
     return Steps{{u("Hang up: the conference is over for this side"),
                   s.pressCallWindow("HangUp"),
-                  {s.command("HangupConf"), s.windowGone()}}} +
+                  {s.command(Command::HangupConf), s.windowGone()}}} +
            stored("Look into the user's store", ContactBook::ownUid(),
                   {busy, rejects, silent, fails, hangsUp, ContactBook::ownUid(), comesBack});
 }
@@ -141,17 +145,17 @@ Steps invited(const TourScript &s)
     return Steps{
                {u("Call Ivan Petrov, who rejects and invites to a conference of his own"),
                 s.pressContact(invites, "btnCall"),
-                {s.code(10, "rejected"), s.code(2, "invitation"), s.told(MSG_RECEVIE_VOIP_CALL, u("conference=yes")),
-                 s.prompted(u("Ivan Petrov"))}},
+                {s.code(Code::PeerRejected, "rejected"), s.code(Code::IncomingConf, "invitation"),
+                 s.told(MSG_RECEVIE_VOIP_CALL, u("conference=yes")), s.prompted(u("Ivan Petrov"))}},
                {u("Accept"),
                 s.pressPrompt("btnAccept"),
-                {s.command("AcceptConf"), s.promptGone(), s.code(18, "connected"),
+                {s.command(Command::AcceptConf), s.promptGone(), s.code(Code::CallConnected, "connected"),
                  s.member(invites, "Ivan Petrov", ConferenceConnected), s.member(answers, "李雷", ConferenceConnected),
                  s.clockRuns()},
                 usualLimitMs,
                 u("conference-invited"),
                 s.callWindow()},
-               {u("Wait for Ivan Petrov to end it"), {}, {s.code(7, "ended"), s.windowGone()}},
+               {u("Wait for Ivan Petrov to end it"), {}, {s.code(Code::CallEnded, "ended"), s.windowGone()}},
            } +
            stored("Look into the user's store again", invites, {invites, ContactBook::ownUid(), answers});
 }
@@ -165,7 +169,8 @@ Steps refused(const TourScript &s)
          {s.pickerSays("btnInvite", u("Invite (1)"))}},
         {u("Invite: there is no conference"),
          s.pressPicker("btnInvite"),
-         {s.pickerGone(), s.command("RequestConference", only(fails)), s.code(20, "no conference"), s.windowGone()}},
+         {s.pickerGone(), s.command(Command::RequestConference, only(fails)),
+          s.code(Code::ConfCreated, "no conference"), s.windowGone()}},
     };
 }
 

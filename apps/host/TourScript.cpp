@@ -3,6 +3,7 @@
 #include "CallProcess.h"
 #include "CallRecord.h"
 #include "MainWindow.h"
+#include "MemberPicker.h"
 #include "TourHand.h"
 #include "TourWatch.h"
 #include "WindowProbe.h"
@@ -95,7 +96,7 @@ TourScript::Action TourScript::pick(const QStringList &uids) const
     return [hand = &m_stage.hand, uids] {
         for (const QString &uid : uids) {
             hand->click([uid] {
-                return WindowProbe::rowMiddle(WindowProbe::memberPicker(), {"listPeople", Qt::UserRole, uid});
+                return WindowProbe::rowMiddle(WindowProbe::memberPicker(), {"listPeople", MemberPicker::uidRole, uid});
             });
         }
         return true;
@@ -184,26 +185,27 @@ TourScript::Window TourScript::menu()
     return [] { return QApplication::activePopupWidget(); };
 }
 
-TourCheck TourScript::command(const char *strType, const QString &strPart) const
+TourCheck TourScript::command(Wire::Command command, const QString &strPart) const
 {
-    const QString type = QString::fromLatin1(strType);
+    const QString type = QString::fromLatin1(Wire::nameOf(command));
     const QString words = QStringLiteral("the plug-in has written \"%1\"").arg(type);
     return {strPart.isEmpty() ? words : words + QStringLiteral(" with ") + strPart,
             [watch = &m_stage.watch, type, strPart] { return watch->commanded(type, strPart); }};
 }
 
-TourCheck TourScript::order(const char *strFirst, const char *strSecond) const
+TourCheck TourScript::order(Wire::Command first, Wire::Command second) const
 {
-    const QString first = QString::fromLatin1(strFirst);
-    const QString second = QString::fromLatin1(strSecond);
-    return {QStringLiteral("\"%1\" came before \"%2\"").arg(first, second),
-            [watch = &m_stage.watch, first, second] { return watch->commandedInOrder(first, second); }};
+    const QString former = QString::fromLatin1(Wire::nameOf(first));
+    const QString latter = QString::fromLatin1(Wire::nameOf(second));
+    return {QStringLiteral("\"%1\" came before \"%2\"").arg(former, latter),
+            [watch = &m_stage.watch, former, latter] { return watch->commandedInOrder(former, latter); }};
 }
 
-TourCheck TourScript::code(int iCode, const char *strMeaning) const
+TourCheck TourScript::code(Wire::Code code, const char *strMeaning) const
 {
-    return {QStringLiteral("the call process has reported code %1, %2").arg(iCode).arg(QString::fromUtf8(strMeaning)),
-            [watch = &m_stage.watch, iCode] { return watch->notified(iCode); }};
+    const int number = int(code);
+    return {QStringLiteral("the call process has reported code %1, %2").arg(number).arg(QString::fromUtf8(strMeaning)),
+            [watch = &m_stage.watch, number] { return watch->notified(number); }};
 }
 
 TourCheck TourScript::happened(const QString &strWords) const

@@ -3,6 +3,9 @@
 #include "TourSteps.h"
 #include "WindowProbe.h"
 
+#include "wire/Commands.h"
+#include "wire/Notifications.h"
+
 /// The words in which the tour's steps are written: actions as a person does them, by real buttons, and checks of what
 /// must then be seen. The stage's parts must outlive what is made here. GUI thread.
 class TourScript
@@ -54,9 +57,9 @@ public:
     static Window menu();
 
     // Checks of the lines between plug-in and call process.
-    TourCheck command(const char *strType, const QString &strPart = QString()) const;
-    TourCheck order(const char *strFirst, const char *strSecond) const;
-    TourCheck code(int iCode, const char *strMeaning) const;
+    TourCheck command(Wire::Command command, const QString &strPart = QString()) const;
+    TourCheck order(Wire::Command first, Wire::Command second) const;
+    TourCheck code(Wire::Code code, const char *strMeaning) const;
     TourCheck happened(const QString &strWords) const;
 
     // Checks of the events between plug-in and host.

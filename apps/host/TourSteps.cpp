@@ -22,6 +22,8 @@
 #include <iterator>
 
 using namespace TourCast;
+using Wire::Code;
+using Wire::Command;
 
 namespace {
 
@@ -81,7 +83,8 @@ Steps signIn(const TourScript &s, const TourStage &stage)
         {u("Sign in"),
          s.pressMain("btnOnline"),
          {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=yes")), s.processes(1),
-          s.command("RegeditUser", param1(ContactBook::ownId)), s.command("RegeditUser", u("\"param4\":false"))},
+          s.command(Command::RegeditUser, param1(ContactBook::ownId)),
+          s.command(Command::RegeditUser, u("\"param4\":false"))},
          usualLimitMs,
          u("demo-window"),
          s.mainWindow()},
@@ -91,12 +94,12 @@ Steps signIn(const TourScript &s, const TourStage &stage)
     };
 }
 
-Steps unanswered(const TourScript &s, const char *strUid, const char *strTitle, int iCode, const char *strMeaning,
+Steps unanswered(const TourScript &s, const char *strUid, const char *strTitle, Code code, const char *strMeaning,
                  int iResult)
 {
     return {{u(strTitle),
              s.pressContact(strUid, "btnCall"),
-             {s.command("CallUser", param1(strUid)), s.shows("lblStatus", u(calling)), s.code(iCode, strMeaning),
+             {s.command(Command::CallUser, param1(strUid)), s.shows("lblStatus", u(calling)), s.code(code, strMeaning),
               s.told(MSG_CLOSE_AV_MSGBOX), s.record(iResult, true, false), s.windowGone()}}};
 }
 
@@ -105,14 +108,15 @@ Steps cancel(const TourScript &s)
     return {
         {u("Call Tom Baker, who never answers"),
          s.pressContact(silent, "btnCall"),
-         {s.asked(MSG_CALL_SINGLE_USER), s.command("CallUser", param1(silent)), s.shows("lblVoipTipMsg", u(voiceTitle)),
-          s.shows("lblUserName", u("Tom Baker(Never answers)")), s.shows("lblStatus", u(calling))},
+         {s.asked(MSG_CALL_SINGLE_USER), s.command(Command::CallUser, param1(silent)),
+          s.shows("lblVoipTipMsg", u(voiceTitle)), s.shows("lblUserName", u("Tom Baker(Never answers)")),
+          s.shows("lblStatus", u(calling))},
          usualLimitMs,
          u("call-outgoing"),
          s.callWindow()},
         {u("Cancel it"),
          s.pressCallWindow("btnCancelCall"),
-         {s.command("HangUpCall"), s.record(resultCancelled, true, false), s.windowGone()}},
+         {s.command(Command::HangUpCall), s.record(resultCancelled, true, false), s.windowGone()}},
     };
 }
 
@@ -120,8 +124,8 @@ Steps call(const TourScript &s, const char *strTitle, const QString &strPicture 
 {
     return {{u(strTitle),
              s.pressContact(answers, "btnCall"),
-             {s.command("CallUser", param1(answers)), s.code(18, "connected"), s.shows("lblStatus", u(connected)),
-              s.clockRuns()},
+             {s.command(Command::CallUser, param1(answers)), s.code(Code::CallConnected, "connected"),
+              s.shows("lblStatus", u(connected)), s.clockRuns()},
              usualLimitMs,
              strPicture,
              strPicture.isEmpty() ? TourScript::Window() : s.callWindow()}};
@@ -131,8 +135,9 @@ Steps hangUp(const TourScript &s, const char *strTitle)
 {
     return {{u(strTitle),
              s.pressCallWindow("HangUp"),
-             {s.command("HangUpCall"), s.order("HangUpCall", "SetMicEnable"),
-              s.command("SetSpeakerEnble", u("\"param1\":true")), s.record(resultHungUp, true, true), s.windowGone()}}};
+             {s.command(Command::HangUpCall), s.order(Command::HangUpCall, Command::SetMicEnable),
+              s.command(Command::SetSpeakerEnble, u("\"param1\":true")), s.record(resultHungUp, true, true),
+              s.windowGone()}}};
 }
 
 Steps duringCall(const TourScript &s)
@@ -146,7 +151,7 @@ Steps duringCall(const TourScript &s)
          {}},
         {u("Switch the microphone off"),
          s.pressCallWindow("btnMic"),
-         {s.command("SetMicEnable", u("\"param1\":false"))}},
+         {s.command(Command::SetMicEnable, u("\"param1\":false"))}},
         {u("Try a second call meanwhile"),
          s.pressContact(busy, "btnCall"),
          {s.boxSays(u(lineInUse))},
@@ -164,7 +169,7 @@ Steps video(const TourScript &s, const TourStage &stage)
     return {
         {u("Call 李雷 by video"),
          s.pressContact(answers, "btnVideo"),
-         {s.command("CallUser", u("\"param2\":true")), s.code(18, "connected"),
+         {s.command(Command::CallUser, u("\"param2\":true")), s.code(Code::CallConnected, "connected"),
           s.shows("lblVoipTipMsg", u("与李雷(Answers)(30010001)通话中")), s.clockRuns()},
          usualLimitMs,
          u("call-video"),
@@ -180,7 +185,7 @@ Steps video(const TourScript &s, const TourStage &stage)
          s.messageBox()},
         {u("Confirm"),
          s.pressBox("acceptBtn"),
-         {s.order("SetMicEnable", "HangUpCall"), s.told(MSG_CALL_FINISHED, u("video=yes")),
+         {s.order(Command::SetMicEnable, Command::HangUpCall), s.told(MSG_CALL_FINISHED, u("video=yes")),
           s.record(resultHungUp, true, true), s.windowGone()}},
     };
 }
@@ -190,8 +195,8 @@ Steps farEnd(const TourScript &s)
     return {
         {u("Call Anna Novak, who hangs up after a while"),
          s.pressContact(hangsUp, "btnCall"),
-         {s.code(18, "connected"), s.code(8, "hung up by the other side"), s.record(resultHungUp, true, true),
-          s.windowGone()}},
+         {s.code(Code::CallConnected, "connected"), s.code(Code::PeerHangup, "hung up by the other side"),
+          s.record(resultHungUp, true, true), s.windowGone()}},
     };
 }
 
@@ -200,9 +205,9 @@ Steps callBack(const TourScript &s, const char *strTitle, const QString &strPict
     return {{u(strTitle),
              s.pressContact(callsBack, "btnCall"),
              {s.told(MSG_GET_STRANGER_SMALL_VCARD, QLatin1String(callsBack)), s.asked(MSG_UPDATE_USER_INFO),
-              s.shows("lblUserName", u("韩梅梅(Calls you back)")), s.code(10, "rejected"),
-              s.record(resultRejected, true, false), s.code(0, "incoming call"), s.told(MSG_RECEVIE_VOIP_CALL),
-              s.prompted(u("韩梅梅"))},
+              s.shows("lblUserName", u("韩梅梅(Calls you back)")), s.code(Code::PeerRejected, "rejected"),
+              s.record(resultRejected, true, false), s.code(Code::IncomingCall, "incoming call"),
+              s.told(MSG_RECEVIE_VOIP_CALL), s.prompted(u("韩梅梅"))},
              usualLimitMs,
              strPicture,
              strPicture.isEmpty() ? TourScript::Window() : s.prompt()}};
@@ -215,20 +220,21 @@ Steps incoming(const TourScript &s)
            Steps{
                {u("Accept"),
                 s.pressPrompt("btnAccept"),
-                {s.asked(MSG_RESPONSE_VOIP_REQUEST, u("accept=yes")), s.command("AcceptCall"), s.promptGone(),
-                 s.shows("lblUserName", u("韩梅梅(Calls you back)")), s.code(18, "connected"),
+                {s.asked(MSG_RESPONSE_VOIP_REQUEST, u("accept=yes")), s.command(Command::AcceptCall), s.promptGone(),
+                 s.shows("lblUserName", u("韩梅梅(Calls you back)")), s.code(Code::CallConnected, "connected"),
                  s.shows("lblStatus", u(connected)), s.clockRuns()},
                 usualLimitMs,
                 u("call-incoming"),
                 s.callWindow()},
                {u("Wait for the other side to hang up"),
                 {},
-                {s.code(8, "hung up by the other side"), s.record(resultHungUp, false, true), s.windowGone()}},
+                {s.code(Code::PeerHangup, "hung up by the other side"), s.record(resultHungUp, false, true),
+                 s.windowGone()}},
            } +
            callBack(s, "Let the stranger call once more", QString()) +
            Steps{{u("Reject"),
                   s.pressPrompt("btnReject"),
-                  {s.asked(MSG_RESPONSE_VOIP_REQUEST, u("accept=no")), s.command("RejectCall"), s.promptGone(),
+                  {s.asked(MSG_RESPONSE_VOIP_REQUEST, u("accept=no")), s.command(Command::RejectCall), s.promptGone(),
                    s.record(resultRejected, false, false), s.windowGone()}}};
 }
 
@@ -238,12 +244,13 @@ Steps offline(const TourScript &s)
            Steps{
                {u("Lose the login during the call"),
                 s.pressMain("btnOnline"),
-                {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=no")), s.order("HangUpCall", "UnReg"),
-                 s.command("UnReg", param1(ContactBook::ownId)), s.record(resultHungUp, true, true), s.windowGone()}},
+                {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=no")), s.order(Command::HangUpCall, Command::UnReg),
+                 s.command(Command::UnReg, param1(ContactBook::ownId)), s.record(resultHungUp, true, true),
+                 s.windowGone()}},
                {u("Sign in again"),
                 s.pressMain("btnOnline"),
                 {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=yes")),
-                 s.command("RegeditUser", param1(ContactBook::ownId))}},
+                 s.command(Command::RegeditUser, param1(ContactBook::ownId))}},
            };
 }
 
@@ -266,7 +273,7 @@ Steps killed(const TourScript &s, const TourStage &stage)
                {u("Close the message"), s.pressBox("closeBtn"), {s.boxGone()}},
                {u("Start the call process again: the plug-in finds it by itself and registers the user"),
                 [process = &stage.process] { return process->start(); },
-                {s.processes(1), s.command("RegeditUser", param1(ContactBook::ownId))},
+                {s.processes(1), s.command(Command::RegeditUser, param1(ContactBook::ownId))},
                 2 * usualLimitMs},
            };
 }
@@ -316,9 +323,9 @@ QList<TourStep> tourSteps(const TourStage &stage)
 {
     const TourScript s(stage);
     return signIn(s, stage) + searchSteps(stage) + cancel(s) +
-           unanswered(s, busy, "Call Maria Silva, who is busy", 22, "busy", resultBusy) +
-           unanswered(s, rejects, "Call 王芳, who rejects", 10, "rejected", resultRejected) +
-           unanswered(s, fails, "Call 赵强: the call fails", 19, "failed", resultFailed) +
+           unanswered(s, busy, "Call Maria Silva, who is busy", Code::PeerBusy, "busy", resultBusy) +
+           unanswered(s, rejects, "Call 王芳, who rejects", Code::PeerRejected, "rejected", resultRejected) +
+           unanswered(s, fails, "Call 赵强: the call fails", Code::CallFailed, "failed", resultFailed) +
            call(s, "Call 李雷, who answers", u("call-voice")) + duringCall(s) + hangUp(s, "Hang up") + video(s, stage) +
            farEnd(s) + incoming(s) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
            call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + happenings(s, stage) +

@@ -2,6 +2,9 @@
 
 #include "ShownText.h"
 
+#include "wire/Commands.h"
+#include "wire/Notifications.h"
+
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -14,91 +17,84 @@
 namespace {
 
 constexpr const char *context = "WireWords";
-constexpr int mostParameters = 6;
 
 // The values are param1, param2...
-struct CommandRow
+struct CommandForm
 {
-    const char *name;
+    Wire::Command command;
     SentenceForm form;
 };
 
 constexpr const char *on = QT_TRANSLATE_NOOP("WireWords", "on");
 constexpr const char *off = QT_TRANSLATE_NOOP("WireWords", "off");
 
-// The spellings are the wire's own, "SetSpeakerEnble" and "SetCamreraEnable" included.
-constexpr CommandRow commands[] = {
-    {"RegeditUser", {QT_TRANSLATE_NOOP("WireWords", "the plug-in registers %1 (%2) at the call process")}},
-    {"UnReg", {QT_TRANSLATE_NOOP("WireWords", "the plug-in takes the registration of %1 back")}},
-    {"CallUser",
+constexpr CommandForm commands[] = {
+    {Wire::Command::RegeditUser, {QT_TRANSLATE_NOOP("WireWords", "the plug-in registers %1 (%2) at the call process")}},
+    {Wire::Command::UnReg, {QT_TRANSLATE_NOOP("WireWords", "the plug-in takes the registration of %1 back")}},
+    {Wire::Command::CallUser,
      {QT_TRANSLATE_NOOP("WireWords", "the plug-in asks the call process to call %1 %2"),
       {2, QT_TRANSLATE_NOOP("WireWords", "with picture"), QT_TRANSLATE_NOOP("WireWords", "with sound only")}}},
-    {"RequestConference",
+    {Wire::Command::RequestConference,
      {QT_TRANSLATE_NOOP("WireWords", "the plug-in asks the call process for a conference of %1 with %2")}},
-    {"Add2Conference", {QT_TRANSLATE_NOOP("WireWords", "the plug-in asks to add %1 to the conference of %6")}},
-    {"AcceptCall", {QT_TRANSLATE_NOOP("WireWords", "the plug-in takes the call")}},
-    {"AcceptConf", {QT_TRANSLATE_NOOP("WireWords", "the plug-in joins the conference")}},
-    {"RejectCall", {QT_TRANSLATE_NOOP("WireWords", "the plug-in rejects the call")}},
-    {"RejectConf", {QT_TRANSLATE_NOOP("WireWords", "the plug-in rejects the conference")}},
-    {"HangUpCall", {QT_TRANSLATE_NOOP("WireWords", "the plug-in hangs up")}},
-    {"HangupConf", {QT_TRANSLATE_NOOP("WireWords", "the plug-in leaves the conference")}},
-    {"ControlConf", {QT_TRANSLATE_NOOP("WireWords", "the plug-in moderates the conference: %1, %2")}},
-    {"SetMicEnable", {QT_TRANSLATE_NOOP("WireWords", "the plug-in turns the microphone %1"), {1, on, off}}},
-    {"SetSpeakerEnble", {QT_TRANSLATE_NOOP("WireWords", "the plug-in turns the speaker %1"), {1, on, off}}},
-    {"SetCamreraEnable", {QT_TRANSLATE_NOOP("WireWords", "the plug-in turns the camera %1"), {1, on, off}}},
-    {"SetMicVolume", {QT_TRANSLATE_NOOP("WireWords", "the plug-in sets the microphone to volume %1")}},
-    {"SetSpeakerVolume", {QT_TRANSLATE_NOOP("WireWords", "the plug-in sets the speaker to volume %1")}},
+    {Wire::Command::Add2Conference,
+     {QT_TRANSLATE_NOOP("WireWords", "the plug-in asks to add %1 to the conference of %6")}},
+    {Wire::Command::AcceptCall, {QT_TRANSLATE_NOOP("WireWords", "the plug-in takes the call")}},
+    {Wire::Command::AcceptConf, {QT_TRANSLATE_NOOP("WireWords", "the plug-in joins the conference")}},
+    {Wire::Command::RejectCall, {QT_TRANSLATE_NOOP("WireWords", "the plug-in rejects the call")}},
+    {Wire::Command::RejectConf, {QT_TRANSLATE_NOOP("WireWords", "the plug-in rejects the conference")}},
+    {Wire::Command::HangUpCall, {QT_TRANSLATE_NOOP("WireWords", "the plug-in hangs up")}},
+    {Wire::Command::HangupConf, {QT_TRANSLATE_NOOP("WireWords", "the plug-in leaves the conference")}},
+    {Wire::Command::ControlConf, {QT_TRANSLATE_NOOP("WireWords", "the plug-in moderates the conference: %1, %2")}},
+    {Wire::Command::SetMicEnable,
+     {QT_TRANSLATE_NOOP("WireWords", "the plug-in turns the microphone %1"), {1, on, off}}},
+    {Wire::Command::SetSpeakerEnble,
+     {QT_TRANSLATE_NOOP("WireWords", "the plug-in turns the speaker %1"), {1, on, off}}},
+    {Wire::Command::SetCamreraEnable,
+     {QT_TRANSLATE_NOOP("WireWords", "the plug-in turns the camera %1"), {1, on, off}}},
+    {Wire::Command::SetMicVolume, {QT_TRANSLATE_NOOP("WireWords", "the plug-in sets the microphone to volume %1")}},
+    {Wire::Command::SetSpeakerVolume, {QT_TRANSLATE_NOOP("WireWords", "the plug-in sets the speaker to volume %1")}},
 };
+static_assert(Wire::tellOfEveryCommand(commands), "a command without its sentence");
 
 constexpr SentenceForm quitForm = {QT_TRANSLATE_NOOP("WireWords", "the plug-in tells the call process to quit")};
 
-// What the content of a notification is, and with that the values of its sentence.
-enum Content
+// The values are those that the content of the notification holds.
+struct NotificationForm
 {
-    Nothing,
-    Text,       // the text
-    Conference, // who sent it, who is connected, the conference's id
-    Creation,   // the conference's id
-    Addition,   // who could not be added
-};
-
-struct NotificationRow
-{
-    int code;
-    Content content;
+    Wire::Code code;
     SentenceForm form;
 };
 
-constexpr NotificationRow notifications[] = {
-    {0, Text, {QT_TRANSLATE_NOOP("WireWords", "call process: %1 is calling")}},
-    {1, Text, {QT_TRANSLATE_NOOP("WireWords", "call process: %1 is calling")}},
-    {2, Conference, {QT_TRANSLATE_NOOP("WireWords", "call process: %1 invites to a conference, connected: %2")}},
-    {3, Nothing, {QT_TRANSLATE_NOOP("WireWords", "call process: the call is to be rejected")}},
-    {4, Nothing, {QT_TRANSLATE_NOOP("WireWords", "call process: the caller has given up")}},
-    {5, Text, {QT_TRANSLATE_NOOP("WireWords", "call process: %1 has rejected")}},
-    {6, Text, {QT_TRANSLATE_NOOP("WireWords", "call process: a notification that leads to nothing, content %1")}},
-    {7, Nothing, {QT_TRANSLATE_NOOP("WireWords", "call process: the call has ended")}},
-    {8, Nothing, {QT_TRANSLATE_NOOP("WireWords", "call process: the far end has hung up")}},
-    {9, Nothing, {QT_TRANSLATE_NOOP("WireWords", "call process: the far end has hung up")}},
-    {10, Nothing, {QT_TRANSLATE_NOOP("WireWords", "call process: the far end has rejected")}},
-    {11, Text, {QT_TRANSLATE_NOOP("WireWords", "call process: a notification that leads to nothing, content %1")}},
-    {12, Conference, {QT_TRANSLATE_NOOP("WireWords", "call process: connected in the conference are %2")}},
-    {13, Conference, {QT_TRANSLATE_NOOP("WireWords", "call process: %1 has left the conference, connected are %2")}},
-    {14, Text, {QT_TRANSLATE_NOOP("WireWords", "call process: a notification that leads to nothing, content %1")}},
-    {15, Text, {QT_TRANSLATE_NOOP("WireWords", "call process: a notification that leads to nothing, content %1")}},
-    {16, Text, {QT_TRANSLATE_NOOP("WireWords", "call process: a notification that leads to nothing, content %1")}},
-    {17, Text, {QT_TRANSLATE_NOOP("WireWords", "call process: its flag is %1")}},
-    {18, Nothing, {QT_TRANSLATE_NOOP("WireWords", "call process: the far end has answered")}},
-    {19, Nothing, {QT_TRANSLATE_NOOP("WireWords", "call process: the call has failed")}},
-    {20, Creation, {QT_TRANSLATE_NOOP("WireWords", "call process: the conference is made, its id is %1")}},
-    {21, Addition, {QT_TRANSLATE_NOOP("WireWords", "call process: people were added, not reached: %1")}},
-    {22, Nothing, {QT_TRANSLATE_NOOP("WireWords", "call process: the far end is busy")}},
-    {23, Nothing, {QT_TRANSLATE_NOOP("WireWords", "call process: the call has failed")}},
-    {24, Nothing, {QT_TRANSLATE_NOOP("WireWords", "call process: the call has failed")}},
-    {25, Text, {QT_TRANSLATE_NOOP("WireWords", "call process: %1 has rejected the conference")}},
-    {999, Text, {QT_TRANSLATE_NOOP("WireWords", "call process logs: %1")}},
+constexpr NotificationForm notifications[] = {
+    {Wire::Code::IncomingCall, {QT_TRANSLATE_NOOP("WireWords", "call process: %1 is calling")}},
+    {Wire::Code::IncomingCallAlt, {QT_TRANSLATE_NOOP("WireWords", "call process: %1 is calling")}},
+    {Wire::Code::IncomingConf,
+     {QT_TRANSLATE_NOOP("WireWords", "call process: %1 invites to a conference, connected: %2")}},
+    {Wire::Code::RejectRequest, {QT_TRANSLATE_NOOP("WireWords", "call process: the call is to be rejected")}},
+    {Wire::Code::PeerCanceled, {QT_TRANSLATE_NOOP("WireWords", "call process: the caller has given up")}},
+    {Wire::Code::UserRejected, {QT_TRANSLATE_NOOP("WireWords", "call process: %1 has rejected")}},
+    {Wire::Code::CallEnded, {QT_TRANSLATE_NOOP("WireWords", "call process: the call has ended")}},
+    {Wire::Code::PeerHangup, {QT_TRANSLATE_NOOP("WireWords", "call process: the far end has hung up")}},
+    {Wire::Code::PeerHangupAlt, {QT_TRANSLATE_NOOP("WireWords", "call process: the far end has hung up")}},
+    {Wire::Code::PeerRejected, {QT_TRANSLATE_NOOP("WireWords", "call process: the far end has rejected")}},
+    {Wire::Code::ConfUpdate, {QT_TRANSLATE_NOOP("WireWords", "call process: connected in the conference are %2")}},
+    {Wire::Code::ConfMemberLeft,
+     {QT_TRANSLATE_NOOP("WireWords", "call process: %1 has left the conference, connected are %2")}},
+    {Wire::Code::SdkFlag, {QT_TRANSLATE_NOOP("WireWords", "call process: its flag is %1")}},
+    {Wire::Code::CallConnected, {QT_TRANSLATE_NOOP("WireWords", "call process: the far end has answered")}},
+    {Wire::Code::CallFailed, {QT_TRANSLATE_NOOP("WireWords", "call process: the call has failed")}},
+    {Wire::Code::ConfCreated, {QT_TRANSLATE_NOOP("WireWords", "call process: the conference is made, its id is %1")}},
+    {Wire::Code::ConfAddResult, {QT_TRANSLATE_NOOP("WireWords", "call process: people were added, not reached: %1")}},
+    {Wire::Code::PeerBusy, {QT_TRANSLATE_NOOP("WireWords", "call process: the far end is busy")}},
+    {Wire::Code::CallFailedAlt, {QT_TRANSLATE_NOOP("WireWords", "call process: the call has failed")}},
+    {Wire::Code::CallFailedAlt2, {QT_TRANSLATE_NOOP("WireWords", "call process: the call has failed")}},
+    {Wire::Code::ConfMemberRejected, {QT_TRANSLATE_NOOP("WireWords", "call process: %1 has rejected the conference")}},
+    {Wire::Code::SdkLog, {QT_TRANSLATE_NOOP("WireWords", "call process logs: %1")}},
 };
+static_assert(Wire::tellOfEveryNotification(notifications), "a notification without its sentence");
 
+constexpr SentenceForm openForm = {
+    QT_TRANSLATE_NOOP("WireWords", "call process: a notification that leads to nothing, content %1")};
 constexpr SentenceForm noConferenceForm = {
     QT_TRANSLATE_NOOP("WireWords", "call process: the conference could not be made")};
 constexpr SentenceForm noteForm = {QT_TRANSLATE_NOOP("WireWords", "call process notes: %1")};
@@ -112,24 +108,19 @@ constexpr SentenceForm unknownNotificationForm = {
 constexpr SentenceForm brokenContentForm = {
     QT_TRANSLATE_NOOP("WireWords", "call process: a document that cannot be read: %1")};
 
-const CommandRow *commandOf(const QString &strName)
+const SentenceForm &formOf(Wire::Command command)
 {
-    for (const CommandRow &row : commands) {
-        if (strName == QLatin1String(row.name)) {
-            return &row;
-        }
-    }
-    return nullptr;
+    return commands[static_cast<int>(command)].form;
 }
 
-const NotificationRow *notificationOf(int iCode)
+const SentenceForm &formOf(const Wire::NotificationRow &row)
 {
-    for (const NotificationRow &row : notifications) {
-        if (row.code == iCode) {
-            return &row;
+    for (const NotificationForm &notification : notifications) {
+        if (notification.code == row.code) {
+            return notification.form;
         }
     }
-    return nullptr;
+    return openForm;
 }
 
 /// A line as it was understood.
@@ -177,38 +168,38 @@ QVariant parameterOf(const QJsonValue &value)
 Draft readCommand(const QString &strText)
 {
     QJsonObject object;
-    if (strText == QLatin1String("quit")) {
+    if (strText == QLatin1String(Wire::kQuitLine)) {
         return {&quitForm, {}};
     }
     if (!parse(strText, &object) || !object.value(QStringLiteral("messagetype")).isString()) {
         return badDraft(brokenForm, strText);
     }
     const QString name = object.value(QStringLiteral("messagetype")).toString();
-    const CommandRow *row = commandOf(name);
+    const Wire::CommandRow *row = Wire::findCommand(name.toStdString());
     if (row == nullptr) {
         return badDraft(unknownCommandForm, name);
     }
     QVariantList values;
-    for (int number = 1; number <= mostParameters; ++number) {
+    for (int number = 1; number <= Wire::parameterCount(*row); ++number) {
         values << parameterOf(object.value(QStringLiteral("param%1").arg(number)));
     }
-    return {&row->form, values};
+    return {&formOf(row->command), values};
 }
 
 /// The values in the document that stands as text in the content; false when it is none.
-bool readDocument(Content content, const QString &strContent, QVariantList *values)
+bool readDocument(Wire::Content content, const QString &strContent, QVariantList *values)
 {
     QJsonObject object;
-    const QString inner = content == Conference ? QStringLiteral("content") : QStringLiteral("result");
+    const QString inner = content == Wire::Content::Conference ? QStringLiteral("content") : QStringLiteral("result");
     if (!parse(strContent, &object) || !object.value(inner).isObject()) {
         return false;
     }
     const QJsonObject part = object.value(inner).toObject();
     const QVariant id = part.value(QStringLiteral("confId")).toVariant();
-    if (content == Conference) {
+    if (content == Wire::Content::Conference) {
         *values = {part.value(QStringLiteral("from")).toVariant(), textsOf(part.value(QStringLiteral("conventioneer"))),
                    id};
-    } else if (content == Creation) {
+    } else if (content == Wire::Content::Creation) {
         *values = {id};
     } else {
         *values = {textsOf(part.value(QStringLiteral("failedNums")))};
@@ -216,22 +207,26 @@ bool readDocument(Content content, const QString &strContent, QVariantList *valu
     return true;
 }
 
-Draft readNotification(const NotificationRow &row, const QString &strContent)
+Draft readNotification(const Wire::NotificationRow &row, const QString &strContent)
 {
-    if (row.content == Nothing) {
-        return {&row.form, {}};
+    const SentenceForm &form = formOf(row);
+    switch (row.content) {
+    case Wire::Content::None:
+        return {&form, {}};
+    case Wire::Content::Text:
+    case Wire::Content::Open:
+        return {&form, {strContent}};
+    default:
+        break;
     }
-    if (row.content == Text) {
-        return {&row.form, {strContent}};
-    }
-    if (row.content == Creation && strContent.isEmpty()) {
+    if (row.content == Wire::Content::Creation && strContent.isEmpty()) {
         return {&noConferenceForm, {}};
     }
     QVariantList values;
     if (!readDocument(row.content, strContent, &values)) {
         return badDraft(brokenContentForm, strContent);
     }
-    return {&row.form, values};
+    return {&form, values};
 }
 
 Draft readFromCallProcess(const QString &strText)
@@ -245,7 +240,7 @@ Draft readFromCallProcess(const QString &strText)
     if (std::trunc(number) != number || std::abs(number) > INT_MAX || !(content.isString() || content.isUndefined())) {
         return badDraft(brokenForm, strText);
     }
-    const NotificationRow *row = notificationOf(int(number));
+    const Wire::NotificationRow *row = Wire::findNotification(int(number));
     Draft draft = row == nullptr ? badDraft(unknownNotificationForm, content.toString())
                                  : readNotification(*row, content.toString());
     draft.code = int(number);
@@ -308,28 +303,8 @@ QStringList WireWords::split(const QString &strText)
 QString WireWords::secretOf(const QString &strText)
 {
     QJsonObject object;
-    if (!strText.contains(QLatin1String("RegeditUser")) || !parse(strText, &object)) {
+    if (!strText.contains(QLatin1String(Wire::nameOf(Wire::Command::RegeditUser))) || !parse(strText, &object)) {
         return QString();
     }
     return object.value(QStringLiteral("param3")).toString();
-}
-
-bool WireWords::hasCommand(const QString &strName)
-{
-    return commandOf(strName) != nullptr;
-}
-
-bool WireWords::hasNotification(int iCode)
-{
-    return notificationOf(iCode) != nullptr;
-}
-
-int WireWords::commandCount()
-{
-    return int(std::size(commands));
-}
-
-int WireWords::notificationCount()
-{
-    return int(std::size(notifications));
 }

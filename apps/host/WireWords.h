@@ -8,8 +8,9 @@
 
 class SecretMask;
 
-/// Says in a sentence what a line between plug-in and call process means, by one table of commands and one of
-/// notifications. Lines come from outside: whatever does not follow the protocol is said to be so. No state.
+/// Says in a sentence what a line between plug-in and call process means, command by command and
+/// notification by notification. Lines come from outside: whatever does not follow the protocol is said to be so. No
+/// state.
 class WireWords
 {
 public:
@@ -29,11 +30,4 @@ public:
 
     /// The registration value in the line of a command; empty when there is none.
     static QString secretOf(const QString &strText);
-
-    /// Whether the tables have the command or the notification. For tests.
-    static bool hasCommand(const QString &strName);
-    static bool hasNotification(int iCode);
-    /// Number of rows. For tests.
-    static int commandCount();
-    static int notificationCount();
 };

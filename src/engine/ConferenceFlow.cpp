@@ -1,8 +1,7 @@
 // A voice call among several: starting it, joining it, its members and their control.
 
 #include "common/CLogManger.h"
-#include "engine/JsonText.h"
-#include "engine/SdkCommand.h"
+#include "engine/SdkLine.h"
 #include "engine/VoipManage.h"
 #include "plugin/StrangerCards.h"
 #include "plugin/VoipManageEventProcess.h"
@@ -19,11 +18,11 @@ const char *operationText(CVoipManage::ConfControlSignal operation)
 {
     switch (operation) {
     case CVoipManage::Kick:
-        return "kick";
+        return Wire::kKick;
     case CVoipManage::Mute:
-        return "mute";
+        return Wire::kMute;
     case CVoipManage::UnMute:
-        return "unmute";
+        return Wire::kUnmute;
     }
     return "";
 }
@@ -65,8 +64,7 @@ void CVoipManage::callConference(QList<QString> userList, bool bFlag, QString st
         m_callData.memberList.append(m_strUserId);
     QStringList called = m_callData.memberList;
     called.removeAll(m_strUserId);
-    sendIfConnected(SdkCommand::line(SdkCommand::RequestConference, SdkCommand::json(m_strUserId),
-                                     JsonText::arrayOrNull(called), bFlag, SdkCommand::json(strText)));
+    sendIfConnected(SdkLine::of<Wire::Command::RequestConference>(m_strUserId, called, bFlag, strText));
     if (m_pVoipWidget) {
         m_pVoipWidget->setVoipCallInfo(called, CVoipWidget::Conference, m_callData.bIsCaller, false);
         m_pVoipWidget->setConferenceCreator(m_strUserId);
@@ -83,7 +81,7 @@ void CVoipManage::acceptConference()
     others.removeOne(m_strUserId);
     if (m_pVoipWidget)
         m_pVoipWidget->setVoipCallInfo(others, CVoipWidget::Conference, m_callData.bIsCaller, false);
-    sendVoipMessage(SdkCommand::line(SdkCommand::AcceptConf));
+    sendVoipMessage(SdkLine::of<Wire::Command::AcceptConf>());
 }
 
 void CVoipManage::slot_AddConfMember()
@@ -121,9 +119,8 @@ void CVoipManage::addConferenceMember(QList<QString> userList)
     }
     if (m_callData.bIsConf) {
         // Deliberate: the own id stands twice.
-        sendIfConnected(SdkCommand::line(SdkCommand::Add2Conference, JsonText::arrayOrNull(userList),
-                                         SdkCommand::json(m_strUserId), SdkCommand::json(m_strUserId),
-                                         m_callData.bIsVideo, "", JsonText::arrayOrNull(m_callData.connectedList)));
+        sendIfConnected(SdkLine::of<Wire::Command::Add2Conference>(
+            userList, m_strUserId, m_strUserId, m_callData.bIsVideo, QString(), m_callData.connectedList));
     }
 }
 
@@ -165,10 +162,10 @@ void CVoipManage::controlConference(ConfControlSignal iOperation, bool bIsAllMem
     if (!m_bSocketConnected || !m_callData.bIsConf)
         return;
     const QString operation = QLatin1String(operationText(iOperation));
-    const QString target = bIsAllMember ? QStringLiteral("non_moderator") : strUserId;
+    const QString target = bIsAllMember ? QString::fromLatin1(Wire::kEverybody) : strUserId;
     if (operation.isEmpty() || target.isEmpty())
         return;
-    sendVoipMessage(SdkCommand::line(SdkCommand::ControlConf, SdkCommand::json(operation), SdkCommand::json(target)));
+    sendVoipMessage(SdkLine::of<Wire::Command::ControlConf>(operation, target));
 }
 
 void CVoipManage::updateConferenceListStatus()

@@ -3,7 +3,7 @@
 
 #include "common/CLogManger.h"
 #include "engine/LineCutter.h"
-#include "engine/SdkNotification.h"
+#include "engine/SdkLine.h"
 #include "engine/VoipManage.h"
 
 #include <QCoreApplication>
@@ -15,11 +15,10 @@ namespace {
 constexpr int kConnectWaitMs = 1000;
 constexpr int kQuitWriteWaitMs = 1000;
 constexpr qint64 kBackOffLimitSeconds = 60;
-constexpr char kQuitLine[] = "quit\n";
 
 QString serverName()
 {
-    return QStringLiteral("VoipSDK");
+    return QString::fromLatin1(Wire::kServerName);
 }
 
 QString programPath()
@@ -136,7 +135,7 @@ void CVoipManage::slot_VoipSDKDataRecevie()
 
 void CVoipManage::recevieVoipMessage(QString strLine)
 {
-    const SdkNotification::Line line = SdkNotification::read(strLine);
+    const SdkLine::Notification line = SdkLine::read(strLine);
     if (line.code >= 0)
         callbackMessage(line.code, line.content);
 }
@@ -148,7 +147,7 @@ void CVoipManage::disconnectVoipSDKSocket()
     if (m_pVoipSocket) {
         // Each step looks at the socket anew, since the one before may have found the far side gone.
         if (m_pVoipSocket->isOpen())
-            m_pVoipSocket->write(kQuitLine);
+            m_pVoipSocket->write(QByteArray(Wire::kQuitLine) + '\n');
         m_pVoipSocket->flush();
         if (m_pVoipSocket->state() == QLocalSocket::ConnectedState)
             m_pVoipSocket->waitForBytesWritten(kQuitWriteWaitMs);

@@ -1,7 +1,7 @@
 // Commands that are no step of a call: the user's registration and the device controls of the call window.
 
 #include "common/CLogManger.h"
-#include "engine/SdkCommand.h"
+#include "engine/SdkLine.h"
 #include "engine/VoipManage.h"
 
 void CVoipManage::regeditVoipUser(QString strUserId, QString strNickName, QString strRegValue)
@@ -10,41 +10,40 @@ void CVoipManage::regeditVoipUser(QString strUserId, QString strNickName, QStrin
     m_strUserId = strUserId;
     m_strNickName = strNickName;
     m_strRegValue = strRegValue;
-    sendIfConnected(SdkCommand::line(SdkCommand::RegeditUser, SdkCommand::json(strUserId),
-                                     SdkCommand::json(strNickName), SdkCommand::json(strRegValue), false));
+    sendIfConnected(SdkLine::of<Wire::Command::RegeditUser>(strUserId, strNickName, strRegValue, false));
 }
 
 void CVoipManage::unRegeditCurrentVoipUser()
 {
     LOG_DEBUG << "unregedit current user "
               << "\n";
-    sendIfConnected(SdkCommand::line(SdkCommand::UnReg, SdkCommand::json(m_strUserId)));
+    sendIfConnected(SdkLine::of<Wire::Command::UnReg>(m_strUserId));
 }
 
 void CVoipManage::slot_SetMicEnable(bool bEnable)
 {
     LOG_DEBUG << "SetMicEnable = " << bEnable << "\n";
-    sendIfConnected(SdkCommand::line(SdkCommand::SetMicEnable, bEnable));
+    sendIfConnected(SdkLine::of<Wire::Command::SetMicEnable>(bEnable));
 }
 
 void CVoipManage::slot_SetSpeakerEnable(bool bEnable)
 {
     LOG_DEBUG << "SetSpeakerEnable = " << bEnable << "\n";
-    sendIfConnected(SdkCommand::line(SdkCommand::SetSpeakerEnable, bEnable));
+    sendIfConnected(SdkLine::of<Wire::Command::SetSpeakerEnble>(bEnable));
 }
 
 void CVoipManage::slot_SetCameraEnable(bool bEnable)
 {
     LOG_DEBUG << "SetCameraEnable = " << bEnable << "\n";
-    sendIfConnected(SdkCommand::line(SdkCommand::SetCameraEnable, bEnable));
+    sendIfConnected(SdkLine::of<Wire::Command::SetCamreraEnable>(bEnable));
 }
 
 void CVoipManage::slot_SetMicVolume(qlonglong iVolume)
 {
-    sendIfConnected(SdkCommand::line(SdkCommand::SetMicVolume, Json::Int64(iVolume / 10)));
+    sendIfConnected(SdkLine::of<Wire::Command::SetMicVolume>(iVolume / 10));
 }
 
 void CVoipManage::slot_SetSpeakerVolume(qlonglong iVolume)
 {
-    sendIfConnected(SdkCommand::line(SdkCommand::SetSpeakerVolume, Json::Int64(iVolume / 10)));
+    sendIfConnected(SdkLine::of<Wire::Command::SetSpeakerVolume>(iVolume / 10));
 }

@@ -2,11 +2,11 @@
 
 #include "common/CLogManger.h"
 #include "engine/ConferenceDocument.h"
-#include "engine/SdkNotification.h"
 #include "engine/VoipManage.h"
 #include "plugin/StrangerCards.h"
 #include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
+#include "wire/Notifications.h"
 
 #include <QDebug>
 #include <QSet>
@@ -14,43 +14,45 @@
 #include <algorithm>
 #include <iterator>
 
-/// A code and what is done about it. Codes that stand in no row have no action.
+/// A code and what is done about it. Open codes and unknown ones have no action.
 struct CVoipManage::NotificationRow
 {
-    int code;
+    Wire::Code code;
     void (CVoipManage::*act)(const QString &content);
 };
 
-const CVoipManage::NotificationRow CVoipManage::kNotifications[] = {
-    {SdkNotification::IncomingCall, &CVoipManage::onIncomingCall},
-    {SdkNotification::IncomingCallAlt, &CVoipManage::onIncomingCall},
-    {SdkNotification::IncomingConf, &CVoipManage::onIncomingConf},
-    {SdkNotification::RejectRequest, &CVoipManage::onRejectRequest},
-    {SdkNotification::PeerCanceled, &CVoipManage::onPeerCanceled},
-    {SdkNotification::UserRejected, &CVoipManage::onUserRejected},
-    {SdkNotification::CallEnded, &CVoipManage::onCallEnded},
-    {SdkNotification::PeerHangup, &CVoipManage::onPeerHangup},
-    {SdkNotification::PeerHangupAlt, &CVoipManage::onPeerHangup},
-    {SdkNotification::PeerRejected, &CVoipManage::onPeerRejected},
-    {SdkNotification::ConfUpdate, &CVoipManage::onConfUpdate},
-    {SdkNotification::ConfMemberLeft, &CVoipManage::onConfMemberLeft},
-    {SdkNotification::SdkFlag, &CVoipManage::onSdkFlag},
-    {SdkNotification::CallConnected, &CVoipManage::onCallConnected},
-    {SdkNotification::CallFailed, &CVoipManage::onCallFailed},
-    {SdkNotification::ConfCreated, &CVoipManage::onConfCreated},
-    {SdkNotification::ConfAddResult, &CVoipManage::onConfAddResult},
-    {SdkNotification::PeerBusy, &CVoipManage::onPeerBusy},
-    {SdkNotification::CallFailedAlt, &CVoipManage::onCallFailed},
-    {SdkNotification::CallFailedAlt2, &CVoipManage::onCallFailed},
-    {SdkNotification::ConfMemberRejected, &CVoipManage::onConfMemberRejected},
-    {SdkNotification::SdkLog, &CVoipManage::onSdkLog},
+constexpr CVoipManage::NotificationRow CVoipManage::kNotifications[] = {
+    {Wire::Code::IncomingCall, &CVoipManage::onIncomingCall},
+    {Wire::Code::IncomingCallAlt, &CVoipManage::onIncomingCall},
+    {Wire::Code::IncomingConf, &CVoipManage::onIncomingConf},
+    {Wire::Code::RejectRequest, &CVoipManage::onRejectRequest},
+    {Wire::Code::PeerCanceled, &CVoipManage::onPeerCanceled},
+    {Wire::Code::UserRejected, &CVoipManage::onUserRejected},
+    {Wire::Code::CallEnded, &CVoipManage::onCallEnded},
+    {Wire::Code::PeerHangup, &CVoipManage::onPeerHangup},
+    {Wire::Code::PeerHangupAlt, &CVoipManage::onPeerHangup},
+    {Wire::Code::PeerRejected, &CVoipManage::onPeerRejected},
+    {Wire::Code::ConfUpdate, &CVoipManage::onConfUpdate},
+    {Wire::Code::ConfMemberLeft, &CVoipManage::onConfMemberLeft},
+    {Wire::Code::SdkFlag, &CVoipManage::onSdkFlag},
+    {Wire::Code::CallConnected, &CVoipManage::onCallConnected},
+    {Wire::Code::CallFailed, &CVoipManage::onCallFailed},
+    {Wire::Code::ConfCreated, &CVoipManage::onConfCreated},
+    {Wire::Code::ConfAddResult, &CVoipManage::onConfAddResult},
+    {Wire::Code::PeerBusy, &CVoipManage::onPeerBusy},
+    {Wire::Code::CallFailedAlt, &CVoipManage::onCallFailed},
+    {Wire::Code::CallFailedAlt2, &CVoipManage::onCallFailed},
+    {Wire::Code::ConfMemberRejected, &CVoipManage::onConfMemberRejected},
+    {Wire::Code::SdkLog, &CVoipManage::onSdkLog},
 };
 
 void CVoipManage::callbackMessage(int iCode, QString content)
 {
+    static_assert(Wire::tellOfEveryNotification(kNotifications), "a notification without its handler");
     LOG_DEBUG << "Voip Sdk call back msg iCode=" << iCode << ", string=" << content << "\n";
-    const auto row = std::find_if(std::begin(kNotifications), std::end(kNotifications),
-                                  [iCode](const NotificationRow &candidate) { return candidate.code == iCode; });
+    const auto row =
+        std::find_if(std::begin(kNotifications), std::end(kNotifications),
+                     [iCode](const NotificationRow &candidate) { return candidate.code == Wire::Code(iCode); });
     if (row != std::end(kNotifications))
         (this->*row->act)(content);
 }

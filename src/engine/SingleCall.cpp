@@ -1,7 +1,7 @@
 // One call between two people, from its start to callFinished(), which also ends conferences.
 
 #include "common/CLogManger.h"
-#include "engine/SdkCommand.h"
+#include "engine/SdkLine.h"
 #include "engine/VoipManage.h"
 #include "model/FriendData.h"
 #include "model/LoginData.h"
@@ -56,7 +56,7 @@ void CVoipManage::callSingleUser(QString strUser, bool bVideo)
         stranger.request();
 
     m_callData.bIsVideo = bVideo;
-    sendIfConnected(SdkCommand::line(SdkCommand::CallUser, SdkCommand::json(strUser), bVideo));
+    sendIfConnected(SdkLine::of<Wire::Command::CallUser>(strUser, bVideo));
     showCallInWindow();
     if (m_pVoipWidget)
         m_pVoipWidget->show();
@@ -99,7 +99,7 @@ void CVoipManage::acceptVoipCall()
         LOG_DEBUG << "singel call accept !"
                   << "\n";
         showCallInWindow();
-        sendVoipMessage(SdkCommand::line(SdkCommand::AcceptCall));
+        sendVoipMessage(SdkLine::of<Wire::Command::AcceptCall>());
     }
     if (m_pVoipWidget)
         m_pVoipWidget->show();
@@ -109,7 +109,8 @@ void CVoipManage::rejectVoipCall()
 {
     LOG_DEBUG << "reject call!"
               << "\n";
-    sendIfConnected(SdkCommand::line(m_callData.bIsConf ? SdkCommand::RejectConf : SdkCommand::RejectCall));
+    sendIfConnected(m_callData.bIsConf ? SdkLine::of<Wire::Command::RejectConf>()
+                                       : SdkLine::of<Wire::Command::RejectCall>());
     callFinished(CallData::FinishRejected);
 }
 
@@ -124,7 +125,8 @@ void CVoipManage::hangupVoipCall()
         rejectVoipCall();
         return;
     }
-    sendIfConnected(SdkCommand::line(m_callData.bIsConf ? SdkCommand::HangupConf : SdkCommand::HangUpCall));
+    sendIfConnected(m_callData.bIsConf ? SdkLine::of<Wire::Command::HangupConf>()
+                                       : SdkLine::of<Wire::Command::HangUpCall>());
     callFinished(m_callData.bIsConnected ? CallData::FinishHangup : CallData::FinishCanceled);
 }
 

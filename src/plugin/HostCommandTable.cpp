@@ -6,6 +6,7 @@
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/HostCommands.h"
+#include "plugin/HostEvents.h"
 
 #include <iterator>
 
@@ -80,6 +81,8 @@ constexpr HostCommand commands[] = {
     {MSG_SHOW_VOICE_CONF, showVoiceConf},
     {MSG_EXIT_VOIP, exitVoip},
 };
+
+static_assert(tellOfEveryEvent(commands, EventWay::Command), "a command that nobody carries out");
 
 // The mailbox stands below the engine and cannot name these rows, so they enter themselves.
 [[maybe_unused]] const bool commandsAreSet = (setHostCommands(commands, static_cast<int>(std::size(commands))), true);

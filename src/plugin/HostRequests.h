@@ -3,7 +3,7 @@
 // The plug-in's requests to the host's other plug-ins as one table: which command goes to whom, in whose name, and how.
 // VoipManageEventProcess holds the operations that fill in the payloads.
 
-#include "plugin/EMsgId.h"
+#include "plugin/HostEvents.h"
 #include "plugin/PluginIds.h"
 
 /// How a request is delivered, and whose the event is afterwards.
@@ -37,6 +37,8 @@ inline constexpr HostRequest hostRequests[] = {
     {MSG_SHOW_SIGN_LIST, signListPluginId, voipPluginId, Delivery::AtOnce},
     {MSG_CLOSE_SIGN_LIST, signListPluginId, voipPluginId, Delivery::AtOnceKept},
 };
+
+static_assert(tellOfEveryEvent(hostRequests, EventWay::Request), "a request that nobody can deliver");
 
 /// The row of `msgId`, which must be one of the table's.
 constexpr const HostRequest &hostRequest(EMsgId msgId)

@@ -23,15 +23,12 @@ enum MemberRole : int
 /// does an empty list, which means "anything".
 bool areRolesShown(const QVector<int> &roles);
 
-/// Status codes of a member. Any other number reads "未接通".
+/// Status codes of a member; ui/MemberStatuses.def tells what each reads.
 enum ConferenceStatus : int
 {
-    ConferenceCalling = 0,
-    ConferenceConnected = 1,
-    ConferenceFailed = 2,
-    ConferenceBusy = 3,
-    ConferenceHungUp = 4,
-    ConferenceRejected = 5
+#define CONFERENCE_STATUS(name, number, text, color) name = (number),
+#include "ui/MemberStatuses.def"
+#undef CONFERENCE_STATUS
 };
 
 /// The colour of a connected member's status and of the mute button under the cursor.
@@ -46,14 +43,11 @@ struct ConferenceStatusRow
 };
 
 /// All status codes that have a text of their own.
-constexpr std::array<ConferenceStatusRow, 6> cConferenceStatusTable{{
-    {ConferenceCalling, "呼叫中", QColor()},
-    {ConferenceConnected, "已接通", cMute_Button_Hover_Color},
-    {ConferenceFailed, "呼叫失败", QColor()},
-    {ConferenceBusy, "对方正忙", QColor()},
-    {ConferenceHungUp, "已挂断", QColor()},
-    {ConferenceRejected, "已拒绝", QColor()},
-}};
+inline constexpr std::array cConferenceStatusTable{
+#define CONFERENCE_STATUS(name, number, text, color) ConferenceStatusRow{name, text, color},
+#include "ui/MemberStatuses.def"
+#undef CONFERENCE_STATUS
+};
 
 /// The watchdog looks at the rows in this interval, in milliseconds.
 constexpr int cInviteCheckInterval = 120000;

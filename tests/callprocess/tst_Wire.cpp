@@ -30,7 +30,7 @@ private slots:
 void tst_Wire::catalogueHasSeventeenCommands()
 {
     QSet<QString> names;
-    for (const CommandRow &row : COMMANDS) {
+    for (const Wire::CommandRow &row : Wire::kCommands) {
         names.insert(QString::fromLatin1(row.name));
         QVERIFY(QString::fromLatin1(row.parameters).contains(QRegularExpression(QStringLiteral("^[sbia]{0,6}$"))));
     }
@@ -43,12 +43,12 @@ void tst_Wire::catalogueHasSeventeenCommands()
 void tst_Wire::catalogueHasTwentySevenNotifications()
 {
     for (int code = 0; code <= 25; ++code) {
-        QCOMPARE(static_cast<int>(NOTIFICATIONS.at(static_cast<size_t>(code)).code), code);
-        QVERIFY(isNotification(code));
+        QCOMPARE(static_cast<int>(Wire::kNotifications.at(static_cast<size_t>(code)).code), code);
+        QVERIFY(Wire::findNotification(code) != nullptr);
     }
-    QVERIFY(isNotification(999));
-    QVERIFY(!isNotification(26) && !isNotification(-1));
-    QCOMPARE(NOTIFICATIONS.size(), 27U);
+    QVERIFY(Wire::findNotification(999) != nullptr);
+    QVERIFY(Wire::findNotification(26) == nullptr && Wire::findNotification(-1) == nullptr);
+    QCOMPARE(Wire::kNotifications.size(), 27U);
 }
 
 void tst_Wire::robotIdsArePlainUserIds()

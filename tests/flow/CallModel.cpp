@@ -1,7 +1,7 @@
 #include "flow/CallModel.h"
 
 #include "engine/ConferenceDocument.h"
-#include "engine/SdkNotification.h"
+#include "engine/SdkLine.h"
 #include "model/UserIds.h"
 
 #include <QJsonArray>
@@ -234,7 +234,7 @@ void CallModel::recevieTimeout()
 void CallModel::receiveLine(const QString &line)
 {
     // What of a line counts is held by the reader's own test.
-    const SdkNotification::Line read = SdkNotification::read(line);
+    const SdkLine::Notification read = SdkLine::read(line);
     if (read.code >= 0)
         notify(read.code, read.content);
 }

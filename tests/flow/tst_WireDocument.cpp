@@ -2,9 +2,9 @@
 // example, each command's is what the plug-in writes, and each notification's has its effect in the engine.
 
 #include "callcheck/PluginCommand.h"
+#include "callprocess/RobotTable.h"
 #include "callprocess/Wire.h"
-#include "engine/SdkCommand.h"
-#include "engine/SdkNotification.h"
+#include "engine/SdkLine.h"
 #include "fakes/EngineFixture.h"
 #include "fakes/QtMessages.h"
 
@@ -46,22 +46,22 @@ Json::Value parsed(const QString &strLine)
 }
 
 /// What the plug-in writes for a command with these parameters.
-QString written(SdkCommand::Name name, const Json::Value &example)
+QString written(Wire::Command name, const Json::Value &example)
 {
     std::vector<Json::Value> p;
     for (int number = 1; example.isMember("param" + std::to_string(number)); ++number)
         p.push_back(example["param" + std::to_string(number)]);
     switch (p.size()) {
     case 0:
-        return SdkCommand::lineOf(name, {});
+        return SdkLine::lineOf(name, {});
     case 1:
-        return SdkCommand::lineOf(name, {p[0]});
+        return SdkLine::lineOf(name, {p[0]});
     case 2:
-        return SdkCommand::lineOf(name, {p[0], p[1]});
+        return SdkLine::lineOf(name, {p[0], p[1]});
     case 4:
-        return SdkCommand::lineOf(name, {p[0], p[1], p[2], p[3]});
+        return SdkLine::lineOf(name, {p[0], p[1], p[2], p[3]});
     case 6:
-        return SdkCommand::lineOf(name, {p[0], p[1], p[2], p[3], p[4], p[5]});
+        return SdkLine::lineOf(name, {p[0], p[1], p[2], p[3], p[4], p[5]});
     default:
         return QStringLiteral("no command has so many");
     }
@@ -104,38 +104,84 @@ void joined(EngineFixture &fixture)
         QStringLiteral(R"({"content":{"from":"30010001","conventioneer":["30010000","30010001"],"confId":"700001"}})"));
 }
 
+/// The rows of the document's table under this head, cell by cell.
+QList<QStringList> tableUnder(const QString &strHead)
+{
+    QList<QStringList> rows;
+    const QString text = document();
+    const int start = text.indexOf(strHead);
+    const QStringList lines = text.mid(start, text.indexOf(QStringLiteral("\n\n"), start) - start).split('\n').mid(2);
+    for (const QString &line : lines) {
+        QStringList cells;
+        for (const QString &cell : line.mid(1, line.size() - 2).split('|'))
+            cells.append(cell.trimmed());
+        rows.append(cells);
+    }
+    return rows;
+}
+
+/// The letter of a parameter that the document describes so; nothing for an empty cell.
+QString letterOf(const QString &strCell)
+{
+    static const std::pair<QRegularExpression, const char *> beginnings[] = {
+        {QRegularExpression("^$"), ""},
+        {QRegularExpression("^(bool|false)\\b"), "b"},
+        {QRegularExpression("^array\\b"), "a"},
+        {QRegularExpression("^integer\\b"), "i"}};
+    for (const auto &[beginning, letter] : beginnings) {
+        if (strCell.contains(beginning))
+            return letter;
+    }
+    return QStringLiteral("s");
+}
+
+/// What the document calls the content of a notification.
+Wire::Content contentOf(const QString &strCell)
+{
+    static const std::pair<const char *, Wire::Content> beginnings[] = {
+        {"conference document", Wire::Content::Conference},
+        {"creation document", Wire::Content::Creation},
+        {"add document", Wire::Content::Addition},
+        {"open", Wire::Content::Open}};
+    for (const auto &[beginning, content] : beginnings) {
+        if (strCell.startsWith(QLatin1String(beginning)))
+            return content;
+    }
+    return strCell.isEmpty() ? Wire::Content::None : Wire::Content::Text;
+}
+
 /// What a notification changes, told as the engine's state behind it.
 struct Row
 {
-    SdkNotification::Code code;
+    Wire::Code code;
     void (*before)(EngineFixture &fixture);
     const char *after;
 };
 
 // clang-format off
 const Row kRows[] = {
-    {SdkNotification::IncomingCall,       signIn,     "incoming 30010007, receive, ring"},
-    {SdkNotification::IncomingCallAlt,    signIn,     "incoming 30010007, receive, ring"},
-    {SdkNotification::IncomingConf,       signIn,     "incoming 30010008, receive, ring; in 700001"},
-    {SdkNotification::RejectRequest,      ringing,    "idle; 26"},
-    {SdkNotification::PeerCanceled,       ringing,    "idle; 21"},
-    {SdkNotification::UserRejected,       call,       "idle; 26"},
-    {SdkNotification::CallEnded,          call,       "idle; 21"},
-    {SdkNotification::PeerHangup,         call,       "idle; 24"},
-    {SdkNotification::PeerHangupAlt,      call,       "idle; 24"},
-    {SdkNotification::PeerRejected,       call,       "idle; 26"},
-    {SdkNotification::ConfUpdate,         conference, "30010001 1, 30010003 0, 30010005 0"},
-    {SdkNotification::ConfMemberLeft,     joined,     "30010001 4, 30010003 0, 30010005 0"},
-    {SdkNotification::SdkFlag,            signIn,     "idle; flag"},
-    {SdkNotification::CallConnected,      call,       "connected 30010002"},
-    {SdkNotification::CallFailed,         call,       "idle; 22"},
-    {SdkNotification::ConfCreated,        requested,  "in 700001"},
-    {SdkNotification::ConfAddResult,      conference, "30010001 0, 30010003 0, 30010005 2"},
-    {SdkNotification::PeerBusy,           call,       "idle; 25"},
-    {SdkNotification::CallFailedAlt,      call,       "idle; 22"},
-    {SdkNotification::CallFailedAlt2,     call,       "idle; 22"},
-    {SdkNotification::ConfMemberRejected, conference, "30010001 0, 30010003 5, 30010005 0"},
-    {SdkNotification::SdkLog,             signIn,     "logged registered 30010000"},
+    {Wire::Code::IncomingCall,       signIn,     "incoming 30010007, receive, ring"},
+    {Wire::Code::IncomingCallAlt,    signIn,     "incoming 30010007, receive, ring"},
+    {Wire::Code::IncomingConf,       signIn,     "incoming 30010008, receive, ring; in 700001"},
+    {Wire::Code::RejectRequest,      ringing,    "idle; 26"},
+    {Wire::Code::PeerCanceled,       ringing,    "idle; 21"},
+    {Wire::Code::UserRejected,       call,       "idle; 26"},
+    {Wire::Code::CallEnded,          call,       "idle; 21"},
+    {Wire::Code::PeerHangup,         call,       "idle; 24"},
+    {Wire::Code::PeerHangupAlt,      call,       "idle; 24"},
+    {Wire::Code::PeerRejected,       call,       "idle; 26"},
+    {Wire::Code::ConfUpdate,         conference, "30010001 1, 30010003 0, 30010005 0"},
+    {Wire::Code::ConfMemberLeft,     joined,     "30010001 4, 30010003 0, 30010005 0"},
+    {Wire::Code::SdkFlag,            signIn,     "idle; flag"},
+    {Wire::Code::CallConnected,      call,       "connected 30010002"},
+    {Wire::Code::CallFailed,         call,       "idle; 22"},
+    {Wire::Code::ConfCreated,        requested,  "in 700001"},
+    {Wire::Code::ConfAddResult,      conference, "30010001 0, 30010003 0, 30010005 2"},
+    {Wire::Code::PeerBusy,           call,       "idle; 25"},
+    {Wire::Code::CallFailedAlt,      call,       "idle; 22"},
+    {Wire::Code::CallFailedAlt2,     call,       "idle; 22"},
+    {Wire::Code::ConfMemberRejected, conference, "30010001 0, 30010003 5, 30010005 0"},
+    {Wire::Code::SdkLog,             signIn,     "logged registered 30010000"},
 };
 // clang-format on
 
@@ -176,21 +222,24 @@ private slots:
     void everyNotificationHasItsExample();
     void documentHasNoOtherNotifications();
     void tablesNameEveryCommandAndNotification();
+    void tableOfCommandsHasTheirParameters();
+    void tableOfNotificationsHasTheirContents();
     void sequencesNameWhatThereIs();
+    void tableOfRobotsNamesEachOfThem();
 };
 
 void tst_WireDocument::everyCommandHasItsExample_data()
 {
     QTest::addColumn<int>("number");
-    for (int number = 0; number < SdkCommand::CommandCount; ++number)
-        QTest::newRow(SdkCommand::wireName(static_cast<SdkCommand::Name>(number))) << number;
+    for (const Wire::CommandRow &row : Wire::kCommands)
+        QTest::newRow(row.name) << static_cast<int>(row.command);
 }
 
 void tst_WireDocument::everyCommandHasItsExample()
 {
     QFETCH(int, number);
-    const auto name = static_cast<SdkCommand::Name>(number);
-    const QString wireName = QString::fromLatin1(SdkCommand::wireName(name));
+    const auto name = static_cast<Wire::Command>(number);
+    const QString wireName = QString::fromLatin1(Wire::nameOf(name));
     const QStringList lines = examples(QStringLiteral("{\"messagetype\":\"%1\"").arg(wireName));
     QCOMPARE(lines.size(), 1);
     const Json::Value example = parsed(lines.constFirst());
@@ -211,24 +260,25 @@ void tst_WireDocument::everyCommandHasItsExample()
 
 void tst_WireDocument::documentHasNoOtherCommands()
 {
-    QCOMPARE(examples(QStringLiteral("{\"messagetype\":")).size(), static_cast<int>(SdkCommand::CommandCount));
+    QCOMPARE(examples(QStringLiteral("{\"messagetype\":")).size(), static_cast<int>(Wire::kCommands.size()));
 }
 
 void tst_WireDocument::everyNotificationHasItsExample_data()
 {
     QTest::addColumn<Row>("row");
     for (const Row &row : kRows)
-        QTest::newRow(QByteArray::number(row.code).constData()) << row;
+        QTest::newRow(QByteArray::number(static_cast<int>(row.code)).constData()) << row;
 }
 
 void tst_WireDocument::everyNotificationHasItsExample()
 {
     QFETCH(Row, row);
-    const QStringList lines = examples(QStringLiteral("{\"content\":\""))
-                                  .filter(QRegularExpression(QStringLiteral(",\"resultCode\":%1}$").arg(row.code)));
+    const QStringList lines =
+        examples(QStringLiteral("{\"content\":\""))
+            .filter(QRegularExpression(QStringLiteral(",\"resultCode\":%1}$").arg(static_cast<int>(row.code))));
     QCOMPARE(lines.size(), 1);
     QVERIFY2(parsed(lines.constFirst()).isObject(), "the example is no JSON");
-    QCOMPARE(SdkNotification::read(lines.constFirst()).code, static_cast<int>(row.code));
+    QCOMPARE(SdkLine::read(lines.constFirst()).code, static_cast<int>(row.code));
 
     EngineFixture fixture;
     row.before(fixture);
@@ -246,7 +296,7 @@ void tst_WireDocument::documentHasNoOtherNotifications()
 {
     QCOMPARE(examples(QStringLiteral("{\"content\":\"")).size(), static_cast<int>(std::size(kRows)));
     int named = 0;
-    for (const NotificationRow &row : NOTIFICATIONS)
+    for (const Wire::NotificationRow &row : Wire::kNotifications)
         named += *row.name != '\0' ? 1 : 0;
     QCOMPARE(named, static_cast<int>(std::size(kRows)));
 }
@@ -254,17 +304,48 @@ void tst_WireDocument::documentHasNoOtherNotifications()
 void tst_WireDocument::tablesNameEveryCommandAndNotification()
 {
     const QStringList rows = document().split('\n').filter(QRegularExpression(QStringLiteral("^\\| ")));
-    for (const CommandRow &command : COMMANDS) {
+    for (const Wire::CommandRow &command : Wire::kCommands) {
         const QRegularExpression cell(QStringLiteral("^\\| [^|]*\\b%1\\b[^|]*\\|").arg(QLatin1String(command.name)));
         QVERIFY2(rows.filter(cell).size() == 2, command.name);
     }
-    for (const NotificationRow &notification : NOTIFICATIONS) {
+    for (const Wire::NotificationRow &notification : Wire::kNotifications) {
         const QString name = QString::fromLatin1(notification.name);
         const QRegularExpression cells(QStringLiteral("^\\| (\\d+, )*%1(, \\d+)* \\|%2")
                                            .arg(static_cast<int>(notification.code))
                                            .arg(name.isEmpty() ? " \\| open \\|" : "[^|]*\\b" + name + "\\b"));
         QVERIFY2(rows.filter(cells).size() == 1, QByteArray::number(static_cast<int>(notification.code)));
     }
+}
+
+void tst_WireDocument::tableOfCommandsHasTheirParameters()
+{
+    std::size_t checked = 0;
+    for (const QStringList &cells : tableUnder(QStringLiteral("| messagetype |"))) {
+        QString letters;
+        for (const QString &cell : cells.mid(1))
+            letters += letterOf(cell);
+        for (const QString &name : cells.constFirst().split(QStringLiteral(", "))) {
+            const Wire::CommandRow *row = findCommand(name);
+            QVERIFY2(row, qPrintable(name));
+            QCOMPARE(QString(row->parameters), letters);
+            ++checked;
+        }
+    }
+    QCOMPARE(checked, Wire::kCommands.size());
+}
+
+void tst_WireDocument::tableOfNotificationsHasTheirContents()
+{
+    std::size_t checked = 0;
+    for (const QStringList &cells : tableUnder(QStringLiteral("| code | name |"))) {
+        for (const QString &code : cells.constFirst().split(QStringLiteral(", "))) {
+            const Wire::NotificationRow *row = Wire::findNotification(code.toInt());
+            QVERIFY2(row, qPrintable(code));
+            QVERIFY2(row->content == contentOf(cells.at(2)), qPrintable(code));
+            ++checked;
+        }
+    }
+    QCOMPARE(checked, Wire::kNotifications.size());
 }
 
 void tst_WireDocument::sequencesNameWhatThereIs()
@@ -280,19 +361,31 @@ void tst_WireDocument::sequencesNameWhatThereIs()
         if (command.hasMatch()) {
             ++commands;
             const QString name = command.captured(1);
-            QVERIFY2(findCommand(name) || name == QLatin1String(QUIT_LINE), qPrintable(line));
+            QVERIFY2(findCommand(name) || name == QLatin1String(Wire::kQuitLine), qPrintable(line));
         } else {
             ++notifications;
             QVERIFY2(notification.hasMatch(), qPrintable(line));
             const int code = notification.captured(1).toInt();
-            const bool known = std::any_of(NOTIFICATIONS.begin(), NOTIFICATIONS.end(), [&](const NotificationRow &row) {
-                return static_cast<int>(row.code) == code && notification.captured(2) == QLatin1String(row.name);
-            });
+            const bool known = std::any_of(
+                Wire::kNotifications.begin(), Wire::kNotifications.end(), [&](const Wire::NotificationRow &row) {
+                    return static_cast<int>(row.code) == code && notification.captured(2) == QLatin1String(row.name);
+                });
             QVERIFY2(known, qPrintable(line));
         }
         QCOMPARE(line.indexOf('|', 4), 63);
     }
     QVERIFY(commands >= 9 && notifications >= 12);
+}
+
+void tst_WireDocument::tableOfRobotsNamesEachOfThem()
+{
+    QStringList documented;
+    for (const QStringList &cells : tableUnder(QStringLiteral("| id | name | when called |")))
+        documented << cells.at(0) + ' ' + cells.at(1);
+    QStringList robots;
+    for (const Robot &robot : ROBOTS)
+        robots << QString(robot.id) + ' ' + robot.name;
+    QCOMPARE(documented, robots);
 }
 
 #include "support/TestProgram.h"

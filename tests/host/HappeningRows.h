@@ -2,7 +2,7 @@
 
 // Rows for a HappeningsModel, made by hand.
 
-#include "EventSentences.h"
+#include "EventWords.h"
 #include "HappeningsModel.h"
 
 #include "plugin/EventPayload.h"
@@ -14,7 +14,7 @@ inline Happening callOf(const QString &strUser, qint64 iTime = 0, Happening::Kin
     row.time = iTime;
     row.kind = kind;
     row.way = Happening::ClientToPlugin;
-    row.sentence = EventSentences::say(MSG_CALL_SINGLE_USER, packPayload(false, strUser), QByteArray());
+    row.sentence = EventWords::say(MSG_CALL_SINGLE_USER, packPayload(false, strUser), QByteArray());
     row.raw = QStringLiteral("raw ") + strUser;
     return row;
 }

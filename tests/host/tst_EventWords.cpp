@@ -1,7 +1,9 @@
 #include "EventWords.h"
 
 #include "plugin/EventPayload.h"
+#include "plugin/HostEvents.h"
 
+#include <QSet>
 #include <QTest>
 
 class tst_EventWords : public QObject
@@ -9,7 +11,7 @@ class tst_EventWords : public QObject
     Q_OBJECT
 
 private slots:
-    void everyCommandOfTheContractHasARow();
+    void everyEventOfTheContractHasItsWords();
     void payloadReadsInStreamOrder_data();
     void payloadReadsInStreamOrder();
     void answersAreSaid_data();
@@ -18,22 +20,26 @@ private slots:
     void unknownCommandIsItsNumber();
     void shortPayloadReadsAsEmpty();
     void brokenListReadsAsEmpty();
+    void sentencesSayWhatThePayloadMeans_data();
+    void sentencesSayWhatThePayloadMeans();
 };
 
-void tst_EventWords::everyCommandOfTheContractHasARow()
+void tst_EventWords::everyEventOfTheContractHasItsWords()
 {
-    QCOMPARE(EventWords::count(), 19);
-    const EMsgId all[] = {
-        MSG_UPDATE_USER_INFO,      MSG_CLIENT_CONNECT_STATUS, MSG_GET_FRIEND_INFO, MSG_GET_STRANGER_SMALL_VCARD,
-        MSG_SHOW_SIGN_LIST,        MSG_IS_EXIST_FRIEND,       MSG_CLOSE_AV_MSGBOX, MSG_CALL_SINGLE_USER,
-        MSG_CALL_FINISHED,         MSG_IS_EXIST_CALL,         MSG_IS_VIDEO_CALL,   MSG_CLOSE_SIGN_LIST,
-        MSG_RECEVIE_VOIP_CALL,     MSG_RESPONSE_VOIP_REQUEST, MSG_CALL_CONFERENCE, MSG_CREATE_VOICE_CONFERENCE,
-        MSG_ADD_CONFERENCE_MEMBER, MSG_SHOW_VOICE_CONF,       MSG_EXIT_VOIP};
-    QCOMPARE(int(std::size(all)), EventWords::count());
-    for (const EMsgId msgId : all) {
-        QVERIFY2(EventWords::describe(msgId, QByteArray()).startsWith(QStringLiteral("%1 ").arg(int(msgId))),
-                 qPrintable(QString::number(msgId)));
+    QSet<QString> words;
+    QSet<QString> sentences;
+    for (const HostEvent &event : hostEvents) {
+        const QString described = EventWords::describe(event.msgId, QByteArray());
+        const QString number = QStringLiteral("%1 ").arg(int(event.msgId));
+        QVERIFY2(described.startsWith(number) && described.size() > number.size(), qPrintable(described));
+        words.insert(described);
+        QVERIFY(EventWords::isKnown(event.msgId));
+        const QString sentence = EventWords::say(event.msgId, QByteArray(), QByteArray()).text();
+        QVERIFY2(sentence.startsWith(QLatin1String("the ")), qPrintable(sentence));
+        sentences.insert(sentence);
     }
+    QCOMPARE(words.size(), 19);
+    QCOMPARE(sentences.size(), 19);
 }
 
 void tst_EventWords::payloadReadsInStreamOrder_data()
@@ -105,6 +111,7 @@ void tst_EventWords::questionsAreThoseWithAnAnswer()
 void tst_EventWords::unknownCommandIsItsNumber()
 {
     QCOMPARE(EventWords::describe(EMsgId(17), QByteArray("x")), QStringLiteral("17"));
+    QVERIFY(!EventWords::isKnown(EMsgId(17)));
     QCOMPARE(EventWords::answer(EMsgId(17), QByteArray("x")), QString());
 }
 
@@ -118,6 +125,47 @@ void tst_EventWords::brokenListReadsAsEmpty()
 {
     QCOMPARE(EventWords::describe(MSG_CREATE_VOICE_CONFERENCE, packPayload(quint32(0xfffffff0))),
              QStringLiteral("4734 pick members of a conference: users=[]"));
+}
+
+void tst_EventWords::sentencesSayWhatThePayloadMeans_data()
+{
+    QTest::addColumn<int>("msgId");
+    QTest::addColumn<QByteArray>("payload");
+    QTest::addColumn<QByteArray>("reply");
+    QTest::addColumn<QString>("words");
+    const QString user = QStringLiteral("30010001");
+    const QByteArray nothing;
+    QTest::newRow("call") << int(MSG_CALL_SINGLE_USER) << packPayload(true, user) << nothing
+                          << "the client asks the plug-in to call 30010001 with picture (4470)";
+    QTest::newRow("finished") << int(MSG_CALL_FINISHED) << packPayload(false, user, qint32(24), true, true, qint64(7))
+                              << nothing
+                              << "the plug-in reports the end of the call with 30010001: hung up; called by this side, "
+                                 "connected, 7 s (4478)";
+    QTest::newRow("signed out") << int(MSG_CLIENT_CONNECT_STATUS) << packPayload(false) << nothing
+                                << "the client tells the plug-in that the user is signed out (4135)";
+    QTest::newRow("invited") << int(MSG_RECEVIE_VOIP_CALL) << packPayload(user, true, false) << nothing
+                             << "the plug-in reports that 30010001 invites to a conference, with sound only (4639)";
+    QTest::newRow("record") << int(MSG_GET_FRIEND_INFO) << packPayload(user) << packPayload(qint64(1))
+                            << "the plug-in asks who 30010001 is: here is the record (4157)";
+    QTest::newRow("members") << int(MSG_ADD_CONFERENCE_MEMBER) << packPayload(QStringList{"a", "b"})
+                             << packPayload(QStringList())
+                             << "the plug-in asks whom to add to the conference of a, b: nobody (4735)";
+    QTest::newRow("no call") << int(MSG_IS_EXIST_CALL) << nothing << packPayload(false)
+                             << "the client asks whether there is a call: no (4491)";
+    QTest::newRow("rejected") << int(MSG_RESPONSE_VOIP_REQUEST) << packPayload(false) << nothing
+                              << "the client tells the plug-in that the user rejects the call (4732)";
+    QTest::newRow("short payload") << int(MSG_CALL_SINGLE_USER) << nothing << nothing
+                                   << "the client asks the plug-in to call — with sound only (4470)";
+    QTest::newRow("unknown") << 17 << QByteArray("xy") << nothing
+                             << "a command that is not in the contract, with 2 bytes of payload (17)";
+}
+
+void tst_EventWords::sentencesSayWhatThePayloadMeans()
+{
+    QFETCH(int, msgId);
+    QFETCH(QByteArray, payload);
+    QFETCH(QByteArray, reply);
+    QTEST(EventWords::say(EMsgId(msgId), payload, reply).text(), "words");
 }
 
 #include "support/TestProgram.h"

@@ -2,6 +2,7 @@
 // language, and the windows show them.
 
 #include "HostCatalogue.h"
+#include "HostLanguage.h"
 
 #include "fakes/EngineFixture.h"
 #include "ui/VoipWidget.h"
@@ -171,8 +172,8 @@ void tst_Translations::addLanguages()
 {
     QTest::addColumn<QString>("language");
 
-    for (const char *language : {"zh_CN", "zh_TW", "en"})
-        QTest::newRow(language) << language;
+    for (const HostLanguage::Choice &choice : HostLanguage::choices())
+        QTest::newRow(qPrintable(choice.setting)) << choice.setting;
 }
 
 void tst_Translations::everyKeyOfTheSourcesAndNoOtherHasATranslation_data()

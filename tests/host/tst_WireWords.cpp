@@ -2,9 +2,8 @@
 
 #include "ShownText.h"
 
-#include "callprocess/Wire.h"
-#include "engine/SdkCommand.h"
-#include "engine/SdkNotification.h"
+#include "wire/Commands.h"
+#include "wire/Notifications.h"
 
 #include <QTest>
 
@@ -13,8 +12,8 @@ class tst_WireWords : public QObject
     Q_OBJECT
 
 private slots:
-    void everyCommandOfThePlugInHasItsWords();
-    void everyNotificationOfTheProtocolHasItsWords();
+    void everyCommandHasASentenceOfItsOwn();
+    void everyNotificationHasASentence();
     void commandsAreSaid_data();
     void commandsAreSaid();
     void notificationsAreSaid_data();
@@ -41,34 +40,32 @@ private:
     }
 };
 
-void tst_WireWords::everyCommandOfThePlugInHasItsWords()
+void tst_WireWords::everyCommandHasASentenceOfItsOwn()
 {
-    QCOMPARE(WireWords::commandCount(), int(SdkCommand::CommandCount));
-    for (int name = 0; name < SdkCommand::CommandCount; ++name) {
-        const char *wireName = SdkCommand::wireName(SdkCommand::Name(name));
-        QVERIFY2(WireWords::hasCommand(QLatin1String(wireName)), wireName);
+    QSet<QString> sentences;
+    for (const Wire::CommandRow &row : Wire::kCommands) {
+        const WireWords::Said said = say(WireLine::FromPlugin, QStringLiteral(R"({"messagetype":"%1"})").arg(row.name));
+        QVERIFY2(!said.bad, row.name);
+        QVERIFY2(said.sentence.text().startsWith(QLatin1String("the plug-in ")), row.name);
+        sentences.insert(said.sentence.text());
     }
+    QCOMPARE(sentences.size(), int(Wire::kCommands.size()));
+    QVERIFY(say(WireLine::FromPlugin, R"({"messagetype":"SetSpeakerEnable"})").bad);
 }
 
-void tst_WireWords::everyNotificationOfTheProtocolHasItsWords()
+void tst_WireWords::everyNotificationHasASentence()
 {
-    QCOMPARE(WireWords::notificationCount(), int(NOTIFICATIONS.size()));
-    for (const NotificationRow &row : NOTIFICATIONS) {
-        QVERIFY2(WireWords::hasNotification(int(row.code)), row.name);
+    const QString document = QStringLiteral(R"({\"content\":{},\"result\":{}})");
+    for (const Wire::NotificationRow &row : Wire::kNotifications) {
+        const int code = int(row.code);
+        const QString line = QStringLiteral(R"({"content":"%1","resultCode":%2})").arg(document).arg(code);
+        const WireWords::Said said = say(WireLine::ToPlugin, line);
+        QVERIFY2(!said.bad && said.sentence.text().startsWith(QLatin1String("call process")),
+                 qPrintable(said.sentence.text()));
+        QCOMPARE(said.sentence.text().contains(QLatin1String("leads to nothing")), row.content == Wire::Content::Open);
+        QVERIFY2(said.sentence.text().endsWith(QStringLiteral(" (%1)").arg(code)), qPrintable(line));
     }
-    for (const SdkNotification::Code code :
-         {SdkNotification::IncomingCall,  SdkNotification::IncomingCallAlt, SdkNotification::IncomingConf,
-          SdkNotification::RejectRequest, SdkNotification::PeerCanceled,    SdkNotification::UserRejected,
-          SdkNotification::CallEnded,     SdkNotification::PeerHangup,      SdkNotification::PeerHangupAlt,
-          SdkNotification::PeerRejected,  SdkNotification::ConfUpdate,      SdkNotification::ConfMemberLeft,
-          SdkNotification::SdkFlag,       SdkNotification::CallConnected,   SdkNotification::CallFailed,
-          SdkNotification::ConfCreated,   SdkNotification::ConfAddResult,   SdkNotification::PeerBusy,
-          SdkNotification::CallFailedAlt, SdkNotification::CallFailedAlt2,  SdkNotification::ConfMemberRejected,
-          SdkNotification::SdkLog}) {
-        QVERIFY2(WireWords::hasNotification(code), qPrintable(QString::number(code)));
-    }
-    QVERIFY(!WireWords::hasNotification(26));
-    QVERIFY(!WireWords::hasCommand(QStringLiteral("SetSpeakerEnable")));
+    QVERIFY(say(WireLine::ToPlugin, R"({"content":"","resultCode":26})").bad);
 }
 
 void tst_WireWords::commandsAreSaid_data()

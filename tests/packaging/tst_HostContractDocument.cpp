@@ -5,6 +5,7 @@
 #include "plugin/EMsgId.h"
 #include "plugin/EventPayload.h"
 #include "plugin/HostCommands.h"
+#include "plugin/HostEvents.h"
 #include "plugin/HostRequests.h"
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageEventProcess.h"
@@ -25,6 +26,18 @@ using Cells = QStringList;
 namespace {
 
 constexpr int commandCount = 9;
+
+QString nameOf(EMsgId msgId)
+{
+    switch (msgId) {
+#define HOST_EVENT(name, number, way, fields, answer)                                                                  \
+    case name:                                                                                                         \
+        return QStringLiteral(#name);
+#include "plugin/HostEvents.def"
+#undef HOST_EVENT
+    }
+    return QString();
+}
 
 QString fileText(const char *strFile)
 {
@@ -75,6 +88,30 @@ QString takeField(PayloadReader &reader, const QString &strType)
     return QStringLiteral("no type of the document: ") + strType;
 }
 
+/// The letters of the types that the document gives the fields, each in its first word.
+QString lettersOf(const QString &strTypes)
+{
+    static const QMap<QString, QString> letters = {{"text", "s"}, {"texts", "l"}, {"bool", "b"},
+                                                   {"int", "i"},  {"long", "q"},  {"address", "p"}};
+    QString found;
+    const QStringList types = strTypes.split(QStringLiteral(", "), Qt::SkipEmptyParts);
+    for (const QString &type : types) {
+        found += letters.value(type.section(QRegularExpression("[ :]"), 0, 0), QStringLiteral("?"));
+    }
+    return found;
+}
+
+/// The same of the table's fields; the reason of a call's end is a number as any other.
+QString lettersOfTable(const char *fields)
+{
+    QString found;
+    const QStringList shapes = QString(fields).split(' ', Qt::SkipEmptyParts);
+    for (const QString &shape : shapes) {
+        found += shape.at(0) == 'r' ? QChar('i') : shape.at(0);
+    }
+    return found;
+}
+
 struct Sample
 {
     std::function<void()> send;
@@ -111,8 +148,8 @@ class tst_HostContractDocument : public QObject
 private slots:
     void init();
     void cleanup();
-    void everyCommandNumberHasItsRow_data();
-    void everyCommandNumberHasItsRow();
+    void everyEventHasItsRow_data();
+    void everyEventHasItsRow();
     void everyDocumentedCommandIsKnown();
     void documentedRequestIsWhatArrives_data();
     void documentedRequestIsWhatArrives();
@@ -133,33 +170,33 @@ void tst_HostContractDocument::cleanup()
     VoipManageMessageProcess::instance()->setSendEvent(nullptr);
 }
 
-void tst_HostContractDocument::everyCommandNumberHasItsRow_data()
+void tst_HostContractDocument::everyEventHasItsRow_data()
 {
     QTest::addColumn<QString>("strSection");
-    QTest::addColumn<QString>("strDirection");
-    QTest::newRow("commands") << "Commands"
-                              << "in";
-    QTest::newRow("requests") << "Requests"
-                              << "out";
+    QTest::addColumn<bool>("bRequests");
+    QTest::addColumn<int>("iPayload");
+    QTest::newRow("commands") << "Commands" << false << 2;
+    QTest::newRow("requests") << "Requests" << true << 4;
 }
 
-void tst_HostContractDocument::everyCommandNumberHasItsRow()
+void tst_HostContractDocument::everyEventHasItsRow()
 {
     QFETCH(QString, strSection);
-    QFETCH(QString, strDirection);
+    QFETCH(bool, bRequests);
+    QFETCH(int, iPayload);
     QStringList expected;
-    static const QRegularExpression constant(QStringLiteral("(MSG_\\w+) = (\\d+), +///< (in|out)"));
-    auto matches = constant.globalMatch(fileText(VOIP_COMMANDS));
-    while (matches.hasNext()) {
-        const QRegularExpressionMatch match = matches.next();
-        if (match.captured(3) == strDirection) {
-            expected.append(match.captured(2) + ' ' + match.captured(1));
+    for (const HostEvent &event : hostEvents) {
+        if ((event.way == EventWay::Request) == bRequests) {
+            expected.append(QString("%1 %2 (%3) (%4)")
+                                .arg(int(event.msgId))
+                                .arg(nameOf(event.msgId), lettersOfTable(event.fields), lettersOfTable(event.answer)));
         }
     }
     QStringList documented;
     const QList<Cells> rows = rowsOf(strSection);
     for (const Cells &row : rows) {
-        documented.append(row[0] + ' ' + row[1]);
+        const QString answer = row.constLast().section(", ", 0, 0);
+        documented.append(QString("%1 %2 (%3) (%4)").arg(row[0], row[1], lettersOf(row[iPayload]), lettersOf(answer)));
     }
     documented.sort();
     expected.sort();

@@ -2,6 +2,7 @@
 
 #include "soak/SoakClient.h"
 
+#include "robots/RobotIds.h"
 #include "ui/MemberRoles.h"
 
 #include <QDeadlineTimer>
@@ -11,15 +12,15 @@
 
 namespace {
 
-const QString answers = QStringLiteral("30010001");
-const QString busy = QStringLiteral("30010002");
-const QString rejects = QStringLiteral("30010003");
-const QString never = QStringLiteral("30010004");
-const QString fails = QStringLiteral("30010005");
-const QString hangsUp = QStringLiteral("30010006");
-const QString callsBack = QStringLiteral("30010007");
-const QString invites = QStringLiteral("30010008");
-const QString crosses = QStringLiteral("30010010");
+const QString answers = QString::fromLatin1(Robots::answers);
+const QString busy = QString::fromLatin1(Robots::busy);
+const QString rejects = QString::fromLatin1(Robots::rejects);
+const QString never = QString::fromLatin1(Robots::silent);
+const QString fails = QString::fromLatin1(Robots::fails);
+const QString hangsUp = QString::fromLatin1(Robots::hangsUp);
+const QString callsBack = QString::fromLatin1(Robots::callsBack);
+const QString invites = QString::fromLatin1(Robots::invites);
+const QString crosses = QString::fromLatin1(Robots::crosses);
 const QString nobody = QStringLiteral("39999999");
 
 // Results in a call's record.

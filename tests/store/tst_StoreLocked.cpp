@@ -1,7 +1,7 @@
 #include "LockHolder.h"
 #include "StoreFolder.h"
 
-#include "common/CommonFun.h"
+#include "model/SharedContext.h"
 
 #include <QSqlQuery>
 #include <QTest>
@@ -72,7 +72,7 @@ void tst_StoreLocked::openOfAFileThatCannotBeReadFailsWhileItIsHeld()
 
     QVERIFY(!open(createAll));
     QVERIFY(holder.holds());
-    QCOMPARE(CommonFun::getSqlDatabase(), &DB::m_db);
+    QCOMPARE(SharedContext::getSqlDatabase(), &DB::m_db);
     QVERIFY(!DB::m_db.isOpen());
     QVERIFY(!DBConfInfo::saveConfInfo(numberedRecord(m_iRecords)));
 

@@ -2,7 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en">
 <context>
-    <name>EventSentences</name>
+    <name>EventWords</name>
     <message>
         <source>yes</source>
         <translation>yes</translation>

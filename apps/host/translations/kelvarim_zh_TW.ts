@@ -2,7 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW">
 <context>
-    <name>EventSentences</name>
+    <name>EventWords</name>
     <message>
         <source>yes</source>
         <translation>是</translation>

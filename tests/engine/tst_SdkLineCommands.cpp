@@ -1,14 +1,14 @@
 // The lines that go to the call process: names, parameters, framing.
 
 #include "engine/JsonText.h"
-#include "engine/SdkCommand.h"
+#include "engine/SdkLine.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
 
-class tst_SdkCommand : public QObject
+class tst_SdkLineCommands : public QObject
 {
     Q_OBJECT
 
@@ -21,47 +21,46 @@ private slots:
     void emptyListIsNullAndAFilledOneAnArray();
 };
 
-void tst_SdkCommand::thereAreSeventeenCommandsWithTheseNames()
+void tst_SdkLineCommands::thereAreSeventeenCommandsWithTheseNames()
 {
     const QStringList names{"RegeditUser",  "UnReg",           "CallUser",     "RequestConference", "Add2Conference",
                             "AcceptCall",   "AcceptConf",      "RejectCall",   "RejectConf",        "HangUpCall",
                             "HangupConf",   "ControlConf",     "SetMicEnable", "SetSpeakerEnble",   "SetCamreraEnable",
                             "SetMicVolume", "SetSpeakerVolume"};
-    QCOMPARE(static_cast<int>(SdkCommand::CommandCount), 17);
     QStringList written;
-    for (int name = 0; name < SdkCommand::CommandCount; ++name)
-        written.append(SdkCommand::wireName(static_cast<SdkCommand::Name>(name)));
+    for (const Wire::CommandRow &row : Wire::kCommands)
+        written.append(row.name);
     QCOMPARE(written, names);
 }
 
-void tst_SdkCommand::lineIsCompactSortedAndEndsInALineFeed_data()
+void tst_SdkLineCommands::lineIsCompactSortedAndEndsInALineFeed_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("expected");
 
-    using SdkCommand::json;
-    QTest::newRow("no parameter") << SdkCommand::line(SdkCommand::AcceptCall) << "{\"messagetype\":\"AcceptCall\"}\n";
-    QTest::newRow("text and bool") << SdkCommand::line(SdkCommand::CallUser, json("anna"), true)
+    using Wire::Command;
+    QTest::newRow("no parameter") << SdkLine::of<Command::AcceptCall>() << "{\"messagetype\":\"AcceptCall\"}\n";
+    QTest::newRow("text and bool") << SdkLine::of<Command::CallUser>(QString("anna"), true)
                                    << "{\"messagetype\":\"CallUser\",\"param1\":\"anna\",\"param2\":true}\n";
-    QTest::newRow("number") << SdkCommand::line(SdkCommand::SetMicVolume, Json::Int64(-3))
+    QTest::newRow("number") << SdkLine::of<Command::SetMicVolume>(-3LL)
                             << "{\"messagetype\":\"SetMicVolume\",\"param1\":-3}\n";
     QTest::newRow("six parameters")
-        << SdkCommand::line(SdkCommand::Add2Conference, JsonText::arrayOrNull({"b", "a"}), json("me"), json("me"),
-                            false, "", JsonText::arrayOrNull({}))
+        << SdkLine::of<Command::Add2Conference>(QStringList{"b", "a"}, QString("me"), QString("me"), false, QString(),
+                                                QStringList())
         << "{\"messagetype\":\"Add2Conference\",\"param1\":[\"b\",\"a\"],\"param2\":\"me\",\"param3\":\"me\","
            "\"param4\":false,\"param5\":\"\",\"param6\":null}\n";
     QTest::newRow("line feed inside a text is escaped")
-        << SdkCommand::line(SdkCommand::UnReg, json("a\nb")) << "{\"messagetype\":\"UnReg\",\"param1\":\"a\\nb\"}\n";
+        << SdkLine::of<Command::UnReg>(QString("a\nb")) << "{\"messagetype\":\"UnReg\",\"param1\":\"a\\nb\"}\n";
 }
 
-void tst_SdkCommand::lineIsCompactSortedAndEndsInALineFeed()
+void tst_SdkLineCommands::lineIsCompactSortedAndEndsInALineFeed()
 {
     QFETCH(QString, line);
     QFETCH(QString, expected);
     QCOMPARE(line, expected);
 }
 
-void tst_SdkCommand::textOutsideAsciiComesBackAsItWas_data()
+void tst_SdkLineCommands::textOutsideAsciiComesBackAsItWas_data()
 {
     QTest::addColumn<QString>("text");
 
@@ -71,15 +70,15 @@ void tst_SdkCommand::textOutsideAsciiComesBackAsItWas_data()
     QTest::newRow("empty") << "";
 }
 
-void tst_SdkCommand::textOutsideAsciiComesBackAsItWas()
+void tst_SdkLineCommands::textOutsideAsciiComesBackAsItWas()
 {
     QFETCH(QString, text);
-    const QString line = SdkCommand::line(SdkCommand::UnReg, SdkCommand::json(text));
+    const QString line = SdkLine::of<Wire::Command::UnReg>(text);
     const QJsonObject object = QJsonDocument::fromJson(line.toUtf8()).object();
     QCOMPARE(object.value("param1").toString(), text);
 }
 
-void tst_SdkCommand::emptyListIsNullAndAFilledOneAnArray()
+void tst_SdkLineCommands::emptyListIsNullAndAFilledOneAnArray()
 {
     QVERIFY(JsonText::arrayOrNull({}).isNull());
     const Json::Value one = JsonText::arrayOrNull({"anna"});
@@ -89,5 +88,5 @@ void tst_SdkCommand::emptyListIsNullAndAFilledOneAnArray()
 }
 
 #include "support/TestProgram.h"
-VOIP_TEST(tst_SdkCommand, Guiless)
-#include "tst_SdkCommand.moc"
+VOIP_TEST(tst_SdkLineCommands, Guiless)
+#include "tst_SdkLineCommands.moc"

@@ -1,10 +1,10 @@
 // One line from the call process: what of it counts, and that nothing in it can throw.
 
-#include "engine/SdkNotification.h"
+#include "engine/SdkLine.h"
 
 #include <QTest>
 
-class tst_SdkNotification : public QObject
+class tst_SdkLineNotifications : public QObject
 {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ private slots:
     void lineWithoutEffectGivesMinusOne();
 };
 
-void tst_SdkNotification::lineIsReadQuietly_data()
+void tst_SdkLineNotifications::lineIsReadQuietly_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<int>("code");
@@ -54,17 +54,17 @@ void tst_SdkNotification::lineIsReadQuietly_data()
         << R"({"resultCode":12,"content":"{\"content\":{}}"})" << 12 << R"({"content":{}})";
 }
 
-void tst_SdkNotification::lineIsReadQuietly()
+void tst_SdkLineNotifications::lineIsReadQuietly()
 {
     QFETCH(QString, line);
     QFETCH(int, code);
     QFETCH(QString, content);
-    const SdkNotification::Line read = SdkNotification::read(line);
+    const SdkLine::Notification read = SdkLine::read(line);
     QCOMPARE(read.code, code);
     QCOMPARE(read.content, content);
 }
 
-void tst_SdkNotification::lineWithoutEffectGivesMinusOne_data()
+void tst_SdkLineNotifications::lineWithoutEffectGivesMinusOne_data()
 {
     QTest::addColumn<QString>("line");
 
@@ -95,12 +95,12 @@ void tst_SdkNotification::lineWithoutEffectGivesMinusOne_data()
     QTest::newRow("100000 open brackets") << QString(100000, '[');
 }
 
-void tst_SdkNotification::lineWithoutEffectGivesMinusOne()
+void tst_SdkLineNotifications::lineWithoutEffectGivesMinusOne()
 {
     QFETCH(QString, line);
-    QCOMPARE(SdkNotification::read(line).code, -1);
+    QCOMPARE(SdkLine::read(line).code, -1);
 }
 
 #include "support/TestProgram.h"
-VOIP_TEST(tst_SdkNotification, Guiless)
-#include "tst_SdkNotification.moc"
+VOIP_TEST(tst_SdkLineNotifications, Guiless)
+#include "tst_SdkLineNotifications.moc"

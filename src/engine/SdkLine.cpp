@@ -1,0 +1,56 @@
+#include "engine/SdkLine.h"
+
+#include "engine/JsonText.h"
+
+#include <exception>
+#include <string>
+
+namespace SdkLine {
+
+Json::Value json(bool value)
+{
+    return value;
+}
+
+Json::Value json(qlonglong value)
+{
+    return Json::Int64(value);
+}
+
+Json::Value json(const QString &text)
+{
+    return text.toStdString();
+}
+
+Json::Value json(const QStringList &texts)
+{
+    return JsonText::arrayOrNull(texts);
+}
+
+QString lineOf(Wire::Command command, std::initializer_list<Json::Value> parameters)
+{
+    Json::Value root(Json::objectValue);
+    root["messagetype"] = Wire::nameOf(command);
+    int number = 0;
+    for (const Json::Value &parameter : parameters)
+        root["param" + std::to_string(++number)] = parameter;
+    return JsonText::write(root);
+}
+
+Notification read(const QString &line)
+{
+    Json::Value document;
+    if (!JsonText::parse(line, document))
+        return {};
+    // Read through a constant, what is absent is not added.
+    const Json::Value &root = document;
+    try {
+        const Json::Value &content = root["content"];
+        return {root["resultCode"].asInt(),
+                content.isString() ? JsonText::text(content) : QString::fromStdString(content.asString())};
+    } catch (const std::exception &) {
+        return {};
+    }
+}
+
+} // namespace SdkLine

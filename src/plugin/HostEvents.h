@@ -1,0 +1,63 @@
+#pragma once
+
+// The events between the host and this plug-in as rows: which way each goes and what it carries. Constants alone; any
+// thread.
+
+#include "plugin/EMsgId.h"
+
+#include <array>
+
+/// Which way an event goes.
+enum class EventWay
+{
+    Command, ///< from the host to the plug-in
+    Request, ///< from the plug-in to one of the host's others
+};
+
+/// One event.
+struct HostEvent
+{
+    EMsgId msgId;
+    EventWay way;
+    const char *fields; ///< the payload's fields, "type:name" in stream order, parted by blanks
+    const char *answer; ///< those of the payload that replaces it; empty where nothing is answered
+};
+
+/// Every event, in the order of their numbers.
+inline constexpr std::array hostEvents{
+#define HOST_EVENT(name, number, way, fields, answer) HostEvent{name, EventWay::way, fields, answer},
+#include "plugin/HostEvents.def"
+#undef HOST_EVENT
+};
+
+/// The row of a number, null for one that is not of this plug-in.
+constexpr const HostEvent *findHostEvent(int iMsgId)
+{
+    for (const HostEvent &event : hostEvents) {
+        if (event.msgId == iMsgId) {
+            return &event;
+        }
+    }
+    return nullptr;
+}
+
+/// Whether `rows`, which have a member `msgId`, tell of each event that goes this way once, and of no other.
+template <class Rows>
+constexpr bool tellOfEveryEvent(const Rows &rows, EventWay way)
+{
+    for (const HostEvent &event : hostEvents) {
+        int found = 0;
+        for (const auto &row : rows) {
+            found += row.msgId == event.msgId ? 1 : 0;
+        }
+        if (found != (event.way == way ? 1 : 0)) {
+            return false;
+        }
+    }
+    for (const auto &row : rows) {
+        if (findHostEvent(row.msgId) == nullptr) {
+            return false;
+        }
+    }
+    return true;
+}
