@@ -4,7 +4,9 @@
 usage: make_pictures.py [--check]     --check only tells whether the committed pictures are what the drawings give.
 
 drawings/<path>.svg becomes <path>.png at the drawing's own size; the system avatars become .jpg, as their names are
-made by the client. Colours are those of src/common/Palette.def; lines are a pixel wide and lie on whole pixels.
+made by the client. What style sheets name becomes <path>@2x.png as well, which Qt takes on dense screens. Heads are scaled
+by who shows them: they have 400 pixels, so that none is ever enlarged. Colours are those of src/common/Palette.def; lines
+are a pixel wide and lie on whole pixels.
 
 Needs the Debian packages librsvg2-bin and python3-pil.
 """
@@ -19,10 +21,17 @@ from PIL import Image
 RESOURCES = pathlib.Path(__file__).resolve().parent.parent / "resources"
 DRAWINGS = RESOURCES / "drawings"
 PHOTOS = {"SystemAvatar"}
+IN_STYLE_SHEETS = (
+    "images/CommonCtrls/kvim_common_back_*",
+    "images/CommonCtrls/kvim_list_ic_selected.*",
+    "images/icon/*",
+    "images/skins/*",
+)
 
 
-def rendered(drawing):
-    return subprocess.run(["rsvg-convert", str(drawing)], check=True, stdout=subprocess.PIPE).stdout
+def rendered(drawing, scale=1):
+    command = ["rsvg-convert", "--zoom", str(scale), str(drawing)]
+    return subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout
 
 
 def as_photo(png):
@@ -40,6 +49,8 @@ def pictures():
             yield RESOURCES / path.with_suffix(".jpg"), as_photo(png)
         else:
             yield RESOURCES / path.with_suffix(".png"), png
+        if any(path.match(pattern) for pattern in IN_STYLE_SHEETS):
+            yield RESOURCES / path.with_name(path.stem + "@2x.png"), rendered(drawing, 2)
 
 
 def main():

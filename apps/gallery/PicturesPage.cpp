@@ -14,6 +14,8 @@ const QString anAvatar = QStringLiteral("Resources/SystemAvatar/4.jpg");
 constexpr int avatarCount = 20;
 constexpr int avatarsInARow = 10;
 constexpr int avatarSide = 56;
+// Heads ship larger than anybody shows them.
+constexpr int headSide = 90;
 // The part of the watermark that is shown, in pixels of the picture.
 constexpr QRect waterMarkPart(0, 0, 560, 260);
 
@@ -67,6 +69,17 @@ QWidget *tiles(const QList<QPixmap> &pictures, int iInARow)
     return specimen;
 }
 
+/// The picture itself, or a head at the size of a head.
+QPixmap headSized(const QPixmap &picture, qreal ratio)
+{
+    if (picture.width() < 4 * headSide)
+        return picture;
+    const int pixels = qRound(headSide * ratio);
+    QPixmap head = picture.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    head.setDevicePixelRatio(ratio);
+    return head;
+}
+
 } // namespace
 
 PicturesPage::PicturesPage(QWidget *parent) : Sheet(parent)
@@ -118,7 +131,8 @@ void PicturesPage::addNamedPictures()
     for (const NamedPictures &named : namedPictures) {
         QList<QPixmap> pictures;
         for (const char *file : named.files) {
-            pictures.append(QPixmap(QStringLiteral("Resources/") + QLatin1String(file)));
+            pictures.append(
+                headSized(QPixmap(QStringLiteral("Resources/") + QLatin1String(file)), devicePixelRatioF()));
         }
         row(QString::fromLatin1(named.name), {tiles(pictures, pictures.size())});
     }

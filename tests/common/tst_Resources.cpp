@@ -1,6 +1,8 @@
 #include <QDir>
+#include <QDirIterator>
 #include <QImage>
 #include <QImageReader>
+#include <QRegularExpression>
 #include <QtTest>
 
 namespace {
@@ -12,9 +14,11 @@ struct Picture
     const char *pPath;
     int iWidth;
     int iHeight;
+    bool bInStyleSheets = false;
 };
 
-/// The pictures that windows, skins and records name, below "Resources/", with their size in pixels.
+/// The pictures that windows, skins and records name, below "Resources/", with their size in pixels. Heads are larger
+/// than any window shows them; who is named in style sheets has a picture for screens of twice the density beside it.
 constexpr Picture PICTURES[] = {
     {"Html/messageTemplate/images/exe.png", 32, 32},
     {"Html/messageTemplate/images/unknown.png", 32, 32},
@@ -24,28 +28,33 @@ constexpr Picture PICTURES[] = {
     {"images/Bubbles/bg_chat_bubble_default_left_22_3_3_9.png", 32, 40},
     {"images/Bubbles/bg_chat_bubble_default_right_22_9_3_3.png", 32, 40},
     {"images/CommonCtrls/bg_main.png", 64, 64},
-    {"images/CommonCtrls/kvim_common_back_normal.png", 44, 20},
-    {"images/CommonCtrls/kvim_common_back_press.png", 44, 20},
-    {"images/CommonCtrls/kvim_customer.png", 90, 90},
-    {"images/CommonCtrls/kvim_list_ic_selected.png", 15, 15},
-    {"images/CommonCtrls/kvim_muchead_max.png", 90, 90},
+    {"images/CommonCtrls/kvim_common_back_normal.png", 44, 20, true},
+    {"images/CommonCtrls/kvim_common_back_press.png", 44, 20, true},
+    {"images/CommonCtrls/kvim_customer.png", 400, 400},
+    {"images/CommonCtrls/kvim_list_ic_selected.png", 15, 15, true},
+    {"images/CommonCtrls/kvim_muchead_max.png", 400, 400},
     {"images/Dynamic/topic_mask.png", 120, 120},
-    {"images/FriendDetail/defaultHead.png", 90, 90},
-    {"images/FriendDetail/ic_portrait_server_90.png", 90, 90},
-    {"images/icon/btn_checkbox_disable.png", 16, 16},
-    {"images/icon/btn_checkbox_normal.png", 16, 16},
-    {"images/icon/btn_checkbox_normal_hover.png", 16, 16},
-    {"images/icon/btn_checkbox_pressed.png", 16, 16},
-    {"images/icon/btn_checkbox_pressed_hover.png", 16, 16},
-    {"images/icon/btn_radio_disable.png", 16, 16},
-    {"images/icon/btn_radio_hover.png", 16, 16},
-    {"images/icon/btn_radio_normal.png", 16, 16},
-    {"images/icon/btn_radio_pressed.png", 16, 16},
-    {"images/icon/btn_radio_pressed_hover.png", 16, 16},
-    {"images/skins/bg_slider_vertical.png", 50, 152},
+    {"images/FriendDetail/defaultHead.png", 400, 400},
+    {"images/FriendDetail/ic_portrait_server_90.png", 400, 400},
+    {"images/icon/btn_checkbox_disable.png", 16, 16, true},
+    {"images/icon/btn_checkbox_normal.png", 16, 16, true},
+    {"images/icon/btn_checkbox_normal_hover.png", 16, 16, true},
+    {"images/icon/btn_checkbox_pressed.png", 16, 16, true},
+    {"images/icon/btn_checkbox_pressed_hover.png", 16, 16, true},
+    {"images/icon/btn_radio_disable.png", 16, 16, true},
+    {"images/icon/btn_radio_hover.png", 16, 16, true},
+    {"images/icon/btn_radio_normal.png", 16, 16, true},
+    {"images/icon/btn_radio_pressed.png", 16, 16, true},
+    {"images/icon/btn_radio_pressed_hover.png", 16, 16, true},
+    {"images/skins/bg_slider_vertical.png", 50, 152, true},
 };
 
 constexpr int SYSTEM_AVATARS = 20;
+
+QString densePath(const QString &strPath)
+{
+    return strPath.chopped(4) + QStringLiteral("@2x.png");
+}
 
 QString avatar(int iNumber)
 {
@@ -95,9 +104,13 @@ private slots:
         for (const Picture &picture : PICTURES) {
             QTest::newRow(picture.pPath) << QString::fromLatin1(picture.pPath)
                                          << QSize(picture.iWidth, picture.iHeight);
+            if (picture.bInStyleSheets) {
+                const QString strDense = densePath(QString::fromLatin1(picture.pPath));
+                QTest::newRow(qPrintable(strDense)) << strDense << 2 * QSize(picture.iWidth, picture.iHeight);
+            }
         }
         for (int i = 1; i <= SYSTEM_AVATARS; ++i) {
-            QTest::newRow(qPrintable(avatar(i))) << avatar(i) << QSize(90, 90);
+            QTest::newRow(qPrintable(avatar(i))) << avatar(i) << QSize(400, 400);
         }
     }
 
@@ -109,6 +122,33 @@ private slots:
         QCOMPARE(QImage(strFile).size(), size);
         const QByteArray format = path.endsWith(QLatin1String(".jpg")) ? "jpeg" : "png";
         QCOMPARE(QImageReader::imageFormat(strFile), format);
+    }
+
+    /// Qt would enlarge on a dense screen what it finds no picture for.
+    void styleSheetsNameWhatHasADensePicture()
+    {
+        static const QRegularExpression url(QStringLiteral("url\\((?:\\./)?Resources/([^)]+)\\)"));
+        QStringList named;
+        QDirIterator sources(QStringLiteral(VOIP_SOURCES), {"*.cpp", "*.h", "*.def", "*.ui"}, QDir::Files,
+                             QDirIterator::Subdirectories);
+        while (sources.hasNext()) {
+            QFile source(sources.next());
+            QVERIFY(source.open(QIODevice::ReadOnly));
+            QRegularExpressionMatchIterator matches = url.globalMatch(QString::fromUtf8(source.readAll()));
+            while (matches.hasNext()) {
+                named.append(matches.next().captured(1));
+            }
+        }
+        named.sort();
+        named.removeDuplicates();
+        QStringList dense;
+        for (const Picture &picture : PICTURES) {
+            if (picture.bInStyleSheets) {
+                dense.append(QString::fromLatin1(picture.pPath));
+            }
+        }
+        dense.sort();
+        QCOMPARE(named, dense);
     }
 
     void everyOtherNamedFileIsThere_data()
@@ -154,8 +194,11 @@ private slots:
     void statesOfAButtonDiffer_data()
     {
         QTest::addColumn<QStringList>("pictures");
-        QTest::newRow("check box") << QDir(RESOURCES.filePath("images/icon")).entryList({"btn_checkbox_*"});
-        QTest::newRow("radio button") << QDir(RESOURCES.filePath("images/icon")).entryList({"btn_radio_*"});
+        const QDir folder(RESOURCES.filePath("images/icon"));
+        QTest::newRow("check box") << folder.entryList({"btn_checkbox_*[!x].png"});
+        QTest::newRow("check box, dense") << folder.entryList({"btn_checkbox_*@2x.png"});
+        QTest::newRow("radio button") << folder.entryList({"btn_radio_*[!x].png"});
+        QTest::newRow("radio button, dense") << folder.entryList({"btn_radio_*@2x.png"});
     }
 
     void statesOfAButtonDiffer()

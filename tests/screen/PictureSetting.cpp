@@ -15,11 +15,19 @@ namespace {
 
 const QString cFamily = QStringLiteral("Noto Sans CJK SC");
 
-bool placed(const QString &strName)
+const QString cShipped = QStringLiteral(VOIP_RESOURCES "/");
+
+bool copied(const QString &strName)
 {
     const QString strFile = QStringLiteral("Resources/") + strName;
-    return QDir().mkpath(QFileInfo(strFile).path()) &&
-           QFile::copy(QStringLiteral(VOIP_RESOURCES "/") + strName, strFile);
+    return QDir().mkpath(QFileInfo(strFile).path()) && QFile::copy(cShipped + strName, strFile);
+}
+
+// With the picture for dense screens that ships beside it, if one does.
+bool placed(const QString &strName)
+{
+    const QString strDense = strName.chopped(4) + QStringLiteral("@2x.png");
+    return copied(strName) && (!QFile::exists(cShipped + strDense) || copied(strDense));
 }
 
 } // namespace

@@ -13,7 +13,7 @@ class PictureSetting
 public:
     /// Sets all of it for the whole program. `files` are shipped files, by their paths below the folder of the
     /// resources; the icon font, the default head and the contacts' heads come in any case. The text tells what is
-    /// missing, empty when all is there.
+    /// missing, empty when all is there. What ships for dense screens comes with each.
     static QString prepare(const QStringList &files = {});
 
     /// Three contacts with heads, ann, bob and cat, and one with a name of a hundred characters, long.
