@@ -23,7 +23,9 @@ bool waitFor(const std::function<bool()> &condition)
 bool single(FlowClient &client)
 {
     client.command(MSG_CALL_SINGLE_USER, false, QStringLiteral("30010001"));
-    if (!waitFor([&] { return client.callWindowText("lblStatus") == QStringLiteral("已接通"); }))
+    const auto connected = [&] { return client.callWindowText("lblStatus") == QStringLiteral("已接通"); };
+    const auto finished = [&] { return !client.host.received(MSG_CALL_FINISHED).isEmpty(); };
+    if (!waitFor([&] { return connected() || finished(); }) || finished())
         return false;
     QTest::mouseClick(client.callWindowButton("HangUp"), Qt::LeftButton);
     return client.host.received(MSG_CALL_FINISHED).size() == 1 &&

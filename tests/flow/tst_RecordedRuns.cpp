@@ -30,7 +30,7 @@ Outcome run(const QString &strProgram, const QStringList &arguments, const QMap<
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setWorkingDirectory(strFolder);
     process.start(strProgram, arguments);
-    const bool ended = process.waitForFinished(kPatienceMs) && process.exitStatus() == QProcess::NormalExit;
+    const bool ended = process.waitForFinished(3 * kPatienceMs) && process.exitStatus() == QProcess::NormalExit;
     return {ended ? process.exitCode() : -1, QString::fromUtf8(process.readAll())};
 }
 
