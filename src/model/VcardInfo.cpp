@@ -2,20 +2,15 @@
 
 #include "common/BuiltInPictures.h"
 #include "model/AvatarFiles.h"
+#include "model/DistinctParts.h"
 
 #include <QStringList>
 
 void VcardInfo::setDisPlayMobile(const QString &strMobile)
 {
-    const QStringList listNumber = strMobile.split(QLatin1Char(' '), Qt::KeepEmptyParts);
-    m_strDisplayMobile = listNumber.first();
-    for (const QString &strNumber : listNumber) {
-        // Tested as a part of the text, deliberately: a number inside a longer one counts as its repeat.
-        if (!strNumber.isEmpty() && !m_strDisplayMobile.contains(strNumber)) {
-            m_strDisplayMobile += QLatin1Char(' ') + strNumber;
-        }
-    }
-    m_strDisplayMobile = m_strDisplayMobile.trimmed();
+    // A number inside a longer one counts as its repeat, deliberately.
+    const QStringList listNumber = DistinctParts::of(strMobile.split(QLatin1Char(' ')));
+    m_strDisplayMobile = listNumber.join(QLatin1Char(' ')).trimmed();
 }
 
 void VcardInfo::setPhotoName(const QString &strName)

@@ -3,14 +3,36 @@
 #include "model/SystemSetData.h"
 #include "model/VcardInfo.h"
 
+#include "ProcessorClock.h"
 #include "fakes/BuiltInAvatar.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
 namespace {
 
 const QString DEFAULT_HEAD = QStringLiteral("Resources/images/FriendDetail/defaultHead.png");
 const QString SERVICE_HEAD = QStringLiteral("Resources/images/FriendDetail/ic_portrait_server_90.png");
+
+QString randomNumbers(quint32 iSeed)
+{
+    QRandomGenerator random(iSeed);
+    const QString strUnits = iSeed % 2 ? "ab " : "012  \t";
+    QString strText;
+    for (int i = random.bounded(40); i > 0; --i)
+        strText += strUnits.at(random.bounded(strUnits.size()));
+    return strText;
+}
+
+QString keptOneByOne(const QString &strText)
+{
+    const QStringList listNumber = strText.split(' ');
+    QString strKept = listNumber.first();
+    for (const QString &strNumber : listNumber)
+        if (!strNumber.isEmpty() && !strKept.contains(strNumber))
+            strKept += ' ' + strNumber;
+    return strKept.trimmed();
+}
 
 } // namespace
 
@@ -79,6 +101,42 @@ private slots:
         card.m_strDisplayMobile = "from before";
         card.setDisPlayMobile(text);
         QTEST(card.m_strDisplayMobile, "kept");
+    }
+
+    void numbersAreWhatOneComparisonAfterTheOtherKeeps()
+    {
+        for (quint32 iSeed = 0; iSeed < 5000; ++iSeed) {
+            const QString strText = randomNumbers(iSeed);
+            VcardInfo card;
+            card.setDisPlayMobile(strText);
+            QCOMPARE(card.m_strDisplayMobile, keptOneByOne(strText));
+        }
+    }
+
+    void longListOfNumbersTakesNoLonger_data()
+    {
+        QTest::addColumn<QString>("text");
+        constexpr int UNITS = 300000;
+        QString strDistinct;
+        for (int i = 1000000; strDistinct.size() < UNITS; ++i)
+            strDistinct += QString::number(i) + ' ';
+        QTest::newRow("distinct") << strDistinct;
+        QString strGrowing;
+        for (int i = 1; strGrowing.size() < UNITS; ++i)
+            strGrowing += QString(i, '1') + ' ';
+        QTest::newRow("each holds the one before") << strGrowing;
+        QTest::newRow("one") << QString(UNITS, '1') + " 2";
+    }
+
+    void longListOfNumbersTakesNoLonger()
+    {
+        QFETCH(QString, text);
+        VcardInfo card;
+        const ProcessorClock clock;
+        card.setDisPlayMobile(text);
+        const double dSeconds = clock.seconds();
+        QCOMPARE(card.m_strDisplayMobile, text.trimmed());
+        QVERIFY2(dSeconds < 2, qPrintable(QString::number(dSeconds)));
     }
 
     void anEmptyPhotoNameIsTheDefaultHead_data()

@@ -2,7 +2,7 @@
 
 #include "ComparedPicture.h"
 #include "PictureSetting.h"
-#include "common/CommonFun.h"
+#include "model/SkinContext.h"
 #include "model/SysUIData.h"
 #include "ui/ContactFixture.h"
 #include "ui/VoiceConferenceWidget.h"
@@ -156,7 +156,7 @@ void tst_DensePictures::indicatorIsThePicture()
     QFETCH(QString, picture);
     QFETCH(bool, checked);
     QFETCH(bool, enabled);
-    const SysUIData &skin = *CommonFun::getSkinData();
+    const SysUIData &skin = *SkinContext::getSkinData();
     std::unique_ptr<QAbstractButton> pButton;
     if (picture.contains(QLatin1String("radio")))
         pButton = button<QRadioButton>(skin.m_strRadioButtonStyle + skin.m_strRadioButtonCheckedStyle +
