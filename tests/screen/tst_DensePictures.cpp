@@ -46,7 +46,7 @@ QImage shipped(const QString &strPicture, const QRect &part)
 {
     const QImage picture(QStringLiteral(VOIP_RESOURCES "/") + fileOf(strPicture, density()));
     if (picture.isNull())
-        return picture;
+        return {};
     QImage onWhite(picture.size(), QImage::Format_RGB32);
     onWhite.fill(Qt::white);
     QPainter painter(&onWhite);
