@@ -26,12 +26,7 @@ Relay::Relay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject
     m_dropTimer.setInterval(DEATH_SHOWS_MS);
     m_dropTimer.setSingleShot(true);
     connect(&m_lookTimer, &QTimer::timeout, this, &Relay::look);
-    connect(&m_dropTimer, &QTimer::timeout, this, [this] {
-        // On a busy machine the news of a death may wait behind this timer: taking it in settles all.
-        if (!m_subject.isChild() || !m_subject.waitEnded(0)) {
-            settleDrop("drop");
-        }
-    });
+    connect(&m_dropTimer, &QTimer::timeout, this, [this] { settleDrop("drop"); });
     connect(&m_channel, &Channel::clientArrived, this, &Relay::clientArrives);
     connect(&m_channel, &Channel::clientGone, this, &Relay::clientGoes);
     connect(&m_channel, &Channel::bytesReceived, this, &Relay::passOn);

@@ -215,7 +215,7 @@ WindowProbe::Spot WindowProbe::button(const QWidget *window, const char *strName
     return target->isEnabled() ? Spot{target, target->rect().center()} : Spot();
 }
 
-bool WindowProbe::savePicture(const QWidget *window, const QString &strFile)
+bool WindowProbe::savePicture(QWidget *window, const QString &strFile)
 {
     if (window == nullptr || !window->isVisible()) {
         return false;
@@ -223,6 +223,7 @@ bool WindowProbe::savePicture(const QWidget *window, const QString &strFile)
     const QRect frame = window->frameGeometry();
     const QSize least = window->minimumSize().expandedTo(window->minimumSizeHint());
     if (frame.width() < least.width() || frame.height() < least.height()) {
+        window->resize(window->size().expandedTo(least));
         return false;
     }
     return QGuiApplication::primaryScreen()

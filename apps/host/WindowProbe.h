@@ -72,8 +72,9 @@ bool isShown(const QWidget *window, const char *strName);
 QString callWindowWords();
 
 /// Saves what the screen shows at the window's place, frame included, as a PNG. Raise the window some time before.
-/// False when nothing could be written, or while the window manager has not given the window its size yet.
-bool savePicture(const QWidget *window, const QString &strFile);
+/// False when nothing could be written, or while the window has not its size: smaller than its parts need, it is asked
+/// to take that again, as a window manager that is late may have made it so.
+bool savePicture(QWidget *window, const QString &strFile);
 
 /// Saves the whole screen as a PNG.
 bool saveScreen(const QString &strFile);

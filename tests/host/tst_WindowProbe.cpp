@@ -1,5 +1,8 @@
 #include "WindowProbe.h"
 
+#include <QDir>
+#include <QFile>
+#include <QImage>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
@@ -36,6 +39,7 @@ private slots:
     void rowWithoutThatPartHasNoPlace();
     void hiddenListHasNoRows();
     void buttonThatCannotBePressedHasNoPlace();
+    void windowThatIsTooSmallGetsItsSizeBackForThePicture();
 
 private:
     QWidget *window() const { return m_window.get(); }
@@ -126,6 +130,23 @@ void tst_WindowProbe::buttonThatCannotBePressedHasNoPlace()
     button->hide();
     QVERIFY(WindowProbe::button(window(), "button").widget == nullptr);
     QVERIFY(WindowProbe::button(nullptr, "button").widget == nullptr);
+}
+
+void tst_WindowProbe::windowThatIsTooSmallGetsItsSizeBackForThePicture()
+{
+    const QString file = QDir::current().filePath(QStringLiteral("window.png"));
+    const QSize least = window()->minimumSizeHint();
+    window()->layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    window()->setMinimumSize(1, 1);
+    window()->resize(least / 2);
+    QVERIFY(window()->frameGeometry().width() < least.width());
+    QVERIFY(!WindowProbe::savePicture(window(), file));
+    QVERIFY(!QFile::exists(file));
+    QTRY_VERIFY(WindowProbe::savePicture(window(), file));
+    const QSize saved = QImage(file).size();
+    QVERIFY2(saved.width() >= least.width() && saved.height() >= least.height(),
+             qPrintable(QStringLiteral("%1x%2").arg(saved.width()).arg(saved.height())));
+    QVERIFY(!WindowProbe::savePicture(nullptr, file));
 }
 
 #include "support/TestProgram.h"
