@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr int kHangMs = 100;
 // The sanitizers' own share, with assertions on and little optimisation.
 constexpr int kSanitizerFactor = 4;
 
@@ -43,9 +42,9 @@ bool isSanitized()
     return kSanitized;
 }
 
-int mostCpuMs()
+int mostCpuMs(const FuzzTarget &target)
 {
-    return kSanitized ? kHangMs * kSanitizerFactor : kHangMs;
+    return kSanitized ? target.hangMs * kSanitizerFactor : target.hangMs;
 }
 
 int cpuMsOf(const FuzzTarget &target, const QByteArray &input)

@@ -38,7 +38,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray input(reinterpret_cast<const char *>(data), int(size));
     const int cpuMs = cpuMsOf(*g_pTarget, input);
-    if (cpuMs > mostCpuMs()) {
+    if (cpuMs > mostCpuMs(*g_pTarget)) {
         std::fprintf(stderr, "hang: %d ms of processor time\n", cpuMs);
         requirePromise(false, "an input takes less time than that");
     }

@@ -49,9 +49,11 @@ void images(const QString &text)
 
 void bounds(const QString &text)
 {
-    const QString modest = BoundedHtml::modest(text);
-    requirePromise(!BoundedHtml::isModest(text) || modest == text, "modest HTML stays as it is");
-    requirePromise(BoundedHtml::isModest(modest), "what becomes modest is modest");
+    const QString lean = BoundedHtml::lean(text);
+    const QString bare = BoundedHtml::bare(text);
+    requirePromise(BoundedHtml::modest(text) == (lean.isNull() ? bare : lean),
+                   "the lean form comes before the bare one");
+    requirePromise(!BoundedHtml::lean(bare).isNull(), "the bare form never takes too long");
 }
 
 void tags(const QString &text)
@@ -60,8 +62,10 @@ void tags(const QString &text)
     for (HtmlTag tag = HtmlTags::next(text, 0); tag.iBegin >= 0; tag = HtmlTags::next(text, position)) {
         requirePromise(tag.iBegin >= position && tag.iEnd > tag.iBegin && tag.iEnd <= text.size(),
                        "tags follow each other in the text");
-        const int behind = HtmlTags::behind(text, tag);
-        requirePromise(behind >= tag.iEnd && behind <= text.size(), "an element ends behind its tag");
+        for (const HtmlAttribute &attribute : tag.listAttribute)
+            requirePromise(!attribute.strKey.isEmpty() && attribute.source.position() > tag.iBegin &&
+                               attribute.source.position() + attribute.source.size() <= tag.iEnd,
+                           "attributes stand in their tag");
         position = tag.iEnd;
     }
 }

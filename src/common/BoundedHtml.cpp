@@ -1,156 +1,331 @@
 #include "common/BoundedHtml.h"
 
+#include "common/HtmlCost.h"
 #include "common/HtmlTags.h"
 
-#include <QHash>
-#include <QRegularExpression>
 #include <QSet>
+
+#include <algorithm>
 
 namespace {
 
-/// What costs time in HTML, added up tag by tag.
-class Load
+const QString FRAGMENT_BEGIN = QStringLiteral("<!--StartFragment-->");
+const QString FRAGMENT_END = QStringLiteral("<!--EndFragment-->");
+const QString OLD_EDITOR_MARK = QStringLiteral("<meta name=\"qrichtext\" content=\"1\" />");
+
+/// What Qt reads of HTML from a clipboard: what stands between the marks of its fragment, and the old editor's mark.
+QString fragmentOf(const QString &strHtml)
+{
+    const int iBegin = strHtml.indexOf(FRAGMENT_BEGIN);
+    if (iBegin < 0)
+        return strHtml;
+    const int iEnd = strHtml.indexOf(FRAGMENT_END);
+    const QString strFragment = strHtml.mid(iBegin, iEnd > iBegin ? iEnd - iBegin : -1);
+    return strHtml.contains(OLD_EDITOR_MARK) ? OLD_EDITOR_MARK + strFragment : strFragment;
+}
+
+/// Whether style rules may say how white space counts, which paragraph is empty or which table is a frame. What is
+/// escaped may be anything.
+bool canChangeText(const QStringRef &css)
+{
+    return css.contains(QLatin1String("space"), Qt::CaseInsensitive) ||
+           css.contains(QLatin1String("-qt-paragraph"), Qt::CaseInsensitive) ||
+           css.contains(QLatin1String("-qt-table"), Qt::CaseInsensitive) || css.contains(QLatin1Char('\\')) ||
+           css.contains(QLatin1Char('&'));
+}
+
+/// Whether one of these characters stands in a selector of the sheet.
+bool selectsBy(const QStringRef &css, QLatin1String marks)
+{
+    int iDepth = 0;
+    for (const QChar c : css) {
+        iDepth += c == QLatin1Char('{') ? 1 : 0;
+        iDepth -= c == QLatin1Char('}') ? 1 : 0;
+        if (iDepth <= 0 && std::find(marks.begin(), marks.end(), c) != marks.end())
+            return true;
+    }
+    return false;
+}
+
+/// Writes the lean form of HTML.
+class LeanWriter
 {
 public:
-    explicit Load(const QString &strHtml) : m_strHtml(strHtml) {}
+    /// `bAll`: keep all attributes and names, for style sheets that ask for them.
+    LeanWriter(const QString &strHtml, bool bAll) : m_strHtml(strHtml), m_bAll(bAll) {}
 
-    void add(const HtmlTag &tag)
+    /// False when it costs too much, or another writer is to keep all.
+    bool write()
     {
-        ++m_iTags;
-        m_iNameless += tag.strName.isEmpty() && !tag.bRemark ? 1 : 0;
-        if (tag.bClosing)
-            close(tag.strName);
-        else if (!tag.strName.isEmpty())
-            open(tag);
+        int iDone = 0;
+        for (HtmlTag tag = HtmlTags::next(m_strHtml, 0); tag.iBegin >= 0; tag = HtmlTags::next(m_strHtml, iDone)) {
+            addText(m_strHtml.midRef(iDone, tag.iBegin - iDone));
+            addTag(tag);
+            if (m_cost.isTooHigh() || needsAll())
+                return false;
+            iDone = tag.iEnd;
+        }
+        addText(m_strHtml.midRef(iDone));
+        return !m_cost.isTooHigh() && !needsAll();
     }
 
-    bool isModest() const
-    {
-        return m_iTags <= BoundedHtml::MOST_TAGS && m_iDepth <= BoundedHtml::MOST_DEPTH &&
-               m_iImages <= BoundedHtml::MOST_IMAGES && m_iStyleUnits <= BoundedHtml::MOST_STYLE_UNITS &&
-               qint64(m_iTags) * m_iStyleUnits <= BoundedHtml::MOST_TAGS_TIMES_STYLE_UNITS &&
-               m_iStyles <= BoundedHtml::MOST_STYLES && m_iNameless <= BoundedHtml::MOST_NAMELESS && !m_bWideCell &&
-               m_iRows * m_iCells <= BoundedHtml::MOST_TABLE_PLACES;
-    }
+    bool needsAll() const { return m_bNeedsAll && !m_bAll; }
+    QString written() const { return m_strLean; }
 
 private:
-    // These never lie in their like: they are empty, or a further one ends the one before.
-    static bool nests(const QString &strName)
+    void addText(const QStringRef &text)
     {
-        static const QSet<QString> ALONE{"area", "base", "br",    "col",  "dd", "dt", "hr", "img",
-                                         "li",   "link", "input", "meta", "p",  "td", "th", "tr"};
-        return !ALONE.contains(strName);
+        if (text.isEmpty())
+            return;
+        if (m_cost.isInStyle()) {
+            addStyle(text);
+            return;
+        }
+        m_strLean += text;
+        m_cost.text(text);
+        const QChar last = text.at(text.size() - 1);
+        // An entity may stand for a space.
+        m_bInLine = !m_bJustOpened && !last.isSpace() && last != QLatin1Char(';');
     }
 
-    void open(const HtmlTag &tag)
+    void addStyle(const QStringRef &css)
     {
-        if (tag.strName == QLatin1String("img"))
-            ++m_iImages;
-        else if (tag.strName == QLatin1String("style"))
-            addStyle(tag);
-        else if (tag.strName == QLatin1String("tr"))
-            ++m_iRows;
-        else if (tag.strName == QLatin1String("td") || tag.strName == QLatin1String("th"))
-            addCell(tag);
-        if (!tag.bSelfClosing && nests(tag.strName)) {
-            ++m_open[tag.strName];
-            ++m_iDepth;
+        if (!canChangeText(css))
+            return;
+        m_strLean += css;
+        m_cost.addSheet(css.size(), selectsBy(css, QLatin1String("+~")));
+        m_bNeedsAll = m_bNeedsAll || m_bRenamed || selectsBy(css, QLatin1String(".#[:\\&@"));
+    }
+
+    void addTag(const HtmlTag &tag)
+    {
+        if (tag.bRemark)
+            m_strLean += QLatin1String("<!>");
+        else if (tag.bClosing)
+            addClosing(tag.strName, tag.name.toString());
+        else if (tag.strName == QLatin1String("img") && m_bInLine && m_cost.isPlainLine())
+            m_strLean += QChar::ObjectReplacementCharacter; // reads the same within a line, and costs no layout
+        else
+            addOpening(tag);
+    }
+
+    void addClosing(const QString &strName, const QString &strSource)
+    {
+        const QString strWritten = m_cost.writtenName(strName);
+        const QString strTag = strWritten == strName ? strSource : strWritten;
+        for (int i = m_cost.close(strName); i > 0; --i) {
+            m_strLean += QLatin1String("</") + strTag + endOf(strTag);
+            m_bInLine = false;
+            m_bJustOpened = false;
         }
     }
 
-    void close(const QString &strName)
+    void addOpening(const HtmlTag &tag)
     {
-        const auto it = m_open.find(strName);
-        if (it == m_open.end() || it.value() == 0)
-            return;
-        --it.value();
-        --m_iDepth;
+        if (tag.strName == QLatin1String("li") && m_cost.isListFull())
+            cutList();
+        addElement(tag, kept(tag));
+        m_bInLine = tag.strName == QLatin1String("img") || tag.strName == QLatin1String("br");
+        m_bJustOpened = !m_bInLine;
     }
 
-    void addStyle(const HtmlTag &tag)
+    void addElement(const HtmlTag &tag, const QString &strKept)
     {
-        ++m_iStyles;
-        m_iStyleUnits += HtmlTags::behind(m_strHtml, tag) - tag.iEnd;
+        const QString strWritten = writtenName(tag.strName);
+        m_bRenamed = m_bRenamed || strWritten != tag.strName;
+        m_cost.open(tag, strKept, strWritten);
+        // Nothing may follow a missing name that would be read as one.
+        const QString strName = tag.name.isEmpty() ? QStringLiteral("=") : tag.name.toString();
+        const QString strTag = (strWritten == tag.strName ? strName : nameAndStyle(strWritten)) + strKept;
+        m_strLean += QLatin1Char('<') + strTag + (tag.bSelfClosing ? QLatin1String(" />") : endOf(strTag));
     }
 
-    // A span of three digits and more, or one that only shows when an entity is read, is wide; "100%" is no number and
-    // counts as one cell.
-    void addCell(const HtmlTag &tag)
+    // For each element with the fixed font Qt asks the system for that font anew. Others do as well that differ in the
+    // looks alone, unless rules are for the one or the other.
+    QString writtenName(const QString &strName) const
     {
-        static const QRegularExpression spans(R"((?:col|row)span\s*=\s*["']?(?:0*(\d{1,2})[\s"'/>]|\d+%))",
-                                              QRegularExpression::CaseInsensitiveOption);
-        static const QRegularExpression anySpan("(?:col|row)span", QRegularExpression::CaseInsensitiveOption);
-        ++m_iCells;
-        QString strTag = tag.in(m_strHtml).toString();
-        auto found = spans.globalMatch(strTag);
-        while (found.hasNext())
-            m_iCells += found.next().captured(1).toInt();
-        m_bWideCell = m_bWideCell || strTag.remove(spans).contains(anySpan) || strTag.contains(QLatin1String("&#"));
+        static const QSet<QString> FIXED{"code", "tt", "kbd", "samp"};
+        if (m_bAll || m_cost.hasSheets())
+            return strName;
+        if (FIXED.contains(strName))
+            return QStringLiteral("var");
+        return strName == QLatin1String("pre") ? QStringLiteral("center") : strName;
+    }
+
+    static QString nameAndStyle(const QString &strWritten)
+    {
+        return strWritten == QLatin1String("center") ? strWritten + QLatin1String(" style=white-space:pre")
+                                                     : strWritten;
+    }
+
+    // A blank keeps a last "/" from closing the element.
+    static QLatin1String endOf(const QString &strTag)
+    {
+        return QLatin1String(strTag.endsWith(QLatin1Char('/')) ? " >" : ">");
+    }
+
+    // Two lists read as one.
+    void cutList()
+    {
+        const QPair<QString, QString> list = m_cost.openList();
+        addClosing(list.first, list.first);
+        HtmlTag tag;
+        tag.strName = list.first;
+        tag.name = QStringRef(&list.first);
+        addElement(tag, list.second);
+    }
+
+    QString kept(const HtmlTag &tag) const
+    {
+        QString strKept;
+        for (const HtmlAttribute &attribute : tag.listAttribute) {
+            if (m_bAll || isKept(tag.strName, attribute))
+                strKept += QLatin1Char(' ') + attribute.source;
+        }
+        return strKept;
+    }
+
+    static bool isKept(const QString &strTag, const HtmlAttribute &attribute)
+    {
+        const QString &strKey = attribute.strKey;
+        if (strTag == QLatin1String("meta"))
+            return strKey == QLatin1String("name") || strKey == QLatin1String("content");
+        if (strTag == QLatin1String("td") || strTag == QLatin1String("th"))
+            if (strKey == QLatin1String("colspan") || strKey == QLatin1String("rowspan"))
+                return true;
+        return strKey == QLatin1String("style") && canChangeText(attribute.value);
     }
 
     const QString &m_strHtml;
-    QHash<QString, int> m_open;
-    int m_iTags = 0;
-    int m_iDepth = 0;
-    int m_iImages = 0;
-    int m_iStyles = 0;
-    int m_iStyleUnits = 0;
-    int m_iNameless = 0;
-    qint64 m_iRows = 0;
-    qint64 m_iCells = 0;
-    bool m_bWideCell = false;
+    const bool m_bAll;
+    HtmlCost m_cost;
+    QString m_strLean = QLatin1String("");
+    bool m_bRenamed = false;
+    bool m_bNeedsAll = false;
+    // Whether what was written last was text, an image or a line break.
+    bool m_bInLine = false;
+    // Whether no tag came since an element was opened. A block that was closed before it still ends the line then.
+    bool m_bJustOpened = false;
 };
 
-// How white space counts is up to the sheet.
-QString shortStyle(const QString &strHtml)
+/// Writes the bare form of HTML.
+class BareWriter
 {
-    HtmlTag tag = HtmlTags::next(strHtml, 0);
-    while (tag.iBegin >= 0 && tag.strName != QLatin1String("style"))
-        tag = HtmlTags::next(strHtml, HtmlTags::behind(strHtml, tag));
-    if (tag.iBegin < 0 || tag.bClosing)
-        return {};
-    const int iUnits = HtmlTags::behind(strHtml, tag) - tag.iEnd;
-    if (iUnits > BoundedHtml::MOST_KEPT_STYLE_UNITS)
-        return {};
-    return QLatin1String("<style>") + strHtml.midRef(tag.iEnd, iUnits) + QLatin1String("</style>");
-}
+public:
+    QString write(const QString &strHtml)
+    {
+        int iDone = 0;
+        for (HtmlTag tag = HtmlTags::next(strHtml, 0); tag.iBegin >= 0; tag = HtmlTags::next(strHtml, iDone)) {
+            addText(strHtml.midRef(iDone, tag.iBegin - iDone));
+            if (!tag.bRemark)
+                addTag(tag);
+            iDone = tag.iEnd;
+        }
+        addText(strHtml.midRef(iDone));
+        return QLatin1String("<pre>") + m_strBare;
+    }
 
-QString bareForm(const HtmlTag &tag)
-{
-    static const QSet<QString> BLOCKS{"address", "blockquote", "body", "center", "dd", "div", "dl", "dt",
-                                      "h1",      "h2",         "h3",   "h4",     "h5", "h6",  "hr", "li",
-                                      "ol",      "p",          "pre",  "table",  "td", "th",  "tr", "ul"};
-    if (BLOCKS.contains(tag.strName))
-        return tag.bClosing ? QStringLiteral("</p>") : QStringLiteral("<p>");
-    if (tag.strName == QLatin1String("br"))
-        return QStringLiteral("<br/>");
-    return tag.strName == QLatin1String("img") ? QString(QChar::ObjectReplacementCharacter) : QString();
-}
+private:
+    void addTag(const HtmlTag &tag)
+    {
+        static const QSet<QString> HIDDEN{"script", "style", "title"};
+        static const QSet<QString> BLOCKS{"address", "blockquote", "body", "center", "dd", "div", "dl", "dt",
+                                          "h1",      "h2",         "h3",   "h4",     "h5", "h6",  "hr", "li",
+                                          "ol",      "p",          "pre",  "table",  "td", "th",  "tr", "ul"};
+        if (!m_strHidden.isEmpty()) {
+            if (tag.bClosing && tag.strName == m_strHidden)
+                m_strHidden.clear();
+            return;
+        }
+        if (!tag.bClosing && !tag.bSelfClosing && HIDDEN.contains(tag.strName))
+            m_strHidden = tag.strName;
+        else if (tag.strName == QLatin1String("br") && !tag.bClosing)
+            breakLine();
+        else if (tag.strName == QLatin1String("img") && !tag.bClosing)
+            addUnit(QChar::ObjectReplacementCharacter);
+        else if (BLOCKS.contains(tag.strName))
+            m_bNewBlock = true;
+        if (tag.strName == QLatin1String("pre"))
+            m_bPre = !tag.bClosing && !tag.bSelfClosing;
+    }
+
+    void breakLine()
+    {
+        addUnit(QChar::LineSeparator);
+        m_bAfterSpace = true;
+    }
+
+    void addText(const QStringRef &text)
+    {
+        if (!m_strHidden.isEmpty())
+            return;
+        for (int i = 0; i < text.size(); ++i) {
+            const uint uiCode =
+                text.at(i) == QLatin1Char('&') ? HtmlTags::numericEntity(*text.string(), text.position() + i) : 0;
+            if (!isSpace(uiCode != 0 ? uiCode : text.at(i).unicode())) {
+                addUnit(text.at(i));
+                continue;
+            }
+            addSpace(uiCode != 0 ? QChar::Space : text.at(i));
+            while (uiCode != 0 && i + 1 < text.size() && text.at(i) != QLatin1Char(';'))
+                ++i;
+        }
+    }
+
+    // Also what would begin a block of its own in Qt's text.
+    static bool isSpace(uint uiCode)
+    {
+        return uiCode == 0xFDD0 || uiCode == 0xFDD1 || (uiCode != 0xA0 && QChar::isSpace(uiCode));
+    }
+
+    void addSpace(QChar c)
+    {
+        if (m_bPre && c == QLatin1Char('\n'))
+            breakLine();
+        else if (m_bPre)
+            addUnit(QLatin1Char(' '));
+        else if (!m_bAfterSpace && !m_bNewBlock)
+            addUnit(QLatin1Char(' '));
+        m_bAfterSpace = true;
+    }
+
+    void addUnit(QChar c)
+    {
+        if (m_bNewBlock && !m_strBare.isEmpty())
+            m_strBare += QChar(QChar::LineSeparator);
+        m_bNewBlock = false;
+        m_bAfterSpace = false;
+        m_strBare += c;
+    }
+
+    QString m_strBare;
+    QString m_strHidden;
+    bool m_bPre = false;
+    bool m_bNewBlock = true;
+    bool m_bAfterSpace = false;
+};
 
 } // namespace
 
-bool BoundedHtml::isModest(const QString &strHtml)
+QString BoundedHtml::lean(const QString &strHtml)
 {
-    Load load(strHtml);
-    for (HtmlTag tag = HtmlTags::next(strHtml, 0); tag.iBegin >= 0;
-         tag = HtmlTags::next(strHtml, HtmlTags::behind(strHtml, tag))) {
-        load.add(tag);
-        if (!load.isModest())
-            return false;
-    }
-    return true;
+    const QString strRead = fragmentOf(strHtml);
+    LeanWriter writer(strRead, false);
+    if (writer.write())
+        return writer.written();
+    if (!writer.needsAll())
+        return {};
+    LeanWriter whole(strRead, true);
+    return whole.write() ? whole.written() : QString();
+}
+
+QString BoundedHtml::bare(const QString &strHtml)
+{
+    return BareWriter().write(fragmentOf(strHtml));
 }
 
 QString BoundedHtml::modest(const QString &strHtml)
 {
-    if (isModest(strHtml))
-        return strHtml;
-    QString strBare = shortStyle(strHtml);
-    int iDone = 0;
-    for (HtmlTag tag = HtmlTags::next(strHtml, 0); tag.iBegin >= 0; tag = HtmlTags::next(strHtml, iDone)) {
-        strBare += strHtml.midRef(iDone, tag.iBegin - iDone);
-        strBare += bareForm(tag);
-        iDone = HtmlTags::behind(strHtml, tag);
-    }
-    return strBare + strHtml.midRef(iDone);
+    const QString strLean = lean(strHtml);
+    return strLean.isNull() ? bare(strHtml) : strLean;
 }

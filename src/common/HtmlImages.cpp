@@ -13,11 +13,11 @@
 
 namespace {
 
-// The names of which three attributes make an image.
+/// An element counts as an image when it has three attributes with names out of these; one name may come three times.
 using AttributeNames = std::array<QLatin1String, 3>;
 
-/// Behind the next attribute of one of these names and its value from `iFrom` on; -1 where there is none. What stands
-/// before the name does not matter, not even a letter.
+/// The position behind the value of the first attribute from `iFrom` on that has one of these names; -1 where there is
+/// none. A name that merely ends with one of them counts as well: "data-src" as src.
 int behindAttribute(const QString &strImage, const AttributeNames &names, int iFrom)
 {
     for (int i = strImage.indexOf(QLatin1String("=\""), iFrom); i >= 0;
@@ -31,8 +31,8 @@ int behindAttribute(const QString &strImage, const AttributeNames &names, int iF
     return -1;
 }
 
-/// Whether `strImage`, which runs from "<img" through the next ">", is what this pattern finds, with the names in each
-/// of its three places:
+/// Whether `strImage`, which runs from "<img" through the next ">", has three such attributes one after the other: the
+/// same answer as from the pattern below, where NAMES is "src|type|style" or "src|name|fileid", in linear time.
 /// <img([^>]*)(NAMES){1,1}="([^>]*)"([^>]*)(NAMES){1,1}="([^>]*)"([^>]*)(NAMES){1,1}="([^>]*)"[^>]*>
 bool isImage(const QString &strImage, const AttributeNames &names)
 {
@@ -42,7 +42,7 @@ bool isImage(const QString &strImage, const AttributeNames &names)
     return i >= 0;
 }
 
-// All from the first "<body" through the last "</body>", which no second body can follow.
+/// All from the first "<body" through the last "</body>"; empty where one of the two is missing.
 QString bodyOf(const QString &strHtml)
 {
     const QString strEnd = QStringLiteral("</body>");
@@ -54,8 +54,8 @@ QString bodyOf(const QString &strHtml)
     return strHtml.mid(iFirst, iLast + strEnd.size() - iFirst);
 }
 
-// Calls `take` with each image element. An image holds no ">" but at its end, so each stretch from a "<img" to the next
-// one is looked at once.
+/// Calls `take` with each image element, in their order. An image ends at the first ">", so the walk goes over the text
+/// once.
 template <typename Take>
 void forEachImage(const QString &strHtml, const AttributeNames &names, Take take)
 {

@@ -14,9 +14,10 @@ QRegExp linkPattern()
                    Qt::CaseInsensitive);
 }
 
-// What every link begins with at most so many characters before, and has: the end of a scheme, or "www.".
+// Of "https", in characters.
 constexpr int LONGEST_SCHEME = 5;
 
+/// Whether "://" begins at `i`, or the "." of a "www." stands there. Every link has one of the two.
 bool isMarkOfLink(const QChar *pFirst, int iSize, int i)
 {
     const auto isW = [pFirst](int iAt) { return (pFirst[iAt].unicode() | 0x20) == 'w'; };
@@ -25,8 +26,8 @@ bool isMarkOfLink(const QChar *pFirst, int iSize, int i)
     return pFirst[i] == QLatin1Char('.') && i >= 3 && isW(i - 1) && isW(i - 2) && isW(i - 3);
 }
 
-/// Where the pattern's search may begin so that it finds the next link from `iFrom` on; -1 where there is none. Looking
-/// for the marks costs a small part of what the pattern does.
+/// A position from which the pattern finds the first link at or behind `iFrom`; -1 where no link can follow. The
+/// pattern is slow, so it is not tried where no mark is near.
 int nextPlaceOfLink(const QString &strText, int iFrom)
 {
     for (int i = iFrom; i < strText.size(); ++i) {
@@ -49,7 +50,7 @@ void HtmlLinks::convertWebLink(QString &strText, const QString &strStyle)
 {
     QString strRest = strText;
     replaceAll(strRest, QStringLiteral("&nbsp;&nbsp;"), QStringLiteral("  "));
-    QRegExp pattern; // made for a text that may have a link only
+    QRegExp pattern; // costly to make, so only once there is a mark
     QString strOutput;
     int iDone = 0;
     for (int iPlace = nextPlaceOfLink(strRest, 0); iPlace >= 0; iPlace = nextPlaceOfLink(strRest, iDone)) {

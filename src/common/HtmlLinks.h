@@ -11,7 +11,8 @@ public:
     /// Makes a link of each address in `strText`: http://, https:// or ftp:// and a word, or www. and a word, in any
     /// case, and what may follow in an address. A link shows the address as it was written and leads to
     /// "web://urllink//" and the same; no scheme is added. `strStyle` stands among the attributes of each link and may
-    /// be empty. Addresses in the attributes of other elements become links as well, and an address runs on over a
-    /// single "&nbsp;". Each two spaces of the whole become "&nbsp;&nbsp;". An empty text stays empty.
+    /// be empty. The text is not read as HTML: an address in an attribute, such as the src of an image, becomes a link
+    /// too, and a single "&nbsp;" behind an address counts as a part of it. In the end each two spaces of the whole
+    /// text become "&nbsp;&nbsp;". An empty text stays empty.
     static void convertWebLink(QString &strText, const QString &strStyle);
 };

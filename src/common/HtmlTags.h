@@ -1,8 +1,22 @@
 #pragma once
 
-// Cuts HTML, well-formed or not, at its tags, in one walk from the front. Any thread; no state.
+// Cuts HTML, well-formed or not, at its tags, exactly where Qt's rich text does: blanks may stand behind "<", a quoted
+// word may hold ">", a comment begins at "<!-", and what stands in a style, script or title is cut as anything else.
+// One walk from the front. Any thread; no state.
 
 #include <QString>
+#include <QVector>
+
+/// One attribute of a tag.
+struct HtmlAttribute
+{
+    /// In lower case.
+    QString strKey;
+    /// What the text has of it, from the key through the value.
+    QStringRef source;
+    /// The value as it is written, with its quotes; null where there is none.
+    QStringRef value;
+};
 
 struct HtmlTag
 {
@@ -10,26 +24,25 @@ struct HtmlTag
     int iBegin = -1;
     /// The position behind ">", or the end of the text.
     int iEnd = -1;
-    /// In lower case; empty for comments, declarations and a "<" without a name.
+    /// In lower case; empty for remarks and where none is written.
     QString strName;
+    /// The name as it is written.
+    QStringRef name;
+    QVector<HtmlAttribute> listAttribute;
     /// "</name>".
     bool bClosing = false;
     /// "<name/>".
     bool bSelfClosing = false;
     /// A comment or a declaration.
     bool bRemark = false;
-
-    /// The tag as it stands in the text.
-    QStringRef in(const QString &strHtml) const { return strHtml.midRef(iBegin, iEnd - iBegin); }
 };
 
 namespace HtmlTags {
 
-/// The first tag from position `iFrom` on. It ends at the next ">", also one within quotes.
+/// The first tag from position `iFrom` on.
 HtmlTag next(const QString &strHtml, int iFrom);
 
-/// The position behind the tag `opening`, or, when the element holds raw text (style, script or title), that of its
-/// closing tag; the end of the text when that is missing.
-int behind(const QString &strHtml, const HtmlTag &opening);
+/// The character of the numeric entity whose "&" stands at `iAt`; 0 where none stands.
+uint numericEntity(const QString &strHtml, int iAt);
 
 } // namespace HtmlTags
