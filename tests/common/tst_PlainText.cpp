@@ -1,3 +1,4 @@
+#include "common/PlainText.h"
 
 #include "ProcessorClock.h"
 #include "RandomMessage.h"
