@@ -1,6 +1,7 @@
 #include "engine/CallRing.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QSound>
 
 #include <memory>
@@ -43,7 +44,9 @@ QSound *CallRing::player()
         made->setLoops(QSound::Infinite);
         held() = std::move(made);
         qAddPostRoutine(end);
-        // Made behind the first player, so that it goes before the statics which that has brought along.
+        // Made behind the first player, so that it goes before the statics which that has brought along, and behind the
+        // calendar, which the thread that reads the file asks for and which comes with the first date that is written.
+        const QString date = QDateTime::currentDateTime().toString(QStringLiteral("ddd"));
         static const EndWithLibrary s_end;
     }
     return held().get();
