@@ -1,8 +1,8 @@
 # A screen and a sound card of one's own, to be sourced by bash scripts. Everything lives in one private folder and ends
 # with stop_all, which the caller puts into its EXIT trap. Nothing here touches a running desktop or its sound server.
 #
-#   start_display [WIDTHxHEIGHT]   X server in memory, window manager, compositor, the cursor in the far corner; exports
-#                                  DISPLAY
+#   start_display [WIDTHxHEIGHT] [bare]   X server in memory, window manager, the cursor in the far corner, and a compositor
+#                                         unless it is bare; exports DISPLAY
 #   start_sound                    sound server with a null sink and a null source; exports PULSE_SERVER
 #   stop_all                       ends what was started, by process id, and removes the folder
 
@@ -36,7 +36,7 @@ voip_make_box() {
 }
 
 start_display() {
-    local size=${1:-1600x1000}
+    local size=${1:-1600x1000} kind=${2:-}
     voip_make_box || return 1
     # -displayfd picks a free number and writes it once the server takes clients. Without -noreset the server throws
     # everybody out when its first client goes before the second comes.
@@ -50,11 +50,12 @@ start_display() {
     export DISPLAY
     unset WAYLAND_DISPLAY XAUTHORITY
     voip_start openbox openbox --sm-disable
-    voip_start picom picom --backend xrender --config /dev/null
+    [ "$kind" = bare ] || voip_start picom picom --backend xrender --config /dev/null
     # A window that comes before its manager is placed and shown a second time.
-    if ! voip_wait_for 20 xdotool get_num_desktops || ! voip_wait_for 20 xdotool search --name '^picom$'; then
+    if ! voip_wait_for 20 xdotool get_num_desktops ||
+        { [ "$kind" != bare ] && ! voip_wait_for 20 xdotool search --name '^picom$'; }; then
         echo "The window manager or the compositor did not start:" >&2
-        cat "$voip_box/openbox.log" "$voip_box/picom.log" >&2
+        cat "$voip_box"/openbox.log "$voip_box"/picom.log >&2
         return 1
     fi
     # Not in the middle, where the server puts it and windows open under it.
