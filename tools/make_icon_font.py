@@ -5,8 +5,10 @@ usage: make_icon_font.py [--check]     --check only tells whether the committed 
 
 A drawing is named <name>-<code point>.svg and lies on a grid of 16 by 16. It is painted in its own order, as any viewer
 shows it: black adds, white takes away; strokes become outlines here. The font has these glyphs and no others, so that
-letters set in it come from the text font. Every glyph is as wide as the em, which is all ascent: at 16 pixels one unit
-of the grid is one pixel, wherever the text is drawn.
+letters set in it come from the text font. Every glyph is as wide as the em and stands a little below the baseline, as
+a Chinese character does. The line has the same room above and below it: a glyph at the beginning of a line stands at the
+height of the letters there, and one that is centred stays so. At 8 and 16 pixels the grid lies on whole pixels. A glyph
+that fills a place of its own height stands at the top of its line instead, where it is drawn from.
 
 Needs the Debian packages python3-fonttools and python3-shapely.
 """
@@ -34,6 +36,12 @@ MADE = 3786912000  # seconds since 1904: fixed, so that the same drawings give t
 
 GRID = 16
 EM = 2048
+UNIT = EM // GRID
+BELOW = 2  # how much of a glyph lies below the baseline; this and the next in units of the grid
+ROOM = 3  # above and below a glyph in its line
+AT_THE_TOP = {"Detail"}
+ASCENT = (GRID - BELOW + ROOM) * UNIT
+DESCENT = (BELOW + ROOM) * UNIT
 CURVE_STEPS = 24
 ROUND_STEPS = 12  # pieces of a quarter circle
 FLATNESS = 0.003  # in units of the grid
@@ -107,13 +115,14 @@ def outline(file):
     return area.simplify(FLATNESS)
 
 
-def glyph_of(area):
+def glyph_of(area, top=GRID - BELOW):
+    """`top` is how far above the baseline the grid begins, in its units."""
     pen = TTGlyphPen(None)
     pieces = area.geoms if hasattr(area, "geoms") else [area]
     for piece in sorted(pieces, key=lambda p: p.bounds):
         piece = orient(piece, 1)  # anticlockwise with y downwards is clockwise in the font
         for ring in [piece.exterior, *piece.interiors]:
-            points = [(round(x * EM / GRID), round((GRID - y) * EM / GRID)) for x, y in ring.coords[:-1]]
+            points = [(round(x * UNIT), round((top - y) * UNIT)) for x, y in ring.coords[:-1]]
             pen.moveTo(points[0])
             for point in points[1:]:
                 pen.lineTo(point)
@@ -133,16 +142,18 @@ def built_font():
         drawings[int(code, 16)] = (name, file)
     codes = sorted(drawings)
     names = {code: drawings[code][0] for code in codes}
-    glyphs = {".notdef": missing_glyph(), **{names[code]: glyph_of(outline(drawings[code][1])) for code in codes}}
+    glyphs = {".notdef": missing_glyph()}
+    for name, file in (drawings[code] for code in codes):
+        glyphs[name] = glyph_of(outline(file), ASCENT // UNIT if name in AT_THE_TOP else GRID - BELOW)
 
     builder = FontBuilder(EM, isTTF=True)
     builder.setupGlyphOrder(list(glyphs))
     builder.setupCharacterMap(names)
     builder.setupGlyf(glyphs)
     builder.setupHorizontalMetrics({name: (EM, builder.font["glyf"][name].xMin) for name in glyphs})
-    builder.setupHorizontalHeader(ascent=EM, descent=0)
-    builder.setupOS2(sTypoAscender=EM, sTypoDescender=0, sTypoLineGap=0, usWinAscent=EM, usWinDescent=0,
-                     sxHeight=EM // 2, sCapHeight=EM, fsSelection=0x40, fsType=0)
+    builder.setupHorizontalHeader(ascent=ASCENT, descent=-DESCENT)
+    builder.setupOS2(sTypoAscender=ASCENT, sTypoDescender=-DESCENT, sTypoLineGap=0, usWinAscent=ASCENT,
+                     usWinDescent=DESCENT, sxHeight=EM // 2, sCapHeight=EM - BELOW * UNIT, fsSelection=0x40, fsType=0)
     builder.setupPost(keepGlyphNames=True)
     builder.setupNameTable({
         "familyName": FAMILY, "styleName": "Regular", "uniqueFontIdentifier": f"{FAMILY} {VERSION}",

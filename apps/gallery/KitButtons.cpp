@@ -28,7 +28,7 @@ constexpr IconType iconTypes[] = {
     {"type 0", 0, IconGlyph::MicOn, false},      {"type 1", 1, IconGlyph::SpeakerOn, false},
     {"type 2", 2, IconGlyph::CameraOn, false},   {"type 2, dark background", 2, IconGlyph::CameraOn, true},
     {"type 3", 3, IconGlyph::Close, false},      {"type 3, dark background", 3, IconGlyph::Close, true},
-    {"type 4", 4, IconGlyph::FullScreen, false}, {"any other type", otherType, IconGlyph::Detail, false},
+    {"type 4", 4, IconGlyph::FullScreen, false}, {"any other type", otherType, IconGlyph::Creator, false},
 };
 
 CIconButtonEx *iconButton(const IconType &type)

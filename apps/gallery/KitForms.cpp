@@ -14,11 +14,14 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QLabel>
 #include <QListWidget>
+#include <QMouseEvent>
 
 namespace {
 
 constexpr QSize formSize(130, 96);
+constexpr QSize fieldSize(130, 72);
 constexpr int titleHeight = 30;
 // The inset of a window with a list at its left.
 constexpr int lineOffset = 40;
@@ -86,10 +89,40 @@ QWidget *styledList(int iSize)
     return list;
 }
 
+/// A place across which the mouse draws a band that is a window of its own, as the call window's is.
+class BandField : public QLabel
+{
+public:
+    BandField() : m_band(QRubberBand::Rectangle)
+    {
+        setFixedSize(fieldSize);
+        setAlignment(Qt::AlignCenter);
+        setText(QStringLiteral("drag here"));
+        setStyleSheet(QStringLiteral("font:11px 微软雅黑;color:%1;border:1px solid %1;").arg(strCOLOR_ICON_MID_GREY));
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        m_start = event->globalPos();
+        m_band.setGeometry(QRect(m_start, QSize()));
+        m_band.show();
+    }
+    void mouseMoveEvent(QMouseEvent *event) override
+    {
+        m_band.setGeometry(QRect(m_start, event->globalPos()).normalized());
+    }
+    void mouseReleaseEvent(QMouseEvent *) override { m_band.hide(); }
+
+private:
+    MyRubberBand m_band;
+    QPoint m_start;
+};
+
 QWidget *rubberBand()
 {
     auto *frame = new QWidget;
-    frame->setFixedSize(130, 72);
+    frame->setFixedSize(fieldSize);
     auto *band = new MyRubberBand(QRubberBand::Rectangle, frame);
     band->setGeometry(frame->rect());
     band->show();
@@ -115,5 +148,5 @@ void KitForms::addSmallParts(Sheet &sheet)
               {headLabel(32, avatar.arg(1)), headLabel(48, avatar.arg(2)), headLabel(64, avatar.arg(3)),
                headLabel(64, QStringLiteral("Resources/SystemAvatar/none.jpg"))});
     sheet.row(QStringLiteral("CustomIconStyle"), {styledList(16), styledList(20), styledList(28)});
-    sheet.row(QStringLiteral("MyRubberBand"), {rubberBand()});
+    sheet.row(QStringLiteral("MyRubberBand; as a window"), {rubberBand(), new BandField});
 }

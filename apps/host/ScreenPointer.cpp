@@ -50,8 +50,18 @@ void ScreenPointer::moveTo(const QPoint &place)
     send(XCB_MOTION_NOTIFY, absolute, place * qGuiApp->devicePixelRatio());
 }
 
-void ScreenPointer::click(Qt::MouseButton button)
+void ScreenPointer::press(Qt::MouseButton button)
 {
     send(XCB_BUTTON_PRESS, buttonNumber(button), QPoint());
+}
+
+void ScreenPointer::release(Qt::MouseButton button)
+{
     send(XCB_BUTTON_RELEASE, buttonNumber(button), QPoint());
+}
+
+void ScreenPointer::click(Qt::MouseButton button)
+{
+    press(button);
+    release(button);
 }

@@ -21,7 +21,11 @@ public:
 
     /// Moves the pointer.
     void moveTo(const QPoint &place);
-    /// Presses and releases the left, middle or right button where the pointer is.
+    /// Presses the left, middle or right button where the pointer is, and holds it.
+    void press(Qt::MouseButton button);
+    /// Lets that button go.
+    void release(Qt::MouseButton button);
+    /// Presses and releases the button.
     void click(Qt::MouseButton button);
 
 private:

@@ -43,11 +43,21 @@ constexpr StatusRow STATUS_ROWS[] = {
 };
 // clang-format on
 
+// Letters that a list sets in the icon font come from the windows' text family, or from what stands in for that one.
+void borrowLetters(const QString &strFamily)
+{
+    const QString strTextFamily = QStringLiteral("微软雅黑");
+    QFont::insertSubstitutions(strFamily, QStringList{strTextFamily} + QFont::substitutes(strTextFamily));
+}
+
 QFont fontOfFile()
 {
     const int iFont = QFontDatabase::addApplicationFont(FONT_FILE);
     const QStringList listFamily = QFontDatabase::applicationFontFamilies(iFont);
-    return listFamily.isEmpty() ? QFont() : QFont(listFamily.first());
+    if (listFamily.isEmpty())
+        return QFont();
+    borrowLetters(listFamily.first());
+    return QFont(listFamily.first());
 }
 
 } // namespace

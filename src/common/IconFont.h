@@ -15,7 +15,8 @@ class IconFont
 {
 public:
     /// A copy of the context's icon font, as it is. Without one, the font of the client's font file at 12 pixels,
-    /// antialiased; a missing or damaged file gives the application's font at that size, which leaves text readable.
+    /// antialiased; letters, which it has not, come from the windows' text family or what stood in for that one at the
+    /// first call. A missing or damaged file gives the application's font at that size, which leaves text readable.
     static QFont getIconFont();
 
     /// `strGlyph` in that colour, centred on a transparent picture of `size` pixels, with the icon font at `iPixelSize`

@@ -157,6 +157,8 @@ signals:
     void signal_ReInviteConfUser(QString strUserID);
 
 protected:
+    /// The cursor over any part of the window decides at which edges it stands, as long as no drag of it is on.
+    bool event(QEvent *event) override;
     /// Escape in the window or one of its watched controls asks whether to hang up; leaving them is swallowed.
     bool eventFilter(QObject *obj, QEvent *event) override;
     /// A change of language renews the words of the buttons and their tips, nothing else.
@@ -200,6 +202,7 @@ private:
     void savePicture();
     MouseState cursorState(int x, int y) const;
     void setCursorStyle(MouseState state);
+    void followCursor(const QPoint &position);
     void showRubberBand(const QRect &rect);
     void dragEdges(const QPoint &cursor);
     void dragWindow(const QPoint &cursor);

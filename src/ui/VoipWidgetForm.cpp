@@ -58,6 +58,7 @@ void CVoipWidget::setUpForm()
     setWindowFlags(Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_QuitOnClose, false);
+    setAttribute(Qt::WA_Hover);
     setMouseTracking(true);
     installEventFilter(this);
     setFixedHeight(cWindowSize.height());

@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QDesktopWidget>
+#include <QHoverEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -51,7 +52,31 @@ void CVoipWidget::setCursorStyle(MouseState state)
     for (const CursorRow &row : cCursors)
         if (row.state == state)
             shape = row.shape;
-    setCursor(shape);
+    if (cursor().shape() != shape)
+        setCursor(shape);
+}
+
+void CVoipWidget::followCursor(const QPoint &position)
+{
+    m_mouseState = m_bGeometryLocked ? NoEdge : cursorState(position.x(), position.y());
+    setCursorStyle(m_mouseState);
+}
+
+// Moves over the parts of the window reach it only where a part tracks the mouse and lets them pass; hover events tell
+// of the cursor over all of them. Without them an edge under a cursor that came in over it would stay in force.
+bool CVoipWidget::event(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+        if (!m_bLeftPressed)
+            followCursor(static_cast<QHoverEvent *>(event)->pos());
+        return true;
+    case QEvent::HoverLeave:
+        return true;
+    default:
+        return QWidget::event(event);
+    }
 }
 
 void CVoipWidget::showRubberBand(const QRect &rect)
@@ -80,8 +105,7 @@ void CVoipWidget::mouseMoveEvent(QMouseEvent *event)
 {
     QWidget::mouseMoveEvent(event);
     if (!m_bLeftPressed) {
-        m_mouseState = m_bGeometryLocked ? NoEdge : cursorState(event->x(), event->y());
-        setCursorStyle(m_mouseState);
+        followCursor(event->pos());
         return;
     }
     if (!event->buttons().testFlag(Qt::LeftButton))

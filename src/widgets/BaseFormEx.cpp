@@ -123,8 +123,7 @@ void CBaseFormEx::paintLine(QPainter &painter) const
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(QPen(QColor(224, 224, 224, 255), 1));
     painter.setBrush(Qt::NoBrush);
-    const int iTop = m_iTitleHeight + 2;
-    painter.drawLine(m_iPaintLineOffset + 2, iTop, width() - 2 - ADAPT_DPI_INT(1), iTop);
+    painter.drawLine(m_iPaintLineOffset + 2, lineTop(), width() - 2 - ADAPT_DPI_INT(1), lineTop());
     painter.restore();
 }
 

@@ -52,6 +52,9 @@ public:
     /// Stored; no effect on the look.
     void setPaintPic(bool bPaintPic);
 
+    /// The place of the line under the title, in pixels from the form's top edge.
+    int lineTop() const { return m_iTitleHeight + 2; }
+
     /// Does nothing: the skin is asked for its colour at each paint.
     void setSkinData(SysUIData skin);
 

@@ -12,9 +12,16 @@ QString ElidedLabel::shownText() const
     return fontMetrics().elidedText(text().simplified(), Qt::ElideRight, contentsRect().width());
 }
 
+QSize ElidedLabel::sizeHint() const
+{
+    const QMargins margins = contentsMargins();
+    return fontMetrics().size(Qt::TextSingleLine, text().simplified()) +
+           QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
+}
+
 QSize ElidedLabel::minimumSizeHint() const
 {
-    return {0, QLabel::minimumSizeHint().height()};
+    return {0, sizeHint().height()};
 }
 
 void ElidedLabel::paintEvent(QPaintEvent *)

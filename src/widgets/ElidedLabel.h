@@ -16,6 +16,8 @@ public:
     /// The text as it fits into the label now: whole, or cut and ended with "…".
     QString shownText() const;
 
+    /// The room of the whole text as one line.
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:

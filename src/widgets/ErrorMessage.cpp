@@ -364,14 +364,14 @@ void ErrorMessage::changeEvent(QEvent *event)
     setUIText();
 }
 
-// The form's size is fixed: a message without the room in it can be read whole in the label's tip.
+// The form's size is fixed: a message without the room in it ends above the form's line and can be read whole in the
+// label's tip.
 void ErrorMessage::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    const QLabel &label = *ui->msgLabel;
-    const bool bHasRoom =
-        label.heightForWidth(label.width()) <= label.height() && label.minimumSizeHint().width() <= label.width();
-    ui->msgLabel->setToolTip(bHasRoom ? QString() : label.text());
+    MessageLabel &label = *ui->msgLabel;
+    label.setLowestLine(label.mapFrom(ui->backWidget, QPoint(0, ui->backWidget->lineTop())).y());
+    label.setToolTip(label.hasRoom() ? QString() : label.text());
 }
 
 void ErrorMessage::mousePressEvent(QMouseEvent *event)

@@ -8,6 +8,7 @@
 #include "common/TextMeasure.h"
 #include "model/SkinContext.h"
 #include "widgets/IconButtonEx.h"
+#include "widgets/PlaceholderColor.h"
 #include "widgets/TextLimit.h"
 
 #include <QClipboard>
@@ -279,6 +280,8 @@ bool CLineEditEx::eventFilter(QObject *watched, QEvent *event)
         emit signal_click();
     if (event->type() == QEvent::HoverEnter)
         setStyles();
+    if (event->type() == QEvent::PaletteChange)
+        PlaceholderColor::fade(ui->lineEdit);
     if (event->type() == QEvent::FocusIn && !ui->lineEdit->text().isEmpty())
         emit textChanged(ui->lineEdit->text());
     if (event->type() == QEvent::FocusOut)

@@ -1,5 +1,8 @@
 #include "widgets/MyRubberBand.h"
 
+#include "widgets/Compositor.h"
+
+#include <QBitmap>
 #include <QBrush>
 #include <QPaintEvent>
 #include <QPainter>
@@ -8,19 +11,58 @@ namespace {
 
 constexpr int cBarWidth = 5;
 
-} // namespace
-
-MyRubberBand::MyRubberBand(Shape shape, QWidget *parent) : QRubberBand(shape, parent) {}
-
-void MyRubberBand::paintEvent(QPaintEvent *event)
+void fillBars(QPainter &painter, const QRect &rect, const QBrush &dots)
 {
-    const QRect rect = event->rect();
-    const QBrush dots(Qt::Dense4Pattern);
-    QPainter painter;
-    painter.begin(this);
     painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), cBarWidth), dots);
     painter.fillRect(QRect(rect.left(), rect.top(), cBarWidth, rect.height()), dots);
     painter.fillRect(QRect(rect.left(), rect.bottom() + 1 - cBarWidth, rect.width(), cBarWidth), dots);
     painter.fillRect(QRect(rect.right() + 1 - cBarWidth, rect.top(), cBarWidth, rect.height()), dots);
+}
+
+QBitmap dotsOfTheBars(const QSize &size)
+{
+    QBitmap dots(size);
+    dots.clear();
+    QPainter painter(&dots);
+    fillBars(painter, QRect(QPoint(), size), QBrush(Qt::color1, Qt::Dense4Pattern));
+    return dots;
+}
+
+} // namespace
+
+MyRubberBand::MyRubberBand(Shape shape, QWidget *parent) : QRubberBand(shape, parent)
+{
+    if (isWindow())
+        setAttribute(Qt::WA_TranslucentBackground);
+}
+
+bool MyRubberBand::event(QEvent *event)
+{
+    const bool bHandled = QRubberBand::event(event);
+    if (!isWindow() || !isVisible())
+        return bHandled;
+    if (event->type() == QEvent::Show)
+        m_bComposited = Compositor::isRunning();
+    // After the base class, which puts the style's own mask on the band.
+    if (event->type() == QEvent::Show || event->type() == QEvent::Resize || event->type() == QEvent::StyleChange)
+        cutToTheBars();
+    return bHandled;
+}
+
+// Without a compositor nothing shows through a window but where it is cut. A compositor shows what lies between the
+// dots, and would need long for the thousands of rectangles that they are.
+void MyRubberBand::cutToTheBars()
+{
+    if (m_bComposited)
+        setMask(QRegion(rect()) - rect().adjusted(cBarWidth, cBarWidth, -cBarWidth, -cBarWidth));
+    else
+        setMask(dotsOfTheBars(size()));
+}
+
+void MyRubberBand::paintEvent(QPaintEvent *event)
+{
+    QPainter painter;
+    painter.begin(this);
+    fillBars(painter, event->rect(), QBrush(Qt::Dense4Pattern));
     painter.end();
 }

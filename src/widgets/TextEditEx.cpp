@@ -4,6 +4,7 @@
 #include "common/Palette.h"
 #include "model/SkinContext.h"
 #include "widgets/MenuEx.h"
+#include "widgets/PlaceholderColor.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -104,6 +105,8 @@ void CTextEditEx::leaveEvent(QEvent *)
 
 bool CTextEditEx::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::PaletteChange)
+        PlaceholderColor::fade(this);
     if (event->type() != QEvent::Enter && event->type() != QEvent::Leave)
         return QTextEdit::eventFilter(watched, event);
     if (!m_bSelfStyle)

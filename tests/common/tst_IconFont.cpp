@@ -28,10 +28,25 @@ private:
         return ink;
     }
 
+    // The families that a text in the icon font is drawn with.
+    static QStringList familiesOf(const QString &strText)
+    {
+        QTextLayout layout(strText, IconFont::getIconFont());
+        layout.beginLayout();
+        layout.createLine();
+        layout.endLayout();
+        QStringList families;
+        for (const QGlyphRun &run : layout.glyphRuns())
+            families.append(run.rawFont().familyName());
+        families.removeDuplicates();
+        return families;
+    }
+
 private slots:
     void initTestCase()
     {
         const QString strShipped = QStringLiteral(VOIP_RESOURCES "/BaseConfig/kelvarimiconfont.ttf");
+        QFont::insertSubstitution(QStringLiteral("微软雅黑"), QStringLiteral("Noto Sans CJK SC"));
         QVERIFY(QDir().mkpath(QStringLiteral("Resources/BaseConfig")));
         QVERIFY(QFile::copy(strShipped, QStringLiteral("Resources/BaseConfig/kelvarimiconfont.ttf")));
         const int iFont = QFontDatabase::addApplicationFont(strShipped);
@@ -48,6 +63,13 @@ private slots:
         QCOMPARE(font.family(), m_strFamily);
         QCOMPARE(font.pixelSize(), 12);
         QCOMPARE(font.styleStrategy(), QFont::PreferAntialias);
+    }
+
+    void lettersComeFromTheTextFont()
+    {
+        const QStringList families = familiesOf(QStringLiteral("【语音会议】 2024-03-06 16:20:05"));
+        QCOMPARE(families, QStringList{QStringLiteral("Noto Sans CJK SC")});
+        QCOMPARE(familiesOf(IconGlyph::text(IconGlyph::CreatedByMe)), QStringList{m_strFamily});
     }
 
     void fileIsReadOncePerProcess()

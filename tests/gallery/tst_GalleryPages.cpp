@@ -42,6 +42,7 @@ private slots:
     void headImagesLieInAFolderOfTheirOwn();
     void everyGlyphStandsWithItsCodePointInEachSize();
     void everyKindOfWidgetIsShown();
+    void bandIsAWindowWhereTheMouseDrawsIt();
     void everyPageOfTheDialogHasAMode();
     void everyModeOpensByItsButton_data();
     void everyModeOpensByItsButton();
@@ -122,6 +123,33 @@ void tst_GalleryPages::everyKindOfWidgetIsShown()
     QCOMPARE(page.findChildren<VcardHeadLabel *>().size(), 4);
     QCOMPARE(page.findChildren<MyRubberBand *>().size(), 1);
     QCOMPARE(page.findChildren<CMenuEx *>(QStringLiteral("openedMenu")).size(), 3);
+}
+
+void tst_GalleryPages::bandIsAWindowWhereTheMouseDrawsIt()
+{
+    const GalleryUser user;
+    WidgetsPage page;
+    page.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QWidget *pField = nullptr;
+    for (QLabel *pLabel : page.findChildren<QLabel *>())
+        if (pLabel->text() == QStringLiteral("drag here"))
+            pField = pLabel;
+    QVERIFY(pField != nullptr);
+    const auto band = [] {
+        for (QWidget *pWindow : QApplication::topLevelWidgets())
+            if (qobject_cast<MyRubberBand *>(pWindow) != nullptr && pWindow->isVisible())
+                return pWindow->geometry();
+        return QRect();
+    };
+    QVERIFY(band().isNull());
+    QTest::mousePress(pField, Qt::LeftButton, Qt::NoModifier, {60, 50});
+    QMouseEvent move(QEvent::MouseMove, QPointF(10, 20), pField->mapToGlobal(QPoint(10, 20)), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(pField, &move);
+    QCOMPARE(band(), QRect(pField->mapToGlobal(QPoint(10, 20)), pField->mapToGlobal(QPoint(60, 50))));
+    QTest::mouseRelease(pField, Qt::LeftButton, Qt::NoModifier, {10, 20});
+    QVERIFY(band().isNull());
 }
 
 void tst_GalleryPages::everyPageOfTheDialogHasAMode()

@@ -1,9 +1,12 @@
 // The call window's pages and states beside committed pictures.
 
 #include "ComparedPicture.h"
+#include "Ink.h"
 #include "PictureSetting.h"
+#include "ui/ConferenceListView.h"
 #include "ui/ContactFixture.h"
 #include "ui/MemberRoles.h"
+#include "ui/RowPainter.h"
 #include "ui/VoipWidget.h"
 
 #include <QApplication>
@@ -134,6 +137,7 @@ private slots:
     void pageLooksAsCommitted();
     void oneGlyphIsADifference_data();
     void oneGlyphIsADifference();
+    void glyphsOfAMemberStandAtTheHeightOfTheName();
 };
 
 void tst_CallWindowPictures::initTestCase()
@@ -204,6 +208,32 @@ void tst_CallWindowPictures::oneGlyphIsADifference()
     const SetUp voice = connected(call(CVoipWidget::Voice, true));
     const QImage changed = picture(clicked(voice, {button.constData()}));
     QVERIFY(ComparedPicture::differingPixels(changed, picture(voice)) > 12);
+}
+
+void tst_CallWindowPictures::glyphsOfAMemberStandAtTheHeightOfTheName()
+{
+    CVoipWidget window;
+    withStatuses(call(CVoipWidget::Conference, true))(window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    auto *pList = window.findChild<CConferenceListView *>();
+    const QImage picture = pList->viewport()->grab().toImage();
+    const QModelIndex ann = pList->model()->index(0, 0);
+    QVERIFY(ann.data(ROLE_IS_CREATOR).toBool());
+    // Above the line below the row.
+    const QRect row = pList->visualRect(ann).adjusted(0, 0, 0, -2);
+    const auto column = [&row](int iLeft, int iWidth) {
+        return QRect(row.left() + iLeft, row.top(), iWidth, row.height());
+    };
+    const int iNameWidth =
+        QFontMetrics(RowPainter::textFont()).horizontalAdvance(ann.data(ROLE_DISPLAY_NAME).toString());
+    const QRect name = column(52, iNameWidth);
+    for (const QRect &glyph : {column(52 + iNameWidth + 16, 22), column(ann.data(ROLE_MUTE_RECT).toRect().left(), 18),
+                               column(ann.data(ROLE_REMOVE_RECT).toRect().left(), 18)}) {
+        QVERIFY(!Ink::within(picture, glyph).isEmpty());
+        const qreal dBelow = Ink::below(picture, glyph, name);
+        QVERIFY2(qAbs(dBelow) <= 1.25, qPrintable(QString::number(dBelow)));
+    }
 }
 
 #include "support/TestProgram.h"

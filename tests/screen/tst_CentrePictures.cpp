@@ -1,8 +1,10 @@
 // The conference centre's pages beside committed pictures.
 
 #include "ComparedPicture.h"
+#include "Ink.h"
 #include "PictureSetting.h"
 #include "ui/ContactFixture.h"
+#include "ui/MemberRoles.h"
 #include "ui/RealCursor.h"
 #include "ui/VoiceConferenceWidget.h"
 
@@ -70,6 +72,9 @@ private slots:
     void menuOfARow();
     void detail();
     void detailOfAConferenceThatNeverConnected();
+    void directionStandsAtTheHeightOfItsLine();
+    void detailButtonFillsItsPlace();
+    void arrowOfTheBackButtonKeepsAwayFromItsText();
 };
 
 void tst_CentrePictures::initTestCase()
@@ -169,6 +174,58 @@ void tst_CentrePictures::detailOfAConferenceThatNeverConnected()
     open(true);
     showDetail(QStringLiteral("c4"));
     compare("centre-detail-unconnected");
+}
+
+void tst_CentrePictures::directionStandsAtTheHeightOfItsLine()
+{
+    open(true);
+    const QImage picture = list()->viewport()->grab().toImage();
+    for (int iRow : {0, 2}) {
+        const QPoint row = list()->visualRect(list()->model()->index(iRow, 0)).topLeft();
+        const QRect direction(row + QPoint(60, 30), QSize(20, 28));
+        const QRect date(row + QPoint(160, 30), QSize(110, 28));
+        QVERIFY(!Ink::within(picture, direction).isEmpty() && !Ink::within(picture, date).isEmpty());
+        const qreal dBelow = Ink::below(picture, direction, date);
+        QVERIFY2(qAbs(dBelow) <= 1, qPrintable(QString::number(dBelow)));
+    }
+}
+
+void tst_CentrePictures::detailButtonFillsItsPlace()
+{
+    open(true);
+    hover(0);
+    const QImage picture = list()->viewport()->grab().toImage();
+    const QRect place = list()->model()->index(0, 0).data(ROLE_REMOVE_RECT).toRect();
+    QVERIFY(!place.isEmpty());
+    const QRectF ink = Ink::within(picture, place.adjusted(-4, -6, 4, 4));
+    QVERIFY(QRectF(place).contains(ink));
+    // A circle, not cut off.
+    QVERIFY2(qAbs(ink.width() - ink.height()) <= 1,
+             qPrintable(QStringLiteral("%1 %2").arg(ink.width()).arg(ink.height())));
+    QVERIFY(qAbs(ink.center().y() - QRectF(place).center().y()) <= 0.5);
+}
+
+void tst_CentrePictures::arrowOfTheBackButtonKeepsAwayFromItsText()
+{
+    open(true);
+    showDetail(QStringLiteral("c6"));
+    const QImage picture = backButton()->grab().toImage();
+    const int iDensity = qRound(picture.devicePixelRatio());
+    const QRect inside = backButton()->rect().adjusted(2, 2, -2, -2);
+    const auto isEmptyColumn = [&](int x) {
+        for (int y = inside.top() * iDensity; y < inside.bottom() * iDensity; ++y)
+            if (Ink::isAt(picture, x, y))
+                return false;
+        return true;
+    };
+    int x = int(Ink::within(picture, inside).left() * iDensity);
+    while (!isEmptyColumn(x))
+        ++x;
+    const int iArrowEnd = x;
+    while (isEmptyColumn(x))
+        ++x;
+    const qreal dGap = (x - iArrowEnd) / qreal(iDensity);
+    QVERIFY2(dGap >= 3, qPrintable(QString::number(dGap)));
 }
 
 #include "support/TestProgram.h"

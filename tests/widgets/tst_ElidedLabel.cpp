@@ -1,5 +1,6 @@
 #include "widgets/ElidedLabel.h"
 
+#include <QBoxLayout>
 #include <QTest>
 
 class tst_ElidedLabel : public QObject
@@ -13,6 +14,7 @@ private slots:
     void markupIsShownAsItIs();
     void longTextAsksForNoWidth();
     void textIsPainted();
+    void nameOfSeveralLinesIsWholeWhereThereIsRoom();
 };
 
 void tst_ElidedLabel::shortTextIsShownWhole()
@@ -66,6 +68,22 @@ void tst_ElidedLabel::textIsPainted()
     const QImage empty = label.grab().toImage();
     label.setText(QStringLiteral("Ann"));
     QVERIFY(label.grab().toImage() != empty);
+}
+
+void tst_ElidedLabel::nameOfSeveralLinesIsWholeWhereThereIsRoom()
+{
+    QWidget window;
+    auto *pLayout = new QHBoxLayout(&window);
+    auto *pLabel = new ElidedLabel;
+    pLabel->setText(QStringLiteral("Ann\nof the house\r\nby the sea"));
+    pLayout->addStretch();
+    pLayout->addWidget(pLabel);
+    pLayout->addStretch();
+    window.resize(400, 60);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(pLabel->shownText(), QStringLiteral("Ann of the house by the sea"));
+    QCOMPARE(pLabel->sizeHint().height(), ElidedLabel().sizeHint().height());
 }
 
 #include "support/TestProgram.h"

@@ -1,0 +1,259 @@
+// The call window under the X server's own pointer, which reaches whichever part lies below it, and the band as the
+// screen shows it.
+
+#include "ContactFixture.h"
+#include "ScreenPointer.h"
+#include "ui/VoipWidget.h"
+#include "widgets/MyRubberBand.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+const QPoint cHome(160, 120);
+const QSize cSize(523, 403);
+constexpr int cBar = 5;
+
+/// Takes every mouse event for itself, as the pictures of a call may do.
+class Surface : public QWidget
+{
+public:
+    Surface() { setMouseTracking(true); }
+
+protected:
+    void mouseMoveEvent(QMouseEvent *event) override { event->accept(); }
+};
+
+QImage screenNow()
+{
+    return QGuiApplication::primaryScreen()->grabWindow(0).toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+bool isBlack(QRgb pixel)
+{
+    return (pixel & 0xffffff) == 0;
+}
+
+/// What is wrong with the band that stands at `band` on the screen that looked like `before` without it; empty when all
+/// is right. Every second pixel of the four bars is black, in steps of the density; all else is as it was.
+QString complaint(const QImage &before, const QImage &now, const QRect &band, int iDensity)
+{
+    const QRect inside = band.adjusted(cBar, cBar, -cBar, -cBar);
+    int iDots = 0;
+    int iPixels = 0;
+    for (int y = 0; y < now.height(); ++y) {
+        for (int x = 0; x < now.width(); ++x) {
+            const QPoint place(x / iDensity, y / iDensity);
+            const bool bChanged = now.pixel(x, y) != before.pixel(x, y);
+            if (!band.contains(place) || inside.contains(place)) {
+                if (bChanged)
+                    return QStringLiteral("changed at %1,%2").arg(x).arg(y);
+                continue;
+            }
+            // A dot on black shows as little as none: a window's transparent margin where there is no compositor.
+            if (!isBlack(before.pixel(x, y)))
+                ++iPixels;
+            if (!bChanged)
+                continue;
+            if (!isBlack(now.pixel(x, y)))
+                return QStringLiteral("no dot at %1,%2").arg(x).arg(y);
+            // Dots touch at their corners only.
+            const QPoint right(x + iDensity, y);
+            if (band.contains(right / iDensity) && isBlack(now.pixel(right)) && !isBlack(before.pixel(right)))
+                return QStringLiteral("two dots at %1,%2").arg(x).arg(y);
+            ++iDots;
+        }
+    }
+    if (qAbs(2 * iDots - iPixels) > iPixels / 50)
+        return QStringLiteral("%1 dots of %2 pixels").arg(iDots).arg(iPixels);
+    return {};
+}
+
+} // namespace
+
+class tst_CallWindowPointer : public QObject
+{
+    Q_OBJECT
+
+private:
+    void open(CVoipWidget::VoipType type);
+    bool isShapeAt(const QPoint &place, Qt::CursorShape shape) const;
+    static QRect shownBand();
+
+    ScreenPointer m_pointer;
+    std::unique_ptr<ContactFixture> m_pContacts;
+    std::unique_ptr<QWidget> m_pBackdrop;
+    std::unique_ptr<CVoipWidget> m_pWindow;
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void edgeIsForgottenOverTheParts_data();
+    void edgeIsForgottenOverTheParts();
+    void edgeIsKnownOverTheParts();
+    void bandIsFourDottedBars();
+};
+
+void tst_CallWindowPointer::initTestCase()
+{
+    QVERIFY(m_pointer.isReady());
+}
+
+void tst_CallWindowPointer::init()
+{
+    m_pContacts = std::make_unique<ContactFixture>();
+    m_pBackdrop = std::make_unique<QWidget>(nullptr, Qt::X11BypassWindowManagerHint);
+    m_pBackdrop->setPalette(QPalette(QColor(0x5a, 0x78, 0x96)));
+    m_pBackdrop->setGeometry(QGuiApplication::primaryScreen()->geometry());
+    m_pBackdrop->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_pBackdrop.get()));
+    m_pointer.moveTo(QPoint(20, 20));
+    QTRY_COMPARE(QCursor::pos(), QPoint(20, 20));
+}
+
+void tst_CallWindowPointer::cleanup()
+{
+    m_pointer.release(Qt::LeftButton);
+    QTRY_COMPARE(QGuiApplication::mouseButtons(), Qt::NoButton);
+    m_pWindow.reset();
+    m_pBackdrop.reset();
+    m_pContacts.reset();
+}
+
+void tst_CallWindowPointer::open(CVoipWidget::VoipType type)
+{
+    m_pWindow = std::make_unique<CVoipWidget>();
+    // Without a window manager's own opinion on places.
+    m_pWindow->setWindowFlag(Qt::X11BypassWindowManagerHint);
+    m_pWindow->move(cHome);
+    m_pWindow->setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, type, true, true);
+    m_pWindow->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+    QTRY_COMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
+}
+
+bool tst_CallWindowPointer::isShapeAt(const QPoint &place, Qt::CursorShape shape) const
+{
+    const QWidget *pPart = m_pWindow->childAt(place);
+    return (pPart != nullptr ? pPart : m_pWindow.get())->cursor().shape() == shape;
+}
+
+QRect tst_CallWindowPointer::shownBand()
+{
+    for (QWidget *pWindow : QApplication::topLevelWidgets())
+        if (qobject_cast<MyRubberBand *>(pWindow) != nullptr && pWindow->isVisible())
+            return pWindow->geometry();
+    return {};
+}
+
+void tst_CallWindowPointer::edgeIsForgottenOverTheParts_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("surface");
+    QTest::addColumn<QPoint>("edge");
+    QTest::addColumn<QPoint>("target");
+    QTest::addColumn<bool>("drags");
+    const QPoint left(1, 200);
+    QTest::newRow("voice page") << int(CVoipWidget::Voice) << false << left << QPoint(100, 200) << true;
+    QTest::newRow("voice page, head") << int(CVoipWidget::Voice) << false << left << QPoint(261, 150) << true;
+    QTest::newRow("voice page, from the right")
+        << int(CVoipWidget::Voice) << false << QPoint(521, 200) << QPoint(400, 200) << true;
+    QTest::newRow("video page") << int(CVoipWidget::Video) << false << left << QPoint(100, 200) << true;
+    // They take the moves.
+    QTest::newRow("video page, its pictures") << int(CVoipWidget::Video) << true << left << QPoint(100, 200) << false;
+    QTest::newRow("conference page, above the list")
+        << int(CVoipWidget::Conference) << false << left << QPoint(200, 55) << true;
+    // The list takes the presses.
+    QTest::newRow("conference page, list")
+        << int(CVoipWidget::Conference) << false << left << QPoint(100, 250) << false;
+    QTest::newRow("control bar") << int(CVoipWidget::Voice) << false << QPoint(430, 401) << QPoint(430, 380) << true;
+    QTest::newRow("control bar, from the left")
+        << int(CVoipWidget::Voice) << false << QPoint(1, 380) << QPoint(250, 380) << true;
+}
+
+void tst_CallWindowPointer::edgeIsForgottenOverTheParts()
+{
+    QFETCH(int, type);
+    QFETCH(bool, surface);
+    QFETCH(QPoint, edge);
+    QFETCH(QPoint, target);
+    QFETCH(bool, drags);
+    open(CVoipWidget::VoipType(type));
+    if (surface) {
+        m_pWindow->addVoipWidget(new Surface);
+        QCoreApplication::processEvents();
+    }
+    m_pointer.moveTo(cHome + edge);
+    const bool bAtSide = edge.y() == 200 || edge.y() == 380;
+    QTRY_COMPARE(m_pWindow->cursor().shape(), bAtSide ? Qt::SizeHorCursor : Qt::SizeVerCursor);
+    m_pointer.moveTo(cHome + target);
+    QTRY_VERIFY(isShapeAt(target, Qt::ArrowCursor));
+    QTRY_COMPARE(m_pWindow->cursor().shape(), Qt::ArrowCursor);
+    if (!drags)
+        return;
+    m_pointer.press(Qt::LeftButton);
+    m_pointer.moveTo(cHome + target + QPoint(15, 10));
+    m_pointer.moveTo(cHome + target + QPoint(30, 20));
+    QTRY_COMPARE(m_pWindow->pos(), cHome + QPoint(30, 20));
+    QVERIFY(shownBand().isNull());
+    m_pointer.release(Qt::LeftButton);
+    QTRY_COMPARE(QGuiApplication::mouseButtons(), Qt::NoButton);
+    QCOMPARE(m_pWindow->geometry(), QRect(cHome + QPoint(30, 20), cSize));
+}
+
+void tst_CallWindowPointer::edgeIsKnownOverTheParts()
+{
+    // The band reaches over the margin that the window's parts leave.
+    open(CVoipWidget::Voice);
+    m_pointer.moveTo(cHome + QPoint(100, 200));
+    QTRY_COMPARE(QCursor::pos(), cHome + QPoint(100, 200));
+    QVERIFY(m_pWindow->childAt(4, 200) != nullptr);
+    m_pointer.moveTo(cHome + QPoint(4, 200));
+    QTRY_VERIFY(isShapeAt(QPoint(4, 200), Qt::SizeHorCursor));
+    m_pointer.moveTo(cHome + QPoint(5, 200));
+    QTRY_VERIFY(isShapeAt(QPoint(5, 200), Qt::ArrowCursor));
+}
+
+void tst_CallWindowPointer::bandIsFourDottedBars()
+{
+    open(CVoipWidget::Voice);
+    m_pointer.moveTo(cHome + QPoint(1, 200));
+    QTRY_COMPARE(m_pWindow->cursor().shape(), Qt::SizeHorCursor);
+    QImage before = screenNow();
+    const auto isQuiet = [&before] {
+        const QImage last = before;
+        QTest::qWait(100);
+        before = screenNow();
+        return before == last;
+    };
+    QVERIFY(QTest::qWaitFor(isQuiet));
+    const int iDensity = qRound(qApp->devicePixelRatio());
+
+    m_pointer.press(Qt::LeftButton);
+    QTRY_COMPARE(shownBand(), QRect(cHome, cSize));
+    QString strWrong;
+    const auto isRight = [&](const QRect &band) {
+        strWrong = complaint(before, screenNow(), band, iDensity);
+        return strWrong.isEmpty();
+    };
+    QVERIFY2(QTest::qWaitFor([&] { return isRight(QRect(cHome, cSize)); }), qPrintable(strWrong));
+
+    m_pointer.moveTo(cHome + QPoint(-60, 210));
+    const QRect larger(cHome - QPoint(60, 0), cSize + QSize(60, 0));
+    QTRY_COMPARE(shownBand(), larger);
+    QVERIFY2(QTest::qWaitFor([&] { return isRight(larger); }), qPrintable(strWrong));
+
+    m_pointer.release(Qt::LeftButton);
+    QTRY_VERIFY(shownBand().isNull());
+}
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CallWindowPointer, Widgets)
+
+#include "tst_CallWindowPointer.moc"

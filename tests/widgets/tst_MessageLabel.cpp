@@ -1,0 +1,202 @@
+// A message that is too long for its place: in the label by itself, and in the dialog as the screen shows it.
+
+#include "ShownDialog.h"
+#include "widgets/BaseFormEx.h"
+#include "widgets/MessageLabel.h"
+
+#include <QPainter>
+#include <QTest>
+
+using namespace ShownDialog;
+
+namespace {
+
+constexpr QSize cSize(242, 62);
+constexpr int cDark = 160;
+const QString cEllipsis(QChar(0x2026));
+
+QFont plainFont()
+{
+    QFont font;
+    font.setPixelSize(12);
+    return font;
+}
+
+/// The text as lines from the top of a label of that size.
+QImage drawn(const QString &strText)
+{
+    QLabel label(strText);
+    label.setFont(plainFont());
+    label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    label.resize(cSize);
+    return label.grab().toImage();
+}
+
+QImage shown(MessageLabel &label, const QString &strText)
+{
+    label.setFont(plainFont());
+    label.setWordWrap(true);
+    label.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    label.setText(strText);
+    label.resize(cSize);
+    return label.grab().toImage();
+}
+
+int lineHeight()
+{
+    return QFontMetrics(plainFont()).lineSpacing();
+}
+
+/// How many whole lines the label has room for.
+int roomForLines()
+{
+    return cSize.height() / lineHeight();
+}
+
+QString numbered(int iLines)
+{
+    QStringList lines;
+    for (int i = 1; i <= iLines; ++i)
+        lines.append(QStringLiteral("Line %1").arg(i));
+    return lines.join(QLatin1Char('\n'));
+}
+
+bool hasInk(const QImage &image, int iTop, int iBottom)
+{
+    for (int y = iTop; y <= iBottom; ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qGray(image.pixel(x, y)) < cDark)
+                return true;
+    return false;
+}
+
+} // namespace
+
+class tst_MessageLabel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void textWithRoomIsThatOfALabel();
+    void longTextEndsAtAWholeLine();
+    void blankBeforeTheEndIsLeftOut();
+    void fullLastLineGivesWay();
+    void wordWithoutABreakIsBroken();
+    void markupEndsAtAWholeLineToo();
+    void lowestLineMayLieHigher();
+    void veryLongTextIsShownAtOnce();
+    void dialogsLineIsNotCrossed_data();
+    void dialogsLineIsNotCrossed();
+};
+
+void tst_MessageLabel::textWithRoomIsThatOfALabel()
+{
+    const QString strText = numbered(roomForLines());
+    MessageLabel label;
+    QLabel plain(strText);
+    plain.setFont(plainFont());
+    plain.setWordWrap(true);
+    plain.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    plain.resize(cSize);
+    QCOMPARE(shown(label, strText), plain.grab().toImage());
+    QVERIFY(label.hasRoom());
+}
+
+void tst_MessageLabel::longTextEndsAtAWholeLine()
+{
+    MessageLabel label;
+    const QString strText = numbered(roomForLines() + 1);
+    QCOMPARE(shown(label, strText), drawn(numbered(roomForLines()) + cEllipsis));
+    QVERIFY(!label.hasRoom());
+    QCOMPARE(label.text(), strText);
+}
+
+void tst_MessageLabel::blankBeforeTheEndIsLeftOut()
+{
+    MessageLabel label;
+    const QString strLast = numbered(roomForLines());
+    QCOMPARE(shown(label, strLast + QStringLiteral("  \n\nmore")), drawn(strLast + cEllipsis));
+}
+
+void tst_MessageLabel::fullLastLineGivesWay()
+{
+    // A last line that has no place for one character more.
+    const QFontMetrics metrics(plainFont());
+    QString strFull(1, QLatin1Char('i'));
+    while (metrics.horizontalAdvance(strFull + QLatin1Char('i')) <= cSize.width())
+        strFull += QLatin1Char('i');
+    const QString strAbove = numbered(roomForLines() - 1) + QLatin1Char('\n');
+    QString strCut = strFull;
+    while (metrics.horizontalAdvance(strCut + cEllipsis) > cSize.width())
+        strCut.chop(1);
+    MessageLabel label;
+    QCOMPARE(shown(label, strAbove + strFull + QStringLiteral("\nmore")), drawn(strAbove + strCut + cEllipsis));
+}
+
+void tst_MessageLabel::wordWithoutABreakIsBroken()
+{
+    MessageLabel label;
+    const QImage image = shown(label, QString(400, QLatin1Char('W')));
+    QVERIFY(!label.hasRoom());
+    for (int iLine = 0; iLine < roomForLines(); ++iLine)
+        QVERIFY(hasInk(image, iLine * lineHeight(), (iLine + 1) * lineHeight() - 1));
+    QVERIFY(!hasInk(image, roomForLines() * lineHeight(), image.height() - 1));
+}
+
+void tst_MessageLabel::markupEndsAtAWholeLineToo()
+{
+    MessageLabel label;
+    const QString strText = numbered(roomForLines() + 2).replace(QLatin1Char('\n'), QStringLiteral("<br>"));
+    QCOMPARE(shown(label, QStringLiteral("<b></b>") + strText), drawn(numbered(roomForLines()) + cEllipsis));
+}
+
+void tst_MessageLabel::lowestLineMayLieHigher()
+{
+    MessageLabel label;
+    label.setLowestLine(3 * lineHeight() - 1);
+    QCOMPARE(shown(label, numbered(3)), drawn(numbered(2) + cEllipsis));
+    label.setLowestLine(0);
+    label.grab();
+    QVERIFY(!label.hasRoom());
+}
+
+void tst_MessageLabel::veryLongTextIsShownAtOnce()
+{
+    MessageLabel label;
+    QCOMPARE(shown(label, numbered(20000)), drawn(numbered(roomForLines()) + cEllipsis));
+}
+
+void tst_MessageLabel::dialogsLineIsNotCrossed_data()
+{
+    QTest::addColumn<QString>("message");
+    QTest::newRow("Chinese") << QStringLiteral("对方正忙，请稍后再拨。").repeated(20);
+    QTest::newRow("Latin") << QStringLiteral("The other side is busy, try again. ").repeated(20);
+    QTest::newRow("lines") << numbered(12);
+    QTest::newRow("markup") << QStringLiteral("<a href=\"http://x.y\">busy</a> and long ").repeated(40);
+}
+
+void tst_MessageLabel::dialogsLineIsNotCrossed()
+{
+    QFETCH(QString, message);
+    ErrorMessage dialog(QString(), QString(), nullptr);
+    QImage image;
+    int iLine = 0;
+    int iBottom = 0;
+    whenShown(dialog, [&] {
+        const auto *pForm = part<CBaseFormEx>(dialog, "backWidget");
+        const auto *pLabel = part<QLabel>(dialog, "msgLabel");
+        iLine = pForm->lineTop();
+        iBottom = pLabel->mapTo(pForm, pLabel->rect().bottomLeft()).y();
+        image = part<CBaseFormEx>(dialog, "backWidget")->grab().toImage();
+    });
+    dialog.getMsgShow(QStringLiteral("Title"), message);
+    QVERIFY(iBottom > iLine);
+    QVERIFY(hasInk(image, iLine - 20, iLine - 1));
+    // From the line to the end of the label's place, nothing but line and ground.
+    QVERIFY(!hasInk(image, iLine, iBottom));
+}
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_MessageLabel, Widgets)
+
+#include "tst_MessageLabel.moc"
