@@ -18,7 +18,7 @@ protected:
 /// Out of main(), whose frame might keep the address.
 __attribute__((noinline)) void lose()
 {
-    void *volatile block = std::malloc(77);
+    [[maybe_unused]] void *volatile block = std::malloc(77);
     block = nullptr;
 }
 
