@@ -1,13 +1,13 @@
 #include "engine/VoipManage.h"
 
 #include "common/CLogManger.h"
-#include "engine/AudioInputs.h"
 #include "engine/CallRing.h"
 #include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 #include "ui/VoiceConferenceWidget.h"
 #include "ui/VoipWidget.h"
 
+#include <QAudioDeviceInfo>
 #include <QProcess>
 #include <QSound>
 
@@ -98,7 +98,7 @@ void CVoipManage::clearLocalCallData()
 
 bool CVoipManage::getIsHasAudioInputDevice()
 {
-    return AudioInputs::exist();
+    return !QAudioDeviceInfo::availableDevices(QAudio::AudioInput).isEmpty();
 }
 
 bool CVoipManage::isExistCall()

@@ -5,9 +5,9 @@
 // it through the mailbox, the user's clicks through the signals of both windows, the call process's reports through the
 // socket.
 //
-// GUI thread only, no lock, nothing thrown. It blocks for at most one second while the socket connects, one second
-// while the last line is written at the exit, and one second while a sound server does not answer. The singleton is
-// created at the host's first command and lives to the process's end.
+// GUI thread only, no lock, nothing thrown. It blocks for at most one second while the socket connects and one second
+// while the last line is written at the exit. The singleton is created at the host's first command and lives to the
+// process's end.
 
 #include "engine/CallData.h"
 #include "model/VcardInfo.h"
@@ -57,7 +57,7 @@ public:
     /// Forgets the current call. Timers, ring and window are the caller's business. Deliberately no slot: the call
     /// window's signal of the same purpose does not reach it.
     void clearLocalCallData();
-    /// Whether the machine has any audio input; waits up to one second for the sound server, see AudioInputs.
+    /// Whether the machine has any audio input.
     bool getIsHasAudioInputDevice();
     /// Whether there is a call in any state, one that only rings included.
     bool isExistCall();

@@ -243,6 +243,9 @@ void CVoipWidget::changeEvent(QEvent *event)
     ui->btnClose->setToolTip(tr("close"));
     ui->btnMic->setToolTip(micTip(m_bMicMute));
     ui->btnSpeaker->setToolTip(speakerTip(m_bSpeakerMute));
+    // It has a tip only once it has been pressed.
+    if (!ui->btnChangeWindow->toolTip().isEmpty())
+        ui->btnChangeWindow->setToolTip(m_bFullScreen ? tr("restore") : tr("fullscreen"));
 }
 
 void CVoipWidget::SetMicEnable(bool bEnable)

@@ -80,7 +80,7 @@ void tst_CallRing::processEndsInOrderWhileTheFileIsRead()
     for (QProcess &child : children)
         child.start(QStringLiteral(VOIP_RING_CHILD), way);
     for (QProcess &child : children) {
-        QVERIFY(child.waitForFinished());
+        QVERIFY(child.waitForFinished(120000));
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 0);
         const QByteArray said = child.readAllStandardError();

@@ -306,6 +306,7 @@ void tst_Translations::callWindowFollowsTheLanguage()
     CVoipWidget window;
     window.setVoipCallInfo({QStringLiteral("anna")}, CVoipWidget::Voice, true, true);
     QMetaObject::invokeMethod(window.findChild<QWidget *>("btnMic"), "clicked");
+    QMetaObject::invokeMethod(&window, "slot_WindowChangeButtonClicked");
     auto *pClock = window.findChild<QLabel *>("currentPlayTimeLabel");
     pClock->setText(QStringLiteral("00:01:25"));
 
@@ -316,9 +317,9 @@ void tst_Translations::callWindowFollowsTheLanguage()
 
     QCOMPARE(wordsOf(window), (QStringList{"Invite", "Cancel", "Hang up"}));
     QStringList tips;
-    for (const char *button : {"btnClose", "btnMic", "btnSpeaker"})
+    for (const char *button : {"btnClose", "btnMic", "btnSpeaker", "btnChangeWindow"})
         tips.append(window.findChild<QWidget *>(button)->toolTip());
-    QCOMPARE(tips, (QStringList{"Close", "Unmute the microphone", "Sound off"}));
+    QCOMPARE(tips, (QStringList{"Close", "Unmute the microphone", "Sound off", "Restore"}));
     QCOMPARE(pClock->text(), QStringLiteral("00:01:25"));
 }
 
