@@ -1,12 +1,36 @@
+#include "ContactBook.h"
+#include "HostSession.h"
+#include "Tour.h"
 #include "TourHand.h"
+#include "TourWatch.h"
 
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
-/// The mouse of the tour on a real screen: what it does comes back through the X server.
+namespace {
+
+/// Shows something from an event of the plug-in's kind on until the event loop comes round again.
+class Flash : public QObject
+{
+public:
+    bool shown = false;
+
+protected:
+    void customEvent(QEvent *) override
+    {
+        shown = true;
+        QTimer::singleShot(0, this, [this] { shown = false; });
+    }
+};
+
+} // namespace
+
+/// The mouse of the tour on a real screen: what it does comes back through the X server. And the tour's eyes, for which
+/// nothing is too short.
 class tst_TourHand : public QObject
 {
     Q_OBJECT
@@ -22,6 +46,7 @@ private slots:
     void menuItemIsChosenWhereThePointerOpenedTheMenu();
     void hoverStaysWithoutAPress();
     void pointerGoesOutOfTheWayAfterAClick();
+    void whatLastsForLessThanATickIsSeen();
 
 private:
     struct Listener : QPushButton
@@ -182,6 +207,24 @@ void tst_TourHand::pointerGoesOutOfTheWayAfterAClick()
     m_hand->click(at(&button));
     QVERIFY(finished());
     QTRY_VERIFY(!button.geometry().contains(QCursor::pos()));
+}
+
+void tst_TourHand::whatLastsForLessThanATickIsSeen()
+{
+    ContactBook book(QStringLiteral("example.org"));
+    HostSession session(book);
+    TourWatch watch(session, QStringLiteral("no trace"));
+    Flash flash;
+    const auto act = [&flash] {
+        QCoreApplication::postEvent(&flash, new QEvent(QEvent::User));
+        return true;
+    };
+    const TourCheck check{QStringLiteral("it flashes"), [&flash] { return flash.shown; }};
+    Tour tour(watch, *m_hand, {{QStringLiteral("Flash"), act, {check}, 1000}}, QString());
+    const QSignalSpy finished(&tour, &Tour::finished);
+    tour.start();
+    QTRY_COMPARE(finished.count(), 1);
+    QVERIFY(finished.at(0).at(0).toBool());
 }
 
 #include "support/TestProgram.h"
