@@ -11,6 +11,9 @@ constexpr int HEAD_LENGTH = 8;
 
 QByteArray firstBytes(const QString &strPath)
 {
+    if (strPath.isEmpty()) {
+        return {};
+    }
     QFile file(strPath);
     // Anything but a plain file could keep the reader waiting.
     if (!QFileInfo(strPath).isFile() || !file.open(QIODevice::ReadOnly)) {

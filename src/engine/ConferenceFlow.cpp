@@ -10,8 +10,6 @@
 #include "ui/VoiceConferenceWidget.h"
 #include "ui/VoipWidget.h"
 
-#include <QSet>
-
 namespace {
 
 const char *operationText(CVoipManage::ConfControlSignal operation)
@@ -60,8 +58,8 @@ void CVoipManage::callConference(QList<QString> userList, bool bFlag, QString st
 
     askForStrangers(userList);
 
-    if (!m_callData.memberList.contains(m_strUserId))
-        m_callData.memberList.append(m_strUserId);
+    if (!m_memberIndex.contains(m_callData.memberList, m_strUserId))
+        m_memberIndex.append(m_callData.memberList, m_strUserId);
     QStringList called = m_callData.memberList;
     called.removeAll(m_strUserId);
     sendIfConnected(SdkLine::of<Wire::Command::RequestConference>(m_strUserId, called, bFlag, strText));
@@ -92,10 +90,9 @@ void CVoipManage::slot_AddConfMember()
     if (answer.isEmpty())
         return;
     // The host's picker may have run an event loop: what counts is the list as it is now.
-    const QSet<QString> members(m_callData.memberList.cbegin(), m_callData.memberList.cend());
     QStringList rest;
     for (const QString &id : qAsConst(answer)) {
-        if (!members.contains(id))
+        if (!m_memberIndex.contains(m_callData.memberList, id))
             rest.append(id);
     }
     // Deliberate: with nobody left too, the call process gets its request.
@@ -105,12 +102,9 @@ void CVoipManage::slot_AddConfMember()
 void CVoipManage::addConferenceMember(QList<QString> userList)
 {
     LOG_DEBUG << "add conf member = " << joined(userList) << "\n";
-    QSet<QString> members(m_callData.memberList.cbegin(), m_callData.memberList.cend());
     for (const QString &id : qAsConst(userList)) {
-        if (!members.contains(id)) {
-            members.insert(id);
-            m_callData.memberList.append(id);
-        }
+        if (!m_memberIndex.contains(m_callData.memberList, id))
+            m_memberIndex.append(m_callData.memberList, id);
     }
     askForStrangers(userList);
     if (m_pVoipWidget) {
@@ -137,7 +131,7 @@ void CVoipManage::slot_ReInviteConfUser(QString strUserID)
 void CVoipManage::slot_RemoveConferenceMember(QString strUserID)
 {
     LOG_DEBUG << "remove conf member = " << strUserID << "\n";
-    if (m_callData.memberList.removeOne(strUserID) && m_callData.connectedList.contains(strUserID))
+    if (m_memberIndex.removeOne(m_callData.memberList, strUserID) && m_callData.connectedList.contains(strUserID))
         controlConference(Kick, false, strUserID);
     if (m_pVoipWidget)
         m_pVoipWidget->removeConferenceMember(strUserID);

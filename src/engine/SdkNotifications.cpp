@@ -9,7 +9,6 @@
 #include "wire/Notifications.h"
 
 #include <QDebug>
-#include <QSet>
 
 #include <algorithm>
 #include <iterator>
@@ -133,26 +132,15 @@ void CVoipManage::onConfUpdate(const QString &content)
     m_callData.confId = document.confId;
     takeCreateTime(document.createTime);
 
-    QStringList listed = m_callData.memberList;
-    QSet<QString> known(listed.cbegin(), listed.cend());
     StrangerCards strangers;
     for (const QString &id : document.conventioneer) {
-        // The host's answers may run an event loop, in which the list can change under this walk. As long as both share
-        // their data the comparison costs nothing.
-        if (listed != m_callData.memberList) {
-            listed = m_callData.memberList;
-            known = QSet<QString>(listed.cbegin(), listed.cend());
-        }
-        if (!known.contains(id)) {
-            known.insert(id);
-            // A list that is still shared would be copied whole by the append.
-            listed.clear();
-            m_callData.memberList.append(id);
-            listed = m_callData.memberList;
-            if (m_pVoipWidget && id != m_strUserId)
-                m_pVoipWidget->addConferenceMember(id);
-            strangers.test(id);
-        }
+        // Looked up each time: the host's answers may run an event loop, in which the list changes under this walk.
+        if (m_memberIndex.contains(m_callData.memberList, id))
+            continue;
+        m_memberIndex.append(m_callData.memberList, id);
+        if (m_pVoipWidget && id != m_strUserId)
+            m_pVoipWidget->addConferenceMember(id);
+        strangers.test(id);
     }
     m_callData.connectedList = document.conventioneer;
     strangers.request();

@@ -94,6 +94,7 @@ void CVoipManage::clearLocalCallData()
     LOG_DEBUG << "clear call data!"
               << "\n";
     m_callData = CallData();
+    m_memberIndex = UidIndex();
 }
 
 bool CVoipManage::getIsHasAudioInputDevice()

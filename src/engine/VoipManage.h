@@ -10,6 +10,7 @@
 // process's end.
 
 #include "engine/CallData.h"
+#include "model/UidIndex.h"
 #include "model/VcardInfo.h"
 
 #include <QLocalSocket>
@@ -183,6 +184,7 @@ protected:
     QString m_strNickName;
     QString m_strRegValue;
     CallData m_callData;
+    UidIndex m_memberIndex;                ///< of the call's members
     QLocalSocket *m_pVoipSocket = nullptr; ///< the channel; child of the manager
     bool m_bSocketConnected = false;
     bool m_bSdkFlag = false;      ///< notification 17 said "true"; nothing reads it

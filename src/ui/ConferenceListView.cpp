@@ -4,6 +4,7 @@
 #include "common/CLogManger.h"
 #include "common/DpiScale.h"
 #include "common/ImagePath.h"
+#include "common/LocalClock.h"
 #include "common/Palette.h"
 #include "common/ShortText.h"
 #include "model/FriendData.h"
@@ -23,6 +24,24 @@ namespace {
 
 constexpr QSize cRowSize(500, 38);
 constexpr int cTipColumns = 40;
+
+/// A row of whose member nothing is known yet: what all rows begin with, and room for the rest. A copy of it costs less
+/// than a new item to which each role is added.
+class BlankRow : public QStandardItem
+{
+public:
+    BlankRow()
+    {
+        setData(strDEFAULT_HEAD_PATH, ROLE_HEAD_PATH);
+        setData(QString(), ROLE_USER_ID);
+        setData(QString(), ROLE_DISPLAY_NAME);
+        setData(int(ConferenceCalling), ROLE_CALL_STATUS);
+        for (const int iRole : {ROLE_REMOVE_HOVER, ROLE_MUTE_HOVER, ROLE_MUTED, ROLE_CALL_BY_ME, ROLE_IS_CREATOR})
+            setData(false, iRole);
+        setData(QTime(), ROLE_INVITE_TIME);
+        setData(ADAPT_DPI_SIZE(cRowSize), Qt::SizeHintRole);
+    }
+};
 
 void showTip(const QString &strTip)
 {
@@ -56,7 +75,6 @@ void CConferenceListView::setIsCallByMe(bool bIsCallByMe)
 void CConferenceListView::addUserList(QList<QString> userList)
 {
     m_userList = userList;
-    m_userCounts = UidCounts(userList);
     for (const QString &strUserID : qAsConst(userList))
         appendUserItem(strUserID);
 }
@@ -65,18 +83,17 @@ void CConferenceListView::addUser(QString strUserID)
 {
     if (strUserID.isEmpty())
         return;
-    if (!m_userCounts.contains(strUserID)) {
-        m_userList.append(strUserID);
-        m_userCounts.add(strUserID);
+    if (!m_userIndex.contains(m_userList, strUserID)) {
+        m_userIndex.append(m_userList, strUserID);
         appendUserItem(strUserID);
     } else if (QStandardItem *pItem = m_userItemMap.value(strUserID)) {
-        pItem->setData(QTime::currentTime(), ROLE_INVITE_TIME);
+        pItem->setData(LocalClock::now(), ROLE_INVITE_TIME);
     }
 }
 
 void CConferenceListView::removeUser(QString strUserID)
 {
-    if (strUserID.isEmpty() || !m_userCounts.contains(strUserID))
+    if (strUserID.isEmpty() || !m_userIndex.contains(m_userList, strUserID))
         return;
     QStandardItem *pItem = m_userItemMap.value(strUserID);
     if (pItem == nullptr)
@@ -85,8 +102,7 @@ void CConferenceListView::removeUser(QString strUserID)
     if (iRow < 0 || iRow >= m_pModel->rowCount())
         return;
     m_userItemMap.remove(strUserID);
-    m_userList.removeOne(strUserID);
-    m_userCounts.remove(strUserID);
+    m_userIndex.removeOne(m_userList, strUserID);
     m_pModel->removeRows(iRow, 1);
 }
 
@@ -94,7 +110,6 @@ void CConferenceListView::clearMembers()
 {
     m_pModel->clear();
     m_userList.clear();
-    m_userCounts.clear();
     m_userItemMap.clear();
     m_strCreator.clear();
     m_statusTimer.stop();
@@ -125,8 +140,11 @@ void CConferenceListView::updateConferenceUserStatus(QString strUserID, qlonglon
 {
     constexpr qlonglong cLeast = std::numeric_limits<int>::min();
     constexpr qlonglong cGreatest = std::numeric_limits<int>::max();
-    if (QStandardItem *pItem = m_userItemMap.value(strUserID))
-        pItem->setData(int(qBound(cLeast, iStatus, cGreatest)), ROLE_CALL_STATUS);
+    QStandardItem *pItem = m_userItemMap.value(strUserID);
+    const int iShown = int(qBound(cLeast, iStatus, cGreatest));
+    // Most of an update's members are known and connected already.
+    if (pItem != nullptr && pItem->data(ROLE_CALL_STATUS) != iShown)
+        pItem->setData(iShown, ROLE_CALL_STATUS);
 }
 
 void CConferenceListView::setMuteAll(bool bMute)
@@ -147,7 +165,7 @@ void CConferenceListView::updateUserInfo(QString strJid, VcardInfo vcard)
 
 void CConferenceListView::slot_UpdateCallStatu()
 {
-    const QTime now = QTime::currentTime();
+    const QTime now = LocalClock::now();
     for (int iRow = 0; iRow < m_pModel->rowCount(); ++iRow) {
         QStandardItem *pItem = m_pModel->item(iRow);
         if (pItem->data(ROLE_CALL_STATUS).toInt() == ConferenceCalling &&
@@ -254,7 +272,7 @@ void CConferenceListView::mouseDoubleClickEvent(QMouseEvent *event)
     }
     // The status stays until the manager changes it, so the row keeps its failed look while the new call goes out.
     if (canReInvite(pItem->data(ROLE_CALL_STATUS).toInt())) {
-        pItem->setData(QTime::currentTime(), ROLE_INVITE_TIME);
+        pItem->setData(LocalClock::now(), ROLE_INVITE_TIME);
         emit signal_ReInviteConfUser(pItem->data(ROLE_USER_ID).toString());
     }
     QAbstractItemView::mouseDoubleClickEvent(event);
@@ -287,18 +305,17 @@ QStandardItem *CConferenceListView::creatUserItem(const QString &strUserID)
 {
     const FriendData member = VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(strUserID));
     // The model takes the item over as soon as it is appended.
-    auto *pItem = new QStandardItem;
-    pItem->setData(ImagePath::getTrueImagePath(member.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
-                   ROLE_HEAD_PATH);
+    static const BlankRow s_blank;
+    QStandardItem *pItem = s_blank.clone();
+    const QString strHead = ImagePath::getTrueImagePath(member.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH);
+    if (strHead != strDEFAULT_HEAD_PATH)
+        pItem->setData(strHead, ROLE_HEAD_PATH);
     pItem->setData(strUserID, ROLE_USER_ID);
     pItem->setData(member.displayName(), ROLE_DISPLAY_NAME);
-    pItem->setData(int(ConferenceCalling), ROLE_CALL_STATUS);
-    pItem->setData(false, ROLE_REMOVE_HOVER);
-    pItem->setData(false, ROLE_MUTE_HOVER);
-    pItem->setData(false, ROLE_MUTED);
-    pItem->setData(m_bIsCallByMe, ROLE_CALL_BY_ME);
-    pItem->setData(strUserID == m_strCreator, ROLE_IS_CREATOR);
-    pItem->setData(QTime::currentTime(), ROLE_INVITE_TIME);
-    pItem->setData(ADAPT_DPI_SIZE(cRowSize), Qt::SizeHintRole);
+    if (m_bIsCallByMe)
+        pItem->setData(true, ROLE_CALL_BY_ME);
+    if (strUserID == m_strCreator)
+        pItem->setData(true, ROLE_IS_CREATOR);
+    pItem->setData(LocalClock::now(), ROLE_INVITE_TIME);
     return pItem;
 }

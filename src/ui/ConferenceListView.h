@@ -6,7 +6,7 @@
 // watchdog that marks members who never answered. Part of the call window, which owns it and drives it. GUI thread
 // only.
 
-#include "ui/UidCounts.h"
+#include "model/UidIndex.h"
 
 #include <QList>
 #include <QListView>
@@ -97,5 +97,5 @@ private:
     QString m_strCreator;
     bool m_bIsCallByMe = true;
     QTimer m_statusTimer;
-    UidCounts m_userCounts; ///< of m_userList
+    UidIndex m_userIndex; ///< of m_userList
 };

@@ -83,7 +83,6 @@ void CVoipWidget::setVoipCallInfo(QList<QString> userList, VoipType iType, bool 
         setWindowTitle(QStringLiteral("语音会议"));
         ui->displayPane->setCurrentIndex(cConferencePage);
         m_memberList = userList;
-        m_memberCounts = UidCounts(userList);
     }
     ui->controlPane->setCurrentIndex(bConnected ? cCallingPage : cRequestPage);
     m_bConnected = bConnected;
@@ -168,7 +167,6 @@ void CVoipWidget::ClearCallInfoData()
     m_bFullScreen = false;
     m_bConnected = false;
     m_memberList.clear();
-    m_memberCounts.clear();
     m_strPeerUid.clear();
     m_strCreator.clear();
     SetMicButton(false);

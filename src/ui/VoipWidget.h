@@ -10,8 +10,8 @@
 //
 // All that it logs stands in VoipWidget.cpp, whose name is the source tag that readers of the log look for.
 
+#include "model/UidIndex.h"
 #include "ui/EdgeDrag.h"
-#include "ui/UidCounts.h"
 
 #include <QList>
 #include <QPoint>
@@ -245,7 +245,7 @@ private:
     bool m_bConnected = false;
     QString m_strPeerUid;
     QList<QString> m_memberList;
-    UidCounts m_memberCounts; ///< of m_memberList
+    UidIndex m_memberIndex; ///< of m_memberList
     QString m_strCreator;
     VoipType m_iVoipType = Voice;
     const QEvent *m_pAskedEscape = nullptr; ///< the key press that a control has asked about, until any other event

@@ -6,19 +6,17 @@
 
 void CVoipWidget::addConferenceMember(QString strUserID)
 {
-    if (m_memberCounts.contains(strUserID))
+    if (m_memberIndex.contains(m_memberList, strUserID))
         return;
     ui->listView->addUser(strUserID);
-    m_memberList.append(strUserID);
-    m_memberCounts.add(strUserID);
+    m_memberIndex.append(m_memberList, strUserID);
     refreshMemberCount();
 }
 
 void CVoipWidget::removeConferenceMember(QString strUserID)
 {
     ui->listView->removeUser(strUserID);
-    m_memberList.removeOne(strUserID);
-    m_memberCounts.remove(strUserID);
+    m_memberIndex.removeOne(m_memberList, strUserID);
     refreshMemberCount();
 }
 
@@ -45,7 +43,7 @@ void CVoipWidget::updateConferenceUserStatus(QString strUserID, qlonglong iStatu
 
 void CVoipWidget::refreshMemberCount()
 {
-    ui->lblListCount->setText(QStringLiteral("参与人员(%1)").arg(m_memberList.size()));
+    ui->lblListCount->setText(QStringLiteral("参与人员(") + QString::number(m_memberList.size()) + QLatin1Char(')'));
 }
 
 void CVoipWidget::slot_AddConferenceMember()

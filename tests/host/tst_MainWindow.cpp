@@ -4,7 +4,6 @@
 #include "MainWindow.h"
 #include "PressButton.h"
 #include "WindowProbe.h"
-#include "store/LockHolder.h"
 
 #include "model/SystemSetData.h"
 #include "plugin/BaseEvent.h"
@@ -59,25 +58,8 @@ private slots:
     void noticeIsHiddenWhileThereIsNothingToTell();
     void damagedStoreIsToldBelowTheHeader();
     void closingTheWindowTakesTheOthersAlong();
-    void heldStoreIsToldAndTriedAgain();
 
 private:
-    /// Signs in and opens the store; the module, which comes after it, is not there.
-    bool startWithoutModule()
-    {
-        QString error;
-        return !m_pSession->start(QStringLiteral("/no/module.so"), &error);
-    }
-    /// Puts a file with these bytes where the store is looked for.
-    static bool putStore(const QByteArray &bytes)
-    {
-        SystemSetData *settings = SystemSetData::instance();
-        settings->initCommonData();
-        settings->initData(ContactBook::ownUid());
-        QFile file(settings->m_strDatabasePath);
-        return QDir().mkpath(settings->m_strUserFolder) && file.open(QIODevice::WriteOnly) &&
-               file.write(bytes) == bytes.size();
-    }
     /// Cancels the picker as soon as it is open, with what it asked left in `asked`.
     void cancelThePicker(QTimer &timer, QString &asked)
     {
@@ -427,8 +409,17 @@ void tst_MainWindow::noticeIsHiddenWhileThereIsNothingToTell()
 
 void tst_MainWindow::damagedStoreIsToldBelowTheHeader()
 {
-    QVERIFY(putStore("no database"));
-    QVERIFY(startWithoutModule());
+    SystemSetData *settings = SystemSetData::instance();
+    settings->initCommonData();
+    settings->initData(ContactBook::ownUid());
+    QVERIFY(QDir().mkpath(settings->m_strUserFolder));
+    QFile file(settings->m_strDatabasePath);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no database") > 0);
+    file.close();
+
+    // The store is opened before the module, which is not there.
+    QString error;
+    QVERIFY(!m_pSession->start(QStringLiteral("/no/module.so"), &error));
     QVERIFY(m_pSession->store().isOpen());
     MainWindow window(*m_pSession, m_book);
     window.show();
@@ -440,33 +431,6 @@ void tst_MainWindow::damagedStoreIsToldBelowTheHeader()
     QCOMPARE(notice, m_pSession->store().reports().join(QLatin1Char('\n')));
     // There is nothing to try again.
     QVERIFY(!WindowProbe::isShown(&window, "btnTryStore"));
-}
-
-void tst_MainWindow::heldStoreIsToldAndTriedAgain()
-{
-    QVERIFY(putStore(QByteArray()));
-    LockHolder holder(SystemSetData::instance()->m_strDatabasePath, QStringLiteral("BEGIN EXCLUSIVE"));
-    QVERIFY(holder.hasHeld());
-    QVERIFY(startWithoutModule());
-    QVERIFY(!m_pSession->store().isOpen());
-    MainWindow window(*m_pSession, m_book);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    const auto isTold = [&window] {
-        return WindowProbe::isShown(&window, "lblNotice") && WindowProbe::isShown(&window, "btnTryStore") &&
-               WindowProbe::text(&window, "lblNotice").contains(QStringLiteral("is in use by another program"));
-    };
-    QVERIFY(isTold());
-
-    QVERIFY(pressButton(&window, "btnTryStore"));
-    QVERIFY(isTold());
-    QVERIFY(holder.holds());
-    QVERIFY(holder.letGo());
-    QVERIFY(pressButton(&window, "btnTryStore"));
-    QVERIFY(m_pSession->store().isOpen());
-    QVERIFY(!WindowProbe::isShown(&window, "lblNotice"));
-    QVERIFY(!WindowProbe::isShown(&window, "btnTryStore"));
-    QCOMPARE(window.statusBar()->currentMessage(), QStringLiteral("The local store is open"));
 }
 
 void tst_MainWindow::closingTheWindowTakesTheOthersAlong()

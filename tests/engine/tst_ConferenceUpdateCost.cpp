@@ -1,0 +1,83 @@
+// What an update of very many new members asks of the system and of the host: counted, not timed.
+
+#include "ConferenceContent.h"
+#include "fakes/EngineFixture.h"
+
+#include <QTest>
+
+#include <ctime>
+#include <dlfcn.h>
+
+namespace {
+
+constexpr int kMembers = 10000;
+int zoneLookUps = 0;
+
+QString uid(int iNumber)
+{
+    return QStringLiteral("3001%1").arg(iNumber);
+}
+
+QString update()
+{
+    QStringList ids;
+    for (int i = 0; i < kMembers; ++i)
+        ids << uid(i);
+    return conferenceContent(QStringLiteral(R"("confId":"c1","conventioneer":["%1"])").arg(ids.join("\",\"")));
+}
+
+} // namespace
+
+/// Stands before the system's own, which looks at the zone's file each time.
+extern "C" Q_DECL_EXPORT tm *localtime_r(const time_t *time, tm *result)
+{
+    ++zoneLookUps;
+    static const auto real = reinterpret_cast<tm *(*)(const time_t *, tm *)>(dlsym(RTLD_NEXT, "localtime_r"));
+    return real(time, result);
+}
+
+class tst_ConferenceUpdateCost : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void zoneIsNotLookedUpForEachMember();
+    void hostIsAskedTheSameOfEachMember();
+};
+
+void tst_ConferenceUpdateCost::zoneIsNotLookedUpForEachMember()
+{
+    EngineFixture f;
+    f.createConference();
+    const QString content = update();
+    zoneLookUps = 0;
+    f.notify(12, content);
+    QCOMPARE(f.members().size(), kMembers + 2);
+    // Once a second, and however slow the machine is, it is no matter of minutes.
+    QVERIFY2(zoneLookUps < kMembers / 10, qPrintable(QString::number(zoneLookUps)));
+    // A time of day is taken all the same.
+    QVERIFY(zoneLookUps > 0);
+}
+
+void tst_ConferenceUpdateCost::hostIsAskedTheSameOfEachMember()
+{
+    EngineFixture f;
+    f.createConference();
+    f.host.events.clear();
+    f.notify(12, update());
+    const QList<ReceivedEvent> events = f.host.events;
+    QCOMPARE(events.size(), 3 * kMembers);
+    for (int i = 0; i < kMembers; ++i) {
+        // For the row, then for the stranger's test.
+        const int wanted[] = {MSG_GET_FRIEND_INFO, MSG_GET_FRIEND_INFO, MSG_IS_EXIST_FRIEND};
+        for (int question = 0; question < 3; ++question) {
+            const ReceivedEvent &event = events.at(3 * i + question);
+            QCOMPARE(event.msgId, wanted[question]);
+            QCOMPARE(event.reader().take<QString>(), EngineFixture::jid(uid(i)));
+        }
+    }
+}
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_ConferenceUpdateCost, Widgets)
+#include "tst_ConferenceUpdateCost.moc"

@@ -1,0 +1,122 @@
+#include "model/UidIndex.h"
+
+#include <QStringList>
+#include <QTest>
+
+class tst_UidIndex : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void emptyListHoldsNothing();
+    void whatIsAppendedIsThere();
+    void idStaysUntilItsLastPlaceIsGone();
+    void removalTakesTheFirstPlace();
+    void changeMadeElsewhereIsNoticed_data();
+    void changeMadeElsewhereIsNoticed();
+    void copyOfTheListStaysAsItWas();
+    void listIsNeverCopiedWhole();
+};
+
+void tst_UidIndex::emptyListHoldsNothing()
+{
+    QStringList uids;
+    UidIndex index;
+    QVERIFY(!index.contains(uids, QStringLiteral("a")));
+    QVERIFY(!index.contains(uids, QString()));
+    QVERIFY(!index.removeOne(uids, QStringLiteral("a")));
+    QCOMPARE(uids, QStringList());
+}
+
+void tst_UidIndex::whatIsAppendedIsThere()
+{
+    QStringList uids;
+    UidIndex index;
+    index.append(uids, QStringLiteral("a"));
+    index.append(uids, QStringLiteral("b"));
+    QCOMPARE(uids, QStringList({"a", "b"}));
+    QVERIFY(index.contains(uids, QStringLiteral("a")));
+    QVERIFY(index.contains(uids, QStringLiteral("b")));
+    QVERIFY(!index.contains(uids, QStringLiteral("A")));
+}
+
+void tst_UidIndex::idStaysUntilItsLastPlaceIsGone()
+{
+    QStringList uids{"a", "b", "a"};
+    UidIndex index;
+    QVERIFY(index.removeOne(uids, QStringLiteral("a")));
+    QVERIFY(index.contains(uids, QStringLiteral("a")));
+    QVERIFY(index.removeOne(uids, QStringLiteral("a")));
+    QVERIFY(!index.contains(uids, QStringLiteral("a")));
+    QVERIFY(!index.removeOne(uids, QStringLiteral("a")));
+    QCOMPARE(uids, QStringList{"b"});
+}
+
+void tst_UidIndex::removalTakesTheFirstPlace()
+{
+    QStringList uids{"b", "a", "c", "a"};
+    UidIndex index;
+    QVERIFY(index.removeOne(uids, QStringLiteral("a")));
+    QCOMPARE(uids, QStringList({"b", "c", "a"}));
+}
+
+void tst_UidIndex::changeMadeElsewhereIsNoticed_data()
+{
+    QTest::addColumn<QStringList>("changed");
+    QTest::newRow("one more") << QStringList{"a", "b", "x"};
+    QTest::newRow("another in the place of one") << QStringList{"a", "x"};
+    QTest::newRow("another list") << QStringList{"x"};
+}
+
+void tst_UidIndex::changeMadeElsewhereIsNoticed()
+{
+    QFETCH(QStringList, changed);
+    const auto check = [&changed](UidIndex &index, const QStringList &uids) {
+        for (const char *uid : {"a", "b", "x"})
+            QCOMPARE(index.contains(uids, QLatin1String(uid)), changed.contains(QLatin1String(uid)));
+    };
+    QStringList uids{"a", "b"};
+    UidIndex index;
+    QVERIFY(index.contains(uids, QStringLiteral("b")));
+    uids = changed;
+    check(index, uids);
+
+    // In the list's own place in memory.
+    QStringList grown{"a"};
+    UidIndex other;
+    other.append(grown, QStringLiteral("b"));
+    grown.clear();
+    grown.append(changed);
+    check(other, grown);
+    QVERIFY(other.removeOne(grown, QStringLiteral("x")));
+    QVERIFY(!other.contains(grown, QStringLiteral("x")));
+}
+
+void tst_UidIndex::copyOfTheListStaysAsItWas()
+{
+    QStringList uids{"a"};
+    UidIndex index;
+    QVERIFY(index.contains(uids, QStringLiteral("a")));
+    const QStringList copy = uids;
+    index.append(uids, QStringLiteral("b"));
+    index.removeOne(uids, QStringLiteral("a"));
+    QCOMPARE(copy, QStringList{"a"});
+    QCOMPARE(uids, QStringList{"b"});
+}
+
+void tst_UidIndex::listIsNeverCopiedWhole()
+{
+    QStringList uids;
+    UidIndex index;
+    uids.reserve(100);
+    const auto place = uids.constBegin();
+    for (int i = 0; i < 100; ++i) {
+        QVERIFY(!index.contains(uids, QString::number(i)));
+        index.append(uids, QString::number(i));
+    }
+    QVERIFY(uids.constBegin() == place);
+}
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_UidIndex, Appless)
+#include "tst_UidIndex.moc"
