@@ -179,7 +179,7 @@ void tst_Replay::whatComesBehindTheLastLineIsTold_data()
     QTest::newRow("half a line") << QByteArray("send 17 true") << QByteArray("raw '{\"resultCode\":1'") << half;
     QTest::newRow("half a line where lines come in pieces")
         << QByteArray("split 10 1ms 17 true") << QByteArray("raw '{\"resultCode\":1'") << half;
-    QTest::newRow("log in two reads") << QByteArray("send 17 true") << QByteArray("split 10 10000ms 999 text")
+    QTest::newRow("log in two reads") << QByteArray("send 17 true") << QByteArray("split 10 1ms 999 text")
                                       << QString("a line came in more than one read");
 }
 
