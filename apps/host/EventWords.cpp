@@ -230,5 +230,5 @@ bool EventWords::isQuestion(EMsgId msgId)
 
 bool EventWords::isKnown(EMsgId msgId)
 {
-    return findHostEvent(msgId) != nullptr;
+    return isHostEvent(msgId);
 }
