@@ -2,11 +2,12 @@
 
 // The player of the incoming ring: one for the process, whatever number of engines it serves one after another.
 //
-// A player talks to the sound server in one thread and reads its file in another, both of Qt. Neither stands a player
-// that goes while they work: each one made and destroyed connects and disconnects a client of its own, and one that is
-// left alone when the process ends has both threads run on among destroyed statics, which crashes, hangs or prints
-// warnings. So the first engine makes it, no engine destroys it, and it goes with the application object, or, when that
-// stays, with this library, after both threads have ended.
+// A player talks to the sound server in one thread and reads its file in another, both of them Qt's. A process that
+// ends while the file is read has that thread run on among destroyed statics: it crashes, hangs or warns of an invalid
+// date. And each player that is made and destroyed starts both threads anew and connects a client of its own. So the
+// first engine makes the player, no engine destroys it, and it goes, with its threads waited for, together with the
+// application object; where that stays, with this library. The latter comes too late for a process that calls exit()
+// while the file is read.
 //
 // GUI thread only.
 
