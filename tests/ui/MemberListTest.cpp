@@ -84,13 +84,17 @@ void MemberListTest::doubleClick(int iRow, Qt::MouseButton button)
     QTest::mouseDClick(m_pList->viewport(), button, Qt::NoModifier, row(iRow).center());
 }
 
-int countPixels(const QImage &image, const QRect &place, const QColor &color)
+int countPixels(const QImage &image, const QRect &place, const QColor &color, int iEdge)
 {
+    const auto isIt = [&color, iEdge](const QColor &pixel) {
+        return qAbs(pixel.red() - color.red()) <= iEdge && qAbs(pixel.green() - color.green()) <= iEdge &&
+               qAbs(pixel.blue() - color.blue()) <= iEdge;
+    };
     const qreal dRatio = image.devicePixelRatio();
     int iCount = 0;
     for (int y = qRound(place.top() * dRatio); y < qRound((place.bottom() + 1) * dRatio); ++y) {
         for (int x = qRound(place.left() * dRatio); x < qRound((place.right() + 1) * dRatio); ++x)
-            iCount += image.pixelColor(x, y) == color ? 1 : 0;
+            iCount += isIt(image.pixelColor(x, y)) ? 1 : 0;
     }
     return iCount;
 }

@@ -55,4 +55,4 @@ private slots:
 };
 
 /// The number of an image's pixels in a rectangle of logical pixels that are exactly of this colour.
-int countPixels(const QImage &image, const QRect &place, const QColor &color);
+int countPixels(const QImage &image, const QRect &place, const QColor &color, int iEdge = 0);
