@@ -1,7 +1,6 @@
 #include "engine/CallRing.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QSound>
 
 #include <memory>
@@ -44,9 +43,7 @@ QSound *CallRing::player()
         made->setLoops(QSound::Infinite);
         held() = std::move(made);
         qAddPostRoutine(end);
-        // Made behind the first player, so that it goes before the statics which that has brought along, and behind the
-        // calendar, which the thread that reads the file asks for and which comes with the first date that is written.
-        const QString date = QDateTime::currentDateTime().toString(QStringLiteral("ddd"));
+        // Made behind the first player, so that it goes before the statics which that has brought along.
         static const EndWithLibrary s_end;
     }
     return held().get();

@@ -54,5 +54,6 @@ private slots:
     void cleanup();
 };
 
-/// The number of an image's pixels in a rectangle of logical pixels that are exactly of this colour.
+/// The number of an image's pixels in a rectangle of logical pixels that are of this colour, each channel off by
+/// `iEdge` at most.
 int countPixels(const QImage &image, const QRect &place, const QColor &color, int iEdge = 0);
