@@ -95,8 +95,7 @@ endfunction()
 # voip_add_test(name COMMAND ... [NEEDS target ...] [TIMEOUT s] [ENV ...] [LABELS ...]): runs the command as a test in a folder, a
 # home and a temporary directory of its own, so that sockets and files of two tests never meet. Where VOIP_TEST_SCREEN is set
 # it has a screen of its own as well, so that no other test's window covers its windows or moves its cursor; BARE is one
-# without a compositor. NEEDS are the
-# targets that `./test --only` builds for it; without them it builds everything.
+# without a compositor. NEEDS are the targets that `./test --only` builds for it; without them it builds everything.
 function(voip_add_test name)
   cmake_parse_arguments(ARG "" "TIMEOUT" "COMMAND;NEEDS;ENV;LABELS" ${ARGN})
   set(screen)

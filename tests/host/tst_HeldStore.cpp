@@ -30,7 +30,8 @@ void tst_HeldStore::heldStoreIsToldAndTriedAgain()
     settings->initData(ContactBook::ownUid());
     QVERIFY(QDir().mkpath(settings->m_strUserFolder));
     QVERIFY(QFile(settings->m_strDatabasePath).open(QIODevice::WriteOnly));
-    LockHolder holder(settings->m_strDatabasePath, QStringLiteral("BEGIN EXCLUSIVE"));
+    constexpr int HOLD = 120000;
+    LockHolder holder(settings->m_strDatabasePath, QStringLiteral("BEGIN EXCLUSIVE"), HOLD);
     QVERIFY(holder.hasHeld());
 
     // The store is opened before the module, which is not there.

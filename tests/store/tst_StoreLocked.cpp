@@ -9,7 +9,7 @@
 namespace {
 
 // Within the waiting of one open.
-constexpr int kShortHold = 800;
+constexpr int kShortHold = 300;
 
 // What keeps others from reading, and what keeps them from writing only.
 const QString everything = QStringLiteral("BEGIN EXCLUSIVE");
