@@ -221,10 +221,16 @@ void HtmlCost::addElement(const Element &element, const HtmlTag &tag)
         m_dCost += SIBLING_BEFORE * ++m_iElements * m_iSheetUnits;
     if ((element.kind == Code || element.kind == Pre) && element.strWritten == element.strName)
         m_dCost += CODE;
-    if (element.bHidden)
-        return;
+    if (!element.bHidden)
+        addShown(element, tag);
+}
+
+// What is hidden has no place in the text that Qt makes.
+void HtmlCost::addShown(const Element &element, const HtmlTag &tag)
+{
+    m_bUnevenCells = m_bUnevenCells || (element.kind == Table && !element.strKept.isEmpty());
     const bool bInTable = element.kind != Cell || !m_listGrid.isEmpty();
-    if (isBlock(element.kind) && element.kind != List && bInTable && !m_bSpans)
+    if (isBlock(element.kind) && element.kind != List && bInTable && !m_bUnevenCells)
         m_iBlockUnits = 0;
     if (element.kind == Item && !m_listItems.isEmpty())
         m_dCost += ITEM_BEFORE * ++m_listItems.last();
@@ -233,7 +239,7 @@ void HtmlCost::addElement(const Element &element, const HtmlTag &tag)
     if (element.kind == List)
         m_dCost += LIST;
     else if (element.kind == Table)
-        m_dCost += TABLE + TABLE_BEFORE * ++m_iTables + TABLE_LEVEL * dDepth;
+        m_dCost += TABLE + TABLE_BEFORE * ++m_iTables + TABLE_LEVEL * m_listOpen.size();
     else if (element.kind == Row)
         addRow();
     else if (element.kind == Cell)
@@ -268,7 +274,7 @@ void HtmlCost::addCell(const HtmlTag &tag)
         grid.iSpanned += iColumns;
     }
     if (iColumns > 1 || iRows > 1) {
-        m_bSpans = true;
+        m_bUnevenCells = true;
         m_dCost += SPANNING_CELL + SPANNED_PLACE * double(iColumns * iRows) + CELL_BEFORE * double(grid.iPlaces);
     }
     grid.iColumns = qMax(grid.iColumns, grid.iCells + grid.iSpanned);

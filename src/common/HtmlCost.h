@@ -106,6 +106,7 @@ private:
     void leaveTo(int iParent);
     int formatOf(const QString &strName, const QString &strKept);
     void addElement(const Element &element, const HtmlTag &tag);
+    void addShown(const Element &element, const HtmlTag &tag);
     void addRow();
     void addCell(const HtmlTag &tag);
     void addPlaces(Grid &grid);
@@ -126,6 +127,7 @@ private:
     int m_iPre = 0;
     bool m_bSiblings = false;
     bool m_bStyles = false;
-    bool m_bSpans = false;
+    // Whether a cell may have no place of its own, so that its text goes on in the block of another.
+    bool m_bUnevenCells = false;
     bool m_bAfterNameless = false;
 };
