@@ -38,14 +38,17 @@ MyRubberBand::MyRubberBand(Shape shape, QWidget *parent) : QRubberBand(shape, pa
 
 bool MyRubberBand::event(QEvent *event)
 {
+    const QEvent::Type type = event->type();
     const bool bHandled = QRubberBand::event(event);
+    // Behind any other event the band may be gone: a deferred deletion is one.
+    if (type != QEvent::Show && type != QEvent::Resize && type != QEvent::StyleChange)
+        return bHandled;
     if (!isWindow() || !isVisible())
         return bHandled;
-    if (event->type() == QEvent::Show)
+    if (type == QEvent::Show)
         m_bComposited = Compositor::isRunning();
     // After the base class, which puts the style's own mask on the band.
-    if (event->type() == QEvent::Show || event->type() == QEvent::Resize || event->type() == QEvent::StyleChange)
-        cutToTheBars();
+    cutToTheBars();
     return bHandled;
 }
 
