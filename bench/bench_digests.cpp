@@ -1,7 +1,7 @@
 // The digest of a file, in pieces of 4096 bytes: beside the bare hash over the same bytes in memory, which is the least
 // that a digest can cost, and beside the system's own programs, whose start counts too.
 
-#include "common/FileDigest.h"
+#include "common/digests/FileDigest.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>

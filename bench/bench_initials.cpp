@@ -1,7 +1,7 @@
 // The initials of a client's whole address book, beside the least that they can cost: the same names put into upper
 // case, and the bare look-up of each character in the table.
 
-#include "common/ChineseSpell.h"
+#include "common/text/ChineseSpell.h"
 
 #include <QStringList>
 

@@ -5,8 +5,8 @@
 
 #include "common/CLogManger.h"
 #include "common/CLogThread.h"
-#include "common/CustomLogData.h"
 #include "common/CustomLogger.h"
+#include "common/log/CustomLogData.h"
 #include "model/CommonData.h"
 #include "model/SharedContext.h"
 

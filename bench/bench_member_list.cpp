@@ -5,11 +5,11 @@
 
 #include "model/CommonData.h"
 #include "model/LoginData.h"
+#include "model/MemberRoles.h"
 #include "model/SharedContext.h"
 #include "model/UserIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
-#include "ui/MemberRoles.h"
 
 #include <QApplication>
 #include <QStandardItemModel>

@@ -1,10 +1,10 @@
 // A message's HTML on its way to the screen: links, plain text and image lists of ordinary messages and of hostile
 // ones, beside one bare pass of the link pattern over the same text. All are to grow with the text and no faster.
 
-#include "common/HtmlImages.h"
-#include "common/HtmlLinks.h"
-#include "common/MessageHtml.h"
-#include "common/PlainText.h"
+#include "common/html/HtmlImages.h"
+#include "common/html/HtmlLinks.h"
+#include "common/html/MessageHtml.h"
+#include "common/html/PlainText.h"
 
 #include <QApplication>
 #include <QRegExp>

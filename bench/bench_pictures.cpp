@@ -2,9 +2,9 @@
 // the same picture to that size, and the watermark, drawn and known already, beside a scale to the size of the screen
 // that is saved as well.
 
-#include "common/HeadImages.h"
-#include "common/NinePatch.h"
-#include "common/WaterMark.h"
+#include "common/pictures/HeadImages.h"
+#include "common/pictures/NinePatch.h"
+#include "common/pictures/WaterMark.h"
 #include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 

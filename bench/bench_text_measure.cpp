@@ -1,7 +1,7 @@
 // The width of a text in columns, asked at every key stroke of a limited edit: linear, and close to the least that a
 // walk over the text can cost, a count of one character.
 
-#include "common/TextMeasure.h"
+#include "common/text/TextMeasure.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,7 +1,7 @@
 // Long texts broken into lines: for a tip, for a view and for a label. All are to grow with the text and no faster.
 
-#include "common/LabelText.h"
-#include "common/ShortText.h"
+#include "common/text/LabelText.h"
+#include "common/text/ShortText.h"
 
 #include <QApplication>
 #include <QFontMetrics>

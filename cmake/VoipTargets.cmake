@@ -138,9 +138,9 @@ function(voip_test_needs name)
   set_property(GLOBAL APPEND_STRING PROPERTY VOIP_TEST_NEEDS "${row}\n")
 endfunction()
 
-# voip_tests(program CLASSES tst_A tst_B ... [SOURCES ...] LINKS ... [FOLDER ...]): the test program of that name in this room
-# (or in FOLDER), of the classes in tst_A.cpp, tst_B.cpp ... and what they share. Each class is a test of its own with a
-# process of its own.
+# voip_tests(program CLASSES tst_A topic/tst_B ... [SOURCES ...] LINKS ... [FOLDER ...]): the test program of that name in this
+# room (or in FOLDER), of the classes in tst_A.cpp, topic/tst_B.cpp ... and what they share. Each class is a test of its own
+# with a process of its own.
 function(voip_tests program)
   cmake_parse_arguments(ARG "" "FOLDER" "CLASSES;SOURCES;LINKS" ${ARGN})
   get_filename_component(room ${CMAKE_CURRENT_SOURCE_DIR} NAME)
@@ -156,7 +156,8 @@ function(voip_tests program)
   if(ARG_FOLDER)
     set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${ARG_FOLDER})
   endif()
-  foreach(class ${ARG_CLASSES})
+  foreach(source ${ARG_CLASSES})
+    get_filename_component(class ${source} NAME)
     voip_add_test(${class} COMMAND $<TARGET_FILE:${target}> ${class} NEEDS ${target})
   endforeach()
 endfunction()

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Writes src/common/ChineseInitials.cpp: the first letter of the Mandarin reading of each character U+4E00 to U+9FA5.
+"""Writes src/common/text/ChineseInitials.cpp: the first letter of the Mandarin reading of each character U+4E00 to U+9FA5.
 
 The common characters, the 3755 of the first level of GB 2312, stand in that standard in the order of their readings and
 take their letter from there: where a character has several readings, that is the one which people sort and search by.
@@ -39,7 +39,7 @@ OTHERS = {
 
 HEAD = """// Made by tools/make_initials.py from GB 2312 and Unicode's readings; not to be edited by hand.
 
-#include "common/ChineseSpell.h"
+#include "common/text/ChineseSpell.h"
 
 // clang-format off
 const QString strChineseFirstPY = QStringLiteral(

@@ -1,8 +1,8 @@
 #include "GlyphsPage.h"
 
-#include "common/IconFont.h"
-#include "common/IconGlyphs.h"
 #include "common/Palette.h"
+#include "common/pictures/IconFont.h"
+#include "common/pictures/IconGlyphs.h"
 
 #include <QLabel>
 

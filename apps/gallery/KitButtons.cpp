@@ -2,7 +2,7 @@
 
 #include "Sheet.h"
 
-#include "common/IconGlyphs.h"
+#include "common/pictures/IconGlyphs.h"
 #include "model/SkinContext.h"
 #include "widgets/IconButtonEx.h"
 #include "widgets/PushButtonEx.h"

@@ -2,8 +2,8 @@
 
 #include "Sheet.h"
 
-#include "common/IconFont.h"
-#include "common/IconGlyphs.h"
+#include "common/pictures/IconFont.h"
+#include "common/pictures/IconGlyphs.h"
 #include "model/SkinContext.h"
 #include "widgets/LineEditEx.h"
 #include "widgets/MenuEx.h"

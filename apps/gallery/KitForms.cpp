@@ -2,9 +2,9 @@
 
 #include "Sheet.h"
 
-#include "common/IconFont.h"
-#include "common/IconGlyphs.h"
 #include "common/Palette.h"
+#include "common/pictures/IconFont.h"
+#include "common/pictures/IconGlyphs.h"
 #include "model/SkinContext.h"
 #include "widgets/BaseFormEx.h"
 #include "widgets/CustomIconStyle.h"

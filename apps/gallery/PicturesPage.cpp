@@ -1,9 +1,9 @@
 #include "PicturesPage.h"
 
-#include "common/HeadImages.h"
-#include "common/NinePatch.h"
 #include "common/Palette.h"
-#include "common/WaterMark.h"
+#include "common/pictures/HeadImages.h"
+#include "common/pictures/NinePatch.h"
+#include "common/pictures/WaterMark.h"
 
 #include <QGridLayout>
 

@@ -1,10 +1,10 @@
 #include "GalleryPages.h"
 #include "GalleryUser.h"
 #include "GalleryWindow.h"
-#include "HostCatalogue.h"
-#include "HostLanguage.h"
 #include "PictureRun.h"
-#include "WindowFont.h"
+#include "client/HostCatalogue.h"
+#include "client/HostLanguage.h"
+#include "client/WindowFont.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

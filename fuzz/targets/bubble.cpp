@@ -1,8 +1,8 @@
 #include "FuzzTargets.h"
 
-#include "common/DigitText.h"
-#include "common/StyleText.h"
-#include "common/TextCompare.h"
+#include "common/text/DigitText.h"
+#include "common/text/StyleText.h"
+#include "common/text/TextCompare.h"
 #include "model/SysUIData.h"
 
 #include <QStringList>

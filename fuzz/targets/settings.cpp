@@ -1,11 +1,11 @@
 #include "FuzzTargets.h"
 
-#include "common/AccountMap.h"
 #include "common/AppInfo.h"
 #include "common/AppPaths.h"
 #include "common/CSettingsManager.h"
 #include "common/CUrlInfo.h"
-#include "common/ConfigFile.h"
+#include "common/settings/AccountMap.h"
+#include "common/settings/ConfigFile.h"
 #include "model/SystemSetData.h"
 
 #include <QCoreApplication>

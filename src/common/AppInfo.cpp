@@ -1,7 +1,7 @@
 #include "common/AppInfo.h"
 
 #include "common/AppPaths.h"
-#include "common/ConfigFile.h"
+#include "common/settings/ConfigFile.h"
 
 #include <QObject>
 #include <QSettings>

@@ -5,9 +5,9 @@
 // the process, made at the first statement and never destroyed. The host owns the log file and the thread; without them
 // records are dropped.
 
-#include "common/CustomLogData.h"
-#include "common/LogLocation.h"
 #include "common/LogUtils.h" // its separators are for every source that logs
+#include "common/log/CustomLogData.h"
+#include "common/log/LogLocation.h"
 
 #include <QObject>
 #include <QTextStream>

@@ -3,7 +3,7 @@
 // printLog and the two accessors of the logger may be called from any thread. The queue has no limit and drops nothing.
 // The host creates, starts, stops and destroys the object.
 
-#include "common/CustomLogData.h"
+#include "common/log/CustomLogData.h"
 
 #include <QList>
 #include <QMutex>

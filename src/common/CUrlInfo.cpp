@@ -1,7 +1,7 @@
 #include "common/CUrlInfo.h"
 
 #include "common/CSettingsManager.h"
-#include "common/LastingText.h"
+#include "common/text/LastingText.h"
 
 #include <QStringList>
 #include <QUrl>

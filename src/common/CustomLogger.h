@@ -4,7 +4,7 @@
 // never held across close() or reopen(). The host creates and owns the object. No failure is ever reported: a file that
 // cannot be opened makes the logger silent.
 
-#include "common/CustomLogData.h"
+#include "common/log/CustomLogData.h"
 
 #include <QMutex>
 #include <QString>

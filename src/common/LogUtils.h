@@ -2,7 +2,7 @@
 // The line format of the log file, the texts of the levels, texts made from the log templates, and the separators that
 // the client's other modules use. Any thread, but for getLogByTemplate. The constants live to the end of the process.
 
-#include "common/LastingText.h"
+#include "common/text/LastingText.h"
 
 /// Texts of the levels 1 to 6 as they stand in a log line.
 inline const QString &strLOG_TRACE = lastingText(QStringLiteral("TRACE"));

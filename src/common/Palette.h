@@ -3,7 +3,7 @@
 // The constants are created before the first use, in the order of this header, and never change: a style sheet is built
 // from colours that stand already. Any thread may read them; they live to the end of the process.
 
-#include "common/LastingText.h"
+#include "common/text/LastingText.h"
 
 // The colours, each "#rrggbb": the names and values stand in Palette.def.
 #define PALETTE_COLOUR(name, value) inline const QString &name = lastingText(QStringLiteral(value));

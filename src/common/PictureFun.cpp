@@ -2,7 +2,7 @@
 
 #include "common/AppPaths.h"
 #include "common/BuiltInPictures.h"
-#include "common/PictureFolders.h"
+#include "common/pictures/PictureFolders.h"
 #include "model/AvatarFiles.h"
 
 #include <QDir>

@@ -3,10 +3,10 @@
 #include "common/CLogManger.h"
 #include "engine/SdkLine.h"
 #include "engine/VoipManage.h"
+#include "model/MemberRoles.h"
 #include "plugin/StrangerCards.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "store/DBConfInfo.h"
-#include "ui/MemberRoles.h"
 #include "ui/VoiceConferenceWidget.h"
 #include "ui/VoipWidget.h"
 

@@ -1,6 +1,6 @@
 #include "engine/JsonText.h"
 
-#include "common/WholeNumber.h"
+#include "common/text/WholeNumber.h"
 
 #include <QStringList>
 

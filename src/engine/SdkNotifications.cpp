@@ -3,8 +3,8 @@
 #include "common/CLogManger.h"
 #include "engine/ConferenceDocument.h"
 #include "engine/VoipManage.h"
+#include "model/MemberRoles.h"
 #include "plugin/StrangerCards.h"
-#include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 #include "wire/Notifications.h"
 

@@ -1,7 +1,7 @@
 #include "model/SkinContext.h"
 
-#include "common/IconGlyphs.h"
 #include "common/Palette.h"
+#include "common/pictures/IconGlyphs.h"
 #include "model/SharedContext.h"
 
 #include <QObject>

@@ -1,6 +1,6 @@
 #include "model/SysUIData.h"
 
-#include "common/StyleText.h"
+#include "common/text/StyleText.h"
 
 #include <QStringList>
 

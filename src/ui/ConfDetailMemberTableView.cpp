@@ -1,13 +1,13 @@
 #include "ui/ConfDetailMemberTableView.h"
 
 #include "common/BuiltInPictures.h"
-#include "common/DpiScale.h"
-#include "common/ImagePath.h"
+#include "common/pictures/ImagePath.h"
+#include "common/system/DpiScale.h"
 #include "model/FriendData.h"
+#include "model/MemberRoles.h"
 #include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/ConfDetailTableViewDelegate.h"
-#include "ui/MemberRoles.h"
 #include "ui/SignCard.h"
 
 #include <QHeaderView>

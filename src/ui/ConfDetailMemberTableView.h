@@ -3,8 +3,8 @@
 // The members of a finished conference as a grid of heads and names, six to a row. It only shows; resting on a head
 // brings the member's signature card.
 //
-// All state of a cell lives in its item data (ui/MemberRoles.h). Part of the conference detail page, which owns it and
-// drives it. GUI thread only.
+// All state of a cell lives in its item data (model/MemberRoles.h). Part of the conference detail page, which owns it
+// and drives it. GUI thread only.
 
 #include <QList>
 #include <QMap>

@@ -1,8 +1,8 @@
 #include "ui/ConfDetailTableViewDelegate.h"
 
-#include "common/DpiScale.h"
-#include "common/HeadImages.h"
-#include "ui/MemberRoles.h"
+#include "common/pictures/HeadImages.h"
+#include "common/system/DpiScale.h"
+#include "model/MemberRoles.h"
 #include "ui/RowPainter.h"
 
 #include <QPainter>

@@ -1,7 +1,8 @@
 #pragma once
 
-// Paints the cells of the conference detail page's member grid from the item data of ui/MemberRoles.h, and writes back
-// into it where the head stands, which is how the grid's mouse handlers learn it. Owned by the grid; GUI thread only.
+// Paints the cells of the conference detail page's member grid from the item data of model/MemberRoles.h, and writes
+// back into it where the head stands, which is how the grid's mouse handlers learn it. Owned by the grid; GUI thread
+// only.
 
 #include "ui/HeadCache.h"
 

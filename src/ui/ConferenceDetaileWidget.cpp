@@ -1,9 +1,9 @@
 #include "ui/ConferenceDetaileWidget.h"
 
 #include "common/BuiltInPictures.h"
-#include "common/IconFont.h"
-#include "common/IconGlyphs.h"
-#include "common/ImagePath.h"
+#include "common/pictures/IconFont.h"
+#include "common/pictures/IconGlyphs.h"
+#include "common/pictures/ImagePath.h"
 #include "model/FriendData.h"
 #include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"

@@ -1,9 +1,9 @@
 #include "ui/ConferenceInfoItem.h"
 
-#include "common/DpiScale.h"
+#include "common/system/DpiScale.h"
+#include "model/MemberRoles.h"
 #include "store/DBConfInfo.h"
 #include "ui/ConferenceTexts.h"
-#include "ui/MemberRoles.h"
 
 #include <QSize>
 #include <QVariant>

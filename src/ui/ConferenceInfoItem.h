@@ -1,6 +1,6 @@
 #pragma once
 
-// A row of the conference history. It answers the roles of ui/MemberRoles.h out of the record's own texts, which the
+// A row of the conference history. It answers the roles of model/MemberRoles.h out of the record's own texts, which the
 // list has anyway, so that a history of a hundred thousand rows keeps nothing twice. The model owns it; GUI thread
 // only.
 

@@ -2,15 +2,15 @@
 
 #include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
-#include "common/ImagePath.h"
 #include "common/Palette.h"
-#include "common/ScreenPlace.h"
+#include "common/pictures/ImagePath.h"
+#include "common/system/ScreenPlace.h"
 #include "model/FriendData.h"
+#include "model/MemberRoles.h"
 #include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/ConferenceInfoItem.h"
 #include "ui/ConferenceInfoListViewDelegate.h"
-#include "ui/MemberRoles.h"
 #include "ui/SignCard.h"
 #include "widgets/MenuEx.h"
 

@@ -3,8 +3,8 @@
 // The history list of the conference centre: one row for each conference record with the creator's head and name, when
 // it was and how long it lasted.
 //
-// All state of a row lives in its item data (ui/MemberRoles.h). The right button opens a menu, resting on a head brings
-// the creator's signature card. Part of the conference centre, which owns it and drives it. GUI thread only.
+// All state of a row lives in its item data (model/MemberRoles.h). The right button opens a menu, resting on a head
+// brings the creator's signature card. Part of the conference centre, which owns it and drives it. GUI thread only.
 
 #include "store/DBConfInfo.h"
 

@@ -1,10 +1,10 @@
 #include "ui/ConferenceInfoListViewDelegate.h"
 
-#include "common/DpiScale.h"
-#include "common/IconGlyphs.h"
 #include "common/Palette.h"
+#include "common/pictures/IconGlyphs.h"
+#include "common/system/DpiScale.h"
+#include "model/MemberRoles.h"
 #include "ui/ConferenceTexts.h"
-#include "ui/MemberRoles.h"
 #include "ui/RowPainter.h"
 
 #include <QPainter>

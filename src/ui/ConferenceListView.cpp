@@ -2,16 +2,16 @@
 
 #include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
-#include "common/DpiScale.h"
-#include "common/ImagePath.h"
-#include "common/LocalClock.h"
 #include "common/Palette.h"
-#include "common/ShortText.h"
+#include "common/pictures/ImagePath.h"
+#include "common/system/DpiScale.h"
+#include "common/system/LocalClock.h"
+#include "common/text/ShortText.h"
 #include "model/FriendData.h"
+#include "model/MemberRoles.h"
 #include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/ConferenceListViewDelegate.h"
-#include "ui/MemberRoles.h"
 
 #include <QMouseEvent>
 #include <QScrollBar>

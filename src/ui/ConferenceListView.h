@@ -2,7 +2,7 @@
 
 // The member list of a running conference: one row for each member with head picture, name, creator mark and status.
 //
-// All state of a row lives in its item data (ui/MemberRoles.h). At the creator's side the list also runs the
+// All state of a row lives in its item data (model/MemberRoles.h). At the creator's side the list also runs the
 // watchdog that marks members who never answered. Part of the call window, which owns it and drives it. GUI thread
 // only.
 

@@ -1,9 +1,9 @@
 #include "ui/ConferenceListViewDelegate.h"
 
-#include "common/DpiScale.h"
-#include "common/IconGlyphs.h"
 #include "common/Palette.h"
-#include "ui/MemberRoles.h"
+#include "common/pictures/IconGlyphs.h"
+#include "common/system/DpiScale.h"
+#include "model/MemberRoles.h"
 #include "ui/RowPainter.h"
 
 #include <QPainter>

@@ -1,9 +1,9 @@
 #pragma once
 
-// Paints the rows of the conference member list from the item data of ui/MemberRoles.h, and writes back into it where
-// the row's buttons stand, which is how the list's mouse handlers learn it. Owned by the list; GUI thread only.
+// Paints the rows of the conference member list from the item data of model/MemberRoles.h, and writes back into it
+// where the row's buttons stand, which is how the list's mouse handlers learn it. Owned by the list; GUI thread only.
 
-#include "common/HeadImages.h"
+#include "common/pictures/HeadImages.h"
 #include "ui/HeadCache.h"
 #include "ui/LineCache.h"
 

@@ -1,7 +1,7 @@
 #include "ui/ConferenceTexts.h"
 
-#include "common/TimeText.h"
-#include "common/WholeNumber.h"
+#include "common/text/TimeText.h"
+#include "common/text/WholeNumber.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #include "ui/EdgeDrag.h"
 
-#include "common/DpiScale.h"
+#include "common/system/DpiScale.h"
 
 #include <cstdlib>
 

@@ -1,7 +1,7 @@
 #include "ui/RowPainter.h"
 
-#include "common/DpiScale.h"
-#include "common/IconFont.h"
+#include "common/pictures/IconFont.h"
+#include "common/system/DpiScale.h"
 #include "ui/LineCache.h"
 
 #include <QAbstractItemModel>

@@ -2,11 +2,11 @@
 
 #include "ui_VoiceConferenceWidget.h"
 
-#include "common/DpiScale.h"
-#include "common/IconFont.h"
-#include "common/IconGlyphs.h"
 #include "common/Palette.h"
-#include "common/ScreenPlace.h"
+#include "common/pictures/IconFont.h"
+#include "common/pictures/IconGlyphs.h"
+#include "common/system/DpiScale.h"
+#include "common/system/ScreenPlace.h"
 #include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "ui/EdgeDrag.h"

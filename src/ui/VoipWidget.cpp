@@ -1,18 +1,20 @@
+// The call window's call: what it shows of it, the buttons of its bar, and the one way in which it closes.
+
 #include "ui/VoipWidget.h"
 
 #include "ui_VoipWidget.h"
 
 #include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
-#include "common/IconGlyphs.h"
-#include "common/ImagePath.h"
-#include "common/TimeText.h"
+#include "common/pictures/IconGlyphs.h"
+#include "common/pictures/ImagePath.h"
+#include "common/text/TimeText.h"
 #include "model/FriendData.h"
 #include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "widgets/ErrorMessage.h"
 
-#include <QDebug>
+#include <QCloseEvent>
 #include <QEvent>
 #include <QSlider>
 
@@ -33,11 +35,6 @@ constexpr int cHoverFace = 0;
 constexpr int cPlainFace = 4;
 const QString cToggleColor = QStringLiteral("184,184,184");
 const QString cMuteAllColor = QStringLiteral("255, 96, 88");
-
-const char *boolText(bool bValue)
-{
-    return bValue ? "true" : "false";
-}
 
 // The name that a card shows in the call window. A card without any name gives an empty text.
 QString cardName(const VcardInfo &vcard)
@@ -64,6 +61,11 @@ QString speakerTip(bool bMute)
 }
 
 } // namespace
+
+void CVoipWidget::show()
+{
+    showNormal();
+}
 
 void CVoipWidget::setVoipCallInfo(QList<QString> userList, VoipType iType, bool bMyCall, bool bConnected)
 {
@@ -246,25 +248,6 @@ void CVoipWidget::changeEvent(QEvent *event)
         ui->btnChangeWindow->setToolTip(m_bFullScreen ? tr("restore") : tr("fullscreen"));
 }
 
-void CVoipWidget::SetMicEnable(bool bEnable)
-{
-    qDebug().noquote().nospace() << "SetMicEnable = " << boolText(bEnable);
-    emit signal_SetMicEnable(bEnable);
-}
-
-void CVoipWidget::SetSpeakerEnable(bool bEnable)
-{
-    // Deliberate: the microphone's words.
-    qDebug().noquote().nospace() << "SetMicEnable = " << boolText(bEnable);
-    emit signal_SetSpeakerEnable(bEnable);
-}
-
-void CVoipWidget::SetCamreraEnable(bool bEnable)
-{
-    qDebug().noquote().nospace() << "SetCamreraEnable = " << boolText(bEnable);
-    emit signal_SetCameraEnable(bEnable);
-}
-
 void CVoipWidget::slot_HangUpCall()
 {
     LOG_DEBUG << "click hangup button!"
@@ -338,4 +321,35 @@ void CVoipWidget::slot_CaptureButtonClicked()
     LOG_DEBUG << "click capture button!"
               << "\n";
     savePicture();
+}
+
+void CVoipWidget::closeEvent(QCloseEvent *event)
+{
+    ClearCallInfoData();
+    clearUI();
+    emit signal_HangupCurrentCall();
+    emit signal_ClearCallData();
+    QWidget::closeEvent(event);
+}
+
+void CVoipWidget::UserOffline()
+{
+    close();
+}
+
+void CVoipWidget::SetVoipCallHangUpMessage()
+{
+    ClearCallInfoData();
+}
+
+int CVoipWidget::GetCurrentCallStatus() const
+{
+    return m_iCallStatus;
+}
+
+QString CVoipWidget::GetCallTimeString(qulonglong iSeconds) const
+{
+    const auto twoDigits = [](qulonglong iPart) { return QStringLiteral("%1").arg(iPart, 2, 10, QLatin1Char('0')); };
+    return twoDigits(iSeconds / 3600) + QLatin1Char(':') + twoDigits(iSeconds / 60 % 60) + QLatin1Char(':') +
+           twoDigits(iSeconds % 60);
 }

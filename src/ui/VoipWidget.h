@@ -120,7 +120,7 @@ public:
     /// The members of the list (uids) could not be called. An empty list changes nothing.
     void setaddConfFailedList(QList<QString> list);
 
-    /// Sets one member's status code (see ui/MemberRoles.h). An unknown uid is ignored.
+    /// Sets one member's status code (see model/MemberRoles.h). An unknown uid is ignored.
     void updateConferenceUserStatus(QString strUserID, qlonglong iStatus);
 
     /// A contact's card arrived. A conference hands it to the member list; otherwise it counts only when `strJid` is

@@ -1,18 +1,39 @@
-// The call window's construction: the form, the look of its parts, and what its controls are connected to.
+// The call window's parts: the form and its look, what its controls are connected to, the volume sliders, the video and
+// its snapshot.
+//
+// Nothing shows a slider or starts its timer; the wiring is complete all the same, and the clicks on the two buttons
+// hide the sliders.
 
 #include "ui/VoipWidget.h"
 
 #include "ui_VoipWidget.h"
 
-#include "common/DpiScale.h"
-#include "common/IconGlyphs.h"
+#include "common/pictures/IconGlyphs.h"
+#include "common/pictures/PictureNames.h"
+#include "common/system/DpiScale.h"
 #include "ui/CallWindowStyle.h"
 #include "ui/EdgeDrag.h"
 #include "widgets/MyRubberBand.h"
 
+#include <QDateTime>
+#include <QDebug>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPixmap>
 #include <QSlider>
+#include <QStandardPaths>
 
 namespace {
+
+constexpr QSize cSliderSize(50, 152);
+constexpr int cHighestVolume = 10;
+constexpr int cFirstVolume = 5;
+
+const char *boolText(bool bValue)
+{
+    return bValue ? "true" : "false";
+}
 
 /// A timer that is a member is found by name like the parts of the form.
 void giveName(QTimer &timer, QObject *pOwner, const QString &strName)
@@ -100,4 +121,111 @@ void CVoipWidget::connectConferenceControls()
     connect(ui->listView, SIGNAL(signal_RemoveUser(QString)), this, SLOT(slot_RemoveConferenceMember(QString)));
     connect(ui->listView, SIGNAL(signal_MuteUser(QString, bool)), this, SLOT(slot_MuteConferenceMember(QString, bool)));
     connect(ui->listView, SIGNAL(signal_ReInviteConfUser(QString)), this, SLOT(slot_ReInviteConfUser(QString)));
+}
+
+QSlider *CVoipWidget::newVolumeSlider()
+{
+    auto *pSlider = new QSlider(Qt::Vertical, this);
+    pSlider->setMouseTracking(false);
+    pSlider->resize(cSliderSize);
+    pSlider->setRange(0, cHighestVolume);
+    pSlider->setValue(cFirstVolume);
+    pSlider->hide();
+    pSlider->installEventFilter(this);
+    return pSlider;
+}
+
+void CVoipWidget::SetVoipMicVolume(qlonglong iVolume)
+{
+    m_iMicVolume = static_cast<int>(iVolume);
+    SetMicVolume(iVolume);
+}
+
+void CVoipWidget::SetVoipSpeakerVolume(qlonglong iVolume)
+{
+    m_iSpeakerVolume = static_cast<int>(iVolume);
+    SetSpeakerVolume(iVolume);
+}
+
+void CVoipWidget::SetMicVolume(qlonglong iVolume)
+{
+    qDebug().noquote().nospace() << "SetMicVolume = " << iVolume;
+    emit signal_SetMicVolume(iVolume);
+}
+
+void CVoipWidget::SetSpeakerVolume(qlonglong iVolume)
+{
+    qDebug().noquote().nospace() << "SetSpeakerVolume = " << iVolume;
+    emit signal_SetSpeakerVolume(iVolume);
+}
+
+void CVoipWidget::slot_MicVolumChanged(int iVolum)
+{
+    m_iMicVolume = iVolum;
+    SetMicVolume(iVolum);
+}
+
+void CVoipWidget::slot_SpeakerVolumChanged(int iVolum)
+{
+    m_iSpeakerVolume = iVolum;
+    SetSpeakerVolume(iVolum);
+}
+
+void CVoipWidget::slot_MicSilderHide()
+{
+    m_micSliderTimer.stop();
+    m_pMicSlider->hide();
+}
+
+void CVoipWidget::slot_SpeakerSilderHide()
+{
+    m_speakerSliderTimer.stop();
+    m_pSpeakerSlider->hide();
+}
+
+void CVoipWidget::SetMicEnable(bool bEnable)
+{
+    qDebug().noquote().nospace() << "SetMicEnable = " << boolText(bEnable);
+    emit signal_SetMicEnable(bEnable);
+}
+
+void CVoipWidget::SetSpeakerEnable(bool bEnable)
+{
+    // Deliberate: the microphone's words.
+    qDebug().noquote().nospace() << "SetMicEnable = " << boolText(bEnable);
+    emit signal_SetSpeakerEnable(bEnable);
+}
+
+void CVoipWidget::SetCamreraEnable(bool bEnable)
+{
+    qDebug().noquote().nospace() << "SetCamreraEnable = " << boolText(bEnable);
+    emit signal_SetCameraEnable(bEnable);
+}
+
+QWidget *CVoipWidget::getWebEngineView() const
+{
+    return nullptr;
+}
+
+void CVoipWidget::addVoipWidget(QWidget *pWidget)
+{
+    if (pWidget != nullptr)
+        ui->WebViewLayout->addWidget(pWidget);
+}
+
+void CVoipWidget::savePicture()
+{
+    // Deliberate: the place in the parent, not the widget's own rectangle.
+    const QPixmap picture = ui->playFramWidget->grab(ui->playFramWidget->geometry());
+    const QString strDefault =
+        QStandardPaths::writableLocation(QStandardPaths::DesktopLocation) + QLatin1Char('/') + tr("tarvoPhoto") +
+        QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMddhhmmsszzz")) + QStringLiteral(".jpg");
+    const QString strPath = QFileDialog::getSaveFileName(nullptr, tr("savepic"), strDefault,
+                                                         PictureNames::getPicSaveSuffixes(QStringLiteral(".jpg")));
+    if (strPath.isEmpty())
+        return;
+    const QFileInfo file(strPath);
+    if (file.exists())
+        file.absoluteDir().remove(file.fileName());
+    picture.save(strPath);
 }

@@ -2,7 +2,7 @@
 
 #include "ui_BaseFormEx.h"
 
-#include "common/DpiScale.h"
+#include "common/system/DpiScale.h"
 #include "model/SkinContext.h"
 #include "widgets/QtWin.h"
 

@@ -2,9 +2,9 @@
 
 #include "ui_ErrorMessage.h"
 
-#include "common/DpiScale.h"
-#include "common/IconGlyphs.h"
-#include "common/TextMeasure.h"
+#include "common/pictures/IconGlyphs.h"
+#include "common/system/DpiScale.h"
+#include "common/text/TextMeasure.h"
 #include "widgets/TextLimit.h"
 
 #include <QClipboard>

@@ -2,9 +2,9 @@
 
 #include "ui_IconButtonEx.h"
 
-#include "common/DpiScale.h"
-#include "common/IconFont.h"
 #include "common/Palette.h"
+#include "common/pictures/IconFont.h"
+#include "common/system/DpiScale.h"
 #include "model/SkinContext.h"
 #include "model/SysUIData.h"
 

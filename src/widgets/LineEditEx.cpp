@@ -2,10 +2,10 @@
 
 #include "ui_LineEditEx.h"
 
-#include "common/DpiScale.h"
-#include "common/IconGlyphs.h"
 #include "common/Palette.h"
-#include "common/TextMeasure.h"
+#include "common/pictures/IconGlyphs.h"
+#include "common/system/DpiScale.h"
+#include "common/text/TextMeasure.h"
 #include "model/SkinContext.h"
 #include "widgets/IconButtonEx.h"
 #include "widgets/PlaceholderColor.h"

@@ -1,7 +1,7 @@
 #include "widgets/MenuEx.h"
 
-#include "common/DpiScale.h"
 #include "common/Palette.h"
+#include "common/system/DpiScale.h"
 
 #include <QMouseEvent>
 

@@ -1,7 +1,7 @@
 #include "widgets/TextEditEx.h"
 
-#include "common/DpiScale.h"
 #include "common/Palette.h"
+#include "common/system/DpiScale.h"
 #include "model/SkinContext.h"
 #include "widgets/MenuEx.h"
 #include "widgets/PlaceholderColor.h"

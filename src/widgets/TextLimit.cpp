@@ -1,7 +1,7 @@
 #include "widgets/TextLimit.h"
 
-#include "common/SurrogatePairs.h"
-#include "common/TextMeasure.h"
+#include "common/text/SurrogatePairs.h"
+#include "common/text/TextMeasure.h"
 
 namespace {
 

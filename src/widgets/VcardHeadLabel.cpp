@@ -1,8 +1,8 @@
 #include "widgets/VcardHeadLabel.h"
 
 #include "common/BuiltInPictures.h"
-#include "common/HeadImages.h"
-#include "common/ImagePath.h"
+#include "common/pictures/HeadImages.h"
+#include "common/pictures/ImagePath.h"
 
 VcardHeadLabel::VcardHeadLabel(QWidget *parent) : QLabel(parent) {}
 

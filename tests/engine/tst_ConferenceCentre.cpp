@@ -1,10 +1,10 @@
 // The conference centre in the engine's hands: opened, fed, closed and opened again, over the user's store.
 
 #include "engine/RecordedEngine.h"
+#include "model/MemberRoles.h"
 #include "plugin/EMsgId.h"
 #include "store/DBConfInfo.h"
 #include "ui/ConferenceInfoListView.h"
-#include "ui/MemberRoles.h"
 #include "ui/VoiceConferenceWidget.h"
 #include "widgets/MenuEx.h"
 

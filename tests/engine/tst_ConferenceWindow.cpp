@@ -1,8 +1,8 @@
 // What the member list of the call window shows of each event of a conference.
 
 #include "fakes/EngineFixture.h"
+#include "model/MemberRoles.h"
 #include "ui/ConferenceListView.h"
-#include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QAbstractItemModel>

@@ -1,10 +1,10 @@
 #include "fakes/EngineFixture.h"
 
 #include "fakes/QtMessages.h"
+#include "model/MemberRoles.h"
 #include "model/SharedContext.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
-#include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "flow/ScenarioRows.h"
 
+#include "model/MemberRoles.h"
 #include "ui/ConferenceListView.h"
-#include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 namespace {

@@ -2,10 +2,10 @@
 
 #include "fakes/ClickTarget.h"
 #include "fakes/Patience.h"
+#include "model/MemberRoles.h"
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
-#include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QCoreApplication>

@@ -9,9 +9,9 @@
 
 #include "fakes/MessageBoxes.h"
 #include "flow/FlowClient.h"
+#include "model/MemberRoles.h"
 #include "model/SharedContext.h"
 #include "store/DB.h"
-#include "ui/MemberRoles.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -8,7 +8,7 @@
 #include "GlyphsPage.h"
 #include "WidgetsPage.h"
 
-#include "common/IconGlyphs.h"
+#include "common/pictures/IconGlyphs.h"
 #include "model/AvatarFiles.h"
 #include "widgets/BaseFormEx.h"
 #include "widgets/ErrorMessage.h"

@@ -3,9 +3,9 @@
 #include "ComparedPicture.h"
 #include "Ink.h"
 #include "PictureSetting.h"
+#include "model/MemberRoles.h"
 #include "ui/ConferenceListView.h"
 #include "ui/ContactFixture.h"
-#include "ui/MemberRoles.h"
 #include "ui/RowPainter.h"
 #include "ui/VoipWidget.h"
 

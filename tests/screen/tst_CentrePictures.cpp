@@ -3,8 +3,8 @@
 #include "ComparedPicture.h"
 #include "Ink.h"
 #include "PictureSetting.h"
+#include "model/MemberRoles.h"
 #include "ui/ContactFixture.h"
-#include "ui/MemberRoles.h"
 #include "ui/RealCursor.h"
 #include "ui/VoiceConferenceWidget.h"
 

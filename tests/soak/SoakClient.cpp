@@ -5,8 +5,8 @@
 #include "common/CLogManger.h"
 #include "common/CustomLogger.h"
 #include "fakes/ClickTarget.h"
+#include "model/MemberRoles.h"
 #include "store/DB.h"
-#include "ui/MemberRoles.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "CallProcess.h"
-#include "CallRecord.h"
-#include "ContactBook.h"
-#include "HostSession.h"
+#include "client/CallProcess.h"
+#include "client/CallRecord.h"
+#include "client/ContactBook.h"
+#include "client/HostSession.h"
 #include "soak/UndeletedEvents.h"
 
 #include <QString>

@@ -2,8 +2,8 @@
 
 #include "soak/SoakClient.h"
 
+#include "model/MemberRoles.h"
 #include "robots/RobotIds.h"
-#include "ui/MemberRoles.h"
 
 #include <QDeadlineTimer>
 #include <QTime>

@@ -1,79 +1,98 @@
 #!/usr/bin/env python3
-"""Checks the floors of src/: an include never runs upwards, no files include each other in a circle, and the call process
-and the checker take nothing of the plug-in but the words of the wire."""
+"""Checks that the house has floors: by what CMake knows of the targets, so that nothing is typed twice.
 
+Usage: includes_run_downwards.py SOURCE PARTS
+PARTS has a line "target NAME" for each target of src/ and apps/, behind it its lines "source PATH" and "link NAME". Every file
+there belongs to a target and includes only files of its own target and of those that this links; no targets link each other in
+a circle, and no files include each other in one.
+"""
+
+import collections
 import pathlib
 import re
 import sys
 
-FLOORS = ["common and wire", "model", "front", "store and passport", "widgets and host requests", "ui", "engine", "plugin"]
-
-FOLDER_FLOOR = {
-    "common": 0, "wire": 0, "model": 1, "store": 3, "passport": 3, "widgets": 4, "ui": 5, "engine": 6, "plugin": 7,
-}
-
-# Files that stand on another floor than their folder: the front of the common code, and the plug-in's side of what is
-# asked of the host, which windows and engine use.
-FILE_FLOOR = {
-    "common/CommonFun": 2, "common/CLogManger": 2, "common/FileIcons": 2, "common/HeadImages": 2,
-    "common/HtmlImages": 2, "common/IconFont": 2, "common/ImagePath": 2, "common/MessageHtml": 2,
-    "common/PictureFolders": 2, "common/PictureFun": 2, "common/PictureNames": 2, "common/WaterMark": 2,
-    "plugin/BaseEvent": 4, "plugin/EMsgId": 4, "plugin/EventPayload": 4, "plugin/HostCommands": 4,
-    "plugin/HostEvents": 4, "plugin/HostRequests": 4, "plugin/PluginIds": 4, "plugin/PluginInterface": 4, "plugin/StrangerCards": 4,
-    "plugin/VoipManageEventProcess": 4, "plugin/VoipManageMessageProcess": 4,
-}
-
-# The programs that stand at the other end of the wire.
-FAR_END = ["callprocess", "callcheck", "robots"]
-
 INCLUDE = re.compile(r'^\s*#include "([^"]+)"', re.MULTILINE)
+ENDINGS = (".h", ".cpp", ".def")
 
 
-def floor_of(name):
-    return FILE_FLOOR.get(name.rsplit(".", 1)[0], FOLDER_FLOOR[name.split("/")[0]])
+def read_parts(path):
+    """The targets' sources and links, by the name of the target."""
+    sources, links = collections.defaultdict(set), collections.defaultdict(set)
+    target = None
+    for line in path.read_text(encoding="utf-8").splitlines():
+        kind, _, value = line.partition(" ")
+        if kind == "target":
+            target = value
+            sources[target], links[target] = set(), set()
+        elif kind == "source":
+            sources[target].add(pathlib.Path(value))
+        else:
+            links[target].add(value)
+    return sources, links
 
 
-def circle_from(start, graph):
-    """A list of files that leads from `start` back to it, or None."""
-    stack, seen = [(start, [start])], set()
+def reached_from(start, graph):
+    """Everything that the arrows of `graph` lead to from `start`."""
+    stack, seen = [start], set()
     while stack:
-        name, road = stack.pop()
-        for target in graph.get(name, ()):
-            if target == start:
-                return road + [start]
+        for target in graph.get(stack.pop(), ()):
             if target not in seen:
                 seen.add(target)
-                stack.append((target, road + [target]))
-    return None
+                stack.append(target)
+    return seen
 
 
-def taken_too_much(src):
-    """What the programs of the far end include of src/ besides wire/."""
-    apps = src.parent / "apps"
-    for path in sorted(p for folder in FAR_END for p in (apps / folder).rglob("*") if p.suffix in (".h", ".cpp", ".def")):
-        for target in INCLUDE.findall(path.read_text(encoding="utf-8")):
-            if (src / target).is_file() and not target.startswith("wire/"):
-                yield f"{path.relative_to(apps.parent)} includes {target}, which is the plug-in's own"
+def circles(graph):
+    """A road from each name that leads back to itself, one for each circle."""
+    told = set()
+    for start in sorted(graph):
+        stack = [[start]]
+        seen = set()
+        while stack and start not in told:
+            road = stack.pop()
+            for target in sorted(graph.get(road[-1], ())):
+                if target == start:
+                    told.update(road)
+                    yield [*road, start]
+                    break
+                if target not in seen:
+                    seen.add(target)
+                    stack.append([*road, target])
+
+
+def includes_among(files, root):
+    """For each of the files those of them that it includes: by its own folder, from src/ and apps/ or a program's folder."""
+    folders = [root / "src", root / "apps", *sorted(path for path in (root / "apps").iterdir() if path.is_dir())]
+    return {
+        file: {found for name in INCLUDE.findall(file.read_text(encoding="utf-8"))
+               if (found := next((road / name for road in (file.parent, *folders) if road / name in files), None))}
+        for file in files
+    }
 
 
 def main():
-    src = pathlib.Path(sys.argv[1])
-    files = sorted(p.relative_to(src).as_posix() for p in src.rglob("*") if p.suffix in (".h", ".cpp", ".def"))
-    graph = {}
-    for name in files:
-        targets = INCLUDE.findall((src / name).read_text(encoding="utf-8"))
-        graph[name] = [t for t in targets if t in files]
-    problems = [
-        f"{name} ({FLOORS[floor_of(name)]}) includes {target} ({FLOORS[floor_of(target)]}), which stands above it"
-        for name, targets in graph.items() for target in targets if floor_of(target) > floor_of(name)
+    root = pathlib.Path(sys.argv[1])
+    sources, links = read_parts(pathlib.Path(sys.argv[2]))
+    files = {path for folder in ("src", "apps") for path in (root / folder).rglob("*") if path.suffix in ENDINGS}
+    owners = {file: {target for target in sources if file in sources[target]} for file in files}
+    graph = includes_among(files, root)
+    within = {target: {target} | reached_from(target, links) for target in sources}
+
+    problems = [f"{file.relative_to(root)} belongs to no target" for file in sorted(files) if not owners[file]]
+    for file in sorted(files):
+        for target in sorted(owners[file]):
+            problems += [
+                f"{file.relative_to(root)} ({target}) includes {found.relative_to(root)}, whose {'/'.join(sorted(owners[found]))} it"
+                " does not link" for found in sorted(graph[file]) if owners[found] and not owners[found] & within[target]
+            ]
+    problems += [f"circle of targets: {' > '.join(road)}" for road in circles(links)]
+    problems += [
+        f"circle of files: {' > '.join(str(file.relative_to(root)) for file in road)}" for road in circles(graph)
     ]
-    problems += [f"circle: {' > '.join(road)}" for road in filter(None, (circle_from(f, graph) for f in files))]
-    stale = [name for name in FILE_FLOOR if not any(f.startswith(name + ".") for f in files)]
-    problems += [f"{name} has a floor of its own but does not exist" for name in stale]
-    problems += taken_too_much(src)
-    if not files:
+    if not files or not any(graph.values()):
         problems.append("no sources found")
-    print("\n".join(problems) or f"{len(files)} files, every include runs downwards")
+    print("\n".join(problems) or f"{len(files)} files of {len(sources)} targets, every include runs downwards")
     return 1 if problems else 0
 
 

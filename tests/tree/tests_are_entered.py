@@ -2,7 +2,7 @@
 """Checks that no test is forgotten, and that the test classes of one program do not get into each other's way.
 
 Usage: tests_are_entered.py SOURCE BUILD
-Every tests/*/tst_X.cpp enters its class into a program by VOIP_TEST and has no main function, and ctest runs the class once
+Every tst_X.cpp of tests/ enters its class into a program by VOIP_TEST and has no main function, and ctest runs the class once
 under its name. A type of a room's sources has its name to itself, since the linker takes two types of one name for one;
 in a namespace without name it may have any.
 """
@@ -54,7 +54,7 @@ def complaints_about_types(tests):
     for room in rooms:
         places = collections.defaultdict(set)
         for folder in (room, *(tests / name for name in SHARED)):
-            for source in (*folder.glob("*.h"), *folder.glob("*.cpp")):
+            for source in (*folder.rglob("*.h"), *folder.rglob("*.cpp")):
                 for name in types_of(source):
                     places[name].add(str(source.relative_to(tests)))
         for name, sources in sorted(places.items()):
@@ -64,7 +64,7 @@ def complaints_about_types(tests):
 
 def main():
     tests, build = pathlib.Path(sys.argv[1]) / "tests", sys.argv[2]
-    sources = sorted(tests.glob("*/tst_*.cpp"))
+    sources = sorted(tests.rglob("tst_*.cpp"))
     run = classes_of_ctest(build)
     complaints = [complaint for source in sources for complaint in complaints_about(source)]
     complaints += [f"{source}: ctest runs it {run[source.stem]} times" for source in sources if run[source.stem] != 1]

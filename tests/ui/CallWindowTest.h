@@ -4,11 +4,11 @@
 // name, all that it sends, and what it logs. Derive the test class from it. GUI thread.
 
 #include "ContactFixture.h"
-#include "common/IconGlyphs.h"
+#include "common/pictures/IconGlyphs.h"
 #include "fakes/ClickTarget.h"
 #include "fakes/LogCapture.h"
+#include "model/MemberRoles.h"
 #include "ui/ConferenceListView.h"
-#include "ui/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QLabel>

@@ -1,9 +1,9 @@
 #include "CentreTest.h"
 
 #include "ShippedFiles.h"
+#include "model/MemberRoles.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "store/DB.h"
-#include "ui/MemberRoles.h"
 
 #include <QPushButton>
 #include <QStackedWidget>

@@ -5,8 +5,8 @@
 
 #include "ContactFixture.h"
 #include "fakes/FakeHost.h"
+#include "model/MemberRoles.h"
 #include "ui/ConferenceInfoListView.h"
-#include "ui/MemberRoles.h"
 #include "widgets/MenuEx.h"
 
 #include <QImage>

@@ -6,9 +6,9 @@
 #include "ContactFixture.h"
 #include "ShippedFiles.h"
 #include "fakes/FakeHost.h"
+#include "model/MemberRoles.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConfDetailMemberTableView.h"
-#include "ui/MemberRoles.h"
 
 #include <QMouseEvent>
 #include <QTest>

@@ -4,8 +4,8 @@
 // rows' data and places, and its picture. Derive the test class from it. GUI thread.
 
 #include "ContactFixture.h"
+#include "model/MemberRoles.h"
 #include "ui/ConferenceListView.h"
-#include "ui/MemberRoles.h"
 
 #include <QImage>
 #include <QTest>

@@ -2,7 +2,7 @@
 // screen shows it.
 
 #include "ContactFixture.h"
-#include "ScreenPointer.h"
+#include "screen/ScreenPointer.h"
 #include "ui/VoipWidget.h"
 #include "widgets/MyRubberBand.h"
 

@@ -1,7 +1,7 @@
 // The conference centre's form: names, sizes, texts, styles, signals and slots.
 
 #include "CentreTest.h"
-#include "common/IconFont.h"
+#include "common/pictures/IconFont.h"
 #include "widgets/BaseFormEx.h"
 #include "widgets/IconButtonEx.h"
 

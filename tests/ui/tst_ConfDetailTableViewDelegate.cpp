@@ -6,9 +6,9 @@
 #include "PaintedPicture.h"
 #include "ShippedFiles.h"
 #include "common/BuiltInPictures.h"
+#include "model/MemberRoles.h"
 #include "ui/ConfDetailMemberTableView.h"
 #include "ui/ConfDetailTableViewDelegate.h"
-#include "ui/MemberRoles.h"
 
 #include <QBitmap>
 #include <QPainter>

@@ -3,13 +3,13 @@
 #include "ContactFixture.h"
 #include "PaintedPicture.h"
 #include "ShippedFiles.h"
-#include "common/IconFont.h"
+#include "common/pictures/IconFont.h"
 #include "fakes/FakeHost.h"
+#include "model/MemberRoles.h"
 #include "model/SharedContext.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConfDetailMemberTableView.h"
 #include "ui/ConferenceDetaileWidget.h"
-#include "ui/MemberRoles.h"
 #include "widgets/VcardHeadLabel.h"
 
 #include <QBoxLayout>

@@ -4,7 +4,7 @@
 #include "HistoryListTest.h"
 #include "PaintedPicture.h"
 
-#include "common/IconFont.h"
+#include "common/pictures/IconFont.h"
 
 #include <QBitmap>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "ui/HeadCache.h"
 
-#include "common/PictureFile.h"
+#include "common/pictures/PictureFile.h"
 
 #include <QDateTime>
 #include <QFile>

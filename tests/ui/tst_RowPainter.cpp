@@ -1,6 +1,6 @@
 #include "ui/RowPainter.h"
 
-#include "common/IconFont.h"
+#include "common/pictures/IconFont.h"
 #include "ui/LineCache.h"
 
 #include <QFontMetrics>

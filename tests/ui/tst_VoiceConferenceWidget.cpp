@@ -2,9 +2,9 @@
 
 #include "CentreTest.h"
 #include "RealCursor.h"
+#include "model/MemberRoles.h"
 #include "plugin/EMsgId.h"
 #include "store/DB.h"
-#include "ui/MemberRoles.h"
 #include "widgets/MenuEx.h"
 
 #include <QAbstractScrollArea>

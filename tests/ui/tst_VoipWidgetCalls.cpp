@@ -2,7 +2,7 @@
 
 #include "ContactFixture.h"
 #include "ShownCall.h"
-#include "ui/MemberRoles.h"
+#include "model/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
 #include <QDateTime>

@@ -1,4 +1,4 @@
-#include "common/IconFont.h"
+#include "common/pictures/IconFont.h"
 #include "widgets/IconButtonTest.h"
 
 #include "common/Palette.h"

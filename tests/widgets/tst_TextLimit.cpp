@@ -1,6 +1,6 @@
 #include "widgets/TextLimit.h"
 
-#include "common/TextMeasure.h"
+#include "common/text/TextMeasure.h"
 
 #include <QTest>
 

@@ -1,7 +1,0 @@
-#pragma once
-
-#include "TourSteps.h"
-
-/// The steps in the conference centre: looks at the conferences that the tour has held, calls its own one again and
-/// deletes it. They follow the conference steps, whose records they find: two, the older one the user's own.
-QList<TourStep> centreSteps(const TourStage &stage);

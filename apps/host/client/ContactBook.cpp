@@ -1,0 +1,161 @@
+#include "client/ContactBook.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace {
+
+struct Row
+{
+    const char *uid;
+    const char *nick;
+    const char *alternative;
+    const char *signature;
+    bool known;
+    Presence presence;
+    const char *photo;
+};
+
+// The robots of the stand-in call process, in the order of their ids.
+constexpr Row rows[] = {
+    {Robots::answers, "李雷", "Answers", "学而时习之，不亦说乎", true, Presence::Online, "1.jpg"},
+    {Robots::busy, "Maria Silva", "Busy", "Back in five minutes", true, Presence::Busy, "15.jpg"},
+    {Robots::rejects, "王芳", "Rejects", "Please write instead", true, Presence::Online, "11.jpg"},
+    {Robots::silent, "Tom Baker", "Never answers", "Counting clouds", true, Presence::Away, "10.jpg"},
+    {Robots::fails, "赵强", "Call fails", "出差中，下周回来", true, Presence::Offline, "7.jpg"},
+    {Robots::hangsUp, "Anna Novak", "Hangs up after 10 s", "Short and sweet", true, Presence::Online, "6.jpg"},
+    {Robots::callsBack, "韩梅梅", "Calls you back", "", false, Presence::Online, "9.jpg"},
+    {Robots::invites, "Ivan Petrov", "Invites you", "One meeting a day keeps the mail away", true, Presence::Online,
+     "19.jpg"},
+    {Robots::comesBack, "林涛", "Leaves and returns", "去去就来", true, Presence::Online, "4.jpg"},
+    {Robots::crosses, "Sara Klein", "Invites, lines crossed", "Crossing the streams", true, Presence::Online, "17.jpg"},
+};
+
+constexpr bool everyRobotIsThere()
+{
+    std::size_t place = 0;
+    for (const Row &row : rows) {
+        if (place == Robots::kIds.size() || row.uid != std::string_view(Robots::kIds.at(place++))) {
+            return false;
+        }
+    }
+    return place == Robots::kIds.size();
+}
+static_assert(everyRobotIsThere(), "a robot that is in nobody's list of contacts");
+
+constexpr const char *ownName = "小明";
+constexpr const char *ownAlternative = "You";
+constexpr const char *ownPhoto = "16.jpg";
+constexpr const char *ownSignature = "每天都是新的一天";
+
+VcardInfo makeCard(const ContactBook::Entry &entry, const char *strSignature)
+{
+    VcardInfo card;
+    card.m_strNickName = entry.nick;
+    card.m_strAlternativeName = entry.alternative;
+    card.m_strSignature = QString::fromUtf8(strSignature);
+    card.m_iSmallVersion = 1;
+    card.m_iFullVersion = 1;
+    card.setPhotoName(entry.photo);
+    return card;
+}
+
+} // namespace
+
+ContactBook::ContactBook(const QString &strDomain) : m_strDomain(strDomain)
+{
+    for (const Row &row : rows) {
+        const Entry entry{QString::fromLatin1(row.uid),
+                          QString::fromUtf8(row.nick),
+                          QString::fromLatin1(row.alternative),
+                          row.known,
+                          row.presence,
+                          QString::fromLatin1(row.photo)};
+        m_entries.append(entry);
+        add(entry, row.signature);
+    }
+    add({ownUid(), QString::fromUtf8(ownName), QString::fromLatin1(ownAlternative), true, Presence::Online,
+         QString::fromLatin1(ownPhoto)},
+        ownSignature);
+}
+
+void ContactBook::add(const Entry &entry, const char *strSignature)
+{
+    const VcardInfo card = makeCard(entry, strSignature);
+    m_cards.emplace(entry.uid, card);
+    if (!entry.known) {
+        return;
+    }
+    FriendData record(jidOf(entry.uid));
+    record.setVcardInfo(card);
+    m_friends.emplace(jidOf(entry.uid), record);
+}
+
+QString ContactBook::ownUid()
+{
+    return QString::fromLatin1(ownId);
+}
+
+QMap<QString, FriendData> ContactBook::friendMap() const
+{
+    return QMap<QString, FriendData>(m_friends);
+}
+
+const FriendData *ContactBook::find(const std::map<QString, FriendData> &records, const QString &strJid)
+{
+    const auto found = records.find(strJid);
+    return found == records.end() ? nullptr : &found->second;
+}
+
+const FriendData *ContactBook::record(const QString &strJid) const
+{
+    const FriendData *contact = find(m_friends, strJid);
+    const FriendData *stranger = find(m_strangers, strJid);
+    return contact != nullptr ? contact : stranger != nullptr ? stranger : &m_unknown;
+}
+
+void ContactBook::learn(const QString &strUid)
+{
+    const QString jid = jidOf(strUid);
+    const auto found = m_cards.find(strUid);
+    if (found == m_cards.end() || find(m_friends, jid) != nullptr) {
+        return;
+    }
+    FriendData record(jid);
+    record.setVcardInfo(found->second);
+    m_strangers.emplace(jid, record);
+}
+
+bool ContactBook::isFriend(const QString &strJid) const
+{
+    return uidOf(strJid) != ownUid() && m_friends.count(strJid) != 0;
+}
+
+const VcardInfo *ContactBook::card(const QString &strUid) const
+{
+    const auto found = m_cards.find(strUid);
+    return found == m_cards.end() ? &m_unknownCard : &found->second;
+}
+
+Presence ContactBook::presenceOf(const QString &strUid) const
+{
+    const auto found =
+        std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry &entry) { return entry.uid == strUid; });
+    return strUid == ownUid() ? Presence::Online : found == m_entries.end() ? Presence::Offline : found->presence;
+}
+
+QString ContactBook::nameOf(const QString &strUid) const
+{
+    const QString nick = card(strUid)->m_strNickName;
+    return nick.isEmpty() ? strUid : nick;
+}
+
+QString ContactBook::jidOf(const QString &strUid) const
+{
+    return strUid.contains(QLatin1Char('@')) ? strUid : strUid + QLatin1Char('@') + m_strDomain;
+}
+
+QString ContactBook::uidOf(const QString &strJid)
+{
+    return strJid.section(QLatin1Char('@'), 0, 0);
+}

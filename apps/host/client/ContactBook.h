@@ -1,0 +1,82 @@
+#pragma once
+
+#include "client/Presence.h"
+
+#include "model/FriendData.h"
+#include "robots/RobotIds.h"
+
+#include <QList>
+#include <QMap>
+#include <QString>
+
+#include <map>
+
+/// Who the demo's user knows: the contacts of a made-up company, each named for what happens when one calls it.
+///
+/// It plays the contact plug-in's memory. The records live as long as the book and never move, because their addresses
+/// are handed to the call plug-in. GUI thread.
+class ContactBook
+{
+public:
+    /// One row of the contact list.
+    struct Entry
+    {
+        QString uid;         ///< user id
+        QString nick;        ///< nick name of the card
+        QString alternative; ///< alternative name of the card: what this contact does
+        bool known = true;   ///< false: a stranger, not a contact of this user
+        Presence presence = Presence::Online;
+        QString photo; ///< name of the built-in head picture; empty for none
+    };
+
+    /// Builds the records for the login domain `strDomain`.
+    explicit ContactBook(const QString &strDomain);
+
+    /// User id of the signed-in user, for tables.
+    static constexpr const char *ownId = Robots::ownUser;
+    /// The same as a text.
+    static QString ownUid();
+
+    /// Everybody but the own user, in the order of the list.
+    const QList<Entry> &entries() const { return m_entries; }
+
+    /// Records by jid of all contacts and of the own user; strangers are left out.
+    QMap<QString, FriendData> friendMap() const;
+
+    /// The record of `strJid`; a default record for anybody who is neither a contact nor a stranger whose card has been
+    /// fetched. Never null, owned by the book.
+    const FriendData *record(const QString &strJid) const;
+
+    /// True for contacts, false for strangers, for the own user's jid and for unknown jids.
+    bool isFriend(const QString &strJid) const;
+
+    /// The card of the user, contact or stranger; a default card for an unknown id. Never null, owned by the book.
+    const VcardInfo *card(const QString &strUid) const;
+
+    /// The stranger's card has been fetched: from now on there is a record with it. Others stay as they are.
+    void learn(const QString &strUid);
+
+    /// Presence of the user; offline for an unknown id.
+    Presence presenceOf(const QString &strUid) const;
+
+    /// The nick name of the user, or the id where there is none.
+    QString nameOf(const QString &strUid) const;
+
+    /// User jid of a user id. A text with "@" is returned as it is.
+    QString jidOf(const QString &strUid) const;
+
+    /// User id of a user jid: what stands before "@".
+    static QString uidOf(const QString &strJid);
+
+private:
+    void add(const Entry &entry, const char *strSignature);
+    static const FriendData *find(const std::map<QString, FriendData> &records, const QString &strJid);
+
+    QString m_strDomain;
+    QList<Entry> m_entries;
+    std::map<QString, FriendData> m_friends;
+    std::map<QString, FriendData> m_strangers;
+    std::map<QString, VcardInfo> m_cards;
+    FriendData m_unknown;
+    VcardInfo m_unknownCard;
+};

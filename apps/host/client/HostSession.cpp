@@ -1,0 +1,142 @@
+#include "client/HostSession.h"
+
+#include "client/ContactBook.h"
+#include "happenings/EventWords.h"
+
+#include "model/SharedContext.h"
+#include "model/SystemSetData.h"
+#include "plugin/BaseEvent.h"
+#include "plugin/EventPayload.h"
+#include "plugin/PluginIds.h"
+#include "plugin/PluginInterface.h"
+
+#include <QCoreApplication>
+#include <QPluginLoader>
+
+QString HostSession::loginDomain()
+{
+    return QStringLiteral("im.example.org");
+}
+
+HostSession::HostSession(ContactBook &book, QObject *parent) : QObject(parent), m_book(book), m_mailbox(book)
+{
+    connect(&m_mailbox, &HostMailbox::eventReceived, this,
+            [this](int iMsgId, const QString &strWords, const QString &strAnswer, const QByteArray &payload,
+                   const QByteArray &reply) { emit eventPassed(true, iMsgId, strWords, strAnswer, payload, reply); });
+    connect(&m_mailbox, &HostMailbox::cardsWanted, this, &HostSession::sendCards);
+}
+
+HostSession::~HostSession()
+{
+    m_store.close();
+    SharedContext::setCommonData(nullptr);
+}
+
+bool HostSession::start(const QString &strModule, QString *strError)
+{
+    m_context.signIn(ContactBook::ownUid(), loginDomain(), m_book);
+    SharedContext::setCommonData(m_context.data());
+    openStore();
+
+    QPluginLoader loader(strModule);
+    QObject *root = loader.instance();
+    auto *plugin = qobject_cast<PluginInterface *>(root);
+    if (plugin == nullptr) {
+        *strError = strModule + QStringLiteral(": ") +
+                    (root == nullptr ? loader.errorString() : tr("not a plug-in of this client"));
+        return false;
+    }
+    plugin->setCommonData(m_context.data());
+    plugin->setSendEventHandle(&m_mailbox);
+    m_pPlugin = plugin->getReceiveEventHandle();
+    m_strPlugin = plugin->getPluginName() + QLatin1Char(' ') + plugin->getPluginId();
+    return true;
+}
+
+bool HostSession::openStore()
+{
+    return m_store.open(ContactBook::ownUid(), SystemSetData::instance()->m_strMsgFilePath);
+}
+
+void HostSession::post(EMsgId msgId, const QByteArray &payload)
+{
+    if (m_pPlugin.isNull()) {
+        return;
+    }
+    emit eventPassed(false, msgId, EventWords::describe(msgId, payload), QString(), payload, QByteArray());
+    QCoreApplication::postEvent(m_pPlugin, new BaseEvent(msgId, sessionPluginId(), voipPluginId(), true, payload));
+}
+
+bool HostSession::ask(EMsgId msgId)
+{
+    if (m_pPlugin.isNull()) {
+        return false;
+    }
+    BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false);
+    const QString words = EventWords::describe(msgId, event.data);
+    QCoreApplication::sendEvent(m_pPlugin, &event);
+    emit eventPassed(false, msgId, words, EventWords::answer(msgId, event.data), QByteArray(), event.data);
+    return PayloadReader(event.data).take<bool>();
+}
+
+void HostSession::setOnline(bool bOnline)
+{
+    m_bOnline = bOnline;
+    emit onlineChanged(bOnline);
+    post(MSG_CLIENT_CONNECT_STATUS, packPayload(bOnline));
+}
+
+void HostSession::callUser(const QString &strUid, bool bVideo)
+{
+    post(MSG_CALL_SINGLE_USER, packPayload(bVideo, strUid));
+}
+
+void HostSession::answerCall(bool bAccept)
+{
+    post(MSG_RESPONSE_VOIP_REQUEST, packPayload(bAccept));
+}
+
+void HostSession::callConference(const ConferenceWish &wish)
+{
+    post(MSG_CALL_CONFERENCE, packPayload(wish.uids, wish.text, wish.flag));
+}
+
+void HostSession::showConferenceCentre()
+{
+    post(MSG_SHOW_VOICE_CONF, QByteArray());
+}
+
+void HostSession::sendCards(const QStringList &uids)
+{
+    // The card is named by the full jid: that is what the call window compares with.
+    for (const QString &uid : uids) {
+        m_book.learn(uid);
+        const auto address = qint64(reinterpret_cast<quintptr>(m_book.card(uid)));
+        post(MSG_UPDATE_USER_INFO, packPayload(m_book.jidOf(uid), address));
+    }
+}
+
+bool HostSession::isExistCall()
+{
+    return ask(MSG_IS_EXIST_CALL);
+}
+
+bool HostSession::isVideoCall()
+{
+    return ask(MSG_IS_VIDEO_CALL);
+}
+
+void HostSession::quit()
+{
+    if (m_bQuit || m_pPlugin.isNull()) {
+        return;
+    }
+    m_bQuit = true;
+    emit eventPassed(false, MSG_EXIT_VOIP, EventWords::describe(MSG_EXIT_VOIP, QByteArray()), QString(), QByteArray(),
+                     QByteArray());
+    // Delivered at once: the process may end before the queue is read again.
+    BaseEvent event(MSG_EXIT_VOIP, sessionPluginId(), voipPluginId(), false);
+    QCoreApplication::sendEvent(m_pPlugin, &event);
+    // Only now: the end of a conference still writes its record.
+    m_store.close();
+}

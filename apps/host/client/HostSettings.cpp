@@ -1,0 +1,135 @@
+#include "client/HostSettings.h"
+
+#include "client/HostLanguage.h"
+#include "client/HostSkins.h"
+
+#include "common/AppPaths.h"
+#include "common/settings/ConfigFile.h"
+#include "model/SkinContext.h"
+#include "model/SystemSetData.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace {
+
+const QString RECEIVE_KEY = QStringLiteral("/msgSetting/transfilepath");
+const QString DATA_KEY = QStringLiteral("/msgSetting/msgfilepath");
+const QString LANGUAGE_KEY = QStringLiteral("/languageSetting/language");
+const QString SKIN_KEY = QStringLiteral("/skinSetting/skinName");
+
+/// Writes the value to the user's file and has the shared settings take it.
+void writeForUser(const QString &strKey, const QString &strValue)
+{
+    SystemSetData *settings = SystemSetData::instance();
+    ConfigFile::changeConfigValue(settings->m_strUserConfigPath, strKey, strValue);
+    settings->initData(settings->m_strUserName);
+}
+
+/// Whether the folder is there, or can be made, and takes files.
+bool canHold(const QString &strFolder)
+{
+    return QDir::isAbsolutePath(strFolder) && QDir().mkpath(strFolder) && QFileInfo(strFolder).isWritable();
+}
+
+} // namespace
+
+QString HostSettings::userFile()
+{
+    return SystemSetData::instance()->m_strUserConfigPath;
+}
+
+QString HostSettings::commonFile()
+{
+    return strAPP_INFO_FILE_PATH();
+}
+
+bool HostSettings::isSilent()
+{
+    return SystemSetData::instance()->m_strCloseVoice == QLatin1String("1");
+}
+
+void HostSettings::setSilent(bool bSilent)
+{
+    writeForUser(QLatin1String(silentKey), bSilent ? QStringLiteral("1") : QStringLiteral("0"));
+}
+
+QString HostSettings::dataFolder()
+{
+    const QString stored = ConfigFile::getConfigValue(commonFile(), DATA_KEY).toString();
+    return stored.isEmpty() ? SystemSetData::instance()->m_strDefaultDataRoot : stored;
+}
+
+bool HostSettings::setDataFolder(const QString &strFolder)
+{
+    const bool bOk = strFolder.isEmpty() || canHold(strFolder);
+    if (bOk) {
+        ConfigFile::changeConfigValue(commonFile(), DATA_KEY, strFolder);
+    }
+    return bOk;
+}
+
+bool HostSettings::isDataFolderPending()
+{
+    return QDir::cleanPath(dataFolder()) != QDir::cleanPath(SystemSetData::instance()->m_strMsgFilePath);
+}
+
+QString HostSettings::receiveFolder()
+{
+    return SystemSetData::instance()->m_strTransFilePath;
+}
+
+bool HostSettings::setReceiveFolder(const QString &strFolder)
+{
+    const bool bOk = strFolder.isEmpty() || canHold(strFolder);
+    if (bOk) {
+        writeForUser(RECEIVE_KEY, strFolder);
+    }
+    return bOk;
+}
+
+QString HostSettings::language()
+{
+    QString language = ConfigFile::getConfigValue(commonFile(), LANGUAGE_KEY).toString();
+    if (language.isEmpty()) {
+        // Written down, so that everybody who asks the settings finds the language that the windows speak.
+        language = HostLanguage::firstLanguage(QLocale::system().name());
+        ConfigFile::changeConfigValue(commonFile(), LANGUAGE_KEY, language);
+    }
+    return language;
+}
+
+void HostSettings::setLanguage(const QString &strLanguage)
+{
+    ConfigFile::changeConfigValue(commonFile(), LANGUAGE_KEY, strLanguage);
+    emit languageChanged(strLanguage);
+}
+
+QString HostSettings::skin()
+{
+    const QString stored = ConfigFile::getConfigValue(userFile(), SKIN_KEY).toString();
+    return HostSkins::names().contains(stored) ? stored : HostSkins::standardName();
+}
+
+void HostSettings::setSkin(const QString &strName)
+{
+    ConfigFile::changeConfigValue(userFile(), SKIN_KEY, strName);
+    const QList<SysUIData> *skins = SkinContext::getSysUIDataList();
+    if (skins == nullptr) {
+        return;
+    }
+    const auto found = std::find_if(skins->begin(), skins->end(),
+                                    [&](const SysUIData &skin) { return skin.m_strSkinName == strName; });
+    if (found != skins->end()) {
+        SkinContext::setSkinData(*found);
+        emit skinChanged();
+        // The plug-in's windows fetch the colour of their frame at each paint.
+        const QWidgetList widgets = QApplication::allWidgets();
+        std::for_each(widgets.begin(), widgets.end(), [](QWidget *widget) { widget->update(); });
+    }
+}

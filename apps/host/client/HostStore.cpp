@@ -1,0 +1,233 @@
+#include "client/HostStore.h"
+
+#include "common/CLogManger.h"
+#include "store/DB.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+// What SQLite keeps beside a file. It belongs to that file: it may hold the half of a write that was cut short.
+constexpr const char *companions[] = {"-journal", "-wal", "-shm"};
+// SQLite's primary result code for a file that another connection has locked; the upper bytes tell details.
+constexpr int busyCode = 5;
+constexpr int primaryCodeMask = 0xff;
+
+// How long the first look at the file waits for another program, in milliseconds.
+constexpr int patience = 1800;
+
+/// A connection to the file beside the session's own.
+class Probe
+{
+public:
+    Probe(const QString &strFile, const QString &strOptions)
+    {
+        m_db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_strName);
+        m_db.setDatabaseName(strFile);
+        m_db.setConnectOptions(strOptions);
+        m_db.open();
+    }
+    ~Probe()
+    {
+        m_db = QSqlDatabase();
+        QSqlDatabase::removeDatabase(m_strName);
+    }
+    Probe(const Probe &) = delete;
+    Probe &operator=(const Probe &) = delete;
+
+    bool run(const char *statement)
+    {
+        if (!m_db.isOpen()) {
+            return false;
+        }
+        QSqlQuery query(m_db);
+        const bool ok = query.exec(QLatin1String(statement));
+        if (!ok) {
+            m_bMetALock = (query.lastError().nativeErrorCode().toInt() & primaryCodeMask) == busyCode;
+        }
+        return ok;
+    }
+    /// Whether the last statement that failed did so because another program has locked the file.
+    bool hasMetALock() const { return m_bMetALock; }
+
+private:
+    const QString m_strName = QStringLiteral("kelvarim-demo-probe");
+    QSqlDatabase m_db;
+    bool m_bMetALock = false;
+};
+
+/// Whether another program keeps this one from reading the file, for that many milliseconds.
+bool isShutAgainstReading(const QString &strFile, int iMilliseconds)
+{
+    Probe probe(strFile, QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=%1").arg(iMilliseconds));
+    return !probe.run("PRAGMA schema_version") && probe.hasMetALock();
+}
+
+/// The first check reads every page, the second one tries a write.
+bool isSound(const QString &strFolder)
+{
+    return DB::checkDB(strFolder, true) && DB::checkDB(strFolder, false);
+}
+
+/// Moves the file with its companions, or nothing at all.
+bool moveFile(const QString &strFrom, const QString &strTo)
+{
+    QStringList moved;
+    const auto move = [&](const QString &strSuffix) {
+        const bool ok = QFile::rename(strFrom + strSuffix, strTo + strSuffix);
+        if (ok) {
+            moved.append(strSuffix);
+        }
+        return ok;
+    };
+    // Companions first: one that were left behind would be taken for the next file's own.
+    const bool all = std::all_of(std::begin(companions), std::end(companions),
+                                 [&](const char *companion) {
+                                     const QString suffix = QLatin1String(companion);
+                                     return !QFileInfo::exists(strFrom + suffix) || move(suffix);
+                                 }) &&
+                     move(QString());
+    if (!all) {
+        for (const QString &suffix : moved) {
+            QFile::rename(strTo + suffix, strFrom + suffix);
+        }
+    }
+    return all;
+}
+
+enum class Writing
+{
+    Possible,
+    Refused,
+    Held ///< by another program
+};
+
+/// What would become of a write to the store, found by one that is taken back. It also finds a folder that takes no
+/// journal and a disk without room, which a look at the file's rights does not.
+Writing tryWriting(const QString &strFile)
+{
+    Probe probe(strFile, QStringLiteral("QSQLITE_BUSY_TIMEOUT=0"));
+    if (probe.run("BEGIN IMMEDIATE") && probe.run("CREATE TABLE hostwritetrial (id INTEGER)")) {
+        return Writing::Possible;
+    }
+    return probe.hasMetALock() ? Writing::Held : Writing::Refused;
+}
+
+} // namespace
+
+HostStore::~HostStore()
+{
+    close();
+}
+
+QString HostStore::asidePath(const QString &strFolder, const QDateTime &when)
+{
+    const QString stem =
+        strFolder + QStringLiteral("/localData.damaged-") + when.toString(QStringLiteral("yyyyMMdd-hhmmss"));
+    const auto isTaken = [](const QString &strPath) {
+        return QFileInfo::exists(strPath) ||
+               std::any_of(std::begin(companions), std::end(companions), [&](const char *companion) {
+                   return QFileInfo::exists(strPath + QLatin1String(companion));
+               });
+    };
+    QString path = stem + QStringLiteral(".db");
+    for (int i = 2; isTaken(path); ++i) {
+        path = QStringLiteral("%1-%2.db").arg(stem).arg(i);
+    }
+    return path;
+}
+
+bool HostStore::open(const QString &strUid, const QString &strBase)
+{
+    close();
+    m_reports.clear();
+    m_bHeld = false;
+    const QString folder = QDir(strBase + QLatin1Char('/') + strUid).absolutePath();
+    const QString file = folder + QStringLiteral("/localData.db");
+    if (isShutAgainstReading(file, patience)) {
+        reportHeld(file);
+        return false;
+    }
+    if (!isSound(folder) && !putAside(folder, file)) {
+        return false;
+    }
+    if (DB::isNeedUpdate(folder)) {
+        report(tr("%1 is the store of an older client. It stays as it is; what it holds is not shown here.")
+                   .arg(folder + QStringLiteral("/data.db")));
+    }
+    m_bOpen = DB::initByUserName(strUid, strBase, true);
+    if (m_bOpen) {
+        reportWriting(file);
+        return true;
+    }
+    // Even a failed open leaves its connection with the shared context.
+    DB::closeDB();
+    if (isShutAgainstReading(file, 0)) {
+        reportHeld(file);
+    } else {
+        report(tr("The local store %1 cannot be opened. Nothing of this session will be kept.").arg(file));
+    }
+    return false;
+}
+
+void HostStore::close()
+{
+    if (m_bOpen) {
+        m_bOpen = false;
+        DB::closeDB();
+    }
+}
+
+/// Returns whether the way is free: for the file after all, or for a new one.
+bool HostStore::putAside(const QString &strFolder, const QString &strFile)
+{
+    if (isShutAgainstReading(strFile, 0)) {
+        reportHeld(strFile);
+        return false;
+    }
+    // A file that was locked while it was looked at reads as damaged, too: only now does the verdict count.
+    if (isSound(strFolder)) {
+        return true;
+    }
+    const QString aside = asidePath(strFolder, QDateTime::currentDateTime());
+    if (!moveFile(strFile, aside)) {
+        report(tr("The local store %1 is damaged and cannot be moved aside. Nothing of this session will be kept.")
+                   .arg(strFile));
+        return false;
+    }
+    report(tr("The local store was damaged. The file is kept as %1; a new one has been started.").arg(aside));
+    return true;
+}
+
+void HostStore::reportWriting(const QString &strFile)
+{
+    const Writing writing = tryWriting(strFile);
+    if (writing == Writing::Held) {
+        reportHeld(strFile);
+    } else if (writing == Writing::Refused) {
+        report(tr("The local store %1 cannot be written to. Nothing of this session will be kept.").arg(strFile));
+    }
+}
+
+void HostStore::reportHeld(const QString &strFile)
+{
+    m_bHeld = true;
+    report(
+        tr("The local store %1 is in use by another program. Until that lets it go, nothing of this session is kept.")
+            .arg(strFile));
+}
+
+void HostStore::report(const QString &strWords)
+{
+    m_reports.append(strWords);
+    LOG_WARN << strWords << "\n";
+}

@@ -1,0 +1,96 @@
+#include "panes/ContactPane.h"
+#include "ui_ContactPane.h"
+
+#include "client/ContactBook.h"
+
+#include <QKeyEvent>
+#include <QToolButton>
+
+ContactPane::ContactPane(QWidget *parent) : QWidget(parent), ui(std::make_unique<Ui::ContactPane>())
+{
+    ui->setupUi(this);
+    ui->editSearch->installEventFilter(this);
+    nameClearButton();
+    connect(ui->editSearch, &QLineEdit::textChanged, this, &ContactPane::search);
+    connect(ui->contactArea, &ContactList::callClicked, this, &ContactPane::callWanted);
+    connect(ui->contactArea, &ContactList::leftUpwards, this, &ContactPane::startSearch);
+    connect(ui->btnConference, &QPushButton::clicked, this, &ContactPane::conferenceWanted);
+    connect(ui->btnCallNumber, &QPushButton::clicked, this, &ContactPane::callNumber);
+    connect(ui->editNumber, &QLineEdit::returnPressed, this, &ContactPane::callNumber);
+    connect(ui->editNumber, &QLineEdit::textChanged, this,
+            [this](const QString &strText) { ui->btnCallNumber->setEnabled(!strText.trimmed().isEmpty()); });
+}
+
+ContactPane::~ContactPane() = default;
+
+void ContactPane::fill(const ContactBook &book)
+{
+    ui->contactArea->add(book.entries());
+    ui->contactArea->followInTabOrder(ui->editSearch);
+    search();
+}
+
+void ContactPane::startSearch()
+{
+    ui->editSearch->setFocus(Qt::ShortcutFocusReason);
+    ui->editSearch->selectAll();
+}
+
+void ContactPane::takeSkin()
+{
+    ui->contactArea->takeSkin();
+}
+
+void ContactPane::search()
+{
+    const int found = ui->contactArea->filter(ui->editSearch->text());
+    ui->contactArea->setVisible(found > 0);
+    ui->lblNoMatch->setVisible(found == 0);
+}
+
+void ContactPane::callNumber()
+{
+    const QString number = ui->editNumber->text().trimmed();
+    if (number.isEmpty()) {
+        return;
+    }
+    ui->editNumber->clear();
+    emit callWanted(number, false);
+}
+
+void ContactPane::nameClearButton()
+{
+    // The button is the edit field's own part, so the form cannot name it.
+    auto *button = ui->editSearch->findChild<QToolButton *>();
+    button->setObjectName(QStringLiteral("btnClearSearch"));
+    button->setAccessibleName(tr("Clear the search"));
+    button->setToolTip(button->accessibleName());
+}
+
+void ContactPane::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        nameClearButton();
+    }
+    QWidget::changeEvent(event);
+}
+
+bool ContactPane::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress) {
+        return QWidget::eventFilter(watched, event);
+    }
+    switch (static_cast<QKeyEvent *>(event)->key()) {
+    case Qt::Key_Down:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        ui->contactArea->enter();
+        return true;
+    case Qt::Key_Escape:
+        ui->editSearch->clear();
+        return true;
+    default:
+        return QWidget::eventFilter(watched, event);
+    }
+}

@@ -1,0 +1,112 @@
+#include "panes/ContactRow.h"
+#include "ui_ContactRow.h"
+
+#include "client/HostPictures.h"
+#include "client/HostSkins.h"
+#include "model/AvatarFiles.h"
+
+#include <QKeyEvent>
+
+ContactRow::ContactRow(const ContactBook::Entry &entry, QWidget *parent)
+    : QWidget(parent), ui(std::make_unique<Ui::ContactRow>()), m_entry(entry)
+{
+    ui->setupUi(this);
+    setAttribute(Qt::WA_StyledBackground);
+    setObjectName(entry.uid);
+    ui->lblHead->setPixmap(HostPictures::head(entry.known ? entry.nick : QStringLiteral("?"), entry.uid, 40,
+                                              entry.presence,
+                                              entry.known ? AvatarFiles::systemAvatar(entry.photo) : QString()));
+    for (QToolButton *button : {ui->btnCall, ui->btnVideo}) {
+        button->installEventFilter(this);
+    }
+    connect(ui->btnCall, &QToolButton::clicked, this, [this] { emit callClicked(m_entry.uid, false); });
+    connect(ui->btnVideo, &QToolButton::clicked, this, [this] { emit callClicked(m_entry.uid, true); });
+    setTabStop(false);
+    takeSkin();
+    showWords();
+}
+
+ContactRow::~ContactRow() = default;
+
+void ContactRow::setTabStop(bool bStop)
+{
+    setFocusPolicy(bStop ? Qt::StrongFocus : Qt::ClickFocus);
+    for (QToolButton *button : {ui->btnCall, ui->btnVideo}) {
+        button->setFocusPolicy(bStop ? Qt::TabFocus : Qt::NoFocus);
+    }
+}
+
+QWidget *ContactRow::followInTabOrder(QWidget *before)
+{
+    setTabOrder(before, this);
+    setTabOrder(this, ui->btnCall);
+    setTabOrder(ui->btnCall, ui->btnVideo);
+    return ui->btnVideo;
+}
+
+void ContactRow::takeSkin()
+{
+    ui->btnCall->setIcon(HostPictures::call(HostSkins::darkColour()));
+    ui->btnVideo->setIcon(HostPictures::video(HostSkins::darkColour()));
+}
+
+void ContactRow::showWords()
+{
+    // A stranger goes by the number: who that is, the client does not know yet.
+    const QString name = m_entry.known ? m_entry.nick : m_entry.uid;
+    const QString presence = presenceWord(m_entry.presence);
+    const QString detail =
+        (m_entry.known ? m_entry.uid : tr("not a contact")) + QStringLiteral(" · ") + m_entry.alternative;
+    ui->lblName->setText(name);
+    ui->lblPresence->setText(presence);
+    ui->lblDetail->setText(detail);
+    setAccessibleName(QStringLiteral("%1, %2").arg(name, presence));
+    setAccessibleDescription(detail);
+    ui->btnCall->setToolTip(tr("Call %1").arg(name));
+    ui->btnVideo->setToolTip(tr("Call %1 by video").arg(name));
+    for (QToolButton *button : {ui->btnCall, ui->btnVideo}) {
+        button->setAccessibleName(button->toolTip());
+    }
+}
+
+void ContactRow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        showWords();
+    }
+    QWidget::changeEvent(event);
+}
+
+void ContactRow::focusInEvent(QFocusEvent *event)
+{
+    emit entered();
+    QWidget::focusInEvent(event);
+}
+
+void ContactRow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        emit callClicked(m_entry.uid, false);
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+bool ContactRow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn) {
+        emit entered();
+    } else if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            static_cast<QToolButton *>(watched)->click();
+            return true;
+        }
+        if (key == Qt::Key_Up || key == Qt::Key_Down) {
+            // Ignored and filtered: it goes on to the parent, as a key that the button does not know.
+            event->ignore();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}

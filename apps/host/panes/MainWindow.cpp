@@ -1,0 +1,181 @@
+#include "panes/MainWindow.h"
+#include "ui_MainWindow.h"
+
+#include "client/ContactBook.h"
+#include "client/HostPictures.h"
+#include "client/HostSession.h"
+#include "client/HostSkins.h"
+#include "happenings/HappeningsPanel.h"
+#include "happenings/TraceFolder.h"
+#include "panes/MemberPicker.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+#include <QShortcut>
+
+#include <utility>
+
+MainWindow::MainWindow(HostSession &session, const ContactBook &book)
+    : ui(std::make_unique<Ui::MainWindow>()), m_session(session), m_book(book), m_records(book), m_prompt(book),
+      m_signature(book), m_settingsPage(session.settings())
+{
+    ui->setupUi(this);
+    fillHeader();
+    ui->contactPane->fill(m_book);
+    ui->callsPane->setModel(&m_records);
+    setUpHappenings();
+    connectParts();
+    connectSession();
+    takeSkin();
+    showNotice();
+    showOnline(m_session.isOnline());
+    ui->contactPane->startSearch();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::fillHeader()
+{
+    ui->lblOwnName->setText(m_book.nameOf(ContactBook::ownUid()));
+    ui->lblOwnUid->setText(ContactBook::ownUid());
+}
+
+void MainWindow::connectParts()
+{
+    connect(ui->btnSettings, &QPushButton::clicked, &m_settingsPage, &SettingsPage::open);
+    connect(ui->btnOnline, &QPushButton::clicked, this, [this](bool bChecked) { m_session.setOnline(bChecked); });
+    connect(ui->btnTryStore, &QPushButton::clicked, this, &MainWindow::tryStoreAgain);
+    connect(ui->contactPane, &ContactPane::callWanted, this, &MainWindow::call);
+    connect(ui->contactPane, &ContactPane::conferenceWanted, this, [this] { startConference(QStringList()); });
+    connect(ui->callsPane, &CallsPane::callWanted, this, &MainWindow::call);
+    connect(ui->callsPane, &CallsPane::centreWanted, &m_session, &HostSession::showConferenceCentre);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, ui->contactPane, &ContactPane::startSearch);
+    connect(new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_I), this), &QShortcut::activated, &m_prompt,
+            &IncomingPrompt::enter);
+}
+
+void MainWindow::takeSkin()
+{
+    HostSkins::dress(this);
+    ui->contactPane->takeSkin();
+}
+
+void MainWindow::setUpHappenings()
+{
+    m_pHappenings = new HappeningsPanel(m_session, TraceFolder::file(), this);
+    m_pHappenings->hide();
+    ui->splitter->addWidget(m_pHappenings);
+    ui->happeningsButton->setText(m_pHappenings->windowTitle());
+    connect(m_pHappenings, &QWidget::windowTitleChanged, ui->happeningsButton, &QAbstractButton::setText);
+    connect(ui->happeningsButton, &QAbstractButton::toggled, this, &MainWindow::showHappenings);
+    const auto *shortcut = new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_H, this);
+    connect(shortcut, &QShortcut::activated, ui->happeningsButton, &QAbstractButton::toggle);
+}
+
+void MainWindow::showHappenings(bool bShown)
+{
+    m_pHappenings->setVisible(bShown);
+    if (isMaximized() || isFullScreen()) {
+        return;
+    }
+    // The panel comes beside the other parts, as far as the screen has room, and gives that room back.
+    int grown = -std::exchange(m_iGrown, 0);
+    if (bShown) {
+        const int wanted = m_pHappenings->sizeHint().width() + ui->splitter->handleWidth();
+        grown = m_iGrown = qBound(0, screen()->availableGeometry().right() - frameGeometry().right(), wanted);
+    }
+    resize(width() + grown, height());
+}
+
+void MainWindow::connectSession()
+{
+    HostMailbox &mailbox = m_session.mailbox();
+    connect(&m_session, &HostSession::onlineChanged, this, &MainWindow::showOnline);
+    connect(&m_session.settings(), &HostSettings::skinChanged, this, &MainWindow::takeSkin);
+    connect(&mailbox, &HostMailbox::callFinished, this, &MainWindow::showRecord);
+    connect(&mailbox, &HostMailbox::callIncoming, this, [this](const QString &strUid, bool bConference, bool bVideo) {
+        statusBar()->showMessage(tr("%1 is calling").arg(m_book.nameOf(strUid)));
+        m_prompt.prompt(strUid, bConference, bVideo);
+    });
+    connect(&mailbox, &HostMailbox::promptWithdrawn, &m_prompt, &IncomingPrompt::withdraw);
+    connect(&m_prompt, &IncomingPrompt::answered, this, [this](const QString &strUid, bool bAccept) {
+        const QString name = m_book.nameOf(strUid);
+        statusBar()->showMessage(bAccept ? tr("Call of %1 accepted").arg(name) : tr("Call of %1 rejected").arg(name));
+        m_session.answerCall(bAccept);
+    });
+    connect(&mailbox, &HostMailbox::conferenceWanted, this, &MainWindow::startConference);
+    connect(&mailbox, &HostMailbox::signatureShown, &m_signature, &SignatureCard::showCard);
+    connect(&mailbox, &HostMailbox::signatureHidden, &m_signature, &QWidget::hide);
+    mailbox.setMemberPicker(
+        [this](const QStringList &present) { return MemberPicker::pickMore(m_book, present, this); });
+}
+
+void MainWindow::call(const QString &strUid, bool bVideo)
+{
+    statusBar()->showMessage(tr("Calling %1").arg(m_book.nameOf(strUid)));
+    m_session.callUser(strUid, bVideo);
+}
+
+void MainWindow::startConference(const QStringList &named)
+{
+    if (const std::optional<ConferenceWish> wish = MemberPicker::pickNew(m_book, named, this)) {
+        statusBar()->showMessage(tr("Starting a conference with %n other(s)", nullptr, wish->uids.size()));
+        m_session.callConference(*wish);
+    }
+}
+
+void MainWindow::showOnline(bool bOnline)
+{
+    const QString name = m_book.nameOf(ContactBook::ownUid());
+    ui->lblOwnHead->setPixmap(HostPictures::head(name, ContactBook::ownUid(), 44,
+                                                 bOnline ? Presence::Online : Presence::Offline,
+                                                 m_book.card(ContactBook::ownUid())->m_strPhotoPath));
+    ui->btnOnline->setChecked(bOnline);
+    ui->btnOnline->setText(bOnline ? tr("&Online") : tr("&Offline"));
+    statusBar()->showMessage(bOnline ? tr("Signed in as %1").arg(name) : tr("Signed out"));
+}
+
+void MainWindow::showNotice()
+{
+    const QStringList &reports = m_session.store().reports();
+    ui->lblNotice->setText(reports.join(QLatin1Char('\n')));
+    ui->notice->setVisible(!reports.isEmpty());
+    ui->btnTryStore->setVisible(m_session.store().isHeldByAnother());
+}
+
+void MainWindow::tryStoreAgain()
+{
+    m_session.openStore();
+    showNotice();
+    if (m_session.store().reports().isEmpty()) {
+        statusBar()->showMessage(tr("The local store is open"));
+    }
+}
+
+void MainWindow::showRecord(const CallRecord &record)
+{
+    m_records.add(record);
+    const QString name = m_book.nameOf(record.uid);
+    const QString outcome = outcomeWord(record.result);
+    statusBar()->showMessage(record.connected
+                                 ? tr("Call with %1: %2 after %3").arg(name, outcome, durationText(record.seconds))
+                                 : tr("Call with %1: %2").arg(name, outcome));
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        showOnline(m_session.isOnline());
+    }
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    m_prompt.hide();
+    m_signature.hide();
+    m_settingsPage.hide();
+    m_session.quit();
+    QMainWindow::closeEvent(event);
+}

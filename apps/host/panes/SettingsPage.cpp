@@ -1,0 +1,147 @@
+#include "panes/SettingsPage.h"
+#include "ui_SettingsPage.h"
+
+#include "client/HostLanguage.h"
+#include "client/HostPictures.h"
+#include "client/HostSettings.h"
+#include "client/HostSkins.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QRadioButton>
+
+namespace {
+
+constexpr int swatchSize = 18;
+
+} // namespace
+
+SettingsPage::SettingsPage(HostSettings &settings, QWidget *parent)
+    : QDialog(parent), ui(std::make_unique<Ui::SettingsPage>()), m_settings(settings)
+{
+    ui->setupUi(this);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    addLanguages();
+    addSkins();
+    orderTabs();
+    connectFolders();
+    HostSkins::dress(this);
+    connect(ui->boxSilent, &QCheckBox::clicked, this, &HostSettings::setSilent);
+    connect(ui->btnClose, &QPushButton::clicked, this, &QDialog::close);
+    connect(&m_settings, &HostSettings::skinChanged, this, [this] { HostSkins::dress(this); });
+}
+
+SettingsPage::~SettingsPage() = default;
+
+void SettingsPage::addLanguages()
+{
+    for (const HostLanguage::Choice &choice : HostLanguage::choices()) {
+        auto *button = new QRadioButton(choice.ownName, ui->languages);
+        button->setObjectName(QStringLiteral("language_") + choice.setting);
+        connect(button, &QRadioButton::clicked, this, [this, choice] { m_settings.setLanguage(choice.setting); });
+        ui->languagesLayout->addWidget(button);
+    }
+    ui->languagesLayout->addStretch();
+}
+
+void SettingsPage::addSkins()
+{
+    for (const QString &name : HostSkins::names()) {
+        auto *button = new QRadioButton(ui->skins);
+        button->setObjectName(QStringLiteral("skin_") + name);
+        button->setIcon(HostPictures::swatch(HostSkins::mainColour(name), swatchSize));
+        button->setIconSize(QSize(swatchSize, swatchSize));
+        connect(button, &QRadioButton::clicked, this, [this, name] { m_settings.setSkin(name); });
+        ui->skinsLayout->addWidget(button);
+    }
+    ui->skinsLayout->addStretch();
+    nameSkins();
+}
+
+void SettingsPage::nameSkins()
+{
+    for (const QString &name : HostSkins::names()) {
+        ui->skins->findChild<QRadioButton *>(QStringLiteral("skin_") + name)->setText(HostSkins::shownName(name));
+    }
+}
+
+/// Puts what the form does not know behind what stands above it.
+void SettingsPage::orderTabs()
+{
+    QWidget *last = ui->boxSilent;
+    for (const QWidget *group : {ui->languages, ui->skins}) {
+        const QList<QRadioButton *> buttons = group->findChildren<QRadioButton *>();
+        for (QRadioButton *button : buttons) {
+            setTabOrder(last, button);
+            last = button;
+        }
+    }
+}
+
+void SettingsPage::connectFolders()
+{
+    connect(ui->editDataFolder, &QLineEdit::editingFinished, this,
+            [this] { takeFolder(ui->editDataFolder, HostSettings::dataFolder(), &HostSettings::setDataFolder); });
+    connect(ui->editReceiveFolder, &QLineEdit::editingFinished, this, [this] {
+        takeFolder(ui->editReceiveFolder, HostSettings::receiveFolder(), &HostSettings::setReceiveFolder);
+    });
+    connect(ui->btnDataFolder, &QPushButton::clicked, this, [this] { browse(ui->editDataFolder); });
+    connect(ui->btnReceiveFolder, &QPushButton::clicked, this, [this] { browse(ui->editReceiveFolder); });
+}
+
+void SettingsPage::open()
+{
+    ui->lblFolderError->clear();
+    showSettings();
+    show();
+    raise();
+    activateWindow();
+}
+
+void SettingsPage::showSettings()
+{
+    ui->boxSilent->setChecked(HostSettings::isSilent());
+    const QString language = QStringLiteral("language_") + HostLanguage::choiceOf(HostSettings::language());
+    ui->languages->findChild<QRadioButton *>(language)->setChecked(true);
+    ui->skins->findChild<QRadioButton *>(QStringLiteral("skin_") + HostSettings::skin())->setChecked(true);
+    ui->editDataFolder->setText(QDir::toNativeSeparators(HostSettings::dataFolder()));
+    ui->editReceiveFolder->setText(QDir::toNativeSeparators(HostSettings::receiveFolder()));
+    ui->lblDataNote->setText(HostSettings::isDataFolderPending()
+                                 ? tr("Takes effect at the next start; what is in the old folder stays there.")
+                                 : tr("Holds the settings, the conference records and the log of each user."));
+    ui->lblFiles->setText(QDir::toNativeSeparators(HostSettings::userFile()) + QLatin1Char('\n') +
+                          QDir::toNativeSeparators(HostSettings::commonFile()));
+}
+
+void SettingsPage::takeFolder(const QLineEdit *edit, const QString &strBefore, FolderSetter set)
+{
+    const QString wanted = QDir::fromNativeSeparators(edit->text().trimmed());
+    if (wanted == strBefore) {
+        ui->lblFolderError->clear();
+    } else if (set(wanted)) {
+        ui->lblFolderError->clear();
+        showSettings();
+    } else {
+        ui->lblFolderError->setText(tr("This folder cannot be used: %1").arg(wanted));
+    }
+}
+
+void SettingsPage::browse(QLineEdit *edit)
+{
+    const QString chosen = QFileDialog::getExistingDirectory(this, tr("Choose a folder"), edit->text());
+    if (!chosen.isEmpty()) {
+        edit->setText(QDir::toNativeSeparators(chosen));
+        emit edit->editingFinished();
+    }
+}
+
+void SettingsPage::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        nameSkins();
+        ui->lblFolderError->clear();
+        showSettings();
+    }
+    QDialog::changeEvent(event);
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+class CallProcess;
+class HostSession;
+class MainWindow;
+class TourHand;
+class TourWatch;
+
+/// What the tour's steps act on and look at. All must outlive the tour.
+struct TourStage
+{
+    HostSession &session;
+    MainWindow &window;
+    TourWatch &watch;
+    TourHand &hand;
+    const CallProcess &process;
+};

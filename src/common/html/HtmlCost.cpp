@@ -1,0 +1,368 @@
+#include "common/html/HtmlCost.h"
+
+#include <algorithm>
+
+namespace {
+
+// In microseconds, each.
+constexpr double INLINE = 3;
+constexpr double BLOCK = 5;
+constexpr double CLOSING = 2;
+constexpr double TABLE = 30;
+constexpr double LIST = 10;
+constexpr double PLACE = 3;
+constexpr double CELL = 8;
+constexpr double SPANNING_CELL = 10;
+constexpr double IMAGE = 15;
+// The fixed font is asked for anew.
+constexpr double CODE = 300;
+constexpr double NEW_BLOCK_IN_TEXT = 6;
+constexpr double UNIT = 0.03;
+constexpr double ATTRIBUTE_UNIT = 0.2;
+constexpr double ESCAPE_TIMES_UNIT = 0.00004;
+constexpr double INHERITED_UNIT = 0.001;
+// For each element around it.
+constexpr double LEVEL = 0.04;
+constexpr double UNMATCHED_LEVEL = 0.02;
+constexpr double TABLE_LEVEL = 0.25;
+constexpr double SHEET_UNIT_LEVEL = 0.02;
+constexpr int UNITS_OF_EMPTY_SHEET = 2;
+constexpr double SHEET_UNIT_LEVEL_SQUARE = 0.000002;
+// For each one before it.
+constexpr double FORMAT_BEFORE = 0.07;
+constexpr double ITEM_BEFORE = 0.12;
+constexpr double BLOCK_IN_LIST = 0.003;
+constexpr double TABLE_BEFORE = 0.002;
+constexpr double SIBLING_BEFORE = 0.002;
+constexpr double IMAGE_UNIT_BEFORE = 0.3;
+constexpr double CELL_BEFORE = 0.001;
+constexpr double SPANNED_PLACE = 0.5;
+
+// Qt takes no wider cell.
+constexpr int MOST_COLUMNS_OF_CELL = 20480;
+
+/// Whether Qt begins a new block where this stands in a text.
+bool isBlockEnd(uint uiCode, bool bKeepsLines)
+{
+    return uiCode == QChar::ParagraphSeparator || uiCode == 0xFDD0 || uiCode == 0xFDD1 ||
+           (bKeepsLines && (uiCode == '\n' || uiCode == '\r'));
+}
+
+int spanOf(const HtmlTag &tag, const char *pKey)
+{
+    int iSpan = 1;
+    for (const HtmlAttribute &attribute : tag.listAttribute) {
+        if (attribute.strKey != QLatin1String(pKey))
+            continue;
+        QString strValue = attribute.value.toString();
+        // What an entity hides is taken for the worst.
+        if (strValue.contains(QLatin1Char('&')))
+            return MOST_COLUMNS_OF_CELL;
+        strValue.remove(QLatin1Char('"')).remove(QLatin1Char('\''));
+        bool bNumber = false;
+        const int iValue = strValue.toInt(&bNumber);
+        iSpan = bNumber ? qBound(iSpan, iValue, MOST_COLUMNS_OF_CELL) : iSpan;
+    }
+    return iSpan;
+}
+
+} // namespace
+
+HtmlCost::HtmlCost() : m_listOpen(1) {}
+
+HtmlCost::Kind HtmlCost::kindOf(const QString &strName)
+{
+    static const QHash<QString, Kind> KINDS{
+        {"p", Paragraph}, {"li", Item},          {"ul", List},      {"ol", List},    {"table", Table},
+        {"thead", Rows},  {"tbody", Rows},       {"tfoot", Rows},   {"tr", Row},     {"td", Cell},
+        {"th", Cell},     {"caption", Caption},  {"dd", Term},      {"dt", Term},    {"dl", Terms},
+        {"div", Block},   {"blockquote", Block}, {"center", Block}, {"h1", Block},   {"h2", Block},
+        {"h3", Block},    {"h4", Block},         {"h5", Block},     {"h6", Block},   {"hr", Rule},
+        {"br", Void},     {"img", Void},         {"meta", Void},    {"code", Code},  {"tt", Code},
+        {"kbd", Code},    {"samp", Code},        {"pre", Pre},      {"head", Head},  {"body", Body},
+        {"qt", Body},     {"style", Style},      {"script", None},  {"title", None}, {"link", None},
+        {"", Nameless},
+    };
+    return KINDS.value(strName, Inline);
+}
+
+bool HtmlCost::isBlock(Kind kind)
+{
+    return kind == Block || kind == Item || kind == Paragraph || kind == List || kind == Cell || kind == Caption ||
+           kind == Term || kind == Terms || kind == Rule || kind == Pre || kind == Body;
+}
+
+bool HtmlCost::isAllowedIn(Kind kind, Kind parent)
+{
+    switch (kind) {
+    case Term:
+        return parent == Terms;
+    case Row:
+        return parent == Table || parent == Rows;
+    case Cell:
+        return parent == Row;
+    case Rows:
+    case Caption:
+        return parent == Table;
+    case Body:
+        return parent != Head;
+    default:
+        return true;
+    }
+}
+
+bool HtmlCost::has(Kind kind) const
+{
+    return std::any_of(m_listOpen.begin() + 1, m_listOpen.end(), [kind](const Element &e) { return e.kind == kind; });
+}
+
+void HtmlCost::leaveTo(int iParent)
+{
+    while (m_listOpen.size() > iParent + 1)
+        pop();
+}
+
+void HtmlCost::pop()
+{
+    const Element element = m_listOpen.takeLast();
+    if (element.kind == List && !m_listItems.isEmpty())
+        m_listItems.removeLast(); // also for one that was hidden and never came into it
+    else if (element.kind == Table && !m_listGrid.isEmpty())
+        m_listGrid.removeLast();
+    else if (element.kind == Pre)
+        --m_iPre;
+}
+
+/// Closes and opens what Qt does before an element of that kind.
+void HtmlCost::makeRoomFor(const QString &strName, Kind kind)
+{
+    if (strName == QLatin1String("td") && !has(Row)) {
+        push(QStringLiteral("table"), Table, {}, QStringLiteral("table"));
+        push(QStringLiteral("tr"), Row, {}, QStringLiteral("tr"));
+    } else if (kind == Row && !has(Table)) {
+        push(QStringLiteral("table"), Table, {}, QStringLiteral("table"));
+    }
+    int iParent = m_listOpen.size() - 1;
+    if (kind == Paragraph) {
+        while (iParent > 0 && (!isBlock(m_listOpen.at(iParent).kind) || m_listOpen.at(iParent).bHidden))
+            --iParent;
+        if (iParent == 0 || m_listOpen.at(iParent).kind != Paragraph)
+            iParent = m_listOpen.size() - 1;
+    }
+    if ((kind == Paragraph || kind == Item) && m_listOpen.at(iParent).kind == kind)
+        --iParent;
+    while (iParent > 0 && !isAllowedIn(kind, m_listOpen.at(iParent).kind))
+        --iParent;
+    leaveTo(iParent);
+}
+
+int HtmlCost::formatOf(const QString &strName, const QString &strKept)
+{
+    const int iAround = m_listOpen.last().iFormat;
+    if (iAround == 0 && strKept.isEmpty())
+        return 0;
+    int &iFormat = m_formats[{iAround, strName + strKept}];
+    if (iFormat == 0)
+        iFormat = m_formats.size();
+    return iFormat;
+}
+
+void HtmlCost::push(const QString &strName, Kind kind, const QString &strKept, const QString &strWritten)
+{
+    const Element &around = m_listOpen.last();
+    Element element;
+    element.strName = strName;
+    element.strWritten = strWritten;
+    element.kind = kind;
+    element.bHidden =
+        around.bHidden || kind == Head || kind == Style || kind == None || strName == QLatin1String("meta");
+    element.iFormat = formatOf(strName, strKept);
+    element.iUnits = around.iUnits + strKept.size();
+    element.strKept = strKept;
+    m_listOpen.append(element);
+    if (kind == Pre)
+        ++m_iPre;
+    if (kind == List && !element.bHidden)
+        m_listItems.append(0);
+    if (kind == Table && !element.bHidden)
+        m_listGrid.append(Grid());
+}
+
+void HtmlCost::open(const HtmlTag &tag, const QString &strKept, const QString &strWritten)
+{
+    const Kind kind = kindOf(tag.strName);
+    if (kind == Nameless) {
+        // Qt makes an element of it that nothing lies in, and may count the one behind it twice.
+        m_dCost += INLINE + LEVEL * m_listOpen.size();
+        m_bAfterNameless = true;
+        return;
+    }
+    makeRoomFor(tag.strName, kind);
+    m_bStyles = m_bStyles || !strKept.isEmpty();
+    push(tag.strName, kind, strKept, strWritten);
+    addElement(m_listOpen.last(), tag);
+    if (kind == Void || kind == Rule || tag.bSelfClosing)
+        pop();
+    m_bAfterNameless = false;
+}
+
+void HtmlCost::addElement(const Element &element, const HtmlTag &tag)
+{
+    const double dDepth = m_listOpen.size();
+    const double dRules = dDepth * (m_iSheetUnits + UNITS_OF_EMPTY_SHEET * m_iSheets);
+    const double dEscapes = element.strKept.count(QLatin1Char('\\'));
+    m_dCost += (isBlock(element.kind) || element.kind == Void ? BLOCK : INLINE) + LEVEL * dDepth +
+               SHEET_UNIT_LEVEL * dRules + SHEET_UNIT_LEVEL_SQUARE * dRules * dRules +
+               ATTRIBUTE_UNIT * element.strKept.size() + ESCAPE_TIMES_UNIT * dEscapes * element.strKept.size() +
+               INHERITED_UNIT * element.iUnits * (1 + m_iSheetUnits);
+    if (element.iFormat != 0)
+        m_dCost += FORMAT_BEFORE * m_formats.size();
+    if (m_bSiblings)
+        m_dCost += SIBLING_BEFORE * ++m_iElements * m_iSheetUnits;
+    if ((element.kind == Code || element.kind == Pre) && element.strWritten == element.strName)
+        m_dCost += CODE;
+    if (!element.bHidden)
+        addShown(element, tag);
+}
+
+// What is hidden has no place in the text that Qt makes.
+void HtmlCost::addShown(const Element &element, const HtmlTag &tag)
+{
+    m_bUnevenCells = m_bUnevenCells || (element.kind == Table && !element.strKept.isEmpty());
+    const bool bInTable = element.kind != Cell || !m_listGrid.isEmpty();
+    if (isBlock(element.kind) && element.kind != List && bInTable && !m_bUnevenCells)
+        m_iBlockUnits = 0;
+    if (element.kind == Item && !m_listItems.isEmpty())
+        m_dCost += ITEM_BEFORE * ++m_listItems.last();
+    else if (isBlock(element.kind) && !m_listItems.isEmpty())
+        m_dCost += BLOCK_IN_LIST * m_listItems.last();
+    if (element.kind == List)
+        m_dCost += LIST;
+    else if (element.kind == Table)
+        m_dCost += TABLE + TABLE_BEFORE * ++m_iTables + TABLE_LEVEL * m_listOpen.size();
+    else if (element.kind == Row)
+        addRow();
+    else if (element.kind == Cell)
+        addCell(tag);
+    else if (element.strName == QLatin1String("img"))
+        addImage();
+}
+
+void HtmlCost::addRow()
+{
+    if (m_listGrid.isEmpty())
+        return;
+    Grid &grid = m_listGrid.last();
+    grid.iRows += m_bAfterNameless ? 2 : 1;
+    grid.iCells = 0;
+    while (!grid.mapSpan.isEmpty() && grid.mapSpan.firstKey() < grid.iRows)
+        grid.iSpanned -= grid.mapSpan.take(grid.mapSpan.firstKey());
+    addPlaces(grid);
+}
+
+void HtmlCost::addCell(const HtmlTag &tag)
+{
+    m_dCost += CELL;
+    if (m_listGrid.isEmpty())
+        return;
+    Grid &grid = m_listGrid.last();
+    const qint64 iColumns = spanOf(tag, "colspan");
+    const qint64 iRows = spanOf(tag, "rowspan");
+    grid.iCells += iColumns * (m_bAfterNameless ? 2 : 1);
+    if (iRows > 1) {
+        grid.mapSpan[grid.iRows + iRows - 1] += iColumns;
+        grid.iSpanned += iColumns;
+    }
+    if (iColumns > 1 || iRows > 1) {
+        m_bUnevenCells = true;
+        m_dCost += SPANNING_CELL + SPANNED_PLACE * double(iColumns * iRows) + CELL_BEFORE * double(grid.iPlaces);
+    }
+    grid.iColumns = qMax(grid.iColumns, grid.iCells + grid.iSpanned);
+    addPlaces(grid);
+}
+
+void HtmlCost::addPlaces(Grid &grid)
+{
+    const qint64 iPlaces = qMax<qint64>(grid.iRows, 1) * grid.iColumns;
+    m_dCost += PLACE * double(iPlaces - grid.iPlaces);
+    grid.iPlaces = iPlaces;
+}
+
+// Qt lays out the block as far as it goes.
+void HtmlCost::addImage()
+{
+    m_dCost += IMAGE + IMAGE_UNIT_BEFORE * ++m_iBlockUnits;
+}
+
+int HtmlCost::indexOfOpen(const QString &strName) const
+{
+    int i = strName.isEmpty() ? 0 : m_listOpen.size() - 1;
+    while (i > 0 && m_listOpen.at(i).strName != strName)
+        --i;
+    return i;
+}
+
+QString HtmlCost::writtenName(const QString &strName) const
+{
+    return m_listOpen.at(indexOfOpen(strName)).strWritten;
+}
+
+int HtmlCost::close(const QString &strName)
+{
+    const int i = indexOfOpen(strName);
+    m_dCost += UNMATCHED_LEVEL * m_listOpen.size();
+    if (i == 0)
+        return 0;
+    m_dCost += CLOSING + LEVEL * m_listOpen.size();
+    m_iSheets += isInStyle() ? 1 : 0;
+    const QString strWritten = m_listOpen.at(i).strWritten;
+    const int iTags = int(std::count_if(m_listOpen.cbegin() + i, m_listOpen.cend(),
+                                        [&strWritten](const Element &open) { return open.strWritten == strWritten; }));
+    leaveTo(i - 1);
+    m_bAfterNameless = false;
+    return iTags;
+}
+
+void HtmlCost::text(const QStringRef &text)
+{
+    const bool bKeepsLines = m_iPre > 0 || m_bStyles || m_iSheetUnits > 0;
+    int iBlocks = 0;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool bEntity = c == QLatin1Char('&');
+        const uint uiCode = bEntity ? HtmlTags::numericEntity(*text.string(), text.position() + i) : uint(c.unicode());
+        iBlocks += isBlockEnd(uiCode, bKeepsLines) ? 1 : 0;
+    }
+    m_dCost += UNIT * text.size() + NEW_BLOCK_IN_TEXT * iBlocks;
+    m_iBlockUnits += text.size();
+}
+
+void HtmlCost::addSheet(int iUnits, bool bSiblings)
+{
+    m_iSheetUnits += iUnits;
+    m_bSiblings = m_bSiblings || bSiblings;
+    m_dCost += ATTRIBUTE_UNIT * iUnits + ESCAPE_TIMES_UNIT * double(iUnits) * iUnits;
+}
+
+bool HtmlCost::isPlainLine() const
+{
+    const Element &last = m_listOpen.last();
+    const bool bAstray = last.kind == Table || last.kind == Rows || last.kind == Row || last.kind == List;
+    return !last.bHidden && last.iUnits == 0 && !bAstray;
+}
+
+bool HtmlCost::isListFull() const
+{
+    const int iLast = m_listOpen.size() - 1;
+    const bool bInItem = m_listOpen.at(iLast).kind == Item && iLast > 0;
+    return !m_listOpen.last().bHidden && m_listOpen.at(bInItem ? iLast - 1 : iLast).kind == List &&
+           !m_listItems.isEmpty() && m_listItems.last() >= MOST_ITEMS;
+}
+
+QPair<QString, QString> HtmlCost::openList() const
+{
+    const auto list = std::find_if(m_listOpen.rbegin(), m_listOpen.rend(),
+                                   [](const Element &element) { return element.kind == List; });
+    return list == m_listOpen.rend() ? QPair<QString, QString>()
+                                     : QPair<QString, QString>(list->strName, list->strKept);
+}

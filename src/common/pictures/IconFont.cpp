@@ -1,0 +1,105 @@
+#include "common/pictures/IconFont.h"
+
+#include "common/pictures/IconGlyphs.h"
+#include "common/system/DpiScale.h"
+#include "model/SharedContext.h"
+
+#include <QFontDatabase>
+#include <QImage>
+#include <QPainter>
+
+#include <limits>
+
+namespace {
+
+const QString FONT_FILE = QStringLiteral("Resources/BaseConfig/kelvarimiconfont.ttf");
+constexpr int DEFAULT_PIXEL_SIZE = 12;
+
+// Stands for every value that has no row of its own.
+constexpr int ANY = std::numeric_limits<int>::min();
+
+struct StatusRow
+{
+    int m_iKind;
+    int m_iStatus;
+    ushort m_uGlyph;
+};
+
+// The first row that fits counts, so kind 0 goes before status 0.
+// clang-format off
+constexpr StatusRow STATUS_ROWS[] = {
+    {0,   0,   IconGlyph::DesktopOffline},
+    {0,   1,   IconGlyph::DesktopOnline},
+    {0,   2,   IconGlyph::DesktopAway},
+    {0,   3,   IconGlyph::DesktopAway},
+    {0,   4,   IconGlyph::DesktopBusy},
+    {0,   ANY, IconGlyph::DesktopOnline},
+    {1,   0,   IconGlyph::PhoneOffline},
+    {2,   0,   IconGlyph::TabletOffline},
+    {ANY, 0,   IconGlyph::OtherDeviceOffline},
+    {1,   ANY, IconGlyph::PhoneOnline},
+    {2,   ANY, IconGlyph::TabletOnline},
+    {ANY, ANY, IconGlyph::OtherDeviceOnline},
+};
+// clang-format on
+
+// Letters that a list sets in the icon font come from the windows' text family, or from what stands in for that one.
+void borrowLetters(const QString &strFamily)
+{
+    const QString strTextFamily = QStringLiteral("微软雅黑");
+    QFont::insertSubstitutions(strFamily, QStringList{strTextFamily} + QFont::substitutes(strTextFamily));
+}
+
+QFont fontOfFile()
+{
+    const int iFont = QFontDatabase::addApplicationFont(FONT_FILE);
+    const QStringList listFamily = QFontDatabase::applicationFontFamilies(iFont);
+    if (listFamily.isEmpty())
+        return QFont();
+    borrowLetters(listFamily.first());
+    return QFont(listFamily.first());
+}
+
+} // namespace
+
+QFont IconFont::getIconFont()
+{
+    const CommonData *pContext = SharedContext::getCommonData();
+    if (pContext != nullptr && pContext->getIconFont() != nullptr) {
+        return *pContext->getIconFont();
+    }
+    static QFont font = fontOfFile();
+    font.setPixelSize(DEFAULT_PIXEL_SIZE);
+    font.setStyleStrategy(QFont::PreferAntialias);
+    return font;
+}
+
+QPixmap IconFont::getIconFontPixmap(const QString &strGlyph, const QColor &color, const QSize &size, int iPixelSize)
+{
+    if (size.isEmpty()) {
+        return {};
+    }
+    QImage image(size, QImage::Format_ARGB32);
+    image.fill(0);
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.setPen(color);
+    QFont font = getIconFont();
+    if (const int iScaled = ADAPT_DPI_INT(iPixelSize); iScaled > 0) {
+        font.setPixelSize(iScaled);
+    }
+    painter.setFont(font);
+    painter.drawText(image.rect(), Qt::AlignCenter, strGlyph);
+    painter.end();
+    return QPixmap::fromImage(image);
+}
+
+QString IconFont::getStatusTypeName(int iStatus, int iKind, bool /*bUnused*/)
+{
+    for (const StatusRow &row : STATUS_ROWS) {
+        if ((row.m_iKind == iKind || row.m_iKind == ANY) && (row.m_iStatus == iStatus || row.m_iStatus == ANY)) {
+            return IconGlyph::text(row.m_uGlyph);
+        }
+    }
+    return {};
+}

@@ -1,0 +1,52 @@
+#include "common/pictures/PictureFile.h"
+
+#include <QByteArray>
+#include <QFileInfo>
+#include <QImageReader>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct PictureFormat
+{
+    const char *pName;
+    /// A byte of the file says no more pixels. A damaged file that declares more would cost the memory and the time of
+    /// a picture that it does not hold.
+    qint64 iMostPixelsPerByte;
+};
+
+// Other formats may hold pictures within pictures, whose size is not the declared one.
+constexpr PictureFormat PICTURE_FORMATS[] = {
+    {"png", 10000}, {"jpg", 10000}, {"jpeg", 10000}, {"bmp", 128}, {"gif", 10000}};
+
+// A bitmap that is stored from its top row down declares a negative height.
+bool isAllowed(const QByteArray &format, const QSize &size, qint64 iFileBytes)
+{
+    const auto row = std::find_if(std::begin(PICTURE_FORMATS), std::end(PICTURE_FORMATS),
+                                  [&format](const PictureFormat &known) { return format == known.pName; });
+    if (row == std::end(PICTURE_FORMATS))
+        return false;
+    const qint64 iWidth = size.width();
+    const qint64 iHeight = qAbs(qint64(size.height()));
+    const qint64 iMost = qMin(iMOST_PICTURE_PIXELS, iFileBytes * row->iMostPixelsPerByte);
+    return iWidth > 0 && iHeight > 0 && iWidth * iHeight <= iMost;
+}
+
+} // namespace
+
+QPixmap readPictureFile(const QString &strPath)
+{
+    // Anything but a plain file could also keep the reader waiting.
+    const QFileInfo file(strPath);
+    if (!file.isFile()) {
+        return {};
+    }
+    QImageReader reader(strPath);
+    reader.setDecideFormatFromContent(true);
+    if (!isAllowed(reader.format(), reader.size(), file.size())) {
+        return {};
+    }
+    return QPixmap::fromImageReader(&reader);
+}

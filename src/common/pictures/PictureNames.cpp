@@ -1,0 +1,58 @@
+#include "common/pictures/PictureNames.h"
+
+#include "common/PictureFun.h"
+#include "common/pictures/PictureFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+// Enough for the first bytes that tell the kind of a picture.
+constexpr int HEAD_LENGTH = 8;
+
+struct FilterRow
+{
+    const char *m_pSuffix;
+    const char *m_pFilter;
+};
+
+// The first row serves every other suffix too.
+// clang-format off
+constexpr FilterRow FILTER_ROWS[] = {
+    {"png",  "PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)"},
+    {"jpg",  "JPEG (*.jpg *.jpeg);;PNG (*.png);;BMP (*.bmp)"},
+    {"jpeg", "JPEG (*.jpg *.jpeg);;PNG (*.png);;BMP (*.bmp)"},
+    {"bmp",  "BMP (*.bmp);;PNG (*.png);;JPEG (*.jpg *.jpeg)"},
+    {"gif",  "GIF (*.gif);;PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)"},
+};
+// clang-format on
+
+} // namespace
+
+QString PictureNames::getImageType(const QString &strPath)
+{
+    const QFileInfo info(strPath);
+    QFile file(strPath);
+    if (!readPictureFile(strPath).isNull() || !info.isFile() || !file.open(QIODevice::ReadOnly)) {
+        return info.suffix();
+    }
+    const int iType = PictureFun::getFileType(file.read(HEAD_LENGTH));
+    return iType == 0 ? info.suffix() : PictureFun::getSuffixOfType(iType);
+}
+
+QStringList PictureNames::GetPictureSuffix()
+{
+    return {QStringLiteral("png"), QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("bmp"),
+            QStringLiteral("gif")};
+}
+
+QString PictureNames::getPicSaveSuffixes(const QString &strSuffix)
+{
+    for (const FilterRow &row : FILTER_ROWS) {
+        if (strSuffix == QLatin1String(row.m_pSuffix)) {
+            return QLatin1String(row.m_pFilter);
+        }
+    }
+    return QLatin1String(FILTER_ROWS[0].m_pFilter);
+}

@@ -1,0 +1,357 @@
+#include "common/pictures/HeadImages.h"
+
+#include "model/SharedContext.h"
+#include "model/SystemSetData.h"
+
+#include "fakes/PictureFiles.h"
+
+#include <QBitmap>
+#include <QPainter>
+#include <QtTest>
+
+using namespace PictureFiles;
+
+namespace {
+
+// Every pixel tells where it stood: red its column, green its row.
+QImage mapOf(const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            image.setPixel(x, y, qRgb(x, y, 0));
+        }
+    }
+    return image;
+}
+
+QString writePng(const QString &strName, const QImage &image)
+{
+    return writeBytes(strName, encoded(image, "PNG"));
+}
+
+QList<QPoint> cornersOf(const QRect &rect)
+{
+    return {rect.topLeft(), rect.topRight(), rect.bottomLeft(), rect.bottomRight()};
+}
+
+} // namespace
+
+class tst_HeadImages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_settings.m_strUserFolder = QDir::current().absoluteFilePath(QStringLiteral("me"));
+        m_context.setSystemSetData(&m_settings);
+        SharedContext::setCommonData(&m_context);
+        QDir(m_settings.m_strUserFolder).removeRecursively();
+        QVERIFY(QDir().mkpath(m_settings.m_strUserFolder));
+    }
+    void cleanup() { SharedContext::setCommonData(nullptr); }
+
+    void scaledPictureIsCutAroundTheMiddle_data()
+    {
+        QTest::addColumn<QSize>("picture");
+        QTest::addColumn<QSize>("target");
+        QTest::addColumn<QSize>("result");
+        QTest::addColumn<QPoint>("first");
+        QTest::newRow("smaller stays") << QSize(100, 100) << QSize(200, 200) << QSize(100, 100) << QPoint(0, 0);
+        QTest::newRow("equal stays") << QSize(50, 60) << QSize(50, 60) << QSize(50, 60) << QPoint(0, 0);
+        QTest::newRow("wider") << QSize(100, 40) << QSize(30, 50) << QSize(30, 40) << QPoint(35, 0);
+        QTest::newRow("wider, as high") << QSize(100, 50) << QSize(31, 50) << QSize(31, 50) << QPoint(34, 0);
+        QTest::newRow("taller") << QSize(40, 100) << QSize(50, 30) << QSize(40, 30) << QPoint(0, 35);
+        QTest::newRow("taller, as wide") << QSize(50, 100) << QSize(50, 31) << QSize(50, 31) << QPoint(0, 34);
+        QTest::newRow("twice the size") << QSize(100, 100) << QSize(50, 50) << QSize(50, 50) << QPoint(0, 0);
+        QTest::newRow("larger, of a wider shape") << QSize(200, 100) << QSize(50, 50) << QSize(50, 50) << QPoint(50, 0);
+        QTest::newRow("larger, of a higher shape")
+            << QSize(100, 200) << QSize(50, 50) << QSize(50, 50) << QPoint(0, 50);
+        // 100 times (3 / 7) is 42.86: a column of 42 is cut, which the ratio makes 2 wide at a height of 5.
+        QTest::newRow("lengths are cut off") << QSize(90, 100) << QSize(3, 7) << QSize(2, 7) << QPoint(34, 7);
+    }
+    void scaledPictureIsCutAroundTheMiddle()
+    {
+        QFETCH(QSize, picture);
+        QFETCH(QSize, target);
+        QFETCH(QPoint, first);
+        const QString strPath = writePng(QStringLiteral("map.png"), mapOf(picture));
+        const QImage scaled = HeadImages::getScaledPixmap(strPath, target).toImage();
+        QTEST(scaled.size(), "result");
+        const QColor corner = scaled.pixelColor(0, 0);
+        QCOMPARE(QPoint(corner.red(), corner.green()), first);
+    }
+
+    void largerPictureIsCutAndThenScaledFast()
+    {
+        const QImage map = mapOf(QSize(200, 90));
+        const QImage cut = map.copy(55, 0, 90, 90);
+        const QString strPath = writePng(QStringLiteral("map.png"), map);
+        const QImage scaled = HeadImages::getScaledPixmap(strPath, QSize(20, 20)).toImage();
+        const QImage fast = cut.scaled(20, 20, Qt::KeepAspectRatio, Qt::FastTransformation);
+        QVERIFY(fast != cut.scaled(20, 20, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        QCOMPARE(scaled.convertToFormat(QImage::Format_RGB32), fast);
+    }
+
+    void scalingIsToldOnTheDebugChannel()
+    {
+        QTest::ignoreMessage(QtDebugMsg, "CommonFun::getScaledPixmap \"some/path.png\" ,resultSize: QSize(-1, 7)");
+        QVERIFY(HeadImages::getScaledPixmap(QStringLiteral("some/path.png"), QSize(-1, 7)).isNull());
+    }
+
+    void scalingToNothingGivesANullPixmap_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("negative width") << QSize(-1, 10);
+        QTest::newRow("negative height") << QSize(10, -1);
+        QTest::newRow("no width") << QSize(0, 10);
+        QTest::newRow("no height") << QSize(10, 0);
+        QTest::newRow("nothing") << QSize(0, 0);
+    }
+    void scalingToNothingGivesANullPixmap()
+    {
+        QFETCH(QSize, size);
+        QVERIFY(HeadImages::getScaledPixmap(writePng("map.png", mapOf(QSize(20, 20))), size).isNull());
+    }
+
+    void badPictureGivesANullPixmap_data() { addBadPictureRows(); }
+    void badPictureGivesANullPixmap()
+    {
+        QFETCH(QString, path);
+        writeMask();
+        QVERIFY(HeadImages::getScaledPixmap(path, QSize(20, 20)).isNull());
+        QVERIFY(HeadImages::getRoundedImage(path, 20).isNull());
+        QVERIFY(HeadImages::getIrregularPix(path, 20).isNull());
+    }
+
+    void roundedHeadIsACircle_data()
+    {
+        QTest::addColumn<int>("radius");
+        QTest::addColumn<QSize>("picture");
+        for (const int iRadius : {22, 40, 45, 100}) {
+            QTest::addRow("%d from a wide picture", iRadius) << iRadius << QSize(90, 30);
+            QTest::addRow("%d from a small picture", iRadius) << iRadius << QSize(8, 8);
+        }
+    }
+    void roundedHeadIsACircle()
+    {
+        QFETCH(int, radius);
+        QFETCH(QSize, picture);
+        const QString strPath = writePng(QStringLiteral("blue.png"), plain(picture, Qt::blue));
+        const QImage head = HeadImages::getRoundedImage(strPath, radius).toImage();
+        QCOMPARE(head.size(), QSize(radius, radius));
+        for (const QPoint &corner : cornersOf(head.rect())) {
+            QCOMPARE(head.pixelColor(corner).alpha(), 0);
+        }
+        QCOMPARE(head.pixelColor(radius / 2, radius / 2), QColor(Qt::blue));
+        const double dMiddle = radius / 2.0;
+        for (int y = 0; y < radius; ++y) {
+            for (int x = 0; x < radius; ++x) {
+                const double dDistance = std::hypot(x + 0.5 - dMiddle, y + 0.5 - dMiddle);
+                if (dDistance < dMiddle - 1.5) {
+                    QCOMPARE(head.pixelColor(x, y), QColor(Qt::blue));
+                } else if (dDistance > dMiddle + 1.5) {
+                    QCOMPARE(head.pixelColor(x, y).alpha(), 0);
+                }
+            }
+        }
+    }
+
+    void roundedHeadHasASmoothEdge()
+    {
+        const QString strPath = writePng(QStringLiteral("blue.png"), plain(QSize(50, 50), Qt::blue));
+        const QImage head = HeadImages::getRoundedImage(strPath, 40).toImage();
+        int iHalf = 0;
+        for (int y = 0; y < 40; ++y) {
+            for (int x = 0; x < 40; ++x) {
+                const int iAlpha = head.pixelColor(x, y).alpha();
+                iHalf += iAlpha > 0 && iAlpha < 255 ? 1 : 0;
+            }
+        }
+        QVERIFY2(iHalf > 20, qPrintable(QString::number(iHalf)));
+    }
+
+    void roundedHeadKeepsTheTransparencyOfThePicture()
+    {
+        QImage image(40, 40, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        const QImage head = HeadImages::getRoundedImage(writePng("clear.png", image), 20).toImage();
+        QCOMPARE(head.pixelColor(10, 10).alpha(), 0);
+    }
+
+    void changedFileShowsAtTheNextCall()
+    {
+        const QString strPath = writePng(QStringLiteral("head.png"), plain(QSize(30, 30), Qt::blue));
+        HeadImages::getRoundedImage(strPath, 20);
+        writePng(QStringLiteral("head.png"), plain(QSize(30, 30), Qt::green));
+        QCOMPARE(HeadImages::getRoundedImage(strPath, 20).toImage().pixelColor(10, 10), QColor(Qt::green));
+    }
+
+    void noRadiusGivesANullPixmap()
+    {
+        writeMask();
+        const QString strPath = writePng(QStringLiteral("blue.png"), plain(QSize(30, 30), Qt::blue));
+        QVERIFY(HeadImages::getRoundedImage(strPath, 0).isNull());
+        QVERIFY(HeadImages::getRoundedImage(strPath, -5).isNull());
+        QVERIFY(HeadImages::getIrregularPix(strPath, 0).isNull());
+        QVERIFY(HeadImages::getIrregularPix(strPath, -5).isNull());
+    }
+
+    void irregularPictureHasTheShapeOfTheMask()
+    {
+        writeMask();
+        const QString strPath = writePng(QStringLiteral("blue.png"), plain(QSize(64, 64), Qt::blue));
+        const QImage picture = HeadImages::getIrregularPix(strPath, 32).toImage();
+        QCOMPARE(picture.size(), QSize(32, 32));
+        for (int y = 0; y < 32; ++y) {
+            QCOMPARE(picture.pixelColor(4, y), QColor(Qt::blue));
+            QCOMPARE(picture.pixelColor(27, y).alpha(), 0);
+        }
+    }
+
+    void irregularPictureKeepsItsProportions()
+    {
+        writeMask();
+        const QString strPath = writePng(QStringLiteral("wide.png"), plain(QSize(80, 40), Qt::blue));
+        const QImage picture = HeadImages::getIrregularPix(strPath, 32).toImage();
+        QCOMPARE(picture.size(), QSize(32, 16));
+        QCOMPARE(picture.pixelColor(4, 8), QColor(Qt::blue));
+        QCOMPARE(picture.pixelColor(27, 8).alpha(), 0);
+    }
+
+    void irregularPictureNeedsTheMask()
+    {
+        QFile::remove(QStringLiteral("Resources/images/Dynamic/topic_mask.png"));
+        const QString strPath = writePng(QStringLiteral("blue.png"), plain(QSize(64, 64), Qt::blue));
+        QVERIFY(HeadImages::getIrregularPix(strPath, 32).isNull());
+    }
+
+    void headImageIsStoredUnderTheAccount_data()
+    {
+        QTest::addColumn<QString>("jid");
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<QString>("file");
+        QTest::newRow("jid") << "1001@im.local"
+                             << "jpg"
+                             << "1001.jpg";
+        QTest::newRow("jid with a resource") << "1001@im.local/pc@home"
+                                             << "png"
+                                             << "1001.png";
+        QTest::newRow("uid") << "1001"
+                             << "bmp"
+                             << "1001.bmp";
+    }
+    void headImageIsStoredUnderTheAccount()
+    {
+        QFETCH(QString, jid);
+        QFETCH(QString, suffix);
+        QFETCH(QString, file);
+        const QPixmap pixmap = QPixmap::fromImage(plain(QSize(30, 10), Qt::blue));
+        const QString strPath = HeadImages::getFormattedImage("unused", jid, pixmap, QSize(20, 20), suffix);
+        QCOMPARE(strPath, folder() + file);
+        QCOMPARE(QImage(strPath).size(), QSize(20, 20));
+    }
+
+    void headImageIsStretchedFast()
+    {
+        const QPixmap pixmap = QPixmap::fromImage(mapOf(QSize(40, 20)));
+        const QString strPath = HeadImages::getFormattedImage({}, "1001@d", pixmap, QSize(10, 10), "png");
+        QCOMPARE(QImage(strPath).convertToFormat(QImage::Format_RGB32),
+                 mapOf(QSize(40, 20)).scaled(10, 10, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+    }
+
+    void headImageIsStoredAtTheBestQuality()
+    {
+        const QPixmap pixmap = QPixmap::fromImage(mapOf(QSize(40, 40)));
+        QFile file(HeadImages::getFormattedImage({}, "1001@d", pixmap, QSize(40, 40), "jpg"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), encoded(mapOf(QSize(40, 40)), "JPG"));
+    }
+
+    void otherFilesOfTheAccountAreRemoved_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<QStringList>("left");
+        // The png is removed unless a jpg is stored: its test goes by the jpg's name.
+        QTest::newRow("jpg") << "jpg" << QStringList{"1001.jpg", "1001.png", "1002.jpg"};
+        QTest::newRow("png") << "png" << QStringList{"1001.png", "1002.jpg"};
+        QTest::newRow("jpeg") << "jpeg" << QStringList{"1001.jpeg", "1002.jpg"};
+        QTest::newRow("bmp") << "bmp" << QStringList{"1001.bmp", "1002.jpg"};
+    }
+    void otherFilesOfTheAccountAreRemoved()
+    {
+        QFETCH(QString, suffix);
+        QVERIFY(QDir().mkpath(folder()));
+        for (const char *pName : {"1001.jpg", "1001.png", "1001.jpeg", "1002.jpg"}) {
+            QVERIFY(!writeBytes(folder() + pName, "old").isEmpty());
+        }
+        const QPixmap pixmap = QPixmap::fromImage(plain(QSize(30, 30), Qt::blue));
+        const QString strPath = HeadImages::getFormattedImage({}, "1001@d", pixmap, QSize(20, 20), suffix);
+        QTEST(QDir(folder()).entryList(QDir::Files, QDir::Name), "left");
+        QVERIFY(!QImage(strPath).isNull());
+    }
+
+    void existingPngIsRemovedBeforeItIsWrittenAnew()
+    {
+        // An open handle tells: writing into the file would change what it reads.
+        QVERIFY(QDir().mkpath(folder()));
+        const QString strOld = writeBytes(folder() + "1001.png", "old");
+        QFile kept(strOld);
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        const QPixmap pixmap = QPixmap::fromImage(plain(QSize(30, 30), Qt::blue));
+        HeadImages::getFormattedImage({}, "1001@d", pixmap, QSize(20, 20), "png");
+        QCOMPARE(kept.readAll(), QByteArray("old"));
+        QCOMPARE(QImage(strOld).size(), QSize(20, 20));
+    }
+
+    void noPictureKeepsTheOldHead()
+    {
+        QVERIFY(QDir().mkpath(folder()));
+        writeBytes(folder() + "1001.jpg", "old");
+        const QPixmap pixmap = QPixmap::fromImage(plain(QSize(30, 30), Qt::blue));
+        QCOMPARE(HeadImages::getFormattedImage({}, "1001@d", QPixmap(), QSize(20, 20), "png"), folder() + "1001.png");
+        QCOMPARE(HeadImages::getFormattedImage({}, "1001@d", pixmap, QSize(0, 20), "png"), folder() + "1001.png");
+        QCOMPARE(QDir(folder()).entryList(QDir::Files), QStringList("1001.jpg"));
+    }
+
+    void formatThatCannotBeWrittenKeepsTheOldHead()
+    {
+        QVERIFY(QDir().mkpath(folder()));
+        writeBytes(folder() + "1001.jpg", "old");
+        const QPixmap pixmap = QPixmap::fromImage(plain(QSize(30, 30), Qt::blue));
+        QCOMPARE(HeadImages::getFormattedImage({}, "1001@d", pixmap, QSize(20, 20), "gif"), folder() + "1001.gif");
+        QCOMPARE(HeadImages::getFormattedImage({}, "1001@d", pixmap, QSize(20, 20), ""), folder() + "1001.");
+        QCOMPARE(HeadImages::getFormattedImage({}, "1001@d", pixmap, QSize(20, 20), "x/png"), QString());
+        QCOMPARE(QDir(folder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList("1001.jpg"));
+    }
+
+    void jidCannotLeadOutOfTheFolder()
+    {
+        QVERIFY(QDir().mkpath(folder()));
+        const QString strOutside = writeBytes(m_settings.m_strUserFolder + "/x.jpg", "mine");
+        const QPixmap pixmap = QPixmap::fromImage(plain(QSize(30, 30), Qt::blue));
+        QCOMPARE(HeadImages::getFormattedImage({}, "../x@d", pixmap, QSize(20, 20), "png"), QString());
+        QVERIFY(QFile::exists(strOutside));
+        QVERIFY(!QFile::exists(m_settings.m_strUserFolder + "/x.png"));
+    }
+
+private:
+    QString folder() const { return m_settings.m_strUserFolder + QStringLiteral("/designHeadImage/"); }
+
+    // Black on the left, which is kept, and white on the right.
+    static void writeMask()
+    {
+        QImage mask = plain(QSize(50, 50), Qt::white);
+        QPainter(&mask).fillRect(0, 0, 25, 50, Qt::black);
+        QVERIFY(QDir().mkpath(QStringLiteral("Resources/images/Dynamic")));
+        QVERIFY(!writePng(QStringLiteral("Resources/images/Dynamic/topic_mask.png"), mask).isEmpty());
+    }
+
+    CommonData m_context;
+    SystemSetData m_settings;
+};
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_HeadImages, Widgets)
+#include "tst_HeadImages.moc"

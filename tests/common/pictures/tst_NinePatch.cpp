@@ -1,0 +1,150 @@
+#include "common/pictures/NinePatch.h"
+
+#include <QPainter>
+#include <QtTest>
+
+namespace {
+
+// The nine parts in nine colours, three parts a row.
+const QColor PARTS[3][3] = {{QColor(1, 0, 0), QColor(2, 0, 0), QColor(3, 0, 0)},
+                            {QColor(4, 0, 0), QColor(5, 0, 0), QColor(6, 0, 0)},
+                            {QColor(7, 0, 0), QColor(8, 0, 0), QColor(9, 0, 0)}};
+
+int partOf(int iPixel, int iFirst, int iSecond)
+{
+    return iPixel < iFirst ? 0 : iPixel < iSecond ? 1 : 2;
+}
+
+QImage expectedFrame(const QSize &size, int iColumnEnd, int iRowEnd)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            image.setPixelColor(x, y, PARTS[partOf(y, 10, iRowEnd)][partOf(x, 10, iColumnEnd)]);
+        }
+    }
+    return image;
+}
+
+QPixmap source(const QSize &size)
+{
+    return QPixmap::fromImage(expectedFrame(size, 19, 19));
+}
+
+QImage drawn(const QSize &size, const QPixmap &picture)
+{
+    return NinePatch::drawNinePatch(size, picture).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+QImage transparent(const QSize &size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+} // namespace
+
+class tst_NinePatch : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cornersStayAndTheMiddleStretches_data()
+    {
+        QTest::addColumn<QSize>("target");
+        QTest::addColumn<QSize>("picture");
+        QTest::newRow("wider and higher") << QSize(200, 120) << QSize(29, 31);
+        QTest::newRow("same size") << QSize(29, 31) << QSize(29, 31);
+        QTest::newRow("narrower by less than the middle") << QSize(24, 30) << QSize(29, 31);
+        QTest::newRow("uneven corners") << QSize(101, 77) << QSize(60, 22);
+        QTest::newRow("one pixel of a right column") << QSize(50, 50) << QSize(20, 20);
+        QTest::newRow("no right column and no bottom row") << QSize(50, 50) << QSize(19, 19);
+    }
+    void cornersStayAndTheMiddleStretches()
+    {
+        QFETCH(QSize, target);
+        QFETCH(QSize, picture);
+        const QImage frame = drawn(target, source(picture));
+        QCOMPARE(frame, expectedFrame(target, target.width() - (picture.width() - 19),
+                                      target.height() - (picture.height() - 19)));
+    }
+
+    void cornerPixelsAreThoseOfThePicture()
+    {
+        // A picture with one odd pixel at each outer corner and at each inner edge of a corner part.
+        QImage image = source(QSize(30, 30)).toImage();
+        const QList<QPoint> spots = {{0, 0}, {29, 0}, {0, 29}, {29, 29}, {9, 9}, {19, 9}, {9, 19}, {19, 19}};
+        for (const QPoint &spot : spots) {
+            image.setPixelColor(spot, Qt::green);
+        }
+        const QImage frame = drawn(QSize(100, 80), QPixmap::fromImage(image));
+        for (const QPoint &spot : spots) {
+            const QPoint moved(spot.x() < 10 ? spot.x() : spot.x() + 70, spot.y() < 10 ? spot.y() : spot.y() + 50);
+            QCOMPARE(frame.pixelColor(moved), QColor(Qt::green));
+        }
+        QCOMPARE(frame.pixelColor(10, 10), PARTS[1][1]);
+        QCOMPARE(frame.pixelColor(88, 68), PARTS[1][1]);
+    }
+
+    void transparentPartsStayTransparent()
+    {
+        QImage image = source(QSize(30, 30)).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        image.setPixel(0, 0, 0);
+        image.setPixel(29, 29, qPremultiply(qRgba(0, 0, 255, 128)));
+        const QImage frame = drawn(QSize(100, 80), QPixmap::fromImage(image));
+        QCOMPARE(frame.pixel(0, 0), QRgb(0));
+        QCOMPARE(qAlpha(frame.pixel(99, 79)), 128);
+    }
+
+    void pictureSmallerThanTheCutsHasNoFarParts()
+    {
+        const QImage frame = drawn(QSize(60, 60), source(QSize(15, 15)));
+        QCOMPARE(frame.pixelColor(0, 0), PARTS[0][0]);
+        QCOMPARE(frame.pixelColor(9, 9), PARTS[0][0]);
+    }
+
+    void targetSmallerThanTheCornersShowsTheLastOfThem()
+    {
+        const QImage frame = drawn(QSize(12, 12), source(QSize(40, 40)));
+        QCOMPARE(frame.size(), QSize(12, 12));
+        QCOMPARE(frame.pixelColor(0, 0), PARTS[2][2]);
+        QCOMPARE(frame.pixelColor(11, 11), PARTS[2][2]);
+    }
+
+    void stretchWithoutRoomIsNotPainted()
+    {
+        QImage image = source(QSize(40, 40)).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        for (int y = 0; y < 40; ++y) {
+            for (int x = 0; x < 40; ++x) {
+                if (x >= 19 || y >= 19) {
+                    image.setPixel(x, y, 0);
+                }
+            }
+        }
+        const QImage frame = drawn(QSize(20, 20), QPixmap::fromImage(image));
+        QCOMPARE(frame.pixelColor(9, 9), PARTS[0][0]);
+        QCOMPARE(frame.pixel(10, 5), QRgb(0));
+        QCOMPARE(frame.pixel(5, 10), QRgb(0));
+        QCOMPARE(frame.pixel(10, 10), QRgb(0));
+    }
+
+    void noPictureGivesATransparentFrame() { QCOMPARE(drawn(QSize(40, 30), QPixmap()), transparent(QSize(40, 30))); }
+
+    void emptySizeGivesANullPixmap_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("none") << QSize();
+        QTest::newRow("zero") << QSize(0, 20);
+        QTest::newRow("negative") << QSize(20, -1);
+    }
+    void emptySizeGivesANullPixmap()
+    {
+        QFETCH(QSize, size);
+        QVERIFY(NinePatch::drawNinePatch(size, source(QSize(30, 30))).isNull());
+    }
+};
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_NinePatch, Widgets)
+#include "tst_NinePatch.moc"

@@ -1,0 +1,273 @@
+#include "common/settings/ExpectedUrls.h"
+
+namespace {
+
+constexpr char NOWHERE[] = "";
+constexpr char MAIN[] = "http://center.kelvar.example";
+constexpr char MAIN_INTERNAL[] = "http://center.internal.kelvar.example";
+constexpr char SSO[] = "http://sso.kelvar.example";
+constexpr char PASSPORT[] = "http://passport.kelvar.example";
+constexpr char PASSPORT_INTERNAL[] = "http://passport.internal.kelvar.example";
+constexpr char IMAGE[] = "http://image.kelvar.example";
+constexpr char MONITOR[] = "http://monitor.kelvar.example";
+constexpr char AGENT_PLATFORM[] = "http://agent.kelvar.example";
+constexpr char ADMIN[] = "http://admin.kelvar.example";
+constexpr char OBJECT_STORE[] = "http://objectstore.kelvar.example";
+
+// clang-format off
+const ExpectedUrl EXPECTED_URLS[] = {
+    // Login, account and passport
+    {"userLoginInfoUrl", "/TwoStageLogin/theurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::userLoginInfoUrl},
+    {"pasWordChangUrl", "/modifypwd/theurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::pasWordChangUrl},
+    {"getPassportLoginUrl", "/Passport/loginurl", SSO, "/ids/login", UrlForm::Plain, &CUrlInfo::getPassportLoginUrl},
+    {"getIMAppAuthUrl", "/Passport/imauthurl", MAIN, "/center/auth", UrlForm::Plain, &CUrlInfo::getIMAppAuthUrl},
+    {"getIMAppLoginPassportUrl", "/Passport/impassportloginurl", MAIN, "/center/handshake.do", UrlForm::Plain, &CUrlInfo::getIMAppLoginPassportUrl},
+    {"getNeedPassportLoginVerifyCodeUrl", "/Passport/needverifycodeurl", SSO, "/ids/needVerifyCode", UrlForm::Plain, &CUrlInfo::getNeedPassportLoginVerifyCodeUrl},
+    {"getPassportLoginVerifyCodeUrl", "/Passport/verifycodeurl", IMAGE, "/vcs/imageCode.htm", UrlForm::Plain, &CUrlInfo::getPassportLoginVerifyCodeUrl},
+    {"getPassportKeeperUrl", "/Passport/passportkeeperurl", MAIN, "/center/version.do", UrlForm::Plain, &CUrlInfo::getPassportKeeperUrl},
+    {"getInternalPassportLoginUrl", "/Passport/internalpassporturl", PASSPORT, "/ids/login", UrlForm::Plain, &CUrlInfo::getInternalPassportLoginUrl},
+    {"getClientID", "/Passport/client_id", NOWHERE, "im_01", UrlForm::Plain, &CUrlInfo::getClientID},
+    {"getPassportAuthorize", "/Passport/passportauthorize", SSO, "/ids/oauth20/authorize", UrlForm::Plain, &CUrlInfo::getPassportAuthorize},
+    {"getForgetPwdUrl", "/Passport/forgetpwdurl", PASSPORT, "/ids/toResetPwd", UrlForm::Plain, &CUrlInfo::getForgetPwdUrl},
+    {"getModifyPwdUrl", "/Passport/modifypwdurl", PASSPORT, "/ids/toEditPwd", UrlForm::Plain, &CUrlInfo::getModifyPwdUrl},
+    {"getModifyUrl", "/Passport/modifyurl", PASSPORT, "/ids/login", UrlForm::Plain, &CUrlInfo::getModifyUrl},
+    {"getSuperTicketUrl", "/Passport/superticketurl", PASSPORT, "/ids/superTicket", UrlForm::Plain, &CUrlInfo::getSuperTicketUrl},
+    {"getSMSVerifyCode", "/Passport/resendsms", PASSPORT_INTERNAL, "/ids/sendSmsVerifyCode", UrlForm::Plain, &CUrlInfo::getSMSVerifyCode},
+    {"getMobileVerifyCode", "/Passport/sendmobile", PASSPORT, "/ids/sendMobileVerifyCode", UrlForm::Plain, &CUrlInfo::getMobileVerifyCode},
+    {"getCheckMobileRegisterUrl", "/Passport/checkmobileregister", PASSPORT, "/ids/checkMobileRegister", UrlForm::Plain, &CUrlInfo::getCheckMobileRegisterUrl},
+    {"getNewUserRegisterUrl", "/Passport/personalregister", PASSPORT, "/ids/personalAccountRegister", UrlForm::Plain, &CUrlInfo::getNewUserRegisterUrl},
+    {"getCompanyRegisterUrl", "/Passport/companyregister", MAIN, "/center/company/companyRegister.do", UrlForm::Plain, &CUrlInfo::getCompanyRegisterUrl},
+    {"scanLoginImageUrl", "/Passport/scanloginurl", PASSPORT, "/ids/qrLoginUuidGenerate", UrlForm::Plain, &CUrlInfo::scanLoginImageUrl},
+    {"scanLoginStateUrl", "/Passport/scanloginstateurl", PASSPORT, "/ids/qrLoginStateProbe", UrlForm::Plain, &CUrlInfo::scanLoginStateUrl},
+    {"getCheckPasswordUrl", "/Passport/checkpassword", MAIN, "/center/mobile/verifyPassword.do", UrlForm::Plain, &CUrlInfo::getCheckPasswordUrl},
+    {"getModifyPhoneNumberUrl", "/Passport/modifyphonenumer", MAIN, "/center/mobile/changeNumber.do", UrlForm::Plain, &CUrlInfo::getModifyPhoneNumberUrl},
+    {"getCreateTaskUrl", "/Passport/createtask", MAIN, "/center/task/create.do", UrlForm::Plain, &CUrlInfo::getCreateTaskUrl},
+    {"userVcardUrl", "/vcard/loadurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::userVcardUrl},
+    {"updateUserVcardUrl", "/vcard/updateurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::updateUserVcardUrl},
+    {"getEmailUrl", "/vcard/emailurl", MAIN, "/center/user/getEmails.do", UrlForm::Plain, &CUrlInfo::getEmailUrl},
+    {"getPersonalSettings", "/vcard/getPersonalSettingsUrl", MAIN, "/center/user/getPersonalSettings.do", UrlForm::Plain, &CUrlInfo::getPersonalSettings},
+    {"setPersonalSettings", "/vcard/setPersonalSettingsUrl", MAIN, "/center/user/setPersonalSettings.do", UrlForm::Plain, &CUrlInfo::setPersonalSettings},
+    {"userTagsUrl", "/tags/loadurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::userTagsUrl},
+    {"addUserTagUrl", "/tags/updateurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::addUserTagUrl},
+    {"deleteUserTagUrl", "/tags/deleteurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::deleteUserTagUrl},
+    {"confirmUserTagUrl", "/tags/confirmurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::confirmUserTagUrl},
+
+    // Contacts and organisation
+    {"innerQueryUrl", "/innerquery/theurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::innerQueryUrl},
+    {"contactGroupsUrl", "/roster/contactgroupurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::contactGroupsUrl},
+    {"userContactsUrl", "/roster/contactsurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::userContactsUrl},
+    {"usersByGroupIdUrl", "roster/contactsbygroupidurl/", NOWHERE, "", UrlForm::Arg, &CUrlInfo::usersByGroupIdUrl},
+    {"createGroupUrl", "/roster/creategroupurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::createGroupUrl},
+    {"changeGroupNameUrl", "roster/modifygroupurl/", NOWHERE, "", UrlForm::Arg, &CUrlInfo::changeGroupNameUrl},
+    {"deleteGroupUrl", "roster/deletegroupurl/", NOWHERE, "", UrlForm::Arg, &CUrlInfo::deleteGroupUrl},
+    {"createContactsUrl", "/roster/createcontactsurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::createContactsUrl},
+    {"deleteContactsUrl", "roster/deletecontactsurl/", NOWHERE, "", UrlForm::Arg, &CUrlInfo::deleteContactsUrl},
+    {"moveContactsUrl", "/roster/movecontactsurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::moveContactsUrl},
+    {"modifyRemarkNameUrl", "/roster/modifydescurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::modifyRemarkNameUrl},
+    {"friendsRecommendUrl", "/roster/friendsrecommendurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::friendsRecommendUrl},
+    {"getBatchAddFriendUrl", "/roster/batchAddFriendUrl", MAIN, "/center/roster//batchCreateRosterItem.do", UrlForm::Plain, &CUrlInfo::getBatchAddFriendUrl},
+    {"searchOutsideFriendUrl", "/roster/searchOutsideFriendUrl", MAIN, "/center/friend/search.do", UrlForm::Plain, &CUrlInfo::searchOutsideFriendUrl},
+    {"addOutsideFriendUrl", "/roster/addOutsideFriendUrl", MAIN, "/center/friend/addFriendRequest.do", UrlForm::Plain, &CUrlInfo::addOutsideFriendUrl},
+    {"deleteOutsideFriendUrl", "/roster/deleteOutsideFriendUrl", MAIN, "/center/friend/removeFriend.do", UrlForm::Plain, &CUrlInfo::deleteOutsideFriendUrl},
+    {"getOutsideFriendListUrl", "/roster/getOutsideFriendListUrl", MAIN, "/center/friend/getFriendList.do", UrlForm::Plain, &CUrlInfo::getOutsideFriendListUrl},
+    {"confirmOutsideFriendUrl", "/roster/confirmOutsideFriendUrl", MAIN, "/center/friend/confirmAddFriend.do", UrlForm::Plain, &CUrlInfo::confirmOutsideFriendUrl},
+    {"createFriendGroupUrl", "/roster/createFriendGroupUrl", MAIN, "/center/friend/createFriendGroup.do", UrlForm::Plain, &CUrlInfo::createFriendGroupUrl},
+    {"renameFriendGroupUrl", "/roster/renameFriendGroupUrl", MAIN, "/center/friend/renameFriendGroup.do", UrlForm::Plain, &CUrlInfo::renameFriendGroupUrl},
+    {"removeFriendGroupUrl", "/roster/removeFriendGroupUrl", MAIN, "/center/friend/removeFriendGroup.do", UrlForm::Plain, &CUrlInfo::removeFriendGroupUrl},
+    {"moveFriendItemUrl", "/roster/moveFriendItemUrl", MAIN, "/center/friend/moveFriendItem.do", UrlForm::Plain, &CUrlInfo::moveFriendItemUrl},
+    {"contactSearchUrl", "/searchfriend/theurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::contactSearchUrl},
+    {"searchOrgUrl", "/searchOrg/searchorgurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::searchOrgUrl},
+    {"LocateOrgUrl", "/searchOrg/locateorgurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::LocateOrgUrl},
+    {"FuzzySearchOrgUrl", "/searchOrg/fuzzysearchorgurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::FuzzySearchOrgUrl},
+
+    // File transfer
+    {"uploadPointUrl", "/ImFile/uploadFileUrl", MAIN, "/center/im/uploadFile.do", UrlForm::Plain, &CUrlInfo::uploadPointUrl},
+    {"downloadPointUrl", "/ImFile/downloadPointUrl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::downloadPointUrl},
+    {"queryObjectIdUrl", "/ImFile/queryObjectIdUrl", MAIN, "/center/im/getObjectId.do", UrlForm::Plain, &CUrlInfo::queryObjectIdUrl},
+    {"GetTransmitFileUrl", "/ImFile/transmitFileUrl", MAIN, "/center/im/fileForward.do", UrlForm::Plain, &CUrlInfo::GetTransmitFileUrl},
+    {"getUploadMultiPartFileUrl", "/ImFile/uploadMultiFileUrl", MAIN, "/center/im/uploadMultipart.do", UrlForm::Plain, &CUrlInfo::getUploadMultiPartFileUrl},
+    {"getUploadMultiPartCompleteUrl", "/ImFile/completeUploadMultiFileUrl", MAIN, "/center/im/uploadMultipartComplete.do", UrlForm::Plain, &CUrlInfo::getUploadMultiPartCompleteUrl},
+    {"getUploadMultiPartAbortUrl", "/ImFile/abortUploadMultiFileUrl", MAIN, "/center/im/uploadMultipartAbort.do", UrlForm::Plain, &CUrlInfo::getUploadMultiPartAbortUrl},
+    {"getUpdateUploadMultiPartAuthrationUrl", "/ImFile/updateUploadMultiFileAuthUrl", MAIN, "/center/im/updateUploadMultipartAuth.do", UrlForm::Plain, &CUrlInfo::getUpdateUploadMultiPartAuthrationUrl},
+    {"getObjstCallbackUrl", "/objst/objstCallbackUrl", MAIN, "/center/im/objstCallback.do", UrlForm::Plain, &CUrlInfo::getObjstCallbackUrl},
+    {"GetRecoverFileUrl", "/RecoverFile/Url", NOWHERE, "", UrlForm::Plain, &CUrlInfo::GetRecoverFileUrl},
+    {"GetSearchFileRecoverStatus", "/SearchFileRecoverStatus/Url", NOWHERE, "", UrlForm::Plain, &CUrlInfo::GetSearchFileRecoverStatus},
+    {"getShareFileInfoURL", "/sharefiledown/theurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getShareFileInfoURL},
+    {"getShareFileUpLoadInfoURL", "/sharefileup/theurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getShareFileUpLoadInfoURL},
+    {"getShareFileDeleteURL", "/sharefiledele/theurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getShareFileDeleteURL},
+
+    // Cloud drive
+    {"panUploadPointUrl", "/Cloud/uploadpointurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::panUploadPointUrl},
+    {"SaveOfflineFileToCloudUrl", "/Cloud/saveofflinefiletopan", NOWHERE, "", UrlForm::Plain, &CUrlInfo::SaveOfflineFileToCloudUrl},
+    {"SaveCloudFiletoCloudUrl", "/Cloud/savecloudfiletopan", NOWHERE, "", UrlForm::Plain, &CUrlInfo::SaveCloudFiletoCloudUrl},
+    {"QueryCloudAccountDataUrl", "/Cloud/queryclouduser", NOWHERE, "", UrlForm::Plain, &CUrlInfo::QueryCloudAccountDataUrl},
+    {"DownLoadCloudFileUrl", "/Cloud/downcloudfile", NOWHERE, "", UrlForm::Plain, &CUrlInfo::DownLoadCloudFileUrl},
+    {"getCloudObjstCallbackUrl", "/CloudObjst/cloudObjstCallback", MAIN, "/center/cloud/reportObjstCallback.do", UrlForm::Plain, &CUrlInfo::getCloudObjstCallbackUrl},
+    {"getPanListUrl", "/CloudFile/queryCloudFile", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanListUrl},
+    {"getPanCategritListUrl", "/CloudFile/queryCategroy", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanCategritListUrl},
+    {"getPanSearchUrl", "/CloudFile/searchUrl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanSearchUrl},
+    {"getPanRenameFileUrl", "/CloudFile/renameFile", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanRenameFileUrl},
+    {"getPanRenameFolderUrl", "/CloudFile/renameFolder", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanRenameFolderUrl},
+    {"getPanDeleteUrl", "/CloudFile/deleteurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanDeleteUrl},
+    {"getPanCreatFolerUrl", "/CloudFile/creatFolder", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanCreatFolerUrl},
+    {"getPanQueryCloudSizeUrl", "/CloudFile/querysizeurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanQueryCloudSizeUrl},
+    {"getPanUpLoadCloudFileUrl", "/CloudFile/uploadurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanUpLoadCloudFileUrl},
+    {"getPanDownLoadCloudFileUrl", "/CloudFile/downloadurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanDownLoadCloudFileUrl},
+    {"getPanQueryRecycledFileUrl", "/CloudFile/queryrecycle", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanQueryRecycledFileUrl},
+    {"getPanDeleteFileFromRecycledUrl", "/CloudFile/deleterecycle", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanDeleteFileFromRecycledUrl},
+    {"getPanRestroeFileFromRecycledUrl", "/CloudFile/restorerecycle", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanRestroeFileFromRecycledUrl},
+    {"getPanClearRecycleUrl", "/CloudFile/clearrecycle", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPanClearRecycleUrl},
+    {"getCloudUploadMultiPartFileUrl", "/CloudFile/uploadMultiFileUrl", MAIN, "/center/cloud/uploadMultipart.do", UrlForm::Plain, &CUrlInfo::getCloudUploadMultiPartFileUrl},
+    {"getCloudUploadMultiPartCompleteUrl", "/CloudFile/completeUploadMultiFileUrl", MAIN, "/center/cloud/uploadMultipartComplete.do", UrlForm::Plain, &CUrlInfo::getCloudUploadMultiPartCompleteUrl},
+    {"getCloudUploadMultiPartAbortUrl", "/CloudFile/abortUploadMultiFileUrl", MAIN, "/center/cloud/uploadMultipartAbort.do", UrlForm::Plain, &CUrlInfo::getCloudUploadMultiPartAbortUrl},
+    {"getCloudUpdateUploadMultiPartAuthrationUrl", "/CloudFile/updateUploadMultiFileAuthUrl", MAIN, "/center/cloud/updateUploadMultipartAuth.do", UrlForm::Plain, &CUrlInfo::getCloudUpdateUploadMultiPartAuthrationUrl},
+    {"getBindCloudUrl", "/bindCloud/bindUrl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getBindCloudUrl},
+    {"getRelieveBindCloudUrl", "/bindCloud/relieveBindUrl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getRelieveBindCloudUrl},
+    {"getCloudAccountUrl", "/bindCloud/panAccountUrl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getCloudAccountUrl},
+    {"GetCloudQueryUrl", "/QueryCloudFile/queryUrl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::GetCloudQueryUrl},
+    {"GetCategroyQueryUrl", "/CategroyQuery/queryUrl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::GetCategroyQueryUrl},
+    {"GetSearchCloudFileUrl", "/SearchCloudFile/searchUrl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::GetSearchCloudFileUrl},
+
+    // Client operation
+    {"logUploadUrl", "/logupload/theurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::logUploadUrl},
+    {"getMonitorSamplingUrl", "/logupload/monitorSmapling", MONITOR, "/httpampling.gif", UrlForm::Plain, &CUrlInfo::getMonitorSamplingUrl},
+    {"getMonitorPerfUrl", "/logupload/monitorPerf", MONITOR, "/perfSDK.gif", UrlForm::Plain, &CUrlInfo::getMonitorPerfUrl},
+    {"getMonitorCrashUrl", "/logupload/monitorCrash", MONITOR, "/crashSDK.gif", UrlForm::Plain, &CUrlInfo::getMonitorCrashUrl},
+    {"getMonitorCustomUrl", "/logupload/motitorCustom", MONITOR, "/customSDK.gif", UrlForm::Plain, &CUrlInfo::getMonitorCustomUrl},
+    {"upgradeUrl", "/upgrade/theurl", MAIN, "/center/clientVersion/check.do", UrlForm::Plain, &CUrlInfo::upgradeUrl},
+    {"upgradeIP", "/upgrade/ip", NOWHERE, "", UrlForm::Plain, &CUrlInfo::upgradeIP},
+    {"upgradePort", "/upgrade/port", NOWHERE, "", UrlForm::Plain, &CUrlInfo::upgradePort},
+    {"questionReportUrl", "/questionreport/theurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::questionReportUrl},
+    {"getClientSettingUrl", "/ClientSetting/settingUrl", MAIN, "/center/clientsettings/getClientSettings.do", UrlForm::Plain, &CUrlInfo::getClientSettingUrl},
+    {"getFeatureListUrl", "/featurelist/theurl", MAIN, "/center/cauth/listCAuth.do", UrlForm::Plain, &CUrlInfo::getFeatureListUrl},
+    {"getPluginList", "/plugins/dlls", NOWHERE, "VoipManage.dll,SessionManage.dll,ContactManage.dll,VcardManage.dll,MsgBoxManage.dll,SignListManage.dll,FileTransManage.dll,SystemSetManage.dll,ServiceNumManage.dll", UrlForm::Plain, &CUrlInfo::getPluginList},
+    {"getWeatherUrl", "/weatherupdate/theurl", MAIN, "/center/weather/getWeather.do", UrlForm::Plain, &CUrlInfo::getWeatherUrl},
+    {"getImportTemplateUrl", "/ImportTemp/importTemplateUrl", OBJECT_STORE, "/client/template/importMembers.txt?accessKeyId=KELVARCLIENT01&expires=4102444800&signature=Zk9wQ2xpZW50VGVtcGxhdGU%3D", UrlForm::Plain, &CUrlInfo::getImportTemplateUrl},
+    {"getEnterpriseBackgroundUrl", "/enterprise/enterpriseBackgroundUrl", ADMIN, "/eadmin-web", UrlForm::Plain, &CUrlInfo::getEnterpriseBackgroundUrl},
+    {"getEnterpriseBackgroundSingleUrl", "/enterprise/enterpriseBackgroundSingleUrl", PASSPORT, "/ids/login?service=http%3A%2F%2Fadmin.kelvar.example%2Feadmin-web%2Fauth%3FtargetUrl%3Dhttp%253A%252F%252Fadmin.kelvar.example%252Feadmin-web%252Flogin%252Flogin.do&loginTheme=eadmin-web", UrlForm::Plain, &CUrlInfo::getEnterpriseBackgroundSingleUrl},
+
+    // Message history, rooms, video conference
+    {"getServerMessageUrl", "/historymsg/servermsg", MAIN, "/center/message/searchById.do", UrlForm::Cached, &CUrlInfo::getServerMessageUrl},
+    {"getDeleteMessageBySequencUrl", "/historymsg/deleteMsgBySequence", MAIN, "/center/message/delete.do", UrlForm::Cached, &CUrlInfo::getDeleteMessageBySequencUrl},
+    {"getDeleteMessageByTimeUrl", "/historymsg/deleteMsgByTime", MAIN, "/center/message/deleteByTime.do", UrlForm::Cached, &CUrlInfo::getDeleteMessageByTimeUrl},
+    {"getDeleteMessageBySeqListUrl", "/historymsg/deleteMsgBySeqList", MAIN, "/center/message/deleteBySeqList.do", UrlForm::Cached, &CUrlInfo::getDeleteMessageBySeqListUrl},
+    {"getMucQrCodeUrl", "/mucInfo/getRoomQrCode", MAIN, "/center/qr/getRoomQrCode.do", UrlForm::Plain, &CUrlInfo::getMucQrCodeUrl},
+    {"getMyVideoConfListUrl", "/videoconf/getmylist", MAIN, "/center/vc/getMyVideoRoomList.do", UrlForm::Plain, &CUrlInfo::getMyVideoConfListUrl},
+    {"getVideoConfMembersUrl", "/videoconf/getconfmemeber", MAIN, "/center/vc/getVideoRoomJoinedList.do", UrlForm::Plain, &CUrlInfo::getVideoConfMembersUrl},
+    {"getDeleteVideoConfRecordUrl", "/videoconf/deletevideoconf", MAIN, "/center/vc/deleteMyVideoRoom.do", UrlForm::Plain, &CUrlInfo::getDeleteVideoConfRecordUrl},
+
+    // Social feed, notices, votes, favourites
+    {"getPublishDynamicUrl", "/dynamic/publishdynamic", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPublishDynamicUrl},
+    {"getDeleteDynamicUrl", "/dynamic/deletedynamic", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getDeleteDynamicUrl},
+    {"getGetDynamicUrl", "/dynamic/getdynamic", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getGetDynamicUrl},
+    {"getGetTopicDynamicUrl", "/dynamic/gettopicdynamic", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getGetTopicDynamicUrl},
+    {"getGetTopicListUrl", "/dynamic/gettopiclist", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getGetTopicListUrl},
+    {"getUpdateCommentCountUrl", "/dynamic/updatecommentcount", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getUpdateCommentCountUrl},
+    {"getCommentDynamicUrl", "/dynamic/commentdynamic", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getCommentDynamicUrl},
+    {"getDeleteCommentUrl", "/dynamic/deletecomment", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getDeleteCommentUrl},
+    {"getPraiseDynamicUrl", "/dynamic/praisedynamic", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getPraiseDynamicUrl},
+    {"getCancelPraiseUrl", "/dynamic/cancelpraise", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getCancelPraiseUrl},
+    {"getGetNoticeCountUrl", "/dynamic/getnoticecount", MAIN, "/center/notice/getCount.do", UrlForm::Plain, &CUrlInfo::getGetNoticeCountUrl},
+    {"getClearNoticeUrl", "/dynamic/clearnotice", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getClearNoticeUrl},
+    {"getGetNoticeContentUrl", "/dynamic/getnoticecontent", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getGetNoticeContentUrl},
+    {"getGetCommentcontentUrl", "/dynamic/getcommentcontent", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getGetCommentcontentUrl},
+    {"getGetClassListUrl", "/dynamic/getclasslist", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getGetClassListUrl},
+    {"getGetTopiclistByIdUrl", "/dynamic/gettopiclistbyid", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getGetTopiclistByIdUrl},
+    {"getSearchTopicUrl", "/dynamic/searchtopic", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getSearchTopicUrl},
+    {"getLatestTopicUrl", "/dynamic/latesttopic", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getLatestTopicUrl},
+    {"getDynamicByIdUrl", "/dynamic/showbyid", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getDynamicByIdUrl},
+    {"getHomeTimelineUrl", "/dynamic/homeTimeline", MAIN, "/center/user/getEmails.do", UrlForm::Plain, &CUrlInfo::getHomeTimelineUrl},
+    {"getSquareListUrl", "/dynamic/getSquareList", MAIN, "/center/status/getSquareStatus.do", UrlForm::Plain, &CUrlInfo::getSquareListUrl},
+    {"getHotTopicsUrl", "/dynamic/getHotTopics", MAIN, "/center/topic/getHotTopics.do", UrlForm::Plain, &CUrlInfo::getHotTopicsUrl},
+    {"getHotStatus", "/dynamic/getHotStatus", MAIN, "/center/status/getHotStatus.do", UrlForm::Plain, &CUrlInfo::getHotStatus},
+    {"getLatestStatusId", "/dynamic/getLatestStatusId", MAIN, "/center/status/getSquareLatestStatusId.do", UrlForm::Plain, &CUrlInfo::getLatestStatusId},
+    {"getForumEssenseStatusUrl", "/dynamic/getForumEssenseStatus", MAIN, "/center/status/getEssenseStatus.do", UrlForm::Plain, &CUrlInfo::getForumEssenseStatusUrl},
+    {"setForumTopUrl", "/dynamic/setForumTop", MAIN, "/center/status/top.do", UrlForm::Plain, &CUrlInfo::setForumTopUrl},
+    {"setForumEssenseUrl", "/dynamic/setForumEssense", MAIN, "/center/status/doEssense.do", UrlForm::Plain, &CUrlInfo::setForumEssenseUrl},
+    {"addForumBlackListUrl", "/dynamic/addForumBlackList", MAIN, "/center/status/addBlackList.do", UrlForm::Plain, &CUrlInfo::addForumBlackListUrl},
+    {"queryForumAdminUrl", "/dynamic/queryForumAdmin", MAIN, "/center/topic/queryAdmin.do", UrlForm::Plain, &CUrlInfo::queryForumAdminUrl},
+    {"getAnnounceNoticeUrl", "/Notice/announceNotice", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getAnnounceNoticeUrl},
+    {"getEditNoticeUrl", "/Notice/editNotice", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getEditNoticeUrl},
+    {"getGetNoticesUrl", "/Notice/getNotices", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getGetNoticesUrl},
+    {"getDeleteNoticeUrl", "/Notice/deleteNotice", NOWHERE, "", UrlForm::Plain, &CUrlInfo::getDeleteNoticeUrl},
+    {"getCreateVoteUrl", "/vote/createVote", MAIN, "/center/vote/createVote.do", UrlForm::Plain, &CUrlInfo::getCreateVoteUrl},
+    {"getRemoveVoteUrl", "/vote/removeVote", MAIN, "/center/vote/removeVote.do", UrlForm::Plain, &CUrlInfo::getRemoveVoteUrl},
+    {"getVotelistUrl", "/vote/getVotelist", MAIN, "/center/vote/getVotelistByDetail.do", UrlForm::Plain, &CUrlInfo::getVotelistUrl},
+    {"getVoteInfoUrl", "/vote/getVoteInfo", MAIN, "/center/vote/getVoteInfo.do", UrlForm::Plain, &CUrlInfo::getVoteInfoUrl},
+    {"getSendVoteResultUrl", "/vote/sendVoteResult", MAIN, "/center/vote/sendVoteResult.do", UrlForm::Plain, &CUrlInfo::getSendVoteResultUrl},
+    {"getQueryVoteStatusUrl", "/vote/queryVoteStatus", MAIN, "/center/vote/queryVoteStatus.do", UrlForm::Plain, &CUrlInfo::getQueryVoteStatusUrl},
+    {"getQueryVoteUserUrl", "/vote/queryVoteUser", MAIN_INTERNAL, "/center/vote/queryVoteUser.do", UrlForm::Plain, &CUrlInfo::getQueryVoteUserUrl},
+    {"getReminderUrl", "/remindermsg/getReminder", MAIN, "/center/reminder/getReminder.do", UrlForm::Plain, &CUrlInfo::getReminderUrl},
+    {"getFavoriteListUrl", "/favorite/getlisturl", MAIN, "/center/favorites/getFavoriteList.do", UrlForm::Cached, &CUrlInfo::getFavoriteListUrl},
+    {"getRemoveFavoriteUrl", "/favorite/removeUrl", MAIN, "/center/favorites/removeFavorite.do", UrlForm::Cached, &CUrlInfo::getRemoveFavoriteUrl},
+    {"getAddFavoriteUrl", "/favorite/addUrl", MAIN, "/center/favorites/addFavorite.do", UrlForm::Cached, &CUrlInfo::getAddFavoriteUrl},
+
+    // Public accounts, applications, service numbers, agents
+    {"SearchSubedUrl", "/publicaccount/searchsubedurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::SearchSubedUrl},
+    {"SearchPubAccUrl", "/publicaccount/searchpubaccurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::SearchPubAccUrl},
+    {"GetPubAccDetailUrl", "/publicaccount/getpubaccdetailurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::GetPubAccDetailUrl},
+    {"GetPubMsgUrl", "/publicaccount/getpubmsgurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::GetPubMsgUrl},
+    {"GetPubMsgDetailUrl", "/publicaccount/getpubmsgdetailurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::GetPubMsgDetailUrl},
+    {"GetMsgSummaryUrl", "/publicaccount/getpubmsgsummaryurl", NOWHERE, "", UrlForm::Plain, &CUrlInfo::GetMsgSummaryUrl},
+    {"getApplicationListUrl", "/ApplicationCenter/list", MAIN, "/center/iapp/listApps.do", UrlForm::Plain, &CUrlInfo::getApplicationListUrl},
+    {"subApplicationUrl", "/ApplicationCenter/sub", MAIN, "/center/iapp/subApp.do", UrlForm::Plain, &CUrlInfo::subApplicationUrl},
+    {"getApplicationInfoUrl", "/ApplicationCenter/getinfo", MAIN_INTERNAL, "/center/iapp/getAppInfo.do", UrlForm::Plain, &CUrlInfo::getApplicationInfoUrl},
+    {"unSubApplicationUrl", "/ApplicationCenter/unsub", MAIN, "/center/iapp/unsubApp.do", UrlForm::Plain, &CUrlInfo::unSubApplicationUrl},
+    {"myApplicationUrl", "/ApplicationCenter/myApplicationUrl", MAIN, "/center/iapp/myAppsByPC.do", UrlForm::Plain, &CUrlInfo::myApplicationUrl},
+    {"searchServiceNumUrl", "/servicenum/searchServiceNumUrl", MAIN, "/center/isrv/listIsrv.do", UrlForm::Plain, &CUrlInfo::searchServiceNumUrl},
+    {"subServiceNumUrl", "/servicenum/subServiceNumUrl", MAIN, "/center/iapp/subApp.do", UrlForm::Plain, &CUrlInfo::subServiceNumUrl},
+    {"cancelServiceNumUrl", "/servicenum/cancelServiceNumUrl", MAIN, "/center/iapp/unsubApp.do", UrlForm::Plain, &CUrlInfo::cancelServiceNumUrl},
+    {"myServiceNumUrl", "/servicenum/myServiceNumUrl", MAIN, "/center/isrv/myIsrv.do", UrlForm::Plain, &CUrlInfo::myServiceNumUrl},
+    {"getServiceNumInfoUrl", "/servicenum/getServiceNumInfoUrl", MAIN, "/center/isrv/getIsrvInfo.do", UrlForm::Plain, &CUrlInfo::getServiceNumInfoUrl},
+    {"getServiceNumInfoListUrl", "/servicenum/getServiceNumInfoListUrl", MAIN, "/center/isrv/getIsrvByCodes.do", UrlForm::Plain, &CUrlInfo::getServiceNumInfoListUrl},
+    {"getServiceNoRecordUrl", "/servicenum/getServiceNoRecordUrl", MAIN, "/center/isrvHis/pcMsg.do", UrlForm::Plain, &CUrlInfo::getServiceNoRecordUrl},
+    {"getAgentQuickRepliesUrl", "/agent/getAgentQuickReplies", MAIN, "/center/agent/getAgentQuickReplies.do", UrlForm::Plain, &CUrlInfo::getAgentQuickRepliesUrl},
+    {"getChannelQuickRepliesUrl", "/agent/getChannelQuickReplies", MAIN, "/center/agent/getChannelQuickReplies.do", UrlForm::Plain, &CUrlInfo::getChannelQuickRepliesUrl},
+    {"addAgentQuickReplyUrl", "/agent/addAgentQuickReply", MAIN, "/center/agent/addAgentQuickReply.do", UrlForm::Plain, &CUrlInfo::addAgentQuickReplyUrl},
+    {"updateAgentQuickReplyUrl", "/agent/updateAgentQuickReply", MAIN, "/center/agent/updateAgentQuickReply.do", UrlForm::Plain, &CUrlInfo::updateAgentQuickReplyUrl},
+    {"deleteAgentQuickReplyUrl", "/agent/deleteAgentQuickReply", MAIN, "/center/agent/deleteAgentQuickReply.do", UrlForm::Plain, &CUrlInfo::deleteAgentQuickReplyUrl},
+    {"getCommentAgentSessionUrl", "/agent/commentAgentSession", MAIN, "/center/agent/commentAgentSession.do", UrlForm::Plain, &CUrlInfo::getCommentAgentSessionUrl},
+    {"getChatSumListUrl", "/agent/getChannelSummaryTypeList", MAIN, "/center/agent/getChannelSummaryTypeList.do", UrlForm::Plain, &CUrlInfo::getChatSumListUrl},
+    {"getReportChatSumUrl", "/agent/reportSessionSummary", MAIN, "/center/agent/reportSessionSummary.do", UrlForm::Plain, &CUrlInfo::getReportChatSumUrl},
+    {"getCustomerPlatUrl", "/agent/customerPlat", AGENT_PLATFORM, "/imcsp-web", UrlForm::Plain, &CUrlInfo::getCustomerPlatUrl},
+
+    // Virtual teams
+    {"getMyVirtualTeamUrl", "/virtualTeam/getMyVirtualTeamUrl", MAIN, "/center/vt/getAllVirtualTeam.do", UrlForm::Plain, &CUrlInfo::getMyVirtualTeamUrl},
+    {"getSearchVirtualTeamMemberUrl", "/virtualTeam/searchVirtualTeamMemberUrl", MAIN, "/center/vt/searchMember.do", UrlForm::Plain, &CUrlInfo::getSearchVirtualTeamMemberUrl},
+    {"getCreatVirtualTeamUrl", "/virtualTeam/getCreatVirtualTeamUrl", MAIN, "/center/vt/createVirtualTeam.do", UrlForm::Plain, &CUrlInfo::getCreatVirtualTeamUrl},
+    {"inviteVirtualTeamUrl", "/virtualTeam/inviteVirtualTeamUrl", MAIN, "/center/vt/inviteVirtualTeam.do", UrlForm::Plain, &CUrlInfo::inviteVirtualTeamUrl},
+    {"getAuditingVirtualTeamUrl", "/virtualTeam/auditingVirtualTeamUrl", MAIN, "/center/vt/auditVirtualTeam.do", UrlForm::Plain, &CUrlInfo::getAuditingVirtualTeamUrl},
+    {"getVirtualTeamCreatDetailUrl", "/virtualTeam/getVirtualTeamCreatDetailUrl", MAIN, "/center/vt/auditVirtualTeamDetail.do", UrlForm::Plain, &CUrlInfo::getVirtualTeamCreatDetailUrl},
+    {"getVirtualTeamJoinDetailUrl", "/virtualTeam/getVirtualTeamJoinDetailUrl", MAIN, "/center/vt/joinVirtualTeamStatus.do", UrlForm::Plain, &CUrlInfo::getVirtualTeamJoinDetailUrl},
+    {"responseJoinVirtualTeamRequestUrl", "/virtualTeam/responseJoinVirtualTeamRequestUrl", MAIN, "/center/vt/confirmJoinVirtualTeam.do", UrlForm::Plain, &CUrlInfo::responseJoinVirtualTeamRequestUrl},
+    {"getVirtualTeamStructureUrl", "/virtualTeam/getVirtualTeamStructureUrl", MAIN, "/center/vt/getVirtualTeamGroup.do", UrlForm::Plain, &CUrlInfo::getVirtualTeamStructureUrl},
+    {"deleteVirtualTeamMemberUrl", "/virtualTeam/deleteVirtualTeamMemberUrl", MAIN, "/center/vt/deleteVirtualTeamMember.do", UrlForm::Plain, &CUrlInfo::deleteVirtualTeamMemberUrl},
+    {"modifyVirtualTeamNameUrl", "/virtualTeam/modifyVirtualTeamNameUrl", MAIN, "/center/vt/modifyVirtualTeamInfo.do", UrlForm::Plain, &CUrlInfo::modifyVirtualTeamNameUrl},
+    {"modifyVirtualTeamPersonalInfoUrl", "/virtualTeam/modifyVirtualTeamPersonalInfoUrl", MAIN, "/center/vt/modifyVirtualTeamMemberInfo.do", UrlForm::Plain, &CUrlInfo::modifyVirtualTeamPersonalInfoUrl},
+    {"dissolveVirtualTeamUrl", "/virtualTeam/dissolveVirtualTeamUrl", MAIN, "/center/vt/dissolveVirtualTeam.do", UrlForm::Plain, &CUrlInfo::dissolveVirtualTeamUrl},
+    {"quitVirtualTeamUrl", "/virtualTeam/quitVirtualTeamUrl", MAIN, "/center/vt/quitVirtualTeam.do", UrlForm::Plain, &CUrlInfo::quitVirtualTeamUrl},
+    {"addVirtualTeamMembersUrl", "/virtualTeam/addVirtualTeamMembersUrl", MAIN, "/center/vt/batchAddVirtualTeamMember.do", UrlForm::Plain, &CUrlInfo::addVirtualTeamMembersUrl},
+    {"grantVirtualTeamAuthorityUrl", "/virtualTeam/grantVirtualTeamAuthorityUrl", MAIN, "/center/vt/grantVirtualTeamAuthority.do", UrlForm::Plain, &CUrlInfo::grantVirtualTeamAuthorityUrl},
+    {"fuzzySearchVirtualTeamMemberUrl", "/virtualTeam/fuzzySearchVirtualTeamMemberUrl", MAIN, "/center/vt/fuzzySearchVirtualTeamMember.do", UrlForm::Plain, &CUrlInfo::fuzzySearchVirtualTeamMemberUrl},
+    {"modifyVirtualTeamGroupUrl", "/virtualTeam/modifyVirtualTeamGroupUrl", MAIN, "/center/vt/modifyVirtualTeamGroup.do", UrlForm::Plain, &CUrlInfo::modifyVirtualTeamGroupUrl},
+    {"addVirtualTeamGroupUrl", "/virtualTeam/addVirtualTeamGroupUrl", MAIN, "/center/vt/addVirtualTeamGroup.do", UrlForm::Plain, &CUrlInfo::addVirtualTeamGroupUrl},
+    {"deleteVirtualTeamGroupUrl", "/virtualTeam/deleteVirtualTeamGroupUrl", MAIN, "/center/vt/deleteVirtualTeamGroup.do", UrlForm::Plain, &CUrlInfo::deleteVirtualTeamGroupUrl},
+    {"transferVirtualTeamMemberUrl", "/virtualTeam/transferVirtualTeamMemberUrl", MAIN, "/center/vt/transferVirtualTeamMember.do", UrlForm::Plain, &CUrlInfo::transferVirtualTeamMemberUrl},
+};
+// clang-format on
+
+} // namespace
+
+std::vector<ExpectedUrl> expectedUrls()
+{
+    return {std::begin(EXPECTED_URLS), std::end(EXPECTED_URLS)};
+}
+
+QStringList everyAnswer()
+{
+    QStringList answers;
+    for (const ExpectedUrl &row : expectedUrls()) {
+        answers << row.ask("group 7");
+    }
+    return answers;
+}
