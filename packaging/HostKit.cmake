@@ -14,6 +14,7 @@ set(VOIP_HOST_HEADERS
     model/AvatarFiles.h
     model/CommonData.h
     model/LoginData.h
+    model/MemberRoles.h
     model/SharedContext.h
     model/SysUIData.h
     model/SystemSetData.h

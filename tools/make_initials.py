@@ -17,7 +17,7 @@ import unicodedata
 FIRST, LAST = 0x4E00, 0x9FA5
 PER_LINE = 100
 READINGS = "/usr/share/unicode/Unihan_Readings.txt.bz2"
-TABLE = pathlib.Path(__file__).resolve().parent.parent / "src" / "common" / "ChineseInitials.cpp"
+TABLE = pathlib.Path(__file__).resolve().parent.parent / "src" / "common" / "text" / "ChineseInitials.cpp"
 
 # The first level of GB 2312: how many characters it has, and with which of them a letter begins.
 COMMON = 3755

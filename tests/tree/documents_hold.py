@@ -45,7 +45,7 @@ def exists(root, document, path):
     path = path.rstrip("/")
     beginnings = [root, document.parent, *(root / beginning for beginning in BEGINNINGS)]
     if "/" not in path:
-        beginnings += [folder for beginning in ("src", "apps") for folder in (root / beginning).iterdir()]
+        beginnings += [folder for beginning in ("src", "apps") for folder in (root / beginning).rglob("*") if folder.is_dir()]
         beginnings.append(root / "docs")
     return any(next(beginning.glob(pattern), None) for beginning in beginnings for pattern in (path, path + ".*"))
 
