@@ -1,5 +1,7 @@
 #include "FuzzTargets.h"
 
+#include "fakes/SanitizedBuild.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -8,17 +10,6 @@
 #include <iterator>
 
 namespace {
-
-// The sanitizers' own share, with assertions on and little optimisation.
-constexpr int kSanitizerFactor = 4;
-
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool kSanitized = true;
-#elif defined(__has_feature)
-constexpr bool kSanitized = __has_feature(address_sanitizer);
-#else
-constexpr bool kSanitized = false;
-#endif
 
 qint64 cpuMicroseconds()
 {
@@ -44,7 +35,7 @@ bool isSanitized()
 
 int mostCpuMs(const FuzzTarget &target)
 {
-    return kSanitized ? target.hangMs * kSanitizerFactor : target.hangMs;
+    return target.hangMs * kSanitizerFactor;
 }
 
 int cpuMsOf(const FuzzTarget &target, const QByteArray &input)

@@ -53,7 +53,7 @@ inline constexpr FuzzTarget fuzzTargets[] = {
     {"hostwindow", "hostevent", FuzzTargets::hostwindow, 1024, 100},
     {"jid", "jid", FuzzTargets::jid, 2200, 100},
     {"service", "service", FuzzTargets::service, 4096, 100},
-    {"html", "html", FuzzTargets::html, 16384, 80},
+    {"html", "html", FuzzTargets::html, 16384, 200},
     {"settings", "settings", FuzzTargets::settings, 4096, 100},
     {"picture", "picture", FuzzTargets::picture, 2048, 100},
     {"members", "members", FuzzTargets::members, 2048, 100},

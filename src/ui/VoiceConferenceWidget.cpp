@@ -83,10 +83,23 @@ void CVoiceConferenceWidget::insetDetailPage()
 void CVoiceConferenceWidget::initTitle()
 {
     ui->btnClose->setIconFont(IconGlyph::text(IconGlyph::Close), cCloseGlyphPixels, cCloseStyleType);
-    ui->btnClose->setToolTip(tr("close"));
+    setTips();
     ui->titleWidget->setStyleSheet(QStringLiteral("QWidget#titleWidget{ background-color: #f1f4f4;}"));
     ui->lblVoipTipMsg->setStyleSheet(QStringLiteral("QLabel#lblVoipTipMsg{ color: #313131; font:14px 微软雅黑; }"));
     ui->lblVoipTipMsg->setText(QStringLiteral("语音会议"));
+}
+
+void CVoiceConferenceWidget::setTips()
+{
+    ui->btnClose->setToolTip(tr("close"));
+}
+
+// All other texts are the same in each language.
+void CVoiceConferenceWidget::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setTips();
 }
 
 void CVoiceConferenceWidget::initButtons()

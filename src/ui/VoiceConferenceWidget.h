@@ -38,6 +38,7 @@ signals:
     void signal_DeleteConfInfoData(QString strConfID);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -55,6 +56,7 @@ private:
     void initWidget();
     void initTitle();
     void initButtons();
+    void setTips();
     void insetDetailPage();
     void connectParts();
     void initListView();

@@ -1,11 +1,14 @@
 #include "widgets/MessageLabel.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextLayout>
+
+#include <tuple>
 
 namespace {
 
@@ -55,7 +58,23 @@ void endWithEllipsis(QTextDocument &document, int iBottom)
 
 } // namespace
 
-MessageLabel::MessageLabel(QWidget *parent) : QLabel(parent) {}
+/// What is laid out, and all that it depends on.
+struct MessageLabel::Layout
+{
+    using Causes = std::tuple<QString, Qt::TextFormat, QFont, Qt::Alignment, bool, QRect, int>;
+
+    Causes causes;
+    bool bWhole = true;
+    /// Where a label begins, and how far above it the lines begin here.
+    int iTop = 0;
+    int iRaised = 0;
+    /// Null where a label shows its text by itself.
+    std::unique_ptr<QTextDocument> pDocument;
+};
+
+MessageLabel::MessageLabel(QWidget *parent) : QLabel(parent), m_pLayout(std::make_unique<Layout>()) {}
+
+MessageLabel::~MessageLabel() = default;
 
 void MessageLabel::setLowestLine(int iBottom)
 {
@@ -77,33 +96,80 @@ bool MessageLabel::isMarkup() const
 
 bool MessageLabel::hasRoom() const
 {
+    return layOut().bWhole;
+}
+
+int MessageLabel::neededHeight() const
+{
     if (!isMarkup() && text().size() > cMostCharacters)
-        return false;
-    return heightForWidth(width()) <= place().height() && minimumSizeHint().width() <= width();
+        return QWIDGETSIZE_MAX;
+    return wordWrap() ? heightForWidth(width()) : sizeHint().height();
+}
+
+/// How far down a label begins a text of that height.
+int MessageLabel::topOf(int iHeight) const
+{
+    const int iRoom = qMax(0, contentsRect().height() - iHeight);
+    return alignment().testFlag(Qt::AlignVCenter) ? iRoom / 2 : alignment().testFlag(Qt::AlignBottom) ? iRoom : 0;
+}
+
+// Neither markup is read nor lines are broken again where only a repaint is asked for.
+const MessageLabel::Layout &MessageLabel::layOut() const
+{
+    Layout::Causes causes(text(), textFormat(), font(), alignment(), wordWrap(), contentsRect(), m_iLowestLine);
+    if (causes == m_pLayout->causes)
+        return *m_pLayout;
+    const int iHeight = neededHeight();
+    m_pLayout->causes = std::move(causes);
+    m_pLayout->iTop = topOf(iHeight);
+    m_pLayout->bWhole = iHeight <= place().height() && minimumSizeHint().width() <= width();
+    const int iBelow = m_pLayout->iTop + iHeight - place().height();
+    m_pLayout->iRaised = m_pLayout->bWhole ? qMax(0, iBelow) : m_pLayout->iTop;
+    const bool bByItself = m_pLayout->bWhole && m_pLayout->iRaised == 0;
+    m_pLayout->pDocument = bByItself ? nullptr : wholeText();
+    if (!m_pLayout->bWhole)
+        endWithEllipsis(*m_pLayout->pDocument, place().height());
+    return *m_pLayout;
+}
+
+std::unique_ptr<QTextDocument> MessageLabel::wholeText() const
+{
+    auto pDocument = std::make_unique<QTextDocument>();
+    pDocument->setDefaultFont(font());
+    pDocument->setDocumentMargin(0);
+    pDocument->setTextWidth(place().width());
+    if (isMarkup())
+        pDocument->setHtml(text());
+    else
+        // Lines of one paragraph stand as close as a label's do.
+        pDocument->setPlainText(text().left(cMostCharacters).replace(QLatin1Char('\n'), QChar::LineSeparator));
+    return pDocument;
+}
+
+// Links lie where they are shown.
+bool MessageLabel::event(QEvent *event)
+{
+    const auto *pMouse = dynamic_cast<QMouseEvent *>(event);
+    if (pMouse == nullptr || layOut().iRaised == 0)
+        return QLabel::event(event);
+    QMouseEvent lower(pMouse->type(), pMouse->localPos() + QPointF(0, layOut().iRaised), pMouse->windowPos(),
+                      pMouse->screenPos(), pMouse->button(), pMouse->buttons(), pMouse->modifiers(), pMouse->source());
+    const bool bHandled = QLabel::event(&lower);
+    event->setAccepted(lower.isAccepted());
+    return bHandled;
 }
 
 void MessageLabel::paintEvent(QPaintEvent *event)
 {
-    if (hasRoom()) {
+    const Layout &layout = layOut();
+    if (!layout.pDocument) {
         QLabel::paintEvent(event);
         return;
     }
-    QTextDocument document;
-    document.setDefaultFont(font());
-    document.setDocumentMargin(0);
-    document.setTextWidth(place().width());
-    if (isMarkup())
-        document.setHtml(text());
-    else
-        // Lines of one paragraph stand as close as a label's do.
-        document.setPlainText(text().left(cMostCharacters).replace(QLatin1Char('\n'), QChar::LineSeparator));
-    endWithEllipsis(document, place().height());
-
     QAbstractTextDocumentLayout::PaintContext look;
     look.palette = palette();
     look.palette.setColor(QPalette::Text, palette().color(foregroundRole()));
-    // Where a label puts the top of a text that is higher than itself, its links included.
     QPainter painter(this);
-    painter.translate(place().topLeft());
-    document.documentLayout()->draw(&painter, look);
+    painter.translate(place().topLeft() + QPoint(0, layout.iTop - layout.iRaised));
+    layout.pDocument->documentLayout()->draw(&painter, look);
 }

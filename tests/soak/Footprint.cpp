@@ -1,5 +1,6 @@
 #include "soak/Footprint.h"
 
+#include "fakes/SanitizedBuild.h"
 #include "soak/ObjectCensus.h"
 
 #include <QApplication>
@@ -39,11 +40,7 @@ qint64 sizeOf(const QString &account, const QString &entry)
 
 bool Footprint::isHeapKnown()
 {
-#ifdef __SANITIZE_ADDRESS__
-    return false;
-#else
-    return true;
-#endif
+    return !kSanitized;
 }
 
 qint64 Footprint::heapInUse()

@@ -11,13 +11,17 @@
 #include <QScreen>
 #include <QTest>
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
+#include <utility>
 
 namespace {
 
 const QPoint cHome(160, 120);
 const QSize cSize(523, 403);
 constexpr int cBar = 5;
+constexpr QRgb cBackdrop = qRgb(0x5a, 0x78, 0x96);
 
 /// Takes every mouse event for itself, as the pictures of a call may do.
 class Surface : public QWidget
@@ -37,6 +41,23 @@ QImage screenNow()
 bool isBlack(QRgb pixel)
 {
     return (pixel & 0xffffff) == 0;
+}
+
+/// Whether all of the window and of the backdrop around it has come to the screen: a place of each that has one colour.
+bool showsTheWindow(const QImage &screen, int iDensity)
+{
+    const QRect window(cHome, cSize);
+    const std::pair<QPoint, QRgb> places[] = {
+        {window.topLeft() - QPoint(10, 10), cBackdrop},
+        {window.bottomRight() + QPoint(10, 10), cBackdrop},
+        {QPoint(window.left() - 70, window.top() + 200), cBackdrop},
+        {window.topLeft() + QPoint(250, 20), qRgb(0xf4, 0xf4, 0xf4)},
+        {window.bottomLeft() + QPoint(20, -10), qRgb(0x4c, 0x4c, 0x4c)},
+        {window.bottomRight() - QPoint(20, 10), qRgb(0x4c, 0x4c, 0x4c)},
+    };
+    return std::all_of(std::begin(places), std::end(places), [&](const std::pair<QPoint, QRgb> &place) {
+        return (screen.pixel(place.first * iDensity) & 0xffffff) == (place.second & 0xffffff);
+    });
 }
 
 /// What is wrong with the band that stands at `band` on the screen that looked like `before` without it; empty when all
@@ -97,6 +118,8 @@ private slots:
     void edgeIsForgottenOverTheParts_data();
     void edgeIsForgottenOverTheParts();
     void edgeIsKnownOverTheParts();
+    void edgeIsKeptDuringItsDrag_data();
+    void edgeIsKeptDuringItsDrag();
     void bandIsFourDottedBars();
 };
 
@@ -109,7 +132,7 @@ void tst_CallWindowPointer::init()
 {
     m_pContacts = std::make_unique<ContactFixture>();
     m_pBackdrop = std::make_unique<QWidget>(nullptr, Qt::X11BypassWindowManagerHint);
-    m_pBackdrop->setPalette(QPalette(QColor(0x5a, 0x78, 0x96)));
+    m_pBackdrop->setPalette(QPalette(QColor(cBackdrop)));
     m_pBackdrop->setGeometry(QGuiApplication::primaryScreen()->geometry());
     m_pBackdrop->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_pBackdrop.get()));
@@ -220,20 +243,56 @@ void tst_CallWindowPointer::edgeIsKnownOverTheParts()
     QTRY_VERIFY(isShapeAt(QPoint(5, 200), Qt::ArrowCursor));
 }
 
+void tst_CallWindowPointer::edgeIsKeptDuringItsDrag_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QPoint>("edge");
+    QTest::addColumn<QPoint>("by");
+    QTest::newRow("voice page, over the parts") << int(CVoipWidget::Voice) << QPoint(1, 200) << QPoint(150, 0);
+    QTest::newRow("voice page, out and in again") << int(CVoipWidget::Voice) << QPoint(1, 200) << QPoint(-40, 0);
+    QTest::newRow("video page, from the right") << int(CVoipWidget::Video) << QPoint(521, 200) << QPoint(-150, 0);
+    QTest::newRow("conference page, over the list")
+        << int(CVoipWidget::Conference) << QPoint(1, 200) << QPoint(100, 30);
+    QTest::newRow("control bar, from below") << int(CVoipWidget::Voice) << QPoint(430, 401) << QPoint(0, -150);
+}
+
+void tst_CallWindowPointer::edgeIsKeptDuringItsDrag()
+{
+    QFETCH(int, type);
+    QFETCH(QPoint, edge);
+    QFETCH(QPoint, by);
+    open(CVoipWidget::VoipType(type));
+    m_pointer.moveTo(cHome + edge);
+    QTRY_VERIFY(m_pWindow->cursor().shape() != Qt::ArrowCursor);
+    const Qt::CursorShape shape = m_pWindow->cursor().shape();
+    m_pointer.press(Qt::LeftButton);
+    QTRY_COMPARE(shownBand(), QRect(cHome, cSize));
+    // There and back, a step at a time: inside of the edge a hover event would read as no edge at all.
+    for (const int iStep : {1, 2, 3, 4, 3, 2, 1, 0}) {
+        const QPoint place = cHome + edge + by * iStep / 4;
+        m_pointer.moveTo(place);
+        QTRY_COMPARE(QCursor::pos(), place);
+        QCoreApplication::processEvents();
+        QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
+        QCOMPARE(m_pWindow->cursor().shape(), shape);
+        QVERIFY(!shownBand().isNull());
+    }
+    m_pointer.release(Qt::LeftButton);
+    QTRY_VERIFY(shownBand().isNull());
+    QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
+}
+
 void tst_CallWindowPointer::bandIsFourDottedBars()
 {
     open(CVoipWidget::Voice);
     m_pointer.moveTo(cHome + QPoint(1, 200));
     QTRY_COMPARE(m_pWindow->cursor().shape(), Qt::SizeHorCursor);
-    QImage before = screenNow();
-    const auto isQuiet = [&before] {
-        const QImage last = before;
-        QTest::qWait(100);
-        before = screenNow();
-        return before == last;
-    };
-    QVERIFY(QTest::qWaitFor(isQuiet));
     const int iDensity = qRound(qApp->devicePixelRatio());
+    QImage before;
+    QVERIFY(QTest::qWaitFor([&] {
+        before = screenNow();
+        return showsTheWindow(before, iDensity);
+    }));
 
     m_pointer.press(Qt::LeftButton);
     QTRY_COMPARE(shownBand(), QRect(cHome, cSize));

@@ -10,7 +10,24 @@
 #include <QMetaMethod>
 #include <QPushButton>
 
+#include <QTranslator>
+
 Q_DECLARE_METATYPE(QMargins)
+
+namespace {
+
+/// A language of the window's own words in capitals.
+class Capitals : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *pContext, const char *pText, const char *, int) const override
+    {
+        return qstrcmp(pContext, "CVoiceConferenceWidget") == 0 ? QString::fromUtf8(pText).toUpper() : QString();
+    }
+};
+
+} // namespace
 
 class tst_CentreForm : public CentreTest
 {
@@ -26,6 +43,7 @@ private slots:
     void titleBarIsAsTheFormSaysIt();
     void createButtonShowsAGreyMicrophone();
     void textsAndStyles();
+    void tipFollowsTheLanguage();
     void signalsAndSlotsInOrder();
 };
 
@@ -185,6 +203,22 @@ void tst_CentreForm::textsAndStyles()
     for (const char *pState : {":!checked", ":checked", ":!checked:hover", ":hover:pressed"})
         strExpected += QStringLiteral("QPushButton#creatConferenceBtn") + QLatin1String(pState) + strRules;
     QCOMPARE(strCreate, strExpected);
+}
+
+void tst_CentreForm::tipFollowsTheLanguage()
+{
+    open({QStringLiteral("7")});
+    const auto tip = [this] { return part<CIconButtonEx>("btnClose")->toolTip(); };
+    const QString strTitle = part<QLabel>("lblVoipTipMsg")->text();
+    QCOMPARE(tip(), QStringLiteral("close"));
+    {
+        Capitals language;
+        QVERIFY(QCoreApplication::installTranslator(&language));
+        QTRY_COMPARE(tip(), QStringLiteral("CLOSE"));
+        QCOMPARE(part<QLabel>("lblVoipTipMsg")->text(), strTitle);
+        QCOMPARE(ids(), QStringList("7"));
+    }
+    QTRY_COMPARE(tip(), QStringLiteral("close"));
 }
 
 void tst_CentreForm::signalsAndSlotsInOrder()

@@ -4,6 +4,8 @@
 #include "widgets/BaseFormEx.h"
 #include "widgets/MessageLabel.h"
 
+#include "ProcessorClock.h"
+
 #include <QPainter>
 #include <QTest>
 
@@ -61,9 +63,11 @@ QString numbered(int iLines)
     return lines.join(QLatin1Char('\n'));
 }
 
+/// Whether something dark stands in these rows of a widget's picture.
 bool hasInk(const QImage &image, int iTop, int iBottom)
 {
-    for (int y = iTop; y <= iBottom; ++y)
+    const int iDensity = qRound(image.devicePixelRatio());
+    for (int y = iTop * iDensity; y < (iBottom + 1) * iDensity; ++y)
         for (int x = 0; x < image.width(); ++x)
             if (qGray(image.pixel(x, y)) < cDark)
                 return true;
@@ -84,6 +88,11 @@ private slots:
     void wordWithoutABreakIsBroken();
     void markupEndsAtAWholeLineToo();
     void lowestLineMayLieHigher();
+    void wholeTextIsRaisedAboveTheLowestLine();
+    void linkLiesWhereItIsShown();
+    void changesAreSeen_data();
+    void changesAreSeen();
+    void repaintsReadNoMarkup();
     void veryLongTextIsShownAtOnce();
     void dialogsLineIsNotCrossed_data();
     void dialogsLineIsNotCrossed();
@@ -140,7 +149,7 @@ void tst_MessageLabel::wordWithoutABreakIsBroken()
     QVERIFY(!label.hasRoom());
     for (int iLine = 0; iLine < roomForLines(); ++iLine)
         QVERIFY(hasInk(image, iLine * lineHeight(), (iLine + 1) * lineHeight() - 1));
-    QVERIFY(!hasInk(image, roomForLines() * lineHeight(), image.height() - 1));
+    QVERIFY(!hasInk(image, roomForLines() * lineHeight(), cSize.height() - 1));
 }
 
 void tst_MessageLabel::markupEndsAtAWholeLineToo()
@@ -160,6 +169,97 @@ void tst_MessageLabel::lowestLineMayLieHigher()
     QVERIFY(!label.hasRoom());
 }
 
+void tst_MessageLabel::wholeTextIsRaisedAboveTheLowestLine()
+{
+    // Room for three lines from the top, not for three in the middle.
+    const int iLowest = 3 * lineHeight() + 2;
+    MessageLabel label;
+    label.setLowestLine(iLowest);
+    const QImage image = shown(label, numbered(3));
+    QVERIFY(label.hasRoom());
+    QVERIFY(!hasInk(image, iLowest, cSize.height() - 1));
+
+    QLabel above(numbered(3));
+    above.setFont(plainFont());
+    above.setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    above.resize(cSize.width(), iLowest);
+    QCOMPARE(image.copy(0, 0, image.width(), iLowest * qRound(image.devicePixelRatio())), above.grab().toImage());
+}
+
+void tst_MessageLabel::linkLiesWhereItIsShown()
+{
+    MessageLabel label;
+    label.setLowestLine(3 * lineHeight() + 2);
+    shown(label, QStringLiteral("<a href=\"there\">Line 1</a><br>Line 2<br>Line 3"));
+    QVERIFY(label.hasRoom());
+    QStringList followed;
+    connect(&label, &QLabel::linkActivated, this, [&followed](const QString &strLink) { followed.append(strLink); });
+    QTest::mouseClick(&label, Qt::LeftButton, Qt::NoModifier, QPoint(10, 4));
+    QCOMPARE(followed, QStringList("there"));
+    QTest::mouseClick(&label, Qt::LeftButton, Qt::NoModifier, QPoint(10, 4 + lineHeight()));
+    QCOMPARE(followed, QStringList("there"));
+}
+
+void tst_MessageLabel::changesAreSeen_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("pixels");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("lowest");
+    QTest::addColumn<QColor>("color");
+    const QString strText = numbered(20);
+    QTest::newRow("text") << numbered(21).mid(1) << 12 << cSize << 60 << QColor(Qt::black);
+    QTest::newRow("short text") << numbered(2) << 12 << cSize << 60 << QColor(Qt::black);
+    QTest::newRow("font") << strText << 15 << cSize << 60 << QColor(Qt::black);
+    QTest::newRow("size") << strText << 12 << QSize(30, 55) << 60 << QColor(Qt::black);
+    QTest::newRow("lowest line") << strText << 12 << cSize << 40 << QColor(Qt::black);
+    QTest::newRow("colour") << strText << 12 << cSize << 60 << QColor(Qt::red);
+}
+
+void tst_MessageLabel::changesAreSeen()
+{
+    QFETCH(QString, text);
+    QFETCH(int, pixels);
+    QFETCH(QSize, size);
+    QFETCH(int, lowest);
+    QFETCH(QColor, color);
+    const auto changed = [&](MessageLabel &label) {
+        QFont font = plainFont();
+        font.setPixelSize(pixels);
+        label.setFont(font);
+        label.setText(text);
+        label.setLowestLine(lowest);
+        label.resize(size);
+        QPalette palette;
+        palette.setColor(label.foregroundRole(), color);
+        label.setPalette(palette);
+        return label.grab().toImage();
+    };
+    MessageLabel label;
+    label.setLowestLine(60);
+    const QImage before = shown(label, numbered(20));
+    MessageLabel fresh;
+    fresh.setWordWrap(true);
+    const QImage after = changed(label);
+    QVERIFY(after != before);
+    QCOMPARE(after, changed(fresh));
+}
+
+void tst_MessageLabel::repaintsReadNoMarkup()
+{
+    MessageLabel label;
+    const QString strText = QStringLiteral("<p><b>busy</b> and <i>long</i></p>").repeated(2000);
+    const ProcessorClock first;
+    shown(label, strText);
+    const double dFirst = first.seconds();
+    QVERIFY(!label.hasRoom());
+    const ProcessorClock again;
+    for (int i = 0; i < 20; ++i)
+        label.grab();
+    const double dAgain = again.seconds();
+    QVERIFY2(dAgain < dFirst, qPrintable(QStringLiteral("%1 s, then %2 s").arg(dFirst).arg(dAgain)));
+}
+
 void tst_MessageLabel::veryLongTextIsShownAtOnce()
 {
     MessageLabel label;
@@ -171,6 +271,8 @@ void tst_MessageLabel::dialogsLineIsNotCrossed_data()
     QTest::addColumn<QString>("message");
     QTest::newRow("Chinese") << QStringLiteral("对方正忙，请稍后再拨。").repeated(20);
     QTest::newRow("Latin") << QStringLiteral("The other side is busy, try again. ").repeated(20);
+    for (int i = 2; i <= 5; ++i)
+        QTest::addRow("%d lines", i) << numbered(i);
     QTest::newRow("lines") << numbered(12);
     QTest::newRow("markup") << QStringLiteral("<a href=\"http://x.y\">busy</a> and long ").repeated(40);
 }

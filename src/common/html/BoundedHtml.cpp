@@ -52,7 +52,7 @@ class LeanWriter
 {
 public:
     /// `bAll`: keep all attributes and names, for style sheets that ask for them.
-    LeanWriter(const QString &strHtml, bool bAll) : m_strHtml(strHtml), m_bAll(bAll) {}
+    LeanWriter(const QString &strHtml, bool bAll) : m_strHtml(strHtml), m_bAll(bAll), m_cost(strHtml.size()) {}
 
     /// False when it costs too much, or another writer is to keep all.
     bool write()

@@ -68,7 +68,7 @@ int spanOf(const HtmlTag &tag, const char *pKey)
 
 } // namespace
 
-HtmlCost::HtmlCost() : m_listOpen(1) {}
+HtmlCost::HtmlCost(int iUnits) : m_listOpen(1), m_dMost(mostMicroseconds(iUnits)) {}
 
 HtmlCost::Kind HtmlCost::kindOf(const QString &strName)
 {

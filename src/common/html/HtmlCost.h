@@ -16,12 +16,19 @@ class HtmlCost
 public:
     /// Elements in each other beyond this are too many, whatever they cost.
     static constexpr int MOST_DEPTH = 256;
-    /// What HTML may cost in all.
-    static constexpr double MOST_MICROSECONDS = 400000;
+    /// What HTML of so many units may cost in all: a share for each, so that a short text is not let cost what only a
+    /// long one has reason to, and what leaves reading a million units below a second. The fuzzers hold their texts,
+    /// which are short, to no more time than this grants them.
+    static constexpr double mostMicroseconds(int iUnits)
+    {
+        return iUnits < LONG_TEXT ? MOST_AT_ONCE + MOST_FOR_A_UNIT * iUnits
+                                  : MOST_AT_ONCE + MOST_FOR_A_UNIT * LONG_TEXT;
+    }
     /// Each item of a list costs as much as all before it together, so a longer list is better cut.
     static constexpr int MOST_ITEMS = 64;
 
-    HtmlCost();
+    /// For HTML of so many units.
+    explicit HtmlCost(int iUnits);
 
     /// `strKept` is what is kept of the tag's attributes; `strWritten` the name, in lower case, that Qt is to read.
     void open(const HtmlTag &tag, const QString &strKept, const QString &strWritten);
@@ -35,7 +42,7 @@ public:
     /// A style sheet, whose rules every later element is held against; `bSiblings`: also against those before it.
     void addSheet(int iUnits, bool bSiblings);
 
-    bool isTooHigh() const { return m_dCost > MOST_MICROSECONDS || m_listOpen.size() > MOST_DEPTH; }
+    bool isTooHigh() const { return m_dCost > m_dMost || m_listOpen.size() > MOST_DEPTH; }
     /// Whether all that is open lies in a style element directly.
     bool isInStyle() const { return m_listOpen.last().kind == Style && !m_bAfterNameless; }
     bool hasSheets() const { return m_iSheetUnits > 0; }
@@ -48,6 +55,10 @@ public:
     QPair<QString, QString> openList() const;
 
 private:
+    static constexpr int LONG_TEXT = 45000;
+    static constexpr double MOST_AT_ONCE = 40000;
+    static constexpr double MOST_FOR_A_UNIT = 8;
+
     enum Kind
     {
         Inline,
@@ -117,6 +128,7 @@ private:
     // How many items each open list has.
     QVector<int> m_listItems;
     QHash<QPair<int, QString>, int> m_formats;
+    const double m_dMost;
     double m_dCost = 0;
     int m_iSheets = 0;
     int m_iSheetUnits = 0;
