@@ -1,7 +1,7 @@
 #include "common/html/PlainText.h"
 
 #include "ProcessorClock.h"
-#include "RandomMessage.h"
+#include "common/html/RandomMessage.h"
 #include "fakes/SanitizedBuild.h"
 
 #include <QTest>
