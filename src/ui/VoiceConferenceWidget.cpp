@@ -17,8 +17,6 @@
 
 namespace {
 
-constexpr int cCloseGlyphPixels = 8;
-constexpr int cCloseStyleType = 3;
 constexpr QSize cCreateIconSize(30, 30);
 constexpr int cCreateGlyphPixels = 16;
 
@@ -82,7 +80,7 @@ void CVoiceConferenceWidget::insetDetailPage()
 
 void CVoiceConferenceWidget::initTitle()
 {
-    ui->btnClose->setIconFont(IconGlyph::text(IconGlyph::Close), cCloseGlyphPixels, cCloseStyleType);
+    ui->btnClose->setIconFont(IconGlyph::text(IconGlyph::Close), CIconButtonEx::SmallGlyph, CIconButtonEx::RedStyle);
     ui->btnClose->setToolTip(tr("close"));
     ui->titleWidget->setStyleSheet(QStringLiteral("QWidget#titleWidget{ background-color: #f1f4f4;}"));
     ui->lblVoipTipMsg->setStyleSheet(QStringLiteral("QLabel#lblVoipTipMsg{ color: #313131; font:14px 微软雅黑; }"));

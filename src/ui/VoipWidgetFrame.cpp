@@ -150,7 +150,8 @@ void CVoipWidget::slot_WindowChangeButtonClicked()
         m_bFullScreen = false;
         setGeometry(m_normalGeometry);
         ui->titleWidget->show();
-        ui->btnChangeWindow->setIconFont(IconGlyph::text(IconGlyph::FullScreen), 16, 0);
+        ui->btnChangeWindow->setIconFont(IconGlyph::text(IconGlyph::FullScreen), CIconButtonEx::LargeGlyph,
+                                         CIconButtonEx::HoverStyle);
         ui->btnChangeWindow->setIconColor(cFaceColor);
         ui->btnChangeWindow->setToolTip(tr("fullscreen"));
     } else {
@@ -158,7 +159,8 @@ void CVoipWidget::slot_WindowChangeButtonClicked()
         m_normalGeometry = frameGeometry();
         ui->titleWidget->hide();
         setGeometry(EdgeDrag::overWorkArea(ScreenPlace::workArea()));
-        ui->btnChangeWindow->setIconFont(IconGlyph::text(IconGlyph::Restore), 16, 0);
+        ui->btnChangeWindow->setIconFont(IconGlyph::text(IconGlyph::Restore), CIconButtonEx::LargeGlyph,
+                                         CIconButtonEx::HoverStyle);
         ui->btnChangeWindow->setIconColor(cFaceColor);
         ui->btnChangeWindow->setToolTip(tr("restore"));
     }

@@ -79,15 +79,15 @@ void CIconButtonEx::setBtnStyles(int type)
 {
     const SysUIData &skin = *SkinContext::getSkinData();
     switch (type) {
-    case 0:
-    case 1:
+    case HoverStyle:
+    case SameHoverStyle:
         m_strHoverColor = skin.m_strIconHoverColor;
         if (m_bCheckedState)
             showGlyph(m_strHoverColor);
         else
             showNormal();
         break;
-    case 2:
+    case BackgroundStyle:
         if (m_bBackGroundDark) {
             showGlyph(strCOLOR_WHITE, strCOLOR_WHITE);
             showBackground(strCOLOR_SKINTHEME_GREEN, strCOLOR_SKINTHEME_GREEN);
@@ -97,7 +97,7 @@ void CIconButtonEx::setBtnStyles(int type)
             showBackground(skin.m_strFifthIconColor, skin.m_strFourthIconColor);
         }
         break;
-    case 3:
+    case RedStyle:
         if (m_bBackGroundDark) {
             showGlyph(strCOLOR_WHITE, strCOLOR_WHITE);
         } else {
@@ -106,7 +106,7 @@ void CIconButtonEx::setBtnStyles(int type)
             showBackground(skin.m_strFifthIconColor, skin.m_strFifthIconColor);
         }
         break;
-    case 4:
+    case StillStyle:
         showGlyph(m_strIconColor);
         break;
     default:
