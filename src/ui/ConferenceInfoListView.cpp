@@ -1,16 +1,13 @@
 #include "ui/ConferenceInfoListView.h"
 
-#include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
 #include "common/Palette.h"
-#include "common/pictures/ImagePath.h"
 #include "common/system/ScreenPlace.h"
-#include "model/FriendData.h"
 #include "model/MemberRoles.h"
 #include "model/UserIds.h"
-#include "plugin/VoipManageEventProcess.h"
 #include "ui/ConferenceInfoItem.h"
 #include "ui/ConferenceInfoListViewDelegate.h"
+#include "ui/ShownContact.h"
 #include "ui/SignCard.h"
 #include "widgets/MenuEx.h"
 
@@ -107,11 +104,9 @@ void CConferenceInfoListView::removeConfInfoData(QString strConfID)
 
 std::shared_ptr<const ConferenceCreator> CConferenceInfoListView::creatorOf(const QString &strUserID)
 {
-    const FriendData creator = VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(strUserID));
-    return std::make_shared<const ConferenceCreator>(
-        ConferenceCreator{strUserID, creator.displayName(),
-                          ImagePath::getTrueImagePath(creator.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
-                          strUserID == UserIds::getLoginUID()});
+    const ShownContact creator = ShownContact::ofUser(strUserID);
+    return std::make_shared<const ConferenceCreator>(ConferenceCreator{
+        strUserID, creator.record.displayName(), creator.strHeadPath, strUserID == UserIds::getLoginUID()});
 }
 
 QStandardItem *CConferenceInfoListView::creatListItem(const ConfInfoData &confInfo,

@@ -4,14 +4,13 @@
 
 #include "ui_VoipWidget.h"
 
-#include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
 #include "common/pictures/IconGlyphs.h"
-#include "common/pictures/ImagePath.h"
 #include "common/text/TimeText.h"
 #include "model/FriendData.h"
 #include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
+#include "ui/ShownContact.h"
 #include "widgets/ErrorMessage.h"
 
 #include <QCloseEvent>
@@ -116,7 +115,7 @@ void CVoipWidget::showPeer()
 QString CVoipWidget::showPeerCard(const VcardInfo &vcard)
 {
     QString strShownName = cardName(vcard);
-    const QString strPhotoPath = ImagePath::getTrueImagePath(vcard.m_strPhotoPath, strDEFAULT_HEAD_PATH);
+    const QString strPhotoPath = ShownContact::headPathOf(vcard);
     LOG_DEBUG << "voip userName=" << strShownName << "\n";
     LOG_DEBUG << "voip photourl = " << strPhotoPath << "\n";
     ui->lblPhotoIcon->setHeadPictrue(strPhotoPath);
