@@ -22,6 +22,14 @@ bool isAscii(QLatin1String text)
     return std::all_of(text.begin(), text.end(), [](char character) { return (character & 0x80) == 0; });
 }
 
+/// Whether a number comes out of the stream as plain digits, as it does until someone sets the stream otherwise.
+bool writesPlainDigits(const QTextStream &stream)
+{
+    static const QLocale s_plain = QLocale::c();
+    return stream.integerBase() == 0 && stream.numberFlags() == 0 && stream.fieldWidth() == 0 &&
+           stream.locale() == s_plain;
+}
+
 } // namespace
 
 CLogManger *CLogManger::m_pInstance = nullptr;
@@ -130,10 +138,8 @@ void CLogManger::closeRecord()
 
 CLogManger &CLogManger::operator<<(int iNumber)
 {
-    // A text stream makes a text by the locale's rules for each number; one that nobody has set writes plain digits.
-    static const QLocale s_plain = QLocale::c();
-    if (m_pTextStream->integerBase() != 0 || m_pTextStream->numberFlags() != 0 || m_pTextStream->fieldWidth() != 0 ||
-        m_pTextStream->locale() != s_plain) {
+    // The stream goes by the locale's rules for each number, which would be a third of the statement's time.
+    if (!writesPlainDigits(*m_pTextStream)) {
         *m_pTextStream << iNumber;
         return *this;
     }
