@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Most records are shorter, so that none of their items moves the growing text.
+/// Room for the text of a record. Most are shorter, so that adding an item need not find room for it anew.
 constexpr int BUFFER_LENGTH = 1000;
 
 bool isAscii(QLatin1String text)
@@ -85,7 +85,7 @@ CLogManger &CLogManger::startRecord(CustomLog::LogLevel level, const QString &st
     return *this;
 }
 
-/// Text that a stream would take over as it is goes into the record without that detour.
+/// Adds text to the record: directly where the stream would add it unchanged, else through the stream.
 template <typename Text>
 void CLogManger::add(const Text &text)
 {
@@ -121,7 +121,8 @@ CLogManger &CLogManger::operator<<(const char *szText)
 
 void CLogManger::closeRecord()
 {
-    // The queue has no limit, so a record takes no more room than its text; the buffer keeps its own.
+    // The queue may grow long, so it gets a copy that takes no more room than its text, and the buffer keeps its room.
+    // A text that has outgrown the buffer is handed over itself.
     const bool bUsual = m_strMessage.size() < BUFFER_LENGTH;
     if (m_pLogThread) {
         m_pLogThread->printLog(

@@ -88,7 +88,7 @@ void CConfDetailMemberTableView::placeMember(int iRow, int iColumn, const QStrin
 void CConfDetailMemberTableView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                              const QVector<int> &roles)
 {
-    // The painting itself writes the heads' places back: they must not call for the next painting.
+    // Painting writes the places of the heads into the items. That must not lead to the next painting.
     if (areRolesShown(roles))
         QTableView::dataChanged(topLeft, bottomRight, roles);
 }
@@ -96,7 +96,8 @@ void CConfDetailMemberTableView::dataChanged(const QModelIndex &topLeft, const Q
 void CConfDetailMemberTableView::scrollContentsBy(int dx, int dy)
 {
     QTableView::scrollContentsBy(dx, dy);
-    // Cells whose pixels are only moved would keep the place of their head from before.
+    // Everything is painted anew, because painting writes down where the heads stand: scrolling alone only moves the
+    // pixels.
     viewport()->update();
 }
 

@@ -65,7 +65,7 @@ void CVoiceConferenceWidget::initWidget()
     showPage(cListPage);
 }
 
-// The page lays itself out without margins; what it laid out stands in one more layout here, which has them.
+// The page's own layout has no margins. What stands in it is moved into a further layout inside it, which has them.
 void CVoiceConferenceWidget::insetDetailPage()
 {
     auto *pPage = qobject_cast<QBoxLayout *>(ui->conferenceDetaileWidget->layout());

@@ -134,7 +134,8 @@ void CIconButtonEx::showGlyph(const QString &color, const QString &hoverColor)
 
 void CIconButtonEx::showDecimals(const QString &color)
 {
-    // A sheet cannot read three decimals and then leaves the glyph to the palette, which each new sheet puts back.
+    // A style sheet cannot read three decimals; the glyph then has the palette's colour, which each new sheet sets
+    // back.
     const QColor decimals = colorOfDecimals(color);
     if (decimals.isValid()) {
         QPalette palette = ui->pushButton->palette();
@@ -249,7 +250,7 @@ bool CIconButtonEx::eventFilter(QObject *watched, QEvent *event)
     if (watched == ui->pushButton || watched == ui->widgetBG) {
         switch (event->type()) {
         case QEvent::MouseButtonPress:
-        // The second press of two quick ones: seen by the inner button it would stay down.
+        // The second of two quick presses comes as this event. If the inner button saw it, the button would stay down.
         case QEvent::MouseButtonDblClick:
             return true;
         case QEvent::MouseButtonRelease:

@@ -193,7 +193,7 @@ void CLineEditEx::setNewMaxLength(int iLength)
 void CLineEditEx::slot_cursorchanged(int oldPos, int newPos)
 {
     QString strText = ui->lineEdit->text();
-    // Qt tells the first move of all as one from -1.
+    // Qt reports the very first move as one from -1.
     oldPos = qMax(0, oldPos);
     if (newPos <= oldPos || newPos > strText.size())
         return;
