@@ -135,7 +135,8 @@ void Relay::clientGoes()
 
 void Relay::passOn(const QByteArray &bytes)
 {
-    // Before the far end can count its own pauses from it: what is recorded is never shorter than they are.
+    // The time is taken before the bytes go on: the call process counts its pauses from their arrival, so no recorded
+    // pause is shorter than it was.
     m_heardTime = m_clock.elapsed();
     if (m_farEnd != nullptr) {
         m_farEnd->write(bytes);

@@ -199,7 +199,7 @@ bool Replay::expectNoMore()
             return fail(QStringLiteral("expected nothing more, got %1").arg(LineMatch::shown(*line)));
         }
     }
-    // Of a line that the scenario leaves unfinished as much may have come.
+    // Of a line that the scenario leaves unfinished, as much may have come as it has.
     if (!m_unfinished.startsWith(m_plugin.rest())) {
         return fail(QStringLiteral("expected nothing more, got %1").arg(LineMatch::shown(m_plugin.rest())));
     }

@@ -14,12 +14,20 @@
 
 namespace {
 
-/// Most records are shorter, so that none of their items moves the growing text.
+/// Room for the text of a record. Most are shorter, so that adding an item need not find room for it anew.
 constexpr int BUFFER_LENGTH = 1000;
 
 bool isAscii(QLatin1String text)
 {
     return std::all_of(text.begin(), text.end(), [](char character) { return (character & 0x80) == 0; });
+}
+
+/// Whether a number comes out of the stream as plain digits, as it does until someone sets the stream otherwise.
+bool writesPlainDigits(const QTextStream &stream)
+{
+    static const QLocale s_plain = QLocale::c();
+    return stream.integerBase() == 0 && stream.numberFlags() == 0 && stream.fieldWidth() == 0 &&
+           stream.locale() == s_plain;
 }
 
 } // namespace
@@ -77,7 +85,7 @@ CLogManger &CLogManger::startRecord(CustomLog::LogLevel level, const QString &st
     return *this;
 }
 
-/// Text that a stream would take over as it is goes into the record without that detour.
+/// Adds text to the record: directly where the stream would add it unchanged, else through the stream.
 template <typename Text>
 void CLogManger::add(const Text &text)
 {
@@ -113,7 +121,8 @@ CLogManger &CLogManger::operator<<(const char *szText)
 
 void CLogManger::closeRecord()
 {
-    // The queue has no limit, so a record takes no more room than its text; the buffer keeps its own.
+    // The queue may grow long, so it gets a copy that takes no more room than its text, and the buffer keeps its room.
+    // A text that has outgrown the buffer is handed over itself.
     const bool bUsual = m_strMessage.size() < BUFFER_LENGTH;
     if (m_pLogThread) {
         m_pLogThread->printLog(
@@ -130,10 +139,8 @@ void CLogManger::closeRecord()
 
 CLogManger &CLogManger::operator<<(int iNumber)
 {
-    // A text stream makes a text by the locale's rules for each number; one that nobody has set writes plain digits.
-    static const QLocale s_plain = QLocale::c();
-    if (m_pTextStream->integerBase() != 0 || m_pTextStream->numberFlags() != 0 || m_pTextStream->fieldWidth() != 0 ||
-        m_pTextStream->locale() != s_plain) {
+    // The stream goes by the locale's rules for each number, which would be a third of the statement's time.
+    if (!writesPlainDigits(*m_pTextStream)) {
         *m_pTextStream << iNumber;
         return *this;
     }

@@ -29,7 +29,8 @@ void CLogThread::run()
     }
 }
 
-/// Waits for a record. One lock for it and for the log file to write it to, since callers stand at that lock.
+/// Waits for a record and takes it, with the log file to write it to: both under one lock, because callers wait for
+/// that lock.
 CustomLogData CLogThread::takeRecord(CustomLogger *&pLogger)
 {
     const QMutexLocker lock(&m_mutex);
@@ -55,9 +56,9 @@ void CLogThread::printLog(const CustomLogData &data)
 void CLogThread::printLog(CustomLogData &&data)
 {
     const QMutexLocker lock(&m_mutex);
-    // A writer waits at an empty queue only.
+    // The writer waits only while the queue is empty.
     const bool bWriterMayWait = m_queue.isEmpty();
-    // A list copies what is appended; the record's texts are moved.
+    // The list would copy the record that is appended; this way its texts are moved.
     m_queue.append(CustomLogData());
     m_queue.last() = std::move(data);
     if (bWriterMayWait) {

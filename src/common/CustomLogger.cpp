@@ -21,8 +21,8 @@ CustomLogger::~CustomLogger()
 {
     const QMutexLocker lock(&m_mutex);
     if (m_pStream) {
-        // Deliberately not flushed: a host that wants the last lines closes the log first. A stream that has failed
-        // writes nothing more when the file or the stream itself goes.
+        // Deliberately not flushed: a host that wants the last lines closes the log first. With this status, the stream
+        // does not write its buffer when the file or the stream is destroyed.
         m_pStream->setStatus(QTextStream::WriteFailed);
     }
     m_pStream.reset();
@@ -63,8 +63,8 @@ void CustomLogger::printLog(CustomLog::LogLevel level, const QString &strLocatio
     }
 }
 
-/// The local time in ASCII digits, which QDateTime's own texts do not have under every system locale. Only the
-/// milliseconds are new within a second: what the zone makes of it is looked up in the file system.
+/// The local time in ASCII digits, which the texts of QDateTime do not have under every system locale. Within one
+/// second only the milliseconds are made anew, because Qt looks for the time zone in the file system.
 const QString &CustomLogger::currentTime()
 {
     const qint64 iNow = QDateTime::currentMSecsSinceEpoch();
@@ -80,8 +80,9 @@ const QString &CustomLogger::currentTime()
     return m_strTime;
 }
 
-/// The size on the disk. It changes when the stream has handed its buffer on, which moves the position. While a full
-/// disk does not take that, the file answers 0 and is asked at each line, which offers the rest again.
+/// The size on the disk. The file is asked only when its position has moved, which happens when the stream hands over
+/// its buffer. While a full disk does not take the buffer, the file answers 0; it is then asked at each line, which
+/// offers the buffer again.
 qint64 CustomLogger::fileSize()
 {
     const qint64 iPosition = m_pFile->pos();

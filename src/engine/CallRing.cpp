@@ -14,7 +14,7 @@ std::unique_ptr<QSound> &held()
     return s_player;
 }
 
-// A player that goes waits for the thread that reads its file and ends the one at the sound server.
+// Destroying a player waits for the thread that reads its file and ends the one that talks to the sound server.
 void end()
 {
     held().reset();
@@ -43,7 +43,7 @@ QSound *CallRing::player()
         made->setLoops(QSound::Infinite);
         held() = std::move(made);
         qAddPostRoutine(end);
-        // Made behind the first player, so that it goes before the statics which that has brought along.
+        // Made after the first player, so that it is destroyed before the statics that came into being with the player.
         static const EndWithLibrary s_end;
     }
     return held().get();

@@ -23,7 +23,7 @@ bool parse(const QString &text, Json::Value &root)
         if (reader.parse(bytes.cbegin(), bytes.cend(), root, true))
             return true;
     } catch (const std::exception &) {
-        // Nesting beyond the library's limit ends here and reads as text that does not parse.
+        // A text that nests deeper than the library goes ends here; it counts as one that does not parse.
     }
     root = Json::Value();
     return false;

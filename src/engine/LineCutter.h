@@ -7,9 +7,8 @@
 // So identical lines of one read are delivered once; a line that is the tail of a later one is cut off there too
 // ("a\nba\nc\n" gives "a" and "bc"); and an empty line takes all line feeds with it and loses the rest of the read.
 //
-// The work grows with the text, not with the square of its lines: a line is not searched for in what follows. Where it
-// is plain that no line ends with an earlier one, as in nearly all reads, the lines stand as they came; else each later
-// line asks once which of the delivered lines has cut it first.
+// Nearly all reads are lines that plainly stand apart from each other; they stand as they came. In any other read each
+// line is looked for at the ends of all later ones, which takes time with the square of the number of lines.
 
 #include <QString>
 #include <QStringList>

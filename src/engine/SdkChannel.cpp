@@ -128,7 +128,7 @@ void CVoipManage::slot_VoipSDKDataRecevie()
     for (const QString &line : lines)
         recevieVoipMessage(line);
 
-    // A handler that ran an event loop of its own has swallowed the signal for what came meanwhile.
+    // While a handler runs an event loop of its own, no signal tells of what comes meanwhile.
     if (m_pVoipSocket && m_pVoipSocket->bytesAvailable() > 0)
         QMetaObject::invokeMethod(this, "slot_VoipSDKDataRecevie", Qt::QueuedConnection);
 }

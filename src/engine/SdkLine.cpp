@@ -42,7 +42,7 @@ Notification read(const QString &line)
     Json::Value document;
     if (!JsonText::parse(line, document))
         return {};
-    // Read through a constant, what is absent is not added.
+    // Through a constant reference, asking for an absent key does not add it.
     const Json::Value &root = document;
     try {
         const Json::Value &content = root["content"];

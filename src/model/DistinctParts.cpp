@@ -8,8 +8,8 @@
 
 namespace {
 
-/// All parts as one tree of their beginnings, where each node knows the node of its longest own ending: the whole text
-/// is walked once, and each part is met at every place where it stands.
+/// All parts in one tree. Each node stands for a text with which some part begins, and knows the node of the longest
+/// text that ends its own: so a single walk over all parts comes past each place where a part stands.
 class EndingTree
 {
 public:
@@ -65,7 +65,7 @@ private:
         }
     }
 
-    // From the shallow ones to the deep ones, as each is found through a shallower one.
+    // Nodes of shorter texts come first, because the ending of a node is found through that of a shorter one.
     void linkEndings()
     {
         QVector<int> listByDepth(m_listNode.size() - 1);
@@ -88,7 +88,7 @@ private:
         }
     }
 
-    // With a node all its endings have been met.
+    // A text that has been met contains all its endings, so these have been met too.
     void meet(int iNode)
     {
         for (; iNode != 0 && !m_listNode.at(iNode).bMet; iNode = m_listNode.at(iNode).iEnding)

@@ -84,7 +84,8 @@ constexpr HostCommand commands[] = {
 
 static_assert(tellOfEveryEvent(commands, EventWay::Command), "a command that nobody carries out");
 
-// The mailbox stands below the engine and cannot name these rows, so they enter themselves.
+// The mailbox stands below the engine and cannot name these rows, and programs use it without the plug-in's root
+// object, which could hand them over: so the rows enter themselves.
 [[maybe_unused]] const bool commandsAreSet = (setHostCommands(commands, static_cast<int>(std::size(commands))), true);
 
 } // namespace

@@ -4,13 +4,20 @@
 #include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 
+namespace {
+
+// The client's fixed system account: no card is ever asked for it.
+constexpr QLatin1String cSystemAccount("kv6005626532");
+
+} // namespace
+
 bool StrangerCards::test(const QString &uid)
 {
     const QString jid = UserIds::getJidByUid(uid);
     const FriendData record = VoipManageEventProcess::getFriendInfoByJid(jid);
     // Deliberate: the contact plug-in is asked in any case, for the system account and for records at hand too.
     const bool known = VoipManageEventProcess::isExistFriend(jid);
-    if (known || uid == QLatin1String("kv6005626532")) {
+    if (known || uid == cSystemAccount) {
         return false;
     }
     ids.append(UserIds::getUidByJid(uid));

@@ -61,7 +61,7 @@ FriendData VoipManageEventProcess::getFriendInfoByJid(QString strJid)
         return known.value();
     }
     const auto event = request<MSG_GET_FRIEND_INFO>(strJid);
-    // Unanswered, the question's own bytes would be followed as an address.
+    // When nobody has answered, the payload is still the question, and its bytes must not be taken for an address.
     if (event->data == packPayload(strJid)) {
         return {};
     }

@@ -105,8 +105,8 @@ bool findsRow(const QString &statement)
     return StoreOpening::ask(query, statement) && query.value(0).toInt() != 0;
 }
 
-/// False when another process kept the open file from being read. One that only keeps it from being written leaves, as
-/// any failure to write does, a part of the schema to the next open.
+/// False when another process kept the open file from being read. When one keeps it from being written only, or a write
+/// fails otherwise, what the schema lacks is left to the next open.
 bool bringUpToDate(bool createAll)
 {
     const StoreOpening opening(DB::m_db);

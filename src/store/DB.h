@@ -23,16 +23,16 @@ public:
 
     /// Whether the store in folder `dir` is usable: true too when there is none, and, deliberately, when it cannot be
     /// opened at all. `quickOnly` leaves out the trial write. Works on a connection of its own, never repairs, moves or
-    /// deletes the file; what becomes of a damaged one is the caller's business. A file that another process keeps
-    /// locked against reading too answers nothing to either test, which reads as false, after some two seconds.
+    /// deletes the file; what becomes of a damaged one is the caller's business. When another process keeps the file
+    /// locked against reading too, neither test gets an answer, and the result is false after some two seconds.
     static bool checkDB(QString dir, bool quickOnly);
 
     /// Opens the store of `userName` under `path`, or under strAPP_DOCUMENT_IM_FILES_PATH() when that is empty, and
     /// brings its schema up to date; an open session is closed first. With `createAll` folder and file are created when
     /// missing; without it both have to be there and only `loginInfo` is looked after. False when the file is missing,
-    /// cannot be created or cannot be opened; CommonData then points to the closed connection. So it is when another
-    /// process keeps the file locked against reading for longer than all statements together wait, some two seconds.
-    /// One that keeps it from being written only for so long leaves what the schema lacks to the next open.
+    /// cannot be created or cannot be opened; CommonData then points to the closed connection. The same happens when
+    /// another process keeps the file locked against reading for longer than all statements together wait, some two
+    /// seconds. When it keeps it from being written only, what the schema lacks is left to the next open.
     static bool initByUserName(QString userName, QString path, bool createAll);
 
     /// Closes the connection that CommonData points to, and takes it away there; without one nothing happens.

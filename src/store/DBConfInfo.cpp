@@ -56,7 +56,8 @@ private:
         return members;
     }
 
-    // The text read last of those that share a place: enough for what comes again and again, and cheaper than a set.
+    // For each place of the table, the text read last that belongs there. Texts that come again and again are found so,
+    // and it costs less than a set.
     static constexpr int cKnownTexts = 4096;
     QVector<QString> m_texts = QVector<QString>(cKnownTexts);
 };

@@ -7,7 +7,8 @@ namespace {
 
 // What Qt's driver gives a statement by default, in milliseconds.
 constexpr int kDriverMs = 5000;
-// Statements that did not wait are done in less; it is not worth a statement to take it off.
+// A statement that did not wait takes less than this. So short a time is not taken off what is left, because that would
+// cost a statement of its own.
 constexpr int kStepMs = 50;
 // SQLite's primary result code for a file that another connection has locked; the upper bytes tell details.
 constexpr int kBusyCode = 5;

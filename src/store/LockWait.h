@@ -1,6 +1,6 @@
 #pragma once
 
-// How long the statements of one flow stand at locks of other processes, all of them together. SQLite gives each
+// Limits how long the statements of one flow wait for locks of other processes, all of them together. SQLite gives each
 // statement a waiting time of its own, so a flow of many over a file that stays locked would keep its thread for
 // minutes. A value for the length of one flow, on the thread of its connection.
 

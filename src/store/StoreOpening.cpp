@@ -26,7 +26,7 @@ bool StoreOpening::execute(QSqlQuery &query, const QString &statement)
 {
     if (!s_pCurrent)
         return query.exec(statement);
-    // What is not known to be missing is not made.
+    // The schema could not be read, so it is not known what is missing, and nothing is made.
     if (s_pCurrent->m_bShutOut)
         return false;
     const bool bDone = query.exec(statement);

@@ -1,8 +1,9 @@
 #pragma once
 
-// The opening of the session's store, while it lasts: it may stand at another process's locks for a span that all its
-// statements share, and it fails when such a lock kept it from reading the schema. The statements of the schema go
-// through the functions here, with an opening under way or without. One at a time; on the session's thread.
+// One object lives while the session's store is being opened. All statements of the opening together wait for
+// locks of other processes no longer than LockWait allows, and the opening fails when such a lock kept it from reading
+// the schema. The statements of the schema go through the functions here, also when no opening is under way. One
+// opening at a time; on the session's thread.
 
 #include "store/LockWait.h"
 
@@ -21,11 +22,13 @@ public:
     StoreOpening(const StoreOpening &) = delete;
     StoreOpening &operator=(const StoreOpening &) = delete;
 
-    /// Whether there is an opening whose question about the schema met a lock that stayed. It goes no further then.
+    /// Whether an opening is under way in which a lock kept a question about the schema from being answered. None of
+    /// its further statements is executed then.
     static bool isShutOut();
-    /// Executes a statement that changes something; whether it ran. A lock in its way has no further consequence.
+    /// Executes a statement that changes something; true when it ran. When a lock kept it from running, the opening
+    /// goes on.
     static bool execute(QSqlQuery &query, const QString &statement);
-    /// Executes a question about the schema; whether a first row came back, on which `query` stands then.
+    /// Executes a question about the schema; true when there is a row, on which `query` then stands.
     static bool ask(QSqlQuery &query, const QString &statement);
 
 private:

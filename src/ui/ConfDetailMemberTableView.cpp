@@ -1,13 +1,10 @@
 #include "ui/ConfDetailMemberTableView.h"
 
-#include "common/BuiltInPictures.h"
-#include "common/pictures/ImagePath.h"
 #include "common/system/DpiScale.h"
-#include "model/FriendData.h"
 #include "model/MemberRoles.h"
 #include "model/UserIds.h"
-#include "plugin/VoipManageEventProcess.h"
 #include "ui/ConfDetailTableViewDelegate.h"
+#include "ui/ShownContact.h"
 #include "ui/SignCard.h"
 
 #include <QHeaderView>
@@ -63,12 +60,11 @@ void CConfDetailMemberTableView::clearData()
 
 std::unique_ptr<QStandardItem> CConfDetailMemberTableView::creatMemberItem(const QString &strUserID)
 {
-    const FriendData member = VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(strUserID));
+    const ShownContact member = ShownContact::ofUser(strUserID);
     auto pItem = std::make_unique<QStandardItem>();
     pItem->setData(strUserID, ROLE_USER_ID);
-    pItem->setData(member.displayName(), ROLE_DISPLAY_NAME);
-    pItem->setData(ImagePath::getTrueImagePath(member.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
-                   ROLE_HEAD_PATH);
+    pItem->setData(member.record.displayName(), ROLE_DISPLAY_NAME);
+    pItem->setData(member.strHeadPath, ROLE_HEAD_PATH);
     return pItem;
 }
 
@@ -92,7 +88,7 @@ void CConfDetailMemberTableView::placeMember(int iRow, int iColumn, const QStrin
 void CConfDetailMemberTableView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                              const QVector<int> &roles)
 {
-    // The painting itself writes the heads' places back: they must not call for the next painting.
+    // Painting writes the places of the heads into the items. That must not lead to the next painting.
     if (areRolesShown(roles))
         QTableView::dataChanged(topLeft, bottomRight, roles);
 }
@@ -100,7 +96,8 @@ void CConfDetailMemberTableView::dataChanged(const QModelIndex &topLeft, const Q
 void CConfDetailMemberTableView::scrollContentsBy(int dx, int dy)
 {
     QTableView::scrollContentsBy(dx, dy);
-    // Cells whose pixels are only moved would keep the place of their head from before.
+    // Everything is painted anew, because painting writes down where the heads stand: scrolling alone only moves the
+    // pixels.
     viewport()->update();
 }
 

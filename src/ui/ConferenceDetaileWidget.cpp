@@ -1,13 +1,10 @@
 #include "ui/ConferenceDetaileWidget.h"
 
-#include "common/BuiltInPictures.h"
 #include "common/pictures/IconFont.h"
 #include "common/pictures/IconGlyphs.h"
-#include "common/pictures/ImagePath.h"
-#include "model/FriendData.h"
 #include "model/UserIds.h"
-#include "plugin/VoipManageEventProcess.h"
 #include "ui/ConferenceTexts.h"
+#include "ui/ShownContact.h"
 #include "ui_ConferenceDetaileWidget.h"
 
 #include <QPointer>
@@ -39,8 +36,7 @@ void CConferenceDetaileWidget::setConferenceDetail(ConfInfoData confInfo)
     m_confInfoData = confInfo;
     // The host may destroy the page while it looks the creator up.
     const QPointer<CConferenceDetaileWidget> self = this;
-    const FriendData creator =
-        VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(confInfo.m_strCreatUserID));
+    const ShownContact creator = ShownContact::ofUser(confInfo.m_strCreatUserID);
     if (!self)
         return;
     showCreator(creator);
@@ -51,11 +47,10 @@ void CConferenceDetaileWidget::setConferenceDetail(ConfInfoData confInfo)
     ui->tableView->setMemList(confInfo.m_listMember);
 }
 
-void CConferenceDetaileWidget::showCreator(const FriendData &creator)
+void CConferenceDetaileWidget::showCreator(const ShownContact &creator)
 {
-    ui->creatUserIcon->setHeadPictrue(
-        ImagePath::getTrueImagePath(creator.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH));
-    const QString strName = creator.displayName();
+    ui->creatUserIcon->setHeadPictrue(creator.strHeadPath);
+    const QString strName = creator.record.displayName();
     if (!strName.isEmpty())
         ui->CreatName->setText(strName);
 }

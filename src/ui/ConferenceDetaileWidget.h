@@ -9,7 +9,7 @@
 
 #include <memory>
 
-class FriendData;
+struct ShownContact;
 
 namespace Ui {
 class CConferenceDetaileWidget;
@@ -33,7 +33,7 @@ public:
 
 private:
     void initWidget();
-    void showCreator(const FriendData &creator);
+    void showCreator(const ShownContact &creator);
 
     std::unique_ptr<Ui::CConferenceDetaileWidget> ui;
     ConfInfoData m_confInfoData;

@@ -1,16 +1,13 @@
 #include "ui/ConferenceInfoListView.h"
 
-#include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
 #include "common/Palette.h"
-#include "common/pictures/ImagePath.h"
 #include "common/system/ScreenPlace.h"
-#include "model/FriendData.h"
 #include "model/MemberRoles.h"
 #include "model/UserIds.h"
-#include "plugin/VoipManageEventProcess.h"
 #include "ui/ConferenceInfoItem.h"
 #include "ui/ConferenceInfoListViewDelegate.h"
+#include "ui/ShownContact.h"
 #include "ui/SignCard.h"
 #include "widgets/MenuEx.h"
 
@@ -33,18 +30,18 @@ int menuStart(int iCursor, int iMenu, int iScreen)
 CConferenceInfoListView::CConferenceInfoListView(QWidget *parent)
     : QListView(parent), m_pDelegate(new CConferenceInfoListViewDelegate(this)), m_pModel(new QStandardItemModel(this)),
       m_pMenu(new CMenuEx(this)),
-      // The view's, not the menu's: emptying the menu deletes what belongs to it.
+      // The actions belong to the list, not to the menu, which deletes its own actions when it is emptied.
       m_pRecallAction(new QAction(QStringLiteral("再次发起"), this)),
       m_pDeleteAction(new QAction(QStringLiteral("删除"), this)), m_signTimer(this)
 {
     setMouseTracking(true);
-    // Which row the cursor is on counts in every style: its detail button depends on it.
+    // In every style the row under the cursor is painted anew, because it alone shows the detail button.
     viewport()->setAttribute(Qt::WA_Hover);
     setCursor(Qt::ArrowCursor);
     verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
     setContextMenuPolicy(Qt::NoContextMenu);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    // All rows are of one size; so placing a hundred thousand asks for one.
+    // All rows have the same size, so that it is asked for once and not for each of a hundred thousand rows.
     setUniformItemSizes(true);
     installEventFilter(this);
     setItemDelegateForColumn(0, m_pDelegate);
@@ -107,11 +104,9 @@ void CConferenceInfoListView::removeConfInfoData(QString strConfID)
 
 std::shared_ptr<const ConferenceCreator> CConferenceInfoListView::creatorOf(const QString &strUserID)
 {
-    const FriendData creator = VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(strUserID));
-    return std::make_shared<const ConferenceCreator>(
-        ConferenceCreator{strUserID, creator.displayName(),
-                          ImagePath::getTrueImagePath(creator.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH),
-                          strUserID == UserIds::getLoginUID()});
+    const ShownContact creator = ShownContact::ofUser(strUserID);
+    return std::make_shared<const ConferenceCreator>(ConferenceCreator{
+        strUserID, creator.record.displayName(), creator.strHeadPath, strUserID == UserIds::getLoginUID()});
 }
 
 QStandardItem *CConferenceInfoListView::creatListItem(const ConfInfoData &confInfo,
@@ -124,7 +119,7 @@ QStandardItem *CConferenceInfoListView::creatListItem(const ConfInfoData &confIn
 void CConferenceInfoListView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                           const QVector<int> &roles)
 {
-    // The painting itself writes places back into the rows: they must not call for the next painting.
+    // Painting writes the places of heads and buttons into the items. That must not lead to the next painting.
     if (areRolesShown(roles))
         QListView::dataChanged(topLeft, bottomRight, roles);
 }
@@ -132,7 +127,8 @@ void CConferenceInfoListView::dataChanged(const QModelIndex &topLeft, const QMod
 void CConferenceInfoListView::scrollContentsBy(int dx, int dy)
 {
     QListView::scrollContentsBy(dx, dy);
-    // Rows whose pixels are only moved would keep the places of their head and button from before.
+    // Everything is painted anew, because painting writes down where heads and buttons stand: scrolling alone only
+    // moves the pixels.
     viewport()->update();
 }
 
@@ -234,8 +230,8 @@ void CConferenceInfoListView::slot_selectAction(QAction *pAction)
 {
     if (m_strSelectedConfID.isEmpty())
         return;
-    // The host may run an event loop in which this list is destroyed; the menu, which is still at work then, outlives
-    // it up to the loop that brought the click.
+    // The host may run an event loop in which this list is destroyed, while the menu is still handling the click. So
+    // the menu is no child of the list meanwhile, and is deleted by the event loop that brought the click.
     CMenuEx *const pMenu = m_pMenu;
     const QPointer<CConferenceInfoListView> self = this;
     pMenu->setParent(nullptr, pMenu->windowFlags());

@@ -24,10 +24,11 @@ qint64 bytesOf(const QPixmap &picture)
 
 HeadCache::FileState HeadCache::stateOf(const QString &strPath)
 {
-    // What the program carries within itself never changes.
+    // A picture among the program's resources never changes.
     if (strPath.startsWith(QLatin1Char(':')))
         return {0, 0, 0};
-    // Asked at every painting of a row: QFileInfo's times pass through the time zone, which costs more than the rest.
+    // This is asked at every painting of a row, and QFileInfo would convert its times by the time zone, which costs
+    // more than all the rest.
     struct stat file = {};
     if (stat(QFile::encodeName(strPath).constData(), &file) != 0 || !S_ISREG(file.st_mode))
         return {};

@@ -14,10 +14,10 @@ namespace {
 constexpr int cTextPixels = 12;
 constexpr QColor cLineColor_(224, 224, 224);
 
-// More than any glyph is wide: one is never cut.
+// Wider than any glyph, so that none is ever cut.
 constexpr int cGlyphRoom = 1024;
 
-// No line of text is measured beyond so many characters: more of them fit only where they have no width.
+// The most characters of a line that are measured. More would fit into a line only if they had no width.
 constexpr int cMostCharacters = 2048;
 
 QString withBlanks(QString strText)
@@ -31,7 +31,8 @@ QString withBlanks(QString strText)
     return strText;
 }
 
-/// As much of the text as decides how it looks in `iWidth` pixels: what stands well past them never shows.
+/// The beginning of the text, as far as it can make a difference in `iWidth` pixels: what comes well behind them never
+/// shows.
 QString beginning(const QFontMetrics &metrics, const QString &strText, int iWidth)
 {
     const int iMost = qMin(strText.size(), cMostCharacters);

@@ -17,8 +17,6 @@
 
 namespace {
 
-constexpr int cCloseGlyphPixels = 8;
-constexpr int cCloseStyleType = 3;
 constexpr QSize cCreateIconSize(30, 30);
 constexpr int cCreateGlyphPixels = 16;
 
@@ -67,7 +65,7 @@ void CVoiceConferenceWidget::initWidget()
     showPage(cListPage);
 }
 
-// The page lays itself out without margins; what it laid out stands in one more layout here, which has them.
+// The page's own layout has no margins. What stands in it is moved into a further layout inside it, which has them.
 void CVoiceConferenceWidget::insetDetailPage()
 {
     auto *pPage = qobject_cast<QBoxLayout *>(ui->conferenceDetaileWidget->layout());
@@ -82,7 +80,7 @@ void CVoiceConferenceWidget::insetDetailPage()
 
 void CVoiceConferenceWidget::initTitle()
 {
-    ui->btnClose->setIconFont(IconGlyph::text(IconGlyph::Close), cCloseGlyphPixels, cCloseStyleType);
+    ui->btnClose->setIconFont(IconGlyph::text(IconGlyph::Close), CIconButtonEx::SmallGlyph, CIconButtonEx::RedStyle);
     setTips();
     ui->titleWidget->setStyleSheet(QStringLiteral("QWidget#titleWidget{ background-color: #f1f4f4;}"));
     ui->lblVoipTipMsg->setStyleSheet(QStringLiteral("QLabel#lblVoipTipMsg{ color: #313131; font:14px 微软雅黑; }"));

@@ -4,14 +4,13 @@
 
 #include "ui_VoipWidget.h"
 
-#include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
 #include "common/pictures/IconGlyphs.h"
-#include "common/pictures/ImagePath.h"
 #include "common/text/TimeText.h"
 #include "model/FriendData.h"
 #include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
+#include "ui/ShownContact.h"
 #include "widgets/ErrorMessage.h"
 
 #include <QCloseEvent>
@@ -29,10 +28,7 @@ constexpr int cConferencePage = 2;
 constexpr int cRequestPage = 0;
 constexpr int cCallingPage = 1;
 
-// The faces of the toggle buttons: size in pixels, style types, colours.
-constexpr int cGlyphSize = 16;
-constexpr int cHoverFace = 0;
-constexpr int cPlainFace = 4;
+// The colours of the toggle buttons.
 const QString cToggleColor = QStringLiteral("184,184,184");
 const QString cMuteAllColor = QStringLiteral("255, 96, 88");
 
@@ -46,7 +42,7 @@ QString cardName(const VcardInfo &vcard)
 
 void setFace(CIconButtonEx *pButton, ushort glyph)
 {
-    pButton->setIconFont(IconGlyph::text(glyph), cGlyphSize, cHoverFace);
+    pButton->setIconFont(IconGlyph::text(glyph), CIconButtonEx::LargeGlyph, CIconButtonEx::HoverStyle);
     pButton->setIconColor(cToggleColor);
 }
 
@@ -119,7 +115,7 @@ void CVoipWidget::showPeer()
 QString CVoipWidget::showPeerCard(const VcardInfo &vcard)
 {
     QString strShownName = cardName(vcard);
-    const QString strPhotoPath = ImagePath::getTrueImagePath(vcard.m_strPhotoPath, strDEFAULT_HEAD_PATH);
+    const QString strPhotoPath = ShownContact::headPathOf(vcard);
     LOG_DEBUG << "voip userName=" << strShownName << "\n";
     LOG_DEBUG << "voip photourl = " << strPhotoPath << "\n";
     ui->lblPhotoIcon->setHeadPictrue(strPhotoPath);
@@ -226,8 +222,9 @@ void CVoipWidget::setMuteAllButton(bool bMute)
 {
     // Colour before glyph, the other way round than the toggles above.
     ui->btnMuteAll->setIconColor(bMute ? cMuteAllColor : cToggleColor);
-    ui->btnMuteAll->setIconFont(IconGlyph::text(bMute ? IconGlyph::MuteAllOn : IconGlyph::SpeakerOff), cGlyphSize,
-                                bMute ? cPlainFace : cHoverFace);
+    ui->btnMuteAll->setIconFont(IconGlyph::text(bMute ? IconGlyph::MuteAllOn : IconGlyph::SpeakerOff),
+                                CIconButtonEx::LargeGlyph,
+                                bMute ? CIconButtonEx::StillStyle : CIconButtonEx::HoverStyle);
     ui->btnMuteAll->setToolTip(bMute ? QStringLiteral("取消全体静音") : QStringLiteral("全体静音"));
 }
 

@@ -84,9 +84,10 @@ void CVoipWidget::setUpForm()
     installEventFilter(this);
     setFixedHeight(cWindowSize.height());
     setFixedWidth(cWindowSize.width());
-    ui->btnClose->setIconFont(IconGlyph::text(IconGlyph::Close), 8, 3);
+    ui->btnClose->setIconFont(IconGlyph::text(IconGlyph::Close), CIconButtonEx::SmallGlyph, CIconButtonEx::RedStyle);
     ui->btnClose->setToolTip(tr("close"));
-    ui->btnMuteAll->setIconFont(IconGlyph::text(IconGlyph::SpeakerOff), 16, 0);
+    ui->btnMuteAll->setIconFont(IconGlyph::text(IconGlyph::SpeakerOff), CIconButtonEx::LargeGlyph,
+                                CIconButtonEx::HoverStyle);
     for (CIconButtonEx *pButton : {ui->btnMic, ui->btnSpeaker, ui->btnCamera, ui->btnChangeWindow})
         pButton->installEventFilter(this);
     // The window comes up while the user types elsewhere: no blank or return may press what ends the call.

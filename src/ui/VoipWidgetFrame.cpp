@@ -62,8 +62,9 @@ void CVoipWidget::followCursor(const QPoint &position)
     setCursorStyle(m_mouseState);
 }
 
-// Moves over the parts of the window reach it only where a part tracks the mouse and lets them pass; hover events tell
-// of the cursor over all of them. Without them an edge under a cursor that came in over it would stay in force.
+// A mouse move over a part of the window reaches the window only when the part tracks the mouse and lets the move pass.
+// Hover events come for all parts. Without them, an edge would stay in force after the cursor has moved from it onto
+// such a part.
 bool CVoipWidget::event(QEvent *event)
 {
     switch (event->type()) {
@@ -150,7 +151,8 @@ void CVoipWidget::slot_WindowChangeButtonClicked()
         m_bFullScreen = false;
         setGeometry(m_normalGeometry);
         ui->titleWidget->show();
-        ui->btnChangeWindow->setIconFont(IconGlyph::text(IconGlyph::FullScreen), 16, 0);
+        ui->btnChangeWindow->setIconFont(IconGlyph::text(IconGlyph::FullScreen), CIconButtonEx::LargeGlyph,
+                                         CIconButtonEx::HoverStyle);
         ui->btnChangeWindow->setIconColor(cFaceColor);
         ui->btnChangeWindow->setToolTip(tr("fullscreen"));
     } else {
@@ -158,7 +160,8 @@ void CVoipWidget::slot_WindowChangeButtonClicked()
         m_normalGeometry = frameGeometry();
         ui->titleWidget->hide();
         setGeometry(EdgeDrag::overWorkArea(ScreenPlace::workArea()));
-        ui->btnChangeWindow->setIconFont(IconGlyph::text(IconGlyph::Restore), 16, 0);
+        ui->btnChangeWindow->setIconFont(IconGlyph::text(IconGlyph::Restore), CIconButtonEx::LargeGlyph,
+                                         CIconButtonEx::HoverStyle);
         ui->btnChangeWindow->setIconColor(cFaceColor);
         ui->btnChangeWindow->setToolTip(tr("restore"));
     }
@@ -166,8 +169,8 @@ void CVoipWidget::slot_WindowChangeButtonClicked()
 
 bool CVoipWidget::eventFilter(QObject *obj, QEvent *event)
 {
-    // One key press passes the control that has the focus and then, as nobody takes it, the window around it, with no
-    // other event in between. Only the first of the two asks.
+    // A key press comes here for the control that has the focus and, because nobody takes it, once more for the window,
+    // with no other event in between. Only the first of the two asks.
     const bool bAskedAlready = obj == this && m_pAskedEscape == event;
     m_pAskedEscape = nullptr;
     switch (event->type()) {
@@ -176,7 +179,7 @@ bool CVoipWidget::eventFilter(QObject *obj, QEvent *event)
             return QWidget::eventFilter(obj, event);
         if (!bAskedAlready && askToEndTheCall())
             slot_HangUpCall();
-        // Last, as the window gets events of all kinds while the question is open.
+        // Set last, because the events that the window gets while the question is open set it back.
         if (obj != this)
             m_pAskedEscape = event;
         return false;

@@ -70,7 +70,7 @@ ErrorMessage::ErrorMessage(QString strAcceptText, QString strCloseText, QWidget 
     ui->acceptBtn->setAutoDefault(false);
     ui->closeBtn->setAutoDefault(false);
     ui->acceptBtn->setText(strAcceptText);
-    ui->acceptBtn->setBtnType(0);
+    ui->acceptBtn->setBtnType(PushButtonEx::StrongButton);
     ui->closeBtn->setText(strCloseText);
     ui->btnClose->setToolTip(QObject::tr("close"));
     ui->AutoReplytextEdit->setLongestPaste(cReplyColumns + 1);
@@ -90,7 +90,7 @@ void ErrorMessage::setUpWindow()
     ui->backWidget->setTitleHeight(cTitleHeight);
     ui->backWidget->setPaintPic(false);
     ui->btnClose->setAutoDefault(false);
-    ui->btnClose->setIconFont(IconGlyph::text(IconGlyph::Close), 8, 3);
+    ui->btnClose->setIconFont(IconGlyph::text(IconGlyph::Close), CIconButtonEx::SmallGlyph, CIconButtonEx::RedStyle);
 }
 
 void ErrorMessage::connectControls()

@@ -79,15 +79,15 @@ void CIconButtonEx::setBtnStyles(int type)
 {
     const SysUIData &skin = *SkinContext::getSkinData();
     switch (type) {
-    case 0:
-    case 1:
+    case HoverStyle:
+    case SameHoverStyle:
         m_strHoverColor = skin.m_strIconHoverColor;
         if (m_bCheckedState)
             showGlyph(m_strHoverColor);
         else
             showNormal();
         break;
-    case 2:
+    case BackgroundStyle:
         if (m_bBackGroundDark) {
             showGlyph(strCOLOR_WHITE, strCOLOR_WHITE);
             showBackground(strCOLOR_SKINTHEME_GREEN, strCOLOR_SKINTHEME_GREEN);
@@ -97,7 +97,7 @@ void CIconButtonEx::setBtnStyles(int type)
             showBackground(skin.m_strFifthIconColor, skin.m_strFourthIconColor);
         }
         break;
-    case 3:
+    case RedStyle:
         if (m_bBackGroundDark) {
             showGlyph(strCOLOR_WHITE, strCOLOR_WHITE);
         } else {
@@ -106,7 +106,7 @@ void CIconButtonEx::setBtnStyles(int type)
             showBackground(skin.m_strFifthIconColor, skin.m_strFifthIconColor);
         }
         break;
-    case 4:
+    case StillStyle:
         showGlyph(m_strIconColor);
         break;
     default:
@@ -134,7 +134,8 @@ void CIconButtonEx::showGlyph(const QString &color, const QString &hoverColor)
 
 void CIconButtonEx::showDecimals(const QString &color)
 {
-    // A sheet cannot read three decimals and then leaves the glyph to the palette, which each new sheet puts back.
+    // A style sheet cannot read three decimals; the glyph then has the palette's colour, which each new sheet sets
+    // back.
     const QColor decimals = colorOfDecimals(color);
     if (decimals.isValid()) {
         QPalette palette = ui->pushButton->palette();
@@ -249,7 +250,7 @@ bool CIconButtonEx::eventFilter(QObject *watched, QEvent *event)
     if (watched == ui->pushButton || watched == ui->widgetBG) {
         switch (event->type()) {
         case QEvent::MouseButtonPress:
-        // The second press of two quick ones: seen by the inner button it would stay down.
+        // The second of two quick presses comes as this event. If the inner button saw it, the button would stay down.
         case QEvent::MouseButtonDblClick:
             return true;
         case QEvent::MouseButtonRelease:

@@ -18,12 +18,36 @@ class CIconButtonEx : public QWidget
     Q_OBJECT
 
 public:
+    /// The style types that have a look of their own; any other int turns to the skin's hover colour under the mouse.
+    enum StyleType
+    {
+        /// The skin's hover colour under the mouse and while checked.
+        HoverStyle = 0,
+        /// The same.
+        SameHoverStyle = 1,
+        /// A background under the mouse.
+        BackgroundStyle = 2,
+        /// A red background under the mouse: what closes a window.
+        RedStyle = 3,
+        /// Nothing happens under the mouse.
+        StillStyle = 4
+    };
+
+    /// The sizes of the glyphs in the kit's own windows, in pixels.
+    enum GlyphPixels
+    {
+        /// The cross that closes or deletes.
+        SmallGlyph = 8,
+        /// Any other.
+        LargeGlyph = 16
+    };
+
     /// An enabled, checkable, unchecked button without a glyph. `parent` may be null.
     explicit CIconButtonEx(QWidget *parent = nullptr);
     ~CIconButtonEx() override;
 
-    /// Shows `glyph`, a text in the icon font, `size` pixels high and scaled for the screen, in the style `type`. A
-    /// size below 1 keeps the font's own.
+    /// Shows `glyph`, a text in the icon font, `size` pixels high and scaled for the screen, in the style `type`, a
+    /// StyleType or any other int. A size below 1 keeps the font's own.
     void setIconFont(QString glyph, int size, int type);
 
     /// The glyph's colour at rest, as style sheets write one or as three decimals, "184,184,184". The text goes into
@@ -31,9 +55,7 @@ public:
     /// cannot read shows black. Empty keeps the colour and only restyles.
     void setIconColor(const QString &color);
 
-    /// Takes the looks of a style type: 0 and 1 turn to the skin's hover colour under the mouse and while checked, 2
-    /// has a background under the mouse, 3 a red one, 4 has no hover, any other turns to the hover colour under the
-    /// mouse.
+    /// Takes the looks of `type`, a StyleType or any other int.
     void setBtnStyles(int type);
 
     /// A text in place of the glyph; the button becomes flat.
@@ -106,7 +128,7 @@ private:
     bool m_bCheckedState = false;
     QString m_strIconColor;
     QString m_strHoverColor;
-    int m_iStyleType = 0;
+    int m_iStyleType = HoverStyle;
     bool m_bChangeBackgroundOnChecked = false;
     QString m_strBtnStyle;
     QString m_strBtnHoverStyle;

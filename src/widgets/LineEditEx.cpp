@@ -23,7 +23,6 @@ namespace {
 constexpr int cFontSize = 12;
 constexpr QSize cDeleteButtonSize(22, 22);
 constexpr QSize cDeleteLineSize(1, 18);
-constexpr int cDeleteGlyphSize = 8;
 
 QFont pixelFont(QFont font)
 {
@@ -194,7 +193,7 @@ void CLineEditEx::setNewMaxLength(int iLength)
 void CLineEditEx::slot_cursorchanged(int oldPos, int newPos)
 {
     QString strText = ui->lineEdit->text();
-    // Qt tells the first move of all as one from -1.
+    // Qt reports the very first move as one from -1.
     oldPos = qMax(0, oldPos);
     if (newPos <= oldPos || newPos > strText.size())
         return;
@@ -250,7 +249,7 @@ void CLineEditEx::addDeleteBtn()
     m_pDeleteBtn = new CIconButtonEx(ui->lineEdit);
     m_pDeleteBtn->setFixedSize(ADAPT_DPI_SIZE(cDeleteButtonSize));
     m_pDeleteBtn->setCursor(Qt::ArrowCursor);
-    m_pDeleteBtn->setIconFont(IconGlyph::text(IconGlyph::Close), cDeleteGlyphSize, 0);
+    m_pDeleteBtn->setIconFont(IconGlyph::text(IconGlyph::Close), CIconButtonEx::SmallGlyph, CIconButtonEx::HoverStyle);
     m_pDeleteLine = new QLabel(ui->lineEdit);
     m_pDeleteLine->setFixedSize(ADAPT_DPI_SIZE(cDeleteLineSize));
     m_pDeleteLine->setStyleSheet(m_strLineStyle.arg(currentSkin().m_strLineColor));

@@ -15,7 +15,8 @@ namespace {
 // More characters than any label of a dialog shows: the rest of a long plain text is not laid out.
 constexpr int cMostCharacters = 4096;
 
-/// Where the last line ends that lies above `iBottom`; 0 when not even the first one does.
+/// The position in the text at which the last line ends that lies whole above `iBottom`; 0 when not even the first one
+/// does.
 int endOfWholeLines(const QTextDocument &document, int iBottom)
 {
     int iEnd = 0;
@@ -47,7 +48,7 @@ void endWithEllipsis(QTextDocument &document, int iBottom)
     cursor.removeSelectedText();
     dropBlanks(cursor);
     cursor.insertText(QString(QChar(0x2026)));
-    // The last line may be too full for one more character.
+    // The last line may be so full that the ellipsis makes a new one: then characters are taken away until it fits.
     while (document.size().height() > iBottom && cursor.position() > 1) {
         cursor.movePosition(QTextCursor::PreviousCharacter);
         cursor.deletePreviousChar();
@@ -169,6 +170,7 @@ void MessageLabel::paintEvent(QPaintEvent *event)
     QAbstractTextDocumentLayout::PaintContext look;
     look.palette = palette();
     look.palette.setColor(QPalette::Text, palette().color(foregroundRole()));
+    // A label puts a text that is higher than itself here, and this is where it looks for the text's links.
     QPainter painter(this);
     painter.translate(place().topLeft() + QPoint(0, layout.iTop - layout.iRaised));
     layout.pDocument->documentLayout()->draw(&painter, look);

@@ -40,20 +40,21 @@ bool MyRubberBand::event(QEvent *event)
 {
     const QEvent::Type type = event->type();
     const bool bHandled = QRubberBand::event(event);
-    // Behind any other event the band may be gone: a deferred deletion is one.
+    // After any other event the band may no longer exist: a deferred deletion is one of them.
     if (type != QEvent::Show && type != QEvent::Resize && type != QEvent::StyleChange)
         return bHandled;
     if (!isWindow() || !isVisible())
         return bHandled;
     if (type == QEvent::Show)
         m_bComposited = Compositor::isRunning();
-    // After the base class, which puts the style's own mask on the band.
+    // After the base class has handled the event, because it puts the style's own mask on the band.
     cutToTheBars();
     return bHandled;
 }
 
-// Without a compositor nothing shows through a window but where it is cut. A compositor shows what lies between the
-// dots, and would need long for the thousands of rectangles that they are.
+// Cuts the band's window to its bars. Without a compositor one sees through a window only where it is cut away, so it
+// is cut down to the dots of the bars. A compositor shows what lies between the dots anyway, and would take long over
+// the thousands of rectangles of such a mask.
 void MyRubberBand::cutToTheBars()
 {
     if (m_bComposited)

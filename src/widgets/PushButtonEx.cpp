@@ -26,7 +26,7 @@ PushButtonEx::PushButtonEx(QWidget *parent) : QWidget(parent), ui(std::make_uniq
     font.setPixelSize(ADAPT_DPI_INT(12));
     ui->btnEx->setFont(font);
     setStyles();
-    setBtnType(1);
+    setBtnType(DefaultButton);
 }
 
 PushButtonEx::~PushButtonEx() = default;
@@ -51,7 +51,7 @@ void PushButtonEx::setStyles()
 void PushButtonEx::setBtnType(int type)
 {
     m_iBtnType = type;
-    applySet(type == 0 ? m_setB : m_setA);
+    applySet(type == StrongButton ? m_setB : m_setA);
 }
 
 void PushButtonEx::applySet(const StyleSet &set)
@@ -74,8 +74,9 @@ void PushButtonEx::setEnabled(bool bEnabled)
 {
     m_bEnabled = bEnabled;
     ui->btnEx->setEnabled(bEnabled);
-    // Deliberately not the choice of setBtnType: here every type but 1 takes the strong set, as the windows expect.
-    const StyleSet &set = m_iBtnType == 1 ? m_setA : m_setB;
+    // Deliberately not the choice of setBtnType: here every type but the default one takes the strong set, as the
+    // windows expect.
+    const StyleSet &set = m_iBtnType == DefaultButton ? m_setA : m_setB;
     ui->btnEx->setStyleSheet(bEnabled ? set.m_strNormal + set.m_strHover : set.m_strDisabled);
 }
 

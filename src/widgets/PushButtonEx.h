@@ -18,11 +18,20 @@ class PushButtonEx : public QWidget
     Q_OBJECT
 
 public:
-    /// An enabled button of type 1 without text, its font at 12 pixels. `parent` may be null.
+    /// The looks; any other int is the default one.
+    enum Type
+    {
+        /// The one that the eye is to fall on: what accepts.
+        StrongButton = 0,
+        /// Every other.
+        DefaultButton = 1
+    };
+
+    /// An enabled button of the default look without text, its font at 12 pixels. `parent` may be null.
     explicit PushButtonEx(QWidget *parent = nullptr);
     ~PushButtonEx() override;
 
-    /// The look: 0 is the strong button, 1 and every other value the default one.
+    /// Takes the look of `type`, a Type or any other int.
     void setBtnType(int type);
 
     /// Takes the colours of all looks from the current skin; they show when a look is next applied.
@@ -34,7 +43,8 @@ public:
     /// The word on the button.
     QString text() const;
 
-    /// Lets the button take clicks, or greys it out. A type other than 1 gets the strong button's colours here.
+    /// Lets the button take clicks, or greys it out. Any type but DefaultButton gets the strong
+    /// button's colours here.
     void setEnabled(bool bEnabled);
 
     /// What setEnabled was told last; true at first. A disabled parent does not count.
@@ -90,7 +100,7 @@ private:
 
     std::unique_ptr<Ui::PushButtonEx> ui;
     bool m_bEnabled = true;
-    int m_iBtnType = 1;
+    int m_iBtnType = DefaultButton;
     StyleSet m_setA;
     StyleSet m_setB;
 };

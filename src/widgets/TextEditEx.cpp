@@ -17,10 +17,10 @@ namespace {
 
 constexpr int cFontSize = 12;
 
-// An HTML source longer than this is not read to its end when a field takes short pastes only.
+// When a field takes short pastes only, no more than this many characters of pasted HTML are read.
 constexpr int cLongestSource = 64 * 1024;
 
-// What stands for an embedded picture in the plain text of a selection.
+// The character that an embedded picture becomes in the plain text of a selection.
 const QChar cPictureMark(0xfffc);
 
 bool hasSelectedText(const QTextCursor &cursor)
@@ -91,8 +91,9 @@ void CTextEditEx::appendStyle(const QString &strStyle)
     setStyleSheet(m_strStyle);
 }
 
-// The two handlers run only when they are called directly, for the filter below swallows both events; then the sheet
-// grows with every crossing until the filter rewrites it. Forms that derive from the field rely on it.
+// The event filter below takes both events, so these two handlers run only when a class that derives from the field
+// calls them. Each call makes the style sheet longer; the next event that the filter takes writes it anew. Forms rely
+// on this.
 void CTextEditEx::enterEvent(QEvent *)
 {
     appendStyle(strVerticalScrollBarHoverStyle);
@@ -116,7 +117,7 @@ bool CTextEditEx::eventFilter(QObject *watched, QEvent *event)
 
 void CTextEditEx::contextMenuEvent(QContextMenuEvent *event)
 {
-    // The field may be deleted while its menu is open, and takes the menu along.
+    // The field may be deleted while its menu is open, and its menu with it.
     const QPointer<CMenuEx> pMenu = new CMenuEx(this);
     pMenu->setContentsMargins(2, 2, 2, 2);
     fillMenu(*pMenu);

@@ -15,16 +15,17 @@ public:
     /// An empty field. `parent` may be null.
     explicit CTextEditEx(QWidget *parent = nullptr);
 
-    /// True lets the menu's entry for pasting send signal_paste() instead of pasting. False at first.
+    /// With true, the menu's entry for pasting sends signal_paste() and does not paste. False at first.
     void setEmitPaste(bool bEmitPaste);
-    /// True stops all restyling, for an owner that sets a style sheet of its own. False at first.
+    /// With true, the field no longer sets its style sheet, for an owner that sets one of its own. False at first.
     void setBSelfStyle(bool bSelfStyle);
-    /// Pastes and drops insert no more than the first `iUnits` UTF-16 units of a longer text, as plain text: a field
-    /// whose owner holds it short never lays out millions of characters. A negative number, as at first, inserts all.
+    /// Of a longer text that is pasted or dropped, only the first `iUnits` UTF-16 units are inserted, as plain text.
+    /// This is for an owner that cuts the text to a few characters anyway: millions of them would be laid out before. A
+    /// negative number, as at first, inserts everything.
     void setLongestPaste(int iUnits);
 
 signals:
-    /// The user chose to paste while setEmitPaste(true) holds.
+    /// The user chose to paste from the menu, and setEmitPaste(true) was called.
     void signal_paste();
 
 protected:

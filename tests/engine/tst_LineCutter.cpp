@@ -1,5 +1,7 @@
 // The cutting of one read into lines: held against the plain rule on random texts, and on large hostile ones.
 
+#include "ProcessorClock.h"
+
 #include "engine/LineCutter.h"
 
 #include <QRandomGenerator>
@@ -18,6 +20,8 @@ private slots:
     void agreesWithThePlainRuleOnRandomLines();
     void largeReadsAreCutInTime_data();
     void largeReadsAreCutInTime();
+    void manyShortLinesTakeLessThanHalfASecond_data();
+    void manyShortLinesTakeLessThanHalfASecond();
 
 private:
     static QStringList plainRule(QString text);
@@ -184,7 +188,7 @@ void tst_LineCutter::largeReadsAreCutInTime_data()
     QTest::newRow("each line ends the one before") << shrinking << 2000 << "a\n";
 }
 
-/// A cut whose work grows with the square of the lines runs into the time limit of this program.
+/// A cut that moves the whole rest for each line that it removes runs into the time limit of this program.
 void tst_LineCutter::largeReadsAreCutInTime()
 {
     QFETCH(QString, read);
@@ -193,6 +197,32 @@ void tst_LineCutter::largeReadsAreCutInTime()
     const QStringList lines = cutLines(read);
     QCOMPARE(lines.size(), count);
     QVERIFY(lines.constLast() == last);
+}
+
+void tst_LineCutter::manyShortLinesTakeLessThanHalfASecond_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::newRow("no line is the end of another") << QString();
+    QTest::newRow("the first is cut off the second, and is twice there") << QStringLiteral("x\n0x\nx\n");
+}
+
+/// Such lines do not begin alike, so each is looked for in all later ones.
+void tst_LineCutter::manyShortLinesTakeLessThanHalfASecond()
+{
+    QFETCH(QString, first);
+    QString read = first;
+    QStringList expected = plainRule(first);
+    for (int i = 0; i < 10000; ++i) {
+        expected.append(QStringLiteral("%1\n").arg(i, 5, 10, QLatin1Char('0')));
+        read += expected.constLast();
+    }
+    if (!first.isEmpty())
+        expected[1].prepend(QLatin1Char('0'));
+    const ProcessorClock clock;
+    const QStringList lines = cutLines(read);
+    const double dSeconds = clock.seconds();
+    QVERIFY(lines == expected);
+    QVERIFY2(dSeconds < 0.5 * VOIP_TIMES_SLOWER, qPrintable(QString::number(dSeconds)));
 }
 
 #include "support/TestProgram.h"

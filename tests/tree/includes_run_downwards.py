@@ -2,9 +2,10 @@
 """Checks that the house has floors: by what CMake knows of the targets, so that nothing is typed twice.
 
 Usage: includes_run_downwards.py SOURCE PARTS
-PARTS has a line "target NAME" for each target of src/ and apps/, behind it its lines "source PATH" and "link NAME". Every file
-there belongs to a target and includes only files of its own target and of those that this links; no targets link each other in
-a circle, and no files include each other in one.
+PARTS has a line "target NAME" for each target of src/ and apps/, behind it its lines "source PATH" and "link NAME", and the same
+for each module of Qt that they link, with lines "headers FOLDER". Every file there belongs to a target and includes only files
+of its own target and of those that this links. A target names just those modules of Qt whose headers it includes; those that a
+named one needs itself may be left out. No targets link each other in a circle, and no files include each other in one.
 """
 
 import collections
@@ -13,23 +14,26 @@ import re
 import sys
 
 INCLUDE = re.compile(r'^\s*#include "([^"]+)"', re.MULTILINE)
+QT_INCLUDE = re.compile(r"^\s*#include <((?:Qt\w+/)?Q\w+)>", re.MULTILINE)
 ENDINGS = (".h", ".cpp", ".def")
 
 
 def read_parts(path):
-    """The targets' sources and links, by the name of the target."""
-    sources, links = collections.defaultdict(set), collections.defaultdict(set)
+    """The targets' sources and links, by the name of the target, and the folders of headers by that of the module."""
+    sources, links, headers = ({} for _ in range(3))
     target = None
     for line in path.read_text(encoding="utf-8").splitlines():
         kind, _, value = line.partition(" ")
         if kind == "target":
             target = value
-            sources[target], links[target] = set(), set()
+            sources[target], links[target], headers[target] = set(), set(), set()
         elif kind == "source":
             sources[target].add(pathlib.Path(value))
+        elif kind == "headers":
+            headers[target].add(pathlib.Path(value))
         else:
             links[target].add(value)
-    return sources, links
+    return sources, links, {target: folders for target, folders in headers.items() if folders}
 
 
 def reached_from(start, graph):
@@ -71,9 +75,37 @@ def includes_among(files, root):
     }
 
 
+def module_of(header, modules):
+    """The module of Qt that <header> belongs to; None for a header of none of these."""
+    return next((module for module, folders in modules.items() for folder in folders
+                 if folder.name == module.replace("5::", "") and (folder / pathlib.Path(header).name).is_file()
+                 and pathlib.Path(header).parent.name in ("", folder.name)), None)
+
+
+def qt_headers_of(file):
+    """The headers of Qt that a source of a target includes; a form stands for its widgets."""
+    if file.suffix == ".ui":
+        return ["QWidget"]
+    return QT_INCLUDE.findall(file.read_text(encoding="utf-8")) if file.suffix in ENDINGS and file.is_file() else []
+
+
+def qt_problems(sources, links, modules):
+    """What the targets include of Qt without naming its module, and what they name without including it."""
+    for target in sorted(set(sources) - set(modules)):
+        used = collections.defaultdict(set)
+        for file in sources[target]:
+            for header in qt_headers_of(file):
+                used[module_of(header, modules)].add(f"<{header}> in {file.name}")
+        named = links[target] & set(modules)
+        linked = named.union(*(reached_from(module, links) for module in named))
+        for module in sorted(set(used) - linked, key=str):
+            yield f"{target} includes {min(used[module])} of {module or 'no module at hand'} and does not name that among its links"
+        yield from (f"{target} links {module} and includes none of its headers" for module in sorted(named - set(used)))
+
+
 def main():
     root = pathlib.Path(sys.argv[1])
-    sources, links = read_parts(pathlib.Path(sys.argv[2]))
+    sources, links, modules = read_parts(pathlib.Path(sys.argv[2]))
     files = {path for folder in ("src", "apps") for path in (root / folder).rglob("*") if path.suffix in ENDINGS}
     owners = {file: {target for target in sources if file in sources[target]} for file in files}
     graph = includes_among(files, root)
@@ -86,13 +118,14 @@ def main():
                 f"{file.relative_to(root)} ({target}) includes {found.relative_to(root)}, whose {'/'.join(sorted(owners[found]))} it"
                 " does not link" for found in sorted(graph[file]) if owners[found] and not owners[found] & within[target]
             ]
+    problems += qt_problems(sources, links, modules)
     problems += [f"circle of targets: {' > '.join(road)}" for road in circles(links)]
     problems += [
         f"circle of files: {' > '.join(str(file.relative_to(root)) for file in road)}" for road in circles(graph)
     ]
     if not files or not any(graph.values()):
         problems.append("no sources found")
-    print("\n".join(problems) or f"{len(files)} files of {len(sources)} targets, every include runs downwards")
+    print("\n".join(problems) or f"{len(files)} files of {len(sources) - len(modules)} targets, every include runs downwards")
     return 1 if problems else 0
 
 

@@ -89,7 +89,7 @@ bool moveFile(const QString &strFrom, const QString &strTo)
         }
         return ok;
     };
-    // Companions first: one that were left behind would be taken for the next file's own.
+    // The companions go first: one that was left behind would be taken for that of the next file.
     const bool all = std::all_of(std::begin(companions), std::end(companions),
                                  [&](const char *companion) {
                                      const QString suffix = QLatin1String(companion);
@@ -187,7 +187,8 @@ void HostStore::close()
     }
 }
 
-/// Returns whether the way is free: for the file after all, or for a new one.
+/// Moves a damaged file aside. Returns whether a store can be opened now: the file itself, when it is sound after all,
+/// or a new one.
 bool HostStore::putAside(const QString &strFolder, const QString &strFile)
 {
     if (isShutAgainstReading(strFile, 0)) {

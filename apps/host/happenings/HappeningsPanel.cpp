@@ -28,7 +28,8 @@ HappeningsPanel::HappeningsPanel(HostSession &session, const QString &strTraceFi
 
 HappeningsPanel::~HappeningsPanel()
 {
-    // The view goes after the form's pointers, and may still scroll or select while it does.
+    // The view is destroyed after the form's pointers and may still scroll or select meanwhile; the panel must not hear
+    // of that.
     ui->viewHappenings->verticalScrollBar()->disconnect(this);
     ui->viewHappenings->selectionModel()->disconnect(this);
 }
@@ -94,7 +95,7 @@ void HappeningsPanel::setFollowing(bool bFollow)
 
 void HappeningsPanel::noteScrolled(int iValue)
 {
-    // Whoever looks back wants to stay there, and whoever returns to the end to go on with it.
+    // A person who scrolls back wants to stay there; one who returns to the end wants to follow again.
     if (!m_bTaking) {
         ui->boxFollow->setChecked(iValue >= ui->viewHappenings->verticalScrollBar()->maximum());
     }

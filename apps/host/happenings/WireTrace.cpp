@@ -98,7 +98,8 @@ void WireTrace::setTimes(QList<WireLine> *lines)
         }
         m_iLastTime = lines->at(i).time;
     }
-    // The file was changed when its last line was written. That clock ticks coarsely and lags: the latest is nearest.
+    // The file's time of change is that of its last line, so the start can be reckoned back from it. The file system's
+    // clock ticks coarsely and lags, so the latest start found this way is nearest to the truth.
     if (!lines->isEmpty() && info.size() == m_iRead && m_rest.isEmpty()) {
         m_iStart = qMax(m_iStart, qMin(now, info.lastModified().toMSecsSinceEpoch()) - m_iLastTime);
     }

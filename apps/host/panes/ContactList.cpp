@@ -52,7 +52,7 @@ void ContactList::followInTabOrder(QWidget *before)
 {
     QWidget *last = before;
     for (ContactRow *row : qAsConst(m_rows)) {
-        // Qt leaves what takes no focus where it stands.
+        // Qt gives a new place in the order only to a widget that takes the focus.
         row->setTabStop(true);
         last = row->followInTabOrder(last);
         row->setTabStop(row == m_pCurrent);

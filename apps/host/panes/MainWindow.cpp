@@ -78,7 +78,8 @@ void MainWindow::showHappenings(bool bShown)
     if (isMaximized() || isFullScreen()) {
         return;
     }
-    // The panel comes beside the other parts, as far as the screen has room, and gives that room back.
+    // The window grows by the width of the panel, as far as the screen has room, and shrinks by the same when the panel
+    // goes.
     int grown = -std::exchange(m_iGrown, 0);
     if (bShown) {
         const int wanted = m_pHappenings->sizeHint().width() + ui->splitter->handleWidth();

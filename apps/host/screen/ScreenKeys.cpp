@@ -50,7 +50,7 @@ void ScreenKeys::press(unsigned char code)
     for (const std::uint8_t type : {std::uint8_t(XCB_KEY_PRESS), std::uint8_t(XCB_KEY_RELEASE)}) {
         xcb_test_fake_input(m_pConnection, type, code, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
     }
-    // An answer tells that the keys have arrived: a connection that ends before may take them along.
+    // The server's answer shows that the keys have arrived: they may be lost when the connection ends before.
     std::free(xcb_get_input_focus_reply(m_pConnection, xcb_get_input_focus(m_pConnection), nullptr));
 }
 

@@ -8,8 +8,8 @@
 
 namespace {
 
-// Calls of work() after which a move or a press is done once more that the program has not heard of: another window was
-// in front. A press that is only late on a busy machine would count twice.
+// After so many calls of work(), a move or a press that the program has not heard of is done once more: another window
+// was in front. It is not done sooner, because a press that is only late on a busy machine would count twice.
 constexpr int patienceForMove = 2;
 constexpr int patienceForPress = 200;
 
@@ -63,7 +63,8 @@ void TourHand::reach(const WindowProbe::Spot &spot, const QPoint &place)
     m_phase = Reaching;
     m_iPatience = patienceForMove;
     window->raise();
-    // Beside it and onto it in turn: Qt does not tell of a move to where it has seen the pointer last.
+    // The pointer is moved beside the place and onto it in turn, because Qt does not report a move to the place where
+    // it saw the pointer last.
     m_bBeside = !m_bBeside;
     m_pointer.moveTo(m_bBeside ? place - QPoint(1, 1) : place);
 }

@@ -13,7 +13,8 @@ const QString FRAGMENT_BEGIN = QStringLiteral("<!--StartFragment-->");
 const QString FRAGMENT_END = QStringLiteral("<!--EndFragment-->");
 const QString OLD_EDITOR_MARK = QStringLiteral("<meta name=\"qrichtext\" content=\"1\" />");
 
-/// What Qt reads of HTML from a clipboard: what stands between the marks of its fragment, and the old editor's mark.
+/// What Qt reads of HTML that came from a clipboard: what stands between the two marks of the fragment. The mark of
+/// Qt's own editor, which may stand outside them, is kept, because it changes how Qt reads the rest.
 QString fragmentOf(const QString &strHtml)
 {
     const int iBegin = strHtml.indexOf(FRAGMENT_BEGIN);
@@ -24,8 +25,9 @@ QString fragmentOf(const QString &strHtml)
     return strHtml.contains(OLD_EDITOR_MARK) ? OLD_EDITOR_MARK + strFragment : strFragment;
 }
 
-/// Whether style rules may say how white space counts, which paragraph is empty or which table is a frame. What is
-/// escaped may be anything.
+/// Whether style rules may change the text: by telling how white space counts, that a paragraph is empty or that a
+/// table is a frame. Rules with a backslash or "&" in them count as such, because an escape may hide any of these
+/// words.
 bool canChangeText(const QStringRef &css)
 {
     return css.contains(QLatin1String("space"), Qt::CaseInsensitive) ||
@@ -34,7 +36,7 @@ bool canChangeText(const QStringRef &css)
            css.contains(QLatin1Char('&'));
 }
 
-/// Whether one of these characters stands in a selector of the sheet.
+/// Whether one of the characters `marks` stands in a selector of the sheet, that is outside its braces.
 bool selectsBy(const QStringRef &css, QLatin1String marks)
 {
     int iDepth = 0;
@@ -51,10 +53,10 @@ bool selectsBy(const QStringRef &css, QLatin1String marks)
 class LeanWriter
 {
 public:
-    /// `bAll`: keep all attributes and names, for style sheets that ask for them.
+    /// With `bAll` all attributes and element names are kept, because a style sheet selects elements by them.
     LeanWriter(const QString &strHtml, bool bAll) : m_strHtml(strHtml), m_bAll(bAll), m_cost(strHtml.size()) {}
 
-    /// False when it costs too much, or another writer is to keep all.
+    /// False when the result would cost too much, or when needsAll() tells that a writer with `bAll` has to do it.
     bool write()
     {
         int iDone = 0;
@@ -84,7 +86,7 @@ private:
         m_strLean += text;
         m_cost.text(text);
         const QChar last = text.at(text.size() - 1);
-        // An entity may stand for a space.
+        // A ";" may end an entity that stands for a space, so it counts as one.
         m_bInLine = !m_bJustOpened && !last.isSpace() && last != QLatin1Char(';');
     }
 
@@ -104,7 +106,7 @@ private:
         else if (tag.bClosing)
             addClosing(tag.strName, tag.name.toString());
         else if (tag.strName == QLatin1String("img") && m_bInLine && m_cost.isPlainLine())
-            m_strLean += QChar::ObjectReplacementCharacter; // reads the same within a line, and costs no layout
+            m_strLean += QChar::ObjectReplacementCharacter; // gives the same text as the image, without its layout
         else
             addOpening(tag);
     }
@@ -134,14 +136,14 @@ private:
         const QString strWritten = writtenName(tag.strName);
         m_bRenamed = m_bRenamed || strWritten != tag.strName;
         m_cost.open(tag, strKept, strWritten);
-        // Nothing may follow a missing name that would be read as one.
+        // An element without a name gets the name "=". Qt would otherwise read what follows as the name.
         const QString strName = tag.name.isEmpty() ? QStringLiteral("=") : tag.name.toString();
         const QString strTag = (strWritten == tag.strName ? strName : nameAndStyle(strWritten)) + strKept;
         m_strLean += QLatin1Char('<') + strTag + (tag.bSelfClosing ? QLatin1String(" />") : endOf(strTag));
     }
 
-    // For each element with the fixed font Qt asks the system for that font anew. Others do as well that differ in the
-    // looks alone, unless rules are for the one or the other.
+    // Qt asks the system for the fixed font anew at each element that is set in it. Such an element is written as one
+    // that differs from it in the looks alone, unless there is a style sheet, whose rules could tell the two apart.
     QString writtenName(const QString &strName) const
     {
         static const QSet<QString> FIXED{"code", "tt", "kbd", "samp"};
@@ -158,13 +160,13 @@ private:
                                                      : strWritten;
     }
 
-    // A blank keeps a last "/" from closing the element.
+    // With a blank behind it, a "/" at the tag's end does not make the element one that closes itself.
     static QLatin1String endOf(const QString &strTag)
     {
         return QLatin1String(strTag.endsWith(QLatin1Char('/')) ? " >" : ">");
     }
 
-    // Two lists read as one.
+    // Closes the list and opens another like it: two lists give the same text as one.
     void cutList()
     {
         const QPair<QString, QString> list = m_cost.openList();
@@ -204,7 +206,8 @@ private:
     bool m_bNeedsAll = false;
     // Whether what was written last was text, an image or a line break.
     bool m_bInLine = false;
-    // Whether no tag came since an element was opened. A block that was closed before it still ends the line then.
+    // Whether the last tag opened an element other than an image or a break. A block that was closed just before that
+    // tag still ends the line then.
     bool m_bJustOpened = false;
 };
 
@@ -272,7 +275,7 @@ private:
         }
     }
 
-    // Also what would begin a block of its own in Qt's text.
+    // The two marks by which Qt begins and ends a frame count as spaces too: each would begin a new block in Qt's text.
     static bool isSpace(uint uiCode)
     {
         return uiCode == 0xFDD0 || uiCode == 0xFDD1 || (uiCode != 0xA0 && QChar::isSpace(uiCode));

@@ -5,7 +5,7 @@
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
-// The tree is built by these classes inside Qt, so only they see exactly the nesting that the tree will have.
+// Qt builds the tree by these deprecated classes itself, so only they tell exactly how deep the tree will be.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace {
@@ -24,7 +24,7 @@ public:
         return true;
     }
 
-    // Millions of short references to a long entity would fill the memory.
+    // Else a text with millions of short references to a long entity would fill the memory.
     bool internalEntityDecl(const QString &, const QString &strValue) override
     {
         return strValue.size() <= DomText::LONGEST_ENTITY && !strValue.contains(QLatin1Char('&'));

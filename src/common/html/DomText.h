@@ -1,6 +1,6 @@
 #pragma once
 
-// The one door through which text from outside becomes a DOM tree. Any thread; no state.
+// The one function by which text from outside becomes a DOM tree. Any thread; no state.
 
 class QByteArray;
 class QDomDocument;
@@ -8,10 +8,10 @@ class QString;
 
 namespace DomText {
 
-/// How many elements may lie in each other; the tree's own code works on it recursively, so a deeper text would exhaust
-/// the stack.
+/// How many elements may lie in each other. Qt's code for the tree is recursive, so a deeper text would use up the
+/// stack.
 constexpr int DEEPEST = 512;
-/// How many units an entity that the text declares may stand for; it may not stand for other entities.
+/// How many UTF-16 units an entity that the text declares may stand for. It may not refer to other entities.
 constexpr int LONGEST_ENTITY = 64;
 
 /// Parses XML into `document`. False, with `document` empty, for text that is not well-formed, nests deeper than

@@ -4,7 +4,7 @@
 
 namespace {
 
-// In microseconds, each.
+// What each thing costs, in microseconds.
 constexpr double INLINE = 3;
 constexpr double BLOCK = 5;
 constexpr double CLOSING = 2;
@@ -14,21 +14,21 @@ constexpr double PLACE = 3;
 constexpr double CELL = 8;
 constexpr double SPANNING_CELL = 10;
 constexpr double IMAGE = 15;
-// The fixed font is asked for anew.
+// High, because Qt asks the system for the fixed font each time.
 constexpr double CODE = 300;
 constexpr double NEW_BLOCK_IN_TEXT = 6;
 constexpr double UNIT = 0.03;
 constexpr double ATTRIBUTE_UNIT = 0.2;
 constexpr double ESCAPE_TIMES_UNIT = 0.00004;
 constexpr double INHERITED_UNIT = 0.001;
-// For each element around it.
+// For each element that is open around it.
 constexpr double LEVEL = 0.04;
 constexpr double UNMATCHED_LEVEL = 0.02;
 constexpr double TABLE_LEVEL = 0.25;
 constexpr double SHEET_UNIT_LEVEL = 0.02;
 constexpr int UNITS_OF_EMPTY_SHEET = 2;
 constexpr double SHEET_UNIT_LEVEL_SQUARE = 0.000002;
-// For each one before it.
+// For each of the same kind that came before it.
 constexpr double FORMAT_BEFORE = 0.07;
 constexpr double ITEM_BEFORE = 0.12;
 constexpr double BLOCK_IN_LIST = 0.003;
@@ -38,10 +38,10 @@ constexpr double IMAGE_UNIT_BEFORE = 0.3;
 constexpr double CELL_BEFORE = 0.001;
 constexpr double SPANNED_PLACE = 0.5;
 
-// Qt takes no wider cell.
+// The widest cell that Qt makes, in columns.
 constexpr int MOST_COLUMNS_OF_CELL = 20480;
 
-/// Whether Qt begins a new block where this stands in a text.
+/// Whether Qt begins a new block at this character of a text.
 bool isBlockEnd(uint uiCode, bool bKeepsLines)
 {
     return uiCode == QChar::ParagraphSeparator || uiCode == 0xFDD0 || uiCode == 0xFDD1 ||
@@ -55,7 +55,7 @@ int spanOf(const HtmlTag &tag, const char *pKey)
         if (attribute.strKey != QLatin1String(pKey))
             continue;
         QString strValue = attribute.value.toString();
-        // What an entity hides is taken for the worst.
+        // A number with an entity in it is not read: it may be the largest.
         if (strValue.contains(QLatin1Char('&')))
             return MOST_COLUMNS_OF_CELL;
         strValue.remove(QLatin1Char('"')).remove(QLatin1Char('\''));
@@ -126,14 +126,14 @@ void HtmlCost::pop()
 {
     const Element element = m_listOpen.takeLast();
     if (element.kind == List && !m_listItems.isEmpty())
-        m_listItems.removeLast(); // also for one that was hidden and never came into it
+        m_listItems.removeLast(); // also at the end of a hidden list, which was never entered here
     else if (element.kind == Table && !m_listGrid.isEmpty())
         m_listGrid.removeLast();
     else if (element.kind == Pre)
         --m_iPre;
 }
 
-/// Closes and opens what Qt does before an element of that kind.
+/// Closes and opens the elements that Qt closes and opens before it takes an element of that kind.
 void HtmlCost::makeRoomFor(const QString &strName, Kind kind)
 {
     if (strName == QLatin1String("td") && !has(Row)) {
@@ -192,7 +192,7 @@ void HtmlCost::open(const HtmlTag &tag, const QString &strKept, const QString &s
 {
     const Kind kind = kindOf(tag.strName);
     if (kind == Nameless) {
-        // Qt makes an element of it that nothing lies in, and may count the one behind it twice.
+        // Qt makes an empty element of it, and may then count the element that follows it twice.
         m_dCost += INLINE + LEVEL * m_listOpen.size();
         m_bAfterNameless = true;
         return;
@@ -225,7 +225,7 @@ void HtmlCost::addElement(const Element &element, const HtmlTag &tag)
         addShown(element, tag);
 }
 
-// What is hidden has no place in the text that Qt makes.
+// Adds what an element costs that gets a place in the text; a hidden one gets none.
 void HtmlCost::addShown(const Element &element, const HtmlTag &tag)
 {
     m_bUnevenCells = m_bUnevenCells || (element.kind == Table && !element.strKept.isEmpty());
@@ -288,7 +288,7 @@ void HtmlCost::addPlaces(Grid &grid)
     grid.iPlaces = iPlaces;
 }
 
-// Qt lays out the block as far as it goes.
+// For each image Qt lays out its block from the beginning up to the image.
 void HtmlCost::addImage()
 {
     m_dCost += IMAGE + IMAGE_UNIT_BEFORE * ++m_iBlockUnits;

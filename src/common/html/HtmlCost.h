@@ -1,9 +1,10 @@
 #pragma once
 
-// What Qt's rich text spends on HTML, added up tag by tag in one walk: which elements are open, in which order it makes
-// a tree of broken markup, and the time that it takes for each, in microseconds of a machine of middling speed. Where
-// its time grows faster than the text, as with depth, long lists, wide tables or many formats, so does the cost. The
-// estimate is rather too high than too low. Any thread; no state but its own.
+// Estimates how long Qt's rich text takes to read HTML. The tags and texts are handed over one after the other; the
+// class keeps the elements that are open then, where the markup is broken in the order in which Qt would close and open
+// them, and adds up the microseconds that each takes on a machine of middling speed. The estimate grows faster than the
+// length of the HTML wherever Qt's time does: with depth, long lists, wide tables, many formats. It is rather too high
+// than too low. Any thread; an object has no state but its own.
 
 #include "common/html/HtmlTags.h"
 
@@ -14,44 +15,47 @@
 class HtmlCost
 {
 public:
-    /// Elements in each other beyond this are too many, whatever they cost.
+    /// How many elements may lie in each other; more are too many, whatever they cost.
     static constexpr int MOST_DEPTH = 256;
-    /// What HTML of so many units may cost in all: a share for each, so that a short text is not let cost what only a
-    /// long one has reason to, and what leaves reading a million units below a second. The fuzzers hold their texts,
-    /// which are short, to no more time than this grants them.
+    /// What HTML of so many units may cost in all. A short text gets a share for each of its units, so that it cannot cost
+    /// as much as a long one; the most that any text gets leaves reading a million units below a second. The fuzzers give
+    /// their texts, which are short, no more time than this.
     static constexpr double mostMicroseconds(int iUnits)
     {
         return iUnits < LONG_TEXT ? MOST_AT_ONCE + MOST_FOR_A_UNIT * iUnits
                                   : MOST_AT_ONCE + MOST_FOR_A_UNIT * LONG_TEXT;
     }
-    /// Each item of a list costs as much as all before it together, so a longer list is better cut.
+    /// How many items a list should have at most. Qt passes all items before it for each item of a list, so several
+    /// short lists cost less than a long one.
     static constexpr int MOST_ITEMS = 64;
 
     /// For HTML of so many units.
     explicit HtmlCost(int iUnits);
 
-    /// `strKept` is what is kept of the tag's attributes; `strWritten` the name, in lower case, that Qt is to read.
+    /// An opening tag. `strKept` holds those of its attributes that are kept; `strWritten` is the name, in lower case,
+    /// that is written for Qt to read.
     void open(const HtmlTag &tag, const QString &strKept, const QString &strWritten);
-    /// How many closing tags with the written name of the element do what the one with its own name did; 0 when it
-    /// closes nothing, and Qt passes it over.
+    /// A closing tag. Gives how many closing tags with the written name of the element have to be written in its place:
+    /// 1 and one more for each open element within that has the same written name. 0 when the tag closes no element.
     int close(const QString &strName);
-    /// The written name of the element that a closing tag would close; empty where it closes none.
+    /// The written name of the element that a closing tag `strName` would close; empty when it would close none.
     QString writtenName(const QString &strName) const;
-    /// Text between tags.
+    /// Text between two tags.
     void text(const QStringRef &text);
-    /// A style sheet, whose rules every later element is held against; `bSiblings`: also against those before it.
+    /// A style sheet of `iUnits` characters: Qt tries its rules on each later element. With `bSiblings` the rules also
+    /// ask for the elements that stand before one.
     void addSheet(int iUnits, bool bSiblings);
 
     bool isTooHigh() const { return m_dCost > m_dMost || m_listOpen.size() > MOST_DEPTH; }
-    /// Whether all that is open lies in a style element directly.
+    /// Whether a style element is the innermost open one, so that a text is part of a style sheet.
     bool isInStyle() const { return m_listOpen.last().kind == Style && !m_bAfterNameless; }
     bool hasSheets() const { return m_iSheetUnits > 0; }
-    /// Whether what stands here is shown as a line of text: not hidden, nor astray in a table or list, nor within an
-    /// element with attributes that were kept.
+    /// Whether a text at this place is shown as part of a line. It is not where it is hidden, where it stands in a
+    /// table or list outside their cells or items, and within an element that has attributes which were kept.
     bool isPlainLine() const;
-    /// Whether an item that opens now is one of a list that has MOST_ITEMS.
+    /// Whether the list in which an item would open now has MOST_ITEMS items already.
     bool isListFull() const;
-    /// The name of the innermost open list, and what was kept of its attributes; both are empty where none is open.
+    /// The name of the innermost open list and its attributes that were kept; both empty when no list is open.
     QPair<QString, QString> openList() const;
 
 private:
@@ -89,9 +93,10 @@ private:
         QString strWritten;
         Kind kind = Inline;
         bool bHidden = false;
-        // Of the way through the elements that set formats; 0 where none does.
+        // A number for the attributes of it and of the elements around it, equal for elements with the same ones; 0
+        // when there are none.
         int iFormat = 0;
-        // Of the attributes of it and all around it.
+        // The length of its attributes and of those of all elements around it.
         int iUnits = 0;
         QString strKept;
     };
@@ -101,7 +106,7 @@ private:
         qint64 iCells = 0;
         qint64 iColumns = 0;
         qint64 iPlaces = 0;
-        // Cells that reach into further rows: the columns they take, by their last row.
+        // For cells that reach into rows below: by the last row that they reach, how many columns they take up.
         QMap<qint64, qint64> mapSpan;
         qint64 iSpanned = 0;
     };
@@ -134,7 +139,7 @@ private:
     int m_iSheetUnits = 0;
     int m_iTables = 0;
     int m_iElements = 0;
-    // Of the block that an image would stand in.
+    // The length of the block so far in which an image would stand.
     int m_iBlockUnits = 0;
     int m_iPre = 0;
     bool m_bSiblings = false;

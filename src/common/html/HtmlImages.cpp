@@ -13,11 +13,12 @@
 
 namespace {
 
-/// An element counts as an image when it has three attributes with names out of these; one name may come three times.
+/// An element counts as an image when it has three attributes whose names are among these. The three may have the same
+/// name.
 using AttributeNames = std::array<QLatin1String, 3>;
 
-/// The position behind the value of the first attribute from `iFrom` on that has one of these names; -1 where there is
-/// none. A name that merely ends with one of them counts as well: "data-src" as src.
+/// The position behind the value of the first attribute at or behind `iFrom` that has one of the names; -1 when there
+/// is none. A name that ends with one of them counts as well, such as "data-src" for "src".
 int behindAttribute(const QString &strImage, const AttributeNames &names, int iFrom)
 {
     for (int i = strImage.indexOf(QLatin1String("=\""), iFrom); i >= 0;
@@ -31,8 +32,8 @@ int behindAttribute(const QString &strImage, const AttributeNames &names, int iF
     return -1;
 }
 
-/// Whether `strImage`, which runs from "<img" through the next ">", has three such attributes one after the other: the
-/// same answer as from the pattern below, where NAMES is "src|type|style" or "src|name|fileid", in linear time.
+/// Whether `strImage`, which runs from "<img" through the next ">", has three such attributes one behind the other.
+/// This is what the following pattern tells, with "src|type|style" or "src|name|fileid" for NAMES, but in linear time:
 /// <img([^>]*)(NAMES){1,1}="([^>]*)"([^>]*)(NAMES){1,1}="([^>]*)"([^>]*)(NAMES){1,1}="([^>]*)"[^>]*>
 bool isImage(const QString &strImage, const AttributeNames &names)
 {
@@ -42,7 +43,7 @@ bool isImage(const QString &strImage, const AttributeNames &names)
     return i >= 0;
 }
 
-/// All from the first "<body" through the last "</body>"; empty where one of the two is missing.
+/// The text from the first "<body" through the last "</body>"; empty when one of the two is missing.
 QString bodyOf(const QString &strHtml)
 {
     const QString strEnd = QStringLiteral("</body>");
@@ -54,8 +55,8 @@ QString bodyOf(const QString &strHtml)
     return strHtml.mid(iFirst, iLast + strEnd.size() - iFirst);
 }
 
-/// Calls `take` with each image element, in their order. An image ends at the first ">", so the walk goes over the text
-/// once.
+/// Calls `take` with each image element, in the order in which they stand. An element ends at the first ">" behind its
+/// beginning, so the text is gone through once.
 template <typename Take>
 void forEachImage(const QString &strHtml, const AttributeNames &names, Take take)
 {

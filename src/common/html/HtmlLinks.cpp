@@ -14,10 +14,10 @@ QRegExp linkPattern()
                    Qt::CaseInsensitive);
 }
 
-// Of "https", in characters.
+// The length of "https".
 constexpr int LONGEST_SCHEME = 5;
 
-/// Whether "://" begins at `i`, or the "." of a "www." stands there. Every link has one of the two.
+/// Whether the ":" of "://" or the "." of "www." stands at `i`. Every address has one of the two near its beginning.
 bool isMarkOfLink(const QChar *pFirst, int iSize, int i)
 {
     const auto isW = [pFirst](int iAt) { return (pFirst[iAt].unicode() | 0x20) == 'w'; };
@@ -26,8 +26,8 @@ bool isMarkOfLink(const QChar *pFirst, int iSize, int i)
     return pFirst[i] == QLatin1Char('.') && i >= 3 && isW(i - 1) && isW(i - 2) && isW(i - 3);
 }
 
-/// A position from which the pattern finds the first link at or behind `iFrom`; -1 where no link can follow. The
-/// pattern is slow, so it is not tried where no mark is near.
+/// The position from which to try the pattern, so that it finds the first link at or behind `iFrom`; -1 when no link
+/// can follow. The pattern is slow, so it is tried only near such a mark.
 int nextPlaceOfLink(const QString &strText, int iFrom)
 {
     for (int i = iFrom; i < strText.size(); ++i) {
@@ -37,7 +37,7 @@ int nextPlaceOfLink(const QString &strText, int iFrom)
     return -1;
 }
 
-// The view takes addresses of this private scheme out of its own navigation and opens what follows.
+// The chat view does not go to an address of the scheme "web" itself: it hands what follows to a browser.
 void appendLink(QString &strOutput, const QString &strUrl, const QString &strStyle)
 {
     strOutput += QLatin1String("<a onfocus='this.blur()' href='web://urllink//") % strUrl %
@@ -50,7 +50,7 @@ void HtmlLinks::convertWebLink(QString &strText, const QString &strStyle)
 {
     QString strRest = strText;
     replaceAll(strRest, QStringLiteral("&nbsp;&nbsp;"), QStringLiteral("  "));
-    QRegExp pattern; // costly to make, so only once there is a mark
+    QRegExp pattern; // made below, once it is needed: that is costly
     QString strOutput;
     int iDone = 0;
     for (int iPlace = nextPlaceOfLink(strRest, 0); iPlace >= 0; iPlace = nextPlaceOfLink(strRest, iDone)) {

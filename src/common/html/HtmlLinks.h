@@ -8,11 +8,12 @@
 class HtmlLinks
 {
 public:
-    /// Makes a link of each address in `strText`: http://, https:// or ftp:// and a word, or www. and a word, in any
-    /// case, and what may follow in an address. A link shows the address as it was written and leads to
-    /// "web://urllink//" and the same; no scheme is added. `strStyle` stands among the attributes of each link and may
-    /// be empty. The text is not read as HTML: an address in an attribute, such as the src of an image, becomes a link
-    /// too, and a single "&nbsp;" behind an address counts as a part of it. In the end each two spaces of the whole
-    /// text become "&nbsp;&nbsp;". An empty text stays empty.
+    /// Makes a link of each address in `strText`. An address begins with "http://", "https://", "ftp://" or "www.", in
+    /// any case, and at least one character of a word; all characters that may stand in an address and follow directly
+    /// belong to it. The link shows the address as it was written and leads to "web://urllink//" with the address
+    /// behind it; an address without a scheme gets none. `strStyle` is written among the attributes of each link and
+    /// may be empty. The text is not read as HTML: an address within an attribute, such as the src of an image, becomes
+    /// a link too, and a single "&nbsp;" behind an address counts as part of it. At last each pair of spaces in the
+    /// whole text becomes "&nbsp;&nbsp;". An empty text stays empty.
     static void convertWebLink(QString &strText, const QString &strStyle);
 };

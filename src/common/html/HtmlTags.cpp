@@ -2,10 +2,11 @@
 
 namespace {
 
-// From "&" through ";".
+// The length of the longest entity that Qt reads, with its "&" and ";".
 constexpr int LONGEST_ENTITY = 10;
 
-/// Where the entity whose "&" stands at `iAt` has its ";"; the text's end stands for one. -1 where it has none.
+/// The position of the ";" of the entity whose "&" stands at `iAt`, or the end of the text when that comes first. -1
+/// when no entity begins there.
 int endOfEntity(const QString &strHtml, int iAt)
 {
     const int iMost = qMin(strHtml.size(), iAt + LONGEST_ENTITY);
@@ -18,7 +19,7 @@ int endOfEntity(const QString &strHtml, int iAt)
     return iMost == strHtml.size() ? iMost : -1;
 }
 
-/// Walks over one tag.
+/// Reads one tag, from behind its "<".
 class Reader
 {
 public:
@@ -56,7 +57,7 @@ private:
     {
         tag.bRemark = true;
         ++m_i;
-        // One dash is enough.
+        // Qt takes "<!-" with a single dash for the beginning of a comment.
         const bool bComment = isAt('-') && m_i + 2 < m_strHtml.size();
         m_i += bComment ? 3 : 0;
         skipBehind(bComment ? QStringLiteral("-->") : QStringLiteral(">"));
@@ -124,7 +125,7 @@ private:
         return strWord;
     }
 
-    // In single quotes a backslash keeps the quote that follows, and no entity is read.
+    // In single quotes, a quote behind a backslash does not end the word, and entities are not replaced.
     QString quoted(QChar quote)
     {
         QString strWord;
@@ -142,7 +143,7 @@ private:
         return strWord;
     }
 
-    // A "/" ends a word where ">" follows, unless that is the last of the text.
+    // A "/" ends a word when ">" follows it, unless that ">" is the last character of the text.
     bool isEndOfWord() const
     {
         const QChar c = m_strHtml.at(m_i);
@@ -151,7 +152,7 @@ private:
         return bSlash || c == QLatin1Char('>') || c == QLatin1Char('<') || c == QLatin1Char('=') || c.isSpace();
     }
 
-    // Entities with a name stay as they are: none stands for a letter.
+    // Only numeric entities are replaced: none with a name stands for a letter of a tag or attribute name.
     void readUnit(QString &strWord)
     {
         const uint uiCode = isAt('&') ? HtmlTags::numericEntity(m_strHtml, m_i) : 0;

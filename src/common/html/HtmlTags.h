@@ -12,9 +12,9 @@ struct HtmlAttribute
 {
     /// In lower case.
     QString strKey;
-    /// What the text has of it, from the key through the value.
+    /// The part of the text that it takes up, from the key through the value.
     QStringRef source;
-    /// The value as it is written, with its quotes; null where there is none.
+    /// The value as it is written, with its quotes; null when it has no value.
     QStringRef value;
 };
 
@@ -24,7 +24,7 @@ struct HtmlTag
     int iBegin = -1;
     /// The position behind ">", or the end of the text.
     int iEnd = -1;
-    /// In lower case; empty for remarks and where none is written.
+    /// In lower case; empty for remarks and when no name is written.
     QString strName;
     /// The name as it is written.
     QStringRef name;
@@ -42,7 +42,7 @@ namespace HtmlTags {
 /// The first tag from position `iFrom` on.
 HtmlTag next(const QString &strHtml, int iFrom);
 
-/// The character of the numeric entity whose "&" stands at `iAt`; 0 where none stands.
+/// The character of the numeric entity whose "&" stands at `iAt`; 0 when no such entity begins there.
 uint numericEntity(const QString &strHtml, int iAt);
 
 } // namespace HtmlTags

@@ -12,8 +12,9 @@
 
 namespace {
 
-// Each spaced text costs a walk over the message. So many units are walked over in all, but at least so many texts are
-// replaced: an ordinary message has all of its own replaced, one of megabytes still ends soon.
+// Each text with double spaces is looked for in the whole message. That ends when so many UTF-16 units have been walked
+// over, but not before so many texts have been replaced: an ordinary message has all of them replaced, and one of
+// megabytes does not take long.
 constexpr int MOST_WALKED_UNITS = 100000000;
 constexpr int FEWEST_SPACED_TEXTS = 20;
 
@@ -67,7 +68,8 @@ SpanFindings spansOf(const QString &strBody)
     return findings;
 }
 
-// Links take "&nbsp;&nbsp;" and two spaces for the same, so this shows only where the message has entities of its own.
+// The making of links writes "&nbsp;&nbsp;" for two spaces in any case, so this makes a difference only in a message
+// that has an "&nbsp;" already.
 void keepSpaces(const QStringList &listSpacedText, QString &strResult)
 {
     if (!strResult.contains(QLatin1String("&nbsp;")))

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A document that reads none of the files that a message names.
+/// A document that does not read the files that a message refers to.
 class ClosedDocument : public QTextDocument
 {
 protected:

@@ -7,9 +7,10 @@
 class PlainText
 {
 public:
-    /// Makes plain text of HTML, as Qt's rich text reads it: each two spaces are kept, paragraphs and line breaks
-    /// become line feeds, of which each two in a row become one in a single pass, and an image is the character U+FFFC.
-    /// Nothing that the HTML refers to is read. It takes less than a second for a million units of any text: HTML whose
-    /// shape would take Qt longer, as by elements nested hundreds deep, gives its bare text (BoundedHtml).
+    /// Makes plain text of HTML, as Qt's rich text reads it. Each pair of spaces is kept. Paragraphs and line breaks
+    /// become line feeds; then each two line feeds in a row become one, in a single pass. An image becomes the
+    /// character U+FFFC. No file that the HTML refers to is read. A million UTF-16 units of any text take less than a
+    /// second: HTML that would take Qt longer, for instance with elements nested hundreds deep, gives its bare text
+    /// (BoundedHtml).
     static void convertToPlaintText(QString &strText);
 };

@@ -15,7 +15,8 @@
 
 namespace {
 
-// Masks have no smooth edge. They cut at this multiple of the size, and scaling down smooths what they left.
+// A mask cuts without a smooth edge. So the picture is cut at this multiple of its size, and scaling it down makes the
+// edge smooth.
 constexpr int MASK_SCALE = 2;
 
 constexpr int BEST_QUALITY = 100;
@@ -65,8 +66,8 @@ QString HeadImages::getFormattedImage(const QString & /*strUnused*/, const QStri
     const QString strJpeg = strFolder + strName + QLatin1String(".jpeg");
     if (strJpg != strTarget) {
         QFile::remove(strJpg);
-        // Deliberately not by its own name, which the host's head cache goes by: a png is removed also when it is the
-        // target, and written anew below, and stays beside a jpg.
+        // Deliberately tested by the name of the jpg, not of the png; the host's head cache relies on it: a png is
+        // removed also when it is the target, and then written anew below, and it stays when a jpg is stored.
         QFile::remove(strFolder + strName + QLatin1String(".png"));
     }
     if (strJpeg != strTarget) {
@@ -124,7 +125,8 @@ QPixmap HeadImages::getIrregularPix(const QString &strPath, int iRadius)
     const QSize area(MASK_SCALE * iRadius, MASK_SCALE * iRadius);
     const QPixmap mask = shape.scaled(area, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     QPixmap head = picture.scaled(mask.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    // A picture of other proportions than the mask's keeps them; a mask has to be as large as what it cuts.
+    // The picture keeps its proportions, so that its size may differ from that of the mask; the mask is then stretched,
+    // because it has to be as large as what it cuts.
     head.setMask(QBitmap(
         head.size() == mask.size() ? mask : mask.scaled(head.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
     return head.scaled(iRadius, iRadius, Qt::KeepAspectRatio, Qt::SmoothTransformation);

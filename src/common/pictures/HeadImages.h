@@ -11,10 +11,11 @@ class HeadImages
 {
 public:
     /// Stores `pixmap`, stretched to `size`, as the one head image of the account and gives its path: the head image
-    /// folder, which is made when missing, the jid up to its "@", "." and `strSuffix`, which tells the format. The
-    /// account's files with the suffixes "jpg", "png" and "jpeg" are removed before, but for a png when a jpg is
-    /// stored. A null `pixmap`, an empty `size` or a suffix in whose format no picture can be written changes no file;
-    /// a slash in the jid's name or in the suffix does neither and gives an empty text. The first argument is not used.
+    /// folder, which is made when missing, the part of the jid before its "@", a "." and `strSuffix`, which tells the
+    /// format. The account's files with the suffixes "jpg", "png" and "jpeg" are removed before; only a png stays when
+    /// a jpg is stored. With a null `pixmap`, an empty `size` or a suffix in whose format no picture can be written,
+    /// the path is given and no file changes. With a slash in that part of the jid or in the suffix, no file changes
+    /// and the text is empty. The first argument is not used.
     static QString getFormattedImage(const QString &strUnused, const QString &strJid, const QPixmap &pixmap,
                                      const QSize &size, const QString &strSuffix);
 

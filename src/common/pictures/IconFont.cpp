@@ -15,7 +15,7 @@ namespace {
 const QString FONT_FILE = QStringLiteral("Resources/BaseConfig/kelvarimiconfont.ttf");
 constexpr int DEFAULT_PIXEL_SIZE = 12;
 
-// Stands for every value that has no row of its own.
+// Fits every value.
 constexpr int ANY = std::numeric_limits<int>::min();
 
 struct StatusRow
@@ -25,7 +25,7 @@ struct StatusRow
     ushort m_uGlyph;
 };
 
-// The first row that fits counts, so kind 0 goes before status 0.
+// The first row that fits counts: the rows of kind 0 stand before those that tell status 0 of other kinds.
 // clang-format off
 constexpr StatusRow STATUS_ROWS[] = {
     {0,   0,   IconGlyph::DesktopOffline},
@@ -43,7 +43,8 @@ constexpr StatusRow STATUS_ROWS[] = {
 };
 // clang-format on
 
-// Letters that a list sets in the icon font come from the windows' text family, or from what stands in for that one.
+// The icon font has no letters, and some lists set letters in it. They are drawn in the text font of the windows, or in
+// the fonts that are named as its substitutes.
 void borrowLetters(const QString &strFamily)
 {
     const QString strTextFamily = QStringLiteral("微软雅黑");

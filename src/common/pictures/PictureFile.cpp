@@ -12,16 +12,17 @@ namespace {
 struct PictureFormat
 {
     const char *pName;
-    /// A byte of the file says no more pixels. A damaged file that declares more would cost the memory and the time of
-    /// a picture that it does not hold.
+    /// The most pixels that one byte of such a file can stand for. A file that declares more is damaged: it would cost
+    /// the memory and the time of a picture that it does not hold.
     qint64 iMostPixelsPerByte;
 };
 
-// Other formats may hold pictures within pictures, whose size is not the declared one.
+// No others: a picture of another format may have further pictures in it, whose sizes are not the declared one.
 constexpr PictureFormat PICTURE_FORMATS[] = {
     {"png", 10000}, {"jpg", 10000}, {"jpeg", 10000}, {"bmp", 128}, {"gif", 10000}};
 
-// A bitmap that is stored from its top row down declares a negative height.
+// Whether a file of that format and length may declare that size. The height of a bitmap whose rows are stored from the
+// top down is negative.
 bool isAllowed(const QByteArray &format, const QSize &size, qint64 iFileBytes)
 {
     const auto row = std::find_if(std::begin(PICTURE_FORMATS), std::end(PICTURE_FORMATS),
@@ -38,7 +39,7 @@ bool isAllowed(const QByteArray &format, const QSize &size, qint64 iFileBytes)
 
 QPixmap readPictureFile(const QString &strPath)
 {
-    // Anything but a plain file could also keep the reader waiting.
+    // Reading from something else, such as a pipe, could wait for ever.
     const QFileInfo file(strPath);
     if (!file.isFile()) {
         return {};

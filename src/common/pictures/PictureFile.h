@@ -1,8 +1,8 @@
 #pragma once
 
-// Reads picture files that come from elsewhere: heads of other users, received files, caches that anyone may have
-// touched. The size that a file declares is looked at before any of it is decoded, so that a small file cannot claim
-// the host's memory. GUI thread, as pixmaps are.
+// Reads picture files from outside: heads of other users, received files, files in caches that anyone may have changed.
+// The size that a file declares is tested before the picture is decoded, so that a small file cannot make the host take
+// up all its memory. GUI thread, because it makes pixmaps.
 
 #include <QPixmap>
 #include <QString>
@@ -10,7 +10,7 @@
 /// The most pixels that a picture may have to be read: 64 Mi, 256 MB once decoded.
 constexpr qint64 iMOST_PICTURE_PIXELS = Q_INT64_C(64) * 1024 * 1024;
 
-/// The first image of the picture file at `strPath`, in one of the client's picture formats; its content counts, not
-/// its suffix. Null when there is no such file, when it is a folder or no such picture, when it is damaged, and when it
-/// declares no size, more pixels than are allowed, or more than its bytes can hold.
+/// The first image of the picture file at `strPath`. Its content tells the format, not its suffix: png, jpeg, bmp or
+/// gif. Null when there is no such file, or it is a folder, in another format or damaged; also when it declares no
+/// size, more than iMOST_PICTURE_PIXELS, or more pixels than a file of its length can hold.
 QPixmap readPictureFile(const QString &strPath);

@@ -23,8 +23,8 @@ namespace {
 const QString DEFAULT_COLOR = QStringLiteral("#e8e9eb");
 
 constexpr double ANGLE = 16;
-// Of ANGLE, deliberately reckoned with 3.14 for pi, though the painter turns by the true angle: the watermarks that the
-// host has already are laid out so.
+// Cosine, sine and tangent of ANGLE, deliberately computed with 3.14 for pi although the painter turns by the true
+// angle: the watermarks that the host has already are laid out so.
 constexpr double COSINE = 0.9613007080676148;
 constexpr double SINE = 0.2755012679983567;
 constexpr double TANGENT = 0.28659218253585106;
@@ -33,11 +33,11 @@ constexpr int FONT_PIXELS = 14;
 constexpr int ROW_GAP = 50;
 constexpr int TEXT_GAP = 100;
 constexpr int ODD_ROW_INDENT = 60;
-// Columns are counted by a narrower period than they are drawn at, deliberately: the last ones run over the edge, so
-// that the shifted rows have no gap there.
+// The number of columns is computed with a narrower distance than they are drawn at, deliberately: the last ones run
+// over the edge, so that the shifted rows have no gap there.
 constexpr int COUNTED_GAP = 110;
 
-// Far more than a screen shows. Measuring a text without end takes its time, and its width fits into no number.
+// Far more than a screen shows. A longer text would take long to measure, and its width may fit into no number.
 constexpr int MOST_CHARACTERS = 10000;
 
 // The two texts in turn, with the measures of their font.

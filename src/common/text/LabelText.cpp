@@ -15,7 +15,7 @@ using SurrogatePairs::unitsAt;
 constexpr int LINE_SLACK = 5;
 constexpr int HEIGHT_SLACK = 2;
 constexpr int DOTS_REPLACE = 2;
-// The width of a text of millions of characters is no number any more, so a longer one is never measured whole.
+// A longer text is never measured whole: the width of millions of characters does not fit into a number.
 constexpr int MEASURED_WHOLE = 10000;
 
 QString dots()

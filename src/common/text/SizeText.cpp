@@ -29,7 +29,7 @@ QString withOneDecimal(qint64 iSpeed, qint64 iUnit, const QString &strUnit)
 
 QString SizeText::fileSizeConvert(qint64 iBytes)
 {
-    // 999 units are where three digits would need an exponent, so the next unit begins there.
+    // From 999 units on, a number of three digits may be written with an exponent, so the next unit is taken.
     if (iBytes >= GIB)
         return inUnits(iBytes, GIB, QStringLiteral("GB"));
     if (iBytes >= MIB)

@@ -12,9 +12,9 @@ public:
     static int columnsOf(QChar unit) { return unit >= QChar(0x4E00) && unit <= QChar(0x9FA5) ? 2 : 1; }
     /// The columns of the text; 0 for the empty one.
     static int getStrCounnt(const QString &strText);
-    /// The number of UTF-16 units up to the limit of `iLimit` columns: where they are reached exactly, the unit that
-    /// does so is counted, where it goes one column beyond, it is not. Otherwise (a limit that the text does
-    /// not reach, a negative one, or 0 before a wide character) the columns of the whole text.
+    /// How many UTF-16 units of the text come before the limit of `iLimit` columns. A unit that reaches the limit
+    /// exactly is counted, one that goes a column beyond it is not. When the text does not reach the limit, when the
+    /// limit is negative, and when it is 0 before a wide character, the result is the columns of the whole text.
     static int getLimitPosition(const QString &strText, int iLimit);
     /// The longest beginning of the text of at most `iLimit` columns, cut between any two UTF-16 units; empty with no
     /// or a negative limit.
