@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""Checks what the documents name against the tree: links, pictures, paths, and the names of the code.
+"""Checks the documents against the tree: the links, pictures, paths and names of the code that they name, and the folders,
+floors and rows of tables that they have to name.
 
 Usage: documents_hold.py SOURCE
 """
@@ -21,6 +22,15 @@ FOREIGN = {
     "DURATION", "CONTENT", "BYTES", "CODE", "VALUE", "paramN", "pkill", "diff", "callgrind", "myatlist", "quikrply",
     "sqlite_autoindex_", "uXXXX",
 }
+# Names that stand in a table of the sources and have to stand in a document as well: the table, how a name is read off it, the
+# document, and how it stands there.
+TOLD = (
+    ("apps/robots/Robots.def", r'^ROBOT\(\w+, +"(\d+)"', "README.md", r"\({}\)"),
+    ("apps/host/Languages.def", r"^LANGUAGE\((\w+),", "docs/gallery.md", r"\b{}\b"),
+    ("apps/host/Languages.def", r"^LANGUAGE\((\w+),", "packaging/share/man/man1/kelvarim-gallery.1", r"\b{}\b"),
+    ("apps/callprocess/Options.cpp", r'^constexpr OptionRow \w+ *\{"([\w-]+)"', "docs/wire-protocol.md", r"^\| `--{}[ `]"),
+    ("fuzz/FuzzTargets.h", r'^    \{"(\w+)", ', "docs/reliability.md", r"^\| `{}` \| "),
+)
 SOURCES = (".cpp", ".h", ".def", ".ui", ".cmake", ".txt", ".map", ".scn", ".py", ".ts", ".in", ".json", "")
 SECTION = re.compile(r"```.*?^```", re.DOTALL | re.MULTILINE)
 LINK = re.compile(r"!?\[[^\]]*\]\(([^)\s]+)\)")
@@ -80,6 +90,32 @@ def complaints_about_names(root, document, words):
                 yield f"{document.name}: {word} of `{code}` is no name of the code"
 
 
+def complaints_about_told(root):
+    """Names of the tables above that their documents lack."""
+    for table, row, document, form in TOLD:
+        names = re.findall(row, (root / table).read_text(), re.MULTILINE)
+        text = (root / document).read_text()
+        if not names:
+            yield f"{table}: no row reads as {row}"
+        for name in names:
+            if not re.search(form.format(name), text, re.MULTILINE):
+                yield f"{pathlib.Path(document).name}: does not tell {name} of {table}"
+
+
+def complaints_about_folders(root):
+    """Folders that docs/architecture.md does not name, and floors that stand in its table otherwise than in CMake."""
+    text = (root / "docs/architecture.md").read_text()
+    for beginning in ("src", "apps", "tests", "src/common", "apps/host"):
+        for folder in sorted((root / beginning).iterdir()):
+            if folder.is_dir() and f"`{folder.relative_to(root)}/`" not in text:
+                yield f"architecture.md: does not name {folder.relative_to(root)}/"
+    listed = re.search(r"foreach\(floor ([\w ]+)\)", (root / "src/CMakeLists.txt").read_text())[1].split()
+    table = re.search(r"\| floor \|.*?\n\n", text, re.DOTALL)[0]
+    told = list(dict.fromkeys(reversed(re.findall(r"^\| .*?`src/(\w+)/`", table, re.MULTILINE))))
+    if told != listed:
+        yield f"architecture.md: the floors are {' '.join(told)}, those of src/CMakeLists.txt {' '.join(listed)}"
+
+
 def main():
     root = pathlib.Path(sys.argv[1]).resolve()
     words = words_of_the_code(root)
@@ -88,6 +124,7 @@ def main():
     for document, targets in reached.items():
         complaints += [f"{document.name}: leads to {target}, which is not there" for target in targets if not target.exists()]
         complaints += complaints_about_names(root, document, words)
+    complaints += [*complaints_about_told(root), *complaints_about_folders(root)]
 
     found, waiting = set(), [root / "README.md"]
     while waiting:

@@ -13,8 +13,8 @@ class HostCatalogue : public QTranslator
 public:
     using QTranslator::QTranslator;
 
-    /// Reads the catalogue of `strLanguage` from `strFolder`: "zh_CN", "zh_TW", or English as "en" or under its older
-    /// name "uk". Any other language, an empty one too, gets "zh_CN". False when the file is missing or damaged; every
+    /// Reads the catalogue of `strLanguage` from `strFolder`: one of Languages.def, or "uk", an older name of "en". Any
+    /// other language, an empty one too, gets the first of the table. False when the file is missing or damaged; every
     /// key then shows as itself.
     bool read(const QString &strFolder, const QString &strLanguage);
 
