@@ -281,10 +281,10 @@ void tst_Replay::runningCallProcessIsAttachedTo()
 {
     QProcess running;
     running.start(QStringLiteral(VOIPSDK_PROGRAM), {"--socket-name", "running", "--speed", "100"});
-    QVERIFY(running.waitForStarted());
+    QVERIFY(running.waitForStarted(kPatienceMs));
     const Outcome outcome = check({"replay", "--attach", "running", scenarioFile(ANSWERED)});
     QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.said));
-    QVERIFY(running.state() == QProcess::NotRunning || running.waitForFinished());
+    QVERIFY(running.state() == QProcess::NotRunning || running.waitForFinished(kPatienceMs));
     QCOMPARE(running.exitCode(), 0);
 }
 

@@ -2,6 +2,7 @@
 #include "MemberPicker.h"
 #include "PressButton.h"
 #include "WindowProbe.h"
+#include "fakes/Patience.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -37,7 +38,7 @@ private:
     static void show(MemberPicker &picker)
     {
         picker.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&picker));
+        QVERIFY(QTest::qWaitForWindowExposed(&picker, kPatienceMs));
     }
     /// Presses the button of the picker that comes up next, as soon as it is there.
     static void pressWhenOpen(const char *button)
