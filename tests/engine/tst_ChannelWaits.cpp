@@ -29,12 +29,12 @@ int millisecondsOf(const timespec *timeout)
 } // namespace
 
 /// Stands before the system's own, by which Qt waits for a socket: on the watched one the time is over at once.
-extern "C" Q_DECL_EXPORT int ppoll(pollfd *fds, nfds_t count, const timespec *timeout, const sigset_t *signals)
+extern "C" Q_DECL_EXPORT int ppoll(pollfd *fds, nfds_t count, const timespec *timeout, const sigset_t *mask)
 {
     static const auto real =
         reinterpret_cast<int (*)(pollfd *, nfds_t, const timespec *, const sigset_t *)>(dlsym(RTLD_NEXT, "ppoll"));
     if (count != 1 || watchedSocket < 0 || fds->fd != watchedSocket)
-        return real(fds, count, timeout, signals);
+        return real(fds, count, timeout, mask);
     const int milliseconds = millisecondsOf(timeout);
     if (milliseconds != 0)
         waits.append(milliseconds);
