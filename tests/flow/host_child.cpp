@@ -1,6 +1,7 @@
 // A client as a process of its own: it loads the built module, opens the user's store and holds one conference after
 // the other until it is ended. It says on standard output what it has done, a line each: "begun" when a conference is
-// placed, "refused" when none could be, "saved" once its end has been recorded. A line on standard input makes it quit.
+// placed, "refused" when none could be, "saved" once its end has been recorded, "unheard" when the call process does
+// not answer any more. A line on standard input makes it quit.
 //
 //   host_child BASE PATIENCE
 //
@@ -55,7 +56,8 @@ void hearOut(FlowClient &client, int iPatienceMs)
 {
     const int before = registrations;
     client.command(MSG_CLIENT_CONNECT_STATUS, true);
-    QTest::qWaitFor([before] { return registrations > before; }, iPatienceMs);
+    if (!QTest::qWaitFor([before] { return registrations > before; }, iPatienceMs))
+        say("unheard");
 }
 
 void holdConference(FlowClient &client, int iPatienceMs)
