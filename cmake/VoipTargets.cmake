@@ -114,7 +114,7 @@ function(voip_add_test name)
   endif()
 endfunction()
 
-# voip_set_test(name [TIMEOUT s] [ENV ...] [LABELS ...]): what is other for one test. The label slow is for the fifteen that
+# voip_set_test(name [TIMEOUT s] [ENV ...] [LABELS ...]): what is other for one test. The label slow is for those that
 # take longest: `./test --quick` leaves them out.
 function(voip_set_test name)
   cmake_parse_arguments(ARG "" "TIMEOUT" "ENV;LABELS" ${ARGN})

@@ -92,7 +92,8 @@ bool provideFile(const QString &folder, const QString &fileName)
     if (QFileInfo::exists(fileName))
         return true;
     QFile file(fileName);
-    return file.open(QIODevice::WriteOnly);
+    // Nothing is cut off what another client puts there at this very moment.
+    return file.open(QIODevice::Append);
 }
 
 // Whether the statement's first row begins with a number other than 0.
@@ -110,7 +111,6 @@ bool findsRow(const QString &statement)
 bool bringUpToDate(bool createAll)
 {
     const StoreOpening opening(DB::m_db);
-    StoreSchema::run(QStringLiteral("PRAGMA synchronous = OFF"));
     if (createAll)
         DB::createTable();
     else
@@ -136,8 +136,7 @@ bool DB::initByUserName(QString userName, QString path, bool createAll)
         return false;
 
     m_db.setDatabaseName(fileName);
-    m_db.setConnectOptions(LockWait::connectOption());
-    if (!m_db.open())
+    if (!LockWait::open(m_db))
         return false;
     const bool bOpen = bringUpToDate(createAll);
     if (!bOpen)

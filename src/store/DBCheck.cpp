@@ -26,38 +26,49 @@ int sqliteCode(const QSqlError &error)
     return error.nativeErrorCode().toInt() & 0xff;
 }
 
-bool quickCheck(QSqlQuery &query)
+bool quickCheck(QSqlQuery &query, LockWait &wait)
 {
-    return query.exec(QStringLiteral("PRAGMA quick_check")) && query.next() &&
+    return wait.execute(query, QStringLiteral("PRAGMA quick_check")) && query.next() &&
            query.value(0).toString() == QLatin1String("ok");
 }
 
-void deleteTrialRow(QSqlQuery &query)
+void deleteTrialRow(QSqlQuery &query, LockWait &wait)
 {
-    query.exec(QStringLiteral("DELETE FROM msgrecord WHERE id = 'checkid'"));
+    wait.execute(query, QStringLiteral("DELETE FROM msgrecord WHERE id = 'checkid'"));
+}
+
+bool insertTrialRow(QSqlQuery &query)
+{
+    if (!query.prepare(QStringLiteral("INSERT INTO msgrecord (id)VALUES (?)")))
+        return false;
+    query.addBindValue(QStringLiteral("checkid"));
+    return query.exec();
 }
 
 bool trialWrite(QSqlQuery &query, LockWait &wait)
 {
-    query.prepare(QStringLiteral("INSERT INTO msgrecord (id)VALUES (?)"));
-    query.addBindValue(QStringLiteral("checkid"));
-    query.exec();
+    wait.execute(query, [&query] { return insertTrialRow(query); });
     const QSqlError error = query.lastError();
     const QString text = error.text();
-    wait.shorten();
     if (error.type() == QSqlError::NoError || text == duplicateText) {
-        deleteTrialRow(query);
+        deleteTrialRow(query, wait);
         return true;
     }
     if (text == malformedText)
         return false;
-    const bool bSound = quickCheck(query);
-    wait.shorten();
+    const bool bSound = quickCheck(query, wait);
     // A row that an earlier check left behind, in the words of this SQLite. Any other constraint's refusal, a trigger's
     // too, has the same code and leads here as well: the id is no message's, so nothing is lost.
     if (sqliteCode(error) == constraintCode)
-        deleteTrialRow(query);
+        deleteTrialRow(query, wait);
     return bSound;
+}
+
+bool isSound(const QSqlDatabase &db, bool quickOnly)
+{
+    LockWait wait(db);
+    QSqlQuery query(db);
+    return quickOnly ? quickCheck(query, wait) : trialWrite(query, wait);
 }
 
 } // namespace
@@ -74,14 +85,10 @@ bool DB::checkDB(QString dir, bool quickOnly)
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), checkConnection);
         db.setDatabaseName(fileName);
-        db.setConnectOptions(LockWait::connectOption());
         // Deliberate: a file that cannot be opened is not reported as damaged.
-        if (!db.open())
+        if (!LockWait::open(db))
             return true;
-        LockWait wait(db);
-        QSqlQuery query(db);
-        bSound = quickOnly ? quickCheck(query) : trialWrite(query, wait);
-        query.clear();
+        bSound = isSound(db, quickOnly);
         db.close();
     }
     QSqlDatabase::removeDatabase(checkConnection);

@@ -1,24 +1,29 @@
 #include "store/LockWait.h"
 
+#include <QElapsedTimer>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QThread>
 
 namespace {
 
 // What Qt's driver gives a statement by default, in milliseconds.
 constexpr int kDriverMs = 5000;
-// A statement that did not wait takes less than this. So short a time is not taken off what is left, because that would
-// cost a statement of its own.
-constexpr int kStepMs = 50;
+// The rests grow: what holds a file for a moment delays no longer than that, what holds it for long is not asked often.
+constexpr int kFirstRestMs = 1;
+constexpr int kLongestRestMs = 32;
 // SQLite's primary result code for a file that another connection has locked; the upper bytes tell details.
 constexpr int kBusyCode = 5;
 constexpr int kPrimaryCodeMask = 0xff;
 
 } // namespace
 
-QString LockWait::connectOption()
+bool LockWait::open(QSqlDatabase &db)
 {
-    return QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(kLimitMs);
+    db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=0"));
+    const bool bOpen = db.open();
+    db.setConnectOptions();
+    return bOpen;
 }
 
 bool LockWait::isLockedOut(const QSqlError &error)
@@ -26,25 +31,32 @@ bool LockWait::isLockedOut(const QSqlError &error)
     return (error.nativeErrorCode().toInt() & kPrimaryCodeMask) == kBusyCode;
 }
 
-LockWait::LockWait(const QSqlDatabase &db) : m_db(db)
+LockWait::LockWait(const QSqlDatabase &db) : m_db(db) {}
+
+bool LockWait::execute(QSqlQuery &query, const QString &statement)
 {
-    m_clock.start();
+    return execute(query, [&query, &statement] { return query.exec(statement); });
 }
 
-void LockWait::shorten()
+bool LockWait::execute(const QSqlQuery &query, const std::function<bool()> &tryOnce)
 {
-    const int left = static_cast<int>(qMax<qint64>(0, kLimitMs - m_clock.elapsed()));
-    if (m_iGiven - left >= kStepMs || (left == 0 && m_iGiven > 0))
-        give(left);
+    for (int iRest = kFirstRestMs; !tryOnce(); iRest = qMin(2 * iRest, kLongestRestMs)) {
+        if (m_iLeft <= 0 || !isLockedOut(query.lastError()))
+            return false;
+        rest(iRest);
+    }
+    return true;
 }
 
 void LockWait::end()
 {
-    give(kDriverMs);
+    QSqlQuery(m_db).exec(QStringLiteral("PRAGMA busy_timeout = %1").arg(kDriverMs));
 }
 
-void LockWait::give(int iMilliseconds)
+void LockWait::rest(int iMilliseconds)
 {
-    QSqlQuery(m_db).exec(QStringLiteral("PRAGMA busy_timeout = %1").arg(iMilliseconds));
-    m_iGiven = iMilliseconds;
+    QElapsedTimer clock;
+    clock.start();
+    QThread::msleep(static_cast<unsigned long>(iMilliseconds));
+    m_iLeft -= qMax<qint64>(iMilliseconds, clock.elapsed());
 }

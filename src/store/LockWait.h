@@ -2,13 +2,17 @@
 
 // Limits how long the statements of one flow wait for locks of other processes, all of them together. SQLite gives each
 // statement a waiting time of its own, so a flow of many over a file that stays locked would keep its thread for
-// minutes. A value for the length of one flow, on the thread of its connection.
+// minutes. Here a statement that meets a lock is tried again, and the rests between the tries are what counts: work
+// that takes long, on a slow disk or over a large file, uses nothing up. A value for the length of one flow, on the
+// thread of its connection.
 
-#include <QElapsedTimer>
 #include <QSqlDatabase>
 #include <QString>
 
+#include <functional>
+
 class QSqlError;
+class QSqlQuery;
 
 class LockWait
 {
@@ -16,24 +20,27 @@ public:
     /// What all statements may wait, in milliseconds.
     static constexpr int kLimitMs = 1800;
 
-    /// What a connection has to be opened with: its first statement may then wait for all of that time.
-    static QString connectOption();
+    /// Opens the connection for such a flow; false when it cannot be opened. Its statements do not wait by themselves
+    /// then, but when it is opened once more by itself, they do.
+    static bool open(QSqlDatabase &db);
     /// Whether the statement failed because another connection has locked the file.
     static bool isLockedOut(const QSqlError &error);
 
-    /// The time begins now. `db` is open, by that option.
+    /// Begins over `db`, which has been opened by open().
     explicit LockWait(const QSqlDatabase &db);
 
-    /// To be called between two statements: leaves the next one what the ones before have not used up, which may be
-    /// nothing. Executes no statement of its own as long as none has waited.
-    void shorten();
+    /// Executes a statement on the connection; whether it ran. One that a lock keeps from it is tried again until what
+    /// all statements together may wait is used up; the error in `query` is the last try's.
+    bool execute(QSqlQuery &query, const QString &statement);
+    /// The same for one that is made ready in some way: `tryOnce` executes `query`, each time from the beginning, and
+    /// returns whether it ran.
+    bool execute(const QSqlQuery &query, const std::function<bool()> &tryOnce);
     /// Gives the connection, for whatever follows, the waiting time of Qt's driver for each statement.
     void end();
 
 private:
-    void give(int iMilliseconds);
+    void rest(int iMilliseconds);
 
     QSqlDatabase m_db;
-    QElapsedTimer m_clock;
-    int m_iGiven = kLimitMs;
+    qint64 m_iLeft = kLimitMs;
 };

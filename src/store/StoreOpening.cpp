@@ -9,6 +9,10 @@ StoreOpening *StoreOpening::s_pCurrent = nullptr;
 StoreOpening::StoreOpening(const QSqlDatabase &db) : m_wait(db)
 {
     s_pCurrent = this;
+    QSqlQuery query(db);
+    // Nothing later would tell that it is missing.
+    if (!execute(query, QStringLiteral("PRAGMA synchronous = OFF")))
+        shutOutBy(query.lastError());
 }
 
 StoreOpening::~StoreOpening()
@@ -29,15 +33,19 @@ bool StoreOpening::execute(QSqlQuery &query, const QString &statement)
     // The schema could not be read, so it is not known what is missing, and nothing is made.
     if (s_pCurrent->m_bShutOut)
         return false;
-    const bool bDone = query.exec(statement);
-    s_pCurrent->m_wait.shorten();
-    return bDone;
+    return s_pCurrent->m_wait.execute(query, statement);
 }
 
 bool StoreOpening::ask(QSqlQuery &query, const QString &statement)
 {
     const bool bDone = execute(query, statement);
-    if (s_pCurrent && !bDone && LockWait::isLockedOut(query.lastError()))
-        s_pCurrent->m_bShutOut = true;
+    if (!bDone)
+        shutOutBy(query.lastError());
     return bDone && query.next();
+}
+
+void StoreOpening::shutOutBy(const QSqlError &error)
+{
+    if (s_pCurrent && LockWait::isLockedOut(error))
+        s_pCurrent->m_bShutOut = true;
 }

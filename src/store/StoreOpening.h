@@ -10,20 +10,22 @@
 #include <QString>
 
 class QSqlDatabase;
+class QSqlError;
 class QSqlQuery;
 
 class StoreOpening
 {
 public:
-    /// Begins over `db`, which has been opened with LockWait::connectOption().
+    /// Begins over `db`, opened by LockWait::open(), with the session's setting: SQLite does not wait for the disk. The
+    /// setting needs the schema as a question does, so a lock that keeps it from being made shuts the opening out.
     explicit StoreOpening(const QSqlDatabase &db);
     /// The session's statements wait again as Qt's driver lets them.
     ~StoreOpening();
     StoreOpening(const StoreOpening &) = delete;
     StoreOpening &operator=(const StoreOpening &) = delete;
 
-    /// Whether an opening is under way in which a lock kept a question about the schema from being answered. None of
-    /// its further statements is executed then.
+    /// Whether there is an opening whose setting or whose question about the schema met a lock that stayed. It goes no
+    /// further then.
     static bool isShutOut();
     /// Executes a statement that changes something; true when it ran. When a lock kept it from running, the opening
     /// goes on.
@@ -32,6 +34,8 @@ public:
     static bool ask(QSqlQuery &query, const QString &statement);
 
 private:
+    static void shutOutBy(const QSqlError &error);
+
     static StoreOpening *s_pCurrent;
 
     LockWait m_wait;

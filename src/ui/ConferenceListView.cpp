@@ -25,8 +25,8 @@ namespace {
 constexpr QSize cRowSize(500, 38);
 constexpr int cTipColumns = 40;
 
-/// A row of whose member nothing is known yet: what all rows begin with, and room for the rest. A copy of it costs less
-/// than a new item to which each role is added.
+/// A row of whose member nothing is known yet, with each role that a row has before it is painted. All rows begin as
+/// copies of it, which cost less than new items to which each role is added.
 class BlankRow : public QStandardItem
 {
 public:

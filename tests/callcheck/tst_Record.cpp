@@ -46,7 +46,7 @@ public:
     ~Recording()
     {
         process.kill();
-        process.waitForFinished();
+        process.waitForFinished(kPatienceMs);
     }
 
     QString played() const { return m_folder.filePath("played.scn"); }
@@ -249,7 +249,7 @@ void tst_Record::closedServerIsRecorded()
     QVERIFY(QTest::qWaitFor([&run] { return run.recorded().endsWith("stop-listen\n"); }, kPatienceMs));
     QLocalSocket refused;
     refused.connectToServer("VoipSDK");
-    QVERIFY2(!refused.waitForConnected(), "the plug-in meets a server where the call process has none");
+    QVERIFY2(!refused.waitForConnected(kPatienceMs), "the plug-in meets a server where the call process has none");
     run.say(commandLine("HangUpCall", {}));
     QVERIFY(run.waitDisconnected());
     QVERIFY(run.connectClient());

@@ -39,9 +39,14 @@ QString scenarioFile(const QByteArray &text)
     return file.fileName();
 }
 
-Outcome replayAgainst(const QByteArray &scenario, const QStringList &callProcess)
+/// How long the checker waits for each step, in seconds: for what comes, and for what never does.
+constexpr int kPatient = kPatienceMs / 1000;
+constexpr int kImpatient = 5;
+
+Outcome replayAgainst(const QByteArray &scenario, const QStringList &callProcess, int iSeconds = kPatient)
 {
-    return check(QStringList{"replay", "--patience", "5", scenarioFile(scenario), "--"} + callProcess);
+    return check(QStringList{"replay", "--patience", QString::number(iSeconds), scenarioFile(scenario), "--"} +
+                 callProcess);
 }
 
 QStringList standIn(const QStringList &options = {"--speed", "100"})
@@ -122,22 +127,23 @@ void tst_Replay::whatIsNotAsRecordedIsTold_data()
     QTest::addColumn<QByteArray>("instead");
     QTest::addColumn<QByteArray>("of");
     QTest::addColumn<QString>("told");
+    QTest::addColumn<int>("seconds");
     QTest::newRow("code") << QByteArray("send 22") << QByteArray("send 18")
-                          << QString("run.scn:6: expected 22 (PeerBusy), got 18 (CallConnected)");
+                          << QString("run.scn:6: expected 22 (PeerBusy), got 18 (CallConnected)") << kPatient;
     QTest::newRow("content") << QByteArray("17 false") << QByteArray("17 true")
-                             << QString("run.scn:2: expected 17 (SdkFlag) false, got 17 (SdkFlag) true");
+                             << QString("run.scn:2: expected 17 (SdkFlag) false, got 17 (SdkFlag) true") << kPatient;
     QTest::newRow("called user") << QByteArray("param1=30010002") << QByteArray("param1=30010001")
-                                 << QString("run.scn:6: expected 18 (CallConnected), got 22 (PeerBusy)");
+                                 << QString("run.scn:6: expected 18 (CallConnected), got 22 (PeerBusy)") << kPatient;
     QTest::newRow("one more") << QByteArray("send 18\nsend 8") << QByteArray("send 18")
-                              << QString("run.scn:7: expected 8 (PeerHangup), got nothing for 5000 ms");
+                              << QString("run.scn:7: expected 8 (PeerHangup), got nothing for 5000 ms") << kImpatient;
     QTest::newRow("drop") << QByteArray("drop") << QByteArray("send 18")
-                          << QString("run.scn:6: the connection is not closed");
+                          << QString("run.scn:6: the connection is not closed") << kImpatient;
     QTest::newRow("death") << QByteArray("die") << QByteArray("send 18")
-                           << QString("run.scn:6: expected the call process to die, it lives");
+                           << QString("run.scn:6: expected the call process to die, it lives") << kImpatient;
     QTest::newRow("end") << QByteArray("end") << QByteArray("send 18")
-                         << QString("run.scn:6: expected the call process to end by itself, it lives");
+                         << QString("run.scn:6: expected the call process to end by itself, it lives") << kImpatient;
     QTest::newRow("server") << QByteArray("stop-listen") << QByteArray("send 18")
-                            << QString("run.scn:6: the call process still listens");
+                            << QString("run.scn:6: the call process still listens") << kImpatient;
 }
 
 void tst_Replay::whatIsNotAsRecordedIsTold()
@@ -145,7 +151,8 @@ void tst_Replay::whatIsNotAsRecordedIsTold()
     QFETCH(QByteArray, instead);
     QFETCH(QByteArray, of);
     QFETCH(QString, told);
-    const Outcome outcome = replayAgainst(QByteArray(ANSWERED).replace(of, instead), standIn());
+    QFETCH(int, seconds);
+    const Outcome outcome = replayAgainst(QByteArray(ANSWERED).replace(of, instead), standIn(), seconds);
     QCOMPARE(outcome.exitCode, 3);
     QVERIFY2(outcome.said.contains(told), qPrintable(outcome.said));
 }
@@ -281,10 +288,10 @@ void tst_Replay::runningCallProcessIsAttachedTo()
 {
     QProcess running;
     running.start(QStringLiteral(VOIPSDK_PROGRAM), {"--socket-name", "running", "--speed", "100"});
-    QVERIFY(running.waitForStarted());
+    QVERIFY(running.waitForStarted(kPatienceMs));
     const Outcome outcome = check({"replay", "--attach", "running", scenarioFile(ANSWERED)});
     QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.said));
-    QVERIFY(running.state() == QProcess::NotRunning || running.waitForFinished());
+    QVERIFY(running.state() == QProcess::NotRunning || running.waitForFinished(kPatienceMs));
     QCOMPARE(running.exitCode(), 0);
 }
 

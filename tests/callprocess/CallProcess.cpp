@@ -1,4 +1,5 @@
 #include "callprocess/CallProcess.h"
+#include "fakes/Patience.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -15,14 +16,14 @@ CallProcess::~CallProcess()
 {
     if (m_process.state() != QProcess::NotRunning) {
         m_process.kill();
-        m_process.waitForFinished();
+        m_process.waitForFinished(kPatienceMs);
     }
 }
 
 void CallProcess::start(const QStringList &options)
 {
     m_process.start(QStringLiteral(VOIPSDK_PROGRAM), QStringList{QStringLiteral("--trace"), m_tracePath} + options);
-    m_process.waitForStarted();
+    m_process.waitForStarted(kPatienceMs);
 }
 
 void CallProcess::startScenario(const QByteArray &text, const QStringList &options)

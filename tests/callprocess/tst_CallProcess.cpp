@@ -1,4 +1,5 @@
 #include "callprocess/CallProcess.h"
+#include "fakes/Patience.h"
 
 #include <QtTest>
 
@@ -80,7 +81,7 @@ void tst_CallProcess::staleSocketFileIsTakenOver()
     killed.start();
     QVERIFY(killed.connectClient());
     killed.process().kill();
-    QVERIFY(killed.process().waitForFinished());
+    QVERIFY(killed.process().waitForFinished(kPatienceMs));
     QVERIFY(QFile::exists(CallProcess::socketPath()));
 
     CallProcess peer;
@@ -124,7 +125,7 @@ void tst_CallProcess::manyAtOnceLeaveOneAlive()
     killed.start();
     QVERIFY(killed.connectClient());
     killed.process().kill();
-    QVERIFY(killed.process().waitForFinished());
+    QVERIFY(killed.process().waitForFinished(kPatienceMs));
 
     std::array<CallProcess, 6> peers;
     for (CallProcess &peer : peers) {
@@ -187,7 +188,7 @@ void tst_CallProcess::reconnectingClientReplacesTheOldOne()
     QVERIFY(peer.startRegistered());
     QLocalSocket newcomer;
     newcomer.connectToServer(QStringLiteral("VoipSDK"));
-    QVERIFY(newcomer.waitForConnected());
+    QVERIFY(newcomer.waitForConnected(kPatienceMs));
     QVERIFY(peer.waitDisconnected());
     newcomer.write("{\"messagetype\":\"CallUser\",\"param1\":\"30010002\",\"param2\":false}\n");
     QVERIFY(newcomer.waitForReadyRead(CallProcess::WAIT_MS));
@@ -265,7 +266,7 @@ void tst_CallProcess::socketNameCanBeChosen()
     QVERIFY(other.waitTrace(QStringLiteral("= listening at %1").arg(QDir::tempPath() + QStringLiteral("/Other"))));
     QLocalSocket client;
     client.connectToServer(QStringLiteral("Other"));
-    QVERIFY(client.waitForConnected());
+    QVERIFY(client.waitForConnected(kPatienceMs));
 }
 
 void tst_CallProcess::helpIsPrinted()

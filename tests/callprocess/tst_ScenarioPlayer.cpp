@@ -2,6 +2,7 @@
 
 #include "callprocess/CallProcess.h"
 #include "callprocess/Wire.h"
+#include "fakes/Patience.h"
 
 #include <QtTest>
 
@@ -241,11 +242,11 @@ void tst_ScenarioPlayer::stopListenRefusesUntilRestart()
     QVERIFY(!QFile::exists(CallProcess::socketPath()));
     QLocalSocket other;
     other.connectToServer(QStringLiteral("VoipSDK"));
-    QVERIFY(!other.waitForConnected());
+    QVERIFY(!other.waitForConnected(kPatienceMs));
     peer.command(QStringLiteral("HangUpCall"));
     QCOMPARE(peer.nextNotification(), QStringLiteral("8"));
     other.connectToServer(QStringLiteral("VoipSDK"));
-    QVERIFY(other.waitForConnected());
+    QVERIFY(other.waitForConnected(kPatienceMs));
 }
 
 void tst_ScenarioPlayer::playedScenarioServesOnUntilQuit()

@@ -2,6 +2,7 @@
 
 #include "ConferenceWalk.h"
 
+#include "fakes/Patience.h"
 #include "model/VcardInfo.h"
 
 #include <QTest>
@@ -199,7 +200,7 @@ void ConferenceWalk::loseChannel()
 {
     if (engine.manager->m_bSocketConnected) {
         engine.process.dropClient();
-        QTRY_VERIFY(!engine.manager->m_bSocketConnected);
+        QTRY_VERIFY_WITH_TIMEOUT(!engine.manager->m_bSocketConnected, kPatienceMs);
         // The reconnection comes when the walk says so.
         engine.manager->m_reconnectTimer.stop();
     } else {

@@ -1,6 +1,7 @@
 // The end of a call: its result, its record, and the order of what goes out, whoever ends it.
 
 #include "fakes/EngineFixture.h"
+#include "fakes/Patience.h"
 #include "ui/VoipWidget.h"
 #include "widgets/PushButtonEx.h"
 
@@ -288,12 +289,12 @@ void tst_CallEnd::inviteTimeoutEndsTheCall()
     QVERIFY(f.manager->m_pVoipWidget->isVisible());
     // The timer itself, not its slot.
     f.manager->m_inviteTimer.start(0);
-    QTRY_VERIFY(!f.manager->isExistCall());
+    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), kPatienceMs);
     QVERIFY(!f.manager->m_inviteTimer.isActive());
     QVERIFY(!f.manager->m_pVoipWidget->isVisible());
     f.notify(0, "bert");
     f.manager->m_recevieTimer.start(0);
-    QTRY_VERIFY(!f.manager->isExistCall());
+    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), kPatienceMs);
     QVERIFY(!f.manager->m_recevieTimer.isActive());
 }
 

@@ -2,6 +2,7 @@
 // script that writes down how it was started.
 
 #include "fakes/EngineFixture.h"
+#include "fakes/Patience.h"
 #include "fakes/QtMessages.h"
 
 #include <QCoreApplication>
@@ -24,7 +25,7 @@ void tst_CallProcessStart::startsWithoutArgumentsInTheHostsFolder()
 {
     const QtMessages messages;
     EngineFixture f(EngineFixture::NoCallProcess);
-    QTRY_VERIFY(QFile::exists("started"));
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists("started"), kPatienceMs);
     QFile started("started");
     QVERIFY(started.open(QIODevice::ReadOnly));
     QCOMPARE(QString::fromUtf8(started.readAll()), "0 " + QDir::currentPath() + "\n");

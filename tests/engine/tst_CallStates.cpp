@@ -1,6 +1,7 @@
 // Every event in every state of a single call: what goes out, and what state follows.
 
 #include "fakes/EngineFixture.h"
+#include "fakes/Patience.h"
 #include "ui/VoipWidget.h"
 
 #include <QLabel>
@@ -227,7 +228,7 @@ void tst_CallStates::socketLossLeavesTheCall()
     const auto *clock = f.manager->m_pVoipWidget->findChild<QTimer *>("m_callTimeTimer");
     QVERIFY(!f.manager->m_reconnectTimer.isActive());
     f.process.close();
-    QTRY_VERIFY(!f.manager->m_bSocketConnected);
+    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
     QCOMPARE(f.state(), stateAfter);
     QCOMPARE(f.manager->m_pVoipWidget->isVisible(), shown);
     QCOMPARE(clock->isActive(), state == "Connected");
@@ -241,7 +242,7 @@ void tst_CallStates::hangUpAfterSocketLossEndsTheCallWithoutALine()
     EngineFixture f;
     enter(f, "Connected");
     f.process.close();
-    QTRY_VERIFY(!f.manager->m_bSocketConnected);
+    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
     f.manager->hangupVoipCall();
     QCOMPARE(f.takeJournal(), QStringList({"4345 anna@kelvar.im", "4478 false anna 24 true true"}));
     QCOMPARE(f.state(), kIdle);

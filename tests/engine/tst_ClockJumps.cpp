@@ -3,6 +3,7 @@
 
 #include "common/CustomLogger.h"
 #include "engine/RecordedEngine.h"
+#include "fakes/Patience.h"
 #include "fakes/ShiftedClock.h"
 #include "ui/VoiceConferenceWidget.h"
 #include "ui/VoipWidget.h"
@@ -232,7 +233,7 @@ void tst_ClockJumps::lostChannelIsFoundAgainAfterTheSleep()
     becomeConnected(f);
     f.manager->m_strRegValue = f.login.m_strRegValue;
     f.process.close();
-    QTRY_VERIFY(f.manager->m_reconnectTimer.isActive());
+    QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_reconnectTimer.isActive(), kPatienceMs);
     f.process.open();
     f.takeJournal();
     sleepAnHour();
@@ -252,7 +253,7 @@ void tst_ClockJumps::allTimersAtOnceEndTheCallAndBringTheChannelBack()
     f.manager->callConference({QStringLiteral("anna"), QStringLiteral("bert")}, false, QString());
     f.notify(0, QStringLiteral("carl"));
     f.process.close();
-    QTRY_VERIFY(f.manager->m_reconnectTimer.isActive());
+    QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_reconnectTimer.isActive(), kPatienceMs);
     f.process.open();
     QVERIFY(f.manager->m_inviteTimer.isActive());
     QVERIFY(f.manager->m_recevieTimer.isActive());

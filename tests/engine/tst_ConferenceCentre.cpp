@@ -1,6 +1,7 @@
 // The conference centre in the engine's hands: opened, fed, closed and opened again, over the user's store.
 
 #include "engine/RecordedEngine.h"
+#include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "plugin/EMsgId.h"
 #include "store/DBConfInfo.h"
@@ -52,7 +53,7 @@ private:
     {
         f.manager->showVoiceConf();
         QVERIFY(f.manager->m_pVoiceConfWidget);
-        QVERIFY(QTest::qWaitForWindowExposed(f.manager->m_pVoiceConfWidget));
+        QVERIFY(QTest::qWaitForWindowExposed(f.manager->m_pVoiceConfWidget, kPatienceMs));
     }
     /// Right click on the row, then a click on the menu's entry.
     static void choose(const RecordedEngine &f, int row, int entry)
@@ -62,7 +63,7 @@ private:
         QCursor::setPos(pList->viewport()->mapToGlobal(place));
         QTest::mouseClick(pList->viewport(), Qt::RightButton, Qt::NoModifier, place);
         auto *pMenu = pList->findChild<CMenuEx *>();
-        QVERIFY(QTest::qWaitForWindowExposed(pMenu));
+        QVERIFY(QTest::qWaitForWindowExposed(pMenu, kPatienceMs));
         QTest::mouseClick(pMenu, Qt::LeftButton, Qt::NoModifier,
                           pMenu->actionGeometry(pMenu->actions().at(entry)).center());
     }
@@ -125,12 +126,12 @@ void tst_ConferenceCentre::openedCentreIsTheActiveWindow()
 {
     RecordedEngine f;
     open(f);
-    QVERIFY(QTest::qWaitForWindowActive(f.manager->m_pVoiceConfWidget));
+    QVERIFY(QTest::qWaitForWindowActive(f.manager->m_pVoiceConfWidget, kPatienceMs));
     QWidget other;
     other.show();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(QTest::qWaitForWindowActive(&other, kPatienceMs));
     f.manager->showVoiceConf();
-    QVERIFY(QTest::qWaitForWindowActive(f.manager->m_pVoiceConfWidget));
+    QVERIFY(QTest::qWaitForWindowActive(f.manager->m_pVoiceConfWidget, kPatienceMs));
 }
 
 void tst_ConferenceCentre::endedConferenceComesOnTop()

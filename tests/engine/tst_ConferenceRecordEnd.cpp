@@ -1,6 +1,7 @@
 // When a conference is recorded: once, at its end, whoever ends it and however.
 
 #include "RecordedConference.h"
+#include "fakes/Patience.h"
 #include "store/DBConfInfo.h"
 #include "ui/VoipWidget.h"
 
@@ -59,17 +60,17 @@ const QList<End> &ends()
         {"the invite timer", Creator, BeforeTheConnection,
          [](RecordedEngine &f) {
              f.manager->m_inviteTimer.start(0);
-             QTRY_VERIFY(!f.manager->m_inviteTimer.isActive());
+             QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_inviteTimer.isActive(), kPatienceMs);
          }},
         {"the receive timer", Invited, BeforeTheConnection,
          [](RecordedEngine &f) {
              f.manager->m_recevieTimer.start(0);
-             QTRY_VERIFY(!f.manager->m_recevieTimer.isActive());
+             QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_recevieTimer.isActive(), kPatienceMs);
          }},
         {"hung up after the socket was lost", Both, AnyTime,
          [](RecordedEngine &f) {
              f.process.close();
-             QTRY_VERIFY(!f.manager->m_bSocketConnected);
+             QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
              QCOMPARE(f.count(), 0);
              QVERIFY(f.manager->isExistCall());
              f.manager->hangupVoipCall();

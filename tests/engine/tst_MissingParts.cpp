@@ -2,6 +2,7 @@
 // its own lines are handled.
 
 #include "fakes/EngineFixture.h"
+#include "fakes/Patience.h"
 #include "fakes/QtMessages.h"
 #include "plugin/EMsgId.h"
 #include "ui/VoipWidget.h"
@@ -62,7 +63,7 @@ void tst_MissingParts::exitWhileALineIsHandledEndsTheReading()
             f.manager->exitVoip();
     };
     f.process.send(FakeCallProcess::line(0, "bert") + FakeCallProcess::line(5, "bert"));
-    QTRY_VERIFY(f.manager->m_pVoipSocket == nullptr);
+    QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_pVoipSocket == nullptr, kPatienceMs);
     EngineFixture::deliverPosted();
     QVERIFY(!f.manager->m_bSocketConnected);
 }

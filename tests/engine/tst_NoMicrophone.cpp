@@ -1,6 +1,7 @@
 // A machine without any audio input. This test's program stands in a folder whose qt.conf hides the audio plug-ins.
 
 #include "fakes/EngineFixture.h"
+#include "fakes/Patience.h"
 #include "ui/VoipWidget.h"
 
 #include <QAudioDeviceInfo>
@@ -132,7 +133,7 @@ void tst_NoMicrophone::socketLinesAreHandledWhileTheMessageIsOpen()
     bool endedWhileOpen = false;
     f.boxes.whileOpen = [&] {
         f.process.send(FakeCallProcess::line(4));
-        QTRY_VERIFY(!f.manager->isExistCall());
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), kPatienceMs);
         endedWhileOpen = true;
     };
     f.manager->responseVoipRequest(true);

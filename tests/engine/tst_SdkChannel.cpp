@@ -2,6 +2,7 @@
 
 #include "ReadLines.h"
 #include "fakes/EngineFixture.h"
+#include "fakes/Patience.h"
 #include "fakes/QtMessages.h"
 
 #include <QCoreApplication>
@@ -110,7 +111,7 @@ void tst_SdkChannel::connectAfterSevenFailuresMakesTheNextLossWaitOneSecond()
     QCOMPARE(f.manager->m_nReconnectCount, Q_INT64_C(0));
     QVERIFY(!f.manager->m_reconnectTimer.isActive());
     f.process.close();
-    QTRY_VERIFY(f.manager->m_reconnectTimer.isActive());
+    QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_reconnectTimer.isActive(), kPatienceMs);
     QCOMPARE(f.manager->m_reconnectTimer.interval(), 1000);
 }
 
@@ -120,7 +121,7 @@ void tst_SdkChannel::timerOfTheBackOffReconnects()
     f.process.open();
     // The timer itself, not its slot.
     f.manager->m_reconnectTimer.start(0);
-    QTRY_VERIFY(f.manager->m_bSocketConnected);
+    QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_bSocketConnected, kPatienceMs);
     QVERIFY(!f.manager->m_reconnectTimer.isActive());
 }
 
@@ -146,7 +147,7 @@ void tst_SdkChannel::reconnectStopsTheTimerAndUsesTheSameSocket()
     // One connection of the signal, not one for each attempt.
     const QtMessages messages;
     f.process.send(FakeCallProcess::line(999, "once"));
-    QTRY_COMPARE(deliveredPayloads(messages), QStringList{"once"});
+    QTRY_COMPARE_WITH_TIMEOUT(deliveredPayloads(messages), QStringList{"once"}, kPatienceMs);
 }
 
 void tst_SdkChannel::connectingAgainKeepsTheConnectionAndRegistersAgain()

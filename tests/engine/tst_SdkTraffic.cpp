@@ -3,6 +3,7 @@
 
 #include "ReadLines.h"
 #include "fakes/EngineFixture.h"
+#include "fakes/Patience.h"
 #include "fakes/QtMessages.h"
 
 #include <QEventLoop>
@@ -93,7 +94,7 @@ void tst_SdkTraffic::lostConnectionIsRegisteredAgain()
     const QStringList registration{"RegeditUser \"me\" \"Nick\" \"ticket\" false"};
     QCOMPARE(f.takeLines(), registration);
     f.process.dropClient();
-    QTRY_VERIFY(!f.manager->m_bSocketConnected);
+    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
     f.manager->slot_ReConnectVoipSDK();
     QVERIFY(f.manager->m_bSocketConnected);
     QCOMPARE(f.takeLines(), registration);
@@ -108,7 +109,7 @@ void tst_SdkTraffic::unregisteringKeepsTheUserForTheNextConnect()
     QCOMPARE(f.takeLines(), QStringList({registration, "UnReg \"me\""}));
     QCOMPARE(f.manager->m_strUserId, QString("me"));
     f.process.dropClient();
-    QTRY_VERIFY(!f.manager->m_bSocketConnected);
+    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
     f.manager->slot_ReConnectVoipSDK();
     QCOMPARE(f.takeLines(), QStringList{registration});
 }
@@ -120,7 +121,7 @@ void tst_SdkTraffic::nothingElseIsReplayedAfterAReconnect()
     f.manager->callSingleUser("anna", false);
     f.takeLines();
     f.process.dropClient();
-    QTRY_VERIFY(!f.manager->m_bSocketConnected);
+    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
     f.manager->slot_SetMicEnable(false);
     f.manager->slot_ReConnectVoipSDK();
     QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"me\" \"Nick\" \"ticket\" false"});
@@ -153,7 +154,7 @@ void tst_SdkTraffic::linesOfOneReadAreDelivered()
     EngineFixture f;
     const QtMessages messages;
     f.process.send(bytes);
-    QTRY_COMPARE(readCount(messages), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, kPatienceMs);
     QTEST(deliveredPayloads(messages), "payloads");
     QCOMPARE(messages.warnings, QStringList());
 }
@@ -164,9 +165,9 @@ void tst_SdkTraffic::lineSplitOverTwoReadsIsLost()
     const QtMessages messages;
     const QByteArray split = line(999, "split in the middle");
     f.process.send(split.left(20));
-    QTRY_COMPARE(readCount(messages), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, kPatienceMs);
     f.process.send(split.mid(20) + line(999, "next"));
-    QTRY_COMPARE(readCount(messages), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, kPatienceMs);
     QCOMPARE(deliveredPayloads(messages), QStringList{"next"});
 }
 
@@ -176,9 +177,9 @@ void tst_SdkTraffic::nulByteHidesTheRestOfTheReadOnly()
     const QtMessages messages;
     // The line feed behind the byte would give the next line a clean start.
     f.process.send(line(999, "before") + '\0' + '\n' + line(999, "behind"));
-    QTRY_COMPARE(readCount(messages), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, kPatienceMs);
     f.process.send(line(999, "later"));
-    QTRY_COMPARE(readCount(messages), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, kPatienceMs);
     QCOMPARE(deliveredPayloads(messages), QStringList({"before", "later"}));
 }
 
@@ -219,8 +220,8 @@ void tst_SdkTraffic::bytesThatComeDuringAnEventLoopInAHandlerAreHandled()
             loop.processEvents(QEventLoop::WaitForMoreEvents);
     };
     f.process.send(line(0, "bert"));
-    QTRY_VERIFY(!f.manager->m_callData.peerId.isEmpty());
-    QTRY_VERIFY(f.manager->m_callData.bIsConnected);
+    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_callData.peerId.isEmpty(), kPatienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_callData.bIsConnected, kPatienceMs);
     QVERIFY(!f.manager->m_recevieTimer.isActive());
 }
 
@@ -230,7 +231,8 @@ void tst_SdkTraffic::readIsWrittenToTheDebugLog()
     const QtMessages messages;
     const QByteArray bytes = line(998, QStringLiteral("呼叫"));
     f.process.send(bytes);
-    QTRY_COMPARE(messages.debugLines, QStringList{QStringLiteral("Voip返回数据") + QString::fromUtf8(bytes)});
+    QTRY_COMPARE_WITH_TIMEOUT(messages.debugLines,
+                              QStringList{QStringLiteral("Voip返回数据") + QString::fromUtf8(bytes)}, kPatienceMs);
 }
 
 void tst_SdkTraffic::readOfNothingIsNotWrittenToTheDebugLog()
@@ -247,7 +249,7 @@ void tst_SdkTraffic::writeToALostSocketIsLost()
 {
     EngineFixture f;
     f.process.dropClient();
-    QTRY_VERIFY(!f.manager->m_bSocketConnected);
+    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
     const QtMessages messages;
     // Accepting is the one command that is sent without a look at the channel.
     f.manager->acceptVoipCall();

@@ -1,6 +1,7 @@
 #include "fakes/LogCapture.h"
 
 #include "common/CLogManger.h"
+#include "fakes/Patience.h"
 #include "model/SharedContext.h"
 
 #include <QFile>
@@ -49,7 +50,7 @@ QStringList LogCapture::take()
     const QString mark = QStringLiteral("take %1").arg(++m_takeCount);
     m_thread.printLog(CustomLog::Debug, QString(), mark);
     const QString lastLine = QStringLiteral("]: ") + mark + QLatin1Char('\n');
-    if (!QTest::qWaitFor([this, &lastLine] { return written().endsWith(lastLine); })) {
+    if (!QTest::qWaitFor([this, &lastLine] { return written().endsWith(lastLine); }, kPatienceMs)) {
         return {QStringLiteral("the log writer does not write")};
     }
     QStringList lines = written().split(QLatin1Char('\n'), Qt::SkipEmptyParts);

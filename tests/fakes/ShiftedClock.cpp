@@ -17,6 +17,9 @@ std::atomic<int64_t> timeOfDayShift{0};
 std::atomic<int64_t> timerShift{0};
 /// The second at which the time of day stands; 0 while it goes.
 std::atomic<int64_t> heldSecond{0};
+/// Where the clock of the timers stands, in nanoseconds; 0 while it goes.
+std::atomic<int64_t> heldNanoseconds{0};
+constexpr int64_t kNanosecondsOfSecond = 1000000000;
 
 int readClock(clockid_t clock, timespec *time)
 {
@@ -38,6 +41,8 @@ int readShifted(clockid_t clock, timespec *time)
 {
     const int result = readClock(clock, time);
     if (isTimerClock(clock)) {
+        if (const int64_t held = heldNanoseconds; held != 0)
+            *time = {held / kNanosecondsOfSecond, held % kNanosecondsOfSecond};
         time->tv_sec += timerShift;
     } else if (isTimeOfDay(clock)) {
         if (heldSecond != 0)
@@ -68,11 +73,19 @@ void ShiftedClock::reset()
     timeOfDayShift = 0;
     timerShift = 0;
     heldSecond = 0;
+    heldNanoseconds = 0;
 }
 
 void ShiftedClock::holdTimeOfDay()
 {
     heldSecond = kNoon;
+}
+
+void ShiftedClock::holdTimers()
+{
+    timespec now{};
+    readClock(CLOCK_MONOTONIC, &now);
+    heldNanoseconds = now.tv_sec * kNanosecondsOfSecond + now.tv_nsec;
 }
 
 void ShiftedClock::setTimeOfDay(int64_t iSeconds)

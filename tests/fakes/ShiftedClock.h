@@ -14,6 +14,9 @@ void reset();
 /// Lets the time of day stand still at noon (UTC), so that a test can compare to the second.
 void holdTimeOfDay();
 
+/// Lets the clock of the timers stand still where it is: spans that are measured by it are of no length.
+void holdTimers();
+
 /// The time of day goes that much forward, or back; what timers run by stays as it is.
 void setTimeOfDay(int64_t iSeconds);
 

@@ -50,7 +50,7 @@ HostWorld::HostWorld()
 HostWorld::~HostWorld()
 {
     m_callProcess.kill();
-    m_callProcess.waitForFinished();
+    m_callProcess.waitForFinished(kPatienceMs);
 }
 
 std::unique_ptr<QProcess> HostWorld::startHost(int iPatienceMs) const

@@ -1,6 +1,7 @@
 // A client as a process of its own: it loads the built module, opens the user's store and holds one conference after
 // the other until it is ended. It says on standard output what it has done, a line each: "begun" when a conference is
-// placed, "refused" when none could be, "saved" once its end has been recorded. A line on standard input makes it quit.
+// placed, "refused" when none could be, "saved" once its end has been recorded, "unheard" when the call process does
+// not answer any more. A line on standard input makes it quit.
 //
 //   host_child BASE PATIENCE
 //
@@ -26,6 +27,14 @@ namespace {
 
 constexpr int kRetryMs = 50;
 
+// How often the call process has told that it knows this user.
+int registrations = 0;
+
+void countRegistrations(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    registrations += text.startsWith(QStringLiteral("voipsdk:registered")) ? 1 : 0;
+}
+
 void say(const char *line)
 {
     std::puts(line);
@@ -41,6 +50,16 @@ bool areMembersConnected(const FlowClient &client)
     return connected == 2;
 }
 
+/// Lets all come that the call process has said by now. Until a conference has its id it takes what comes as its own,
+/// and that may be what was said in the one before.
+void hearOut(FlowClient &client, int iPatienceMs)
+{
+    const int before = registrations;
+    client.command(MSG_CLIENT_CONNECT_STATUS, true);
+    if (!QTest::qWaitFor([before] { return registrations > before; }, iPatienceMs))
+        say("unheard");
+}
+
 void holdConference(FlowClient &client, int iPatienceMs)
 {
     client.command(MSG_CALL_CONFERENCE, QStringList{QStringLiteral("30010001"), QStringLiteral("30010006")},
@@ -53,6 +72,7 @@ void holdConference(FlowClient &client, int iPatienceMs)
     say("begun");
     const bool connected = QTest::qWaitFor([&] { return areMembersConnected(client); }, iPatienceMs);
     client.callWindow()->close();
+    hearOut(client, iPatienceMs);
     say(connected ? "saved" : "saved unconnected");
 }
 
@@ -62,6 +82,7 @@ int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    qInstallMessageHandler(countRegistrations);
     FlowClient client("1000");
     SharedContext::setCommonData(&client.context());
     if (argc != 3 || !DB::initByUserName(QStringLiteral("30010000"), QString::fromLocal8Bit(argv[1]), true) ||

@@ -2,6 +2,7 @@
 // every record in it is whole, and whatever was reported as saved is there. VOIP_HOST_KILLS sets how often (50),
 // VOIP_SEED the sequence (1).
 
+#include "fakes/Patience.h"
 #include "flow/HostProcess.h"
 
 #include <QRandomGenerator>
@@ -38,7 +39,7 @@ void tst_HostKilled::storeIsSoundAndEveryRecordWhole()
         // A conference takes some 30 ms from its begin to the next one's.
         QThread::usleep(random.bounded(40000U));
         host->kill();
-        QVERIFY(host->waitForFinished());
+        QVERIFY(host->waitForFinished(kPatienceMs));
         readRest(*host, &said);
         begun += said.count("begun");
         saved += said.count("saved");

@@ -2,6 +2,7 @@
 // connection; the other one finds its channel lost, comes back by its back-off and takes the channel in its turn. Calls
 // suffer, as they must; the store does not, and neither client ends.
 
+#include "fakes/Patience.h"
 #include "flow/HostProcess.h"
 
 #include <QtTest>
@@ -31,7 +32,7 @@ void tst_TwoClients::channelChangesHandsAndTheStoreKeepsAllRecords()
 
     for (QProcess *host : {first.get(), second.get()}) {
         host->write("quit\n");
-        QVERIFY(host->waitForFinished());
+        QVERIFY(host->waitForFinished(kPatienceMs));
         QCOMPARE(host->exitStatus(), QProcess::NormalExit);
         QCOMPARE(host->exitCode(), 0);
     }

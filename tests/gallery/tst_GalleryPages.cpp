@@ -9,6 +9,7 @@
 #include "WidgetsPage.h"
 
 #include "common/pictures/IconGlyphs.h"
+#include "fakes/Patience.h"
 #include "model/AvatarFiles.h"
 #include "widgets/BaseFormEx.h"
 #include "widgets/ErrorMessage.h"
@@ -130,7 +131,7 @@ void tst_GalleryPages::bandIsAWindowWhereTheMouseDrawsIt()
     const GalleryUser user;
     WidgetsPage page;
     page.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QVERIFY(QTest::qWaitForWindowExposed(&page, kPatienceMs));
     QWidget *pField = nullptr;
     for (QLabel *pLabel : page.findChildren<QLabel *>())
         if (pLabel->text() == QStringLiteral("drag here"))
@@ -183,7 +184,7 @@ void tst_GalleryPages::everyModeOpensByItsButton()
     QFETCH(int, index);
     DialogsPage page;
     page.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QVERIFY(QTest::qWaitForWindowExposed(&page, kPatienceMs));
     const QList<PushButtonEx *> buttons = openButtons(page);
     QCOMPARE(buttons.size(), DialogModes::all().size());
 
@@ -195,16 +196,16 @@ void tst_GalleryPages::everyModeOpensByItsButton()
         }
     });
     QTest::mouseClick(buttons.at(index)->findChild<QPushButton *>(), Qt::LeftButton);
-    QTRY_VERIFY(!shown.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!shown.isEmpty(), kPatienceMs);
     QTEST(shown, "page");
-    QTRY_VERIFY(page.findChild<ErrorMessage *>() == nullptr);
+    QTRY_VERIFY_WITH_TIMEOUT(page.findChild<ErrorMessage *>() == nullptr, kPatienceMs);
 }
 
 void tst_GalleryPages::answerOfTheDialogIsShown()
 {
     DialogsPage page;
     page.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QVERIFY(QTest::qWaitForWindowExposed(&page, kPatienceMs));
     QTimer::singleShot(0, &page, [&] {
         auto *dialog = page.findChild<ErrorMessage *>();
         emit dialog->findChild<PushButtonEx *>(QStringLiteral("acceptBtn"))->clicked();

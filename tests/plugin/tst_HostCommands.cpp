@@ -4,6 +4,7 @@
 #include "engine/VoipManage.h"
 #include "fakes/FakeHost.h"
 #include "fakes/LogCapture.h"
+#include "fakes/Patience.h"
 #include "model/LoginData.h"
 #include "plugin/EventPayload.h"
 #include "plugin/HostCommands.h"
@@ -120,7 +121,7 @@ void tst_HostCommands::initTestCase()
     VoipManageMessageProcess::instance()->setSendEvent(&m_host);
     // The first command creates the manager and its link, so that each test finds both, whichever is chosen.
     query(MSG_IS_EXIST_CALL, QByteArray());
-    QTRY_VERIFY(m_server.hasPendingConnections());
+    QTRY_VERIFY_WITH_TIMEOUT(m_server.hasPendingConnections(), kPatienceMs);
     m_link = m_server.nextPendingConnection();
 }
 
@@ -158,15 +159,17 @@ QByteArray tst_HostCommands::query(EMsgId msgId, const QByteArray &payload)
 QJsonObject tst_HostCommands::nextLine(const QString &messageType)
 {
     QJsonObject found;
-    const bool came = QTest::qWaitFor([&] {
-        while (m_link->canReadLine()) {
-            found = QJsonDocument::fromJson(m_link->readLine()).object();
-            if (found.value(QStringLiteral("messagetype")).toString() == messageType) {
-                return true;
+    const bool came = QTest::qWaitFor(
+        [&] {
+            while (m_link->canReadLine()) {
+                found = QJsonDocument::fromJson(m_link->readLine()).object();
+                if (found.value(QStringLiteral("messagetype")).toString() == messageType) {
+                    return true;
+                }
             }
-        }
-        return false;
-    });
+            return false;
+        },
+        kPatienceMs);
     return came ? found : QJsonObject();
 }
 
@@ -385,7 +388,7 @@ void tst_HostCommands::truncatedAndRandomPayloadsDoNoHarm()
 void tst_HostCommands::exitEndsTheLink()
 {
     command(MSG_EXIT_VOIP, "bytes that nobody reads");
-    QTRY_COMPARE(m_link->state(), QLocalSocket::UnconnectedState);
+    QTRY_COMPARE_WITH_TIMEOUT(m_link->state(), QLocalSocket::UnconnectedState, kPatienceMs);
     QVERIFY(m_link->readAll().endsWith("quit\n"));
     m_link = nullptr;
 }

@@ -1,5 +1,6 @@
 // Plays the host from the outside: nothing of the plug-in but the contract's headers is linked here.
 
+#include "fakes/Patience.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"
@@ -116,7 +117,7 @@ void tst_PluginModule::exportsTheTwoEntryPointsOnly()
     QProcess names;
     names.start(QStringLiteral("nm"), {QStringLiteral("-D"), QStringLiteral("--defined-only"),
                                        QStringLiteral("--format=just-symbols"), moduleFile});
-    QVERIFY2(names.waitForFinished(), qPrintable(names.errorString()));
+    QVERIFY2(names.waitForFinished(kPatienceMs), qPrintable(names.errorString()));
     QCOMPARE(names.exitCode(), 0);
     QStringList exported =
         QString::fromLatin1(names.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
@@ -175,7 +176,7 @@ void tst_PluginModule::firstRecognisedCommandEvenAQueryCreatesTheManager()
         QCoreApplication::sendEvent(m_plugin->getReceiveEventHandle(), &event);
         QCOMPARE(event.data, packPayload(false));
     }
-    QTRY_VERIFY(m_callServer.hasPendingConnections());
+    QTRY_VERIFY_WITH_TIMEOUT(m_callServer.hasPendingConnections(), kPatienceMs);
     QVERIFY(!QApplication::topLevelWidgets().isEmpty());
     // One start in all: neither loading nor the second query brought one.
     QCOMPARE(m_starts.count(), 1);

@@ -3,6 +3,7 @@
 #include "ComparedPicture.h"
 #include "Ink.h"
 #include "PictureSetting.h"
+#include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "ui/ConferenceListView.h"
 #include "ui/ContactFixture.h"
@@ -163,7 +164,7 @@ QImage tst_CallWindowPictures::picture(const SetUp &setUp)
     window.move(200, 200);
     setUp(window);
     window.show();
-    if (!QTest::qWaitForWindowExposed(&window))
+    if (!QTest::qWaitForWindowExposed(&window, kPatienceMs))
         return {};
     // The second of two: rows are at their places once they have been painted.
     ComparedPicture::of(&window);
@@ -215,7 +216,7 @@ void tst_CallWindowPictures::glyphsOfAMemberStandAtTheHeightOfTheName()
     CVoipWidget window;
     withStatuses(call(CVoipWidget::Conference, true))(window);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
     auto *pList = window.findChild<CConferenceListView *>();
     const QImage picture = pList->viewport()->grab().toImage();
     const QModelIndex ann = pList->model()->index(0, 0);

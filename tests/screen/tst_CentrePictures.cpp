@@ -3,6 +3,7 @@
 #include "ComparedPicture.h"
 #include "Ink.h"
 #include "PictureSetting.h"
+#include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "ui/ContactFixture.h"
 #include "ui/RealCursor.h"
@@ -107,7 +108,7 @@ void tst_CentrePictures::open(bool bRecords)
             m_pWindow->addConferenceInfo(record(row));
     m_pWindow->move(200, 200);
     m_pWindow->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), kPatienceMs));
 }
 
 void tst_CentrePictures::hover(int iRow)
@@ -156,7 +157,7 @@ void tst_CentrePictures::menuOfARow()
     const QPoint row = list()->visualRect(list()->model()->index(0, 0)).center();
     QTest::mouseClick(list()->viewport(), Qt::RightButton, Qt::NoModifier, row);
     auto *const pMenu = list()->findChild<QMenu *>();
-    QVERIFY(QTest::qWaitForWindowExposed(pMenu));
+    QVERIFY(QTest::qWaitForWindowExposed(pMenu, kPatienceMs));
     const QString strComplaint = ComparedPicture::complaint(QStringLiteral("centre-menu"), ComparedPicture::of(pMenu));
     QVERIFY2(strComplaint.isEmpty(), qPrintable(strComplaint));
 }

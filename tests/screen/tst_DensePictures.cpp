@@ -2,6 +2,7 @@
 
 #include "ComparedPicture.h"
 #include "PictureSetting.h"
+#include "fakes/Patience.h"
 #include "model/SkinContext.h"
 #include "model/SysUIData.h"
 #include "ui/ContactFixture.h"
@@ -168,7 +169,7 @@ void tst_DensePictures::indicatorIsThePicture()
                                     checked, enabled);
     pButton->move(200, 200);
     pButton->show();
-    QVERIFY(QTest::qWaitForWindowExposed(pButton.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(pButton.get(), kPatienceMs));
     QVERIFY(holds(ComparedPicture::of(pButton.get()), shipped(picture, QRect(0, 0, 16, 16))));
 }
 
@@ -180,7 +181,7 @@ void tst_DensePictures::tickOfAMenuIsThePicture()
     pEntry->setCheckable(true);
     pEntry->setChecked(true);
     menu.popup(QPoint(200, 200));
-    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    QVERIFY(QTest::qWaitForWindowExposed(&menu, kPatienceMs));
     QVERIFY(holds(ComparedPicture::of(&menu), shipped(cTick, QRect(0, 0, 15, 15))));
 }
 
@@ -192,7 +193,7 @@ void tst_DensePictures::backButtonIsThePicture()
     pBack->show();
     centre.move(200, 200);
     centre.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&centre));
+    QVERIFY(QTest::qWaitForWindowExposed(&centre, kPatienceMs));
     QVERIFY(holds(ComparedPicture::of(pBack), shipped(cBack, QRect(2, 4, 6, 12))));
 }
 
@@ -204,7 +205,7 @@ void tst_DensePictures::volumeSliderIsThePicture()
     pSlider->show();
     window.move(200, 200);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
     QVERIFY(holds(ComparedPicture::of(pSlider), shipped(cGroove, QRect(5, 0, 40, 24))));
 }
 
@@ -227,7 +228,7 @@ void tst_DensePictures::headIsAsSharpAsItsDrawing()
     window.setVoipCallInfo({uid}, CVoipWidget::Voice, true, false);
     window.move(200, 200);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
     // The square within the round head.
     const QRect middle = dense(QRect(16, 16, 68, 68));
     const QImage shown = ComparedPicture::of(window.findChild<QWidget *>(QStringLiteral("lblPhotoIcon")));

@@ -2,6 +2,9 @@
 
 // What the world may do to a program that writes files, made in this process and taken back at the end of the scope.
 
+#include <QByteArray>
+#include <QString>
+
 #include <csignal>
 #include <cstdint>
 #include <sys/resource.h>
@@ -32,4 +35,15 @@ public:
 private:
     rlimit m_before{};
     void (*m_handler)(int) = SIG_DFL;
+};
+
+/// A file of these bytes is put to `strFile` by someone else just when this process is about to make one there: it is
+/// looked for in vain before. Once, and only while this lives.
+class MadeMeanwhile
+{
+public:
+    MadeMeanwhile(const QString &strFile, const QByteArray &bytes);
+    ~MadeMeanwhile();
+    MadeMeanwhile(const MadeMeanwhile &) = delete;
+    MadeMeanwhile &operator=(const MadeMeanwhile &) = delete;
 };

@@ -2,6 +2,8 @@
 
 // Another program that has a store's file locked, until its time is over or it is told to let go.
 
+#include "fakes/Patience.h"
+
 #include <QProcess>
 #include <QString>
 
@@ -17,7 +19,7 @@ public:
     {
         m_process.start(QStringLiteral(STORE_CHILD),
                         {QStringLiteral("hold"), strFile, strStatements, QString::number(iMilliseconds)});
-        m_bHeld = m_process.waitForReadyRead() && m_process.readLine() == "held\n";
+        m_bHeld = m_process.waitForReadyRead(kPatienceMs) && m_process.readLine() == "held\n";
     }
     /// Whether it got its lock.
     bool hasHeld() const { return m_bHeld; }
@@ -27,7 +29,7 @@ public:
     bool letGo()
     {
         m_process.closeWriteChannel();
-        return m_process.waitForFinished() && m_process.exitCode() == 0;
+        return m_process.waitForFinished(kPatienceMs) && m_process.exitCode() == 0;
     }
 
 private:

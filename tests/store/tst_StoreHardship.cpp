@@ -19,6 +19,7 @@ private slots:
     void fullDiskRefusesTheRecordAndKeepsTheOthers();
     void fileBegunOnAFullDiskIsFinishedByTheNextOpen_data();
     void fileBegunOnAFullDiskIsFinishedByTheNextOpen();
+    void fileThatAnotherMakesMeanwhileStays();
 };
 
 void tst_StoreHardship::readOnlyFileIsReadAndRefusesRecords_data()
@@ -120,6 +121,17 @@ void tst_StoreHardship::fileBegunOnAFullDiskIsFinishedByTheNextOpen()
     DB::closeDB();
     QCOMPARE(tables(), all);
     QCOMPARE(ask(QStringLiteral("PRAGMA integrity_check")), QStringLiteral("ok"));
+}
+
+void tst_StoreHardship::fileThatAnotherMakesMeanwhileStays()
+{
+    {
+        const MadeMeanwhile other(m_strFile, m_sound);
+        QVERIFY(DB::initByUserName(m_strUser, m_strBase, true));
+    }
+    QCOMPARE(DBConfInfo::getAllConfInfo().size(), m_iRecords);
+    DB::closeDB();
+    QCOMPARE(fileBytes(), m_sound);
 }
 
 #include "support/TestProgram.h"

@@ -1,4 +1,5 @@
 #include "StoreFolder.h"
+#include "fakes/Patience.h"
 
 #include <QFile>
 #include <QProcess>
@@ -27,7 +28,7 @@ void tst_StoreKilled::killWhenItSays(const QString &strFirst, int iLines, int iM
     QProcess writer;
     writer.start(QStringLiteral(STORE_CHILD), {QStringLiteral("write"), m_strBase, strFirst});
     int lines = 0;
-    while (lines < iLines && (writer.canReadLine() || writer.waitForReadyRead())) {
+    while (lines < iLines && (writer.canReadLine() || writer.waitForReadyRead(kPatienceMs))) {
         for (; lines < iLines && writer.canReadLine(); ++lines) {
             const QByteArray line = writer.readLine();
             if (lines > 0) {
@@ -38,7 +39,7 @@ void tst_StoreKilled::killWhenItSays(const QString &strFirst, int iLines, int iM
     QCOMPARE(lines, iLines);
     QThread::usleep(static_cast<unsigned long>(iMicroseconds));
     writer.kill();
-    QVERIFY(writer.waitForFinished());
+    QVERIFY(writer.waitForFinished(kPatienceMs));
     while (writer.canReadLine()) {
         const QByteArray line = writer.readLine();
         if (line != "start\n") {

@@ -2,6 +2,8 @@
 #include "StoreFolder.h"
 
 #include "model/SharedContext.h"
+#include "store/LockWait.h"
+#include "store/StoreOpening.h"
 
 #include <QSqlQuery>
 #include <QTest>
@@ -32,6 +34,7 @@ private slots:
     void openOfAWholeFileNeedsNoWriting();
     void upgradeThatMayNotWriteIsLeftToTheNextOpen_data();
     void upgradeThatMayNotWriteIsLeftToTheNextOpen();
+    void openingIsShutOutWhenTheLockGoesTooLate();
     void sessionWaitsForALockAsTheDriverDoes();
     void checkOfALockedFile_data();
     void checkOfALockedFile();
@@ -102,6 +105,11 @@ void tst_StoreLocked::openWaitsForALockThatIsLetGo()
     LockHolder holder(m_strFile, statements, kShortHold);
     QVERIFY(holder.hasHeld());
     QVERIFY(open());
+    {
+        QSqlQuery query(QStringLiteral("PRAGMA synchronous"), DB::getDB());
+        QVERIFY(query.next());
+        QCOMPARE(query.value(0).toInt(), 0);
+    }
     DB::closeDB();
     QCOMPARE(tables(), all);
     QVERIFY(holder.letGo());
@@ -160,14 +168,43 @@ void tst_StoreLocked::upgradeThatMayNotWriteIsLeftToTheNextOpen()
     QCOMPARE(ask(QStringLiteral("PRAGMA integrity_check")), QStringLiteral("ok"));
 }
 
+void tst_StoreLocked::openingIsShutOutWhenTheLockGoesTooLate()
+{
+    QVERIFY(putFile(m_sound));
+    const QString name = QStringLiteral("late");
+    LockHolder holder(m_strFile, everything);
+    QVERIFY(holder.hasHeld());
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+        db.setDatabaseName(m_strFile);
+        QVERIFY(LockWait::open(db));
+        const StoreOpening opening(db);
+        // Each question would be answered now, but the session's setting was not made.
+        QVERIFY(holder.holds());
+        QVERIFY(holder.letGo());
+        QVERIFY(StoreOpening::isShutOut());
+        QSqlQuery query(db);
+        QVERIFY(!StoreOpening::ask(query, QStringLiteral("SELECT 1")));
+        QVERIFY(!StoreOpening::execute(query, QStringLiteral("CREATE TABLE others(id)")));
+    }
+    QSqlDatabase::removeDatabase(name);
+    QCOMPARE(fileBytes(), m_sound);
+}
+
 void tst_StoreLocked::sessionWaitsForALockAsTheDriverDoes()
 {
     QVERIFY(putFile(m_sound));
     QVERIFY(open());
-    QSqlQuery query(QStringLiteral("PRAGMA busy_timeout"), DB::getDB());
-    QVERIFY(query.next());
-    QCOMPARE(query.value(0).toInt(), 5000);
-    query = QSqlQuery(QSqlDatabase());
+    const auto waitingTime = [] {
+        QSqlQuery query(QStringLiteral("PRAGMA busy_timeout"), DB::getDB());
+        return query.next() ? query.value(0).toInt() : -1;
+    };
+    QCOMPARE(waitingTime(), 5000);
+    // Also when its owner opens the connection again.
+    QCOMPARE(DB::getDB().connectOptions(), QString());
+    DB::m_db.close();
+    QVERIFY(DB::m_db.open());
+    QCOMPARE(waitingTime(), 5000);
     DB::closeDB();
 }
 

@@ -1,6 +1,7 @@
 #include "CallWindowTest.h"
 
 #include "fakes/ClickTarget.h"
+#include "fakes/Patience.h"
 #include "widgets/ErrorMessage.h"
 
 #include <QApplication>
@@ -16,7 +17,7 @@ void CallWindowTest::startAnew()
 void CallWindowTest::showWindow()
 {
     m_pWindow->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), kPatienceMs));
 }
 
 QAbstractButton *CallWindowTest::button(const char *name) const
@@ -86,7 +87,7 @@ void CallWindowTest::answerQuestion(const char *name, const std::function<void()
     QTimer::singleShot(0, this, [name, before] {
         auto *pQuestion = qobject_cast<ErrorMessage *>(QApplication::activeModalWidget());
         QVERIFY(pQuestion != nullptr);
-        QVERIFY(QTest::qWaitForWindowExposed(pQuestion));
+        QVERIFY(QTest::qWaitForWindowExposed(pQuestion, kPatienceMs));
         before();
         QTest::mouseClick(clickTarget(pQuestion->findChild<QWidget *>(QLatin1String(name))), Qt::LeftButton);
         QVERIFY(!pQuestion->isVisible());

@@ -1,6 +1,7 @@
 #include "CentreTest.h"
 
 #include "ShippedFiles.h"
+#include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "store/DB.h"
@@ -81,6 +82,6 @@ void CentreTest::showAt(const QPoint &corner)
 {
     m_pWindow->move(corner);
     m_pWindow->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
-    QTRY_COMPARE(m_pWindow->frameGeometry().topLeft(), corner);
+    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), kPatienceMs));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->frameGeometry().topLeft(), corner, kPatienceMs);
 }

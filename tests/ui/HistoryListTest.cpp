@@ -2,6 +2,7 @@
 
 #include "RealCursor.h"
 #include "ShippedFiles.h"
+#include "fakes/Patience.h"
 #include "plugin/EMsgId.h"
 #include "plugin/VoipManageMessageProcess.h"
 
@@ -56,7 +57,7 @@ void HistoryListTest::show(const QList<ConfInfoData> &records)
     m_pList->setGeometry(200, 200, 517, 280);
     QCursor::setPos(10, 10);
     m_pList->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pList.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(m_pList.get(), kPatienceMs));
     picture();
     takeSigns();
 }
@@ -101,7 +102,7 @@ QStringList HistoryListTest::entries() const
 void HistoryListTest::choose(int iEntry)
 {
     CMenuEx *pMenu = m_pList->m_pMenu;
-    QVERIFY(QTest::qWaitForWindowExposed(pMenu));
+    QVERIFY(QTest::qWaitForWindowExposed(pMenu, kPatienceMs));
     const QPoint entry = pMenu->actionGeometry(pMenu->actions().at(iEntry)).center();
     QVERIFY(RealCursor::moveTo(pMenu, entry));
     QTest::mouseClick(pMenu, Qt::LeftButton, Qt::NoModifier, entry);

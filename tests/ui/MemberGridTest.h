@@ -6,6 +6,7 @@
 #include "ContactFixture.h"
 #include "ShippedFiles.h"
 #include "fakes/FakeHost.h"
+#include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConfDetailMemberTableView.h"
@@ -63,7 +64,7 @@ protected:
         m_iTop = m_iTop == 100 ? 350 : 100;
         m_pGrid->setGeometry(100, m_iTop, 517, 215);
         m_pGrid->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_pGrid.get()));
+        QVERIFY(QTest::qWaitForWindowExposed(m_pGrid.get(), kPatienceMs));
         m_pGrid->viewport()->repaint();
         delay()->blockSignals(true);
         m_pHost->events.clear();
@@ -73,7 +74,7 @@ protected:
     {
         const LastMove last(m_pGrid->viewport());
         QTest::mouseMove(m_pGrid->viewport(), position);
-        QTRY_COMPARE(last.position(), position);
+        QTRY_COMPARE_WITH_TIMEOUT(last.position(), position, kPatienceMs);
     }
     void runOut() { QVERIFY(QMetaObject::invokeMethod(m_pGrid.get(), "slot_ShowSign")); }
     int shown() const { return m_pHost->received(MSG_SHOW_SIGN_LIST).size(); }

@@ -1,6 +1,7 @@
 #include "MemberListTest.h"
 
 #include "ShippedFiles.h"
+#include "fakes/Patience.h"
 
 #include <QStandardItemModel>
 #include <QTimer>
@@ -59,7 +60,7 @@ void MemberListTest::showList()
     // A window manager that places the window moves it from under the mouse and has it painted again, some time later.
     m_pList->setWindowFlag(Qt::X11BypassWindowManagerHint);
     m_pList->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pList.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(m_pList.get(), kPatienceMs));
     picture();
 }
 

@@ -2,6 +2,8 @@
 
 // The X server's cursor for the tests of the windows: moved for real, and waited for. GUI thread.
 
+#include "fakes/Patience.h"
+
 #include <QMouseEvent>
 #include <QTest>
 
@@ -29,7 +31,7 @@ inline bool moveTo(QWidget *pWidget, const QPoint &position)
 {
     const ArrivedMove move(pWidget, position);
     QTest::mouseMove(pWidget, position);
-    return QTest::qWaitFor([&move] { return move.bArrived; });
+    return QTest::qWaitFor([&move] { return move.bArrived; }, kPatienceMs);
 }
 
 } // namespace RealCursor

@@ -2,6 +2,7 @@
 // screen shows it.
 
 #include "ContactFixture.h"
+#include "fakes/Patience.h"
 #include "screen/ScreenPointer.h"
 #include "ui/VoipWidget.h"
 #include "widgets/MyRubberBand.h"
@@ -135,15 +136,15 @@ void tst_CallWindowPointer::init()
     m_pBackdrop->setPalette(QPalette(QColor(cBackdrop)));
     m_pBackdrop->setGeometry(QGuiApplication::primaryScreen()->geometry());
     m_pBackdrop->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pBackdrop.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(m_pBackdrop.get(), kPatienceMs));
     m_pointer.moveTo(QPoint(20, 20));
-    QTRY_COMPARE(QCursor::pos(), QPoint(20, 20));
+    QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), QPoint(20, 20), kPatienceMs);
 }
 
 void tst_CallWindowPointer::cleanup()
 {
     m_pointer.release(Qt::LeftButton);
-    QTRY_COMPARE(QGuiApplication::mouseButtons(), Qt::NoButton);
+    QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::mouseButtons(), Qt::NoButton, kPatienceMs);
     m_pWindow.reset();
     m_pBackdrop.reset();
     m_pContacts.reset();
@@ -157,8 +158,8 @@ void tst_CallWindowPointer::open(CVoipWidget::VoipType type)
     m_pWindow->move(cHome);
     m_pWindow->setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, type, true, true);
     m_pWindow->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
-    QTRY_COMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
+    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), kPatienceMs));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->geometry(), QRect(cHome, cSize), kPatienceMs);
 }
 
 bool tst_CallWindowPointer::isShapeAt(const QPoint &place, Qt::CursorShape shape) const
@@ -214,19 +215,20 @@ void tst_CallWindowPointer::edgeIsForgottenOverTheParts()
     }
     m_pointer.moveTo(cHome + edge);
     const bool bAtSide = edge.y() == 200 || edge.y() == 380;
-    QTRY_COMPARE(m_pWindow->cursor().shape(), bAtSide ? Qt::SizeHorCursor : Qt::SizeVerCursor);
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), bAtSide ? Qt::SizeHorCursor : Qt::SizeVerCursor,
+                              kPatienceMs);
     m_pointer.moveTo(cHome + target);
-    QTRY_VERIFY(isShapeAt(target, Qt::ArrowCursor));
-    QTRY_COMPARE(m_pWindow->cursor().shape(), Qt::ArrowCursor);
+    QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(target, Qt::ArrowCursor), kPatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), Qt::ArrowCursor, kPatienceMs);
     if (!drags)
         return;
     m_pointer.press(Qt::LeftButton);
     m_pointer.moveTo(cHome + target + QPoint(15, 10));
     m_pointer.moveTo(cHome + target + QPoint(30, 20));
-    QTRY_COMPARE(m_pWindow->pos(), cHome + QPoint(30, 20));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), cHome + QPoint(30, 20), kPatienceMs);
     QVERIFY(shownBand().isNull());
     m_pointer.release(Qt::LeftButton);
-    QTRY_COMPARE(QGuiApplication::mouseButtons(), Qt::NoButton);
+    QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::mouseButtons(), Qt::NoButton, kPatienceMs);
     QCOMPARE(m_pWindow->geometry(), QRect(cHome + QPoint(30, 20), cSize));
 }
 
@@ -235,12 +237,12 @@ void tst_CallWindowPointer::edgeIsKnownOverTheParts()
     // The band reaches over the margin that the window's parts leave.
     open(CVoipWidget::Voice);
     m_pointer.moveTo(cHome + QPoint(100, 200));
-    QTRY_COMPARE(QCursor::pos(), cHome + QPoint(100, 200));
+    QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), cHome + QPoint(100, 200), kPatienceMs);
     QVERIFY(m_pWindow->childAt(4, 200) != nullptr);
     m_pointer.moveTo(cHome + QPoint(4, 200));
-    QTRY_VERIFY(isShapeAt(QPoint(4, 200), Qt::SizeHorCursor));
+    QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(QPoint(4, 200), Qt::SizeHorCursor), kPatienceMs);
     m_pointer.moveTo(cHome + QPoint(5, 200));
-    QTRY_VERIFY(isShapeAt(QPoint(5, 200), Qt::ArrowCursor));
+    QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(QPoint(5, 200), Qt::ArrowCursor), kPatienceMs);
 }
 
 void tst_CallWindowPointer::edgeIsKeptDuringItsDrag_data()
@@ -286,7 +288,15 @@ void tst_CallWindowPointer::bandIsFourDottedBars()
 {
     open(CVoipWidget::Voice);
     m_pointer.moveTo(cHome + QPoint(1, 200));
-    QTRY_COMPARE(m_pWindow->cursor().shape(), Qt::SizeHorCursor);
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), Qt::SizeHorCursor, kPatienceMs);
+    QImage before = screenNow();
+    const auto isQuiet = [&before] {
+        const QImage last = before;
+        QTest::qWait(100);
+        before = screenNow();
+        return before == last;
+    };
+    QVERIFY(QTest::qWaitFor(isQuiet, kPatienceMs));
     const int iDensity = qRound(qApp->devicePixelRatio());
     QImage before;
     QVERIFY(QTest::qWaitFor([&] {
@@ -295,21 +305,21 @@ void tst_CallWindowPointer::bandIsFourDottedBars()
     }));
 
     m_pointer.press(Qt::LeftButton);
-    QTRY_COMPARE(shownBand(), QRect(cHome, cSize));
+    QTRY_COMPARE_WITH_TIMEOUT(shownBand(), QRect(cHome, cSize), kPatienceMs);
     QString strWrong;
     const auto isRight = [&](const QRect &band) {
         strWrong = complaint(before, screenNow(), band, iDensity);
         return strWrong.isEmpty();
     };
-    QVERIFY2(QTest::qWaitFor([&] { return isRight(QRect(cHome, cSize)); }), qPrintable(strWrong));
+    QVERIFY2(QTest::qWaitFor([&] { return isRight(QRect(cHome, cSize)); }, kPatienceMs), qPrintable(strWrong));
 
     m_pointer.moveTo(cHome + QPoint(-60, 210));
     const QRect larger(cHome - QPoint(60, 0), cSize + QSize(60, 0));
-    QTRY_COMPARE(shownBand(), larger);
-    QVERIFY2(QTest::qWaitFor([&] { return isRight(larger); }), qPrintable(strWrong));
+    QTRY_COMPARE_WITH_TIMEOUT(shownBand(), larger, kPatienceMs);
+    QVERIFY2(QTest::qWaitFor([&] { return isRight(larger); }, kPatienceMs), qPrintable(strWrong));
 
     m_pointer.release(Qt::LeftButton);
-    QTRY_VERIFY(shownBand().isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(shownBand().isNull(), kPatienceMs);
 }
 
 #include "support/TestProgram.h"

@@ -2,6 +2,7 @@
 
 #include "MemberGridTest.h"
 
+#include "fakes/Patience.h"
 #include "model/SharedContext.h"
 
 #include <QScrollBar>
@@ -139,7 +140,7 @@ private slots:
         moveTo(head(0, 0).center());
         QVERIFY(delay()->isActive());
         QCursor::setPos(5, 5);
-        QTRY_VERIFY(!delay()->isActive());
+        QTRY_VERIFY_WITH_TIMEOUT(!delay()->isActive(), kPatienceMs);
         QCOMPARE(closed(), 1);
         QCOMPARE(shown(), 0);
     }
@@ -148,7 +149,7 @@ private slots:
     {
         show(1000);
         m_pGrid->verticalScrollBar()->setValue(1);
-        QTRY_COMPARE(head(1, 3).top(), 12);
+        QTRY_COMPARE_WITH_TIMEOUT(head(1, 3).top(), 12, kPatienceMs);
         moveTo(head(1, 3).center());
         runOut();
         PayloadReader reader = m_pHost->received(MSG_SHOW_SIGN_LIST).constFirst().reader();

@@ -6,6 +6,7 @@
 #include "PaintedPicture.h"
 #include "ShippedFiles.h"
 #include "common/BuiltInPictures.h"
+#include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "ui/ConfDetailMemberTableView.h"
 #include "ui/ConfDetailTableViewDelegate.h"
@@ -50,7 +51,7 @@ private:
         // A window manager that places the window has it painted again, some time later.
         m_pGrid->setWindowFlag(Qt::X11BypassWindowManagerHint);
         m_pGrid->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_pGrid.get()));
+        QVERIFY(QTest::qWaitForWindowExposed(m_pGrid.get(), kPatienceMs));
     }
     QImage picture() const
     {
@@ -291,7 +292,7 @@ private slots:
         show();
         const Repaints repaints(m_pGrid->viewport());
         m_pGrid->verticalScrollBar()->setValue(20);
-        QTRY_COMPARE(repaints.count(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, kPatienceMs);
         QCOMPARE(m_pGrid->model()->index(21, 0).data(ROLE_HEAD_RECT).toRect().top(), 80 + 12);
         QVERIFY(!repaints.isAnyDue());
     }

@@ -5,6 +5,7 @@
 #include "ShippedFiles.h"
 #include "common/pictures/IconFont.h"
 #include "fakes/FakeHost.h"
+#include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "model/SharedContext.h"
 #include "plugin/VoipManageMessageProcess.h"
@@ -57,7 +58,7 @@ private:
         m_pPage->setPalette(palette);
         m_pPage->resize(517, 309);
         m_pPage->show();
-        if (!QTest::qWaitForWindowExposed(m_pPage.get()))
+        if (!QTest::qWaitForWindowExposed(m_pPage.get(), kPatienceMs))
             return {};
         QCoreApplication::processEvents();
         QImage image = m_pPage->grab().toImage().convertToFormat(QImage::Format_RGB32);

@@ -3,6 +3,7 @@
 #include "HistoryListTest.h"
 
 #include "common/Palette.h"
+#include "fakes/Patience.h"
 #include "model/SharedContext.h"
 #include "plugin/EMsgId.h"
 
@@ -266,7 +267,7 @@ void tst_ConferenceInfoListView::scrollBarShowsUnderTheCursorOnly()
     moveTo(row(0).center());
     QCOMPARE(m_pList->styleSheet(), QString(strVerticalScrollBarHoverStyle));
     QCursor::setPos(10, 10);
-    QTRY_COMPARE(m_pList->styleSheet(), QString(strVerticalScrollBarNormalStyle));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pList->styleSheet(), QString(strVerticalScrollBarNormalStyle), kPatienceMs);
 }
 
 void tst_ConferenceInfoListView::hundredThousandRecords()

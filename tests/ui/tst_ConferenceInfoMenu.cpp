@@ -3,6 +3,7 @@
 #include "HistoryListTest.h"
 
 #include "fakes/LogCapture.h"
+#include "fakes/Patience.h"
 
 #include <QScreen>
 #include <QSignalSpy>
@@ -170,7 +171,7 @@ void tst_ConferenceInfoMenu::menuThatJustFitsOpensAtTheCursor()
         m_pList->m_pMenu->hide();
         const QPoint cursor = last + step;
         QCursor::setPos(cursor);
-        QTRY_COMPARE(QCursor::pos(), cursor);
+        QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), cursor, kPatienceMs);
         QMouseEvent release(QEvent::MouseButtonRelease, cBeside, Qt::RightButton, Qt::NoButton, Qt::NoModifier);
         m_pList->mouseReleaseEvent(&release);
         QCOMPARE(pMenu->x(), step.x() == 0 ? cursor.x() : cursor.x() - pMenu->width());

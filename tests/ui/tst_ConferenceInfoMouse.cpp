@@ -1,6 +1,7 @@
 // The mouse on the conference history list: the detail button and the signature card.
 
 #include "HistoryListTest.h"
+#include "fakes/Patience.h"
 
 #include <QApplication>
 #include <QScrollBar>
@@ -290,7 +291,7 @@ void tst_ConferenceInfoMouse::cardHasTheListsWholeWidthBesideAScrollBar()
         records.append(record(QString::number(i + 10)));
     show(records);
     moveTo(cOnHead + QPoint(5, 4));
-    QTRY_VERIFY(m_pList->viewport()->width() < m_pList->width());
+    QTRY_VERIFY_WITH_TIMEOUT(m_pList->viewport()->width() < m_pList->width(), kPatienceMs);
     takeSigns();
     signDelayIsOver();
     QCOMPARE(takeSigns(), signFields(2, 10));
@@ -345,7 +346,7 @@ void tst_ConferenceInfoMouse::leavingTheListCancelsTheCard()
     moveTo(cOnHead);
     QVERIFY(m_pList->m_signTimer.isActive());
     QCursor::setPos(10, 10);
-    QTRY_VERIFY(!m_pList->m_signTimer.isActive());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_pList->m_signTimer.isActive(), kPatienceMs);
     QCOMPARE(takeSigns(), QStringList{"close"});
 }
 

@@ -2,6 +2,7 @@
 // there.
 
 #include "MemberListTest.h"
+#include "fakes/Patience.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -148,7 +149,7 @@ void tst_ConferenceListButtons::cursorOnTheRemoveButtonLightsItUp()
     show(1);
     const QRect button = place(0, ROLE_REMOVE_RECT);
     moveTo(button.center());
-    QTRY_COMPARE(data(0, ROLE_REMOVE_HOVER), QVariant(true));
+    QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_REMOVE_HOVER), QVariant(true), kPatienceMs);
     QCOMPARE(data(0, ROLE_MUTE_HOVER), QVariant(false));
     QCOMPARE(data(1, ROLE_REMOVE_HOVER), QVariant(false));
     QCOMPARE(m_pList->cursor().shape(), Qt::PointingHandCursor);
@@ -165,7 +166,7 @@ void tst_ConferenceListButtons::cursorOnTheMuteButtonLightsItUp()
     show(1);
     const QRect button = place(1, ROLE_MUTE_RECT);
     moveTo(button.center());
-    QTRY_COMPARE(data(1, ROLE_MUTE_HOVER), QVariant(true));
+    QTRY_COMPARE_WITH_TIMEOUT(data(1, ROLE_MUTE_HOVER), QVariant(true), kPatienceMs);
     QCOMPARE(data(1, ROLE_REMOVE_HOVER), QVariant(false));
     QCOMPARE(m_pList->cursor().shape(), Qt::PointingHandCursor);
     QVERIFY(countPixels(picture(), button, QColor(0, 185, 31)) > 0);
@@ -175,31 +176,31 @@ void tst_ConferenceListButtons::muteTipTellsWhatAClickDoes()
 {
     show(1);
     moveTo(place(0, ROLE_MUTE_RECT).center());
-    QTRY_COMPARE(QToolTip::text(), QStringLiteral("静音"));
+    QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QStringLiteral("静音"), kPatienceMs);
     m_pList->setMuteAll(true);
     moveTo(place(0, ROLE_MUTE_RECT).center() + QPoint(1, 0));
-    QTRY_COMPARE(QToolTip::text(), QStringLiteral("取消静音"));
+    QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QStringLiteral("取消静音"), kPatienceMs);
 }
 
 void tst_ConferenceListButtons::leavingTheButtonsWithinTheRowPutsThemOut()
 {
     show(1);
     moveTo(place(0, ROLE_REMOVE_RECT).center());
-    QTRY_COMPARE(data(0, ROLE_REMOVE_HOVER), QVariant(true));
+    QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_REMOVE_HOVER), QVariant(true), kPatienceMs);
     moveTo(QPoint(100, row(0).center().y()));
-    QTRY_COMPARE(data(0, ROLE_REMOVE_HOVER), QVariant(false));
+    QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_REMOVE_HOVER), QVariant(false), kPatienceMs);
     QCOMPARE(data(0, ROLE_MUTE_HOVER), QVariant(false));
     QCOMPARE(m_pList->cursor().shape(), Qt::ArrowCursor);
-    QTRY_VERIFY(!QToolTip::isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(!QToolTip::isVisible(), kPatienceMs);
 }
 
 void tst_ConferenceListButtons::movingFromButtonToButtonKeepsTheFirstOnesFlag()
 {
     show(1);
     moveTo(place(0, ROLE_REMOVE_RECT).center());
-    QTRY_COMPARE(data(0, ROLE_REMOVE_HOVER), QVariant(true));
+    QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_REMOVE_HOVER), QVariant(true), kPatienceMs);
     moveTo(place(0, ROLE_MUTE_RECT).center());
-    QTRY_COMPARE(data(0, ROLE_MUTE_HOVER), QVariant(true));
+    QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_MUTE_HOVER), QVariant(true), kPatienceMs);
     QCOMPARE(data(0, ROLE_REMOVE_HOVER), QVariant(true));
 }
 
@@ -207,7 +208,7 @@ void tst_ConferenceListButtons::movingBelowTheRowsChangesNothing()
 {
     show(1);
     moveTo(place(1, ROLE_REMOVE_RECT).center());
-    QTRY_COMPARE(data(1, ROLE_REMOVE_HOVER), QVariant(true));
+    QTRY_COMPARE_WITH_TIMEOUT(data(1, ROLE_REMOVE_HOVER), QVariant(true), kPatienceMs);
     const QSignalSpy changed(m_pList->model(), &QAbstractItemModel::dataChanged);
     moveTo(QPoint(100, row(1).bottom() + 60));
     QCoreApplication::processEvents();
@@ -310,12 +311,12 @@ void tst_ConferenceListButtons::viewTellsWhichRowTheMouseEnters()
                                   row(0).center()};
     for (int i = 0; i < positions.size(); ++i) {
         moveTo(positions.at(i));
-        QTRY_COMPARE(entered.count(), i + 1);
+        QTRY_COMPARE_WITH_TIMEOUT(entered.count(), i + 1, kPatienceMs);
         QCOMPARE(entered.last().first().toModelIndex(), m_pList->indexAt(positions.at(i)));
     }
     const int iBefore = left.count();
     moveTo(QPoint(100, row(1).bottom() + 60));
-    QTRY_COMPARE(left.count(), iBefore + 1);
+    QTRY_COMPARE_WITH_TIMEOUT(left.count(), iBefore + 1, kPatienceMs);
 }
 
 void tst_ConferenceListButtons::memberIsMutedBeforeItIsTold()

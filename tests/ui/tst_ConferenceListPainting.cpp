@@ -5,6 +5,7 @@
 #include "PaintedPicture.h"
 
 #include "common/pictures/IconFont.h"
+#include "fakes/Patience.h"
 
 #include <QBitmap>
 #include <QPainter>
@@ -315,7 +316,7 @@ private slots:
         showMembers(3);
         const QPoint button = place(1, ROLE_REMOVE_RECT).center();
         moveTo(button);
-        QTRY_COMPARE(data(1, ROLE_REMOVE_HOVER), QVariant(true));
+        QTRY_COMPARE_WITH_TIMEOUT(data(1, ROLE_REMOVE_HOVER), QVariant(true), kPatienceMs);
         click(button);
         QCOMPARE(rowCount(), 2);
         QCOMPARE(data(1, ROLE_USER_ID).toString(), QStringLiteral("m2"));
@@ -323,7 +324,7 @@ private slots:
         QCOMPARE(place(1, ROLE_REMOVE_RECT).center(), button);
         QCOMPARE(data(1, ROLE_REMOVE_HOVER), QVariant(false));
         moveTo(button + QPoint(1, 1));
-        QTRY_COMPARE(data(1, ROLE_REMOVE_HOVER), QVariant(true));
+        QTRY_COMPARE_WITH_TIMEOUT(data(1, ROLE_REMOVE_HOVER), QVariant(true), kPatienceMs);
         compareWithNumbers("members-removed");
     }
 };

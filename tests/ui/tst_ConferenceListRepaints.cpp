@@ -3,6 +3,7 @@
 
 #include "MemberListTest.h"
 #include "PaintCost.h"
+#include "fakes/Patience.h"
 
 #include <QScrollBar>
 
@@ -32,7 +33,7 @@ private slots:
         showMembers(5);
         const Repaints repaints(m_pList->viewport());
         m_pList->updateConferenceUserStatus(QStringLiteral("m2"), ConferenceHungUp);
-        QTRY_COMPARE(repaints.count(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, kPatienceMs);
         QCOMPARE(repaints.last(), QRegion(row(2)));
         QVERIFY(!repaints.isAnyDue());
     }
@@ -43,7 +44,7 @@ private slots:
         const Repaints repaints(m_pList->viewport());
         for (int i = 0; i < 1000; ++i)
             m_pList->updateConferenceUserStatus(QStringLiteral("m%1").arg(i), ConferenceConnected);
-        QTRY_COMPARE(repaints.count(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, kPatienceMs);
         QVERIFY(!repaints.isAnyDue());
     }
 
@@ -55,7 +56,7 @@ private slots:
             m_pList->addUser(QStringLiteral("m%1").arg(i));
             m_pList->updateConferenceUserStatus(QStringLiteral("m%1").arg(i), ConferenceConnected);
         }
-        QTRY_COMPARE(repaints.count(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, kPatienceMs);
         QVERIFY(!repaints.isAnyDue());
     }
 
@@ -64,7 +65,7 @@ private slots:
         showMembers(100);
         const Repaints repaints(m_pList->viewport());
         m_pList->verticalScrollBar()->setValue(20);
-        QTRY_COMPARE(repaints.count(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, kPatienceMs);
         QVERIFY(!repaints.isAnyDue());
     }
 

@@ -50,6 +50,28 @@ private slots:
         QCOMPARE(data(0, Qt::SizeHintRole).toSize(), QSize(500, 38));
     }
 
+    void rowOfWhomNothingIsKnownHasEveryRole()
+    {
+        m_pList->setIsCallByMe(false);
+        m_pList->addUser(uid("nobody"));
+        QMap<int, QVariant> roles = m_pList->model()->itemData(index(0));
+        QVERIFY(roles.take(ROLE_INVITE_TIME).toTime().isValid());
+        const QMap<int, QVariant> wanted{
+            {ROLE_DISPLAY_NAME, QVariant(QString())},
+            {ROLE_HEAD_PATH, QVariant(uid("Resources/images/FriendDetail/defaultHead.png"))},
+            {ROLE_CALL_BY_ME, QVariant(false)},
+            {ROLE_IS_CREATOR, QVariant(false)},
+            {ROLE_USER_ID, QVariant(uid("nobody"))},
+            {ROLE_CALL_STATUS, QVariant(int(ConferenceCalling))},
+            {ROLE_REMOVE_HOVER, QVariant(false)},
+            {ROLE_MUTE_HOVER, QVariant(false)},
+            {ROLE_MUTED, QVariant(false)},
+            {Qt::SizeHintRole, QVariant(QSize(500, 38))},
+        };
+        QCOMPARE(roles.keys(), wanted.keys());
+        QCOMPARE(roles, wanted);
+    }
+
     void newRowHasTheShownNameOfTheContact()
     {
         m_pContacts->addContact(uid("ann"), ContactFixture::card(uid("Ann"), uid("Annie")), uid("My Ann"));

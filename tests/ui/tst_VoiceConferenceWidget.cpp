@@ -2,6 +2,7 @@
 
 #include "CentreTest.h"
 #include "RealCursor.h"
+#include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "plugin/EMsgId.h"
 #include "store/DB.h"
@@ -95,15 +96,15 @@ void tst_VoiceConferenceWidget::detailButtonShowsTheDetailPage()
     showAt({100, 100});
     const QRect row = list()->visualRect(list()->model()->index(1, 0));
     QVERIFY(RealCursor::moveTo(list()->viewport(), row.center()));
-    QTRY_VERIFY(!list()->model()->index(1, 0).data(ROLE_REMOVE_RECT).toRect().isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(!list()->model()->index(1, 0).data(ROLE_REMOVE_RECT).toRect().isNull(), kPatienceMs);
     const QPoint button = list()->model()->index(1, 0).data(ROLE_REMOVE_RECT).toRect().center();
     QTest::mouseClick(list()->viewport(), Qt::LeftButton, Qt::NoModifier, button);
     expectPage(1);
     QCOMPARE(part<QLabel>("lblCallTime")->text(), QStringLiteral("1分15秒"));
     const auto *pPage = part<QWidget>("conferenceDetaileWidget");
     const auto *pGrid = part<QWidget>("tableView");
-    QTRY_COMPARE(QRect(pGrid->mapTo(pPage, QPoint()), pGrid->size()),
-                 QRect(0, 94, pPage->width(), pPage->height() - 94 - 10));
+    QTRY_COMPARE_WITH_TIMEOUT(QRect(pGrid->mapTo(pPage, QPoint()), pGrid->size()),
+                              QRect(0, 94, pPage->width(), pPage->height() - 94 - 10), kPatienceMs);
 }
 
 void tst_VoiceConferenceWidget::recordOfTheShownDetailCannotBeDeleted()
@@ -184,13 +185,13 @@ void tst_VoiceConferenceWidget::hostMayCloseTheWindowWhileItTakesTheRedial()
             return;
         const QPointer<QWidget> window = m_pWindow.get();
         QTimer::singleShot(0, window, &QWidget::close);
-        QTRY_VERIFY(!window);
+        QTRY_VERIFY_WITH_TIMEOUT(!window, kPatienceMs);
     };
     const QPoint row = list()->visualRect(list()->model()->index(0, 0)).center();
     QCursor::setPos(list()->viewport()->mapToGlobal(row));
     QTest::mouseClick(list()->viewport(), Qt::RightButton, Qt::NoModifier, row);
     auto *const pMenu = list()->findChild<CMenuEx *>();
-    QVERIFY(QTest::qWaitForWindowExposed(pMenu));
+    QVERIFY(QTest::qWaitForWindowExposed(pMenu, kPatienceMs));
     const QPoint entry = pMenu->actionGeometry(pMenu->actions().first()).center();
     QVERIFY(RealCursor::moveTo(pMenu, entry));
     QTest::mouseClick(pMenu, Qt::LeftButton, Qt::NoModifier, entry);

@@ -1,6 +1,7 @@
 // The call window's plain operations, and its full screen.
 
 #include "CallWindowTest.h"
+#include "fakes/Patience.h"
 #include "ui/CallWindowStyle.h"
 
 #include <QScreen>
@@ -106,7 +107,7 @@ void tst_VoipWidget::fullScreenAndBack()
     m_pWindow->move(home);
     startCall(CVoipWidget::Voice, true);
     showWindow();
-    QTRY_COMPARE(m_pWindow->pos(), home);
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), home, kPatienceMs);
     call("slot_WindowChangeButtonClicked");
     // The fixed size wins; the corner overshoots the work area.
     QCOMPARE(m_pWindow->geometry(), QRect(workArea.topLeft() - QPoint(4, 4), cWindowSize));
@@ -181,7 +182,7 @@ void tst_VoipWidget::videoWidgetGoesToTheVideoPage()
     QCOMPARE(pSurface->parentWidget(), part<QWidget>("playFramWidget"));
     startCall(CVoipWidget::Video, true);
     showWindow();
-    QTRY_VERIFY(pSurface->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(pSurface->isVisible(), kPatienceMs);
     QVERIFY(pSurface->height() > 300);
 }
 

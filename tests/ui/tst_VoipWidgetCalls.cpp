@@ -2,6 +2,7 @@
 
 #include "ContactFixture.h"
 #include "ShownCall.h"
+#include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "ui/VoipWidget.h"
 
@@ -78,7 +79,7 @@ void tst_VoipWidgetCalls::voiceCallShowsNameStateAndRequestControls()
 
     window.setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, CVoipWidget::Voice, myCall, false);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
 
     QCOMPARE(window.windowTitle(), QStringLiteral("语音通话"));
     QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("语音通话"));
@@ -253,7 +254,7 @@ void tst_VoipWidgetCalls::droppedStatusGoesBackToRequestControlsAndTheClockRunsO
     QVERIFY(clock->isActive());
     QVERIFY(!shown.label("currentPlayTimeLabel")->isHidden());
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
     QVERIFY(!shown.label("currentPlayTimeLabel")->isVisible());
     window.close();
     QVERIFY(clock->isActive());
@@ -271,7 +272,7 @@ void tst_VoipWidgetCalls::clockShowsTheSecondsSinceConnecting()
     auto *clock = window.findChild<QTimer *>(QStringLiteral("m_callTimeTimer"));
     clock->setInterval(0);
 
-    QTRY_VERIFY(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")));
+    QTRY_VERIFY_WITH_TIMEOUT(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")), kPatienceMs);
 }
 
 void tst_VoipWidgetCalls::clockWritesAgainAfterTheCallWasCleared()
@@ -287,7 +288,7 @@ void tst_VoipWidgetCalls::clockWritesAgainAfterTheCallWasCleared()
 
     window.findChild<QTimer *>(QStringLiteral("m_callTimeTimer"))->setInterval(0);
 
-    QTRY_VERIFY(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")));
+    QTRY_VERIFY_WITH_TIMEOUT(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")), kPatienceMs);
 }
 
 void tst_VoipWidgetCalls::clockRunsNegativeAcrossMidnight()

@@ -2,6 +2,7 @@
 
 #include "CallWindowTest.h"
 #include "fakes/MessageBoxes.h"
+#include "fakes/Patience.h"
 #include "widgets/PushButtonEx.h"
 
 #include <QApplication>
@@ -117,7 +118,7 @@ void tst_VoipWidgetKeys::escapeInsideAWatchedControlAsksOnce()
     QWidget *pFocus = pInner != nullptr ? pInner : pControl;
     pFocus->setFocusPolicy(Qt::StrongFocus);
     m_pWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
     pFocus->setFocus();
     QCOMPARE(QApplication::focusWidget(), pFocus);
     const MessageBoxes questions;
@@ -187,7 +188,7 @@ void tst_VoipWidgetKeys::typedKeysEndNoCall()
         startCall(CVoipWidget::Voice, bConnected);
         showWindow();
         m_pWindow->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
         for (const int iKey : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return})
             QTest::keyClick(m_pWindow->windowHandle(), Qt::Key(iKey));
     }

@@ -1,6 +1,7 @@
 // How the mouse moves and resizes the call window: events through the window system, from the press to the release.
 
 #include "CallWindowTest.h"
+#include "fakes/Patience.h"
 #include "widgets/MyRubberBand.h"
 
 #include <QApplication>
@@ -83,8 +84,8 @@ void tst_VoipWidgetMouse::showAtHome()
     m_pWindow->move(cHome);
     startCall(CVoipWidget::Voice, true);
     showWindow();
-    QTRY_COMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
-    QTRY_COMPARE(m_pWindow->windowHandle()->geometry(), QRect(cHome, cSize));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->geometry(), QRect(cHome, cSize), kPatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->windowHandle()->geometry(), QRect(cHome, cSize), kPatienceMs);
 }
 
 void tst_VoipWidgetMouse::mouseDown(const QPoint &away, Qt::MouseButton held)
@@ -173,7 +174,7 @@ void tst_VoipWidgetMouse::dragOfAnEdgeMovesTheBandAndThenTheCorner()
     mouseUp(target);
     QVERIFY(!isBandShown());
     // The window's size is fixed: only the corner comes from the band.
-    QTRY_COMPARE(m_pWindow->geometry(), QRect(cHome + bandRect.topLeft(), cSize));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->geometry(), QRect(cHome + bandRect.topLeft(), cSize), kPatienceMs);
 }
 
 void tst_VoipWidgetMouse::dragInwardsKeepsTheSmallestSize_data()
@@ -213,7 +214,7 @@ void tst_VoipWidgetMouse::dragLeftEdgeAndMoveHome()
     mouseDown(QPoint(1, 200));
     mouseTo(QPoint(-50, 200));
     mouseUp(QPoint(-50, 200));
-    QTRY_COMPARE(m_pWindow->pos(), cHome + QPoint(-50, 0));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), cHome + QPoint(-50, 0), kPatienceMs);
     m_pWindow->move(cHome);
 }
 
@@ -222,7 +223,7 @@ void tst_VoipWidgetMouse::pressInTheBandWithoutAMoveOnlyHidesTheBand()
     showAtHome();
     // A finished drag before leaves a rectangle behind, which the second release must not use.
     dragLeftEdgeAndMoveHome();
-    QTRY_COMPARE(m_pWindow->windowHandle()->geometry(), QRect(cHome, cSize));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->windowHandle()->geometry(), QRect(cHome, cSize), kPatienceMs);
 
     mouseTo(QPoint(1, 200));
     mouseDown(QPoint(1, 200));
@@ -238,10 +239,11 @@ void tst_VoipWidgetMouse::dragOfTheInsideMovesTheWindowAtOnce()
     mouseTo(cInside);
     mouseDown(cInside);
     mouseTo(cInside + QPoint(30, 40));
-    QTRY_COMPARE(m_pWindow->windowHandle()->geometry(), QRect(cHome + QPoint(30, 40), cSize));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->windowHandle()->geometry(), QRect(cHome + QPoint(30, 40), cSize), kPatienceMs);
     QVERIFY(band() == nullptr);
     mouseTo(cInside + QPoint(-60, -70));
-    QTRY_COMPARE(m_pWindow->windowHandle()->geometry(), QRect(cHome + QPoint(-60, -70), cSize));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->windowHandle()->geometry(), QRect(cHome + QPoint(-60, -70), cSize),
+                              kPatienceMs);
     mouseUp(cInside + QPoint(-60, -70));
     QCOMPARE(m_pWindow->pos(), cHome + QPoint(-60, -70));
     mouseTo(cInside + QPoint(5, 5));
@@ -313,7 +315,7 @@ void tst_VoipWidgetMouse::releaseForgetsTheEdge()
     mouseDown(QPoint(1, 200));
     QVERIFY(!isBandShown());
     mouseTo(QPoint(21, 200));
-    QTRY_COMPARE(m_pWindow->pos(), cHome + QPoint(20, 0));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), cHome + QPoint(20, 0), kPatienceMs);
     mouseUp(QPoint(21, 200));
 }
 

@@ -3,6 +3,7 @@
 #include "CallWindowTest.h"
 #include "common/pictures/PictureNames.h"
 #include "fakes/FileBytes.h"
+#include "fakes/Patience.h"
 #include "fakes/QtMessages.h"
 
 #include <QApplication>
@@ -114,7 +115,7 @@ void tst_VoipWidgetVolume::timersHideTheirSliderOnce()
     QVERIFY(!pTimer->isActive());
     pSlider->show();
     pTimer->start(0);
-    QTRY_VERIFY(pSlider->isHidden());
+    QTRY_VERIFY_WITH_TIMEOUT(pSlider->isHidden(), kPatienceMs);
     QVERIFY(!pTimer->isActive());
 }
 
@@ -194,7 +195,7 @@ void tst_VoipWidgetVolume::snapshotTakesThePlaceInTheParent()
 {
     showVideo();
     part<QWidget>("videoDisplayPage")->layout()->setContentsMargins(30, 20, 0, 0);
-    QTRY_COMPARE(part<QWidget>("playFramWidget")->pos(), QPoint(30, 20));
+    QTRY_COMPARE_WITH_TIMEOUT(part<QWidget>("playFramWidget")->pos(), QPoint(30, 20), kPatienceMs);
     const QString strPath = QDir::current().absoluteFilePath(QStringLiteral("moved.png"));
     answerDialog(strPath);
     call("slot_CaptureButtonClicked");

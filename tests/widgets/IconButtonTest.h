@@ -3,6 +3,7 @@
 // What the tests of the icon button share: a button in a shown window under a skin of the test's own, the style sheets
 // that it should have, and the mouse on it.
 
+#include "fakes/Patience.h"
 #include "widgets/BareWindow.h"
 #include "widgets/IconButtonEx.h"
 #include "widgets/OwnSkin.h"
@@ -106,7 +107,7 @@ private slots:
         m_pButton = new CIconButtonEx(&m_window);
         m_pButton->setGeometry(40, 40, cSide, cSide);
         m_window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_window));
+        QVERIFY(QTest::qWaitForWindowExposed(&m_window, kPatienceMs));
         moveOut();
         QCoreApplication::processEvents();
     }

@@ -2,6 +2,7 @@
 
 // What the tests of the one-line edit field share: a field of its own for each test, shown where a test needs its keys.
 
+#include "fakes/Patience.h"
 #include "widgets/LineEditEx.h"
 
 #include <QTest>
@@ -19,7 +20,7 @@ protected:
     {
         m_pEdit->resize(236, 30);
         m_pEdit->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_pEdit.get()));
+        QVERIFY(QTest::qWaitForWindowActive(m_pEdit.get(), kPatienceMs));
         m_pEdit->setFocus();
     }
 

@@ -4,6 +4,7 @@
 // name. GUI thread.
 
 #include "fakes/ClickTarget.h"
+#include "fakes/Patience.h"
 #include "widgets/ErrorMessage.h"
 #include "widgets/PushButtonEx.h"
 
@@ -24,7 +25,7 @@ namespace ShownDialog {
 inline void whenShown(ErrorMessage &dialog, const std::function<void()> &act)
 {
     QTimer::singleShot(0, &dialog, [&dialog, act] {
-        if (QTest::qWaitForWindowExposed(&dialog))
+        if (QTest::qWaitForWindowExposed(&dialog, kPatienceMs))
             act();
         if (dialog.isVisible())
             dialog.close();

@@ -1,5 +1,6 @@
 #include "widgets/BaseFormEx.h"
 
+#include "fakes/Patience.h"
 #include "widgets/OwnSkin.h"
 
 #include <QCoreApplication>
@@ -373,7 +374,7 @@ void tst_BaseFormEx::onlyTheTitlePictureAsksForAPaint()
     form.resize(cWidth, cHeight);
     form.setAttribute(Qt::WA_DontShowOnScreen);
     form.show();
-    QTRY_VERIFY(form.m_iPaints > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(form.m_iPaints > 0, kPatienceMs);
     QCoreApplication::processEvents();
     const int iBefore = form.m_iPaints;
     act(form);

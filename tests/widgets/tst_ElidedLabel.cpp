@@ -1,3 +1,4 @@
+#include "fakes/Patience.h"
 #include "widgets/ElidedLabel.h"
 
 #include <QBoxLayout>
@@ -81,7 +82,7 @@ void tst_ElidedLabel::nameOfSeveralLinesIsWholeWhereThereIsRoom()
     pLayout->addStretch();
     window.resize(400, 60);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
     QCOMPARE(pLabel->shownText(), QStringLiteral("Ann of the house by the sea"));
     QCOMPARE(pLabel->sizeHint().height(), ElidedLabel().sizeHint().height());
 }

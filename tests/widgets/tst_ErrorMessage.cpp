@@ -2,6 +2,7 @@
 // tests of their own.
 
 #include "ShownDialog.h"
+#include "fakes/Patience.h"
 #include "widgets/Brackets.h"
 
 #include <QApplication>
@@ -104,7 +105,7 @@ void tst_ErrorMessage::formsOwnConnectionClosesToo()
     ErrorMessage dialog(QString(), QString(), nullptr);
     QVERIFY(QObject::disconnect(button(dialog, "closeBtn"), SIGNAL(clicked()), &dialog, SLOT(slot_clickedCloseBtn())));
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog, kPatienceMs));
     dialog.m_bAccepted = true;
     click(dialog, "closeBtn");
     QVERIFY(!dialog.isVisible());

@@ -3,6 +3,7 @@
 
 #include "ShownDialog.h"
 
+#include "fakes/Patience.h"
 #include "widgets/LineEditEx.h"
 #include "widgets/TextEditEx.h"
 
@@ -135,7 +136,7 @@ void tst_ErrorMessageFields::nameStartsEmptyFocusedAndAcceptable()
     bool bFocused = false;
     whenShown(dialog, [&] {
         auto *pField = part<CLineEditEx>(dialog, "lineEdit");
-        bFocused = QTest::qWaitForWindowActive(&dialog) && pField->getLineEdit()->hasFocus();
+        bFocused = QTest::qWaitForWindowActive(&dialog, kPatienceMs) && pField->getLineEdit()->hasFocus();
         click(dialog, "acceptBtn");
         QVERIFY(!dialog.isVisible());
     });

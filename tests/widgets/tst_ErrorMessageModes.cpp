@@ -1,6 +1,7 @@
 // The modes of the message dialog: what each shows. What their fields let in has a test of its own.
 
 #include "ShownDialog.h"
+#include "fakes/Patience.h"
 
 #include <QApplication>
 #include <QSignalSpy>
@@ -93,7 +94,7 @@ void tst_ErrorMessageModes::eachModeHasItsPageAndButtons()
     whenShown(dialog, look);
     mode.run(dialog);
     QCOMPARE(bSeen, mode.bModal);
-    QTRY_VERIFY(bSeen && !dialog.isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(bSeen && !dialog.isVisible(), kPatienceMs);
     QVERIFY(!dialog.m_bAccepted);
 }
 
@@ -205,7 +206,7 @@ void tst_ErrorMessageModes::hotKeyLinkOpensTheSettings()
 {
     ErrorMessage dialog(QString(), QString(), nullptr);
     dialog.showHotKeyError(QStringLiteral("Title"), 0);
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog, kPatienceMs));
     const QSignalSpy opened(&dialog, &ErrorMessage::signal_OpenSysSetUi);
     dialog.m_bAccepted = true;
     auto *pLink = part<QLabel>(dialog, "label_11");

@@ -2,6 +2,7 @@
 
 #include "widgets/Brackets.h"
 
+#include "fakes/Patience.h"
 #include "widgets/LineEditEx.h"
 #include "widgets/MenuEx.h"
 #include "widgets/TextEditEx.h"
@@ -33,7 +34,7 @@ private slots:
     {
         CTextEditEx edit;
         edit.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&edit));
+        QVERIFY(QTest::qWaitForWindowExposed(&edit, kPatienceMs));
         QStringList words;
         QTimer::singleShot(0, &edit, [&words] {
             auto *pMenu = qobject_cast<CMenuEx *>(QApplication::activePopupWidget());

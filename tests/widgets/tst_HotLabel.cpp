@@ -1,5 +1,6 @@
 #include "widgets/HotLabel.h"
 
+#include "fakes/Patience.h"
 #include "widgets/BareWindow.h"
 
 #include <QSignalSpy>
@@ -47,7 +48,7 @@ void tst_HotLabel::init()
     m_pLabel->setGeometry(50, 40, 120, 20);
     m_pLabel->setText(QStringLiteral("from the form"));
     m_window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&m_window));
+    QVERIFY(QTest::qWaitForWindowExposed(&m_window, kPatienceMs));
     moveTo(QPoint(2, 2));
 }
 
@@ -62,9 +63,9 @@ void tst_HotLabel::wordsBecomeALinkUnderTheMouse()
 {
     QCOMPARE(m_pLabel->text(), QStringLiteral("from the form"));
     moveTo(middle());
-    QTRY_COMPARE(m_pLabel->text(), QStringLiteral("<a href=\"#\">modifyhotkey</a>"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("<a href=\"#\">modifyhotkey</a>"), kPatienceMs);
     moveTo(QPoint(2, 2));
-    QTRY_COMPARE(m_pLabel->text(), QStringLiteral("modifyhotkey"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("modifyhotkey"), kPatienceMs);
 }
 
 void tst_HotLabel::wordsAreTranslatedInTheSharedContext()
@@ -72,9 +73,9 @@ void tst_HotLabel::wordsAreTranslatedInTheSharedContext()
     Words words;
     QVERIFY(QCoreApplication::installTranslator(&words));
     moveTo(middle());
-    QTRY_COMPARE(m_pLabel->text(), QStringLiteral("<a href=\"#\">修改热键</a>"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("<a href=\"#\">修改热键</a>"), kPatienceMs);
     moveTo(QPoint(2, 2));
-    QTRY_COMPARE(m_pLabel->text(), QStringLiteral("修改热键"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("修改热键"), kPatienceMs);
     QCoreApplication::removeTranslator(&words);
 }
 
@@ -85,7 +86,7 @@ void tst_HotLabel::leftReleaseSendsTheShownText()
     QTest::mousePress(m_window.windowHandle(), Qt::LeftButton, {}, middle());
     QCOMPARE(clicked.count(), 0);
     QTest::mouseRelease(m_window.windowHandle(), Qt::LeftButton, {}, middle());
-    QTRY_COMPARE(clicked.count(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, kPatienceMs);
     QCOMPARE(clicked.first().first().toString(), QStringLiteral("<a href=\"#\">modifyhotkey</a>"));
 }
 
@@ -108,11 +109,11 @@ void tst_HotLabel::releaseOfALinkStillReachesTheLabel()
 {
     QSignalSpy activated(m_pLabel, &QLabel::linkActivated);
     moveTo(middle());
-    QTRY_VERIFY(m_pLabel->text().startsWith(QLatin1String("<a ")));
+    QTRY_VERIFY_WITH_TIMEOUT(m_pLabel->text().startsWith(QLatin1String("<a ")), kPatienceMs);
     const QPoint onTheWords = m_pLabel->geometry().topLeft() + QPoint(10, m_pLabel->height() / 2);
     moveTo(onTheWords);
     QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, onTheWords);
-    QTRY_COMPARE(activated.count(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(activated.count(), 1, kPatienceMs);
     QCOMPARE(activated.first().first().toString(), QStringLiteral("#"));
 }
 

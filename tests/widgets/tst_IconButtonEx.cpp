@@ -2,6 +2,7 @@
 #include "widgets/IconButtonTest.h"
 
 #include "common/Palette.h"
+#include "fakes/Patience.h"
 
 #include <QLayout>
 
@@ -296,7 +297,7 @@ void tst_IconButtonEx::setDisabledDoesNotTouchTheAnswer()
     QVERIFY(!inner(*m_pButton)->isEnabled());
     QCOMPARE(face(*m_pButton), glyphIn(cDisabled));
     moveIn();
-    QTRY_COMPARE(face(*m_pButton), glyphIn(cIcon, cHover));
+    QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), glyphIn(cIcon, cHover), kPatienceMs);
     m_pButton->setDisabled(false);
     QVERIFY(inner(*m_pButton)->isEnabled());
     QCOMPARE(face(*m_pButton), glyphIn(cIcon, cHover));

@@ -1,3 +1,4 @@
+#include "fakes/Patience.h"
 #include "widgets/IconButtonTest.h"
 
 #include <QLayout>
@@ -31,10 +32,10 @@ void tst_IconButtonMouse::enterAndLeaveRestyle()
     m_pButton->setIconFont(QStringLiteral("x"), 12, 2);
     m_skin->m_strThirdIconColor = QStringLiteral("#00ff00");
     moveIn();
-    QTRY_COMPARE(face(*m_pButton), glyphIn(cIcon, QStringLiteral("#00ff00")));
+    QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), glyphIn(cIcon, QStringLiteral("#00ff00")), kPatienceMs);
     m_skin->m_strThirdIconColor = QStringLiteral("#0000ff");
     moveOut();
-    QTRY_COMPARE(face(*m_pButton), glyphIn(cIcon, QStringLiteral("#0000ff")));
+    QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), glyphIn(cIcon, QStringLiteral("#0000ff")), kPatienceMs);
 }
 
 void tst_IconButtonMouse::enterDoesNotRestyleADisabledButton()
@@ -42,10 +43,10 @@ void tst_IconButtonMouse::enterDoesNotRestyleADisabledButton()
     m_pButton->setIconFont(QStringLiteral("x"), 12, 0);
     m_pButton->setEnabled(false);
     moveIn();
-    QTRY_VERIFY(m_pButton->underMouse());
+    QTRY_VERIFY_WITH_TIMEOUT(m_pButton->underMouse(), kPatienceMs);
     QCOMPARE(face(*m_pButton), glyphIn(cDisabled));
     moveOut();
-    QTRY_VERIFY(!m_pButton->underMouse());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_pButton->underMouse(), kPatienceMs);
     QCOMPARE(face(*m_pButton), glyphIn(cDisabled));
 }
 
@@ -55,13 +56,13 @@ void tst_IconButtonMouse::hoverBackgroundShowsUnderTheMouse()
     const QColor around = m_window.grab().toImage().pixelColor(2, 2);
     QCOMPARE(seenAt(3, cSide / 2), around);
     moveIn();
-    QTRY_VERIFY(m_pButton->underMouse());
+    QTRY_VERIFY_WITH_TIMEOUT(m_pButton->underMouse(), kPatienceMs);
     QCOMPARE(seenAt(3, cSide / 2), QColor(cFifth));
     QCOMPARE(seenAt(cSide / 2, cSide / 2), QColor(Qt::white));
     // The background's corners are round.
     QVERIFY(seenAt(0, 0) != QColor(cFifth));
     moveOut();
-    QTRY_VERIFY(!m_pButton->underMouse());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_pButton->underMouse(), kPatienceMs);
     QCOMPARE(seenAt(3, cSide / 2), around);
 }
 

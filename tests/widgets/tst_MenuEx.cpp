@@ -1,6 +1,7 @@
 #include "widgets/MenuEx.h"
 
 #include "common/Palette.h"
+#include "fakes/Patience.h"
 
 #include <QShowEvent>
 #include <QSignalSpy>
@@ -118,14 +119,14 @@ void tst_MenuEx::longEntryStaysWithin300Pixels()
     CMenuEx menu;
     menu.addAction(QString(400, QLatin1Char('W')));
     menu.popup(QPoint(100, 100));
-    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    QVERIFY(QTest::qWaitForWindowExposed(&menu, kPatienceMs));
     QVERIFY(menu.width() <= 300);
 }
 
 void tst_MenuEx::leftClickTriggersTheEntryAndClosesTheMenu()
 {
     const std::unique_ptr<CMenuEx> menu = shownMenu();
-    QVERIFY(QTest::qWaitForWindowExposed(menu.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
     const QSignalSpy triggered(menu.get(), &QMenu::triggered);
     QTest::mouseClick(menu.get(), Qt::LeftButton, Qt::NoModifier, entry(*menu));
     QCOMPARE(triggered.count(), 1);
@@ -135,7 +136,7 @@ void tst_MenuEx::leftClickTriggersTheEntryAndClosesTheMenu()
 void tst_MenuEx::rightClickOnAnEntryLeavesTheMenuOpen()
 {
     const std::unique_ptr<CMenuEx> menu = shownMenu();
-    QVERIFY(QTest::qWaitForWindowExposed(menu.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
     const QSignalSpy triggered(menu.get(), &QMenu::triggered);
     QTest::mouseClick(menu.get(), Qt::RightButton, Qt::NoModifier, entry(*menu));
     QCOMPARE(triggered.count(), 0);
@@ -145,7 +146,7 @@ void tst_MenuEx::rightClickOnAnEntryLeavesTheMenuOpen()
 void tst_MenuEx::pressOutsideClosesTheMenu()
 {
     const std::unique_ptr<CMenuEx> menu = shownMenu();
-    QVERIFY(QTest::qWaitForWindowExposed(menu.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
     QTest::mousePress(menu.get(), Qt::LeftButton, Qt::NoModifier, QPoint(-20, -20));
     QVERIFY(!menu->isVisible());
 }
@@ -153,7 +154,7 @@ void tst_MenuEx::pressOutsideClosesTheMenu()
 void tst_MenuEx::keyboardChoosesAnEntry()
 {
     const std::unique_ptr<CMenuEx> menu = shownMenu();
-    QVERIFY(QTest::qWaitForWindowExposed(menu.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
     const QSignalSpy triggered(menu.get(), &QMenu::triggered);
     QTest::keyClick(menu.get(), Qt::Key_Down);
     QTest::keyClick(menu.get(), Qt::Key_Return);
@@ -166,7 +167,7 @@ void tst_MenuEx::choiceIsTheResultOfExec()
     CMenuEx menu;
     const QAction *pEntry = menu.addAction(QStringLiteral("entry"));
     QTimer::singleShot(0, &menu, [&menu] {
-        if (QTest::qWaitForWindowExposed(&menu))
+        if (QTest::qWaitForWindowExposed(&menu, kPatienceMs))
             QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, entry(menu));
         menu.close();
     });

@@ -1,5 +1,6 @@
 #include "widgets/PushButtonEx.h"
 
+#include "fakes/Patience.h"
 #include "widgets/BareWindow.h"
 #include "widgets/OwnSkin.h"
 
@@ -119,7 +120,7 @@ void tst_PushButtonEx::init()
     m_pButton = new PushButtonEx(&m_window);
     m_pButton->setGeometry(40, 40, 72, 32);
     m_window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&m_window));
+    QVERIFY(QTest::qWaitForWindowExposed(&m_window, kPatienceMs));
     moveOut();
     QCoreApplication::processEvents();
 }
@@ -203,10 +204,10 @@ void tst_PushButtonEx::skinChangeShowsAtTheNextHover()
     m_skin->m_strButtonBorderColor = strNew;
     QCOMPARE(back(*m_pButton)->styleSheet(), frame(cBorder));
     moveIn();
-    QTRY_COMPARE(back(*m_pButton)->styleSheet(), frame(strNew));
+    QTRY_COMPARE_WITH_TIMEOUT(back(*m_pButton)->styleSheet(), frame(strNew), kPatienceMs);
     m_skin->m_strButtonBorderColor = cBorder;
     moveOut();
-    QTRY_COMPARE(back(*m_pButton)->styleSheet(), frame(cBorder));
+    QTRY_COMPARE_WITH_TIMEOUT(back(*m_pButton)->styleSheet(), frame(cBorder), kPatienceMs);
 }
 
 void tst_PushButtonEx::updateTakesTheSkinAndRepaints()
@@ -232,7 +233,7 @@ void tst_PushButtonEx::typeStaysOverAHover()
     m_pButton->setEnabled(true);
     QCOMPARE(face(*m_pButton), setB().normal + setB().hover);
     moveIn();
-    QTRY_COMPARE(face(*m_pButton), setB().all());
+    QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), setB().all(), kPatienceMs);
 }
 
 void tst_PushButtonEx::fontSizeIsInPixels()
@@ -285,9 +286,9 @@ void tst_PushButtonEx::statesAreSeen()
     QCOMPARE(seen(), QColor(cBack));
     QCOMPARE(m_pButton->grab().toImage().pixelColor(36, 0), QColor(cBorder));
     moveIn();
-    QTRY_COMPARE(seen(), QColor(cHoverBack));
+    QTRY_COMPARE_WITH_TIMEOUT(seen(), QColor(cHoverBack), kPatienceMs);
     moveOut();
-    QTRY_COMPARE(seen(), QColor(cBack));
+    QTRY_COMPARE_WITH_TIMEOUT(seen(), QColor(cBack), kPatienceMs);
     m_pButton->setEnabled(false);
     QCOMPARE(seen(), QColor(cDisabledBack));
     m_pButton->setEnabled(true);
@@ -303,7 +304,7 @@ void tst_PushButtonEx::clickIsSent()
 {
     const QSignalSpy clicked(m_pButton, &PushButtonEx::clicked);
     QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, m_pButton->geometry().center());
-    QTRY_COMPARE(clicked.count(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, kPatienceMs);
     QTest::mouseClick(m_window.windowHandle(), Qt::RightButton, {}, m_pButton->geometry().center());
     QCoreApplication::processEvents();
     QCOMPARE(clicked.count(), 1);
@@ -325,7 +326,7 @@ void tst_PushButtonEx::keyboardClicks()
     button.setDefault(true);
     const QSignalSpy clicked(&button, &PushButtonEx::clicked);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog, kPatienceMs));
     QTest::keyClick(&dialog, Qt::Key_Return);
     QCOMPARE(clicked.count(), 1);
     QTest::keyClick(inner(button), Qt::Key_Space);

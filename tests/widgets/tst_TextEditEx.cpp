@@ -3,6 +3,7 @@
 #include "widgets/OwnSkin.h"
 
 #include "common/Palette.h"
+#include "fakes/Patience.h"
 #include "widgets/MenuEx.h"
 
 #include <QApplication>
@@ -48,7 +49,7 @@ private:
     {
         m_pEdit->resize(240, 120);
         m_pEdit->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_pEdit.get()));
+        QVERIFY(QTest::qWaitForWindowActive(m_pEdit.get(), kPatienceMs));
         m_pEdit->setFocus();
     }
     // Opens the context menu, runs `act` on it and closes it.

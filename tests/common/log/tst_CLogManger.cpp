@@ -3,6 +3,7 @@
 #include "common/CLogManger.h"
 #include "common/CLogThread.h"
 #include "common/CustomLogger.h"
+#include "fakes/Patience.h"
 #include "model/SharedContext.h"
 
 #include <QtTest>
@@ -34,10 +35,12 @@ struct Host
     QStringList lines(int count)
     {
         thread.start();
-        const bool written = QTest::qWaitFor([this, count] {
-            logger.flush();
-            return readBytes(logFile).count('\n') >= count;
-        });
+        const bool written = QTest::qWaitFor(
+            [this, count] {
+                logger.flush();
+                return readBytes(logFile).count('\n') >= count;
+            },
+            kPatienceMs);
         if (!written) {
             return {QStringLiteral("too few lines")};
         }

@@ -2,6 +2,7 @@
 
 #include "common/CLogThread.h"
 #include "common/CustomLogger.h"
+#include "fakes/Patience.h"
 
 #include <QDateTime>
 #include <QtTest>
@@ -65,7 +66,7 @@ public:
     {
         thread.start();
         thread.printLog(CustomLog::Debug, {}, "before");
-        const bool waits = QTest::qWaitFor([this] { return hasWritten(1) && sleeps(); });
+        const bool waits = QTest::qWaitFor([this] { return hasWritten(1) && sleeps(); }, kPatienceMs);
         thread.stop();
         return waits;
     }
@@ -112,7 +113,7 @@ private slots:
         writer.thread.printLog(CustomLog::Info, "b.cpp:2", "second");
         writer.thread.start();
         writer.thread.printLog(CustomLog::Debug, "c.cpp:3", "third");
-        QTRY_VERIFY(writer.hasWritten(3));
+        QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(3), kPatienceMs);
         QCOMPARE(messages(), (QStringList{"first", "second", "third"}));
         QVERIFY(readBytes(LOG).contains("[WARN][a.cpp:1]: first\n"));
         QVERIFY(readBytes(LOG).contains("[INFO][b.cpp:2]: second\n"));
@@ -135,7 +136,7 @@ private slots:
         for (const auto &caller : callers) {
             QVERIFY(caller->wait());
         }
-        QTRY_VERIFY(writer.hasWritten(2000));
+        QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(2000), kPatienceMs);
         const QStringList all = messages();
         QCOMPARE(all.size(), 2000);
         for (int caller = 0; caller < 4; ++caller) {
@@ -155,7 +156,7 @@ private slots:
         while (QDateTime::currentDateTime() <= queued) {
         }
         writer.thread.start();
-        QTRY_VERIFY(writer.hasWritten(1));
+        QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(1), kPatienceMs);
         QVERIFY(QDateTime::fromString(QString::fromLatin1(readBytes(LOG).mid(1, 23)), "yyyy-MM-dd hh:mm:ss.zzz") >
                 queued);
     }
@@ -167,11 +168,11 @@ private slots:
         QCOMPARE(writer.thread.getCustomLogger(), nullptr);
         writer.thread.printLog(CustomLog::Debug, {}, "lost");
         writer.thread.start();
-        QTRY_VERIFY(writer.sleeps());
+        QTRY_VERIFY_WITH_TIMEOUT(writer.sleeps(), kPatienceMs);
         writer.thread.setCustomLogger(&writer.logger);
         QCOMPARE(writer.thread.getCustomLogger(), &writer.logger);
         writer.thread.printLog(CustomLog::Debug, {}, "kept");
-        QTRY_VERIFY(writer.hasWritten(1));
+        QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(1), kPatienceMs);
         QCOMPARE(messages(), QStringList{"kept"});
     }
 
@@ -235,8 +236,8 @@ private slots:
                 writer.thread.printLog(CustomLog::Debug, {}, "text");
             }
             written += count;
-            QTRY_VERIFY(writer.hasWritten(written));
-            QTRY_VERIFY(writer.sleeps());
+            QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(written), kPatienceMs);
+            QTRY_VERIFY_WITH_TIMEOUT(writer.sleeps(), kPatienceMs);
         };
         // The count goes on from run to run, so it may stand anywhere when this test begins.
         const int atStart = rests;
@@ -264,7 +265,7 @@ private slots:
                 writer.thread.printLog(CustomLog::Debug, {}, "text");
             }
             writer.thread.start();
-            QTRY_VERIFY(writer.hasWritten(50));
+            QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(50), kPatienceMs);
         }
         QVERIFY(rests - before >= 2);
     }

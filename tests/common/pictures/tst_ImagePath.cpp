@@ -1,5 +1,6 @@
 #include "common/pictures/ImagePath.h"
 
+#include "fakes/Allocations.h"
 #include "fakes/FileBytes.h"
 #include "fakes/PictureFiles.h"
 
@@ -124,6 +125,15 @@ private slots:
         QString strFixed = path;
         QVERIFY(!ImagePath::getIsImageFixError(strFixed));
         QCOMPARE(strFixed, path);
+    }
+
+    void memberWithoutAPictureAsksForNoFile()
+    {
+        QString strPath;
+        // Not even an object that could open one.
+        QCOMPARE(Allocations::during([&] { strPath = ImagePath::getTrueImagePath(QString(), FALLBACK); }), 0);
+        QCOMPARE(strPath, FALLBACK);
+        QVERIFY(Allocations::during([&] { ImagePath::getTrueImagePath(FALLBACK, FALLBACK); }) > 0);
     }
 
 private:

@@ -1,6 +1,8 @@
 #pragma once
 // A test function in a process of its own, for what is read once for a process: the locale, a cached file.
 
+#include "fakes/Patience.h"
+
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QtTest>
@@ -30,7 +32,7 @@ inline QByteArray failureInOwnProcess(const QStringList &variables, const QStrin
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(folder);
     process.start(program, {QTest::testObject()->metaObject()->className(), function});
-    if (!process.waitForFinished()) {
+    if (!process.waitForFinished(kPatienceMs)) {
         return "did not end: " + process.errorString().toUtf8();
     }
     const bool passed = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;

@@ -3,6 +3,7 @@
 #include "common/system/SystemOpen.h"
 
 #include "fakes/FileBytes.h"
+#include "fakes/Patience.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -69,7 +70,7 @@ private slots:
         QVERIFY(SystemOpen::openLocalFile("my folder/a file.txt"));
         const QByteArray wanted =
             QFile::encodeName(QDir::current().absoluteFilePath("my folder/a file.txt")) + "\nend\n";
-        QTRY_COMPARE(readBytes("opened"), wanted);
+        QTRY_COMPARE_WITH_TIMEOUT(readBytes("opened"), wanted, kPatienceMs);
     }
 
     void aFileThatCannotBeReadIsNotOpened()
@@ -93,7 +94,7 @@ private slots:
         QFETCH(QByteArray, words);
         QVERIFY(QDir().mkpath(folder));
         QVERIFY(SystemOpen::openLocalDir(folder + "missing file.txt"));
-        QTRY_COMPARE(readBytes("opened"), words);
+        QTRY_COMPARE_WITH_TIMEOUT(readBytes("opened"), words, kPatienceMs);
     }
 
     void theFolderEndsAtTheFirstPlaceOfTheFileName()
@@ -101,7 +102,7 @@ private slots:
         QVERIFY(QDir().mkpath("data/data"));
         QVERIFY(!SystemOpen::openLocalDir("data/data"));
         QVERIFY(SystemOpen::openLocalDir("./data/data"));
-        QTRY_COMPARE(readBytes("opened"), QByteArray("./\nend\n"));
+        QTRY_COMPARE_WITH_TIMEOUT(readBytes("opened"), QByteArray("./\nend\n"), kPatienceMs);
     }
 
     void aMissingFolderIsNotOpened()

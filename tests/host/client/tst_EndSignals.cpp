@@ -1,4 +1,5 @@
 #include "client/EndSignals.h"
+#include "fakes/Patience.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -30,7 +31,7 @@ void tst_EndSignals::requestToEndArrivesThroughTheEventLoop()
     QSignalSpy requested(&endSignals, &EndSignals::endRequested);
     ::raise(number);
     QCOMPARE(requested.count(), 0);
-    QTRY_COMPARE(requested.count(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(requested.count(), 1, kPatienceMs);
 }
 
 void tst_EndSignals::defaultHandlingComesBack()

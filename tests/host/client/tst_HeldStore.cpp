@@ -8,6 +8,7 @@
 #include "screen/WindowProbe.h"
 #include "store/LockHolder.h"
 
+#include "fakes/Patience.h"
 #include "model/SystemSetData.h"
 
 #include <QDir>
@@ -42,7 +43,7 @@ void tst_HeldStore::heldStoreIsToldAndTriedAgain()
     QVERIFY(!session.store().isOpen());
     MainWindow window(session, book);
     window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, kPatienceMs));
     const auto isTold = [&window] {
         return WindowProbe::isShown(&window, "lblNotice") && WindowProbe::isShown(&window, "btnTryStore") &&
                WindowProbe::text(&window, "lblNotice").contains(QStringLiteral("is in use by another program"));

@@ -128,7 +128,7 @@ void tst_OwnerOnly::initTestCase()
     qputenv("VOIPSDK_TRACE", QFile::encodeName(m_strTrace));
     m_demo.setProcessChannelMode(QProcess::ForwardedChannels);
     m_demo.start(QStringLiteral(VOIP_BIN_DIR "/kelvarim-demo"), QStringList());
-    QVERIFY(m_demo.waitForStarted());
+    QVERIFY(m_demo.waitForStarted(kPatienceMs));
     // The registration is the last thing of a start.
     QTRY_VERIFY_WITH_TIMEOUT(
         QFile(m_strTrace).exists() &&
@@ -142,7 +142,7 @@ void tst_OwnerOnly::initTestCase()
 void tst_OwnerOnly::cleanupTestCase()
 {
     m_demo.terminate();
-    QVERIFY(m_demo.waitForFinished());
+    QVERIFY(m_demo.waitForFinished(kPatienceMs));
 }
 
 void tst_OwnerOnly::everythingMadeIsForItsOwnerAlone()

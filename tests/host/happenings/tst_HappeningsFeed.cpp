@@ -2,6 +2,7 @@
 #include "client/HostSession.h"
 #include "happenings/HappeningsFeed.h"
 
+#include "fakes/Patience.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"
@@ -255,7 +256,7 @@ void tst_HappeningsFeed::withoutATraceOnlyEventsCome()
 void tst_HappeningsFeed::timerLooksByItself()
 {
     append("1 = one\n");
-    QTRY_COMPARE(m_pModel->rowCount(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(m_pModel->rowCount(), 1, kPatienceMs);
 }
 
 #include "support/TestProgram.h"

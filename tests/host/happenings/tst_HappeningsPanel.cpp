@@ -4,6 +4,7 @@
 #include "host/panes/PressButton.h"
 #include "host/tour/Waves.h"
 
+#include "fakes/Patience.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"
@@ -111,7 +112,7 @@ void tst_HappeningsPanel::init()
     m_pSession = std::make_unique<HostSession>(m_book);
     m_pPanel = std::make_unique<HappeningsPanel>(*m_pSession, QStringLiteral("wire.txt"));
     m_pPanel->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_pPanel.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_pPanel.get(), kPatienceMs));
 }
 
 void tst_HappeningsPanel::cleanup()
@@ -285,7 +286,7 @@ void tst_HappeningsPanel::manyLinesCostOneRepaint()
     PaintCount paints;
     view()->viewport()->installEventFilter(&paints);
     lines(100, 1000);
-    QTRY_VERIFY(paints.count > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(paints.count > 0, kPatienceMs);
     QCoreApplication::processEvents();
     QCOMPARE(paints.count, 1);
 }
@@ -318,7 +319,7 @@ void tst_HappeningsPanel::languageIsTakenAnew()
     clickRow(0);
     Waves waves;
     QVERIFY(QCoreApplication::installTranslator(&waves));
-    QTRY_COMPARE(part<QPushButton>("btnClear")->text(), QStringLiteral("~Clear"));
+    QTRY_COMPARE_WITH_TIMEOUT(part<QPushButton>("btnClear")->text(), QStringLiteral("~Clear"), kPatienceMs);
     QCOMPARE(m_pPanel->windowTitle(), QStringLiteral("~What happens"));
     QCOMPARE(count(), QStringLiteral("~1 lines"));
     QVERIFY(part<QPlainTextEdit>("textDetail")->toPlainText().contains(QStringLiteral("\n~call process notes: n0\n")));

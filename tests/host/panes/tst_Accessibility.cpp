@@ -1,6 +1,7 @@
 #include "client/ContactBook.h"
 #include "client/HostLanguage.h"
 #include "client/HostSession.h"
+#include "fakes/Patience.h"
 #include "panes/MainWindow.h"
 #include "panes/MemberPicker.h"
 
@@ -82,7 +83,7 @@ void tst_Accessibility::init()
     m_pWindow->signature().showCard(QStringLiteral("30010002@example.org"), QPoint(300, 0), 100);
     for (QWidget *window : windows()) {
         window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window));
+        QVERIFY(QTest::qWaitForWindowExposed(window, kPatienceMs));
     }
     m_pWindow->settingsPage().open();
     QCoreApplication::processEvents();
@@ -164,7 +165,7 @@ void tst_Accessibility::buttonsHaveRoomForTheirWords()
 void tst_Accessibility::everyControlOfTheWindowIsReachedByTab()
 {
     m_pWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
     m_pWindow->findChild<QWidget *>(QStringLiteral("editSearch"))->setFocus();
     QStringList stops;
     for (int i = 0; i < 10; ++i) {

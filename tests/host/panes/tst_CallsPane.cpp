@@ -1,4 +1,5 @@
 #include "client/ContactBook.h"
+#include "fakes/Patience.h"
 #include "panes/CallsPane.h"
 #include "screen/WindowProbe.h"
 
@@ -45,7 +46,7 @@ void tst_CallsPane::init()
     m_pPane->resize(640, 400);
     m_pPane->show();
     m_pPane->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pPane.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_pPane.get(), kPatienceMs));
     m_pTable = m_pPane->findChild<QTableView *>();
 }
 

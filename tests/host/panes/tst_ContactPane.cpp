@@ -1,4 +1,5 @@
 #include "client/ContactBook.h"
+#include "fakes/Patience.h"
 #include "host/panes/PressButton.h"
 #include "panes/ContactPane.h"
 #include "screen/WindowProbe.h"
@@ -55,7 +56,7 @@ void tst_ContactPane::init()
     m_pPane->resize(380, 640);
     m_pPane->show();
     m_pPane->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pPane.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_pPane.get(), kPatienceMs));
     m_pSearch = m_pPane->findChild<QLineEdit *>(QStringLiteral("editSearch"));
     m_pPane->startSearch();
 }
@@ -232,10 +233,10 @@ void tst_ContactPane::clickMakesTheRowTheTabStop()
 void tst_ContactPane::rowWithTheFocusIsScrolledIntoView()
 {
     m_pPane->resize(380, 300);
-    QTRY_VERIFY(row("30010010")->visibleRegion().isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(row("30010010")->visibleRegion().isEmpty(), kPatienceMs);
     press(Qt::Key_Down);
     press(Qt::Key_End);
-    QTRY_COMPARE(row("30010010")->visibleRegion().boundingRect(), row("30010010")->rect());
+    QTRY_COMPARE_WITH_TIMEOUT(row("30010010")->visibleRegion().boundingRect(), row("30010010")->rect(), kPatienceMs);
 }
 
 void tst_ContactPane::numberIsCalledByReturn()

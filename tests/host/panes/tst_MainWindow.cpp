@@ -5,6 +5,7 @@
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
 
+#include "fakes/Patience.h"
 #include "model/SystemSetData.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
@@ -113,7 +114,7 @@ void tst_MainWindow::init()
     m_pSession = std::make_unique<HostSession>(m_book);
     m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
     m_pWindow->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
 }
 
 void tst_MainWindow::cleanup()
@@ -159,7 +160,7 @@ void tst_MainWindow::answerTakesThePromptAway()
     QSignalSpy answered(&m_pWindow->prompt(), &IncomingPrompt::answered);
     ring(QStringLiteral("30010006"));
     QVERIFY(pressButton(&m_pWindow->prompt(), button.constData()));
-    QTRY_COMPARE(answered.count(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(answered.count(), 1, kPatienceMs);
     QCOMPARE(answered.at(0), (QList<QVariant>{QStringLiteral("30010006"), accept}));
     QCOMPARE(m_pWindow->statusBar()->currentMessage(), status);
     QVERIFY(!m_pWindow->prompt().isVisible());
@@ -183,9 +184,9 @@ void tst_MainWindow::keyOnThePromptAnswers()
     IncomingPrompt &prompt = m_pWindow->prompt();
     QSignalSpy answered(&prompt, &IncomingPrompt::answered);
     m_pWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
     ring(QStringLiteral("30010006"));
-    QVERIFY(QTest::qWaitForWindowActive(&prompt));
+    QVERIFY(QTest::qWaitForWindowActive(&prompt, kPatienceMs));
     for (int i = 0; i < tabs; ++i) {
         QTest::keyClick(prompt.focusWidget(), Qt::Key_Tab);
     }
@@ -206,13 +207,13 @@ void tst_MainWindow::promptTakesTheKeyboardOfAnIdleUserOnly()
 {
     QFETCH(QString, typed);
     m_pWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
     QTest::keyClicks(m_pWindow->findChild<QLineEdit *>(QStringLiteral("editSearch")), typed);
     ring(QStringLiteral("30010006"));
-    QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt()));
+    QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt(), kPatienceMs));
     QFETCH(bool, takes);
     // What must not come cannot be waited for: a second is what it would need.
-    QCOMPARE(takes ? QTest::qWaitForWindowActive(&m_pWindow->prompt())
+    QCOMPARE(takes ? QTest::qWaitForWindowActive(&m_pWindow->prompt(), kPatienceMs)
                    : QTest::qWaitForWindowActive(&m_pWindow->prompt(), 1000),
              takes);
 }
@@ -220,19 +221,19 @@ void tst_MainWindow::promptTakesTheKeyboardOfAnIdleUserOnly()
 void tst_MainWindow::shortcutLeadsToThePrompt()
 {
     m_pWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
     QTest::keyClicks(m_pWindow->findChild<QLineEdit *>(QStringLiteral("editSearch")), QStringLiteral("mari"));
     ring(QStringLiteral("30010006"));
-    QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt()));
+    QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt(), kPatienceMs));
     QTest::keyClick(m_pWindow.get(), Qt::Key_I, Qt::ControlModifier);
-    QVERIFY(QTest::qWaitForWindowActive(&m_pWindow->prompt()));
+    QVERIFY(QTest::qWaitForWindowActive(&m_pWindow->prompt(), kPatienceMs));
     QCOMPARE(m_pWindow->prompt().focusWidget()->objectName(), QStringLiteral("btnAccept"));
 }
 
 void tst_MainWindow::shortcutLeadsToTheSearch()
 {
     m_pWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
     m_pWindow->findChild<QWidget *>(QStringLiteral("btnConference"))->setFocus();
     QTest::keyClick(m_pWindow.get(), Qt::Key_F, Qt::ControlModifier);
     QCOMPARE(m_pWindow->focusWidget()->objectName(), QStringLiteral("editSearch"));
@@ -280,7 +281,7 @@ void tst_MainWindow::onlineSwitchFollowsTheSession()
 {
     QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Offline"));
     QVERIFY(pressButton(m_pWindow.get(), "btnOnline"));
-    QTRY_VERIFY(m_pSession->isOnline());
+    QTRY_VERIFY_WITH_TIMEOUT(m_pSession->isOnline(), kPatienceMs);
     QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Online"));
     QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Signed in as 小明"));
     m_pSession->setOnline(false);
@@ -294,7 +295,7 @@ void tst_MainWindow::numberCanBeCalledOnlyWhenThereIsOne()
     QVERIFY(!pressButton(m_pWindow.get(), "btnCallNumber"));
     QTest::keyClicks(number, QStringLiteral(" 4711 "));
     QVERIFY(pressButton(m_pWindow.get(), "btnCallNumber"));
-    QTRY_VERIFY(number->text().isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(number->text().isEmpty(), kPatienceMs);
     QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Calling 4711"));
 }
 
@@ -383,14 +384,14 @@ void tst_MainWindow::whatHappensComesAndGoesByButtonAndKeys()
     const int width = m_pWindow->width();
     QVERIFY(pressButton(m_pWindow.get(), "happeningsButton"));
     QVERIFY(panel->isVisible());
-    QTRY_VERIFY(m_pWindow->width() > width);
+    QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->width() > width, kPatienceMs);
     QVERIFY(m_pWindow->frameGeometry().right() <= m_pWindow->screen()->availableGeometry().right());
     QTest::keyClick(m_pWindow.get(), Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
     QVERIFY(!panel->isVisible());
-    QTRY_COMPARE(m_pWindow->width(), width);
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->width(), width, kPatienceMs);
     // It collects while it is hidden.
     deliver(MSG_CLOSE_SIGN_LIST, signListPluginId(), QByteArray());
-    QTRY_COMPARE(panel->model().rowCount(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(panel->model().rowCount(), 1, kPatienceMs);
 }
 
 void tst_MainWindow::signatureCardComesAndGoesAsThePlugInAsks()
@@ -423,7 +424,7 @@ void tst_MainWindow::damagedStoreIsToldBelowTheHeader()
     QVERIFY(m_pSession->store().isOpen());
     MainWindow window(*m_pSession, m_book);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
     QVERIFY(WindowProbe::isShown(&window, "lblNotice"));
     const QString notice = WindowProbe::text(&window, "lblNotice");
     QVERIFY2(notice.startsWith(QStringLiteral("The local store was damaged. The file is kept as ")),

@@ -1,4 +1,5 @@
 #include "client/ContactBook.h"
+#include "fakes/Patience.h"
 #include "host/panes/PressButton.h"
 #include "panes/MemberPicker.h"
 #include "screen/WindowProbe.h"
@@ -37,7 +38,7 @@ private:
     static void show(MemberPicker &picker)
     {
         picker.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&picker));
+        QVERIFY(QTest::qWaitForWindowExposed(&picker, kPatienceMs));
     }
     /// Presses the button of the picker that comes up next, as soon as it is there.
     static void pressWhenOpen(const char *button)

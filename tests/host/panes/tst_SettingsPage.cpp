@@ -8,6 +8,7 @@
 
 #include "common/AppInfo.h"
 #include "common/settings/ConfigFile.h"
+#include "fakes/Patience.h"
 #include "model/SharedContext.h"
 #include "model/SkinContext.h"
 #include "model/SystemSetData.h"
@@ -80,7 +81,7 @@ private:
         m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
         m_pWindow->show();
         QVERIFY(pressButton(m_pWindow.get(), "btnSettings"));
-        QVERIFY(QTest::qWaitForWindowActive(&m_pWindow->settingsPage()));
+        QVERIFY(QTest::qWaitForWindowActive(&m_pWindow->settingsPage(), kPatienceMs));
     }
 
     ContactBook m_book{QStringLiteral("example.org")};
@@ -234,7 +235,7 @@ void tst_SettingsPage::folderErrorIsGoneWhenThePageOpensAgain()
             QVERIFY(!page.isVisible());
         }
         QVERIFY(pressButton(m_pWindow.get(), "btnSettings"));
-        QVERIFY(QTest::qWaitForWindowActive(&page));
+        QVERIFY(QTest::qWaitForWindowActive(&page, kPatienceMs));
         QCOMPARE(part<QLabel>("lblFolderError")->text(), QString());
         QCOMPARE(part<QLineEdit>(edit)->text(), folder);
     }
@@ -299,9 +300,9 @@ void tst_SettingsPage::languageChangesTheOpenWindows()
     HostLanguage words(QStringLiteral(VOIP_TRANSLATIONS));
     connect(&m_pSession->settings(), &HostSettings::languageChanged, &words, &HostLanguage::use);
     QVERIFY(pressButton(&m_pWindow->settingsPage(), qPrintable(QStringLiteral("language_") + language)));
-    QTRY_COMPARE(stored(HostSettings::commonFile(), "/languageSetting/language"), language);
+    QTRY_COMPARE_WITH_TIMEOUT(stored(HostSettings::commonFile(), "/languageSetting/language"), language, kPatienceMs);
     QFETCH(QString, contacts);
-    QTRY_COMPARE(WindowProbe::text(m_pWindow.get(), "lblContacts"), contacts);
+    QTRY_COMPARE_WITH_TIMEOUT(WindowProbe::text(m_pWindow.get(), "lblContacts"), contacts, kPatienceMs);
     QTEST(WindowProbe::text(m_pWindow->findChild<QWidget *>(QStringLiteral("30010001")), "lblPresence"), "presence");
     QTEST(part<QCheckBox>("boxSilent")->text(), "silent");
     QTEST(WindowProbe::text(m_pWindow.get(), "btnOnline"), "online");
@@ -323,7 +324,7 @@ void tst_SettingsPage::colourReachesThePlugInsWidgetsAndTheClientsWindows()
 {
     QVERIFY(m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")));
     QVERIFY(pressButton(&m_pWindow->settingsPage(), "skin_ThemeBlue"));
-    QTRY_COMPARE(SkinContext::getSkinData()->m_strSkinName, QStringLiteral("ThemeBlue"));
+    QTRY_COMPARE_WITH_TIMEOUT(SkinContext::getSkinData()->m_strSkinName, QStringLiteral("ThemeBlue"), kPatienceMs);
     QCOMPARE(stored(HostSettings::userFile(), "/skinSetting/skinName"), QStringLiteral("ThemeBlue"));
     QVERIFY(!m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")));
     QVERIFY(m_pWindow->styleSheet().contains(QStringLiteral("#1f5bb3")));
@@ -331,7 +332,7 @@ void tst_SettingsPage::colourReachesThePlugInsWidgetsAndTheClientsWindows()
     QCOMPARE(SkinContext::getSkinData()->m_strSecondButtonBackgroundColor, QStringLiteral("#2b83fd"));
     QCOMPARE(HostSkins::darkColour(), QColor(QStringLiteral("#1f5bb3")));
     QVERIFY(pressButton(&m_pWindow->settingsPage(), "skin_ThemeGreen"));
-    QTRY_VERIFY(m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")));
+    QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")), kPatienceMs);
 }
 
 void tst_SettingsPage::colourIsThereAgainAtTheNextStart()

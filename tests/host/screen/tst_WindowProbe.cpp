@@ -1,3 +1,4 @@
+#include "fakes/Patience.h"
 #include "screen/WindowProbe.h"
 
 #include <QDir>
@@ -76,7 +77,7 @@ void tst_WindowProbe::init()
     m_cells.setItem(1, 0, itemOf("c"));
     window()->resize(400, 400);
     window()->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window()));
+    QVERIFY(QTest::qWaitForWindowExposed(window(), kPatienceMs));
 }
 
 void tst_WindowProbe::cellOfAnyColumnIsFound()
@@ -142,7 +143,7 @@ void tst_WindowProbe::windowThatIsTooSmallGetsItsSizeBackForThePicture()
     QVERIFY(window()->frameGeometry().width() < least.width());
     QVERIFY(!WindowProbe::savePicture(window(), file));
     QVERIFY(!QFile::exists(file));
-    QTRY_VERIFY(WindowProbe::savePicture(window(), file));
+    QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::savePicture(window(), file), kPatienceMs);
     const QSize saved = QImage(file).size();
     QVERIFY2(saved.width() >= least.width() && saved.height() >= least.height(),
              qPrintable(QStringLiteral("%1x%2").arg(saved.width()).arg(saved.height())));

@@ -1,5 +1,6 @@
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
+#include "fakes/Patience.h"
 #include "tour/Tour.h"
 #include "tour/TourHand.h"
 #include "tour/TourWatch.h"
@@ -66,10 +67,12 @@ private:
     /// Works until everything is done, the move out of the way included.
     bool finished()
     {
-        const bool done = QTest::qWaitFor([this] {
-            m_hand->work();
-            return m_hand->isIdle();
-        });
+        const bool done = QTest::qWaitFor(
+            [this] {
+                m_hand->work();
+                return m_hand->isIdle();
+            },
+            kPatienceMs);
         QCoreApplication::processEvents();
         return done;
     }
@@ -77,7 +80,7 @@ private:
     {
         window.setGeometry(QRect(place, QSize(200, 100)));
         window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
     }
 
     std::unique_ptr<TourHand> m_hand;
@@ -206,7 +209,7 @@ void tst_TourHand::pointerGoesOutOfTheWayAfterAClick()
     show(button, {100, 100});
     m_hand->click(at(&button));
     QVERIFY(finished());
-    QTRY_VERIFY(!button.geometry().contains(QCursor::pos()));
+    QTRY_VERIFY_WITH_TIMEOUT(!button.geometry().contains(QCursor::pos()), kPatienceMs);
 }
 
 void tst_TourHand::whatLastsForLessThanATickIsSeen()
@@ -223,7 +226,7 @@ void tst_TourHand::whatLastsForLessThanATickIsSeen()
     Tour tour(watch, *m_hand, {{QStringLiteral("Flash"), act, {check}, 1000}}, QString());
     const QSignalSpy finished(&tour, &Tour::finished);
     tour.start();
-    QTRY_COMPARE(finished.count(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, kPatienceMs);
     QVERIFY(finished.at(0).at(0).toBool());
 }
 
