@@ -265,22 +265,22 @@ void tst_CallWindowPointer::edgeIsKeptDuringItsDrag()
     QFETCH(QPoint, by);
     open(CVoipWidget::VoipType(type));
     m_pointer.moveTo(cHome + edge);
-    QTRY_VERIFY(m_pWindow->cursor().shape() != Qt::ArrowCursor);
+    QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->cursor().shape() != Qt::ArrowCursor, kPatienceMs);
     const Qt::CursorShape shape = m_pWindow->cursor().shape();
     m_pointer.press(Qt::LeftButton);
-    QTRY_COMPARE(shownBand(), QRect(cHome, cSize));
+    QTRY_COMPARE_WITH_TIMEOUT(shownBand(), QRect(cHome, cSize), kPatienceMs);
     // There and back, a step at a time: inside of the edge a hover event would read as no edge at all.
     for (const int iStep : {1, 2, 3, 4, 3, 2, 1, 0}) {
         const QPoint place = cHome + edge + by * iStep / 4;
         m_pointer.moveTo(place);
-        QTRY_COMPARE(QCursor::pos(), place);
+        QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), place, kPatienceMs);
         QCoreApplication::processEvents();
         QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
         QCOMPARE(m_pWindow->cursor().shape(), shape);
         QVERIFY(!shownBand().isNull());
     }
     m_pointer.release(Qt::LeftButton);
-    QTRY_VERIFY(shownBand().isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(shownBand().isNull(), kPatienceMs);
     QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
 }
 
@@ -289,20 +289,14 @@ void tst_CallWindowPointer::bandIsFourDottedBars()
     open(CVoipWidget::Voice);
     m_pointer.moveTo(cHome + QPoint(1, 200));
     QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), Qt::SizeHorCursor, kPatienceMs);
-    QImage before = screenNow();
-    const auto isQuiet = [&before] {
-        const QImage last = before;
-        QTest::qWait(100);
-        before = screenNow();
-        return before == last;
-    };
-    QVERIFY(QTest::qWaitFor(isQuiet, kPatienceMs));
     const int iDensity = qRound(qApp->devicePixelRatio());
     QImage before;
-    QVERIFY(QTest::qWaitFor([&] {
-        before = screenNow();
-        return showsTheWindow(before, iDensity);
-    }));
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+            before = screenNow();
+            return showsTheWindow(before, iDensity);
+        },
+        kPatienceMs));
 
     m_pointer.press(Qt::LeftButton);
     QTRY_COMPARE_WITH_TIMEOUT(shownBand(), QRect(cHome, cSize), kPatienceMs);

@@ -2,6 +2,7 @@
 
 #include "CentreTest.h"
 #include "common/pictures/IconFont.h"
+#include "fakes/Patience.h"
 #include "widgets/BaseFormEx.h"
 #include "widgets/IconButtonEx.h"
 
@@ -214,11 +215,11 @@ void tst_CentreForm::tipFollowsTheLanguage()
     {
         Capitals language;
         QVERIFY(QCoreApplication::installTranslator(&language));
-        QTRY_COMPARE(tip(), QStringLiteral("CLOSE"));
+        QTRY_COMPARE_WITH_TIMEOUT(tip(), QStringLiteral("CLOSE"), kPatienceMs);
         QCOMPARE(part<QLabel>("lblVoipTipMsg")->text(), strTitle);
         QCOMPARE(ids(), QStringList("7"));
     }
-    QTRY_COMPARE(tip(), QStringLiteral("close"));
+    QTRY_COMPARE_WITH_TIMEOUT(tip(), QStringLiteral("close"), kPatienceMs);
 }
 
 void tst_CentreForm::signalsAndSlotsInOrder()

@@ -1,5 +1,6 @@
 // A compositor that comes and goes while windows stand, as the user starts and ends it: on a screen without one.
 
+#include "fakes/Patience.h"
 #include "widgets/Compositor.h"
 #include "widgets/MyRubberBand.h"
 
@@ -52,12 +53,12 @@ void tst_Compositor::isSeenToComeAndGo()
 
     QProcess compositor;
     compositor.start(QStringLiteral("picom"), {"--backend", "xrender", "--config", "/dev/null"});
-    QVERIFY(compositor.waitForStarted());
+    QVERIFY(compositor.waitForStarted(kPatienceMs));
     QTRY_VERIFY_WITH_TIMEOUT(Compositor::isRunning(), 20000);
     QCOMPARE(shownMask(band), bars());
 
     compositor.terminate();
-    QVERIFY(compositor.waitForFinished());
+    QVERIFY(compositor.waitForFinished(kPatienceMs));
     QTRY_VERIFY_WITH_TIMEOUT(!Compositor::isRunning(), 20000);
     QVERIFY(isDotted(shownMask(band)));
 }
@@ -66,7 +67,7 @@ void tst_Compositor::applicationsOwnServerIsAsked()
 {
     QProcess compositor;
     compositor.start(QStringLiteral("picom"), {"--backend", "xrender", "--config", "/dev/null"});
-    QVERIFY(compositor.waitForStarted());
+    QVERIFY(compositor.waitForStarted(kPatienceMs));
     QTRY_VERIFY_WITH_TIMEOUT(Compositor::isRunning(), 20000);
     // What the environment says since the application began is about others.
     const QByteArray server = qgetenv("DISPLAY");
@@ -74,7 +75,7 @@ void tst_Compositor::applicationsOwnServerIsAsked()
     const bool bRunning = Compositor::isRunning();
     qputenv("DISPLAY", server);
     compositor.terminate();
-    QVERIFY(compositor.waitForFinished());
+    QVERIFY(compositor.waitForFinished(kPatienceMs));
     QVERIFY(bRunning);
 }
 
