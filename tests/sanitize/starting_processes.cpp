@@ -1,0 +1,47 @@
+// Starts processes by Qt's means, one after another, while another thread allocates in bursts. Qt encodes the program's
+// path in the new process: it is long, so that the room for it comes from where the other thread gets its own.
+
+#include <QProcess>
+
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+constexpr int kProcesses = 60;
+constexpr int kLength = 3000;
+constexpr int kBlocks = 3000;
+constexpr useconds_t kRestUs = 50000;
+
+void allocateInBursts(const std::atomic<bool> &bEnough)
+{
+    while (!bEnough) {
+        std::vector<std::vector<char>> blocks;
+        for (int i = 0; i < kBlocks; ++i)
+            blocks.emplace_back(kLength);
+        blocks.clear();
+        usleep(kRestUs);
+    }
+}
+
+} // namespace
+
+int main()
+{
+    QString path = QStringLiteral("/bin/true");
+    while (path.size() < kLength)
+        path.prepend(QStringLiteral("/bin/.."));
+    std::atomic<bool> bEnough{false};
+    std::thread other(allocateInBursts, std::cref(bEnough));
+    int started = 0;
+    for (int i = 0; i < kProcesses; ++i)
+        started += QProcess::startDetached(path, QStringList());
+    bEnough = true;
+    other.join();
+    std::printf("%d of %d started\n", started, kProcesses);
+    return started == kProcesses ? EXIT_SUCCESS : EXIT_FAILURE;
+}
