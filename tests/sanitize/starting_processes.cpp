@@ -1,5 +1,6 @@
-// Starts processes by Qt's means, one after another, while another thread allocates in bursts. Qt encodes the program's
-// path in the new process: it is long, so that the room for it comes from where the other thread gets its own.
+// Starts processes by Qt's means, each of them asked for while another thread allocates, which rests in between. Qt
+// encodes the program's path in the new process: it is long, so that the room for it comes from where the other thread
+// gets its own.
 
 #include <QProcess>
 
@@ -12,18 +13,20 @@
 
 namespace {
 
-constexpr int kProcesses = 60;
+constexpr int kProcesses = 20;
 constexpr int kLength = 3000;
 constexpr int kBlocks = 3000;
-constexpr useconds_t kRestUs = 50000;
+constexpr useconds_t kRestUs = 300000;
 
-void allocateInBursts(const std::atomic<bool> &bEnough)
+void allocateInBursts(const std::atomic<bool> &bEnough, std::atomic<bool> &bBusy)
 {
     while (!bEnough) {
+        bBusy = true;
         std::vector<std::vector<char>> blocks;
         for (int i = 0; i < kBlocks; ++i)
             blocks.emplace_back(kLength);
         blocks.clear();
+        bBusy = false;
         usleep(kRestUs);
     }
 }
@@ -36,10 +39,14 @@ int main()
     while (path.size() < kLength)
         path.prepend(QStringLiteral("/bin/.."));
     std::atomic<bool> bEnough{false};
-    std::thread other(allocateInBursts, std::cref(bEnough));
+    std::atomic<bool> bBusy{false};
+    std::thread other(allocateInBursts, std::cref(bEnough), std::ref(bBusy));
     int started = 0;
-    for (int i = 0; i < kProcesses; ++i)
+    for (int i = 0; i < kProcesses; ++i) {
+        while (!bBusy)
+            std::this_thread::yield();
         started += QProcess::startDetached(path, QStringList());
+    }
     bEnough = true;
     other.join();
     std::printf("%d of %d started\n", started, kProcesses);
