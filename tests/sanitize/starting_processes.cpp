@@ -23,6 +23,7 @@ void allocateInBursts(const std::atomic<bool> &bEnough, std::atomic<bool> &bBusy
     while (!bEnough) {
         bBusy = true;
         std::vector<std::vector<char>> blocks;
+        blocks.reserve(kBlocks);
         for (int i = 0; i < kBlocks; ++i)
             blocks.emplace_back(kLength);
         blocks.clear();
