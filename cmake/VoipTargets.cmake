@@ -36,10 +36,14 @@ set_target_properties(voip_pch PROPERTIES AUTOMOC OFF AUTOUIC OFF)
 target_compile_options(voip_pch PRIVATE ${VOIP_WARNINGS} ${VOIP_COMPILER} -fPIC ${VOIP_PATHS})
 
 if(VOIP_SANITIZE)
-  add_library(voip_sanitized_end OBJECT
-    ${PROJECT_SOURCE_DIR}/tests/sanitize/KeepLibraries.cpp ${PROJECT_SOURCE_DIR}/tests/sanitize/LeakCheck.cpp)
-  set_target_properties(voip_sanitized_end PROPERTIES AUTOMOC OFF AUTOUIC OFF)
-  target_compile_options(voip_sanitized_end PRIVATE -fPIC)
+  set(sanitize_dir ${PROJECT_SOURCE_DIR}/tests/sanitize)
+  add_library(voip_sanitized OBJECT
+    ${sanitize_dir}/KeepLibraries.cpp ${sanitize_dir}/LeakCheck.cpp ${sanitize_dir}/OtherThreads.cpp ${sanitize_dir}/OtherThreads.h)
+  if(VOIP_SANITIZE MATCHES "address")
+    target_sources(voip_sanitized PRIVATE ${sanitize_dir}/OpenSignals.cpp ${sanitize_dir}/QuietFork.cpp)
+  endif()
+  set_target_properties(voip_sanitized PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+  target_compile_options(voip_sanitized PRIVATE -fPIC)
 endif()
 
 # Compiler settings of the project's own code. Includes are written from src/ ("store/DB.h").
@@ -50,7 +54,7 @@ function(voip_own_code target)
   target_precompile_headers(${target} REUSE_FROM voip_pch)
   get_target_property(type ${target} TYPE)
   if(VOIP_SANITIZE AND type STREQUAL "EXECUTABLE")
-    target_link_libraries(${target} PRIVATE voip_sanitized_end)
+    target_link_libraries(${target} PRIVATE voip_sanitized)
   endif()
 endfunction()
 

@@ -1,13 +1,13 @@
 #include "engine/VoipManage.h"
 
 #include "common/CLogManger.h"
+#include "engine/AudioInputs.h"
 #include "engine/CallRing.h"
 #include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 #include "ui/VoiceConferenceWidget.h"
 #include "ui/VoipWidget.h"
 
-#include <QAudioDeviceInfo>
 #include <QProcess>
 #include <QSound>
 
@@ -36,6 +36,7 @@ CVoipManage::CVoipManage(QObject *parent) : QObject(parent)
 CVoipManage::~CVoipManage()
 {
     disconnectVoipSDKSocket();
+    // The player stays for the next engine and would ring on.
     if (m_pRingSound)
         m_pRingSound->stop();
     delete m_pVoiceConfWidget;
@@ -99,7 +100,7 @@ void CVoipManage::clearLocalCallData()
 
 bool CVoipManage::getIsHasAudioInputDevice()
 {
-    return !QAudioDeviceInfo::availableDevices(QAudio::AudioInput).isEmpty();
+    return AudioInputs::exist();
 }
 
 bool CVoipManage::isExistCall()

@@ -58,7 +58,7 @@ public:
     /// Forgets the current call. Timers, ring and window are the caller's business. Deliberately no slot: the call
     /// window's signal of the same purpose does not reach it.
     void clearLocalCallData();
-    /// Whether the machine has any audio input.
+    /// Whether the machine has any audio input. Waits a second at most for a silent sound server, and is true then.
     bool getIsHasAudioInputDevice();
     /// Whether there is a call in any state, one that only rings included.
     bool isExistCall();

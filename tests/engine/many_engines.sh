@@ -1,7 +1,7 @@
 #!/bin/bash
 # usage: many_engines.sh PROGRAM [COUNT]
-# Runs many_engines beside a sound server of its own that stops for a while, is killed and comes back, over and over.
-# COUNT is 100 unless told.
+# Runs many_engines beside a sound server of its own that stops for a while, is killed and comes back, over and over, and
+# beside a busy process for each processor, so that threads are interrupted anywhere. COUNT is 100 unless told.
 set -u
 program=$1
 count=${2:-100}
@@ -10,6 +10,10 @@ count=${2:-100}
 trap stop_all EXIT
 trap 'exit 130' INT TERM
 export QT_LOGGING_RULES="*.debug=false"
+voip_make_box || exit 1
+for ((hogs = $(nproc); hogs > 0; hogs--)); do
+    voip_start hog bash -c 'while :; do :; done'
+done
 start_sound || exit 1
 
 "$program" "$count" &

@@ -2,6 +2,8 @@
 
 #include <QDebug>
 
+#include <cstdio>
+
 namespace {
 
 // A window manager that takes its frame away while Qt still asks for it or gives it the focus is no word about the code
@@ -16,7 +18,7 @@ bool isKnown(const QString &text)
 
 } // namespace
 
-QtMessages *QtMessages::s_innermost = nullptr;
+thread_local QtMessages *QtMessages::s_innermost = nullptr;
 
 QtMessages::QtMessages() : m_pOuter(s_innermost)
 {
@@ -34,6 +36,8 @@ void QtMessages::take(QtMsgType type, const QMessageLogContext &context, const Q
 {
     if (type == QtWarningMsg && isKnown(text))
         return;
+    if (!s_innermost)
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
     for (QtMessages *messages = s_innermost; messages; messages = messages->m_pOuter) {
         if (type == QtDebugMsg)
             messages->debugLines.append(text);
