@@ -40,6 +40,12 @@ inline void appendField(QByteArray &payload, const QString &field)
     qToBigEndian<qint32>(field.isNull() ? -1 : bytes, payload.data() + lengthAt);
     qToBigEndian<char16_t>(field.constData(), field.size(), payload.data() + textAt);
 }
+inline void appendField(QByteArray &payload, const QStringList &field)
+{
+    appendField(payload, qint32(field.size()));
+    for (const QString &text : field)
+        appendField(payload, text);
+}
 
 /// The payload that holds `fields` in their order. A QStringList is written as a 32-bit count and the strings. Without
 /// fields the payload is empty.
