@@ -1,6 +1,6 @@
 // Processor time of a conference update of 10 to 10,000 members, from the inbound line to the repainted window: all
 // members new to this side, and all known already. "member" is the cost of one member, which must not grow with their
-// number. Beside it a bare list view that gets as many rows.
+// number. Beside it a bare list view that gets as many rows, and the JSON reader alone over the same document.
 
 #include "ProcessorClock.h"
 
@@ -22,7 +22,10 @@
 #include <QStandardItemModel>
 
 #include <benchmark/benchmark.h>
+#include <json/reader.h>
 #include <malloc.h>
+
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace {
 
@@ -92,13 +95,18 @@ public:
     }
 };
 
-QString updateLine(int members)
+QString updateDocument(int members)
 {
     QStringList ids;
     for (int i = 0; i < members; ++i)
         ids << uid(i);
-    return R"({"resultCode":12,"content":"{\"content\":{\"confId\":\"c1\",\"conventioneer\":[\")" +
-           ids.join(QStringLiteral(R"(\",\")")) + R"(\"]}}"})";
+    return R"({"content":{"confId":"c1","conventioneer":[")" + ids.join(QStringLiteral(R"(",")")) + R"("]}})";
+}
+
+QString updateLine(int members)
+{
+    return R"({"resultCode":12,"content":")" +
+           updateDocument(members).replace(QLatin1String("\""), QLatin1String("\\\"")) + R"("})";
 }
 
 QMap<QString, FriendData> contacts(int count)
@@ -167,6 +175,18 @@ void membersKnown(benchmark::State &state)
     engine.callFinished(CallData::FinishHangup);
 }
 BENCHMARK(membersKnown)->Arg(10)->Arg(100)->Arg(1000)->Arg(kMostMembers);
+
+void bareDocument(benchmark::State &state)
+{
+    const std::string document = updateDocument(static_cast<int>(state.range(0))).toStdString();
+    Json::Reader reader;
+    for (auto _ : state) {
+        Json::Value root;
+        benchmark::DoNotOptimize(reader.parse(document, root));
+    }
+    countMembers(state);
+}
+BENCHMARK(bareDocument)->Arg(1000)->Arg(kMostMembers);
 
 void bareListView(benchmark::State &state)
 {

@@ -146,26 +146,37 @@ void burst(Target &target, int threads, std::vector<double> &latencies)
         other.join();
 }
 
+/// What so many of a hundred take at most.
+double percentile(std::vector<double> &latencies, std::size_t percent)
+{
+    const auto place = latencies.begin() + static_cast<std::ptrdiff_t>(latencies.size() * percent / 100);
+    std::nth_element(latencies.begin(), place, latencies.end());
+    return *place;
+}
+
+/// The medians of many bursts: a burst in which the machine did something else too counts for one, however long that
+/// took, while all latencies thrown together would have their hundredth from the worst burst alone.
 template <typename Target>
 void latency(benchmark::State &state)
 {
     CustomLogger logger(QStringLiteral("ours.log"));
-    std::vector<double> latencies;
+    std::vector<double> p50s;
+    std::vector<double> p99s;
     for (auto _ : state) {
         Target target(&logger);
+        std::vector<double> latencies;
+        latencies.reserve(kStatements);
         burst(target, static_cast<int>(state.range(0)), latencies);
+        p50s.push_back(percentile(latencies, 50));
+        p99s.push_back(percentile(latencies, 99));
     }
-    std::sort(latencies.begin(), latencies.end());
     const double cost = clockCost();
-    const auto share = [&](std::size_t percent) {
-        return std::max(latencies[latencies.size() * percent / 100] - cost, 1.0);
-    };
-    state.counters["p50_ns"] = share(50);
-    state.counters["p99_ns"] = share(99);
+    state.counters["p50_ns"] = std::max(percentile(p50s, 50) - cost, 1.0);
+    state.counters["p99_ns"] = std::max(percentile(p99s, 50) - cost, 1.0);
 }
-BENCHMARK_TEMPLATE(latency, Ours)->Arg(1)->Arg(4)->Iterations(10);
-BENCHMARK_TEMPLATE(latency, PlainList)->Arg(1)->Arg(4)->Iterations(10);
-BENCHMARK_TEMPLATE(latency, Spdlog)->Arg(1)->Arg(4)->Iterations(10);
+BENCHMARK_TEMPLATE(latency, Ours)->Arg(1)->Arg(4)->Iterations(100);
+BENCHMARK_TEMPLATE(latency, PlainList)->Arg(1)->Arg(4)->Iterations(100);
+BENCHMARK_TEMPLATE(latency, Spdlog)->Arg(1)->Arg(4)->Iterations(100);
 
 } // namespace
 

@@ -45,9 +45,11 @@ Notification read(const QString &line)
     // Through a constant reference, asking for an absent key does not add it.
     const Json::Value &root = document;
     try {
+        const int code = root["resultCode"].asInt();
+        if (code < 0)
+            return {};
         const Json::Value &content = root["content"];
-        return {root["resultCode"].asInt(),
-                content.isString() ? JsonText::text(content) : QString::fromStdString(content.asString())};
+        return {code, content.isString() ? JsonText::text(content) : QString::fromStdString(content.asString())};
     } catch (const std::exception &) {
         return {};
     }

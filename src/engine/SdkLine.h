@@ -44,7 +44,12 @@ QString of(const Parameters &...parameters)
 {
     constexpr char given[] = {kLetterOf<Parameters>..., '\0'};
     static_assert(std::string_view(given) == Wire::rowOf(command).parameters, "other parameters than the table has");
-    return lineOf(command, {json(parameters)...});
+    if constexpr (sizeof...(Parameters) == 0) {
+        static const QString line = lineOf(command, {});
+        return line;
+    } else {
+        return lineOf(command, {json(parameters)...});
+    }
 }
 
 /// One inbound line: the code and its payload.
@@ -55,8 +60,8 @@ struct Notification
 };
 
 /// Reads one wire line. A line that does not parse, is not an object or has a wrong type where the code or the payload
-/// is read gives the code -1. What the JSON library converts quietly stays: `null` and `{}` are code 0, `true` is 1,
-/// 8.9 is 8.
+/// is read gives the code -1, and so does any negative code. What the JSON library converts quietly stays: `null` and
+/// `{}` are code 0, `true` is 1, 8.9 is 8.
 Notification read(const QString &line);
 
 } // namespace SdkLine

@@ -3,6 +3,7 @@
 #include "model/LoginData.h"
 #include "model/SharedContext.h"
 
+#include <QStringBuilder>
 #include <QStringList>
 
 namespace {
@@ -95,7 +96,10 @@ QString UserIds::getJidByUid(const QString &strId)
         return strId;
     }
     // Any id that starts like a room's counts as a room, "office1" too, deliberately.
-    return isMucJid(strId) ? strId + ROOM_DOMAIN_JOINT + getLoginDomain() : strId + AT + getLoginDomain();
+    if (isMucJid(strId)) {
+        return strId % ROOM_DOMAIN_JOINT % getLoginDomain();
+    }
+    return strId % AT % getLoginDomain();
 }
 
 QString UserIds::getUidByJid(const QString &strJid)

@@ -6,6 +6,46 @@
 #include <QByteArray>
 #include <QDataStream>
 #include <QStringList>
+#include <QtEndian>
+
+/// Adds a field to a payload as a stream with default settings writes it. The kinds of which events are made, one for
+/// each member of a conference, are written without one: making and unmaking a stream costs ten times the writing.
+template <typename Field>
+void appendField(QByteArray &payload, const Field &field)
+{
+    QDataStream stream(&payload, QIODevice::WriteOnly | QIODevice::Append);
+    stream << field;
+}
+inline void appendField(QByteArray &payload, bool field)
+{
+    payload.append(field ? '\1' : '\0');
+}
+inline void appendField(QByteArray &payload, qint32 field)
+{
+    const qint32 bytes = qToBigEndian(field);
+    payload.append(reinterpret_cast<const char *>(&bytes), sizeof bytes);
+}
+inline void appendField(QByteArray &payload, qint64 field)
+{
+    const qint64 bytes = qToBigEndian(field);
+    payload.append(reinterpret_cast<const char *>(&bytes), sizeof bytes);
+}
+inline void appendField(QByteArray &payload, const QString &field)
+{
+    const int lengthAt = payload.size();
+    const int textAt = lengthAt + static_cast<int>(sizeof(qint32));
+    const int bytes = field.size() * static_cast<int>(sizeof(QChar));
+    payload.resize(textAt + bytes);
+    // A null text has no length, but is told from an empty one.
+    qToBigEndian<qint32>(field.isNull() ? -1 : bytes, payload.data() + lengthAt);
+    qToBigEndian<char16_t>(field.constData(), field.size(), payload.data() + textAt);
+}
+inline void appendField(QByteArray &payload, const QStringList &field)
+{
+    appendField(payload, qint32(field.size()));
+    for (const QString &text : field)
+        appendField(payload, text);
+}
 
 /// The payload that holds `fields` in their order. A QStringList is written as a 32-bit count and the strings. Without
 /// fields the payload is empty.
@@ -13,9 +53,15 @@ template <typename... Fields>
 QByteArray packPayload(const Fields &...fields)
 {
     QByteArray payload;
-    QDataStream stream(&payload, QIODevice::WriteOnly);
-    static_cast<void>((stream << ... << fields));
+    (appendField(payload, fields), ...);
     return payload;
+}
+
+/// The first field of a payload as a PayloadReader takes it when it is a bool, false when there is none: for an answer
+/// that is read for each member of a conference.
+inline bool firstFlag(const QByteArray &payload)
+{
+    return !payload.isEmpty() && payload.front() != '\0';
 }
 
 /// Reads the fields of a payload in their order. A payload that is too short gives default values (false, an empty

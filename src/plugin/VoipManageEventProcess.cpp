@@ -70,7 +70,7 @@ FriendData VoipManageEventProcess::getFriendInfoByJid(QString strJid)
 
 bool VoipManageEventProcess::isExistFriend(QString strJid)
 {
-    return PayloadReader(request<MSG_IS_EXIST_FRIEND>(strJid)->data).take<bool>();
+    return firstFlag(request<MSG_IS_EXIST_FRIEND>(strJid)->data);
 }
 
 void VoipManageEventProcess::getStrangerSmallVCard(QStringList ids, QStringList versions, bool flag)

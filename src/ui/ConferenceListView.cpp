@@ -110,6 +110,7 @@ void CConferenceListView::clearMembers()
 {
     m_pModel->clear();
     m_userList.clear();
+    m_userIndex = UidIndex();
     m_userItemMap.clear();
     m_strCreator.clear();
     m_statusTimer.stop();
@@ -126,8 +127,11 @@ void CConferenceListView::setConferenceCreator(QString strCreator)
 
 void CConferenceListView::updateConferenceListStatus(QList<QString> list)
 {
+    if (list == m_connectedList)
+        return;
     for (const QString &strUserID : qAsConst(list))
         updateConferenceUserStatus(strUserID, ConferenceConnected);
+    m_connectedList = list;
 }
 
 void CConferenceListView::setAddConfFailedList(QList<QString> list)
@@ -177,6 +181,8 @@ void CConferenceListView::slot_UpdateCallStatu()
 void CConferenceListView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                       const QVector<int> &roles)
 {
+    if (roles.isEmpty() || roles.contains(ROLE_CALL_STATUS))
+        m_connectedList.clear();
     // The painting itself writes the buttons' places back: they must not call for the next painting.
     if (!areRolesShown(roles))
         return;
@@ -299,6 +305,7 @@ void CConferenceListView::appendUserItem(const QString &strUserID)
     QStandardItem *pItem = creatUserItem(strUserID);
     m_pModel->appendRow(pItem);
     m_userItemMap.insert(strUserID, pItem);
+    m_connectedList.clear();
 }
 
 QStandardItem *CConferenceListView::creatUserItem(const QString &strUserID)

@@ -98,4 +98,7 @@ private:
     bool m_bIsCallByMe = true;
     QTimer m_statusTimer;
     UidIndex m_userIndex; ///< of m_userList
+    /// The members last marked as connected, as long as no row has come and no status has changed since: the same list
+    /// again, as most updates bring it, has nothing to mark.
+    QList<QString> m_connectedList;
 };

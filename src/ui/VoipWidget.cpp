@@ -165,6 +165,7 @@ void CVoipWidget::ClearCallInfoData()
     m_bFullScreen = false;
     m_bConnected = false;
     m_memberList.clear();
+    m_memberIndex = UidIndex();
     m_strPeerUid.clear();
     m_strCreator.clear();
     SetMicButton(false);

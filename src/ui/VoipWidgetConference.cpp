@@ -4,6 +4,8 @@
 
 #include "ui_VoipWidget.h"
 
+#include <QStringBuilder>
+
 void CVoipWidget::addConferenceMember(QString strUserID)
 {
     if (m_memberIndex.contains(m_memberList, strUserID))
@@ -43,7 +45,7 @@ void CVoipWidget::updateConferenceUserStatus(QString strUserID, qlonglong iStatu
 
 void CVoipWidget::refreshMemberCount()
 {
-    ui->lblListCount->setText(QStringLiteral("参与人员(") + QString::number(m_memberList.size()) + QLatin1Char(')'));
+    ui->lblListCount->setText(QStringLiteral("参与人员(") % QString::number(m_memberList.size()) % QLatin1Char(')'));
 }
 
 void CVoipWidget::slot_AddConferenceMember()

@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QTest>
 
+#include <random>
+
 class tst_UidIndex : public QObject
 {
     Q_OBJECT
@@ -16,6 +18,8 @@ private slots:
     void changeMadeElsewhereIsNoticed();
     void copyOfTheListStaysAsItWas();
     void listIsNeverCopiedWhole();
+    void anyOrderOfQuestionsFindsTheSame();
+    void largeListsAreCountedToo();
 };
 
 void tst_UidIndex::emptyListHoldsNothing()
@@ -115,6 +119,52 @@ void tst_UidIndex::listIsNeverCopiedWhole()
         index.append(uids, QString::number(i));
     }
     QVERIFY(uids.constBegin() == place);
+}
+
+void tst_UidIndex::anyOrderOfQuestionsFindsTheSame()
+{
+    std::mt19937 random(20261);
+    const auto anyUid = [&random] { return QString::number(random() % 12); };
+    QStringList uids;
+    UidIndex index;
+    for (int round = 0; round < 3000; ++round) {
+        const QString uid = anyUid();
+        switch (random() % 4) {
+        case 0:
+            index.append(uids, uid);
+            break;
+        case 1:
+            if (uids.contains(uid))
+                QVERIFY(index.removeOne(uids, uid));
+            else
+                QVERIFY(!index.removeOne(uids, uid));
+            break;
+        case 2:
+            uids = QStringList{anyUid(), anyUid(), anyUid()};
+            break;
+        default:
+            // In the list's own order, with some left out and some that it has not.
+            for (const QString &asked : qAsConst(uids)) {
+                if (random() % 3 == 0)
+                    continue;
+                QVERIFY(index.contains(uids, asked));
+                const QString other = anyUid();
+                QCOMPARE(index.contains(uids, other), uids.contains(other));
+            }
+        }
+    }
+}
+
+void tst_UidIndex::largeListsAreCountedToo()
+{
+    constexpr int count = 5000;
+    QStringList uids;
+    UidIndex index;
+    for (int i = 0; i < count; ++i)
+        index.append(uids, QString::number(i));
+    QCOMPARE(uids.size(), count);
+    for (int i = 2 * count - 1; i >= 0; --i)
+        QCOMPARE(index.contains(uids, QString::number(i)), i < count);
 }
 
 #include "support/TestProgram.h"

@@ -11,9 +11,11 @@ class tst_EventPayload : public QObject
 
 private slots:
     void packsFieldsAsTheStreamWritesThem();
+    void packsEachFieldAsTheStreamWritesIt();
     void packsNothingToAnEmptyPayload();
     void stringListIsACountAndTheStrings();
     void readsHandWrittenAndOperatorWrittenListsAlike();
+    void firstFlagIsWhatAReaderTakes();
     void missingFieldsReadAsDefaults();
     void fieldBehindAShortListReadsAsDefault();
     void listEndsWhereThePayloadEnds_data();
@@ -31,6 +33,32 @@ void tst_EventPayload::packsFieldsAsTheStreamWritesThem()
     stream << true << QStringLiteral("u1") << qint32(7) << qint64(8);
     QCOMPARE(packPayload(true, QStringLiteral("u1"), 7, qint64(8)), expected);
     QCOMPARE(expected.size(), 1 + (4 + 4) + 4 + 8);
+}
+
+void tst_EventPayload::packsEachFieldAsTheStreamWritesIt()
+{
+    const auto check = [](const auto &...fields) {
+        QByteArray expected;
+        QDataStream stream(&expected, QIODevice::WriteOnly);
+        static_cast<void>((stream << ... << fields));
+        QCOMPARE(packPayload(fields...), expected);
+    };
+    check(false, true);
+    for (const qint32 number : {0, -1, 258, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max()})
+        check(number, qint64(number) << 20, quint32(number), qint8(number));
+    check(QString(), QStringLiteral(""), QStringLiteral("u1"));
+    check(QString(QChar(0)), QStringLiteral("成员"), QString::fromUcs4(U"\U0001F600", 1), QString(QChar(0xd800)));
+    check(QString(70000, QLatin1Char('a')), QStringList{QStringLiteral("b"), QString()}, QString(), true);
+    check(QByteArray("c"), QStringList(), 1.5);
+}
+
+void tst_EventPayload::firstFlagIsWhatAReaderTakes()
+{
+    for (const QByteArray &payload : {packPayload(true), packPayload(false), packPayload(), packPayload(true, 1),
+                                      QByteArray("\2"), QByteArray("\x80"), packPayload(QString()), packPayload(-1)})
+        QCOMPARE(firstFlag(payload), PayloadReader(payload).take<bool>());
+    QVERIFY(firstFlag(packPayload(true, QString())));
+    QVERIFY(!firstFlag(packPayload()));
 }
 
 void tst_EventPayload::packsNothingToAnEmptyPayload()

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QSignalSpy>
 
+#include <array>
+#include <functional>
 #include <limits>
 
 class tst_ConferenceListStatus : public MemberListTest
@@ -21,6 +23,49 @@ private slots:
         QCOMPARE(status(1), 1);
         QCOMPARE(status(2), 4);
         QCOMPARE(rowCount(), 3);
+    }
+
+    void sameListAgainConnectsWhoHasLeftThatStatus_data()
+    {
+        QTest::addColumn<int>("happening");
+        for (const char *happening :
+             {"a member's status", "a status written into the model", "the failed", "another list", "a row made anew",
+              "a second row of the uid", "an emptied list", "the other's row taken away"})
+            QTest::newRow(happening) << m_iHappenings++;
+    }
+    void sameListAgainConnectsWhoHasLeftThatStatus()
+    {
+        const QList<QString> members{uid("ann"), uid("bob")};
+        m_pList->addUserList(members);
+        m_pList->updateConferenceListStatus(members);
+        QFETCH(int, happening);
+        const std::array<std::function<void()>, 8> happenings{
+            [&] { m_pList->updateConferenceUserStatus(uid("ann"), 4); },
+            [&] { setData(0, ROLE_CALL_STATUS, 3); },
+            [&] { m_pList->setAddConfFailedList({uid("ann")}); },
+            [&] {
+                m_pList->updateConferenceUserStatus(uid("bob"), 5);
+                m_pList->updateConferenceListStatus({uid("ann")});
+            },
+            [&] {
+                m_pList->removeUser(uid("ann"));
+                m_pList->addUser(uid("ann"));
+            },
+            [&] { m_pList->addUserList({uid("ann")}); },
+            [&] {
+                m_pList->clearMembers();
+                m_pList->addUserList(members);
+            },
+            [&] {
+                m_pList->updateConferenceUserStatus(uid("ann"), 4);
+                m_pList->removeUser(uid("bob"));
+            },
+        };
+        QCOMPARE(m_iHappenings, int(happenings.size()));
+        happenings.at(std::size_t(happening))();
+        m_pList->updateConferenceListStatus(members);
+        for (int iRow = 0; iRow < rowCount(); ++iRow)
+            QCOMPARE(status(iRow), 1);
     }
 
     void failedListMarksTheListedOnly()
@@ -115,6 +160,9 @@ private slots:
         m_pList->updateUserInfo(ContactFixture::jid(uid("bob")), ContactFixture::card(uid("Bob"), {}));
         QCOMPARE(data(0, ROLE_DISPLAY_NAME).toString(), uid("Ann"));
     }
+
+private:
+    int m_iHappenings = 0;
 };
 
 #include "support/TestProgram.h"
