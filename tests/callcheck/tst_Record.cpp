@@ -127,252 +127,238 @@ class tst_Record : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void runIsWrittenAsAScenario();
-    void fileAndSocketAreForTheSameUserOnly();
-    void bytesPassUnchanged();
-    void lostConnectionsOfBothSidesAreRecorded();
-    void closedServerIsRecorded();
-    void deathIsRecordedAndMirrored();
-    void endOfItsOwnIsRecorded();
-    void existingFileIsLeftAlone();
-    void anotherLivesSoItStepsBack();
-    void stoppingTheRecorderIsNoDeath();
-    void callProcessGoesWithAKilledRecorder();
-    void inThePlaceOfACallProcessItTakesNoArguments();
-    void callProcessThatCannotBeStartedLeavesNoFile();
-};
+    void init()
+    {
+        // Of a test before that mirrored a death.
+        QFile::remove(QDir(QDir::tempPath()).filePath("VoipSDK"));
+    }
 
-void tst_Record::init()
-{
-    // Of a test before that mirrored a death.
-    QFile::remove(QDir(QDir::tempPath()).filePath("VoipSDK"));
-}
+    void runIsWrittenAsAScenario()
+    {
+        Recording run("await RegeditUser\nsend 17 true\nexpect CallUser\nwait 500ms\nsend 18\nexpect HangUpCall\n");
+        run.start();
+        QVERIFY(run.connectClient());
+        run.say(registration());
+        QCOMPARE(run.hear(), notificationLine(17, "true"));
+        run.say(commandLine("CallUser", {"30010001", false}));
+        QCOMPARE(run.hear(), notificationLine(18, ""));
+        run.say(commandLine("HangUpCall", {}) + "quit\n");
+        QCOMPARE(run.exitCode(), 0);
+        QCOMPARE(run.steps(), REGISTERED + "send 17 true\nexpect CallUser param1=30010001 param2=false\n"
+                                           "send 18\nexpect HangUpCall\nexpect quit\n");
+        // Half a second, and what a busy machine adds.
+        const QRegularExpression waited("\nwait (?:[5-9]00ms|[1-9][0-9.]*s)\nsend 18\n");
+        QVERIFY2(QString::fromUtf8(run.recorded()).contains(waited), run.recorded().constData());
+        QVERIFY(!run.recorded().contains("secret"));
+        QString error;
+        QVERIFY2(Scenario::load(run.file(), &error), qPrintable(error));
+    }
 
-void tst_Record::runIsWrittenAsAScenario()
-{
-    Recording run("await RegeditUser\nsend 17 true\nexpect CallUser\nwait 500ms\nsend 18\nexpect HangUpCall\n");
-    run.start();
-    QVERIFY(run.connectClient());
-    run.say(registration());
-    QCOMPARE(run.hear(), notificationLine(17, "true"));
-    run.say(commandLine("CallUser", {"30010001", false}));
-    QCOMPARE(run.hear(), notificationLine(18, ""));
-    run.say(commandLine("HangUpCall", {}) + "quit\n");
-    QCOMPARE(run.exitCode(), 0);
-    QCOMPARE(run.steps(), REGISTERED + "send 17 true\nexpect CallUser param1=30010001 param2=false\n"
-                                       "send 18\nexpect HangUpCall\nexpect quit\n");
-    // Half a second, and what a busy machine adds.
-    const QRegularExpression waited("\nwait (?:[5-9]00ms|[1-9][0-9.]*s)\nsend 18\n");
-    QVERIFY2(QString::fromUtf8(run.recorded()).contains(waited), run.recorded().constData());
-    QVERIFY(!run.recorded().contains("secret"));
-    QString error;
-    QVERIFY2(Scenario::load(run.file(), &error), qPrintable(error));
-}
-
-void tst_Record::fileAndSocketAreForTheSameUserOnly()
-{
-    Recording run("await RegeditUser\n");
-    run.start();
-    QVERIFY(run.connectClient());
-    const QStringList paths{QDir(QDir::tempPath()).filePath("VoipSDK"), run.file()};
-    for (const QString &path : paths) {
+    void fileAndSocketAreForTheSameUserOnly()
+    {
+        Recording run("await RegeditUser\n");
+        run.start();
+        QVERIFY(run.connectClient());
+        const QStringList paths{QDir(QDir::tempPath()).filePath("VoipSDK"), run.file()};
+        for (const QString &path : paths) {
+            struct stat status = {};
+            QCOMPARE(::stat(qPrintable(path), &status), 0);
+            QCOMPARE(status.st_mode & 077U, 0U);
+        }
+        const QStringList folders = QDir(QDir::tempPath()).entryList({"callcheck-*"}, QDir::Dirs);
+        QCOMPARE(folders.size(), 1);
         struct stat status = {};
-        QCOMPARE(::stat(qPrintable(path), &status), 0);
+        QCOMPARE(::stat(qPrintable(QDir(QDir::tempPath()).filePath(folders.constFirst())), &status), 0);
         QCOMPARE(status.st_mode & 077U, 0U);
+        run.say(registration() + "quit\n");
+        QCOMPARE(run.exitCode(), 0);
+        QCOMPARE(QDir(QDir::tempPath()).entryList({"callcheck-*"}, QDir::Dirs), QStringList());
     }
-    const QStringList folders = QDir(QDir::tempPath()).entryList({"callcheck-*"}, QDir::Dirs);
-    QCOMPARE(folders.size(), 1);
-    struct stat status = {};
-    QCOMPARE(::stat(qPrintable(QDir(QDir::tempPath()).filePath(folders.constFirst())), &status), 0);
-    QCOMPARE(status.st_mode & 077U, 0U);
-    run.say(registration() + "quit\n");
-    QCOMPARE(run.exitCode(), 0);
-    QCOMPARE(QDir(QDir::tempPath()).entryList({"callcheck-*"}, QDir::Dirs), QStringList());
-}
 
-void tst_Record::bytesPassUnchanged()
-{
-    const QByteArray long_(100000, 'x');
-    Recording run("await RegeditUser\nsplit 10 300ms 22\nraw \"\\xFF\\0no json\\n\"\nsend 999 " + long_ +
-                  "\njoin {\nsend 18\nsend 8\n}\nexpect SetMicVolume\n");
-    run.start();
-    QVERIFY(run.connectClient());
-    run.say(registration());
-    const QByteArray busy = notificationLine(22, "");
-    QCOMPARE(run.hear(), busy.left(10));
-    QCOMPARE(run.hear(), busy.mid(10));
-    QCOMPARE(run.hear(), QByteArray("\xFF\0no json\n", 10));
-    QByteArray log;
-    while (!log.endsWith('\n')) {
-        log += run.hear();
+    void bytesPassUnchanged()
+    {
+        const QByteArray long_(100000, 'x');
+        Recording run("await RegeditUser\nsplit 10 300ms 22\nraw \"\\xFF\\0no json\\n\"\nsend 999 " + long_ +
+                      "\njoin {\nsend 18\nsend 8\n}\nexpect SetMicVolume\n");
+        run.start();
+        QVERIFY(run.connectClient());
+        run.say(registration());
+        const QByteArray busy = notificationLine(22, "");
+        QCOMPARE(run.hear(), busy.left(10));
+        QCOMPARE(run.hear(), busy.mid(10));
+        QCOMPARE(run.hear(), QByteArray("\xFF\0no json\n", 10));
+        QByteArray log;
+        while (!log.endsWith('\n')) {
+            log += run.hear();
+        }
+        QCOMPARE(log, notificationLine(999, long_));
+        QCOMPARE(run.hear(), notificationLine(18, "") + notificationLine(8, ""));
+        run.say(commandLine("SetMicVolume", {7}) + "qu");
+        run.say("it\n");
+        QCOMPARE(run.exitCode(), 0);
+        QVERIFY2(run.recorded().contains("split 10 "), run.recorded().left(300));
+        QVERIFY(run.recorded().contains("raw \"\\xFF\\x00no json\\n\"\n"));
+        QVERIFY(
+            run.steps().endsWith("join {\n    send 18\n    send 8\n}\nexpect SetMicVolume param1=7\nexpect quit\n"));
     }
-    QCOMPARE(log, notificationLine(999, long_));
-    QCOMPARE(run.hear(), notificationLine(18, "") + notificationLine(8, ""));
-    run.say(commandLine("SetMicVolume", {7}) + "qu");
-    run.say("it\n");
-    QCOMPARE(run.exitCode(), 0);
-    QVERIFY2(run.recorded().contains("split 10 "), run.recorded().left(300));
-    QVERIFY(run.recorded().contains("raw \"\\xFF\\x00no json\\n\"\n"));
-    QVERIFY(run.steps().endsWith("join {\n    send 18\n    send 8\n}\nexpect SetMicVolume param1=7\nexpect quit\n"));
-}
 
-void tst_Record::lostConnectionsOfBothSidesAreRecorded()
-{
-    Recording run("await RegeditUser\nsend 17 true\ndrop\nawait-client\nexpect RegeditUser\nsend 18\nawait-gone\n"
-                  "await-client\nsend 8\nexpect HangUpCall\n");
-    run.start();
-    QVERIFY(run.connectClient());
-    run.say(registration());
-    QCOMPARE(run.hear(), notificationLine(17, "true"));
-    QVERIFY(run.waitDisconnected());
-    QVERIFY(run.connectClient());
-    run.say(registration());
-    QCOMPARE(run.hear(), notificationLine(18, ""));
-    run.client->disconnectFromServer();
-    QVERIFY(run.connectClient());
-    QCOMPARE(run.hear(), notificationLine(8, ""));
-    run.say(commandLine("HangUpCall", {}) + "quit\n");
-    QCOMPARE(run.exitCode(), 0);
-    QCOMPARE(run.steps(), REGISTERED + "send 17 true\ndrop\nawait-client\n" + REGISTERED +
-                              "send 18\nawait-gone\nawait-client\nsend 8\nexpect HangUpCall\nexpect quit\n");
-}
-
-void tst_Record::closedServerIsRecorded()
-{
-    Recording run("await RegeditUser\nsend 17 true\nstop-listen\nexpect HangUpCall\ndrop\nrestart-listen\n"
-                  "await-client\nexpect RegeditUser\nsend 18\n");
-    run.start();
-    QVERIFY(run.connectClient());
-    run.say(registration());
-    QCOMPARE(run.hear(), notificationLine(17, "true"));
-    QVERIFY(QTest::qWaitFor([&run] { return run.recorded().endsWith("stop-listen\n"); }, kPatienceMs));
-    QLocalSocket refused;
-    refused.connectToServer("VoipSDK");
-    QVERIFY2(!refused.waitForConnected(kPatienceMs), "the plug-in meets a server where the call process has none");
-    run.say(commandLine("HangUpCall", {}));
-    QVERIFY(run.waitDisconnected());
-    QVERIFY(run.connectClient());
-    run.say(registration());
-    QCOMPARE(run.hear(), notificationLine(18, ""));
-    run.say("quit\n");
-    QCOMPARE(run.exitCode(), 0);
-    QCOMPARE(run.steps(), REGISTERED + "send 17 true\nstop-listen\nexpect HangUpCall\ndrop\nrestart-listen\n" +
-                              "await-client\n" + REGISTERED + "send 18\nexpect quit\n");
-}
-
-void tst_Record::deathIsRecordedAndMirrored()
-{
-    Recording run("await RegeditUser\nsend 17 true\ndie\n");
-    run.start();
-    QVERIFY(run.connectClient());
-    run.say(registration());
-    QCOMPARE(run.hear(), notificationLine(17, "true"));
-    QVERIFY(run.waitDisconnected());
-    QCOMPARE(run.exitCode(), 9);
-    QCOMPARE(run.steps(), REGISTERED + "send 17 true\ndie\n# The call process ended with code 9.\n");
-    QVERIFY2(QFile::exists(QDir(QDir::tempPath()).filePath("VoipSDK")), "a killed process leaves its socket file");
-    QCOMPARE(QDir(QDir::tempPath()).entryList({"callcheck-*"}, QDir::Dirs), QStringList());
-}
-
-void tst_Record::endOfItsOwnIsRecorded()
-{
-    Recording run("await RegeditUser\nsend 17 true\nend\n");
-    run.start();
-    QVERIFY(run.connectClient());
-    run.say(registration());
-    QCOMPARE(run.exitCode(), 0);
-    QCOMPARE(run.steps(), REGISTERED + "send 17 true\nend\n");
-    QVERIFY(!QFile::exists(QDir(QDir::tempPath()).filePath("VoipSDK")));
-}
-
-void tst_Record::existingFileIsLeftAlone()
-{
-    Recording run("await RegeditUser\n");
-    QVERIFY(writeFile(run.file(), "mine"));
-    run.start();
-    QCOMPARE(run.exitCode(), 2);
-    QCOMPARE(readBytes(run.file()), QByteArray("mine"));
-}
-
-void tst_Record::anotherLivesSoItStepsBack()
-{
-    Recording first("await RegeditUser\n");
-    first.start();
-    QVERIFY(first.connectClient());
-    Recording second("await RegeditUser\n");
-    second.start();
-    QCOMPARE(second.exitCode(), 0);
-    QVERIFY(!QFile::exists(second.file()));
-    first.say(registration() + "quit\n");
-    QCOMPARE(first.exitCode(), 0);
-    QCOMPARE(first.steps(), REGISTERED + "expect quit\n");
-}
-
-void tst_Record::stoppingTheRecorderIsNoDeath()
-{
-    Recording run("await RegeditUser\nsend 17 true\nexpect HangUpCall\n");
-    run.start();
-    QVERIFY(run.connectClient());
-    run.say(registration());
-    QCOMPARE(run.hear(), notificationLine(17, "true"));
-    run.process.terminate();
-    QCOMPARE(run.exitCode(), 0);
-    QVERIFY(run.waitDisconnected());
-    QCOMPARE(run.steps(), REGISTERED + "send 17 true\n# The recording was stopped.\n");
-}
-
-void tst_Record::callProcessGoesWithAKilledRecorder()
-{
-    Recording run("await RegeditUser\nsend 17 true\nexpect HangUpCall\n");
-    const QString trace = run.file() + ".trace";
-    qputenv("VOIPSDK_TRACE", QFile::encodeName(trace));
-    run.start();
-    qunsetenv("VOIPSDK_TRACE");
-    QVERIFY(run.connectClient());
-    const QByteArray started = "started, process ";
-    const QByteArray text = readBytes(trace);
-    const int at = text.indexOf(started) + started.size();
-    const auto id = static_cast<pid_t>(text.mid(at, text.indexOf('\n', at) - at).toInt());
-    QVERIFY(id > 0 && ::kill(id, 0) == 0);
-    run.process.kill();
-    run.process.waitForFinished(kPatienceMs);
-    QTRY_VERIFY_WITH_TIMEOUT(
-        [id] {
-            QFile status(QStringLiteral("/proc/%1/stat").arg(id));
-            return !status.open(QIODevice::ReadOnly) || status.readAll().contains(") Z ");
-        }(),
-        kPatienceMs);
-}
-
-void tst_Record::inThePlaceOfACallProcessItTakesNoArguments()
-{
-    Recording run("await RegeditUser\nsend 17 true\n");
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("CALLCHECK_OUT", run.file());
-    environment.insert("CALLCHECK_PROGRAM", QStringLiteral(VOIPSDK_PROGRAM));
-    environment.insert("VOIPSDK_SCENARIO", run.played());
-    run.process.setProcessEnvironment(environment);
-    run.process.start(QStringLiteral(CALLCHECK_PROGRAM), QStringList());
-    QVERIFY(run.connectClient());
-    const QString streams = QStringLiteral("/proc/%1/fd/%2").arg(run.process.processId());
-    for (int stream = 0; stream < 3; ++stream) {
-        QCOMPARE(QFile::symLinkTarget(streams.arg(stream)), QStringLiteral("/dev/null"));
+    void lostConnectionsOfBothSidesAreRecorded()
+    {
+        Recording run("await RegeditUser\nsend 17 true\ndrop\nawait-client\nexpect RegeditUser\nsend 18\nawait-gone\n"
+                      "await-client\nsend 8\nexpect HangUpCall\n");
+        run.start();
+        QVERIFY(run.connectClient());
+        run.say(registration());
+        QCOMPARE(run.hear(), notificationLine(17, "true"));
+        QVERIFY(run.waitDisconnected());
+        QVERIFY(run.connectClient());
+        run.say(registration());
+        QCOMPARE(run.hear(), notificationLine(18, ""));
+        run.client->disconnectFromServer();
+        QVERIFY(run.connectClient());
+        QCOMPARE(run.hear(), notificationLine(8, ""));
+        run.say(commandLine("HangUpCall", {}) + "quit\n");
+        QCOMPARE(run.exitCode(), 0);
+        QCOMPARE(run.steps(), REGISTERED + "send 17 true\ndrop\nawait-client\n" + REGISTERED +
+                                  "send 18\nawait-gone\nawait-client\nsend 8\nexpect HangUpCall\nexpect quit\n");
     }
-    run.say(registration());
-    QCOMPARE(run.hear(), notificationLine(17, "true"));
-    run.say("quit\n");
-    QCOMPARE(run.exitCode(), 0);
-    QCOMPARE(run.steps(), REGISTERED + "send 17 true\nexpect quit\n");
-}
 
-void tst_Record::callProcessThatCannotBeStartedLeavesNoFile()
-{
-    Recording run("");
-    run.process.start(QStringLiteral(CALLCHECK_PROGRAM), {"record", "--out", run.file(), "--", "/nothing/here"});
-    QCOMPARE(run.exitCode(), 1);
-    QVERIFY(!QFile::exists(run.file()));
-}
+    void closedServerIsRecorded()
+    {
+        Recording run("await RegeditUser\nsend 17 true\nstop-listen\nexpect HangUpCall\ndrop\nrestart-listen\n"
+                      "await-client\nexpect RegeditUser\nsend 18\n");
+        run.start();
+        QVERIFY(run.connectClient());
+        run.say(registration());
+        QCOMPARE(run.hear(), notificationLine(17, "true"));
+        QVERIFY(QTest::qWaitFor([&run] { return run.recorded().endsWith("stop-listen\n"); }, kPatienceMs));
+        QLocalSocket refused;
+        refused.connectToServer("VoipSDK");
+        QVERIFY2(!refused.waitForConnected(kPatienceMs), "the plug-in meets a server where the call process has none");
+        run.say(commandLine("HangUpCall", {}));
+        QVERIFY(run.waitDisconnected());
+        QVERIFY(run.connectClient());
+        run.say(registration());
+        QCOMPARE(run.hear(), notificationLine(18, ""));
+        run.say("quit\n");
+        QCOMPARE(run.exitCode(), 0);
+        QCOMPARE(run.steps(), REGISTERED + "send 17 true\nstop-listen\nexpect HangUpCall\ndrop\nrestart-listen\n" +
+                                  "await-client\n" + REGISTERED + "send 18\nexpect quit\n");
+    }
+
+    void deathIsRecordedAndMirrored()
+    {
+        Recording run("await RegeditUser\nsend 17 true\ndie\n");
+        run.start();
+        QVERIFY(run.connectClient());
+        run.say(registration());
+        QCOMPARE(run.hear(), notificationLine(17, "true"));
+        QVERIFY(run.waitDisconnected());
+        QCOMPARE(run.exitCode(), 9);
+        QCOMPARE(run.steps(), REGISTERED + "send 17 true\ndie\n# The call process ended with code 9.\n");
+        QVERIFY2(QFile::exists(QDir(QDir::tempPath()).filePath("VoipSDK")), "a killed process leaves its socket file");
+        QCOMPARE(QDir(QDir::tempPath()).entryList({"callcheck-*"}, QDir::Dirs), QStringList());
+    }
+
+    void endOfItsOwnIsRecorded()
+    {
+        Recording run("await RegeditUser\nsend 17 true\nend\n");
+        run.start();
+        QVERIFY(run.connectClient());
+        run.say(registration());
+        QCOMPARE(run.exitCode(), 0);
+        QCOMPARE(run.steps(), REGISTERED + "send 17 true\nend\n");
+        QVERIFY(!QFile::exists(QDir(QDir::tempPath()).filePath("VoipSDK")));
+    }
+
+    void existingFileIsLeftAlone()
+    {
+        Recording run("await RegeditUser\n");
+        QVERIFY(writeFile(run.file(), "mine"));
+        run.start();
+        QCOMPARE(run.exitCode(), 2);
+        QCOMPARE(readBytes(run.file()), QByteArray("mine"));
+    }
+
+    void anotherLivesSoItStepsBack()
+    {
+        Recording first("await RegeditUser\n");
+        first.start();
+        QVERIFY(first.connectClient());
+        Recording second("await RegeditUser\n");
+        second.start();
+        QCOMPARE(second.exitCode(), 0);
+        QVERIFY(!QFile::exists(second.file()));
+        first.say(registration() + "quit\n");
+        QCOMPARE(first.exitCode(), 0);
+        QCOMPARE(first.steps(), REGISTERED + "expect quit\n");
+    }
+
+    void stoppingTheRecorderIsNoDeath()
+    {
+        Recording run("await RegeditUser\nsend 17 true\nexpect HangUpCall\n");
+        run.start();
+        QVERIFY(run.connectClient());
+        run.say(registration());
+        QCOMPARE(run.hear(), notificationLine(17, "true"));
+        run.process.terminate();
+        QCOMPARE(run.exitCode(), 0);
+        QVERIFY(run.waitDisconnected());
+        QCOMPARE(run.steps(), REGISTERED + "send 17 true\n# The recording was stopped.\n");
+    }
+
+    void callProcessGoesWithAKilledRecorder()
+    {
+        Recording run("await RegeditUser\nsend 17 true\nexpect HangUpCall\n");
+        const QString trace = run.file() + ".trace";
+        qputenv("VOIPSDK_TRACE", QFile::encodeName(trace));
+        run.start();
+        qunsetenv("VOIPSDK_TRACE");
+        QVERIFY(run.connectClient());
+        const QByteArray started = "started, process ";
+        const QByteArray text = readBytes(trace);
+        const int at = text.indexOf(started) + started.size();
+        const auto id = static_cast<pid_t>(text.mid(at, text.indexOf('\n', at) - at).toInt());
+        QVERIFY(id > 0 && ::kill(id, 0) == 0);
+        run.process.kill();
+        run.process.waitForFinished(kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            [id] {
+                QFile status(QStringLiteral("/proc/%1/stat").arg(id));
+                return !status.open(QIODevice::ReadOnly) || status.readAll().contains(") Z ");
+            }(),
+            kPatienceMs);
+    }
+
+    void inThePlaceOfACallProcessItTakesNoArguments()
+    {
+        Recording run("await RegeditUser\nsend 17 true\n");
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("CALLCHECK_OUT", run.file());
+        environment.insert("CALLCHECK_PROGRAM", QStringLiteral(VOIPSDK_PROGRAM));
+        environment.insert("VOIPSDK_SCENARIO", run.played());
+        run.process.setProcessEnvironment(environment);
+        run.process.start(QStringLiteral(CALLCHECK_PROGRAM), QStringList());
+        QVERIFY(run.connectClient());
+        const QString streams = QStringLiteral("/proc/%1/fd/%2").arg(run.process.processId());
+        for (int stream = 0; stream < 3; ++stream) {
+            QCOMPARE(QFile::symLinkTarget(streams.arg(stream)), QStringLiteral("/dev/null"));
+        }
+        run.say(registration());
+        QCOMPARE(run.hear(), notificationLine(17, "true"));
+        run.say("quit\n");
+        QCOMPARE(run.exitCode(), 0);
+        QCOMPARE(run.steps(), REGISTERED + "send 17 true\nexpect quit\n");
+    }
+
+    void callProcessThatCannotBeStartedLeavesNoFile()
+    {
+        Recording run("");
+        run.process.start(QStringLiteral(CALLCHECK_PROGRAM), {"record", "--out", run.file(), "--", "/nothing/here"});
+        QCOMPARE(run.exitCode(), 1);
+        QVERIFY(!QFile::exists(run.file()));
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_Record, Guiless)

@@ -79,221 +79,209 @@ class tst_Replay : public QObject
     Q_OBJECT
 
 private slots:
-    void everyReadyScenarioIsKeptToByItsOwnPlayer_data();
-    void everyReadyScenarioIsKeptToByItsOwnPlayer();
-    void robotsDoAsWasRecorded();
-    void whatIsNotAsRecordedIsTold_data();
-    void whatIsNotAsRecordedIsTold();
-    void lineInTwoReadsIsTold();
-    void nothingMoreMayBeSaid();
-    void whatComesBehindTheLastLineIsTold_data();
-    void whatComesBehindTheLastLineIsTold();
-    void halfLineOfTheScenarioMayStandBehindTheLast();
-    void endThatIsNotAsRecordedIsTold_data();
-    void endThatIsNotAsRecordedIsTold();
-    void callProcessThatOutlivesQuitIsTold();
-    void codeAfterQuitMustBeNought();
-    void socketThatIsOpenToOthersIsTold();
-    void callProcessThatNeverListensIsTold();
-    void badScenarioIsRefused();
-    void runningCallProcessIsAttachedTo();
-};
-
-void tst_Replay::everyReadyScenarioIsKeptToByItsOwnPlayer_data()
-{
-    QTest::addColumn<QString>("file");
-    const QStringList names = QDir(QStringLiteral(VOIPSDK_SCENARIOS)).entryList({"*.scn"}, QDir::Files);
-    for (const QString &name : names) {
-        QTest::newRow(qPrintable(name)) << readyScenario(name);
+    void everyReadyScenarioIsKeptToByItsOwnPlayer_data()
+    {
+        QTest::addColumn<QString>("file");
+        const QStringList names = QDir(QStringLiteral(VOIPSDK_SCENARIOS)).entryList({"*.scn"}, QDir::Files);
+        for (const QString &name : names) {
+            QTest::newRow(qPrintable(name)) << readyScenario(name);
+        }
     }
-}
 
-void tst_Replay::everyReadyScenarioIsKeptToByItsOwnPlayer()
-{
-    QFETCH(QString, file);
-    const Outcome outcome = check(QStringList{"replay", file, "--"} + standIn({"--scenario", file, "--speed", "20"}));
-    QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.said));
-}
+    void everyReadyScenarioIsKeptToByItsOwnPlayer()
+    {
+        QFETCH(QString, file);
+        const Outcome outcome =
+            check(QStringList{"replay", file, "--"} + standIn({"--scenario", file, "--speed", "20"}));
+        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.said));
+    }
 
-void tst_Replay::robotsDoAsWasRecorded()
-{
-    const Outcome outcome = replayAgainst(ANSWERED, standIn());
-    QCOMPARE(outcome.said, QString("as recorded: 3 commands, 2 notifications\n"));
-    QCOMPARE(outcome.exitCode, 0);
-}
+    void robotsDoAsWasRecorded()
+    {
+        const Outcome outcome = replayAgainst(ANSWERED, standIn());
+        QCOMPARE(outcome.said, QString("as recorded: 3 commands, 2 notifications\n"));
+        QCOMPARE(outcome.exitCode, 0);
+    }
 
-void tst_Replay::whatIsNotAsRecordedIsTold_data()
-{
-    QTest::addColumn<QByteArray>("instead");
-    QTest::addColumn<QByteArray>("of");
-    QTest::addColumn<QString>("told");
-    QTest::addColumn<int>("seconds");
-    QTest::newRow("code") << QByteArray("send 22") << QByteArray("send 18")
-                          << QString("run.scn:6: expected 22 (PeerBusy), got 18 (CallConnected)") << kPatient;
-    QTest::newRow("content") << QByteArray("17 false") << QByteArray("17 true")
-                             << QString("run.scn:2: expected 17 (SdkFlag) false, got 17 (SdkFlag) true") << kPatient;
-    QTest::newRow("called user") << QByteArray("param1=30010002") << QByteArray("param1=30010001")
-                                 << QString("run.scn:6: expected 18 (CallConnected), got 22 (PeerBusy)") << kPatient;
-    QTest::newRow("one more") << QByteArray("send 18\nsend 8") << QByteArray("send 18")
-                              << QString("run.scn:7: expected 8 (PeerHangup), got nothing for 5000 ms") << kImpatient;
-    QTest::newRow("drop") << QByteArray("drop") << QByteArray("send 18")
-                          << QString("run.scn:6: the connection is not closed") << kImpatient;
-    QTest::newRow("death") << QByteArray("die") << QByteArray("send 18")
-                           << QString("run.scn:6: expected the call process to die, it lives") << kImpatient;
-    QTest::newRow("end") << QByteArray("end") << QByteArray("send 18")
-                         << QString("run.scn:6: expected the call process to end by itself, it lives") << kImpatient;
-    QTest::newRow("server") << QByteArray("stop-listen") << QByteArray("send 18")
-                            << QString("run.scn:6: the call process still listens") << kImpatient;
-}
+    void whatIsNotAsRecordedIsTold_data()
+    {
+        QTest::addColumn<QByteArray>("instead");
+        QTest::addColumn<QByteArray>("of");
+        QTest::addColumn<QString>("told");
+        QTest::addColumn<int>("seconds");
+        QTest::newRow("code") << QByteArray("send 22") << QByteArray("send 18")
+                              << QString("run.scn:6: expected 22 (PeerBusy), got 18 (CallConnected)") << kPatient;
+        QTest::newRow("content") << QByteArray("17 false") << QByteArray("17 true")
+                                 << QString("run.scn:2: expected 17 (SdkFlag) false, got 17 (SdkFlag) true")
+                                 << kPatient;
+        QTest::newRow("called user") << QByteArray("param1=30010002") << QByteArray("param1=30010001")
+                                     << QString("run.scn:6: expected 18 (CallConnected), got 22 (PeerBusy)")
+                                     << kPatient;
+        QTest::newRow("one more") << QByteArray("send 18\nsend 8") << QByteArray("send 18")
+                                  << QString("run.scn:7: expected 8 (PeerHangup), got nothing for 5000 ms")
+                                  << kImpatient;
+        QTest::newRow("drop") << QByteArray("drop") << QByteArray("send 18")
+                              << QString("run.scn:6: the connection is not closed") << kImpatient;
+        QTest::newRow("death") << QByteArray("die") << QByteArray("send 18")
+                               << QString("run.scn:6: expected the call process to die, it lives") << kImpatient;
+        QTest::newRow("end") << QByteArray("end") << QByteArray("send 18")
+                             << QString("run.scn:6: expected the call process to end by itself, it lives")
+                             << kImpatient;
+        QTest::newRow("server") << QByteArray("stop-listen") << QByteArray("send 18")
+                                << QString("run.scn:6: the call process still listens") << kImpatient;
+    }
 
-void tst_Replay::whatIsNotAsRecordedIsTold()
-{
-    QFETCH(QByteArray, instead);
-    QFETCH(QByteArray, of);
-    QFETCH(QString, told);
-    QFETCH(int, seconds);
-    const Outcome outcome = replayAgainst(QByteArray(ANSWERED).replace(of, instead), standIn(), seconds);
-    QCOMPARE(outcome.exitCode, 3);
-    QVERIFY2(outcome.said.contains(told), qPrintable(outcome.said));
-}
+    void whatIsNotAsRecordedIsTold()
+    {
+        QFETCH(QByteArray, instead);
+        QFETCH(QByteArray, of);
+        QFETCH(QString, told);
+        QFETCH(int, seconds);
+        const Outcome outcome = replayAgainst(QByteArray(ANSWERED).replace(of, instead), standIn(), seconds);
+        QCOMPARE(outcome.exitCode, 3);
+        QVERIFY2(outcome.said.contains(told), qPrintable(outcome.said));
+    }
 
-void tst_Replay::lineInTwoReadsIsTold()
-{
-    const QString split = readyScenario("split-line.scn");
-    QFile file(split);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray whole = file.readAll().replace("split 10 200ms 22", "send 22");
-    const Outcome outcome = replayAgainst(whole, standIn({"--scenario", split}));
-    QCOMPARE(outcome.exitCode, 3);
-    QVERIFY2(outcome.said.contains("more than one read"), qPrintable(outcome.said));
-}
+    void lineInTwoReadsIsTold()
+    {
+        const QString split = readyScenario("split-line.scn");
+        QFile file(split);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray whole = file.readAll().replace("split 10 200ms 22", "send 22");
+        const Outcome outcome = replayAgainst(whole, standIn({"--scenario", split}));
+        QCOMPARE(outcome.exitCode, 3);
+        QVERIFY2(outcome.said.contains("more than one read"), qPrintable(outcome.said));
+    }
 
-void tst_Replay::nothingMoreMayBeSaid()
-{
-    const Outcome outcome = replayAgainst("await RegeditUser\nexpect quit\n", standIn());
-    QCOMPARE(outcome.exitCode, 3);
-    QVERIFY2(outcome.said.contains("expected nothing more, got 17 (SdkFlag) true"), qPrintable(outcome.said));
-}
+    void nothingMoreMayBeSaid()
+    {
+        const Outcome outcome = replayAgainst("await RegeditUser\nexpect quit\n", standIn());
+        QCOMPARE(outcome.exitCode, 3);
+        QVERIFY2(outcome.said.contains("expected nothing more, got 17 (SdkFlag) true"), qPrintable(outcome.said));
+    }
 
-void tst_Replay::whatComesBehindTheLastLineIsTold_data()
-{
-    QTest::addColumn<QByteArray>("recorded");
-    QTest::addColumn<QByteArray>("more");
-    QTest::addColumn<QString>("told");
-    const QString half = "expected nothing more, got \"{\"resultCode\":1\"";
-    QTest::newRow("line") << QByteArray("send 17 true") << QByteArray("send 18")
-                          << QString("expected nothing more, got 18 (CallConnected)");
-    QTest::newRow("half a line") << QByteArray("send 17 true") << QByteArray("raw '{\"resultCode\":1'") << half;
-    QTest::newRow("half a line where lines come in pieces")
-        << QByteArray("split 10 1ms 17 true") << QByteArray("raw '{\"resultCode\":1'") << half;
-    QTest::newRow("log in two reads") << QByteArray("send 17 true") << QByteArray("split 10 1ms 999 text")
-                                      << QString("a line came in more than one read");
-}
+    void whatComesBehindTheLastLineIsTold_data()
+    {
+        QTest::addColumn<QByteArray>("recorded");
+        QTest::addColumn<QByteArray>("more");
+        QTest::addColumn<QString>("told");
+        const QString half = "expected nothing more, got \"{\"resultCode\":1\"";
+        QTest::newRow("line") << QByteArray("send 17 true") << QByteArray("send 18")
+                              << QString("expected nothing more, got 18 (CallConnected)");
+        QTest::newRow("half a line") << QByteArray("send 17 true") << QByteArray("raw '{\"resultCode\":1'") << half;
+        QTest::newRow("half a line where lines come in pieces")
+            << QByteArray("split 10 1ms 17 true") << QByteArray("raw '{\"resultCode\":1'") << half;
+        QTest::newRow("log in two reads") << QByteArray("send 17 true") << QByteArray("split 10 1ms 999 text")
+                                          << QString("a line came in more than one read");
+    }
 
-void tst_Replay::whatComesBehindTheLastLineIsTold()
-{
-    QFETCH(QByteArray, recorded);
-    QFETCH(QByteArray, more);
-    QFETCH(QString, told);
-    const QByteArray begin = "await RegeditUser\n" + recorded + '\n';
-    const Outcome outcome = replayAgainstPlayed(begin + "drop\nend\n", begin + more + "\ndrop\nend\n");
-    QCOMPARE(outcome.exitCode, 3);
-    QVERIFY2(outcome.said.contains(told), qPrintable(outcome.said));
-}
+    void whatComesBehindTheLastLineIsTold()
+    {
+        QFETCH(QByteArray, recorded);
+        QFETCH(QByteArray, more);
+        QFETCH(QString, told);
+        const QByteArray begin = "await RegeditUser\n" + recorded + '\n';
+        const Outcome outcome = replayAgainstPlayed(begin + "drop\nend\n", begin + more + "\ndrop\nend\n");
+        QCOMPARE(outcome.exitCode, 3);
+        QVERIFY2(outcome.said.contains(told), qPrintable(outcome.said));
+    }
 
-void tst_Replay::halfLineOfTheScenarioMayStandBehindTheLast()
-{
-    const QByteArray scenario = "await RegeditUser\nsend 17 true\nraw '{\"resultCode\":1'\ndrop\nend\n";
-    const Outcome outcome = replayAgainstPlayed(scenario, scenario);
-    QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.said));
-}
+    void halfLineOfTheScenarioMayStandBehindTheLast()
+    {
+        const QByteArray scenario = "await RegeditUser\nsend 17 true\nraw '{\"resultCode\":1'\ndrop\nend\n";
+        const Outcome outcome = replayAgainstPlayed(scenario, scenario);
+        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.said));
+    }
 
-void tst_Replay::endThatIsNotAsRecordedIsTold_data()
-{
-    QTest::addColumn<QByteArray>("recorded");
-    QTest::addColumn<QByteArray>("played");
-    QTest::addColumn<QString>("told");
-    QTest::newRow("end for a death") << QByteArray("die") << QByteArray("end")
-                                     << QString("expected the call process to die, it ended with code 0");
-    QTest::newRow("death for an end") << QByteArray("end") << QByteArray("die")
-                                      << QString("expected the call process to end with code 0, it ended with code 9");
-    QTest::newRow("lost connection") << QByteArray("send 18") << QByteArray("drop")
-                                     << QString("expected 18 (CallConnected), got the end of the connection");
-    QTest::newRow("server that stays closed")
-        << QByteArray("stop-listen\nrestart-listen") << QByteArray("stop-listen\nexpect HangUpCall")
-        << QString("run.scn:4: the call process does not listen again");
-}
+    void endThatIsNotAsRecordedIsTold_data()
+    {
+        QTest::addColumn<QByteArray>("recorded");
+        QTest::addColumn<QByteArray>("played");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("end for a death") << QByteArray("die") << QByteArray("end")
+                                         << QString("expected the call process to die, it ended with code 0");
+        QTest::newRow("death for an end")
+            << QByteArray("end") << QByteArray("die")
+            << QString("expected the call process to end with code 0, it ended with code 9");
+        QTest::newRow("lost connection") << QByteArray("send 18") << QByteArray("drop")
+                                         << QString("expected 18 (CallConnected), got the end of the connection");
+        QTest::newRow("server that stays closed")
+            << QByteArray("stop-listen\nrestart-listen") << QByteArray("stop-listen\nexpect HangUpCall")
+            << QString("run.scn:4: the call process does not listen again");
+    }
 
-void tst_Replay::endThatIsNotAsRecordedIsTold()
-{
-    QFETCH(QByteArray, recorded);
-    QFETCH(QByteArray, played);
-    QFETCH(QString, told);
-    const QByteArray begin = "await RegeditUser\nsend 17 true\n";
-    const Outcome outcome = replayAgainstPlayed(begin + recorded + '\n', begin + played + '\n');
-    QCOMPARE(outcome.exitCode, 3);
-    QVERIFY2(outcome.said.contains(told), qPrintable(outcome.said));
-}
+    void endThatIsNotAsRecordedIsTold()
+    {
+        QFETCH(QByteArray, recorded);
+        QFETCH(QByteArray, played);
+        QFETCH(QString, told);
+        const QByteArray begin = "await RegeditUser\nsend 17 true\n";
+        const Outcome outcome = replayAgainstPlayed(begin + recorded + '\n', begin + played + '\n');
+        QCOMPARE(outcome.exitCode, 3);
+        QVERIFY2(outcome.said.contains(told), qPrintable(outcome.said));
+    }
 
-void tst_Replay::callProcessThatOutlivesQuitIsTold()
-{
-    QLocalServer server;
-    server.setSocketOptions(QLocalServer::UserAccessOption);
-    QVERIFY(server.listen("stays"));
-    const Outcome outcome =
-        check({"replay", "--attach", "stays", "--patience", "0.1", scenarioFile("await RegeditUser\n")});
-    QCOMPARE(outcome.exitCode, 3);
-    QVERIFY2(outcome.said.contains("the call process has not ended 100 ms after quit"), qPrintable(outcome.said));
-}
+    void callProcessThatOutlivesQuitIsTold()
+    {
+        QLocalServer server;
+        server.setSocketOptions(QLocalServer::UserAccessOption);
+        QVERIFY(server.listen("stays"));
+        const Outcome outcome =
+            check({"replay", "--attach", "stays", "--patience", "0.1", scenarioFile("await RegeditUser\n")});
+        QCOMPARE(outcome.exitCode, 3);
+        QVERIFY2(outcome.said.contains("the call process has not ended 100 ms after quit"), qPrintable(outcome.said));
+    }
 
-void tst_Replay::codeAfterQuitMustBeNought()
-{
-    const Outcome outcome = replayAgainstPlayed("await RegeditUser\nsend 17 true\nexpect quit\n",
-                                                "await RegeditUser\nsend 17 true\nexpect HangUpCall\n");
-    QCOMPARE(outcome.exitCode, 3);
-    QVERIFY2(outcome.said.contains("expected code 0 after quit, the call process ended with code 3"),
-             qPrintable(outcome.said));
-}
+    void codeAfterQuitMustBeNought()
+    {
+        const Outcome outcome = replayAgainstPlayed("await RegeditUser\nsend 17 true\nexpect quit\n",
+                                                    "await RegeditUser\nsend 17 true\nexpect HangUpCall\n");
+        QCOMPARE(outcome.exitCode, 3);
+        QVERIFY2(outcome.said.contains("expected code 0 after quit, the call process ended with code 3"),
+                 qPrintable(outcome.said));
+    }
 
-void tst_Replay::socketThatIsOpenToOthersIsTold()
-{
-    QLocalServer server;
-    server.setSocketOptions(QLocalServer::WorldAccessOption);
-    QVERIFY(server.listen("open"));
-    const Outcome outcome = check({"replay", "--attach", "open", scenarioFile("await RegeditUser\n")});
-    QCOMPARE(outcome.exitCode, 3);
-    QVERIFY2(outcome.said.contains("the socket file is open to other users: its mode is 0777"),
-             qPrintable(outcome.said));
-}
+    void socketThatIsOpenToOthersIsTold()
+    {
+        QLocalServer server;
+        server.setSocketOptions(QLocalServer::WorldAccessOption);
+        QVERIFY(server.listen("open"));
+        const Outcome outcome = check({"replay", "--attach", "open", scenarioFile("await RegeditUser\n")});
+        QCOMPARE(outcome.exitCode, 3);
+        QVERIFY2(outcome.said.contains("the socket file is open to other users: its mode is 0777"),
+                 qPrintable(outcome.said));
+    }
 
-void tst_Replay::callProcessThatNeverListensIsTold()
-{
-    const Outcome silent = check({"replay", "--patience", "0.1", scenarioFile(ANSWERED), "--", "/bin/sleep", "100"});
-    QCOMPARE(silent.exitCode, 1);
-    QVERIFY2(silent.said.contains("does not listen"), qPrintable(silent.said));
-    const Outcome ended = replayAgainst(ANSWERED, {"/bin/false"});
-    QCOMPARE(ended.exitCode, 1);
-    QVERIFY2(ended.said.contains("ended with code 1 before it listened"), qPrintable(ended.said));
-    QCOMPARE(replayAgainst(ANSWERED, {"/nothing/here"}).exitCode, 1);
-}
+    void callProcessThatNeverListensIsTold()
+    {
+        const Outcome silent =
+            check({"replay", "--patience", "0.1", scenarioFile(ANSWERED), "--", "/bin/sleep", "100"});
+        QCOMPARE(silent.exitCode, 1);
+        QVERIFY2(silent.said.contains("does not listen"), qPrintable(silent.said));
+        const Outcome ended = replayAgainst(ANSWERED, {"/bin/false"});
+        QCOMPARE(ended.exitCode, 1);
+        QVERIFY2(ended.said.contains("ended with code 1 before it listened"), qPrintable(ended.said));
+        QCOMPARE(replayAgainst(ANSWERED, {"/nothing/here"}).exitCode, 1);
+    }
 
-void tst_Replay::badScenarioIsRefused()
-{
-    const Outcome outcome = replayAgainst("await RegeditUser\ndance\n", standIn());
-    QCOMPARE(outcome.exitCode, 2);
-    QVERIFY2(outcome.said.contains("run.scn:2: unknown statement"), qPrintable(outcome.said));
-}
+    void badScenarioIsRefused()
+    {
+        const Outcome outcome = replayAgainst("await RegeditUser\ndance\n", standIn());
+        QCOMPARE(outcome.exitCode, 2);
+        QVERIFY2(outcome.said.contains("run.scn:2: unknown statement"), qPrintable(outcome.said));
+    }
 
-void tst_Replay::runningCallProcessIsAttachedTo()
-{
-    QProcess running;
-    running.start(QStringLiteral(VOIPSDK_PROGRAM), {"--socket-name", "running", "--speed", "100"});
-    QVERIFY(running.waitForStarted(kPatienceMs));
-    const Outcome outcome = check({"replay", "--attach", "running", scenarioFile(ANSWERED)});
-    QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.said));
-    QVERIFY(running.state() == QProcess::NotRunning || running.waitForFinished(kPatienceMs));
-    QCOMPARE(running.exitCode(), 0);
-}
+    void runningCallProcessIsAttachedTo()
+    {
+        QProcess running;
+        running.start(QStringLiteral(VOIPSDK_PROGRAM), {"--socket-name", "running", "--speed", "100"});
+        QVERIFY(running.waitForStarted(kPatienceMs));
+        const Outcome outcome = check({"replay", "--attach", "running", scenarioFile(ANSWERED)});
+        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.said));
+        QVERIFY(running.state() == QProcess::NotRunning || running.waitForFinished(kPatienceMs));
+        QCOMPARE(running.exitCode(), 0);
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_Replay, Guiless)

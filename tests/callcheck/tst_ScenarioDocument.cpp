@@ -41,47 +41,43 @@ class tst_ScenarioDocument : public QObject
     Q_OBJECT
 
 private slots:
-    void everyReadyScenarioIsListedAndEveryListedOneIsThere();
-    void everyStatementHasItsRow();
-    void exampleIsAScenario();
-};
-
-void tst_ScenarioDocument::everyReadyScenarioIsListedAndEveryListedOneIsThere()
-{
-    const QDir folder(QStringLiteral(VOIPSDK_SCENARIOS));
-    QStringList listed = namesOf(QStringLiteral(".scn`"));
-    listed.sort();
-    QStringList there = folder.entryList(QDir::Files);
-    there.sort();
-    QCOMPARE(listed, there);
-    QVERIFY(listed.size() >= 20);
-}
-
-void tst_ScenarioDocument::everyStatementHasItsRow()
-{
-    const QStringList cells = firstCells();
-    for (const StatementRow &row : STATEMENTS) {
-        const QRegularExpression begin(QStringLiteral("`%1[ `]").arg(QLatin1String(row.word)));
-        QVERIFY2(!cells.filter(begin).isEmpty(), row.word);
+    void everyReadyScenarioIsListedAndEveryListedOneIsThere()
+    {
+        const QDir folder(QStringLiteral(VOIPSDK_SCENARIOS));
+        QStringList listed = namesOf(QStringLiteral(".scn`"));
+        listed.sort();
+        QStringList there = folder.entryList(QDir::Files);
+        there.sort();
+        QCOMPARE(listed, there);
+        QVERIFY(listed.size() >= 20);
     }
-}
 
-void tst_ScenarioDocument::exampleIsAScenario()
-{
-    QFile file(QStringLiteral(VOIP_DOCUMENTS "/scenario-language.md"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QByteArray example;
-    const QList<QByteArray> lines = file.readAll().split('\n');
-    for (const QByteArray &line : lines) {
-        if (line.startsWith("    ")) {
-            example += line.mid(4) + '\n';
+    void everyStatementHasItsRow()
+    {
+        const QStringList cells = firstCells();
+        for (const StatementRow &row : STATEMENTS) {
+            const QRegularExpression begin(QStringLiteral("`%1[ `]").arg(QLatin1String(row.word)));
+            QVERIFY2(!cells.filter(begin).isEmpty(), row.word);
         }
     }
-    QString error;
-    const std::optional<Scenario> scenario = Scenario::parse("example", example, &error);
-    QVERIFY2(scenario, qPrintable(error));
-    QVERIFY(scenario->statements.size() > 5);
-}
+
+    void exampleIsAScenario()
+    {
+        QFile file(QStringLiteral(VOIP_DOCUMENTS "/scenario-language.md"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QByteArray example;
+        const QList<QByteArray> lines = file.readAll().split('\n');
+        for (const QByteArray &line : lines) {
+            if (line.startsWith("    ")) {
+                example += line.mid(4) + '\n';
+            }
+        }
+        QString error;
+        const std::optional<Scenario> scenario = Scenario::parse("example", example, &error);
+        QVERIFY2(scenario, qPrintable(error));
+        QVERIFY(scenario->statements.size() > 5);
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_ScenarioDocument, Guiless)

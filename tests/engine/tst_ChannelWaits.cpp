@@ -46,43 +46,39 @@ class tst_ChannelWaits : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup();
-    void sendingToAPeerThatDoesNotReadDoesNotWait();
-    void endWithAPeerThatDoesNotReadTakesASecond();
+    void cleanup()
+    {
+        watchedSocket = -1;
+        ShiftedClock::reset();
+    }
+
+    void sendingToAPeerThatDoesNotReadDoesNotWait()
+    {
+        EngineFixture f;
+        f.takeLines();
+        QCOMPARE(f.manager->m_pVoipSocket->bytesToWrite(), Q_INT64_C(0));
+        f.manager->sendVoipMessage(QString(kMessageSize, 'x'));
+        // Not a byte has gone yet: who waits or flushes writes some.
+        QCOMPARE(f.manager->m_pVoipSocket->bytesToWrite(), static_cast<qint64>(kMessageSize));
+        QVERIFY(f.manager->m_bSocketConnected);
+    }
+
+    void endWithAPeerThatDoesNotReadTakesASecond()
+    {
+        EngineFixture f;
+        f.takeLines();
+        f.manager->sendVoipMessage(QString(kMessageSize, 'x'));
+
+        waits.clear();
+        watchedSocket = static_cast<int>(f.manager->m_pVoipSocket->socketDescriptor());
+        // So that a busy machine takes nothing off the time that the wait is given.
+        ShiftedClock::holdTimers();
+        f.manager->disconnectVoipSDKSocket();
+        QCOMPARE(waits, QVector<int>{1000});
+        QVERIFY(!f.manager->m_pVoipSocket);
+        QVERIFY(!f.manager->m_bSocketConnected);
+    }
 };
-
-void tst_ChannelWaits::cleanup()
-{
-    watchedSocket = -1;
-    ShiftedClock::reset();
-}
-
-void tst_ChannelWaits::sendingToAPeerThatDoesNotReadDoesNotWait()
-{
-    EngineFixture f;
-    f.takeLines();
-    QCOMPARE(f.manager->m_pVoipSocket->bytesToWrite(), Q_INT64_C(0));
-    f.manager->sendVoipMessage(QString(kMessageSize, 'x'));
-    // Not a byte has gone yet: who waits or flushes writes some.
-    QCOMPARE(f.manager->m_pVoipSocket->bytesToWrite(), static_cast<qint64>(kMessageSize));
-    QVERIFY(f.manager->m_bSocketConnected);
-}
-
-void tst_ChannelWaits::endWithAPeerThatDoesNotReadTakesASecond()
-{
-    EngineFixture f;
-    f.takeLines();
-    f.manager->sendVoipMessage(QString(kMessageSize, 'x'));
-
-    waits.clear();
-    watchedSocket = static_cast<int>(f.manager->m_pVoipSocket->socketDescriptor());
-    // So that a busy machine takes nothing off the time that the wait is given.
-    ShiftedClock::holdTimers();
-    f.manager->disconnectVoipSDKSocket();
-    QCOMPARE(waits, QVector<int>{1000});
-    QVERIFY(!f.manager->m_pVoipSocket);
-    QVERIFY(!f.manager->m_bSocketConnected);
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_ChannelWaits, Widgets)

@@ -9,69 +9,63 @@ class tst_ClientConnect : public QObject
     Q_OBJECT
 
 private slots:
-    void loginRegistersTheUser_data();
-    void loginRegistersTheUser();
-    void loginWithoutARecordRegistersAnEmptyValue();
-    void loginWhileDownIsRegisteredAtTheNextConnect();
-    void logoutHangsUpThenUnregisters();
+    void loginRegistersTheUser_data()
+    {
+        QTest::addColumn<QString>("nick");
+        QTest::addColumn<QString>("line");
+
+        QTest::newRow("with a nick name") << "Nick"
+                                          << "RegeditUser \"me\" \"Nick\" \"ticket\" false";
+        QTest::newRow("by the jid") << ""
+                                    << "RegeditUser \"me\" \"me\" \"ticket\" false";
+    }
+
+    void loginRegistersTheUser()
+    {
+        QFETCH(QString, nick);
+        QFETCH(QString, line);
+        EngineFixture f;
+        FriendData me(EngineFixture::jid("me"));
+        me.m_vcardInfo.m_strNickName = nick;
+        f.host.setRecord(me.m_strJid, me);
+        f.manager->clientConnectStatus(true);
+        QCOMPARE(f.takeLines(), QStringList{line});
+        QCOMPARE(f.host.received(MSG_GET_FRIEND_INFO).size(), 1);
+    }
+
+    void loginWithoutARecordRegistersAnEmptyValue()
+    {
+        EngineFixture f;
+        f.context.setLoginData(nullptr);
+        f.manager->clientConnectStatus(true);
+        QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"\" \"\" \"\" false"});
+    }
+
+    void loginWhileDownIsRegisteredAtTheNextConnect()
+    {
+        EngineFixture f(EngineFixture::NoCallProcess);
+        f.manager->clientConnectStatus(true);
+        QCOMPARE(f.manager->m_strUserId, QString("me"));
+        f.process.open();
+        f.manager->slot_ReConnectVoipSDK();
+        QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"me\" \"\" \"ticket\" false"});
+    }
+
+    void logoutHangsUpThenUnregisters()
+    {
+        EngineFixture f;
+        f.manager->clientConnectStatus(true);
+        f.manager->callSingleUser("anna", false);
+        f.notify(18);
+        f.takeJournal();
+        f.manager->clientConnectStatus(false);
+        QCOMPARE(f.takeJournal(), QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 24 true true"}) +
+                                      QStringList({"SetMicEnable true", "SetSpeakerEnble true"}) +
+                                      QStringList{"UnReg \"me\""});
+        QCOMPARE(f.manager->m_strUserId, QString("me"));
+        QCOMPARE(f.manager->m_strRegValue, QString("ticket"));
+    }
 };
-
-void tst_ClientConnect::loginRegistersTheUser_data()
-{
-    QTest::addColumn<QString>("nick");
-    QTest::addColumn<QString>("line");
-
-    QTest::newRow("with a nick name") << "Nick"
-                                      << "RegeditUser \"me\" \"Nick\" \"ticket\" false";
-    QTest::newRow("by the jid") << ""
-                                << "RegeditUser \"me\" \"me\" \"ticket\" false";
-}
-
-void tst_ClientConnect::loginRegistersTheUser()
-{
-    QFETCH(QString, nick);
-    QFETCH(QString, line);
-    EngineFixture f;
-    FriendData me(EngineFixture::jid("me"));
-    me.m_vcardInfo.m_strNickName = nick;
-    f.host.setRecord(me.m_strJid, me);
-    f.manager->clientConnectStatus(true);
-    QCOMPARE(f.takeLines(), QStringList{line});
-    QCOMPARE(f.host.received(MSG_GET_FRIEND_INFO).size(), 1);
-}
-
-void tst_ClientConnect::loginWithoutARecordRegistersAnEmptyValue()
-{
-    EngineFixture f;
-    f.context.setLoginData(nullptr);
-    f.manager->clientConnectStatus(true);
-    QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"\" \"\" \"\" false"});
-}
-
-void tst_ClientConnect::loginWhileDownIsRegisteredAtTheNextConnect()
-{
-    EngineFixture f(EngineFixture::NoCallProcess);
-    f.manager->clientConnectStatus(true);
-    QCOMPARE(f.manager->m_strUserId, QString("me"));
-    f.process.open();
-    f.manager->slot_ReConnectVoipSDK();
-    QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"me\" \"\" \"ticket\" false"});
-}
-
-void tst_ClientConnect::logoutHangsUpThenUnregisters()
-{
-    EngineFixture f;
-    f.manager->clientConnectStatus(true);
-    f.manager->callSingleUser("anna", false);
-    f.notify(18);
-    f.takeJournal();
-    f.manager->clientConnectStatus(false);
-    QCOMPARE(f.takeJournal(), QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 24 true true"}) +
-                                  QStringList({"SetMicEnable true", "SetSpeakerEnble true"}) +
-                                  QStringList{"UnReg \"me\""});
-    QCOMPARE(f.manager->m_strUserId, QString("me"));
-    QCOMPARE(f.manager->m_strRegValue, QString("ticket"));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_ClientConnect, Widgets)

@@ -17,260 +17,246 @@ class tst_ConferenceMembers : public QObject
     Q_OBJECT
 
 private slots:
-    void addingPeople_data();
-    void addingPeople();
-    void addedPeopleAreMembersBeforeTheHostIsAsked();
-    void pickerGetsTheOthersAndIsReadAgainstTheListAsItIs();
-    void emptyAnswerOfThePickerDoesNothing();
-    void addingOutsideAConferenceSendsNothing();
-    void addingWhileTheChannelIsDownSendsNothing();
-    void invitingAgainIsTheCreatorsRight_data();
-    void invitingAgainIsTheCreatorsRight();
-    void removingAMember_data();
-    void removingAMember();
-    void control_data();
-    void control();
-    void mutingKeepsNoState();
-    void cardIsHandedToTheWindow();
+    void addingPeople_data()
+    {
+        QTest::addColumn<QStringList>("users");
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QStringList>("memberList");
+        QTest::addColumn<QStringList>("members");
+
+        const QString rest(" \"me\" \"me\" false \"\" [\"me\",\"anna\"]");
+        QTest::newRow("one") << QStringList{"carl"} << "Add2Conference [\"carl\"]" + rest
+                             << QStringList{"anna", "bert", "me", "carl"} << QStringList{"anna 0", "bert 0", "carl 0"};
+        QTest::newRow("a known one") << QStringList{"bert", "carl"} << "Add2Conference [\"bert\",\"carl\"]" + rest
+                                     << QStringList{"anna", "bert", "me", "carl"}
+                                     << QStringList{"anna 0", "bert 0", "carl 0"};
+        QTest::newRow("the same twice") << QStringList{"carl", "carl"} << "Add2Conference [\"carl\",\"carl\"]" + rest
+                                        << QStringList{"anna", "bert", "me", "carl"}
+                                        << QStringList{"anna 0", "bert 0", "carl 0"};
+        QTest::newRow("the own id") << QStringList{"me"} << "Add2Conference [\"me\"]" + rest
+                                    << QStringList{"anna", "bert", "me"} << QStringList{"anna 0", "bert 0", "me 0*"};
+        QTest::newRow("nobody") << QStringList() << "Add2Conference null" + rest << QStringList{"anna", "bert", "me"}
+                                << QStringList{"anna 0", "bert 0"};
+    }
+
+    void addingPeople()
+    {
+        QFETCH(QStringList, users);
+        QFETCH(QString, line);
+        EngineFixture f;
+        startConference(f);
+        f.manager->addConferenceMember(users);
+        QCOMPARE(f.takeJournal(), QStringList{line});
+        QTEST(f.manager->m_callData.memberList, "memberList");
+        QTEST(f.members(), "members");
+        EngineFixture::deliverPosted();
+        QCOMPARE(f.host.received(MSG_GET_STRANGER_SMALL_VCARD).size(), 1);
+        QCOMPARE(f.host.received(MSG_IS_EXIST_FRIEND).size(), users.size());
+    }
+
+    void addedPeopleAreMembersBeforeTheHostIsAsked()
+    {
+        EngineFixture f;
+        startConference(f);
+        QStringList memberListMeanwhile;
+        QStringList membersMeanwhile;
+        f.whileHandled = [&](BaseEvent &event) {
+            if (event.msgId != MSG_IS_EXIST_FRIEND)
+                return;
+            memberListMeanwhile = f.manager->m_callData.memberList;
+            membersMeanwhile = f.members();
+        };
+        f.manager->addConferenceMember({"carl"});
+        QCOMPARE(memberListMeanwhile, QStringList({"anna", "bert", "me", "carl"}));
+        // The window follows behind the queries.
+        QCOMPARE(membersMeanwhile, QStringList({"anna 0", "bert 0"}));
+    }
+
+    void pickerGetsTheOthersAndIsReadAgainstTheListAsItIs()
+    {
+        EngineFixture f;
+        startConference(f);
+        f.manager->m_callData.connectedList.clear();
+        f.host.membersToAdd = QStringList{"bert", "carl", "dora"};
+        f.whileHandled = [&f](BaseEvent &event) {
+            // Dora joins while the user picks.
+            if (event.msgId == MSG_ADD_CONFERENCE_MEMBER)
+                f.notify(12, R"({"content":{"confId":"c1","conventioneer":["dora"]}})");
+        };
+        f.manager->slot_AddConfMember();
+        QCOMPARE(f.host.received(MSG_ADD_CONFERENCE_MEMBER).constFirst().reader().takeTexts(),
+                 QStringList({"anna", "bert"}));
+        QCOMPARE(f.takeJournal(), QStringList{"Add2Conference [\"carl\"] \"me\" \"me\" false \"\" [\"dora\"]"});
+        // Picking only those who are there already still asks the call process.
+        f.whileHandled = nullptr;
+        f.host.membersToAdd = QStringList{"bert"};
+        f.manager->slot_AddConfMember();
+        QCOMPARE(f.takeJournal(), QStringList{"Add2Conference null \"me\" \"me\" false \"\" [\"dora\"]"});
+    }
+
+    void emptyAnswerOfThePickerDoesNothing()
+    {
+        EngineFixture f;
+        startConference(f);
+        f.manager->slot_AddConfMember();
+        QCOMPARE(f.takeJournal(), QStringList());
+        EngineFixture::deliverPosted();
+        QCOMPARE(f.host.commands(), QList<int>{MSG_ADD_CONFERENCE_MEMBER});
+    }
+
+    void addingOutsideAConferenceSendsNothing()
+    {
+        EngineFixture f;
+        f.manager->addConferenceMember({"carl"});
+        QCOMPARE(f.takeJournal(), QStringList());
+        QCOMPARE(f.manager->m_callData.memberList, QStringList{"carl"});
+        QCOMPARE(f.members(), QStringList{"carl 0"});
+    }
+
+    void addingWhileTheChannelIsDownSendsNothing()
+    {
+        EngineFixture f;
+        startConference(f);
+        f.manager->m_bSocketConnected = false;
+        f.manager->addConferenceMember({"carl"});
+        QCOMPARE(f.takeJournal(), QStringList());
+        QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl"}));
+        QCOMPARE(f.members(), QStringList({"anna 0", "bert 0", "carl 0"}));
+    }
+
+    void invitingAgainIsTheCreatorsRight_data()
+    {
+        QTest::addColumn<bool>("conference");
+        QTest::addColumn<bool>("caller");
+        QTest::addColumn<QStringList>("journal");
+        QTest::addColumn<QStringList>("members");
+
+        const QStringList unchanged{"anna 0", "bert 5"};
+        QTest::newRow("creator") << true << true
+                                 << QStringList{"Add2Conference [\"bert\"] \"me\" \"me\" false \"\" [\"me\",\"anna\"]"}
+                                 << QStringList{"anna 0", "bert 0"};
+        QTest::newRow("invited") << true << false << QStringList() << unchanged;
+        QTest::newRow("no conference") << false << true << QStringList() << unchanged;
+    }
+
+    void invitingAgainIsTheCreatorsRight()
+    {
+        QFETCH(bool, conference);
+        QFETCH(bool, caller);
+        EngineFixture f;
+        startConference(f);
+        f.notify(5, "bert");
+        f.manager->m_callData.bIsConf = conference;
+        f.manager->m_callData.bIsCaller = caller;
+        f.manager->slot_ReInviteConfUser("bert");
+        QTEST(f.takeJournal(), "journal");
+        QTEST(f.members(), "members");
+    }
+
+    void removingAMember_data()
+    {
+        QTest::addColumn<QString>("user");
+        QTest::addColumn<QStringList>("journal");
+        QTest::addColumn<QStringList>("memberList");
+        QTest::addColumn<QStringList>("members");
+
+        QTest::newRow("connected") << "anna" << QStringList{"ControlConf \"kick\" \"anna\""}
+                                   << QStringList{"bert", "me"} << QStringList{"bert 0"};
+        QTest::newRow("not connected yet")
+            << "bert" << QStringList() << QStringList{"anna", "me"} << QStringList{"anna 0"};
+        QTest::newRow("unknown") << "carl" << QStringList() << QStringList{"anna", "bert", "me"}
+                                 << QStringList{"anna 0", "bert 0"};
+        QTest::newRow("connected but no member")
+            << "dora" << QStringList() << QStringList{"anna", "bert", "me"} << QStringList{"anna 0", "bert 0"};
+    }
+
+    void removingAMember()
+    {
+        QFETCH(QString, user);
+        EngineFixture f;
+        startConference(f);
+        const QStringList connected{"me", "anna", "dora"};
+        f.manager->m_callData.connectedList = connected;
+        f.manager->slot_RemoveConferenceMember(user);
+        QTEST(f.takeJournal(), "journal");
+        QTEST(f.manager->m_callData.memberList, "memberList");
+        QTEST(f.members(), "members");
+        QCOMPARE(f.manager->m_callData.connectedList, connected);
+    }
+
+    void control_data()
+    {
+        QTest::addColumn<Step>("run");
+        QTest::addColumn<QStringList>("journal");
+
+        const auto add = [](const char *name, const Step &run, const QStringList &journal) {
+            QTest::newRow(name) << run << journal;
+        };
+        add("mute one", [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("anna", true); },
+            {"ControlConf \"mute\" \"anna\""});
+        add("unmute one", [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("anna", false); },
+            {"ControlConf \"unmute\" \"anna\""});
+        add("mute nobody", [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("", true); }, {});
+        add("mute all", [](EngineFixture &f) { f.manager->slot_MuteAll(true); },
+            {"ControlConf \"mute\" \"non_moderator\""});
+        add("unmute all", [](EngineFixture &f) { f.manager->slot_MuteAll(false); },
+            {"ControlConf \"unmute\" \"non_moderator\""});
+        add("kick", [](EngineFixture &f) { f.manager->controlConference(CVoipManage::Kick, false, "bert"); },
+            {"ControlConf \"kick\" \"bert\""});
+        add("an id with all members",
+            [](EngineFixture &f) { f.manager->controlConference(CVoipManage::Kick, true, "b"); },
+            {"ControlConf \"kick\" \"non_moderator\""});
+        add("an operation that does not exist",
+            [](EngineFixture &f) {
+                f.manager->controlConference(static_cast<CVoipManage::ConfControlSignal>(3), false, "anna");
+            },
+            {});
+        add("outside a conference",
+            [](EngineFixture &f) {
+                f.manager->m_callData.bIsConf = false;
+                f.manager->slot_MuteAll(true);
+            },
+            {});
+        add("while the channel is down",
+            [](EngineFixture &f) {
+                f.manager->m_bSocketConnected = false;
+                f.manager->slot_MuteAll(true);
+                f.manager->slot_MuteConferenceMember("anna", false);
+                f.manager->slot_RemoveConferenceMember("anna");
+            },
+            {});
+    }
+
+    void control()
+    {
+        QFETCH(Step, run);
+        EngineFixture f;
+        startConference(f);
+        run(f);
+        QTEST(f.takeJournal(), "journal");
+    }
+
+    void mutingKeepsNoState()
+    {
+        EngineFixture f;
+        startConference(f);
+        f.manager->slot_MuteAll(true);
+        f.manager->slot_MuteAll(true);
+        QCOMPARE(f.takeJournal(),
+                 QStringList({"ControlConf \"mute\" \"non_moderator\"", "ControlConf \"mute\" \"non_moderator\""}));
+    }
+
+    void cardIsHandedToTheWindow()
+    {
+        EngineFixture f;
+        startConference(f);
+        VcardInfo card;
+        card.m_strNickName = QStringLiteral("安娜");
+        f.manager->updateUserInfo(EngineFixture::jid("anna"), card);
+        const QAbstractItemModel *rows = f.manager->m_pVoipWidget->findChild<QListView *>("listView")->model();
+        QCOMPARE(rows->index(0, 0).data(Qt::UserRole + 1).toString(), QStringLiteral("安娜"));
+    }
 };
-
-void tst_ConferenceMembers::addingPeople_data()
-{
-    QTest::addColumn<QStringList>("users");
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QStringList>("memberList");
-    QTest::addColumn<QStringList>("members");
-
-    const QString rest(" \"me\" \"me\" false \"\" [\"me\",\"anna\"]");
-    QTest::newRow("one") << QStringList{"carl"} << "Add2Conference [\"carl\"]" + rest
-                         << QStringList{"anna", "bert", "me", "carl"} << QStringList{"anna 0", "bert 0", "carl 0"};
-    QTest::newRow("a known one") << QStringList{"bert", "carl"} << "Add2Conference [\"bert\",\"carl\"]" + rest
-                                 << QStringList{"anna", "bert", "me", "carl"}
-                                 << QStringList{"anna 0", "bert 0", "carl 0"};
-    QTest::newRow("the same twice") << QStringList{"carl", "carl"} << "Add2Conference [\"carl\",\"carl\"]" + rest
-                                    << QStringList{"anna", "bert", "me", "carl"}
-                                    << QStringList{"anna 0", "bert 0", "carl 0"};
-    QTest::newRow("the own id") << QStringList{"me"} << "Add2Conference [\"me\"]" + rest
-                                << QStringList{"anna", "bert", "me"} << QStringList{"anna 0", "bert 0", "me 0*"};
-    QTest::newRow("nobody") << QStringList() << "Add2Conference null" + rest << QStringList{"anna", "bert", "me"}
-                            << QStringList{"anna 0", "bert 0"};
-}
-
-void tst_ConferenceMembers::addingPeople()
-{
-    QFETCH(QStringList, users);
-    QFETCH(QString, line);
-    EngineFixture f;
-    startConference(f);
-    f.manager->addConferenceMember(users);
-    QCOMPARE(f.takeJournal(), QStringList{line});
-    QTEST(f.manager->m_callData.memberList, "memberList");
-    QTEST(f.members(), "members");
-    EngineFixture::deliverPosted();
-    QCOMPARE(f.host.received(MSG_GET_STRANGER_SMALL_VCARD).size(), 1);
-    QCOMPARE(f.host.received(MSG_IS_EXIST_FRIEND).size(), users.size());
-}
-
-void tst_ConferenceMembers::addedPeopleAreMembersBeforeTheHostIsAsked()
-{
-    EngineFixture f;
-    startConference(f);
-    QStringList memberListMeanwhile;
-    QStringList membersMeanwhile;
-    f.whileHandled = [&](BaseEvent &event) {
-        if (event.msgId != MSG_IS_EXIST_FRIEND)
-            return;
-        memberListMeanwhile = f.manager->m_callData.memberList;
-        membersMeanwhile = f.members();
-    };
-    f.manager->addConferenceMember({"carl"});
-    QCOMPARE(memberListMeanwhile, QStringList({"anna", "bert", "me", "carl"}));
-    // The window follows behind the queries.
-    QCOMPARE(membersMeanwhile, QStringList({"anna 0", "bert 0"}));
-}
-
-void tst_ConferenceMembers::pickerGetsTheOthersAndIsReadAgainstTheListAsItIs()
-{
-    EngineFixture f;
-    startConference(f);
-    f.manager->m_callData.connectedList.clear();
-    f.host.membersToAdd = QStringList{"bert", "carl", "dora"};
-    f.whileHandled = [&f](BaseEvent &event) {
-        // Dora joins while the user picks.
-        if (event.msgId == MSG_ADD_CONFERENCE_MEMBER)
-            f.notify(12, R"({"content":{"confId":"c1","conventioneer":["dora"]}})");
-    };
-    f.manager->slot_AddConfMember();
-    QCOMPARE(f.host.received(MSG_ADD_CONFERENCE_MEMBER).constFirst().reader().takeTexts(),
-             QStringList({"anna", "bert"}));
-    QCOMPARE(f.takeJournal(), QStringList{"Add2Conference [\"carl\"] \"me\" \"me\" false \"\" [\"dora\"]"});
-    // Picking only those who are there already still asks the call process.
-    f.whileHandled = nullptr;
-    f.host.membersToAdd = QStringList{"bert"};
-    f.manager->slot_AddConfMember();
-    QCOMPARE(f.takeJournal(), QStringList{"Add2Conference null \"me\" \"me\" false \"\" [\"dora\"]"});
-}
-
-void tst_ConferenceMembers::emptyAnswerOfThePickerDoesNothing()
-{
-    EngineFixture f;
-    startConference(f);
-    f.manager->slot_AddConfMember();
-    QCOMPARE(f.takeJournal(), QStringList());
-    EngineFixture::deliverPosted();
-    QCOMPARE(f.host.commands(), QList<int>{MSG_ADD_CONFERENCE_MEMBER});
-}
-
-void tst_ConferenceMembers::addingOutsideAConferenceSendsNothing()
-{
-    EngineFixture f;
-    f.manager->addConferenceMember({"carl"});
-    QCOMPARE(f.takeJournal(), QStringList());
-    QCOMPARE(f.manager->m_callData.memberList, QStringList{"carl"});
-    QCOMPARE(f.members(), QStringList{"carl 0"});
-}
-
-void tst_ConferenceMembers::addingWhileTheChannelIsDownSendsNothing()
-{
-    EngineFixture f;
-    startConference(f);
-    f.manager->m_bSocketConnected = false;
-    f.manager->addConferenceMember({"carl"});
-    QCOMPARE(f.takeJournal(), QStringList());
-    QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl"}));
-    QCOMPARE(f.members(), QStringList({"anna 0", "bert 0", "carl 0"}));
-}
-
-void tst_ConferenceMembers::invitingAgainIsTheCreatorsRight_data()
-{
-    QTest::addColumn<bool>("conference");
-    QTest::addColumn<bool>("caller");
-    QTest::addColumn<QStringList>("journal");
-    QTest::addColumn<QStringList>("members");
-
-    const QStringList unchanged{"anna 0", "bert 5"};
-    QTest::newRow("creator") << true << true
-                             << QStringList{"Add2Conference [\"bert\"] \"me\" \"me\" false \"\" [\"me\",\"anna\"]"}
-                             << QStringList{"anna 0", "bert 0"};
-    QTest::newRow("invited") << true << false << QStringList() << unchanged;
-    QTest::newRow("no conference") << false << true << QStringList() << unchanged;
-}
-
-void tst_ConferenceMembers::invitingAgainIsTheCreatorsRight()
-{
-    QFETCH(bool, conference);
-    QFETCH(bool, caller);
-    EngineFixture f;
-    startConference(f);
-    f.notify(5, "bert");
-    f.manager->m_callData.bIsConf = conference;
-    f.manager->m_callData.bIsCaller = caller;
-    f.manager->slot_ReInviteConfUser("bert");
-    QTEST(f.takeJournal(), "journal");
-    QTEST(f.members(), "members");
-}
-
-void tst_ConferenceMembers::removingAMember_data()
-{
-    QTest::addColumn<QString>("user");
-    QTest::addColumn<QStringList>("journal");
-    QTest::addColumn<QStringList>("memberList");
-    QTest::addColumn<QStringList>("members");
-
-    QTest::newRow("connected") << "anna" << QStringList{"ControlConf \"kick\" \"anna\""} << QStringList{"bert", "me"}
-                               << QStringList{"bert 0"};
-    QTest::newRow("not connected yet") << "bert" << QStringList() << QStringList{"anna", "me"} << QStringList{"anna 0"};
-    QTest::newRow("unknown") << "carl" << QStringList() << QStringList{"anna", "bert", "me"}
-                             << QStringList{"anna 0", "bert 0"};
-    QTest::newRow("connected but no member")
-        << "dora" << QStringList() << QStringList{"anna", "bert", "me"} << QStringList{"anna 0", "bert 0"};
-}
-
-void tst_ConferenceMembers::removingAMember()
-{
-    QFETCH(QString, user);
-    EngineFixture f;
-    startConference(f);
-    const QStringList connected{"me", "anna", "dora"};
-    f.manager->m_callData.connectedList = connected;
-    f.manager->slot_RemoveConferenceMember(user);
-    QTEST(f.takeJournal(), "journal");
-    QTEST(f.manager->m_callData.memberList, "memberList");
-    QTEST(f.members(), "members");
-    QCOMPARE(f.manager->m_callData.connectedList, connected);
-}
-
-void tst_ConferenceMembers::control_data()
-{
-    QTest::addColumn<Step>("run");
-    QTest::addColumn<QStringList>("journal");
-
-    const auto add = [](const char *name, const Step &run, const QStringList &journal) {
-        QTest::newRow(name) << run << journal;
-    };
-    add("mute one", [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("anna", true); },
-        {"ControlConf \"mute\" \"anna\""});
-    add("unmute one", [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("anna", false); },
-        {"ControlConf \"unmute\" \"anna\""});
-    add("mute nobody", [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("", true); }, {});
-    add("mute all", [](EngineFixture &f) { f.manager->slot_MuteAll(true); },
-        {"ControlConf \"mute\" \"non_moderator\""});
-    add("unmute all", [](EngineFixture &f) { f.manager->slot_MuteAll(false); },
-        {"ControlConf \"unmute\" \"non_moderator\""});
-    add("kick", [](EngineFixture &f) { f.manager->controlConference(CVoipManage::Kick, false, "bert"); },
-        {"ControlConf \"kick\" \"bert\""});
-    add("an id with all members", [](EngineFixture &f) { f.manager->controlConference(CVoipManage::Kick, true, "b"); },
-        {"ControlConf \"kick\" \"non_moderator\""});
-    add("an operation that does not exist",
-        [](EngineFixture &f) {
-            f.manager->controlConference(static_cast<CVoipManage::ConfControlSignal>(3), false, "anna");
-        },
-        {});
-    add("outside a conference",
-        [](EngineFixture &f) {
-            f.manager->m_callData.bIsConf = false;
-            f.manager->slot_MuteAll(true);
-        },
-        {});
-    add("while the channel is down",
-        [](EngineFixture &f) {
-            f.manager->m_bSocketConnected = false;
-            f.manager->slot_MuteAll(true);
-            f.manager->slot_MuteConferenceMember("anna", false);
-            f.manager->slot_RemoveConferenceMember("anna");
-        },
-        {});
-}
-
-void tst_ConferenceMembers::control()
-{
-    QFETCH(Step, run);
-    EngineFixture f;
-    startConference(f);
-    run(f);
-    QTEST(f.takeJournal(), "journal");
-}
-
-void tst_ConferenceMembers::mutingKeepsNoState()
-{
-    EngineFixture f;
-    startConference(f);
-    f.manager->slot_MuteAll(true);
-    f.manager->slot_MuteAll(true);
-    QCOMPARE(f.takeJournal(),
-             QStringList({"ControlConf \"mute\" \"non_moderator\"", "ControlConf \"mute\" \"non_moderator\""}));
-}
-
-void tst_ConferenceMembers::cardIsHandedToTheWindow()
-{
-    EngineFixture f;
-    startConference(f);
-    VcardInfo card;
-    card.m_strNickName = QStringLiteral("安娜");
-    f.manager->updateUserInfo(EngineFixture::jid("anna"), card);
-    const QAbstractItemModel *rows = f.manager->m_pVoipWidget->findChild<QListView *>("listView")->model();
-    QCOMPARE(rows->index(0, 0).data(Qt::UserRole + 1).toString(), QStringLiteral("安娜"));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_ConferenceMembers, Widgets)

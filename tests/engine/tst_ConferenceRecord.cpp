@@ -12,248 +12,230 @@ class tst_ConferenceRecord : public QObject
 private slots:
     void initTestCase() { enterZoneOfRecords(); }
 
-    void endBeforeTheConnectionHasNoLength();
-    void rejectedInvitationIsStored();
-    void invitationThatTimesOutIsStored();
-    void creationThatFailedIsStoredWithoutAnId();
-    void missingTimeIsAnEmptyTextNotNull();
-    void sameConferenceAgainKeepsItsFirstRecord();
-    void nextConferenceHasNothingOfTheOneBefore();
-    void secondInvitationLeavesTheFirstOne();
-    void creatorInvitedElsewhereIsNoCreatorInTheRecord();
-    void callThatOverwritesAConferenceLeavesNoConferenceRecord();
-    void removedMemberIsNotInTheRecord();
-    void memberTextIsStoredAsItIs_data();
-    void memberTextIsStoredAsItIs();
-    void oddConferenceIds_data();
-    void oddConferenceIds();
-    void deletingARecord_data();
-    void deletingARecord();
-};
+    void endBeforeTheConnectionHasNoLength()
+    {
+        RecordedEngine f;
+        createConference(f);
+        f.manager->hangupVoipCall();
+        const QList<ConfInfoData> records = DBConfInfo::getAllConfInfo();
+        QCOMPARE(records.size(), 1);
+        QCOMPARE(records.constFirst().m_strCallTime, QString("0"));
+        QVERIFY(!records.constFirst().m_bIsConnect);
+        QCOMPARE(records.constFirst().m_listMember, QStringList({"anna", "bert", "me", "carl"}));
+    }
 
-void tst_ConferenceRecord::endBeforeTheConnectionHasNoLength()
-{
-    RecordedEngine f;
-    createConference(f);
-    f.manager->hangupVoipCall();
-    const QList<ConfInfoData> records = DBConfInfo::getAllConfInfo();
-    QCOMPARE(records.size(), 1);
-    QCOMPARE(records.constFirst().m_strCallTime, QString("0"));
-    QVERIFY(!records.constFirst().m_bIsConnect);
-    QCOMPARE(records.constFirst().m_listMember, QStringList({"anna", "bert", "me", "carl"}));
-}
+    void rejectedInvitationIsStored()
+    {
+        RecordedEngine f;
+        f.notify(2, R"({"content":{"confId":"c1","from":"anna",)" + kCreateTime + "}}");
+        f.manager->responseVoipRequest(false);
+        QCOMPARE(f.records(), QStringList{"'c1' 'anna' '2023-11-15 06:13:20' '0' '' 0"});
+        QCOMPARE(f.takeJournal(), QStringList({"4639 anna true false", "RejectConf", "4345 anna@kelvar.im",
+                                               "SetMicEnable true", "SetSpeakerEnble true"}));
+    }
 
-void tst_ConferenceRecord::rejectedInvitationIsStored()
-{
-    RecordedEngine f;
-    f.notify(2, R"({"content":{"confId":"c1","from":"anna",)" + kCreateTime + "}}");
-    f.manager->responseVoipRequest(false);
-    QCOMPARE(f.records(), QStringList{"'c1' 'anna' '2023-11-15 06:13:20' '0' '' 0"});
-    QCOMPARE(f.takeJournal(), QStringList({"4639 anna true false", "RejectConf", "4345 anna@kelvar.im",
-                                           "SetMicEnable true", "SetSpeakerEnble true"}));
-}
-
-void tst_ConferenceRecord::invitationThatTimesOutIsStored()
-{
-    RecordedEngine f;
-    f.notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
-    f.manager->slot_recevieCallTimeout();
-    QCOMPARE(f.records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
-    QCOMPARE(f.state(), QString("idle"));
-}
-
-void tst_ConferenceRecord::creationThatFailedIsStoredWithoutAnId()
-{
-    RecordedEngine f;
-    f.manager->m_strUserId = "me";
-    // An empty id is a key like any other: the second record finds it taken.
-    for (int round = 0; round < 2; ++round) {
-        f.manager->callConference({"anna"}, false, "");
-        f.notify(20);
-        QCOMPARE(f.records(), QStringList{"'' 'me' '' '0' 'anna,me,' 0"});
+    void invitationThatTimesOutIsStored()
+    {
+        RecordedEngine f;
+        f.notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
+        f.manager->slot_recevieCallTimeout();
+        QCOMPARE(f.records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
         QCOMPARE(f.state(), QString("idle"));
     }
-}
 
-void tst_ConferenceRecord::missingTimeIsAnEmptyTextNotNull()
-{
-    RecordedEngine f;
-    f.createConference();
-    f.notify(7);
-    QCOMPARE(f.records(), QStringList{"'c1' 'me' '' '0' 'anna,bert,me,' 0"});
-}
-
-void tst_ConferenceRecord::sameConferenceAgainKeepsItsFirstRecord()
-{
-    RecordedEngine f;
-    f.notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
-    f.manager->responseVoipRequest(false);
-    joinConference(f);
-    f.notify(18);
-    f.notify(8);
-    QCOMPARE(f.records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
-    QCOMPARE(f.state(), QString("idle"));
-}
-
-void tst_ConferenceRecord::nextConferenceHasNothingOfTheOneBefore()
-{
-    RecordedEngine f;
-    createConference(f);
-    f.notify(18);
-    f.connectedFor(65);
-    f.notify(8);
-    f.notify(2, R"({"content":{"confId":"c2","from":"dora"}})");
-    f.notify(12, R"({"content":{"confId":"c2","conventioneer":["dora"]}})");
-    f.notify(4);
-    QCOMPARE(f.records().constLast(), QString("'c2' 'dora' '' '0' 'dora,' 0"));
-    QCOMPARE(f.count(), 2);
-}
-
-void tst_ConferenceRecord::secondInvitationLeavesTheFirstOne()
-{
-    RecordedEngine f;
-    f.notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
-    f.notify(2, R"({"content":{"confId":"c2","from":"bert",)" + kCreateTime + "}}");
-    f.notify(12, R"({"content":{"confId":"c2","conventioneer":["bert","me"]}})");
-    QCOMPARE(f.takeJournal(), QStringList{"4639 anna true false"});
-    QCOMPARE(f.state(), QString("incoming anna, receive, ring"));
-    f.manager->responseVoipRequest(true);
-    f.notify(7);
-    QCOMPARE(f.records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
-    // The second one is free to come again.
-    f.notify(2, R"({"content":{"confId":"c2","from":"bert"}})");
-    f.manager->responseVoipRequest(false);
-    QCOMPARE(f.records().constLast(), QString("'c2' 'bert' '' '0' '' 0"));
-}
-
-void tst_ConferenceRecord::creatorInvitedElsewhereIsNoCreatorInTheRecord()
-{
-    RecordedEngine f;
-    createConference(f);
-    f.notify(18);
-    f.takeJournal();
-    f.notify(2, R"({"content":{"confId":"c2","from":"dora"}})");
-    QCOMPARE(f.takeJournal(), QStringList());
-    f.manager->slot_ReInviteConfUser("bert");
-    QCOMPARE(f.takeJournal(), QStringList());
-    f.manager->slot_MuteAll(true);
-    QCOMPARE(f.takeJournal(), QStringList{"ControlConf \"mute\" \"non_moderator\""});
-    f.notify(8);
-    QCOMPARE(f.records(), QStringList{"'c1' '' '2023-11-15 06:13:20' '0' 'anna,bert,me,carl,' 1"});
-    QCOMPARE(f.state(), QString("idle"));
-}
-
-void tst_ConferenceRecord::callThatOverwritesAConferenceLeavesNoConferenceRecord()
-{
-    RecordedEngine f;
-    createConference(f);
-    f.notify(0, "dora");
-    f.notify(4);
-    QCOMPARE(f.count(), 0);
-    QCOMPARE(f.takeJournal().filter("4478"), QStringList{"4478 false dora 21 false false"});
-    QCOMPARE(f.state(), QString("idle"));
-}
-
-void tst_ConferenceRecord::removedMemberIsNotInTheRecord()
-{
-    RecordedEngine f;
-    createConference(f);
-    f.manager->slot_RemoveConferenceMember("anna");
-    f.manager->addConferenceMember({"dora", "anna"});
-    f.manager->slot_RemoveConferenceMember("bert");
-    f.notify(7);
-    QCOMPARE(f.rows().constFirst().at(4), QString("'me,carl,dora,anna,'"));
-}
-
-void tst_ConferenceRecord::memberTextIsStoredAsItIs_data()
-{
-    QTest::addColumn<QStringList>("users");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("readBack");
-
-    QTest::newRow("nobody") << QStringList() << "me," << QStringList{"me"};
-    QTest::newRow("a comma") << QStringList{"a,b"} << "a,b,me," << QStringList{"a", "b", "me"};
-    QTest::newRow("an empty id") << QStringList{"", "a"} << ",a,me," << QStringList{"a", "me"};
-    QTest::newRow("an apostrophe") << QStringList{"o'neil"} << "o''neil,me," << QStringList{"o'neil", "me"};
-    QTest::newRow("a quote") << QStringList{"\"x\""} << "\"x\",me," << QStringList{"\"x\"", "me"};
-    QTest::newRow("a line feed") << QStringList{"a\nb"} << "a\nb,me," << QStringList{"a\nb", "me"};
-    QTest::newRow("the same twice") << QStringList{"a", "a"} << "a,a,me," << QStringList{"a", "a", "me"};
-    QStringList many;
-    for (int i = 0; i < 2000; ++i)
-        many << "member" + QString::number(i);
-    QTest::newRow("more than the column's nominal width")
-        << many << many.join(',') + ",me," << many + QStringList{"me"};
-}
-
-void tst_ConferenceRecord::memberTextIsStoredAsItIs()
-{
-    QFETCH(QStringList, users);
-    QFETCH(QString, text);
-    RecordedEngine f;
-    f.manager->m_strUserId = "me";
-    f.manager->callConference(users, false, "");
-    f.notify(20, R"({"result":{"confId":"c1"}})");
-    f.notify(4);
-    QCOMPARE(f.rows().constFirst().at(4), "'" + text + "'");
-    QTEST(QStringList(DBConfInfo::getAllConfInfo().constFirst().m_listMember), "readBack");
-}
-
-void tst_ConferenceRecord::oddConferenceIds_data()
-{
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<QString>("stored");
-
-    QTest::newRow("an apostrophe") << "c'1"
-                                   << "'c''1'";
-    QTest::newRow("a comma") << "c,1"
-                             << "'c,1'";
-    QTest::newRow("a quote") << "c\\\"1"
-                             << "'c\"1'";
-    QTest::newRow("a line feed") << "c\\n1"
-                                 << "'c\n1'";
-    // Stored whole; what quotes it for this test stops at the NUL.
-    QTest::newRow("NUL") << "c\\u00001"
-                         << "'c'";
-    QTest::newRow("a statement") << "'; DROP TABLE voipConferenceInfo; --"
-                                 << "'''; DROP TABLE voipConferenceInfo; --'";
-    QTest::newRow("ten thousand characters") << QString(10000, 'c') << "'" + QString(10000, 'c') + "'";
-}
-
-void tst_ConferenceRecord::oddConferenceIds()
-{
-    QFETCH(QString, id);
-    RecordedEngine f;
-    f.notify(2, R"({"content":{"confId":")" + id + R"(","from":"anna"}})");
-    f.notify(4);
-    QCOMPARE(f.count(), 1);
-    QTEST(f.rows().constFirst().constFirst(), "stored");
-}
-
-void tst_ConferenceRecord::deletingARecord_data()
-{
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<QStringList>("left");
-
-    QTest::newRow("a known id") << "c1" << QStringList{"''", "'c2'"};
-    QTest::newRow("an unknown id") << "c3" << QStringList{"''", "'c1'", "'c2'"};
-    QTest::newRow("no id touches nothing") << "" << QStringList{"''", "'c1'", "'c2'"};
-}
-
-void tst_ConferenceRecord::deletingARecord()
-{
-    QFETCH(QString, id);
-    RecordedEngine f;
-    for (const char *known : {"", "c1", "c2"}) {
-        ConfInfoData record;
-        record.m_strConfID = known;
-        QVERIFY(DBConfInfo::saveConfInfo(record));
+    void creationThatFailedIsStoredWithoutAnId()
+    {
+        RecordedEngine f;
+        f.manager->m_strUserId = "me";
+        // An empty id is a key like any other: the second record finds it taken.
+        for (int round = 0; round < 2; ++round) {
+            f.manager->callConference({"anna"}, false, "");
+            f.notify(20);
+            QCOMPARE(f.records(), QStringList{"'' 'me' '' '0' 'anna,me,' 0"});
+            QCOMPARE(f.state(), QString("idle"));
+        }
     }
-    f.manager->slot_DeleteConfInfoData(id);
-    QStringList left;
-    for (const QStringList &row : f.rows())
-        left << row.constFirst();
-    QTEST(left, "left");
-}
+
+    void missingTimeIsAnEmptyTextNotNull()
+    {
+        RecordedEngine f;
+        f.createConference();
+        f.notify(7);
+        QCOMPARE(f.records(), QStringList{"'c1' 'me' '' '0' 'anna,bert,me,' 0"});
+    }
+
+    void sameConferenceAgainKeepsItsFirstRecord()
+    {
+        RecordedEngine f;
+        f.notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
+        f.manager->responseVoipRequest(false);
+        joinConference(f);
+        f.notify(18);
+        f.notify(8);
+        QCOMPARE(f.records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
+        QCOMPARE(f.state(), QString("idle"));
+    }
+
+    void nextConferenceHasNothingOfTheOneBefore()
+    {
+        RecordedEngine f;
+        createConference(f);
+        f.notify(18);
+        f.connectedFor(65);
+        f.notify(8);
+        f.notify(2, R"({"content":{"confId":"c2","from":"dora"}})");
+        f.notify(12, R"({"content":{"confId":"c2","conventioneer":["dora"]}})");
+        f.notify(4);
+        QCOMPARE(f.records().constLast(), QString("'c2' 'dora' '' '0' 'dora,' 0"));
+        QCOMPARE(f.count(), 2);
+    }
+
+    void secondInvitationLeavesTheFirstOne()
+    {
+        RecordedEngine f;
+        f.notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
+        f.notify(2, R"({"content":{"confId":"c2","from":"bert",)" + kCreateTime + "}}");
+        f.notify(12, R"({"content":{"confId":"c2","conventioneer":["bert","me"]}})");
+        QCOMPARE(f.takeJournal(), QStringList{"4639 anna true false"});
+        QCOMPARE(f.state(), QString("incoming anna, receive, ring"));
+        f.manager->responseVoipRequest(true);
+        f.notify(7);
+        QCOMPARE(f.records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
+        // The second one is free to come again.
+        f.notify(2, R"({"content":{"confId":"c2","from":"bert"}})");
+        f.manager->responseVoipRequest(false);
+        QCOMPARE(f.records().constLast(), QString("'c2' 'bert' '' '0' '' 0"));
+    }
+
+    void creatorInvitedElsewhereIsNoCreatorInTheRecord()
+    {
+        RecordedEngine f;
+        createConference(f);
+        f.notify(18);
+        f.takeJournal();
+        f.notify(2, R"({"content":{"confId":"c2","from":"dora"}})");
+        QCOMPARE(f.takeJournal(), QStringList());
+        f.manager->slot_ReInviteConfUser("bert");
+        QCOMPARE(f.takeJournal(), QStringList());
+        f.manager->slot_MuteAll(true);
+        QCOMPARE(f.takeJournal(), QStringList{"ControlConf \"mute\" \"non_moderator\""});
+        f.notify(8);
+        QCOMPARE(f.records(), QStringList{"'c1' '' '2023-11-15 06:13:20' '0' 'anna,bert,me,carl,' 1"});
+        QCOMPARE(f.state(), QString("idle"));
+    }
+
+    void callThatOverwritesAConferenceLeavesNoConferenceRecord()
+    {
+        RecordedEngine f;
+        createConference(f);
+        f.notify(0, "dora");
+        f.notify(4);
+        QCOMPARE(f.count(), 0);
+        QCOMPARE(f.takeJournal().filter("4478"), QStringList{"4478 false dora 21 false false"});
+        QCOMPARE(f.state(), QString("idle"));
+    }
+
+    void removedMemberIsNotInTheRecord()
+    {
+        RecordedEngine f;
+        createConference(f);
+        f.manager->slot_RemoveConferenceMember("anna");
+        f.manager->addConferenceMember({"dora", "anna"});
+        f.manager->slot_RemoveConferenceMember("bert");
+        f.notify(7);
+        QCOMPARE(f.rows().constFirst().at(4), QString("'me,carl,dora,anna,'"));
+    }
+
+    void memberTextIsStoredAsItIs_data()
+    {
+        QTest::addColumn<QStringList>("users");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("readBack");
+
+        QTest::newRow("nobody") << QStringList() << "me," << QStringList{"me"};
+        QTest::newRow("a comma") << QStringList{"a,b"} << "a,b,me," << QStringList{"a", "b", "me"};
+        QTest::newRow("an empty id") << QStringList{"", "a"} << ",a,me," << QStringList{"a", "me"};
+        QTest::newRow("an apostrophe") << QStringList{"o'neil"} << "o''neil,me," << QStringList{"o'neil", "me"};
+        QTest::newRow("a quote") << QStringList{"\"x\""} << "\"x\",me," << QStringList{"\"x\"", "me"};
+        QTest::newRow("a line feed") << QStringList{"a\nb"} << "a\nb,me," << QStringList{"a\nb", "me"};
+        QTest::newRow("the same twice") << QStringList{"a", "a"} << "a,a,me," << QStringList{"a", "a", "me"};
+        QStringList many;
+        for (int i = 0; i < 2000; ++i)
+            many << "member" + QString::number(i);
+        QTest::newRow("more than the column's nominal width")
+            << many << many.join(',') + ",me," << many + QStringList{"me"};
+    }
+
+    void memberTextIsStoredAsItIs()
+    {
+        QFETCH(QStringList, users);
+        QFETCH(QString, text);
+        RecordedEngine f;
+        f.manager->m_strUserId = "me";
+        f.manager->callConference(users, false, "");
+        f.notify(20, R"({"result":{"confId":"c1"}})");
+        f.notify(4);
+        QCOMPARE(f.rows().constFirst().at(4), "'" + text + "'");
+        QTEST(QStringList(DBConfInfo::getAllConfInfo().constFirst().m_listMember), "readBack");
+    }
+
+    void oddConferenceIds_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QString>("stored");
+
+        QTest::newRow("an apostrophe") << "c'1"
+                                       << "'c''1'";
+        QTest::newRow("a comma") << "c,1"
+                                 << "'c,1'";
+        QTest::newRow("a quote") << "c\\\"1"
+                                 << "'c\"1'";
+        QTest::newRow("a line feed") << "c\\n1"
+                                     << "'c\n1'";
+        // Stored whole; what quotes it for this test stops at the NUL.
+        QTest::newRow("NUL") << "c\\u00001"
+                             << "'c'";
+        QTest::newRow("a statement") << "'; DROP TABLE voipConferenceInfo; --"
+                                     << "'''; DROP TABLE voipConferenceInfo; --'";
+        QTest::newRow("ten thousand characters") << QString(10000, 'c') << "'" + QString(10000, 'c') + "'";
+    }
+
+    void oddConferenceIds()
+    {
+        QFETCH(QString, id);
+        RecordedEngine f;
+        f.notify(2, "{\"content\":{\"confId\":\"" + id + "\",\"from\":\"anna\"}}");
+        f.notify(4);
+        QCOMPARE(f.count(), 1);
+        QTEST(f.rows().constFirst().constFirst(), "stored");
+    }
+
+    void deletingARecord_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QStringList>("left");
+
+        QTest::newRow("a known id") << "c1" << QStringList{"''", "'c2'"};
+        QTest::newRow("an unknown id") << "c3" << QStringList{"''", "'c1'", "'c2'"};
+        QTest::newRow("no id touches nothing") << "" << QStringList{"''", "'c1'", "'c2'"};
+    }
+
+    void deletingARecord()
+    {
+        QFETCH(QString, id);
+        RecordedEngine f;
+        for (const char *known : {"", "c1", "c2"}) {
+            ConfInfoData record;
+            record.m_strConfID = known;
+            QVERIFY(DBConfInfo::saveConfInfo(record));
+        }
+        f.manager->slot_DeleteConfInfoData(id);
+        QStringList left;
+        for (const QStringList &row : f.rows())
+            left << row.constFirst();
+        QTEST(left, "left");
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_ConferenceRecord, Widgets)

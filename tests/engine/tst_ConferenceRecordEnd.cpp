@@ -88,120 +88,112 @@ class tst_ConferenceRecordEnd : public QObject
 private slots:
     void initTestCase() { enterZoneOfRecords(); }
 
-    void everyEndWritesOneRecord_data();
-    void everyEndWritesOneRecord();
-    void secondEndWritesNoSecondRecord();
-    void endWhileTheHostTakesItsPromptAwayWritesOneRecord();
-    void singleCallLeavesNoRecord();
-    void recordIsThereWhenTheWindowCloses();
-    void withoutAStoreTheConferenceEndsAllTheSame();
-};
+    void everyEndWritesOneRecord_data()
+    {
+        QTest::addColumn<bool>("creator");
+        QTest::addColumn<bool>("connected");
+        QTest::addColumn<Step>("run");
 
-void tst_ConferenceRecordEnd::everyEndWritesOneRecord_data()
-{
-    QTest::addColumn<bool>("creator");
-    QTest::addColumn<bool>("connected");
-    QTest::addColumn<Step>("run");
-
-    for (const End &end : ends()) {
-        for (const bool creator : {true, false}) {
-            if (end.side == (creator ? Invited : Creator))
-                continue;
-            QTest::addRow("%s, %s", end.name, creator ? "creator" : "invited") << creator << false << end.run;
-            if (end.time == AnyTime)
-                QTest::addRow("%s, connected %s", end.name, creator ? "creator" : "invited")
-                    << creator << true << end.run;
+        for (const End &end : ends()) {
+            for (const bool creator : {true, false}) {
+                if (end.side == (creator ? Invited : Creator))
+                    continue;
+                QTest::addRow("%s, %s", end.name, creator ? "creator" : "invited") << creator << false << end.run;
+                if (end.time == AnyTime)
+                    QTest::addRow("%s, connected %s", end.name, creator ? "creator" : "invited")
+                        << creator << true << end.run;
+            }
         }
     }
-}
 
-void tst_ConferenceRecordEnd::everyEndWritesOneRecord()
-{
-    QFETCH(bool, creator);
-    QFETCH(bool, connected);
-    QFETCH(Step, run);
-    RecordedEngine f;
-    creator ? createConference(f) : joinConference(f);
-    if (connected) {
-        f.notify(18);
-        f.connectedFor(65);
+    void everyEndWritesOneRecord()
+    {
+        QFETCH(bool, creator);
+        QFETCH(bool, connected);
+        QFETCH(Step, run);
+        RecordedEngine f;
+        creator ? createConference(f) : joinConference(f);
+        if (connected) {
+            f.notify(18);
+            f.connectedFor(65);
+        }
+        run(f);
+        const QList<QStringList> rows = f.rows();
+        QCOMPARE(rows.size(), 1);
+        const int seconds = QString(rows.constFirst().at(3)).remove('\'').toInt();
+        QVERIFY(connected ? seconds >= 65 && seconds < 600 : seconds == 0);
+        QCOMPARE(rows.constFirst(),
+                 QStringList({"'c1'", creator ? "'me'" : "'anna'", "'2023-11-15 06:13:20'",
+                              "'" + QString::number(seconds) + "'",
+                              creator ? "'anna,bert,me,carl,'" : "'anna,me,bert,'", connected ? "1" : "0"}));
+        QCOMPARE(f.state(), QString("idle"));
+        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
+        QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 0);
     }
-    run(f);
-    const QList<QStringList> rows = f.rows();
-    QCOMPARE(rows.size(), 1);
-    const int seconds = QString(rows.constFirst().at(3)).remove('\'').toInt();
-    QVERIFY(connected ? seconds >= 65 && seconds < 600 : seconds == 0);
-    QCOMPARE(
-        rows.constFirst(),
-        QStringList({"'c1'", creator ? "'me'" : "'anna'", "'2023-11-15 06:13:20'", "'" + QString::number(seconds) + "'",
-                     creator ? "'anna,bert,me,carl,'" : "'anna,me,bert,'", connected ? "1" : "0"}));
-    QCOMPARE(f.state(), QString("idle"));
-    QVERIFY(!f.manager->m_pVoipWidget->isVisible());
-    QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 0);
-}
 
-void tst_ConferenceRecordEnd::secondEndWritesNoSecondRecord()
-{
-    RecordedEngine f;
-    createConference(f);
-    f.notify(7);
-    const QStringList records = f.records();
-    DBConfInfo::deleteConfInfo("c1");
-    f.notify(7);
-    f.manager->hangupVoipCall();
-    f.manager->callFinished(CallData::FinishHangup);
-    QCOMPARE(records.size(), 1);
-    QCOMPARE(f.count(), 0);
-}
+    void secondEndWritesNoSecondRecord()
+    {
+        RecordedEngine f;
+        createConference(f);
+        f.notify(7);
+        const QStringList records = f.records();
+        DBConfInfo::deleteConfInfo("c1");
+        f.notify(7);
+        f.manager->hangupVoipCall();
+        f.manager->callFinished(CallData::FinishHangup);
+        QCOMPARE(records.size(), 1);
+        QCOMPARE(f.count(), 0);
+    }
 
-void tst_ConferenceRecordEnd::endWhileTheHostTakesItsPromptAwayWritesOneRecord()
-{
-    RecordedEngine f;
-    joinConference(f);
-    f.notify(18);
-    int prompts = 0;
-    f.whileHandled = [&](BaseEvent &event) {
-        // Once only: the end within the end takes the prompt away as well.
-        if (event.msgId == MSG_CLOSE_AV_MSGBOX && ++prompts == 1)
-            f.manager->callFinished(CallData::FinishHangup);
-    };
-    f.notify(7);
-    QCOMPARE(prompts, 2);
-    QCOMPARE(f.records(), QStringList{"'c1' 'anna' '2023-11-15 06:13:20' '0' 'anna,me,bert,' 1"});
-    QCOMPARE(f.state(), QString("idle"));
-}
+    void endWhileTheHostTakesItsPromptAwayWritesOneRecord()
+    {
+        RecordedEngine f;
+        joinConference(f);
+        f.notify(18);
+        int prompts = 0;
+        f.whileHandled = [&](BaseEvent &event) {
+            // Once only: the end within the end takes the prompt away as well.
+            if (event.msgId == MSG_CLOSE_AV_MSGBOX && ++prompts == 1)
+                f.manager->callFinished(CallData::FinishHangup);
+        };
+        f.notify(7);
+        QCOMPARE(prompts, 2);
+        QCOMPARE(f.records(), QStringList{"'c1' 'anna' '2023-11-15 06:13:20' '0' 'anna,me,bert,' 1"});
+        QCOMPARE(f.state(), QString("idle"));
+    }
 
-void tst_ConferenceRecordEnd::singleCallLeavesNoRecord()
-{
-    RecordedEngine f;
-    f.manager->callSingleUser("anna", false);
-    f.notify(18);
-    f.notify(8);
-    f.notify(0, "bert");
-    f.notify(4);
-    QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 2);
-    QCOMPARE(f.count(), 0);
-}
+    void singleCallLeavesNoRecord()
+    {
+        RecordedEngine f;
+        f.manager->callSingleUser("anna", false);
+        f.notify(18);
+        f.notify(8);
+        f.notify(0, "bert");
+        f.notify(4);
+        QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 2);
+        QCOMPARE(f.count(), 0);
+    }
 
-void tst_ConferenceRecordEnd::recordIsThereWhenTheWindowCloses()
-{
-    RecordedEngine f;
-    createConference(f);
-    QList<int> counts;
-    connect(f.manager->m_pVoipWidget, &CVoipWidget::signal_HangupCurrentCall, this, [&] { counts << f.count(); });
-    f.notify(7);
-    QCOMPARE(counts, QList<int>{1});
-}
+    void recordIsThereWhenTheWindowCloses()
+    {
+        RecordedEngine f;
+        createConference(f);
+        QList<int> counts;
+        connect(f.manager->m_pVoipWidget, &CVoipWidget::signal_HangupCurrentCall, this, [&] { counts << f.count(); });
+        f.notify(7);
+        QCOMPARE(counts, QList<int>{1});
+    }
 
-void tst_ConferenceRecordEnd::withoutAStoreTheConferenceEndsAllTheSame()
-{
-    EngineFixture f;
-    f.createConference();
-    f.notify(7);
-    QCOMPARE(f.state(), QString("idle"));
-    QVERIFY(!f.manager->m_pVoipWidget->isVisible());
-    f.manager->slot_DeleteConfInfoData("c1");
-}
+    void withoutAStoreTheConferenceEndsAllTheSame()
+    {
+        EngineFixture f;
+        f.createConference();
+        f.notify(7);
+        QCOMPARE(f.state(), QString("idle"));
+        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
+        f.manager->slot_DeleteConfInfoData("c1");
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_ConferenceRecordEnd, Widgets)

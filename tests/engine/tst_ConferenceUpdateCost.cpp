@@ -42,40 +42,37 @@ class tst_ConferenceUpdateCost : public QObject
     Q_OBJECT
 
 private slots:
-    void zoneIsNotLookedUpForEachMember();
-    void hostIsAskedTheSameOfEachMember();
-};
+    void zoneIsNotLookedUpForEachMember()
+    {
+        EngineFixture f;
+        f.createConference();
+        const QString content = update();
+        zoneLookUps = 0;
+        f.notify(12, content);
+        QCOMPARE(f.members().size(), kMembers + 2);
+        // Once a second, and however slow the machine is, it is no matter of minutes.
+        QVERIFY2(zoneLookUps < kMembers / 10, qPrintable(QString::number(zoneLookUps.load())));
+    }
 
-void tst_ConferenceUpdateCost::zoneIsNotLookedUpForEachMember()
-{
-    EngineFixture f;
-    f.createConference();
-    const QString content = update();
-    zoneLookUps = 0;
-    f.notify(12, content);
-    QCOMPARE(f.members().size(), kMembers + 2);
-    // Once a second, and however slow the machine is, it is no matter of minutes.
-    QVERIFY2(zoneLookUps < kMembers / 10, qPrintable(QString::number(zoneLookUps.load())));
-}
-
-void tst_ConferenceUpdateCost::hostIsAskedTheSameOfEachMember()
-{
-    EngineFixture f;
-    f.createConference();
-    f.host.events.clear();
-    f.notify(12, update());
-    const QList<ReceivedEvent> events = f.host.events;
-    QCOMPARE(events.size(), 3 * kMembers);
-    for (int i = 0; i < kMembers; ++i) {
-        // For the row, then for the stranger's test.
-        const int wanted[] = {MSG_GET_FRIEND_INFO, MSG_GET_FRIEND_INFO, MSG_IS_EXIST_FRIEND};
-        for (int question = 0; question < 3; ++question) {
-            const ReceivedEvent &event = events.at(3 * i + question);
-            QCOMPARE(event.msgId, wanted[question]);
-            QCOMPARE(event.reader().take<QString>(), EngineFixture::jid(uid(i)));
+    void hostIsAskedTheSameOfEachMember()
+    {
+        EngineFixture f;
+        f.createConference();
+        f.host.events.clear();
+        f.notify(12, update());
+        const QList<ReceivedEvent> events = f.host.events;
+        QCOMPARE(events.size(), 3 * kMembers);
+        for (int i = 0; i < kMembers; ++i) {
+            // For the row, then for the stranger's test.
+            const int wanted[] = {MSG_GET_FRIEND_INFO, MSG_GET_FRIEND_INFO, MSG_IS_EXIST_FRIEND};
+            for (int question = 0; question < 3; ++question) {
+                const ReceivedEvent &event = events.at(3 * i + question);
+                QCOMPARE(event.msgId, wanted[question]);
+                QCOMPARE(event.reader().take<QString>(), EngineFixture::jid(uid(i)));
+            }
         }
     }
-}
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_ConferenceUpdateCost, Widgets)

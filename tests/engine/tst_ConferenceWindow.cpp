@@ -53,124 +53,117 @@ class tst_ConferenceWindow : public QObject
     Q_OBJECT
 
 private slots:
-    void eachEventHasItsWindowCall_data();
-    void eachEventHasItsWindowCall();
-    void membersBeforeTheAcceptStandInTheListTwice();
-    void countIsThatOfTheMembersShown();
-    void endForgetsTheMembersShown();
-    void knownMemberIsFoundByCount();
+    void eachEventHasItsWindowCall_data()
+    {
+        QTest::addColumn<Step>("run");
+        QTest::addColumn<QStringList>("changes");
+
+        const auto add = [](const char *name, const Step &run, const QStringList &changes) {
+            QTest::newRow(name) << run << changes;
+        };
+        add("code 5 naming another member: rejected", [](EngineFixture &f) { f.notify(5, "bert"); }, {"bert to 5"});
+        add("code 5 naming an unknown one: nothing", [](EngineFixture &f) { f.notify(5, "zoe"); }, {});
+        add("code 25: rejected", [](EngineFixture &f) { f.notify(25, "bert"); }, {"bert to 5"});
+        add("code 13: hung up, then the list's status",
+            [](EngineFixture &f) { f.notify(13, document(R"("from":"bert","conventioneer":["me","anna"])")); },
+            {"bert to 4", "anna to 1"});
+        add("code 13 of one who is still there: hung up, then connected",
+            [](EngineFixture &f) { f.notify(13, document(R"("from":"bert","conventioneer":["bert"])")); },
+            {"bert to 4", "bert to 1"});
+        add("code 13 without a sender: the list's status alone",
+            [](EngineFixture &f) { f.notify(13, document(R"("conventioneer":["bert"])")); }, {"bert to 1"});
+        add("code 12: new rows, then the list's status",
+            [](EngineFixture &f) { f.notify(12, document(R"("conventioneer":["me","bert","carl","dora"])")); },
+            {"carl new 0", "dora new 0", "bert to 1", "carl to 1", "dora to 1"});
+        add("code 12 without members: nothing",
+            [](EngineFixture &f) { f.notify(12, document(R"("conventioneer":[])")); }, {});
+        add("code 21: the failed ones",
+            [](EngineFixture &f) { f.notify(21, R"({"status":1,"result":{"failedNums":["bert","zoe","anna"]}})"); },
+            {"bert to 2", "anna to 2"});
+        add("code 21 without failed ones: nothing",
+            [](EngineFixture &f) { f.notify(21, R"({"status":0,"result":{}})"); }, {});
+        add("invited again: calling",
+            [](EngineFixture &f) {
+                f.notify(25, "bert");
+                f.manager->slot_ReInviteConfUser("bert");
+            },
+            {"bert to 5", "bert to 0"});
+    }
+
+    void eachEventHasItsWindowCall()
+    {
+        QFETCH(Step, run);
+        EngineFixture f;
+        f.createConference();
+        const RowChanges changes(f);
+        run(f);
+        QTEST(changes.noted, "changes");
+    }
+
+    void membersBeforeTheAcceptStandInTheListTwice()
+    {
+        EngineFixture f;
+        f.manager->m_strUserId = "me";
+        f.notify(2, document(R"("from":"anna")"));
+        f.notify(12, document(R"("conventioneer":["anna","me","bert"])"));
+        QCOMPARE(f.members(), QStringList({"anna 1*", "bert 1"}));
+        f.manager->responseVoipRequest(true);
+        // Deliberate: the accept adds the members without a look at the rows that are there.
+        QCOMPARE(f.members(), QStringList({"anna 1*", "bert 1", "anna 0*", "bert 0"}));
+        f.notify(12, document(R"("conventioneer":["anna","me","bert"])"));
+        QCOMPARE(f.members(), QStringList({"anna 1*", "bert 1", "anna 1*", "bert 1"}));
+        QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "me", "bert"}));
+    }
+
+    void countIsThatOfTheMembersShown()
+    {
+        EngineFixture f;
+        f.createConference();
+        const auto *count = f.manager->m_pVoipWidget->findChild<QLabel *>("lblListCount");
+        QCOMPARE(count->text(), QStringLiteral("参与人员(2)"));
+        f.notify(12, document(R"("conventioneer":["me","anna","carl"])"));
+        QCOMPARE(count->text(), QStringLiteral("参与人员(3)"));
+        f.manager->slot_RemoveConferenceMember("carl");
+        QCOMPARE(count->text(), QStringLiteral("参与人员(2)"));
+        f.notify(12, document(R"("conventioneer":["carl"])"));
+        QCOMPARE(count->text(), QStringLiteral("参与人员(3)"));
+        QCOMPARE(f.members(), QStringList({"anna 1", "bert 0", "carl 1"}));
+    }
+
+    void endForgetsTheMembersShown()
+    {
+        EngineFixture f;
+        f.createConference();
+        f.notify(7);
+        QCOMPARE(f.members(), QStringList());
+        f.notify(2, R"({"content":{"confId":"c2","from":"anna"}})");
+        f.manager->responseVoipRequest(true);
+        f.notify(12, R"({"content":{"confId":"c2","conventioneer":["anna","bert"]}})");
+        QCOMPARE(f.members(), QStringList({"anna 1*", "bert 1"}));
+    }
+
+    void knownMemberIsFoundByCount()
+    {
+        // The host may name somebody twice: taken out once, the second entry still counts as known. The row that is
+        // left of it belongs to nobody any more and stays.
+        EngineFixture f;
+        f.manager->m_strUserId = "me";
+        f.manager->callConference({"anna", "anna", "bert"}, false, "");
+        QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "anna", "bert", "me"}));
+        QCOMPARE(f.members(), QStringList({"anna 0", "anna 0", "bert 0"}));
+        f.manager->slot_RemoveConferenceMember("anna");
+        QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me"}));
+        QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
+        f.manager->addConferenceMember({"anna"});
+        QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me"}));
+        QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
+        f.manager->slot_RemoveConferenceMember("anna");
+        QCOMPARE(f.manager->m_callData.memberList, QStringList({"bert", "me"}));
+        f.manager->addConferenceMember({"anna"});
+        QCOMPARE(f.manager->m_callData.memberList, QStringList({"bert", "me", "anna"}));
+        QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
+    }
 };
-
-void tst_ConferenceWindow::eachEventHasItsWindowCall_data()
-{
-    QTest::addColumn<Step>("run");
-    QTest::addColumn<QStringList>("changes");
-
-    const auto add = [](const char *name, const Step &run, const QStringList &changes) {
-        QTest::newRow(name) << run << changes;
-    };
-    add("code 5 naming another member: rejected", [](EngineFixture &f) { f.notify(5, "bert"); }, {"bert to 5"});
-    add("code 5 naming an unknown one: nothing", [](EngineFixture &f) { f.notify(5, "zoe"); }, {});
-    add("code 25: rejected", [](EngineFixture &f) { f.notify(25, "bert"); }, {"bert to 5"});
-    add("code 13: hung up, then the list's status",
-        [](EngineFixture &f) { f.notify(13, document(R"("from":"bert","conventioneer":["me","anna"])")); },
-        {"bert to 4", "anna to 1"});
-    add("code 13 of one who is still there: hung up, then connected",
-        [](EngineFixture &f) { f.notify(13, document(R"("from":"bert","conventioneer":["bert"])")); },
-        {"bert to 4", "bert to 1"});
-    add("code 13 without a sender: the list's status alone",
-        [](EngineFixture &f) { f.notify(13, document(R"("conventioneer":["bert"])")); }, {"bert to 1"});
-    add("code 12: new rows, then the list's status",
-        [](EngineFixture &f) { f.notify(12, document(R"("conventioneer":["me","bert","carl","dora"])")); },
-        {"carl new 0", "dora new 0", "bert to 1", "carl to 1", "dora to 1"});
-    add("code 12 without members: nothing", [](EngineFixture &f) { f.notify(12, document(R"("conventioneer":[])")); },
-        {});
-    add("code 21: the failed ones",
-        [](EngineFixture &f) { f.notify(21, R"({"status":1,"result":{"failedNums":["bert","zoe","anna"]}})"); },
-        {"bert to 2", "anna to 2"});
-    add("code 21 without failed ones: nothing", [](EngineFixture &f) { f.notify(21, R"({"status":0,"result":{}})"); },
-        {});
-    add("invited again: calling",
-        [](EngineFixture &f) {
-            f.notify(25, "bert");
-            f.manager->slot_ReInviteConfUser("bert");
-        },
-        {"bert to 5", "bert to 0"});
-}
-
-void tst_ConferenceWindow::eachEventHasItsWindowCall()
-{
-    QFETCH(Step, run);
-    EngineFixture f;
-    f.createConference();
-    const RowChanges changes(f);
-    run(f);
-    QTEST(changes.noted, "changes");
-}
-
-void tst_ConferenceWindow::membersBeforeTheAcceptStandInTheListTwice()
-{
-    EngineFixture f;
-    f.manager->m_strUserId = "me";
-    f.notify(2, document(R"("from":"anna")"));
-    f.notify(12, document(R"("conventioneer":["anna","me","bert"])"));
-    QCOMPARE(f.members(), QStringList({"anna 1*", "bert 1"}));
-    f.manager->responseVoipRequest(true);
-    // Deliberate: the accept adds the members without a look at the rows that are there.
-    QCOMPARE(f.members(), QStringList({"anna 1*", "bert 1", "anna 0*", "bert 0"}));
-    f.notify(12, document(R"("conventioneer":["anna","me","bert"])"));
-    QCOMPARE(f.members(), QStringList({"anna 1*", "bert 1", "anna 1*", "bert 1"}));
-    QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "me", "bert"}));
-}
-
-void tst_ConferenceWindow::countIsThatOfTheMembersShown()
-{
-    EngineFixture f;
-    f.createConference();
-    const auto *count = f.manager->m_pVoipWidget->findChild<QLabel *>("lblListCount");
-    QCOMPARE(count->text(), QStringLiteral("参与人员(2)"));
-    f.notify(12, document(R"("conventioneer":["me","anna","carl"])"));
-    QCOMPARE(count->text(), QStringLiteral("参与人员(3)"));
-    f.manager->slot_RemoveConferenceMember("carl");
-    QCOMPARE(count->text(), QStringLiteral("参与人员(2)"));
-    f.notify(12, document(R"("conventioneer":["carl"])"));
-    QCOMPARE(count->text(), QStringLiteral("参与人员(3)"));
-    QCOMPARE(f.members(), QStringList({"anna 1", "bert 0", "carl 1"}));
-}
-
-void tst_ConferenceWindow::endForgetsTheMembersShown()
-{
-    EngineFixture f;
-    f.createConference();
-    f.notify(7);
-    QCOMPARE(f.members(), QStringList());
-    f.notify(2, R"({"content":{"confId":"c2","from":"anna"}})");
-    f.manager->responseVoipRequest(true);
-    f.notify(12, R"({"content":{"confId":"c2","conventioneer":["anna","bert"]}})");
-    QCOMPARE(f.members(), QStringList({"anna 1*", "bert 1"}));
-}
-
-void tst_ConferenceWindow::knownMemberIsFoundByCount()
-{
-    // The host may name somebody twice: taken out once, the second entry still counts as known. The row that is left of
-    // it belongs to nobody any more and stays.
-    EngineFixture f;
-    f.manager->m_strUserId = "me";
-    f.manager->callConference({"anna", "anna", "bert"}, false, "");
-    QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "anna", "bert", "me"}));
-    QCOMPARE(f.members(), QStringList({"anna 0", "anna 0", "bert 0"}));
-    f.manager->slot_RemoveConferenceMember("anna");
-    QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me"}));
-    QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
-    f.manager->addConferenceMember({"anna"});
-    QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me"}));
-    QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
-    f.manager->slot_RemoveConferenceMember("anna");
-    QCOMPARE(f.manager->m_callData.memberList, QStringList({"bert", "me"}));
-    f.manager->addConferenceMember({"anna"});
-    QCOMPARE(f.manager->m_callData.memberList, QStringList({"bert", "me", "anna"}));
-    QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_ConferenceWindow, Widgets)

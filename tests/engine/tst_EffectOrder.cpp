@@ -65,117 +65,109 @@ class tst_EffectOrder : public QObject
     Q_OBJECT
 
 private slots:
-    void placedCallIsSentThenSetUpThenShownThenTimed();
-    void acceptedCallIsSetUpThenAnsweredThenShown();
-    void acceptedInvitationIsSetUpThenAnsweredThenShown();
-    void startedConferenceIsSentThenSetUpThenShownThenTimed();
-    void addedMemberHasARowBeforeTheRequest();
-    void updateTakesItsMembersOneByOne();
-    void endIsToldWhenNothingRingsOrRunsAnyMore();
-    void callThatComesInMeanwhileTakesTheWindowButNotTheCommand();
+    void placedCallIsSentThenSetUpThenShownThenTimed()
+    {
+        EngineFixture f;
+        const Moments moments(f);
+        f.manager->callSingleUser("anna", true);
+        QCOMPARE(moments.noted,
+                 QStringList({"4157 anna: outgoing anna", "4337 anna: outgoing anna",
+                              // The window asks for the peer's card.
+                              "4157 anna: outgoing anna > CallUser", "shown: outgoing anna > CallUser"}));
+        QCOMPARE(f.state(), QString("outgoing anna, invite"));
+    }
+
+    void acceptedCallIsSetUpThenAnsweredThenShown()
+    {
+        EngineFixture f;
+        f.notify(0, "bert");
+        const Moments moments(f);
+        f.manager->responseVoipRequest(true);
+        QCOMPARE(moments.noted,
+                 QStringList({"4157 bert: incoming bert, receive", "shown: incoming bert, receive > AcceptCall"}));
+    }
+
+    void acceptedInvitationIsSetUpThenAnsweredThenShown()
+    {
+        EngineFixture f;
+        f.manager->m_strUserId = "me";
+        f.notify(2, kDocument.arg(R"("from":"anna")"));
+        f.manager->m_callData.memberList = QStringList{"anna", "me", "bert"};
+        const Moments moments(f);
+        f.manager->responseVoipRequest(true);
+        QCOMPARE(moments.noted, QStringList({"4157 anna: incoming anna, receive", "4157 bert: incoming anna, receive",
+                                             "shown: incoming anna, receive > AcceptConf"}));
+    }
+
+    void startedConferenceIsSentThenSetUpThenShownThenTimed()
+    {
+        EngineFixture f;
+        f.manager->m_strUserId = "me";
+        const Moments moments(f);
+        f.manager->callConference({"anna", "bert"}, false, "");
+        const QString asked(": outgoing anna+bert");
+        const QString sent(": outgoing anna+bert+me > RequestConference");
+        QCOMPARE(moments.noted,
+                 QStringList({"4157 anna" + asked, "4337 anna" + asked, "4157 bert" + asked, "4337 bert" + asked,
+                              // The window asks for its rows.
+                              "4157 anna" + sent, "4157 bert" + sent, "shown" + sent}));
+        QCOMPARE(f.state(), QString("outgoing anna+bert+me, invite"));
+    }
+
+    void addedMemberHasARowBeforeTheRequest()
+    {
+        EngineFixture f;
+        startConference(f);
+        const Moments moments(f);
+        f.manager->addConferenceMember({"carl"});
+        const QString unsent(": outgoing anna+bert+me+carl, invite");
+        // The last question is that of the row.
+        QCOMPARE(moments.noted, QStringList({"4157 carl" + unsent, "4337 carl" + unsent, "4157 carl" + unsent}));
+        QCOMPARE(f.takeLines().size(), 1);
+        QCOMPARE(f.members().constLast(), QString("carl 0"));
+    }
+
+    void updateTakesItsMembersOneByOne()
+    {
+        EngineFixture f;
+        f.createConference();
+        const Moments moments(f);
+        f.notify(12, kDocument.arg(R"("conventioneer":["carl","dora"])"));
+        const QString carl(": outgoing anna+bert+me+carl, invite");
+        const QString dora(": outgoing anna+bert+me+carl+dora, invite");
+        // Each one's row, which asks for the card, then whether that one is a stranger.
+        QCOMPARE(moments.noted, QStringList({"4157 carl" + carl, "4157 carl" + carl, "4337 carl" + carl,
+                                             "4157 dora" + dora, "4157 dora" + dora, "4337 dora" + dora}));
+    }
+
+    void endIsToldWhenNothingRingsOrRunsAnyMore()
+    {
+        EngineFixture f;
+        f.notify(0, "bert");
+        f.manager->m_inviteTimer.start(60000);
+        QCOMPARE(f.state(), QString("incoming bert, invite, receive, ring"));
+        const Moments moments(f);
+        f.notify(4);
+        QCOMPARE(moments.noted, QStringList({"4345: incoming bert", "4478: incoming bert"}));
+    }
+
+    void callThatComesInMeanwhileTakesTheWindowButNotTheCommand()
+    {
+        EngineFixture f;
+        bool bCame = false;
+        f.whileHandled = [&](BaseEvent &event) {
+            if (event.msgId == MSG_IS_EXIST_FRIEND && !std::exchange(bCame, true))
+                f.notify(0, "bert");
+        };
+        f.manager->callSingleUser("anna", true);
+        QCOMPARE(f.takeJournal(), QStringList({"4639 bert false false", "CallUser \"anna\" true"}));
+        QCOMPARE(f.state(), QString("incoming bert, invite, receive, ring"));
+        QVERIFY(f.manager->m_callData.bIsVideo);
+        // The window is bert's and speaks of a call that somebody else has placed.
+        QCOMPARE(f.host.received(MSG_GET_FRIEND_INFO).constLast().reader().take<QString>(), EngineFixture::jid("bert"));
+        QCOMPARE(f.manager->m_pVoipWidget->findChild<QLabel *>("lblStatus")->text(), QStringLiteral("正在连接..."));
+    }
 };
-
-void tst_EffectOrder::placedCallIsSentThenSetUpThenShownThenTimed()
-{
-    EngineFixture f;
-    const Moments moments(f);
-    f.manager->callSingleUser("anna", true);
-    QCOMPARE(moments.noted, QStringList({"4157 anna: outgoing anna", "4337 anna: outgoing anna",
-                                         // The window asks for the peer's card.
-                                         "4157 anna: outgoing anna > CallUser", "shown: outgoing anna > CallUser"}));
-    QCOMPARE(f.state(), QString("outgoing anna, invite"));
-}
-
-void tst_EffectOrder::acceptedCallIsSetUpThenAnsweredThenShown()
-{
-    EngineFixture f;
-    f.notify(0, "bert");
-    const Moments moments(f);
-    f.manager->responseVoipRequest(true);
-    QCOMPARE(moments.noted,
-             QStringList({"4157 bert: incoming bert, receive", "shown: incoming bert, receive > AcceptCall"}));
-}
-
-void tst_EffectOrder::acceptedInvitationIsSetUpThenAnsweredThenShown()
-{
-    EngineFixture f;
-    f.manager->m_strUserId = "me";
-    f.notify(2, kDocument.arg(R"("from":"anna")"));
-    f.manager->m_callData.memberList = QStringList{"anna", "me", "bert"};
-    const Moments moments(f);
-    f.manager->responseVoipRequest(true);
-    QCOMPARE(moments.noted, QStringList({"4157 anna: incoming anna, receive", "4157 bert: incoming anna, receive",
-                                         "shown: incoming anna, receive > AcceptConf"}));
-}
-
-void tst_EffectOrder::startedConferenceIsSentThenSetUpThenShownThenTimed()
-{
-    EngineFixture f;
-    f.manager->m_strUserId = "me";
-    const Moments moments(f);
-    f.manager->callConference({"anna", "bert"}, false, "");
-    const QString asked(": outgoing anna+bert");
-    const QString sent(": outgoing anna+bert+me > RequestConference");
-    QCOMPARE(moments.noted,
-             QStringList({"4157 anna" + asked, "4337 anna" + asked, "4157 bert" + asked, "4337 bert" + asked,
-                          // The window asks for its rows.
-                          "4157 anna" + sent, "4157 bert" + sent, "shown" + sent}));
-    QCOMPARE(f.state(), QString("outgoing anna+bert+me, invite"));
-}
-
-void tst_EffectOrder::addedMemberHasARowBeforeTheRequest()
-{
-    EngineFixture f;
-    startConference(f);
-    const Moments moments(f);
-    f.manager->addConferenceMember({"carl"});
-    const QString unsent(": outgoing anna+bert+me+carl, invite");
-    // The last question is that of the row.
-    QCOMPARE(moments.noted, QStringList({"4157 carl" + unsent, "4337 carl" + unsent, "4157 carl" + unsent}));
-    QCOMPARE(f.takeLines().size(), 1);
-    QCOMPARE(f.members().constLast(), QString("carl 0"));
-}
-
-void tst_EffectOrder::updateTakesItsMembersOneByOne()
-{
-    EngineFixture f;
-    f.createConference();
-    const Moments moments(f);
-    f.notify(12, kDocument.arg(R"("conventioneer":["carl","dora"])"));
-    const QString carl(": outgoing anna+bert+me+carl, invite");
-    const QString dora(": outgoing anna+bert+me+carl+dora, invite");
-    // Each one's row, which asks for the card, then whether that one is a stranger.
-    QCOMPARE(moments.noted, QStringList({"4157 carl" + carl, "4157 carl" + carl, "4337 carl" + carl, "4157 dora" + dora,
-                                         "4157 dora" + dora, "4337 dora" + dora}));
-}
-
-void tst_EffectOrder::endIsToldWhenNothingRingsOrRunsAnyMore()
-{
-    EngineFixture f;
-    f.notify(0, "bert");
-    f.manager->m_inviteTimer.start(60000);
-    QCOMPARE(f.state(), QString("incoming bert, invite, receive, ring"));
-    const Moments moments(f);
-    f.notify(4);
-    QCOMPARE(moments.noted, QStringList({"4345: incoming bert", "4478: incoming bert"}));
-}
-
-void tst_EffectOrder::callThatComesInMeanwhileTakesTheWindowButNotTheCommand()
-{
-    EngineFixture f;
-    bool bCame = false;
-    f.whileHandled = [&](BaseEvent &event) {
-        if (event.msgId == MSG_IS_EXIST_FRIEND && !std::exchange(bCame, true))
-            f.notify(0, "bert");
-    };
-    f.manager->callSingleUser("anna", true);
-    QCOMPARE(f.takeJournal(), QStringList({"4639 bert false false", "CallUser \"anna\" true"}));
-    QCOMPARE(f.state(), QString("incoming bert, invite, receive, ring"));
-    QVERIFY(f.manager->m_callData.bIsVideo);
-    // The window is bert's and speaks of a call that somebody else has placed.
-    QCOMPARE(f.host.received(MSG_GET_FRIEND_INFO).constLast().reader().take<QString>(), EngineFixture::jid("bert"));
-    QCOMPARE(f.manager->m_pVoipWidget->findChild<QLabel *>("lblStatus")->text(), QStringLiteral("正在连接..."));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_EffectOrder, Widgets)

@@ -18,246 +18,226 @@ class tst_EngineLog : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void startNamesTheProgramAndTheSteps();
-    void operationWritesItsRecord_data();
-    void operationWritesItsRecord();
-    void operationWithoutAnEffectWritesNothing();
-    void commandWithoutASocketIsStillLogged();
-    void wholeCallReadsInItsOrder();
-    void refusedCallIsLoggedBeforeItsTests_data();
-    void refusedCallIsLoggedBeforeItsTests();
-    void operationReadsInItsOrder_data();
-    void operationReadsInItsOrder();
-    void clientGoneUnregistersBehindTheHangUp();
-    void cleanupTestCase();
+    void initTestCase() { m_log = std::make_unique<LogCapture>(); }
+
+    void startNamesTheProgramAndTheSteps()
+    {
+        takeTexts();
+        EngineFixture f;
+        const QString program = QCoreApplication::applicationDirPath() + "/VoipSDK/Contents/MacOS/VoipSDK";
+        QCOMPARE(takeTexts().mid(0, 4), QStringList({"DEBUG init VoipSDK", "INFO " + program,
+                                                     "DEBUG creat sdk socket connect", "DEBUG sdk socket connected!"}));
+    }
+
+    void operationWritesItsRecord_data()
+    {
+        QTest::addColumn<Step>("run");
+        QTest::addColumn<QString>("text");
+
+        const auto add = [](const char *text, const Step &run) {
+            QTest::newRow(text) << run << QString::fromUtf8(text);
+        };
+        add("DEBUG clear call data!", [](EngineFixture &f) { f.manager->clearLocalCallData(); });
+        add("DEBUG play call ring", [](EngineFixture &f) { f.manager->playReceviceCall(); });
+        add("DEBUG stop ring!", [](EngineFixture &f) { f.manager->stopRinging(); });
+        add("DEBUG exit voip when client exit!", [](EngineFixture &f) { f.manager->exitVoip(); });
+        add("DEBUG disconnenct voipsdk socket!", [](EngineFixture &f) { f.manager->exitVoip(); });
+        add("DEBUG invite call time out!", [](EngineFixture &f) { f.manager->slot_inviteCallTimeout(); });
+        add("DEBUG recevie call connect time out!", [](EngineFixture &f) { f.manager->slot_recevieCallTimeout(); });
+        add("DEBUG creat sdk socket connect", [](EngineFixture &f) {
+            f.process.close();
+            f.manager->disconnectVoipSDKSocket();
+            f.manager->slot_ReConnectVoipSDK();
+        });
+        add("DEBUG sdk socket error = 1",
+            [](EngineFixture &f) { f.manager->slot_DisplayError(QLocalSocket::PeerClosedError); });
+        add("DEBUG sdk socket disconnect errorUnknown error",
+            [](EngineFixture &f) { f.manager->slot_VoipSDKDisConnected(); });
+        add("DEBUG sendVoipMsg = text", [](EngineFixture &f) { f.manager->sendVoipMessage("text\n"); });
+        add("DEBUG regedit userid = me, nickName = Nick",
+            [](EngineFixture &f) { f.manager->regeditVoipUser("me", "Nick", "ticket"); });
+        add("DEBUG unregedit current user ", [](EngineFixture &f) { f.manager->unRegeditCurrentVoipUser(); });
+        add("DEBUG SetMicEnable = 1", [](EngineFixture &f) { f.manager->slot_SetMicEnable(true); });
+        add("DEBUG SetSpeakerEnable = 0", [](EngineFixture &f) { f.manager->slot_SetSpeakerEnable(false); });
+        add("DEBUG SetCameraEnable = 1", [](EngineFixture &f) { f.manager->slot_SetCameraEnable(true); });
+        add("DEBUG Voip Sdk call back msg iCode=6, string=text", [](EngineFixture &f) { f.notify(6, "text"); });
+        add("DEBUG Voip Sdk call back msg iCode=-7, string=", [](EngineFixture &f) { f.notify(-7); });
+        add("DEBUG voipsdk:text", [](EngineFixture &f) { f.notify(999, "text"); });
+        add("DEBUG voipsdk:bert", [](EngineFixture &f) { f.notify(25, "bert"); });
+        add("DEBUG add conf member result={}", [](EngineFixture &f) { f.notify(21, "{}"); });
+        add("DEBUG user singlecall touser = anna, isVideo = 1",
+            [](EngineFixture &f) { f.manager->callSingleUser("anna", true); });
+        add("DEBUG recevie call user=bert, bIsConf=0, bIsVideo=0", [](EngineFixture &f) { f.notify(0, "bert"); });
+        add("DEBUG recevie call user=anna, bIsConf=1, bIsVideo=1",
+            [](EngineFixture &f) { f.manager->notifyRecevieVoipCall("anna", true, true); });
+        add("DEBUG use response voip request, baccept = 0",
+            [](EngineFixture &f) { f.manager->responseVoipRequest(false); });
+        add("DEBUG accept voip call", [](EngineFixture &f) { f.manager->acceptVoipCall(); });
+        add("DEBUG singel call accept !", [](EngineFixture &f) { f.manager->acceptVoipCall(); });
+        add("DEBUG conf accepted!", [](EngineFixture &f) {
+            f.manager->m_callData.bIsConf = true;
+            f.manager->acceptVoipCall();
+        });
+        add("DEBUG reject call!", [](EngineFixture &f) { f.manager->rejectVoipCall(); });
+        add("DEBUG hangup voip call!", [](EngineFixture &f) { f.manager->hangupVoipCall(); });
+        add("DEBUG call finish!", [](EngineFixture &f) {
+            f.notify(0, "bert");
+            f.notify(4);
+        });
+        add("DEBUG client connected, regedit user!", [](EngineFixture &f) { f.manager->clientConnectStatus(true); });
+        add("DEBUG client disconnect, hangupcall, unrededit user!",
+            [](EngineFixture &f) { f.manager->clientConnectStatus(false); });
+        add("DEBUG call conf uselist = anna,bert", [](EngineFixture &f) {
+            f.manager->callConference({"anna", "bert"}, true, "");
+        });
+        add("DEBUG add conf member = anna,bert", [](EngineFixture &f) {
+            f.manager->addConferenceMember({"anna", "bert"});
+        });
+        add("DEBUG reInvite conf user = anna", [](EngineFixture &f) {
+            f.manager->m_callData.bIsConf = true;
+            f.manager->m_callData.bIsCaller = true;
+            f.manager->slot_ReInviteConfUser("anna");
+        });
+        add("DEBUG remove conf member = anna",
+            [](EngineFixture &f) { f.manager->slot_RemoveConferenceMember("anna"); });
+        add("DEBUG mute conf user id = anna, bMute = 1",
+            [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("anna", true); });
+        add("DEBUG bMuteAll = 0", [](EngineFixture &f) { f.manager->slot_MuteAll(false); });
+        add("DEBUG control conf operation = 2, isAllMember = 1, userid = anna",
+            [](EngineFixture &f) { f.manager->controlConference(CVoipManage::UnMute, true, "anna"); });
+        add("DEBUG update conf connected users = anna,bert", [](EngineFixture &f) {
+            f.manager->m_callData.connectedList = QStringList{"anna", "bert"};
+            f.manager->updateConferenceListStatus();
+        });
+        add("DEBUG updateUserInfo userID = anna",
+            [](EngineFixture &f) { f.manager->updateUserInfo("anna", VcardInfo()); });
+        add("DEBUG show voice conf detaileInfo!", [](EngineFixture &f) { f.manager->showVoiceConf(); });
+    }
+
+    void operationWritesItsRecord()
+    {
+        QFETCH(Step, run);
+        QFETCH(QString, text);
+        EngineFixture f;
+        takeTexts();
+        run(f);
+        const QStringList texts = takeTexts();
+        QVERIFY2(texts.count(text) == 1, qPrintable(texts.join('\n')));
+    }
+
+    void operationWithoutAnEffectWritesNothing()
+    {
+        EngineFixture f;
+        takeTexts();
+        f.manager->slot_ReInviteConfUser("anna");
+        f.manager->slot_SetMicVolume(50);
+        f.manager->recevieVoipMessage("no JSON\n");
+        f.manager->recevieVoipMessage("{\"resultCode\":-1}\n");
+        f.manager->voipLogPrint("u", "v");
+        QCOMPARE(takeTexts(), QStringList("DEBUG sendVoipMsg = {\"messagetype\":\"SetMicVolume\",\"param1\":5}"));
+    }
+
+    void commandWithoutASocketIsStillLogged()
+    {
+        EngineFixture f;
+        f.manager->disconnectVoipSDKSocket();
+        takeTexts();
+        f.manager->sendVoipMessage("text\n");
+        QCOMPARE(takeTexts(), QStringList{"DEBUG sendVoipMsg = text"});
+    }
+
+    void wholeCallReadsInItsOrder()
+    {
+        EngineFixture f;
+        takeTexts();
+        f.notify(0, "bert");
+        f.manager->responseVoipRequest(false);
+        const QStringList texts = takeTexts();
+        QCOMPARE(texts.mid(0, 11),
+                 QStringList({"DEBUG Voip Sdk call back msg iCode=0, string=bert", "DEBUG play call ring",
+                              "DEBUG recevie call user=bert, bIsConf=0, bIsVideo=0",
+                              "DEBUG use response voip request, baccept = 0", "DEBUG reject call!",
+                              "DEBUG sendVoipMsg = {\"messagetype\":\"RejectCall\"}", "DEBUG stop ring!",
+                              "DEBUG call finish!", "DEBUG clear call data!", "DEBUG clear call info!",
+                              "DEBUG setmic bMute = 0"}));
+    }
+
+    void refusedCallIsLoggedBeforeItsTests_data()
+    {
+        QTest::addColumn<Step>("run");
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("single call") << Step([](EngineFixture &f) { f.manager->callSingleUser("anna", false); })
+                                     << "DEBUG user singlecall touser = anna, isVideo = 0";
+        QTest::newRow("conference") << Step([](EngineFixture &f) { f.manager->callConference({"anna"}, false, ""); })
+                                    << "DEBUG call conf uselist = anna";
+    }
+
+    void refusedCallIsLoggedBeforeItsTests()
+    {
+        QFETCH(Step, run);
+        QFETCH(QString, text);
+        EngineFixture f;
+        f.notify(0, "bert");
+        takeTexts();
+        run(f);
+        QCOMPARE(f.boxes.texts.size(), 1);
+        QCOMPARE(takeTexts(), QStringList{text});
+    }
+
+    void operationReadsInItsOrder_data()
+    {
+        QTest::addColumn<Step>("run");
+        QTest::addColumn<QStringList>("texts");
+
+        const auto add = [](const char *name, const Step &run, const QStringList &texts) {
+            QTest::newRow(name) << run << texts;
+        };
+        add("accept", [](EngineFixture &f) { f.manager->acceptVoipCall(); },
+            {"DEBUG accept voip call", "DEBUG stop ring!"});
+        add("hang-up", [](EngineFixture &f) { f.manager->hangupVoipCall(); },
+            {"DEBUG hangup voip call!", "DEBUG stop ring!"});
+        add("mute one", [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("anna", true); },
+            {"DEBUG mute conf user id = anna, bMute = 1",
+             "DEBUG control conf operation = 1, isAllMember = 0, userid = anna"});
+        add("mute all", [](EngineFixture &f) { f.manager->slot_MuteAll(true); },
+            {"DEBUG bMuteAll = 1", "DEBUG control conf operation = 1, isAllMember = 1, userid = "});
+        add("invite again", [](EngineFixture &f) { f.manager->slot_ReInviteConfUser("anna"); },
+            {"DEBUG reInvite conf user = anna", "DEBUG add conf member = anna"});
+        add("remove", [](EngineFixture &f) { f.manager->slot_RemoveConferenceMember("anna"); },
+            {"DEBUG remove conf member = anna", "DEBUG control conf operation = 0, isAllMember = 0, userid = anna"});
+    }
+
+    void operationReadsInItsOrder()
+    {
+        QFETCH(Step, run);
+        QFETCH(QStringList, texts);
+        EngineFixture f;
+        f.createConference();
+        f.manager->m_callData.connectedList = QStringList{"anna"};
+        takeTexts();
+        run(f);
+        QCOMPARE(takeTexts().mid(0, texts.size()), texts);
+    }
+
+    void clientGoneUnregistersBehindTheHangUp()
+    {
+        EngineFixture f;
+        takeTexts();
+        f.manager->clientConnectStatus(false);
+        QCOMPARE(takeTexts().mid(0, 4),
+                 QStringList({"DEBUG client disconnect, hangupcall, unrededit user!", "DEBUG hangup voip call!",
+                              "DEBUG stop ring!", "DEBUG unregedit current user "}));
+    }
+
+    void cleanupTestCase() { m_log.reset(); }
 
 private:
-    QStringList takeTexts();
+    /// What has been logged since the last call, as "LEVEL text".
+    QStringList takeTexts() { return m_log->takeTexts(); }
 
     std::unique_ptr<LogCapture> m_log;
 };
-
-void tst_EngineLog::initTestCase()
-{
-    m_log = std::make_unique<LogCapture>();
-}
-
-void tst_EngineLog::cleanupTestCase()
-{
-    m_log.reset();
-}
-
-/// What has been logged since the last call, as "LEVEL text".
-QStringList tst_EngineLog::takeTexts()
-{
-    return m_log->takeTexts();
-}
-
-void tst_EngineLog::startNamesTheProgramAndTheSteps()
-{
-    takeTexts();
-    EngineFixture f;
-    const QString program = QCoreApplication::applicationDirPath() + "/VoipSDK/Contents/MacOS/VoipSDK";
-    QCOMPARE(takeTexts().mid(0, 4), QStringList({"DEBUG init VoipSDK", "INFO " + program,
-                                                 "DEBUG creat sdk socket connect", "DEBUG sdk socket connected!"}));
-}
-
-void tst_EngineLog::operationWritesItsRecord_data()
-{
-    QTest::addColumn<Step>("run");
-    QTest::addColumn<QString>("text");
-
-    const auto add = [](const char *text, const Step &run) { QTest::newRow(text) << run << QString::fromUtf8(text); };
-    add("DEBUG clear call data!", [](EngineFixture &f) { f.manager->clearLocalCallData(); });
-    add("DEBUG play call ring", [](EngineFixture &f) { f.manager->playReceviceCall(); });
-    add("DEBUG stop ring!", [](EngineFixture &f) { f.manager->stopRinging(); });
-    add("DEBUG exit voip when client exit!", [](EngineFixture &f) { f.manager->exitVoip(); });
-    add("DEBUG disconnenct voipsdk socket!", [](EngineFixture &f) { f.manager->exitVoip(); });
-    add("DEBUG invite call time out!", [](EngineFixture &f) { f.manager->slot_inviteCallTimeout(); });
-    add("DEBUG recevie call connect time out!", [](EngineFixture &f) { f.manager->slot_recevieCallTimeout(); });
-    add("DEBUG creat sdk socket connect", [](EngineFixture &f) {
-        f.process.close();
-        f.manager->disconnectVoipSDKSocket();
-        f.manager->slot_ReConnectVoipSDK();
-    });
-    add("DEBUG sdk socket error = 1",
-        [](EngineFixture &f) { f.manager->slot_DisplayError(QLocalSocket::PeerClosedError); });
-    add("DEBUG sdk socket disconnect errorUnknown error",
-        [](EngineFixture &f) { f.manager->slot_VoipSDKDisConnected(); });
-    add("DEBUG sendVoipMsg = text", [](EngineFixture &f) { f.manager->sendVoipMessage("text\n"); });
-    add("DEBUG regedit userid = me, nickName = Nick",
-        [](EngineFixture &f) { f.manager->regeditVoipUser("me", "Nick", "ticket"); });
-    add("DEBUG unregedit current user ", [](EngineFixture &f) { f.manager->unRegeditCurrentVoipUser(); });
-    add("DEBUG SetMicEnable = 1", [](EngineFixture &f) { f.manager->slot_SetMicEnable(true); });
-    add("DEBUG SetSpeakerEnable = 0", [](EngineFixture &f) { f.manager->slot_SetSpeakerEnable(false); });
-    add("DEBUG SetCameraEnable = 1", [](EngineFixture &f) { f.manager->slot_SetCameraEnable(true); });
-    add("DEBUG Voip Sdk call back msg iCode=6, string=text", [](EngineFixture &f) { f.notify(6, "text"); });
-    add("DEBUG Voip Sdk call back msg iCode=-7, string=", [](EngineFixture &f) { f.notify(-7); });
-    add("DEBUG voipsdk:text", [](EngineFixture &f) { f.notify(999, "text"); });
-    add("DEBUG voipsdk:bert", [](EngineFixture &f) { f.notify(25, "bert"); });
-    add("DEBUG add conf member result={}", [](EngineFixture &f) { f.notify(21, "{}"); });
-    add("DEBUG user singlecall touser = anna, isVideo = 1",
-        [](EngineFixture &f) { f.manager->callSingleUser("anna", true); });
-    add("DEBUG recevie call user=bert, bIsConf=0, bIsVideo=0", [](EngineFixture &f) { f.notify(0, "bert"); });
-    add("DEBUG recevie call user=anna, bIsConf=1, bIsVideo=1",
-        [](EngineFixture &f) { f.manager->notifyRecevieVoipCall("anna", true, true); });
-    add("DEBUG use response voip request, baccept = 0",
-        [](EngineFixture &f) { f.manager->responseVoipRequest(false); });
-    add("DEBUG accept voip call", [](EngineFixture &f) { f.manager->acceptVoipCall(); });
-    add("DEBUG singel call accept !", [](EngineFixture &f) { f.manager->acceptVoipCall(); });
-    add("DEBUG conf accepted!", [](EngineFixture &f) {
-        f.manager->m_callData.bIsConf = true;
-        f.manager->acceptVoipCall();
-    });
-    add("DEBUG reject call!", [](EngineFixture &f) { f.manager->rejectVoipCall(); });
-    add("DEBUG hangup voip call!", [](EngineFixture &f) { f.manager->hangupVoipCall(); });
-    add("DEBUG call finish!", [](EngineFixture &f) {
-        f.notify(0, "bert");
-        f.notify(4);
-    });
-    add("DEBUG client connected, regedit user!", [](EngineFixture &f) { f.manager->clientConnectStatus(true); });
-    add("DEBUG client disconnect, hangupcall, unrededit user!",
-        [](EngineFixture &f) { f.manager->clientConnectStatus(false); });
-    add("DEBUG call conf uselist = anna,bert", [](EngineFixture &f) {
-        f.manager->callConference({"anna", "bert"}, true, "");
-    });
-    add("DEBUG add conf member = anna,bert", [](EngineFixture &f) {
-        f.manager->addConferenceMember({"anna", "bert"});
-    });
-    add("DEBUG reInvite conf user = anna", [](EngineFixture &f) {
-        f.manager->m_callData.bIsConf = true;
-        f.manager->m_callData.bIsCaller = true;
-        f.manager->slot_ReInviteConfUser("anna");
-    });
-    add("DEBUG remove conf member = anna", [](EngineFixture &f) { f.manager->slot_RemoveConferenceMember("anna"); });
-    add("DEBUG mute conf user id = anna, bMute = 1",
-        [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("anna", true); });
-    add("DEBUG bMuteAll = 0", [](EngineFixture &f) { f.manager->slot_MuteAll(false); });
-    add("DEBUG control conf operation = 2, isAllMember = 1, userid = anna",
-        [](EngineFixture &f) { f.manager->controlConference(CVoipManage::UnMute, true, "anna"); });
-    add("DEBUG update conf connected users = anna,bert", [](EngineFixture &f) {
-        f.manager->m_callData.connectedList = QStringList{"anna", "bert"};
-        f.manager->updateConferenceListStatus();
-    });
-    add("DEBUG updateUserInfo userID = anna", [](EngineFixture &f) { f.manager->updateUserInfo("anna", VcardInfo()); });
-    add("DEBUG show voice conf detaileInfo!", [](EngineFixture &f) { f.manager->showVoiceConf(); });
-}
-
-void tst_EngineLog::operationWritesItsRecord()
-{
-    QFETCH(Step, run);
-    QFETCH(QString, text);
-    EngineFixture f;
-    takeTexts();
-    run(f);
-    const QStringList texts = takeTexts();
-    QVERIFY2(texts.count(text) == 1, qPrintable(texts.join('\n')));
-}
-
-void tst_EngineLog::operationWithoutAnEffectWritesNothing()
-{
-    EngineFixture f;
-    takeTexts();
-    f.manager->slot_ReInviteConfUser("anna");
-    f.manager->slot_SetMicVolume(50);
-    f.manager->recevieVoipMessage("no JSON\n");
-    f.manager->recevieVoipMessage("{\"resultCode\":-1}\n");
-    f.manager->voipLogPrint("u", "v");
-    QCOMPARE(takeTexts(), QStringList("DEBUG sendVoipMsg = {\"messagetype\":\"SetMicVolume\",\"param1\":5}"));
-}
-
-void tst_EngineLog::commandWithoutASocketIsStillLogged()
-{
-    EngineFixture f;
-    f.manager->disconnectVoipSDKSocket();
-    takeTexts();
-    f.manager->sendVoipMessage("text\n");
-    QCOMPARE(takeTexts(), QStringList{"DEBUG sendVoipMsg = text"});
-}
-
-void tst_EngineLog::wholeCallReadsInItsOrder()
-{
-    EngineFixture f;
-    takeTexts();
-    f.notify(0, "bert");
-    f.manager->responseVoipRequest(false);
-    const QStringList texts = takeTexts();
-    QCOMPARE(texts.mid(0, 11),
-             QStringList(
-                 {"DEBUG Voip Sdk call back msg iCode=0, string=bert", "DEBUG play call ring",
-                  "DEBUG recevie call user=bert, bIsConf=0, bIsVideo=0", "DEBUG use response voip request, baccept = 0",
-                  "DEBUG reject call!", "DEBUG sendVoipMsg = {\"messagetype\":\"RejectCall\"}", "DEBUG stop ring!",
-                  "DEBUG call finish!", "DEBUG clear call data!", "DEBUG clear call info!", "DEBUG setmic bMute = 0"}));
-}
-
-void tst_EngineLog::refusedCallIsLoggedBeforeItsTests_data()
-{
-    QTest::addColumn<Step>("run");
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("single call") << Step([](EngineFixture &f) { f.manager->callSingleUser("anna", false); })
-                                 << "DEBUG user singlecall touser = anna, isVideo = 0";
-    QTest::newRow("conference") << Step([](EngineFixture &f) { f.manager->callConference({"anna"}, false, ""); })
-                                << "DEBUG call conf uselist = anna";
-}
-
-void tst_EngineLog::refusedCallIsLoggedBeforeItsTests()
-{
-    QFETCH(Step, run);
-    QFETCH(QString, text);
-    EngineFixture f;
-    f.notify(0, "bert");
-    takeTexts();
-    run(f);
-    QCOMPARE(f.boxes.texts.size(), 1);
-    QCOMPARE(takeTexts(), QStringList{text});
-}
-
-void tst_EngineLog::operationReadsInItsOrder_data()
-{
-    QTest::addColumn<Step>("run");
-    QTest::addColumn<QStringList>("texts");
-
-    const auto add = [](const char *name, const Step &run, const QStringList &texts) {
-        QTest::newRow(name) << run << texts;
-    };
-    add("accept", [](EngineFixture &f) { f.manager->acceptVoipCall(); },
-        {"DEBUG accept voip call", "DEBUG stop ring!"});
-    add("hang-up", [](EngineFixture &f) { f.manager->hangupVoipCall(); },
-        {"DEBUG hangup voip call!", "DEBUG stop ring!"});
-    add("mute one", [](EngineFixture &f) { f.manager->slot_MuteConferenceMember("anna", true); },
-        {"DEBUG mute conf user id = anna, bMute = 1",
-         "DEBUG control conf operation = 1, isAllMember = 0, userid = anna"});
-    add("mute all", [](EngineFixture &f) { f.manager->slot_MuteAll(true); },
-        {"DEBUG bMuteAll = 1", "DEBUG control conf operation = 1, isAllMember = 1, userid = "});
-    add("invite again", [](EngineFixture &f) { f.manager->slot_ReInviteConfUser("anna"); },
-        {"DEBUG reInvite conf user = anna", "DEBUG add conf member = anna"});
-    add("remove", [](EngineFixture &f) { f.manager->slot_RemoveConferenceMember("anna"); },
-        {"DEBUG remove conf member = anna", "DEBUG control conf operation = 0, isAllMember = 0, userid = anna"});
-}
-
-void tst_EngineLog::operationReadsInItsOrder()
-{
-    QFETCH(Step, run);
-    QFETCH(QStringList, texts);
-    EngineFixture f;
-    f.createConference();
-    f.manager->m_callData.connectedList = QStringList{"anna"};
-    takeTexts();
-    run(f);
-    QCOMPARE(takeTexts().mid(0, texts.size()), texts);
-}
-
-void tst_EngineLog::clientGoneUnregistersBehindTheHangUp()
-{
-    EngineFixture f;
-    takeTexts();
-    f.manager->clientConnectStatus(false);
-    QCOMPARE(takeTexts().mid(0, 4),
-             QStringList({"DEBUG client disconnect, hangupcall, unrededit user!", "DEBUG hangup voip call!",
-                          "DEBUG stop ring!", "DEBUG unregedit current user "}));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_EngineLog, Widgets)

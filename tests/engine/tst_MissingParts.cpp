@@ -18,55 +18,50 @@ class tst_MissingParts : public QObject
     Q_OBJECT
 
 private slots:
-    void rejectionInAConferenceNeedsNoWindow();
-    void callsNeedNoRing();
-    void lineToAChannelThatIsNotOpenIsDroppedWithoutAWarning();
-    void exitWhileALineIsHandledEndsTheReading();
+    void rejectionInAConferenceNeedsNoWindow()
+    {
+        EngineFixture f;
+        f.createConference();
+        delete std::exchange(f.manager->m_pVoipWidget, nullptr);
+        const QString before = f.callText();
+        f.notify(5, "anna");
+        QCOMPARE(f.callText(), before);
+        QCOMPARE(f.takeJournal(), QStringList());
+    }
+
+    void callsNeedNoRing()
+    {
+        EngineFixture f;
+        QSound *pRing = std::exchange(f.manager->m_pRingSound, nullptr);
+        f.notify(0, "bert");
+        f.manager->responseVoipRequest(false);
+        f.manager->m_pRingSound = pRing;
+        QCOMPARE(f.state(), QString("idle"));
+        QVERIFY(pRing->isFinished());
+    }
+
+    void lineToAChannelThatIsNotOpenIsDroppedWithoutAWarning()
+    {
+        EngineFixture f(EngineFixture::NoCallProcess);
+        QVERIFY(f.manager->m_pVoipSocket && !f.manager->m_pVoipSocket->isOpen());
+        QtMessages messages;
+        f.manager->sendVoipMessage("{}\n");
+        QCOMPARE(messages.warnings, QStringList());
+    }
+
+    void exitWhileALineIsHandledEndsTheReading()
+    {
+        EngineFixture f;
+        f.whileHandled = [&f](BaseEvent &event) {
+            if (event.msgId == MSG_RECEVIE_VOIP_CALL)
+                f.manager->exitVoip();
+        };
+        f.process.send(FakeCallProcess::line(0, "bert") + FakeCallProcess::line(5, "bert"));
+        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_pVoipSocket == nullptr, kPatienceMs);
+        EngineFixture::deliverPosted();
+        QVERIFY(!f.manager->m_bSocketConnected);
+    }
 };
-
-void tst_MissingParts::rejectionInAConferenceNeedsNoWindow()
-{
-    EngineFixture f;
-    f.createConference();
-    delete std::exchange(f.manager->m_pVoipWidget, nullptr);
-    const QString before = f.callText();
-    f.notify(5, "anna");
-    QCOMPARE(f.callText(), before);
-    QCOMPARE(f.takeJournal(), QStringList());
-}
-
-void tst_MissingParts::callsNeedNoRing()
-{
-    EngineFixture f;
-    QSound *pRing = std::exchange(f.manager->m_pRingSound, nullptr);
-    f.notify(0, "bert");
-    f.manager->responseVoipRequest(false);
-    f.manager->m_pRingSound = pRing;
-    QCOMPARE(f.state(), QString("idle"));
-    QVERIFY(pRing->isFinished());
-}
-
-void tst_MissingParts::lineToAChannelThatIsNotOpenIsDroppedWithoutAWarning()
-{
-    EngineFixture f(EngineFixture::NoCallProcess);
-    QVERIFY(f.manager->m_pVoipSocket && !f.manager->m_pVoipSocket->isOpen());
-    QtMessages messages;
-    f.manager->sendVoipMessage("{}\n");
-    QCOMPARE(messages.warnings, QStringList());
-}
-
-void tst_MissingParts::exitWhileALineIsHandledEndsTheReading()
-{
-    EngineFixture f;
-    f.whileHandled = [&f](BaseEvent &event) {
-        if (event.msgId == MSG_RECEVIE_VOIP_CALL)
-            f.manager->exitVoip();
-    };
-    f.process.send(FakeCallProcess::line(0, "bert") + FakeCallProcess::line(5, "bert"));
-    QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_pVoipSocket == nullptr, kPatienceMs);
-    EngineFixture::deliverPosted();
-    QVERIFY(!f.manager->m_bSocketConnected);
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_MissingParts, Widgets)

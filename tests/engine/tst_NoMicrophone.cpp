@@ -21,126 +21,114 @@ class tst_NoMicrophone : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void callIsRefusedWithTheFirstMessage_data();
-    void callIsRefusedWithTheFirstMessage();
-    void acceptSaysSoAndRejects();
-    void acceptOfAConferenceRejectsTheConference();
-    void ringStopsBeforeTheMessage();
-    void receiveTimerMayEndTheCallWhileTheMessageIsOpen();
-    void socketLinesAreHandledWhileTheMessageIsOpen();
-};
+    void initTestCase() { QVERIFY(QAudioDeviceInfo::availableDevices(QAudio::AudioInput).isEmpty()); }
 
-void tst_NoMicrophone::initTestCase()
-{
-    QVERIFY(QAudioDeviceInfo::availableDevices(QAudio::AudioInput).isEmpty());
-}
+    void callIsRefusedWithTheFirstMessage_data()
+    {
+        QTest::addColumn<bool>("conference");
+        QTest::addColumn<bool>("channel");
+        QTest::addColumn<bool>("call");
 
-void tst_NoMicrophone::callIsRefusedWithTheFirstMessage_data()
-{
-    QTest::addColumn<bool>("conference");
-    QTest::addColumn<bool>("channel");
-    QTest::addColumn<bool>("call");
+        QTest::newRow("single call") << false << true << false;
+        QTest::newRow("single call while a call exists") << false << true << true;
+        QTest::newRow("single call while the channel is down") << false << false << false;
+        QTest::newRow("conference") << true << true << false;
+        QTest::newRow("conference while a call exists") << true << true << true;
+        QTest::newRow("conference while the channel is down") << true << false << false;
+    }
 
-    QTest::newRow("single call") << false << true << false;
-    QTest::newRow("single call while a call exists") << false << true << true;
-    QTest::newRow("single call while the channel is down") << false << false << false;
-    QTest::newRow("conference") << true << true << false;
-    QTest::newRow("conference while a call exists") << true << true << true;
-    QTest::newRow("conference while the channel is down") << true << false << false;
-}
+    void callIsRefusedWithTheFirstMessage()
+    {
+        QFETCH(bool, conference);
+        QFETCH(bool, channel);
+        QFETCH(bool, call);
+        EngineFixture f(channel ? EngineFixture::WithCallProcess : EngineFixture::NoCallProcess);
+        QVERIFY(!f.manager->getIsHasAudioInputDevice());
+        if (call)
+            f.notify(0, "bert");
+        f.takeJournal();
+        const QString before = f.state();
+        if (conference)
+            f.manager->callConference({"anna"}, false, "");
+        else
+            f.manager->callSingleUser("anna", true);
+        QCOMPARE(f.boxes.texts, QStringList{kCannotCall});
+        QCOMPARE(f.state(), before);
+        QCOMPARE(f.takeJournal(), QStringList());
+        QVERIFY(!f.manager->m_callData.bIsCaller);
+        QVERIFY(!f.manager->m_callData.bIsVideo);
+        QVERIFY(!f.manager->m_callData.bIsConf);
+    }
 
-void tst_NoMicrophone::callIsRefusedWithTheFirstMessage()
-{
-    QFETCH(bool, conference);
-    QFETCH(bool, channel);
-    QFETCH(bool, call);
-    EngineFixture f(channel ? EngineFixture::WithCallProcess : EngineFixture::NoCallProcess);
-    QVERIFY(!f.manager->getIsHasAudioInputDevice());
-    if (call)
+    void acceptSaysSoAndRejects()
+    {
+        EngineFixture f;
         f.notify(0, "bert");
-    f.takeJournal();
-    const QString before = f.state();
-    if (conference)
-        f.manager->callConference({"anna"}, false, "");
-    else
-        f.manager->callSingleUser("anna", true);
-    QCOMPARE(f.boxes.texts, QStringList{kCannotCall});
-    QCOMPARE(f.state(), before);
-    QCOMPARE(f.takeJournal(), QStringList());
-    QVERIFY(!f.manager->m_callData.bIsCaller);
-    QVERIFY(!f.manager->m_callData.bIsVideo);
-    QVERIFY(!f.manager->m_callData.bIsConf);
-}
+        f.takeJournal();
+        f.boxes.whileOpen = [&f] { QCOMPARE(f.state(), QString("incoming bert, receive")); };
+        f.manager->responseVoipRequest(true);
+        QCOMPARE(f.boxes.texts, QStringList{kCannotAccept});
+        QCOMPARE(f.takeJournal(), kBertRejected);
+        QCOMPARE(f.state(), QString("idle"));
+        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
+    }
 
-void tst_NoMicrophone::acceptSaysSoAndRejects()
-{
-    EngineFixture f;
-    f.notify(0, "bert");
-    f.takeJournal();
-    f.boxes.whileOpen = [&f] { QCOMPARE(f.state(), QString("incoming bert, receive")); };
-    f.manager->responseVoipRequest(true);
-    QCOMPARE(f.boxes.texts, QStringList{kCannotAccept});
-    QCOMPARE(f.takeJournal(), kBertRejected);
-    QCOMPARE(f.state(), QString("idle"));
-    QVERIFY(!f.manager->m_pVoipWidget->isVisible());
-}
+    void acceptOfAConferenceRejectsTheConference()
+    {
+        EngineFixture f;
+        f.notify(2, R"({"content":{"from":"anna","confId":"c1"}})");
+        f.takeJournal();
+        f.manager->responseVoipRequest(true);
+        QCOMPARE(f.boxes.texts, QStringList{kCannotAccept});
+        QCOMPARE(f.takeJournal(),
+                 QStringList({"RejectConf", "4345 anna@kelvar.im", "SetMicEnable true", "SetSpeakerEnble true"}));
+    }
 
-void tst_NoMicrophone::acceptOfAConferenceRejectsTheConference()
-{
-    EngineFixture f;
-    f.notify(2, R"({"content":{"from":"anna","confId":"c1"}})");
-    f.takeJournal();
-    f.manager->responseVoipRequest(true);
-    QCOMPARE(f.boxes.texts, QStringList{kCannotAccept});
-    QCOMPARE(f.takeJournal(),
-             QStringList({"RejectConf", "4345 anna@kelvar.im", "SetMicEnable true", "SetSpeakerEnble true"}));
-}
+    void ringStopsBeforeTheMessage()
+    {
+        EngineFixture f;
+        f.notify(0, "bert");
+        QString stateWhileOpen = f.state();
+        QVERIFY(stateWhileOpen.contains("ring"));
+        f.boxes.whileOpen = [&] { stateWhileOpen = f.state(); };
+        f.manager->acceptVoipCall();
+        QCOMPARE(stateWhileOpen, QString("incoming bert, receive"));
+    }
 
-void tst_NoMicrophone::ringStopsBeforeTheMessage()
-{
-    EngineFixture f;
-    f.notify(0, "bert");
-    QString stateWhileOpen = f.state();
-    QVERIFY(stateWhileOpen.contains("ring"));
-    f.boxes.whileOpen = [&] { stateWhileOpen = f.state(); };
-    f.manager->acceptVoipCall();
-    QCOMPARE(stateWhileOpen, QString("incoming bert, receive"));
-}
+    void receiveTimerMayEndTheCallWhileTheMessageIsOpen()
+    {
+        EngineFixture f;
+        f.notify(0, "bert");
+        f.takeJournal();
+        QStringList journalWhileOpen;
+        f.boxes.whileOpen = [&] {
+            f.manager->slot_recevieCallTimeout();
+            journalWhileOpen = f.takeJournal();
+        };
+        f.manager->responseVoipRequest(true);
+        QCOMPARE(journalWhileOpen, kBertRejected);
+        // The reject behind the message goes out again, and there is no call left to end.
+        QCOMPARE(f.takeJournal(), QStringList{"RejectCall"});
+        QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 1);
+    }
 
-void tst_NoMicrophone::receiveTimerMayEndTheCallWhileTheMessageIsOpen()
-{
-    EngineFixture f;
-    f.notify(0, "bert");
-    f.takeJournal();
-    QStringList journalWhileOpen;
-    f.boxes.whileOpen = [&] {
-        f.manager->slot_recevieCallTimeout();
-        journalWhileOpen = f.takeJournal();
-    };
-    f.manager->responseVoipRequest(true);
-    QCOMPARE(journalWhileOpen, kBertRejected);
-    // The reject behind the message goes out again, and there is no call left to end.
-    QCOMPARE(f.takeJournal(), QStringList{"RejectCall"});
-    QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 1);
-}
-
-void tst_NoMicrophone::socketLinesAreHandledWhileTheMessageIsOpen()
-{
-    EngineFixture f;
-    f.notify(0, "bert");
-    f.takeJournal();
-    bool endedWhileOpen = false;
-    f.boxes.whileOpen = [&] {
-        f.process.send(FakeCallProcess::line(4));
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), kPatienceMs);
-        endedWhileOpen = true;
-    };
-    f.manager->responseVoipRequest(true);
-    QVERIFY(endedWhileOpen);
-    QCOMPARE(f.takeJournal(), QStringList({"4345 bert@kelvar.im", "4478 false bert 21 false false", "SetMicEnable true",
-                                           "SetSpeakerEnble true", "RejectCall"}));
-}
+    void socketLinesAreHandledWhileTheMessageIsOpen()
+    {
+        EngineFixture f;
+        f.notify(0, "bert");
+        f.takeJournal();
+        bool endedWhileOpen = false;
+        f.boxes.whileOpen = [&] {
+            f.process.send(FakeCallProcess::line(4));
+            QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), kPatienceMs);
+            endedWhileOpen = true;
+        };
+        f.manager->responseVoipRequest(true);
+        QVERIFY(endedWhileOpen);
+        QCOMPARE(f.takeJournal(), QStringList({"4345 bert@kelvar.im", "4478 false bert 21 false false",
+                                               "SetMicEnable true", "SetSpeakerEnble true", "RejectCall"}));
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_NoMicrophone, Widgets)

@@ -12,113 +12,104 @@ class tst_Notifications : public QObject
     Q_OBJECT
 
 private slots:
-    void codeWithoutAnActionChangesNothing_data();
-    void codeWithoutAnActionChangesNothing();
-    void incomingCallSetsTheCall_data();
-    void incomingCallSetsTheCall();
-    void sdkFlagIsTheWordTrue_data();
-    void sdkFlagIsTheWordTrue();
-    void connectionShowsTheCallingControls();
-    void logLineOfTheCallProcessChangesNothing();
+    void codeWithoutAnActionChangesNothing_data()
+    {
+        QTest::addColumn<int>("code");
+
+        for (const int code : {6, 11, 14, 15, 16, 26, 27, 100, 998, 1000, -1, 2147483647})
+            QTest::addRow("code %d", code) << code;
+    }
+
+    void codeWithoutAnActionChangesNothing()
+    {
+        QFETCH(int, code);
+        EngineFixture f;
+        f.createConference();
+        const QString before = f.callText();
+        const QtMessages messages;
+        f.notify(code, R"({"content":{"confId":"c1","from":"anna","conventioneer":["x"],"createTime":5}})");
+        f.notify(code);
+        QCOMPARE(f.takeJournal(), QStringList());
+        EngineFixture::deliverPosted();
+        QCOMPARE(f.host.commands(), QList<int>());
+        QCOMPARE(f.callText(), before);
+        QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
+        QCOMPARE(messages.debugLines, QStringList());
+    }
+
+    void incomingCallSetsTheCall_data()
+    {
+        QTest::addColumn<int>("code");
+
+        QTest::newRow("code 0") << 0;
+        QTest::newRow("code 1") << 1;
+    }
+
+    void incomingCallSetsTheCall()
+    {
+        QFETCH(int, code);
+        EngineFixture f;
+        f.manager->m_callData.bIsConf = true;
+        f.manager->m_callData.bIsVideo = true;
+        f.manager->m_callData.bIsCaller = true;
+        f.notify(code, "bert");
+        QCOMPARE(f.callText(), QString("0|0|0|0|||bert|||"));
+        QCOMPARE(f.state(), QString("incoming bert, receive, ring"));
+        QCOMPARE(f.takeJournal(), QStringList{"4639 bert false false"});
+        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
+    }
+
+    void sdkFlagIsTheWordTrue_data()
+    {
+        QTest::addColumn<QString>("content");
+        QTest::addColumn<bool>("flag");
+
+        QTest::newRow("true") << "true" << true;
+        QTest::newRow("false") << "false" << false;
+        QTest::newRow("capitals") << "True" << false;
+        QTest::newRow("blank") << "true " << false;
+        QTest::newRow("number") << "1" << false;
+        QTest::newRow("empty") << "" << false;
+    }
+
+    void sdkFlagIsTheWordTrue()
+    {
+        QFETCH(QString, content);
+        QFETCH(bool, flag);
+        EngineFixture f;
+        f.manager->m_bSdkFlag = !flag;
+        f.notify(17, content);
+        QCOMPARE(f.manager->m_bSdkFlag, flag);
+    }
+
+    void connectionShowsTheCallingControls()
+    {
+        EngineFixture f;
+        f.manager->callSingleUser("anna", false);
+        const auto *controls = f.manager->m_pVoipWidget->findChild<QStackedWidget *>("controlPane");
+        QCOMPARE(controls->currentIndex(), 0);
+        const QDateTime before = QDateTime::currentDateTimeUtc();
+        f.notify(18, "not read");
+        const QDateTime after = QDateTime::currentDateTimeUtc();
+        QCOMPARE(controls->currentIndex(), 1);
+        QVERIFY(f.manager->m_callData.bIsConnected);
+        QCOMPARE(f.manager->m_callData.connectTime.timeSpec(), Qt::UTC);
+        QVERIFY(f.manager->m_callData.connectTime >= before && f.manager->m_callData.connectTime <= after);
+    }
+
+    void logLineOfTheCallProcessChangesNothing()
+    {
+        EngineFixture f;
+        f.createConference();
+        const QString before = f.callText();
+        const QtMessages messages;
+        f.notify(999, "media up");
+        QCOMPARE(messages.debugLines, QStringList{"voipsdk:media up"});
+        QCOMPARE(f.callText(), before);
+        QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
+        QCOMPARE(f.takeJournal(), QStringList());
+    }
 };
-
-void tst_Notifications::codeWithoutAnActionChangesNothing_data()
-{
-    QTest::addColumn<int>("code");
-
-    for (const int code : {6, 11, 14, 15, 16, 26, 27, 100, 998, 1000, -1, 2147483647})
-        QTest::addRow("code %d", code) << code;
-}
-
-void tst_Notifications::codeWithoutAnActionChangesNothing()
-{
-    QFETCH(int, code);
-    EngineFixture f;
-    f.createConference();
-    const QString before = f.callText();
-    const QtMessages messages;
-    f.notify(code, R"({"content":{"confId":"c1","from":"anna","conventioneer":["x"],"createTime":5}})");
-    f.notify(code);
-    QCOMPARE(f.takeJournal(), QStringList());
-    EngineFixture::deliverPosted();
-    QCOMPARE(f.host.commands(), QList<int>());
-    QCOMPARE(f.callText(), before);
-    QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
-    QCOMPARE(messages.debugLines, QStringList());
-}
-
-void tst_Notifications::incomingCallSetsTheCall_data()
-{
-    QTest::addColumn<int>("code");
-
-    QTest::newRow("code 0") << 0;
-    QTest::newRow("code 1") << 1;
-}
-
-void tst_Notifications::incomingCallSetsTheCall()
-{
-    QFETCH(int, code);
-    EngineFixture f;
-    f.manager->m_callData.bIsConf = true;
-    f.manager->m_callData.bIsVideo = true;
-    f.manager->m_callData.bIsCaller = true;
-    f.notify(code, "bert");
-    QCOMPARE(f.callText(), QString("0|0|0|0|||bert|||"));
-    QCOMPARE(f.state(), QString("incoming bert, receive, ring"));
-    QCOMPARE(f.takeJournal(), QStringList{"4639 bert false false"});
-    QVERIFY(!f.manager->m_pVoipWidget->isVisible());
-}
-
-void tst_Notifications::sdkFlagIsTheWordTrue_data()
-{
-    QTest::addColumn<QString>("content");
-    QTest::addColumn<bool>("flag");
-
-    QTest::newRow("true") << "true" << true;
-    QTest::newRow("false") << "false" << false;
-    QTest::newRow("capitals") << "True" << false;
-    QTest::newRow("blank") << "true " << false;
-    QTest::newRow("number") << "1" << false;
-    QTest::newRow("empty") << "" << false;
-}
-
-void tst_Notifications::sdkFlagIsTheWordTrue()
-{
-    QFETCH(QString, content);
-    QFETCH(bool, flag);
-    EngineFixture f;
-    f.manager->m_bSdkFlag = !flag;
-    f.notify(17, content);
-    QCOMPARE(f.manager->m_bSdkFlag, flag);
-}
-
-void tst_Notifications::connectionShowsTheCallingControls()
-{
-    EngineFixture f;
-    f.manager->callSingleUser("anna", false);
-    const auto *controls = f.manager->m_pVoipWidget->findChild<QStackedWidget *>("controlPane");
-    QCOMPARE(controls->currentIndex(), 0);
-    const QDateTime before = QDateTime::currentDateTimeUtc();
-    f.notify(18, "not read");
-    const QDateTime after = QDateTime::currentDateTimeUtc();
-    QCOMPARE(controls->currentIndex(), 1);
-    QVERIFY(f.manager->m_callData.bIsConnected);
-    QCOMPARE(f.manager->m_callData.connectTime.timeSpec(), Qt::UTC);
-    QVERIFY(f.manager->m_callData.connectTime >= before && f.manager->m_callData.connectTime <= after);
-}
-
-void tst_Notifications::logLineOfTheCallProcessChangesNothing()
-{
-    EngineFixture f;
-    f.createConference();
-    const QString before = f.callText();
-    const QtMessages messages;
-    f.notify(999, "media up");
-    QCOMPARE(messages.debugLines, QStringList{"voipsdk:media up"});
-    QCOMPARE(f.callText(), before);
-    QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
-    QCOMPARE(f.takeJournal(), QStringList());
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_Notifications, Widgets)

@@ -22,256 +22,236 @@ class tst_SdkChannel : public QObject
     Q_OBJECT
 
 private slots:
-    void connectsToARunningCallProcess();
-    void failedConnectArmsOneSecondOnce();
-    void lossesWaitLongerEachTimeAndThenFromOneSecondAgain_data();
-    void lossesWaitLongerEachTimeAndThenFromOneSecondAgain();
-    void furtherLossStartsARunningTimerWithTheNextDelay();
-    void connectAfterSevenFailuresMakesTheNextLossWaitOneSecond();
-    void timerOfTheBackOffReconnects();
-    void retriesWithoutASocketToTalkTo();
-    void reconnectStopsTheTimerAndUsesTheSameSocket();
-    void connectingAgainKeepsTheConnectionAndRegistersAgain();
-    void socketErrorChangesNoState();
+    void connectsToARunningCallProcess()
+    {
+        EngineFixture f;
+        QVERIFY(f.manager->m_bSocketConnected);
+        QVERIFY(f.manager->m_pVoipSocket);
+        QCOMPARE(f.manager->m_pVoipSocket->parent(), f.manager.get());
+        QVERIFY(!f.manager->m_reconnectTimer.isActive());
+        QCOMPARE(f.takeLines(), QStringList());
+    }
 
-    void exitHangsUpSaysQuitAndArmsTheTimer();
-    void exitWithoutACallSaysQuitOnly();
-    void exitWithoutAConnectionIsQuiet();
-    void exitWithTheFarSideJustGoneIsQuiet();
-    void secondExitDoesNothing();
-    void exitLetsGoOfTheSocket();
-    void endOfTheChannelClearsTheFlagWithoutASocketToo();
-    void destructionSaysQuit();
-};
-
-void tst_SdkChannel::connectsToARunningCallProcess()
-{
-    EngineFixture f;
-    QVERIFY(f.manager->m_bSocketConnected);
-    QVERIFY(f.manager->m_pVoipSocket);
-    QCOMPARE(f.manager->m_pVoipSocket->parent(), f.manager.get());
-    QVERIFY(!f.manager->m_reconnectTimer.isActive());
-    QCOMPARE(f.takeLines(), QStringList());
-}
-
-void tst_SdkChannel::failedConnectArmsOneSecondOnce()
-{
-    EngineFixture f(EngineFixture::NoCallProcess);
-    QVERIFY(!f.manager->m_bSocketConnected);
-    QVERIFY(f.manager->m_pVoipSocket);
-    QVERIFY(f.manager->m_reconnectTimer.isActive());
-    QCOMPARE(f.manager->m_reconnectTimer.interval(), 1000);
-    QCOMPARE(f.manager->m_nReconnectCount, Q_INT64_C(1));
-}
-
-void tst_SdkChannel::lossesWaitLongerEachTimeAndThenFromOneSecondAgain_data()
-{
-    QTest::addColumn<bool>("bySlot");
-
-    QTest::newRow("the socket's loss") << true;
-    QTest::newRow("the same rule called by its name") << false;
-}
-
-void tst_SdkChannel::lossesWaitLongerEachTimeAndThenFromOneSecondAgain()
-{
-    QFETCH(bool, bySlot);
-    EngineFixture f;
-    QList<int> intervals;
-    for (int loss = 0; loss < 24; ++loss) {
-        if (bySlot)
-            f.manager->slot_VoipSDKDisConnected();
-        else
-            f.manager->reconnectVoipSDK();
+    void failedConnectArmsOneSecondOnce()
+    {
+        EngineFixture f(EngineFixture::NoCallProcess);
+        QVERIFY(!f.manager->m_bSocketConnected);
+        QVERIFY(f.manager->m_pVoipSocket);
         QVERIFY(f.manager->m_reconnectTimer.isActive());
-        intervals.append(f.manager->m_reconnectTimer.interval());
-        f.manager->m_reconnectTimer.stop();
+        QCOMPARE(f.manager->m_reconnectTimer.interval(), 1000);
+        QCOMPARE(f.manager->m_nReconnectCount, Q_INT64_C(1));
     }
-    QCOMPARE(intervals, kBackOff + kBackOff + kBackOff);
-}
 
-void tst_SdkChannel::furtherLossStartsARunningTimerWithTheNextDelay()
-{
-    EngineFixture f(EngineFixture::NoCallProcess);
-    QVERIFY(f.manager->m_reconnectTimer.isActive());
-    f.manager->slot_VoipSDKDisConnected();
-    QVERIFY(f.manager->m_reconnectTimer.isActive());
-    QCOMPARE(f.manager->m_reconnectTimer.interval(), 4000);
-}
+    void lossesWaitLongerEachTimeAndThenFromOneSecondAgain_data()
+    {
+        QTest::addColumn<bool>("bySlot");
 
-void tst_SdkChannel::connectAfterSevenFailuresMakesTheNextLossWaitOneSecond()
-{
-    EngineFixture f(EngineFixture::NoCallProcess);
-    for (int failure = 2; failure <= 7; ++failure) {
+        QTest::newRow("the socket's loss") << true;
+        QTest::newRow("the same rule called by its name") << false;
+    }
+
+    void lossesWaitLongerEachTimeAndThenFromOneSecondAgain()
+    {
+        QFETCH(bool, bySlot);
+        EngineFixture f;
+        QList<int> intervals;
+        for (int loss = 0; loss < 24; ++loss) {
+            if (bySlot)
+                f.manager->slot_VoipSDKDisConnected();
+            else
+                f.manager->reconnectVoipSDK();
+            QVERIFY(f.manager->m_reconnectTimer.isActive());
+            intervals.append(f.manager->m_reconnectTimer.interval());
+            f.manager->m_reconnectTimer.stop();
+        }
+        QCOMPARE(intervals, kBackOff + kBackOff + kBackOff);
+    }
+
+    void furtherLossStartsARunningTimerWithTheNextDelay()
+    {
+        EngineFixture f(EngineFixture::NoCallProcess);
+        QVERIFY(f.manager->m_reconnectTimer.isActive());
+        f.manager->slot_VoipSDKDisConnected();
+        QVERIFY(f.manager->m_reconnectTimer.isActive());
+        QCOMPARE(f.manager->m_reconnectTimer.interval(), 4000);
+    }
+
+    void connectAfterSevenFailuresMakesTheNextLossWaitOneSecond()
+    {
+        EngineFixture f(EngineFixture::NoCallProcess);
+        for (int failure = 2; failure <= 7; ++failure) {
+            f.manager->slot_ReConnectVoipSDK();
+            QCOMPARE(f.manager->m_reconnectTimer.interval(), kBackOff.at(failure - 1));
+        }
+        f.process.open();
         f.manager->slot_ReConnectVoipSDK();
-        QCOMPARE(f.manager->m_reconnectTimer.interval(), kBackOff.at(failure - 1));
+        QVERIFY(f.manager->m_bSocketConnected);
+        QCOMPARE(f.manager->m_nReconnectCount, Q_INT64_C(0));
+        QVERIFY(!f.manager->m_reconnectTimer.isActive());
+        f.process.close();
+        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_reconnectTimer.isActive(), kPatienceMs);
+        QCOMPARE(f.manager->m_reconnectTimer.interval(), 1000);
     }
-    f.process.open();
-    f.manager->slot_ReConnectVoipSDK();
-    QVERIFY(f.manager->m_bSocketConnected);
-    QCOMPARE(f.manager->m_nReconnectCount, Q_INT64_C(0));
-    QVERIFY(!f.manager->m_reconnectTimer.isActive());
-    f.process.close();
-    QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_reconnectTimer.isActive(), kPatienceMs);
-    QCOMPARE(f.manager->m_reconnectTimer.interval(), 1000);
-}
 
-void tst_SdkChannel::timerOfTheBackOffReconnects()
-{
-    EngineFixture f(EngineFixture::NoCallProcess);
-    f.process.open();
-    // The timer itself, not its slot.
-    f.manager->m_reconnectTimer.start(0);
-    QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_bSocketConnected, kPatienceMs);
-    QVERIFY(!f.manager->m_reconnectTimer.isActive());
-}
+    void timerOfTheBackOffReconnects()
+    {
+        EngineFixture f(EngineFixture::NoCallProcess);
+        f.process.open();
+        // The timer itself, not its slot.
+        f.manager->m_reconnectTimer.start(0);
+        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_bSocketConnected, kPatienceMs);
+        QVERIFY(!f.manager->m_reconnectTimer.isActive());
+    }
 
-void tst_SdkChannel::retriesWithoutASocketToTalkTo()
-{
-    EngineFixture f;
-    f.manager->disconnectVoipSDKSocket();
-    QVERIFY(!f.manager->m_pVoipSocket);
-    f.process.takeLastLines();
-    f.manager->slot_ReConnectVoipSDK();
-    QVERIFY(f.manager->m_pVoipSocket);
-    QVERIFY(f.manager->m_bSocketConnected);
-}
+    void retriesWithoutASocketToTalkTo()
+    {
+        EngineFixture f;
+        f.manager->disconnectVoipSDKSocket();
+        QVERIFY(!f.manager->m_pVoipSocket);
+        f.process.takeLastLines();
+        f.manager->slot_ReConnectVoipSDK();
+        QVERIFY(f.manager->m_pVoipSocket);
+        QVERIFY(f.manager->m_bSocketConnected);
+    }
 
-void tst_SdkChannel::reconnectStopsTheTimerAndUsesTheSameSocket()
-{
-    EngineFixture f(EngineFixture::NoCallProcess);
-    QLocalSocket *socket = f.manager->m_pVoipSocket;
-    f.process.open();
-    f.manager->slot_ReConnectVoipSDK();
-    QCOMPARE(f.manager->m_pVoipSocket, socket);
-    QVERIFY(!f.manager->m_reconnectTimer.isActive());
-    // One connection of the signal, not one for each attempt.
-    const QtMessages messages;
-    f.process.send(FakeCallProcess::line(999, "once"));
-    QTRY_COMPARE_WITH_TIMEOUT(deliveredPayloads(messages), QStringList{"once"}, kPatienceMs);
-}
+    void reconnectStopsTheTimerAndUsesTheSameSocket()
+    {
+        EngineFixture f(EngineFixture::NoCallProcess);
+        QLocalSocket *socket = f.manager->m_pVoipSocket;
+        f.process.open();
+        f.manager->slot_ReConnectVoipSDK();
+        QCOMPARE(f.manager->m_pVoipSocket, socket);
+        QVERIFY(!f.manager->m_reconnectTimer.isActive());
+        // One connection of the signal, not one for each attempt.
+        const QtMessages messages;
+        f.process.send(FakeCallProcess::line(999, "once"));
+        QTRY_COMPARE_WITH_TIMEOUT(deliveredPayloads(messages), QStringList{"once"}, kPatienceMs);
+    }
 
-void tst_SdkChannel::connectingAgainKeepsTheConnectionAndRegistersAgain()
-{
-    EngineFixture f;
-    f.manager->regeditVoipUser("me", "Nick", "ticket");
-    f.takeLines();
-    QLocalSocket *socket = f.manager->m_pVoipSocket;
-    const QSignalSpy ends(socket, &QLocalSocket::disconnected);
-    const QtMessages messages;
-    f.manager->creatVoipSDKSocket();
-    QCOMPARE(messages.debugLines, QStringList{QString::number(QLocalSocket::OperationError)});
-    QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"me\" \"Nick\" \"ticket\" false"});
-    QVERIFY(f.manager->m_bSocketConnected);
-    QCOMPARE(f.manager->m_pVoipSocket, socket);
-    QCOMPARE(socket->state(), QLocalSocket::ConnectedState);
-    QCOMPARE(ends.count(), 0);
-    QVERIFY(!f.manager->m_reconnectTimer.isActive());
-}
+    void connectingAgainKeepsTheConnectionAndRegistersAgain()
+    {
+        EngineFixture f;
+        f.manager->regeditVoipUser("me", "Nick", "ticket");
+        f.takeLines();
+        QLocalSocket *socket = f.manager->m_pVoipSocket;
+        const QSignalSpy ends(socket, &QLocalSocket::disconnected);
+        const QtMessages messages;
+        f.manager->creatVoipSDKSocket();
+        QCOMPARE(messages.debugLines, QStringList{QString::number(QLocalSocket::OperationError)});
+        QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"me\" \"Nick\" \"ticket\" false"});
+        QVERIFY(f.manager->m_bSocketConnected);
+        QCOMPARE(f.manager->m_pVoipSocket, socket);
+        QCOMPARE(socket->state(), QLocalSocket::ConnectedState);
+        QCOMPARE(ends.count(), 0);
+        QVERIFY(!f.manager->m_reconnectTimer.isActive());
+    }
 
-void tst_SdkChannel::socketErrorChangesNoState()
-{
-    EngineFixture f;
-    const QtMessages messages;
-    f.manager->slot_DisplayError(QLocalSocket::ServerNotFoundError);
-    QVERIFY(f.manager->m_bSocketConnected);
-    QVERIFY(!f.manager->m_reconnectTimer.isActive());
-    QCOMPARE(messages.debugLines, QStringList{"2"});
-}
+    void socketErrorChangesNoState()
+    {
+        EngineFixture f;
+        const QtMessages messages;
+        f.manager->slot_DisplayError(QLocalSocket::ServerNotFoundError);
+        QVERIFY(f.manager->m_bSocketConnected);
+        QVERIFY(!f.manager->m_reconnectTimer.isActive());
+        QCOMPARE(messages.debugLines, QStringList{"2"});
+    }
 
-void tst_SdkChannel::exitHangsUpSaysQuitAndArmsTheTimer()
-{
-    EngineFixture f;
-    f.manager->callSingleUser("anna", false);
-    f.takeJournal();
-    const QtMessages messages;
-    f.manager->exitVoip();
-    QCOMPARE(f.process.takeLastLines(), QStringList({"SetMicEnable true", "SetSpeakerEnble true", "quit"}));
-    QCOMPARE(f.takeJournal(), QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 21 true false"}));
-    QVERIFY(!f.manager->m_pVoipSocket);
-    QVERIFY(!f.manager->m_bSocketConnected);
-    QVERIFY(!f.manager->m_pVoipProcess);
-    // The socket still reports its end.
-    QVERIFY(f.manager->m_reconnectTimer.isActive());
-    QCOMPARE(f.manager->m_reconnectTimer.interval(), 1000);
-    QCOMPARE(messages.warnings, QStringList());
-}
+    void exitHangsUpSaysQuitAndArmsTheTimer()
+    {
+        EngineFixture f;
+        f.manager->callSingleUser("anna", false);
+        f.takeJournal();
+        const QtMessages messages;
+        f.manager->exitVoip();
+        QCOMPARE(f.process.takeLastLines(), QStringList({"SetMicEnable true", "SetSpeakerEnble true", "quit"}));
+        QCOMPARE(f.takeJournal(), QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 21 true false"}));
+        QVERIFY(!f.manager->m_pVoipSocket);
+        QVERIFY(!f.manager->m_bSocketConnected);
+        QVERIFY(!f.manager->m_pVoipProcess);
+        // The socket still reports its end.
+        QVERIFY(f.manager->m_reconnectTimer.isActive());
+        QCOMPARE(f.manager->m_reconnectTimer.interval(), 1000);
+        QCOMPARE(messages.warnings, QStringList());
+    }
 
-void tst_SdkChannel::exitWithoutACallSaysQuitOnly()
-{
-    EngineFixture f;
-    f.manager->exitVoip();
-    QCOMPARE(f.process.takeLastLines(), QStringList{"quit"});
-    QCOMPARE(f.host.commands(), QList<int>());
-}
+    void exitWithoutACallSaysQuitOnly()
+    {
+        EngineFixture f;
+        f.manager->exitVoip();
+        QCOMPARE(f.process.takeLastLines(), QStringList{"quit"});
+        QCOMPARE(f.host.commands(), QList<int>());
+    }
 
-void tst_SdkChannel::exitWithoutAConnectionIsQuiet()
-{
-    EngineFixture f(EngineFixture::NoCallProcess);
-    f.manager->m_reconnectTimer.start(49000);
-    const QtMessages messages;
-    f.manager->exitVoip();
-    QCOMPARE(messages.warnings, QStringList());
-    QVERIFY(!f.manager->m_pVoipSocket);
-    QVERIFY(f.manager->m_reconnectTimer.isActive());
-    QCOMPARE(f.manager->m_reconnectTimer.interval(), 49000);
-}
+    void exitWithoutAConnectionIsQuiet()
+    {
+        EngineFixture f(EngineFixture::NoCallProcess);
+        f.manager->m_reconnectTimer.start(49000);
+        const QtMessages messages;
+        f.manager->exitVoip();
+        QCOMPARE(messages.warnings, QStringList());
+        QVERIFY(!f.manager->m_pVoipSocket);
+        QVERIFY(f.manager->m_reconnectTimer.isActive());
+        QCOMPARE(f.manager->m_reconnectTimer.interval(), 49000);
+    }
 
-void tst_SdkChannel::exitWithTheFarSideJustGoneIsQuiet()
-{
-    EngineFixture f;
-    f.process.close();
-    QVERIFY(f.manager->m_bSocketConnected);
-    const QtMessages messages;
-    f.manager->exitVoip();
-    QCOMPARE(messages.warnings, QStringList());
-    QVERIFY(!f.manager->m_bSocketConnected);
-    QVERIFY(!f.manager->m_pVoipSocket);
-}
+    void exitWithTheFarSideJustGoneIsQuiet()
+    {
+        EngineFixture f;
+        f.process.close();
+        QVERIFY(f.manager->m_bSocketConnected);
+        const QtMessages messages;
+        f.manager->exitVoip();
+        QCOMPARE(messages.warnings, QStringList());
+        QVERIFY(!f.manager->m_bSocketConnected);
+        QVERIFY(!f.manager->m_pVoipSocket);
+    }
 
-void tst_SdkChannel::secondExitDoesNothing()
-{
-    EngineFixture f;
-    f.manager->exitVoip();
-    QCOMPARE(f.process.takeLastLines(), QStringList{"quit"});
-    f.manager->m_reconnectTimer.stop();
-    const QtMessages messages;
-    f.manager->exitVoip();
-    QCOMPARE(messages.warnings, QStringList());
-    QVERIFY(!f.manager->m_reconnectTimer.isActive());
-}
+    void secondExitDoesNothing()
+    {
+        EngineFixture f;
+        f.manager->exitVoip();
+        QCOMPARE(f.process.takeLastLines(), QStringList{"quit"});
+        f.manager->m_reconnectTimer.stop();
+        const QtMessages messages;
+        f.manager->exitVoip();
+        QCOMPARE(messages.warnings, QStringList());
+        QVERIFY(!f.manager->m_reconnectTimer.isActive());
+    }
 
-void tst_SdkChannel::exitLetsGoOfTheSocket()
-{
-    EngineFixture f;
-    const QPointer<QLocalSocket> socket = f.manager->m_pVoipSocket;
-    f.manager->exitVoip();
-    f.manager->m_reconnectTimer.stop();
-    QVERIFY(socket);
-    const QtMessages messages;
-    // What it still reports until it is gone reaches nobody.
-    emit socket->disconnected();
-    QMetaObject::invokeMethod(socket, "error", Q_ARG(QLocalSocket::LocalSocketError, QLocalSocket::PeerClosedError));
-    QVERIFY(!f.manager->m_reconnectTimer.isActive());
-    QCOMPARE(messages.debugLines, QStringList());
-    QCoreApplication::sendPostedEvents(socket, QEvent::DeferredDelete);
-    QVERIFY(!socket);
-}
+    void exitLetsGoOfTheSocket()
+    {
+        EngineFixture f;
+        const QPointer<QLocalSocket> socket = f.manager->m_pVoipSocket;
+        f.manager->exitVoip();
+        f.manager->m_reconnectTimer.stop();
+        QVERIFY(socket);
+        const QtMessages messages;
+        // What it still reports until it is gone reaches nobody.
+        emit socket->disconnected();
+        QMetaObject::invokeMethod(socket, "error",
+                                  Q_ARG(QLocalSocket::LocalSocketError, QLocalSocket::PeerClosedError));
+        QVERIFY(!f.manager->m_reconnectTimer.isActive());
+        QCOMPARE(messages.debugLines, QStringList());
+        QCoreApplication::sendPostedEvents(socket, QEvent::DeferredDelete);
+        QVERIFY(!socket);
+    }
 
-void tst_SdkChannel::endOfTheChannelClearsTheFlagWithoutASocketToo()
-{
-    EngineFixture f;
-    f.manager->disconnectVoipSDKSocket();
-    f.manager->m_bSocketConnected = true;
-    f.manager->disconnectVoipSDKSocket();
-    QVERIFY(!f.manager->m_bSocketConnected);
-}
+    void endOfTheChannelClearsTheFlagWithoutASocketToo()
+    {
+        EngineFixture f;
+        f.manager->disconnectVoipSDKSocket();
+        f.manager->m_bSocketConnected = true;
+        f.manager->disconnectVoipSDKSocket();
+        QVERIFY(!f.manager->m_bSocketConnected);
+    }
 
-void tst_SdkChannel::destructionSaysQuit()
-{
-    EngineFixture f;
-    f.manager.reset();
-    QCOMPARE(f.process.takeLastLines(), QStringList{"quit"});
-}
+    void destructionSaysQuit()
+    {
+        EngineFixture f;
+        f.manager.reset();
+        QCOMPARE(f.process.takeLastLines(), QStringList{"quit"});
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_SdkChannel, Widgets)

@@ -13,79 +13,73 @@ class tst_SdkLineCommands : public QObject
     Q_OBJECT
 
 private slots:
-    void thereAreSeventeenCommandsWithTheseNames();
-    void lineIsCompactSortedAndEndsInALineFeed_data();
-    void lineIsCompactSortedAndEndsInALineFeed();
-    void textOutsideAsciiComesBackAsItWas_data();
-    void textOutsideAsciiComesBackAsItWas();
-    void emptyListIsNullAndAFilledOneAnArray();
+    void thereAreSeventeenCommandsWithTheseNames()
+    {
+        const QStringList names{"RegeditUser",     "UnReg",           "CallUser",         "RequestConference",
+                                "Add2Conference",  "AcceptCall",      "AcceptConf",       "RejectCall",
+                                "RejectConf",      "HangUpCall",      "HangupConf",       "ControlConf",
+                                "SetMicEnable",    "SetSpeakerEnble", "SetCamreraEnable", "SetMicVolume",
+                                "SetSpeakerVolume"};
+        QStringList written;
+        for (const Wire::CommandRow &row : Wire::kCommands)
+            written.append(row.name);
+        QCOMPARE(written, names);
+    }
+
+    void lineIsCompactSortedAndEndsInALineFeed_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("expected");
+
+        using Wire::Command;
+        QTest::newRow("no parameter") << SdkLine::of<Command::AcceptCall>() << "{\"messagetype\":\"AcceptCall\"}\n";
+        QTest::newRow("text and bool") << SdkLine::of<Command::CallUser>(QString("anna"), true)
+                                       << "{\"messagetype\":\"CallUser\",\"param1\":\"anna\",\"param2\":true}\n";
+        QTest::newRow("number") << SdkLine::of<Command::SetMicVolume>(-3LL)
+                                << "{\"messagetype\":\"SetMicVolume\",\"param1\":-3}\n";
+        QTest::newRow("six parameters")
+            << SdkLine::of<Command::Add2Conference>(QStringList{"b", "a"}, QString("me"), QString("me"), false,
+                                                    QString(), QStringList())
+            << "{\"messagetype\":\"Add2Conference\",\"param1\":[\"b\",\"a\"],\"param2\":\"me\",\"param3\":\"me\","
+               "\"param4\":false,\"param5\":\"\",\"param6\":null}\n";
+        QTest::newRow("line feed inside a text is escaped")
+            << SdkLine::of<Command::UnReg>(QString("a\nb")) << "{\"messagetype\":\"UnReg\",\"param1\":\"a\\nb\"}\n";
+    }
+
+    void lineIsCompactSortedAndEndsInALineFeed()
+    {
+        QFETCH(QString, line);
+        QFETCH(QString, expected);
+        QCOMPARE(line, expected);
+    }
+
+    void textOutsideAsciiComesBackAsItWas_data()
+    {
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("Chinese") << QStringLiteral("呼叫中");
+        QTest::newRow("beyond the basic plane") << QString::fromUtf8("\xF0\x9F\x93\x9E!");
+        QTest::newRow("quotes and backslash") << "say \"a\\b\"";
+        QTest::newRow("empty") << "";
+    }
+
+    void textOutsideAsciiComesBackAsItWas()
+    {
+        QFETCH(QString, text);
+        const QString line = SdkLine::of<Wire::Command::UnReg>(text);
+        const QJsonObject object = QJsonDocument::fromJson(line.toUtf8()).object();
+        QCOMPARE(object.value("param1").toString(), text);
+    }
+
+    void emptyListIsNullAndAFilledOneAnArray()
+    {
+        QVERIFY(JsonText::arrayOrNull({}).isNull());
+        const Json::Value one = JsonText::arrayOrNull({"anna"});
+        QVERIFY(one.isArray());
+        QCOMPARE(one.size(), 1U);
+        QCOMPARE(QString::fromStdString(one[0].asString()), QString("anna"));
+    }
 };
-
-void tst_SdkLineCommands::thereAreSeventeenCommandsWithTheseNames()
-{
-    const QStringList names{"RegeditUser",  "UnReg",           "CallUser",     "RequestConference", "Add2Conference",
-                            "AcceptCall",   "AcceptConf",      "RejectCall",   "RejectConf",        "HangUpCall",
-                            "HangupConf",   "ControlConf",     "SetMicEnable", "SetSpeakerEnble",   "SetCamreraEnable",
-                            "SetMicVolume", "SetSpeakerVolume"};
-    QStringList written;
-    for (const Wire::CommandRow &row : Wire::kCommands)
-        written.append(row.name);
-    QCOMPARE(written, names);
-}
-
-void tst_SdkLineCommands::lineIsCompactSortedAndEndsInALineFeed_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("expected");
-
-    using Wire::Command;
-    QTest::newRow("no parameter") << SdkLine::of<Command::AcceptCall>() << "{\"messagetype\":\"AcceptCall\"}\n";
-    QTest::newRow("text and bool") << SdkLine::of<Command::CallUser>(QString("anna"), true)
-                                   << "{\"messagetype\":\"CallUser\",\"param1\":\"anna\",\"param2\":true}\n";
-    QTest::newRow("number") << SdkLine::of<Command::SetMicVolume>(-3LL)
-                            << "{\"messagetype\":\"SetMicVolume\",\"param1\":-3}\n";
-    QTest::newRow("six parameters")
-        << SdkLine::of<Command::Add2Conference>(QStringList{"b", "a"}, QString("me"), QString("me"), false, QString(),
-                                                QStringList())
-        << "{\"messagetype\":\"Add2Conference\",\"param1\":[\"b\",\"a\"],\"param2\":\"me\",\"param3\":\"me\","
-           "\"param4\":false,\"param5\":\"\",\"param6\":null}\n";
-    QTest::newRow("line feed inside a text is escaped")
-        << SdkLine::of<Command::UnReg>(QString("a\nb")) << "{\"messagetype\":\"UnReg\",\"param1\":\"a\\nb\"}\n";
-}
-
-void tst_SdkLineCommands::lineIsCompactSortedAndEndsInALineFeed()
-{
-    QFETCH(QString, line);
-    QFETCH(QString, expected);
-    QCOMPARE(line, expected);
-}
-
-void tst_SdkLineCommands::textOutsideAsciiComesBackAsItWas_data()
-{
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("Chinese") << QStringLiteral("呼叫中");
-    QTest::newRow("beyond the basic plane") << QString::fromUtf8("\xF0\x9F\x93\x9E!");
-    QTest::newRow("quotes and backslash") << "say \"a\\b\"";
-    QTest::newRow("empty") << "";
-}
-
-void tst_SdkLineCommands::textOutsideAsciiComesBackAsItWas()
-{
-    QFETCH(QString, text);
-    const QString line = SdkLine::of<Wire::Command::UnReg>(text);
-    const QJsonObject object = QJsonDocument::fromJson(line.toUtf8()).object();
-    QCOMPARE(object.value("param1").toString(), text);
-}
-
-void tst_SdkLineCommands::emptyListIsNullAndAFilledOneAnArray()
-{
-    QVERIFY(JsonText::arrayOrNull({}).isNull());
-    const Json::Value one = JsonText::arrayOrNull({"anna"});
-    QVERIFY(one.isArray());
-    QCOMPARE(one.size(), 1U);
-    QCOMPARE(QString::fromStdString(one[0].asString()), QString("anna"));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_SdkLineCommands, Guiless)

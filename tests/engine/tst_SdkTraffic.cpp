@@ -23,242 +23,225 @@ class tst_SdkTraffic : public QObject
     Q_OBJECT
 
 private slots:
-    void userRegisteredWhileDownIsSentOnConnect();
-    void automaticRegistrationNeedsIdAndValue_data();
-    void automaticRegistrationNeedsIdAndValue();
-    void lostConnectionIsRegisteredAgain();
-    void unregisteringKeepsTheUserForTheNextConnect();
-    void nothingElseIsReplayedAfterAReconnect();
+    void userRegisteredWhileDownIsSentOnConnect()
+    {
+        EngineFixture f(EngineFixture::NoCallProcess);
+        f.manager->regeditVoipUser("me", QStringLiteral("我"), "ticket");
+        QCOMPARE(f.manager->m_strUserId, QString("me"));
+        QCOMPARE(f.manager->m_strNickName, QStringLiteral("我"));
+        QCOMPARE(f.manager->m_strRegValue, QString("ticket"));
+        f.process.open();
+        f.manager->slot_ReConnectVoipSDK();
+        QCOMPARE(f.takeLines(), QStringList{QStringLiteral("RegeditUser \"me\" \"我\" \"ticket\" false")});
+    }
 
-    void linesOfOneReadAreDelivered_data();
-    void linesOfOneReadAreDelivered();
-    void lineSplitOverTwoReadsIsLost();
-    void nulByteHidesTheRestOfTheReadOnly();
-    void linesWithoutEffect_data();
-    void linesWithoutEffect();
-    void bytesThatComeDuringAnEventLoopInAHandlerAreHandled();
-    void readIsWrittenToTheDebugLog();
-    void readOfNothingIsNotWrittenToTheDebugLog();
+    void automaticRegistrationNeedsIdAndValue_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QString>("nick");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QStringList>("direct");
+        QTest::addColumn<QStringList>("automatic");
 
-    void writeToALostSocketIsLost();
+        const QString withoutNick("RegeditUser \"me\" \"\" \"ticket\" false");
+        QTest::newRow("all but the nick name") << "me"
+                                               << ""
+                                               << "ticket" << QStringList{withoutNick} << QStringList{withoutNick};
+        QTest::newRow("no value") << "me"
+                                  << "Nick"
+                                  << "" << QStringList{"RegeditUser \"me\" \"Nick\" \"\" false"} << QStringList();
+        QTest::newRow("no id") << ""
+                               << "Nick"
+                               << "ticket" << QStringList{"RegeditUser \"\" \"Nick\" \"ticket\" false"}
+                               << QStringList();
+    }
+
+    void automaticRegistrationNeedsIdAndValue()
+    {
+        QFETCH(QString, id);
+        QFETCH(QString, nick);
+        QFETCH(QString, value);
+        EngineFixture f;
+        f.manager->regeditVoipUser(id, nick, value);
+        QTEST(f.takeLines(), "direct");
+        f.manager->slot_VoipSDKConnected();
+        QTEST(f.takeLines(), "automatic");
+    }
+
+    void lostConnectionIsRegisteredAgain()
+    {
+        EngineFixture f;
+        f.manager->regeditVoipUser("me", "Nick", "ticket");
+        const QStringList registration{"RegeditUser \"me\" \"Nick\" \"ticket\" false"};
+        QCOMPARE(f.takeLines(), registration);
+        f.process.dropClient();
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
+        f.manager->slot_ReConnectVoipSDK();
+        QVERIFY(f.manager->m_bSocketConnected);
+        QCOMPARE(f.takeLines(), registration);
+    }
+
+    void unregisteringKeepsTheUserForTheNextConnect()
+    {
+        EngineFixture f;
+        f.manager->regeditVoipUser("me", "Nick", "ticket");
+        f.manager->unRegeditCurrentVoipUser();
+        const QString registration("RegeditUser \"me\" \"Nick\" \"ticket\" false");
+        QCOMPARE(f.takeLines(), QStringList({registration, "UnReg \"me\""}));
+        QCOMPARE(f.manager->m_strUserId, QString("me"));
+        f.process.dropClient();
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
+        f.manager->slot_ReConnectVoipSDK();
+        QCOMPARE(f.takeLines(), QStringList{registration});
+    }
+
+    void nothingElseIsReplayedAfterAReconnect()
+    {
+        EngineFixture f;
+        f.manager->regeditVoipUser("me", "Nick", "ticket");
+        f.manager->callSingleUser("anna", false);
+        f.takeLines();
+        f.process.dropClient();
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
+        f.manager->slot_SetMicEnable(false);
+        f.manager->slot_ReConnectVoipSDK();
+        QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"me\" \"Nick\" \"ticket\" false"});
+        QCOMPARE(f.manager->m_callData.peerId, QString("anna"));
+    }
+
+    void linesOfOneReadAreDelivered_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QStringList>("payloads");
+
+        const QByteArray a = line(999, "a");
+        const QByteArray b = line(999, "b");
+        QTest::newRow("one") << a << QStringList{"a"};
+        QTest::newRow("two in order") << b + a << QStringList{"b", "a"};
+        QTest::newRow("two equal ones") << a + a << QStringList{"a"};
+        QTest::newRow("two equal ones apart") << a + b + a << QStringList{"a", "b"};
+        QTest::newRow("one and a half") << a + b.left(12) << QStringList{"a"};
+        QTest::newRow("malformed between") << a + "{\n" + b << QStringList{"a", "b"};
+        QTest::newRow("lines that throw in the parser between")
+            << a + "5\n\"x\"\n[1]\n{\"resultCode\":\"999\"}\n" + QByteArray(2000, '[') + "\n" + b
+            << QStringList{"a", "b"};
+        QTest::newRow("empty line between") << a + "\n" + b << QStringList{"a"};
+        QTest::newRow("carriage returns") << QByteArray(a).replace("\n", "\r\n") + b << QStringList{"a", "b"};
+        QTest::newRow("outside ASCII") << line(999, QStringLiteral("呼叫")) << QStringList{QStringLiteral("呼叫")};
+    }
+
+    void linesOfOneReadAreDelivered()
+    {
+        QFETCH(QByteArray, bytes);
+        EngineFixture f;
+        const QtMessages messages;
+        f.process.send(bytes);
+        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, kPatienceMs);
+        QTEST(deliveredPayloads(messages), "payloads");
+        QCOMPARE(messages.warnings, QStringList());
+    }
+
+    void lineSplitOverTwoReadsIsLost()
+    {
+        EngineFixture f;
+        const QtMessages messages;
+        const QByteArray split = line(999, "split in the middle");
+        f.process.send(split.left(20));
+        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, kPatienceMs);
+        f.process.send(split.mid(20) + line(999, "next"));
+        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, kPatienceMs);
+        QCOMPARE(deliveredPayloads(messages), QStringList{"next"});
+    }
+
+    void nulByteHidesTheRestOfTheReadOnly()
+    {
+        EngineFixture f;
+        const QtMessages messages;
+        // The line feed behind the byte would give the next line a clean start.
+        f.process.send(line(999, "before") + '\0' + '\n' + line(999, "behind"));
+        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, kPatienceMs);
+        f.process.send(line(999, "later"));
+        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, kPatienceMs);
+        QCOMPARE(deliveredPayloads(messages), QStringList({"before", "later"}));
+    }
+
+    void linesWithoutEffect_data()
+    {
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("code -1") << R"({"resultCode":-1,"content":"bert"})";
+        QTest::newRow("least code") << R"({"resultCode":-2147483648,"content":"bert"})";
+        QTest::newRow("code that no one knows") << R"({"resultCode":998,"content":"bert"})";
+        QTest::newRow("no JSON") << "hello";
+        QTest::newRow("half a document") << "{\"resultCode\":0,\"content\":\"be";
+        QTest::newRow("number") << "5";
+        QTest::newRow("code as text") << R"({"resultCode":"0","content":"bert"})";
+        QTest::newRow("object as payload") << R"({"resultCode":0,"content":{"id":"bert"}})";
+    }
+
+    void linesWithoutEffect()
+    {
+        QFETCH(QString, text);
+        EngineFixture f;
+        f.manager->recevieVoipMessage(text + "\n");
+        QCOMPARE(f.takeJournal(), QStringList());
+        QCOMPARE(f.state(), QString("idle"));
+        f.manager->recevieVoipMessage("{}");
+        QCOMPARE(f.takeJournal(), QStringList{"4639  false false"});
+    }
+
+    void bytesThatComeDuringAnEventLoopInAHandlerAreHandled()
+    {
+        EngineFixture f;
+        f.whileHandled = [&f](BaseEvent &event) {
+            if (event.msgId != MSG_RECEVIE_VOIP_CALL)
+                return;
+            f.process.send(line(18));
+            QEventLoop loop;
+            while (f.manager->m_pVoipSocket->bytesAvailable() == 0)
+                loop.processEvents(QEventLoop::WaitForMoreEvents);
+        };
+        f.process.send(line(0, "bert"));
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_callData.peerId.isEmpty(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_callData.bIsConnected, kPatienceMs);
+        QVERIFY(!f.manager->m_recevieTimer.isActive());
+    }
+
+    void readIsWrittenToTheDebugLog()
+    {
+        EngineFixture f;
+        const QtMessages messages;
+        const QByteArray bytes = line(998, QStringLiteral("呼叫"));
+        f.process.send(bytes);
+        QTRY_COMPARE_WITH_TIMEOUT(messages.debugLines,
+                                  QStringList{QStringLiteral("Voip返回数据") + QString::fromUtf8(bytes)}, kPatienceMs);
+    }
+
+    void readOfNothingIsNotWrittenToTheDebugLog()
+    {
+        EngineFixture f;
+        const QtMessages messages;
+        f.manager->slot_VoipSDKDataRecevie();
+        f.manager->disconnectVoipSDKSocket();
+        f.manager->slot_VoipSDKDataRecevie();
+        QCOMPARE(messages.debugLines, QStringList());
+    }
+
+    void writeToALostSocketIsLost()
+    {
+        EngineFixture f;
+        f.process.dropClient();
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
+        const QtMessages messages;
+        // Accepting is the one command that is sent without a look at the channel.
+        f.manager->acceptVoipCall();
+        f.manager->sendVoipMessage("lost\n");
+        QCOMPARE(messages.warnings.filter("QIODevice"), QStringList());
+        f.manager->slot_ReConnectVoipSDK();
+        QVERIFY(f.manager->m_bSocketConnected);
+        QCOMPARE(f.takeLines(), QStringList());
+    }
 };
-
-void tst_SdkTraffic::userRegisteredWhileDownIsSentOnConnect()
-{
-    EngineFixture f(EngineFixture::NoCallProcess);
-    f.manager->regeditVoipUser("me", QStringLiteral("我"), "ticket");
-    QCOMPARE(f.manager->m_strUserId, QString("me"));
-    QCOMPARE(f.manager->m_strNickName, QStringLiteral("我"));
-    QCOMPARE(f.manager->m_strRegValue, QString("ticket"));
-    f.process.open();
-    f.manager->slot_ReConnectVoipSDK();
-    QCOMPARE(f.takeLines(), QStringList{QStringLiteral("RegeditUser \"me\" \"我\" \"ticket\" false")});
-}
-
-void tst_SdkTraffic::automaticRegistrationNeedsIdAndValue_data()
-{
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<QString>("nick");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QStringList>("direct");
-    QTest::addColumn<QStringList>("automatic");
-
-    const QString withoutNick("RegeditUser \"me\" \"\" \"ticket\" false");
-    QTest::newRow("all but the nick name") << "me"
-                                           << ""
-                                           << "ticket" << QStringList{withoutNick} << QStringList{withoutNick};
-    QTest::newRow("no value") << "me"
-                              << "Nick"
-                              << "" << QStringList{"RegeditUser \"me\" \"Nick\" \"\" false"} << QStringList();
-    QTest::newRow("no id") << ""
-                           << "Nick"
-                           << "ticket" << QStringList{"RegeditUser \"\" \"Nick\" \"ticket\" false"} << QStringList();
-}
-
-void tst_SdkTraffic::automaticRegistrationNeedsIdAndValue()
-{
-    QFETCH(QString, id);
-    QFETCH(QString, nick);
-    QFETCH(QString, value);
-    EngineFixture f;
-    f.manager->regeditVoipUser(id, nick, value);
-    QTEST(f.takeLines(), "direct");
-    f.manager->slot_VoipSDKConnected();
-    QTEST(f.takeLines(), "automatic");
-}
-
-void tst_SdkTraffic::lostConnectionIsRegisteredAgain()
-{
-    EngineFixture f;
-    f.manager->regeditVoipUser("me", "Nick", "ticket");
-    const QStringList registration{"RegeditUser \"me\" \"Nick\" \"ticket\" false"};
-    QCOMPARE(f.takeLines(), registration);
-    f.process.dropClient();
-    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
-    f.manager->slot_ReConnectVoipSDK();
-    QVERIFY(f.manager->m_bSocketConnected);
-    QCOMPARE(f.takeLines(), registration);
-}
-
-void tst_SdkTraffic::unregisteringKeepsTheUserForTheNextConnect()
-{
-    EngineFixture f;
-    f.manager->regeditVoipUser("me", "Nick", "ticket");
-    f.manager->unRegeditCurrentVoipUser();
-    const QString registration("RegeditUser \"me\" \"Nick\" \"ticket\" false");
-    QCOMPARE(f.takeLines(), QStringList({registration, "UnReg \"me\""}));
-    QCOMPARE(f.manager->m_strUserId, QString("me"));
-    f.process.dropClient();
-    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
-    f.manager->slot_ReConnectVoipSDK();
-    QCOMPARE(f.takeLines(), QStringList{registration});
-}
-
-void tst_SdkTraffic::nothingElseIsReplayedAfterAReconnect()
-{
-    EngineFixture f;
-    f.manager->regeditVoipUser("me", "Nick", "ticket");
-    f.manager->callSingleUser("anna", false);
-    f.takeLines();
-    f.process.dropClient();
-    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
-    f.manager->slot_SetMicEnable(false);
-    f.manager->slot_ReConnectVoipSDK();
-    QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"me\" \"Nick\" \"ticket\" false"});
-    QCOMPARE(f.manager->m_callData.peerId, QString("anna"));
-}
-
-void tst_SdkTraffic::linesOfOneReadAreDelivered_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QStringList>("payloads");
-
-    const QByteArray a = line(999, "a");
-    const QByteArray b = line(999, "b");
-    QTest::newRow("one") << a << QStringList{"a"};
-    QTest::newRow("two in order") << b + a << QStringList{"b", "a"};
-    QTest::newRow("two equal ones") << a + a << QStringList{"a"};
-    QTest::newRow("two equal ones apart") << a + b + a << QStringList{"a", "b"};
-    QTest::newRow("one and a half") << a + b.left(12) << QStringList{"a"};
-    QTest::newRow("malformed between") << a + "{\n" + b << QStringList{"a", "b"};
-    QTest::newRow("lines that throw in the parser between")
-        << a + "5\n\"x\"\n[1]\n{\"resultCode\":\"999\"}\n" + QByteArray(2000, '[') + "\n" + b << QStringList{"a", "b"};
-    QTest::newRow("empty line between") << a + "\n" + b << QStringList{"a"};
-    QTest::newRow("carriage returns") << QByteArray(a).replace("\n", "\r\n") + b << QStringList{"a", "b"};
-    QTest::newRow("outside ASCII") << line(999, QStringLiteral("呼叫")) << QStringList{QStringLiteral("呼叫")};
-}
-
-void tst_SdkTraffic::linesOfOneReadAreDelivered()
-{
-    QFETCH(QByteArray, bytes);
-    EngineFixture f;
-    const QtMessages messages;
-    f.process.send(bytes);
-    QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, kPatienceMs);
-    QTEST(deliveredPayloads(messages), "payloads");
-    QCOMPARE(messages.warnings, QStringList());
-}
-
-void tst_SdkTraffic::lineSplitOverTwoReadsIsLost()
-{
-    EngineFixture f;
-    const QtMessages messages;
-    const QByteArray split = line(999, "split in the middle");
-    f.process.send(split.left(20));
-    QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, kPatienceMs);
-    f.process.send(split.mid(20) + line(999, "next"));
-    QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, kPatienceMs);
-    QCOMPARE(deliveredPayloads(messages), QStringList{"next"});
-}
-
-void tst_SdkTraffic::nulByteHidesTheRestOfTheReadOnly()
-{
-    EngineFixture f;
-    const QtMessages messages;
-    // The line feed behind the byte would give the next line a clean start.
-    f.process.send(line(999, "before") + '\0' + '\n' + line(999, "behind"));
-    QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, kPatienceMs);
-    f.process.send(line(999, "later"));
-    QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, kPatienceMs);
-    QCOMPARE(deliveredPayloads(messages), QStringList({"before", "later"}));
-}
-
-void tst_SdkTraffic::linesWithoutEffect_data()
-{
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("code -1") << R"({"resultCode":-1,"content":"bert"})";
-    QTest::newRow("least code") << R"({"resultCode":-2147483648,"content":"bert"})";
-    QTest::newRow("code that no one knows") << R"({"resultCode":998,"content":"bert"})";
-    QTest::newRow("no JSON") << "hello";
-    QTest::newRow("half a document") << R"({"resultCode":0,"content":"be)";
-    QTest::newRow("number") << "5";
-    QTest::newRow("code as text") << R"({"resultCode":"0","content":"bert"})";
-    QTest::newRow("object as payload") << R"({"resultCode":0,"content":{"id":"bert"}})";
-}
-
-void tst_SdkTraffic::linesWithoutEffect()
-{
-    QFETCH(QString, text);
-    EngineFixture f;
-    f.manager->recevieVoipMessage(text + "\n");
-    QCOMPARE(f.takeJournal(), QStringList());
-    QCOMPARE(f.state(), QString("idle"));
-    f.manager->recevieVoipMessage("{}");
-    QCOMPARE(f.takeJournal(), QStringList{"4639  false false"});
-}
-
-void tst_SdkTraffic::bytesThatComeDuringAnEventLoopInAHandlerAreHandled()
-{
-    EngineFixture f;
-    f.whileHandled = [&f](BaseEvent &event) {
-        if (event.msgId != MSG_RECEVIE_VOIP_CALL)
-            return;
-        f.process.send(line(18));
-        QEventLoop loop;
-        while (f.manager->m_pVoipSocket->bytesAvailable() == 0)
-            loop.processEvents(QEventLoop::WaitForMoreEvents);
-    };
-    f.process.send(line(0, "bert"));
-    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_callData.peerId.isEmpty(), kPatienceMs);
-    QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_callData.bIsConnected, kPatienceMs);
-    QVERIFY(!f.manager->m_recevieTimer.isActive());
-}
-
-void tst_SdkTraffic::readIsWrittenToTheDebugLog()
-{
-    EngineFixture f;
-    const QtMessages messages;
-    const QByteArray bytes = line(998, QStringLiteral("呼叫"));
-    f.process.send(bytes);
-    QTRY_COMPARE_WITH_TIMEOUT(messages.debugLines,
-                              QStringList{QStringLiteral("Voip返回数据") + QString::fromUtf8(bytes)}, kPatienceMs);
-}
-
-void tst_SdkTraffic::readOfNothingIsNotWrittenToTheDebugLog()
-{
-    EngineFixture f;
-    const QtMessages messages;
-    f.manager->slot_VoipSDKDataRecevie();
-    f.manager->disconnectVoipSDKSocket();
-    f.manager->slot_VoipSDKDataRecevie();
-    QCOMPARE(messages.debugLines, QStringList());
-}
-
-void tst_SdkTraffic::writeToALostSocketIsLost()
-{
-    EngineFixture f;
-    f.process.dropClient();
-    QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
-    const QtMessages messages;
-    // Accepting is the one command that is sent without a look at the channel.
-    f.manager->acceptVoipCall();
-    f.manager->sendVoipMessage("lost\n");
-    QCOMPARE(messages.warnings.filter("QIODevice"), QStringList());
-    f.manager->slot_ReConnectVoipSDK();
-    QVERIFY(f.manager->m_bSocketConnected);
-    QCOMPARE(f.takeLines(), QStringList());
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_SdkTraffic, Widgets)

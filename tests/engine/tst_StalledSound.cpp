@@ -30,75 +30,70 @@ class tst_StalledSound : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void silentServerHoldsUpNoCall();
-    void silentServerLetsTheRingRing();
-    void stoppedServerIsAskedWhenItGoesOn();
+    void initTestCase()
+    {
+        const QString path = QDir::current().filePath(QStringLiteral("silent"));
+        QVERIFY(m_silent.listen(path));
+        useServer(path);
+    }
+
+    void silentServerHoldsUpNoCall()
+    {
+        EngineFixture f;
+        f.manager->m_strUserId = QStringLiteral("me");
+        const QtMessages messages;
+        f.manager->callSingleUser(QStringLiteral("anna"), false);
+        QCOMPARE(f.state(), QString("outgoing anna, invite"));
+        QCOMPARE(f.boxes.texts, QStringList());
+        // Who waits for Qt's own patience to end is told so by Qt.
+        QCOMPARE(messages.warnings.filter(QStringLiteral("PulseAudioService")), QStringList());
+    }
+
+    void silentServerLetsTheRingRing()
+    {
+        EngineFixture f;
+        f.notify(0, "bert");
+        QCOMPARE(f.state(), QString("incoming bert, receive, ring"));
+        f.manager->responseVoipRequest(true);
+        QCOMPARE(f.state(), QString("incoming bert, receive"));
+    }
+
+    void stoppedServerIsAskedWhenItGoesOn()
+    {
+        const QString path = QDir::current().filePath(QStringLiteral("real"));
+        qputenv("PULSE_RUNTIME_PATH", QDir::currentPath().toLocal8Bit());
+        QProcess server;
+        server.start(QStringLiteral("pulseaudio"),
+                     {"-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--disable-shm=yes", "-L",
+                      "module-native-protocol-unix auth-anonymous=1 socket=" + path, "-L",
+                      "module-null-source source_name=the_microphone"});
+        const auto takesClients = [&path] {
+            QLocalSocket socket;
+            socket.connectToServer(path);
+            return socket.waitForConnected(1000);
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(takesClients(), kPatienceMs);
+        useServer(path);
+        const QtMessages messages;
+
+        QCOMPARE(kill(pid_t(server.processId()), SIGSTOP), 0);
+        QVERIFY(AudioInputs::exist());
+        QCOMPARE(kill(pid_t(server.processId()), SIGCONT), 0);
+        QVERIFY(AudioInputs::exist());
+        // Made only now, from what the server says.
+        QStringList names;
+        for (const QAudioDeviceInfo &input : QAudioDeviceInfo::availableDevices(QAudio::AudioInput))
+            names += input.deviceName();
+        QVERIFY2(names.contains(QStringLiteral("the_microphone")), qPrintable(names.join(' ')));
+        QCOMPARE(messages.warnings.filter(QStringLiteral("PulseAudioService")), QStringList());
+        // The engine's list outlives the server, and ends with it: this process has no other.
+        server.terminate();
+        QVERIFY(server.waitForFinished(kPatienceMs));
+    }
 
 private:
     QLocalServer m_silent;
 };
-
-void tst_StalledSound::initTestCase()
-{
-    const QString path = QDir::current().filePath(QStringLiteral("silent"));
-    QVERIFY(m_silent.listen(path));
-    useServer(path);
-}
-
-void tst_StalledSound::silentServerHoldsUpNoCall()
-{
-    EngineFixture f;
-    f.manager->m_strUserId = QStringLiteral("me");
-    const QtMessages messages;
-    f.manager->callSingleUser(QStringLiteral("anna"), false);
-    QCOMPARE(f.state(), QString("outgoing anna, invite"));
-    QCOMPARE(f.boxes.texts, QStringList());
-    // Who waits for Qt's own patience to end is told so by Qt.
-    QCOMPARE(messages.warnings.filter(QStringLiteral("PulseAudioService")), QStringList());
-}
-
-void tst_StalledSound::silentServerLetsTheRingRing()
-{
-    EngineFixture f;
-    f.notify(0, "bert");
-    QCOMPARE(f.state(), QString("incoming bert, receive, ring"));
-    f.manager->responseVoipRequest(true);
-    QCOMPARE(f.state(), QString("incoming bert, receive"));
-}
-
-void tst_StalledSound::stoppedServerIsAskedWhenItGoesOn()
-{
-    const QString path = QDir::current().filePath(QStringLiteral("real"));
-    qputenv("PULSE_RUNTIME_PATH", QDir::currentPath().toLocal8Bit());
-    QProcess server;
-    server.start(QStringLiteral("pulseaudio"),
-                 {"-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--disable-shm=yes", "-L",
-                  "module-native-protocol-unix auth-anonymous=1 socket=" + path, "-L",
-                  "module-null-source source_name=the_microphone"});
-    const auto takesClients = [&path] {
-        QLocalSocket socket;
-        socket.connectToServer(path);
-        return socket.waitForConnected(1000);
-    };
-    QTRY_VERIFY_WITH_TIMEOUT(takesClients(), kPatienceMs);
-    useServer(path);
-    const QtMessages messages;
-
-    QCOMPARE(kill(pid_t(server.processId()), SIGSTOP), 0);
-    QVERIFY(AudioInputs::exist());
-    QCOMPARE(kill(pid_t(server.processId()), SIGCONT), 0);
-    QVERIFY(AudioInputs::exist());
-    // Made only now, from what the server says.
-    QStringList names;
-    for (const QAudioDeviceInfo &input : QAudioDeviceInfo::availableDevices(QAudio::AudioInput))
-        names += input.deviceName();
-    QVERIFY2(names.contains(QStringLiteral("the_microphone")), qPrintable(names.join(' ')));
-    QCOMPARE(messages.warnings.filter(QStringLiteral("PulseAudioService")), QStringList());
-    // The engine's list outlives the server, and ends with it: this process has no other.
-    server.terminate();
-    QVERIFY(server.waitForFinished(kPatienceMs));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_StalledSound, Widgets)

@@ -11,55 +11,50 @@ class tst_VoipCallbacks : public QObject
     Q_OBJECT
 
 private slots:
-    void callbackActsAsANotification();
-    void logCallbackDoesNothing();
-    void callbacksMakeTheManager_data();
-    void callbacksMakeTheManager();
-};
+    void callbackActsAsANotification()
+    {
+        EngineFixture f;
+        const QtMessages messages;
+        voipCallback(0, "bert");
+        QCOMPARE(messages.debugLines, QStringList{"void sdkResultCallback(, iCode: 0result: bert"});
+        QCOMPARE(f.state(), QString("incoming bert, receive, ring"));
+    }
 
-void tst_VoipCallbacks::callbackActsAsANotification()
-{
-    EngineFixture f;
-    const QtMessages messages;
-    voipCallback(0, "bert");
-    QCOMPARE(messages.debugLines, QStringList{"void sdkResultCallback(, iCode: 0result: bert"});
-    QCOMPARE(f.state(), QString("incoming bert, receive, ring"));
-}
-
-void tst_VoipCallbacks::logCallbackDoesNothing()
-{
-    EngineFixture f;
-    const QString before = f.callText();
-    const QtMessages messages;
-    voipLogCallback("u", "v");
-    QCOMPARE(messages.debugLines, QStringList{"void sdkCloudTrackCallback(, url:  uvalue: v"});
-    QCOMPARE(f.callText(), before);
-    QCOMPARE(f.takeJournal(), QStringList());
-}
-
-void tst_VoipCallbacks::callbacksMakeTheManager_data()
-{
-    QTest::addColumn<bool>("log");
-
-    QTest::newRow("notification") << false;
-    QTest::newRow("log") << true;
-}
-
-void tst_VoipCallbacks::callbacksMakeTheManager()
-{
-    QFETCH(bool, log);
-    EngineFixture f;
-    f.manager.reset();
-    QVERIFY(!VoipManageProbe::exists());
-    const QtMessages messages;
-    if (log)
+    void logCallbackDoesNothing()
+    {
+        EngineFixture f;
+        const QString before = f.callText();
+        const QtMessages messages;
         voipLogCallback("u", "v");
-    else
-        voipCallback(17, "true");
-    QVERIFY(VoipManageProbe::exists());
-    delete CVoipManage::instance();
-    VoipManageProbe::forget();
-}
+        QCOMPARE(messages.debugLines, QStringList{"void sdkCloudTrackCallback(, url:  uvalue: v"});
+        QCOMPARE(f.callText(), before);
+        QCOMPARE(f.takeJournal(), QStringList());
+    }
+
+    void callbacksMakeTheManager_data()
+    {
+        QTest::addColumn<bool>("log");
+
+        QTest::newRow("notification") << false;
+        QTest::newRow("log") << true;
+    }
+
+    void callbacksMakeTheManager()
+    {
+        QFETCH(bool, log);
+        EngineFixture f;
+        f.manager.reset();
+        QVERIFY(!VoipManageProbe::exists());
+        const QtMessages messages;
+        if (log)
+            voipLogCallback("u", "v");
+        else
+            voipCallback(17, "true");
+        QVERIFY(VoipManageProbe::exists());
+        delete CVoipManage::instance();
+        VoipManageProbe::forget();
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_VoipCallbacks, Widgets)

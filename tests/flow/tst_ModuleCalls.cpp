@@ -25,199 +25,171 @@ class tst_ModuleCalls : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void cleanup();
-    void cleanupTestCase();
+    void initTestCase()
+    {
+        QVERIFY(m_client.load());
+        QVERIFY2(!m_client.callWindow(), "a module that was never spoken to shows nothing");
+        QCOMPARE(m_client.callProcessId(), 0);
+    }
 
-    void firstCommandStartsTheCallProcessAndTheUserIsRegistered();
-    void outgoingCallEnds_data();
-    void outgoingCallEnds();
-    void answeredCallRunsUntilTheUserHangsUp();
-    void ringingCallIsCancelledByTheUser();
-    void videoCallIsNoVideoCallForTheHost();
-    void incomingCallIsAcceptedAndEndedByTheCaller();
-    void incomingCallIsRejected();
-    void goingOfflineHangsUpAndUnregisters();
-    void conferenceIsStartedAndLeft();
-    void exitEndsTheCallProcess();
+    void cleanup() { m_client.host.events.clear(); }
+
+    void cleanupTestCase() { QVERIFY(m_client.killCallProcess()); }
+
+    void firstCommandStartsTheCallProcessAndTheUserIsRegistered()
+    {
+        QVERIFY(!m_client.ask(MSG_IS_EXIST_CALL));
+        QVERIFY(m_client.goOnline());
+        QVERIFY(m_client.callProcessLives());
+        QVERIFY(m_client.callWindow());
+        QVERIFY(!m_client.callWindow()->isVisible());
+        QCOMPARE(m_client.commandsOnWire(), QStringList{QStringLiteral("RegeditUser")});
+    }
+
+    void outgoingCallEnds_data()
+    {
+        QTest::addColumn<QString>("uid");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<bool>("connected");
+        QTest::newRow("busy") << kBusy << 25 << false;
+        QTest::newRow("rejected") << kRejects << 26 << false;
+        QTest::newRow("failed") << kFails << 22 << false;
+        QTest::newRow("hung up by the far end") << kHangsUp << 24 << true;
+    }
+
+    void outgoingCallEnds()
+    {
+        QFETCH(QString, uid);
+        QFETCH(int, result);
+        QFETCH(bool, connected);
+        call(uid);
+        QVERIFY(m_client.ask(MSG_IS_EXIST_CALL));
+        QVERIFY(m_client.callWindow()->isVisible());
+        QVERIFY(waitForRecord());
+        const CallRecord record = lastRecord();
+        QCOMPARE(record.strUserId, uid);
+        QCOMPARE(record.iResult, result);
+        QCOMPARE(record.bIsConnected, connected);
+        QVERIFY(record.bIsCaller);
+        QVERIFY(!record.bIsVideo);
+        QVERIFY(!m_client.ask(MSG_IS_EXIST_CALL));
+        QVERIFY(!m_client.callWindow()->isVisible());
+        QCOMPARE(m_client.host.received(MSG_CALL_FINISHED).size(), 1);
+    }
+
+    void answeredCallRunsUntilTheUserHangsUp()
+    {
+        call(kAnswers);
+        QCOMPARE(m_client.callWindowText("lblStatus"), QStringLiteral("正在呼叫..."));
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.callWindowText("lblStatus"), QStringLiteral("已接通"), kPatienceMs);
+        // A whole second by the window's clock may be a little less by the record's, two are one in any case.
+        QTRY_VERIFY_WITH_TIMEOUT(m_client.callWindowText("currentPlayTimeLabel") >= QStringLiteral("00:00:02"),
+                                 kPatienceMs);
+
+        const int hangUps = m_client.countOnWire(QStringLiteral("HangUpCall"));
+        QTest::mouseClick(m_client.callWindowButton("HangUp"), Qt::LeftButton);
+        QCOMPARE(m_client.host.received(MSG_CALL_FINISHED).size(), 1);
+        QCOMPARE(lastRecord().iResult, 24);
+        QVERIFY(lastRecord().bIsConnected);
+        QVERIFY(lastRecord().iSeconds >= 1);
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("HangUpCall")), hangUps + 1, kPatienceMs);
+    }
+
+    void ringingCallIsCancelledByTheUser()
+    {
+        call(kNever);
+        QTest::mouseClick(m_client.callWindowButton("btnCancelCall"), Qt::LeftButton);
+        QCOMPARE(m_client.host.received(MSG_CALL_FINISHED).size(), 1);
+        QCOMPARE(lastRecord().iResult, 21);
+        QCOMPARE(lastRecord().iSeconds, 0);
+        QVERIFY(!m_client.callWindow()->isVisible());
+    }
+
+    void videoCallIsNoVideoCallForTheHost()
+    {
+        call(kNever, true);
+        QVERIFY(m_client.ask(MSG_IS_EXIST_CALL));
+        QVERIFY(!m_client.ask(MSG_IS_VIDEO_CALL));
+        QTest::mouseClick(m_client.callWindowButton("btnCancelCall"), Qt::LeftButton);
+        QVERIFY(lastRecord().bIsVideo);
+    }
+
+    void incomingCallIsAcceptedAndEndedByTheCaller()
+    {
+        QVERIFY(waitForIncoming());
+        PayloadReader prompt(m_client.host.received(MSG_RECEVIE_VOIP_CALL).constLast().payload);
+        QCOMPARE(prompt.take<QString>(), kCallsBack);
+        QVERIFY(!m_client.callWindow()->isVisible());
+
+        m_client.command(MSG_RESPONSE_VOIP_REQUEST, true);
+        QVERIFY(m_client.callWindow()->isVisible());
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.callWindowText("lblStatus"), QStringLiteral("已接通"), kPatienceMs);
+        QVERIFY(waitForRecord(2));
+        QCOMPARE(lastRecord().iResult, 24);
+        QVERIFY(!lastRecord().bIsCaller);
+        QVERIFY(lastRecord().bIsConnected);
+    }
+
+    void incomingCallIsRejected()
+    {
+        QVERIFY(waitForIncoming());
+        const int rejects = m_client.countOnWire(QStringLiteral("RejectCall"));
+        m_client.command(MSG_RESPONSE_VOIP_REQUEST, false);
+        QCOMPARE(m_client.host.received(MSG_CALL_FINISHED).size(), 2);
+        QCOMPARE(lastRecord().iResult, 26);
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("RejectCall")), rejects + 1, kPatienceMs);
+        QVERIFY(!m_client.callWindow()->isVisible());
+    }
+
+    void goingOfflineHangsUpAndUnregisters()
+    {
+        call(kNever);
+        m_client.command(MSG_CLIENT_CONNECT_STATUS, false);
+        QCOMPARE(lastRecord().iResult, 21);
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.commandsOnWire().constLast(), QStringLiteral("UnReg"), kPatienceMs);
+        QVERIFY(m_client.goOnline());
+    }
+
+    void conferenceIsStartedAndLeft()
+    {
+        m_client.command(MSG_CALL_CONFERENCE, QStringList{kAnswers, kNever}, QStringLiteral("title"), true);
+        QVERIFY(m_client.ask(MSG_IS_EXIST_CALL));
+        QVERIFY(m_client.callWindow()->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(m_client.codesOnWire().contains(12), kPatienceMs);
+        const int hangUps = m_client.countOnWire(QStringLiteral("HangupConf"));
+        m_client.callWindow()->close();
+        QVERIFY(!m_client.ask(MSG_IS_EXIST_CALL));
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("HangupConf")), hangUps + 1, kPatienceMs);
+        QVERIFY2(m_client.host.received(MSG_CALL_FINISHED).isEmpty(), "a conference leaves no call record at the host");
+    }
+
+    void exitEndsTheCallProcess()
+    {
+        QVERIFY(m_client.callProcessLives());
+        m_client.command(MSG_EXIT_VOIP);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_client.callProcessLives(), kPatienceMs);
+    }
 
 private:
-    void call(const QString &uid, bool video = false);
-    bool waitForRecord(int count = 1);
+    void call(const QString &uid, bool video = false) { m_client.command(MSG_CALL_SINGLE_USER, video, uid); }
+
+    bool waitForRecord(int count = 1)
+    {
+        return QTest::qWaitFor([&] { return m_client.host.received(MSG_CALL_FINISHED).size() >= count; }, kPatienceMs);
+    }
+
     CallRecord lastRecord() const { return CallRecord(m_client.host.received(MSG_CALL_FINISHED).constLast()); }
-    bool waitForIncoming();
+
+    /// Lets the robot that calls back do so.
+    bool waitForIncoming()
+    {
+        call(kCallsBack);
+        return waitForRecord() &&
+               QTest::qWaitFor([&] { return !m_client.host.received(MSG_RECEVIE_VOIP_CALL).isEmpty(); }, kPatienceMs);
+    }
 
     FlowClient m_client{"10"};
 };
-
-void tst_ModuleCalls::initTestCase()
-{
-    QVERIFY(m_client.load());
-    QVERIFY2(!m_client.callWindow(), "a module that was never spoken to shows nothing");
-    QCOMPARE(m_client.callProcessId(), 0);
-}
-
-void tst_ModuleCalls::cleanup()
-{
-    m_client.host.events.clear();
-}
-
-void tst_ModuleCalls::cleanupTestCase()
-{
-    QVERIFY(m_client.killCallProcess());
-}
-
-void tst_ModuleCalls::call(const QString &uid, bool video)
-{
-    m_client.command(MSG_CALL_SINGLE_USER, video, uid);
-}
-
-bool tst_ModuleCalls::waitForRecord(int count)
-{
-    return QTest::qWaitFor([&] { return m_client.host.received(MSG_CALL_FINISHED).size() >= count; }, kPatienceMs);
-}
-
-/// Lets the robot that calls back do so.
-bool tst_ModuleCalls::waitForIncoming()
-{
-    call(kCallsBack);
-    return waitForRecord() &&
-           QTest::qWaitFor([&] { return !m_client.host.received(MSG_RECEVIE_VOIP_CALL).isEmpty(); }, kPatienceMs);
-}
-
-void tst_ModuleCalls::firstCommandStartsTheCallProcessAndTheUserIsRegistered()
-{
-    QVERIFY(!m_client.ask(MSG_IS_EXIST_CALL));
-    QVERIFY(m_client.goOnline());
-    QVERIFY(m_client.callProcessLives());
-    QVERIFY(m_client.callWindow());
-    QVERIFY(!m_client.callWindow()->isVisible());
-    QCOMPARE(m_client.commandsOnWire(), QStringList{QStringLiteral("RegeditUser")});
-}
-
-void tst_ModuleCalls::outgoingCallEnds_data()
-{
-    QTest::addColumn<QString>("uid");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<bool>("connected");
-    QTest::newRow("busy") << kBusy << 25 << false;
-    QTest::newRow("rejected") << kRejects << 26 << false;
-    QTest::newRow("failed") << kFails << 22 << false;
-    QTest::newRow("hung up by the far end") << kHangsUp << 24 << true;
-}
-
-void tst_ModuleCalls::outgoingCallEnds()
-{
-    QFETCH(QString, uid);
-    QFETCH(int, result);
-    QFETCH(bool, connected);
-    call(uid);
-    QVERIFY(m_client.ask(MSG_IS_EXIST_CALL));
-    QVERIFY(m_client.callWindow()->isVisible());
-    QVERIFY(waitForRecord());
-    const CallRecord record = lastRecord();
-    QCOMPARE(record.strUserId, uid);
-    QCOMPARE(record.iResult, result);
-    QCOMPARE(record.bIsConnected, connected);
-    QVERIFY(record.bIsCaller);
-    QVERIFY(!record.bIsVideo);
-    QVERIFY(!m_client.ask(MSG_IS_EXIST_CALL));
-    QVERIFY(!m_client.callWindow()->isVisible());
-    QCOMPARE(m_client.host.received(MSG_CALL_FINISHED).size(), 1);
-}
-
-void tst_ModuleCalls::answeredCallRunsUntilTheUserHangsUp()
-{
-    call(kAnswers);
-    QCOMPARE(m_client.callWindowText("lblStatus"), QStringLiteral("正在呼叫..."));
-    QTRY_COMPARE_WITH_TIMEOUT(m_client.callWindowText("lblStatus"), QStringLiteral("已接通"), kPatienceMs);
-    // A whole second by the window's clock may be a little less by the record's, two are one in any case.
-    QTRY_VERIFY_WITH_TIMEOUT(m_client.callWindowText("currentPlayTimeLabel") >= QStringLiteral("00:00:02"),
-                             kPatienceMs);
-
-    const int hangUps = m_client.countOnWire(QStringLiteral("HangUpCall"));
-    QTest::mouseClick(m_client.callWindowButton("HangUp"), Qt::LeftButton);
-    QCOMPARE(m_client.host.received(MSG_CALL_FINISHED).size(), 1);
-    QCOMPARE(lastRecord().iResult, 24);
-    QVERIFY(lastRecord().bIsConnected);
-    QVERIFY(lastRecord().iSeconds >= 1);
-    QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("HangUpCall")), hangUps + 1, kPatienceMs);
-}
-
-void tst_ModuleCalls::ringingCallIsCancelledByTheUser()
-{
-    call(kNever);
-    QTest::mouseClick(m_client.callWindowButton("btnCancelCall"), Qt::LeftButton);
-    QCOMPARE(m_client.host.received(MSG_CALL_FINISHED).size(), 1);
-    QCOMPARE(lastRecord().iResult, 21);
-    QCOMPARE(lastRecord().iSeconds, 0);
-    QVERIFY(!m_client.callWindow()->isVisible());
-}
-
-void tst_ModuleCalls::videoCallIsNoVideoCallForTheHost()
-{
-    call(kNever, true);
-    QVERIFY(m_client.ask(MSG_IS_EXIST_CALL));
-    QVERIFY(!m_client.ask(MSG_IS_VIDEO_CALL));
-    QTest::mouseClick(m_client.callWindowButton("btnCancelCall"), Qt::LeftButton);
-    QVERIFY(lastRecord().bIsVideo);
-}
-
-void tst_ModuleCalls::incomingCallIsAcceptedAndEndedByTheCaller()
-{
-    QVERIFY(waitForIncoming());
-    PayloadReader prompt(m_client.host.received(MSG_RECEVIE_VOIP_CALL).constLast().payload);
-    QCOMPARE(prompt.take<QString>(), kCallsBack);
-    QVERIFY(!m_client.callWindow()->isVisible());
-
-    m_client.command(MSG_RESPONSE_VOIP_REQUEST, true);
-    QVERIFY(m_client.callWindow()->isVisible());
-    QTRY_COMPARE_WITH_TIMEOUT(m_client.callWindowText("lblStatus"), QStringLiteral("已接通"), kPatienceMs);
-    QVERIFY(waitForRecord(2));
-    QCOMPARE(lastRecord().iResult, 24);
-    QVERIFY(!lastRecord().bIsCaller);
-    QVERIFY(lastRecord().bIsConnected);
-}
-
-void tst_ModuleCalls::incomingCallIsRejected()
-{
-    QVERIFY(waitForIncoming());
-    const int rejects = m_client.countOnWire(QStringLiteral("RejectCall"));
-    m_client.command(MSG_RESPONSE_VOIP_REQUEST, false);
-    QCOMPARE(m_client.host.received(MSG_CALL_FINISHED).size(), 2);
-    QCOMPARE(lastRecord().iResult, 26);
-    QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("RejectCall")), rejects + 1, kPatienceMs);
-    QVERIFY(!m_client.callWindow()->isVisible());
-}
-
-void tst_ModuleCalls::goingOfflineHangsUpAndUnregisters()
-{
-    call(kNever);
-    m_client.command(MSG_CLIENT_CONNECT_STATUS, false);
-    QCOMPARE(lastRecord().iResult, 21);
-    QTRY_COMPARE_WITH_TIMEOUT(m_client.commandsOnWire().constLast(), QStringLiteral("UnReg"), kPatienceMs);
-    QVERIFY(m_client.goOnline());
-}
-
-void tst_ModuleCalls::conferenceIsStartedAndLeft()
-{
-    m_client.command(MSG_CALL_CONFERENCE, QStringList{kAnswers, kNever}, QStringLiteral("title"), true);
-    QVERIFY(m_client.ask(MSG_IS_EXIST_CALL));
-    QVERIFY(m_client.callWindow()->isVisible());
-    QTRY_VERIFY_WITH_TIMEOUT(m_client.codesOnWire().contains(12), kPatienceMs);
-    const int hangUps = m_client.countOnWire(QStringLiteral("HangupConf"));
-    m_client.callWindow()->close();
-    QVERIFY(!m_client.ask(MSG_IS_EXIST_CALL));
-    QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("HangupConf")), hangUps + 1, kPatienceMs);
-    QVERIFY2(m_client.host.received(MSG_CALL_FINISHED).isEmpty(), "a conference leaves no call record at the host");
-}
-
-void tst_ModuleCalls::exitEndsTheCallProcess()
-{
-    QVERIFY(m_client.callProcessLives());
-    m_client.command(MSG_EXIT_VOIP);
-    QTRY_VERIFY_WITH_TIMEOUT(!m_client.callProcessLives(), kPatienceMs);
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_ModuleCalls, Widgets)

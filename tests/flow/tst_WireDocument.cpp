@@ -215,178 +215,168 @@ class tst_WireDocument : public QObject
     Q_OBJECT
 
 private slots:
-    void everyCommandHasItsExample_data();
-    void everyCommandHasItsExample();
-    void documentHasNoOtherCommands();
-    void everyNotificationHasItsExample_data();
-    void everyNotificationHasItsExample();
-    void documentHasNoOtherNotifications();
-    void tablesNameEveryCommandAndNotification();
-    void tableOfCommandsHasTheirParameters();
-    void tableOfNotificationsHasTheirContents();
-    void sequencesNameWhatThereIs();
-    void tableOfRobotsNamesEachOfThem();
+    void everyCommandHasItsExample_data()
+    {
+        QTest::addColumn<int>("number");
+        for (const Wire::CommandRow &row : Wire::kCommands)
+            QTest::newRow(row.name) << static_cast<int>(row.command);
+    }
+
+    void everyCommandHasItsExample()
+    {
+        QFETCH(int, number);
+        const auto name = static_cast<Wire::Command>(number);
+        const QString wireName = QString::fromLatin1(Wire::nameOf(name));
+        const QStringList lines = examples(QStringLiteral("{\"messagetype\":\"%1\"").arg(wireName));
+        QCOMPARE(lines.size(), 1);
+        const Json::Value example = parsed(lines.constFirst());
+        QVERIFY2(example.isObject(), "the example is no JSON");
+        QCOMPARE(lines.constFirst() + '\n', written(name, example));
+
+        QString reason;
+        const std::optional<Command> command = parseCommand(lines.constFirst().toUtf8(), &reason);
+        QVERIFY2(command, qPrintable(reason));
+        QCOMPARE(shapeFault(*command), QString());
+
+        // The checker's replay says it in the very same bytes.
+        QJsonArray parameters;
+        for (int parameter = 1; !command->parameter(parameter).isUndefined(); ++parameter)
+            parameters.append(command->parameter(parameter));
+        QCOMPARE(commandLine(wireName, parameters), lines.constFirst().toUtf8() + '\n');
+    }
+
+    void documentHasNoOtherCommands()
+    {
+        QCOMPARE(examples(QStringLiteral("{\"messagetype\":")).size(), static_cast<int>(Wire::kCommands.size()));
+    }
+
+    void everyNotificationHasItsExample_data()
+    {
+        QTest::addColumn<Row>("row");
+        for (const Row &row : kRows)
+            QTest::newRow(QByteArray::number(static_cast<int>(row.code)).constData()) << row;
+    }
+
+    void everyNotificationHasItsExample()
+    {
+        QFETCH(Row, row);
+        const QStringList lines =
+            examples(QStringLiteral("{\"content\":\""))
+                .filter(QRegularExpression(QStringLiteral(",\"resultCode\":%1}$").arg(static_cast<int>(row.code))));
+        QCOMPARE(lines.size(), 1);
+        QVERIFY2(parsed(lines.constFirst()).isObject(), "the example is no JSON");
+        QCOMPARE(SdkLine::read(lines.constFirst()).code, static_cast<int>(row.code));
+
+        EngineFixture fixture;
+        row.before(fixture);
+        EngineFixture::deliverPosted();
+        const QtMessages messages;
+        const QString before = picture(fixture, messages);
+        fixture.manager->recevieVoipMessage(lines.constFirst() + '\n');
+        EngineFixture::deliverPosted();
+        const QString after = picture(fixture, messages);
+        QVERIFY2(before != after, qPrintable("nothing has changed: " + before));
+        QVERIFY2(after.contains(QLatin1String(row.after)), qPrintable("before: " + before + "\nafter: " + after));
+    }
+
+    void documentHasNoOtherNotifications()
+    {
+        QCOMPARE(examples(QStringLiteral("{\"content\":\"")).size(), static_cast<int>(std::size(kRows)));
+        int named = 0;
+        for (const Wire::NotificationRow &row : Wire::kNotifications)
+            named += *row.name != '\0' ? 1 : 0;
+        QCOMPARE(named, static_cast<int>(std::size(kRows)));
+    }
+
+    void tablesNameEveryCommandAndNotification()
+    {
+        const QStringList rows = document().split('\n').filter(QRegularExpression(QStringLiteral("^\\| ")));
+        for (const Wire::CommandRow &command : Wire::kCommands) {
+            const QRegularExpression cell(
+                QStringLiteral("^\\| [^|]*\\b%1\\b[^|]*\\|").arg(QLatin1String(command.name)));
+            QVERIFY2(rows.filter(cell).size() == 2, command.name);
+        }
+        for (const Wire::NotificationRow &notification : Wire::kNotifications) {
+            const QString name = QString::fromLatin1(notification.name);
+            const QRegularExpression cells(QStringLiteral("^\\| (\\d+, )*%1(, \\d+)* \\|%2")
+                                               .arg(static_cast<int>(notification.code))
+                                               .arg(name.isEmpty() ? " \\| open \\|" : "[^|]*\\b" + name + "\\b"));
+            QVERIFY2(rows.filter(cells).size() == 1, QByteArray::number(static_cast<int>(notification.code)));
+        }
+    }
+
+    void tableOfCommandsHasTheirParameters()
+    {
+        std::size_t checked = 0;
+        for (const QStringList &cells : tableUnder(QStringLiteral("| messagetype |"))) {
+            QString letters;
+            for (const QString &cell : cells.mid(1))
+                letters += letterOf(cell);
+            for (const QString &name : cells.constFirst().split(QStringLiteral(", "))) {
+                const Wire::CommandRow *row = findCommand(name);
+                QVERIFY2(row, qPrintable(name));
+                QCOMPARE(QString(row->parameters), letters);
+                ++checked;
+            }
+        }
+        QCOMPARE(checked, Wire::kCommands.size());
+    }
+
+    void tableOfNotificationsHasTheirContents()
+    {
+        std::size_t checked = 0;
+        for (const QStringList &cells : tableUnder(QStringLiteral("| code | name |"))) {
+            for (const QString &code : cells.constFirst().split(QStringLiteral(", "))) {
+                const Wire::NotificationRow *row = Wire::findNotification(code.toInt());
+                QVERIFY2(row, qPrintable(code));
+                QVERIFY2(row->content == contentOf(cells.at(2)), qPrintable(code));
+                ++checked;
+            }
+        }
+        QCOMPARE(checked, Wire::kNotifications.size());
+    }
+
+    void sequencesNameWhatThereIs()
+    {
+        int commands = 0;
+        int notifications = 0;
+        const QStringList lines = document().split('\n').filter(QRegularExpression(QStringLiteral("^   \\|[-<]")));
+        for (const QString &line : lines) {
+            static const QRegularExpression said(QStringLiteral("^   \\|-- (\\w+) -+>\\|"));
+            static const QRegularExpression heard(QStringLiteral("^   \\|<-+ (\\d+) (\\w+) ?-*\\|"));
+            const QRegularExpressionMatch command = said.match(line);
+            const QRegularExpressionMatch notification = heard.match(line);
+            if (command.hasMatch()) {
+                ++commands;
+                const QString name = command.captured(1);
+                QVERIFY2(findCommand(name) || name == QLatin1String(Wire::kQuitLine), qPrintable(line));
+            } else {
+                ++notifications;
+                QVERIFY2(notification.hasMatch(), qPrintable(line));
+                const int code = notification.captured(1).toInt();
+                const bool known = std::any_of(Wire::kNotifications.begin(), Wire::kNotifications.end(),
+                                               [&](const Wire::NotificationRow &row) {
+                                                   return static_cast<int>(row.code) == code &&
+                                                          notification.captured(2) == QLatin1String(row.name);
+                                               });
+                QVERIFY2(known, qPrintable(line));
+            }
+            QCOMPARE(line.indexOf('|', 4), 63);
+        }
+        QVERIFY(commands >= 9 && notifications >= 12);
+    }
+
+    void tableOfRobotsNamesEachOfThem()
+    {
+        QStringList documented;
+        for (const QStringList &cells : tableUnder(QStringLiteral("| id | name | when called |")))
+            documented << cells.at(0) + ' ' + cells.at(1);
+        QStringList robots;
+        for (const Robot &robot : ROBOTS)
+            robots << QString(robot.id) + ' ' + robot.name;
+        QCOMPARE(documented, robots);
+    }
 };
-
-void tst_WireDocument::everyCommandHasItsExample_data()
-{
-    QTest::addColumn<int>("number");
-    for (const Wire::CommandRow &row : Wire::kCommands)
-        QTest::newRow(row.name) << static_cast<int>(row.command);
-}
-
-void tst_WireDocument::everyCommandHasItsExample()
-{
-    QFETCH(int, number);
-    const auto name = static_cast<Wire::Command>(number);
-    const QString wireName = QString::fromLatin1(Wire::nameOf(name));
-    const QStringList lines = examples(QStringLiteral("{\"messagetype\":\"%1\"").arg(wireName));
-    QCOMPARE(lines.size(), 1);
-    const Json::Value example = parsed(lines.constFirst());
-    QVERIFY2(example.isObject(), "the example is no JSON");
-    QCOMPARE(lines.constFirst() + '\n', written(name, example));
-
-    QString reason;
-    const std::optional<Command> command = parseCommand(lines.constFirst().toUtf8(), &reason);
-    QVERIFY2(command, qPrintable(reason));
-    QCOMPARE(shapeFault(*command), QString());
-
-    // The checker's replay says it in the very same bytes.
-    QJsonArray parameters;
-    for (int parameter = 1; !command->parameter(parameter).isUndefined(); ++parameter)
-        parameters.append(command->parameter(parameter));
-    QCOMPARE(commandLine(wireName, parameters), lines.constFirst().toUtf8() + '\n');
-}
-
-void tst_WireDocument::documentHasNoOtherCommands()
-{
-    QCOMPARE(examples(QStringLiteral("{\"messagetype\":")).size(), static_cast<int>(Wire::kCommands.size()));
-}
-
-void tst_WireDocument::everyNotificationHasItsExample_data()
-{
-    QTest::addColumn<Row>("row");
-    for (const Row &row : kRows)
-        QTest::newRow(QByteArray::number(static_cast<int>(row.code)).constData()) << row;
-}
-
-void tst_WireDocument::everyNotificationHasItsExample()
-{
-    QFETCH(Row, row);
-    const QStringList lines =
-        examples(QStringLiteral("{\"content\":\""))
-            .filter(QRegularExpression(QStringLiteral(",\"resultCode\":%1}$").arg(static_cast<int>(row.code))));
-    QCOMPARE(lines.size(), 1);
-    QVERIFY2(parsed(lines.constFirst()).isObject(), "the example is no JSON");
-    QCOMPARE(SdkLine::read(lines.constFirst()).code, static_cast<int>(row.code));
-
-    EngineFixture fixture;
-    row.before(fixture);
-    EngineFixture::deliverPosted();
-    const QtMessages messages;
-    const QString before = picture(fixture, messages);
-    fixture.manager->recevieVoipMessage(lines.constFirst() + '\n');
-    EngineFixture::deliverPosted();
-    const QString after = picture(fixture, messages);
-    QVERIFY2(before != after, qPrintable("nothing has changed: " + before));
-    QVERIFY2(after.contains(QLatin1String(row.after)), qPrintable("before: " + before + "\nafter: " + after));
-}
-
-void tst_WireDocument::documentHasNoOtherNotifications()
-{
-    QCOMPARE(examples(QStringLiteral("{\"content\":\"")).size(), static_cast<int>(std::size(kRows)));
-    int named = 0;
-    for (const Wire::NotificationRow &row : Wire::kNotifications)
-        named += *row.name != '\0' ? 1 : 0;
-    QCOMPARE(named, static_cast<int>(std::size(kRows)));
-}
-
-void tst_WireDocument::tablesNameEveryCommandAndNotification()
-{
-    const QStringList rows = document().split('\n').filter(QRegularExpression(QStringLiteral("^\\| ")));
-    for (const Wire::CommandRow &command : Wire::kCommands) {
-        const QRegularExpression cell(QStringLiteral("^\\| [^|]*\\b%1\\b[^|]*\\|").arg(QLatin1String(command.name)));
-        QVERIFY2(rows.filter(cell).size() == 2, command.name);
-    }
-    for (const Wire::NotificationRow &notification : Wire::kNotifications) {
-        const QString name = QString::fromLatin1(notification.name);
-        const QRegularExpression cells(QStringLiteral("^\\| (\\d+, )*%1(, \\d+)* \\|%2")
-                                           .arg(static_cast<int>(notification.code))
-                                           .arg(name.isEmpty() ? " \\| open \\|" : "[^|]*\\b" + name + "\\b"));
-        QVERIFY2(rows.filter(cells).size() == 1, QByteArray::number(static_cast<int>(notification.code)));
-    }
-}
-
-void tst_WireDocument::tableOfCommandsHasTheirParameters()
-{
-    std::size_t checked = 0;
-    for (const QStringList &cells : tableUnder(QStringLiteral("| messagetype |"))) {
-        QString letters;
-        for (const QString &cell : cells.mid(1))
-            letters += letterOf(cell);
-        for (const QString &name : cells.constFirst().split(QStringLiteral(", "))) {
-            const Wire::CommandRow *row = findCommand(name);
-            QVERIFY2(row, qPrintable(name));
-            QCOMPARE(QString(row->parameters), letters);
-            ++checked;
-        }
-    }
-    QCOMPARE(checked, Wire::kCommands.size());
-}
-
-void tst_WireDocument::tableOfNotificationsHasTheirContents()
-{
-    std::size_t checked = 0;
-    for (const QStringList &cells : tableUnder(QStringLiteral("| code | name |"))) {
-        for (const QString &code : cells.constFirst().split(QStringLiteral(", "))) {
-            const Wire::NotificationRow *row = Wire::findNotification(code.toInt());
-            QVERIFY2(row, qPrintable(code));
-            QVERIFY2(row->content == contentOf(cells.at(2)), qPrintable(code));
-            ++checked;
-        }
-    }
-    QCOMPARE(checked, Wire::kNotifications.size());
-}
-
-void tst_WireDocument::sequencesNameWhatThereIs()
-{
-    int commands = 0;
-    int notifications = 0;
-    const QStringList lines = document().split('\n').filter(QRegularExpression(QStringLiteral("^   \\|[-<]")));
-    for (const QString &line : lines) {
-        static const QRegularExpression said(QStringLiteral("^   \\|-- (\\w+) -+>\\|"));
-        static const QRegularExpression heard(QStringLiteral("^   \\|<-+ (\\d+) (\\w+) ?-*\\|"));
-        const QRegularExpressionMatch command = said.match(line);
-        const QRegularExpressionMatch notification = heard.match(line);
-        if (command.hasMatch()) {
-            ++commands;
-            const QString name = command.captured(1);
-            QVERIFY2(findCommand(name) || name == QLatin1String(Wire::kQuitLine), qPrintable(line));
-        } else {
-            ++notifications;
-            QVERIFY2(notification.hasMatch(), qPrintable(line));
-            const int code = notification.captured(1).toInt();
-            const bool known = std::any_of(
-                Wire::kNotifications.begin(), Wire::kNotifications.end(), [&](const Wire::NotificationRow &row) {
-                    return static_cast<int>(row.code) == code && notification.captured(2) == QLatin1String(row.name);
-                });
-            QVERIFY2(known, qPrintable(line));
-        }
-        QCOMPARE(line.indexOf('|', 4), 63);
-    }
-    QVERIFY(commands >= 9 && notifications >= 12);
-}
-
-void tst_WireDocument::tableOfRobotsNamesEachOfThem()
-{
-    QStringList documented;
-    for (const QStringList &cells : tableUnder(QStringLiteral("| id | name | when called |")))
-        documented << cells.at(0) + ' ' + cells.at(1);
-    QStringList robots;
-    for (const Robot &robot : ROBOTS)
-        robots << QString(robot.id) + ' ' + robot.name;
-    QCOMPARE(documented, robots);
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_WireDocument, Widgets)

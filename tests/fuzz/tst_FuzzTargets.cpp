@@ -151,87 +151,82 @@ class tst_FuzzTargets : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase()
+    {
+        FuzzApplication::silenceQt();
+        // What is made once is no input's time.
+        for (const FuzzTarget &target : fuzzTargets)
+            target.run(keptInputs(target).first());
+    }
+
     void everyTargetHasInputsAndADictionary_data() { eachTargetIsARow(); }
-    void everyTargetHasInputsAndADictionary();
-    void everyFolderBelongsToATarget();
-    void keptInputsPass_data();
-    void keptInputsPass();
+
+    void everyTargetHasInputsAndADictionary()
+    {
+        QFETCH(const QByteArray, name);
+        const FuzzTarget &target = *findFuzzTarget(name);
+        const QList<QByteArray> words = dictionaryOf(target);
+        QVERIFY(words.size() > 1);
+        QVERIFY(!words.contains(QByteArray()));
+        const QMap<QString, QByteArray> inputs = keptInputs(target);
+        QVERIFY(inputs.size() > 4);
+        for (auto input = inputs.cbegin(); input != inputs.cend(); ++input)
+            QVERIFY2(input->size() <= target.longest, qPrintable(input.key()));
+    }
+
+    void everyFolderBelongsToATarget()
+    {
+        for (const char *kind : {"corpus", "found"}) {
+            const QStringList names = QDir(folderOf(kind, "")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+            for (const QString &name : names)
+                QVERIFY2(findFuzzTarget(name.toLatin1()), qPrintable(name));
+        }
+        QVERIFY(!findFuzzTarget("nothing"));
+    }
+
+    void keptInputsPass_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("input");
+        for (const FuzzTarget &target : fuzzTargets) {
+            const QMap<QString, QByteArray> inputs = keptInputs(target);
+            for (auto input = inputs.cbegin(); input != inputs.cend(); ++input)
+                QTest::addRow("%s %s", target.name, qPrintable(input.key())) << QByteArray(target.name) << *input;
+        }
+    }
+
+    void keptInputsPass()
+    {
+        QFETCH(const QByteArray, name);
+        QFETCH(const QByteArray, input);
+        const FuzzTarget &target = *findFuzzTarget(name);
+        const int cpuMs = cpuMsOf(target, input);
+        QVERIFY2(cpuMs <= mostCpuMs(target), qPrintable(QString::number(cpuMs)));
+    }
+
     void changedInputsPass_data() { eachTargetIsARow(); }
-    void changedInputsPass();
+
+    void changedInputsPass()
+    {
+        QFETCH(const QByteArray, name);
+        const int count =
+            qEnvironmentVariableIsSet("FUZZ_INPUTS") ? qEnvironmentVariableIntValue("FUZZ_INPUTS") : kChangedInputs;
+        const qint64 before = residentMiB();
+        const FuzzTarget &target = *findFuzzTarget(name);
+        Changer changer(target);
+        for (int i = 0; i < count; ++i) {
+            const QByteArray input = changer.next();
+            const int cpuMs = cpuMsOf(target, input);
+            QVERIFY2(cpuMs <= mostCpuMs(target),
+                     qPrintable(QStringLiteral("%1 ms: %2").arg(cpuMs).arg(input.toHex().constData())));
+        }
+        const qint64 growth = residentMiB() - before;
+        QVERIFY2(isSanitized() || growth <= kMostGrowthMiB, qPrintable(QStringLiteral("%1 MiB more").arg(growth)));
+    }
 
 private:
     FuzzApplication m_application{folderForInputs()};
 };
-
-void tst_FuzzTargets::initTestCase()
-{
-    FuzzApplication::silenceQt();
-    // What is made once is no input's time.
-    for (const FuzzTarget &target : fuzzTargets)
-        target.run(keptInputs(target).first());
-}
-
-void tst_FuzzTargets::everyTargetHasInputsAndADictionary()
-{
-    QFETCH(const QByteArray, name);
-    const FuzzTarget &target = *findFuzzTarget(name);
-    const QList<QByteArray> words = dictionaryOf(target);
-    QVERIFY(words.size() > 1);
-    QVERIFY(!words.contains(QByteArray()));
-    const QMap<QString, QByteArray> inputs = keptInputs(target);
-    QVERIFY(inputs.size() > 4);
-    for (auto input = inputs.cbegin(); input != inputs.cend(); ++input)
-        QVERIFY2(input->size() <= target.longest, qPrintable(input.key()));
-}
-
-void tst_FuzzTargets::everyFolderBelongsToATarget()
-{
-    for (const char *kind : {"corpus", "found"}) {
-        const QStringList names = QDir(folderOf(kind, "")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-        for (const QString &name : names)
-            QVERIFY2(findFuzzTarget(name.toLatin1()), qPrintable(name));
-    }
-    QVERIFY(!findFuzzTarget("nothing"));
-}
-
-void tst_FuzzTargets::keptInputsPass_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QByteArray>("input");
-    for (const FuzzTarget &target : fuzzTargets) {
-        const QMap<QString, QByteArray> inputs = keptInputs(target);
-        for (auto input = inputs.cbegin(); input != inputs.cend(); ++input)
-            QTest::addRow("%s %s", target.name, qPrintable(input.key())) << QByteArray(target.name) << *input;
-    }
-}
-
-void tst_FuzzTargets::keptInputsPass()
-{
-    QFETCH(const QByteArray, name);
-    QFETCH(const QByteArray, input);
-    const FuzzTarget &target = *findFuzzTarget(name);
-    const int cpuMs = cpuMsOf(target, input);
-    QVERIFY2(cpuMs <= mostCpuMs(target), qPrintable(QString::number(cpuMs)));
-}
-
-void tst_FuzzTargets::changedInputsPass()
-{
-    QFETCH(const QByteArray, name);
-    const int count =
-        qEnvironmentVariableIsSet("FUZZ_INPUTS") ? qEnvironmentVariableIntValue("FUZZ_INPUTS") : kChangedInputs;
-    const qint64 before = residentMiB();
-    const FuzzTarget &target = *findFuzzTarget(name);
-    Changer changer(target);
-    for (int i = 0; i < count; ++i) {
-        const QByteArray input = changer.next();
-        const int cpuMs = cpuMsOf(target, input);
-        QVERIFY2(cpuMs <= mostCpuMs(target),
-                 qPrintable(QStringLiteral("%1 ms: %2").arg(cpuMs).arg(input.toHex().constData())));
-    }
-    const qint64 growth = residentMiB() - before;
-    QVERIFY2(isSanitized() || growth <= kMostGrowthMiB, qPrintable(QStringLiteral("%1 MiB more").arg(growth)));
-}
 
 // Its application is one of its own.
 #include "support/TestProgram.h"

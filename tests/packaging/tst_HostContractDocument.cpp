@@ -146,128 +146,118 @@ class tst_HostContractDocument : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void everyEventHasItsRow_data();
-    void everyEventHasItsRow();
-    void everyDocumentedCommandIsKnown();
-    void documentedRequestIsWhatArrives_data();
-    void documentedRequestIsWhatArrives();
-    void otherAnswersOfTheInterfaceAreDocumented();
+    void init()
+    {
+        m_host.events.clear();
+        VoipManageMessageProcess::instance()->setSendEvent(&m_host);
+    }
+
+    void cleanup() { VoipManageMessageProcess::instance()->setSendEvent(nullptr); }
+
+    void everyEventHasItsRow_data()
+    {
+        QTest::addColumn<QString>("strSection");
+        QTest::addColumn<bool>("bRequests");
+        QTest::addColumn<int>("iPayload");
+        QTest::newRow("commands") << "Commands" << false << 2;
+        QTest::newRow("requests") << "Requests" << true << 4;
+    }
+
+    void everyEventHasItsRow()
+    {
+        QFETCH(QString, strSection);
+        QFETCH(bool, bRequests);
+        QFETCH(int, iPayload);
+        QStringList expected;
+        for (const HostEvent &event : hostEvents) {
+            if ((event.way == EventWay::Request) == bRequests) {
+                expected.append(
+                    QString("%1 %2 (%3) (%4)")
+                        .arg(int(event.msgId))
+                        .arg(nameOf(event.msgId), lettersOfTable(event.fields), lettersOfTable(event.answer)));
+            }
+        }
+        QStringList documented;
+        const QList<Cells> rows = rowsOf(strSection);
+        for (const Cells &row : rows) {
+            const QString answer = row.constLast().section(", ", 0, 0);
+            documented.append(
+                QString("%1 %2 (%3) (%4)").arg(row[0], row[1], lettersOf(row[iPayload]), lettersOf(answer)));
+        }
+        documented.sort();
+        expected.sort();
+        QVERIFY(!expected.isEmpty());
+        QCOMPARE(documented, expected);
+    }
+
+    void everyDocumentedCommandIsKnown()
+    {
+        const QList<Cells> rows = rowsOf(QStringLiteral("Commands"));
+        QCOMPARE(rows.size(), commandCount);
+        for (const Cells &row : rows) {
+            QVERIFY2(findHostCommand(row[0].toInt()) != nullptr, qPrintable(row[0]));
+        }
+    }
+
+    void documentedRequestIsWhatArrives_data()
+    {
+        QTest::addColumn<Cells>("row");
+        const QList<Cells> rows = rowsOf(QStringLiteral("Requests"));
+        QCOMPARE(rows.size(), static_cast<int>(std::size(hostRequests)));
+        for (const Cells &row : rows) {
+            QTest::newRow(qPrintable(row[0])) << row;
+        }
+    }
+
+    void documentedRequestIsWhatArrives()
+    {
+        QFETCH(Cells, row);
+        QCOMPARE(row.size(), 7);
+        const QMap<QString, const QString &(*)()> receivers = {{"session", sessionPluginId},
+                                                               {"contact", contactPluginId},
+                                                               {"vCard", vcardPluginId},
+                                                               {"message-box", msgBoxPluginId},
+                                                               {"signature-list", signListPluginId}};
+        const Sample sample = samples().value(row[0]);
+        QVERIFY(sample.send && receivers.contains(row[2]));
+        sample.send();
+        const bool posted = m_host.events.isEmpty();
+        QCOMPARE(posted ? QStringLiteral("posted") : QStringLiteral("sent"), row[3]);
+        QCoreApplication::sendPostedEvents(&m_host);
+
+        QCOMPARE(m_host.events.size(), 1);
+        const ReceivedEvent event = m_host.events.constFirst();
+        QCOMPARE(QString::number(event.msgId), row[0]);
+        QCOMPARE(event.receiverId, receivers.value(row[2])());
+        QCOMPARE(event.bAsync, posted);
+        QCOMPARE(event.senderId == vcardPluginId(),
+                 row[5].contains(QLatin1String("names the vCard plug-in as its sender")));
+        QCOMPARE(event.senderId == voipPluginId(), !row[5].contains(QLatin1String("as its sender")));
+
+        // Exactly the fields of the row: one byte less and the last field is missing, one more and something is left.
+        PayloadReader reader = event.reader();
+        QStringList fields;
+        const QStringList types = row[4].split(QStringLiteral(", "), Qt::SkipEmptyParts);
+        for (const QString &type : types) {
+            fields.append(takeField(reader, type.section(' ', 0, 0)));
+        }
+        QCOMPARE(fields, sample.fields);
+        QVERIFY(reader.isComplete());
+        reader.take<qint8>();
+        QVERIFY(!reader.isComplete());
+
+        // A question, and nothing else, has an answer to be given.
+        QCOMPARE(!row[6].isEmpty(), QStringList({"4735", "4157", "4337"}).contains(row[0]));
+    }
+
+    void otherAnswersOfTheInterfaceAreDocumented()
+    {
+        QVERIFY(fileText(VOIP_DOCUMENT).contains(QStringLiteral("| \"%1\", the name to go by |").arg(voipPluginId())));
+    }
 
 private:
     FakeHost m_host;
 };
-
-void tst_HostContractDocument::init()
-{
-    m_host.events.clear();
-    VoipManageMessageProcess::instance()->setSendEvent(&m_host);
-}
-
-void tst_HostContractDocument::cleanup()
-{
-    VoipManageMessageProcess::instance()->setSendEvent(nullptr);
-}
-
-void tst_HostContractDocument::everyEventHasItsRow_data()
-{
-    QTest::addColumn<QString>("strSection");
-    QTest::addColumn<bool>("bRequests");
-    QTest::addColumn<int>("iPayload");
-    QTest::newRow("commands") << "Commands" << false << 2;
-    QTest::newRow("requests") << "Requests" << true << 4;
-}
-
-void tst_HostContractDocument::everyEventHasItsRow()
-{
-    QFETCH(QString, strSection);
-    QFETCH(bool, bRequests);
-    QFETCH(int, iPayload);
-    QStringList expected;
-    for (const HostEvent &event : hostEvents) {
-        if ((event.way == EventWay::Request) == bRequests) {
-            expected.append(QString("%1 %2 (%3) (%4)")
-                                .arg(int(event.msgId))
-                                .arg(nameOf(event.msgId), lettersOfTable(event.fields), lettersOfTable(event.answer)));
-        }
-    }
-    QStringList documented;
-    const QList<Cells> rows = rowsOf(strSection);
-    for (const Cells &row : rows) {
-        const QString answer = row.constLast().section(", ", 0, 0);
-        documented.append(QString("%1 %2 (%3) (%4)").arg(row[0], row[1], lettersOf(row[iPayload]), lettersOf(answer)));
-    }
-    documented.sort();
-    expected.sort();
-    QVERIFY(!expected.isEmpty());
-    QCOMPARE(documented, expected);
-}
-
-void tst_HostContractDocument::everyDocumentedCommandIsKnown()
-{
-    const QList<Cells> rows = rowsOf(QStringLiteral("Commands"));
-    QCOMPARE(rows.size(), commandCount);
-    for (const Cells &row : rows) {
-        QVERIFY2(findHostCommand(row[0].toInt()) != nullptr, qPrintable(row[0]));
-    }
-}
-
-void tst_HostContractDocument::documentedRequestIsWhatArrives_data()
-{
-    QTest::addColumn<Cells>("row");
-    const QList<Cells> rows = rowsOf(QStringLiteral("Requests"));
-    QCOMPARE(rows.size(), static_cast<int>(std::size(hostRequests)));
-    for (const Cells &row : rows) {
-        QTest::newRow(qPrintable(row[0])) << row;
-    }
-}
-
-void tst_HostContractDocument::documentedRequestIsWhatArrives()
-{
-    QFETCH(Cells, row);
-    QCOMPARE(row.size(), 7);
-    const QMap<QString, const QString &(*)()> receivers = {{"session", sessionPluginId},
-                                                           {"contact", contactPluginId},
-                                                           {"vCard", vcardPluginId},
-                                                           {"message-box", msgBoxPluginId},
-                                                           {"signature-list", signListPluginId}};
-    const Sample sample = samples().value(row[0]);
-    QVERIFY(sample.send && receivers.contains(row[2]));
-    sample.send();
-    const bool posted = m_host.events.isEmpty();
-    QCOMPARE(posted ? QStringLiteral("posted") : QStringLiteral("sent"), row[3]);
-    QCoreApplication::sendPostedEvents(&m_host);
-
-    QCOMPARE(m_host.events.size(), 1);
-    const ReceivedEvent event = m_host.events.constFirst();
-    QCOMPARE(QString::number(event.msgId), row[0]);
-    QCOMPARE(event.receiverId, receivers.value(row[2])());
-    QCOMPARE(event.bAsync, posted);
-    QCOMPARE(event.senderId == vcardPluginId(),
-             row[5].contains(QLatin1String("names the vCard plug-in as its sender")));
-    QCOMPARE(event.senderId == voipPluginId(), !row[5].contains(QLatin1String("as its sender")));
-
-    // Exactly the fields of the row: one byte less and the last field is missing, one more and something is left.
-    PayloadReader reader = event.reader();
-    QStringList fields;
-    const QStringList types = row[4].split(QStringLiteral(", "), Qt::SkipEmptyParts);
-    for (const QString &type : types) {
-        fields.append(takeField(reader, type.section(' ', 0, 0)));
-    }
-    QCOMPARE(fields, sample.fields);
-    QVERIFY(reader.isComplete());
-    reader.take<qint8>();
-    QVERIFY(!reader.isComplete());
-
-    // A question, and nothing else, has an answer to be given.
-    QCOMPARE(!row[6].isEmpty(), QStringList({"4735", "4157", "4337"}).contains(row[0]));
-}
-
-void tst_HostContractDocument::otherAnswersOfTheInterfaceAreDocumented()
-{
-    QVERIFY(fileText(VOIP_DOCUMENT).contains(QStringLiteral("| \"%1\", the name to go by |").arg(voipPluginId())));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_HostContractDocument, Widgets)

@@ -74,35 +74,286 @@ class tst_HostCommands : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void thereAreNineCommands();
-    void existCallAnswersExactlyOneBool();
-    void videoCallIsFalseAlsoDuringAVideoCall();
-    void callSingleUserReadsTheFlagBeforeTheUser_data();
-    void callSingleUserReadsTheFlagBeforeTheUser();
-    void callConferenceReadsTheTextBeforeTheFlag();
-    void callConferenceTakesAListWrittenByHand();
-    void callConferenceWithAHostileCountEndsAtThePayloadsEnd();
-    void responseIsPassedOn_data();
-    void responseIsPassedOn();
-    void connectStatusIsPassedOn();
-    void userInfoReachesTheCallWindow();
-    void cardIsReadWhileTheEventIsHandledOnly();
-    void userInfoWithZeroAddressStandsForADefaultCard_data();
-    void userInfoWithZeroAddressStandsForADefaultCard();
-    void showVoiceConfIsPassedOn();
-    void shortPayloadsReadAsDefaults();
-    void truncatedAndRandomPayloadsDoNoHarm_data();
-    void truncatedAndRandomPayloadsDoNoHarm();
-    void exitEndsTheLink();
+    void initTestCase()
+    {
+        QVERIFY2(m_server.listen(QStringLiteral("VoipSDK")), qPrintable(m_server.errorString()));
+        m_login.m_strUid = QStringLiteral("me");
+        m_login.m_strDomain = QStringLiteral("d");
+        m_login.m_strRegValue = QStringLiteral("value");
+        m_log.context.setLoginData(&m_login);
+        VoipManageMessageProcess::instance()->setSendEvent(&m_host);
+        // The first command creates the manager and its link, so that each test finds both, whichever is chosen.
+        query(MSG_IS_EXIST_CALL, QByteArray());
+        QTRY_VERIFY_WITH_TIMEOUT(m_server.hasPendingConnections(), kPatienceMs);
+        m_link = m_server.nextPendingConnection();
+    }
+
+    void init()
+    {
+        m_host.events.clear();
+        m_log.take();
+    }
+
+    void cleanup()
+    {
+        CVoipManage::instance()->hangupVoipCall();
+        if (m_link != nullptr) {
+            // Nothing of this test may be taken for a line of the next.
+            CVoipManage::instance()->sendVoipMessage(QStringLiteral("{\"messagetype\":\"end of test\"}\n"));
+            QVERIFY(!nextLine(QStringLiteral("end of test")).isEmpty());
+        }
+    }
+
+    void thereAreNineCommands()
+    {
+        QList<int> numbers;
+        for (int msgId = -1; msgId < 20000; ++msgId) {
+            if (const HostCommand *row = findHostCommand(msgId)) {
+                QCOMPARE(static_cast<int>(row->msgId), msgId);
+                numbers.append(msgId);
+            }
+        }
+        QCOMPARE(numbers, (QList<int>{4105, 4135, 4470, 4491, 4492, 4732, 4733, 4736, 4763}));
+    }
+
+    void existCallAnswersExactlyOneBool()
+    {
+        QCOMPARE(query(MSG_IS_EXIST_CALL, "whatever it held before"), packPayload(false));
+        ManagerState::call().peerId = peer;
+        QCOMPARE(query(MSG_IS_EXIST_CALL, QByteArray()), packPayload(true));
+        QCOMPARE(packPayload(true).size(), 1);
+    }
+
+    void videoCallIsFalseAlsoDuringAVideoCall()
+    {
+        command(MSG_CALL_SINGLE_USER, packPayload(true, peer));
+        QVERIFY(ManagerState::call().bIsVideo);
+        QCOMPARE(query(MSG_IS_VIDEO_CALL, "whatever it held before"), packPayload(false));
+    }
+
+    void callSingleUserReadsTheFlagBeforeTheUser_data()
+    {
+        QTest::addColumn<bool>("bVideo");
+        QTest::newRow("voice") << false;
+        QTest::newRow("video") << true;
+    }
+
+    void callSingleUserReadsTheFlagBeforeTheUser()
+    {
+        QFETCH(bool, bVideo);
+        command(MSG_CALL_SINGLE_USER, packPayload(bVideo, peer));
+        const QJsonObject line = nextLine(QStringLiteral("CallUser"));
+        QCOMPARE(line.value(QStringLiteral("param1")).toString(), peer);
+        QCOMPARE(line.value(QStringLiteral("param2")), QJsonValue(bVideo));
+    }
+
+    void callConferenceReadsTheTextBeforeTheFlag()
+    {
+        const QStringList members{QStringLiteral("u2"), QStringLiteral("u3")};
+        command(MSG_CALL_CONFERENCE, packPayload(members, QStringLiteral("题目"), true));
+        const QJsonObject line = nextLine(QStringLiteral("RequestConference"));
+        QCOMPARE(line.value(QStringLiteral("param2")).toArray(), QJsonArray::fromStringList(members));
+        QCOMPARE(line.value(QStringLiteral("param3")), QJsonValue(true));
+        QCOMPARE(line.value(QStringLiteral("param4")).toString(), QStringLiteral("题目"));
+    }
+
+    void callConferenceTakesAListWrittenByHand()
+    {
+        command(MSG_CALL_CONFERENCE,
+                packPayload(2, QStringLiteral("u2"), QStringLiteral("u3"), QStringLiteral("t"), false));
+        const QJsonObject line = nextLine(QStringLiteral("RequestConference"));
+        QCOMPARE(line.value(QStringLiteral("param2")).toArray().size(), 2);
+        QCOMPARE(line.value(QStringLiteral("param3")), QJsonValue(false));
+        QCOMPARE(line.value(QStringLiteral("param4")).toString(), QStringLiteral("t"));
+    }
+
+    void callConferenceWithAHostileCountEndsAtThePayloadsEnd()
+    {
+        command(MSG_CALL_CONFERENCE, packPayload(0x7fffffff, QStringLiteral("u2")));
+        const QJsonObject line = nextLine(QStringLiteral("RequestConference"));
+        QCOMPARE(line.value(QStringLiteral("param2")).toArray(), QJsonArray{QStringLiteral("u2")});
+        QCOMPARE(line.value(QStringLiteral("param3")), QJsonValue(false));
+        QCOMPARE(line.value(QStringLiteral("param4")), QJsonValue(QString()));
+    }
+
+    void responseIsPassedOn_data()
+    {
+        QTest::addColumn<bool>("bAccept");
+        QTest::addColumn<QString>("messageType");
+        QTest::newRow("accept") << true << "AcceptCall";
+        QTest::newRow("reject") << false << "RejectCall";
+    }
+
+    void responseIsPassedOn()
+    {
+        QFETCH(bool, bAccept);
+        QFETCH(QString, messageType);
+        ManagerState::call().peerId = peer;
+        command(MSG_RESPONSE_VOIP_REQUEST, packPayload(bAccept));
+        QVERIFY(!nextLine(messageType).isEmpty());
+    }
+
+    void connectStatusIsPassedOn()
+    {
+        command(MSG_CLIENT_CONNECT_STATUS, packPayload(true));
+        QCOMPARE(nextLine(QStringLiteral("RegeditUser")).value(QStringLiteral("param1")).toString(),
+                 QStringLiteral("me"));
+        command(MSG_CLIENT_CONNECT_STATUS, packPayload(false));
+        QCOMPARE(nextLine(QStringLiteral("UnReg")).value(QStringLiteral("param1")).toString(), QStringLiteral("me"));
+    }
+
+    void userInfoReachesTheCallWindow()
+    {
+        command(MSG_CALL_SINGLE_USER, packPayload(false, peer));
+        VcardInfo card;
+        card.m_strNickName = QStringLiteral("甲");
+        command(MSG_UPDATE_USER_INFO, packPayload(peer + QStringLiteral("@d"), addressOf(card)));
+        QVERIFY(logText().contains(QStringLiteral("updateUserInfo userID = u1@d")));
+        QVERIFY(callWindowShows(QStringLiteral("甲")));
+    }
+
+    void cardIsReadWhileTheEventIsHandledOnly()
+    {
+        command(MSG_CALL_SINGLE_USER, packPayload(false, peer));
+        VcardInfo card;
+        card.m_strNickName = QStringLiteral("丙");
+        command(MSG_UPDATE_USER_INFO, packPayload(peer + QStringLiteral("@d"), addressOf(card)));
+        // From here on the host may do with its record as it likes.
+        card.m_strNickName = QStringLiteral("丁");
+        QCoreApplication::processEvents();
+        QVERIFY(callWindowShows(QStringLiteral("丙")));
+        QVERIFY(!callWindowShows(QStringLiteral("丁")));
+    }
+
+    void userInfoWithZeroAddressStandsForADefaultCard_data()
+    {
+        QTest::addColumn<QByteArray>("payload");
+        QTest::addColumn<QString>("user");
+        QTest::newRow("zero") << packPayload(peer, qint64(0)) << peer;
+        QTest::newRow("no address") << packPayload(peer) << peer;
+        QTest::newRow("half an address") << packPayload(peer, qint32(-1)) << peer;
+        QTest::newRow("nothing") << QByteArray() << QString();
+    }
+
+    void userInfoWithZeroAddressStandsForADefaultCard()
+    {
+        QFETCH(QByteArray, payload);
+        QFETCH(QString, user);
+        command(MSG_UPDATE_USER_INFO, payload);
+        QVERIFY(logText().endsWith(QStringLiteral("updateUserInfo userID = ") + user));
+    }
+
+    void showVoiceConfIsPassedOn()
+    {
+        command(MSG_SHOW_VOICE_CONF);
+        QVERIFY(logText().contains(QStringLiteral("show voice conf detaileInfo!")));
+    }
+
+    void shortPayloadsReadAsDefaults()
+    {
+        command(MSG_CALL_SINGLE_USER);
+        QJsonObject line = nextLine(QStringLiteral("CallUser"));
+        QCOMPARE(line.value(QStringLiteral("param1")), QJsonValue(QString()));
+        QCOMPARE(line.value(QStringLiteral("param2")), QJsonValue(false));
+
+        command(MSG_CALL_SINGLE_USER, packPayload(true));
+        line = nextLine(QStringLiteral("CallUser"));
+        QCOMPARE(line.value(QStringLiteral("param1")), QJsonValue(QString()));
+        QCOMPARE(line.value(QStringLiteral("param2")), QJsonValue(true));
+
+        command(MSG_RESPONSE_VOIP_REQUEST);
+        QVERIFY(!nextLine(QStringLiteral("RejectCall")).isEmpty());
+
+        command(MSG_CLIENT_CONNECT_STATUS);
+        QVERIFY(!nextLine(QStringLiteral("UnReg")).isEmpty());
+    }
+
+    void truncatedAndRandomPayloadsDoNoHarm_data()
+    {
+        QTest::addColumn<int>("msgId");
+        QTest::addColumn<QByteArray>("whole");
+        QTest::addColumn<int>("randomCount");
+        const QStringList members{peer, QStringLiteral("u2")};
+        // Each call shows a window, which takes its time.
+        constexpr int few = 4;
+        constexpr int many = 40;
+        QTest::newRow("updateUserInfo") << int(MSG_UPDATE_USER_INFO) << packPayload(peer, qint64(0)) << many;
+        QTest::newRow("clientConnectStatus") << int(MSG_CLIENT_CONNECT_STATUS) << packPayload(true) << many;
+        QTest::newRow("callSingleUser") << int(MSG_CALL_SINGLE_USER) << packPayload(true, peer) << few;
+        QTest::newRow("isExistCall") << int(MSG_IS_EXIST_CALL) << QByteArray() << many;
+        QTest::newRow("isVideoCall") << int(MSG_IS_VIDEO_CALL) << QByteArray() << many;
+        QTest::newRow("responseVoipRequest") << int(MSG_RESPONSE_VOIP_REQUEST) << packPayload(true) << few;
+        QTest::newRow("callConference") << int(MSG_CALL_CONFERENCE) << packPayload(members, QStringLiteral("t"), true)
+                                        << few;
+        QTest::newRow("showVoiceConf") << int(MSG_SHOW_VOICE_CONF) << QByteArray() << many;
+    }
+
+    void truncatedAndRandomPayloadsDoNoHarm()
+    {
+        QFETCH(int, msgId);
+        QFETCH(QByteArray, whole);
+        QFETCH(int, randomCount);
+        QList<QByteArray> payloads;
+        for (int size = 0; size <= whole.size(); ++size) {
+            payloads.append(whole.left(size));
+        }
+        std::mt19937 random(static_cast<std::mt19937::result_type>(msgId));
+        const int count = payloads.size() + randomCount;
+        while (payloads.size() < count) {
+            const QByteArray payload = randomPayload(random);
+            if (msgId != MSG_UPDATE_USER_INFO || !holdsAnAddress(payload)) {
+                payloads.append(payload);
+            }
+        }
+        for (const QByteArray &payload : qAsConst(payloads)) {
+            query(static_cast<EMsgId>(msgId), payload);
+            CVoipManage::instance()->hangupVoipCall();
+            QCOMPARE(query(MSG_IS_EXIST_CALL, payload), packPayload(false));
+        }
+    }
+
+    void exitEndsTheLink()
+    {
+        command(MSG_EXIT_VOIP, "bytes that nobody reads");
+        QTRY_COMPARE_WITH_TIMEOUT(m_link->state(), QLocalSocket::UnconnectedState, kPatienceMs);
+        QVERIFY(m_link->readAll().endsWith("quit\n"));
+        m_link = nullptr;
+    }
 
 private:
-    void command(EMsgId msgId, const QByteArray &payload = QByteArray());
-    QByteArray query(EMsgId msgId, const QByteArray &payload);
-    QJsonObject nextLine(const QString &messageType);
-    QString logText();
+    void command(EMsgId msgId, const QByteArray &payload = QByteArray())
+    {
+        BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false, payload);
+        QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &event);
+        QCOMPARE(event.data, payload);
+    }
+
+    QByteArray query(EMsgId msgId, const QByteArray &payload)
+    {
+        BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false, payload);
+        QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &event);
+        return event.data;
+    }
+
+    // The next line of that type on the wire; an empty object when none comes.
+    QJsonObject nextLine(const QString &messageType)
+    {
+        QJsonObject found;
+        const bool came = QTest::qWaitFor(
+            [&] {
+                while (m_link->canReadLine()) {
+                    found = QJsonDocument::fromJson(m_link->readLine()).object();
+                    if (found.value(QStringLiteral("messagetype")).toString() == messageType) {
+                        return true;
+                    }
+                }
+                return false;
+            },
+            kPatienceMs);
+        return came ? found : QJsonObject();
+    }
+
+    QString logText() { return m_log.take().join(QLatin1Char('\n')); }
 
     LogCapture m_log;
     LoginData m_login;
@@ -110,288 +361,6 @@ private:
     QLocalServer m_server;
     QLocalSocket *m_link = nullptr;
 };
-
-void tst_HostCommands::initTestCase()
-{
-    QVERIFY2(m_server.listen(QStringLiteral("VoipSDK")), qPrintable(m_server.errorString()));
-    m_login.m_strUid = QStringLiteral("me");
-    m_login.m_strDomain = QStringLiteral("d");
-    m_login.m_strRegValue = QStringLiteral("value");
-    m_log.context.setLoginData(&m_login);
-    VoipManageMessageProcess::instance()->setSendEvent(&m_host);
-    // The first command creates the manager and its link, so that each test finds both, whichever is chosen.
-    query(MSG_IS_EXIST_CALL, QByteArray());
-    QTRY_VERIFY_WITH_TIMEOUT(m_server.hasPendingConnections(), kPatienceMs);
-    m_link = m_server.nextPendingConnection();
-}
-
-void tst_HostCommands::init()
-{
-    m_host.events.clear();
-    m_log.take();
-}
-
-void tst_HostCommands::cleanup()
-{
-    CVoipManage::instance()->hangupVoipCall();
-    if (m_link != nullptr) {
-        // Nothing of this test may be taken for a line of the next.
-        CVoipManage::instance()->sendVoipMessage(QStringLiteral("{\"messagetype\":\"end of test\"}\n"));
-        QVERIFY(!nextLine(QStringLiteral("end of test")).isEmpty());
-    }
-}
-
-void tst_HostCommands::command(EMsgId msgId, const QByteArray &payload)
-{
-    BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false, payload);
-    QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &event);
-    QCOMPARE(event.data, payload);
-}
-
-QByteArray tst_HostCommands::query(EMsgId msgId, const QByteArray &payload)
-{
-    BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false, payload);
-    QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &event);
-    return event.data;
-}
-
-// The next line of that type on the wire; an empty object when none comes.
-QJsonObject tst_HostCommands::nextLine(const QString &messageType)
-{
-    QJsonObject found;
-    const bool came = QTest::qWaitFor(
-        [&] {
-            while (m_link->canReadLine()) {
-                found = QJsonDocument::fromJson(m_link->readLine()).object();
-                if (found.value(QStringLiteral("messagetype")).toString() == messageType) {
-                    return true;
-                }
-            }
-            return false;
-        },
-        kPatienceMs);
-    return came ? found : QJsonObject();
-}
-
-QString tst_HostCommands::logText()
-{
-    return m_log.take().join(QLatin1Char('\n'));
-}
-
-void tst_HostCommands::thereAreNineCommands()
-{
-    QList<int> numbers;
-    for (int msgId = -1; msgId < 20000; ++msgId) {
-        if (const HostCommand *row = findHostCommand(msgId)) {
-            QCOMPARE(static_cast<int>(row->msgId), msgId);
-            numbers.append(msgId);
-        }
-    }
-    QCOMPARE(numbers, (QList<int>{4105, 4135, 4470, 4491, 4492, 4732, 4733, 4736, 4763}));
-}
-
-void tst_HostCommands::existCallAnswersExactlyOneBool()
-{
-    QCOMPARE(query(MSG_IS_EXIST_CALL, "whatever it held before"), packPayload(false));
-    ManagerState::call().peerId = peer;
-    QCOMPARE(query(MSG_IS_EXIST_CALL, QByteArray()), packPayload(true));
-    QCOMPARE(packPayload(true).size(), 1);
-}
-
-void tst_HostCommands::videoCallIsFalseAlsoDuringAVideoCall()
-{
-    command(MSG_CALL_SINGLE_USER, packPayload(true, peer));
-    QVERIFY(ManagerState::call().bIsVideo);
-    QCOMPARE(query(MSG_IS_VIDEO_CALL, "whatever it held before"), packPayload(false));
-}
-
-void tst_HostCommands::callSingleUserReadsTheFlagBeforeTheUser_data()
-{
-    QTest::addColumn<bool>("bVideo");
-    QTest::newRow("voice") << false;
-    QTest::newRow("video") << true;
-}
-
-void tst_HostCommands::callSingleUserReadsTheFlagBeforeTheUser()
-{
-    QFETCH(bool, bVideo);
-    command(MSG_CALL_SINGLE_USER, packPayload(bVideo, peer));
-    const QJsonObject line = nextLine(QStringLiteral("CallUser"));
-    QCOMPARE(line.value(QStringLiteral("param1")).toString(), peer);
-    QCOMPARE(line.value(QStringLiteral("param2")), QJsonValue(bVideo));
-}
-
-void tst_HostCommands::callConferenceReadsTheTextBeforeTheFlag()
-{
-    const QStringList members{QStringLiteral("u2"), QStringLiteral("u3")};
-    command(MSG_CALL_CONFERENCE, packPayload(members, QStringLiteral("题目"), true));
-    const QJsonObject line = nextLine(QStringLiteral("RequestConference"));
-    QCOMPARE(line.value(QStringLiteral("param2")).toArray(), QJsonArray::fromStringList(members));
-    QCOMPARE(line.value(QStringLiteral("param3")), QJsonValue(true));
-    QCOMPARE(line.value(QStringLiteral("param4")).toString(), QStringLiteral("题目"));
-}
-
-void tst_HostCommands::callConferenceTakesAListWrittenByHand()
-{
-    command(MSG_CALL_CONFERENCE,
-            packPayload(2, QStringLiteral("u2"), QStringLiteral("u3"), QStringLiteral("t"), false));
-    const QJsonObject line = nextLine(QStringLiteral("RequestConference"));
-    QCOMPARE(line.value(QStringLiteral("param2")).toArray().size(), 2);
-    QCOMPARE(line.value(QStringLiteral("param3")), QJsonValue(false));
-    QCOMPARE(line.value(QStringLiteral("param4")).toString(), QStringLiteral("t"));
-}
-
-void tst_HostCommands::callConferenceWithAHostileCountEndsAtThePayloadsEnd()
-{
-    command(MSG_CALL_CONFERENCE, packPayload(0x7fffffff, QStringLiteral("u2")));
-    const QJsonObject line = nextLine(QStringLiteral("RequestConference"));
-    QCOMPARE(line.value(QStringLiteral("param2")).toArray(), QJsonArray{QStringLiteral("u2")});
-    QCOMPARE(line.value(QStringLiteral("param3")), QJsonValue(false));
-    QCOMPARE(line.value(QStringLiteral("param4")), QJsonValue(QString()));
-}
-
-void tst_HostCommands::responseIsPassedOn_data()
-{
-    QTest::addColumn<bool>("bAccept");
-    QTest::addColumn<QString>("messageType");
-    QTest::newRow("accept") << true << "AcceptCall";
-    QTest::newRow("reject") << false << "RejectCall";
-}
-
-void tst_HostCommands::responseIsPassedOn()
-{
-    QFETCH(bool, bAccept);
-    QFETCH(QString, messageType);
-    ManagerState::call().peerId = peer;
-    command(MSG_RESPONSE_VOIP_REQUEST, packPayload(bAccept));
-    QVERIFY(!nextLine(messageType).isEmpty());
-}
-
-void tst_HostCommands::connectStatusIsPassedOn()
-{
-    command(MSG_CLIENT_CONNECT_STATUS, packPayload(true));
-    QCOMPARE(nextLine(QStringLiteral("RegeditUser")).value(QStringLiteral("param1")).toString(), QStringLiteral("me"));
-    command(MSG_CLIENT_CONNECT_STATUS, packPayload(false));
-    QCOMPARE(nextLine(QStringLiteral("UnReg")).value(QStringLiteral("param1")).toString(), QStringLiteral("me"));
-}
-
-void tst_HostCommands::userInfoReachesTheCallWindow()
-{
-    command(MSG_CALL_SINGLE_USER, packPayload(false, peer));
-    VcardInfo card;
-    card.m_strNickName = QStringLiteral("甲");
-    command(MSG_UPDATE_USER_INFO, packPayload(peer + QStringLiteral("@d"), addressOf(card)));
-    QVERIFY(logText().contains(QStringLiteral("updateUserInfo userID = u1@d")));
-    QVERIFY(callWindowShows(QStringLiteral("甲")));
-}
-
-void tst_HostCommands::cardIsReadWhileTheEventIsHandledOnly()
-{
-    command(MSG_CALL_SINGLE_USER, packPayload(false, peer));
-    VcardInfo card;
-    card.m_strNickName = QStringLiteral("丙");
-    command(MSG_UPDATE_USER_INFO, packPayload(peer + QStringLiteral("@d"), addressOf(card)));
-    // From here on the host may do with its record as it likes.
-    card.m_strNickName = QStringLiteral("丁");
-    QCoreApplication::processEvents();
-    QVERIFY(callWindowShows(QStringLiteral("丙")));
-    QVERIFY(!callWindowShows(QStringLiteral("丁")));
-}
-
-void tst_HostCommands::userInfoWithZeroAddressStandsForADefaultCard_data()
-{
-    QTest::addColumn<QByteArray>("payload");
-    QTest::addColumn<QString>("user");
-    QTest::newRow("zero") << packPayload(peer, qint64(0)) << peer;
-    QTest::newRow("no address") << packPayload(peer) << peer;
-    QTest::newRow("half an address") << packPayload(peer, qint32(-1)) << peer;
-    QTest::newRow("nothing") << QByteArray() << QString();
-}
-
-void tst_HostCommands::userInfoWithZeroAddressStandsForADefaultCard()
-{
-    QFETCH(QByteArray, payload);
-    QFETCH(QString, user);
-    command(MSG_UPDATE_USER_INFO, payload);
-    QVERIFY(logText().endsWith(QStringLiteral("updateUserInfo userID = ") + user));
-}
-
-void tst_HostCommands::showVoiceConfIsPassedOn()
-{
-    command(MSG_SHOW_VOICE_CONF);
-    QVERIFY(logText().contains(QStringLiteral("show voice conf detaileInfo!")));
-}
-
-void tst_HostCommands::shortPayloadsReadAsDefaults()
-{
-    command(MSG_CALL_SINGLE_USER);
-    QJsonObject line = nextLine(QStringLiteral("CallUser"));
-    QCOMPARE(line.value(QStringLiteral("param1")), QJsonValue(QString()));
-    QCOMPARE(line.value(QStringLiteral("param2")), QJsonValue(false));
-
-    command(MSG_CALL_SINGLE_USER, packPayload(true));
-    line = nextLine(QStringLiteral("CallUser"));
-    QCOMPARE(line.value(QStringLiteral("param1")), QJsonValue(QString()));
-    QCOMPARE(line.value(QStringLiteral("param2")), QJsonValue(true));
-
-    command(MSG_RESPONSE_VOIP_REQUEST);
-    QVERIFY(!nextLine(QStringLiteral("RejectCall")).isEmpty());
-
-    command(MSG_CLIENT_CONNECT_STATUS);
-    QVERIFY(!nextLine(QStringLiteral("UnReg")).isEmpty());
-}
-
-void tst_HostCommands::truncatedAndRandomPayloadsDoNoHarm_data()
-{
-    QTest::addColumn<int>("msgId");
-    QTest::addColumn<QByteArray>("whole");
-    QTest::addColumn<int>("randomCount");
-    const QStringList members{peer, QStringLiteral("u2")};
-    // Each call shows a window, which takes its time.
-    constexpr int few = 4;
-    constexpr int many = 40;
-    QTest::newRow("updateUserInfo") << int(MSG_UPDATE_USER_INFO) << packPayload(peer, qint64(0)) << many;
-    QTest::newRow("clientConnectStatus") << int(MSG_CLIENT_CONNECT_STATUS) << packPayload(true) << many;
-    QTest::newRow("callSingleUser") << int(MSG_CALL_SINGLE_USER) << packPayload(true, peer) << few;
-    QTest::newRow("isExistCall") << int(MSG_IS_EXIST_CALL) << QByteArray() << many;
-    QTest::newRow("isVideoCall") << int(MSG_IS_VIDEO_CALL) << QByteArray() << many;
-    QTest::newRow("responseVoipRequest") << int(MSG_RESPONSE_VOIP_REQUEST) << packPayload(true) << few;
-    QTest::newRow("callConference") << int(MSG_CALL_CONFERENCE) << packPayload(members, QStringLiteral("t"), true)
-                                    << few;
-    QTest::newRow("showVoiceConf") << int(MSG_SHOW_VOICE_CONF) << QByteArray() << many;
-}
-
-void tst_HostCommands::truncatedAndRandomPayloadsDoNoHarm()
-{
-    QFETCH(int, msgId);
-    QFETCH(QByteArray, whole);
-    QFETCH(int, randomCount);
-    QList<QByteArray> payloads;
-    for (int size = 0; size <= whole.size(); ++size) {
-        payloads.append(whole.left(size));
-    }
-    std::mt19937 random(static_cast<std::mt19937::result_type>(msgId));
-    const int count = payloads.size() + randomCount;
-    while (payloads.size() < count) {
-        const QByteArray payload = randomPayload(random);
-        if (msgId != MSG_UPDATE_USER_INFO || !holdsAnAddress(payload)) {
-            payloads.append(payload);
-        }
-    }
-    for (const QByteArray &payload : qAsConst(payloads)) {
-        query(static_cast<EMsgId>(msgId), payload);
-        CVoipManage::instance()->hangupVoipCall();
-        QCOMPARE(query(MSG_IS_EXIST_CALL, payload), packPayload(false));
-    }
-}
-
-void tst_HostCommands::exitEndsTheLink()
-{
-    command(MSG_EXIT_VOIP, "bytes that nobody reads");
-    QTRY_COMPARE_WITH_TIMEOUT(m_link->state(), QLocalSocket::UnconnectedState, kPatienceMs);
-    QVERIFY(m_link->readAll().endsWith("quit\n"));
-    m_link = nullptr;
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_HostCommands, Widgets)

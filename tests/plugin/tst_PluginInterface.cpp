@@ -7,23 +7,17 @@ class tst_PluginInterface : public QObject
     Q_OBJECT
 
 private slots:
-    void operationsStandInTheSlotOrderOfTheHost();
-    void interfaceIdIsTheHosts();
+    void operationsStandInTheSlotOrderOfTheHost()
+    {
+        QStringList called;
+        PluginInterface *plugin = new OperationRecorder<PluginInterface>(called);
+        callEachSlot<DestructorOnly>(plugin);
+        delete plugin;
+        QCOMPARE(called, operationsInOrder() << "destructor");
+    }
+
+    void interfaceIdIsTheHosts() { QCOMPARE(qobject_interface_iid<PluginInterface *>(), "kelvarim/1.0"); }
 };
-
-void tst_PluginInterface::operationsStandInTheSlotOrderOfTheHost()
-{
-    QStringList called;
-    PluginInterface *plugin = new OperationRecorder<PluginInterface>(called);
-    callEachSlot<DestructorOnly>(plugin);
-    delete plugin;
-    QCOMPARE(called, operationsInOrder() << "destructor");
-}
-
-void tst_PluginInterface::interfaceIdIsTheHosts()
-{
-    QCOMPARE(qobject_interface_iid<PluginInterface *>(), "kelvarim/1.0");
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_PluginInterface, Guiless)

@@ -27,33 +27,328 @@ class tst_VoipManageEventProcess : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void thereAreTenRequests();
-    void declaresNoSignalsSlotsOrPropertiesOfItsOwn();
-    void eachRequestIsBuiltAsTheHostExpects_data();
-    void eachRequestIsBuiltAsTheHostExpects();
-    void callFinishedBeginsWithTheFlagThenTheUser();
-    void createConferenceNamesTheVcardPluginAsSender();
-    void strangerCardsArePostedNotSent();
-    void synchronousEventsAreFreedAfterDelivery_data();
-    void synchronousEventsAreFreedAfterDelivery();
-    void closingEventsStayUndeleted_data();
-    void closingEventsStayUndeleted();
-    void friendOfTheSharedMapIsNeverAskedFor();
-    void friendOfTheSharedMapIsACopy();
-    void friendIsAskedForWhenTheMapHasAnother();
-    void unknownFriendIsCopiedFromTheAnsweredAddress();
-    void unansweredFriendIsADefaultRecord_data();
-    void unansweredFriendIsADefaultRecord();
-    void existenceIsReadFromTheAnswer();
-    void unansweredExistenceReadsItsOwnQuestion();
-    void membersToAddAreReadFromTheAnswer();
-    void unansweredMembersAreThoseOfTheQuestion();
-    void hostileMemberAnswerGivesAnEmptyList_data();
-    void hostileMemberAnswerGivesAnEmptyList();
-    void requestsWithoutHostReturnDefaults();
-    void receiverMayDeliverFurtherRequestsMeanwhile();
+    void init()
+    {
+        m_host = std::make_unique<FakeHost>();
+        VoipManageMessageProcess::instance()->setSendEvent(host());
+        m_context.setFriendDataMap({});
+        SharedContext::setCommonData(&m_context);
+    }
+
+    void cleanup()
+    {
+        m_host.reset();
+        SharedContext::setCommonData(nullptr);
+    }
+
+    void thereAreTenRequests()
+    {
+        QCOMPARE(static_cast<int>(std::size(hostRequests)), 10);
+        QSet<int> numbers;
+        for (const HostRequest &row : hostRequests) {
+            numbers.insert(row.msgId);
+        }
+        QCOMPARE(numbers.size(), 10);
+    }
+
+    void declaresNoSignalsSlotsOrPropertiesOfItsOwn()
+    {
+        const QMetaObject &meta = VoipManageEventProcess::staticMetaObject;
+        QCOMPARE(meta.methodCount(), QObject::staticMetaObject.methodCount());
+        QCOMPARE(meta.propertyCount(), QObject::staticMetaObject.propertyCount());
+    }
+
+    void eachRequestIsBuiltAsTheHostExpects_data()
+    {
+        QTest::addColumn<std::function<void()>>("operation");
+        QTest::addColumn<int>("msgId");
+        QTest::addColumn<QString>("receiver");
+        QTest::addColumn<bool>("bAsync");
+        QTest::addColumn<QByteArray>("payload");
+
+        using Operation = std::function<void()>;
+        const QString session = QStringLiteral("{FE9829B7-5267-D9AA-3917-514F39C709F0}");
+        const QString contact = QStringLiteral("{7123C2B9-E89C-0CC5-5B1E-9496BB7427C8}");
+        const QString vcard = QStringLiteral("{5EE3221F-AC38-4b54-9DDF-83773A91981B}");
+        const QString msgBox = QStringLiteral("{D2421E81-FC91-45ce-BA71-7116B45D04B1}");
+        const QString signList = QStringLiteral("{77CCE3F9-79F5-C5E8-17E7-F6B7389AAA6E}");
+        const QString a = QStringLiteral("a");
+        const QString b = QStringLiteral("乙");
+        const QString c = QStringLiteral("-1");
+
+        QTest::newRow("notifyRecevieVoipCall") << Operation([=] { Requests::notifyRecevieVoipCall(a, true, false); })
+                                               << 4639 << session << false << packPayload(a, true, false);
+        QTest::newRow("notifyCallFinished")
+            << Operation([=] { Requests::notifyCallFinished(true, a, 22, false, true, 5000000000LL); }) << 4478
+            << session << false << packPayload(true, a, qint32(22), false, true, qint64(5000000000LL));
+        QTest::newRow("notifyCreateVoiceConference") << Operation([=] {
+            Requests::notifyCreateVoiceConference({a, b});
+        }) << 4734 << session << false << packPayload(qint32(2), a, b);
+        QTest::newRow("notifyCreateVoiceConference of nobody")
+            << Operation([] { Requests::notifyCreateVoiceConference({}); }) << 4734 << session << false
+            << packPayload(qint32(0));
+        QTest::newRow("addMemberToConference") << Operation([=] {
+            Requests::addMemberToConference({a, b});
+        }) << 4735 << session << false << packPayload(qint32(2), a, b);
+        QTest::newRow("getFriendInfoByJid")
+            << Operation([] { Requests::getFriendInfoByJid(jid); }) << 4157 << contact << false << packPayload(jid);
+        QTest::newRow("isExistFriend") << Operation([] { Requests::isExistFriend(jid); }) << 4337 << contact << false
+                                       << packPayload(jid);
+        QTest::newRow("getStrangerSmallVCard") << Operation([=] {
+            Requests::getStrangerSmallVCard({a, b}, {c}, true);
+        }) << 4159 << vcard << true << packPayload(qint32(2), a, b, qint32(1), c, true);
+        QTest::newRow("closeAVMsgBox") << Operation([] { Requests::closeAVMsgBox(jid); }) << 4345 << msgBox << false
+                                       << packPayload(jid);
+        QTest::newRow("showSignList") << Operation([] { Requests::showSignList(jid, -7, 20, 300, true, false); })
+                                      << 4267 << signList << false
+                                      << packPayload(jid, qint32(-7), qint32(20), qint32(300), true, false);
+        QTest::newRow("closeSignList") << Operation([] { Requests::closeSignList(); }) << 4540 << signList << false
+                                       << QByteArray();
+    }
+
+    void eachRequestIsBuiltAsTheHostExpects()
+    {
+        QFETCH(std::function<void()>, operation);
+        QFETCH(int, msgId);
+        QFETCH(QString, receiver);
+        QFETCH(bool, bAsync);
+        QFETCH(QByteArray, payload);
+        operation();
+        QCOMPARE(host()->events.size(), bAsync ? 0 : 1);
+        QCoreApplication::sendPostedEvents(host());
+        QCOMPARE(host()->events.size(), 1);
+        const ReceivedEvent &event = host()->events.first();
+        QCOMPARE(event.msgId, msgId);
+        QCOMPARE(event.receiverId, receiver);
+        const bool bOtherSender = msgId == 4734;
+        QCOMPARE(event.senderId, bOtherSender ? QStringLiteral("{5EE3221F-AC38-4b54-9DDF-83773A91981B}")
+                                              : QStringLiteral("{2EFF6261-40D8-448C-8E4C-8D52A7ABF3D1}"));
+        QCOMPARE(event.bAsync, bAsync);
+        QVERIFY(event.bFlag);
+        QCOMPARE(event.extraCount, 0);
+        QCOMPARE(event.type, 1000);
+        QCOMPARE(event.payload.toHex(), payload.toHex());
+    }
+
+    void callFinishedBeginsWithTheFlagThenTheUser()
+    {
+        Requests::notifyCallFinished(true, jid, 21, true, false, 3);
+        PayloadReader reader = host()->received(MSG_CALL_FINISHED).first().reader();
+        QCOMPARE(reader.take<bool>(), true);
+        QCOMPARE(reader.take<QString>(), jid);
+        QCOMPARE(reader.take<qint32>(), 21);
+        QCOMPARE(reader.take<bool>(), true);
+        QCOMPARE(reader.take<bool>(), false);
+        QCOMPARE(reader.take<qint64>(), qint64(3));
+    }
+
+    void createConferenceNamesTheVcardPluginAsSender()
+    {
+        for (const HostRequest &row : hostRequests) {
+            QCOMPARE(row.senderId(), row.msgId == MSG_CREATE_VOICE_CONFERENCE ? vcardPluginId() : voipPluginId());
+        }
+    }
+
+    void strangerCardsArePostedNotSent()
+    {
+        void *block = FreedBlocks::watched();
+        host()->whileHandled = [block](BaseEvent &event) { event.extraList << block; };
+        Requests::getStrangerSmallVCard({}, {}, true);
+        QVERIFY(host()->events.isEmpty());
+        QCoreApplication::sendPostedEvents(host());
+        QCOMPARE(host()->commands(), QList<int>{4159});
+        QVERIFY(FreedBlocks::isFreed(block));
+    }
+
+    void synchronousEventsAreFreedAfterDelivery_data()
+    {
+        QTest::addColumn<std::function<void()>>("operation");
+        using Operation = std::function<void()>;
+        QTest::newRow("4639") << Operation([] { Requests::notifyRecevieVoipCall(jid, false, false); });
+        QTest::newRow("4478") << Operation([] { Requests::notifyCallFinished(false, jid, 21, false, false, 0); });
+        QTest::newRow("4734") << Operation([] { Requests::notifyCreateVoiceConference({}); });
+        QTest::newRow("4735") << Operation([] { Requests::addMemberToConference({}); });
+        QTest::newRow("4157") << Operation([] { Requests::getFriendInfoByJid(jid); });
+        QTest::newRow("4337") << Operation([] { Requests::isExistFriend(jid); });
+        QTest::newRow("4267") << Operation([] { Requests::showSignList(jid, 0, 0, 0, true, false); });
+    }
+
+    void synchronousEventsAreFreedAfterDelivery()
+    {
+        QFETCH(std::function<void()>, operation);
+        void *block = FreedBlocks::watched();
+        host()->whileHandled = [block](BaseEvent &event) { event.extraList << block; };
+        operation();
+        QVERIFY(FreedBlocks::isFreed(block));
+    }
+
+    void closingEventsStayUndeleted_data()
+    {
+        QTest::addColumn<std::function<void()>>("operation");
+        using Operation = std::function<void()>;
+        QTest::newRow("4345") << Operation([] { Requests::closeAVMsgBox(jid); });
+        QTest::newRow("4540") << Operation([] { Requests::closeSignList(); });
+    }
+
+    void closingEventsStayUndeleted()
+    {
+        QFETCH(std::function<void()>, operation);
+        void *block = FreedBlocks::watched();
+        host()->whileHandled = [block](BaseEvent &event) { event.extraList << block; };
+        operation();
+        QCOMPARE(host()->events.size(), 1);
+        QCoreApplication::processEvents();
+        QVERIFY(!FreedBlocks::isFreed(block));
+        delete host()->events.first().event;
+        QVERIFY(FreedBlocks::isFreed(block));
+    }
+
+    void friendOfTheSharedMapIsNeverAskedFor()
+    {
+        FriendData record;
+        record.m_strJid = jid;
+        record.m_vcardInfo.m_strNickName = QStringLiteral("甲");
+        m_context.setFriendDataMap({{jid, record}});
+        QCOMPARE(Requests::getFriendInfoByJid(jid).m_vcardInfo.m_strNickName, QStringLiteral("甲"));
+        QVERIFY(host()->events.isEmpty());
+    }
+
+    void friendOfTheSharedMapIsACopy()
+    {
+        m_context.setFriendDataMap({{jid, FriendData()}});
+        FriendData copy = Requests::getFriendInfoByJid(jid);
+        copy.m_vcardInfo.m_strNickName = QStringLiteral("changed");
+        QVERIFY(SharedContext::getFriendDataMap().value(jid).m_vcardInfo.m_strNickName.isEmpty());
+    }
+
+    void friendIsAskedForWhenTheMapHasAnother()
+    {
+        m_context.setFriendDataMap({{QStringLiteral("U1@d"), FriendData()}});
+        Requests::getFriendInfoByJid(jid);
+        QCOMPARE(host()->commands(), QList<int>{4157});
+        m_context.setFriendDataMap({{jid, FriendData()}});
+        Requests::getFriendInfoByJid(QStringLiteral("U1@d"));
+        QCOMPARE(host()->commands(), (QList<int>{4157, 4157}));
+    }
+
+    void unknownFriendIsCopiedFromTheAnsweredAddress()
+    {
+        FriendData record;
+        record.m_strJid = jid;
+        record.m_vcardInfo.m_iSmallVersion = 12;
+        host()->setRecord(jid, record);
+        const FriendData answered = Requests::getFriendInfoByJid(jid);
+        host()->setRecord(jid, FriendData());
+        QCOMPARE(answered.m_strJid, jid);
+        QCOMPARE(answered.m_vcardInfo.m_iSmallVersion, 12);
+    }
+
+    void unansweredFriendIsADefaultRecord_data()
+    {
+        QTest::addColumn<QString>("asked");
+        QTest::addColumn<QByteArray>("answer");
+        QTest::newRow("unchanged") << jid << packPayload(jid);
+        // Two characters fill as many bytes as an address.
+        QTest::newRow("unchanged, as long as an address") << QStringLiteral("ab") << packPayload(QStringLiteral("ab"));
+        QTest::newRow("unchanged null jid") << QString() << packPayload(QString());
+        QTest::newRow("unchanged long jid")
+            << QString(100, QLatin1Char('x')) << packPayload(QString(100, QLatin1Char('x')));
+        QTest::newRow("zero address") << jid << packPayload(qint64(0));
+        QTest::newRow("emptied") << jid << QByteArray();
+        QTest::newRow("half an address") << jid << QByteArray(7, '\1');
+    }
+
+    void unansweredFriendIsADefaultRecord()
+    {
+        QFETCH(QString, asked);
+        QFETCH(QByteArray, answer);
+        host()->rawAnswers[MSG_GET_FRIEND_INFO] = answer;
+        const FriendData record = Requests::getFriendInfoByJid(asked);
+        QCOMPARE(host()->commands(), QList<int>{4157});
+        QVERIFY(record.m_strJid.isEmpty());
+        QCOMPARE(record.m_vcardInfo.m_iSmallVersion, -1);
+    }
+
+    void existenceIsReadFromTheAnswer()
+    {
+        host()->friendJids.insert(jid);
+        QVERIFY(Requests::isExistFriend(jid));
+        QVERIFY(!Requests::isExistFriend(QStringLiteral("u2@d")));
+        m_context.setFriendDataMap({{QStringLiteral("u2@d"), FriendData()}});
+        QVERIFY(!Requests::isExistFriend(QStringLiteral("u2@d")));
+        QCOMPARE(host()->received(MSG_IS_EXIST_FRIEND).size(), 3);
+    }
+
+    void unansweredExistenceReadsItsOwnQuestion()
+    {
+        host()->bAnswers = false;
+        QVERIFY(!Requests::isExistFriend(jid));
+        QVERIFY(!Requests::isExistFriend(QStringLiteral("")));
+        // A null text is written with four bytes of ones, the first of which reads as true.
+        QVERIFY(Requests::isExistFriend(QString()));
+    }
+
+    void membersToAddAreReadFromTheAnswer()
+    {
+        host()->membersToAdd = QStringList{QStringLiteral("u2"), QStringLiteral("u3")};
+        QCOMPARE(Requests::addMemberToConference({QStringLiteral("u1")}), host()->membersToAdd);
+        host()->membersToAdd.clear();
+        QCOMPARE(Requests::addMemberToConference({QStringLiteral("u1")}), QStringList());
+    }
+
+    void unansweredMembersAreThoseOfTheQuestion()
+    {
+        host()->bAnswers = false;
+        const QStringList present{QStringLiteral("u1"), QStringLiteral("u2")};
+        QCOMPARE(Requests::addMemberToConference(present), present);
+    }
+
+    void hostileMemberAnswerGivesAnEmptyList_data()
+    {
+        QTest::addColumn<QByteArray>("answer");
+        const QString user = QStringLiteral("u2");
+        QTest::newRow("emptied") << QByteArray();
+        QTest::newRow("greatest count") << packPayload(std::numeric_limits<qint32>::max(), user);
+        QTest::newRow("negative count") << packPayload(-1, user);
+        QTest::newRow("one string short") << packPayload(2, user);
+        QTest::newRow("string cut off") << packPayload(1, user).chopped(1);
+    }
+
+    void hostileMemberAnswerGivesAnEmptyList()
+    {
+        QFETCH(QByteArray, answer);
+        host()->rawAnswers[MSG_ADD_CONFERENCE_MEMBER] = answer;
+        QCOMPARE(Requests::addMemberToConference({QStringLiteral("u1")}), QStringList());
+    }
+
+    void requestsWithoutHostReturnDefaults()
+    {
+        VoipManageMessageProcess::instance()->setSendEvent(nullptr);
+        SharedContext::setCommonData(nullptr);
+        QVERIFY(Requests::getFriendInfoByJid(jid).m_strJid.isEmpty());
+        QVERIFY(!Requests::isExistFriend(jid));
+        QCOMPARE(Requests::addMemberToConference({}), QStringList());
+        Requests::notifyRecevieVoipCall(jid, false, false);
+        Requests::getStrangerSmallVCard({jid}, {QStringLiteral("1")}, true);
+        Requests::closeAVMsgBox(jid);
+        QVERIFY(host()->events.isEmpty());
+    }
+
+    void receiverMayDeliverFurtherRequestsMeanwhile()
+    {
+        FriendData outer;
+        outer.m_strJid = jid;
+        host()->setRecord(jid, outer);
+        bool bNested = false;
+        host()->whileHandled = [&bNested](BaseEvent &event) {
+            if (event.msgId == MSG_GET_FRIEND_INFO && !bNested) {
+                bNested = true;
+                QVERIFY(Requests::getFriendInfoByJid(QStringLiteral("u9@d")).m_strJid.isEmpty());
+            }
+        };
+        QCOMPARE(Requests::getFriendInfoByJid(jid).m_strJid, jid);
+        QCOMPARE(host()->commands(), (QList<int>{4157, 4157}));
+    }
 
 private:
     FakeHost *host() { return m_host.get(); }
@@ -61,329 +356,6 @@ private:
     std::unique_ptr<FakeHost> m_host;
     CommonData m_context;
 };
-
-void tst_VoipManageEventProcess::init()
-{
-    m_host = std::make_unique<FakeHost>();
-    VoipManageMessageProcess::instance()->setSendEvent(host());
-    m_context.setFriendDataMap({});
-    SharedContext::setCommonData(&m_context);
-}
-
-void tst_VoipManageEventProcess::cleanup()
-{
-    m_host.reset();
-    SharedContext::setCommonData(nullptr);
-}
-
-void tst_VoipManageEventProcess::thereAreTenRequests()
-{
-    QCOMPARE(static_cast<int>(std::size(hostRequests)), 10);
-    QSet<int> numbers;
-    for (const HostRequest &row : hostRequests) {
-        numbers.insert(row.msgId);
-    }
-    QCOMPARE(numbers.size(), 10);
-}
-
-void tst_VoipManageEventProcess::declaresNoSignalsSlotsOrPropertiesOfItsOwn()
-{
-    const QMetaObject &meta = VoipManageEventProcess::staticMetaObject;
-    QCOMPARE(meta.methodCount(), QObject::staticMetaObject.methodCount());
-    QCOMPARE(meta.propertyCount(), QObject::staticMetaObject.propertyCount());
-}
-
-void tst_VoipManageEventProcess::eachRequestIsBuiltAsTheHostExpects_data()
-{
-    QTest::addColumn<std::function<void()>>("operation");
-    QTest::addColumn<int>("msgId");
-    QTest::addColumn<QString>("receiver");
-    QTest::addColumn<bool>("bAsync");
-    QTest::addColumn<QByteArray>("payload");
-
-    using Operation = std::function<void()>;
-    const QString session = QStringLiteral("{FE9829B7-5267-D9AA-3917-514F39C709F0}");
-    const QString contact = QStringLiteral("{7123C2B9-E89C-0CC5-5B1E-9496BB7427C8}");
-    const QString vcard = QStringLiteral("{5EE3221F-AC38-4b54-9DDF-83773A91981B}");
-    const QString msgBox = QStringLiteral("{D2421E81-FC91-45ce-BA71-7116B45D04B1}");
-    const QString signList = QStringLiteral("{77CCE3F9-79F5-C5E8-17E7-F6B7389AAA6E}");
-    const QString a = QStringLiteral("a");
-    const QString b = QStringLiteral("乙");
-    const QString c = QStringLiteral("-1");
-
-    QTest::newRow("notifyRecevieVoipCall") << Operation([=] { Requests::notifyRecevieVoipCall(a, true, false); })
-                                           << 4639 << session << false << packPayload(a, true, false);
-    QTest::newRow("notifyCallFinished") << Operation([=] {
-        Requests::notifyCallFinished(true, a, 22, false, true, 5000000000LL);
-    }) << 4478 << session << false << packPayload(true, a, qint32(22), false, true, qint64(5000000000LL));
-    QTest::newRow("notifyCreateVoiceConference") << Operation([=] {
-        Requests::notifyCreateVoiceConference({a, b});
-    }) << 4734 << session << false << packPayload(qint32(2), a, b);
-    QTest::newRow("notifyCreateVoiceConference of nobody")
-        << Operation([] { Requests::notifyCreateVoiceConference({}); }) << 4734 << session << false
-        << packPayload(qint32(0));
-    QTest::newRow("addMemberToConference") << Operation([=] {
-        Requests::addMemberToConference({a, b});
-    }) << 4735 << session << false << packPayload(qint32(2), a, b);
-    QTest::newRow("getFriendInfoByJid") << Operation([] { Requests::getFriendInfoByJid(jid); }) << 4157 << contact
-                                        << false << packPayload(jid);
-    QTest::newRow("isExistFriend") << Operation([] { Requests::isExistFriend(jid); }) << 4337 << contact << false
-                                   << packPayload(jid);
-    QTest::newRow("getStrangerSmallVCard") << Operation([=] {
-        Requests::getStrangerSmallVCard({a, b}, {c}, true);
-    }) << 4159 << vcard << true << packPayload(qint32(2), a, b, qint32(1), c, true);
-    QTest::newRow("closeAVMsgBox") << Operation([] { Requests::closeAVMsgBox(jid); }) << 4345 << msgBox << false
-                                   << packPayload(jid);
-    QTest::newRow("showSignList") << Operation([] { Requests::showSignList(jid, -7, 20, 300, true, false); }) << 4267
-                                  << signList << false
-                                  << packPayload(jid, qint32(-7), qint32(20), qint32(300), true, false);
-    QTest::newRow("closeSignList") << Operation([] { Requests::closeSignList(); }) << 4540 << signList << false
-                                   << QByteArray();
-}
-
-void tst_VoipManageEventProcess::eachRequestIsBuiltAsTheHostExpects()
-{
-    QFETCH(std::function<void()>, operation);
-    QFETCH(int, msgId);
-    QFETCH(QString, receiver);
-    QFETCH(bool, bAsync);
-    QFETCH(QByteArray, payload);
-    operation();
-    QCOMPARE(host()->events.size(), bAsync ? 0 : 1);
-    QCoreApplication::sendPostedEvents(host());
-    QCOMPARE(host()->events.size(), 1);
-    const ReceivedEvent &event = host()->events.first();
-    QCOMPARE(event.msgId, msgId);
-    QCOMPARE(event.receiverId, receiver);
-    const bool bOtherSender = msgId == 4734;
-    QCOMPARE(event.senderId, bOtherSender ? QStringLiteral("{5EE3221F-AC38-4b54-9DDF-83773A91981B}")
-                                          : QStringLiteral("{2EFF6261-40D8-448C-8E4C-8D52A7ABF3D1}"));
-    QCOMPARE(event.bAsync, bAsync);
-    QVERIFY(event.bFlag);
-    QCOMPARE(event.extraCount, 0);
-    QCOMPARE(event.type, 1000);
-    QCOMPARE(event.payload.toHex(), payload.toHex());
-}
-
-void tst_VoipManageEventProcess::callFinishedBeginsWithTheFlagThenTheUser()
-{
-    Requests::notifyCallFinished(true, jid, 21, true, false, 3);
-    PayloadReader reader = host()->received(MSG_CALL_FINISHED).first().reader();
-    QCOMPARE(reader.take<bool>(), true);
-    QCOMPARE(reader.take<QString>(), jid);
-    QCOMPARE(reader.take<qint32>(), 21);
-    QCOMPARE(reader.take<bool>(), true);
-    QCOMPARE(reader.take<bool>(), false);
-    QCOMPARE(reader.take<qint64>(), qint64(3));
-}
-
-void tst_VoipManageEventProcess::createConferenceNamesTheVcardPluginAsSender()
-{
-    for (const HostRequest &row : hostRequests) {
-        QCOMPARE(row.senderId(), row.msgId == MSG_CREATE_VOICE_CONFERENCE ? vcardPluginId() : voipPluginId());
-    }
-}
-
-void tst_VoipManageEventProcess::strangerCardsArePostedNotSent()
-{
-    void *block = FreedBlocks::watched();
-    host()->whileHandled = [block](BaseEvent &event) { event.extraList << block; };
-    Requests::getStrangerSmallVCard({}, {}, true);
-    QVERIFY(host()->events.isEmpty());
-    QCoreApplication::sendPostedEvents(host());
-    QCOMPARE(host()->commands(), QList<int>{4159});
-    QVERIFY(FreedBlocks::isFreed(block));
-}
-
-void tst_VoipManageEventProcess::synchronousEventsAreFreedAfterDelivery_data()
-{
-    QTest::addColumn<std::function<void()>>("operation");
-    using Operation = std::function<void()>;
-    QTest::newRow("4639") << Operation([] { Requests::notifyRecevieVoipCall(jid, false, false); });
-    QTest::newRow("4478") << Operation([] { Requests::notifyCallFinished(false, jid, 21, false, false, 0); });
-    QTest::newRow("4734") << Operation([] { Requests::notifyCreateVoiceConference({}); });
-    QTest::newRow("4735") << Operation([] { Requests::addMemberToConference({}); });
-    QTest::newRow("4157") << Operation([] { Requests::getFriendInfoByJid(jid); });
-    QTest::newRow("4337") << Operation([] { Requests::isExistFriend(jid); });
-    QTest::newRow("4267") << Operation([] { Requests::showSignList(jid, 0, 0, 0, true, false); });
-}
-
-void tst_VoipManageEventProcess::synchronousEventsAreFreedAfterDelivery()
-{
-    QFETCH(std::function<void()>, operation);
-    void *block = FreedBlocks::watched();
-    host()->whileHandled = [block](BaseEvent &event) { event.extraList << block; };
-    operation();
-    QVERIFY(FreedBlocks::isFreed(block));
-}
-
-void tst_VoipManageEventProcess::closingEventsStayUndeleted_data()
-{
-    QTest::addColumn<std::function<void()>>("operation");
-    using Operation = std::function<void()>;
-    QTest::newRow("4345") << Operation([] { Requests::closeAVMsgBox(jid); });
-    QTest::newRow("4540") << Operation([] { Requests::closeSignList(); });
-}
-
-void tst_VoipManageEventProcess::closingEventsStayUndeleted()
-{
-    QFETCH(std::function<void()>, operation);
-    void *block = FreedBlocks::watched();
-    host()->whileHandled = [block](BaseEvent &event) { event.extraList << block; };
-    operation();
-    QCOMPARE(host()->events.size(), 1);
-    QCoreApplication::processEvents();
-    QVERIFY(!FreedBlocks::isFreed(block));
-    delete host()->events.first().event;
-    QVERIFY(FreedBlocks::isFreed(block));
-}
-
-void tst_VoipManageEventProcess::friendOfTheSharedMapIsNeverAskedFor()
-{
-    FriendData record;
-    record.m_strJid = jid;
-    record.m_vcardInfo.m_strNickName = QStringLiteral("甲");
-    m_context.setFriendDataMap({{jid, record}});
-    QCOMPARE(Requests::getFriendInfoByJid(jid).m_vcardInfo.m_strNickName, QStringLiteral("甲"));
-    QVERIFY(host()->events.isEmpty());
-}
-
-void tst_VoipManageEventProcess::friendOfTheSharedMapIsACopy()
-{
-    m_context.setFriendDataMap({{jid, FriendData()}});
-    FriendData copy = Requests::getFriendInfoByJid(jid);
-    copy.m_vcardInfo.m_strNickName = QStringLiteral("changed");
-    QVERIFY(SharedContext::getFriendDataMap().value(jid).m_vcardInfo.m_strNickName.isEmpty());
-}
-
-void tst_VoipManageEventProcess::friendIsAskedForWhenTheMapHasAnother()
-{
-    m_context.setFriendDataMap({{QStringLiteral("U1@d"), FriendData()}});
-    Requests::getFriendInfoByJid(jid);
-    QCOMPARE(host()->commands(), QList<int>{4157});
-    m_context.setFriendDataMap({{jid, FriendData()}});
-    Requests::getFriendInfoByJid(QStringLiteral("U1@d"));
-    QCOMPARE(host()->commands(), (QList<int>{4157, 4157}));
-}
-
-void tst_VoipManageEventProcess::unknownFriendIsCopiedFromTheAnsweredAddress()
-{
-    FriendData record;
-    record.m_strJid = jid;
-    record.m_vcardInfo.m_iSmallVersion = 12;
-    host()->setRecord(jid, record);
-    const FriendData answered = Requests::getFriendInfoByJid(jid);
-    host()->setRecord(jid, FriendData());
-    QCOMPARE(answered.m_strJid, jid);
-    QCOMPARE(answered.m_vcardInfo.m_iSmallVersion, 12);
-}
-
-void tst_VoipManageEventProcess::unansweredFriendIsADefaultRecord_data()
-{
-    QTest::addColumn<QString>("asked");
-    QTest::addColumn<QByteArray>("answer");
-    QTest::newRow("unchanged") << jid << packPayload(jid);
-    // Two characters fill as many bytes as an address.
-    QTest::newRow("unchanged, as long as an address") << QStringLiteral("ab") << packPayload(QStringLiteral("ab"));
-    QTest::newRow("unchanged null jid") << QString() << packPayload(QString());
-    QTest::newRow("unchanged long jid") << QString(100, QLatin1Char('x'))
-                                        << packPayload(QString(100, QLatin1Char('x')));
-    QTest::newRow("zero address") << jid << packPayload(qint64(0));
-    QTest::newRow("emptied") << jid << QByteArray();
-    QTest::newRow("half an address") << jid << QByteArray(7, '\1');
-}
-
-void tst_VoipManageEventProcess::unansweredFriendIsADefaultRecord()
-{
-    QFETCH(QString, asked);
-    QFETCH(QByteArray, answer);
-    host()->rawAnswers[MSG_GET_FRIEND_INFO] = answer;
-    const FriendData record = Requests::getFriendInfoByJid(asked);
-    QCOMPARE(host()->commands(), QList<int>{4157});
-    QVERIFY(record.m_strJid.isEmpty());
-    QCOMPARE(record.m_vcardInfo.m_iSmallVersion, -1);
-}
-
-void tst_VoipManageEventProcess::existenceIsReadFromTheAnswer()
-{
-    host()->friendJids.insert(jid);
-    QVERIFY(Requests::isExistFriend(jid));
-    QVERIFY(!Requests::isExistFriend(QStringLiteral("u2@d")));
-    m_context.setFriendDataMap({{QStringLiteral("u2@d"), FriendData()}});
-    QVERIFY(!Requests::isExistFriend(QStringLiteral("u2@d")));
-    QCOMPARE(host()->received(MSG_IS_EXIST_FRIEND).size(), 3);
-}
-
-void tst_VoipManageEventProcess::unansweredExistenceReadsItsOwnQuestion()
-{
-    host()->bAnswers = false;
-    QVERIFY(!Requests::isExistFriend(jid));
-    QVERIFY(!Requests::isExistFriend(QStringLiteral("")));
-    // A null text is written with four bytes of ones, the first of which reads as true.
-    QVERIFY(Requests::isExistFriend(QString()));
-}
-
-void tst_VoipManageEventProcess::membersToAddAreReadFromTheAnswer()
-{
-    host()->membersToAdd = QStringList{QStringLiteral("u2"), QStringLiteral("u3")};
-    QCOMPARE(Requests::addMemberToConference({QStringLiteral("u1")}), host()->membersToAdd);
-    host()->membersToAdd.clear();
-    QCOMPARE(Requests::addMemberToConference({QStringLiteral("u1")}), QStringList());
-}
-
-void tst_VoipManageEventProcess::unansweredMembersAreThoseOfTheQuestion()
-{
-    host()->bAnswers = false;
-    const QStringList present{QStringLiteral("u1"), QStringLiteral("u2")};
-    QCOMPARE(Requests::addMemberToConference(present), present);
-}
-
-void tst_VoipManageEventProcess::hostileMemberAnswerGivesAnEmptyList_data()
-{
-    QTest::addColumn<QByteArray>("answer");
-    const QString user = QStringLiteral("u2");
-    QTest::newRow("emptied") << QByteArray();
-    QTest::newRow("greatest count") << packPayload(std::numeric_limits<qint32>::max(), user);
-    QTest::newRow("negative count") << packPayload(-1, user);
-    QTest::newRow("one string short") << packPayload(2, user);
-    QTest::newRow("string cut off") << packPayload(1, user).chopped(1);
-}
-
-void tst_VoipManageEventProcess::hostileMemberAnswerGivesAnEmptyList()
-{
-    QFETCH(QByteArray, answer);
-    host()->rawAnswers[MSG_ADD_CONFERENCE_MEMBER] = answer;
-    QCOMPARE(Requests::addMemberToConference({QStringLiteral("u1")}), QStringList());
-}
-
-void tst_VoipManageEventProcess::requestsWithoutHostReturnDefaults()
-{
-    VoipManageMessageProcess::instance()->setSendEvent(nullptr);
-    SharedContext::setCommonData(nullptr);
-    QVERIFY(Requests::getFriendInfoByJid(jid).m_strJid.isEmpty());
-    QVERIFY(!Requests::isExistFriend(jid));
-    QCOMPARE(Requests::addMemberToConference({}), QStringList());
-    Requests::notifyRecevieVoipCall(jid, false, false);
-    Requests::getStrangerSmallVCard({jid}, {QStringLiteral("1")}, true);
-    Requests::closeAVMsgBox(jid);
-    QVERIFY(host()->events.isEmpty());
-}
-
-void tst_VoipManageEventProcess::receiverMayDeliverFurtherRequestsMeanwhile()
-{
-    FriendData outer;
-    outer.m_strJid = jid;
-    host()->setRecord(jid, outer);
-    bool bNested = false;
-    host()->whileHandled = [&bNested](BaseEvent &event) {
-        if (event.msgId == MSG_GET_FRIEND_INFO && !bNested) {
-            bNested = true;
-            QVERIFY(Requests::getFriendInfoByJid(QStringLiteral("u9@d")).m_strJid.isEmpty());
-        }
-    };
-    QCOMPARE(Requests::getFriendInfoByJid(jid).m_strJid, jid);
-    QCOMPARE(host()->commands(), (QList<int>{4157, 4157}));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_VoipManageEventProcess, Guiless)

@@ -125,117 +125,104 @@ class tst_CallWindowPictures : public QObject
 
 private:
     /// The window with that page on the screen.
-    QImage picture(const SetUp &setUp);
-    QImage picture(const char *name);
+
+    QImage picture(const SetUp &setUp)
+    {
+        CVoipWidget window;
+        window.move(200, 200);
+        setUp(window);
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window, kPatienceMs))
+            return {};
+        // The second of two: rows are at their places once they have been painted.
+        ComparedPicture::of(&window);
+        QCoreApplication::processEvents();
+        return ComparedPicture::of(&window);
+    }
+
+    QImage picture(const char *name)
+    {
+        for (const Page &page : pages())
+            if (qstrcmp(page.name, name) == 0)
+                return picture(page.setUp);
+        return {};
+    }
 
     std::unique_ptr<ContactFixture> m_pContacts;
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void pageLooksAsCommitted_data();
-    void pageLooksAsCommitted();
-    void oneGlyphIsADifference_data();
-    void oneGlyphIsADifference();
-    void glyphsOfAMemberStandAtTheHeightOfTheName();
-};
-
-void tst_CallWindowPictures::initTestCase()
-{
-    const QString strMissing = PictureSetting::prepare();
-    QVERIFY2(strMissing.isEmpty(), qPrintable(strMissing));
-}
-
-void tst_CallWindowPictures::init()
-{
-    m_pContacts = std::make_unique<ContactFixture>();
-    PictureSetting::addContacts(*m_pContacts);
-}
-
-void tst_CallWindowPictures::cleanup()
-{
-    m_pContacts.reset();
-}
-
-QImage tst_CallWindowPictures::picture(const SetUp &setUp)
-{
-    CVoipWidget window;
-    window.move(200, 200);
-    setUp(window);
-    window.show();
-    if (!QTest::qWaitForWindowExposed(&window, kPatienceMs))
-        return {};
-    // The second of two: rows are at their places once they have been painted.
-    ComparedPicture::of(&window);
-    QCoreApplication::processEvents();
-    return ComparedPicture::of(&window);
-}
-
-QImage tst_CallWindowPictures::picture(const char *name)
-{
-    for (const Page &page : pages())
-        if (qstrcmp(page.name, name) == 0)
-            return picture(page.setUp);
-    return {};
-}
-
-void tst_CallWindowPictures::pageLooksAsCommitted_data()
-{
-    QTest::addColumn<bool>("committed");
-    for (const Page &page : pages())
-        QTest::newRow(page.name) << true;
-}
-
-void tst_CallWindowPictures::pageLooksAsCommitted()
-{
-    const char *name = QTest::currentDataTag();
-    const QImage found = picture(name);
-    QCOMPARE(found.size(), QSize(523, 403) * qApp->devicePixelRatio());
-    const QString strComplaint = ComparedPicture::complaint(uid(name), found);
-    QVERIFY2(strComplaint.isEmpty(), qPrintable(strComplaint));
-}
-
-void tst_CallWindowPictures::oneGlyphIsADifference_data()
-{
-    QTest::addColumn<QByteArray>("button");
-    for (const char *button : {"btnMic", "btnSpeaker"})
-        QTest::newRow(button) << QByteArray(button);
-}
-
-void tst_CallWindowPictures::oneGlyphIsADifference()
-{
-    QFETCH(QByteArray, button);
-    const SetUp voice = connected(call(CVoipWidget::Voice, true));
-    const QImage changed = picture(clicked(voice, {button.constData()}));
-    QVERIFY(ComparedPicture::differingPixels(changed, picture(voice)) > 12);
-}
-
-void tst_CallWindowPictures::glyphsOfAMemberStandAtTheHeightOfTheName()
-{
-    CVoipWidget window;
-    withStatuses(call(CVoipWidget::Conference, true))(window);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
-    auto *pList = window.findChild<CConferenceListView *>();
-    const QImage picture = pList->viewport()->grab().toImage();
-    const QModelIndex ann = pList->model()->index(0, 0);
-    QVERIFY(ann.data(ROLE_IS_CREATOR).toBool());
-    // Above the line below the row.
-    const QRect row = pList->visualRect(ann).adjusted(0, 0, 0, -2);
-    const auto column = [&row](int iLeft, int iWidth) {
-        return QRect(row.left() + iLeft, row.top(), iWidth, row.height());
-    };
-    const int iNameWidth =
-        QFontMetrics(RowPainter::textFont()).horizontalAdvance(ann.data(ROLE_DISPLAY_NAME).toString());
-    const QRect name = column(52, iNameWidth);
-    for (const QRect &glyph : {column(52 + iNameWidth + 16, 22), column(ann.data(ROLE_MUTE_RECT).toRect().left(), 18),
-                               column(ann.data(ROLE_REMOVE_RECT).toRect().left(), 18)}) {
-        QVERIFY(!Ink::within(picture, glyph).isEmpty());
-        const qreal dBelow = Ink::below(picture, glyph, name);
-        QVERIFY2(qAbs(dBelow) <= 1.25, qPrintable(QString::number(dBelow)));
+    void initTestCase()
+    {
+        const QString strMissing = PictureSetting::prepare();
+        QVERIFY2(strMissing.isEmpty(), qPrintable(strMissing));
     }
-}
+
+    void init()
+    {
+        m_pContacts = std::make_unique<ContactFixture>();
+        PictureSetting::addContacts(*m_pContacts);
+    }
+
+    void cleanup() { m_pContacts.reset(); }
+
+    void pageLooksAsCommitted_data()
+    {
+        QTest::addColumn<bool>("committed");
+        for (const Page &page : pages())
+            QTest::newRow(page.name) << true;
+    }
+
+    void pageLooksAsCommitted()
+    {
+        const char *name = QTest::currentDataTag();
+        const QImage found = picture(name);
+        QCOMPARE(found.size(), QSize(523, 403) * qApp->devicePixelRatio());
+        const QString strComplaint = ComparedPicture::complaint(uid(name), found);
+        QVERIFY2(strComplaint.isEmpty(), qPrintable(strComplaint));
+    }
+
+    void oneGlyphIsADifference_data()
+    {
+        QTest::addColumn<QByteArray>("button");
+        for (const char *button : {"btnMic", "btnSpeaker"})
+            QTest::newRow(button) << QByteArray(button);
+    }
+
+    void oneGlyphIsADifference()
+    {
+        QFETCH(QByteArray, button);
+        const SetUp voice = connected(call(CVoipWidget::Voice, true));
+        const QImage changed = picture(clicked(voice, {button.constData()}));
+        QVERIFY(ComparedPicture::differingPixels(changed, picture(voice)) > 12);
+    }
+
+    void glyphsOfAMemberStandAtTheHeightOfTheName()
+    {
+        CVoipWidget window;
+        withStatuses(call(CVoipWidget::Conference, true))(window);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
+        auto *pList = window.findChild<CConferenceListView *>();
+        const QImage picture = pList->viewport()->grab().toImage();
+        const QModelIndex ann = pList->model()->index(0, 0);
+        QVERIFY(ann.data(ROLE_IS_CREATOR).toBool());
+        // Above the line below the row.
+        const QRect row = pList->visualRect(ann).adjusted(0, 0, 0, -2);
+        const auto column = [&row](int iLeft, int iWidth) {
+            return QRect(row.left() + iLeft, row.top(), iWidth, row.height());
+        };
+        const int iNameWidth =
+            QFontMetrics(RowPainter::textFont()).horizontalAdvance(ann.data(ROLE_DISPLAY_NAME).toString());
+        const QRect name = column(52, iNameWidth);
+        for (const QRect &glyph :
+             {column(52 + iNameWidth + 16, 22), column(ann.data(ROLE_MUTE_RECT).toRect().left(), 18),
+              column(ann.data(ROLE_REMOVE_RECT).toRect().left(), 18)}) {
+            QVERIFY(!Ink::within(picture, glyph).isEmpty());
+            const qreal dBelow = Ink::below(picture, glyph, name);
+            QVERIFY2(qAbs(dBelow) <= 1.25, qPrintable(QString::number(dBelow)));
+        }
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_CallWindowPictures, Widgets)

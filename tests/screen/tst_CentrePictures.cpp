@@ -55,179 +55,164 @@ class tst_CentrePictures : public QObject
 private:
     QListView *list() const { return m_pWindow->findChild<QListView *>(QStringLiteral("listView")); }
     QWidget *backButton() const { return m_pWindow->findChild<QPushButton *>(QStringLiteral("backBtn")); }
-    void open(bool bRecords);
-    void hover(int iRow);
-    void showDetail(const QString &strConfID);
-    void compare(const char *pName);
+
+    void open(bool bRecords)
+    {
+        m_pWindow = std::make_unique<CVoiceConferenceWidget>();
+        for (const Row &row : cRows)
+            if (bRecords)
+                m_pWindow->addConferenceInfo(record(row));
+        m_pWindow->move(200, 200);
+        m_pWindow->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), kPatienceMs));
+    }
+
+    void hover(int iRow)
+    {
+        QVERIFY(RealCursor::moveTo(list()->viewport(), list()->visualRect(list()->model()->index(iRow, 0)).center()));
+        QCoreApplication::processEvents();
+    }
+
+    void showDetail(const QString &strConfID)
+    {
+        QVERIFY(QMetaObject::invokeMethod(m_pWindow.get(), "slot_ShowConfDetail", Q_ARG(QString, strConfID)));
+        QCoreApplication::processEvents();
+    }
+
+    void compare(const char *pName)
+    {
+        // The second of two: rows are at their places once they have been painted.
+        ComparedPicture::of(m_pWindow.get());
+        QCoreApplication::processEvents();
+        const QString strComplaint =
+            ComparedPicture::complaint(QLatin1String(pName), ComparedPicture::of(m_pWindow.get()));
+        QVERIFY2(strComplaint.isEmpty(), qPrintable(strComplaint));
+    }
 
     std::unique_ptr<ContactFixture> m_pContacts;
     std::unique_ptr<CVoiceConferenceWidget> m_pWindow;
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void emptyList();
-    void listOfRecords();
-    void rowUnderTheCursor();
-    void menuOfARow();
-    void detail();
-    void detailOfAConferenceThatNeverConnected();
-    void directionStandsAtTheHeightOfItsLine();
-    void detailButtonFillsItsPlace();
-    void arrowOfTheBackButtonKeepsAwayFromItsText();
-};
-
-void tst_CentrePictures::initTestCase()
-{
-    const QString strMissing =
-        PictureSetting::prepare({QStringLiteral("images/CommonCtrls/kvim_common_back_normal.png"),
-                                 QStringLiteral("images/CommonCtrls/kvim_common_back_press.png")});
-    QVERIFY2(strMissing.isEmpty(), qPrintable(strMissing));
-}
-
-void tst_CentrePictures::init()
-{
-    QCursor::setPos(QPoint(0, 0));
-    m_pContacts = std::make_unique<ContactFixture>();
-    PictureSetting::addContacts(*m_pContacts);
-    m_pContacts->addContact(QStringLiteral("me"), ContactFixture::card(QStringLiteral("我"), {}));
-}
-
-void tst_CentrePictures::cleanup()
-{
-    m_pWindow.reset();
-    m_pContacts.reset();
-}
-
-void tst_CentrePictures::open(bool bRecords)
-{
-    m_pWindow = std::make_unique<CVoiceConferenceWidget>();
-    for (const Row &row : cRows)
-        if (bRecords)
-            m_pWindow->addConferenceInfo(record(row));
-    m_pWindow->move(200, 200);
-    m_pWindow->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), kPatienceMs));
-}
-
-void tst_CentrePictures::hover(int iRow)
-{
-    QVERIFY(RealCursor::moveTo(list()->viewport(), list()->visualRect(list()->model()->index(iRow, 0)).center()));
-    QCoreApplication::processEvents();
-}
-
-void tst_CentrePictures::showDetail(const QString &strConfID)
-{
-    QVERIFY(QMetaObject::invokeMethod(m_pWindow.get(), "slot_ShowConfDetail", Q_ARG(QString, strConfID)));
-    QCoreApplication::processEvents();
-}
-
-void tst_CentrePictures::compare(const char *pName)
-{
-    // The second of two: rows are at their places once they have been painted.
-    ComparedPicture::of(m_pWindow.get());
-    QCoreApplication::processEvents();
-    const QString strComplaint = ComparedPicture::complaint(QLatin1String(pName), ComparedPicture::of(m_pWindow.get()));
-    QVERIFY2(strComplaint.isEmpty(), qPrintable(strComplaint));
-}
-
-void tst_CentrePictures::emptyList()
-{
-    open(false);
-    compare("centre-empty");
-}
-
-void tst_CentrePictures::listOfRecords()
-{
-    open(true);
-    compare("centre-list");
-}
-
-void tst_CentrePictures::rowUnderTheCursor()
-{
-    open(true);
-    hover(1);
-    compare("centre-list-hover");
-}
-
-void tst_CentrePictures::menuOfARow()
-{
-    open(true);
-    const QPoint row = list()->visualRect(list()->model()->index(0, 0)).center();
-    QTest::mouseClick(list()->viewport(), Qt::RightButton, Qt::NoModifier, row);
-    auto *const pMenu = list()->findChild<QMenu *>();
-    QVERIFY(QTest::qWaitForWindowExposed(pMenu, kPatienceMs));
-    const QString strComplaint = ComparedPicture::complaint(QStringLiteral("centre-menu"), ComparedPicture::of(pMenu));
-    QVERIFY2(strComplaint.isEmpty(), qPrintable(strComplaint));
-}
-
-void tst_CentrePictures::detail()
-{
-    open(true);
-    showDetail(QStringLiteral("c6"));
-    QVERIFY(backButton()->isVisible());
-    compare("centre-detail");
-}
-
-void tst_CentrePictures::detailOfAConferenceThatNeverConnected()
-{
-    open(true);
-    showDetail(QStringLiteral("c4"));
-    compare("centre-detail-unconnected");
-}
-
-void tst_CentrePictures::directionStandsAtTheHeightOfItsLine()
-{
-    open(true);
-    const QImage picture = list()->viewport()->grab().toImage();
-    for (int iRow : {0, 2}) {
-        const QPoint row = list()->visualRect(list()->model()->index(iRow, 0)).topLeft();
-        const QRect direction(row + QPoint(60, 30), QSize(20, 28));
-        const QRect date(row + QPoint(160, 30), QSize(110, 28));
-        QVERIFY(!Ink::within(picture, direction).isEmpty() && !Ink::within(picture, date).isEmpty());
-        const qreal dBelow = Ink::below(picture, direction, date);
-        QVERIFY2(qAbs(dBelow) <= 1, qPrintable(QString::number(dBelow)));
+    void initTestCase()
+    {
+        const QString strMissing =
+            PictureSetting::prepare({QStringLiteral("images/CommonCtrls/kvim_common_back_normal.png"),
+                                     QStringLiteral("images/CommonCtrls/kvim_common_back_press.png")});
+        QVERIFY2(strMissing.isEmpty(), qPrintable(strMissing));
     }
-}
 
-void tst_CentrePictures::detailButtonFillsItsPlace()
-{
-    open(true);
-    hover(0);
-    const QImage picture = list()->viewport()->grab().toImage();
-    const QRect place = list()->model()->index(0, 0).data(ROLE_REMOVE_RECT).toRect();
-    QVERIFY(!place.isEmpty());
-    const QRectF ink = Ink::within(picture, place.adjusted(-4, -6, 4, 4));
-    QVERIFY(QRectF(place).contains(ink));
-    // A circle, not cut off.
-    QVERIFY2(qAbs(ink.width() - ink.height()) <= 1,
-             qPrintable(QStringLiteral("%1 %2").arg(ink.width()).arg(ink.height())));
-    QVERIFY(qAbs(ink.center().y() - QRectF(place).center().y()) <= 0.5);
-}
+    void init()
+    {
+        QCursor::setPos(QPoint(0, 0));
+        m_pContacts = std::make_unique<ContactFixture>();
+        PictureSetting::addContacts(*m_pContacts);
+        m_pContacts->addContact(QStringLiteral("me"), ContactFixture::card(QStringLiteral("我"), {}));
+    }
 
-void tst_CentrePictures::arrowOfTheBackButtonKeepsAwayFromItsText()
-{
-    open(true);
-    showDetail(QStringLiteral("c6"));
-    const QImage picture = backButton()->grab().toImage();
-    const int iDensity = qRound(picture.devicePixelRatio());
-    const QRect inside = backButton()->rect().adjusted(2, 2, -2, -2);
-    const auto isEmptyColumn = [&](int x) {
-        for (int y = inside.top() * iDensity; y < inside.bottom() * iDensity; ++y)
-            if (Ink::isAt(picture, x, y))
-                return false;
-        return true;
-    };
-    int x = int(Ink::within(picture, inside).left() * iDensity);
-    while (!isEmptyColumn(x))
-        ++x;
-    const int iArrowEnd = x;
-    while (isEmptyColumn(x))
-        ++x;
-    const qreal dGap = (x - iArrowEnd) / qreal(iDensity);
-    QVERIFY2(dGap >= 3, qPrintable(QString::number(dGap)));
-}
+    void cleanup()
+    {
+        m_pWindow.reset();
+        m_pContacts.reset();
+    }
+
+    void emptyList()
+    {
+        open(false);
+        compare("centre-empty");
+    }
+
+    void listOfRecords()
+    {
+        open(true);
+        compare("centre-list");
+    }
+
+    void rowUnderTheCursor()
+    {
+        open(true);
+        hover(1);
+        compare("centre-list-hover");
+    }
+
+    void menuOfARow()
+    {
+        open(true);
+        const QPoint row = list()->visualRect(list()->model()->index(0, 0)).center();
+        QTest::mouseClick(list()->viewport(), Qt::RightButton, Qt::NoModifier, row);
+        auto *const pMenu = list()->findChild<QMenu *>();
+        QVERIFY(QTest::qWaitForWindowExposed(pMenu, kPatienceMs));
+        const QString strComplaint =
+            ComparedPicture::complaint(QStringLiteral("centre-menu"), ComparedPicture::of(pMenu));
+        QVERIFY2(strComplaint.isEmpty(), qPrintable(strComplaint));
+    }
+
+    void detail()
+    {
+        open(true);
+        showDetail(QStringLiteral("c6"));
+        QVERIFY(backButton()->isVisible());
+        compare("centre-detail");
+    }
+
+    void detailOfAConferenceThatNeverConnected()
+    {
+        open(true);
+        showDetail(QStringLiteral("c4"));
+        compare("centre-detail-unconnected");
+    }
+
+    void directionStandsAtTheHeightOfItsLine()
+    {
+        open(true);
+        const QImage picture = list()->viewport()->grab().toImage();
+        for (int iRow : {0, 2}) {
+            const QPoint row = list()->visualRect(list()->model()->index(iRow, 0)).topLeft();
+            const QRect direction(row + QPoint(60, 30), QSize(20, 28));
+            const QRect date(row + QPoint(160, 30), QSize(110, 28));
+            QVERIFY(!Ink::within(picture, direction).isEmpty() && !Ink::within(picture, date).isEmpty());
+            const qreal dBelow = Ink::below(picture, direction, date);
+            QVERIFY2(qAbs(dBelow) <= 1, qPrintable(QString::number(dBelow)));
+        }
+    }
+
+    void detailButtonFillsItsPlace()
+    {
+        open(true);
+        hover(0);
+        const QImage picture = list()->viewport()->grab().toImage();
+        const QRect place = list()->model()->index(0, 0).data(ROLE_REMOVE_RECT).toRect();
+        QVERIFY(!place.isEmpty());
+        const QRectF ink = Ink::within(picture, place.adjusted(-4, -6, 4, 4));
+        QVERIFY(QRectF(place).contains(ink));
+        // A circle, not cut off.
+        QVERIFY2(qAbs(ink.width() - ink.height()) <= 1,
+                 qPrintable(QStringLiteral("%1 %2").arg(ink.width()).arg(ink.height())));
+        QVERIFY(qAbs(ink.center().y() - QRectF(place).center().y()) <= 0.5);
+    }
+
+    void arrowOfTheBackButtonKeepsAwayFromItsText()
+    {
+        open(true);
+        showDetail(QStringLiteral("c6"));
+        const QImage picture = backButton()->grab().toImage();
+        const int iDensity = qRound(picture.devicePixelRatio());
+        const QRect inside = backButton()->rect().adjusted(2, 2, -2, -2);
+        const auto isEmptyColumn = [&](int x) {
+            for (int y = inside.top() * iDensity; y < inside.bottom() * iDensity; ++y)
+                if (Ink::isAt(picture, x, y))
+                    return false;
+            return true;
+        };
+        int x = int(Ink::within(picture, inside).left() * iDensity);
+        while (!isEmptyColumn(x))
+            ++x;
+        const int iArrowEnd = x;
+        while (isEmptyColumn(x))
+            ++x;
+        const qreal dGap = (x - iArrowEnd) / qreal(iDensity);
+        QVERIFY2(dGap >= 3, qPrintable(QString::number(dGap)));
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_CentrePictures, Widgets)

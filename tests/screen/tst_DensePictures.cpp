@@ -99,144 +99,130 @@ class tst_DensePictures : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void indicatorIsThePicture_data();
-    void indicatorIsThePicture();
-    void tickOfAMenuIsThePicture();
-    void backButtonIsThePicture();
-    void volumeSliderIsThePicture();
-    void headIsAsSharpAsItsDrawing_data();
-    void headIsAsSharpAsItsDrawing();
+    void initTestCase()
+    {
+        QStringList files;
+        for (const char *indicator : {"checkbox_normal", "checkbox_pressed", "checkbox_disable", "radio_normal",
+                                      "radio_pressed", "radio_disable"})
+            files.append(QStringLiteral("images/icon/btn_") + QLatin1String(indicator));
+        files << cBack << cTick << cGroove;
+        for (QString &file : files)
+            file.append(QStringLiteral(".png"));
+        const QString strMissing = PictureSetting::prepare(files);
+        QVERIFY2(strMissing.isEmpty(), qPrintable(strMissing));
+    }
+
+    void init()
+    {
+        m_pContacts = std::make_unique<ContactFixture>();
+        PictureSetting::addContacts(*m_pContacts);
+    }
+
+    void cleanup() { m_pContacts.reset(); }
+
+    void indicatorIsThePicture_data()
+    {
+        QTest::addColumn<QString>("picture");
+        QTest::addColumn<bool>("checked");
+        QTest::addColumn<bool>("enabled");
+
+        for (const char *kind : {"checkbox", "radio"}) {
+            const QString picture = QStringLiteral("images/icon/btn_%1_").arg(QLatin1String(kind));
+            QTest::addRow("%s", kind) << picture + QStringLiteral("normal") << false << true;
+            QTest::addRow("%s, chosen", kind) << picture + QStringLiteral("pressed") << true << true;
+            QTest::addRow("%s, disabled", kind) << picture + QStringLiteral("disable") << false << false;
+        }
+    }
+
+    void indicatorIsThePicture()
+    {
+        QFETCH(QString, picture);
+        QFETCH(bool, checked);
+        QFETCH(bool, enabled);
+        const SysUIData &skin = *SkinContext::getSkinData();
+        std::unique_ptr<QAbstractButton> pButton;
+        if (picture.contains(QLatin1String("radio")))
+            pButton = button<QRadioButton>(skin.m_strRadioButtonStyle + skin.m_strRadioButtonCheckedStyle +
+                                               skin.m_strRadioButtonDisabledStyle,
+                                           checked, enabled);
+        else
+            pButton = button<QCheckBox>(skin.m_strCheckBoxStyle + skin.m_strCheckBoxCheckedStyle +
+                                            skin.m_strCheckBoxDisabledStyle,
+                                        checked, enabled);
+        pButton->move(200, 200);
+        pButton->show();
+        QVERIFY(QTest::qWaitForWindowExposed(pButton.get(), kPatienceMs));
+        QVERIFY(holds(ComparedPicture::of(pButton.get()), shipped(picture, QRect(0, 0, 16, 16))));
+    }
+
+    void tickOfAMenuIsThePicture()
+    {
+        CMenuEx menu;
+        menu.setMenuType(CMenuEx::CheckMenu);
+        QAction *pEntry = menu.addAction(QStringLiteral("text"));
+        pEntry->setCheckable(true);
+        pEntry->setChecked(true);
+        menu.popup(QPoint(200, 200));
+        QVERIFY(QTest::qWaitForWindowExposed(&menu, kPatienceMs));
+        QVERIFY(holds(ComparedPicture::of(&menu), shipped(cTick, QRect(0, 0, 15, 15))));
+    }
+
+    // The arrow in the middle of its left edge; the text stands to the right of it.
+    void backButtonIsThePicture()
+    {
+        CVoiceConferenceWidget centre;
+        auto *pBack = centre.findChild<QWidget *>(QStringLiteral("backBtn"));
+        pBack->show();
+        centre.move(200, 200);
+        centre.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&centre, kPatienceMs));
+        QVERIFY(holds(ComparedPicture::of(pBack), shipped(cBack, QRect(2, 4, 6, 12))));
+    }
+
+    // The handle stands in the middle.
+    void volumeSliderIsThePicture()
+    {
+        CVoipWidget window;
+        auto *pSlider = window.findChild<QSlider *>(QStringLiteral("m_pMicSlider"));
+        pSlider->show();
+        window.move(200, 200);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
+        QVERIFY(holds(ComparedPicture::of(pSlider), shipped(cGroove, QRect(5, 0, 40, 24))));
+    }
+
+    void headIsAsSharpAsItsDrawing_data()
+    {
+        QTest::addColumn<QString>("uid");
+        QTest::addColumn<QString>("drawing");
+
+        QTest::newRow("default head") << "nobody"
+                                      << "images/FriendDetail/defaultHead";
+        QTest::newRow("system avatar") << "ann"
+                                       << "SystemAvatar/3";
+    }
+
+    void headIsAsSharpAsItsDrawing()
+    {
+        QFETCH(QString, uid);
+        QFETCH(QString, drawing);
+        CVoipWidget window;
+        window.setVoipCallInfo({uid}, CVoipWidget::Voice, true, false);
+        window.move(200, 200);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
+        // The square within the round head.
+        const QRect middle = dense(QRect(16, 16, 68, 68));
+        const QImage shown = ComparedPicture::of(window.findChild<QWidget *>(QStringLiteral("lblPhotoIcon")));
+        const QImage drawn = drawnHead(drawing, 100 * density());
+        QCOMPARE(shown.size(), drawn.size());
+        const int iDiffering = ComparedPicture::differingPixels(shown.copy(middle), drawn.copy(middle));
+        QVERIFY2(iDiffering <= middle.width() / 10, qPrintable(QString::number(iDiffering)));
+    }
 
 private:
     std::unique_ptr<ContactFixture> m_pContacts;
 };
-
-void tst_DensePictures::initTestCase()
-{
-    QStringList files;
-    for (const char *indicator :
-         {"checkbox_normal", "checkbox_pressed", "checkbox_disable", "radio_normal", "radio_pressed", "radio_disable"})
-        files.append(QStringLiteral("images/icon/btn_") + QLatin1String(indicator));
-    files << cBack << cTick << cGroove;
-    for (QString &file : files)
-        file.append(QStringLiteral(".png"));
-    const QString strMissing = PictureSetting::prepare(files);
-    QVERIFY2(strMissing.isEmpty(), qPrintable(strMissing));
-}
-
-void tst_DensePictures::init()
-{
-    m_pContacts = std::make_unique<ContactFixture>();
-    PictureSetting::addContacts(*m_pContacts);
-}
-
-void tst_DensePictures::cleanup()
-{
-    m_pContacts.reset();
-}
-
-void tst_DensePictures::indicatorIsThePicture_data()
-{
-    QTest::addColumn<QString>("picture");
-    QTest::addColumn<bool>("checked");
-    QTest::addColumn<bool>("enabled");
-
-    for (const char *kind : {"checkbox", "radio"}) {
-        const QString picture = QStringLiteral("images/icon/btn_%1_").arg(QLatin1String(kind));
-        QTest::addRow("%s", kind) << picture + QStringLiteral("normal") << false << true;
-        QTest::addRow("%s, chosen", kind) << picture + QStringLiteral("pressed") << true << true;
-        QTest::addRow("%s, disabled", kind) << picture + QStringLiteral("disable") << false << false;
-    }
-}
-
-void tst_DensePictures::indicatorIsThePicture()
-{
-    QFETCH(QString, picture);
-    QFETCH(bool, checked);
-    QFETCH(bool, enabled);
-    const SysUIData &skin = *SkinContext::getSkinData();
-    std::unique_ptr<QAbstractButton> pButton;
-    if (picture.contains(QLatin1String("radio")))
-        pButton = button<QRadioButton>(skin.m_strRadioButtonStyle + skin.m_strRadioButtonCheckedStyle +
-                                           skin.m_strRadioButtonDisabledStyle,
-                                       checked, enabled);
-    else
-        pButton = button<QCheckBox>(skin.m_strCheckBoxStyle + skin.m_strCheckBoxCheckedStyle +
-                                        skin.m_strCheckBoxDisabledStyle,
-                                    checked, enabled);
-    pButton->move(200, 200);
-    pButton->show();
-    QVERIFY(QTest::qWaitForWindowExposed(pButton.get(), kPatienceMs));
-    QVERIFY(holds(ComparedPicture::of(pButton.get()), shipped(picture, QRect(0, 0, 16, 16))));
-}
-
-void tst_DensePictures::tickOfAMenuIsThePicture()
-{
-    CMenuEx menu;
-    menu.setMenuType(CMenuEx::CheckMenu);
-    QAction *pEntry = menu.addAction(QStringLiteral("text"));
-    pEntry->setCheckable(true);
-    pEntry->setChecked(true);
-    menu.popup(QPoint(200, 200));
-    QVERIFY(QTest::qWaitForWindowExposed(&menu, kPatienceMs));
-    QVERIFY(holds(ComparedPicture::of(&menu), shipped(cTick, QRect(0, 0, 15, 15))));
-}
-
-// The arrow in the middle of its left edge; the text stands to the right of it.
-void tst_DensePictures::backButtonIsThePicture()
-{
-    CVoiceConferenceWidget centre;
-    auto *pBack = centre.findChild<QWidget *>(QStringLiteral("backBtn"));
-    pBack->show();
-    centre.move(200, 200);
-    centre.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&centre, kPatienceMs));
-    QVERIFY(holds(ComparedPicture::of(pBack), shipped(cBack, QRect(2, 4, 6, 12))));
-}
-
-// The handle stands in the middle.
-void tst_DensePictures::volumeSliderIsThePicture()
-{
-    CVoipWidget window;
-    auto *pSlider = window.findChild<QSlider *>(QStringLiteral("m_pMicSlider"));
-    pSlider->show();
-    window.move(200, 200);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
-    QVERIFY(holds(ComparedPicture::of(pSlider), shipped(cGroove, QRect(5, 0, 40, 24))));
-}
-
-void tst_DensePictures::headIsAsSharpAsItsDrawing_data()
-{
-    QTest::addColumn<QString>("uid");
-    QTest::addColumn<QString>("drawing");
-
-    QTest::newRow("default head") << "nobody"
-                                  << "images/FriendDetail/defaultHead";
-    QTest::newRow("system avatar") << "ann"
-                                   << "SystemAvatar/3";
-}
-
-void tst_DensePictures::headIsAsSharpAsItsDrawing()
-{
-    QFETCH(QString, uid);
-    QFETCH(QString, drawing);
-    CVoipWidget window;
-    window.setVoipCallInfo({uid}, CVoipWidget::Voice, true, false);
-    window.move(200, 200);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
-    // The square within the round head.
-    const QRect middle = dense(QRect(16, 16, 68, 68));
-    const QImage shown = ComparedPicture::of(window.findChild<QWidget *>(QStringLiteral("lblPhotoIcon")));
-    const QImage drawn = drawnHead(drawing, 100 * density());
-    QCOMPARE(shown.size(), drawn.size());
-    const int iDiffering = ComparedPicture::differingPixels(shown.copy(middle), drawn.copy(middle));
-    QVERIFY2(iDiffering <= middle.width() / 10, qPrintable(QString::number(iDiffering)));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_DensePictures, Widgets)

@@ -50,135 +50,130 @@ class tst_LockWait : public StoreFolder
     Q_OBJECT
 
 private slots:
-    void statementIsTriedAgainUntilTheLockIsGone();
-    void allStatementsWaitTogether();
-    void workThatTakesLongUsesNothingUp();
-    void otherFailuresAreNotTriedAgain();
-    void preparedStatementKeepsItsValues();
-    void connectionOpenedAgainWaitsAsTheDriverDoes();
-};
+    void statementIsTriedAgainUntilTheLockIsGone()
+    {
+        QVERIFY(putFile(m_sound));
+        const FlowConnection flow(m_strFile);
+        LockHolder holder(m_strFile, everything);
+        QVERIFY(holder.hasHeld());
+        LockWait wait(flow.db);
+        QSqlQuery query(flow.db);
+        int tries = 0;
+        bool gone = false;
+        QVERIFY(wait.execute(query, [&] {
+            if (++tries == 4) {
+                gone = holder.letGo();
+            }
+            return query.exec(look);
+        }));
+        QVERIFY(gone);
+        QCOMPARE(tries, 4);
+        QVERIFY(query.next());
+        QCOMPARE(query.value(0).toInt(), m_iRecords);
+    }
 
-void tst_LockWait::statementIsTriedAgainUntilTheLockIsGone()
-{
-    QVERIFY(putFile(m_sound));
-    const FlowConnection flow(m_strFile);
-    LockHolder holder(m_strFile, everything);
-    QVERIFY(holder.hasHeld());
-    LockWait wait(flow.db);
-    QSqlQuery query(flow.db);
-    int tries = 0;
-    bool gone = false;
-    QVERIFY(wait.execute(query, [&] {
-        if (++tries == 4) {
-            gone = holder.letGo();
-        }
-        return query.exec(look);
-    }));
-    QVERIFY(gone);
-    QCOMPARE(tries, 4);
-    QVERIFY(query.next());
-    QCOMPARE(query.value(0).toInt(), m_iRecords);
-}
-
-void tst_LockWait::allStatementsWaitTogether()
-{
-    QVERIFY(putFile(m_sound));
-    const FlowConnection flow(m_strFile);
-    LockHolder holder(m_strFile, everything);
-    QVERIFY(holder.hasHeld());
-    LockWait wait(flow.db);
-    QSqlQuery query(flow.db);
-    int tries = 0;
-    const auto tryOnce = [&] {
-        ++tries;
-        return query.exec(look);
-    };
-    QVERIFY(!wait.execute(query, tryOnce));
-    QVERIFY(LockWait::isLockedOut(query.lastError()));
-    QVERIFY(tries > 1);
-    // Nothing is left for those behind it, but they are tried.
-    for (tries = 0; tries < 50;) {
-        const int before = tries;
+    void allStatementsWaitTogether()
+    {
+        QVERIFY(putFile(m_sound));
+        const FlowConnection flow(m_strFile);
+        LockHolder holder(m_strFile, everything);
+        QVERIFY(holder.hasHeld());
+        LockWait wait(flow.db);
+        QSqlQuery query(flow.db);
+        int tries = 0;
+        const auto tryOnce = [&] {
+            ++tries;
+            return query.exec(look);
+        };
         QVERIFY(!wait.execute(query, tryOnce));
-        QCOMPARE(tries, before + 1);
-    }
-    QVERIFY(holder.holds());
-    QVERIFY(holder.letGo());
-    QVERIFY(wait.execute(query, look));
-}
-
-void tst_LockWait::workThatTakesLongUsesNothingUp()
-{
-    QVERIFY(putFile(m_sound));
-    const FlowConnection flow(m_strFile);
-    LockWait wait(flow.db);
-    QSqlQuery query(flow.db);
-    const QString longWork = QStringLiteral("WITH RECURSIVE counted(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM counted"
-                                            " LIMIT 500000) SELECT max(i) FROM counted");
-    QElapsedTimer clock;
-    clock.start();
-    while (clock.elapsed() <= LockWait::kLimitMs) {
-        QVERIFY(wait.execute(query, longWork));
-    }
-    query.clear();
-    LockHolder holder(m_strFile, everything);
-    QVERIFY(holder.hasHeld());
-    int tries = 0;
-    QVERIFY(wait.execute(query, [&] { return ++tries == 4 ? holder.letGo() && query.exec(look) : query.exec(look); }));
-}
-
-void tst_LockWait::otherFailuresAreNotTriedAgain()
-{
-    QVERIFY(putFile(m_sound));
-    const FlowConnection flow(m_strFile);
-    LockWait wait(flow.db);
-    QSqlQuery query(flow.db);
-    int tries = 0;
-    QVERIFY(!wait.execute(query, [&] {
-        ++tries;
-        return query.exec(QStringLiteral("SELECT id FROM nothing"));
-    }));
-    QCOMPARE(tries, 1);
-    QVERIFY(!LockWait::isLockedOut(query.lastError()));
-    QVERIFY(query.lastError().isValid());
-}
-
-void tst_LockWait::preparedStatementKeepsItsValues()
-{
-    QVERIFY(putFile(m_sound));
-    const FlowConnection flow(m_strFile);
-    LockHolder holder(m_strFile, everything);
-    QVERIFY(holder.hasHeld());
-    LockWait wait(flow.db);
-    QSqlQuery query(flow.db);
-    int tries = 0;
-    QVERIFY(wait.execute(query, [&] {
-        if (++tries == 3 && !holder.letGo()) {
-            return false;
+        QVERIFY(LockWait::isLockedOut(query.lastError()));
+        QVERIFY(tries > 1);
+        // Nothing is left for those behind it, but they are tried.
+        for (tries = 0; tries < 50;) {
+            const int before = tries;
+            QVERIFY(!wait.execute(query, tryOnce));
+            QCOMPARE(tries, before + 1);
         }
-        if (!query.prepare(QStringLiteral("INSERT INTO msgrecord (id) VALUES (?)"))) {
-            return false;
-        }
-        query.addBindValue(QStringLiteral("mine"));
-        return query.exec();
-    }));
-    QCOMPARE(ask(QStringLiteral("SELECT count(*) FROM msgrecord WHERE id = 'mine'")), QStringLiteral("1"));
-}
+        QVERIFY(holder.holds());
+        QVERIFY(holder.letGo());
+        QVERIFY(wait.execute(query, look));
+    }
 
-void tst_LockWait::connectionOpenedAgainWaitsAsTheDriverDoes()
-{
-    constexpr int driversOwn = 5000;
-    QVERIFY(putFile(m_sound));
-    FlowConnection flow(m_strFile);
-    QCOMPARE(flow.ownWaitingTime(), 0);
-    LockWait(flow.db).end();
-    QCOMPARE(flow.ownWaitingTime(), driversOwn);
-    QVERIFY(LockWait::open(flow.db));
-    QCOMPARE(flow.db.connectOptions(), QString());
-    flow.db.close();
-    QVERIFY(flow.db.open());
-    QCOMPARE(flow.ownWaitingTime(), driversOwn);
-}
+    void workThatTakesLongUsesNothingUp()
+    {
+        QVERIFY(putFile(m_sound));
+        const FlowConnection flow(m_strFile);
+        LockWait wait(flow.db);
+        QSqlQuery query(flow.db);
+        const QString longWork =
+            QStringLiteral("WITH RECURSIVE counted(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM counted"
+                           " LIMIT 500000) SELECT max(i) FROM counted");
+        QElapsedTimer clock;
+        clock.start();
+        while (clock.elapsed() <= LockWait::kLimitMs) {
+            QVERIFY(wait.execute(query, longWork));
+        }
+        query.clear();
+        LockHolder holder(m_strFile, everything);
+        QVERIFY(holder.hasHeld());
+        int tries = 0;
+        QVERIFY(
+            wait.execute(query, [&] { return ++tries == 4 ? holder.letGo() && query.exec(look) : query.exec(look); }));
+    }
+
+    void otherFailuresAreNotTriedAgain()
+    {
+        QVERIFY(putFile(m_sound));
+        const FlowConnection flow(m_strFile);
+        LockWait wait(flow.db);
+        QSqlQuery query(flow.db);
+        int tries = 0;
+        QVERIFY(!wait.execute(query, [&] {
+            ++tries;
+            return query.exec(QStringLiteral("SELECT id FROM nothing"));
+        }));
+        QCOMPARE(tries, 1);
+        QVERIFY(!LockWait::isLockedOut(query.lastError()));
+        QVERIFY(query.lastError().isValid());
+    }
+
+    void preparedStatementKeepsItsValues()
+    {
+        QVERIFY(putFile(m_sound));
+        const FlowConnection flow(m_strFile);
+        LockHolder holder(m_strFile, everything);
+        QVERIFY(holder.hasHeld());
+        LockWait wait(flow.db);
+        QSqlQuery query(flow.db);
+        int tries = 0;
+        QVERIFY(wait.execute(query, [&] {
+            if (++tries == 3 && !holder.letGo()) {
+                return false;
+            }
+            if (!query.prepare(QStringLiteral("INSERT INTO msgrecord (id) VALUES (?)"))) {
+                return false;
+            }
+            query.addBindValue(QStringLiteral("mine"));
+            return query.exec();
+        }));
+        QCOMPARE(ask(QStringLiteral("SELECT count(*) FROM msgrecord WHERE id = 'mine'")), QStringLiteral("1"));
+    }
+
+    void connectionOpenedAgainWaitsAsTheDriverDoes()
+    {
+        constexpr int driversOwn = 5000;
+        QVERIFY(putFile(m_sound));
+        FlowConnection flow(m_strFile);
+        QCOMPARE(flow.ownWaitingTime(), 0);
+        LockWait(flow.db).end();
+        QCOMPARE(flow.ownWaitingTime(), driversOwn);
+        QVERIFY(LockWait::open(flow.db));
+        QCOMPARE(flow.db.connectOptions(), QString());
+        flow.db.close();
+        QVERIFY(flow.db.open());
+        QCOMPARE(flow.ownWaitingTime(), driversOwn);
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_LockWait, Guiless)

@@ -103,9 +103,31 @@ class tst_CallWindowPointer : public QObject
     Q_OBJECT
 
 private:
-    void open(CVoipWidget::VoipType type);
-    bool isShapeAt(const QPoint &place, Qt::CursorShape shape) const;
-    static QRect shownBand();
+    void open(CVoipWidget::VoipType type)
+    {
+        m_pWindow = std::make_unique<CVoipWidget>();
+        // Without a window manager's own opinion on places.
+        m_pWindow->setWindowFlag(Qt::X11BypassWindowManagerHint);
+        m_pWindow->move(cHome);
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, type, true, true);
+        m_pWindow->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), kPatienceMs));
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->geometry(), QRect(cHome, cSize), kPatienceMs);
+    }
+
+    bool isShapeAt(const QPoint &place, Qt::CursorShape shape) const
+    {
+        const QWidget *pPart = m_pWindow->childAt(place);
+        return (pPart != nullptr ? pPart : m_pWindow.get())->cursor().shape() == shape;
+    }
+
+    static QRect shownBand()
+    {
+        for (QWidget *pWindow : QApplication::topLevelWidgets())
+            if (qobject_cast<MyRubberBand *>(pWindow) != nullptr && pWindow->isVisible())
+                return pWindow->geometry();
+        return {};
+    }
 
     ScreenPointer m_pointer;
     std::unique_ptr<ContactFixture> m_pContacts;
@@ -113,208 +135,171 @@ private:
     std::unique_ptr<CVoipWidget> m_pWindow;
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void edgeIsForgottenOverTheParts_data();
-    void edgeIsForgottenOverTheParts();
-    void edgeIsKnownOverTheParts();
-    void edgeIsKeptDuringItsDrag_data();
-    void edgeIsKeptDuringItsDrag();
-    void bandIsFourDottedBars();
-};
+    void initTestCase() { QVERIFY(m_pointer.isReady()); }
 
-void tst_CallWindowPointer::initTestCase()
-{
-    QVERIFY(m_pointer.isReady());
-}
-
-void tst_CallWindowPointer::init()
-{
-    m_pContacts = std::make_unique<ContactFixture>();
-    m_pBackdrop = std::make_unique<QWidget>(nullptr, Qt::X11BypassWindowManagerHint);
-    m_pBackdrop->setPalette(QPalette(QColor(cBackdrop)));
-    m_pBackdrop->setGeometry(QGuiApplication::primaryScreen()->geometry());
-    m_pBackdrop->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pBackdrop.get(), kPatienceMs));
-    m_pointer.moveTo(QPoint(20, 20));
-    QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), QPoint(20, 20), kPatienceMs);
-}
-
-void tst_CallWindowPointer::cleanup()
-{
-    m_pointer.release(Qt::LeftButton);
-    QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::mouseButtons(), Qt::NoButton, kPatienceMs);
-    m_pWindow.reset();
-    m_pBackdrop.reset();
-    m_pContacts.reset();
-}
-
-void tst_CallWindowPointer::open(CVoipWidget::VoipType type)
-{
-    m_pWindow = std::make_unique<CVoipWidget>();
-    // Without a window manager's own opinion on places.
-    m_pWindow->setWindowFlag(Qt::X11BypassWindowManagerHint);
-    m_pWindow->move(cHome);
-    m_pWindow->setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, type, true, true);
-    m_pWindow->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), kPatienceMs));
-    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->geometry(), QRect(cHome, cSize), kPatienceMs);
-}
-
-bool tst_CallWindowPointer::isShapeAt(const QPoint &place, Qt::CursorShape shape) const
-{
-    const QWidget *pPart = m_pWindow->childAt(place);
-    return (pPart != nullptr ? pPart : m_pWindow.get())->cursor().shape() == shape;
-}
-
-QRect tst_CallWindowPointer::shownBand()
-{
-    for (QWidget *pWindow : QApplication::topLevelWidgets())
-        if (qobject_cast<MyRubberBand *>(pWindow) != nullptr && pWindow->isVisible())
-            return pWindow->geometry();
-    return {};
-}
-
-void tst_CallWindowPointer::edgeIsForgottenOverTheParts_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("surface");
-    QTest::addColumn<QPoint>("edge");
-    QTest::addColumn<QPoint>("target");
-    QTest::addColumn<bool>("drags");
-    const QPoint left(1, 200);
-    QTest::newRow("voice page") << int(CVoipWidget::Voice) << false << left << QPoint(100, 200) << true;
-    QTest::newRow("voice page, head") << int(CVoipWidget::Voice) << false << left << QPoint(261, 150) << true;
-    QTest::newRow("voice page, from the right")
-        << int(CVoipWidget::Voice) << false << QPoint(521, 200) << QPoint(400, 200) << true;
-    QTest::newRow("video page") << int(CVoipWidget::Video) << false << left << QPoint(100, 200) << true;
-    // They take the moves.
-    QTest::newRow("video page, its pictures") << int(CVoipWidget::Video) << true << left << QPoint(100, 200) << false;
-    QTest::newRow("conference page, above the list")
-        << int(CVoipWidget::Conference) << false << left << QPoint(200, 55) << true;
-    // The list takes the presses.
-    QTest::newRow("conference page, list")
-        << int(CVoipWidget::Conference) << false << left << QPoint(100, 250) << false;
-    QTest::newRow("control bar") << int(CVoipWidget::Voice) << false << QPoint(430, 401) << QPoint(430, 380) << true;
-    QTest::newRow("control bar, from the left")
-        << int(CVoipWidget::Voice) << false << QPoint(1, 380) << QPoint(250, 380) << true;
-}
-
-void tst_CallWindowPointer::edgeIsForgottenOverTheParts()
-{
-    QFETCH(int, type);
-    QFETCH(bool, surface);
-    QFETCH(QPoint, edge);
-    QFETCH(QPoint, target);
-    QFETCH(bool, drags);
-    open(CVoipWidget::VoipType(type));
-    if (surface) {
-        m_pWindow->addVoipWidget(new Surface);
-        QCoreApplication::processEvents();
+    void init()
+    {
+        m_pContacts = std::make_unique<ContactFixture>();
+        m_pBackdrop = std::make_unique<QWidget>(nullptr, Qt::X11BypassWindowManagerHint);
+        m_pBackdrop->setPalette(QPalette(QColor(cBackdrop)));
+        m_pBackdrop->setGeometry(QGuiApplication::primaryScreen()->geometry());
+        m_pBackdrop->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_pBackdrop.get(), kPatienceMs));
+        m_pointer.moveTo(QPoint(20, 20));
+        QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), QPoint(20, 20), kPatienceMs);
     }
-    m_pointer.moveTo(cHome + edge);
-    const bool bAtSide = edge.y() == 200 || edge.y() == 380;
-    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), bAtSide ? Qt::SizeHorCursor : Qt::SizeVerCursor,
-                              kPatienceMs);
-    m_pointer.moveTo(cHome + target);
-    QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(target, Qt::ArrowCursor), kPatienceMs);
-    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), Qt::ArrowCursor, kPatienceMs);
-    if (!drags)
-        return;
-    m_pointer.press(Qt::LeftButton);
-    m_pointer.moveTo(cHome + target + QPoint(15, 10));
-    m_pointer.moveTo(cHome + target + QPoint(30, 20));
-    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), cHome + QPoint(30, 20), kPatienceMs);
-    QVERIFY(shownBand().isNull());
-    m_pointer.release(Qt::LeftButton);
-    QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::mouseButtons(), Qt::NoButton, kPatienceMs);
-    QCOMPARE(m_pWindow->geometry(), QRect(cHome + QPoint(30, 20), cSize));
-}
 
-void tst_CallWindowPointer::edgeIsKnownOverTheParts()
-{
-    // The band reaches over the margin that the window's parts leave.
-    open(CVoipWidget::Voice);
-    m_pointer.moveTo(cHome + QPoint(100, 200));
-    QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), cHome + QPoint(100, 200), kPatienceMs);
-    QVERIFY(m_pWindow->childAt(4, 200) != nullptr);
-    m_pointer.moveTo(cHome + QPoint(4, 200));
-    QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(QPoint(4, 200), Qt::SizeHorCursor), kPatienceMs);
-    m_pointer.moveTo(cHome + QPoint(5, 200));
-    QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(QPoint(5, 200), Qt::ArrowCursor), kPatienceMs);
-}
+    void cleanup()
+    {
+        m_pointer.release(Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::mouseButtons(), Qt::NoButton, kPatienceMs);
+        m_pWindow.reset();
+        m_pBackdrop.reset();
+        m_pContacts.reset();
+    }
 
-void tst_CallWindowPointer::edgeIsKeptDuringItsDrag_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QPoint>("edge");
-    QTest::addColumn<QPoint>("by");
-    QTest::newRow("voice page, over the parts") << int(CVoipWidget::Voice) << QPoint(1, 200) << QPoint(150, 0);
-    QTest::newRow("voice page, out and in again") << int(CVoipWidget::Voice) << QPoint(1, 200) << QPoint(-40, 0);
-    QTest::newRow("video page, from the right") << int(CVoipWidget::Video) << QPoint(521, 200) << QPoint(-150, 0);
-    QTest::newRow("conference page, over the list")
-        << int(CVoipWidget::Conference) << QPoint(1, 200) << QPoint(100, 30);
-    QTest::newRow("control bar, from below") << int(CVoipWidget::Voice) << QPoint(430, 401) << QPoint(0, -150);
-}
+    void edgeIsForgottenOverTheParts_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<bool>("surface");
+        QTest::addColumn<QPoint>("edge");
+        QTest::addColumn<QPoint>("target");
+        QTest::addColumn<bool>("drags");
+        const QPoint left(1, 200);
+        QTest::newRow("voice page") << int(CVoipWidget::Voice) << false << left << QPoint(100, 200) << true;
+        QTest::newRow("voice page, head") << int(CVoipWidget::Voice) << false << left << QPoint(261, 150) << true;
+        QTest::newRow("voice page, from the right")
+            << int(CVoipWidget::Voice) << false << QPoint(521, 200) << QPoint(400, 200) << true;
+        QTest::newRow("video page") << int(CVoipWidget::Video) << false << left << QPoint(100, 200) << true;
+        // They take the moves.
+        QTest::newRow("video page, its pictures")
+            << int(CVoipWidget::Video) << true << left << QPoint(100, 200) << false;
+        QTest::newRow("conference page, above the list")
+            << int(CVoipWidget::Conference) << false << left << QPoint(200, 55) << true;
+        // The list takes the presses.
+        QTest::newRow("conference page, list")
+            << int(CVoipWidget::Conference) << false << left << QPoint(100, 250) << false;
+        QTest::newRow("control bar") << int(CVoipWidget::Voice) << false << QPoint(430, 401) << QPoint(430, 380)
+                                     << true;
+        QTest::newRow("control bar, from the left")
+            << int(CVoipWidget::Voice) << false << QPoint(1, 380) << QPoint(250, 380) << true;
+    }
 
-void tst_CallWindowPointer::edgeIsKeptDuringItsDrag()
-{
-    QFETCH(int, type);
-    QFETCH(QPoint, edge);
-    QFETCH(QPoint, by);
-    open(CVoipWidget::VoipType(type));
-    m_pointer.moveTo(cHome + edge);
-    QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->cursor().shape() != Qt::ArrowCursor, kPatienceMs);
-    const Qt::CursorShape shape = m_pWindow->cursor().shape();
-    m_pointer.press(Qt::LeftButton);
-    QTRY_COMPARE_WITH_TIMEOUT(shownBand(), QRect(cHome, cSize), kPatienceMs);
-    // There and back, a step at a time: inside of the edge a hover event would read as no edge at all.
-    for (const int iStep : {1, 2, 3, 4, 3, 2, 1, 0}) {
-        const QPoint place = cHome + edge + by * iStep / 4;
-        m_pointer.moveTo(place);
-        QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), place, kPatienceMs);
-        QCoreApplication::processEvents();
+    void edgeIsForgottenOverTheParts()
+    {
+        QFETCH(int, type);
+        QFETCH(bool, surface);
+        QFETCH(QPoint, edge);
+        QFETCH(QPoint, target);
+        QFETCH(bool, drags);
+        open(CVoipWidget::VoipType(type));
+        if (surface) {
+            m_pWindow->addVoipWidget(new Surface);
+            QCoreApplication::processEvents();
+        }
+        m_pointer.moveTo(cHome + edge);
+        const bool bAtSide = edge.y() == 200 || edge.y() == 380;
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), bAtSide ? Qt::SizeHorCursor : Qt::SizeVerCursor,
+                                  kPatienceMs);
+        m_pointer.moveTo(cHome + target);
+        QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(target, Qt::ArrowCursor), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), Qt::ArrowCursor, kPatienceMs);
+        if (!drags)
+            return;
+        m_pointer.press(Qt::LeftButton);
+        m_pointer.moveTo(cHome + target + QPoint(15, 10));
+        m_pointer.moveTo(cHome + target + QPoint(30, 20));
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), cHome + QPoint(30, 20), kPatienceMs);
+        QVERIFY(shownBand().isNull());
+        m_pointer.release(Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::mouseButtons(), Qt::NoButton, kPatienceMs);
+        QCOMPARE(m_pWindow->geometry(), QRect(cHome + QPoint(30, 20), cSize));
+    }
+
+    void edgeIsKnownOverTheParts()
+    {
+        // The band reaches over the margin that the window's parts leave.
+        open(CVoipWidget::Voice);
+        m_pointer.moveTo(cHome + QPoint(100, 200));
+        QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), cHome + QPoint(100, 200), kPatienceMs);
+        QVERIFY(m_pWindow->childAt(4, 200) != nullptr);
+        m_pointer.moveTo(cHome + QPoint(4, 200));
+        QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(QPoint(4, 200), Qt::SizeHorCursor), kPatienceMs);
+        m_pointer.moveTo(cHome + QPoint(5, 200));
+        QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(QPoint(5, 200), Qt::ArrowCursor), kPatienceMs);
+    }
+
+    void edgeIsKeptDuringItsDrag_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QPoint>("edge");
+        QTest::addColumn<QPoint>("by");
+        QTest::newRow("voice page, over the parts") << int(CVoipWidget::Voice) << QPoint(1, 200) << QPoint(150, 0);
+        QTest::newRow("voice page, out and in again") << int(CVoipWidget::Voice) << QPoint(1, 200) << QPoint(-40, 0);
+        QTest::newRow("video page, from the right") << int(CVoipWidget::Video) << QPoint(521, 200) << QPoint(-150, 0);
+        QTest::newRow("conference page, over the list")
+            << int(CVoipWidget::Conference) << QPoint(1, 200) << QPoint(100, 30);
+        QTest::newRow("control bar, from below") << int(CVoipWidget::Voice) << QPoint(430, 401) << QPoint(0, -150);
+    }
+
+    void edgeIsKeptDuringItsDrag()
+    {
+        QFETCH(int, type);
+        QFETCH(QPoint, edge);
+        QFETCH(QPoint, by);
+        open(CVoipWidget::VoipType(type));
+        m_pointer.moveTo(cHome + edge);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->cursor().shape() != Qt::ArrowCursor, kPatienceMs);
+        const Qt::CursorShape shape = m_pWindow->cursor().shape();
+        m_pointer.press(Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(shownBand(), QRect(cHome, cSize), kPatienceMs);
+        // There and back, a step at a time: inside of the edge a hover event would read as no edge at all.
+        for (const int iStep : {1, 2, 3, 4, 3, 2, 1, 0}) {
+            const QPoint place = cHome + edge + by * iStep / 4;
+            m_pointer.moveTo(place);
+            QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), place, kPatienceMs);
+            QCoreApplication::processEvents();
+            QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
+            QCOMPARE(m_pWindow->cursor().shape(), shape);
+            QVERIFY(!shownBand().isNull());
+        }
+        m_pointer.release(Qt::LeftButton);
+        QTRY_VERIFY_WITH_TIMEOUT(shownBand().isNull(), kPatienceMs);
         QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
-        QCOMPARE(m_pWindow->cursor().shape(), shape);
-        QVERIFY(!shownBand().isNull());
     }
-    m_pointer.release(Qt::LeftButton);
-    QTRY_VERIFY_WITH_TIMEOUT(shownBand().isNull(), kPatienceMs);
-    QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
-}
 
-void tst_CallWindowPointer::bandIsFourDottedBars()
-{
-    open(CVoipWidget::Voice);
-    m_pointer.moveTo(cHome + QPoint(1, 200));
-    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), Qt::SizeHorCursor, kPatienceMs);
-    const int iDensity = qRound(qApp->devicePixelRatio());
-    QImage before;
-    QVERIFY(QTest::qWaitFor(
-        [&] {
-            before = screenNow();
-            return showsTheWindow(before, iDensity);
-        },
-        kPatienceMs));
+    void bandIsFourDottedBars()
+    {
+        open(CVoipWidget::Voice);
+        m_pointer.moveTo(cHome + QPoint(1, 200));
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), Qt::SizeHorCursor, kPatienceMs);
+        const int iDensity = qRound(qApp->devicePixelRatio());
+        QImage before;
+        QVERIFY(QTest::qWaitFor(
+            [&] {
+                before = screenNow();
+                return showsTheWindow(before, iDensity);
+            },
+            kPatienceMs));
 
-    m_pointer.press(Qt::LeftButton);
-    QTRY_COMPARE_WITH_TIMEOUT(shownBand(), QRect(cHome, cSize), kPatienceMs);
-    QString strWrong;
-    const auto isRight = [&](const QRect &band) {
-        strWrong = complaint(before, screenNow(), band, iDensity);
-        return strWrong.isEmpty();
-    };
-    QVERIFY2(QTest::qWaitFor([&] { return isRight(QRect(cHome, cSize)); }, kPatienceMs), qPrintable(strWrong));
+        m_pointer.press(Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(shownBand(), QRect(cHome, cSize), kPatienceMs);
+        QString strWrong;
+        const auto isRight = [&](const QRect &band) {
+            strWrong = complaint(before, screenNow(), band, iDensity);
+            return strWrong.isEmpty();
+        };
+        QVERIFY2(QTest::qWaitFor([&] { return isRight(QRect(cHome, cSize)); }, kPatienceMs), qPrintable(strWrong));
 
-    m_pointer.moveTo(cHome + QPoint(-60, 210));
-    const QRect larger(cHome - QPoint(60, 0), cSize + QSize(60, 0));
-    QTRY_COMPARE_WITH_TIMEOUT(shownBand(), larger, kPatienceMs);
-    QVERIFY2(QTest::qWaitFor([&] { return isRight(larger); }, kPatienceMs), qPrintable(strWrong));
+        m_pointer.moveTo(cHome + QPoint(-60, 210));
+        const QRect larger(cHome - QPoint(60, 0), cSize + QSize(60, 0));
+        QTRY_COMPARE_WITH_TIMEOUT(shownBand(), larger, kPatienceMs);
+        QVERIFY2(QTest::qWaitFor([&] { return isRight(larger); }, kPatienceMs), qPrintable(strWrong));
 
-    m_pointer.release(Qt::LeftButton);
-    QTRY_VERIFY_WITH_TIMEOUT(shownBand().isNull(), kPatienceMs);
-}
+        m_pointer.release(Qt::LeftButton);
+        QTRY_VERIFY_WITH_TIMEOUT(shownBand().isNull(), kPatienceMs);
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_CallWindowPointer, Widgets)

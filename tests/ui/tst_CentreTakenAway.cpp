@@ -69,107 +69,100 @@ private:
 
 private slots:
     void listMayGoWithItsCard_data() { addCardRows(); }
-    void listMayGoWithItsCard();
+
+    void listMayGoWithItsCard()
+    {
+        QFETCH(Act, event);
+        QFETCH(int, request);
+        auto pList = std::make_unique<CConferenceInfoListView>();
+        pList->addConfInfoList({record(QStringLiteral("b")), record(QStringLiteral("a"))});
+        pList->setGeometry(200, 200, 517, 280);
+        pList->show();
+        takeAwayAt(request, pList);
+        act(pList.get(), event);
+        QCOMPARE(requests(request), 1);
+        QVERIFY(!pList);
+    }
+
     void gridMayGoWithItsCard_data() { addCardRows(); }
-    void gridMayGoWithItsCard();
-    void listMayGoWhileItsCreatorsAreLookedUp();
-    void listMayGoWhileANewRecordsCreatorIsLookedUp();
-    void gridMayGoWhileAMemberIsLookedUp();
-    void pageMayGoWhileTheCreatorIsLookedUp();
-    void centreMayGoWhileItShowsADetail_data();
-    void centreMayGoWhileItShowsADetail();
+
+    void gridMayGoWithItsCard()
+    {
+        QFETCH(Act, event);
+        QFETCH(int, request);
+        auto pGrid = std::make_unique<CConfDetailMemberTableView>();
+        pGrid->setMemList({QStringLiteral("ann")});
+        pGrid->setGeometry(200, 200, 517, 280);
+        pGrid->show();
+        takeAwayAt(request, pGrid);
+        act(pGrid.get(), event);
+        QCOMPARE(requests(request), 1);
+        QVERIFY(!pGrid);
+    }
+
+    void listMayGoWhileItsCreatorsAreLookedUp()
+    {
+        auto pList = std::make_unique<CConferenceInfoListView>();
+        takeAwayAt(MSG_GET_FRIEND_INFO, pList);
+        ConfInfoData second = unknownRecord();
+        second.m_strConfID = QStringLiteral("b");
+        second.m_strCreatUserID = QStringLiteral("another stranger");
+        pList->addConfInfoList({unknownRecord(), second});
+        // With the list gone nobody needs the second creator.
+        QCOMPARE(requests(MSG_GET_FRIEND_INFO), 1);
+        QVERIFY(!pList);
+    }
+
+    void listMayGoWhileANewRecordsCreatorIsLookedUp()
+    {
+        auto pList = std::make_unique<CConferenceInfoListView>();
+        takeAwayAt(MSG_GET_FRIEND_INFO, pList);
+        pList->addConfInfoData(unknownRecord());
+        QCOMPARE(requests(MSG_GET_FRIEND_INFO), 1);
+        QVERIFY(!pList);
+    }
+
+    void gridMayGoWhileAMemberIsLookedUp()
+    {
+        auto pGrid = std::make_unique<CConfDetailMemberTableView>();
+        takeAwayAt(MSG_GET_FRIEND_INFO, pGrid);
+        pGrid->setMemList({QStringLiteral("bert"), QStringLiteral("carl")});
+        // Nobody is left to look the second one up for.
+        QCOMPARE(requests(MSG_GET_FRIEND_INFO), 1);
+        QVERIFY(!pGrid);
+    }
+
+    void pageMayGoWhileTheCreatorIsLookedUp()
+    {
+        auto pPage = std::make_unique<CConferenceDetaileWidget>();
+        takeAwayAt(MSG_GET_FRIEND_INFO, pPage);
+        pPage->setConferenceDetail(unknownRecord());
+        QCOMPARE(requests(MSG_GET_FRIEND_INFO), 1);
+        QVERIFY(!pPage);
+    }
+
+    void centreMayGoWhileItShowsADetail_data()
+    {
+        QTest::addColumn<QString>("creator");
+        QTest::newRow("the creator is looked up") << "stranger";
+        QTest::newRow("a member is looked up") << "ann";
+    }
+
+    void centreMayGoWhileItShowsADetail()
+    {
+        QFETCH(QString, creator);
+        ConfInfoData info = unknownRecord();
+        info.m_strCreatUserID = creator;
+        open({});
+        m_pWindow->addConferenceInfo(info);
+        showAt({100, 100});
+        m_pHost->events.clear();
+        takeAwayAt(MSG_GET_FRIEND_INFO, m_pWindow);
+        call("slot_ShowConfDetail", QStringLiteral("a"));
+        QCOMPARE(requests(MSG_GET_FRIEND_INFO), 1);
+        QVERIFY(!m_pWindow);
+    }
 };
-
-void tst_CentreTakenAway::listMayGoWithItsCard()
-{
-    QFETCH(Act, event);
-    QFETCH(int, request);
-    auto pList = std::make_unique<CConferenceInfoListView>();
-    pList->addConfInfoList({record(QStringLiteral("b")), record(QStringLiteral("a"))});
-    pList->setGeometry(200, 200, 517, 280);
-    pList->show();
-    takeAwayAt(request, pList);
-    act(pList.get(), event);
-    QCOMPARE(requests(request), 1);
-    QVERIFY(!pList);
-}
-
-void tst_CentreTakenAway::gridMayGoWithItsCard()
-{
-    QFETCH(Act, event);
-    QFETCH(int, request);
-    auto pGrid = std::make_unique<CConfDetailMemberTableView>();
-    pGrid->setMemList({QStringLiteral("ann")});
-    pGrid->setGeometry(200, 200, 517, 280);
-    pGrid->show();
-    takeAwayAt(request, pGrid);
-    act(pGrid.get(), event);
-    QCOMPARE(requests(request), 1);
-    QVERIFY(!pGrid);
-}
-
-void tst_CentreTakenAway::listMayGoWhileItsCreatorsAreLookedUp()
-{
-    auto pList = std::make_unique<CConferenceInfoListView>();
-    takeAwayAt(MSG_GET_FRIEND_INFO, pList);
-    ConfInfoData second = unknownRecord();
-    second.m_strConfID = QStringLiteral("b");
-    second.m_strCreatUserID = QStringLiteral("another stranger");
-    pList->addConfInfoList({unknownRecord(), second});
-    // With the list gone nobody needs the second creator.
-    QCOMPARE(requests(MSG_GET_FRIEND_INFO), 1);
-    QVERIFY(!pList);
-}
-
-void tst_CentreTakenAway::listMayGoWhileANewRecordsCreatorIsLookedUp()
-{
-    auto pList = std::make_unique<CConferenceInfoListView>();
-    takeAwayAt(MSG_GET_FRIEND_INFO, pList);
-    pList->addConfInfoData(unknownRecord());
-    QCOMPARE(requests(MSG_GET_FRIEND_INFO), 1);
-    QVERIFY(!pList);
-}
-
-void tst_CentreTakenAway::gridMayGoWhileAMemberIsLookedUp()
-{
-    auto pGrid = std::make_unique<CConfDetailMemberTableView>();
-    takeAwayAt(MSG_GET_FRIEND_INFO, pGrid);
-    pGrid->setMemList({QStringLiteral("bert"), QStringLiteral("carl")});
-    // Nobody is left to look the second one up for.
-    QCOMPARE(requests(MSG_GET_FRIEND_INFO), 1);
-    QVERIFY(!pGrid);
-}
-
-void tst_CentreTakenAway::pageMayGoWhileTheCreatorIsLookedUp()
-{
-    auto pPage = std::make_unique<CConferenceDetaileWidget>();
-    takeAwayAt(MSG_GET_FRIEND_INFO, pPage);
-    pPage->setConferenceDetail(unknownRecord());
-    QCOMPARE(requests(MSG_GET_FRIEND_INFO), 1);
-    QVERIFY(!pPage);
-}
-
-void tst_CentreTakenAway::centreMayGoWhileItShowsADetail_data()
-{
-    QTest::addColumn<QString>("creator");
-    QTest::newRow("the creator is looked up") << "stranger";
-    QTest::newRow("a member is looked up") << "ann";
-}
-
-void tst_CentreTakenAway::centreMayGoWhileItShowsADetail()
-{
-    QFETCH(QString, creator);
-    ConfInfoData info = unknownRecord();
-    info.m_strCreatUserID = creator;
-    open({});
-    m_pWindow->addConferenceInfo(info);
-    showAt({100, 100});
-    m_pHost->events.clear();
-    takeAwayAt(MSG_GET_FRIEND_INFO, m_pWindow);
-    call("slot_ShowConfDetail", QStringLiteral("a"));
-    QCOMPARE(requests(MSG_GET_FRIEND_INFO), 1);
-    QVERIFY(!m_pWindow);
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_CentreTakenAway, Widgets)

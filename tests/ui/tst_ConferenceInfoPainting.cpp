@@ -111,164 +111,152 @@ private:
     }
 
 private slots:
-    void rowsAreAsTheNumbersTell_data();
-    void rowsAreAsTheNumbersTell();
-    void paintingStoresTheHeadsPlace();
-    void onlyAHoveredConnectedPaintingStoresTheButton();
-    void headsPlaceFollowsTheScrolling();
-    void secondLineIsDrawnInTheIconFont();
-    void painterKeepsItsPenAndFont();
-    void paintingCallsForNoPainting();
-    void missingHeadLeavesTheRestOfTheRow();
-    void narrowRowPaintsNothingOutside();
-    void lineBreaksStandAsBlanks();
-};
-
-void tst_ConferenceInfoPainting::rowsAreAsTheNumbersTell_data()
-{
-    QTest::addColumn<int>("hovered");
-    QTest::newRow("no row hovered") << -1;
-    QTest::newRow("connected row hovered") << 0;
-    QTest::newRow("unconnected row hovered") << 1;
-    QTest::newRow("long connected row hovered") << 2;
-    QTest::newRow("long unconnected row hovered") << 3;
-}
-
-void tst_ConferenceInfoPainting::rowsAreAsTheNumbersTell()
-{
-    QFETCH(int, hovered);
-    QImage head(100, 60, QImage::Format_RGB32);
-    head.fill(QColor(200, 120, 40));
-    QVERIFY(head.save(QStringLiteral("ann.png")));
-    m_pContacts->addContact(QStringLiteral("ann"),
-                            ContactFixture::card(QStringLiteral("安娜 Ann"), {}, QStringLiteral("ann.png")));
-    m_pContacts->addContact(QStringLiteral("long"), ContactFixture::card(cLongName, {}));
-    show({record(QStringLiteral("d")), record(QStringLiteral("c"), false, QStringLiteral("me")),
-          longRecord(QStringLiteral("b"), true), longRecord(QStringLiteral("a"), false)});
-    if (hovered >= 0)
-        hover(hovered);
-    const QImage painted = picture();
-    const QImage told = byNumbers(hovered);
-    leavePicture(painted, QStringLiteral("history-%1").arg(hovered));
-    QCOMPARE(painted, told);
-}
-
-void tst_ConferenceInfoPainting::paintingStoresTheHeadsPlace()
-{
-    show({record(QStringLiteral("b")), record(QStringLiteral("a"), false)});
-    QCOMPARE(place(0, ROLE_HEAD_RECT), QRect(10, 10, 40, 40));
-    QCOMPARE(place(1, ROLE_HEAD_RECT), QRect(10, 72, 40, 40));
-}
-
-void tst_ConferenceInfoPainting::onlyAHoveredConnectedPaintingStoresTheButton()
-{
-    show({record(QStringLiteral("b")), record(QStringLiteral("a"), false)});
-    QVERIFY(!data(0, ROLE_REMOVE_RECT).isValid());
-    hover(1);
-    QVERIFY(!data(1, ROLE_REMOVE_RECT).isValid());
-    hover(0);
-    QCOMPARE(place(0, ROLE_REMOVE_RECT), QRect(491, 35, 16, 16));
-}
-
-void tst_ConferenceInfoPainting::headsPlaceFollowsTheScrolling()
-{
-    QList<ConfInfoData> records;
-    for (int i = 9; i >= 0; --i)
-        records.append(record(QString::number(i)));
-    show(records);
-    m_pList->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_pList->verticalScrollBar()->setValue(30);
-    picture();
-    QCOMPARE(place(1, ROLE_HEAD_RECT), QRect(10, 42, 40, 40));
-}
-
-void tst_ConferenceInfoPainting::secondLineIsDrawnInTheIconFont()
-{
-    // An icon font of wide letters moves the end of the second line and of nothing else.
-    show({record(QStringLiteral("a"))});
-    const QImage before = picture();
-    QFont wide = IconFont::getIconFont();
-    wide.setStretch(200);
-    m_pContacts->setIconFont(wide);
-    const QImage after = picture();
-    const qreal ratio = before.devicePixelRatio();
-    const auto part = [ratio](const QImage &image, const QRect &place) {
-        return image.copy(QRect(place.topLeft() * ratio, place.size() * ratio));
-    };
-    QVERIFY(part(before, QRect(86, 35, 400, 20)) != part(after, QRect(86, 35, 400, 20)));
-    QCOMPARE(part(before, QRect(60, 0, 457, 30)), part(after, QRect(60, 0, 457, 30)));
-}
-
-void tst_ConferenceInfoPainting::painterKeepsItsPenAndFont()
-{
-    show({record(QStringLiteral("a"))});
-    QPixmap canvas(517, 62);
-    QPainter painter(&canvas);
-    QFont serif(QStringLiteral("serif"));
-    serif.setPixelSize(31);
-    painter.setFont(serif);
-    const QFont font = painter.font();
-    painter.setPen(QPen(Qt::red, 3));
-    QStyleOptionViewItem option;
-    option.rect = canvas.rect();
-    option.state = QStyle::State_MouseOver;
-    m_pList->itemDelegate(index(0))->paint(&painter, option, index(0));
-    QCOMPARE(painter.font(), font);
-    QCOMPARE(painter.pen(), QPen(Qt::red, 3));
-    QVERIFY(painter.testRenderHint(QPainter::SmoothPixmapTransform));
-}
-
-void tst_ConferenceInfoPainting::paintingCallsForNoPainting()
-{
-    show({record(QStringLiteral("b")), record(QStringLiteral("a"))});
-    hover(0);
-    Repaints repaints(m_pList->viewport());
-    m_pList->m_pModel->setData(index(0), QRect(), ROLE_HEAD_RECT);
-    m_pList->viewport()->repaint();
-    QCoreApplication::processEvents();
-    QCOMPARE(repaints.iCount, 1);
-    QCOMPARE(place(0, ROLE_HEAD_RECT), QRect(10, 10, 40, 40));
-}
-
-void tst_ConferenceInfoPainting::missingHeadLeavesTheRestOfTheRow()
-{
-    show({record(QStringLiteral("a"))});
-    const QImage before = picture();
-    m_pList->m_pModel->setData(index(0), QStringLiteral("nowhere.png"), ROLE_HEAD_PATH);
-    const QImage after = picture();
-    const qreal ratio = before.devicePixelRatio();
-    const QRect rest(QPoint(60, 0) * ratio, QSize(457, 62) * ratio);
-    QCOMPARE(after.copy(rest), before.copy(rest));
-    QVERIFY(after != before);
-    QCOMPARE(place(0, ROLE_HEAD_RECT), QRect(10, 10, 40, 40));
-}
-
-void tst_ConferenceInfoPainting::narrowRowPaintsNothingOutside()
-{
-    show({record(QStringLiteral("a"))});
-    for (const int iWidth : {0, 1, 50, 120}) {
-        QImage canvas(517, 62, QImage::Format_RGB32);
-        canvas.fill(Qt::white);
-        QPainter painter(&canvas);
-        QStyleOptionViewItem option;
-        option.rect = QRect(100, 0, iWidth, 62);
-        m_pList->itemDelegate(index(0))->paint(&painter, option, index(0));
-        painter.end();
-        QCOMPARE(place(0, ROLE_HEAD_RECT), QRect(110, 10, 40, 40));
+    void rowsAreAsTheNumbersTell_data()
+    {
+        QTest::addColumn<int>("hovered");
+        QTest::newRow("no row hovered") << -1;
+        QTest::newRow("connected row hovered") << 0;
+        QTest::newRow("unconnected row hovered") << 1;
+        QTest::newRow("long connected row hovered") << 2;
+        QTest::newRow("long unconnected row hovered") << 3;
     }
-}
 
-void tst_ConferenceInfoPainting::lineBreaksStandAsBlanks()
-{
-    ConfInfoData broken = record(QStringLiteral("b"));
-    broken.m_strCreatTime = QStringLiteral("2024\n03");
-    ConfInfoData blank = record(QStringLiteral("a"));
-    blank.m_strCreatTime = QStringLiteral("2024 03");
-    show({broken, blank});
-    const QImage image = picture();
-    const int iRow = qRound(62 * image.devicePixelRatio());
-    QCOMPARE(image.copy(0, 0, image.width(), iRow), image.copy(0, iRow, image.width(), iRow));
-}
+    void rowsAreAsTheNumbersTell()
+    {
+        QFETCH(int, hovered);
+        QImage head(100, 60, QImage::Format_RGB32);
+        head.fill(QColor(200, 120, 40));
+        QVERIFY(head.save(QStringLiteral("ann.png")));
+        m_pContacts->addContact(QStringLiteral("ann"),
+                                ContactFixture::card(QStringLiteral("安娜 Ann"), {}, QStringLiteral("ann.png")));
+        m_pContacts->addContact(QStringLiteral("long"), ContactFixture::card(cLongName, {}));
+        show({record(QStringLiteral("d")), record(QStringLiteral("c"), false, QStringLiteral("me")),
+              longRecord(QStringLiteral("b"), true), longRecord(QStringLiteral("a"), false)});
+        if (hovered >= 0)
+            hover(hovered);
+        const QImage painted = picture();
+        const QImage told = byNumbers(hovered);
+        leavePicture(painted, QStringLiteral("history-%1").arg(hovered));
+        QCOMPARE(painted, told);
+    }
+
+    void paintingStoresTheHeadsPlace()
+    {
+        show({record(QStringLiteral("b")), record(QStringLiteral("a"), false)});
+        QCOMPARE(place(0, ROLE_HEAD_RECT), QRect(10, 10, 40, 40));
+        QCOMPARE(place(1, ROLE_HEAD_RECT), QRect(10, 72, 40, 40));
+    }
+
+    void onlyAHoveredConnectedPaintingStoresTheButton()
+    {
+        show({record(QStringLiteral("b")), record(QStringLiteral("a"), false)});
+        QVERIFY(!data(0, ROLE_REMOVE_RECT).isValid());
+        hover(1);
+        QVERIFY(!data(1, ROLE_REMOVE_RECT).isValid());
+        hover(0);
+        QCOMPARE(place(0, ROLE_REMOVE_RECT), QRect(491, 35, 16, 16));
+    }
+
+    void headsPlaceFollowsTheScrolling()
+    {
+        QList<ConfInfoData> records;
+        for (int i = 9; i >= 0; --i)
+            records.append(record(QString::number(i)));
+        show(records);
+        m_pList->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+        m_pList->verticalScrollBar()->setValue(30);
+        picture();
+        QCOMPARE(place(1, ROLE_HEAD_RECT), QRect(10, 42, 40, 40));
+    }
+
+    void secondLineIsDrawnInTheIconFont()
+    {
+        // An icon font of wide letters moves the end of the second line and of nothing else.
+        show({record(QStringLiteral("a"))});
+        const QImage before = picture();
+        QFont wide = IconFont::getIconFont();
+        wide.setStretch(200);
+        m_pContacts->setIconFont(wide);
+        const QImage after = picture();
+        const qreal ratio = before.devicePixelRatio();
+        const auto part = [ratio](const QImage &image, const QRect &place) {
+            return image.copy(QRect(place.topLeft() * ratio, place.size() * ratio));
+        };
+        QVERIFY(part(before, QRect(86, 35, 400, 20)) != part(after, QRect(86, 35, 400, 20)));
+        QCOMPARE(part(before, QRect(60, 0, 457, 30)), part(after, QRect(60, 0, 457, 30)));
+    }
+
+    void painterKeepsItsPenAndFont()
+    {
+        show({record(QStringLiteral("a"))});
+        QPixmap canvas(517, 62);
+        QPainter painter(&canvas);
+        QFont serif(QStringLiteral("serif"));
+        serif.setPixelSize(31);
+        painter.setFont(serif);
+        const QFont font = painter.font();
+        painter.setPen(QPen(Qt::red, 3));
+        QStyleOptionViewItem option;
+        option.rect = canvas.rect();
+        option.state = QStyle::State_MouseOver;
+        m_pList->itemDelegate(index(0))->paint(&painter, option, index(0));
+        QCOMPARE(painter.font(), font);
+        QCOMPARE(painter.pen(), QPen(Qt::red, 3));
+        QVERIFY(painter.testRenderHint(QPainter::SmoothPixmapTransform));
+    }
+
+    void paintingCallsForNoPainting()
+    {
+        show({record(QStringLiteral("b")), record(QStringLiteral("a"))});
+        hover(0);
+        Repaints repaints(m_pList->viewport());
+        m_pList->m_pModel->setData(index(0), QRect(), ROLE_HEAD_RECT);
+        m_pList->viewport()->repaint();
+        QCoreApplication::processEvents();
+        QCOMPARE(repaints.iCount, 1);
+        QCOMPARE(place(0, ROLE_HEAD_RECT), QRect(10, 10, 40, 40));
+    }
+
+    void missingHeadLeavesTheRestOfTheRow()
+    {
+        show({record(QStringLiteral("a"))});
+        const QImage before = picture();
+        m_pList->m_pModel->setData(index(0), QStringLiteral("nowhere.png"), ROLE_HEAD_PATH);
+        const QImage after = picture();
+        const qreal ratio = before.devicePixelRatio();
+        const QRect rest(QPoint(60, 0) * ratio, QSize(457, 62) * ratio);
+        QCOMPARE(after.copy(rest), before.copy(rest));
+        QVERIFY(after != before);
+        QCOMPARE(place(0, ROLE_HEAD_RECT), QRect(10, 10, 40, 40));
+    }
+
+    void narrowRowPaintsNothingOutside()
+    {
+        show({record(QStringLiteral("a"))});
+        for (const int iWidth : {0, 1, 50, 120}) {
+            QImage canvas(517, 62, QImage::Format_RGB32);
+            canvas.fill(Qt::white);
+            QPainter painter(&canvas);
+            QStyleOptionViewItem option;
+            option.rect = QRect(100, 0, iWidth, 62);
+            m_pList->itemDelegate(index(0))->paint(&painter, option, index(0));
+            painter.end();
+            QCOMPARE(place(0, ROLE_HEAD_RECT), QRect(110, 10, 40, 40));
+        }
+    }
+
+    void lineBreaksStandAsBlanks()
+    {
+        ConfInfoData broken = record(QStringLiteral("b"));
+        broken.m_strCreatTime = QStringLiteral("2024\n03");
+        ConfInfoData blank = record(QStringLiteral("a"));
+        blank.m_strCreatTime = QStringLiteral("2024 03");
+        show({broken, blank});
+        const QImage image = picture();
+        const int iRow = qRound(62 * image.devicePixelRatio());
+        QCOMPARE(image.copy(0, 0, image.width(), iRow), image.copy(0, iRow, image.width(), iRow));
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_ConferenceInfoPainting, Widgets)

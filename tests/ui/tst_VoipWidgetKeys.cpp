@@ -35,197 +35,182 @@ private:
     void pressEscape() { QTest::keyClick(m_pWindow->windowHandle(), Qt::Key_Escape); }
 
 private slots:
-    void confirmedEscapeHangsUpAndTheWindowStays();
-    void cancelledEscapeLeavesTheCall();
-    void escapeGoesOnInEitherAnswer_data();
-    void escapeGoesOnInEitherAnswer();
-    void escapeInsideAWatchedControlAsksOnce_data();
-    void escapeInsideAWatchedControlAsksOnce();
-    void everyEscapeAsks();
-    void escapeThatNeverCameToTheWindowIsForgotten();
-    void confirmedEscapeInsideAButtonHangsUpOnce();
-    void otherKeysAskNothing();
-    void typedKeysEndNoCall();
-    void leavingIsSwallowed_data();
-    void leavingIsSwallowed();
-    void enteringGoesOn();
-};
-
-void tst_VoipWidgetKeys::confirmedEscapeHangsUpAndTheWindowStays()
-{
-    startCall(CVoipWidget::Voice, true);
-    showWindow();
-    newRecords();
-    QStringList words;
-    answerQuestion("acceptBtn", [&words] {
-        const QWidget *pQuestion = QApplication::activeModalWidget();
-        for (const char *name : {"titlelabel", "msgLabel"})
-            words.append(pQuestion->findChild<QLabel *>(QLatin1String(name))->text());
-        for (const char *name : {"acceptBtn", "closeBtn"})
-            words.append(pQuestion->findChild<PushButtonEx *>(QLatin1String(name))->text());
-    });
-    pressEscape();
-    QCOMPARE(words, (QStringList{"tip", "beSureToCloseCalling", "sure", "cancel"}));
-    QCOMPARE(m_sent, QStringList{"hangup"});
-    QVERIFY(m_pWindow->isVisible());
-    QCOMPARE(newRecords(), QStringList{"VoipWidget.cpp: click hangup button!"});
-}
-
-void tst_VoipWidgetKeys::cancelledEscapeLeavesTheCall()
-{
-    startCall(CVoipWidget::Voice, true);
-    showWindow();
-    answerQuestion("closeBtn");
-    pressEscape();
-    QCOMPARE(m_sent, QStringList());
-    QVERIFY(m_pWindow->isVisible());
-}
-
-void tst_VoipWidgetKeys::escapeGoesOnInEitherAnswer_data()
-{
-    QTest::addColumn<QByteArray>("answer");
-    QTest::newRow("confirmed") << QByteArray("acceptBtn");
-    QTest::newRow("cancelled") << QByteArray("closeBtn");
-}
-
-void tst_VoipWidgetKeys::escapeGoesOnInEitherAnswer()
-{
-    QFETCH(QByteArray, answer);
-    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    bool bAsked = false;
-    answerQuestion(answer.constData(), [&bAsked] { bAsked = true; });
-    QVERIFY(!isSwallowed(m_pWindow.get(), &escape));
-    QVERIFY(bAsked);
-}
-
-void tst_VoipWidgetKeys::escapeInsideAWatchedControlAsksOnce_data()
-{
-    QTest::addColumn<QByteArray>("control");
-    for (const char *name :
-         {"btnMic", "btnSpeaker", "btnCamera", "btnChangeWindow", "m_pMicSlider", "m_pSpeakerSlider"})
-        QTest::newRow(name) << QByteArray(name);
-}
-
-void tst_VoipWidgetKeys::escapeInsideAWatchedControlAsksOnce()
-{
-    QFETCH(QByteArray, control);
-    startCall(CVoipWidget::Voice, true);
-    showWindow();
-    auto *pControl = part<QWidget>(control.constData());
-    pControl->show();
-    // The kit's buttons take no focus by themselves; their inner one can be given it.
-    auto *pInner = pControl->findChild<QAbstractButton *>();
-    QWidget *pFocus = pInner != nullptr ? pInner : pControl;
-    pFocus->setFocusPolicy(Qt::StrongFocus);
-    m_pWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
-    pFocus->setFocus();
-    QCOMPARE(QApplication::focusWidget(), pFocus);
-    const MessageBoxes questions;
-    pressEscape();
-    QCOMPARE(questions.texts, QStringList{"beSureToCloseCalling"});
-}
-
-void tst_VoipWidgetKeys::everyEscapeAsks()
-{
-    startCall(CVoipWidget::Voice, true);
-    showWindow();
-    const MessageBoxes questions;
-    auto *pMic = part<QWidget>("btnMic");
-    for (int i = 0; i < 3; ++i)
-        QTest::keyClick(pMic, Qt::Key_Escape);
-    pressEscape();
-    QCOMPARE(questions.texts.size(), 4);
-}
-
-void tst_VoipWidgetKeys::escapeThatNeverCameToTheWindowIsForgotten()
-{
-    startCall(CVoipWidget::Voice, true);
-    showWindow();
-    const MessageBoxes questions;
-    // The widget around the button keeps the key to itself; the next press may stand at the same address.
-    KeyPressStop stop;
-    part<QWidget>("widget")->installEventFilter(&stop);
-    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    QApplication::sendEvent(part<QWidget>("btnMic"), &escape);
-    QCOMPARE(questions.texts.size(), 1);
-    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier);
-    QApplication::sendEvent(part<QWidget>("btnMic"), &release);
-    QApplication::sendEvent(m_pWindow.get(), &escape);
-    QCOMPARE(questions.texts.size(), 2);
-}
-
-void tst_VoipWidgetKeys::confirmedEscapeInsideAButtonHangsUpOnce()
-{
-    startCall(CVoipWidget::Voice, true);
-    showWindow();
-    answerQuestion("acceptBtn");
-    QTest::keyClick(part<QWidget>("btnSpeaker"), Qt::Key_Escape);
-    QCOMPARE(m_sent, QStringList{"hangup"});
-}
-
-void tst_VoipWidgetKeys::otherKeysAskNothing()
-{
-    startCall(CVoipWidget::Voice, true);
-    showWindow();
-    const MessageBoxes questions;
-    for (const int iKey : {Qt::Key_Return, Qt::Key_Space, Qt::Key_F4, Qt::Key_A}) {
-        QTest::keyClick(m_pWindow->windowHandle(), Qt::Key(iKey));
-        QKeyEvent press(QEvent::KeyPress, iKey, Qt::NoModifier);
-        QVERIFY(!isSwallowed(part<QWidget>("btnMic"), &press));
-    }
-    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier);
-    QVERIFY(!isSwallowed(m_pWindow.get(), &release));
-    QCoreApplication::processEvents();
-    QCOMPARE(questions.texts, QStringList());
-    QCOMPARE(m_sent, QStringList());
-}
-
-void tst_VoipWidgetKeys::typedKeysEndNoCall()
-{
-    // A call window that comes up under typing hands takes the next blank: it must not press a button with it.
-    for (const bool bConnected : {false, true}) {
-        startCall(CVoipWidget::Voice, bConnected);
+    void confirmedEscapeHangsUpAndTheWindowStays()
+    {
+        startCall(CVoipWidget::Voice, true);
         showWindow();
+        newRecords();
+        QStringList words;
+        answerQuestion("acceptBtn", [&words] {
+            const QWidget *pQuestion = QApplication::activeModalWidget();
+            for (const char *name : {"titlelabel", "msgLabel"})
+                words.append(pQuestion->findChild<QLabel *>(QLatin1String(name))->text());
+            for (const char *name : {"acceptBtn", "closeBtn"})
+                words.append(pQuestion->findChild<PushButtonEx *>(QLatin1String(name))->text());
+        });
+        pressEscape();
+        QCOMPARE(words, (QStringList{"tip", "beSureToCloseCalling", "sure", "cancel"}));
+        QCOMPARE(m_sent, QStringList{"hangup"});
+        QVERIFY(m_pWindow->isVisible());
+        QCOMPARE(newRecords(), QStringList{"VoipWidget.cpp: click hangup button!"});
+    }
+
+    void cancelledEscapeLeavesTheCall()
+    {
+        startCall(CVoipWidget::Voice, true);
+        showWindow();
+        answerQuestion("closeBtn");
+        pressEscape();
+        QCOMPARE(m_sent, QStringList());
+        QVERIFY(m_pWindow->isVisible());
+    }
+
+    void escapeGoesOnInEitherAnswer_data()
+    {
+        QTest::addColumn<QByteArray>("answer");
+        QTest::newRow("confirmed") << QByteArray("acceptBtn");
+        QTest::newRow("cancelled") << QByteArray("closeBtn");
+    }
+
+    void escapeGoesOnInEitherAnswer()
+    {
+        QFETCH(QByteArray, answer);
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        bool bAsked = false;
+        answerQuestion(answer.constData(), [&bAsked] { bAsked = true; });
+        QVERIFY(!isSwallowed(m_pWindow.get(), &escape));
+        QVERIFY(bAsked);
+    }
+
+    void escapeInsideAWatchedControlAsksOnce_data()
+    {
+        QTest::addColumn<QByteArray>("control");
+        for (const char *name :
+             {"btnMic", "btnSpeaker", "btnCamera", "btnChangeWindow", "m_pMicSlider", "m_pSpeakerSlider"})
+            QTest::newRow(name) << QByteArray(name);
+    }
+
+    void escapeInsideAWatchedControlAsksOnce()
+    {
+        QFETCH(QByteArray, control);
+        startCall(CVoipWidget::Voice, true);
+        showWindow();
+        auto *pControl = part<QWidget>(control.constData());
+        pControl->show();
+        // The kit's buttons take no focus by themselves; their inner one can be given it.
+        auto *pInner = pControl->findChild<QAbstractButton *>();
+        QWidget *pFocus = pInner != nullptr ? pInner : pControl;
+        pFocus->setFocusPolicy(Qt::StrongFocus);
         m_pWindow->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
-        for (const int iKey : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return})
-            QTest::keyClick(m_pWindow->windowHandle(), Qt::Key(iKey));
+        pFocus->setFocus();
+        QCOMPARE(QApplication::focusWidget(), pFocus);
+        const MessageBoxes questions;
+        pressEscape();
+        QCOMPARE(questions.texts, QStringList{"beSureToCloseCalling"});
     }
-    QCOMPARE(m_sent, QStringList());
-}
 
-void tst_VoipWidgetKeys::leavingIsSwallowed_data()
-{
-    QTest::addColumn<bool>("swallowed");
-    for (const char *name : {"btnMic", "btnSpeaker", "btnCamera", "btnChangeWindow"})
-        QTest::newRow(name) << true;
-    QTest::newRow("btnMuteAll") << false;
-    QTest::newRow("btnClose") << false;
-}
+    void everyEscapeAsks()
+    {
+        startCall(CVoipWidget::Voice, true);
+        showWindow();
+        const MessageBoxes questions;
+        auto *pMic = part<QWidget>("btnMic");
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(pMic, Qt::Key_Escape);
+        pressEscape();
+        QCOMPARE(questions.texts.size(), 4);
+    }
 
-void tst_VoipWidgetKeys::leavingIsSwallowed()
-{
-    // A kit button dresses itself anew when the cursor leaves it, unless it never hears of that.
-    auto *pButton = button(QTest::currentDataTag());
-    pButton->setStyleSheet(QString());
-    QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(part<QWidget>(QTest::currentDataTag()), &leave);
-    QTEST(pButton->styleSheet().isEmpty(), "swallowed");
-    for (QObject *pWatched :
-         {static_cast<QObject *>(m_pWindow.get()), static_cast<QObject *>(part<QSlider>("m_pMicSlider")),
-          static_cast<QObject *>(part<QSlider>("m_pSpeakerSlider"))})
-        QVERIFY(isSwallowed(pWatched, &leave));
-}
+    void escapeThatNeverCameToTheWindowIsForgotten()
+    {
+        startCall(CVoipWidget::Voice, true);
+        showWindow();
+        const MessageBoxes questions;
+        // The widget around the button keeps the key to itself; the next press may stand at the same address.
+        KeyPressStop stop;
+        part<QWidget>("widget")->installEventFilter(&stop);
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QApplication::sendEvent(part<QWidget>("btnMic"), &escape);
+        QCOMPARE(questions.texts.size(), 1);
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier);
+        QApplication::sendEvent(part<QWidget>("btnMic"), &release);
+        QApplication::sendEvent(m_pWindow.get(), &escape);
+        QCOMPARE(questions.texts.size(), 2);
+    }
 
-void tst_VoipWidgetKeys::enteringGoesOn()
-{
-    auto *pButton = button("btnMic");
-    pButton->setStyleSheet(QString());
-    QEvent enter(QEvent::Enter);
-    QApplication::sendEvent(part<QWidget>("btnMic"), &enter);
-    QVERIFY(!pButton->styleSheet().isEmpty());
-}
+    void confirmedEscapeInsideAButtonHangsUpOnce()
+    {
+        startCall(CVoipWidget::Voice, true);
+        showWindow();
+        answerQuestion("acceptBtn");
+        QTest::keyClick(part<QWidget>("btnSpeaker"), Qt::Key_Escape);
+        QCOMPARE(m_sent, QStringList{"hangup"});
+    }
+
+    void otherKeysAskNothing()
+    {
+        startCall(CVoipWidget::Voice, true);
+        showWindow();
+        const MessageBoxes questions;
+        for (const int iKey : {Qt::Key_Return, Qt::Key_Space, Qt::Key_F4, Qt::Key_A}) {
+            QTest::keyClick(m_pWindow->windowHandle(), Qt::Key(iKey));
+            QKeyEvent press(QEvent::KeyPress, iKey, Qt::NoModifier);
+            QVERIFY(!isSwallowed(part<QWidget>("btnMic"), &press));
+        }
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier);
+        QVERIFY(!isSwallowed(m_pWindow.get(), &release));
+        QCoreApplication::processEvents();
+        QCOMPARE(questions.texts, QStringList());
+        QCOMPARE(m_sent, QStringList());
+    }
+
+    void typedKeysEndNoCall()
+    {
+        // A call window that comes up under typing hands takes the next blank: it must not press a button with it.
+        for (const bool bConnected : {false, true}) {
+            startCall(CVoipWidget::Voice, bConnected);
+            showWindow();
+            m_pWindow->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+            for (const int iKey : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return})
+                QTest::keyClick(m_pWindow->windowHandle(), Qt::Key(iKey));
+        }
+        QCOMPARE(m_sent, QStringList());
+    }
+
+    void leavingIsSwallowed_data()
+    {
+        QTest::addColumn<bool>("swallowed");
+        for (const char *name : {"btnMic", "btnSpeaker", "btnCamera", "btnChangeWindow"})
+            QTest::newRow(name) << true;
+        QTest::newRow("btnMuteAll") << false;
+        QTest::newRow("btnClose") << false;
+    }
+
+    void leavingIsSwallowed()
+    {
+        // A kit button dresses itself anew when the cursor leaves it, unless it never hears of that.
+        auto *pButton = button(QTest::currentDataTag());
+        pButton->setStyleSheet(QString());
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(part<QWidget>(QTest::currentDataTag()), &leave);
+        QTEST(pButton->styleSheet().isEmpty(), "swallowed");
+        for (QObject *pWatched :
+             {static_cast<QObject *>(m_pWindow.get()), static_cast<QObject *>(part<QSlider>("m_pMicSlider")),
+              static_cast<QObject *>(part<QSlider>("m_pSpeakerSlider"))})
+            QVERIFY(isSwallowed(pWatched, &leave));
+    }
+
+    void enteringGoesOn()
+    {
+        auto *pButton = button("btnMic");
+        pButton->setStyleSheet(QString());
+        QEvent enter(QEvent::Enter);
+        QApplication::sendEvent(part<QWidget>("btnMic"), &enter);
+        QVERIFY(!pButton->styleSheet().isEmpty());
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_VoipWidgetKeys, Widgets)

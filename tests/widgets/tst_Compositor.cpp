@@ -41,43 +41,40 @@ class tst_Compositor : public QObject
     Q_OBJECT
 
 private slots:
-    void isSeenToComeAndGo();
-    void applicationsOwnServerIsAsked();
+    void isSeenToComeAndGo()
+    {
+        MyRubberBand band(QRubberBand::Rectangle);
+        QVERIFY(!Compositor::isRunning());
+        QVERIFY(isDotted(shownMask(band)));
+
+        QProcess compositor;
+        compositor.start(QStringLiteral("picom"), {"--backend", "xrender", "--config", "/dev/null"});
+        QVERIFY(compositor.waitForStarted(kPatienceMs));
+        QTRY_VERIFY_WITH_TIMEOUT(Compositor::isRunning(), 20000);
+        QCOMPARE(shownMask(band), bars());
+
+        compositor.terminate();
+        QVERIFY(compositor.waitForFinished(kPatienceMs));
+        QTRY_VERIFY_WITH_TIMEOUT(!Compositor::isRunning(), 20000);
+        QVERIFY(isDotted(shownMask(band)));
+    }
+
+    void applicationsOwnServerIsAsked()
+    {
+        QProcess compositor;
+        compositor.start(QStringLiteral("picom"), {"--backend", "xrender", "--config", "/dev/null"});
+        QVERIFY(compositor.waitForStarted(kPatienceMs));
+        QTRY_VERIFY_WITH_TIMEOUT(Compositor::isRunning(), 20000);
+        // What the environment says since the application began is about others.
+        const QByteArray server = qgetenv("DISPLAY");
+        qputenv("DISPLAY", ":none");
+        const bool bRunning = Compositor::isRunning();
+        qputenv("DISPLAY", server);
+        compositor.terminate();
+        QVERIFY(compositor.waitForFinished(kPatienceMs));
+        QVERIFY(bRunning);
+    }
 };
-
-void tst_Compositor::isSeenToComeAndGo()
-{
-    MyRubberBand band(QRubberBand::Rectangle);
-    QVERIFY(!Compositor::isRunning());
-    QVERIFY(isDotted(shownMask(band)));
-
-    QProcess compositor;
-    compositor.start(QStringLiteral("picom"), {"--backend", "xrender", "--config", "/dev/null"});
-    QVERIFY(compositor.waitForStarted(kPatienceMs));
-    QTRY_VERIFY_WITH_TIMEOUT(Compositor::isRunning(), 20000);
-    QCOMPARE(shownMask(band), bars());
-
-    compositor.terminate();
-    QVERIFY(compositor.waitForFinished(kPatienceMs));
-    QTRY_VERIFY_WITH_TIMEOUT(!Compositor::isRunning(), 20000);
-    QVERIFY(isDotted(shownMask(band)));
-}
-
-void tst_Compositor::applicationsOwnServerIsAsked()
-{
-    QProcess compositor;
-    compositor.start(QStringLiteral("picom"), {"--backend", "xrender", "--config", "/dev/null"});
-    QVERIFY(compositor.waitForStarted(kPatienceMs));
-    QTRY_VERIFY_WITH_TIMEOUT(Compositor::isRunning(), 20000);
-    // What the environment says since the application began is about others.
-    const QByteArray server = qgetenv("DISPLAY");
-    qputenv("DISPLAY", ":none");
-    const bool bRunning = Compositor::isRunning();
-    qputenv("DISPLAY", server);
-    compositor.terminate();
-    QVERIFY(compositor.waitForFinished(kPatienceMs));
-    QVERIFY(bRunning);
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_Compositor, Widgets)

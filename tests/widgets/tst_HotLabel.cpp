@@ -31,91 +31,82 @@ private:
     QPoint middle() const { return m_pLabel->geometry().center(); }
 
 private slots:
-    void init();
-    void cleanup();
-    void wordsBecomeALinkUnderTheMouse();
-    void wordsAreTranslatedInTheSharedContext();
-    void leftReleaseSendsTheShownText();
-    void otherButtonsSendNothing_data();
-    void otherButtonsSendNothing();
-    void releaseOfALinkStillReachesTheLabel();
+    void init()
+    {
+        m_window.resize(200, 100);
+        m_pLabel = new HotLabel(&m_window);
+        m_pLabel->setGeometry(50, 40, 120, 20);
+        m_pLabel->setText(QStringLiteral("from the form"));
+        m_window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&m_window, kPatienceMs));
+        moveTo(QPoint(2, 2));
+    }
+
+    void cleanup()
+    {
+        moveTo(QPoint(2, 2));
+        delete m_pLabel;
+        m_window.hide();
+    }
+
+    void wordsBecomeALinkUnderTheMouse()
+    {
+        QCOMPARE(m_pLabel->text(), QStringLiteral("from the form"));
+        moveTo(middle());
+        QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("<a href=\"#\">modifyhotkey</a>"), kPatienceMs);
+        moveTo(QPoint(2, 2));
+        QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("modifyhotkey"), kPatienceMs);
+    }
+
+    void wordsAreTranslatedInTheSharedContext()
+    {
+        Words words;
+        QVERIFY(QCoreApplication::installTranslator(&words));
+        moveTo(middle());
+        QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("<a href=\"#\">修改热键</a>"), kPatienceMs);
+        moveTo(QPoint(2, 2));
+        QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("修改热键"), kPatienceMs);
+        QCoreApplication::removeTranslator(&words);
+    }
+
+    void leftReleaseSendsTheShownText()
+    {
+        QSignalSpy clicked(m_pLabel, &HotLabel::signal_clickNameLabel);
+        moveTo(middle());
+        QTest::mousePress(m_window.windowHandle(), Qt::LeftButton, {}, middle());
+        QCOMPARE(clicked.count(), 0);
+        QTest::mouseRelease(m_window.windowHandle(), Qt::LeftButton, {}, middle());
+        QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, kPatienceMs);
+        QCOMPARE(clicked.first().first().toString(), QStringLiteral("<a href=\"#\">modifyhotkey</a>"));
+    }
+
+    void otherButtonsSendNothing_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::newRow("right") << int(Qt::RightButton);
+        QTest::newRow("middle") << int(Qt::MiddleButton);
+    }
+
+    void otherButtonsSendNothing()
+    {
+        QFETCH(int, button);
+        const QSignalSpy clicked(m_pLabel, &HotLabel::signal_clickNameLabel);
+        QTest::mouseClick(m_pLabel, Qt::MouseButton(button));
+        QCOMPARE(clicked.count(), 0);
+    }
+
+    void releaseOfALinkStillReachesTheLabel()
+    {
+        QSignalSpy activated(m_pLabel, &QLabel::linkActivated);
+        moveTo(middle());
+        QTRY_VERIFY_WITH_TIMEOUT(m_pLabel->text().startsWith(QLatin1String("<a ")), kPatienceMs);
+        const QPoint onTheWords = m_pLabel->geometry().topLeft() + QPoint(10, m_pLabel->height() / 2);
+        moveTo(onTheWords);
+        QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, onTheWords);
+        QTRY_COMPARE_WITH_TIMEOUT(activated.count(), 1, kPatienceMs);
+        QCOMPARE(activated.first().first().toString(), QStringLiteral("#"));
+    }
 };
-
-void tst_HotLabel::init()
-{
-    m_window.resize(200, 100);
-    m_pLabel = new HotLabel(&m_window);
-    m_pLabel->setGeometry(50, 40, 120, 20);
-    m_pLabel->setText(QStringLiteral("from the form"));
-    m_window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&m_window, kPatienceMs));
-    moveTo(QPoint(2, 2));
-}
-
-void tst_HotLabel::cleanup()
-{
-    moveTo(QPoint(2, 2));
-    delete m_pLabel;
-    m_window.hide();
-}
-
-void tst_HotLabel::wordsBecomeALinkUnderTheMouse()
-{
-    QCOMPARE(m_pLabel->text(), QStringLiteral("from the form"));
-    moveTo(middle());
-    QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("<a href=\"#\">modifyhotkey</a>"), kPatienceMs);
-    moveTo(QPoint(2, 2));
-    QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("modifyhotkey"), kPatienceMs);
-}
-
-void tst_HotLabel::wordsAreTranslatedInTheSharedContext()
-{
-    Words words;
-    QVERIFY(QCoreApplication::installTranslator(&words));
-    moveTo(middle());
-    QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("<a href=\"#\">修改热键</a>"), kPatienceMs);
-    moveTo(QPoint(2, 2));
-    QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("修改热键"), kPatienceMs);
-    QCoreApplication::removeTranslator(&words);
-}
-
-void tst_HotLabel::leftReleaseSendsTheShownText()
-{
-    QSignalSpy clicked(m_pLabel, &HotLabel::signal_clickNameLabel);
-    moveTo(middle());
-    QTest::mousePress(m_window.windowHandle(), Qt::LeftButton, {}, middle());
-    QCOMPARE(clicked.count(), 0);
-    QTest::mouseRelease(m_window.windowHandle(), Qt::LeftButton, {}, middle());
-    QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, kPatienceMs);
-    QCOMPARE(clicked.first().first().toString(), QStringLiteral("<a href=\"#\">modifyhotkey</a>"));
-}
-
-void tst_HotLabel::otherButtonsSendNothing_data()
-{
-    QTest::addColumn<int>("button");
-    QTest::newRow("right") << int(Qt::RightButton);
-    QTest::newRow("middle") << int(Qt::MiddleButton);
-}
-
-void tst_HotLabel::otherButtonsSendNothing()
-{
-    QFETCH(int, button);
-    const QSignalSpy clicked(m_pLabel, &HotLabel::signal_clickNameLabel);
-    QTest::mouseClick(m_pLabel, Qt::MouseButton(button));
-    QCOMPARE(clicked.count(), 0);
-}
-
-void tst_HotLabel::releaseOfALinkStillReachesTheLabel()
-{
-    QSignalSpy activated(m_pLabel, &QLabel::linkActivated);
-    moveTo(middle());
-    QTRY_VERIFY_WITH_TIMEOUT(m_pLabel->text().startsWith(QLatin1String("<a ")), kPatienceMs);
-    const QPoint onTheWords = m_pLabel->geometry().topLeft() + QPoint(10, m_pLabel->height() / 2);
-    moveTo(onTheWords);
-    QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, onTheWords);
-    QTRY_COMPARE_WITH_TIMEOUT(activated.count(), 1, kPatienceMs);
-    QCOMPARE(activated.first().first().toString(), QStringLiteral("#"));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_HotLabel, Widgets)

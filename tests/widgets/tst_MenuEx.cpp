@@ -63,125 +63,113 @@ private:
     static QPoint entry(const CMenuEx &menu) { return menu.actionGeometry(menu.actions().first()).center(); }
 
 private slots:
-    void eachTypeHasItsSheet_data();
-    void eachTypeHasItsSheet();
-    void newMenuIsPlainAndAtMost300Wide();
-    void titleConstructorGivesThePlainMenuToo();
-    void longEntryStaysWithin300Pixels();
-    void showEventIsAccepted();
-    void leftClickTriggersTheEntryAndClosesTheMenu();
-    void rightClickOnAnEntryLeavesTheMenuOpen();
-    void pressOutsideClosesTheMenu();
-    void keyboardChoosesAnEntry();
-    void choiceIsTheResultOfExec();
+    void eachTypeHasItsSheet_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QString>("sheet");
+        QTest::newRow("icon menu") << 0 << cIconSheet;
+        QTest::newRow("check menu") << 1 << cCheckSheet;
+        QTest::newRow("plain menu") << 2 << cPlainSheet;
+        QTest::newRow("another number is the plain menu") << 7 << cPlainSheet;
+        QTest::newRow("a negative number is the plain menu") << -1 << cPlainSheet;
+    }
+
+    void eachTypeHasItsSheet()
+    {
+        QFETCH(int, type);
+        CMenuEx menu;
+        menu.setMenuType(CMenuEx::IconMenu);
+        menu.setMenuType(static_cast<CMenuEx::MenuType>(type));
+        QTEST(menu.styleSheet(), "sheet");
+    }
+
+    void newMenuIsPlainAndAtMost300Wide()
+    {
+        QWidget parent;
+        const CMenuEx menu(&parent);
+        QCOMPARE(menu.styleSheet(), cPlainSheet);
+        QCOMPARE(menu.maximumWidth(), 300);
+        QCOMPARE(menu.parentWidget(), &parent);
+        QVERIFY(menu.title().isEmpty());
+    }
+
+    void titleConstructorGivesThePlainMenuToo()
+    {
+        const CMenuEx menu(QStringLiteral("title"), nullptr);
+        QCOMPARE(menu.title(), QStringLiteral("title"));
+        QCOMPARE(menu.styleSheet(), cPlainSheet);
+        QCOMPARE(menu.maximumWidth(), 300);
+    }
+
+    void longEntryStaysWithin300Pixels()
+    {
+        CMenuEx menu;
+        menu.addAction(QString(400, QLatin1Char('W')));
+        menu.popup(QPoint(100, 100));
+        QVERIFY(QTest::qWaitForWindowExposed(&menu, kPatienceMs));
+        QVERIFY(menu.width() <= 300);
+    }
+
+    void showEventIsAccepted()
+    {
+        DerivedMenu menu;
+        QShowEvent show;
+        show.ignore();
+        menu.showEvent(&show);
+        QVERIFY(show.isAccepted());
+    }
+
+    void leftClickTriggersTheEntryAndClosesTheMenu()
+    {
+        const std::unique_ptr<CMenuEx> menu = shownMenu();
+        QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
+        const QSignalSpy triggered(menu.get(), &QMenu::triggered);
+        QTest::mouseClick(menu.get(), Qt::LeftButton, Qt::NoModifier, entry(*menu));
+        QCOMPARE(triggered.count(), 1);
+        QVERIFY(!menu->isVisible());
+    }
+
+    void rightClickOnAnEntryLeavesTheMenuOpen()
+    {
+        const std::unique_ptr<CMenuEx> menu = shownMenu();
+        QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
+        const QSignalSpy triggered(menu.get(), &QMenu::triggered);
+        QTest::mouseClick(menu.get(), Qt::RightButton, Qt::NoModifier, entry(*menu));
+        QCOMPARE(triggered.count(), 0);
+        QVERIFY(menu->isVisible());
+    }
+
+    void pressOutsideClosesTheMenu()
+    {
+        const std::unique_ptr<CMenuEx> menu = shownMenu();
+        QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
+        QTest::mousePress(menu.get(), Qt::LeftButton, Qt::NoModifier, QPoint(-20, -20));
+        QVERIFY(!menu->isVisible());
+    }
+
+    void keyboardChoosesAnEntry()
+    {
+        const std::unique_ptr<CMenuEx> menu = shownMenu();
+        QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
+        const QSignalSpy triggered(menu.get(), &QMenu::triggered);
+        QTest::keyClick(menu.get(), Qt::Key_Down);
+        QTest::keyClick(menu.get(), Qt::Key_Return);
+        QCOMPARE(triggered.count(), 1);
+        QVERIFY(!menu->isVisible());
+    }
+
+    void choiceIsTheResultOfExec()
+    {
+        CMenuEx menu;
+        const QAction *pEntry = menu.addAction(QStringLiteral("entry"));
+        QTimer::singleShot(0, &menu, [&menu] {
+            if (QTest::qWaitForWindowExposed(&menu, kPatienceMs))
+                QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, entry(menu));
+            menu.close();
+        });
+        QCOMPARE(menu.exec(QPoint(100, 100)), pEntry);
+    }
 };
-
-void tst_MenuEx::eachTypeHasItsSheet_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("sheet");
-    QTest::newRow("icon menu") << 0 << cIconSheet;
-    QTest::newRow("check menu") << 1 << cCheckSheet;
-    QTest::newRow("plain menu") << 2 << cPlainSheet;
-    QTest::newRow("another number is the plain menu") << 7 << cPlainSheet;
-    QTest::newRow("a negative number is the plain menu") << -1 << cPlainSheet;
-}
-
-void tst_MenuEx::eachTypeHasItsSheet()
-{
-    QFETCH(int, type);
-    CMenuEx menu;
-    menu.setMenuType(CMenuEx::IconMenu);
-    menu.setMenuType(static_cast<CMenuEx::MenuType>(type));
-    QTEST(menu.styleSheet(), "sheet");
-}
-
-void tst_MenuEx::newMenuIsPlainAndAtMost300Wide()
-{
-    QWidget parent;
-    const CMenuEx menu(&parent);
-    QCOMPARE(menu.styleSheet(), cPlainSheet);
-    QCOMPARE(menu.maximumWidth(), 300);
-    QCOMPARE(menu.parentWidget(), &parent);
-    QVERIFY(menu.title().isEmpty());
-}
-
-void tst_MenuEx::titleConstructorGivesThePlainMenuToo()
-{
-    const CMenuEx menu(QStringLiteral("title"), nullptr);
-    QCOMPARE(menu.title(), QStringLiteral("title"));
-    QCOMPARE(menu.styleSheet(), cPlainSheet);
-    QCOMPARE(menu.maximumWidth(), 300);
-}
-
-void tst_MenuEx::longEntryStaysWithin300Pixels()
-{
-    CMenuEx menu;
-    menu.addAction(QString(400, QLatin1Char('W')));
-    menu.popup(QPoint(100, 100));
-    QVERIFY(QTest::qWaitForWindowExposed(&menu, kPatienceMs));
-    QVERIFY(menu.width() <= 300);
-}
-
-void tst_MenuEx::leftClickTriggersTheEntryAndClosesTheMenu()
-{
-    const std::unique_ptr<CMenuEx> menu = shownMenu();
-    QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
-    const QSignalSpy triggered(menu.get(), &QMenu::triggered);
-    QTest::mouseClick(menu.get(), Qt::LeftButton, Qt::NoModifier, entry(*menu));
-    QCOMPARE(triggered.count(), 1);
-    QVERIFY(!menu->isVisible());
-}
-
-void tst_MenuEx::rightClickOnAnEntryLeavesTheMenuOpen()
-{
-    const std::unique_ptr<CMenuEx> menu = shownMenu();
-    QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
-    const QSignalSpy triggered(menu.get(), &QMenu::triggered);
-    QTest::mouseClick(menu.get(), Qt::RightButton, Qt::NoModifier, entry(*menu));
-    QCOMPARE(triggered.count(), 0);
-    QVERIFY(menu->isVisible());
-}
-
-void tst_MenuEx::pressOutsideClosesTheMenu()
-{
-    const std::unique_ptr<CMenuEx> menu = shownMenu();
-    QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
-    QTest::mousePress(menu.get(), Qt::LeftButton, Qt::NoModifier, QPoint(-20, -20));
-    QVERIFY(!menu->isVisible());
-}
-
-void tst_MenuEx::keyboardChoosesAnEntry()
-{
-    const std::unique_ptr<CMenuEx> menu = shownMenu();
-    QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
-    const QSignalSpy triggered(menu.get(), &QMenu::triggered);
-    QTest::keyClick(menu.get(), Qt::Key_Down);
-    QTest::keyClick(menu.get(), Qt::Key_Return);
-    QCOMPARE(triggered.count(), 1);
-    QVERIFY(!menu->isVisible());
-}
-
-void tst_MenuEx::choiceIsTheResultOfExec()
-{
-    CMenuEx menu;
-    const QAction *pEntry = menu.addAction(QStringLiteral("entry"));
-    QTimer::singleShot(0, &menu, [&menu] {
-        if (QTest::qWaitForWindowExposed(&menu, kPatienceMs))
-            QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, entry(menu));
-        menu.close();
-    });
-    QCOMPARE(menu.exec(QPoint(100, 100)), pEntry);
-}
-
-void tst_MenuEx::showEventIsAccepted()
-{
-    DerivedMenu menu;
-    QShowEvent show;
-    show.ignore();
-    menu.showEvent(&show);
-    QVERIFY(show.isAccepted());
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_MenuEx, Widgets)

@@ -80,258 +80,236 @@ private:
     PushButtonEx *m_pButton = nullptr;
 
 private slots:
-    void init();
-    void cleanup();
-    void formHasItsNamesAndMargins();
-    void newButtonHasTheDefaultLook();
-    void typesChooseASet_data();
-    void typesChooseASet();
-    void enablingUsesTheStrongSetForEveryTypeButOne_data();
-    void enablingUsesTheStrongSetForEveryTypeButOne();
-    void skinChangeShowsAtTheNextHover();
-    void updateTakesTheSkinAndRepaints();
-    void setStylesAloneDoesNotChangeTheLook();
-    void typeStaysOverAHover();
-    void fontSizeIsInPixels();
-    void fontSizeBelowOneChangesNothing();
-    void textIsTheInnerButtons();
-    void innerButtonTakesWhatItIsGiven();
-    void checkedNeedsACheckableButton();
-    void statesAreSeen();
-    void clickIsSent();
-    void disabledButtonSendsNothing();
-    void keyboardClicks();
+    void init()
+    {
+        m_skin->m_strButtonBorderColor = cBorder;
+        m_skin->m_strButtonBackgroundColor = cBack;
+        m_skin->m_strButtonHoverBackgroundColor = cHoverBack;
+        m_skin->m_strButtonDisabledBackgroundColor = cDisabledBack;
+        m_skin->m_strButtonTextColor = cText;
+        m_skin->m_strButtonHoverTextColor = cHoverText;
+        m_skin->m_strButtonDisabledTextColor = cDisabledText;
+        m_skin->m_strSecondButtonBackgroundColor = cSecondBack;
+        m_skin->m_strSecondButtonHoverBackgroundColor = cSecondHoverBack;
+        m_skin->m_strSecondButtonDisabledBackgroundColor = cSecondDisabledBack;
+        m_skin->m_strSecondButtonTextColor = cSecondText;
+        m_window.resize(160, 100);
+        m_pButton = new PushButtonEx(&m_window);
+        m_pButton->setGeometry(40, 40, 72, 32);
+        m_window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&m_window, kPatienceMs));
+        moveOut();
+        QCoreApplication::processEvents();
+    }
+
+    void cleanup()
+    {
+        moveOut();
+        delete m_pButton;
+        m_window.hide();
+    }
+
+    void formHasItsNamesAndMargins()
+    {
+        QCOMPARE(m_pButton->objectName(), QStringLiteral("PushButtonEx"));
+        QCOMPARE(m_pButton->layout()->objectName(), QStringLiteral("verticalLayout_3"));
+        QCOMPARE(m_pButton->layout()->contentsMargins(), QMargins());
+        QCOMPARE(back(*m_pButton)->layout()->objectName(), QStringLiteral("horizontalLayout"));
+        QCOMPARE(back(*m_pButton)->layout()->contentsMargins(), QMargins(1, 1, 1, 1));
+        QCOMPARE(inner(*m_pButton)->geometry(), QRect(1, 1, 70, 30));
+        QVERIFY(!inner(*m_pButton)->isFlat());
+    }
+
+    void newButtonHasTheDefaultLook()
+    {
+        QVERIFY(m_pButton->isEnabled());
+        QVERIFY(inner(*m_pButton)->isEnabled());
+        QCOMPARE(inner(*m_pButton)->font().family(), QStringLiteral("微软雅黑"));
+        QCOMPARE(inner(*m_pButton)->font().pixelSize(), 12);
+        QCOMPARE(face(*m_pButton), setA().all());
+        QCOMPARE(back(*m_pButton)->styleSheet(), frame(cBorder));
+    }
+
+    void typesChooseASet_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<bool>("strong");
+        QTest::newRow("0 is the strong one") << 0 << true;
+        QTest::newRow("1 is the default") << 1 << false;
+        QTest::newRow("7 looks like 1") << 7 << false;
+        QTest::newRow("-1 looks like 1") << -1 << false;
+    }
+
+    void typesChooseASet()
+    {
+        QFETCH(int, type);
+        QFETCH(bool, strong);
+        m_pButton->setBtnType(type == 1 ? 0 : 1);
+        m_pButton->setBtnType(type);
+        QCOMPARE(face(*m_pButton), strong ? setB().all() : setA().all());
+        QCOMPARE(back(*m_pButton)->styleSheet(), frame(cBorder));
+    }
+
+    void enablingUsesTheStrongSetForEveryTypeButOne_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<bool>("strong");
+        QTest::newRow("0") << 0 << true;
+        QTest::newRow("1") << 1 << false;
+        QTest::newRow("7") << 7 << true;
+    }
+
+    void enablingUsesTheStrongSetForEveryTypeButOne()
+    {
+        QFETCH(int, type);
+        QFETCH(bool, strong);
+        const Looks looks = strong ? setB() : setA();
+        m_pButton->setBtnType(type);
+        m_pButton->setEnabled(false);
+        QVERIFY(!m_pButton->isEnabled());
+        QVERIFY(!inner(*m_pButton)->isEnabled());
+        QCOMPARE(face(*m_pButton), looks.disabled);
+        m_pButton->setEnabled(true);
+        QVERIFY(m_pButton->isEnabled());
+        QVERIFY(inner(*m_pButton)->isEnabled());
+        QCOMPARE(face(*m_pButton), looks.normal + looks.hover);
+    }
+
+    void skinChangeShowsAtTheNextHover()
+    {
+        const QString strNew = QStringLiteral("#ff0000");
+        m_skin->m_strButtonBorderColor = strNew;
+        QCOMPARE(back(*m_pButton)->styleSheet(), frame(cBorder));
+        moveIn();
+        QTRY_COMPARE_WITH_TIMEOUT(back(*m_pButton)->styleSheet(), frame(strNew), kPatienceMs);
+        m_skin->m_strButtonBorderColor = cBorder;
+        moveOut();
+        QTRY_COMPARE_WITH_TIMEOUT(back(*m_pButton)->styleSheet(), frame(cBorder), kPatienceMs);
+    }
+
+    void updateTakesTheSkinAndRepaints()
+    {
+        m_skin->m_strButtonBackgroundColor = QStringLiteral("#ff0000");
+        m_pButton->update();
+        QVERIFY(face(*m_pButton).startsWith(rule("", cText, QStringLiteral("#ff0000"))));
+        QCOMPARE(m_pButton->grab().toImage().pixelColor(5, 5), QColor(Qt::red));
+    }
+
+    void setStylesAloneDoesNotChangeTheLook()
+    {
+        m_skin->m_strButtonBackgroundColor = QStringLiteral("#ff0000");
+        m_pButton->setStyles();
+        QCOMPARE(face(*m_pButton), setA().all());
+        m_pButton->setBtnType(1);
+        QVERIFY(face(*m_pButton) != setA().all());
+    }
+
+    void typeStaysOverAHover()
+    {
+        m_pButton->setBtnType(0);
+        m_pButton->setEnabled(true);
+        QCOMPARE(face(*m_pButton), setB().normal + setB().hover);
+        moveIn();
+        QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), setB().all(), kPatienceMs);
+    }
+
+    void fontSizeIsInPixels()
+    {
+        m_pButton->setFontSize(16);
+        QCOMPARE(inner(*m_pButton)->font().pixelSize(), 16);
+        QCOMPARE(inner(*m_pButton)->font().family(), QStringLiteral("微软雅黑"));
+    }
+
+    void fontSizeBelowOneChangesNothing()
+    {
+        m_pButton->setFontSize(0);
+        m_pButton->setFontSize(-3);
+        QCOMPARE(inner(*m_pButton)->font().pixelSize(), 12);
+    }
+
+    void textIsTheInnerButtons()
+    {
+        m_pButton->setText(QStringLiteral("取消"));
+        QCOMPARE(m_pButton->text(), QStringLiteral("取消"));
+        QCOMPARE(inner(*m_pButton)->text(), QStringLiteral("取消"));
+    }
+
+    void innerButtonTakesWhatItIsGiven()
+    {
+        m_pButton->setFlat(true);
+        QVERIFY(inner(*m_pButton)->isFlat());
+        m_pButton->setAutoDefault(true);
+        QVERIFY(inner(*m_pButton)->autoDefault());
+        m_pButton->setAutoDefault(false);
+        QVERIFY(!inner(*m_pButton)->autoDefault());
+        m_pButton->setDefault(true);
+        QVERIFY(inner(*m_pButton)->isDefault());
+    }
+
+    void checkedNeedsACheckableButton()
+    {
+        m_pButton->setChecked(true);
+        QVERIFY(!m_pButton->isChecked());
+        m_pButton->setCheckable(true);
+        m_pButton->setChecked(true);
+        QVERIFY(m_pButton->isChecked());
+        QVERIFY(inner(*m_pButton)->isChecked());
+    }
+
+    void statesAreSeen()
+    {
+        const QPoint inside(6, 6);
+        const auto seen = [&] { return m_pButton->grab().toImage().pixelColor(inside); };
+        QCOMPARE(seen(), QColor(cBack));
+        QCOMPARE(m_pButton->grab().toImage().pixelColor(36, 0), QColor(cBorder));
+        moveIn();
+        QTRY_COMPARE_WITH_TIMEOUT(seen(), QColor(cHoverBack), kPatienceMs);
+        moveOut();
+        QTRY_COMPARE_WITH_TIMEOUT(seen(), QColor(cBack), kPatienceMs);
+        m_pButton->setEnabled(false);
+        QCOMPARE(seen(), QColor(cDisabledBack));
+        m_pButton->setEnabled(true);
+        m_pButton->setCheckable(true);
+        m_pButton->setChecked(true);
+        m_pButton->setBtnType(0);
+        QCOMPARE(seen(), QColor(cSecondHoverBack));
+        m_pButton->setChecked(false);
+        QCOMPARE(seen(), QColor(cSecondBack));
+    }
+
+    void clickIsSent()
+    {
+        const QSignalSpy clicked(m_pButton, &PushButtonEx::clicked);
+        QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, m_pButton->geometry().center());
+        QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, kPatienceMs);
+        QTest::mouseClick(m_window.windowHandle(), Qt::RightButton, {}, m_pButton->geometry().center());
+        QCoreApplication::processEvents();
+        QCOMPARE(clicked.count(), 1);
+    }
+
+    void disabledButtonSendsNothing()
+    {
+        const QSignalSpy clicked(m_pButton, &PushButtonEx::clicked);
+        m_pButton->setEnabled(false);
+        QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, m_pButton->geometry().center());
+        QCoreApplication::processEvents();
+        QCOMPARE(clicked.count(), 0);
+    }
+
+    void keyboardClicks()
+    {
+        QDialog dialog;
+        PushButtonEx button(&dialog);
+        button.setDefault(true);
+        const QSignalSpy clicked(&button, &PushButtonEx::clicked);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog, kPatienceMs));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        QCOMPARE(clicked.count(), 1);
+        QTest::keyClick(inner(button), Qt::Key_Space);
+        QCOMPARE(clicked.count(), 2);
+    }
 };
-
-void tst_PushButtonEx::init()
-{
-    m_skin->m_strButtonBorderColor = cBorder;
-    m_skin->m_strButtonBackgroundColor = cBack;
-    m_skin->m_strButtonHoverBackgroundColor = cHoverBack;
-    m_skin->m_strButtonDisabledBackgroundColor = cDisabledBack;
-    m_skin->m_strButtonTextColor = cText;
-    m_skin->m_strButtonHoverTextColor = cHoverText;
-    m_skin->m_strButtonDisabledTextColor = cDisabledText;
-    m_skin->m_strSecondButtonBackgroundColor = cSecondBack;
-    m_skin->m_strSecondButtonHoverBackgroundColor = cSecondHoverBack;
-    m_skin->m_strSecondButtonDisabledBackgroundColor = cSecondDisabledBack;
-    m_skin->m_strSecondButtonTextColor = cSecondText;
-    m_window.resize(160, 100);
-    m_pButton = new PushButtonEx(&m_window);
-    m_pButton->setGeometry(40, 40, 72, 32);
-    m_window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&m_window, kPatienceMs));
-    moveOut();
-    QCoreApplication::processEvents();
-}
-
-void tst_PushButtonEx::cleanup()
-{
-    moveOut();
-    delete m_pButton;
-    m_window.hide();
-}
-
-void tst_PushButtonEx::formHasItsNamesAndMargins()
-{
-    QCOMPARE(m_pButton->objectName(), QStringLiteral("PushButtonEx"));
-    QCOMPARE(m_pButton->layout()->objectName(), QStringLiteral("verticalLayout_3"));
-    QCOMPARE(m_pButton->layout()->contentsMargins(), QMargins());
-    QCOMPARE(back(*m_pButton)->layout()->objectName(), QStringLiteral("horizontalLayout"));
-    QCOMPARE(back(*m_pButton)->layout()->contentsMargins(), QMargins(1, 1, 1, 1));
-    QCOMPARE(inner(*m_pButton)->geometry(), QRect(1, 1, 70, 30));
-    QVERIFY(!inner(*m_pButton)->isFlat());
-}
-
-void tst_PushButtonEx::newButtonHasTheDefaultLook()
-{
-    QVERIFY(m_pButton->isEnabled());
-    QVERIFY(inner(*m_pButton)->isEnabled());
-    QCOMPARE(inner(*m_pButton)->font().family(), QStringLiteral("微软雅黑"));
-    QCOMPARE(inner(*m_pButton)->font().pixelSize(), 12);
-    QCOMPARE(face(*m_pButton), setA().all());
-    QCOMPARE(back(*m_pButton)->styleSheet(), frame(cBorder));
-}
-
-void tst_PushButtonEx::typesChooseASet_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("strong");
-    QTest::newRow("0 is the strong one") << 0 << true;
-    QTest::newRow("1 is the default") << 1 << false;
-    QTest::newRow("7 looks like 1") << 7 << false;
-    QTest::newRow("-1 looks like 1") << -1 << false;
-}
-
-void tst_PushButtonEx::typesChooseASet()
-{
-    QFETCH(int, type);
-    QFETCH(bool, strong);
-    m_pButton->setBtnType(type == 1 ? 0 : 1);
-    m_pButton->setBtnType(type);
-    QCOMPARE(face(*m_pButton), strong ? setB().all() : setA().all());
-    QCOMPARE(back(*m_pButton)->styleSheet(), frame(cBorder));
-}
-
-void tst_PushButtonEx::enablingUsesTheStrongSetForEveryTypeButOne_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("strong");
-    QTest::newRow("0") << 0 << true;
-    QTest::newRow("1") << 1 << false;
-    QTest::newRow("7") << 7 << true;
-}
-
-void tst_PushButtonEx::enablingUsesTheStrongSetForEveryTypeButOne()
-{
-    QFETCH(int, type);
-    QFETCH(bool, strong);
-    const Looks looks = strong ? setB() : setA();
-    m_pButton->setBtnType(type);
-    m_pButton->setEnabled(false);
-    QVERIFY(!m_pButton->isEnabled());
-    QVERIFY(!inner(*m_pButton)->isEnabled());
-    QCOMPARE(face(*m_pButton), looks.disabled);
-    m_pButton->setEnabled(true);
-    QVERIFY(m_pButton->isEnabled());
-    QVERIFY(inner(*m_pButton)->isEnabled());
-    QCOMPARE(face(*m_pButton), looks.normal + looks.hover);
-}
-
-void tst_PushButtonEx::skinChangeShowsAtTheNextHover()
-{
-    const QString strNew = QStringLiteral("#ff0000");
-    m_skin->m_strButtonBorderColor = strNew;
-    QCOMPARE(back(*m_pButton)->styleSheet(), frame(cBorder));
-    moveIn();
-    QTRY_COMPARE_WITH_TIMEOUT(back(*m_pButton)->styleSheet(), frame(strNew), kPatienceMs);
-    m_skin->m_strButtonBorderColor = cBorder;
-    moveOut();
-    QTRY_COMPARE_WITH_TIMEOUT(back(*m_pButton)->styleSheet(), frame(cBorder), kPatienceMs);
-}
-
-void tst_PushButtonEx::updateTakesTheSkinAndRepaints()
-{
-    m_skin->m_strButtonBackgroundColor = QStringLiteral("#ff0000");
-    m_pButton->update();
-    QVERIFY(face(*m_pButton).startsWith(rule("", cText, QStringLiteral("#ff0000"))));
-    QCOMPARE(m_pButton->grab().toImage().pixelColor(5, 5), QColor(Qt::red));
-}
-
-void tst_PushButtonEx::setStylesAloneDoesNotChangeTheLook()
-{
-    m_skin->m_strButtonBackgroundColor = QStringLiteral("#ff0000");
-    m_pButton->setStyles();
-    QCOMPARE(face(*m_pButton), setA().all());
-    m_pButton->setBtnType(1);
-    QVERIFY(face(*m_pButton) != setA().all());
-}
-
-void tst_PushButtonEx::typeStaysOverAHover()
-{
-    m_pButton->setBtnType(0);
-    m_pButton->setEnabled(true);
-    QCOMPARE(face(*m_pButton), setB().normal + setB().hover);
-    moveIn();
-    QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), setB().all(), kPatienceMs);
-}
-
-void tst_PushButtonEx::fontSizeIsInPixels()
-{
-    m_pButton->setFontSize(16);
-    QCOMPARE(inner(*m_pButton)->font().pixelSize(), 16);
-    QCOMPARE(inner(*m_pButton)->font().family(), QStringLiteral("微软雅黑"));
-}
-
-void tst_PushButtonEx::fontSizeBelowOneChangesNothing()
-{
-    m_pButton->setFontSize(0);
-    m_pButton->setFontSize(-3);
-    QCOMPARE(inner(*m_pButton)->font().pixelSize(), 12);
-}
-
-void tst_PushButtonEx::textIsTheInnerButtons()
-{
-    m_pButton->setText(QStringLiteral("取消"));
-    QCOMPARE(m_pButton->text(), QStringLiteral("取消"));
-    QCOMPARE(inner(*m_pButton)->text(), QStringLiteral("取消"));
-}
-
-void tst_PushButtonEx::innerButtonTakesWhatItIsGiven()
-{
-    m_pButton->setFlat(true);
-    QVERIFY(inner(*m_pButton)->isFlat());
-    m_pButton->setAutoDefault(true);
-    QVERIFY(inner(*m_pButton)->autoDefault());
-    m_pButton->setAutoDefault(false);
-    QVERIFY(!inner(*m_pButton)->autoDefault());
-    m_pButton->setDefault(true);
-    QVERIFY(inner(*m_pButton)->isDefault());
-}
-
-void tst_PushButtonEx::checkedNeedsACheckableButton()
-{
-    m_pButton->setChecked(true);
-    QVERIFY(!m_pButton->isChecked());
-    m_pButton->setCheckable(true);
-    m_pButton->setChecked(true);
-    QVERIFY(m_pButton->isChecked());
-    QVERIFY(inner(*m_pButton)->isChecked());
-}
-
-void tst_PushButtonEx::statesAreSeen()
-{
-    const QPoint inside(6, 6);
-    const auto seen = [&] { return m_pButton->grab().toImage().pixelColor(inside); };
-    QCOMPARE(seen(), QColor(cBack));
-    QCOMPARE(m_pButton->grab().toImage().pixelColor(36, 0), QColor(cBorder));
-    moveIn();
-    QTRY_COMPARE_WITH_TIMEOUT(seen(), QColor(cHoverBack), kPatienceMs);
-    moveOut();
-    QTRY_COMPARE_WITH_TIMEOUT(seen(), QColor(cBack), kPatienceMs);
-    m_pButton->setEnabled(false);
-    QCOMPARE(seen(), QColor(cDisabledBack));
-    m_pButton->setEnabled(true);
-    m_pButton->setCheckable(true);
-    m_pButton->setChecked(true);
-    m_pButton->setBtnType(0);
-    QCOMPARE(seen(), QColor(cSecondHoverBack));
-    m_pButton->setChecked(false);
-    QCOMPARE(seen(), QColor(cSecondBack));
-}
-
-void tst_PushButtonEx::clickIsSent()
-{
-    const QSignalSpy clicked(m_pButton, &PushButtonEx::clicked);
-    QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, m_pButton->geometry().center());
-    QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, kPatienceMs);
-    QTest::mouseClick(m_window.windowHandle(), Qt::RightButton, {}, m_pButton->geometry().center());
-    QCoreApplication::processEvents();
-    QCOMPARE(clicked.count(), 1);
-}
-
-void tst_PushButtonEx::disabledButtonSendsNothing()
-{
-    const QSignalSpy clicked(m_pButton, &PushButtonEx::clicked);
-    m_pButton->setEnabled(false);
-    QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, m_pButton->geometry().center());
-    QCoreApplication::processEvents();
-    QCOMPARE(clicked.count(), 0);
-}
-
-void tst_PushButtonEx::keyboardClicks()
-{
-    QDialog dialog;
-    PushButtonEx button(&dialog);
-    button.setDefault(true);
-    const QSignalSpy clicked(&button, &PushButtonEx::clicked);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog, kPatienceMs));
-    QTest::keyClick(&dialog, Qt::Key_Return);
-    QCOMPARE(clicked.count(), 1);
-    QTest::keyClick(inner(button), Qt::Key_Space);
-    QCOMPARE(clicked.count(), 2);
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_PushButtonEx, Widgets)

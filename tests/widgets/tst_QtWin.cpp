@@ -8,27 +8,21 @@ class tst_QtWin : public QObject
     Q_OBJECT
 
 private slots:
-    void desktopHasNoGlassEffect();
-    void windowStaysAsItIs();
+    void desktopHasNoGlassEffect() { QVERIFY(!QtWin::isCompositionEnabled()); }
+
+    void windowStaysAsItIs()
+    {
+        QWidget window;
+        window.resize(30, 20);
+        const QImage before = window.grab().toImage();
+        QtWin::addAeroWindow(&window, 1, 2, 3, 4);
+        QtWin::removeAeroWindow(&window);
+        QtWin::addAeroWindow(nullptr, 1, 2, 3, 4);
+        QtWin::removeAeroWindow(nullptr);
+        QCOMPARE(window.grab().toImage(), before);
+        QCOMPARE(window.contentsMargins(), QMargins());
+    }
 };
-
-void tst_QtWin::desktopHasNoGlassEffect()
-{
-    QVERIFY(!QtWin::isCompositionEnabled());
-}
-
-void tst_QtWin::windowStaysAsItIs()
-{
-    QWidget window;
-    window.resize(30, 20);
-    const QImage before = window.grab().toImage();
-    QtWin::addAeroWindow(&window, 1, 2, 3, 4);
-    QtWin::removeAeroWindow(&window);
-    QtWin::addAeroWindow(nullptr, 1, 2, 3, 4);
-    QtWin::removeAeroWindow(nullptr);
-    QCOMPARE(window.grab().toImage(), before);
-    QCOMPARE(window.contentsMargins(), QMargins());
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_QtWin, Widgets)

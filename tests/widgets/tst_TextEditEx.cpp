@@ -86,293 +86,264 @@ private slots:
     }
     void cleanup() { m_pEdit.reset(); }
 
-    void sheetTakesTheSkinsColours();
-    void eachColourIsItsOwnMemberOfTheSkin();
-    void fontIsTwelvePixels();
-    void filterSwallowsEnterAndLeave_data();
-    void filterSwallowsEnterAndLeave();
-    void handlersCalledDirectlyMakeTheSheetGrow();
-    void filterRewritesAGrownSheet();
-    void ownStyleStopsAllRestyling();
-    void menuHasItsEntries();
-    void entriesAreEnabledByTextSelectionAndClipboard_data();
-    void entriesAreEnabledByTextSelectionAndClipboard();
-    void pictureAloneIsNoSelection();
-    void pictureOnTheClipboardCannotBePasted();
-    void entriesDoTheirWork();
-    void pasteEntryPastes();
-    void pasteEntrySendsTheSignalInstead();
-    void fieldMayGoAwayWithItsMenuOpen();
-    void menuIsGoneAfterwards();
-    void longPasteIsInsertedToItsLimit_data();
-    void longPasteIsInsertedToItsLimit();
-    void shortPasteKeepsItsFormat();
-    void pasteWithoutALimitIsWhole();
-};
+    void sheetTakesTheSkinsColours() { QCOMPARE(m_pEdit->styleSheet(), cSheet); }
 
-void tst_TextEditEx::sheetTakesTheSkinsColours()
-{
-    QCOMPARE(m_pEdit->styleSheet(), cSheet);
-}
-
-void tst_TextEditEx::fontIsTwelvePixels()
-{
-    QCOMPARE(m_pEdit->font().pixelSize(), 12);
-}
-
-void tst_TextEditEx::filterSwallowsEnterAndLeave_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::newRow("enter") << int(QEvent::Enter);
-    QTest::newRow("leave") << int(QEvent::Leave);
-}
-
-void tst_TextEditEx::filterSwallowsEnterAndLeave()
-{
-    QFETCH(int, type);
-    m_pEdit->setStyleSheet(QString());
-    send(*m_pEdit, QEvent::Type(type));
-    QCOMPARE(m_pEdit->styleSheet(), cSheet);
-    send(*m_pEdit, QEvent::Type(type));
-    QCOMPARE(m_pEdit->styleSheet(), cSheet);
-}
-
-void tst_TextEditEx::handlersCalledDirectlyMakeTheSheetGrow()
-{
-    QEvent crossing(QEvent::Enter);
-    m_pEdit->enterEvent(&crossing);
-    QCOMPARE(m_pEdit->styleSheet(), cSheet + strVerticalScrollBarHoverStyle);
-    m_pEdit->leaveEvent(&crossing);
-    QCOMPARE(m_pEdit->styleSheet(), cSheet + strVerticalScrollBarHoverStyle + strVerticalScrollBarNormalStyle);
-    m_pEdit->enterEvent(&crossing);
-    QCOMPARE(m_pEdit->styleSheet(), cSheet + strVerticalScrollBarHoverStyle + strVerticalScrollBarNormalStyle +
-                                        strVerticalScrollBarHoverStyle);
-}
-
-void tst_TextEditEx::filterRewritesAGrownSheet()
-{
-    QEvent crossing(QEvent::Enter);
-    m_pEdit->enterEvent(&crossing);
-    send(*m_pEdit, QEvent::Leave);
-    QCOMPARE(m_pEdit->styleSheet(), cSheet);
-}
-
-void tst_TextEditEx::ownStyleStopsAllRestyling()
-{
-    const QString strOwn = QStringLiteral("QTextEdit{color:#123456;}");
-    m_pEdit->setBSelfStyle(true);
-    m_pEdit->setStyleSheet(strOwn);
-    QEvent crossing(QEvent::Enter);
-    m_pEdit->enterEvent(&crossing);
-    m_pEdit->leaveEvent(&crossing);
-    send(*m_pEdit, QEvent::Enter);
-    send(*m_pEdit, QEvent::Leave);
-    QCOMPARE(m_pEdit->styleSheet(), strOwn);
-    m_pEdit->setBSelfStyle(false);
-    send(*m_pEdit, QEvent::Enter);
-    QCOMPARE(m_pEdit->styleSheet(), cSheet);
-}
-
-void tst_TextEditEx::menuHasItsEntries()
-{
-    show();
-    withMenu([this](const CMenuEx &menu) {
-        QCOMPARE(menu.pos(), m_pEdit->mapToGlobal(QPoint(10, 10)));
-        QStringList texts;
-        QList<QKeySequence> shortcuts;
-        for (const QAction *pAction : menu.actions()) {
-            texts << pAction->text();
-            shortcuts << pAction->shortcut();
-        }
-        QCOMPARE(texts, (QStringList{"cut", "duplicate", "paste", "clear", "allSelect"}));
-        QCOMPARE(shortcuts, (QList<QKeySequence>{QKeySequence::Cut, QKeySequence::Copy, QKeySequence(), QKeySequence(),
-                                                 QKeySequence::SelectAll}));
-        QCOMPARE(menu.contentsMargins(), QMargins(2, 2, 2, 2));
-        QCOMPARE(menu.styleSheet(), CMenuEx().styleSheet());
-    });
-}
-
-void tst_TextEditEx::entriesAreEnabledByTextSelectionAndClipboard_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("selected");
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<QString>("enabled");
-    QTest::newRow("nothing") << "" << false << ""
-                             << "-----";
-    QTest::newRow("text") << "abc" << false << ""
-                          << "---xx";
-    QTest::newRow("selection") << "abc" << true << ""
-                               << "xx-xx";
-    QTest::newRow("clipboard text") << "" << false << "text/plain"
-                                    << "--x--";
-    QTest::newRow("clipboard HTML") << "" << false << "text/html"
-                                    << "--x--";
-    QTest::newRow("clipboard of another kind") << "" << false << "application/x-other"
-                                               << "-----";
-}
-
-void tst_TextEditEx::entriesAreEnabledByTextSelectionAndClipboard()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, selected);
-    QFETCH(QString, format);
-    show();
-    m_pEdit->setPlainText(text);
-    if (selected)
-        m_pEdit->selectAll();
-    if (!format.isEmpty()) {
-        auto data = std::make_unique<QMimeData>();
-        data->setData(format, "content");
-        QGuiApplication::clipboard()->setMimeData(data.release());
+    void eachColourIsItsOwnMemberOfTheSkin()
+    {
+        OwnSkin skin;
+        skin->m_strEditBackgroundColor = QStringLiteral("#000050");
+        skin->m_strEditBorderColor = QStringLiteral("#000051");
+        skin->m_strEditHoverBorderColor = QStringLiteral("#000052");
+        send(*m_pEdit, QEvent::Enter);
+        QCOMPARE(m_pEdit->styleSheet(),
+                 QStringLiteral("QTextEdit{border-radius:2px;background-color:#000050;border:1px solid #000051;"
+                                "color:#333333;}QTextEdit::hover{border: 1px solid #000052;}"));
     }
-    QString strEnabled;
-    withMenu([&strEnabled](const CMenuEx &menu) {
-        for (const QAction *pAction : menu.actions())
-            strEnabled += QLatin1Char(pAction->isEnabled() ? 'x' : '-');
-    });
-    QTEST(strEnabled, "enabled");
-}
 
-void tst_TextEditEx::pictureAloneIsNoSelection()
-{
-    show();
-    m_pEdit->textCursor().insertImage(QImage(4, 4, QImage::Format_RGB32));
-    m_pEdit->selectAll();
-    withMenu([](const CMenuEx &menu) {
-        QVERIFY(!menu.actions().at(0)->isEnabled());
-        QVERIFY(!menu.actions().at(1)->isEnabled());
-        QVERIFY(menu.actions().at(4)->isEnabled());
-    });
-}
+    void fontIsTwelvePixels() { QCOMPARE(m_pEdit->font().pixelSize(), 12); }
 
-void tst_TextEditEx::pictureOnTheClipboardCannotBePasted()
-{
-    show();
-    QGuiApplication::clipboard()->setImage(QImage(4, 4, QImage::Format_RGB32));
-    withMenu([](const CMenuEx &menu) { QVERIFY(!menu.actions().at(2)->isEnabled()); });
-}
+    void filterSwallowsEnterAndLeave_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::newRow("enter") << int(QEvent::Enter);
+        QTest::newRow("leave") << int(QEvent::Leave);
+    }
 
-void tst_TextEditEx::entriesDoTheirWork()
-{
-    show();
-    m_pEdit->setPlainText(QStringLiteral("abc"));
-    choose(4);
-    QCOMPARE(m_pEdit->textCursor().selectedText(), QStringLiteral("abc"));
-    choose(1);
-    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("abc"));
-    QCOMPARE(m_pEdit->toPlainText(), QStringLiteral("abc"));
-    QGuiApplication::clipboard()->clear();
-    choose(0);
-    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("abc"));
-    QVERIFY(m_pEdit->toPlainText().isEmpty());
-    m_pEdit->setPlainText(QStringLiteral("more"));
-    choose(3);
-    QVERIFY(m_pEdit->toPlainText().isEmpty());
-}
+    void filterSwallowsEnterAndLeave()
+    {
+        QFETCH(int, type);
+        m_pEdit->setStyleSheet(QString());
+        send(*m_pEdit, QEvent::Type(type));
+        QCOMPARE(m_pEdit->styleSheet(), cSheet);
+        send(*m_pEdit, QEvent::Type(type));
+        QCOMPARE(m_pEdit->styleSheet(), cSheet);
+    }
 
-void tst_TextEditEx::pasteEntryPastes()
-{
-    show();
-    QGuiApplication::clipboard()->setText(QStringLiteral("abc"));
-    const QSignalSpy told(m_pEdit.get(), &CTextEditEx::signal_paste);
-    choose(2);
-    QCOMPARE(m_pEdit->toPlainText(), QStringLiteral("abc"));
-    QCOMPARE(told.count(), 0);
-}
+    void handlersCalledDirectlyMakeTheSheetGrow()
+    {
+        QEvent crossing(QEvent::Enter);
+        m_pEdit->enterEvent(&crossing);
+        QCOMPARE(m_pEdit->styleSheet(), cSheet + strVerticalScrollBarHoverStyle);
+        m_pEdit->leaveEvent(&crossing);
+        QCOMPARE(m_pEdit->styleSheet(), cSheet + strVerticalScrollBarHoverStyle + strVerticalScrollBarNormalStyle);
+        m_pEdit->enterEvent(&crossing);
+        QCOMPARE(m_pEdit->styleSheet(), cSheet + strVerticalScrollBarHoverStyle + strVerticalScrollBarNormalStyle +
+                                            strVerticalScrollBarHoverStyle);
+    }
 
-void tst_TextEditEx::pasteEntrySendsTheSignalInstead()
-{
-    show();
-    QGuiApplication::clipboard()->setText(QStringLiteral("abc"));
-    const QSignalSpy told(m_pEdit.get(), &CTextEditEx::signal_paste);
-    m_pEdit->setEmitPaste(true);
-    choose(2);
-    QVERIFY(m_pEdit->toPlainText().isEmpty());
-    QCOMPARE(told.count(), 1);
-}
+    void filterRewritesAGrownSheet()
+    {
+        QEvent crossing(QEvent::Enter);
+        m_pEdit->enterEvent(&crossing);
+        send(*m_pEdit, QEvent::Leave);
+        QCOMPARE(m_pEdit->styleSheet(), cSheet);
+    }
 
-void tst_TextEditEx::fieldMayGoAwayWithItsMenuOpen()
-{
-    show();
-    QTimer::singleShot(0, this, [this] {
-        QVERIFY(QApplication::activePopupWidget() != nullptr);
-        m_pEdit.reset();
-    });
-    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(), m_pEdit->mapToGlobal(QPoint()));
-    m_pEdit->contextMenuEvent(&event);
-    QVERIFY(m_pEdit == nullptr);
-    QVERIFY(QApplication::activePopupWidget() == nullptr);
-}
+    void ownStyleStopsAllRestyling()
+    {
+        const QString strOwn = QStringLiteral("QTextEdit{color:#123456;}");
+        m_pEdit->setBSelfStyle(true);
+        m_pEdit->setStyleSheet(strOwn);
+        QEvent crossing(QEvent::Enter);
+        m_pEdit->enterEvent(&crossing);
+        m_pEdit->leaveEvent(&crossing);
+        send(*m_pEdit, QEvent::Enter);
+        send(*m_pEdit, QEvent::Leave);
+        QCOMPARE(m_pEdit->styleSheet(), strOwn);
+        m_pEdit->setBSelfStyle(false);
+        send(*m_pEdit, QEvent::Enter);
+        QCOMPARE(m_pEdit->styleSheet(), cSheet);
+    }
 
-void tst_TextEditEx::menuIsGoneAfterwards()
-{
-    show();
-    withMenu([](CMenuEx &) {});
-    QVERIFY(m_pEdit->findChild<CMenuEx *>() == nullptr);
-}
+    void menuHasItsEntries()
+    {
+        show();
+        withMenu([this](const CMenuEx &menu) {
+            QCOMPARE(menu.pos(), m_pEdit->mapToGlobal(QPoint(10, 10)));
+            QStringList texts;
+            QList<QKeySequence> shortcuts;
+            for (const QAction *pAction : menu.actions()) {
+                texts << pAction->text();
+                shortcuts << pAction->shortcut();
+            }
+            QCOMPARE(texts, (QStringList{"cut", "duplicate", "paste", "clear", "allSelect"}));
+            QCOMPARE(shortcuts, (QList<QKeySequence>{QKeySequence::Cut, QKeySequence::Copy, QKeySequence(),
+                                                     QKeySequence(), QKeySequence::SelectAll}));
+            QCOMPARE(menu.contentsMargins(), QMargins(2, 2, 2, 2));
+            QCOMPARE(menu.styleSheet(), CMenuEx().styleSheet());
+        });
+    }
 
-void tst_TextEditEx::longPasteIsInsertedToItsLimit_data()
-{
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("inserted");
-    constexpr int cSize = 10 * 1024 * 1024;
-    const QByteArray big(cSize, 'x');
-    const QString kept(20, QLatin1Char('x'));
-    QTest::newRow("ten megabytes of text") << "text/plain" << big << kept;
-    QTest::newRow("ten megabytes of HTML") << "text/html"
-                                           << "<b>" + big + "</b>" << kept;
-    QTest::newRow("one unit more than the limit") << "text/plain" << QByteArray(21, 'x') << kept;
-    QTest::newRow("ten megabytes of lines")
-        << "text/plain" << QByteArray("x\n").repeated(cSize / 2) << QStringLiteral("x\n").repeated(10);
-}
+    void entriesAreEnabledByTextSelectionAndClipboard_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("selected");
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QString>("enabled");
+        QTest::newRow("nothing") << "" << false << ""
+                                 << "-----";
+        QTest::newRow("text") << "abc" << false << ""
+                              << "---xx";
+        QTest::newRow("selection") << "abc" << true << ""
+                                   << "xx-xx";
+        QTest::newRow("clipboard text") << "" << false << "text/plain"
+                                        << "--x--";
+        QTest::newRow("clipboard HTML") << "" << false << "text/html"
+                                        << "--x--";
+        QTest::newRow("clipboard of another kind") << "" << false << "application/x-other"
+                                                   << "-----";
+    }
 
-void tst_TextEditEx::longPasteIsInsertedToItsLimit()
-{
-    QFETCH(QString, format);
-    QFETCH(QByteArray, content);
-    show();
-    m_pEdit->setLongestPaste(20);
-    auto data = std::make_unique<QMimeData>();
-    data->setData(format, content);
-    QGuiApplication::clipboard()->setMimeData(data.release());
-    QTest::keySequence(m_pEdit.get(), QKeySequence::Paste);
-    QTEST(m_pEdit->toPlainText(), "inserted");
-}
+    void entriesAreEnabledByTextSelectionAndClipboard()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, selected);
+        QFETCH(QString, format);
+        show();
+        m_pEdit->setPlainText(text);
+        if (selected)
+            m_pEdit->selectAll();
+        if (!format.isEmpty()) {
+            auto data = std::make_unique<QMimeData>();
+            data->setData(format, "content");
+            QGuiApplication::clipboard()->setMimeData(data.release());
+        }
+        QString strEnabled;
+        withMenu([&strEnabled](const CMenuEx &menu) {
+            for (const QAction *pAction : menu.actions())
+                strEnabled += QLatin1Char(pAction->isEnabled() ? 'x' : '-');
+        });
+        QTEST(strEnabled, "enabled");
+    }
 
-void tst_TextEditEx::shortPasteKeepsItsFormat()
-{
-    show();
-    m_pEdit->setLongestPaste(20);
-    auto data = std::make_unique<QMimeData>();
-    data->setHtml(QStringLiteral("<b>bold</b>"));
-    QGuiApplication::clipboard()->setMimeData(data.release());
-    QTest::keySequence(m_pEdit.get(), QKeySequence::Paste);
-    QCOMPARE(m_pEdit->toPlainText(), QStringLiteral("bold"));
-    QVERIFY(m_pEdit->textCursor().charFormat().fontWeight() > QFont::Normal);
-}
+    void pictureAloneIsNoSelection()
+    {
+        show();
+        m_pEdit->textCursor().insertImage(QImage(4, 4, QImage::Format_RGB32));
+        m_pEdit->selectAll();
+        withMenu([](const CMenuEx &menu) {
+            QVERIFY(!menu.actions().at(0)->isEnabled());
+            QVERIFY(!menu.actions().at(1)->isEnabled());
+            QVERIFY(menu.actions().at(4)->isEnabled());
+        });
+    }
 
-void tst_TextEditEx::pasteWithoutALimitIsWhole()
-{
-    show();
-    const QString strText(5000, QLatin1Char('x'));
-    QGuiApplication::clipboard()->setText(strText);
-    QTest::keySequence(m_pEdit.get(), QKeySequence::Paste);
-    QCOMPARE(m_pEdit->toPlainText(), strText);
-}
+    void pictureOnTheClipboardCannotBePasted()
+    {
+        show();
+        QGuiApplication::clipboard()->setImage(QImage(4, 4, QImage::Format_RGB32));
+        withMenu([](const CMenuEx &menu) { QVERIFY(!menu.actions().at(2)->isEnabled()); });
+    }
 
-void tst_TextEditEx::eachColourIsItsOwnMemberOfTheSkin()
-{
-    OwnSkin skin;
-    skin->m_strEditBackgroundColor = QStringLiteral("#000050");
-    skin->m_strEditBorderColor = QStringLiteral("#000051");
-    skin->m_strEditHoverBorderColor = QStringLiteral("#000052");
-    send(*m_pEdit, QEvent::Enter);
-    QCOMPARE(m_pEdit->styleSheet(),
-             QStringLiteral("QTextEdit{border-radius:2px;background-color:#000050;border:1px solid #000051;"
-                            "color:#333333;}QTextEdit::hover{border: 1px solid #000052;}"));
-}
+    void entriesDoTheirWork()
+    {
+        show();
+        m_pEdit->setPlainText(QStringLiteral("abc"));
+        choose(4);
+        QCOMPARE(m_pEdit->textCursor().selectedText(), QStringLiteral("abc"));
+        choose(1);
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("abc"));
+        QCOMPARE(m_pEdit->toPlainText(), QStringLiteral("abc"));
+        QGuiApplication::clipboard()->clear();
+        choose(0);
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("abc"));
+        QVERIFY(m_pEdit->toPlainText().isEmpty());
+        m_pEdit->setPlainText(QStringLiteral("more"));
+        choose(3);
+        QVERIFY(m_pEdit->toPlainText().isEmpty());
+    }
+
+    void pasteEntryPastes()
+    {
+        show();
+        QGuiApplication::clipboard()->setText(QStringLiteral("abc"));
+        const QSignalSpy told(m_pEdit.get(), &CTextEditEx::signal_paste);
+        choose(2);
+        QCOMPARE(m_pEdit->toPlainText(), QStringLiteral("abc"));
+        QCOMPARE(told.count(), 0);
+    }
+
+    void pasteEntrySendsTheSignalInstead()
+    {
+        show();
+        QGuiApplication::clipboard()->setText(QStringLiteral("abc"));
+        const QSignalSpy told(m_pEdit.get(), &CTextEditEx::signal_paste);
+        m_pEdit->setEmitPaste(true);
+        choose(2);
+        QVERIFY(m_pEdit->toPlainText().isEmpty());
+        QCOMPARE(told.count(), 1);
+    }
+
+    void fieldMayGoAwayWithItsMenuOpen()
+    {
+        show();
+        QTimer::singleShot(0, this, [this] {
+            QVERIFY(QApplication::activePopupWidget() != nullptr);
+            m_pEdit.reset();
+        });
+        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(), m_pEdit->mapToGlobal(QPoint()));
+        m_pEdit->contextMenuEvent(&event);
+        QVERIFY(m_pEdit == nullptr);
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+    }
+
+    void menuIsGoneAfterwards()
+    {
+        show();
+        withMenu([](CMenuEx &) {});
+        QVERIFY(m_pEdit->findChild<CMenuEx *>() == nullptr);
+    }
+
+    void longPasteIsInsertedToItsLimit_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("inserted");
+        constexpr int cSize = 10 * 1024 * 1024;
+        const QByteArray big(cSize, 'x');
+        const QString kept(20, QLatin1Char('x'));
+        QTest::newRow("ten megabytes of text") << "text/plain" << big << kept;
+        QTest::newRow("ten megabytes of HTML") << "text/html"
+                                               << "<b>" + big + "</b>" << kept;
+        QTest::newRow("one unit more than the limit") << "text/plain" << QByteArray(21, 'x') << kept;
+        QTest::newRow("ten megabytes of lines")
+            << "text/plain" << QByteArray("x\n").repeated(cSize / 2) << QStringLiteral("x\n").repeated(10);
+    }
+
+    void longPasteIsInsertedToItsLimit()
+    {
+        QFETCH(QString, format);
+        QFETCH(QByteArray, content);
+        show();
+        m_pEdit->setLongestPaste(20);
+        auto data = std::make_unique<QMimeData>();
+        data->setData(format, content);
+        QGuiApplication::clipboard()->setMimeData(data.release());
+        QTest::keySequence(m_pEdit.get(), QKeySequence::Paste);
+        QTEST(m_pEdit->toPlainText(), "inserted");
+    }
+
+    void shortPasteKeepsItsFormat()
+    {
+        show();
+        m_pEdit->setLongestPaste(20);
+        auto data = std::make_unique<QMimeData>();
+        data->setHtml(QStringLiteral("<b>bold</b>"));
+        QGuiApplication::clipboard()->setMimeData(data.release());
+        QTest::keySequence(m_pEdit.get(), QKeySequence::Paste);
+        QCOMPARE(m_pEdit->toPlainText(), QStringLiteral("bold"));
+        QVERIFY(m_pEdit->textCursor().charFormat().fontWeight() > QFont::Normal);
+    }
+
+    void pasteWithoutALimitIsWhole()
+    {
+        show();
+        const QString strText(5000, QLatin1Char('x'));
+        QGuiApplication::clipboard()->setText(strText);
+        QTest::keySequence(m_pEdit.get(), QKeySequence::Paste);
+        QCOMPARE(m_pEdit->toPlainText(), strText);
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_TextEditEx, Widgets)

@@ -13,16 +13,15 @@ class tst_WithoutXServer : public QObject
 private slots:
     void initTestCase() { QCOMPARE(QGuiApplication::platformName(), QStringLiteral("offscreen")); }
     void transparentIsTransparent() { QVERIFY(Compositor::isRunning()); }
-    void bandIsCutToItsBars();
-};
 
-void tst_WithoutXServer::bandIsCutToItsBars()
-{
-    MyRubberBand band(QRubberBand::Rectangle);
-    band.setGeometry(10, 10, 60, 40);
-    band.show();
-    QCOMPARE(band.mask(), QRegion(0, 0, 60, 40) - QRect(5, 5, 50, 30));
-}
+    void bandIsCutToItsBars()
+    {
+        MyRubberBand band(QRubberBand::Rectangle);
+        band.setGeometry(10, 10, 60, 40);
+        band.show();
+        QCOMPARE(band.mask(), QRegion(0, 0, 60, 40) - QRect(5, 5, 50, 30));
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_WithoutXServer, Widgets)

@@ -50,103 +50,100 @@ class tst_LogStress : public QObject
     Q_OBJECT
 
 private slots:
-    void nothingIsLostWhileTheFileRollsOver();
-    void clearingWhileTheWriterWritesTearsNoLine();
-};
+    void nothingIsLostWhileTheFileRollsOver()
+    {
+        CustomLogger logger(LOG);
+        logger.setMaxFileSize(FILE_KIB);
+        logger.setMaxBackupIndex(MOST_BACKUPS);
+        CLogThread writer;
+        CommonData data;
+        data.setCustomLogger(&logger);
+        data.setCustomLogThread(&writer);
+        SharedContext::setCommonData(&data);
+        // Made before the threads: its creation has no lock.
+        CLogManger *log = CLogManger::instance();
+        writer.start();
 
-void tst_LogStress::nothingIsLostWhileTheFileRollsOver()
-{
-    CustomLogger logger(LOG);
-    logger.setMaxFileSize(FILE_KIB);
-    logger.setMaxBackupIndex(MOST_BACKUPS);
-    CLogThread writer;
-    CommonData data;
-    data.setCustomLogger(&logger);
-    data.setCustomLogThread(&writer);
-    SharedContext::setCommonData(&data);
-    // Made before the threads: its creation has no lock.
-    CLogManger *log = CLogManger::instance();
-    writer.start();
+        std::atomic<int> running{CALLERS};
+        std::vector<std::thread> callers;
+        callers.reserve(CALLERS);
+        for (int caller = 0; caller < CALLERS; ++caller) {
+            callers.emplace_back([log, caller, &running] {
+                for (int i = 0; i < RECORDS; ++i) {
+                    log->printLog(CustomLog::Info, LOG_LOCATION, QStringLiteral("%1:%2").arg(caller).arg(i));
+                }
+                --running;
+            });
+        }
+        // Statements build their text in fields without a lock, so one thread alone makes them.
+        int own = 0;
+        while (running > 0) {
+            LOG_DEBUG << CALLERS << ":" << own++ << "\n";
+            log->flushLog();
+            QCOMPARE(writer.getCustomLogger(), &logger);
+        }
+        for (std::thread &caller : callers) {
+            caller.join();
+        }
+        LOG_DEBUG << "last"
+                  << "\n";
+        const auto lastIsWritten = [log] {
+            log->flushLog();
+            return messages().contains(QStringLiteral("last"));
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(lastIsWritten(), 60000);
+        writer.stop();
+        log->printLog(CustomLog::Debug, {}, {});
+        QVERIFY(writer.wait());
+        logger.close();
+        SharedContext::setCommonData(nullptr);
 
-    std::atomic<int> running{CALLERS};
-    std::vector<std::thread> callers;
-    callers.reserve(CALLERS);
-    for (int caller = 0; caller < CALLERS; ++caller) {
-        callers.emplace_back([log, caller, &running] {
-            for (int i = 0; i < RECORDS; ++i) {
-                log->printLog(CustomLog::Info, LOG_LOCATION, QStringLiteral("%1:%2").arg(caller).arg(i));
+        QVERIFY2(QFile::exists(LOG + QStringLiteral(".1")), "the file has not rolled over");
+        const QStringList all = messages();
+        QCOMPARE(all.size(), CALLERS * RECORDS + own + 2);
+        for (int caller = 0; caller <= CALLERS; ++caller) {
+            const QStringList ofCaller = all.filter(QRegularExpression(QStringLiteral("^%1:").arg(caller)));
+            QCOMPARE(ofCaller.size(), caller < CALLERS ? RECORDS : own);
+            for (int i = 0; i < ofCaller.size(); ++i) {
+                QCOMPARE(ofCaller.at(i), QStringLiteral("%1:%2").arg(caller).arg(i));
             }
-            --running;
+        }
+    }
+
+    void clearingWhileTheWriterWritesTearsNoLine()
+    {
+        constexpr int LINES = 3000;
+        constexpr int FEW_BACKUPS = 2;
+        CustomLogger logger(QStringLiteral("cleared.log"));
+        logger.setMaxFileSize(FILE_KIB);
+        logger.setMaxBackupIndex(FEW_BACKUPS);
+        std::atomic<bool> done{false};
+        std::thread writer([&logger, &done] {
+            for (int i = 0; i < LINES; ++i) {
+                logger.printLog(CustomLog::Info, QStringLiteral("place"), QStringLiteral("line %1.").arg(i));
+            }
+            done = true;
         });
-    }
-    // Statements build their text in fields without a lock, so one thread alone makes them.
-    int own = 0;
-    while (running > 0) {
-        LOG_DEBUG << CALLERS << ":" << own++ << "\n";
-        log->flushLog();
-        QCOMPARE(writer.getCustomLogger(), &logger);
-    }
-    for (std::thread &caller : callers) {
-        caller.join();
-    }
-    LOG_DEBUG << "last"
-              << "\n";
-    const auto lastIsWritten = [log] {
-        log->flushLog();
-        return messages().contains(QStringLiteral("last"));
-    };
-    QTRY_VERIFY_WITH_TIMEOUT(lastIsWritten(), 60000);
-    writer.stop();
-    log->printLog(CustomLog::Debug, {}, {});
-    QVERIFY(writer.wait());
-    logger.close();
-    SharedContext::setCommonData(nullptr);
-
-    QVERIFY2(QFile::exists(LOG + QStringLiteral(".1")), "the file has not rolled over");
-    const QStringList all = messages();
-    QCOMPARE(all.size(), CALLERS * RECORDS + own + 2);
-    for (int caller = 0; caller <= CALLERS; ++caller) {
-        const QStringList ofCaller = all.filter(QRegularExpression(QStringLiteral("^%1:").arg(caller)));
-        QCOMPARE(ofCaller.size(), caller < CALLERS ? RECORDS : own);
-        for (int i = 0; i < ofCaller.size(); ++i) {
-            QCOMPARE(ofCaller.at(i), QStringLiteral("%1:%2").arg(caller).arg(i));
+        while (!done) {
+            logger.flush();
+            logger.clear();
         }
-    }
-}
-
-void tst_LogStress::clearingWhileTheWriterWritesTearsNoLine()
-{
-    constexpr int LINES = 3000;
-    constexpr int FEW_BACKUPS = 2;
-    CustomLogger logger(QStringLiteral("cleared.log"));
-    logger.setMaxFileSize(FILE_KIB);
-    logger.setMaxBackupIndex(FEW_BACKUPS);
-    std::atomic<bool> done{false};
-    std::thread writer([&logger, &done] {
-        for (int i = 0; i < LINES; ++i) {
-            logger.printLog(CustomLog::Info, QStringLiteral("place"), QStringLiteral("line %1.").arg(i));
-        }
-        done = true;
-    });
-    while (!done) {
-        logger.flush();
+        writer.join();
         logger.clear();
-    }
-    writer.join();
-    logger.clear();
-    logger.printLog(CustomLog::Info, QStringLiteral("place"), QStringLiteral("line last."));
-    logger.close();
+        logger.printLog(CustomLog::Info, QStringLiteral("place"), QStringLiteral("line last."));
+        logger.close();
 
-    const QRegularExpression whole(QStringLiteral("^\\[[^\\]]+\\]\\[[^\\]]+\\]\\[place\\]: line (\\d+|last)\\.$"));
-    for (const char *name : {"cleared.log", "cleared.log.1", "cleared.log.2"}) {
-        const QStringList lines =
-            QString::fromUtf8(readBytes(QLatin1String(name))).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-        for (const QString &line : lines) {
-            QVERIFY2(whole.match(line).hasMatch(), qPrintable(QLatin1String(name) + QLatin1String(": ") + line));
+        const QRegularExpression whole(QStringLiteral("^\\[[^\\]]+\\]\\[[^\\]]+\\]\\[place\\]: line (\\d+|last)\\.$"));
+        for (const char *name : {"cleared.log", "cleared.log.1", "cleared.log.2"}) {
+            const QStringList lines =
+                QString::fromUtf8(readBytes(QLatin1String(name))).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+            for (const QString &line : lines) {
+                QVERIFY2(whole.match(line).hasMatch(), qPrintable(QLatin1String(name) + QLatin1String(": ") + line));
+            }
         }
+        QVERIFY(readBytes(QStringLiteral("cleared.log")).contains("line last."));
     }
-    QVERIFY(readBytes(QStringLiteral("cleared.log")).contains("line last."));
-}
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_LogStress, Guiless)

@@ -32,26 +32,159 @@ class tst_ForeignPaths : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    /// A user's folder inside a folder with files that somebody might be after.
+    void init()
+    {
+        m_pWorld = std::make_unique<QTemporaryDir>(QDir::current().absoluteFilePath(QStringLiteral("XXXXXX")));
+        m_settings.m_strUserFolder = m_pWorld->filePath(QStringLiteral("files/me"));
+        m_settings.m_strHeadImageFolder = m_settings.m_strUserFolder + QStringLiteral("/designHeadImage/");
+        m_login.m_strUid = QStringLiteral("me");
+        m_skin = SysUIData();
+        m_context.setSystemSetData(&m_settings);
+        m_context.setLoginData(&m_login);
+        m_context.setSkinData(&m_skin);
+        SharedContext::setCommonData(&m_context);
+        QVERIFY(QDir().mkpath(m_settings.m_strHeadImageFolder + "folder"));
+        QVERIFY(QDir().mkpath(m_settings.m_strUserFolder + "/waterMark/me_folder"));
+        const QStringList folders{QDir::currentPath(), m_pWorld->path(), m_pWorld->filePath(QStringLiteral("files")),
+                                  m_settings.m_strUserFolder};
+        for (const QString &folder : folders) {
+            for (const char *name : {"victim", "victim.png", "victim.jpg", "victim.jpeg"}) {
+                QFile file(folder + '/' + name);
+                QVERIFY(file.open(QIODevice::WriteOnly) && file.write("whole") == 5);
+            }
+        }
+        m_before = outside();
+        QVERIFY(m_before.size() >= 16);
+    }
+
+    void cleanup()
+    {
+        const QMap<QString, QByteArray> after = outside();
+        QCOMPARE(after.keys(), m_before.keys());
+        QCOMPARE(after, m_before);
+        SharedContext::setCommonData(nullptr);
+        m_pWorld.reset();
+    }
 
     void headPictureStaysInItsFolder_data() { addNames(); }
-    void headPictureStaysInItsFolder();
+
+    void headPictureStaysInItsFolder()
+    {
+        QFETCH(QString, name);
+        QPixmap picture(10, 10);
+        picture.fill(Qt::red);
+        for (const QString &jid : {name, name + QStringLiteral("@kelvar.im")}) {
+            for (const char *suffix : {"png", "jpg", "jpeg"})
+                HeadImages::getFormattedImage({}, jid, picture, QSize(5, 5), QString::fromLatin1(suffix));
+        }
+    }
+
     void suffixOfAHeadPictureStaysInItsFolder_data() { addNames(); }
-    void suffixOfAHeadPictureStaysInItsFolder();
+
+    void suffixOfAHeadPictureStaysInItsFolder()
+    {
+        QFETCH(QString, name);
+        QPixmap picture(10, 10);
+        picture.fill(Qt::red);
+        HeadImages::getFormattedImage({}, QStringLiteral("ann@kelvar.im"), picture, QSize(5, 5), name);
+        HeadImages::getFormattedImage({}, QStringLiteral("ann@kelvar.im"), picture, QSize(5, 5), "/" + name);
+    }
+
     void photoNameIsTurnedIntoAPathOnly_data() { addNames(); }
-    void photoNameIsTurnedIntoAPathOnly();
+
+    void photoNameIsTurnedIntoAPathOnly()
+    {
+        QFETCH(QString, name);
+        for (const int kind : {0, 1, 2, 3})
+            PictureFun::savePhotoToLocalFile(name, kind, {}, QStringLiteral("x"));
+        PictureFun::saveByteArrayToLocalFile(QByteArray("\x89PNG and more"), name);
+        // The contract fixes how the path is put together.
+        QVERIFY(PictureFun::savePhotoToLocalFile(name, 1, {}, QStringLiteral("x"))
+                    .startsWith(m_settings.m_strHeadImageFolder + QStringLiteral("hf") + name));
+    }
+
     void serviceIconIsTurnedIntoAPathOnly_data() { addNames(); }
-    void serviceIconIsTurnedIntoAPathOnly();
+
+    void serviceIconIsTurnedIntoAPathOnly()
+    {
+        QFETCH(QString, name);
+        CServiceNumData service;
+        service.setServiceIconName(name);
+        // A name that stands among the system's own pictures, as ".." does, leads there.
+        QVERIFY(service.m_strIconPath.startsWith(m_settings.m_strHeadImageFolder + name) ||
+                service.m_strIconPath == strSYSTEM_AVATAR_PATH + name);
+    }
+
     void iconOfAFileStaysInItsFolder_data() { addNames(); }
-    void iconOfAFileStaysInItsFolder();
+
+    void iconOfAFileStaysInItsFolder()
+    {
+        QFETCH(QString, name);
+        for (const QString &file : {name, QStringLiteral("report.") + name}) {
+            FileIcons::getFileIcon(file);
+            FileIcons::getFileIconPath(file, 48);
+            FileIcons::getFileImg(file, true, false);
+            FileIcons::getFileImg(file, false, true);
+        }
+    }
+
     void waterMarkStaysInItsFolder_data() { addNames(); }
-    void waterMarkStaysInItsFolder();
+
+    void waterMarkStaysInItsFolder()
+    {
+        QFETCH(QString, name);
+        QString user = name;
+        QString id = name;
+        QString path;
+        m_login.m_strUid = QStringLiteral("folder/../") + name;
+        WaterMark::generateWaterMark(user, id, path);
+        m_login.m_strUid = QStringLiteral("me");
+        m_skin.m_strWaterMarkColor = QStringLiteral("folder/../") + name;
+        WaterMark::generateWaterMark(user, id, path);
+    }
 
 private:
-    static void addNames();
+    static void addNames()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("one folder up") << QStringLiteral("../victim");
+        QTest::newRow("two folders up") << QStringLiteral("../../victim");
+        QTest::newRow("with a suffix") << QStringLiteral("../../victim.png");
+        QTest::newRow("through a folder") << QStringLiteral("folder/../../../victim");
+        QTest::newRow("behind a dot") << QStringLiteral("x.png/../../../victim");
+        QTest::newRow("dots in the suffix") << QStringLiteral("x./../../victim");
+        QTest::newRow("two dots") << QStringLiteral("..");
+        QTest::newRow("backslashes") << QStringLiteral("..\\..\\victim.png");
+        QTest::newRow("absolute") << QDir::current().absoluteFilePath(QStringLiteral("victim.png"));
+        QTest::newRow("url") << QStringLiteral("file:///tmp/victim.png");
+        QTest::newRow("null character") << QStringLiteral("x") + QChar(0) + QStringLiteral("/../../victim.png");
+        QTest::newRow("escaped") << QStringLiteral("%2e%2e%2fvictim.png");
+    }
+
     /// Everything outside of the folders that the functions may write to: each file with its bytes, each folder.
-    QMap<QString, QByteArray> outside() const;
+
+    QMap<QString, QByteArray> outside() const
+    {
+        // The box of this test: working directory, home and temporary directory.
+        const QString box = QDir::cleanPath(QDir::currentPath() + QStringLiteral("/.."));
+        const QStringList own{m_settings.m_strHeadImageFolder,
+                              m_settings.m_strUserFolder + QStringLiteral("/waterMark"),
+                              QStandardPaths::writableLocation(QStandardPaths::DataLocation),
+                              QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)};
+        QMap<QString, QByteArray> found;
+        QDirIterator walk(box, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+        while (walk.hasNext()) {
+            const QString path = walk.next();
+            const bool isOwn = std::any_of(own.begin(), own.end(), [&](const QString &folder) {
+                return path.startsWith(QDir::cleanPath(folder));
+            });
+            QFile file(path);
+            if (!isOwn && QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly))
+                found.insert(path, file.readAll());
+        }
+        return found;
+    }
 
     std::unique_ptr<QTemporaryDir> m_pWorld;
     QMap<QString, QByteArray> m_before;
@@ -60,143 +193,6 @@ private:
     SysUIData m_skin;
     CommonData m_context;
 };
-
-void tst_ForeignPaths::addNames()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("one folder up") << QStringLiteral("../victim");
-    QTest::newRow("two folders up") << QStringLiteral("../../victim");
-    QTest::newRow("with a suffix") << QStringLiteral("../../victim.png");
-    QTest::newRow("through a folder") << QStringLiteral("folder/../../../victim");
-    QTest::newRow("behind a dot") << QStringLiteral("x.png/../../../victim");
-    QTest::newRow("dots in the suffix") << QStringLiteral("x./../../victim");
-    QTest::newRow("two dots") << QStringLiteral("..");
-    QTest::newRow("backslashes") << QStringLiteral("..\\..\\victim.png");
-    QTest::newRow("absolute") << QDir::current().absoluteFilePath(QStringLiteral("victim.png"));
-    QTest::newRow("url") << QStringLiteral("file:///tmp/victim.png");
-    QTest::newRow("null character") << QStringLiteral("x") + QChar(0) + QStringLiteral("/../../victim.png");
-    QTest::newRow("escaped") << QStringLiteral("%2e%2e%2fvictim.png");
-}
-
-/// A user's folder inside a folder with files that somebody might be after.
-void tst_ForeignPaths::init()
-{
-    m_pWorld = std::make_unique<QTemporaryDir>(QDir::current().absoluteFilePath(QStringLiteral("XXXXXX")));
-    m_settings.m_strUserFolder = m_pWorld->filePath(QStringLiteral("files/me"));
-    m_settings.m_strHeadImageFolder = m_settings.m_strUserFolder + QStringLiteral("/designHeadImage/");
-    m_login.m_strUid = QStringLiteral("me");
-    m_skin = SysUIData();
-    m_context.setSystemSetData(&m_settings);
-    m_context.setLoginData(&m_login);
-    m_context.setSkinData(&m_skin);
-    SharedContext::setCommonData(&m_context);
-    QVERIFY(QDir().mkpath(m_settings.m_strHeadImageFolder + "folder"));
-    QVERIFY(QDir().mkpath(m_settings.m_strUserFolder + "/waterMark/me_folder"));
-    const QStringList folders{QDir::currentPath(), m_pWorld->path(), m_pWorld->filePath(QStringLiteral("files")),
-                              m_settings.m_strUserFolder};
-    for (const QString &folder : folders) {
-        for (const char *name : {"victim", "victim.png", "victim.jpg", "victim.jpeg"}) {
-            QFile file(folder + '/' + name);
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write("whole") == 5);
-        }
-    }
-    m_before = outside();
-    QVERIFY(m_before.size() >= 16);
-}
-
-void tst_ForeignPaths::cleanup()
-{
-    const QMap<QString, QByteArray> after = outside();
-    QCOMPARE(after.keys(), m_before.keys());
-    QCOMPARE(after, m_before);
-    SharedContext::setCommonData(nullptr);
-    m_pWorld.reset();
-}
-
-QMap<QString, QByteArray> tst_ForeignPaths::outside() const
-{
-    // The box of this test: working directory, home and temporary directory.
-    const QString box = QDir::cleanPath(QDir::currentPath() + QStringLiteral("/.."));
-    const QStringList own{m_settings.m_strHeadImageFolder, m_settings.m_strUserFolder + QStringLiteral("/waterMark"),
-                          QStandardPaths::writableLocation(QStandardPaths::DataLocation),
-                          QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)};
-    QMap<QString, QByteArray> found;
-    QDirIterator walk(box, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
-    while (walk.hasNext()) {
-        const QString path = walk.next();
-        const bool isOwn = std::any_of(own.begin(), own.end(),
-                                       [&](const QString &folder) { return path.startsWith(QDir::cleanPath(folder)); });
-        QFile file(path);
-        if (!isOwn && QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly))
-            found.insert(path, file.readAll());
-    }
-    return found;
-}
-
-void tst_ForeignPaths::headPictureStaysInItsFolder()
-{
-    QFETCH(QString, name);
-    QPixmap picture(10, 10);
-    picture.fill(Qt::red);
-    for (const QString &jid : {name, name + QStringLiteral("@kelvar.im")}) {
-        for (const char *suffix : {"png", "jpg", "jpeg"})
-            HeadImages::getFormattedImage({}, jid, picture, QSize(5, 5), QString::fromLatin1(suffix));
-    }
-}
-
-void tst_ForeignPaths::suffixOfAHeadPictureStaysInItsFolder()
-{
-    QFETCH(QString, name);
-    QPixmap picture(10, 10);
-    picture.fill(Qt::red);
-    HeadImages::getFormattedImage({}, QStringLiteral("ann@kelvar.im"), picture, QSize(5, 5), name);
-    HeadImages::getFormattedImage({}, QStringLiteral("ann@kelvar.im"), picture, QSize(5, 5), "/" + name);
-}
-
-void tst_ForeignPaths::photoNameIsTurnedIntoAPathOnly()
-{
-    QFETCH(QString, name);
-    for (const int kind : {0, 1, 2, 3})
-        PictureFun::savePhotoToLocalFile(name, kind, {}, QStringLiteral("x"));
-    PictureFun::saveByteArrayToLocalFile(QByteArray("\x89PNG and more"), name);
-    // The contract fixes how the path is put together.
-    QVERIFY(PictureFun::savePhotoToLocalFile(name, 1, {}, QStringLiteral("x"))
-                .startsWith(m_settings.m_strHeadImageFolder + QStringLiteral("hf") + name));
-}
-
-void tst_ForeignPaths::serviceIconIsTurnedIntoAPathOnly()
-{
-    QFETCH(QString, name);
-    CServiceNumData service;
-    service.setServiceIconName(name);
-    // A name that stands among the system's own pictures, as ".." does, leads there.
-    QVERIFY(service.m_strIconPath.startsWith(m_settings.m_strHeadImageFolder + name) ||
-            service.m_strIconPath == strSYSTEM_AVATAR_PATH + name);
-}
-
-void tst_ForeignPaths::iconOfAFileStaysInItsFolder()
-{
-    QFETCH(QString, name);
-    for (const QString &file : {name, QStringLiteral("report.") + name}) {
-        FileIcons::getFileIcon(file);
-        FileIcons::getFileIconPath(file, 48);
-        FileIcons::getFileImg(file, true, false);
-        FileIcons::getFileImg(file, false, true);
-    }
-}
-
-void tst_ForeignPaths::waterMarkStaysInItsFolder()
-{
-    QFETCH(QString, name);
-    QString user = name;
-    QString id = name;
-    QString path;
-    m_login.m_strUid = QStringLiteral("folder/../") + name;
-    WaterMark::generateWaterMark(user, id, path);
-    m_login.m_strUid = QStringLiteral("me");
-    m_skin.m_strWaterMarkColor = QStringLiteral("folder/../") + name;
-    WaterMark::generateWaterMark(user, id, path);
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_ForeignPaths, Widgets)

@@ -8,131 +8,115 @@ class tst_ContactBook : public QObject
     Q_OBJECT
 
 private slots:
-    void hasEveryRobotOnce();
-    void friendMapHoldsContactsAndTheOwnUser();
-    void strangerIsInNoMapAndNoFriend();
-    void ownUserIsNoFriend();
-    void recordsNeverMove();
-    void unknownJidGetsADefaultRecord();
-    void cardsAreThereForStrangersToo();
-    void learntStrangerHasARecordAndIsStillNoFriend();
-    void learningAContactOrNobodyChangesNothing();
-    void presenceIsTheContacts();
-    void displayNameIsTheNickName();
-    void idsAndJidsTurnIntoEachOther();
+    void hasEveryRobotOnce()
+    {
+        QSet<QString> uids;
+        for (const ContactBook::Entry &entry : m_book.entries()) {
+            uids.insert(entry.uid);
+            QVERIFY(!entry.nick.isEmpty());
+            QVERIFY(!entry.alternative.isEmpty());
+        }
+        QCOMPARE(m_book.entries().size(), 10);
+        QCOMPARE(uids.size(), 10);
+        QVERIFY(!uids.contains(ContactBook::ownUid()));
+    }
+
+    void friendMapHoldsContactsAndTheOwnUser()
+    {
+        const QMap<QString, FriendData> map = m_book.friendMap();
+        QCOMPARE(map.size(), 10);
+        QVERIFY(map.contains(QStringLiteral("30010001@example.org")));
+        QVERIFY(map.contains(ContactBook::ownUid() + QStringLiteral("@example.org")));
+        for (auto it = map.begin(); it != map.end(); ++it) {
+            QCOMPARE(it.value().m_strJid, it.key());
+        }
+    }
+
+    void strangerIsInNoMapAndNoFriend()
+    {
+        const QString stranger = QStringLiteral("30010007@example.org");
+        QVERIFY(!m_book.friendMap().contains(stranger));
+        QVERIFY(!m_book.isFriend(stranger));
+        QVERIFY(m_book.isFriend(QStringLiteral("30010001@example.org")));
+        QVERIFY(!m_book.isFriend(QStringLiteral("4711@example.org")));
+    }
+
+    void ownUserIsNoFriend() { QVERIFY(!m_book.isFriend(m_book.jidOf(ContactBook::ownUid()))); }
+
+    void recordsNeverMove()
+    {
+        const FriendData *first = m_book.record(QStringLiteral("30010001@example.org"));
+        const VcardInfo *card = m_book.card(QStringLiteral("30010007"));
+        const QMap<QString, FriendData> copy = m_book.friendMap();
+        QCOMPARE(m_book.record(QStringLiteral("30010001@example.org")), first);
+        QCOMPARE(m_book.card(QStringLiteral("30010007")), card);
+    }
+
+    void unknownJidGetsADefaultRecord()
+    {
+        const FriendData *record = m_book.record(QStringLiteral("4711@example.org"));
+        QVERIFY(record != nullptr);
+        QVERIFY(record->m_strJid.isEmpty());
+        QCOMPARE(record->m_vcardInfo.m_iSmallVersion, -1);
+        QCOMPARE(m_book.record(QStringLiteral("30010007@example.org")), record);
+    }
+
+    void cardsAreThereForStrangersToo()
+    {
+        QCOMPARE(m_book.card(QStringLiteral("30010007"))->m_strNickName, QStringLiteral("韩梅梅"));
+        QVERIFY(m_book.card(QStringLiteral("4711")) != nullptr);
+        QVERIFY(m_book.card(QStringLiteral("4711"))->m_strNickName.isEmpty());
+    }
+
+    void learntStrangerHasARecordAndIsStillNoFriend()
+    {
+        ContactBook book(QStringLiteral("example.org"));
+        const QString jid = QStringLiteral("30010007@example.org");
+        book.learn(QStringLiteral("30010007"));
+        QCOMPARE(book.record(jid)->m_strJid, jid);
+        QCOMPARE(book.record(jid)->displayName(), QStringLiteral("韩梅梅"));
+        QVERIFY(!book.isFriend(jid));
+        QVERIFY(!book.friendMap().contains(jid));
+    }
+
+    void learningAContactOrNobodyChangesNothing()
+    {
+        ContactBook book(QStringLiteral("example.org"));
+        const FriendData *contact = book.record(QStringLiteral("30010001@example.org"));
+        book.learn(QStringLiteral("30010001"));
+        book.learn(QStringLiteral("4711"));
+        QCOMPARE(book.record(QStringLiteral("30010001@example.org")), contact);
+        QVERIFY(book.record(QStringLiteral("4711@example.org"))->m_strJid.isEmpty());
+    }
+
+    void presenceIsTheContacts()
+    {
+        QVERIFY(m_book.presenceOf(QStringLiteral("30010001")) == Presence::Online);
+        QVERIFY(m_book.presenceOf(QStringLiteral("30010002")) == Presence::Busy);
+        QVERIFY(m_book.presenceOf(QStringLiteral("30010004")) == Presence::Away);
+        QVERIFY(m_book.presenceOf(QStringLiteral("30010005")) == Presence::Offline);
+        QVERIFY(m_book.presenceOf(ContactBook::ownUid()) == Presence::Online);
+        QVERIFY(m_book.presenceOf(QStringLiteral("4711")) == Presence::Offline);
+    }
+
+    void displayNameIsTheNickName()
+    {
+        QCOMPARE(m_book.record(QStringLiteral("30010001@example.org"))->displayName(), QStringLiteral("李雷"));
+        QCOMPARE(m_book.nameOf(QStringLiteral("30010001")), QStringLiteral("李雷"));
+        QCOMPARE(m_book.nameOf(QStringLiteral("4711")), QStringLiteral("4711"));
+    }
+
+    void idsAndJidsTurnIntoEachOther()
+    {
+        QCOMPARE(m_book.jidOf(QStringLiteral("1")), QStringLiteral("1@example.org"));
+        QCOMPARE(m_book.jidOf(QStringLiteral("1@other.org")), QStringLiteral("1@other.org"));
+        QCOMPARE(ContactBook::uidOf(QStringLiteral("1@example.org")), QStringLiteral("1"));
+        QCOMPARE(ContactBook::uidOf(QStringLiteral("1")), QStringLiteral("1"));
+    }
 
 private:
     ContactBook m_book{QStringLiteral("example.org")};
 };
-
-void tst_ContactBook::hasEveryRobotOnce()
-{
-    QSet<QString> uids;
-    for (const ContactBook::Entry &entry : m_book.entries()) {
-        uids.insert(entry.uid);
-        QVERIFY(!entry.nick.isEmpty());
-        QVERIFY(!entry.alternative.isEmpty());
-    }
-    QCOMPARE(m_book.entries().size(), 10);
-    QCOMPARE(uids.size(), 10);
-    QVERIFY(!uids.contains(ContactBook::ownUid()));
-}
-
-void tst_ContactBook::friendMapHoldsContactsAndTheOwnUser()
-{
-    const QMap<QString, FriendData> map = m_book.friendMap();
-    QCOMPARE(map.size(), 10);
-    QVERIFY(map.contains(QStringLiteral("30010001@example.org")));
-    QVERIFY(map.contains(ContactBook::ownUid() + QStringLiteral("@example.org")));
-    for (auto it = map.begin(); it != map.end(); ++it) {
-        QCOMPARE(it.value().m_strJid, it.key());
-    }
-}
-
-void tst_ContactBook::strangerIsInNoMapAndNoFriend()
-{
-    const QString stranger = QStringLiteral("30010007@example.org");
-    QVERIFY(!m_book.friendMap().contains(stranger));
-    QVERIFY(!m_book.isFriend(stranger));
-    QVERIFY(m_book.isFriend(QStringLiteral("30010001@example.org")));
-    QVERIFY(!m_book.isFriend(QStringLiteral("4711@example.org")));
-}
-
-void tst_ContactBook::ownUserIsNoFriend()
-{
-    QVERIFY(!m_book.isFriend(m_book.jidOf(ContactBook::ownUid())));
-}
-
-void tst_ContactBook::recordsNeverMove()
-{
-    const FriendData *first = m_book.record(QStringLiteral("30010001@example.org"));
-    const VcardInfo *card = m_book.card(QStringLiteral("30010007"));
-    const QMap<QString, FriendData> copy = m_book.friendMap();
-    QCOMPARE(m_book.record(QStringLiteral("30010001@example.org")), first);
-    QCOMPARE(m_book.card(QStringLiteral("30010007")), card);
-}
-
-void tst_ContactBook::unknownJidGetsADefaultRecord()
-{
-    const FriendData *record = m_book.record(QStringLiteral("4711@example.org"));
-    QVERIFY(record != nullptr);
-    QVERIFY(record->m_strJid.isEmpty());
-    QCOMPARE(record->m_vcardInfo.m_iSmallVersion, -1);
-    QCOMPARE(m_book.record(QStringLiteral("30010007@example.org")), record);
-}
-
-void tst_ContactBook::cardsAreThereForStrangersToo()
-{
-    QCOMPARE(m_book.card(QStringLiteral("30010007"))->m_strNickName, QStringLiteral("韩梅梅"));
-    QVERIFY(m_book.card(QStringLiteral("4711")) != nullptr);
-    QVERIFY(m_book.card(QStringLiteral("4711"))->m_strNickName.isEmpty());
-}
-
-void tst_ContactBook::learntStrangerHasARecordAndIsStillNoFriend()
-{
-    ContactBook book(QStringLiteral("example.org"));
-    const QString jid = QStringLiteral("30010007@example.org");
-    book.learn(QStringLiteral("30010007"));
-    QCOMPARE(book.record(jid)->m_strJid, jid);
-    QCOMPARE(book.record(jid)->displayName(), QStringLiteral("韩梅梅"));
-    QVERIFY(!book.isFriend(jid));
-    QVERIFY(!book.friendMap().contains(jid));
-}
-
-void tst_ContactBook::learningAContactOrNobodyChangesNothing()
-{
-    ContactBook book(QStringLiteral("example.org"));
-    const FriendData *contact = book.record(QStringLiteral("30010001@example.org"));
-    book.learn(QStringLiteral("30010001"));
-    book.learn(QStringLiteral("4711"));
-    QCOMPARE(book.record(QStringLiteral("30010001@example.org")), contact);
-    QVERIFY(book.record(QStringLiteral("4711@example.org"))->m_strJid.isEmpty());
-}
-
-void tst_ContactBook::presenceIsTheContacts()
-{
-    QVERIFY(m_book.presenceOf(QStringLiteral("30010001")) == Presence::Online);
-    QVERIFY(m_book.presenceOf(QStringLiteral("30010002")) == Presence::Busy);
-    QVERIFY(m_book.presenceOf(QStringLiteral("30010004")) == Presence::Away);
-    QVERIFY(m_book.presenceOf(QStringLiteral("30010005")) == Presence::Offline);
-    QVERIFY(m_book.presenceOf(ContactBook::ownUid()) == Presence::Online);
-    QVERIFY(m_book.presenceOf(QStringLiteral("4711")) == Presence::Offline);
-}
-
-void tst_ContactBook::displayNameIsTheNickName()
-{
-    QCOMPARE(m_book.record(QStringLiteral("30010001@example.org"))->displayName(), QStringLiteral("李雷"));
-    QCOMPARE(m_book.nameOf(QStringLiteral("30010001")), QStringLiteral("李雷"));
-    QCOMPARE(m_book.nameOf(QStringLiteral("4711")), QStringLiteral("4711"));
-}
-
-void tst_ContactBook::idsAndJidsTurnIntoEachOther()
-{
-    QCOMPARE(m_book.jidOf(QStringLiteral("1")), QStringLiteral("1@example.org"));
-    QCOMPARE(m_book.jidOf(QStringLiteral("1@other.org")), QStringLiteral("1@other.org"));
-    QCOMPARE(ContactBook::uidOf(QStringLiteral("1@example.org")), QStringLiteral("1"));
-    QCOMPARE(ContactBook::uidOf(QStringLiteral("1")), QStringLiteral("1"));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_ContactBook, Guiless)

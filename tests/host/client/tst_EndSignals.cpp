@@ -11,38 +11,34 @@ class tst_EndSignals : public QObject
     Q_OBJECT
 
 private slots:
-    void requestToEndArrivesThroughTheEventLoop_data();
-    void requestToEndArrivesThroughTheEventLoop();
-    void defaultHandlingComesBack();
-};
-
-void tst_EndSignals::requestToEndArrivesThroughTheEventLoop_data()
-{
-    QTest::addColumn<int>("number");
-    QTest::newRow("interrupt") << SIGINT;
-    QTest::newRow("terminate") << SIGTERM;
-    QTest::newRow("hang up") << SIGHUP;
-}
-
-void tst_EndSignals::requestToEndArrivesThroughTheEventLoop()
-{
-    QFETCH(int, number);
-    const EndSignals endSignals;
-    QSignalSpy requested(&endSignals, &EndSignals::endRequested);
-    ::raise(number);
-    QCOMPARE(requested.count(), 0);
-    QTRY_COMPARE_WITH_TIMEOUT(requested.count(), 1, kPatienceMs);
-}
-
-void tst_EndSignals::defaultHandlingComesBack()
-{
+    void requestToEndArrivesThroughTheEventLoop_data()
     {
-        const EndSignals endSignals;
+        QTest::addColumn<int>("number");
+        QTest::newRow("interrupt") << SIGINT;
+        QTest::newRow("terminate") << SIGTERM;
+        QTest::newRow("hang up") << SIGHUP;
     }
-    struct sigaction action = {};
-    QCOMPARE(::sigaction(SIGTERM, nullptr, &action), 0);
-    QVERIFY(action.sa_handler == SIG_DFL);
-}
+
+    void requestToEndArrivesThroughTheEventLoop()
+    {
+        QFETCH(int, number);
+        const EndSignals endSignals;
+        QSignalSpy requested(&endSignals, &EndSignals::endRequested);
+        ::raise(number);
+        QCOMPARE(requested.count(), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(requested.count(), 1, kPatienceMs);
+    }
+
+    void defaultHandlingComesBack()
+    {
+        {
+            const EndSignals endSignals;
+        }
+        struct sigaction action = {};
+        QCOMPARE(::sigaction(SIGTERM, nullptr, &action), 0);
+        QVERIFY(action.sa_handler == SIG_DFL);
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_EndSignals, Guiless)

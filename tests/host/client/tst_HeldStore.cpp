@@ -21,45 +21,43 @@ class tst_HeldStore : public QObject
     Q_OBJECT
 
 private slots:
-    void heldStoreIsToldAndTriedAgain();
+    void heldStoreIsToldAndTriedAgain()
+    {
+        SystemSetData *settings = SystemSetData::instance();
+        settings->initCommonData();
+        settings->initData(ContactBook::ownUid());
+        QVERIFY(QDir().mkpath(settings->m_strUserFolder));
+        QVERIFY(QFile(settings->m_strDatabasePath).open(QIODevice::WriteOnly));
+        constexpr int HOLD = 120000;
+        LockHolder holder(settings->m_strDatabasePath, QStringLiteral("BEGIN EXCLUSIVE"), HOLD);
+        QVERIFY(holder.hasHeld());
+
+        // The store is opened before the module, which is not there.
+        ContactBook book(QStringLiteral("example.org"));
+        HostSession session(book);
+        QString error;
+        QVERIFY(!session.start(QStringLiteral("/no/module.so"), &error));
+        QVERIFY(!session.store().isOpen());
+        MainWindow window(session, book);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window, kPatienceMs));
+        const auto isTold = [&window] {
+            return WindowProbe::isShown(&window, "lblNotice") && WindowProbe::isShown(&window, "btnTryStore") &&
+                   WindowProbe::text(&window, "lblNotice").contains(QStringLiteral("is in use by another program"));
+        };
+        QVERIFY(isTold());
+
+        QVERIFY(pressButton(&window, "btnTryStore"));
+        QVERIFY(isTold());
+        QVERIFY(holder.holds());
+        QVERIFY(holder.letGo());
+        QVERIFY(pressButton(&window, "btnTryStore"));
+        QVERIFY(session.store().isOpen());
+        QVERIFY(!WindowProbe::isShown(&window, "lblNotice"));
+        QVERIFY(!WindowProbe::isShown(&window, "btnTryStore"));
+        QCOMPARE(window.statusBar()->currentMessage(), QStringLiteral("The local store is open"));
+    }
 };
-
-void tst_HeldStore::heldStoreIsToldAndTriedAgain()
-{
-    SystemSetData *settings = SystemSetData::instance();
-    settings->initCommonData();
-    settings->initData(ContactBook::ownUid());
-    QVERIFY(QDir().mkpath(settings->m_strUserFolder));
-    QVERIFY(QFile(settings->m_strDatabasePath).open(QIODevice::WriteOnly));
-    constexpr int HOLD = 120000;
-    LockHolder holder(settings->m_strDatabasePath, QStringLiteral("BEGIN EXCLUSIVE"), HOLD);
-    QVERIFY(holder.hasHeld());
-
-    // The store is opened before the module, which is not there.
-    ContactBook book(QStringLiteral("example.org"));
-    HostSession session(book);
-    QString error;
-    QVERIFY(!session.start(QStringLiteral("/no/module.so"), &error));
-    QVERIFY(!session.store().isOpen());
-    MainWindow window(session, book);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window, kPatienceMs));
-    const auto isTold = [&window] {
-        return WindowProbe::isShown(&window, "lblNotice") && WindowProbe::isShown(&window, "btnTryStore") &&
-               WindowProbe::text(&window, "lblNotice").contains(QStringLiteral("is in use by another program"));
-    };
-    QVERIFY(isTold());
-
-    QVERIFY(pressButton(&window, "btnTryStore"));
-    QVERIFY(isTold());
-    QVERIFY(holder.holds());
-    QVERIFY(holder.letGo());
-    QVERIFY(pressButton(&window, "btnTryStore"));
-    QVERIFY(session.store().isOpen());
-    QVERIFY(!WindowProbe::isShown(&window, "lblNotice"));
-    QVERIFY(!WindowProbe::isShown(&window, "btnTryStore"));
-    QCOMPARE(window.statusBar()->currentMessage(), QStringLiteral("The local store is open"));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_HeldStore, Widgets)

@@ -22,33 +22,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-class tst_OwnerOnly : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void initTestCase();
-    void cleanupTestCase();
-
-    void everythingMadeIsForItsOwnerAlone();
-    void folderOfAnEarlierRunIsClosed();
-    void anotherUserReadsWhatIsNotClosed();
-    void anotherUserCannotReadOrWriteAFile_data();
-    void anotherUserCannotReadOrWriteAFile();
-    void anotherUserCannotUseTheChannel();
-    void anotherUserCannotPutAFileBesideThem();
-
-private:
-    /// The first file of that name below the test's box; empty when there is none.
-    static QString find(const QString &strName);
-    static QString box() { return QDir::cleanPath(QDir::currentPath() + QStringLiteral("/..")); }
-    static mode_t modeOf(const QString &strPath);
-
-    QProcess m_demo;
-    QString m_strTrace;
-    QStringList m_before;
-};
-
 namespace {
 
 /// Whether the deed succeeds when another user does it. Only root can become one; for others the answer is what the
@@ -98,118 +71,134 @@ QStringList pathsBelow(const QString &folder)
 
 } // namespace
 
-QString tst_OwnerOnly::find(const QString &strName)
+class tst_OwnerOnly : public QObject
 {
-    QDirIterator walk(box(), {strName}, QDir::AllEntries | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
-    return walk.hasNext() ? walk.next() : QString();
-}
+    Q_OBJECT
 
-mode_t tst_OwnerOnly::modeOf(const QString &strPath)
-{
-    struct stat status = {};
-    return ::lstat(QFile::encodeName(strPath).constData(), &status) == 0 ? status.st_mode : 0;
-}
+private slots:
+    /// A machine whose home directories are open and whose temporary directory is everybody's.
+    void initTestCase()
+    {
+        ::umask(022);
+        for (const QString &folder : {box(), QDir::homePath(), QDir::currentPath()})
+            QCOMPARE(::chmod(QFile::encodeName(folder).constData(), 0755), 0);
+        QCOMPARE(::chmod(QFile::encodeName(QDir::tempPath()).constData(), 01777), 0);
+        SystemSetData settings;
+        settings.initCommonData();
+        settings.initData(QStringLiteral("30010000"));
+        QVERIFY(QDir().mkpath(settings.m_strUserFolder));
+        QVERIFY(modeOf(settings.m_strUserFolder) & S_IROTH);
+        m_before = pathsBelow(box());
 
-/// A machine whose home directories are open and whose temporary directory is everybody's.
-void tst_OwnerOnly::initTestCase()
-{
-    ::umask(022);
-    for (const QString &folder : {box(), QDir::homePath(), QDir::currentPath()})
-        QCOMPARE(::chmod(QFile::encodeName(folder).constData(), 0755), 0);
-    QCOMPARE(::chmod(QFile::encodeName(QDir::tempPath()).constData(), 01777), 0);
-    SystemSetData settings;
-    settings.initCommonData();
-    settings.initData(QStringLiteral("30010000"));
-    QVERIFY(QDir().mkpath(settings.m_strUserFolder));
-    QVERIFY(modeOf(settings.m_strUserFolder) & S_IROTH);
-    m_before = pathsBelow(box());
-
-    m_strTrace = QDir::current().absoluteFilePath(QStringLiteral("wire.trace"));
-    qputenv("VOIPSDK_TRACE", QFile::encodeName(m_strTrace));
-    m_demo.setProcessChannelMode(QProcess::ForwardedChannels);
-    m_demo.start(QStringLiteral(VOIP_BIN_DIR "/kelvarim-demo"), QStringList());
-    QVERIFY(m_demo.waitForStarted(kPatienceMs));
-    // The registration is the last thing of a start.
-    QTRY_VERIFY_WITH_TIMEOUT(
-        QFile(m_strTrace).exists() &&
-            [this] {
-                QFile trace(m_strTrace);
-                return trace.open(QIODevice::ReadOnly) && trace.readAll().contains("RegeditUser");
-            }(),
-        kPatienceMs);
-}
-
-void tst_OwnerOnly::cleanupTestCase()
-{
-    m_demo.terminate();
-    QVERIFY(m_demo.waitForFinished(kPatienceMs));
-}
-
-void tst_OwnerOnly::everythingMadeIsForItsOwnerAlone()
-{
-    for (const char *name : {"VoipSDK", "kelvarim-demo.log", "localData.db", "wire.trace"})
-        QVERIFY2(!find(QString::fromLatin1(name)).isEmpty(), name);
-    const QStringList now = pathsBelow(box());
-    int made = 0;
-    for (const QString &path : now) {
-        const mode_t mode = modeOf(path);
-        if (m_before.contains(path) || mode == 0 || S_ISLNK(mode))
-            continue;
-        ++made;
-        QVERIFY2((mode & 077) == 0, qPrintable(QStringLiteral("%1 has mode %2").arg(path).arg(mode & 07777, 0, 8)));
+        m_strTrace = QDir::current().absoluteFilePath(QStringLiteral("wire.trace"));
+        qputenv("VOIPSDK_TRACE", QFile::encodeName(m_strTrace));
+        m_demo.setProcessChannelMode(QProcess::ForwardedChannels);
+        m_demo.start(QStringLiteral(VOIP_BIN_DIR "/kelvarim-demo"), QStringList());
+        QVERIFY(m_demo.waitForStarted(kPatienceMs));
+        // The registration is the last thing of a start.
+        QTRY_VERIFY_WITH_TIMEOUT(
+            QFile(m_strTrace).exists() &&
+                [this] {
+                    QFile trace(m_strTrace);
+                    return trace.open(QIODevice::ReadOnly) && trace.readAll().contains("RegeditUser");
+                }(),
+            kPatienceMs);
     }
-    QVERIFY(made >= 6);
-}
 
-void tst_OwnerOnly::folderOfAnEarlierRunIsClosed()
-{
-    const QString folder = QFileInfo(find(QStringLiteral("localData.db"))).path();
-    QVERIFY(m_before.contains(folder));
-    QCOMPARE(modeOf(folder) & 07777, mode_t(0700));
-}
+    void cleanupTestCase()
+    {
+        m_demo.terminate();
+        QVERIFY(m_demo.waitForFinished(kPatienceMs));
+    }
 
-/// The attempts below would also fail for want of a way to the files.
-void tst_OwnerOnly::anotherUserReadsWhatIsNotClosed()
-{
-    const QByteArray path = QFile::encodeName(QDir::tempPath() + "/open");
-    QVERIFY(canOpen(path, O_CREAT | O_WRONLY));
-    QCOMPARE(::chmod(path.constData(), 0644), 0);
-    QCOMPARE(isDoneByAnother([&] { return canOpen(path, O_RDONLY); }), ::geteuid() == 0);
-}
+    void everythingMadeIsForItsOwnerAlone()
+    {
+        for (const char *name : {"VoipSDK", "kelvarim-demo.log", "localData.db", "wire.trace"})
+            QVERIFY2(!find(QString::fromLatin1(name)).isEmpty(), name);
+        const QStringList now = pathsBelow(box());
+        int made = 0;
+        for (const QString &path : now) {
+            const mode_t mode = modeOf(path);
+            if (m_before.contains(path) || mode == 0 || S_ISLNK(mode))
+                continue;
+            ++made;
+            QVERIFY2((mode & 077) == 0, qPrintable(QStringLiteral("%1 has mode %2").arg(path).arg(mode & 07777, 0, 8)));
+        }
+        QVERIFY(made >= 6);
+    }
 
-void tst_OwnerOnly::anotherUserCannotReadOrWriteAFile_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char *name : {"kelvarim-demo.log", "localData.db", "wire.trace", "VoipSDK.lock"})
-        QTest::newRow(name) << QString::fromLatin1(name);
-}
+    void folderOfAnEarlierRunIsClosed()
+    {
+        const QString folder = QFileInfo(find(QStringLiteral("localData.db"))).path();
+        QVERIFY(m_before.contains(folder));
+        QCOMPARE(modeOf(folder) & 07777, mode_t(0700));
+    }
 
-void tst_OwnerOnly::anotherUserCannotReadOrWriteAFile()
-{
-    QFETCH(QString, name);
-    const QString found = name == "VoipSDK.lock" ? QDir::tempPath() + "/VoipSDK.lock" : find(name);
-    const QByteArray path = QFile::encodeName(found);
-    for (const int flags : {O_RDONLY, O_WRONLY, O_RDWR, O_WRONLY | O_TRUNC})
-        QVERIFY(!isDoneByAnother([&] { return canOpen(path, flags); }));
-    QVERIFY(!isDoneByAnother([&] { return ::unlink(path.constData()) == 0; }));
-}
+    /// The attempts below would also fail for want of a way to the files.
+    void anotherUserReadsWhatIsNotClosed()
+    {
+        const QByteArray path = QFile::encodeName(QDir::tempPath() + "/open");
+        QVERIFY(canOpen(path, O_CREAT | O_WRONLY));
+        QCOMPARE(::chmod(path.constData(), 0644), 0);
+        QCOMPARE(isDoneByAnother([&] { return canOpen(path, O_RDONLY); }), ::geteuid() == 0);
+    }
 
-void tst_OwnerOnly::anotherUserCannotUseTheChannel()
-{
-    const QByteArray path = QFile::encodeName(QDir::tempPath() + "/VoipSDK");
-    QVERIFY(S_ISSOCK(modeOf(QFile::decodeName(path))));
-    QVERIFY(!isDoneByAnother([&] { return canConnect(path); }));
-    QVERIFY(!isDoneByAnother([&] { return ::unlink(path.constData()) == 0; }));
-    QVERIFY(!isDoneByAnother([&] { return ::rename(path.constData(), (path + ".mine").constData()) == 0; }));
-}
+    void anotherUserCannotReadOrWriteAFile_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"kelvarim-demo.log", "localData.db", "wire.trace", "VoipSDK.lock"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
 
-void tst_OwnerOnly::anotherUserCannotPutAFileBesideThem()
-{
-    const QByteArray folder = QFile::encodeName(QFileInfo(find(QStringLiteral("localData.db"))).path());
-    QVERIFY(!isDoneByAnother([&] { return canOpen(folder + "/localData.db-journal", O_CREAT | O_WRONLY); }));
-    const QByteArray log = QFile::encodeName(QFileInfo(find(QStringLiteral("kelvarim-demo.log"))).path());
-    QVERIFY(!isDoneByAnother([&] { return canOpen(log + "/kelvarim-demo.log.1", O_CREAT | O_WRONLY); }));
-}
+    void anotherUserCannotReadOrWriteAFile()
+    {
+        QFETCH(QString, name);
+        const QString found = name == "VoipSDK.lock" ? QDir::tempPath() + "/VoipSDK.lock" : find(name);
+        const QByteArray path = QFile::encodeName(found);
+        for (const int flags : {O_RDONLY, O_WRONLY, O_RDWR, O_WRONLY | O_TRUNC})
+            QVERIFY(!isDoneByAnother([&] { return canOpen(path, flags); }));
+        QVERIFY(!isDoneByAnother([&] { return ::unlink(path.constData()) == 0; }));
+    }
+
+    void anotherUserCannotUseTheChannel()
+    {
+        const QByteArray path = QFile::encodeName(QDir::tempPath() + "/VoipSDK");
+        QVERIFY(S_ISSOCK(modeOf(QFile::decodeName(path))));
+        QVERIFY(!isDoneByAnother([&] { return canConnect(path); }));
+        QVERIFY(!isDoneByAnother([&] { return ::unlink(path.constData()) == 0; }));
+        QVERIFY(!isDoneByAnother([&] { return ::rename(path.constData(), (path + ".mine").constData()) == 0; }));
+    }
+
+    void anotherUserCannotPutAFileBesideThem()
+    {
+        const QByteArray folder = QFile::encodeName(QFileInfo(find(QStringLiteral("localData.db"))).path());
+        QVERIFY(!isDoneByAnother([&] { return canOpen(folder + "/localData.db-journal", O_CREAT | O_WRONLY); }));
+        const QByteArray log = QFile::encodeName(QFileInfo(find(QStringLiteral("kelvarim-demo.log"))).path());
+        QVERIFY(!isDoneByAnother([&] { return canOpen(log + "/kelvarim-demo.log.1", O_CREAT | O_WRONLY); }));
+    }
+
+private:
+    /// The first file of that name below the test's box; empty when there is none.
+
+    static QString find(const QString &strName)
+    {
+        QDirIterator walk(box(), {strName}, QDir::AllEntries | QDir::Hidden | QDir::System,
+                          QDirIterator::Subdirectories);
+        return walk.hasNext() ? walk.next() : QString();
+    }
+
+    static QString box() { return QDir::cleanPath(QDir::currentPath() + QStringLiteral("/..")); }
+
+    static mode_t modeOf(const QString &strPath)
+    {
+        struct stat status = {};
+        return ::lstat(QFile::encodeName(strPath).constData(), &status) == 0 ? status.st_mode : 0;
+    }
+
+    QProcess m_demo;
+    QString m_strTrace;
+    QStringList m_before;
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_OwnerOnly, Guiless)

@@ -123,240 +123,214 @@ class tst_Translations : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void everyKeyOfTheSourcesAndNoOtherHasATranslation_data();
-    void everyKeyOfTheSourcesAndNoOtherHasATranslation();
-    void compiledCatalogueGivesTheTexts_data();
-    void compiledCatalogueGivesTheTexts();
-    void chineseTextsAreChinese_data();
-    void chineseTextsAreChinese();
-    void textsAreWrittenInTheirLanguagesLetters_data();
-    void textsAreWrittenInTheirLanguagesLetters();
-    void catchAllOfTheAddressesIsTheSameInEveryLanguage_data();
-    void catchAllOfTheAddressesIsTheSameInEveryLanguage();
-    void wordsOfTheFormsAreInTheClientsLanguage_data();
-    void wordsOfTheFormsAreInTheClientsLanguage();
-    void callWindowFollowsTheLanguage();
-    void messageOfTheEngineIsInTheClientsLanguage_data();
-    void messageOfTheEngineIsInTheClientsLanguage();
-    void messageOfTheEngineShowsItsKeysWithoutACatalogue();
+    void initTestCase()
+    {
+        const QTemporaryDir folder;
+        const QString strFound = folder.filePath(QStringLiteral("found.ts"));
+        QFile list(folder.filePath(QStringLiteral("files.lst")));
+        QVERIFY(list.open(QIODevice::WriteOnly));
+        list.write(sourceFiles().join(QLatin1Char('\n')).toUtf8());
+        list.close();
+        QCOMPARE(QProcess::execute(QStringLiteral(VOIP_LUPDATE), {"-silent", "@" + list.fileName(), "-ts", strFound}),
+                 0);
+        m_wanted = readFile(strFound);
+        // One of each way in which a key can stand in the sources: a class's own, another's, in a table, in a list, in
+        // a form of the plug-in.
+        const QStringList names = namesOf(m_wanted);
+        for (const char *known :
+             {"CVoipWidget::beSureToCloseCalling", "QObject::yesterday", "QObject::yourHotKeyUsedAndRevise",
+              "QObject::ThemeGreen", "CVoipWidget::挂断", "ErrorMessage::组名：",
+              // The client's own words, of a form, of a source and of a table.
+              "SettingsPage::Language", "MainWindow::Signed out", "Presence::away"})
+            QVERIFY2(names.contains(QString::fromUtf8(known)), known);
+    }
+
+    void everyKeyOfTheSourcesAndNoOtherHasATranslation_data() { addLanguages(); }
+
+    void everyKeyOfTheSourcesAndNoOtherHasATranslation()
+    {
+        QFETCH(QString, language);
+        const QList<Entry> entries = readFile(wordsFile(language));
+        const QStringList names = namesOf(entries);
+        const QStringList wanted = namesOf(m_wanted);
+        QCOMPARE(without(wanted, names), QString());
+        QCOMPARE(without(names, wanted), QString());
+        QCOMPARE(names, wanted);
+        for (const Entry &entry : entries)
+            QVERIFY2(!entry.text.trimmed().isEmpty(), qPrintable(entry.name));
+    }
+
+    void compiledCatalogueGivesTheTexts_data() { addLanguages(); }
+
+    void compiledCatalogueGivesTheTexts()
+    {
+        QFETCH(QString, language);
+        HostCatalogue catalogue;
+        QVERIFY(catalogue.read(QStringLiteral(VOIP_TRANSLATIONS), language));
+        QVERIFY(QCoreApplication::installTranslator(&catalogue));
+        const QList<Entry> entries = readFile(wordsFile(language));
+        for (const Entry &entry : entries) {
+            const QByteArray context = entry.name.section(QStringLiteral("::"), 0, 0).toUtf8();
+            const QByteArray key = entry.name.section(QStringLiteral("::"), 1).toUtf8();
+            QCOMPARE(QCoreApplication::translate(context.constData(), key.constData()), entry.text);
+        }
+    }
+
+    void chineseTextsAreChinese_data()
+    {
+        QTest::addColumn<QString>("language");
+
+        QTest::newRow("zh_CN") << "zh_CN";
+        QTest::newRow("zh_TW") << "zh_TW";
+    }
+
+    void chineseTextsAreChinese()
+    {
+        QFETCH(QString, language);
+        // A number that is compared, the name of the client, and a clock.
+        const QStringList sameEverywhere = {"CUrlInfo::000000", "QObject::tarvoShowName", "CVoipWidget::00:00"};
+        const QRegularExpression chinese(QStringLiteral("[\u3002\u4e00-\u9fa5]"));
+        const QList<Entry> entries = readFile(wordsFile(language));
+        for (const Entry &entry : entries)
+            QVERIFY2(sameEverywhere.contains(entry.name) || entry.text.contains(chinese), qPrintable(entry.name));
+    }
+
+    void textsAreWrittenInTheirLanguagesLetters_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QByteArray>("letters");
+
+        // The character sets of the countries: each lacks what only the other one writes, the last has no Chinese at
+        // all.
+        QTest::newRow("zh_CN") << "zh_CN" << QByteArray("GB2312");
+        QTest::newRow("zh_TW") << "zh_TW" << QByteArray("Big5");
+        QTest::newRow("en") << "en" << QByteArray("ISO-8859-1");
+    }
+
+    void textsAreWrittenInTheirLanguagesLetters()
+    {
+        QFETCH(QString, language);
+        QFETCH(QByteArray, letters);
+        // Marks that stand in texts of all languages.
+        static const QRegularExpression marks(QStringLiteral("[\u2010-\u21ff]"));
+        QTextCodec *pLetters = QTextCodec::codecForName(letters);
+        QVERIFY(pLetters != nullptr);
+        const QList<Entry> entries = readFile(wordsFile(language));
+        for (const Entry &entry : entries)
+            QVERIFY2(pLetters->canEncode(QString(entry.text).remove(marks)), qPrintable(entry.name));
+    }
+
+    void catchAllOfTheAddressesIsTheSameInEveryLanguage_data() { addLanguages(); }
+
+    // Client and plug-ins look the catch-all domain up under this number, whatever their language.
+    void catchAllOfTheAddressesIsTheSameInEveryLanguage()
+    {
+        QFETCH(QString, language);
+        const QList<Entry> entries = readFile(wordsFile(language));
+        const auto found = std::find_if(entries.begin(), entries.end(), [](const Entry &entry) {
+            return entry.name == QLatin1String("CUrlInfo::000000");
+        });
+        QVERIFY(found != entries.end());
+        QCOMPARE(found->text, QStringLiteral("000000"));
+    }
+
+    void wordsOfTheFormsAreInTheClientsLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QStringList>("window");
+        QTest::addColumn<QStringList>("dialog");
+
+        QTest::newRow("zh_CN") << "zh_CN" << QStringList{"邀请成员", "取消", "挂断"}
+                               << QStringList{"提示", "回复内容(100字以内)：", "组名："};
+        QTest::newRow("zh_TW") << "zh_TW" << QStringList{"邀請成員", "取消", "掛斷"}
+                               << QStringList{"提示", "回覆內容(100字以內)：", "群組名稱："};
+        QTest::newRow("en") << "en" << QStringList{"Invite", "Cancel", "Hang up"}
+                            << QStringList{"Notice", "Reply (up to 200 letters):", "Group name:"};
+    }
+
+    void wordsOfTheFormsAreInTheClientsLanguage()
+    {
+        QFETCH(QString, language);
+        HostCatalogue catalogue;
+        QVERIFY(catalogue.read(QStringLiteral(VOIP_TRANSLATIONS), language));
+        QVERIFY(QCoreApplication::installTranslator(&catalogue));
+        CVoipWidget window;
+        QTEST(wordsOf(window), "window");
+        ErrorMessage dialog(QString(), QString(), nullptr);
+        const QStringList words{dialog.windowTitle(), dialog.findChild<QLabel *>("autoReplyLabel")->text(),
+                                dialog.findChild<QLabel *>("label_group")->text()};
+        QTEST(words, "dialog");
+    }
+
+    // The client may change its language while the window is there, in the middle of a call too.
+    void callWindowFollowsTheLanguage()
+    {
+        CVoipWidget window;
+        window.setVoipCallInfo({QStringLiteral("anna")}, CVoipWidget::Voice, true, true);
+        QMetaObject::invokeMethod(window.findChild<QWidget *>("btnMic"), "clicked");
+        QMetaObject::invokeMethod(&window, "slot_WindowChangeButtonClicked");
+        auto *pClock = window.findChild<QLabel *>("currentPlayTimeLabel");
+        pClock->setText(QStringLiteral("00:01:25"));
+
+        HostCatalogue catalogue;
+        QVERIFY(catalogue.read(QStringLiteral(VOIP_TRANSLATIONS), QStringLiteral("en")));
+        QVERIFY(QCoreApplication::installTranslator(&catalogue));
+        QCoreApplication::processEvents();
+
+        QCOMPARE(wordsOf(window), (QStringList{"Invite", "Cancel", "Hang up"}));
+        QStringList tips;
+        for (const char *button : {"btnClose", "btnMic", "btnSpeaker", "btnChangeWindow"})
+            tips.append(window.findChild<QWidget *>(button)->toolTip());
+        QCOMPARE(tips, (QStringList{"Close", "Unmute the microphone", "Sound off", "Restore"}));
+        QCOMPARE(pClock->text(), QStringLiteral("00:01:25"));
+    }
+
+    void messageOfTheEngineIsInTheClientsLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("zh_CN") << "zh_CN" << QStringLiteral("提示") << QStringLiteral("正在通话中，请先结束当前通话");
+        QTest::newRow("zh_TW") << "zh_TW" << QStringLiteral("提示") << QStringLiteral("正在通話中，請先結束目前的通話");
+        QTest::newRow("en") << "en"
+                            << "Notice"
+                            << "You are in a call already. Please end it first.";
+    }
+
+    void messageOfTheEngineIsInTheClientsLanguage()
+    {
+        QFETCH(QString, language);
+        HostCatalogue catalogue;
+        QVERIFY(catalogue.read(QStringLiteral(VOIP_TRANSLATIONS), language));
+        QVERIFY(QCoreApplication::installTranslator(&catalogue));
+        EngineFixture f;
+        f.manager->callSingleUser(QStringLiteral("anna"), false);
+        f.manager->callSingleUser(QStringLiteral("bert"), false);
+        QTEST(f.boxes.titles.join('|'), "title");
+        QTEST(f.boxes.texts.join('|'), "text");
+    }
+
+    void messageOfTheEngineShowsItsKeysWithoutACatalogue()
+    {
+        EngineFixture f;
+        f.manager->callSingleUser(QStringLiteral("anna"), false);
+        f.manager->callSingleUser(QStringLiteral("bert"), false);
+        QCOMPARE(f.boxes.titles, QStringList{"tip"});
+        QCOMPARE(f.boxes.texts, QStringList{"soundfailedinsound"});
+    }
 
 private:
-    static void addLanguages();
+    static void addLanguages()
+    {
+        QTest::addColumn<QString>("language");
+
+        for (const HostLanguage::Choice &choice : HostLanguage::choices())
+            QTest::newRow(qPrintable(choice.setting)) << choice.setting;
+    }
 
     QList<Entry> m_wanted;
 };
-
-void tst_Translations::initTestCase()
-{
-    const QTemporaryDir folder;
-    const QString strFound = folder.filePath(QStringLiteral("found.ts"));
-    QFile list(folder.filePath(QStringLiteral("files.lst")));
-    QVERIFY(list.open(QIODevice::WriteOnly));
-    list.write(sourceFiles().join(QLatin1Char('\n')).toUtf8());
-    list.close();
-    QCOMPARE(QProcess::execute(QStringLiteral(VOIP_LUPDATE), {"-silent", "@" + list.fileName(), "-ts", strFound}), 0);
-    m_wanted = readFile(strFound);
-    // One of each way in which a key can stand in the sources: a class's own, another's, in a table, in a list, in a
-    // form of the plug-in.
-    const QStringList names = namesOf(m_wanted);
-    for (const char *known :
-         {"CVoipWidget::beSureToCloseCalling", "QObject::yesterday", "QObject::yourHotKeyUsedAndRevise",
-          "QObject::ThemeGreen", "CVoipWidget::挂断", "ErrorMessage::组名：",
-          // The client's own words, of a form, of a source and of a table.
-          "SettingsPage::Language", "MainWindow::Signed out", "Presence::away"})
-        QVERIFY2(names.contains(QString::fromUtf8(known)), known);
-}
-
-void tst_Translations::addLanguages()
-{
-    QTest::addColumn<QString>("language");
-
-    for (const HostLanguage::Choice &choice : HostLanguage::choices())
-        QTest::newRow(qPrintable(choice.setting)) << choice.setting;
-}
-
-void tst_Translations::everyKeyOfTheSourcesAndNoOtherHasATranslation_data()
-{
-    addLanguages();
-}
-
-void tst_Translations::everyKeyOfTheSourcesAndNoOtherHasATranslation()
-{
-    QFETCH(QString, language);
-    const QList<Entry> entries = readFile(wordsFile(language));
-    const QStringList names = namesOf(entries);
-    const QStringList wanted = namesOf(m_wanted);
-    QCOMPARE(without(wanted, names), QString());
-    QCOMPARE(without(names, wanted), QString());
-    QCOMPARE(names, wanted);
-    for (const Entry &entry : entries)
-        QVERIFY2(!entry.text.trimmed().isEmpty(), qPrintable(entry.name));
-}
-
-void tst_Translations::compiledCatalogueGivesTheTexts_data()
-{
-    addLanguages();
-}
-
-void tst_Translations::compiledCatalogueGivesTheTexts()
-{
-    QFETCH(QString, language);
-    HostCatalogue catalogue;
-    QVERIFY(catalogue.read(QStringLiteral(VOIP_TRANSLATIONS), language));
-    QVERIFY(QCoreApplication::installTranslator(&catalogue));
-    const QList<Entry> entries = readFile(wordsFile(language));
-    for (const Entry &entry : entries) {
-        const QByteArray context = entry.name.section(QStringLiteral("::"), 0, 0).toUtf8();
-        const QByteArray key = entry.name.section(QStringLiteral("::"), 1).toUtf8();
-        QCOMPARE(QCoreApplication::translate(context.constData(), key.constData()), entry.text);
-    }
-}
-
-void tst_Translations::chineseTextsAreChinese_data()
-{
-    QTest::addColumn<QString>("language");
-
-    QTest::newRow("zh_CN") << "zh_CN";
-    QTest::newRow("zh_TW") << "zh_TW";
-}
-
-void tst_Translations::chineseTextsAreChinese()
-{
-    QFETCH(QString, language);
-    // A number that is compared, the name of the client, and a clock.
-    const QStringList sameEverywhere = {"CUrlInfo::000000", "QObject::tarvoShowName", "CVoipWidget::00:00"};
-    const QRegularExpression chinese(QStringLiteral("[\u3002\u4e00-\u9fa5]"));
-    const QList<Entry> entries = readFile(wordsFile(language));
-    for (const Entry &entry : entries)
-        QVERIFY2(sameEverywhere.contains(entry.name) || entry.text.contains(chinese), qPrintable(entry.name));
-}
-
-void tst_Translations::textsAreWrittenInTheirLanguagesLetters_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QByteArray>("letters");
-
-    // The character sets of the countries: each lacks what only the other one writes, the last has no Chinese at all.
-    QTest::newRow("zh_CN") << "zh_CN" << QByteArray("GB2312");
-    QTest::newRow("zh_TW") << "zh_TW" << QByteArray("Big5");
-    QTest::newRow("en") << "en" << QByteArray("ISO-8859-1");
-}
-
-void tst_Translations::textsAreWrittenInTheirLanguagesLetters()
-{
-    QFETCH(QString, language);
-    QFETCH(QByteArray, letters);
-    // Marks that stand in texts of all languages.
-    static const QRegularExpression marks(QStringLiteral("[\u2010-\u21ff]"));
-    QTextCodec *pLetters = QTextCodec::codecForName(letters);
-    QVERIFY(pLetters != nullptr);
-    const QList<Entry> entries = readFile(wordsFile(language));
-    for (const Entry &entry : entries)
-        QVERIFY2(pLetters->canEncode(QString(entry.text).remove(marks)), qPrintable(entry.name));
-}
-
-void tst_Translations::catchAllOfTheAddressesIsTheSameInEveryLanguage_data()
-{
-    addLanguages();
-}
-
-// Client and plug-ins look the catch-all domain up under this number, whatever their language.
-void tst_Translations::catchAllOfTheAddressesIsTheSameInEveryLanguage()
-{
-    QFETCH(QString, language);
-    const QList<Entry> entries = readFile(wordsFile(language));
-    const auto found = std::find_if(entries.begin(), entries.end(),
-                                    [](const Entry &entry) { return entry.name == QLatin1String("CUrlInfo::000000"); });
-    QVERIFY(found != entries.end());
-    QCOMPARE(found->text, QStringLiteral("000000"));
-}
-
-void tst_Translations::wordsOfTheFormsAreInTheClientsLanguage_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QStringList>("window");
-    QTest::addColumn<QStringList>("dialog");
-
-    QTest::newRow("zh_CN") << "zh_CN" << QStringList{"邀请成员", "取消", "挂断"}
-                           << QStringList{"提示", "回复内容(100字以内)：", "组名："};
-    QTest::newRow("zh_TW") << "zh_TW" << QStringList{"邀請成員", "取消", "掛斷"}
-                           << QStringList{"提示", "回覆內容(100字以內)：", "群組名稱："};
-    QTest::newRow("en") << "en" << QStringList{"Invite", "Cancel", "Hang up"}
-                        << QStringList{"Notice", "Reply (up to 200 letters):", "Group name:"};
-}
-
-void tst_Translations::wordsOfTheFormsAreInTheClientsLanguage()
-{
-    QFETCH(QString, language);
-    HostCatalogue catalogue;
-    QVERIFY(catalogue.read(QStringLiteral(VOIP_TRANSLATIONS), language));
-    QVERIFY(QCoreApplication::installTranslator(&catalogue));
-    CVoipWidget window;
-    QTEST(wordsOf(window), "window");
-    ErrorMessage dialog(QString(), QString(), nullptr);
-    const QStringList words{dialog.windowTitle(), dialog.findChild<QLabel *>("autoReplyLabel")->text(),
-                            dialog.findChild<QLabel *>("label_group")->text()};
-    QTEST(words, "dialog");
-}
-
-// The client may change its language while the window is there, in the middle of a call too.
-void tst_Translations::callWindowFollowsTheLanguage()
-{
-    CVoipWidget window;
-    window.setVoipCallInfo({QStringLiteral("anna")}, CVoipWidget::Voice, true, true);
-    QMetaObject::invokeMethod(window.findChild<QWidget *>("btnMic"), "clicked");
-    QMetaObject::invokeMethod(&window, "slot_WindowChangeButtonClicked");
-    auto *pClock = window.findChild<QLabel *>("currentPlayTimeLabel");
-    pClock->setText(QStringLiteral("00:01:25"));
-
-    HostCatalogue catalogue;
-    QVERIFY(catalogue.read(QStringLiteral(VOIP_TRANSLATIONS), QStringLiteral("en")));
-    QVERIFY(QCoreApplication::installTranslator(&catalogue));
-    QCoreApplication::processEvents();
-
-    QCOMPARE(wordsOf(window), (QStringList{"Invite", "Cancel", "Hang up"}));
-    QStringList tips;
-    for (const char *button : {"btnClose", "btnMic", "btnSpeaker", "btnChangeWindow"})
-        tips.append(window.findChild<QWidget *>(button)->toolTip());
-    QCOMPARE(tips, (QStringList{"Close", "Unmute the microphone", "Sound off", "Restore"}));
-    QCOMPARE(pClock->text(), QStringLiteral("00:01:25"));
-}
-
-void tst_Translations::messageOfTheEngineIsInTheClientsLanguage_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("zh_CN") << "zh_CN" << QStringLiteral("提示") << QStringLiteral("正在通话中，请先结束当前通话");
-    QTest::newRow("zh_TW") << "zh_TW" << QStringLiteral("提示") << QStringLiteral("正在通話中，請先結束目前的通話");
-    QTest::newRow("en") << "en"
-                        << "Notice"
-                        << "You are in a call already. Please end it first.";
-}
-
-void tst_Translations::messageOfTheEngineIsInTheClientsLanguage()
-{
-    QFETCH(QString, language);
-    HostCatalogue catalogue;
-    QVERIFY(catalogue.read(QStringLiteral(VOIP_TRANSLATIONS), language));
-    QVERIFY(QCoreApplication::installTranslator(&catalogue));
-    EngineFixture f;
-    f.manager->callSingleUser(QStringLiteral("anna"), false);
-    f.manager->callSingleUser(QStringLiteral("bert"), false);
-    QTEST(f.boxes.titles.join('|'), "title");
-    QTEST(f.boxes.texts.join('|'), "text");
-}
-
-void tst_Translations::messageOfTheEngineShowsItsKeysWithoutACatalogue()
-{
-    EngineFixture f;
-    f.manager->callSingleUser(QStringLiteral("anna"), false);
-    f.manager->callSingleUser(QStringLiteral("bert"), false);
-    QCOMPARE(f.boxes.titles, QStringList{"tip"});
-    QCOMPARE(f.boxes.texts, QStringList{"soundfailedinsound"});
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_Translations, Widgets)

@@ -11,42 +11,35 @@ class tst_TraceFolder : public QObject
 private slots:
     void init() { qunsetenv("VOIPSDK_TRACE"); }
     void cleanup() { qunsetenv("VOIPSDK_TRACE"); }
-    void withoutAFolderThereIsNothingToFollow();
-    void folderIsThereUntilItsEnd();
-    void placeOfTheEnvironmentStays();
-    void standardErrorIsNotFollowed();
-};
 
-void tst_TraceFolder::withoutAFolderThereIsNothingToFollow()
-{
-    QCOMPARE(TraceFolder::file(), QString());
-}
+    void withoutAFolderThereIsNothingToFollow() { QCOMPARE(TraceFolder::file(), QString()); }
 
-void tst_TraceFolder::folderIsThereUntilItsEnd()
-{
-    QString folder;
+    void folderIsThereUntilItsEnd()
     {
-        const TraceFolder traces;
-        folder = QFileInfo(TraceFolder::file()).path();
-        QVERIFY(QFileInfo(folder).isAbsolute());
-        QVERIFY(QDir(folder).exists());
+        QString folder;
+        {
+            const TraceFolder traces;
+            folder = QFileInfo(TraceFolder::file()).path();
+            QVERIFY(QFileInfo(folder).isAbsolute());
+            QVERIFY(QDir(folder).exists());
+        }
+        QVERIFY(!QDir(folder).exists());
     }
-    QVERIFY(!QDir(folder).exists());
-}
 
-void tst_TraceFolder::placeOfTheEnvironmentStays()
-{
-    qputenv("VOIPSDK_TRACE", "/some/where.txt");
-    const TraceFolder traces;
-    QCOMPARE(TraceFolder::file(), QStringLiteral("/some/where.txt"));
-}
+    void placeOfTheEnvironmentStays()
+    {
+        qputenv("VOIPSDK_TRACE", "/some/where.txt");
+        const TraceFolder traces;
+        QCOMPARE(TraceFolder::file(), QStringLiteral("/some/where.txt"));
+    }
 
-void tst_TraceFolder::standardErrorIsNotFollowed()
-{
-    qputenv("VOIPSDK_TRACE", "-");
-    const TraceFolder traces;
-    QCOMPARE(TraceFolder::file(), QString());
-}
+    void standardErrorIsNotFollowed()
+    {
+        qputenv("VOIPSDK_TRACE", "-");
+        const TraceFolder traces;
+        QCOMPARE(TraceFolder::file(), QString());
+    }
+};
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_TraceFolder, Guiless)

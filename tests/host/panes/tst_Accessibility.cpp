@@ -19,19 +19,123 @@ class tst_Accessibility : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void everythingThatTakesTheFocusHasAName_data();
-    void everythingThatTakesTheFocusHasAName();
-    void aLetterBelongsToOneControl_data();
-    void aLetterBelongsToOneControl();
-    void buttonsHaveRoomForTheirWords_data();
-    void buttonsHaveRoomForTheirWords();
-    void everyControlOfTheWindowIsReachedByTab();
+    void initTestCase() { QAccessible::setActive(true); }
+
+    void init()
+    {
+        m_pLanguage = std::make_unique<HostLanguage>(QStringLiteral(VOIP_TRANSLATIONS));
+        m_pSession = std::make_unique<HostSession>(m_book);
+        QString error;
+        m_pSession->start(QStringLiteral("/no/module.so"), &error);
+        m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
+        if (QTest::currentDataTag() != nullptr) {
+            QVERIFY(m_pLanguage->use(QLatin1String(QTest::currentDataTag())));
+            m_pWindow->findChild<QAbstractButton *>(QStringLiteral("happeningsButton"))->setChecked(true);
+        }
+        CallRecord record;
+        record.uid = QStringLiteral("30010001");
+        emit m_pSession->mailbox().callFinished(record);
+        m_pPicker = std::make_unique<MemberPicker>(m_book, MemberPicker::NewConference, QStringList(), nullptr);
+        m_pWindow->prompt().prompt(QStringLiteral("30010002"), false, false);
+        m_pWindow->signature().showCard(QStringLiteral("30010002@example.org"), QPoint(300, 0), 100);
+        for (QWidget *window : windows()) {
+            window->show();
+            QVERIFY(QTest::qWaitForWindowExposed(window, kPatienceMs));
+        }
+        m_pWindow->settingsPage().open();
+        QCoreApplication::processEvents();
+    }
+
+    void cleanup()
+    {
+        m_pPicker.reset();
+        m_pWindow.reset();
+        m_pSession.reset();
+        m_pLanguage.reset();
+    }
+
+    void everythingThatTakesTheFocusHasAName_data() { addLanguages(); }
+
+    void everythingThatTakesTheFocusHasAName()
+    {
+        int found = 0;
+        for (const QWidget *window : windows()) {
+            const QList<QWidget *> parts = window->findChildren<QWidget *>();
+            for (QWidget *part : parts) {
+                if (part->focusPolicy() == Qt::NoFocus || !part->isVisible())
+                    continue;
+                ++found;
+                const QAccessibleInterface *face = QAccessible::queryAccessibleInterface(part);
+                QVERIFY2(face != nullptr && !face->text(QAccessible::Name).trimmed().isEmpty(),
+                         qPrintable(nameOf(part)));
+            }
+        }
+        // Contacts with their buttons, the search, a number, header, records, what happens, prompt, settings and
+        // picker.
+        QVERIFY2(found >= 40, qPrintable(QString::number(found)));
+    }
+
+    void aLetterBelongsToOneControl_data() { addLanguages(); }
+
+    void aLetterBelongsToOneControl()
+    {
+        static const QRegularExpression mark(QStringLiteral("&([^&])"));
+        int letters = 0;
+        for (const QWidget *window : windows()) {
+            QMap<QString, QString> owners;
+            const QList<QWidget *> parts = window->findChildren<QWidget *>();
+            for (const QWidget *part : parts) {
+                const auto *label = qobject_cast<const QLabel *>(part);
+                if (!part->isVisible() || part->window() != window || (label != nullptr && label->buddy() == nullptr))
+                    continue;
+                const QRegularExpressionMatch match = mark.match(part->property("text").toString());
+                if (!match.hasMatch())
+                    continue;
+                ++letters;
+                const QString letter = match.captured(1).toUpper();
+                QVERIFY2(!owners.contains(letter),
+                         qPrintable(letter + ": " + nameOf(part) + ", " + owners.value(letter)));
+                owners.insert(letter, nameOf(part));
+            }
+        }
+        QVERIFY2(letters >= 10, qPrintable(QString::number(letters)));
+    }
+
+    void buttonsHaveRoomForTheirWords_data() { addLanguages(); }
+
+    void buttonsHaveRoomForTheirWords()
+    {
+        for (const QWidget *window : windows()) {
+            const QList<QAbstractButton *> buttons = window->findChildren<QAbstractButton *>();
+            for (const QAbstractButton *button : buttons)
+                if (button->isVisible() && !button->text().isEmpty())
+                    QVERIFY2(button->width() >= button->minimumSizeHint().width(), qPrintable(nameOf(button)));
+        }
+    }
+
+    void everyControlOfTheWindowIsReachedByTab()
+    {
+        m_pWindow->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+        m_pWindow->findChild<QWidget *>(QStringLiteral("editSearch"))->setFocus();
+        QStringList stops;
+        for (int i = 0; i < 10; ++i) {
+            stops.append(m_pWindow->focusWidget()->objectName());
+            QTest::keyClick(m_pWindow->focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(stops, (QStringList{"editSearch", "30010001", "btnCall", "btnVideo", "editNumber", "btnConference",
+                                     "btnCentre", "tableRecords", "happeningsButton", "btnSettings"}));
+        QCOMPARE(m_pWindow->focusWidget()->objectName(), QStringLiteral("btnOnline"));
+    }
 
 private:
-    static void addLanguages();
+    static void addLanguages()
+    {
+        QTest::addColumn<QString>("language");
+        for (const HostLanguage::Choice &choice : HostLanguage::choices())
+            QTest::newRow(qPrintable(choice.setting)) << choice.setting;
+    }
+
     /// The windows, all shown.
     QList<QWidget *> windows() const
     {
@@ -51,131 +155,6 @@ private:
     std::unique_ptr<MainWindow> m_pWindow;
     std::unique_ptr<MemberPicker> m_pPicker;
 };
-
-void tst_Accessibility::initTestCase()
-{
-    QAccessible::setActive(true);
-}
-
-void tst_Accessibility::addLanguages()
-{
-    QTest::addColumn<QString>("language");
-    for (const HostLanguage::Choice &choice : HostLanguage::choices())
-        QTest::newRow(qPrintable(choice.setting)) << choice.setting;
-}
-
-void tst_Accessibility::init()
-{
-    m_pLanguage = std::make_unique<HostLanguage>(QStringLiteral(VOIP_TRANSLATIONS));
-    m_pSession = std::make_unique<HostSession>(m_book);
-    QString error;
-    m_pSession->start(QStringLiteral("/no/module.so"), &error);
-    m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
-    if (QTest::currentDataTag() != nullptr) {
-        QVERIFY(m_pLanguage->use(QLatin1String(QTest::currentDataTag())));
-        m_pWindow->findChild<QAbstractButton *>(QStringLiteral("happeningsButton"))->setChecked(true);
-    }
-    CallRecord record;
-    record.uid = QStringLiteral("30010001");
-    emit m_pSession->mailbox().callFinished(record);
-    m_pPicker = std::make_unique<MemberPicker>(m_book, MemberPicker::NewConference, QStringList(), nullptr);
-    m_pWindow->prompt().prompt(QStringLiteral("30010002"), false, false);
-    m_pWindow->signature().showCard(QStringLiteral("30010002@example.org"), QPoint(300, 0), 100);
-    for (QWidget *window : windows()) {
-        window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window, kPatienceMs));
-    }
-    m_pWindow->settingsPage().open();
-    QCoreApplication::processEvents();
-}
-
-void tst_Accessibility::cleanup()
-{
-    m_pPicker.reset();
-    m_pWindow.reset();
-    m_pSession.reset();
-    m_pLanguage.reset();
-}
-
-void tst_Accessibility::everythingThatTakesTheFocusHasAName_data()
-{
-    addLanguages();
-}
-
-void tst_Accessibility::everythingThatTakesTheFocusHasAName()
-{
-    int found = 0;
-    for (const QWidget *window : windows()) {
-        const QList<QWidget *> parts = window->findChildren<QWidget *>();
-        for (QWidget *part : parts) {
-            if (part->focusPolicy() == Qt::NoFocus || !part->isVisible())
-                continue;
-            ++found;
-            const QAccessibleInterface *face = QAccessible::queryAccessibleInterface(part);
-            QVERIFY2(face != nullptr && !face->text(QAccessible::Name).trimmed().isEmpty(), qPrintable(nameOf(part)));
-        }
-    }
-    // Contacts with their buttons, the search, a number, header, records, what happens, prompt, settings and picker.
-    QVERIFY2(found >= 40, qPrintable(QString::number(found)));
-}
-
-void tst_Accessibility::aLetterBelongsToOneControl_data()
-{
-    addLanguages();
-}
-
-void tst_Accessibility::aLetterBelongsToOneControl()
-{
-    static const QRegularExpression mark(QStringLiteral("&([^&])"));
-    int letters = 0;
-    for (const QWidget *window : windows()) {
-        QMap<QString, QString> owners;
-        const QList<QWidget *> parts = window->findChildren<QWidget *>();
-        for (const QWidget *part : parts) {
-            const auto *label = qobject_cast<const QLabel *>(part);
-            if (!part->isVisible() || part->window() != window || (label != nullptr && label->buddy() == nullptr))
-                continue;
-            const QRegularExpressionMatch match = mark.match(part->property("text").toString());
-            if (!match.hasMatch())
-                continue;
-            ++letters;
-            const QString letter = match.captured(1).toUpper();
-            QVERIFY2(!owners.contains(letter), qPrintable(letter + ": " + nameOf(part) + ", " + owners.value(letter)));
-            owners.insert(letter, nameOf(part));
-        }
-    }
-    QVERIFY2(letters >= 10, qPrintable(QString::number(letters)));
-}
-
-void tst_Accessibility::buttonsHaveRoomForTheirWords_data()
-{
-    addLanguages();
-}
-
-void tst_Accessibility::buttonsHaveRoomForTheirWords()
-{
-    for (const QWidget *window : windows()) {
-        const QList<QAbstractButton *> buttons = window->findChildren<QAbstractButton *>();
-        for (const QAbstractButton *button : buttons)
-            if (button->isVisible() && !button->text().isEmpty())
-                QVERIFY2(button->width() >= button->minimumSizeHint().width(), qPrintable(nameOf(button)));
-    }
-}
-
-void tst_Accessibility::everyControlOfTheWindowIsReachedByTab()
-{
-    m_pWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
-    m_pWindow->findChild<QWidget *>(QStringLiteral("editSearch"))->setFocus();
-    QStringList stops;
-    for (int i = 0; i < 10; ++i) {
-        stops.append(m_pWindow->focusWidget()->objectName());
-        QTest::keyClick(m_pWindow->focusWidget(), Qt::Key_Tab);
-    }
-    QCOMPARE(stops, (QStringList{"editSearch", "30010001", "btnCall", "btnVideo", "editNumber", "btnConference",
-                                 "btnCentre", "tableRecords", "happeningsButton", "btnSettings"}));
-    QCOMPARE(m_pWindow->focusWidget()->objectName(), QStringLiteral("btnOnline"));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_Accessibility, Widgets)

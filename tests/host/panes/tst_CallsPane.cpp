@@ -13,13 +13,75 @@ class tst_CallsPane : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void withoutRecordsItSaysSo();
-    void doubleClickCallsAgain();
-    void enterCallsTheChosenRecordAgain();
-    void focusChoosesTheNewestRecord();
-    void clickAloneCallsNobody();
-    void tabLeavesTheTable();
+    void init()
+    {
+        m_pPane.reset();
+        m_pModel = std::make_unique<CallRecordModel>(m_book);
+        m_pPane = std::make_unique<CallsPane>();
+        m_pPane->setModel(m_pModel.get());
+        m_pPane->resize(640, 400);
+        m_pPane->show();
+        m_pPane->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pPane.get(), kPatienceMs));
+        m_pTable = m_pPane->findChild<QTableView *>();
+    }
+
+    void withoutRecordsItSaysSo()
+    {
+        QCOMPARE(WindowProbe::text(m_pPane.get(), "lblNoCalls"), QStringLiteral("No calls yet"));
+        add("30010001", false);
+        QVERIFY(!WindowProbe::isShown(m_pPane.get(), "lblNoCalls"));
+        QVERIFY(m_pTable->isVisible());
+    }
+
+    void doubleClickCallsAgain()
+    {
+        add("30010001", true);
+        add("30010002", false);
+        QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
+        QTest::mouseClick(m_pTable->viewport(), Qt::LeftButton, Qt::NoModifier, middle(1));
+        QTest::mouseDClick(m_pTable->viewport(), Qt::LeftButton, Qt::NoModifier, middle(1));
+        QCOMPARE(called.count(), 1);
+        QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), true}));
+    }
+
+    void enterCallsTheChosenRecordAgain()
+    {
+        add("30010001", false);
+        add("30010002", false);
+        QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
+        m_pTable->setFocus();
+        QTest::keyClick(m_pTable, Qt::Key_Down);
+        QTest::keyClick(m_pTable, Qt::Key_Return);
+        QCOMPARE(called.count(), 1);
+        QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), false}));
+    }
+
+    void focusChoosesTheNewestRecord()
+    {
+        add("30010001", false);
+        add("30010002", false);
+        QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
+        m_pTable->setFocus();
+        QTest::keyClick(m_pTable, Qt::Key_Enter);
+        QCOMPARE(called.value(0), (QList<QVariant>{QStringLiteral("30010002"), false}));
+    }
+
+    void clickAloneCallsNobody()
+    {
+        add("30010001", false);
+        QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
+        QTest::mouseClick(m_pTable->viewport(), Qt::LeftButton, Qt::NoModifier, middle(0));
+        QCOMPARE(called.count(), 0);
+    }
+
+    void tabLeavesTheTable()
+    {
+        add("30010001", false);
+        m_pTable->setFocus();
+        QTest::keyClick(m_pTable, Qt::Key_Tab);
+        QCOMPARE(m_pPane->focusWidget()->objectName(), QStringLiteral("btnCentre"));
+    }
 
 private:
     void add(const char *strUid, bool bVideo)
@@ -36,76 +98,6 @@ private:
     std::unique_ptr<CallsPane> m_pPane;
     QTableView *m_pTable = nullptr;
 };
-
-void tst_CallsPane::init()
-{
-    m_pPane.reset();
-    m_pModel = std::make_unique<CallRecordModel>(m_book);
-    m_pPane = std::make_unique<CallsPane>();
-    m_pPane->setModel(m_pModel.get());
-    m_pPane->resize(640, 400);
-    m_pPane->show();
-    m_pPane->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pPane.get(), kPatienceMs));
-    m_pTable = m_pPane->findChild<QTableView *>();
-}
-
-void tst_CallsPane::withoutRecordsItSaysSo()
-{
-    QCOMPARE(WindowProbe::text(m_pPane.get(), "lblNoCalls"), QStringLiteral("No calls yet"));
-    add("30010001", false);
-    QVERIFY(!WindowProbe::isShown(m_pPane.get(), "lblNoCalls"));
-    QVERIFY(m_pTable->isVisible());
-}
-
-void tst_CallsPane::doubleClickCallsAgain()
-{
-    add("30010001", true);
-    add("30010002", false);
-    QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
-    QTest::mouseClick(m_pTable->viewport(), Qt::LeftButton, Qt::NoModifier, middle(1));
-    QTest::mouseDClick(m_pTable->viewport(), Qt::LeftButton, Qt::NoModifier, middle(1));
-    QCOMPARE(called.count(), 1);
-    QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), true}));
-}
-
-void tst_CallsPane::enterCallsTheChosenRecordAgain()
-{
-    add("30010001", false);
-    add("30010002", false);
-    QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
-    m_pTable->setFocus();
-    QTest::keyClick(m_pTable, Qt::Key_Down);
-    QTest::keyClick(m_pTable, Qt::Key_Return);
-    QCOMPARE(called.count(), 1);
-    QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), false}));
-}
-
-void tst_CallsPane::focusChoosesTheNewestRecord()
-{
-    add("30010001", false);
-    add("30010002", false);
-    QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
-    m_pTable->setFocus();
-    QTest::keyClick(m_pTable, Qt::Key_Enter);
-    QCOMPARE(called.value(0), (QList<QVariant>{QStringLiteral("30010002"), false}));
-}
-
-void tst_CallsPane::clickAloneCallsNobody()
-{
-    add("30010001", false);
-    QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
-    QTest::mouseClick(m_pTable->viewport(), Qt::LeftButton, Qt::NoModifier, middle(0));
-    QCOMPARE(called.count(), 0);
-}
-
-void tst_CallsPane::tabLeavesTheTable()
-{
-    add("30010001", false);
-    m_pTable->setFocus();
-    QTest::keyClick(m_pTable, Qt::Key_Tab);
-    QCOMPARE(m_pPane->focusWidget()->objectName(), QStringLiteral("btnCentre"));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_CallsPane, Widgets)

@@ -16,30 +16,208 @@ class tst_ContactPane : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void everyRowTellsThePresence();
-    void typedTextLeavesTheContactsThatItFinds();
-    void noMatchIsSaid();
-    void escapeEmptiesTheSearch();
-    void clearButtonEmptiesTheSearch();
-    void downLeadsToTheFirstContactFound();
-    void returnLeadsIntoTheListToo();
-    void downWithoutAMatchStaysInTheField();
-    void arrowsGoFromRowToRow();
-    void hiddenRowsArePassedOver();
-    void upFromTheFirstRowLeadsBackToTheField();
-    void tabStopsAtOneRowAndItsButtons();
-    void enterCallsTheRow();
-    void enterOnAButtonPressesIt_data();
-    void enterOnAButtonPressesIt();
-    void arrowsOnAButtonGoToTheNextRow();
-    void clickMakesTheRowTheTabStop();
-    void rowWithTheFocusIsScrolledIntoView();
-    void numberIsCalledByReturn();
+    void init()
+    {
+        m_pPane = std::make_unique<ContactPane>();
+        m_pPane->fill(m_book);
+        m_pPane->resize(380, 640);
+        m_pPane->show();
+        m_pPane->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pPane.get(), kPatienceMs));
+        m_pSearch = m_pPane->findChild<QLineEdit *>(QStringLiteral("editSearch"));
+        m_pPane->startSearch();
+    }
+
+    void cleanup() { m_pPane.reset(); }
+
+    void everyRowTellsThePresence()
+    {
+        QCOMPARE(WindowProbe::text(row("30010001"), "lblPresence"), QStringLiteral("online"));
+        QCOMPARE(WindowProbe::text(row("30010004"), "lblPresence"), QStringLiteral("away"));
+        QCOMPARE(WindowProbe::text(row("30010005"), "lblPresence"), QStringLiteral("offline"));
+        QCOMPARE(row("30010002")->accessibleName(), QStringLiteral("Maria Silva, busy"));
+        QCOMPARE(row("30010002")->accessibleDescription(), QStringLiteral("30010002 · Busy"));
+    }
+
+    void typedTextLeavesTheContactsThatItFinds()
+    {
+        QCOMPARE(shownRows().size(), m_book.entries().size());
+        QTest::keyClicks(m_pSearch, QStringLiteral("wf"));
+        QCOMPARE(shownRows(), QStringList{"30010003"});
+        QVERIFY(!WindowProbe::isShown(m_pPane.get(), "lblNoMatch"));
+    }
+
+    void noMatchIsSaid()
+    {
+        QTest::keyClicks(m_pSearch, QStringLiteral("zzz"));
+        QCOMPARE(shownRows(), QStringList());
+        QCOMPARE(WindowProbe::text(m_pPane.get(), "lblNoMatch"), QStringLiteral("No contact matches"));
+    }
+
+    void escapeEmptiesTheSearch()
+    {
+        QTest::keyClicks(m_pSearch, QStringLiteral("zzz"));
+        press(Qt::Key_Escape);
+        QVERIFY(m_pSearch->text().isEmpty());
+        QCOMPARE(shownRows().size(), m_book.entries().size());
+        QCOMPARE(focus(), QStringLiteral("editSearch"));
+    }
+
+    void clearButtonEmptiesTheSearch()
+    {
+        QTest::keyClicks(m_pSearch, QStringLiteral("zzz"));
+        auto *button = m_pSearch->findChild<QToolButton *>(QStringLiteral("btnClearSearch"));
+        QCOMPARE(button->accessibleName(), QStringLiteral("Clear the search"));
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(m_pSearch->text().isEmpty());
+        QCOMPARE(shownRows().size(), m_book.entries().size());
+    }
+
+    void downLeadsToTheFirstContactFound()
+    {
+        QTest::keyClicks(m_pSearch, QStringLiteral("an"));
+        press(Qt::Key_Down);
+        QCOMPARE(focus(), QStringLiteral("30010006"));
+    }
+
+    void returnLeadsIntoTheListToo()
+    {
+        QTest::keyClicks(m_pSearch, QStringLiteral("wf"));
+        press(Qt::Key_Return);
+        QCOMPARE(focus(), QStringLiteral("30010003"));
+    }
+
+    void downWithoutAMatchStaysInTheField()
+    {
+        QTest::keyClicks(m_pSearch, QStringLiteral("zzz"));
+        press(Qt::Key_Down);
+        QCOMPARE(focus(), QStringLiteral("editSearch"));
+    }
+
+    void arrowsGoFromRowToRow()
+    {
+        press(Qt::Key_Down);
+        QCOMPARE(focus(), QStringLiteral("30010001"));
+        press(Qt::Key_Down);
+        QCOMPARE(focus(), QStringLiteral("30010002"));
+        press(Qt::Key_End);
+        QCOMPARE(focus(), QStringLiteral("30010010"));
+        press(Qt::Key_Down);
+        QCOMPARE(focus(), QStringLiteral("30010010"));
+        press(Qt::Key_Up);
+        QCOMPARE(focus(), QStringLiteral("30010009"));
+        press(Qt::Key_Home);
+        QCOMPARE(focus(), QStringLiteral("30010001"));
+    }
+
+    void hiddenRowsArePassedOver()
+    {
+        QTest::keyClicks(m_pSearch, QStringLiteral("ar"));
+        QCOMPARE(shownRows(), (QStringList{"30010002", "30010010"}));
+        press(Qt::Key_Down);
+        press(Qt::Key_Down);
+        QCOMPARE(focus(), QStringLiteral("30010010"));
+    }
+
+    void upFromTheFirstRowLeadsBackToTheField()
+    {
+        press(Qt::Key_Down);
+        press(Qt::Key_Up);
+        QCOMPARE(focus(), QStringLiteral("editSearch"));
+    }
+
+    void tabStopsAtOneRowAndItsButtons()
+    {
+        press(Qt::Key_Down);
+        press(Qt::Key_Down);
+        QStringList stops;
+        for (int i = 0; i < 6; ++i) {
+            stops.append(focus());
+            press(Qt::Key_Tab);
+        }
+        QCOMPARE(stops, (QStringList{"30010002", "btnCall", "btnVideo", "editNumber", "btnConference", "editSearch"}));
+    }
+
+    void enterCallsTheRow()
+    {
+        QSignalSpy called(m_pPane.get(), &ContactPane::callWanted);
+        press(Qt::Key_Down);
+        press(Qt::Key_Return);
+        QCOMPARE(called.count(), 1);
+        QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), false}));
+    }
+
+    void enterOnAButtonPressesIt_data()
+    {
+        QTest::addColumn<int>("tabs");
+        QTest::addColumn<bool>("video");
+        QTest::newRow("call") << 1 << false;
+        QTest::newRow("video call") << 2 << true;
+    }
+
+    void enterOnAButtonPressesIt()
+    {
+        QFETCH(int, tabs);
+        QFETCH(bool, video);
+        QSignalSpy called(m_pPane.get(), &ContactPane::callWanted);
+        press(Qt::Key_Down);
+        for (int i = 0; i < tabs; ++i)
+            press(Qt::Key_Tab);
+        press(Qt::Key_Return);
+        QCOMPARE(called.count(), 1);
+        QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), video}));
+    }
+
+    void arrowsOnAButtonGoToTheNextRow()
+    {
+        press(Qt::Key_Down);
+        press(Qt::Key_Tab);
+        QCOMPARE(focus(), QStringLiteral("btnCall"));
+        press(Qt::Key_Down);
+        QCOMPARE(focus(), QStringLiteral("30010002"));
+    }
+
+    void clickMakesTheRowTheTabStop()
+    {
+        QTest::mouseClick(row("30010003"), Qt::LeftButton);
+        QCOMPARE(focus(), QStringLiteral("30010003"));
+        QCOMPARE(row("30010003")->focusPolicy(), Qt::StrongFocus);
+        QCOMPARE(row("30010001")->focusPolicy(), Qt::ClickFocus);
+    }
+
+    void rowWithTheFocusIsScrolledIntoView()
+    {
+        m_pPane->resize(380, 300);
+        QTRY_VERIFY_WITH_TIMEOUT(row("30010010")->visibleRegion().isEmpty(), kPatienceMs);
+        press(Qt::Key_Down);
+        press(Qt::Key_End);
+        QTRY_COMPARE_WITH_TIMEOUT(row("30010010")->visibleRegion().boundingRect(), row("30010010")->rect(),
+                                  kPatienceMs);
+    }
+
+    void numberIsCalledByReturn()
+    {
+        QSignalSpy called(m_pPane.get(), &ContactPane::callWanted);
+        auto *number = m_pPane->findChild<QLineEdit *>(QStringLiteral("editNumber"));
+        QTest::keyClicks(number, QStringLiteral(" "));
+        QTest::keyClick(number, Qt::Key_Return);
+        QCOMPARE(called.count(), 0);
+        QTest::keyClicks(number, QStringLiteral("4711"));
+        QTest::keyClick(number, Qt::Key_Return);
+        QCOMPARE(called.value(0), (QList<QVariant>{QStringLiteral("4711"), false}));
+        QVERIFY(number->text().isEmpty());
+    }
 
 private:
-    QStringList shownRows() const;
+    QStringList shownRows() const
+    {
+        QStringList shown;
+        for (const ContactBook::Entry &entry : m_book.entries())
+            if (WindowProbe::isShown(m_pPane.get(), qPrintable(entry.uid)))
+                shown.append(entry.uid);
+        return shown;
+    }
+
     void press(Qt::Key key) { QTest::keyClick(m_pPane->window()->focusWidget(), key); }
     QString focus() const { return m_pPane->window()->focusWidget()->objectName(); }
     QWidget *row(const char *strUid) const { return m_pPane->findChild<QWidget *>(QLatin1String(strUid)); }
@@ -48,209 +226,6 @@ private:
     std::unique_ptr<ContactPane> m_pPane;
     QLineEdit *m_pSearch = nullptr;
 };
-
-void tst_ContactPane::init()
-{
-    m_pPane = std::make_unique<ContactPane>();
-    m_pPane->fill(m_book);
-    m_pPane->resize(380, 640);
-    m_pPane->show();
-    m_pPane->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pPane.get(), kPatienceMs));
-    m_pSearch = m_pPane->findChild<QLineEdit *>(QStringLiteral("editSearch"));
-    m_pPane->startSearch();
-}
-
-void tst_ContactPane::cleanup()
-{
-    m_pPane.reset();
-}
-
-QStringList tst_ContactPane::shownRows() const
-{
-    QStringList shown;
-    for (const ContactBook::Entry &entry : m_book.entries())
-        if (WindowProbe::isShown(m_pPane.get(), qPrintable(entry.uid)))
-            shown.append(entry.uid);
-    return shown;
-}
-
-void tst_ContactPane::everyRowTellsThePresence()
-{
-    QCOMPARE(WindowProbe::text(row("30010001"), "lblPresence"), QStringLiteral("online"));
-    QCOMPARE(WindowProbe::text(row("30010004"), "lblPresence"), QStringLiteral("away"));
-    QCOMPARE(WindowProbe::text(row("30010005"), "lblPresence"), QStringLiteral("offline"));
-    QCOMPARE(row("30010002")->accessibleName(), QStringLiteral("Maria Silva, busy"));
-    QCOMPARE(row("30010002")->accessibleDescription(), QStringLiteral("30010002 · Busy"));
-}
-
-void tst_ContactPane::typedTextLeavesTheContactsThatItFinds()
-{
-    QCOMPARE(shownRows().size(), m_book.entries().size());
-    QTest::keyClicks(m_pSearch, QStringLiteral("wf"));
-    QCOMPARE(shownRows(), QStringList{"30010003"});
-    QVERIFY(!WindowProbe::isShown(m_pPane.get(), "lblNoMatch"));
-}
-
-void tst_ContactPane::noMatchIsSaid()
-{
-    QTest::keyClicks(m_pSearch, QStringLiteral("zzz"));
-    QCOMPARE(shownRows(), QStringList());
-    QCOMPARE(WindowProbe::text(m_pPane.get(), "lblNoMatch"), QStringLiteral("No contact matches"));
-}
-
-void tst_ContactPane::escapeEmptiesTheSearch()
-{
-    QTest::keyClicks(m_pSearch, QStringLiteral("zzz"));
-    press(Qt::Key_Escape);
-    QVERIFY(m_pSearch->text().isEmpty());
-    QCOMPARE(shownRows().size(), m_book.entries().size());
-    QCOMPARE(focus(), QStringLiteral("editSearch"));
-}
-
-void tst_ContactPane::clearButtonEmptiesTheSearch()
-{
-    QTest::keyClicks(m_pSearch, QStringLiteral("zzz"));
-    auto *button = m_pSearch->findChild<QToolButton *>(QStringLiteral("btnClearSearch"));
-    QCOMPARE(button->accessibleName(), QStringLiteral("Clear the search"));
-    QTest::mouseClick(button, Qt::LeftButton);
-    QVERIFY(m_pSearch->text().isEmpty());
-    QCOMPARE(shownRows().size(), m_book.entries().size());
-}
-
-void tst_ContactPane::downLeadsToTheFirstContactFound()
-{
-    QTest::keyClicks(m_pSearch, QStringLiteral("an"));
-    press(Qt::Key_Down);
-    QCOMPARE(focus(), QStringLiteral("30010006"));
-}
-
-void tst_ContactPane::returnLeadsIntoTheListToo()
-{
-    QTest::keyClicks(m_pSearch, QStringLiteral("wf"));
-    press(Qt::Key_Return);
-    QCOMPARE(focus(), QStringLiteral("30010003"));
-}
-
-void tst_ContactPane::downWithoutAMatchStaysInTheField()
-{
-    QTest::keyClicks(m_pSearch, QStringLiteral("zzz"));
-    press(Qt::Key_Down);
-    QCOMPARE(focus(), QStringLiteral("editSearch"));
-}
-
-void tst_ContactPane::arrowsGoFromRowToRow()
-{
-    press(Qt::Key_Down);
-    QCOMPARE(focus(), QStringLiteral("30010001"));
-    press(Qt::Key_Down);
-    QCOMPARE(focus(), QStringLiteral("30010002"));
-    press(Qt::Key_End);
-    QCOMPARE(focus(), QStringLiteral("30010010"));
-    press(Qt::Key_Down);
-    QCOMPARE(focus(), QStringLiteral("30010010"));
-    press(Qt::Key_Up);
-    QCOMPARE(focus(), QStringLiteral("30010009"));
-    press(Qt::Key_Home);
-    QCOMPARE(focus(), QStringLiteral("30010001"));
-}
-
-void tst_ContactPane::hiddenRowsArePassedOver()
-{
-    QTest::keyClicks(m_pSearch, QStringLiteral("ar"));
-    QCOMPARE(shownRows(), (QStringList{"30010002", "30010010"}));
-    press(Qt::Key_Down);
-    press(Qt::Key_Down);
-    QCOMPARE(focus(), QStringLiteral("30010010"));
-}
-
-void tst_ContactPane::upFromTheFirstRowLeadsBackToTheField()
-{
-    press(Qt::Key_Down);
-    press(Qt::Key_Up);
-    QCOMPARE(focus(), QStringLiteral("editSearch"));
-}
-
-void tst_ContactPane::tabStopsAtOneRowAndItsButtons()
-{
-    press(Qt::Key_Down);
-    press(Qt::Key_Down);
-    QStringList stops;
-    for (int i = 0; i < 6; ++i) {
-        stops.append(focus());
-        press(Qt::Key_Tab);
-    }
-    QCOMPARE(stops, (QStringList{"30010002", "btnCall", "btnVideo", "editNumber", "btnConference", "editSearch"}));
-}
-
-void tst_ContactPane::enterCallsTheRow()
-{
-    QSignalSpy called(m_pPane.get(), &ContactPane::callWanted);
-    press(Qt::Key_Down);
-    press(Qt::Key_Return);
-    QCOMPARE(called.count(), 1);
-    QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), false}));
-}
-
-void tst_ContactPane::enterOnAButtonPressesIt_data()
-{
-    QTest::addColumn<int>("tabs");
-    QTest::addColumn<bool>("video");
-    QTest::newRow("call") << 1 << false;
-    QTest::newRow("video call") << 2 << true;
-}
-
-void tst_ContactPane::enterOnAButtonPressesIt()
-{
-    QFETCH(int, tabs);
-    QFETCH(bool, video);
-    QSignalSpy called(m_pPane.get(), &ContactPane::callWanted);
-    press(Qt::Key_Down);
-    for (int i = 0; i < tabs; ++i)
-        press(Qt::Key_Tab);
-    press(Qt::Key_Return);
-    QCOMPARE(called.count(), 1);
-    QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), video}));
-}
-
-void tst_ContactPane::arrowsOnAButtonGoToTheNextRow()
-{
-    press(Qt::Key_Down);
-    press(Qt::Key_Tab);
-    QCOMPARE(focus(), QStringLiteral("btnCall"));
-    press(Qt::Key_Down);
-    QCOMPARE(focus(), QStringLiteral("30010002"));
-}
-
-void tst_ContactPane::clickMakesTheRowTheTabStop()
-{
-    QTest::mouseClick(row("30010003"), Qt::LeftButton);
-    QCOMPARE(focus(), QStringLiteral("30010003"));
-    QCOMPARE(row("30010003")->focusPolicy(), Qt::StrongFocus);
-    QCOMPARE(row("30010001")->focusPolicy(), Qt::ClickFocus);
-}
-
-void tst_ContactPane::rowWithTheFocusIsScrolledIntoView()
-{
-    m_pPane->resize(380, 300);
-    QTRY_VERIFY_WITH_TIMEOUT(row("30010010")->visibleRegion().isEmpty(), kPatienceMs);
-    press(Qt::Key_Down);
-    press(Qt::Key_End);
-    QTRY_COMPARE_WITH_TIMEOUT(row("30010010")->visibleRegion().boundingRect(), row("30010010")->rect(), kPatienceMs);
-}
-
-void tst_ContactPane::numberIsCalledByReturn()
-{
-    QSignalSpy called(m_pPane.get(), &ContactPane::callWanted);
-    auto *number = m_pPane->findChild<QLineEdit *>(QStringLiteral("editNumber"));
-    QTest::keyClicks(number, QStringLiteral(" "));
-    QTest::keyClick(number, Qt::Key_Return);
-    QCOMPARE(called.count(), 0);
-    QTest::keyClicks(number, QStringLiteral("4711"));
-    QTest::keyClick(number, Qt::Key_Return);
-    QCOMPARE(called.value(0), (QList<QVariant>{QStringLiteral("4711"), false}));
-    QVERIFY(number->text().isEmpty());
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_ContactPane, Widgets)

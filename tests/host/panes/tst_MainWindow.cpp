@@ -29,36 +29,343 @@ class tst_MainWindow : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void everyContactHasBothCallButtons();
-    void incomingCallOpensThePrompt();
-    void answerTakesThePromptAway_data();
-    void answerTakesThePromptAway();
-    void keyOnThePromptAnswers_data();
-    void keyOnThePromptAnswers();
-    void promptTakesTheKeyboardOfAnIdleUserOnly_data();
-    void promptTakesTheKeyboardOfAnIdleUserOnly();
-    void shortcutLeadsToThePrompt();
-    void shortcutLeadsToTheSearch();
-    void recordIsCalledAgainByDoubleClick();
-    void promptOfAnotherCallIsNotWithdrawn();
-    void endOfTheCallWithdrawsThePromptWithoutAnAnswer();
-    void recordsAndStatusLineTellTheCall();
-    void onlineSwitchFollowsTheSession();
-    void numberCanBeCalledOnlyWhenThereIsOne();
-    void conferenceButtonOpensThePicker();
-    void plugInsWishForAConferenceIsAnsweredWithTheCommand();
-    void statusLineCountsThePickedNotTheAsked_data();
-    void statusLineCountsThePickedNotTheAsked();
-    void membersArePickedWithinThePlugInsQuestion();
-    void declinedConferenceIsNotStarted();
-    void conferenceCentreHasItsButton();
-    void whatHappensComesAndGoesByButtonAndKeys();
-    void signatureCardComesAndGoesAsThePlugInAsks();
-    void noticeIsHiddenWhileThereIsNothingToTell();
-    void damagedStoreIsToldBelowTheHeader();
-    void closingTheWindowTakesTheOthersAlong();
+    void init()
+    {
+        m_pSession = std::make_unique<HostSession>(m_book);
+        m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
+        m_pWindow->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+    }
+
+    void cleanup()
+    {
+        m_pWindow.reset();
+        m_pSession.reset();
+    }
+
+    void everyContactHasBothCallButtons()
+    {
+        for (const ContactBook::Entry &entry : m_book.entries()) {
+            const auto *row = m_pWindow->findChild<QWidget *>(entry.uid);
+            QVERIFY2(row != nullptr, qPrintable(entry.uid));
+            QVERIFY(WindowProbe::isShown(row, "btnCall"));
+            QVERIFY(WindowProbe::isShown(row, "btnVideo"));
+            QCOMPARE(WindowProbe::text(row, "lblName"), entry.known ? entry.nick : entry.uid);
+        }
+    }
+
+    void incomingCallOpensThePrompt()
+    {
+        QVERIFY(!m_pWindow->prompt().isVisible());
+        ring(QStringLiteral("30010006"));
+        QVERIFY(m_pWindow->prompt().isVisible());
+        QCOMPARE(WindowProbe::text(&m_pWindow->prompt(), "lblName"), QStringLiteral("Anna Novak"));
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Anna Novak is calling"));
+    }
+
+    void answerTakesThePromptAway_data()
+    {
+        QTest::addColumn<QByteArray>("button");
+        QTest::addColumn<bool>("accept");
+        QTest::addColumn<QString>("status");
+        QTest::newRow("accept") << QByteArray("btnAccept") << true << QStringLiteral("Call of Anna Novak accepted");
+        QTest::newRow("reject") << QByteArray("btnReject") << false << QStringLiteral("Call of Anna Novak rejected");
+    }
+
+    void answerTakesThePromptAway()
+    {
+        QFETCH(QByteArray, button);
+        QFETCH(bool, accept);
+        QFETCH(QString, status);
+        QSignalSpy answered(&m_pWindow->prompt(), &IncomingPrompt::answered);
+        ring(QStringLiteral("30010006"));
+        QVERIFY(pressButton(&m_pWindow->prompt(), button.constData()));
+        QTRY_COMPARE_WITH_TIMEOUT(answered.count(), 1, kPatienceMs);
+        QCOMPARE(answered.at(0), (QList<QVariant>{QStringLiteral("30010006"), accept}));
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), status);
+        QVERIFY(!m_pWindow->prompt().isVisible());
+    }
+
+    void keyOnThePromptAnswers_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<int>("tabs");
+        QTest::addColumn<bool>("accept");
+        QTest::newRow("Return accepts") << Qt::Key_Return << 0 << true;
+        QTest::newRow("Enter accepts") << Qt::Key_Enter << 0 << true;
+        QTest::newRow("Escape rejects") << Qt::Key_Escape << 0 << false;
+        QTest::newRow("the other button is one Tab away") << Qt::Key_Return << 1 << false;
+    }
+
+    void keyOnThePromptAnswers()
+    {
+        QFETCH(Qt::Key, key);
+        QFETCH(int, tabs);
+        IncomingPrompt &prompt = m_pWindow->prompt();
+        QSignalSpy answered(&prompt, &IncomingPrompt::answered);
+        m_pWindow->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+        ring(QStringLiteral("30010006"));
+        QVERIFY(QTest::qWaitForWindowActive(&prompt, kPatienceMs));
+        for (int i = 0; i < tabs; ++i) {
+            QTest::keyClick(prompt.focusWidget(), Qt::Key_Tab);
+        }
+        QTest::keyClick(prompt.focusWidget(), key);
+        QCOMPARE(answered.count(), 1);
+        QTEST(answered.at(0).at(1).toBool(), "accept");
+    }
+
+    void promptTakesTheKeyboardOfAnIdleUserOnly_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("takes");
+        QTest::newRow("nothing typed") << QString() << true;
+        QTest::newRow("in the middle of typing") << "mari" << false;
+    }
+
+    void promptTakesTheKeyboardOfAnIdleUserOnly()
+    {
+        QFETCH(QString, typed);
+        m_pWindow->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+        QTest::keyClicks(m_pWindow->findChild<QLineEdit *>(QStringLiteral("editSearch")), typed);
+        ring(QStringLiteral("30010006"));
+        QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt(), kPatienceMs));
+        QFETCH(bool, takes);
+        // What must not come cannot be waited for: a second is what it would need.
+        QCOMPARE(takes ? QTest::qWaitForWindowActive(&m_pWindow->prompt(), kPatienceMs)
+                       : QTest::qWaitForWindowActive(&m_pWindow->prompt(), 1000),
+                 takes);
+    }
+
+    void shortcutLeadsToThePrompt()
+    {
+        m_pWindow->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+        QTest::keyClicks(m_pWindow->findChild<QLineEdit *>(QStringLiteral("editSearch")), QStringLiteral("mari"));
+        ring(QStringLiteral("30010006"));
+        QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt(), kPatienceMs));
+        QTest::keyClick(m_pWindow.get(), Qt::Key_I, Qt::ControlModifier);
+        QVERIFY(QTest::qWaitForWindowActive(&m_pWindow->prompt(), kPatienceMs));
+        QCOMPARE(m_pWindow->prompt().focusWidget()->objectName(), QStringLiteral("btnAccept"));
+    }
+
+    void shortcutLeadsToTheSearch()
+    {
+        m_pWindow->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+        m_pWindow->findChild<QWidget *>(QStringLiteral("btnConference"))->setFocus();
+        QTest::keyClick(m_pWindow.get(), Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(m_pWindow->focusWidget()->objectName(), QStringLiteral("editSearch"));
+    }
+
+    void recordIsCalledAgainByDoubleClick()
+    {
+        deliver(MSG_CALL_FINISHED, sessionPluginId(),
+                packPayload(false, QStringLiteral("30010002"), qint32(25), true, false, qint64(0)));
+        auto *table = m_pWindow->findChild<QTableView *>(QStringLiteral("tableRecords"));
+        const QPoint place = table->visualRect(table->model()->index(0, 0)).center();
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QTest::mouseDClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Calling Maria Silva"));
+    }
+
+    void promptOfAnotherCallIsNotWithdrawn()
+    {
+        ring(QStringLiteral("30010006"));
+        deliver(MSG_CLOSE_AV_MSGBOX, msgBoxPluginId(), packPayload(QStringLiteral("30010001@example.org")));
+        QVERIFY(m_pWindow->prompt().isVisible());
+    }
+
+    void endOfTheCallWithdrawsThePromptWithoutAnAnswer()
+    {
+        QSignalSpy answered(&m_pWindow->prompt(), &IncomingPrompt::answered);
+        ring(QStringLiteral("30010006"));
+        deliver(MSG_CLOSE_AV_MSGBOX, msgBoxPluginId(), packPayload(QStringLiteral("30010006@example.org")));
+        QVERIFY(!m_pWindow->prompt().isVisible());
+        QCOMPARE(answered.count(), 0);
+    }
+
+    void recordsAndStatusLineTellTheCall()
+    {
+        deliver(MSG_CALL_FINISHED, sessionPluginId(),
+                packPayload(false, QStringLiteral("30010001"), qint32(24), true, true, qint64(5)));
+        QCOMPARE(m_pWindow->records().records().size(), 1);
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Call with 李雷: hung up after 0:05"));
+        deliver(MSG_CALL_FINISHED, sessionPluginId(),
+                packPayload(false, QStringLiteral("30010002"), qint32(25), true, false, qint64(0)));
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Call with Maria Silva: busy"));
+    }
+
+    void onlineSwitchFollowsTheSession()
+    {
+        QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Offline"));
+        QVERIFY(pressButton(m_pWindow.get(), "btnOnline"));
+        QTRY_VERIFY_WITH_TIMEOUT(m_pSession->isOnline(), kPatienceMs);
+        QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Online"));
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Signed in as 小明"));
+        m_pSession->setOnline(false);
+        QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Offline"));
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Signed out"));
+    }
+
+    void numberCanBeCalledOnlyWhenThereIsOne()
+    {
+        auto *number = m_pWindow->findChild<QLineEdit *>(QStringLiteral("editNumber"));
+        QVERIFY(!pressButton(m_pWindow.get(), "btnCallNumber"));
+        QTest::keyClicks(number, QStringLiteral(" 4711 "));
+        QVERIFY(pressButton(m_pWindow.get(), "btnCallNumber"));
+        QTRY_VERIFY_WITH_TIMEOUT(number->text().isEmpty(), kPatienceMs);
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Calling 4711"));
+    }
+
+    void conferenceButtonOpensThePicker()
+    {
+        QString asked;
+        QTimer timer;
+        cancelThePicker(timer, asked);
+        QVERIFY(pressButton(m_pWindow.get(), "btnConference"));
+        QCOMPARE(asked, QStringLiteral("Whom to call together?"));
+        QVERIFY(WindowProbe::memberPicker() == nullptr);
+    }
+
+    void plugInsWishForAConferenceIsAnsweredWithTheCommand()
+    {
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            if (pressButton(WindowProbe::memberPicker(), "btnInvite")) {
+                timer.stop();
+            }
+        });
+        timer.start(10);
+        deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(), packPayload(QStringList{QStringLiteral("30010001")}));
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Starting a conference with 1 other(s)"));
+    }
+
+    void statusLineCountsThePickedNotTheAsked_data()
+    {
+        QTest::addColumn<QStringList>("asked");
+        QTest::addColumn<QStringList>("picked");
+        const QString one = QStringLiteral("30010001");
+        const QString two = QStringLiteral("30010002");
+        const QString three = QStringLiteral("30010003");
+        QTest::newRow("more") << QStringList{one} << QStringList{one, two, three};
+        QTest::newRow("fewer") << QStringList{one, two} << QStringList{three};
+        QTest::newRow("as many") << QStringList{one, two} << QStringList{one, three};
+        QTest::newRow("nobody asked") << QStringList() << QStringList{two, three};
+    }
+
+    void statusLineCountsThePickedNotTheAsked()
+    {
+        QFETCH(QStringList, asked);
+        QFETCH(QStringList, picked);
+        QTimer timer;
+        pickAndInvite(timer, picked);
+        deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(), packPayload(asked));
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(),
+                 QStringLiteral("Starting a conference with %1 other(s)").arg(picked.size()));
+    }
+
+    void membersArePickedWithinThePlugInsQuestion()
+    {
+        const QStringList picked{QStringLiteral("30010003")};
+        QTimer timer;
+        pickAndInvite(timer, picked);
+        const QByteArray answer =
+            deliver(MSG_ADD_CONFERENCE_MEMBER, sessionPluginId(),
+                    packPayload(QStringList{QStringLiteral("30010001"), QStringLiteral("30010002")}));
+        QCOMPARE(PayloadReader(answer).takeTexts(), picked);
+    }
+
+    void declinedConferenceIsNotStarted()
+    {
+        const QString before = m_pWindow->statusBar()->currentMessage();
+        QString asked;
+        QTimer timer;
+        cancelThePicker(timer, asked);
+        deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(),
+                packPayload(QStringList{QStringLiteral("30010001@example.org"), QStringLiteral("30010000@example.org"),
+                                        QStringLiteral("30010002@example.org")}));
+        QCOMPARE(asked, QStringLiteral("Asked for a conference with: 李雷, Maria Silva"));
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), before);
+    }
+
+    void conferenceCentreHasItsButton()
+    {
+        QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnCentre"), QStringLiteral("Conference centre"));
+        QVERIFY(WindowProbe::button(m_pWindow.get(), "btnCentre").widget != nullptr);
+    }
+
+    void whatHappensComesAndGoesByButtonAndKeys()
+    {
+        auto *panel = m_pWindow->findChild<HappeningsPanel *>();
+        QVERIFY(panel != nullptr);
+        QVERIFY(!panel->isVisible());
+        QCOMPARE(WindowProbe::text(m_pWindow.get(), "happeningsButton"), QStringLiteral("What happens"));
+        const int width = m_pWindow->width();
+        QVERIFY(pressButton(m_pWindow.get(), "happeningsButton"));
+        QVERIFY(panel->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->width() > width, kPatienceMs);
+        QVERIFY(m_pWindow->frameGeometry().right() <= m_pWindow->screen()->availableGeometry().right());
+        QTest::keyClick(m_pWindow.get(), Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(!panel->isVisible());
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->width(), width, kPatienceMs);
+        // It collects while it is hidden.
+        deliver(MSG_CLOSE_SIGN_LIST, signListPluginId(), QByteArray());
+        QTRY_COMPARE_WITH_TIMEOUT(panel->model().rowCount(), 1, kPatienceMs);
+    }
+
+    void signatureCardComesAndGoesAsThePlugInAsks()
+    {
+        deliver(
+            MSG_SHOW_SIGN_LIST, signListPluginId(),
+            packPayload(QStringLiteral("30010002@example.org"), qint32(600), qint32(200), qint32(500), true, false));
+        QCOMPARE(WindowProbe::text(&m_pWindow->signature(), "lblName"), QStringLiteral("Maria Silva"));
+        deliver(MSG_CLOSE_SIGN_LIST, signListPluginId(), QByteArray());
+        QVERIFY(!m_pWindow->signature().isVisible());
+    }
+
+    void noticeIsHiddenWhileThereIsNothingToTell() { QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "lblNotice")); }
+
+    void damagedStoreIsToldBelowTheHeader()
+    {
+        SystemSetData *settings = SystemSetData::instance();
+        settings->initCommonData();
+        settings->initData(ContactBook::ownUid());
+        QVERIFY(QDir().mkpath(settings->m_strUserFolder));
+        QFile file(settings->m_strDatabasePath);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no database") > 0);
+        file.close();
+
+        // The store is opened before the module, which is not there.
+        QString error;
+        QVERIFY(!m_pSession->start(QStringLiteral("/no/module.so"), &error));
+        QVERIFY(m_pSession->store().isOpen());
+        MainWindow window(*m_pSession, m_book);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
+        QVERIFY(WindowProbe::isShown(&window, "lblNotice"));
+        const QString notice = WindowProbe::text(&window, "lblNotice");
+        QVERIFY2(notice.startsWith(QStringLiteral("The local store was damaged. The file is kept as ")),
+                 qPrintable(notice));
+        QCOMPARE(notice, m_pSession->store().reports().join(QLatin1Char('\n')));
+        // There is nothing to try again.
+        QVERIFY(!WindowProbe::isShown(&window, "btnTryStore"));
+    }
+
+    void closingTheWindowTakesTheOthersAlong()
+    {
+        ring(QStringLiteral("30010006"));
+        deliver(
+            MSG_SHOW_SIGN_LIST, signListPluginId(),
+            packPayload(QStringLiteral("30010002@example.org"), qint32(600), qint32(200), qint32(500), true, false));
+        m_pWindow->settingsPage().show();
+        QVERIFY(m_pWindow->prompt().isVisible() && m_pWindow->signature().isVisible());
+        QVERIFY(m_pWindow->close());
+        QVERIFY(!m_pWindow->prompt().isVisible());
+        QVERIFY(!m_pWindow->signature().isVisible());
+        QVERIFY(!m_pWindow->settingsPage().isVisible());
+    }
 
 private:
     /// Cancels the picker as soon as it is open, with what it asked left in `asked`.
@@ -108,344 +415,6 @@ private:
     std::unique_ptr<HostSession> m_pSession;
     std::unique_ptr<MainWindow> m_pWindow;
 };
-
-void tst_MainWindow::init()
-{
-    m_pSession = std::make_unique<HostSession>(m_book);
-    m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
-    m_pWindow->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
-}
-
-void tst_MainWindow::cleanup()
-{
-    m_pWindow.reset();
-    m_pSession.reset();
-}
-
-void tst_MainWindow::everyContactHasBothCallButtons()
-{
-    for (const ContactBook::Entry &entry : m_book.entries()) {
-        const auto *row = m_pWindow->findChild<QWidget *>(entry.uid);
-        QVERIFY2(row != nullptr, qPrintable(entry.uid));
-        QVERIFY(WindowProbe::isShown(row, "btnCall"));
-        QVERIFY(WindowProbe::isShown(row, "btnVideo"));
-        QCOMPARE(WindowProbe::text(row, "lblName"), entry.known ? entry.nick : entry.uid);
-    }
-}
-
-void tst_MainWindow::incomingCallOpensThePrompt()
-{
-    QVERIFY(!m_pWindow->prompt().isVisible());
-    ring(QStringLiteral("30010006"));
-    QVERIFY(m_pWindow->prompt().isVisible());
-    QCOMPARE(WindowProbe::text(&m_pWindow->prompt(), "lblName"), QStringLiteral("Anna Novak"));
-    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Anna Novak is calling"));
-}
-
-void tst_MainWindow::answerTakesThePromptAway_data()
-{
-    QTest::addColumn<QByteArray>("button");
-    QTest::addColumn<bool>("accept");
-    QTest::addColumn<QString>("status");
-    QTest::newRow("accept") << QByteArray("btnAccept") << true << QStringLiteral("Call of Anna Novak accepted");
-    QTest::newRow("reject") << QByteArray("btnReject") << false << QStringLiteral("Call of Anna Novak rejected");
-}
-
-void tst_MainWindow::answerTakesThePromptAway()
-{
-    QFETCH(QByteArray, button);
-    QFETCH(bool, accept);
-    QFETCH(QString, status);
-    QSignalSpy answered(&m_pWindow->prompt(), &IncomingPrompt::answered);
-    ring(QStringLiteral("30010006"));
-    QVERIFY(pressButton(&m_pWindow->prompt(), button.constData()));
-    QTRY_COMPARE_WITH_TIMEOUT(answered.count(), 1, kPatienceMs);
-    QCOMPARE(answered.at(0), (QList<QVariant>{QStringLiteral("30010006"), accept}));
-    QCOMPARE(m_pWindow->statusBar()->currentMessage(), status);
-    QVERIFY(!m_pWindow->prompt().isVisible());
-}
-
-void tst_MainWindow::keyOnThePromptAnswers_data()
-{
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<int>("tabs");
-    QTest::addColumn<bool>("accept");
-    QTest::newRow("Return accepts") << Qt::Key_Return << 0 << true;
-    QTest::newRow("Enter accepts") << Qt::Key_Enter << 0 << true;
-    QTest::newRow("Escape rejects") << Qt::Key_Escape << 0 << false;
-    QTest::newRow("the other button is one Tab away") << Qt::Key_Return << 1 << false;
-}
-
-void tst_MainWindow::keyOnThePromptAnswers()
-{
-    QFETCH(Qt::Key, key);
-    QFETCH(int, tabs);
-    IncomingPrompt &prompt = m_pWindow->prompt();
-    QSignalSpy answered(&prompt, &IncomingPrompt::answered);
-    m_pWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
-    ring(QStringLiteral("30010006"));
-    QVERIFY(QTest::qWaitForWindowActive(&prompt, kPatienceMs));
-    for (int i = 0; i < tabs; ++i) {
-        QTest::keyClick(prompt.focusWidget(), Qt::Key_Tab);
-    }
-    QTest::keyClick(prompt.focusWidget(), key);
-    QCOMPARE(answered.count(), 1);
-    QTEST(answered.at(0).at(1).toBool(), "accept");
-}
-
-void tst_MainWindow::promptTakesTheKeyboardOfAnIdleUserOnly_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<bool>("takes");
-    QTest::newRow("nothing typed") << QString() << true;
-    QTest::newRow("in the middle of typing") << "mari" << false;
-}
-
-void tst_MainWindow::promptTakesTheKeyboardOfAnIdleUserOnly()
-{
-    QFETCH(QString, typed);
-    m_pWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
-    QTest::keyClicks(m_pWindow->findChild<QLineEdit *>(QStringLiteral("editSearch")), typed);
-    ring(QStringLiteral("30010006"));
-    QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt(), kPatienceMs));
-    QFETCH(bool, takes);
-    // What must not come cannot be waited for: a second is what it would need.
-    QCOMPARE(takes ? QTest::qWaitForWindowActive(&m_pWindow->prompt(), kPatienceMs)
-                   : QTest::qWaitForWindowActive(&m_pWindow->prompt(), 1000),
-             takes);
-}
-
-void tst_MainWindow::shortcutLeadsToThePrompt()
-{
-    m_pWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
-    QTest::keyClicks(m_pWindow->findChild<QLineEdit *>(QStringLiteral("editSearch")), QStringLiteral("mari"));
-    ring(QStringLiteral("30010006"));
-    QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt(), kPatienceMs));
-    QTest::keyClick(m_pWindow.get(), Qt::Key_I, Qt::ControlModifier);
-    QVERIFY(QTest::qWaitForWindowActive(&m_pWindow->prompt(), kPatienceMs));
-    QCOMPARE(m_pWindow->prompt().focusWidget()->objectName(), QStringLiteral("btnAccept"));
-}
-
-void tst_MainWindow::shortcutLeadsToTheSearch()
-{
-    m_pWindow->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
-    m_pWindow->findChild<QWidget *>(QStringLiteral("btnConference"))->setFocus();
-    QTest::keyClick(m_pWindow.get(), Qt::Key_F, Qt::ControlModifier);
-    QCOMPARE(m_pWindow->focusWidget()->objectName(), QStringLiteral("editSearch"));
-}
-
-void tst_MainWindow::recordIsCalledAgainByDoubleClick()
-{
-    deliver(MSG_CALL_FINISHED, sessionPluginId(),
-            packPayload(false, QStringLiteral("30010002"), qint32(25), true, false, qint64(0)));
-    auto *table = m_pWindow->findChild<QTableView *>(QStringLiteral("tableRecords"));
-    const QPoint place = table->visualRect(table->model()->index(0, 0)).center();
-    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QTest::mouseDClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Calling Maria Silva"));
-}
-
-void tst_MainWindow::promptOfAnotherCallIsNotWithdrawn()
-{
-    ring(QStringLiteral("30010006"));
-    deliver(MSG_CLOSE_AV_MSGBOX, msgBoxPluginId(), packPayload(QStringLiteral("30010001@example.org")));
-    QVERIFY(m_pWindow->prompt().isVisible());
-}
-
-void tst_MainWindow::endOfTheCallWithdrawsThePromptWithoutAnAnswer()
-{
-    QSignalSpy answered(&m_pWindow->prompt(), &IncomingPrompt::answered);
-    ring(QStringLiteral("30010006"));
-    deliver(MSG_CLOSE_AV_MSGBOX, msgBoxPluginId(), packPayload(QStringLiteral("30010006@example.org")));
-    QVERIFY(!m_pWindow->prompt().isVisible());
-    QCOMPARE(answered.count(), 0);
-}
-
-void tst_MainWindow::recordsAndStatusLineTellTheCall()
-{
-    deliver(MSG_CALL_FINISHED, sessionPluginId(),
-            packPayload(false, QStringLiteral("30010001"), qint32(24), true, true, qint64(5)));
-    QCOMPARE(m_pWindow->records().records().size(), 1);
-    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Call with 李雷: hung up after 0:05"));
-    deliver(MSG_CALL_FINISHED, sessionPluginId(),
-            packPayload(false, QStringLiteral("30010002"), qint32(25), true, false, qint64(0)));
-    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Call with Maria Silva: busy"));
-}
-
-void tst_MainWindow::onlineSwitchFollowsTheSession()
-{
-    QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Offline"));
-    QVERIFY(pressButton(m_pWindow.get(), "btnOnline"));
-    QTRY_VERIFY_WITH_TIMEOUT(m_pSession->isOnline(), kPatienceMs);
-    QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Online"));
-    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Signed in as 小明"));
-    m_pSession->setOnline(false);
-    QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Offline"));
-    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Signed out"));
-}
-
-void tst_MainWindow::numberCanBeCalledOnlyWhenThereIsOne()
-{
-    auto *number = m_pWindow->findChild<QLineEdit *>(QStringLiteral("editNumber"));
-    QVERIFY(!pressButton(m_pWindow.get(), "btnCallNumber"));
-    QTest::keyClicks(number, QStringLiteral(" 4711 "));
-    QVERIFY(pressButton(m_pWindow.get(), "btnCallNumber"));
-    QTRY_VERIFY_WITH_TIMEOUT(number->text().isEmpty(), kPatienceMs);
-    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Calling 4711"));
-}
-
-void tst_MainWindow::conferenceButtonOpensThePicker()
-{
-    QString asked;
-    QTimer timer;
-    cancelThePicker(timer, asked);
-    QVERIFY(pressButton(m_pWindow.get(), "btnConference"));
-    QCOMPARE(asked, QStringLiteral("Whom to call together?"));
-    QVERIFY(WindowProbe::memberPicker() == nullptr);
-}
-
-void tst_MainWindow::plugInsWishForAConferenceIsAnsweredWithTheCommand()
-{
-    QTimer timer;
-    connect(&timer, &QTimer::timeout, this, [&] {
-        if (pressButton(WindowProbe::memberPicker(), "btnInvite")) {
-            timer.stop();
-        }
-    });
-    timer.start(10);
-    deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(), packPayload(QStringList{QStringLiteral("30010001")}));
-    QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Starting a conference with 1 other(s)"));
-}
-
-void tst_MainWindow::statusLineCountsThePickedNotTheAsked_data()
-{
-    QTest::addColumn<QStringList>("asked");
-    QTest::addColumn<QStringList>("picked");
-    const QString one = QStringLiteral("30010001");
-    const QString two = QStringLiteral("30010002");
-    const QString three = QStringLiteral("30010003");
-    QTest::newRow("more") << QStringList{one} << QStringList{one, two, three};
-    QTest::newRow("fewer") << QStringList{one, two} << QStringList{three};
-    QTest::newRow("as many") << QStringList{one, two} << QStringList{one, three};
-    QTest::newRow("nobody asked") << QStringList() << QStringList{two, three};
-}
-
-void tst_MainWindow::statusLineCountsThePickedNotTheAsked()
-{
-    QFETCH(QStringList, asked);
-    QFETCH(QStringList, picked);
-    QTimer timer;
-    pickAndInvite(timer, picked);
-    deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(), packPayload(asked));
-    QCOMPARE(m_pWindow->statusBar()->currentMessage(),
-             QStringLiteral("Starting a conference with %1 other(s)").arg(picked.size()));
-}
-
-void tst_MainWindow::membersArePickedWithinThePlugInsQuestion()
-{
-    const QStringList picked{QStringLiteral("30010003")};
-    QTimer timer;
-    pickAndInvite(timer, picked);
-    const QByteArray answer = deliver(MSG_ADD_CONFERENCE_MEMBER, sessionPluginId(),
-                                      packPayload(QStringList{QStringLiteral("30010001"), QStringLiteral("30010002")}));
-    QCOMPARE(PayloadReader(answer).takeTexts(), picked);
-}
-
-void tst_MainWindow::declinedConferenceIsNotStarted()
-{
-    const QString before = m_pWindow->statusBar()->currentMessage();
-    QString asked;
-    QTimer timer;
-    cancelThePicker(timer, asked);
-    deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(),
-            packPayload(QStringList{QStringLiteral("30010001@example.org"), QStringLiteral("30010000@example.org"),
-                                    QStringLiteral("30010002@example.org")}));
-    QCOMPARE(asked, QStringLiteral("Asked for a conference with: 李雷, Maria Silva"));
-    QCOMPARE(m_pWindow->statusBar()->currentMessage(), before);
-}
-
-void tst_MainWindow::conferenceCentreHasItsButton()
-{
-    QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnCentre"), QStringLiteral("Conference centre"));
-    QVERIFY(WindowProbe::button(m_pWindow.get(), "btnCentre").widget != nullptr);
-}
-
-void tst_MainWindow::whatHappensComesAndGoesByButtonAndKeys()
-{
-    auto *panel = m_pWindow->findChild<HappeningsPanel *>();
-    QVERIFY(panel != nullptr);
-    QVERIFY(!panel->isVisible());
-    QCOMPARE(WindowProbe::text(m_pWindow.get(), "happeningsButton"), QStringLiteral("What happens"));
-    const int width = m_pWindow->width();
-    QVERIFY(pressButton(m_pWindow.get(), "happeningsButton"));
-    QVERIFY(panel->isVisible());
-    QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->width() > width, kPatienceMs);
-    QVERIFY(m_pWindow->frameGeometry().right() <= m_pWindow->screen()->availableGeometry().right());
-    QTest::keyClick(m_pWindow.get(), Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
-    QVERIFY(!panel->isVisible());
-    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->width(), width, kPatienceMs);
-    // It collects while it is hidden.
-    deliver(MSG_CLOSE_SIGN_LIST, signListPluginId(), QByteArray());
-    QTRY_COMPARE_WITH_TIMEOUT(panel->model().rowCount(), 1, kPatienceMs);
-}
-
-void tst_MainWindow::signatureCardComesAndGoesAsThePlugInAsks()
-{
-    deliver(MSG_SHOW_SIGN_LIST, signListPluginId(),
-            packPayload(QStringLiteral("30010002@example.org"), qint32(600), qint32(200), qint32(500), true, false));
-    QCOMPARE(WindowProbe::text(&m_pWindow->signature(), "lblName"), QStringLiteral("Maria Silva"));
-    deliver(MSG_CLOSE_SIGN_LIST, signListPluginId(), QByteArray());
-    QVERIFY(!m_pWindow->signature().isVisible());
-}
-
-void tst_MainWindow::noticeIsHiddenWhileThereIsNothingToTell()
-{
-    QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "lblNotice"));
-}
-
-void tst_MainWindow::damagedStoreIsToldBelowTheHeader()
-{
-    SystemSetData *settings = SystemSetData::instance();
-    settings->initCommonData();
-    settings->initData(ContactBook::ownUid());
-    QVERIFY(QDir().mkpath(settings->m_strUserFolder));
-    QFile file(settings->m_strDatabasePath);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no database") > 0);
-    file.close();
-
-    // The store is opened before the module, which is not there.
-    QString error;
-    QVERIFY(!m_pSession->start(QStringLiteral("/no/module.so"), &error));
-    QVERIFY(m_pSession->store().isOpen());
-    MainWindow window(*m_pSession, m_book);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
-    QVERIFY(WindowProbe::isShown(&window, "lblNotice"));
-    const QString notice = WindowProbe::text(&window, "lblNotice");
-    QVERIFY2(notice.startsWith(QStringLiteral("The local store was damaged. The file is kept as ")),
-             qPrintable(notice));
-    QCOMPARE(notice, m_pSession->store().reports().join(QLatin1Char('\n')));
-    // There is nothing to try again.
-    QVERIFY(!WindowProbe::isShown(&window, "btnTryStore"));
-}
-
-void tst_MainWindow::closingTheWindowTakesTheOthersAlong()
-{
-    ring(QStringLiteral("30010006"));
-    deliver(MSG_SHOW_SIGN_LIST, signListPluginId(),
-            packPayload(QStringLiteral("30010002@example.org"), qint32(600), qint32(200), qint32(500), true, false));
-    m_pWindow->settingsPage().show();
-    QVERIFY(m_pWindow->prompt().isVisible() && m_pWindow->signature().isVisible());
-    QVERIFY(m_pWindow->close());
-    QVERIFY(!m_pWindow->prompt().isVisible());
-    QVERIFY(!m_pWindow->signature().isVisible());
-    QVERIFY(!m_pWindow->settingsPage().isVisible());
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_MainWindow, Widgets)

@@ -22,16 +22,97 @@ class tst_MemberPicker : public QObject
     Q_OBJECT
 
 private slots:
-    void newConferenceListsEverybodyWithTheNamedChecked();
-    void namedStrangersToTheBookAreListedToo();
-    void moreMembersLeavesOutThosePresent();
-    void clickAnywhereInTheRowTurnsTheMark_data();
-    void clickAnywhereInTheRowTurnsTheMark();
-    void spaceTurnsTheMark();
-    void nobodyPickedCannotBeInvited();
-    void textAndFlagBelongToANewConferenceOnly();
-    void cancelledPickerGivesNothing();
-    void acceptedPickerGivesWhatWasPicked();
+    void newConferenceListsEverybodyWithTheNamedChecked()
+    {
+        const MemberPicker picker(m_book, MemberPicker::NewConference, {kBusy}, nullptr);
+        QCOMPARE(list(picker)->count(), m_book.entries().size());
+        QCOMPARE(picker.wish().uids, QStringList{kBusy});
+    }
+
+    void namedStrangersToTheBookAreListedToo()
+    {
+        const MemberPicker picker(m_book, MemberPicker::NewConference, {QStringLiteral("4711")}, nullptr);
+        QCOMPARE(list(picker)->count(), m_book.entries().size() + 1);
+        QCOMPARE(picker.wish().uids, QStringList{QStringLiteral("4711")});
+    }
+
+    void moreMembersLeavesOutThosePresent()
+    {
+        MemberPicker picker(m_book, MemberPicker::MoreMembers, {kBusy, QStringLiteral("4711")}, nullptr);
+        show(picker);
+        QCOMPARE(list(picker)->count(), m_book.entries().size() - 1);
+        QVERIFY(picker.wish().uids.isEmpty());
+        QCOMPARE(WindowProbe::text(&picker, "lblAsked"),
+                 QStringLiteral("Already in the conference: Maria Silva, 4711"));
+    }
+
+    void clickAnywhereInTheRowTurnsTheMark_data()
+    {
+        QTest::addColumn<int>("x");
+        QTest::newRow("the box") << 11;
+        QTest::newRow("the name") << 90;
+    }
+
+    void clickAnywhereInTheRowTurnsTheMark()
+    {
+        QFETCH(int, x);
+        MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
+        show(picker);
+        const QRect row = list(picker)->visualItemRect(list(picker)->item(0));
+        for (const bool checked : {true, false, true}) {
+            QTest::mouseClick(list(picker)->viewport(), Qt::LeftButton, Qt::NoModifier,
+                              QPoint(row.left() + x, row.center().y()));
+            QCOMPARE(picker.wish().uids.contains(kAnswers), checked);
+        }
+    }
+
+    void spaceTurnsTheMark()
+    {
+        MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
+        show(picker);
+        list(picker)->setCurrentRow(1);
+        QTest::keyClick(list(picker), Qt::Key_Space);
+        QCOMPARE(picker.wish().uids, QStringList{kBusy});
+    }
+
+    void nobodyPickedCannotBeInvited()
+    {
+        MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
+        show(picker);
+        QVERIFY(!pressButton(&picker, "btnInvite"));
+        list(picker)->item(0)->setCheckState(Qt::Checked);
+        QCOMPARE(WindowProbe::text(&picker, "btnInvite"), QStringLiteral("Invite (1)"));
+        QVERIFY(pressButton(&picker, "btnInvite"));
+    }
+
+    void textAndFlagBelongToANewConferenceOnly()
+    {
+        MemberPicker more(m_book, MemberPicker::MoreMembers, {}, nullptr);
+        show(more);
+        QVERIFY(!WindowProbe::isShown(&more, "editText"));
+        MemberPicker fresh(m_book, MemberPicker::NewConference, {}, nullptr);
+        show(fresh);
+        QTest::keyClicks(fresh.findChild<QLineEdit *>(QStringLiteral("editText")), QStringLiteral("talk"));
+        fresh.findChild<QCheckBox *>(QStringLiteral("boxFlag"))->click();
+        QCOMPARE(fresh.wish().text, QStringLiteral("talk"));
+        QVERIFY(fresh.wish().flag);
+    }
+
+    void cancelledPickerGivesNothing()
+    {
+        pressWhenOpen("btnCancel");
+        QVERIFY(!MemberPicker::pickNew(m_book, {kBusy}, nullptr));
+        pressWhenOpen("btnCancel");
+        QVERIFY(MemberPicker::pickMore(m_book, {kBusy}, nullptr).isEmpty());
+    }
+
+    void acceptedPickerGivesWhatWasPicked()
+    {
+        pressWhenOpen("btnInvite");
+        const std::optional<ConferenceWish> wish = MemberPicker::pickNew(m_book, {kBusy}, nullptr);
+        QVERIFY(wish);
+        QCOMPARE(wish->uids, QStringList{kBusy});
+    }
 
 private:
     static QListWidget *list(const MemberPicker &picker) { return picker.findChild<QListWidget *>(); }
@@ -54,97 +135,6 @@ private:
 
     ContactBook m_book{QStringLiteral("example.org")};
 };
-
-void tst_MemberPicker::newConferenceListsEverybodyWithTheNamedChecked()
-{
-    const MemberPicker picker(m_book, MemberPicker::NewConference, {kBusy}, nullptr);
-    QCOMPARE(list(picker)->count(), m_book.entries().size());
-    QCOMPARE(picker.wish().uids, QStringList{kBusy});
-}
-
-void tst_MemberPicker::namedStrangersToTheBookAreListedToo()
-{
-    const MemberPicker picker(m_book, MemberPicker::NewConference, {QStringLiteral("4711")}, nullptr);
-    QCOMPARE(list(picker)->count(), m_book.entries().size() + 1);
-    QCOMPARE(picker.wish().uids, QStringList{QStringLiteral("4711")});
-}
-
-void tst_MemberPicker::moreMembersLeavesOutThosePresent()
-{
-    MemberPicker picker(m_book, MemberPicker::MoreMembers, {kBusy, QStringLiteral("4711")}, nullptr);
-    show(picker);
-    QCOMPARE(list(picker)->count(), m_book.entries().size() - 1);
-    QVERIFY(picker.wish().uids.isEmpty());
-    QCOMPARE(WindowProbe::text(&picker, "lblAsked"), QStringLiteral("Already in the conference: Maria Silva, 4711"));
-}
-
-void tst_MemberPicker::clickAnywhereInTheRowTurnsTheMark_data()
-{
-    QTest::addColumn<int>("x");
-    QTest::newRow("the box") << 11;
-    QTest::newRow("the name") << 90;
-}
-
-void tst_MemberPicker::clickAnywhereInTheRowTurnsTheMark()
-{
-    QFETCH(int, x);
-    MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
-    show(picker);
-    const QRect row = list(picker)->visualItemRect(list(picker)->item(0));
-    for (const bool checked : {true, false, true}) {
-        QTest::mouseClick(list(picker)->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          QPoint(row.left() + x, row.center().y()));
-        QCOMPARE(picker.wish().uids.contains(kAnswers), checked);
-    }
-}
-
-void tst_MemberPicker::spaceTurnsTheMark()
-{
-    MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
-    show(picker);
-    list(picker)->setCurrentRow(1);
-    QTest::keyClick(list(picker), Qt::Key_Space);
-    QCOMPARE(picker.wish().uids, QStringList{kBusy});
-}
-
-void tst_MemberPicker::nobodyPickedCannotBeInvited()
-{
-    MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
-    show(picker);
-    QVERIFY(!pressButton(&picker, "btnInvite"));
-    list(picker)->item(0)->setCheckState(Qt::Checked);
-    QCOMPARE(WindowProbe::text(&picker, "btnInvite"), QStringLiteral("Invite (1)"));
-    QVERIFY(pressButton(&picker, "btnInvite"));
-}
-
-void tst_MemberPicker::textAndFlagBelongToANewConferenceOnly()
-{
-    MemberPicker more(m_book, MemberPicker::MoreMembers, {}, nullptr);
-    show(more);
-    QVERIFY(!WindowProbe::isShown(&more, "editText"));
-    MemberPicker fresh(m_book, MemberPicker::NewConference, {}, nullptr);
-    show(fresh);
-    QTest::keyClicks(fresh.findChild<QLineEdit *>(QStringLiteral("editText")), QStringLiteral("talk"));
-    fresh.findChild<QCheckBox *>(QStringLiteral("boxFlag"))->click();
-    QCOMPARE(fresh.wish().text, QStringLiteral("talk"));
-    QVERIFY(fresh.wish().flag);
-}
-
-void tst_MemberPicker::cancelledPickerGivesNothing()
-{
-    pressWhenOpen("btnCancel");
-    QVERIFY(!MemberPicker::pickNew(m_book, {kBusy}, nullptr));
-    pressWhenOpen("btnCancel");
-    QVERIFY(MemberPicker::pickMore(m_book, {kBusy}, nullptr).isEmpty());
-}
-
-void tst_MemberPicker::acceptedPickerGivesWhatWasPicked()
-{
-    pressWhenOpen("btnInvite");
-    const std::optional<ConferenceWish> wish = MemberPicker::pickNew(m_book, {kBusy}, nullptr);
-    QVERIFY(wish);
-    QCOMPARE(wish->uids, QStringList{kBusy});
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_MemberPicker, Widgets)

@@ -28,32 +28,319 @@ class tst_SettingsPage : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void firstLanguageFollowsTheSystem_data();
-    void firstLanguageFollowsTheSystem();
-    void chosenAtTheFirstStartTheLanguageStandsInTheFile();
-    void ringSwitchIsWrittenAndTakesEffect();
-    void ringSwitchFollowsTheFile();
-    void receiveFolderIsMadeWrittenAndInForce();
-    void emptyFieldGivesTheStandardFolderBack();
-    void dataFolderIsForTheNextStart();
-    void folderThatCannotBeUsedIsToldAndNotTaken_data();
-    void folderThatCannotBeUsedIsToldAndNotTaken();
-    void folderErrorIsGoneWhenThePageOpensAgain_data();
-    void folderErrorIsGoneWhenThePageOpensAgain();
-    void folderErrorGoesWithAGoodFolderAndWithTheLanguage();
-    void browsingTakesTheFolder();
-    void languageChangesTheOpenWindows_data();
-    void languageChangesTheOpenWindows();
-    void languageOfAnotherClientShowsAsTheOneInForce();
-    void colourReachesThePlugInsWidgetsAndTheClientsWindows();
-    void colourIsThereAgainAtTheNextStart();
-    void everySkinHasAPlaceInTheSharedList();
-    void unknownSkinChangesNothing();
-    void tabGoesDownThePage();
-    void escapeClosesThePage();
-    void filesAreNamed();
+    void init() { start(); }
+
+    void cleanup()
+    {
+        m_pWindow.reset();
+        const QString userFile = HostSettings::userFile();
+        m_pSession.reset();
+        QFile::remove(userFile);
+        QFile::remove(HostSettings::commonFile());
+    }
+
+    void firstLanguageFollowsTheSystem_data()
+    {
+        QTest::addColumn<QString>("system");
+        QTest::addColumn<QString>("language");
+        QTest::newRow("mainland") << "zh_CN"
+                                  << "zh_CN";
+        QTest::newRow("Taiwan") << "zh_TW"
+                                << "zh_TW";
+        QTest::newRow("Hong Kong") << "zh_HK"
+                                   << "zh_TW";
+        QTest::newRow("German") << "de_DE"
+                                << "en";
+        QTest::newRow("none") << "C"
+                              << "en";
+    }
+
+    void firstLanguageFollowsTheSystem()
+    {
+        QFETCH(QString, system);
+        QTEST(HostLanguage::firstLanguage(system), "language");
+    }
+
+    void chosenAtTheFirstStartTheLanguageStandsInTheFile()
+    {
+        const QString language = HostSettings::language();
+        QVERIFY(!language.isEmpty());
+        QCOMPARE(stored(HostSettings::commonFile(), "/languageSetting/language"), language);
+        QCOMPARE(AppInfo::getApplicationLanguage(), language);
+    }
+
+    void ringSwitchIsWrittenAndTakesEffect()
+    {
+        auto *silent = part<QCheckBox>("boxSilent");
+        QVERIFY(!silent->isChecked());
+        silent->setFocus();
+        QTest::keyClick(silent, Qt::Key_Space);
+        QCOMPARE(stored(HostSettings::userFile(), "/basicSetting/closeVoice"), QStringLiteral("1"));
+        QCOMPARE(SharedContext::getSystemSetData()->m_strCloseVoice, QStringLiteral("1"));
+        QTest::keyClick(silent, Qt::Key_Space);
+        QCOMPARE(stored(HostSettings::userFile(), "/basicSetting/closeVoice"), QStringLiteral("0"));
+        QCOMPARE(SharedContext::getSystemSetData()->m_strCloseVoice, QStringLiteral("0"));
+    }
+
+    void ringSwitchFollowsTheFile()
+    {
+        m_pWindow->settingsPage().close();
+        HostSettings::setSilent(true);
+        m_pWindow->settingsPage().open();
+        QVERIFY(part<QCheckBox>("boxSilent")->isChecked());
+    }
+
+    void receiveFolderIsMadeWrittenAndInForce()
+    {
+        const QString folder = QDir::current().absoluteFilePath(QStringLiteral("received/今天"));
+        type("editReceiveFolder", folder);
+        QVERIFY(QDir(folder).exists());
+        QCOMPARE(stored(HostSettings::userFile(), "/msgSetting/transfilepath"), folder);
+        QCOMPARE(SharedContext::getSystemSetData()->m_strTransFilePath, folder);
+    }
+
+    void emptyFieldGivesTheStandardFolderBack()
+    {
+        const QString standard = HostSettings::receiveFolder();
+        type("editReceiveFolder", QDir::current().absoluteFilePath(QStringLiteral("elsewhere")));
+        QVERIFY(HostSettings::receiveFolder() != standard);
+        type("editReceiveFolder", QString());
+        QCOMPARE(HostSettings::receiveFolder(), standard);
+        QCOMPARE(part<QLineEdit>("editReceiveFolder")->text(), standard);
+    }
+
+    void dataFolderIsForTheNextStart()
+    {
+        const QString inUse = SharedContext::getSystemSetData()->m_strMsgFilePath;
+        const QString note = part<QLabel>("lblDataNote")->text();
+        const QString folder = QDir::current().absoluteFilePath(QStringLiteral("data"));
+        type("editDataFolder", folder);
+        QCOMPARE(stored(HostSettings::commonFile(), "/msgSetting/msgfilepath"), folder);
+        QCOMPARE(SharedContext::getSystemSetData()->m_strMsgFilePath, inUse);
+        QCOMPARE(part<QLabel>("lblDataNote")->text(),
+                 QStringLiteral("Takes effect at the next start; what is in the old folder stays there."));
+        SystemSetData nextStart;
+        nextStart.initCommonData();
+        QCOMPARE(nextStart.m_strMsgFilePath, folder);
+        type("editDataFolder", QString());
+        QCOMPARE(part<QLabel>("lblDataNote")->text(), note);
+    }
+
+    void folderThatCannotBeUsedIsToldAndNotTaken_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("relative") << "somewhere";
+        QTest::newRow("below a file") << QDir::current().absoluteFilePath(QStringLiteral("file/folder"));
+    }
+
+    void folderThatCannotBeUsedIsToldAndNotTaken()
+    {
+        QFETCH(QString, folder);
+        QFile file(QStringLiteral("file"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const QString receive = HostSettings::receiveFolder();
+        const QString data = HostSettings::dataFolder();
+        for (const char *edit : {"editReceiveFolder", "editDataFolder"}) {
+            type(edit, folder);
+            QCOMPARE(part<QLabel>("lblFolderError")->text(), QStringLiteral("This folder cannot be used: ") + folder);
+            QCOMPARE(part<QLineEdit>(edit)->text(), folder);
+        }
+        QCOMPARE(HostSettings::receiveFolder(), receive);
+        QCOMPARE(HostSettings::dataFolder(), data);
+        type("editReceiveFolder", receive);
+        QVERIFY(part<QLabel>("lblFolderError")->text().isEmpty());
+    }
+
+    void folderErrorIsGoneWhenThePageOpensAgain_data()
+    {
+        QTest::addColumn<QByteArray>("edit");
+        QTest::newRow("data") << QByteArray("editDataFolder");
+        QTest::newRow("received files") << QByteArray("editReceiveFolder");
+    }
+
+    void folderErrorIsGoneWhenThePageOpensAgain()
+    {
+        QFETCH(QByteArray, edit);
+        SettingsPage &page = m_pWindow->settingsPage();
+        const QString folder = part<QLineEdit>(edit)->text();
+        for (const bool bClosed : {true, false}) {
+            type(edit, QStringLiteral("somewhere"));
+            QVERIFY(WindowProbe::text(&page, "lblFolderError").contains(QStringLiteral("somewhere")));
+            if (bClosed) {
+                QTest::keyClick(&page, Qt::Key_Escape);
+                QVERIFY(!page.isVisible());
+            }
+            QVERIFY(pressButton(m_pWindow.get(), "btnSettings"));
+            QVERIFY(QTest::qWaitForWindowActive(&page, kPatienceMs));
+            QCOMPARE(part<QLabel>("lblFolderError")->text(), QString());
+            QCOMPARE(part<QLineEdit>(edit)->text(), folder);
+        }
+    }
+
+    void folderErrorGoesWithAGoodFolderAndWithTheLanguage()
+    {
+        type("editReceiveFolder", QStringLiteral("somewhere"));
+        QVERIFY(!part<QLabel>("lblFolderError")->text().isEmpty());
+        type("editReceiveFolder", QDir::current().absoluteFilePath(QStringLiteral("good")));
+        QCOMPARE(part<QLabel>("lblFolderError")->text(), QString());
+        type("editReceiveFolder", QStringLiteral("somewhere"));
+        QVERIFY(!part<QLabel>("lblFolderError")->text().isEmpty());
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(&m_pWindow->settingsPage(), &change);
+        QCOMPARE(part<QLabel>("lblFolderError")->text(), QString());
+        QCOMPARE(part<QLineEdit>("editReceiveFolder")->text(),
+                 QDir::current().absoluteFilePath(QStringLiteral("good")));
+    }
+
+    void browsingTakesTheFolder()
+    {
+        const QString folder = QDir::current().absoluteFilePath(QStringLiteral("browsed"));
+        QVERIFY(QDir().mkpath(folder));
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            if (auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget())) {
+                timer.stop();
+                dialog->setDirectory(folder);
+                dialog->selectFile(folder);
+                QMetaObject::invokeMethod(dialog, "accept");
+            }
+        });
+        timer.start(10);
+        QVERIFY(pressButton(&m_pWindow->settingsPage(), "btnReceiveFolder"));
+        QCOMPARE(HostSettings::receiveFolder(), folder);
+        QCOMPARE(part<QLineEdit>("editReceiveFolder")->text(), folder);
+    }
+
+    void languageChangesTheOpenWindows_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("contacts");
+        QTest::addColumn<QString>("presence");
+        QTest::addColumn<QString>("silent");
+        QTest::addColumn<QString>("online");
+        QTest::addColumn<QString>("outcome");
+        QTest::newRow("zh_CN") << "zh_CN" << QStringLiteral("联系人") << QStringLiteral("在线")
+                               << QStringLiteral("来电不响铃(&R)") << QStringLiteral("离线(O)")
+                               << QStringLiteral("忙线");
+        QTest::newRow("zh_TW") << "zh_TW" << QStringLiteral("聯絡人") << QStringLiteral("線上")
+                               << QStringLiteral("來電不響鈴(&R)") << QStringLiteral("離線(O)")
+                               << QStringLiteral("忙線");
+        QTest::newRow("en") << "en"
+                            << "Contacts"
+                            << "online"
+                            << "Keep the &ring of incoming calls silent"
+                            << "Offline"
+                            << "busy";
+    }
+
+    void languageChangesTheOpenWindows()
+    {
+        QFETCH(QString, language);
+        HostLanguage words(QStringLiteral(VOIP_TRANSLATIONS));
+        connect(&m_pSession->settings(), &HostSettings::languageChanged, &words, &HostLanguage::use);
+        QVERIFY(pressButton(&m_pWindow->settingsPage(), qPrintable(QStringLiteral("language_") + language)));
+        QTRY_COMPARE_WITH_TIMEOUT(stored(HostSettings::commonFile(), "/languageSetting/language"), language,
+                                  kPatienceMs);
+        QFETCH(QString, contacts);
+        QTRY_COMPARE_WITH_TIMEOUT(WindowProbe::text(m_pWindow.get(), "lblContacts"), contacts, kPatienceMs);
+        QTEST(WindowProbe::text(m_pWindow->findChild<QWidget *>(QStringLiteral("30010001")), "lblPresence"),
+              "presence");
+        QTEST(part<QCheckBox>("boxSilent")->text(), "silent");
+        QTEST(WindowProbe::text(m_pWindow.get(), "btnOnline"), "online");
+        QTEST(outcomeWord(25), "outcome");
+        QVERIFY(part<QRadioButton>(qPrintable(QStringLiteral("language_") + language))->isChecked());
+    }
+
+    void languageOfAnotherClientShowsAsTheOneInForce()
+    {
+        m_pSession->settings().setLanguage(QStringLiteral("uk"));
+        m_pWindow->settingsPage().open();
+        QVERIFY(part<QRadioButton>("language_en")->isChecked());
+        m_pSession->settings().setLanguage(QStringLiteral("ja"));
+        m_pWindow->settingsPage().open();
+        QVERIFY(part<QRadioButton>("language_zh_CN")->isChecked());
+    }
+
+    void colourReachesThePlugInsWidgetsAndTheClientsWindows()
+    {
+        QVERIFY(m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")));
+        QVERIFY(pressButton(&m_pWindow->settingsPage(), "skin_ThemeBlue"));
+        QTRY_COMPARE_WITH_TIMEOUT(SkinContext::getSkinData()->m_strSkinName, QStringLiteral("ThemeBlue"), kPatienceMs);
+        QCOMPARE(stored(HostSettings::userFile(), "/skinSetting/skinName"), QStringLiteral("ThemeBlue"));
+        QVERIFY(!m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")));
+        QVERIFY(m_pWindow->styleSheet().contains(QStringLiteral("#1f5bb3")));
+        QVERIFY(m_pWindow->settingsPage().styleSheet().contains(QStringLiteral("#1f5bb3")));
+        QCOMPARE(SkinContext::getSkinData()->m_strSecondButtonBackgroundColor, QStringLiteral("#2b83fd"));
+        QCOMPARE(HostSkins::darkColour(), QColor(QStringLiteral("#1f5bb3")));
+        QVERIFY(pressButton(&m_pWindow->settingsPage(), "skin_ThemeGreen"));
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")), kPatienceMs);
+    }
+
+    void colourIsThereAgainAtTheNextStart()
+    {
+        m_pSession->settings().setSkin(QStringLiteral("ThemeRed"));
+        m_pWindow.reset();
+        m_pSession.reset();
+        start();
+        QCOMPARE(SkinContext::getSkinData()->m_strSkinName, QStringLiteral("ThemeRed"));
+        QVERIFY(part<QRadioButton>("skin_ThemeRed")->isChecked());
+    }
+
+    void everySkinHasAPlaceInTheSharedList()
+    {
+        const QList<SysUIData> *skins = SkinContext::getSysUIDataList();
+        QVERIFY(skins != nullptr);
+        QStringList names;
+        QStringList colours;
+        for (const SysUIData &skin : *skins) {
+            names.append(skin.m_strSkinName);
+            colours.append(skin.m_strMainColor);
+            QVERIFY(!skin.m_strShownName.isEmpty());
+        }
+        QCOMPARE(names, HostSkins::names());
+        QCOMPARE(names.size(), 4);
+        QCOMPARE(colours.removeDuplicates(), 0);
+    }
+
+    void unknownSkinChangesNothing()
+    {
+        ConfigFile::changeConfigValue(HostSettings::userFile(), QStringLiteral("/skinSetting/skinName"),
+                                      QStringLiteral("x"));
+        m_pWindow.reset();
+        m_pSession.reset();
+        start();
+        QCOMPARE(SkinContext::getSkinData()->m_strSkinName, HostSkins::standardName());
+        QVERIFY(part<QRadioButton>("skin_ThemeGreen")->isChecked());
+    }
+
+    void tabGoesDownThePage()
+    {
+        SettingsPage &page = m_pWindow->settingsPage();
+        part<QCheckBox>("boxSilent")->setFocus();
+        // A group of choices is one stop or one for each, as the desktop has it.
+        QStringList stops;
+        for (int i = 0; i < 12 && (stops.isEmpty() || stops.last() != "btnClose"); ++i) {
+            QTest::keyClick(page.focusWidget(), Qt::Key_Tab);
+            stops.append(page.focusWidget()->objectName().section('_', 0, 0));
+        }
+        stops.removeDuplicates();
+        QCOMPARE(stops, (QStringList{"language", "skin", "editDataFolder", "btnDataFolder", "editReceiveFolder",
+                                     "btnReceiveFolder", "btnClose"}));
+    }
+
+    void escapeClosesThePage()
+    {
+        QTest::keyClick(&m_pWindow->settingsPage(), Qt::Key_Escape);
+        QVERIFY(!m_pWindow->settingsPage().isVisible());
+        QVERIFY(m_pWindow->isVisible());
+    }
+
+    void filesAreNamed()
+    {
+        const QString files = part<QLabel>("lblFiles")->text();
+        QVERIFY(files.contains(SystemSetData::instance()->m_strUserConfigPath));
+        QVERIFY(files.contains(SystemSetData::instance()->m_strAppInfoPath));
+    }
 
 private:
     template <typename Part>
@@ -88,318 +375,6 @@ private:
     std::unique_ptr<HostSession> m_pSession;
     std::unique_ptr<MainWindow> m_pWindow;
 };
-
-void tst_SettingsPage::init()
-{
-    start();
-}
-
-void tst_SettingsPage::cleanup()
-{
-    m_pWindow.reset();
-    const QString userFile = HostSettings::userFile();
-    m_pSession.reset();
-    QFile::remove(userFile);
-    QFile::remove(HostSettings::commonFile());
-}
-
-void tst_SettingsPage::firstLanguageFollowsTheSystem_data()
-{
-    QTest::addColumn<QString>("system");
-    QTest::addColumn<QString>("language");
-    QTest::newRow("mainland") << "zh_CN"
-                              << "zh_CN";
-    QTest::newRow("Taiwan") << "zh_TW"
-                            << "zh_TW";
-    QTest::newRow("Hong Kong") << "zh_HK"
-                               << "zh_TW";
-    QTest::newRow("German") << "de_DE"
-                            << "en";
-    QTest::newRow("none") << "C"
-                          << "en";
-}
-
-void tst_SettingsPage::firstLanguageFollowsTheSystem()
-{
-    QFETCH(QString, system);
-    QTEST(HostLanguage::firstLanguage(system), "language");
-}
-
-void tst_SettingsPage::chosenAtTheFirstStartTheLanguageStandsInTheFile()
-{
-    const QString language = HostSettings::language();
-    QVERIFY(!language.isEmpty());
-    QCOMPARE(stored(HostSettings::commonFile(), "/languageSetting/language"), language);
-    QCOMPARE(AppInfo::getApplicationLanguage(), language);
-}
-
-void tst_SettingsPage::ringSwitchIsWrittenAndTakesEffect()
-{
-    auto *silent = part<QCheckBox>("boxSilent");
-    QVERIFY(!silent->isChecked());
-    silent->setFocus();
-    QTest::keyClick(silent, Qt::Key_Space);
-    QCOMPARE(stored(HostSettings::userFile(), "/basicSetting/closeVoice"), QStringLiteral("1"));
-    QCOMPARE(SharedContext::getSystemSetData()->m_strCloseVoice, QStringLiteral("1"));
-    QTest::keyClick(silent, Qt::Key_Space);
-    QCOMPARE(stored(HostSettings::userFile(), "/basicSetting/closeVoice"), QStringLiteral("0"));
-    QCOMPARE(SharedContext::getSystemSetData()->m_strCloseVoice, QStringLiteral("0"));
-}
-
-void tst_SettingsPage::ringSwitchFollowsTheFile()
-{
-    m_pWindow->settingsPage().close();
-    HostSettings::setSilent(true);
-    m_pWindow->settingsPage().open();
-    QVERIFY(part<QCheckBox>("boxSilent")->isChecked());
-}
-
-void tst_SettingsPage::receiveFolderIsMadeWrittenAndInForce()
-{
-    const QString folder = QDir::current().absoluteFilePath(QStringLiteral("received/今天"));
-    type("editReceiveFolder", folder);
-    QVERIFY(QDir(folder).exists());
-    QCOMPARE(stored(HostSettings::userFile(), "/msgSetting/transfilepath"), folder);
-    QCOMPARE(SharedContext::getSystemSetData()->m_strTransFilePath, folder);
-}
-
-void tst_SettingsPage::emptyFieldGivesTheStandardFolderBack()
-{
-    const QString standard = HostSettings::receiveFolder();
-    type("editReceiveFolder", QDir::current().absoluteFilePath(QStringLiteral("elsewhere")));
-    QVERIFY(HostSettings::receiveFolder() != standard);
-    type("editReceiveFolder", QString());
-    QCOMPARE(HostSettings::receiveFolder(), standard);
-    QCOMPARE(part<QLineEdit>("editReceiveFolder")->text(), standard);
-}
-
-void tst_SettingsPage::dataFolderIsForTheNextStart()
-{
-    const QString inUse = SharedContext::getSystemSetData()->m_strMsgFilePath;
-    const QString note = part<QLabel>("lblDataNote")->text();
-    const QString folder = QDir::current().absoluteFilePath(QStringLiteral("data"));
-    type("editDataFolder", folder);
-    QCOMPARE(stored(HostSettings::commonFile(), "/msgSetting/msgfilepath"), folder);
-    QCOMPARE(SharedContext::getSystemSetData()->m_strMsgFilePath, inUse);
-    QCOMPARE(part<QLabel>("lblDataNote")->text(),
-             QStringLiteral("Takes effect at the next start; what is in the old folder stays there."));
-    SystemSetData nextStart;
-    nextStart.initCommonData();
-    QCOMPARE(nextStart.m_strMsgFilePath, folder);
-    type("editDataFolder", QString());
-    QCOMPARE(part<QLabel>("lblDataNote")->text(), note);
-}
-
-void tst_SettingsPage::folderThatCannotBeUsedIsToldAndNotTaken_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("relative") << "somewhere";
-    QTest::newRow("below a file") << QDir::current().absoluteFilePath(QStringLiteral("file/folder"));
-}
-
-void tst_SettingsPage::folderThatCannotBeUsedIsToldAndNotTaken()
-{
-    QFETCH(QString, folder);
-    QFile file(QStringLiteral("file"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    const QString receive = HostSettings::receiveFolder();
-    const QString data = HostSettings::dataFolder();
-    for (const char *edit : {"editReceiveFolder", "editDataFolder"}) {
-        type(edit, folder);
-        QCOMPARE(part<QLabel>("lblFolderError")->text(), QStringLiteral("This folder cannot be used: ") + folder);
-        QCOMPARE(part<QLineEdit>(edit)->text(), folder);
-    }
-    QCOMPARE(HostSettings::receiveFolder(), receive);
-    QCOMPARE(HostSettings::dataFolder(), data);
-    type("editReceiveFolder", receive);
-    QVERIFY(part<QLabel>("lblFolderError")->text().isEmpty());
-}
-
-void tst_SettingsPage::folderErrorIsGoneWhenThePageOpensAgain_data()
-{
-    QTest::addColumn<QByteArray>("edit");
-    QTest::newRow("data") << QByteArray("editDataFolder");
-    QTest::newRow("received files") << QByteArray("editReceiveFolder");
-}
-
-void tst_SettingsPage::folderErrorIsGoneWhenThePageOpensAgain()
-{
-    QFETCH(QByteArray, edit);
-    SettingsPage &page = m_pWindow->settingsPage();
-    const QString folder = part<QLineEdit>(edit)->text();
-    for (const bool bClosed : {true, false}) {
-        type(edit, QStringLiteral("somewhere"));
-        QVERIFY(WindowProbe::text(&page, "lblFolderError").contains(QStringLiteral("somewhere")));
-        if (bClosed) {
-            QTest::keyClick(&page, Qt::Key_Escape);
-            QVERIFY(!page.isVisible());
-        }
-        QVERIFY(pressButton(m_pWindow.get(), "btnSettings"));
-        QVERIFY(QTest::qWaitForWindowActive(&page, kPatienceMs));
-        QCOMPARE(part<QLabel>("lblFolderError")->text(), QString());
-        QCOMPARE(part<QLineEdit>(edit)->text(), folder);
-    }
-}
-
-void tst_SettingsPage::folderErrorGoesWithAGoodFolderAndWithTheLanguage()
-{
-    type("editReceiveFolder", QStringLiteral("somewhere"));
-    QVERIFY(!part<QLabel>("lblFolderError")->text().isEmpty());
-    type("editReceiveFolder", QDir::current().absoluteFilePath(QStringLiteral("good")));
-    QCOMPARE(part<QLabel>("lblFolderError")->text(), QString());
-    type("editReceiveFolder", QStringLiteral("somewhere"));
-    QVERIFY(!part<QLabel>("lblFolderError")->text().isEmpty());
-    QEvent change(QEvent::LanguageChange);
-    QCoreApplication::sendEvent(&m_pWindow->settingsPage(), &change);
-    QCOMPARE(part<QLabel>("lblFolderError")->text(), QString());
-    QCOMPARE(part<QLineEdit>("editReceiveFolder")->text(), QDir::current().absoluteFilePath(QStringLiteral("good")));
-}
-
-void tst_SettingsPage::browsingTakesTheFolder()
-{
-    const QString folder = QDir::current().absoluteFilePath(QStringLiteral("browsed"));
-    QVERIFY(QDir().mkpath(folder));
-    QTimer timer;
-    connect(&timer, &QTimer::timeout, this, [&] {
-        if (auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget())) {
-            timer.stop();
-            dialog->setDirectory(folder);
-            dialog->selectFile(folder);
-            QMetaObject::invokeMethod(dialog, "accept");
-        }
-    });
-    timer.start(10);
-    QVERIFY(pressButton(&m_pWindow->settingsPage(), "btnReceiveFolder"));
-    QCOMPARE(HostSettings::receiveFolder(), folder);
-    QCOMPARE(part<QLineEdit>("editReceiveFolder")->text(), folder);
-}
-
-void tst_SettingsPage::languageChangesTheOpenWindows_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("contacts");
-    QTest::addColumn<QString>("presence");
-    QTest::addColumn<QString>("silent");
-    QTest::addColumn<QString>("online");
-    QTest::addColumn<QString>("outcome");
-    QTest::newRow("zh_CN") << "zh_CN" << QStringLiteral("联系人") << QStringLiteral("在线")
-                           << QStringLiteral("来电不响铃(&R)") << QStringLiteral("离线(O)") << QStringLiteral("忙线");
-    QTest::newRow("zh_TW") << "zh_TW" << QStringLiteral("聯絡人") << QStringLiteral("線上")
-                           << QStringLiteral("來電不響鈴(&R)") << QStringLiteral("離線(O)") << QStringLiteral("忙線");
-    QTest::newRow("en") << "en"
-                        << "Contacts"
-                        << "online"
-                        << "Keep the &ring of incoming calls silent"
-                        << "Offline"
-                        << "busy";
-}
-
-void tst_SettingsPage::languageChangesTheOpenWindows()
-{
-    QFETCH(QString, language);
-    HostLanguage words(QStringLiteral(VOIP_TRANSLATIONS));
-    connect(&m_pSession->settings(), &HostSettings::languageChanged, &words, &HostLanguage::use);
-    QVERIFY(pressButton(&m_pWindow->settingsPage(), qPrintable(QStringLiteral("language_") + language)));
-    QTRY_COMPARE_WITH_TIMEOUT(stored(HostSettings::commonFile(), "/languageSetting/language"), language, kPatienceMs);
-    QFETCH(QString, contacts);
-    QTRY_COMPARE_WITH_TIMEOUT(WindowProbe::text(m_pWindow.get(), "lblContacts"), contacts, kPatienceMs);
-    QTEST(WindowProbe::text(m_pWindow->findChild<QWidget *>(QStringLiteral("30010001")), "lblPresence"), "presence");
-    QTEST(part<QCheckBox>("boxSilent")->text(), "silent");
-    QTEST(WindowProbe::text(m_pWindow.get(), "btnOnline"), "online");
-    QTEST(outcomeWord(25), "outcome");
-    QVERIFY(part<QRadioButton>(qPrintable(QStringLiteral("language_") + language))->isChecked());
-}
-
-void tst_SettingsPage::languageOfAnotherClientShowsAsTheOneInForce()
-{
-    m_pSession->settings().setLanguage(QStringLiteral("uk"));
-    m_pWindow->settingsPage().open();
-    QVERIFY(part<QRadioButton>("language_en")->isChecked());
-    m_pSession->settings().setLanguage(QStringLiteral("ja"));
-    m_pWindow->settingsPage().open();
-    QVERIFY(part<QRadioButton>("language_zh_CN")->isChecked());
-}
-
-void tst_SettingsPage::colourReachesThePlugInsWidgetsAndTheClientsWindows()
-{
-    QVERIFY(m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")));
-    QVERIFY(pressButton(&m_pWindow->settingsPage(), "skin_ThemeBlue"));
-    QTRY_COMPARE_WITH_TIMEOUT(SkinContext::getSkinData()->m_strSkinName, QStringLiteral("ThemeBlue"), kPatienceMs);
-    QCOMPARE(stored(HostSettings::userFile(), "/skinSetting/skinName"), QStringLiteral("ThemeBlue"));
-    QVERIFY(!m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")));
-    QVERIFY(m_pWindow->styleSheet().contains(QStringLiteral("#1f5bb3")));
-    QVERIFY(m_pWindow->settingsPage().styleSheet().contains(QStringLiteral("#1f5bb3")));
-    QCOMPARE(SkinContext::getSkinData()->m_strSecondButtonBackgroundColor, QStringLiteral("#2b83fd"));
-    QCOMPARE(HostSkins::darkColour(), QColor(QStringLiteral("#1f5bb3")));
-    QVERIFY(pressButton(&m_pWindow->settingsPage(), "skin_ThemeGreen"));
-    QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")), kPatienceMs);
-}
-
-void tst_SettingsPage::colourIsThereAgainAtTheNextStart()
-{
-    m_pSession->settings().setSkin(QStringLiteral("ThemeRed"));
-    m_pWindow.reset();
-    m_pSession.reset();
-    start();
-    QCOMPARE(SkinContext::getSkinData()->m_strSkinName, QStringLiteral("ThemeRed"));
-    QVERIFY(part<QRadioButton>("skin_ThemeRed")->isChecked());
-}
-
-void tst_SettingsPage::everySkinHasAPlaceInTheSharedList()
-{
-    const QList<SysUIData> *skins = SkinContext::getSysUIDataList();
-    QVERIFY(skins != nullptr);
-    QStringList names;
-    QStringList colours;
-    for (const SysUIData &skin : *skins) {
-        names.append(skin.m_strSkinName);
-        colours.append(skin.m_strMainColor);
-        QVERIFY(!skin.m_strShownName.isEmpty());
-    }
-    QCOMPARE(names, HostSkins::names());
-    QCOMPARE(names.size(), 4);
-    QCOMPARE(colours.removeDuplicates(), 0);
-}
-
-void tst_SettingsPage::unknownSkinChangesNothing()
-{
-    ConfigFile::changeConfigValue(HostSettings::userFile(), QStringLiteral("/skinSetting/skinName"),
-                                  QStringLiteral("x"));
-    m_pWindow.reset();
-    m_pSession.reset();
-    start();
-    QCOMPARE(SkinContext::getSkinData()->m_strSkinName, HostSkins::standardName());
-    QVERIFY(part<QRadioButton>("skin_ThemeGreen")->isChecked());
-}
-
-void tst_SettingsPage::tabGoesDownThePage()
-{
-    SettingsPage &page = m_pWindow->settingsPage();
-    part<QCheckBox>("boxSilent")->setFocus();
-    // A group of choices is one stop or one for each, as the desktop has it.
-    QStringList stops;
-    for (int i = 0; i < 12 && (stops.isEmpty() || stops.last() != "btnClose"); ++i) {
-        QTest::keyClick(page.focusWidget(), Qt::Key_Tab);
-        stops.append(page.focusWidget()->objectName().section('_', 0, 0));
-    }
-    stops.removeDuplicates();
-    QCOMPARE(stops, (QStringList{"language", "skin", "editDataFolder", "btnDataFolder", "editReceiveFolder",
-                                 "btnReceiveFolder", "btnClose"}));
-}
-
-void tst_SettingsPage::escapeClosesThePage()
-{
-    QTest::keyClick(&m_pWindow->settingsPage(), Qt::Key_Escape);
-    QVERIFY(!m_pWindow->settingsPage().isVisible());
-    QVERIFY(m_pWindow->isVisible());
-}
-
-void tst_SettingsPage::filesAreNamed()
-{
-    const QString files = part<QLabel>("lblFiles")->text();
-    QVERIFY(files.contains(SystemSetData::instance()->m_strUserConfigPath));
-    QVERIFY(files.contains(SystemSetData::instance()->m_strAppInfoPath));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_SettingsPage, Widgets)

@@ -12,16 +12,94 @@ class tst_SignatureCard : public QObject
     Q_OBJECT
 
 private slots:
-    void saysWhoItIs();
-    void strangerWithoutASignatureIsSaidToHaveNone();
-    void unknownUserIsNamedById();
-    void changesOverToAnotherPerson();
-    void wordsAreTextAndNoMarkup();
-    void standsOnTheListsLeft();
-    void standsOnTheListsRightWhereTheLeftHasNoRoom();
-    void staysWholeOnTheScreen_data();
-    void staysWholeOnTheScreen();
-    void takesNeitherFocusNorMouse();
+    void saysWhoItIs()
+    {
+        SignatureCard card(m_book);
+        card.showCard(jid("30010002"), {700, 300}, 500);
+        QCOMPARE(WindowProbe::text(&card, "lblName"), QStringLiteral("Maria Silva"));
+        QCOMPARE(WindowProbe::text(&card, "lblSignature"), QStringLiteral("Back in five minutes"));
+        QVERIFY(!card.findChild<QLabel *>(QStringLiteral("lblHead"))->pixmap(Qt::ReturnByValue).isNull());
+    }
+
+    void strangerWithoutASignatureIsSaidToHaveNone()
+    {
+        SignatureCard card(m_book);
+        card.showCard(jid("30010007"), {700, 300}, 500);
+        QCOMPARE(WindowProbe::text(&card, "lblName"), QStringLiteral("韩梅梅"));
+        QCOMPARE(WindowProbe::text(&card, "lblSignature"), QStringLiteral("(no signature)"));
+    }
+
+    void unknownUserIsNamedById()
+    {
+        SignatureCard card(m_book);
+        card.showCard(jid("4711"), {700, 300}, 500);
+        QCOMPARE(WindowProbe::text(&card, "lblName"), QStringLiteral("4711"));
+    }
+
+    void changesOverToAnotherPerson()
+    {
+        SignatureCard card(m_book);
+        card.showCard(jid("30010002"), {700, 300}, 500);
+        card.showCard(jid("30010004"), {700, 400}, 500);
+        QVERIFY(card.isVisible());
+        QCOMPARE(WindowProbe::text(&card, "lblName"), QStringLiteral("Tom Baker"));
+        QCOMPARE(card.y(), 400);
+    }
+
+    void wordsAreTextAndNoMarkup()
+    {
+        SignatureCard card(m_book);
+        card.showCard(QStringLiteral("<b>") + QString(10000, QLatin1Char('x')), {700, 300}, 500);
+        const auto *name = card.findChild<QLabel *>(QStringLiteral("lblName"));
+        QCOMPARE(name->textFormat(), Qt::PlainText);
+        QVERIFY(name->text().startsWith(QStringLiteral("<b>x")));
+        QVERIFY(screen().contains(card.geometry()));
+    }
+
+    void standsOnTheListsLeft()
+    {
+        SignatureCard card(m_book);
+        card.showCard(jid("30010002"), {700, 300}, 500);
+        QVERIFY(card.geometry().right() < 700);
+        QCOMPARE(card.y(), 300);
+    }
+
+    void standsOnTheListsRightWhereTheLeftHasNoRoom()
+    {
+        SignatureCard card(m_book);
+        card.showCard(jid("30010002"), {screen().left() + 20, 300}, 500);
+        QVERIFY(card.x() >= screen().left() + 20 + 500);
+    }
+
+    void staysWholeOnTheScreen_data()
+    {
+        QTest::addColumn<QPoint>("place");
+        QTest::addColumn<int>("width");
+        const QRect area = screen();
+        QTest::newRow("top left") << area.topLeft() - QPoint(50, 50) << 500;
+        QTest::newRow("bottom right") << area.bottomRight() << 500;
+        QTest::newRow("list as wide as the screen") << area.bottomLeft() << area.width();
+        QTest::newRow("far out") << QPoint(100000, 100000) << 500;
+        QTest::newRow("far out on the other side") << QPoint(-100000, -100000) << -1;
+    }
+
+    void staysWholeOnTheScreen()
+    {
+        QFETCH(QPoint, place);
+        QFETCH(int, width);
+        SignatureCard card(m_book);
+        card.showCard(jid("30010002"), place, width);
+        QVERIFY(screen().contains(card.geometry()));
+    }
+
+    void takesNeitherFocusNorMouse()
+    {
+        SignatureCard card(m_book);
+        card.showCard(jid("30010002"), {700, 300}, 500);
+        QVERIFY(card.testAttribute(Qt::WA_ShowWithoutActivating));
+        QVERIFY(card.windowFlags().testFlag(Qt::WindowTransparentForInput));
+        QVERIFY(card.windowFlags().testFlag(Qt::FramelessWindowHint));
+    }
 
 private:
     static QRect screen() { return QGuiApplication::primaryScreen()->availableGeometry(); }
@@ -29,95 +107,6 @@ private:
 
     ContactBook m_book{QStringLiteral("example.org")};
 };
-
-void tst_SignatureCard::saysWhoItIs()
-{
-    SignatureCard card(m_book);
-    card.showCard(jid("30010002"), {700, 300}, 500);
-    QCOMPARE(WindowProbe::text(&card, "lblName"), QStringLiteral("Maria Silva"));
-    QCOMPARE(WindowProbe::text(&card, "lblSignature"), QStringLiteral("Back in five minutes"));
-    QVERIFY(!card.findChild<QLabel *>(QStringLiteral("lblHead"))->pixmap(Qt::ReturnByValue).isNull());
-}
-
-void tst_SignatureCard::strangerWithoutASignatureIsSaidToHaveNone()
-{
-    SignatureCard card(m_book);
-    card.showCard(jid("30010007"), {700, 300}, 500);
-    QCOMPARE(WindowProbe::text(&card, "lblName"), QStringLiteral("韩梅梅"));
-    QCOMPARE(WindowProbe::text(&card, "lblSignature"), QStringLiteral("(no signature)"));
-}
-
-void tst_SignatureCard::unknownUserIsNamedById()
-{
-    SignatureCard card(m_book);
-    card.showCard(jid("4711"), {700, 300}, 500);
-    QCOMPARE(WindowProbe::text(&card, "lblName"), QStringLiteral("4711"));
-}
-
-void tst_SignatureCard::changesOverToAnotherPerson()
-{
-    SignatureCard card(m_book);
-    card.showCard(jid("30010002"), {700, 300}, 500);
-    card.showCard(jid("30010004"), {700, 400}, 500);
-    QVERIFY(card.isVisible());
-    QCOMPARE(WindowProbe::text(&card, "lblName"), QStringLiteral("Tom Baker"));
-    QCOMPARE(card.y(), 400);
-}
-
-void tst_SignatureCard::wordsAreTextAndNoMarkup()
-{
-    SignatureCard card(m_book);
-    card.showCard(QStringLiteral("<b>") + QString(10000, QLatin1Char('x')), {700, 300}, 500);
-    const auto *name = card.findChild<QLabel *>(QStringLiteral("lblName"));
-    QCOMPARE(name->textFormat(), Qt::PlainText);
-    QVERIFY(name->text().startsWith(QStringLiteral("<b>x")));
-    QVERIFY(screen().contains(card.geometry()));
-}
-
-void tst_SignatureCard::standsOnTheListsLeft()
-{
-    SignatureCard card(m_book);
-    card.showCard(jid("30010002"), {700, 300}, 500);
-    QVERIFY(card.geometry().right() < 700);
-    QCOMPARE(card.y(), 300);
-}
-
-void tst_SignatureCard::standsOnTheListsRightWhereTheLeftHasNoRoom()
-{
-    SignatureCard card(m_book);
-    card.showCard(jid("30010002"), {screen().left() + 20, 300}, 500);
-    QVERIFY(card.x() >= screen().left() + 20 + 500);
-}
-
-void tst_SignatureCard::staysWholeOnTheScreen_data()
-{
-    QTest::addColumn<QPoint>("place");
-    QTest::addColumn<int>("width");
-    const QRect area = screen();
-    QTest::newRow("top left") << area.topLeft() - QPoint(50, 50) << 500;
-    QTest::newRow("bottom right") << area.bottomRight() << 500;
-    QTest::newRow("list as wide as the screen") << area.bottomLeft() << area.width();
-    QTest::newRow("far out") << QPoint(100000, 100000) << 500;
-    QTest::newRow("far out on the other side") << QPoint(-100000, -100000) << -1;
-}
-
-void tst_SignatureCard::staysWholeOnTheScreen()
-{
-    QFETCH(QPoint, place);
-    QFETCH(int, width);
-    SignatureCard card(m_book);
-    card.showCard(jid("30010002"), place, width);
-    QVERIFY(screen().contains(card.geometry()));
-}
-
-void tst_SignatureCard::takesNeitherFocusNorMouse()
-{
-    SignatureCard card(m_book);
-    card.showCard(jid("30010002"), {700, 300}, 500);
-    QVERIFY(card.testAttribute(Qt::WA_ShowWithoutActivating));
-    QVERIFY(card.windowFlags().testFlag(Qt::WindowTransparentForInput));
-    QVERIFY(card.windowFlags().testFlag(Qt::FramelessWindowHint));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_SignatureCard, Widgets)

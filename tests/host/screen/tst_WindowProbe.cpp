@@ -32,15 +32,104 @@ class tst_WindowProbe : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cellOfAnyColumnIsFound();
-    void emptyCellsDoNotCount();
-    void rowThatIsScrolledAwayHasNoPlace();
-    void partIsTheMiddleOfItsRectangle();
-    void rowWithoutThatPartHasNoPlace();
-    void hiddenListHasNoRows();
-    void buttonThatCannotBePressedHasNoPlace();
-    void windowThatIsTooSmallGetsItsSizeBackForThePicture();
+    void init()
+    {
+        m_rows.clear();
+        m_cells.clear();
+        m_window = std::make_unique<QWidget>();
+        auto *layout = new QVBoxLayout(window());
+        m_list = new QListView;
+        m_list->setObjectName(QStringLiteral("rows"));
+        m_list->setModel(&m_rows);
+        auto *grid = new QTableView;
+        grid->setObjectName(QStringLiteral("cells"));
+        grid->setModel(&m_cells);
+        auto *button = new QPushButton;
+        button->setObjectName(QStringLiteral("button"));
+        for (QWidget *part :
+             {static_cast<QWidget *>(m_list), static_cast<QWidget *>(grid), static_cast<QWidget *>(button)}) {
+            layout->addWidget(part);
+        }
+        for (int i = 0; i < 100; ++i) {
+            m_rows.appendRow(itemOf(QByteArray::number(i).constData(), i == 0 ? QRect(10, 4, 20, 10) : QRect()));
+        }
+        m_cells.setItem(0, 0, itemOf("a"));
+        m_cells.setItem(0, 1, itemOf("b"));
+        m_cells.setItem(1, 0, itemOf("c"));
+        window()->resize(400, 400);
+        window()->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window(), kPatienceMs));
+    }
+
+    void cellOfAnyColumnIsFound()
+    {
+        QCOMPARE(WindowProbe::rowData(window(), {"cells", idRole, QStringLiteral("b")}, Qt::DisplayRole).toString(),
+                 QStringLiteral("b"));
+        QVERIFY(!WindowProbe::rowData(window(), {"cells", idRole, QStringLiteral("d")}, Qt::DisplayRole).isValid());
+    }
+
+    void emptyCellsDoNotCount()
+    {
+        QCOMPARE(WindowProbe::rowCount(window(), "cells", idRole), 3);
+        QCOMPARE(WindowProbe::rowCount(window(), "rows", idRole), 100);
+    }
+
+    void rowThatIsScrolledAwayHasNoPlace()
+    {
+        QCOMPARE(WindowProbe::rowMiddle(window(), {"rows", idRole, QStringLiteral("0")}).widget, m_list->viewport());
+        QVERIFY(WindowProbe::rowMiddle(window(), {"rows", idRole, QStringLiteral("99")}).widget == nullptr);
+        m_list->scrollToBottom();
+        QCOMPARE(WindowProbe::rowMiddle(window(), {"rows", idRole, QStringLiteral("99")}).widget, m_list->viewport());
+    }
+
+    void partIsTheMiddleOfItsRectangle()
+    {
+        const WindowProbe::Spot spot = WindowProbe::rowPart(window(), {"rows", idRole, QStringLiteral("0")}, rectRole);
+        QCOMPARE(spot.widget, m_list->viewport());
+        QCOMPARE(spot.place, QRect(10, 4, 20, 10).center());
+    }
+
+    void rowWithoutThatPartHasNoPlace()
+    {
+        QVERIFY(WindowProbe::rowPart(window(), {"rows", idRole, QStringLiteral("1")}, rectRole).widget == nullptr);
+        QVERIFY(WindowProbe::rowPart(window(), {"rows", idRole, QStringLiteral("no")}, rectRole).widget == nullptr);
+    }
+
+    void hiddenListHasNoRows()
+    {
+        m_list->hide();
+        QCOMPARE(WindowProbe::rowCount(window(), "rows", idRole), -1);
+        QVERIFY(WindowProbe::rowMiddle(window(), {"rows", idRole, QStringLiteral("0")}).widget == nullptr);
+    }
+
+    void buttonThatCannotBePressedHasNoPlace()
+    {
+        auto *button = window()->findChild<QPushButton *>();
+        QCOMPARE(WindowProbe::button(window(), "button").widget, button);
+        button->setEnabled(false);
+        QVERIFY(WindowProbe::button(window(), "button").widget == nullptr);
+        button->setEnabled(true);
+        button->hide();
+        QVERIFY(WindowProbe::button(window(), "button").widget == nullptr);
+        QVERIFY(WindowProbe::button(nullptr, "button").widget == nullptr);
+    }
+
+    void windowThatIsTooSmallGetsItsSizeBackForThePicture()
+    {
+        const QString file = QDir::current().filePath(QStringLiteral("window.png"));
+        const QSize least = window()->minimumSizeHint();
+        window()->layout()->setSizeConstraint(QLayout::SetNoConstraint);
+        window()->setMinimumSize(1, 1);
+        window()->resize(least / 2);
+        QVERIFY(window()->frameGeometry().width() < least.width());
+        QVERIFY(!WindowProbe::savePicture(window(), file));
+        QVERIFY(!QFile::exists(file));
+        QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::savePicture(window(), file), kPatienceMs);
+        const QSize saved = QImage(file).size();
+        QVERIFY2(saved.width() >= least.width() && saved.height() >= least.height(),
+                 qPrintable(QStringLiteral("%1x%2").arg(saved.width()).arg(saved.height())));
+        QVERIFY(!WindowProbe::savePicture(nullptr, file));
+    }
 
 private:
     QWidget *window() const { return m_window.get(); }
@@ -50,105 +139,6 @@ private:
     QStandardItemModel m_cells;
     QListView *m_list = nullptr;
 };
-
-void tst_WindowProbe::init()
-{
-    m_rows.clear();
-    m_cells.clear();
-    m_window = std::make_unique<QWidget>();
-    auto *layout = new QVBoxLayout(window());
-    m_list = new QListView;
-    m_list->setObjectName(QStringLiteral("rows"));
-    m_list->setModel(&m_rows);
-    auto *grid = new QTableView;
-    grid->setObjectName(QStringLiteral("cells"));
-    grid->setModel(&m_cells);
-    auto *button = new QPushButton;
-    button->setObjectName(QStringLiteral("button"));
-    for (QWidget *part :
-         {static_cast<QWidget *>(m_list), static_cast<QWidget *>(grid), static_cast<QWidget *>(button)}) {
-        layout->addWidget(part);
-    }
-    for (int i = 0; i < 100; ++i) {
-        m_rows.appendRow(itemOf(QByteArray::number(i).constData(), i == 0 ? QRect(10, 4, 20, 10) : QRect()));
-    }
-    m_cells.setItem(0, 0, itemOf("a"));
-    m_cells.setItem(0, 1, itemOf("b"));
-    m_cells.setItem(1, 0, itemOf("c"));
-    window()->resize(400, 400);
-    window()->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window(), kPatienceMs));
-}
-
-void tst_WindowProbe::cellOfAnyColumnIsFound()
-{
-    QCOMPARE(WindowProbe::rowData(window(), {"cells", idRole, QStringLiteral("b")}, Qt::DisplayRole).toString(),
-             QStringLiteral("b"));
-    QVERIFY(!WindowProbe::rowData(window(), {"cells", idRole, QStringLiteral("d")}, Qt::DisplayRole).isValid());
-}
-
-void tst_WindowProbe::emptyCellsDoNotCount()
-{
-    QCOMPARE(WindowProbe::rowCount(window(), "cells", idRole), 3);
-    QCOMPARE(WindowProbe::rowCount(window(), "rows", idRole), 100);
-}
-
-void tst_WindowProbe::rowThatIsScrolledAwayHasNoPlace()
-{
-    QCOMPARE(WindowProbe::rowMiddle(window(), {"rows", idRole, QStringLiteral("0")}).widget, m_list->viewport());
-    QVERIFY(WindowProbe::rowMiddle(window(), {"rows", idRole, QStringLiteral("99")}).widget == nullptr);
-    m_list->scrollToBottom();
-    QCOMPARE(WindowProbe::rowMiddle(window(), {"rows", idRole, QStringLiteral("99")}).widget, m_list->viewport());
-}
-
-void tst_WindowProbe::partIsTheMiddleOfItsRectangle()
-{
-    const WindowProbe::Spot spot = WindowProbe::rowPart(window(), {"rows", idRole, QStringLiteral("0")}, rectRole);
-    QCOMPARE(spot.widget, m_list->viewport());
-    QCOMPARE(spot.place, QRect(10, 4, 20, 10).center());
-}
-
-void tst_WindowProbe::rowWithoutThatPartHasNoPlace()
-{
-    QVERIFY(WindowProbe::rowPart(window(), {"rows", idRole, QStringLiteral("1")}, rectRole).widget == nullptr);
-    QVERIFY(WindowProbe::rowPart(window(), {"rows", idRole, QStringLiteral("no")}, rectRole).widget == nullptr);
-}
-
-void tst_WindowProbe::hiddenListHasNoRows()
-{
-    m_list->hide();
-    QCOMPARE(WindowProbe::rowCount(window(), "rows", idRole), -1);
-    QVERIFY(WindowProbe::rowMiddle(window(), {"rows", idRole, QStringLiteral("0")}).widget == nullptr);
-}
-
-void tst_WindowProbe::buttonThatCannotBePressedHasNoPlace()
-{
-    auto *button = window()->findChild<QPushButton *>();
-    QCOMPARE(WindowProbe::button(window(), "button").widget, button);
-    button->setEnabled(false);
-    QVERIFY(WindowProbe::button(window(), "button").widget == nullptr);
-    button->setEnabled(true);
-    button->hide();
-    QVERIFY(WindowProbe::button(window(), "button").widget == nullptr);
-    QVERIFY(WindowProbe::button(nullptr, "button").widget == nullptr);
-}
-
-void tst_WindowProbe::windowThatIsTooSmallGetsItsSizeBackForThePicture()
-{
-    const QString file = QDir::current().filePath(QStringLiteral("window.png"));
-    const QSize least = window()->minimumSizeHint();
-    window()->layout()->setSizeConstraint(QLayout::SetNoConstraint);
-    window()->setMinimumSize(1, 1);
-    window()->resize(least / 2);
-    QVERIFY(window()->frameGeometry().width() < least.width());
-    QVERIFY(!WindowProbe::savePicture(window(), file));
-    QVERIFY(!QFile::exists(file));
-    QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::savePicture(window(), file), kPatienceMs);
-    const QSize saved = QImage(file).size();
-    QVERIFY2(saved.width() >= least.width() && saved.height() >= least.height(),
-             qPrintable(QStringLiteral("%1x%2").arg(saved.width()).arg(saved.height())));
-    QVERIFY(!WindowProbe::savePicture(nullptr, file));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_WindowProbe, Widgets)

@@ -13,131 +13,123 @@ class tst_Tour : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void everyStepHasItsEffect();
-    void pictureOfEveryWindowIsTaken();
-    void pictureOfTheDocumentationIsTaken_data();
-    void pictureOfTheDocumentationIsTaken();
-    void endedByASignalItEndsTheCallProcess();
-    void withoutTheModuleTheClientSaysSoAndEnds();
+    void initTestCase()
+    {
+        // The tour counts Qt's warnings, and a missing runtime folder would be one more.
+        QVERIFY(QDir().mkdir(QStringLiteral("run")));
+        QVERIFY(QFile::setPermissions(QStringLiteral("run"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        m_environment.insert(QStringLiteral("XDG_RUNTIME_DIR"),
+                             QDir::current().absoluteFilePath(QStringLiteral("run")));
+    }
+
+    void everyStepHasItsEffect()
+    {
+        QProcess demo;
+        demo.setProcessEnvironment(m_environment);
+        demo.setProcessChannelMode(QProcess::MergedChannels);
+        demo.start(m_strDemo, {QStringLiteral("--tour"), QStringLiteral("tour")});
+        QVERIFY(demo.waitForFinished(500000));
+        const QByteArray words = demo.readAll();
+        // A message holds about a thousand characters, so the last ones are what tells the missing effect.
+        QVERIFY2(demo.exitStatus() == QProcess::NormalExit && demo.exitCode() == 0, words.right(900).constData());
+        QVERIFY2(!words.contains("MISS"), words.right(900).constData());
+        QVERIFY(words.contains("steps had their effect"));
+        // Closing the window quits, and so does the end of the program behind it.
+        QCOMPARE(words.count("4763 quit"), 1);
+    }
+
+    void pictureOfEveryWindowIsTaken()
+    {
+        const QStringList pictures = QDir(QStringLiteral("tour")).entryList({QStringLiteral("*.png")});
+        QCOMPARE(pictures, (QStringList{QStringLiteral("call-incoming.png"),
+                                        QStringLiteral("call-outgoing.png"),
+                                        QStringLiteral("call-video.png"),
+                                        QStringLiteral("call-voice.png"),
+                                        QStringLiteral("centre-card.png"),
+                                        QStringLiteral("centre-detail.png"),
+                                        QStringLiteral("centre-list.png"),
+                                        QStringLiteral("centre-menu.png"),
+                                        QStringLiteral("close-question.png"),
+                                        QStringLiteral("conference-invited.png"),
+                                        QStringLiteral("conference-more.png"),
+                                        QStringLiteral("conference-muted.png"),
+                                        QStringLiteral("conference-picker.png"),
+                                        QStringLiteral("conference.png"),
+                                        QStringLiteral("demo-window.png"),
+                                        QStringLiteral("desktop.png"),
+                                        QStringLiteral("happenings-conference.png"),
+                                        QStringLiteral("happenings.png"),
+                                        QStringLiteral("incoming-prompt.png"),
+                                        QStringLiteral("message-no-process.png"),
+                                        QStringLiteral("message.png"),
+                                        QStringLiteral("settings.png")}));
+        for (const QString &picture : pictures) {
+            const QImage image(QStringLiteral("tour/") + picture);
+            QVERIFY2(image.width() > 80 && image.height() > 60, qPrintable(picture));
+        }
+    }
+
+    void pictureOfTheDocumentationIsTaken_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"call-video", "call-voice", "centre-detail", "centre-list", "conference", "desktop"}) {
+            QTest::newRow(name) << QLatin1String(name) + QStringLiteral(".png");
+        }
+    }
+
+    void pictureOfTheDocumentationIsTaken()
+    {
+        QFETCH(QString, name);
+        const QImage documented(QStringLiteral(VOIP_SOURCE_DIR "/docs/pictures/") + name);
+        QVERIFY(!documented.isNull());
+        // What the pictures show differs in clocks and dates; their windows do not.
+        if (name != QStringLiteral("desktop.png")) {
+            QCOMPARE(QImage(QStringLiteral("tour/") + name).size(), documented.size());
+        }
+    }
+
+    void endedByASignalItEndsTheCallProcess()
+    {
+        const QString trace = QDir::current().absoluteFilePath(QStringLiteral("wire.txt"));
+        m_environment.insert(QStringLiteral("VOIPSDK_TRACE"), trace);
+        QProcess demo;
+        demo.setProcessEnvironment(m_environment);
+        demo.start(m_strDemo, QStringList());
+        QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::FromPlugin, QStringLiteral("RegeditUser")), kPatienceMs);
+        demo.terminate();
+        QVERIFY(demo.waitForFinished(kPatienceMs));
+        QCOMPARE(demo.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(demo.exitCode(), 130);
+        QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::Event, QStringLiteral("stopped listening")), kPatienceMs);
+        QVERIFY(isTraced(trace, WireLine::FromPlugin, QStringLiteral("quit")));
+    }
+
+    void withoutTheModuleTheClientSaysSoAndEnds()
+    {
+        const QString lonely = QDir::current().absoluteFilePath(QStringLiteral("kelvarim-demo"));
+        QVERIFY(QFile::copy(m_strDemo, lonely));
+        QProcess demo;
+        demo.setProcessEnvironment(m_environment);
+        demo.start(lonely, {QStringLiteral("--tour"), QStringLiteral("tour-without")});
+        QVERIFY(demo.waitForFinished(kPatienceMs));
+        QCOMPARE(demo.exitCode(), 1);
+        QVERIFY(demo.readAllStandardError().contains("libVoipManage.so"));
+    }
 
 private:
     /// Whether the trace holds the text in a line of that direction by now.
-    static bool isTraced(const QString &strFile, WireLine::Direction direction, const QString &strText);
+
+    static bool isTraced(const QString &strFile, WireLine::Direction direction, const QString &strText)
+    {
+        const QList<WireLine> lines = WireTrace(strFile).readNew();
+        return std::any_of(lines.begin(), lines.end(), [&](const WireLine &line) {
+            return line.direction == direction && line.text.contains(strText);
+        });
+    }
 
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
     const QString m_strDemo = QStringLiteral(VOIP_BIN_DIR "/kelvarim-demo");
 };
-
-void tst_Tour::initTestCase()
-{
-    // The tour counts Qt's warnings, and a missing runtime folder would be one more.
-    QVERIFY(QDir().mkdir(QStringLiteral("run")));
-    QVERIFY(QFile::setPermissions(QStringLiteral("run"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    m_environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), QDir::current().absoluteFilePath(QStringLiteral("run")));
-}
-
-bool tst_Tour::isTraced(const QString &strFile, WireLine::Direction direction, const QString &strText)
-{
-    const QList<WireLine> lines = WireTrace(strFile).readNew();
-    return std::any_of(lines.begin(), lines.end(), [&](const WireLine &line) {
-        return line.direction == direction && line.text.contains(strText);
-    });
-}
-
-void tst_Tour::everyStepHasItsEffect()
-{
-    QProcess demo;
-    demo.setProcessEnvironment(m_environment);
-    demo.setProcessChannelMode(QProcess::MergedChannels);
-    demo.start(m_strDemo, {QStringLiteral("--tour"), QStringLiteral("tour")});
-    QVERIFY(demo.waitForFinished(500000));
-    const QByteArray words = demo.readAll();
-    // A message holds about a thousand characters, so the last ones are what tells the missing effect.
-    QVERIFY2(demo.exitStatus() == QProcess::NormalExit && demo.exitCode() == 0, words.right(900).constData());
-    QVERIFY2(!words.contains("MISS"), words.right(900).constData());
-    QVERIFY(words.contains("steps had their effect"));
-    // Closing the window quits, and so does the end of the program behind it.
-    QCOMPARE(words.count("4763 quit"), 1);
-}
-
-void tst_Tour::pictureOfEveryWindowIsTaken()
-{
-    const QStringList pictures = QDir(QStringLiteral("tour")).entryList({QStringLiteral("*.png")});
-    QCOMPARE(pictures, (QStringList{QStringLiteral("call-incoming.png"),
-                                    QStringLiteral("call-outgoing.png"),
-                                    QStringLiteral("call-video.png"),
-                                    QStringLiteral("call-voice.png"),
-                                    QStringLiteral("centre-card.png"),
-                                    QStringLiteral("centre-detail.png"),
-                                    QStringLiteral("centre-list.png"),
-                                    QStringLiteral("centre-menu.png"),
-                                    QStringLiteral("close-question.png"),
-                                    QStringLiteral("conference-invited.png"),
-                                    QStringLiteral("conference-more.png"),
-                                    QStringLiteral("conference-muted.png"),
-                                    QStringLiteral("conference-picker.png"),
-                                    QStringLiteral("conference.png"),
-                                    QStringLiteral("demo-window.png"),
-                                    QStringLiteral("desktop.png"),
-                                    QStringLiteral("happenings-conference.png"),
-                                    QStringLiteral("happenings.png"),
-                                    QStringLiteral("incoming-prompt.png"),
-                                    QStringLiteral("message-no-process.png"),
-                                    QStringLiteral("message.png"),
-                                    QStringLiteral("settings.png")}));
-    for (const QString &picture : pictures) {
-        const QImage image(QStringLiteral("tour/") + picture);
-        QVERIFY2(image.width() > 80 && image.height() > 60, qPrintable(picture));
-    }
-}
-
-void tst_Tour::pictureOfTheDocumentationIsTaken_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char *name : {"call-video", "call-voice", "centre-detail", "centre-list", "conference", "desktop"}) {
-        QTest::newRow(name) << QLatin1String(name) + QStringLiteral(".png");
-    }
-}
-
-void tst_Tour::pictureOfTheDocumentationIsTaken()
-{
-    QFETCH(QString, name);
-    const QImage documented(QStringLiteral(VOIP_SOURCE_DIR "/docs/pictures/") + name);
-    QVERIFY(!documented.isNull());
-    // What the pictures show differs in clocks and dates; their windows do not.
-    if (name != QStringLiteral("desktop.png")) {
-        QCOMPARE(QImage(QStringLiteral("tour/") + name).size(), documented.size());
-    }
-}
-
-void tst_Tour::endedByASignalItEndsTheCallProcess()
-{
-    const QString trace = QDir::current().absoluteFilePath(QStringLiteral("wire.txt"));
-    m_environment.insert(QStringLiteral("VOIPSDK_TRACE"), trace);
-    QProcess demo;
-    demo.setProcessEnvironment(m_environment);
-    demo.start(m_strDemo, QStringList());
-    QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::FromPlugin, QStringLiteral("RegeditUser")), kPatienceMs);
-    demo.terminate();
-    QVERIFY(demo.waitForFinished(kPatienceMs));
-    QCOMPARE(demo.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(demo.exitCode(), 130);
-    QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::Event, QStringLiteral("stopped listening")), kPatienceMs);
-    QVERIFY(isTraced(trace, WireLine::FromPlugin, QStringLiteral("quit")));
-}
-
-void tst_Tour::withoutTheModuleTheClientSaysSoAndEnds()
-{
-    const QString lonely = QDir::current().absoluteFilePath(QStringLiteral("kelvarim-demo"));
-    QVERIFY(QFile::copy(m_strDemo, lonely));
-    QProcess demo;
-    demo.setProcessEnvironment(m_environment);
-    demo.start(lonely, {QStringLiteral("--tour"), QStringLiteral("tour-without")});
-    QVERIFY(demo.waitForFinished(kPatienceMs));
-    QCOMPARE(demo.exitCode(), 1);
-    QVERIFY(demo.readAllStandardError().contains("libVoipManage.so"));
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_Tour, Guiless)

@@ -37,17 +37,149 @@ class tst_TourHand : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void clickReachesTheButton();
-    void clicksAreDoneInTheirOrder();
-    void windowBehindAnotherIsBroughtToTheFront();
-    void buttonIsPressedOnlyOnceItIsThere();
-    void movingTargetIsFollowed();
-    void rightButtonAndDoubleClickArriveAsSuch();
-    void menuItemIsChosenWhereThePointerOpenedTheMenu();
-    void hoverStaysWithoutAPress();
-    void pointerGoesOutOfTheWayAfterAClick();
-    void whatLastsForLessThanATickIsSeen();
+    void init()
+    {
+        m_hand = std::make_unique<TourHand>();
+        QVERIFY(m_hand->isReady());
+        m_hand->rest();
+    }
+
+    void clickReachesTheButton()
+    {
+        QPushButton button;
+        show(button, {100, 100});
+        const QSignalSpy clicked(&button, &QPushButton::clicked);
+        m_hand->click(at(&button));
+        QVERIFY(!m_hand->isIdle());
+        QVERIFY(finished());
+        QCOMPARE(clicked.count(), 1);
+    }
+
+    void clicksAreDoneInTheirOrder()
+    {
+        QPushButton first;
+        QPushButton second;
+        show(first, {100, 100});
+        show(second, {500, 100});
+        QStringList order;
+        connect(&first, &QPushButton::clicked, this, [&] { order << QStringLiteral("first"); });
+        connect(&second, &QPushButton::clicked, this, [&] { order << QStringLiteral("second"); });
+        m_hand->click(at(&second));
+        m_hand->click(at(&first));
+        QVERIFY(finished());
+        QCOMPARE(order, (QStringList{QStringLiteral("second"), QStringLiteral("first")}));
+    }
+
+    void windowBehindAnotherIsBroughtToTheFront()
+    {
+        QPushButton behind;
+        show(behind, {100, 100});
+        Listener front;
+        show(front, {100, 100});
+        const QSignalSpy clicked(&behind, &QPushButton::clicked);
+        m_hand->click(at(&behind));
+        QVERIFY(finished());
+        QCOMPARE(clicked.count(), 1);
+        QVERIFY(front.presses.isEmpty());
+    }
+
+    void buttonIsPressedOnlyOnceItIsThere()
+    {
+        QPushButton button;
+        const QSignalSpy clicked(&button, &QPushButton::clicked);
+        m_hand->click(at(&button));
+        for (int i = 0; i < 100; ++i) {
+            m_hand->work();
+        }
+        QVERIFY(!m_hand->isIdle());
+        show(button, {100, 100});
+        QVERIFY(finished());
+        QCOMPARE(clicked.count(), 1);
+    }
+
+    void movingTargetIsFollowed()
+    {
+        QPushButton button;
+        show(button, {100, 100});
+        const QSignalSpy clicked(&button, &QPushButton::clicked);
+        m_hand->click(at(&button));
+        m_hand->work();
+        button.move(600, 400);
+        QVERIFY(finished());
+        QCOMPARE(clicked.count(), 1);
+    }
+
+    void rightButtonAndDoubleClickArriveAsSuch()
+    {
+        Listener window;
+        show(window, {100, 100});
+        m_hand->click(at(&window), Qt::RightButton);
+        QVERIFY(finished());
+        QCOMPARE(window.presses, QList<Qt::MouseButton>{Qt::RightButton});
+        m_hand->click(at(&window), Qt::LeftButton, 2);
+        QVERIFY(finished());
+        QCOMPARE(window.presses, (QList<Qt::MouseButton>{Qt::RightButton, Qt::LeftButton}));
+        QCOMPARE(window.doubles, QList<Qt::MouseButton>{Qt::LeftButton});
+    }
+
+    void menuItemIsChosenWhereThePointerOpenedTheMenu()
+    {
+        QPushButton button;
+        show(button, {100, 100});
+        QMenu menu;
+        menu.addAction(QStringLiteral("one"));
+        menu.addAction(QStringLiteral("two"));
+        QPoint opened;
+        connect(&button, &QPushButton::clicked, this, [&] {
+            opened = QCursor::pos();
+            menu.popup(opened);
+        });
+        const QSignalSpy triggered(&menu, &QMenu::triggered);
+        m_hand->click(at(&button));
+        m_hand->click([] { return WindowProbe::menuItem(QStringLiteral("two")); });
+        QVERIFY(finished());
+        QCOMPARE(opened, button.mapToGlobal(button.rect().center()));
+        QCOMPARE(triggered.count(), 1);
+        QCOMPARE(triggered.at(0).at(0).value<QAction *>()->text(), QStringLiteral("two"));
+    }
+
+    void hoverStaysWithoutAPress()
+    {
+        Listener window;
+        show(window, {100, 100});
+        m_hand->hover(at(&window));
+        QVERIFY(finished());
+        QCOMPARE(QCursor::pos(), window.mapToGlobal(window.rect().center()));
+        QVERIFY(window.underMouse());
+        QVERIFY(window.presses.isEmpty());
+    }
+
+    void pointerGoesOutOfTheWayAfterAClick()
+    {
+        QPushButton button;
+        show(button, {100, 100});
+        m_hand->click(at(&button));
+        QVERIFY(finished());
+        QTRY_VERIFY_WITH_TIMEOUT(!button.geometry().contains(QCursor::pos()), kPatienceMs);
+    }
+
+    void whatLastsForLessThanATickIsSeen()
+    {
+        ContactBook book(QStringLiteral("example.org"));
+        HostSession session(book);
+        TourWatch watch(session, QStringLiteral("no trace"));
+        Flash flash;
+        const auto act = [&flash] {
+            QCoreApplication::postEvent(&flash, new QEvent(QEvent::User));
+            return true;
+        };
+        const TourCheck check{QStringLiteral("it flashes"), [&flash] { return flash.shown; }};
+        Tour tour(watch, *m_hand, {{QStringLiteral("Flash"), act, {check}, 1000}}, QString());
+        const QSignalSpy finished(&tour, &Tour::finished);
+        tour.start();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, kPatienceMs);
+        QVERIFY(finished.at(0).at(0).toBool());
+    }
 
 private:
     struct Listener : QPushButton
@@ -85,150 +217,6 @@ private:
 
     std::unique_ptr<TourHand> m_hand;
 };
-
-void tst_TourHand::init()
-{
-    m_hand = std::make_unique<TourHand>();
-    QVERIFY(m_hand->isReady());
-    m_hand->rest();
-}
-
-void tst_TourHand::clickReachesTheButton()
-{
-    QPushButton button;
-    show(button, {100, 100});
-    const QSignalSpy clicked(&button, &QPushButton::clicked);
-    m_hand->click(at(&button));
-    QVERIFY(!m_hand->isIdle());
-    QVERIFY(finished());
-    QCOMPARE(clicked.count(), 1);
-}
-
-void tst_TourHand::clicksAreDoneInTheirOrder()
-{
-    QPushButton first;
-    QPushButton second;
-    show(first, {100, 100});
-    show(second, {500, 100});
-    QStringList order;
-    connect(&first, &QPushButton::clicked, this, [&] { order << QStringLiteral("first"); });
-    connect(&second, &QPushButton::clicked, this, [&] { order << QStringLiteral("second"); });
-    m_hand->click(at(&second));
-    m_hand->click(at(&first));
-    QVERIFY(finished());
-    QCOMPARE(order, (QStringList{QStringLiteral("second"), QStringLiteral("first")}));
-}
-
-void tst_TourHand::windowBehindAnotherIsBroughtToTheFront()
-{
-    QPushButton behind;
-    show(behind, {100, 100});
-    Listener front;
-    show(front, {100, 100});
-    const QSignalSpy clicked(&behind, &QPushButton::clicked);
-    m_hand->click(at(&behind));
-    QVERIFY(finished());
-    QCOMPARE(clicked.count(), 1);
-    QVERIFY(front.presses.isEmpty());
-}
-
-void tst_TourHand::buttonIsPressedOnlyOnceItIsThere()
-{
-    QPushButton button;
-    const QSignalSpy clicked(&button, &QPushButton::clicked);
-    m_hand->click(at(&button));
-    for (int i = 0; i < 100; ++i) {
-        m_hand->work();
-    }
-    QVERIFY(!m_hand->isIdle());
-    show(button, {100, 100});
-    QVERIFY(finished());
-    QCOMPARE(clicked.count(), 1);
-}
-
-void tst_TourHand::movingTargetIsFollowed()
-{
-    QPushButton button;
-    show(button, {100, 100});
-    const QSignalSpy clicked(&button, &QPushButton::clicked);
-    m_hand->click(at(&button));
-    m_hand->work();
-    button.move(600, 400);
-    QVERIFY(finished());
-    QCOMPARE(clicked.count(), 1);
-}
-
-void tst_TourHand::rightButtonAndDoubleClickArriveAsSuch()
-{
-    Listener window;
-    show(window, {100, 100});
-    m_hand->click(at(&window), Qt::RightButton);
-    QVERIFY(finished());
-    QCOMPARE(window.presses, QList<Qt::MouseButton>{Qt::RightButton});
-    m_hand->click(at(&window), Qt::LeftButton, 2);
-    QVERIFY(finished());
-    QCOMPARE(window.presses, (QList<Qt::MouseButton>{Qt::RightButton, Qt::LeftButton}));
-    QCOMPARE(window.doubles, QList<Qt::MouseButton>{Qt::LeftButton});
-}
-
-void tst_TourHand::menuItemIsChosenWhereThePointerOpenedTheMenu()
-{
-    QPushButton button;
-    show(button, {100, 100});
-    QMenu menu;
-    menu.addAction(QStringLiteral("one"));
-    menu.addAction(QStringLiteral("two"));
-    QPoint opened;
-    connect(&button, &QPushButton::clicked, this, [&] {
-        opened = QCursor::pos();
-        menu.popup(opened);
-    });
-    const QSignalSpy triggered(&menu, &QMenu::triggered);
-    m_hand->click(at(&button));
-    m_hand->click([] { return WindowProbe::menuItem(QStringLiteral("two")); });
-    QVERIFY(finished());
-    QCOMPARE(opened, button.mapToGlobal(button.rect().center()));
-    QCOMPARE(triggered.count(), 1);
-    QCOMPARE(triggered.at(0).at(0).value<QAction *>()->text(), QStringLiteral("two"));
-}
-
-void tst_TourHand::hoverStaysWithoutAPress()
-{
-    Listener window;
-    show(window, {100, 100});
-    m_hand->hover(at(&window));
-    QVERIFY(finished());
-    QCOMPARE(QCursor::pos(), window.mapToGlobal(window.rect().center()));
-    QVERIFY(window.underMouse());
-    QVERIFY(window.presses.isEmpty());
-}
-
-void tst_TourHand::pointerGoesOutOfTheWayAfterAClick()
-{
-    QPushButton button;
-    show(button, {100, 100});
-    m_hand->click(at(&button));
-    QVERIFY(finished());
-    QTRY_VERIFY_WITH_TIMEOUT(!button.geometry().contains(QCursor::pos()), kPatienceMs);
-}
-
-void tst_TourHand::whatLastsForLessThanATickIsSeen()
-{
-    ContactBook book(QStringLiteral("example.org"));
-    HostSession session(book);
-    TourWatch watch(session, QStringLiteral("no trace"));
-    Flash flash;
-    const auto act = [&flash] {
-        QCoreApplication::postEvent(&flash, new QEvent(QEvent::User));
-        return true;
-    };
-    const TourCheck check{QStringLiteral("it flashes"), [&flash] { return flash.shown; }};
-    Tour tour(watch, *m_hand, {{QStringLiteral("Flash"), act, {check}, 1000}}, QString());
-    const QSignalSpy finished(&tour, &Tour::finished);
-    tour.start();
-    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, kPatienceMs);
-    QVERIFY(finished.at(0).at(0).toBool());
-}
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_TourHand, Widgets)
