@@ -26,30 +26,34 @@ QHash<QString, QString> entries()
 
 void cachedGetter(benchmark::State &state)
 {
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(CUrlInfo::getServerMessageUrl());
+    }
 }
 BENCHMARK(cachedGetter);
 
 void uncachedGetter(benchmark::State &state)
 {
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(CUrlInfo::getEmailUrl());
+    }
 }
 BENCHMARK(uncachedGetter);
 
 void uncachedGetterOfADefault(benchmark::State &state)
 {
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(CUrlInfo::getWeatherUrl());
+    }
 }
 BENCHMARK(uncachedGetterOfADefault);
 
 void bareHash(benchmark::State &state)
 {
     const QHash<QString, QString> hash = entries();
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(hash.value(QStringLiteral("/vcard/emailurl")));
+    }
 }
 BENCHMARK(bareHash);
 
@@ -70,8 +74,9 @@ void fillSettings()
     const QHash<QString, QString> hash = entries();
     for (auto entry = hash.cbegin(); entry != hash.cend(); ++entry) {
         fresh.setValue(entry.key(), entry.value());
-        if (entry.key() != QLatin1String("/weatherupdate/theurl"))
+        if (entry.key() != QLatin1String("/weatherupdate/theurl")) {
             pSettings->setValue(entry.key(), entry.value());
+        }
     }
 }
 

@@ -72,13 +72,15 @@ public:
 
     void keep(int iRecords)
     {
-        if (iRecords == m_iRecords)
+        if (iRecords == m_iRecords) {
             return;
+        }
         QSqlQuery query(DB::getDB());
         query.exec(QStringLiteral("DELETE FROM voipConferenceInfo"));
         DB::getDB().transaction();
-        for (int i = 0; i < iRecords; ++i)
+        for (int i = 0; i < iRecords; ++i) {
             DBConfInfo::saveConfInfo(record(i));
+        }
         DB::getDB().commit();
         m_iRecords = iRecords;
     }
@@ -107,8 +109,9 @@ public:
     BareList()
     {
         const QList<ConfInfoData> records = DBConfInfo::getAllConfInfo();
-        for (const ConfInfoData &info : records)
+        for (const ConfInfoData &info : records) {
             m_model.appendRow(item(info));
+        }
         setModel(&m_model);
         setUniformItemSizes(true);
         setFixedSize(523, 403);
@@ -142,8 +145,9 @@ std::unique_ptr<Window> opened()
 {
     auto window = std::make_unique<Window>();
     window->show();
-    while (!window->windowHandle()->isExposed())
+    while (!window->windowHandle()->isExposed()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
     window->repaint();
     return window;
 }
@@ -188,8 +192,9 @@ void repaintScreenful(benchmark::State &state)
 {
     s_pClient->keep(static_cast<int>(state.range(0)));
     const auto window = opened<Window>();
-    for (auto _ : state)
+    for (auto _ : state) {
         window->list()->viewport()->repaint();
+    }
 }
 BENCHMARK_TEMPLATE(repaintScreenful, Centre)->Arg(1000)->Unit(benchmark::kMicrosecond);
 BENCHMARK_TEMPLATE(repaintScreenful, BareList)->Arg(1000)->Unit(benchmark::kMicrosecond);

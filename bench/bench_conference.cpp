@@ -43,8 +43,9 @@ protected:
     void customEvent(QEvent *event) override
     {
         auto *command = static_cast<BaseEvent *>(event);
-        if (command->msgId == MSG_IS_EXIST_FRIEND)
+        if (command->msgId == MSG_IS_EXIST_FRIEND) {
             command->data = packPayload(true);
+        }
     }
 };
 
@@ -61,8 +62,9 @@ public:
     }
     void wait()
     {
-        for (m_painted = false; !m_painted;)
+        for (m_painted = false; !m_painted;) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
     }
 
 private:
@@ -72,8 +74,9 @@ private:
 void settle()
 {
     QElapsedTimer time;
-    for (time.start(); time.elapsed() < 20;)
+    for (time.start(); time.elapsed() < 20;) {
         QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    }
 }
 
 class Engine : public CVoipManage
@@ -98,8 +101,9 @@ public:
 QString updateDocument(int members)
 {
     QStringList ids;
-    for (int i = 0; i < members; ++i)
+    for (int i = 0; i < members; ++i) {
         ids << uid(i);
+    }
     return R"({"content":{"confId":"c1","conventioneer":[")" + ids.join(QStringLiteral(R"(",")")) + R"("]}})";
 }
 
@@ -200,8 +204,9 @@ void bareListView(benchmark::State &state)
         model.clear();
         settle();
         const ProcessorClock clock;
-        for (int i = 0; i < state.range(0); ++i)
+        for (int i = 0; i < state.range(0); ++i) {
             model.appendRow(new QStandardItem(uid(i)));
+        }
         rows.wait();
         state.SetIterationTime(clock.seconds());
     }
@@ -229,8 +234,9 @@ int main(int argc, char **argv)
     Host host;
     VoipManageMessageProcess::instance()->setSendEvent(&host);
     QLocalServer server;
-    if (!server.listen(QStringLiteral("VoipSDK")))
+    if (!server.listen(QStringLiteral("VoipSDK"))) {
         return 1;
+    }
 
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -19,8 +19,9 @@ constexpr qint64 kSizes[] = {kSmall, 1 << 20, 1 << 26};
 QByteArray bytesOf(qint64 size)
 {
     QByteArray bytes(static_cast<int>(size), Qt::Uninitialized);
-    for (int i = 0; i < bytes.size(); ++i)
+    for (int i = 0; i < bytes.size(); ++i) {
         bytes[i] = static_cast<char>(i * 31 + i / 4099);
+    }
     return bytes;
 }
 
@@ -29,8 +30,9 @@ QString fileOf(const benchmark::State &state)
 {
     const QString path = QStringLiteral("digest%1.bin").arg(state.range(0));
     QFile file(path);
-    if (!file.exists() && file.open(QIODevice::WriteOnly))
+    if (!file.exists() && file.open(QIODevice::WriteOnly)) {
         file.write(bytesOf(state.range(0)));
+    }
     return path;
 }
 
@@ -38,8 +40,9 @@ template <QString (*digest)(QString)>
 void digestOfFile(benchmark::State &state)
 {
     const QString path = fileOf(state);
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(digest(path));
+    }
     state.SetBytesProcessed(state.iterations() * state.range(0));
 }
 
@@ -47,8 +50,9 @@ template <QCryptographicHash::Algorithm algorithm>
 void bareHash(benchmark::State &state)
 {
     const QByteArray bytes = bytesOf(state.range(0));
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(QCryptographicHash::hash(bytes, algorithm));
+    }
     state.SetBytesProcessed(state.iterations() * state.range(0));
 }
 
@@ -61,8 +65,9 @@ void hashInPieces(benchmark::State &state)
         QFile file(path);
         file.open(QIODevice::ReadOnly);
         QCryptographicHash hash(algorithm);
-        while (!file.atEnd())
+        while (!file.atEnd()) {
             hash.addData(file.read(kSmall));
+        }
         benchmark::DoNotOptimize(hash.result());
     }
     state.SetBytesProcessed(state.iterations() * state.range(0));
@@ -74,8 +79,9 @@ void program(benchmark::State &state, const QString &name, QStringList arguments
     for (auto _ : state) {
         QProcess process;
         process.start(name, arguments);
-        if (!process.waitForFinished(-1) || process.exitCode() != 0)
+        if (!process.waitForFinished(-1) || process.exitCode() != 0) {
             state.SkipWithError("the program failed");
+        }
     }
     state.SetBytesProcessed(state.iterations() * state.range(0));
 }
@@ -104,14 +110,16 @@ void opensslMd5(benchmark::State &state)
 void keyOfPath(benchmark::State &state)
 {
     const QString path = fileOf(state);
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(FileDigest::getFileHash(path));
+    }
 }
 
 void sizes(benchmark::internal::Benchmark *pWork)
 {
-    for (const qint64 size : kSizes)
+    for (const qint64 size : kSizes) {
         pWork->Arg(size);
+    }
     pWork->UseRealTime();
 }
 
@@ -134,7 +142,8 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    for (const qint64 size : kSizes)
+    for (const qint64 size : kSizes) {
         QFile::remove(QStringLiteral("digest%1.bin").arg(size));
+    }
     return 0;
 }

@@ -53,8 +53,9 @@ void cursorMoveThatFits(benchmark::State &state)
     Edit edit;
     const auto size = int(state.range(0));
     edit.setText(mixedText(size));
-    for (auto _ : state)
+    for (auto _ : state) {
         edit.slot_cursorchanged(0, edit.text().size());
+    }
     state.SetComplexityN(size);
 }
 BENCHMARK(cursorMoveThatFits)->RangeMultiplier(2)->Range(1024, 32768)->Complexity();
@@ -64,8 +65,9 @@ void cursorMoveThatCuts(benchmark::State &state)
     Edit edit;
     const QString text = mixedText(int(state.range(0)));
     edit.setMaxLength(14);
-    for (auto _ : state)
+    for (auto _ : state) {
         edit.setText(text);
+    }
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(cursorMoveThatCuts)->RangeMultiplier(2)->Range(1024, 32768)->Complexity();

@@ -29,8 +29,9 @@ void initialsOfNames(benchmark::State &state)
 {
     const QStringList list = names();
     for (auto _ : state) {
-        for (const QString &name : list)
+        for (const QString &name : list) {
             benchmark::DoNotOptimize(ChineseSpell::toChineseSpell(name));
+        }
     }
 }
 BENCHMARK(initialsOfNames)->Unit(benchmark::kMillisecond);
@@ -39,8 +40,9 @@ void upperCaseOfNames(benchmark::State &state)
 {
     const QStringList list = names();
     for (auto _ : state) {
-        for (const QString &name : list)
+        for (const QString &name : list) {
             benchmark::DoNotOptimize(name.toUpper());
+        }
     }
 }
 BENCHMARK(upperCaseOfNames)->Unit(benchmark::kMillisecond);
@@ -53,8 +55,9 @@ void bareLookUp(benchmark::State &state)
         for (const QString &name : list) {
             QString result(name.size(), Qt::Uninitialized);
             QChar *pResult = result.data();
-            for (const QChar character : name)
+            for (const QChar character : name) {
                 *pResult++ = character.unicode() >= kFirst ? pTable[character.unicode() - kFirst] : character;
+            }
             benchmark::DoNotOptimize(result);
         }
     }

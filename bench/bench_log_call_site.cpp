@@ -113,8 +113,9 @@ double nanosecondsSince(Clock::time_point start)
 double clockCost()
 {
     std::vector<double> costs(1001);
-    for (double &cost : costs)
+    for (double &cost : costs) {
         cost = nanosecondsSince(Clock::now());
+    }
     std::nth_element(costs.begin(), costs.begin() + 500, costs.end());
     return costs[500];
 }
@@ -125,15 +126,17 @@ void burst(Target &target, int threads, std::vector<double> &latencies)
 {
     std::atomic<int> waiting{threads};
     const auto meet = [&waiting] {
-        for (--waiting; waiting > 0;)
+        for (--waiting; waiting > 0;) {
             std::this_thread::yield();
+        }
     };
     std::vector<std::thread> others;
     for (int i = 1; i < threads; ++i) {
         others.emplace_back([&target, &meet] {
             meet();
-            for (int statement = 0; statement < kStatements; ++statement)
+            for (int statement = 0; statement < kStatements; ++statement) {
                 target.load();
+            }
         });
     }
     meet();
@@ -142,8 +145,9 @@ void burst(Target &target, int threads, std::vector<double> &latencies)
         target.statement();
         latencies.push_back(nanosecondsSince(start));
     }
-    for (std::thread &other : others)
+    for (std::thread &other : others) {
         other.join();
+    }
 }
 
 /// What so many of a hundred take at most.

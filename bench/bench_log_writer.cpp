@@ -28,8 +28,9 @@ void customLogger(benchmark::State &state)
 {
     CustomLogger logger(QStringLiteral("ours.log"));
     logger.setMaxBackupIndex(0);
-    for (auto _ : state)
+    for (auto _ : state) {
         logger.printLog(CustomLog::Debug, kLocation, kMessage);
+    }
     logger.clear();
 }
 BENCHMARK(customLogger);
@@ -88,15 +89,17 @@ void queueToFile(benchmark::State &state)
             QStringLiteral("[2026-05-03 09:12:44.031][DEBUG][%1]: %2\n").arg(kLocation, kMessage).size();
         CLogThread thread;
         thread.setCustomLogger(&logger);
-        for (int i = 0; i < records; ++i)
+        for (int i = 0; i < records; ++i) {
             thread.printLog(CustomLog::Debug, kLocation, kMessage);
+        }
 
         QElapsedTimer time;
         time.start();
         thread.start();
         QThread::msleep(static_cast<unsigned long>(rests * 980));
-        for (logger.flush(); QFileInfo(path).size() < qint64{records} * lineBytes; logger.flush())
+        for (logger.flush(); QFileInfo(path).size() < qint64{records} * lineBytes; logger.flush()) {
             QThread::usleep(200);
+        }
         state.SetIterationTime(static_cast<double>(time.nsecsElapsed()) * 1e-9);
 
         thread.stop();
@@ -110,8 +113,9 @@ BENCHMARK(queueToFile)->UseManualTime()->Iterations(1)->Unit(benchmark::kMillise
 void bareRests(benchmark::State &state)
 {
     for (auto _ : state) {
-        for (int i = 0; i < 50; ++i)
+        for (int i = 0; i < 50; ++i) {
             QThread::msleep(10);
+        }
     }
 }
 BENCHMARK(bareRests)->UseRealTime()->Iterations(1)->Unit(benchmark::kMillisecond);

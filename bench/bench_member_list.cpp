@@ -39,8 +39,9 @@ void showList(List &list)
     list.setFrameShape(QFrame::NoFrame);
     list.resize(kListSize);
     list.show();
-    while (!list.windowHandle()->isExposed())
+    while (!list.windowHandle()->isExposed()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
     list.viewport()->repaint();
 }
 
@@ -56,10 +57,12 @@ class Members : public CConferenceListView
 public:
     explicit Members(int iMembers)
     {
-        for (int i = 0; i < iMembers; ++i)
+        for (int i = 0; i < iMembers; ++i) {
             addUser(uid(i));
-        for (int i = 0; i < iMembers; ++i)
+        }
+        for (int i = 0; i < iMembers; ++i) {
             updateConferenceUserStatus(uid(i), ConferenceConnected);
+        }
         showList(*this);
     }
 };
@@ -71,8 +74,9 @@ public:
     explicit BareList(int iRows)
     {
         setModel(&m_model);
-        for (int i = 0; i < iRows; ++i)
+        for (int i = 0; i < iRows; ++i) {
             append(i);
+        }
         showList(*this);
     }
     void append(int i)
@@ -97,8 +101,9 @@ template <typename List>
 void repaintScreenful(benchmark::State &state)
 {
     List list(static_cast<int>(state.range(0)));
-    for (auto _ : state)
+    for (auto _ : state) {
         list.viewport()->repaint();
+    }
 }
 BENCHMARK_TEMPLATE(repaintScreenful, Members)->Arg(10)->Arg(100)->Arg(1000);
 BENCHMARK_TEMPLATE(repaintScreenful, BareList)->Arg(10)->Arg(100)->Arg(1000);
@@ -132,8 +137,9 @@ void everyStatusChange(benchmark::State &state)
     int iStatus = 0;
     for (auto _ : state) {
         ++iStatus;
-        for (int i = 0; i < state.range(0); ++i)
+        for (int i = 0; i < state.range(0); ++i) {
             list.updateConferenceUserStatus(uid(i), iStatus % 6);
+        }
         paintDue(*list.viewport());
     }
     countMembers(state);
@@ -144,8 +150,9 @@ void addOneByOne(benchmark::State &state)
 {
     Members list(0);
     for (auto _ : state) {
-        for (int i = 0; i < state.range(0); ++i)
+        for (int i = 0; i < state.range(0); ++i) {
             list.addUser(uid(i));
+        }
         paintDue(*list.viewport());
         state.PauseTiming();
         list.clearMembers();
@@ -160,8 +167,9 @@ void bareAddOneByOne(benchmark::State &state)
 {
     BareList list(0);
     for (auto _ : state) {
-        for (int i = 0; i < state.range(0); ++i)
+        for (int i = 0; i < state.range(0); ++i) {
             list.append(i);
+        }
         paintDue(*list.viewport());
         state.PauseTiming();
         list.m_model.clear();

@@ -50,8 +50,9 @@ QString bottomlessMessage(const benchmark::State &state)
 template <typename Work>
 void measure(benchmark::State &state, const QString &text, Work work)
 {
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(work(text));
+    }
     state.SetBytesProcessed(state.iterations() * text.size());
 }
 
@@ -59,8 +60,9 @@ int matches(const QString &text)
 {
     const QRegExp pattern("((http|https|ftp)://|(www)\\.)(\\w+)(\\.?[\\.a-z0-9/:?%&=\\-_+#;]*)", Qt::CaseInsensitive);
     int count = 0;
-    for (int i = pattern.indexIn(text); i >= 0; i = pattern.indexIn(text, i + pattern.matchedLength()))
+    for (int i = pattern.indexIn(text); i >= 0; i = pattern.indexIn(text, i + pattern.matchedLength())) {
         ++count;
+    }
     return count;
 }
 
@@ -93,8 +95,9 @@ int imageMatches(const QString &text)
     QRegExp pattern("<img" + attribute + attribute + attribute + "[^>]*>");
     pattern.setMinimal(true);
     int count = 0;
-    for (int i = pattern.indexIn(text); i >= 0; i = pattern.indexIn(text, i + pattern.matchedLength()))
+    for (int i = pattern.indexIn(text); i >= 0; i = pattern.indexIn(text, i + pattern.matchedLength())) {
         ++count;
+    }
     return count;
 }
 

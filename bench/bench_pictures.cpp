@@ -33,8 +33,9 @@ QPixmap picture(int iSide)
 
 void roundedHead(benchmark::State &state)
 {
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(HeadImages::getRoundedImage(HEAD_FILE, int(state.range(0))));
+    }
 }
 BENCHMARK(roundedHead)->Arg(22)->Arg(40)->Arg(100);
 
@@ -51,16 +52,18 @@ BENCHMARK(plainScaleOfTheHead)->Arg(22)->Arg(40)->Arg(100);
 void ninePatch(benchmark::State &state)
 {
     const QPixmap source = picture(29);
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(NinePatch::drawNinePatch(QSize(FRAME_WIDTH, FRAME_HEIGHT), source));
+    }
 }
 BENCHMARK(ninePatch);
 
 void plainScaleOfTheFrame(benchmark::State &state)
 {
     const QPixmap source = picture(29);
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(source.scaled(FRAME_WIDTH, FRAME_HEIGHT));
+    }
 }
 BENCHMARK(plainScaleOfTheFrame);
 
@@ -71,8 +74,9 @@ void waterMark(benchmark::State &state, bool bKnown)
     QString strPath;
     WaterMark::generateWaterMark(strName, strId, strPath);
     for (auto _ : state) {
-        if (!bKnown)
+        if (!bKnown) {
             QFile::remove(strPath);
+        }
         benchmark::DoNotOptimize(WaterMark::generateWaterMark(strName, strId, strPath));
     }
 }
@@ -100,8 +104,9 @@ int main(int argc, char **argv)
     CommonData data;
     data.setSystemSetData(&settings);
     SharedContext::setCommonData(&data);
-    if (!picture(200).save(HEAD_FILE))
+    if (!picture(200).save(HEAD_FILE)) {
         return 1;
+    }
 
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

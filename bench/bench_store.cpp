@@ -36,8 +36,9 @@ ConfInfoData recordOf(int number)
     record.m_strCreatUserID = QStringLiteral("30010001");
     record.m_strCreatTime = QStringLiteral("2024-03-01 10:11:12");
     record.m_strCallTime = QString::number(number);
-    for (int i = 0; i < 8; ++i)
+    for (int i = 0; i < 8; ++i) {
         record.m_listMember.append(QString::number(30010000 + number + i));
+    }
     record.m_bIsConnect = true;
     return record;
 }
@@ -80,8 +81,9 @@ sqlite3 *openBare(const QString &file)
 
 void runBare(sqlite3 *db, const std::vector<std::string> &statements)
 {
-    for (const std::string &text : statements)
+    for (const std::string &text : statements) {
         sqlite3_exec(db, text.c_str(), nullptr, nullptr, nullptr);
+    }
 }
 
 void bindText(sqlite3_stmt *statement, int place, const QString &text)
@@ -97,8 +99,9 @@ void saveBare(sqlite3 *db, const ConfInfoData &record)
     sqlite3_prepare_v2(db, look.constData(), -1, &statement, nullptr);
     const bool known = sqlite3_step(statement) == SQLITE_ROW;
     sqlite3_finalize(statement);
-    if (known)
+    if (known) {
         return;
+    }
     sqlite3_prepare_v2(db,
                        "INSERT INTO voipConferenceInfo (ConfID,CreatUserID,CreatTime,CallTime,MemberList,IsConnect) "
                        "VALUES (?, ?, ?, ?, ?, ?)",
@@ -186,8 +189,9 @@ QString storeWith(int records)
         DB::closeDB();
         sqlite3 *db = openBare(fileOf(base));
         sqlite3_exec(db, "BEGIN", nullptr, nullptr, nullptr);
-        for (int i = 0; i < records; ++i)
+        for (int i = 0; i < records; ++i) {
             saveBare(db, recordOf(i));
+        }
         sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr);
         sqlite3_close(db);
     }
@@ -230,8 +234,9 @@ void openBareQuery(benchmark::State &state)
 {
     const QString base = storeWith(int(state.range(0)));
     QStringList statements;
-    for (const std::string &text : statementsOfOpen(base))
+    for (const std::string &text : statementsOfOpen(base)) {
         statements.append(QString::fromStdString(text));
+    }
     for (auto _ : state) {
         QSqlDatabase db = openedByQt(fileOf(base));
         for (const QString &text : qAsConst(statements)) {
@@ -278,8 +283,9 @@ void saveRecords(benchmark::State &state)
         state.PauseTiming();
         DB::initByUserName(user, emptyFolder(), true);
         state.ResumeTiming();
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
             DBConfInfo::saveConfInfo(recordOf(i));
+        }
         state.PauseTiming();
         DB::closeDB();
         state.ResumeTiming();
@@ -299,8 +305,9 @@ void saveRecordsBareSqlite(benchmark::State &state)
         sqlite3 *db = openBare(fileOf(base));
         runBare(db, {"PRAGMA synchronous = OFF"});
         state.ResumeTiming();
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
             saveBare(db, recordOf(i));
+        }
         state.PauseTiming();
         sqlite3_close(db);
         state.ResumeTiming();

@@ -18,8 +18,9 @@ QString mixedText(const benchmark::State &state)
 void countedCharacter(benchmark::State &state)
 {
     const QString text = mixedText(state);
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(text.count(QLatin1Char('a')));
+    }
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(countedCharacter)->RangeMultiplier(16)->Range(kShortest, kLongest)->Complexity(benchmark::oN);
@@ -27,8 +28,9 @@ BENCHMARK(countedCharacter)->RangeMultiplier(16)->Range(kShortest, kLongest)->Co
 void measuredColumns(benchmark::State &state)
 {
     const QString text = mixedText(state);
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(TextMeasure::getStrCounnt(text));
+    }
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(measuredColumns)->RangeMultiplier(16)->Range(kShortest, kLongest)->Complexity(benchmark::oN);
@@ -37,8 +39,9 @@ void cutToColumns(benchmark::State &state)
 {
     const QString text = mixedText(state);
     const int limit = TextMeasure::getStrCounnt(text) - 1;
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(TextMeasure::getStringByLen(text, limit));
+    }
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(cutToColumns)->RangeMultiplier(16)->Range(kShortest, kLongest)->Complexity(benchmark::oN);

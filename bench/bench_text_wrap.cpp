@@ -23,23 +23,26 @@ QString mixedText(const benchmark::State &state)
 void countedCharacter(benchmark::State &state)
 {
     const QString text = mixedText(state);
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(text.count(QLatin1Char('a')));
+    }
 }
 
 void shortString(benchmark::State &state)
 {
     const QString text = mixedText(state);
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(ShortText::getShortString(text, 40));
+    }
 }
 
 void lineWrapText(benchmark::State &state)
 {
     const QString text = mixedText(state);
     const QFontMetrics metrics{QFont()};
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(LabelText::getLineWrapText(kWidth, text, metrics, 0));
+    }
 }
 
 void formatWithControl(benchmark::State &state)

@@ -60,8 +60,9 @@ bool isNested(int code)
 std::vector<std::string> documents(int code, int count)
 {
     std::vector<std::string> lines;
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         lines.push_back(R"({"content":")" + payload(code, i) + R"(","resultCode":)" + std::to_string(code) + "}\n");
+    }
     return lines;
 }
 
@@ -89,8 +90,9 @@ public:
         {
             const QSignalBlocker block(m_pVoipSocket);
             peer->write(bytes);
-            while (m_pVoipSocket->bytesAvailable() < bytes.size())
+            while (m_pVoipSocket->bytesAvailable() < bytes.size()) {
                 QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+            }
         }
         const ProcessorClock clock;
         emit m_pVoipSocket->readyRead();
@@ -108,8 +110,9 @@ void fromReadyRead(benchmark::State &state, int code)
     QLocalSocket *peer = g_server->nextPendingConnection();
     QObject::connect(peer, &QLocalSocket::readyRead, [peer] { peer->readAll(); });
     QByteArray bytes;
-    for (const std::string &line : documents(code, static_cast<int>(state.range(0))))
+    for (const std::string &line : documents(code, static_cast<int>(state.range(0)))) {
         bytes += line.c_str();
+    }
     for (auto _ : state) {
         engine.prepare(code);
         // A new one in the same place: its queue is empty again.
@@ -134,8 +137,9 @@ void fromReadyRead(benchmark::State &state, int code)
 QString members(const Json::Value &document)
 {
     QStringList users;
-    for (const Json::Value &user : document["content"]["conventioneer"])
+    for (const Json::Value &user : document["content"]["conventioneer"]) {
         users << QString::fromStdString(user.asString());
+    }
     return users.join(QLatin1Char(','));
 }
 
@@ -184,17 +188,20 @@ void doLeast(const std::string &line, bool nested)
 {
     Json::Reader reader;
     Json::Value root;
-    if (!reader.parse(line, root))
+    if (!reader.parse(line, root)) {
         return;
+    }
     const int code = root["resultCode"].asInt();
     const std::string text = root["content"].asString();
-    if (code < 0)
+    if (code < 0) {
         return;
+    }
     const QString content = QString::fromStdString(text);
     LOG_DEBUG << "Voip Sdk call back msg iCode=" << code << ", string=" << content << "\n";
     Json::Value inner;
-    if (nested)
+    if (nested) {
         Json::Reader().parse(text, inner);
+    }
     logFurther(code, content, inner);
     directCall(code, content, inner);
 }
@@ -203,15 +210,17 @@ void leastOfRead(benchmark::State &state, int code)
 {
     const std::vector<std::string> lines = documents(code, static_cast<int>(state.range(0)));
     QByteArray bytes;
-    for (const std::string &line : lines)
+    for (const std::string &line : lines) {
         bytes += line.c_str();
+    }
     const bool nested = isNested(code);
     for (auto _ : state) {
         g_logThread.emplace();
         const ProcessorClock clock;
         qDebug().noquote().nospace() << "Voip返回数据" << bytes;
-        for (const std::string &line : lines)
+        for (const std::string &line : lines) {
             doLeast(line, nested);
+        }
         state.SetIterationTime(clock.seconds());
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));
@@ -232,8 +241,9 @@ void socketToCallback(benchmark::State &state)
         peer->write(flag ? "{\"content\":\"true\",\"resultCode\":17}\n"
                          : "{\"content\":\"false\",\"resultCode\":17}\n");
         peer->flush();
-        while (engine.flag() != flag)
+        while (engine.flag() != flag) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
     }
     g_logThread.emplace();
     peer->deleteLater();
@@ -274,8 +284,9 @@ int main(int argc, char **argv)
     data.setCustomLogThread(&*g_logThread);
     SharedContext::setCommonData(&data);
     QLocalServer server;
-    if (!server.listen(QStringLiteral("VoipSDK")))
+    if (!server.listen(QStringLiteral("VoipSDK"))) {
         return 1;
+    }
     g_server = &server;
 
     registerAll();

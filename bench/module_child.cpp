@@ -33,19 +33,22 @@ Memory memory(const QByteArray &module)
 {
     Memory sum;
     QFile maps(QStringLiteral("/proc/self/smaps"));
-    if (!maps.open(QIODevice::ReadOnly))
+    if (!maps.open(QIODevice::ReadOnly)) {
         return sum;
+    }
     bool ofModule = false;
     for (QByteArray line = maps.readLine(); !line.isEmpty(); line = maps.readLine()) {
         const QList<QByteArray> words = line.simplified().split(' ');
         const QByteArray &key = words.first();
         const qint64 kilobytes = words.value(1).toLongLong();
-        if (!key.endsWith(':'))
+        if (!key.endsWith(':')) {
             ofModule = words.last() == module;
-        else if (key == "Rss:")
+        } else if (key == "Rss:") {
             sum.resident += kilobytes;
-        if (key == (ofModule ? "Rss:" : "Anonymous:"))
+        }
+        if (key == (ofModule ? "Rss:" : "Anonymous:")) {
             sum.own += kilobytes;
+        }
     }
     return sum;
 }
@@ -60,8 +63,9 @@ void command(QObject *mailbox, EMsgId id, const QByteArray &data)
 
 int main(int argc, char **argv)
 {
-    if (argc < 3)
+    if (argc < 3) {
         return 2;
+    }
     QApplication application(argc, argv);
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     const QByteArray word = argv[1];
@@ -83,8 +87,9 @@ int main(int argc, char **argv)
     QPluginLoader loader(QString::fromLocal8Bit(argv[2]));
     if (word != "none" && word != "window") {
         QObject *root = loader.instance();
-        if (!root)
+        if (!root) {
             return 1;
+        }
         auto *plugin = qobject_cast<PluginInterface *>(root);
         if (word == "command" || word == "call" || word == "idle") {
             plugin->setCommonData(&data);

@@ -66,8 +66,9 @@ EngineBench::EngineBench()
 
 void EngineBench::openChannel()
 {
-    if (m_pSocket && m_pSocket == manager->m_pVoipSocket)
+    if (m_pSocket && m_pSocket == manager->m_pVoipSocket) {
         return;
+    }
     delete manager->m_pVoipSocket;
     m_pSocket = new MemorySocket(manager.get());
     manager->m_pVoipSocket = m_pSocket;
@@ -81,8 +82,9 @@ void EngineBench::begin(bool withWindow)
 
 void EngineBench::receive(const QByteArray &bytes)
 {
-    if (bytes.isEmpty() || !m_pSocket || m_pSocket != manager->m_pVoipSocket)
+    if (bytes.isEmpty() || !m_pSocket || m_pSocket != manager->m_pVoipSocket) {
         return;
+    }
     m_pSocket->put(bytes);
     manager->slot_VoipSDKDataRecevie();
 }
@@ -94,16 +96,18 @@ void EngineBench::deliverPosted()
 
 bool EngineBench::isWindowTouched() const
 {
-    if (!manager->m_pVoipWidget)
+    if (!manager->m_pVoipWidget) {
         return false;
+    }
     return manager->isExistCall() || manager->m_callData.bIsConnected || m_pWindow->isVisible() ||
            m_pWindow->findChild<CConferenceListView *>()->model()->rowCount() > 0;
 }
 
 void EngineBench::reset()
 {
-    if (isWindowTouched())
+    if (isWindowTouched()) {
         m_pWindow->close();
+    }
     manager->callFinished(CallData::FinishCanceled);
     requirePromise(!manager->isExistCall(), "a finished call leaves nothing behind");
     requirePromise(!manager->m_inviteTimer.isActive() && !manager->m_recevieTimer.isActive(),
@@ -112,8 +116,9 @@ void EngineBench::reset()
     manager->m_strUserId = m_login.m_strUid;
     manager->m_strNickName = QStringLiteral("Me");
     manager->m_strRegValue = m_login.m_strRegValue;
-    if (manager->m_pVoiceConfWidget)
+    if (manager->m_pVoiceConfWidget) {
         manager->m_pVoiceConfWidget->close();
+    }
 
     deliverPosted();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -125,8 +130,9 @@ void EngineBench::reset()
     // The plug-in leaves the events of these two requests to their receiver.
     for (const int kept : {MSG_CLOSE_AV_MSGBOX, MSG_CLOSE_SIGN_LIST}) {
         const QList<ReceivedEvent> events = host.received(kept);
-        for (const ReceivedEvent &event : events)
+        for (const ReceivedEvent &event : events) {
             delete event.event;
+        }
     }
     host.events.clear();
     host.friendJids.clear();

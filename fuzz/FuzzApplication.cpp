@@ -13,8 +13,9 @@ namespace {
 
 void makeFolder(const QString &path, const char *variable)
 {
-    if (!QDir().mkpath(path) || !qputenv(variable, QFile::encodeName(path)))
+    if (!QDir().mkpath(path) || !qputenv(variable, QFile::encodeName(path))) {
         qFatal("no folder for %s", variable);
+    }
 }
 
 /// The plug-ins that the code under test needs, without those that would look for sound servers.
@@ -22,8 +23,9 @@ void linkPlugins(const QString &folder)
 {
     const QString installed = QLibraryInfo::location(QLibraryInfo::PluginsPath);
     for (const char *kind : {"/platforms", "/imageformats", "/sqldrivers"}) {
-        if (!QFile::link(installed + kind, folder + kind))
+        if (!QFile::link(installed + kind, folder + kind)) {
             qFatal("no plug-ins %s", kind);
+        }
     }
     QCoreApplication::setLibraryPaths({folder});
 }
@@ -41,8 +43,9 @@ FuzzApplication::FuzzApplication(const QString &folder) : m_box(folder + QLatin1
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("PULSE_SERVER", "unix:/nonexistent");
     linkPlugins(m_box.filePath("plugins"));
-    if (!QDir::setCurrent(m_box.filePath("tmp")))
+    if (!QDir::setCurrent(m_box.filePath("tmp"))) {
         qFatal("no working directory");
+    }
     silenceQt();
     static int s_count = 1;
     static char s_name[] = "fuzz";
@@ -61,7 +64,8 @@ FuzzApplication::~FuzzApplication()
 void FuzzApplication::silenceQt()
 {
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
-        if (type == QtFatalMsg)
+        if (type == QtFatalMsg) {
             std::fprintf(stderr, "%s\n", qPrintable(text));
+        }
     });
 }

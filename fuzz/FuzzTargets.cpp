@@ -47,8 +47,9 @@ int cpuMsOf(const FuzzTarget &target, const QByteArray &input)
 
 void requirePromise(bool kept, const char *text)
 {
-    if (kept)
+    if (kept) {
         return;
+    }
     std::fprintf(stderr, "broken promise: %s\n", text);
     std::abort();
 }

@@ -72,8 +72,9 @@ QWidget *tiles(const QList<QPixmap> &pictures, int iInARow)
 /// The picture itself, or a head at the size of a head.
 QPixmap headSized(const QPixmap &picture, qreal ratio)
 {
-    if (picture.width() < 4 * headSide)
+    if (picture.width() < 4 * headSide) {
         return picture;
+    }
     const int pixels = qRound(headSide * ratio);
     QPixmap head = picture.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     head.setDevicePixelRatio(ratio);

@@ -53,8 +53,9 @@ QByteArray withAddress(const QByteArray &payload, const VcardInfo *card)
     reader >> userId;
     const auto position = int(reader.device()->pos());
     const auto address = packPayload(static_cast<qint64>(reinterpret_cast<quintptr>(card)));
-    if (payload.size() - position < address.size())
+    if (payload.size() - position < address.size()) {
         return payload.left(position);
+    }
     return payload.left(position) + address + payload.mid(position + address.size());
 }
 
@@ -62,25 +63,29 @@ QByteArray withAddress(const QByteArray &payload, const VcardInfo *card)
 QByteArray answerOf(int command, const QByteArray &payload)
 {
     static const FriendData s_record;
-    if (command != MSG_GET_FRIEND_INFO || payload.size() < int(sizeof(qint64)))
+    if (command != MSG_GET_FRIEND_INFO || payload.size() < int(sizeof(qint64))) {
         return payload;
+    }
     return packPayload(static_cast<qint64>(reinterpret_cast<quintptr>(&s_record)));
 }
 
 QString receiverOf(uchar choices)
 {
-    if (choices & ForAnother)
+    if (choices & ForAnother) {
         return sessionPluginId();
+    }
     return choices & ForNobody ? QString() : voipPluginId();
 }
 
 /// Without the call window no other one comes up either, which keeps such inputs fast.
 bool isAllowed(int command, const EngineBench &bench)
 {
-    if (bench.usesWindow())
+    if (bench.usesWindow()) {
         return true;
-    if (command == MSG_CALL_SINGLE_USER || command == MSG_CALL_CONFERENCE)
+    }
+    if (command == MSG_CALL_SINGLE_USER || command == MSG_CALL_CONFERENCE) {
         return !bench.manager->isExistCall() && bench.manager->m_bSocketConnected;
+    }
     return command != MSG_SHOW_VOICE_CONF;
 }
 
@@ -93,16 +98,19 @@ void deliver(EngineBench &bench, int row, uchar choices, const QByteArray &paylo
         bench.host.rawAnswers[command] = answerOf(command, payload);
         return;
     }
-    if (choices & CallComesIn)
+    if (choices & CallComesIn) {
         bench.manager->callbackMessage(0, QStringLiteral("anna"));
-    if (!isAllowed(command, bench))
+    }
+    if (!isAllowed(command, bench)) {
         return;
+    }
     const QByteArray data =
         command == MSG_UPDATE_USER_INFO ? withAddress(payload, choices & WithCard ? &s_card : nullptr) : payload;
     BaseEvent event(static_cast<EMsgId>(command), sessionPluginId(), receiverOf(choices), false, data);
     VoipManageMessageProcess::instance()->customEvent(&event);
-    if ((command == MSG_IS_EXIST_CALL || command == MSG_IS_VIDEO_CALL) && !(choices & ForAnother))
+    if ((command == MSG_IS_EXIST_CALL || command == MSG_IS_VIDEO_CALL) && !(choices & ForAnother)) {
         requirePromise(event.data.size() == 1, "a query is answered");
+    }
 }
 
 void deliverAll(const QByteArray &input, EngineBench &bench)

@@ -63,10 +63,11 @@ void tags(const QString &text)
     for (HtmlTag tag = HtmlTags::next(text, 0); tag.iBegin >= 0; tag = HtmlTags::next(text, position)) {
         requirePromise(tag.iBegin >= position && tag.iEnd > tag.iBegin && tag.iEnd <= text.size(),
                        "tags follow each other in the text");
-        for (const HtmlAttribute &attribute : tag.listAttribute)
+        for (const HtmlAttribute &attribute : tag.listAttribute) {
             requirePromise(!attribute.strKey.isEmpty() && attribute.source.position() > tag.iBegin &&
                                attribute.source.position() + attribute.source.size() <= tag.iEnd,
                            "attributes stand in their tag");
+        }
         position = tag.iEnd;
     }
 }
@@ -74,8 +75,9 @@ void tags(const QString &text)
 void dom(const QString &text)
 {
     QDomDocument document;
-    if (!DomText::parse(text, document))
+    if (!DomText::parse(text, document)) {
         requirePromise(document.isNull() || !document.hasChildNodes(), "what does not parse leaves nothing");
+    }
     DomText::parse(text.toUtf8(), document);
     document.toString();
 }
@@ -121,9 +123,11 @@ constexpr void (*kReaders[])(const QString &text) = {body, links, plain,    imag
 // takes for quick enough may count as a hang. What grew with the square of the depth took longer than that.
 constexpr bool hasTimeForWhatIsGranted()
 {
-    for (const FuzzTarget &target : fuzzTargets)
-        if (target.run == FuzzTargets::html)
+    for (const FuzzTarget &target : fuzzTargets) {
+        if (target.run == FuzzTargets::html) {
             return target.hangMs * 1000 > HtmlCost::mostMicroseconds(target.longest);
+        }
+    }
     return false;
 }
 static_assert(hasTimeForWhatIsGranted());
@@ -138,8 +142,9 @@ void FuzzTargets::html(const QByteArray &input)
     s_context.setSystemSetData(&s_settings);
     SharedContext::setCommonData(&s_context);
 
-    if (input.isEmpty())
+    if (input.isEmpty()) {
         return;
+    }
     const auto reader = uchar(input.at(0)) % std::size(kReaders);
     kReaders[reader](QString::fromUtf8(input.mid(1)));
 }

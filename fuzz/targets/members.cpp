@@ -56,8 +56,9 @@ void keep(const QString &text)
     query.exec();
     const QList<ConfInfoData> records = DBConfInfo::getAllConfInfo();
     for (const ConfInfoData &info : records) {
-        for (const QString &member : info.m_listMember)
+        for (const QString &member : info.m_listMember) {
             requirePromise(!member.isEmpty() && !member.contains(QLatin1Char(',')), "a member is a text of its own");
+        }
     }
     emptyStore();
 }
@@ -67,11 +68,13 @@ void keep(const QString &text)
 // The first byte says whether the rest is a document or a stored record.
 void FuzzTargets::members(const QByteArray &input)
 {
-    if (input.isEmpty())
+    if (input.isEmpty()) {
         return;
+    }
     const QString text = QString::fromUtf8(input.mid(1));
-    if (uchar(input.at(0)) % 2 == 0)
+    if (uchar(input.at(0)) % 2 == 0) {
         read(text);
-    else
+    } else {
         keep(text);
+    }
 }

@@ -66,8 +66,9 @@ void rename(const QString &path)
 {
     const QString corrected = ImagePath::getTrueImagePath(path, QString());
     requirePromise(corrected.isEmpty() || QFile::exists(corrected), "a corrected path names the file");
-    if (corrected != path)
+    if (corrected != path) {
         QFile::remove(corrected);
+    }
 }
 
 constexpr void (*kReaders[])(const QString &path) = {read, names, scale, round, shape, store, frame, rename};
@@ -83,8 +84,9 @@ void FuzzTargets::picture(const QByteArray &input)
     s_context.setSystemSetData(&s_settings);
     SharedContext::setCommonData(&s_context);
 
-    if (input.isEmpty())
+    if (input.isEmpty()) {
         return;
+    }
     const QByteArray bytes = input.mid(1);
     PictureFun::getSuffixOfType(PictureFun::getFileType(bytes));
     PictureFun::saveByteArrayToLocalFile(bytes, QStringLiteral("head"));

@@ -16,8 +16,9 @@ namespace {
 int nodesOf(const QList<ServiceMenu> &menu)
 {
     int count = menu.size();
-    for (const ServiceMenu &node : menu)
+    for (const ServiceMenu &node : menu) {
         count += nodesOf(node.m_listChild);
+    }
     return count;
 }
 
@@ -83,8 +84,9 @@ void FuzzTargets::service(const QByteArray &input)
         requirePromise(data.m_listMenu.isEmpty(), "a menu that cannot be read whole is none");
     }
     Json::Value root;
-    if (!parse(input, root))
+    if (!parse(input, root)) {
         return;
+    }
     CServiceNumData record;
     readTwice(root, record);
     readChannel(root, record);

@@ -104,8 +104,9 @@ void readAddresses(const QByteArray &bytes)
     CUrlInfo::getSipPhoneRegDomain(domains);
     requirePromise(!domains.isEmpty(), "there is always a host");
     constexpr auto count = int(std::size(kGetters));
-    for (const char byte : bytes.left(kAskedGetters))
+    for (const char byte : bytes.left(kAskedGetters)) {
         kGetters[uchar(byte) % count]();
+    }
     QFile::remove(path);
 }
 
@@ -116,6 +117,7 @@ constexpr void (*kReaders[])(const QByteArray &bytes) = {readValues, translate, 
 // The first byte says which of the readers gets the rest as a file.
 void FuzzTargets::settings(const QByteArray &input)
 {
-    if (!input.isEmpty())
+    if (!input.isEmpty()) {
         kReaders[uchar(input.at(0)) % std::size(kReaders)](input.mid(1));
+    }
 }

@@ -149,8 +149,9 @@ public:
 
     void run(EngineBench &bench)
     {
-        while (m_position < m_input.size())
+        while (m_position < m_input.size()) {
             step(bench);
+        }
     }
 
 private:
@@ -164,8 +165,9 @@ private:
             if (act) {
                 ++m_position;
                 bench.receive(read);
-                if (isAllowed(*act, bench))
+                if (isAllowed(*act, bench)) {
                     act->run(bench);
+                }
                 return;
             }
             read += byte;
@@ -181,8 +183,9 @@ private:
         case Nothing:
             return true;
         case BoxIfRefused:
-            if (!bench.manager->isExistCall() && bench.manager->m_bSocketConnected)
+            if (!bench.manager->isExistCall() && bench.manager->m_bSocketConnected) {
                 return true;
+            }
             return bench.usesWindow() && bench.boxes.texts.isEmpty();
         case Centre:
             return bench.usesWindow();
@@ -192,13 +195,15 @@ private:
 
     const Act *actAt(int position)
     {
-        if (position >= m_input.size() || m_acts == kMostActs)
+        if (position >= m_input.size() || m_acts == kMostActs) {
             return nullptr;
+        }
         const char letter = m_input.at(position);
         const Act *act = std::find_if(std::begin(kActs), std::end(kActs),
                                       [letter](const Act &candidate) { return candidate.letter == letter; });
-        if (act == std::end(kActs))
+        if (act == std::end(kActs)) {
             return nullptr;
+        }
         ++m_acts;
         return act;
     }

@@ -36,17 +36,21 @@ bool goOn(pa_mainloop *loop, const QDeadlineTimer &deadline)
 bool serverIsSilent()
 {
     const std::unique_ptr<pa_mainloop, Free> loop(pa_mainloop_new());
-    if (!loop)
+    if (!loop) {
         return false;
+    }
     const std::unique_ptr<pa_context, Free> client(pa_context_new(pa_mainloop_get_api(loop.get()), "microphones"));
-    if (!client || pa_context_connect(client.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0)
+    if (!client || pa_context_connect(client.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) {
         return false;
+    }
     const QDeadlineTimer deadline(AudioInputs::kPatienceMs);
     while (waits(client.get())) {
-        if (deadline.hasExpired())
+        if (deadline.hasExpired()) {
             return true;
-        if (!goOn(loop.get(), deadline))
+        }
+        if (!goOn(loop.get(), deadline)) {
             return false;
+        }
     }
     return false;
 }
@@ -56,8 +60,9 @@ bool serverIsSilent()
 bool AudioInputs::exist()
 {
     static bool s_bListed = false;
-    if (!s_bListed && serverIsSilent())
+    if (!s_bListed && serverIsSilent()) {
         return true;
+    }
     s_bListed = true;
     return !QAudioDeviceInfo::availableDevices(QAudio::AudioInput).isEmpty();
 }

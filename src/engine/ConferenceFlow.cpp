@@ -40,8 +40,9 @@ QString creationText(const QDateTime &time)
 void askForStrangers(const QStringList &users)
 {
     StrangerCards strangers;
-    for (const QString &id : users)
+    for (const QString &id : users) {
         strangers.test(id);
+    }
     strangers.request();
 }
 
@@ -50,16 +51,18 @@ void askForStrangers(const QStringList &users)
 void CVoipManage::callConference(QList<QString> userList, bool bFlag, QString strText)
 {
     LOG_DEBUG << "call conf uselist = " << joined(userList) << "\n";
-    if (!canPlaceCall())
+    if (!canPlaceCall()) {
         return;
+    }
     m_callData.bIsCaller = true;
     m_callData.bIsConf = true;
     m_callData.memberList = userList;
 
     askForStrangers(userList);
 
-    if (!m_memberIndex.contains(m_callData.memberList, m_strUserId))
+    if (!m_memberIndex.contains(m_callData.memberList, m_strUserId)) {
         m_memberIndex.append(m_callData.memberList, m_strUserId);
+    }
     QStringList called = m_callData.memberList;
     called.removeAll(m_strUserId);
     sendIfConnected(SdkLine::of<Wire::Command::RequestConference>(m_strUserId, called, bFlag, strText));
@@ -77,8 +80,9 @@ void CVoipManage::acceptConference()
               << "\n";
     QStringList others = m_callData.memberList;
     others.removeOne(m_strUserId);
-    if (m_pVoipWidget)
+    if (m_pVoipWidget) {
         m_pVoipWidget->setVoipCallInfo(others, CVoipWidget::Conference, m_callData.bIsCaller, false);
+    }
     sendVoipMessage(SdkLine::of<Wire::Command::AcceptConf>());
 }
 
@@ -87,13 +91,15 @@ void CVoipManage::slot_AddConfMember()
     QStringList others = m_callData.memberList;
     others.removeOne(m_strUserId);
     QStringList answer = VoipManageEventProcess::addMemberToConference(others);
-    if (answer.isEmpty())
+    if (answer.isEmpty()) {
         return;
+    }
     // The host's picker may have run an event loop: what counts is the list as it is now.
     QStringList rest;
     for (const QString &id : qAsConst(answer)) {
-        if (!m_memberIndex.contains(m_callData.memberList, id))
+        if (!m_memberIndex.contains(m_callData.memberList, id)) {
             rest.append(id);
+        }
     }
     // Deliberate: with nobody left too, the call process gets its request.
     addConferenceMember(rest);
@@ -103,13 +109,15 @@ void CVoipManage::addConferenceMember(QList<QString> userList)
 {
     LOG_DEBUG << "add conf member = " << joined(userList) << "\n";
     for (const QString &id : qAsConst(userList)) {
-        if (!m_memberIndex.contains(m_callData.memberList, id))
+        if (!m_memberIndex.contains(m_callData.memberList, id)) {
             m_memberIndex.append(m_callData.memberList, id);
+        }
     }
     askForStrangers(userList);
     if (m_pVoipWidget) {
-        for (const QString &id : qAsConst(userList))
+        for (const QString &id : qAsConst(userList)) {
             m_pVoipWidget->addConferenceMember(id);
+        }
     }
     if (m_callData.bIsConf) {
         // Deliberate: the own id stands twice.
@@ -120,21 +128,25 @@ void CVoipManage::addConferenceMember(QList<QString> userList)
 
 void CVoipManage::slot_ReInviteConfUser(QString strUserID)
 {
-    if (!m_callData.bIsConf || !m_callData.bIsCaller)
+    if (!m_callData.bIsConf || !m_callData.bIsCaller) {
         return;
+    }
     LOG_DEBUG << "reInvite conf user = " << strUserID << "\n";
     addConferenceMember({strUserID});
-    if (m_pVoipWidget)
+    if (m_pVoipWidget) {
         m_pVoipWidget->updateConferenceUserStatus(strUserID, ConferenceCalling);
+    }
 }
 
 void CVoipManage::slot_RemoveConferenceMember(QString strUserID)
 {
     LOG_DEBUG << "remove conf member = " << strUserID << "\n";
-    if (m_memberIndex.removeOne(m_callData.memberList, strUserID) && m_callData.connectedList.contains(strUserID))
+    if (m_memberIndex.removeOne(m_callData.memberList, strUserID) && m_callData.connectedList.contains(strUserID)) {
         controlConference(Kick, false, strUserID);
-    if (m_pVoipWidget)
+    }
+    if (m_pVoipWidget) {
         m_pVoipWidget->removeConferenceMember(strUserID);
+    }
 }
 
 void CVoipManage::slot_MuteConferenceMember(QString strUserID, bool bMute)
@@ -153,27 +165,31 @@ void CVoipManage::controlConference(ConfControlSignal iOperation, bool bIsAllMem
 {
     LOG_DEBUG << "control conf operation = " << static_cast<int>(iOperation) << ", isAllMember = " << bIsAllMember
               << ", userid = " << strUserId << "\n";
-    if (!m_bSocketConnected || !m_callData.bIsConf)
+    if (!m_bSocketConnected || !m_callData.bIsConf) {
         return;
+    }
     const QString operation = QLatin1String(operationText(iOperation));
     const QString target = bIsAllMember ? QString::fromLatin1(Wire::kEverybody) : strUserId;
-    if (operation.isEmpty() || target.isEmpty())
+    if (operation.isEmpty() || target.isEmpty()) {
         return;
+    }
     sendVoipMessage(SdkLine::of<Wire::Command::ControlConf>(operation, target));
 }
 
 void CVoipManage::updateConferenceListStatus()
 {
     LOG_DEBUG << "update conf connected users = " << joined(m_callData.connectedList) << "\n";
-    if (m_pVoipWidget)
+    if (m_pVoipWidget) {
         m_pVoipWidget->updateConferenceListStatus(m_callData.connectedList);
+    }
 }
 
 void CVoipManage::updateUserInfo(QString strUserId, VcardInfo vcard)
 {
     LOG_DEBUG << "updateUserInfo userID = " << strUserId << "\n";
-    if (m_pVoipWidget)
+    if (m_pVoipWidget) {
         m_pVoipWidget->updateUserInfo(strUserId, vcard);
+    }
 }
 
 void CVoipManage::recordConference(qint64 iSeconds)
@@ -187,8 +203,9 @@ void CVoipManage::recordConference(qint64 iSeconds)
     record.m_listMember = m_callData.memberList;
     record.m_bIsConnect = m_callData.bIsConnected;
     DBConfInfo::saveConfInfo(record);
-    if (m_pVoiceConfWidget)
+    if (m_pVoiceConfWidget) {
         m_pVoiceConfWidget->addConferenceInfo(record);
+    }
 }
 
 void CVoipManage::showVoiceConf()
@@ -207,13 +224,15 @@ void CVoipManage::showVoiceConf()
 
 void CVoipManage::slot_VoiceConfWidgetClose()
 {
-    if (m_pVoiceConfWidget)
+    if (m_pVoiceConfWidget) {
         m_pVoiceConfWidget->deleteLater();
+    }
     m_pVoiceConfWidget = nullptr;
 }
 
 void CVoipManage::slot_DeleteConfInfoData(QString strConfID)
 {
-    if (!strConfID.isEmpty())
+    if (!strConfID.isEmpty()) {
         DBConfInfo::deleteConfInfo(strConfID);
+    }
 }

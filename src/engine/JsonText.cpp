@@ -20,8 +20,9 @@ bool parse(const QString &text, Json::Value &root)
     thread_local Json::Reader reader;
     const QByteArray bytes = text.toUtf8();
     try {
-        if (reader.parse(bytes.cbegin(), bytes.cend(), root, true))
+        if (reader.parse(bytes.cbegin(), bytes.cend(), root, true)) {
             return true;
+        }
     } catch (const std::exception &) {
         // A text that nests deeper than the library goes ends here; it counts as one that does not parse.
     }
@@ -50,12 +51,14 @@ QString text(const Json::Value &value)
 QStringList texts(const Json::Value &value)
 {
     QStringList list;
-    if (!value.isArray())
+    if (!value.isArray()) {
         return list;
+    }
     list.reserve(static_cast<int>(value.size()));
     for (const Json::Value &item : value) {
-        if (item.isString())
+        if (item.isString()) {
             list.append(text(item));
+        }
     }
     return list;
 }
@@ -68,8 +71,9 @@ qint64 integer(const Json::Value &value)
 Json::Value arrayOrNull(const QStringList &list)
 {
     Json::Value array;
-    for (const QString &item : list)
+    for (const QString &item : list) {
         array.append(item.toStdString());
+    }
     return array;
 }
 

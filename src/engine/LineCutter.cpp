@@ -30,8 +30,9 @@ QStringList plainLines(const QString &text)
 bool occursAgain(const QString &line, QStringView start)
 {
     for (int at = line.indexOf(start.front(), 1); at >= 0; at = line.indexOf(start.front(), at + 1)) {
-        if (QStringView(line).mid(at).startsWith(start))
+        if (QStringView(line).mid(at).startsWith(start)) {
             return true;
+        }
     }
     return false;
 }
@@ -41,14 +42,16 @@ bool occursAgain(const QString &line, QStringView start)
 bool standApart(const QStringList &lines)
 {
     constexpr int beginning = 4;
-    if (lines.isEmpty() || lines.first().size() <= beginning)
+    if (lines.isEmpty() || lines.first().size() <= beginning) {
         return false;
+    }
     const QStringView start = QStringView(lines.first()).left(beginning);
     std::vector<std::size_t> hashes;
     hashes.reserve(static_cast<std::size_t>(lines.size()));
     for (const QString &line : lines) {
-        if (!line.startsWith(start) || occursAgain(line, start))
+        if (!line.startsWith(start) || occursAgain(line, start)) {
             return false;
+        }
         const std::u16string_view text(QStringView(line).utf16(), static_cast<std::size_t>(line.size()));
         hashes.push_back(std::hash<std::u16string_view>()(text));
     }
@@ -70,8 +73,9 @@ QStringList cutByTheRule(QStringList rest)
                 front += next.leftRef(next.size() - line.size());
                 continue;
             }
-            if (!front.isEmpty())
+            if (!front.isEmpty()) {
                 next.prepend(std::exchange(front, QString()));
+            }
             kept->swap(next);
             ++kept;
         }

@@ -49,10 +49,11 @@ void CVoipManage::creatVoipSDKSocket()
     LOG_DEBUG << "creat sdk socket connect"
               << "\n";
     m_pVoipSocket->connectToServer(serverName(), QIODevice::ReadWrite);
-    if (m_pVoipSocket->waitForConnected(kConnectWaitMs))
+    if (m_pVoipSocket->waitForConnected(kConnectWaitMs)) {
         slot_VoipSDKConnected();
-    else
+    } else {
         slot_VoipSDKDisConnected();
+    }
 }
 
 void CVoipManage::slot_VoipSDKConnected()
@@ -61,8 +62,9 @@ void CVoipManage::slot_VoipSDKConnected()
               << "\n";
     m_bSocketConnected = true;
     m_nReconnectCount = 0;
-    if (!m_strUserId.isEmpty() && !m_strRegValue.isEmpty())
+    if (!m_strUserId.isEmpty() && !m_strRegValue.isEmpty()) {
         regeditVoipUser(m_strUserId, m_strNickName, m_strRegValue);
+    }
 }
 
 void CVoipManage::slot_VoipSDKDisConnected()
@@ -105,39 +107,45 @@ void CVoipManage::sendVoipMessage(QString strMessage)
 {
     LOG_DEBUG << "sendVoipMsg = " << strMessage << "\n";
     // Qt warns about a write to a socket that is not open.
-    if (m_pVoipSocket && m_pVoipSocket->isOpen())
+    if (m_pVoipSocket && m_pVoipSocket->isOpen()) {
         m_pVoipSocket->write(strMessage.toUtf8());
+    }
 }
 
 void CVoipManage::sendIfConnected(const QString &line)
 {
-    if (m_bSocketConnected)
+    if (m_bSocketConnected) {
         sendVoipMessage(line);
+    }
 }
 
 void CVoipManage::slot_VoipSDKDataRecevie()
 {
-    if (!m_pVoipSocket || m_pVoipSocket->bytesAvailable() == 0)
+    if (!m_pVoipSocket || m_pVoipSocket->bytesAvailable() == 0) {
         return;
+    }
     const QByteArray bytes = m_pVoipSocket->readAll();
     qDebug().noquote().nospace() << "Voip返回数据" << bytes;
 
     // Deliberate: a NUL byte hides what is behind it, and nothing is kept for the next read.
     const auto length = qstrnlen(bytes.constData(), static_cast<uint>(bytes.size()));
     const QStringList lines = cutLines(QString::fromUtf8(bytes.constData(), static_cast<int>(length)));
-    for (const QString &line : lines)
+    for (const QString &line : lines) {
         recevieVoipMessage(line);
+    }
 
     // While a handler runs an event loop of its own, no signal tells of what comes meanwhile.
-    if (m_pVoipSocket && m_pVoipSocket->bytesAvailable() > 0)
+    if (m_pVoipSocket && m_pVoipSocket->bytesAvailable() > 0) {
         QMetaObject::invokeMethod(this, "slot_VoipSDKDataRecevie", Qt::QueuedConnection);
+    }
 }
 
 void CVoipManage::recevieVoipMessage(QString strLine)
 {
     const SdkLine::Notification line = SdkLine::read(strLine);
-    if (line.code >= 0)
+    if (line.code >= 0) {
         callbackMessage(line.code, line.content);
+    }
 }
 
 void CVoipManage::disconnectVoipSDKSocket()
@@ -146,11 +154,13 @@ void CVoipManage::disconnectVoipSDKSocket()
               << "\n";
     if (m_pVoipSocket) {
         // Each step looks at the socket anew, since the one before may have found the far side gone.
-        if (m_pVoipSocket->isOpen())
+        if (m_pVoipSocket->isOpen()) {
             m_pVoipSocket->write(QByteArray(Wire::kQuitLine) + '\n');
+        }
         m_pVoipSocket->flush();
-        if (m_pVoipSocket->state() == QLocalSocket::ConnectedState)
+        if (m_pVoipSocket->state() == QLocalSocket::ConnectedState) {
             m_pVoipSocket->waitForBytesWritten(kQuitWriteWaitMs);
+        }
         // Deliberate order: the socket still reports its end, which arms the back-off timer once more.
         m_pVoipSocket->disconnectFromServer();
         disconnect(m_pVoipSocket, SIGNAL(readyRead()), this, SLOT(slot_VoipSDKDataRecevie()));

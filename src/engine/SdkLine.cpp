@@ -32,22 +32,25 @@ QString lineOf(Wire::Command command, std::initializer_list<Json::Value> paramet
     Json::Value root(Json::objectValue);
     root["messagetype"] = Wire::nameOf(command);
     int number = 0;
-    for (const Json::Value &parameter : parameters)
+    for (const Json::Value &parameter : parameters) {
         root["param" + std::to_string(++number)] = parameter;
+    }
     return JsonText::write(root);
 }
 
 Notification read(const QString &line)
 {
     Json::Value document;
-    if (!JsonText::parse(line, document))
+    if (!JsonText::parse(line, document)) {
         return {};
+    }
     // Through a constant reference, asking for an absent key does not add it.
     const Json::Value &root = document;
     try {
         const int code = root["resultCode"].asInt();
-        if (code < 0)
+        if (code < 0) {
             return {};
+        }
         const Json::Value &content = root["content"];
         return {code, content.isString() ? JsonText::text(content) : QString::fromStdString(content.asString())};
     } catch (const std::exception &) {

@@ -52,8 +52,9 @@ void CVoipManage::callbackMessage(int iCode, QString content)
     const auto row =
         std::find_if(std::begin(kNotifications), std::end(kNotifications),
                      [iCode](const NotificationRow &candidate) { return candidate.code == Wire::Code(iCode); });
-    if (row != std::end(kNotifications))
+    if (row != std::end(kNotifications)) {
         (this->*row->act)(content);
+    }
 }
 
 void CVoipManage::voipLogPrint(QString, QString) {}
@@ -77,15 +78,18 @@ void CVoipManage::onIncomingConf(const QString &content)
     m_callData.bIsVideo = false;
     m_callData.bIsCaller = false;
     const ConferenceDocument document = ConferenceDocument::read(content);
-    if (!isOurConference(document))
+    if (!isOurConference(document)) {
         return;
+    }
     m_callData.confId = document.confId;
     takeCreateTime(document.createTime);
-    if (!document.from.isEmpty())
+    if (!document.from.isEmpty()) {
         m_callData.peerId = document.from;
+    }
     playReceviceCall();
-    if (m_pVoipWidget)
+    if (m_pVoipWidget) {
         m_pVoipWidget->setConferenceCreator(document.from);
+    }
     notifyRecevieVoipCall(document.from, true, false);
 }
 
@@ -101,12 +105,13 @@ void CVoipManage::onPeerCanceled(const QString &)
 
 void CVoipManage::onUserRejected(const QString &content)
 {
-    if (content == m_strUserId)
+    if (content == m_strUserId) {
         callFinished(CallData::FinishCanceled);
-    else if (!m_callData.bIsConf)
+    } else if (!m_callData.bIsConf) {
         callFinished(CallData::FinishRejected);
-    else if (m_pVoipWidget)
+    } else if (m_pVoipWidget) {
         m_pVoipWidget->updateConferenceUserStatus(content, ConferenceRejected);
+    }
 }
 
 void CVoipManage::onCallEnded(const QString &)
@@ -127,19 +132,22 @@ void CVoipManage::onPeerRejected(const QString &)
 void CVoipManage::onConfUpdate(const QString &content)
 {
     const ConferenceDocument document = ConferenceDocument::read(content);
-    if (!isOurConference(document))
+    if (!isOurConference(document)) {
         return;
+    }
     m_callData.confId = document.confId;
     takeCreateTime(document.createTime);
 
     StrangerCards strangers;
     for (const QString &id : document.conventioneer) {
         // Looked up each time: the host's answers may run an event loop, in which the list changes under this walk.
-        if (m_memberIndex.contains(m_callData.memberList, id))
+        if (m_memberIndex.contains(m_callData.memberList, id)) {
             continue;
+        }
         m_memberIndex.append(m_callData.memberList, id);
-        if (m_pVoipWidget && id != m_strUserId)
+        if (m_pVoipWidget && id != m_strUserId) {
             m_pVoipWidget->addConferenceMember(id);
+        }
         strangers.test(id);
     }
     m_callData.connectedList = document.conventioneer;
@@ -150,11 +158,13 @@ void CVoipManage::onConfUpdate(const QString &content)
 void CVoipManage::onConfMemberLeft(const QString &content)
 {
     const ConferenceDocument document = ConferenceDocument::read(content);
-    if (!isOurConference(document))
+    if (!isOurConference(document)) {
         return;
+    }
     m_callData.confId = document.confId;
-    if (!document.from.isEmpty() && m_callData.bIsConf && m_pVoipWidget)
+    if (!document.from.isEmpty() && m_callData.bIsConf && m_pVoipWidget) {
         m_pVoipWidget->updateConferenceUserStatus(document.from, ConferenceHungUp);
+    }
     m_callData.connectedList = document.conventioneer;
     updateConferenceListStatus();
 }
@@ -167,8 +177,9 @@ void CVoipManage::onSdkFlag(const QString &content)
 void CVoipManage::onCallConnected(const QString &)
 {
     m_callData.bIsConnected = true;
-    if (m_pVoipWidget)
+    if (m_pVoipWidget) {
         m_pVoipWidget->setVoipCallStatus(true);
+    }
     m_callData.connectTime = QDateTime::currentDateTimeUtc();
     stopCallTimers();
 }
@@ -190,13 +201,15 @@ void CVoipManage::onConfCreated(const QString &content)
 
 void CVoipManage::onConfAddResult(const QString &content)
 {
-    if (content.isEmpty())
+    if (content.isEmpty()) {
         return;
+    }
     qDebug().noquote().nospace() << content;
     LOG_DEBUG << "add conf member result=" << content << "\n";
     const QStringList failed = failedNumbers(content);
-    if (!failed.isEmpty() && m_pVoipWidget)
+    if (!failed.isEmpty() && m_pVoipWidget) {
         m_pVoipWidget->setaddConfFailedList(failed);
+    }
 }
 
 void CVoipManage::onPeerBusy(const QString &)
@@ -206,8 +219,9 @@ void CVoipManage::onPeerBusy(const QString &)
 
 void CVoipManage::onConfMemberRejected(const QString &content)
 {
-    if (m_callData.bIsConf && m_pVoipWidget)
+    if (m_callData.bIsConf && m_pVoipWidget) {
         m_pVoipWidget->updateConferenceUserStatus(content, ConferenceRejected);
+    }
     onSdkLog(content);
 }
 
@@ -226,6 +240,7 @@ bool CVoipManage::isOurConference(const ConferenceDocument &document) const
 
 void CVoipManage::takeCreateTime(qint64 msecs)
 {
-    if (msecs > 0)
+    if (msecs > 0) {
         m_callData.createTime = QDateTime::fromMSecsSinceEpoch(msecs);
+    }
 }

@@ -37,8 +37,9 @@ bool CVoipManage::canPlaceCall()
 
 void CVoipManage::showCallInWindow()
 {
-    if (!m_pVoipWidget)
+    if (!m_pVoipWidget) {
         return;
+    }
     const CVoipWidget::VoipType type = m_callData.bIsVideo ? CVoipWidget::Video : CVoipWidget::Voice;
     m_pVoipWidget->setVoipCallInfo({m_callData.peerId}, type, m_callData.bIsCaller, false);
 }
@@ -46,20 +47,23 @@ void CVoipManage::showCallInWindow()
 void CVoipManage::callSingleUser(QString strUser, bool bVideo)
 {
     LOG_DEBUG << "user singlecall touser = " << strUser << ", isVideo = " << bVideo << "\n";
-    if (!canPlaceCall())
+    if (!canPlaceCall()) {
         return;
+    }
     m_callData.bIsCaller = true;
     m_callData.peerId = strUser;
 
     StrangerCards stranger;
-    if (stranger.test(strUser))
+    if (stranger.test(strUser)) {
         stranger.request();
+    }
 
     m_callData.bIsVideo = bVideo;
     sendIfConnected(SdkLine::of<Wire::Command::CallUser>(strUser, bVideo));
     showCallInWindow();
-    if (m_pVoipWidget)
+    if (m_pVoipWidget) {
         m_pVoipWidget->show();
+    }
     m_inviteTimer.start(kInviteLimitMs);
 }
 
@@ -76,10 +80,11 @@ void CVoipManage::notifyRecevieVoipCall(QString strUser, bool bIsConf, bool bIsV
 void CVoipManage::responseVoipRequest(bool bAccept)
 {
     LOG_DEBUG << "use response voip request, baccept = " << bAccept << "\n";
-    if (bAccept)
+    if (bAccept) {
         acceptVoipCall();
-    else
+    } else {
         rejectVoipCall();
+    }
 }
 
 void CVoipManage::acceptVoipCall()
@@ -101,8 +106,9 @@ void CVoipManage::acceptVoipCall()
         showCallInWindow();
         sendVoipMessage(SdkLine::of<Wire::Command::AcceptCall>());
     }
-    if (m_pVoipWidget)
+    if (m_pVoipWidget) {
         m_pVoipWidget->show();
+    }
 }
 
 void CVoipManage::rejectVoipCall()
@@ -119,8 +125,9 @@ void CVoipManage::hangupVoipCall()
     LOG_DEBUG << "hangup voip call!"
               << "\n";
     stopRinging();
-    if (!isExistCall())
+    if (!isExistCall()) {
         return;
+    }
     if (!m_callData.bIsConnected && !m_callData.bIsCaller) {
         rejectVoipCall();
         return;
@@ -137,25 +144,30 @@ void CVoipManage::slot_HangupCurrentCall()
 
 void CVoipManage::stopCallTimers()
 {
-    if (m_inviteTimer.isActive())
+    if (m_inviteTimer.isActive()) {
         m_inviteTimer.stop();
-    if (m_recevieTimer.isActive())
+    }
+    if (m_recevieTimer.isActive()) {
         m_recevieTimer.stop();
+    }
 }
 
 void CVoipManage::callFinished(CallData::FinishResult result)
 {
     stopRinging();
     stopCallTimers();
-    if (!isExistCall())
+    if (!isExistCall()) {
         return;
+    }
     LOG_DEBUG << "call finish!"
               << "\n";
-    if (!m_callData.peerId.isEmpty())
+    if (!m_callData.peerId.isEmpty()) {
         VoipManageEventProcess::closeAVMsgBox(UserIds::getJidByUid(m_callData.peerId));
+    }
     qint64 iSeconds = 0;
-    if (!m_callData.connectTime.isNull())
+    if (!m_callData.connectTime.isNull()) {
         iSeconds = m_callData.connectTime.secsTo(QDateTime::currentDateTimeUtc());
+    }
     if (m_callData.bIsConf) {
         recordConference(iSeconds);
     } else if (!m_callData.peerId.isEmpty()) {
@@ -164,8 +176,9 @@ void CVoipManage::callFinished(CallData::FinishResult result)
     }
     // The window reports its closing as a hang-up, so the call must be forgotten before.
     clearLocalCallData();
-    if (m_pVoipWidget)
+    if (m_pVoipWidget) {
         m_pVoipWidget->close();
+    }
 }
 
 void CVoipManage::clientConnectStatus(bool bConnected)

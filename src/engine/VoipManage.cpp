@@ -15,8 +15,9 @@ CVoipManage *CVoipManage::m_pInstance = nullptr;
 
 CVoipManage *CVoipManage::instance()
 {
-    if (!m_pInstance)
+    if (!m_pInstance) {
         m_pInstance = new CVoipManage;
+    }
     return m_pInstance;
 }
 
@@ -37,8 +38,9 @@ CVoipManage::~CVoipManage()
 {
     disconnectVoipSDKSocket();
     // The player stays for the next engine and would ring on.
-    if (m_pRingSound)
+    if (m_pRingSound) {
         m_pRingSound->stop();
+    }
     delete m_pVoiceConfWidget;
     delete m_pVoipWidget;
     delete m_pVoipProcess;
@@ -112,11 +114,13 @@ void CVoipManage::playReceviceCall()
 {
     LOG_DEBUG << "play call ring"
               << "\n";
-    if (!m_pRingSound)
+    if (!m_pRingSound) {
         return;
+    }
     const SystemSetData *settings = SharedContext::getSystemSetData();
-    if (settings && settings->m_strCloseVoice == QLatin1String("1"))
+    if (settings && settings->m_strCloseVoice == QLatin1String("1")) {
         return;
+    }
     m_pRingSound->play();
 }
 
@@ -124,8 +128,9 @@ void CVoipManage::stopRinging()
 {
     LOG_DEBUG << "stop ring!"
               << "\n";
-    if (m_pRingSound)
+    if (m_pRingSound) {
         m_pRingSound->stop();
+    }
 }
 
 void CVoipManage::slot_inviteCallTimeout()
@@ -133,8 +138,9 @@ void CVoipManage::slot_inviteCallTimeout()
     LOG_DEBUG << "invite call time out!"
               << "\n";
     m_inviteTimer.stop();
-    if (m_callData.bIsCaller)
+    if (m_callData.bIsCaller) {
         hangupVoipCall();
+    }
 }
 
 void CVoipManage::slot_recevieCallTimeout()
@@ -142,6 +148,7 @@ void CVoipManage::slot_recevieCallTimeout()
     LOG_DEBUG << "recevie call connect time out!"
               << "\n";
     m_recevieTimer.stop();
-    if (!m_callData.bIsCaller)
+    if (!m_callData.bIsCaller) {
         hangupVoipCall();
+    }
 }

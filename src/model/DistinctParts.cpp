@@ -16,8 +16,9 @@ public:
     explicit EndingTree(const QStringList &listPart)
     {
         addNode(0, QChar());
-        for (const QString &strPart : listPart)
+        for (const QString &strPart : listPart) {
             add(strPart);
+        }
         linkEndings();
     }
 
@@ -82,8 +83,9 @@ private:
     {
         for (;;) {
             const int iNext = m_next.value(key(iNode, unit), 0);
-            if (iNext != 0 || iNode == 0)
+            if (iNext != 0 || iNode == 0) {
                 return iNext;
+            }
             iNode = m_listNode.at(iNode).iEnding;
         }
     }
@@ -91,8 +93,9 @@ private:
     // A text that has been met contains all its endings, so these have been met too.
     void meet(int iNode)
     {
-        for (; iNode != 0 && !m_listNode.at(iNode).bMet; iNode = m_listNode.at(iNode).iEnding)
+        for (; iNode != 0 && !m_listNode.at(iNode).bMet; iNode = m_listNode.at(iNode).iEnding) {
             m_listNode[iNode].bMet = true;
+        }
     }
 
     QVector<Node> m_listNode;

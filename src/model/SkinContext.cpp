@@ -40,16 +40,18 @@ SysUIData *SkinContext::getSkinData()
         static SysUIData *const pSkin = lastingSkin();
         return pSkin;
     }
-    if (!pContext->getSkinData())
+    if (!pContext->getSkinData()) {
         pContext->setSkinData(lastingSkin());
+    }
     return pContext->getSkinData();
 }
 
 void SkinContext::setSkinData(const SysUIData &skin)
 {
     CommonData *pContext = SharedContext::getCommonData();
-    if (pContext && pContext->getSkinData())
+    if (pContext && pContext->getSkinData()) {
         pContext->getSkinData()->resetData(skin);
+    }
 }
 
 QList<SysUIData> *SkinContext::getSysUIDataList()

@@ -35,8 +35,9 @@ QString marginInside(const QString &strMargin, const QString &strBorderWidths)
 {
     const QStringList listMargin = fourWidths(strMargin);
     const QStringList listBorder = fourWidths(strBorderWidths);
-    if (listMargin.isEmpty() || listBorder.isEmpty())
+    if (listMargin.isEmpty() || listBorder.isEmpty()) {
         return strMargin;
+    }
 
     const auto left = [&](int iSide) {
         return QString::number(qint64(listMargin.at(iSide).toInt()) - listBorder.at(iSide).toInt());

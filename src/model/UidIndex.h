@@ -22,8 +22,9 @@ public:
     {
         follow(uids);
         // A hash that grows moves all its nodes: it does so half as often as it would by itself.
-        if (m_counts.size() >= m_counts.capacity())
+        if (m_counts.size() >= m_counts.capacity()) {
             m_counts.reserve(4 * m_counts.size());
+        }
         ++m_counts[uid];
         m_seen.clear();
         uids.append(uid);
@@ -34,10 +35,12 @@ public:
     {
         follow(uids);
         const auto count = m_counts.find(uid);
-        if (count == m_counts.end())
+        if (count == m_counts.end()) {
             return false;
-        if (--*count == 0)
+        }
+        if (--*count == 0) {
             m_counts.erase(count);
+        }
         m_seen.clear();
         uids.removeOne(uid);
         m_seen = uids;
@@ -60,13 +63,15 @@ private:
     void follow(const QList<QString> &uids)
     {
         // A list that has been changed shares its data with what was seen no longer.
-        if (m_seen.isSharedWith(uids))
+        if (m_seen.isSharedWith(uids)) {
             return;
+        }
         m_seen = uids;
         m_counts.clear();
         m_counts.reserve(uids.size());
-        for (const QString &uid : uids)
+        for (const QString &uid : uids) {
             ++m_counts[uid];
+        }
     }
 
     QList<QString> m_seen; ///< what is counted; cleared before a change, since data that is shared would be copied

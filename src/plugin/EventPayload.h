@@ -43,8 +43,9 @@ inline void appendField(QByteArray &payload, const QString &field)
 inline void appendField(QByteArray &payload, const QStringList &field)
 {
     appendField(payload, qint32(field.size()));
-    for (const QString &text : field)
+    for (const QString &text : field) {
         appendField(payload, text);
+    }
 }
 
 /// The payload that holds `fields` in their order. A QStringList is written as a 32-bit count and the strings. Without

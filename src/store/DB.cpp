@@ -78,19 +78,23 @@ void removeSessionConnection()
 
 void openFreshConnection()
 {
-    if (QSqlDatabase::contains(sessionConnection))
+    if (QSqlDatabase::contains(sessionConnection)) {
         removeSessionConnection();
+    }
     DB::m_db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), sessionConnection);
-    if (CommonData *pContext = SharedContext::getCommonData())
+    if (CommonData *pContext = SharedContext::getCommonData()) {
         pContext->setSqlDatabase(&DB::m_db);
+    }
 }
 
 bool provideFile(const QString &folder, const QString &fileName)
 {
-    if (!QFileInfo::exists(folder))
+    if (!QFileInfo::exists(folder)) {
         QDir().mkpath(folder);
-    if (QFileInfo::exists(fileName))
+    }
+    if (QFileInfo::exists(fileName)) {
         return true;
+    }
     QFile file(fileName);
     // Nothing is cut off what another client puts there at this very moment.
     return file.open(QIODevice::Append);
@@ -99,8 +103,9 @@ bool provideFile(const QString &folder, const QString &fileName)
 // Whether the statement's first row begins with a number other than 0.
 bool findsRow(const QString &statement)
 {
-    if (!DB::m_db.isOpen())
+    if (!DB::m_db.isOpen()) {
         return false;
+    }
     QSqlQuery query(DB::m_db);
     query.setForwardOnly(true);
     return StoreOpening::ask(query, statement) && query.value(0).toInt() != 0;
@@ -111,10 +116,11 @@ bool findsRow(const QString &statement)
 bool bringUpToDate(bool createAll)
 {
     const StoreOpening opening(DB::m_db);
-    if (createAll)
+    if (createAll) {
         DB::createTable();
-    else
+    } else {
         DB::createLoginTable();
+    }
     return !StoreOpening::isShutOut();
 }
 
@@ -122,8 +128,9 @@ bool bringUpToDate(bool createAll)
 
 bool DB::initByUserName(QString userName, QString path, bool createAll)
 {
-    if (m_db.isOpen())
+    if (m_db.isOpen()) {
         closeDB();
+    }
     // Deliberately before any test of the path: after a failed open the context points to a closed connection.
     openFreshConnection();
 
@@ -132,23 +139,27 @@ bool DB::initByUserName(QString userName, QString path, bool createAll)
     const QString fileName = StoreFiles::current(folder);
     const bool bThere =
         createAll ? provideFile(folder, fileName) : QFileInfo::exists(folder) && QFileInfo::exists(fileName);
-    if (!bThere)
+    if (!bThere) {
         return false;
+    }
 
     m_db.setDatabaseName(fileName);
-    if (!LockWait::open(m_db))
+    if (!LockWait::open(m_db)) {
         return false;
+    }
     const bool bOpen = bringUpToDate(createAll);
-    if (!bOpen)
+    if (!bOpen) {
         m_db.close();
+    }
     return bOpen;
 }
 
 void DB::closeDB()
 {
     QSqlDatabase *pDatabase = SharedContext::getSqlDatabase();
-    if (!pDatabase)
+    if (!pDatabase) {
         return;
+    }
     pDatabase->close();
     removeSessionConnection();
     SharedContext::getCommonData()->setSqlDatabase(nullptr);
@@ -185,8 +196,9 @@ bool DB::isExistFiled(const QString &table, const QString &field)
 
 bool DB::isExistIndex(const QString &table, const QString &suffix)
 {
-    if (!m_db.isOpen())
+    if (!m_db.isOpen()) {
         return false;
+    }
     QSqlQuery query(m_db);
     query.setForwardOnly(true);
     return StoreOpening::ask(query, QStringLiteral("SELECT * FROM sqlite_master"
@@ -197,16 +209,18 @@ bool DB::isExistIndex(const QString &table, const QString &suffix)
 void DB::dropNoUseTable()
 {
     for (const char *table : retiredTables) {
-        if (isExistTable(table))
+        if (isExistTable(table)) {
             StoreSchema::run(QStringLiteral("drop table %1;").arg(table));
+        }
     }
 }
 
 bool DB::replaceFiled(const QSqlDatabase &db, const QString &table, const QString &field, const QString &from,
                       const QString &to)
 {
-    if (!db.isOpen())
+    if (!db.isOpen()) {
         return false;
+    }
     QSqlQuery query(db);
     return query.exec(QStringLiteral("UPDATE ") + table + QStringLiteral(" SET ") + field + QStringLiteral(" = ") +
                       QStringLiteral(" REPLACE(") + field + QStringLiteral(",'") + from + QStringLiteral("','") + to +
@@ -216,8 +230,9 @@ bool DB::replaceFiled(const QSqlDatabase &db, const QString &table, const QStrin
 void DB::createTable()
 {
     for (const auto creator : tableCreators) {
-        if (StoreOpening::isShutOut())
+        if (StoreOpening::isShutOut()) {
             return;
+        }
         creator();
     }
 }

@@ -39,8 +39,9 @@ void deleteTrialRow(QSqlQuery &query, LockWait &wait)
 
 bool insertTrialRow(QSqlQuery &query)
 {
-    if (!query.prepare(QStringLiteral("INSERT INTO msgrecord (id)VALUES (?)")))
+    if (!query.prepare(QStringLiteral("INSERT INTO msgrecord (id)VALUES (?)"))) {
         return false;
+    }
     query.addBindValue(QStringLiteral("checkid"));
     return query.exec();
 }
@@ -54,13 +55,15 @@ bool trialWrite(QSqlQuery &query, LockWait &wait)
         deleteTrialRow(query, wait);
         return true;
     }
-    if (text == malformedText)
+    if (text == malformedText) {
         return false;
+    }
     const bool bSound = quickCheck(query, wait);
     // A row that an earlier check left behind, in the words of this SQLite. Any other constraint's refusal, a trigger's
     // too, has the same code and leads here as well: the id is no message's, so nothing is lost.
-    if (sqliteCode(error) == constraintCode)
+    if (sqliteCode(error) == constraintCode) {
         deleteTrialRow(query, wait);
+    }
     return bSound;
 }
 
@@ -76,18 +79,21 @@ bool isSound(const QSqlDatabase &db, bool quickOnly)
 bool DB::checkDB(QString dir, bool quickOnly)
 {
     const QString fileName = StoreFiles::current(dir);
-    if (!QFileInfo::exists(fileName))
+    if (!QFileInfo::exists(fileName)) {
         return true;
+    }
     // A check that could not open its file has left its connection.
-    if (QSqlDatabase::contains(checkConnection))
+    if (QSqlDatabase::contains(checkConnection)) {
         QSqlDatabase::removeDatabase(checkConnection);
+    }
     bool bSound = true;
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), checkConnection);
         db.setDatabaseName(fileName);
         // Deliberate: a file that cannot be opened is not reported as damaged.
-        if (!LockWait::open(db))
+        if (!LockWait::open(db)) {
             return true;
+        }
         bSound = isSound(db, quickOnly);
         db.close();
     }

@@ -14,8 +14,9 @@ namespace {
 QString memberText(const QList<QString> &members)
 {
     QString text;
-    for (const QString &member : members)
+    for (const QString &member : members) {
         text += member + QLatin1Char(',');
+    }
     return text;
 }
 
@@ -44,15 +45,17 @@ private:
     QString shared(const QString &text)
     {
         QString &known = m_texts[int(qHash(text) % cKnownTexts)];
-        if (known != text)
+        if (known != text) {
             known = text;
+        }
         return known;
     }
     QList<QString> sharedMembers(const QString &text)
     {
         QList<QString> members = membersOf(text);
-        for (QString &member : members)
+        for (QString &member : members) {
             member = shared(member);
+        }
         return members;
     }
 
@@ -67,16 +70,19 @@ private:
 bool DBConfInfo::saveConfInfo(ConfInfoData info)
 {
     const QSqlDatabase db = DB::getDB();
-    if (!db.isOpen())
+    if (!db.isOpen()) {
         return false;
+    }
     QSqlQuery query(db);
     const bool bLookedUp = query.exec(QStringLiteral("SELECT ConfID FROM voipConferenceInfo WHERE ConfID = ") +
                                       DB::addYinHao(info.m_strConfID));
     QString strKnown;
-    if (query.next())
+    if (query.next()) {
         strKnown = query.value(0).toString();
-    if (!strKnown.isEmpty())
+    }
+    if (!strKnown.isEmpty()) {
         return bLookedUp;
+    }
     // The id goes in as it is, deliberately: the look-up above has it without apostrophes.
     query.prepare(QStringLiteral("INSERT INTO voipConferenceInfo "
                                  "(ConfID,CreatUserID,CreatTime,CallTime,MemberList,IsConnect) "
@@ -94,23 +100,26 @@ QList<ConfInfoData> DBConfInfo::getAllConfInfo()
 {
     QList<ConfInfoData> records;
     const QSqlDatabase db = DB::getDB();
-    if (!db.isOpen())
+    if (!db.isOpen()) {
         return records;
+    }
     QSqlQuery query(db);
     query.setForwardOnly(true);
     query.exec(QStringLiteral("SELECT ConfID,CreatUserID,CreatTime,CallTime,MemberList,IsConnect "
                               "FROM voipConferenceInfo ORDER BY ConfID DESC"));
     RecordReader reader;
-    while (query.next())
+    while (query.next()) {
         records.append(reader.recordOf(query));
+    }
     return records;
 }
 
 bool DBConfInfo::deleteConfInfo(QString confId)
 {
     const QSqlDatabase db = DB::getDB();
-    if (!db.isOpen())
+    if (!db.isOpen()) {
         return false;
+    }
     QSqlQuery query(db);
     return query.exec(QStringLiteral("DELETE FROM voipConferenceInfo WHERE ConfID = ") + DB::addYinHao(confId));
 }

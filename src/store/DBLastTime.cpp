@@ -17,10 +17,12 @@ const QString allSessions = QStringLiteral("all_session");
 bool write(QSqlQuery &query, const QSqlDatabase &db, const QString &statement, const QString &first,
            const QString &second)
 {
-    if (!db.isOpen())
+    if (!db.isOpen()) {
         return false;
-    if (!query.prepare(statement))
+    }
+    if (!query.prepare(statement)) {
         return false;
+    }
     query.addBindValue(storedText(first));
     query.addBindValue(storedText(second));
     return query.exec();
@@ -57,8 +59,9 @@ QString DBLastTime::getLastTime()
 {
     QString notStored = QStringLiteral("-1");
     const QSqlDatabase db = DB::getDB();
-    if (!db.isOpen())
+    if (!db.isOpen()) {
         return notStored;
+    }
     QSqlQuery query(db);
     query.setForwardOnly(true);
     query.prepare(QStringLiteral("SELECT lastTime FROM last_time WHERE sessionId = ?"));

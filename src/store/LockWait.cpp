@@ -41,8 +41,9 @@ bool LockWait::execute(QSqlQuery &query, const QString &statement)
 bool LockWait::execute(const QSqlQuery &query, const std::function<bool()> &tryOnce)
 {
     for (int iRest = kFirstRestMs; !tryOnce(); iRest = qMin(2 * iRest, kLongestRestMs)) {
-        if (m_iLeft <= 0 || !isLockedOut(query.lastError()))
+        if (m_iLeft <= 0 || !isLockedOut(query.lastError())) {
             return false;
+        }
         rest(iRest);
     }
     return true;

@@ -30,8 +30,9 @@ constexpr StoreTable last_time{"last_time", last_timeColumns};
 // The table's one row is made with it, empty, and only then.
 void DB::createLastTimeTable()
 {
-    if (StoreSchema::exists(last_time))
+    if (StoreSchema::exists(last_time)) {
         return;
+    }
     StoreSchema::create(last_time);
     DBLastTime::saveLastTime(QStringLiteral(""));
 }

@@ -51,10 +51,12 @@ void upgradeMessageTable()
         StoreSchema::createIndex(msgrecord, timeIndex);
     }
     // The misspelled name is that of an index of older files.
-    if (DB::isExistIndex(msgrecord.name, QStringLiteral("_index_sqeuenceId")))
+    if (DB::isExistIndex(msgrecord.name, QStringLiteral("_index_sqeuenceId"))) {
         StoreSchema::run(QStringLiteral("DROP INDEX msgrecord_index_sqeuenceId;"));
-    if (!DB::isExistIndex(msgrecord.name, sequenceIndex.suffix))
+    }
+    if (!DB::isExistIndex(msgrecord.name, sequenceIndex.suffix)) {
         StoreSchema::createIndex(msgrecord, sequenceIndex);
+    }
 }
 
 } // namespace
@@ -66,8 +68,9 @@ void DB::createMessageTable()
         return;
     }
     if (StoreSchema::create(msgrecord)) {
-        for (const StoreIndex &index : msgrecord.indexes)
+        for (const StoreIndex &index : msgrecord.indexes) {
             StoreSchema::createIndex(msgrecord, index);
+        }
     }
 }
 

@@ -26,8 +26,9 @@ constexpr StoreTable localservicenumber{"localservicenumber", servicenumberColum
 void DB::createServiceTable()
 {
     StoreSchema::createOrUpgrade(servicenumber);
-    if (!StoreSchema::exists(localservicenumber))
+    if (!StoreSchema::exists(localservicenumber)) {
         StoreSchema::create(localservicenumber);
+    }
 }
 
 // Only the added isdelete has a default, deliberately: it reads 0 in old rows, null in a new table.
@@ -211,8 +212,9 @@ void DB::createDingMsgTable()
     if (!StoreSchema::exists(dingmsginfo)) {
         StoreSchema::create(dingmsginfo);
         StoreSchema::create(dingsmsgfileoinfo);
-        for (const StoreIndex &index : dingmsginfo.indexes)
+        for (const StoreIndex &index : dingmsginfo.indexes) {
             StoreSchema::createIndex(dingmsginfo, index);
+        }
     }
     StoreSchema::addLaterColumns(dingmsginfo);
 }

@@ -11,8 +11,9 @@ StoreOpening::StoreOpening(const QSqlDatabase &db) : m_wait(db)
     s_pCurrent = this;
     QSqlQuery query(db);
     // Nothing later would tell that it is missing.
-    if (!execute(query, QStringLiteral("PRAGMA synchronous = OFF")))
+    if (!execute(query, QStringLiteral("PRAGMA synchronous = OFF"))) {
         shutOutBy(query.lastError());
+    }
 }
 
 StoreOpening::~StoreOpening()
@@ -28,24 +29,28 @@ bool StoreOpening::isShutOut()
 
 bool StoreOpening::execute(QSqlQuery &query, const QString &statement)
 {
-    if (!s_pCurrent)
+    if (!s_pCurrent) {
         return query.exec(statement);
+    }
     // The schema could not be read, so it is not known what is missing, and nothing is made.
-    if (s_pCurrent->m_bShutOut)
+    if (s_pCurrent->m_bShutOut) {
         return false;
+    }
     return s_pCurrent->m_wait.execute(query, statement);
 }
 
 bool StoreOpening::ask(QSqlQuery &query, const QString &statement)
 {
     const bool bDone = execute(query, statement);
-    if (!bDone)
+    if (!bDone) {
         shutOutBy(query.lastError());
+    }
     return bDone && query.next();
 }
 
 void StoreOpening::shutOutBy(const QSqlError &error)
 {
-    if (s_pCurrent && LockWait::isLockedOut(error))
+    if (s_pCurrent && LockWait::isLockedOut(error)) {
         s_pCurrent->m_bShutOut = true;
+    }
 }

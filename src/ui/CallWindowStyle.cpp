@@ -4,7 +4,9 @@
 
 void applyCallWindowStyle(QWidget *pWindow)
 {
-    for (const CallWindowStyleRow &row : cCallWindowStyles)
-        if (auto *pPart = pWindow->findChild<QWidget *>(QString::fromLatin1(row.pName)))
+    for (const CallWindowStyleRow &row : cCallWindowStyles) {
+        if (auto *pPart = pWindow->findChild<QWidget *>(QString::fromLatin1(row.pName))) {
             pPart->setStyleSheet(QString::fromUtf8(row.pStyleSheet));
+        }
+    }
 }

@@ -43,12 +43,14 @@ void CConfDetailMemberTableView::initTableView()
 
 void CConfDetailMemberTableView::setMemList(QList<QString> list)
 {
-    if (list.isEmpty())
+    if (list.isEmpty()) {
         return;
+    }
     m_memberList = list;
     const QPointer<CConfDetailMemberTableView> self = this;
-    for (int i = 0; self && i < list.size(); ++i)
+    for (int i = 0; self && i < list.size(); ++i) {
         placeMember(i / cColumns, i % cColumns, list.at(i));
+    }
 }
 
 void CConfDetailMemberTableView::clearData()
@@ -73,13 +75,15 @@ void CConfDetailMemberTableView::placeMember(int iRow, int iColumn, const QStrin
     // The host may destroy the grid while it looks the member up.
     const QPointer<CConfDetailMemberTableView> self = this;
     std::unique_ptr<QStandardItem> pItem = creatMemberItem(strUserID);
-    if (!self)
+    if (!self) {
         return;
+    }
     if (const QStandardItem *pOld = m_pModel->item(iRow, iColumn)) {
         // The model deletes what stood in the cell.
         const auto known = m_memberItemMap.find(pOld->data(ROLE_USER_ID).toString());
-        if (known != m_memberItemMap.end() && *known == pOld)
+        if (known != m_memberItemMap.end() && *known == pOld) {
             m_memberItemMap.erase(known);
+        }
     }
     m_pModel->setItem(iRow, iColumn, pItem.get());
     m_memberItemMap.insert(strUserID, pItem.release());
@@ -89,8 +93,9 @@ void CConfDetailMemberTableView::dataChanged(const QModelIndex &topLeft, const Q
                                              const QVector<int> &roles)
 {
     // Painting writes the places of the heads into the items. That must not lead to the next painting.
-    if (areRolesShown(roles))
+    if (areRolesShown(roles)) {
         QTableView::dataChanged(topLeft, bottomRight, roles);
+    }
 }
 
 void CConfDetailMemberTableView::scrollContentsBy(int dx, int dy)
@@ -107,10 +112,12 @@ void CConfDetailMemberTableView::mouseMoveEvent(QMouseEvent *event)
     const QModelIndex index = indexAt(position);
     // Deliberate: away from all members nothing changes, so a card that is due still comes.
     const QPointer<CConfDetailMemberTableView> self = this;
-    if (m_pModel->item(index.row(), index.column()) != nullptr)
+    if (m_pModel->item(index.row(), index.column()) != nullptr) {
         hoverItem(index, position);
-    if (self)
+    }
+    if (self) {
         QAbstractItemView::mouseMoveEvent(event);
+    }
 }
 
 void CConfDetailMemberTableView::hoverItem(const QModelIndex &index, const QPoint &position)
@@ -134,6 +141,7 @@ void CConfDetailMemberTableView::slot_ShowSign()
 
 void CConfDetailMemberTableView::leaveEvent(QEvent *event)
 {
-    if (cancelSignCard(*this, m_signTimer))
+    if (cancelSignCard(*this, m_signTimer)) {
         QTableView::leaveEvent(event);
+    }
 }

@@ -35,8 +35,9 @@ CConfDetailTableViewDelegate::CConfDetailTableViewDelegate(QObject *parent)
 void CConfDetailTableViewDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                                          const QModelIndex &index) const
 {
-    if (index.data(ROLE_USER_ID).toString().isEmpty())
+    if (index.data(ROLE_USER_ID).toString().isEmpty()) {
         return;
+    }
     const KeptPenAndFont kept(painter);
     const QRect cell = option.rect;
     const int iSide = ADAPT_DPI_INT(cHeadSide);

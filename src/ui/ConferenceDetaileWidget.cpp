@@ -37,8 +37,9 @@ void CConferenceDetaileWidget::setConferenceDetail(ConfInfoData confInfo)
     // The host may destroy the page while it looks the creator up.
     const QPointer<CConferenceDetaileWidget> self = this;
     const ShownContact creator = ShownContact::ofUser(confInfo.m_strCreatUserID);
-    if (!self)
+    if (!self) {
         return;
+    }
     showCreator(creator);
     ui->lblCallTime->setText(ConferenceTexts::callLength(confInfo.m_strCallTime));
     const bool bCreatedByMe = confInfo.m_strCreatUserID == UserIds::getLoginUID();
@@ -51,8 +52,9 @@ void CConferenceDetaileWidget::showCreator(const ShownContact &creator)
 {
     ui->creatUserIcon->setHeadPictrue(creator.strHeadPath);
     const QString strName = creator.record.displayName();
-    if (!strName.isEmpty())
+    if (!strName.isEmpty()) {
         ui->CreatName->setText(strName);
+    }
 }
 
 void CConferenceDetaileWidget::clearDetail()

@@ -55,17 +55,20 @@ CConferenceInfoListView::CConferenceInfoListView(QWidget *parent)
 void CConferenceInfoListView::addConfInfoList(QList<ConfInfoData> confInfoList)
 {
     m_confInfoList = confInfoList;
-    if (confInfoList.isEmpty())
+    if (confInfoList.isEmpty()) {
         return;
+    }
     const QPointer<CConferenceInfoListView> self = this;
     // Deliberate: one request per creator, not per record, of which there may be a hundred thousand.
     QHash<QString, std::shared_ptr<const ConferenceCreator>> creators;
     for (const ConfInfoData &confInfo : qAsConst(confInfoList)) {
-        if (creators.contains(confInfo.m_strCreatUserID))
+        if (creators.contains(confInfo.m_strCreatUserID)) {
             continue;
+        }
         creators.insert(confInfo.m_strCreatUserID, creatorOf(confInfo.m_strCreatUserID));
-        if (!self)
+        if (!self) {
             return;
+        }
     }
     QList<QStandardItem *> items;
     items.reserve(confInfoList.size());
@@ -79,12 +82,14 @@ void CConferenceInfoListView::addConfInfoList(QList<ConfInfoData> confInfoList)
 
 void CConferenceInfoListView::addConfInfoData(ConfInfoData confInfo)
 {
-    if (confInfo.m_strConfID.isEmpty() || m_confItemMap.contains(confInfo.m_strConfID))
+    if (confInfo.m_strConfID.isEmpty() || m_confItemMap.contains(confInfo.m_strConfID)) {
         return;
+    }
     const QPointer<CConferenceInfoListView> self = this;
     const auto pCreator = creatorOf(confInfo.m_strCreatUserID);
-    if (!self)
+    if (!self) {
         return;
+    }
     QStandardItem *pItem = creatListItem(confInfo, pCreator);
     m_pModel->insertRow(0, pItem);
     m_confItemMap.insert(confInfo.m_strConfID, pItem);
@@ -95,8 +100,9 @@ void CConferenceInfoListView::addConfInfoData(ConfInfoData confInfo)
 void CConferenceInfoListView::removeConfInfoData(QString strConfID)
 {
     QStandardItem *pItem = strConfID.isEmpty() ? nullptr : m_confItemMap.value(strConfID);
-    if (pItem == nullptr)
+    if (pItem == nullptr) {
         return;
+    }
     // Deliberate: the list keeps the record.
     m_pModel->removeRows(m_pModel->indexFromItem(pItem).row(), 1);
     m_confItemMap.remove(strConfID);
@@ -120,8 +126,9 @@ void CConferenceInfoListView::dataChanged(const QModelIndex &topLeft, const QMod
                                           const QVector<int> &roles)
 {
     // Painting writes the places of heads and buttons into the items. That must not lead to the next painting.
-    if (areRolesShown(roles))
+    if (areRolesShown(roles)) {
         QListView::dataChanged(topLeft, bottomRight, roles);
+    }
 }
 
 void CConferenceInfoListView::scrollContentsBy(int dx, int dy)
@@ -143,10 +150,12 @@ void CConferenceInfoListView::mouseMoveEvent(QMouseEvent *event)
     const QModelIndex index = indexAt(position);
     // Deliberate: away from all rows nothing changes, so a card that is due still comes.
     const QPointer<CConferenceInfoListView> self = this;
-    if (m_pModel->itemFromIndex(index) != nullptr)
+    if (m_pModel->itemFromIndex(index) != nullptr) {
         hoverRow(index, position);
-    if (self)
+    }
+    if (self) {
         QListView::mouseMoveEvent(event);
+    }
 }
 
 void CConferenceInfoListView::hoverRow(const QModelIndex &index, const QPoint &position)
@@ -174,8 +183,9 @@ void CConferenceInfoListView::slot_ShowSign()
 
 void CConferenceInfoListView::leaveEvent(QEvent *event)
 {
-    if (cancelSignCard(*this, m_signTimer))
+    if (cancelSignCard(*this, m_signTimer)) {
         QListView::leaveEvent(event);
+    }
 }
 
 void CConferenceInfoListView::mouseReleaseEvent(QMouseEvent *event)
@@ -202,8 +212,9 @@ void CConferenceInfoListView::clickRow(const QModelIndex &index, const QPoint &p
         return;
     }
     // The button's place is that of the last painting under the cursor, also when it is no longer shown.
-    if (pItem->data(ROLE_REMOVE_RECT).toRect().contains(position))
+    if (pItem->data(ROLE_REMOVE_RECT).toRect().contains(position)) {
         emit signal_ShowConfDetail(pItem->data(ROLE_CONF_ID).toString());
+    }
 }
 
 void CConferenceInfoListView::showMenu(const QStandardItem *pItem)
@@ -216,8 +227,9 @@ void CConferenceInfoListView::showMenu(const QStandardItem *pItem)
     m_strSelectedConfID = pItem->data(ROLE_CONF_ID).toString();
     m_pMenu->clear();
     // A conference that never connected can only be deleted.
-    if (pItem->data(ROLE_CALL_STATUS).toBool())
+    if (pItem->data(ROLE_CALL_STATUS).toBool()) {
         m_pMenu->addAction(m_pRecallAction);
+    }
     m_pMenu->addAction(m_pDeleteAction);
     m_pMenu->show();
     const QPoint cursor = QCursor::pos();
@@ -228,28 +240,32 @@ void CConferenceInfoListView::showMenu(const QStandardItem *pItem)
 
 void CConferenceInfoListView::slot_selectAction(QAction *pAction)
 {
-    if (m_strSelectedConfID.isEmpty())
+    if (m_strSelectedConfID.isEmpty()) {
         return;
+    }
     // The host may run an event loop in which this list is destroyed, while the menu is still handling the click. So
     // the menu is no child of the list meanwhile, and is deleted by the event loop that brought the click.
     CMenuEx *const pMenu = m_pMenu;
     const QPointer<CConferenceInfoListView> self = this;
     pMenu->setParent(nullptr, pMenu->windowFlags());
-    if (pAction == m_pRecallAction)
+    if (pAction == m_pRecallAction) {
         emit signal_ReCallConf(m_strSelectedConfID);
-    else if (pAction == m_pDeleteAction)
+    } else if (pAction == m_pDeleteAction) {
         emit signal_DeleteConfInfo(m_strSelectedConfID);
-    if (self)
+    }
+    if (self) {
         pMenu->setParent(this, pMenu->windowFlags());
-    else
+    } else {
         pMenu->deleteLater();
+    }
 }
 
 bool CConferenceInfoListView::eventFilter(QObject *obj, QEvent *event)
 {
-    if (obj == this && event->type() == QEvent::Leave)
+    if (obj == this && event->type() == QEvent::Leave) {
         setStyleSheet(strVerticalScrollBarNormalStyle);
-    else if (obj == this && event->type() == QEvent::Enter)
+    } else if (obj == this && event->type() == QEvent::Enter) {
         setStyleSheet(strVerticalScrollBarHoverStyle);
+    }
     return QListView::eventFilter(obj, event);
 }

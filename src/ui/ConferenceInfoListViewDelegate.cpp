@@ -98,8 +98,9 @@ void CConferenceInfoListViewDelegate::paint(QPainter *painter, const QStyleOptio
     const bool bDetailButton = bConnected && option.state.testFlag(QStyle::State_MouseOver);
 
     paintHead(*painter, row, index);
-    if (bDetailButton)
+    if (bDetailButton) {
         paintDetailButton(*painter, m_lines, row, index);
+    }
     paintFirstLine(*painter, m_lines, row, statusText(index, bConnected), index.data(ROLE_DISPLAY_NAME).toString());
     paintDirection(*painter, m_lines, row, index.data(ROLE_CREATED_BY_ME).toBool());
     paintSecondLine(*painter, m_lines, row, bDetailButton,

@@ -36,8 +36,9 @@ public:
         setData(QString(), ROLE_USER_ID);
         setData(QString(), ROLE_DISPLAY_NAME);
         setData(int(ConferenceCalling), ROLE_CALL_STATUS);
-        for (const int iRole : {ROLE_REMOVE_HOVER, ROLE_MUTE_HOVER, ROLE_MUTED, ROLE_CALL_BY_ME, ROLE_IS_CREATOR})
+        for (const int iRole : {ROLE_REMOVE_HOVER, ROLE_MUTE_HOVER, ROLE_MUTED, ROLE_CALL_BY_ME, ROLE_IS_CREATOR}) {
             setData(false, iRole);
+        }
         setData(QTime(), ROLE_INVITE_TIME);
         setData(ADAPT_DPI_SIZE(cRowSize), Qt::SizeHintRole);
     }
@@ -75,14 +76,16 @@ void CConferenceListView::setIsCallByMe(bool bIsCallByMe)
 void CConferenceListView::addUserList(QList<QString> userList)
 {
     m_userList = userList;
-    for (const QString &strUserID : qAsConst(userList))
+    for (const QString &strUserID : qAsConst(userList)) {
         appendUserItem(strUserID);
+    }
 }
 
 void CConferenceListView::addUser(QString strUserID)
 {
-    if (strUserID.isEmpty())
+    if (strUserID.isEmpty()) {
         return;
+    }
     if (!m_userIndex.contains(m_userList, strUserID)) {
         m_userIndex.append(m_userList, strUserID);
         appendUserItem(strUserID);
@@ -93,14 +96,17 @@ void CConferenceListView::addUser(QString strUserID)
 
 void CConferenceListView::removeUser(QString strUserID)
 {
-    if (strUserID.isEmpty() || !m_userIndex.contains(m_userList, strUserID))
+    if (strUserID.isEmpty() || !m_userIndex.contains(m_userList, strUserID)) {
         return;
+    }
     QStandardItem *pItem = m_userItemMap.value(strUserID);
-    if (pItem == nullptr)
+    if (pItem == nullptr) {
         return;
+    }
     const int iRow = m_pModel->indexFromItem(pItem).row();
-    if (iRow < 0 || iRow >= m_pModel->rowCount())
+    if (iRow < 0 || iRow >= m_pModel->rowCount()) {
         return;
+    }
     m_userItemMap.remove(strUserID);
     m_userIndex.removeOne(m_userList, strUserID);
     m_pModel->removeRows(iRow, 1);
@@ -119,25 +125,30 @@ void CConferenceListView::clearMembers()
 void CConferenceListView::setConferenceCreator(QString strCreator)
 {
     m_strCreator = strCreator;
-    if (QStandardItem *pItem = m_userItemMap.value(strCreator))
+    if (QStandardItem *pItem = m_userItemMap.value(strCreator)) {
         pItem->setData(true, ROLE_IS_CREATOR);
-    if (strCreator == UserIds::getLoginUID())
+    }
+    if (strCreator == UserIds::getLoginUID()) {
         m_statusTimer.start(cInviteCheckInterval);
+    }
 }
 
 void CConferenceListView::updateConferenceListStatus(QList<QString> list)
 {
-    if (list == m_connectedList)
+    if (list == m_connectedList) {
         return;
-    for (const QString &strUserID : qAsConst(list))
+    }
+    for (const QString &strUserID : qAsConst(list)) {
         updateConferenceUserStatus(strUserID, ConferenceConnected);
+    }
     m_connectedList = list;
 }
 
 void CConferenceListView::setAddConfFailedList(QList<QString> list)
 {
-    for (const QString &strUserID : qAsConst(list))
+    for (const QString &strUserID : qAsConst(list)) {
         updateConferenceUserStatus(strUserID, ConferenceFailed);
+    }
 }
 
 void CConferenceListView::updateConferenceUserStatus(QString strUserID, qlonglong iStatus)
@@ -147,21 +158,24 @@ void CConferenceListView::updateConferenceUserStatus(QString strUserID, qlonglon
     QStandardItem *pItem = m_userItemMap.value(strUserID);
     const int iShown = int(qBound(cLeast, iStatus, cGreatest));
     // Most of an update's members are known and connected already.
-    if (pItem != nullptr && pItem->data(ROLE_CALL_STATUS) != iShown)
+    if (pItem != nullptr && pItem->data(ROLE_CALL_STATUS) != iShown) {
         pItem->setData(iShown, ROLE_CALL_STATUS);
+    }
 }
 
 void CConferenceListView::setMuteAll(bool bMute)
 {
-    for (int iRow = 0; iRow < m_pModel->rowCount(); ++iRow)
+    for (int iRow = 0; iRow < m_pModel->rowCount(); ++iRow) {
         m_pModel->item(iRow)->setData(bMute, ROLE_MUTED);
+    }
 }
 
 void CConferenceListView::updateUserInfo(QString strJid, VcardInfo vcard)
 {
     QStandardItem *pItem = m_userItemMap.value(UserIds::getUidByJid(strJid));
-    if (pItem == nullptr)
+    if (pItem == nullptr) {
         return;
+    }
     pItem->setData(ImagePath::getTrueImagePath(vcard.m_strPhotoPath, strDEFAULT_HEAD_PATH), ROLE_HEAD_PATH);
     // Deliberate: the card's nick name, not the contact's shown name.
     pItem->setData(vcard.m_strNickName, ROLE_DISPLAY_NAME);
@@ -173,24 +187,28 @@ void CConferenceListView::slot_UpdateCallStatu()
     for (int iRow = 0; iRow < m_pModel->rowCount(); ++iRow) {
         QStandardItem *pItem = m_pModel->item(iRow);
         if (pItem->data(ROLE_CALL_STATUS).toInt() == ConferenceCalling &&
-            isInviteOver(pItem->data(ROLE_INVITE_TIME).toTime(), now))
+            isInviteOver(pItem->data(ROLE_INVITE_TIME).toTime(), now)) {
             pItem->setData(int(ConferenceFailed), ROLE_CALL_STATUS);
+        }
     }
 }
 
 void CConferenceListView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                       const QVector<int> &roles)
 {
-    if (roles.isEmpty() || roles.contains(ROLE_CALL_STATUS))
+    if (roles.isEmpty() || roles.contains(ROLE_CALL_STATUS)) {
         m_connectedList.clear();
+    }
     // The painting itself writes the buttons' places back: they must not call for the next painting.
-    if (!areRolesShown(roles))
+    if (!areRolesShown(roles)) {
         return;
+    }
     // QListView would place all rows anew for each change, and paint them all; only a new size calls for that.
-    if (roles.isEmpty() || roles.contains(Qt::SizeHintRole))
+    if (roles.isEmpty() || roles.contains(Qt::SizeHintRole)) {
         QListView::dataChanged(topLeft, bottomRight, roles);
-    else
+    } else {
         QAbstractItemView::dataChanged(topLeft, bottomRight, roles); // NOLINT(bugprone-parent-virtual-call)
+    }
 }
 
 void CConferenceListView::mousePressEvent(QMouseEvent *event)
@@ -201,8 +219,9 @@ void CConferenceListView::mousePressEvent(QMouseEvent *event)
 void CConferenceListView::mouseMoveEvent(QMouseEvent *event)
 {
     const QPoint position = event->localPos().toPoint();
-    if (QStandardItem *pItem = m_pModel->itemFromIndex(indexAt(position)))
+    if (QStandardItem *pItem = m_pModel->itemFromIndex(indexAt(position))) {
         hoverItem(pItem, position);
+    }
     QListView::mouseMoveEvent(event);
 }
 
@@ -261,11 +280,13 @@ void CConferenceListView::clickItem(QStandardItem *pItem, const QPoint &position
 
 void CConferenceListView::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::RightButton)
+    if (event->button() == Qt::RightButton) {
         return;
+    }
     const QModelIndex index = indexAt(event->localPos().toPoint());
-    if (model() == nullptr)
+    if (model() == nullptr) {
         return;
+    }
     if (!index.isValid()) {
         repaint();
         return;
@@ -293,10 +314,11 @@ void CConferenceListView::scrollContentsBy(int dx, int dy)
 
 bool CConferenceListView::eventFilter(QObject *obj, QEvent *event)
 {
-    if (obj == this && event->type() == QEvent::Leave)
+    if (obj == this && event->type() == QEvent::Leave) {
         setStyleSheet(strVerticalScrollBarNormalStyle);
-    else if (obj == this && event->type() == QEvent::Enter)
+    } else if (obj == this && event->type() == QEvent::Enter) {
         setStyleSheet(strVerticalScrollBarHoverStyle);
+    }
     return QListView::eventFilter(obj, event);
 }
 
@@ -315,14 +337,17 @@ QStandardItem *CConferenceListView::creatUserItem(const QString &strUserID)
     static const BlankRow s_blank;
     QStandardItem *pItem = s_blank.clone();
     const QString strHead = ImagePath::getTrueImagePath(member.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH);
-    if (strHead != strDEFAULT_HEAD_PATH)
+    if (strHead != strDEFAULT_HEAD_PATH) {
         pItem->setData(strHead, ROLE_HEAD_PATH);
+    }
     pItem->setData(strUserID, ROLE_USER_ID);
     pItem->setData(member.displayName(), ROLE_DISPLAY_NAME);
-    if (m_bIsCallByMe)
+    if (m_bIsCallByMe) {
         pItem->setData(true, ROLE_CALL_BY_ME);
-    if (strUserID == m_strCreator)
+    }
+    if (strUserID == m_strCreator) {
         pItem->setData(true, ROLE_IS_CREATOR);
+    }
     pItem->setData(LocalClock::now(), ROLE_INVITE_TIME);
     return pItem;
 }

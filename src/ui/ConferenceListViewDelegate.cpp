@@ -67,15 +67,17 @@ void paintStatus(QPainter &painter, LineCache &lines, const QRect &place, int iS
 {
     const QPen pen = painter.pen();
     const QColor color = conferenceStatusColor(iStatus);
-    if (color.isValid())
+    if (color.isValid()) {
         painter.setPen(color);
+    }
     const QString strText = conferenceStatusText(iStatus);
     const LineCache::Line &line = lines.line(painter, strText, cLongestStatus);
     // A font too wide for the place breaks the text into lines.
-    if (line.iWidth <= place.width())
+    if (line.iWidth <= place.width()) {
         RowPainter::drawLine(painter, place, line.text);
-    else
+    } else {
         painter.drawText(place, strText, QTextOption());
+    }
     painter.setPen(pen);
 }
 
@@ -85,8 +87,9 @@ void paintButtons(QPainter &painter, LineCache &lines, const RowPlaces &places, 
         index.data(ROLE_REMOVE_HOVER).toBool() ? cRemove_Button_Hover_Color : cDefault_Button_Color;
     RowPainter::drawGlyph(painter, lines, places.remove, IconGlyph::Remove, dpi(cGlyphPixels), removeColor);
     RowPainter::keepRect(index, ROLE_REMOVE_RECT, places.remove);
-    if (iStatus != ConferenceConnected)
+    if (iStatus != ConferenceConnected) {
         return;
+    }
     const QColor muteColor = index.data(ROLE_MUTE_HOVER).toBool() ? cMute_Button_Hover_Color : cDefault_Button_Color;
     const ushort glyph = index.data(ROLE_MUTED).toBool() ? IconGlyph::MemberMuted : IconGlyph::MemberUnmuted;
     RowPainter::drawGlyph(painter, lines, places.mute, glyph, dpi(cGlyphPixels), muteColor);
@@ -110,11 +113,13 @@ void CConferenceListViewDelegate::paint(QPainter *painter, const QStyleOptionVie
     paintHead(*painter, row, index);
     const QRect creator = paintName(*painter, m_lines, row, places.status, index.data(ROLE_DISPLAY_NAME).toString());
     paintStatus(*painter, m_lines, places.status, iStatus);
-    if (bCallByMe && iStatus != ConferenceCalling)
+    if (bCallByMe && iStatus != ConferenceCalling) {
         paintButtons(*painter, m_lines, places, iStatus, index);
-    if (index.data(ROLE_IS_CREATOR).toBool())
+    }
+    if (index.data(ROLE_IS_CREATOR).toBool()) {
         RowPainter::drawGlyph(*painter, m_lines, creator, IconGlyph::Creator, dpi(cGlyphPixels),
                               strCOLOR_ICON_MID_GREY);
+    }
     RowPainter::drawBottomLine(*painter, row.left() + dpi(cMargin), row.right() - dpi(cMargin), row.bottom());
 }
 

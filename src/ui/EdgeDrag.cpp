@@ -81,14 +81,17 @@ QRect dragged(int iEdges, const QRect &window, QPoint cursor, const QRect &workA
 QRect limited(QRect rect, const QRect &workArea)
 {
     const QSize minimum = EdgeDrag::minimumSize();
-    if (rect.width() < minimum.width())
+    if (rect.width() < minimum.width()) {
         rect.setRight(rect.left() + minimum.width() - 1);
-    if (rect.height() < minimum.height())
+    }
+    if (rect.height() < minimum.height()) {
         rect.setBottom(rect.top() + minimum.height() - 1);
-    else if (rect.height() > workArea.height())
+    } else if (rect.height() > workArea.height()) {
         rect.setBottom(workArea.bottom() + rect.top() - workArea.top());
-    if (rect.width() > workArea.width())
+    }
+    if (rect.width() > workArea.width()) {
         rect.setRight(workArea.right() + rect.left() - workArea.left());
+    }
     return rect;
 }
 
@@ -103,14 +106,18 @@ int EdgeDrag::edgesAt(QPoint position, QSize size)
 {
     const int iBand = ADAPT_DPI_INT(cEdgeBand);
     int iEdges = 0;
-    if (std::abs(position.x()) < iBand)
+    if (std::abs(position.x()) < iBand) {
         iEdges += Left;
-    if (std::abs(position.y()) < iBand)
+    }
+    if (std::abs(position.y()) < iBand) {
         iEdges += Top;
-    if (std::abs(size.width() - 1 - position.x()) < iBand)
+    }
+    if (std::abs(size.width() - 1 - position.x()) < iBand) {
         iEdges += Right;
-    if (std::abs(size.height() - 1 - position.y()) < iBand)
+    }
+    if (std::abs(size.height() - 1 - position.y()) < iBand) {
         iEdges += Bottom;
+    }
     return iEdges;
 }
 

@@ -27,10 +27,12 @@ const LineCache::Line &LineCache::line(const QPainter &painter, const QString &s
 {
     const Key key{strText, iWidth, painter.font()};
     const auto known = m_lines.constFind(key);
-    if (known != m_lines.constEnd())
+    if (known != m_lines.constEnd()) {
         return *known;
-    if (m_lines.size() >= cMostLines)
+    }
+    if (m_lines.size() >= cMostLines) {
         m_lines.clear();
+    }
     const QFontMetrics metrics = painter.fontMetrics();
     return *m_lines.insert(key, {laidOut(RowPainter::elidedLine(metrics, strText, iWidth), key.font),
                                  RowPainter::lineWidth(metrics, strText, iWidth)});

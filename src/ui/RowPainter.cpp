@@ -25,8 +25,9 @@ QString withBlanks(QString strText)
     for (QChar &c : strText) {
         const QChar::Category category = c.category();
         if (category == QChar::Other_Control || category == QChar::Separator_Line ||
-            category == QChar::Separator_Paragraph)
+            category == QChar::Separator_Paragraph) {
             c = QLatin1Char(' ');
+        }
     }
     return strText;
 }
@@ -39,8 +40,9 @@ QString beginning(const QFontMetrics &metrics, const QString &strText, int iWidt
     const int iEnough = iWidth + 4 * metrics.height();
     for (int iLength = iWidth / 2 + 32;; iLength *= 2) {
         QString strLine = withBlanks(strText.left(qMin(iLength, iMost)));
-        if (iLength >= iMost || metrics.horizontalAdvance(strLine) > iEnough)
+        if (iLength >= iMost || metrics.horizontalAdvance(strLine) > iEnough) {
             return strLine;
+        }
     }
 }
 
@@ -90,8 +92,9 @@ void RowPainter::drawLine(QPainter &painter, const QRect &place, const QStaticTe
         painter.setClipRect(place, Qt::IntersectClip);
     }
     painter.drawStaticText(place.topLeft(), line);
-    if (bClipped)
+    if (bClipped) {
         painter.restore();
+    }
 }
 
 void RowPainter::drawGlyph(QPainter &painter, LineCache &lines, const QRect &place, ushort glyph, int iPixels,
@@ -100,8 +103,9 @@ void RowPainter::drawGlyph(QPainter &painter, LineCache &lines, const QRect &pla
     QFont font = IconFont::getIconFont();
     font.setPixelSize(iPixels);
     painter.setFont(font);
-    if (color.isValid())
+    if (color.isValid()) {
         painter.setPen(color);
+    }
     drawLine(painter, place, lines.line(painter, QString(QChar(glyph)), cGlyphRoom).text);
 }
 

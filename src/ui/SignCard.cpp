@@ -18,8 +18,9 @@ void showSignCard(const QWidget &view, QTimer &delay, const QString &strJid, con
     const QPointer<const QWidget> pView = &view;
     // Deliberate: the card's host takes the view's width where it asks for a height.
     VoipManageEventProcess::showSignList(strJid, place.x(), place.y(), view.width(), true, false);
-    if (pView)
+    if (pView) {
         delay.stop();
+    }
 }
 
 bool cancelSignCard(const QWidget &view, QTimer &delay)

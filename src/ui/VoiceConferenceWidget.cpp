@@ -73,8 +73,9 @@ void CVoiceConferenceWidget::insetDetailPage()
     pInset->setObjectName(QStringLiteral("verticalLayout_5"));
     pInset->setSpacing(0);
     pInset->setContentsMargins(cPageMargins);
-    while (QLayoutItem *pItem = pPage->takeAt(0))
+    while (QLayoutItem *pItem = pPage->takeAt(0)) {
         pInset->addItem(pItem);
+    }
     pPage->addLayout(pInset);
 }
 
@@ -96,8 +97,9 @@ void CVoiceConferenceWidget::setTips()
 void CVoiceConferenceWidget::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         setTips();
+    }
 }
 
 void CVoiceConferenceWidget::initButtons()
@@ -132,16 +134,19 @@ void CVoiceConferenceWidget::initListView()
 {
     const QList<ConfInfoData> records = DBConfInfo::getAllConfInfo();
     // The store gives the greatest id first: each goes in front of the one before.
-    for (const ConfInfoData &record : records)
+    for (const ConfInfoData &record : records) {
         m_confInfoMap.insert(m_confInfoMap.constBegin(), record.m_strConfID, record);
-    if (!records.isEmpty())
+    }
+    if (!records.isEmpty()) {
         ui->listView->addConfInfoList(records);
+    }
 }
 
 void CVoiceConferenceWidget::addConferenceInfo(ConfInfoData confInfo)
 {
-    if (confInfo.m_strConfID.isEmpty() || m_confInfoMap.contains(confInfo.m_strConfID))
+    if (confInfo.m_strConfID.isEmpty() || m_confInfoMap.contains(confInfo.m_strConfID)) {
         return;
+    }
     m_confInfoMap.insert(confInfo.m_strConfID, confInfo);
     ui->listView->addConfInfoData(confInfo);
 }
@@ -156,8 +161,9 @@ void CVoiceConferenceWidget::showPage(int iPage)
 void CVoiceConferenceWidget::slot_ShowConfDetail(QString strConfID)
 {
     const auto record = m_confInfoMap.constFind(strConfID);
-    if (record == m_confInfoMap.constEnd())
+    if (record == m_confInfoMap.constEnd()) {
         return;
+    }
     showPage(cDetailPage);
     ui->conferenceDetaileWidget->setConferenceDetail(*record);
 }
@@ -176,21 +182,24 @@ void CVoiceConferenceWidget::slot_CreatConferencePage()
 void CVoiceConferenceWidget::slot_ReCallConf(QString strConfID)
 {
     const auto record = m_confInfoMap.constFind(strConfID);
-    if (record == m_confInfoMap.constEnd())
+    if (record == m_confInfoMap.constEnd()) {
         return;
+    }
     // The own id stays among the members: whether it is called is the receiver's decision.
     QStringList members;
     for (const QString &strUserID : record->m_listMember) {
-        if (!strUserID.isEmpty())
+        if (!strUserID.isEmpty()) {
             members.append(UserIds::getJidByUid(strUserID));
+        }
     }
     VoipManageEventProcess::notifyCreateVoiceConference(members);
 }
 
 void CVoiceConferenceWidget::slot_DeleteConfInfo(QString strConfID)
 {
-    if (strConfID.isEmpty() || m_confInfoMap.remove(strConfID) == 0)
+    if (strConfID.isEmpty() || m_confInfoMap.remove(strConfID) == 0) {
         return;
+    }
     ui->listView->removeConfInfoData(strConfID);
     emit signal_DeleteConfInfoData(strConfID);
 }
@@ -208,23 +217,27 @@ void CVoiceConferenceWidget::closeEvent(QCloseEvent *)
 void CVoiceConferenceWidget::mousePressEvent(QMouseEvent *event)
 {
     QWidget::mousePressEvent(event);
-    if (event->button() == Qt::LeftButton)
+    if (event->button() == Qt::LeftButton) {
         m_dragOffset = event->globalPos() - frameGeometry().topLeft();
+    }
 }
 
 void CVoiceConferenceWidget::mouseMoveEvent(QMouseEvent *event)
 {
     QWidget::mouseMoveEvent(event);
     // Deliberate: the offset alone tells whether a drag is on, so one from the window's very corner moves nothing.
-    if (m_dragOffset.isNull())
+    if (m_dragOffset.isNull()) {
         return;
-    if (event->globalPos() != m_dragOffset)
+    }
+    if (event->globalPos() != m_dragOffset) {
         move(EdgeDrag::moved(event->globalPos(), m_dragOffset, ScreenPlace::workArea()));
+    }
 }
 
 void CVoiceConferenceWidget::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton)
+    if (event->button() == Qt::LeftButton) {
         m_dragOffset = QPoint();
+    }
     QWidget::mouseReleaseEvent(event);
 }

@@ -35,8 +35,9 @@ const QString cMuteAllColor = QStringLiteral("255, 96, 88");
 // The name that a card shows in the call window. A card without any name gives an empty text.
 QString cardName(const VcardInfo &vcard)
 {
-    if (vcard.m_strNickName.isEmpty() && vcard.m_strAlternativeName.isEmpty())
+    if (vcard.m_strNickName.isEmpty() && vcard.m_strAlternativeName.isEmpty()) {
         return {};
+    }
     return vcard.m_strNickName + QLatin1Char('(') + vcard.m_strAlternativeName + QLatin1Char(')');
 }
 
@@ -67,8 +68,9 @@ void CVoipWidget::setVoipCallInfo(QList<QString> userList, VoipType iType, bool 
 {
     LOG_DEBUG << "userlist = " << QStringList(userList).join(QLatin1Char(',')) << ", iType = " << int(iType)
               << ", bMyCall = " << bMyCall << "\n";
-    if ((iType == Voice || iType == Video) && userList.isEmpty())
+    if ((iType == Voice || iType == Video) && userList.isEmpty()) {
         return;
+    }
     if (iType == Voice) {
         setWindowTitle(QStringLiteral("语音通话"));
         ui->displayPane->setCurrentIndex(cVoicePage);
@@ -86,10 +88,11 @@ void CVoipWidget::setVoipCallInfo(QList<QString> userList, VoipType iType, bool 
     m_bConnected = bConnected;
     m_bIsMyCall = bMyCall;
     m_iVoipType = iType;
-    if (iType == Conference)
+    if (iType == Conference) {
         showConference();
-    else
+    } else {
         showPeer();
+    }
 }
 
 void CVoipWidget::showConference()
@@ -119,18 +122,20 @@ QString CVoipWidget::showPeerCard(const VcardInfo &vcard)
     LOG_DEBUG << "voip userName=" << strShownName << "\n";
     LOG_DEBUG << "voip photourl = " << strPhotoPath << "\n";
     ui->lblPhotoIcon->setHeadPictrue(strPhotoPath);
-    if (!strShownName.isEmpty())
+    if (!strShownName.isEmpty()) {
         ui->lblUserName->setText(strShownName);
+    }
     return strShownName;
 }
 
 void CVoipWidget::showPeerTitle(const QString &strShownName)
 {
     // Deliberate: a voice call shows the plain title and never the name.
-    if (m_iVoipType == Voice)
+    if (m_iVoipType == Voice) {
         ui->lblVoipTipMsg->setText(QStringLiteral("语音通话"));
-    else
+    } else {
         ui->lblVoipTipMsg->setText(QStringLiteral("与%1(%2)通话中").arg(strShownName, m_strPeerUid));
+    }
 }
 
 void CVoipWidget::setVoipCallStatus(bool bConnect)
@@ -194,8 +199,9 @@ void CVoipWidget::updateUserInfo(QString strJid, VcardInfo vcard)
         ui->listView->updateUserInfo(strJid, vcard);
         return;
     }
-    if (strJid != UserIds::getJidByUid(m_strPeerUid))
+    if (strJid != UserIds::getJidByUid(m_strPeerUid)) {
         return;
+    }
     showPeerTitle(showPeerCard(vcard));
 }
 
@@ -233,8 +239,9 @@ void CVoipWidget::setMuteAllButton(bool bMute)
 void CVoipWidget::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() != QEvent::LanguageChange)
+    if (event->type() != QEvent::LanguageChange) {
         return;
+    }
     const QString strTime = ui->currentPlayTimeLabel->text();
     ui->retranslateUi(this);
     ui->currentPlayTimeLabel->setText(strTime);
@@ -242,8 +249,9 @@ void CVoipWidget::changeEvent(QEvent *event)
     ui->btnMic->setToolTip(micTip(m_bMicMute));
     ui->btnSpeaker->setToolTip(speakerTip(m_bSpeakerMute));
     // It has a tip only once it has been pressed.
-    if (!ui->btnChangeWindow->toolTip().isEmpty())
+    if (!ui->btnChangeWindow->toolTip().isEmpty()) {
         ui->btnChangeWindow->setToolTip(m_bFullScreen ? tr("restore") : tr("fullscreen"));
+    }
 }
 
 void CVoipWidget::slot_HangUpCall()
@@ -257,8 +265,9 @@ void CVoipWidget::slot_close()
 {
     LOG_DEBUG << "click close button!"
               << "\n";
-    if (askToEndTheCall())
+    if (askToEndTheCall()) {
         close();
+    }
 }
 
 bool CVoipWidget::askToEndTheCall()

@@ -8,8 +8,9 @@
 
 void CVoipWidget::addConferenceMember(QString strUserID)
 {
-    if (m_memberIndex.contains(m_memberList, strUserID))
+    if (m_memberIndex.contains(m_memberList, strUserID)) {
         return;
+    }
     ui->listView->addUser(strUserID);
     m_memberIndex.append(m_memberList, strUserID);
     refreshMemberCount();

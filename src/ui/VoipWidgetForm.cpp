@@ -68,8 +68,9 @@ CVoipWidget::CVoipWidget(QWidget *parent) : QWidget(parent), ui(std::make_unique
 
 CVoipWidget::~CVoipWidget()
 {
-    if (m_pRubberBand != nullptr)
+    if (m_pRubberBand != nullptr) {
         m_pRubberBand->deleteLater();
+    }
     m_pRubberBand = nullptr;
 }
 
@@ -88,11 +89,13 @@ void CVoipWidget::setUpForm()
     ui->btnClose->setToolTip(tr("close"));
     ui->btnMuteAll->setIconFont(IconGlyph::text(IconGlyph::SpeakerOff), CIconButtonEx::LargeGlyph,
                                 CIconButtonEx::HoverStyle);
-    for (CIconButtonEx *pButton : {ui->btnMic, ui->btnSpeaker, ui->btnCamera, ui->btnChangeWindow})
+    for (CIconButtonEx *pButton : {ui->btnMic, ui->btnSpeaker, ui->btnCamera, ui->btnChangeWindow}) {
         pButton->installEventFilter(this);
+    }
     // The window comes up while the user types elsewhere: no blank or return may press what ends the call.
-    for (PushButtonEx *pButton : {ui->btnCancelCall, ui->HangUp})
+    for (PushButtonEx *pButton : {ui->btnCancelCall, ui->HangUp}) {
         pButton->findChild<QAbstractButton *>()->setFocusPolicy(Qt::NoFocus);
+    }
     // Deliberate: no call shows these two; what they do is reached by code only.
     ui->btnCamera->hide();
     ui->btnChangeWindow->hide();
@@ -210,8 +213,9 @@ QWidget *CVoipWidget::getWebEngineView() const
 
 void CVoipWidget::addVoipWidget(QWidget *pWidget)
 {
-    if (pWidget != nullptr)
+    if (pWidget != nullptr) {
         ui->WebViewLayout->addWidget(pWidget);
+    }
 }
 
 void CVoipWidget::savePicture()
@@ -223,10 +227,12 @@ void CVoipWidget::savePicture()
         QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMddhhmmsszzz")) + QStringLiteral(".jpg");
     const QString strPath = QFileDialog::getSaveFileName(nullptr, tr("savepic"), strDefault,
                                                          PictureNames::getPicSaveSuffixes(QStringLiteral(".jpg")));
-    if (strPath.isEmpty())
+    if (strPath.isEmpty()) {
         return;
+    }
     const QFileInfo file(strPath);
-    if (file.exists())
+    if (file.exists()) {
         file.absoluteDir().remove(file.fileName());
+    }
     picture.save(strPath);
 }

@@ -49,11 +49,14 @@ CVoipWidget::MouseState CVoipWidget::cursorState(int x, int y) const
 void CVoipWidget::setCursorStyle(MouseState state)
 {
     Qt::CursorShape shape = Qt::ArrowCursor;
-    for (const CursorRow &row : cCursors)
-        if (row.state == state)
+    for (const CursorRow &row : cCursors) {
+        if (row.state == state) {
             shape = row.shape;
-    if (cursor().shape() != shape)
+        }
+    }
+    if (cursor().shape() != shape) {
         setCursor(shape);
+    }
 }
 
 void CVoipWidget::followCursor(const QPoint &position)
@@ -70,8 +73,9 @@ bool CVoipWidget::event(QEvent *event)
     switch (event->type()) {
     case QEvent::HoverEnter:
     case QEvent::HoverMove:
-        if (!m_bLeftPressed)
+        if (!m_bLeftPressed) {
             followCursor(static_cast<QHoverEvent *>(event)->pos());
+        }
         return true;
     case QEvent::HoverLeave:
         return true;
@@ -82,8 +86,9 @@ bool CVoipWidget::event(QEvent *event)
 
 void CVoipWidget::showRubberBand(const QRect &rect)
 {
-    if (m_pRubberBand == nullptr)
+    if (m_pRubberBand == nullptr) {
         m_pRubberBand = new MyRubberBand(QRubberBand::Rectangle, QApplication::desktop()->window());
+    }
     m_pRubberBand->setGeometry(rect);
     m_pRubberBand->show();
 }
@@ -98,8 +103,9 @@ void CVoipWidget::mousePressEvent(QMouseEvent *event)
     m_bLeftPressed = true;
     m_dragOffset = event->globalPos() - frameGeometry().topLeft();
     m_bResized = false;
-    if (m_mouseState != NoEdge)
+    if (m_mouseState != NoEdge) {
         showRubberBand(frameGeometry());
+    }
 }
 
 void CVoipWidget::mouseMoveEvent(QMouseEvent *event)
@@ -109,12 +115,14 @@ void CVoipWidget::mouseMoveEvent(QMouseEvent *event)
         followCursor(event->pos());
         return;
     }
-    if (!event->buttons().testFlag(Qt::LeftButton))
+    if (!event->buttons().testFlag(Qt::LeftButton)) {
         return;
-    if (m_mouseState != NoEdge)
+    }
+    if (m_mouseState != NoEdge) {
         dragEdges(event->globalPos());
-    else
+    } else {
         dragWindow(event->globalPos());
+    }
 }
 
 void CVoipWidget::dragEdges(const QPoint &cursor)
@@ -127,22 +135,26 @@ void CVoipWidget::dragEdges(const QPoint &cursor)
 void CVoipWidget::dragWindow(const QPoint &cursor)
 {
     m_bResized = false;
-    if (!m_bGeometryLocked && cursor != m_dragOffset)
+    if (!m_bGeometryLocked && cursor != m_dragOffset) {
         move(EdgeDrag::moved(cursor, m_dragOffset, ScreenPlace::workArea()));
+    }
 }
 
 void CVoipWidget::mouseReleaseEvent(QMouseEvent *event)
 {
     QWidget::mouseReleaseEvent(event);
     m_bLeftPressed = false;
-    if (event->button() != Qt::LeftButton)
+    if (event->button() != Qt::LeftButton) {
         return;
+    }
     m_dragOffset = QPoint(0, 0);
-    if (m_pRubberBand != nullptr)
+    if (m_pRubberBand != nullptr) {
         m_pRubberBand->hide();
+    }
     m_mouseState = NoEdge;
-    if (m_bResized)
+    if (m_bResized) {
         setGeometry(m_rubberRect);
+    }
 }
 
 void CVoipWidget::slot_WindowChangeButtonClicked()
@@ -175,13 +187,16 @@ bool CVoipWidget::eventFilter(QObject *obj, QEvent *event)
     m_pAskedEscape = nullptr;
     switch (event->type()) {
     case QEvent::KeyPress:
-        if (static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
+        if (static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape) {
             return QWidget::eventFilter(obj, event);
-        if (!bAskedAlready && askToEndTheCall())
+        }
+        if (!bAskedAlready && askToEndTheCall()) {
             slot_HangUpCall();
+        }
         // Set last, because the events that the window gets while the question is open set it back.
-        if (obj != this)
+        if (obj != this) {
             m_pAskedEscape = event;
+        }
         return false;
     case QEvent::Leave:
         // Deliberate: the window and its controls keep the look they have under the cursor.

@@ -50,8 +50,9 @@ void CBaseFormEx::setTitleImage(const QString &)
 
 void CBaseFormEx::setPaintLineOffset(int iOffset)
 {
-    if (iOffset >= 4)
+    if (iOffset >= 4) {
         m_iPaintLineOffset = iOffset - 3;
+    }
 }
 
 void CBaseFormEx::setNoSeparate(bool bNoSeparate)
@@ -83,18 +84,21 @@ void CBaseFormEx::setSkinData(SysUIData) {}
 
 void CBaseFormEx::paintEvent(QPaintEvent *)
 {
-    if (m_bNoneShadow)
+    if (m_bNoneShadow) {
         return;
+    }
     QtWin::isCompositionEnabled();
-    if (m_bWhiteTranspatent)
+    if (m_bWhiteTranspatent) {
         m_iBodyAlpha = cBodyAlpha;
+    }
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     paintPanel(painter);
     paintTitleStrip(painter);
     paintLine(painter);
-    if (!m_bNoSeparate)
+    if (!m_bNoSeparate) {
         paintBody(painter);
+    }
 }
 
 void CBaseFormEx::paintPanel(QPainter &painter) const
@@ -110,8 +114,9 @@ void CBaseFormEx::paintTitleStrip(QPainter &painter) const
 {
     const int iHeight = m_iTitleHeight - 2;
     // A rectangle of negative height would be turned round and painted above the strip's place.
-    if (iHeight <= 0)
+    if (iHeight <= 0) {
         return;
+    }
     painter.setPen(whiteOf(cTitleAlpha));
     painter.setBrush(whiteOf(cTitleAlpha));
     painter.drawRoundedRect(QRectF(2, 2, width() - 5, iHeight), 3, 3);

@@ -51,8 +51,9 @@ bool isHotKeyType(int iType)
 
 bool isPasteKey(const QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress)
+    if (event->type() != QEvent::KeyPress) {
         return false;
+    }
     const auto *key = static_cast<const QKeyEvent *>(event);
     return key->key() == Qt::Key_V && key->modifiers().testFlag(Qt::ControlModifier);
 }
@@ -109,8 +110,9 @@ void ErrorMessage::watchControls()
     for (QWidget *pControl : {static_cast<QWidget *>(ui->acceptBtn), static_cast<QWidget *>(ui->closeBtn),
                               static_cast<QWidget *>(ui->AddLineEdit)}) {
         pControl->installEventFilter(this);
-        for (QWidget *pInner : pControl->findChildren<QWidget *>())
+        for (QWidget *pInner : pControl->findChildren<QWidget *>()) {
             pInner->installEventFilter(this);
+        }
     }
 }
 
@@ -155,8 +157,9 @@ void ErrorMessage::getMsgShow(QString title, QString msg)
     ui->msgLabel->setText(msg);
     ui->msgLabel->show();
     ui->msgLabel->setOpenExternalLinks(true);
-    if (ui->msgLabel->width() >= cMessageWrapWidth)
+    if (ui->msgLabel->width() >= cMessageWrapWidth) {
         ui->msgLabel->setWordWrap(true);
+    }
     showCloseButtonOnly();
     exec();
 }
@@ -166,8 +169,9 @@ bool ErrorMessage::chooseMsgShow(QString title, QString msg)
     showPage(ui->MsgShow, title);
     ui->msgLabel->setText(msg);
     ui->msgLabel->show();
-    if (msg.contains(QObject::tr("lookupHistoryMsg")))
+    if (msg.contains(QObject::tr("lookupHistoryMsg"))) {
         ui->acceptBtn->setText(QObject::tr("readrecord"));
+    }
     ui->acceptBtn->setEnabled(true);
     showBothButtons();
     exec();
@@ -204,8 +208,9 @@ void ErrorMessage::messagelogTip()
     showPage(ui->MsgShow, QObject::tr("tip"));
     ui->AutoReplytextEdit->hide();
     ui->msgLabel->setText(QObject::tr("inputkeyword"));
-    if (ui->msgLabel->width() >= cTipWrapWidth)
+    if (ui->msgLabel->width() >= cTipWrapWidth) {
         ui->msgLabel->setWordWrap(true);
+    }
     showCloseButtonOnly();
     exec();
 }
@@ -227,16 +232,18 @@ void ErrorMessage::showHotKeyError(QString title, int type)
     m_iHotKeyType = type;
     m_strHotKeyTitle = title;
     fillHotKeyLabels();
-    if (isHotKeyType(type))
+    if (isHotKeyType(type)) {
         ui->label_10->setText(QObject::tr("period"));
+    }
     showCloseButtonOnly();
     show();
 }
 
 void ErrorMessage::fillHotKeyLabels()
 {
-    if (!isHotKeyType(m_iHotKeyType))
+    if (!isHotKeyType(m_iHotKeyType)) {
         return;
+    }
     const HotKeyWords &words = cHotKeyWords.at(size_t(m_iHotKeyType));
     ui->label_8->setText(QObject::tr(words.used));
     ui->label_9->setText(QObject::tr(words.makeSure));
@@ -249,8 +256,9 @@ void ErrorMessage::fillHotKeyLabels()
 void ErrorMessage::setUIText()
 {
     fillHotKeyLabels();
-    if (isHotKeyType(m_iHotKeyType) && m_iHotKeyType != cScreenCutType)
+    if (isHotKeyType(m_iHotKeyType) && m_iHotKeyType != cScreenCutType) {
         ui->label_10->setText(QObject::tr("period"));
+    }
     showPage(ui->page_MsgAndScreen, m_strHotKeyTitle, m_iShowMode);
 }
 
@@ -293,15 +301,17 @@ void ErrorMessage::slot_textChanged(QString text)
 {
     const bool bBlank = text.trimmed().isEmpty();
     ui->acceptBtn->setEnabled(!bBlank);
-    if (bBlank)
+    if (bBlank) {
         ui->lblerror->hide();
+    }
 }
 
 void ErrorMessage::slot_textChanged()
 {
     QString strText = ui->AutoReplytextEdit->toPlainText();
-    if (TextMeasure::getStrCounnt(strText) <= cReplyColumns)
+    if (TextMeasure::getStrCounnt(strText) <= cReplyColumns) {
         return;
+    }
     QTextCursor cursor = ui->AutoReplytextEdit->textCursor();
     const int iPosition = TextLimit::cutBackwards(strText, cursor.position(), cReplyColumns);
     ui->AutoReplytextEdit->setPlainText(strText);
@@ -321,15 +331,17 @@ void ErrorMessage::slot_linkActivated(QString)
 // character after the other.
 void ErrorMessage::slot_paste()
 {
-    if (m_iShowMode != cTagMode)
+    if (m_iShowMode != cTagMode) {
         return;
+    }
     const QString strText = QGuiApplication::clipboard()->text();
     int iColumns = 0;
     for (int i = 0; i < strText.size();) {
         const QString strCharacter = strText.mid(i, TextLimit::unitsAt(strText, i));
         iColumns += TextMeasure::getStrCounnt(strCharacter);
-        if (iColumns > cTagColumns)
+        if (iColumns > cTagColumns) {
             return;
+        }
         ui->AddLineEdit->setText(strCharacter);
         i += strCharacter.size();
     }
@@ -337,8 +349,9 @@ void ErrorMessage::slot_paste()
 
 bool ErrorMessage::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::MouseButtonPress)
+    if (event->type() == QEvent::MouseButtonPress) {
         makeDefault(watched);
+    }
     if (isPasteKey(event)) {
         slot_paste();
         return true;
@@ -349,17 +362,19 @@ bool ErrorMessage::eventFilter(QObject *watched, QEvent *event)
 void ErrorMessage::makeDefault(const QObject *pPressed)
 {
     const auto *pWidget = qobject_cast<const QWidget *>(pPressed);
-    if (pWidget == ui->acceptBtn || ui->acceptBtn->isAncestorOf(pWidget))
+    if (pWidget == ui->acceptBtn || ui->acceptBtn->isAncestorOf(pWidget)) {
         setBtnFocus(true);
-    else if (pWidget == ui->closeBtn || ui->closeBtn->isAncestorOf(pWidget))
+    } else if (pWidget == ui->closeBtn || ui->closeBtn->isAncestorOf(pWidget)) {
         setBtnFocus(false);
+    }
 }
 
 void ErrorMessage::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
-    if (event->type() != QEvent::LanguageChange)
+    if (event->type() != QEvent::LanguageChange) {
         return;
+    }
     ui->retranslateUi(this);
     setUIText();
 }
@@ -377,20 +392,23 @@ void ErrorMessage::showEvent(QShowEvent *event)
 void ErrorMessage::mousePressEvent(QMouseEvent *event)
 {
     QDialog::mousePressEvent(event);
-    if (event->button() == Qt::LeftButton && QRect(0, 0, width() - 1, height() - 1).contains(event->pos()))
+    if (event->button() == Qt::LeftButton && QRect(0, 0, width() - 1, height() - 1).contains(event->pos())) {
         m_dragOffset = event->globalPos() - frameGeometry().topLeft();
+    }
 }
 
 void ErrorMessage::mouseMoveEvent(QMouseEvent *event)
 {
     QDialog::mouseMoveEvent(event);
-    if (!m_dragOffset.isNull() && event->globalPos() != m_dragOffset)
+    if (!m_dragOffset.isNull() && event->globalPos() != m_dragOffset) {
         move(event->globalPos() - m_dragOffset);
+    }
 }
 
 void ErrorMessage::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton)
+    if (event->button() == Qt::LeftButton) {
         m_dragOffset = QPoint();
+    }
     QDialog::mouseReleaseEvent(event);
 }

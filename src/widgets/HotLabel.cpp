@@ -16,7 +16,8 @@ void HotLabel::leaveEvent(QEvent *)
 
 void HotLabel::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton)
+    if (event->button() == Qt::LeftButton) {
         emit signal_clickNameLabel(text());
+    }
     QLabel::mouseReleaseEvent(event);
 }

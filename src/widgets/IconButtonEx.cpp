@@ -21,14 +21,16 @@ constexpr int cOpaque = 255;
 QColor colorOfDecimals(const QString &text)
 {
     const QStringList listPart = text.split(QLatin1Char(','));
-    if (listPart.size() != 3)
+    if (listPart.size() != 3) {
         return {};
+    }
     std::array<int, 3> part{};
     for (int i = 0; i < listPart.size(); ++i) {
         bool bNumber = false;
         part.at(static_cast<std::size_t>(i)) = listPart.at(i).trimmed().toInt(&bNumber);
-        if (!bNumber)
+        if (!bNumber) {
             return {};
+        }
     }
     return {part[0], part[1], part[2]}; // invalid again for a part outside 0 to 255
 }
@@ -58,8 +60,9 @@ void CIconButtonEx::setStyles()
 void CIconButtonEx::setIconFont(QString glyph, int size, int type)
 {
     QFont font = IconFont::getIconFont();
-    if (ADAPT_DPI_INT(size) > 0)
+    if (ADAPT_DPI_INT(size) > 0) {
         font.setPixelSize(ADAPT_DPI_INT(size));
+    }
     ui->pushButton->setFont(font);
     ui->pushButton->setText(glyph);
     m_strGlyph = glyph;
@@ -70,8 +73,9 @@ void CIconButtonEx::setIconFont(QString glyph, int size, int type)
 
 void CIconButtonEx::setIconColor(const QString &color)
 {
-    if (!color.isEmpty())
+    if (!color.isEmpty()) {
         m_strIconColor = color;
+    }
     setBtnStyles(m_iStyleType);
 }
 
@@ -82,10 +86,11 @@ void CIconButtonEx::setBtnStyles(int type)
     case HoverStyle:
     case SameHoverStyle:
         m_strHoverColor = skin.m_strIconHoverColor;
-        if (m_bCheckedState)
+        if (m_bCheckedState) {
             showGlyph(m_strHoverColor);
-        else
+        } else {
             showNormal();
+        }
         break;
     case BackgroundStyle:
         if (m_bBackGroundDark) {
@@ -188,18 +193,21 @@ void CIconButtonEx::setCheckable(bool bCheckable)
 
 void CIconButtonEx::setChecked(bool bChecked)
 {
-    if (!m_bCheckable)
+    if (!m_bCheckable) {
         return;
+    }
     ui->pushButton->setChecked(bChecked);
     m_bCheckedState = bChecked;
-    if (m_bChangeBackgroundOnChecked)
+    if (m_bChangeBackgroundOnChecked) {
         ui->widgetBG->setStyleSheet(bChecked
                                         ? backgroundOf(strCOLOR_PINK, cOpaque)
                                         : backgroundOf(SkinContext::getSkinData()->m_strFifthIconColor, cTransparent));
-    if (bChecked)
+    }
+    if (bChecked) {
         showGlyph(m_strHoverColor);
-    else
+    } else {
         showNormal();
+    }
 }
 
 void CIconButtonEx::setEnabled(bool bEnabled)
@@ -217,10 +225,11 @@ void CIconButtonEx::setDisabled(bool bDisabled)
 void CIconButtonEx::showEnabled(bool bEnabled)
 {
     ui->pushButton->setEnabled(bEnabled);
-    if (bEnabled)
+    if (bEnabled) {
         showNormal();
-    else
+    } else {
         showGlyph(SkinContext::getSkinData()->m_strDisabledIconColor);
+    }
 }
 
 void CIconButtonEx::setChangeBackgroundOnChecked(bool bChange)
@@ -235,14 +244,16 @@ void CIconButtonEx::setBackGroundDark(bool bDark)
 
 void CIconButtonEx::enterEvent(QEvent *)
 {
-    if (m_bEnabled)
+    if (m_bEnabled) {
         setBtnStyles(m_iStyleType);
+    }
 }
 
 void CIconButtonEx::leaveEvent(QEvent *)
 {
-    if (m_bEnabled)
+    if (m_bEnabled) {
         setBtnStyles(m_iStyleType);
+    }
 }
 
 bool CIconButtonEx::eventFilter(QObject *watched, QEvent *event)
@@ -254,8 +265,9 @@ bool CIconButtonEx::eventFilter(QObject *watched, QEvent *event)
         case QEvent::MouseButtonDblClick:
             return true;
         case QEvent::MouseButtonRelease:
-            if (takeRelease(*static_cast<QMouseEvent *>(event)))
+            if (takeRelease(*static_cast<QMouseEvent *>(event))) {
                 return true;
+            }
             break;
         default:
             break;
@@ -266,11 +278,13 @@ bool CIconButtonEx::eventFilter(QObject *watched, QEvent *event)
 
 bool CIconButtonEx::takeRelease(const QMouseEvent &event)
 {
-    if (!m_bEnabled || !ui->pushButton->isEnabled() || event.button() == Qt::RightButton)
+    if (!m_bEnabled || !ui->pushButton->isEnabled() || event.button() == Qt::RightButton) {
         return true;
+    }
     const QRect face(QPoint(0, 0), QPoint(ui->widgetBG->width() - 1, ui->widgetBG->height() - 1));
-    if (!face.contains(event.pos()))
+    if (!face.contains(event.pos())) {
         return false;
+    }
     emit clicked();
     return true;
 }

@@ -72,8 +72,9 @@ void CLineEditEx::setStyles()
     // The padding of the menu's entries stays unfilled on purpose: this sheet is the one that the field's standard
     // context menu has always had. Set again it would only repeat the warning with which Qt refuses it.
     const QString strMenu = strMenuStyle + strMenuItemStyle + strMenuItemSelectStyle + strMenuItemDisableStyle;
-    if (styleSheet() != strMenu)
+    if (styleSheet() != strMenu) {
         setStyleSheet(strMenu);
+    }
 }
 
 void CLineEditEx::setEchoMode(QLineEdit::EchoMode mode)
@@ -158,8 +159,9 @@ QLineEdit *CLineEditEx::getLineEdit() const
 
 int CLineEditEx::widthOf(const QStringRef &text) const
 {
-    if (m_bCountEachAsOne)
+    if (m_bCountEachAsOne) {
         return text.size();
+    }
     return std::accumulate(text.begin(), text.end(), 0,
                            [](int iSum, QChar unit) { return iSum + TextMeasure::columnsOf(unit); });
 }
@@ -176,16 +178,18 @@ void CLineEditEx::cutToWidth(int iLength)
 
 void CLineEditEx::setMaxLength(int iLength)
 {
-    if (TextMeasure::getStrCounnt(ui->lineEdit->text()) > iLength)
+    if (TextMeasure::getStrCounnt(ui->lineEdit->text()) > iLength) {
         cutToWidth(iLength);
+    }
     m_iMaxLength = iLength;
 }
 
 void CLineEditEx::setNewMaxLength(int iLength)
 {
     // Tested by count but cut by width, on purpose: the fields that count characters start with short texts.
-    if (ui->lineEdit->text().size() > iLength)
+    if (ui->lineEdit->text().size() > iLength) {
         cutToWidth(iLength);
+    }
     m_iMaxLength = iLength;
     m_bCountEachAsOne = true;
 }
@@ -195,8 +199,9 @@ void CLineEditEx::slot_cursorchanged(int oldPos, int newPos)
     QString strText = ui->lineEdit->text();
     // Qt reports the very first move as one from -1.
     oldPos = qMax(0, oldPos);
-    if (newPos <= oldPos || newPos > strText.size())
+    if (newPos <= oldPos || newPos > strText.size()) {
         return;
+    }
     qint64 width = qint64(widthOf(strText.leftRef(oldPos))) + widthOf(strText.midRef(newPos));
     int iFitEnd = oldPos;
     int iExcess = 0;
@@ -204,13 +209,15 @@ void CLineEditEx::slot_cursorchanged(int oldPos, int newPos)
         const int iUnits = TextLimit::unitsAt(strText, i);
         width += widthOf(strText.midRef(i, iUnits));
         i += iUnits;
-        if (width <= m_iMaxLength)
+        if (width <= m_iMaxLength) {
             iFitEnd = i;
-        else
+        } else {
             ++iExcess;
+        }
     }
-    if (iExcess == 0)
+    if (iExcess == 0) {
         return;
+    }
     // One excess character goes at the old position, not at the end, on purpose: a key typed at the limit is dropped,
     // and a paste that is one too long loses its first character.
     const int iFrom = iExcess == 1 ? oldPos : iFitEnd;
@@ -229,8 +236,9 @@ void CLineEditEx::setlogin()
 void CLineEditEx::setType(LineEditType type)
 {
     m_iLineEditType = type;
-    if (m_iLineEditType == SearchField)
+    if (m_iLineEditType == SearchField) {
         setSearchBtn(true);
+    }
 }
 
 void CLineEditEx::setSearchBtn(bool)
@@ -244,8 +252,9 @@ void CLineEditEx::slot_changeSearchBtnImg(QString) {}
 
 void CLineEditEx::addDeleteBtn()
 {
-    if (m_pDeleteBtn != nullptr)
+    if (m_pDeleteBtn != nullptr) {
         return;
+    }
     m_pDeleteBtn = new CIconButtonEx(ui->lineEdit);
     m_pDeleteBtn->setFixedSize(ADAPT_DPI_SIZE(cDeleteButtonSize));
     m_pDeleteBtn->setCursor(Qt::ArrowCursor);
@@ -265,27 +274,35 @@ void CLineEditEx::addDeleteBtn()
 
 void CLineEditEx::showDeleteBtn(bool bShow)
 {
-    if (m_pDeleteBtn == nullptr)
+    if (m_pDeleteBtn == nullptr) {
         return;
+    }
     m_pDeleteBtn->setVisible(bShow);
     m_pDeleteLine->setVisible(bShow);
 }
 
 bool CLineEditEx::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != ui->lineEdit)
+    if (watched != ui->lineEdit) {
         return QWidget::eventFilter(watched, event);
-    if (event->type() == QEvent::MouseButtonRelease)
+    }
+    if (event->type() == QEvent::MouseButtonRelease) {
         emit signal_click();
-    if (event->type() == QEvent::HoverEnter)
+    }
+    if (event->type() == QEvent::HoverEnter) {
         setStyles();
-    if (event->type() == QEvent::PaletteChange)
+    }
+    if (event->type() == QEvent::PaletteChange) {
         PlaceholderColor::fade(ui->lineEdit);
-    if (event->type() == QEvent::FocusIn && !ui->lineEdit->text().isEmpty())
+    }
+    if (event->type() == QEvent::FocusIn && !ui->lineEdit->text().isEmpty()) {
         emit textChanged(ui->lineEdit->text());
-    if (event->type() == QEvent::FocusOut)
+    }
+    if (event->type() == QEvent::FocusOut) {
         emit signal_foucsout();
-    if (isPasteOfNothing(event))
+    }
+    if (isPasteOfNothing(event)) {
         return true;
+    }
     return QWidget::eventFilter(watched, event);
 }

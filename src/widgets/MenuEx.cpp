@@ -70,7 +70,8 @@ void CMenuEx::mousePressEvent(QMouseEvent *event)
 
 void CMenuEx::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::RightButton)
+    if (event->button() == Qt::RightButton) {
         return;
+    }
     QMenu::mouseReleaseEvent(event);
 }

@@ -24,8 +24,9 @@ int endOfWholeLines(const QTextDocument &document, int iBottom)
         const QRectF place = document.documentLayout()->blockBoundingRect(block);
         for (int i = 0; i < block.layout()->lineCount(); ++i) {
             const QTextLine line = block.layout()->lineAt(i);
-            if (place.top() + line.y() + line.height() > iBottom)
+            if (place.top() + line.y() + line.height() > iBottom) {
                 return iEnd;
+            }
             iEnd = block.position() + line.textStart() + line.textLength();
         }
     }
@@ -34,8 +35,9 @@ int endOfWholeLines(const QTextDocument &document, int iBottom)
 
 void dropBlanks(QTextCursor &cursor)
 {
-    while (cursor.position() > 0 && cursor.document()->characterAt(cursor.position() - 1).isSpace())
+    while (cursor.position() > 0 && cursor.document()->characterAt(cursor.position() - 1).isSpace()) {
         cursor.deletePreviousChar();
+    }
 }
 
 void endWithEllipsis(QTextDocument &document, int iBottom)
@@ -43,8 +45,9 @@ void endWithEllipsis(QTextDocument &document, int iBottom)
     QTextCursor cursor(&document);
     cursor.setPosition(endOfWholeLines(document, iBottom));
     cursor.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
-    if (!cursor.hasSelection())
+    if (!cursor.hasSelection()) {
         return;
+    }
     cursor.removeSelectedText();
     dropBlanks(cursor);
     cursor.insertText(QString(QChar(0x2026)));
@@ -102,8 +105,9 @@ bool MessageLabel::hasRoom() const
 
 int MessageLabel::neededHeight() const
 {
-    if (!isMarkup() && text().size() > cMostCharacters)
+    if (!isMarkup() && text().size() > cMostCharacters) {
         return QWIDGETSIZE_MAX;
+    }
     return wordWrap() ? heightForWidth(width()) : sizeHint().height();
 }
 
@@ -118,8 +122,9 @@ int MessageLabel::topOf(int iHeight) const
 const MessageLabel::Layout &MessageLabel::layOut() const
 {
     Layout::Causes causes(text(), textFormat(), font(), alignment(), wordWrap(), contentsRect(), m_iLowestLine);
-    if (causes == m_pLayout->causes)
+    if (causes == m_pLayout->causes) {
         return *m_pLayout;
+    }
     const int iHeight = neededHeight();
     m_pLayout->causes = std::move(causes);
     m_pLayout->iTop = topOf(iHeight);
@@ -128,8 +133,9 @@ const MessageLabel::Layout &MessageLabel::layOut() const
     m_pLayout->iRaised = m_pLayout->bWhole ? qMax(0, iBelow) : m_pLayout->iTop;
     const bool bByItself = m_pLayout->bWhole && m_pLayout->iRaised == 0;
     m_pLayout->pDocument = bByItself ? nullptr : wholeText();
-    if (!m_pLayout->bWhole)
+    if (!m_pLayout->bWhole) {
         endWithEllipsis(*m_pLayout->pDocument, place().height());
+    }
     return *m_pLayout;
 }
 
@@ -139,11 +145,12 @@ std::unique_ptr<QTextDocument> MessageLabel::wholeText() const
     pDocument->setDefaultFont(font());
     pDocument->setDocumentMargin(0);
     pDocument->setTextWidth(place().width());
-    if (isMarkup())
+    if (isMarkup()) {
         pDocument->setHtml(text());
-    else
+    } else {
         // Lines of one paragraph stand as close as a label's do.
         pDocument->setPlainText(text().left(cMostCharacters).replace(QLatin1Char('\n'), QChar::LineSeparator));
+    }
     return pDocument;
 }
 
@@ -151,8 +158,9 @@ std::unique_ptr<QTextDocument> MessageLabel::wholeText() const
 bool MessageLabel::event(QEvent *event)
 {
     const auto *pMouse = dynamic_cast<QMouseEvent *>(event);
-    if (pMouse == nullptr || layOut().iRaised == 0)
+    if (pMouse == nullptr || layOut().iRaised == 0) {
         return QLabel::event(event);
+    }
     QMouseEvent lower(pMouse->type(), pMouse->localPos() + QPointF(0, layOut().iRaised), pMouse->windowPos(),
                       pMouse->screenPos(), pMouse->button(), pMouse->buttons(), pMouse->modifiers(), pMouse->source());
     const bool bHandled = QLabel::event(&lower);

@@ -32,8 +32,9 @@ QBitmap dotsOfTheBars(const QSize &size)
 
 MyRubberBand::MyRubberBand(Shape shape, QWidget *parent) : QRubberBand(shape, parent)
 {
-    if (isWindow())
+    if (isWindow()) {
         setAttribute(Qt::WA_TranslucentBackground);
+    }
 }
 
 bool MyRubberBand::event(QEvent *event)
@@ -41,12 +42,15 @@ bool MyRubberBand::event(QEvent *event)
     const QEvent::Type type = event->type();
     const bool bHandled = QRubberBand::event(event);
     // After any other event the band may no longer exist: a deferred deletion is one of them.
-    if (type != QEvent::Show && type != QEvent::Resize && type != QEvent::StyleChange)
+    if (type != QEvent::Show && type != QEvent::Resize && type != QEvent::StyleChange) {
         return bHandled;
-    if (!isWindow() || !isVisible())
+    }
+    if (!isWindow() || !isVisible()) {
         return bHandled;
-    if (type == QEvent::Show)
+    }
+    if (type == QEvent::Show) {
         m_bComposited = Compositor::isRunning();
+    }
     // After the base class has handled the event, because it puts the style's own mask on the band.
     cutToTheBars();
     return bHandled;
@@ -57,10 +61,11 @@ bool MyRubberBand::event(QEvent *event)
 // the thousands of rectangles of such a mask.
 void MyRubberBand::cutToTheBars()
 {
-    if (m_bComposited)
+    if (m_bComposited) {
         setMask(QRegion(rect()) - rect().adjusted(cBarWidth, cBarWidth, -cBarWidth, -cBarWidth));
-    else
+    } else {
         setMask(dotsOfTheBars(size()));
+    }
 }
 
 void MyRubberBand::paintEvent(QPaintEvent *event)

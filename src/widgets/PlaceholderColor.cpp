@@ -13,6 +13,7 @@ void PlaceholderColor::fade(QWidget *pField)
         bChanged = bChanged || palette.color(group, QPalette::PlaceholderText) != color;
         palette.setColor(group, QPalette::PlaceholderText, color);
     }
-    if (bChanged)
+    if (bChanged) {
         pField->setPalette(palette);
+    }
 }

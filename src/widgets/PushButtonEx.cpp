@@ -113,8 +113,9 @@ void PushButtonEx::setCheckable(bool bCheckable)
 void PushButtonEx::setFontSize(int iSize)
 {
     const int iPixels = ADAPT_DPI_INT(iSize);
-    if (iPixels < 1)
+    if (iPixels < 1) {
         return;
+    }
     QFont font = ui->btnEx->font();
     font.setPixelSize(iPixels);
     ui->btnEx->setFont(font);

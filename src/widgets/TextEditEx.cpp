@@ -41,8 +41,9 @@ bool isLong(const QMimeData &source, int iUnits)
 
 QString plainText(const QMimeData &source)
 {
-    if (source.hasText())
+    if (source.hasText()) {
         return source.text();
+    }
     return QTextDocumentFragment::fromHtml(source.html().left(cLongestSource)).toPlainText();
 }
 
@@ -85,8 +86,9 @@ void CTextEditEx::setStyles()
 
 void CTextEditEx::appendStyle(const QString &strStyle)
 {
-    if (m_bSelfStyle)
+    if (m_bSelfStyle) {
         return;
+    }
     m_strStyle += strStyle;
     setStyleSheet(m_strStyle);
 }
@@ -106,12 +108,15 @@ void CTextEditEx::leaveEvent(QEvent *)
 
 bool CTextEditEx::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::PaletteChange)
+    if (event->type() == QEvent::PaletteChange) {
         PlaceholderColor::fade(this);
-    if (event->type() != QEvent::Enter && event->type() != QEvent::Leave)
+    }
+    if (event->type() != QEvent::Enter && event->type() != QEvent::Leave) {
         return QTextEdit::eventFilter(watched, event);
-    if (!m_bSelfStyle)
+    }
+    if (!m_bSelfStyle) {
         setStyles();
+    }
     return true;
 }
 
@@ -144,16 +149,18 @@ void CTextEditEx::fillMenu(CMenuEx &menu)
 
 void CTextEditEx::pasteFromMenu()
 {
-    if (m_bEmitPaste)
+    if (m_bEmitPaste) {
         emit signal_paste();
-    else
+    } else {
         paste();
+    }
 }
 
 void CTextEditEx::insertFromMimeData(const QMimeData *source)
 {
-    if (m_iLongestPaste >= 0 && source != nullptr && isLong(*source, m_iLongestPaste))
+    if (m_iLongestPaste >= 0 && source != nullptr && isLong(*source, m_iLongestPaste)) {
         insertPlainText(plainText(*source).left(m_iLongestPaste));
-    else
+    } else {
         QTextEdit::insertFromMimeData(source);
+    }
 }

@@ -11,8 +11,9 @@ int cutRange(const QString &strText, int iBegin, int iEnd, qint64 &excess)
 {
     while (excess > 0 && iEnd > iBegin) {
         const int iFrom = SurrogatePairs::before(strText, iEnd);
-        while (iEnd > iFrom)
+        while (iEnd > iFrom) {
             excess -= TextMeasure::columnsOf(strText.at(--iEnd));
+        }
     }
     return iEnd;
 }
@@ -21,19 +22,22 @@ int cutRange(const QString &strText, int iBegin, int iEnd, qint64 &excess)
 
 int TextLimit::unitsAt(const QString &strText, int iPosition)
 {
-    if (iPosition >= strText.size())
+    if (iPosition >= strText.size()) {
         return 0;
+    }
     return SurrogatePairs::unitsAt(strText, iPosition);
 }
 
 int TextLimit::cutBackwards(QString &strText, int iCursor, int iLimit)
 {
     int iTo = qBound(0, iCursor, strText.size());
-    if (SurrogatePairs::isPairAt(strText, iTo - 1))
+    if (SurrogatePairs::isPairAt(strText, iTo - 1)) {
         ++iTo;
+    }
     qint64 excess = qint64(TextMeasure::getStrCounnt(strText)) - iLimit;
-    if (excess <= 0)
+    if (excess <= 0) {
         return iTo;
+    }
     const int iFrom = cutRange(strText, 0, iTo, excess);
     const int iEnd = cutRange(strText, iTo, strText.size(), excess);
     const bool bCutAtEnd = iEnd < strText.size();

@@ -12,8 +12,9 @@ void VcardHeadLabel::setHeadPictrue(const QString &path)
     const qreal dRatio = devicePixelRatioF();
     const int iWidth = qRound(width() * dRatio);
     QPixmap head = HeadImages::getRoundedImage(ImagePath::getTrueImagePath(path, strDEFAULT_HEAD_PATH), iWidth);
-    if (head.isNull())
+    if (head.isNull()) {
         head = HeadImages::getRoundedImage(strDEFAULT_HEAD_PATH, iWidth);
+    }
     head.setDevicePixelRatio(dRatio);
     setPixmap(head);
     update(rect());

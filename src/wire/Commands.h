@@ -61,8 +61,9 @@ constexpr int parameterCount(const CommandRow &row)
 constexpr const CommandRow *findCommand(std::string_view name)
 {
     for (const CommandRow &row : kCommands) {
-        if (name == row.name)
+        if (name == row.name) {
             return &row;
+        }
     }
     return nullptr;
 }
@@ -73,8 +74,9 @@ constexpr bool tellOfEveryCommand(const Rows &rows)
 {
     std::size_t place = 0;
     for (const auto &row : rows) {
-        if (place == kCommands.size() || row.command != kCommands.at(place++).command)
+        if (place == kCommands.size() || row.command != kCommands.at(place++).command) {
             return false;
+        }
     }
     return place == kCommands.size();
 }
@@ -84,8 +86,9 @@ constexpr bool areParametersKnown()
 {
     for (const CommandRow &row : kCommands) {
         if (std::string_view(row.parameters).find_first_not_of("sbia") != std::string_view::npos ||
-            parameterCount(row) > 6)
+            parameterCount(row) > 6) {
             return false;
+        }
     }
     return true;
 }

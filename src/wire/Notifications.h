@@ -49,8 +49,9 @@ inline constexpr std::array kNotifications{
 constexpr const NotificationRow *findNotification(int code)
 {
     for (const NotificationRow &row : kNotifications) {
-        if (static_cast<int>(row.code) == code)
+        if (static_cast<int>(row.code) == code) {
             return &row;
+        }
     }
     return nullptr;
 }
@@ -61,14 +62,17 @@ constexpr bool tellOfEveryNotification(const Rows &rows)
 {
     auto expected = kNotifications.begin();
     for (const auto &row : rows) {
-        while (expected != kNotifications.end() && expected->content == Content::Open)
+        while (expected != kNotifications.end() && expected->content == Content::Open) {
             ++expected;
-        if (expected == kNotifications.end() || row.code != expected->code)
+        }
+        if (expected == kNotifications.end() || row.code != expected->code) {
             return false;
+        }
         ++expected;
     }
-    while (expected != kNotifications.end() && expected->content == Content::Open)
+    while (expected != kNotifications.end() && expected->content == Content::Open) {
         ++expected;
+    }
     return expected == kNotifications.end();
 }
 

@@ -38,8 +38,9 @@ class Recording
 public:
     explicit Recording(const QByteArray &scenario)
     {
-        if (!writeFile(played(), scenario))
+        if (!writeFile(played(), scenario)) {
             qFatal("cannot write %s", qPrintable(played()));
+        }
         process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     }
 

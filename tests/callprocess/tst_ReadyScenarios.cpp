@@ -11,8 +11,9 @@ bool isRegistered(CallProcess &peer, const QString &scenario)
 {
     peer.start({QStringLiteral("--speed"), QStringLiteral("100"), QStringLiteral("--scenario"),
                 QStringLiteral(VOIPSDK_SCENARIOS "/") + scenario + QStringLiteral(".scn")});
-    if (!peer.connectClient())
+    if (!peer.connectClient()) {
         return false;
+    }
     peer.command(QStringLiteral("RegeditUser"),
                  {QStringLiteral("100"), QStringLiteral("Me"), QStringLiteral("r"), false});
     return peer.nextNotification() == QStringLiteral("17 true");

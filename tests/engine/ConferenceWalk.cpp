@@ -35,18 +35,21 @@ const QList<ConferenceWalk::Action> &ConferenceWalk::actions()
 QString ConferenceWalk::someConf()
 {
     const int dice = upTo(20);
-    if (dice == 0)
+    if (dice == 0) {
         return {};
-    if (dice > 3 && !call().confId.isEmpty())
+    }
+    if (dice > 3 && !call().confId.isEmpty()) {
         return call().confId;
+    }
     return "c" + QString::number(m_conf + (dice == 1 ? 1 : dice == 2 ? -1 : 0));
 }
 
 QString ConferenceWalk::someMember()
 {
     const QStringList &members = call().memberList;
-    if (!members.isEmpty() && upTo(4) != 0)
+    if (!members.isEmpty() && upTo(4) != 0) {
         return members.at(upTo(members.size()));
+    }
     return upTo(4) == 0 ? QString("me") : "h" + QString::number(upTo(8));
 }
 
@@ -54,8 +57,9 @@ QString ConferenceWalk::someMember()
 QStringList ConferenceWalk::someHostIds()
 {
     QStringList ids;
-    for (int left = upTo(5); left > 0; --left)
+    for (int left = upTo(5); left > 0; --left) {
         ids << (upTo(6) == 0 ? QString("me") : "h" + QString::number(upTo(8)));
+    }
     return ids;
 }
 
@@ -69,8 +73,9 @@ void ConferenceWalk::document(int code)
 {
     const QString conf = someConf();
     QStringList members;
-    for (int left = upTo(6); left > 0; --left)
+    for (int left = upTo(6); left > 0; --left) {
         members << (upTo(5) == 0 ? QString("me") : memberOf(conf, upTo(12)));
+    }
     const QString list = members.isEmpty() ? QString() : R"(")" + members.join(R"(",")") + R"(")";
     const QString from = upTo(5) == 0 ? QString() : memberOf(conf, upTo(12));
     // Times of day differ by conference, so that a foreign one would show.
@@ -78,8 +83,9 @@ void ConferenceWalk::document(int code)
     const bool ours = !conf.isEmpty() && (call().confId.isEmpty() || call().confId == conf);
     if (ours) {
         m_confs.insert(conf);
-        if (code != 2)
+        if (code != 2) {
             m_connected = members;
+        }
     }
     line(code, QString(R"({"content":{"confId":"%1","from":"%2","createTime":%3,"conventioneer":[%4]}})")
                    .arg(conf, from, time, list));
@@ -105,10 +111,11 @@ void ConferenceWalk::addResult()
 void ConferenceWalk::end()
 {
     static const QList<int> s_codes{3, 4, 7, 8, 9, 10, 19, 22, 23, 24};
-    if (upTo(4) == 0)
+    if (upTo(4) == 0) {
         engine.manager->hangupVoipCall();
-    else
+    } else {
         line(s_codes.at(upTo(s_codes.size())));
+    }
 }
 
 void ConferenceWalk::rejection()
@@ -130,20 +137,23 @@ void ConferenceWalk::noise()
 
 void ConferenceWalk::single()
 {
-    if (upTo(2) == 0)
+    if (upTo(2) == 0) {
         line(upTo(2), "p1");
-    else
+    } else {
         engine.manager->callSingleUser("p2", upTo(2) == 0);
+    }
 }
 
 void ConferenceWalk::callConference()
 {
     // Each refusal costs a message box, so that they are few.
-    if (engine.manager->isExistCall() && upTo(10) != 0)
+    if (engine.manager->isExistCall() && upTo(10) != 0) {
         return;
+    }
     const QStringList ids = someHostIds();
-    if (!engine.manager->isExistCall() && engine.manager->m_bSocketConnected)
+    if (!engine.manager->isExistCall() && engine.manager->m_bSocketConnected) {
         m_sentByHost = ids;
+    }
     engine.manager->callConference(ids, upTo(2) == 0, "");
 }
 
@@ -190,10 +200,11 @@ void ConferenceWalk::member()
 
 void ConferenceWalk::timeout()
 {
-    if (upTo(2) == 0)
+    if (upTo(2) == 0) {
         engine.manager->slot_inviteCallTimeout();
-    else
+    } else {
         engine.manager->slot_recevieCallTimeout();
+    }
 }
 
 void ConferenceWalk::loseChannel()
@@ -213,8 +224,9 @@ QString ConferenceWalk::step()
     const CallData before = call();
     const bool existed = engine.manager->isExistCall();
     int weights = 0;
-    for (const Action &action : actions())
+    for (const Action &action : actions()) {
         weights += action.weight;
+    }
     int dice = upTo(weights);
     for (const Action &action : actions()) {
         dice -= action.weight;
@@ -227,8 +239,9 @@ QString ConferenceWalk::step()
     }
     engine.host.events.clear();
     const bool ended = m_isEnd && existed && !engine.manager->isExistCall();
-    if (ended)
+    if (ended) {
         noteEnd(before);
+    }
     const QString fault = listFault();
     return fault.isEmpty() && ended ? endFault() : fault;
 }

@@ -20,8 +20,9 @@ inline QStringList deliveredPayloads(const QtMessages &messages)
 {
     QStringList payloads;
     for (const QString &text : messages.debugLines) {
-        if (text.startsWith("voipsdk:"))
+        if (text.startsWith("voipsdk:")) {
             payloads.append(text.mid(8));
+        }
     }
     return payloads;
 }

@@ -12,8 +12,9 @@ struct WhileAsked
     explicit WhileAsked(EngineFixture &f)
     {
         f.whileHandled = [this, &f](BaseEvent &event) {
-            if (event.msgId != MSG_IS_EXIST_FRIEND)
+            if (event.msgId != MSG_IS_EXIST_FRIEND) {
                 return;
+            }
             call = f.callText();
             lines = f.takeLines();
             bShown = f.manager->m_pVoipWidget->isVisible() || f.manager->m_inviteTimer.isActive();

@@ -35,14 +35,17 @@ bool works(std::minstd_rand &random)
     for (auto calls = random() % 3; calls > 0; --calls) {
         pass(random);
         fixture.notify(0, QStringLiteral("bert"));
-        if (!rings(fixture))
+        if (!rings(fixture)) {
             return false;
+        }
         pass(random);
-        if (random() % 2 == 0)
+        if (random() % 2 == 0) {
             return true;
+        }
         fixture.manager->rejectVoipCall();
-        if (rings(fixture))
+        if (rings(fixture)) {
             return false;
+        }
     }
     return true;
 }

@@ -14,8 +14,9 @@ int main(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);
     QSound *player = CallRing::player();
-    if (argc > 1 && std::strcmp(argv[1], "ringing") == 0)
+    if (argc > 1 && std::strcmp(argv[1], "ringing") == 0) {
         player->play();
+    }
     // What Qt knows of calendars comes behind the player and goes before it.
     const bool bKnown = !QDateTime::currentDateTime().toString(QStringLiteral("ddd")).isEmpty();
     return bKnown ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -177,10 +177,11 @@ private slots:
         QFETCH(qint64, least);
         QFETCH(qint64, most);
         EngineFixture f;
-        if (caller)
+        if (caller) {
             f.manager->callSingleUser("anna", false);
-        else
+        } else {
             f.notify(0, "anna");
+        }
         if (connected) {
             f.notify(18);
             f.manager->m_callData.connectTime = f.manager->m_callData.connectTime.addSecs(-age);

@@ -68,8 +68,9 @@ private slots:
         QFETCH(QStringList, way);
         const EngineFixture providesTheFile(EngineFixture::NoCallProcess);
         std::array<QProcess, 12> children;
-        for (QProcess &child : children)
+        for (QProcess &child : children) {
             child.start(QStringLiteral(VOIP_RING_CHILD), way);
+        }
         for (QProcess &child : children) {
             QVERIFY(child.waitForFinished(120000));
             QCOMPARE(child.exitStatus(), QProcess::NormalExit);

@@ -353,12 +353,15 @@ private:
 
     static void enter(EngineFixture &f, const QString &state)
     {
-        if (state == "Outgoing" || state == "Connected")
+        if (state == "Outgoing" || state == "Connected") {
             f.manager->callSingleUser("anna", false);
-        if (state == "Incoming")
+        }
+        if (state == "Incoming") {
             f.notify(0, "bert");
-        if (state == "Connected")
+        }
+        if (state == "Connected") {
             f.notify(18);
+        }
         f.takeJournal();
     }
 };

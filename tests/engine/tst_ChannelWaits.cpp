@@ -33,11 +33,13 @@ extern "C" Q_DECL_EXPORT int ppoll(pollfd *fds, nfds_t count, const timespec *ti
 {
     static const auto real =
         reinterpret_cast<int (*)(pollfd *, nfds_t, const timespec *, const sigset_t *)>(dlsym(RTLD_NEXT, "ppoll"));
-    if (count != 1 || watchedSocket < 0 || fds->fd != watchedSocket)
+    if (count != 1 || watchedSocket < 0 || fds->fd != watchedSocket) {
         return real(fds, count, timeout, mask);
+    }
     const int milliseconds = millisecondsOf(timeout);
-    if (milliseconds != 0)
+    if (milliseconds != 0) {
         waits.append(milliseconds);
+    }
     return 0;
 }
 

@@ -127,10 +127,11 @@ private slots:
         QFETCH(bool, outgoing);
         QFETCH(QStringList, journal);
         EngineFixture f;
-        if (outgoing)
+        if (outgoing) {
             f.manager->callSingleUser(QStringLiteral("anna"), false);
-        else
+        } else {
             f.notify(0, QStringLiteral("anna"));
+        }
         f.takeJournal();
         sleepAnHour();
         QCOMPARE(f.takeJournal(), journal);
@@ -231,8 +232,9 @@ private:
     static void sleepAnHour()
     {
         ShiftedClock::sleep(kHour);
-        for (int round = 0; round < 5; ++round)
+        for (int round = 0; round < 5; ++round) {
             QCoreApplication::processEvents();
+        }
     }
 
     /// The next call goes its whole way.

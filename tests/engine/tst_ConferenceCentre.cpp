@@ -37,16 +37,18 @@ private:
     {
         QStringList ids;
         const QAbstractItemModel *pRows = list(f)->model();
-        for (int i = 0; i < pRows->rowCount(); ++i)
+        for (int i = 0; i < pRows->rowCount(); ++i) {
             ids << pRows->index(i, 0).data(ROLE_CONF_ID).toString();
+        }
         return ids;
     }
     /// The ids in the store.
     static QStringList stored(const RecordedEngine &f)
     {
         QStringList ids;
-        for (const QStringList &row : f.rows())
+        for (const QStringList &row : f.rows()) {
             ids << row.constFirst();
+        }
         return ids;
     }
     static void open(RecordedEngine &f)

@@ -127,8 +127,9 @@ private slots:
         QFETCH(bool, call);
         QFETCH(QString, message);
         EngineFixture f(channel ? EngineFixture::WithCallProcess : EngineFixture::NoCallProcess);
-        if (call)
+        if (call) {
             f.notify(0, "bert");
+        }
         f.takeJournal();
         f.manager->callConference({"anna"}, false, "");
         QCOMPARE(f.boxes.texts, QStringList{message});
@@ -226,16 +227,18 @@ private slots:
     {
         QFETCH(bool, own);
         EngineFixture f;
-        if (own)
+        if (own) {
             startConference(f);
-        else
+        } else {
             beInvited(f);
+        }
         // What the window showed before must not count.
         f.manager->m_pVoipWidget->setVoipCallInfo({}, CVoipWidget::Conference, !own, false);
         f.manager->responseVoipRequest(true);
         QCOMPARE(f.takeJournal(), QStringList{"AcceptConf"});
-        for (const char *button : {"btnMuteAll", "btnAddMember"})
+        for (const char *button : {"btnMuteAll", "btnAddMember"}) {
             QCOMPARE(!f.manager->m_pVoipWidget->findChild<QWidget *>(button)->isHidden(), own);
+        }
     }
 
     void membersComeAfterTheAccept()

@@ -165,8 +165,9 @@ private slots:
     void tenThousandMembers()
     {
         QStringList ids;
-        for (int i = 0; i < 10000; ++i)
+        for (int i = 0; i < 10000; ++i) {
             ids << "m" + QString::number(i);
+        }
         const QString content = "{\"content\":{\"confId\":\"c1\",\"conventioneer\":[\"" + ids.join(R"(",")") + "\"]}}";
         RecordedEngine f;
         f.createConference();

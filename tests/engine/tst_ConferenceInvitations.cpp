@@ -50,8 +50,9 @@ private slots:
         QString stateMeanwhile;
         QStringList membersMeanwhile;
         f.whileHandled = [&](BaseEvent &event) {
-            if (event.msgId != MSG_RECEVIE_VOIP_CALL)
+            if (event.msgId != MSG_RECEVIE_VOIP_CALL) {
                 return;
+            }
             stateMeanwhile = f.state();
             f.manager->m_pVoipWidget->addConferenceMember("anna");
             membersMeanwhile = f.members();

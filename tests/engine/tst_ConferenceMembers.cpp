@@ -61,8 +61,9 @@ private slots:
         QStringList memberListMeanwhile;
         QStringList membersMeanwhile;
         f.whileHandled = [&](BaseEvent &event) {
-            if (event.msgId != MSG_IS_EXIST_FRIEND)
+            if (event.msgId != MSG_IS_EXIST_FRIEND) {
                 return;
+            }
             memberListMeanwhile = f.manager->m_callData.memberList;
             membersMeanwhile = f.members();
         };
@@ -80,8 +81,9 @@ private slots:
         f.host.membersToAdd = QStringList{"bert", "carl", "dora"};
         f.whileHandled = [&f](BaseEvent &event) {
             // Dora joins while the user picks.
-            if (event.msgId == MSG_ADD_CONFERENCE_MEMBER)
+            if (event.msgId == MSG_ADD_CONFERENCE_MEMBER) {
                 f.notify(12, R"({"content":{"confId":"c1","conventioneer":["dora"]}})");
+            }
         };
         f.manager->slot_AddConfMember();
         QCOMPARE(f.host.received(MSG_ADD_CONFERENCE_MEMBER).constFirst().reader().takeTexts(),

@@ -160,8 +160,9 @@ private slots:
         QTest::newRow("a line feed") << QStringList{"a\nb"} << "a\nb,me," << QStringList{"a\nb", "me"};
         QTest::newRow("the same twice") << QStringList{"a", "a"} << "a,a,me," << QStringList{"a", "a", "me"};
         QStringList many;
-        for (int i = 0; i < 2000; ++i)
+        for (int i = 0; i < 2000; ++i) {
             many << "member" + QString::number(i);
+        }
         QTest::newRow("more than the column's nominal width")
             << many << many.join(',') + ",me," << many + QStringList{"me"};
     }
@@ -231,8 +232,9 @@ private slots:
         }
         f.manager->slot_DeleteConfInfoData(id);
         QStringList left;
-        for (const QStringList &row : f.rows())
+        for (const QStringList &row : f.rows()) {
             left << row.constFirst();
+        }
         QTEST(left, "left");
     }
 };

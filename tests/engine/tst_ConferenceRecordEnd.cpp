@@ -96,12 +96,14 @@ private slots:
 
         for (const End &end : ends()) {
             for (const bool creator : {true, false}) {
-                if (end.side == (creator ? Invited : Creator))
+                if (end.side == (creator ? Invited : Creator)) {
                     continue;
+                }
                 QTest::addRow("%s, %s", end.name, creator ? "creator" : "invited") << creator << false << end.run;
-                if (end.time == AnyTime)
+                if (end.time == AnyTime) {
                     QTest::addRow("%s, connected %s", end.name, creator ? "creator" : "invited")
                         << creator << true << end.run;
+                }
             }
         }
     }
@@ -153,8 +155,9 @@ private slots:
         int prompts = 0;
         f.whileHandled = [&](BaseEvent &event) {
             // Once only: the end within the end takes the prompt away as well.
-            if (event.msgId == MSG_CLOSE_AV_MSGBOX && ++prompts == 1)
+            if (event.msgId == MSG_CLOSE_AV_MSGBOX && ++prompts == 1) {
                 f.manager->callFinished(CallData::FinishHangup);
+            }
         };
         f.notify(7);
         QCOMPARE(prompts, 2);

@@ -22,8 +22,9 @@ QString uid(int iNumber)
 QString update()
 {
     QStringList ids;
-    for (int i = 0; i < kMembers; ++i)
+    for (int i = 0; i < kMembers; ++i) {
         ids << uid(i);
+    }
     return conferenceContent(QStringLiteral(R"("confId":"c1","conventioneer":["%1"])").arg(ids.join("\",\"")));
 }
 

@@ -126,8 +126,9 @@ private slots:
         f.createConference();
         f.whileHandled = [&f](BaseEvent &event) {
             QStringList &members = f.manager->m_callData.memberList;
-            if (event.msgId == MSG_IS_EXIST_FRIEND && !members.contains("dora"))
+            if (event.msgId == MSG_IS_EXIST_FRIEND && !members.contains("dora")) {
                 members.append("dora");
+            }
         };
         f.notify(12, conferenceContent(R"("confId":"c1","conventioneer":["carl","dora"])"));
         QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl", "dora"}));
@@ -138,8 +139,9 @@ private slots:
         EngineFixture f;
         f.createConference();
         f.whileHandled = [&f, bAsked = false](BaseEvent &event) mutable {
-            if (event.msgId != MSG_IS_EXIST_FRIEND || std::exchange(bAsked, true))
+            if (event.msgId != MSG_IS_EXIST_FRIEND || std::exchange(bAsked, true)) {
                 return;
+            }
             // While carl is asked about one goes and one comes: the list is as long as before.
             QStringList &members = f.manager->m_callData.memberList;
             members.removeOne("anna");
@@ -166,8 +168,9 @@ private slots:
         QStringList membersMeanwhile;
         QStringList connectedMeanwhile;
         f.whileHandled = [&](BaseEvent &event) {
-            if (event.msgId != MSG_IS_EXIST_FRIEND)
+            if (event.msgId != MSG_IS_EXIST_FRIEND) {
                 return;
+            }
             membersMeanwhile = f.members();
             connectedMeanwhile = f.manager->m_callData.connectedList;
         };

@@ -14,8 +14,9 @@ private slots:
     {
         QTest::addColumn<quint32>("seed");
 
-        for (quint32 seed = 1; seed <= 2; ++seed)
+        for (quint32 seed = 1; seed <= 2; ++seed) {
             QTest::addRow("seed %u", seed) << seed;
+        }
     }
 
     void whatMustHoldHoldsAfterEachStep()

@@ -28,8 +28,9 @@ public:
         };
         QObject::connect(rows, &QAbstractItemModel::dataChanged, &m_guard,
                          [note](const QModelIndex &index, const QModelIndex &, const QVector<int> &roles) {
-                             if (roles.contains(ROLE_CALL_STATUS))
+                             if (roles.contains(ROLE_CALL_STATUS)) {
                                  note(index, " to ");
+                             }
                          });
         QObject::connect(rows, &QAbstractItemModel::rowsInserted, &m_guard,
                          [note, rows](const QModelIndex &, int first, int) { note(rows->index(first, 0), " new "); });

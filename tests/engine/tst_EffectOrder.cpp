@@ -32,8 +32,9 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::Show)
+        if (event->type() == QEvent::Show) {
             note(QStringLiteral("shown"));
+        }
         return QObject::eventFilter(watched, event);
     }
 
@@ -43,16 +44,18 @@ private:
     void noteEvent(int msgId)
     {
         QString what = QString::number(msgId);
-        if (msgId == MSG_GET_FRIEND_INFO || msgId == MSG_IS_EXIST_FRIEND)
+        if (msgId == MSG_GET_FRIEND_INFO || msgId == MSG_IS_EXIST_FRIEND) {
             what += ' ' + m_f.host.events.constLast().reader().take<QString>().section('@', 0, 0);
+        }
         note(what);
     }
 
     void note(const QString &what)
     {
         const QStringList lines = m_f.takeLines();
-        for (const QString &line : lines)
+        for (const QString &line : lines) {
             m_sent += " > " + line.section(' ', 0, 0);
+        }
         noted += what + ": " + m_f.state() + m_sent;
     }
 
@@ -156,8 +159,9 @@ private slots:
         EngineFixture f;
         bool bCame = false;
         f.whileHandled = [&](BaseEvent &event) {
-            if (event.msgId == MSG_IS_EXIST_FRIEND && !std::exchange(bCame, true))
+            if (event.msgId == MSG_IS_EXIST_FRIEND && !std::exchange(bCame, true)) {
                 f.notify(0, "bert");
+            }
         };
         f.manager->callSingleUser("anna", true);
         QCOMPARE(f.takeJournal(), QStringList({"4639 bert false false", "CallUser \"anna\" true"}));

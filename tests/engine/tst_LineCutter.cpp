@@ -67,11 +67,13 @@ private slots:
         for (int round = 0; round < 30000; ++round) {
             QString read;
             const int length = random.bounded(61);
-            for (int i = 0; i < length; ++i)
+            for (int i = 0; i < length; ++i) {
                 read += alphabet.at(random.bounded(alphabet.size()));
-            if (cutLines(read) != plainRule(read))
+            }
+            if (cutLines(read) != plainRule(read)) {
                 QCOMPARE(shown(read) + " -> " + shown(cutLines(read).join(' ')),
                          shown(read) + " -> " + shown(plainRule(read).join(' ')));
+            }
         }
     }
 
@@ -106,12 +108,14 @@ private slots:
             const int count = random.bounded(12);
             for (int i = 0; i < count; ++i) {
                 read += pieces.at(random.bounded(pieces.size()));
-                if (random.bounded(3) != 0)
+                if (random.bounded(3) != 0) {
                     read += QLatin1Char('\n');
+                }
             }
-            if (cutLines(read) != plainRule(read))
+            if (cutLines(read) != plainRule(read)) {
                 QCOMPARE(shown(read) + " -> " + shown(cutLines(read).join(' ')),
                          shown(read) + " -> " + shown(plainRule(read).join(' ')));
+            }
         }
     }
 
@@ -122,8 +126,9 @@ private slots:
         QTest::addColumn<QString>("last");
 
         QString different;
-        for (int i = 0; i < 80000; ++i)
+        for (int i = 0; i < 80000; ++i) {
             different += QStringLiteral("{\"resultCode\":999,\"content\":\"record %1 of many\"}\n").arg(i, 6);
+        }
         QTest::newRow("4 MB of different lines")
             << different << 80000 << "{\"resultCode\":999,\"content\":\"record  79999 of many\"}\n";
 
@@ -146,13 +151,15 @@ private slots:
         QTest::newRow("empty lines only") << QString(4000000, '\n') << 1 << "\n";
 
         QString growing;
-        for (int i = 1; i <= 2000; ++i)
+        for (int i = 1; i <= 2000; ++i) {
             growing += QString(i, 'a') + "\n";
+        }
         QTest::newRow("each line ends the next one") << growing << 1 << "a\n";
 
         QString shrinking;
-        for (int i = 2000; i > 0; --i)
+        for (int i = 2000; i > 0; --i) {
             shrinking += QString(i, 'a') + "\n";
+        }
         QTest::newRow("each line ends the one before") << shrinking << 2000 << "a\n";
     }
 
@@ -184,8 +191,9 @@ private slots:
             expected.append(QStringLiteral("%1\n").arg(i, 5, 10, QLatin1Char('0')));
             read += expected.constLast();
         }
-        if (!first.isEmpty())
+        if (!first.isEmpty()) {
             expected[1].prepend(QLatin1Char('0'));
+        }
         const ProcessorClock clock;
         const QStringList lines = cutLines(read);
         const double dSeconds = clock.seconds();

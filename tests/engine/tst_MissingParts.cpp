@@ -53,8 +53,9 @@ private slots:
     {
         EngineFixture f;
         f.whileHandled = [&f](BaseEvent &event) {
-            if (event.msgId == MSG_RECEVIE_VOIP_CALL)
+            if (event.msgId == MSG_RECEVIE_VOIP_CALL) {
                 f.manager->exitVoip();
+            }
         };
         f.process.send(FakeCallProcess::line(0, "bert") + FakeCallProcess::line(5, "bert"));
         QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_pVoipSocket == nullptr, kPatienceMs);

@@ -44,14 +44,16 @@ private slots:
         QFETCH(bool, call);
         EngineFixture f(channel ? EngineFixture::WithCallProcess : EngineFixture::NoCallProcess);
         QVERIFY(!f.manager->getIsHasAudioInputDevice());
-        if (call)
+        if (call) {
             f.notify(0, "bert");
+        }
         f.takeJournal();
         const QString before = f.state();
-        if (conference)
+        if (conference) {
             f.manager->callConference({"anna"}, false, "");
-        else
+        } else {
             f.manager->callSingleUser("anna", true);
+        }
         QCOMPARE(f.boxes.texts, QStringList{kCannotCall});
         QCOMPARE(f.state(), before);
         QCOMPARE(f.takeJournal(), QStringList());

@@ -16,8 +16,9 @@ private slots:
     {
         QTest::addColumn<int>("code");
 
-        for (const int code : {6, 11, 14, 15, 16, 26, 27, 100, 998, 1000, -1, 2147483647})
+        for (const int code : {6, 11, 14, 15, 16, 26, 27, 100, 998, 1000, -1, 2147483647}) {
             QTest::addRow("code %d", code) << code;
+        }
     }
 
     void codeWithoutAnActionChangesNothing()

@@ -56,10 +56,11 @@ private slots:
         EngineFixture f;
         QList<int> intervals;
         for (int loss = 0; loss < 24; ++loss) {
-            if (bySlot)
+            if (bySlot) {
                 f.manager->slot_VoipSDKDisConnected();
-            else
+            } else {
                 f.manager->reconnectVoipSDK();
+            }
             QVERIFY(f.manager->m_reconnectTimer.isActive());
             intervals.append(f.manager->m_reconnectTimer.interval());
             f.manager->m_reconnectTimer.stop();

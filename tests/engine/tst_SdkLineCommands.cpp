@@ -21,8 +21,9 @@ private slots:
                                 "SetMicEnable",    "SetSpeakerEnble", "SetCamreraEnable", "SetMicVolume",
                                 "SetSpeakerVolume"};
         QStringList written;
-        for (const Wire::CommandRow &row : Wire::kCommands)
+        for (const Wire::CommandRow &row : Wire::kCommands) {
             written.append(row.name);
+        }
         QCOMPARE(written, names);
     }
 

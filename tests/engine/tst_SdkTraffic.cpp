@@ -194,12 +194,14 @@ private slots:
     {
         EngineFixture f;
         f.whileHandled = [&f](BaseEvent &event) {
-            if (event.msgId != MSG_RECEVIE_VOIP_CALL)
+            if (event.msgId != MSG_RECEVIE_VOIP_CALL) {
                 return;
+            }
             f.process.send(line(18));
             QEventLoop loop;
-            while (f.manager->m_pVoipSocket->bytesAvailable() == 0)
+            while (f.manager->m_pVoipSocket->bytesAvailable() == 0) {
                 loop.processEvents(QEventLoop::WaitForMoreEvents);
+            }
         };
         f.process.send(line(0, "bert"));
         QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_callData.peerId.isEmpty(), kPatienceMs);

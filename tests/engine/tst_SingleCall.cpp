@@ -190,8 +190,9 @@ private slots:
         EngineFixture f;
         QString stateMeanwhile;
         f.whileHandled = [&](BaseEvent &event) {
-            if (event.msgId != MSG_RECEVIE_VOIP_CALL)
+            if (event.msgId != MSG_RECEVIE_VOIP_CALL) {
                 return;
+            }
             stateMeanwhile = f.state();
         };
         f.notify(0, "bert");

@@ -82,8 +82,9 @@ private slots:
         QVERIFY(AudioInputs::exist());
         // Made only now, from what the server says.
         QStringList names;
-        for (const QAudioDeviceInfo &input : QAudioDeviceInfo::availableDevices(QAudio::AudioInput))
+        for (const QAudioDeviceInfo &input : QAudioDeviceInfo::availableDevices(QAudio::AudioInput)) {
             names += input.deviceName();
+        }
         QVERIFY2(names.contains(QStringLiteral("the_microphone")), qPrintable(names.join(' ')));
         QCOMPARE(messages.warnings.filter(QStringLiteral("PulseAudioService")), QStringList());
         // The engine's list outlives the server, and ends with it: this process has no other.

@@ -46,10 +46,11 @@ private slots:
         f.manager.reset();
         QVERIFY(!VoipManageProbe::exists());
         const QtMessages messages;
-        if (log)
+        if (log) {
             voipLogCallback("u", "v");
-        else
+        } else {
             voipCallback(17, "true");
+        }
         QVERIFY(VoipManageProbe::exists());
         delete CVoipManage::instance();
         VoipManageProbe::forget();

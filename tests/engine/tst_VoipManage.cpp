@@ -88,8 +88,9 @@ private slots:
             QCOMPARE(method.methodType(), QMetaMethod::Slot);
             QCOMPARE(method.access(), QMetaMethod::Public);
             QStringList parameters;
-            for (int p = 0; p < method.parameterCount(); ++p)
+            for (int p = 0; p < method.parameterCount(); ++p) {
                 parameters << method.parameterTypes().at(p) + ' ' + method.parameterNames().at(p);
+            }
             found << method.name() + '(' + parameters.join(", ") + ')';
         }
         QCOMPARE(found, expected);

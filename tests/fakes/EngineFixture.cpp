@@ -18,10 +18,12 @@ namespace {
 void provideRing()
 {
     const QString ring = QStringLiteral("Resources/Audio/ring.wav");
-    if (QFile::exists(ring))
+    if (QFile::exists(ring)) {
         return;
-    if (!QDir().mkpath(QStringLiteral("Resources/Audio")) || !QFile::copy(QStringLiteral(VOIP_RING_FILE), ring))
+    }
+    if (!QDir().mkpath(QStringLiteral("Resources/Audio")) || !QFile::copy(QStringLiteral(VOIP_RING_FILE), ring)) {
         qFatal("the ring could not be provided");
+    }
 }
 
 QString word(bool value)
@@ -43,13 +45,15 @@ EngineFixture::EngineFixture(Start start) : m_start(start)
 
     host.whileHandled = [this](BaseEvent &event) {
         noteEvent(event);
-        if (whileHandled)
+        if (whileHandled) {
             whileHandled(event);
+        }
     };
     VoipManageMessageProcess::instance()->setSendEvent(&host);
 
-    if (start != WithCallProcess)
+    if (start != WithCallProcess) {
         process.close();
+    }
     const QtMessages messages;
     manager = std::make_unique<VoipManageProbe>();
     manager->use();
@@ -114,8 +118,9 @@ void EngineFixture::noteEvent(const BaseEvent &event)
     default:
         return;
     }
-    if (manager)
+    if (manager) {
         m_journal += takeLines();
+    }
     m_journal += words.join(' ');
 }
 
@@ -135,18 +140,22 @@ QString EngineFixture::state() const
     const CallData &call = manager->m_callData;
     const QStringList others = call.peerId.isEmpty() ? call.memberList : QStringList(call.peerId);
     QStringList parts;
-    if (others.isEmpty())
+    if (others.isEmpty()) {
         parts << QStringLiteral("idle");
-    else if (call.bIsConnected)
+    } else if (call.bIsConnected) {
         parts << "connected " + others.join('+');
-    else
+    } else {
         parts << (call.bIsCaller ? "outgoing " : "incoming ") + others.join('+');
-    if (manager->m_inviteTimer.isActive())
+    }
+    if (manager->m_inviteTimer.isActive()) {
         parts << QStringLiteral("invite");
-    if (manager->m_recevieTimer.isActive())
+    }
+    if (manager->m_recevieTimer.isActive()) {
         parts << QStringLiteral("receive");
-    if (!manager->m_pRingSound->isFinished())
+    }
+    if (!manager->m_pRingSound->isFinished()) {
         parts << QStringLiteral("ring");
+    }
     return parts.join(QStringLiteral(", "));
 }
 
@@ -165,8 +174,9 @@ QStringList EngineFixture::members() const
 qint64 EngineFixture::lastSeconds() const
 {
     const QList<ReceivedEvent> ends = host.received(MSG_CALL_FINISHED);
-    if (ends.isEmpty())
+    if (ends.isEmpty()) {
         return -1;
+    }
     PayloadReader reader = ends.constLast().reader();
     reader.take<bool>();
     reader.take<QString>();

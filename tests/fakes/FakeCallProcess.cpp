@@ -31,8 +31,9 @@ FakeCallProcess::~FakeCallProcess()
 
 void FakeCallProcess::open()
 {
-    if (!m_server.listen(QStringLiteral("VoipSDK")))
+    if (!m_server.listen(QStringLiteral("VoipSDK"))) {
         qFatal("the local server could not be opened");
+    }
 }
 
 void FakeCallProcess::close()
@@ -61,8 +62,9 @@ void FakeCallProcess::acceptClient()
 void FakeCallProcess::send(const QByteArray &bytes)
 {
     acceptClient();
-    if (!m_pClient)
+    if (!m_pClient) {
         qFatal("nobody is connected");
+    }
     m_pClient->write(bytes);
     m_pClient->flush();
 }
@@ -77,11 +79,13 @@ void FakeCallProcess::readUntil(const QByteArray &end)
 {
     acceptClient();
     QLocalSocket *client = m_pClient;
-    if (!client)
+    if (!client) {
         return;
+    }
     m_buffer += client->readAll();
-    while ((end.isEmpty() || !m_buffer.endsWith(end)) && client->waitForReadyRead(kPatienceMs))
+    while ((end.isEmpty() || !m_buffer.endsWith(end)) && client->waitForReadyRead(kPatienceMs)) {
         m_buffer += client->readAll();
+    }
     m_buffer += client->readAll();
 }
 
@@ -107,8 +111,9 @@ QStringList FakeCallProcess::takeLines(QLocalSocket *client)
 {
     QStringList lines;
     const QList<QByteArray> rawLines = takeRawLines(client);
-    for (const QByteArray &rawLine : rawLines)
+    for (const QByteArray &rawLine : rawLines) {
         lines.append(shown(rawLine));
+    }
     return lines;
 }
 
@@ -121,11 +126,13 @@ QStringList FakeCallProcess::takeLastLines()
 QString FakeCallProcess::shown(const QByteArray &line)
 {
     const QJsonDocument document = QJsonDocument::fromJson(line);
-    if (!document.isObject())
+    if (!document.isObject()) {
         return QString::fromUtf8(line).chopped(1);
+    }
     const QJsonObject object = document.object();
     QStringList words{object.value("messagetype").toString()};
-    for (int number = 1; object.contains("param" + QString::number(number)); ++number)
+    for (int number = 1; object.contains("param" + QString::number(number)); ++number) {
         words.append(compact(object.value("param" + QString::number(number))));
+    }
     return words.join(' ');
 }

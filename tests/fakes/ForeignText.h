@@ -39,24 +39,29 @@ inline QStringList faults(const QWidget *root, const QString &name)
     QStringList found;
     QList<const QWidget *> parts{root};
     const QList<QWidget *> below = root->findChildren<QWidget *>();
-    for (const QWidget *part : below)
+    for (const QWidget *part : below) {
         parts.append(part);
+    }
     const auto runs = [&](const QString &text) { return text.contains(name.left(20)) && Qt::mightBeRichText(text); };
     for (const QWidget *part : qAsConst(parts)) {
-        if (runs(part->toolTip()) || runs(part->whatsThis()))
+        if (runs(part->toolTip()) || runs(part->whatsThis())) {
             found += described(part, "tip");
-        if (part->styleSheet().contains(name.left(20)))
+        }
+        if (part->styleSheet().contains(name.left(20))) {
             found += described(part, "style sheet");
+        }
         const auto *label = qobject_cast<const QLabel *>(part);
-        if (label && label->textFormat() != Qt::PlainText && runs(label->text()))
+        if (label && label->textFormat() != Qt::PlainText && runs(label->text())) {
             found += described(part, "label");
+        }
         const auto *view = qobject_cast<const QAbstractItemView *>(part);
         const int rows = view && view->model() ? view->model()->rowCount() : 0;
         for (int cell = 0; cell < rows * (rows > 0 ? view->model()->columnCount() : 0); ++cell) {
             const QModelIndex index = view->model()->index(cell % rows, cell / rows);
             for (const int role : {Qt::ToolTipRole, Qt::WhatsThisRole}) {
-                if (runs(index.data(role).toString()))
+                if (runs(index.data(role).toString())) {
                     found += described(part, "tip of a row");
+                }
             }
         }
     }

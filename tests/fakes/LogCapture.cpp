@@ -68,7 +68,8 @@ QStringList LogCapture::takeTexts()
 {
     static const QRegularExpression prefix(QStringLiteral("^\\[(\\w+)\\]\\[[^\\]]*\\]: "));
     QStringList texts = take();
-    for (QString &text : texts)
+    for (QString &text : texts) {
         text.replace(prefix, QStringLiteral("\\1 "));
+    }
     return texts;
 }

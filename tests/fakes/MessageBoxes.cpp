@@ -13,13 +13,15 @@ MessageBoxes::MessageBoxes()
 void MessageBoxes::closeOpenBox()
 {
     QWidget *box = QApplication::activeModalWidget();
-    if (!box)
+    if (!box) {
         return;
+    }
     const auto *text = box->findChild<QLabel *>(QStringLiteral("msgLabel"));
     const auto *title = box->findChild<QLabel *>(QStringLiteral("titlelabel"));
     texts.append(text ? text->text() : QString());
     titles.append(title ? title->text() : QString());
-    if (whileOpen)
+    if (whileOpen) {
         whileOpen();
+    }
     box->close();
 }

@@ -34,16 +34,19 @@ QtMessages::~QtMessages()
 
 void QtMessages::take(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    if (type == QtWarningMsg && isKnown(text))
+    if (type == QtWarningMsg && isKnown(text)) {
         return;
-    if (!s_innermost)
+    }
+    if (!s_innermost) {
         std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+    }
     for (QtMessages *messages = s_innermost; messages; messages = messages->m_pOuter) {
-        if (type == QtDebugMsg)
+        if (type == QtDebugMsg) {
             messages->debugLines.append(text);
-        else if (type == QtFatalMsg && !messages->m_pOuter)
+        } else if (type == QtFatalMsg && !messages->m_pOuter) {
             messages->m_previous(type, context, text);
-        else if (type != QtInfoMsg)
+        } else if (type != QtInfoMsg) {
             messages->warnings.append(text);
+        }
     }
 }

@@ -41,12 +41,14 @@ int readShifted(clockid_t clock, timespec *time)
 {
     const int result = readClock(clock, time);
     if (isTimerClock(clock)) {
-        if (const int64_t held = heldNanoseconds; held != 0)
+        if (const int64_t held = heldNanoseconds; held != 0) {
             *time = {held / kNanosecondsOfSecond, held % kNanosecondsOfSecond};
+        }
         time->tv_sec += timerShift;
     } else if (isTimeOfDay(clock)) {
-        if (heldSecond != 0)
+        if (heldSecond != 0) {
             *time = {heldSecond, 0};
+        }
         time->tv_sec += timeOfDayShift;
     }
     return result;

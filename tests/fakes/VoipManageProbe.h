@@ -9,8 +9,9 @@ class VoipManageProbe : public CVoipManage
 public:
     ~VoipManageProbe() override
     {
-        if (CVoipManage::m_pInstance == this)
+        if (CVoipManage::m_pInstance == this) {
             CVoipManage::m_pInstance = nullptr;
+        }
     }
 
     /// Makes this the process's manager until it is destroyed.

@@ -47,8 +47,9 @@ private slots:
         const QtMessages outer;
         std::atomic<int> talking{2};
         const auto talk = [&talking] {
-            for (int line = 0; line < 300; ++line)
+            for (int line = 0; line < 300; ++line) {
                 qWarning("line %d of another thread", line);
+            }
             --talking;
         };
         std::array<std::thread, 2> threads{std::thread(talk), std::thread(talk)};
@@ -57,11 +58,13 @@ private slots:
             const QtMessages inner;
             qWarning("own");
             ++own;
-            if (inner.warnings != QStringList{"own"})
+            if (inner.warnings != QStringList{"own"}) {
                 break;
+            }
         }
-        for (std::thread &thread : threads)
+        for (std::thread &thread : threads) {
             thread.join();
+        }
         QCOMPARE(outer.warnings.size(), own);
         QCOMPARE(outer.warnings.count("own"), own);
     }

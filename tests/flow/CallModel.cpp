@@ -24,8 +24,9 @@ QString shownJson(const QString &text)
 
 QString shownJson(const QStringList &texts)
 {
-    if (texts.isEmpty())
+    if (texts.isEmpty()) {
         return QStringLiteral("null");
+    }
     return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact));
 }
 
@@ -46,23 +47,26 @@ QString shownCall(const CallData &call)
 
 void CallModel::send(const QString &command)
 {
-    if (channelUp)
+    if (channelUp) {
         journal += command;
+    }
 }
 
 bool CallModel::mayCall()
 {
-    if (exists())
+    if (exists()) {
         boxes += QStringLiteral("soundfailedinsound");
-    else if (!channelUp)
+    } else if (!channelUp) {
         boxes += QStringLiteral("音频通话初始化失败，请尝试重启客户端解决");
+    }
     return !exists() && channelUp;
 }
 
 void CallModel::callSingleUser(const QString &uid, bool video)
 {
-    if (!mayCall())
+    if (!mayCall()) {
         return;
+    }
     call.bIsCaller = true;
     call.peerId = uid;
     call.bIsVideo = video;
@@ -73,13 +77,15 @@ void CallModel::callSingleUser(const QString &uid, bool video)
 
 void CallModel::callConference(const QStringList &uids, bool flag, const QString &text)
 {
-    if (!mayCall())
+    if (!mayCall()) {
         return;
+    }
     call.bIsCaller = true;
     call.bIsConf = true;
     call.memberList = uids;
-    if (!uids.contains(m_strOwnId))
+    if (!uids.contains(m_strOwnId)) {
         call.memberList.append(m_strOwnId);
+    }
     QStringList called = uids;
     called.removeAll(m_strOwnId);
     send("RequestConference " + shownJson(m_strOwnId) + ' ' + shownJson(called) + ' ' + word(flag) + ' ' +
@@ -120,8 +126,9 @@ void CallModel::exit()
 
 void CallModel::hangUp()
 {
-    if (!exists())
+    if (!exists()) {
         return;
+    }
     if (!call.bIsConnected && !call.bIsCaller) {
         reject();
         return;
@@ -134,11 +141,12 @@ void CallModel::finish(int result)
 {
     inviteRuns = false;
     recevieRuns = false;
-    if (!exists())
+    if (!exists()) {
         return;
+    }
     if (!call.peerId.isEmpty()) {
         journal += "4345 " + UserIds::getJidByUid(call.peerId);
-        if (!call.bIsConf)
+        if (!call.bIsConf) {
             journal += QStringList{"4478",
                                    word(call.bIsVideo),
                                    call.peerId,
@@ -146,10 +154,12 @@ void CallModel::finish(int result)
                                    word(call.bIsCaller),
                                    word(call.bIsConnected)}
                            .join(' ');
+        }
     }
     call = CallData();
-    if (!m_bClosing)
+    if (!m_bClosing) {
         closeShownWindow();
+    }
 }
 
 void CallModel::closeShownWindow()
@@ -176,8 +186,9 @@ void CallModel::cancel()
 void CallModel::addMembers(const QStringList &uids)
 {
     for (const QString &uid : uids) {
-        if (!call.memberList.contains(uid))
+        if (!call.memberList.contains(uid)) {
             call.memberList.append(uid);
+        }
     }
     if (call.bIsConf) {
         const QString own = shownJson(m_strOwnId);
@@ -189,54 +200,62 @@ void CallModel::addMembers(const QStringList &uids)
 
 void CallModel::addChosenMembers(const QStringList &chosen)
 {
-    if (chosen.isEmpty())
+    if (chosen.isEmpty()) {
         return;
+    }
     QStringList rest;
     for (const QString &uid : chosen) {
-        if (!call.memberList.contains(uid))
+        if (!call.memberList.contains(uid)) {
             rest.append(uid);
+        }
     }
     addMembers(rest);
 }
 
 void CallModel::inviteAgain(const QString &uid)
 {
-    if (call.bIsConf && call.bIsCaller)
+    if (call.bIsConf && call.bIsCaller) {
         addMembers({uid});
+    }
 }
 
 void CallModel::removeMember(const QString &uid)
 {
-    if (call.memberList.removeOne(uid) && call.connectedList.contains(uid))
+    if (call.memberList.removeOne(uid) && call.connectedList.contains(uid)) {
         control(QStringLiteral("kick"), uid);
+    }
 }
 
 void CallModel::control(const QString &operation, const QString &uid)
 {
-    if (call.bIsConf && !uid.isEmpty())
+    if (call.bIsConf && !uid.isEmpty()) {
         send("ControlConf " + shownJson(operation) + ' ' + shownJson(uid));
+    }
 }
 
 void CallModel::inviteTimeout()
 {
     inviteRuns = false;
-    if (call.bIsCaller)
+    if (call.bIsCaller) {
         hangUp();
+    }
 }
 
 void CallModel::recevieTimeout()
 {
     recevieRuns = false;
-    if (!call.bIsCaller)
+    if (!call.bIsCaller) {
         hangUp();
+    }
 }
 
 void CallModel::receiveLine(const QString &line)
 {
     // What of a line counts is held by the reader's own test.
     const SdkLine::Notification read = SdkLine::read(line);
-    if (read.code >= 0)
+    if (read.code >= 0) {
         notify(read.code, read.content);
+    }
 }
 
 void CallModel::ring(const QString &uid)
@@ -260,8 +279,9 @@ void CallModel::notify(int code, const QString &content)
     case 4:
         return finish(21);
     case 5:
-        if (content == m_strOwnId || !call.bIsConf)
+        if (content == m_strOwnId || !call.bIsConf) {
             finish(content == m_strOwnId ? 21 : 26);
+        }
         return;
     case 7:
         return finish(call.bIsConnected ? 24 : 21);
@@ -280,8 +300,9 @@ void CallModel::notify(int code, const QString &content)
         inviteRuns = recevieRuns = false;
         return;
     case 20:
-        if (content.isEmpty())
+        if (content.isEmpty()) {
             return finish(22);
+        }
         call.confId = createdConferenceId(content);
         return;
     case 22:
@@ -300,25 +321,29 @@ void CallModel::invitation(const QString &content)
     call.bIsConf = true;
     call.bIsVideo = call.bIsCaller = false;
     const ConferenceDocument document = ConferenceDocument::read(content);
-    if (!isOurs(document.confId))
+    if (!isOurs(document.confId)) {
         return;
+    }
     call.confId = document.confId;
     takeCreateTime(document.createTime);
-    if (!document.from.isEmpty())
+    if (!document.from.isEmpty()) {
         call.peerId = document.from;
+    }
     ring(document.from);
 }
 
 void CallModel::update(const QString &content)
 {
     const ConferenceDocument document = ConferenceDocument::read(content);
-    if (!isOurs(document.confId))
+    if (!isOurs(document.confId)) {
         return;
+    }
     call.confId = document.confId;
     takeCreateTime(document.createTime);
     for (const QString &uid : document.conventioneer) {
-        if (!call.memberList.contains(uid))
+        if (!call.memberList.contains(uid)) {
             call.memberList.append(uid);
+        }
     }
     call.connectedList = document.conventioneer;
 }
@@ -326,8 +351,9 @@ void CallModel::update(const QString &content)
 void CallModel::memberLeft(const QString &content)
 {
     const ConferenceDocument document = ConferenceDocument::read(content);
-    if (!isOurs(document.confId))
+    if (!isOurs(document.confId)) {
         return;
+    }
     call.confId = document.confId;
     call.connectedList = document.conventioneer;
 }
@@ -339,6 +365,7 @@ bool CallModel::isOurs(const QString &confId) const
 
 void CallModel::takeCreateTime(qint64 msecs)
 {
-    if (msecs > 0)
+    if (msecs > 0) {
         call.createTime = QDateTime::fromMSecsSinceEpoch(msecs);
+    }
 }

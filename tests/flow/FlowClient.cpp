@@ -87,8 +87,9 @@ qint64 FlowClient::callProcessId() const
 bool FlowClient::callProcessLives() const
 {
     const qint64 id = callProcessId();
-    if (id == 0)
+    if (id == 0) {
         return false;
+    }
     // One that was killed may stand in the table until its parent, or init, has looked after it.
     QFile status(QStringLiteral("/proc/%1/stat").arg(id));
     return status.open(QIODevice::ReadOnly) && !status.readAll().contains(") Z ");
@@ -112,8 +113,9 @@ QWidget *FlowClient::callWindow() const
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
-        if (window->inherits("CVoipWidget"))
+        if (window->inherits("CVoipWidget")) {
             return window;
+        }
     }
     return nullptr;
 }
@@ -135,8 +137,9 @@ void FlowClient::expectMessage()
     auto *timer = new QTimer(QCoreApplication::instance());
     QObject::connect(timer, &QTimer::timeout, timer, [this, timer] {
         QWidget *box = QApplication::activeModalWidget();
-        if (!box)
+        if (!box) {
             return;
+        }
         timer->deleteLater();
         messageText = box->findChild<QLabel *>(QStringLiteral("msgLabel"))->text();
         QTest::mouseClick(clickTarget(box->findChild<QWidget *>(QStringLiteral("closeBtn"))), Qt::LeftButton);

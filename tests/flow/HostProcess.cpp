@@ -43,8 +43,9 @@ HostWorld::HostWorld()
     qputenv("TMPDIR", QFile::encodeName(m_folder.path()));
     m_callProcess.start(program(QStringLiteral("VoipSDK/Contents/MacOS/VoipSDK")),
                         {"--speed", "1000", "--trace", filePath("trace")});
-    if (!QTest::qWaitFor([this] { return trace().contains("listening at"); }, kPatienceMs))
+    if (!QTest::qWaitFor([this] { return trace().contains("listening at"); }, kPatienceMs)) {
         qFatal("the call process does not listen");
+    }
 }
 
 HostWorld::~HostWorld()
@@ -79,8 +80,9 @@ QList<QStringList> HostWorld::ask(const QString &strStatement) const
         query.exec(strStatement);
         while (query.next()) {
             QStringList row;
-            for (int column = 0; column < query.record().count() && !query.value(column).isNull(); ++column)
+            for (int column = 0; column < query.record().count() && !query.value(column).isNull(); ++column) {
                 row.append(query.value(column).toString());
+            }
             rows.append(row);
         }
     }
@@ -92,8 +94,9 @@ QStringList HostWorld::records() const
 {
     QStringList ids;
     const QList<QStringList> rows = ask(QStringLiteral("SELECT ConfID FROM voipConferenceInfo"));
-    for (const QStringList &row : rows)
+    for (const QStringList &row : rows) {
         ids.append(row.value(0));
+    }
     return ids;
 }
 
@@ -102,27 +105,32 @@ QStringList HostWorld::created() const
     static const QRegularExpression s_created(QStringLiteral("> .*confId\\D+(\\d{13}).*\"resultCode\":20"));
     QStringList ids;
     auto match = s_created.globalMatch(QString::fromUtf8(trace()));
-    while (match.hasNext())
+    while (match.hasNext()) {
         ids.append(match.next().captured(1));
+    }
     return ids;
 }
 
 QString HostWorld::fault(bool bMayLackCall) const
 {
     const QList<QStringList> verdict = ask(QStringLiteral("PRAGMA integrity_check"));
-    if (verdict != QList<QStringList>{{QStringLiteral("ok")}})
+    if (verdict != QList<QStringList>{{QStringLiteral("ok")}}) {
         return QStringLiteral("integrity check: ") + verdict.value(0).value(0);
+    }
     const QList<QStringList> rows = ask(QStringLiteral(
         "SELECT ConfID,CreatUserID,CreatTime,CallTime,MemberList,IsConnect FROM voipConferenceInfo ORDER BY ConfID"));
     QStringList ids;
     for (const QStringList &row : rows) {
-        if (row.size() != 6)
+        if (row.size() != 6) {
             return QStringLiteral("a column without a value: ") + row.join('|');
+        }
         QString strFault = faultOf(row, bMayLackCall);
-        if (!strFault.isEmpty())
+        if (!strFault.isEmpty()) {
             return strFault;
-        if (!row.at(0).isEmpty() && ids.contains(row.at(0)))
+        }
+        if (!row.at(0).isEmpty() && ids.contains(row.at(0))) {
             return QStringLiteral("twice: ") + row.at(0);
+        }
         ids.append(row.at(0));
     }
     return {};
@@ -141,6 +149,7 @@ bool readLines(QProcess &host, const QByteArray &word, int iLines, QList<QByteAr
 
 void readRest(QProcess &host, QList<QByteArray> *pSaid)
 {
-    while (host.canReadLine())
+    while (host.canReadLine()) {
         pSaid->append(host.readLine().trimmed());
+    }
 }

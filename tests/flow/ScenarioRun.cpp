@@ -65,8 +65,9 @@ bool isPlayable(const QByteArray &line)
 QByteArray beginning(const QString &strName, int iStatements, int *pCount = nullptr)
 {
     QFile file(scenarioFile(strName));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         qFatal("no scenario %s", qPrintable(strName));
+    }
     QByteArray text;
     int count = 0;
     int depth = 0;
@@ -75,13 +76,16 @@ QByteArray beginning(const QString &strName, int iStatements, int *pCount = null
         const QByteArray words = line.trimmed();
         const bool inBlock = depth > 0;
         depth += words.endsWith('{') ? 1 : words == "}" ? -1 : 0;
-        if (!inBlock && isPlayable(words))
+        if (!inBlock && isPlayable(words)) {
             ++count;
-        if (count <= iStatements && words != "die")
+        }
+        if (count <= iStatements && words != "die") {
             text += line;
+        }
     }
-    if (pCount)
+    if (pCount) {
         *pCount = count;
+    }
     return text;
 }
 
@@ -90,8 +94,9 @@ QString cutScenario(const QString &strName, int iStatements, const QTemporaryDir
     QString path = folder.filePath(QStringLiteral("scenario"));
     QFile file(path);
     const QByteArray text = beginning(strName, iStatements);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
         qFatal("no place for a scenario");
+    }
     return path;
 }
 
@@ -105,15 +110,17 @@ ScenarioRun::ScenarioRun(const QString &strName, int iStatements)
       engine(EngineFixture::RealCallProcess)
 {
     engine.whileHandled = [this](BaseEvent &event) {
-        if (event.msgId == MSG_CLOSE_AV_MSGBOX)
+        if (event.msgId == MSG_CLOSE_AV_MSGBOX) {
             membersAtEnd = engine.members();
+        }
     };
 }
 
 ScenarioRun::~ScenarioRun()
 {
-    if (trace.processId() == 0 || reap())
+    if (trace.processId() == 0 || reap()) {
         return;
+    }
     ::kill(static_cast<pid_t>(trace.processId()), SIGKILL);
     patiently([this] { return reap(); });
 }
@@ -126,8 +133,9 @@ QString ScenarioRun::folder()
 QStringList ScenarioRun::names()
 {
     QStringList names = QDir(folder()).entryList({QStringLiteral("*.scn")}, QDir::Files, QDir::Name);
-    for (QString &name : names)
+    for (QString &name : names) {
         name.chop(4);
+    }
     // Without the ending they stand in another order.
     names.sort();
     return names;
@@ -155,8 +163,9 @@ bool ScenarioRun::waitFor(const std::function<bool()> &condition) const
 bool ScenarioRun::connectChannel()
 {
     return patiently([this] {
-        if (!engine.manager->m_bSocketConnected)
+        if (!engine.manager->m_bSocketConnected) {
             engine.manager->slot_ReConnectVoipSDK();
+        }
         return engine.manager->m_bSocketConnected;
     });
 }
@@ -173,8 +182,9 @@ bool ScenarioRun::hasReadAll() const
 bool ScenarioRun::killCallProcess()
 {
     const auto id = static_cast<pid_t>(trace.processId());
-    if (id == 0 || !patiently([this] { return hasReadAll(); }) || ::kill(id, SIGKILL) != 0)
+    if (id == 0 || !patiently([this] { return hasReadAll(); }) || ::kill(id, SIGKILL) != 0) {
         return false;
+    }
     return patiently([this] { return reap() && !engine.manager->m_bSocketConnected; });
 }
 
@@ -193,8 +203,9 @@ bool ScenarioRun::startAnother(const QString &strName)
 bool ScenarioRun::press(const char *button)
 {
     auto *found = engine.manager->m_pVoipWidget->findChild<QWidget *>(QLatin1String(button));
-    if (!found || !found->isVisible())
+    if (!found || !found->isVisible()) {
         return false;
+    }
     QTest::mouseClick(clickTarget(found), Qt::LeftButton);
     return true;
 }
@@ -211,8 +222,9 @@ bool ScenarioRun::clickMember(const QString &strUid, int rectRole)
     // The rectangles are those of the latest painting.
     rows->grab();
     const QRect place = memberIndex(strUid).data(rectRole).toRect();
-    if (place.isNull())
+    if (place.isNull()) {
         return false;
+    }
     QTest::mouseClick(rows, Qt::LeftButton, Qt::NoModifier, place.center());
     return true;
 }
@@ -221,8 +233,9 @@ bool ScenarioRun::doubleClickMember(const QString &strUid)
 {
     const auto *list = engine.manager->m_pVoipWidget->findChild<CConferenceListView *>();
     const QModelIndex index = memberIndex(strUid);
-    if (!index.isValid())
+    if (!index.isValid()) {
         return false;
+    }
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, list->visualRect(index).center());
     return true;
 }
@@ -235,8 +248,9 @@ bool ScenarioRun::isOver() const
 
 int ScenarioRun::finish()
 {
-    if (!patiently([this] { return isOver(); }))
+    if (!patiently([this] { return isOver(); })) {
         return -1;
+    }
     command(MSG_EXIT_VOIP);
     patiently([this] { return reap(); });
     return m_iExitCode;

@@ -31,8 +31,9 @@ QString shown(bool value)
 template <class Value>
 QString difference(const char *what, const Value &engineHas, const Value &modelHas)
 {
-    if (engineHas == modelHas)
+    if (engineHas == modelHas) {
         return {};
+    }
     return QStringLiteral("%1: %2 instead of %3\n").arg(QLatin1String(what), shown(engineHas), shown(modelHas));
 }
 
@@ -76,8 +77,9 @@ void Walk::step()
     int pick = noise.below(s_total);
     for (const Action &action : actions()) {
         pick -= action.weight;
-        if (pick < 0)
+        if (pick < 0) {
             return (this->*action.act)();
+        }
     }
 }
 
@@ -91,8 +93,9 @@ void Walk::takeLine()
 
 void Walk::callSingleUser()
 {
-    if (boxIsOpen)
+    if (boxIsOpen) {
         return;
+    }
     const QString uid = noise.uid();
     const bool video = noise.chance(2);
     last = "call " + uid;
@@ -102,8 +105,9 @@ void Walk::callSingleUser()
 
 void Walk::callConference()
 {
-    if (boxIsOpen)
+    if (boxIsOpen) {
         return;
+    }
     const QStringList uids = noise.uids();
     const bool flag = noise.chance(2);
     last = "conference " + uids.join('+');
@@ -115,10 +119,11 @@ void Walk::answer()
 {
     const bool accept = !noise.chance(3);
     last = accept ? "accept" : "reject";
-    if (accept)
+    if (accept) {
         model.accept();
-    else
+    } else {
         model.reject();
+    }
     command(MSG_RESPONSE_VOIP_REQUEST, accept);
 }
 
@@ -126,10 +131,11 @@ void Walk::setOnline()
 {
     const bool online = noise.chance(2);
     last = online ? "online" : "offline";
-    if (online)
+    if (online) {
         model.online(QString(), "ticket");
-    else
+    } else {
         model.offline();
+    }
     command(MSG_CLIENT_CONNECT_STATUS, online);
 }
 
@@ -159,8 +165,9 @@ void Walk::exit()
     const bool wasUp = model.channelUp;
     model.exit();
     command(MSG_EXIT_VOIP);
-    if (wasUp)
+    if (wasUp) {
         holdReconnection();
+    }
 }
 
 void Walk::hangUp()
@@ -172,8 +179,9 @@ void Walk::hangUp()
 
 void Walk::closeWindow()
 {
-    if (!manager().m_pVoipWidget->isVisible())
+    if (!manager().m_pVoipWidget->isVisible()) {
         return;
+    }
     const bool cancel = noise.chance(2);
     last = cancel ? "cancel" : "close the window";
     if (cancel) {
@@ -266,16 +274,18 @@ void Walk::loseOrFindChannel()
 /// then on it is the walk that reconnects.
 void Walk::holdReconnection()
 {
-    if (!manager().m_reconnectTimer.isActive())
+    if (!manager().m_reconnectTimer.isActive()) {
         last += ", and the back-off does not run";
+    }
     manager().m_reconnectTimer.stop();
 }
 
 QString Walk::fault()
 {
     QStringList journal = engine.takeJournal();
-    if (!manager().m_pVoipSocket)
+    if (!manager().m_pVoipSocket) {
         journal += engine.process.takeLastLines();
+    }
     QString fault;
     fault += difference("call", shownCall(manager().m_callData), shownCall(model.call));
     fault += difference("a call exists", manager().isExistCall(), model.exists());
@@ -286,12 +296,15 @@ QString Walk::fault()
     fault += difference("reconnect timer", manager().m_reconnectTimer.isActive(), false);
     fault += difference("said", journal, std::exchange(model.journal, {}));
     fault += difference("boxes", std::exchange(engine.boxes.texts, {}), std::exchange(model.boxes, {}));
-    if (last == "query")
+    if (last == "query") {
         fault += difference("answered", m_answer == packPayload(model.exists(), false), true);
-    if (journal.filter(QRegularExpression("^4478 ")).size() > 1)
+    }
+    if (journal.filter(QRegularExpression("^4478 ")).size() > 1) {
         fault += "more than one record\n";
-    if (last.endsWith("does not run"))
+    }
+    if (last.endsWith("does not run")) {
         fault += last;
+    }
     engine.host.events.clear();
     return fault;
 }

@@ -23,16 +23,18 @@ QString WireNoise::uid()
 QStringList WireNoise::uids()
 {
     QStringList list;
-    for (int count = below(6); count > 0; --count)
+    for (int count = below(6); count > 0; --count) {
         list.append(uid());
+    }
     return list;
 }
 
 QString WireNoise::text()
 {
     QString text;
-    for (int length = below(40); length > 0; --length)
+    for (int length = below(40); length > 0; --length) {
         text.append(QChar(static_cast<ushort>(chance(3) ? below(0x10000) : 0x20 + below(0x60))));
+    }
     return text;
 }
 
@@ -43,19 +45,23 @@ QString WireNoise::conferenceDocument()
     QJsonObject body{{"from", uid()},
                      {"conventioneer", QJsonArray::fromStringList(uids())},
                      {"confId", s_ids.at(below(s_ids.size()))}};
-    if (!chance(3))
+    if (!chance(3)) {
         body.insert("createTime", times.at(below(times.size())));
-    if (chance(6))
+    }
+    if (chance(6)) {
         body.remove(body.keys().at(below(body.size())));
-    if (chance(6))
+    }
+    if (chance(6)) {
         body.insert(body.isEmpty() ? "from" : body.keys().at(below(body.size())), QJsonArray{1, "x", QJsonObject()});
+    }
     return compact({{"content", chance(12) ? QJsonValue(text()) : QJsonValue(body)}});
 }
 
 QString WireNoise::content(int code)
 {
-    if (chance(12))
+    if (chance(12)) {
         return text();
+    }
     switch (code) {
     case 2:
     case 12:
@@ -74,8 +80,9 @@ QString WireNoise::content(int code)
 
 int WireNoise::code()
 {
-    if (chance(20))
+    if (chance(20)) {
         return chance(2) ? 999 : below(100000) - 1000;
+    }
     // The ends are many among the codes; the rest has to come more often, or no call would last.
     static const QList<int> s_lasting{0, 1, 2, 12, 12, 13, 17, 18, 18, 20, 21, 25};
     return chance(4) ? below(27) : s_lasting.at(below(s_lasting.size()));

@@ -25,8 +25,9 @@ bool single(FlowClient &client)
     client.command(MSG_CALL_SINGLE_USER, false, QStringLiteral("30010001"));
     const auto connected = [&] { return client.callWindowText("lblStatus") == QStringLiteral("已接通"); };
     const auto finished = [&] { return !client.host.received(MSG_CALL_FINISHED).isEmpty(); };
-    if (!waitFor([&] { return connected() || finished(); }) || finished())
+    if (!waitFor([&] { return connected() || finished(); }) || finished()) {
         return false;
+    }
     QTest::mouseClick(client.callWindowButton("HangUp"), Qt::LeftButton);
     return client.host.received(MSG_CALL_FINISHED).size() == 1 &&
            CallRecord(client.host.received(MSG_CALL_FINISHED).constLast()).bIsConnected;
@@ -40,8 +41,9 @@ bool conference(FlowClient &client)
     if (!waitFor([&] {
             const QList<int> codes = client.codesOnWire();
             return codes.count(12) == 2 && codes.contains(5) && codes.contains(25);
-        }))
+        })) {
         return false;
+    }
     client.callWindow()->close();
     return !client.ask(MSG_IS_EXIST_CALL);
 }

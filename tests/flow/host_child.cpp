@@ -45,8 +45,9 @@ bool areMembersConnected(const FlowClient &client)
 {
     const auto *list = client.callWindow()->findChild<QAbstractItemView *>(QStringLiteral("listView"));
     int connected = 0;
-    for (int row = 0; row < list->model()->rowCount(); ++row)
+    for (int row = 0; row < list->model()->rowCount(); ++row) {
         connected += list->model()->index(row, 0).data(ROLE_CALL_STATUS).toInt() == 1 ? 1 : 0;
+    }
     return connected == 2;
 }
 
@@ -56,8 +57,9 @@ void hearOut(FlowClient &client, int iPatienceMs)
 {
     const int before = registrations;
     client.command(MSG_CLIENT_CONNECT_STATUS, true);
-    if (!QTest::qWaitFor([before] { return registrations > before; }, iPatienceMs))
+    if (!QTest::qWaitFor([before] { return registrations > before; }, iPatienceMs)) {
         say("unheard");
+    }
 }
 
 void holdConference(FlowClient &client, int iPatienceMs)
@@ -94,8 +96,9 @@ int main(int argc, char **argv)
     const QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(&input, &QSocketNotifier::activated, [&quit] { quit = true; });
     client.command(MSG_CLIENT_CONNECT_STATUS, true);
-    while (!quit)
+    while (!quit) {
         holdConference(client, QByteArray(argv[2]).toInt());
+    }
     client.command(MSG_EXIT_VOIP);
     DB::closeDB();
     return EXIT_SUCCESS;

@@ -19,8 +19,9 @@ QList<Row> rowsToCut()
     QList<Row> rows;
     const QList<Row> all = scenarioRows();
     for (const Row &row : all) {
-        if (rows.isEmpty() || rows.constLast().scenario != row.scenario)
+        if (rows.isEmpty() || rows.constLast().scenario != row.scenario) {
             rows.append(row);
+        }
     }
     return rows;
 }
@@ -70,8 +71,9 @@ private slots:
         QVERIFY(run.connectChannel());
         run.command(MSG_CLIENT_CONNECT_STATUS, true);
         playUntilCut(run, steps);
-        if (QTest::currentTestFailed())
+        if (QTest::currentTestFailed()) {
             return;
+        }
 
         QVERIFY(QTest::qWaitFor([&] { return run.hasReadAll(); }, kPatienceMs));
         run.engine.takeJournal();
@@ -86,8 +88,9 @@ private slots:
         QVERIFY(run.engine.manager->m_reconnectTimer.isActive());
 
         hangUpWithoutChannel(run);
-        if (QTest::currentTestFailed())
+        if (QTest::currentTestFailed()) {
             return;
+        }
         callWithAnother(run);
         QCOMPARE(run.engine.boxes.texts, QStringList());
     }
@@ -97,8 +100,9 @@ private:
     static void playUntilCut(ScenarioRun &run, const QList<Step> &steps)
     {
         for (const Step &step : steps) {
-            if (run.isPlayed())
+            if (run.isPlayed()) {
                 break;
+            }
             QVERIFY2(step.run(run), qPrintable(step.name + " failed; " + run.engine.state()));
         }
         QVERIFY(run.waitFor([] { return false; }));
@@ -122,8 +126,9 @@ private:
         QVERIFY(run.startAnother(QStringLiteral("call-answered")));
         QVERIFY(run.connectChannel());
         const QList<Step> steps{call(QStringLiteral("30010001")), untilConnected(), press("HangUp"), untilIdle()};
-        for (const Step &step : steps)
+        for (const Step &step : steps) {
             QVERIFY2(step.run(run), qPrintable(step.name + " failed; " + run.engine.state()));
+        }
         QCOMPARE(run.finish(), 0);
         QCOMPARE(run.complaints(), QList<QByteArray>());
         QCOMPARE(run.trace.commands(), QStringList({kRegistration, R"(CallUser "30010001" false)", "HangUpCall",

@@ -19,8 +19,9 @@ private slots:
 
     void init()
     {
-        if (!m_client.callProcessLives() && m_client.callProcessId() != 0)
+        if (!m_client.callProcessLives() && m_client.callProcessId() != 0) {
             QVERIFY(m_client.startCallProcess());
+        }
         QVERIFY(m_client.goOnline());
         m_client.host.events.clear();
     }

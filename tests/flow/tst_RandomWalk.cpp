@@ -16,8 +16,9 @@ private slots:
     void engineStandsAsTheModelAfterEachStep_data()
     {
         QTest::addColumn<uint>("seed");
-        for (uint seed = 1; seed <= 5; ++seed)
+        for (uint seed = 1; seed <= 5; ++seed) {
             QTest::addRow("seed %u", seed) << seed;
+        }
     }
 
     void engineStandsAsTheModelAfterEachStep()
@@ -31,8 +32,9 @@ private slots:
             records += walk.engine.host.received(MSG_CALL_FINISHED).size();
             const QString fault = walk.fault();
             QVERIFY2(fault.isEmpty(), qPrintable(QStringLiteral("step %1, %2: %3").arg(step).arg(walk.last, fault)));
-            if (step % 50 == 0)
+            if (step % 50 == 0) {
                 EngineFixture::deliverPosted();
+            }
         }
         QVERIFY2(records > 10, "the walk has led through calls");
         QVERIFY2(messages.warnings.isEmpty(), qPrintable(messages.warnings.join('\n')));
@@ -41,8 +43,9 @@ private slots:
     void whateverTheHostDoesInsideItsHandlersIsSurvived_data()
     {
         QTest::addColumn<uint>("seed");
-        for (uint seed = 101; seed <= 104; ++seed)
+        for (uint seed = 101; seed <= 104; ++seed) {
             QTest::addRow("seed %u", seed) << seed;
+        }
     }
 
     void whateverTheHostDoesInsideItsHandlersIsSurvived()
@@ -59,8 +62,9 @@ private slots:
             --depth;
         };
         walk.engine.whileHandled = [&](BaseEvent &) {
-            if (depth < 3 && walk.noise.chance(3))
+            if (depth < 3 && walk.noise.chance(3)) {
                 stepInside();
+            }
         };
         walk.engine.boxes.whileOpen = [&] {
             walk.boxIsOpen = true;
@@ -72,8 +76,9 @@ private slots:
             walk.model.channelUp = walk.engine.manager->m_bSocketConnected;
             walk.engine.host.events.clear();
             walk.engine.takeJournal();
-            if (step % 50 == 0)
+            if (step % 50 == 0) {
                 EngineFixture::deliverPosted();
+            }
         }
         QVERIFY2(nested > 100, "the host has done things inside its handlers");
 

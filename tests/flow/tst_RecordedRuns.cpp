@@ -23,8 +23,9 @@ Outcome run(const QString &strProgram, const QStringList &arguments, const QMap<
             const QString &strFolder)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (auto it = variables.cbegin(); it != variables.cend(); ++it)
+    for (auto it = variables.cbegin(); it != variables.cend(); ++it) {
         environment.insert(it.key(), it.value());
+    }
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
@@ -70,8 +71,9 @@ private slots:
         const QString scenario = record(name);
         QVERIFY(!scenario.isEmpty());
         const QByteArrayList recorded = readBytes(scenario).split('\n');
-        for (const QByteArray &line : lines)
+        for (const QByteArray &line : lines) {
             QVERIFY2(recorded.contains(line), line + " is not in:\n" + recorded.join('\n'));
+        }
         QVERIFY2(!recorded.join().contains("registration"), "the registration value belongs to the user alone");
 
         const QString folder = folderFor("play-" + name);

@@ -13,8 +13,9 @@ private slots:
     void everyScenarioHasARow()
     {
         QStringList played;
-        for (const Row &row : scenarioRows())
+        for (const Row &row : scenarioRows()) {
             played.append(row.scenario);
+        }
         played.sort();
         played.removeDuplicates();
         QCOMPARE(played, ScenarioRun::names());
@@ -23,8 +24,9 @@ private slots:
     void scenarioIsPlayed_data()
     {
         QTest::addColumn<Row>("row");
-        for (const Row &row : scenarioRows())
+        for (const Row &row : scenarioRows()) {
             QTest::newRow(qPrintable(row.scenario + (row.story.isEmpty() ? "" : ": ") + row.story)) << row;
+        }
     }
 
     void scenarioIsPlayed()
@@ -45,8 +47,9 @@ private slots:
 
         QStringList wire = row.wire;
         wire.prepend(R"(RegeditUser "me" "" "ticket" false)");
-        if (exitCode == 0)
+        if (exitCode == 0) {
             wire.append("quit");
+        }
         QCOMPARE(run.trace.commands(), wire);
         QCOMPARE(run.engine.takeJournal(), row.events);
         QCOMPARE(run.engine.boxes.texts, QStringList());

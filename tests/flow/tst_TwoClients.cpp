@@ -48,8 +48,9 @@ private slots:
         QVERIFY(records.size() <= recorded);
         const QStringList created = world.created();
         QVERIFY(created.size() >= 10);
-        for (const QString &id : created)
+        for (const QString &id : created) {
             QVERIFY2(records.contains(id), qPrintable(id));
+        }
         qInfo("%d changes of the channel, %d conferences, %d records", changes, static_cast<int>(recorded),
               records.size());
     }

@@ -49,8 +49,9 @@ Json::Value parsed(const QString &strLine)
 QString written(Wire::Command name, const Json::Value &example)
 {
     std::vector<Json::Value> p;
-    for (int number = 1; example.isMember("param" + std::to_string(number)); ++number)
+    for (int number = 1; example.isMember("param" + std::to_string(number)); ++number) {
         p.push_back(example["param" + std::to_string(number)]);
+    }
     switch (p.size()) {
     case 0:
         return SdkLine::lineOf(name, {});
@@ -113,8 +114,9 @@ QList<QStringList> tableUnder(const QString &strHead)
     const QStringList lines = text.mid(start, text.indexOf(QStringLiteral("\n\n"), start) - start).split('\n').mid(2);
     for (const QString &line : lines) {
         QStringList cells;
-        for (const QString &cell : line.mid(1, line.size() - 2).split('|'))
+        for (const QString &cell : line.mid(1, line.size() - 2).split('|')) {
             cells.append(cell.trimmed());
+        }
         rows.append(cells);
     }
     return rows;
@@ -129,8 +131,9 @@ QString letterOf(const QString &strCell)
         {QRegularExpression("^array\\b"), "a"},
         {QRegularExpression("^integer\\b"), "i"}};
     for (const auto &[beginning, letter] : beginnings) {
-        if (strCell.contains(beginning))
+        if (strCell.contains(beginning)) {
             return letter;
+        }
     }
     return QStringLiteral("s");
 }
@@ -144,8 +147,9 @@ Wire::Content contentOf(const QString &strCell)
         {"add document", Wire::Content::Addition},
         {"open", Wire::Content::Open}};
     for (const auto &[beginning, content] : beginnings) {
-        if (strCell.startsWith(QLatin1String(beginning)))
+        if (strCell.startsWith(QLatin1String(beginning))) {
             return content;
+        }
     }
     return strCell.isEmpty() ? Wire::Content::None : Wire::Content::Text;
 }
@@ -189,8 +193,9 @@ const Row kRows[] = {
 QString picture(const EngineFixture &fixture, const QtMessages &messages)
 {
     QStringList words{fixture.state()};
-    if (!fixture.manager->m_callData.confId.isEmpty())
+    if (!fixture.manager->m_callData.confId.isEmpty()) {
         words << "in " + fixture.manager->m_callData.confId;
+    }
     words << fixture.members().join(QStringLiteral(", "));
     for (const ReceivedEvent &event : fixture.host.received(MSG_CALL_FINISHED)) {
         PayloadReader reader(event.payload);
@@ -198,10 +203,12 @@ QString picture(const EngineFixture &fixture, const QtMessages &messages)
         reader.take<QString>();
         words << QString::number(reader.take<int>());
     }
-    if (fixture.manager->m_bSdkFlag)
+    if (fixture.manager->m_bSdkFlag) {
         words << QStringLiteral("flag");
-    for (const QString &line : messages.debugLines.filter(QStringLiteral("voipsdk:")))
+    }
+    for (const QString &line : messages.debugLines.filter(QStringLiteral("voipsdk:"))) {
         words << "logged " + line.mid(static_cast<int>(qstrlen("voipsdk:")));
+    }
     words.removeAll(QString());
     return words.join(QStringLiteral("; "));
 }
@@ -218,8 +225,9 @@ private slots:
     void everyCommandHasItsExample_data()
     {
         QTest::addColumn<int>("number");
-        for (const Wire::CommandRow &row : Wire::kCommands)
+        for (const Wire::CommandRow &row : Wire::kCommands) {
             QTest::newRow(row.name) << static_cast<int>(row.command);
+        }
     }
 
     void everyCommandHasItsExample()
@@ -240,8 +248,9 @@ private slots:
 
         // The checker's replay says it in the very same bytes.
         QJsonArray parameters;
-        for (int parameter = 1; !command->parameter(parameter).isUndefined(); ++parameter)
+        for (int parameter = 1; !command->parameter(parameter).isUndefined(); ++parameter) {
             parameters.append(command->parameter(parameter));
+        }
         QCOMPARE(commandLine(wireName, parameters), lines.constFirst().toUtf8() + '\n');
     }
 
@@ -253,8 +262,9 @@ private slots:
     void everyNotificationHasItsExample_data()
     {
         QTest::addColumn<Row>("row");
-        for (const Row &row : kRows)
+        for (const Row &row : kRows) {
             QTest::newRow(QByteArray::number(static_cast<int>(row.code)).constData()) << row;
+        }
     }
 
     void everyNotificationHasItsExample()
@@ -283,8 +293,9 @@ private slots:
     {
         QCOMPARE(examples(QStringLiteral("{\"content\":\"")).size(), static_cast<int>(std::size(kRows)));
         int named = 0;
-        for (const Wire::NotificationRow &row : Wire::kNotifications)
+        for (const Wire::NotificationRow &row : Wire::kNotifications) {
             named += *row.name != '\0' ? 1 : 0;
+        }
         QCOMPARE(named, static_cast<int>(std::size(kRows)));
     }
 
@@ -310,8 +321,9 @@ private slots:
         std::size_t checked = 0;
         for (const QStringList &cells : tableUnder(QStringLiteral("| messagetype |"))) {
             QString letters;
-            for (const QString &cell : cells.mid(1))
+            for (const QString &cell : cells.mid(1)) {
                 letters += letterOf(cell);
+            }
             for (const QString &name : cells.constFirst().split(QStringLiteral(", "))) {
                 const Wire::CommandRow *row = findCommand(name);
                 QVERIFY2(row, qPrintable(name));
@@ -369,11 +381,13 @@ private slots:
     void tableOfRobotsNamesEachOfThem()
     {
         QStringList documented;
-        for (const QStringList &cells : tableUnder(QStringLiteral("| id | name | when called |")))
+        for (const QStringList &cells : tableUnder(QStringLiteral("| id | name | when called |"))) {
             documented << cells.at(0) + ' ' + cells.at(1);
+        }
         QStringList robots;
-        for (const Robot &robot : ROBOTS)
+        for (const Robot &robot : ROBOTS) {
             robots << QString(robot.id) + ' ' + robot.name;
+        }
         QCOMPARE(documented, robots);
     }
 };

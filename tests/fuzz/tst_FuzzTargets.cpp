@@ -28,8 +28,9 @@ QList<QByteArray> contentsOf(const QString &folder)
 {
     QList<QByteArray> contents;
     const QFileInfoList files = folder.isEmpty() ? QFileInfoList() : QDir(folder).entryInfoList(QDir::Files);
-    for (const QFileInfo &file : files)
+    for (const QFileInfo &file : files) {
         contents += readBytes(file.filePath());
+    }
     return contents;
 }
 
@@ -47,8 +48,9 @@ QMap<QString, QByteArray> keptInputs(const FuzzTarget &target)
     for (const char *kind : {"corpus", "found"}) {
         const QDir folder(folderOf(kind, target.seeds));
         const QStringList names = folder.entryList(QDir::Files);
-        for (const QString &name : names)
+        for (const QString &name : names) {
             inputs[QLatin1String(kind) + QLatin1Char('/') + name] = readBytes(folder.filePath(name));
+        }
     }
     return inputs;
 }
@@ -89,8 +91,9 @@ public:
     QByteArray next()
     {
         QByteArray input = anyOf(m_inputs);
-        for (int left = 1 + below(kMostChanges); left > 0; --left)
+        for (int left = 1 + below(kMostChanges); left > 0; --left) {
             change(input);
+        }
         return input.left(m_longest);
     }
 
@@ -116,8 +119,9 @@ private:
             input.replace(place, length, anyOf(m_inputs).mid(below(40)));
             break;
         default:
-            if (place < input.size())
+            if (place < input.size()) {
                 input[place] = char(input.at(place) ^ (1 << below(8)));
+            }
         }
     }
 
@@ -133,8 +137,9 @@ private:
 void eachTargetIsARow()
 {
     QTest::addColumn<QByteArray>("name");
-    for (const FuzzTarget &target : fuzzTargets)
+    for (const FuzzTarget &target : fuzzTargets) {
         QTest::newRow(target.name) << QByteArray(target.name);
+    }
 }
 
 /// In memory where there is room, since some targets write a file for each input.
@@ -155,8 +160,9 @@ private slots:
     {
         FuzzApplication::silenceQt();
         // What is made once is no input's time.
-        for (const FuzzTarget &target : fuzzTargets)
+        for (const FuzzTarget &target : fuzzTargets) {
             target.run(keptInputs(target).first());
+        }
     }
 
     void everyTargetHasInputsAndADictionary_data() { eachTargetIsARow(); }
@@ -170,16 +176,18 @@ private slots:
         QVERIFY(!words.contains(QByteArray()));
         const QMap<QString, QByteArray> inputs = keptInputs(target);
         QVERIFY(inputs.size() > 4);
-        for (auto input = inputs.cbegin(); input != inputs.cend(); ++input)
+        for (auto input = inputs.cbegin(); input != inputs.cend(); ++input) {
             QVERIFY2(input->size() <= target.longest, qPrintable(input.key()));
+        }
     }
 
     void everyFolderBelongsToATarget()
     {
         for (const char *kind : {"corpus", "found"}) {
             const QStringList names = QDir(folderOf(kind, "")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-            for (const QString &name : names)
+            for (const QString &name : names) {
                 QVERIFY2(findFuzzTarget(name.toLatin1()), qPrintable(name));
+            }
         }
         QVERIFY(!findFuzzTarget("nothing"));
     }
@@ -190,8 +198,9 @@ private slots:
         QTest::addColumn<QByteArray>("input");
         for (const FuzzTarget &target : fuzzTargets) {
             const QMap<QString, QByteArray> inputs = keptInputs(target);
-            for (auto input = inputs.cbegin(); input != inputs.cend(); ++input)
+            for (auto input = inputs.cbegin(); input != inputs.cend(); ++input) {
                 QTest::addRow("%s %s", target.name, qPrintable(input.key())) << QByteArray(target.name) << *input;
+            }
         }
     }
 

@@ -68,8 +68,9 @@ private slots:
     {
         const GlyphsPage page;
         QStringList texts;
-        for (const QLabel *label : page.findChildren<QLabel *>())
+        for (const QLabel *label : page.findChildren<QLabel *>()) {
             texts.append(label->text());
+        }
         for (const IconGlyph::Row &row : IconGlyph::ALL) {
             QCOMPARE(texts.count(IconGlyph::text(row.codePoint)), 4);
             QCOMPARE(texts.count(QLatin1String(row.pName)), 1);
@@ -103,14 +104,18 @@ private slots:
         page.show();
         QVERIFY(QTest::qWaitForWindowExposed(&page, kPatienceMs));
         QWidget *pField = nullptr;
-        for (QLabel *pLabel : page.findChildren<QLabel *>())
-            if (pLabel->text() == QStringLiteral("drag here"))
+        for (QLabel *pLabel : page.findChildren<QLabel *>()) {
+            if (pLabel->text() == QStringLiteral("drag here")) {
                 pField = pLabel;
+            }
+        }
         QVERIFY(pField != nullptr);
         const auto band = [] {
-            for (QWidget *pWindow : QApplication::topLevelWidgets())
-                if (qobject_cast<MyRubberBand *>(pWindow) != nullptr && pWindow->isVisible())
+            for (QWidget *pWindow : QApplication::topLevelWidgets()) {
+                if (qobject_cast<MyRubberBand *>(pWindow) != nullptr && pWindow->isVisible()) {
                     return pWindow->geometry();
+                }
+            }
             return QRect();
         };
         QVERIFY(band().isNull());
@@ -145,8 +150,9 @@ private slots:
                                    "LineEdit", "LineEdit",          "MsgShow",           "AddLabel",         "AddLabel",
                                    "AddLabel", "page_MsgAndScreen", "page_MsgAndScreen", "page_MsgAndScreen"};
         QCOMPARE(DialogModes::all().size(), pages.size());
-        for (int i = 0; i < pages.size(); ++i)
+        for (int i = 0; i < pages.size(); ++i) {
             QTest::newRow(DialogModes::all().at(i).id) << i << pages.at(i);
+        }
     }
 
     void everyModeOpensByItsButton()
@@ -182,8 +188,9 @@ private slots:
         });
         QTest::mouseClick(openButtons(page).at(2)->findChild<QPushButton *>(), Qt::LeftButton);
         QStringList texts;
-        for (const QLabel *label : page.findChildren<QLabel *>())
+        for (const QLabel *label : page.findChildren<QLabel *>()) {
             texts.append(label->text());
+        }
         QCOMPARE(texts.count(QStringLiteral("accepted")), 1);
     }
 

@@ -15,8 +15,9 @@ private slots:
                                      {ROLE_REMOVE_RECT, 140},    {ROLE_REMOVE_HOVER, 141}, {ROLE_MUTE_RECT, 142},
                                      {ROLE_MUTE_HOVER, 143},     {ROLE_MUTED, 144},        {ROLE_CONF_CREATE_TIME, 146},
                                      {ROLE_CONF_CALL_TIME, 147}, {ROLE_CREATED_BY_ME, 148}};
-        for (auto it = offsets.begin(); it != offsets.end(); ++it)
+        for (auto it = offsets.begin(); it != offsets.end(); ++it) {
             QCOMPARE(it.key() - int(Qt::UserRole), it.value());
+        }
         QCOMPARE(offsets.size(), 17);
     }
 
@@ -32,8 +33,9 @@ private slots:
     void placesAndTimesAndIdsAreNotShown()
     {
         for (const int iRole :
-             {ROLE_CONF_ID, ROLE_HEAD_RECT, ROLE_INVITE_TIME, ROLE_USER_ID, ROLE_REMOVE_RECT, ROLE_MUTE_RECT})
+             {ROLE_CONF_ID, ROLE_HEAD_RECT, ROLE_INVITE_TIME, ROLE_USER_ID, ROLE_REMOVE_RECT, ROLE_MUTE_RECT}) {
             QVERIFY(!areRolesShown({iRole}));
+        }
         QVERIFY(!areRolesShown({ROLE_REMOVE_RECT, ROLE_MUTE_RECT}));
     }
 
@@ -42,8 +44,9 @@ private slots:
         for (const int iRole :
              {int(ROLE_DISPLAY_NAME), int(ROLE_HEAD_PATH), int(ROLE_CALL_BY_ME), int(ROLE_IS_CREATOR),
               int(ROLE_CALL_STATUS), int(ROLE_REMOVE_HOVER), int(ROLE_MUTE_HOVER), int(ROLE_MUTED),
-              int(ROLE_CONF_CREATE_TIME), int(ROLE_CONF_CALL_TIME), int(ROLE_CREATED_BY_ME), int(Qt::SizeHintRole)})
+              int(ROLE_CONF_CREATE_TIME), int(ROLE_CONF_CALL_TIME), int(ROLE_CREATED_BY_ME), int(Qt::SizeHintRole)}) {
             QVERIFY2(areRolesShown({iRole}), qPrintable(QString::number(iRole)));
+        }
         QVERIFY(areRolesShown({ROLE_REMOVE_RECT, ROLE_CALL_STATUS}));
         QVERIFY(areRolesShown({}));
     }
@@ -51,8 +54,9 @@ private slots:
     void statusTextsAreSix()
     {
         QCOMPARE(cConferenceStatusTable.size(), std::size_t(6));
-        for (int i = 0; i < 6; ++i)
+        for (int i = 0; i < 6; ++i) {
             QCOMPARE(cConferenceStatusTable.at(std::size_t(i)).iStatus, i);
+        }
     }
 
     void statusTextOfAnyCode_data()
@@ -96,10 +100,12 @@ private slots:
 
     void membersAreCalledAgainFromFailedUpwards()
     {
-        for (const int iStatus : {-1, 0, 1})
+        for (const int iStatus : {-1, 0, 1}) {
             QVERIFY(!canReInvite(iStatus));
-        for (const int iStatus : {2, 3, 4, 5, 6, 1000})
+        }
+        for (const int iStatus : {2, 3, 4, 5, 6, 1000}) {
             QVERIFY(canReInvite(iStatus));
+        }
     }
 };
 

@@ -114,8 +114,9 @@ private slots:
             const QString strExpected = expected == EXPECTED.end() ? QString() : expected->second;
             QVERIFY2(strText == strExpected, qPrintable(QString("%1: %2").arg(iPosition).arg(strText)));
         }
-        for (const auto &[iPosition, strText] : EXPECTED)
+        for (const auto &[iPosition, strText] : EXPECTED) {
             QVERIFY2(texts.count(iPosition), qPrintable(QString::number(iPosition)));
+        }
     }
 
     void theBuiltInSkinHasEightIconCodes()

@@ -29,10 +29,12 @@ const std::vector<Text> &texts()
 SysUIData markedSkin(const QString &strMark)
 {
     SysUIData skin;
-    for (const Text &text : texts())
+    for (const Text &text : texts()) {
         skin.*text.pMember = strMark + QString::number(text.iPosition);
-    for (size_t i = 0; i < skin.m_iconCodes.size(); ++i)
+    }
+    for (size_t i = 0; i < skin.m_iconCodes.size(); ++i) {
         skin.m_iconCodes[i] = ushort(strMark.at(0).unicode() * size_t(16) + i);
+    }
     skin.m_bFirstMark = true;
     skin.m_bSecondMark = true;
     return skin;
@@ -49,12 +51,14 @@ private slots:
     {
         std::vector<int> expected;
         for (int iPosition = 2; iPosition <= 64; ++iPosition) {
-            if (iPosition != 32)
+            if (iPosition != 32) {
                 expected.push_back(iPosition);
+            }
         }
         std::vector<int> found;
-        for (const Text &text : texts())
+        for (const Text &text : texts()) {
             found.push_back(text.iPosition);
+        }
         QCOMPARE(found, expected);
         QCOMPARE(texts().size(), size_t(62));
     }
@@ -62,8 +66,9 @@ private slots:
     void noTwoPositionsShareAMember()
     {
         const SysUIData skin = markedSkin("a");
-        for (const Text &text : texts())
+        for (const Text &text : texts()) {
             QVERIFY2(skin.*text.pMember == "a" + QString::number(text.iPosition), text.pName);
+        }
     }
 
     void widgetsFindTheirMemberAtItsPosition_data()
@@ -124,10 +129,12 @@ private slots:
     void aNewSkinIsEmpty()
     {
         const SysUIData skin;
-        for (const Text &text : texts())
+        for (const Text &text : texts()) {
             QVERIFY2((skin.*text.pMember).isEmpty(), text.pName);
-        for (const ushort code : skin.m_iconCodes)
+        }
+        for (const ushort code : skin.m_iconCodes) {
             QCOMPARE(code, ushort(0));
+        }
         QVERIFY(!skin.m_bSecondMark);
     }
 
@@ -135,8 +142,9 @@ private slots:
     {
         const SysUIData original = markedSkin("a");
         const SysUIData copy(original); // NOLINT(performance-unnecessary-copy-initialization)
-        for (const Text &text : texts())
+        for (const Text &text : texts()) {
             QCOMPARE(copy.*text.pMember, original.*text.pMember);
+        }
         QVERIFY(copy.m_iconCodes == original.m_iconCodes);
         QVERIFY(copy.m_bFirstMark);
         QVERIFY(copy.m_bSecondMark);
@@ -175,8 +183,9 @@ private slots:
         SysUIData skin = markedSkin("a");
         skin.initData();
         skin.initBaseStyle();
-        for (const Text &text : texts())
+        for (const Text &text : texts()) {
             QCOMPARE(skin.*text.pMember, "a" + QString::number(text.iPosition));
+        }
         QVERIFY(skin.m_iconCodes == markedSkin("a").m_iconCodes);
     }
 

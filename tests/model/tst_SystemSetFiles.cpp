@@ -127,8 +127,9 @@ private slots:
     void anEmptyPrivacyChoiceIsRepaired_data()
     {
         QTest::addColumn<QString>("key");
-        for (const char *pKey : {"CanSearch", "CanViewCompanyInfo", "CanViewMobile"})
+        for (const char *pKey : {"CanSearch", "CanViewCompanyInfo", "CanViewMobile"}) {
             QTest::newRow(pKey) << QStringLiteral("/privacySetting/") + pKey;
+        }
     }
 
     void anEmptyPrivacyChoiceIsRepaired()

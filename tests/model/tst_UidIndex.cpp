@@ -64,8 +64,9 @@ private slots:
     {
         QFETCH(QStringList, changed);
         const auto check = [&changed](UidIndex &index, const QStringList &uids) {
-            for (const char *uid : {"a", "b", "x"})
+            for (const char *uid : {"a", "b", "x"}) {
                 QCOMPARE(index.contains(uids, QLatin1String(uid)), changed.contains(QLatin1String(uid)));
+            }
         };
         QStringList uids{"a", "b"};
         UidIndex index;
@@ -122,10 +123,11 @@ private slots:
                 index.append(uids, uid);
                 break;
             case 1:
-                if (uids.contains(uid))
+                if (uids.contains(uid)) {
                     QVERIFY(index.removeOne(uids, uid));
-                else
+                } else {
                     QVERIFY(!index.removeOne(uids, uid));
+                }
                 break;
             case 2:
                 uids = QStringList{anyUid(), anyUid(), anyUid()};
@@ -133,8 +135,9 @@ private slots:
             default:
                 // In the list's own order, with some left out and some that it has not.
                 for (const QString &asked : qAsConst(uids)) {
-                    if (random() % 3 == 0)
+                    if (random() % 3 == 0) {
                         continue;
+                    }
                     QVERIFY(index.contains(uids, asked));
                     const QString other = anyUid();
                     QCOMPARE(index.contains(uids, other), uids.contains(other));
@@ -148,11 +151,13 @@ private slots:
         constexpr int count = 5000;
         QStringList uids;
         UidIndex index;
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
             index.append(uids, QString::number(i));
+        }
         QCOMPARE(uids.size(), count);
-        for (int i = 2 * count - 1; i >= 0; --i)
+        for (int i = 2 * count - 1; i >= 0; --i) {
             QCOMPARE(index.contains(uids, QString::number(i)), i < count);
+        }
     }
 };
 

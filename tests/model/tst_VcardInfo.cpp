@@ -19,8 +19,9 @@ QString randomNumbers(quint32 iSeed)
     QRandomGenerator random(iSeed);
     const QString strUnits = iSeed % 2 ? "ab " : "012  \t";
     QString strText;
-    for (int i = random.bounded(40); i > 0; --i)
+    for (int i = random.bounded(40); i > 0; --i) {
         strText += strUnits.at(random.bounded(strUnits.size()));
+    }
     return strText;
 }
 
@@ -28,9 +29,11 @@ QString keptOneByOne(const QString &strText)
 {
     const QStringList listNumber = strText.split(' ');
     QString strKept = listNumber.first();
-    for (const QString &strNumber : listNumber)
-        if (!strNumber.isEmpty() && !strKept.contains(strNumber))
+    for (const QString &strNumber : listNumber) {
+        if (!strNumber.isEmpty() && !strKept.contains(strNumber)) {
             strKept += ' ' + strNumber;
+        }
+    }
     return strKept.trimmed();
 }
 
@@ -118,12 +121,14 @@ private slots:
         QTest::addColumn<QString>("text");
         constexpr int UNITS = 300000;
         QString strDistinct;
-        for (int i = 1000000; strDistinct.size() < UNITS; ++i)
+        for (int i = 1000000; strDistinct.size() < UNITS; ++i) {
             strDistinct += QString::number(i) + ' ';
+        }
         QTest::newRow("distinct") << strDistinct;
         QString strGrowing;
-        for (int i = 1; strGrowing.size() < UNITS; ++i)
+        for (int i = 1; strGrowing.size() < UNITS; ++i) {
             strGrowing += QString(i, '1') + ' ';
+        }
         QTest::newRow("each holds the one before") << strGrowing;
         QTest::newRow("one") << QString(UNITS, '1') + " 2";
     }

@@ -55,8 +55,9 @@ private slots:
     {
         const QMetaObject &meta = CPassportLoginServer::staticMetaObject;
         QStringList listName;
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
             listName.append(QString::fromLatin1(meta.method(i).methodSignature()));
+        }
         QCOMPARE(listName, QStringList({"signal_RemCookieChanged(QString)", "signal_UserOverdue()"}));
     }
 

@@ -28,8 +28,10 @@ private slots:
             QCOMPARE(packPayload(fields...), expected);
         };
         check(false, true);
-        for (const qint32 number : {0, -1, 258, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max()})
+        for (const qint32 number :
+             {0, -1, 258, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max()}) {
             check(number, qint64(number) << 20, quint32(number), qint8(number));
+        }
         check(QString(), QStringLiteral(""), QStringLiteral("u1"));
         check(QString(QChar(0)), QStringLiteral("成员"), QString::fromUcs4(U"\U0001F600", 1), QString(QChar(0xd800)));
         check(QString(70000, QLatin1Char('a')), QStringList{QStringLiteral("b"), QString()}, QString(), true);
@@ -62,8 +64,9 @@ private slots:
     {
         for (const QByteArray &payload :
              {packPayload(true), packPayload(false), packPayload(), packPayload(true, 1), QByteArray("\2"),
-              QByteArray("\x80"), packPayload(QString()), packPayload(-1)})
+              QByteArray("\x80"), packPayload(QString()), packPayload(-1)}) {
             QCOMPARE(firstFlag(payload), PayloadReader(payload).take<bool>());
+        }
         QVERIFY(firstFlag(packPayload(true, QString())));
         QVERIFY(!firstFlag(packPayload()));
     }

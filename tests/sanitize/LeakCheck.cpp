@@ -26,8 +26,9 @@ void checkWhenQuiet()
         const OtherThreads now = OtherThreads::look();
         quiet = now.haveSleptSince(before) ? quiet + 1 : 0;
         before = now;
-        if (now.sum == 0)
+        if (now.sum == 0) {
             break;
+        }
     }
     __lsan_do_leak_check();
 }
@@ -35,8 +36,9 @@ void checkWhenQuiet()
 // Before the program's own statics, so that the look comes behind their end.
 __attribute__((constructor(101))) void lookAtTheEnd()
 {
-    if (__lsan_do_leak_check)
+    if (__lsan_do_leak_check) {
         std::atexit(checkWhenQuiet);
+    }
 }
 
 } // namespace

@@ -11,10 +11,12 @@ extern "C" __attribute__((visibility("default"))) int pthread_sigmask(int how, c
 {
     static auto *const s_own =
         reinterpret_cast<int (*)(int, const sigset_t *, sigset_t *)>(dlsym(RTLD_NEXT, "pthread_sigmask"));
-    if (!set || how == SIG_UNBLOCK)
+    if (!set || how == SIG_UNBLOCK) {
         return s_own(how, set, old);
+    }
     sigset_t blocked = *set;
-    for (const int fault : {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT})
+    for (const int fault : {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT}) {
         sigdelset(&blocked, fault);
+    }
     return s_own(how, &blocked, old);
 }

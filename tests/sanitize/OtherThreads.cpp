@@ -23,8 +23,9 @@ void add(OtherThreads &others, int tasks, const char *thread)
     char text[4096] = {};
     const int file = openat(tasks, path, O_RDONLY | O_CLOEXEC);
     const ssize_t length = file < 0 ? -1 : read(file, text, sizeof text - 1);
-    if (file >= 0)
+    if (file >= 0) {
         close(file);
+    }
     // One that has gone between the two was ending.
     others.bAsleep = others.bAsleep && length > 0 && std::strstr(text, "State:\tS");
     others.sum += std::strtoull(thread, nullptr, 10) * 1000003 + numberBehind(text, "\nvoluntary_ctxt_switches:") +
@@ -37,11 +38,13 @@ OtherThreads OtherThreads::look()
 {
     OtherThreads others;
     DIR *folder = opendir("/proc/self/task");
-    if (!folder)
+    if (!folder) {
         return others;
+    }
     while (const dirent *entry = readdir(folder)) {
-        if (entry->d_name[0] != '.' && std::strtol(entry->d_name, nullptr, 10) != gettid())
+        if (entry->d_name[0] != '.' && std::strtol(entry->d_name, nullptr, 10) != gettid()) {
             add(others, dirfd(folder), entry->d_name);
+        }
     }
     closedir(folder);
     return others;

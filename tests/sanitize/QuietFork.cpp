@@ -40,8 +40,9 @@ public:
     /// In the new process. One whose old process has ended does not go on.
     bool await()
     {
-        if (m_bOpen)
+        if (m_bOpen) {
             close(std::exchange(m_ends[1], -1));
+        }
         char word = 0;
         while (m_bOpen && read(m_ends[0], &word, 1) < 0) {
         }
@@ -53,8 +54,9 @@ private:
     void shut()
     {
         for (int &end : m_ends) {
-            if (end >= 0)
+            if (end >= 0) {
                 close(std::exchange(end, -1));
+            }
         }
     }
 
@@ -70,21 +72,25 @@ extern "C" __attribute__((visibility("default"))) pid_t fork() noexcept
     for (int attempt = 1;; ++attempt) {
         const OtherThreads before = OtherThreads::look();
         Verdict verdict;
-        if (before.sum == 0 || attempt == kAttempts || !verdict.isOpen())
+        if (before.sum == 0 || attempt == kAttempts || !verdict.isOpen()) {
             return s_own();
+        }
         if (before.bAsleep) {
             const pid_t child = s_own();
-            if (child < 0)
+            if (child < 0) {
                 return child;
+            }
             if (child == 0) {
-                if (!verdict.await())
+                if (!verdict.await()) {
                     _exit(0);
+                }
                 return 0;
             }
             const bool bSound = OtherThreads::look().haveSleptSince(before);
             verdict.give(bSound);
-            if (bSound)
+            if (bSound) {
                 return child;
+            }
             waitpid(child, nullptr, 0);
         }
         usleep(kPauseUs);

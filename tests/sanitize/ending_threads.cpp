@@ -27,15 +27,17 @@ __attribute__((noinline)) void lose()
 int main(int argc, char ** /*argv*/)
 {
     if (argc > 1) {
-        for (int i = 0; i < 10; ++i)
+        for (int i = 0; i < 10; ++i) {
             lose();
+        }
     }
     std::vector<std::unique_ptr<Short>> threads;
     for (int i = 0; i < 60; ++i) {
         threads.push_back(std::make_unique<Short>());
         threads.back()->start();
     }
-    for (const auto &thread : threads)
+    for (const auto &thread : threads) {
         thread->wait();
+    }
     return EXIT_SUCCESS;
 }

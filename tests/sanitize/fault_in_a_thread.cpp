@@ -14,8 +14,9 @@ void fail()
     sigfillset(&all);
     pthread_sigmask(SIG_BLOCK, &all, nullptr);
     void *page = mmap(nullptr, 1, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    if (page != MAP_FAILED)
+    if (page != MAP_FAILED) {
         *static_cast<volatile char *>(page) = 1;
+    }
 }
 
 } // namespace

@@ -24,8 +24,9 @@ void allocateInBursts(const std::atomic<bool> &bEnough, std::atomic<bool> &bBusy
         bBusy = true;
         std::vector<std::vector<char>> blocks;
         blocks.reserve(kBlocks);
-        for (int i = 0; i < kBlocks; ++i)
+        for (int i = 0; i < kBlocks; ++i) {
             blocks.emplace_back(kLength);
+        }
         blocks.clear();
         bBusy = false;
         usleep(kRestUs);
@@ -37,15 +38,17 @@ void allocateInBursts(const std::atomic<bool> &bEnough, std::atomic<bool> &bBusy
 int main()
 {
     QString path = QStringLiteral("/bin/true");
-    while (path.size() < kLength)
+    while (path.size() < kLength) {
         path.prepend(QStringLiteral("/bin/.."));
+    }
     std::atomic<bool> bEnough{false};
     std::atomic<bool> bBusy{false};
     std::thread other(allocateInBursts, std::cref(bEnough), std::ref(bBusy));
     int started = 0;
     for (int i = 0; i < kProcesses; ++i) {
-        while (!bBusy)
+        while (!bBusy) {
             std::this_thread::yield();
+        }
         started += QProcess::startDetached(path, QStringList());
     }
     bEnough = true;

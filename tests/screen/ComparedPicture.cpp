@@ -22,8 +22,9 @@ QString fileName(const QString &strName)
 QString saved(const QString &strFolder, const QString &strName, const QImage &picture)
 {
     const QString strFile = strFolder + QLatin1Char('/') + fileName(strName);
-    if (!QDir().mkpath(strFolder) || !picture.save(strFile))
+    if (!QDir().mkpath(strFolder) || !picture.save(strFile)) {
         return QStringLiteral("cannot write ") + strFile;
+    }
     return {};
 }
 
@@ -53,23 +54,29 @@ QImage ComparedPicture::committed(const QString &strName)
 
 int ComparedPicture::differingPixels(const QImage &one, const QImage &other)
 {
-    if (one.size() != other.size())
+    if (one.size() != other.size()) {
         return qMax(one.width() * one.height(), other.width() * other.height());
+    }
     int iDiffering = 0;
-    for (int y = 0; y < one.height(); ++y)
-        for (int x = 0; x < one.width(); ++x)
-            if (furthest(one.pixel(x, y), other.pixel(x, y)) > cShade)
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            if (furthest(one.pixel(x, y), other.pixel(x, y)) > cShade) {
                 ++iDiffering;
+            }
+        }
+    }
     return iDiffering;
 }
 
 QString ComparedPicture::complaint(const QString &strName, const QImage &picture)
 {
-    if (qEnvironmentVariableIsSet("VOIP_REMAKE_PICTURES"))
+    if (qEnvironmentVariableIsSet("VOIP_REMAKE_PICTURES")) {
         return saved(QStringLiteral(VOIP_PICTURES), strName, picture);
+    }
     const int iDiffering = differingPixels(picture, committed(strName));
-    if (iDiffering <= cFewPixels)
+    if (iDiffering <= cFewPixels) {
         return {};
+    }
     const QString strTrouble = saved(QStringLiteral(VOIP_PICTURES_FOUND), strName, picture);
     return QStringLiteral("%1: %2 pixels differ; see " VOIP_PICTURES_FOUND " %3")
         .arg(fileName(strName), QString::number(iDiffering), strTrouble);

@@ -21,10 +21,13 @@ inline QRectF within(const QImage &picture, const QRect &place)
 {
     const int iDensity = qRound(picture.devicePixelRatio());
     QRect ink;
-    for (int y = place.top() * iDensity; y < (place.bottom() + 1) * iDensity; ++y)
-        for (int x = place.left() * iDensity; x < (place.right() + 1) * iDensity; ++x)
-            if (isAt(picture, x, y))
+    for (int y = place.top() * iDensity; y < (place.bottom() + 1) * iDensity; ++y) {
+        for (int x = place.left() * iDensity; x < (place.right() + 1) * iDensity; ++x) {
+            if (isAt(picture, x, y)) {
                 ink |= QRect(x, y, 1, 1);
+            }
+        }
+    }
     return {QPointF(ink.topLeft()) / iDensity, QSizeF(ink.size()) / iDensity};
 }
 

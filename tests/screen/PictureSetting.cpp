@@ -38,9 +38,11 @@ QString PictureSetting::prepare(const QStringList &files)
                              QStringLiteral("images/FriendDetail/defaultHead.png"),
                              QStringLiteral("SystemAvatar/3.jpg"), QStringLiteral("SystemAvatar/8.jpg"),
                              QStringLiteral("SystemAvatar/12.jpg")};
-    for (const QString &strName : always + files)
-        if (!placed(strName))
+    for (const QString &strName : always + files) {
+        if (!placed(strName)) {
             return strName + QStringLiteral(" cannot be copied");
+        }
+    }
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(QApplication::style()->standardPalette());
     QFont::insertSubstitution(QStringLiteral("微软雅黑"), cFamily);

@@ -56,8 +56,9 @@ SetUp clicked(const SetUp &first, const QList<const char *> &buttons)
 {
     return [=](CVoipWidget &w) {
         first(w);
-        for (const char *button : buttons)
+        for (const char *button : buttons) {
             QMetaObject::invokeMethod(w.findChild<QWidget *>(QLatin1String(button)), "clicked");
+        }
     };
 }
 
@@ -132,8 +133,9 @@ private:
         window.move(200, 200);
         setUp(window);
         window.show();
-        if (!QTest::qWaitForWindowExposed(&window, kPatienceMs))
+        if (!QTest::qWaitForWindowExposed(&window, kPatienceMs)) {
             return {};
+        }
         // The second of two: rows are at their places once they have been painted.
         ComparedPicture::of(&window);
         QCoreApplication::processEvents();
@@ -142,9 +144,11 @@ private:
 
     QImage picture(const char *name)
     {
-        for (const Page &page : pages())
-            if (qstrcmp(page.name, name) == 0)
+        for (const Page &page : pages()) {
+            if (qstrcmp(page.name, name) == 0) {
                 return picture(page.setUp);
+            }
+        }
         return {};
     }
 
@@ -168,8 +172,9 @@ private slots:
     void pageLooksAsCommitted_data()
     {
         QTest::addColumn<bool>("committed");
-        for (const Page &page : pages())
+        for (const Page &page : pages()) {
             QTest::newRow(page.name) << true;
+        }
     }
 
     void pageLooksAsCommitted()
@@ -184,8 +189,9 @@ private slots:
     void oneGlyphIsADifference_data()
     {
         QTest::addColumn<QByteArray>("button");
-        for (const char *button : {"btnMic", "btnSpeaker"})
+        for (const char *button : {"btnMic", "btnSpeaker"}) {
             QTest::newRow(button) << QByteArray(button);
+        }
     }
 
     void oneGlyphIsADifference()

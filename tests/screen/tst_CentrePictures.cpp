@@ -59,9 +59,11 @@ private:
     void open(bool bRecords)
     {
         m_pWindow = std::make_unique<CVoiceConferenceWidget>();
-        for (const Row &row : cRows)
-            if (bRecords)
+        for (const Row &row : cRows) {
+            if (bRecords) {
                 m_pWindow->addConferenceInfo(record(row));
+            }
+        }
         m_pWindow->move(200, 200);
         m_pWindow->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), kPatienceMs));
@@ -198,17 +200,21 @@ private slots:
         const int iDensity = qRound(picture.devicePixelRatio());
         const QRect inside = backButton()->rect().adjusted(2, 2, -2, -2);
         const auto isEmptyColumn = [&](int x) {
-            for (int y = inside.top() * iDensity; y < inside.bottom() * iDensity; ++y)
-                if (Ink::isAt(picture, x, y))
+            for (int y = inside.top() * iDensity; y < inside.bottom() * iDensity; ++y) {
+                if (Ink::isAt(picture, x, y)) {
                     return false;
+                }
+            }
             return true;
         };
         int x = int(Ink::within(picture, inside).left() * iDensity);
-        while (!isEmptyColumn(x))
+        while (!isEmptyColumn(x)) {
             ++x;
+        }
         const int iArrowEnd = x;
-        while (isEmptyColumn(x))
+        while (isEmptyColumn(x)) {
             ++x;
+        }
         const qreal dGap = (x - iArrowEnd) / qreal(iDensity);
         QVERIFY2(dGap >= 3, qPrintable(QString::number(dGap)));
     }

@@ -46,8 +46,9 @@ QRect dense(const QRect &part)
 QImage shipped(const QString &strPicture, const QRect &part)
 {
     const QImage picture(QStringLiteral(VOIP_RESOURCES "/") + fileOf(strPicture, density()));
-    if (picture.isNull())
+    if (picture.isNull()) {
         return {};
+    }
     QImage onWhite(picture.size(), QImage::Format_RGB32);
     onWhite.fill(Qt::white);
     QPainter painter(&onWhite);
@@ -59,12 +60,16 @@ QImage shipped(const QString &strPicture, const QRect &part)
 /// Whether the picture stands somewhere in what is shown, each pixel as it is.
 bool holds(const QImage &shown, const QImage &picture)
 {
-    if (picture.isNull())
+    if (picture.isNull()) {
         return false;
-    for (int y = 0; y <= shown.height() - picture.height(); ++y)
-        for (int x = 0; x <= shown.width() - picture.width(); ++x)
-            if (shown.copy(x, y, picture.width(), picture.height()) == picture)
+    }
+    for (int y = 0; y <= shown.height() - picture.height(); ++y) {
+        for (int x = 0; x <= shown.width() - picture.width(); ++x) {
+            if (shown.copy(x, y, picture.width(), picture.height()) == picture) {
                 return true;
+            }
+        }
+    }
     return false;
 }
 
@@ -103,11 +108,13 @@ private slots:
     {
         QStringList files;
         for (const char *indicator : {"checkbox_normal", "checkbox_pressed", "checkbox_disable", "radio_normal",
-                                      "radio_pressed", "radio_disable"})
+                                      "radio_pressed", "radio_disable"}) {
             files.append(QStringLiteral("images/icon/btn_") + QLatin1String(indicator));
+        }
         files << cBack << cTick << cGroove;
-        for (QString &file : files)
+        for (QString &file : files) {
             file.append(QStringLiteral(".png"));
+        }
         const QString strMissing = PictureSetting::prepare(files);
         QVERIFY2(strMissing.isEmpty(), qPrintable(strMissing));
     }
@@ -141,14 +148,15 @@ private slots:
         QFETCH(bool, enabled);
         const SysUIData &skin = *SkinContext::getSkinData();
         std::unique_ptr<QAbstractButton> pButton;
-        if (picture.contains(QLatin1String("radio")))
+        if (picture.contains(QLatin1String("radio"))) {
             pButton = button<QRadioButton>(skin.m_strRadioButtonStyle + skin.m_strRadioButtonCheckedStyle +
                                                skin.m_strRadioButtonDisabledStyle,
                                            checked, enabled);
-        else
+        } else {
             pButton = button<QCheckBox>(skin.m_strCheckBoxStyle + skin.m_strCheckBoxCheckedStyle +
                                             skin.m_strCheckBoxDisabledStyle,
                                         checked, enabled);
+        }
         pButton->move(200, 200);
         pButton->show();
         QVERIFY(QTest::qWaitForWindowExposed(pButton.get(), kPatienceMs));

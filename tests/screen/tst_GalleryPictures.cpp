@@ -84,8 +84,9 @@ private slots:
     void everyCommittedPictureIsStillMade()
     {
         QStringList expected;
-        for (const QString &file : PictureRun::files())
+        for (const QString &file : PictureRun::files()) {
             expected.append(cPrefix + file);
+        }
         QCOMPARE(picturesIn(VOIP_PICTURES, cPrefix + QLatin1Char('*')), sorted(expected));
     }
 
@@ -97,9 +98,11 @@ private slots:
         // The first glyph of 48 pixels takes the place of the one below it.
         const QRect first(310, 76, 60, 60);
         QImage other = glyphs;
-        for (int y = 0; y < first.height(); ++y)
-            for (int x = first.left(); x < first.right(); ++x)
+        for (int y = 0; y < first.height(); ++y) {
+            for (int x = first.left(); x < first.right(); ++x) {
                 other.setPixel(x, first.bottom() + y, glyphs.pixel(x, first.top() + y));
+            }
+        }
         QVERIFY(ComparedPicture::differingPixels(glyphs, other) > 100);
     }
 

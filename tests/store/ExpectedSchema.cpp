@@ -38,8 +38,9 @@ QString ExpectedTable::indexSql(const ExpectedIndex &index) const
 QStringList ExpectedTable::indexNames() const
 {
     QStringList names;
-    for (const ExpectedIndex &index : indexes)
+    for (const ExpectedIndex &index : indexes) {
         names.append(index.name);
+    }
     names.sort();
     return names;
 }
@@ -51,8 +52,9 @@ QStringList ExpectedTable::oldestColumns() const
         const bool addedLater = std::any_of(later.begin(), later.end(), [&column](const QString &text) {
             return columnName(text) == columnName(column);
         });
-        if (!addedLater)
+        if (!addedLater) {
             oldest.append(column);
+        }
     }
     return oldest;
 }

@@ -26,8 +26,9 @@ inline QStringList columnsWithout(const QStringList &columns, const QString &nam
 {
     QStringList rest;
     for (const QString &column : columns) {
-        if (columnName(column) != name)
+        if (columnName(column) != name) {
             rest.append(column);
+        }
     }
     return rest;
 }

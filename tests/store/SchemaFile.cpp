@@ -12,8 +12,9 @@ using Note = int (*)(unsigned, void *, void *, void *);
 int noteWrite(unsigned, void *list, void *statement, void *)
 {
     const QString text = QString::fromUtf8(sqlite3_sql(static_cast<sqlite3_stmt *>(statement)));
-    if (!text.startsWith("SELECT", Qt::CaseInsensitive))
+    if (!text.startsWith("SELECT", Qt::CaseInsensitive)) {
         static_cast<QStringList *>(list)->append(text);
+    }
     return 0;
 }
 
@@ -81,12 +82,14 @@ bool SchemaFile::openTwice() const
 
 void SchemaFile::run(const QStringList &statements) const
 {
-    if (!QFileInfo::exists(file()))
+    if (!QFileInfo::exists(file())) {
         make({});
+    }
     BesideFile beside(file());
     for (const QString &statement : statements) {
-        if (!beside.run(statement))
+        if (!beside.run(statement)) {
             qFatal("this statement fails: %s", qPrintable(statement));
+        }
     }
 }
 
@@ -124,8 +127,9 @@ QStringList SchemaFile::schema() const
 QByteArray SchemaFile::bytes() const
 {
     QFile store(file());
-    if (!store.open(QIODevice::ReadOnly))
+    if (!store.open(QIODevice::ReadOnly)) {
         qFatal("cannot read %s", qPrintable(file()));
+    }
     return store.readAll();
 }
 

@@ -46,8 +46,9 @@ public:
         query.exec(statement);
         while (query.next()) {
             QStringList values;
-            for (int column = 0; query.value(column).isValid(); ++column)
+            for (int column = 0; query.value(column).isValid(); ++column) {
                 values.append(query.isNull(column) ? QStringLiteral("NULL") : query.value(column).toString());
+            }
             all.append(values.join(QLatin1Char('|')));
         }
         return all;
@@ -68,8 +69,9 @@ public:
     ~StoreFixture()
     {
         SharedContext::setCommonData(&context);
-        if (!context.getSqlDatabase())
+        if (!context.getSqlDatabase()) {
             context.setSqlDatabase(&DB::m_db);
+        }
         DB::closeDB();
         SharedContext::setCommonData(nullptr);
     }
@@ -89,8 +91,9 @@ public:
         QDir().mkpath(folder(user));
         QFile(file(user)).open(QIODevice::WriteOnly);
         BesideFile beside(file(user));
-        for (const QString &statement : statements)
+        for (const QString &statement : statements) {
             beside.run(statement);
+        }
     }
 
     CommonData context;

@@ -196,8 +196,9 @@ private slots:
                                      "latestfriend",  "friendlist",      "muclocalmsg",        "msglist",
                                      "appnumber",     "appnumberversion"};
         QStringList statements;
-        for (const QString &table : retired)
+        for (const QString &table : retired) {
             statements.append("CREATE TABLE " + table + "(id TEXT)");
+        }
         m_store->make(statements);
         QVERIFY(m_store->open());
         BesideFile beside(m_store->file());
@@ -271,8 +272,9 @@ private slots:
     void onlyAnOldFileWithoutANewOneNeedsTheUpdate()
     {
         QFETCH(const QStringList, files);
-        for (const QString &name : files)
+        for (const QString &name : files) {
             QVERIFY(QFile(m_store->base() + '/' + name).open(QIODevice::WriteOnly));
+        }
         QTEST(DB::isNeedUpdate(m_store->base()), "needed");
         QCOMPARE(QDir(m_store->base()).entryList(QDir::Files), files);
     }

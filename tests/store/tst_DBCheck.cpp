@@ -146,8 +146,9 @@ private slots:
         QVERIFY(bytes != readBytes(m_store->file()));
         QVERIFY(writeFile(m_store->file(), bytes));
         std::unique_ptr<ChineseDriver> driver;
-        if (translated)
+        if (translated) {
             driver = std::make_unique<ChineseDriver>();
+        }
         QTEST(DB::checkDB(m_store->folder(), false), "sound");
     }
 
@@ -193,11 +194,13 @@ private slots:
         QFETCH(const bool, damaged);
         makeStore(filler + QStringList("CREATE TRIGGER say BEFORE INSERT ON msgrecord BEGIN SELECT RAISE(ABORT, '" +
                                        message + "'); END"));
-        if (damaged)
+        if (damaged) {
             spoilTail();
+        }
         std::unique_ptr<ChineseDriver> driver;
-        if (translated)
+        if (translated) {
             driver = std::make_unique<ChineseDriver>();
+        }
         QTEST(DB::checkDB(m_store->folder(), false), "sound");
     }
 
@@ -232,8 +235,9 @@ private:
         QVERIFY(m_store->open(user));
         DB::closeDB();
         BesideFile beside(m_store->file(user));
-        for (const QString &statement : statements)
+        for (const QString &statement : statements) {
             QVERIFY2(beside.run(statement), qPrintable(statement));
+        }
     }
 
     /// Overwrites a page of the filler table.

@@ -30,8 +30,9 @@ QStringList listedIds()
 {
     QStringList ids;
     const QList<ConfInfoData> all = DBConfInfo::getAllConfInfo();
-    for (const ConfInfoData &info : all)
+    for (const ConfInfoData &info : all) {
         ids.append(info.m_strConfID);
+    }
     return ids;
 }
 
@@ -60,8 +61,9 @@ private slots:
 
     void equalTextsOfAHistoryShareTheirMemory()
     {
-        for (const char *id : {"c1", "c2"})
+        for (const char *id : {"c1", "c2"}) {
             QVERIFY(DBConfInfo::saveConfInfo(record(id)));
+        }
         const QList<ConfInfoData> all = DBConfInfo::getAllConfInfo();
         QCOMPARE(all.size(), 2);
         QCOMPARE(all[0].m_strCreatUserID.constData(), all[1].m_strCreatUserID.constData());
@@ -107,8 +109,9 @@ private slots:
     void aLongMemberListIsStoredWhole()
     {
         QList<QString> members;
-        for (int i = 0; i < 400; ++i)
+        for (int i = 0; i < 400; ++i) {
             members.append(QStringLiteral("member%1").arg(i));
+        }
         QVERIFY(DBConfInfo::saveConfInfo(record("c1", members)));
         QVERIFY(stored("SELECT length(MemberList) FROM voipConferenceInfo").value(0).toInt() > 1000);
         QCOMPARE(DBConfInfo::getAllConfInfo().value(0).m_listMember, members);
@@ -158,8 +161,9 @@ private slots:
 
     void idsListByTextDescending()
     {
-        for (const char *id : {"10", "9", "100", "b", "B"})
+        for (const char *id : {"10", "9", "100", "b", "B"}) {
             QVERIFY(DBConfInfo::saveConfInfo(record(id)));
+        }
         QCOMPARE(listedIds(), QStringList({"b", "B", "9", "100", "10"}));
     }
 

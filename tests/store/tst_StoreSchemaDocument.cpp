@@ -20,11 +20,13 @@ QString documentRow(const ExpectedTable &table, const QString &column)
 {
     const QString type = column.section(' ', 1);
     QString row = "| " + columnName(column) + " | " + type + " |";
-    if (table.later.isEmpty())
+    if (table.later.isEmpty()) {
         return row;
+    }
     for (int i = 0; i < table.later.size(); ++i) {
-        if (columnName(table.later[i]) != columnName(column))
+        if (columnName(table.later[i]) != columnName(column)) {
             continue;
+        }
         const QString added = table.later[i].section(' ', 1).trimmed();
         return row + ' ' + QString::number(i + 1) + (added == type ? QString() : ", as `" + added + '`') + " |";
     }
@@ -53,8 +55,9 @@ private slots:
         QStringList rows;
         for (const QString &line : sectionOf(table.name)) {
             if (line.startsWith("| ") && !line.startsWith("| `") && !line.startsWith("| column ") &&
-                !line.startsWith("| index "))
+                !line.startsWith("| index ")) {
                 rows.append(line);
+            }
         }
         QCOMPARE(rows.size(), table.columns.size());
         for (int i = 0; i < rows.size(); ++i) {
@@ -69,12 +72,14 @@ private slots:
     {
         QFETCH(ExpectedTable, table);
         QStringList expected;
-        for (const ExpectedIndex &index : table.indexes)
+        for (const ExpectedIndex &index : table.indexes) {
             expected.append("| `" + index.name + "` | " + QString(index.columns).replace(",", ", ") + " |");
+        }
         QStringList rows;
         for (const QString &line : sectionOf(table.name)) {
-            if (line.startsWith("| `"))
+            if (line.startsWith("| `")) {
                 rows.append(line);
+            }
         }
         QCOMPARE(rows, expected);
     }
@@ -85,16 +90,18 @@ private:
     void eachTable()
     {
         QTest::addColumn<ExpectedTable>("table");
-        for (const ExpectedTable &table : allTables())
+        for (const ExpectedTable &table : allTables()) {
             QTest::newRow(qPrintable(table.name)) << table;
+        }
     }
 
     QStringList sectionOf(const QString &table) const
     {
         QStringList section;
         for (int i = m_lines.indexOf("### " + table) + 1; i > 0 && i < m_lines.size() && !m_lines[i].startsWith('#');
-             ++i)
+             ++i) {
             section.append(m_lines[i]);
+        }
         return section;
     }
 

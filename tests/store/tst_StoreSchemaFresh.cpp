@@ -14,8 +14,9 @@ namespace {
 QStringList expectedTableNames()
 {
     QStringList names;
-    for (const ExpectedTable &table : expectedTables())
+    for (const ExpectedTable &table : expectedTables()) {
         names.append(table.name);
+    }
     return names;
 }
 
@@ -77,8 +78,9 @@ private slots:
         SchemaFile store;
         QVERIFY(store.open());
         QStringList columns;
-        for (const QString &column : expectedTable(table).columns)
+        for (const QString &column : expectedTable(table).columns) {
             columns.append(columnInfo(column));
+        }
         QCOMPARE(store.columnsOf(table), columns);
     }
 
@@ -117,16 +119,20 @@ private slots:
         const QVector<ExpectedTable> &all = expectedTables();
         for (int first = 1; first < all.size();) {
             int last = first;
-            while (last + 1 < all.size() && all[last + 1].creator == all[first].creator)
+            while (last + 1 < all.size() && all[last + 1].creator == all[first].creator) {
                 ++last;
-            for (int i = first; i <= last; ++i)
-                statements.append(all[i].createSql());
-            for (int i = first; i <= last; ++i) {
-                for (const ExpectedIndex &index : all[i].indexes)
-                    statements.append(all[i].indexSql(index));
             }
-            if (all[first].name == "last_time")
+            for (int i = first; i <= last; ++i) {
+                statements.append(all[i].createSql());
+            }
+            for (int i = first; i <= last; ++i) {
+                for (const ExpectedIndex &index : all[i].indexes) {
+                    statements.append(all[i].indexSql(index));
+                }
+            }
+            if (all[first].name == "last_time") {
                 statements.append("INSERT INTO last_time (sessionId, lastTime)");
+            }
             first = last + 1;
         }
 
@@ -175,8 +181,9 @@ private slots:
         const auto creator = expectedTable(table).creator;
         QStringList names("loginInfo");
         for (const ExpectedTable &expected : expectedTables()) {
-            if (expected.creator == creator && expected.name != "loginInfo")
+            if (expected.creator == creator && expected.name != "loginInfo") {
                 names.append(expected.name);
+            }
         }
         SchemaFile store;
         openWithLoginTableOnly(store);
@@ -244,8 +251,9 @@ private:
     void eachTable()
     {
         QTest::addColumn<QString>("table");
-        for (const QString &name : expectedTableNames())
+        for (const QString &name : expectedTableNames()) {
             QTest::newRow(qPrintable(name)) << name;
+        }
     }
 };
 

@@ -15,8 +15,9 @@ namespace {
 QString quotedColumns(const QStringList &columns)
 {
     QStringList quoted;
-    for (const QString &column : columns)
+    for (const QString &column : columns) {
         quoted.append("quote(" + columnName(column) + ")");
+    }
     return quoted.join(',');
 }
 
@@ -28,16 +29,18 @@ QStringList missingFrom(const QStringList &columns, const QStringList &later)
         const bool there = std::any_of(columns.begin(), columns.end(), [&text](const QString &column) {
             return columnName(column) == columnName(text);
         });
-        if (!there)
+        if (!there) {
             missing.append(text);
+        }
     }
     return missing;
 }
 
 QString trimmedEnd(QString text)
 {
-    while (text.endsWith(' '))
+    while (text.endsWith(' ')) {
         text.chop(1);
+    }
     return text;
 }
 
@@ -66,10 +69,12 @@ private slots:
         QStringList infos;
         QString sql = expectedTable(table).createSql(columns);
         sql.chop(1);
-        for (const QString &column : columns + missing)
+        for (const QString &column : columns + missing) {
             infos.append(columnInfo(column));
-        for (const QString &column : missing)
+        }
+        for (const QString &column : missing) {
             sql += ", " + trimmedEnd(column);
+        }
         QCOMPARE(store.columnsOf(table), infos);
         QCOMPARE(store.storedSql(table), sql + ")");
 
@@ -96,8 +101,9 @@ private slots:
         QFETCH(QString, table);
         QFETCH(QStringList, columns);
         QStringList expected;
-        for (const QString &text : missingFrom(columns, expectedTable(table).later))
+        for (const QString &text : missingFrom(columns, expectedTable(table).later)) {
             expected.append("ALTER TABLE " + table + " ADD " + text);
+        }
 
         SchemaFile store;
         store.run({expectedTable(table).createSql(columns)});
@@ -113,8 +119,9 @@ private slots:
         QVERIFY(store.openTwice());
         QStringList names("mucmembers");
         for (const ExpectedTable &table : expectedTables()) {
-            if (table.name != "mucmembers")
+            if (table.name != "mucmembers") {
                 names.append(table.name);
+            }
         }
         QCOMPARE(store.tables(), names);
     }
@@ -165,8 +172,9 @@ private:
         QTest::addColumn<QStringList>("columns");
         int forms = 0;
         for (const ExpectedTable &table : expectedTables()) {
-            if (table.later.isEmpty())
+            if (table.later.isEmpty()) {
                 continue;
+            }
             for (int there = 0; there < table.later.size(); ++there, ++forms) {
                 QTest::addRow("%s with the first %d", qPrintable(table.name), there)
                     << table.name << table.oldestColumns() + table.later.mid(0, there);

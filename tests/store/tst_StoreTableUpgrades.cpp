@@ -23,8 +23,9 @@ private slots:
                               "CREATE INDEX msgrecord_index_sqeuenceId on msgrecord(burnFlag)"});
         QVERIFY(store.open());
         QCOMPARE(store.indexesOf("msgrecord"), expectedTable("msgrecord").indexNames());
-        for (const ExpectedIndex &index : expectedTable("msgrecord").indexes)
+        for (const ExpectedIndex &index : expectedTable("msgrecord").indexes) {
             QCOMPARE(store.storedSql(index.name), expectedTable("msgrecord").indexSql(index));
+        }
         QCOMPARE(store.rows("PRAGMA integrity_check"), QStringList("ok"));
     }
 
@@ -168,8 +169,9 @@ private slots:
         store.run({expectedTable("servicenumber").createSql(expectedTable("servicenumber").oldestColumns())});
         QVERIFY(store.openForSignIn());
         QStringList statements;
-        for (const QString &text : expectedTable("servicenumber").later)
+        for (const QString &text : expectedTable("servicenumber").later) {
             statements.append("ALTER TABLE servicenumber ADD " + text);
+        }
         statements.append(expectedTable("localservicenumber").createSql());
         QCOMPARE(store.writesOf(&DB::createServiceTable), statements);
     }

@@ -44,8 +44,9 @@ std::unique_ptr<QCoreApplication> surroundingsOf(const TestClass &testClass, int
 int usage(const char *program)
 {
     std::fprintf(stderr, "usage: %s CLASS [ARGUMENTS OF QT TEST...]\n\nIts classes:\n", program);
-    for (const TestClass &testClass : testClasses())
+    for (const TestClass &testClass : testClasses()) {
         std::fprintf(stderr, "  %s\n", testClass.name);
+    }
     return 2;
 }
 
@@ -60,8 +61,9 @@ bool enterTestClass(const TestClass &testClass)
 int main(int argc, char *argv[])
 {
     const TestClass *testClass = argc < 2 ? nullptr : testClassOf(argv[1]);
-    if (!testClass)
+    if (!testClass) {
         return usage(argv[0]);
+    }
     // The class's name is nobody's argument from here on; the null behind the last one moves too.
     std::copy(argv + 2, argv + argc + 1, argv + 1);
     --argc;

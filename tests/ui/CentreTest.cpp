@@ -42,8 +42,9 @@ void CentreTest::cleanup()
 QStringList CentreTest::ids() const
 {
     QStringList ids;
-    for (int i = 0; i < list()->model()->rowCount(); ++i)
+    for (int i = 0; i < list()->model()->rowCount(); ++i) {
         ids.append(list()->model()->index(i, 0).data(ROLE_CONF_ID).toString());
+    }
     return ids;
 }
 
@@ -73,8 +74,9 @@ ConfInfoData CentreTest::record(const QString &strConfID, const QStringList &mem
 
 void CentreTest::open(const QStringList &confIds)
 {
-    for (const QString &strConfID : confIds)
+    for (const QString &strConfID : confIds) {
         QVERIFY(DBConfInfo::saveConfInfo(record(strConfID)));
+    }
     m_pWindow = std::make_unique<CVoiceConferenceWidget>();
 }
 

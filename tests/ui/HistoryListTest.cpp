@@ -45,8 +45,9 @@ ConfInfoData HistoryListTest::record(const QString &strConfID, bool bConnected, 
 QStringList HistoryListTest::ids() const
 {
     QStringList ids;
-    for (int i = 0; i < m_pList->model()->rowCount(); ++i)
+    for (int i = 0; i < m_pList->model()->rowCount(); ++i) {
         ids.append(data(i, ROLE_CONF_ID).toString());
+    }
     return ids;
 }
 
@@ -94,8 +95,9 @@ void HistoryListTest::openMenu(int iRow)
 QStringList HistoryListTest::entries() const
 {
     QStringList texts;
-    for (const QAction *pAction : m_pList->m_pMenu->actions())
+    for (const QAction *pAction : m_pList->m_pMenu->actions()) {
         texts.append(pAction->text());
+    }
     return texts;
 }
 
@@ -112,16 +114,20 @@ QStringList HistoryListTest::takeSigns()
 {
     QStringList signs;
     for (const ReceivedEvent &event : qAsConst(m_pHost->events)) {
-        if (event.msgId == MSG_CLOSE_SIGN_LIST)
+        if (event.msgId == MSG_CLOSE_SIGN_LIST) {
             signs.append(QStringLiteral("close"));
-        if (event.msgId != MSG_SHOW_SIGN_LIST)
+        }
+        if (event.msgId != MSG_SHOW_SIGN_LIST) {
             continue;
+        }
         PayloadReader reader = event.reader();
         QStringList fields{reader.take<QString>()};
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 3; ++i) {
             fields.append(QString::number(reader.take<qint32>()));
-        for (int i = 0; i < 2; ++i)
+        }
+        for (int i = 0; i < 2; ++i) {
             fields.append(reader.take<bool>() ? QStringLiteral("1") : QStringLiteral("0"));
+        }
         signs.append(fields.join(QLatin1Char(' ')));
     }
     m_pHost->events.clear();

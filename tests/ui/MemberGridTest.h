@@ -23,8 +23,9 @@ public:
     explicit LastMove(QWidget *pWidget) { pWidget->installEventFilter(this); }
     bool eventFilter(QObject *, QEvent *event) override
     {
-        if (event->type() == QEvent::MouseMove)
+        if (event->type() == QEvent::MouseMove) {
             m_position = static_cast<QMouseEvent *>(event)->pos();
+        }
         return false;
     }
     QPoint position() const { return m_position; }
@@ -41,8 +42,9 @@ protected:
     static QStringList members(int iCount)
     {
         QStringList list;
-        for (int i = 0; i < iCount; ++i)
+        for (int i = 0; i < iCount; ++i) {
             list.append(QStringLiteral("m%1").arg(i));
+        }
         return list;
     }
     QVariant data(int iRow, int iColumn, int iRole) const { return m_pGrid->model()->index(iRow, iColumn).data(iRole); }

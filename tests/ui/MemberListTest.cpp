@@ -44,11 +44,13 @@ void MemberListTest::addContact(const char *uid, const QString &strNick, const Q
 void MemberListTest::showMembers(int iRows, int iStatus)
 {
     QStringList members;
-    for (int i = 0; i < iRows; ++i)
+    for (int i = 0; i < iRows; ++i) {
         members.append(QStringLiteral("m%1").arg(i));
+    }
     m_pList->addUserList(members);
-    for (const QString &strMember : members)
+    for (const QString &strMember : members) {
         m_pList->updateConferenceUserStatus(strMember, iStatus);
+    }
     showList();
 }
 
@@ -94,8 +96,9 @@ int countPixels(const QImage &image, const QRect &place, const QColor &color, in
     const qreal dRatio = image.devicePixelRatio();
     int iCount = 0;
     for (int y = qRound(place.top() * dRatio); y < qRound((place.bottom() + 1) * dRatio); ++y) {
-        for (int x = qRound(place.left() * dRatio); x < qRound((place.right() + 1) * dRatio); ++x)
+        for (int x = qRound(place.left() * dRatio); x < qRound((place.right() + 1) * dRatio); ++x) {
             iCount += isIt(image.pixelColor(x, y)) ? 1 : 0;
+        }
     }
     return iCount;
 }

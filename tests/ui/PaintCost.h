@@ -24,8 +24,9 @@ public:
     }
     bool eventFilter(QObject *, QEvent *event) override
     {
-        if (event->type() == QEvent::Paint)
+        if (event->type() == QEvent::Paint) {
             m_regions.append(static_cast<QPaintEvent *>(event)->region());
+        }
         return false;
     }
     int count() const { return m_regions.size(); }
@@ -49,8 +50,9 @@ class OpenedFiles
 public:
     explicit OpenedFiles(const QStringList &files) : m_iQueue(inotify_init1(IN_NONBLOCK))
     {
-        for (const QString &strFile : files)
+        for (const QString &strFile : files) {
             inotify_add_watch(m_iQueue, QFile::encodeName(strFile).constData(), IN_OPEN);
+        }
     }
     ~OpenedFiles() { close(m_iQueue); }
     OpenedFiles(const OpenedFiles &) = delete;

@@ -28,6 +28,7 @@ QImage paintedLike(const QWidget &port, Paint paint)
 inline void leavePicture(const QImage &picture, const QString &strName)
 {
     const QString strFolder = qEnvironmentVariable("VOIP_PICTURES");
-    if (!strFolder.isEmpty())
+    if (!strFolder.isEmpty()) {
         picture.save(QStringLiteral("%1/%2@%3x.png").arg(strFolder, strName).arg(picture.devicePixelRatio()));
+    }
 }

@@ -16,8 +16,9 @@ public:
     ArrivedMove(QWidget *pWidget, const QPoint &position) : m_position(position) { pWidget->installEventFilter(this); }
     bool eventFilter(QObject *, QEvent *event) override
     {
-        if (event->type() == QEvent::MouseMove && static_cast<QMouseEvent *>(event)->pos() == m_position)
+        if (event->type() == QEvent::MouseMove && static_cast<QMouseEvent *>(event)->pos() == m_position) {
             bArrived = true;
+        }
         return false;
     }
     bool bArrived = false;

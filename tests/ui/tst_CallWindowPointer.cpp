@@ -73,26 +73,32 @@ QString complaint(const QImage &before, const QImage &now, const QRect &band, in
             const QPoint place(x / iDensity, y / iDensity);
             const bool bChanged = now.pixel(x, y) != before.pixel(x, y);
             if (!band.contains(place) || inside.contains(place)) {
-                if (bChanged)
+                if (bChanged) {
                     return QStringLiteral("changed at %1,%2").arg(x).arg(y);
+                }
                 continue;
             }
             // A dot on black shows as little as none: a window's transparent margin where there is no compositor.
-            if (!isBlack(before.pixel(x, y)))
+            if (!isBlack(before.pixel(x, y))) {
                 ++iPixels;
-            if (!bChanged)
+            }
+            if (!bChanged) {
                 continue;
-            if (!isBlack(now.pixel(x, y)))
+            }
+            if (!isBlack(now.pixel(x, y))) {
                 return QStringLiteral("no dot at %1,%2").arg(x).arg(y);
+            }
             // Dots touch at their corners only.
             const QPoint right(x + iDensity, y);
-            if (band.contains(right / iDensity) && isBlack(now.pixel(right)) && !isBlack(before.pixel(right)))
+            if (band.contains(right / iDensity) && isBlack(now.pixel(right)) && !isBlack(before.pixel(right))) {
                 return QStringLiteral("two dots at %1,%2").arg(x).arg(y);
+            }
             ++iDots;
         }
     }
-    if (qAbs(2 * iDots - iPixels) > iPixels / 50)
+    if (qAbs(2 * iDots - iPixels) > iPixels / 50) {
         return QStringLiteral("%1 dots of %2 pixels").arg(iDots).arg(iPixels);
+    }
     return {};
 }
 
@@ -123,9 +129,11 @@ private:
 
     static QRect shownBand()
     {
-        for (QWidget *pWindow : QApplication::topLevelWidgets())
-            if (qobject_cast<MyRubberBand *>(pWindow) != nullptr && pWindow->isVisible())
+        for (QWidget *pWindow : QApplication::topLevelWidgets()) {
+            if (qobject_cast<MyRubberBand *>(pWindow) != nullptr && pWindow->isVisible()) {
                 return pWindow->geometry();
+            }
+        }
         return {};
     }
 
@@ -204,8 +212,9 @@ private slots:
         m_pointer.moveTo(cHome + target);
         QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(target, Qt::ArrowCursor), kPatienceMs);
         QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), Qt::ArrowCursor, kPatienceMs);
-        if (!drags)
+        if (!drags) {
             return;
+        }
         m_pointer.press(Qt::LeftButton);
         m_pointer.moveTo(cHome + target + QPoint(15, 10));
         m_pointer.moveTo(cHome + target + QPoint(30, 20));

@@ -190,8 +190,9 @@ private slots:
         const QString strCreate = part<QPushButton>("creatConferenceBtn")->styleSheet().remove(QLatin1Char('\n'));
         const QString strRules = QStringLiteral("{border-radius: 2px;color:#ffffff;background-color:#27c341;}");
         QString strExpected;
-        for (const char *pState : {":!checked", ":checked", ":!checked:hover", ":hover:pressed"})
+        for (const char *pState : {":!checked", ":checked", ":!checked:hover", ":hover:pressed"}) {
             strExpected += QStringLiteral("QPushButton#creatConferenceBtn") + QLatin1String(pState) + strRules;
+        }
         QCOMPARE(strCreate, strExpected);
     }
 
@@ -215,8 +216,9 @@ private slots:
     {
         const QMetaObject &meta = CVoiceConferenceWidget::staticMetaObject;
         QStringList methods;
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
             methods.append(QString::fromLatin1(meta.method(i).methodSignature()));
+        }
         QCOMPARE(methods,
                  QStringList({"signal_VoiceConfWidgetClose()", "signal_DeleteConfInfoData(QString)", "slot_close()",
                               "slot_ShowConfDetail(QString)", "slot_BackToConfListPage()", "slot_CreatConferencePage()",

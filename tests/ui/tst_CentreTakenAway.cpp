@@ -31,8 +31,9 @@ private:
     void takeAwayAt(int iRequest, std::unique_ptr<Widget> &pWidget)
     {
         m_pHost->whileHandled = [iRequest, &pWidget](BaseEvent &event) {
-            if (event.msgId == iRequest)
+            if (event.msgId == iRequest) {
                 pWidget.reset();
+            }
         };
     }
 
@@ -40,12 +41,13 @@ private:
     {
         QEvent leave(QEvent::Leave);
         QMouseEvent move(QEvent::MouseMove, QPointF(40, 70), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-        if (act == Act::DelayEnds)
+        if (act == Act::DelayEnds) {
             QVERIFY(QMetaObject::invokeMethod(pView, "slot_ShowSign"));
-        else if (act == Act::MoveBesideAHead)
+        } else if (act == Act::MoveBesideAHead) {
             QCoreApplication::sendEvent(pView->viewport(), &move);
-        else
+        } else {
             QCoreApplication::sendEvent(pView, &leave);
+        }
     }
 
     static void addCardRows()

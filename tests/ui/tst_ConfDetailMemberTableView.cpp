@@ -30,18 +30,21 @@ private slots:
         m_pGrid->setMemList(members(iMembers));
         QCOMPARE(m_pGrid->model()->rowCount(), iRows);
         QCOMPARE(m_pGrid->model()->columnCount(), qMin(iMembers, 6));
-        for (int i = 0; i < iRows * m_pGrid->model()->columnCount(); ++i)
+        for (int i = 0; i < iRows * m_pGrid->model()->columnCount(); ++i) {
             QCOMPARE(uid(i / 6, i % 6), i < iMembers ? QStringLiteral("m%1").arg(i) : QString());
+        }
     }
 
     void seventhMemberStandsAloneInTheSecondRow()
     {
         m_pGrid->setMemList(members(7));
-        for (int iColumn = 0; iColumn < 6; ++iColumn)
+        for (int iColumn = 0; iColumn < 6; ++iColumn) {
             QCOMPARE(uid(0, iColumn), QStringLiteral("m%1").arg(iColumn));
+        }
         QCOMPARE(uid(1, 0), QStringLiteral("m6"));
-        for (int iColumn = 1; iColumn < 6; ++iColumn)
+        for (int iColumn = 1; iColumn < 6; ++iColumn) {
             QVERIFY(!data(1, iColumn, ROLE_USER_ID).isValid());
+        }
     }
 
     void cellHoldsUidShownNameAndHead()

@@ -69,8 +69,9 @@ private:
     /// The cell by its numbers, with nothing kept from one painting to the next.
     static void paintByNumbers(QPainter &painter, const QRect &r, const QModelIndex &index)
     {
-        if (index.data(Qt::UserRole + 90).toString().isEmpty())
+        if (index.data(Qt::UserRole + 90).toString().isEmpty()) {
             return;
+        }
         const qreal dRatio = painter.device()->devicePixelRatioF();
         const int iTwice = qRound(84 * dRatio);
         QPixmap head = QPixmap(index.data(Qt::UserRole + 2).toString())
@@ -104,8 +105,9 @@ private:
             const QAbstractItemModel &model = *m_pGrid->model();
             for (int i = 0; i < model.rowCount() * model.columnCount(); ++i) {
                 const QModelIndex index = model.index(i / model.columnCount(), i % model.columnCount());
-                if (m_pGrid->visualRect(index).intersects(pPort->rect()))
+                if (m_pGrid->visualRect(index).intersects(pPort->rect())) {
                     paintByNumbers(painter, m_pGrid->visualRect(index), index);
+                }
             }
         });
     }
@@ -159,11 +161,12 @@ private slots:
     void scrolledGridLooksAsNumbersSay()
     {
         writePicture(QStringLiteral("blue.png"), Qt::blue);
-        for (int i = 0; i < 31; ++i)
+        for (int i = 0; i < 31; ++i) {
             addMember(qPrintable(QString::number(i)), QStringLiteral("成员 %1").arg(i),
                       i % 3 == 0   ? QStringLiteral("red.png")
                       : i % 3 == 1 ? QStringLiteral("blue.png")
                                    : QString());
+        }
         show();
         picture();
         m_pGrid->verticalScrollBar()->setValue(m_pGrid->verticalScrollBar()->maximum());
@@ -194,10 +197,12 @@ private slots:
         const QColor ground = m_pGrid->palette().color(QPalette::Base);
         int iInk = 0;
         for (int y = qRound(62 * dRatio); y < qRound(80 * dRatio); ++y) {
-            for (int x = 0; x < qRound(80 * dRatio); ++x)
+            for (int x = 0; x < qRound(80 * dRatio); ++x) {
                 iInk += image.pixelColor(x, y) != ground ? 1 : 0;
-            for (int x = qRound(80 * dRatio); x < qRound(160 * dRatio); ++x)
+            }
+            for (int x = qRound(80 * dRatio); x < qRound(160 * dRatio); ++x) {
                 QCOMPARE(image.pixelColor(x, y), ground);
+            }
         }
         QVERIFY(iInk > 100);
     }
@@ -287,8 +292,9 @@ private slots:
 
     void headsPlaceAsksForNoSecondPainting()
     {
-        for (int i = 0; i < 1000; ++i)
+        for (int i = 0; i < 1000; ++i) {
             m_members.append(QString::number(i));
+        }
         show();
         const Repaints repaints(m_pGrid->viewport());
         m_pGrid->verticalScrollBar()->setValue(20);

@@ -58,8 +58,9 @@ private:
         m_pPage->setPalette(palette);
         m_pPage->resize(517, 309);
         m_pPage->show();
-        if (!QTest::qWaitForWindowExposed(m_pPage.get(), kPatienceMs))
+        if (!QTest::qWaitForWindowExposed(m_pPage.get(), kPatienceMs)) {
             return {};
+        }
         QCoreApplication::processEvents();
         QImage image = m_pPage->grab().toImage().convertToFormat(QImage::Format_RGB32);
         leavePicture(image, QLatin1String(pName));
@@ -192,11 +193,13 @@ private slots:
         addContact(QStringLiteral("ann"), QStringLiteral("Ann"), QStringLiteral("red.png"));
         addContact(QStringLiteral("m3"), QStringLiteral("a name that is far too long for one cell"));
         QStringList members;
-        for (int i = 0; i < 15; ++i)
+        for (int i = 0; i < 15; ++i) {
             members.append(QStringLiteral("m%1").arg(i));
-        for (int i = 0; i < 15; i += 2)
+        }
+        for (int i = 0; i < 15; i += 2) {
             addContact(members.at(i), QStringLiteral("成员 %1").arg(i),
                        i % 4 == 0 ? QStringLiteral("red.png") : QString());
+        }
         m_pPage->setConferenceDetail(record(QStringLiteral("ann"), QStringLiteral("3725"), members));
         QCOMPARE(text("CreatName"), QStringLiteral("Ann"));
         QCOMPARE(text("lblCallTime"), QStringLiteral("1小时2分5秒"));
@@ -314,8 +317,9 @@ private slots:
         m_pPage->setConferenceDetail(record(QStringLiteral("ann")));
         QCOMPARE(text("CreatName"), QStringLiteral("<h1>Ann</h1>&amp;"));
         for (const char *pName : {"creatUserIcon", "CreatName", "lblCallTime", "isCreatorIcon", "lblCreateTime",
-                                  "lblLine", "lblTableViewTitle"})
+                                  "lblLine", "lblTableViewTitle"}) {
             QCOMPARE(label(pName)->textFormat(), Qt::PlainText);
+        }
     }
 
     void longNameLeavesTheCallTimeItsPlace()
@@ -345,8 +349,9 @@ private slots:
     void secondRecordAfterClearingShowsNothingOfTheFirst()
     {
         QStringList many;
-        for (int i = 0; i < 20; ++i)
+        for (int i = 0; i < 20; ++i) {
             many.append(QString::number(i));
+        }
         addContact(QStringLiteral("ann"), QStringLiteral("Ann"));
         m_pPage->setConferenceDetail(record(QStringLiteral("ann"), QStringLiteral("75"), many));
         m_pPage->clearDetail();

@@ -20,8 +20,9 @@ private:
     QStringList listIds() const
     {
         QStringList ids;
-        for (const ConfInfoData &info : qAsConst(m_pList->m_confInfoList))
+        for (const ConfInfoData &info : qAsConst(m_pList->m_confInfoList)) {
             ids.append(info.m_strConfID);
+        }
         return ids;
     }
 
@@ -30,8 +31,9 @@ private slots:
     {
         const QMetaObject &meta = CConferenceInfoListView::staticMetaObject;
         QStringList methods;
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
             methods.append(QString::fromLatin1(meta.method(i).methodSignature()));
+        }
         QCOMPARE(methods,
                  QStringList({"signal_ShowConfDetail(QString)", "signal_ReCallConf(QString)",
                               "signal_DeleteConfInfo(QString)", "slot_selectAction(QAction*)", "slot_ShowSign()"}));
@@ -82,11 +84,13 @@ private slots:
         bert.setVcardInfo(ContactFixture::card(QStringLiteral("Bert"), {}));
         m_pHost->setRecord(ContactFixture::jid(QStringLiteral("bert")), bert);
         QList<ConfInfoData> records;
-        for (const char *pId : {"c3", "c2", "c1"})
+        for (const char *pId : {"c3", "c2", "c1"}) {
             records.append(record(QLatin1String(pId), true, QStringLiteral("bert")));
+        }
         m_pList->addConfInfoList(records);
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 3; ++i) {
             QCOMPARE(data(i, ROLE_DISPLAY_NAME).toString(), bert.displayName());
+        }
         QCOMPARE(m_pHost->received(MSG_GET_FRIEND_INFO).size(), 1);
         m_pList->addConfInfoData(record(QStringLiteral("c4"), true, QStringLiteral("bert")));
         QCOMPARE(m_pHost->received(MSG_GET_FRIEND_INFO).size(), 2);
@@ -140,8 +144,9 @@ private slots:
     {
         m_pList->addConfInfoList({record(QStringLiteral("b")), record(QStringLiteral("a"))});
         m_pList->addConfInfoData(record(QStringLiteral("c")));
-        for (const char *pId : {"a", "b", "c", ""})
+        for (const char *pId : {"a", "b", "c", ""}) {
             m_pList->addConfInfoData(record(QLatin1String(pId), false));
+        }
         QCOMPARE(ids(), QStringList({"c", "b", "a"}));
         QCOMPARE(listIds(), QStringList({"b", "a", "c"}));
         QCOMPARE(data(0, ROLE_CALL_STATUS), QVariant(true));
@@ -248,8 +253,9 @@ private slots:
     void hundredThousandRecords()
     {
         QList<ConfInfoData> records;
-        for (int i = 100000; i > 0; --i)
+        for (int i = 100000; i > 0; --i) {
             records.append(record(QString::number(100000 + i), i % 2 == 0, QStringLiteral("u%1").arg(i % 50)));
+        }
         m_pList->addConfInfoList(records);
         QCOMPARE(m_pHost->received(MSG_GET_FRIEND_INFO).size(), 50);
         show({});

@@ -37,10 +37,12 @@ private slots:
         QSignalSpy spy(m_pList.get(), SIGNAL(signal_ShowConfDetail(QString)));
         hover(0);
         const QRect button = place(0, ROLE_REMOVE_RECT);
-        for (const QPoint &corner : {button.topLeft(), button.bottomRight(), button.center()})
+        for (const QPoint &corner : {button.topLeft(), button.bottomRight(), button.center()}) {
             click(corner);
-        for (const QPoint &outside : {button.topLeft() - QPoint(1, 0), button.bottomRight() + QPoint(0, 1)})
+        }
+        for (const QPoint &outside : {button.topLeft() - QPoint(1, 0), button.bottomRight() + QPoint(0, 1)}) {
             click(outside);
+        }
         QCOMPARE(spy.size(), 3);
         QCOMPARE(spy.first().first().toString(), QStringLiteral("b"));
     }
@@ -169,8 +171,9 @@ private slots:
     void scrolledButtonAndHeadAnswerWhereTheyStandNow()
     {
         QList<ConfInfoData> records;
-        for (int i = 20; i > 0; --i)
+        for (int i = 20; i > 0; --i) {
             records.append(record(QString::number(i + 10)));
+        }
         show(records);
         hover(2);
         const QRect button = place(2, ROLE_REMOVE_RECT);
@@ -184,8 +187,9 @@ private slots:
         click(button.center());
         QCOMPARE(spy.size(), 1);
         QCOMPARE(spy.first().first().toString(), data(3, ROLE_CONF_ID).toString());
-        for (int i = 1; i < 5; ++i)
+        for (int i = 1; i < 5; ++i) {
             QCOMPARE(place(i, ROLE_HEAD_RECT), QRect(10, 62 * i - 52, 40, 40));
+        }
     }
 
     void moveTellsTheRowInEveryCase()
@@ -262,8 +266,9 @@ private slots:
     void cardHasTheListsWholeWidthBesideAScrollBar()
     {
         QList<ConfInfoData> records;
-        for (int i = 20; i > 0; --i)
+        for (int i = 20; i > 0; --i) {
             records.append(record(QString::number(i + 10)));
+        }
         show(records);
         moveTo(cOnHead + QPoint(5, 4));
         QTRY_VERIFY_WITH_TIMEOUT(m_pList->viewport()->width() < m_pList->width(), kPatienceMs);

@@ -20,8 +20,9 @@ public:
     explicit Repaints(QWidget *pWidget) { pWidget->installEventFilter(this); }
     bool eventFilter(QObject *, QEvent *event) override
     {
-        if (event->type() == QEvent::Paint)
+        if (event->type() == QEvent::Paint) {
             ++iCount;
+        }
         return false;
     }
     int iCount = 0;
@@ -98,8 +99,9 @@ private:
     QImage byNumbers(int iHovered) const
     {
         return paintedLike(*m_pList->viewport(), [&](QPainter &painter) {
-            for (int i = 0; i < m_pList->model()->rowCount(); ++i)
+            for (int i = 0; i < m_pList->model()->rowCount(); ++i) {
                 paintByNumbers(painter, row(i), index(i), i == iHovered);
+            }
         });
     }
 
@@ -132,8 +134,9 @@ private slots:
         m_pContacts->addContact(QStringLiteral("long"), ContactFixture::card(cLongName, {}));
         show({record(QStringLiteral("d")), record(QStringLiteral("c"), false, QStringLiteral("me")),
               longRecord(QStringLiteral("b"), true), longRecord(QStringLiteral("a"), false)});
-        if (hovered >= 0)
+        if (hovered >= 0) {
             hover(hovered);
+        }
         const QImage painted = picture();
         const QImage told = byNumbers(hovered);
         leavePicture(painted, QStringLiteral("history-%1").arg(hovered));
@@ -160,8 +163,9 @@ private slots:
     void headsPlaceFollowsTheScrolling()
     {
         QList<ConfInfoData> records;
-        for (int i = 9; i >= 0; --i)
+        for (int i = 9; i >= 0; --i) {
             records.append(record(QString::number(i)));
+        }
         show(records);
         m_pList->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
         m_pList->verticalScrollBar()->setValue(30);

@@ -19,8 +19,9 @@ private:
     {
         m_pList->setIsCallByMe(bCallByMe);
         m_pList->addUserList({QStringLiteral("ann"), QStringLiteral("bob")});
-        for (const char *uid : {"ann", "bob"})
+        for (const char *uid : {"ann", "bob"}) {
             m_pList->updateConferenceUserStatus(QLatin1String(uid), iStatus);
+        }
         showList();
     }
 
@@ -31,8 +32,9 @@ private:
         for (int y = qRound(place.top() * ratio); y < qRound((place.bottom() + 1) * ratio); ++y) {
             for (int x = qRound(place.left() * ratio); x < qRound((place.right() + 1) * ratio); ++x) {
                 const QColor color = image.pixelColor(x, y);
-                if (color.green() > color.red() + 40 && color.green() > color.blue() + 40)
+                if (color.green() > color.red() + 40 && color.green() > color.blue() + 40) {
                     return true;
+                }
             }
         }
         return false;
@@ -242,8 +244,9 @@ private slots:
     {
         const QSignalSpy removed(m_pList.get(), &CConferenceListView::signal_RemoveUser);
         show(1);
-        for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton})
+        for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
             click(place(0, ROLE_REMOVE_RECT).center(), button);
+        }
         QCOMPARE(removed.count(), 0);
     }
 
@@ -269,8 +272,9 @@ private slots:
         const QSignalSpy told(m_pList.get(), &QAbstractItemView::clicked);
         show(1);
         for (const QPoint &position :
-             {row(0).center(), place(0, ROLE_REMOVE_RECT).center(), place(1, ROLE_MUTE_RECT).center()})
+             {row(0).center(), place(0, ROLE_REMOVE_RECT).center(), place(1, ROLE_MUTE_RECT).center()}) {
             click(position);
+        }
         QCOMPARE(told.count(), 0);
     }
 

@@ -58,8 +58,9 @@ private slots:
         const int whole = Allocations::during([&] { m_pList->addUser(bob); });
         const int roleByRole = Allocations::during([&] {
             QStandardItem row;
-            for (auto role = roles.begin(); role != roles.end(); ++role)
+            for (auto role = roles.begin(); role != roles.end(); ++role) {
                 row.setData(role.value(), role.key());
+            }
         });
         const int question = Allocations::during(
             [&] { VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(bob)).displayName(); });
@@ -82,8 +83,9 @@ private slots:
                 m_pList->addUser(members.last());
             }
             return processorTime([&] {
-                for (int round = 0; round < rounds; ++round)
+                for (int round = 0; round < rounds; ++round) {
                     m_pList->addUser(members.last());
+                }
             });
         };
         const double few = costOfTheLast(fewMembers);

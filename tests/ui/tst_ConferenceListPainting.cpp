@@ -85,8 +85,9 @@ private:
     static void paintHeadByNumbers(QPainter &painter, const QRect &r, const QString &strPath)
     {
         QPixmap head(strPath);
-        if (head.isNull())
+        if (head.isNull()) {
             return;
+        }
         const qreal dRatio = painter.device()->devicePixelRatioF();
         const int iTwice = qRound(44 * dRatio);
         QBitmap mask(iTwice, iTwice);
@@ -110,8 +111,9 @@ private:
         return paintedLike(*pPort, [&](QPainter &painter) {
             painter.setRenderHint(QPainter::SmoothPixmapTransform);
             for (int iRow = 0; iRow < rowCount(); ++iRow) {
-                if (row(iRow).intersects(pPort->rect()))
+                if (row(iRow).intersects(pPort->rect())) {
                     paintByNumbers(painter, row(iRow), index(iRow));
+                }
             }
         });
     }
@@ -158,12 +160,15 @@ private slots:
     void mutedRowsAndButtonsUnderTheCursor()
     {
         showMembers(6);
-        for (const int iRow : {1, 3})
+        for (const int iRow : {1, 3}) {
             setData(iRow, ROLE_MUTED, true);
-        for (const int iRow : {2, 3, 4})
+        }
+        for (const int iRow : {2, 3, 4}) {
             setData(iRow, ROLE_MUTE_HOVER, true);
-        for (const int iRow : {4, 5})
+        }
+        for (const int iRow : {4, 5}) {
             setData(iRow, ROLE_REMOVE_HOVER, true);
+        }
         compareWithNumbers("members-hover");
     }
 
@@ -289,8 +294,9 @@ private slots:
         picture();
         m_pList->verticalScrollBar()->setValue(1);
         QCoreApplication::processEvents();
-        for (int number : {2, 3, 4})
+        for (int number : {2, 3, 4}) {
             QCOMPARE(place(number, ROLE_REMOVE_RECT).top(), row(number).top() + 10);
+        }
         click(place(3, ROLE_REMOVE_RECT).center());
         QCOMPARE(removed.count(), 1);
         QCOMPARE(removed.last().first().toString(), QStringLiteral("m3"));

@@ -59,8 +59,9 @@ private slots:
         showList();
         doubleClick(1);
         QCOMPARE(invited.count(), invites ? 1 : 0);
-        if (invites)
+        if (invites) {
             QCOMPARE(invited.first().first().toString(), uid("bob"));
+        }
         QCOMPARE(data(1, ROLE_INVITE_TIME).toTime().isValid(), invites);
         QCOMPARE(status(1), code);
     }

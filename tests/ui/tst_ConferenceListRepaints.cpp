@@ -42,8 +42,9 @@ private slots:
     {
         showMembers(1000, ConferenceCalling);
         const Repaints repaints(m_pList->viewport());
-        for (int i = 0; i < 1000; ++i)
+        for (int i = 0; i < 1000; ++i) {
             m_pList->updateConferenceUserStatus(QStringLiteral("m%1").arg(i), ConferenceConnected);
+        }
         QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, kPatienceMs);
         QVERIFY(!repaints.isAnyDue());
     }

@@ -30,8 +30,9 @@ private slots:
         QTest::addColumn<int>("happening");
         for (const char *happening :
              {"a member's status", "a status written into the model", "the failed", "another list", "a row made anew",
-              "a second row of the uid", "an emptied list", "the other's row taken away"})
+              "a second row of the uid", "an emptied list", "the other's row taken away"}) {
             QTest::newRow(happening) << m_iHappenings++;
+        }
     }
     void sameListAgainConnectsWhoHasLeftThatStatus()
     {
@@ -64,8 +65,9 @@ private slots:
         QCOMPARE(m_iHappenings, int(happenings.size()));
         happenings.at(std::size_t(happening))();
         m_pList->updateConferenceListStatus(members);
-        for (int iRow = 0; iRow < rowCount(); ++iRow)
+        for (int iRow = 0; iRow < rowCount(); ++iRow) {
             QCOMPARE(status(iRow), 1);
+        }
     }
 
     void failedListMarksTheListedOnly()

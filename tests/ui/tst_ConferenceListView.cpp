@@ -17,8 +17,9 @@ private slots:
     {
         QStringList signatures;
         const QMetaObject &meta = CConferenceListView::staticMetaObject;
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
             signatures.append(QString::fromLatin1(meta.method(i).methodSignature()));
+        }
         QCOMPARE(signatures, (QStringList{"signal_RemoveUser(QString)", "signal_MuteUser(QString,bool)",
                                           "signal_ReInviteConfUser(QString)", "slot_UpdateCallStatu()"}));
     }
@@ -41,8 +42,9 @@ private slots:
         QCOMPARE(data(0, ROLE_DISPLAY_NAME).toString(), uid("Ann"));
         QCOMPARE(data(0, ROLE_HEAD_PATH).toString(), uid("Resources/images/FriendDetail/defaultHead.png"));
         QCOMPARE(data(0, ROLE_CALL_STATUS), QVariant(0));
-        for (const int role : {ROLE_REMOVE_HOVER, ROLE_MUTE_HOVER, ROLE_MUTED, ROLE_IS_CREATOR})
+        for (const int role : {ROLE_REMOVE_HOVER, ROLE_MUTE_HOVER, ROLE_MUTED, ROLE_IS_CREATOR}) {
             QCOMPARE(data(0, role), QVariant(false));
+        }
         QCOMPARE(data(0, ROLE_CALL_BY_ME), QVariant(true));
         QVERIFY(data(0, ROLE_INVITE_TIME).toTime().isValid());
         QVERIFY(!data(0, ROLE_REMOVE_RECT).isValid());

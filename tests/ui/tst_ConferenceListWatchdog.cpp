@@ -18,8 +18,9 @@ private:
             setData(0, ROLE_CALL_STATUS, int(ConferenceCalling));
             setData(0, ROLE_INVITE_TIME, now.addMSecs(-iAgo));
             tick();
-            if (QTime::currentTime() == now)
+            if (QTime::currentTime() == now) {
                 return;
+            }
         }
     }
 
@@ -91,15 +92,18 @@ private slots:
     void onlyCalledMembersAreGivenUp()
     {
         m_pList->addUserList({uid("late"), uid("fresh"), uid("m1"), uid("m2"), uid("m3"), uid("m4"), uid("m5")});
-        for (int iStatus = 1; iStatus <= 5; ++iStatus)
+        for (int iStatus = 1; iStatus <= 5; ++iStatus) {
             m_pList->updateConferenceUserStatus(QStringLiteral("m%1").arg(iStatus), iStatus);
-        for (int iRow = 2; iRow < rowCount(); ++iRow)
+        }
+        for (int iRow = 2; iRow < rowCount(); ++iRow) {
             setData(iRow, ROLE_INVITE_TIME, QTime(0, 0));
+        }
         tickAfter(600000);
         QCOMPARE(status(0), 2);
         QCOMPARE(status(1), 0);
-        for (int iStatus = 1; iStatus <= 5; ++iStatus)
+        for (int iStatus = 1; iStatus <= 5; ++iStatus) {
             QCOMPARE(status(iStatus + 1), iStatus);
+        }
     }
 
     void invitingAgainRestartsTheTwoMinutes()

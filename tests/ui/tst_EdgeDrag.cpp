@@ -109,8 +109,9 @@ private slots:
         QTest::newRow("bottom right inwards") << 12 << QPoint(700, 500) << w;
         QTest::newRow("bottom right beyond the work area") << 12 << QPoint(2500, 1900) << QRect(300, 200, 1580, 1100);
 
-        for (int iEdges : {0, 5, 7, 10, 11, 13, 14, 15})
+        for (int iEdges : {0, 5, 7, 10, 11, 13, 14, 15}) {
             QTest::addRow("no edge or corner: %d", iEdges) << iEdges << QPoint(900, 700) << cPrevious;
+        }
     }
 
     void dragGivesTheRectangle()

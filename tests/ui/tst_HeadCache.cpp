@@ -68,8 +68,9 @@ private slots:
     {
         writePicture(m_strPath, Qt::red);
         HeadCache cache(&drawTest);
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 3; ++i) {
             QCOMPARE(middle(cache.picture(m_strPath, 22, 1.0)), QColor(Qt::red));
+        }
         QCOMPARE(s_iDrawn, 1);
     }
 
@@ -173,8 +174,9 @@ private slots:
         writePicture(m_strPath, Qt::red);
         HeadCache cache(&drawTest);
         // Pictures of four million bytes: the fifth has no room beside the others.
-        for (int iSide = 1000; iSide < 1005; ++iSide)
+        for (int iSide = 1000; iSide < 1005; ++iSide) {
             cache.picture(m_strPath, iSide, 1.0);
+        }
         QCOMPARE(s_iDrawn, 5);
         cache.picture(m_strPath, 1004, 1.0);
         QCOMPARE(s_iDrawn, 5);
@@ -185,8 +187,9 @@ private slots:
     void cacheOfManyHeadsWithoutAPictureStartsAnew()
     {
         HeadCache cache(&drawTest);
-        for (int iHead = 0; iHead < 4096; ++iHead)
+        for (int iHead = 0; iHead < 4096; ++iHead) {
             cache.picture(QStringLiteral(":/no/%1").arg(iHead), 22, 1.0);
+        }
         cache.picture(QStringLiteral(":/no/0"), 22, 1.0);
         QCOMPARE(s_iDrawn, 4096);
         cache.picture(QStringLiteral(":/no/4096"), 22, 1.0);

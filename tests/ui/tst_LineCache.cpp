@@ -89,8 +89,9 @@ private slots:
     {
         LineCache lines;
         painted(1, [&](QPainter &painter) {
-            for (int i = 0; i < 10000; ++i)
+            for (int i = 0; i < 10000; ++i) {
                 QCOMPARE(lines.line(painter, QString::number(i), 150).text.text(), QString::number(i));
+            }
             QCOMPARE(lines.line(painter, "0", 150).text.text(), QString("0"));
         });
     }

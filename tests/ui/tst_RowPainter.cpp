@@ -117,8 +117,9 @@ private slots:
     {
         const QImage image = lineOf(QStringLiteral("aa\nbb cc dd ee ff gg hh ii jj kk ll mm nn"), 60);
         for (int y = m_metrics.height() + 1; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x)
+            for (int x = 0; x < image.width(); ++x) {
                 QCOMPARE(image.pixel(x, y), qRgb(255, 255, 255));
+            }
         }
     }
 

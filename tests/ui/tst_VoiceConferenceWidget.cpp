@@ -97,8 +97,9 @@ private slots:
         QVERIFY(!list()->isVisible());
         // The list's menu is the only one.
         QCOMPARE(m_pWindow->findChildren<QMenu *>(), QList<QMenu *>{list()->findChild<CMenuEx *>()});
-        for (const char *pName : {"conferenceDetaileWidget", "creatUserIcon", "buttonWidget"})
+        for (const char *pName : {"conferenceDetaileWidget", "creatUserIcon", "buttonWidget"}) {
             QTest::mouseClick(part<QWidget>(pName), Qt::RightButton);
+        }
         QTest::mouseClick(part<QAbstractScrollArea>("tableView")->viewport(), Qt::RightButton);
         QVERIFY(QApplication::activePopupWidget() == nullptr);
         QCOMPARE(ids(), QStringList{"a"});
@@ -162,8 +163,9 @@ private slots:
         connect(m_pWindow.get(), &CVoiceConferenceWidget::signal_VoiceConfWidgetClose, m_pWindow.get(),
                 [this] { m_pWindow.release()->deleteLater(); });
         m_pHost->whileHandled = [this](BaseEvent &event) {
-            if (event.msgId != MSG_CREATE_VOICE_CONFERENCE)
+            if (event.msgId != MSG_CREATE_VOICE_CONFERENCE) {
                 return;
+            }
             const QPointer<QWidget> window = m_pWindow.get();
             QTimer::singleShot(0, window, &QWidget::close);
             QTRY_VERIFY_WITH_TIMEOUT(!window, kPatienceMs);

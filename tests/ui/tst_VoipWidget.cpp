@@ -38,8 +38,9 @@ private slots:
     {
         startCall(CVoipWidget::Conference, true);
         showWindow();
-        for (const char *name : {"btnMic", "btnSpeaker", "btnMuteAll"})
+        for (const char *name : {"btnMic", "btnSpeaker", "btnMuteAll"}) {
             click(name);
+        }
         press("btnCamera");
         m_sent.clear();
 
@@ -52,8 +53,9 @@ private slots:
         // The camera's face is left as it was, only its flag is put back.
         QCOMPARE(glyph("btnCamera"), IconGlyph::CameraOff);
         m_sent.clear();
-        for (const char *name : {"btnMic", "btnSpeaker", "btnMuteAll"})
+        for (const char *name : {"btnMic", "btnSpeaker", "btnMuteAll"}) {
             click(name);
+        }
         press("btnCamera");
         QCOMPARE(m_sent, (QStringList{"mic-", "speaker-", "muteall+", "camera-"}));
     }
@@ -122,8 +124,9 @@ private slots:
 
         m_pWindow->clearUI();
 
-        for (const char *name : {"lblVoipTipMsg", "lblListCount", "currentPlayTimeLabel", "lblUserName", "lblStatus"})
+        for (const char *name : {"lblVoipTipMsg", "lblListCount", "currentPlayTimeLabel", "lblUserName", "lblStatus"}) {
             QVERIFY2(text(name).isEmpty(), name);
+        }
         QCOMPARE(rows()->rowCount(), 0);
         QVERIFY(part<QLabel>("lblPhotoIcon")->pixmap(Qt::ReturnByValue).isNull());
         QCOMPARE(m_pWindow->windowTitle(), QStringLiteral("语音会议"));

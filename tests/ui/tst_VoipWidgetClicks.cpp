@@ -11,8 +11,9 @@ public:
     explicit GlyphAtFirstStyle(QAbstractButton *pButton) : m_pButton(pButton) { pButton->installEventFilter(this); }
     bool eventFilter(QObject *, QEvent *event) override
     {
-        if (event->type() == QEvent::StyleChange && m_glyph == 0)
+        if (event->type() == QEvent::StyleChange && m_glyph == 0) {
             m_glyph = m_pButton->text().at(0).unicode();
+        }
         return false;
     }
 
@@ -101,8 +102,9 @@ private slots:
         const GlyphAtFirstStyle muteAll(button("btnMuteAll"));
         const GlyphAtFirstStyle mic(button("btnMic"));
         const GlyphAtFirstStyle speaker(button("btnSpeaker"));
-        for (const char *name : {"btnMuteAll", "btnMic", "btnSpeaker"})
+        for (const char *name : {"btnMuteAll", "btnMic", "btnSpeaker"}) {
             click(name);
+        }
         QCOMPARE(muteAll.m_glyph, ushort(0xE66A));
         QCOMPARE(mic.m_glyph, ushort(0xE64C));
         QCOMPARE(speaker.m_glyph, ushort(0xE66A));
@@ -115,8 +117,9 @@ private slots:
         connect(m_pWindow.get(), &CVoipWidget::signal_SetMicEnable, this, note("btnMic"));
         connect(m_pWindow.get(), &CVoipWidget::signal_SetSpeakerEnable, this, note("btnSpeaker"));
         connect(m_pWindow.get(), &CVoipWidget::signal_SetCameraEnable, this, note("btnCamera"));
-        for (const char *name : {"btnMic", "btnSpeaker", "btnCamera"})
+        for (const char *name : {"btnMic", "btnSpeaker", "btnCamera"}) {
             press(name);
+        }
         QCOMPARE(faces, (QList<ushort>{0xE64C, 0xE66A, 0xE721}));
     }
 
@@ -170,8 +173,9 @@ private slots:
 
     void clicksAreLogged()
     {
-        for (const char *name : {"btnMic", "btnSpeaker", "btnCamera", "HangUp"})
+        for (const char *name : {"btnMic", "btnSpeaker", "btnCamera", "HangUp"}) {
             press(name);
+        }
         answerQuestion("closeBtn");
         press("btnClose");
         press("btnCancelCall");

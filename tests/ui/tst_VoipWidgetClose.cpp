@@ -75,10 +75,12 @@ private:
             break;
         }
         showWindow();
-        if (state == VoiceConnected || state == VoiceDropped || state == VideoConnected || state == ConferenceTalking)
+        if (state == VoiceConnected || state == VoiceDropped || state == VideoConnected || state == ConferenceTalking) {
             m_pWindow->setVoipCallStatus(true);
-        if (state == VoiceDropped)
+        }
+        if (state == VoiceDropped) {
             m_pWindow->setVoipCallStatus(false);
+        }
     }
 
     /// What the window shows, part by part, but for the clock's label.
@@ -86,16 +88,21 @@ private:
     QStringList shown() const
     {
         QStringList parts{m_pWindow->windowTitle()};
-        for (const char *name : {"displayPane", "controlPane"})
+        for (const char *name : {"displayPane", "controlPane"}) {
             parts << QString::number(part<QStackedWidget>(name)->currentIndex());
-        for (const char *name : {"lblVoipTipMsg", "lblListCount", "lblUserName", "lblStatus"})
+        }
+        for (const char *name : {"lblVoipTipMsg", "lblListCount", "lblUserName", "lblStatus"}) {
             parts << text(name);
-        for (const char *name : {"btnMic", "btnSpeaker", "btnCamera", "btnMuteAll", "btnAddMember", "btnCancelCall"})
+        }
+        for (const char *name : {"btnMic", "btnSpeaker", "btnCamera", "btnMuteAll", "btnAddMember", "btnCancelCall"}) {
             parts << QLatin1String(name) + QString::number(part<QWidget>(name)->isHidden()) + button(name)->text() +
                          part<QWidget>(name)->toolTip() + glyphColor(name).name();
-        for (int i = 0; i < rows()->rowCount(); ++i)
-            for (const int iRole : {ROLE_USER_ID, ROLE_DISPLAY_NAME, ROLE_CALL_STATUS, ROLE_IS_CREATOR, ROLE_MUTED})
+        }
+        for (int i = 0; i < rows()->rowCount(); ++i) {
+            for (const int iRole : {ROLE_USER_ID, ROLE_DISPLAY_NAME, ROLE_CALL_STATUS, ROLE_IS_CREATOR, ROLE_MUTED}) {
                 parts << rows()->index(i, 0).data(iRole).toString();
+            }
+        }
         return parts;
     }
 
@@ -104,9 +111,11 @@ private slots:
     {
         QTest::addColumn<int>("state");
         QTest::addColumn<int>("way");
-        for (int iState = 0; iState < cStates; ++iState)
-            for (int iWay = 0; iWay < cWays; ++iWay)
+        for (int iState = 0; iState < cStates; ++iState) {
+            for (int iWay = 0; iWay < cWays; ++iWay) {
                 QTest::addRow("%s, %s", stateNames[iState], wayNames[iWay]) << iState << iWay;
+            }
+        }
     }
 
     void everyStateClosesWithTheSameSignals()
@@ -136,8 +145,9 @@ private slots:
             break;
         }
         QVERIFY(!m_pWindow->isVisible());
-        for (const char *name : {"lblVoipTipMsg", "lblListCount", "currentPlayTimeLabel", "lblUserName", "lblStatus"})
+        for (const char *name : {"lblVoipTipMsg", "lblListCount", "currentPlayTimeLabel", "lblUserName", "lblStatus"}) {
             QVERIFY2(text(name).isEmpty(), name);
+        }
         QCOMPARE(rows()->rowCount(), 0);
     }
 
@@ -148,8 +158,9 @@ private slots:
         QStringList left{QStringLiteral("nothing sent")};
         connect(m_pWindow.get(), &CVoipWidget::signal_HangupCurrentCall, this, [&] {
             left.clear();
-            for (const char *name : {"lblVoipTipMsg", "lblListCount", "lblStatus"})
+            for (const char *name : {"lblVoipTipMsg", "lblListCount", "lblStatus"}) {
                 left += text(name);
+            }
             left += QString::number(rows()->rowCount());
         });
         m_pWindow->close();
@@ -160,9 +171,11 @@ private slots:
     {
         QTest::addColumn<int>("first");
         QTest::addColumn<int>("second");
-        for (const State first : {VoiceConnected, VideoConnected, ConferenceMine, ConferenceTalking, VoiceDropped})
-            for (const State second : {VoiceOutgoing, VoiceIncoming, Video, ConferenceMine, ConferenceJoined})
+        for (const State first : {VoiceConnected, VideoConnected, ConferenceMine, ConferenceTalking, VoiceDropped}) {
+            for (const State second : {VoiceOutgoing, VoiceIncoming, Video, ConferenceMine, ConferenceJoined}) {
                 QTest::addRow("%s, then %s", stateNames[first], stateNames[second]) << int(first) << int(second);
+            }
+        }
     }
 
     void secondCallFindsNothingLeftOver()
@@ -176,8 +189,9 @@ private slots:
         startAnew();
         m_pContacts->addContact(uid("zoe"), ContactFixture::card(uid("Zoe"), uid("Zoey")));
         enter(State(first), uid("zoe"));
-        for (const char *name : {"btnMic", "btnSpeaker", "btnMuteAll"})
+        for (const char *name : {"btnMic", "btnSpeaker", "btnMuteAll"}) {
             press(name);
+        }
         m_pWindow->setConferenceCreator(uid("zoe"));
         m_pWindow->close();
         m_pContacts->addContact(uid("ann"), ContactFixture::card(uid("Ann"), uid("Annie")));
@@ -204,10 +218,12 @@ private slots:
         QStringList words;
         answerQuestion("acceptBtn", [&words] {
             const QWidget *pQuestion = QApplication::activeModalWidget();
-            for (const char *name : {"titlelabel", "msgLabel"})
+            for (const char *name : {"titlelabel", "msgLabel"}) {
                 words.append(pQuestion->findChild<QLabel *>(QLatin1String(name))->text());
-            for (const char *name : {"acceptBtn", "closeBtn"})
+            }
+            for (const char *name : {"acceptBtn", "closeBtn"}) {
                 words.append(pQuestion->findChild<PushButtonEx *>(QLatin1String(name))->text());
+            }
         });
         click("btnClose");
         QCOMPARE(words, (QStringList{"tip", "beSureToCloseCalling", "sure", "cancel"}));

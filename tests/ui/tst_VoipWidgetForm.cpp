@@ -20,9 +20,11 @@ private slots:
     {
         QStringList signatures;
         const QMetaObject &meta = CVoipWidget::staticMetaObject;
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-            if (meta.method(i).methodType() == QMetaMethod::Signal)
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+            if (meta.method(i).methodType() == QMetaMethod::Signal) {
                 signatures.append(QString::fromLatin1(meta.method(i).methodSignature()));
+            }
+        }
         const QStringList expected{
             "signal_SetMicEnable(bool)",
             "signal_SetSpeakerEnable(bool)",
@@ -44,9 +46,11 @@ private slots:
     {
         QStringList signatures;
         const QMetaObject &meta = CVoipWidget::staticMetaObject;
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-            if (meta.method(i).methodType() == QMetaMethod::Slot && meta.method(i).access() == QMetaMethod::Private)
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+            if (meta.method(i).methodType() == QMetaMethod::Slot && meta.method(i).access() == QMetaMethod::Private) {
                 signatures.append(QString::fromLatin1(meta.method(i).methodSignature()));
+            }
+        }
         const QStringList expected{
             "slot_HangUpCall()",
             "slot_close()",
@@ -92,8 +96,9 @@ private slots:
         QCOMPARE(button("btnAddMember")->text(), QStringLiteral("邀请成员"));
         QCOMPARE(button("btnCancelCall")->text(), QStringLiteral("取消"));
         QCOMPARE(button("HangUp")->text(), QStringLiteral("挂断"));
-        for (const char *name : {"lblVoipTipMsg", "lblUserName", "lblStatus", "lblListCount", "lblLine"})
+        for (const char *name : {"lblVoipTipMsg", "lblUserName", "lblStatus", "lblListCount", "lblLine"}) {
             QVERIFY2(text(name).isEmpty(), name);
+        }
     }
 
     void everyStyleSheetIsSetOnItsPart_data()
@@ -198,8 +203,9 @@ private slots:
             {"btnMuteAll", "widget", "CIconButtonEx"},
             {"HangUp", "widget", "PushButtonEx"},
         };
-        for (const auto &part : parts)
+        for (const auto &part : parts) {
             QTest::newRow(part.name) << QString(part.parent) << QString(part.type);
+        }
     }
 
     void everyPartHangsInItsPlace()
@@ -217,11 +223,12 @@ private slots:
         QTest::addColumn<QMargins>("margins");
         QTest::addColumn<int>("spacing");
         const QMargins none;
-        for (const char *name :
-             {"verticalLayout", "horizontalLayout_12", "verticalLayout_9", "horizontalLayout_5", "horizontalLayout_6",
-              "horizontalLayout_7", "verticalLayout_5", "verticalLayout_2", "WebViewLayout", "verticalLayout_7",
-              "verticalLayout_11", "verticalLayout_8", "verticalLayout_10", "horizontalLayout_4", "horizontalLayout_3"})
+        for (const char *name : {"verticalLayout", "horizontalLayout_12", "verticalLayout_9", "horizontalLayout_5",
+                                 "horizontalLayout_6", "horizontalLayout_7", "verticalLayout_5", "verticalLayout_2",
+                                 "WebViewLayout", "verticalLayout_7", "verticalLayout_11", "verticalLayout_8",
+                                 "verticalLayout_10", "horizontalLayout_4", "horizontalLayout_3"}) {
             QTest::newRow(name) << none << 0;
+        }
         QTest::newRow("callingControlPage") << none << 0;
         QTest::newRow("verticalLayout_3") << QMargins(3, 3, 3, 3) << 0;
         QTest::newRow("horizontalLayout_13") << QMargins(20, 0, 10, 0) << 0;
@@ -259,8 +266,9 @@ private slots:
         QTest::newRow("controlPaneWidget") << QSize(-1, 40);
         QTest::newRow("controlPane") << QSize(-1, 45);
         QTest::newRow("btnCancelCall") << QSize(72, 32);
-        for (const char *name : {"btnMic", "btnSpeaker", "btnCamera", "btnChangeWindow", "btnMuteAll"})
+        for (const char *name : {"btnMic", "btnSpeaker", "btnCamera", "btnChangeWindow", "btnMuteAll"}) {
             QTest::newRow(name) << QSize(26, 26);
+        }
         QTest::newRow("HangUp") << QSize(75, 30);
     }
 
@@ -292,8 +300,9 @@ private slots:
         QTEST(glyph(name), "glyph");
         QTEST(button(name)->font().pixelSize(), "pixelSize");
         QTEST(part<QWidget>(name)->toolTip(), "toolTip");
-        if (qstrcmp(name, "btnClose") != 0)
+        if (qstrcmp(name, "btnClose") != 0) {
             QCOMPARE(glyphColor(name), QColor(184, 184, 184));
+        }
     }
 
     void closeButtonLooksLikeThoseOfTheOtherWindows()
@@ -307,8 +316,9 @@ private slots:
 
     void controlsBehaveAsTheFormSaysIt()
     {
-        for (const char *name : {"btnClose", "btnMuteAll", "btnCancelCall"})
+        for (const char *name : {"btnClose", "btnMuteAll", "btnCancelCall"}) {
             QCOMPARE(part<QWidget>(name)->focusPolicy(), Qt::NoFocus);
+        }
         const auto inner = [this](const char *name) { return qobject_cast<QPushButton *>(button(name)); };
         QVERIFY(inner("btnClose")->autoDefault());
         QVERIFY(inner("btnClose")->isFlat());
@@ -322,14 +332,16 @@ private slots:
         QCOMPARE(part<QWidget>("titleWidget")->cursor().shape(), Qt::ArrowCursor);
         QVERIFY(part<QWidget>("titleWidget")->hasMouseTracking());
         QVERIFY(part<QWidget>("widget4")->hasMouseTracking());
-        for (const char *name : {"currentPlayTimeLabel", "HangUp"})
+        for (const char *name : {"currentPlayTimeLabel", "HangUp"}) {
             QCOMPARE(part<QWidget>(name)->font().family(), QStringLiteral("微软雅黑"));
+        }
     }
 
     void stretchedLayoutsConstrainNothing()
     {
-        for (const char *name : {"horizontalLayout_13", "WebViewLayout"})
+        for (const char *name : {"horizontalLayout_13", "WebViewLayout"}) {
             QCOMPARE(part<QLayout>(name)->sizeConstraint(), QLayout::SetNoConstraint);
+        }
     }
 
     void slidersWaitHiddenWithTheirValues()

@@ -43,10 +43,12 @@ private slots:
         QStringList words;
         answerQuestion("acceptBtn", [&words] {
             const QWidget *pQuestion = QApplication::activeModalWidget();
-            for (const char *name : {"titlelabel", "msgLabel"})
+            for (const char *name : {"titlelabel", "msgLabel"}) {
                 words.append(pQuestion->findChild<QLabel *>(QLatin1String(name))->text());
-            for (const char *name : {"acceptBtn", "closeBtn"})
+            }
+            for (const char *name : {"acceptBtn", "closeBtn"}) {
                 words.append(pQuestion->findChild<PushButtonEx *>(QLatin1String(name))->text());
+            }
         });
         pressEscape();
         QCOMPARE(words, (QStringList{"tip", "beSureToCloseCalling", "sure", "cancel"}));
@@ -86,8 +88,9 @@ private slots:
     {
         QTest::addColumn<QByteArray>("control");
         for (const char *name :
-             {"btnMic", "btnSpeaker", "btnCamera", "btnChangeWindow", "m_pMicSlider", "m_pSpeakerSlider"})
+             {"btnMic", "btnSpeaker", "btnCamera", "btnChangeWindow", "m_pMicSlider", "m_pSpeakerSlider"}) {
             QTest::newRow(name) << QByteArray(name);
+        }
     }
 
     void escapeInsideAWatchedControlAsksOnce()
@@ -116,8 +119,9 @@ private slots:
         showWindow();
         const MessageBoxes questions;
         auto *pMic = part<QWidget>("btnMic");
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 3; ++i) {
             QTest::keyClick(pMic, Qt::Key_Escape);
+        }
         pressEscape();
         QCOMPARE(questions.texts.size(), 4);
     }
@@ -173,8 +177,9 @@ private slots:
             showWindow();
             m_pWindow->activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
-            for (const int iKey : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return})
+            for (const int iKey : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return}) {
                 QTest::keyClick(m_pWindow->windowHandle(), Qt::Key(iKey));
+            }
         }
         QCOMPARE(m_sent, QStringList());
     }
@@ -182,8 +187,9 @@ private slots:
     void leavingIsSwallowed_data()
     {
         QTest::addColumn<bool>("swallowed");
-        for (const char *name : {"btnMic", "btnSpeaker", "btnCamera", "btnChangeWindow"})
+        for (const char *name : {"btnMic", "btnSpeaker", "btnCamera", "btnChangeWindow"}) {
             QTest::newRow(name) << true;
+        }
         QTest::newRow("btnMuteAll") << false;
         QTest::newRow("btnClose") << false;
     }
@@ -198,8 +204,9 @@ private slots:
         QTEST(pButton->styleSheet().isEmpty(), "swallowed");
         for (QObject *pWatched :
              {static_cast<QObject *>(m_pWindow.get()), static_cast<QObject *>(part<QSlider>("m_pMicSlider")),
-              static_cast<QObject *>(part<QSlider>("m_pSpeakerSlider"))})
+              static_cast<QObject *>(part<QSlider>("m_pSpeakerSlider"))}) {
             QVERIFY(isSwallowed(pWatched, &leave));
+        }
     }
 
     void enteringGoesOn()

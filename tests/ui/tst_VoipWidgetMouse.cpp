@@ -27,9 +27,11 @@ private:
 
     static MyRubberBand *band()
     {
-        for (QWidget *pWidget : QApplication::topLevelWidgets())
-            if (auto *pBand = qobject_cast<MyRubberBand *>(pWidget))
+        for (QWidget *pWidget : QApplication::topLevelWidgets()) {
+            if (auto *pBand = qobject_cast<MyRubberBand *>(pWidget)) {
                 return pBand;
+            }
+        }
         return nullptr;
     }
 
@@ -166,8 +168,9 @@ private slots:
     {
         QTest::addColumn<QPoint>("press");
         for (const QPoint &press : {QPoint(1, 200), QPoint(200, 1), QPoint(1, 1), QPoint(521, 200), QPoint(521, 1),
-                                    QPoint(200, 401), QPoint(1, 401), QPoint(521, 401)})
+                                    QPoint(200, 401), QPoint(1, 401), QPoint(521, 401)}) {
             QTest::addRow("%d,%d", press.x(), press.y()) << press;
+        }
     }
 
     void dragInwardsKeepsTheSmallestSize()

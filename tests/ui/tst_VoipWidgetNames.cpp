@@ -19,8 +19,9 @@ private slots:
     {
         const QList<QLabel *> labels = m_pWindow->findChildren<QLabel *>();
         QVERIFY(labels.size() >= 7);
-        for (const QLabel *pLabel : labels)
+        for (const QLabel *pLabel : labels) {
             QVERIFY2(pLabel->textFormat() == Qt::PlainText, qPrintable(pLabel->objectName()));
+        }
     }
 
     void everyNameIsShownAsItIs_data()

@@ -31,21 +31,23 @@ private:
             auto *pDialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
             QVERIFY(pDialog != nullptr);
             auto *pName = pDialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-            if (pSeen != nullptr)
+            if (pSeen != nullptr) {
                 *pSeen = QStringList{pDialog->windowTitle(), pDialog->nameFilters().join(QStringLiteral(";;")),
                                      pDialog->directory().path(), pName->text()};
+            }
             if (strName.isEmpty()) {
                 pDialog->reject();
                 return;
             }
             pName->setText(strName);
             // A file of that name brings up the question whether it may be replaced.
-            if (QFile::exists(strName))
+            if (QFile::exists(strName)) {
                 QTimer::singleShot(0, this, [] {
                     auto *pQuestion = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
                     QVERIFY(pQuestion != nullptr);
                     pQuestion->button(QMessageBox::Yes)->click();
                 });
+            }
             QMetaObject::invokeMethod(pDialog, "accept");
         });
     }

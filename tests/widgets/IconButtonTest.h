@@ -78,10 +78,11 @@ protected:
     void mouse(QTest::MouseAction action, Qt::MouseButton button, const QPoint &at)
     {
         const QPoint inWindow = m_pButton->pos() + at;
-        if (action == QTest::MousePress)
+        if (action == QTest::MousePress) {
             QTest::mousePress(m_window.windowHandle(), button, {}, inWindow);
-        else
+        } else {
             QTest::mouseRelease(m_window.windowHandle(), button, {}, inWindow);
+        }
         QCoreApplication::processEvents();
     }
     void click(Qt::MouseButton button, const QPoint &at)

@@ -25,10 +25,12 @@ namespace ShownDialog {
 inline void whenShown(ErrorMessage &dialog, const std::function<void()> &act)
 {
     QTimer::singleShot(0, &dialog, [&dialog, act] {
-        if (QTest::qWaitForWindowExposed(&dialog, kPatienceMs))
+        if (QTest::qWaitForWindowExposed(&dialog, kPatienceMs)) {
             act();
-        if (dialog.isVisible())
+        }
+        if (dialog.isVisible()) {
             dialog.close();
+        }
     });
 }
 

@@ -57,10 +57,12 @@ private:
     {
         QPair<int, int> ends(-1, -1);
         for (int x = 0; x < image.width(); ++x) {
-            if (image.pixelColor(x, y) != cLine)
+            if (image.pixelColor(x, y) != cLine) {
                 continue;
-            if (ends.first < 0)
+            }
+            if (ends.first < 0) {
                 ends.first = x;
+            }
             ends.second = x;
         }
         return ends;
@@ -90,12 +92,14 @@ private slots:
         QCOMPARE(image.pixelColor(cWidth - 3, cHeight / 2), cPanel);
         QCOMPARE(image.pixelColor(cWidth / 2, cHeight - 3), cPanel);
         for (int x = 0; x < cWidth; ++x) {
-            for (const int y : {0, 1, cHeight - 2, cHeight - 1})
+            for (const int y : {0, 1, cHeight - 2, cHeight - 1}) {
                 QCOMPARE(image.pixelColor(x, y).alpha(), 0);
+            }
         }
         for (int y = 0; y < cHeight; ++y) {
-            for (const int x : {0, 1, cWidth - 2, cWidth - 1})
+            for (const int x : {0, 1, cWidth - 2, cWidth - 1}) {
                 QCOMPARE(image.pixelColor(x, y).alpha(), 0);
+            }
         }
     }
 
@@ -111,8 +115,9 @@ private slots:
             QVERIFY2(iAlpha > 40 && iAlpha < 215, qPrintable(QString::number(iAlpha)));
         }
         // The radius is 2 pixels: three pixels into the panel it is solid.
-        for (const QPoint &inside : {QPoint(4, 4), QPoint(cWidth - 5, cHeight - 5)})
+        for (const QPoint &inside : {QPoint(4, 4), QPoint(cWidth - 5, cHeight - 5)}) {
             QCOMPARE(image.pixelColor(inside).alpha(), 255);
+        }
     }
 
     void titleStripIsWhiteAtTheLowestAlpha()
@@ -131,8 +136,9 @@ private slots:
     void titleOfNoHeightPaintsNoStrip_data()
     {
         QTest::addColumn<int>("height");
-        for (const int iHeight : {2, 1, 0, -1, -40})
+        for (const int iHeight : {2, 1, 0, -1, -40}) {
             QTest::addRow("%d", iHeight) << iHeight;
+        }
     }
 
     void titleOfNoHeightPaintsNoStrip()
@@ -145,8 +151,9 @@ private slots:
         const QImage image = painted(form);
         // A strip lightens the black panel, and where there is none it leaves the lowest alpha.
         for (int y = 0; y < cHeight; ++y) {
-            if (y == height + 2)
+            if (y == height + 2) {
                 continue;
+            }
             const QColor expected = y < 2 || y >= cHeight - 2 ? QColor(0, 0, 0, 0) : QColor(0, 0, 0);
             QCOMPARE(image.pixelColor(cWidth / 2, y), expected);
         }
@@ -220,8 +227,9 @@ private slots:
         const QColor expected(blend(cPanel.red()), blend(cPanel.green()), blend(cPanel.blue()));
         const QImage image = painted(form);
         for (const QPoint &point :
-             {QPoint(cWidth / 2, 40), QPoint(6, 40), QPoint(cWidth / 2, 26), QPoint(cWidth - 6, 40)})
+             {QPoint(cWidth / 2, 40), QPoint(6, 40), QPoint(cWidth / 2, 26), QPoint(cWidth - 6, 40)}) {
             QVERIFY2(isNear(image.pixelColor(point), expected, 2), qPrintable(image.pixelColor(point).name()));
+        }
         QCOMPARE(image.pixelColor(cWidth / 2, 12).red(), cPanel.red() + 1);
     }
 
@@ -308,8 +316,9 @@ private slots:
             QVERIFY(red.save(strPicture));
         }
         const QImage with = painted(form);
-        if (bOwn)
+        if (bOwn) {
             QVERIFY(QFile::remove(strPicture));
+        }
         QCOMPARE(with, without);
     }
 

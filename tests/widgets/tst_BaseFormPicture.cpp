@@ -44,8 +44,9 @@ private:
         }
         painter.setRenderHint(QPainter::Antialiasing, false);
         painter.fillRect(QRect(QPoint(iOffset + 2, iTitle + 2), QPoint(w - 3, iTitle + 2)), QColor(224, 224, 224));
-        if (!bBody)
+        if (!bBody) {
             return image;
+        }
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setOpacity(230 / 255.0);
         painter.setPen(QColor(255, 255, 255, 230));

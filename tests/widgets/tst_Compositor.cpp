@@ -29,8 +29,9 @@ QRegion shownMask(MyRubberBand &band)
 bool isDotted(const QRegion &mask)
 {
     int iPixels = 0;
-    for (const QRect &rect : mask)
+    for (const QRect &rect : mask) {
         iPixels += rect.width() * rect.height();
+    }
     return mask.subtracted(bars()).isEmpty() && qAbs(2 * iPixels - (2 * 200 * 5 + 2 * 140 * 5)) <= 20;
 }
 

@@ -26,8 +26,9 @@ bool isWithinAKitWidget(const QWidget *pWidget)
     for (; pWidget != nullptr; pWidget = pWidget->parentWidget()) {
         if (qobject_cast<const PushButtonEx *>(pWidget) != nullptr ||
             qobject_cast<const CLineEditEx *>(pWidget) != nullptr ||
-            qobject_cast<const CIconButtonEx *>(pWidget) != nullptr)
+            qobject_cast<const CIconButtonEx *>(pWidget) != nullptr) {
             return true;
+        }
     }
     return false;
 }
@@ -44,8 +45,9 @@ private slots:
         const ErrorMessage dialog(QString(), QString(), nullptr);
         const auto *pStack = part<QStackedWidget>(dialog, "stackedWidget");
         QStringList names;
-        for (int i = 0; i < pStack->count(); ++i)
+        for (int i = 0; i < pStack->count(); ++i) {
             names << pStack->widget(i)->objectName();
+        }
         QCOMPARE(names, (QStringList{"MsgShow", "TextEdit", "LineEdit", "AddLabel", "page_MsgAndScreen"}));
         QCOMPARE(pStack->currentIndex(), 0);
         QVERIFY(part<QWidget>(dialog, "AddLabel")->layout() == nullptr);
@@ -77,8 +79,9 @@ private slots:
         const ErrorMessage dialog(QString(), QString(), nullptr);
         const QLayout *pFound = nullptr;
         for (const QLayout *pLayout : dialog.findChildren<QLayout *>(QLatin1String(name))) {
-            if (!isWithinAKitWidget(pLayout->parentWidget()))
+            if (!isWithinAKitWidget(pLayout->parentWidget())) {
                 pFound = pLayout;
+            }
         }
         QVERIFY(pFound != nullptr);
         QTEST(pFound->contentsMargins(), "margins");
@@ -114,9 +117,10 @@ private slots:
         auto *pPart = dialog.findChild<QWidget *>(QLatin1String(name));
         QVERIFY(pPart != nullptr);
         // The inner edits have the same name as the page's field.
-        if (name == "lineEdit")
+        if (name == "lineEdit") {
             pPart = dialog.findChild<QWidget *>(QStringLiteral("LineEdit"))
                         ->findChild<CLineEditEx *>(QStringLiteral("lineEdit"));
+        }
         QTEST(pPart->minimumSize(), "least");
         QTEST(pPart->maximumSize(), "most");
     }
@@ -248,8 +252,9 @@ private slots:
     {
         QStringList names;
         const QMetaObject &meta = ErrorMessage::staticMetaObject;
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
             names << QString::fromLatin1(meta.method(i).methodSignature());
+        }
         QCOMPARE(names, (QStringList{"signal_OpenSysSetUi()", "slot_clickedAccptBtn()", "slot_clickedCloseBtn()",
                                      "slot_textChanged(QString)", "slot_textChanged()", "slot_linkActivated(QString)",
                                      "slot_paste()"}));

@@ -45,10 +45,11 @@ private slots:
         row("messagelogTip", {[](ErrorMessage &d) { d.messagelogTip(); }, true}, "MsgShow", false, false, "sure",
             "tip");
         row("addLabelToFriend", {[t](ErrorMessage &d) { d.addLabelToFriend(t); }, true}, "AddLabel", true, false, "No");
-        for (int iType = 0; iType <= 2; ++iType)
+        for (int iType = 0; iType <= 2; ++iType) {
             row(qPrintable(QStringLiteral("showHotKeyError %1").arg(iType)),
                 {[t, iType](ErrorMessage &d) { d.showHotKeyError(t, iType); }, false}, "page_MsgAndScreen", false,
                 false, "sure");
+        }
     }
 
     void eachModeHasItsPageAndButtons()
@@ -263,8 +264,9 @@ private slots:
         ErrorMessage dialog(QString(), QString(), nullptr);
         dialog.showHotKeyError(QStringLiteral("Title"), type);
         QStringList found;
-        for (const char *name : {"label_8", "label_9", "label_11", "label_10"})
+        for (const char *name : {"label_8", "label_9", "label_11", "label_10"}) {
             found << text(dialog, name);
+        }
         QTEST(found, "words");
     }
 
@@ -279,8 +281,9 @@ private slots:
         QVERIFY(!button(dialog, "acceptBtn")->isVisible());
         QCOMPARE(button(dialog, "closeBtn")->text(), QStringLiteral("sure"));
         QVERIFY(inner(dialog, "closeBtn")->isDefault());
-        for (const char *name : {"label_8", "label_9", "label_11", "label_10"})
+        for (const char *name : {"label_8", "label_9", "label_11", "label_10"}) {
             QVERIFY(text(dialog, name).isEmpty());
+        }
     }
 
     void hotKeyLinkOpensTheSettings()

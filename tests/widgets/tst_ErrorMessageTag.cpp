@@ -162,8 +162,9 @@ private slots:
     void hotKeyErrorAfterATagEndsTheTagMode_data()
     {
         QTest::addColumn<int>("type");
-        for (const int iType : {0, 1, 2, 3})
+        for (const int iType : {0, 1, 2, 3}) {
             QTest::addRow("type %d", iType) << iType;
+        }
     }
 
     void hotKeyErrorAfterATagEndsTheTagMode()

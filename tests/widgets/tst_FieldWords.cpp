@@ -39,8 +39,9 @@ private slots:
         QTimer::singleShot(0, &edit, [&words] {
             auto *pMenu = qobject_cast<CMenuEx *>(QApplication::activePopupWidget());
             QVERIFY(pMenu != nullptr);
-            for (const QAction *pAction : pMenu->actions())
+            for (const QAction *pAction : pMenu->actions()) {
                 words << pAction->text();
+            }
             pMenu->close();
         });
         QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(10, 10), edit.mapToGlobal(QPoint(10, 10)));

@@ -197,8 +197,9 @@ private slots:
     void checkedButtonHasNoFrameOfItsOwn_data()
     {
         QTest::addColumn<int>("type");
-        for (int iType = 0; iType <= 5; ++iType)
+        for (int iType = 0; iType <= 5; ++iType) {
             QTest::addRow("%d", iType) << iType;
+        }
     }
 
     void checkedButtonHasNoFrameOfItsOwn()

@@ -114,8 +114,9 @@ private slots:
         show();
         m_pEdit->setText(QStringLiteral("text"));
         QGuiApplication::clipboard()->clear();
-        if (picture)
+        if (picture) {
             QGuiApplication::clipboard()->setPixmap(QPixmap(4, 4));
+        }
         const QSignalSpy changed(m_pEdit.get(), &CLineEditEx::textChanged);
         paste();
         QCOMPARE(m_pEdit->text(), QStringLiteral("text"));
@@ -335,8 +336,9 @@ private slots:
     {
         QStringList names;
         const QMetaObject &meta = CLineEditEx::staticMetaObject;
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
             names << QString::fromLatin1(meta.method(i).methodSignature());
+        }
         QCOMPARE(names, (QStringList{"textChanged(QString)", "cursorPositionChanged(int,int)", "signal_click()",
                                      "signal_foucsout()", "signal_delete()", "slot_changeSearchBtnImg(QString)",
                                      "slot_cursorchanged(int,int)"}));

@@ -58,8 +58,9 @@ private slots:
         for (int i = 0; i < typed.size(); ++i) {
             // One key event each, as an input method sends them: a pair comes in one.
             QString key(typed.at(i));
-            if (typed.at(i).isHighSurrogate())
+            if (typed.at(i).isHighSurrogate()) {
                 key += typed.at(++i);
+            }
             QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, key);
             QCoreApplication::sendEvent(inner(), &press);
         }

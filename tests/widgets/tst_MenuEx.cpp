@@ -163,8 +163,9 @@ private slots:
         CMenuEx menu;
         const QAction *pEntry = menu.addAction(QStringLiteral("entry"));
         QTimer::singleShot(0, &menu, [&menu] {
-            if (QTest::qWaitForWindowExposed(&menu, kPatienceMs))
+            if (QTest::qWaitForWindowExposed(&menu, kPatienceMs)) {
                 QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, entry(menu));
+            }
             menu.close();
         });
         QCOMPARE(menu.exec(QPoint(100, 100)), pEntry);

@@ -58,8 +58,9 @@ int roomForLines()
 QString numbered(int iLines)
 {
     QStringList lines;
-    for (int i = 1; i <= iLines; ++i)
+    for (int i = 1; i <= iLines; ++i) {
         lines.append(QStringLiteral("Line %1").arg(i));
+    }
     return lines.join(QLatin1Char('\n'));
 }
 
@@ -67,10 +68,13 @@ QString numbered(int iLines)
 bool hasInk(const QImage &image, int iTop, int iBottom)
 {
     const int iDensity = qRound(image.devicePixelRatio());
-    for (int y = iTop * iDensity; y < (iBottom + 1) * iDensity; ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (qGray(image.pixel(x, y)) < cDark)
+    for (int y = iTop * iDensity; y < (iBottom + 1) * iDensity; ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qGray(image.pixel(x, y)) < cDark) {
                 return true;
+            }
+        }
+    }
     return false;
 }
 
@@ -115,12 +119,14 @@ private slots:
         // A last line that has no place for one character more.
         const QFontMetrics metrics(plainFont());
         QString strFull(1, QLatin1Char('i'));
-        while (metrics.horizontalAdvance(strFull + QLatin1Char('i')) <= cSize.width())
+        while (metrics.horizontalAdvance(strFull + QLatin1Char('i')) <= cSize.width()) {
             strFull += QLatin1Char('i');
+        }
         const QString strAbove = numbered(roomForLines() - 1) + QLatin1Char('\n');
         QString strCut = strFull;
-        while (metrics.horizontalAdvance(strCut + cEllipsis) > cSize.width())
+        while (metrics.horizontalAdvance(strCut + cEllipsis) > cSize.width()) {
             strCut.chop(1);
+        }
         MessageLabel label;
         QCOMPARE(shown(label, strAbove + strFull + QStringLiteral("\nmore")), drawn(strAbove + strCut + cEllipsis));
     }
@@ -130,8 +136,9 @@ private slots:
         MessageLabel label;
         const QImage image = shown(label, QString(400, QLatin1Char('W')));
         QVERIFY(!label.hasRoom());
-        for (int iLine = 0; iLine < roomForLines(); ++iLine)
+        for (int iLine = 0; iLine < roomForLines(); ++iLine) {
             QVERIFY(hasInk(image, iLine * lineHeight(), (iLine + 1) * lineHeight() - 1));
+        }
         QVERIFY(!hasInk(image, roomForLines() * lineHeight(), cSize.height() - 1));
     }
 
@@ -238,8 +245,9 @@ private slots:
         const double dFirst = first.seconds();
         QVERIFY(!label.hasRoom());
         const ProcessorClock again;
-        for (int i = 0; i < 20; ++i)
+        for (int i = 0; i < 20; ++i) {
             label.grab();
+        }
         const double dAgain = again.seconds();
         QVERIFY2(dAgain < dFirst, qPrintable(QStringLiteral("%1 s, then %2 s").arg(dFirst).arg(dAgain)));
     }
@@ -255,8 +263,9 @@ private slots:
         QTest::addColumn<QString>("message");
         QTest::newRow("Chinese") << QStringLiteral("对方正忙，请稍后再拨。").repeated(20);
         QTest::newRow("Latin") << QStringLiteral("The other side is busy, try again. ").repeated(20);
-        for (int i = 2; i <= 5; ++i)
+        for (int i = 2; i <= 5; ++i) {
             QTest::addRow("%d lines", i) << numbered(i);
+        }
         QTest::newRow("lines") << numbered(12);
         QTest::newRow("markup") << QStringLiteral("<a href=\"http://x.y\">busy</a> and long ").repeated(40);
     }

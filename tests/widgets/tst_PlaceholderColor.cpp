@@ -17,9 +17,11 @@ int darkest(QWidget *pField)
 {
     const QImage image = pField->grab(pField->rect().adjusted(3, 3, -3, -3)).toImage();
     int iGray = 255;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
             iGray = qMin(iGray, qGray(image.pixel(x, y)));
+        }
+    }
     return iGray;
 }
 

@@ -61,8 +61,9 @@ private:
             QVERIFY(pMenu != nullptr);
             bSeen = true;
             act(*pMenu);
-            if (QApplication::activePopupWidget() != nullptr)
+            if (QApplication::activePopupWidget() != nullptr) {
                 QApplication::activePopupWidget()->close();
+            }
         });
         QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(10, 10), m_pEdit->mapToGlobal(QPoint(10, 10)));
         QCoreApplication::sendEvent(m_pEdit->viewport(), &event);
@@ -201,8 +202,9 @@ private slots:
         QFETCH(QString, format);
         show();
         m_pEdit->setPlainText(text);
-        if (selected)
+        if (selected) {
             m_pEdit->selectAll();
+        }
         if (!format.isEmpty()) {
             auto data = std::make_unique<QMimeData>();
             data->setData(format, "content");
@@ -210,8 +212,9 @@ private slots:
         }
         QString strEnabled;
         withMenu([&strEnabled](const CMenuEx &menu) {
-            for (const QAction *pAction : menu.actions())
+            for (const QAction *pAction : menu.actions()) {
                 strEnabled += QLatin1Char(pAction->isEnabled() ? 'x' : '-');
+            }
         });
         QTEST(strEnabled, "enabled");
     }

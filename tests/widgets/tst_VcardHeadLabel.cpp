@@ -39,8 +39,9 @@ private slots:
         QCOMPARE(head.pixelColor(head.rect().center()), QColor(Qt::blue));
         const QRect corners = head.rect();
         for (const QPoint &corner :
-             {corners.topLeft(), corners.topRight(), corners.bottomLeft(), corners.bottomRight()})
+             {corners.topLeft(), corners.topRight(), corners.bottomLeft(), corners.bottomRight()}) {
             QCOMPARE(head.pixelColor(corner).alpha(), 0);
+        }
         QCOMPARE(head.pixelColor(corners.center().x(), 1).alpha(), 255);
         QCOMPARE(label.grab().toImage().pixelColor(head.rect().center()), QColor(Qt::blue));
     }

@@ -45,10 +45,11 @@ QPixmap HostPictures::head(const QString &strName, const QString &strUid, int iS
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     const QPixmap photo = photoOf(strPhoto, qRound(iSize * pixmap.devicePixelRatioF()));
-    if (photo.isNull())
+    if (photo.isNull()) {
         drawInitial(painter, strName, strUid, iSize);
-    else
+    } else {
         painter.drawPixmap(QRect(0, 0, iSize, iSize), photo);
+    }
 
     const qreal dot = iSize * 0.28;
     painter.setPen(QPen(Qt::white, iSize * 0.05));

@@ -18,8 +18,9 @@ const QString OLD_EDITOR_MARK = QStringLiteral("<meta name=\"qrichtext\" content
 QString fragmentOf(const QString &strHtml)
 {
     const int iBegin = strHtml.indexOf(FRAGMENT_BEGIN);
-    if (iBegin < 0)
+    if (iBegin < 0) {
         return strHtml;
+    }
     const int iEnd = strHtml.indexOf(FRAGMENT_END);
     const QString strFragment = strHtml.mid(iBegin, iEnd > iBegin ? iEnd - iBegin : -1);
     return strHtml.contains(OLD_EDITOR_MARK) ? OLD_EDITOR_MARK + strFragment : strFragment;
@@ -43,8 +44,9 @@ bool selectsBy(const QStringRef &css, QLatin1String marks)
     for (const QChar c : css) {
         iDepth += c == QLatin1Char('{') ? 1 : 0;
         iDepth -= c == QLatin1Char('}') ? 1 : 0;
-        if (iDepth <= 0 && std::find(marks.begin(), marks.end(), c) != marks.end())
+        if (iDepth <= 0 && std::find(marks.begin(), marks.end(), c) != marks.end()) {
             return true;
+        }
     }
     return false;
 }
@@ -63,8 +65,9 @@ public:
         for (HtmlTag tag = HtmlTags::next(m_strHtml, 0); tag.iBegin >= 0; tag = HtmlTags::next(m_strHtml, iDone)) {
             addText(m_strHtml.midRef(iDone, tag.iBegin - iDone));
             addTag(tag);
-            if (m_cost.isTooHigh() || needsAll())
+            if (m_cost.isTooHigh() || needsAll()) {
                 return false;
+            }
             iDone = tag.iEnd;
         }
         addText(m_strHtml.midRef(iDone));
@@ -77,8 +80,9 @@ public:
 private:
     void addText(const QStringRef &text)
     {
-        if (text.isEmpty())
+        if (text.isEmpty()) {
             return;
+        }
         if (m_cost.isInStyle()) {
             addStyle(text);
             return;
@@ -92,8 +96,9 @@ private:
 
     void addStyle(const QStringRef &css)
     {
-        if (!canChangeText(css))
+        if (!canChangeText(css)) {
             return;
+        }
         m_strLean += css;
         m_cost.addSheet(css.size(), selectsBy(css, QLatin1String("+~")));
         m_bNeedsAll = m_bNeedsAll || m_bRenamed || selectsBy(css, QLatin1String(".#[:\\&@"));
@@ -101,14 +106,15 @@ private:
 
     void addTag(const HtmlTag &tag)
     {
-        if (tag.bRemark)
+        if (tag.bRemark) {
             m_strLean += QLatin1String("<!>");
-        else if (tag.bClosing)
+        } else if (tag.bClosing) {
             addClosing(tag.strName, tag.name.toString());
-        else if (tag.strName == QLatin1String("img") && m_bInLine && m_cost.isPlainLine())
+        } else if (tag.strName == QLatin1String("img") && m_bInLine && m_cost.isPlainLine()) {
             m_strLean += QChar::ObjectReplacementCharacter; // gives the same text as the image, without its layout
-        else
+        } else {
             addOpening(tag);
+        }
     }
 
     void addClosing(const QString &strName, const QString &strSource)
@@ -124,8 +130,9 @@ private:
 
     void addOpening(const HtmlTag &tag)
     {
-        if (tag.strName == QLatin1String("li") && m_cost.isListFull())
+        if (tag.strName == QLatin1String("li") && m_cost.isListFull()) {
             cutList();
+        }
         addElement(tag, kept(tag));
         m_bInLine = tag.strName == QLatin1String("img") || tag.strName == QLatin1String("br");
         m_bJustOpened = !m_bInLine;
@@ -147,10 +154,12 @@ private:
     QString writtenName(const QString &strName) const
     {
         static const QSet<QString> FIXED{"code", "tt", "kbd", "samp"};
-        if (m_bAll || m_cost.hasSheets())
+        if (m_bAll || m_cost.hasSheets()) {
             return strName;
-        if (FIXED.contains(strName))
+        }
+        if (FIXED.contains(strName)) {
             return QStringLiteral("var");
+        }
         return strName == QLatin1String("pre") ? QStringLiteral("center") : strName;
     }
 
@@ -181,8 +190,9 @@ private:
     {
         QString strKept;
         for (const HtmlAttribute &attribute : tag.listAttribute) {
-            if (m_bAll || isKept(tag.strName, attribute))
+            if (m_bAll || isKept(tag.strName, attribute)) {
                 strKept += QLatin1Char(' ') + attribute.source;
+            }
         }
         return strKept;
     }
@@ -190,11 +200,14 @@ private:
     static bool isKept(const QString &strTag, const HtmlAttribute &attribute)
     {
         const QString &strKey = attribute.strKey;
-        if (strTag == QLatin1String("meta"))
+        if (strTag == QLatin1String("meta")) {
             return strKey == QLatin1String("name") || strKey == QLatin1String("content");
-        if (strTag == QLatin1String("td") || strTag == QLatin1String("th"))
-            if (strKey == QLatin1String("colspan") || strKey == QLatin1String("rowspan"))
+        }
+        if (strTag == QLatin1String("td") || strTag == QLatin1String("th")) {
+            if (strKey == QLatin1String("colspan") || strKey == QLatin1String("rowspan")) {
                 return true;
+            }
+        }
         return strKey == QLatin1String("style") && canChangeText(attribute.value);
     }
 
@@ -220,8 +233,9 @@ public:
         int iDone = 0;
         for (HtmlTag tag = HtmlTags::next(strHtml, 0); tag.iBegin >= 0; tag = HtmlTags::next(strHtml, iDone)) {
             addText(strHtml.midRef(iDone, tag.iBegin - iDone));
-            if (!tag.bRemark)
+            if (!tag.bRemark) {
                 addTag(tag);
+            }
             iDone = tag.iEnd;
         }
         addText(strHtml.midRef(iDone));
@@ -236,20 +250,23 @@ private:
                                           "h1",      "h2",         "h3",   "h4",     "h5", "h6",  "hr", "li",
                                           "ol",      "p",          "pre",  "table",  "td", "th",  "tr", "ul"};
         if (!m_strHidden.isEmpty()) {
-            if (tag.bClosing && tag.strName == m_strHidden)
+            if (tag.bClosing && tag.strName == m_strHidden) {
                 m_strHidden.clear();
+            }
             return;
         }
-        if (!tag.bClosing && !tag.bSelfClosing && HIDDEN.contains(tag.strName))
+        if (!tag.bClosing && !tag.bSelfClosing && HIDDEN.contains(tag.strName)) {
             m_strHidden = tag.strName;
-        else if (tag.strName == QLatin1String("br") && !tag.bClosing)
+        } else if (tag.strName == QLatin1String("br") && !tag.bClosing) {
             breakLine();
-        else if (tag.strName == QLatin1String("img") && !tag.bClosing)
+        } else if (tag.strName == QLatin1String("img") && !tag.bClosing) {
             addUnit(QChar::ObjectReplacementCharacter);
-        else if (BLOCKS.contains(tag.strName))
+        } else if (BLOCKS.contains(tag.strName)) {
             m_bNewBlock = true;
-        if (tag.strName == QLatin1String("pre"))
+        }
+        if (tag.strName == QLatin1String("pre")) {
             m_bPre = !tag.bClosing && !tag.bSelfClosing;
+        }
     }
 
     void breakLine()
@@ -260,8 +277,9 @@ private:
 
     void addText(const QStringRef &text)
     {
-        if (!m_strHidden.isEmpty())
+        if (!m_strHidden.isEmpty()) {
             return;
+        }
         for (int i = 0; i < text.size(); ++i) {
             const uint uiCode =
                 text.at(i) == QLatin1Char('&') ? HtmlTags::numericEntity(*text.string(), text.position() + i) : 0;
@@ -270,8 +288,9 @@ private:
                 continue;
             }
             addSpace(uiCode != 0 ? QChar::Space : text.at(i));
-            while (uiCode != 0 && i + 1 < text.size() && text.at(i) != QLatin1Char(';'))
+            while (uiCode != 0 && i + 1 < text.size() && text.at(i) != QLatin1Char(';')) {
                 ++i;
+            }
         }
     }
 
@@ -283,19 +302,21 @@ private:
 
     void addSpace(QChar c)
     {
-        if (m_bPre && c == QLatin1Char('\n'))
+        if (m_bPre && c == QLatin1Char('\n')) {
             breakLine();
-        else if (m_bPre)
+        } else if (m_bPre) {
             addUnit(QLatin1Char(' '));
-        else if (!m_bAfterSpace && !m_bNewBlock)
+        } else if (!m_bAfterSpace && !m_bNewBlock) {
             addUnit(QLatin1Char(' '));
+        }
         m_bAfterSpace = true;
     }
 
     void addUnit(QChar c)
     {
-        if (m_bNewBlock && !m_strBare.isEmpty())
+        if (m_bNewBlock && !m_strBare.isEmpty()) {
             m_strBare += QChar(QChar::LineSeparator);
+        }
         m_bNewBlock = false;
         m_bAfterSpace = false;
         m_strBare += c;
@@ -314,10 +335,12 @@ QString BoundedHtml::lean(const QString &strHtml)
 {
     const QString strRead = fragmentOf(strHtml);
     LeanWriter writer(strRead, false);
-    if (writer.write())
+    if (writer.write()) {
         return writer.written();
-    if (!writer.needsAll())
+    }
+    if (!writer.needsAll()) {
         return {};
+    }
     LeanWriter whole(strRead, true);
     return whole.write() ? whole.written() : QString();
 }

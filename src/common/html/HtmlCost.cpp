@@ -52,12 +52,14 @@ int spanOf(const HtmlTag &tag, const char *pKey)
 {
     int iSpan = 1;
     for (const HtmlAttribute &attribute : tag.listAttribute) {
-        if (attribute.strKey != QLatin1String(pKey))
+        if (attribute.strKey != QLatin1String(pKey)) {
             continue;
+        }
         QString strValue = attribute.value.toString();
         // A number with an entity in it is not read: it may be the largest.
-        if (strValue.contains(QLatin1Char('&')))
+        if (strValue.contains(QLatin1Char('&'))) {
             return MOST_COLUMNS_OF_CELL;
+        }
         strValue.remove(QLatin1Char('"')).remove(QLatin1Char('\''));
         bool bNumber = false;
         const int iValue = strValue.toInt(&bNumber);
@@ -118,19 +120,21 @@ bool HtmlCost::has(Kind kind) const
 
 void HtmlCost::leaveTo(int iParent)
 {
-    while (m_listOpen.size() > iParent + 1)
+    while (m_listOpen.size() > iParent + 1) {
         pop();
+    }
 }
 
 void HtmlCost::pop()
 {
     const Element element = m_listOpen.takeLast();
-    if (element.kind == List && !m_listItems.isEmpty())
+    if (element.kind == List && !m_listItems.isEmpty()) {
         m_listItems.removeLast(); // also at the end of a hidden list, which was never entered here
-    else if (element.kind == Table && !m_listGrid.isEmpty())
+    } else if (element.kind == Table && !m_listGrid.isEmpty()) {
         m_listGrid.removeLast();
-    else if (element.kind == Pre)
+    } else if (element.kind == Pre) {
         --m_iPre;
+    }
 }
 
 /// Closes and opens the elements that Qt closes and opens before it takes an element of that kind.
@@ -144,26 +148,32 @@ void HtmlCost::makeRoomFor(const QString &strName, Kind kind)
     }
     int iParent = m_listOpen.size() - 1;
     if (kind == Paragraph) {
-        while (iParent > 0 && (!isBlock(m_listOpen.at(iParent).kind) || m_listOpen.at(iParent).bHidden))
+        while (iParent > 0 && (!isBlock(m_listOpen.at(iParent).kind) || m_listOpen.at(iParent).bHidden)) {
             --iParent;
-        if (iParent == 0 || m_listOpen.at(iParent).kind != Paragraph)
+        }
+        if (iParent == 0 || m_listOpen.at(iParent).kind != Paragraph) {
             iParent = m_listOpen.size() - 1;
+        }
     }
-    if ((kind == Paragraph || kind == Item) && m_listOpen.at(iParent).kind == kind)
+    if ((kind == Paragraph || kind == Item) && m_listOpen.at(iParent).kind == kind) {
         --iParent;
-    while (iParent > 0 && !isAllowedIn(kind, m_listOpen.at(iParent).kind))
+    }
+    while (iParent > 0 && !isAllowedIn(kind, m_listOpen.at(iParent).kind)) {
         --iParent;
+    }
     leaveTo(iParent);
 }
 
 int HtmlCost::formatOf(const QString &strName, const QString &strKept)
 {
     const int iAround = m_listOpen.last().iFormat;
-    if (iAround == 0 && strKept.isEmpty())
+    if (iAround == 0 && strKept.isEmpty()) {
         return 0;
+    }
     int &iFormat = m_formats[{iAround, strName + strKept}];
-    if (iFormat == 0)
+    if (iFormat == 0) {
         iFormat = m_formats.size();
+    }
     return iFormat;
 }
 
@@ -180,12 +190,15 @@ void HtmlCost::push(const QString &strName, Kind kind, const QString &strKept, c
     element.iUnits = around.iUnits + strKept.size();
     element.strKept = strKept;
     m_listOpen.append(element);
-    if (kind == Pre)
+    if (kind == Pre) {
         ++m_iPre;
-    if (kind == List && !element.bHidden)
+    }
+    if (kind == List && !element.bHidden) {
         m_listItems.append(0);
-    if (kind == Table && !element.bHidden)
+    }
+    if (kind == Table && !element.bHidden) {
         m_listGrid.append(Grid());
+    }
 }
 
 void HtmlCost::open(const HtmlTag &tag, const QString &strKept, const QString &strWritten)
@@ -201,8 +214,9 @@ void HtmlCost::open(const HtmlTag &tag, const QString &strKept, const QString &s
     m_bStyles = m_bStyles || !strKept.isEmpty();
     push(tag.strName, kind, strKept, strWritten);
     addElement(m_listOpen.last(), tag);
-    if (kind == Void || kind == Rule || tag.bSelfClosing)
+    if (kind == Void || kind == Rule || tag.bSelfClosing) {
         pop();
+    }
     m_bAfterNameless = false;
 }
 
@@ -215,14 +229,18 @@ void HtmlCost::addElement(const Element &element, const HtmlTag &tag)
                SHEET_UNIT_LEVEL * dRules + SHEET_UNIT_LEVEL_SQUARE * dRules * dRules +
                ATTRIBUTE_UNIT * element.strKept.size() + ESCAPE_TIMES_UNIT * dEscapes * element.strKept.size() +
                INHERITED_UNIT * element.iUnits * (1 + m_iSheetUnits);
-    if (element.iFormat != 0)
+    if (element.iFormat != 0) {
         m_dCost += FORMAT_BEFORE * m_formats.size();
-    if (m_bSiblings)
+    }
+    if (m_bSiblings) {
         m_dCost += SIBLING_BEFORE * ++m_iElements * m_iSheetUnits;
-    if ((element.kind == Code || element.kind == Pre) && element.strWritten == element.strName)
+    }
+    if ((element.kind == Code || element.kind == Pre) && element.strWritten == element.strName) {
         m_dCost += CODE;
-    if (!element.bHidden)
+    }
+    if (!element.bHidden) {
         addShown(element, tag);
+    }
 }
 
 // Adds what an element costs that gets a place in the text; a hidden one gets none.
@@ -230,41 +248,47 @@ void HtmlCost::addShown(const Element &element, const HtmlTag &tag)
 {
     m_bUnevenCells = m_bUnevenCells || (element.kind == Table && !element.strKept.isEmpty());
     const bool bInTable = element.kind != Cell || !m_listGrid.isEmpty();
-    if (isBlock(element.kind) && element.kind != List && bInTable && !m_bUnevenCells)
+    if (isBlock(element.kind) && element.kind != List && bInTable && !m_bUnevenCells) {
         m_iBlockUnits = 0;
-    if (element.kind == Item && !m_listItems.isEmpty())
+    }
+    if (element.kind == Item && !m_listItems.isEmpty()) {
         m_dCost += ITEM_BEFORE * ++m_listItems.last();
-    else if (isBlock(element.kind) && !m_listItems.isEmpty())
+    } else if (isBlock(element.kind) && !m_listItems.isEmpty()) {
         m_dCost += BLOCK_IN_LIST * m_listItems.last();
-    if (element.kind == List)
+    }
+    if (element.kind == List) {
         m_dCost += LIST;
-    else if (element.kind == Table)
+    } else if (element.kind == Table) {
         m_dCost += TABLE + TABLE_BEFORE * ++m_iTables + TABLE_LEVEL * m_listOpen.size();
-    else if (element.kind == Row)
+    } else if (element.kind == Row) {
         addRow();
-    else if (element.kind == Cell)
+    } else if (element.kind == Cell) {
         addCell(tag);
-    else if (element.strName == QLatin1String("img"))
+    } else if (element.strName == QLatin1String("img")) {
         addImage();
+    }
 }
 
 void HtmlCost::addRow()
 {
-    if (m_listGrid.isEmpty())
+    if (m_listGrid.isEmpty()) {
         return;
+    }
     Grid &grid = m_listGrid.last();
     grid.iRows += m_bAfterNameless ? 2 : 1;
     grid.iCells = 0;
-    while (!grid.mapSpan.isEmpty() && grid.mapSpan.firstKey() < grid.iRows)
+    while (!grid.mapSpan.isEmpty() && grid.mapSpan.firstKey() < grid.iRows) {
         grid.iSpanned -= grid.mapSpan.take(grid.mapSpan.firstKey());
+    }
     addPlaces(grid);
 }
 
 void HtmlCost::addCell(const HtmlTag &tag)
 {
     m_dCost += CELL;
-    if (m_listGrid.isEmpty())
+    if (m_listGrid.isEmpty()) {
         return;
+    }
     Grid &grid = m_listGrid.last();
     const qint64 iColumns = spanOf(tag, "colspan");
     const qint64 iRows = spanOf(tag, "rowspan");
@@ -297,8 +321,9 @@ void HtmlCost::addImage()
 int HtmlCost::indexOfOpen(const QString &strName) const
 {
     int i = strName.isEmpty() ? 0 : m_listOpen.size() - 1;
-    while (i > 0 && m_listOpen.at(i).strName != strName)
+    while (i > 0 && m_listOpen.at(i).strName != strName) {
         --i;
+    }
     return i;
 }
 
@@ -311,8 +336,9 @@ int HtmlCost::close(const QString &strName)
 {
     const int i = indexOfOpen(strName);
     m_dCost += UNMATCHED_LEVEL * m_listOpen.size();
-    if (i == 0)
+    if (i == 0) {
         return 0;
+    }
     m_dCost += CLOSING + LEVEL * m_listOpen.size();
     m_iSheets += isInStyle() ? 1 : 0;
     const QString strWritten = m_listOpen.at(i).strWritten;

@@ -38,8 +38,9 @@ int behindAttribute(const QString &strImage, const AttributeNames &names, int iF
 bool isImage(const QString &strImage, const AttributeNames &names)
 {
     int i = int(qstrlen("<img"));
-    for (int iPlace = 0; iPlace < 3 && i >= 0; ++iPlace)
+    for (int iPlace = 0; iPlace < 3 && i >= 0; ++iPlace) {
         i = behindAttribute(strImage, names, i);
+    }
     return i >= 0;
 }
 
@@ -50,8 +51,9 @@ QString bodyOf(const QString &strHtml)
     const QString strStart = QStringLiteral("<body");
     const int iFirst = strHtml.indexOf(strStart);
     const int iLast = strHtml.lastIndexOf(strEnd);
-    if (iFirst < 0 || iLast < iFirst + strStart.size())
+    if (iFirst < 0 || iLast < iFirst + strStart.size()) {
         return {};
+    }
     return strHtml.mid(iFirst, iLast + strEnd.size() - iFirst);
 }
 
@@ -65,15 +67,18 @@ void forEachImage(const QString &strHtml, const AttributeNames &names, Take take
     int iEnd = 0;
     for (int iImage = begin.indexIn(strBody); iImage >= 0; iImage = begin.indexIn(strBody, iEnd)) {
         iEnd = strBody.indexOf(QLatin1Char('>'), iImage) + 1;
-        if (iEnd == 0)
+        if (iEnd == 0) {
             return;
+        }
         const QString strImage = strBody.mid(iImage, iEnd - iImage);
         QDomDocument document;
-        if (!isImage(strImage, names) || !DomText::parse(strImage, document))
+        if (!isImage(strImage, names) || !DomText::parse(strImage, document)) {
             continue;
+        }
         const QDomElement image = document.firstChildElement(QStringLiteral("img"));
-        if (!image.isNull())
+        if (!image.isNull()) {
             take(image);
+        }
     }
 }
 
@@ -91,8 +96,9 @@ CImageData recordOf(const QDomElement &image)
     data.m_strSize = image.attribute(QStringLiteral("trueheight"));
     // Deliberate: the width wins over the height.
     const QString strWidth = image.attribute(QStringLiteral("truewidth"));
-    if (!strWidth.isEmpty())
+    if (!strWidth.isEmpty()) {
         data.m_strSize = strWidth;
+    }
     return data;
 }
 
@@ -106,8 +112,9 @@ QStringList HtmlImages::getImageListFromHtml(const QString &strHtml, const QStri
     forEachImage(strHtml, {QLatin1String("src"), QLatin1String("type"), QLatin1String("style")},
                  [&](const QDomElement &image) {
                      const QString strSrc = image.attribute(QStringLiteral("src"));
-                     if (!strSrc.isEmpty() && !isPlaceholder(strSrc))
+                     if (!strSrc.isEmpty() && !isPlaceholder(strSrc)) {
                          listPath.append(QFileInfo(strFolder + QFileInfo(strSrc).fileName()).absoluteFilePath());
+                     }
                  });
     return listPath;
 }
@@ -118,8 +125,9 @@ QMap<QString, CImageData> HtmlImages::getFileIdListFromHtml(const QString &strHt
     forEachImage(strHtml, {QLatin1String("src"), QLatin1String("name"), QLatin1String("fileid")},
                  [&](const QDomElement &image) {
                      QString strName = image.attribute(QStringLiteral("name"));
-                     if (strName.contains(QLatin1String("downagain.png")))
+                     if (strName.contains(QLatin1String("downagain.png"))) {
                          return;
+                     }
                      strName.remove(QLatin1String("file:///"));
                      mapImage.insert(strName, recordOf(image));
                  });

@@ -21,8 +21,9 @@ constexpr int LONGEST_SCHEME = 5;
 bool isMarkOfLink(const QChar *pFirst, int iSize, int i)
 {
     const auto isW = [pFirst](int iAt) { return (pFirst[iAt].unicode() | 0x20) == 'w'; };
-    if (pFirst[i] == QLatin1Char(':'))
+    if (pFirst[i] == QLatin1Char(':')) {
         return i + 2 < iSize && pFirst[i + 1] == QLatin1Char('/') && pFirst[i + 2] == QLatin1Char('/');
+    }
     return pFirst[i] == QLatin1Char('.') && i >= 3 && isW(i - 1) && isW(i - 2) && isW(i - 3);
 }
 
@@ -31,8 +32,9 @@ bool isMarkOfLink(const QChar *pFirst, int iSize, int i)
 int nextPlaceOfLink(const QString &strText, int iFrom)
 {
     for (int i = iFrom; i < strText.size(); ++i) {
-        if (isMarkOfLink(strText.constData(), strText.size(), i))
+        if (isMarkOfLink(strText.constData(), strText.size(), i)) {
             return qMax(iFrom, i - LONGEST_SCHEME);
+        }
     }
     return -1;
 }
@@ -54,11 +56,13 @@ void HtmlLinks::convertWebLink(QString &strText, const QString &strStyle)
     QString strOutput;
     int iDone = 0;
     for (int iPlace = nextPlaceOfLink(strRest, 0); iPlace >= 0; iPlace = nextPlaceOfLink(strRest, iDone)) {
-        if (pattern.isEmpty())
+        if (pattern.isEmpty()) {
             pattern = linkPattern();
+        }
         const int iLink = pattern.indexIn(strRest, iPlace);
-        if (iLink < 0)
+        if (iLink < 0) {
             break;
+        }
         strOutput += strRest.midRef(iDone, iLink - iDone);
         appendLink(strOutput, pattern.cap(0), strStyle);
         iDone = iLink + pattern.matchedLength();

@@ -11,10 +11,12 @@ int endOfEntity(const QString &strHtml, int iAt)
 {
     const int iMost = qMin(strHtml.size(), iAt + LONGEST_ENTITY);
     for (int i = iAt + 1; i < iMost; ++i) {
-        if (strHtml.at(i).isSpace())
+        if (strHtml.at(i).isSpace()) {
             return -1;
-        if (strHtml.at(i) == QLatin1Char(';'))
+        }
+        if (strHtml.at(i) == QLatin1Char(';')) {
             return i;
+        }
     }
     return iMost == strHtml.size() ? iMost : -1;
 }
@@ -28,12 +30,13 @@ public:
     void read(HtmlTag &tag)
     {
         skipSpace();
-        if (isAt('!'))
+        if (isAt('!')) {
             readRemark(tag);
-        else if (isAt('/'))
+        } else if (isAt('/')) {
             readClosing(tag);
-        else
+        } else {
             readOpening(tag);
+        }
         tag.iEnd = m_i;
     }
 
@@ -43,8 +46,9 @@ private:
 
     void skipSpace()
     {
-        while (!isAtEnd() && m_strHtml.at(m_i).isSpace() && m_strHtml.at(m_i) != QChar::ParagraphSeparator)
+        while (!isAtEnd() && m_strHtml.at(m_i).isSpace() && m_strHtml.at(m_i) != QChar::ParagraphSeparator) {
             ++m_i;
+        }
     }
 
     void skipBehind(const QString &strMark)
@@ -75,10 +79,12 @@ private:
     void readOpening(HtmlTag &tag)
     {
         readName(tag);
-        if (!isAtEnd() && m_strHtml.at(m_i).isSpace())
+        if (!isAtEnd() && m_strHtml.at(m_i).isSpace()) {
             readAttributes(tag);
-        for (; !isAtEnd() && !isAt('>'); ++m_i)
+        }
+        for (; !isAtEnd() && !isAt('>'); ++m_i) {
             tag.bSelfClosing = tag.bSelfClosing || isAt('/');
+        }
         m_i = qMin(m_i + 1, m_strHtml.size());
     }
 
@@ -93,13 +99,15 @@ private:
     {
         while (!isAtEnd()) {
             skipSpace();
-            if (isAt('>') || isAt('/'))
+            if (isAt('>') || isAt('/')) {
                 return;
+            }
             HtmlAttribute attribute;
             const int iKey = m_i;
             attribute.strKey = word().toLower();
-            if (attribute.strKey.isEmpty())
+            if (attribute.strKey.isEmpty()) {
                 return;
+            }
             int iEnd = m_i;
             skipSpace();
             if (isAt('=')) {
@@ -117,11 +125,13 @@ private:
 
     QString word()
     {
-        if (isAt('"') || isAt('\''))
+        if (isAt('"') || isAt('\'')) {
             return quoted(m_strHtml.at(m_i++));
+        }
         QString strWord;
-        while (!isAtEnd() && !isEndOfWord())
+        while (!isAtEnd() && !isEndOfWord()) {
             readUnit(strWord);
+        }
         return strWord;
     }
 
@@ -135,10 +145,11 @@ private:
                 ++m_i;
                 break;
             }
-            if (bSingle)
+            if (bSingle) {
                 strWord += m_strHtml.at(m_i++);
-            else
+            } else {
                 readUnit(strWord);
+            }
         }
         return strWord;
     }
@@ -174,18 +185,21 @@ HtmlTag HtmlTags::next(const QString &strHtml, int iFrom)
 {
     HtmlTag tag;
     tag.iBegin = strHtml.indexOf(QLatin1Char('<'), iFrom);
-    if (tag.iBegin >= 0)
+    if (tag.iBegin >= 0) {
         Reader(strHtml, tag.iBegin + 1).read(tag);
+    }
     return tag;
 }
 
 uint HtmlTags::numericEntity(const QString &strHtml, int iAt)
 {
-    if (iAt + 1 >= strHtml.size() || strHtml.at(iAt + 1) != QLatin1Char('#'))
+    if (iAt + 1 >= strHtml.size() || strHtml.at(iAt + 1) != QLatin1Char('#')) {
         return 0;
+    }
     const int iEnd = endOfEntity(strHtml, iAt);
-    if (iEnd < 0)
+    if (iEnd < 0) {
         return 0;
+    }
     QStringRef number = strHtml.midRef(iAt + 2, iEnd - iAt - 2);
     const bool bHex = number.startsWith(QLatin1Char('x'), Qt::CaseInsensitive);
     return (bHex ? number.mid(1) : number).toUInt(nullptr, bHex ? 16 : 10);

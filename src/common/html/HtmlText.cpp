@@ -55,6 +55,7 @@ QString HtmlText::getDealWithHtmlText(QString strText)
 
 void HtmlText::escapeURLChar(QString &strText)
 {
-    for (const Escape &escape : URL_ESCAPES)
+    for (const Escape &escape : URL_ESCAPES) {
         replaceAll(strText, QString(QLatin1Char(escape.cPlain)), QLatin1String(escape.pEncoded));
+    }
 }

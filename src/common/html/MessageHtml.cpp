@@ -42,12 +42,14 @@ struct SpanFindings
     void add(const QDomElement &span)
     {
         // Deliberate: the first style is kept for all that follows.
-        if (strStyle.isEmpty() && !span.attribute(QStringLiteral("style")).isEmpty())
+        if (strStyle.isEmpty() && !span.attribute(QStringLiteral("style")).isEmpty()) {
             strStyle = linkStyle(span.attribute(QStringLiteral("style")));
+        }
         const QDomNode first = span.firstChild();
         const QString strText = first.isElement() ? first.toElement().text() : first.nodeValue();
-        if (strText.contains(QLatin1String("  ")))
+        if (strText.contains(QLatin1String("  "))) {
             listSpacedText.append(strText);
+        }
     }
 };
 
@@ -56,15 +58,18 @@ SpanFindings spansOf(const QString &strBody)
     SpanFindings findings;
     QDomDocument document;
     // Only a whole document has paragraphs to look at; parsing a fragment would be in vain.
-    if (!strBody.contains(QLatin1String("<html")) || !DomText::parse(strBody, document))
+    if (!strBody.contains(QLatin1String("<html")) || !DomText::parse(strBody, document)) {
         return findings;
+    }
     const QString strParagraph = QStringLiteral("p");
     const QString strSpan = QStringLiteral("span");
     const QDomElement body =
         document.firstChildElement(QStringLiteral("html")).firstChildElement(QStringLiteral("body"));
-    for (auto p = body.firstChildElement(strParagraph); !p.isNull(); p = p.nextSiblingElement(strParagraph))
-        for (auto span = p.firstChildElement(strSpan); !span.isNull(); span = span.nextSiblingElement(strSpan))
+    for (auto p = body.firstChildElement(strParagraph); !p.isNull(); p = p.nextSiblingElement(strParagraph)) {
+        for (auto span = p.firstChildElement(strSpan); !span.isNull(); span = span.nextSiblingElement(strSpan)) {
             findings.add(span);
+        }
+    }
     return findings;
 }
 
@@ -72,12 +77,14 @@ SpanFindings spansOf(const QString &strBody)
 // that has an "&nbsp;" already.
 void keepSpaces(const QStringList &listSpacedText, QString &strResult)
 {
-    if (!strResult.contains(QLatin1String("&nbsp;")))
+    if (!strResult.contains(QLatin1String("&nbsp;"))) {
         return;
+    }
     int iMost = qMax(FEWEST_SPACED_TEXTS, MOST_WALKED_UNITS / strResult.size());
     for (const QString &strText : listSpacedText) {
-        if (iMost-- == 0)
+        if (iMost-- == 0) {
             return;
+        }
         QString strSpaced = strText;
         HtmlText::replaceSpace(strSpaced);
         replaceAll(strResult, strText, strSpaced);
@@ -89,14 +96,16 @@ void keepSpaces(const QStringList &listSpacedText, QString &strResult)
 QString MessageHtml::convertMessageBody(const QString &strBody, bool bReplaceSpace)
 {
     QString strResult = strBody;
-    if (bReplaceSpace)
+    if (bReplaceSpace) {
         HtmlText::replaceSpace(strResult);
+    }
     const QString strEnd = QStringLiteral("</p>");
     const int iFirst = strBody.indexOf(QLatin1String("<p"));
     const int iLast = strBody.lastIndexOf(strEnd);
     // Deliberate: the stretch is that of the untouched body, so the spaces replaced above are lost.
-    if (iFirst >= 0 && iLast > iFirst)
+    if (iFirst >= 0 && iLast > iFirst) {
         strResult = strBody.mid(iFirst, iLast + strEnd.size() - iFirst);
+    }
     const SpanFindings findings = spansOf(strBody);
     keepSpaces(findings.listSpacedText, strResult);
     HtmlLinks::convertWebLink(strResult, findings.strStyle);

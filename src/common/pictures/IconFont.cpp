@@ -55,8 +55,9 @@ QFont fontOfFile()
 {
     const int iFont = QFontDatabase::addApplicationFont(FONT_FILE);
     const QStringList listFamily = QFontDatabase::applicationFontFamilies(iFont);
-    if (listFamily.isEmpty())
+    if (listFamily.isEmpty()) {
         return QFont();
+    }
     borrowLetters(listFamily.first());
     return QFont(listFamily.first());
 }

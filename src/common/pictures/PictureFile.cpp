@@ -27,8 +27,9 @@ bool isAllowed(const QByteArray &format, const QSize &size, qint64 iFileBytes)
 {
     const auto row = std::find_if(std::begin(PICTURE_FORMATS), std::end(PICTURE_FORMATS),
                                   [&format](const PictureFormat &known) { return format == known.pName; });
-    if (row == std::end(PICTURE_FORMATS))
+    if (row == std::end(PICTURE_FORMATS)) {
         return false;
+    }
     const qint64 iWidth = size.width();
     const qint64 iHeight = qAbs(qint64(size.height()));
     const qint64 iMost = qMin(iMOST_PICTURE_PIXELS, iFileBytes * row->iMostPixelsPerByte);

@@ -10,16 +10,18 @@ QString DigitText::addZroeSort(int iNumber)
 QString DigitText::removeSymbolPrefix(const QString &strNumber)
 {
     QString strDigits = strNumber;
-    for (const char symbol : {'-', ':', '.', '+'})
+    for (const char symbol : {'-', ':', '.', '+'}) {
         strDigits.remove(QLatin1Char(symbol));
+    }
     return strDigits;
 }
 
 QString DigitText::removePrefix(const QString &strNumber)
 {
     const QString strDigits = removeSymbolPrefix(strNumber);
-    if (strDigits.startsWith(QStringLiteral("90")))
+    if (strDigits.startsWith(QStringLiteral("90"))) {
         return strDigits.mid(2);
+    }
     return strDigits.startsWith(QLatin1Char('9')) ? strDigits.mid(1) : strDigits;
 }
 

@@ -40,8 +40,9 @@ int fittingUnits(const QFontMetrics &metrics, const QString &strText, int iStart
     while (iTooLong <= iLeft && fits(iTooLong)) {
         iFitting = iTooLong;
         iTooLong = qMin(iTooLong * 2, iLeft);
-        if (iFitting == iLeft)
+        if (iFitting == iLeft) {
             return iLeft;
+        }
     }
     while (iTooLong - iFitting > 1) {
         const int iMiddle = iFitting + (iTooLong - iFitting) / 2;
@@ -60,8 +61,9 @@ bool fitsWhole(const QFontMetrics &metrics, const QString &strText, int iWidth)
 int fittingLength(const QFontMetrics &metrics, const QString &strText, int iStart, int iWidth)
 {
     int iFitting = fittingUnits(metrics, strText, iStart, iWidth);
-    if (isPairAt(strText, iStart + iFitting - 1))
+    if (isPairAt(strText, iStart + iFitting - 1)) {
         --iFitting;
+    }
     return iFitting > 0 ? iFitting : unitsAt(strText, iStart);
 }
 
@@ -72,8 +74,9 @@ QStringList fittingLines(const QFontMetrics &metrics, const QString &strText, in
         QString strLine = strText.mid(iStart, fittingLength(metrics, strText, iStart, iWidth));
         iStart += strLine.size();
         if (listLine.size() + 1 == iMaxLines) {
-            for (int i = 0; i < DOTS_REPLACE; ++i)
+            for (int i = 0; i < DOTS_REPLACE; ++i) {
                 strLine.truncate(before(strLine, strLine.size()));
+            }
             listLine.append(strLine + dots());
             break;
         }
@@ -86,8 +89,9 @@ int paragraphGap(const QString &strText)
 {
     const QString strMargin = QStringLiteral("margin:");
     const int iMargin = strText.indexOf(strMargin);
-    if (iMargin < 0)
+    if (iMargin < 0) {
         return 0;
+    }
     const int iNumber = iMargin + strMargin.size();
     return strText.midRef(iNumber, strText.indexOf(QLatin1String("px"), iNumber) - iNumber).toInt();
 }
@@ -101,8 +105,9 @@ void fixHeight(QWidget *pLabel, qint64 iHeight)
 
 QString LabelText::getLineWrapText(int iWidth, const QString &strText, const QFontMetrics &metrics, int iMaxLines)
 {
-    if (strText.isEmpty() || widthAt(metrics, strText, 0) > iWidth)
+    if (strText.isEmpty() || widthAt(metrics, strText, 0) > iWidth) {
         return strText;
+    }
     QString strWrapped;
     int iLines = 0;
     int iSum = 0;
@@ -111,8 +116,9 @@ QString LabelText::getLineWrapText(int iWidth, const QString &strText, const QFo
         const int iOwn = bBreak ? 0 : widthAt(metrics, strText, i);
         const bool bOverflow = iSum > 0 && iSum + iOwn > iWidth;
         if (bBreak || bOverflow) {
-            if (++iLines == iMaxLines)
+            if (++iLines == iMaxLines) {
                 return strWrapped.left(before(strWrapped, strWrapped.size())) + dots();
+            }
             strWrapped += QLatin1Char('\n');
             iSum = 0;
         }
@@ -131,8 +137,9 @@ QString LabelText::getLineWrapText(int iWidth, const QString &strText, const QFo
 bool LabelText::stringFormatWithControl(QString strText, QWidget *pLabel, QString &strOut, int iMaxLines)
 {
     strOut = strText;
-    if (!pLabel)
+    if (!pLabel) {
         return false;
+    }
     const QFontMetrics metrics = pLabel->fontMetrics();
     if (strText.startsWith(QLatin1String("<p"))) {
         const qint64 iParagraphs = strText.count(QLatin1String("</p>"));

@@ -7,8 +7,9 @@ void replaceAll(QString &strText, const QString &strBefore, const QString &strAf
 {
     const QStringMatcher matcher(strBefore);
     int i = strBefore.isEmpty() ? -1 : matcher.indexIn(strText);
-    if (i < 0)
+    if (i < 0) {
         return;
+    }
     QString strReplaced;
     int iDone = 0;
     for (; i >= 0; i = matcher.indexIn(strText, iDone)) {

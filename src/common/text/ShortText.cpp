@@ -58,8 +58,9 @@ QString ShortText::getShortString(const QString &strText, int iColumns)
         const int iEnd = endOfStretch(strText, iStart, iColumns);
         const QStringView stretch = QStringView(strText).mid(iStart, iEnd - iStart);
         strLines.append(stretch.data(), int(stretch.size()));
-        if (iEnd < strText.size())
+        if (iEnd < strText.size()) {
             strLines.append(QLatin1Char('\n'));
+        }
         iLeft -= columnsOf(stretch);
         iStart = iEnd;
     }
@@ -72,8 +73,9 @@ QString ShortText::getElidedText(const QString &strText)
     for (int iWidth = 0; iEnd < strText.size();) {
         const int iNext = behind(strText, iEnd);
         iWidth += columnsOf(QStringView(strText).mid(iEnd, iNext - iEnd));
-        if (iWidth >= cElidedColumns)
+        if (iWidth >= cElidedColumns) {
             return strText.left(iEnd) + QStringLiteral("...");
+        }
         iEnd = iNext;
     }
     return strText;

@@ -19,8 +19,9 @@ constexpr SortRange SORT_RANGES[] = {
 QChar sortUnit(QChar unit)
 {
     const SortRange *pRange = SORT_RANGES;
-    while (unit.unicode() > pRange->last)
+    while (unit.unicode() > pRange->last) {
         ++pRange;
+    }
     return {unit.unicode() * pRange->factor + pRange->increment};
 }
 
@@ -33,8 +34,9 @@ bool TextCompare::compareVersion(const QString &strA, const QString &strB)
     for (int i = 0; i < qMin(listA.size(), listB.size()); ++i) {
         const int iA = listA.at(i).toInt();
         const int iB = listB.at(i).toInt();
-        if (iA != iB)
+        if (iA != iB) {
             return iA < iB;
+        }
     }
     return false;
 }
@@ -49,7 +51,8 @@ bool TextCompare::combareString(const QString &strText, const QString &strSepara
 QString TextCompare::getSortText(const QString &strText)
 {
     QString strKey = strText;
-    for (QChar &unit : strKey)
+    for (QChar &unit : strKey) {
         unit = sortUnit(unit);
+    }
     return strKey;
 }

@@ -3,8 +3,9 @@
 int TextMeasure::getStrCounnt(const QString &strText)
 {
     int iColumns = 0;
-    for (const QChar unit : strText)
+    for (const QChar unit : strText) {
         iColumns += columnsOf(unit);
+    }
     return iColumns;
 }
 
@@ -13,10 +14,12 @@ int TextMeasure::getLimitPosition(const QString &strText, int iLimit)
     int iColumns = 0;
     for (int i = 0; i < strText.size(); ++i) {
         iColumns += columnsOf(strText.at(i));
-        if (iColumns == iLimit)
+        if (iColumns == iLimit) {
             return i + 1;
-        if (iColumns - 1 == iLimit)
+        }
+        if (iColumns - 1 == iLimit) {
             return i;
+        }
     }
     // Deliberate: the columns, not the position; edit fields compare it with their limit.
     return iColumns;
@@ -27,8 +30,9 @@ QString TextMeasure::getStringByLen(const QString &strText, int iLimit)
     int iColumns = 0;
     for (int i = 0; i < strText.size(); ++i) {
         iColumns += columnsOf(strText.at(i));
-        if (iColumns > iLimit)
+        if (iColumns > iLimit) {
             return strText.left(i);
+        }
     }
     return strText;
 }

@@ -27,8 +27,9 @@ QString clockOf(const QDateTime &time)
 /// The word for the day that lies so many days back; empty if it has none.
 QString dayWord(qint64 iDays)
 {
-    if (iDays == 1)
+    if (iDays == 1) {
         return QObject::tr("yesterday");
+    }
     return iDays == 2 ? QObject::tr("thedaybeforeyesterday") : QString();
 }
 
@@ -46,8 +47,9 @@ QString agoToday(const QTime &then, const QTime &now)
 {
     const int iHours = now.hour() - then.hour();
     const int iMinutes = now.minute() - then.minute();
-    if (iHours == 0)
+    if (iHours == 0) {
         return minutesAgo(iMinutes == 0 ? 1 : iMinutes);
+    }
     return iHours == 1 && iMinutes < 0 ? minutesAgo(iMinutes + 60) : hoursAgo(iHours);
 }
 
@@ -63,10 +65,12 @@ QString TimeText::getTime(const QString &strTime, const QDateTime &now)
 {
     const QDateTime time = fromDateText(strTime);
     const qint64 iDays = time.date().daysTo(now.date());
-    if (time.date().year() != now.date().year())
+    if (time.date().year() != now.date().year()) {
         return time.date().toString(QStringLiteral("yyyy-MM-dd"));
-    if (iDays == 1 || iDays == 2)
+    }
+    if (iDays == 1 || iDays == 2) {
         return dayWord(iDays);
+    }
     return iDays < 3 ? clockOf(time) : time.toString(QStringLiteral("MM-dd"));
 }
 
@@ -75,10 +79,12 @@ QString TimeText::getTimeEx(const QString &strTime, const QDateTime &now)
     const QDateTime time = fromDateText(strTime);
     const qint64 iDays = time.date().daysTo(now.date());
     // Deliberate: the format of a date leaves the letters of the clock, and chat lists show them so.
-    if (time.date().year() != now.date().year())
+    if (time.date().year() != now.date().year()) {
         return time.date().toString(QStringLiteral("yyyy-MM-dd hh:mm"));
-    if (iDays == 1 || iDays == 2)
+    }
+    if (iDays == 1 || iDays == 2) {
         return dayWord(iDays) + QLatin1Char(' ') + clockOf(time);
+    }
     return iDays < 3 ? clockOf(time) : time.toString(QStringLiteral("MM-dd hh:mm"));
 }
 
@@ -86,29 +92,36 @@ QString TimeText::getDetailTime(const QString &strMilliseconds, const QDateTime 
 {
     const QDateTime time = fromMilliseconds(strMilliseconds);
     const qint64 iDays = time.date().daysTo(now.date());
-    if (time.date().year() != now.date().year())
+    if (time.date().year() != now.date().year()) {
         return time.toString(QStringLiteral("yyyy-MM-dd hh:mm"));
-    if (iDays >= 0 && iDays <= 2)
+    }
+    if (iDays >= 0 && iDays <= 2) {
         return dayWord(iDays) + clockOf(time);
+    }
     return time.toString(QStringLiteral("MM-dd hh:mm"));
 }
 
 QString TimeText::getPublishTime(const QString &strMilliseconds, const QDateTime &now)
 {
     const QDateTime time = fromMilliseconds(strMilliseconds);
-    if (!time.isValid())
+    if (!time.isValid()) {
         return {};
+    }
 
     const int iYears = now.date().year() - time.date().year();
     const qint64 iDays = time.date().daysTo(now.date());
-    if (iYears != 0 && (iYears != 1 || quint32(iDays) > 364))
+    if (iYears != 0 && (iYears != 1 || quint32(iDays) > 364)) {
         return QString::number(iYears) + QStringLiteral("年前");
-    if (iDays == 0)
+    }
+    if (iDays == 0) {
         return agoToday(time.time(), now.time());
-    if (iDays == 1 && time.time().hour() > now.time().hour())
+    }
+    if (iDays == 1 && time.time().hour() > now.time().hour()) {
         return hoursAgo(now.time().hour() + 24 - time.time().hour());
-    if (iDays == 1 || iDays == 2)
+    }
+    if (iDays == 1 || iDays == 2) {
         return dayWord(iDays);
+    }
     return QString::number(iDays) + QStringLiteral("天前");
 }
 

@@ -13,10 +13,12 @@ inline qint64 cut(double dNumber)
 {
     // 2 to the 63rd: the first number beyond 64 bits, and exact as a double; its negative is the lowest value in them.
     constexpr double cBeyond = 9223372036854775808.0;
-    if (dNumber >= cBeyond)
+    if (dNumber >= cBeyond) {
         return std::numeric_limits<qint64>::max();
-    if (dNumber < -cBeyond)
+    }
+    if (dNumber < -cBeyond) {
         return std::numeric_limits<qint64>::min();
+    }
     return static_cast<qint64>(dNumber);
 }
 

@@ -16,8 +16,9 @@ public:
     QString document()
     {
         QString strBody;
-        for (int i = below(5); i >= 0; --i)
+        for (int i = below(5); i >= 0; --i) {
             strBody += "<p style=\"margin:0px\">" + runs() + "</p>" + pick({"", "\n", "<br/>"});
+        }
         return "<html><head/><body" + pick({"", " style=\"font-size:14px\""}) + ">" + strBody + "</body></html>";
     }
 
@@ -25,8 +26,9 @@ public:
     QString scraps()
     {
         QString strText;
-        for (int i = below(40); i > 0; --i)
+        for (int i = below(40); i > 0; --i) {
             strText += below(4) ? pick(PIECES) : runs();
+        }
         return strText;
     }
 
@@ -37,16 +39,18 @@ private:
     QString words()
     {
         QString strText;
-        for (int i = below(6); i >= 0; --i)
+        for (int i = below(6); i >= 0; --i) {
             strText += pick(WORDS);
+        }
         return strText;
     }
 
     QString image()
     {
         QString strTag = "<img";
-        for (int i = below(6); i >= 0; --i)
+        for (int i = below(6); i >= 0; --i) {
             strTag += " " + pick(NAMES) + "=\"" + pick(VALUES) + "\"";
+        }
         return strTag + pick({"/>", " />", ">"});
     }
 

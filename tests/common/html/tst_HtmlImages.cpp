@@ -39,8 +39,9 @@ QList<QDomElement> imagesStepByStep(QString strHtml, const QString &strPattern)
         strHtml.remove(i, body.matchedLength());
         for (int k = image.indexIn(strBody); k >= 0; k = image.indexIn(strBody)) {
             QDomDocument document;
-            if (document.setContent(image.cap(0)) && !document.firstChildElement("img").isNull())
+            if (document.setContent(image.cap(0)) && !document.firstChildElement("img").isNull()) {
                 listImage.append(document.firstChildElement("img"));
+            }
             strBody.remove(0, k + image.matchedLength());
         }
     }
@@ -55,8 +56,9 @@ QStringList pathsStepByStep(const QString &strHtml)
     for (const QDomElement &image : imagesStepByStep(strHtml, strPattern)) {
         const QString strSrc = image.attribute("src");
         if (!strSrc.isEmpty() && !strSrc.contains("Emotion") && !strSrc.contains("failed.png") &&
-            !strSrc.contains("downagain.png"))
+            !strSrc.contains("downagain.png")) {
             listPath.append(FOLDER + "/picRec/" + strSrc.mid(strSrc.lastIndexOf('/') + 1));
+        }
     }
     return listPath;
 }
@@ -66,9 +68,11 @@ QStringList namesStepByStep(const QString &strHtml)
     QStringList listName;
     const QString strPattern = "<img([^>]*)(src|name|fileid){1,1}=\"([^>]*)\"([^>]*)(src|name|fileid){1,1}=\"([^>]*)\""
                                "([^>]*)(src|name|fileid){1,1}=\"([^>]*)\"[^>]*>";
-    for (const QDomElement &image : imagesStepByStep(strHtml, strPattern))
-        if (!image.attribute("name").contains("downagain.png"))
+    for (const QDomElement &image : imagesStepByStep(strHtml, strPattern)) {
+        if (!image.attribute("name").contains("downagain.png")) {
             listName.append(image.attribute("name").remove("file:///"));
+        }
+    }
     listName.removeDuplicates();
     listName.sort();
     return listName;
@@ -106,8 +110,9 @@ private slots:
         for (const char *pOrder : {"src type style", "src style type", "type src style", "type style src",
                                    "style src type", "style type src"}) {
             QString strTag = "<img";
-            for (const QString &strName : QString(pOrder).split(' '))
+            for (const QString &strName : QString(pOrder).split(' ')) {
                 strTag += " " + strName + "=\"" + (strName == "src" ? "x/a.png" : "v") + "\"";
+            }
             row(pOrder, inBody(strTag + "/>"), {"a.png"});
         }
         row("others between them",
@@ -138,8 +143,9 @@ private slots:
         QFETCH(QString, html);
         QFETCH(QStringList, names);
         QStringList listPath;
-        for (const QString &strName : names)
+        for (const QString &strName : names) {
             listPath.append(FOLDER + "/picRec/" + strName);
+        }
         QCOMPARE(paths(html), listPath);
         QCOMPARE(pathsStepByStep(html), listPath);
     }

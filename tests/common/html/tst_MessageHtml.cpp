@@ -32,30 +32,36 @@ QString link(const QString &strUrl, const QString &strStyle = {})
 QString convertedStepByStep(const QString &strBody, bool bReplace)
 {
     QString strResult = strBody;
-    if (bReplace)
+    if (bReplace) {
         HtmlText::replaceSpace(strResult);
+    }
     const int iFirst = strBody.indexOf("<p");
     const int iLast = strBody.lastIndexOf("</p>");
-    if (iFirst >= 0 && iLast > iFirst)
+    if (iFirst >= 0 && iLast > iFirst) {
         strResult = strBody.mid(iFirst, iLast + 4 - iFirst);
+    }
     QDomDocument document;
-    if (!document.setContent(strBody))
+    if (!document.setContent(strBody)) {
         document.clear();
+    }
     QString strStyle;
     QDomNode p = document.firstChildElement("html").firstChildElement("body").firstChildElement("p");
     for (; !p.isNull(); p = p.nextSiblingElement("p")) {
         for (QDomNode node = p.firstChild(); !node.isNull(); node = node.nextSibling()) {
-            if (node.nodeName() != "span")
+            if (node.nodeName() != "span") {
                 continue;
+            }
             const QString strOwn = node.toElement().attribute("style");
-            if (strStyle.isEmpty() && !strOwn.isEmpty())
+            if (strStyle.isEmpty() && !strOwn.isEmpty()) {
                 strStyle = styled(QString(strOwn + "color: @UINT_COLOR@;").replace("@UINT_COLOR@", GREEN));
+            }
             const QDomNode first = node.firstChild();
             const QString strText = first.isElement() ? first.toElement().text() : first.nodeValue();
             QString strCopy = strText;
             HtmlText::replaceSpace(strCopy);
-            if (strCopy != strText)
+            if (strCopy != strText) {
                 strResult.replace(strText, strCopy);
+            }
         }
     }
     HtmlLinks::convertWebLink(strResult, strStyle);
@@ -173,8 +179,9 @@ private slots:
         for (quint32 iSeed = 0; iSeed < 2000; ++iSeed) {
             RandomMessage message(iSeed);
             const QString strBody = iSeed % 4 ? message.document() : message.scraps();
-            for (const bool bReplace : {false, true})
+            for (const bool bReplace : {false, true}) {
                 QCOMPARE(MessageHtml::convertMessageBody(strBody, bReplace), convertedStepByStep(strBody, bReplace));
+            }
         }
     }
 
@@ -188,8 +195,9 @@ private slots:
     void everySpanOfALongMessageCounts()
     {
         QString strSpans;
-        for (int i = 0; i < 500; ++i)
+        for (int i = 0; i < 500; ++i) {
             strSpans += QString("<span>www.a%1&nbsp;</span><span>  %1</span>").arg(i);
+        }
         strSpans += "<span>  z</span>www.a&nbsp;  z";
         QVERIFY(MessageHtml::convertMessageBody(inDocument("<p>" + strSpans + "</p>"), false)
                     .endsWith(link("www.a") + "&nbsp;&nbsp;&nbsp;z</p>"));
@@ -206,8 +214,9 @@ private slots:
     {
         constexpr int SPANS = 20000;
         QString strSpans;
-        for (int i = 0; i < SPANS; ++i)
+        for (int i = 0; i < SPANS; ++i) {
             strSpans += QString("<span style=\"x\">%1  www.a</span>").arg(i);
+        }
         const QString strShown = MessageHtml::convertMessageBody(inDocument("<p>" + strSpans + "</p>"), true);
         QCOMPARE(strShown.count(link("www.a", styled("xcolor: " + GREEN + ";"))), SPANS);
         QCOMPARE(strShown.count("&nbsp;&nbsp;"), SPANS);

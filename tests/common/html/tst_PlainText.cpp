@@ -28,8 +28,9 @@ QString plainStepByStep(QString strText)
 QString numbered(const QString &strPiece, int iTimes)
 {
     QString strText;
-    for (int i = 0; i < iTimes; ++i)
+    for (int i = 0; i < iTimes; ++i) {
         strText += strPiece.arg(i);
+    }
     return strText;
 }
 
@@ -179,8 +180,9 @@ private slots:
                                       "<!-",          "&#10;",
                                       "</b>",         "<style>b{}</style><b>",
                                       "<x a='",       "<a name=x>y",
-                                      "<blockquote>"})
+                                      "<blockquote>"}) {
             row("", pRepeated);
+        }
         row("", QString(QChar(0x2029)));
         row("", QString(QChar(0xFDD0)));
         row("<pre>", "\n");

@@ -129,8 +129,9 @@ private slots:
         QFETCH(int, room);
         {
             const FullDisk full(static_cast<rlim_t>(room));
-            for (int i = 0; i < 1000; ++i)
+            for (int i = 0; i < 1000; ++i) {
                 print(QString(100, QLatin1Char('x')));
+            }
             QVERIFY(QFileInfo(m_strFile).size() <= qMax<qint64>(room, 100));
         }
         print(QStringLiteral("room again"));
@@ -164,8 +165,9 @@ private:
         QStringList all;
         const QList<QByteArray> lines = readBytes(m_pFolder->filePath(strName)).split('\n');
         for (const QByteArray &line : lines) {
-            if (!line.isEmpty())
+            if (!line.isEmpty()) {
                 all.append(QString::fromUtf8(line).section(QStringLiteral("[place]: "), 1));
+            }
         }
         return all;
     }

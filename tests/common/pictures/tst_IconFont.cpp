@@ -36,8 +36,9 @@ private:
         layout.createLine();
         layout.endLayout();
         QStringList families;
-        for (const QGlyphRun &run : layout.glyphRuns())
+        for (const QGlyphRun &run : layout.glyphRuns()) {
             families.append(run.rawFont().familyName());
+        }
         families.removeDuplicates();
         return families;
     }

@@ -169,8 +169,9 @@ private slots:
         QVERIFY(dAbove >= pixelSize * 3 / 16.0);
         QVERIFY2(qAbs(dAbove - dBelow) <= 0.5, qPrintable(QStringLiteral("%1 %2").arg(dAbove).arg(dBelow)));
         // On whole pixels where the grid can lie on them.
-        if (pixelSize % 8 == 0)
+        if (pixelSize % 8 == 0) {
             QCOMPARE(dAbove, qreal(qRound(dAbove)));
+        }
     }
 
     void inkIsStrongAtTheSizesInUse_data()

@@ -75,8 +75,9 @@ private slots:
         QPixmap picture(10, 10);
         picture.fill(Qt::red);
         for (const QString &jid : {name, name + QStringLiteral("@kelvar.im")}) {
-            for (const char *suffix : {"png", "jpg", "jpeg"})
+            for (const char *suffix : {"png", "jpg", "jpeg"}) {
                 HeadImages::getFormattedImage({}, jid, picture, QSize(5, 5), QString::fromLatin1(suffix));
+            }
         }
     }
 
@@ -96,8 +97,9 @@ private slots:
     void photoNameIsTurnedIntoAPathOnly()
     {
         QFETCH(QString, name);
-        for (const int kind : {0, 1, 2, 3})
+        for (const int kind : {0, 1, 2, 3}) {
             PictureFun::savePhotoToLocalFile(name, kind, {}, QStringLiteral("x"));
+        }
         PictureFun::saveByteArrayToLocalFile(QByteArray("\x89PNG and more"), name);
         // The contract fixes how the path is put together.
         QVERIFY(PictureFun::savePhotoToLocalFile(name, 1, {}, QStringLiteral("x"))
@@ -180,8 +182,9 @@ private:
                 return path.startsWith(QDir::cleanPath(folder));
             });
             QFile file(path);
-            if (!isOwn && QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly))
+            if (!isOwn && QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly)) {
                 found.insert(path, file.readAll());
+            }
         }
         return found;
     }

@@ -146,8 +146,9 @@ private slots:
     void everyCharacterHasAKeyOfItsOwn()
     {
         QSet<QString> keys;
-        for (int iUnit = 0; iUnit <= 0xFFFF; ++iUnit)
+        for (int iUnit = 0; iUnit <= 0xFFFF; ++iUnit) {
             keys.insert(TextCompare::getSortText(QString(QChar(iUnit))));
+        }
         QCOMPARE(keys.size(), 0x10000);
     }
 

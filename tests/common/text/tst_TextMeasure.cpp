@@ -96,8 +96,9 @@ private slots:
             const QString strBeginning = TextMeasure::getStringByLen(strText, iLimit);
             QVERIFY(strText.startsWith(strBeginning));
             QVERIFY(TextMeasure::getStrCounnt(strBeginning) <= iLimit);
-            if (strBeginning != strText)
+            if (strBeginning != strText) {
                 QVERIFY(TextMeasure::getStrCounnt(strText.left(strBeginning.size() + 1)) > iLimit);
+            }
         }
     }
 

@@ -22,10 +22,12 @@ class TwoDays : public QTranslator
 public:
     QString translate(const char *pContext, const char *pText, const char *, int) const override
     {
-        if (qstrcmp(pContext, "QObject") != 0)
+        if (qstrcmp(pContext, "QObject") != 0) {
             return {};
-        if (qstrcmp(pText, "yesterday") == 0)
+        }
+        if (qstrcmp(pText, "yesterday") == 0) {
             return QStringLiteral("昨天");
+        }
         return qstrcmp(pText, "thedaybeforeyesterday") == 0 ? QStringLiteral("前天") : QString();
     }
     bool isEmpty() const override { return false; }
@@ -174,8 +176,9 @@ private slots:
     void whatIsNoNumberGivesNoText_data()
     {
         QTest::addColumn<QString>("text");
-        for (const char *pText : {"", "hello", "12a", "1.5", "99999999999999999999999", "2026-03-10 12:00:00"})
+        for (const char *pText : {"", "hello", "12a", "1.5", "99999999999999999999999", "2026-03-10 12:00:00"}) {
             QTest::newRow(*pText ? pText : "nothing") << QString(pText);
+        }
     }
     void whatIsNoNumberGivesNoText()
     {

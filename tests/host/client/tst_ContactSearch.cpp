@@ -38,9 +38,11 @@ private slots:
         QFETCH(QString, text);
         const ContactBook book(QStringLiteral("example.org"));
         QStringList found;
-        for (const int row : {0, 1, 2, 6})
-            if (ContactSearch::finds(book.entries().at(row), text))
+        for (const int row : {0, 1, 2, 6}) {
+            if (ContactSearch::finds(book.entries().at(row), text)) {
                 found.append(book.entries().at(row).uid);
+            }
+        }
         QTEST(found, "found");
     }
 };

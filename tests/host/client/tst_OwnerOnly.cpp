@@ -28,8 +28,9 @@ namespace {
 /// modes say, which is looked at elsewhere.
 bool isDoneByAnother(const std::function<bool()> &deed)
 {
-    if (::geteuid() != 0)
+    if (::geteuid() != 0) {
         return false;
+    }
     const pid_t child = ::fork();
     if (child == 0) {
         constexpr uid_t nobody = 65534;
@@ -37,8 +38,9 @@ bool isDoneByAnother(const std::function<bool()> &deed)
         ::_exit(!changed ? 2 : deed() ? 0 : 1);
     }
     int status = 0;
-    if (::waitpid(child, &status, 0) != child || !WIFEXITED(status) || WEXITSTATUS(status) == 2)
+    if (::waitpid(child, &status, 0) != child || !WIFEXITED(status) || WEXITSTATUS(status) == 2) {
         qFatal("nobody could not be asked");
+    }
     return WEXITSTATUS(status) == 0;
 }
 
@@ -64,8 +66,9 @@ QStringList pathsBelow(const QString &folder)
     QStringList paths;
     QDirIterator walk(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                       QDirIterator::Subdirectories);
-    while (walk.hasNext())
+    while (walk.hasNext()) {
         paths.append(walk.next());
+    }
     return paths;
 }
 
@@ -80,8 +83,9 @@ private slots:
     void initTestCase()
     {
         ::umask(022);
-        for (const QString &folder : {box(), QDir::homePath(), QDir::currentPath()})
+        for (const QString &folder : {box(), QDir::homePath(), QDir::currentPath()}) {
             QCOMPARE(::chmod(QFile::encodeName(folder).constData(), 0755), 0);
+        }
         QCOMPARE(::chmod(QFile::encodeName(QDir::tempPath()).constData(), 01777), 0);
         SystemSetData settings;
         settings.initCommonData();
@@ -113,14 +117,16 @@ private slots:
 
     void everythingMadeIsForItsOwnerAlone()
     {
-        for (const char *name : {"VoipSDK", "kelvarim-demo.log", "localData.db", "wire.trace"})
+        for (const char *name : {"VoipSDK", "kelvarim-demo.log", "localData.db", "wire.trace"}) {
             QVERIFY2(!find(QString::fromLatin1(name)).isEmpty(), name);
+        }
         const QStringList now = pathsBelow(box());
         int made = 0;
         for (const QString &path : now) {
             const mode_t mode = modeOf(path);
-            if (m_before.contains(path) || mode == 0 || S_ISLNK(mode))
+            if (m_before.contains(path) || mode == 0 || S_ISLNK(mode)) {
                 continue;
+            }
             ++made;
             QVERIFY2((mode & 077) == 0, qPrintable(QStringLiteral("%1 has mode %2").arg(path).arg(mode & 07777, 0, 8)));
         }
@@ -146,8 +152,9 @@ private slots:
     void anotherUserCannotReadOrWriteAFile_data()
     {
         QTest::addColumn<QString>("name");
-        for (const char *name : {"kelvarim-demo.log", "localData.db", "wire.trace", "VoipSDK.lock"})
+        for (const char *name : {"kelvarim-demo.log", "localData.db", "wire.trace", "VoipSDK.lock"}) {
             QTest::newRow(name) << QString::fromLatin1(name);
+        }
     }
 
     void anotherUserCannotReadOrWriteAFile()
@@ -155,8 +162,9 @@ private slots:
         QFETCH(QString, name);
         const QString found = name == "VoipSDK.lock" ? QDir::tempPath() + "/VoipSDK.lock" : find(name);
         const QByteArray path = QFile::encodeName(found);
-        for (const int flags : {O_RDONLY, O_WRONLY, O_RDWR, O_WRONLY | O_TRUNC})
+        for (const int flags : {O_RDONLY, O_WRONLY, O_RDWR, O_WRONLY | O_TRUNC}) {
             QVERIFY(!isDoneByAnother([&] { return canOpen(path, flags); }));
+        }
         QVERIFY(!isDoneByAnother([&] { return ::unlink(path.constData()) == 0; }));
     }
 

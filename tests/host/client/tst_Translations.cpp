@@ -40,13 +40,15 @@ QString readText(QXmlStreamReader &xml)
     QString text;
     QStringList forms;
     while (!(xml.readNext() == QXmlStreamReader::EndElement && xml.name() == QLatin1String("translation"))) {
-        if (xml.isCharacters())
+        if (xml.isCharacters()) {
             text.append(xml.text());
-        else if (xml.isStartElement())
+        } else if (xml.isStartElement()) {
             forms.append(xml.readElementText());
+        }
     }
-    if (!state.isEmpty() || forms.contains(QString()))
+    if (!state.isEmpty() || forms.contains(QString())) {
         return {};
+    }
     return forms.isEmpty() ? text : forms.first();
 }
 
@@ -55,19 +57,22 @@ QList<Entry> readFile(const QString &strPath)
 {
     QList<Entry> entries;
     QFile file(strPath);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return entries;
+    }
     QXmlStreamReader xml(&file);
     QString context;
     while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
+        if (xml.readNext() != QXmlStreamReader::StartElement) {
             continue;
-        if (xml.name() == QLatin1String("name"))
+        }
+        if (xml.name() == QLatin1String("name")) {
             context = xml.readElementText();
-        else if (xml.name() == QLatin1String("source"))
+        } else if (xml.name() == QLatin1String("source")) {
             entries.append({entryName(context, xml.readElementText()), QString()});
-        else if (xml.name() == QLatin1String("translation"))
+        } else if (xml.name() == QLatin1String("translation")) {
             entries.last().text = readText(xml);
+        }
     }
     return entries;
 }
@@ -75,8 +80,9 @@ QList<Entry> readFile(const QString &strPath)
 QStringList namesOf(const QList<Entry> &entries)
 {
     QStringList names;
-    for (const Entry &entry : entries)
+    for (const Entry &entry : entries) {
         names.append(entry.name);
+    }
     names.sort();
     return names;
 }
@@ -85,9 +91,11 @@ QStringList namesOf(const QList<Entry> &entries)
 QString without(const QStringList &names, const QStringList &others)
 {
     QStringList left;
-    for (const QString &name : names)
-        if (!others.contains(name))
+    for (const QString &name : names) {
+        if (!others.contains(name)) {
             left.append(name);
+        }
+    }
     return left.join(QLatin1String(", "));
 }
 
@@ -97,8 +105,9 @@ QStringList sourceFiles()
     for (const char *folder : {VOIP_SOURCES, VOIP_PROGRAMS}) {
         QDirIterator walk(QLatin1String(folder), {"*.cpp", "*.h", "*.def", "*.ui"}, QDir::Files,
                           QDirIterator::Subdirectories);
-        while (walk.hasNext())
+        while (walk.hasNext()) {
             files.append(walk.next());
+        }
     }
     return files;
 }
@@ -141,8 +150,9 @@ private slots:
              {"CVoipWidget::beSureToCloseCalling", "QObject::yesterday", "QObject::yourHotKeyUsedAndRevise",
               "QObject::ThemeGreen", "CVoipWidget::挂断", "ErrorMessage::组名：",
               // The client's own words, of a form, of a source and of a table.
-              "SettingsPage::Language", "MainWindow::Signed out", "Presence::away"})
+              "SettingsPage::Language", "MainWindow::Signed out", "Presence::away"}) {
             QVERIFY2(names.contains(QString::fromUtf8(known)), known);
+        }
     }
 
     void everyKeyOfTheSourcesAndNoOtherHasATranslation_data() { addLanguages(); }
@@ -156,8 +166,9 @@ private slots:
         QCOMPARE(without(wanted, names), QString());
         QCOMPARE(without(names, wanted), QString());
         QCOMPARE(names, wanted);
-        for (const Entry &entry : entries)
+        for (const Entry &entry : entries) {
             QVERIFY2(!entry.text.trimmed().isEmpty(), qPrintable(entry.name));
+        }
     }
 
     void compiledCatalogueGivesTheTexts_data() { addLanguages(); }
@@ -191,8 +202,9 @@ private slots:
         const QStringList sameEverywhere = {"CUrlInfo::000000", "QObject::tarvoShowName", "CVoipWidget::00:00"};
         const QRegularExpression chinese(QStringLiteral("[\u3002\u4e00-\u9fa5]"));
         const QList<Entry> entries = readFile(wordsFile(language));
-        for (const Entry &entry : entries)
+        for (const Entry &entry : entries) {
             QVERIFY2(sameEverywhere.contains(entry.name) || entry.text.contains(chinese), qPrintable(entry.name));
+        }
     }
 
     void textsAreWrittenInTheirLanguagesLetters_data()
@@ -216,8 +228,9 @@ private slots:
         QTextCodec *pLetters = QTextCodec::codecForName(letters);
         QVERIFY(pLetters != nullptr);
         const QList<Entry> entries = readFile(wordsFile(language));
-        for (const Entry &entry : entries)
+        for (const Entry &entry : entries) {
             QVERIFY2(pLetters->canEncode(QString(entry.text).remove(marks)), qPrintable(entry.name));
+        }
     }
 
     void catchAllOfTheAddressesIsTheSameInEveryLanguage_data() { addLanguages(); }
@@ -279,8 +292,9 @@ private slots:
 
         QCOMPARE(wordsOf(window), (QStringList{"Invite", "Cancel", "Hang up"}));
         QStringList tips;
-        for (const char *button : {"btnClose", "btnMic", "btnSpeaker", "btnChangeWindow"})
+        for (const char *button : {"btnClose", "btnMic", "btnSpeaker", "btnChangeWindow"}) {
             tips.append(window.findChild<QWidget *>(button)->toolTip());
+        }
         QCOMPARE(tips, (QStringList{"Close", "Unmute the microphone", "Sound off", "Restore"}));
         QCOMPARE(pClock->text(), QStringLiteral("00:01:25"));
     }
@@ -325,8 +339,9 @@ private:
     {
         QTest::addColumn<QString>("language");
 
-        for (const HostLanguage::Choice &choice : HostLanguage::choices())
+        for (const HostLanguage::Choice &choice : HostLanguage::choices()) {
             QTest::newRow(qPrintable(choice.setting)) << choice.setting;
+        }
     }
 
     QList<Entry> m_wanted;

@@ -12,8 +12,9 @@ class tst_WindowFont : public QObject
 private slots:
     void cleanup()
     {
-        for (const QString &family : WindowFont::families())
+        for (const QString &family : WindowFont::families()) {
             QFont::removeSubstitutions(family);
+        }
     }
 
     void bestInstalledCandidateStandsIn_data()

@@ -62,8 +62,9 @@ private slots:
         for (const QWidget *window : windows()) {
             const QList<QWidget *> parts = window->findChildren<QWidget *>();
             for (QWidget *part : parts) {
-                if (part->focusPolicy() == Qt::NoFocus || !part->isVisible())
+                if (part->focusPolicy() == Qt::NoFocus || !part->isVisible()) {
                     continue;
+                }
                 ++found;
                 const QAccessibleInterface *face = QAccessible::queryAccessibleInterface(part);
                 QVERIFY2(face != nullptr && !face->text(QAccessible::Name).trimmed().isEmpty(),
@@ -86,11 +87,13 @@ private slots:
             const QList<QWidget *> parts = window->findChildren<QWidget *>();
             for (const QWidget *part : parts) {
                 const auto *label = qobject_cast<const QLabel *>(part);
-                if (!part->isVisible() || part->window() != window || (label != nullptr && label->buddy() == nullptr))
+                if (!part->isVisible() || part->window() != window || (label != nullptr && label->buddy() == nullptr)) {
                     continue;
+                }
                 const QRegularExpressionMatch match = mark.match(part->property("text").toString());
-                if (!match.hasMatch())
+                if (!match.hasMatch()) {
                     continue;
+                }
                 ++letters;
                 const QString letter = match.captured(1).toUpper();
                 QVERIFY2(!owners.contains(letter),
@@ -107,9 +110,11 @@ private slots:
     {
         for (const QWidget *window : windows()) {
             const QList<QAbstractButton *> buttons = window->findChildren<QAbstractButton *>();
-            for (const QAbstractButton *button : buttons)
-                if (button->isVisible() && !button->text().isEmpty())
+            for (const QAbstractButton *button : buttons) {
+                if (button->isVisible() && !button->text().isEmpty()) {
                     QVERIFY2(button->width() >= button->minimumSizeHint().width(), qPrintable(nameOf(button)));
+                }
+            }
         }
     }
 
@@ -132,8 +137,9 @@ private:
     static void addLanguages()
     {
         QTest::addColumn<QString>("language");
-        for (const HostLanguage::Choice &choice : HostLanguage::choices())
+        for (const HostLanguage::Choice &choice : HostLanguage::choices()) {
             QTest::newRow(qPrintable(choice.setting)) << choice.setting;
+        }
     }
 
     /// The windows, all shown.

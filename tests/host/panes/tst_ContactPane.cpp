@@ -161,8 +161,9 @@ private slots:
         QFETCH(bool, video);
         QSignalSpy called(m_pPane.get(), &ContactPane::callWanted);
         press(Qt::Key_Down);
-        for (int i = 0; i < tabs; ++i)
+        for (int i = 0; i < tabs; ++i) {
             press(Qt::Key_Tab);
+        }
         press(Qt::Key_Return);
         QCOMPARE(called.count(), 1);
         QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), video}));
@@ -212,9 +213,11 @@ private:
     QStringList shownRows() const
     {
         QStringList shown;
-        for (const ContactBook::Entry &entry : m_book.entries())
-            if (WindowProbe::isShown(m_pPane.get(), qPrintable(entry.uid)))
+        for (const ContactBook::Entry &entry : m_book.entries()) {
+            if (WindowProbe::isShown(m_pPane.get(), qPrintable(entry.uid))) {
                 shown.append(entry.uid);
+            }
+        }
         return shown;
     }
 
