@@ -13,7 +13,7 @@
 
 namespace {
 
-const char FRESH_FILE[] = "fresh.ini";
+const char cFreshFile[] = "fresh.ini";
 
 QHash<QString, QString> entries()
 {
@@ -60,7 +60,7 @@ BENCHMARK(bareHash);
 void settingsObjectForEachCall(benchmark::State &state)
 {
     for (auto _ : state) {
-        const QSettings settings(QString::fromLatin1(FRESH_FILE), QSettings::IniFormat);
+        const QSettings settings(QString::fromLatin1(cFreshFile), QSettings::IniFormat);
         benchmark::DoNotOptimize(settings.value(QStringLiteral("/vcard/emailurl")).toString());
     }
 }
@@ -70,7 +70,7 @@ BENCHMARK(settingsObjectForEachCall);
 void fillSettings()
 {
     QSettings *pSettings = CSettingsManager::instance()->getUrlSettings();
-    QSettings fresh(QString::fromLatin1(FRESH_FILE), QSettings::IniFormat);
+    QSettings fresh(QString::fromLatin1(cFreshFile), QSettings::IniFormat);
     const QHash<QString, QString> hash = entries();
     for (auto entry = hash.cbegin(); entry != hash.cend(); ++entry) {
         fresh.setValue(entry.key(), entry.value());
@@ -88,6 +88,6 @@ int main(int argc, char **argv)
     fillSettings();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    QFile::remove(QString::fromLatin1(FRESH_FILE));
+    QFile::remove(QString::fromLatin1(cFreshFile));
     return 0;
 }

@@ -27,11 +27,11 @@
 
 namespace {
 
-constexpr int kCreators = 200;
+constexpr int cCreators = 200;
 
 QString creator(int number)
 {
-    return QStringLiteral("3001") + QString::number(number % kCreators);
+    return QStringLiteral("3001") + QString::number(number % cCreators);
 }
 
 ConfInfoData record(int number)
@@ -57,7 +57,7 @@ public:
         m_data.setLoginData(&m_login);
         SharedContext::setCommonData(&m_data);
         QMap<QString, FriendData> contacts;
-        for (int i = 0; i < kCreators; ++i) {
+        for (int i = 0; i < cCreators; ++i) {
             const QString strJid = UserIds::getJidByUid(creator(i));
             FriendData contact(strJid);
             contact.m_vcardInfo.m_strNickName = QStringLiteral("Contact %1").arg(i);

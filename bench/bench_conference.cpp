@@ -29,7 +29,7 @@
 
 namespace {
 
-constexpr int kMostMembers = 10000;
+constexpr int cMostMembers = 10000;
 
 QString uid(int number)
 {
@@ -145,7 +145,7 @@ void membersNew(benchmark::State &state)
     countMembers(state);
     engine.callFinished(CallData::FinishHangup);
 }
-BENCHMARK(membersNew)->Arg(10)->Arg(100)->Arg(1000)->Arg(kMostMembers)->UseManualTime()->Iterations(2);
+BENCHMARK(membersNew)->Arg(10)->Arg(100)->Arg(1000)->Arg(cMostMembers)->UseManualTime()->Iterations(2);
 
 /// 1,000 new members among so many contacts: none of them is copied or walked through for a member.
 void membersNewAmong(benchmark::State &state)
@@ -160,7 +160,7 @@ void membersNewAmong(benchmark::State &state)
         state.SetIterationTime(clock.seconds());
     }
     engine.callFinished(CallData::FinishHangup);
-    SharedContext::setFriendDataMap(contacts(kMostMembers));
+    SharedContext::setFriendDataMap(contacts(cMostMembers));
 }
 BENCHMARK(membersNewAmong)->Arg(1000)->Arg(100000)->UseManualTime()->Iterations(2);
 
@@ -178,7 +178,7 @@ void membersKnown(benchmark::State &state)
     countMembers(state);
     engine.callFinished(CallData::FinishHangup);
 }
-BENCHMARK(membersKnown)->Arg(10)->Arg(100)->Arg(1000)->Arg(kMostMembers);
+BENCHMARK(membersKnown)->Arg(10)->Arg(100)->Arg(1000)->Arg(cMostMembers);
 
 void bareDocument(benchmark::State &state)
 {
@@ -190,7 +190,7 @@ void bareDocument(benchmark::State &state)
     }
     countMembers(state);
 }
-BENCHMARK(bareDocument)->Arg(1000)->Arg(kMostMembers);
+BENCHMARK(bareDocument)->Arg(1000)->Arg(cMostMembers);
 
 void bareListView(benchmark::State &state)
 {
@@ -212,7 +212,7 @@ void bareListView(benchmark::State &state)
     }
     countMembers(state);
 }
-BENCHMARK(bareListView)->Arg(10)->Arg(100)->Arg(1000)->Arg(kMostMembers)->UseManualTime()->Iterations(2);
+BENCHMARK(bareListView)->Arg(10)->Arg(100)->Arg(1000)->Arg(cMostMembers)->UseManualTime()->Iterations(2);
 
 } // namespace
 
@@ -230,7 +230,7 @@ int main(int argc, char **argv)
     CommonData data;
     data.setLoginData(&login);
     SharedContext::setCommonData(&data);
-    data.setFriendDataMap(contacts(kMostMembers));
+    data.setFriendDataMap(contacts(cMostMembers));
     Host host;
     VoipManageMessageProcess::instance()->setSendEvent(&host);
     QLocalServer server;

@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr qint64 kSmall = 1 << 12;
-constexpr qint64 kSizes[] = {kSmall, 1 << 20, 1 << 26};
+constexpr qint64 cSmall = 1 << 12;
+constexpr qint64 cSizes[] = {cSmall, 1 << 20, 1 << 26};
 
 // Letters that do not repeat in step with the pieces.
 QByteArray bytesOf(qint64 size)
@@ -66,7 +66,7 @@ void hashInPieces(benchmark::State &state)
         file.open(QIODevice::ReadOnly);
         QCryptographicHash hash(algorithm);
         while (!file.atEnd()) {
-            hash.addData(file.read(kSmall));
+            hash.addData(file.read(cSmall));
         }
         benchmark::DoNotOptimize(hash.result());
     }
@@ -117,7 +117,7 @@ void keyOfPath(benchmark::State &state)
 
 void sizes(benchmark::internal::Benchmark *pWork)
 {
-    for (const qint64 size : kSizes) {
+    for (const qint64 size : cSizes) {
         pWork->Arg(size);
     }
     pWork->UseRealTime();
@@ -133,7 +133,7 @@ BENCHMARK_TEMPLATE(bareHash, QCryptographicHash::Md5)->Apply(sizes);
 BENCHMARK_TEMPLATE(hashInPieces, QCryptographicHash::Md5)->Apply(sizes);
 BENCHMARK(md5sum)->Apply(sizes);
 BENCHMARK(opensslMd5)->Apply(sizes);
-BENCHMARK(keyOfPath)->Arg(kSmall);
+BENCHMARK(keyOfPath)->Arg(cSmall);
 
 } // namespace
 
@@ -142,7 +142,7 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    for (const qint64 size : kSizes) {
+    for (const qint64 size : cSizes) {
         QFile::remove(QStringLiteral("digest%1.bin").arg(size));
     }
     return 0;

@@ -9,17 +9,17 @@
 
 namespace {
 
-constexpr int kNames = 100000;
-constexpr ushort kFirst = 0x4E00;
+constexpr int cNames = 100000;
+constexpr ushort cFirst = 0x4E00;
 
 QStringList names()
 {
     const int characters = strChineseFirstPY.size();
     QStringList list;
-    list.reserve(kNames);
-    for (int i = 0; i < kNames; ++i) {
-        const QChar name[] = {QChar(kFirst + i % characters), QChar(kFirst + i * 7 % characters),
-                              QChar(kFirst + i * 13 % characters), QLatin1Char('a'), QLatin1Char('7')};
+    list.reserve(cNames);
+    for (int i = 0; i < cNames; ++i) {
+        const QChar name[] = {QChar(cFirst + i % characters), QChar(cFirst + i * 7 % characters),
+                              QChar(cFirst + i * 13 % characters), QLatin1Char('a'), QLatin1Char('7')};
         list.append(QString(name, 5));
     }
     return list;
@@ -56,7 +56,7 @@ void bareLookUp(benchmark::State &state)
             QString result(name.size(), Qt::Uninitialized);
             QChar *pResult = result.data();
             for (const QChar character : name) {
-                *pResult++ = character.unicode() >= kFirst ? pTable[character.unicode() - kFirst] : character;
+                *pResult++ = character.unicode() >= cFirst ? pTable[character.unicode() - cFirst] : character;
             }
             benchmark::DoNotOptimize(result);
         }

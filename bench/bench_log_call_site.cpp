@@ -27,9 +27,9 @@
 namespace {
 
 /// Of each thread in one burst. Four threads' worth fit into spdlog's queue, so that it never blocks.
-constexpr int kStatements = 2000;
-const QString kLine = QStringLiteral("{\"messagetype\":\"CallUser\",\"param1\":\"30010001\",\"param2\":false}");
-const std::string kUtf8Line = kLine.toStdString();
+constexpr int cStatements = 2000;
+const QString cLine = QStringLiteral("{\"messagetype\":\"CallUser\",\"param1\":\"30010001\",\"param2\":false}");
+const std::string cUtf8Line = cLine.toStdString();
 
 std::optional<CLogThread> g_logThread;
 
@@ -52,9 +52,9 @@ public:
     Ours(const Ours &) = delete;
     Ours &operator=(const Ours &) = delete;
 
-    void statement() { LOG_DEBUG << "sendVoipMsg = " << kLine << ", try = " << 3 << "\n"; }
+    void statement() { LOG_DEBUG << "sendVoipMsg = " << cLine << ", try = " << 3 << "\n"; }
     /// The facade serves one thread; others bring finished texts.
-    void load() { g_logThread->printLog(CustomLog::Debug, QStringLiteral("bench.cpp:36"), kLine + kLine); }
+    void load() { g_logThread->printLog(CustomLog::Debug, QStringLiteral("bench.cpp:36"), cLine + cLine); }
 };
 
 class PlainList
@@ -64,10 +64,10 @@ public:
     void statement()
     {
         QString message;
-        QTextStream(&message) << "sendVoipMsg = " << kLine << ", try = " << 3;
+        QTextStream(&message) << "sendVoipMsg = " << cLine << ", try = " << 3;
         append({CustomLog::Debug, QStringLiteral("bench.cpp:36"), message});
     }
-    void load() { append({CustomLog::Debug, QStringLiteral("bench.cpp:36"), kLine + kLine}); }
+    void load() { append({CustomLog::Debug, QStringLiteral("bench.cpp:36"), cLine + cLine}); }
 
 private:
     void append(const CustomLogData &record)
@@ -94,7 +94,7 @@ public:
     void statement()
     {
         m_logger->log(spdlog::source_loc{__FILE__, __LINE__, ""}, spdlog::level::debug, "sendVoipMsg = {}, try = {}",
-                      kUtf8Line, 3);
+                      cUtf8Line, 3);
     }
     void load() { statement(); }
 
@@ -134,13 +134,13 @@ void burst(Target &target, int threads, std::vector<double> &latencies)
     for (int i = 1; i < threads; ++i) {
         others.emplace_back([&target, &meet] {
             meet();
-            for (int statement = 0; statement < kStatements; ++statement) {
+            for (int statement = 0; statement < cStatements; ++statement) {
                 target.load();
             }
         });
     }
     meet();
-    for (int i = 0; i < kStatements; ++i) {
+    for (int i = 0; i < cStatements; ++i) {
         const auto start = Clock::now();
         target.statement();
         latencies.push_back(nanosecondsSince(start));
@@ -169,7 +169,7 @@ void latency(benchmark::State &state)
     for (auto _ : state) {
         Target target(&logger);
         std::vector<double> latencies;
-        latencies.reserve(kStatements);
+        latencies.reserve(cStatements);
         burst(target, static_cast<int>(state.range(0)), latencies);
         p50s.push_back(percentile(latencies, 50));
         p99s.push_back(percentile(latencies, 99));

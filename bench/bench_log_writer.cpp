@@ -19,17 +19,17 @@
 
 namespace {
 
-const QString kLocation = QStringLiteral("SdkChannel.cpp:123");
-const QString kMessage =
+const QString cLocation = QStringLiteral("SdkChannel.cpp:123");
+const QString cMessage =
     QStringLiteral("sendVoipMsg = {\"messagetype\":\"CallUser\",\"param1\":\"30010001\",\"param2\":false}");
-constexpr qint64 kLimit = 0xa00000;
+constexpr qint64 cLimit = 0xa00000;
 
 void customLogger(benchmark::State &state)
 {
     CustomLogger logger(QStringLiteral("ours.log"));
     logger.setMaxBackupIndex(0);
     for (auto _ : state) {
-        logger.printLog(CustomLog::Debug, kLocation, kMessage);
+        logger.printLog(CustomLog::Debug, cLocation, cMessage);
     }
     logger.clear();
 }
@@ -47,8 +47,8 @@ void dateTimeAndArg(benchmark::State &state)
     const QString format = QStringLiteral("[%1][%2][%3]: %4\n");
     for (auto _ : state) {
         const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz"));
-        stream << format.arg(time, QStringLiteral("DEBUG"), kLocation, kMessage);
-        if (file.pos() >= kLimit) {
+        stream << format.arg(time, QStringLiteral("DEBUG"), cLocation, cMessage);
+        if (file.pos() >= cLimit) {
             stream.seek(0);
             file.resize(0);
         }
@@ -60,13 +60,13 @@ void bareFwrite(benchmark::State &state)
 {
     const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(std::fopen("fwrite.log", "w"), &std::fclose);
     const QByteArray line =
-        QStringLiteral("[2026-05-03 09:12:44.031][DEBUG][%1]: %2\n").arg(kLocation, kMessage).toUtf8();
+        QStringLiteral("[2026-05-03 09:12:44.031][DEBUG][%1]: %2\n").arg(cLocation, cMessage).toUtf8();
     const auto size = static_cast<std::size_t>(line.size());
     qint64 written = 0;
     for (auto _ : state) {
         benchmark::DoNotOptimize(std::fwrite(line.constData(), 1, size, file.get()));
         written += line.size();
-        if (written >= kLimit) {
+        if (written >= cLimit) {
             // Emptied, as a roll-over without backups leaves it.
             benchmark::DoNotOptimize(std::freopen(nullptr, "w", file.get()));
             written = 0;
@@ -86,11 +86,11 @@ void queueToFile(benchmark::State &state)
         QFile::remove(path);
         CustomLogger logger(path);
         const int lineBytes =
-            QStringLiteral("[2026-05-03 09:12:44.031][DEBUG][%1]: %2\n").arg(kLocation, kMessage).size();
+            QStringLiteral("[2026-05-03 09:12:44.031][DEBUG][%1]: %2\n").arg(cLocation, cMessage).size();
         CLogThread thread;
         thread.setCustomLogger(&logger);
         for (int i = 0; i < records; ++i) {
-            thread.printLog(CustomLog::Debug, kLocation, kMessage);
+            thread.printLog(CustomLog::Debug, cLocation, cMessage);
         }
 
         QElapsedTimer time;
@@ -103,7 +103,7 @@ void queueToFile(benchmark::State &state)
         state.SetIterationTime(static_cast<double>(time.nsecsElapsed()) * 1e-9);
 
         thread.stop();
-        thread.printLog(CustomLog::Debug, kLocation, kMessage);
+        thread.printLog(CustomLog::Debug, cLocation, cMessage);
         thread.wait();
     }
 }

@@ -19,8 +19,8 @@
 
 namespace {
 
-const QSize kListSize(523, 280);
-const QSize kRowSize(500, 38);
+const QSize cListSize(523, 280);
+const QSize cRowSize(500, 38);
 
 QString uid(int number)
 {
@@ -37,7 +37,7 @@ template <typename List>
 void showList(List &list)
 {
     list.setFrameShape(QFrame::NoFrame);
-    list.resize(kListSize);
+    list.resize(cListSize);
     list.show();
     while (!list.windowHandle()->isExposed()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
@@ -82,7 +82,7 @@ public:
     void append(int i)
     {
         auto *const pItem = new QStandardItem(m_head, QStringLiteral("成员 ") + QString::number(i));
-        pItem->setData(kRowSize, Qt::SizeHintRole);
+        pItem->setData(cRowSize, Qt::SizeHintRole);
         m_model.appendRow(pItem);
     }
     QStandardItemModel m_model;

@@ -14,9 +14,9 @@
 
 namespace {
 
-constexpr int kShort = 1 << 10;
-constexpr int kMiddle = 100 << 10;
-constexpr int kLong = 1 << 20;
+constexpr int cShort = 1 << 10;
+constexpr int cMiddle = 100 << 10;
+constexpr int cLong = 1 << 20;
 
 QString grown(const QString &piece, int size)
 {
@@ -175,21 +175,21 @@ void imageListHostile(benchmark::State &state)
     measure(state, hostileMessage(state), images);
 }
 
-BENCHMARK(barePatternPass)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(barePatternPassWithoutLinks)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(linksWithoutLinks)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(bareImagePass)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(imageListWithoutImages)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(bareDocument)->Arg(kShort)->Arg(kMiddle);
-BENCHMARK(links)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(wholeMessage)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(plainText)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(imageList)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(fileIdList)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(barePatternPassHostile)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(linksHostile)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(plainTextBottomless)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(imageListHostile)->Arg(kShort)->Arg(kMiddle)->Arg(kLong);
+BENCHMARK(barePatternPass)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(barePatternPassWithoutLinks)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(linksWithoutLinks)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(bareImagePass)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(imageListWithoutImages)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(bareDocument)->Arg(cShort)->Arg(cMiddle);
+BENCHMARK(links)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(wholeMessage)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(plainText)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(imageList)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(fileIdList)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(barePatternPassHostile)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(linksHostile)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(plainTextBottomless)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(imageListHostile)->Arg(cShort)->Arg(cMiddle)->Arg(cLong);
 
 } // namespace
 

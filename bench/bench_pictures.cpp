@@ -18,10 +18,10 @@
 
 namespace {
 
-const QString HEAD_FILE = QStringLiteral("head.png");
+const QString cHeadFile = QStringLiteral("head.png");
 
-constexpr int FRAME_WIDTH = 523;
-constexpr int FRAME_HEIGHT = 403;
+constexpr int cFrameWidth = 523;
+constexpr int cFrameHeight = 403;
 
 QPixmap picture(int iSide)
 {
@@ -34,7 +34,7 @@ QPixmap picture(int iSide)
 void roundedHead(benchmark::State &state)
 {
     for (auto _ : state) {
-        benchmark::DoNotOptimize(HeadImages::getRoundedImage(HEAD_FILE, int(state.range(0))));
+        benchmark::DoNotOptimize(HeadImages::getRoundedImage(cHeadFile, int(state.range(0))));
     }
 }
 BENCHMARK(roundedHead)->Arg(22)->Arg(40)->Arg(100);
@@ -43,7 +43,7 @@ void plainScaleOfTheHead(benchmark::State &state)
 {
     const int iSide = int(state.range(0));
     for (auto _ : state) {
-        const QPixmap head = QPixmap::fromImage(QImage(HEAD_FILE));
+        const QPixmap head = QPixmap::fromImage(QImage(cHeadFile));
         benchmark::DoNotOptimize(head.scaled(iSide, iSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
 }
@@ -53,7 +53,7 @@ void ninePatch(benchmark::State &state)
 {
     const QPixmap source = picture(29);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(NinePatch::drawNinePatch(QSize(FRAME_WIDTH, FRAME_HEIGHT), source));
+        benchmark::DoNotOptimize(NinePatch::drawNinePatch(QSize(cFrameWidth, cFrameHeight), source));
     }
 }
 BENCHMARK(ninePatch);
@@ -62,7 +62,7 @@ void plainScaleOfTheFrame(benchmark::State &state)
 {
     const QPixmap source = picture(29);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(source.scaled(FRAME_WIDTH, FRAME_HEIGHT));
+        benchmark::DoNotOptimize(source.scaled(cFrameWidth, cFrameHeight));
     }
 }
 BENCHMARK(plainScaleOfTheFrame);
@@ -104,7 +104,7 @@ int main(int argc, char **argv)
     CommonData data;
     data.setSystemSetData(&settings);
     SharedContext::setCommonData(&data);
-    if (!picture(200).save(HEAD_FILE)) {
+    if (!picture(200).save(cHeadFile)) {
         return 1;
     }
 

@@ -17,7 +17,7 @@
 
 namespace {
 
-const QString user = QStringLiteral("user");
+const QString cUser = QStringLiteral("user");
 
 QString baseOf(const QString &name)
 {
@@ -26,7 +26,7 @@ QString baseOf(const QString &name)
 
 QString fileOf(const QString &base)
 {
-    return base + QLatin1Char('/') + user + QStringLiteral("/localData.db");
+    return base + QLatin1Char('/') + cUser + QStringLiteral("/localData.db");
 }
 
 ConfInfoData recordOf(int number)
@@ -66,7 +66,7 @@ std::vector<std::string> statementsOfOpen(const QString &base)
 {
     std::vector<std::string> statements;
     g_statements = &statements;
-    DB::initByUserName(user, base, true);
+    DB::initByUserName(cUser, base, true);
     g_statements = nullptr;
     DB::closeDB();
     return statements;
@@ -185,7 +185,7 @@ QString storeWith(int records)
 {
     const QString base = baseOf(QStringLiteral("with%1").arg(records));
     if (!QFile::exists(fileOf(base))) {
-        DB::initByUserName(user, base, true);
+        DB::initByUserName(cUser, base, true);
         DB::closeDB();
         sqlite3 *db = openBare(fileOf(base));
         sqlite3_exec(db, "BEGIN", nullptr, nullptr, nullptr);
@@ -203,7 +203,7 @@ QString emptyFolder()
 {
     const QString base = baseOf(QStringLiteral("fresh"));
     QFile::remove(fileOf(base));
-    QDir().mkpath(base + QLatin1Char('/') + user);
+    QDir().mkpath(base + QLatin1Char('/') + cUser);
     return base;
 }
 
@@ -211,7 +211,7 @@ void openStore(benchmark::State &state)
 {
     const QString base = storeWith(int(state.range(0)));
     for (auto _ : state) {
-        DB::initByUserName(user, base, true);
+        DB::initByUserName(cUser, base, true);
         DB::closeDB();
     }
 }
@@ -255,7 +255,7 @@ void createStore(benchmark::State &state)
         state.PauseTiming();
         const QString base = emptyFolder();
         state.ResumeTiming();
-        DB::initByUserName(user, base, true);
+        DB::initByUserName(cUser, base, true);
         DB::closeDB();
     }
 }
@@ -281,7 +281,7 @@ void saveRecords(benchmark::State &state)
     const auto count = int(state.range(0));
     for (auto _ : state) {
         state.PauseTiming();
-        DB::initByUserName(user, emptyFolder(), true);
+        DB::initByUserName(cUser, emptyFolder(), true);
         state.ResumeTiming();
         for (int i = 0; i < count; ++i) {
             DBConfInfo::saveConfInfo(recordOf(i));
@@ -300,7 +300,7 @@ void saveRecordsBareSqlite(benchmark::State &state)
     for (auto _ : state) {
         state.PauseTiming();
         const QString base = emptyFolder();
-        DB::initByUserName(user, base, true);
+        DB::initByUserName(cUser, base, true);
         DB::closeDB();
         sqlite3 *db = openBare(fileOf(base));
         runBare(db, {"PRAGMA synchronous = OFF"});
@@ -318,7 +318,7 @@ BENCHMARK(saveRecordsBareSqlite)->Arg(10000)->Arg(100000)->Iterations(1)->Unit(b
 
 void listRecords(benchmark::State &state)
 {
-    DB::initByUserName(user, storeWith(int(state.range(0))), true);
+    DB::initByUserName(cUser, storeWith(int(state.range(0))), true);
     for (auto _ : state) {
         if (DBConfInfo::getAllConfInfo().size() != state.range(0)) {
             state.SkipWithError("records are missing");

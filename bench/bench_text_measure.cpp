@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr int kShortest = 1 << 10;
-constexpr int kLongest = 1 << 22;
+constexpr int cShortest = 1 << 10;
+constexpr int cLongest = 1 << 22;
 
 QString mixedText(const benchmark::State &state)
 {
@@ -23,7 +23,7 @@ void countedCharacter(benchmark::State &state)
     }
     state.SetComplexityN(state.range(0));
 }
-BENCHMARK(countedCharacter)->RangeMultiplier(16)->Range(kShortest, kLongest)->Complexity(benchmark::oN);
+BENCHMARK(countedCharacter)->RangeMultiplier(16)->Range(cShortest, cLongest)->Complexity(benchmark::oN);
 
 void measuredColumns(benchmark::State &state)
 {
@@ -33,7 +33,7 @@ void measuredColumns(benchmark::State &state)
     }
     state.SetComplexityN(state.range(0));
 }
-BENCHMARK(measuredColumns)->RangeMultiplier(16)->Range(kShortest, kLongest)->Complexity(benchmark::oN);
+BENCHMARK(measuredColumns)->RangeMultiplier(16)->Range(cShortest, cLongest)->Complexity(benchmark::oN);
 
 void cutToColumns(benchmark::State &state)
 {
@@ -44,7 +44,7 @@ void cutToColumns(benchmark::State &state)
     }
     state.SetComplexityN(state.range(0));
 }
-BENCHMARK(cutToColumns)->RangeMultiplier(16)->Range(kShortest, kLongest)->Complexity(benchmark::oN);
+BENCHMARK(cutToColumns)->RangeMultiplier(16)->Range(cShortest, cLongest)->Complexity(benchmark::oN);
 
 } // namespace
 

@@ -11,9 +11,9 @@
 
 namespace {
 
-constexpr int kMiddle = 10000;
-constexpr int kLong = 100000;
-constexpr int kWidth = 240;
+constexpr int cMiddle = 10000;
+constexpr int cLong = 100000;
+constexpr int cWidth = 240;
 
 QString mixedText(const benchmark::State &state)
 {
@@ -41,7 +41,7 @@ void lineWrapText(benchmark::State &state)
     const QString text = mixedText(state);
     const QFontMetrics metrics{QFont()};
     for (auto _ : state) {
-        benchmark::DoNotOptimize(LabelText::getLineWrapText(kWidth, text, metrics, 0));
+        benchmark::DoNotOptimize(LabelText::getLineWrapText(cWidth, text, metrics, 0));
     }
 }
 
@@ -49,17 +49,17 @@ void formatWithControl(benchmark::State &state)
 {
     const QString text = mixedText(state);
     QLabel label;
-    label.resize(kWidth, 100);
+    label.resize(cWidth, 100);
     for (auto _ : state) {
         QString out;
         benchmark::DoNotOptimize(LabelText::stringFormatWithControl(text, &label, out, 0));
     }
 }
 
-BENCHMARK(countedCharacter)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(shortString)->Arg(kMiddle)->Arg(kLong)->Arg(10 * kLong)->Arg(100 * kLong);
-BENCHMARK(lineWrapText)->Arg(kMiddle)->Arg(kLong);
-BENCHMARK(formatWithControl)->Arg(kMiddle)->Arg(kLong);
+BENCHMARK(countedCharacter)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(shortString)->Arg(cMiddle)->Arg(cLong)->Arg(10 * cLong)->Arg(100 * cLong);
+BENCHMARK(lineWrapText)->Arg(cMiddle)->Arg(cLong);
+BENCHMARK(formatWithControl)->Arg(cMiddle)->Arg(cLong);
 
 } // namespace
 

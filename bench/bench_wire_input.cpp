@@ -26,9 +26,9 @@
 
 namespace {
 
-constexpr int kLinesOfACode = 1000;
-constexpr int kNoAction = 6;
-constexpr int kNoNotification = -1;
+constexpr int cLinesOfACode = 1000;
+constexpr int cNoAction = 6;
+constexpr int cNoNotification = -1;
 
 QLocalServer *g_server = nullptr;
 std::optional<CLogThread> g_logThread;
@@ -253,18 +253,18 @@ void registerAll()
 {
     benchmark::RegisterBenchmark("socketToCallback", socketToCallback);
     for (const int lines : {1, 10, 100, 1000, 10000}) {
-        benchmark::RegisterBenchmark("readyReadToCallback", fromReadyRead, kNoAction)->Arg(lines)->UseManualTime();
-        benchmark::RegisterBenchmark("leastOfRead", leastOfRead, kNoAction)->Arg(lines)->UseManualTime();
+        benchmark::RegisterBenchmark("readyReadToCallback", fromReadyRead, cNoAction)->Arg(lines)->UseManualTime();
+        benchmark::RegisterBenchmark("leastOfRead", leastOfRead, cNoAction)->Arg(lines)->UseManualTime();
     }
     // A line without effect, which is read and leaves no record; all that have an action, and one that has none.
     for (const int code :
-         {kNoNotification, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12, 13, 17, 18, 19, 20, 21, 22, 23, 24, 25, 999}) {
+         {cNoNotification, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12, 13, 17, 18, 19, 20, 21, 22, 23, 24, 25, 999}) {
         const std::string suffix = "Code" + std::to_string(code);
         benchmark::RegisterBenchmark(("callback" + suffix).c_str(), fromReadyRead, code)
-            ->Arg(kLinesOfACode)
+            ->Arg(cLinesOfACode)
             ->UseManualTime();
         benchmark::RegisterBenchmark(("least" + suffix).c_str(), leastOfRead, code)
-            ->Arg(kLinesOfACode)
+            ->Arg(cLinesOfACode)
             ->UseManualTime();
     }
 }

@@ -22,20 +22,20 @@ qint64 cpuMicroseconds()
 
 const FuzzTarget *findFuzzTarget(const char *name)
 {
-    const auto *end = std::end(fuzzTargets);
-    const auto *row = std::find_if(std::begin(fuzzTargets), end,
+    const auto *end = std::end(cFuzzTargets);
+    const auto *row = std::find_if(std::begin(cFuzzTargets), end,
                                    [name](const FuzzTarget &target) { return std::strcmp(target.name, name) == 0; });
     return row == end ? nullptr : row;
 }
 
 bool isSanitized()
 {
-    return kSanitized;
+    return cSanitized;
 }
 
 int mostCpuMs(const FuzzTarget &target)
 {
-    return target.hangMs * kSanitizerFactor;
+    return target.hangMs * cSanitizerFactor;
 }
 
 int cpuMsOf(const FuzzTarget &target, const QByteArray &input)

@@ -45,7 +45,7 @@ struct FuzzTarget
 };
 
 /// All targets.
-inline constexpr FuzzTarget fuzzTargets[] = {
+inline constexpr FuzzTarget cFuzzTargets[] = {
     // clang-format off
     {"wire", "wire", FuzzTargets::wire, 4096, 100},
     {"window", "wire", FuzzTargets::window, 4096, 100},

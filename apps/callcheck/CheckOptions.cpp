@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr const char *OUT_VARIABLE = "CALLCHECK_OUT";
-constexpr const char *PROGRAM_VARIABLE = "CALLCHECK_PROGRAM";
+constexpr const char *cOutVariable = "CALLCHECK_OUT";
+constexpr const char *cProgramVariable = "CALLCHECK_PROGRAM";
 
 struct OptionRow
 {
@@ -21,19 +21,19 @@ struct OptionRow
 };
 
 // clang-format off
-constexpr OptionRow OUT          {"out",          "FILE",    "",             "record: the scenario to write; it must not exist yet"};
-constexpr OptionRow SOCKET_NAME  {"socket-name",  "NAME",    Wire::kServerName, "record: name of the local server for the plug-in"};
-constexpr OptionRow ATTACH       {"attach",       "NAME",    "",             "speak with the call process that listens at this name or path, instead of starting PROGRAM"};
-constexpr OptionRow TRACE        {"trace",        "FILE",    "",             "append a record of every line to this file, \"-\" for standard error"};
-constexpr OptionRow PATIENCE     {"patience",     "SECONDS", "10",           "replay: how much later than recorded an answer may come"};
-constexpr OptionRow USER         {"user",         "ID",      Robots::ownUser, "replay: user id, where the scenario names none"};
-constexpr OptionRow NICK_NAME    {"nick",         "NAME",    "callcheck",    "replay: nick name, where the scenario names none"};
-constexpr OptionRow REGISTRATION {"registration", "VALUE",   "registration", "replay: registration value, where the scenario names none"};
+constexpr OptionRow cOut          {"out",          "FILE",    "",             "record: the scenario to write; it must not exist yet"};
+constexpr OptionRow cSocketName  {"socket-name",  "NAME",    Wire::cServerName, "record: name of the local server for the plug-in"};
+constexpr OptionRow cAttach       {"attach",       "NAME",    "",             "speak with the call process that listens at this name or path, instead of starting PROGRAM"};
+constexpr OptionRow cTrace        {"trace",        "FILE",    "",             "append a record of every line to this file, \"-\" for standard error"};
+constexpr OptionRow cPatience     {"patience",     "SECONDS", "10",           "replay: how much later than recorded an answer may come"};
+constexpr OptionRow cUser         {"user",         "ID",      Robots::cOwnUser, "replay: user id, where the scenario names none"};
+constexpr OptionRow cNickName    {"nick",         "NAME",    "callcheck",    "replay: nick name, where the scenario names none"};
+constexpr OptionRow cRegistration {"registration", "VALUE",   "registration", "replay: registration value, where the scenario names none"};
 // clang-format on
 
 void addOptions(QCommandLineParser &parser)
 {
-    for (const OptionRow &row : {OUT, SOCKET_NAME, ATTACH, TRACE, PATIENCE, USER, NICK_NAME, REGISTRATION}) {
+    for (const OptionRow &row : {cOut, cSocketName, cAttach, cTrace, cPatience, cUser, cNickName, cRegistration}) {
         parser.addOption({QString::fromLatin1(row.option), QString::fromLatin1(row.text),
                           QString::fromLatin1(row.value), QString::fromLatin1(row.byDefault)});
     }
@@ -68,15 +68,15 @@ QString faultOf(const CheckOptions &options)
 
 void takeValues(const QCommandLineParser &parser, CheckOptions &options)
 {
-    options.output = options.inPlace ? qEnvironmentVariable(OUT_VARIABLE) : valueOf(parser, OUT);
-    options.socketName = valueOf(parser, SOCKET_NAME);
-    options.attachTo = valueOf(parser, ATTACH);
-    options.trace = valueOf(parser, TRACE);
-    options.userId = valueOf(parser, USER);
-    options.nickName = valueOf(parser, NICK_NAME);
-    options.registration = valueOf(parser, REGISTRATION);
+    options.output = options.inPlace ? qEnvironmentVariable(cOutVariable) : valueOf(parser, cOut);
+    options.socketName = valueOf(parser, cSocketName);
+    options.attachTo = valueOf(parser, cAttach);
+    options.trace = valueOf(parser, cTrace);
+    options.userId = valueOf(parser, cUser);
+    options.nickName = valueOf(parser, cNickName);
+    options.registration = valueOf(parser, cRegistration);
     bool number = false;
-    const double patience = valueOf(parser, PATIENCE).toDouble(&number);
+    const double patience = valueOf(parser, cPatience).toDouble(&number);
     options.patience = number ? patience : 0.0;
 }
 
@@ -109,9 +109,9 @@ bool CheckOptions::read(const QStringList &commandLine, QString *error)
         *error = parser.errorText();
         return false;
     }
-    inPlace = commandLine.size() == 1 && qEnvironmentVariableIsSet(OUT_VARIABLE);
+    inPlace = commandLine.size() == 1 && qEnvironmentVariableIsSet(cOutVariable);
     takeValues(parser, *this);
-    const QStringList words = inPlace ? QStringList{QStringLiteral("record"), qEnvironmentVariable(PROGRAM_VARIABLE)}
+    const QStringList words = inPlace ? QStringList{QStringLiteral("record"), qEnvironmentVariable(cProgramVariable)}
                                       : parser.positionalArguments();
     if (parser.isSet(QStringLiteral("help")) || words.isEmpty()) {
         mode = Mode::Help;
@@ -135,7 +135,7 @@ QString CheckOptions::helpText()
                        "replay  plays the plug-in's part of a scenario against a call process\n\n"
                        "Started without arguments in the place of a call process, it records into the file that %1\n"
                        "names, with the call process that %2 names.")
-            .arg(QLatin1String(OUT_VARIABLE), QLatin1String(PROGRAM_VARIABLE)));
+            .arg(QLatin1String(cOutVariable), QLatin1String(cProgramVariable)));
     parser.addPositionalArgument(QStringLiteral("record"), QString(), QStringLiteral("record|replay [SCENARIO]"));
     parser.addPositionalArgument(QStringLiteral("PROGRAM"), QStringLiteral("the call process and its arguments"),
                                  QStringLiteral("[-- PROGRAM ARGUMENTS...]"));

@@ -22,7 +22,7 @@ QString ownId(const PluginUser &user)
 }
 
 // clang-format off
-const OpenRow OPEN_TEXTS[] = {
+const OpenRow cOpenTexts[] = {
     {Wire::Command::RegeditUser,       1, ownId},
     {Wire::Command::RegeditUser,       2, [](const PluginUser &user) { return user.nickName; }},
     {Wire::Command::RegeditUser,       3, [](const PluginUser &user) { return user.registration; }},
@@ -48,7 +48,7 @@ QJsonValue openValue(const Wire::CommandRow &command, int parameter, const Plugi
     default:
         break;
     }
-    for (const OpenRow &row : OPEN_TEXTS) {
+    for (const OpenRow &row : cOpenTexts) {
         if (row.command == command.command && row.parameter == parameter) {
             return row.value(user);
         }
@@ -71,7 +71,7 @@ QByteArray pluginLine(const Statement &statement, const PluginUser &user)
 {
     const Wire::CommandRow *row = findCommand(statement.commands.constFirst());
     if (row == nullptr) {
-        return QByteArray(Wire::kQuitLine) + '\n';
+        return QByteArray(Wire::cQuitLine) + '\n';
     }
     QJsonArray values;
     for (int number = 1; number <= Wire::parameterCount(*row); ++number) {

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int TRY_AGAIN_MS = 5;
+constexpr int cTryAgainMs = 5;
 
 int remaining(const QDeadlineTimer &deadline)
 {
@@ -30,7 +30,7 @@ bool PluginSide::connectTo(const QString &path, int milliseconds)
         if (deadline.hasExpired()) {
             return false;
         }
-        QThread::msleep(TRY_AGAIN_MS);
+        QThread::msleep(cTryAgainMs);
     }
 }
 

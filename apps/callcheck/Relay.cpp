@@ -10,11 +10,11 @@
 
 namespace {
 
-constexpr int LOOK_MS = 10;
-constexpr int CONNECT_MS = 1000;
+constexpr int cLookMs = 10;
+constexpr int cConnectMs = 1000;
 /// A process that dies closes its socket first, so it takes a moment to tell a death from a drop.
-constexpr int DEATH_SHOWS_MS = 300;
-constexpr int LOOKS_TO_BELIEVE = 3;
+constexpr int cDeathShowsMs = 300;
+constexpr int cLooksToBelieve = 3;
 
 } // namespace
 
@@ -22,8 +22,8 @@ Relay::Relay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject
     : QObject(parent), m_subject(subject), m_channel(channel), m_writer(writer)
 {
     m_clock.start();
-    m_lookTimer.setInterval(LOOK_MS);
-    m_dropTimer.setInterval(DEATH_SHOWS_MS);
+    m_lookTimer.setInterval(cLookMs);
+    m_dropTimer.setInterval(cDeathShowsMs);
     m_dropTimer.setSingleShot(true);
     connect(&m_lookTimer, &QTimer::timeout, this, &Relay::look);
     connect(&m_dropTimer, &QTimer::timeout, this, [this] { settleDrop("drop"); });
@@ -35,7 +35,7 @@ Relay::Relay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject
         settleEnd();
     });
     connect(&m_channel, &Channel::lineReceived, this, [this](const QByteArray &line) {
-        m_quit = m_quit || line == Wire::kQuitLine;
+        m_quit = m_quit || line == Wire::cQuitLine;
         m_writer.said(m_heardTime, line);
     });
 }
@@ -71,7 +71,7 @@ void Relay::look()
     m_looksUnanswered = listening ? 0 : m_looksUnanswered + 1;
     if (listening && !m_open) {
         openServer();
-    } else if (m_open && m_looksUnanswered >= LOOKS_TO_BELIEVE) {
+    } else if (m_open && m_looksUnanswered >= cLooksToBelieve) {
         if (m_subject.isChild() || !m_quit) {
             closeServer();
         } else {
@@ -115,7 +115,7 @@ void Relay::clientArrives()
     connect(m_farEnd, &QLocalSocket::readyRead, this, &Relay::takeAnswer);
     connect(m_farEnd, &QLocalSocket::disconnected, this, &Relay::subjectCloses);
     m_farEnd->connectToServer(m_subject.socketPath(), QIODevice::ReadWrite);
-    if (m_farEnd->waitForConnected(CONNECT_MS)) {
+    if (m_farEnd->waitForConnected(cConnectMs)) {
         m_writer.pluginDid(m_clock.elapsed(), "await-client");
     } else {
         releaseFarEnd();

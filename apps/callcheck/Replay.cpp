@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr unsigned FOR_OTHERS = 077;
+constexpr unsigned cForOthers = 077;
 
 /// Whether the scenario itself writes a line in pieces.
 bool breaksLines(const QVector<Statement> &statements)
@@ -43,7 +43,7 @@ bool Replay::reach()
         return fail(QStringLiteral("the call process cannot be connected to"));
     }
     m_unreachable = false;
-    if ((m_subject.socketMode() & FOR_OTHERS) != 0) {
+    if ((m_subject.socketMode() & cForOthers) != 0) {
         return fail(QStringLiteral("the socket file is open to other users: its mode is %1")
                         .arg(m_subject.socketMode(), 4, 8, QLatin1Char('0')));
     }
@@ -105,7 +105,7 @@ bool Replay::playOne(const Statement &statement)
 bool Replay::say(const Statement &statement)
 {
     const QString name = statement.commands.constFirst();
-    if (name == QLatin1String(Wire::kQuitLine)) {
+    if (name == QLatin1String(Wire::cQuitLine)) {
         return expectQuit();
     }
     if (name == QLatin1String("RegeditUser")) {
@@ -160,7 +160,7 @@ bool Replay::expectQuit()
     if (!m_plugin.isConnected() && !connectAnew()) {
         return false;
     }
-    m_plugin.write(QByteArray(Wire::kQuitLine) + '\n');
+    m_plugin.write(QByteArray(Wire::cQuitLine) + '\n');
     if (!m_subject.waitEnded(limit())) {
         return fail(QStringLiteral("the call process has not ended %1 ms after quit").arg(limit()));
     }

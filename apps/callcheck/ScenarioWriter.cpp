@@ -12,12 +12,12 @@
 
 namespace {
 
-constexpr qint64 ROUNDED_TO_MS = 100;
+constexpr qint64 cRoundedToMs = 100;
 
 /// The controls of the call window, which the user may move at any time.
-constexpr Wire::Command IGNORED[] = {Wire::Command::SetMicEnable, Wire::Command::SetSpeakerEnble,
-                                     Wire::Command::SetCamreraEnable, Wire::Command::SetMicVolume,
-                                     Wire::Command::SetSpeakerVolume};
+constexpr Wire::Command cIgnored[] = {Wire::Command::SetMicEnable, Wire::Command::SetSpeakerEnble,
+                                      Wire::Command::SetCamreraEnable, Wire::Command::SetMicVolume,
+                                      Wire::Command::SetSpeakerVolume};
 
 bool isControl(char character)
 {
@@ -119,7 +119,7 @@ ScenarioWriter::ScenarioWriter(std::function<void(const QByteArray &)> write) : 
 void ScenarioWriter::begin()
 {
     QByteArray ignored = "ignore";
-    for (const Wire::Command command : IGNORED) {
+    for (const Wire::Command command : cIgnored) {
         ignored += ' ' + QByteArray(Wire::nameOf(command));
     }
     m_write("# Recorded by kelvarim-callcheck.\n" + ignored + "\ntimeout 0s\n");
@@ -132,7 +132,7 @@ void ScenarioWriter::said(qint64 now, const QByteArray &line)
     }
     flushPart();
     m_last = now;
-    if (line == Wire::kQuitLine) {
+    if (line == Wire::cQuitLine) {
         m_quit = true;
         add("expect quit");
         return;
@@ -208,7 +208,7 @@ void ScenarioWriter::end(const QString &remark)
 
 void ScenarioWriter::pause(qint64 now)
 {
-    const qint64 rounded = (now - m_last + ROUNDED_TO_MS / 2) / ROUNDED_TO_MS * ROUNDED_TO_MS;
+    const qint64 rounded = (now - m_last + cRoundedToMs / 2) / cRoundedToMs * cRoundedToMs;
     if (rounded >= 1000) {
         add("wait " + QByteArray::number(static_cast<double>(rounded) / 1000.0) + 's');
     } else if (rounded > 0) {

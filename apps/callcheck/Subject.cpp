@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int LOOK_AGAIN_MS = 5;
+constexpr int cLookAgainMs = 5;
 
 } // namespace
 
@@ -41,7 +41,7 @@ bool Subject::start(const QString &program, const QStringList &arguments, QStrin
         *error = m_folder->errorString();
         return false;
     }
-    m_socketPath = m_folder->filePath(QString::fromLatin1(Wire::kServerName));
+    m_socketPath = m_folder->filePath(QString::fromLatin1(Wire::cServerName));
     m_process = std::make_unique<BoundProcess>();
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("TMPDIR"), m_folder->path());
@@ -109,9 +109,9 @@ bool Subject::waitUntilListening(bool wanted, int milliseconds) const
         }
         // Looks after the child meanwhile, which an event loop would do.
         if (isChild()) {
-            m_process->waitForFinished(LOOK_AGAIN_MS);
+            m_process->waitForFinished(cLookAgainMs);
         } else {
-            QThread::msleep(LOOK_AGAIN_MS);
+            QThread::msleep(cLookAgainMs);
         }
     }
     return true;

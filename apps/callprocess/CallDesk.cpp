@@ -2,8 +2,8 @@
 
 namespace {
 
-constexpr int FAILURE_AFTER_MS = 500;
-constexpr int CONNECT_AFTER_MS = 300;
+constexpr int cFailureAfterMs = 500;
+constexpr int cConnectAfterMs = 300;
 
 } // namespace
 
@@ -18,7 +18,7 @@ void CallDesk::placeCall(const QString &userId)
     enter(Phase::Calling);
     if (m_robot == nullptr) {
         m_outlet.note(QStringLiteral("nobody has the id %1").arg(userId));
-        after(FAILURE_AFTER_MS, [this] { finish(Wire::Code::CallFailed); });
+        after(cFailureAfterMs, [this] { finish(Wire::Code::CallFailed); });
         return;
     }
     if (m_robot->reply != Reply::Silent) {
@@ -31,7 +31,7 @@ void CallDesk::ring(const Robot &robot)
     m_robot = &robot;
     enter(Phase::Ringing);
     m_outlet.notify(Wire::Code::IncomingCall, QString::fromLatin1(robot.id));
-    after(ROBOT_PATIENCE_MS, [this] { finish(Wire::Code::PeerCanceled); });
+    after(cRobotPatienceMs, [this] { finish(Wire::Code::PeerCanceled); });
 }
 
 void CallDesk::accept()
@@ -41,7 +41,7 @@ void CallDesk::accept()
         return;
     }
     enter(Phase::Ringing);
-    after(CONNECT_AFTER_MS, [this] { connectCall(*m_robot); });
+    after(cConnectAfterMs, [this] { connectCall(*m_robot); });
 }
 
 void CallDesk::end()

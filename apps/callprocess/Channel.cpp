@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr int PUMP_INTERVAL_MS = 1;
-constexpr int INPUT_LIMIT = 64 * 1024 * 1024;
+constexpr int cPumpIntervalMs = 1;
+constexpr int cInputLimit = 64 * 1024 * 1024;
 
 } // namespace
 
@@ -21,7 +21,7 @@ Channel::Channel(QString serverName, Trace &trace, QObject *parent)
 {
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     m_pumpTimer.setSingleShot(true);
-    m_pumpTimer.setInterval(PUMP_INTERVAL_MS);
+    m_pumpTimer.setInterval(cPumpIntervalMs);
     connect(&m_server, &QLocalServer::newConnection, this, &Channel::acceptClient);
     connect(&m_pumpTimer, &QTimer::timeout, this, &Channel::pumpLater);
 }
@@ -147,7 +147,7 @@ void Channel::readClient()
         begin = end + 1;
     }
     m_input.remove(0, begin);
-    if (m_input.size() > INPUT_LIMIT) {
+    if (m_input.size() > cInputLimit) {
         m_trace.complaint(QStringLiteral("%1 bytes without a line feed were dropped").arg(m_input.size()));
         m_input.clear();
     }

@@ -11,10 +11,10 @@
 
 namespace {
 
-constexpr int CREATED_AFTER_MS = 200;
-constexpr int CONNECT_AFTER_MS = 300;
-constexpr int ANOTHER_AFTER_MS = 1000;
-constexpr const char *ANOTHER_CONFERENCE = "another";
+constexpr int cCreatedAfterMs = 200;
+constexpr int cConnectAfterMs = 300;
+constexpr int cAnotherAfterMs = 1000;
+constexpr const char *cAnotherConference = "another";
 
 /// A word of control and how the trace tells that it was obeyed.
 struct ControlRow
@@ -23,8 +23,8 @@ struct ControlRow
     const char *done;
 };
 
-constexpr std::array<ControlRow, 3> CONTROLS{
-    {{Wire::kKick, "kicked"}, {Wire::kMute, "muted"}, {Wire::kUnmute, "unmuted"}}};
+constexpr std::array<ControlRow, 3> cControls{
+    {{Wire::cKick, "kicked"}, {Wire::cMute, "muted"}, {Wire::cUnmute, "unmuted"}}};
 
 QString compact(const QJsonObject &object)
 {
@@ -40,7 +40,7 @@ ConferenceDesk::~ConferenceDesk() = default;
 void ConferenceDesk::request(const QString &ownId, const QStringList &members)
 {
     open(Phase::Creating, ownId, ownId);
-    afterInConference(CREATED_AFTER_MS, [this, members] {
+    afterInConference(cCreatedAfterMs, [this, members] {
         const auto reachable = [this](const QString &id) { return canReach(id); };
         if (!members.isEmpty() && std::none_of(members.begin(), members.end(), reachable)) {
             m_outlet.note(QStringLiteral("no conference: nobody can be reached"));
@@ -50,7 +50,7 @@ void ConferenceDesk::request(const QString &ownId, const QStringList &members)
         }
         m_outlet.notify(Wire::Code::ConfCreated,
                         compact({{QStringLiteral("result"), QJsonObject{{QStringLiteral("confId"), m_confId}}}}));
-        afterInConference(CONNECT_AFTER_MS, [this, members] {
+        afterInConference(cConnectAfterMs, [this, members] {
             join(nullptr);
             const QStringList failed = callMembers(members);
             if (!failed.isEmpty()) {
@@ -69,7 +69,7 @@ void ConferenceDesk::invite(const Robot &robot, const QString &ownId)
     }
     m_connected.append(creator);
     m_outlet.notify(Wire::Code::IncomingConf, document(creator));
-    afterInConference(ROBOT_PATIENCE_MS, [this] {
+    afterInConference(cRobotPatienceMs, [this] {
         end();
         m_outlet.notify(Wire::Code::PeerCanceled);
     });
@@ -82,11 +82,11 @@ void ConferenceDesk::accept()
         return;
     }
     m_timers = std::make_unique<QObject>();
-    afterInConference(CONNECT_AFTER_MS, [this] {
+    afterInConference(cConnectAfterMs, [this] {
         join(findRobot(m_creator));
         callMembers({QString::fromLatin1(Robots::answers)});
         if (findRobot(m_creator)->then == Return::InvitesUntimed) {
-            afterInConference(ANOTHER_AFTER_MS, [this] { tellOfAnotherConference(); });
+            afterInConference(cAnotherAfterMs, [this] { tellOfAnotherConference(); });
         }
     });
 }
@@ -102,20 +102,20 @@ void ConferenceDesk::add(const QStringList &users)
 
 void ConferenceDesk::control(const QString &operation, const QString &userId)
 {
-    const auto *row = std::find_if(CONTROLS.begin(), CONTROLS.end(), [&](const ControlRow &entry) {
+    const auto *row = std::find_if(cControls.begin(), cControls.end(), [&](const ControlRow &entry) {
         return operation == QLatin1String(entry.operation);
     });
     const QStringList obeying = controlled(userId);
-    if (row == CONTROLS.end() || obeying.isEmpty()) {
+    if (row == cControls.end() || obeying.isEmpty()) {
         m_outlet.note(QStringLiteral("nobody to %1: %2").arg(operation, userId));
         return;
     }
     m_outlet.note(QStringLiteral("%1 %2").arg(QLatin1String(row->done), obeying.join(QLatin1Char(' '))));
     for (const QString &id : obeying) {
         m_muted.removeAll(id);
-        if (operation == QLatin1String(Wire::kMute)) {
+        if (operation == QLatin1String(Wire::cMute)) {
             m_muted.append(id);
-        } else if (operation == QLatin1String(Wire::kKick)) {
+        } else if (operation == QLatin1String(Wire::cKick)) {
             memberLeaves(id);
         }
     }
@@ -125,7 +125,7 @@ void ConferenceDesk::control(const QString &operation, const QString &userId)
 /// The connected members whom a word of control for this id is meant for.
 QStringList ConferenceDesk::controlled(const QString &userId) const
 {
-    const bool everybody = userId == QLatin1String(Wire::kEverybody);
+    const bool everybody = userId == QLatin1String(Wire::cEverybody);
     QStringList ids;
     for (const QString &id : m_connected) {
         if (id != m_ownId && (everybody ? id != m_creator : id == userId)) {
@@ -251,7 +251,7 @@ void ConferenceDesk::memberLeaves(const QString &id)
 /// A conference that the plug-in has nothing to do with: none of these lines may have an effect on the members.
 void ConferenceDesk::tellOfAnotherConference()
 {
-    const QString another = QString::fromLatin1(ANOTHER_CONFERENCE);
+    const QString another = QString::fromLatin1(cAnotherConference);
     const QString member = QString::fromLatin1(Robots::hangsUp);
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
     m_outlet.notify(Wire::Code::ConfUpdate, document(another, member, {member}, now));

@@ -16,7 +16,7 @@ struct ExchangeRow
 const ExchangeRow &ExchangeRow::of(Wire::Command command)
 {
     // clang-format off
-    static constexpr std::array<ExchangeRow, Wire::kCommands.size()> ROWS{{
+    static constexpr std::array<ExchangeRow, Wire::cCommands.size()> ROWS{{
         {Wire::Command::RegeditUser,       &Exchange::registerUser},
         {Wire::Command::UnReg,             &Exchange::unregisterUser},
         {Wire::Command::CallUser,          &Exchange::callUser},

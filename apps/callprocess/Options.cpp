@@ -28,11 +28,11 @@ QString socketNameByDefault(const Options &options)
 }
 
 // clang-format off
-constexpr OptionRow SCENARIO    {"scenario",     "VOIPSDK_SCENARIO",     "FILE",   "run this scenario instead of the exchange of robots", nullptr};
-constexpr OptionRow TRACE       {"trace",        "VOIPSDK_TRACE",        "FILE",   "append a record of every line to this file, \"-\" for standard error", nullptr};
-constexpr OptionRow SPEED       {"speed",        "VOIPSDK_SPEED",        "FACTOR", "divide all delays by this", nullptr};
-constexpr OptionRow IDLE        {"idle-seconds", "VOIPSDK_IDLE_SECONDS", "N",      "end after this long without a client", idleByDefault};
-constexpr OptionRow SOCKET_NAME {"socket-name",  "",                     "NAME",   "name of the local server", socketNameByDefault};
+constexpr OptionRow cScenario    {"scenario",     "VOIPSDK_SCENARIO",     "FILE",   "run this scenario instead of the exchange of robots", nullptr};
+constexpr OptionRow cTrace       {"trace",        "VOIPSDK_TRACE",        "FILE",   "append a record of every line to this file, \"-\" for standard error", nullptr};
+constexpr OptionRow cSpeed       {"speed",        "VOIPSDK_SPEED",        "FACTOR", "divide all delays by this", nullptr};
+constexpr OptionRow cIdle        {"idle-seconds", "VOIPSDK_IDLE_SECONDS", "N",      "end after this long without a client", idleByDefault};
+constexpr OptionRow cSocketName {"socket-name",  "",                     "NAME",   "name of the local server", socketNameByDefault};
 // clang-format on
 
 QCommandLineOption optionOf(const OptionRow &row)
@@ -49,7 +49,7 @@ QCommandLineOption optionOf(const OptionRow &row)
 
 void addOptions(QCommandLineParser &parser)
 {
-    for (const OptionRow &row : {SCENARIO, TRACE, SPEED, IDLE, SOCKET_NAME}) {
+    for (const OptionRow &row : {cScenario, cTrace, cSpeed, cIdle, cSocketName}) {
         parser.addOption(optionOf(row));
     }
     parser.addOption({QStringLiteral("help"), QStringLiteral("print this")});
@@ -96,13 +96,13 @@ bool Options::read(const QStringList &arguments, QString *error)
         return false;
     }
     help = parser.isSet(QStringLiteral("help"));
-    scenario = valueOf(parser, SCENARIO);
-    trace = valueOf(parser, TRACE);
-    const QString name = valueOf(parser, SOCKET_NAME);
+    scenario = valueOf(parser, cScenario);
+    trace = valueOf(parser, cTrace);
+    const QString name = valueOf(parser, cSocketName);
     if (!name.isEmpty()) {
         socketName = name;
     }
-    return readNumber(parser, SPEED, 0.001, &speed, error) && readNumber(parser, IDLE, 0.0, &idleSeconds, error);
+    return readNumber(parser, cSpeed, 0.001, &speed, error) && readNumber(parser, cIdle, 0.0, &idleSeconds, error);
 }
 
 QString Options::helpText()

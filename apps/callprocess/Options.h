@@ -14,7 +14,7 @@ struct Options
     QString trace;                                               ///< path, "-" for standard error; empty: none
     double speed = 1.0;                                          ///< greater than 0
     double idleSeconds = 600.0;                                  ///< 0 or more
-    QString socketName = QString::fromLatin1(Wire::kServerName); ///< never empty
+    QString socketName = QString::fromLatin1(Wire::cServerName); ///< never empty
     bool help = false;
 
     /// Reads the arguments, the program's name first, and the environment. False with `error` set for an unknown

@@ -39,7 +39,7 @@ struct Robot
 };
 
 /// Every robot, in the order of the table.
-inline constexpr std::array ROBOTS{
+inline constexpr std::array cRobots{
 #define ROBOT(word, id, name, reply, replyAfter, hangsUpAfter, then, thenAfter)                                        \
     Robot{id, name, Reply::reply, replyAfter, hangsUpAfter, Return::then, thenAfter},
 #include "robots/Robots.def"
@@ -47,7 +47,7 @@ inline constexpr std::array ROBOTS{
 };
 
 /// How long a robot that calls or invites lets it ring before it gives up.
-inline constexpr int ROBOT_PATIENCE_MS = 30000;
+inline constexpr int cRobotPatienceMs = 30000;
 
 /// The row of an id, null for an id that no robot has.
 const Robot *findRobot(const QString &id);

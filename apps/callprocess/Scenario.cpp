@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int MOST_NESTED_BLOCKS = 20;
+constexpr int cMostNestedBlocks = 20;
 
 class ScenarioReader
 {
@@ -52,10 +52,10 @@ private:
     Statement readStatement(Words words, int depth, const StatementRow *owner)
     {
         Statement statement;
-        const auto *row = std::find_if(STATEMENTS.begin(), STATEMENTS.end(), [&](const StatementRow &entry) {
+        const auto *row = std::find_if(cStatements.begin(), cStatements.end(), [&](const StatementRow &entry) {
             return words.constFirst().isBare(entry.word);
         });
-        if (row == STATEMENTS.end()) {
+        if (row == cStatements.end()) {
             fail(QStringLiteral("unknown statement \"%1\"").arg(QString::fromUtf8(words.constFirst().text)));
             return statement;
         }
@@ -86,7 +86,7 @@ private:
             fail(QStringLiteral("\"%1\" needs more").arg(name));
         } else if (row.mostWords >= 0 && words > row.mostWords) {
             fail(QStringLiteral("\"%1\" takes less").arg(name));
-        } else if (depth >= MOST_NESTED_BLOCKS) {
+        } else if (depth >= cMostNestedBlocks) {
             fail(QStringLiteral("blocks are nested too deep"));
         } else if (owner != nullptr && owner->kind == StatementKind::Join && row.kind != StatementKind::Send &&
                    row.kind != StatementKind::Raw) {
@@ -122,7 +122,7 @@ private:
             for (const ScenarioWord &word : words) {
                 statement.commands.append(commandName(word));
             }
-            if (statement.commands.contains(QLatin1String(Wire::kQuitLine))) {
+            if (statement.commands.contains(QLatin1String(Wire::cQuitLine))) {
                 fail(QStringLiteral("\"quit\" cannot be ignored"));
             }
             break;
@@ -181,7 +181,7 @@ private:
     QString commandName(const ScenarioWord &word)
     {
         QString name = QString::fromUtf8(word.text);
-        if (findCommand(name) == nullptr && name != QLatin1String(Wire::kQuitLine)) {
+        if (findCommand(name) == nullptr && name != QLatin1String(Wire::cQuitLine)) {
             fail(QStringLiteral("unknown command \"%1\"").arg(name));
         }
         return name;

@@ -77,7 +77,7 @@ struct StatementRow
 };
 
 // clang-format off
-inline constexpr std::array<StatementRow, 18> STATEMENTS{{
+inline constexpr std::array<StatementRow, 18> cStatements{{
     {"expect",         StatementKind::Expect,        1, -1, false},
     {"await",          StatementKind::Await,         1, -1, false},
     {"ignore",         StatementKind::Ignore,        1, -1, false},

@@ -49,7 +49,7 @@ void ScenarioPlayer::handleQuit()
     }
     m_quit = true;
     m_restOfLine.clear();
-    m_arrivals.enqueue({Command{QString::fromLatin1(Wire::kQuitLine), {}}, Wire::kQuitLine});
+    m_arrivals.enqueue({Command{QString::fromLatin1(Wire::cQuitLine), {}}, Wire::cQuitLine});
     // Nothing can be sent any more, so the rest is gone through without its delays.
     if (m_waiting == Waiting::Line) {
         serveArrivals();
@@ -187,14 +187,14 @@ void ScenarioPlayer::runListen()
 void ScenarioPlayer::runDie()
 {
     m_trace.event(QStringLiteral("died"));
-    std::_Exit(EXIT_DIED);
+    std::_Exit(cExitDied);
 }
 
 void ScenarioPlayer::serveArrivals()
 {
     while (!m_arrivals.isEmpty() && (m_waiting == Waiting::Line || m_waiting == Waiting::Quiet)) {
         const Arrival arrival = m_arrivals.dequeue();
-        const bool isQuit = arrival.line == Wire::kQuitLine;
+        const bool isQuit = arrival.line == Wire::cQuitLine;
         if (m_waiting == Waiting::Quiet) {
             if (isQuit) {
                 m_arrivals.prepend(arrival);
@@ -249,7 +249,7 @@ void ScenarioPlayer::fail(const QString &text)
     m_timer.stop();
     m_waiting = Waiting::Over;
     m_trace.complaint(QStringLiteral("%1:%2: %3").arg(m_scenario.name).arg(m_statement->line).arg(text));
-    emit finished(EXIT_FAILED);
+    emit finished(cExitFailed);
 }
 
 void ScenarioPlayer::finish(int exitCode, const QString &text)

@@ -20,9 +20,9 @@ class ScenarioPlayer : public QObject
 
 public:
     /// What the process ends with when an expectation was not met.
-    static constexpr int EXIT_FAILED = 3;
+    static constexpr int cExitFailed = 3;
     /// What the process ends with, at once and with nothing tidied up, on "die".
-    static constexpr int EXIT_DIED = 9;
+    static constexpr int cExitDied = 9;
 
     /// `channel` and `trace` outlive the player; `speed`, greater than 0, divides all delays.
     ScenarioPlayer(Scenario scenario, Channel &channel, Trace &trace, double speed, QObject *parent = nullptr);

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int LOCK_WAIT_MS = 5000;
+constexpr int cLockWaitMs = 5000;
 
 } // namespace
 
@@ -19,7 +19,7 @@ SocketClaim::SocketClaim(const QString &serverName)
     : m_path(socketPath(serverName)), m_lock(m_path + QStringLiteral(".lock"))
 {
     m_lock.setStaleLockTime(0);
-    m_lock.tryLock(LOCK_WAIT_MS);
+    m_lock.tryLock(cLockWaitMs);
 }
 
 QString SocketClaim::socketPath(const QString &serverName)

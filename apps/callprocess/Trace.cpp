@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr ushort CONTROL_PICTURES = 0x2400;
-constexpr ushort DELETE_PICTURE = 0x2421;
+constexpr ushort cControlPictures = 0x2400;
+constexpr ushort cDeletePicture = 0x2421;
 
 } // namespace
 
@@ -69,9 +69,9 @@ QString Trace::printable(const QByteArray &bytes)
     }
     for (QChar &character : text) {
         if (character.unicode() < 0x20) {
-            character = QChar(static_cast<ushort>(CONTROL_PICTURES + character.unicode()));
+            character = QChar(static_cast<ushort>(cControlPictures + character.unicode()));
         } else if (character.unicode() == 0x7F) {
-            character = QChar(DELETE_PICTURE);
+            character = QChar(cDeletePicture);
         }
     }
     return text;

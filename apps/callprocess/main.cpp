@@ -18,8 +18,8 @@
 
 namespace {
 
-constexpr int EXIT_CANNOT_LISTEN = 1;
-constexpr int EXIT_BAD_INPUT = 2;
+constexpr int cExitCannotListen = 1;
+constexpr int cExitBadInput = 2;
 
 int complain(int exitCode, const QString &text)
 {
@@ -48,7 +48,7 @@ int serve(const Options &options, std::optional<Scenario> scenario, Channel &cha
     if (!scenario) {
         Exchange exchange(channel, trace, options.speed);
         QObject::connect(&channel, &Channel::lineReceived, &exchange, [&](const QByteArray &line) {
-            if (line == Wire::kQuitLine) {
+            if (line == Wire::cQuitLine) {
                 trace.event(QStringLiteral("quit"));
                 QCoreApplication::exit(0);
             } else {
@@ -60,7 +60,7 @@ int serve(const Options &options, std::optional<Scenario> scenario, Channel &cha
     ScenarioPlayer player(std::move(*scenario), channel, trace, options.speed);
     QObject::connect(&player, &ScenarioPlayer::finished, qApp, &QCoreApplication::exit);
     QObject::connect(&channel, &Channel::lineReceived, &player, [&](const QByteArray &line) {
-        if (line == Wire::kQuitLine) {
+        if (line == Wire::cQuitLine) {
             player.handleQuit();
         } else {
             player.handleLine(line);
@@ -81,7 +81,7 @@ int main(int argc, char *argv[])
     Options options;
     QString error;
     if (!options.read(QCoreApplication::arguments(), &error)) {
-        return complain(EXIT_BAD_INPUT, error);
+        return complain(cExitBadInput, error);
     }
     if (options.help) {
         std::fputs(qPrintable(Options::helpText()), stdout);
@@ -91,12 +91,12 @@ int main(int argc, char *argv[])
     if (!options.scenario.isEmpty()) {
         scenario = Scenario::load(options.scenario, &error);
         if (!scenario) {
-            return complain(EXIT_BAD_INPUT, error);
+            return complain(cExitBadInput, error);
         }
     }
     Trace trace;
     if (!trace.open(options.trace, &error)) {
-        return complain(EXIT_BAD_INPUT, error);
+        return complain(cExitBadInput, error);
     }
     trace.event(QStringLiteral("started, process %1").arg(QCoreApplication::applicationPid()));
     Channel channel(options.socketName, trace);
@@ -107,7 +107,7 @@ int main(int argc, char *argv[])
         trace.event(QStringLiteral("stepped back"));
         return complain(0, QStringLiteral("another call process is alive, this one steps back"));
     case Channel::Listen::Failed:
-        return complain(EXIT_CANNOT_LISTEN, QStringLiteral("cannot listen: %1").arg(error));
+        return complain(cExitCannotListen, QStringLiteral("cannot listen: %1").arg(error));
     }
     letGoOfStreams(trace.isOnStandardError());
     return serve(options, std::move(scenario), channel, trace);

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int sizes[] = {12, 16, 24, 48};
+constexpr int cSizes[] = {12, 16, 24, 48};
 
 QWidget *glyph(ushort codePoint, int iPixels)
 {
@@ -29,14 +29,14 @@ QWidget *glyph(ushort codePoint, int iPixels)
 GlyphsPage::GlyphsPage(QWidget *parent) : Sheet(parent)
 {
     QStringList columns;
-    for (const int size : sizes) {
+    for (const int size : cSizes) {
         columns.append(QStringLiteral("%1 px").arg(size));
     }
     section(QStringLiteral("kelvarimiconfont"),
             columns + QStringList{QStringLiteral("code point"), QStringLiteral("shows")});
-    for (const IconGlyph::Row &glyphRow : IconGlyph::ALL) {
+    for (const IconGlyph::Row &glyphRow : IconGlyph::cAll) {
         QList<QWidget *> specimens;
-        for (const int size : sizes) {
+        for (const int size : cSizes) {
             specimens.append(glyph(glyphRow.codePoint, size));
         }
         specimens.append(caption(QStringLiteral("U+%1").arg(uint(glyphRow.codePoint), 4, 16).toUpper()));

@@ -20,22 +20,22 @@ struct IconType
     bool dark;
 };
 
-constexpr int glyphPixels = 16;
+constexpr int cGlyphPixels = 16;
 // A type that the button has no look of its own for.
-constexpr int otherType = 5;
+constexpr int cOtherType = 5;
 
-constexpr IconType iconTypes[] = {
+constexpr IconType cIconTypes[] = {
     {"type 0", 0, IconGlyph::MicOn, false},      {"type 1", 1, IconGlyph::SpeakerOn, false},
     {"type 2", 2, IconGlyph::CameraOn, false},   {"type 2, dark background", 2, IconGlyph::CameraOn, true},
     {"type 3", 3, IconGlyph::Close, false},      {"type 3, dark background", 3, IconGlyph::Close, true},
-    {"type 4", 4, IconGlyph::FullScreen, false}, {"any other type", otherType, IconGlyph::Creator, false},
+    {"type 4", 4, IconGlyph::FullScreen, false}, {"any other type", cOtherType, IconGlyph::Creator, false},
 };
 
 CIconButtonEx *iconButton(const IconType &type)
 {
     auto *button = new CIconButtonEx;
     button->setBackGroundDark(type.dark);
-    button->setIconFont(IconGlyph::text(type.glyph), glyphPixels, type.type);
+    button->setIconFont(IconGlyph::text(type.glyph), cGlyphPixels, type.type);
     return button;
 }
 
@@ -112,7 +112,7 @@ void KitButtons::addIconButtons(Sheet &sheet)
     sheet.section(QStringLiteral("CIconButtonEx"),
                   {QStringLiteral("normal"), QStringLiteral("hover"), QStringLiteral("pressed"),
                    QStringLiteral("checked"), QStringLiteral("checked, background"), QStringLiteral("disabled")});
-    for (const IconType &type : iconTypes) {
+    for (const IconType &type : cIconTypes) {
         sheet.row(QString::fromLatin1(type.name),
                   {iconButton(type), Sheet::hovered(iconButton(type)), Sheet::pressed(iconButton(type)),
                    checkedIconButton(type, false), checkedIconButton(type, true), disabledIconButton(type)},

@@ -18,7 +18,7 @@ namespace {
 constexpr QSize lineSize(210, 30);
 constexpr QSize textSize(210, 64);
 // Seven Chinese characters, or fourteen Latin ones.
-constexpr int tagColumns = 14;
+constexpr int cTagColumns = 14;
 
 CLineEditEx *lineEdit(const QString &strText = QString())
 {
@@ -38,7 +38,7 @@ CLineEditEx *hintedEdit()
 CLineEditEx *limitedEdit(const QString &strText)
 {
     CLineEditEx *edit = lineEdit(strText);
-    edit->setMaxLength(tagColumns);
+    edit->setMaxLength(cTagColumns);
     return edit;
 }
 

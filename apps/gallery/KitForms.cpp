@@ -22,9 +22,9 @@ namespace {
 
 constexpr QSize formSize(130, 96);
 constexpr QSize fieldSize(130, 72);
-constexpr int titleHeight = 30;
+constexpr int cTitleHeight = 30;
 // The inset of a window with a list at its left.
-constexpr int lineOffset = 40;
+constexpr int cLineOffset = 40;
 
 CBaseFormEx *form(int iTitleHeight)
 {
@@ -36,14 +36,14 @@ CBaseFormEx *form(int iTitleHeight)
 
 CBaseFormEx *formWithOffset()
 {
-    CBaseFormEx *offset = form(titleHeight);
-    offset->setPaintLineOffset(lineOffset);
+    CBaseFormEx *offset = form(cTitleHeight);
+    offset->setPaintLineOffset(cLineOffset);
     return offset;
 }
 
 CBaseFormEx *formWithoutBody()
 {
-    CBaseFormEx *bare = form(titleHeight);
+    CBaseFormEx *bare = form(cTitleHeight);
     bare->setNoSeparate(true);
     return bare;
 }
@@ -135,7 +135,7 @@ void KitForms::addForms(Sheet &sheet)
 {
     sheet.section(QStringLiteral("CBaseFormEx"), {QStringLiteral("with a title"), QStringLiteral("no title"),
                                                   QStringLiteral("line offset"), QStringLiteral("no body")});
-    sheet.row(QStringLiteral("on dark ground"), {form(titleHeight), form(0), formWithOffset(), formWithoutBody()},
+    sheet.row(QStringLiteral("on dark ground"), {form(cTitleHeight), form(0), formWithOffset(), formWithoutBody()},
               true);
 }
 

@@ -9,13 +9,13 @@
 
 namespace {
 
-const QString anAvatar = QStringLiteral("Resources/SystemAvatar/4.jpg");
+const QString cAnAvatar = QStringLiteral("Resources/SystemAvatar/4.jpg");
 
-constexpr int avatarCount = 20;
-constexpr int avatarsInARow = 10;
-constexpr int avatarSide = 56;
+constexpr int cAvatarCount = 20;
+constexpr int cAvatarsInARow = 10;
+constexpr int cAvatarSide = 56;
 // Heads ship larger than anybody shows them.
-constexpr int headSide = 90;
+constexpr int cHeadSide = 90;
 // The part of the watermark that is shown, in pixels of the picture.
 constexpr QRect waterMarkPart(0, 0, 560, 260);
 
@@ -25,7 +25,7 @@ struct NamedPictures
     std::initializer_list<const char *> files;
 };
 
-const NamedPictures namedPictures[] = {
+const NamedPictures cNamedPictures[] = {
     {"heads",
      {"images/FriendDetail/defaultHead.png", "images/FriendDetail/ic_portrait_server_90.png",
       "images/CommonCtrls/kvim_muchead_max.png", "images/CommonCtrls/kvim_customer.png"}},
@@ -72,10 +72,10 @@ QWidget *tiles(const QList<QPixmap> &pictures, int iInARow)
 /// The picture itself, or a head at the size of a head.
 QPixmap headSized(const QPixmap &picture, qreal ratio)
 {
-    if (picture.width() < 4 * headSide) {
+    if (picture.width() < 4 * cHeadSide) {
         return picture;
     }
-    const int pixels = qRound(headSide * ratio);
+    const int pixels = qRound(cHeadSide * ratio);
     QPixmap head = picture.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     head.setDevicePixelRatio(ratio);
     return head;
@@ -98,14 +98,14 @@ void PicturesPage::addHeads()
     QList<QPixmap> round;
     QList<QPixmap> irregular;
     for (const int side : {24, 32, 48, 64, 90}) {
-        round.append(HeadImages::getRoundedImage(anAvatar, side));
-        irregular.append(HeadImages::getIrregularPix(anAvatar, side));
+        round.append(HeadImages::getRoundedImage(cAnAvatar, side));
+        irregular.append(HeadImages::getIrregularPix(cAnAvatar, side));
     }
     row(QStringLiteral("getRoundedImage"), {tiles(round, round.size())});
     row(QStringLiteral("getIrregularPix"), {tiles(irregular, irregular.size())});
-    row(QStringLiteral("getScaledPixmap"), {tiles({HeadImages::getScaledPixmap(anAvatar, QSize(90, 90)),
-                                                   HeadImages::getScaledPixmap(anAvatar, QSize(90, 45)),
-                                                   HeadImages::getScaledPixmap(anAvatar, QSize(45, 90))},
+    row(QStringLiteral("getScaledPixmap"), {tiles({HeadImages::getScaledPixmap(cAnAvatar, QSize(90, 90)),
+                                                   HeadImages::getScaledPixmap(cAnAvatar, QSize(90, 45)),
+                                                   HeadImages::getScaledPixmap(cAnAvatar, QSize(45, 90))},
                                                   3)});
 }
 
@@ -120,16 +120,17 @@ void PicturesPage::addAvatars()
 {
     section(QStringLiteral("System avatars"));
     QList<QPixmap> avatars;
-    for (int i = 1; i <= avatarCount; ++i) {
-        avatars.append(HeadImages::getRoundedImage(QStringLiteral("Resources/SystemAvatar/%1.jpg").arg(i), avatarSide));
+    for (int i = 1; i <= cAvatarCount; ++i) {
+        avatars.append(
+            HeadImages::getRoundedImage(QStringLiteral("Resources/SystemAvatar/%1.jpg").arg(i), cAvatarSide));
     }
-    row(QStringLiteral("1 to %1").arg(avatarCount), {tiles(avatars, avatarsInARow)});
+    row(QStringLiteral("1 to %1").arg(cAvatarCount), {tiles(avatars, cAvatarsInARow)});
 }
 
 void PicturesPage::addNamedPictures()
 {
     section(QStringLiteral("Pictures that ship beside the executable"));
-    for (const NamedPictures &named : namedPictures) {
+    for (const NamedPictures &named : cNamedPictures) {
         QList<QPixmap> pictures;
         for (const char *file : named.files) {
             pictures.append(

@@ -11,12 +11,12 @@
 
 namespace {
 
-constexpr int pageMargin = 24;
-constexpr int sectionGap = 22;
-constexpr int nameWidth = 170;
-constexpr int headingPixels = 16;
-constexpr int captionPixels = 11;
-constexpr int darkMargin = 6;
+constexpr int cPageMargin = 24;
+constexpr int cSectionGap = 22;
+constexpr int cNameWidth = 170;
+constexpr int cHeadingPixels = 16;
+constexpr int cCaptionPixels = 11;
+constexpr int cDarkMargin = 6;
 
 const QColor darkGround(0x3a, 0x40, 0x48);
 
@@ -45,7 +45,7 @@ QWidget *onDarkGround(QWidget *specimen)
     auto *ground = new QWidget;
     fillGround(ground, darkGround);
     auto *layout = new QHBoxLayout(ground);
-    layout->setContentsMargins(darkMargin, darkMargin, darkMargin, darkMargin);
+    layout->setContentsMargins(cDarkMargin, cDarkMargin, cDarkMargin, cDarkMargin);
     layout->addWidget(specimen);
     return ground;
 }
@@ -55,7 +55,7 @@ QWidget *onDarkGround(QWidget *specimen)
 Sheet::Sheet(QWidget *parent) : QWidget(parent), m_pSections(new QVBoxLayout(this))
 {
     fillGround(this, QColor(strCOLOR_WHITE));
-    m_pSections->setContentsMargins(pageMargin, pageMargin, pageMargin, pageMargin);
+    m_pSections->setContentsMargins(cPageMargin, cPageMargin, cPageMargin, cPageMargin);
     m_pSections->setSpacing(0);
     m_pSections->addStretch();
 }
@@ -63,13 +63,13 @@ Sheet::Sheet(QWidget *parent) : QWidget(parent), m_pSections(new QVBoxLayout(thi
 void Sheet::section(const QString &strTitle, const QStringList &columns)
 {
     const int iEnd = m_pSections->count() - 1;
-    auto *heading = textLine(strTitle, headingPixels, strCOLOR_SKINTHEME_GREEN);
-    heading->setContentsMargins(0, iEnd == 0 ? 0 : sectionGap, 0, 6);
+    auto *heading = textLine(strTitle, cHeadingPixels, strCOLOR_SKINTHEME_GREEN);
+    heading->setContentsMargins(0, iEnd == 0 ? 0 : cSectionGap, 0, 6);
     m_pSections->insertWidget(iEnd, heading);
     m_pGrid = new QGridLayout;
     m_pGrid->setHorizontalSpacing(18);
     m_pGrid->setVerticalSpacing(10);
-    m_pGrid->setColumnMinimumWidth(0, nameWidth);
+    m_pGrid->setColumnMinimumWidth(0, cNameWidth);
     m_pSections->insertLayout(iEnd + 1, m_pGrid);
     m_iRow = 0;
     for (int i = 0; i < columns.size(); ++i) {
@@ -96,7 +96,7 @@ void Sheet::row(const QString &strName, const QList<QWidget *> &specimens, bool 
 
 QWidget *Sheet::caption(const QString &strText)
 {
-    return textLine(strText, captionPixels, strCOLOR_ICON_MID_GREY);
+    return textLine(strText, cCaptionPixels, strCOLOR_ICON_MID_GREY);
 }
 
 QWidget *Sheet::picture(const QPixmap &pixmap)

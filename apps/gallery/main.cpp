@@ -16,8 +16,8 @@
 namespace {
 
 // Exit code for bad arguments.
-constexpr int badArguments = 2;
-constexpr int fontPixels = 12;
+constexpr int cBadArguments = 2;
+constexpr int cFontPixels = 12;
 
 struct Options
 {
@@ -82,13 +82,13 @@ int main(int argc, char **argv)
     const GalleryPage *page = GalleryPages::find(options.page);
     if (page == nullptr && !options.page.isEmpty()) {
         QTextStream(stderr) << "no page " << options.page << "; there are " << GalleryPages::names() << '\n';
-        return badArguments;
+        return cBadArguments;
     }
     // Resources are found relative to the working directory.
     QDir::setCurrent(QCoreApplication::applicationDirPath());
     WindowFont::substituteMissing();
     QFont font(WindowFont::families().constFirst());
-    font.setPixelSize(fontPixels);
+    font.setPixelSize(cFontPixels);
     QApplication::setFont(font);
     HostCatalogue catalogue;
     catalogue.read(HostCatalogue::folder(), options.language);

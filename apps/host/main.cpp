@@ -26,13 +26,13 @@ namespace {
 
 // Robots of the call process do all twice as fast while the tour runs. What the tour does to a call in between must be
 // done before they go on, on a busy machine too.
-constexpr const char *tourSpeed = "2";
+constexpr const char *cTourSpeed = "2";
 // Leaves room for the call window beside the client's.
 constexpr QPoint tourCorner(20, 20);
 // Exit code of a client that was ended by a signal.
-constexpr int endedFromOutside = 130;
+constexpr int cEndedFromOutside = 130;
 // Log, store and settings tell who calls whom, the log also what this client signs in with: nobody else reads them.
-constexpr mode_t ownerOnly = 077;
+constexpr mode_t cOwnerOnly = 077;
 
 /// The folder given by --tour, or a null text. Ends the program itself for --help and for bad arguments.
 QString readTourFolder(const QCoreApplication &app)
@@ -54,8 +54,8 @@ QString prepareTour(const QString &strFolder)
     QString traceFile = strFolder + QStringLiteral("/wire.txt");
     QDir().mkpath(strFolder);
     QFile::remove(traceFile);
-    qputenv(TraceFolder::variable, QFile::encodeName(traceFile));
-    qputenv("VOIPSDK_SPEED", tourSpeed);
+    qputenv(TraceFolder::cVariable, QFile::encodeName(traceFile));
+    qputenv("VOIPSDK_SPEED", cTourSpeed);
     return traceFile;
 }
 
@@ -96,7 +96,7 @@ int runByHand(HostSession &session, MainWindow &window)
 
 int main(int argc, char **argv)
 {
-    ::umask(ownerOnly);
+    ::umask(cOwnerOnly);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication app(argc, argv);
     const QString folder = readTourFolder(app);
@@ -111,7 +111,7 @@ int main(int argc, char **argv)
     QDir::setCurrent(QCoreApplication::applicationDirPath());
 
     const EndSignals endSignals;
-    QObject::connect(&endSignals, &EndSignals::endRequested, &app, [] { QCoreApplication::exit(endedFromOutside); });
+    QObject::connect(&endSignals, &EndSignals::endRequested, &app, [] { QCoreApplication::exit(cEndedFromOutside); });
 
     WindowFont::substituteMissing();
     HostLanguage language(HostCatalogue::folder());

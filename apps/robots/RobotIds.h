@@ -12,13 +12,13 @@ namespace Robots {
 #undef ROBOT
 
 /// All of them, in the order of the table.
-inline constexpr std::array kIds{
+inline constexpr std::array cIds{
 #define ROBOT(word, id, name, reply, replyAfter, hangsUpAfter, then, thenAfter) word,
 #include "robots/Robots.def"
 #undef ROBOT
 };
 
 /// The user who has the robots as contacts; none of them.
-inline constexpr const char *ownUser = "30010000";
+inline constexpr const char *cOwnUser = "30010000";
 
 } // namespace Robots

@@ -14,7 +14,7 @@ namespace {
 
 // An input is a row of events: the command's place in this table, one byte of choices, two of the payload's length
 // (low byte first), the payload. A length beyond the input's end ends it.
-constexpr int kCommands[] = {
+constexpr int cCommands[] = {
     MSG_UPDATE_USER_INFO,
     MSG_CLIENT_CONNECT_STATUS,
     MSG_CALL_SINGLE_USER,
@@ -31,11 +31,11 @@ constexpr int kCommands[] = {
     MSG_ADD_CONFERENCE_MEMBER,
     MSG_GET_FRIEND_INFO,
 };
-constexpr int kHeadBytes = 4;
-constexpr int kMostEvents = 8;
+constexpr int cHeadBytes = 4;
+constexpr int cMostEvents = 8;
 
 /// From this row on the payload is what the host will answer to the plug-in's own request, raw.
-constexpr int kFirstAnswer = 12;
+constexpr int cFirstAnswer = 12;
 
 enum Choice : uchar
 {
@@ -93,8 +93,8 @@ void deliver(EngineBench &bench, int row, uchar choices, const QByteArray &paylo
 {
     static VcardInfo s_card;
     s_card.m_strNickName = QStringLiteral("Anna");
-    const int command = kCommands[row];
-    if (row >= kFirstAnswer) {
+    const int command = cCommands[row];
+    if (row >= cFirstAnswer) {
         bench.host.rawAnswers[command] = answerOf(command, payload);
         return;
     }
@@ -116,13 +116,13 @@ void deliver(EngineBench &bench, int row, uchar choices, const QByteArray &paylo
 void deliverAll(const QByteArray &input, EngineBench &bench)
 {
     int position = 0;
-    for (int count = 0; count < kMostEvents && input.size() - position >= kHeadBytes; ++count) {
+    for (int count = 0; count < cMostEvents && input.size() - position >= cHeadBytes; ++count) {
         const auto byte = [&](int offset) { return uchar(input.at(position + offset)); };
-        const int row = byte(0) % int(std::size(kCommands));
+        const int row = byte(0) % int(std::size(cCommands));
         const uchar choices = byte(1);
         const int length = byte(2) + 256 * byte(3);
-        deliver(bench, row, choices, input.mid(position + kHeadBytes, length));
-        position += kHeadBytes + length;
+        deliver(bench, row, choices, input.mid(position + cHeadBytes, length));
+        position += cHeadBytes + length;
     }
     bench.reset();
 }

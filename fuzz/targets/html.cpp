@@ -123,7 +123,7 @@ constexpr void (*kReaders[])(const QString &text) = {body, links, plain,    imag
 // takes for quick enough may count as a hang. What grew with the square of the depth took longer than that.
 constexpr bool hasTimeForWhatIsGranted()
 {
-    for (const FuzzTarget &target : fuzzTargets) {
+    for (const FuzzTarget &target : cFuzzTargets) {
         if (target.run == FuzzTargets::html) {
             return target.hangMs * 1000 > HtmlCost::mostMicroseconds(target.longest);
         }

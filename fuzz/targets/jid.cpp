@@ -10,12 +10,12 @@
 
 namespace {
 
-constexpr std::size_t kLongestPart = 1023;
+constexpr std::size_t cLongestPart = 1023;
 
 void requireSound(const Jid &jid)
 {
-    requirePromise(jid.node().size() <= kLongestPart && jid.domain().size() <= kLongestPart &&
-                       jid.resource().size() <= kLongestPart,
+    requirePromise(jid.node().size() <= cLongestPart && jid.domain().size() <= cLongestPart &&
+                       jid.resource().size() <= cLongestPart,
                    "no part is longer than 1023 bytes");
     requirePromise(jid == jid && jid.Compare(jid) == 0 && jid.BareEquals(jid), "a jid equals itself");
     requirePromise(jid.Str().empty() == !jid.IsValid(), "a valid jid has a text");

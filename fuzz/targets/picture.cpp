@@ -20,7 +20,7 @@ namespace {
 void read(const QString &path)
 {
     const QPixmap picture = readPictureFile(path);
-    requirePromise(qint64(picture.width()) * picture.height() <= iMOST_PICTURE_PIXELS, "no picture is too large");
+    requirePromise(qint64(picture.width()) * picture.height() <= cIMOSTPICTUREPIXELS, "no picture is too large");
 }
 
 void names(const QString &path)

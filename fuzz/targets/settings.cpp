@@ -28,7 +28,7 @@ namespace {
 constexpr QString (*kGetters[])() = {
 #include "common/CUrlInfo.def"
 };
-constexpr int kAskedGetters = 8;
+constexpr int cAskedGetters = 8;
 
 /// Writes `bytes` as the file `path` with its folder.
 void writeFile(const QString &path, const QByteArray &bytes)
@@ -104,7 +104,7 @@ void readAddresses(const QByteArray &bytes)
     CUrlInfo::getSipPhoneRegDomain(domains);
     requirePromise(!domains.isEmpty(), "there is always a host");
     constexpr auto count = int(std::size(kGetters));
-    for (const char byte : bytes.left(kAskedGetters)) {
+    for (const char byte : bytes.left(cAskedGetters)) {
         kGetters[uchar(byte) % count]();
     }
     QFile::remove(path);

@@ -7,9 +7,9 @@
 namespace {
 
 // Stands nowhere in UTF-8: with the letter of an act behind it, it ends a read. Any other byte behind it is input.
-constexpr char kMark = '\xFF';
+constexpr char cMark = '\xFF';
 // Acts cost many times a line.
-constexpr int kMostActs = 6;
+constexpr int cMostActs = 6;
 
 void nothing(EngineBench &) {}
 
@@ -119,7 +119,7 @@ struct Act
     Shows shows = Nothing;
 };
 
-constexpr Act kActs[] = {
+constexpr Act cActs[] = {
     {'|', nothing},
     {'.', deliver},
     {'a', acceptCall},
@@ -161,7 +161,7 @@ private:
         QByteArray read;
         while (m_position < m_input.size()) {
             const char byte = m_input.at(m_position++);
-            const Act *act = byte == kMark ? actAt(m_position) : nullptr;
+            const Act *act = byte == cMark ? actAt(m_position) : nullptr;
             if (act) {
                 ++m_position;
                 bench.receive(read);
@@ -195,13 +195,13 @@ private:
 
     const Act *actAt(int position)
     {
-        if (position >= m_input.size() || m_acts == kMostActs) {
+        if (position >= m_input.size() || m_acts == cMostActs) {
             return nullptr;
         }
         const char letter = m_input.at(position);
-        const Act *act = std::find_if(std::begin(kActs), std::end(kActs),
+        const Act *act = std::find_if(std::begin(cActs), std::end(cActs),
                                       [letter](const Act &candidate) { return candidate.letter == letter; });
-        if (act == std::end(kActs)) {
+        if (act == std::end(cActs)) {
             return nullptr;
         }
         ++m_acts;

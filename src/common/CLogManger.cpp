@@ -15,7 +15,7 @@
 namespace {
 
 /// Room for the text of a record. Most are shorter, so that adding an item need not find room for it anew.
-constexpr int BUFFER_LENGTH = 1000;
+constexpr int cBufferLength = 1000;
 
 bool isAscii(QLatin1String text)
 {
@@ -46,7 +46,7 @@ CLogManger::CLogManger()
     : m_pTextStream(std::make_unique<QTextStream>(&m_strMessage, QIODevice::ReadWrite)),
       m_pLogger(SharedContext::getCustomLogger()), m_pLogThread(SharedContext::getLogThread())
 {
-    m_strMessage.reserve(BUFFER_LENGTH);
+    m_strMessage.reserve(cBufferLength);
     if (m_pLogThread) {
         m_pLogThread->setCustomLogger(m_pLogger);
     }
@@ -123,7 +123,7 @@ void CLogManger::closeRecord()
 {
     // The queue may grow long, so it gets a copy that takes no more room than its text, and the buffer keeps its room.
     // A text that has outgrown the buffer is handed over itself.
-    const bool bUsual = m_strMessage.size() < BUFFER_LENGTH;
+    const bool bUsual = m_strMessage.size() < cBufferLength;
     if (m_pLogThread) {
         m_pLogThread->printLog(
             CustomLogData{m_level, m_strLocation,
@@ -133,7 +133,7 @@ void CLogManger::closeRecord()
         m_strMessage.resize(0);
     } else {
         m_strMessage = QString();
-        m_strMessage.reserve(BUFFER_LENGTH);
+        m_strMessage.reserve(cBufferLength);
     }
 }
 

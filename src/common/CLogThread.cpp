@@ -8,8 +8,8 @@
 
 namespace {
 
-const int RECORDS_BETWEEN_RESTS = 100;
-const unsigned long REST_MS = 10;
+const int cRecordsBetweenRests = 100;
+const unsigned long cRestMs = 10;
 
 } // namespace
 
@@ -22,9 +22,9 @@ void CLogThread::run()
         if (pLogger) {
             pLogger->printLog(data.level, data.location, data.message);
         }
-        if (iWritten++ >= RECORDS_BETWEEN_RESTS - 1) {
+        if (iWritten++ >= cRecordsBetweenRests - 1) {
             iWritten = 0;
-            msleep(REST_MS);
+            msleep(cRestMs);
         }
     }
 }

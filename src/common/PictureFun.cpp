@@ -9,10 +9,10 @@
 
 namespace {
 
-constexpr int SIGNATURE_LENGTH = 4;
+constexpr int cSignatureLength = 4;
 
-constexpr int FIRST_NUMBERED_AVATAR = 1;
-constexpr int LAST_NUMBERED_AVATAR = 20;
+constexpr int cFirstNumberedAvatar = 1;
+constexpr int cLastNumberedAvatar = 20;
 
 struct TypeRow
 {
@@ -25,7 +25,7 @@ struct TypeRow
 // Deliberately all four bytes count: the client's callers rely on bitmaps of other sizes and JPEGs of other markers
 // being unknown.
 // clang-format off
-constexpr TypeRow TYPE_ROWS[] = {
+constexpr TypeRow cTypeRows[] = {
     {1, "bmp",  "\x42\x4D\xE6\x52"},
     {2, "jpg",  "\xFF\xD8\xFF\xE0"},
     {3, "gif",  "\x47\x49\x46\x38"},
@@ -37,7 +37,7 @@ constexpr TypeRow TYPE_ROWS[] = {
 QString systemAvatarPath(const QString &strFile)
 {
     const int iNumber = strFile.section(QLatin1Char('.'), 0, 0).toInt();
-    if (iNumber >= FIRST_NUMBERED_AVATAR && iNumber <= LAST_NUMBERED_AVATAR) {
+    if (iNumber >= cFirstNumberedAvatar && iNumber <= cLastNumberedAvatar) {
         return strSYSTEM_AVATAR_PATH + strFile;
     }
     const QString strAvatar = AvatarFiles::systemAvatar(strFile);
@@ -48,8 +48,8 @@ QString systemAvatarPath(const QString &strFile)
 
 int PictureFun::getFileType(const QByteArray &data)
 {
-    for (const TypeRow &row : TYPE_ROWS) {
-        if (row.m_pSignature != nullptr && data.startsWith(QByteArray(row.m_pSignature, SIGNATURE_LENGTH))) {
+    for (const TypeRow &row : cTypeRows) {
+        if (row.m_pSignature != nullptr && data.startsWith(QByteArray(row.m_pSignature, cSignatureLength))) {
             return row.m_iType;
         }
     }
@@ -58,7 +58,7 @@ int PictureFun::getFileType(const QByteArray &data)
 
 QString PictureFun::getSuffixOfType(int iType)
 {
-    for (const TypeRow &row : TYPE_ROWS) {
+    for (const TypeRow &row : cTypeRows) {
         if (row.m_iType == iType) {
             return QLatin1String(row.m_pSuffix);
         }
@@ -68,7 +68,7 @@ QString PictureFun::getSuffixOfType(int iType)
 
 QString PictureFun::saveByteArrayToLocalFile(const QByteArray &data, const QString &strName)
 {
-    if (data.size() < SIGNATURE_LENGTH || strName.isEmpty()) {
+    if (data.size() < cSignatureLength || strName.isEmpty()) {
         return strDEFAULT_HEAD_PATH;
     }
     QDir().mkpath(strAPP_DOCUMENT_IM_FILES_PATH());

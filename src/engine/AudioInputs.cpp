@@ -43,7 +43,7 @@ bool serverIsSilent()
     if (!client || pa_context_connect(client.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) {
         return false;
     }
-    const QDeadlineTimer deadline(AudioInputs::kPatienceMs);
+    const QDeadlineTimer deadline(AudioInputs::cPatienceMs);
     while (waits(client.get())) {
         if (deadline.hasExpired()) {
             return true;

@@ -11,7 +11,7 @@
 namespace AudioInputs {
 
 /// How long a server that takes clients has time to answer one, in milliseconds.
-constexpr int kPatienceMs = 1000;
+constexpr int cPatienceMs = 1000;
 
 /// Whether there is any audio input by Qt's list. True also while the sound server is silent and Qt has no list yet,
 /// which is what Qt would say after its wait; the next call asks anew.

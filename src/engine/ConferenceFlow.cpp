@@ -16,11 +16,11 @@ const char *operationText(CVoipManage::ConfControlSignal operation)
 {
     switch (operation) {
     case CVoipManage::Kick:
-        return Wire::kKick;
+        return Wire::cKick;
     case CVoipManage::Mute:
-        return Wire::kMute;
+        return Wire::cMute;
     case CVoipManage::UnMute:
-        return Wire::kUnmute;
+        return Wire::cUnmute;
     }
     return "";
 }
@@ -71,7 +71,7 @@ void CVoipManage::callConference(QList<QString> userList, bool bFlag, QString st
         m_pVoipWidget->setConferenceCreator(m_strUserId);
         m_pVoipWidget->show();
     }
-    m_inviteTimer.start(kInviteLimitMs);
+    m_inviteTimer.start(cInviteLimitMs);
 }
 
 void CVoipManage::acceptConference()
@@ -169,7 +169,7 @@ void CVoipManage::controlConference(ConfControlSignal iOperation, bool bIsAllMem
         return;
     }
     const QString operation = QLatin1String(operationText(iOperation));
-    const QString target = bIsAllMember ? QString::fromLatin1(Wire::kEverybody) : strUserId;
+    const QString target = bIsAllMember ? QString::fromLatin1(Wire::cEverybody) : strUserId;
     if (operation.isEmpty() || target.isEmpty()) {
         return;
     }

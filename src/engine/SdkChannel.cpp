@@ -12,13 +12,13 @@
 
 namespace {
 
-constexpr int kConnectWaitMs = 1000;
-constexpr int kQuitWriteWaitMs = 1000;
-constexpr qint64 kBackOffLimitSeconds = 60;
+constexpr int cConnectWaitMs = 1000;
+constexpr int cQuitWriteWaitMs = 1000;
+constexpr qint64 cBackOffLimitSeconds = 60;
 
 QString serverName()
 {
-    return QString::fromLatin1(Wire::kServerName);
+    return QString::fromLatin1(Wire::cServerName);
 }
 
 QString programPath()
@@ -49,7 +49,7 @@ void CVoipManage::creatVoipSDKSocket()
     LOG_DEBUG << "creat sdk socket connect"
               << "\n";
     m_pVoipSocket->connectToServer(serverName(), QIODevice::ReadWrite);
-    if (m_pVoipSocket->waitForConnected(kConnectWaitMs)) {
+    if (m_pVoipSocket->waitForConnected(cConnectWaitMs)) {
         slot_VoipSDKConnected();
     } else {
         slot_VoipSDKDisConnected();
@@ -82,9 +82,9 @@ void CVoipManage::reconnectVoipSDK()
     } else {
         ++m_nReconnectCount;
         seconds = m_nReconnectCount * m_nReconnectCount;
-        if (seconds > kBackOffLimitSeconds) {
+        if (seconds > cBackOffLimitSeconds) {
             m_nReconnectCount = 0;
-            seconds = kBackOffLimitSeconds;
+            seconds = cBackOffLimitSeconds;
         }
     }
     m_reconnectTimer.start(static_cast<int>(seconds * 1000));
@@ -155,11 +155,11 @@ void CVoipManage::disconnectVoipSDKSocket()
     if (m_pVoipSocket) {
         // Each step looks at the socket anew, since the one before may have found the far side gone.
         if (m_pVoipSocket->isOpen()) {
-            m_pVoipSocket->write(QByteArray(Wire::kQuitLine) + '\n');
+            m_pVoipSocket->write(QByteArray(Wire::cQuitLine) + '\n');
         }
         m_pVoipSocket->flush();
         if (m_pVoipSocket->state() == QLocalSocket::ConnectedState) {
-            m_pVoipSocket->waitForBytesWritten(kQuitWriteWaitMs);
+            m_pVoipSocket->waitForBytesWritten(cQuitWriteWaitMs);
         }
         // Deliberate order: the socket still reports its end, which arms the back-off timer once more.
         m_pVoipSocket->disconnectFromServer();

@@ -23,17 +23,17 @@ Json::Value json(const QStringList &texts);
 
 /// The letter that a parameter of this type has in the table of commands.
 template <class Parameter>
-inline constexpr char kLetterOf = '?';
+inline constexpr char cLetterOf = '?';
 template <>
-inline constexpr char kLetterOf<bool> = 'b';
+inline constexpr char cLetterOf<bool> = 'b';
 template <>
-inline constexpr char kLetterOf<qlonglong> = 'i';
+inline constexpr char cLetterOf<qlonglong> = 'i';
 template <>
-inline constexpr char kLetterOf<QString> = 's';
+inline constexpr char cLetterOf<QString> = 's';
 template <>
-inline constexpr char kLetterOf<QStringList> = 'a';
+inline constexpr char cLetterOf<QStringList> = 'a';
 template <>
-inline constexpr char kLetterOf<QList<QString>> = 'a';
+inline constexpr char cLetterOf<QList<QString>> = 'a';
 
 /// The line of a command whose `param1`, `param2`, ... are `parameters` in their order, with its line feed.
 QString lineOf(Wire::Command command, std::initializer_list<Json::Value> parameters);
@@ -42,7 +42,7 @@ QString lineOf(Wire::Command command, std::initializer_list<Json::Value> paramet
 template <Wire::Command command, class... Parameters>
 QString of(const Parameters &...parameters)
 {
-    constexpr char given[] = {kLetterOf<Parameters>..., '\0'};
+    constexpr char given[] = {cLetterOf<Parameters>..., '\0'};
     static_assert(std::string_view(given) == Wire::rowOf(command).parameters, "other parameters than the table has");
     if constexpr (sizeof...(Parameters) == 0) {
         static const QString line = lineOf(command, {});

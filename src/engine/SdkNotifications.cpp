@@ -20,7 +20,7 @@ struct CVoipManage::NotificationRow
     void (CVoipManage::*act)(const QString &content);
 };
 
-constexpr CVoipManage::NotificationRow CVoipManage::kNotifications[] = {
+constexpr CVoipManage::NotificationRow CVoipManage::cNotifications[] = {
     {Wire::Code::IncomingCall, &CVoipManage::onIncomingCall},
     {Wire::Code::IncomingCallAlt, &CVoipManage::onIncomingCall},
     {Wire::Code::IncomingConf, &CVoipManage::onIncomingConf},
@@ -47,12 +47,12 @@ constexpr CVoipManage::NotificationRow CVoipManage::kNotifications[] = {
 
 void CVoipManage::callbackMessage(int iCode, QString content)
 {
-    static_assert(Wire::tellOfEveryNotification(kNotifications), "a notification without its handler");
+    static_assert(Wire::tellOfEveryNotification(cNotifications), "a notification without its handler");
     LOG_DEBUG << "Voip Sdk call back msg iCode=" << iCode << ", string=" << content << "\n";
     const auto row =
-        std::find_if(std::begin(kNotifications), std::end(kNotifications),
+        std::find_if(std::begin(cNotifications), std::end(cNotifications),
                      [iCode](const NotificationRow &candidate) { return candidate.code == Wire::Code(iCode); });
-    if (row != std::end(kNotifications)) {
+    if (row != std::end(cNotifications)) {
         (this->*row->act)(content);
     }
 }

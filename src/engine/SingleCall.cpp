@@ -64,7 +64,7 @@ void CVoipManage::callSingleUser(QString strUser, bool bVideo)
     if (m_pVoipWidget) {
         m_pVoipWidget->show();
     }
-    m_inviteTimer.start(kInviteLimitMs);
+    m_inviteTimer.start(cInviteLimitMs);
 }
 
 void CVoipManage::notifyRecevieVoipCall(QString strUser, bool bIsConf, bool bIsVideo)
@@ -74,7 +74,7 @@ void CVoipManage::notifyRecevieVoipCall(QString strUser, bool bIsConf, bool bIsV
     stranger.test(strUser);
     stranger.request();
     VoipManageEventProcess::notifyRecevieVoipCall(strUser, bIsConf, bIsVideo);
-    m_recevieTimer.start(kRecevieLimitMs);
+    m_recevieTimer.start(cRecevieLimitMs);
 }
 
 void CVoipManage::responseVoipRequest(bool bAccept)

@@ -29,9 +29,9 @@ class CVoipManage : public QObject
 
 public:
     /// How long an outgoing call may ring, in milliseconds.
-    static constexpr int kInviteLimitMs = 60000;
+    static constexpr int cInviteLimitMs = 60000;
     /// How long an incoming call may stay unconnected, accepted or not, in milliseconds.
-    static constexpr int kRecevieLimitMs = 60000;
+    static constexpr int cRecevieLimitMs = 60000;
 
     /// What a member of a conference can be made to do. The numbers stand in the log.
     enum ConfControlSignal
@@ -229,5 +229,5 @@ private:
     void takeCreateTime(qint64 msecs);
 
     struct NotificationRow;
-    static const NotificationRow kNotifications[];
+    static const NotificationRow cNotifications[];
 };

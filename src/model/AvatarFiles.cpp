@@ -7,7 +7,7 @@
 #include <QCoreApplication>
 #include <QFile>
 
-const QString AvatarFiles::SERVICE_HEAD = QStringLiteral("Resources/images/FriendDetail/ic_portrait_server_90.png");
+const QString AvatarFiles::cServiceHead = QStringLiteral("Resources/images/FriendDetail/ic_portrait_server_90.png");
 
 QString AvatarFiles::withSuffix(const QString &name)
 {

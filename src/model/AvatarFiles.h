@@ -8,7 +8,7 @@
 namespace AvatarFiles {
 
 /// The built-in head of service numbers and official accounts.
-extern const QString SERVICE_HEAD;
+extern const QString cServiceHead;
 
 /// `name` with ".jpg" behind it when it holds no ".".
 QString withSuffix(const QString &name);

@@ -76,7 +76,7 @@ void CServiceNumData::setChannelData(const CSChannelData &channel)
 void CServiceNumData::setServiceIconName(const QString &strName)
 {
     m_strIconName = strName;
-    if (strName.isEmpty() || strName == AvatarFiles::SERVICE_HEAD) {
+    if (strName.isEmpty() || strName == AvatarFiles::cServiceHead) {
         m_strIconPath = strName;
         return;
     }

@@ -2,8 +2,8 @@
 
 namespace {
 
-constexpr std::size_t MAX_PART_BYTES = 1023;
-constexpr std::size_t MAX_LABEL_BYTES = 63;
+constexpr std::size_t cMaxPartBytes = 1023;
+constexpr std::size_t cMaxLabelBytes = 63;
 
 bool isBeyondAscii(char ch)
 {
@@ -121,7 +121,7 @@ void Jid::ValidateOrReset()
 
 std::string Jid::PrepNode(const std::string &strIn, bool *ok)
 {
-    *ok = strIn.size() <= MAX_PART_BYTES;
+    *ok = strIn.size() <= cMaxPartBytes;
     for (auto it = strIn.cbegin(); *ok && it != strIn.cend(); ++it) {
         PrepNodeAscii(*it, ok);
     }
@@ -135,7 +135,7 @@ char Jid::PrepNodeAscii(char ch, bool *ok)
 
 std::string Jid::PrepResource(const std::string &strIn, bool *ok)
 {
-    *ok = strIn.size() <= MAX_PART_BYTES;
+    *ok = strIn.size() <= cMaxPartBytes;
     if (!*ok) {
         return {};
     }
@@ -159,7 +159,7 @@ std::string Jid::PrepDomain(const std::string &strIn, bool *ok)
     std::string strOut;
     PrepDomain(strIn, &strOut, ok);
     // Too long is empty but not invalid, deliberately: such a Jid keeps node and resource.
-    return *ok && strOut.size() <= MAX_PART_BYTES ? strOut : std::string();
+    return *ok && strOut.size() <= cMaxPartBytes ? strOut : std::string();
 }
 
 void Jid::PrepDomain(const std::string &strIn, std::string *out, bool *ok)
@@ -191,7 +191,7 @@ void Jid::PrepDomainLabel(std::string::const_iterator first, std::string::const_
         *out += ch;
     }
     const std::size_t iLength = out->size() - iStart;
-    *ok = iLength >= 1 && iLength <= MAX_LABEL_BYTES && (*out)[iStart] != '-' && out->back() != '-';
+    *ok = iLength >= 1 && iLength <= cMaxLabelBytes && (*out)[iStart] != '-' && out->back() != '-';
 }
 
 char Jid::PrepDomainLabelAscii(char ch, bool *ok)

@@ -4,8 +4,8 @@
 
 namespace {
 
-const QString EXIST_TEXT = QStringLiteral("T");
-const QString NOT_EXIST_TEXT = QStringLiteral("F");
+const QString cExistText = QStringLiteral("T");
+const QString cNotExistText = QStringLiteral("F");
 
 const QString &effectiveName(const MucData &room)
 {
@@ -26,12 +26,12 @@ MucData::MucData(const QString &strRoomJid) : m_strRoomJid(strRoomJid), m_strHea
 
 QString MucDataUtils::getLocalExistString(bool bExist)
 {
-    return bExist ? EXIST_TEXT : NOT_EXIST_TEXT;
+    return bExist ? cExistText : cNotExistText;
 }
 
 bool MucDataUtils::getLocalExistFlag(const QString &strExist)
 {
-    return strExist == EXIST_TEXT;
+    return strExist == cExistText;
 }
 
 bool MucDataUtils::compareMucInfo(const MucData &first, const MucData &second)

@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr qint64 DEFAULT_ROOM_SIZE = 1500;
+constexpr qint64 cDefaultRoomSize = 1500;
 
 // What the getter gives, or an unset value without a context.
 template <typename Value, typename... Params, typename... Args>
@@ -196,5 +196,5 @@ qint64 SharedContext::getMucRoomMaxSize()
 qint64 SharedContext::getMucRoomMaxMemberSize()
 {
     const qint64 iAnnounced = getMucRoomMaxSize();
-    return iAnnounced < 1 ? DEFAULT_ROOM_SIZE : iAnnounced;
+    return iAnnounced < 1 ? cDefaultRoomSize : iAnnounced;
 }

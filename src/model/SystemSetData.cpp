@@ -14,15 +14,15 @@ namespace {
 
 using Data = SystemSetData;
 
-const QString ON_TEXT = QStringLiteral("1");
-const QString OFF_TEXT = QStringLiteral("0");
-const QString FALSE_TEXT = QStringLiteral("false");
-const QString DEFAULT_SEND_KEY = QStringLiteral("Ctrl+Enter");
+const QString cOnText = QStringLiteral("1");
+const QString cOffText = QStringLiteral("0");
+const QString cFalseText = QStringLiteral("false");
+const QString cDefaultSendKey = QStringLiteral("Ctrl+Enter");
 
-constexpr double OLD_DEFAULT_FONT_SIZE = 12.0;
-constexpr int DEFAULT_FONT_SIZE = 14;
-const QString CHAT_FONT_REWRITTEN = QStringLiteral("/chatFontSetting/fontSizeRewrited");
-const QString AGENT_FONT_REWRITTEN = QStringLiteral("/agentChatFontSetting/fontSizeRewrited");
+constexpr double cOldDefaultFontSize = 12.0;
+constexpr int cDefaultFontSize = 14;
+const QString cChatFontRewritten = QStringLiteral("/chatFontSetting/fontSizeRewrited");
+const QString cAgentFontRewritten = QStringLiteral("/agentChatFontSetting/fontSizeRewrited");
 
 // One key of an INI file and the rule by which its value becomes a field.
 struct SettingRow
@@ -83,14 +83,14 @@ void font(Data &data, QSettings &settings, const QString &strKey)
 template <bool Data::*pField>
 void trueForOne(Data &data, QSettings &settings, const QString &strKey)
 {
-    data.*pField = readText(settings, strKey) == ON_TEXT;
+    data.*pField = readText(settings, strKey) == cOnText;
 }
 
 template <bool Data::*pField>
 void trueForEmptyOrOne(Data &data, QSettings &settings, const QString &strKey)
 {
     const QString strValue = readText(settings, strKey);
-    data.*pField = strValue.isEmpty() || strValue == ON_TEXT;
+    data.*pField = strValue.isEmpty() || strValue == cOnText;
 }
 
 // Deliberate: "0" means true.
@@ -98,19 +98,19 @@ template <bool Data::*pField>
 void trueForEmptyOrZero(Data &data, QSettings &settings, const QString &strKey)
 {
     const QString strValue = readText(settings, strKey);
-    data.*pField = strValue.isEmpty() || strValue == OFF_TEXT;
+    data.*pField = strValue.isEmpty() || strValue == cOffText;
 }
 
 template <bool Data::*pField>
 void trueUnlessFalse(Data &data, QSettings &settings, const QString &strKey)
 {
-    data.*pField = readText(settings, strKey) != FALSE_TEXT;
+    data.*pField = readText(settings, strKey) != cFalseText;
 }
 
 template <QString Data::*pField>
 void zeroOrOne(Data &data, QSettings &settings, const QString &strKey)
 {
-    data.*pField = readText(settings, strKey) == OFF_TEXT ? OFF_TEXT : ON_TEXT;
+    data.*pField = readText(settings, strKey) == cOffText ? cOffText : cOnText;
 }
 
 template <QString Data::*pField>
@@ -118,15 +118,15 @@ void onWhenEmptyAndStored(Data &data, QSettings &settings, const QString &strKey
 {
     data.*pField = readText(settings, strKey);
     if ((data.*pField).isEmpty()) {
-        data.*pField = ON_TEXT;
-        settings.setValue(strKey, ON_TEXT);
+        data.*pField = cOnText;
+        settings.setValue(strKey, cOnText);
     }
 }
 
 void sendKey(Data &data, QSettings &settings, const QString &strKey)
 {
     const QString strValue = readText(settings, strKey);
-    data.m_strSendMsgFastkey = strValue.isEmpty() ? DEFAULT_SEND_KEY : strValue;
+    data.m_strSendMsgFastkey = strValue.isEmpty() ? cDefaultSendKey : strValue;
 }
 
 void dataRoot(Data &data, QSettings &settings, const QString &strKey)
@@ -151,8 +151,8 @@ void rewriteFontSizeOnce(double &dSize, QSettings &settings, const QString &strS
     if (settings.value(strFlagKey).toBool()) {
         return;
     }
-    dSize = DEFAULT_FONT_SIZE;
-    settings.setValue(strSizeKey, DEFAULT_FONT_SIZE);
+    dSize = cDefaultFontSize;
+    settings.setValue(strSizeKey, cDefaultFontSize);
     settings.setValue(strFlagKey, true);
 }
 
@@ -161,8 +161,8 @@ void chatFontSize(Data &data, QSettings &settings, const QString &strKey)
 {
     double &dSize = data.m_chatFont.m_dFontSize;
     assign(dSize, settings.value(strKey));
-    if (dSize == OLD_DEFAULT_FONT_SIZE) {
-        rewriteFontSizeOnce(dSize, settings, strKey, CHAT_FONT_REWRITTEN);
+    if (dSize == cOldDefaultFontSize) {
+        rewriteFontSizeOnce(dSize, settings, strKey, cChatFontRewritten);
     }
 }
 
@@ -171,18 +171,18 @@ void agentFontSize(Data &data, QSettings &settings, const QString &strKey)
 {
     double &dSize = data.m_agentChatFont.m_dFontSize;
     assign(dSize, settings.value(strKey));
-    rewriteFontSizeOnce(dSize, settings, strKey, AGENT_FONT_REWRITTEN);
+    rewriteFontSizeOnce(dSize, settings, strKey, cAgentFontRewritten);
 }
 
 // clang-format off
-constexpr SettingRow COMMON_ROWS[] = {
+constexpr SettingRow cCommonRows[] = {
     {"/msgSetting/SaveToRoot",                 plain<&Data::m_strSaveToRoot>},
     {"/msgSetting/SaveToMyDoc",                plain<&Data::m_strSaveToMyDoc>},
     {"/msgSetting/SaveToMyChosen",             plain<&Data::m_strSaveToMyChosen>},
     {"/msgSetting/msgfilepath",                dataRoot},
 };
 
-constexpr SettingRow USER_ROWS[] = {
+constexpr SettingRow cUserRows[] = {
     {"/basicSetting/autoLogin",                plain<&Data::m_strAutoLogin>},
     {"/basicSetting/autoLunch",                plain<&Data::m_strAutoLunch>},
     {"/basicSetting/autoLogin_statu",          plain<&Data::m_strAutoLogin_statu>},
@@ -268,7 +268,7 @@ SystemSetData *SystemSetData::instance()
 
 void SystemSetData::initCommonData()
 {
-    readRows(*this, COMMON_ROWS, strAPP_INFO_FILE_PATH());
+    readRows(*this, cCommonRows, strAPP_INFO_FILE_PATH());
     const QDir folder(absolute(m_strMsgFilePath));
     if (!folder.exists()) {
         folder.mkpath(folder.path());
@@ -279,13 +279,13 @@ void SystemSetData::initCommonData()
 void SystemSetData::initData(QString strUserName)
 {
     initUserPaths(strUserName);
-    readRows(*this, USER_ROWS, m_strUserConfigPath);
+    readRows(*this, cUserRows, m_strUserConfigPath);
 }
 
 QStringList SystemSetData::userConfigKeys()
 {
     QStringList listKey;
-    for (const SettingRow &row : USER_ROWS) {
+    for (const SettingRow &row : cUserRows) {
         listKey.append(QLatin1String(row.m_pKey));
     }
     return listKey;

@@ -8,13 +8,13 @@
 
 namespace {
 
-const QChar AT(QLatin1Char('@'));
-const QChar ID_JOINT(QLatin1Char('_'));
-const QLatin1String ROOM_DOMAIN_JOINT("@c.");
-const QLatin1String ROOM_PREFIX_OF("of");
-const QLatin1String ROOM_PREFIX_ROOM("room");
-const QLatin1String CHANNEL_PREFIX("KFCNL");
-const QLatin1String VIDEO_ROOM_PREFIX("vroom");
+const QChar cAt(QLatin1Char('@'));
+const QChar cIdJoint(QLatin1Char('_'));
+const QLatin1String cRoomDomainJoint("@c.");
+const QLatin1String cRoomPrefixOf("of");
+const QLatin1String cRoomPrefixRoom("room");
+const QLatin1String cChannelPrefix("KFCNL");
+const QLatin1String cVideoRoomPrefix("vroom");
 
 QString loginText(QString LoginData::*pField)
 {
@@ -24,7 +24,7 @@ QString loginText(QString LoginData::*pField)
 
 QString joinSmallerFirst(const QString &strFirst, const QString &strSecond)
 {
-    return strFirst < strSecond ? strFirst + ID_JOINT + strSecond : strSecond + ID_JOINT + strFirst;
+    return strFirst < strSecond ? strFirst + cIdJoint + strSecond : strSecond + cIdJoint + strFirst;
 }
 
 // The two parties of a session id; two empty texts and false when it does not have exactly two.
@@ -32,7 +32,7 @@ struct SessionParties
 {
     explicit SessionParties(const QString &strSessionId)
     {
-        const QStringList listPart = strSessionId.split(ID_JOINT, Qt::KeepEmptyParts);
+        const QStringList listPart = strSessionId.split(cIdJoint, Qt::KeepEmptyParts);
         m_bValid = listPart.size() == 2;
         if (m_bValid) {
             m_strFirst = listPart.at(0);
@@ -59,7 +59,7 @@ QString UserIds::getLoginDomain()
 
 QString UserIds::getLoginMyJID()
 {
-    return getLoginUID() + AT + getLoginDomain();
+    return getLoginUID() + cAt + getLoginDomain();
 }
 
 QString UserIds::getMychannelID()
@@ -92,19 +92,19 @@ QString UserIds::getLoginCompanyName()
 
 QString UserIds::getJidByUid(const QString &strId)
 {
-    if (strId.contains(AT)) {
+    if (strId.contains(cAt)) {
         return strId;
     }
     // Any id that starts like a room's counts as a room, "office1" too, deliberately.
     if (isMucJid(strId)) {
-        return strId % ROOM_DOMAIN_JOINT % getLoginDomain();
+        return strId % cRoomDomainJoint % getLoginDomain();
     }
-    return strId % AT % getLoginDomain();
+    return strId % cAt % getLoginDomain();
 }
 
 QString UserIds::getUidByJid(const QString &strJid)
 {
-    return strJid.left(strJid.indexOf(AT));
+    return strJid.left(strJid.indexOf(cAt));
 }
 
 QString UserIds::getSessionIdByChatJid(const QString &strJid)
@@ -127,7 +127,7 @@ QString UserIds::getChatJidBySessionId(const QString &strSessionId)
 
 bool UserIds::isMucJid(const QString &strJid)
 {
-    return strJid.startsWith(ROOM_PREFIX_OF) || strJid.startsWith(ROOM_PREFIX_ROOM);
+    return strJid.startsWith(cRoomPrefixOf) || strJid.startsWith(cRoomPrefixRoom);
 }
 
 bool UserIds::isMucSession(const QString &strSessionId)
@@ -153,7 +153,7 @@ bool UserIds::isAgentId(const QString &strId)
 
 bool UserIds::isChannelId(const QString &strId)
 {
-    return strId.startsWith(CHANNEL_PREFIX);
+    return strId.startsWith(cChannelPrefix);
 }
 
 QString UserIds::getChannelIdBySessionId(const QString &strSessionId)
@@ -186,5 +186,5 @@ QString UserIds::getCSUserIdBySessionId(const QString &strSessionId)
 
 bool UserIds::isVideoChat(const QString &strId)
 {
-    return strId.toLower().startsWith(VIDEO_ROOM_PREFIX);
+    return strId.toLower().startsWith(cVideoRoomPrefix);
 }

@@ -17,7 +17,7 @@ void VcardInfo::setPhotoName(const QString &strName)
 {
     m_strPhotoName = strName.isEmpty() ? strDEFAULT_HEAD_PATH : strName;
     m_bSystemAvatar = true;
-    if (m_strPhotoName == strDEFAULT_HEAD_PATH || m_strPhotoName == AvatarFiles::SERVICE_HEAD) {
+    if (m_strPhotoName == strDEFAULT_HEAD_PATH || m_strPhotoName == AvatarFiles::cServiceHead) {
         m_strPhotoPath = m_strPhotoName;
         return;
     }

@@ -70,7 +70,7 @@ void exitVoip(BaseEvent &)
     CVoipManage::instance()->exitVoip();
 }
 
-constexpr HostCommand commands[] = {
+constexpr HostCommand cCommands[] = {
     {MSG_UPDATE_USER_INFO, updateUserInfo},
     {MSG_CLIENT_CONNECT_STATUS, clientConnectStatus},
     {MSG_CALL_SINGLE_USER, callSingleUser},
@@ -82,10 +82,11 @@ constexpr HostCommand commands[] = {
     {MSG_EXIT_VOIP, exitVoip},
 };
 
-static_assert(tellOfEveryEvent(commands, EventWay::Command), "a command that nobody carries out");
+static_assert(tellOfEveryEvent(cCommands, EventWay::Command), "a command that nobody carries out");
 
 // The mailbox stands below the engine and cannot name these rows, and programs use it without the plug-in's root
 // object, which could hand them over: so the rows enter themselves.
-[[maybe_unused]] const bool commandsAreSet = (setHostCommands(commands, static_cast<int>(std::size(commands))), true);
+[[maybe_unused]] const bool cCommandsAreSet =
+    (setHostCommands(cCommands, static_cast<int>(std::size(cCommands))), true);
 
 } // namespace

@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr char AUTHORIZATION_HEADER[] = "Authorization";
-constexpr char AUTH_ID_COOKIE[] = "imAuthId";
+constexpr char cAuthorizationHeader[] = "Authorization";
+constexpr char cAuthIdCookie[] = "imAuthId";
 
 // The identifier as a cookie's value. A line break in it would begin a header of its own.
 QByteArray cookieValue(const QString &strAuthId)
@@ -24,12 +24,12 @@ QNetworkRequest decorated(const QNetworkRequest &request, const QString &strAuth
     QNetworkRequest result;
     const QList<QByteArray> listName = request.rawHeaderList();
     for (const QByteArray &name : listName) {
-        if (name.compare(AUTHORIZATION_HEADER, Qt::CaseInsensitive) != 0) {
+        if (name.compare(cAuthorizationHeader, Qt::CaseInsensitive) != 0) {
             result.setRawHeader(name, request.rawHeader(name));
         }
     }
     result.setHeader(QNetworkRequest::CookieHeader,
-                     QVariant::fromValue(QNetworkCookie(AUTH_ID_COOKIE, cookieValue(strAuthId))));
+                     QVariant::fromValue(QNetworkCookie(cAuthIdCookie, cookieValue(strAuthId))));
     result.setUrl(request.url());
     return result;
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr char REFRESH_RETURNS[] = "CPassportLoginServer::ManualRefreshAuthID return direct.";
+constexpr char cRefreshReturns[] = "CPassportLoginServer::ManualRefreshAuthID return direct.";
 
 // An answer without a cookie must not wipe a valid one.
 void storeUnlessEmpty(QString &strStored, const QString &strValue)
@@ -40,8 +40,8 @@ void CPassportLoginServer::ManualRefreshAuthID()
     // The live values stand in clear, deliberately: they are part of the keeper's log output.
     LOG_DEBUG << "ManualRefreshAuthID authid =" << m_strAuthId << ", TGC = " << m_strTgcCookie
               << ",ids_r = " << m_strRemCookie << "\n";
-    LOG_DEBUG << REFRESH_RETURNS << "\n";
-    qDebug().noquote().nospace() << REFRESH_RETURNS;
+    LOG_DEBUG << cRefreshReturns << "\n";
+    qDebug().noquote().nospace() << cRefreshReturns;
 }
 
 void CPassportLoginServer::UserOverdue()

@@ -24,7 +24,7 @@ struct HostEvent
 };
 
 /// Every event, in the order of their numbers.
-inline constexpr std::array hostEvents{
+inline constexpr std::array cHostEvents{
 #define HOST_EVENT(name, number, way, fields, answer) HostEvent{name, EventWay::way, fields, answer},
 #include "plugin/HostEvents.def"
 #undef HOST_EVENT
@@ -33,7 +33,7 @@ inline constexpr std::array hostEvents{
 /// The row of a number, null for one that is not of this plug-in.
 constexpr const HostEvent *findHostEvent(int iMsgId)
 {
-    for (const HostEvent &event : hostEvents) {
+    for (const HostEvent &event : cHostEvents) {
         if (event.msgId == iMsgId) {
             return &event;
         }
@@ -45,7 +45,7 @@ constexpr const HostEvent *findHostEvent(int iMsgId)
 /// time only.
 constexpr bool isHostEvent(int iMsgId)
 {
-    for (const HostEvent &event : hostEvents) {
+    for (const HostEvent &event : cHostEvents) {
         if (event.msgId == iMsgId) {
             return true;
         }
@@ -57,7 +57,7 @@ constexpr bool isHostEvent(int iMsgId)
 template <class Rows>
 constexpr bool tellOfEveryEvent(const Rows &rows, EventWay way)
 {
-    for (const HostEvent &event : hostEvents) {
+    for (const HostEvent &event : cHostEvents) {
         int found = 0;
         for (const auto &row : rows) {
             found += row.msgId == event.msgId ? 1 : 0;

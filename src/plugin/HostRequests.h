@@ -25,7 +25,7 @@ struct HostRequest
 
 /// All requests, one a line. Deliberate: MSG_CREATE_VOICE_CONFERENCE alone names another plug-in, the vCard one, as its
 /// sender; and the events of MSG_CLOSE_AV_MSGBOX and MSG_CLOSE_SIGN_LIST stay undeleted after their delivery.
-inline constexpr HostRequest hostRequests[] = {
+inline constexpr HostRequest cHostRequests[] = {
     {MSG_RECEVIE_VOIP_CALL, sessionPluginId, voipPluginId, Delivery::AtOnce},
     {MSG_CALL_FINISHED, sessionPluginId, voipPluginId, Delivery::AtOnce},
     {MSG_CREATE_VOICE_CONFERENCE, sessionPluginId, vcardPluginId, Delivery::AtOnce},
@@ -38,12 +38,12 @@ inline constexpr HostRequest hostRequests[] = {
     {MSG_CLOSE_SIGN_LIST, signListPluginId, voipPluginId, Delivery::AtOnceKept},
 };
 
-static_assert(tellOfEveryEvent(hostRequests, EventWay::Request), "a request that nobody can deliver");
+static_assert(tellOfEveryEvent(cHostRequests, EventWay::Request), "a request that nobody can deliver");
 
 /// The row of `msgId`, which must be one of the table's.
 constexpr const HostRequest &hostRequest(EMsgId msgId)
 {
-    const HostRequest *row = hostRequests;
+    const HostRequest *row = cHostRequests;
     while (row->msgId != msgId) {
         ++row;
     }

@@ -17,10 +17,10 @@ QSqlDatabase DB::m_db;
 
 namespace {
 
-const QString sessionConnection = QStringLiteral("KelvarIM");
+const QString cSessionConnection = QStringLiteral("KelvarIM");
 
 // Whole tables that newer ones have taken the place of.
-constexpr const char *retiredTables[] = {
+constexpr const char *cRetiredTables[] = {
     "deletedfriend", "grouptableNew", "groupfriendversion", "localfriend",      "latestfriend", "friendlist",
     "muclocalmsg",   "msglist",       "appnumber",          "appnumberversion",
 };
@@ -73,15 +73,15 @@ constexpr void (*tableCreators[])() = {
 void removeSessionConnection()
 {
     DB::m_db = QSqlDatabase();
-    QSqlDatabase::removeDatabase(sessionConnection);
+    QSqlDatabase::removeDatabase(cSessionConnection);
 }
 
 void openFreshConnection()
 {
-    if (QSqlDatabase::contains(sessionConnection)) {
+    if (QSqlDatabase::contains(cSessionConnection)) {
         removeSessionConnection();
     }
-    DB::m_db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), sessionConnection);
+    DB::m_db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), cSessionConnection);
     if (CommonData *pContext = SharedContext::getCommonData()) {
         pContext->setSqlDatabase(&DB::m_db);
     }
@@ -208,7 +208,7 @@ bool DB::isExistIndex(const QString &table, const QString &suffix)
 
 void DB::dropNoUseTable()
 {
-    for (const char *table : retiredTables) {
+    for (const char *table : cRetiredTables) {
         if (isExistTable(table)) {
             StoreSchema::run(QStringLiteral("drop table %1;").arg(table));
         }

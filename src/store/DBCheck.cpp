@@ -11,15 +11,15 @@
 
 namespace {
 
-const QString checkConnection = QStringLiteral("my_sql_db");
+const QString cCheckConnection = QStringLiteral("my_sql_db");
 
 // Whole error texts of an older SQLite with its driver in Chinese. The same failure in other words is deliberately left
 // to the quick check's verdict, which hosts rely on.
-const QString duplicateText = QStringLiteral("column id is not unique 不能获取行");
-const QString malformedText = QStringLiteral("database disk image is malformed 不能获取行");
+const QString cDuplicateText = QStringLiteral("column id is not unique 不能获取行");
+const QString cMalformedText = QStringLiteral("database disk image is malformed 不能获取行");
 
 // SQLite's own code, the low byte of an extended one.
-constexpr int constraintCode = 19;
+constexpr int cConstraintCode = 19;
 
 int sqliteCode(const QSqlError &error)
 {
@@ -51,17 +51,17 @@ bool trialWrite(QSqlQuery &query, LockWait &wait)
     wait.execute(query, [&query] { return insertTrialRow(query); });
     const QSqlError error = query.lastError();
     const QString text = error.text();
-    if (error.type() == QSqlError::NoError || text == duplicateText) {
+    if (error.type() == QSqlError::NoError || text == cDuplicateText) {
         deleteTrialRow(query, wait);
         return true;
     }
-    if (text == malformedText) {
+    if (text == cMalformedText) {
         return false;
     }
     const bool bSound = quickCheck(query, wait);
     // A row that an earlier check left behind, in the words of this SQLite. Any other constraint's refusal, a trigger's
     // too, has the same code and leads here as well: the id is no message's, so nothing is lost.
-    if (sqliteCode(error) == constraintCode) {
+    if (sqliteCode(error) == cConstraintCode) {
         deleteTrialRow(query, wait);
     }
     return bSound;
@@ -83,12 +83,12 @@ bool DB::checkDB(QString dir, bool quickOnly)
         return true;
     }
     // A check that could not open its file has left its connection.
-    if (QSqlDatabase::contains(checkConnection)) {
-        QSqlDatabase::removeDatabase(checkConnection);
+    if (QSqlDatabase::contains(cCheckConnection)) {
+        QSqlDatabase::removeDatabase(cCheckConnection);
     }
     bool bSound = true;
     {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), checkConnection);
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), cCheckConnection);
         db.setDatabaseName(fileName);
         // Deliberate: a file that cannot be opened is not reported as damaged.
         if (!LockWait::open(db)) {
@@ -97,6 +97,6 @@ bool DB::checkDB(QString dir, bool quickOnly)
         bSound = isSound(db, quickOnly);
         db.close();
     }
-    QSqlDatabase::removeDatabase(checkConnection);
+    QSqlDatabase::removeDatabase(cCheckConnection);
     return bSound;
 }

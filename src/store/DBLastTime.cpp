@@ -11,7 +11,7 @@
 namespace {
 
 // The key of the one row.
-const QString allSessions = QStringLiteral("all_session");
+const QString cAllSessions = QStringLiteral("all_session");
 
 // Executes the statement with two texts; an error text is left in the query when it fails.
 bool write(QSqlQuery &query, const QSqlDatabase &db, const QString &statement, const QString &first,
@@ -34,7 +34,7 @@ void DBLastTime::saveLastTime(const QString &time)
 {
     const QSqlDatabase db = DB::getDB();
     QSqlQuery query(db);
-    if (!write(query, db, QStringLiteral("INSERT INTO last_time (sessionId, lastTime) VALUES (?, ?)"), allSessions,
+    if (!write(query, db, QStringLiteral("INSERT INTO last_time (sessionId, lastTime) VALUES (?, ?)"), cAllSessions,
                time)) {
         CLogManger::instance()->printLog(
             CustomLog::Error, LOG_LOCATION,
@@ -47,7 +47,8 @@ void DBLastTime::updateLastTime(const QString &time)
 {
     const QSqlDatabase db = DB::getDB();
     QSqlQuery query(db);
-    if (!write(query, db, QStringLiteral("UPDATE last_time SET lastTime = ? WHERE sessionId = ?"), time, allSessions)) {
+    if (!write(query, db, QStringLiteral("UPDATE last_time SET lastTime = ? WHERE sessionId = ?"), time,
+               cAllSessions)) {
         CLogManger::instance()->printLog(
             CustomLog::Error, LOG_LOCATION,
             QStringLiteral("DBLastTime::updateLastTime(),ERROR:更新时间信息失败.strLastTime=") + time +
@@ -65,7 +66,7 @@ QString DBLastTime::getLastTime()
     QSqlQuery query(db);
     query.setForwardOnly(true);
     query.prepare(QStringLiteral("SELECT lastTime FROM last_time WHERE sessionId = ?"));
-    query.addBindValue(allSessions);
+    query.addBindValue(cAllSessions);
     query.exec();
     QString strTime = query.next() ? query.value(0).toString() : QString();
     return strTime.isEmpty() ? notStored : strTime;

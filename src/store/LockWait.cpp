@@ -8,13 +8,13 @@
 namespace {
 
 // What Qt's driver gives a statement by default, in milliseconds.
-constexpr int kDriverMs = 5000;
+constexpr int cDriverMs = 5000;
 // The rests grow: what holds a file for a moment delays no longer than that, what holds it for long is not asked often.
-constexpr int kFirstRestMs = 1;
-constexpr int kLongestRestMs = 32;
+constexpr int cFirstRestMs = 1;
+constexpr int cLongestRestMs = 32;
 // SQLite's primary result code for a file that another connection has locked; the upper bytes tell details.
-constexpr int kBusyCode = 5;
-constexpr int kPrimaryCodeMask = 0xff;
+constexpr int cBusyCode = 5;
+constexpr int cPrimaryCodeMask = 0xff;
 
 } // namespace
 
@@ -28,7 +28,7 @@ bool LockWait::open(QSqlDatabase &db)
 
 bool LockWait::isLockedOut(const QSqlError &error)
 {
-    return (error.nativeErrorCode().toInt() & kPrimaryCodeMask) == kBusyCode;
+    return (error.nativeErrorCode().toInt() & cPrimaryCodeMask) == cBusyCode;
 }
 
 LockWait::LockWait(const QSqlDatabase &db) : m_db(db) {}
@@ -40,7 +40,7 @@ bool LockWait::execute(QSqlQuery &query, const QString &statement)
 
 bool LockWait::execute(const QSqlQuery &query, const std::function<bool()> &tryOnce)
 {
-    for (int iRest = kFirstRestMs; !tryOnce(); iRest = qMin(2 * iRest, kLongestRestMs)) {
+    for (int iRest = cFirstRestMs; !tryOnce(); iRest = qMin(2 * iRest, cLongestRestMs)) {
         if (m_iLeft <= 0 || !isLockedOut(query.lastError())) {
             return false;
         }
@@ -51,7 +51,7 @@ bool LockWait::execute(const QSqlQuery &query, const std::function<bool()> &tryO
 
 void LockWait::end()
 {
-    QSqlQuery(m_db).exec(QStringLiteral("PRAGMA busy_timeout = %1").arg(kDriverMs));
+    QSqlQuery(m_db).exec(QStringLiteral("PRAGMA busy_timeout = %1").arg(cDriverMs));
 }
 
 void LockWait::rest(int iMilliseconds)

@@ -18,7 +18,7 @@ class LockWait
 {
 public:
     /// What all statements may wait, in milliseconds.
-    static constexpr int kLimitMs = 1800;
+    static constexpr int cLimitMs = 1800;
 
     /// Opens the connection for such a flow; false when it cannot be opened. Its statements do not wait by themselves
     /// then, but when it is opened once more by itself, they do.
@@ -42,5 +42,5 @@ private:
     void rest(int iMilliseconds);
 
     QSqlDatabase m_db;
-    qint64 m_iLeft = kLimitMs;
+    qint64 m_iLeft = cLimitMs;
 };

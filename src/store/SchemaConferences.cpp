@@ -5,7 +5,7 @@
 #include "store/StoreSchema.h"
 
 // clang-format off
-constexpr StoreColumn voipConferenceInfoColumns[] = {
+constexpr StoreColumn cVoipConferenceInfoColumns[] = {
     {"ConfID", "VARCHAR(100) primary key"},
     {"CreatUserID", "VARCHAR(100)"},
     {"CreatTime", "VARCHAR(100)"},
@@ -14,25 +14,25 @@ constexpr StoreColumn voipConferenceInfoColumns[] = {
     {"IsConnect", "INT"},
 };
 // clang-format on
-constexpr StoreTable voipConferenceInfo{"voipConferenceInfo", voipConferenceInfoColumns};
+constexpr StoreTable cVoipConferenceInfo{"voipConferenceInfo", cVoipConferenceInfoColumns};
 
 void DB::creatVoipConferenceInfoTable()
 {
-    StoreSchema::createOrUpgrade(voipConferenceInfo);
+    StoreSchema::createOrUpgrade(cVoipConferenceInfo);
 }
 
-constexpr StoreColumn last_timeColumns[] = {
+constexpr StoreColumn cLastTimeColumns[] = {
     {"sessionId", "VARCHAR(40) primary key"},
     {"lastTime", "VARCHAR(20)"},
 };
-constexpr StoreTable last_time{"last_time", last_timeColumns};
+constexpr StoreTable cLastTime{"last_time", cLastTimeColumns};
 
 // The table's one row is made with it, empty, and only then.
 void DB::createLastTimeTable()
 {
-    if (StoreSchema::exists(last_time)) {
+    if (StoreSchema::exists(cLastTime)) {
         return;
     }
-    StoreSchema::create(last_time);
+    StoreSchema::create(cLastTime);
     DBLastTime::saveLastTime(QStringLiteral(""));
 }

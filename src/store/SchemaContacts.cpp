@@ -3,7 +3,7 @@
 #include "store/DB.h"
 #include "store/StoreSchema.h"
 
-constexpr StoreColumn localfriendNewColumns[] = {
+constexpr StoreColumn cLocalfriendNewColumns[] = {
     {"jid", "VARCHAR(100) primary key"},
     {"mysetname", "VARCHAR(100)"},
     {"nickname", "VARCHAR(100)"},
@@ -36,16 +36,16 @@ constexpr StoreColumn localfriendNewColumns[] = {
     {"extension1", "VARCHAR(100)"},
     {"extension2", "VARCHAR(100)"},
 };
-constexpr StoreTable localfriendNew{"localfriendNew", localfriendNewColumns};
+constexpr StoreTable cLocalfriendNew{"localfriendNew", cLocalfriendNewColumns};
 
 void DB::createLocalFrdTable()
 {
-    StoreSchema::createOrUpgrade(localfriendNew);
+    StoreSchema::createOrUpgrade(cLocalfriendNew);
 }
 
 // No primary key, deliberately: rows are found through the index. Old files gain the columns in another order than
 // that of a new table.
-constexpr StoreColumn mucrecordColumns[] = {
+constexpr StoreColumn cMucrecordColumns[] = {
     {"jid", "VARCHAR(100)"},
     {"roomJid", "VARCHAR(100)"},
     {"roomName", "VARCHAR(100)"},
@@ -69,68 +69,68 @@ constexpr StoreColumn mucrecordColumns[] = {
     {"isInnerMuc", "INT", 5, "INT"},
     {"companyCode", "VARCHAR(100)", 8, "VARCHAR(100)"},
 };
-constexpr StoreIndex mucrecordIndexes[] = {
+constexpr StoreIndex cMucrecordIndexes[] = {
     {"_index_roomJid", "roomJid"},
 };
-constexpr StoreTable mucrecord{"mucrecord", mucrecordColumns, mucrecordIndexes};
+constexpr StoreTable cMucrecord{"mucrecord", cMucrecordColumns, cMucrecordIndexes};
 
 // The index is looked after at every open, whether a column was missing or not.
 void DB::createMuctable()
 {
-    StoreSchema::createOrUpgrade(mucrecord);
-    StoreSchema::createMissingIndexes(mucrecord);
+    StoreSchema::createOrUpgrade(cMucrecord);
+    StoreSchema::createMissingIndexes(cMucrecord);
 }
 
 // No primary key; the index as above.
-constexpr StoreColumn mucmembersColumns[] = {
+constexpr StoreColumn cMucmembersColumns[] = {
     {"roomJid", "VARCHAR(100)"},
     {"memberJid", "VARCHAR(100)"},
     {"memberName", "VARCHAR(100)"},
     {"memberHead", "VARCHAR(100)"},
     {"mucsignature", "VARCHAR(100)", 1, "VARCHAR(100)"},
 };
-constexpr StoreIndex mucmembersIndexes[] = {
+constexpr StoreIndex cMucmembersIndexes[] = {
     {"_index_roomJid_memberJid", "roomJid,memberJid"},
 };
-constexpr StoreTable mucmembers{"mucmembers", mucmembersColumns, mucmembersIndexes};
+constexpr StoreTable cMucmembers{"mucmembers", cMucmembersColumns, cMucmembersIndexes};
 
 void DB::createMucMembersTable()
 {
-    StoreSchema::createOrUpgrade(mucmembers);
-    StoreSchema::createMissingIndexes(mucmembers);
+    StoreSchema::createOrUpgrade(cMucmembers);
+    StoreSchema::createMissingIndexes(cMucmembers);
 }
 
-constexpr StoreColumn groupColumns[] = {
+constexpr StoreColumn cGroupColumns[] = {
     {"groupId", "VARCHAR(100) PRIMARY KEY"},
     {"groupName", "VARCHAR(100)"},
 };
-constexpr StoreTable grouptable{"grouptable", groupColumns};
-constexpr StoreTable friendGrouptable{"friendGrouptable", groupColumns};
+constexpr StoreTable cGrouptable{"grouptable", cGroupColumns};
+constexpr StoreTable cFriendGrouptable{"friendGrouptable", cGroupColumns};
 
 void DB::createGroupTable()
 {
-    StoreSchema::createOrUpgrade(grouptable);
+    StoreSchema::createOrUpgrade(cGrouptable);
 }
 
 void DB::createFriendGroupTable()
 {
-    StoreSchema::createOrUpgrade(friendGrouptable);
+    StoreSchema::createOrUpgrade(cFriendGrouptable);
 }
 
-constexpr StoreTable groupfriendversionNew{"groupfriendversionNew", versionColumns};
-constexpr StoreTable outsidegroupfriendversionNew{"outsidegroupfriendversionNew", versionColumns};
+constexpr StoreTable cGroupfriendversionNew{"groupfriendversionNew", cVersionColumns};
+constexpr StoreTable cOutsidegroupfriendversionNew{"outsidegroupfriendversionNew", cVersionColumns};
 
 void DB::createGroupFriendVersion()
 {
-    StoreSchema::createOrUpgrade(groupfriendversionNew);
+    StoreSchema::createOrUpgrade(cGroupfriendversionNew);
 }
 
 void DB::createOutsideGroupFriendVersion()
 {
-    StoreSchema::createOrUpgrade(outsidegroupfriendversionNew);
+    StoreSchema::createOrUpgrade(cOutsidegroupfriendversionNew);
 }
 
-constexpr StoreColumn roomnoticeColumns[] = {
+constexpr StoreColumn cRoomnoticeColumns[] = {
     {"roomjid", "VARCHAR(100) primary key"},
     {"noticeid", "VARCHAR(100)"},
     {"noticetitle", "VARCHAR(100)"},
@@ -139,9 +139,9 @@ constexpr StoreColumn roomnoticeColumns[] = {
     {"userid", "VARCHAR(100)", 1, "VARCHAR(100)"},
     {"updatetime", "VARCHAR(100)", 2, "VARCHAR(100)"},
 };
-constexpr StoreTable roomnotice{"roomnotice", roomnoticeColumns};
+constexpr StoreTable cRoomnotice{"roomnotice", cRoomnoticeColumns};
 
 void DB::createRoomNoticeTable()
 {
-    StoreSchema::createOrUpgrade(roomnotice);
+    StoreSchema::createOrUpgrade(cRoomnotice);
 }

@@ -3,7 +3,7 @@
 #include "store/DB.h"
 #include "store/StoreSchema.h"
 
-constexpr StoreColumn cs_channelColumns[] = {
+constexpr StoreColumn cCsChannelColumns[] = {
     {"channelId", "VARCHAR(20) primary key"},
     {"channelName", "VARCHAR(20)"},
     {"photoName", "VARCHAR(100)", 1, "VARCHAR(100)"},
@@ -13,14 +13,14 @@ constexpr StoreColumn cs_channelColumns[] = {
     {"version", "INT64", 4, "INT64"},
     {"allowOpen", "INT", 5, "INT"},
 };
-constexpr StoreTable cs_channel{"cs_channel", cs_channelColumns};
+constexpr StoreTable cCsChannel{"cs_channel", cCsChannelColumns};
 
 void DB::createCSChannelTable()
 {
-    StoreSchema::createOrUpgrade(cs_channel);
+    StoreSchema::createOrUpgrade(cCsChannel);
 }
 
-constexpr StoreColumn cs_agentInfoColumns[] = {
+constexpr StoreColumn cCsAgentInfoColumns[] = {
     {"agentJid", "VARCHAR(20) primary key"},
     {"name", "VARCHAR(20)"},
     {"userName", "VARCHAR(20)"},
@@ -31,27 +31,27 @@ constexpr StoreColumn cs_agentInfoColumns[] = {
     {"maxChats", "INT"},
     {"version", "INT64"},
 };
-constexpr StoreTable cs_agentInfo{"cs_agentInfo", cs_agentInfoColumns};
+constexpr StoreTable cCsAgentInfo{"cs_agentInfo", cCsAgentInfoColumns};
 
 void DB::creatAgentInfoTable()
 {
-    StoreSchema::createOrUpgrade(cs_agentInfo);
+    StoreSchema::createOrUpgrade(cCsAgentInfo);
 }
 
-constexpr StoreColumn cs_workgroupColumns[] = {
+constexpr StoreColumn cCsWorkgroupColumns[] = {
     {"workgroupId", "VARCHAR(40) primary key"},
     {"workgroupName", "VARCHAR(20)"},
     {"channelId", "VARCHAR(20)"},
 };
-constexpr StoreTable cs_workgroup{"cs_workgroup", cs_workgroupColumns};
+constexpr StoreTable cCsWorkgroup{"cs_workgroup", cCsWorkgroupColumns};
 
 void DB::createCSWorkgroupTable()
 {
-    StoreSchema::createOrUpgrade(cs_workgroup);
+    StoreSchema::createOrUpgrade(cCsWorkgroup);
 }
 
 // clang-format off
-constexpr StoreColumn quikrplyColumns[] = {
+constexpr StoreColumn cQuikrplyColumns[] = {
     {"quikrplyId", "VARCHAR(40) primary key"},
     {"quikrplyIsGrp", "INT"},
     {"quikrplyName", "VARCHAR(20)"},
@@ -59,42 +59,42 @@ constexpr StoreColumn quikrplyColumns[] = {
     {"quikrplyPId", "VARCHAR(20)"},
 };
 // clang-format on
-constexpr StoreTable cs_quikrply{"cs_quikrply", quikrplyColumns};
-constexpr StoreTable cs_channelquikrply{"cs_channelquikrply", quikrplyColumns};
+constexpr StoreTable cCsQuikrply{"cs_quikrply", cQuikrplyColumns};
+constexpr StoreTable cCsChannelquikrply{"cs_channelquikrply", cQuikrplyColumns};
 
 void DB::createCSQuickrplyTable()
 {
-    StoreSchema::createOrUpgrade(cs_quikrply);
+    StoreSchema::createOrUpgrade(cCsQuikrply);
 }
 
 void DB::createCSChannelQuickrplyTable()
 {
-    StoreSchema::createOrUpgrade(cs_channelquikrply);
+    StoreSchema::createOrUpgrade(cCsChannelquikrply);
 }
 
-constexpr StoreColumn cs_agent_sessionColumns[] = {
+constexpr StoreColumn cCsAgentSessionColumns[] = {
     {"sessionId", "VARCHAR(40) primary key"},
     {"agentSessionId", "VARCHAR(50)"},
 };
-constexpr StoreTable cs_agent_session{"cs_agent_session", cs_agent_sessionColumns};
+constexpr StoreTable cCsAgentSession{"cs_agent_session", cCsAgentSessionColumns};
 
 void DB::createCSAgentSessionTable()
 {
-    StoreSchema::createOrUpgrade(cs_agent_session);
+    StoreSchema::createOrUpgrade(cCsAgentSession);
 }
 
-constexpr StoreColumn cs_commentColumns[] = {
+constexpr StoreColumn cCsCommentColumns[] = {
     {"agentSessionId", "VARCHAR(40) primary key"},
 };
-constexpr StoreTable cs_comment{"cs_comment", cs_commentColumns};
+constexpr StoreTable cCsComment{"cs_comment", cCsCommentColumns};
 
 void DB::createCSCommentTable()
 {
-    StoreSchema::createOrUpgrade(cs_comment);
+    StoreSchema::createOrUpgrade(cCsComment);
 }
 
 // clang-format off
-constexpr StoreColumn cs_chatsummaryColumns[] = {
+constexpr StoreColumn cCsChatsummaryColumns[] = {
     {"chatsumId", "VARCHAR(40) primary key"},
     {"chatsumIsGrp", "INT"},
     {"chatsumName", "VARCHAR(20)"},
@@ -102,43 +102,43 @@ constexpr StoreColumn cs_chatsummaryColumns[] = {
     {"chatsumPId", "VARCHAR(20)"},
 };
 // clang-format on
-constexpr StoreTable cs_chatsummary{"cs_chatsummary", cs_chatsummaryColumns};
+constexpr StoreTable cCsChatsummary{"cs_chatsummary", cCsChatsummaryColumns};
 
 void DB::createCSChatSumTable()
 {
-    StoreSchema::createOrUpgrade(cs_chatsummary);
+    StoreSchema::createOrUpgrade(cCsChatsummary);
 }
 
-constexpr StoreColumn cs_topchannelIdlistColumns[] = {
+constexpr StoreColumn cCsTopchannelIdlistColumns[] = {
     {"UserID", "VARCHAR(100) primary key"},
     {"TopChannelList", "VARCHAR(200)"},
 };
-constexpr StoreTable cs_topchannelIdlist{"cs_topchannelIdlist", cs_topchannelIdlistColumns};
+constexpr StoreTable cCsTopchannelIdlist{"cs_topchannelIdlist", cCsTopchannelIdlistColumns};
 
 void DB::createCSChannelTopListTable()
 {
-    StoreSchema::createOrUpgrade(cs_topchannelIdlist);
+    StoreSchema::createOrUpgrade(cCsTopchannelIdlist);
 }
 
-constexpr StoreColumn cs_chatsumColumns[] = {
+constexpr StoreColumn cCsChatsumColumns[] = {
     {"agentSessionId", "VARCHAR(40) primary key"},
 };
-constexpr StoreTable cs_chatsum{"cs_chatsum", cs_chatsumColumns};
+constexpr StoreTable cCsChatsum{"cs_chatsum", cCsChatsumColumns};
 
 void DB::createCSChatSumAgentTable()
 {
-    StoreSchema::createOrUpgrade(cs_chatsum);
+    StoreSchema::createOrUpgrade(cCsChatsum);
 }
 
-constexpr StoreColumn cs_chatandquickversionColumns[] = {
+constexpr StoreColumn cCsChatandquickversionColumns[] = {
     {"jid", "VARCHAR(40) primary key"},
     {"ChatSumVersion", "VARCHAR(20)"},
     {"QuickRplyVersion", "VARCHAR(20)"},
     {"ChnelQuickRplyVersion", "VARCHAR(20)"},
 };
-constexpr StoreTable cs_chatandquickversion{"cs_chatandquickversion", cs_chatandquickversionColumns};
+constexpr StoreTable cCsChatandquickversion{"cs_chatandquickversion", cCsChatandquickversionColumns};
 
 void DB::createCSChatAndQuickVersionTable()
 {
-    StoreSchema::createOrUpgrade(cs_chatandquickversion);
+    StoreSchema::createOrUpgrade(cCsChatandquickversion);
 }

@@ -3,7 +3,7 @@
 #include "store/DB.h"
 #include "store/StoreSchema.h"
 
-constexpr StoreColumn loginInfoColumns[] = {
+constexpr StoreColumn cLoginInfoColumns[] = {
     {"trueAccount", "VARCHAR(100) primary key"},
     {"password", "VARCHAR(1000)"},
     {"showType", "INTEGER"},
@@ -18,9 +18,9 @@ constexpr StoreColumn loginInfoColumns[] = {
     {"RemCookie", "VARCHAR(100)"},
     {"PasswordLength", "VARCHAR(100)"},
 };
-constexpr StoreTable loginInfo{"loginInfo", loginInfoColumns};
+constexpr StoreTable cLoginInfo{"loginInfo", cLoginInfoColumns};
 
 void DB::createLoginTable()
 {
-    StoreSchema::createOrUpgrade(loginInfo);
+    StoreSchema::createOrUpgrade(cLoginInfo);
 }

@@ -4,7 +4,7 @@
 #include "store/StoreSchema.h"
 
 // Indexes are made only when the CREATE succeeded. No index 2, deliberately: it belongs to older files.
-constexpr StoreColumn msgrecordColumns[] = {
+constexpr StoreColumn cMsgrecordColumns[] = {
     {"id", "VARCHAR(20) PRIMARY KEY"},
     {"jid", "VARCHAR(100)"},
     {"unique_jid", "VARCHAR(100)"},
@@ -29,33 +29,33 @@ constexpr StoreColumn msgrecordColumns[] = {
     {"atlist", "TEXT", 1, "TEXT"},
     {"sequenceId", "INT64", 2, "INT64"},
 };
-constexpr StoreIndex timeIndex{"_index_uniquejid_time", "unique_jid,ztime"};
-constexpr StoreIndex sequenceIndex{"_index_uniquejid_sequenceId", "unique_jid,sequenceId"};
-constexpr StoreIndex msgrecordIndexes[] = {
+constexpr StoreIndex cTimeIndex{"_index_uniquejid_time", "unique_jid,ztime"};
+constexpr StoreIndex cSequenceIndex{"_index_uniquejid_sequenceId", "unique_jid,sequenceId"};
+constexpr StoreIndex cMsgrecordIndexes[] = {
     {"_index1", "unique_jid"},
     {"_index3", "messageid"},
-    timeIndex,
-    sequenceIndex,
+    cTimeIndex,
+    cSequenceIndex,
 };
-constexpr StoreTable msgrecord{"msgrecord", msgrecordColumns, msgrecordIndexes};
+constexpr StoreTable cMsgrecord{"msgrecord", cMsgrecordColumns, cMsgrecordIndexes};
 
 namespace {
 
 // Two index changes ride on the adding of sequenceId and so are made once; two more are looked after at every open.
 void upgradeMessageTable()
 {
-    StoreSchema::addIfMissing(msgrecord, 1);
-    const bool bNewSequence = StoreSchema::addIfMissing(msgrecord, 2);
+    StoreSchema::addIfMissing(cMsgrecord, 1);
+    const bool bNewSequence = StoreSchema::addIfMissing(cMsgrecord, 2);
     if (bNewSequence) {
         StoreSchema::run(QStringLiteral("DROP INDEX msgrecord_index2;"));
-        StoreSchema::createIndex(msgrecord, timeIndex);
+        StoreSchema::createIndex(cMsgrecord, cTimeIndex);
     }
     // The misspelled name is that of an index of older files.
-    if (DB::isExistIndex(msgrecord.name, QStringLiteral("_index_sqeuenceId"))) {
+    if (DB::isExistIndex(cMsgrecord.name, QStringLiteral("_index_sqeuenceId"))) {
         StoreSchema::run(QStringLiteral("DROP INDEX msgrecord_index_sqeuenceId;"));
     }
-    if (!DB::isExistIndex(msgrecord.name, sequenceIndex.suffix)) {
-        StoreSchema::createIndex(msgrecord, sequenceIndex);
+    if (!DB::isExistIndex(cMsgrecord.name, cSequenceIndex.suffix)) {
+        StoreSchema::createIndex(cMsgrecord, cSequenceIndex);
     }
 }
 
@@ -63,18 +63,18 @@ void upgradeMessageTable()
 
 void DB::createMessageTable()
 {
-    if (StoreSchema::exists(msgrecord)) {
+    if (StoreSchema::exists(cMsgrecord)) {
         upgradeMessageTable();
         return;
     }
-    if (StoreSchema::create(msgrecord)) {
-        for (const StoreIndex &index : msgrecord.indexes) {
-            StoreSchema::createIndex(msgrecord, index);
+    if (StoreSchema::create(cMsgrecord)) {
+        for (const StoreIndex &index : cMsgrecord.indexes) {
+            StoreSchema::createIndex(cMsgrecord, index);
         }
     }
 }
 
-constexpr StoreColumn message_sessionColumns[] = {
+constexpr StoreColumn cMessageSessionColumns[] = {
     {"sessionId", "VARCHAR(40) primary key"},
     {"localDelete", "TEXT"},
     {"serverDelete", "TEXT"},
@@ -90,25 +90,25 @@ constexpr StoreColumn message_sessionColumns[] = {
     {"noticeid", "VARCHAR(100)", 2, "VARCHAR(100)"},
     {"noticestatus", "INT", 3, "INT"},
 };
-constexpr StoreTable message_session{"message_session", message_sessionColumns};
+constexpr StoreTable cMessageSession{"message_session", cMessageSessionColumns};
 
 void DB::createSessionTable()
 {
-    StoreSchema::createOrUpgrade(message_session);
+    StoreSchema::createOrUpgrade(cMessageSession);
 }
 
-constexpr StoreColumn message_unread_sessionColumns[] = {
+constexpr StoreColumn cMessageUnreadSessionColumns[] = {
     {"sessionId", "VARCHAR(40) primary key"},
 };
-constexpr StoreTable message_unread_session{"message_unread_session", message_unread_sessionColumns};
+constexpr StoreTable cMessageUnreadSession{"message_unread_session", cMessageUnreadSessionColumns};
 
 void DB::createUnreadSessionTable()
 {
-    StoreSchema::createOrUpgrade(message_unread_session);
+    StoreSchema::createOrUpgrade(cMessageUnreadSession);
 }
 
 // clang-format off
-constexpr StoreColumn latestfriendnewColumns[] = {
+constexpr StoreColumn cLatestfriendnewColumns[] = {
     {"jid", "VARCHAR(100) primary key"},
     {"displayname", "VARCHAR(100)"},
     {"accountNo", "VARCHAR(100)"},
@@ -123,14 +123,14 @@ constexpr StoreColumn latestfriendnewColumns[] = {
     {"isLocalSession", "INT", 2, "INT"},
 };
 // clang-format on
-constexpr StoreTable latestfriendnew{"latestfriendnew", latestfriendnewColumns};
+constexpr StoreTable cLatestfriendnew{"latestfriendnew", cLatestfriendnewColumns};
 
 void DB::createLatestFrdTable()
 {
-    StoreSchema::createOrUpgrade(latestfriendnew);
+    StoreSchema::createOrUpgrade(cLatestfriendnew);
 }
 
-constexpr StoreColumn deletedfriendnewColumns[] = {
+constexpr StoreColumn cDeletedfriendnewColumns[] = {
     {"jid", "VARCHAR(100) primary key"},
     {"displayname", "VARCHAR(100)"},
     {"accountNo", "VARCHAR(100)"},
@@ -138,14 +138,14 @@ constexpr StoreColumn deletedfriendnewColumns[] = {
     {"icon", "VARCHAR(100)"},
     {"onjob", "VARCHAR(100)"},
 };
-constexpr StoreTable deletedfriendnew{"deletedfriendnew", deletedfriendnewColumns};
+constexpr StoreTable cDeletedfriendnew{"deletedfriendnew", cDeletedfriendnewColumns};
 
 void DB::creatDeletedFrdTable()
 {
-    StoreSchema::createOrUpgrade(deletedfriendnew);
+    StoreSchema::createOrUpgrade(cDeletedfriendnew);
 }
 
-constexpr StoreColumn unclosesessionColumns[] = {
+constexpr StoreColumn cUnclosesessionColumns[] = {
     {"Jid", "VARCHAR(100) primary key"},
     {"Displayname", "VARCHAR(100)"},
     {"Icon", "VARCHAR(100)"},
@@ -157,17 +157,17 @@ constexpr StoreColumn unclosesessionColumns[] = {
     {"isFold", "INT", 1, "INT"},
     {"DisplayTime", "VARCHAR(100)", 2, "VARCHAR(100)"},
 };
-constexpr StoreTable unclosesession{"unclosesession", unclosesessionColumns};
+constexpr StoreTable cUnclosesession{"unclosesession", cUnclosesessionColumns};
 
-constexpr StoreColumn unclosesessionorderColumns[] = {
+constexpr StoreColumn cUnclosesessionorderColumns[] = {
     {"UserID", "VARCHAR(100) primary key"},
     {"SessionOrderString", "VARCHAR(200)"},
 };
-constexpr StoreTable unclosesessionorder{"unclosesessionorder", unclosesessionorderColumns};
+constexpr StoreTable cUnclosesessionorder{"unclosesessionorder", cUnclosesessionorderColumns};
 
 // The order has an existence test of its own: it is made also for an old file that has the sessions only.
 void DB::createUnCloseSessionTable()
 {
-    StoreSchema::createOrUpgrade(unclosesession);
-    StoreSchema::createOrUpgrade(unclosesessionorder);
+    StoreSchema::createOrUpgrade(cUnclosesession);
+    StoreSchema::createOrUpgrade(cUnclosesessionorder);
 }

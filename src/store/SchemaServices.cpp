@@ -3,7 +3,7 @@
 #include "store/DB.h"
 #include "store/StoreSchema.h"
 
-constexpr StoreColumn servicenumberColumns[] = {
+constexpr StoreColumn cServicenumberColumns[] = {
     {"servicecode", "VARCHAR(100) primary key"},
     {"name", "VARCHAR(100)"},
     {"description", "VARCHAR(100)"},
@@ -19,20 +19,20 @@ constexpr StoreColumn servicenumberColumns[] = {
     {"channelId", "VARCHAR(20)", 6, "VARCHAR(20)"},
     {"version", "VARCHAR(100)", 7, "VARCHAR(100)"},
 };
-constexpr StoreTable servicenumber{"servicenumber", servicenumberColumns};
-constexpr StoreTable localservicenumber{"localservicenumber", servicenumberColumns};
+constexpr StoreTable cServicenumber{"servicenumber", cServicenumberColumns};
+constexpr StoreTable cLocalservicenumber{"localservicenumber", cServicenumberColumns};
 
 // Deliberately never altered, the local one: an old file keeps the columns it was made with.
 void DB::createServiceTable()
 {
-    StoreSchema::createOrUpgrade(servicenumber);
-    if (!StoreSchema::exists(localservicenumber)) {
-        StoreSchema::create(localservicenumber);
+    StoreSchema::createOrUpgrade(cServicenumber);
+    if (!StoreSchema::exists(cLocalservicenumber)) {
+        StoreSchema::create(cLocalservicenumber);
     }
 }
 
 // Only the added isdelete has a default, deliberately: it reads 0 in old rows, null in a new table.
-constexpr StoreColumn appnumbernewColumns[] = {
+constexpr StoreColumn cAppnumbernewColumns[] = {
     {"appcode", "VARCHAR(100) primary key"},
     {"name", "VARCHAR(100)"},
     {"description", "VARCHAR(100)"},
@@ -49,104 +49,104 @@ constexpr StoreColumn appnumbernewColumns[] = {
     {"istip", "INT"},
     {"isdelete", "INT", 1, "INT default 0"},
 };
-constexpr StoreTable appnumbernew{"appnumbernew", appnumbernewColumns};
+constexpr StoreTable cAppnumbernew{"appnumbernew", cAppnumbernewColumns};
 
 void DB::createApplicationNewTableNew()
 {
-    StoreSchema::createOrUpgrade(appnumbernew);
+    StoreSchema::createOrUpgrade(cAppnumbernew);
 }
 
-constexpr StoreTable servicenumberversion{"servicenumberversion", versionColumns};
-constexpr StoreTable appnumberversionnew{"appnumberversionnew", versionColumns};
-constexpr StoreTable dingmsgversion{"dingmsgversion", versionColumns};
+constexpr StoreTable cServicenumberversion{"servicenumberversion", cVersionColumns};
+constexpr StoreTable cAppnumberversionnew{"appnumberversionnew", cVersionColumns};
+constexpr StoreTable cDingmsgversion{"dingmsgversion", cVersionColumns};
 
 void DB::createServiceVersion()
 {
-    StoreSchema::createOrUpgrade(servicenumberversion);
+    StoreSchema::createOrUpgrade(cServicenumberversion);
 }
 
 void DB::createApplicationVersionNew()
 {
-    StoreSchema::createOrUpgrade(appnumberversionnew);
+    StoreSchema::createOrUpgrade(cAppnumberversionnew);
 }
 
 void DB::createDingVersion()
 {
-    StoreSchema::createOrUpgrade(dingmsgversion);
+    StoreSchema::createOrUpgrade(cDingmsgversion);
 }
 
-constexpr StoreColumn favoriteColumns[] = {
+constexpr StoreColumn cFavoriteColumns[] = {
     {"favoriteCode", "INT64 primary key"},
     {"createTime", "INT64"},
     {"favoriteType", "VARCHAR(30)"},
     {"content", "TEXT"},
 };
-constexpr StoreTable favorite{"favorite", favoriteColumns};
+constexpr StoreTable cFavorite{"favorite", cFavoriteColumns};
 
 void DB::createFavoriteTable()
 {
-    StoreSchema::createOrUpgrade(favorite);
+    StoreSchema::createOrUpgrade(cFavorite);
 }
 
-constexpr StoreColumn favoriteFileLocalInfoColumns[] = {
+constexpr StoreColumn cFavoriteFileLocalInfoColumns[] = {
     {"fileId", "VARCHAR(100) primary key"},
     {"filePath", "VARCHAR(256)"},
 };
-constexpr StoreTable favoriteFileLocalInfo{"favoriteFileLocalInfo", favoriteFileLocalInfoColumns};
+constexpr StoreTable cFavoriteFileLocalInfo{"favoriteFileLocalInfo", cFavoriteFileLocalInfoColumns};
 
 void DB::createFavoriteFileTable()
 {
-    StoreSchema::createOrUpgrade(favoriteFileLocalInfo);
+    StoreSchema::createOrUpgrade(cFavoriteFileLocalInfo);
 }
 
-constexpr StoreColumn filereceviestatusColumns[] = {
+constexpr StoreColumn cFilereceviestatusColumns[] = {
     {"fileid", "VARCHAR(20) PRIMARY KEY"},
     {"status", "VARCHAR(100)"},
 };
-constexpr StoreTable filereceviestatus{"filereceviestatus", filereceviestatusColumns};
+constexpr StoreTable cFilereceviestatus{"filereceviestatus", cFilereceviestatusColumns};
 
 void DB::createFileRecevieStatusTable()
 {
-    StoreSchema::createOrUpgrade(filereceviestatus);
+    StoreSchema::createOrUpgrade(cFilereceviestatus);
 }
 
-constexpr StoreColumn cloudfilelocalinfoColumns[] = {
+constexpr StoreColumn cCloudfilelocalinfoColumns[] = {
     {"cloudfileid", "VARCHAR(20) PRIMARY KEY"},
     {"localpath", "VARCHAR(256)"},
 };
-constexpr StoreTable cloudfilelocalinfo{"cloudfilelocalinfo", cloudfilelocalinfoColumns};
+constexpr StoreTable cCloudfilelocalinfo{"cloudfilelocalinfo", cCloudfilelocalinfoColumns};
 
 void DB::creatCloudFileLocalInfo()
 {
-    StoreSchema::createOrUpgrade(cloudfilelocalinfo);
+    StoreSchema::createOrUpgrade(cCloudfilelocalinfo);
 }
 
-constexpr StoreColumn sharefilelocalinfoColumns[] = {
+constexpr StoreColumn cSharefilelocalinfoColumns[] = {
     {"sharefileid", "VARCHAR(20) PRIMARY KEY"},
     {"localpath", "VARCHAR(256)"},
 };
-constexpr StoreTable sharefilelocalinfo{"sharefilelocalinfo", sharefilelocalinfoColumns};
+constexpr StoreTable cSharefilelocalinfo{"sharefilelocalinfo", cSharefilelocalinfoColumns};
 
 void DB::creatShareFileLocalInfo()
 {
-    StoreSchema::createOrUpgrade(sharefilelocalinfo);
+    StoreSchema::createOrUpgrade(cSharefilelocalinfo);
 }
 
-constexpr StoreColumn filestatuslocalinfoColumns[] = {
+constexpr StoreColumn cFilestatuslocalinfoColumns[] = {
     {"fileid", "VARCHAR(20) PRIMARY KEY"},
     {"downloadstatus", "VARCHAR(256)"},
     {"savetocloud", "VARCHAR(256)"},
     {"transmit", "VARCHAR(256)"},
 };
-constexpr StoreTable filestatuslocalinfo{"filestatuslocalinfo", filestatuslocalinfoColumns};
+constexpr StoreTable cFilestatuslocalinfo{"filestatuslocalinfo", cFilestatuslocalinfoColumns};
 
 void DB::creatFileStatusLocalInfo()
 {
-    StoreSchema::createOrUpgrade(filestatuslocalinfo);
+    StoreSchema::createOrUpgrade(cFilestatuslocalinfo);
 }
 
 // clang-format off
-constexpr StoreColumn videoinfoColumns[] = {
+constexpr StoreColumn cVideoinfoColumns[] = {
     {"msgId", "VARCHAR(20) PRIMARY KEY"},
     {"videoUrl", "VARCHAR(256)"},
     {"picUrl", "VARCHAR(256)"},
@@ -154,26 +154,26 @@ constexpr StoreColumn videoinfoColumns[] = {
     {"videoPicName", "VARCHAR(256)"},
 };
 // clang-format on
-constexpr StoreTable videoinfo{"videoinfo", videoinfoColumns};
+constexpr StoreTable cVideoinfo{"videoinfo", cVideoinfoColumns};
 
 void DB::creatVideoInfo()
 {
-    StoreSchema::createOrUpgrade(videoinfo);
+    StoreSchema::createOrUpgrade(cVideoinfo);
 }
 
-constexpr StoreColumn filedisplayinfoColumns[] = {
+constexpr StoreColumn cFiledisplayinfoColumns[] = {
     {"msgid", "VARCHAR(20) PRIMARY KEY"},
     {"displaystatus", "VARCHAR(256)"},
 };
-constexpr StoreTable filedisplayinfo{"filedisplayinfo", filedisplayinfoColumns};
+constexpr StoreTable cFiledisplayinfo{"filedisplayinfo", cFiledisplayinfoColumns};
 
 void DB::creatFileDisplayStatusInfo()
 {
-    StoreSchema::createOrUpgrade(filedisplayinfo);
+    StoreSchema::createOrUpgrade(cFiledisplayinfo);
 }
 
 // Urgent messages.
-constexpr StoreColumn dingmsginfoColumns[] = {
+constexpr StoreColumn cDingmsginfoColumns[] = {
     {"sessionId", "VARCHAR(100) primary key"},
     {"createrJid", "VARCHAR(100)"},
     {"createrNickName", "VARCHAR(100)"},
@@ -194,27 +194,27 @@ constexpr StoreColumn dingmsginfoColumns[] = {
     {"operatorIds", "TEXT", 2, "TEXT "},
     {"isAtMyFlag", "VARCHAR(10)", 3, "VARCHAR(10) "},
 };
-constexpr StoreIndex dingmsginfoIndexes[] = {
+constexpr StoreIndex cDingmsginfoIndexes[] = {
     {"_index1", "sessionId"},
     {"_index2", "time"},
 };
-constexpr StoreTable dingmsginfo{"dingmsginfo", dingmsginfoColumns, dingmsginfoIndexes};
+constexpr StoreTable cDingmsginfo{"dingmsginfo", cDingmsginfoColumns, cDingmsginfoIndexes};
 
-constexpr StoreColumn dingsmsgfileoinfoColumns[] = {
+constexpr StoreColumn cDingsmsgfileoinfoColumns[] = {
     {"fileId", "VARCHAR(100) primary key"},
     {"filePath", "VARCHAR(512)"},
 };
-constexpr StoreTable dingsmsgfileoinfo{"dingsmsgfileoinfo", dingsmsgfileoinfoColumns};
+constexpr StoreTable cDingsmsgfileoinfo{"dingsmsgfileoinfo", cDingsmsgfileoinfoColumns};
 
 // The files' table has no existence test of its own, deliberately: it comes with `dingmsginfo` or never.
 void DB::createDingMsgTable()
 {
-    if (!StoreSchema::exists(dingmsginfo)) {
-        StoreSchema::create(dingmsginfo);
-        StoreSchema::create(dingsmsgfileoinfo);
-        for (const StoreIndex &index : dingmsginfo.indexes) {
-            StoreSchema::createIndex(dingmsginfo, index);
+    if (!StoreSchema::exists(cDingmsginfo)) {
+        StoreSchema::create(cDingmsginfo);
+        StoreSchema::create(cDingsmsgfileoinfo);
+        for (const StoreIndex &index : cDingmsginfo.indexes) {
+            StoreSchema::createIndex(cDingmsginfo, index);
         }
     }
-    StoreSchema::addLaterColumns(dingmsginfo);
+    StoreSchema::addLaterColumns(cDingmsginfo);
 }

@@ -23,7 +23,7 @@ struct StoreIndex
 };
 
 /// The columns of the tables that hold one version for each account.
-inline constexpr StoreColumn versionColumns[] = {
+inline constexpr StoreColumn cVersionColumns[] = {
     {"myjid", "VARCHAR(20) PRIMARY KEY"},
     {"version", "VARCHAR(20)"},
 };

@@ -11,10 +11,10 @@
 namespace Wire {
 
 /// The local server's name.
-inline constexpr const char *kServerName = "VoipSDK";
+inline constexpr const char *cServerName = "VoipSDK";
 
 /// The line that ends the call process, without its line feed: the only one that is no JSON.
-inline constexpr const char *kQuitLine = "quit";
+inline constexpr const char *cQuitLine = "quit";
 
 /// The commands, in the order of the table. An enumerator is spelled as the wire spells it.
 enum class Command : int
@@ -33,7 +33,7 @@ struct CommandRow
 };
 
 /// Every command, at the place of its number.
-inline constexpr std::array kCommands{
+inline constexpr std::array cCommands{
 #define WIRE_COMMAND(name, parameters) CommandRow{Command::name, #name, parameters},
 #include "wire/Commands.def"
 #undef WIRE_COMMAND
@@ -42,7 +42,7 @@ inline constexpr std::array kCommands{
 /// The row of a command.
 constexpr const CommandRow &rowOf(Command command)
 {
-    return kCommands.at(static_cast<std::size_t>(command));
+    return cCommands.at(static_cast<std::size_t>(command));
 }
 
 /// The command's name as it goes over the wire.
@@ -60,7 +60,7 @@ constexpr int parameterCount(const CommandRow &row)
 /// The row of a name, null for one that no command has.
 constexpr const CommandRow *findCommand(std::string_view name)
 {
-    for (const CommandRow &row : kCommands) {
+    for (const CommandRow &row : cCommands) {
         if (name == row.name) {
             return &row;
         }
@@ -74,17 +74,17 @@ constexpr bool tellOfEveryCommand(const Rows &rows)
 {
     std::size_t place = 0;
     for (const auto &row : rows) {
-        if (place == kCommands.size() || row.command != kCommands.at(place++).command) {
+        if (place == cCommands.size() || row.command != cCommands.at(place++).command) {
             return false;
         }
     }
-    return place == kCommands.size();
+    return place == cCommands.size();
 }
 
 /// Whether each letter of the table is one of those that it may have, and no command has more than six.
 constexpr bool areParametersKnown()
 {
-    for (const CommandRow &row : kCommands) {
+    for (const CommandRow &row : cCommands) {
         if (std::string_view(row.parameters).find_first_not_of("sbia") != std::string_view::npos ||
             parameterCount(row) > 6) {
             return false;
@@ -95,10 +95,10 @@ constexpr bool areParametersKnown()
 static_assert(areParametersKnown(), "a command's parameters are letters of s, b, i and a, six at most");
 
 /// What ControlConf's param1 says.
-inline constexpr const char *kKick = "kick";
-inline constexpr const char *kMute = "mute";
-inline constexpr const char *kUnmute = "unmute";
+inline constexpr const char *cKick = "kick";
+inline constexpr const char *cMute = "mute";
+inline constexpr const char *cUnmute = "unmute";
 /// What ControlConf's param2 says instead of a user id.
-inline constexpr const char *kEverybody = "non_moderator";
+inline constexpr const char *cEverybody = "non_moderator";
 
 } // namespace Wire

@@ -37,7 +37,7 @@ struct NotificationRow
 };
 
 /// Every notification that a call process sends, in the order of their numbers.
-inline constexpr std::array kNotifications{
+inline constexpr std::array cNotifications{
 #define WIRE_NOTIFICATION(number, name, content) NotificationRow{Code::name, #name, Content::content},
 #define WIRE_OPEN_CODE(number) NotificationRow{static_cast<Code>(number), "", Content::Open},
 #include "wire/Notifications.def"
@@ -48,7 +48,7 @@ inline constexpr std::array kNotifications{
 /// The row of a number, null for one that no notification has.
 constexpr const NotificationRow *findNotification(int code)
 {
-    for (const NotificationRow &row : kNotifications) {
+    for (const NotificationRow &row : cNotifications) {
         if (static_cast<int>(row.code) == code) {
             return &row;
         }
@@ -60,20 +60,20 @@ constexpr const NotificationRow *findNotification(int code)
 template <class Rows>
 constexpr bool tellOfEveryNotification(const Rows &rows)
 {
-    auto expected = kNotifications.begin();
+    auto expected = cNotifications.begin();
     for (const auto &row : rows) {
-        while (expected != kNotifications.end() && expected->content == Content::Open) {
+        while (expected != cNotifications.end() && expected->content == Content::Open) {
             ++expected;
         }
-        if (expected == kNotifications.end() || row.code != expected->code) {
+        if (expected == cNotifications.end() || row.code != expected->code) {
             return false;
         }
         ++expected;
     }
-    while (expected != kNotifications.end() && expected->content == Content::Open) {
+    while (expected != cNotifications.end() && expected->content == Content::Open) {
         ++expected;
     }
-    return expected == kNotifications.end();
+    return expected == cNotifications.end();
 }
 
 } // namespace Wire

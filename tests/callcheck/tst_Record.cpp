@@ -20,17 +20,17 @@
 
 namespace {
 
-const char *const OPENING = "# Recorded by kelvarim-callcheck.\n"
-                            "ignore SetMicEnable SetSpeakerEnble SetCamreraEnable SetMicVolume SetSpeakerVolume\n"
-                            "timeout 0s\n"
-                            "await-client\n";
+const char *const cOpening = "# Recorded by kelvarim-callcheck.\n"
+                             "ignore SetMicEnable SetSpeakerEnble SetCamreraEnable SetMicVolume SetSpeakerVolume\n"
+                             "timeout 0s\n"
+                             "await-client\n";
 
 QByteArray registration()
 {
     return commandLine("RegeditUser", {"me", "Nick", "secret", false});
 }
 
-const QByteArray REGISTERED = "expect RegeditUser param1=me param4=false\n";
+const QByteArray cRegistered = "expect RegeditUser param1=me param4=false\n";
 
 /// The checker with a stand-in that plays a scenario, and the plug-in's end of the connection.
 class Recording
@@ -47,7 +47,7 @@ public:
     ~Recording()
     {
         process.kill();
-        process.waitForFinished(kPatienceMs);
+        process.waitForFinished(cPatienceMs);
     }
 
     QString played() const { return m_folder.filePath("played.scn"); }
@@ -68,7 +68,7 @@ public:
                 client->connectToServer("VoipSDK");
                 return client->waitForConnected(1000);
             },
-            kPatienceMs);
+            cPatienceMs);
     }
 
     void say(const QByteArray &bytes)
@@ -81,19 +81,19 @@ public:
     QByteArray hear()
     {
         if (client->bytesAvailable() == 0) {
-            client->waitForReadyRead(kPatienceMs);
+            client->waitForReadyRead(cPatienceMs);
         }
         return client->readAll();
     }
 
     bool waitDisconnected()
     {
-        return client->state() == QLocalSocket::UnconnectedState || client->waitForDisconnected(kPatienceMs);
+        return client->state() == QLocalSocket::UnconnectedState || client->waitForDisconnected(cPatienceMs);
     }
 
     int exitCode()
     {
-        const bool ended = process.state() == QProcess::NotRunning || process.waitForFinished(kPatienceMs);
+        const bool ended = process.state() == QProcess::NotRunning || process.waitForFinished(cPatienceMs);
         return ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     }
 
@@ -101,7 +101,7 @@ public:
     QByteArray recorded() const
     {
         const QByteArray text = readBytes(file());
-        return text.startsWith(OPENING) ? text.mid(static_cast<int>(qstrlen(OPENING))) : "no opening: " + text;
+        return text.startsWith(cOpening) ? text.mid(static_cast<int>(qstrlen(cOpening))) : "no opening: " + text;
     }
 
     /// The same without the pauses: a busy machine lengthens those of the call process and makes some of its own.
@@ -145,8 +145,8 @@ private slots:
         QCOMPARE(run.hear(), notificationLine(18, ""));
         run.say(commandLine("HangUpCall", {}) + "quit\n");
         QCOMPARE(run.exitCode(), 0);
-        QCOMPARE(run.steps(), REGISTERED + "send 17 true\nexpect CallUser param1=30010001 param2=false\n"
-                                           "send 18\nexpect HangUpCall\nexpect quit\n");
+        QCOMPARE(run.steps(), cRegistered + "send 17 true\nexpect CallUser param1=30010001 param2=false\n"
+                                            "send 18\nexpect HangUpCall\nexpect quit\n");
         // Half a second, and what a busy machine adds.
         const QRegularExpression waited("\nwait (?:[5-9]00ms|[1-9][0-9.]*s)\nsend 18\n");
         QVERIFY2(QString::fromUtf8(run.recorded()).contains(waited), run.recorded().constData());
@@ -220,7 +220,7 @@ private slots:
         QCOMPARE(run.hear(), notificationLine(8, ""));
         run.say(commandLine("HangUpCall", {}) + "quit\n");
         QCOMPARE(run.exitCode(), 0);
-        QCOMPARE(run.steps(), REGISTERED + "send 17 true\ndrop\nawait-client\n" + REGISTERED +
+        QCOMPARE(run.steps(), cRegistered + "send 17 true\ndrop\nawait-client\n" + cRegistered +
                                   "send 18\nawait-gone\nawait-client\nsend 8\nexpect HangUpCall\nexpect quit\n");
     }
 
@@ -232,10 +232,10 @@ private slots:
         QVERIFY(run.connectClient());
         run.say(registration());
         QCOMPARE(run.hear(), notificationLine(17, "true"));
-        QVERIFY(QTest::qWaitFor([&run] { return run.recorded().endsWith("stop-listen\n"); }, kPatienceMs));
+        QVERIFY(QTest::qWaitFor([&run] { return run.recorded().endsWith("stop-listen\n"); }, cPatienceMs));
         QLocalSocket refused;
         refused.connectToServer("VoipSDK");
-        QVERIFY2(!refused.waitForConnected(kPatienceMs), "the plug-in meets a server where the call process has none");
+        QVERIFY2(!refused.waitForConnected(cPatienceMs), "the plug-in meets a server where the call process has none");
         run.say(commandLine("HangUpCall", {}));
         QVERIFY(run.waitDisconnected());
         QVERIFY(run.connectClient());
@@ -243,8 +243,8 @@ private slots:
         QCOMPARE(run.hear(), notificationLine(18, ""));
         run.say("quit\n");
         QCOMPARE(run.exitCode(), 0);
-        QCOMPARE(run.steps(), REGISTERED + "send 17 true\nstop-listen\nexpect HangUpCall\ndrop\nrestart-listen\n" +
-                                  "await-client\n" + REGISTERED + "send 18\nexpect quit\n");
+        QCOMPARE(run.steps(), cRegistered + "send 17 true\nstop-listen\nexpect HangUpCall\ndrop\nrestart-listen\n" +
+                                  "await-client\n" + cRegistered + "send 18\nexpect quit\n");
     }
 
     void deathIsRecordedAndMirrored()
@@ -256,7 +256,7 @@ private slots:
         QCOMPARE(run.hear(), notificationLine(17, "true"));
         QVERIFY(run.waitDisconnected());
         QCOMPARE(run.exitCode(), 9);
-        QCOMPARE(run.steps(), REGISTERED + "send 17 true\ndie\n# The call process ended with code 9.\n");
+        QCOMPARE(run.steps(), cRegistered + "send 17 true\ndie\n# The call process ended with code 9.\n");
         QVERIFY2(QFile::exists(QDir(QDir::tempPath()).filePath("VoipSDK")), "a killed process leaves its socket file");
         QCOMPARE(QDir(QDir::tempPath()).entryList({"callcheck-*"}, QDir::Dirs), QStringList());
     }
@@ -268,7 +268,7 @@ private slots:
         QVERIFY(run.connectClient());
         run.say(registration());
         QCOMPARE(run.exitCode(), 0);
-        QCOMPARE(run.steps(), REGISTERED + "send 17 true\nend\n");
+        QCOMPARE(run.steps(), cRegistered + "send 17 true\nend\n");
         QVERIFY(!QFile::exists(QDir(QDir::tempPath()).filePath("VoipSDK")));
     }
 
@@ -292,7 +292,7 @@ private slots:
         QVERIFY(!QFile::exists(second.file()));
         first.say(registration() + "quit\n");
         QCOMPARE(first.exitCode(), 0);
-        QCOMPARE(first.steps(), REGISTERED + "expect quit\n");
+        QCOMPARE(first.steps(), cRegistered + "expect quit\n");
     }
 
     void stoppingTheRecorderIsNoDeath()
@@ -305,7 +305,7 @@ private slots:
         run.process.terminate();
         QCOMPARE(run.exitCode(), 0);
         QVERIFY(run.waitDisconnected());
-        QCOMPARE(run.steps(), REGISTERED + "send 17 true\n# The recording was stopped.\n");
+        QCOMPARE(run.steps(), cRegistered + "send 17 true\n# The recording was stopped.\n");
     }
 
     void callProcessGoesWithAKilledRecorder()
@@ -322,13 +322,13 @@ private slots:
         const auto id = static_cast<pid_t>(text.mid(at, text.indexOf('\n', at) - at).toInt());
         QVERIFY(id > 0 && ::kill(id, 0) == 0);
         run.process.kill();
-        run.process.waitForFinished(kPatienceMs);
+        run.process.waitForFinished(cPatienceMs);
         QTRY_VERIFY_WITH_TIMEOUT(
             [id] {
                 QFile status(QStringLiteral("/proc/%1/stat").arg(id));
                 return !status.open(QIODevice::ReadOnly) || status.readAll().contains(") Z ");
             }(),
-            kPatienceMs);
+            cPatienceMs);
     }
 
     void inThePlaceOfACallProcessItTakesNoArguments()
@@ -349,7 +349,7 @@ private slots:
         QCOMPARE(run.hear(), notificationLine(17, "true"));
         run.say("quit\n");
         QCOMPARE(run.exitCode(), 0);
-        QCOMPARE(run.steps(), REGISTERED + "send 17 true\nexpect quit\n");
+        QCOMPARE(run.steps(), cRegistered + "send 17 true\nexpect quit\n");
     }
 
     void callProcessThatCannotBeStartedLeavesNoFile()

@@ -25,7 +25,7 @@ Outcome check(const QStringList &arguments)
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QStringLiteral(CALLCHECK_PROGRAM), arguments);
     // The test's own event loop may play the call process meanwhile.
-    const bool ended = QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, kPatienceMs);
+    const bool ended = QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, cPatienceMs);
     return {ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             QString::fromUtf8(process.readAll())};
 }
@@ -40,10 +40,10 @@ QString scenarioFile(const QByteArray &text)
 }
 
 /// How long the checker waits for each step, in seconds: for what comes, and for what never does.
-constexpr int kPatient = kPatienceMs / 1000;
-constexpr int kImpatient = 5;
+constexpr int cPatient = cPatienceMs / 1000;
+constexpr int cImpatient = 5;
 
-Outcome replayAgainst(const QByteArray &scenario, const QStringList &callProcess, int iSeconds = kPatient)
+Outcome replayAgainst(const QByteArray &scenario, const QStringList &callProcess, int iSeconds = cPatient)
 {
     return check(QStringList{"replay", "--patience", QString::number(iSeconds), scenarioFile(scenario), "--"} +
                  callProcess);
@@ -69,8 +69,8 @@ QString readyScenario(const QString &name)
     return QStringLiteral(VOIPSDK_SCENARIOS "/") + name;
 }
 
-const QByteArray ANSWERED = "await RegeditUser\nsend 17 true\nsend 999\nexpect CallUser param1=30010001 param2=false\n"
-                            "wait 1.5s\nsend 18\nexpect HangUpCall\nexpect quit\n";
+const QByteArray cAnswered = "await RegeditUser\nsend 17 true\nsend 999\nexpect CallUser param1=30010001 param2=false\n"
+                             "wait 1.5s\nsend 18\nexpect HangUpCall\nexpect quit\n";
 
 } // namespace
 
@@ -98,7 +98,7 @@ private slots:
 
     void robotsDoAsWasRecorded()
     {
-        const Outcome outcome = replayAgainst(ANSWERED, standIn());
+        const Outcome outcome = replayAgainst(cAnswered, standIn());
         QCOMPARE(outcome.said, QString("as recorded: 3 commands, 2 notifications\n"));
         QCOMPARE(outcome.exitCode, 0);
     }
@@ -110,25 +110,25 @@ private slots:
         QTest::addColumn<QString>("told");
         QTest::addColumn<int>("seconds");
         QTest::newRow("code") << QByteArray("send 22") << QByteArray("send 18")
-                              << QString("run.scn:6: expected 22 (PeerBusy), got 18 (CallConnected)") << kPatient;
+                              << QString("run.scn:6: expected 22 (PeerBusy), got 18 (CallConnected)") << cPatient;
         QTest::newRow("content") << QByteArray("17 false") << QByteArray("17 true")
                                  << QString("run.scn:2: expected 17 (SdkFlag) false, got 17 (SdkFlag) true")
-                                 << kPatient;
+                                 << cPatient;
         QTest::newRow("called user") << QByteArray("param1=30010002") << QByteArray("param1=30010001")
                                      << QString("run.scn:6: expected 18 (CallConnected), got 22 (PeerBusy)")
-                                     << kPatient;
+                                     << cPatient;
         QTest::newRow("one more") << QByteArray("send 18\nsend 8") << QByteArray("send 18")
                                   << QString("run.scn:7: expected 8 (PeerHangup), got nothing for 5000 ms")
-                                  << kImpatient;
+                                  << cImpatient;
         QTest::newRow("drop") << QByteArray("drop") << QByteArray("send 18")
-                              << QString("run.scn:6: the connection is not closed") << kImpatient;
+                              << QString("run.scn:6: the connection is not closed") << cImpatient;
         QTest::newRow("death") << QByteArray("die") << QByteArray("send 18")
-                               << QString("run.scn:6: expected the call process to die, it lives") << kImpatient;
+                               << QString("run.scn:6: expected the call process to die, it lives") << cImpatient;
         QTest::newRow("end") << QByteArray("end") << QByteArray("send 18")
                              << QString("run.scn:6: expected the call process to end by itself, it lives")
-                             << kImpatient;
+                             << cImpatient;
         QTest::newRow("server") << QByteArray("stop-listen") << QByteArray("send 18")
-                                << QString("run.scn:6: the call process still listens") << kImpatient;
+                                << QString("run.scn:6: the call process still listens") << cImpatient;
     }
 
     void whatIsNotAsRecordedIsTold()
@@ -137,7 +137,7 @@ private slots:
         QFETCH(QByteArray, of);
         QFETCH(QString, told);
         QFETCH(int, seconds);
-        const Outcome outcome = replayAgainst(QByteArray(ANSWERED).replace(of, instead), standIn(), seconds);
+        const Outcome outcome = replayAgainst(QByteArray(cAnswered).replace(of, instead), standIn(), seconds);
         QCOMPARE(outcome.exitCode, 3);
         QVERIFY2(outcome.said.contains(told), qPrintable(outcome.said));
     }
@@ -255,13 +255,13 @@ private slots:
     void callProcessThatNeverListensIsTold()
     {
         const Outcome silent =
-            check({"replay", "--patience", "0.1", scenarioFile(ANSWERED), "--", "/bin/sleep", "100"});
+            check({"replay", "--patience", "0.1", scenarioFile(cAnswered), "--", "/bin/sleep", "100"});
         QCOMPARE(silent.exitCode, 1);
         QVERIFY2(silent.said.contains("does not listen"), qPrintable(silent.said));
-        const Outcome ended = replayAgainst(ANSWERED, {"/bin/false"});
+        const Outcome ended = replayAgainst(cAnswered, {"/bin/false"});
         QCOMPARE(ended.exitCode, 1);
         QVERIFY2(ended.said.contains("ended with code 1 before it listened"), qPrintable(ended.said));
-        QCOMPARE(replayAgainst(ANSWERED, {"/nothing/here"}).exitCode, 1);
+        QCOMPARE(replayAgainst(cAnswered, {"/nothing/here"}).exitCode, 1);
     }
 
     void badScenarioIsRefused()
@@ -275,10 +275,10 @@ private slots:
     {
         QProcess running;
         running.start(QStringLiteral(VOIPSDK_PROGRAM), {"--socket-name", "running", "--speed", "100"});
-        QVERIFY(running.waitForStarted(kPatienceMs));
-        const Outcome outcome = check({"replay", "--attach", "running", scenarioFile(ANSWERED)});
+        QVERIFY(running.waitForStarted(cPatienceMs));
+        const Outcome outcome = check({"replay", "--attach", "running", scenarioFile(cAnswered)});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.said));
-        QVERIFY(running.state() == QProcess::NotRunning || running.waitForFinished(kPatienceMs));
+        QVERIFY(running.state() == QProcess::NotRunning || running.waitForFinished(cPatienceMs));
         QCOMPARE(running.exitCode(), 0);
     }
 };

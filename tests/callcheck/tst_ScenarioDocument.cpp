@@ -55,7 +55,7 @@ private slots:
     void everyStatementHasItsRow()
     {
         const QStringList cells = firstCells();
-        for (const StatementRow &row : STATEMENTS) {
+        for (const StatementRow &row : cStatements) {
             const QRegularExpression begin(QStringLiteral("`%1[ `]").arg(QLatin1String(row.word)));
             QVERIFY2(!cells.filter(begin).isEmpty(), row.word);
         }

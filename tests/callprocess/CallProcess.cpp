@@ -16,14 +16,14 @@ CallProcess::~CallProcess()
 {
     if (m_process.state() != QProcess::NotRunning) {
         m_process.kill();
-        m_process.waitForFinished(kPatienceMs);
+        m_process.waitForFinished(cPatienceMs);
     }
 }
 
 void CallProcess::start(const QStringList &options)
 {
     m_process.start(QStringLiteral(VOIPSDK_PROGRAM), QStringList{QStringLiteral("--trace"), m_tracePath} + options);
-    m_process.waitForStarted(kPatienceMs);
+    m_process.waitForStarted(cPatienceMs);
 }
 
 void CallProcess::startScenario(const QByteArray &text, const QStringList &options)
@@ -40,10 +40,10 @@ bool CallProcess::connectClient()
 {
     m_input.clear();
     m_client = std::make_unique<QLocalSocket>();
-    const QDeadlineTimer deadline(WAIT_MS);
+    const QDeadlineTimer deadline(cWaitMs);
     while (!deadline.hasExpired() && m_process.state() != QProcess::NotRunning) {
         m_client->connectToServer(QStringLiteral("VoipSDK"));
-        if (m_client->waitForConnected(WAIT_MS)) {
+        if (m_client->waitForConnected(cWaitMs)) {
             return true;
         }
         QTest::qWait(2);
@@ -64,7 +64,7 @@ bool CallProcess::startRegistered(const QStringList &options)
 void CallProcess::write(const QByteArray &bytes)
 {
     m_client->write(bytes);
-    while (m_client->bytesToWrite() > 0 && m_client->waitForBytesWritten(WAIT_MS)) {
+    while (m_client->bytesToWrite() > 0 && m_client->waitForBytesWritten(cWaitMs)) {
     }
 }
 
@@ -85,7 +85,7 @@ void CallProcess::command(const QString &name, const QJsonArray &parameters)
 QByteArray CallProcess::nextRead()
 {
     if (m_client->bytesAvailable() == 0) {
-        m_client->waitForReadyRead(WAIT_MS);
+        m_client->waitForReadyRead(cWaitMs);
     }
     return m_client->readAll();
 }
@@ -108,12 +108,12 @@ QString CallProcess::nextNotification()
 
 bool CallProcess::waitDisconnected()
 {
-    return m_client->state() == QLocalSocket::UnconnectedState || m_client->waitForDisconnected(WAIT_MS);
+    return m_client->state() == QLocalSocket::UnconnectedState || m_client->waitForDisconnected(cWaitMs);
 }
 
 int CallProcess::exitCode()
 {
-    const bool ended = m_process.state() == QProcess::NotRunning || m_process.waitForFinished(WAIT_MS);
+    const bool ended = m_process.state() == QProcess::NotRunning || m_process.waitForFinished(cWaitMs);
     return ended && m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
 }
 
@@ -132,7 +132,7 @@ QStringList CallProcess::trace() const
 
 bool CallProcess::waitTrace(const QString &text) const
 {
-    return QTest::qWaitFor([&] { return !trace().filter(text).isEmpty(); }, WAIT_MS);
+    return QTest::qWaitFor([&] { return !trace().filter(text).isEmpty(); }, cWaitMs);
 }
 
 QString CallProcess::socketPath()

@@ -1,7 +1,7 @@
 #pragma once
 
 // A running call process with a client at its socket, for tests: the child is the real executable, the socket the real
-// one under the test's temporary directory. Main thread; everything is bounded by `WAIT_MS`.
+// one under the test's temporary directory. Main thread; everything is bounded by `cWaitMs`.
 
 #include "fakes/Patience.h"
 
@@ -17,7 +17,7 @@
 class CallProcess
 {
 public:
-    static constexpr int WAIT_MS = kPatienceMs;
+    static constexpr int cWaitMs = cPatienceMs;
 
     CallProcess();
     /// Kills the child when it still runs.

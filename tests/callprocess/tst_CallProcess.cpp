@@ -57,7 +57,7 @@ private slots:
         killed.start();
         QVERIFY(killed.connectClient());
         killed.process().kill();
-        QVERIFY(killed.process().waitForFinished(kPatienceMs));
+        QVERIFY(killed.process().waitForFinished(cPatienceMs));
         QVERIFY(QFile::exists(CallProcess::socketPath()));
 
         CallProcess peer;
@@ -101,7 +101,7 @@ private slots:
         killed.start();
         QVERIFY(killed.connectClient());
         killed.process().kill();
-        QVERIFY(killed.process().waitForFinished(kPatienceMs));
+        QVERIFY(killed.process().waitForFinished(cPatienceMs));
 
         std::array<CallProcess, 6> peers;
         for (CallProcess &peer : peers) {
@@ -111,7 +111,7 @@ private slots:
             return std::count_if(peers.begin(), peers.end(),
                                  [](CallProcess &peer) { return peer.process().state() != QProcess::NotRunning; });
         };
-        QTRY_COMPARE_WITH_TIMEOUT(living(), 1, CallProcess::WAIT_MS);
+        QTRY_COMPARE_WITH_TIMEOUT(living(), 1, CallProcess::cWaitMs);
         const auto listening = std::count_if(peers.begin(), peers.end(), [](CallProcess &peer) {
             return !peer.trace().filter(QStringLiteral("= listening")).isEmpty();
         });
@@ -164,10 +164,10 @@ private slots:
         QVERIFY(peer.startRegistered());
         QLocalSocket newcomer;
         newcomer.connectToServer(QStringLiteral("VoipSDK"));
-        QVERIFY(newcomer.waitForConnected(kPatienceMs));
+        QVERIFY(newcomer.waitForConnected(cPatienceMs));
         QVERIFY(peer.waitDisconnected());
         newcomer.write("{\"messagetype\":\"CallUser\",\"param1\":\"30010002\",\"param2\":false}\n");
-        QVERIFY(newcomer.waitForReadyRead(CallProcess::WAIT_MS));
+        QVERIFY(newcomer.waitForReadyRead(CallProcess::cWaitMs));
         QVERIFY(newcomer.readAll().contains("\"resultCode\":22"));
     }
 
@@ -242,7 +242,7 @@ private slots:
         QVERIFY(other.waitTrace(QStringLiteral("= listening at %1").arg(QDir::tempPath() + QStringLiteral("/Other"))));
         QLocalSocket client;
         client.connectToServer(QStringLiteral("Other"));
-        QVERIFY(client.waitForConnected(kPatienceMs));
+        QVERIFY(client.waitForConnected(cPatienceMs));
     }
 
     void helpIsPrinted()

@@ -319,7 +319,7 @@ private slots:
                 return trace.filter(QStringLiteral("= nobody to mute: ")).size() +
                        trace.filter(QStringLiteral("= muted now: ")).size();
             };
-            QVERIFY(QTest::qWaitFor([&] { return told() == tries; }, CallProcess::WAIT_MS));
+            QVERIFY(QTest::qWaitFor([&] { return told() == tries; }, CallProcess::cWaitMs));
         } while (peer.trace().filter(QStringLiteral("= muted now: [30010009]")).isEmpty());
         QVERIFY(waitForMember(peer, "13", "30010009"));
         QVERIFY(waitForMember(peer, "12", "30010009"));

@@ -26,7 +26,7 @@ private slots:
     {
         QSet<QString> words;
         QSet<int> kinds;
-        for (const StatementRow &row : STATEMENTS) {
+        for (const StatementRow &row : cStatements) {
             words.insert(QString::fromLatin1(row.word));
             kinds.insert(static_cast<int>(row.kind));
         }
@@ -51,7 +51,7 @@ private slots:
         const QVector<Statement> &list = scenario.statements;
         QCOMPARE(list.size(), 18);
         for (int i = 0; i < list.size(); ++i) {
-            QCOMPARE(static_cast<int>(list.at(i).kind), static_cast<int>(STATEMENTS.at(static_cast<size_t>(i)).kind));
+            QCOMPARE(static_cast<int>(list.at(i).kind), static_cast<int>(cStatements.at(static_cast<size_t>(i)).kind));
         }
         QCOMPARE(list.at(0).expectation(), QStringLiteral("CallUser param1=30010001 param2=\"true\""));
         QCOMPARE(list.at(1).commands, QStringList{QStringLiteral("UnReg")});
@@ -124,7 +124,7 @@ private slots:
                                            "restart-listen",
                                            "die",
                                            "end"};
-        QCOMPARE(statements.size() + 2, static_cast<int>(STATEMENTS.size()));
+        QCOMPARE(statements.size() + 2, static_cast<int>(cStatements.size()));
         for (const QByteArray &statement : statements) {
             QTest::newRow(statement.split(' ').constFirst().constData()) << statement;
         }

@@ -217,11 +217,11 @@ private slots:
         QVERIFY(!QFile::exists(CallProcess::socketPath()));
         QLocalSocket other;
         other.connectToServer(QStringLiteral("VoipSDK"));
-        QVERIFY(!other.waitForConnected(kPatienceMs));
+        QVERIFY(!other.waitForConnected(cPatienceMs));
         peer.command(QStringLiteral("HangUpCall"));
         QCOMPARE(peer.nextNotification(), QStringLiteral("8"));
         other.connectToServer(QStringLiteral("VoipSDK"));
-        QVERIFY(other.waitForConnected(kPatienceMs));
+        QVERIFY(other.waitForConnected(cPatienceMs));
     }
 
     void playedScenarioServesOnUntilQuit()

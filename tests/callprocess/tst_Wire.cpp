@@ -13,7 +13,7 @@ private slots:
     void catalogueHasSeventeenCommands()
     {
         QSet<QString> names;
-        for (const Wire::CommandRow &row : Wire::kCommands) {
+        for (const Wire::CommandRow &row : Wire::cCommands) {
             names.insert(QString::fromLatin1(row.name));
             QVERIFY(QString::fromLatin1(row.parameters).contains(QRegularExpression(QStringLiteral("^[sbia]{0,6}$"))));
         }
@@ -26,18 +26,18 @@ private slots:
     void catalogueHasTwentySevenNotifications()
     {
         for (int code = 0; code <= 25; ++code) {
-            QCOMPARE(static_cast<int>(Wire::kNotifications.at(static_cast<size_t>(code)).code), code);
+            QCOMPARE(static_cast<int>(Wire::cNotifications.at(static_cast<size_t>(code)).code), code);
             QVERIFY(Wire::findNotification(code) != nullptr);
         }
         QVERIFY(Wire::findNotification(999) != nullptr);
         QVERIFY(Wire::findNotification(26) == nullptr && Wire::findNotification(-1) == nullptr);
-        QCOMPARE(Wire::kNotifications.size(), 27U);
+        QCOMPARE(Wire::cNotifications.size(), 27U);
     }
 
     void robotIdsArePlainUserIds()
     {
         QSet<QString> ids;
-        for (const Robot &robot : ROBOTS) {
+        for (const Robot &robot : cRobots) {
             const QString id = QString::fromLatin1(robot.id);
             QVERIFY(id.contains(QRegularExpression(QStringLiteral("^300100(0[1-9]|10)$"))));
             QCOMPARE(findRobot(id), &robot);

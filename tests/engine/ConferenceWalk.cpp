@@ -211,7 +211,7 @@ void ConferenceWalk::loseChannel()
 {
     if (engine.manager->m_bSocketConnected) {
         engine.process.dropClient();
-        QTRY_VERIFY_WITH_TIMEOUT(!engine.manager->m_bSocketConnected, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!engine.manager->m_bSocketConnected, cPatienceMs);
         // The reconnection comes when the walk says so.
         engine.manager->m_reconnectTimer.stop();
     } else {

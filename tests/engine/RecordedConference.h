@@ -7,7 +7,7 @@
 #include <ctime>
 
 /// 2023-11-14 22:13:20 UTC.
-inline const QString kCreateTime(R"("createTime":1700000000000)");
+inline const QString cCreateTime(R"("createTime":1700000000000)");
 
 /// Takes the process eight hours east of Greenwich: the creation time is stored in local time.
 inline void enterZoneOfRecords()
@@ -20,14 +20,14 @@ inline void enterZoneOfRecords()
 inline void createConference(RecordedEngine &f)
 {
     f.createConference();
-    f.notify(12, R"({"content":{"confId":"c1","conventioneer":["me","anna","carl"],)" + kCreateTime + "}}");
+    f.notify(12, R"({"content":{"confId":"c1","conventioneer":["me","anna","carl"],)" + cCreateTime + "}}");
 }
 
 /// Anna has invited this side to c1, where bert is too; it has accepted.
 inline void joinConference(RecordedEngine &f)
 {
     f.manager->m_strUserId = "me";
-    f.notify(2, R"({"content":{"confId":"c1","from":"anna",)" + kCreateTime + "}}");
+    f.notify(2, R"({"content":{"confId":"c1","from":"anna",)" + cCreateTime + "}}");
     f.notify(12, R"({"content":{"confId":"c1","conventioneer":["anna","me","bert"]}})");
     f.manager->responseVoipRequest(true);
 }

@@ -15,7 +15,7 @@ Q_DECLARE_METATYPE(Step)
 
 namespace {
 
-const QStringList kWindowCloses{"SetMicEnable true", "SetSpeakerEnble true"};
+const QStringList cWindowCloses{"SetMicEnable true", "SetSpeakerEnble true"};
 
 } // namespace
 
@@ -68,21 +68,21 @@ private slots:
                 f.manager->hangupVoipCall();
             },
             QStringList{"CallUser \"anna\" false", "HangUpCall", annasPrompt, "4478 false anna 21 true false"} +
-                kWindowCloses);
+                cWindowCloses);
         add(
             "21: a refusal by nobody, before the own id is known",
             [](EngineFixture &f) {
                 f.manager->callSingleUser("anna", false);
                 f.notify(5, "");
             },
-            QStringList{"CallUser \"anna\" false", annasPrompt, "4478 false anna 21 true false"} + kWindowCloses);
+            QStringList{"CallUser \"anna\" false", annasPrompt, "4478 false anna 21 true false"} + cWindowCloses);
         add(
             "22: the call failed",
             [](EngineFixture &f) {
                 f.manager->callSingleUser("anna", true);
                 f.notify(19);
             },
-            QStringList{"CallUser \"anna\" true", annasPrompt, "4478 true anna 22 true false"} + kWindowCloses);
+            QStringList{"CallUser \"anna\" true", annasPrompt, "4478 true anna 22 true false"} + cWindowCloses);
         add(
             "24: hanging up a connected call",
             [](EngineFixture &f) {
@@ -91,14 +91,14 @@ private slots:
                 f.manager->hangupVoipCall();
             },
             QStringList{"CallUser \"anna\" true", "HangUpCall", annasPrompt, "4478 true anna 24 true true"} +
-                kWindowCloses);
+                cWindowCloses);
         add(
             "25: busy",
             [](EngineFixture &f) {
                 f.manager->callSingleUser("anna", false);
                 f.notify(22);
             },
-            QStringList{"CallUser \"anna\" false", annasPrompt, "4478 false anna 25 true false"} + kWindowCloses);
+            QStringList{"CallUser \"anna\" false", annasPrompt, "4478 false anna 25 true false"} + cWindowCloses);
         add(
             "26: rejecting an incoming call",
             [](EngineFixture &f) {
@@ -106,7 +106,7 @@ private slots:
                 f.manager->responseVoipRequest(false);
             },
             QStringList{"4639 bert false false", "RejectCall", bertsPrompt, "4478 false bert 26 false false"} +
-                kWindowCloses);
+                cWindowCloses);
         add(
             "26: hanging up an incoming call",
             [](EngineFixture &f) {
@@ -114,7 +114,7 @@ private slots:
                 f.manager->hangupVoipCall();
             },
             QStringList{"4639 bert false false", "RejectCall", bertsPrompt, "4478 false bert 26 false false"} +
-                kWindowCloses);
+                cWindowCloses);
         add(
             "26: hanging up an accepted call that never connected",
             [](EngineFixture &f) {
@@ -124,7 +124,7 @@ private slots:
             },
             QStringList{"4639 bert false false", "AcceptCall", "RejectCall", bertsPrompt,
                         "4478 false bert 26 false false"} +
-                kWindowCloses);
+                cWindowCloses);
         add(
             "24: the far end hangs up an accepted call",
             [](EngineFixture &f) {
@@ -134,7 +134,7 @@ private slots:
                 f.notify(8);
             },
             QStringList{"4639 bert false false", "AcceptCall", bertsPrompt, "4478 false bert 24 false true"} +
-                kWindowCloses);
+                cWindowCloses);
     }
 
     void everyEndHasItsResult()
@@ -209,7 +209,7 @@ private slots:
         EngineFixture f;
         f.manager->m_callData.memberList = QStringList{"anna"};
         f.manager->callFinished(CallData::FinishHangup);
-        QCOMPARE(f.takeJournal(), kWindowCloses);
+        QCOMPARE(f.takeJournal(), cWindowCloses);
         QVERIFY(!f.manager->isExistCall());
     }
 
@@ -230,7 +230,7 @@ private slots:
         f.takeJournal();
         f.notify(4);
         QCOMPARE(f.takeJournal(),
-                 QStringList({"4345 bert@kelvar.im", "4478 false bert 21 false false"}) + kWindowCloses);
+                 QStringList({"4345 bert@kelvar.im", "4478 false bert 21 false false"}) + cWindowCloses);
     }
 
     void userClosingTheWindowSendsThePairBeforeTheHangUp()
@@ -241,7 +241,7 @@ private slots:
         f.takeJournal();
         f.manager->m_pVoipWidget->close();
         QCOMPARE(f.takeJournal(),
-                 kWindowCloses + QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 24 true true"}));
+                 cWindowCloses + QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 24 true true"}));
         QVERIFY(!f.manager->m_pVoipWidget->isVisible());
         QCOMPARE(f.state(), QString("idle"));
     }
@@ -254,7 +254,7 @@ private slots:
         f.takeJournal();
         emit f.manager->m_pVoipWidget->findChild<PushButtonEx *>("HangUp")->clicked();
         QCOMPARE(f.takeJournal(),
-                 QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 24 true true"}) + kWindowCloses);
+                 QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 24 true true"}) + cWindowCloses);
     }
 
     void cancelSendsThePairTwice()
@@ -264,7 +264,7 @@ private slots:
         f.takeJournal();
         emit f.manager->m_pVoipWidget->findChild<PushButtonEx *>("btnCancelCall")->clicked();
         QCOMPARE(f.takeJournal(), QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 21 true false"}) +
-                                      kWindowCloses + kWindowCloses);
+                                      cWindowCloses + cWindowCloses);
     }
 
     void inviteTimeoutEndsTheCall()
@@ -274,12 +274,12 @@ private slots:
         QVERIFY(f.manager->m_pVoipWidget->isVisible());
         // The timer itself, not its slot.
         f.manager->m_inviteTimer.start(0);
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), cPatienceMs);
         QVERIFY(!f.manager->m_inviteTimer.isActive());
         QVERIFY(!f.manager->m_pVoipWidget->isVisible());
         f.notify(0, "bert");
         f.manager->m_recevieTimer.start(0);
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), cPatienceMs);
         QVERIFY(!f.manager->m_recevieTimer.isActive());
     }
 

@@ -21,7 +21,7 @@ private slots:
     {
         const QtMessages messages;
         EngineFixture f(EngineFixture::NoCallProcess);
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists("started"), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists("started"), cPatienceMs);
         QFile started("started");
         QVERIFY(started.open(QIODevice::ReadOnly));
         QCOMPARE(QString::fromUtf8(started.readAll()), "0 " + QDir::currentPath() + "\n");

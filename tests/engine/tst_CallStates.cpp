@@ -38,13 +38,13 @@ QStringList ended(const QString &peer, int result, bool caller, bool connected)
             "SetMicEnable true", "SetSpeakerEnble true"};
 }
 
-const QString kIdle = QStringLiteral("idle");
-const QString kOutgoing = QStringLiteral("outgoing anna, invite");
-const QString kIncoming = QStringLiteral("incoming bert, receive, ring");
-const QString kConnected = QStringLiteral("connected anna");
-const QString kNewPrompt = QStringLiteral("4639 carl false false");
-const QString kInvitation = QStringLiteral(R"({"content":{"from":"anna","confId":"c1"}})");
-const QString kIncomingCarl = QStringLiteral("incoming carl, receive, ring");
+const QString cIdle = QStringLiteral("idle");
+const QString cOutgoing = QStringLiteral("outgoing anna, invite");
+const QString cIncoming = QStringLiteral("incoming bert, receive, ring");
+const QString cConnected = QStringLiteral("connected anna");
+const QString cNewPrompt = QStringLiteral("4639 carl false false");
+const QString cInvitation = QStringLiteral(R"({"content":{"from":"anna","confId":"c1"}})");
+const QString cIncomingCarl = QStringLiteral("incoming carl, receive, ring");
 
 } // namespace
 
@@ -63,38 +63,38 @@ private slots:
         const QStringList nothing;
         // The row of an event that ends every call with the same result.
         const auto addEnd = [&](const char *name, const Event &event, int result, int resultConnected) {
-            addRow(name, event, {nothing, kIdle}, {ended("anna", result, true, false), kIdle},
-                   {ended("bert", result, false, false), kIdle}, {ended("anna", resultConnected, true, true), kIdle});
+            addRow(name, event, {nothing, cIdle}, {ended("anna", result, true, false), cIdle},
+                   {ended("bert", result, false, false), cIdle}, {ended("anna", resultConnected, true, true), cIdle});
         };
         const auto addReject = [&](const char *name, const Event &event) {
             const QStringList line{"RejectCall"};
-            addRow(name, event, {line, kIdle}, {line + ended("anna", 26, true, false), kIdle},
-                   {line + ended("bert", 26, false, false), kIdle}, {line + ended("anna", 26, true, true), kIdle});
+            addRow(name, event, {line, cIdle}, {line + ended("anna", 26, true, false), cIdle},
+                   {line + ended("bert", 26, false, false), cIdle}, {line + ended("anna", 26, true, true), cIdle});
         };
         const auto addHangUp = [&](const char *name, const Event &event, const QStringList &behind) {
-            addRow(name, event, {behind, kIdle},
-                   {QStringList("HangUpCall") + ended("anna", 21, true, false) + behind, kIdle},
-                   {QStringList("RejectCall") + ended("bert", 26, false, false) + behind, kIdle},
-                   {QStringList("HangUpCall") + ended("anna", 24, true, true) + behind, kIdle});
+            addRow(name, event, {behind, cIdle},
+                   {QStringList("HangUpCall") + ended("anna", 21, true, false) + behind, cIdle},
+                   {QStringList("RejectCall") + ended("bert", 26, false, false) + behind, cIdle},
+                   {QStringList("HangUpCall") + ended("anna", 24, true, true) + behind, cIdle});
         };
 
         addRow("host command to call", [](EngineFixture &f) { f.manager->callSingleUser("carl", false); },
-               {{"CallUser \"carl\" false"}, "outgoing carl, invite"}, {nothing, kOutgoing}, {nothing, kIncoming},
-               {nothing, kConnected});
+               {{"CallUser \"carl\" false"}, "outgoing carl, invite"}, {nothing, cOutgoing}, {nothing, cIncoming},
+               {nothing, cConnected});
         for (const int number : {0, 1}) {
-            addRow(number == 0 ? "code 0" : "code 1", code(number, "carl"), {{kNewPrompt}, kIncomingCarl},
-                   {{kNewPrompt}, "incoming carl, invite, receive, ring"}, {{kNewPrompt}, kIncomingCarl},
-                   {{kNewPrompt}, "connected carl, receive, ring"});
+            addRow(number == 0 ? "code 0" : "code 1", code(number, "carl"), {{cNewPrompt}, cIncomingCarl},
+                   {{cNewPrompt}, "incoming carl, invite, receive, ring"}, {{cNewPrompt}, cIncomingCarl},
+                   {{cNewPrompt}, "connected carl, receive, ring"});
         }
-        addRow("code 18", code(18), {nothing, kIdle}, {nothing, kConnected}, {nothing, "connected bert, ring"},
-               {nothing, kConnected});
+        addRow("code 18", code(18), {nothing, cIdle}, {nothing, cConnected}, {nothing, "connected bert, ring"},
+               {nothing, cConnected});
         addHangUp(
             "the user's hang-up", [](EngineFixture &f) { f.manager->slot_HangupCurrentCall(); }, nothing);
         addHangUp("the host's loss of its login", [](EngineFixture &f) { f.manager->clientConnectStatus(false); },
                   {"UnReg \"\""});
         addRow("the host's accept", [](EngineFixture &f) { f.manager->responseVoipRequest(true); },
-               {{"AcceptCall"}, kIdle}, {{"AcceptCall"}, kOutgoing}, {{"AcceptCall"}, "incoming bert, receive"},
-               {{"AcceptCall"}, kConnected});
+               {{"AcceptCall"}, cIdle}, {{"AcceptCall"}, cOutgoing}, {{"AcceptCall"}, "incoming bert, receive"},
+               {{"AcceptCall"}, cConnected});
         addReject("the host's reject", [](EngineFixture &f) { f.manager->responseVoipRequest(false); });
         addReject("code 3", code(3));
         addEnd("code 4", code(4), 21, 21);
@@ -114,12 +114,12 @@ private slots:
         addEnd("code 23", code(23), 22, 22);
         addEnd("code 24", code(24), 22, 22);
         addEnd("code 22", code(22), 25, 25);
-        addRow("the invite timer", [](EngineFixture &f) { f.manager->slot_inviteCallTimeout(); }, {nothing, kIdle},
-               {QStringList("HangUpCall") + ended("anna", 21, true, false), kIdle}, {nothing, kIncoming},
-               {QStringList("HangUpCall") + ended("anna", 24, true, true), kIdle});
-        addRow("the receive timer", [](EngineFixture &f) { f.manager->slot_recevieCallTimeout(); }, {nothing, kIdle},
-               {nothing, kOutgoing}, {QStringList("RejectCall") + ended("bert", 26, false, false), kIdle},
-               {nothing, kConnected});
+        addRow("the invite timer", [](EngineFixture &f) { f.manager->slot_inviteCallTimeout(); }, {nothing, cIdle},
+               {QStringList("HangUpCall") + ended("anna", 21, true, false), cIdle}, {nothing, cIncoming},
+               {QStringList("HangUpCall") + ended("anna", 24, true, true), cIdle});
+        addRow("the receive timer", [](EngineFixture &f) { f.manager->slot_recevieCallTimeout(); }, {nothing, cIdle},
+               {nothing, cOutgoing}, {QStringList("RejectCall") + ended("bert", 26, false, false), cIdle},
+               {nothing, cConnected});
     }
 
     void eventInState()
@@ -156,7 +156,7 @@ private slots:
         f.takeJournal();
         event(f);
         QTEST(f.takeJournal(), "journal");
-        QCOMPARE(f.state(), kIdle);
+        QCOMPARE(f.state(), cIdle);
     }
 
     void socketLossLeavesTheCall_data()
@@ -164,10 +164,10 @@ private slots:
         QTest::addColumn<QString>("state");
         QTest::addColumn<QString>("stateAfter");
 
-        QTest::newRow("Idle") << "Idle" << kIdle;
-        QTest::newRow("Outgoing") << "Outgoing" << kOutgoing;
-        QTest::newRow("Incoming") << "Incoming" << kIncoming;
-        QTest::newRow("Connected") << "Connected" << kConnected;
+        QTest::newRow("Idle") << "Idle" << cIdle;
+        QTest::newRow("Outgoing") << "Outgoing" << cOutgoing;
+        QTest::newRow("Incoming") << "Incoming" << cIncoming;
+        QTest::newRow("Connected") << "Connected" << cConnected;
     }
 
     void socketLossLeavesTheCall()
@@ -180,7 +180,7 @@ private slots:
         const auto *clock = f.manager->m_pVoipWidget->findChild<QTimer *>("m_callTimeTimer");
         QVERIFY(!f.manager->m_reconnectTimer.isActive());
         f.process.close();
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, cPatienceMs);
         QCOMPARE(f.state(), stateAfter);
         QCOMPARE(f.manager->m_pVoipWidget->isVisible(), shown);
         QCOMPARE(clock->isActive(), state == "Connected");
@@ -194,10 +194,10 @@ private slots:
         EngineFixture f;
         enter(f, "Connected");
         f.process.close();
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, cPatienceMs);
         f.manager->hangupVoipCall();
         QCOMPARE(f.takeJournal(), QStringList({"4345 anna@kelvar.im", "4478 false anna 24 true true"}));
-        QCOMPARE(f.state(), kIdle);
+        QCOMPARE(f.state(), cIdle);
         QVERIFY(!f.manager->m_pVoipWidget->isVisible());
     }
 
@@ -216,7 +216,7 @@ private slots:
         QTest::addColumn<Event>("ring");
 
         QTest::newRow("call") << code(0, "bert");
-        QTest::newRow("conference") << code(2, kInvitation);
+        QTest::newRow("conference") << code(2, cInvitation);
     }
 
     void acceptingDoesNotStartTheReceiveTimerAgain()
@@ -236,7 +236,7 @@ private slots:
 
         QTest::newRow("code 0") << code(0, "carl");
         QTest::newRow("code 1") << code(1, "carl");
-        QTest::newRow("code 2") << code(2, kInvitation);
+        QTest::newRow("code 2") << code(2, cInvitation);
     }
 
     void secondIncomingCallStartsTheReceiveTimerAgain()
@@ -258,7 +258,7 @@ private slots:
         f.takeJournal();
         f.manager->slot_inviteCallTimeout();
         QCOMPARE(f.takeJournal(), QStringList());
-        QCOMPARE(f.state(), kIncomingCarl);
+        QCOMPARE(f.state(), cIncomingCarl);
     }
 
     void receiveTimerOfAnOutgoingCallOnlyStops()
@@ -268,7 +268,7 @@ private slots:
         f.manager->m_recevieTimer.start(60000);
         f.manager->slot_recevieCallTimeout();
         QCOMPARE(f.takeJournal(), QStringList());
-        QCOMPARE(f.state(), kOutgoing);
+        QCOMPARE(f.state(), cOutgoing);
     }
 
     void receiveTimerOfASecondCallHangsUpTheConnectedOne()
@@ -280,7 +280,7 @@ private slots:
         QVERIFY(f.manager->m_recevieTimer.isActive());
         f.manager->slot_recevieCallTimeout();
         QCOMPARE(f.takeJournal(), QStringList("HangUpCall") + ended("carl", 24, false, true));
-        QCOMPARE(f.state(), kIdle);
+        QCOMPARE(f.state(), cIdle);
     }
 
     void secondIncomingCallKeepsFlagTimeListsAndWindow()

@@ -14,8 +14,8 @@
 namespace {
 
 // Far more than the system takes for a socket that nobody reads.
-constexpr int kMessageSize = 4 * 1024 * 1024;
-constexpr int kForEver = -1;
+constexpr int cMessageSize = 4 * 1024 * 1024;
+constexpr int cForEver = -1;
 
 // The socket whose waits are told instead of waited; none while it is negative.
 std::atomic<int> watchedSocket{-1};
@@ -23,7 +23,7 @@ QVector<int> waits;
 
 int millisecondsOf(const timespec *timeout)
 {
-    return timeout ? static_cast<int>(timeout->tv_sec * 1000 + timeout->tv_nsec / 1000000) : kForEver;
+    return timeout ? static_cast<int>(timeout->tv_sec * 1000 + timeout->tv_nsec / 1000000) : cForEver;
 }
 
 } // namespace
@@ -59,9 +59,9 @@ private slots:
         EngineFixture f;
         f.takeLines();
         QCOMPARE(f.manager->m_pVoipSocket->bytesToWrite(), Q_INT64_C(0));
-        f.manager->sendVoipMessage(QString(kMessageSize, 'x'));
+        f.manager->sendVoipMessage(QString(cMessageSize, 'x'));
         // Not a byte has gone yet: who waits or flushes writes some.
-        QCOMPARE(f.manager->m_pVoipSocket->bytesToWrite(), static_cast<qint64>(kMessageSize));
+        QCOMPARE(f.manager->m_pVoipSocket->bytesToWrite(), static_cast<qint64>(cMessageSize));
         QVERIFY(f.manager->m_bSocketConnected);
     }
 
@@ -69,7 +69,7 @@ private slots:
     {
         EngineFixture f;
         f.takeLines();
-        f.manager->sendVoipMessage(QString(kMessageSize, 'x'));
+        f.manager->sendVoipMessage(QString(cMessageSize, 'x'));
 
         waits.clear();
         watchedSocket = static_cast<int>(f.manager->m_pVoipSocket->socketDescriptor());

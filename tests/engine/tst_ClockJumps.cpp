@@ -23,13 +23,13 @@ private slots:
     {
         QTest::addColumn<qint64>("shift");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("an hour back") << qint64(-kHour) << "0-1:00:00";
+        QTest::newRow("an hour back") << qint64(-cHour) << "0-1:00:00";
         QTest::newRow("a minute back") << qint64(-60) << "00:0-1:00";
-        QTest::newRow("an hour on") << qint64(kHour) << "01:00:00";
+        QTest::newRow("an hour on") << qint64(cHour) << "01:00:00";
         // The window's clock goes by the hours of the day alone.
-        QTest::newRow("a day back") << qint64(-kDay) << "00:00:00";
+        QTest::newRow("a day back") << qint64(-cDay) << "00:00:00";
         QTest::newRow("to the year 1970") << -Q_INT64_C(1700006400) << "00:00:00";
-        QTest::newRow("a hundred years on") << qint64(36525 * kDay) << "00:00:00";
+        QTest::newRow("a hundred years on") << qint64(36525 * cDay) << "00:00:00";
     }
 
     void callKeepsItsStateAndItsLengthFollowsTheTimeOfDay()
@@ -59,7 +59,7 @@ private slots:
         RecordedEngine f;
         f.createConference();
         f.notify(18);
-        ShiftedClock::setTimeOfDay(-kHour);
+        ShiftedClock::setTimeOfDay(-cHour);
         f.manager->hangupVoipCall();
         QCOMPARE(f.count(), 1);
         QCOMPARE(f.rows().constFirst().at(3), QStringLiteral("'-3600'"));
@@ -73,8 +73,8 @@ private slots:
     void limitsOfACallDoNotGoByTheTimeOfDay_data()
     {
         QTest::addColumn<qint64>("shift");
-        QTest::newRow("a day back") << qint64(-kDay);
-        QTest::newRow("a day on") << qint64(kDay);
+        QTest::newRow("a day back") << qint64(-cDay);
+        QTest::newRow("a day on") << qint64(cDay);
     }
 
     void limitsOfACallDoNotGoByTheTimeOfDay()
@@ -98,7 +98,7 @@ private slots:
         QFile::remove(QStringLiteral("clock.log"));
         CustomLogger logger(QStringLiteral("clock.log"));
         logger.printLog(CustomLog::Info, QStringLiteral("place"), QStringLiteral("first"));
-        ShiftedClock::setTimeOfDay(-kDay);
+        ShiftedClock::setTimeOfDay(-cDay);
         logger.printLog(CustomLog::Info, QStringLiteral("place"), QStringLiteral("second"));
         logger.close();
         QFile file(QStringLiteral("clock.log"));
@@ -152,7 +152,7 @@ private slots:
                  QStringLiteral("01:00:00"));
         QCOMPARE(f.takeJournal(), QStringList());
         f.manager->hangupVoipCall();
-        QCOMPARE(f.lastSeconds(), qint64(kHour));
+        QCOMPARE(f.lastSeconds(), qint64(cHour));
         callOnce(f);
     }
 
@@ -181,7 +181,7 @@ private slots:
         becomeConnected(f);
         f.manager->m_strRegValue = f.login.m_strRegValue;
         f.process.close();
-        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_reconnectTimer.isActive(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_reconnectTimer.isActive(), cPatienceMs);
         f.process.open();
         f.takeJournal();
         sleepAnHour();
@@ -201,7 +201,7 @@ private slots:
         f.manager->callConference({QStringLiteral("anna"), QStringLiteral("bert")}, false, QString());
         f.notify(0, QStringLiteral("carl"));
         f.process.close();
-        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_reconnectTimer.isActive(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_reconnectTimer.isActive(), cPatienceMs);
         f.process.open();
         QVERIFY(f.manager->m_inviteTimer.isActive());
         QVERIFY(f.manager->m_recevieTimer.isActive());
@@ -216,8 +216,8 @@ private slots:
     }
 
 private:
-    static constexpr int64_t kHour = 3600;
-    static constexpr int64_t kDay = 24 * kHour;
+    static constexpr int64_t cHour = 3600;
+    static constexpr int64_t cDay = 24 * cHour;
 
     static void becomeConnected(EngineFixture &f)
     {
@@ -231,7 +231,7 @@ private:
 
     static void sleepAnHour()
     {
-        ShiftedClock::sleep(kHour);
+        ShiftedClock::sleep(cHour);
         for (int round = 0; round < 5; ++round) {
             QCoreApplication::processEvents();
         }

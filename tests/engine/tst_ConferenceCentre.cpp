@@ -55,7 +55,7 @@ private:
     {
         f.manager->showVoiceConf();
         QVERIFY(f.manager->m_pVoiceConfWidget);
-        QVERIFY(QTest::qWaitForWindowExposed(f.manager->m_pVoiceConfWidget, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(f.manager->m_pVoiceConfWidget, cPatienceMs));
     }
     /// Right click on the row, then a click on the menu's entry.
     static void choose(const RecordedEngine &f, int row, int entry)
@@ -65,7 +65,7 @@ private:
         QCursor::setPos(pList->viewport()->mapToGlobal(place));
         QTest::mouseClick(pList->viewport(), Qt::RightButton, Qt::NoModifier, place);
         auto *pMenu = pList->findChild<CMenuEx *>();
-        QVERIFY(QTest::qWaitForWindowExposed(pMenu, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(pMenu, cPatienceMs));
         QTest::mouseClick(pMenu, Qt::LeftButton, Qt::NoModifier,
                           pMenu->actionGeometry(pMenu->actions().at(entry)).center());
     }
@@ -110,12 +110,12 @@ private slots:
     {
         RecordedEngine f;
         open(f);
-        QVERIFY(QTest::qWaitForWindowActive(f.manager->m_pVoiceConfWidget, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(f.manager->m_pVoiceConfWidget, cPatienceMs));
         QWidget other;
         other.show();
-        QVERIFY(QTest::qWaitForWindowActive(&other, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(&other, cPatienceMs));
         f.manager->showVoiceConf();
-        QVERIFY(QTest::qWaitForWindowActive(f.manager->m_pVoiceConfWidget, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(f.manager->m_pVoiceConfWidget, cPatienceMs));
     }
 
     void endedConferenceComesOnTop()

@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr qint64 kMost = std::numeric_limits<qint64>::max();
-constexpr qint64 kLeast = std::numeric_limits<qint64>::min();
+constexpr qint64 cMost = std::numeric_limits<qint64>::max();
+constexpr qint64 cLeast = std::numeric_limits<qint64>::min();
 
 } // namespace
 
@@ -106,10 +106,10 @@ private slots:
         QTest::newRow("read as a double") << "9007199254740993" << Q_INT64_C(9007199254740992);
         QTest::newRow("negative") << "-5" << Q_INT64_C(-5);
         QTest::newRow("negative fraction is cut towards zero") << "-5.9" << Q_INT64_C(-5);
-        QTest::newRow("just above 64 bits") << "9223372036854775808" << kMost;
-        QTest::newRow("far above 64 bits") << "1e300" << kMost;
-        QTest::newRow("far below 64 bits") << "-1e300" << kLeast;
-        QTest::newRow("beyond every integer type") << "99999999999999999999999" << kMost;
+        QTest::newRow("just above 64 bits") << "9223372036854775808" << cMost;
+        QTest::newRow("far above 64 bits") << "1e300" << cMost;
+        QTest::newRow("far below 64 bits") << "-1e300" << cLeast;
+        QTest::newRow("beyond every integer type") << "99999999999999999999999" << cMost;
     }
 
     void createTimeIsCutToSixtyFourBits()

@@ -12,7 +12,7 @@
 
 namespace {
 
-const qint64 kCreated = Q_INT64_C(1600000000123);
+const qint64 cCreated = Q_INT64_C(1600000000123);
 
 } // namespace
 
@@ -32,7 +32,7 @@ private slots:
         QVERIFY(!call.bIsCaller);
         QCOMPARE(call.confId, QString("c1"));
         QCOMPARE(call.peerId, QString("anna"));
-        QCOMPARE(call.createTime, QDateTime::fromMSecsSinceEpoch(kCreated));
+        QCOMPARE(call.createTime, QDateTime::fromMSecsSinceEpoch(cCreated));
         QCOMPARE(call.createTime.timeSpec(), Qt::LocalTime);
         // Members come by the updates.
         QCOMPARE(call.memberList, QStringList());
@@ -122,7 +122,7 @@ private slots:
         f.notify(2, conferenceContent(R"("from":"anna","confId":"c1","createTime":1600000000123)"));
         f.notify(2, conferenceContent(R"("from":"bert","confId":"c1")"));
         QCOMPARE(f.manager->m_callData.peerId, QString("bert"));
-        QCOMPARE(f.manager->m_callData.createTime, QDateTime::fromMSecsSinceEpoch(kCreated));
+        QCOMPARE(f.manager->m_callData.createTime, QDateTime::fromMSecsSinceEpoch(cCreated));
         QCOMPARE(f.takeJournal(), QStringList({"4639 anna true false", "4639 bert true false"}));
     }
 
@@ -153,7 +153,7 @@ private slots:
             add("below one", "0.9", QDateTime());
             add("wrong type", "\"1600000000123\"", QDateTime());
             add("one", "1", QDateTime::fromMSecsSinceEpoch(1));
-            add("fraction", "1600000000123.75", QDateTime::fromMSecsSinceEpoch(kCreated));
+            add("fraction", "1600000000123.75", QDateTime::fromMSecsSinceEpoch(cCreated));
             add("beyond 64 bits", "1e300", QDateTime::fromMSecsSinceEpoch(std::numeric_limits<qint64>::max()));
         }
     }

@@ -27,7 +27,7 @@ private slots:
     void rejectedInvitationIsStored()
     {
         RecordedEngine f;
-        f.notify(2, R"({"content":{"confId":"c1","from":"anna",)" + kCreateTime + "}}");
+        f.notify(2, R"({"content":{"confId":"c1","from":"anna",)" + cCreateTime + "}}");
         f.manager->responseVoipRequest(false);
         QCOMPARE(f.records(), QStringList{"'c1' 'anna' '2023-11-15 06:13:20' '0' '' 0"});
         QCOMPARE(f.takeJournal(), QStringList({"4639 anna true false", "RejectConf", "4345 anna@kelvar.im",
@@ -94,7 +94,7 @@ private slots:
     {
         RecordedEngine f;
         f.notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
-        f.notify(2, R"({"content":{"confId":"c2","from":"bert",)" + kCreateTime + "}}");
+        f.notify(2, R"({"content":{"confId":"c2","from":"bert",)" + cCreateTime + "}}");
         f.notify(12, R"({"content":{"confId":"c2","conventioneer":["bert","me"]}})");
         QCOMPARE(f.takeJournal(), QStringList{"4639 anna true false"});
         QCOMPARE(f.state(), QString("incoming anna, receive, ring"));

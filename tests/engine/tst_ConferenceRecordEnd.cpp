@@ -60,17 +60,17 @@ const QList<End> &ends()
         {"the invite timer", Creator, BeforeTheConnection,
          [](RecordedEngine &f) {
              f.manager->m_inviteTimer.start(0);
-             QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_inviteTimer.isActive(), kPatienceMs);
+             QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_inviteTimer.isActive(), cPatienceMs);
          }},
         {"the receive timer", Invited, BeforeTheConnection,
          [](RecordedEngine &f) {
              f.manager->m_recevieTimer.start(0);
-             QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_recevieTimer.isActive(), kPatienceMs);
+             QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_recevieTimer.isActive(), cPatienceMs);
          }},
         {"hung up after the socket was lost", Both, AnyTime,
          [](RecordedEngine &f) {
              f.process.close();
-             QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
+             QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, cPatienceMs);
              QCOMPARE(f.count(), 0);
              QVERIFY(f.manager->isExistCall());
              f.manager->hangupVoipCall();

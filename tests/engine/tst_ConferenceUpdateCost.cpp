@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int kMembers = 10000;
+constexpr int cMembers = 10000;
 std::atomic<int> zoneLookUps{0};
 
 QString uid(int iNumber)
@@ -22,7 +22,7 @@ QString uid(int iNumber)
 QString update()
 {
     QStringList ids;
-    for (int i = 0; i < kMembers; ++i) {
+    for (int i = 0; i < cMembers; ++i) {
         ids << uid(i);
     }
     return conferenceContent(QStringLiteral(R"("confId":"c1","conventioneer":["%1"])").arg(ids.join("\",\"")));
@@ -50,9 +50,9 @@ private slots:
         const QString content = update();
         zoneLookUps = 0;
         f.notify(12, content);
-        QCOMPARE(f.members().size(), kMembers + 2);
+        QCOMPARE(f.members().size(), cMembers + 2);
         // Once a second, and however slow the machine is, it is no matter of minutes.
-        QVERIFY2(zoneLookUps < kMembers / 10, qPrintable(QString::number(zoneLookUps.load())));
+        QVERIFY2(zoneLookUps < cMembers / 10, qPrintable(QString::number(zoneLookUps.load())));
     }
 
     void hostIsAskedTheSameOfEachMember()
@@ -62,8 +62,8 @@ private slots:
         f.host.events.clear();
         f.notify(12, update());
         const QList<ReceivedEvent> events = f.host.events;
-        QCOMPARE(events.size(), 3 * kMembers);
-        for (int i = 0; i < kMembers; ++i) {
+        QCOMPARE(events.size(), 3 * cMembers);
+        for (int i = 0; i < cMembers; ++i) {
             // For the row, then for the stranger's test.
             const int wanted[] = {MSG_GET_FRIEND_INFO, MSG_GET_FRIEND_INFO, MSG_IS_EXIST_FRIEND};
             for (int question = 0; question < 3; ++question) {

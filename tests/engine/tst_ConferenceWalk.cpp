@@ -22,9 +22,9 @@ private slots:
     void whatMustHoldHoldsAfterEachStep()
     {
         QFETCH(quint32, seed);
-        constexpr int kSteps = 10000;
+        constexpr int steps = 10000;
         ConferenceWalk walk(seed);
-        for (int i = 0; i < kSteps; ++i) {
+        for (int i = 0; i < steps; ++i) {
             const QString fault = walk.step();
             QVERIFY2(fault.isEmpty(), qPrintable(QString("step %1 (%2): %3").arg(i).arg(walk.last, fault)));
             if (i % 100 == 0) {
@@ -34,7 +34,7 @@ private slots:
         }
         QCOMPARE(walk.recordFault(), QString());
         // A walk in which hardly anything ended would have shown nothing.
-        QVERIFY2(walk.ends > kSteps / 50 && walk.engine.count() > kSteps / 100, qPrintable(QString::number(walk.ends)));
+        QVERIFY2(walk.ends > steps / 50 && walk.engine.count() > steps / 100, qPrintable(QString::number(walk.ends)));
     }
 };
 

@@ -13,7 +13,7 @@
 
 namespace {
 
-const QString kDocument = QStringLiteral(R"({"content":{"confId":"c1",%1}})");
+const QString cDocument = QStringLiteral(R"({"content":{"confId":"c1",%1}})");
 
 } // namespace
 
@@ -94,7 +94,7 @@ private slots:
     {
         EngineFixture f;
         f.manager->m_strUserId = "me";
-        f.notify(2, kDocument.arg(R"("from":"anna")"));
+        f.notify(2, cDocument.arg(R"("from":"anna")"));
         f.manager->m_callData.memberList = QStringList{"anna", "me", "bert"};
         const Moments moments(f);
         f.manager->responseVoipRequest(true);
@@ -135,7 +135,7 @@ private slots:
         EngineFixture f;
         f.createConference();
         const Moments moments(f);
-        f.notify(12, kDocument.arg(R"("conventioneer":["carl","dora"])"));
+        f.notify(12, cDocument.arg(R"("conventioneer":["carl","dora"])"));
         const QString carl(": outgoing anna+bert+me+carl, invite");
         const QString dora(": outgoing anna+bert+me+carl+dora, invite");
         // Each one's row, which asks for the card, then whether that one is a stranger.

@@ -58,7 +58,7 @@ private slots:
             }
         };
         f.process.send(FakeCallProcess::line(0, "bert") + FakeCallProcess::line(5, "bert"));
-        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_pVoipSocket == nullptr, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_pVoipSocket == nullptr, cPatienceMs);
         EngineFixture::deliverPosted();
         QVERIFY(!f.manager->m_bSocketConnected);
     }

@@ -9,9 +9,9 @@
 
 namespace {
 
-const QString kCannotCall = QStringLiteral("未检测到麦克风，无法发起呼叫");
-const QString kCannotAccept = QStringLiteral("未检测到麦克风，无法接受呼叫");
-const QStringList kBertRejected{"RejectCall", "4345 bert@kelvar.im", "4478 false bert 26 false false",
+const QString cCannotCall = QStringLiteral("未检测到麦克风，无法发起呼叫");
+const QString cCannotAccept = QStringLiteral("未检测到麦克风，无法接受呼叫");
+const QStringList cBertRejected{"RejectCall", "4345 bert@kelvar.im", "4478 false bert 26 false false",
                                 "SetMicEnable true", "SetSpeakerEnble true"};
 
 } // namespace
@@ -54,7 +54,7 @@ private slots:
         } else {
             f.manager->callSingleUser("anna", true);
         }
-        QCOMPARE(f.boxes.texts, QStringList{kCannotCall});
+        QCOMPARE(f.boxes.texts, QStringList{cCannotCall});
         QCOMPARE(f.state(), before);
         QCOMPARE(f.takeJournal(), QStringList());
         QVERIFY(!f.manager->m_callData.bIsCaller);
@@ -69,8 +69,8 @@ private slots:
         f.takeJournal();
         f.boxes.whileOpen = [&f] { QCOMPARE(f.state(), QString("incoming bert, receive")); };
         f.manager->responseVoipRequest(true);
-        QCOMPARE(f.boxes.texts, QStringList{kCannotAccept});
-        QCOMPARE(f.takeJournal(), kBertRejected);
+        QCOMPARE(f.boxes.texts, QStringList{cCannotAccept});
+        QCOMPARE(f.takeJournal(), cBertRejected);
         QCOMPARE(f.state(), QString("idle"));
         QVERIFY(!f.manager->m_pVoipWidget->isVisible());
     }
@@ -81,7 +81,7 @@ private slots:
         f.notify(2, R"({"content":{"from":"anna","confId":"c1"}})");
         f.takeJournal();
         f.manager->responseVoipRequest(true);
-        QCOMPARE(f.boxes.texts, QStringList{kCannotAccept});
+        QCOMPARE(f.boxes.texts, QStringList{cCannotAccept});
         QCOMPARE(f.takeJournal(),
                  QStringList({"RejectConf", "4345 anna@kelvar.im", "SetMicEnable true", "SetSpeakerEnble true"}));
     }
@@ -108,7 +108,7 @@ private slots:
             journalWhileOpen = f.takeJournal();
         };
         f.manager->responseVoipRequest(true);
-        QCOMPARE(journalWhileOpen, kBertRejected);
+        QCOMPARE(journalWhileOpen, cBertRejected);
         // The reject behind the message goes out again, and there is no call left to end.
         QCOMPARE(f.takeJournal(), QStringList{"RejectCall"});
         QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 1);
@@ -122,7 +122,7 @@ private slots:
         bool endedWhileOpen = false;
         f.boxes.whileOpen = [&] {
             f.process.send(FakeCallProcess::line(4));
-            QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), kPatienceMs);
+            QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), cPatienceMs);
             endedWhileOpen = true;
         };
         f.manager->responseVoipRequest(true);

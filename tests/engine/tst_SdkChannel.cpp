@@ -13,7 +13,7 @@
 
 namespace {
 
-const QList<int> kBackOff{1000, 4000, 9000, 16000, 25000, 36000, 49000, 60000};
+const QList<int> cBackOff{1000, 4000, 9000, 16000, 25000, 36000, 49000, 60000};
 
 } // namespace
 
@@ -65,7 +65,7 @@ private slots:
             intervals.append(f.manager->m_reconnectTimer.interval());
             f.manager->m_reconnectTimer.stop();
         }
-        QCOMPARE(intervals, kBackOff + kBackOff + kBackOff);
+        QCOMPARE(intervals, cBackOff + cBackOff + cBackOff);
     }
 
     void furtherLossStartsARunningTimerWithTheNextDelay()
@@ -82,7 +82,7 @@ private slots:
         EngineFixture f(EngineFixture::NoCallProcess);
         for (int failure = 2; failure <= 7; ++failure) {
             f.manager->slot_ReConnectVoipSDK();
-            QCOMPARE(f.manager->m_reconnectTimer.interval(), kBackOff.at(failure - 1));
+            QCOMPARE(f.manager->m_reconnectTimer.interval(), cBackOff.at(failure - 1));
         }
         f.process.open();
         f.manager->slot_ReConnectVoipSDK();
@@ -90,7 +90,7 @@ private slots:
         QCOMPARE(f.manager->m_nReconnectCount, Q_INT64_C(0));
         QVERIFY(!f.manager->m_reconnectTimer.isActive());
         f.process.close();
-        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_reconnectTimer.isActive(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_reconnectTimer.isActive(), cPatienceMs);
         QCOMPARE(f.manager->m_reconnectTimer.interval(), 1000);
     }
 
@@ -100,7 +100,7 @@ private slots:
         f.process.open();
         // The timer itself, not its slot.
         f.manager->m_reconnectTimer.start(0);
-        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_bSocketConnected, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_bSocketConnected, cPatienceMs);
         QVERIFY(!f.manager->m_reconnectTimer.isActive());
     }
 
@@ -126,7 +126,7 @@ private slots:
         // One connection of the signal, not one for each attempt.
         const QtMessages messages;
         f.process.send(FakeCallProcess::line(999, "once"));
-        QTRY_COMPARE_WITH_TIMEOUT(deliveredPayloads(messages), QStringList{"once"}, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(deliveredPayloads(messages), QStringList{"once"}, cPatienceMs);
     }
 
     void connectingAgainKeepsTheConnectionAndRegistersAgain()

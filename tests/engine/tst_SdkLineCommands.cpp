@@ -21,7 +21,7 @@ private slots:
                                 "SetMicEnable",    "SetSpeakerEnble", "SetCamreraEnable", "SetMicVolume",
                                 "SetSpeakerVolume"};
         QStringList written;
-        for (const Wire::CommandRow &row : Wire::kCommands) {
+        for (const Wire::CommandRow &row : Wire::cCommands) {
             written.append(row.name);
         }
         QCOMPARE(written, names);

@@ -75,7 +75,7 @@ private slots:
         const QStringList registration{"RegeditUser \"me\" \"Nick\" \"ticket\" false"};
         QCOMPARE(f.takeLines(), registration);
         f.process.dropClient();
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, cPatienceMs);
         f.manager->slot_ReConnectVoipSDK();
         QVERIFY(f.manager->m_bSocketConnected);
         QCOMPARE(f.takeLines(), registration);
@@ -90,7 +90,7 @@ private slots:
         QCOMPARE(f.takeLines(), QStringList({registration, "UnReg \"me\""}));
         QCOMPARE(f.manager->m_strUserId, QString("me"));
         f.process.dropClient();
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, cPatienceMs);
         f.manager->slot_ReConnectVoipSDK();
         QCOMPARE(f.takeLines(), QStringList{registration});
     }
@@ -102,7 +102,7 @@ private slots:
         f.manager->callSingleUser("anna", false);
         f.takeLines();
         f.process.dropClient();
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, cPatienceMs);
         f.manager->slot_SetMicEnable(false);
         f.manager->slot_ReConnectVoipSDK();
         QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"me\" \"Nick\" \"ticket\" false"});
@@ -136,7 +136,7 @@ private slots:
         EngineFixture f;
         const QtMessages messages;
         f.process.send(bytes);
-        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, cPatienceMs);
         QTEST(deliveredPayloads(messages), "payloads");
         QCOMPARE(messages.warnings, QStringList());
     }
@@ -147,9 +147,9 @@ private slots:
         const QtMessages messages;
         const QByteArray split = line(999, "split in the middle");
         f.process.send(split.left(20));
-        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, cPatienceMs);
         f.process.send(split.mid(20) + line(999, "next"));
-        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, cPatienceMs);
         QCOMPARE(deliveredPayloads(messages), QStringList{"next"});
     }
 
@@ -159,9 +159,9 @@ private slots:
         const QtMessages messages;
         // The line feed behind the byte would give the next line a clean start.
         f.process.send(line(999, "before") + '\0' + '\n' + line(999, "behind"));
-        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, cPatienceMs);
         f.process.send(line(999, "later"));
-        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, cPatienceMs);
         QCOMPARE(deliveredPayloads(messages), QStringList({"before", "later"}));
     }
 
@@ -204,8 +204,8 @@ private slots:
             }
         };
         f.process.send(line(0, "bert"));
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_callData.peerId.isEmpty(), kPatienceMs);
-        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_callData.bIsConnected, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_callData.peerId.isEmpty(), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_callData.bIsConnected, cPatienceMs);
         QVERIFY(!f.manager->m_recevieTimer.isActive());
     }
 
@@ -216,7 +216,7 @@ private slots:
         const QByteArray bytes = line(998, QStringLiteral("呼叫"));
         f.process.send(bytes);
         QTRY_COMPARE_WITH_TIMEOUT(messages.debugLines,
-                                  QStringList{QStringLiteral("Voip返回数据") + QString::fromUtf8(bytes)}, kPatienceMs);
+                                  QStringList{QStringLiteral("Voip返回数据") + QString::fromUtf8(bytes)}, cPatienceMs);
     }
 
     void readOfNothingIsNotWrittenToTheDebugLog()
@@ -233,7 +233,7 @@ private slots:
     {
         EngineFixture f;
         f.process.dropClient();
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, cPatienceMs);
         const QtMessages messages;
         // Accepting is the one command that is sent without a look at the channel.
         f.manager->acceptVoipCall();

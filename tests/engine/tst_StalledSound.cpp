@@ -72,7 +72,7 @@ private slots:
             socket.connectToServer(path);
             return socket.waitForConnected(1000);
         };
-        QTRY_VERIFY_WITH_TIMEOUT(takesClients(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(takesClients(), cPatienceMs);
         useServer(path);
         const QtMessages messages;
 
@@ -89,7 +89,7 @@ private slots:
         QCOMPARE(messages.warnings.filter(QStringLiteral("PulseAudioService")), QStringList());
         // The engine's list outlives the server, and ends with it: this process has no other.
         server.terminate();
-        QVERIFY(server.waitForFinished(kPatienceMs));
+        QVERIFY(server.waitForFinished(cPatienceMs));
     }
 
 private:

@@ -28,8 +28,8 @@ void count()
 namespace {
 
 // The sanitizer's own functions must stay; they tell of each block.
-const int isHooked = __sanitizer_install_malloc_and_free_hooks([](const volatile void *, std::size_t) { count(); },
-                                                               [](const volatile void *) {});
+const int cIsHooked = __sanitizer_install_malloc_and_free_hooks([](const volatile void *, std::size_t) { count(); },
+                                                                [](const volatile void *) {});
 
 } // namespace
 

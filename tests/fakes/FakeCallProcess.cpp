@@ -9,7 +9,7 @@
 
 namespace {
 
-const QByteArray kEndMark = "end of what was written\n";
+const QByteArray cEndMark = "end of what was written\n";
 
 QString compact(const QJsonValue &value)
 {
@@ -83,7 +83,7 @@ void FakeCallProcess::readUntil(const QByteArray &end)
         return;
     }
     m_buffer += client->readAll();
-    while ((end.isEmpty() || !m_buffer.endsWith(end)) && client->waitForReadyRead(kPatienceMs)) {
+    while ((end.isEmpty() || !m_buffer.endsWith(end)) && client->waitForReadyRead(cPatienceMs)) {
         m_buffer += client->readAll();
     }
     m_buffer += client->readAll();
@@ -92,9 +92,9 @@ void FakeCallProcess::readUntil(const QByteArray &end)
 QList<QByteArray> FakeCallProcess::takeRawLines(QLocalSocket *client)
 {
     if (client && client->state() == QLocalSocket::ConnectedState) {
-        client->write(kEndMark);
+        client->write(cEndMark);
         client->flush();
-        readUntil(kEndMark);
+        readUntil(cEndMark);
     }
     QList<QByteArray> lines;
     int start = 0;
@@ -103,7 +103,7 @@ QList<QByteArray> FakeCallProcess::takeRawLines(QLocalSocket *client)
         start = end + 1;
     }
     m_buffer.remove(0, start);
-    lines.removeAll(kEndMark);
+    lines.removeAll(cEndMark);
     return lines;
 }
 

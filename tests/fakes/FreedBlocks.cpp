@@ -11,8 +11,8 @@ struct Watch
     bool isFreed;
 };
 
-constexpr int watchLimit = 16;
-Watch watches[watchLimit] = {};
+constexpr int cWatchLimit = 16;
+Watch watches[cWatchLimit] = {};
 int watchCount = 0;
 
 } // namespace
@@ -42,7 +42,7 @@ void operator delete(void *block, std::size_t) noexcept
 
 void *FreedBlocks::watched()
 {
-    if (watchCount == watchLimit) {
+    if (watchCount == cWatchLimit) {
         std::abort();
     }
     void *block = ::operator new(8);

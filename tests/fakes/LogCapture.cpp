@@ -10,11 +10,11 @@
 
 namespace {
 
-const QString logFileName = QStringLiteral("captured.log");
+const QString cLogFileName = QStringLiteral("captured.log");
 
 } // namespace
 
-LogCapture::LogCapture() : m_logger(logFileName)
+LogCapture::LogCapture() : m_logger(cLogFileName)
 {
     m_thread.setCustomLogger(&m_logger);
     context.setCustomLogger(&m_logger);
@@ -36,7 +36,7 @@ LogCapture::~LogCapture()
 QString LogCapture::written()
 {
     m_logger.flush();
-    QFile file(logFileName);
+    QFile file(cLogFileName);
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
@@ -50,7 +50,7 @@ QStringList LogCapture::take()
     const QString mark = QStringLiteral("take %1").arg(++m_takeCount);
     m_thread.printLog(CustomLog::Debug, QString(), mark);
     const QString lastLine = QStringLiteral("]: ") + mark + QLatin1Char('\n');
-    if (!QTest::qWaitFor([this, &lastLine] { return written().endsWith(lastLine); }, kPatienceMs)) {
+    if (!QTest::qWaitFor([this, &lastLine] { return written().endsWith(lastLine); }, cPatienceMs)) {
         return {QStringLiteral("the log writer does not write")};
     }
     QStringList lines = written().split(QLatin1Char('\n'), Qt::SkipEmptyParts);

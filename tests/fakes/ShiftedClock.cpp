@@ -11,7 +11,7 @@
 namespace {
 
 /// 2023-11-15 12:00:00 UTC.
-constexpr int64_t kNoon = 1700049600;
+constexpr int64_t cNoon = 1700049600;
 
 std::atomic<int64_t> timeOfDayShift{0};
 std::atomic<int64_t> timerShift{0};
@@ -19,7 +19,7 @@ std::atomic<int64_t> timerShift{0};
 std::atomic<int64_t> heldSecond{0};
 /// Where the clock of the timers stands, in nanoseconds; 0 while it goes.
 std::atomic<int64_t> heldNanoseconds{0};
-constexpr int64_t kNanosecondsOfSecond = 1000000000;
+constexpr int64_t cNanosecondsOfSecond = 1000000000;
 
 int readClock(clockid_t clock, timespec *time)
 {
@@ -42,7 +42,7 @@ int readShifted(clockid_t clock, timespec *time)
     const int result = readClock(clock, time);
     if (isTimerClock(clock)) {
         if (const int64_t held = heldNanoseconds; held != 0) {
-            *time = {held / kNanosecondsOfSecond, held % kNanosecondsOfSecond};
+            *time = {held / cNanosecondsOfSecond, held % cNanosecondsOfSecond};
         }
         time->tv_sec += timerShift;
     } else if (isTimeOfDay(clock)) {
@@ -80,14 +80,14 @@ void ShiftedClock::reset()
 
 void ShiftedClock::holdTimeOfDay()
 {
-    heldSecond = kNoon;
+    heldSecond = cNoon;
 }
 
 void ShiftedClock::holdTimers()
 {
     timespec now{};
     readClock(CLOCK_MONOTONIC, &now);
-    heldNanoseconds = now.tv_sec * kNanosecondsOfSecond + now.tv_nsec;
+    heldNanoseconds = now.tv_sec * cNanosecondsOfSecond + now.tv_nsec;
 }
 
 void ShiftedClock::setTimeOfDay(int64_t iSeconds)

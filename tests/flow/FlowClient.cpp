@@ -61,7 +61,7 @@ bool FlowClient::goOnline()
 {
     const int before = countOnWire(QStringLiteral("RegeditUser"));
     command(MSG_CLIENT_CONNECT_STATUS, true);
-    return QTest::qWaitFor([&] { return countOnWire(QStringLiteral("RegeditUser")) > before; }, kPatienceMs);
+    return QTest::qWaitFor([&] { return countOnWire(QStringLiteral("RegeditUser")) > before; }, cPatienceMs);
 }
 
 QStringList FlowClient::commandsOnWire() const
@@ -98,7 +98,7 @@ bool FlowClient::callProcessLives() const
 bool FlowClient::killCallProcess()
 {
     ::kill(static_cast<pid_t>(callProcessId()), SIGKILL);
-    return QTest::qWaitFor([this] { return !callProcessLives(); }, kPatienceMs);
+    return QTest::qWaitFor([this] { return !callProcessLives(); }, cPatienceMs);
 }
 
 bool FlowClient::startCallProcess()
@@ -106,7 +106,7 @@ bool FlowClient::startCallProcess()
     const qint64 before = callProcessId();
     const QString program = QCoreApplication::applicationDirPath() + QStringLiteral("/VoipSDK/Contents/MacOS/VoipSDK");
     return QProcess::startDetached(program, {}) &&
-           QTest::qWaitFor([&] { return callProcessId() != before; }, kPatienceMs);
+           QTest::qWaitFor([&] { return callProcessId() != before; }, cPatienceMs);
 }
 
 QWidget *FlowClient::callWindow() const

@@ -43,7 +43,7 @@ HostWorld::HostWorld()
     qputenv("TMPDIR", QFile::encodeName(m_folder.path()));
     m_callProcess.start(program(QStringLiteral("VoipSDK/Contents/MacOS/VoipSDK")),
                         {"--speed", "1000", "--trace", filePath("trace")});
-    if (!QTest::qWaitFor([this] { return trace().contains("listening at"); }, kPatienceMs)) {
+    if (!QTest::qWaitFor([this] { return trace().contains("listening at"); }, cPatienceMs)) {
         qFatal("the call process does not listen");
     }
 }
@@ -51,7 +51,7 @@ HostWorld::HostWorld()
 HostWorld::~HostWorld()
 {
     m_callProcess.kill();
-    m_callProcess.waitForFinished(kPatienceMs);
+    m_callProcess.waitForFinished(cPatienceMs);
 }
 
 std::unique_ptr<QProcess> HostWorld::startHost(int iPatienceMs) const
@@ -138,7 +138,7 @@ QString HostWorld::fault(bool bMayLackCall) const
 
 bool readLines(QProcess &host, const QByteArray &word, int iLines, QList<QByteArray> *pSaid)
 {
-    while (iLines > 0 && (host.canReadLine() || host.waitForReadyRead(kPatienceMs))) {
+    while (iLines > 0 && (host.canReadLine() || host.waitForReadyRead(cPatienceMs))) {
         for (; iLines > 0 && host.canReadLine();) {
             pSaid->append(host.readLine().trimmed());
             iLines -= pSaid->constLast().startsWith(word) ? 1 : 0;

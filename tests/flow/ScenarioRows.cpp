@@ -157,11 +157,11 @@ Step giveUp(void (CVoipManage::*timeout)())
             }};
 }
 
-const QStringList kCalled{R"(CallUser "30010001" false)"};
-const QStringList kHungUp{"HangUpCall"};
-const QStringList kAccepted{"AcceptCall"};
-const QStringList kRejected{"RejectCall"};
-const QStringList kDevicesOn{"SetMicEnable true", "SetSpeakerEnble true"};
+const QStringList cCalled{R"(CallUser "30010001" false)"};
+const QStringList cHungUp{"HangUpCall"};
+const QStringList cAccepted{"AcceptCall"};
+const QStringList cRejected{"RejectCall"};
+const QStringList cDevicesOn{"SetMicEnable true", "SetSpeakerEnble true"};
 
 QStringList ended(const QString &uid, int result, bool caller, bool connected)
 {
@@ -183,23 +183,23 @@ QList<Row> callsOut()
     return {
         {"call-answered", "hung up by the button, the devices are switched on behind the hang-up",
          {out, untilConnected(), press("HangUp"), untilIdle()},
-         kCalled + kHungUp + kDevicesOn, ended("30010001", 24, true, true)},
+         cCalled + cHungUp + cDevicesOn, ended("30010001", 24, true, true)},
         {"call-answered", "closed by the user, the devices are switched on before the hang-up",
          {out, untilConnected(), closeWindow(), untilIdle()},
-         kCalled + kDevicesOn + kHungUp, ended("30010001", 24, true, true)},
-        {"call-busy", "", {out, untilIdle()}, kCalled + kDevicesOn, ended("30010001", 25, true, false)},
-        {"call-failed", "", {out, untilIdle()}, kCalled + kDevicesOn, ended("30010001", 22, true, false)},
-        {"call-rejected", "", {out, untilIdle()}, kCalled + kDevicesOn, ended("30010001", 26, true, false)},
-        {"call-hung-up", "", {out, untilIdle()}, kCalled + kDevicesOn, ended("30010001", 24, true, true)},
+         cCalled + cDevicesOn + cHungUp, ended("30010001", 24, true, true)},
+        {"call-busy", "", {out, untilIdle()}, cCalled + cDevicesOn, ended("30010001", 25, true, false)},
+        {"call-failed", "", {out, untilIdle()}, cCalled + cDevicesOn, ended("30010001", 22, true, false)},
+        {"call-rejected", "", {out, untilIdle()}, cCalled + cDevicesOn, ended("30010001", 26, true, false)},
+        {"call-hung-up", "", {out, untilIdle()}, cCalled + cDevicesOn, ended("30010001", 24, true, true)},
         {"call-never-answered", "cancelled by the user, the devices are switched on twice",
          {out, press("btnCancelCall"), untilIdle()},
-         kCalled + kHungUp + kDevicesOn + kDevicesOn, ended("30010001", 21, true, false)},
+         cCalled + cHungUp + cDevicesOn + cDevicesOn, ended("30010001", 21, true, false)},
         {"call-never-answered", "given up after a minute",
          {out, giveUp(&CVoipManage::slot_inviteCallTimeout), untilIdle()},
-         kCalled + kHungUp + kDevicesOn, ended("30010001", 21, true, false)},
+         cCalled + cHungUp + cDevicesOn, ended("30010001", 21, true, false)},
         {"call-never-answered", "ended by the host that goes offline, and the user is unregistered last",
          {out, offline(), untilIdle()},
-         kCalled + kHungUp + kDevicesOn + QStringList(R"(UnReg "me")"), ended("30010001", 21, true, false)},
+         cCalled + cHungUp + cDevicesOn + QStringList(R"(UnReg "me")"), ended("30010001", 21, true, false)},
     };
 }
 
@@ -209,18 +209,18 @@ QList<Row> callsIn()
     const QString second = "30010002";
     return {
         {"incoming-accepted", "", {untilRinging(caller), answer(true), untilIdle()},
-         kAccepted + kDevicesOn, rang(caller) + ended(caller, 24, false, true)},
+         cAccepted + cDevicesOn, rang(caller) + ended(caller, 24, false, true)},
         {"incoming-cancelled", "", {untilEnded(), untilIdle()},
-         kDevicesOn, rang(caller) + ended(caller, 21, false, false)},
+         cDevicesOn, rang(caller) + ended(caller, 21, false, false)},
         {"incoming-rejected", "by the user, a window never shown switches the devices on too",
          {untilRinging(caller), answer(false), untilIdle()},
-         kRejected + kDevicesOn, rang(caller) + ended(caller, 26, false, false)},
+         cRejected + cDevicesOn, rang(caller) + ended(caller, 26, false, false)},
         {"incoming-rejected", "after a minute without an answer",
          {untilRinging(caller), giveUp(&CVoipManage::slot_recevieCallTimeout), untilIdle()},
-         kRejected + kDevicesOn, rang(caller) + ended(caller, 26, false, false)},
+         cRejected + cDevicesOn, rang(caller) + ended(caller, 26, false, false)},
         {"second-incoming-call", "the hang-up ends the second one as connected",
          {untilRinging(caller), answer(true), untilConnected(), untilRinging(second), press("HangUp"), untilIdle()},
-         kAccepted + kHungUp + kDevicesOn, rang(caller) + rang(second) + ended(second, 24, false, true)},
+         cAccepted + cHungUp + cDevicesOn, rang(caller) + rang(second) + ended(second, 24, false, true)},
     };
 }
 
@@ -241,7 +241,7 @@ QStringList invited(const QString &uid)
 
 QList<Row> conferencesOfMyOwn()
 {
-    const QStringList closed = kDevicesOn + QStringList("HangupConf");
+    const QStringList closed = cDevicesOn + QStringList("HangupConf");
     return {
         {"conference-created", "closed by the user, the devices are switched on before the leaving",
          {conference({"30010001", "30010002"}), untilConnected(), untilMembers({"30010001 4", "30010002 5"}),
@@ -267,19 +267,19 @@ QList<Row> conferencesOfMyOwn()
          requested(R"(["30010001","30010006"])") +
              QStringList{R"(ControlConf "mute" "30010001")", R"(ControlConf "unmute" "30010001")",
                          R"(ControlConf "mute" "non_moderator")", R"(ControlConf "unmute" "non_moderator")",
-                         R"(ControlConf "kick" "30010001")"} + kDevicesOn, {}},
+                         R"(ControlConf "kick" "30010001")"} + cDevicesOn, {}},
         {"conference-crossed", "the creator loses the right to call again",
          {conference({"30010001", "30010002"}), untilLogged("voipsdk:crossed", 1), callAgain("30010002"),
           untilMembers({"30010001 1", "30010002 5"}), closeWindow(), untilIdle()},
          requested(R"(["30010001","30010002"])") + closed, {}},
         {"conference-refused", "", {conference({"30010001"}), untilIdle()},
-         requested(R"(["30010001"])") + kDevicesOn, {}},
+         requested(R"(["30010001"])") + cDevicesOn, {}},
     };
 }
 
 QList<Row> conferencesOfOthers()
 {
-    const QStringList joined = QStringList("AcceptConf") + kDevicesOn;
+    const QStringList joined = QStringList("AcceptConf") + cDevicesOn;
     return {
         {"conference-invited", "",
          {untilRinging("30010008"), answer(true), untilEnded(), membersWere({"30010008 1*", "30010001 1"}),
@@ -293,7 +293,7 @@ QList<Row> conferencesOfOthers()
          {untilRinging("30010008"), answer(true), untilEnded(), membersWere({"30010008 1*"}), untilIdle()},
          joined, invited("30010008")},
         {"conference-rejected", "", {untilRinging("30010008"), answer(false), untilIdle()},
-         QStringList("RejectConf") + kDevicesOn, invited("30010008")},
+         QStringList("RejectConf") + cDevicesOn, invited("30010008")},
     };
 }
 
@@ -304,11 +304,11 @@ QList<Row> lostCallProcess()
     return {
         {"away-for-a-while", "", {untilLost(), untilBack()}, again, {}},
         {"reconnect", "", {out, untilConnected(), untilLost(), stillInCall(), untilBack(), stillInCall(), untilIdle()},
-         kCalled + again + kDevicesOn, ended("30010001", 24, true, true)},
+         cCalled + again + cDevicesOn, ended("30010001", 24, true, true)},
         {"killed-while-calling", "", {out, untilLost(), stillInCall(), press("btnCancelCall"), untilIdle()},
-         kCalled, ended("30010001", 21, true, false), 9},
+         cCalled, ended("30010001", 21, true, false), 9},
         {"killed-while-connected", "", {out, untilConnected(), untilLost(), stillInCall(), closeWindow(), untilIdle()},
-         kCalled, ended("30010001", 24, true, true), 9},
+         cCalled, ended("30010001", 24, true, true), 9},
         {"killed-while-ringing", "", {untilRinging("30010001"), untilLost(), stillInCall(), answer(false), untilIdle()},
          {}, rang("30010001") + ended("30010001", 26, false, false), 9},
     };
@@ -317,13 +317,13 @@ QList<Row> lostCallProcess()
 QList<Row> wireInput()
 {
     const Step out = call("30010001");
-    const QStringList hungUp = kCalled + kHungUp + kDevicesOn;
+    const QStringList hungUp = cCalled + cHungUp + cDevicesOn;
     return {
         {"garbage", "", {out, untilConnected(), press("HangUp"), untilIdle()},
          hungUp, ended("30010001", 24, true, true)},
         {"split-line", "", {out, untilConnected(), press("HangUp"), untilIdle()},
          hungUp, ended("30010001", 24, true, true)},
-        {"two-lines-one-read", "", {out, untilIdle()}, kCalled + kDevicesOn, ended("30010001", 24, true, true)},
+        {"two-lines-one-read", "", {out, untilIdle()}, cCalled + cDevicesOn, ended("30010001", 24, true, true)},
         {"same-line-twice", "", {untilLogged("voipsdk:apart", 2), untilLogged("voipsdk:joined", 1)}, {}, {}},
     };
 }

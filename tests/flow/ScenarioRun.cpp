@@ -22,11 +22,11 @@
 
 namespace {
 
-constexpr int kWhole = -1;
+constexpr int cWhole = -1;
 
 bool patiently(const std::function<bool()> &condition)
 {
-    return QTest::qWaitFor(condition, kPatienceMs);
+    return QTest::qWaitFor(condition, cPatienceMs);
 }
 
 /// A folder below the test's own temporary directory, as that was before any run took its place.
@@ -102,10 +102,10 @@ QString cutScenario(const QString &strName, int iStatements, const QTemporaryDir
 
 } // namespace
 
-ScenarioRun::ScenarioRun(const QString &strName) : ScenarioRun(strName, kWhole) {}
+ScenarioRun::ScenarioRun(const QString &strName) : ScenarioRun(strName, cWhole) {}
 
 ScenarioRun::ScenarioRun(const QString &strName, int iStatements)
-    : m_folder(folderTemplate()), m_bCut(iStatements != kWhole),
+    : m_folder(folderTemplate()), m_bCut(iStatements != cWhole),
       trace(prepare(m_bCut ? cutScenario(strName, iStatements, m_folder) : scenarioFile(strName), m_folder)),
       engine(EngineFixture::RealCallProcess)
 {

@@ -260,7 +260,7 @@ void Walk::loseOrFindChannel()
     if (model.channelUp) {
         last = "lose the channel";
         engine.process.dropClient();
-        model.channelUp = manager().m_pVoipSocket && !manager().m_pVoipSocket->waitForDisconnected(kPatienceMs);
+        model.channelUp = manager().m_pVoipSocket && !manager().m_pVoipSocket->waitForDisconnected(cPatienceMs);
         holdReconnection();
     } else {
         last = "find the channel";

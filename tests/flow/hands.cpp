@@ -16,7 +16,7 @@ namespace {
 
 bool waitFor(const std::function<bool()> &condition)
 {
-    return QTest::qWaitFor(condition, kPatienceMs);
+    return QTest::qWaitFor(condition, cPatienceMs);
 }
 
 /// Calls somebody who answers, and hangs up.

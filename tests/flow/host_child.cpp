@@ -25,7 +25,7 @@
 
 namespace {
 
-constexpr int kRetryMs = 50;
+constexpr int cRetryMs = 50;
 
 // How often the call process has told that it knows this user.
 int registrations = 0;
@@ -68,7 +68,7 @@ void holdConference(FlowClient &client, int iPatienceMs)
                    QStringLiteral("talk"), true);
     if (!client.ask(MSG_IS_EXIST_CALL)) {
         say("refused");
-        QTest::qWait(kRetryMs);
+        QTest::qWait(cRetryMs);
         return;
     }
     say("begun");

@@ -28,7 +28,7 @@ private slots:
             // A conference takes some 30 ms from its begin to the next one's.
             QThread::usleep(random.bounded(40000U));
             host->kill();
-            QVERIFY(host->waitForFinished(kPatienceMs));
+            QVERIFY(host->waitForFinished(cPatienceMs));
             readRest(*host, &said);
             begun += said.count("begun");
             saved += said.count("saved");

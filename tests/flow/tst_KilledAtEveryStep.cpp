@@ -11,7 +11,7 @@
 
 namespace {
 
-const QString kRegistration = QStringLiteral(R"(RegeditUser "me" "" "ticket" false)");
+const QString cRegistration = QStringLiteral(R"(RegeditUser "me" "" "ticket" false)");
 
 /// One row for each scenario: the first way that a user goes with it.
 QList<Row> rowsToCut()
@@ -75,7 +75,7 @@ private slots:
             return;
         }
 
-        QVERIFY(QTest::qWaitFor([&] { return run.hasReadAll(); }, kPatienceMs));
+        QVERIFY(QTest::qWaitFor([&] { return run.hasReadAll(); }, cPatienceMs));
         run.engine.takeJournal();
         const QString call = run.engine.callText();
         const QString state = run.engine.state();
@@ -131,7 +131,7 @@ private:
         }
         QCOMPARE(run.finish(), 0);
         QCOMPARE(run.complaints(), QList<QByteArray>());
-        QCOMPARE(run.trace.commands(), QStringList({kRegistration, R"(CallUser "30010001" false)", "HangUpCall",
+        QCOMPARE(run.trace.commands(), QStringList({cRegistration, R"(CallUser "30010001" false)", "HangUpCall",
                                                     "SetMicEnable true", "SetSpeakerEnble true", "quit"}));
         QCOMPARE(run.engine.takeJournal(),
                  QStringList({"4345 30010001@kelvar.im", "4478 false 30010001 24 true true"}));

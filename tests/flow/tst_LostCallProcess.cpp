@@ -29,7 +29,7 @@ private slots:
     void cleanupTestCase()
     {
         m_client.command(MSG_EXIT_VOIP);
-        QTRY_VERIFY_WITH_TIMEOUT(!m_client.callProcessLives(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_client.callProcessLives(), cPatienceMs);
     }
 
     void killedInEveryState_data()
@@ -53,7 +53,7 @@ private slots:
         QVERIFY(m_client.killCallProcess());
         // The engine writes the socket's error to the debug log once it has seen the loss.
         QTRY_VERIFY_WITH_TIMEOUT(messages.debugLines.contains(QString::number(QLocalSocket::PeerClosedError)),
-                                 kPatienceMs);
+                                 cPatienceMs);
         QCOMPARE(m_client.ask(MSG_IS_EXIST_CALL), state != Idle);
         QCOMPARE(m_client.callWindow()->isVisible(), visible);
         QVERIFY2(m_client.host.received(MSG_CALL_FINISHED).isEmpty(), "the loss ends nothing by itself");
@@ -77,13 +77,13 @@ private slots:
         QVERIFY(m_client.killCallProcess());
         const int registrations = m_client.countOnWire(QStringLiteral("RegeditUser"));
         QVERIFY(m_client.startCallProcess());
-        QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("RegeditUser")), registrations + 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("RegeditUser")), registrations + 1, cPatienceMs);
         QVERIFY2(m_client.ask(MSG_IS_EXIST_CALL), "the call is neither told nor changed");
         QVERIFY(m_client.callWindow()->isVisible());
 
         QTest::mouseClick(m_client.callWindowButton("HangUp"), Qt::LeftButton);
         QCOMPARE(CallRecord(m_client.host.received(MSG_CALL_FINISHED).constFirst()).iResult, 24);
-        QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("HangUpCall")), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("HangUpCall")), 1, cPatienceMs);
     }
 
 private:
@@ -108,7 +108,7 @@ private:
         case Connected:
             m_client.command(MSG_CALL_SINGLE_USER, false, QStringLiteral("30010001"));
             return QTest::qWaitFor([&] { return m_client.callWindowText("lblStatus") == QStringLiteral("已接通"); },
-                                   kPatienceMs);
+                                   cPatienceMs);
         }
         return false;
     }
@@ -117,7 +117,7 @@ private:
     {
         m_client.command(MSG_CALL_SINGLE_USER, false, QStringLiteral("30010007"));
         const bool rings =
-            QTest::qWaitFor([&] { return !m_client.host.received(MSG_RECEVIE_VOIP_CALL).isEmpty(); }, kPatienceMs);
+            QTest::qWaitFor([&] { return !m_client.host.received(MSG_RECEVIE_VOIP_CALL).isEmpty(); }, cPatienceMs);
         m_client.host.events.clear();
         return rings;
     }

@@ -10,13 +10,13 @@
 
 namespace {
 
-const QString kAnswers = QStringLiteral("30010001");
-const QString kBusy = QStringLiteral("30010002");
-const QString kRejects = QStringLiteral("30010003");
-const QString kNever = QStringLiteral("30010004");
-const QString kFails = QStringLiteral("30010005");
-const QString kHangsUp = QStringLiteral("30010006");
-const QString kCallsBack = QStringLiteral("30010007");
+const QString cAnswers = QStringLiteral("30010001");
+const QString cBusy = QStringLiteral("30010002");
+const QString cRejects = QStringLiteral("30010003");
+const QString cNever = QStringLiteral("30010004");
+const QString cFails = QStringLiteral("30010005");
+const QString cHangsUp = QStringLiteral("30010006");
+const QString cCallsBack = QStringLiteral("30010007");
 
 } // namespace
 
@@ -51,10 +51,10 @@ private slots:
         QTest::addColumn<QString>("uid");
         QTest::addColumn<int>("result");
         QTest::addColumn<bool>("connected");
-        QTest::newRow("busy") << kBusy << 25 << false;
-        QTest::newRow("rejected") << kRejects << 26 << false;
-        QTest::newRow("failed") << kFails << 22 << false;
-        QTest::newRow("hung up by the far end") << kHangsUp << 24 << true;
+        QTest::newRow("busy") << cBusy << 25 << false;
+        QTest::newRow("rejected") << cRejects << 26 << false;
+        QTest::newRow("failed") << cFails << 22 << false;
+        QTest::newRow("hung up by the far end") << cHangsUp << 24 << true;
     }
 
     void outgoingCallEnds()
@@ -79,12 +79,12 @@ private slots:
 
     void answeredCallRunsUntilTheUserHangsUp()
     {
-        call(kAnswers);
+        call(cAnswers);
         QCOMPARE(m_client.callWindowText("lblStatus"), QStringLiteral("正在呼叫..."));
-        QTRY_COMPARE_WITH_TIMEOUT(m_client.callWindowText("lblStatus"), QStringLiteral("已接通"), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.callWindowText("lblStatus"), QStringLiteral("已接通"), cPatienceMs);
         // A whole second by the window's clock may be a little less by the record's, two are one in any case.
         QTRY_VERIFY_WITH_TIMEOUT(m_client.callWindowText("currentPlayTimeLabel") >= QStringLiteral("00:00:02"),
-                                 kPatienceMs);
+                                 cPatienceMs);
 
         const int hangUps = m_client.countOnWire(QStringLiteral("HangUpCall"));
         QTest::mouseClick(m_client.callWindowButton("HangUp"), Qt::LeftButton);
@@ -92,12 +92,12 @@ private slots:
         QCOMPARE(lastRecord().iResult, 24);
         QVERIFY(lastRecord().bIsConnected);
         QVERIFY(lastRecord().iSeconds >= 1);
-        QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("HangUpCall")), hangUps + 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("HangUpCall")), hangUps + 1, cPatienceMs);
     }
 
     void ringingCallIsCancelledByTheUser()
     {
-        call(kNever);
+        call(cNever);
         QTest::mouseClick(m_client.callWindowButton("btnCancelCall"), Qt::LeftButton);
         QCOMPARE(m_client.host.received(MSG_CALL_FINISHED).size(), 1);
         QCOMPARE(lastRecord().iResult, 21);
@@ -107,7 +107,7 @@ private slots:
 
     void videoCallIsNoVideoCallForTheHost()
     {
-        call(kNever, true);
+        call(cNever, true);
         QVERIFY(m_client.ask(MSG_IS_EXIST_CALL));
         QVERIFY(!m_client.ask(MSG_IS_VIDEO_CALL));
         QTest::mouseClick(m_client.callWindowButton("btnCancelCall"), Qt::LeftButton);
@@ -118,12 +118,12 @@ private slots:
     {
         QVERIFY(waitForIncoming());
         PayloadReader prompt(m_client.host.received(MSG_RECEVIE_VOIP_CALL).constLast().payload);
-        QCOMPARE(prompt.take<QString>(), kCallsBack);
+        QCOMPARE(prompt.take<QString>(), cCallsBack);
         QVERIFY(!m_client.callWindow()->isVisible());
 
         m_client.command(MSG_RESPONSE_VOIP_REQUEST, true);
         QVERIFY(m_client.callWindow()->isVisible());
-        QTRY_COMPARE_WITH_TIMEOUT(m_client.callWindowText("lblStatus"), QStringLiteral("已接通"), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.callWindowText("lblStatus"), QStringLiteral("已接通"), cPatienceMs);
         QVERIFY(waitForRecord(2));
         QCOMPARE(lastRecord().iResult, 24);
         QVERIFY(!lastRecord().bIsCaller);
@@ -137,29 +137,29 @@ private slots:
         m_client.command(MSG_RESPONSE_VOIP_REQUEST, false);
         QCOMPARE(m_client.host.received(MSG_CALL_FINISHED).size(), 2);
         QCOMPARE(lastRecord().iResult, 26);
-        QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("RejectCall")), rejects + 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("RejectCall")), rejects + 1, cPatienceMs);
         QVERIFY(!m_client.callWindow()->isVisible());
     }
 
     void goingOfflineHangsUpAndUnregisters()
     {
-        call(kNever);
+        call(cNever);
         m_client.command(MSG_CLIENT_CONNECT_STATUS, false);
         QCOMPARE(lastRecord().iResult, 21);
-        QTRY_COMPARE_WITH_TIMEOUT(m_client.commandsOnWire().constLast(), QStringLiteral("UnReg"), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.commandsOnWire().constLast(), QStringLiteral("UnReg"), cPatienceMs);
         QVERIFY(m_client.goOnline());
     }
 
     void conferenceIsStartedAndLeft()
     {
-        m_client.command(MSG_CALL_CONFERENCE, QStringList{kAnswers, kNever}, QStringLiteral("title"), true);
+        m_client.command(MSG_CALL_CONFERENCE, QStringList{cAnswers, cNever}, QStringLiteral("title"), true);
         QVERIFY(m_client.ask(MSG_IS_EXIST_CALL));
         QVERIFY(m_client.callWindow()->isVisible());
-        QTRY_VERIFY_WITH_TIMEOUT(m_client.codesOnWire().contains(12), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_client.codesOnWire().contains(12), cPatienceMs);
         const int hangUps = m_client.countOnWire(QStringLiteral("HangupConf"));
         m_client.callWindow()->close();
         QVERIFY(!m_client.ask(MSG_IS_EXIST_CALL));
-        QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("HangupConf")), hangUps + 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_client.countOnWire(QStringLiteral("HangupConf")), hangUps + 1, cPatienceMs);
         QVERIFY2(m_client.host.received(MSG_CALL_FINISHED).isEmpty(), "a conference leaves no call record at the host");
     }
 
@@ -167,7 +167,7 @@ private slots:
     {
         QVERIFY(m_client.callProcessLives());
         m_client.command(MSG_EXIT_VOIP);
-        QTRY_VERIFY_WITH_TIMEOUT(!m_client.callProcessLives(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_client.callProcessLives(), cPatienceMs);
     }
 
 private:
@@ -175,7 +175,7 @@ private:
 
     bool waitForRecord(int count = 1)
     {
-        return QTest::qWaitFor([&] { return m_client.host.received(MSG_CALL_FINISHED).size() >= count; }, kPatienceMs);
+        return QTest::qWaitFor([&] { return m_client.host.received(MSG_CALL_FINISHED).size() >= count; }, cPatienceMs);
     }
 
     CallRecord lastRecord() const { return CallRecord(m_client.host.received(MSG_CALL_FINISHED).constLast()); }
@@ -183,9 +183,9 @@ private:
     /// Lets the robot that calls back do so.
     bool waitForIncoming()
     {
-        call(kCallsBack);
+        call(cCallsBack);
         return waitForRecord() &&
-               QTest::qWaitFor([&] { return !m_client.host.received(MSG_RECEVIE_VOIP_CALL).isEmpty(); }, kPatienceMs);
+               QTest::qWaitFor([&] { return !m_client.host.received(MSG_RECEVIE_VOIP_CALL).isEmpty(); }, cPatienceMs);
     }
 
     FlowClient m_client{"10"};

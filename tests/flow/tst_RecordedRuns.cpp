@@ -31,7 +31,7 @@ Outcome run(const QString &strProgram, const QStringList &arguments, const QMap<
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setWorkingDirectory(strFolder);
     process.start(strProgram, arguments);
-    const bool ended = process.waitForFinished(3 * kPatienceMs) && process.exitStatus() == QProcess::NormalExit;
+    const bool ended = process.waitForFinished(3 * cPatienceMs) && process.exitStatus() == QProcess::NormalExit;
     return {ended ? process.exitCode() : -1, QString::fromUtf8(process.readAll())};
 }
 
@@ -143,7 +143,7 @@ private:
             return {};
         }
         // The recorder sees the end of its call process a moment after the client does.
-        return QTest::qWaitFor([&] { return readBytes(scenario).endsWith("expect quit\n"); }, kPatienceMs) ? scenario
+        return QTest::qWaitFor([&] { return readBytes(scenario).endsWith("expect quit\n"); }, cPatienceMs) ? scenario
                                                                                                            : QString();
     }
 

@@ -29,7 +29,7 @@ private slots:
 
         for (QProcess *host : {first.get(), second.get()}) {
             host->write("quit\n");
-            QVERIFY(host->waitForFinished(kPatienceMs));
+            QVERIFY(host->waitForFinished(cPatienceMs));
             QCOMPARE(host->exitStatus(), QProcess::NormalExit);
             QCOMPARE(host->exitCode(), 0);
         }

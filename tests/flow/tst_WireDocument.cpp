@@ -163,7 +163,7 @@ struct Row
 };
 
 // clang-format off
-const Row kRows[] = {
+const Row cRows[] = {
     {Wire::Code::IncomingCall,       signIn,     "incoming 30010007, receive, ring"},
     {Wire::Code::IncomingCallAlt,    signIn,     "incoming 30010007, receive, ring"},
     {Wire::Code::IncomingConf,       signIn,     "incoming 30010008, receive, ring; in 700001"},
@@ -225,7 +225,7 @@ private slots:
     void everyCommandHasItsExample_data()
     {
         QTest::addColumn<int>("number");
-        for (const Wire::CommandRow &row : Wire::kCommands) {
+        for (const Wire::CommandRow &row : Wire::cCommands) {
             QTest::newRow(row.name) << static_cast<int>(row.command);
         }
     }
@@ -256,13 +256,13 @@ private slots:
 
     void documentHasNoOtherCommands()
     {
-        QCOMPARE(examples(QStringLiteral("{\"messagetype\":")).size(), static_cast<int>(Wire::kCommands.size()));
+        QCOMPARE(examples(QStringLiteral("{\"messagetype\":")).size(), static_cast<int>(Wire::cCommands.size()));
     }
 
     void everyNotificationHasItsExample_data()
     {
         QTest::addColumn<Row>("row");
-        for (const Row &row : kRows) {
+        for (const Row &row : cRows) {
             QTest::newRow(QByteArray::number(static_cast<int>(row.code)).constData()) << row;
         }
     }
@@ -291,23 +291,23 @@ private slots:
 
     void documentHasNoOtherNotifications()
     {
-        QCOMPARE(examples(QStringLiteral("{\"content\":\"")).size(), static_cast<int>(std::size(kRows)));
+        QCOMPARE(examples(QStringLiteral("{\"content\":\"")).size(), static_cast<int>(std::size(cRows)));
         int named = 0;
-        for (const Wire::NotificationRow &row : Wire::kNotifications) {
+        for (const Wire::NotificationRow &row : Wire::cNotifications) {
             named += *row.name != '\0' ? 1 : 0;
         }
-        QCOMPARE(named, static_cast<int>(std::size(kRows)));
+        QCOMPARE(named, static_cast<int>(std::size(cRows)));
     }
 
     void tablesNameEveryCommandAndNotification()
     {
         const QStringList rows = document().split('\n').filter(QRegularExpression(QStringLiteral("^\\| ")));
-        for (const Wire::CommandRow &command : Wire::kCommands) {
+        for (const Wire::CommandRow &command : Wire::cCommands) {
             const QRegularExpression cell(
                 QStringLiteral("^\\| [^|]*\\b%1\\b[^|]*\\|").arg(QLatin1String(command.name)));
             QVERIFY2(rows.filter(cell).size() == 2, command.name);
         }
-        for (const Wire::NotificationRow &notification : Wire::kNotifications) {
+        for (const Wire::NotificationRow &notification : Wire::cNotifications) {
             const QString name = QString::fromLatin1(notification.name);
             const QRegularExpression cells(QStringLiteral("^\\| (\\d+, )*%1(, \\d+)* \\|%2")
                                                .arg(static_cast<int>(notification.code))
@@ -331,7 +331,7 @@ private slots:
                 ++checked;
             }
         }
-        QCOMPARE(checked, Wire::kCommands.size());
+        QCOMPARE(checked, Wire::cCommands.size());
     }
 
     void tableOfNotificationsHasTheirContents()
@@ -345,7 +345,7 @@ private slots:
                 ++checked;
             }
         }
-        QCOMPARE(checked, Wire::kNotifications.size());
+        QCOMPARE(checked, Wire::cNotifications.size());
     }
 
     void sequencesNameWhatThereIs()
@@ -361,12 +361,12 @@ private slots:
             if (command.hasMatch()) {
                 ++commands;
                 const QString name = command.captured(1);
-                QVERIFY2(findCommand(name) || name == QLatin1String(Wire::kQuitLine), qPrintable(line));
+                QVERIFY2(findCommand(name) || name == QLatin1String(Wire::cQuitLine), qPrintable(line));
             } else {
                 ++notifications;
                 QVERIFY2(notification.hasMatch(), qPrintable(line));
                 const int code = notification.captured(1).toInt();
-                const bool known = std::any_of(Wire::kNotifications.begin(), Wire::kNotifications.end(),
+                const bool known = std::any_of(Wire::cNotifications.begin(), Wire::cNotifications.end(),
                                                [&](const Wire::NotificationRow &row) {
                                                    return static_cast<int>(row.code) == code &&
                                                           notification.captured(2) == QLatin1String(row.name);
@@ -385,7 +385,7 @@ private slots:
             documented << cells.at(0) + ' ' + cells.at(1);
         }
         QStringList robots;
-        for (const Robot &robot : ROBOTS) {
+        for (const Robot &robot : cRobots) {
             robots << QString(robot.id) + ' ' + robot.name;
         }
         QCOMPARE(documented, robots);

@@ -13,10 +13,10 @@
 
 namespace {
 
-constexpr quint32 kSeed = 20240607;
-constexpr int kMostChanges = 8;
-constexpr int kChangedInputs = 2000;
-constexpr qint64 kMostGrowthMiB = 64;
+constexpr quint32 cSeed = 20240607;
+constexpr int cMostChanges = 8;
+constexpr int cChangedInputs = 2000;
+constexpr qint64 cMostGrowthMiB = 64;
 
 QString folderOf(const char *kind, const char *target)
 {
@@ -91,7 +91,7 @@ public:
     QByteArray next()
     {
         QByteArray input = anyOf(m_inputs);
-        for (int left = 1 + below(kMostChanges); left > 0; --left) {
+        for (int left = 1 + below(cMostChanges); left > 0; --left) {
             change(input);
         }
         return input.left(m_longest);
@@ -131,13 +131,13 @@ private:
     const QList<QByteArray> m_inputs;
     const QList<QByteArray> m_words;
     const int m_longest;
-    std::minstd_rand m_random{kSeed};
+    std::minstd_rand m_random{cSeed};
 };
 
 void eachTargetIsARow()
 {
     QTest::addColumn<QByteArray>("name");
-    for (const FuzzTarget &target : fuzzTargets) {
+    for (const FuzzTarget &target : cFuzzTargets) {
         QTest::newRow(target.name) << QByteArray(target.name);
     }
 }
@@ -160,7 +160,7 @@ private slots:
     {
         FuzzApplication::silenceQt();
         // What is made once is no input's time.
-        for (const FuzzTarget &target : fuzzTargets) {
+        for (const FuzzTarget &target : cFuzzTargets) {
             target.run(keptInputs(target).first());
         }
     }
@@ -196,7 +196,7 @@ private slots:
     {
         QTest::addColumn<QByteArray>("name");
         QTest::addColumn<QByteArray>("input");
-        for (const FuzzTarget &target : fuzzTargets) {
+        for (const FuzzTarget &target : cFuzzTargets) {
             const QMap<QString, QByteArray> inputs = keptInputs(target);
             for (auto input = inputs.cbegin(); input != inputs.cend(); ++input) {
                 QTest::addRow("%s %s", target.name, qPrintable(input.key())) << QByteArray(target.name) << *input;
@@ -219,7 +219,7 @@ private slots:
     {
         QFETCH(const QByteArray, name);
         const int count =
-            qEnvironmentVariableIsSet("FUZZ_INPUTS") ? qEnvironmentVariableIntValue("FUZZ_INPUTS") : kChangedInputs;
+            qEnvironmentVariableIsSet("FUZZ_INPUTS") ? qEnvironmentVariableIntValue("FUZZ_INPUTS") : cChangedInputs;
         const qint64 before = residentMiB();
         const FuzzTarget &target = *findFuzzTarget(name);
         Changer changer(target);
@@ -230,7 +230,7 @@ private slots:
                      qPrintable(QStringLiteral("%1 ms: %2").arg(cpuMs).arg(input.toHex().constData())));
         }
         const qint64 growth = residentMiB() - before;
-        QVERIFY2(isSanitized() || growth <= kMostGrowthMiB, qPrintable(QStringLiteral("%1 MiB more").arg(growth)));
+        QVERIFY2(isSanitized() || growth <= cMostGrowthMiB, qPrintable(QStringLiteral("%1 MiB more").arg(growth)));
     }
 
 private:

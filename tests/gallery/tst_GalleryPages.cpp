@@ -71,7 +71,7 @@ private slots:
         for (const QLabel *label : page.findChildren<QLabel *>()) {
             texts.append(label->text());
         }
-        for (const IconGlyph::Row &row : IconGlyph::ALL) {
+        for (const IconGlyph::Row &row : IconGlyph::cAll) {
             QCOMPARE(texts.count(IconGlyph::text(row.codePoint)), 4);
             QCOMPARE(texts.count(QLatin1String(row.pName)), 1);
             QCOMPARE(texts.count(QStringLiteral("U+") + QString::number(row.codePoint, 16).toUpper()), 1);
@@ -102,7 +102,7 @@ private slots:
         const GalleryUser user;
         WidgetsPage page;
         page.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&page, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&page, cPatienceMs));
         QWidget *pField = nullptr;
         for (QLabel *pLabel : page.findChildren<QLabel *>()) {
             if (pLabel->text() == QStringLiteral("drag here")) {
@@ -160,7 +160,7 @@ private slots:
         QFETCH(int, index);
         DialogsPage page;
         page.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&page, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&page, cPatienceMs));
         const QList<PushButtonEx *> buttons = openButtons(page);
         QCOMPARE(buttons.size(), DialogModes::all().size());
 
@@ -172,16 +172,16 @@ private slots:
             }
         });
         QTest::mouseClick(buttons.at(index)->findChild<QPushButton *>(), Qt::LeftButton);
-        QTRY_VERIFY_WITH_TIMEOUT(!shown.isEmpty(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!shown.isEmpty(), cPatienceMs);
         QTEST(shown, "page");
-        QTRY_VERIFY_WITH_TIMEOUT(page.findChild<ErrorMessage *>() == nullptr, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(page.findChild<ErrorMessage *>() == nullptr, cPatienceMs);
     }
 
     void answerOfTheDialogIsShown()
     {
         DialogsPage page;
         page.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&page, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&page, cPatienceMs));
         QTimer::singleShot(0, &page, [&] {
             auto *dialog = page.findChild<ErrorMessage *>();
             emit dialog->findChild<PushButtonEx *>(QStringLiteral("acceptBtn"))->clicked();

@@ -16,12 +16,12 @@ class SystemSetTest : public QObject
     Q_OBJECT
 
 protected:
-    static constexpr char USER[] = "10000001";
+    static constexpr char cUser[] = "10000001";
 
     /// A path in the folder of this test function.
     QString inFolder(const QString &strPath) const { return m_folder->filePath(strPath); }
-    /// The file of USER's settings.
-    QString userFile() const { return m_folder->filePath(QString(USER) + "/newConfig.ini"); }
+    /// The file of cUser's settings.
+    QString userFile() const { return m_folder->filePath(QString(cUser) + "/newConfig.ini"); }
 
     /// Stores the values in the user's file and reads it into fresh settings.
     SystemSetData readUser(const QVariantMap &mapStored) const
@@ -35,7 +35,7 @@ protected:
         }
         SystemSetData data;
         data.m_strMsgFilePath = m_folder->path();
-        data.initData(USER);
+        data.initData(cUser);
         return data;
     }
 

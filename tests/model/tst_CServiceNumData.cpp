@@ -14,8 +14,8 @@
 
 namespace {
 
-const QString SERVICE_HEAD = QStringLiteral("Resources/images/FriendDetail/ic_portrait_server_90.png");
-const QString CHANNEL_HEAD = QStringLiteral("Resources/images/CommonCtrls/kvim_customer.png");
+const QString cServiceHead = QStringLiteral("Resources/images/FriendDetail/ic_portrait_server_90.png");
+const QString cChannelHead = QStringLiteral("Resources/images/CommonCtrls/kvim_customer.png");
 
 Json::Value json(const char *text)
 {
@@ -27,7 +27,7 @@ Json::Value json(const char *text)
     return root;
 }
 
-const char *const WHOLE_SERVICE = R"({
+const char *const cWholeService = R"({
   "iServiceCode":"c1","name":"\u516c\u544a","description":"d","icon":"bell","subType":3,"isBindApp":true,"isSub":true,
   "isInteractive":true,"subject":"s","contactWay":"w","fold":true,"status":5,"version":"17",
   "menuList":[{"name":"top","leaf":false,"type":1,"value":"v","pcLink":"p","moLink":"m",
@@ -79,7 +79,7 @@ private slots:
     void everyKeyFindsItsField()
     {
         CServiceNumData data;
-        data.parseFromJson(json(WHOLE_SERVICE));
+        data.parseFromJson(json(cWholeService));
         QCOMPARE(data.m_strServiceCode, QString("c1"));
         QCOMPARE(data.m_strName, QString("公告"));
         QCOMPARE(data.m_strDescription, QString("d"));
@@ -105,7 +105,7 @@ private slots:
     void aChannelCarriesItsIdIntoItsGroups()
     {
         CServiceNumData data;
-        data.parseFromJson(json(WHOLE_SERVICE));
+        data.parseFromJson(json(cWholeService));
         const CSChannelData &channel = data.m_channel;
         QCOMPARE(channel.m_strChannelId, QString("ch"));
         QCOMPARE(channel.m_strChannelName, QString("desk"));
@@ -121,7 +121,7 @@ private slots:
     void anotherChannelTakesThePlaceOfTheWholeOne()
     {
         CServiceNumData data;
-        data.parseFromJson(json(WHOLE_SERVICE));
+        data.parseFromJson(json(cWholeService));
         data.parseChannel(json(R"({"id":"other","workgroupList":[{"id":"g3","name":"third"}]})"));
         QCOMPARE(data.m_channel.m_strChannelId, QString("other"));
         QVERIFY(data.m_channel.m_strWelcome.isEmpty());
@@ -152,7 +152,7 @@ private slots:
     void missingKeysOverwriteWithNothing()
     {
         CServiceNumData data;
-        data.parseFromJson(json(WHOLE_SERVICE));
+        data.parseFromJson(json(cWholeService));
         data.parseFromJson(json("{}"));
         QVERIFY(data.m_strServiceCode.isEmpty() && data.m_strName.isEmpty() && data.m_strIconPath.isEmpty());
         QVERIFY(!data.m_bFold && !data.m_bSubscribed);
@@ -321,7 +321,7 @@ private slots:
     {
         QFETCH(QByteArray, text);
         CServiceNumData data;
-        data.parseFromJson(json(WHOLE_SERVICE));
+        data.parseFromJson(json(cWholeService));
         QVERIFY_EXCEPTION_THROWN(data.parseFromJson(json(text.constData())), Json::LogicError);
         QCOMPARE(data.m_strServiceCode, QString("c1"));
         QCOMPARE(data.m_listMenu.size(), 2);
@@ -358,9 +358,9 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("icon");
         QTest::addColumn<QString>("channel");
-        QTest::newRow("empty") << QString() << QString() << CHANNEL_HEAD;
-        QTest::newRow("the service head") << SERVICE_HEAD << SERVICE_HEAD << "/data/me/designHeadImage/" + SERVICE_HEAD;
-        QTest::newRow("the channel head") << CHANNEL_HEAD << "/data/me/designHeadImage/" + CHANNEL_HEAD << CHANNEL_HEAD;
+        QTest::newRow("empty") << QString() << QString() << cChannelHead;
+        QTest::newRow("the service head") << cServiceHead << cServiceHead << "/data/me/designHeadImage/" + cServiceHead;
+        QTest::newRow("the channel head") << cChannelHead << "/data/me/designHeadImage/" + cChannelHead << cChannelHead;
         QTest::newRow("built in") << "99"
                                   << "Resources/SystemAvatar/99.jpg"
                                   << "Resources/SystemAvatar/99.jpg";

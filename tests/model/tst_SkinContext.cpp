@@ -10,7 +10,7 @@
 namespace {
 
 /// The texts of the built-in skin that are not empty, as the widgets expect them.
-const std::map<int, QString> EXPECTED = {
+const std::map<int, QString> cExpected = {
     {2, "ThemeGreen"},
     {3, "ThemeGreen"},
     {5, "#33af56"},
@@ -110,11 +110,11 @@ private slots:
         const std::map<int, QString> texts = textsOf(*SkinContext::getSkinData());
         QCOMPARE(texts.size(), size_t(62));
         for (const auto &[iPosition, strText] : texts) {
-            const auto expected = EXPECTED.find(iPosition);
-            const QString strExpected = expected == EXPECTED.end() ? QString() : expected->second;
+            const auto expected = cExpected.find(iPosition);
+            const QString strExpected = expected == cExpected.end() ? QString() : expected->second;
             QVERIFY2(strText == strExpected, qPrintable(QString("%1: %2").arg(iPosition).arg(strText)));
         }
-        for (const auto &[iPosition, strText] : EXPECTED) {
+        for (const auto &[iPosition, strText] : cExpected) {
             QVERIFY2(texts.count(iPosition), qPrintable(QString::number(iPosition)));
         }
     }

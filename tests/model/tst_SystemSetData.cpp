@@ -14,7 +14,7 @@ Q_DECLARE_METATYPE(Check)
 namespace {
 
 /// The keys of a user's file in the order of reading.
-const QStringList USER_KEYS = {
+const QStringList cUserKeys = {
     "/basicSetting/autoLogin",
     "/basicSetting/autoLunch",
     "/basicSetting/autoLogin_statu",
@@ -89,8 +89,8 @@ class tst_SystemSetData : public SystemSetTest
 private slots:
     void theUsersKeysAreReadInOrder()
     {
-        QCOMPARE(USER_KEYS.size(), 51);
-        QCOMPARE(SystemSetData::userConfigKeys(), USER_KEYS);
+        QCOMPARE(cUserKeys.size(), 51);
+        QCOMPARE(SystemSetData::userConfigKeys(), cUserKeys);
     }
 
     void aNewObjectIsEmptyAndTouchesNoFile()
@@ -215,7 +215,7 @@ private slots:
         QFETCH(QString, key);
         QFETCH(QVariant, value);
         QFETCH(Check, check);
-        QVERIFY(USER_KEYS.contains(key));
+        QVERIFY(cUserKeys.contains(key));
         QVERIFY(check(readUser({{key, value}})));
     }
 
@@ -248,7 +248,7 @@ private slots:
         // A user with a folder of their own leaves the default one as it was.
         data.m_strMsgFilePath = inFolder({});
         QVERIFY(!readUser({{"/msgSetting/transfilepath", "/mine"}}).m_strUserName.isEmpty());
-        data.initData(USER);
+        data.initData(cUser);
         QCOMPARE(data.m_strTransFilePath, QString("/mine"));
         QCOMPARE(data.m_strDefaultReceiveFolder, strReceived);
     }

@@ -97,8 +97,8 @@ private slots:
     {
         SystemSetData data;
         data.m_strMsgFilePath = "relative/files";
-        data.initData(USER);
-        QCOMPARE(data.m_strUserName, QString(USER));
+        data.initData(cUser);
+        QCOMPARE(data.m_strUserName, QString(cUser));
         QCOMPARE(data.m_strUserFolder, QString("relative/files/10000001"));
         QCOMPARE(data.m_strHeadImageFolder, QString("relative/files/10000001/designHeadImage/"));
         QCOMPARE(data.m_strUserConfigPath, QString("relative/files/10000001/newConfig.ini"));

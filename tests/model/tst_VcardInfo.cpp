@@ -11,8 +11,8 @@
 
 namespace {
 
-const QString DEFAULT_HEAD = QStringLiteral("Resources/images/FriendDetail/defaultHead.png");
-const QString SERVICE_HEAD = QStringLiteral("Resources/images/FriendDetail/ic_portrait_server_90.png");
+const QString cDefaultHead = QStringLiteral("Resources/images/FriendDetail/defaultHead.png");
+const QString cServiceHead = QStringLiteral("Resources/images/FriendDetail/ic_portrait_server_90.png");
 
 QString randomNumbers(quint32 iSeed)
 {
@@ -119,18 +119,18 @@ private slots:
     void longListOfNumbersTakesNoLonger_data()
     {
         QTest::addColumn<QString>("text");
-        constexpr int UNITS = 300000;
+        constexpr int units = 300000;
         QString strDistinct;
-        for (int i = 1000000; strDistinct.size() < UNITS; ++i) {
+        for (int i = 1000000; strDistinct.size() < units; ++i) {
             strDistinct += QString::number(i) + ' ';
         }
         QTest::newRow("distinct") << strDistinct;
         QString strGrowing;
-        for (int i = 1; strGrowing.size() < UNITS; ++i) {
+        for (int i = 1; strGrowing.size() < units; ++i) {
             strGrowing += QString(i, '1') + ' ';
         }
         QTest::newRow("each holds the one before") << strGrowing;
-        QTest::newRow("one") << QString(UNITS, '1') + " 2";
+        QTest::newRow("one") << QString(units, '1') + " 2";
     }
 
     void longListOfNumbersTakesNoLonger()
@@ -148,7 +148,7 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         QTest::newRow("empty") << "";
-        QTest::newRow("its own name") << DEFAULT_HEAD;
+        QTest::newRow("its own name") << cDefaultHead;
     }
 
     void anEmptyPhotoNameIsTheDefaultHead()
@@ -158,8 +158,8 @@ private slots:
         card.setPhotoName("own");
         QVERIFY(!card.m_bSystemAvatar);
         card.setPhotoName(name);
-        QCOMPARE(card.m_strPhotoName, DEFAULT_HEAD);
-        QCOMPARE(card.m_strPhotoPath, DEFAULT_HEAD);
+        QCOMPARE(card.m_strPhotoName, cDefaultHead);
+        QCOMPARE(card.m_strPhotoPath, cDefaultHead);
         QVERIFY(card.m_bSystemAvatar);
     }
 
@@ -167,9 +167,9 @@ private slots:
     {
         VcardInfo card;
         card.m_bSystemAvatar = false;
-        card.setPhotoName(SERVICE_HEAD);
-        QCOMPARE(card.m_strPhotoName, SERVICE_HEAD);
-        QCOMPARE(card.m_strPhotoPath, SERVICE_HEAD);
+        card.setPhotoName(cServiceHead);
+        QCOMPARE(card.m_strPhotoName, cServiceHead);
+        QCOMPARE(card.m_strPhotoPath, cServiceHead);
         QVERIFY(card.m_bSystemAvatar);
     }
 

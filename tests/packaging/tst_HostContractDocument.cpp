@@ -25,7 +25,7 @@ using Cells = QStringList;
 
 namespace {
 
-constexpr int commandCount = 9;
+constexpr int cCommandCount = 9;
 
 QString nameOf(EMsgId msgId)
 {
@@ -169,7 +169,7 @@ private slots:
         QFETCH(bool, bRequests);
         QFETCH(int, iPayload);
         QStringList expected;
-        for (const HostEvent &event : hostEvents) {
+        for (const HostEvent &event : cHostEvents) {
             if ((event.way == EventWay::Request) == bRequests) {
                 expected.append(
                     QString("%1 %2 (%3) (%4)")
@@ -193,7 +193,7 @@ private slots:
     void everyDocumentedCommandIsKnown()
     {
         const QList<Cells> rows = rowsOf(QStringLiteral("Commands"));
-        QCOMPARE(rows.size(), commandCount);
+        QCOMPARE(rows.size(), cCommandCount);
         for (const Cells &row : rows) {
             QVERIFY2(findHostCommand(row[0].toInt()) != nullptr, qPrintable(row[0]));
         }
@@ -203,7 +203,7 @@ private slots:
     {
         QTest::addColumn<Cells>("row");
         const QList<Cells> rows = rowsOf(QStringLiteral("Requests"));
-        QCOMPARE(rows.size(), static_cast<int>(std::size(hostRequests)));
+        QCOMPARE(rows.size(), static_cast<int>(std::size(cHostRequests)));
         for (const Cells &row : rows) {
             QTest::newRow(qPrintable(row[0])) << row;
         }

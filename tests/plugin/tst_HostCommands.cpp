@@ -34,7 +34,7 @@ public:
     static CVoipWidget *window() { return m_pInstance->*(&ManagerState::m_pVoipWidget); }
 };
 
-const QString peer = QStringLiteral("u1");
+const QString cPeer = QStringLiteral("u1");
 
 bool callWindowShows(const QString &text)
 {
@@ -84,7 +84,7 @@ private slots:
         VoipManageMessageProcess::instance()->setSendEvent(&m_host);
         // The first command creates the manager and its link, so that each test finds both, whichever is chosen.
         query(MSG_IS_EXIST_CALL, QByteArray());
-        QTRY_VERIFY_WITH_TIMEOUT(m_server.hasPendingConnections(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_server.hasPendingConnections(), cPatienceMs);
         m_link = m_server.nextPendingConnection();
     }
 
@@ -119,14 +119,14 @@ private slots:
     void existCallAnswersExactlyOneBool()
     {
         QCOMPARE(query(MSG_IS_EXIST_CALL, "whatever it held before"), packPayload(false));
-        ManagerState::call().peerId = peer;
+        ManagerState::call().peerId = cPeer;
         QCOMPARE(query(MSG_IS_EXIST_CALL, QByteArray()), packPayload(true));
         QCOMPARE(packPayload(true).size(), 1);
     }
 
     void videoCallIsFalseAlsoDuringAVideoCall()
     {
-        command(MSG_CALL_SINGLE_USER, packPayload(true, peer));
+        command(MSG_CALL_SINGLE_USER, packPayload(true, cPeer));
         QVERIFY(ManagerState::call().bIsVideo);
         QCOMPARE(query(MSG_IS_VIDEO_CALL, "whatever it held before"), packPayload(false));
     }
@@ -141,9 +141,9 @@ private slots:
     void callSingleUserReadsTheFlagBeforeTheUser()
     {
         QFETCH(bool, bVideo);
-        command(MSG_CALL_SINGLE_USER, packPayload(bVideo, peer));
+        command(MSG_CALL_SINGLE_USER, packPayload(bVideo, cPeer));
         const QJsonObject line = nextLine(QStringLiteral("CallUser"));
-        QCOMPARE(line.value(QStringLiteral("param1")).toString(), peer);
+        QCOMPARE(line.value(QStringLiteral("param1")).toString(), cPeer);
         QCOMPARE(line.value(QStringLiteral("param2")), QJsonValue(bVideo));
     }
 
@@ -188,7 +188,7 @@ private slots:
     {
         QFETCH(bool, bAccept);
         QFETCH(QString, messageType);
-        ManagerState::call().peerId = peer;
+        ManagerState::call().peerId = cPeer;
         command(MSG_RESPONSE_VOIP_REQUEST, packPayload(bAccept));
         QVERIFY(!nextLine(messageType).isEmpty());
     }
@@ -204,20 +204,20 @@ private slots:
 
     void userInfoReachesTheCallWindow()
     {
-        command(MSG_CALL_SINGLE_USER, packPayload(false, peer));
+        command(MSG_CALL_SINGLE_USER, packPayload(false, cPeer));
         VcardInfo card;
         card.m_strNickName = QStringLiteral("甲");
-        command(MSG_UPDATE_USER_INFO, packPayload(peer + QStringLiteral("@d"), addressOf(card)));
+        command(MSG_UPDATE_USER_INFO, packPayload(cPeer + QStringLiteral("@d"), addressOf(card)));
         QVERIFY(logText().contains(QStringLiteral("updateUserInfo userID = u1@d")));
         QVERIFY(callWindowShows(QStringLiteral("甲")));
     }
 
     void cardIsReadWhileTheEventIsHandledOnly()
     {
-        command(MSG_CALL_SINGLE_USER, packPayload(false, peer));
+        command(MSG_CALL_SINGLE_USER, packPayload(false, cPeer));
         VcardInfo card;
         card.m_strNickName = QStringLiteral("丙");
-        command(MSG_UPDATE_USER_INFO, packPayload(peer + QStringLiteral("@d"), addressOf(card)));
+        command(MSG_UPDATE_USER_INFO, packPayload(cPeer + QStringLiteral("@d"), addressOf(card)));
         // From here on the host may do with its record as it likes.
         card.m_strNickName = QStringLiteral("丁");
         QCoreApplication::processEvents();
@@ -229,9 +229,9 @@ private slots:
     {
         QTest::addColumn<QByteArray>("payload");
         QTest::addColumn<QString>("user");
-        QTest::newRow("zero") << packPayload(peer, qint64(0)) << peer;
-        QTest::newRow("no address") << packPayload(peer) << peer;
-        QTest::newRow("half an address") << packPayload(peer, qint32(-1)) << peer;
+        QTest::newRow("zero") << packPayload(cPeer, qint64(0)) << cPeer;
+        QTest::newRow("no address") << packPayload(cPeer) << cPeer;
+        QTest::newRow("half an address") << packPayload(cPeer, qint32(-1)) << cPeer;
         QTest::newRow("nothing") << QByteArray() << QString();
     }
 
@@ -273,13 +273,13 @@ private slots:
         QTest::addColumn<int>("msgId");
         QTest::addColumn<QByteArray>("whole");
         QTest::addColumn<int>("randomCount");
-        const QStringList members{peer, QStringLiteral("u2")};
+        const QStringList members{cPeer, QStringLiteral("u2")};
         // Each call shows a window, which takes its time.
         constexpr int few = 4;
         constexpr int many = 40;
-        QTest::newRow("updateUserInfo") << int(MSG_UPDATE_USER_INFO) << packPayload(peer, qint64(0)) << many;
+        QTest::newRow("updateUserInfo") << int(MSG_UPDATE_USER_INFO) << packPayload(cPeer, qint64(0)) << many;
         QTest::newRow("clientConnectStatus") << int(MSG_CLIENT_CONNECT_STATUS) << packPayload(true) << many;
-        QTest::newRow("callSingleUser") << int(MSG_CALL_SINGLE_USER) << packPayload(true, peer) << few;
+        QTest::newRow("callSingleUser") << int(MSG_CALL_SINGLE_USER) << packPayload(true, cPeer) << few;
         QTest::newRow("isExistCall") << int(MSG_IS_EXIST_CALL) << QByteArray() << many;
         QTest::newRow("isVideoCall") << int(MSG_IS_VIDEO_CALL) << QByteArray() << many;
         QTest::newRow("responseVoipRequest") << int(MSG_RESPONSE_VOIP_REQUEST) << packPayload(true) << few;
@@ -315,7 +315,7 @@ private slots:
     void exitEndsTheLink()
     {
         command(MSG_EXIT_VOIP, "bytes that nobody reads");
-        QTRY_COMPARE_WITH_TIMEOUT(m_link->state(), QLocalSocket::UnconnectedState, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_link->state(), QLocalSocket::UnconnectedState, cPatienceMs);
         QVERIFY(m_link->readAll().endsWith("quit\n"));
         m_link = nullptr;
     }
@@ -349,7 +349,7 @@ private:
                 }
                 return false;
             },
-            kPatienceMs);
+            cPatienceMs);
         return came ? found : QJsonObject();
     }
 

@@ -22,7 +22,7 @@
 
 namespace {
 
-const QString moduleFile = QStringLiteral(VOIP_MODULE_FILE);
+const QString cModuleFile = QStringLiteral(VOIP_MODULE_FILE);
 
 // The program that stands where the call process belongs adds a line to a file at each start. Everything started from
 // here inherits the writing end of a pipe, so that the pipe's end is reached once all that was started has run.
@@ -98,8 +98,8 @@ private slots:
     {
         QProcess names;
         names.start(QStringLiteral("nm"), {QStringLiteral("-D"), QStringLiteral("--defined-only"),
-                                           QStringLiteral("--format=just-symbols"), moduleFile});
-        QVERIFY2(names.waitForFinished(kPatienceMs), qPrintable(names.errorString()));
+                                           QStringLiteral("--format=just-symbols"), cModuleFile});
+        QVERIFY2(names.waitForFinished(cPatienceMs), qPrintable(names.errorString()));
         QCOMPARE(names.exitCode(), 0);
         QStringList exported =
             QString::fromLatin1(names.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
@@ -125,7 +125,7 @@ private slots:
     {
         // A second QPluginLoader would not ask again: all loaders of one file share the object that the first was
         // given.
-        QLibrary library(moduleFile);
+        QLibrary library(cModuleFile);
         const auto instance = reinterpret_cast<QtPluginInstanceFunction>(library.resolve("qt_plugin_instance"));
         QVERIFY(instance != nullptr);
         QCOMPARE(instance(), m_loader.instance());
@@ -160,7 +160,7 @@ private slots:
             QCoreApplication::sendEvent(m_plugin->getReceiveEventHandle(), &event);
             QCOMPARE(event.data, packPayload(false));
         }
-        QTRY_VERIFY_WITH_TIMEOUT(m_callServer.hasPendingConnections(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_callServer.hasPendingConnections(), cPatienceMs);
         QVERIFY(!QApplication::topLevelWidgets().isEmpty());
         // One start in all: neither loading nor the second query brought one.
         QCOMPARE(m_starts.count(), 1);
@@ -168,7 +168,7 @@ private slots:
 
 private:
     PluginInterface *m_plugin = nullptr;
-    QPluginLoader m_loader{moduleFile};
+    QPluginLoader m_loader{cModuleFile};
     QJsonObject m_metadata;
     bool m_bLoadedForMetadata = true;
     CallProcessStarts m_starts;

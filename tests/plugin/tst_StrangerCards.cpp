@@ -12,7 +12,7 @@
 
 namespace {
 
-const QString systemAccount = QStringLiteral("kv6005626532");
+const QString cSystemAccount = QStringLiteral("kv6005626532");
 
 } // namespace
 
@@ -79,10 +79,10 @@ private slots:
     {
         QFETCH(bool, bFriend);
         if (bFriend) {
-            m_host->friendJids.insert(systemAccount + QStringLiteral("@d"));
+            m_host->friendJids.insert(cSystemAccount + QStringLiteral("@d"));
         }
         StrangerCards cards;
-        QVERIFY(!cards.test(systemAccount));
+        QVERIFY(!cards.test(cSystemAccount));
         QVERIFY(cards.ids.isEmpty());
         QVERIFY(cards.versions.isEmpty());
     }
@@ -90,7 +90,7 @@ private slots:
     void systemAccountIsStillAskedAbout()
     {
         StrangerCards cards;
-        cards.test(systemAccount);
+        cards.test(cSystemAccount);
         QCOMPARE(m_host->commands(), (QList<int>{4157, 4337}));
     }
 
@@ -133,7 +133,7 @@ private slots:
     void idInOtherCaseIsNotTheSystemAccount()
     {
         StrangerCards cards;
-        QVERIFY(cards.test(systemAccount.toUpper()));
+        QVERIFY(cards.test(cSystemAccount.toUpper()));
     }
 
     void withoutAnswerEveryoneIsAStrangerWithoutCard()

@@ -16,7 +16,7 @@ using Requests = VoipManageEventProcess;
 
 namespace {
 
-const QString jid = QStringLiteral("u1@d");
+const QString cJid = QStringLiteral("u1@d");
 
 } // namespace
 
@@ -43,9 +43,9 @@ private slots:
 
     void thereAreTenRequests()
     {
-        QCOMPARE(static_cast<int>(std::size(hostRequests)), 10);
+        QCOMPARE(static_cast<int>(std::size(cHostRequests)), 10);
         QSet<int> numbers;
-        for (const HostRequest &row : hostRequests) {
+        for (const HostRequest &row : cHostRequests) {
             numbers.insert(row.msgId);
         }
         QCOMPARE(numbers.size(), 10);
@@ -91,17 +91,17 @@ private slots:
             Requests::addMemberToConference({a, b});
         }) << 4735 << session << false << packPayload(qint32(2), a, b);
         QTest::newRow("getFriendInfoByJid")
-            << Operation([] { Requests::getFriendInfoByJid(jid); }) << 4157 << contact << false << packPayload(jid);
-        QTest::newRow("isExistFriend") << Operation([] { Requests::isExistFriend(jid); }) << 4337 << contact << false
-                                       << packPayload(jid);
+            << Operation([] { Requests::getFriendInfoByJid(cJid); }) << 4157 << contact << false << packPayload(cJid);
+        QTest::newRow("isExistFriend") << Operation([] { Requests::isExistFriend(cJid); }) << 4337 << contact << false
+                                       << packPayload(cJid);
         QTest::newRow("getStrangerSmallVCard") << Operation([=] {
             Requests::getStrangerSmallVCard({a, b}, {c}, true);
         }) << 4159 << vcard << true << packPayload(qint32(2), a, b, qint32(1), c, true);
-        QTest::newRow("closeAVMsgBox") << Operation([] { Requests::closeAVMsgBox(jid); }) << 4345 << msgBox << false
-                                       << packPayload(jid);
-        QTest::newRow("showSignList") << Operation([] { Requests::showSignList(jid, -7, 20, 300, true, false); })
+        QTest::newRow("closeAVMsgBox") << Operation([] { Requests::closeAVMsgBox(cJid); }) << 4345 << msgBox << false
+                                       << packPayload(cJid);
+        QTest::newRow("showSignList") << Operation([] { Requests::showSignList(cJid, -7, 20, 300, true, false); })
                                       << 4267 << signList << false
-                                      << packPayload(jid, qint32(-7), qint32(20), qint32(300), true, false);
+                                      << packPayload(cJid, qint32(-7), qint32(20), qint32(300), true, false);
         QTest::newRow("closeSignList") << Operation([] { Requests::closeSignList(); }) << 4540 << signList << false
                                        << QByteArray();
     }
@@ -132,10 +132,10 @@ private slots:
 
     void callFinishedBeginsWithTheFlagThenTheUser()
     {
-        Requests::notifyCallFinished(true, jid, 21, true, false, 3);
+        Requests::notifyCallFinished(true, cJid, 21, true, false, 3);
         PayloadReader reader = host()->received(MSG_CALL_FINISHED).first().reader();
         QCOMPARE(reader.take<bool>(), true);
-        QCOMPARE(reader.take<QString>(), jid);
+        QCOMPARE(reader.take<QString>(), cJid);
         QCOMPARE(reader.take<qint32>(), 21);
         QCOMPARE(reader.take<bool>(), true);
         QCOMPARE(reader.take<bool>(), false);
@@ -144,7 +144,7 @@ private slots:
 
     void createConferenceNamesTheVcardPluginAsSender()
     {
-        for (const HostRequest &row : hostRequests) {
+        for (const HostRequest &row : cHostRequests) {
             QCOMPARE(row.senderId(), row.msgId == MSG_CREATE_VOICE_CONFERENCE ? vcardPluginId() : voipPluginId());
         }
     }
@@ -164,13 +164,13 @@ private slots:
     {
         QTest::addColumn<std::function<void()>>("operation");
         using Operation = std::function<void()>;
-        QTest::newRow("4639") << Operation([] { Requests::notifyRecevieVoipCall(jid, false, false); });
-        QTest::newRow("4478") << Operation([] { Requests::notifyCallFinished(false, jid, 21, false, false, 0); });
+        QTest::newRow("4639") << Operation([] { Requests::notifyRecevieVoipCall(cJid, false, false); });
+        QTest::newRow("4478") << Operation([] { Requests::notifyCallFinished(false, cJid, 21, false, false, 0); });
         QTest::newRow("4734") << Operation([] { Requests::notifyCreateVoiceConference({}); });
         QTest::newRow("4735") << Operation([] { Requests::addMemberToConference({}); });
-        QTest::newRow("4157") << Operation([] { Requests::getFriendInfoByJid(jid); });
-        QTest::newRow("4337") << Operation([] { Requests::isExistFriend(jid); });
-        QTest::newRow("4267") << Operation([] { Requests::showSignList(jid, 0, 0, 0, true, false); });
+        QTest::newRow("4157") << Operation([] { Requests::getFriendInfoByJid(cJid); });
+        QTest::newRow("4337") << Operation([] { Requests::isExistFriend(cJid); });
+        QTest::newRow("4267") << Operation([] { Requests::showSignList(cJid, 0, 0, 0, true, false); });
     }
 
     void synchronousEventsAreFreedAfterDelivery()
@@ -186,7 +186,7 @@ private slots:
     {
         QTest::addColumn<std::function<void()>>("operation");
         using Operation = std::function<void()>;
-        QTest::newRow("4345") << Operation([] { Requests::closeAVMsgBox(jid); });
+        QTest::newRow("4345") << Operation([] { Requests::closeAVMsgBox(cJid); });
         QTest::newRow("4540") << Operation([] { Requests::closeSignList(); });
     }
 
@@ -206,27 +206,27 @@ private slots:
     void friendOfTheSharedMapIsNeverAskedFor()
     {
         FriendData record;
-        record.m_strJid = jid;
+        record.m_strJid = cJid;
         record.m_vcardInfo.m_strNickName = QStringLiteral("甲");
-        m_context.setFriendDataMap({{jid, record}});
-        QCOMPARE(Requests::getFriendInfoByJid(jid).m_vcardInfo.m_strNickName, QStringLiteral("甲"));
+        m_context.setFriendDataMap({{cJid, record}});
+        QCOMPARE(Requests::getFriendInfoByJid(cJid).m_vcardInfo.m_strNickName, QStringLiteral("甲"));
         QVERIFY(host()->events.isEmpty());
     }
 
     void friendOfTheSharedMapIsACopy()
     {
-        m_context.setFriendDataMap({{jid, FriendData()}});
-        FriendData copy = Requests::getFriendInfoByJid(jid);
+        m_context.setFriendDataMap({{cJid, FriendData()}});
+        FriendData copy = Requests::getFriendInfoByJid(cJid);
         copy.m_vcardInfo.m_strNickName = QStringLiteral("changed");
-        QVERIFY(SharedContext::getFriendDataMap().value(jid).m_vcardInfo.m_strNickName.isEmpty());
+        QVERIFY(SharedContext::getFriendDataMap().value(cJid).m_vcardInfo.m_strNickName.isEmpty());
     }
 
     void friendIsAskedForWhenTheMapHasAnother()
     {
         m_context.setFriendDataMap({{QStringLiteral("U1@d"), FriendData()}});
-        Requests::getFriendInfoByJid(jid);
+        Requests::getFriendInfoByJid(cJid);
         QCOMPARE(host()->commands(), QList<int>{4157});
-        m_context.setFriendDataMap({{jid, FriendData()}});
+        m_context.setFriendDataMap({{cJid, FriendData()}});
         Requests::getFriendInfoByJid(QStringLiteral("U1@d"));
         QCOMPARE(host()->commands(), (QList<int>{4157, 4157}));
     }
@@ -234,12 +234,12 @@ private slots:
     void unknownFriendIsCopiedFromTheAnsweredAddress()
     {
         FriendData record;
-        record.m_strJid = jid;
+        record.m_strJid = cJid;
         record.m_vcardInfo.m_iSmallVersion = 12;
-        host()->setRecord(jid, record);
-        const FriendData answered = Requests::getFriendInfoByJid(jid);
-        host()->setRecord(jid, FriendData());
-        QCOMPARE(answered.m_strJid, jid);
+        host()->setRecord(cJid, record);
+        const FriendData answered = Requests::getFriendInfoByJid(cJid);
+        host()->setRecord(cJid, FriendData());
+        QCOMPARE(answered.m_strJid, cJid);
         QCOMPARE(answered.m_vcardInfo.m_iSmallVersion, 12);
     }
 
@@ -247,15 +247,15 @@ private slots:
     {
         QTest::addColumn<QString>("asked");
         QTest::addColumn<QByteArray>("answer");
-        QTest::newRow("unchanged") << jid << packPayload(jid);
+        QTest::newRow("unchanged") << cJid << packPayload(cJid);
         // Two characters fill as many bytes as an address.
         QTest::newRow("unchanged, as long as an address") << QStringLiteral("ab") << packPayload(QStringLiteral("ab"));
         QTest::newRow("unchanged null jid") << QString() << packPayload(QString());
         QTest::newRow("unchanged long jid")
             << QString(100, QLatin1Char('x')) << packPayload(QString(100, QLatin1Char('x')));
-        QTest::newRow("zero address") << jid << packPayload(qint64(0));
-        QTest::newRow("emptied") << jid << QByteArray();
-        QTest::newRow("half an address") << jid << QByteArray(7, '\1');
+        QTest::newRow("zero address") << cJid << packPayload(qint64(0));
+        QTest::newRow("emptied") << cJid << QByteArray();
+        QTest::newRow("half an address") << cJid << QByteArray(7, '\1');
     }
 
     void unansweredFriendIsADefaultRecord()
@@ -271,8 +271,8 @@ private slots:
 
     void existenceIsReadFromTheAnswer()
     {
-        host()->friendJids.insert(jid);
-        QVERIFY(Requests::isExistFriend(jid));
+        host()->friendJids.insert(cJid);
+        QVERIFY(Requests::isExistFriend(cJid));
         QVERIFY(!Requests::isExistFriend(QStringLiteral("u2@d")));
         m_context.setFriendDataMap({{QStringLiteral("u2@d"), FriendData()}});
         QVERIFY(!Requests::isExistFriend(QStringLiteral("u2@d")));
@@ -282,7 +282,7 @@ private slots:
     void unansweredExistenceReadsItsOwnQuestion()
     {
         host()->bAnswers = false;
-        QVERIFY(!Requests::isExistFriend(jid));
+        QVERIFY(!Requests::isExistFriend(cJid));
         QVERIFY(!Requests::isExistFriend(QStringLiteral("")));
         // A null text is written with four bytes of ones, the first of which reads as true.
         QVERIFY(Requests::isExistFriend(QString()));
@@ -325,20 +325,20 @@ private slots:
     {
         VoipManageMessageProcess::instance()->setSendEvent(nullptr);
         SharedContext::setCommonData(nullptr);
-        QVERIFY(Requests::getFriendInfoByJid(jid).m_strJid.isEmpty());
-        QVERIFY(!Requests::isExistFriend(jid));
+        QVERIFY(Requests::getFriendInfoByJid(cJid).m_strJid.isEmpty());
+        QVERIFY(!Requests::isExistFriend(cJid));
         QCOMPARE(Requests::addMemberToConference({}), QStringList());
-        Requests::notifyRecevieVoipCall(jid, false, false);
-        Requests::getStrangerSmallVCard({jid}, {QStringLiteral("1")}, true);
-        Requests::closeAVMsgBox(jid);
+        Requests::notifyRecevieVoipCall(cJid, false, false);
+        Requests::getStrangerSmallVCard({cJid}, {QStringLiteral("1")}, true);
+        Requests::closeAVMsgBox(cJid);
         QVERIFY(host()->events.isEmpty());
     }
 
     void receiverMayDeliverFurtherRequestsMeanwhile()
     {
         FriendData outer;
-        outer.m_strJid = jid;
-        host()->setRecord(jid, outer);
+        outer.m_strJid = cJid;
+        host()->setRecord(cJid, outer);
         bool bNested = false;
         host()->whileHandled = [&bNested](BaseEvent &event) {
             if (event.msgId == MSG_GET_FRIEND_INFO && !bNested) {
@@ -346,7 +346,7 @@ private slots:
                 QVERIFY(Requests::getFriendInfoByJid(QStringLiteral("u9@d")).m_strJid.isEmpty());
             }
         };
-        QCOMPARE(Requests::getFriendInfoByJid(jid).m_strJid, jid);
+        QCOMPARE(Requests::getFriendInfoByJid(cJid).m_strJid, cJid);
         QCOMPARE(host()->commands(), (QList<int>{4157, 4157}));
     }
 

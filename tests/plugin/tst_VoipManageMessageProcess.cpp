@@ -28,7 +28,7 @@ void isExistCall(BaseEvent &event)
     event.data = packPayload(true);
 }
 
-constexpr HostCommand knownCommands[] = {
+constexpr HostCommand cKnownCommands[] = {
     {MSG_CALL_SINGLE_USER, callSingleUser},
     {MSG_IS_EXIST_CALL, isExistCall},
 };
@@ -74,7 +74,7 @@ class tst_VoipManageMessageProcess : public QObject
 private slots:
     void init()
     {
-        setHostCommands(knownCommands, static_cast<int>(std::size(knownCommands)));
+        setHostCommands(cKnownCommands, static_cast<int>(std::size(cKnownCommands)));
         m_calls.clear();
         calls = &m_calls;
         debugLines.clear();

@@ -13,16 +13,16 @@ extern "C" __attribute__((weak)) void __lsan_do_leak_check();
 
 namespace {
 
-constexpr useconds_t kStepUs = 5000;
-constexpr int kStepsOfQuiet = 4;
-constexpr int kStepsOfPatience = 6000;
+constexpr useconds_t cStepUs = 5000;
+constexpr int cStepsOfQuiet = 4;
+constexpr int cStepsOfPatience = 6000;
 
 void checkWhenQuiet()
 {
     OtherThreads before = OtherThreads::look();
-    int quiet = before.sum == 0 ? kStepsOfQuiet : 0;
-    for (int step = 0; quiet < kStepsOfQuiet && step < kStepsOfPatience; ++step) {
-        usleep(kStepUs);
+    int quiet = before.sum == 0 ? cStepsOfQuiet : 0;
+    for (int step = 0; quiet < cStepsOfQuiet && step < cStepsOfPatience; ++step) {
+        usleep(cStepUs);
         const OtherThreads now = OtherThreads::look();
         quiet = now.haveSleptSince(before) ? quiet + 1 : 0;
         before = now;

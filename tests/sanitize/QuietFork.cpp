@@ -15,8 +15,8 @@
 
 namespace {
 
-constexpr useconds_t kPauseUs = 200;
-constexpr int kAttempts = 5000;
+constexpr useconds_t cPauseUs = 200;
+constexpr int cAttempts = 5000;
 
 /// Keeps a new process waiting until the old one has found out whether it is sound.
 class Verdict
@@ -72,7 +72,7 @@ extern "C" __attribute__((visibility("default"))) pid_t fork() noexcept
     for (int attempt = 1;; ++attempt) {
         const OtherThreads before = OtherThreads::look();
         Verdict verdict;
-        if (before.sum == 0 || attempt == kAttempts || !verdict.isOpen()) {
+        if (before.sum == 0 || attempt == cAttempts || !verdict.isOpen()) {
             return s_own();
         }
         if (before.bAsleep) {
@@ -93,6 +93,6 @@ extern "C" __attribute__((visibility("default"))) pid_t fork() noexcept
             }
             waitpid(child, nullptr, 0);
         }
-        usleep(kPauseUs);
+        usleep(cPauseUs);
     }
 }

@@ -13,23 +13,23 @@
 
 namespace {
 
-constexpr int kProcesses = 20;
-constexpr int kLength = 3000;
-constexpr int kBlocks = 3000;
-constexpr useconds_t kRestUs = 300000;
+constexpr int cProcesses = 20;
+constexpr int cLength = 3000;
+constexpr int cBlocks = 3000;
+constexpr useconds_t cRestUs = 300000;
 
 void allocateInBursts(const std::atomic<bool> &bEnough, std::atomic<bool> &bBusy)
 {
     while (!bEnough) {
         bBusy = true;
         std::vector<std::vector<char>> blocks;
-        blocks.reserve(kBlocks);
-        for (int i = 0; i < kBlocks; ++i) {
-            blocks.emplace_back(kLength);
+        blocks.reserve(cBlocks);
+        for (int i = 0; i < cBlocks; ++i) {
+            blocks.emplace_back(cLength);
         }
         blocks.clear();
         bBusy = false;
-        usleep(kRestUs);
+        usleep(cRestUs);
     }
 }
 
@@ -38,14 +38,14 @@ void allocateInBursts(const std::atomic<bool> &bEnough, std::atomic<bool> &bBusy
 int main()
 {
     QString path = QStringLiteral("/bin/true");
-    while (path.size() < kLength) {
+    while (path.size() < cLength) {
         path.prepend(QStringLiteral("/bin/.."));
     }
     std::atomic<bool> bEnough{false};
     std::atomic<bool> bBusy{false};
     std::thread other(allocateInBursts, std::cref(bEnough), std::ref(bBusy));
     int started = 0;
-    for (int i = 0; i < kProcesses; ++i) {
+    for (int i = 0; i < cProcesses; ++i) {
         while (!bBusy) {
             std::this_thread::yield();
         }
@@ -53,6 +53,6 @@ int main()
     }
     bEnough = true;
     other.join();
-    std::printf("%d of %d started\n", started, kProcesses);
-    return started == kProcesses ? EXIT_SUCCESS : EXIT_FAILURE;
+    std::printf("%d of %d started\n", started, cProcesses);
+    return started == cProcesses ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -9,11 +9,11 @@
 namespace Ink {
 
 /// Darker than the ground of the windows, lighter than any stroke of a text or a glyph.
-constexpr int lightest = 205;
+constexpr int cLightest = 205;
 
 inline bool isAt(const QImage &picture, int x, int y)
 {
-    return qGray(picture.pixel(x, y)) < lightest;
+    return qGray(picture.pixel(x, y)) < cLightest;
 }
 
 /// The smallest rectangle that holds all the ink of `place`; empty without any.

@@ -133,7 +133,7 @@ private:
         window.move(200, 200);
         setUp(window);
         window.show();
-        if (!QTest::qWaitForWindowExposed(&window, kPatienceMs)) {
+        if (!QTest::qWaitForWindowExposed(&window, cPatienceMs)) {
             return {};
         }
         // The second of two: rows are at their places once they have been painted.
@@ -207,7 +207,7 @@ private slots:
         CVoipWidget window;
         withStatuses(call(CVoipWidget::Conference, true))(window);
         window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&window, cPatienceMs));
         auto *pList = window.findChild<CConferenceListView *>();
         const QImage picture = pList->viewport()->grab().toImage();
         const QModelIndex ann = pList->model()->index(0, 0);

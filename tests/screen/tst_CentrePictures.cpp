@@ -66,7 +66,7 @@ private:
         }
         m_pWindow->move(200, 200);
         m_pWindow->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), cPatienceMs));
     }
 
     void hover(int iRow)
@@ -142,7 +142,7 @@ private slots:
         const QPoint row = list()->visualRect(list()->model()->index(0, 0)).center();
         QTest::mouseClick(list()->viewport(), Qt::RightButton, Qt::NoModifier, row);
         auto *const pMenu = list()->findChild<QMenu *>();
-        QVERIFY(QTest::qWaitForWindowExposed(pMenu, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(pMenu, cPatienceMs));
         const QString strComplaint =
             ComparedPicture::complaint(QStringLiteral("centre-menu"), ComparedPicture::of(pMenu));
         QVERIFY2(strComplaint.isEmpty(), qPrintable(strComplaint));

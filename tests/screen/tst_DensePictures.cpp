@@ -159,7 +159,7 @@ private slots:
         }
         pButton->move(200, 200);
         pButton->show();
-        QVERIFY(QTest::qWaitForWindowExposed(pButton.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(pButton.get(), cPatienceMs));
         QVERIFY(holds(ComparedPicture::of(pButton.get()), shipped(picture, QRect(0, 0, 16, 16))));
     }
 
@@ -171,7 +171,7 @@ private slots:
         pEntry->setCheckable(true);
         pEntry->setChecked(true);
         menu.popup(QPoint(200, 200));
-        QVERIFY(QTest::qWaitForWindowExposed(&menu, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&menu, cPatienceMs));
         QVERIFY(holds(ComparedPicture::of(&menu), shipped(cTick, QRect(0, 0, 15, 15))));
     }
 
@@ -183,7 +183,7 @@ private slots:
         pBack->show();
         centre.move(200, 200);
         centre.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&centre, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&centre, cPatienceMs));
         QVERIFY(holds(ComparedPicture::of(pBack), shipped(cBack, QRect(2, 4, 6, 12))));
     }
 
@@ -195,7 +195,7 @@ private slots:
         pSlider->show();
         window.move(200, 200);
         window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&window, cPatienceMs));
         QVERIFY(holds(ComparedPicture::of(pSlider), shipped(cGroove, QRect(5, 0, 40, 24))));
     }
 
@@ -218,7 +218,7 @@ private slots:
         window.setVoipCallInfo({uid}, CVoipWidget::Voice, true, false);
         window.move(200, 200);
         window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&window, cPatienceMs));
         // The square within the round head.
         const QRect middle = dense(QRect(16, 16, 68, 68));
         const QImage shown = ComparedPicture::of(window.findChild<QWidget *>(QStringLiteral("lblPhotoIcon")));

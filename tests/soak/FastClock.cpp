@@ -11,24 +11,24 @@
 
 namespace {
 
-constexpr std::int64_t nanoPerSecond = 1000000000;
-constexpr std::int64_t nanoPerMilli = 1000000;
-constexpr std::int64_t nanoPerMicro = 1000;
-constexpr int clocks = CLOCK_BOOTTIME + 1;
+constexpr std::int64_t cNanoPerSecond = 1000000000;
+constexpr std::int64_t cNanoPerMilli = 1000000;
+constexpr std::int64_t cNanoPerMicro = 1000;
+constexpr int cClocks = CLOCK_BOOTTIME + 1;
 
 // Time begins to run fast at these readings.
-std::array<std::int64_t, clocks> s_from{};
+std::array<std::int64_t, cClocks> s_from{};
 // Of this thread; 1 is real time.
 thread_local std::int64_t t_factor = 1;
 
 std::int64_t nanoOf(const timespec &time)
 {
-    return std::int64_t(time.tv_sec) * nanoPerSecond + time.tv_nsec;
+    return std::int64_t(time.tv_sec) * cNanoPerSecond + time.tv_nsec;
 }
 
 timespec timeOf(std::int64_t nano)
 {
-    return {time_t(nano / nanoPerSecond), long(nano % nanoPerSecond)};
+    return {time_t(nano / cNanoPerSecond), long(nano % cNanoPerSecond)};
 }
 
 std::int64_t realNano(clockid_t clock)
@@ -41,7 +41,7 @@ std::int64_t realNano(clockid_t clock)
 bool isFast(clockid_t clock)
 {
     // Not the clocks that count the processor's time.
-    return t_factor != 1 && clock >= 0 && clock < clocks && clock != CLOCK_PROCESS_CPUTIME_ID &&
+    return t_factor != 1 && clock >= 0 && clock < cClocks && clock != CLOCK_PROCESS_CPUTIME_ID &&
            clock != CLOCK_THREAD_CPUTIME_ID;
 }
 
@@ -62,7 +62,7 @@ int pollFor(pollfd *files, nfds_t count, std::int64_t nanoseconds, const sigset_
 
 void FastClock::start(int factor)
 {
-    for (int clock = 0; clock < clocks; ++clock) {
+    for (int clock = 0; clock < cClocks; ++clock) {
         s_from.at(std::size_t(clock)) = realNano(clock);
     }
     t_factor = factor;
@@ -70,7 +70,7 @@ void FastClock::start(int factor)
 
 std::int64_t FastClock::realMs()
 {
-    return realNano(CLOCK_MONOTONIC) / nanoPerMilli;
+    return realNano(CLOCK_MONOTONIC) / cNanoPerMilli;
 }
 
 #define IN_PLACE_OF_THE_LIBRARY extern "C" __attribute__((visibility("default")))
@@ -87,13 +87,13 @@ IN_PLACE_OF_THE_LIBRARY int clock_gettime(clockid_t clock, timespec *time) noexc
 IN_PLACE_OF_THE_LIBRARY int gettimeofday(timeval *time, void * /*zone*/) noexcept
 {
     const std::int64_t now = nano(CLOCK_REALTIME);
-    *time = {time_t(now / nanoPerSecond), suseconds_t(now % nanoPerSecond / nanoPerMicro)};
+    *time = {time_t(now / cNanoPerSecond), suseconds_t(now % cNanoPerSecond / cNanoPerMicro)};
     return 0;
 }
 
 IN_PLACE_OF_THE_LIBRARY int poll(pollfd *files, nfds_t count, int milliseconds)
 {
-    return pollFor(files, count, milliseconds * nanoPerMilli, nullptr);
+    return pollFor(files, count, milliseconds * cNanoPerMilli, nullptr);
 }
 
 IN_PLACE_OF_THE_LIBRARY int ppoll(pollfd *files, nfds_t count, const timespec *time, const sigset_t *mask)

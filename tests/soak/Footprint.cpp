@@ -40,7 +40,7 @@ qint64 sizeOf(const QString &account, const QString &entry)
 
 bool Footprint::isHeapKnown()
 {
-    return !kSanitized;
+    return !cSanitized;
 }
 
 qint64 Footprint::heapInUse()

@@ -13,8 +13,8 @@ extern Q_CORE_EXPORT quintptr qtHookData[];
 
 namespace {
 
-constexpr int addObject = 3;
-constexpr int removeObject = 4;
+constexpr int cAddObject = 3;
+constexpr int cRemoveObject = 4;
 
 struct Living
 {
@@ -45,8 +45,8 @@ void removed(QObject *object)
 
 void ObjectCensus::start()
 {
-    qtHookData[addObject] = reinterpret_cast<quintptr>(&added);
-    qtHookData[removeObject] = reinterpret_cast<quintptr>(&removed);
+    qtHookData[cAddObject] = reinterpret_cast<quintptr>(&added);
+    qtHookData[cRemoveObject] = reinterpret_cast<quintptr>(&removed);
 }
 
 QMap<QString, int> ObjectCensus::objects()

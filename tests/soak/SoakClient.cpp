@@ -23,9 +23,9 @@
 
 namespace {
 
-constexpr std::int64_t patienceMs = 30000;
-constexpr std::int64_t restMs = 500;
-constexpr int heartbeatMs = 100;
+constexpr std::int64_t cPatienceMs = 30000;
+constexpr std::int64_t cRestMs = 500;
+constexpr int cHeartbeatMs = 100;
 
 // The call process's answer to a registration reaches the debug channel.
 std::atomic<int> s_registrations{0};
@@ -68,14 +68,14 @@ SoakClient::SoakClient(int speed)
         m_record = record;
     });
     // Lets a wait look again while nothing happens.
-    m_heartbeat.start(heartbeatMs);
+    m_heartbeat.start(cHeartbeatMs);
 }
 
 SoakClient::~SoakClient()
 {
     m_session.quit();
     const std::int64_t start = FastClock::realMs();
-    while (!m_process.pids().isEmpty() && FastClock::realMs() < start + patienceMs) {
+    while (!m_process.pids().isEmpty() && FastClock::realMs() < start + cPatienceMs) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     m_process.kill();
@@ -99,7 +99,7 @@ void SoakClient::waitFor(const QString &what, const std::function<bool()> &holds
 {
     const std::int64_t start = FastClock::realMs();
     while (!holds()) {
-        if (FastClock::realMs() > start + patienceMs) {
+        if (FastClock::realMs() > start + cPatienceMs) {
             throw SoakFailure(QStringLiteral("waited in vain for: ") + what);
         }
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
@@ -285,7 +285,7 @@ void SoakClient::settle()
     drainLog();
     // Qt ends some of its own work, and the timers of it, a little later.
     const std::int64_t start = FastClock::realMs();
-    waitFor(QStringLiteral("rest"), [&] { return FastClock::realMs() > start + restMs; });
+    waitFor(QStringLiteral("rest"), [&] { return FastClock::realMs() > start + cRestMs; });
     QPixmapCache::clear();
     QSqlQuery(DB::getDB()).exec(QStringLiteral("PRAGMA shrink_memory"));
     undeleted.take();

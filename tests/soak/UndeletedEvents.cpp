@@ -15,9 +15,9 @@ bool UndeletedEvents::eventFilter(QObject *, QEvent *event)
 {
     if (event->type() == QEvent::User) {
         auto *command = static_cast<BaseEvent *>(event);
-        const auto *const kind = std::find(kinds.begin(), kinds.end(), command->msgId);
-        if (kind != kinds.end()) {
-            ++m_taken.at(std::size_t(kind - kinds.begin()));
+        const auto *const kind = std::find(cKinds.begin(), cKinds.end(), command->msgId);
+        if (kind != cKinds.end()) {
+            ++m_taken.at(std::size_t(kind - cKinds.begin()));
             m_events.push_back(command);
         }
     }
@@ -36,6 +36,6 @@ void UndeletedEvents::take()
 
 qint64 UndeletedEvents::taken(EMsgId kind) const
 {
-    const auto *const place = std::find(kinds.begin(), kinds.end(), kind);
-    return m_taken.at(std::size_t(place - kinds.begin()));
+    const auto *const place = std::find(cKinds.begin(), cKinds.end(), kind);
+    return m_taken.at(std::size_t(place - cKinds.begin()));
 }

@@ -15,7 +15,7 @@ class UndeletedEvents : public QObject
 {
 public:
     /// The commands of these events.
-    static constexpr std::array<EMsgId, 2> kinds{MSG_CLOSE_AV_MSGBOX, MSG_CLOSE_SIGN_LIST};
+    static constexpr std::array<EMsgId, 2> cKinds{MSG_CLOSE_AV_MSGBOX, MSG_CLOSE_SIGN_LIST};
 
     /// Deletes those that have come so far, so that they do not count as growth.
     void take();
@@ -32,6 +32,6 @@ protected:
 
 private:
     std::vector<BaseEvent *> m_events;
-    std::array<qint64, kinds.size()> m_taken{};
+    std::array<qint64, cKinds.size()> m_taken{};
     qint64 m_bytes = 0;
 };

@@ -12,30 +12,30 @@
 
 namespace {
 
-const QString answers = QString::fromLatin1(Robots::answers);
-const QString busy = QString::fromLatin1(Robots::busy);
-const QString rejects = QString::fromLatin1(Robots::rejects);
-const QString never = QString::fromLatin1(Robots::silent);
-const QString fails = QString::fromLatin1(Robots::fails);
-const QString hangsUp = QString::fromLatin1(Robots::hangsUp);
-const QString callsBack = QString::fromLatin1(Robots::callsBack);
-const QString invites = QString::fromLatin1(Robots::invites);
-const QString crosses = QString::fromLatin1(Robots::crosses);
-const QString nobody = QStringLiteral("39999999");
+const QString cAnswers = QString::fromLatin1(Robots::cAnswers);
+const QString cBusy = QString::fromLatin1(Robots::cBusy);
+const QString cRejects = QString::fromLatin1(Robots::cRejects);
+const QString cNever = QString::fromLatin1(Robots::silent);
+const QString cFails = QString::fromLatin1(Robots::cFails);
+const QString cHangsUp = QString::fromLatin1(Robots::cHangsUp);
+const QString cCallsBack = QString::fromLatin1(Robots::cCallsBack);
+const QString cInvites = QString::fromLatin1(Robots::cInvites);
+const QString cCrosses = QString::fromLatin1(Robots::cCrosses);
+const QString cNobody = QStringLiteral("39999999");
 
 // Results in a call's record.
-constexpr int cancelled = 21;
-constexpr int failed = 22;
-constexpr int hungUp = 24;
-constexpr int isBusy = 25;
-constexpr int rejected = 26;
+constexpr int cCancelled = 21;
+constexpr int cFailed = 22;
+constexpr int cHungUp = 24;
+constexpr int cIsBusy = 25;
+constexpr int cRejected = 26;
 
 /// Takes the call's record. Either side may have given the call up first when the machine is busy elsewhere; that is
 /// counted.
 void expect(SoakClient &client, int result)
 {
     const CallRecord record = client.finished();
-    if (record.result == cancelled && result != cancelled) {
+    if (record.result == cCancelled && result != cCancelled) {
         ++client.givenUp;
         client.waitForSilence();
     } else if (record.result != result) {
@@ -56,53 +56,53 @@ int endsByItself(SoakClient &client)
 
 int cancelledByButton(SoakClient &client)
 {
-    client.call(never, true);
+    client.call(cNever, true);
     client.click("btnCancelCall");
-    expect(client, cancelled);
+    expect(client, cCancelled);
     return 1;
 }
 
 int cancelledByClosing(SoakClient &client)
 {
-    client.call(never);
+    client.call(cNever);
     client.closeWindow();
-    expect(client, cancelled);
+    expect(client, cCancelled);
     return 1;
 }
 
 int hungUpByUser(SoakClient &client)
 {
-    client.call(answers);
+    client.call(cAnswers);
     if (client.waitForConnection()) {
         client.click("btnMic");
         client.click("HangUp");
     }
-    expect(client, hungUp);
+    expect(client, cHungUp);
     return 1;
 }
 
 int acceptedCall(SoakClient &client)
 {
-    client.letCallBack(callsBack);
+    client.letCallBack(cCallsBack);
     client.answer(true);
-    expect(client, hungUp);
+    expect(client, cHungUp);
     client.waitForSilence();
     return 2;
 }
 
 int rejectedCall(SoakClient &client)
 {
-    client.letCallBack(callsBack);
+    client.letCallBack(cCallsBack);
     client.answer(false);
-    expect(client, rejected);
+    expect(client, cRejected);
     client.waitForSilence();
     return 2;
 }
 
 void ownConference(SoakClient &client)
 {
-    client.callConference({answers, busy, rejects, never, fails, nobody});
-    for (const QString &uid : {answers, busy, rejects, fails, nobody}) {
+    client.callConference({cAnswers, cBusy, cRejects, cNever, cFails, cNobody});
+    for (const QString &uid : {cAnswers, cBusy, cRejects, cFails, cNobody}) {
         client.waitForStatus(uid);
     }
     client.click("btnMuteAll");
@@ -111,43 +111,43 @@ void ownConference(SoakClient &client)
 
 void enlargedConference(SoakClient &client)
 {
-    client.callConference({answers, hangsUp});
-    client.waitForStatus(answers);
-    client.waitForStatus(hangsUp, ConferenceHungUp);
+    client.callConference({cAnswers, cHangsUp});
+    client.waitForStatus(cAnswers);
+    client.waitForStatus(cHangsUp, ConferenceHungUp);
     // The picker gives one who cannot be reached.
     client.click("btnAddMember");
-    client.waitForStatus(fails);
+    client.waitForStatus(cFails);
     client.closeWindow();
 }
 
 void refusedConference(SoakClient &client)
 {
-    client.callConference({fails, nobody});
+    client.callConference({cFails, cNobody});
 }
 
 void acceptedInvitation(SoakClient &client)
 {
-    client.letCallBack(invites);
+    client.letCallBack(cInvites);
     client.answer(true);
 }
 
 void crossedInvitation(SoakClient &client)
 {
-    client.letCallBack(crosses);
+    client.letCallBack(cCrosses);
     client.answer(true);
 }
 
 void rejectedInvitation(SoakClient &client)
 {
-    client.letCallBack(invites);
+    client.letCallBack(cInvites);
     client.answer(false);
 }
 
-constexpr std::array<int (*)(SoakClient &), 10> singleCalls{endsByItself<busy, isBusy>,
-                                                            endsByItself<rejects, rejected>,
-                                                            endsByItself<fails, failed>,
-                                                            endsByItself<hangsUp, hungUp>,
-                                                            endsByItself<nobody, failed>,
+constexpr std::array<int (*)(SoakClient &), 10> singleCalls{endsByItself<cBusy, cIsBusy>,
+                                                            endsByItself<cRejects, cRejected>,
+                                                            endsByItself<cFails, cFailed>,
+                                                            endsByItself<cHangsUp, cHungUp>,
+                                                            endsByItself<cNobody, cFailed>,
                                                             cancelledByButton,
                                                             cancelledByClosing,
                                                             hungUpByUser,
@@ -156,12 +156,12 @@ constexpr std::array<int (*)(SoakClient &), 10> singleCalls{endsByItself<busy, i
 constexpr std::array<void (*)(SoakClient &), 6> conferences{ownConference,      enlargedConference, refusedConference,
                                                             acceptedInvitation, crossedInvitation,  rejectedInvitation};
 // The centre is visited after every conference of this number.
-constexpr int betweenVisits = 5;
+constexpr int cBetweenVisits = 5;
 
-constexpr int secondsInHour = 3600;
-constexpr int longCallSeconds = 600;
-constexpr int invitationSeconds = 60;
-constexpr int absenceSeconds = 240;
+constexpr int cSecondsInHour = 3600;
+constexpr int cLongCallSeconds = 600;
+constexpr int cInvitationSeconds = 60;
+constexpr int cAbsenceSeconds = 240;
 
 } // namespace
 
@@ -175,22 +175,22 @@ void Workload::nextConference()
     conferences.at(std::size_t(m_conference) % conferences.size())(m_client);
     m_client.waitForNoCall();
     m_client.waitForSilence();
-    if (++m_conference % betweenVisits == 0) {
+    if (++m_conference % cBetweenVisits == 0) {
         m_client.visitCentre();
     }
 }
 
 void Workload::longCall()
 {
-    m_client.call(answers);
+    m_client.call(cAnswers);
     if (!m_client.waitForConnection()) {
-        expect(m_client, hungUp);
+        expect(m_client, cHungUp);
         return;
     }
-    m_client.pass(longCallSeconds);
+    m_client.pass(cLongCallSeconds);
     m_client.click("HangUp");
     const CallRecord record = m_client.finished();
-    if (record.result != hungUp || record.seconds < longCallSeconds) {
+    if (record.result != cHungUp || record.seconds < cLongCallSeconds) {
         throw SoakFailure(
             QStringLiteral("a call of ten minutes lasted %1 s, result %2").arg(record.seconds).arg(record.result));
     }
@@ -198,9 +198,9 @@ void Workload::longCall()
 
 void Workload::unansweredCall()
 {
-    const QDeadlineTimer limit(qint64(invitationSeconds) * 1000);
-    m_client.call(never);
-    expect(m_client, cancelled);
+    const QDeadlineTimer limit(qint64(cInvitationSeconds) * 1000);
+    m_client.call(cNever);
+    expect(m_client, cCancelled);
     if (!limit.hasExpired()) {
         throw SoakFailure(QStringLiteral("a call was given up after less than a minute"));
     }
@@ -213,10 +213,10 @@ void Workload::conferenceWithAbsentMember()
     if (QTime::currentTime() > late) {
         m_client.pass(QTime::currentTime().secsTo(QTime(23, 59, 59)) + 2);
     }
-    m_client.callConference({answers, never});
-    m_client.waitForStatus(answers);
+    m_client.callConference({cAnswers, cNever});
+    m_client.waitForStatus(cAnswers);
     // The watchdog sees to it.
-    m_client.waitForStatus(never);
+    m_client.waitForStatus(cNever);
     m_client.closeWindow();
     m_client.waitForNoCall();
     m_client.visitCentre();
@@ -226,14 +226,14 @@ void Workload::timeWithoutCallProcess()
 {
     const int before = m_client.registrations();
     m_client.killCallProcess();
-    m_client.pass(absenceSeconds);
+    m_client.pass(cAbsenceSeconds);
     m_client.startCallProcess();
     m_client.waitForRegistration(before);
 }
 
 void Workload::hour()
 {
-    const QDeadlineTimer over(qint64(secondsInHour) * 1000);
+    const QDeadlineTimer over(qint64(cSecondsInHour) * 1000);
     longCall();
     unansweredCall();
     conferenceWithAbsentMember();

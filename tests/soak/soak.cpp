@@ -17,20 +17,20 @@
 namespace {
 
 // A robot answers within some ten milliseconds then, and lets it ring for three tenths of a second.
-constexpr int fullSpeed = 100;
+constexpr int cFullSpeed = 100;
 // An hour takes eighteen seconds then, the limits of a minute three tenths of a second.
-constexpr int daySpeed = 200;
-constexpr int warmUpCalls = 100;
-constexpr int warmUpHours = 1;
+constexpr int cDaySpeed = 200;
+constexpr int cWarmUpCalls = 100;
+constexpr int cWarmUpHours = 1;
 // What is held is shown after each of them.
-constexpr int parts = 10;
+constexpr int cParts = 10;
 // After so many parts everything that is made on a first need has been needed, glyphs of the fonts above all.
-constexpr int settlingParts = 2;
-constexpr qint64 mostGrowthPercent = 1;
+constexpr int cSettlingParts = 2;
+constexpr qint64 cMostGrowthPercent = 1;
 // Lists keep the room of the longest that they have been: the log's queue, the queues of events.
-constexpr qint64 keptRoomBytes = qint64(96) * 1024;
+constexpr qint64 cKeptRoomBytes = qint64(96) * 1024;
 // Qt makes a few objects on a first need that comes later.
-constexpr int lateObjects = 8;
+constexpr int cLateObjects = 8;
 
 struct Plan
 {
@@ -123,10 +123,10 @@ void runCalls(SoakClient &client, Workload &work, const Plan &plan, Course &cour
             client, QStringLiteral("after %1 calls and %2 conferences").arg(shares.calls()).arg(shares.conferences()));
     };
     const std::int64_t start = FastClock::realMs();
-    course.early = after(warmUpCalls);
-    course.settled = after(qMax(warmUpCalls, plan.calls * settlingParts / parts));
-    for (int part = settlingParts + 1; part < parts; ++part) {
-        after(int(qint64(plan.calls) * part / parts));
+    course.early = after(cWarmUpCalls);
+    course.settled = after(qMax(cWarmUpCalls, plan.calls * cSettlingParts / cParts));
+    for (int part = cSettlingParts + 1; part < cParts; ++part) {
+        after(int(qint64(plan.calls) * part / cParts));
     }
     course.late = after(plan.calls);
     const double seconds = double(FastClock::realMs() - start) / 1000;
@@ -143,10 +143,10 @@ void runHours(SoakClient &client, Workload &work, const Plan &plan, Course &cour
     for (int hour = 1; hour <= plan.hours; ++hour) {
         work.hour();
         const Footprint print = measure(client, QStringLiteral("after %1 h").arg(hour));
-        if (hour == warmUpHours) {
+        if (hour == cWarmUpHours) {
             course.early = print;
         }
-        if (hour == qMax(warmUpHours, plan.hours * settlingParts / parts)) {
+        if (hour == qMax(cWarmUpHours, plan.hours * cSettlingParts / cParts)) {
             course.settled = print;
         }
         course.late = print;
@@ -174,13 +174,13 @@ bool isHeld(const Course &course)
         say(QStringLiteral("resident memory: %1 of the early one; heap in use: %2 of the early, %3 of the settled one")
                 .arg(ratio(late.residentBytes, course.early.residentBytes),
                      ratio(late.heapBytes, course.early.heapBytes), ratio(late.heapBytes, course.settled.heapBytes)));
-        check("resident memory", late.residentBytes, course.early.residentBytes * (100 + mostGrowthPercent) / 100);
+        check("resident memory", late.residentBytes, course.early.residentBytes * (100 + cMostGrowthPercent) / 100);
         check("heap in use", late.heapBytes,
-              course.settled.heapBytes * (100 + mostGrowthPercent) / 100 + keptRoomBytes);
+              course.settled.heapBytes * (100 + cMostGrowthPercent) / 100 + cKeptRoomBytes);
     }
     check("descriptors", late.descriptors, course.early.descriptors);
     check("windows", late.windows, course.start.windows);
-    check("objects", late.objectCount(), course.early.objectCount() + lateObjects);
+    check("objects", late.objectCount(), course.early.objectCount() + cLateObjects);
     // Deliberate: nothing stops the call window's clock once a call was connected.
     QStringList timers = course.start.timers + QStringList{QStringLiteral("QTimer:CVoipWidget 1000 ms")};
     timers.sort();
@@ -204,7 +204,7 @@ void tellMoreObjects(const Footprint &early, const Footprint &late)
 
 bool run(const Plan &plan)
 {
-    SoakClient client(plan.hours > 0 ? daySpeed : fullSpeed);
+    SoakClient client(plan.hours > 0 ? cDaySpeed : cFullSpeed);
     client.start();
     Course course;
     course.start = measure(client, QStringLiteral("at the start"));
@@ -237,7 +237,7 @@ int main(int argc, char **argv)
     // The day's work has the clock run fast from before the event loop is made; who asks for hours says so first.
     for (int i = 1; i < argc; ++i) {
         if (QByteArray(argv[i]).startsWith("--hours")) {
-            FastClock::start(daySpeed);
+            FastClock::start(cDaySpeed);
         }
     }
     const QApplication app(argc, argv);

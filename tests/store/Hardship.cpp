@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr uint32_t exemptions = (1U << CAP_DAC_OVERRIDE) | (1U << CAP_DAC_READ_SEARCH);
+constexpr uint32_t cExemptions = (1U << CAP_DAC_OVERRIDE) | (1U << CAP_DAC_READ_SEARCH);
 
 __user_cap_header_struct ownThread()
 {
@@ -72,7 +72,7 @@ OrdinaryRights::OrdinaryRights()
     readRights(data);
     m_before[0] = data[0].effective;
     m_before[1] = data[1].effective;
-    data[0].effective &= ~exemptions;
+    data[0].effective &= ~cExemptions;
     writeRights(data);
 }
 

@@ -12,14 +12,14 @@ class LockHolder
 public:
     /// Far longer than all waiting of one open together, and far shorter than what its statements, a hundred, would
     /// wait one after the other; in milliseconds.
-    static constexpr int kLongHold = 20000;
+    static constexpr int cLongHold = 20000;
 
     /// Starts the program, which executes the statements, parted by ";", on the file.
-    LockHolder(const QString &strFile, const QString &strStatements, int iMilliseconds = kLongHold)
+    LockHolder(const QString &strFile, const QString &strStatements, int iMilliseconds = cLongHold)
     {
         m_process.start(QStringLiteral(STORE_CHILD),
                         {QStringLiteral("hold"), strFile, strStatements, QString::number(iMilliseconds)});
-        m_bHeld = m_process.waitForReadyRead(kPatienceMs) && m_process.readLine() == "held\n";
+        m_bHeld = m_process.waitForReadyRead(cPatienceMs) && m_process.readLine() == "held\n";
     }
     /// Whether it got its lock.
     bool hasHeld() const { return m_bHeld; }
@@ -29,7 +29,7 @@ public:
     bool letGo()
     {
         m_process.closeWriteChannel();
-        return m_process.waitForFinished(kPatienceMs) && m_process.exitCode() == 0;
+        return m_process.waitForFinished(cPatienceMs) && m_process.exitCode() == 0;
     }
 
 private:

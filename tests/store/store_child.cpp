@@ -1,7 +1,7 @@
 // The other program in the tests of the store: one that holds a file, or one that writes until it is killed. It says
 // on standard output what it has done, a line each.
 //
-//   store_child hold FILE STATEMENTS MS  opens the file, executes the statements, which ";" parts, says "held" and
+//   store_child hold FILE cStatements MS  opens the file, executes the statements, which ";" parts, says "held" and
 //                                        lets go at its input's end, or after that many milliseconds, and says "gone"
 //   store_child write BASE FIRST         says "start", opens the store of "user", then saves the numbered records from
 //                                        FIRST on and says each number once the record is saved

@@ -6,7 +6,7 @@
 namespace {
 
 // The tables of a new file in the order of their making.
-const QStringList newTables = {
+const QStringList cNewTables = {
     "loginInfo",
     "latestfriendnew",
     "deletedfriendnew",
@@ -53,36 +53,38 @@ const QStringList newTables = {
     "dingsmsgfileoinfo",
 };
 
-const QString allTables = QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY rowid");
+const QString cAllTables = QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY rowid");
 
 // What hosts call, by these names, with these arguments. A text taken by value is so on purpose.
 template <typename Signature, auto... functions>
-constexpr bool allAre = (std::is_same_v<decltype(functions), Signature> && ...);
+constexpr bool cAllAre = (std::is_same_v<decltype(functions), Signature> && ...);
 
 static_assert(std::is_same_v<decltype(DB::m_db), QSqlDatabase>);
 static_assert(std::is_default_constructible_v<DB> && std::is_empty_v<DB>);
-static_assert(allAre<bool (*)(QString, bool), DB::checkDB>);
-static_assert(allAre<bool (*)(QString, QString, bool), DB::initByUserName>);
-static_assert(allAre<QSqlDatabase (*)(), DB::getDB>);
-static_assert(allAre<bool (*)(const QString &), DB::isNeedUpdate, DB::isExistTable>);
-static_assert(allAre<bool (*)(const QString &, const QString &), DB::isExistFiled, DB::isExistIndex>);
-static_assert(allAre<QString (*)(QString), DB::addYinHao>);
-static_assert(allAre<bool (*)(const QSqlDatabase &, const QString &, const QString &, const QString &, const QString &),
-                     DB::replaceFiled>);
-static_assert(allAre<void (*)(), DB::closeDB, DB::dropNoUseTable, DB::createTable, DB::createLoginTable,
-                     DB::createLatestFrdTable, DB::creatDeletedFrdTable, DB::createMessageTable, DB::createSessionTable,
-                     DB::createUnreadSessionTable, DB::createLastTimeTable, DB::createLocalFrdTable, DB::createMuctable,
-                     DB::createMucMembersTable, DB::createGroupTable, DB::createGroupFriendVersion,
-                     DB::createFriendGroupTable, DB::createOutsideGroupFriendVersion, DB::createFileRecevieStatusTable,
-                     DB::creatCloudFileLocalInfo, DB::creatShareFileLocalInfo, DB::creatFileStatusLocalInfo,
-                     DB::creatVideoInfo, DB::creatFileDisplayStatusInfo, DB::createServiceTable,
-                     DB::createServiceVersion, DB::createApplicationNewTableNew, DB::createApplicationVersionNew,
-                     DB::createFavoriteTable, DB::createFavoriteFileTable, DB::createUnCloseSessionTable,
-                     DB::createRoomNoticeTable, DB::creatVoipConferenceInfoTable, DB::creatAgentInfoTable,
-                     DB::createCSChannelTable, DB::createCSWorkgroupTable, DB::createCSQuickrplyTable,
-                     DB::createCSAgentSessionTable, DB::createCSCommentTable, DB::createCSChatSumTable,
-                     DB::createCSChannelQuickrplyTable, DB::createCSChannelTopListTable, DB::createCSChatSumAgentTable,
-                     DB::createCSChatAndQuickVersionTable, DB::createDingMsgTable, DB::createDingVersion>);
+static_assert(cAllAre<bool (*)(QString, bool), DB::checkDB>);
+static_assert(cAllAre<bool (*)(QString, QString, bool), DB::initByUserName>);
+static_assert(cAllAre<QSqlDatabase (*)(), DB::getDB>);
+static_assert(cAllAre<bool (*)(const QString &), DB::isNeedUpdate, DB::isExistTable>);
+static_assert(cAllAre<bool (*)(const QString &, const QString &), DB::isExistFiled, DB::isExistIndex>);
+static_assert(cAllAre<QString (*)(QString), DB::addYinHao>);
+static_assert(
+    cAllAre<bool (*)(const QSqlDatabase &, const QString &, const QString &, const QString &, const QString &),
+            DB::replaceFiled>);
+static_assert(
+    cAllAre<void (*)(), DB::closeDB, DB::dropNoUseTable, DB::createTable, DB::createLoginTable,
+            DB::createLatestFrdTable, DB::creatDeletedFrdTable, DB::createMessageTable, DB::createSessionTable,
+            DB::createUnreadSessionTable, DB::createLastTimeTable, DB::createLocalFrdTable, DB::createMuctable,
+            DB::createMucMembersTable, DB::createGroupTable, DB::createGroupFriendVersion, DB::createFriendGroupTable,
+            DB::createOutsideGroupFriendVersion, DB::createFileRecevieStatusTable, DB::creatCloudFileLocalInfo,
+            DB::creatShareFileLocalInfo, DB::creatFileStatusLocalInfo, DB::creatVideoInfo,
+            DB::creatFileDisplayStatusInfo, DB::createServiceTable, DB::createServiceVersion,
+            DB::createApplicationNewTableNew, DB::createApplicationVersionNew, DB::createFavoriteTable,
+            DB::createFavoriteFileTable, DB::createUnCloseSessionTable, DB::createRoomNoticeTable,
+            DB::creatVoipConferenceInfoTable, DB::creatAgentInfoTable, DB::createCSChannelTable,
+            DB::createCSWorkgroupTable, DB::createCSQuickrplyTable, DB::createCSAgentSessionTable,
+            DB::createCSCommentTable, DB::createCSChatSumTable, DB::createCSChannelQuickrplyTable,
+            DB::createCSChannelTopListTable, DB::createCSChatSumAgentTable, DB::createCSChatAndQuickVersionTable,
+            DB::createDingMsgTable, DB::createDingVersion>);
 
 } // namespace
 
@@ -94,8 +96,8 @@ private slots:
     void aNewFileHasAllTablesInTheFixedOrder()
     {
         QVERIFY(m_store->open());
-        QCOMPARE(newTables.size(), 44);
-        QCOMPARE(BesideFile(m_store->file()).rows(allTables), newTables);
+        QCOMPARE(cNewTables.size(), 44);
+        QCOMPARE(BesideFile(m_store->file()).rows(cAllTables), cNewTables);
     }
 
     void theUrgentMessagesVersionIsMadeOnlyWhenAskedFor()
@@ -202,11 +204,11 @@ private slots:
         m_store->make(statements);
         QVERIFY(m_store->open());
         BesideFile beside(m_store->file());
-        QCOMPARE(beside.rows(allTables), retired + newTables);
+        QCOMPARE(beside.rows(cAllTables), retired + cNewTables);
         DB::dropNoUseTable();
-        QCOMPARE(beside.rows(allTables), newTables);
+        QCOMPARE(beside.rows(cAllTables), cNewTables);
         DB::dropNoUseTable();
-        QCOMPARE(beside.rows(allTables), newTables);
+        QCOMPARE(beside.rows(cAllTables), cNewTables);
     }
 
     // SQLite itself would take one for the other.

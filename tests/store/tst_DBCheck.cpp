@@ -20,12 +20,12 @@ public:
     }
 };
 
-constexpr qint64 pageSize = 4096;
+constexpr qint64 cPageSize = 4096;
 
-const QString trialRows = QStringLiteral("SELECT id FROM msgrecord WHERE id = 'checkid'");
+const QString cTrialRows = QStringLiteral("SELECT id FROM msgrecord WHERE id = 'checkid'");
 
 // A table of many pages, the last made ones of which a test can spoil.
-const QStringList filler = {
+const QStringList cFiller = {
     "CREATE TABLE filler(text TEXT)",
     "INSERT INTO filler WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 200)"
     " SELECT hex(zeroblob(500)) FROM n",
@@ -60,7 +60,7 @@ private slots:
     {
         makeStore();
         QVERIFY(DB::checkDB(m_store->folder(), false));
-        QCOMPARE(BesideFile(m_store->file()).rows(trialRows), QStringList());
+        QCOMPARE(BesideFile(m_store->file()).rows(cTrialRows), QStringList());
     }
 
     void theQuickCheckAloneWritesNothing()
@@ -75,20 +75,20 @@ private slots:
     {
         makeStore({"INSERT INTO msgrecord (id) VALUES ('checkid')"});
         QVERIFY(DB::checkDB(m_store->folder(), false));
-        QCOMPARE(BesideFile(m_store->file()).rows(trialRows), QStringList());
+        QCOMPARE(BesideFile(m_store->file()).rows(cTrialRows), QStringList());
     }
 
     void aLeftoverTrialRowIsDeletedButDoesNotVouchForTheRest()
     {
-        makeStore(filler + QStringList("INSERT INTO msgrecord (id) VALUES ('checkid')"));
+        makeStore(cFiller + QStringList("INSERT INTO msgrecord (id) VALUES ('checkid')"));
         spoilTail();
         QVERIFY(!DB::checkDB(m_store->folder(), false));
-        QCOMPARE(BesideFile(m_store->file()).rows(trialRows), QStringList());
+        QCOMPARE(BesideFile(m_store->file()).rows(cTrialRows), QStringList());
     }
 
     void aStoreWithoutMessagesFallsThroughToTheQuickCheck()
     {
-        m_store->make(filler);
+        m_store->make(cFiller);
         QVERIFY(DB::checkDB(m_store->folder(), false));
         spoilTail();
         QVERIFY(!DB::checkDB(m_store->folder(), false));
@@ -103,7 +103,7 @@ private slots:
 
     void aWorkingTrialWriteVouchesForTheFile()
     {
-        makeStore(filler);
+        makeStore(cFiller);
         spoilTail();
         QVERIFY(DB::checkDB(m_store->folder(), false));
         QVERIFY(!DB::checkDB(m_store->folder(), true));
@@ -111,11 +111,12 @@ private slots:
 
     void aTrialRowThatCannotBeDeletedDoesNotChangeTheVerdict()
     {
-        makeStore(filler + QStringList("CREATE TRIGGER keep BEFORE DELETE ON msgrecord BEGIN SELECT RAISE(ABORT, 'no');"
-                                       " END"));
+        makeStore(cFiller +
+                  QStringList("CREATE TRIGGER keep BEFORE DELETE ON msgrecord BEGIN SELECT RAISE(ABORT, 'no');"
+                              " END"));
         spoilTail();
         QVERIFY(DB::checkDB(m_store->folder(), false));
-        QCOMPARE(BesideFile(m_store->file()).rows(trialRows), QStringList("checkid"));
+        QCOMPARE(BesideFile(m_store->file()).rows(cTrialRows), QStringList("checkid"));
     }
 
     void aMalformedMessageTableIsDamage()
@@ -163,7 +164,7 @@ private slots:
 
     void aTruncatedFileIsDamageAndIsLeftAsItIs()
     {
-        makeStore(filler);
+        makeStore(cFiller);
         QVERIFY(QFile::resize(m_store->file(), 3000));
         const QByteArray before = readBytes(m_store->file());
         QVERIFY(!DB::checkDB(m_store->folder(), false));
@@ -192,8 +193,8 @@ private slots:
         QFETCH(const QString, message);
         QFETCH(const bool, translated);
         QFETCH(const bool, damaged);
-        makeStore(filler + QStringList("CREATE TRIGGER say BEFORE INSERT ON msgrecord BEGIN SELECT RAISE(ABORT, '" +
-                                       message + "'); END"));
+        makeStore(cFiller + QStringList("CREATE TRIGGER say BEFORE INSERT ON msgrecord BEGIN SELECT RAISE(ABORT, '" +
+                                        message + "'); END"));
         if (damaged) {
             spoilTail();
         }
@@ -245,8 +246,8 @@ private:
     {
         QFile file(m_store->file());
         QVERIFY(file.open(QIODevice::ReadWrite));
-        QVERIFY(file.seek(file.size() - 10 * pageSize));
-        QCOMPARE(file.write(QByteArray(int(pageSize), '\x77')), pageSize);
+        QVERIFY(file.seek(file.size() - 10 * cPageSize));
+        QCOMPARE(file.write(QByteArray(int(cPageSize), '\x77')), cPageSize);
     }
 
     void spoilRootPageOf(const QString &table)
@@ -258,8 +259,8 @@ private:
         QVERIFY(page > 1);
         QFile file(m_store->file());
         QVERIFY(file.open(QIODevice::ReadWrite));
-        QVERIFY(file.seek((page - 1) * pageSize));
-        QCOMPARE(file.write(QByteArray(int(pageSize), '\x77')), pageSize);
+        QVERIFY(file.seek((page - 1) * cPageSize));
+        QCOMPARE(file.write(QByteArray(int(cPageSize), '\x77')), cPageSize);
     }
 
     std::unique_ptr<StoreFixture> m_store;

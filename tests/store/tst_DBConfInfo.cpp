@@ -36,7 +36,7 @@ QStringList listedIds()
     return ids;
 }
 
-const QString allRows = QStringLiteral("SELECT * FROM voipConferenceInfo");
+const QString cAllRows = QStringLiteral("SELECT * FROM voipConferenceInfo");
 
 } // namespace
 
@@ -88,7 +88,7 @@ private slots:
     void threeMembersAreStoredWithThreeCommas()
     {
         QVERIFY(DBConfInfo::saveConfInfo(record("c1", {"a", "b", "c"})));
-        QCOMPARE(stored(allRows), QStringList("c1|anna|2024-02-03 04:05:06|61|a,b,c,|1"));
+        QCOMPARE(stored(cAllRows), QStringList("c1|anna|2024-02-03 04:05:06|61|a,b,c,|1"));
         QCOMPARE(DBConfInfo::getAllConfInfo().value(0).m_listMember.size(), 3);
     }
 
@@ -124,7 +124,7 @@ private slots:
         second.m_strCallTime = "99";
         second.m_bIsConnect = false;
         QVERIFY(DBConfInfo::saveConfInfo(second));
-        QCOMPARE(stored(allRows), QStringList("c1|anna|2024-02-03 04:05:06|61|anna,bert,carl,|1"));
+        QCOMPARE(stored(cAllRows), QStringList("c1|anna|2024-02-03 04:05:06|61|anna,bert,carl,|1"));
     }
 
     void nullTextsAreStoredAsEmptyOnes()
@@ -139,7 +139,7 @@ private slots:
     {
         QVERIFY(DBConfInfo::saveConfInfo(ConfInfoData()));
         QVERIFY(!DBConfInfo::saveConfInfo(ConfInfoData()));
-        QCOMPARE(stored(allRows).size(), 1);
+        QCOMPARE(stored(cAllRows).size(), 1);
     }
 
     void onlyTheNumberOneReadsAsConnected_data()

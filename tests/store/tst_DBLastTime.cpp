@@ -16,8 +16,8 @@ static_assert(std::is_same_v<decltype(&DBLastTime::getLastTime), QString (*)()>)
 
 namespace {
 
-const QString noConnection = QStringLiteral("Driver not loaded Driver not loaded");
-const QString noTable = QStringLiteral("no such table: last_time Unable to execute statement");
+const QString cNoConnection = QStringLiteral("Driver not loaded Driver not loaded");
+const QString cNoTable = QStringLiteral("no such table: last_time Unable to execute statement");
 
 } // namespace
 
@@ -122,7 +122,7 @@ private slots:
     {
         DB::closeDB();
         writeAndRead();
-        QCOMPARE(loggedErrors(), QStringList({saveFailed("1") + noConnection, updateFailed("2") + noConnection}));
+        QCOMPARE(loggedErrors(), QStringList({saveFailed("1") + cNoConnection, updateFailed("2") + cNoConnection}));
     }
 
     // The closed connection has a driver, which has nothing to say.
@@ -137,7 +137,7 @@ private slots:
     {
         DB::closeDB();
         DB::createLastTimeTable();
-        QCOMPARE(loggedErrors(), QStringList(saveFailed(QString()) + noConnection));
+        QCOMPARE(loggedErrors(), QStringList(saveFailed(QString()) + cNoConnection));
     }
 
     void aStoreWithoutTheTableIsLoggedToo()
@@ -145,7 +145,7 @@ private slots:
         // By the session itself: its next statement then fails when it is prepared.
         QVERIFY(QSqlQuery(DB::getDB()).exec("DROP TABLE last_time"));
         writeAndRead();
-        QCOMPARE(loggedErrors(), QStringList({saveFailed("1") + noTable, updateFailed("2") + noTable}));
+        QCOMPARE(loggedErrors(), QStringList({saveFailed("1") + cNoTable, updateFailed("2") + cNoTable}));
     }
 
     void aFirstOpenWithoutAContextLeavesTheRowMissingForGood()
@@ -153,7 +153,7 @@ private slots:
         DB::closeDB();
         SharedContext::setCommonData(nullptr);
         QVERIFY(m_store->open("bert"));
-        QCOMPARE(loggedErrors(), QStringList(saveFailed(QString()) + noConnection));
+        QCOMPARE(loggedErrors(), QStringList(saveFailed(QString()) + cNoConnection));
         QVERIFY(m_store->open("bert"));
         SharedContext::setCommonData(&m_store->context);
         QVERIFY(m_store->open("bert"));

@@ -11,8 +11,8 @@
 
 namespace {
 
-const QString everything = QStringLiteral("BEGIN EXCLUSIVE");
-const QString look = QStringLiteral("SELECT count(*) FROM msgrecord");
+const QString cEverything = QStringLiteral("BEGIN EXCLUSIVE");
+const QString cLook = QStringLiteral("SELECT count(*) FROM msgrecord");
 
 /// A connection that is opened for a flow.
 class FlowConnection
@@ -54,7 +54,7 @@ private slots:
     {
         QVERIFY(putFile(m_sound));
         const FlowConnection flow(m_strFile);
-        LockHolder holder(m_strFile, everything);
+        LockHolder holder(m_strFile, cEverything);
         QVERIFY(holder.hasHeld());
         LockWait wait(flow.db);
         QSqlQuery query(flow.db);
@@ -64,7 +64,7 @@ private slots:
             if (++tries == 4) {
                 gone = holder.letGo();
             }
-            return query.exec(look);
+            return query.exec(cLook);
         }));
         QVERIFY(gone);
         QCOMPARE(tries, 4);
@@ -76,14 +76,14 @@ private slots:
     {
         QVERIFY(putFile(m_sound));
         const FlowConnection flow(m_strFile);
-        LockHolder holder(m_strFile, everything);
+        LockHolder holder(m_strFile, cEverything);
         QVERIFY(holder.hasHeld());
         LockWait wait(flow.db);
         QSqlQuery query(flow.db);
         int tries = 0;
         const auto tryOnce = [&] {
             ++tries;
-            return query.exec(look);
+            return query.exec(cLook);
         };
         QVERIFY(!wait.execute(query, tryOnce));
         QVERIFY(LockWait::isLockedOut(query.lastError()));
@@ -96,7 +96,7 @@ private slots:
         }
         QVERIFY(holder.holds());
         QVERIFY(holder.letGo());
-        QVERIFY(wait.execute(query, look));
+        QVERIFY(wait.execute(query, cLook));
     }
 
     void workThatTakesLongUsesNothingUp()
@@ -110,15 +110,15 @@ private slots:
                            " LIMIT 500000) SELECT max(i) FROM counted");
         QElapsedTimer clock;
         clock.start();
-        while (clock.elapsed() <= LockWait::kLimitMs) {
+        while (clock.elapsed() <= LockWait::cLimitMs) {
             QVERIFY(wait.execute(query, longWork));
         }
         query.clear();
-        LockHolder holder(m_strFile, everything);
+        LockHolder holder(m_strFile, cEverything);
         QVERIFY(holder.hasHeld());
         int tries = 0;
-        QVERIFY(
-            wait.execute(query, [&] { return ++tries == 4 ? holder.letGo() && query.exec(look) : query.exec(look); }));
+        QVERIFY(wait.execute(query,
+                             [&] { return ++tries == 4 ? holder.letGo() && query.exec(cLook) : query.exec(cLook); }));
     }
 
     void otherFailuresAreNotTriedAgain()
@@ -141,7 +141,7 @@ private slots:
     {
         QVERIFY(putFile(m_sound));
         const FlowConnection flow(m_strFile);
-        LockHolder holder(m_strFile, everything);
+        LockHolder holder(m_strFile, cEverything);
         QVERIFY(holder.hasHeld());
         LockWait wait(flow.db);
         QSqlQuery query(flow.db);

@@ -9,7 +9,7 @@
 
 namespace {
 
-const char *const SERVICE = R"({"iServiceCode":"c1","menuList":[
+const char *const cService = R"({"iServiceCode":"c1","menuList":[
   {"name":"\u83dc\u5355 'top' \u0022x\u0022","type":1,"value":"a\\b\n","child":[
     {"name":"one","leaf":true,"type":2,"pcLink":"m.example/?a=1&b=2"},
     {"name":"two","child":[{"name":"deep","leaf":true,"moLink":"m"}]}]},
@@ -47,7 +47,7 @@ private slots:
         const StoreFixture fixture;
         QVERIFY(fixture.open());
         Json::Value value;
-        QVERIFY(Json::Reader().parse(SERVICE, value));
+        QVERIFY(Json::Reader().parse(cService, value));
         CServiceNumData sent;
         sent.parseFromJson(value);
 

@@ -70,7 +70,7 @@ private:
         QProcess writer;
         writer.start(QStringLiteral(STORE_CHILD), {QStringLiteral("write"), m_strBase, strFirst});
         int lines = 0;
-        while (lines < iLines && (writer.canReadLine() || writer.waitForReadyRead(kPatienceMs))) {
+        while (lines < iLines && (writer.canReadLine() || writer.waitForReadyRead(cPatienceMs))) {
             for (; lines < iLines && writer.canReadLine(); ++lines) {
                 const QByteArray line = writer.readLine();
                 if (lines > 0) {
@@ -81,7 +81,7 @@ private:
         QCOMPARE(lines, iLines);
         QThread::usleep(static_cast<unsigned long>(iMicroseconds));
         writer.kill();
-        QVERIFY(writer.waitForFinished(kPatienceMs));
+        QVERIFY(writer.waitForFinished(cPatienceMs));
         while (writer.canReadLine()) {
             const QByteArray line = writer.readLine();
             if (line != "start\n") {

@@ -11,12 +11,12 @@
 namespace {
 
 // Within the waiting of one open.
-constexpr int kShortHold = 300;
+constexpr int cShortHold = 300;
 
 // What keeps others from reading, and what keeps them from writing only.
-const QString everything = QStringLiteral("BEGIN EXCLUSIVE");
-const QString writing = QStringLiteral("BEGIN IMMEDIATE");
-const QString aReadersLook = QStringLiteral("BEGIN;SELECT count(*) FROM msgrecord");
+const QString cEverything = QStringLiteral("BEGIN EXCLUSIVE");
+const QString cWriting = QStringLiteral("BEGIN IMMEDIATE");
+const QString cAReadersLook = QStringLiteral("BEGIN;SELECT count(*) FROM msgrecord");
 
 } // namespace
 
@@ -31,8 +31,8 @@ private slots:
         QTest::addColumn<QString>("journal");
         QTest::addColumn<QString>("statements");
         QTest::addColumn<bool>("createAll");
-        QTest::newRow("the whole store") << QStringLiteral("PRAGMA journal_mode = DELETE") << everything << true;
-        QTest::newRow("the login table only") << QStringLiteral("PRAGMA journal_mode = DELETE") << everything << false;
+        QTest::newRow("the whole store") << QStringLiteral("PRAGMA journal_mode = DELETE") << cEverything << true;
+        QTest::newRow("the login table only") << QStringLiteral("PRAGMA journal_mode = DELETE") << cEverything << false;
         QTest::newRow("in a write-ahead journal's mode")
             << QStringLiteral("PRAGMA journal_mode = WAL")
             << QStringLiteral("PRAGMA locking_mode = EXCLUSIVE;BEGIN IMMEDIATE;CREATE TABLE others(id)") << true;
@@ -66,9 +66,9 @@ private slots:
     void openWaitsForALockThatIsLetGo_data()
     {
         QTest::addColumn<QString>("statements");
-        QTest::newRow("that keeps from reading") << everything;
-        QTest::newRow("that keeps from writing") << writing;
-        QTest::newRow("of a reader") << aReadersLook;
+        QTest::newRow("that keeps from reading") << cEverything;
+        QTest::newRow("that keeps from writing") << cWriting;
+        QTest::newRow("of a reader") << cAReadersLook;
     }
 
     void openWaitsForALockThatIsLetGo()
@@ -78,7 +78,7 @@ private slots:
         const QString all = tables();
         ask(QStringLiteral("DROP TABLE voipConferenceInfo"));
         QVERIFY(tables() != all);
-        LockHolder holder(m_strFile, statements, kShortHold);
+        LockHolder holder(m_strFile, statements, cShortHold);
         QVERIFY(holder.hasHeld());
         QVERIFY(open());
         {
@@ -94,8 +94,8 @@ private slots:
     void openOfAWholeFileNeedsNoWriting_data()
     {
         QTest::addColumn<QString>("statements");
-        QTest::newRow("held for writing") << writing;
-        QTest::newRow("held by a reader") << aReadersLook;
+        QTest::newRow("held for writing") << cWriting;
+        QTest::newRow("held by a reader") << cAReadersLook;
     }
 
     void openOfAWholeFileNeedsNoWriting()
@@ -116,10 +116,10 @@ private slots:
     {
         QTest::addColumn<bool>("fresh");
         QTest::addColumn<QString>("statements");
-        QTest::newRow("an old file held for writing") << false << writing;
+        QTest::newRow("an old file held for writing") << false << cWriting;
         QTest::newRow("an old file held by a reader")
             << false << QStringLiteral("BEGIN;SELECT count(*) FROM loginInfo");
-        QTest::newRow("an empty file held for writing") << true << writing;
+        QTest::newRow("an empty file held for writing") << true << cWriting;
     }
 
     void upgradeThatMayNotWriteIsLeftToTheNextOpen()
@@ -149,7 +149,7 @@ private slots:
     {
         QVERIFY(putFile(m_sound));
         const QString name = QStringLiteral("late");
-        LockHolder holder(m_strFile, everything);
+        LockHolder holder(m_strFile, cEverything);
         QVERIFY(holder.hasHeld());
         {
             QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
@@ -189,9 +189,9 @@ private slots:
     {
         QTest::addColumn<QString>("statements");
         QTest::addColumn<bool>("readable");
-        QTest::newRow("for reading and writing") << everything << false;
-        QTest::newRow("for writing") << writing << true;
-        QTest::newRow("by a reader") << aReadersLook << true;
+        QTest::newRow("for reading and writing") << cEverything << false;
+        QTest::newRow("for writing") << cWriting << true;
+        QTest::newRow("by a reader") << cAReadersLook << true;
     }
 
     void checkOfALockedFile()
@@ -213,7 +213,7 @@ private slots:
     void checkEndsWhileTheFileIsHeld()
     {
         QVERIFY(putFile(m_sound));
-        LockHolder holder(m_strFile, everything);
+        LockHolder holder(m_strFile, cEverything);
         QVERIFY(holder.hasHeld());
         // Waiting once for the write and once more for the reading, they would outlast the lock.
         for (int i = 0; i < 3; ++i) {

@@ -34,7 +34,7 @@ def complaints_about(source):
         for found in re.finditer(rf"\b({names})\(", text):
             if wanted is None or arguments(text, found.end() - 1) < wanted:
                 line = text.count("\n", 0, found.start()) + 1
-                yield f"{source}:{line}: {found[1]} waits no longer than Qt's default; kPatienceMs is what tests wait"
+                yield f"{source}:{line}: {found[1]} waits no longer than Qt's default; cPatienceMs is what tests wait"
 
 
 def main():

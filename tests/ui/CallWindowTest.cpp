@@ -17,7 +17,7 @@ void CallWindowTest::startAnew()
 void CallWindowTest::showWindow()
 {
     m_pWindow->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), kPatienceMs));
+    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), cPatienceMs));
 }
 
 QAbstractButton *CallWindowTest::button(const char *name) const
@@ -87,7 +87,7 @@ void CallWindowTest::answerQuestion(const char *name, const std::function<void()
     QTimer::singleShot(0, this, [name, before] {
         auto *pQuestion = qobject_cast<ErrorMessage *>(QApplication::activeModalWidget());
         QVERIFY(pQuestion != nullptr);
-        QVERIFY(QTest::qWaitForWindowExposed(pQuestion, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(pQuestion, cPatienceMs));
         before();
         QTest::mouseClick(clickTarget(pQuestion->findChild<QWidget *>(QLatin1String(name))), Qt::LeftButton);
         QVERIFY(!pQuestion->isVisible());

@@ -84,6 +84,6 @@ void CentreTest::showAt(const QPoint &corner)
 {
     m_pWindow->move(corner);
     m_pWindow->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), kPatienceMs));
-    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->frameGeometry().topLeft(), corner, kPatienceMs);
+    QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), cPatienceMs));
+    QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->frameGeometry().topLeft(), corner, cPatienceMs);
 }

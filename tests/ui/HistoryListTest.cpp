@@ -58,7 +58,7 @@ void HistoryListTest::show(const QList<ConfInfoData> &records)
     m_pList->setGeometry(200, 200, 517, 280);
     QCursor::setPos(10, 10);
     m_pList->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pList.get(), kPatienceMs));
+    QVERIFY(QTest::qWaitForWindowExposed(m_pList.get(), cPatienceMs));
     picture();
     takeSigns();
 }
@@ -104,7 +104,7 @@ QStringList HistoryListTest::entries() const
 void HistoryListTest::choose(int iEntry)
 {
     CMenuEx *pMenu = m_pList->m_pMenu;
-    QVERIFY(QTest::qWaitForWindowExposed(pMenu, kPatienceMs));
+    QVERIFY(QTest::qWaitForWindowExposed(pMenu, cPatienceMs));
     const QPoint entry = pMenu->actionGeometry(pMenu->actions().at(iEntry)).center();
     QVERIFY(RealCursor::moveTo(pMenu, entry));
     QTest::mouseClick(pMenu, Qt::LeftButton, Qt::NoModifier, entry);

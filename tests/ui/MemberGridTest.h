@@ -66,7 +66,7 @@ protected:
         m_iTop = m_iTop == 100 ? 350 : 100;
         m_pGrid->setGeometry(100, m_iTop, 517, 215);
         m_pGrid->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_pGrid.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(m_pGrid.get(), cPatienceMs));
         m_pGrid->viewport()->repaint();
         delay()->blockSignals(true);
         m_pHost->events.clear();
@@ -76,7 +76,7 @@ protected:
     {
         const LastMove last(m_pGrid->viewport());
         QTest::mouseMove(m_pGrid->viewport(), position);
-        QTRY_COMPARE_WITH_TIMEOUT(last.position(), position, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(last.position(), position, cPatienceMs);
     }
     void runOut() { QVERIFY(QMetaObject::invokeMethod(m_pGrid.get(), "slot_ShowSign")); }
     int shown() const { return m_pHost->received(MSG_SHOW_SIGN_LIST).size(); }

@@ -62,7 +62,7 @@ void MemberListTest::showList()
     // A window manager that places the window moves it from under the mouse and has it painted again, some time later.
     m_pList->setWindowFlag(Qt::X11BypassWindowManagerHint);
     m_pList->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_pList.get(), kPatienceMs));
+    QVERIFY(QTest::qWaitForWindowExposed(m_pList.get(), cPatienceMs));
     picture();
 }
 

@@ -32,7 +32,7 @@ inline bool moveTo(QWidget *pWidget, const QPoint &position)
 {
     const ArrivedMove move(pWidget, position);
     QTest::mouseMove(pWidget, position);
-    return QTest::qWaitFor([&move] { return move.bArrived; }, kPatienceMs);
+    return QTest::qWaitFor([&move] { return move.bArrived; }, cPatienceMs);
 }
 
 } // namespace RealCursor

@@ -117,8 +117,8 @@ private:
         m_pWindow->move(cHome);
         m_pWindow->setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, type, true, true);
         m_pWindow->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), kPatienceMs));
-        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->geometry(), QRect(cHome, cSize), kPatienceMs);
+        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), cPatienceMs));
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->geometry(), QRect(cHome, cSize), cPatienceMs);
     }
 
     bool isShapeAt(const QPoint &place, Qt::CursorShape shape) const
@@ -152,15 +152,15 @@ private slots:
         m_pBackdrop->setPalette(QPalette(QColor(cBackdrop)));
         m_pBackdrop->setGeometry(QGuiApplication::primaryScreen()->geometry());
         m_pBackdrop->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_pBackdrop.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(m_pBackdrop.get(), cPatienceMs));
         m_pointer.moveTo(QPoint(20, 20));
-        QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), QPoint(20, 20), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), QPoint(20, 20), cPatienceMs);
     }
 
     void cleanup()
     {
         m_pointer.release(Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::mouseButtons(), Qt::NoButton, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::mouseButtons(), Qt::NoButton, cPatienceMs);
         m_pWindow.reset();
         m_pBackdrop.reset();
         m_pContacts.reset();
@@ -208,20 +208,20 @@ private slots:
         m_pointer.moveTo(cHome + edge);
         const bool bAtSide = edge.y() == 200 || edge.y() == 380;
         QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), bAtSide ? Qt::SizeHorCursor : Qt::SizeVerCursor,
-                                  kPatienceMs);
+                                  cPatienceMs);
         m_pointer.moveTo(cHome + target);
-        QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(target, Qt::ArrowCursor), kPatienceMs);
-        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), Qt::ArrowCursor, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(target, Qt::ArrowCursor), cPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), Qt::ArrowCursor, cPatienceMs);
         if (!drags) {
             return;
         }
         m_pointer.press(Qt::LeftButton);
         m_pointer.moveTo(cHome + target + QPoint(15, 10));
         m_pointer.moveTo(cHome + target + QPoint(30, 20));
-        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), cHome + QPoint(30, 20), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), cHome + QPoint(30, 20), cPatienceMs);
         QVERIFY(shownBand().isNull());
         m_pointer.release(Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::mouseButtons(), Qt::NoButton, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::mouseButtons(), Qt::NoButton, cPatienceMs);
         QCOMPARE(m_pWindow->geometry(), QRect(cHome + QPoint(30, 20), cSize));
     }
 
@@ -230,12 +230,12 @@ private slots:
         // The band reaches over the margin that the window's parts leave.
         open(CVoipWidget::Voice);
         m_pointer.moveTo(cHome + QPoint(100, 200));
-        QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), cHome + QPoint(100, 200), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), cHome + QPoint(100, 200), cPatienceMs);
         QVERIFY(m_pWindow->childAt(4, 200) != nullptr);
         m_pointer.moveTo(cHome + QPoint(4, 200));
-        QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(QPoint(4, 200), Qt::SizeHorCursor), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(QPoint(4, 200), Qt::SizeHorCursor), cPatienceMs);
         m_pointer.moveTo(cHome + QPoint(5, 200));
-        QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(QPoint(5, 200), Qt::ArrowCursor), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(isShapeAt(QPoint(5, 200), Qt::ArrowCursor), cPatienceMs);
     }
 
     void edgeIsKeptDuringItsDrag_data()
@@ -258,22 +258,22 @@ private slots:
         QFETCH(QPoint, by);
         open(CVoipWidget::VoipType(type));
         m_pointer.moveTo(cHome + edge);
-        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->cursor().shape() != Qt::ArrowCursor, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->cursor().shape() != Qt::ArrowCursor, cPatienceMs);
         const Qt::CursorShape shape = m_pWindow->cursor().shape();
         m_pointer.press(Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(shownBand(), QRect(cHome, cSize), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(shownBand(), QRect(cHome, cSize), cPatienceMs);
         // There and back, a step at a time: inside of the edge a hover event would read as no edge at all.
         for (const int iStep : {1, 2, 3, 4, 3, 2, 1, 0}) {
             const QPoint place = cHome + edge + by * iStep / 4;
             m_pointer.moveTo(place);
-            QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), place, kPatienceMs);
+            QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), place, cPatienceMs);
             QCoreApplication::processEvents();
             QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
             QCOMPARE(m_pWindow->cursor().shape(), shape);
             QVERIFY(!shownBand().isNull());
         }
         m_pointer.release(Qt::LeftButton);
-        QTRY_VERIFY_WITH_TIMEOUT(shownBand().isNull(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(shownBand().isNull(), cPatienceMs);
         QCOMPARE(m_pWindow->geometry(), QRect(cHome, cSize));
     }
 
@@ -281,7 +281,7 @@ private slots:
     {
         open(CVoipWidget::Voice);
         m_pointer.moveTo(cHome + QPoint(1, 200));
-        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), Qt::SizeHorCursor, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->cursor().shape(), Qt::SizeHorCursor, cPatienceMs);
         const int iDensity = qRound(qApp->devicePixelRatio());
         QImage before;
         QVERIFY(QTest::qWaitFor(
@@ -289,24 +289,24 @@ private slots:
                 before = screenNow();
                 return showsTheWindow(before, iDensity);
             },
-            kPatienceMs));
+            cPatienceMs));
 
         m_pointer.press(Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(shownBand(), QRect(cHome, cSize), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(shownBand(), QRect(cHome, cSize), cPatienceMs);
         QString strWrong;
         const auto isRight = [&](const QRect &band) {
             strWrong = complaint(before, screenNow(), band, iDensity);
             return strWrong.isEmpty();
         };
-        QVERIFY2(QTest::qWaitFor([&] { return isRight(QRect(cHome, cSize)); }, kPatienceMs), qPrintable(strWrong));
+        QVERIFY2(QTest::qWaitFor([&] { return isRight(QRect(cHome, cSize)); }, cPatienceMs), qPrintable(strWrong));
 
         m_pointer.moveTo(cHome + QPoint(-60, 210));
         const QRect larger(cHome - QPoint(60, 0), cSize + QSize(60, 0));
-        QTRY_COMPARE_WITH_TIMEOUT(shownBand(), larger, kPatienceMs);
-        QVERIFY2(QTest::qWaitFor([&] { return isRight(larger); }, kPatienceMs), qPrintable(strWrong));
+        QTRY_COMPARE_WITH_TIMEOUT(shownBand(), larger, cPatienceMs);
+        QVERIFY2(QTest::qWaitFor([&] { return isRight(larger); }, cPatienceMs), qPrintable(strWrong));
 
         m_pointer.release(Qt::LeftButton);
-        QTRY_VERIFY_WITH_TIMEOUT(shownBand().isNull(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(shownBand().isNull(), cPatienceMs);
     }
 };
 

@@ -205,11 +205,11 @@ private slots:
         {
             Capitals language;
             QVERIFY(QCoreApplication::installTranslator(&language));
-            QTRY_COMPARE_WITH_TIMEOUT(tip(), QStringLiteral("CLOSE"), kPatienceMs);
+            QTRY_COMPARE_WITH_TIMEOUT(tip(), QStringLiteral("CLOSE"), cPatienceMs);
             QCOMPARE(part<QLabel>("lblVoipTipMsg")->text(), strTitle);
             QCOMPARE(ids(), QStringList("7"));
         }
-        QTRY_COMPARE_WITH_TIMEOUT(tip(), QStringLiteral("close"), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(tip(), QStringLiteral("close"), cPatienceMs);
     }
 
     void signalsAndSlotsInOrder()

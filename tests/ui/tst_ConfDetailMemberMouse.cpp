@@ -140,7 +140,7 @@ private slots:
         moveTo(head(0, 0).center());
         QVERIFY(delay()->isActive());
         QCursor::setPos(5, 5);
-        QTRY_VERIFY_WITH_TIMEOUT(!delay()->isActive(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!delay()->isActive(), cPatienceMs);
         QCOMPARE(closed(), 1);
         QCOMPARE(shown(), 0);
     }
@@ -149,7 +149,7 @@ private slots:
     {
         show(1000);
         m_pGrid->verticalScrollBar()->setValue(1);
-        QTRY_COMPARE_WITH_TIMEOUT(head(1, 3).top(), 12, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(head(1, 3).top(), 12, cPatienceMs);
         moveTo(head(1, 3).center());
         runOut();
         PayloadReader reader = m_pHost->received(MSG_SHOW_SIGN_LIST).constFirst().reader();

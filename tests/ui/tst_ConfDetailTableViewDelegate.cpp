@@ -51,7 +51,7 @@ private:
         // A window manager that places the window has it painted again, some time later.
         m_pGrid->setWindowFlag(Qt::X11BypassWindowManagerHint);
         m_pGrid->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_pGrid.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(m_pGrid.get(), cPatienceMs));
     }
     QImage picture() const
     {
@@ -298,7 +298,7 @@ private slots:
         show();
         const Repaints repaints(m_pGrid->viewport());
         m_pGrid->verticalScrollBar()->setValue(20);
-        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, cPatienceMs);
         QCOMPARE(m_pGrid->model()->index(21, 0).data(ROLE_HEAD_RECT).toRect().top(), 80 + 12);
         QVERIFY(!repaints.isAnyDue());
     }

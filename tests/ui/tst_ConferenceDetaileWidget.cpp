@@ -58,7 +58,7 @@ private:
         m_pPage->setPalette(palette);
         m_pPage->resize(517, 309);
         m_pPage->show();
-        if (!QTest::qWaitForWindowExposed(m_pPage.get(), kPatienceMs)) {
+        if (!QTest::qWaitForWindowExposed(m_pPage.get(), cPatienceMs)) {
             return {};
         }
         QCoreApplication::processEvents();

@@ -247,7 +247,7 @@ private slots:
         moveTo(row(0).center());
         QCOMPARE(m_pList->styleSheet(), QString(strVerticalScrollBarHoverStyle));
         QCursor::setPos(10, 10);
-        QTRY_COMPARE_WITH_TIMEOUT(m_pList->styleSheet(), QString(strVerticalScrollBarNormalStyle), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pList->styleSheet(), QString(strVerticalScrollBarNormalStyle), cPatienceMs);
     }
 
     void hundredThousandRecords()

@@ -156,7 +156,7 @@ private slots:
             m_pList->m_pMenu->hide();
             const QPoint cursor = last + step;
             QCursor::setPos(cursor);
-            QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), cursor, kPatienceMs);
+            QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), cursor, cPatienceMs);
             QMouseEvent release(QEvent::MouseButtonRelease, cBeside, Qt::RightButton, Qt::NoButton, Qt::NoModifier);
             m_pList->mouseReleaseEvent(&release);
             QCOMPARE(pMenu->x(), step.x() == 0 ? cursor.x() : cursor.x() - pMenu->width());

@@ -271,7 +271,7 @@ private slots:
         }
         show(records);
         moveTo(cOnHead + QPoint(5, 4));
-        QTRY_VERIFY_WITH_TIMEOUT(m_pList->viewport()->width() < m_pList->width(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pList->viewport()->width() < m_pList->width(), cPatienceMs);
         takeSigns();
         signDelayIsOver();
         QCOMPARE(takeSigns(), signFields(2, 10));
@@ -326,7 +326,7 @@ private slots:
         moveTo(cOnHead);
         QVERIFY(m_pList->m_signTimer.isActive());
         QCursor::setPos(10, 10);
-        QTRY_VERIFY_WITH_TIMEOUT(!m_pList->m_signTimer.isActive(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_pList->m_signTimer.isActive(), cPatienceMs);
         QCOMPARE(takeSigns(), QStringList{"close"});
     }
 };

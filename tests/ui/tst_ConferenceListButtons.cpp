@@ -123,16 +123,16 @@ private slots:
         show(1);
         const QRect button = place(0, ROLE_REMOVE_RECT);
         moveTo(button.center());
-        QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_REMOVE_HOVER), QVariant(true), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_REMOVE_HOVER), QVariant(true), cPatienceMs);
         QCOMPARE(data(0, ROLE_MUTE_HOVER), QVariant(false));
         QCOMPARE(data(1, ROLE_REMOVE_HOVER), QVariant(false));
         QCOMPARE(m_pList->cursor().shape(), Qt::PointingHandCursor);
         QCOMPARE(QToolTip::text(), QStringLiteral("移出会议"));
         const QColor red(255, 97, 88);
         // No stroke of the glyph need cover a whole pixel.
-        constexpr int EDGE = 40;
-        QVERIFY(countPixels(picture(), button, red, EDGE) > 0);
-        QCOMPARE(countPixels(picture(), place(1, ROLE_REMOVE_RECT), red, EDGE), 0);
+        constexpr int edge = 40;
+        QVERIFY(countPixels(picture(), button, red, edge) > 0);
+        QCOMPARE(countPixels(picture(), place(1, ROLE_REMOVE_RECT), red, edge), 0);
     }
 
     void cursorOnTheMuteButtonLightsItUp()
@@ -140,7 +140,7 @@ private slots:
         show(1);
         const QRect button = place(1, ROLE_MUTE_RECT);
         moveTo(button.center());
-        QTRY_COMPARE_WITH_TIMEOUT(data(1, ROLE_MUTE_HOVER), QVariant(true), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(data(1, ROLE_MUTE_HOVER), QVariant(true), cPatienceMs);
         QCOMPARE(data(1, ROLE_REMOVE_HOVER), QVariant(false));
         QCOMPARE(m_pList->cursor().shape(), Qt::PointingHandCursor);
         QVERIFY(countPixels(picture(), button, QColor(0, 185, 31)) > 0);
@@ -150,31 +150,31 @@ private slots:
     {
         show(1);
         moveTo(place(0, ROLE_MUTE_RECT).center());
-        QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QStringLiteral("静音"), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QStringLiteral("静音"), cPatienceMs);
         m_pList->setMuteAll(true);
         moveTo(place(0, ROLE_MUTE_RECT).center() + QPoint(1, 0));
-        QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QStringLiteral("取消静音"), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QStringLiteral("取消静音"), cPatienceMs);
     }
 
     void leavingTheButtonsWithinTheRowPutsThemOut()
     {
         show(1);
         moveTo(place(0, ROLE_REMOVE_RECT).center());
-        QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_REMOVE_HOVER), QVariant(true), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_REMOVE_HOVER), QVariant(true), cPatienceMs);
         moveTo(QPoint(100, row(0).center().y()));
-        QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_REMOVE_HOVER), QVariant(false), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_REMOVE_HOVER), QVariant(false), cPatienceMs);
         QCOMPARE(data(0, ROLE_MUTE_HOVER), QVariant(false));
         QCOMPARE(m_pList->cursor().shape(), Qt::ArrowCursor);
-        QTRY_VERIFY_WITH_TIMEOUT(!QToolTip::isVisible(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!QToolTip::isVisible(), cPatienceMs);
     }
 
     void movingFromButtonToButtonKeepsTheFirstOnesFlag()
     {
         show(1);
         moveTo(place(0, ROLE_REMOVE_RECT).center());
-        QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_REMOVE_HOVER), QVariant(true), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_REMOVE_HOVER), QVariant(true), cPatienceMs);
         moveTo(place(0, ROLE_MUTE_RECT).center());
-        QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_MUTE_HOVER), QVariant(true), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(data(0, ROLE_MUTE_HOVER), QVariant(true), cPatienceMs);
         QCOMPARE(data(0, ROLE_REMOVE_HOVER), QVariant(true));
     }
 
@@ -182,7 +182,7 @@ private slots:
     {
         show(1);
         moveTo(place(1, ROLE_REMOVE_RECT).center());
-        QTRY_COMPARE_WITH_TIMEOUT(data(1, ROLE_REMOVE_HOVER), QVariant(true), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(data(1, ROLE_REMOVE_HOVER), QVariant(true), cPatienceMs);
         const QSignalSpy changed(m_pList->model(), &QAbstractItemModel::dataChanged);
         moveTo(QPoint(100, row(1).bottom() + 60));
         QCoreApplication::processEvents();
@@ -287,12 +287,12 @@ private slots:
                                       row(0).center()};
         for (int i = 0; i < positions.size(); ++i) {
             moveTo(positions.at(i));
-            QTRY_COMPARE_WITH_TIMEOUT(entered.count(), i + 1, kPatienceMs);
+            QTRY_COMPARE_WITH_TIMEOUT(entered.count(), i + 1, cPatienceMs);
             QCOMPARE(entered.last().first().toModelIndex(), m_pList->indexAt(positions.at(i)));
         }
         const int iBefore = left.count();
         moveTo(QPoint(100, row(1).bottom() + 60));
-        QTRY_COMPARE_WITH_TIMEOUT(left.count(), iBefore + 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(left.count(), iBefore + 1, cPatienceMs);
     }
 
     void memberIsMutedBeforeItIsTold()

@@ -14,7 +14,7 @@
 
 namespace {
 
-const QString FONT = QStringLiteral("微软雅黑");
+const QString cFont = QStringLiteral("微软雅黑");
 
 void writePicture(const QString &strPath, const QColor &color)
 {
@@ -43,7 +43,7 @@ private:
         const QRect status(bMine ? mute.left() - 100 - 50 : r.right() + 1 - 50 - 20, r.top() + 10, 50, r.height());
         paintHeadByNumbers(painter, r, row.data(Qt::UserRole + 2).toString());
 
-        QFont font(FONT);
+        QFont font(cFont);
         font.setPixelSize(12);
         painter.setFont(font);
         const int iRoom = status.left() - (r.left() + 42) - 10 - 18 - 2 * 18;
@@ -322,7 +322,7 @@ private slots:
         showMembers(3);
         const QPoint button = place(1, ROLE_REMOVE_RECT).center();
         moveTo(button);
-        QTRY_COMPARE_WITH_TIMEOUT(data(1, ROLE_REMOVE_HOVER), QVariant(true), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(data(1, ROLE_REMOVE_HOVER), QVariant(true), cPatienceMs);
         click(button);
         QCOMPARE(rowCount(), 2);
         QCOMPARE(data(1, ROLE_USER_ID).toString(), QStringLiteral("m2"));
@@ -330,7 +330,7 @@ private slots:
         QCOMPARE(place(1, ROLE_REMOVE_RECT).center(), button);
         QCOMPARE(data(1, ROLE_REMOVE_HOVER), QVariant(false));
         moveTo(button + QPoint(1, 1));
-        QTRY_COMPARE_WITH_TIMEOUT(data(1, ROLE_REMOVE_HOVER), QVariant(true), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(data(1, ROLE_REMOVE_HOVER), QVariant(true), cPatienceMs);
         compareWithNumbers("members-removed");
     }
 };

@@ -33,7 +33,7 @@ private slots:
         showMembers(5);
         const Repaints repaints(m_pList->viewport());
         m_pList->updateConferenceUserStatus(QStringLiteral("m2"), ConferenceHungUp);
-        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, cPatienceMs);
         QCOMPARE(repaints.last(), QRegion(row(2)));
         QVERIFY(!repaints.isAnyDue());
     }
@@ -45,7 +45,7 @@ private slots:
         for (int i = 0; i < 1000; ++i) {
             m_pList->updateConferenceUserStatus(QStringLiteral("m%1").arg(i), ConferenceConnected);
         }
-        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, cPatienceMs);
         QVERIFY(!repaints.isAnyDue());
     }
 
@@ -57,7 +57,7 @@ private slots:
             m_pList->addUser(QStringLiteral("m%1").arg(i));
             m_pList->updateConferenceUserStatus(QStringLiteral("m%1").arg(i), ConferenceConnected);
         }
-        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, cPatienceMs);
         QVERIFY(!repaints.isAnyDue());
     }
 
@@ -66,7 +66,7 @@ private slots:
         showMembers(100);
         const Repaints repaints(m_pList->viewport());
         m_pList->verticalScrollBar()->setValue(20);
-        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(repaints.count(), 1, cPatienceMs);
         QVERIFY(!repaints.isAnyDue());
     }
 

@@ -71,7 +71,7 @@ private slots:
         QCOMPARE(status(0), int(ConferenceCalling));
         setData(0, ROLE_INVITE_TIME, QTime(0, 0));
         watchdog()->setInterval(0);
-        QTRY_COMPARE_WITH_TIMEOUT(status(0), int(ConferenceFailed), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(status(0), int(ConferenceFailed), cPatienceMs);
     }
 
     void memberIsGivenUpPastTwoMinutes_data()

@@ -77,7 +77,7 @@ private slots:
         showAt({100, 100});
         const QRect row = list()->visualRect(list()->model()->index(1, 0));
         QVERIFY(RealCursor::moveTo(list()->viewport(), row.center()));
-        QTRY_VERIFY_WITH_TIMEOUT(!list()->model()->index(1, 0).data(ROLE_REMOVE_RECT).toRect().isNull(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!list()->model()->index(1, 0).data(ROLE_REMOVE_RECT).toRect().isNull(), cPatienceMs);
         const QPoint button = list()->model()->index(1, 0).data(ROLE_REMOVE_RECT).toRect().center();
         QTest::mouseClick(list()->viewport(), Qt::LeftButton, Qt::NoModifier, button);
         expectPage(1);
@@ -85,7 +85,7 @@ private slots:
         const auto *pPage = part<QWidget>("conferenceDetaileWidget");
         const auto *pGrid = part<QWidget>("tableView");
         QTRY_COMPARE_WITH_TIMEOUT(QRect(pGrid->mapTo(pPage, QPoint()), pGrid->size()),
-                                  QRect(0, 94, pPage->width(), pPage->height() - 94 - 10), kPatienceMs);
+                                  QRect(0, 94, pPage->width(), pPage->height() - 94 - 10), cPatienceMs);
     }
 
     void recordOfTheShownDetailCannotBeDeleted()
@@ -168,13 +168,13 @@ private slots:
             }
             const QPointer<QWidget> window = m_pWindow.get();
             QTimer::singleShot(0, window, &QWidget::close);
-            QTRY_VERIFY_WITH_TIMEOUT(!window, kPatienceMs);
+            QTRY_VERIFY_WITH_TIMEOUT(!window, cPatienceMs);
         };
         const QPoint row = list()->visualRect(list()->model()->index(0, 0)).center();
         QCursor::setPos(list()->viewport()->mapToGlobal(row));
         QTest::mouseClick(list()->viewport(), Qt::RightButton, Qt::NoModifier, row);
         auto *const pMenu = list()->findChild<CMenuEx *>();
-        QVERIFY(QTest::qWaitForWindowExposed(pMenu, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(pMenu, cPatienceMs));
         const QPoint entry = pMenu->actionGeometry(pMenu->actions().first()).center();
         QVERIFY(RealCursor::moveTo(pMenu, entry));
         QTest::mouseClick(pMenu, Qt::LeftButton, Qt::NoModifier, entry);

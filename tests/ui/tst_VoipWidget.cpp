@@ -85,7 +85,7 @@ private slots:
         m_pWindow->move(home);
         startCall(CVoipWidget::Voice, true);
         showWindow();
-        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), home, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), home, cPatienceMs);
         call("slot_WindowChangeButtonClicked");
         // The fixed size wins; the corner overshoots the work area.
         QCOMPARE(m_pWindow->geometry(), QRect(workArea.topLeft() - QPoint(4, 4), cWindowSize));
@@ -158,7 +158,7 @@ private slots:
         QCOMPARE(pSurface->parentWidget(), part<QWidget>("playFramWidget"));
         startCall(CVoipWidget::Video, true);
         showWindow();
-        QTRY_VERIFY_WITH_TIMEOUT(pSurface->isVisible(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(pSurface->isVisible(), cPatienceMs);
         QVERIFY(pSurface->height() > 300);
     }
 

@@ -60,7 +60,7 @@ private slots:
 
         window.setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, CVoipWidget::Voice, myCall, false);
         window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&window, cPatienceMs));
 
         QCOMPARE(window.windowTitle(), QStringLiteral("语音通话"));
         QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("语音通话"));
@@ -239,7 +239,7 @@ private slots:
         QVERIFY(clock->isActive());
         QVERIFY(!shown.label("currentPlayTimeLabel")->isHidden());
         window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&window, cPatienceMs));
         QVERIFY(!shown.label("currentPlayTimeLabel")->isVisible());
         window.close();
         QVERIFY(clock->isActive());
@@ -257,7 +257,7 @@ private slots:
         auto *clock = window.findChild<QTimer *>(QStringLiteral("m_callTimeTimer"));
         clock->setInterval(0);
 
-        QTRY_VERIFY_WITH_TIMEOUT(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")), cPatienceMs);
     }
 
     void clockWritesAgainAfterTheCallWasCleared()
@@ -273,7 +273,7 @@ private slots:
 
         window.findChild<QTimer *>(QStringLiteral("m_callTimeTimer"))->setInterval(0);
 
-        QTRY_VERIFY_WITH_TIMEOUT(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")), cPatienceMs);
     }
 
     void clockRunsNegativeAcrossMidnight()

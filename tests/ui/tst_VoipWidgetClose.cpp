@@ -24,7 +24,7 @@ enum State
     cStates
 };
 
-const char *const stateNames[cStates] = {
+const char *const cStateNames[cStates] = {
     "no call", "voice outgoing",  "voice incoming",  "voice connected",   "voice dropped",
     "video",   "video connected", "conference mine", "conference joined", "conference connected"};
 
@@ -37,7 +37,7 @@ enum Way
     cWays
 };
 
-const char *const wayNames[cWays] = {"close", "user offline", "close button", "cancel button"};
+const char *const cWayNames[cWays] = {"close", "user offline", "close button", "cancel button"};
 
 } // namespace
 
@@ -113,7 +113,7 @@ private slots:
         QTest::addColumn<int>("way");
         for (int iState = 0; iState < cStates; ++iState) {
             for (int iWay = 0; iWay < cWays; ++iWay) {
-                QTest::addRow("%s, %s", stateNames[iState], wayNames[iWay]) << iState << iWay;
+                QTest::addRow("%s, %s", cStateNames[iState], cWayNames[iWay]) << iState << iWay;
             }
         }
     }
@@ -173,7 +173,7 @@ private slots:
         QTest::addColumn<int>("second");
         for (const State first : {VoiceConnected, VideoConnected, ConferenceMine, ConferenceTalking, VoiceDropped}) {
             for (const State second : {VoiceOutgoing, VoiceIncoming, Video, ConferenceMine, ConferenceJoined}) {
-                QTest::addRow("%s, then %s", stateNames[first], stateNames[second]) << int(first) << int(second);
+                QTest::addRow("%s, then %s", cStateNames[first], cStateNames[second]) << int(first) << int(second);
             }
         }
     }

@@ -105,7 +105,7 @@ private slots:
         QWidget *pFocus = pInner != nullptr ? pInner : pControl;
         pFocus->setFocusPolicy(Qt::StrongFocus);
         m_pWindow->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
         pFocus->setFocus();
         QCOMPARE(QApplication::focusWidget(), pFocus);
         const MessageBoxes questions;
@@ -176,7 +176,7 @@ private slots:
             startCall(CVoipWidget::Voice, bConnected);
             showWindow();
             m_pWindow->activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+            QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
             for (const int iKey : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return}) {
                 QTest::keyClick(m_pWindow->windowHandle(), Qt::Key(iKey));
             }

@@ -52,8 +52,8 @@ private:
         m_pWindow->move(cHome);
         startCall(CVoipWidget::Voice, true);
         showWindow();
-        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->geometry(), QRect(cHome, cSize), kPatienceMs);
-        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->windowHandle()->geometry(), QRect(cHome, cSize), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->geometry(), QRect(cHome, cSize), cPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->windowHandle()->geometry(), QRect(cHome, cSize), cPatienceMs);
     }
 
     // Mouse events at a global place, in pixels away from the window's home.
@@ -78,7 +78,7 @@ private:
         mouseDown(QPoint(1, 200));
         mouseTo(QPoint(-50, 200));
         mouseUp(QPoint(-50, 200));
-        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), cHome + QPoint(-50, 0), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), cHome + QPoint(-50, 0), cPatienceMs);
         m_pWindow->move(cHome);
     }
 
@@ -161,7 +161,7 @@ private slots:
         mouseUp(target);
         QVERIFY(!isBandShown());
         // The window's size is fixed: only the corner comes from the band.
-        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->geometry(), QRect(cHome + bandRect.topLeft(), cSize), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->geometry(), QRect(cHome + bandRect.topLeft(), cSize), cPatienceMs);
     }
 
     void dragInwardsKeepsTheSmallestSize_data()
@@ -201,7 +201,7 @@ private slots:
         showAtHome();
         // A finished drag before leaves a rectangle behind, which the second release must not use.
         dragLeftEdgeAndMoveHome();
-        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->windowHandle()->geometry(), QRect(cHome, cSize), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->windowHandle()->geometry(), QRect(cHome, cSize), cPatienceMs);
 
         mouseTo(QPoint(1, 200));
         mouseDown(QPoint(1, 200));
@@ -218,11 +218,11 @@ private slots:
         mouseDown(cInside);
         mouseTo(cInside + QPoint(30, 40));
         QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->windowHandle()->geometry(), QRect(cHome + QPoint(30, 40), cSize),
-                                  kPatienceMs);
+                                  cPatienceMs);
         QVERIFY(band() == nullptr);
         mouseTo(cInside + QPoint(-60, -70));
         QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->windowHandle()->geometry(), QRect(cHome + QPoint(-60, -70), cSize),
-                                  kPatienceMs);
+                                  cPatienceMs);
         mouseUp(cInside + QPoint(-60, -70));
         QCOMPARE(m_pWindow->pos(), cHome + QPoint(-60, -70));
         mouseTo(cInside + QPoint(5, 5));
@@ -294,7 +294,7 @@ private slots:
         mouseDown(QPoint(1, 200));
         QVERIFY(!isBandShown());
         mouseTo(QPoint(21, 200));
-        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), cHome + QPoint(20, 0), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->pos(), cHome + QPoint(20, 0), cPatienceMs);
         mouseUp(QPoint(21, 200));
     }
 

@@ -137,7 +137,7 @@ private slots:
         QVERIFY(!pTimer->isActive());
         pSlider->show();
         pTimer->start(0);
-        QTRY_VERIFY_WITH_TIMEOUT(pSlider->isHidden(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(pSlider->isHidden(), cPatienceMs);
         QVERIFY(!pTimer->isActive());
     }
 
@@ -180,7 +180,7 @@ private slots:
     {
         showVideo();
         part<QWidget>("videoDisplayPage")->layout()->setContentsMargins(30, 20, 0, 0);
-        QTRY_COMPARE_WITH_TIMEOUT(part<QWidget>("playFramWidget")->pos(), QPoint(30, 20), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(part<QWidget>("playFramWidget")->pos(), QPoint(30, 20), cPatienceMs);
         const QString strPath = QDir::current().absoluteFilePath(QStringLiteral("moved.png"));
         answerDialog(strPath);
         call("slot_CaptureButtonClicked");

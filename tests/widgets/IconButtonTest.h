@@ -108,7 +108,7 @@ private slots:
         m_pButton = new CIconButtonEx(&m_window);
         m_pButton->setGeometry(40, 40, cSide, cSide);
         m_window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_window, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&m_window, cPatienceMs));
         moveOut();
         QCoreApplication::processEvents();
     }

@@ -20,7 +20,7 @@ protected:
     {
         m_pEdit->resize(236, 30);
         m_pEdit->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_pEdit.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(m_pEdit.get(), cPatienceMs));
         m_pEdit->setFocus();
     }
 

@@ -25,7 +25,7 @@ namespace ShownDialog {
 inline void whenShown(ErrorMessage &dialog, const std::function<void()> &act)
 {
     QTimer::singleShot(0, &dialog, [&dialog, act] {
-        if (QTest::qWaitForWindowExposed(&dialog, kPatienceMs)) {
+        if (QTest::qWaitForWindowExposed(&dialog, cPatienceMs)) {
             act();
         }
         if (dialog.isVisible()) {

@@ -359,7 +359,7 @@ private slots:
         form.resize(cWidth, cHeight);
         form.setAttribute(Qt::WA_DontShowOnScreen);
         form.show();
-        QTRY_VERIFY_WITH_TIMEOUT(form.m_iPaints > 0, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(form.m_iPaints > 0, cPatienceMs);
         QCoreApplication::processEvents();
         const int iBefore = form.m_iPaints;
         act(form);

@@ -50,12 +50,12 @@ private slots:
 
         QProcess compositor;
         compositor.start(QStringLiteral("picom"), {"--backend", "xrender", "--config", "/dev/null"});
-        QVERIFY(compositor.waitForStarted(kPatienceMs));
+        QVERIFY(compositor.waitForStarted(cPatienceMs));
         QTRY_VERIFY_WITH_TIMEOUT(Compositor::isRunning(), 20000);
         QCOMPARE(shownMask(band), bars());
 
         compositor.terminate();
-        QVERIFY(compositor.waitForFinished(kPatienceMs));
+        QVERIFY(compositor.waitForFinished(cPatienceMs));
         QTRY_VERIFY_WITH_TIMEOUT(!Compositor::isRunning(), 20000);
         QVERIFY(isDotted(shownMask(band)));
     }
@@ -64,7 +64,7 @@ private slots:
     {
         QProcess compositor;
         compositor.start(QStringLiteral("picom"), {"--backend", "xrender", "--config", "/dev/null"});
-        QVERIFY(compositor.waitForStarted(kPatienceMs));
+        QVERIFY(compositor.waitForStarted(cPatienceMs));
         QTRY_VERIFY_WITH_TIMEOUT(Compositor::isRunning(), 20000);
         // What the environment says since the application began is about others.
         const QByteArray server = qgetenv("DISPLAY");
@@ -72,7 +72,7 @@ private slots:
         const bool bRunning = Compositor::isRunning();
         qputenv("DISPLAY", server);
         compositor.terminate();
-        QVERIFY(compositor.waitForFinished(kPatienceMs));
+        QVERIFY(compositor.waitForFinished(cPatienceMs));
         QVERIFY(bRunning);
     }
 };

@@ -73,7 +73,7 @@ private slots:
         pLayout->addStretch();
         window.resize(400, 60);
         window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&window, cPatienceMs));
         QCOMPARE(pLabel->shownText(), QStringLiteral("Ann of the house by the sea"));
         QCOMPARE(pLabel->sizeHint().height(), ElidedLabel().sizeHint().height());
     }

@@ -81,7 +81,7 @@ private slots:
         QVERIFY(
             QObject::disconnect(button(dialog, "closeBtn"), SIGNAL(clicked()), &dialog, SLOT(slot_clickedCloseBtn())));
         dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog, cPatienceMs));
         dialog.m_bAccepted = true;
         click(dialog, "closeBtn");
         QVERIFY(!dialog.isVisible());

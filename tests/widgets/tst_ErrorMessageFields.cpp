@@ -123,7 +123,7 @@ private slots:
         bool bFocused = false;
         whenShown(dialog, [&] {
             auto *pField = part<CLineEditEx>(dialog, "lineEdit");
-            bFocused = QTest::qWaitForWindowActive(&dialog, kPatienceMs) && pField->getLineEdit()->hasFocus();
+            bFocused = QTest::qWaitForWindowActive(&dialog, cPatienceMs) && pField->getLineEdit()->hasFocus();
             click(dialog, "acceptBtn");
             QVERIFY(!dialog.isVisible());
         });

@@ -76,7 +76,7 @@ private slots:
         whenShown(dialog, look);
         mode.run(dialog);
         QCOMPARE(bSeen, mode.bModal);
-        QTRY_VERIFY_WITH_TIMEOUT(bSeen && !dialog.isVisible(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(bSeen && !dialog.isVisible(), cPatienceMs);
         QVERIFY(!dialog.m_bAccepted);
     }
 
@@ -290,7 +290,7 @@ private slots:
     {
         ErrorMessage dialog(QString(), QString(), nullptr);
         dialog.showHotKeyError(QStringLiteral("Title"), 0);
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog, cPatienceMs));
         const QSignalSpy opened(&dialog, &ErrorMessage::signal_OpenSysSetUi);
         dialog.m_bAccepted = true;
         auto *pLink = part<QLabel>(dialog, "label_11");

@@ -34,7 +34,7 @@ private slots:
     {
         CTextEditEx edit;
         edit.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&edit, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&edit, cPatienceMs));
         QStringList words;
         QTimer::singleShot(0, &edit, [&words] {
             auto *pMenu = qobject_cast<CMenuEx *>(QApplication::activePopupWidget());

@@ -38,7 +38,7 @@ private slots:
         m_pLabel->setGeometry(50, 40, 120, 20);
         m_pLabel->setText(QStringLiteral("from the form"));
         m_window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_window, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&m_window, cPatienceMs));
         moveTo(QPoint(2, 2));
     }
 
@@ -53,9 +53,9 @@ private slots:
     {
         QCOMPARE(m_pLabel->text(), QStringLiteral("from the form"));
         moveTo(middle());
-        QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("<a href=\"#\">modifyhotkey</a>"), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("<a href=\"#\">modifyhotkey</a>"), cPatienceMs);
         moveTo(QPoint(2, 2));
-        QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("modifyhotkey"), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("modifyhotkey"), cPatienceMs);
     }
 
     void wordsAreTranslatedInTheSharedContext()
@@ -63,9 +63,9 @@ private slots:
         Words words;
         QVERIFY(QCoreApplication::installTranslator(&words));
         moveTo(middle());
-        QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("<a href=\"#\">修改热键</a>"), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("<a href=\"#\">修改热键</a>"), cPatienceMs);
         moveTo(QPoint(2, 2));
-        QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("修改热键"), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("修改热键"), cPatienceMs);
         QCoreApplication::removeTranslator(&words);
     }
 
@@ -76,7 +76,7 @@ private slots:
         QTest::mousePress(m_window.windowHandle(), Qt::LeftButton, {}, middle());
         QCOMPARE(clicked.count(), 0);
         QTest::mouseRelease(m_window.windowHandle(), Qt::LeftButton, {}, middle());
-        QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, cPatienceMs);
         QCOMPARE(clicked.first().first().toString(), QStringLiteral("<a href=\"#\">modifyhotkey</a>"));
     }
 
@@ -99,11 +99,11 @@ private slots:
     {
         QSignalSpy activated(m_pLabel, &QLabel::linkActivated);
         moveTo(middle());
-        QTRY_VERIFY_WITH_TIMEOUT(m_pLabel->text().startsWith(QLatin1String("<a ")), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pLabel->text().startsWith(QLatin1String("<a ")), cPatienceMs);
         const QPoint onTheWords = m_pLabel->geometry().topLeft() + QPoint(10, m_pLabel->height() / 2);
         moveTo(onTheWords);
         QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, onTheWords);
-        QTRY_COMPARE_WITH_TIMEOUT(activated.count(), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(activated.count(), 1, cPatienceMs);
         QCOMPARE(activated.first().first().toString(), QStringLiteral("#"));
     }
 };

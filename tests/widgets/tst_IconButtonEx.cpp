@@ -273,7 +273,7 @@ private slots:
         QVERIFY(!inner(*m_pButton)->isEnabled());
         QCOMPARE(face(*m_pButton), glyphIn(cDisabled));
         moveIn();
-        QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), glyphIn(cIcon, cHover), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), glyphIn(cIcon, cHover), cPatienceMs);
         m_pButton->setDisabled(false);
         QVERIFY(inner(*m_pButton)->isEnabled());
         QCOMPARE(face(*m_pButton), glyphIn(cIcon, cHover));

@@ -14,10 +14,10 @@ private slots:
         m_pButton->setIconFont(QStringLiteral("x"), 12, 2);
         m_skin->m_strThirdIconColor = QStringLiteral("#00ff00");
         moveIn();
-        QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), glyphIn(cIcon, QStringLiteral("#00ff00")), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), glyphIn(cIcon, QStringLiteral("#00ff00")), cPatienceMs);
         m_skin->m_strThirdIconColor = QStringLiteral("#0000ff");
         moveOut();
-        QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), glyphIn(cIcon, QStringLiteral("#0000ff")), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), glyphIn(cIcon, QStringLiteral("#0000ff")), cPatienceMs);
     }
 
     void enterDoesNotRestyleADisabledButton()
@@ -25,10 +25,10 @@ private slots:
         m_pButton->setIconFont(QStringLiteral("x"), 12, 0);
         m_pButton->setEnabled(false);
         moveIn();
-        QTRY_VERIFY_WITH_TIMEOUT(m_pButton->underMouse(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pButton->underMouse(), cPatienceMs);
         QCOMPARE(face(*m_pButton), glyphIn(cDisabled));
         moveOut();
-        QTRY_VERIFY_WITH_TIMEOUT(!m_pButton->underMouse(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_pButton->underMouse(), cPatienceMs);
         QCOMPARE(face(*m_pButton), glyphIn(cDisabled));
     }
 
@@ -38,13 +38,13 @@ private slots:
         const QColor around = m_window.grab().toImage().pixelColor(2, 2);
         QCOMPARE(seenAt(3, cSide / 2), around);
         moveIn();
-        QTRY_VERIFY_WITH_TIMEOUT(m_pButton->underMouse(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pButton->underMouse(), cPatienceMs);
         QCOMPARE(seenAt(3, cSide / 2), QColor(cFifth));
         QCOMPARE(seenAt(cSide / 2, cSide / 2), QColor(Qt::white));
         // The background's corners are round.
         QVERIFY(seenAt(0, 0) != QColor(cFifth));
         moveOut();
-        QTRY_VERIFY_WITH_TIMEOUT(!m_pButton->underMouse(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_pButton->underMouse(), cPatienceMs);
         QCOMPARE(seenAt(3, cSide / 2), around);
     }
 

@@ -106,7 +106,7 @@ private slots:
         CMenuEx menu;
         menu.addAction(QString(400, QLatin1Char('W')));
         menu.popup(QPoint(100, 100));
-        QVERIFY(QTest::qWaitForWindowExposed(&menu, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&menu, cPatienceMs));
         QVERIFY(menu.width() <= 300);
     }
 
@@ -122,7 +122,7 @@ private slots:
     void leftClickTriggersTheEntryAndClosesTheMenu()
     {
         const std::unique_ptr<CMenuEx> menu = shownMenu();
-        QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(menu.get(), cPatienceMs));
         const QSignalSpy triggered(menu.get(), &QMenu::triggered);
         QTest::mouseClick(menu.get(), Qt::LeftButton, Qt::NoModifier, entry(*menu));
         QCOMPARE(triggered.count(), 1);
@@ -132,7 +132,7 @@ private slots:
     void rightClickOnAnEntryLeavesTheMenuOpen()
     {
         const std::unique_ptr<CMenuEx> menu = shownMenu();
-        QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(menu.get(), cPatienceMs));
         const QSignalSpy triggered(menu.get(), &QMenu::triggered);
         QTest::mouseClick(menu.get(), Qt::RightButton, Qt::NoModifier, entry(*menu));
         QCOMPARE(triggered.count(), 0);
@@ -142,7 +142,7 @@ private slots:
     void pressOutsideClosesTheMenu()
     {
         const std::unique_ptr<CMenuEx> menu = shownMenu();
-        QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(menu.get(), cPatienceMs));
         QTest::mousePress(menu.get(), Qt::LeftButton, Qt::NoModifier, QPoint(-20, -20));
         QVERIFY(!menu->isVisible());
     }
@@ -150,7 +150,7 @@ private slots:
     void keyboardChoosesAnEntry()
     {
         const std::unique_ptr<CMenuEx> menu = shownMenu();
-        QVERIFY(QTest::qWaitForWindowExposed(menu.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(menu.get(), cPatienceMs));
         const QSignalSpy triggered(menu.get(), &QMenu::triggered);
         QTest::keyClick(menu.get(), Qt::Key_Down);
         QTest::keyClick(menu.get(), Qt::Key_Return);
@@ -163,7 +163,7 @@ private slots:
         CMenuEx menu;
         const QAction *pEntry = menu.addAction(QStringLiteral("entry"));
         QTimer::singleShot(0, &menu, [&menu] {
-            if (QTest::qWaitForWindowExposed(&menu, kPatienceMs)) {
+            if (QTest::qWaitForWindowExposed(&menu, cPatienceMs)) {
                 QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, entry(menu));
             }
             menu.close();

@@ -97,7 +97,7 @@ private slots:
         m_pButton = new PushButtonEx(&m_window);
         m_pButton->setGeometry(40, 40, 72, 32);
         m_window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_window, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&m_window, cPatienceMs));
         moveOut();
         QCoreApplication::processEvents();
     }
@@ -181,10 +181,10 @@ private slots:
         m_skin->m_strButtonBorderColor = strNew;
         QCOMPARE(back(*m_pButton)->styleSheet(), frame(cBorder));
         moveIn();
-        QTRY_COMPARE_WITH_TIMEOUT(back(*m_pButton)->styleSheet(), frame(strNew), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(back(*m_pButton)->styleSheet(), frame(strNew), cPatienceMs);
         m_skin->m_strButtonBorderColor = cBorder;
         moveOut();
-        QTRY_COMPARE_WITH_TIMEOUT(back(*m_pButton)->styleSheet(), frame(cBorder), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(back(*m_pButton)->styleSheet(), frame(cBorder), cPatienceMs);
     }
 
     void updateTakesTheSkinAndRepaints()
@@ -210,7 +210,7 @@ private slots:
         m_pButton->setEnabled(true);
         QCOMPARE(face(*m_pButton), setB().normal + setB().hover);
         moveIn();
-        QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), setB().all(), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), setB().all(), cPatienceMs);
     }
 
     void fontSizeIsInPixels()
@@ -263,9 +263,9 @@ private slots:
         QCOMPARE(seen(), QColor(cBack));
         QCOMPARE(m_pButton->grab().toImage().pixelColor(36, 0), QColor(cBorder));
         moveIn();
-        QTRY_COMPARE_WITH_TIMEOUT(seen(), QColor(cHoverBack), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(seen(), QColor(cHoverBack), cPatienceMs);
         moveOut();
-        QTRY_COMPARE_WITH_TIMEOUT(seen(), QColor(cBack), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(seen(), QColor(cBack), cPatienceMs);
         m_pButton->setEnabled(false);
         QCOMPARE(seen(), QColor(cDisabledBack));
         m_pButton->setEnabled(true);
@@ -281,7 +281,7 @@ private slots:
     {
         const QSignalSpy clicked(m_pButton, &PushButtonEx::clicked);
         QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, m_pButton->geometry().center());
-        QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, cPatienceMs);
         QTest::mouseClick(m_window.windowHandle(), Qt::RightButton, {}, m_pButton->geometry().center());
         QCoreApplication::processEvents();
         QCOMPARE(clicked.count(), 1);
@@ -303,7 +303,7 @@ private slots:
         button.setDefault(true);
         const QSignalSpy clicked(&button, &PushButtonEx::clicked);
         dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog, cPatienceMs));
         QTest::keyClick(&dialog, Qt::Key_Return);
         QCOMPARE(clicked.count(), 1);
         QTest::keyClick(inner(button), Qt::Key_Space);

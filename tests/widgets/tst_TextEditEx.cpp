@@ -49,7 +49,7 @@ private:
     {
         m_pEdit->resize(240, 120);
         m_pEdit->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_pEdit.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(m_pEdit.get(), cPatienceMs));
         m_pEdit->setFocus();
     }
     // Opens the context menu, runs `act` on it and closes it.

@@ -20,7 +20,7 @@ QString CallProcess::program()
 QList<qint64> CallProcess::pids() const
 {
     const QString wanted = QFileInfo(program()).canonicalFilePath();
-    const QByteArray mark = QByteArray(TraceFolder::variable) + '=' + QFile::encodeName(m_strTraceFile);
+    const QByteArray mark = QByteArray(TraceFolder::cVariable) + '=' + QFile::encodeName(m_strTraceFile);
     QList<qint64> found;
     const QStringList entries = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString &entry : entries) {

@@ -9,7 +9,7 @@
 class CallProcess
 {
 public:
-    /// `strTraceFile` is the value of TraceFolder::variable that the processes were started with.
+    /// `strTraceFile` is the value of TraceFolder::cVariable that the processes were started with.
     explicit CallProcess(const QString &strTraceFile);
 
     /// Process ids of those that run.

@@ -10,7 +10,7 @@ struct OutcomeRow
     const char *word;
 };
 
-constexpr OutcomeRow outcomes[] = {
+constexpr OutcomeRow cOutcomes[] = {
     {resultCancelled, QT_TRANSLATE_NOOP("CallRecord", "cancelled")},
     {resultFailed, QT_TRANSLATE_NOOP("CallRecord", "failed")},
     {resultHungUp, QT_TRANSLATE_NOOP("CallRecord", "hung up")},
@@ -22,7 +22,7 @@ constexpr OutcomeRow outcomes[] = {
 
 QString outcomeWord(int iResult)
 {
-    for (const OutcomeRow &row : outcomes) {
+    for (const OutcomeRow &row : cOutcomes) {
         if (row.result == iResult) {
             return QCoreApplication::translate("CallRecord", row.word);
         }

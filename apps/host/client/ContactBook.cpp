@@ -17,7 +17,7 @@ struct Row
 };
 
 // The robots of the stand-in call process, in the order of their ids.
-constexpr Row rows[] = {
+constexpr Row cRows[] = {
     {Robots::answers, "李雷", "Answers", "学而时习之，不亦说乎", true, Presence::Online, "1.jpg"},
     {Robots::busy, "Maria Silva", "Busy", "Back in five minutes", true, Presence::Busy, "15.jpg"},
     {Robots::rejects, "王芳", "Rejects", "Please write instead", true, Presence::Online, "11.jpg"},
@@ -34,19 +34,19 @@ constexpr Row rows[] = {
 constexpr bool everyRobotIsThere()
 {
     std::size_t place = 0;
-    for (const Row &row : rows) {
-        if (place == Robots::kIds.size() || row.uid != std::string_view(Robots::kIds.at(place++))) {
+    for (const Row &row : cRows) {
+        if (place == Robots::cIds.size() || row.uid != std::string_view(Robots::cIds.at(place++))) {
             return false;
         }
     }
-    return place == Robots::kIds.size();
+    return place == Robots::cIds.size();
 }
 static_assert(everyRobotIsThere(), "a robot that is in nobody's list of contacts");
 
-constexpr const char *ownName = "小明";
-constexpr const char *ownAlternative = "You";
-constexpr const char *ownPhoto = "16.jpg";
-constexpr const char *ownSignature = "每天都是新的一天";
+constexpr const char *cOwnName = "小明";
+constexpr const char *cOwnAlternative = "You";
+constexpr const char *cOwnPhoto = "16.jpg";
+constexpr const char *cOwnSignature = "每天都是新的一天";
 
 VcardInfo makeCard(const ContactBook::Entry &entry, const char *strSignature)
 {
@@ -64,7 +64,7 @@ VcardInfo makeCard(const ContactBook::Entry &entry, const char *strSignature)
 
 ContactBook::ContactBook(const QString &strDomain) : m_strDomain(strDomain)
 {
-    for (const Row &row : rows) {
+    for (const Row &row : cRows) {
         const Entry entry{QString::fromLatin1(row.uid),
                           QString::fromUtf8(row.nick),
                           QString::fromLatin1(row.alternative),
@@ -74,9 +74,9 @@ ContactBook::ContactBook(const QString &strDomain) : m_strDomain(strDomain)
         m_entries.append(entry);
         add(entry, row.signature);
     }
-    add({ownUid(), QString::fromUtf8(ownName), QString::fromLatin1(ownAlternative), true, Presence::Online,
-         QString::fromLatin1(ownPhoto)},
-        ownSignature);
+    add({ownUid(), QString::fromUtf8(cOwnName), QString::fromLatin1(cOwnAlternative), true, Presence::Online,
+         QString::fromLatin1(cOwnPhoto)},
+        cOwnSignature);
 }
 
 void ContactBook::add(const Entry &entry, const char *strSignature)
@@ -93,7 +93,7 @@ void ContactBook::add(const Entry &entry, const char *strSignature)
 
 QString ContactBook::ownUid()
 {
-    return QString::fromLatin1(ownId);
+    return QString::fromLatin1(cOwnId);
 }
 
 QMap<QString, FriendData> ContactBook::friendMap() const

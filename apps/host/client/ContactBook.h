@@ -33,7 +33,7 @@ public:
     explicit ContactBook(const QString &strDomain);
 
     /// User id of the signed-in user, for tables.
-    static constexpr const char *ownId = Robots::ownUser;
+    static constexpr const char *cOwnId = Robots::cOwnUser;
     /// The same as a text.
     static QString ownUid();
 

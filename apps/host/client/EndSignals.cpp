@@ -20,14 +20,14 @@ void handle(int)
     static_cast<void>(!::write(ends[0], &byte, sizeof byte));
 }
 
-constexpr int signalNumbers[] = {SIGINT, SIGTERM, SIGHUP};
+constexpr int cSignalNumbers[] = {SIGINT, SIGTERM, SIGHUP};
 
 } // namespace
 
 EndSignals::EndSignals() : m_notifier(openEnds(), QSocketNotifier::Read)
 {
     connect(&m_notifier, &QSocketNotifier::activated, this, &EndSignals::read);
-    for (const int number : signalNumbers) {
+    for (const int number : cSignalNumbers) {
         struct sigaction action = {};
         action.sa_handler = handle;
         action.sa_flags = SA_RESTART;
@@ -37,7 +37,7 @@ EndSignals::EndSignals() : m_notifier(openEnds(), QSocketNotifier::Read)
 
 EndSignals::~EndSignals()
 {
-    for (const int number : signalNumbers) {
+    for (const int number : cSignalNumbers) {
         struct sigaction action = {};
         action.sa_handler = SIG_DFL;
         ::sigaction(number, &action, nullptr);

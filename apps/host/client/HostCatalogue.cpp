@@ -14,7 +14,7 @@ struct Language
     const char *suffix;
 };
 
-constexpr Language languages[] = {
+constexpr Language cLanguages[] = {
 #define LANGUAGE(suffix, ownName) {#suffix, #suffix},
 #include "Languages.def"
 #undef LANGUAGE
@@ -25,10 +25,10 @@ constexpr Language languages[] = {
 
 QString HostCatalogue::suffixOf(const QString &strLanguage)
 {
-    const auto *found = std::find_if(std::begin(languages), std::end(languages), [&](const Language &language) {
+    const auto *found = std::find_if(std::begin(cLanguages), std::end(cLanguages), [&](const Language &language) {
         return strLanguage == QLatin1String(language.setting);
     });
-    return QLatin1String(found == std::end(languages) ? languages[0].suffix : found->suffix);
+    return QLatin1String(found == std::end(cLanguages) ? cLanguages[0].suffix : found->suffix);
 }
 
 bool HostCatalogue::read(const QString &strFolder, const QString &strLanguage)

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int drainMs = 2000;
+constexpr int cDrainMs = 2000;
 
 /// Makes the user's folder for its owner alone, whatever an earlier run or another client has left.
 void closeFolder(const QString &strFolder)
@@ -35,7 +35,7 @@ HostContext::~HostContext()
     // What is still queued when the thread is stopped stays unwritten, so the queue is given time to run empty.
     QElapsedTimer clock;
     clock.start();
-    while (!isInLog(lastWords) && !clock.hasExpired(drainMs)) {
+    while (!isInLog(lastWords) && !clock.hasExpired(cDrainMs)) {
         QThread::msleep(1);
     }
     m_logThread.stop();

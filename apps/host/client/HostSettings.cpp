@@ -18,10 +18,10 @@
 
 namespace {
 
-const QString RECEIVE_KEY = QStringLiteral("/msgSetting/transfilepath");
-const QString DATA_KEY = QStringLiteral("/msgSetting/msgfilepath");
-const QString LANGUAGE_KEY = QStringLiteral("/languageSetting/language");
-const QString SKIN_KEY = QStringLiteral("/skinSetting/skinName");
+const QString cReceiveKey = QStringLiteral("/msgSetting/transfilepath");
+const QString cDataKey = QStringLiteral("/msgSetting/msgfilepath");
+const QString cLanguageKey = QStringLiteral("/languageSetting/language");
+const QString cSkinKey = QStringLiteral("/skinSetting/skinName");
 
 /// Writes the value to the user's file and has the shared settings take it.
 void writeForUser(const QString &strKey, const QString &strValue)
@@ -56,12 +56,12 @@ bool HostSettings::isSilent()
 
 void HostSettings::setSilent(bool bSilent)
 {
-    writeForUser(QLatin1String(silentKey), bSilent ? QStringLiteral("1") : QStringLiteral("0"));
+    writeForUser(QLatin1String(cSilentKey), bSilent ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
 QString HostSettings::dataFolder()
 {
-    const QString stored = ConfigFile::getConfigValue(commonFile(), DATA_KEY).toString();
+    const QString stored = ConfigFile::getConfigValue(commonFile(), cDataKey).toString();
     return stored.isEmpty() ? SystemSetData::instance()->m_strDefaultDataRoot : stored;
 }
 
@@ -69,7 +69,7 @@ bool HostSettings::setDataFolder(const QString &strFolder)
 {
     const bool bOk = strFolder.isEmpty() || canHold(strFolder);
     if (bOk) {
-        ConfigFile::changeConfigValue(commonFile(), DATA_KEY, strFolder);
+        ConfigFile::changeConfigValue(commonFile(), cDataKey, strFolder);
     }
     return bOk;
 }
@@ -88,37 +88,37 @@ bool HostSettings::setReceiveFolder(const QString &strFolder)
 {
     const bool bOk = strFolder.isEmpty() || canHold(strFolder);
     if (bOk) {
-        writeForUser(RECEIVE_KEY, strFolder);
+        writeForUser(cReceiveKey, strFolder);
     }
     return bOk;
 }
 
 QString HostSettings::language()
 {
-    QString language = ConfigFile::getConfigValue(commonFile(), LANGUAGE_KEY).toString();
+    QString language = ConfigFile::getConfigValue(commonFile(), cLanguageKey).toString();
     if (language.isEmpty()) {
         // Written down, so that everybody who asks the settings finds the language that the windows speak.
         language = HostLanguage::firstLanguage(QLocale::system().name());
-        ConfigFile::changeConfigValue(commonFile(), LANGUAGE_KEY, language);
+        ConfigFile::changeConfigValue(commonFile(), cLanguageKey, language);
     }
     return language;
 }
 
 void HostSettings::setLanguage(const QString &strLanguage)
 {
-    ConfigFile::changeConfigValue(commonFile(), LANGUAGE_KEY, strLanguage);
+    ConfigFile::changeConfigValue(commonFile(), cLanguageKey, strLanguage);
     emit languageChanged(strLanguage);
 }
 
 QString HostSettings::skin()
 {
-    const QString stored = ConfigFile::getConfigValue(userFile(), SKIN_KEY).toString();
+    const QString stored = ConfigFile::getConfigValue(userFile(), cSkinKey).toString();
     return HostSkins::names().contains(stored) ? stored : HostSkins::standardName();
 }
 
 void HostSettings::setSkin(const QString &strName)
 {
-    ConfigFile::changeConfigValue(userFile(), SKIN_KEY, strName);
+    ConfigFile::changeConfigValue(userFile(), cSkinKey, strName);
     const QList<SysUIData> *skins = SkinContext::getSysUIDataList();
     if (skins == nullptr) {
         return;

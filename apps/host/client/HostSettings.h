@@ -14,7 +14,7 @@ public:
     using QObject::QObject;
 
     /// The key of isSilent() in the user's file.
-    static constexpr const char *silentKey = "/basicSetting/closeVoice";
+    static constexpr const char *cSilentKey = "/basicSetting/closeVoice";
 
     /// The file of the signed-in user's settings.
     static QString userFile();

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr const char *formSheet = "formSheet";
+constexpr const char *cFormSheet = "formSheet";
 
 struct SkinRow
 {
@@ -27,7 +27,7 @@ struct SkinRow
 };
 
 using SkinColour = QString SkinRow::*;
-constexpr SkinColour replaced[] = {&SkinRow::main, &SkinRow::dark, &SkinRow::soft, &SkinRow::mint, &SkinRow::tint};
+constexpr SkinColour cReplaced[] = {&SkinRow::main, &SkinRow::dark, &SkinRow::soft, &SkinRow::mint, &SkinRow::tint};
 
 const QList<SkinRow> &rows()
 {
@@ -59,7 +59,7 @@ const SkinRow &currentRow()
 /// The text with the standard skin's colours replaced by the row's.
 QString recoloured(QString strText, const SkinRow &row)
 {
-    for (const SkinColour colour : replaced) {
+    for (const SkinColour colour : cReplaced) {
         strText.replace(rows().first().*colour, row.*colour);
     }
     return strText;
@@ -122,10 +122,10 @@ void HostSkins::dress(QWidget *window)
     QList<QWidget *> parts = window->findChildren<QWidget *>();
     parts.prepend(window);
     for (QWidget *part : qAsConst(parts)) {
-        if (!part->property(formSheet).isValid()) {
-            part->setProperty(formSheet, part->styleSheet());
+        if (!part->property(cFormSheet).isValid()) {
+            part->setProperty(cFormSheet, part->styleSheet());
         }
-        const QString sheet = recoloured(part->property(formSheet).toString(), currentRow());
+        const QString sheet = recoloured(part->property(cFormSheet).toString(), currentRow());
         if (sheet != part->styleSheet()) {
             part->setStyleSheet(sheet);
         }

@@ -17,13 +17,13 @@
 namespace {
 
 // What SQLite keeps beside a file. It belongs to that file: it may hold the half of a write that was cut short.
-constexpr const char *companions[] = {"-journal", "-wal", "-shm"};
+constexpr const char *cCompanions[] = {"-journal", "-wal", "-shm"};
 // SQLite's primary result code for a file that another connection has locked; the upper bytes tell details.
-constexpr int busyCode = 5;
-constexpr int primaryCodeMask = 0xff;
+constexpr int cBusyCode = 5;
+constexpr int cPrimaryCodeMask = 0xff;
 
 // How long the first look at the file waits for another program, in milliseconds.
-constexpr int patience = 1800;
+constexpr int cPatience = 1800;
 
 /// A connection to the file beside the session's own.
 class Probe
@@ -52,7 +52,7 @@ public:
         QSqlQuery query(m_db);
         const bool ok = query.exec(QLatin1String(statement));
         if (!ok) {
-            m_bMetALock = (query.lastError().nativeErrorCode().toInt() & primaryCodeMask) == busyCode;
+            m_bMetALock = (query.lastError().nativeErrorCode().toInt() & cPrimaryCodeMask) == cBusyCode;
         }
         return ok;
     }
@@ -90,7 +90,7 @@ bool moveFile(const QString &strFrom, const QString &strTo)
         return ok;
     };
     // The companions go first: one that was left behind would be taken for that of the next file.
-    const bool all = std::all_of(std::begin(companions), std::end(companions),
+    const bool all = std::all_of(std::begin(cCompanions), std::end(cCompanions),
                                  [&](const char *companion) {
                                      const QString suffix = QLatin1String(companion);
                                      return !QFileInfo::exists(strFrom + suffix) || move(suffix);
@@ -135,7 +135,7 @@ QString HostStore::asidePath(const QString &strFolder, const QDateTime &when)
         strFolder + QStringLiteral("/localData.damaged-") + when.toString(QStringLiteral("yyyyMMdd-hhmmss"));
     const auto isTaken = [](const QString &strPath) {
         return QFileInfo::exists(strPath) ||
-               std::any_of(std::begin(companions), std::end(companions), [&](const char *companion) {
+               std::any_of(std::begin(cCompanions), std::end(cCompanions), [&](const char *companion) {
                    return QFileInfo::exists(strPath + QLatin1String(companion));
                });
     };
@@ -153,7 +153,7 @@ bool HostStore::open(const QString &strUid, const QString &strBase)
     m_bHeld = false;
     const QString folder = QDir(strBase + QLatin1Char('/') + strUid).absolutePath();
     const QString file = folder + QStringLiteral("/localData.db");
-    if (isShutAgainstReading(file, patience)) {
+    if (isShutAgainstReading(file, cPatience)) {
         reportHeld(file);
         return false;
     }

@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr int shortestSecret = 4;
+constexpr int cShortestSecret = 4;
 // A program that registers under ever new values does not make every line slower.
-constexpr int mostSecrets = 16;
+constexpr int cMostSecrets = 16;
 
 QString mark()
 {
@@ -121,11 +121,11 @@ QString ShownText::plain(const QString &strText, int iLimit, qint64 iLength)
 
 void SecretMask::learn(const QString &strSecret)
 {
-    if (strSecret.size() < shortestSecret || m_secrets.contains(strSecret)) {
+    if (strSecret.size() < cShortestSecret || m_secrets.contains(strSecret)) {
         return;
     }
     m_secrets.append(strSecret);
-    while (m_secrets.size() > mostSecrets) {
+    while (m_secrets.size() > cMostSecrets) {
         m_secrets.removeFirst();
     }
 }

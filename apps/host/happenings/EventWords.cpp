@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr const char *context = "EventWords";
+constexpr const char *cContext = "EventWords";
 
 // What an event is called where its fields are listed, and its sentence. The sentence's values are the fields of the
 // payload in stream order, then those of the answer.
@@ -21,12 +21,12 @@ struct EventRow
     SentenceForm form;
 };
 
-constexpr const char *yes = QT_TRANSLATE_NOOP("EventWords", "yes");
-constexpr const char *no = QT_TRANSLATE_NOOP("EventWords", "no");
-constexpr const char *withPicture = QT_TRANSLATE_NOOP("EventWords", "with picture");
-constexpr const char *soundOnly = QT_TRANSLATE_NOOP("EventWords", "with sound only");
+constexpr const char *cYes = QT_TRANSLATE_NOOP("EventWords", "yes");
+constexpr const char *cNo = QT_TRANSLATE_NOOP("EventWords", "no");
+constexpr const char *cWithPicture = QT_TRANSLATE_NOOP("EventWords", "with picture");
+constexpr const char *cSoundOnly = QT_TRANSLATE_NOOP("EventWords", "with sound only");
 
-constexpr EventRow rows[] = {
+constexpr EventRow cRows[] = {
     {MSG_UPDATE_USER_INFO,
      "a user's card",
      {QT_TRANSLATE_NOOP("EventWords", "the client gives the plug-in the card of %1")}},
@@ -47,13 +47,13 @@ constexpr EventRow rows[] = {
      {QT_TRANSLATE_NOOP("EventWords", "the plug-in asks to show the signature card of %1 at %2, %3")}},
     {MSG_IS_EXIST_FRIEND,
      "is a contact",
-     {QT_TRANSLATE_NOOP("EventWords", "the plug-in asks whether %1 is a contact: %2"), {2, yes, no}}},
+     {QT_TRANSLATE_NOOP("EventWords", "the plug-in asks whether %1 is a contact: %2"), {2, cYes, cNo}}},
     {MSG_CLOSE_AV_MSGBOX,
      "take the prompt away",
      {QT_TRANSLATE_NOOP("EventWords", "the plug-in asks to take away the prompt of the call with %1")}},
     {MSG_CALL_SINGLE_USER,
      "call a user",
-     {QT_TRANSLATE_NOOP("EventWords", "the client asks the plug-in to call %2 %1"), {1, withPicture, soundOnly}}},
+     {QT_TRANSLATE_NOOP("EventWords", "the client asks the plug-in to call %2 %1"), {1, cWithPicture, cSoundOnly}}},
     {MSG_CALL_FINISHED,
      "call finished",
      {QT_TRANSLATE_NOOP("EventWords", "the plug-in reports the end of the call with %2: %3; %4, %5, %6 s"),
@@ -62,10 +62,10 @@ constexpr EventRow rows[] = {
       {5, QT_TRANSLATE_NOOP("EventWords", "connected"), QT_TRANSLATE_NOOP("EventWords", "never connected")}}},
     {MSG_IS_EXIST_CALL,
      "is there a call",
-     {QT_TRANSLATE_NOOP("EventWords", "the client asks whether there is a call: %1"), {1, yes, no}}},
+     {QT_TRANSLATE_NOOP("EventWords", "the client asks whether there is a call: %1"), {1, cYes, cNo}}},
     {MSG_IS_VIDEO_CALL,
      "is it a video call",
-     {QT_TRANSLATE_NOOP("EventWords", "the client asks whether the call has a picture: %1"), {1, yes, no}}},
+     {QT_TRANSLATE_NOOP("EventWords", "the client asks whether the call has a picture: %1"), {1, cYes, cNo}}},
     {MSG_CLOSE_SIGN_LIST,
      "hide signature card",
      {QT_TRANSLATE_NOOP("EventWords", "the plug-in asks to hide the signature card")}},
@@ -73,7 +73,7 @@ constexpr EventRow rows[] = {
      "incoming call",
      {QT_TRANSLATE_NOOP("EventWords", "the plug-in reports that %1 %2, %3"),
       {2, QT_TRANSLATE_NOOP("EventWords", "invites to a conference"), QT_TRANSLATE_NOOP("EventWords", "calls")},
-      {3, withPicture, soundOnly}}},
+      {3, cWithPicture, cSoundOnly}}},
     {MSG_RESPONSE_VOIP_REQUEST,
      "answer to the prompt",
      {QT_TRANSLATE_NOOP("EventWords", "the client tells the plug-in that the user %1 the call"),
@@ -96,16 +96,16 @@ constexpr EventRow rows[] = {
 constexpr bool standInOrder()
 {
     std::size_t place = 0;
-    for (const EventRow &row : rows) {
-        if (place == hostEvents.size() || row.msgId != hostEvents.at(place++).msgId) {
+    for (const EventRow &row : cRows) {
+        if (place == cHostEvents.size() || row.msgId != cHostEvents.at(place++).msgId) {
             return false;
         }
     }
-    return place == hostEvents.size();
+    return place == cHostEvents.size();
 }
 static_assert(standInOrder(), "an event without its words");
 
-constexpr SentenceForm unknownForm = {
+constexpr SentenceForm cUnknownForm = {
     QT_TRANSLATE_NOOP("EventWords", "a command that is not in the contract, with %1 bytes of payload")};
 
 QVariant fieldValue(char type, PayloadReader &in)
@@ -183,7 +183,7 @@ struct KnownEvent
 KnownEvent find(EMsgId msgId)
 {
     const HostEvent *event = findHostEvent(msgId);
-    return {event, event == nullptr ? nullptr : &rows[event - hostEvents.data()]};
+    return {event, event == nullptr ? nullptr : &cRows[event - cHostEvents.data()]};
 }
 
 QVariantList valuesOf(const HostEvent &event, const QByteArray &payload, const QByteArray &reply)
@@ -216,8 +216,8 @@ QString EventWords::answer(EMsgId msgId, const QByteArray &payload)
 Sentence EventWords::say(EMsgId msgId, const QByteArray &payload, const QByteArray &reply)
 {
     const auto [event, row] = find(msgId);
-    Sentence sentence = event == nullptr ? Sentence(context, unknownForm, {payload.size()})
-                                         : Sentence(context, row->form, valuesOf(*event, payload, reply));
+    Sentence sentence = event == nullptr ? Sentence(cContext, cUnknownForm, {payload.size()})
+                                         : Sentence(cContext, row->form, valuesOf(*event, payload, reply));
     sentence.setNumber(msgId);
     return sentence;
 }

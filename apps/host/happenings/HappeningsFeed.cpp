@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int lookEveryMs = 100;
+constexpr int cLookEveryMs = 100;
 
 Happening::Way wayOf(WireLine::Direction direction)
 {
@@ -33,7 +33,7 @@ HappeningsFeed::HappeningsFeed(HostSession &session, const QString &strTraceFile
 {
     connect(&session, &HostSession::eventPassed, this, &HappeningsFeed::noteEvent);
     connect(&m_timer, &QTimer::timeout, this, &HappeningsFeed::look);
-    m_timer.start(lookEveryMs);
+    m_timer.start(cLookEveryMs);
 }
 
 void HappeningsFeed::setPaused(bool bPaused)
@@ -86,7 +86,7 @@ void HappeningsFeed::noteEvent(bool bFromPlugin, int iMsgId, const QString &strW
     happening.way = bFromPlugin ? Happening::PluginToClient : Happening::ClientToPlugin;
     happening.sentence = EventWords::say(msgId, payload, reply);
     happening.raw = strAnswer.isEmpty() ? strWords : strWords + QStringLiteral(" => ") + strAnswer;
-    happening.raw = ShownText::plain(m_mask.masked(happening.raw), HappeningsModel::longestRaw);
+    happening.raw = ShownText::plain(m_mask.masked(happening.raw), HappeningsModel::cLongestRaw);
     add(std::move(happening));
 }
 
@@ -104,7 +104,8 @@ void HappeningsFeed::noteLine(const WireLine &line)
         happening.kind = said.bad ? Happening::Error : Happening::Wire;
         happening.way = wayOf(line.direction);
         happening.sentence = said.sentence;
-        happening.raw = ShownText::plain(masked, HappeningsModel::longestRaw, line.isCut ? line.length : masked.size());
+        happening.raw =
+            ShownText::plain(masked, HappeningsModel::cLongestRaw, line.isCut ? line.length : masked.size());
         add(std::move(happening));
     }
 }
@@ -113,7 +114,7 @@ void HappeningsFeed::add(Happening happening)
 {
     m_bNews = true;
     m_waiting.push_back(std::move(happening));
-    if (m_waiting.size() > HappeningsModel::capacity) {
+    if (m_waiting.size() > HappeningsModel::cCapacity) {
         m_waiting.pop_front();
         m_model.countDropped(1);
     }

@@ -12,14 +12,14 @@ struct WayRow
     const char *words;
 };
 
-constexpr WayRow ways[] = {
+constexpr WayRow cWays[] = {
     {Happening::ClientToPlugin, 0x2192, QT_TRANSLATE_NOOP("HappeningsModel", "client → plug-in")},
     {Happening::PluginToClient, 0x2190, QT_TRANSLATE_NOOP("HappeningsModel", "plug-in → client")},
     {Happening::PluginToProcess, 0x21D2, QT_TRANSLATE_NOOP("HappeningsModel", "plug-in → call process")},
     {Happening::ProcessToPlugin, 0x21D0, QT_TRANSLATE_NOOP("HappeningsModel", "call process → plug-in")},
     {Happening::InProcess, 0x2022, QT_TRANSLATE_NOOP("HappeningsModel", "call process")},
 };
-static_assert(std::size(ways) == Happening::WayCount, "every way has a row");
+static_assert(std::size(cWays) == Happening::WayCount, "every way has a row");
 
 struct KindRow
 {
@@ -28,26 +28,26 @@ struct KindRow
     QRgb colour;
 };
 
-constexpr KindRow kinds[] = {
+constexpr KindRow cKinds[] = {
     {Happening::Event, QT_TRANSLATE_NOOP("HappeningsModel", "event"), 0xff2f6f9f},
     {Happening::Wire, QT_TRANSLATE_NOOP("HappeningsModel", "wire"), 0xff2f8038},
     {Happening::Error, QT_TRANSLATE_NOOP("HappeningsModel", "error"), 0xffc0392b},
 };
-static_assert(std::size(kinds) == Happening::KindCount, "every kind has a row");
+static_assert(std::size(cKinds) == Happening::KindCount, "every kind has a row");
 
 } // namespace
 
 void HappeningsModel::append(std::deque<Happening> batch)
 {
-    if (batch.size() > capacity) {
-        const auto tooMany = batch.size() - capacity;
+    if (batch.size() > cCapacity) {
+        const auto tooMany = batch.size() - cCapacity;
         batch.erase(batch.begin(), batch.begin() + std::ptrdiff_t(tooMany));
         m_iDropped += qint64(tooMany);
     }
     if (batch.empty()) {
         return;
     }
-    const int surplus = int(m_rows.size() + batch.size()) - capacity;
+    const int surplus = int(m_rows.size() + batch.size()) - cCapacity;
     if (surplus > 0) {
         beginRemoveRows(QModelIndex(), 0, surplus - 1);
         m_rows.erase(m_rows.begin(), m_rows.begin() + surplus);
@@ -91,12 +91,12 @@ QString HappeningsModel::line(int iRow) const
 
 QString HappeningsModel::wayText(Happening::Way way)
 {
-    return tr(ways[way].words);
+    return tr(cWays[way].words);
 }
 
 QString HappeningsModel::kindText(Happening::Kind kind)
 {
-    return tr(kinds[kind].words);
+    return tr(cKinds[kind].words);
 }
 
 QString HappeningsModel::timeText(qint64 iTime)
@@ -129,7 +129,7 @@ QVariant HappeningsModel::data(const QModelIndex &index, int role) const
         return index.column() == WayGlyph ? wayText(row.way) : QVariant();
     case Qt::ForegroundRole:
         if (row.kind == Happening::Error || index.column() == WayGlyph || index.column() == KindWord) {
-            return QColor(kinds[row.kind].colour);
+            return QColor(cKinds[row.kind].colour);
         }
         return QVariant();
     default:
@@ -143,7 +143,7 @@ QString HappeningsModel::text(const Happening &row, int column)
     case Time:
         return QDateTime::fromMSecsSinceEpoch(row.time).toString(QStringLiteral("hh:mm:ss.zzz"));
     case WayGlyph:
-        return QChar(ways[row.way].glyph);
+        return QChar(cWays[row.way].glyph);
     case KindWord:
         return kindText(row.kind);
     default:

@@ -57,9 +57,9 @@ public:
     };
 
     /// Rows that are kept.
-    static constexpr int capacity = 10000;
+    static constexpr int cCapacity = 10000;
     /// Characters that are kept of a raw text.
-    static constexpr int longestRaw = 2000;
+    static constexpr int cLongestRaw = 2000;
 
     using QAbstractTableModel::QAbstractTableModel;
 

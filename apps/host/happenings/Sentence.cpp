@@ -7,25 +7,25 @@
 
 namespace {
 
-constexpr int longestText = 160;
-constexpr int longestItem = 40;
-constexpr int mostItems = 20;
+constexpr int cLongestText = 160;
+constexpr int cLongestItem = 40;
+constexpr int cMostItems = 20;
 
 QVariant shortened(const QVariant &value)
 {
     if (value.type() == QVariant::String) {
-        return ShownText::plain(value.toString(), longestText);
+        return ShownText::plain(value.toString(), cLongestText);
     }
     if (value.type() != QVariant::StringList) {
         return value;
     }
     const QStringList all = value.toStringList();
     QStringList items;
-    for (const QString &item : all.mid(0, mostItems)) {
-        items << ShownText::plain(item, longestItem);
+    for (const QString &item : all.mid(0, cMostItems)) {
+        items << ShownText::plain(item, cLongestItem);
     }
-    if (all.size() > mostItems) {
-        items << QChar(0x2026) + QStringLiteral(" +%1").arg(all.size() - mostItems);
+    if (all.size() > cMostItems) {
+        items << QChar(0x2026) + QStringLiteral(" +%1").arg(all.size() - cMostItems);
     }
     return items;
 }

@@ -9,7 +9,7 @@ class TraceFolder
 {
 public:
     /// The variable of the environment in which the call process looks for its trace's file.
-    static constexpr const char *variable = "VOIPSDK_TRACE";
+    static constexpr const char *cVariable = "VOIPSDK_TRACE";
 
     TraceFolder();
 

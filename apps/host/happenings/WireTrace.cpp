@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr qint64 mostAtOnce = Q_INT64_C(8) * 1024 * 1024;
-constexpr qint64 pieceSize = Q_INT64_C(256) * 1024;
-constexpr int longestLine = 64 * 1024;
+constexpr qint64 cMostAtOnce = Q_INT64_C(8) * 1024 * 1024;
+constexpr qint64 cPieceSize = Q_INT64_C(256) * 1024;
+constexpr int cLongestLine = 64 * 1024;
 
 bool parseLine(const QString &strLine, WireLine *line)
 {
@@ -41,10 +41,10 @@ QList<WireLine> WireTrace::readNew()
     if (file.size() < m_iRead) {
         *this = WireTrace(m_strFile);
     }
-    const qint64 end = qMin(file.size(), m_iRead + mostAtOnce);
+    const qint64 end = qMin(file.size(), m_iRead + cMostAtOnce);
     file.seek(m_iRead);
     while (m_iRead < end) {
-        const QByteArray bytes = file.read(qMin(pieceSize, end - m_iRead));
+        const QByteArray bytes = file.read(qMin(cPieceSize, end - m_iRead));
         if (bytes.isEmpty()) {
             break;
         }
@@ -61,7 +61,7 @@ void WireTrace::take(const QByteArray &bytes, QList<WireLine> *lines)
     while (begin < bytes.size()) {
         const int found = bytes.indexOf('\n', begin);
         const int end = found < 0 ? bytes.size() : found;
-        m_rest += bytes.mid(begin, qMin(end - begin, longestLine - m_rest.size()));
+        m_rest += bytes.mid(begin, qMin(end - begin, cLongestLine - m_rest.size()));
         m_iRestLength += end - begin;
         if (found >= 0) {
             endLine(lines);

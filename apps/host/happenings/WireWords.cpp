@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr const char *context = "WireWords";
+constexpr const char *cContext = "WireWords";
 
 // The values are param1, param2...
 struct CommandForm
@@ -25,10 +25,10 @@ struct CommandForm
     SentenceForm form;
 };
 
-constexpr const char *on = QT_TRANSLATE_NOOP("WireWords", "on");
-constexpr const char *off = QT_TRANSLATE_NOOP("WireWords", "off");
+constexpr const char *cOn = QT_TRANSLATE_NOOP("WireWords", "on");
+constexpr const char *cOff = QT_TRANSLATE_NOOP("WireWords", "off");
 
-constexpr CommandForm commands[] = {
+constexpr CommandForm cCommands[] = {
     {Wire::Command::RegeditUser, {QT_TRANSLATE_NOOP("WireWords", "the plug-in registers %1 (%2) at the call process")}},
     {Wire::Command::UnReg, {QT_TRANSLATE_NOOP("WireWords", "the plug-in takes the registration of %1 back")}},
     {Wire::Command::CallUser,
@@ -46,17 +46,17 @@ constexpr CommandForm commands[] = {
     {Wire::Command::HangupConf, {QT_TRANSLATE_NOOP("WireWords", "the plug-in leaves the conference")}},
     {Wire::Command::ControlConf, {QT_TRANSLATE_NOOP("WireWords", "the plug-in moderates the conference: %1, %2")}},
     {Wire::Command::SetMicEnable,
-     {QT_TRANSLATE_NOOP("WireWords", "the plug-in turns the microphone %1"), {1, on, off}}},
+     {QT_TRANSLATE_NOOP("WireWords", "the plug-in turns the microphone %1"), {1, cOn, cOff}}},
     {Wire::Command::SetSpeakerEnble,
-     {QT_TRANSLATE_NOOP("WireWords", "the plug-in turns the speaker %1"), {1, on, off}}},
+     {QT_TRANSLATE_NOOP("WireWords", "the plug-in turns the speaker %1"), {1, cOn, cOff}}},
     {Wire::Command::SetCamreraEnable,
-     {QT_TRANSLATE_NOOP("WireWords", "the plug-in turns the camera %1"), {1, on, off}}},
+     {QT_TRANSLATE_NOOP("WireWords", "the plug-in turns the camera %1"), {1, cOn, cOff}}},
     {Wire::Command::SetMicVolume, {QT_TRANSLATE_NOOP("WireWords", "the plug-in sets the microphone to volume %1")}},
     {Wire::Command::SetSpeakerVolume, {QT_TRANSLATE_NOOP("WireWords", "the plug-in sets the speaker to volume %1")}},
 };
-static_assert(Wire::tellOfEveryCommand(commands), "a command without its sentence");
+static_assert(Wire::tellOfEveryCommand(cCommands), "a command without its sentence");
 
-constexpr SentenceForm quitForm = {QT_TRANSLATE_NOOP("WireWords", "the plug-in tells the call process to quit")};
+constexpr SentenceForm cQuitForm = {QT_TRANSLATE_NOOP("WireWords", "the plug-in tells the call process to quit")};
 
 // The values are those that the content of the notification holds.
 struct NotificationForm
@@ -65,7 +65,7 @@ struct NotificationForm
     SentenceForm form;
 };
 
-constexpr NotificationForm notifications[] = {
+constexpr NotificationForm cNotifications[] = {
     {Wire::Code::IncomingCall, {QT_TRANSLATE_NOOP("WireWords", "call process: %1 is calling")}},
     {Wire::Code::IncomingCallAlt, {QT_TRANSLATE_NOOP("WireWords", "call process: %1 is calling")}},
     {Wire::Code::IncomingConf,
@@ -91,36 +91,36 @@ constexpr NotificationForm notifications[] = {
     {Wire::Code::ConfMemberRejected, {QT_TRANSLATE_NOOP("WireWords", "call process: %1 has rejected the conference")}},
     {Wire::Code::SdkLog, {QT_TRANSLATE_NOOP("WireWords", "call process logs: %1")}},
 };
-static_assert(Wire::tellOfEveryNotification(notifications), "a notification without its sentence");
+static_assert(Wire::tellOfEveryNotification(cNotifications), "a notification without its sentence");
 
-constexpr SentenceForm openForm = {
+constexpr SentenceForm cOpenForm = {
     QT_TRANSLATE_NOOP("WireWords", "call process: a notification that leads to nothing, content %1")};
-constexpr SentenceForm noConferenceForm = {
+constexpr SentenceForm cNoConferenceForm = {
     QT_TRANSLATE_NOOP("WireWords", "call process: the conference could not be made")};
-constexpr SentenceForm noteForm = {QT_TRANSLATE_NOOP("WireWords", "call process notes: %1")};
-constexpr SentenceForm complaintForm = {QT_TRANSLATE_NOOP("WireWords", "call process complains: %1")};
-constexpr SentenceForm cutForm = {QT_TRANSLATE_NOOP("WireWords", "a line of %1 bytes, too long to be decoded: %2")};
-constexpr SentenceForm brokenForm = {QT_TRANSLATE_NOOP("WireWords", "no line of the protocol: %1")};
-constexpr SentenceForm unknownCommandForm = {
+constexpr SentenceForm cNoteForm = {QT_TRANSLATE_NOOP("WireWords", "call process notes: %1")};
+constexpr SentenceForm cComplaintForm = {QT_TRANSLATE_NOOP("WireWords", "call process complains: %1")};
+constexpr SentenceForm cCutForm = {QT_TRANSLATE_NOOP("WireWords", "a line of %1 bytes, too long to be decoded: %2")};
+constexpr SentenceForm cBrokenForm = {QT_TRANSLATE_NOOP("WireWords", "no line of the protocol: %1")};
+constexpr SentenceForm cUnknownCommandForm = {
     QT_TRANSLATE_NOOP("WireWords", "the plug-in sends an unknown command: %1")};
-constexpr SentenceForm unknownNotificationForm = {
+constexpr SentenceForm cUnknownNotificationForm = {
     QT_TRANSLATE_NOOP("WireWords", "call process: an unknown notification, content %1")};
-constexpr SentenceForm brokenContentForm = {
+constexpr SentenceForm cBrokenContentForm = {
     QT_TRANSLATE_NOOP("WireWords", "call process: a document that cannot be read: %1")};
 
 const SentenceForm &formOf(Wire::Command command)
 {
-    return commands[static_cast<int>(command)].form;
+    return cCommands[static_cast<int>(command)].form;
 }
 
 const SentenceForm &formOf(const Wire::NotificationRow &row)
 {
-    for (const NotificationForm &notification : notifications) {
+    for (const NotificationForm &notification : cNotifications) {
         if (notification.code == row.code) {
             return notification.form;
         }
     }
-    return openForm;
+    return cOpenForm;
 }
 
 /// A line as it was understood.
@@ -168,16 +168,16 @@ QVariant parameterOf(const QJsonValue &value)
 Draft readCommand(const QString &strText)
 {
     QJsonObject object;
-    if (strText == QLatin1String(Wire::kQuitLine)) {
-        return {&quitForm, {}};
+    if (strText == QLatin1String(Wire::cQuitLine)) {
+        return {&cQuitForm, {}};
     }
     if (!parse(strText, &object) || !object.value(QStringLiteral("messagetype")).isString()) {
-        return badDraft(brokenForm, strText);
+        return badDraft(cBrokenForm, strText);
     }
     const QString name = object.value(QStringLiteral("messagetype")).toString();
     const Wire::CommandRow *row = Wire::findCommand(name.toStdString());
     if (row == nullptr) {
-        return badDraft(unknownCommandForm, name);
+        return badDraft(cUnknownCommandForm, name);
     }
     QVariantList values;
     for (int number = 1; number <= Wire::parameterCount(*row); ++number) {
@@ -220,11 +220,11 @@ Draft readNotification(const Wire::NotificationRow &row, const QString &strConte
         break;
     }
     if (row.content == Wire::Content::Creation && strContent.isEmpty()) {
-        return {&noConferenceForm, {}};
+        return {&cNoConferenceForm, {}};
     }
     QVariantList values;
     if (!readDocument(row.content, strContent, &values)) {
-        return badDraft(brokenContentForm, strContent);
+        return badDraft(cBrokenContentForm, strContent);
     }
     return {&form, values};
 }
@@ -233,15 +233,15 @@ Draft readFromCallProcess(const QString &strText)
 {
     QJsonObject object;
     if (!parse(strText, &object)) {
-        return badDraft(brokenForm, strText);
+        return badDraft(cBrokenForm, strText);
     }
     const double number = object.value(QStringLiteral("resultCode")).toDouble(NAN);
     const QJsonValue content = object.value(QStringLiteral("content"));
     if (std::trunc(number) != number || std::abs(number) > INT_MAX || !(content.isString() || content.isUndefined())) {
-        return badDraft(brokenForm, strText);
+        return badDraft(cBrokenForm, strText);
     }
     const Wire::NotificationRow *row = Wire::findNotification(int(number));
-    Draft draft = row == nullptr ? badDraft(unknownNotificationForm, content.toString())
+    Draft draft = row == nullptr ? badDraft(cUnknownNotificationForm, content.toString())
                                  : readNotification(*row, content.toString());
     draft.code = int(number);
     return draft;
@@ -250,13 +250,13 @@ Draft readFromCallProcess(const QString &strText)
 Draft readLine(const WireLine &line)
 {
     if (line.complaint) {
-        return badDraft(complaintForm, line.text);
+        return badDraft(cComplaintForm, line.text);
     }
     if (line.direction == WireLine::Event) {
-        return {&noteForm, {line.text}};
+        return {&cNoteForm, {line.text}};
     }
     if (line.isCut) {
-        return {&cutForm, {line.length, line.text}, true};
+        return {&cCutForm, {line.length, line.text}, true};
     }
     return line.direction == WireLine::FromPlugin ? readCommand(line.text) : readFromCallProcess(line.text);
 }
@@ -284,7 +284,7 @@ WireWords::Said WireWords::say(const WireLine &line, const SecretMask &mask)
     for (QVariant &value : draft.values) {
         value = maskedValue(value, mask);
     }
-    Said said{Sentence(context, *draft.form, draft.values), draft.bad};
+    Said said{Sentence(cContext, *draft.form, draft.values), draft.bad};
     if (draft.code) {
         said.sentence.setNumber(*draft.code);
     }

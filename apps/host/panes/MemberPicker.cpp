@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int headSize = 32;
+constexpr int cHeadSize = 32;
 
 } // namespace
 
@@ -21,7 +21,7 @@ MemberPicker::MemberPicker(const ContactBook &book, Purpose purpose, const QStri
     : QDialog(parent), ui(std::make_unique<Ui::MemberPicker>())
 {
     ui->setupUi(this);
-    ui->listPeople->setIconSize(QSize(headSize, headSize));
+    ui->listPeople->setIconSize(QSize(cHeadSize, cHeadSize));
     const bool fresh = purpose == NewConference;
     setWindowTitle(fresh ? tr("New conference") : tr("Invite to the conference"));
     ui->passedOn->setVisible(fresh);
@@ -73,8 +73,8 @@ void MemberPicker::addPerson(const ContactBook::Entry &entry, bool bChecked)
         entry.alternative.isEmpty() ? entry.nick : entry.nick + QStringLiteral(" · ") + entry.alternative;
     auto *item = new QListWidgetItem(words, ui->listPeople);
     item->setIcon(QIcon(
-        HostPictures::head(entry.nick, entry.uid, headSize, entry.presence, AvatarFiles::systemAvatar(entry.photo))));
-    item->setData(uidRole, entry.uid);
+        HostPictures::head(entry.nick, entry.uid, cHeadSize, entry.presence, AvatarFiles::systemAvatar(entry.photo))));
+    item->setData(cUidRole, entry.uid);
     item->setData(Qt::AccessibleTextRole, QStringLiteral("%1, %2").arg(words, presenceWord(entry.presence)));
     item->setCheckState(bChecked ? Qt::Checked : Qt::Unchecked);
 }
@@ -93,7 +93,7 @@ ConferenceWish MemberPicker::wish() const
     for (int row = 0; row < ui->listPeople->count(); ++row) {
         const QListWidgetItem *item = ui->listPeople->item(row);
         if (item->checkState() == Qt::Checked) {
-            wish.uids << item->data(uidRole).toString();
+            wish.uids << item->data(cUidRole).toString();
         }
     }
     wish.text = ui->editText->text();

@@ -28,7 +28,7 @@ public:
     };
 
     /// The item data of a row that holds the user id.
-    static constexpr int uidRole = Qt::UserRole;
+    static constexpr int cUidRole = Qt::UserRole;
 
     MemberPicker(const ContactBook &book, Purpose purpose, const QStringList &named, QWidget *parent);
     ~MemberPicker() override;

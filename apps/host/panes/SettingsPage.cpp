@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int swatchSize = 18;
+constexpr int cSwatchSize = 18;
 
 } // namespace
 
@@ -49,8 +49,8 @@ void SettingsPage::addSkins()
     for (const QString &name : HostSkins::names()) {
         auto *button = new QRadioButton(ui->skins);
         button->setObjectName(QStringLiteral("skin_") + name);
-        button->setIcon(HostPictures::swatch(HostSkins::mainColour(name), swatchSize));
-        button->setIconSize(QSize(swatchSize, swatchSize));
+        button->setIcon(HostPictures::swatch(HostSkins::mainColour(name), cSwatchSize));
+        button->setIconSize(QSize(cSwatchSize, cSwatchSize));
         connect(button, &QRadioButton::clicked, this, [this, name] { m_settings.setSkin(name); });
         ui->skinsLayout->addWidget(button);
     }

@@ -9,22 +9,22 @@
 
 namespace {
 
-constexpr int headSize = 48;
-constexpr int gap = 8;
+constexpr int cHeadSize = 48;
+constexpr int cGap = 8;
 // A card stays a card whatever people write about themselves.
-constexpr int longestText = 120;
+constexpr int cLongestText = 120;
 
 QString shortened(const QString &strText)
 {
-    return strText.size() > longestText ? strText.left(longestText) + QChar(0x2026) : strText;
+    return strText.size() > cLongestText ? strText.left(cLongestText) + QChar(0x2026) : strText;
 }
 
 /// Where the card stands beside the list, whole on the screen if the screen has room for it at all.
 QPoint cardPlace(const QSize &card, const QPoint &place, int iListWidth, const QRect &screen)
 {
-    int x = place.x() - gap - card.width();
+    int x = place.x() - cGap - card.width();
     if (x < screen.left()) {
-        x = place.x() + iListWidth + gap;
+        x = place.x() + iListWidth + cGap;
     }
     return {qMax(screen.left(), qMin(x, screen.right() + 1 - card.width())),
             qMax(screen.top(), qMin(place.y(), screen.bottom() + 1 - card.height()))};
@@ -49,7 +49,7 @@ void SignatureCard::showCard(const QString &strJid, const QPoint &place, int iLi
     const QString name = m_book.nameOf(uid);
     const QString signature = m_book.card(uid)->m_strSignature;
     ui->lblHead->setPixmap(
-        HostPictures::head(name, uid, headSize, m_book.presenceOf(uid), m_book.card(uid)->m_strPhotoPath));
+        HostPictures::head(name, uid, cHeadSize, m_book.presenceOf(uid), m_book.card(uid)->m_strPhotoPath));
     ui->lblName->setText(shortened(name));
     ui->lblSignature->setText(signature.isEmpty() ? tr("(no signature)") : shortened(signature));
     adjustSize();

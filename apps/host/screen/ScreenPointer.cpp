@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr unsigned char absolute = 0;
+constexpr unsigned char cAbsolute = 0;
 
 unsigned char buttonNumber(Qt::MouseButton button)
 {
@@ -47,7 +47,7 @@ void ScreenPointer::send(unsigned char type, unsigned char detail, const QPoint 
 
 void ScreenPointer::moveTo(const QPoint &place)
 {
-    send(XCB_MOTION_NOTIFY, absolute, place * qGuiApp->devicePixelRatio());
+    send(XCB_MOTION_NOTIFY, cAbsolute, place * qGuiApp->devicePixelRatio());
 }
 
 void ScreenPointer::press(Qt::MouseButton button)

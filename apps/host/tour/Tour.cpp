@@ -10,9 +10,9 @@
 
 namespace {
 
-constexpr int tickMs = 25;
+constexpr int cTickMs = 25;
 // Time for the window to be raised and for the compositor to paint it.
-constexpr int settleMs = 500;
+constexpr int cSettleMs = 500;
 
 /// Whether it is a line of the call process or an event between host and plug-in. What they lead to may last for less
 /// than a tick.
@@ -47,7 +47,7 @@ bool Tour::eventFilter(QObject *watched, QEvent *event)
 
 void Tour::start()
 {
-    m_timer.start(tickMs);
+    m_timer.start(cTickMs);
 }
 
 void Tour::tick()
@@ -141,7 +141,7 @@ void Tour::wait()
 void Tour::settle()
 {
     if (!step().picture.isEmpty()) {
-        if (!m_clock.hasExpired(settleMs)) {
+        if (!m_clock.hasExpired(cSettleMs)) {
             return;
         }
         if (!takePicture()) {

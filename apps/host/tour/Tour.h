@@ -13,7 +13,7 @@ class TourHand;
 class TourWatch;
 
 /// How long the effects of a usual step may take on a machine that is busy with other work, in milliseconds.
-inline constexpr int usualLimitMs = 60000;
+inline constexpr int cUsualLimitMs = 60000;
 
 /// One thing that must be seen to happen in a step.
 struct TourCheck
@@ -32,7 +32,7 @@ struct TourStep
     std::function<bool()> act;
     /// Each needs to be seen once, in any order.
     QList<TourCheck> checks;
-    int limitMs = usualLimitMs;
+    int limitMs = cUsualLimitMs;
     /// Name of the picture without ".png"; empty for none.
     QString picture = QString();
     /// The window to take; one that gives null fails the step.

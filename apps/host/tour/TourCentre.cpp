@@ -19,8 +19,8 @@ namespace {
 
 using Steps = QList<TourStep>;
 
-constexpr const char *again = "再次发起";
-constexpr const char *remove = "删除";
+constexpr const char *cAgain = "再次发起";
+constexpr const char *cRemove = "删除";
 
 /// The ids of the conferences in the user's store, newest first.
 QStringList storedIds()
@@ -38,19 +38,19 @@ Steps list(const TourScript &s)
         {u("Open the conference centre"),
          s.pressMain("btnCentre"),
          {s.asked(MSG_SHOW_VOICE_CONF), s.centreShows("lblVoipTipMsg", u("语音会议")), s.recordCount(2),
-          s.recordHas(ContactBook::ownId, ROLE_HEAD_RECT, u("the own head"))}},
+          s.recordHas(ContactBook::cOwnId, ROLE_HEAD_RECT, u("the own head"))}},
         {u("Rest the mouse on the creator's head: the plug-in asks the client for the signature card"),
          s.hoverRecordHead(invites),
          {s.told(MSG_SHOW_SIGN_LIST, QLatin1String(invites)), s.card("lblName", u("Ivan Petrov")),
           s.card("lblSignature", u("One meeting a day keeps the mail away"))},
-         usualLimitMs,
+         cUsualLimitMs,
          u("centre-card"),
          {}},
         {u("Take the mouse away: the card goes"), s.leave(), {s.told(MSG_CLOSE_SIGN_LIST), s.cardGone()}},
         {u("Move over the own conference: its row shows the button for the details"),
-         s.hoverRecord(ContactBook::ownId),
-         {s.recordHas(ContactBook::ownId, ROLE_REMOVE_RECT, u("the button for the details"))},
-         usualLimitMs,
+         s.hoverRecord(ContactBook::cOwnId),
+         {s.recordHas(ContactBook::cOwnId, ROLE_REMOVE_RECT, u("the button for the details"))},
+         cUsualLimitMs,
          u("centre-list"),
          s.centre()},
     };
@@ -60,10 +60,10 @@ Steps detail(const TourScript &s)
 {
     return {
         {u("Click on it"),
-         s.pressRecord(ContactBook::ownId, ROLE_REMOVE_RECT),
+         s.pressRecord(ContactBook::cOwnId, ROLE_REMOVE_RECT),
          {s.centreShows("CreatName", u("小明")), s.centreShows("lblCreateTime", u("【语音会议】")),
           s.centreShows("lblTableViewTitle", u("参与人员")), s.detailCount(7)},
-         usualLimitMs,
+         cUsualLimitMs,
          u("centre-detail"),
          s.centre()},
         {u("Rest the mouse on the head of 林涛"),
@@ -79,14 +79,14 @@ Steps askAgain(const TourScript &s, const QString &strPicture)
 {
     return {
         {u("Press the right button on the own conference"),
-         s.rightPressRecord(ContactBook::ownId),
-         {s.menuOffers({u(again), u(remove)})},
-         usualLimitMs,
+         s.rightPressRecord(ContactBook::cOwnId),
+         {s.menuOffers({u(cAgain), u(cRemove)})},
+         cUsualLimitMs,
          strPicture,
          strPicture.isEmpty() ? TourScript::Window() : s.menu()},
         {u("Choose to call it again: the client asks who shall be called, without oneself"),
-         s.choose(again),
-         {s.told(MSG_CREATE_VOICE_CONFERENCE, QLatin1String(ContactBook::ownId)),
+         s.choose(cAgain),
+         {s.told(MSG_CREATE_VOICE_CONFERENCE, QLatin1String(ContactBook::cOwnId)),
           s.pickerSays("btnInvite", u("Invite (6)"))}},
     };
 }
@@ -123,9 +123,9 @@ Steps removeNewest(const TourScript &s)
     return {
         look,
         {u("Press the right button on the newest conference"),
-         s.rightPressRecord(ContactBook::ownId),
-         {s.menuOffers({u(again), u(remove)})}},
-        {u("Delete it"), s.choose(remove), {s.recordCount(2), removed}},
+         s.rightPressRecord(ContactBook::cOwnId),
+         {s.menuOffers({u(cAgain), u(cRemove)})}},
+        {u("Delete it"), s.choose(cRemove), {s.recordCount(2), removed}},
     };
 }
 

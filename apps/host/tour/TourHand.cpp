@@ -10,8 +10,8 @@ namespace {
 
 // After so many calls of work(), a move or a press that the program has not heard of is done once more: another window
 // was in front. It is not done sooner, because a press that is only late on a busy machine would count twice.
-constexpr int patienceForMove = 2;
-constexpr int patienceForPress = 200;
+constexpr int cPatienceForMove = 2;
+constexpr int cPatienceForPress = 200;
 
 } // namespace
 
@@ -61,7 +61,7 @@ void TourHand::reach(const WindowProbe::Spot &spot, const QPoint &place)
     m_pWindow = window->windowHandle();
     m_place = place;
     m_phase = Reaching;
-    m_iPatience = patienceForMove;
+    m_iPatience = cPatienceForMove;
     window->raise();
     // The pointer is moved beside the place and onto it in turn, because Qt does not report a move to the place where
     // it saw the pointer last.
@@ -76,7 +76,7 @@ void TourHand::press(const Gesture &gesture)
         return;
     }
     m_phase = Pressed;
-    m_iPatience = patienceForPress;
+    m_iPatience = cPatienceForPress;
     m_iReleases = gesture.times;
     for (int i = 0; i < gesture.times; ++i) {
         m_pointer.click(gesture.button);

@@ -96,7 +96,7 @@ TourScript::Action TourScript::pick(const QStringList &uids) const
     return [hand = &m_stage.hand, uids] {
         for (const QString &uid : uids) {
             hand->click([uid] {
-                return WindowProbe::rowMiddle(WindowProbe::memberPicker(), {"listPeople", MemberPicker::uidRole, uid});
+                return WindowProbe::rowMiddle(WindowProbe::memberPicker(), {"listPeople", MemberPicker::cUidRole, uid});
             });
         }
         return true;

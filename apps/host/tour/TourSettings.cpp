@@ -15,7 +15,7 @@ namespace {
 TourCheck silentInFile(const char *strValue)
 {
     return {QStringLiteral("the user's settings file says closeVoice=%1").arg(QLatin1String(strValue)), [strValue] {
-                return ConfigFile::getConfigValue(HostSettings::userFile(), QLatin1String(HostSettings::silentKey))
+                return ConfigFile::getConfigValue(HostSettings::userFile(), QLatin1String(HostSettings::cSilentKey))
                            .toString() == QLatin1String(strValue);
             }};
 }
@@ -55,7 +55,7 @@ QList<TourStep> settingsSteps(const TourStage &stage)
         {u("Open the settings"),
          s.pressMain("btnSettings"),
          {{u("the settings page is shown"), pageShown}},
-         usualLimitMs,
+         cUsualLimitMs,
          u("settings"),
          page},
         {u("Keep the ring silent"), s.pressSettings(u("boxSilent")), {silentInFile("1")}},

@@ -28,12 +28,12 @@ using Wire::Command;
 namespace {
 
 // The texts of the windows, as a person sees them.
-constexpr const char *voiceTitle = "语音通话";
-constexpr const char *calling = "正在呼叫...";
-constexpr const char *connected = "已接通";
-constexpr const char *lineInUse = "You are in a call already. Please end it first.";
-constexpr const char *noProcess = "音频通话初始化失败，请尝试重启客户端解决";
-constexpr const char *sureToClose = "Do you want to end this call?";
+constexpr const char *cVoiceTitle = "语音通话";
+constexpr const char *cCalling = "正在呼叫...";
+constexpr const char *cConnected = "已接通";
+constexpr const char *cLineInUse = "You are in a call already. Please end it first.";
+constexpr const char *cNoProcess = "音频通话初始化失败，请尝试重启客户端解决";
+constexpr const char *cSureToClose = "Do you want to end this call?";
 
 QString param1(const char *strUid)
 {
@@ -83,9 +83,9 @@ Steps signIn(const TourScript &s, const TourStage &stage)
         {u("Sign in"),
          s.pressMain("btnOnline"),
          {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=yes")), s.processes(1),
-          s.command(Command::RegeditUser, param1(ContactBook::ownId)),
+          s.command(Command::RegeditUser, param1(ContactBook::cOwnId)),
           s.command(Command::RegeditUser, u("\"param4\":false"))},
-         usualLimitMs,
+         cUsualLimitMs,
          u("demo-window"),
          s.mainWindow()},
         {u("Ask the plug-in whether there is a call"),
@@ -99,7 +99,7 @@ Steps unanswered(const TourScript &s, const char *strUid, const char *strTitle, 
 {
     return {{u(strTitle),
              s.pressContact(strUid, "btnCall"),
-             {s.command(Command::CallUser, param1(strUid)), s.shows("lblStatus", u(calling)), s.code(code, strMeaning),
+             {s.command(Command::CallUser, param1(strUid)), s.shows("lblStatus", u(cCalling)), s.code(code, strMeaning),
               s.told(MSG_CLOSE_AV_MSGBOX), s.record(iResult, true, false), s.windowGone()}}};
 }
 
@@ -109,9 +109,9 @@ Steps cancel(const TourScript &s)
         {u("Call Tom Baker, who never answers"),
          s.pressContact(silent, "btnCall"),
          {s.asked(MSG_CALL_SINGLE_USER), s.command(Command::CallUser, param1(silent)),
-          s.shows("lblVoipTipMsg", u(voiceTitle)), s.shows("lblUserName", u("Tom Baker(Never answers)")),
-          s.shows("lblStatus", u(calling))},
-         usualLimitMs,
+          s.shows("lblVoipTipMsg", u(cVoiceTitle)), s.shows("lblUserName", u("Tom Baker(Never answers)")),
+          s.shows("lblStatus", u(cCalling))},
+         cUsualLimitMs,
          u("call-outgoing"),
          s.callWindow()},
         {u("Cancel it"),
@@ -125,8 +125,8 @@ Steps call(const TourScript &s, const char *strTitle, const QString &strPicture 
     return {{u(strTitle),
              s.pressContact(answers, "btnCall"),
              {s.command(Command::CallUser, param1(answers)), s.code(Code::CallConnected, "connected"),
-              s.shows("lblStatus", u(connected)), s.clockRuns()},
-             usualLimitMs,
+              s.shows("lblStatus", u(cConnected)), s.clockRuns()},
+             cUsualLimitMs,
              strPicture,
              strPicture.isEmpty() ? TourScript::Window() : s.callWindow()}};
 }
@@ -145,8 +145,8 @@ Steps duringCall(const TourScript &s)
     return {
         {u("The demo with the call on the screen"),
          {},
-         {s.shows("lblStatus", u(connected))},
-         usualLimitMs,
+         {s.shows("lblStatus", u(cConnected))},
+         cUsualLimitMs,
          u("desktop"),
          {}},
         {u("Switch the microphone off"),
@@ -154,13 +154,13 @@ Steps duringCall(const TourScript &s)
          {s.command(Command::SetMicEnable, u("\"param1\":false"))}},
         {u("Try a second call meanwhile"),
          s.pressContact(busy, "btnCall"),
-         {s.boxSays(u(lineInUse))},
-         usualLimitMs,
+         {s.boxSays(u(cLineInUse))},
+         cUsualLimitMs,
          u("message"),
          s.messageBox()},
         {u("Close the message; the call goes on"),
          s.pressBox("closeBtn"),
-         {s.boxGone(), s.shows("lblStatus", u(connected))}},
+         {s.boxGone(), s.shows("lblStatus", u(cConnected))}},
     };
 }
 
@@ -171,7 +171,7 @@ Steps video(const TourScript &s, const TourStage &stage)
          s.pressContact(answers, "btnVideo"),
          {s.command(Command::CallUser, u("\"param2\":true")), s.code(Code::CallConnected, "connected"),
           s.shows("lblVoipTipMsg", u("与李雷(Answers)(30010001)通话中")), s.clockRuns()},
-         usualLimitMs,
+         cUsualLimitMs,
          u("call-video"),
          s.callWindow()},
         {u("Ask the plug-in whether it is a video call: it always says no"),
@@ -179,8 +179,8 @@ Steps video(const TourScript &s, const TourStage &stage)
          {s.asked(MSG_IS_VIDEO_CALL, u("video=no"))}},
         {u("Close the call window: it asks first"),
          s.pressCallWindow("btnClose"),
-         {s.boxSays(u(sureToClose))},
-         usualLimitMs,
+         {s.boxSays(u(cSureToClose))},
+         cUsualLimitMs,
          u("close-question"),
          s.messageBox()},
         {u("Confirm"),
@@ -208,7 +208,7 @@ Steps callBack(const TourScript &s, const char *strTitle, const QString &strPict
               s.shows("lblUserName", u("韩梅梅(Calls you back)")), s.code(Code::PeerRejected, "rejected"),
               s.record(resultRejected, true, false), s.code(Code::IncomingCall, "incoming call"),
               s.told(MSG_RECEVIE_VOIP_CALL), s.prompted(u("韩梅梅"))},
-             usualLimitMs,
+             cUsualLimitMs,
              strPicture,
              strPicture.isEmpty() ? TourScript::Window() : s.prompt()}};
 }
@@ -222,8 +222,8 @@ Steps incoming(const TourScript &s)
                 s.pressPrompt("btnAccept"),
                 {s.asked(MSG_RESPONSE_VOIP_REQUEST, u("accept=yes")), s.command(Command::AcceptCall), s.promptGone(),
                  s.shows("lblUserName", u("韩梅梅(Calls you back)")), s.code(Code::CallConnected, "connected"),
-                 s.shows("lblStatus", u(connected)), s.clockRuns()},
-                usualLimitMs,
+                 s.shows("lblStatus", u(cConnected)), s.clockRuns()},
+                cUsualLimitMs,
                 u("call-incoming"),
                 s.callWindow()},
                {u("Wait for the other side to hang up"),
@@ -245,12 +245,12 @@ Steps offline(const TourScript &s)
                {u("Lose the login during the call"),
                 s.pressMain("btnOnline"),
                 {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=no")), s.order(Command::HangUpCall, Command::UnReg),
-                 s.command(Command::UnReg, param1(ContactBook::ownId)), s.record(resultHungUp, true, true),
+                 s.command(Command::UnReg, param1(ContactBook::cOwnId)), s.record(resultHungUp, true, true),
                  s.windowGone()}},
                {u("Sign in again"),
                 s.pressMain("btnOnline"),
                 {s.asked(MSG_CLIENT_CONNECT_STATUS, u("connected=yes")),
-                 s.command(Command::RegeditUser, param1(ContactBook::ownId))}},
+                 s.command(Command::RegeditUser, param1(ContactBook::cOwnId))}},
            };
 }
 
@@ -260,21 +260,21 @@ Steps killed(const TourScript &s, const TourStage &stage)
            Steps{
                {u("Kill the call process: the call stays on the screen and its clock runs on"),
                 done([process = &stage.process] { process->kill(); }),
-                {s.processes(0), s.shows("lblStatus", u(connected)), s.clockRuns()}},
+                {s.processes(0), s.shows("lblStatus", u(cConnected)), s.clockRuns()}},
                {u("Hang up: the call is over although nobody hears of it"),
                 s.pressCallWindow("HangUp"),
                 {s.record(resultHungUp, true, true), s.windowGone()}},
                {u("Call 李雷: refused while there is no call process"),
                 s.pressContact(answers, "btnCall"),
-                {s.boxSays(u(noProcess))},
-                usualLimitMs,
+                {s.boxSays(u(cNoProcess))},
+                cUsualLimitMs,
                 u("message-no-process"),
                 s.messageBox()},
                {u("Close the message"), s.pressBox("closeBtn"), {s.boxGone()}},
                {u("Start the call process again: the plug-in finds it by itself and registers the user"),
                 [process = &stage.process] { return process->start(); },
-                {s.processes(1), s.command(Command::RegeditUser, param1(ContactBook::ownId))},
-                2 * usualLimitMs},
+                {s.processes(1), s.command(Command::RegeditUser, param1(ContactBook::cOwnId))},
+                2 * cUsualLimitMs},
            };
 }
 
@@ -294,13 +294,13 @@ Steps happenings(const TourScript &s, const TourStage &stage)
         {u("Look at what has happened so far"),
          s.pressMain("happeningsButton"),
          {s.mainShows("HappeningsPanel", true)},
-         usualLimitMs,
+         cUsualLimitMs,
          u("happenings"),
          s.mainWindow()},
         {u("Look for the conferences in it"),
          s.typeInto("editFilter", u("conf")),
          {onlyMatchesShown(stage)},
-         usualLimitMs,
+         cUsualLimitMs,
          u("happenings-conference"),
          s.mainWindow()},
         {u("Close that panel"), s.pressMain("happeningsButton"), {s.mainShows("HappeningsPanel", false)}},

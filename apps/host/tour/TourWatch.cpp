@@ -101,7 +101,7 @@ bool TourWatch::commandedInOrder(const QString &strFirst, const QString &strSeco
 bool TourWatch::quitLine() const
 {
     return std::any_of(m_lines.begin(), m_lines.end(), [](const WireLine &line) {
-        return line.direction == WireLine::FromPlugin && line.text == QLatin1String(Wire::kQuitLine);
+        return line.direction == WireLine::FromPlugin && line.text == QLatin1String(Wire::cQuitLine);
     });
 }
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr qint64 CHUNK = 4096;
+constexpr qint64 cChunk = 4096;
 
 QString upperHex(const QByteArray &digest)
 {
@@ -31,10 +31,10 @@ QString fileDigest(const QString &strPath, QCryptographicHash::Algorithm algorit
         return {};
     }
     QCryptographicHash hash(algorithm);
-    char chunk[CHUNK];
+    char chunk[cChunk];
     qint64 iLeft = file.size();
     while (iLeft > 0) {
-        const qint64 iRead = file.read(chunk, qMin(iLeft, CHUNK));
+        const qint64 iRead = file.read(chunk, qMin(iLeft, cChunk));
         if (iRead <= 0) {
             return {}; // the file became shorter, or is none
         }

@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr int BLOCK_OCTETS = 64;
-constexpr int LENGTH_OCTETS = 8;
+constexpr int cBlockOctets = 64;
+constexpr int cLengthOctets = 8;
 
 uint32_t rotate(uint32_t word, int bits)
 {
@@ -63,12 +63,12 @@ void Sha1::sha1_update(sha1_ctx_t *context, const uint8_t *message, int length)
 {
     context->num_octets_in_msg += static_cast<uint64_t>(std::max(length, 0));
     while (length > 0) {
-        const int taken = std::min(length, BLOCK_OCTETS - context->octets_in_buffer);
+        const int taken = std::min(length, cBlockOctets - context->octets_in_buffer);
         memcpy(context->M + context->octets_in_buffer, message, static_cast<std::size_t>(taken));
         context->octets_in_buffer += taken;
         message += taken;
         length -= taken;
-        if (context->octets_in_buffer == BLOCK_OCTETS) {
+        if (context->octets_in_buffer == cBlockOctets) {
             sha1_core(context->M, context->H);
             context->octets_in_buffer = 0;
         }
@@ -78,13 +78,13 @@ void Sha1::sha1_update(sha1_ctx_t *context, const uint8_t *message, int length)
 void Sha1::sha1_final(sha1_ctx_t *context, uint32_t *digest)
 {
     const uint64_t bits = context->num_octets_in_msg * 8;
-    const uint8_t padding[BLOCK_OCTETS] = {0x80};
+    const uint8_t padding[cBlockOctets] = {0x80};
     const int used = context->octets_in_buffer;
-    const int room = BLOCK_OCTETS - LENGTH_OCTETS;
-    sha1_update(context, padding, used < room ? room - used : BLOCK_OCTETS + room - used);
-    uint8_t length[LENGTH_OCTETS];
+    const int room = cBlockOctets - cLengthOctets;
+    sha1_update(context, padding, used < room ? room - used : cBlockOctets + room - used);
+    uint8_t length[cLengthOctets];
     writeBigEndian(bits, length);
-    sha1_update(context, length, LENGTH_OCTETS);
+    sha1_update(context, length, cLengthOctets);
 
     uint8_t octets[20];
     for (int i = 0; i < 5; ++i) {

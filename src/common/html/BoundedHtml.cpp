@@ -9,21 +9,21 @@
 
 namespace {
 
-const QString FRAGMENT_BEGIN = QStringLiteral("<!--StartFragment-->");
-const QString FRAGMENT_END = QStringLiteral("<!--EndFragment-->");
-const QString OLD_EDITOR_MARK = QStringLiteral("<meta name=\"qrichtext\" content=\"1\" />");
+const QString cFragmentBegin = QStringLiteral("<!--StartFragment-->");
+const QString cFragmentEnd = QStringLiteral("<!--EndFragment-->");
+const QString cOldEditorMark = QStringLiteral("<meta name=\"qrichtext\" content=\"1\" />");
 
 /// What Qt reads of HTML that came from a clipboard: what stands between the two marks of the fragment. The mark of
 /// Qt's own editor, which may stand outside them, is kept, because it changes how Qt reads the rest.
 QString fragmentOf(const QString &strHtml)
 {
-    const int iBegin = strHtml.indexOf(FRAGMENT_BEGIN);
+    const int iBegin = strHtml.indexOf(cFragmentBegin);
     if (iBegin < 0) {
         return strHtml;
     }
-    const int iEnd = strHtml.indexOf(FRAGMENT_END);
+    const int iEnd = strHtml.indexOf(cFragmentEnd);
     const QString strFragment = strHtml.mid(iBegin, iEnd > iBegin ? iEnd - iBegin : -1);
-    return strHtml.contains(OLD_EDITOR_MARK) ? OLD_EDITOR_MARK + strFragment : strFragment;
+    return strHtml.contains(cOldEditorMark) ? cOldEditorMark + strFragment : strFragment;
 }
 
 /// Whether style rules may change the text: by telling how white space counts, that a paragraph is empty or that a
@@ -153,11 +153,11 @@ private:
     // that differs from it in the looks alone, unless there is a style sheet, whose rules could tell the two apart.
     QString writtenName(const QString &strName) const
     {
-        static const QSet<QString> FIXED{"code", "tt", "kbd", "samp"};
+        static const QSet<QString> fixedPitch{"code", "tt", "kbd", "samp"};
         if (m_bAll || m_cost.hasSheets()) {
             return strName;
         }
-        if (FIXED.contains(strName)) {
+        if (fixedPitch.contains(strName)) {
             return QStringLiteral("var");
         }
         return strName == QLatin1String("pre") ? QStringLiteral("center") : strName;
@@ -245,8 +245,8 @@ public:
 private:
     void addTag(const HtmlTag &tag)
     {
-        static const QSet<QString> HIDDEN{"script", "style", "title"};
-        static const QSet<QString> BLOCKS{"address", "blockquote", "body", "center", "dd", "div", "dl", "dt",
+        static const QSet<QString> hidden{"script", "style", "title"};
+        static const QSet<QString> blocks{"address", "blockquote", "body", "center", "dd", "div", "dl", "dt",
                                           "h1",      "h2",         "h3",   "h4",     "h5", "h6",  "hr", "li",
                                           "ol",      "p",          "pre",  "table",  "td", "th",  "tr", "ul"};
         if (!m_strHidden.isEmpty()) {
@@ -255,13 +255,13 @@ private:
             }
             return;
         }
-        if (!tag.bClosing && !tag.bSelfClosing && HIDDEN.contains(tag.strName)) {
+        if (!tag.bClosing && !tag.bSelfClosing && hidden.contains(tag.strName)) {
             m_strHidden = tag.strName;
         } else if (tag.strName == QLatin1String("br") && !tag.bClosing) {
             breakLine();
         } else if (tag.strName == QLatin1String("img") && !tag.bClosing) {
             addUnit(QChar::ObjectReplacementCharacter);
-        } else if (BLOCKS.contains(tag.strName)) {
+        } else if (blocks.contains(tag.strName)) {
             m_bNewBlock = true;
         }
         if (tag.strName == QLatin1String("pre")) {

@@ -15,7 +15,7 @@ class DepthGuard : public QXmlDefaultHandler
 public:
     bool startElement(const QString &, const QString &, const QString &, const QXmlAttributes &) override
     {
-        return ++m_iDepth <= DomText::DEEPEST;
+        return ++m_iDepth <= DomText::cDeepest;
     }
 
     bool endElement(const QString &, const QString &, const QString &) override
@@ -27,7 +27,7 @@ public:
     // Else a text with millions of short references to a long entity would fill the memory.
     bool internalEntityDecl(const QString &, const QString &strValue) override
     {
-        return strValue.size() <= DomText::LONGEST_ENTITY && !strValue.contains(QLatin1Char('&'));
+        return strValue.size() <= DomText::cLongestEntity && !strValue.contains(QLatin1Char('&'));
     }
 
 private:

@@ -5,41 +5,41 @@
 namespace {
 
 // What each thing costs, in microseconds.
-constexpr double INLINE = 3;
-constexpr double BLOCK = 5;
-constexpr double CLOSING = 2;
-constexpr double TABLE = 30;
-constexpr double LIST = 10;
-constexpr double PLACE = 3;
-constexpr double CELL = 8;
-constexpr double SPANNING_CELL = 10;
-constexpr double IMAGE = 15;
+constexpr double cInline = 3;
+constexpr double cBlock = 5;
+constexpr double cClosing = 2;
+constexpr double cTable = 30;
+constexpr double cList = 10;
+constexpr double cPlace = 3;
+constexpr double cCell = 8;
+constexpr double cSpanningCell = 10;
+constexpr double cImage = 15;
 // High, because Qt asks the system for the fixed font each time.
-constexpr double CODE = 300;
-constexpr double NEW_BLOCK_IN_TEXT = 6;
-constexpr double UNIT = 0.03;
-constexpr double ATTRIBUTE_UNIT = 0.2;
-constexpr double ESCAPE_TIMES_UNIT = 0.00004;
-constexpr double INHERITED_UNIT = 0.001;
+constexpr double cCode = 300;
+constexpr double cNewBlockInText = 6;
+constexpr double cUnit = 0.03;
+constexpr double cAttributeUnit = 0.2;
+constexpr double cEscapeTimesUnit = 0.00004;
+constexpr double cInheritedUnit = 0.001;
 // For each element that is open around it.
-constexpr double LEVEL = 0.04;
-constexpr double UNMATCHED_LEVEL = 0.02;
-constexpr double TABLE_LEVEL = 0.25;
-constexpr double SHEET_UNIT_LEVEL = 0.02;
-constexpr int UNITS_OF_EMPTY_SHEET = 2;
-constexpr double SHEET_UNIT_LEVEL_SQUARE = 0.000002;
+constexpr double cLevel = 0.04;
+constexpr double cUnmatchedLevel = 0.02;
+constexpr double cTableLevel = 0.25;
+constexpr double cSheetUnitLevel = 0.02;
+constexpr int cUnitsOfEmptySheet = 2;
+constexpr double cSheetUnitLevelSquare = 0.000002;
 // For each of the same kind that came before it.
-constexpr double FORMAT_BEFORE = 0.07;
-constexpr double ITEM_BEFORE = 0.12;
-constexpr double BLOCK_IN_LIST = 0.003;
-constexpr double TABLE_BEFORE = 0.002;
-constexpr double SIBLING_BEFORE = 0.002;
-constexpr double IMAGE_UNIT_BEFORE = 0.3;
-constexpr double CELL_BEFORE = 0.001;
-constexpr double SPANNED_PLACE = 0.5;
+constexpr double cFormatBefore = 0.07;
+constexpr double cItemBefore = 0.12;
+constexpr double cBlockInList = 0.003;
+constexpr double cTableBefore = 0.002;
+constexpr double cSiblingBefore = 0.002;
+constexpr double cImageUnitBefore = 0.3;
+constexpr double cCellBefore = 0.001;
+constexpr double cSpannedPlace = 0.5;
 
 // The widest cell that Qt makes, in columns.
-constexpr int MOST_COLUMNS_OF_CELL = 20480;
+constexpr int cMostColumnsOfCell = 20480;
 
 /// Whether Qt begins a new block at this character of a text.
 bool isBlockEnd(uint uiCode, bool bKeepsLines)
@@ -58,12 +58,12 @@ int spanOf(const HtmlTag &tag, const char *pKey)
         QString strValue = attribute.value.toString();
         // A number with an entity in it is not read: it may be the largest.
         if (strValue.contains(QLatin1Char('&'))) {
-            return MOST_COLUMNS_OF_CELL;
+            return cMostColumnsOfCell;
         }
         strValue.remove(QLatin1Char('"')).remove(QLatin1Char('\''));
         bool bNumber = false;
         const int iValue = strValue.toInt(&bNumber);
-        iSpan = bNumber ? qBound(iSpan, iValue, MOST_COLUMNS_OF_CELL) : iSpan;
+        iSpan = bNumber ? qBound(iSpan, iValue, cMostColumnsOfCell) : iSpan;
     }
     return iSpan;
 }
@@ -74,7 +74,7 @@ HtmlCost::HtmlCost(int iUnits) : m_listOpen(1), m_dMost(mostMicroseconds(iUnits)
 
 HtmlCost::Kind HtmlCost::kindOf(const QString &strName)
 {
-    static const QHash<QString, Kind> KINDS{
+    static const QHash<QString, Kind> kinds{
         {"p", Paragraph}, {"li", Item},          {"ul", List},      {"ol", List},    {"table", Table},
         {"thead", Rows},  {"tbody", Rows},       {"tfoot", Rows},   {"tr", Row},     {"td", Cell},
         {"th", Cell},     {"caption", Caption},  {"dd", Term},      {"dt", Term},    {"dl", Terms},
@@ -85,7 +85,7 @@ HtmlCost::Kind HtmlCost::kindOf(const QString &strName)
         {"qt", Body},     {"style", Style},      {"script", None},  {"title", None}, {"link", None},
         {"", Nameless},
     };
-    return KINDS.value(strName, Inline);
+    return kinds.value(strName, Inline);
 }
 
 bool HtmlCost::isBlock(Kind kind)
@@ -206,7 +206,7 @@ void HtmlCost::open(const HtmlTag &tag, const QString &strKept, const QString &s
     const Kind kind = kindOf(tag.strName);
     if (kind == Nameless) {
         // Qt makes an empty element of it, and may then count the element that follows it twice.
-        m_dCost += INLINE + LEVEL * m_listOpen.size();
+        m_dCost += cInline + cLevel * m_listOpen.size();
         m_bAfterNameless = true;
         return;
     }
@@ -223,20 +223,20 @@ void HtmlCost::open(const HtmlTag &tag, const QString &strKept, const QString &s
 void HtmlCost::addElement(const Element &element, const HtmlTag &tag)
 {
     const double dDepth = m_listOpen.size();
-    const double dRules = dDepth * (m_iSheetUnits + UNITS_OF_EMPTY_SHEET * m_iSheets);
+    const double dRules = dDepth * (m_iSheetUnits + cUnitsOfEmptySheet * m_iSheets);
     const double dEscapes = element.strKept.count(QLatin1Char('\\'));
-    m_dCost += (isBlock(element.kind) || element.kind == Void ? BLOCK : INLINE) + LEVEL * dDepth +
-               SHEET_UNIT_LEVEL * dRules + SHEET_UNIT_LEVEL_SQUARE * dRules * dRules +
-               ATTRIBUTE_UNIT * element.strKept.size() + ESCAPE_TIMES_UNIT * dEscapes * element.strKept.size() +
-               INHERITED_UNIT * element.iUnits * (1 + m_iSheetUnits);
+    m_dCost += (isBlock(element.kind) || element.kind == Void ? cBlock : cInline) + cLevel * dDepth +
+               cSheetUnitLevel * dRules + cSheetUnitLevelSquare * dRules * dRules +
+               cAttributeUnit * element.strKept.size() + cEscapeTimesUnit * dEscapes * element.strKept.size() +
+               cInheritedUnit * element.iUnits * (1 + m_iSheetUnits);
     if (element.iFormat != 0) {
-        m_dCost += FORMAT_BEFORE * m_formats.size();
+        m_dCost += cFormatBefore * m_formats.size();
     }
     if (m_bSiblings) {
-        m_dCost += SIBLING_BEFORE * ++m_iElements * m_iSheetUnits;
+        m_dCost += cSiblingBefore * ++m_iElements * m_iSheetUnits;
     }
     if ((element.kind == Code || element.kind == Pre) && element.strWritten == element.strName) {
-        m_dCost += CODE;
+        m_dCost += cCode;
     }
     if (!element.bHidden) {
         addShown(element, tag);
@@ -252,14 +252,14 @@ void HtmlCost::addShown(const Element &element, const HtmlTag &tag)
         m_iBlockUnits = 0;
     }
     if (element.kind == Item && !m_listItems.isEmpty()) {
-        m_dCost += ITEM_BEFORE * ++m_listItems.last();
+        m_dCost += cItemBefore * ++m_listItems.last();
     } else if (isBlock(element.kind) && !m_listItems.isEmpty()) {
-        m_dCost += BLOCK_IN_LIST * m_listItems.last();
+        m_dCost += cBlockInList * m_listItems.last();
     }
     if (element.kind == List) {
-        m_dCost += LIST;
+        m_dCost += cList;
     } else if (element.kind == Table) {
-        m_dCost += TABLE + TABLE_BEFORE * ++m_iTables + TABLE_LEVEL * m_listOpen.size();
+        m_dCost += cTable + cTableBefore * ++m_iTables + cTableLevel * m_listOpen.size();
     } else if (element.kind == Row) {
         addRow();
     } else if (element.kind == Cell) {
@@ -285,7 +285,7 @@ void HtmlCost::addRow()
 
 void HtmlCost::addCell(const HtmlTag &tag)
 {
-    m_dCost += CELL;
+    m_dCost += cCell;
     if (m_listGrid.isEmpty()) {
         return;
     }
@@ -299,7 +299,7 @@ void HtmlCost::addCell(const HtmlTag &tag)
     }
     if (iColumns > 1 || iRows > 1) {
         m_bUnevenCells = true;
-        m_dCost += SPANNING_CELL + SPANNED_PLACE * double(iColumns * iRows) + CELL_BEFORE * double(grid.iPlaces);
+        m_dCost += cSpanningCell + cSpannedPlace * double(iColumns * iRows) + cCellBefore * double(grid.iPlaces);
     }
     grid.iColumns = qMax(grid.iColumns, grid.iCells + grid.iSpanned);
     addPlaces(grid);
@@ -308,14 +308,14 @@ void HtmlCost::addCell(const HtmlTag &tag)
 void HtmlCost::addPlaces(Grid &grid)
 {
     const qint64 iPlaces = qMax<qint64>(grid.iRows, 1) * grid.iColumns;
-    m_dCost += PLACE * double(iPlaces - grid.iPlaces);
+    m_dCost += cPlace * double(iPlaces - grid.iPlaces);
     grid.iPlaces = iPlaces;
 }
 
 // For each image Qt lays out its block from the beginning up to the image.
 void HtmlCost::addImage()
 {
-    m_dCost += IMAGE + IMAGE_UNIT_BEFORE * ++m_iBlockUnits;
+    m_dCost += cImage + cImageUnitBefore * ++m_iBlockUnits;
 }
 
 int HtmlCost::indexOfOpen(const QString &strName) const
@@ -335,11 +335,11 @@ QString HtmlCost::writtenName(const QString &strName) const
 int HtmlCost::close(const QString &strName)
 {
     const int i = indexOfOpen(strName);
-    m_dCost += UNMATCHED_LEVEL * m_listOpen.size();
+    m_dCost += cUnmatchedLevel * m_listOpen.size();
     if (i == 0) {
         return 0;
     }
-    m_dCost += CLOSING + LEVEL * m_listOpen.size();
+    m_dCost += cClosing + cLevel * m_listOpen.size();
     m_iSheets += isInStyle() ? 1 : 0;
     const QString strWritten = m_listOpen.at(i).strWritten;
     const int iTags = int(std::count_if(m_listOpen.cbegin() + i, m_listOpen.cend(),
@@ -359,7 +359,7 @@ void HtmlCost::text(const QStringRef &text)
         const uint uiCode = bEntity ? HtmlTags::numericEntity(*text.string(), text.position() + i) : uint(c.unicode());
         iBlocks += isBlockEnd(uiCode, bKeepsLines) ? 1 : 0;
     }
-    m_dCost += UNIT * text.size() + NEW_BLOCK_IN_TEXT * iBlocks;
+    m_dCost += cUnit * text.size() + cNewBlockInText * iBlocks;
     m_iBlockUnits += text.size();
 }
 
@@ -367,7 +367,7 @@ void HtmlCost::addSheet(int iUnits, bool bSiblings)
 {
     m_iSheetUnits += iUnits;
     m_bSiblings = m_bSiblings || bSiblings;
-    m_dCost += ATTRIBUTE_UNIT * iUnits + ESCAPE_TIMES_UNIT * double(iUnits) * iUnits;
+    m_dCost += cAttributeUnit * iUnits + cEscapeTimesUnit * double(iUnits) * iUnits;
 }
 
 bool HtmlCost::isPlainLine() const
@@ -382,7 +382,7 @@ bool HtmlCost::isListFull() const
     const int iLast = m_listOpen.size() - 1;
     const bool bInItem = m_listOpen.at(iLast).kind == Item && iLast > 0;
     return !m_listOpen.last().bHidden && m_listOpen.at(bInItem ? iLast - 1 : iLast).kind == List &&
-           !m_listItems.isEmpty() && m_listItems.last() >= MOST_ITEMS;
+           !m_listItems.isEmpty() && m_listItems.last() >= cMostItems;
 }
 
 QPair<QString, QString> HtmlCost::openList() const

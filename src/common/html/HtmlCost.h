@@ -16,18 +16,17 @@ class HtmlCost
 {
 public:
     /// How many elements may lie in each other; more are too many, whatever they cost.
-    static constexpr int MOST_DEPTH = 256;
-    /// What HTML of so many units may cost in all. A short text gets a share for each of its units, so that it cannot cost
-    /// as much as a long one; the most that any text gets leaves reading a million units below a second. The fuzzers give
-    /// their texts, which are short, no more time than this.
+    static constexpr int cMostDepth = 256;
+    /// What HTML of so many units may cost in all. A short text gets a share for each of its units, so that it cannot
+    /// cost as much as a long one; the most that any text gets leaves reading a million units below a second. The
+    /// fuzzers give their texts, which are short, no more time than this.
     static constexpr double mostMicroseconds(int iUnits)
     {
-        return iUnits < LONG_TEXT ? MOST_AT_ONCE + MOST_FOR_A_UNIT * iUnits
-                                  : MOST_AT_ONCE + MOST_FOR_A_UNIT * LONG_TEXT;
+        return iUnits < cLongText ? cMostAtOnce + cMostForAUnit * iUnits : cMostAtOnce + cMostForAUnit * cLongText;
     }
     /// How many items a list should have at most. Qt passes all items before it for each item of a list, so several
     /// short lists cost less than a long one.
-    static constexpr int MOST_ITEMS = 64;
+    static constexpr int cMostItems = 64;
 
     /// For HTML of so many units.
     explicit HtmlCost(int iUnits);
@@ -46,22 +45,22 @@ public:
     /// ask for the elements that stand before one.
     void addSheet(int iUnits, bool bSiblings);
 
-    bool isTooHigh() const { return m_dCost > m_dMost || m_listOpen.size() > MOST_DEPTH; }
+    bool isTooHigh() const { return m_dCost > m_dMost || m_listOpen.size() > cMostDepth; }
     /// Whether a style element is the innermost open one, so that a text is part of a style sheet.
     bool isInStyle() const { return m_listOpen.last().kind == Style && !m_bAfterNameless; }
     bool hasSheets() const { return m_iSheetUnits > 0; }
     /// Whether a text at this place is shown as part of a line. It is not where it is hidden, where it stands in a
     /// table or list outside their cells or items, and within an element that has attributes which were kept.
     bool isPlainLine() const;
-    /// Whether the list in which an item would open now has MOST_ITEMS items already.
+    /// Whether the list in which an item would open now has cMostItems items already.
     bool isListFull() const;
     /// The name of the innermost open list and its attributes that were kept; both empty when no list is open.
     QPair<QString, QString> openList() const;
 
 private:
-    static constexpr int LONG_TEXT = 45000;
-    static constexpr double MOST_AT_ONCE = 40000;
-    static constexpr double MOST_FOR_A_UNIT = 8;
+    static constexpr int cLongText = 45000;
+    static constexpr double cMostAtOnce = 40000;
+    static constexpr double cMostForAUnit = 8;
 
     enum Kind
     {

@@ -33,8 +33,8 @@ int behindAttribute(const QString &strImage, const AttributeNames &names, int iF
 }
 
 /// Whether `strImage`, which runs from "<img" through the next ">", has three such attributes one behind the other.
-/// This is what the following pattern tells, with "src|type|style" or "src|name|fileid" for NAMES, but in linear time:
-/// <img([^>]*)(NAMES){1,1}="([^>]*)"([^>]*)(NAMES){1,1}="([^>]*)"([^>]*)(NAMES){1,1}="([^>]*)"[^>]*>
+/// This is what the following pattern tells, with "src|type|style" or "src|name|fileid" for cNames, but in linear time:
+/// <img([^>]*)(cNames){1,1}="([^>]*)"([^>]*)(cNames){1,1}="([^>]*)"([^>]*)(cNames){1,1}="([^>]*)"[^>]*>
 bool isImage(const QString &strImage, const AttributeNames &names)
 {
     int i = int(qstrlen("<img"));

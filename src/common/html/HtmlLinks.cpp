@@ -15,7 +15,7 @@ QRegExp linkPattern()
 }
 
 // The length of "https".
-constexpr int LONGEST_SCHEME = 5;
+constexpr int cLongestScheme = 5;
 
 /// Whether the ":" of "://" or the "." of "www." stands at `i`. Every address has one of the two near its beginning.
 bool isMarkOfLink(const QChar *pFirst, int iSize, int i)
@@ -33,7 +33,7 @@ int nextPlaceOfLink(const QString &strText, int iFrom)
 {
     for (int i = iFrom; i < strText.size(); ++i) {
         if (isMarkOfLink(strText.constData(), strText.size(), i)) {
-            return qMax(iFrom, i - LONGEST_SCHEME);
+            return qMax(iFrom, i - cLongestScheme);
         }
     }
     return -1;

@@ -3,13 +3,13 @@
 namespace {
 
 // The length of the longest entity that Qt reads, with its "&" and ";".
-constexpr int LONGEST_ENTITY = 10;
+constexpr int cLongestEntity = 10;
 
 /// The position of the ";" of the entity whose "&" stands at `iAt`, or the end of the text when that comes first. -1
 /// when no entity begins there.
 int endOfEntity(const QString &strHtml, int iAt)
 {
-    const int iMost = qMin(strHtml.size(), iAt + LONGEST_ENTITY);
+    const int iMost = qMin(strHtml.size(), iAt + cLongestEntity);
     for (int i = iAt + 1; i < iMost; ++i) {
         if (strHtml.at(i).isSpace()) {
             return -1;

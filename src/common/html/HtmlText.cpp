@@ -13,7 +13,7 @@ struct Escape
 };
 
 // The percent sign comes first, so that what the other rows write stays intact.
-constexpr Escape URL_ESCAPES[] = {
+constexpr Escape cUrlEscapes[] = {
     {'%', "%25"}, {'&', "%26"}, {'+', "%2B"}, {' ', "%20"}, {'/', "%2F"}, {'?', "%3F"}, {'#', "%23"}, {'=', "%3D"},
 };
 
@@ -55,7 +55,7 @@ QString HtmlText::getDealWithHtmlText(QString strText)
 
 void HtmlText::escapeURLChar(QString &strText)
 {
-    for (const Escape &escape : URL_ESCAPES) {
+    for (const Escape &escape : cUrlEscapes) {
         replaceAll(strText, QString(QLatin1Char(escape.cPlain)), QLatin1String(escape.pEncoded));
     }
 }

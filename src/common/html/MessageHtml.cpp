@@ -15,8 +15,8 @@ namespace {
 // Each text with double spaces is looked for in the whole message. That ends when so many UTF-16 units have been walked
 // over, but not before so many texts have been replaced: an ordinary message has all of them replaced, and one of
 // megabytes does not take long.
-constexpr int MOST_WALKED_UNITS = 100000000;
-constexpr int FEWEST_SPACED_TEXTS = 20;
+constexpr int cMostWalkedUnits = 100000000;
+constexpr int cFewestSpacedTexts = 20;
 
 QString linkColour()
 {
@@ -80,7 +80,7 @@ void keepSpaces(const QStringList &listSpacedText, QString &strResult)
     if (!strResult.contains(QLatin1String("&nbsp;"))) {
         return;
     }
-    int iMost = qMax(FEWEST_SPACED_TEXTS, MOST_WALKED_UNITS / strResult.size());
+    int iMost = qMax(cFewestSpacedTexts, cMostWalkedUnits / strResult.size());
     for (const QString &strText : listSpacedText) {
         if (iMost-- == 0) {
             return;

@@ -13,12 +13,12 @@
 
 namespace {
 
-constexpr int COMMON_SIZE = 32;
+constexpr int cCommonSize = 32;
 
 // No icon is larger than this.
-constexpr int ANY_SIZE = 1000;
+constexpr int cAnySize = 1000;
 
-const QString PNG_SUFFIX = QStringLiteral(".png");
+const QString cPngSuffix = QStringLiteral(".png");
 
 QString builtInIcon(const QString &strName)
 {
@@ -28,11 +28,11 @@ QString builtInIcon(const QString &strName)
 QString iconFile(const QString &strPath, int iSize)
 {
     const QString strSuffix = QFileInfo(strPath).suffix();
-    if (iSize == COMMON_SIZE) {
+    if (iSize == cCommonSize) {
         return strSuffix == QLatin1String("exe") ? builtInIcon(QStringLiteral("exe.png"))
-                                                 : PictureFolders::icons() + strSuffix + PNG_SUFFIX;
+                                                 : PictureFolders::icons() + strSuffix + cPngSuffix;
     }
-    return PictureFolders::icons() + strSuffix + QLatin1String("_x") + QString::number(iSize) + PNG_SUFFIX;
+    return PictureFolders::icons() + strSuffix + QLatin1String("_x") + QString::number(iSize) + cPngSuffix;
 }
 
 // Makes an empty file of that name in a folder of its own, where no other file is in its way. Empty on failure.
@@ -73,7 +73,7 @@ QString cloudIconName(const QString &strName, bool bFolder)
 
 QPixmap FileIcons::getFileIcon(const QString &strPath)
 {
-    const QString strFile = iconFile(strPath, COMMON_SIZE);
+    const QString strFile = iconFile(strPath, cCommonSize);
     if (QFile::exists(strFile)) {
         return readPictureFile(strFile);
     }
@@ -81,7 +81,7 @@ QPixmap FileIcons::getFileIcon(const QString &strPath)
     if (icon.isNull()) {
         return readPictureFile(builtInIcon(QStringLiteral("unknown.png")));
     }
-    const QPixmap picture = icon.pixmap(COMMON_SIZE, COMMON_SIZE);
+    const QPixmap picture = icon.pixmap(cCommonSize, cCommonSize);
     saveIcon(picture, strFile);
     return picture;
 }
@@ -111,14 +111,14 @@ QPixmap FileIcons::extractFileIcon(QString strPath, bool bBig)
         return {};
     }
     const QIcon icon = QFileIconProvider().icon(info);
-    const QSize size = icon.actualSize(QSize(ANY_SIZE, ANY_SIZE));
+    const QSize size = icon.actualSize(QSize(cAnySize, cAnySize));
     return icon.pixmap(bBig ? size : size / 2);
 }
 
 QPixmap FileIcons::getFileImg(QString strName, bool bBig, bool bFolder)
 {
     const QString strFile = PictureFolders::cloudIcons() + cloudIconName(strName, bFolder) +
-                            (bBig ? QStringLiteral("B") : QString()) + PNG_SUFFIX;
+                            (bBig ? QStringLiteral("B") : QString()) + cPngSuffix;
     if (QFile::exists(strFile)) {
         return readPictureFile(strFile);
     }

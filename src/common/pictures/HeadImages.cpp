@@ -17,9 +17,9 @@ namespace {
 
 // A mask cuts without a smooth edge. So the picture is cut at this multiple of its size, and scaling it down makes the
 // edge smooth.
-constexpr int MASK_SCALE = 2;
+constexpr int cMaskScale = 2;
 
-constexpr int BEST_QUALITY = 100;
+constexpr int cBestQuality = 100;
 
 // The column of that width around the middle.
 QPixmap middleColumn(const QPixmap &picture, int iWidth)
@@ -74,7 +74,7 @@ QString HeadImages::getFormattedImage(const QString & /*strUnused*/, const QStri
         QFile::remove(strJpeg);
     }
     QDir().mkpath(strFolder);
-    pixmap.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation).save(strTarget, nullptr, BEST_QUALITY);
+    pixmap.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation).save(strTarget, nullptr, cBestQuality);
     return strTarget;
 }
 
@@ -102,7 +102,7 @@ QPixmap HeadImages::getRoundedImage(const QString &strPath, int iRadius)
     if (picture.isNull()) {
         return {};
     }
-    QBitmap mask(MASK_SCALE * iRadius, MASK_SCALE * iRadius);
+    QBitmap mask(cMaskScale * iRadius, cMaskScale * iRadius);
     mask.fill(Qt::color0);
     QPainter painter(&mask);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
@@ -122,7 +122,7 @@ QPixmap HeadImages::getIrregularPix(const QString &strPath, int iRadius)
     if (shape.isNull()) {
         return {};
     }
-    const QSize area(MASK_SCALE * iRadius, MASK_SCALE * iRadius);
+    const QSize area(cMaskScale * iRadius, cMaskScale * iRadius);
     const QPixmap mask = shape.scaled(area, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     QPixmap head = picture.scaled(mask.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
     // The picture keeps its proportions, so that its size may differ from that of the mask; the mask is then stretched,

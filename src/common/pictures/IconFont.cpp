@@ -12,11 +12,11 @@
 
 namespace {
 
-const QString FONT_FILE = QStringLiteral("Resources/BaseConfig/kelvarimiconfont.ttf");
-constexpr int DEFAULT_PIXEL_SIZE = 12;
+const QString cFontFile = QStringLiteral("Resources/BaseConfig/kelvarimiconfont.ttf");
+constexpr int cDefaultPixelSize = 12;
 
 // Fits every value.
-constexpr int ANY = std::numeric_limits<int>::min();
+constexpr int cAny = std::numeric_limits<int>::min();
 
 struct StatusRow
 {
@@ -27,19 +27,19 @@ struct StatusRow
 
 // The first row that fits counts: the rows of kind 0 stand before those that tell status 0 of other kinds.
 // clang-format off
-constexpr StatusRow STATUS_ROWS[] = {
+constexpr StatusRow cStatusRows[] = {
     {0,   0,   IconGlyph::DesktopOffline},
     {0,   1,   IconGlyph::DesktopOnline},
     {0,   2,   IconGlyph::DesktopAway},
     {0,   3,   IconGlyph::DesktopAway},
     {0,   4,   IconGlyph::DesktopBusy},
-    {0,   ANY, IconGlyph::DesktopOnline},
+    {0,   cAny, IconGlyph::DesktopOnline},
     {1,   0,   IconGlyph::PhoneOffline},
     {2,   0,   IconGlyph::TabletOffline},
-    {ANY, 0,   IconGlyph::OtherDeviceOffline},
-    {1,   ANY, IconGlyph::PhoneOnline},
-    {2,   ANY, IconGlyph::TabletOnline},
-    {ANY, ANY, IconGlyph::OtherDeviceOnline},
+    {cAny, 0,   IconGlyph::OtherDeviceOffline},
+    {1,   cAny, IconGlyph::PhoneOnline},
+    {2,   cAny, IconGlyph::TabletOnline},
+    {cAny, cAny, IconGlyph::OtherDeviceOnline},
 };
 // clang-format on
 
@@ -53,7 +53,7 @@ void borrowLetters(const QString &strFamily)
 
 QFont fontOfFile()
 {
-    const int iFont = QFontDatabase::addApplicationFont(FONT_FILE);
+    const int iFont = QFontDatabase::addApplicationFont(cFontFile);
     const QStringList listFamily = QFontDatabase::applicationFontFamilies(iFont);
     if (listFamily.isEmpty()) {
         return QFont();
@@ -71,7 +71,7 @@ QFont IconFont::getIconFont()
         return *pContext->getIconFont();
     }
     static QFont font = fontOfFile();
-    font.setPixelSize(DEFAULT_PIXEL_SIZE);
+    font.setPixelSize(cDefaultPixelSize);
     font.setStyleStrategy(QFont::PreferAntialias);
     return font;
 }
@@ -98,8 +98,8 @@ QPixmap IconFont::getIconFontPixmap(const QString &strGlyph, const QColor &color
 
 QString IconFont::getStatusTypeName(int iStatus, int iKind, bool /*bUnused*/)
 {
-    for (const StatusRow &row : STATUS_ROWS) {
-        if ((row.m_iKind == iKind || row.m_iKind == ANY) && (row.m_iStatus == iStatus || row.m_iStatus == ANY)) {
+    for (const StatusRow &row : cStatusRows) {
+        if ((row.m_iKind == iKind || row.m_iKind == cAny) && (row.m_iStatus == iStatus || row.m_iStatus == cAny)) {
             return IconGlyph::text(row.m_uGlyph);
         }
     }

@@ -24,7 +24,7 @@ struct Row
 };
 
 /// Every glyph of the font, in the order of the table.
-constexpr Row ALL[] = {
+constexpr Row cAll[] = {
 #define ICON_GLYPH(name, codePoint, shows) {#name, codePoint, shows},
 #include "common/pictures/IconGlyphs.def"
 #undef ICON_GLYPH

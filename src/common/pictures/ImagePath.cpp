@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int HEAD_LENGTH = 8;
+constexpr int cHeadLength = 8;
 
 QByteArray firstBytes(const QString &strPath)
 {
@@ -19,7 +19,7 @@ QByteArray firstBytes(const QString &strPath)
     if (!QFileInfo(strPath).isFile() || !file.open(QIODevice::ReadOnly)) {
         return {};
     }
-    return file.peek(HEAD_LENGTH);
+    return file.peek(cHeadLength);
 }
 
 // The "." of a folder's name is none of the file's.

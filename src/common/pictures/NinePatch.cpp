@@ -8,10 +8,10 @@
 namespace {
 
 // Where a frame picture is cut, from the left as from the top.
-constexpr double FIRST_CUT = 10;
-constexpr double SECOND_CUT = 19;
+constexpr double cFirstCut = 10;
+constexpr double cSecondCut = 19;
 
-constexpr int PART_COUNT = 3;
+constexpr int cPartCount = 3;
 
 struct Stretch
 {
@@ -19,17 +19,17 @@ struct Stretch
     double m_dLength;
 };
 
-using Parts = std::array<Stretch, PART_COUNT>;
+using Parts = std::array<Stretch, cPartCount>;
 
 Parts sourceParts(int iLength)
 {
-    return {{{0, FIRST_CUT}, {FIRST_CUT, SECOND_CUT - FIRST_CUT}, {SECOND_CUT, iLength - SECOND_CUT}}};
+    return {{{0, cFirstCut}, {cFirstCut, cSecondCut - cFirstCut}, {cSecondCut, iLength - cSecondCut}}};
 }
 
 Parts targetParts(int iLength, int iSourceLength)
 {
-    const double dMiddle = iLength - iSourceLength + (SECOND_CUT - FIRST_CUT);
-    return {{{0, FIRST_CUT}, {FIRST_CUT, dMiddle}, {FIRST_CUT + dMiddle, iSourceLength - SECOND_CUT}}};
+    const double dMiddle = iLength - iSourceLength + (cSecondCut - cFirstCut);
+    return {{{0, cFirstCut}, {cFirstCut, dMiddle}, {cFirstCut + dMiddle, iSourceLength - cSecondCut}}};
 }
 
 QRectF partRect(const Stretch &column, const Stretch &row)
@@ -51,8 +51,8 @@ QPixmap NinePatch::drawNinePatch(QSize size, const QPixmap &source)
     const Parts columns = targetParts(size.width(), source.width());
     const Parts rows = targetParts(size.height(), source.height());
     QPainter painter(&frame);
-    for (int iRow = 0; iRow < PART_COUNT; ++iRow) {
-        for (int iColumn = 0; iColumn < PART_COUNT; ++iColumn) {
+    for (int iRow = 0; iRow < cPartCount; ++iRow) {
+        for (int iColumn = 0; iColumn < cPartCount; ++iColumn) {
             const QRectF from = partRect(sourceColumns[iColumn], sourceRows[iRow]);
             const QRectF to = partRect(columns[iColumn], rows[iRow]);
             // A rectangle without room would be taken for the whole picture.

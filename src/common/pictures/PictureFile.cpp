@@ -18,21 +18,21 @@ struct PictureFormat
 };
 
 // No others: a picture of another format may have further pictures in it, whose sizes are not the declared one.
-constexpr PictureFormat PICTURE_FORMATS[] = {
+constexpr PictureFormat cPictureFormats[] = {
     {"png", 10000}, {"jpg", 10000}, {"jpeg", 10000}, {"bmp", 128}, {"gif", 10000}};
 
 // Whether a file of that format and length may declare that size. The height of a bitmap whose rows are stored from the
 // top down is negative.
 bool isAllowed(const QByteArray &format, const QSize &size, qint64 iFileBytes)
 {
-    const auto row = std::find_if(std::begin(PICTURE_FORMATS), std::end(PICTURE_FORMATS),
+    const auto row = std::find_if(std::begin(cPictureFormats), std::end(cPictureFormats),
                                   [&format](const PictureFormat &known) { return format == known.pName; });
-    if (row == std::end(PICTURE_FORMATS)) {
+    if (row == std::end(cPictureFormats)) {
         return false;
     }
     const qint64 iWidth = size.width();
     const qint64 iHeight = qAbs(qint64(size.height()));
-    const qint64 iMost = qMin(iMOST_PICTURE_PIXELS, iFileBytes * row->iMostPixelsPerByte);
+    const qint64 iMost = qMin(cIMOSTPICTUREPIXELS, iFileBytes * row->iMostPixelsPerByte);
     return iWidth > 0 && iHeight > 0 && iWidth * iHeight <= iMost;
 }
 

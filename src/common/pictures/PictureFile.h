@@ -8,7 +8,7 @@
 #include <QString>
 
 /// The most pixels that a picture may have to be read: 64 Mi, 256 MB once decoded.
-constexpr qint64 iMOST_PICTURE_PIXELS = Q_INT64_C(64) * 1024 * 1024;
+constexpr qint64 cIMOSTPICTUREPIXELS = Q_INT64_C(64) * 1024 * 1024;
 
 /// The first image of the picture file at `strPath`. Its content tells the format, not its suffix: png, jpeg, bmp or
 /// gif. Null when there is no such file, or it is a folder, in another format or damaged; also when it declares no

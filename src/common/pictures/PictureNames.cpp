@@ -9,7 +9,7 @@
 namespace {
 
 // Enough for the first bytes that tell the kind of a picture.
-constexpr int HEAD_LENGTH = 8;
+constexpr int cHeadLength = 8;
 
 struct FilterRow
 {
@@ -19,7 +19,7 @@ struct FilterRow
 
 // The first row serves every other suffix too.
 // clang-format off
-constexpr FilterRow FILTER_ROWS[] = {
+constexpr FilterRow cFilterRows[] = {
     {"png",  "PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)"},
     {"jpg",  "JPEG (*.jpg *.jpeg);;PNG (*.png);;BMP (*.bmp)"},
     {"jpeg", "JPEG (*.jpg *.jpeg);;PNG (*.png);;BMP (*.bmp)"},
@@ -37,7 +37,7 @@ QString PictureNames::getImageType(const QString &strPath)
     if (!readPictureFile(strPath).isNull() || !info.isFile() || !file.open(QIODevice::ReadOnly)) {
         return info.suffix();
     }
-    const int iType = PictureFun::getFileType(file.read(HEAD_LENGTH));
+    const int iType = PictureFun::getFileType(file.read(cHeadLength));
     return iType == 0 ? info.suffix() : PictureFun::getSuffixOfType(iType);
 }
 
@@ -49,10 +49,10 @@ QStringList PictureNames::GetPictureSuffix()
 
 QString PictureNames::getPicSaveSuffixes(const QString &strSuffix)
 {
-    for (const FilterRow &row : FILTER_ROWS) {
+    for (const FilterRow &row : cFilterRows) {
         if (strSuffix == QLatin1String(row.m_pSuffix)) {
             return QLatin1String(row.m_pFilter);
         }
     }
-    return QLatin1String(FILTER_ROWS[0].m_pFilter);
+    return QLatin1String(cFilterRows[0].m_pFilter);
 }

@@ -5,11 +5,11 @@
 
 namespace {
 
-const char CHAT_SERVER_HOST[] = "im.kelvar.example";
+const char cChatServerHost[] = "im.kelvar.example";
 
 QString shortAddress(QString strAddress)
 {
-    strAddress.replace(QLatin1String(CHAT_SERVER_HOST), QLatin1String("im"));
+    strAddress.replace(QLatin1String(cChatServerHost), QLatin1String("im"));
     strAddress.replace(QLatin1String("conference"), QLatin1String("c"));
     return strAddress;
 }

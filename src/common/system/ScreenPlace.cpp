@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int VISIBLE = 10;
+constexpr int cVisible = 10;
 
 } // namespace
 
@@ -22,9 +22,9 @@ QPoint ScreenPlace::getAvailableMovePos(QPoint point, QRect rect)
     if (area.isNull()) {
         return point;
     }
-    const int iLeft = area.left() - rect.width() + VISIBLE;
-    const int iTop = area.top() - rect.height() + VISIBLE;
-    const int iRight = area.left() + area.width() - VISIBLE;
-    const int iBottom = area.top() + area.height() - VISIBLE;
+    const int iLeft = area.left() - rect.width() + cVisible;
+    const int iTop = area.top() - rect.height() + cVisible;
+    const int iRight = area.left() + area.width() - cVisible;
+    const int iBottom = area.top() + area.height() - cVisible;
     return {qMin(qMax(iLeft, point.x()), iRight), qMin(qMax(iTop, point.y()), iBottom)};
 }

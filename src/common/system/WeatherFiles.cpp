@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int NODES_OF_FIRST_MAP = 4;
+constexpr int cNodesOfFirstMap = 4;
 
 bool parseFile(QFile &file, QDomDocument &document)
 {
@@ -45,12 +45,12 @@ QList<QMap<QString, QString>> WeatherFiles::parseWeatherXml(const QString &strPa
     int iNode = 0;
     QDomNode node = document.documentElement().firstChild().firstChild();
     for (; !node.isNull(); node = node.nextSibling(), ++iNode) {
-        if (iNode >= NODES_OF_FIRST_MAP) {
+        if (iNode >= cNodesOfFirstMap) {
             listResult.append(childTexts(node));
             continue;
         }
         mapFirst.insert(node.nodeName(), node.toElement().text());
-        if (iNode == NODES_OF_FIRST_MAP - 1) {
+        if (iNode == cNodesOfFirstMap - 1) {
             listResult.append(mapFirst);
         }
     }

@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr ushort FIRST_CHARACTER = 0x4E00;
+constexpr ushort cFirstCharacter = 0x4E00;
 
 } // namespace
 
@@ -20,8 +20,8 @@ QString ChineseSpell::toChineseSpell(QString strText)
             *pNext++ = character.toUpper();
         } else if (code >= '0' && code <= '9') {
             *pNext++ = character;
-        } else if (code >= FIRST_CHARACTER && code - FIRST_CHARACTER < strChineseFirstPY.size()) {
-            *pNext++ = strChineseFirstPY.at(code - FIRST_CHARACTER);
+        } else if (code >= cFirstCharacter && code - cFirstCharacter < strChineseFirstPY.size()) {
+            *pNext++ = strChineseFirstPY.at(code - cFirstCharacter);
         }
     }
     strResult.truncate(static_cast<int>(pNext - strResult.constData()));

@@ -12,11 +12,11 @@ using SurrogatePairs::before;
 using SurrogatePairs::isPairAt;
 using SurrogatePairs::unitsAt;
 
-constexpr int LINE_SLACK = 5;
-constexpr int HEIGHT_SLACK = 2;
-constexpr int DOTS_REPLACE = 2;
+constexpr int cLineSlack = 5;
+constexpr int cHeightSlack = 2;
+constexpr int cDotsReplace = 2;
 // A longer text is never measured whole: the width of millions of characters does not fit into a number.
-constexpr int MEASURED_WHOLE = 10000;
+constexpr int cMeasuredWhole = 10000;
 
 QString dots()
 {
@@ -53,7 +53,7 @@ int fittingUnits(const QFontMetrics &metrics, const QString &strText, int iStart
 
 bool fitsWhole(const QFontMetrics &metrics, const QString &strText, int iWidth)
 {
-    return strText.size() <= MEASURED_WHOLE ? metrics.horizontalAdvance(strText) <= iWidth
+    return strText.size() <= cMeasuredWhole ? metrics.horizontalAdvance(strText) <= iWidth
                                             : fittingUnits(metrics, strText, 0, iWidth) == strText.size();
 }
 
@@ -74,7 +74,7 @@ QStringList fittingLines(const QFontMetrics &metrics, const QString &strText, in
         QString strLine = strText.mid(iStart, fittingLength(metrics, strText, iStart, iWidth));
         iStart += strLine.size();
         if (listLine.size() + 1 == iMaxLines) {
-            for (int i = 0; i < DOTS_REPLACE; ++i) {
+            for (int i = 0; i < cDotsReplace; ++i) {
                 strLine.truncate(before(strLine, strLine.size()));
             }
             listLine.append(strLine + dots());
@@ -150,11 +150,11 @@ bool LabelText::stringFormatWithControl(QString strText, QWidget *pLabel, QStrin
     const int iWidth = pLabel->rect().width();
     if (fitsWhole(metrics, strText, iWidth)) {
         strOut = strText;
-        fixHeight(pLabel, metrics.height() + HEIGHT_SLACK);
+        fixHeight(pLabel, metrics.height() + cHeightSlack);
         return false;
     }
-    const QStringList listLine = fittingLines(metrics, strText, iWidth - LINE_SLACK, iMaxLines);
+    const QStringList listLine = fittingLines(metrics, strText, iWidth - cLineSlack, iMaxLines);
     strOut = listLine.join(QLatin1Char('\n'));
-    fixHeight(pLabel, qint64(metrics.height()) * listLine.size() + HEIGHT_SLACK);
+    fixHeight(pLabel, qint64(metrics.height()) * listLine.size() + cHeightSlack);
     return true;
 }

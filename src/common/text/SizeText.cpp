@@ -4,11 +4,11 @@
 
 namespace {
 
-constexpr qint64 KIB = 1024;
-constexpr qint64 MIB = 1024 * KIB;
-constexpr qint64 GIB = 1024 * MIB;
-constexpr qint64 GREATEST_SPEED = 15 * MIB;
-constexpr qint64 GREATEST = std::numeric_limits<qint64>::max();
+constexpr qint64 cKib = 1024;
+constexpr qint64 cMib = 1024 * cKib;
+constexpr qint64 cGib = 1024 * cMib;
+constexpr qint64 cGreatestSpeed = 15 * cMib;
+constexpr qint64 cGreatest = std::numeric_limits<qint64>::max();
 
 QString inUnits(qint64 iBytes, qint64 iUnit, const QString &strUnit)
 {
@@ -30,16 +30,16 @@ QString withOneDecimal(qint64 iSpeed, qint64 iUnit, const QString &strUnit)
 QString SizeText::fileSizeConvert(qint64 iBytes)
 {
     // From 999 units on, a number of three digits may be written with an exponent, so the next unit is taken.
-    if (iBytes >= GIB) {
-        return inUnits(iBytes, GIB, QStringLiteral("GB"));
+    if (iBytes >= cGib) {
+        return inUnits(iBytes, cGib, QStringLiteral("GB"));
     }
-    if (iBytes >= MIB) {
-        return iBytes / MIB < 999 ? inUnits(iBytes, MIB, QStringLiteral("MB")) : oneUnit(QStringLiteral("GB"));
+    if (iBytes >= cMib) {
+        return iBytes / cMib < 999 ? inUnits(iBytes, cMib, QStringLiteral("MB")) : oneUnit(QStringLiteral("GB"));
     }
-    if (iBytes < KIB) {
+    if (iBytes < cKib) {
         return QString::number(iBytes) + QLatin1Char('B');
     }
-    return iBytes / KIB < 999 ? inUnits(iBytes, KIB, QStringLiteral("KB")) : oneUnit(QStringLiteral("MB"));
+    return iBytes / cKib < 999 ? inUnits(iBytes, cKib, QStringLiteral("KB")) : oneUnit(QStringLiteral("MB"));
 }
 
 QString SizeText::speedConvert(unsigned long &iBytes, unsigned long &iSeconds)
@@ -47,7 +47,7 @@ QString SizeText::speedConvert(unsigned long &iBytes, unsigned long &iSeconds)
     if (iSeconds == 0) {
         return {};
     }
-    return fileSizeConvert(qint64(qMin<quint64>(iBytes / iSeconds, GREATEST))) + QStringLiteral("/s");
+    return fileSizeConvert(qint64(qMin<quint64>(iBytes / iSeconds, cGreatest))) + QStringLiteral("/s");
 }
 
 qint64 SizeText::getSpeed(qint64 iStart, qint64 iEnd, qint64 iBytes)
@@ -57,17 +57,17 @@ qint64 SizeText::getSpeed(qint64 iStart, qint64 iEnd, qint64 iBytes)
     }
     using Exact = long double; // holds every 64-bit number, so that no product or difference overflows
     const Exact speed = Exact(iBytes) * 1000 / (Exact(iEnd) - Exact(iStart));
-    return qint64(qBound(Exact(-GREATEST), speed, Exact(GREATEST_SPEED)));
+    return qint64(qBound(Exact(-cGreatest), speed, Exact(cGreatestSpeed)));
 }
 
 QString SizeText::getSpeedString(qint64 iStart, qint64 iEnd, qint64 iBytes)
 {
     const qint64 iSpeed = getSpeed(iStart, iEnd, iBytes);
-    if (iSpeed >= MIB) {
-        return withOneDecimal(iSpeed, MIB, QStringLiteral("MB/S"));
+    if (iSpeed >= cMib) {
+        return withOneDecimal(iSpeed, cMib, QStringLiteral("MB/S"));
     }
-    if (iSpeed < KIB) {
+    if (iSpeed < cKib) {
         return QString::number(double(iSpeed), 'g') + QStringLiteral("B/S");
     }
-    return withOneDecimal(iSpeed, KIB, QStringLiteral("KB/S"));
+    return withOneDecimal(iSpeed, cKib, QStringLiteral("KB/S"));
 }

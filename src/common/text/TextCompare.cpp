@@ -11,14 +11,14 @@ struct SortRange
     int increment; ///< added behind the multiplication
 };
 
-constexpr SortRange SORT_RANGES[] = {
+constexpr SortRange cSortRanges[] = {
     {'/', 1, 0},   {'9', 1, 18},   {'@', 1, -10}, {'Z', 2, -53},
     {'`', 1, -36}, {'z', 2, -118}, {127, 1, -62}, {0xFFFF, 1, 0},
 };
 
 QChar sortUnit(QChar unit)
 {
-    const SortRange *pRange = SORT_RANGES;
+    const SortRange *pRange = cSortRanges;
     while (unit.unicode() > pRange->last) {
         ++pRange;
     }

@@ -27,7 +27,7 @@ public:
     {
         QString strText;
         for (int i = below(40); i > 0; --i) {
-            strText += below(4) ? pick(PIECES) : runs();
+            strText += below(4) ? pick(cPieces) : runs();
         }
         return strText;
     }
@@ -40,7 +40,7 @@ private:
     {
         QString strText;
         for (int i = below(6); i >= 0; --i) {
-            strText += pick(WORDS);
+            strText += pick(cWords);
         }
         return strText;
     }
@@ -49,7 +49,7 @@ private:
     {
         QString strTag = "<img";
         for (int i = below(6); i >= 0; --i) {
-            strTag += " " + pick(NAMES) + "=\"" + pick(VALUES) + "\"";
+            strTag += " " + pick(cNames) + "=\"" + pick(cValues) + "\"";
         }
         return strTag + pick({"/>", " />", ">"});
     }
@@ -78,25 +78,25 @@ private:
         return strText;
     }
 
-    static inline const QStringList WORDS{"hello",       " ",           "  ",           "   ",
-                                          "中文",        "&nbsp;",      "&nbsp;&nbsp;", "&lt;",
-                                          "www.a.b",     "WWW.C.d/e?f", "http://x.y",   "HTTPS://z",
-                                          "ftp://h/i#j", "www.",        "http:/",       "http://www.k.com&amp;m=1"};
-    static inline const QStringList NAMES{"src",      "type",       "style",     "name",  "fileid",
-                                          "sequence", "trueheight", "truewidth", "x-src", "alt"};
-    static inline const QStringList VALUES{"",
-                                           "a.png",
-                                           "file:///d/e.png",
-                                           "Emotion/1.gif",
-                                           "downagain.png",
-                                           "x/failed.png",
-                                           "7",
-                                           "http://q.r/s.jpg",
-                                           "c d.png",
-                                           "t&amp;u"};
-    static inline const QStringList PIECES{"<",     ">",      "<p>",     "</p>",    "<body>", "</body>",  "<html>",
-                                           "<img ", "\"",     "src=\"",  "type=\"", "/>",     "style=\"", "name=\"",
-                                           "\n",    "<span>", "</span>", "<br>",    "&",      "=",        "fileid=\""};
+    static inline const QStringList cWords{"hello",       " ",           "  ",           "   ",
+                                           "中文",        "&nbsp;",      "&nbsp;&nbsp;", "&lt;",
+                                           "www.a.b",     "WWW.C.d/e?f", "http://x.y",   "HTTPS://z",
+                                           "ftp://h/i#j", "www.",        "http:/",       "http://www.k.com&amp;m=1"};
+    static inline const QStringList cNames{"src",      "type",       "style",     "name",  "fileid",
+                                           "sequence", "trueheight", "truewidth", "x-src", "alt"};
+    static inline const QStringList cValues{"",
+                                            "a.png",
+                                            "file:///d/e.png",
+                                            "Emotion/1.gif",
+                                            "downagain.png",
+                                            "x/failed.png",
+                                            "7",
+                                            "http://q.r/s.jpg",
+                                            "c d.png",
+                                            "t&amp;u"};
+    static inline const QStringList cPieces{"<",     ">",      "<p>",     "</p>",    "<body>", "</body>",  "<html>",
+                                            "<img ", "\"",     "src=\"",  "type=\"", "/>",     "style=\"", "name=\"",
+                                            "\n",    "<span>", "</span>", "<br>",    "&",      "=",        "fileid=\""};
 
     QRandomGenerator m_random;
 };

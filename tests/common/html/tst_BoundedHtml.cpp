@@ -67,7 +67,7 @@ private slots:
 
     void longListsAreCut()
     {
-        const int iItems = 2 * HtmlCost::MOST_ITEMS + 1;
+        const int iItems = 2 * HtmlCost::cMostItems + 1;
         const QString strLean = lean("<ul>" + many("<li>a</li>", iItems) + "</ul>");
         QCOMPARE(strLean.count("<ul>"), 3);
         QCOMPARE(strLean.count("<li>"), iItems);
@@ -80,7 +80,7 @@ private slots:
         const auto row = [](const char *pName, const QString &strHtml, bool bLean) {
             QTest::newRow(pName) << strHtml << bLean;
         };
-        const int iDeepest = HtmlCost::MOST_DEPTH - 1;
+        const int iDeepest = HtmlCost::cMostDepth - 1;
         row("deepest", many("<b>", iDeepest), true);
         row("one deeper", many("<b>", iDeepest + 1), false);
         row("closed ones do not add up", many("<b></b>", 10000), true);

@@ -57,10 +57,10 @@ private slots:
         QTest::newRow("entities that multiply") << multiplied(20);
         QTest::newRow("two levels of entities") << multiplied(1);
         QTest::newRow("entities in disguise") << "<!DOCTYPE a [<!ENTITY b 'c'><!ENTITY d '&#38;b;'>]><a>&d;</a>";
-        QTest::newRow("an entity too long") << declared(DomText::LONGEST_ENTITY + 1, 1);
+        QTest::newRow("an entity too long") << declared(DomText::cLongestEntity + 1, 1);
         QTest::newRow("a long entity millions of times") << declared(4000, 2000000);
         QTest::newRow("in an attribute") << declared(4000, 2000000).replace("<a>", "<a b='").replace("</a>", "'/>");
-        QTest::newRow("one too deep") << nested(DomText::DEEPEST + 1);
+        QTest::newRow("one too deep") << nested(DomText::cDeepest + 1);
         QTest::newRow("bottomless") << QString("<a>").repeated(1000000);
         QTest::newRow("bottomless behind a comment") << "<r><!--</a></a>-->" + nested(100000) + "</r>";
     }
@@ -76,14 +76,14 @@ private slots:
     void shortEntitiesAreRead()
     {
         QDomDocument document;
-        QVERIFY(DomText::parse(declared(DomText::LONGEST_ENTITY, 2), document));
-        QCOMPARE(document.documentElement().text(), QString(2 * DomText::LONGEST_ENTITY, 'x'));
+        QVERIFY(DomText::parse(declared(DomText::cLongestEntity, 2), document));
+        QCOMPARE(document.documentElement().text(), QString(2 * DomText::cLongestEntity, 'x'));
     }
 
     void theDeepestTreeStands()
     {
         QDomDocument document;
-        QVERIFY(DomText::parse(nested(DomText::DEEPEST), document));
+        QVERIFY(DomText::parse(nested(DomText::cDeepest), document));
         QVERIFY(!document.toString(-1).isEmpty());
     }
 };

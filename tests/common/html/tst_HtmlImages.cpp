@@ -10,7 +10,7 @@
 
 namespace {
 
-const QString FOLDER = "/data/u1";
+const QString cFolder = "/data/u1";
 
 QString inBody(const QString &strHtml)
 {
@@ -57,7 +57,7 @@ QStringList pathsStepByStep(const QString &strHtml)
         const QString strSrc = image.attribute("src");
         if (!strSrc.isEmpty() && !strSrc.contains("Emotion") && !strSrc.contains("failed.png") &&
             !strSrc.contains("downagain.png")) {
-            listPath.append(FOLDER + "/picRec/" + strSrc.mid(strSrc.lastIndexOf('/') + 1));
+            listPath.append(cFolder + "/picRec/" + strSrc.mid(strSrc.lastIndexOf('/') + 1));
         }
     }
     return listPath;
@@ -87,7 +87,7 @@ class tst_HtmlImages : public QObject
 private slots:
     void init()
     {
-        SystemSetData::instance()->m_strUserFolder = FOLDER;
+        SystemSetData::instance()->m_strUserFolder = cFolder;
         m_context.setSystemSetData(SystemSetData::instance());
         SharedContext::setCommonData(&m_context);
     }
@@ -144,7 +144,7 @@ private slots:
         QFETCH(QStringList, names);
         QStringList listPath;
         for (const QString &strName : names) {
-            listPath.append(FOLDER + "/picRec/" + strName);
+            listPath.append(cFolder + "/picRec/" + strName);
         }
         QCOMPARE(paths(html), listPath);
         QCOMPARE(pathsStepByStep(html), listPath);
@@ -163,7 +163,7 @@ private slots:
         QTest::newRow("a relative folder") << "data/u1" << QDir::currentPath() + "/data/u1/picRec/a.png";
         QTest::newRow("a folder above") << "/data/../u1"
                                         << "/u1/picRec/a.png";
-        QTest::newRow("a slash at the end") << FOLDER + "/" << FOLDER + "/picRec/a.png";
+        QTest::newRow("a slash at the end") << cFolder + "/" << cFolder + "/picRec/a.png";
     }
     void pathsAreAbsolute()
     {

@@ -103,9 +103,9 @@ private slots:
 
     void tensOfThousandsOfLinksAreConverted()
     {
-        constexpr int LINKS = 100000;
-        const QString strText = converted(QString("http://a.bc ").repeated(LINKS));
-        QCOMPARE(strText.count("</a>"), LINKS);
+        constexpr int links = 100000;
+        const QString strText = converted(QString("http://a.bc ").repeated(links));
+        QCOMPARE(strText.count("</a>"), links);
     }
 
     void oneAddressOfAMillionCharacters()

@@ -11,7 +11,7 @@
 
 namespace {
 
-const QString GREEN = "#33af56";
+const QString cGreen = "#33af56";
 
 QString inDocument(const QString &strParagraphs)
 {
@@ -53,7 +53,7 @@ QString convertedStepByStep(const QString &strBody, bool bReplace)
             }
             const QString strOwn = node.toElement().attribute("style");
             if (strStyle.isEmpty() && !strOwn.isEmpty()) {
-                strStyle = styled(QString(strOwn + "color: @UINT_COLOR@;").replace("@UINT_COLOR@", GREEN));
+                strStyle = styled(QString(strOwn + "color: @UINT_COLOR@;").replace("@UINT_COLOR@", cGreen));
             }
             const QDomNode first = node.firstChild();
             const QString strText = first.isElement() ? first.toElement().text() : first.nodeValue();
@@ -84,7 +84,7 @@ private slots:
         const auto row = [](const char *pName, const QString &strBody, const QString &strExpected) {
             QTest::newRow(pName) << strBody << strExpected;
         };
-        const QString strBlue = styled("color:blue;color: " + GREEN + ";");
+        const QString strBlue = styled("color:blue;color: " + cGreen + ";");
         row("empty", "", "");
         row("text", "hello", "hello");
         row("a link in a fragment has no style", "www.a", link("www.a"));
@@ -114,14 +114,14 @@ private slots:
         row("broken markup goes without the colour", inDocument("<p><span style=\"x\">www.a</p>"),
             "<p><span style=\"x\">" + link("www.a") + "</p>");
         row("the mark within the style", inDocument("<p><span style=\"@UINT_COLOR@;\">www.a</span></p>"),
-            "<p><span style=\"@UINT_COLOR@;\">" + link("www.a", styled(GREEN + ";color: " + GREEN + ";")) +
+            "<p><span style=\"@UINT_COLOR@;\">" + link("www.a", styled(cGreen + ";color: " + cGreen + ";")) +
                 "</span></p>");
         row("a document as Qt writes it",
             "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.0//EN\" \"http://www.w3.org/TR/REC-html40/strict.dtd\">\n"
             "<html><head><meta name=\"qrichtext\" content=\"1\" /></head><body style=\" font-size:9pt;\">\n"
             "<p style=\" margin:0px;\"><span style=\" color:blue;\">www.a</span></p></body></html>",
             "<p style=\" margin:0px;\"><span style=\" color:blue;\">" +
-                link("www.a", styled(" color:blue;color: " + GREEN + ";")) + "</span></p>");
+                link("www.a", styled(" color:blue;color: " + cGreen + ";")) + "</span></p>");
         row("spaces are kept", inDocument("<p><span>a  b   c</span></p>"),
             "<p><span>a&nbsp;&nbsp;b&nbsp;&nbsp; c</span></p>");
         row("an entity beside a span's spaces", inDocument("<p><span>  x</span>www.a&nbsp;  x</p>"),
@@ -153,8 +153,8 @@ private slots:
     {
         QTest::addColumn<QString>("skin");
         QTest::addColumn<QString>("colour");
-        QTest::newRow("green") << "ThemeGreen" << GREEN;
-        QTest::newRow("grey") << "ThemeGrey" << GREEN;
+        QTest::newRow("green") << "ThemeGreen" << cGreen;
+        QTest::newRow("grey") << "ThemeGrey" << cGreen;
         QTest::newRow("another") << "ThemeBlue"
                                  << "#123456";
         QTest::newRow("no name") << ""
@@ -205,21 +205,21 @@ private slots:
 
     void tenMillionSpacesAreKept()
     {
-        constexpr int SPACES = 10000000;
-        const QString strShown = MessageHtml::convertMessageBody(QString(SPACES, ' '), true);
-        QCOMPARE(strShown, QString("&nbsp;").repeated(SPACES));
+        constexpr int spaces = 10000000;
+        const QString strShown = MessageHtml::convertMessageBody(QString(spaces, ' '), true);
+        QCOMPARE(strShown, QString("&nbsp;").repeated(spaces));
     }
 
     void thousandsOfSpansWithSpacesOfTheirOwn()
     {
-        constexpr int SPANS = 20000;
+        constexpr int spans = 20000;
         QString strSpans;
-        for (int i = 0; i < SPANS; ++i) {
+        for (int i = 0; i < spans; ++i) {
             strSpans += QString("<span style=\"x\">%1  www.a</span>").arg(i);
         }
         const QString strShown = MessageHtml::convertMessageBody(inDocument("<p>" + strSpans + "</p>"), true);
-        QCOMPARE(strShown.count(link("www.a", styled("xcolor: " + GREEN + ";"))), SPANS);
-        QCOMPARE(strShown.count("&nbsp;&nbsp;"), SPANS);
+        QCOMPARE(strShown.count(link("www.a", styled("xcolor: " + cGreen + ";"))), spans);
+        QCOMPARE(strShown.count("&nbsp;&nbsp;"), spans);
     }
 };
 

@@ -196,15 +196,15 @@ private slots:
     }
     void noTextTakesMoreThanItsTime()
     {
-        constexpr int UNITS = 1000000;
-        constexpr double MOST_SECONDS = 1.0 * kSanitizerFactor;
+        constexpr int units = 1000000;
+        constexpr double mostSeconds = 1.0 * cSanitizerFactor;
         QFETCH(QString, start);
         QFETCH(QString, repeated);
-        const QString strText = start + repeated.repeated((UNITS - start.size()) / repeated.size());
+        const QString strText = start + repeated.repeated((units - start.size()) / repeated.size());
         const ProcessorClock clock;
         plain(strText);
         const double dSeconds = clock.seconds();
-        QVERIFY2(dSeconds < MOST_SECONDS, qPrintable(QString::number(dSeconds)));
+        QVERIFY2(dSeconds < mostSeconds, qPrintable(QString::number(dSeconds)));
     }
 
     void filesThatAMessageNamesAreNotRead()
@@ -228,20 +228,20 @@ private slots:
         const auto row = [](const char *pName, const QString &strHtml, const QString &strExpected) {
             QTest::newRow(pName) << strHtml << strExpected;
         };
-        constexpr int MANY = 30000;
-        row("nested", QString("<div>").repeated(MANY) + "x" + QString("</div>").repeated(MANY), "x");
-        row("nested tables", QString("<table><tr><td>").repeated(MANY) + "x", "x");
-        row("never closed", QString("<b><i>").repeated(MANY) + "x", "x");
-        row("images", QString("<img src='a'/>").repeated(MANY), QString(MANY, QChar(0xFFFC)));
-        row("style sheets", QString("<style>a{}</style>").repeated(MANY) + "x", "x");
-        row("a long style sheet", "<style>" + QString("a{").repeated(MANY) + "</style>x", "x");
+        constexpr int many = 30000;
+        row("nested", QString("<div>").repeated(many) + "x" + QString("</div>").repeated(many), "x");
+        row("nested tables", QString("<table><tr><td>").repeated(many) + "x", "x");
+        row("never closed", QString("<b><i>").repeated(many) + "x", "x");
+        row("images", QString("<img src='a'/>").repeated(many), QString(many, QChar(0xFFFC)));
+        row("style sheets", QString("<style>a{}</style>").repeated(many) + "x", "x");
+        row("a long style sheet", "<style>" + QString("a{").repeated(many) + "</style>x", "x");
         row("a wide table", "<table><tr>" + QString("<td>").repeated(2000) + QString("<tr><td>").repeated(2000) + "x",
             "x");
         row("cells over many", QString("<tr><td colspan=\"&#50;0000\">").repeated(100) + "x", "x");
-        row("bare angles", QString("<").repeated(MANY), "");
+        row("bare angles", QString("<").repeated(many), "");
         row("image beginnings", QString("<img ").repeated(16000), QString(QChar(0xFFFC)));
-        row("paragraphs stay", QString("<p>a<br>b</p>").repeated(MANY), QString("a\nb\n").repeated(MANY).chopped(1));
-        row("entities stay", QString("<p>&lt;</p>").repeated(MANY), QString("<\n").repeated(MANY).chopped(1));
+        row("paragraphs stay", QString("<p>a<br>b</p>").repeated(many), QString("a\nb\n").repeated(many).chopped(1));
+        row("entities stay", QString("<p>&lt;</p>").repeated(many), QString("<\n").repeated(many).chopped(1));
     }
     void hostileHtmlGivesItsText()
     {

@@ -7,18 +7,18 @@
 #include <QList>
 #include <QString>
 
-inline const QString LOG = QStringLiteral("client.log");
+inline const QString cLog = QStringLiteral("client.log");
 
 /// The file name of a numbered backup.
 inline QString backup(int number)
 {
-    return LOG + '.' + QString::number(number);
+    return cLog + '.' + QString::number(number);
 }
 
 /// The lines of the log file, without their line feeds.
 inline QList<QByteArray> lines()
 {
-    QList<QByteArray> all = readBytes(LOG).split('\n');
+    QList<QByteArray> all = readBytes(cLog).split('\n');
     all.removeLast();
     return all;
 }

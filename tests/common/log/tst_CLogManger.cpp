@@ -40,7 +40,7 @@ struct Host
                 logger.flush();
                 return readBytes(logFile).count('\n') >= count;
             },
-            kPatienceMs);
+            cPatienceMs);
         if (!written) {
             return {QStringLiteral("too few lines")};
         }

@@ -21,7 +21,7 @@ std::atomic<long> restNanoseconds{0};
 QStringList messages()
 {
     QStringList all;
-    const QStringList lines = QString::fromUtf8(readBytes(LOG)).split('\n');
+    const QStringList lines = QString::fromUtf8(readBytes(cLog)).split('\n');
     for (const QString &line : lines) {
         if (!line.isEmpty()) {
             all.append(line.section("]: ", 1));
@@ -66,12 +66,12 @@ public:
     {
         thread.start();
         thread.printLog(CustomLog::Debug, {}, "before");
-        const bool waits = QTest::qWaitFor([this] { return hasWritten(1) && sleeps(); }, kPatienceMs);
+        const bool waits = QTest::qWaitFor([this] { return hasWritten(1) && sleeps(); }, cPatienceMs);
         thread.stop();
         return waits;
     }
 
-    CustomLogger logger{LOG};
+    CustomLogger logger{cLog};
     CLogThread thread;
 
 private:
@@ -96,7 +96,7 @@ class tst_CLogThread : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { QFile::remove(LOG); }
+    void init() { QFile::remove(cLog); }
 
     void freshRecordIsAnEmptyDebugRecord()
     {
@@ -113,11 +113,11 @@ private slots:
         writer.thread.printLog(CustomLog::Info, "b.cpp:2", "second");
         writer.thread.start();
         writer.thread.printLog(CustomLog::Debug, "c.cpp:3", "third");
-        QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(3), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(3), cPatienceMs);
         QCOMPARE(messages(), (QStringList{"first", "second", "third"}));
-        QVERIFY(readBytes(LOG).contains("[WARN][a.cpp:1]: first\n"));
-        QVERIFY(readBytes(LOG).contains("[INFO][b.cpp:2]: second\n"));
-        QVERIFY(readBytes(LOG).contains("[DEBUG][c.cpp:3]: third\n"));
+        QVERIFY(readBytes(cLog).contains("[WARN][a.cpp:1]: first\n"));
+        QVERIFY(readBytes(cLog).contains("[INFO][b.cpp:2]: second\n"));
+        QVERIFY(readBytes(cLog).contains("[DEBUG][c.cpp:3]: third\n"));
     }
 
     void recordsOfManyThreadsKeepEachThreadsOrder()
@@ -136,7 +136,7 @@ private slots:
         for (const auto &caller : callers) {
             QVERIFY(caller->wait());
         }
-        QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(2000), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(2000), cPatienceMs);
         const QStringList all = messages();
         QCOMPARE(all.size(), 2000);
         for (int caller = 0; caller < 4; ++caller) {
@@ -156,8 +156,8 @@ private slots:
         while (QDateTime::currentDateTime() <= queued) {
         }
         writer.thread.start();
-        QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(1), kPatienceMs);
-        QVERIFY(QDateTime::fromString(QString::fromLatin1(readBytes(LOG).mid(1, 23)), "yyyy-MM-dd hh:mm:ss.zzz") >
+        QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(1), cPatienceMs);
+        QVERIFY(QDateTime::fromString(QString::fromLatin1(readBytes(cLog).mid(1, 23)), "yyyy-MM-dd hh:mm:ss.zzz") >
                 queued);
     }
 
@@ -168,11 +168,11 @@ private slots:
         QCOMPARE(writer.thread.getCustomLogger(), nullptr);
         writer.thread.printLog(CustomLog::Debug, {}, "lost");
         writer.thread.start();
-        QTRY_VERIFY_WITH_TIMEOUT(writer.sleeps(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(writer.sleeps(), cPatienceMs);
         writer.thread.setCustomLogger(&writer.logger);
         QCOMPARE(writer.thread.getCustomLogger(), &writer.logger);
         writer.thread.printLog(CustomLog::Debug, {}, "kept");
-        QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(1), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(1), cPatienceMs);
         QCOMPARE(messages(), QStringList{"kept"});
     }
 
@@ -216,7 +216,7 @@ private slots:
 
     void queuedRecordsGoWithTheThread()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         {
             CLogThread thread;
             thread.setCustomLogger(&logger);
@@ -236,8 +236,8 @@ private slots:
                 writer.thread.printLog(CustomLog::Debug, {}, "text");
             }
             written += count;
-            QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(written), kPatienceMs);
-            QTRY_VERIFY_WITH_TIMEOUT(writer.sleeps(), kPatienceMs);
+            QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(written), cPatienceMs);
+            QTRY_VERIFY_WITH_TIMEOUT(writer.sleeps(), cPatienceMs);
         };
         // The count goes on from run to run, so it may stand anywhere when this test begins.
         const int atStart = rests;
@@ -259,13 +259,13 @@ private slots:
     {
         const int before = rests;
         for (int run = 0; run < 4; ++run) {
-            QFile::remove(LOG);
+            QFile::remove(cLog);
             Writer writer;
             for (int i = 0; i < 50; ++i) {
                 writer.thread.printLog(CustomLog::Debug, {}, "text");
             }
             writer.thread.start();
-            QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(50), kPatienceMs);
+            QTRY_VERIFY_WITH_TIMEOUT(writer.hasWritten(50), cPatienceMs);
         }
         QVERIFY(rests - before >= 2);
     }

@@ -55,7 +55,7 @@ QVector<FileState> filesAtTheLinesOf(const std::function<void()> &action)
     states.clear();
     const QtMessageHandler before = qInstallMessageHandler(
         [](QtMsgType /*kind*/, const QMessageLogContext & /*context*/, const QString & /*text*/) {
-            states.append({QFile::exists(LOG), isOpen(LOG)});
+            states.append({QFile::exists(cLog), isOpen(cLog)});
         });
     action();
     qInstallMessageHandler(before);
@@ -77,7 +77,7 @@ private slots:
 
     void lifeIsTracedOnTheDebugChannel()
     {
-        const QStringList texts = messagesOf(QtDebugMsg, [] { CustomLogger logger(LOG); });
+        const QStringList texts = messagesOf(QtDebugMsg, [] { CustomLogger logger(cLog); });
         QCOMPARE(texts,
                  (QStringList{QStringLiteral("日志对象构造----------------------------CustomLogger::CustomLogger()."),
                               QStringLiteral("日志对象析构---------------------CustomLogger::~CustomLogger().")}));
@@ -87,8 +87,8 @@ private slots:
     {
         bool openBetween = false;
         const QVector<FileState> seen = filesAtTheLinesOf([&openBetween] {
-            CustomLogger logger(LOG);
-            openBetween = isOpen(LOG);
+            CustomLogger logger(cLog);
+            openBetween = isOpen(cLog);
         });
         QCOMPARE(seen.size(), 2);
         QVERIFY(!seen.at(0).exists && !seen.at(0).open);
@@ -98,7 +98,7 @@ private slots:
 
     void lineHasTimeLevelLocationAndMessage()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         const QDateTime before = QDateTime::currentDateTime();
         logger.printLog(CustomLog::Debug, "VoipWidget.cpp:835", "setmic bMute = 1");
         const QDateTime after = QDateTime::currentDateTime();
@@ -106,7 +106,7 @@ private slots:
         const QRegularExpressionMatch line =
             QRegularExpression("^\\[(\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3})\\]\\[DEBUG\\]"
                                "\\[VoipWidget\\.cpp:835\\]: setmic bMute = 1\n$")
-                .match(QString::fromUtf8(readBytes(LOG)));
+                .match(QString::fromUtf8(readBytes(cLog)));
         QVERIFY(line.hasMatch());
         const QDateTime written = QDateTime::fromString(line.captured(1), "yyyy-MM-dd hh:mm:ss.zzz");
         QVERIFY(written >= before);
@@ -120,11 +120,11 @@ private slots:
             return;
         }
         QCOMPARE(QLocale::system().language(), QLocale::Persian);
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         logger.printLog(CustomLog::Debug, {}, {});
         logger.flush();
         const QRegularExpression line("^\\[[0-9]{4}(-[0-9]{2}){2} [0-9]{2}(:[0-9]{2}){2}\\.[0-9]{3}\\]");
-        QVERIFY(line.match(QString::fromUtf8(readBytes(LOG))).hasMatch());
+        QVERIFY(line.match(QString::fromUtf8(readBytes(cLog))).hasMatch());
     }
 
     void levelTexts_data()
@@ -148,35 +148,35 @@ private slots:
         const auto value = static_cast<CustomLog::LogLevel>(level);
         QCOMPARE(CustomLogger::getLevelString(value), text);
 
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         QVERIFY(logger.isLevelEnabled(value));
         logger.printLog(value, "place", "text");
         logger.flush();
-        QVERIFY(readBytes(LOG).endsWith("][" + text.toLatin1() + "][place]: text\n"));
+        QVERIFY(readBytes(cLog).endsWith("][" + text.toLatin1() + "][place]: text\n"));
     }
 
     void levelBelowTheThresholdIsNotWritten()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         const auto below = static_cast<CustomLog::LogLevel>(-1);
         QVERIFY(!logger.isLevelEnabled(below));
         logger.printLog(below, "place", "text");
         logger.flush();
-        QCOMPARE(readBytes(LOG), QByteArray());
+        QCOMPARE(readBytes(cLog), QByteArray());
     }
 
     void textIsUtf8()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         logger.printLog(CustomLog::Info, "place", QStringLiteral("呼叫中"));
         logger.flush();
-        QVERIFY(readBytes(LOG).startsWith('['));
-        QVERIFY(readBytes(LOG).endsWith(": 呼叫中\n"));
+        QVERIFY(readBytes(cLog).startsWith('['));
+        QVERIFY(readBytes(cLog).endsWith(": 呼叫中\n"));
     }
 
     void lineFeedInAMessageMakesASecondLineWithoutPrefix()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         logger.printLog(CustomLog::Info, "place", "one\ntwo");
         logger.flush();
         QCOMPARE(lines().size(), 2);
@@ -186,41 +186,41 @@ private slots:
 
     void linesReachTheDiskAtAFlushOnly()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         logger.printLog(CustomLog::Info, "place", "text");
-        QCOMPARE(readBytes(LOG), QByteArray());
+        QCOMPARE(readBytes(cLog), QByteArray());
         logger.flush();
         QCOMPARE(lines().size(), 1);
     }
 
     void newTextBeginsOnTheLastByteOfTheOld()
     {
-        QVERIFY(writeFile(LOG, "the last line of an earlier run\n"));
-        CustomLogger logger(LOG);
+        QVERIFY(writeFile(cLog, "the last line of an earlier run\n"));
+        CustomLogger logger(cLog);
         logger.printLog(CustomLog::Info, "place", "text");
         logger.flush();
         QCOMPARE(lines().size(), 1);
-        QVERIFY(readBytes(LOG).startsWith("the last line of an earlier run["));
+        QVERIFY(readBytes(cLog).startsWith("the last line of an earlier run["));
     }
 
     void lastByteIsOverwrittenWhateverItIs()
     {
-        QVERIFY(writeFile(LOG, "x"));
-        CustomLogger logger(LOG);
+        QVERIFY(writeFile(cLog, "x"));
+        CustomLogger logger(cLog);
         logger.printLog(CustomLog::Info, "place", "text");
         logger.flush();
-        QVERIFY(readBytes(LOG).startsWith('['));
+        QVERIFY(readBytes(cLog).startsWith('['));
     }
 
     void textBeginsAtTheStartOfAnEmptyFileWithoutAWarning()
     {
         const QStringList warnings = messagesOf(QtWarningMsg, [] {
-            CustomLogger logger(LOG);
+            CustomLogger logger(cLog);
             logger.printLog(CustomLog::Info, "place", "text");
             logger.flush();
         });
         QCOMPARE(warnings, QStringList());
-        QVERIFY(readBytes(LOG).startsWith('['));
+        QVERIFY(readBytes(cLog).startsWith('['));
     }
 
     void fileThatCannotBeOpenedMakesTheLoggerSilent()
@@ -260,7 +260,7 @@ private slots:
 
     void closedLoggerDropsLinesUntilItIsReopened()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         logger.printLog(CustomLog::Info, "place", "one");
         logger.close();
         QCOMPARE(lines().size(), 1);
@@ -271,57 +271,57 @@ private slots:
         logger.printLog(CustomLog::Info, "place", "two");
         logger.flush();
         QCOMPARE(lines().size(), 1);
-        QVERIFY(readBytes(LOG).contains(": one["));
-        QVERIFY(!readBytes(LOG).contains("lost"));
-        QVERIFY(readBytes(LOG).endsWith(": two\n"));
+        QVERIFY(readBytes(cLog).contains(": one["));
+        QVERIFY(!readBytes(cLog).contains("lost"));
+        QVERIFY(readBytes(cLog).endsWith(": two\n"));
     }
 
     void reopeningAnOpenLogLosesNothing()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         logger.printLog(CustomLog::Info, "place", "one");
         logger.reopen();
         logger.printLog(CustomLog::Info, "place", "two");
         logger.flush();
-        QVERIFY(readBytes(LOG).contains(": one["));
-        QVERIFY(readBytes(LOG).endsWith(": two\n"));
+        QVERIFY(readBytes(cLog).contains(": one["));
+        QVERIFY(readBytes(cLog).endsWith(": two\n"));
     }
 
     void clearEmptiesTheLogAndKeepsBackups()
     {
         QVERIFY(writeFile(backup(1), "old"));
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         logger.printLog(CustomLog::Info, "place", "one");
         logger.clear();
-        QCOMPARE(readBytes(LOG), QByteArray());
+        QCOMPARE(readBytes(cLog), QByteArray());
         logger.printLog(CustomLog::Info, "place", "two");
         logger.flush();
         QCOMPARE(lines().size(), 1);
-        QVERIFY(readBytes(LOG).endsWith(": two\n"));
+        QVERIFY(readBytes(cLog).endsWith(": two\n"));
         QCOMPARE(readBytes(backup(1)), QByteArray("old"));
     }
 
     void unflushedTextDiesWithTheLogger()
     {
         const QStringList warnings = messagesOf(QtWarningMsg, [] {
-            CustomLogger logger(LOG);
+            CustomLogger logger(cLog);
             logger.printLog(CustomLog::Info, "place", "kept");
             logger.flush();
             logger.printLog(CustomLog::Info, "place", "lost");
         });
         QCOMPARE(warnings, QStringList());
-        QVERIFY(readBytes(LOG).endsWith(": kept\n"));
+        QVERIFY(readBytes(cLog).endsWith(": kept\n"));
     }
 
     void fileNameComesWithoutItsFolders()
     {
         QCOMPARE(CustomLogger("/no/such/folder/client.log").getLogFileName(), QStringLiteral("client.log"));
-        QCOMPARE(CustomLogger(LOG).getLogFileName(), LOG);
+        QCOMPARE(CustomLogger(cLog).getLogFileName(), cLog);
     }
 
     void flushesFromAnotherThreadLoseNothing()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         std::atomic<bool> done{false};
         const std::unique_ptr<QThread> writer(QThread::create([&logger, &done] {
             for (int i = 0; i < 3000; ++i) {
@@ -345,7 +345,7 @@ private slots:
     void writingResumesWhenAFullDiskHasRoomAgain()
     {
         std::signal(SIGXFSZ, SIG_IGN);
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         rlimit before{};
         QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
         rlimit full = before;
@@ -355,12 +355,12 @@ private slots:
             logger.printLog(CustomLog::Info, "place", QString(1000, 'x'));
         }
         logger.flush();
-        const qint64 size = QFileInfo(LOG).size();
+        const qint64 size = QFileInfo(cLog).size();
         QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
         QCOMPARE(size, qint64(1000));
         logger.printLog(CustomLog::Info, "place", "room again");
         logger.flush();
-        QVERIFY(readBytes(LOG).endsWith(": room again\n"));
+        QVERIFY(readBytes(cLog).endsWith(": room again\n"));
     }
 };
 

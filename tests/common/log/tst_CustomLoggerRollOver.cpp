@@ -27,11 +27,11 @@ private slots:
     {
         QFETCH(int, kilobytes);
         QFETCH(qint64, size);
-        QFile file(LOG);
+        QFile file(cLog);
         QVERIFY(file.open(QIODevice::WriteOnly));
         QVERIFY(file.resize(size));
         file.close();
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         if (kilobytes > 0) {
             logger.setMaxFileSize(kilobytes);
         }
@@ -41,11 +41,11 @@ private slots:
 
     void limitOfZeroRollsOverAfterEachRecord()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         logger.setMaxFileSize(0);
         logger.printLog(CustomLog::Info, "place", "first");
         logger.printLog(CustomLog::Info, "place", "second");
-        QCOMPARE(readBytes(LOG), QByteArray());
+        QCOMPARE(readBytes(cLog), QByteArray());
         QVERIFY(readBytes(backup(1)).endsWith(": second\n"));
         QVERIFY(readBytes(backup(2)).endsWith(": first\n"));
         QVERIFY(!QFile::exists(backup(3)));
@@ -53,7 +53,7 @@ private slots:
 
     void sizeSeenLagsBehindWhatIsBuffered()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         logger.setMaxFileSize(1);
         logger.printLog(CustomLog::Info, "place", QString(2000, 'x'));
         logger.printLog(CustomLog::Info, "place", QString(2000, 'x'));
@@ -62,7 +62,7 @@ private slots:
         logger.printLog(CustomLog::Info, "place", "last");
         QCOMPARE(readBytes(backup(1)).count('\n'), 3);
         QVERIFY(readBytes(backup(1)).endsWith(": last\n"));
-        QCOMPARE(readBytes(LOG), QByteArray());
+        QCOMPARE(readBytes(cLog), QByteArray());
     }
 
     void rollOverMovesEachBackupOneUp_data()
@@ -80,11 +80,11 @@ private slots:
         for (int i = 1; i <= count + 1; ++i) {
             QVERIFY(writeFile(backup(i), "backup " + QByteArray::number(i)));
         }
-        QVERIFY(writeFile(LOG, "current\n"));
-        CustomLogger logger(LOG);
+        QVERIFY(writeFile(cLog, "current\n"));
+        CustomLogger logger(cLog);
         logger.setMaxBackupIndex(backups);
         logger.rollOver();
-        QCOMPARE(readBytes(LOG), QByteArray());
+        QCOMPARE(readBytes(cLog), QByteArray());
         QCOMPARE(readBytes(backup(1)), QByteArray("current\n"));
         for (int i = 2; i <= count; ++i) {
             QCOMPARE(readBytes(backup(i)), "backup " + QByteArray::number(i - 1));
@@ -94,24 +94,24 @@ private slots:
 
     void withOneBackupOnlyNumberOneIsMade()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         logger.setMaxBackupIndex(1);
         logger.printLog(CustomLog::Info, "place", "first");
         logger.rollOver();
         logger.printLog(CustomLog::Info, "place", "second");
         logger.rollOver();
         QVERIFY(readBytes(backup(1)).endsWith(": second\n"));
-        QCOMPARE(QDir().entryList(QDir::Files), (QStringList{LOG, backup(1)}));
+        QCOMPARE(QDir().entryList(QDir::Files), (QStringList{cLog, backup(1)}));
     }
 
     void withNoBackupsARollOverEmptiesTheLog()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         logger.setMaxBackupIndex(0);
         logger.printLog(CustomLog::Info, "place", "text");
         logger.rollOver();
-        QCOMPARE(QDir().entryList(QDir::Files), QStringList{LOG});
-        QCOMPARE(readBytes(LOG), QByteArray());
+        QCOMPARE(QDir().entryList(QDir::Files), QStringList{cLog});
+        QCOMPARE(readBytes(cLog), QByteArray());
         logger.printLog(CustomLog::Info, "place", "next");
         logger.flush();
         QCOMPARE(lines().size(), 1);
@@ -119,7 +119,7 @@ private slots:
 
     void tenBackupsAreKeptUnlessSet()
     {
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         for (int i = 1; i <= 12; ++i) {
             logger.printLog(CustomLog::Info, "place", QString::number(i));
             logger.rollOver();
@@ -133,7 +133,7 @@ private slots:
     {
         QVERIFY(writeFile(backup(1), "one"));
         QVERIFY(writeFile(backup(3), "three"));
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         logger.setMaxBackupIndex(4);
         logger.rollOver();
         QCOMPARE(readBytes(backup(2)), QByteArray("one"));
@@ -143,23 +143,23 @@ private slots:
 
     void removedFileIsMadeAnewByTheNextRollOver()
     {
-        CustomLogger logger(LOG);
-        QVERIFY(QFile::remove(LOG));
+        CustomLogger logger(cLog);
+        QVERIFY(QFile::remove(cLog));
         logger.printLog(CustomLog::Info, "place", "lost");
         logger.flush();
-        QVERIFY(!QFile::exists(LOG));
+        QVERIFY(!QFile::exists(cLog));
         logger.rollOver();
         logger.printLog(CustomLog::Info, "place", "kept");
         logger.flush();
         QVERIFY(!QFile::exists(backup(1)));
         QCOMPARE(lines().size(), 1);
-        QVERIFY(readBytes(LOG).endsWith(": kept\n"));
+        QVERIFY(readBytes(cLog).endsWith(": kept\n"));
     }
 
     void failedRenameIsIgnored()
     {
         QVERIFY(QDir().mkpath(backup(1) + "/occupied"));
-        CustomLogger logger(LOG);
+        CustomLogger logger(cLog);
         logger.setMaxBackupIndex(1);
         logger.printLog(CustomLog::Info, "place", "lost");
         logger.rollOver();
@@ -168,7 +168,7 @@ private slots:
         QVERIFY(QDir(backup(1) + "/occupied").exists());
         QVERIFY(QDir(backup(1)).removeRecursively());
         QCOMPARE(lines().size(), 1);
-        QVERIFY(readBytes(LOG).endsWith(": kept\n"));
+        QVERIFY(readBytes(cLog).endsWith(": kept\n"));
     }
 };
 

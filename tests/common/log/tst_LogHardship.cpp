@@ -22,7 +22,7 @@ private slots:
     void init()
     {
         m_pFolder = std::make_unique<QTemporaryDir>();
-        m_strFile = m_pFolder->filePath(LOG);
+        m_strFile = m_pFolder->filePath(cLog);
         m_pMessages = std::make_unique<QtMessages>();
         m_pLogger = std::make_unique<CustomLogger>(m_strFile);
         print(QStringLiteral("before"));
@@ -45,7 +45,7 @@ private slots:
         QCOMPARE(names(), QStringList());
         m_pLogger->rollOver();
         print(QStringLiteral("after"));
-        QCOMPARE(names(), QStringList{LOG});
+        QCOMPARE(names(), QStringList{cLog});
         QCOMPARE(texts(), QStringList{"after"});
     }
 
@@ -69,7 +69,7 @@ private slots:
         m_pLogger->setMaxFileSize(0);
         print(QStringLiteral("in the same file"));
         print(QStringLiteral("again"));
-        QCOMPARE(names(), QStringList{LOG});
+        QCOMPARE(names(), QStringList{cLog});
         // A roll-over opens the same file anew, so that the next line stands directly behind the last one.
         const QByteArray text = readBytes(m_strFile);
         QCOMPARE(text.count("[place]: "), 3);
@@ -160,7 +160,7 @@ private:
     }
     /// The texts of the log's lines, or of a backup's.
 
-    QStringList texts(const QString &strName = LOG) const
+    QStringList texts(const QString &strName = cLog) const
     {
         QStringList all;
         const QList<QByteArray> lines = readBytes(m_pFolder->filePath(strName)).split('\n');

@@ -17,24 +17,24 @@
 
 namespace {
 
-const QString LOG = QStringLiteral("client.log");
-constexpr int CALLERS = 4;
-constexpr int RECORDS = 1500; // of each caller
-constexpr int FILE_KIB = 32;
-constexpr int MOST_BACKUPS = 1000;
+const QString cLog = QStringLiteral("client.log");
+constexpr int cCallers = 4;
+constexpr int cRecords = 1500; // of each caller
+constexpr int cFileKib = 32;
+constexpr int cMostBackups = 1000;
 
 /// The messages of all backups and of the file, oldest first.
 QStringList messages()
 {
     QByteArray text;
     int backups = 0;
-    while (QFile::exists(LOG + QLatin1Char('.') + QString::number(backups + 1))) {
+    while (QFile::exists(cLog + QLatin1Char('.') + QString::number(backups + 1))) {
         ++backups;
     }
     for (int i = backups; i > 0; --i) {
-        text += readBytes(LOG + QLatin1Char('.') + QString::number(i));
+        text += readBytes(cLog + QLatin1Char('.') + QString::number(i));
     }
-    text += readBytes(LOG);
+    text += readBytes(cLog);
     QStringList all;
     const QStringList lines = QString::fromUtf8(text).split('\n', Qt::SkipEmptyParts);
     for (const QString &line : lines) {
@@ -52,9 +52,9 @@ class tst_LogStress : public QObject
 private slots:
     void nothingIsLostWhileTheFileRollsOver()
     {
-        CustomLogger logger(LOG);
-        logger.setMaxFileSize(FILE_KIB);
-        logger.setMaxBackupIndex(MOST_BACKUPS);
+        CustomLogger logger(cLog);
+        logger.setMaxFileSize(cFileKib);
+        logger.setMaxBackupIndex(cMostBackups);
         CLogThread writer;
         CommonData data;
         data.setCustomLogger(&logger);
@@ -64,12 +64,12 @@ private slots:
         CLogManger *log = CLogManger::instance();
         writer.start();
 
-        std::atomic<int> running{CALLERS};
+        std::atomic<int> running{cCallers};
         std::vector<std::thread> callers;
-        callers.reserve(CALLERS);
-        for (int caller = 0; caller < CALLERS; ++caller) {
+        callers.reserve(cCallers);
+        for (int caller = 0; caller < cCallers; ++caller) {
             callers.emplace_back([log, caller, &running] {
-                for (int i = 0; i < RECORDS; ++i) {
+                for (int i = 0; i < cRecords; ++i) {
                     log->printLog(CustomLog::Info, LOG_LOCATION, QStringLiteral("%1:%2").arg(caller).arg(i));
                 }
                 --running;
@@ -78,7 +78,7 @@ private slots:
         // Statements build their text in fields without a lock, so one thread alone makes them.
         int own = 0;
         while (running > 0) {
-            LOG_DEBUG << CALLERS << ":" << own++ << "\n";
+            LOG_DEBUG << cCallers << ":" << own++ << "\n";
             log->flushLog();
             QCOMPARE(writer.getCustomLogger(), &logger);
         }
@@ -98,12 +98,12 @@ private slots:
         logger.close();
         SharedContext::setCommonData(nullptr);
 
-        QVERIFY2(QFile::exists(LOG + QStringLiteral(".1")), "the file has not rolled over");
+        QVERIFY2(QFile::exists(cLog + QStringLiteral(".1")), "the file has not rolled over");
         const QStringList all = messages();
-        QCOMPARE(all.size(), CALLERS * RECORDS + own + 2);
-        for (int caller = 0; caller <= CALLERS; ++caller) {
+        QCOMPARE(all.size(), cCallers * cRecords + own + 2);
+        for (int caller = 0; caller <= cCallers; ++caller) {
             const QStringList ofCaller = all.filter(QRegularExpression(QStringLiteral("^%1:").arg(caller)));
-            QCOMPARE(ofCaller.size(), caller < CALLERS ? RECORDS : own);
+            QCOMPARE(ofCaller.size(), caller < cCallers ? cRecords : own);
             for (int i = 0; i < ofCaller.size(); ++i) {
                 QCOMPARE(ofCaller.at(i), QStringLiteral("%1:%2").arg(caller).arg(i));
             }
@@ -112,14 +112,14 @@ private slots:
 
     void clearingWhileTheWriterWritesTearsNoLine()
     {
-        constexpr int LINES = 3000;
-        constexpr int FEW_BACKUPS = 2;
+        constexpr int lineCount = 3000;
+        constexpr int fewBackups = 2;
         CustomLogger logger(QStringLiteral("cleared.log"));
-        logger.setMaxFileSize(FILE_KIB);
-        logger.setMaxBackupIndex(FEW_BACKUPS);
+        logger.setMaxFileSize(cFileKib);
+        logger.setMaxBackupIndex(fewBackups);
         std::atomic<bool> done{false};
         std::thread writer([&logger, &done] {
-            for (int i = 0; i < LINES; ++i) {
+            for (int i = 0; i < lineCount; ++i) {
                 logger.printLog(CustomLog::Info, QStringLiteral("place"), QStringLiteral("line %1.").arg(i));
             }
             done = true;

@@ -9,7 +9,7 @@
 namespace {
 
 /// Made before main() runs, from texts that must stand by then.
-const QStringList EARLY_TEXTS{strLOG_TRACE,   strLOG_DEBUG,       strLOG_INFO,    strLOG_WARN,
+const QStringList cEarlyTexts{strLOG_TRACE,   strLOG_DEBUG,       strLOG_INFO,    strLOG_WARN,
                               strLOG_ERROR,   strLOG_FATAL,       strHTTP_SPACER, strFIELD_SPACER,
                               strDATA_SPACER, strMAP_DATA_SPACER, STR_EMPTY};
 
@@ -67,7 +67,7 @@ private slots:
 
     void constantsStandDuringStaticInitialisation()
     {
-        QCOMPARE(EARLY_TEXTS,
+        QCOMPARE(cEarlyTexts,
                  (QStringList{"TRACE", "DEBUG", "INFO", "WARN", "ERROR", "FATAL", "&", "|", "#@#", "#$#", ""}));
     }
 

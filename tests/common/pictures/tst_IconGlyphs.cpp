@@ -13,10 +13,10 @@
 
 namespace {
 
-const QString FONT_FILE = QStringLiteral(VOIP_RESOURCES_DIR "/BaseConfig/kelvarimiconfont.ttf");
+const QString cFontFile = QStringLiteral(VOIP_RESOURCES_DIR "/BaseConfig/kelvarimiconfont.ttf");
 
 /// The code points that windows, skins and presence marks show, whatever the table says.
-constexpr ushort EXPECTED[] = {
+constexpr ushort cExpected[] = {
     0xE602, 0xE603, 0xE604, 0xE610, 0xE612, 0xE625, 0xE626, 0xE627, 0xE628, 0xE62C, 0xE62D, 0xE64C,
     0xE64D, 0xE657, 0xE65B, 0xE65C, 0xE667, 0xE669, 0xE66A, 0xE698, 0xE699, 0xE69E, 0xE6A1, 0xE721,
     0xE726, 0xF602, 0xF603, 0xF604, 0xF610, 0xF624, 0xF64C, 0xF64D, 0xF66A, 0xF730, 0xF731,
@@ -24,7 +24,7 @@ constexpr ushort EXPECTED[] = {
 
 QRawFont fontOf(int iPixelSize)
 {
-    return {FONT_FILE, static_cast<qreal>(iPixelSize)};
+    return {cFontFile, static_cast<qreal>(iPixelSize)};
 }
 
 quint32 glyphIndex(const QRawFont &font, ushort codePoint)
@@ -72,7 +72,7 @@ int darkest(const QImage &image)
 void rowsOfExpected()
 {
     QTest::addColumn<ushort>("codePoint");
-    for (const ushort codePoint : EXPECTED) {
+    for (const ushort codePoint : cExpected) {
         QTest::newRow(qPrintable(QString::number(codePoint, 16))) << codePoint;
     }
 }
@@ -86,7 +86,7 @@ class tst_IconGlyphs : public QObject
 private slots:
     void initTestCase()
     {
-        const int iId = QFontDatabase::addApplicationFont(FONT_FILE);
+        const int iId = QFontDatabase::addApplicationFont(cFontFile);
         QCOMPARE(QFontDatabase::applicationFontFamilies(iId), QStringList{QStringLiteral("kelvarimiconfont")});
         m_strFamily = QStringLiteral("kelvarimiconfont");
     }
@@ -95,13 +95,13 @@ private slots:
     {
         QVector<ushort> codePoints;
         QStringList names;
-        for (const IconGlyph::Row &row : IconGlyph::ALL) {
+        for (const IconGlyph::Row &row : IconGlyph::cAll) {
             codePoints << row.codePoint;
             names << QString::fromLatin1(row.pName);
             QVERIFY2(*row.pShows != '\0', row.pName);
         }
         std::sort(codePoints.begin(), codePoints.end());
-        QCOMPARE(codePoints, QVector<ushort>(std::begin(EXPECTED), std::end(EXPECTED)));
+        QCOMPARE(codePoints, QVector<ushort>(std::begin(cExpected), std::end(cExpected)));
         QCOMPARE(names.removeDuplicates(), 0);
     }
 
@@ -115,7 +115,7 @@ private slots:
     void everyGlyphHasItsOwnDrawing()
     {
         QStringList expected;
-        for (const IconGlyph::Row &row : IconGlyph::ALL) {
+        for (const IconGlyph::Row &row : IconGlyph::cAll) {
             expected << QStringLiteral("%1-%2.svg").arg(row.pName, QString::number(row.codePoint, 16).toUpper());
         }
         QStringList drawings = QDir(QStringLiteral(VOIP_ICONS_DIR)).entryList(QDir::Files);
@@ -178,7 +178,7 @@ private slots:
     {
         QTest::addColumn<ushort>("codePoint");
         QTest::addColumn<int>("pixelSize");
-        for (const IconGlyph::Row &row : IconGlyph::ALL) {
+        for (const IconGlyph::Row &row : IconGlyph::cAll) {
             for (const int iPixelSize : {12, 14, 16}) {
                 QTest::newRow(qPrintable(QStringLiteral("%1 at %2").arg(row.pName).arg(iPixelSize)))
                     << row.codePoint << iPixelSize;
@@ -197,7 +197,7 @@ private slots:
     void noTwoLookAlike()
     {
         QVector<QImage> pictures;
-        for (const ushort codePoint : EXPECTED) {
+        for (const ushort codePoint : cExpected) {
             pictures << picture(m_strFamily, codePoint, 32);
         }
         for (int i = 0; i < pictures.size(); ++i) {
@@ -206,7 +206,7 @@ private slots:
                 QVERIFY2(
                     dApart > 30,
                     qPrintable(
-                        QStringLiteral("%1 and %2: %3").arg(EXPECTED[i], 0, 16).arg(EXPECTED[j], 0, 16).arg(dApart)));
+                        QStringLiteral("%1 and %2: %3").arg(cExpected[i], 0, 16).arg(cExpected[j], 0, 16).arg(dApart)));
             }
         }
     }
@@ -216,7 +216,7 @@ private slots:
     {
         const QRawFont font = fontOf(16);
         for (uint code = 1; code <= 0xFFFF; ++code) {
-            const bool bExpected = std::binary_search(std::begin(EXPECTED), std::end(EXPECTED), code);
+            const bool bExpected = std::binary_search(std::begin(cExpected), std::end(cExpected), code);
             QVERIFY2(font.supportsCharacter(code) == bExpected, qPrintable(QString::number(code, 16)));
         }
     }

@@ -10,9 +10,9 @@ using namespace PictureFiles;
 
 namespace {
 
-const QByteArray PNG = QByteArray::fromHex("89504E470D0A1A0A0000");
-const QByteArray JPEG = QByteArray::fromHex("FFD8FFE000104A46");
-const QString FALLBACK = QStringLiteral("fallback.png");
+const QByteArray cPng = QByteArray::fromHex("89504E470D0A1A0A0000");
+const QByteArray cJpeg = QByteArray::fromHex("FFD8FFE000104A46");
+const QString cFallback = QStringLiteral("fallback.png");
 
 } // namespace
 
@@ -31,8 +31,8 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("png") << "a.png" << PNG;
-        QTest::newRow("jpg") << "a.jpg" << JPEG;
+        QTest::newRow("png") << "a.png" << cPng;
+        QTest::newRow("jpg") << "a.jpg" << cJpeg;
         QTest::newRow("gif") << "a.gif" << QByteArray("GIF89a");
         QTest::newRow("bmp") << "a.bmp" << QByteArray::fromHex("424DE652");
         QTest::newRow("unknown kind") << "a.png" << QByteArray("text");
@@ -44,7 +44,7 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QByteArray, bytes);
         QString strPath = writeBytes(m_folder->filePath(name), bytes);
-        QCOMPARE(ImagePath::getTrueImagePath(strPath, FALLBACK), strPath);
+        QCOMPARE(ImagePath::getTrueImagePath(strPath, cFallback), strPath);
         QString strFixed = strPath;
         QVERIFY(!ImagePath::getIsImageFixError(strFixed));
         QCOMPARE(strFixed, strPath);
@@ -56,14 +56,14 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("corrected");
-        QTest::newRow("jpeg called png") << "a.png" << JPEG << "a.jpg";
-        QTest::newRow("png called jpg") << "a.jpg" << PNG << "a.png";
-        QTest::newRow("jpeg suffix too") << "a.jpeg" << JPEG << "a.jpg";
-        QTest::newRow("upper case") << "a.PNG" << PNG << "a.png";
-        QTest::newRow("two dots") << "a.b.c" << PNG << "a.b.png";
-        QTest::newRow("no suffix") << "head" << PNG << "head.png";
-        QTest::newRow("dot at the end") << "head." << PNG << "head.png";
-        QTest::newRow("dot in the folder alone") << "x.y/head" << PNG << "x.y/head.png";
+        QTest::newRow("jpeg called png") << "a.png" << cJpeg << "a.jpg";
+        QTest::newRow("png called jpg") << "a.jpg" << cPng << "a.png";
+        QTest::newRow("jpeg suffix too") << "a.jpeg" << cJpeg << "a.jpg";
+        QTest::newRow("upper case") << "a.PNG" << cPng << "a.png";
+        QTest::newRow("two dots") << "a.b.c" << cPng << "a.b.png";
+        QTest::newRow("no suffix") << "head" << cPng << "head.png";
+        QTest::newRow("dot at the end") << "head." << cPng << "head.png";
+        QTest::newRow("dot in the folder alone") << "x.y/head" << cPng << "x.y/head.png";
     }
     void wrongSuffixIsCorrected()
     {
@@ -73,7 +73,7 @@ private slots:
         QVERIFY(QDir(m_folder->path()).mkpath("x.y"));
         const QString strPath = writeBytes(m_folder->filePath(name), bytes);
         const QString strTrue = m_folder->filePath(corrected);
-        QCOMPARE(ImagePath::getTrueImagePath(strPath, FALLBACK), strTrue);
+        QCOMPARE(ImagePath::getTrueImagePath(strPath, cFallback), strTrue);
         QVERIFY(!QFile::exists(strPath));
         QCOMPARE(readBytes(strTrue), bytes);
 
@@ -87,26 +87,26 @@ private slots:
 
     void fileOfTheTrueNameStays()
     {
-        const QString strPath = writeBytes(m_folder->filePath("a.png"), JPEG);
+        const QString strPath = writeBytes(m_folder->filePath("a.png"), cJpeg);
         const QString strTrue = writeBytes(m_folder->filePath("a.jpg"), "another");
-        QCOMPARE(ImagePath::getTrueImagePath(strPath, FALLBACK), strTrue);
+        QCOMPARE(ImagePath::getTrueImagePath(strPath, cFallback), strTrue);
         QString strFixed = strPath;
         QVERIFY(ImagePath::getIsImageFixError(strFixed));
         QCOMPARE(strFixed, strTrue);
-        QCOMPARE(readBytes(strPath), JPEG);
+        QCOMPARE(readBytes(strPath), cJpeg);
         QCOMPARE(readBytes(strTrue), QByteArray("another"));
     }
 
     void fileThatCannotBeCopiedIsNotLost()
     {
         // A link to nothing stands where the copy would go: there is no such file, and none can be made.
-        const QString strPath = writeBytes(m_folder->filePath("a.png"), JPEG);
+        const QString strPath = writeBytes(m_folder->filePath("a.png"), cJpeg);
         QVERIFY(QFile::link("/no/such/folder/file", m_folder->filePath("a.jpg")));
         QString strFixed = strPath;
-        QCOMPARE(ImagePath::getTrueImagePath(strPath, FALLBACK), strPath);
+        QCOMPARE(ImagePath::getTrueImagePath(strPath, cFallback), strPath);
         QVERIFY(!ImagePath::getIsImageFixError(strFixed));
         QCOMPARE(strFixed, strPath);
-        QCOMPARE(readBytes(strPath), JPEG);
+        QCOMPARE(readBytes(strPath), cJpeg);
     }
 
     void unreadableFileGivesTheFallback_data()
@@ -121,7 +121,7 @@ private slots:
     void unreadableFileGivesTheFallback()
     {
         QFETCH(QString, path);
-        QCOMPARE(ImagePath::getTrueImagePath(path, FALLBACK), FALLBACK);
+        QCOMPARE(ImagePath::getTrueImagePath(path, cFallback), cFallback);
         QString strFixed = path;
         QVERIFY(!ImagePath::getIsImageFixError(strFixed));
         QCOMPARE(strFixed, path);
@@ -131,9 +131,9 @@ private slots:
     {
         QString strPath;
         // Not even an object that could open one.
-        QCOMPARE(Allocations::during([&] { strPath = ImagePath::getTrueImagePath(QString(), FALLBACK); }), 0);
-        QCOMPARE(strPath, FALLBACK);
-        QVERIFY(Allocations::during([&] { ImagePath::getTrueImagePath(FALLBACK, FALLBACK); }) > 0);
+        QCOMPARE(Allocations::during([&] { strPath = ImagePath::getTrueImagePath(QString(), cFallback); }), 0);
+        QCOMPARE(strPath, cFallback);
+        QVERIFY(Allocations::during([&] { ImagePath::getTrueImagePath(cFallback, cFallback); }) > 0);
     }
 
 private:

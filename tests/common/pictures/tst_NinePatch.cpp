@@ -6,9 +6,9 @@
 namespace {
 
 // The nine parts in nine colours, three parts a row.
-const QColor PARTS[3][3] = {{QColor(1, 0, 0), QColor(2, 0, 0), QColor(3, 0, 0)},
-                            {QColor(4, 0, 0), QColor(5, 0, 0), QColor(6, 0, 0)},
-                            {QColor(7, 0, 0), QColor(8, 0, 0), QColor(9, 0, 0)}};
+const QColor cParts[3][3] = {{QColor(1, 0, 0), QColor(2, 0, 0), QColor(3, 0, 0)},
+                             {QColor(4, 0, 0), QColor(5, 0, 0), QColor(6, 0, 0)},
+                             {QColor(7, 0, 0), QColor(8, 0, 0), QColor(9, 0, 0)}};
 
 int partOf(int iPixel, int iFirst, int iSecond)
 {
@@ -20,7 +20,7 @@ QImage expectedFrame(const QSize &size, int iColumnEnd, int iRowEnd)
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {
-            image.setPixelColor(x, y, PARTS[partOf(y, 10, iRowEnd)][partOf(x, 10, iColumnEnd)]);
+            image.setPixelColor(x, y, cParts[partOf(y, 10, iRowEnd)][partOf(x, 10, iColumnEnd)]);
         }
     }
     return image;
@@ -83,8 +83,8 @@ private slots:
             const QPoint moved(spot.x() < 10 ? spot.x() : spot.x() + 70, spot.y() < 10 ? spot.y() : spot.y() + 50);
             QCOMPARE(frame.pixelColor(moved), QColor(Qt::green));
         }
-        QCOMPARE(frame.pixelColor(10, 10), PARTS[1][1]);
-        QCOMPARE(frame.pixelColor(88, 68), PARTS[1][1]);
+        QCOMPARE(frame.pixelColor(10, 10), cParts[1][1]);
+        QCOMPARE(frame.pixelColor(88, 68), cParts[1][1]);
     }
 
     void transparentPartsStayTransparent()
@@ -100,16 +100,16 @@ private slots:
     void pictureSmallerThanTheCutsHasNoFarParts()
     {
         const QImage frame = drawn(QSize(60, 60), source(QSize(15, 15)));
-        QCOMPARE(frame.pixelColor(0, 0), PARTS[0][0]);
-        QCOMPARE(frame.pixelColor(9, 9), PARTS[0][0]);
+        QCOMPARE(frame.pixelColor(0, 0), cParts[0][0]);
+        QCOMPARE(frame.pixelColor(9, 9), cParts[0][0]);
     }
 
     void targetSmallerThanTheCornersShowsTheLastOfThem()
     {
         const QImage frame = drawn(QSize(12, 12), source(QSize(40, 40)));
         QCOMPARE(frame.size(), QSize(12, 12));
-        QCOMPARE(frame.pixelColor(0, 0), PARTS[2][2]);
-        QCOMPARE(frame.pixelColor(11, 11), PARTS[2][2]);
+        QCOMPARE(frame.pixelColor(0, 0), cParts[2][2]);
+        QCOMPARE(frame.pixelColor(11, 11), cParts[2][2]);
     }
 
     void stretchWithoutRoomIsNotPainted()
@@ -123,7 +123,7 @@ private slots:
             }
         }
         const QImage frame = drawn(QSize(20, 20), QPixmap::fromImage(image));
-        QCOMPARE(frame.pixelColor(9, 9), PARTS[0][0]);
+        QCOMPARE(frame.pixelColor(9, 9), cParts[0][0]);
         QCOMPARE(frame.pixel(10, 5), QRgb(0));
         QCOMPARE(frame.pixel(5, 10), QRgb(0));
         QCOMPARE(frame.pixel(10, 10), QRgb(0));

@@ -19,7 +19,7 @@ const std::vector<std::pair<const char *, const QString *>> &palette()
 }
 
 /// The same as all widgets expect it.
-const char *const EXPECTED[][2] = {
+const char *const cExpected[][2] = {
     {"strCOLOR_BLACK", "#000000"},
     {"strCOLOR_WHITE", "#ffffff"},
     {"strCOLOR_JADE_WHITE", "#f5f8f5"},
@@ -53,7 +53,7 @@ const char *const EXPECTED[][2] = {
 };
 
 /// Made before main() runs, from texts that must stand by then.
-const QString EARLY_TEXT = strCOLOR_WHITE + strTitleLabelStyle;
+const QString cEarlyText = strCOLOR_WHITE + strTitleLabelStyle;
 
 } // namespace
 
@@ -65,16 +65,16 @@ private slots:
     void thirtyColoursInOrder()
     {
         QCOMPARE(palette().size(), std::size_t(30));
-        QCOMPARE(std::size(EXPECTED), std::size_t(30));
+        QCOMPARE(std::size(cExpected), std::size_t(30));
         for (std::size_t i = 0; i < palette().size(); ++i) {
-            QCOMPARE(palette()[i].first, EXPECTED[i][0]);
-            QCOMPARE(*palette()[i].second, QString::fromLatin1(EXPECTED[i][1]));
+            QCOMPARE(palette()[i].first, cExpected[i][0]);
+            QCOMPARE(*palette()[i].second, QString::fromLatin1(cExpected[i][1]));
         }
     }
 
     void constantsStandDuringStaticInitialisation()
     {
-        QCOMPARE(EARLY_TEXT, QStringLiteral("#fffffffont-family:Microsoft YaHei; font-size:14px; color:#000000;"));
+        QCOMPARE(cEarlyText, QStringLiteral("#fffffffont-family:Microsoft YaHei; font-size:14px; color:#000000;"));
     }
 
     void styleSheets_data()

@@ -11,7 +11,7 @@
 
 namespace {
 
-const QString DEFAULT_HEAD = QStringLiteral("Resources/images/FriendDetail/defaultHead.png");
+const QString cDefaultHead = QStringLiteral("Resources/images/FriendDetail/defaultHead.png");
 
 } // namespace
 
@@ -82,10 +82,10 @@ private slots:
                                << "";
         QTest::newRow("four bytes") << png.left(4) << "head"
                                     << "";
-        QTest::newRow("three bytes") << png.left(3) << "head" << DEFAULT_HEAD;
-        QTest::newRow("no bytes") << QByteArray() << "head" << DEFAULT_HEAD;
-        QTest::newRow("no name") << png << "" << DEFAULT_HEAD;
-        QTest::newRow("unknown") << QByteArray("text") << "head" << DEFAULT_HEAD;
+        QTest::newRow("three bytes") << png.left(3) << "head" << cDefaultHead;
+        QTest::newRow("no bytes") << QByteArray() << "head" << cDefaultHead;
+        QTest::newRow("no name") << png << "" << cDefaultHead;
+        QTest::newRow("unknown") << QByteArray("text") << "head" << cDefaultHead;
     }
     void savingAPictureWritesNothing()
     {
@@ -111,8 +111,8 @@ private slots:
         QTest::addColumn<QString>("last");
         QTest::addColumn<QString>("path");
         const QString folder = QDir::current().absoluteFilePath(QStringLiteral("data/me/designHeadImage/"));
-        QTest::newRow("no name") << "" << 0 << "x" << DEFAULT_HEAD;
-        QTest::newRow("no last text") << "a.png" << 1 << "" << DEFAULT_HEAD;
+        QTest::newRow("no name") << "" << 0 << "x" << cDefaultHead;
+        QTest::newRow("no last text") << "a.png" << 1 << "" << cDefaultHead;
         QTest::newRow("kind 1") << "a.png" << 1 << "x" << folder + "hfa.png";
         QTest::newRow("kind 1 without suffix") << "a" << 1 << "x" << folder + "hfa.jpg";
         QTest::newRow("kind 2") << "a.png" << 2 << "x" << folder + "hsa.png";

@@ -15,9 +15,9 @@
 
 namespace {
 
-constexpr double T = 0.28659218253585106;
-constexpr double COSINE = 0.9613007080676148;
-constexpr double SINE = 0.2755012679983567;
+constexpr double cT = 0.28659218253585106;
+constexpr double cCosine = 0.9613007080676148;
+constexpr double cSine = 0.2755012679983567;
 
 // Another language's word for the client's own text.
 class OwnText : public QTranslator
@@ -50,7 +50,7 @@ private:
     static QImage expected(const QString &strTwo, const QColor &color, const QString &strOne = "tarvoShoot")
     {
         const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
-        QPixmap canvas(int(screen.width() / COSINE), int(screen.width() * T + screen.height()));
+        QPixmap canvas(int(screen.width() / cCosine), int(screen.width() * cT + screen.height()));
         canvas.fill(Qt::transparent);
         QPainter painter(&canvas);
         QFont font(QStringLiteral("Microsoft YaHei"));
@@ -65,8 +65,8 @@ private:
         const int q = w1 + w2 + 200;
         for (int r = 0; r < std::ceil(double(canvas.height()) / p); ++r) {
             for (int c = 0; c < std::ceil(double(canvas.width()) / (w1 + w2 + 110)); ++c) {
-                const double shift = r * p * T;
-                const int y = int(canvas.height() * T + r * p);
+                const double shift = r * p * cT;
+                const int y = int(canvas.height() * cT + r * p);
                 if (r % 2 == 0) {
                     painter.drawText(int(c * q - shift), y, strTwo);
                     painter.drawText(int(w2 + 100 + c * q - shift), y, strOne);
@@ -78,7 +78,8 @@ private:
         }
         painter.end();
         return canvas
-            .copy(int(canvas.height() * T * SINE) - 3, int(canvas.width() * SINE), int(3 * q * COSINE), screen.height())
+            .copy(int(canvas.height() * cT * cSine) - 3, int(canvas.width() * cSine), int(3 * q * cCosine),
+                  screen.height())
             .toImage()
             .convertToFormat(QImage::Format_ARGB32);
     }
@@ -191,7 +192,7 @@ private slots:
         QVERIFY(m_bResult);
         const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
         QCOMPARE(QImage(strPath).height(), screen.height());
-        QVERIFY(QImage(strPath).width() <= int(screen.width() / COSINE));
+        QVERIFY(QImage(strPath).width() <= int(screen.width() / cCosine));
     }
 
     void noSettingsAndNoLoginGiveAPathBelowTheDocuments()

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int kGetters = 220;
+constexpr int cGetters = 220;
 
 /// Whether the name of a row's form in the getters' own list is the expected one.
 bool isForm(const QString &listed, UrlForm form)
@@ -65,15 +65,15 @@ private slots:
     void theListHasEveryGetterWithItsKeyAndForm()
     {
         const std::vector<ExpectedUrl> rows = expectedUrls();
-        QCOMPARE(static_cast<int>(rows.size()), kGetters);
+        QCOMPARE(static_cast<int>(rows.size()), cGetters);
         QMap<QString, QPair<QString, QString>> listed;
         int count = 0;
 #define URL_GETTER(name, key, endpoint, path, form)                                                                    \
     listed[#name] = {key, #form};                                                                                      \
     ++count;
 #include "common/CUrlInfo.def"
-        QCOMPARE(count, kGetters);
-        QCOMPARE(listed.size(), kGetters);
+        QCOMPARE(count, cGetters);
+        QCOMPARE(listed.size(), cGetters);
         int cached = 0;
         int withText = 0;
         for (const ExpectedUrl &row : rows) {
@@ -93,7 +93,7 @@ private slots:
         for (const ExpectedUrl &row : expectedUrls()) {
             keys << row.key;
         }
-        QCOMPARE(keys.size(), kGetters);
+        QCOMPARE(keys.size(), cGetters);
     }
 
     void withoutAnEntryEachGetterGivesItsDefault_data()

@@ -3,7 +3,7 @@
 
 namespace {
 
-const char GOOD_ADDRESS[] = "http://card.example/load";
+const char cGoodAddress[] = "http://card.example/load";
 
 QStringList everyDefault()
 {
@@ -85,13 +85,13 @@ private slots:
     void aBrokenEntryHarmsNoOther()
     {
         QFETCH(QByteArray, broken);
-        const QByteArray good = QByteArray("\n[innerquery]\ntheurl=") + GOOD_ADDRESS + "\n";
-        IN_A_CLIENT_WITH("[vcard]\nloadurl=" + QByteArray(GOOD_ADDRESS) + "\n" + broken + good)
+        const QByteArray good = QByteArray("\n[innerquery]\ntheurl=") + cGoodAddress + "\n";
+        IN_A_CLIENT_WITH("[vcard]\nloadurl=" + QByteArray(cGoodAddress) + "\n" + broken + good)
         for (const ExpectedUrl &row : expectedUrls()) {
             const QString answer = row.ask("group 7");
             const QString key = row.key;
             if (key == "/vcard/loadurl" || key == "/innerquery/theurl") {
-                QCOMPARE(answer, QString(GOOD_ADDRESS));
+                QCOMPARE(answer, QString(cGoodAddress));
             } else if (key != "/vcard/updateurl") {
                 QVERIFY2(answer == row.defaultValue(), row.name);
             }

@@ -32,7 +32,7 @@ inline QByteArray failureInOwnProcess(const QStringList &variables, const QStrin
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(folder);
     process.start(program, {QTest::testObject()->metaObject()->className(), function});
-    if (!process.waitForFinished(kPatienceMs)) {
+    if (!process.waitForFinished(cPatienceMs)) {
         return "did not end: " + process.errorString().toUtf8();
     }
     const bool passed = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;

@@ -6,8 +6,8 @@ namespace {
 
 using Flags = QNetworkInterface::InterfaceFlags;
 
-const Flags FIT = QNetworkInterface::IsUp | QNetworkInterface::IsRunning | QNetworkInterface::CanBroadcast |
-                  QNetworkInterface::CanMulticast;
+const Flags cFit = QNetworkInterface::IsUp | QNetworkInterface::IsRunning | QNetworkInterface::CanBroadcast |
+                   QNetworkInterface::CanMulticast;
 
 // An interface as the system would name it.
 class Interface
@@ -47,25 +47,25 @@ private slots:
     {
         QTest::addColumn<Machine>("machine");
         QTest::addColumn<QString>("address");
-        const Interface next(FIT, {"192.0.2.9"});
+        const Interface next(cFit, {"192.0.2.9"});
         const auto row = [&next](const char *name, const Interface &first, const QString &address) {
             QTest::newRow(name) << Machine{first, next} << address;
         };
         const QStringList own{"192.0.2.1"};
-        row("fit", Interface(FIT, own), "192.0.2.1");
-        row("more flags than needed", Interface(FIT | QNetworkInterface::IsPointToPoint, own), "192.0.2.1");
-        row("several addresses", Interface(FIT, {"192.0.2.1", "192.0.2.2"}), "192.0.2.1");
-        row("IPv6 before IPv4", Interface(FIT, {"fd00::2", "192.0.2.1"}), "192.0.2.1");
-        row("IPv6 alone", Interface(FIT, {"fd00::2", "fe80::1"}), "192.0.2.9");
-        row("no address", Interface(FIT, {}), "192.0.2.9");
-        row("not valid", Interface(FIT, own, false), "192.0.2.9");
-        row("loopback", Interface(FIT | QNetworkInterface::IsLoopBack, own), "192.0.2.9");
-        row("down", Interface(FIT & ~Flags(QNetworkInterface::IsUp), own), "192.0.2.9");
-        row("not running", Interface(FIT & ~Flags(QNetworkInterface::IsRunning), own), "192.0.2.9");
-        row("no broadcast", Interface(FIT & ~Flags(QNetworkInterface::CanBroadcast), own), "192.0.2.9");
-        row("no multicast", Interface(FIT & ~Flags(QNetworkInterface::CanMulticast), own), "192.0.2.9");
+        row("fit", Interface(cFit, own), "192.0.2.1");
+        row("more flags than needed", Interface(cFit | QNetworkInterface::IsPointToPoint, own), "192.0.2.1");
+        row("several addresses", Interface(cFit, {"192.0.2.1", "192.0.2.2"}), "192.0.2.1");
+        row("IPv6 before IPv4", Interface(cFit, {"fd00::2", "192.0.2.1"}), "192.0.2.1");
+        row("IPv6 alone", Interface(cFit, {"fd00::2", "fe80::1"}), "192.0.2.9");
+        row("no address", Interface(cFit, {}), "192.0.2.9");
+        row("not valid", Interface(cFit, own, false), "192.0.2.9");
+        row("loopback", Interface(cFit | QNetworkInterface::IsLoopBack, own), "192.0.2.9");
+        row("down", Interface(cFit & ~Flags(QNetworkInterface::IsUp), own), "192.0.2.9");
+        row("not running", Interface(cFit & ~Flags(QNetworkInterface::IsRunning), own), "192.0.2.9");
+        row("no broadcast", Interface(cFit & ~Flags(QNetworkInterface::CanBroadcast), own), "192.0.2.9");
+        row("no multicast", Interface(cFit & ~Flags(QNetworkInterface::CanMulticast), own), "192.0.2.9");
         QTest::newRow("loopback and nothing else")
-            << Machine{Interface(FIT | QNetworkInterface::IsLoopBack, {"127.0.0.1"})} << QString();
+            << Machine{Interface(cFit | QNetworkInterface::IsLoopBack, {"127.0.0.1"})} << QString();
         QTest::newRow("no interface") << Machine() << QString();
     }
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-const QDir RESOURCES(QStringLiteral(VOIP_RESOURCES_DIR));
+const QDir cResources(QStringLiteral(VOIP_RESOURCES_DIR));
 
 struct Picture
 {
@@ -19,7 +19,7 @@ struct Picture
 
 /// The pictures that windows, skins and records name, below "Resources/", with their size in pixels. Heads are larger
 /// than any window shows them; who is named in style sheets has a picture for screens of twice the density beside it.
-constexpr Picture PICTURES[] = {
+constexpr Picture cPictures[] = {
     {"Html/messageTemplate/images/exe.png", 32, 32},
     {"Html/messageTemplate/images/unknown.png", 32, 32},
     {"Images/SysTrayIcon/MiniToTaskBar.png", 32, 32},
@@ -49,7 +49,7 @@ constexpr Picture PICTURES[] = {
     {"images/skins/bg_slider_vertical.png", 50, 152, true},
 };
 
-constexpr int SYSTEM_AVATARS = 20;
+constexpr int cSystemAvatars = 20;
 
 QString densePath(const QString &strPath)
 {
@@ -63,7 +63,7 @@ QString avatar(int iNumber)
 
 QImage load(const QString &strPath)
 {
-    return QImage(RESOURCES.filePath(strPath)).convertToFormat(QImage::Format_ARGB32);
+    return QImage(cResources.filePath(strPath)).convertToFormat(QImage::Format_ARGB32);
 }
 
 bool isOpaque(const QImage &image)
@@ -101,7 +101,7 @@ private slots:
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QSize>("size");
-        for (const Picture &picture : PICTURES) {
+        for (const Picture &picture : cPictures) {
             QTest::newRow(picture.pPath) << QString::fromLatin1(picture.pPath)
                                          << QSize(picture.iWidth, picture.iHeight);
             if (picture.bInStyleSheets) {
@@ -109,7 +109,7 @@ private slots:
                 QTest::newRow(qPrintable(strDense)) << strDense << 2 * QSize(picture.iWidth, picture.iHeight);
             }
         }
-        for (int i = 1; i <= SYSTEM_AVATARS; ++i) {
+        for (int i = 1; i <= cSystemAvatars; ++i) {
             QTest::newRow(qPrintable(avatar(i))) << avatar(i) << QSize(400, 400);
         }
     }
@@ -118,7 +118,7 @@ private slots:
     {
         QFETCH(QString, path);
         QFETCH(QSize, size);
-        const QString strFile = RESOURCES.filePath(path);
+        const QString strFile = cResources.filePath(path);
         QCOMPARE(QImage(strFile).size(), size);
         const QByteArray format = path.endsWith(QLatin1String(".jpg")) ? "jpeg" : "png";
         QCOMPARE(QImageReader::imageFormat(strFile), format);
@@ -142,7 +142,7 @@ private slots:
         named.sort();
         named.removeDuplicates();
         QStringList dense;
-        for (const Picture &picture : PICTURES) {
+        for (const Picture &picture : cPictures) {
             if (picture.bInStyleSheets) {
                 dense.append(QString::fromLatin1(picture.pPath));
             }
@@ -164,7 +164,7 @@ private slots:
     void everyOtherNamedFileIsThere()
     {
         QFETCH(QString, path);
-        QVERIFY(QFileInfo(RESOURCES.filePath(path)).size() > 0);
+        QVERIFY(QFileInfo(cResources.filePath(path)).size() > 0);
     }
 
     void headsFillTheirSquare_data()
@@ -184,8 +184,8 @@ private slots:
 
     void noTwoSystemAvatarsAreEqual()
     {
-        for (int i = 1; i <= SYSTEM_AVATARS; ++i) {
-            for (int j = i + 1; j <= SYSTEM_AVATARS; ++j) {
+        for (int i = 1; i <= cSystemAvatars; ++i) {
+            for (int j = i + 1; j <= cSystemAvatars; ++j) {
                 QVERIFY2(load(avatar(i)) != load(avatar(j)), qPrintable(avatar(i) + " " + avatar(j)));
             }
         }
@@ -194,7 +194,7 @@ private slots:
     void statesOfAButtonDiffer_data()
     {
         QTest::addColumn<QStringList>("pictures");
-        const QDir folder(RESOURCES.filePath("images/icon"));
+        const QDir folder(cResources.filePath("images/icon"));
         QTest::newRow("check box") << folder.entryList({"btn_checkbox_*[!x].png"});
         QTest::newRow("check box, dense") << folder.entryList({"btn_checkbox_*@2x.png"});
         QTest::newRow("radio button") << folder.entryList({"btn_radio_*[!x].png"});

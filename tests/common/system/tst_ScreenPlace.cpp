@@ -7,8 +7,8 @@
 namespace {
 
 // Asked before main, when no application has found its screens yet.
-const QRect areaWithoutScreen = ScreenPlace::workArea();
-const QPoint placeWithoutScreen = ScreenPlace::getAvailableMovePos({-99999, 99999}, QRect(0, 0, 300, 200));
+const QRect cAreaWithoutScreen = ScreenPlace::workArea();
+const QPoint cPlaceWithoutScreen = ScreenPlace::getAvailableMovePos({-99999, 99999}, QRect(0, 0, 300, 200));
 
 } // namespace
 
@@ -24,8 +24,8 @@ private slots:
 
     void withoutAScreenNothingIsLimited()
     {
-        QVERIFY(areaWithoutScreen.isNull());
-        QCOMPARE(placeWithoutScreen, QPoint(-99999, 99999));
+        QVERIFY(cAreaWithoutScreen.isNull());
+        QCOMPARE(cPlaceWithoutScreen, QPoint(-99999, 99999));
     }
 
     void tenPixelsStayOnTheScreen()

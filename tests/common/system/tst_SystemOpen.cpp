@@ -70,7 +70,7 @@ private slots:
         QVERIFY(SystemOpen::openLocalFile("my folder/a file.txt"));
         const QByteArray wanted =
             QFile::encodeName(QDir::current().absoluteFilePath("my folder/a file.txt")) + "\nend\n";
-        QTRY_COMPARE_WITH_TIMEOUT(readBytes("opened"), wanted, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(readBytes("opened"), wanted, cPatienceMs);
     }
 
     void aFileThatCannotBeReadIsNotOpened()
@@ -94,7 +94,7 @@ private slots:
         QFETCH(QByteArray, words);
         QVERIFY(QDir().mkpath(folder));
         QVERIFY(SystemOpen::openLocalDir(folder + "missing file.txt"));
-        QTRY_COMPARE_WITH_TIMEOUT(readBytes("opened"), words, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(readBytes("opened"), words, cPatienceMs);
     }
 
     void theFolderEndsAtTheFirstPlaceOfTheFileName()
@@ -102,7 +102,7 @@ private slots:
         QVERIFY(QDir().mkpath("data/data"));
         QVERIFY(!SystemOpen::openLocalDir("data/data"));
         QVERIFY(SystemOpen::openLocalDir("./data/data"));
-        QTRY_COMPARE_WITH_TIMEOUT(readBytes("opened"), QByteArray("./\nend\n"), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(readBytes("opened"), QByteArray("./\nend\n"), cPatienceMs);
     }
 
     void aMissingFolderIsNotOpened()

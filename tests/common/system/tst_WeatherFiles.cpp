@@ -11,7 +11,7 @@ namespace {
 
 using Maps = QList<QMap<QString, QString>>;
 
-const QString CITIES = QStringLiteral("Resources/BaseConfig/ProvinceWeath.xml");
+const QString cCities = QStringLiteral("Resources/BaseConfig/ProvinceWeath.xml");
 
 } // namespace
 
@@ -20,7 +20,7 @@ class tst_WeatherFiles : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { QFile::remove(CITIES); }
+    void cleanup() { QFile::remove(cCities); }
 
     void aReplyBecomesOneMapOfFourAndOneForEachDay()
     {
@@ -80,7 +80,7 @@ private slots:
 
     void provincesStandBeforeTheirCities()
     {
-        QVERIFY(writeFile(CITIES,
+        QVERIFY(writeFile(cCities,
                           "<all><p Name='A'><c Name='a1'/><c Name='a2'/></p><!-- --><p Name='B'/><p><c/></p></all>"));
         QCOMPARE(WeatherFiles::parseCityXml(), QStringList({"A", "a1", "a2", "B", "", ""}));
     }
@@ -88,14 +88,14 @@ private slots:
     void withoutItsFileThereAreNoCities()
     {
         QVERIFY(WeatherFiles::parseCityXml().isEmpty());
-        QVERIFY(writeFile(CITIES, "<all><p Name='A'>"));
+        QVERIFY(writeFile(cCities, "<all><p Name='A'>"));
         QVERIFY(WeatherFiles::parseCityXml().isEmpty());
     }
 
     void theShippedFileNamesAllProvinces()
     {
-        QVERIFY(QDir().mkpath(QFileInfo(CITIES).path()));
-        QVERIFY(QFile::copy(VOIP_RESOURCES "/BaseConfig/ProvinceWeath.xml", CITIES));
+        QVERIFY(QDir().mkpath(QFileInfo(cCities).path()));
+        QVERIFY(QFile::copy(VOIP_RESOURCES "/BaseConfig/ProvinceWeath.xml", cCities));
         const QStringList names = WeatherFiles::parseCityXml();
         QVERIFY(names.size() > 34 * 2);
         QVERIFY(names.contains("内蒙古") && names.contains("呼和浩特"));

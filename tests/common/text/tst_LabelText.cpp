@@ -193,16 +193,16 @@ private slots:
 
     void longTextKeepsEveryCharacter()
     {
-        constexpr int LENGTH = 200000;
+        constexpr int length = 200000;
         QLabel label;
         label.setFont(evenFont());
         label.resize(50 * m_iEm + 5, 10);
         QString strOut;
-        QVERIFY(LabelText::stringFormatWithControl(QString(LENGTH, 'x'), &label, strOut, 0));
-        QCOMPARE(strOut.count('x'), LENGTH);
-        QCOMPARE(strOut.count('\n'), LENGTH / 50 - 1);
+        QVERIFY(LabelText::stringFormatWithControl(QString(length, 'x'), &label, strOut, 0));
+        QCOMPARE(strOut.count('x'), length);
+        QCOMPARE(strOut.count('\n'), length / 50 - 1);
         const QString strWrapped =
-            LabelText::getLineWrapText(50 * m_iEm, QString(LENGTH, 'x'), QFontMetrics(evenFont()), 0);
+            LabelText::getLineWrapText(50 * m_iEm, QString(length, 'x'), QFontMetrics(evenFont()), 0);
         QCOMPARE(strWrapped, strOut);
     }
 

@@ -45,12 +45,12 @@ private slots:
 
     void tenMillionMatchesAreReplaced()
     {
-        constexpr int MATCHES = 10000000;
-        QString strText = QString(MATCHES, 'a');
+        constexpr int matches = 10000000;
+        QString strText = QString(matches, 'a');
         replaceAll(strText, "a", "&nbsp;");
-        QCOMPARE(strText.size(), MATCHES * 6);
+        QCOMPARE(strText.size(), matches * 6);
         replaceAll(strText, "&nbsp;", "b");
-        QCOMPARE(strText, QString(MATCHES, 'b'));
+        QCOMPARE(strText, QString(matches, 'b'));
     }
 };
 

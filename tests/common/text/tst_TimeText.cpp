@@ -4,11 +4,11 @@
 
 namespace {
 
-const QString FORMAT = QStringLiteral("yyyy-MM-dd hh:mm:ss");
+const QString cFormat = QStringLiteral("yyyy-MM-dd hh:mm:ss");
 
 QDateTime local(const QString &strTime)
 {
-    return QDateTime::fromString(strTime, FORMAT);
+    return QDateTime::fromString(strTime, cFormat);
 }
 
 QString milliseconds(const QString &strTime)
@@ -221,8 +221,8 @@ private slots:
         const QDateTime now = QDateTime::currentDateTime();
         const QDateTime past = now.addYears(-10);
         const QDateTime future = now.addYears(10);
-        QCOMPARE(TimeText::getTime(past.toString(FORMAT)), past.toString("yyyy-MM-dd"));
-        QCOMPARE(TimeText::getTimeEx(future.toString(FORMAT)), future.toString("yyyy-MM-dd") + " hh:mm");
+        QCOMPARE(TimeText::getTime(past.toString(cFormat)), past.toString("yyyy-MM-dd"));
+        QCOMPARE(TimeText::getTimeEx(future.toString(cFormat)), future.toString("yyyy-MM-dd") + " hh:mm");
         QCOMPARE(TimeText::getDetailTime(QString::number(past.toMSecsSinceEpoch())), past.toString("yyyy-MM-dd hh:mm"));
         QVERIFY(TimeText::getPublishTime(QString::number(past.toMSecsSinceEpoch())).startsWith("1"));
     }

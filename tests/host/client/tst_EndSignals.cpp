@@ -26,7 +26,7 @@ private slots:
         QSignalSpy requested(&endSignals, &EndSignals::endRequested);
         ::raise(number);
         QCOMPARE(requested.count(), 0);
-        QTRY_COMPARE_WITH_TIMEOUT(requested.count(), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(requested.count(), 1, cPatienceMs);
     }
 
     void defaultHandlingComesBack()

@@ -28,8 +28,8 @@ private slots:
         settings->initData(ContactBook::ownUid());
         QVERIFY(QDir().mkpath(settings->m_strUserFolder));
         QVERIFY(QFile(settings->m_strDatabasePath).open(QIODevice::WriteOnly));
-        constexpr int HOLD = 120000;
-        LockHolder holder(settings->m_strDatabasePath, QStringLiteral("BEGIN EXCLUSIVE"), HOLD);
+        constexpr int hold = 120000;
+        LockHolder holder(settings->m_strDatabasePath, QStringLiteral("BEGIN EXCLUSIVE"), hold);
         QVERIFY(holder.hasHeld());
 
         // The store is opened before the module, which is not there.
@@ -40,7 +40,7 @@ private slots:
         QVERIFY(!session.store().isOpen());
         MainWindow window(session, book);
         window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(&window, cPatienceMs));
         const auto isTold = [&window] {
             return WindowProbe::isShown(&window, "lblNotice") && WindowProbe::isShown(&window, "btnTryStore") &&
                    WindowProbe::text(&window, "lblNotice").contains(QStringLiteral("is in use by another program"));

@@ -98,7 +98,7 @@ private slots:
         qputenv("VOIPSDK_TRACE", QFile::encodeName(m_strTrace));
         m_demo.setProcessChannelMode(QProcess::ForwardedChannels);
         m_demo.start(QStringLiteral(VOIP_BIN_DIR "/kelvarim-demo"), QStringList());
-        QVERIFY(m_demo.waitForStarted(kPatienceMs));
+        QVERIFY(m_demo.waitForStarted(cPatienceMs));
         // The registration is the last thing of a start.
         QTRY_VERIFY_WITH_TIMEOUT(
             QFile(m_strTrace).exists() &&
@@ -106,13 +106,13 @@ private slots:
                     QFile trace(m_strTrace);
                     return trace.open(QIODevice::ReadOnly) && trace.readAll().contains("RegeditUser");
                 }(),
-            kPatienceMs);
+            cPatienceMs);
     }
 
     void cleanupTestCase()
     {
         m_demo.terminate();
-        QVERIFY(m_demo.waitForFinished(kPatienceMs));
+        QVERIFY(m_demo.waitForFinished(cPatienceMs));
     }
 
     void everythingMadeIsForItsOwnerAlone()

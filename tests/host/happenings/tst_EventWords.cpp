@@ -15,7 +15,7 @@ private slots:
     {
         QSet<QString> words;
         QSet<QString> sentences;
-        for (const HostEvent &event : hostEvents) {
+        for (const HostEvent &event : cHostEvents) {
             const QString described = EventWords::describe(event.msgId, QByteArray());
             const QString number = QStringLiteral("%1 ").arg(int(event.msgId));
             QVERIFY2(described.startsWith(number) && described.size() > number.size(), qPrintable(described));

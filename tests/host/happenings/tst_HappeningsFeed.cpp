@@ -119,7 +119,7 @@ private slots:
         const Happening &row = m_pModel->at(0);
         QCOMPARE(row.kind, Happening::Error);
         QVERIFY(row.words.size() < 300);
-        QVERIFY(row.raw.size() < HappeningsModel::longestRaw + 40);
+        QVERIFY(row.raw.size() < HappeningsModel::cLongestRaw + 40);
         QVERIFY2(row.raw.endsWith(QStringLiteral("… (1048611 in all)")), qPrintable(row.raw.right(40)));
         QCOMPARE(m_pModel->at(1).words, QStringLiteral("call process notes: after"));
     }
@@ -185,12 +185,12 @@ private slots:
     {
         m_pFeed->setPaused(true);
         QByteArray lines;
-        for (int i = 0; i < HappeningsModel::capacity + 5; ++i) {
+        for (int i = 0; i < HappeningsModel::cCapacity + 5; ++i) {
             lines += QByteArray::number(i) + " = n" + QByteArray::number(i) + "\n";
         }
         append(lines);
         m_pFeed->look();
-        QCOMPARE(m_pFeed->waiting(), int(HappeningsModel::capacity));
+        QCOMPARE(m_pFeed->waiting(), int(HappeningsModel::cCapacity));
         m_pFeed->setPaused(false);
         QCOMPARE(m_pModel->dropped(), 5);
         QCOMPARE(m_pModel->at(0).raw, QStringLiteral("n5"));
@@ -219,7 +219,7 @@ private slots:
     void timerLooksByItself()
     {
         append("1 = one\n");
-        QTRY_COMPARE_WITH_TIMEOUT(m_pModel->rowCount(), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pModel->rowCount(), 1, cPatienceMs);
     }
 
 private:

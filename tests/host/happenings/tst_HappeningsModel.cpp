@@ -48,21 +48,21 @@ private slots:
     void oldestRowsMakePlaceAndAreCounted()
     {
         HappeningsModel model;
-        model.append(callsOf(0, HappeningsModel::capacity));
+        model.append(callsOf(0, HappeningsModel::cCapacity));
         QCOMPARE(model.dropped(), 0);
-        model.append(callsOf(HappeningsModel::capacity, 3));
-        QCOMPARE(model.rowCount(), int(HappeningsModel::capacity));
+        model.append(callsOf(HappeningsModel::cCapacity, 3));
+        QCOMPARE(model.rowCount(), int(HappeningsModel::cCapacity));
         QCOMPARE(model.dropped(), 3);
         QCOMPARE(model.at(0).raw, QStringLiteral("raw u3"));
-        QCOMPARE(model.at(HappeningsModel::capacity - 1).raw, QStringLiteral("raw u10002"));
+        QCOMPARE(model.at(HappeningsModel::cCapacity - 1).raw, QStringLiteral("raw u10002"));
     }
 
     void batchBeyondTheCapacityKeepsItsNewestRows()
     {
         HappeningsModel model;
         model.append(callsOf(0, 5));
-        model.append(callsOf(5, HappeningsModel::capacity + 7));
-        QCOMPARE(model.rowCount(), int(HappeningsModel::capacity));
+        model.append(callsOf(5, HappeningsModel::cCapacity + 7));
+        QCOMPARE(model.rowCount(), int(HappeningsModel::cCapacity));
         QCOMPARE(model.dropped(), 12);
         QCOMPARE(model.at(0).raw, QStringLiteral("raw u12"));
     }
@@ -70,7 +70,7 @@ private slots:
     void clearForgetsTheCountToo()
     {
         HappeningsModel model;
-        model.append(callsOf(0, HappeningsModel::capacity + 1));
+        model.append(callsOf(0, HappeningsModel::cCapacity + 1));
         model.clear();
         QCOMPARE(model.rowCount(), 0);
         QCOMPARE(model.dropped(), 0);

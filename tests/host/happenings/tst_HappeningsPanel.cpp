@@ -50,7 +50,7 @@ private slots:
         m_pSession = std::make_unique<HostSession>(m_book);
         m_pPanel = std::make_unique<HappeningsPanel>(*m_pSession, QStringLiteral("wire.txt"));
         m_pPanel->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_pPanel.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(m_pPanel.get(), cPatienceMs));
     }
 
     void cleanup()
@@ -180,11 +180,11 @@ private slots:
 
     void placeStaysWhenTheOldestLinesGo()
     {
-        lines(0, HappeningsModel::capacity);
+        lines(0, HappeningsModel::cCapacity);
         view()->verticalScrollBar()->setValue(500);
         const QString top = view()->indexAt(QPoint(200, 0)).siblingAtColumn(HappeningsModel::What).data().toString();
         QCOMPARE(top, QStringLiteral("call process notes: n500"));
-        lines(HappeningsModel::capacity, 40);
+        lines(HappeningsModel::cCapacity, 40);
         QCOMPARE(view()->indexAt(QPoint(200, 0)).siblingAtColumn(HappeningsModel::What).data().toString(), top);
         QCOMPARE(view()->verticalScrollBar()->value(), 460);
     }
@@ -203,7 +203,7 @@ private slots:
 
     void droppedLinesAreSaid()
     {
-        lines(0, HappeningsModel::capacity + 12);
+        lines(0, HappeningsModel::cCapacity + 12);
         QCOMPARE(count(), QStringLiteral("10000 lines · the oldest 12 were dropped"));
     }
 
@@ -224,7 +224,7 @@ private slots:
         PaintCount paints;
         view()->viewport()->installEventFilter(&paints);
         lines(100, 1000);
-        QTRY_VERIFY_WITH_TIMEOUT(paints.count > 0, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(paints.count > 0, cPatienceMs);
         QCoreApplication::processEvents();
         QCOMPARE(paints.count, 1);
     }
@@ -257,7 +257,7 @@ private slots:
         clickRow(0);
         Waves waves;
         QVERIFY(QCoreApplication::installTranslator(&waves));
-        QTRY_COMPARE_WITH_TIMEOUT(part<QPushButton>("btnClear")->text(), QStringLiteral("~Clear"), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(part<QPushButton>("btnClear")->text(), QStringLiteral("~Clear"), cPatienceMs);
         QCOMPARE(m_pPanel->windowTitle(), QStringLiteral("~What happens"));
         QCOMPARE(count(), QStringLiteral("~1 lines"));
         QVERIFY(

@@ -15,21 +15,21 @@ private slots:
     void everyCommandHasASentenceOfItsOwn()
     {
         QSet<QString> sentences;
-        for (const Wire::CommandRow &row : Wire::kCommands) {
+        for (const Wire::CommandRow &row : Wire::cCommands) {
             const WireWords::Said said =
                 say(WireLine::FromPlugin, QStringLiteral(R"({"messagetype":"%1"})").arg(row.name));
             QVERIFY2(!said.bad, row.name);
             QVERIFY2(said.sentence.text().startsWith(QLatin1String("the plug-in ")), row.name);
             sentences.insert(said.sentence.text());
         }
-        QCOMPARE(sentences.size(), int(Wire::kCommands.size()));
+        QCOMPARE(sentences.size(), int(Wire::cCommands.size()));
         QVERIFY(say(WireLine::FromPlugin, R"({"messagetype":"SetSpeakerEnable"})").bad);
     }
 
     void everyNotificationHasASentence()
     {
         const QString document = QStringLiteral(R"({\"content\":{},\"result\":{}})");
-        for (const Wire::NotificationRow &row : Wire::kNotifications) {
+        for (const Wire::NotificationRow &row : Wire::cNotifications) {
             const int code = int(row.code);
             const QString line = QStringLiteral(R"({"content":"%1","resultCode":%2})").arg(document).arg(code);
             const WireWords::Said said = say(WireLine::ToPlugin, line);

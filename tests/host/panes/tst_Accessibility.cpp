@@ -40,7 +40,7 @@ private slots:
         m_pWindow->signature().showCard(QStringLiteral("30010002@example.org"), QPoint(300, 0), 100);
         for (QWidget *window : windows()) {
             window->show();
-            QVERIFY(QTest::qWaitForWindowExposed(window, kPatienceMs));
+            QVERIFY(QTest::qWaitForWindowExposed(window, cPatienceMs));
         }
         m_pWindow->settingsPage().open();
         QCoreApplication::processEvents();
@@ -121,7 +121,7 @@ private slots:
     void everyControlOfTheWindowIsReachedByTab()
     {
         m_pWindow->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
         m_pWindow->findChild<QWidget *>(QStringLiteral("editSearch"))->setFocus();
         QStringList stops;
         for (int i = 0; i < 10; ++i) {

@@ -22,7 +22,7 @@ private slots:
         m_pPane->resize(640, 400);
         m_pPane->show();
         m_pPane->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_pPane.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(m_pPane.get(), cPatienceMs));
         m_pTable = m_pPane->findChild<QTableView *>();
     }
 

@@ -23,7 +23,7 @@ private slots:
         m_pPane->resize(380, 640);
         m_pPane->show();
         m_pPane->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_pPane.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(m_pPane.get(), cPatienceMs));
         m_pSearch = m_pPane->findChild<QLineEdit *>(QStringLiteral("editSearch"));
         m_pPane->startSearch();
     }
@@ -189,11 +189,11 @@ private slots:
     void rowWithTheFocusIsScrolledIntoView()
     {
         m_pPane->resize(380, 300);
-        QTRY_VERIFY_WITH_TIMEOUT(row("30010010")->visibleRegion().isEmpty(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(row("30010010")->visibleRegion().isEmpty(), cPatienceMs);
         press(Qt::Key_Down);
         press(Qt::Key_End);
         QTRY_COMPARE_WITH_TIMEOUT(row("30010010")->visibleRegion().boundingRect(), row("30010010")->rect(),
-                                  kPatienceMs);
+                                  cPatienceMs);
     }
 
     void numberIsCalledByReturn()

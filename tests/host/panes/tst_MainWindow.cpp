@@ -34,7 +34,7 @@ private slots:
         m_pSession = std::make_unique<HostSession>(m_book);
         m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
         m_pWindow->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
     }
 
     void cleanup()
@@ -80,7 +80,7 @@ private slots:
         QSignalSpy answered(&m_pWindow->prompt(), &IncomingPrompt::answered);
         ring(QStringLiteral("30010006"));
         QVERIFY(pressButton(&m_pWindow->prompt(), button.constData()));
-        QTRY_COMPARE_WITH_TIMEOUT(answered.count(), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(answered.count(), 1, cPatienceMs);
         QCOMPARE(answered.at(0), (QList<QVariant>{QStringLiteral("30010006"), accept}));
         QCOMPARE(m_pWindow->statusBar()->currentMessage(), status);
         QVERIFY(!m_pWindow->prompt().isVisible());
@@ -104,9 +104,9 @@ private slots:
         IncomingPrompt &prompt = m_pWindow->prompt();
         QSignalSpy answered(&prompt, &IncomingPrompt::answered);
         m_pWindow->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
         ring(QStringLiteral("30010006"));
-        QVERIFY(QTest::qWaitForWindowActive(&prompt, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(&prompt, cPatienceMs));
         for (int i = 0; i < tabs; ++i) {
             QTest::keyClick(prompt.focusWidget(), Qt::Key_Tab);
         }
@@ -127,13 +127,13 @@ private slots:
     {
         QFETCH(QString, typed);
         m_pWindow->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
         QTest::keyClicks(m_pWindow->findChild<QLineEdit *>(QStringLiteral("editSearch")), typed);
         ring(QStringLiteral("30010006"));
-        QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt(), cPatienceMs));
         QFETCH(bool, takes);
         // What must not come cannot be waited for: a second is what it would need.
-        QCOMPARE(takes ? QTest::qWaitForWindowActive(&m_pWindow->prompt(), kPatienceMs)
+        QCOMPARE(takes ? QTest::qWaitForWindowActive(&m_pWindow->prompt(), cPatienceMs)
                        : QTest::qWaitForWindowActive(&m_pWindow->prompt(), 1000),
                  takes);
     }
@@ -141,19 +141,19 @@ private slots:
     void shortcutLeadsToThePrompt()
     {
         m_pWindow->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
         QTest::keyClicks(m_pWindow->findChild<QLineEdit *>(QStringLiteral("editSearch")), QStringLiteral("mari"));
         ring(QStringLiteral("30010006"));
-        QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt(), cPatienceMs));
         QTest::keyClick(m_pWindow.get(), Qt::Key_I, Qt::ControlModifier);
-        QVERIFY(QTest::qWaitForWindowActive(&m_pWindow->prompt(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(&m_pWindow->prompt(), cPatienceMs));
         QCOMPARE(m_pWindow->prompt().focusWidget()->objectName(), QStringLiteral("btnAccept"));
     }
 
     void shortcutLeadsToTheSearch()
     {
         m_pWindow->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
         m_pWindow->findChild<QWidget *>(QStringLiteral("btnConference"))->setFocus();
         QTest::keyClick(m_pWindow.get(), Qt::Key_F, Qt::ControlModifier);
         QCOMPARE(m_pWindow->focusWidget()->objectName(), QStringLiteral("editSearch"));
@@ -201,7 +201,7 @@ private slots:
     {
         QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Offline"));
         QVERIFY(pressButton(m_pWindow.get(), "btnOnline"));
-        QTRY_VERIFY_WITH_TIMEOUT(m_pSession->isOnline(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pSession->isOnline(), cPatienceMs);
         QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Online"));
         QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Signed in as 小明"));
         m_pSession->setOnline(false);
@@ -215,7 +215,7 @@ private slots:
         QVERIFY(!pressButton(m_pWindow.get(), "btnCallNumber"));
         QTest::keyClicks(number, QStringLiteral(" 4711 "));
         QVERIFY(pressButton(m_pWindow.get(), "btnCallNumber"));
-        QTRY_VERIFY_WITH_TIMEOUT(number->text().isEmpty(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(number->text().isEmpty(), cPatienceMs);
         QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Calling 4711"));
     }
 
@@ -305,14 +305,14 @@ private slots:
         const int width = m_pWindow->width();
         QVERIFY(pressButton(m_pWindow.get(), "happeningsButton"));
         QVERIFY(panel->isVisible());
-        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->width() > width, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->width() > width, cPatienceMs);
         QVERIFY(m_pWindow->frameGeometry().right() <= m_pWindow->screen()->availableGeometry().right());
         QTest::keyClick(m_pWindow.get(), Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
         QVERIFY(!panel->isVisible());
-        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->width(), width, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->width(), width, cPatienceMs);
         // It collects while it is hidden.
         deliver(MSG_CLOSE_SIGN_LIST, signListPluginId(), QByteArray());
-        QTRY_COMPARE_WITH_TIMEOUT(panel->model().rowCount(), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(panel->model().rowCount(), 1, cPatienceMs);
     }
 
     void signatureCardComesAndGoesAsThePlugInAsks()
@@ -343,7 +343,7 @@ private slots:
         QVERIFY(m_pSession->store().isOpen());
         MainWindow window(*m_pSession, m_book);
         window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&window, cPatienceMs));
         QVERIFY(WindowProbe::isShown(&window, "lblNotice"));
         const QString notice = WindowProbe::text(&window, "lblNotice");
         QVERIFY2(notice.startsWith(QStringLiteral("The local store was damaged. The file is kept as ")),

@@ -12,8 +12,8 @@
 
 namespace {
 
-const QString kAnswers = QStringLiteral("30010001");
-const QString kBusy = QStringLiteral("30010002");
+const QString cAnswers = QStringLiteral("30010001");
+const QString cBusy = QStringLiteral("30010002");
 
 } // namespace
 
@@ -24,9 +24,9 @@ class tst_MemberPicker : public QObject
 private slots:
     void newConferenceListsEverybodyWithTheNamedChecked()
     {
-        const MemberPicker picker(m_book, MemberPicker::NewConference, {kBusy}, nullptr);
+        const MemberPicker picker(m_book, MemberPicker::NewConference, {cBusy}, nullptr);
         QCOMPARE(list(picker)->count(), m_book.entries().size());
-        QCOMPARE(picker.wish().uids, QStringList{kBusy});
+        QCOMPARE(picker.wish().uids, QStringList{cBusy});
     }
 
     void namedStrangersToTheBookAreListedToo()
@@ -38,7 +38,7 @@ private slots:
 
     void moreMembersLeavesOutThosePresent()
     {
-        MemberPicker picker(m_book, MemberPicker::MoreMembers, {kBusy, QStringLiteral("4711")}, nullptr);
+        MemberPicker picker(m_book, MemberPicker::MoreMembers, {cBusy, QStringLiteral("4711")}, nullptr);
         show(picker);
         QCOMPARE(list(picker)->count(), m_book.entries().size() - 1);
         QVERIFY(picker.wish().uids.isEmpty());
@@ -62,7 +62,7 @@ private slots:
         for (const bool checked : {true, false, true}) {
             QTest::mouseClick(list(picker)->viewport(), Qt::LeftButton, Qt::NoModifier,
                               QPoint(row.left() + x, row.center().y()));
-            QCOMPARE(picker.wish().uids.contains(kAnswers), checked);
+            QCOMPARE(picker.wish().uids.contains(cAnswers), checked);
         }
     }
 
@@ -72,7 +72,7 @@ private slots:
         show(picker);
         list(picker)->setCurrentRow(1);
         QTest::keyClick(list(picker), Qt::Key_Space);
-        QCOMPARE(picker.wish().uids, QStringList{kBusy});
+        QCOMPARE(picker.wish().uids, QStringList{cBusy});
     }
 
     void nobodyPickedCannotBeInvited()
@@ -101,17 +101,17 @@ private slots:
     void cancelledPickerGivesNothing()
     {
         pressWhenOpen("btnCancel");
-        QVERIFY(!MemberPicker::pickNew(m_book, {kBusy}, nullptr));
+        QVERIFY(!MemberPicker::pickNew(m_book, {cBusy}, nullptr));
         pressWhenOpen("btnCancel");
-        QVERIFY(MemberPicker::pickMore(m_book, {kBusy}, nullptr).isEmpty());
+        QVERIFY(MemberPicker::pickMore(m_book, {cBusy}, nullptr).isEmpty());
     }
 
     void acceptedPickerGivesWhatWasPicked()
     {
         pressWhenOpen("btnInvite");
-        const std::optional<ConferenceWish> wish = MemberPicker::pickNew(m_book, {kBusy}, nullptr);
+        const std::optional<ConferenceWish> wish = MemberPicker::pickNew(m_book, {cBusy}, nullptr);
         QVERIFY(wish);
-        QCOMPARE(wish->uids, QStringList{kBusy});
+        QCOMPARE(wish->uids, QStringList{cBusy});
     }
 
 private:
@@ -119,7 +119,7 @@ private:
     static void show(MemberPicker &picker)
     {
         picker.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&picker, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&picker, cPatienceMs));
     }
     /// Presses the button of the picker that comes up next, as soon as it is there.
     static void pressWhenOpen(const char *button)

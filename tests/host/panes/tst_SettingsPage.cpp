@@ -171,7 +171,7 @@ private slots:
                 QVERIFY(!page.isVisible());
             }
             QVERIFY(pressButton(m_pWindow.get(), "btnSettings"));
-            QVERIFY(QTest::qWaitForWindowActive(&page, kPatienceMs));
+            QVERIFY(QTest::qWaitForWindowActive(&page, cPatienceMs));
             QCOMPARE(part<QLabel>("lblFolderError")->text(), QString());
             QCOMPARE(part<QLineEdit>(edit)->text(), folder);
         }
@@ -240,9 +240,9 @@ private slots:
         connect(&m_pSession->settings(), &HostSettings::languageChanged, &words, &HostLanguage::use);
         QVERIFY(pressButton(&m_pWindow->settingsPage(), qPrintable(QStringLiteral("language_") + language)));
         QTRY_COMPARE_WITH_TIMEOUT(stored(HostSettings::commonFile(), "/languageSetting/language"), language,
-                                  kPatienceMs);
+                                  cPatienceMs);
         QFETCH(QString, contacts);
-        QTRY_COMPARE_WITH_TIMEOUT(WindowProbe::text(m_pWindow.get(), "lblContacts"), contacts, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(WindowProbe::text(m_pWindow.get(), "lblContacts"), contacts, cPatienceMs);
         QTEST(WindowProbe::text(m_pWindow->findChild<QWidget *>(QStringLiteral("30010001")), "lblPresence"),
               "presence");
         QTEST(part<QCheckBox>("boxSilent")->text(), "silent");
@@ -265,7 +265,7 @@ private slots:
     {
         QVERIFY(m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")));
         QVERIFY(pressButton(&m_pWindow->settingsPage(), "skin_ThemeBlue"));
-        QTRY_COMPARE_WITH_TIMEOUT(SkinContext::getSkinData()->m_strSkinName, QStringLiteral("ThemeBlue"), kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(SkinContext::getSkinData()->m_strSkinName, QStringLiteral("ThemeBlue"), cPatienceMs);
         QCOMPARE(stored(HostSettings::userFile(), "/skinSetting/skinName"), QStringLiteral("ThemeBlue"));
         QVERIFY(!m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")));
         QVERIFY(m_pWindow->styleSheet().contains(QStringLiteral("#1f5bb3")));
@@ -273,7 +273,7 @@ private slots:
         QCOMPARE(SkinContext::getSkinData()->m_strSecondButtonBackgroundColor, QStringLiteral("#2b83fd"));
         QCOMPARE(HostSkins::darkColour(), QColor(QStringLiteral("#1f5bb3")));
         QVERIFY(pressButton(&m_pWindow->settingsPage(), "skin_ThemeGreen"));
-        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")), cPatienceMs);
     }
 
     void colourIsThereAgainAtTheNextStart()
@@ -368,7 +368,7 @@ private:
         m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
         m_pWindow->show();
         QVERIFY(pressButton(m_pWindow.get(), "btnSettings"));
-        QVERIFY(QTest::qWaitForWindowActive(&m_pWindow->settingsPage(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowActive(&m_pWindow->settingsPage(), cPatienceMs));
     }
 
     ContactBook m_book{QStringLiteral("example.org")};

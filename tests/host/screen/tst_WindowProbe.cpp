@@ -14,14 +14,14 @@
 
 namespace {
 
-constexpr int idRole = Qt::UserRole + 90;
-constexpr int rectRole = Qt::UserRole + 10;
+constexpr int cIdRole = Qt::UserRole + 90;
+constexpr int cRectRole = Qt::UserRole + 10;
 
 QStandardItem *itemOf(const char *strId, const QRect &rect = QRect())
 {
     auto *item = new QStandardItem(QLatin1String(strId));
-    item->setData(QLatin1String(strId), idRole);
-    item->setData(rect, rectRole);
+    item->setData(QLatin1String(strId), cIdRole);
+    item->setData(rect, cRectRole);
     return item;
 }
 
@@ -58,48 +58,49 @@ private slots:
         m_cells.setItem(1, 0, itemOf("c"));
         window()->resize(400, 400);
         window()->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window(), kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(window(), cPatienceMs));
     }
 
     void cellOfAnyColumnIsFound()
     {
-        QCOMPARE(WindowProbe::rowData(window(), {"cells", idRole, QStringLiteral("b")}, Qt::DisplayRole).toString(),
+        QCOMPARE(WindowProbe::rowData(window(), {"cells", cIdRole, QStringLiteral("b")}, Qt::DisplayRole).toString(),
                  QStringLiteral("b"));
-        QVERIFY(!WindowProbe::rowData(window(), {"cells", idRole, QStringLiteral("d")}, Qt::DisplayRole).isValid());
+        QVERIFY(!WindowProbe::rowData(window(), {"cells", cIdRole, QStringLiteral("d")}, Qt::DisplayRole).isValid());
     }
 
     void emptyCellsDoNotCount()
     {
-        QCOMPARE(WindowProbe::rowCount(window(), "cells", idRole), 3);
-        QCOMPARE(WindowProbe::rowCount(window(), "rows", idRole), 100);
+        QCOMPARE(WindowProbe::rowCount(window(), "cells", cIdRole), 3);
+        QCOMPARE(WindowProbe::rowCount(window(), "rows", cIdRole), 100);
     }
 
     void rowThatIsScrolledAwayHasNoPlace()
     {
-        QCOMPARE(WindowProbe::rowMiddle(window(), {"rows", idRole, QStringLiteral("0")}).widget, m_list->viewport());
-        QVERIFY(WindowProbe::rowMiddle(window(), {"rows", idRole, QStringLiteral("99")}).widget == nullptr);
+        QCOMPARE(WindowProbe::rowMiddle(window(), {"rows", cIdRole, QStringLiteral("0")}).widget, m_list->viewport());
+        QVERIFY(WindowProbe::rowMiddle(window(), {"rows", cIdRole, QStringLiteral("99")}).widget == nullptr);
         m_list->scrollToBottom();
-        QCOMPARE(WindowProbe::rowMiddle(window(), {"rows", idRole, QStringLiteral("99")}).widget, m_list->viewport());
+        QCOMPARE(WindowProbe::rowMiddle(window(), {"rows", cIdRole, QStringLiteral("99")}).widget, m_list->viewport());
     }
 
     void partIsTheMiddleOfItsRectangle()
     {
-        const WindowProbe::Spot spot = WindowProbe::rowPart(window(), {"rows", idRole, QStringLiteral("0")}, rectRole);
+        const WindowProbe::Spot spot =
+            WindowProbe::rowPart(window(), {"rows", cIdRole, QStringLiteral("0")}, cRectRole);
         QCOMPARE(spot.widget, m_list->viewport());
         QCOMPARE(spot.place, QRect(10, 4, 20, 10).center());
     }
 
     void rowWithoutThatPartHasNoPlace()
     {
-        QVERIFY(WindowProbe::rowPart(window(), {"rows", idRole, QStringLiteral("1")}, rectRole).widget == nullptr);
-        QVERIFY(WindowProbe::rowPart(window(), {"rows", idRole, QStringLiteral("no")}, rectRole).widget == nullptr);
+        QVERIFY(WindowProbe::rowPart(window(), {"rows", cIdRole, QStringLiteral("1")}, cRectRole).widget == nullptr);
+        QVERIFY(WindowProbe::rowPart(window(), {"rows", cIdRole, QStringLiteral("no")}, cRectRole).widget == nullptr);
     }
 
     void hiddenListHasNoRows()
     {
         m_list->hide();
-        QCOMPARE(WindowProbe::rowCount(window(), "rows", idRole), -1);
-        QVERIFY(WindowProbe::rowMiddle(window(), {"rows", idRole, QStringLiteral("0")}).widget == nullptr);
+        QCOMPARE(WindowProbe::rowCount(window(), "rows", cIdRole), -1);
+        QVERIFY(WindowProbe::rowMiddle(window(), {"rows", cIdRole, QStringLiteral("0")}).widget == nullptr);
     }
 
     void buttonThatCannotBePressedHasNoPlace()
@@ -124,7 +125,7 @@ private slots:
         QVERIFY(window()->frameGeometry().width() < least.width());
         QVERIFY(!WindowProbe::savePicture(window(), file));
         QVERIFY(!QFile::exists(file));
-        QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::savePicture(window(), file), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::savePicture(window(), file), cPatienceMs);
         const QSize saved = QImage(file).size();
         QVERIFY2(saved.width() >= least.width() && saved.height() >= least.height(),
                  qPrintable(QStringLiteral("%1x%2").arg(saved.width()).arg(saved.height())));

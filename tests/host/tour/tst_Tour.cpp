@@ -95,12 +95,12 @@ private slots:
         QProcess demo;
         demo.setProcessEnvironment(m_environment);
         demo.start(m_strDemo, QStringList());
-        QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::FromPlugin, QStringLiteral("RegeditUser")), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::FromPlugin, QStringLiteral("RegeditUser")), cPatienceMs);
         demo.terminate();
-        QVERIFY(demo.waitForFinished(kPatienceMs));
+        QVERIFY(demo.waitForFinished(cPatienceMs));
         QCOMPARE(demo.exitStatus(), QProcess::NormalExit);
         QCOMPARE(demo.exitCode(), 130);
-        QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::Event, QStringLiteral("stopped listening")), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, WireLine::Event, QStringLiteral("stopped listening")), cPatienceMs);
         QVERIFY(isTraced(trace, WireLine::FromPlugin, QStringLiteral("quit")));
     }
 
@@ -111,7 +111,7 @@ private slots:
         QProcess demo;
         demo.setProcessEnvironment(m_environment);
         demo.start(lonely, {QStringLiteral("--tour"), QStringLiteral("tour-without")});
-        QVERIFY(demo.waitForFinished(kPatienceMs));
+        QVERIFY(demo.waitForFinished(cPatienceMs));
         QCOMPARE(demo.exitCode(), 1);
         QVERIFY(demo.readAllStandardError().contains("libVoipManage.so"));
     }

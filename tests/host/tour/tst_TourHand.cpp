@@ -160,7 +160,7 @@ private slots:
         show(button, {100, 100});
         m_hand->click(at(&button));
         QVERIFY(finished());
-        QTRY_VERIFY_WITH_TIMEOUT(!button.geometry().contains(QCursor::pos()), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!button.geometry().contains(QCursor::pos()), cPatienceMs);
     }
 
     void whatLastsForLessThanATickIsSeen()
@@ -177,7 +177,7 @@ private slots:
         Tour tour(watch, *m_hand, {{QStringLiteral("Flash"), act, {check}, 1000}}, QString());
         const QSignalSpy finished(&tour, &Tour::finished);
         tour.start();
-        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, cPatienceMs);
         QVERIFY(finished.at(0).at(0).toBool());
     }
 
@@ -204,7 +204,7 @@ private:
                 m_hand->work();
                 return m_hand->isIdle();
             },
-            kPatienceMs);
+            cPatienceMs);
         QCoreApplication::processEvents();
         return done;
     }
@@ -212,7 +212,7 @@ private:
     {
         window.setGeometry(QRect(place, QSize(200, 100)));
         window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window, kPatienceMs));
+        QVERIFY(QTest::qWaitForWindowExposed(&window, cPatienceMs));
     }
 
     std::unique_ptr<TourHand> m_hand;
