@@ -7,7 +7,7 @@
 namespace {
 
 // The client's fixed system account: no card is ever asked for it.
-constexpr QLatin1String cSystemAccount("kv6005626532");
+constexpr const char *cSystemAccount = "kv6005626532";
 
 } // namespace
 
@@ -17,7 +17,7 @@ bool StrangerCards::test(const QString &uid)
     const FriendData record = VoipManageEventProcess::getFriendInfoByJid(jid);
     // Deliberate: the contact plug-in is asked in any case, for the system account and for records at hand too.
     const bool known = VoipManageEventProcess::isExistFriend(jid);
-    if (known || uid == cSystemAccount) {
+    if (known || uid == QLatin1String(cSystemAccount)) {
         return false;
     }
     ids.append(UserIds::getUidByJid(uid));

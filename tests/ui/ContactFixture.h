@@ -8,6 +8,8 @@
 #include "model/LoginData.h"
 #include "model/SharedContext.h"
 
+#include <QFont>
+
 class ContactFixture
 {
 public:
