@@ -3,15 +3,13 @@
 #include "common/BuiltInPictures.h"
 #include "common/CLogManger.h"
 #include "common/Palette.h"
-#include "common/pictures/ImagePath.h"
 #include "common/system/DpiScale.h"
 #include "common/system/LocalClock.h"
 #include "common/text/ShortText.h"
-#include "model/FriendData.h"
 #include "model/MemberRoles.h"
 #include "model/UserIds.h"
-#include "plugin/VoipManageEventProcess.h"
 #include "ui/ConferenceListViewDelegate.h"
+#include "ui/ShownContact.h"
 
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -176,7 +174,7 @@ void CConferenceListView::updateUserInfo(QString strJid, VcardInfo vcard)
     if (pItem == nullptr) {
         return;
     }
-    pItem->setData(ImagePath::getTrueImagePath(vcard.m_strPhotoPath, strDEFAULT_HEAD_PATH), ROLE_HEAD_PATH);
+    pItem->setData(ShownContact::headPathOf(vcard), ROLE_HEAD_PATH);
     // Deliberate: the card's nick name, not the contact's shown name.
     pItem->setData(vcard.m_strNickName, ROLE_DISPLAY_NAME);
 }
@@ -332,16 +330,15 @@ void CConferenceListView::appendUserItem(const QString &strUserID)
 
 QStandardItem *CConferenceListView::creatUserItem(const QString &strUserID)
 {
-    const FriendData member = VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(strUserID));
+    const ShownContact member = ShownContact::ofUser(strUserID);
     // The model takes the item over as soon as it is appended.
     static const BlankRow s_blank;
     QStandardItem *pItem = s_blank.clone();
-    const QString strHead = ImagePath::getTrueImagePath(member.m_vcardInfo.m_strPhotoPath, strDEFAULT_HEAD_PATH);
-    if (strHead != strDEFAULT_HEAD_PATH) {
-        pItem->setData(strHead, ROLE_HEAD_PATH);
+    if (member.strHeadPath != strDEFAULT_HEAD_PATH) {
+        pItem->setData(member.strHeadPath, ROLE_HEAD_PATH);
     }
     pItem->setData(strUserID, ROLE_USER_ID);
-    pItem->setData(member.displayName(), ROLE_DISPLAY_NAME);
+    pItem->setData(member.record.displayName(), ROLE_DISPLAY_NAME);
     if (m_bIsCallByMe) {
         pItem->setData(true, ROLE_CALL_BY_ME);
     }
