@@ -12,15 +12,15 @@
 
 namespace {
 
-const QString cAnswers = QString::fromLatin1(Robots::cAnswers);
-const QString cBusy = QString::fromLatin1(Robots::cBusy);
-const QString cRejects = QString::fromLatin1(Robots::cRejects);
+const QString cAnswers = QString::fromLatin1(Robots::answers);
+const QString cBusy = QString::fromLatin1(Robots::busy);
+const QString cRejects = QString::fromLatin1(Robots::rejects);
 const QString cNever = QString::fromLatin1(Robots::silent);
-const QString cFails = QString::fromLatin1(Robots::cFails);
-const QString cHangsUp = QString::fromLatin1(Robots::cHangsUp);
-const QString cCallsBack = QString::fromLatin1(Robots::cCallsBack);
-const QString cInvites = QString::fromLatin1(Robots::cInvites);
-const QString cCrosses = QString::fromLatin1(Robots::cCrosses);
+const QString cFails = QString::fromLatin1(Robots::fails);
+const QString cHangsUp = QString::fromLatin1(Robots::hangsUp);
+const QString cCallsBack = QString::fromLatin1(Robots::callsBack);
+const QString cInvites = QString::fromLatin1(Robots::invites);
+const QString cCrosses = QString::fromLatin1(Robots::crosses);
 const QString cNobody = QStringLiteral("39999999");
 
 // Results in a call's record.
