@@ -15,15 +15,15 @@
 
 namespace {
 
-constexpr QSize lineSize(210, 30);
-constexpr QSize textSize(210, 64);
+constexpr QSize cLineSize(210, 30);
+constexpr QSize cTextSize(210, 64);
 // Seven Chinese characters, or fourteen Latin ones.
 constexpr int cTagColumns = 14;
 
 CLineEditEx *lineEdit(const QString &strText = QString())
 {
     auto *edit = new CLineEditEx;
-    edit->setFixedSize(lineSize);
+    edit->setFixedSize(cLineSize);
     edit->setText(strText);
     return edit;
 }
@@ -67,7 +67,7 @@ CLineEditEx *disabledEdit()
 CTextEditEx *textEdit(const QString &strText)
 {
     auto *edit = new CTextEditEx;
-    edit->setFixedSize(textSize);
+    edit->setFixedSize(cTextSize);
     edit->setPlainText(strText);
     return edit;
 }

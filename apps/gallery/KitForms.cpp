@@ -20,8 +20,8 @@
 
 namespace {
 
-constexpr QSize formSize(130, 96);
-constexpr QSize fieldSize(130, 72);
+constexpr QSize cFormSize(130, 96);
+constexpr QSize cFieldSize(130, 72);
 constexpr int cTitleHeight = 30;
 // The inset of a window with a list at its left.
 constexpr int cLineOffset = 40;
@@ -29,7 +29,7 @@ constexpr int cLineOffset = 40;
 CBaseFormEx *form(int iTitleHeight)
 {
     auto *form = new CBaseFormEx;
-    form->setFixedSize(formSize);
+    form->setFixedSize(cFormSize);
     form->setTitleHeightEx(iTitleHeight);
     return form;
 }
@@ -95,7 +95,7 @@ class BandField : public QLabel
 public:
     BandField() : m_band(QRubberBand::Rectangle)
     {
-        setFixedSize(fieldSize);
+        setFixedSize(cFieldSize);
         setAlignment(Qt::AlignCenter);
         setText(QStringLiteral("drag here"));
         setStyleSheet(QStringLiteral("font:11px 微软雅黑;color:%1;border:1px solid %1;").arg(strCOLOR_ICON_MID_GREY));
@@ -122,7 +122,7 @@ private:
 QWidget *rubberBand()
 {
     auto *frame = new QWidget;
-    frame->setFixedSize(fieldSize);
+    frame->setFixedSize(cFieldSize);
     auto *band = new MyRubberBand(QRubberBand::Rectangle, frame);
     band->setGeometry(frame->rect());
     band->show();

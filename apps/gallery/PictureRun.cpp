@@ -13,8 +13,8 @@
 
 namespace {
 
-constexpr QSize groundMargin(10, 10);
-const QColor ground(0xc8, 0xcf, 0xd6);
+constexpr QSize cGroundMargin(10, 10);
+const QColor cGround(0xc8, 0xcf, 0xd6);
 
 QString fileOf(const GalleryPage &page)
 {
@@ -31,11 +31,11 @@ QPixmap pictureOf(const DialogMode &mode)
 {
     const QPixmap dialog = DialogPicture::of(mode);
     const QSize size = dialog.size() / dialog.devicePixelRatio();
-    QImage picture((size + 2 * groundMargin) * dialog.devicePixelRatio(), QImage::Format_RGB32);
+    QImage picture((size + 2 * cGroundMargin) * dialog.devicePixelRatio(), QImage::Format_RGB32);
     picture.setDevicePixelRatio(dialog.devicePixelRatio());
-    picture.fill(ground);
+    picture.fill(cGround);
     QPainter painter(&picture);
-    painter.drawPixmap(groundMargin.width(), groundMargin.height(), dialog);
+    painter.drawPixmap(cGroundMargin.width(), cGroundMargin.height(), dialog);
     painter.end();
     return QPixmap::fromImage(picture);
 }

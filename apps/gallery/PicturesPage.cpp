@@ -17,7 +17,7 @@ constexpr int cAvatarSide = 56;
 // Heads ship larger than anybody shows them.
 constexpr int cHeadSide = 90;
 // The part of the watermark that is shown, in pixels of the picture.
-constexpr QRect waterMarkPart(0, 0, 560, 260);
+constexpr QRect cWaterMarkPart(0, 0, 560, 260);
 
 struct NamedPictures
 {
@@ -148,5 +148,5 @@ void PicturesPage::addWaterMark()
     QString path;
     const bool made = WaterMark::generateWaterMark(name, id, path);
     row(QStringLiteral("a part of it"),
-        {made ? picture(QPixmap(path).copy(waterMarkPart)) : caption(QStringLiteral("could not be made"))});
+        {made ? picture(QPixmap(path).copy(cWaterMarkPart)) : caption(QStringLiteral("could not be made"))});
 }

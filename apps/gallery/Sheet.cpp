@@ -18,7 +18,7 @@ constexpr int cHeadingPixels = 16;
 constexpr int cCaptionPixels = 11;
 constexpr int cDarkMargin = 6;
 
-const QColor darkGround(0x3a, 0x40, 0x48);
+const QColor cDarkGround(0x3a, 0x40, 0x48);
 
 QLabel *textLine(const QString &strText, int iPixels, const QString &strColor)
 {
@@ -43,7 +43,7 @@ void fillGround(QWidget *widget, const QColor &color)
 QWidget *onDarkGround(QWidget *specimen)
 {
     auto *ground = new QWidget;
-    fillGround(ground, darkGround);
+    fillGround(ground, cDarkGround);
     auto *layout = new QHBoxLayout(ground);
     layout->setContentsMargins(cDarkMargin, cDarkMargin, cDarkMargin, cDarkMargin);
     layout->addWidget(specimen);

@@ -28,7 +28,7 @@ namespace {
 // done before they go on, on a busy machine too.
 constexpr const char *cTourSpeed = "2";
 // Leaves room for the call window beside the client's.
-constexpr QPoint tourCorner(20, 20);
+constexpr QPoint cTourCorner(20, 20);
 // Exit code of a client that was ended by a signal.
 constexpr int cEndedFromOutside = 130;
 // Log, store and settings tell who calls whom, the log also what this client signs in with: nobody else reads them.
@@ -68,7 +68,7 @@ int runTour(HostSession &session, MainWindow &window, const QString &strFolder, 
         return EXIT_FAILURE;
     }
     hand.rest();
-    window.move(tourCorner);
+    window.move(cTourCorner);
     window.show();
     const CallProcess process(strTraceFile);
     TourWatch watch(session, strTraceFile);

@@ -21,6 +21,7 @@
 #include <QLabel>
 
 #include <iterator>
+#include <string_view>
 
 namespace {
 
@@ -116,7 +117,7 @@ void shortened(const QString &text)
     ShortText::getElidedText(text);
 }
 
-constexpr void (*kReaders[])(const QString &text) = {body, links, plain,    images, bounds,
+constexpr void (*cReaders[])(const QString &text) = {body, links, plain,    images, bounds,
                                                      tags, dom,   entities, label,  shortened};
 
 // The limit is what the system itself grants a text of that length, estimated, and some for the rest: nothing that it
@@ -124,7 +125,7 @@ constexpr void (*kReaders[])(const QString &text) = {body, links, plain,    imag
 constexpr bool hasTimeForWhatIsGranted()
 {
     for (const FuzzTarget &target : cFuzzTargets) {
-        if (target.run == FuzzTargets::html) {
+        if (std::string_view(target.name) == "html") {
             return target.hangMs * 1000 > HtmlCost::mostMicroseconds(target.longest);
         }
     }
@@ -145,6 +146,6 @@ void FuzzTargets::html(const QByteArray &input)
     if (input.isEmpty()) {
         return;
     }
-    const auto reader = uchar(input.at(0)) % std::size(kReaders);
-    kReaders[reader](QString::fromUtf8(input.mid(1)));
+    const auto reader = uchar(input.at(0)) % std::size(cReaders);
+    cReaders[reader](QString::fromUtf8(input.mid(1)));
 }

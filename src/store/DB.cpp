@@ -25,7 +25,7 @@ constexpr const char *cRetiredTables[] = {
     "muclocalmsg",   "msglist",       "appnumber",          "appnumberversion",
 };
 
-constexpr void (*tableCreators[])() = {
+constexpr void (*cTableCreators[])() = {
     DB::createLoginTable,
     DB::createLatestFrdTable,
     DB::creatDeletedFrdTable,
@@ -229,7 +229,7 @@ bool DB::replaceFiled(const QSqlDatabase &db, const QString &table, const QStrin
 
 void DB::createTable()
 {
-    for (const auto creator : tableCreators) {
+    for (const auto creator : cTableCreators) {
         if (StoreOpening::isShutOut()) {
             return;
         }

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr int cTextPixels = 12;
-constexpr QColor cLineColor_(224, 224, 224);
+constexpr QColor cLineColor(224, 224, 224);
 
 // Wider than any glyph, so that none is ever cut.
 constexpr int cGlyphRoom = 1024;
@@ -111,7 +111,7 @@ void RowPainter::drawGlyph(QPainter &painter, LineCache &lines, const QRect &pla
 
 void RowPainter::drawBottomLine(QPainter &painter, int iLeft, int iRight, int iBottom)
 {
-    painter.fillRect(QRect(QPoint(iLeft, iBottom), QPoint(iRight, iBottom)), cLineColor_);
+    painter.fillRect(QRect(QPoint(iLeft, iBottom), QPoint(iRight, iBottom)), cLineColor);
 }
 
 void RowPainter::keepRect(const QModelIndex &index, int iRole, const QRect &place)

@@ -5,7 +5,9 @@
 #include <cstdlib>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#include <sanitizer/allocator_interface.h>
+/// The sanitizer's own, which the compiler's headers do not declare.
+extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*allocated)(const volatile void *, std::size_t),
+                                                         void (*freed)(const volatile void *));
 #endif
 
 namespace {

@@ -69,7 +69,7 @@ void findValue(const QString &strText, int *iBegin, int *iEnd)
     } else {
         *iEnd = place;
         while (*iEnd < strText.size() && strText.at(*iEnd) != QLatin1Char('"') &&
-               strText.at(*iEnd) != lineFeedPicture) {
+               strText.at(*iEnd) != cLineFeedPicture) {
             ++*iEnd;
         }
     }

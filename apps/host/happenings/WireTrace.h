@@ -6,7 +6,7 @@
 #include <QString>
 
 /// What stands in the trace for a line feed within one write.
-inline constexpr QChar lineFeedPicture(0x240A);
+inline constexpr QChar cLineFeedPicture(0x240A);
 
 /// One line of the call process's trace.
 struct WireLine

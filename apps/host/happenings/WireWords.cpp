@@ -294,10 +294,10 @@ WireWords::Said WireWords::say(const WireLine &line, const SecretMask &mask)
 QStringList WireWords::split(const QString &strText)
 {
     QJsonObject object;
-    if (!strText.contains(lineFeedPicture) || parse(strText, &object)) {
+    if (!strText.contains(cLineFeedPicture) || parse(strText, &object)) {
         return {strText};
     }
-    return strText.split(lineFeedPicture);
+    return strText.split(cLineFeedPicture);
 }
 
 QString WireWords::secretOf(const QString &strText)
