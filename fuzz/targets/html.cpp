@@ -116,7 +116,7 @@ void shortened(const QString &text)
     ShortText::getElidedText(text);
 }
 
-constexpr void (*kReaders[])(const QString &text) = {body, links, plain,    images, bounds,
+constexpr void (*cReaders[])(const QString &text) = {body, links, plain,    images, bounds,
                                                      tags, dom,   entities, label,  shortened};
 
 // The limit is what the system itself grants a text of that length, estimated, and some for the rest: nothing that it
@@ -145,6 +145,6 @@ void FuzzTargets::html(const QByteArray &input)
     if (input.isEmpty()) {
         return;
     }
-    const auto reader = uchar(input.at(0)) % std::size(kReaders);
-    kReaders[reader](QString::fromUtf8(input.mid(1)));
+    const auto reader = uchar(input.at(0)) % std::size(cReaders);
+    cReaders[reader](QString::fromUtf8(input.mid(1)));
 }
