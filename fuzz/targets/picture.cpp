@@ -20,7 +20,7 @@ namespace {
 void read(const QString &path)
 {
     const QPixmap picture = readPictureFile(path);
-    requirePromise(qint64(picture.width()) * picture.height() <= cIMOSTPICTUREPIXELS, "no picture is too large");
+    requirePromise(qint64(picture.width()) * picture.height() <= cMostPicturePixels, "no picture is too large");
 }
 
 void names(const QString &path)
@@ -71,7 +71,7 @@ void rename(const QString &path)
     }
 }
 
-constexpr void (*kReaders[])(const QString &path) = {read, names, scale, round, shape, store, frame, rename};
+constexpr void (*cReaders[])(const QString &path) = {read, names, scale, round, shape, store, frame, rename};
 
 } // namespace
 
@@ -94,6 +94,6 @@ void FuzzTargets::picture(const QByteArray &input)
     QFile file(path);
     requirePromise(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(), "the picture can be written");
     file.close();
-    kReaders[uchar(input.at(0)) % std::size(kReaders)](path);
+    cReaders[uchar(input.at(0)) % std::size(cReaders)](path);
     QFile::remove(path);
 }

@@ -25,7 +25,7 @@ namespace {
 #define URL_ASK_SignIn
 #define URL_ASK_Arg QStringLiteral("%1 %2")
 #define URL_GETTER(name, key, endpoint, path, form) [] { return CUrlInfo::name(URL_ASK_##form); },
-constexpr QString (*kGetters[])() = {
+constexpr QString (*cGetters[])() = {
 #include "common/CUrlInfo.def"
 };
 constexpr int cAskedGetters = 8;
@@ -103,14 +103,14 @@ void readAddresses(const QByteArray &bytes)
     QMap<QString, QString> domains;
     CUrlInfo::getSipPhoneRegDomain(domains);
     requirePromise(!domains.isEmpty(), "there is always a host");
-    constexpr auto count = int(std::size(kGetters));
+    constexpr auto count = int(std::size(cGetters));
     for (const char byte : bytes.left(cAskedGetters)) {
-        kGetters[uchar(byte) % count]();
+        cGetters[uchar(byte) % count]();
     }
     QFile::remove(path);
 }
 
-constexpr void (*kReaders[])(const QByteArray &bytes) = {readValues, translate, readUser, readCommon, readAddresses};
+constexpr void (*cReaders[])(const QByteArray &bytes) = {readValues, translate, readUser, readCommon, readAddresses};
 
 } // namespace
 
@@ -118,6 +118,6 @@ constexpr void (*kReaders[])(const QByteArray &bytes) = {readValues, translate, 
 void FuzzTargets::settings(const QByteArray &input)
 {
     if (!input.isEmpty()) {
-        kReaders[uchar(input.at(0)) % std::size(kReaders)](input.mid(1));
+        cReaders[uchar(input.at(0)) % std::size(cReaders)](input.mid(1));
     }
 }

@@ -6,7 +6,7 @@
 namespace {
 
 // Here, because every program that shares a context links this source.
-[[maybe_unused]] const bool cGBMetaTypesRegistered = registerRecordMetaTypes();
+[[maybe_unused]] const bool cMetaTypesRegistered = registerRecordMetaTypes();
 
 template <typename Record>
 QMap<QString, Record> recordsByKeys(const QMap<QString, Record> &mapRecord, const QStringList &listKey)

@@ -126,7 +126,6 @@ class tst_CallWindowPictures : public QObject
 
 private:
     /// The window with that page on the screen.
-
     QImage picture(const SetUp &setUp)
     {
         CVoipWidget window;

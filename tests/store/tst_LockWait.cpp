@@ -14,6 +14,9 @@ namespace {
 const QString cEverything = QStringLiteral("BEGIN EXCLUSIVE");
 const QString cLook = QStringLiteral("SELECT count(*) FROM msgrecord");
 
+// A lock of a second is waited out, and nobody's client stands still for longer than two.
+static_assert(LockWait::cLimitMs > 1000 && LockWait::cLimitMs <= 2000);
+
 /// A connection that is opened for a flow.
 class FlowConnection
 {

@@ -32,7 +32,7 @@ bool isAllowed(const QByteArray &format, const QSize &size, qint64 iFileBytes)
     }
     const qint64 iWidth = size.width();
     const qint64 iHeight = qAbs(qint64(size.height()));
-    const qint64 iMost = qMin(cIMOSTPICTUREPIXELS, iFileBytes * row->iMostPixelsPerByte);
+    const qint64 iMost = qMin(cMostPicturePixels, iFileBytes * row->iMostPixelsPerByte);
     return iWidth > 0 && iHeight > 0 && iWidth * iHeight <= iMost;
 }
 

@@ -58,7 +58,7 @@ private slots:
         image.fill(0);
         QVERIFY(readPictureFile(writeBytes(QStringLiteral("more.png"), encoded(image, "PNG"))).isNull());
         image = image.copy(0, 0, 8192, 8192);
-        QCOMPARE(qint64(image.width()) * image.height(), cIMOSTPICTUREPIXELS);
+        QCOMPARE(qint64(image.width()) * image.height(), cMostPicturePixels);
         QCOMPARE(readPictureFile(writeBytes(QStringLiteral("most.png"), encoded(image, "PNG"))).size(),
                  QSize(8192, 8192));
     }
