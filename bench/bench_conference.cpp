@@ -36,7 +36,7 @@ QString uid(int number)
     return QStringLiteral("3001") + QString::number(number);
 }
 
-/// Knows every member as a contact.
+/// Knows every member as a contact, and answers at once.
 class Host : public QObject
 {
 protected:
@@ -45,8 +45,13 @@ protected:
         auto *command = static_cast<BaseEvent *>(event);
         if (command->msgId == MSG_IS_EXIST_FRIEND) {
             command->data = packPayload(true);
+        } else if (command->msgId == MSG_GET_FRIEND_INFO) {
+            command->data = packPayload(static_cast<qint64>(reinterpret_cast<quintptr>(&m_record)));
         }
     }
+
+private:
+    const FriendData m_record;
 };
 
 /// Whether a widget has been painted since the last look.
@@ -146,6 +151,15 @@ void membersNew(benchmark::State &state)
     engine.callFinished(CallData::FinishHangup);
 }
 BENCHMARK(membersNew)->Arg(10)->Arg(100)->Arg(1000)->Arg(cMostMembers)->UseManualTime()->Iterations(2);
+
+/// New members of whom the client's map of contacts has none, so that the host is asked for each.
+void membersAskedFor(benchmark::State &state)
+{
+    SharedContext::setFriendDataMap({});
+    membersNew(state);
+    SharedContext::setFriendDataMap(contacts(cMostMembers));
+}
+BENCHMARK(membersAskedFor)->Arg(1000)->Arg(cMostMembers)->UseManualTime()->Iterations(2);
 
 /// 1,000 new members among so many contacts: none of them is copied or walked through for a member.
 void membersNewAmong(benchmark::State &state)

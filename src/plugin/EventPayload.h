@@ -65,6 +65,12 @@ inline bool firstFlag(const QByteArray &payload)
     return !payload.isEmpty() && payload.front() != '\0';
 }
 
+/// The first field of a payload as a PayloadReader takes it when it is an int64, 0 when there is less: as above.
+inline qint64 firstNumber(const QByteArray &payload)
+{
+    return payload.size() < int(sizeof(qint64)) ? 0 : qFromBigEndian<qint64>(payload.constData());
+}
+
 /// Reads the fields of a payload in their order. A payload that is too short gives default values (false, an empty
 /// text, 0) and of a list of strings those that are there.
 class PayloadReader

@@ -13,18 +13,24 @@ namespace {
 
 // Sends one request. The result is the event as its receiver left it, for the answer to be read; it is null when the
 // event is no longer the sender's or stays undeleted.
-template <EMsgId msgId, typename... Fields>
-std::unique_ptr<BaseEvent> request(const Fields &...fields)
+template <EMsgId msgId>
+std::unique_ptr<BaseEvent> requestWith(const QByteArray &payload)
 {
     constexpr const HostRequest &route = hostRequest(msgId);
     auto event = std::make_unique<BaseEvent>(msgId, route.senderId(), route.receiverId(),
-                                             route.delivery == Delivery::Queued, packPayload(fields...));
+                                             route.delivery == Delivery::Queued, payload);
     if (route.delivery == Delivery::AtOnce) {
         VoipManageMessageProcess::instance()->sendCommand(event.get());
         return event;
     }
     VoipManageMessageProcess::instance()->sendCommand(event.release());
     return nullptr;
+}
+
+template <EMsgId msgId, typename... Fields>
+std::unique_ptr<BaseEvent> request(const Fields &...fields)
+{
+    return requestWith<msgId>(packPayload(fields...));
 }
 
 } // namespace
@@ -60,12 +66,13 @@ FriendData VoipManageEventProcess::getFriendInfoByJid(QString strJid)
     if (known != friends.constEnd()) {
         return known.value();
     }
-    const auto event = request<MSG_GET_FRIEND_INFO>(strJid);
+    const QByteArray question = packPayload(strJid);
+    const auto event = requestWith<MSG_GET_FRIEND_INFO>(question);
     // When nobody has answered, the payload is still the question, and its bytes must not be taken for an address.
-    if (event->data == packPayload(strJid)) {
+    if (event->data == question) {
         return {};
     }
-    return recordAt<FriendData>(PayloadReader(event->data).take<qint64>());
+    return recordAt<FriendData>(firstNumber(event->data));
 }
 
 bool VoipManageEventProcess::isExistFriend(QString strJid)

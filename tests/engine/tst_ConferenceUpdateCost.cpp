@@ -1,6 +1,7 @@
-// What an update of very many new members asks of the system and of the host: counted, not timed.
+// What an update of very many new members costs: what it asks of the system and of the host, and its processor time.
 
 #include "ConferenceContent.h"
+#include "ProcessorClock.h"
 #include "fakes/EngineFixture.h"
 
 #include <QTest>
@@ -72,6 +73,20 @@ private slots:
                 QCOMPARE(event.reader().take<QString>(), EngineFixture::jid(uid(i)));
             }
         }
+    }
+
+    // Beside a host that answers at once.
+    void clientStandsStillForLessThanATenthOfASecond()
+    {
+        EngineFixture f;
+        f.createConference();
+        f.host.bRecords = false;
+        const QString content = update();
+        const ProcessorClock clock;
+        f.notify(12, content);
+        const double dSeconds = clock.seconds();
+        QCOMPARE(f.members().size(), cMembers + 2);
+        QVERIFY2(dSeconds < 0.1 * VOIP_TIMES_SLOWER, qPrintable(QString::number(dSeconds)));
     }
 };
 

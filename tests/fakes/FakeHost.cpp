@@ -3,6 +3,10 @@
 void FakeHost::customEvent(QEvent *event)
 {
     auto &command = *static_cast<BaseEvent *>(event);
+    if (!bRecords) {
+        answer(command);
+        return;
+    }
     ReceivedEvent received;
     received.msgId = command.msgId;
     received.senderId = command.senderId;

@@ -54,6 +54,8 @@ public:
     QSet<QString> friendJids;
     /// What 4735 answers.
     QStringList membersToAdd;
+    /// False: events are answered and not kept, as by a host whose answers cost it nothing.
+    bool bRecords = true;
     /// False: no query is answered, as with a host whose other plug-ins are not loaded.
     bool bAnswers = true;
     /// Takes the place of the answer to a command: bytes as they stand.

@@ -30,7 +30,7 @@ private slots:
         check(false, true);
         for (const qint32 number :
              {0, -1, 258, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max()}) {
-            check(number, qint64(number) << 20, quint32(number), qint8(number));
+            check(number, qint64(number) * (1 << 20), quint32(number), qint8(number));
         }
         check(QString(), QStringLiteral(""), QStringLiteral("u1"));
         check(QString(QChar(0)), QStringLiteral("成员"), QString::fromUcs4(U"\U0001F600", 1), QString(QChar(0xd800)));
@@ -69,6 +69,16 @@ private slots:
         }
         QVERIFY(firstFlag(packPayload(true, QString())));
         QVERIFY(!firstFlag(packPayload()));
+    }
+
+    void firstNumberIsWhatAReaderTakes()
+    {
+        for (const QByteArray &payload :
+             {packPayload(qint64(0x0102030405060708)), packPayload(qint64(-2), true), packPayload(),
+              packPayload(QStringLiteral("ab")), packPayload(qint64(7)).chopped(1), packPayload(1)}) {
+            QCOMPARE(firstNumber(payload), PayloadReader(payload).take<qint64>());
+        }
+        QCOMPARE(firstNumber(packPayload(qint64(-2), QString())), qint64(-2));
     }
 
     void missingFieldsReadAsDefaults()
