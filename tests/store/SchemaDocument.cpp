@@ -100,11 +100,10 @@ private:
 
     bool readIndex(const QString &name, const QString &columns)
     {
-        static const QRegularExpression quoted("^`(\\w+)`$");
-        const QString index = quoted.match(name).captured(1);
+        static const QRegularExpression word("^\\w+$");
         const QStringList on = columns.split(", ");
-        table().indexes.append({index, on.join(',')});
-        return !index.isEmpty() &&
+        table().indexes.append({name, on.join(',')});
+        return word.match(name).hasMatch() &&
                std::all_of(on.begin(), on.end(), [this](const QString &column) { return m_names.contains(column); });
     }
 

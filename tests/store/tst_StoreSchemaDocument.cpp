@@ -60,7 +60,7 @@ private slots:
                                                            "\n"
                                                            "| index | on |\n"
                                                            "|---|---|\n"
-                                                           "| `rooms_index` | text, mark |\n"
+                                                           "| rooms_index | text, mark |\n"
                                                            "## More\n"
                                                            "### notes\n"
                                                            "| column | type |\n"
@@ -95,8 +95,8 @@ private slots:
         QTest::newRow("later at a place that is taken") << "| b | INT | 1 |";
         QTest::newRow("a gap behind the place before") << "| b | INT | 3 |";
         QTest::newRow("added as no type") << "| b | INT | 2, as `a whole number` |";
-        QTest::newRow("an index without its marks") << "\n| index | on |\n| t_index | a |";
-        QTest::newRow("an index on no column") << "\n| index | on |\n| `t_index` | b |";
+        QTest::newRow("an index without a name") << "\n| index | on |\n| | a |";
+        QTest::newRow("an index on no column") << "\n| index | on |\n| t_index | b |";
         QTest::newRow("a table of another kind") << "\n| operation | makes |";
         QTest::newRow("a table without a column") << "\n### u\nNothing.";
     }
