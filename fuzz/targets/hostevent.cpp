@@ -3,6 +3,7 @@
 
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
+#include "plugin/HostEvents.h"
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 
@@ -12,30 +13,15 @@
 
 namespace {
 
-// An input is a row of events: the command's place in this table, one byte of choices, two of the payload's length
+// An input is a row of events: the event's place in the list of all, one byte of choices, two of the payload's length
 // (low byte first), the payload. A length beyond the input's end ends it.
-constexpr int cCommands[] = {
-    MSG_UPDATE_USER_INFO,
-    MSG_CLIENT_CONNECT_STATUS,
-    MSG_CALL_SINGLE_USER,
-    MSG_IS_EXIST_CALL,
-    MSG_IS_VIDEO_CALL,
-    MSG_RESPONSE_VOIP_REQUEST,
-    MSG_CALL_CONFERENCE,
-    MSG_SHOW_VOICE_CONF,
-    MSG_EXIT_VOIP,
-    MSG_RECEVIE_VOIP_CALL,
-    0,
-    -1,
-    MSG_IS_EXIST_FRIEND,
-    MSG_ADD_CONFERENCE_MEMBER,
-    MSG_GET_FRIEND_INFO,
-};
 constexpr int cHeadBytes = 4;
 constexpr int cMostEvents = 8;
 
-/// From this row on the payload is what the host will answer to the plug-in's own request, raw.
-constexpr int cFirstAnswer = 12;
+/// What the two places behind the list send: numbers of no event of this plug-in.
+constexpr int cForeignNumbers[] = {0, -1};
+constexpr int cEvents = int(cHostEvents.size());
+constexpr int cPlaces = cEvents + int(std::size(cForeignNumbers));
 
 enum Choice : uchar
 {
@@ -89,27 +75,38 @@ bool isAllowed(int command, const EngineBench &bench)
     return command != MSG_SHOW_VOICE_CONF;
 }
 
-void deliver(EngineBench &bench, int row, uchar choices, const QByteArray &payload)
+bool isAnswered(const HostEvent *event, EventWay way)
+{
+    return event && event->way == way && *event->answer;
+}
+
+void sendToPlugin(int command, uchar choices, const QByteArray &payload)
 {
     static VcardInfo s_card;
     s_card.m_strNickName = QStringLiteral("Anna");
-    const int command = cCommands[row];
-    if (row >= cFirstAnswer) {
+    const QByteArray data =
+        command == MSG_UPDATE_USER_INFO ? withAddress(payload, choices & WithCard ? &s_card : nullptr) : payload;
+    BaseEvent event(static_cast<EMsgId>(command), sessionPluginId(), receiverOf(choices), false, data);
+    VoipManageMessageProcess::instance()->customEvent(&event);
+    if (isAnswered(findHostEvent(command), EventWay::Command) && !(choices & ForAnother)) {
+        requirePromise(event.data.size() == 1, "a query is answered");
+    }
+}
+
+void deliver(EngineBench &bench, int place, uchar choices, const QByteArray &payload)
+{
+    const int command = place < cEvents ? cHostEvents[place].msgId : cForeignNumbers[place - cEvents];
+    // The payload of a question to the host is what it will answer, raw. All else is sent to the plug-in, also the
+    // requests without an answer, which it does not serve.
+    if (isAnswered(findHostEvent(command), EventWay::Request)) {
         bench.host.rawAnswers[command] = answerOf(command, payload);
         return;
     }
     if (choices & CallComesIn) {
         bench.manager->callbackMessage(0, QStringLiteral("anna"));
     }
-    if (!isAllowed(command, bench)) {
-        return;
-    }
-    const QByteArray data =
-        command == MSG_UPDATE_USER_INFO ? withAddress(payload, choices & WithCard ? &s_card : nullptr) : payload;
-    BaseEvent event(static_cast<EMsgId>(command), sessionPluginId(), receiverOf(choices), false, data);
-    VoipManageMessageProcess::instance()->customEvent(&event);
-    if ((command == MSG_IS_EXIST_CALL || command == MSG_IS_VIDEO_CALL) && !(choices & ForAnother)) {
-        requirePromise(event.data.size() == 1, "a query is answered");
+    if (isAllowed(command, bench)) {
+        sendToPlugin(command, choices, payload);
     }
 }
 
@@ -118,10 +115,10 @@ void deliverAll(const QByteArray &input, EngineBench &bench)
     int position = 0;
     for (int count = 0; count < cMostEvents && input.size() - position >= cHeadBytes; ++count) {
         const auto byte = [&](int offset) { return uchar(input.at(position + offset)); };
-        const int row = byte(0) % int(std::size(cCommands));
+        const int place = byte(0) % cPlaces;
         const uchar choices = byte(1);
         const int length = byte(2) + 256 * byte(3);
-        deliver(bench, row, choices, input.mid(position + cHeadBytes, length));
+        deliver(bench, place, choices, input.mid(position + cHeadBytes, length));
         position += cHeadBytes + length;
     }
     bench.reset();

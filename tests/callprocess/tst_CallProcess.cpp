@@ -1,4 +1,4 @@
-#include "callprocess/CallProcess.h"
+#include "callprocess/CallProcessTest.h"
 #include "fakes/Patience.h"
 
 #include <QtTest>
@@ -6,17 +6,11 @@
 #include <csignal>
 #include <sys/stat.h>
 
-class tst_CallProcess : public QObject
+class tst_CallProcess : public CallProcessTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        // The killed child of the test before left it.
-        QFile::remove(CallProcess::socketPath());
-    }
-
     void socketIsForTheSameUserOnly()
     {
         CallProcess peer;

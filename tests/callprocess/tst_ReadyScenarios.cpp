@@ -1,6 +1,6 @@
 // Scenarios that come with the call process: what each of them sends, and that those of a killed process end by a kill.
 
-#include "callprocess/CallProcess.h"
+#include "callprocess/CallProcessTest.h"
 
 #include <QtTest>
 
@@ -21,17 +21,11 @@ bool isRegistered(CallProcess &peer, const QString &scenario)
 
 } // namespace
 
-class tst_ReadyScenarios : public QObject
+class tst_ReadyScenarios : public CallProcessTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        // The killed child of the test before left it.
-        QFile::remove(CallProcess::socketPath());
-    }
-
     void readyScenarioPlays_data()
     {
         QTest::addColumn<QString>("scenario");

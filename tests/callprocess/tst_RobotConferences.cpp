@@ -1,4 +1,4 @@
-#include "callprocess/CallProcess.h"
+#include "callprocess/CallProcessTest.h"
 
 #include <QtTest>
 
@@ -52,17 +52,11 @@ bool waitForMember(CallProcess &peer, const char *code, const char *user)
 
 } // namespace
 
-class tst_RobotConferences : public QObject
+class tst_RobotConferences : public CallProcessTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        // The killed child of the test before left it.
-        QFile::remove(CallProcess::socketPath());
-    }
-
     void robotsJoinAConference()
     {
         CallProcess peer;
@@ -379,12 +373,6 @@ private slots:
     }
 
 private:
-    static QString call(CallProcess &peer, const QString &id)
-    {
-        peer.command(QStringLiteral("CallUser"), {id, false});
-        return peer.nextNotification();
-    }
-
     static QJsonObject document(const QString &notification, int code)
     {
         const QString prefix = QString::number(code) + QLatin1Char(' ');

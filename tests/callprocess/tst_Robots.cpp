@@ -1,18 +1,12 @@
-#include "callprocess/CallProcess.h"
+#include "callprocess/CallProcessTest.h"
 
 #include <QtTest>
 
-class tst_Robots : public QObject
+class tst_Robots : public CallProcessTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        // The killed child of the test before left it.
-        QFile::remove(CallProcess::socketPath());
-    }
-
     void outcomeOfACall_data()
     {
         QTest::addColumn<QString>("id");
@@ -168,13 +162,6 @@ private slots:
         peer.command(QStringLiteral("SetSpeakerVolume"), {0});
         QCOMPARE(call(peer, QStringLiteral("30010002")), QStringLiteral("22"));
         QCOMPARE(peer.trace().filter(QRegularExpression(QStringLiteral("^!"))).size(), 0);
-    }
-
-private:
-    static QString call(CallProcess &peer, const QString &id)
-    {
-        peer.command(QStringLiteral("CallUser"), {id, false});
-        return peer.nextNotification();
     }
 };
 

@@ -1,22 +1,16 @@
 // What the player of scenarios does: expectations, the bytes that go out, the connection, the end.
 
-#include "callprocess/CallProcess.h"
+#include "callprocess/CallProcessTest.h"
 #include "callprocess/Wire.h"
 #include "fakes/Patience.h"
 
 #include <QtTest>
 
-class tst_ScenarioPlayer : public QObject
+class tst_ScenarioPlayer : public CallProcessTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        // The killed child of the test before left it.
-        QFile::remove(CallProcess::socketPath());
-    }
-
     void metExpectationsLeadToTheEnd()
     {
         CallProcess peer;

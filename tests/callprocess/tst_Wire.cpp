@@ -10,19 +10,6 @@ class tst_Wire : public QObject
     Q_OBJECT
 
 private slots:
-    void catalogueHasSeventeenCommands()
-    {
-        QSet<QString> names;
-        for (const Wire::CommandRow &row : Wire::cCommands) {
-            names.insert(QString::fromLatin1(row.name));
-            QVERIFY(QString::fromLatin1(row.parameters).contains(QRegularExpression(QStringLiteral("^[sbia]{0,6}$"))));
-        }
-        QCOMPARE(names.size(), 17);
-        QVERIFY(names.contains(QStringLiteral("SetSpeakerEnble")));
-        QVERIFY(names.contains(QStringLiteral("SetCamreraEnable")));
-        QVERIFY(names.contains(QStringLiteral("HangUpCall")) && names.contains(QStringLiteral("HangupConf")));
-    }
-
     void catalogueHasTwentySevenNotifications()
     {
         for (int code = 0; code <= 25; ++code) {

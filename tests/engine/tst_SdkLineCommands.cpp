@@ -13,20 +13,6 @@ class tst_SdkLineCommands : public QObject
     Q_OBJECT
 
 private slots:
-    void thereAreSeventeenCommandsWithTheseNames()
-    {
-        const QStringList names{"RegeditUser",     "UnReg",           "CallUser",         "RequestConference",
-                                "Add2Conference",  "AcceptCall",      "AcceptConf",       "RejectCall",
-                                "RejectConf",      "HangUpCall",      "HangupConf",       "ControlConf",
-                                "SetMicEnable",    "SetSpeakerEnble", "SetCamreraEnable", "SetMicVolume",
-                                "SetSpeakerVolume"};
-        QStringList written;
-        for (const Wire::CommandRow &row : Wire::cCommands) {
-            written.append(row.name);
-        }
-        QCOMPARE(written, names);
-    }
-
     void lineIsCompactSortedAndEndsInALineFeed_data()
     {
         QTest::addColumn<QString>("line");

@@ -3,6 +3,7 @@
 #include "fakes/MessageBoxes.h"
 #include "fakes/VoipManageProbe.h"
 #include "plugin/BaseEvent.h"
+#include "plugin/HostEvents.h"
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 
@@ -58,8 +59,10 @@ private:
     static void addCommands()
     {
         QTest::addColumn<int>("msgId");
-        for (const int msgId : {4105, 4135, 4470, 4491, 4492, 4732, 4733, 4736, 4763}) {
-            QTest::addRow("%d", msgId) << msgId;
+        for (const HostEvent &event : cHostEvents) {
+            if (event.way == EventWay::Command) {
+                QTest::addRow("%d", event.msgId) << int(event.msgId);
+            }
         }
     }
 

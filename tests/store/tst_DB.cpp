@@ -97,7 +97,7 @@ private slots:
     {
         QVERIFY(m_store->open());
         QCOMPARE(cNewTables.size(), 44);
-        QCOMPARE(BesideFile(m_store->file()).rows(cAllTables), cNewTables);
+        QCOMPARE(stored(cAllTables), cNewTables);
     }
 
     void theUrgentMessagesVersionIsMadeOnlyWhenAskedFor()
@@ -126,21 +126,20 @@ private slots:
         m_store->make({"CREATE TABLE msgrecord(id VARCHAR(20) PRIMARY KEY, jid VARCHAR(100), sequenceId INT64)",
                        "INSERT INTO msgrecord VALUES ('m1', 'bert@x', 7)"});
         QVERIFY(m_store->open());
-        QCOMPARE(BesideFile(m_store->file()).rows("SELECT id,jid,sequenceId,atlist FROM msgrecord"),
-                 QStringList("m1|bert@x|7|NULL"));
+        QCOMPARE(stored("SELECT id,jid,sequenceId,atlist FROM msgrecord"), QStringList("m1|bert@x|7|NULL"));
     }
 
     void aTableOfFewerColumnsIsNeverRebuilt()
     {
         m_store->make({"CREATE TABLE favorite(own TEXT)", "INSERT INTO favorite VALUES ('kept')"});
         QVERIFY(m_store->open());
-        QCOMPARE(BesideFile(m_store->file()).rows("SELECT * FROM favorite"), QStringList("kept"));
+        QCOMPARE(stored("SELECT * FROM favorite"), QStringList("kept"));
     }
 
     void creatorsWithoutAnOpenStoreDoNothing()
     {
         QVERIFY(m_store->open());
-        QVERIFY(BesideFile(m_store->file()).run("DROP TABLE favorite"));
+        QVERIFY(run("DROP TABLE favorite"));
         DB::m_db.close();
         const QByteArray before = readBytes(m_store->file());
         DB::createTable();
@@ -188,7 +187,7 @@ private slots:
         QVERIFY(DB::isExistIndex("msgrecord", "_index1"));
         QVERIFY(!DB::isExistIndex("msgrecord", "_index2"));
         QVERIFY(!DB::isExistIndex("mucrecord", "_index1"));
-        QVERIFY(BesideFile(m_store->file()).run("CREATE INDEX favorite_index1 ON msgrecord(jid)"));
+        QVERIFY(run("CREATE INDEX favorite_index1 ON msgrecord(jid)"));
         QVERIFY(!DB::isExistIndex("favorite", "_index1"));
     }
 
@@ -218,7 +217,7 @@ private slots:
         QVERIFY(m_store->open());
         QVERIFY(!DB::isExistTable("friendlist"));
         DB::dropNoUseTable();
-        QCOMPARE(BesideFile(m_store->file()).rows("SELECT * FROM FriendList"), QStringList("kept"));
+        QCOMPARE(stored("SELECT * FROM FriendList"), QStringList("kept"));
     }
 
     void aTextIsReplacedInEveryRowOfOneColumn()

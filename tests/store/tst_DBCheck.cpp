@@ -1,4 +1,4 @@
-#include "StoreFixture.h"
+#include "StoreTest.h"
 #include "fakes/FileBytes.h"
 
 #include <QTest>
@@ -33,20 +33,11 @@ const QStringList cFiller = {
 
 } // namespace
 
-class tst_DBCheck : public QObject
+class tst_DBCheck : public StoreTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_store = std::make_unique<StoreFixture>(); }
-
-    void cleanup()
-    {
-        const QStringList warnings = m_store->messages.warnings;
-        m_store.reset();
-        QCOMPARE(warnings, QStringList());
-    }
-
     void aFolderWithoutAStoreIsSoundAndStaysAsItIs()
     {
         QVERIFY(DB::checkDB(m_store->base(), false));
@@ -60,7 +51,7 @@ private slots:
     {
         makeStore();
         QVERIFY(DB::checkDB(m_store->folder(), false));
-        QCOMPARE(BesideFile(m_store->file()).rows(cTrialRows), QStringList());
+        QCOMPARE(stored(cTrialRows), QStringList());
     }
 
     void theQuickCheckAloneWritesNothing()
@@ -75,7 +66,7 @@ private slots:
     {
         makeStore({"INSERT INTO msgrecord (id) VALUES ('checkid')"});
         QVERIFY(DB::checkDB(m_store->folder(), false));
-        QCOMPARE(BesideFile(m_store->file()).rows(cTrialRows), QStringList());
+        QCOMPARE(stored(cTrialRows), QStringList());
     }
 
     void aLeftoverTrialRowIsDeletedButDoesNotVouchForTheRest()
@@ -83,7 +74,7 @@ private slots:
         makeStore(cFiller + QStringList("INSERT INTO msgrecord (id) VALUES ('checkid')"));
         spoilTail();
         QVERIFY(!DB::checkDB(m_store->folder(), false));
-        QCOMPARE(BesideFile(m_store->file()).rows(cTrialRows), QStringList());
+        QCOMPARE(stored(cTrialRows), QStringList());
     }
 
     void aStoreWithoutMessagesFallsThroughToTheQuickCheck()
@@ -116,7 +107,7 @@ private slots:
                               " END"));
         spoilTail();
         QVERIFY(DB::checkDB(m_store->folder(), false));
-        QCOMPARE(BesideFile(m_store->file()).rows(cTrialRows), QStringList("checkid"));
+        QCOMPARE(stored(cTrialRows), QStringList("checkid"));
     }
 
     void aMalformedMessageTableIsDamage()
@@ -262,8 +253,6 @@ private:
         QVERIFY(file.seek((page - 1) * cPageSize));
         QCOMPARE(file.write(QByteArray(int(cPageSize), '\x77')), cPageSize);
     }
-
-    std::unique_ptr<StoreFixture> m_store;
 };
 
 #include "support/TestProgram.h"

@@ -1,9 +1,8 @@
-#include "StoreFixture.h"
+#include "StoreTest.h"
 #include "store/DBConfInfo.h"
 
 #include <QTest>
 
-#include <memory>
 #include <type_traits>
 
 static_assert(std::is_default_constructible_v<DBConfInfo> && std::is_empty_v<DBConfInfo>);
@@ -40,23 +39,15 @@ const QString cAllRows = QStringLiteral("SELECT * FROM voipConferenceInfo");
 
 } // namespace
 
-class tst_DBConfInfo : public QObject
+class tst_DBConfInfo : public StoreTest
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_store = std::make_unique<StoreFixture>();
+        StoreTest::init();
         QVERIFY(m_store->open());
-    }
-
-    void cleanup()
-    {
-        DB::closeDB();
-        const QStringList warnings = m_store->messages.warnings;
-        m_store.reset();
-        QCOMPARE(warnings, QStringList());
     }
 
     void equalTextsOfAHistoryShareTheirMemory()
@@ -228,12 +219,6 @@ private slots:
         QVERIFY(m_store->open("anna"));
         QCOMPARE(listedIds(), QStringList("c1"));
     }
-
-private:
-    QStringList stored(const QString &statement) { return BesideFile(m_store->file()).rows(statement); }
-    bool run(const QString &statement) { return BesideFile(m_store->file()).run(statement); }
-
-    std::unique_ptr<StoreFixture> m_store;
 };
 
 #include "support/TestProgram.h"

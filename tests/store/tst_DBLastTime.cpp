@@ -1,4 +1,4 @@
-#include "StoreFixture.h"
+#include "StoreTest.h"
 #include "common/CLogManger.h"
 #include "fakes/LogCapture.h"
 #include "model/SharedContext.h"
@@ -21,7 +21,7 @@ const QString cNoTable = QStringLiteral("no such table: last_time Unable to exec
 
 } // namespace
 
-class tst_DBLastTime : public QObject
+class tst_DBLastTime : public StoreTest
 {
     Q_OBJECT
 
@@ -37,22 +37,14 @@ private slots:
 
     void init()
     {
-        m_store = std::make_unique<StoreFixture>();
+        StoreTest::init();
         QVERIFY(m_store->open());
         QCOMPARE(m_log->take(), QStringList());
     }
 
-    void cleanup()
-    {
-        DB::closeDB();
-        const QStringList warnings = m_store->messages.warnings;
-        m_store.reset();
-        QCOMPARE(warnings, QStringList());
-    }
-
     void aNewFileHasOneEmptyTime()
     {
-        QCOMPARE(stored(), QStringList("all_session|text|"));
+        QCOMPARE(storedTimes(), QStringList("all_session|text|"));
         QCOMPARE(DBLastTime::getLastTime(), QString("-1"));
     }
 
@@ -60,10 +52,10 @@ private slots:
     {
         QVERIFY(run("DELETE FROM last_time"));
         DB::createLastTimeTable();
-        QCOMPARE(stored(), QStringList());
+        QCOMPARE(storedTimes(), QStringList());
         QVERIFY(run("DROP TABLE last_time"));
         DB::createLastTimeTable();
-        QCOMPARE(stored(), QStringList("all_session|text|"));
+        QCOMPARE(storedTimes(), QStringList("all_session|text|"));
         QCOMPARE(m_log->take(), QStringList());
     }
 
@@ -73,7 +65,7 @@ private slots:
         QCOMPARE(DBLastTime::getLastTime(), QString("1700000000"));
         DBLastTime::updateLastTime("1700000001");
         QCOMPARE(DBLastTime::getLastTime(), QString("1700000001"));
-        QCOMPARE(stored(), QStringList("all_session|text|1700000001"));
+        QCOMPARE(storedTimes(), QStringList("all_session|text|1700000001"));
         QCOMPARE(m_log->take(), QStringList());
     }
 
@@ -81,7 +73,7 @@ private slots:
     {
         DBLastTime::updateLastTime("1700000000");
         DBLastTime::updateLastTime(QString());
-        QCOMPARE(stored(), QStringList("all_session|text|"));
+        QCOMPARE(storedTimes(), QStringList("all_session|text|"));
         QCOMPARE(DBLastTime::getLastTime(), QString("-1"));
     }
 
@@ -98,7 +90,7 @@ private slots:
     {
         QVERIFY(run("DELETE FROM last_time"));
         DBLastTime::updateLastTime("1700000000");
-        QCOMPARE(stored(), QStringList());
+        QCOMPARE(storedTimes(), QStringList());
         QCOMPARE(m_log->take(), QStringList());
     }
 
@@ -186,14 +178,9 @@ private:
                                               QString());
     }
 
-    QStringList stored()
-    {
-        return BesideFile(m_store->file()).rows("SELECT sessionId, typeof(lastTime), lastTime FROM last_time");
-    }
-    bool run(const QString &statement) { return BesideFile(m_store->file()).run(statement); }
+    QStringList storedTimes() { return stored("SELECT sessionId, typeof(lastTime), lastTime FROM last_time"); }
 
     std::unique_ptr<LogCapture> m_log;
-    std::unique_ptr<StoreFixture> m_store;
 };
 
 #include "support/TestProgram.h"

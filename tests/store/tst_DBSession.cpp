@@ -85,8 +85,7 @@ private slots:
     {
         m_store->make({});
         QVERIFY(DB::initByUserName("anna", m_store->base(), false));
-        QCOMPARE(BesideFile(m_store->file()).rows("SELECT name FROM sqlite_master WHERE type = 'table'"),
-                 QStringList("loginInfo"));
+        QCOMPARE(stored("SELECT name FROM sqlite_master WHERE type = 'table'"), QStringList("loginInfo"));
     }
 
     void aFileThatCannotBeCreatedFailsTheOpenButIsPointedTo()

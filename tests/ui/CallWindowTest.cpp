@@ -3,6 +3,7 @@
 #include "fakes/ClickTarget.h"
 #include "fakes/Patience.h"
 #include "widgets/ErrorMessage.h"
+#include "widgets/PushButtonEx.h"
 
 #include <QApplication>
 #include <QRegularExpression>
@@ -92,4 +93,17 @@ void CallWindowTest::answerQuestion(const char *name, const std::function<void()
         QTest::mouseClick(clickTarget(pQuestion->findChild<QWidget *>(QLatin1String(name))), Qt::LeftButton);
         QVERIFY(!pQuestion->isVisible());
     });
+}
+
+QStringList CallWindowTest::questionWords()
+{
+    const QWidget *pQuestion = QApplication::activeModalWidget();
+    QStringList words;
+    for (const char *name : {"titlelabel", "msgLabel"}) {
+        words.append(pQuestion->findChild<QLabel *>(QLatin1String(name))->text());
+    }
+    for (const char *name : {"acceptBtn", "closeBtn"}) {
+        words.append(pQuestion->findChild<PushButtonEx *>(QLatin1String(name))->text());
+    }
+    return words;
 }

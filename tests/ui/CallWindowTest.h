@@ -52,6 +52,8 @@ protected:
     /// Clicks a button of the question that the next user action opens.
     void answerQuestion(
         const char *name, const std::function<void()> &before = [] {});
+    /// Title, text and the words of the two buttons of the question that is open.
+    static QStringList questionWords();
     /// The log records since the last call, each as "source: message".
     QStringList newRecords();
 

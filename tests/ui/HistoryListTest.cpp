@@ -63,20 +63,9 @@ void HistoryListTest::show(const QList<ConfInfoData> &records)
     takeSigns();
 }
 
-QImage HistoryListTest::picture() const
-{
-    QCoreApplication::processEvents();
-    return m_pList->viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
-
 void HistoryListTest::moveTo(const QPoint &position)
 {
     QVERIFY(RealCursor::moveTo(m_pList->viewport(), position));
-}
-
-void HistoryListTest::click(const QPoint &position, Qt::MouseButton button)
-{
-    QTest::mouseClick(m_pList->viewport(), button, Qt::NoModifier, position);
 }
 
 void HistoryListTest::hover(int iRow)

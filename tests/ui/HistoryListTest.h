@@ -3,14 +3,11 @@
 // What the tests of the conference history list share: a fresh list for each test function beside a few contacts and a
 // host, its rows' data and places, its menu, and its picture. Derive the test class from it. GUI thread.
 
-#include "ContactFixture.h"
+#include "ListTest.h"
 #include "fakes/FakeHost.h"
 #include "model/MemberRoles.h"
 #include "ui/ConferenceInfoListView.h"
 #include "widgets/MenuEx.h"
-
-#include <QImage>
-#include <QTest>
 
 #include <memory>
 
@@ -33,7 +30,7 @@ public:
     using CConferenceInfoListView::state;
 };
 
-class HistoryListTest : public QObject
+class HistoryListTest : public ListTest<HistoryList>
 {
     Q_OBJECT
 
@@ -42,21 +39,12 @@ protected:
     static ConfInfoData record(const QString &strConfID, bool bConnected = true,
                                const QString &strCreator = QStringLiteral("ann"),
                                const QString &strCallTime = QStringLiteral("75"));
-    QModelIndex index(int iRow) const { return m_pList->model()->index(iRow, 0); }
-    QVariant data(int iRow, int iRole) const { return index(iRow).data(iRole); }
     /// The conference ids of all rows from the top.
     QStringList ids() const;
-    /// Where a hit rectangle stands as the item has it.
-    QRect place(int iRow, int iRole) const { return data(iRow, iRole).toRect(); }
-    /// Where the row stands in the viewport.
-    QRect row(int iRow) const { return m_pList->visualRect(index(iRow)); }
     /// The records in rows on the screen, painted.
     void show(const QList<ConfInfoData> &records);
-    /// The list as it is painted now.
-    QImage picture() const;
 
     void moveTo(const QPoint &position);
-    void click(const QPoint &position, Qt::MouseButton button = Qt::LeftButton);
     /// Moves the cursor onto the row, away from head and button, and waits for the row to be painted so.
     void hover(int iRow);
     /// Opens the menu of the row with the right button.
@@ -70,9 +58,7 @@ protected:
     /// What the host has been told of the signature card since the last call: its fields, or "close".
     QStringList takeSigns();
 
-    std::unique_ptr<ContactFixture> m_pContacts;
     std::unique_ptr<FakeHost> m_pHost;
-    std::unique_ptr<HistoryList> m_pList;
 
 private slots:
     void initTestCase();

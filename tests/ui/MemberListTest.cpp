@@ -66,20 +66,9 @@ void MemberListTest::showList()
     picture();
 }
 
-QImage MemberListTest::picture() const
-{
-    QCoreApplication::processEvents();
-    return m_pList->viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
-
 void MemberListTest::moveTo(const QPoint &position)
 {
     QTest::mouseMove(m_pList->viewport(), position);
-}
-
-void MemberListTest::click(const QPoint &position, Qt::MouseButton button)
-{
-    QTest::mouseClick(m_pList->viewport(), button, Qt::NoModifier, position);
 }
 
 void MemberListTest::doubleClick(int iRow, Qt::MouseButton button)

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QPixmap>
+#include <QTest>
 #include <QWidget>
 
 /// What `paint` makes of an empty picture of `port`'s size and pixel ratio, in its ground colour and with its text's
@@ -31,4 +32,12 @@ inline void leavePicture(const QImage &picture, const QString &strName)
     if (!strFolder.isEmpty()) {
         picture.save(QStringLiteral("%1/%2@%3x.png").arg(strFolder, strName).arg(picture.devicePixelRatio()));
     }
+}
+
+/// Compares a view's picture with the one by numbers. Both are left for a person to look at, NAME and NAME-numbers.
+inline void comparePictures(const QImage &actual, const QImage &byNumbers, const char *pName)
+{
+    leavePicture(actual, QLatin1String(pName));
+    leavePicture(byNumbers, QLatin1String(pName) + QStringLiteral("-numbers"));
+    QCOMPARE(actual, byNumbers);
 }

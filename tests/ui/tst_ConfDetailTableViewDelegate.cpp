@@ -111,15 +111,7 @@ private:
             }
         });
     }
-    /// Both pictures are left behind for a person to look at.
-    void compareWithNumbers(const char *pName)
-    {
-        const QImage actual = picture();
-        const QImage expected = pictureByNumbers();
-        leavePicture(actual, QLatin1String(pName));
-        leavePicture(expected, QLatin1String(pName) + QStringLiteral("-numbers"));
-        QCOMPARE(actual, expected);
-    }
+    void compareWithNumbers(const char *pName) { comparePictures(picture(), pictureByNumbers(), pName); }
 
     std::unique_ptr<ContactFixture> m_pContacts;
     std::unique_ptr<CConfDetailMemberTableView> m_pGrid;

@@ -118,15 +118,7 @@ private:
         });
     }
 
-    /// Compares the list's picture with the one by numbers; both are left behind for a person to look at.
-    void compareWithNumbers(const char *pName)
-    {
-        const QImage actual = picture();
-        const QImage expected = pictureByNumbers();
-        leavePicture(actual, QLatin1String(pName));
-        leavePicture(expected, QLatin1String(pName) + QStringLiteral("-numbers"));
-        QCOMPARE(actual, expected);
-    }
+    void compareWithNumbers(const char *pName) { comparePictures(picture(), pictureByNumbers(), pName); }
 
     /// A row of each status from 0 to 6, its name the status' number. Fills the list's height but for a strip.
     void addStatuses()

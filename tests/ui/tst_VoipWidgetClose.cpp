@@ -1,7 +1,6 @@
 // The ways in which the call window closes, in every state of a call, and what the next call finds.
 
 #include "CallWindowTest.h"
-#include "widgets/PushButtonEx.h"
 
 #include <QApplication>
 #include <QSignalSpy>
@@ -216,15 +215,7 @@ private slots:
         startCall(CVoipWidget::Voice, true);
         showWindow();
         QStringList words;
-        answerQuestion("acceptBtn", [&words] {
-            const QWidget *pQuestion = QApplication::activeModalWidget();
-            for (const char *name : {"titlelabel", "msgLabel"}) {
-                words.append(pQuestion->findChild<QLabel *>(QLatin1String(name))->text());
-            }
-            for (const char *name : {"acceptBtn", "closeBtn"}) {
-                words.append(pQuestion->findChild<PushButtonEx *>(QLatin1String(name))->text());
-            }
-        });
+        answerQuestion("acceptBtn", [&words] { words = questionWords(); });
         click("btnClose");
         QCOMPARE(words, (QStringList{"tip", "beSureToCloseCalling", "sure", "cancel"}));
         QVERIFY(!m_pWindow->isVisible());

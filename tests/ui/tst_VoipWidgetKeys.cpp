@@ -3,7 +3,6 @@
 #include "CallWindowTest.h"
 #include "fakes/MessageBoxes.h"
 #include "fakes/Patience.h"
-#include "widgets/PushButtonEx.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -41,15 +40,7 @@ private slots:
         showWindow();
         newRecords();
         QStringList words;
-        answerQuestion("acceptBtn", [&words] {
-            const QWidget *pQuestion = QApplication::activeModalWidget();
-            for (const char *name : {"titlelabel", "msgLabel"}) {
-                words.append(pQuestion->findChild<QLabel *>(QLatin1String(name))->text());
-            }
-            for (const char *name : {"acceptBtn", "closeBtn"}) {
-                words.append(pQuestion->findChild<PushButtonEx *>(QLatin1String(name))->text());
-            }
-        });
+        answerQuestion("acceptBtn", [&words] { words = questionWords(); });
         pressEscape();
         QCOMPARE(words, (QStringList{"tip", "beSureToCloseCalling", "sure", "cancel"}));
         QCOMPARE(m_sent, QStringList{"hangup"});

@@ -70,9 +70,7 @@ protected:
         return image.pixelColor(QPoint(x, y) * image.devicePixelRatio());
     }
 
-    void moveTo(const QPoint &point) { QTest::mouseMove(m_window.windowHandle(), point); }
-    void moveIn() { moveTo(m_pButton->geometry().center()); }
-    void moveOut() { moveTo(QPoint(2, 2)); }
+    void moveIn() { m_window.moveTo(m_pButton->geometry().center()); }
     void press(Qt::MouseButton button, const QPoint &at) { mouse(QTest::MousePress, button, at); }
     void release(Qt::MouseButton button, const QPoint &at) { mouse(QTest::MouseRelease, button, at); }
     void mouse(QTest::MouseAction action, Qt::MouseButton button, const QPoint &at)
@@ -104,19 +102,9 @@ private slots:
         m_skin->m_strFourthIconColor = cFourth;
         m_skin->m_strFifthIconColor = cFifth;
         m_skin->m_strDisabledIconColor = cDisabled;
-        m_window.resize(120, 100);
         m_pButton = new CIconButtonEx(&m_window);
-        m_pButton->setGeometry(40, 40, cSide, cSide);
-        m_window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_window, cPatienceMs));
-        moveOut();
-        QCoreApplication::processEvents();
+        m_window.showAround(m_pButton, QRect(40, 40, cSide, cSide), QSize(120, 100));
     }
 
-    void cleanup()
-    {
-        moveOut();
-        delete m_pButton;
-        m_window.hide();
-    }
+    void cleanup() { m_window.takeAway(m_pButton); }
 };

@@ -27,34 +27,24 @@ private:
     BareWindow m_window;
     HotLabel *m_pLabel = nullptr;
 
-    void moveTo(const QPoint &point) { QTest::mouseMove(m_window.windowHandle(), point); }
     QPoint middle() const { return m_pLabel->geometry().center(); }
 
 private slots:
     void init()
     {
-        m_window.resize(200, 100);
         m_pLabel = new HotLabel(&m_window);
-        m_pLabel->setGeometry(50, 40, 120, 20);
         m_pLabel->setText(QStringLiteral("from the form"));
-        m_window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_window, cPatienceMs));
-        moveTo(QPoint(2, 2));
+        m_window.showAround(m_pLabel, QRect(50, 40, 120, 20), QSize(200, 100));
     }
 
-    void cleanup()
-    {
-        moveTo(QPoint(2, 2));
-        delete m_pLabel;
-        m_window.hide();
-    }
+    void cleanup() { m_window.takeAway(m_pLabel); }
 
     void wordsBecomeALinkUnderTheMouse()
     {
         QCOMPARE(m_pLabel->text(), QStringLiteral("from the form"));
-        moveTo(middle());
+        m_window.moveTo(middle());
         QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("<a href=\"#\">modifyhotkey</a>"), cPatienceMs);
-        moveTo(QPoint(2, 2));
+        m_window.moveOut();
         QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("modifyhotkey"), cPatienceMs);
     }
 
@@ -62,9 +52,9 @@ private slots:
     {
         Words words;
         QVERIFY(QCoreApplication::installTranslator(&words));
-        moveTo(middle());
+        m_window.moveTo(middle());
         QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("<a href=\"#\">修改热键</a>"), cPatienceMs);
-        moveTo(QPoint(2, 2));
+        m_window.moveOut();
         QTRY_COMPARE_WITH_TIMEOUT(m_pLabel->text(), QStringLiteral("修改热键"), cPatienceMs);
         QCoreApplication::removeTranslator(&words);
     }
@@ -72,7 +62,7 @@ private slots:
     void leftReleaseSendsTheShownText()
     {
         QSignalSpy clicked(m_pLabel, &HotLabel::signal_clickNameLabel);
-        moveTo(middle());
+        m_window.moveTo(middle());
         QTest::mousePress(m_window.windowHandle(), Qt::LeftButton, {}, middle());
         QCOMPARE(clicked.count(), 0);
         QTest::mouseRelease(m_window.windowHandle(), Qt::LeftButton, {}, middle());
@@ -98,10 +88,10 @@ private slots:
     void releaseOfALinkStillReachesTheLabel()
     {
         QSignalSpy activated(m_pLabel, &QLabel::linkActivated);
-        moveTo(middle());
+        m_window.moveTo(middle());
         QTRY_VERIFY_WITH_TIMEOUT(m_pLabel->text().startsWith(QLatin1String("<a ")), cPatienceMs);
         const QPoint onTheWords = m_pLabel->geometry().topLeft() + QPoint(10, m_pLabel->height() / 2);
-        moveTo(onTheWords);
+        m_window.moveTo(onTheWords);
         QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, onTheWords);
         QTRY_COMPARE_WITH_TIMEOUT(activated.count(), 1, cPatienceMs);
         QCOMPARE(activated.first().first().toString(), QStringLiteral("#"));

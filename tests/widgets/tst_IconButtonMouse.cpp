@@ -16,7 +16,7 @@ private slots:
         moveIn();
         QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), glyphIn(cIcon, QStringLiteral("#00ff00")), cPatienceMs);
         m_skin->m_strThirdIconColor = QStringLiteral("#0000ff");
-        moveOut();
+        m_window.moveOut();
         QTRY_COMPARE_WITH_TIMEOUT(face(*m_pButton), glyphIn(cIcon, QStringLiteral("#0000ff")), cPatienceMs);
     }
 
@@ -27,7 +27,7 @@ private slots:
         moveIn();
         QTRY_VERIFY_WITH_TIMEOUT(m_pButton->underMouse(), cPatienceMs);
         QCOMPARE(face(*m_pButton), glyphIn(cDisabled));
-        moveOut();
+        m_window.moveOut();
         QTRY_VERIFY_WITH_TIMEOUT(!m_pButton->underMouse(), cPatienceMs);
         QCOMPARE(face(*m_pButton), glyphIn(cDisabled));
     }
@@ -43,7 +43,7 @@ private slots:
         QCOMPARE(seenAt(cSide / 2, cSide / 2), QColor(Qt::white));
         // The background's corners are round.
         QVERIFY(seenAt(0, 0) != QColor(cFifth));
-        moveOut();
+        m_window.moveOut();
         QTRY_VERIFY_WITH_TIMEOUT(!m_pButton->underMouse(), cPatienceMs);
         QCOMPARE(seenAt(3, cSide / 2), around);
     }
@@ -111,7 +111,7 @@ private slots:
         QFETCH(QPoint, at);
         const QSignalSpy clicked(m_pButton, &CIconButtonEx::clicked);
         press(Qt::LeftButton, QPoint(13, 13));
-        moveTo(m_pButton->pos() + at);
+        m_window.moveTo(m_pButton->pos() + at);
         release(Qt::LeftButton, at);
         QCOMPARE(clicked.count(), 0);
         click(Qt::LeftButton, QPoint(13, 13));

@@ -71,9 +71,7 @@ private:
                QStringLiteral(";border-radius:2px;background-color:transparent;}");
     }
 
-    void moveTo(const QPoint &point) { QTest::mouseMove(m_window.windowHandle(), point); }
-    void moveIn() { moveTo(m_pButton->geometry().center()); }
-    void moveOut() { moveTo(QPoint(2, 2)); }
+    void moveIn() { m_window.moveTo(m_pButton->geometry().center()); }
 
     OwnSkin m_skin;
     BareWindow m_window;
@@ -93,21 +91,11 @@ private slots:
         m_skin->m_strSecondButtonHoverBackgroundColor = cSecondHoverBack;
         m_skin->m_strSecondButtonDisabledBackgroundColor = cSecondDisabledBack;
         m_skin->m_strSecondButtonTextColor = cSecondText;
-        m_window.resize(160, 100);
         m_pButton = new PushButtonEx(&m_window);
-        m_pButton->setGeometry(40, 40, 72, 32);
-        m_window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_window, cPatienceMs));
-        moveOut();
-        QCoreApplication::processEvents();
+        m_window.showAround(m_pButton, QRect(40, 40, 72, 32), QSize(160, 100));
     }
 
-    void cleanup()
-    {
-        moveOut();
-        delete m_pButton;
-        m_window.hide();
-    }
+    void cleanup() { m_window.takeAway(m_pButton); }
 
     void formHasItsNamesAndMargins()
     {
@@ -183,7 +171,7 @@ private slots:
         moveIn();
         QTRY_COMPARE_WITH_TIMEOUT(back(*m_pButton)->styleSheet(), frame(strNew), cPatienceMs);
         m_skin->m_strButtonBorderColor = cBorder;
-        moveOut();
+        m_window.moveOut();
         QTRY_COMPARE_WITH_TIMEOUT(back(*m_pButton)->styleSheet(), frame(cBorder), cPatienceMs);
     }
 
@@ -264,7 +252,7 @@ private slots:
         QCOMPARE(m_pButton->grab().toImage().pixelColor(36, 0), QColor(cBorder));
         moveIn();
         QTRY_COMPARE_WITH_TIMEOUT(seen(), QColor(cHoverBack), cPatienceMs);
-        moveOut();
+        m_window.moveOut();
         QTRY_COMPARE_WITH_TIMEOUT(seen(), QColor(cBack), cPatienceMs);
         m_pButton->setEnabled(false);
         QCOMPARE(seen(), QColor(cDisabledBack));

@@ -1,6 +1,7 @@
 #include "common/html/HtmlLinks.h"
 
 #include "common/html/RandomMessage.h"
+#include "common/html/WebLink.h"
 
 #include <QRegExp>
 #include <QTest>
@@ -11,12 +12,6 @@ QString converted(QString strText, const QString &strStyle = {})
 {
     HtmlLinks::convertWebLink(strText, strStyle);
     return strText;
-}
-
-QString link(const QString &strUrl, const QString &strStyle = {})
-{
-    return "<a onfocus='this.blur()' href='web://urllink//" + strUrl + "' target='_blank' " + strStyle + ">" + strUrl +
-           "</a>";
 }
 
 // One match after the other, each cut from a copy.

@@ -5,6 +5,7 @@
 #include "model/SysUIData.h"
 
 #include "common/html/RandomMessage.h"
+#include "common/html/WebLink.h"
 
 #include <QDomDocument>
 #include <QTest>
@@ -21,12 +22,6 @@ QString inDocument(const QString &strParagraphs)
 QString styled(const QString &strStyle)
 {
     return "style=\"" + strStyle + "\" class=\"UNITECLASS\"";
-}
-
-QString link(const QString &strUrl, const QString &strStyle = {})
-{
-    return "<a onfocus='this.blur()' href='web://urllink//" + strUrl + "' target='_blank' " + strStyle + ">" + strUrl +
-           "</a>";
 }
 
 QString convertedStepByStep(const QString &strBody, bool bReplace)
