@@ -111,7 +111,11 @@ private:
             }
         });
     }
-    void compareWithNumbers(const char *pName) { comparePictures(picture(), pictureByNumbers(), pName); }
+    void compareWithNumbers(const char *pName)
+    {
+        const QImage actual = picture();
+        comparePictures(actual, pictureByNumbers(), pName);
+    }
 
     std::unique_ptr<ContactFixture> m_pContacts;
     std::unique_ptr<CConfDetailMemberTableView> m_pGrid;

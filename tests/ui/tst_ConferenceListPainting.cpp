@@ -118,7 +118,12 @@ private:
         });
     }
 
-    void compareWithNumbers(const char *pName) { comparePictures(picture(), pictureByNumbers(), pName); }
+    void compareWithNumbers(const char *pName)
+    {
+        // First the picture: for it the rows move to their places.
+        const QImage actual = picture();
+        comparePictures(actual, pictureByNumbers(), pName);
+    }
 
     /// A row of each status from 0 to 6, its name the status' number. Fills the list's height but for a strip.
     void addStatuses()
