@@ -53,7 +53,7 @@ inline constexpr FuzzTarget cFuzzTargets[] = {
     {"hostwindow", "hostevent", FuzzTargets::hostwindow, 1024, 100},
     {"jid", "jid", FuzzTargets::jid, 2200, 100},
     {"service", "service", FuzzTargets::service, 4096, 100},
-    {"html", "html", FuzzTargets::html, 16384, 200},
+    {"html", "html", FuzzTargets::html, 49152, 420},
     {"settings", "settings", FuzzTargets::settings, 4096, 100},
     {"picture", "picture", FuzzTargets::picture, 2048, 100},
     {"members", "members", FuzzTargets::members, 2048, 100},
