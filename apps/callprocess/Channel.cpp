@@ -4,9 +4,13 @@
 #include "callprocess/Trace.h"
 
 #include <QLocalSocket>
+#include <QScopedValueRollback>
 
+#include <fcntl.h>
 #include <linux/sockios.h>
 #include <sys/ioctl.h>
+#include <sys/socket.h>
+#include <unistd.h>
 #include <utility>
 
 namespace {
@@ -71,7 +75,7 @@ void Channel::drop()
 
 bool Channel::write(const QByteArray &bytes)
 {
-    if (m_client == nullptr) {
+    if (m_client == nullptr || !m_client->isOpen()) {
         m_trace.event(QStringLiteral("nobody to tell: ") + Trace::printable(bytes));
         return false;
     }
@@ -95,19 +99,24 @@ void Channel::acceptClient()
         }
         m_client = client;
         connect(client, &QLocalSocket::readyRead, this, &Channel::readClient);
-        connect(client, &QLocalSocket::disconnected, this, [this] {
-            readClient();
-            if (m_client == nullptr) {
-                return;
-            }
-            m_trace.event(QStringLiteral("disconnected"));
-            releaseClient();
-            emit clientGone();
-        });
+        connect(client, &QLocalSocket::disconnected, this, &Channel::endClient);
+        m_spareDescriptor = ::fcntl(static_cast<int>(client->socketDescriptor()), F_DUPFD_CLOEXEC, 0);
         m_trace.event(QStringLiteral("connected"));
         emit clientArrived();
         readClient();
     }
+}
+
+void Channel::endClient()
+{
+    const QByteArray seen = m_client->bytesAvailable() > 0 ? m_client->readAll() : QByteArray();
+    take(seen + readUnseen());
+    if (m_client == nullptr) {
+        return;
+    }
+    m_trace.event(QStringLiteral("disconnected"));
+    releaseClient();
+    emit clientGone();
 }
 
 void Channel::releaseClient()
@@ -123,6 +132,9 @@ void Channel::releaseClient()
         client->abort();
         client->deleteLater();
     }
+    if (m_spareDescriptor >= 0) {
+        ::close(std::exchange(m_spareDescriptor, -1));
+    }
     if (m_pumpTimer.isActive()) {
         m_pumpTimer.start();
     }
@@ -130,20 +142,34 @@ void Channel::releaseClient()
 
 void Channel::readClient()
 {
-    if (m_client == nullptr) {
-        return;
+    if (m_client != nullptr) {
+        take(m_client->readAll());
     }
+}
+
+QByteArray Channel::readUnseen() const
+{
+    QByteArray unseen;
+    char bytes[4096];
+    for (;;) {
+        const ssize_t count = ::recv(m_spareDescriptor, bytes, sizeof bytes, MSG_DONTWAIT);
+        if (count <= 0) {
+            return unseen;
+        }
+        unseen.append(bytes, static_cast<int>(count));
+    }
+}
+
+void Channel::take(const QByteArray &bytes)
+{
     int searchFrom = m_input.size();
-    const QByteArray bytes = m_client->readAll();
     if (!bytes.isEmpty()) {
         emit bytesReceived(bytes);
     }
     m_input += bytes;
-    // All lines are taken out first: what a line leads to may close this connection.
-    QList<QByteArray> lines;
     int begin = 0;
     for (int end = m_input.indexOf('\n', searchFrom); end >= 0; end = m_input.indexOf('\n', begin)) {
-        lines.append(m_input.mid(begin, end - begin));
+        m_lines.append(m_input.mid(begin, end - begin));
         begin = end + 1;
     }
     m_input.remove(0, begin);
@@ -151,7 +177,12 @@ void Channel::readClient()
         m_trace.complaint(QStringLiteral("%1 bytes without a line feed were dropped").arg(m_input.size()));
         m_input.clear();
     }
-    for (const QByteArray &line : std::as_const(lines)) {
+    if (m_handlingLines) {
+        return;
+    }
+    const QScopedValueRollback<bool> handling(m_handlingLines, true);
+    while (!m_lines.isEmpty()) {
+        const QByteArray line = m_lines.takeFirst();
         m_trace.received(line);
         emit lineReceived(line);
     }

@@ -49,7 +49,7 @@ public:
 signals:
     /// A client has connected.
     void clientArrived();
-    /// The client has gone, was dropped or gave way to another one.
+    /// The client has gone, was dropped or gave way to another one. Lines it sent before may still follow.
     void clientGone();
     /// What one read has brought from the client, ahead of the lines in it.
     void bytesReceived(const QByteArray &bytes);
@@ -60,8 +60,11 @@ signals:
 
 private:
     void acceptClient();
+    void endClient();
     void releaseClient();
     void readClient();
+    void take(const QByteArray &bytes);
+    QByteArray readUnseen() const;
     void pump();
     void pumpLater();
     bool isLastWriteTaken() const;
@@ -70,7 +73,12 @@ private:
     Trace &m_trace;
     QLocalServer m_server;
     QLocalSocket *m_client = nullptr;
+    // The client's connection once more. A failed write has Qt close its own with the client's last words still unread.
+    int m_spareDescriptor = -1;
     QByteArray m_input;
+    // Read and not handled yet: what a line leads to may bring the next ones in.
+    QList<QByteArray> m_lines;
+    bool m_handlingLines = false;
     QList<QByteArray> m_output;
     QTimer m_pumpTimer;
 };
