@@ -1,6 +1,6 @@
 // The end of a call: its result, its record, and the order of what goes out, whoever ends it.
 
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 #include "fakes/Patience.h"
 #include "ui/VoipWidget.h"
 #include "widgets/PushButtonEx.h"
@@ -19,36 +19,34 @@ const QStringList cWindowCloses{"SetMicEnable true", "SetSpeakerEnble true"};
 
 } // namespace
 
-class tst_CallEnd : public QObject
+class tst_CallEnd : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
 private slots:
     void hangUpWithoutACallOnlyStopsTheRing()
     {
-        EngineFixture f;
-        f.manager->playReceviceCall();
-        f.manager->m_pVoipWidget->show();
-        f.manager->m_inviteTimer.start(60000);
-        f.manager->m_recevieTimer.start(60000);
-        QCOMPARE(f.state(), QString("idle, invite, receive, ring"));
-        f.manager->hangupVoipCall();
-        QCOMPARE(f.state(), QString("idle, invite, receive"));
-        QCOMPARE(f.takeJournal(), QStringList());
-        QVERIFY(f.manager->m_pVoipWidget->isVisible());
+        m_f->manager->playReceviceCall();
+        m_f->manager->m_pVoipWidget->show();
+        m_f->manager->m_inviteTimer.start(60000);
+        m_f->manager->m_recevieTimer.start(60000);
+        QCOMPARE(m_f->state(), QString("idle, invite, receive, ring"));
+        m_f->manager->hangupVoipCall();
+        QCOMPARE(m_f->state(), QString("idle, invite, receive"));
+        QCOMPARE(m_f->takeJournal(), QStringList());
+        QVERIFY(m_f->manager->m_pVoipWidget->isVisible());
     }
 
     void endWithoutACallStopsRingAndTimers()
     {
-        EngineFixture f;
         // A call of nobody is none, but it rings.
-        f.notify(0, "");
-        f.manager->m_inviteTimer.start(60000);
-        QCOMPARE(f.state(), QString("idle, invite, receive, ring"));
-        f.takeJournal();
-        f.notify(4);
-        QCOMPARE(f.state(), QString("idle"));
-        QCOMPARE(f.takeJournal(), QStringList());
+        m_f->notify(0, "");
+        m_f->manager->m_inviteTimer.start(60000);
+        QCOMPARE(m_f->state(), QString("idle, invite, receive, ring"));
+        m_f->takeJournal();
+        m_f->notify(4);
+        QCOMPARE(m_f->state(), QString("idle"));
+        QCOMPARE(m_f->takeJournal(), QStringList());
     }
 
     void everyEndHasItsResult_data()
@@ -140,12 +138,11 @@ private slots:
     void everyEndHasItsResult()
     {
         QFETCH(Step, run);
-        EngineFixture f;
-        run(f);
-        QTEST(f.takeJournal(), "journal");
-        QCOMPARE(f.state(), QString("idle"));
-        QVERIFY(!f.manager->isExistCall());
-        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
+        run(*m_f);
+        QTEST(m_f->takeJournal(), "journal");
+        QCOMPARE(m_f->state(), QString("idle"));
+        QVERIFY(!m_f->manager->isExistCall());
+        QVERIFY(!m_f->manager->m_pVoipWidget->isVisible());
     }
 
     void recordSaysWhoCalledAndHowLong_data()
@@ -176,123 +173,114 @@ private slots:
         QFETCH(QString, record);
         QFETCH(qint64, least);
         QFETCH(qint64, most);
-        EngineFixture f;
         if (caller) {
-            f.manager->callSingleUser("anna", false);
+            m_f->manager->callSingleUser("anna", false);
         } else {
-            f.notify(0, "anna");
+            m_f->notify(0, "anna");
         }
         if (connected) {
-            f.notify(18);
-            f.manager->m_callData.connectTime = f.manager->m_callData.connectTime.addSecs(-age);
+            m_f->notify(18);
+            m_f->manager->m_callData.connectTime = m_f->manager->m_callData.connectTime.addSecs(-age);
         }
-        f.notify(7);
-        QCOMPARE(f.takeJournal().filter("4478 "), QStringList(record));
-        QVERIFY(f.lastSeconds() >= least);
-        QVERIFY(f.lastSeconds() <= most);
+        m_f->notify(7);
+        QCOMPARE(m_f->takeJournal().filter("4478 "), QStringList(record));
+        QVERIFY(m_f->lastSeconds() >= least);
+        QVERIFY(m_f->lastSeconds() <= most);
     }
 
     void secondEndOfACallTellsTheHostNothing()
     {
-        EngineFixture f;
-        f.manager->callSingleUser("anna", false);
-        f.notify(7);
-        f.takeJournal();
-        f.notify(7);
-        f.manager->callFinished(CallData::FinishHangup);
-        QCOMPARE(f.takeJournal(), QStringList());
-        QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 1);
+        m_f->manager->callSingleUser("anna", false);
+        m_f->notify(7);
+        m_f->takeJournal();
+        m_f->notify(7);
+        m_f->manager->callFinished(CallData::FinishHangup);
+        QCOMPARE(m_f->takeJournal(), QStringList());
+        QCOMPARE(m_f->host.received(MSG_CALL_FINISHED).size(), 1);
     }
 
     void callOfMembersOnlyTellsTheHostNothing()
     {
-        EngineFixture f;
-        f.manager->m_callData.memberList = QStringList{"anna"};
-        f.manager->callFinished(CallData::FinishHangup);
-        QCOMPARE(f.takeJournal(), cWindowCloses);
-        QVERIFY(!f.manager->isExistCall());
+        m_f->manager->m_callData.memberList = QStringList{"anna"};
+        m_f->manager->callFinished(CallData::FinishHangup);
+        QCOMPARE(m_f->takeJournal(), cWindowCloses);
+        QVERIFY(!m_f->manager->isExistCall());
     }
 
     void promptOfAFullJidIsTakenAwayByThatJid()
     {
-        EngineFixture f;
-        f.notify(0, "bert@other.im");
-        f.takeJournal();
-        f.notify(4);
-        QCOMPARE(f.takeJournal().constFirst(), QString("4345 bert@other.im"));
+        m_f->notify(0, "bert@other.im");
+        m_f->takeJournal();
+        m_f->notify(4);
+        QCOMPARE(m_f->takeJournal().constFirst(), QString("4345 bert@other.im"));
     }
 
     void windowNeverShownSendsThePairToo()
     {
-        EngineFixture f;
-        f.notify(0, "bert");
-        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
-        f.takeJournal();
-        f.notify(4);
-        QCOMPARE(f.takeJournal(),
+        m_f->notify(0, "bert");
+        QVERIFY(!m_f->manager->m_pVoipWidget->isVisible());
+        m_f->takeJournal();
+        m_f->notify(4);
+        QCOMPARE(m_f->takeJournal(),
                  QStringList({"4345 bert@kelvar.im", "4478 false bert 21 false false"}) + cWindowCloses);
     }
 
     void userClosingTheWindowSendsThePairBeforeTheHangUp()
     {
-        EngineFixture f;
-        f.manager->callSingleUser("anna", false);
-        f.notify(18);
-        f.takeJournal();
-        f.manager->m_pVoipWidget->close();
-        QCOMPARE(f.takeJournal(),
+        m_f->manager->callSingleUser("anna", false);
+        m_f->notify(18);
+        m_f->takeJournal();
+        m_f->manager->m_pVoipWidget->close();
+        QCOMPARE(m_f->takeJournal(),
                  cWindowCloses + QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 24 true true"}));
-        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
-        QCOMPARE(f.state(), QString("idle"));
+        QVERIFY(!m_f->manager->m_pVoipWidget->isVisible());
+        QCOMPARE(m_f->state(), QString("idle"));
     }
 
     void managerEndingTheCallSendsThePairAfterTheHangUp()
     {
-        EngineFixture f;
-        f.manager->callSingleUser("anna", false);
-        f.notify(18);
-        f.takeJournal();
-        emit f.manager->m_pVoipWidget->findChild<PushButtonEx *>("HangUp")->clicked();
-        QCOMPARE(f.takeJournal(),
+        m_f->manager->callSingleUser("anna", false);
+        m_f->notify(18);
+        m_f->takeJournal();
+        emit m_f->manager->m_pVoipWidget->findChild<PushButtonEx *>("HangUp")->clicked();
+        QCOMPARE(m_f->takeJournal(),
                  QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 24 true true"}) + cWindowCloses);
     }
 
     void cancelSendsThePairTwice()
     {
-        EngineFixture f;
-        f.manager->callSingleUser("anna", false);
-        f.takeJournal();
-        emit f.manager->m_pVoipWidget->findChild<PushButtonEx *>("btnCancelCall")->clicked();
-        QCOMPARE(f.takeJournal(), QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 21 true false"}) +
-                                      cWindowCloses + cWindowCloses);
+        m_f->manager->callSingleUser("anna", false);
+        m_f->takeJournal();
+        emit m_f->manager->m_pVoipWidget->findChild<PushButtonEx *>("btnCancelCall")->clicked();
+        QCOMPARE(m_f->takeJournal(),
+                 QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 21 true false"}) + cWindowCloses +
+                     cWindowCloses);
     }
 
     void inviteTimeoutEndsTheCall()
     {
-        EngineFixture f;
-        f.manager->callSingleUser("anna", false);
-        QVERIFY(f.manager->m_pVoipWidget->isVisible());
+        m_f->manager->callSingleUser("anna", false);
+        QVERIFY(m_f->manager->m_pVoipWidget->isVisible());
         // The timer itself, not its slot.
-        f.manager->m_inviteTimer.start(0);
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), cPatienceMs);
-        QVERIFY(!f.manager->m_inviteTimer.isActive());
-        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
-        f.notify(0, "bert");
-        f.manager->m_recevieTimer.start(0);
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), cPatienceMs);
-        QVERIFY(!f.manager->m_recevieTimer.isActive());
+        m_f->manager->m_inviteTimer.start(0);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->isExistCall(), cPatienceMs);
+        QVERIFY(!m_f->manager->m_inviteTimer.isActive());
+        QVERIFY(!m_f->manager->m_pVoipWidget->isVisible());
+        m_f->notify(0, "bert");
+        m_f->manager->m_recevieTimer.start(0);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->isExistCall(), cPatienceMs);
+        QVERIFY(!m_f->manager->m_recevieTimer.isActive());
     }
 
     void callIsForgottenBeforeTheWindowCloses()
     {
-        EngineFixture f;
-        f.manager->callSingleUser("anna", false);
+        m_f->manager->callSingleUser("anna", false);
         bool existed = true;
-        connect(f.manager->m_pVoipWidget, &CVoipWidget::signal_HangupCurrentCall, this,
-                [&] { existed = f.manager->isExistCall(); });
-        f.manager->hangupVoipCall();
+        connect(m_f->manager->m_pVoipWidget, &CVoipWidget::signal_HangupCurrentCall, this,
+                [&] { existed = m_f->manager->isExistCall(); });
+        m_f->manager->hangupVoipCall();
         QVERIFY(!existed);
-        QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 1);
+        QCOMPARE(m_f->host.received(MSG_CALL_FINISHED).size(), 1);
     }
 };
 

@@ -1,6 +1,6 @@
 // Every event in every state of a single call: what goes out, and what state follows.
 
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 #include "fakes/Patience.h"
 #include "ui/VoipWidget.h"
 
@@ -48,7 +48,7 @@ const QString cIncomingCarl = QStringLiteral("incoming carl, receive, ring");
 
 } // namespace
 
-class tst_CallStates : public QObject
+class tst_CallStates : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
@@ -126,11 +126,10 @@ private slots:
     {
         QFETCH(Event, event);
         QFETCH(QString, state);
-        EngineFixture f;
-        enter(f, state);
-        event(f);
-        QTEST(f.takeJournal(), "journal");
-        QTEST(f.state(), "stateAfter");
+        enter(*m_f, state);
+        event(*m_f);
+        QTEST(m_f->takeJournal(), "journal");
+        QTEST(m_f->state(), "stateAfter");
     }
 
     void endOfAnAnsweredIncomingCall_data()
@@ -147,16 +146,15 @@ private slots:
     void endOfAnAnsweredIncomingCall()
     {
         QFETCH(Event, event);
-        EngineFixture f;
-        f.notify(0, "bert");
-        f.manager->responseVoipRequest(true);
-        QCOMPARE(f.state(), QString("incoming bert, receive"));
-        f.notify(18);
-        QCOMPARE(f.state(), QString("connected bert"));
-        f.takeJournal();
-        event(f);
-        QTEST(f.takeJournal(), "journal");
-        QCOMPARE(f.state(), cIdle);
+        m_f->notify(0, "bert");
+        m_f->manager->responseVoipRequest(true);
+        QCOMPARE(m_f->state(), QString("incoming bert, receive"));
+        m_f->notify(18);
+        QCOMPARE(m_f->state(), QString("connected bert"));
+        m_f->takeJournal();
+        event(*m_f);
+        QTEST(m_f->takeJournal(), "journal");
+        QCOMPARE(m_f->state(), cIdle);
     }
 
     void socketLossLeavesTheCall_data()
@@ -174,41 +172,38 @@ private slots:
     {
         QFETCH(QString, state);
         QFETCH(QString, stateAfter);
-        EngineFixture f;
-        enter(f, state);
-        const bool shown = f.manager->m_pVoipWidget->isVisible();
-        const auto *clock = f.manager->m_pVoipWidget->findChild<QTimer *>("m_callTimeTimer");
-        QVERIFY(!f.manager->m_reconnectTimer.isActive());
-        f.process.close();
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, cPatienceMs);
-        QCOMPARE(f.state(), stateAfter);
-        QCOMPARE(f.manager->m_pVoipWidget->isVisible(), shown);
+        enter(*m_f, state);
+        const bool shown = m_f->manager->m_pVoipWidget->isVisible();
+        const auto *clock = m_f->manager->m_pVoipWidget->findChild<QTimer *>("m_callTimeTimer");
+        QVERIFY(!m_f->manager->m_reconnectTimer.isActive());
+        m_f->process.close();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->m_bSocketConnected, cPatienceMs);
+        QCOMPARE(m_f->state(), stateAfter);
+        QCOMPARE(m_f->manager->m_pVoipWidget->isVisible(), shown);
         QCOMPARE(clock->isActive(), state == "Connected");
-        QVERIFY(f.manager->m_reconnectTimer.isActive());
-        QCOMPARE(f.manager->m_reconnectTimer.interval(), 1000);
-        QCOMPARE(f.takeJournal(), QStringList());
+        QVERIFY(m_f->manager->m_reconnectTimer.isActive());
+        QCOMPARE(m_f->manager->m_reconnectTimer.interval(), 1000);
+        QCOMPARE(m_f->takeJournal(), QStringList());
     }
 
     void hangUpAfterSocketLossEndsTheCallWithoutALine()
     {
-        EngineFixture f;
-        enter(f, "Connected");
-        f.process.close();
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, cPatienceMs);
-        f.manager->hangupVoipCall();
-        QCOMPARE(f.takeJournal(), QStringList({"4345 anna@kelvar.im", "4478 false anna 24 true true"}));
-        QCOMPARE(f.state(), cIdle);
-        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
+        enter(*m_f, "Connected");
+        m_f->process.close();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->m_bSocketConnected, cPatienceMs);
+        m_f->manager->hangupVoipCall();
+        QCOMPARE(m_f->takeJournal(), QStringList({"4345 anna@kelvar.im", "4478 false anna 24 true true"}));
+        QCOMPARE(m_f->state(), cIdle);
+        QVERIFY(!m_f->manager->m_pVoipWidget->isVisible());
     }
 
     void timersRunForSixtySeconds()
     {
-        EngineFixture f;
-        enter(f, "Outgoing");
-        QCOMPARE(f.manager->m_inviteTimer.interval(), 60000);
-        f.notify(4);
-        enter(f, "Incoming");
-        QCOMPARE(f.manager->m_recevieTimer.interval(), 60000);
+        enter(*m_f, "Outgoing");
+        QCOMPARE(m_f->manager->m_inviteTimer.interval(), 60000);
+        m_f->notify(4);
+        enter(*m_f, "Incoming");
+        QCOMPARE(m_f->manager->m_recevieTimer.interval(), 60000);
     }
 
     void acceptingDoesNotStartTheReceiveTimerAgain_data()
@@ -222,12 +217,11 @@ private slots:
     void acceptingDoesNotStartTheReceiveTimerAgain()
     {
         QFETCH(Event, ring);
-        EngineFixture f;
-        ring(f);
-        f.manager->m_recevieTimer.start(30000);
-        f.manager->responseVoipRequest(true);
-        QVERIFY(f.manager->m_recevieTimer.isActive());
-        QCOMPARE(f.manager->m_recevieTimer.interval(), 30000);
+        ring(*m_f);
+        m_f->manager->m_recevieTimer.start(30000);
+        m_f->manager->responseVoipRequest(true);
+        QVERIFY(m_f->manager->m_recevieTimer.isActive());
+        QCOMPARE(m_f->manager->m_recevieTimer.interval(), 30000);
     }
 
     void secondIncomingCallStartsTheReceiveTimerAgain_data()
@@ -242,58 +236,53 @@ private slots:
     void secondIncomingCallStartsTheReceiveTimerAgain()
     {
         QFETCH(Event, ring);
-        EngineFixture f;
-        f.notify(0, "bert");
-        f.manager->m_recevieTimer.start(30000);
-        ring(f);
-        QVERIFY(f.manager->m_recevieTimer.isActive());
-        QCOMPARE(f.manager->m_recevieTimer.interval(), 60000);
+        m_f->notify(0, "bert");
+        m_f->manager->m_recevieTimer.start(30000);
+        ring(*m_f);
+        QVERIFY(m_f->manager->m_recevieTimer.isActive());
+        QCOMPARE(m_f->manager->m_recevieTimer.interval(), 60000);
     }
 
     void inviteTimerOfAnIncomingCallOnlyStops()
     {
-        EngineFixture f;
-        enter(f, "Outgoing");
-        f.notify(0, "carl");
-        f.takeJournal();
-        f.manager->slot_inviteCallTimeout();
-        QCOMPARE(f.takeJournal(), QStringList());
-        QCOMPARE(f.state(), cIncomingCarl);
+        enter(*m_f, "Outgoing");
+        m_f->notify(0, "carl");
+        m_f->takeJournal();
+        m_f->manager->slot_inviteCallTimeout();
+        QCOMPARE(m_f->takeJournal(), QStringList());
+        QCOMPARE(m_f->state(), cIncomingCarl);
     }
 
     void receiveTimerOfAnOutgoingCallOnlyStops()
     {
-        EngineFixture f;
-        enter(f, "Outgoing");
-        f.manager->m_recevieTimer.start(60000);
-        f.manager->slot_recevieCallTimeout();
-        QCOMPARE(f.takeJournal(), QStringList());
-        QCOMPARE(f.state(), cOutgoing);
+        enter(*m_f, "Outgoing");
+        m_f->manager->m_recevieTimer.start(60000);
+        m_f->manager->slot_recevieCallTimeout();
+        QCOMPARE(m_f->takeJournal(), QStringList());
+        QCOMPARE(m_f->state(), cOutgoing);
     }
 
     void receiveTimerOfASecondCallHangsUpTheConnectedOne()
     {
-        EngineFixture f;
-        enter(f, "Connected");
-        f.notify(0, "carl");
-        f.takeJournal();
-        QVERIFY(f.manager->m_recevieTimer.isActive());
-        f.manager->slot_recevieCallTimeout();
-        QCOMPARE(f.takeJournal(), QStringList("HangUpCall") + ended("carl", 24, false, true));
-        QCOMPARE(f.state(), cIdle);
+        enter(*m_f, "Connected");
+        m_f->notify(0, "carl");
+        m_f->takeJournal();
+        QVERIFY(m_f->manager->m_recevieTimer.isActive());
+        m_f->manager->slot_recevieCallTimeout();
+        QCOMPARE(m_f->takeJournal(), QStringList("HangUpCall") + ended("carl", 24, false, true));
+        QCOMPARE(m_f->state(), cIdle);
     }
 
     void secondIncomingCallKeepsFlagTimeListsAndWindow()
     {
-        EngineFixture f;
-        f.manager->callSingleUser("anna", true);
-        f.notify(18);
-        CallData &call = f.manager->m_callData;
+        m_f->manager->callSingleUser("anna", true);
+        m_f->notify(18);
+        CallData &call = m_f->manager->m_callData;
         call.memberList = QStringList{"x"};
         call.connectedList = QStringList{"y"};
         const QDateTime connectTime = call.connectTime;
-        const QString title = f.manager->m_pVoipWidget->windowTitle();
-        f.notify(1, "carl");
+        const QString title = m_f->manager->m_pVoipWidget->windowTitle();
+        m_f->notify(1, "carl");
         QCOMPARE(call.peerId, QString("carl"));
         QVERIFY(!call.bIsConf);
         QVERIFY(!call.bIsVideo);
@@ -302,40 +291,37 @@ private slots:
         QCOMPARE(call.connectTime, connectTime);
         QCOMPARE(call.memberList, QStringList{"x"});
         QCOMPARE(call.connectedList, QStringList{"y"});
-        QCOMPARE(f.manager->m_pVoipWidget->windowTitle(), title);
-        QVERIFY(f.manager->m_pVoipWidget->isVisible());
+        QCOMPARE(m_f->manager->m_pVoipWidget->windowTitle(), title);
+        QVERIFY(m_f->manager->m_pVoipWidget->isVisible());
     }
 
     void codeEighteenInIdleLeavesFlagAndTime()
     {
-        EngineFixture f;
-        f.notify(18);
-        QVERIFY(f.manager->m_callData.bIsConnected);
-        QVERIFY(f.manager->m_callData.connectTime.isValid());
-        QCOMPARE(f.manager->m_callData.connectTime.timeSpec(), Qt::UTC);
+        m_f->notify(18);
+        QVERIFY(m_f->manager->m_callData.bIsConnected);
+        QVERIFY(m_f->manager->m_callData.connectTime.isValid());
+        QCOMPARE(m_f->manager->m_callData.connectTime.timeSpec(), Qt::UTC);
         // The window is told as in a call.
-        QCOMPARE(f.manager->m_pVoipWidget->findChild<QLabel *>("lblStatus")->text(), QStringLiteral("已接通"));
+        QCOMPARE(m_f->manager->m_pVoipWidget->findChild<QLabel *>("lblStatus")->text(), QStringLiteral("已接通"));
         // The next call starts with what was left.
-        f.manager->callSingleUser("anna", false);
-        QVERIFY(f.manager->m_callData.bIsConnected);
-        QVERIFY(f.manager->m_inviteTimer.isActive());
+        m_f->manager->callSingleUser("anna", false);
+        QVERIFY(m_f->manager->m_callData.bIsConnected);
+        QVERIFY(m_f->manager->m_inviteTimer.isActive());
     }
 
     void reconnectingTakesTheConnectTimeAgain()
     {
-        EngineFixture f;
-        enter(f, "Connected");
-        f.manager->m_callData.connectTime = QDateTime::currentDateTimeUtc().addSecs(-3600);
-        f.notify(18);
-        QVERIFY(f.manager->m_callData.connectTime > QDateTime::currentDateTimeUtc().addSecs(-1800));
+        enter(*m_f, "Connected");
+        m_f->manager->m_callData.connectTime = QDateTime::currentDateTimeUtc().addSecs(-3600);
+        m_f->notify(18);
+        QVERIFY(m_f->manager->m_callData.connectTime > QDateTime::currentDateTimeUtc().addSecs(-1800));
     }
 
     void noTimerIsSingleShot()
     {
-        EngineFixture f;
-        QVERIFY(!f.manager->m_inviteTimer.isSingleShot());
-        QVERIFY(!f.manager->m_recevieTimer.isSingleShot());
-        QVERIFY(!f.manager->m_reconnectTimer.isSingleShot());
+        QVERIFY(!m_f->manager->m_inviteTimer.isSingleShot());
+        QVERIFY(!m_f->manager->m_recevieTimer.isSingleShot());
+        QVERIFY(!m_f->manager->m_reconnectTimer.isSingleShot());
     }
 
 private:

@@ -1,10 +1,10 @@
 // The host's report on its own login: registering the user, and hanging up before unregistering.
 
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 
 #include <QTest>
 
-class tst_ClientConnect : public QObject
+class tst_ClientConnect : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
@@ -24,46 +24,43 @@ private slots:
     {
         QFETCH(QString, nick);
         QFETCH(QString, line);
-        EngineFixture f;
         FriendData me(EngineFixture::jid("me"));
         me.m_vcardInfo.m_strNickName = nick;
-        f.host.setRecord(me.m_strJid, me);
-        f.manager->clientConnectStatus(true);
-        QCOMPARE(f.takeLines(), QStringList{line});
-        QCOMPARE(f.host.received(MSG_GET_FRIEND_INFO).size(), 1);
+        m_f->host.setRecord(me.m_strJid, me);
+        m_f->manager->clientConnectStatus(true);
+        QCOMPARE(m_f->takeLines(), QStringList{line});
+        QCOMPARE(m_f->host.received(MSG_GET_FRIEND_INFO).size(), 1);
     }
 
     void loginWithoutARecordRegistersAnEmptyValue()
     {
-        EngineFixture f;
-        f.context.setLoginData(nullptr);
-        f.manager->clientConnectStatus(true);
-        QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"\" \"\" \"\" false"});
+        m_f->context.setLoginData(nullptr);
+        m_f->manager->clientConnectStatus(true);
+        QCOMPARE(m_f->takeLines(), QStringList{"RegeditUser \"\" \"\" \"\" false"});
     }
 
     void loginWhileDownIsRegisteredAtTheNextConnect()
     {
-        EngineFixture f(EngineFixture::NoCallProcess);
-        f.manager->clientConnectStatus(true);
-        QCOMPARE(f.manager->m_strUserId, QString("me"));
-        f.process.open();
-        f.manager->slot_ReConnectVoipSDK();
-        QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"me\" \"\" \"ticket\" false"});
+        begin(EngineFixture::NoCallProcess);
+        m_f->manager->clientConnectStatus(true);
+        QCOMPARE(m_f->manager->m_strUserId, QString("me"));
+        m_f->process.open();
+        m_f->manager->slot_ReConnectVoipSDK();
+        QCOMPARE(m_f->takeLines(), QStringList{"RegeditUser \"me\" \"\" \"ticket\" false"});
     }
 
     void logoutHangsUpThenUnregisters()
     {
-        EngineFixture f;
-        f.manager->clientConnectStatus(true);
-        f.manager->callSingleUser("anna", false);
-        f.notify(18);
-        f.takeJournal();
-        f.manager->clientConnectStatus(false);
-        QCOMPARE(f.takeJournal(), QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 24 true true"}) +
-                                      QStringList({"SetMicEnable true", "SetSpeakerEnble true"}) +
-                                      QStringList{"UnReg \"me\""});
-        QCOMPARE(f.manager->m_strUserId, QString("me"));
-        QCOMPARE(f.manager->m_strRegValue, QString("ticket"));
+        m_f->manager->clientConnectStatus(true);
+        m_f->manager->callSingleUser("anna", false);
+        m_f->notify(18);
+        m_f->takeJournal();
+        m_f->manager->clientConnectStatus(false);
+        QCOMPARE(m_f->takeJournal(),
+                 QStringList({"HangUpCall", "4345 anna@kelvar.im", "4478 false anna 24 true true"}) +
+                     QStringList({"SetMicEnable true", "SetSpeakerEnble true"}) + QStringList{"UnReg \"me\""});
+        QCOMPARE(m_f->manager->m_strUserId, QString("me"));
+        QCOMPARE(m_f->manager->m_strRegValue, QString("ticket"));
     }
 };
 

@@ -1,6 +1,7 @@
 // The conference centre in the engine's hands: opened, fed, closed and opened again, over the user's store.
 
 #include "engine/RecordedEngine.h"
+#include "fakes/EngineTest.h"
 #include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "plugin/EMsgId.h"
@@ -12,7 +13,7 @@
 #include <QPointer>
 #include <QTest>
 
-class tst_ConferenceCentre : public QObject
+class tst_ConferenceCentre : public EngineTest<RecordedEngine>
 {
     Q_OBJECT
 
@@ -73,138 +74,126 @@ private:
 private slots:
     void openingShowsTheStoresRecords()
     {
-        RecordedEngine f;
         save({"c1", "c3", "c2"});
-        QVERIFY(!f.manager->m_pVoiceConfWidget);
-        open(f);
-        QVERIFY(f.manager->m_pVoiceConfWidget->isWindow());
-        QVERIFY(!f.manager->m_pVoiceConfWidget->parent());
-        QCOMPARE(shown(f), QStringList({"c3", "c2", "c1"}));
+        QVERIFY(!m_f->manager->m_pVoiceConfWidget);
+        open(*m_f);
+        QVERIFY(m_f->manager->m_pVoiceConfWidget->isWindow());
+        QVERIFY(!m_f->manager->m_pVoiceConfWidget->parent());
+        QCOMPARE(shown(*m_f), QStringList({"c3", "c2", "c1"}));
     }
 
     void openingTwiceKeepsTheWindow()
     {
-        RecordedEngine f;
-        open(f);
-        const CVoiceConferenceWidget *pFirst = f.manager->m_pVoiceConfWidget;
+        open(*m_f);
+        const CVoiceConferenceWidget *pFirst = m_f->manager->m_pVoiceConfWidget;
         save({"c1"});
-        f.manager->showVoiceConf();
-        QCOMPARE(f.manager->m_pVoiceConfWidget, pFirst);
-        QCOMPARE(shown(f), QStringList());
+        m_f->manager->showVoiceConf();
+        QCOMPARE(m_f->manager->m_pVoiceConfWidget, pFirst);
+        QCOMPARE(shown(*m_f), QStringList());
     }
 
     void minimisedCentreComesBack()
     {
-        RecordedEngine f;
-        open(f);
-        f.manager->m_pVoiceConfWidget->showMinimized();
-        f.manager->showVoiceConf();
-        QVERIFY(!f.manager->m_pVoiceConfWidget->isMinimized());
-        QVERIFY(f.manager->m_pVoiceConfWidget->isVisible());
-        f.manager->m_pVoiceConfWidget->hide();
-        f.manager->showVoiceConf();
-        QVERIFY(f.manager->m_pVoiceConfWidget->isVisible());
+        open(*m_f);
+        m_f->manager->m_pVoiceConfWidget->showMinimized();
+        m_f->manager->showVoiceConf();
+        QVERIFY(!m_f->manager->m_pVoiceConfWidget->isMinimized());
+        QVERIFY(m_f->manager->m_pVoiceConfWidget->isVisible());
+        m_f->manager->m_pVoiceConfWidget->hide();
+        m_f->manager->showVoiceConf();
+        QVERIFY(m_f->manager->m_pVoiceConfWidget->isVisible());
     }
 
     void openedCentreIsTheActiveWindow()
     {
-        RecordedEngine f;
-        open(f);
-        QVERIFY(QTest::qWaitForWindowActive(f.manager->m_pVoiceConfWidget, cPatienceMs));
+        open(*m_f);
+        QVERIFY(QTest::qWaitForWindowActive(m_f->manager->m_pVoiceConfWidget, cPatienceMs));
         QWidget other;
         other.show();
         QVERIFY(QTest::qWaitForWindowActive(&other, cPatienceMs));
-        f.manager->showVoiceConf();
-        QVERIFY(QTest::qWaitForWindowActive(f.manager->m_pVoiceConfWidget, cPatienceMs));
+        m_f->manager->showVoiceConf();
+        QVERIFY(QTest::qWaitForWindowActive(m_f->manager->m_pVoiceConfWidget, cPatienceMs));
     }
 
     void endedConferenceComesOnTop()
     {
-        RecordedEngine f;
         save({"d9", "d8"});
-        open(f);
-        f.createConference();
-        f.notify(7);
-        QCOMPARE(shown(f), QStringList({"c1", "d9", "d8"}));
-        QCOMPARE(list(f)->model()->index(0, 0).data(ROLE_CREATED_BY_ME), QVariant(true));
-        QCOMPARE(stored(f), QStringList({"'c1'", "'d8'", "'d9'"}));
+        open(*m_f);
+        m_f->createConference();
+        m_f->notify(7);
+        QCOMPARE(shown(*m_f), QStringList({"c1", "d9", "d8"}));
+        QCOMPARE(list(*m_f)->model()->index(0, 0).data(ROLE_CREATED_BY_ME), QVariant(true));
+        QCOMPARE(stored(*m_f), QStringList({"'c1'", "'d8'", "'d9'"}));
     }
 
     void rejectedInvitationComesOnTopToo()
     {
-        RecordedEngine f;
         save({"d9"});
-        open(f);
-        f.notify(2, R"({"content":{"confId":"c7","from":"anna"}})");
-        f.manager->rejectVoipCall();
-        QCOMPARE(shown(f).size(), f.count());
-        QCOMPARE(f.count(), 2);
-        QCOMPARE(list(f)->model()->index(0, 0).data(ROLE_CALL_STATUS), QVariant(false));
-        QCOMPARE(shown(f).last(), QString("d9"));
+        open(*m_f);
+        m_f->notify(2, R"({"content":{"confId":"c7","from":"anna"}})");
+        m_f->manager->rejectVoipCall();
+        QCOMPARE(shown(*m_f).size(), m_f->count());
+        QCOMPARE(m_f->count(), 2);
+        QCOMPARE(list(*m_f)->model()->index(0, 0).data(ROLE_CALL_STATUS), QVariant(false));
+        QCOMPARE(shown(*m_f).last(), QString("d9"));
     }
 
     void conferenceWithoutAnIdIsNotShown()
     {
-        RecordedEngine f;
-        open(f);
-        f.manager->callConference({"anna"}, false, QString());
-        f.manager->hangupVoipCall();
-        QCOMPARE(stored(f), QStringList{"''"});
-        QCOMPARE(shown(f), QStringList());
+        open(*m_f);
+        m_f->manager->callConference({"anna"}, false, QString());
+        m_f->manager->hangupVoipCall();
+        QCOMPARE(stored(*m_f), QStringList{"''"});
+        QCOMPARE(shown(*m_f), QStringList());
     }
 
     void conferenceThatIsShownAlreadyChangesNothing()
     {
-        RecordedEngine f;
         save({"c2", "c1"});
-        open(f);
-        f.createConference();
-        f.notify(7);
-        QCOMPARE(shown(f), QStringList({"c2", "c1"}));
-        QCOMPARE(list(f)->model()->index(1, 0).data(ROLE_USER_ID).toString(), QString("anna"));
+        open(*m_f);
+        m_f->createConference();
+        m_f->notify(7);
+        QCOMPARE(shown(*m_f), QStringList({"c2", "c1"}));
+        QCOMPARE(list(*m_f)->model()->index(1, 0).data(ROLE_USER_ID).toString(), QString("anna"));
     }
 
     void conferenceEndedWithTheCentreClosedIsThereAtTheNextOpening()
     {
-        RecordedEngine f;
-        f.createConference();
-        f.notify(7);
-        QVERIFY(!f.manager->m_pVoiceConfWidget);
-        open(f);
-        QCOMPARE(shown(f), QStringList{"c1"});
+        m_f->createConference();
+        m_f->notify(7);
+        QVERIFY(!m_f->manager->m_pVoiceConfWidget);
+        open(*m_f);
+        QCOMPARE(shown(*m_f), QStringList{"c1"});
     }
 
     void deletedRecordLeavesTheStore()
     {
-        RecordedEngine f;
         save({"c1", "c2", "c3"});
-        open(f);
-        choose(f, 1, 1);
-        QCOMPARE(shown(f), QStringList({"c3", "c1"}));
-        QCOMPARE(stored(f), QStringList({"'c1'", "'c3'"}));
-        f.manager->m_pVoiceConfWidget->close();
-        open(f);
-        QCOMPARE(shown(f), QStringList({"c3", "c1"}));
+        open(*m_f);
+        choose(*m_f, 1, 1);
+        QCOMPARE(shown(*m_f), QStringList({"c3", "c1"}));
+        QCOMPARE(stored(*m_f), QStringList({"'c1'", "'c3'"}));
+        m_f->manager->m_pVoiceConfWidget->close();
+        open(*m_f);
+        QCOMPARE(shown(*m_f), QStringList({"c3", "c1"}));
     }
 
     void deletedRecordWithAnApostropheLeavesTheWindow()
     {
-        RecordedEngine f;
         save({"o'brien", "c1"});
-        open(f);
-        choose(f, 0, 1);
-        QCOMPARE(shown(f), QStringList{"c1"});
+        open(*m_f);
+        choose(*m_f, 0, 1);
+        QCOMPARE(shown(*m_f), QStringList{"c1"});
         // The store looks for the id without its apostrophe, which is not there.
-        QCOMPARE(stored(f), QStringList({"'c1'", "'o''brien'"}));
+        QCOMPARE(stored(*m_f), QStringList({"'c1'", "'o''brien'"}));
     }
 
     void redialAsksTheHost()
     {
-        RecordedEngine f;
         save({"c1"});
-        open(f);
-        choose(f, 0, 0);
-        const QList<ReceivedEvent> wishes = f.host.received(MSG_CREATE_VOICE_CONFERENCE);
+        open(*m_f);
+        choose(*m_f, 0, 0);
+        const QList<ReceivedEvent> wishes = m_f->host.received(MSG_CREATE_VOICE_CONFERENCE);
         QCOMPARE(wishes.size(), 1);
         PayloadReader reader = wishes.first().reader();
         QCOMPARE(reader.takeTexts(), QStringList({"anna@kelvar.im", "me@kelvar.im"}));
@@ -212,48 +201,44 @@ private slots:
 
     void closedCentreIsForgottenAndDestroyedLater()
     {
-        RecordedEngine f;
-        open(f);
-        const QPointer<QWidget> centre = f.manager->m_pVoiceConfWidget;
+        open(*m_f);
+        const QPointer<QWidget> centre = m_f->manager->m_pVoiceConfWidget;
         centre->close();
-        QVERIFY(!f.manager->m_pVoiceConfWidget);
+        QVERIFY(!m_f->manager->m_pVoiceConfWidget);
         QVERIFY(centre);
         QCoreApplication::sendPostedEvents(centre, QEvent::DeferredDelete);
         QVERIFY(!centre);
-        f.manager->slot_VoiceConfWidgetClose();
-        QVERIFY(!f.manager->m_pVoiceConfWidget);
+        m_f->manager->slot_VoiceConfWidgetClose();
+        QVERIFY(!m_f->manager->m_pVoiceConfWidget);
     }
 
     void nextOpeningReadsTheStoreAnew()
     {
-        RecordedEngine f;
         save({"c2"});
-        open(f);
-        f.createConference();
-        f.notify(7);
+        open(*m_f);
+        m_f->createConference();
+        m_f->notify(7);
         save({"c3"});
-        QCOMPARE(shown(f), QStringList({"c1", "c2"}));
-        f.manager->m_pVoiceConfWidget->close();
-        open(f);
-        QCOMPARE(shown(f), QStringList({"c3", "c2", "c1"}));
+        QCOMPARE(shown(*m_f), QStringList({"c1", "c2"}));
+        m_f->manager->m_pVoiceConfWidget->close();
+        open(*m_f);
+        QCOMPARE(shown(*m_f), QStringList({"c3", "c2", "c1"}));
     }
 
     void centreGoesWithTheManager()
     {
-        RecordedEngine f;
-        open(f);
-        const QPointer<QWidget> centre = f.manager->m_pVoiceConfWidget;
-        f.manager.reset();
+        open(*m_f);
+        const QPointer<QWidget> centre = m_f->manager->m_pVoiceConfWidget;
+        m_f->manager.reset();
         QVERIFY(!centre);
     }
 
     void singleCallChangesNothing()
     {
-        RecordedEngine f;
-        open(f);
-        f.notify(0, "bert");
-        f.notify(4);
-        QCOMPARE(shown(f), QStringList());
+        open(*m_f);
+        m_f->notify(0, "bert");
+        m_f->notify(4);
+        QCOMPARE(shown(*m_f), QStringList());
     }
 };
 

@@ -1,44 +1,41 @@
 // The commands of a conference where their parameters are out of the ordinary.
 
 #include "ConferenceContent.h"
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 
 #include <QTest>
 
-class tst_ConferenceCommands : public QObject
+class tst_ConferenceCommands : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
 private slots:
     void requestLeavesOutEveryMentionOfTheCaller()
     {
-        EngineFixture f;
-        f.manager->m_strUserId = "me";
-        f.manager->callConference({"me", "anna", "me"}, false, "");
-        QCOMPARE(f.takeLines(), QStringList{"RequestConference \"me\" [\"anna\"] false \"\""});
-        QCOMPARE(f.manager->m_callData.memberList, QStringList({"me", "anna", "me"}));
-        QCOMPARE(f.members(), QStringList{"anna 0"});
+        m_f->manager->m_strUserId = "me";
+        m_f->manager->callConference({"me", "anna", "me"}, false, "");
+        QCOMPARE(m_f->takeLines(), QStringList{"RequestConference \"me\" [\"anna\"] false \"\""});
+        QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"me", "anna", "me"}));
+        QCOMPARE(m_f->members(), QStringList{"anna 0"});
     }
 
     void additionTellsWhetherTheCallIsVideo()
     {
-        EngineFixture f;
-        f.manager->m_strUserId = "me";
+        m_f->manager->m_strUserId = "me";
         // An invitation without an id leaves its flag behind, so that the video call is a conference as well.
-        f.notify(2, conferenceContent(R"("from":"anna","confId":"")"));
-        f.manager->callSingleUser("bert", true);
-        f.manager->m_callData.connectedList = QStringList{"bert"};
-        f.takeLines();
-        f.manager->addConferenceMember({"carl"});
-        QCOMPARE(f.takeLines(), QStringList{"Add2Conference [\"carl\"] \"me\" \"me\" true \"\" [\"bert\"]"});
+        m_f->notify(2, conferenceContent(R"("from":"anna","confId":"")"));
+        m_f->manager->callSingleUser("bert", true);
+        m_f->manager->m_callData.connectedList = QStringList{"bert"};
+        m_f->takeLines();
+        m_f->manager->addConferenceMember({"carl"});
+        QCOMPARE(m_f->takeLines(), QStringList{"Add2Conference [\"carl\"] \"me\" \"me\" true \"\" [\"bert\"]"});
     }
 
     void additionWithNobodyConnectedHasANullList()
     {
-        EngineFixture f;
-        f.createConference();
-        f.manager->addConferenceMember({"carl"});
-        QCOMPARE(f.takeLines(), QStringList{"Add2Conference [\"carl\"] \"me\" \"me\" false \"\" null"});
+        m_f->createConference();
+        m_f->manager->addConferenceMember({"carl"});
+        QCOMPARE(m_f->takeLines(), QStringList{"Add2Conference [\"carl\"] \"me\" \"me\" false \"\" null"});
     }
 };
 

@@ -2,13 +2,13 @@
 
 #include "StartedConference.h"
 #include "WhileAsked.h"
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 #include "ui/VoipWidget.h"
 
 #include <QStackedWidget>
 #include <QTest>
 
-class tst_ConferenceFlow : public QObject
+class tst_ConferenceFlow : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
@@ -31,39 +31,36 @@ private slots:
     {
         QFETCH(QStringList, users);
         QFETCH(QString, list);
-        EngineFixture f;
-        f.manager->m_strUserId = "me";
-        f.manager->callConference(users, false, "");
-        QCOMPARE(f.takeJournal(), QStringList{"RequestConference \"me\" " + list + " false \"\""});
-        QTEST(f.manager->m_callData.memberList, "memberList");
-        QVERIFY(f.manager->m_callData.peerId.isEmpty());
-        QVERIFY(f.manager->isExistCall());
+        m_f->manager->m_strUserId = "me";
+        m_f->manager->callConference(users, false, "");
+        QCOMPARE(m_f->takeJournal(), QStringList{"RequestConference \"me\" " + list + " false \"\""});
+        QTEST(m_f->manager->m_callData.memberList, "memberList");
+        QVERIFY(m_f->manager->m_callData.peerId.isEmpty());
+        QVERIFY(m_f->manager->isExistCall());
     }
 
     void requestPassesFlagAndTextOn()
     {
-        EngineFixture f;
-        f.manager->m_strUserId = "me";
-        f.manager->callConference({"anna"}, true, QStringLiteral("周会"));
-        QCOMPARE(f.takeLines(), QStringList{QStringLiteral("RequestConference \"me\" [\"anna\"] true \"周会\"")});
+        m_f->manager->m_strUserId = "me";
+        m_f->manager->callConference({"anna"}, true, QStringLiteral("周会"));
+        QCOMPARE(m_f->takeLines(), QStringList{QStringLiteral("RequestConference \"me\" [\"anna\"] true \"周会\"")});
     }
 
     void startedConferenceShowsTheWindow()
     {
-        EngineFixture f;
-        f.manager->m_strUserId = "me";
-        f.manager->callConference({"anna", "me", "bert"}, false, "");
-        QVERIFY(f.manager->m_pVoipWidget->isVisible());
-        QCOMPARE(f.manager->m_pVoipWidget->windowTitle(), QStringLiteral("语音会议"));
-        QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
-        QCOMPARE(f.manager->m_pVoipWidget->findChild<QStackedWidget *>("controlPane")->currentIndex(), 0);
-        const CallData &call = f.manager->m_callData;
+        m_f->manager->m_strUserId = "me";
+        m_f->manager->callConference({"anna", "me", "bert"}, false, "");
+        QVERIFY(m_f->manager->m_pVoipWidget->isVisible());
+        QCOMPARE(m_f->manager->m_pVoipWidget->windowTitle(), QStringLiteral("语音会议"));
+        QCOMPARE(m_f->members(), QStringList({"anna 0", "bert 0"}));
+        QCOMPARE(m_f->manager->m_pVoipWidget->findChild<QStackedWidget *>("controlPane")->currentIndex(), 0);
+        const CallData &call = m_f->manager->m_callData;
         QVERIFY(call.bIsConf && call.bIsCaller && !call.bIsVideo && !call.bIsConnected);
-        QVERIFY(f.manager->m_inviteTimer.isActive());
-        QCOMPARE(f.manager->m_inviteTimer.interval(), 60000);
+        QVERIFY(m_f->manager->m_inviteTimer.isActive());
+        QCOMPARE(m_f->manager->m_inviteTimer.interval(), 60000);
         // The own row, once it is there, bears the creator's mark.
-        f.manager->m_pVoipWidget->addConferenceMember("me");
-        QCOMPARE(f.members().constLast(), QString("me 0*"));
+        m_f->manager->m_pVoipWidget->addConferenceMember("me");
+        QCOMPARE(m_f->members().constLast(), QString("me 0*"));
     }
 
     void startAsksForTheCardsOfStrangers_data()
@@ -81,29 +78,27 @@ private slots:
     void startAsksForTheCardsOfStrangers()
     {
         QFETCH(QStringList, users);
-        EngineFixture f;
-        f.manager->m_strUserId = "me";
-        f.host.friendJids.insert(EngineFixture::jid("bert"));
-        f.manager->callConference(users, false, "");
+        m_f->manager->m_strUserId = "me";
+        m_f->host.friendJids.insert(EngineFixture::jid("bert"));
+        m_f->manager->callConference(users, false, "");
         EngineFixture::deliverPosted();
-        const QList<ReceivedEvent> requests = f.host.received(MSG_GET_STRANGER_SMALL_VCARD);
+        const QList<ReceivedEvent> requests = m_f->host.received(MSG_GET_STRANGER_SMALL_VCARD);
         QCOMPARE(requests.size(), 1);
         QTEST(requests.constFirst().reader().takeTexts(), "ids");
         // Asked about those that the host named, the own id only when it is among them.
-        QCOMPARE(f.host.received(MSG_IS_EXIST_FRIEND).size(), users.size());
+        QCOMPARE(m_f->host.received(MSG_IS_EXIST_FRIEND).size(), users.size());
     }
 
     void startIsSentAndShownBehindTheQueries()
     {
-        EngineFixture f;
-        f.manager->m_strUserId = "me";
-        WhileAsked asked(f);
-        f.manager->callConference({"anna", "bert"}, false, "");
+        m_f->manager->m_strUserId = "me";
+        WhileAsked asked(*m_f);
+        m_f->manager->callConference({"anna", "bert"}, false, "");
         // The list is still the host's: the own id comes behind the queries.
         QCOMPARE(asked.call, QString("1|0|1|0|anna+bert|||||"));
         QCOMPARE(asked.lines, QStringList());
         QVERIFY(!asked.bShown);
-        QCOMPARE(f.callText(), QString("1|0|1|0|anna+bert+me|||||"));
+        QCOMPARE(m_f->callText(), QString("1|0|1|0|anna+bert+me|||||"));
     }
 
     void startIsRefusedLikeACall_data()
@@ -126,92 +121,86 @@ private slots:
         QFETCH(bool, channel);
         QFETCH(bool, call);
         QFETCH(QString, message);
-        EngineFixture f(channel ? EngineFixture::WithCallProcess : EngineFixture::NoCallProcess);
+        begin(channel ? EngineFixture::WithCallProcess : EngineFixture::NoCallProcess);
         if (call) {
-            f.notify(0, "bert");
+            m_f->notify(0, "bert");
         }
-        f.takeJournal();
-        f.manager->callConference({"anna"}, false, "");
-        QCOMPARE(f.boxes.texts, QStringList{message});
-        QCOMPARE(f.boxes.titles, QStringList{"tip"});
-        QTEST(f.state(), "state");
-        QVERIFY(!f.manager->m_callData.bIsConf);
-        QVERIFY(!f.manager->m_callData.bIsCaller);
-        QCOMPARE(f.manager->m_callData.memberList, QStringList());
-        QCOMPARE(f.takeJournal(), QStringList());
-        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
+        m_f->takeJournal();
+        m_f->manager->callConference({"anna"}, false, "");
+        QCOMPARE(m_f->boxes.texts, QStringList{message});
+        QCOMPARE(m_f->boxes.titles, QStringList{"tip"});
+        QTEST(m_f->state(), "state");
+        QVERIFY(!m_f->manager->m_callData.bIsConf);
+        QVERIFY(!m_f->manager->m_callData.bIsCaller);
+        QCOMPARE(m_f->manager->m_callData.memberList, QStringList());
+        QCOMPARE(m_f->takeJournal(), QStringList());
+        QVERIFY(!m_f->manager->m_pVoipWidget->isVisible());
     }
 
     void startIsRefusedInAConferenceOfOnesOwn()
     {
         // A creator has no peer: what tells of the call is the member list alone.
-        EngineFixture f;
-        startConference(f);
-        QCOMPARE(f.manager->m_callData.peerId, QString());
-        f.manager->callConference({"carl"}, false, "");
-        f.manager->callSingleUser("carl", false);
-        QCOMPARE(f.boxes.texts, QStringList({"soundfailedinsound", "soundfailedinsound"}));
-        QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me"}));
-        QCOMPARE(f.manager->m_callData.peerId, QString());
-        QCOMPARE(f.takeJournal(), QStringList());
+        startConference(*m_f);
+        QCOMPARE(m_f->manager->m_callData.peerId, QString());
+        m_f->manager->callConference({"carl"}, false, "");
+        m_f->manager->callSingleUser("carl", false);
+        QCOMPARE(m_f->boxes.texts, QStringList({"soundfailedinsound", "soundfailedinsound"}));
+        QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "bert", "me"}));
+        QCOMPARE(m_f->manager->m_callData.peerId, QString());
+        QCOMPARE(m_f->takeJournal(), QStringList());
     }
 
     void conferenceThatNobodyJoinsTimesOut()
     {
-        EngineFixture f;
-        startConference(f);
-        f.manager->slot_inviteCallTimeout();
-        QCOMPARE(f.takeJournal(), QStringList({"HangupConf", "SetMicEnable true", "SetSpeakerEnble true"}));
-        QCOMPARE(f.state(), QString("idle"));
-        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
+        startConference(*m_f);
+        m_f->manager->slot_inviteCallTimeout();
+        QCOMPARE(m_f->takeJournal(), QStringList({"HangupConf", "SetMicEnable true", "SetSpeakerEnble true"}));
+        QCOMPARE(m_f->state(), QString("idle"));
+        QVERIFY(!m_f->manager->m_pVoipWidget->isVisible());
     }
 
     void createdIdLetsTheUpdatesPass()
     {
-        EngineFixture f;
-        startConference(f);
-        f.notify(20, R"({"result":{"confId":"c1"}})");
-        f.notify(12, R"({"content":{"confId":"c1","conventioneer":["me","bert","carl"]}})");
-        QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl"}));
-        QCOMPARE(f.members(), QStringList({"anna 0", "bert 1", "carl 1"}));
-        f.notify(18);
-        QVERIFY(f.manager->m_callData.bIsConnected);
-        QVERIFY(!f.manager->m_inviteTimer.isActive());
+        startConference(*m_f);
+        m_f->notify(20, R"({"result":{"confId":"c1"}})");
+        m_f->notify(12, R"({"content":{"confId":"c1","conventioneer":["me","bert","carl"]}})");
+        QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl"}));
+        QCOMPARE(m_f->members(), QStringList({"anna 0", "bert 1", "carl 1"}));
+        m_f->notify(18);
+        QVERIFY(m_f->manager->m_callData.bIsConnected);
+        QVERIFY(!m_f->manager->m_inviteTimer.isActive());
     }
 
     void acceptedInvitationShowsTheMembers()
     {
-        EngineFixture f;
-        beInvited(f);
-        f.manager->m_callData.memberList = QStringList{"anna", "me", "bert"};
-        f.manager->responseVoipRequest(true);
-        QCOMPARE(f.takeJournal(), QStringList{"AcceptConf"});
-        QCOMPARE(f.members(), QStringList({"anna 0*", "bert 0"}));
-        QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "me", "bert"}));
-        QVERIFY(f.manager->m_pVoipWidget->isVisible());
-        QCOMPARE(f.manager->m_pVoipWidget->windowTitle(), QStringLiteral("语音会议"));
-        QCOMPARE(f.state(), QString("incoming anna, receive"));
+        beInvited(*m_f);
+        m_f->manager->m_callData.memberList = QStringList{"anna", "me", "bert"};
+        m_f->manager->responseVoipRequest(true);
+        QCOMPARE(m_f->takeJournal(), QStringList{"AcceptConf"});
+        QCOMPARE(m_f->members(), QStringList({"anna 0*", "bert 0"}));
+        QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "me", "bert"}));
+        QVERIFY(m_f->manager->m_pVoipWidget->isVisible());
+        QCOMPARE(m_f->manager->m_pVoipWidget->windowTitle(), QStringLiteral("语音会议"));
+        QCOMPARE(m_f->state(), QString("incoming anna, receive"));
     }
 
     void acceptedInvitationWithoutMembersShowsAnEmptyList()
     {
-        EngineFixture f;
-        beInvited(f);
-        f.manager->responseVoipRequest(true);
-        QCOMPARE(f.takeJournal(), QStringList{"AcceptConf"});
-        QCOMPARE(f.members(), QStringList());
-        QVERIFY(f.manager->m_pVoipWidget->isVisible());
+        beInvited(*m_f);
+        m_f->manager->responseVoipRequest(true);
+        QCOMPARE(m_f->takeJournal(), QStringList{"AcceptConf"});
+        QCOMPARE(m_f->members(), QStringList());
+        QVERIFY(m_f->manager->m_pVoipWidget->isVisible());
     }
 
     void ownIdIsLeftOutOnceOnly()
     {
-        EngineFixture f;
-        beInvited(f);
-        f.manager->m_callData.memberList = QStringList{"me", "anna", "me"};
-        f.manager->responseVoipRequest(true);
-        QCOMPARE(f.members(), QStringList({"anna 0*", "me 0"}));
-        f.manager->slot_AddConfMember();
-        QCOMPARE(f.host.received(MSG_ADD_CONFERENCE_MEMBER).constFirst().reader().takeTexts(),
+        beInvited(*m_f);
+        m_f->manager->m_callData.memberList = QStringList{"me", "anna", "me"};
+        m_f->manager->responseVoipRequest(true);
+        QCOMPARE(m_f->members(), QStringList({"anna 0*", "me 0"}));
+        m_f->manager->slot_AddConfMember();
+        QCOMPARE(m_f->host.received(MSG_ADD_CONFERENCE_MEMBER).constFirst().reader().takeTexts(),
                  QStringList({"anna", "me"}));
     }
 
@@ -226,42 +215,39 @@ private slots:
     void acceptTellsTheWindowWhoseConferenceItIs()
     {
         QFETCH(bool, own);
-        EngineFixture f;
         if (own) {
-            startConference(f);
+            startConference(*m_f);
         } else {
-            beInvited(f);
+            beInvited(*m_f);
         }
         // What the window showed before must not count.
-        f.manager->m_pVoipWidget->setVoipCallInfo({}, CVoipWidget::Conference, !own, false);
-        f.manager->responseVoipRequest(true);
-        QCOMPARE(f.takeJournal(), QStringList{"AcceptConf"});
+        m_f->manager->m_pVoipWidget->setVoipCallInfo({}, CVoipWidget::Conference, !own, false);
+        m_f->manager->responseVoipRequest(true);
+        QCOMPARE(m_f->takeJournal(), QStringList{"AcceptConf"});
         for (const char *button : {"btnMuteAll", "btnAddMember"}) {
-            QCOMPARE(!f.manager->m_pVoipWidget->findChild<QWidget *>(button)->isHidden(), own);
+            QCOMPARE(!m_f->manager->m_pVoipWidget->findChild<QWidget *>(button)->isHidden(), own);
         }
     }
 
     void membersComeAfterTheAccept()
     {
-        EngineFixture f;
-        beInvited(f);
-        f.manager->responseVoipRequest(true);
-        f.notify(18);
-        f.notify(12, R"({"content":{"confId":"c1","conventioneer":["anna","me","bert"]}})");
-        QCOMPARE(f.members(), QStringList({"anna 1*", "bert 1"}));
-        QCOMPARE(f.state(), QString("connected anna"));
+        beInvited(*m_f);
+        m_f->manager->responseVoipRequest(true);
+        m_f->notify(18);
+        m_f->notify(12, R"({"content":{"confId":"c1","conventioneer":["anna","me","bert"]}})");
+        QCOMPARE(m_f->members(), QStringList({"anna 1*", "bert 1"}));
+        QCOMPARE(m_f->state(), QString("connected anna"));
     }
 
     void rejectedInvitationSendsRejectConf()
     {
-        EngineFixture f;
-        beInvited(f);
-        f.manager->responseVoipRequest(false);
-        QCOMPARE(f.takeJournal(),
+        beInvited(*m_f);
+        m_f->manager->responseVoipRequest(false);
+        QCOMPARE(m_f->takeJournal(),
                  QStringList({"RejectConf", "4345 anna@kelvar.im", "SetMicEnable true", "SetSpeakerEnble true"}));
-        QCOMPARE(f.state(), QString("idle"));
-        QCOMPARE(f.manager->m_callData.confId, QString());
-        QVERIFY(!f.manager->m_callData.bIsConf);
+        QCOMPARE(m_f->state(), QString("idle"));
+        QCOMPARE(m_f->manager->m_callData.confId, QString());
+        QVERIFY(!m_f->manager->m_callData.bIsConf);
     }
 
     void anyoneHangingUpEndsItForThisSide_data()
@@ -278,30 +264,28 @@ private slots:
     void anyoneHangingUpEndsItForThisSide()
     {
         QFETCH(bool, creator);
-        EngineFixture f;
         if (creator) {
-            startConference(f);
+            startConference(*m_f);
         } else {
-            beInvited(f);
-            f.manager->responseVoipRequest(true);
+            beInvited(*m_f);
+            m_f->manager->responseVoipRequest(true);
         }
-        f.notify(18);
-        f.takeJournal();
-        f.manager->hangupVoipCall();
-        QTEST(f.takeJournal(), "journal");
-        QCOMPARE(f.state(), QString("idle"));
-        QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 0);
+        m_f->notify(18);
+        m_f->takeJournal();
+        m_f->manager->hangupVoipCall();
+        QTEST(m_f->takeJournal(), "journal");
+        QCOMPARE(m_f->state(), QString("idle"));
+        QCOMPARE(m_f->host.received(MSG_CALL_FINISHED).size(), 0);
     }
 
     void conferenceEndTakesAwayThePromptOfTheCreator()
     {
-        EngineFixture f;
-        beInvited(f);
-        f.notify(4);
-        QCOMPARE(f.takeJournal(), QStringList({"4345 anna@kelvar.im", "SetMicEnable true", "SetSpeakerEnble true"}));
-        startConference(f);
-        f.notify(7);
-        QCOMPARE(f.takeJournal(), QStringList({"SetMicEnable true", "SetSpeakerEnble true"}));
+        beInvited(*m_f);
+        m_f->notify(4);
+        QCOMPARE(m_f->takeJournal(), QStringList({"4345 anna@kelvar.im", "SetMicEnable true", "SetSpeakerEnble true"}));
+        startConference(*m_f);
+        m_f->notify(7);
+        QCOMPARE(m_f->takeJournal(), QStringList({"SetMicEnable true", "SetSpeakerEnble true"}));
     }
 
 private:

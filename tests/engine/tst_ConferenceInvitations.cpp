@@ -2,7 +2,7 @@
 // to its creation, the additions that failed, the rejections.
 
 #include "ConferenceContent.h"
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 #include "fakes/QtMessages.h"
 #include "ui/VoipWidget.h"
 
@@ -16,17 +16,16 @@ const qint64 cCreated = Q_INT64_C(1600000000123);
 
 } // namespace
 
-class tst_ConferenceInvitations : public QObject
+class tst_ConferenceInvitations : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
 private slots:
     void invitationSetsTheConference()
     {
-        EngineFixture f;
-        f.notify(2, conferenceContent(
-                        R"("from":"anna","conventioneer":["anna","me"],"confId":"c1","createTime":1600000000123)"));
-        const CallData &call = f.manager->m_callData;
+        m_f->notify(2, conferenceContent(
+                           R"("from":"anna","conventioneer":["anna","me"],"confId":"c1","createTime":1600000000123)"));
+        const CallData &call = m_f->manager->m_callData;
         QVERIFY(call.bIsConf);
         QVERIFY(!call.bIsVideo);
         QVERIFY(!call.bIsCaller);
@@ -37,31 +36,30 @@ private slots:
         // Members come by the updates.
         QCOMPARE(call.memberList, QStringList());
         QCOMPARE(call.connectedList, QStringList());
-        QCOMPARE(f.state(), QString("incoming anna, receive, ring"));
-        QCOMPARE(f.takeJournal(), QStringList{"4639 anna true false"});
-        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
-        f.manager->m_pVoipWidget->addConferenceMember("anna");
-        QCOMPARE(f.members(), QStringList{"anna 0*"});
+        QCOMPARE(m_f->state(), QString("incoming anna, receive, ring"));
+        QCOMPARE(m_f->takeJournal(), QStringList{"4639 anna true false"});
+        QVERIFY(!m_f->manager->m_pVoipWidget->isVisible());
+        m_f->manager->m_pVoipWidget->addConferenceMember("anna");
+        QCOMPARE(m_f->members(), QStringList{"anna 0*"});
     }
 
     void invitationRingsBeforeThePrompt()
     {
-        EngineFixture f;
         QString stateMeanwhile;
         QStringList membersMeanwhile;
-        f.whileHandled = [&](BaseEvent &event) {
+        m_f->whileHandled = [&](BaseEvent &event) {
             if (event.msgId != MSG_RECEVIE_VOIP_CALL) {
                 return;
             }
-            stateMeanwhile = f.state();
-            f.manager->m_pVoipWidget->addConferenceMember("anna");
-            membersMeanwhile = f.members();
+            stateMeanwhile = m_f->state();
+            m_f->manager->m_pVoipWidget->addConferenceMember("anna");
+            membersMeanwhile = m_f->members();
         };
-        f.notify(2, conferenceContent(R"("from":"anna","confId":"c1")"));
+        m_f->notify(2, conferenceContent(R"("from":"anna","confId":"c1")"));
         // The window knows the creator by then; the timer runs from the prompt's end.
         QCOMPARE(stateMeanwhile, QString("incoming anna, ring"));
         QCOMPARE(membersMeanwhile, QStringList{"anna 0*"});
-        QCOMPARE(f.state(), QString("incoming anna, receive, ring"));
+        QCOMPARE(m_f->state(), QString("incoming anna, receive, ring"));
     }
 
     void invitationThatIsRefusedLeavesItsFlags_data()
@@ -79,63 +77,58 @@ private slots:
     void invitationThatIsRefusedLeavesItsFlags()
     {
         QFETCH(QString, content);
-        EngineFixture f;
-        f.manager->m_callData.confId = "c1";
-        f.manager->m_callData.bIsCaller = true;
-        f.manager->m_callData.bIsVideo = true;
-        f.notify(2, content);
-        QCOMPARE(f.callText(), QString("1|0|0|0||||c1||"));
-        QCOMPARE(f.state(), QString("idle"));
-        QCOMPARE(f.takeJournal(), QStringList());
+        m_f->manager->m_callData.confId = "c1";
+        m_f->manager->m_callData.bIsCaller = true;
+        m_f->manager->m_callData.bIsVideo = true;
+        m_f->notify(2, content);
+        QCOMPARE(m_f->callText(), QString("1|0|0|0||||c1||"));
+        QCOMPARE(m_f->state(), QString("idle"));
+        QCOMPARE(m_f->takeJournal(), QStringList());
     }
 
     void callAfterARefusedInvitationGoesOnAsAConference()
     {
-        EngineFixture f;
-        f.notify(2, conferenceContent(R"("from":"anna","confId":"")"));
+        m_f->notify(2, conferenceContent(R"("from":"anna","confId":"")"));
         // Placing a call does not write the flag, so its end is that of a conference: no record for the host.
-        f.manager->callSingleUser("bert", false);
-        QVERIFY(f.manager->m_callData.bIsConf);
-        f.takeJournal();
-        f.manager->hangupVoipCall();
-        QCOMPARE(f.takeJournal(),
+        m_f->manager->callSingleUser("bert", false);
+        QVERIFY(m_f->manager->m_callData.bIsConf);
+        m_f->takeJournal();
+        m_f->manager->hangupVoipCall();
+        QCOMPARE(m_f->takeJournal(),
                  QStringList({"HangupConf", "4345 bert@kelvar.im", "SetMicEnable true", "SetSpeakerEnble true"}));
-        QVERIFY(!f.manager->m_callData.bIsConf);
+        QVERIFY(!m_f->manager->m_callData.bIsConf);
     }
 
     void invitationWithoutSenderKeepsThePeer()
     {
-        EngineFixture f;
-        f.notify(0, "bert");
-        f.takeJournal();
-        f.notify(2, conferenceContent(R"("confId":"c1")"));
-        QCOMPARE(f.manager->m_callData.peerId, QString("bert"));
-        QCOMPARE(f.takeJournal(), QStringList{"4639  true false"});
+        m_f->notify(0, "bert");
+        m_f->takeJournal();
+        m_f->notify(2, conferenceContent(R"("confId":"c1")"));
+        QCOMPARE(m_f->manager->m_callData.peerId, QString("bert"));
+        QCOMPARE(m_f->takeJournal(), QStringList{"4639  true false"});
         // The creator is the sender, not whoever stands as the peer.
-        f.manager->m_pVoipWidget->addConferenceMember("bert");
-        QCOMPARE(f.members(), QStringList{"bert 0"});
+        m_f->manager->m_pVoipWidget->addConferenceMember("bert");
+        QCOMPARE(m_f->members(), QStringList{"bert 0"});
     }
 
     void invitationOfTheSameConferenceIsTakenAgain()
     {
-        EngineFixture f;
-        f.notify(2, conferenceContent(R"("from":"anna","confId":"c1","createTime":1600000000123)"));
-        f.notify(2, conferenceContent(R"("from":"bert","confId":"c1")"));
-        QCOMPARE(f.manager->m_callData.peerId, QString("bert"));
-        QCOMPARE(f.manager->m_callData.createTime, QDateTime::fromMSecsSinceEpoch(cCreated));
-        QCOMPARE(f.takeJournal(), QStringList({"4639 anna true false", "4639 bert true false"}));
+        m_f->notify(2, conferenceContent(R"("from":"anna","confId":"c1","createTime":1600000000123)"));
+        m_f->notify(2, conferenceContent(R"("from":"bert","confId":"c1")"));
+        QCOMPARE(m_f->manager->m_callData.peerId, QString("bert"));
+        QCOMPARE(m_f->manager->m_callData.createTime, QDateTime::fromMSecsSinceEpoch(cCreated));
+        QCOMPARE(m_f->takeJournal(), QStringList({"4639 anna true false", "4639 bert true false"}));
     }
 
     void secondInvitationTakesTheCreatorsRights()
     {
-        EngineFixture f;
-        f.createConference();
-        QVERIFY(f.manager->m_callData.bIsCaller);
-        f.notify(2, conferenceContent(R"("from":"dora","confId":"c2")"));
-        QCOMPARE(f.takeJournal(), QStringList());
-        QVERIFY(!f.manager->m_callData.bIsCaller);
-        f.manager->slot_ReInviteConfUser("anna");
-        QCOMPARE(f.takeJournal(), QStringList());
+        m_f->createConference();
+        QVERIFY(m_f->manager->m_callData.bIsCaller);
+        m_f->notify(2, conferenceContent(R"("from":"dora","confId":"c2")"));
+        QCOMPARE(m_f->takeJournal(), QStringList());
+        QVERIFY(!m_f->manager->m_callData.bIsCaller);
+        m_f->manager->slot_ReInviteConfUser("anna");
+        QCOMPARE(m_f->takeJournal(), QStringList());
     }
 
     void createTimeIsTakenWhenAboveZero_data()
@@ -162,10 +155,9 @@ private slots:
     {
         QFETCH(int, code);
         QFETCH(QString, number);
-        EngineFixture f;
-        f.notify(code, conferenceContent("\"confId\":\"c1\",\"createTime\":" + number));
-        QCOMPARE(f.manager->m_callData.confId, QString("c1"));
-        QTEST(f.manager->m_callData.createTime, "createTime");
+        m_f->notify(code, conferenceContent("\"confId\":\"c1\",\"createTime\":" + number));
+        QCOMPARE(m_f->manager->m_callData.confId, QString("c1"));
+        QTEST(m_f->manager->m_callData.createTime, "createTime");
     }
 
     void rejectionInAConference_data()
@@ -186,56 +178,51 @@ private slots:
     void rejectionInAConference()
     {
         QFETCH(QString, id);
-        EngineFixture f;
-        f.createConference();
-        f.notify(5, id);
-        QTEST(f.takeJournal(), "journal");
-        QTEST(f.state(), "state");
-        QTEST(f.members(), "members");
+        m_f->createConference();
+        m_f->notify(5, id);
+        QTEST(m_f->takeJournal(), "journal");
+        QTEST(m_f->state(), "state");
+        QTEST(m_f->members(), "members");
     }
 
     void createdIdIsTaken()
     {
-        EngineFixture f;
-        f.manager->callConference({"anna"}, false, "");
-        QCOMPARE(f.manager->m_callData.confId, QString());
-        f.notify(20, R"({"result":{"confId":"c1"}})");
-        QCOMPARE(f.manager->m_callData.confId, QString("c1"));
-        f.notify(12, conferenceContent(R"("confId":"c1","conventioneer":["carl"])"));
-        QVERIFY(f.manager->m_callData.memberList.contains("carl"));
+        m_f->manager->callConference({"anna"}, false, "");
+        QCOMPARE(m_f->manager->m_callData.confId, QString());
+        m_f->notify(20, R"({"result":{"confId":"c1"}})");
+        QCOMPARE(m_f->manager->m_callData.confId, QString("c1"));
+        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["carl"])"));
+        QVERIFY(m_f->manager->m_callData.memberList.contains("carl"));
     }
 
     void createdAnswerThatDoesNotParseClearsTheId()
     {
-        EngineFixture f;
-        f.createConference();
-        f.notify(20, R"({"result":{"confId":"c9"})");
-        QCOMPARE(f.manager->m_callData.confId, QString());
-        QCOMPARE(f.state(), QString("outgoing anna+bert+me, invite"));
-        QCOMPARE(f.takeJournal(), QStringList());
+        m_f->createConference();
+        m_f->notify(20, R"({"result":{"confId":"c9"})");
+        QCOMPARE(m_f->manager->m_callData.confId, QString());
+        QCOMPARE(m_f->state(), QString("outgoing anna+bert+me, invite"));
+        QCOMPARE(m_f->takeJournal(), QStringList());
     }
 
     void emptyCreatedAnswerEndsTheCallAsFailed()
     {
-        EngineFixture f;
-        f.manager->callSingleUser("anna", false);
-        f.takeJournal();
-        f.notify(20);
-        QCOMPARE(f.takeJournal(), QStringList({"4345 anna@kelvar.im", "4478 false anna 22 true false",
-                                               "SetMicEnable true", "SetSpeakerEnble true"}));
-        QCOMPARE(f.state(), QString("idle"));
-        f.createConference();
-        f.notify(20);
-        QCOMPARE(f.takeJournal(), QStringList({"SetMicEnable true", "SetSpeakerEnble true"}));
-        QCOMPARE(f.state(), QString("idle"));
+        m_f->manager->callSingleUser("anna", false);
+        m_f->takeJournal();
+        m_f->notify(20);
+        QCOMPARE(m_f->takeJournal(), QStringList({"4345 anna@kelvar.im", "4478 false anna 22 true false",
+                                                  "SetMicEnable true", "SetSpeakerEnble true"}));
+        QCOMPARE(m_f->state(), QString("idle"));
+        m_f->createConference();
+        m_f->notify(20);
+        QCOMPARE(m_f->takeJournal(), QStringList({"SetMicEnable true", "SetSpeakerEnble true"}));
+        QCOMPARE(m_f->state(), QString("idle"));
     }
 
     void createdIdOutsideACallIsTaken()
     {
-        EngineFixture f;
-        f.notify(20, R"({"result":{"confId":"c1"}})");
-        QCOMPARE(f.manager->m_callData.confId, QString("c1"));
-        QCOMPARE(f.state(), QString("idle"));
+        m_f->notify(20, R"({"result":{"confId":"c1"}})");
+        QCOMPARE(m_f->manager->m_callData.confId, QString("c1"));
+        QCOMPARE(m_f->state(), QString("idle"));
     }
 
     void failedAdditionsAreShown_data()
@@ -256,13 +243,12 @@ private slots:
     void failedAdditionsAreShown()
     {
         QFETCH(QString, content);
-        EngineFixture f;
-        f.createConference();
-        const QString before = f.callText();
-        f.notify(21, content);
-        QTEST(f.members(), "members");
-        QCOMPARE(f.callText(), before);
-        QCOMPARE(f.takeJournal(), QStringList());
+        m_f->createConference();
+        const QString before = m_f->callText();
+        m_f->notify(21, content);
+        QTEST(m_f->members(), "members");
+        QCOMPARE(m_f->callText(), before);
+        QCOMPARE(m_f->takeJournal(), QStringList());
     }
 
     void addResultIsWrittenToTheDebugLog_data()
@@ -277,9 +263,8 @@ private slots:
     void addResultIsWrittenToTheDebugLog()
     {
         QFETCH(QString, content);
-        EngineFixture f;
         const QtMessages messages;
-        f.notify(21, content);
+        m_f->notify(21, content);
         QTEST(messages.debugLines, "lines");
     }
 
@@ -295,16 +280,15 @@ private slots:
     void rejectedMemberIsMarkedInAConferenceOnly()
     {
         QFETCH(bool, conference);
-        EngineFixture f;
-        f.createConference();
-        f.manager->m_callData.bIsConf = conference;
-        const QString before = f.callText();
+        m_f->createConference();
+        m_f->manager->m_callData.bIsConf = conference;
+        const QString before = m_f->callText();
         const QtMessages messages;
-        f.notify(25, "bert");
-        QTEST(f.members(), "members");
+        m_f->notify(25, "bert");
+        QTEST(m_f->members(), "members");
         QCOMPARE(messages.debugLines, QStringList{"voipsdk:bert"});
-        QCOMPARE(f.callText(), before);
-        QCOMPARE(f.takeJournal(), QStringList());
+        QCOMPARE(m_f->callText(), before);
+        QCOMPARE(m_f->takeJournal(), QStringList());
     }
 };
 

@@ -1,7 +1,7 @@
 // The members of a conference: adding them, inviting again, removing and muting, their cards.
 
 #include "StartedConference.h"
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 #include "ui/VoipWidget.h"
 
 #include <QListView>
@@ -12,7 +12,7 @@
 using Step = std::function<void(EngineFixture &)>;
 Q_DECLARE_METATYPE(Step)
 
-class tst_ConferenceMembers : public QObject
+class tst_ConferenceMembers : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
@@ -43,31 +43,29 @@ private slots:
     {
         QFETCH(QStringList, users);
         QFETCH(QString, line);
-        EngineFixture f;
-        startConference(f);
-        f.manager->addConferenceMember(users);
-        QCOMPARE(f.takeJournal(), QStringList{line});
-        QTEST(f.manager->m_callData.memberList, "memberList");
-        QTEST(f.members(), "members");
+        startConference(*m_f);
+        m_f->manager->addConferenceMember(users);
+        QCOMPARE(m_f->takeJournal(), QStringList{line});
+        QTEST(m_f->manager->m_callData.memberList, "memberList");
+        QTEST(m_f->members(), "members");
         EngineFixture::deliverPosted();
-        QCOMPARE(f.host.received(MSG_GET_STRANGER_SMALL_VCARD).size(), 1);
-        QCOMPARE(f.host.received(MSG_IS_EXIST_FRIEND).size(), users.size());
+        QCOMPARE(m_f->host.received(MSG_GET_STRANGER_SMALL_VCARD).size(), 1);
+        QCOMPARE(m_f->host.received(MSG_IS_EXIST_FRIEND).size(), users.size());
     }
 
     void addedPeopleAreMembersBeforeTheHostIsAsked()
     {
-        EngineFixture f;
-        startConference(f);
+        startConference(*m_f);
         QStringList memberListMeanwhile;
         QStringList membersMeanwhile;
-        f.whileHandled = [&](BaseEvent &event) {
+        m_f->whileHandled = [&](BaseEvent &event) {
             if (event.msgId != MSG_IS_EXIST_FRIEND) {
                 return;
             }
-            memberListMeanwhile = f.manager->m_callData.memberList;
-            membersMeanwhile = f.members();
+            memberListMeanwhile = m_f->manager->m_callData.memberList;
+            membersMeanwhile = m_f->members();
         };
-        f.manager->addConferenceMember({"carl"});
+        m_f->manager->addConferenceMember({"carl"});
         QCOMPARE(memberListMeanwhile, QStringList({"anna", "bert", "me", "carl"}));
         // The window follows behind the queries.
         QCOMPARE(membersMeanwhile, QStringList({"anna 0", "bert 0"}));
@@ -75,55 +73,51 @@ private slots:
 
     void pickerGetsTheOthersAndIsReadAgainstTheListAsItIs()
     {
-        EngineFixture f;
-        startConference(f);
-        f.manager->m_callData.connectedList.clear();
-        f.host.membersToAdd = QStringList{"bert", "carl", "dora"};
-        f.whileHandled = [&f](BaseEvent &event) {
+        startConference(*m_f);
+        m_f->manager->m_callData.connectedList.clear();
+        m_f->host.membersToAdd = QStringList{"bert", "carl", "dora"};
+        m_f->whileHandled = [this](BaseEvent &event) {
             // Dora joins while the user picks.
             if (event.msgId == MSG_ADD_CONFERENCE_MEMBER) {
-                f.notify(12, R"({"content":{"confId":"c1","conventioneer":["dora"]}})");
+                m_f->notify(12, R"({"content":{"confId":"c1","conventioneer":["dora"]}})");
             }
         };
-        f.manager->slot_AddConfMember();
-        QCOMPARE(f.host.received(MSG_ADD_CONFERENCE_MEMBER).constFirst().reader().takeTexts(),
+        m_f->manager->slot_AddConfMember();
+        QCOMPARE(m_f->host.received(MSG_ADD_CONFERENCE_MEMBER).constFirst().reader().takeTexts(),
                  QStringList({"anna", "bert"}));
-        QCOMPARE(f.takeJournal(), QStringList{"Add2Conference [\"carl\"] \"me\" \"me\" false \"\" [\"dora\"]"});
+        QCOMPARE(m_f->takeJournal(), QStringList{"Add2Conference [\"carl\"] \"me\" \"me\" false \"\" [\"dora\"]"});
         // Picking only those who are there already still asks the call process.
-        f.whileHandled = nullptr;
-        f.host.membersToAdd = QStringList{"bert"};
-        f.manager->slot_AddConfMember();
-        QCOMPARE(f.takeJournal(), QStringList{"Add2Conference null \"me\" \"me\" false \"\" [\"dora\"]"});
+        m_f->whileHandled = nullptr;
+        m_f->host.membersToAdd = QStringList{"bert"};
+        m_f->manager->slot_AddConfMember();
+        QCOMPARE(m_f->takeJournal(), QStringList{"Add2Conference null \"me\" \"me\" false \"\" [\"dora\"]"});
     }
 
     void emptyAnswerOfThePickerDoesNothing()
     {
-        EngineFixture f;
-        startConference(f);
-        f.manager->slot_AddConfMember();
-        QCOMPARE(f.takeJournal(), QStringList());
+        startConference(*m_f);
+        m_f->manager->slot_AddConfMember();
+        QCOMPARE(m_f->takeJournal(), QStringList());
         EngineFixture::deliverPosted();
-        QCOMPARE(f.host.commands(), QList<int>{MSG_ADD_CONFERENCE_MEMBER});
+        QCOMPARE(m_f->host.commands(), QList<int>{MSG_ADD_CONFERENCE_MEMBER});
     }
 
     void addingOutsideAConferenceSendsNothing()
     {
-        EngineFixture f;
-        f.manager->addConferenceMember({"carl"});
-        QCOMPARE(f.takeJournal(), QStringList());
-        QCOMPARE(f.manager->m_callData.memberList, QStringList{"carl"});
-        QCOMPARE(f.members(), QStringList{"carl 0"});
+        m_f->manager->addConferenceMember({"carl"});
+        QCOMPARE(m_f->takeJournal(), QStringList());
+        QCOMPARE(m_f->manager->m_callData.memberList, QStringList{"carl"});
+        QCOMPARE(m_f->members(), QStringList{"carl 0"});
     }
 
     void addingWhileTheChannelIsDownSendsNothing()
     {
-        EngineFixture f;
-        startConference(f);
-        f.manager->m_bSocketConnected = false;
-        f.manager->addConferenceMember({"carl"});
-        QCOMPARE(f.takeJournal(), QStringList());
-        QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl"}));
-        QCOMPARE(f.members(), QStringList({"anna 0", "bert 0", "carl 0"}));
+        startConference(*m_f);
+        m_f->manager->m_bSocketConnected = false;
+        m_f->manager->addConferenceMember({"carl"});
+        QCOMPARE(m_f->takeJournal(), QStringList());
+        QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl"}));
+        QCOMPARE(m_f->members(), QStringList({"anna 0", "bert 0", "carl 0"}));
     }
 
     void invitingAgainIsTheCreatorsRight_data()
@@ -145,14 +139,13 @@ private slots:
     {
         QFETCH(bool, conference);
         QFETCH(bool, caller);
-        EngineFixture f;
-        startConference(f);
-        f.notify(5, "bert");
-        f.manager->m_callData.bIsConf = conference;
-        f.manager->m_callData.bIsCaller = caller;
-        f.manager->slot_ReInviteConfUser("bert");
-        QTEST(f.takeJournal(), "journal");
-        QTEST(f.members(), "members");
+        startConference(*m_f);
+        m_f->notify(5, "bert");
+        m_f->manager->m_callData.bIsConf = conference;
+        m_f->manager->m_callData.bIsCaller = caller;
+        m_f->manager->slot_ReInviteConfUser("bert");
+        QTEST(m_f->takeJournal(), "journal");
+        QTEST(m_f->members(), "members");
     }
 
     void removingAMember_data()
@@ -175,15 +168,14 @@ private slots:
     void removingAMember()
     {
         QFETCH(QString, user);
-        EngineFixture f;
-        startConference(f);
+        startConference(*m_f);
         const QStringList connected{"me", "anna", "dora"};
-        f.manager->m_callData.connectedList = connected;
-        f.manager->slot_RemoveConferenceMember(user);
-        QTEST(f.takeJournal(), "journal");
-        QTEST(f.manager->m_callData.memberList, "memberList");
-        QTEST(f.members(), "members");
-        QCOMPARE(f.manager->m_callData.connectedList, connected);
+        m_f->manager->m_callData.connectedList = connected;
+        m_f->manager->slot_RemoveConferenceMember(user);
+        QTEST(m_f->takeJournal(), "journal");
+        QTEST(m_f->manager->m_callData.memberList, "memberList");
+        QTEST(m_f->members(), "members");
+        QCOMPARE(m_f->manager->m_callData.connectedList, connected);
     }
 
     void control_data()
@@ -232,30 +224,27 @@ private slots:
     void control()
     {
         QFETCH(Step, run);
-        EngineFixture f;
-        startConference(f);
-        run(f);
-        QTEST(f.takeJournal(), "journal");
+        startConference(*m_f);
+        run(*m_f);
+        QTEST(m_f->takeJournal(), "journal");
     }
 
     void mutingKeepsNoState()
     {
-        EngineFixture f;
-        startConference(f);
-        f.manager->slot_MuteAll(true);
-        f.manager->slot_MuteAll(true);
-        QCOMPARE(f.takeJournal(),
+        startConference(*m_f);
+        m_f->manager->slot_MuteAll(true);
+        m_f->manager->slot_MuteAll(true);
+        QCOMPARE(m_f->takeJournal(),
                  QStringList({"ControlConf \"mute\" \"non_moderator\"", "ControlConf \"mute\" \"non_moderator\""}));
     }
 
     void cardIsHandedToTheWindow()
     {
-        EngineFixture f;
-        startConference(f);
+        startConference(*m_f);
         VcardInfo card;
         card.m_strNickName = QStringLiteral("安娜");
-        f.manager->updateUserInfo(EngineFixture::jid("anna"), card);
-        const QAbstractItemModel *rows = f.manager->m_pVoipWidget->findChild<QListView *>("listView")->model();
+        m_f->manager->updateUserInfo(EngineFixture::jid("anna"), card);
+        const QAbstractItemModel *rows = m_f->manager->m_pVoipWidget->findChild<QListView *>("listView")->model();
         QCOMPARE(rows->index(0, 0).data(Qt::UserRole + 1).toString(), QStringLiteral("安娜"));
     }
 };

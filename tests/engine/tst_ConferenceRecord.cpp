@@ -1,11 +1,12 @@
 // What the record of a conference holds: its id, creator, time, length and members, whatever became of it.
 
 #include "RecordedConference.h"
+#include "fakes/EngineTest.h"
 #include "store/DBConfInfo.h"
 
 #include <QTest>
 
-class tst_ConferenceRecord : public QObject
+class tst_ConferenceRecord : public EngineTest<RecordedEngine>
 {
     Q_OBJECT
 
@@ -14,9 +15,8 @@ private slots:
 
     void endBeforeTheConnectionHasNoLength()
     {
-        RecordedEngine f;
-        createConference(f);
-        f.manager->hangupVoipCall();
+        createConference(*m_f);
+        m_f->manager->hangupVoipCall();
         const QList<ConfInfoData> records = DBConfInfo::getAllConfInfo();
         QCOMPARE(records.size(), 1);
         QCOMPARE(records.constFirst().m_strCallTime, QString("0"));
@@ -26,124 +26,114 @@ private slots:
 
     void rejectedInvitationIsStored()
     {
-        RecordedEngine f;
-        f.notify(2, R"({"content":{"confId":"c1","from":"anna",)" + cCreateTime + "}}");
-        f.manager->responseVoipRequest(false);
-        QCOMPARE(f.records(), QStringList{"'c1' 'anna' '2023-11-15 06:13:20' '0' '' 0"});
-        QCOMPARE(f.takeJournal(), QStringList({"4639 anna true false", "RejectConf", "4345 anna@kelvar.im",
-                                               "SetMicEnable true", "SetSpeakerEnble true"}));
+        m_f->notify(2, R"({"content":{"confId":"c1","from":"anna",)" + cCreateTime + "}}");
+        m_f->manager->responseVoipRequest(false);
+        QCOMPARE(m_f->records(), QStringList{"'c1' 'anna' '2023-11-15 06:13:20' '0' '' 0"});
+        QCOMPARE(m_f->takeJournal(), QStringList({"4639 anna true false", "RejectConf", "4345 anna@kelvar.im",
+                                                  "SetMicEnable true", "SetSpeakerEnble true"}));
     }
 
     void invitationThatTimesOutIsStored()
     {
-        RecordedEngine f;
-        f.notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
-        f.manager->slot_recevieCallTimeout();
-        QCOMPARE(f.records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
-        QCOMPARE(f.state(), QString("idle"));
+        m_f->notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
+        m_f->manager->slot_recevieCallTimeout();
+        QCOMPARE(m_f->records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
+        QCOMPARE(m_f->state(), QString("idle"));
     }
 
     void creationThatFailedIsStoredWithoutAnId()
     {
-        RecordedEngine f;
-        f.manager->m_strUserId = "me";
+        m_f->manager->m_strUserId = "me";
         // An empty id is a key like any other: the second record finds it taken.
         for (int round = 0; round < 2; ++round) {
-            f.manager->callConference({"anna"}, false, "");
-            f.notify(20);
-            QCOMPARE(f.records(), QStringList{"'' 'me' '' '0' 'anna,me,' 0"});
-            QCOMPARE(f.state(), QString("idle"));
+            m_f->manager->callConference({"anna"}, false, "");
+            m_f->notify(20);
+            QCOMPARE(m_f->records(), QStringList{"'' 'me' '' '0' 'anna,me,' 0"});
+            QCOMPARE(m_f->state(), QString("idle"));
         }
     }
 
     void missingTimeIsAnEmptyTextNotNull()
     {
-        RecordedEngine f;
-        f.createConference();
-        f.notify(7);
-        QCOMPARE(f.records(), QStringList{"'c1' 'me' '' '0' 'anna,bert,me,' 0"});
+        m_f->createConference();
+        m_f->notify(7);
+        QCOMPARE(m_f->records(), QStringList{"'c1' 'me' '' '0' 'anna,bert,me,' 0"});
     }
 
     void sameConferenceAgainKeepsItsFirstRecord()
     {
-        RecordedEngine f;
-        f.notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
-        f.manager->responseVoipRequest(false);
-        joinConference(f);
-        f.notify(18);
-        f.notify(8);
-        QCOMPARE(f.records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
-        QCOMPARE(f.state(), QString("idle"));
+        m_f->notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
+        m_f->manager->responseVoipRequest(false);
+        joinConference(*m_f);
+        m_f->notify(18);
+        m_f->notify(8);
+        QCOMPARE(m_f->records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
+        QCOMPARE(m_f->state(), QString("idle"));
     }
 
     void nextConferenceHasNothingOfTheOneBefore()
     {
-        RecordedEngine f;
-        createConference(f);
-        f.notify(18);
-        f.connectedFor(65);
-        f.notify(8);
-        f.notify(2, R"({"content":{"confId":"c2","from":"dora"}})");
-        f.notify(12, R"({"content":{"confId":"c2","conventioneer":["dora"]}})");
-        f.notify(4);
-        QCOMPARE(f.records().constLast(), QString("'c2' 'dora' '' '0' 'dora,' 0"));
-        QCOMPARE(f.count(), 2);
+        createConference(*m_f);
+        m_f->notify(18);
+        m_f->connectedFor(65);
+        m_f->notify(8);
+        m_f->notify(2, R"({"content":{"confId":"c2","from":"dora"}})");
+        m_f->notify(12, R"({"content":{"confId":"c2","conventioneer":["dora"]}})");
+        m_f->notify(4);
+        QCOMPARE(m_f->records().constLast(), QString("'c2' 'dora' '' '0' 'dora,' 0"));
+        QCOMPARE(m_f->count(), 2);
     }
 
     void secondInvitationLeavesTheFirstOne()
     {
-        RecordedEngine f;
-        f.notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
-        f.notify(2, R"({"content":{"confId":"c2","from":"bert",)" + cCreateTime + "}}");
-        f.notify(12, R"({"content":{"confId":"c2","conventioneer":["bert","me"]}})");
-        QCOMPARE(f.takeJournal(), QStringList{"4639 anna true false"});
-        QCOMPARE(f.state(), QString("incoming anna, receive, ring"));
-        f.manager->responseVoipRequest(true);
-        f.notify(7);
-        QCOMPARE(f.records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
+        m_f->notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
+        m_f->notify(2, R"({"content":{"confId":"c2","from":"bert",)" + cCreateTime + "}}");
+        m_f->notify(12, R"({"content":{"confId":"c2","conventioneer":["bert","me"]}})");
+        QCOMPARE(m_f->takeJournal(), QStringList{"4639 anna true false"});
+        QCOMPARE(m_f->state(), QString("incoming anna, receive, ring"));
+        m_f->manager->responseVoipRequest(true);
+        m_f->notify(7);
+        QCOMPARE(m_f->records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
         // The second one is free to come again.
-        f.notify(2, R"({"content":{"confId":"c2","from":"bert"}})");
-        f.manager->responseVoipRequest(false);
-        QCOMPARE(f.records().constLast(), QString("'c2' 'bert' '' '0' '' 0"));
+        m_f->notify(2, R"({"content":{"confId":"c2","from":"bert"}})");
+        m_f->manager->responseVoipRequest(false);
+        QCOMPARE(m_f->records().constLast(), QString("'c2' 'bert' '' '0' '' 0"));
     }
 
     void creatorInvitedElsewhereIsNoCreatorInTheRecord()
     {
-        RecordedEngine f;
-        createConference(f);
-        f.notify(18);
-        f.takeJournal();
-        f.notify(2, R"({"content":{"confId":"c2","from":"dora"}})");
-        QCOMPARE(f.takeJournal(), QStringList());
-        f.manager->slot_ReInviteConfUser("bert");
-        QCOMPARE(f.takeJournal(), QStringList());
-        f.manager->slot_MuteAll(true);
-        QCOMPARE(f.takeJournal(), QStringList{"ControlConf \"mute\" \"non_moderator\""});
-        f.notify(8);
-        QCOMPARE(f.records(), QStringList{"'c1' '' '2023-11-15 06:13:20' '0' 'anna,bert,me,carl,' 1"});
-        QCOMPARE(f.state(), QString("idle"));
+        createConference(*m_f);
+        m_f->notify(18);
+        m_f->takeJournal();
+        m_f->notify(2, R"({"content":{"confId":"c2","from":"dora"}})");
+        QCOMPARE(m_f->takeJournal(), QStringList());
+        m_f->manager->slot_ReInviteConfUser("bert");
+        QCOMPARE(m_f->takeJournal(), QStringList());
+        m_f->manager->slot_MuteAll(true);
+        QCOMPARE(m_f->takeJournal(), QStringList{"ControlConf \"mute\" \"non_moderator\""});
+        m_f->notify(8);
+        QCOMPARE(m_f->records(), QStringList{"'c1' '' '2023-11-15 06:13:20' '0' 'anna,bert,me,carl,' 1"});
+        QCOMPARE(m_f->state(), QString("idle"));
     }
 
     void callThatOverwritesAConferenceLeavesNoConferenceRecord()
     {
-        RecordedEngine f;
-        createConference(f);
-        f.notify(0, "dora");
-        f.notify(4);
-        QCOMPARE(f.count(), 0);
-        QCOMPARE(f.takeJournal().filter("4478"), QStringList{"4478 false dora 21 false false"});
-        QCOMPARE(f.state(), QString("idle"));
+        createConference(*m_f);
+        m_f->notify(0, "dora");
+        m_f->notify(4);
+        QCOMPARE(m_f->count(), 0);
+        QCOMPARE(m_f->takeJournal().filter("4478"), QStringList{"4478 false dora 21 false false"});
+        QCOMPARE(m_f->state(), QString("idle"));
     }
 
     void removedMemberIsNotInTheRecord()
     {
-        RecordedEngine f;
-        createConference(f);
-        f.manager->slot_RemoveConferenceMember("anna");
-        f.manager->addConferenceMember({"dora", "anna"});
-        f.manager->slot_RemoveConferenceMember("bert");
-        f.notify(7);
-        QCOMPARE(f.rows().constFirst().at(4), QString("'me,carl,dora,anna,'"));
+        createConference(*m_f);
+        m_f->manager->slot_RemoveConferenceMember("anna");
+        m_f->manager->addConferenceMember({"dora", "anna"});
+        m_f->manager->slot_RemoveConferenceMember("bert");
+        m_f->notify(7);
+        QCOMPARE(m_f->rows().constFirst().at(4), QString("'me,carl,dora,anna,'"));
     }
 
     void memberTextIsStoredAsItIs_data()
@@ -171,12 +161,11 @@ private slots:
     {
         QFETCH(QStringList, users);
         QFETCH(QString, text);
-        RecordedEngine f;
-        f.manager->m_strUserId = "me";
-        f.manager->callConference(users, false, "");
-        f.notify(20, R"({"result":{"confId":"c1"}})");
-        f.notify(4);
-        QCOMPARE(f.rows().constFirst().at(4), "'" + text + "'");
+        m_f->manager->m_strUserId = "me";
+        m_f->manager->callConference(users, false, "");
+        m_f->notify(20, R"({"result":{"confId":"c1"}})");
+        m_f->notify(4);
+        QCOMPARE(m_f->rows().constFirst().at(4), "'" + text + "'");
         QTEST(QStringList(DBConfInfo::getAllConfInfo().constFirst().m_listMember), "readBack");
     }
 
@@ -204,11 +193,10 @@ private slots:
     void oddConferenceIds()
     {
         QFETCH(QString, id);
-        RecordedEngine f;
-        f.notify(2, "{\"content\":{\"confId\":\"" + id + "\",\"from\":\"anna\"}}");
-        f.notify(4);
-        QCOMPARE(f.count(), 1);
-        QTEST(f.rows().constFirst().constFirst(), "stored");
+        m_f->notify(2, "{\"content\":{\"confId\":\"" + id + "\",\"from\":\"anna\"}}");
+        m_f->notify(4);
+        QCOMPARE(m_f->count(), 1);
+        QTEST(m_f->rows().constFirst().constFirst(), "stored");
     }
 
     void deletingARecord_data()
@@ -224,15 +212,14 @@ private slots:
     void deletingARecord()
     {
         QFETCH(QString, id);
-        RecordedEngine f;
         for (const char *known : {"", "c1", "c2"}) {
             ConfInfoData record;
             record.m_strConfID = known;
             QVERIFY(DBConfInfo::saveConfInfo(record));
         }
-        f.manager->slot_DeleteConfInfoData(id);
+        m_f->manager->slot_DeleteConfInfoData(id);
         QStringList left;
-        for (const QStringList &row : f.rows()) {
+        for (const QStringList &row : m_f->rows()) {
             left << row.constFirst();
         }
         QTEST(left, "left");

@@ -1,6 +1,6 @@
 // What the member list of the call window shows of each event of a conference.
 
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 #include "model/MemberRoles.h"
 #include "ui/ConferenceListView.h"
 #include "ui/VoipWidget.h"
@@ -49,7 +49,7 @@ QString document(const char *fields)
 
 } // namespace
 
-class tst_ConferenceWindow : public QObject
+class tst_ConferenceWindow : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
@@ -94,75 +94,70 @@ private slots:
     void eachEventHasItsWindowCall()
     {
         QFETCH(Step, run);
-        EngineFixture f;
-        f.createConference();
-        const RowChanges changes(f);
-        run(f);
+        m_f->createConference();
+        const RowChanges changes(*m_f);
+        run(*m_f);
         QTEST(changes.noted, "changes");
     }
 
     void membersBeforeTheAcceptStandInTheListTwice()
     {
-        EngineFixture f;
-        f.manager->m_strUserId = "me";
-        f.notify(2, document(R"("from":"anna")"));
-        f.notify(12, document(R"("conventioneer":["anna","me","bert"])"));
-        QCOMPARE(f.members(), QStringList({"anna 1*", "bert 1"}));
-        f.manager->responseVoipRequest(true);
+        m_f->manager->m_strUserId = "me";
+        m_f->notify(2, document(R"("from":"anna")"));
+        m_f->notify(12, document(R"("conventioneer":["anna","me","bert"])"));
+        QCOMPARE(m_f->members(), QStringList({"anna 1*", "bert 1"}));
+        m_f->manager->responseVoipRequest(true);
         // Deliberate: the accept adds the members without a look at the rows that are there.
-        QCOMPARE(f.members(), QStringList({"anna 1*", "bert 1", "anna 0*", "bert 0"}));
-        f.notify(12, document(R"("conventioneer":["anna","me","bert"])"));
-        QCOMPARE(f.members(), QStringList({"anna 1*", "bert 1", "anna 1*", "bert 1"}));
-        QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "me", "bert"}));
+        QCOMPARE(m_f->members(), QStringList({"anna 1*", "bert 1", "anna 0*", "bert 0"}));
+        m_f->notify(12, document(R"("conventioneer":["anna","me","bert"])"));
+        QCOMPARE(m_f->members(), QStringList({"anna 1*", "bert 1", "anna 1*", "bert 1"}));
+        QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "me", "bert"}));
     }
 
     void countIsThatOfTheMembersShown()
     {
-        EngineFixture f;
-        f.createConference();
-        const auto *count = f.manager->m_pVoipWidget->findChild<QLabel *>("lblListCount");
+        m_f->createConference();
+        const auto *count = m_f->manager->m_pVoipWidget->findChild<QLabel *>("lblListCount");
         QCOMPARE(count->text(), QStringLiteral("参与人员(2)"));
-        f.notify(12, document(R"("conventioneer":["me","anna","carl"])"));
+        m_f->notify(12, document(R"("conventioneer":["me","anna","carl"])"));
         QCOMPARE(count->text(), QStringLiteral("参与人员(3)"));
-        f.manager->slot_RemoveConferenceMember("carl");
+        m_f->manager->slot_RemoveConferenceMember("carl");
         QCOMPARE(count->text(), QStringLiteral("参与人员(2)"));
-        f.notify(12, document(R"("conventioneer":["carl"])"));
+        m_f->notify(12, document(R"("conventioneer":["carl"])"));
         QCOMPARE(count->text(), QStringLiteral("参与人员(3)"));
-        QCOMPARE(f.members(), QStringList({"anna 1", "bert 0", "carl 1"}));
+        QCOMPARE(m_f->members(), QStringList({"anna 1", "bert 0", "carl 1"}));
     }
 
     void endForgetsTheMembersShown()
     {
-        EngineFixture f;
-        f.createConference();
-        f.notify(7);
-        QCOMPARE(f.members(), QStringList());
-        f.notify(2, R"({"content":{"confId":"c2","from":"anna"}})");
-        f.manager->responseVoipRequest(true);
-        f.notify(12, R"({"content":{"confId":"c2","conventioneer":["anna","bert"]}})");
-        QCOMPARE(f.members(), QStringList({"anna 1*", "bert 1"}));
+        m_f->createConference();
+        m_f->notify(7);
+        QCOMPARE(m_f->members(), QStringList());
+        m_f->notify(2, R"({"content":{"confId":"c2","from":"anna"}})");
+        m_f->manager->responseVoipRequest(true);
+        m_f->notify(12, R"({"content":{"confId":"c2","conventioneer":["anna","bert"]}})");
+        QCOMPARE(m_f->members(), QStringList({"anna 1*", "bert 1"}));
     }
 
     void knownMemberIsFoundByCount()
     {
         // The host may name somebody twice: taken out once, the second entry still counts as known. The row that is
         // left of it belongs to nobody any more and stays.
-        EngineFixture f;
-        f.manager->m_strUserId = "me";
-        f.manager->callConference({"anna", "anna", "bert"}, false, "");
-        QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "anna", "bert", "me"}));
-        QCOMPARE(f.members(), QStringList({"anna 0", "anna 0", "bert 0"}));
-        f.manager->slot_RemoveConferenceMember("anna");
-        QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me"}));
-        QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
-        f.manager->addConferenceMember({"anna"});
-        QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me"}));
-        QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
-        f.manager->slot_RemoveConferenceMember("anna");
-        QCOMPARE(f.manager->m_callData.memberList, QStringList({"bert", "me"}));
-        f.manager->addConferenceMember({"anna"});
-        QCOMPARE(f.manager->m_callData.memberList, QStringList({"bert", "me", "anna"}));
-        QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
+        m_f->manager->m_strUserId = "me";
+        m_f->manager->callConference({"anna", "anna", "bert"}, false, "");
+        QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "anna", "bert", "me"}));
+        QCOMPARE(m_f->members(), QStringList({"anna 0", "anna 0", "bert 0"}));
+        m_f->manager->slot_RemoveConferenceMember("anna");
+        QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "bert", "me"}));
+        QCOMPARE(m_f->members(), QStringList({"anna 0", "bert 0"}));
+        m_f->manager->addConferenceMember({"anna"});
+        QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "bert", "me"}));
+        QCOMPARE(m_f->members(), QStringList({"anna 0", "bert 0"}));
+        m_f->manager->slot_RemoveConferenceMember("anna");
+        QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"bert", "me"}));
+        m_f->manager->addConferenceMember({"anna"});
+        QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"bert", "me", "anna"}));
+        QCOMPARE(m_f->members(), QStringList({"anna 0", "bert 0"}));
     }
 };
 

@@ -2,7 +2,7 @@
 // comes up: what has been sent, which timers run, whether it still rings.
 
 #include "StartedConference.h"
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 #include "ui/VoipWidget.h"
 
 #include <QEvent>
@@ -63,79 +63,73 @@ private:
     QString m_sent;
 };
 
-class tst_EffectOrder : public QObject
+class tst_EffectOrder : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
 private slots:
     void placedCallIsSentThenSetUpThenShownThenTimed()
     {
-        EngineFixture f;
-        const Moments moments(f);
-        f.manager->callSingleUser("anna", true);
+        const Moments moments(*m_f);
+        m_f->manager->callSingleUser("anna", true);
         QCOMPARE(moments.noted,
                  QStringList({"4157 anna: outgoing anna", "4337 anna: outgoing anna",
                               // The window asks for the peer's card.
                               "4157 anna: outgoing anna > CallUser", "shown: outgoing anna > CallUser"}));
-        QCOMPARE(f.state(), QString("outgoing anna, invite"));
+        QCOMPARE(m_f->state(), QString("outgoing anna, invite"));
     }
 
     void acceptedCallIsSetUpThenAnsweredThenShown()
     {
-        EngineFixture f;
-        f.notify(0, "bert");
-        const Moments moments(f);
-        f.manager->responseVoipRequest(true);
+        m_f->notify(0, "bert");
+        const Moments moments(*m_f);
+        m_f->manager->responseVoipRequest(true);
         QCOMPARE(moments.noted,
                  QStringList({"4157 bert: incoming bert, receive", "shown: incoming bert, receive > AcceptCall"}));
     }
 
     void acceptedInvitationIsSetUpThenAnsweredThenShown()
     {
-        EngineFixture f;
-        f.manager->m_strUserId = "me";
-        f.notify(2, cDocument.arg(R"("from":"anna")"));
-        f.manager->m_callData.memberList = QStringList{"anna", "me", "bert"};
-        const Moments moments(f);
-        f.manager->responseVoipRequest(true);
+        m_f->manager->m_strUserId = "me";
+        m_f->notify(2, cDocument.arg(R"("from":"anna")"));
+        m_f->manager->m_callData.memberList = QStringList{"anna", "me", "bert"};
+        const Moments moments(*m_f);
+        m_f->manager->responseVoipRequest(true);
         QCOMPARE(moments.noted, QStringList({"4157 anna: incoming anna, receive", "4157 bert: incoming anna, receive",
                                              "shown: incoming anna, receive > AcceptConf"}));
     }
 
     void startedConferenceIsSentThenSetUpThenShownThenTimed()
     {
-        EngineFixture f;
-        f.manager->m_strUserId = "me";
-        const Moments moments(f);
-        f.manager->callConference({"anna", "bert"}, false, "");
+        m_f->manager->m_strUserId = "me";
+        const Moments moments(*m_f);
+        m_f->manager->callConference({"anna", "bert"}, false, "");
         const QString asked(": outgoing anna+bert");
         const QString sent(": outgoing anna+bert+me > RequestConference");
         QCOMPARE(moments.noted,
                  QStringList({"4157 anna" + asked, "4337 anna" + asked, "4157 bert" + asked, "4337 bert" + asked,
                               // The window asks for its rows.
                               "4157 anna" + sent, "4157 bert" + sent, "shown" + sent}));
-        QCOMPARE(f.state(), QString("outgoing anna+bert+me, invite"));
+        QCOMPARE(m_f->state(), QString("outgoing anna+bert+me, invite"));
     }
 
     void addedMemberHasARowBeforeTheRequest()
     {
-        EngineFixture f;
-        startConference(f);
-        const Moments moments(f);
-        f.manager->addConferenceMember({"carl"});
+        startConference(*m_f);
+        const Moments moments(*m_f);
+        m_f->manager->addConferenceMember({"carl"});
         const QString unsent(": outgoing anna+bert+me+carl, invite");
         // The last question is that of the row.
         QCOMPARE(moments.noted, QStringList({"4157 carl" + unsent, "4337 carl" + unsent, "4157 carl" + unsent}));
-        QCOMPARE(f.takeLines().size(), 1);
-        QCOMPARE(f.members().constLast(), QString("carl 0"));
+        QCOMPARE(m_f->takeLines().size(), 1);
+        QCOMPARE(m_f->members().constLast(), QString("carl 0"));
     }
 
     void updateTakesItsMembersOneByOne()
     {
-        EngineFixture f;
-        f.createConference();
-        const Moments moments(f);
-        f.notify(12, cDocument.arg(R"("conventioneer":["carl","dora"])"));
+        m_f->createConference();
+        const Moments moments(*m_f);
+        m_f->notify(12, cDocument.arg(R"("conventioneer":["carl","dora"])"));
         const QString carl(": outgoing anna+bert+me+carl, invite");
         const QString dora(": outgoing anna+bert+me+carl+dora, invite");
         // Each one's row, which asks for the card, then whether that one is a stranger.
@@ -145,31 +139,30 @@ private slots:
 
     void endIsToldWhenNothingRingsOrRunsAnyMore()
     {
-        EngineFixture f;
-        f.notify(0, "bert");
-        f.manager->m_inviteTimer.start(60000);
-        QCOMPARE(f.state(), QString("incoming bert, invite, receive, ring"));
-        const Moments moments(f);
-        f.notify(4);
+        m_f->notify(0, "bert");
+        m_f->manager->m_inviteTimer.start(60000);
+        QCOMPARE(m_f->state(), QString("incoming bert, invite, receive, ring"));
+        const Moments moments(*m_f);
+        m_f->notify(4);
         QCOMPARE(moments.noted, QStringList({"4345: incoming bert", "4478: incoming bert"}));
     }
 
     void callThatComesInMeanwhileTakesTheWindowButNotTheCommand()
     {
-        EngineFixture f;
         bool bCame = false;
-        f.whileHandled = [&](BaseEvent &event) {
+        m_f->whileHandled = [&](BaseEvent &event) {
             if (event.msgId == MSG_IS_EXIST_FRIEND && !std::exchange(bCame, true)) {
-                f.notify(0, "bert");
+                m_f->notify(0, "bert");
             }
         };
-        f.manager->callSingleUser("anna", true);
-        QCOMPARE(f.takeJournal(), QStringList({"4639 bert false false", "CallUser \"anna\" true"}));
-        QCOMPARE(f.state(), QString("incoming bert, invite, receive, ring"));
-        QVERIFY(f.manager->m_callData.bIsVideo);
+        m_f->manager->callSingleUser("anna", true);
+        QCOMPARE(m_f->takeJournal(), QStringList({"4639 bert false false", "CallUser \"anna\" true"}));
+        QCOMPARE(m_f->state(), QString("incoming bert, invite, receive, ring"));
+        QVERIFY(m_f->manager->m_callData.bIsVideo);
         // The window is bert's and speaks of a call that somebody else has placed.
-        QCOMPARE(f.host.received(MSG_GET_FRIEND_INFO).constLast().reader().take<QString>(), EngineFixture::jid("bert"));
-        QCOMPARE(f.manager->m_pVoipWidget->findChild<QLabel *>("lblStatus")->text(), QStringLiteral("正在连接..."));
+        QCOMPARE(m_f->host.received(MSG_GET_FRIEND_INFO).constLast().reader().take<QString>(),
+                 EngineFixture::jid("bert"));
+        QCOMPARE(m_f->manager->m_pVoipWidget->findChild<QLabel *>("lblStatus")->text(), QStringLiteral("正在连接..."));
     }
 };
 

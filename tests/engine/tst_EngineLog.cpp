@@ -1,6 +1,6 @@
 // The log records of the engine: each operation's words, at debug level but for the call process's path.
 
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 #include "fakes/LogCapture.h"
 
 #include <QCoreApplication>
@@ -13,7 +13,7 @@
 using Step = std::function<void(EngineFixture &)>;
 Q_DECLARE_METATYPE(Step)
 
-class tst_EngineLog : public QObject
+class tst_EngineLog : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
@@ -22,8 +22,9 @@ private slots:
 
     void startNamesTheProgramAndTheSteps()
     {
+        m_f.reset();
         takeTexts();
-        EngineFixture f;
+        begin();
         const QString program = QCoreApplication::applicationDirPath() + "/VoipSDK/Contents/MacOS/VoipSDK";
         QCOMPARE(takeTexts().mid(0, 4), QStringList({"DEBUG init VoipSDK", "INFO " + program,
                                                      "DEBUG creat sdk socket connect", "DEBUG sdk socket connected!"}));
@@ -118,40 +119,36 @@ private slots:
     {
         QFETCH(Step, run);
         QFETCH(QString, text);
-        EngineFixture f;
         takeTexts();
-        run(f);
+        run(*m_f);
         const QStringList texts = takeTexts();
         QVERIFY2(texts.count(text) == 1, qPrintable(texts.join('\n')));
     }
 
     void operationWithoutAnEffectWritesNothing()
     {
-        EngineFixture f;
         takeTexts();
-        f.manager->slot_ReInviteConfUser("anna");
-        f.manager->slot_SetMicVolume(50);
-        f.manager->recevieVoipMessage("no JSON\n");
-        f.manager->recevieVoipMessage("{\"resultCode\":-1}\n");
-        f.manager->voipLogPrint("u", "v");
+        m_f->manager->slot_ReInviteConfUser("anna");
+        m_f->manager->slot_SetMicVolume(50);
+        m_f->manager->recevieVoipMessage("no JSON\n");
+        m_f->manager->recevieVoipMessage("{\"resultCode\":-1}\n");
+        m_f->manager->voipLogPrint("u", "v");
         QCOMPARE(takeTexts(), QStringList("DEBUG sendVoipMsg = {\"messagetype\":\"SetMicVolume\",\"param1\":5}"));
     }
 
     void commandWithoutASocketIsStillLogged()
     {
-        EngineFixture f;
-        f.manager->disconnectVoipSDKSocket();
+        m_f->manager->disconnectVoipSDKSocket();
         takeTexts();
-        f.manager->sendVoipMessage("text\n");
+        m_f->manager->sendVoipMessage("text\n");
         QCOMPARE(takeTexts(), QStringList{"DEBUG sendVoipMsg = text"});
     }
 
     void wholeCallReadsInItsOrder()
     {
-        EngineFixture f;
         takeTexts();
-        f.notify(0, "bert");
-        f.manager->responseVoipRequest(false);
+        m_f->notify(0, "bert");
+        m_f->manager->responseVoipRequest(false);
         const QStringList texts = takeTexts();
         QCOMPARE(texts.mid(0, 11),
                  QStringList({"DEBUG Voip Sdk call back msg iCode=0, string=bert", "DEBUG play call ring",
@@ -177,11 +174,10 @@ private slots:
     {
         QFETCH(Step, run);
         QFETCH(QString, text);
-        EngineFixture f;
-        f.notify(0, "bert");
+        m_f->notify(0, "bert");
         takeTexts();
-        run(f);
-        QCOMPARE(f.boxes.texts.size(), 1);
+        run(*m_f);
+        QCOMPARE(m_f->boxes.texts.size(), 1);
         QCOMPARE(takeTexts(), QStringList{text});
     }
 
@@ -212,19 +208,17 @@ private slots:
     {
         QFETCH(Step, run);
         QFETCH(QStringList, texts);
-        EngineFixture f;
-        f.createConference();
-        f.manager->m_callData.connectedList = QStringList{"anna"};
+        m_f->createConference();
+        m_f->manager->m_callData.connectedList = QStringList{"anna"};
         takeTexts();
-        run(f);
+        run(*m_f);
         QCOMPARE(takeTexts().mid(0, texts.size()), texts);
     }
 
     void clientGoneUnregistersBehindTheHangUp()
     {
-        EngineFixture f;
         takeTexts();
-        f.manager->clientConnectStatus(false);
+        m_f->manager->clientConnectStatus(false);
         QCOMPARE(takeTexts().mid(0, 4),
                  QStringList({"DEBUG client disconnect, hangupcall, unrededit user!", "DEBUG hangup voip call!",
                               "DEBUG stop ring!", "DEBUG unregedit current user "}));

@@ -1,6 +1,6 @@
 // A machine without any audio input. This test's program stands in a folder whose qt.conf hides the audio plug-ins.
 
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 #include "fakes/Patience.h"
 #include "ui/VoipWidget.h"
 
@@ -16,7 +16,7 @@ const QStringList cBertRejected{"RejectCall", "4345 bert@kelvar.im", "4478 false
 
 } // namespace
 
-class tst_NoMicrophone : public QObject
+class tst_NoMicrophone : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
@@ -42,93 +42,88 @@ private slots:
         QFETCH(bool, conference);
         QFETCH(bool, channel);
         QFETCH(bool, call);
-        EngineFixture f(channel ? EngineFixture::WithCallProcess : EngineFixture::NoCallProcess);
-        QVERIFY(!f.manager->getIsHasAudioInputDevice());
+        begin(channel ? EngineFixture::WithCallProcess : EngineFixture::NoCallProcess);
+        QVERIFY(!m_f->manager->getIsHasAudioInputDevice());
         if (call) {
-            f.notify(0, "bert");
+            m_f->notify(0, "bert");
         }
-        f.takeJournal();
-        const QString before = f.state();
+        m_f->takeJournal();
+        const QString before = m_f->state();
         if (conference) {
-            f.manager->callConference({"anna"}, false, "");
+            m_f->manager->callConference({"anna"}, false, "");
         } else {
-            f.manager->callSingleUser("anna", true);
+            m_f->manager->callSingleUser("anna", true);
         }
-        QCOMPARE(f.boxes.texts, QStringList{cCannotCall});
-        QCOMPARE(f.state(), before);
-        QCOMPARE(f.takeJournal(), QStringList());
-        QVERIFY(!f.manager->m_callData.bIsCaller);
-        QVERIFY(!f.manager->m_callData.bIsVideo);
-        QVERIFY(!f.manager->m_callData.bIsConf);
+        QCOMPARE(m_f->boxes.texts, QStringList{cCannotCall});
+        QCOMPARE(m_f->state(), before);
+        QCOMPARE(m_f->takeJournal(), QStringList());
+        QVERIFY(!m_f->manager->m_callData.bIsCaller);
+        QVERIFY(!m_f->manager->m_callData.bIsVideo);
+        QVERIFY(!m_f->manager->m_callData.bIsConf);
     }
 
     void acceptSaysSoAndRejects()
     {
-        EngineFixture f;
-        f.notify(0, "bert");
-        f.takeJournal();
-        f.boxes.whileOpen = [&f] { QCOMPARE(f.state(), QString("incoming bert, receive")); };
-        f.manager->responseVoipRequest(true);
-        QCOMPARE(f.boxes.texts, QStringList{cCannotAccept});
-        QCOMPARE(f.takeJournal(), cBertRejected);
-        QCOMPARE(f.state(), QString("idle"));
-        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
+        m_f->notify(0, "bert");
+        m_f->takeJournal();
+        m_f->boxes.whileOpen = [this] { QCOMPARE(m_f->state(), QString("incoming bert, receive")); };
+        m_f->manager->responseVoipRequest(true);
+        QCOMPARE(m_f->boxes.texts, QStringList{cCannotAccept});
+        QCOMPARE(m_f->takeJournal(), cBertRejected);
+        QCOMPARE(m_f->state(), QString("idle"));
+        QVERIFY(!m_f->manager->m_pVoipWidget->isVisible());
     }
 
     void acceptOfAConferenceRejectsTheConference()
     {
-        EngineFixture f;
-        f.notify(2, R"({"content":{"from":"anna","confId":"c1"}})");
-        f.takeJournal();
-        f.manager->responseVoipRequest(true);
-        QCOMPARE(f.boxes.texts, QStringList{cCannotAccept});
-        QCOMPARE(f.takeJournal(),
+        m_f->notify(2, R"({"content":{"from":"anna","confId":"c1"}})");
+        m_f->takeJournal();
+        m_f->manager->responseVoipRequest(true);
+        QCOMPARE(m_f->boxes.texts, QStringList{cCannotAccept});
+        QCOMPARE(m_f->takeJournal(),
                  QStringList({"RejectConf", "4345 anna@kelvar.im", "SetMicEnable true", "SetSpeakerEnble true"}));
     }
 
     void ringStopsBeforeTheMessage()
     {
-        EngineFixture f;
-        f.notify(0, "bert");
-        QString stateWhileOpen = f.state();
+        m_f->notify(0, "bert");
+        QString stateWhileOpen = m_f->state();
         QVERIFY(stateWhileOpen.contains("ring"));
-        f.boxes.whileOpen = [&] { stateWhileOpen = f.state(); };
-        f.manager->acceptVoipCall();
+        m_f->boxes.whileOpen = [&] { stateWhileOpen = m_f->state(); };
+        m_f->manager->acceptVoipCall();
         QCOMPARE(stateWhileOpen, QString("incoming bert, receive"));
     }
 
     void receiveTimerMayEndTheCallWhileTheMessageIsOpen()
     {
-        EngineFixture f;
-        f.notify(0, "bert");
-        f.takeJournal();
+        m_f->notify(0, "bert");
+        m_f->takeJournal();
         QStringList journalWhileOpen;
-        f.boxes.whileOpen = [&] {
-            f.manager->slot_recevieCallTimeout();
-            journalWhileOpen = f.takeJournal();
+        m_f->boxes.whileOpen = [&] {
+            m_f->manager->slot_recevieCallTimeout();
+            journalWhileOpen = m_f->takeJournal();
         };
-        f.manager->responseVoipRequest(true);
+        m_f->manager->responseVoipRequest(true);
         QCOMPARE(journalWhileOpen, cBertRejected);
         // The reject behind the message goes out again, and there is no call left to end.
-        QCOMPARE(f.takeJournal(), QStringList{"RejectCall"});
-        QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 1);
+        QCOMPARE(m_f->takeJournal(), QStringList{"RejectCall"});
+        QCOMPARE(m_f->host.received(MSG_CALL_FINISHED).size(), 1);
     }
 
     void socketLinesAreHandledWhileTheMessageIsOpen()
     {
-        EngineFixture f;
-        f.notify(0, "bert");
-        f.takeJournal();
+        m_f->notify(0, "bert");
+        m_f->takeJournal();
         bool endedWhileOpen = false;
-        f.boxes.whileOpen = [&] {
-            f.process.send(FakeCallProcess::line(4));
-            QTRY_VERIFY_WITH_TIMEOUT(!f.manager->isExistCall(), cPatienceMs);
+        m_f->boxes.whileOpen = [&] {
+            m_f->process.send(FakeCallProcess::line(4));
+            QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->isExistCall(), cPatienceMs);
             endedWhileOpen = true;
         };
-        f.manager->responseVoipRequest(true);
+        m_f->manager->responseVoipRequest(true);
         QVERIFY(endedWhileOpen);
-        QCOMPARE(f.takeJournal(), QStringList({"4345 bert@kelvar.im", "4478 false bert 21 false false",
-                                               "SetMicEnable true", "SetSpeakerEnble true", "RejectCall"}));
+        QCOMPARE(m_f->takeJournal(), QStringList({"4345 bert@kelvar.im", "4478 false bert 21 false false",
+                                                  "SetMicEnable true", "SetSpeakerEnble true", "RejectCall"}));
     }
 };
 

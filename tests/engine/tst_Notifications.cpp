@@ -1,13 +1,13 @@
 // What a notification of the call process does, whatever the call; those of a conference have a test of their own.
 
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 #include "fakes/QtMessages.h"
 #include "ui/VoipWidget.h"
 
 #include <QStackedWidget>
 #include <QTest>
 
-class tst_Notifications : public QObject
+class tst_Notifications : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
@@ -24,17 +24,16 @@ private slots:
     void codeWithoutAnActionChangesNothing()
     {
         QFETCH(int, code);
-        EngineFixture f;
-        f.createConference();
-        const QString before = f.callText();
+        m_f->createConference();
+        const QString before = m_f->callText();
         const QtMessages messages;
-        f.notify(code, R"({"content":{"confId":"c1","from":"anna","conventioneer":["x"],"createTime":5}})");
-        f.notify(code);
-        QCOMPARE(f.takeJournal(), QStringList());
+        m_f->notify(code, R"({"content":{"confId":"c1","from":"anna","conventioneer":["x"],"createTime":5}})");
+        m_f->notify(code);
+        QCOMPARE(m_f->takeJournal(), QStringList());
         EngineFixture::deliverPosted();
-        QCOMPARE(f.host.commands(), QList<int>());
-        QCOMPARE(f.callText(), before);
-        QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
+        QCOMPARE(m_f->host.commands(), QList<int>());
+        QCOMPARE(m_f->callText(), before);
+        QCOMPARE(m_f->members(), QStringList({"anna 0", "bert 0"}));
         QCOMPARE(messages.debugLines, QStringList());
     }
 
@@ -49,15 +48,14 @@ private slots:
     void incomingCallSetsTheCall()
     {
         QFETCH(int, code);
-        EngineFixture f;
-        f.manager->m_callData.bIsConf = true;
-        f.manager->m_callData.bIsVideo = true;
-        f.manager->m_callData.bIsCaller = true;
-        f.notify(code, "bert");
-        QCOMPARE(f.callText(), QString("0|0|0|0|||bert|||"));
-        QCOMPARE(f.state(), QString("incoming bert, receive, ring"));
-        QCOMPARE(f.takeJournal(), QStringList{"4639 bert false false"});
-        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
+        m_f->manager->m_callData.bIsConf = true;
+        m_f->manager->m_callData.bIsVideo = true;
+        m_f->manager->m_callData.bIsCaller = true;
+        m_f->notify(code, "bert");
+        QCOMPARE(m_f->callText(), QString("0|0|0|0|||bert|||"));
+        QCOMPARE(m_f->state(), QString("incoming bert, receive, ring"));
+        QCOMPARE(m_f->takeJournal(), QStringList{"4639 bert false false"});
+        QVERIFY(!m_f->manager->m_pVoipWidget->isVisible());
     }
 
     void sdkFlagIsTheWordTrue_data()
@@ -77,38 +75,35 @@ private slots:
     {
         QFETCH(QString, content);
         QFETCH(bool, flag);
-        EngineFixture f;
-        f.manager->m_bSdkFlag = !flag;
-        f.notify(17, content);
-        QCOMPARE(f.manager->m_bSdkFlag, flag);
+        m_f->manager->m_bSdkFlag = !flag;
+        m_f->notify(17, content);
+        QCOMPARE(m_f->manager->m_bSdkFlag, flag);
     }
 
     void connectionShowsTheCallingControls()
     {
-        EngineFixture f;
-        f.manager->callSingleUser("anna", false);
-        const auto *controls = f.manager->m_pVoipWidget->findChild<QStackedWidget *>("controlPane");
+        m_f->manager->callSingleUser("anna", false);
+        const auto *controls = m_f->manager->m_pVoipWidget->findChild<QStackedWidget *>("controlPane");
         QCOMPARE(controls->currentIndex(), 0);
         const QDateTime before = QDateTime::currentDateTimeUtc();
-        f.notify(18, "not read");
+        m_f->notify(18, "not read");
         const QDateTime after = QDateTime::currentDateTimeUtc();
         QCOMPARE(controls->currentIndex(), 1);
-        QVERIFY(f.manager->m_callData.bIsConnected);
-        QCOMPARE(f.manager->m_callData.connectTime.timeSpec(), Qt::UTC);
-        QVERIFY(f.manager->m_callData.connectTime >= before && f.manager->m_callData.connectTime <= after);
+        QVERIFY(m_f->manager->m_callData.bIsConnected);
+        QCOMPARE(m_f->manager->m_callData.connectTime.timeSpec(), Qt::UTC);
+        QVERIFY(m_f->manager->m_callData.connectTime >= before && m_f->manager->m_callData.connectTime <= after);
     }
 
     void logLineOfTheCallProcessChangesNothing()
     {
-        EngineFixture f;
-        f.createConference();
-        const QString before = f.callText();
+        m_f->createConference();
+        const QString before = m_f->callText();
         const QtMessages messages;
-        f.notify(999, "media up");
+        m_f->notify(999, "media up");
         QCOMPARE(messages.debugLines, QStringList{"voipsdk:media up"});
-        QCOMPARE(f.callText(), before);
-        QCOMPARE(f.members(), QStringList({"anna 0", "bert 0"}));
-        QCOMPARE(f.takeJournal(), QStringList());
+        QCOMPARE(m_f->callText(), before);
+        QCOMPARE(m_f->members(), QStringList({"anna 0", "bert 0"}));
+        QCOMPARE(m_f->takeJournal(), QStringList());
     }
 };
 

@@ -2,7 +2,7 @@
 // what is lost.
 
 #include "ReadLines.h"
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 #include "fakes/Patience.h"
 #include "fakes/QtMessages.h"
 
@@ -18,21 +18,21 @@ QByteArray line(int code, const QString &content = QString())
 
 } // namespace
 
-class tst_SdkTraffic : public QObject
+class tst_SdkTraffic : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
 private slots:
     void userRegisteredWhileDownIsSentOnConnect()
     {
-        EngineFixture f(EngineFixture::NoCallProcess);
-        f.manager->regeditVoipUser("me", QStringLiteral("我"), "ticket");
-        QCOMPARE(f.manager->m_strUserId, QString("me"));
-        QCOMPARE(f.manager->m_strNickName, QStringLiteral("我"));
-        QCOMPARE(f.manager->m_strRegValue, QString("ticket"));
-        f.process.open();
-        f.manager->slot_ReConnectVoipSDK();
-        QCOMPARE(f.takeLines(), QStringList{QStringLiteral("RegeditUser \"me\" \"我\" \"ticket\" false")});
+        begin(EngineFixture::NoCallProcess);
+        m_f->manager->regeditVoipUser("me", QStringLiteral("我"), "ticket");
+        QCOMPARE(m_f->manager->m_strUserId, QString("me"));
+        QCOMPARE(m_f->manager->m_strNickName, QStringLiteral("我"));
+        QCOMPARE(m_f->manager->m_strRegValue, QString("ticket"));
+        m_f->process.open();
+        m_f->manager->slot_ReConnectVoipSDK();
+        QCOMPARE(m_f->takeLines(), QStringList{QStringLiteral("RegeditUser \"me\" \"我\" \"ticket\" false")});
     }
 
     void automaticRegistrationNeedsIdAndValue_data()
@@ -61,52 +61,48 @@ private slots:
         QFETCH(QString, id);
         QFETCH(QString, nick);
         QFETCH(QString, value);
-        EngineFixture f;
-        f.manager->regeditVoipUser(id, nick, value);
-        QTEST(f.takeLines(), "direct");
-        f.manager->slot_VoipSDKConnected();
-        QTEST(f.takeLines(), "automatic");
+        m_f->manager->regeditVoipUser(id, nick, value);
+        QTEST(m_f->takeLines(), "direct");
+        m_f->manager->slot_VoipSDKConnected();
+        QTEST(m_f->takeLines(), "automatic");
     }
 
     void lostConnectionIsRegisteredAgain()
     {
-        EngineFixture f;
-        f.manager->regeditVoipUser("me", "Nick", "ticket");
+        m_f->manager->regeditVoipUser("me", "Nick", "ticket");
         const QStringList registration{"RegeditUser \"me\" \"Nick\" \"ticket\" false"};
-        QCOMPARE(f.takeLines(), registration);
-        f.process.dropClient();
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, cPatienceMs);
-        f.manager->slot_ReConnectVoipSDK();
-        QVERIFY(f.manager->m_bSocketConnected);
-        QCOMPARE(f.takeLines(), registration);
+        QCOMPARE(m_f->takeLines(), registration);
+        m_f->process.dropClient();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->m_bSocketConnected, cPatienceMs);
+        m_f->manager->slot_ReConnectVoipSDK();
+        QVERIFY(m_f->manager->m_bSocketConnected);
+        QCOMPARE(m_f->takeLines(), registration);
     }
 
     void unregisteringKeepsTheUserForTheNextConnect()
     {
-        EngineFixture f;
-        f.manager->regeditVoipUser("me", "Nick", "ticket");
-        f.manager->unRegeditCurrentVoipUser();
+        m_f->manager->regeditVoipUser("me", "Nick", "ticket");
+        m_f->manager->unRegeditCurrentVoipUser();
         const QString registration("RegeditUser \"me\" \"Nick\" \"ticket\" false");
-        QCOMPARE(f.takeLines(), QStringList({registration, "UnReg \"me\""}));
-        QCOMPARE(f.manager->m_strUserId, QString("me"));
-        f.process.dropClient();
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, cPatienceMs);
-        f.manager->slot_ReConnectVoipSDK();
-        QCOMPARE(f.takeLines(), QStringList{registration});
+        QCOMPARE(m_f->takeLines(), QStringList({registration, "UnReg \"me\""}));
+        QCOMPARE(m_f->manager->m_strUserId, QString("me"));
+        m_f->process.dropClient();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->m_bSocketConnected, cPatienceMs);
+        m_f->manager->slot_ReConnectVoipSDK();
+        QCOMPARE(m_f->takeLines(), QStringList{registration});
     }
 
     void nothingElseIsReplayedAfterAReconnect()
     {
-        EngineFixture f;
-        f.manager->regeditVoipUser("me", "Nick", "ticket");
-        f.manager->callSingleUser("anna", false);
-        f.takeLines();
-        f.process.dropClient();
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, cPatienceMs);
-        f.manager->slot_SetMicEnable(false);
-        f.manager->slot_ReConnectVoipSDK();
-        QCOMPARE(f.takeLines(), QStringList{"RegeditUser \"me\" \"Nick\" \"ticket\" false"});
-        QCOMPARE(f.manager->m_callData.peerId, QString("anna"));
+        m_f->manager->regeditVoipUser("me", "Nick", "ticket");
+        m_f->manager->callSingleUser("anna", false);
+        m_f->takeLines();
+        m_f->process.dropClient();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->m_bSocketConnected, cPatienceMs);
+        m_f->manager->slot_SetMicEnable(false);
+        m_f->manager->slot_ReConnectVoipSDK();
+        QCOMPARE(m_f->takeLines(), QStringList{"RegeditUser \"me\" \"Nick\" \"ticket\" false"});
+        QCOMPARE(m_f->manager->m_callData.peerId, QString("anna"));
     }
 
     void linesOfOneReadAreDelivered_data()
@@ -133,9 +129,8 @@ private slots:
     void linesOfOneReadAreDelivered()
     {
         QFETCH(QByteArray, bytes);
-        EngineFixture f;
         const QtMessages messages;
-        f.process.send(bytes);
+        m_f->process.send(bytes);
         QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, cPatienceMs);
         QTEST(deliveredPayloads(messages), "payloads");
         QCOMPARE(messages.warnings, QStringList());
@@ -143,24 +138,22 @@ private slots:
 
     void lineSplitOverTwoReadsIsLost()
     {
-        EngineFixture f;
         const QtMessages messages;
         const QByteArray split = line(999, "split in the middle");
-        f.process.send(split.left(20));
+        m_f->process.send(split.left(20));
         QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, cPatienceMs);
-        f.process.send(split.mid(20) + line(999, "next"));
+        m_f->process.send(split.mid(20) + line(999, "next"));
         QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, cPatienceMs);
         QCOMPARE(deliveredPayloads(messages), QStringList{"next"});
     }
 
     void nulByteHidesTheRestOfTheReadOnly()
     {
-        EngineFixture f;
         const QtMessages messages;
         // The line feed behind the byte would give the next line a clean start.
-        f.process.send(line(999, "before") + '\0' + '\n' + line(999, "behind"));
+        m_f->process.send(line(999, "before") + '\0' + '\n' + line(999, "behind"));
         QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, cPatienceMs);
-        f.process.send(line(999, "later"));
+        m_f->process.send(line(999, "later"));
         QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, cPatienceMs);
         QCOMPARE(deliveredPayloads(messages), QStringList({"before", "later"}));
     }
@@ -182,66 +175,61 @@ private slots:
     void linesWithoutEffect()
     {
         QFETCH(QString, text);
-        EngineFixture f;
-        f.manager->recevieVoipMessage(text + "\n");
-        QCOMPARE(f.takeJournal(), QStringList());
-        QCOMPARE(f.state(), QString("idle"));
-        f.manager->recevieVoipMessage("{}");
-        QCOMPARE(f.takeJournal(), QStringList{"4639  false false"});
+        m_f->manager->recevieVoipMessage(text + "\n");
+        QCOMPARE(m_f->takeJournal(), QStringList());
+        QCOMPARE(m_f->state(), QString("idle"));
+        m_f->manager->recevieVoipMessage("{}");
+        QCOMPARE(m_f->takeJournal(), QStringList{"4639  false false"});
     }
 
     void bytesThatComeDuringAnEventLoopInAHandlerAreHandled()
     {
-        EngineFixture f;
-        f.whileHandled = [&f](BaseEvent &event) {
+        m_f->whileHandled = [this](BaseEvent &event) {
             if (event.msgId != MSG_RECEVIE_VOIP_CALL) {
                 return;
             }
-            f.process.send(line(18));
+            m_f->process.send(line(18));
             QEventLoop loop;
-            while (f.manager->m_pVoipSocket->bytesAvailable() == 0) {
+            while (m_f->manager->m_pVoipSocket->bytesAvailable() == 0) {
                 loop.processEvents(QEventLoop::WaitForMoreEvents);
             }
         };
-        f.process.send(line(0, "bert"));
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_callData.peerId.isEmpty(), cPatienceMs);
-        QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_callData.bIsConnected, cPatienceMs);
-        QVERIFY(!f.manager->m_recevieTimer.isActive());
+        m_f->process.send(line(0, "bert"));
+        QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->m_callData.peerId.isEmpty(), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_f->manager->m_callData.bIsConnected, cPatienceMs);
+        QVERIFY(!m_f->manager->m_recevieTimer.isActive());
     }
 
     void readIsWrittenToTheDebugLog()
     {
-        EngineFixture f;
         const QtMessages messages;
         const QByteArray bytes = line(998, QStringLiteral("呼叫"));
-        f.process.send(bytes);
+        m_f->process.send(bytes);
         QTRY_COMPARE_WITH_TIMEOUT(messages.debugLines,
                                   QStringList{QStringLiteral("Voip返回数据") + QString::fromUtf8(bytes)}, cPatienceMs);
     }
 
     void readOfNothingIsNotWrittenToTheDebugLog()
     {
-        EngineFixture f;
         const QtMessages messages;
-        f.manager->slot_VoipSDKDataRecevie();
-        f.manager->disconnectVoipSDKSocket();
-        f.manager->slot_VoipSDKDataRecevie();
+        m_f->manager->slot_VoipSDKDataRecevie();
+        m_f->manager->disconnectVoipSDKSocket();
+        m_f->manager->slot_VoipSDKDataRecevie();
         QCOMPARE(messages.debugLines, QStringList());
     }
 
     void writeToALostSocketIsLost()
     {
-        EngineFixture f;
-        f.process.dropClient();
-        QTRY_VERIFY_WITH_TIMEOUT(!f.manager->m_bSocketConnected, cPatienceMs);
+        m_f->process.dropClient();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->m_bSocketConnected, cPatienceMs);
         const QtMessages messages;
         // Accepting is the one command that is sent without a look at the channel.
-        f.manager->acceptVoipCall();
-        f.manager->sendVoipMessage("lost\n");
+        m_f->manager->acceptVoipCall();
+        m_f->manager->sendVoipMessage("lost\n");
         QCOMPARE(messages.warnings.filter("QIODevice"), QStringList());
-        f.manager->slot_ReConnectVoipSDK();
-        QVERIFY(f.manager->m_bSocketConnected);
-        QCOMPARE(f.takeLines(), QStringList());
+        m_f->manager->slot_ReConnectVoipSDK();
+        QVERIFY(m_f->manager->m_bSocketConnected);
+        QCOMPARE(m_f->takeLines(), QStringList());
     }
 };
 

@@ -1,7 +1,7 @@
 // One call between two people: placing, receiving and accepting it, and what goes out meanwhile.
 
 #include "WhileAsked.h"
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 #include "ui/VoipWidget.h"
 #include "widgets/PushButtonEx.h"
 
@@ -16,7 +16,7 @@
 using Step = std::function<void(EngineFixture &)>;
 Q_DECLARE_METATYPE(Step)
 
-class tst_SingleCall : public QObject
+class tst_SingleCall : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
@@ -39,18 +39,17 @@ private slots:
         QFETCH(QString, user);
         QFETCH(bool, video);
         QFETCH(QString, line);
-        EngineFixture f;
-        f.manager->callSingleUser(user, video);
-        QCOMPARE(f.takeJournal(), QStringList{line});
-        QCOMPARE(f.state(), "outgoing " + user + ", invite");
-        QCOMPARE(f.manager->m_callData.bIsVideo, video);
-        QVERIFY(!f.manager->m_callData.bIsConf);
-        QVERIFY(f.manager->m_pVoipWidget->isVisible());
-        QTEST(f.manager->m_pVoipWidget->windowTitle(), "title");
+        m_f->manager->callSingleUser(user, video);
+        QCOMPARE(m_f->takeJournal(), QStringList{line});
+        QCOMPARE(m_f->state(), "outgoing " + user + ", invite");
+        QCOMPARE(m_f->manager->m_callData.bIsVideo, video);
+        QVERIFY(!m_f->manager->m_callData.bIsConf);
+        QVERIFY(m_f->manager->m_pVoipWidget->isVisible());
+        QTEST(m_f->manager->m_pVoipWidget->windowTitle(), "title");
         // The window speaks of the own call, in its request state.
-        QCOMPARE(f.manager->m_pVoipWidget->findChild<QLabel *>("lblStatus")->text(), QStringLiteral("正在呼叫..."));
-        QCOMPARE(f.manager->m_pVoipWidget->findChild<QStackedWidget *>("controlPane")->currentIndex(), 0);
-        QCOMPARE(f.boxes.texts, QStringList());
+        QCOMPARE(m_f->manager->m_pVoipWidget->findChild<QLabel *>("lblStatus")->text(), QStringLiteral("正在呼叫..."));
+        QCOMPARE(m_f->manager->m_pVoipWidget->findChild<QStackedWidget *>("controlPane")->currentIndex(), 0);
+        QCOMPARE(m_f->boxes.texts, QStringList());
     }
 
     void placedCallAsksForTheCardOfAStrangerOnly_data()
@@ -67,32 +66,29 @@ private slots:
     void placedCallAsksForTheCardOfAStrangerOnly()
     {
         QFETCH(QString, user);
-        EngineFixture f;
-        f.host.friendJids.insert(EngineFixture::jid("bert"));
-        f.manager->callSingleUser(user, false);
-        QTEST(strangerRequests(f), "requests");
+        m_f->host.friendJids.insert(EngineFixture::jid("bert"));
+        m_f->manager->callSingleUser(user, false);
+        QTEST(strangerRequests(*m_f), "requests");
     }
 
     void placedCallAsksTheHostAboutEverybody()
     {
-        EngineFixture f;
         FriendData known(EngineFixture::jid("kv6005626532"));
-        f.context.setFriendDataMap({{known.m_strJid, known}});
-        f.manager->callSingleUser("kv6005626532", false);
-        QCOMPARE(f.host.received(MSG_IS_EXIST_FRIEND).size(), 1);
-        QCOMPARE(f.host.received(MSG_GET_FRIEND_INFO).size(), 0);
+        m_f->context.setFriendDataMap({{known.m_strJid, known}});
+        m_f->manager->callSingleUser("kv6005626532", false);
+        QCOMPARE(m_f->host.received(MSG_IS_EXIST_FRIEND).size(), 1);
+        QCOMPARE(m_f->host.received(MSG_GET_FRIEND_INFO).size(), 0);
     }
 
     void placedCallIsSentAndShownBehindTheQueries()
     {
-        EngineFixture f;
-        WhileAsked asked(f);
-        f.manager->callSingleUser("anna", true);
+        WhileAsked asked(*m_f);
+        m_f->manager->callSingleUser("anna", true);
         // The caller and the peer are known by then, the video is not.
         QCOMPARE(asked.call, QString("0|0|1|0|||anna|||"));
         QCOMPARE(asked.lines, QStringList());
         QVERIFY(!asked.bShown);
-        QCOMPARE(f.callText(), QString("0|1|1|0|||anna|||"));
+        QCOMPARE(m_f->callText(), QString("0|1|1|0|||anna|||"));
     }
 
     void callWhileACallExistsIsRefusedWithAMessage_data()
@@ -116,51 +112,50 @@ private slots:
     {
         QFETCH(Step, enter);
         QFETCH(QString, state);
-        EngineFixture f;
-        enter(f);
-        f.takeJournal();
-        f.manager->callSingleUser("carl", true);
-        QCOMPARE(f.boxes.texts, QStringList{"soundfailedinsound"});
-        QCOMPARE(f.takeJournal(), QStringList());
-        QCOMPARE(f.state(), state);
-        QVERIFY(!f.manager->m_callData.bIsVideo);
+        enter(*m_f);
+        m_f->takeJournal();
+        m_f->manager->callSingleUser("carl", true);
+        QCOMPARE(m_f->boxes.texts, QStringList{"soundfailedinsound"});
+        QCOMPARE(m_f->takeJournal(), QStringList());
+        QCOMPARE(m_f->state(), state);
+        QVERIFY(!m_f->manager->m_callData.bIsVideo);
     }
 
     void callWithoutTheChannelIsRefusedWithAMessage()
     {
-        EngineFixture f(EngineFixture::NoCallProcess);
-        f.manager->callSingleUser("anna", true);
-        QCOMPARE(f.boxes.texts, QStringList{QStringLiteral("音频通话初始化失败，请尝试重启客户端解决")});
-        QCOMPARE(f.state(), QString("idle"));
-        QVERIFY(!f.manager->m_callData.bIsCaller);
-        QVERIFY(!f.manager->m_callData.bIsVideo);
-        QVERIFY(!f.manager->m_pVoipWidget->isVisible());
-        QCOMPARE(f.host.commands(), QList<int>());
+        begin(EngineFixture::NoCallProcess);
+        m_f->manager->callSingleUser("anna", true);
+        QCOMPARE(m_f->boxes.texts, QStringList{QStringLiteral("音频通话初始化失败，请尝试重启客户端解决")});
+        QCOMPARE(m_f->state(), QString("idle"));
+        QVERIFY(!m_f->manager->m_callData.bIsCaller);
+        QVERIFY(!m_f->manager->m_callData.bIsVideo);
+        QVERIFY(!m_f->manager->m_pVoipWidget->isVisible());
+        QCOMPARE(m_f->host.commands(), QList<int>());
     }
 
     void existingCallIsToldBeforeTheMissingChannel()
     {
-        EngineFixture f(EngineFixture::NoCallProcess);
-        f.notify(0, "bert");
-        f.manager->callSingleUser("anna", false);
-        QCOMPARE(f.boxes.texts, QStringList{"soundfailedinsound"});
+        begin(EngineFixture::NoCallProcess);
+        m_f->notify(0, "bert");
+        m_f->manager->callSingleUser("anna", false);
+        QCOMPARE(m_f->boxes.texts, QStringList{"soundfailedinsound"});
     }
 
     void messageIsTitledAndHasOneButton()
     {
-        EngineFixture f(EngineFixture::NoCallProcess);
+        begin(EngineFixture::NoCallProcess);
         bool acceptShown = true;
         QStringList buttonTexts;
-        const QWidget *parent = f.manager->m_pVoipWidget;
-        f.boxes.whileOpen = [&] {
+        const QWidget *parent = m_f->manager->m_pVoipWidget;
+        m_f->boxes.whileOpen = [&] {
             const QWidget *box = QApplication::activeModalWidget();
             const auto *accept = box->findChild<PushButtonEx *>("acceptBtn");
             acceptShown = accept->isVisible();
             buttonTexts = QStringList{accept->text(), box->findChild<PushButtonEx *>("closeBtn")->text()};
             parent = box->parentWidget();
         };
-        f.manager->callSingleUser("anna", false);
-        QCOMPARE(f.boxes.titles, QStringList{"tip"});
+        m_f->manager->callSingleUser("anna", false);
+        QCOMPARE(m_f->boxes.titles, QStringList{"tip"});
         QVERIFY(!acceptShown);
         QCOMPARE(buttonTexts, QStringList({"", "sure"}));
         QVERIFY(!parent);
@@ -179,95 +174,89 @@ private slots:
     void incomingCallAsksForCardsInAnyCase()
     {
         QFETCH(QString, user);
-        EngineFixture f;
-        f.host.friendJids.insert(EngineFixture::jid("bert"));
-        f.notify(0, user);
-        QTEST(strangerRequests(f), "requests");
+        m_f->host.friendJids.insert(EngineFixture::jid("bert"));
+        m_f->notify(0, user);
+        QTEST(strangerRequests(*m_f), "requests");
     }
 
     void promptComesAfterTheQueriesAndBeforeTheTimer()
     {
-        EngineFixture f;
         QString stateMeanwhile;
-        f.whileHandled = [&](BaseEvent &event) {
+        m_f->whileHandled = [&](BaseEvent &event) {
             if (event.msgId != MSG_RECEVIE_VOIP_CALL) {
                 return;
             }
-            stateMeanwhile = f.state();
+            stateMeanwhile = m_f->state();
         };
-        f.notify(0, "bert");
-        QCOMPARE(f.host.commands(), QList<int>({MSG_GET_FRIEND_INFO, MSG_IS_EXIST_FRIEND, MSG_RECEVIE_VOIP_CALL}));
+        m_f->notify(0, "bert");
+        QCOMPARE(m_f->host.commands(), QList<int>({MSG_GET_FRIEND_INFO, MSG_IS_EXIST_FRIEND, MSG_RECEVIE_VOIP_CALL}));
         QCOMPARE(stateMeanwhile, QString("incoming bert, ring"));
-        QCOMPARE(f.state(), QString("incoming bert, receive, ring"));
+        QCOMPARE(m_f->state(), QString("incoming bert, receive, ring"));
     }
 
     void acceptShowsTheWindowAndKeepsTheTimer()
     {
-        EngineFixture f;
-        f.notify(0, "bert");
-        f.takeJournal();
-        f.manager->responseVoipRequest(true);
-        QCOMPARE(f.takeJournal(), QStringList{"AcceptCall"});
-        QCOMPARE(f.state(), QString("incoming bert, receive"));
-        QVERIFY(f.manager->m_pVoipWidget->isVisible());
-        QCOMPARE(f.manager->m_pVoipWidget->windowTitle(), QStringLiteral("语音通话"));
-        QCOMPARE(f.manager->m_pVoipWidget->findChild<QLabel *>("lblStatus")->text(), QStringLiteral("正在连接..."));
-        QCOMPARE(f.manager->m_pVoipWidget->findChild<QStackedWidget *>("controlPane")->currentIndex(), 0);
+        m_f->notify(0, "bert");
+        m_f->takeJournal();
+        m_f->manager->responseVoipRequest(true);
+        QCOMPARE(m_f->takeJournal(), QStringList{"AcceptCall"});
+        QCOMPARE(m_f->state(), QString("incoming bert, receive"));
+        QVERIFY(m_f->manager->m_pVoipWidget->isVisible());
+        QCOMPARE(m_f->manager->m_pVoipWidget->windowTitle(), QStringLiteral("语音通话"));
+        QCOMPARE(m_f->manager->m_pVoipWidget->findChild<QLabel *>("lblStatus")->text(), QStringLiteral("正在连接..."));
+        QCOMPARE(m_f->manager->m_pVoipWidget->findChild<QStackedWidget *>("controlPane")->currentIndex(), 0);
     }
 
     void acceptWithoutACallShowsTheWindow()
     {
-        EngineFixture f;
-        f.manager->responseVoipRequest(true);
-        QCOMPARE(f.takeJournal(), QStringList{"AcceptCall"});
-        QVERIFY(f.manager->m_pVoipWidget->isVisible());
-        QVERIFY(!f.manager->isExistCall());
+        m_f->manager->responseVoipRequest(true);
+        QCOMPARE(m_f->takeJournal(), QStringList{"AcceptCall"});
+        QVERIFY(m_f->manager->m_pVoipWidget->isVisible());
+        QVERIFY(!m_f->manager->isExistCall());
     }
 
     void videoCallIsNeverReportedAsVideo()
     {
-        EngineFixture f;
-        QVERIFY(!f.manager->isVideoCall());
-        f.manager->callSingleUser("anna", true);
-        QVERIFY(f.manager->m_callData.bIsVideo);
-        QVERIFY(!f.manager->isVideoCall());
+        QVERIFY(!m_f->manager->isVideoCall());
+        m_f->manager->callSingleUser("anna", true);
+        QVERIFY(m_f->manager->m_callData.bIsVideo);
+        QVERIFY(!m_f->manager->isVideoCall());
     }
 
     void deviceControlsGoOutWithoutACall()
     {
-        EngineFixture f;
-        f.manager->slot_SetMicEnable(false);
-        f.manager->slot_SetSpeakerEnable(false);
-        f.manager->slot_SetCameraEnable(false);
-        QCOMPARE(f.takeLines(), QStringList({"SetMicEnable false", "SetSpeakerEnble false", "SetCamreraEnable false"}));
+        m_f->manager->slot_SetMicEnable(false);
+        m_f->manager->slot_SetSpeakerEnable(false);
+        m_f->manager->slot_SetCameraEnable(false);
+        QCOMPARE(m_f->takeLines(),
+                 QStringList({"SetMicEnable false", "SetSpeakerEnble false", "SetCamreraEnable false"}));
     }
 
     void nothingGoesOutWhileTheChannelIsDown()
     {
-        EngineFixture f;
         // Only the flag is down, so that what went out in spite of it would arrive.
-        f.manager->m_bSocketConnected = false;
-        f.manager->regeditVoipUser("me", "Nick", "ticket");
-        f.manager->unRegeditCurrentVoipUser();
-        f.manager->slot_SetMicEnable(true);
-        f.manager->slot_SetSpeakerEnable(true);
-        f.manager->slot_SetCameraEnable(true);
-        f.manager->slot_SetMicVolume(50);
-        f.manager->slot_SetSpeakerVolume(50);
-        f.notify(0, "bert");
-        f.manager->rejectVoipCall();
-        f.notify(0, "bert");
-        f.notify(18);
-        f.manager->hangupVoipCall();
-        f.notify(2, R"({"content":{"from":"anna","confId":"c1"}})");
-        f.manager->addConferenceMember({"carl"});
-        f.manager->slot_MuteAll(true);
-        f.manager->rejectVoipCall();
-        QCOMPARE(f.takeLines(), QStringList());
-        QCOMPARE(f.manager->m_strUserId, QString("me"));
+        m_f->manager->m_bSocketConnected = false;
+        m_f->manager->regeditVoipUser("me", "Nick", "ticket");
+        m_f->manager->unRegeditCurrentVoipUser();
+        m_f->manager->slot_SetMicEnable(true);
+        m_f->manager->slot_SetSpeakerEnable(true);
+        m_f->manager->slot_SetCameraEnable(true);
+        m_f->manager->slot_SetMicVolume(50);
+        m_f->manager->slot_SetSpeakerVolume(50);
+        m_f->notify(0, "bert");
+        m_f->manager->rejectVoipCall();
+        m_f->notify(0, "bert");
+        m_f->notify(18);
+        m_f->manager->hangupVoipCall();
+        m_f->notify(2, R"({"content":{"from":"anna","confId":"c1"}})");
+        m_f->manager->addConferenceMember({"carl"});
+        m_f->manager->slot_MuteAll(true);
+        m_f->manager->rejectVoipCall();
+        QCOMPARE(m_f->takeLines(), QStringList());
+        QCOMPARE(m_f->manager->m_strUserId, QString("me"));
         // Accepting alone does not look at the channel.
-        f.manager->acceptVoipCall();
-        QCOMPARE(f.takeLines(), QStringList{"AcceptCall"});
+        m_f->manager->acceptVoipCall();
+        QCOMPARE(m_f->takeLines(), QStringList{"AcceptCall"});
     }
 
 private:

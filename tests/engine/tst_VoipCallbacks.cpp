@@ -1,34 +1,32 @@
 // The entry points with the shape of a call library's callbacks.
 
 #include "engine/VoipCallbacks.h"
-#include "fakes/EngineFixture.h"
+#include "fakes/EngineTest.h"
 #include "fakes/QtMessages.h"
 
 #include <QTest>
 
-class tst_VoipCallbacks : public QObject
+class tst_VoipCallbacks : public EngineTest<EngineFixture>
 {
     Q_OBJECT
 
 private slots:
     void callbackActsAsANotification()
     {
-        EngineFixture f;
         const QtMessages messages;
         voipCallback(0, "bert");
         QCOMPARE(messages.debugLines, QStringList{"void sdkResultCallback(, iCode: 0result: bert"});
-        QCOMPARE(f.state(), QString("incoming bert, receive, ring"));
+        QCOMPARE(m_f->state(), QString("incoming bert, receive, ring"));
     }
 
     void logCallbackDoesNothing()
     {
-        EngineFixture f;
-        const QString before = f.callText();
+        const QString before = m_f->callText();
         const QtMessages messages;
         voipLogCallback("u", "v");
         QCOMPARE(messages.debugLines, QStringList{"void sdkCloudTrackCallback(, url:  uvalue: v"});
-        QCOMPARE(f.callText(), before);
-        QCOMPARE(f.takeJournal(), QStringList());
+        QCOMPARE(m_f->callText(), before);
+        QCOMPARE(m_f->takeJournal(), QStringList());
     }
 
     void callbacksMakeTheManager_data()
@@ -42,8 +40,7 @@ private slots:
     void callbacksMakeTheManager()
     {
         QFETCH(bool, log);
-        EngineFixture f;
-        f.manager.reset();
+        m_f->manager.reset();
         QVERIFY(!VoipManageProbe::exists());
         const QtMessages messages;
         if (log) {

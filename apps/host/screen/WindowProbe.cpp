@@ -46,6 +46,11 @@ QWidget *shownPart(const QWidget *window, const char *strName)
     return part != nullptr && part->isVisible() ? part : nullptr;
 }
 
+QSize leastSize(const QWidget &window)
+{
+    return window.minimumSize().expandedTo(window.minimumSizeHint());
+}
+
 /// A button's text as it is seen: "&" marks the letter behind it, "&&" is one that is shown.
 QString withoutMarks(const QString &strText)
 {
@@ -221,7 +226,7 @@ bool WindowProbe::savePicture(QWidget *window, const QString &strFile)
         return false;
     }
     const QRect frame = window->frameGeometry();
-    const QSize least = window->minimumSize().expandedTo(window->minimumSizeHint());
+    const QSize least = leastSize(*window);
     if (frame.width() < least.width() || frame.height() < least.height()) {
         window->resize(window->size().expandedTo(least));
         return false;
@@ -229,6 +234,20 @@ bool WindowProbe::savePicture(QWidget *window, const QString &strFile)
     return QGuiApplication::primaryScreen()
         ->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height())
         .save(strFile, "PNG");
+}
+
+QString WindowProbe::sizeWords(const QWidget *window)
+{
+    if (window == nullptr || !window->isVisible()) {
+        return QStringLiteral("not shown");
+    }
+    const QSize size = window->frameGeometry().size();
+    const QSize least = leastSize(*window);
+    return QStringLiteral("%1x%2 with its frame, at least %3x%4 wanted")
+        .arg(size.width())
+        .arg(size.height())
+        .arg(least.width())
+        .arg(least.height());
 }
 
 bool WindowProbe::saveScreen(const QString &strFile)

@@ -76,6 +76,9 @@ QString callWindowWords();
 /// to take that again, as a window manager that is late may have made it so.
 bool savePicture(QWidget *window, const QString &strFile);
 
+/// What savePicture() looks at, in words: the window's size and the least that it should have.
+QString sizeWords(const QWidget *window);
+
 /// Saves the whole screen as a PNG.
 bool saveScreen(const QString &strFile);
 

@@ -146,7 +146,8 @@ void Tour::settle()
         }
         if (!takePicture()) {
             if (m_clock.hasExpired(step().limitMs)) {
-                TourWatch::say(QStringLiteral("   MISS picture %1.png").arg(step().picture));
+                const QString words = step().pictureOf ? WindowProbe::sizeWords(step().pictureOf()) : QString();
+                TourWatch::say(QStringLiteral("   MISS picture %1.png %2").arg(step().picture, words));
                 end(false);
             }
             return;
