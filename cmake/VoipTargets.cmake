@@ -153,6 +153,8 @@ function(voip_tests program)
   list(TRANSFORM ARG_CLASSES APPEND .cpp OUTPUT_VARIABLE sources)
   target_sources(${target} PRIVATE ${sources})
   voip_own_code(${target})
+  # What a test does itself runs once: it is compiled a quarter faster so.
+  target_compile_options(${target} PRIVATE $<$<CONFIG:RelWithDebInfo>:-O1>)
   voip_moc(${target})
   target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${target} PRIVATE ${ARG_LINKS} Voip::testprogram Qt5::Test)
