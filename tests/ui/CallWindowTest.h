@@ -13,6 +13,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QTest>
 
 #include <functional>
@@ -31,6 +32,8 @@ protected:
         return m_pWindow->findChild<Widget *>(QLatin1String(name));
     }
     QString text(const char *name) const { return part<QLabel>(name)->text(); }
+    /// The page that a stack shows.
+    int page(const char *name) const { return part<QStackedWidget>(name)->currentIndex(); }
     QAbstractItemModel *rows() const { return part<CConferenceListView>("listView")->model(); }
     int status(int iRow) const { return rows()->index(iRow, 0).data(ROLE_CALL_STATUS).toInt(); }
     void showWindow();

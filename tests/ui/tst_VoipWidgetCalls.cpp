@@ -1,10 +1,7 @@
 // How the call window is set up for each kind of call, and what it shows while the call runs.
 
-#include "ContactFixture.h"
-#include "ShownCall.h"
+#include "CallWindowTest.h"
 #include "fakes/Patience.h"
-#include "model/MemberRoles.h"
-#include "ui/VoipWidget.h"
 
 #include <QDateTime>
 #include <QTest>
@@ -13,7 +10,6 @@
 #include <ctime>
 
 namespace {
-
 /// Moves the time of day by entering other time zones; the old one comes back at its end.
 class DayTime
 {
@@ -35,7 +31,7 @@ private:
 
 } // namespace
 
-class tst_VoipWidgetCalls : public QObject
+class tst_VoipWidgetCalls : public CallWindowTest
 {
     Q_OBJECT
 
@@ -52,60 +48,50 @@ private slots:
     {
         QFETCH(bool, myCall);
         QFETCH(QString, status);
-        ContactFixture contacts;
-        contacts.addContact(QStringLiteral("ann"),
-                            ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
-        CVoipWidget window;
-        const ShownCall shown(window);
+        m_pContacts->addContact(QStringLiteral("ann"),
+                                ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
 
-        window.setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, CVoipWidget::Voice, myCall, false);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window, cPatienceMs));
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, CVoipWidget::Voice, myCall, false);
+        showWindow();
 
-        QCOMPARE(window.windowTitle(), QStringLiteral("语音通话"));
-        QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("语音通话"));
-        QCOMPARE(shown.text("lblUserName"), QStringLiteral("Ann(Annie)"));
-        QCOMPARE(shown.text("lblStatus"), status);
-        QCOMPARE(shown.page("displayPane"), 0);
-        QCOMPARE(shown.page("controlPane"), 0);
-        QVERIFY(shown.label("lblUserName")->isVisible());
-        QVERIFY(shown.part("btnCancelCall")->isVisible());
-        QVERIFY(!shown.part("HangUp")->isVisible());
-        QVERIFY(shown.part("btnMuteAll")->isHidden());
-        QVERIFY(shown.label("currentPlayTimeLabel")->isHidden());
+        QCOMPARE(m_pWindow->windowTitle(), QStringLiteral("语音通话"));
+        QCOMPARE(text("lblVoipTipMsg"), QStringLiteral("语音通话"));
+        QCOMPARE(text("lblUserName"), QStringLiteral("Ann(Annie)"));
+        QCOMPARE(text("lblStatus"), status);
+        QCOMPARE(page("displayPane"), 0);
+        QCOMPARE(page("controlPane"), 0);
+        QVERIFY(part<QLabel>("lblUserName")->isVisible());
+        QVERIFY(part<QWidget>("btnCancelCall")->isVisible());
+        QVERIFY(!part<QWidget>("HangUp")->isVisible());
+        QVERIFY(part<QWidget>("btnMuteAll")->isHidden());
+        QVERIFY(part<QLabel>("currentPlayTimeLabel")->isHidden());
     }
 
     void videoCallShowsNameAndUidInTheTip()
     {
-        ContactFixture contacts;
-        contacts.addContact(QStringLiteral("ann"),
-                            ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
-        CVoipWidget window;
-        const ShownCall shown(window);
+        m_pContacts->addContact(QStringLiteral("ann"),
+                                ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
 
-        window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Video, true, false);
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Video, true, false);
 
-        QCOMPARE(window.windowTitle(), QStringLiteral("视频通话"));
-        QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("与Ann(Annie)(ann)通话中"));
-        QCOMPARE(shown.page("displayPane"), 1);
-        QVERIFY(shown.part("btnMuteAll")->isHidden());
+        QCOMPARE(m_pWindow->windowTitle(), QStringLiteral("视频通话"));
+        QCOMPARE(text("lblVoipTipMsg"), QStringLiteral("与Ann(Annie)(ann)通话中"));
+        QCOMPARE(page("displayPane"), 1);
+        QVERIFY(part<QWidget>("btnMuteAll")->isHidden());
     }
 
     void conferenceLeavesThePartsOfASingleCall()
     {
-        ContactFixture contacts;
-        contacts.addContact(QStringLiteral("ann"),
-                            ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
-        CVoipWidget window;
-        const ShownCall shown(window);
-        window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
-        const qint64 iHead = shown.label("lblPhotoIcon")->pixmap(Qt::ReturnByValue).cacheKey();
+        m_pContacts->addContact(QStringLiteral("ann"),
+                                ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+        const qint64 iHead = part<QLabel>("lblPhotoIcon")->pixmap(Qt::ReturnByValue).cacheKey();
 
-        window.setVoipCallInfo({QStringLiteral("bob")}, CVoipWidget::Conference, false, false);
+        m_pWindow->setVoipCallInfo({QStringLiteral("bob")}, CVoipWidget::Conference, false, false);
 
-        QCOMPARE(shown.text("lblStatus"), QStringLiteral("正在呼叫..."));
-        QCOMPARE(shown.text("lblUserName"), QStringLiteral("Ann(Annie)"));
-        QCOMPARE(shown.label("lblPhotoIcon")->pixmap(Qt::ReturnByValue).cacheKey(), iHead);
+        QCOMPARE(text("lblStatus"), QStringLiteral("正在呼叫..."));
+        QCOMPARE(text("lblUserName"), QStringLiteral("Ann(Annie)"));
+        QCOMPARE(part<QLabel>("lblPhotoIcon")->pixmap(Qt::ReturnByValue).cacheKey(), iHead);
     }
 
     void conferenceShowsMembersAndCount_data()
@@ -118,21 +104,19 @@ private slots:
     void conferenceShowsMembersAndCount()
     {
         QFETCH(bool, myCall);
-        ContactFixture contacts;
-        CVoipWidget window;
-        const ShownCall shown(window);
 
-        window.setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, CVoipWidget::Conference, myCall, false);
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, CVoipWidget::Conference, myCall,
+                                   false);
 
-        QCOMPARE(window.windowTitle(), QStringLiteral("语音会议"));
-        QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("语音会议通话中"));
-        QCOMPARE(shown.text("lblListCount"), QStringLiteral("参与人员(2)"));
-        QCOMPARE(shown.page("displayPane"), 2);
-        QCOMPARE(shown.part("btnMuteAll")->isHidden(), !myCall);
-        QCOMPARE(shown.part("btnAddMember")->isHidden(), !myCall);
-        QCOMPARE(shown.rows()->rowCount(), 2);
-        QCOMPARE(shown.rows()->index(1, 0).data(ROLE_USER_ID).toString(), QStringLiteral("bob"));
-        QCOMPARE(shown.rows()->index(0, 0).data(ROLE_CALL_BY_ME).toBool(), myCall);
+        QCOMPARE(m_pWindow->windowTitle(), QStringLiteral("语音会议"));
+        QCOMPARE(text("lblVoipTipMsg"), QStringLiteral("语音会议通话中"));
+        QCOMPARE(text("lblListCount"), QStringLiteral("参与人员(2)"));
+        QCOMPARE(page("displayPane"), 2);
+        QCOMPARE(part<QWidget>("btnMuteAll")->isHidden(), !myCall);
+        QCOMPARE(part<QWidget>("btnAddMember")->isHidden(), !myCall);
+        QCOMPARE(rows()->rowCount(), 2);
+        QCOMPARE(rows()->index(1, 0).data(ROLE_USER_ID).toString(), QStringLiteral("bob"));
+        QCOMPARE(rows()->index(0, 0).data(ROLE_CALL_BY_ME).toBool(), myCall);
     }
 
     void emptyListChangesNothingForSingleCalls_data()
@@ -145,150 +129,123 @@ private slots:
     void emptyListChangesNothingForSingleCalls()
     {
         QFETCH(int, type);
-        ContactFixture contacts;
-        CVoipWidget window;
-        const ShownCall shown(window);
-        window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Conference, true, true);
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Conference, true, true);
 
-        window.setVoipCallInfo({}, CVoipWidget::VoipType(type), false, false);
+        m_pWindow->setVoipCallInfo({}, CVoipWidget::VoipType(type), false, false);
 
-        QCOMPARE(window.windowTitle(), QStringLiteral("语音会议"));
-        QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("语音会议通话中"));
-        QCOMPARE(shown.page("displayPane"), 2);
-        QCOMPARE(shown.page("controlPane"), 1);
-        QVERIFY(!shown.part("btnMuteAll")->isHidden());
+        QCOMPARE(m_pWindow->windowTitle(), QStringLiteral("语音会议"));
+        QCOMPARE(text("lblVoipTipMsg"), QStringLiteral("语音会议通话中"));
+        QCOMPARE(page("displayPane"), 2);
+        QCOMPARE(page("controlPane"), 1);
+        QVERIFY(!part<QWidget>("btnMuteAll")->isHidden());
         // The type is still that of a conference: a card goes to the list.
-        window.updateUserInfo(ContactFixture::jid(QStringLiteral("ann")),
-                              ContactFixture::card(QStringLiteral("A"), {}));
-        QCOMPARE(shown.rows()->index(0, 0).data(ROLE_DISPLAY_NAME).toString(), QStringLiteral("A"));
+        m_pWindow->updateUserInfo(ContactFixture::jid(QStringLiteral("ann")),
+                                  ContactFixture::card(QStringLiteral("A"), {}));
+        QCOMPARE(rows()->index(0, 0).data(ROLE_DISPLAY_NAME).toString(), QStringLiteral("A"));
     }
 
     void emptyConferenceShowsCountZero()
     {
-        ContactFixture contacts;
-        CVoipWidget window;
-        const ShownCall shown(window);
+        m_pWindow->setVoipCallInfo({}, CVoipWidget::Conference, false, false);
 
-        window.setVoipCallInfo({}, CVoipWidget::Conference, false, false);
-
-        QCOMPARE(window.windowTitle(), QStringLiteral("语音会议"));
-        QCOMPARE(shown.text("lblListCount"), QStringLiteral("参与人员(0)"));
-        QCOMPARE(shown.rows()->rowCount(), 0);
+        QCOMPARE(m_pWindow->windowTitle(), QStringLiteral("语音会议"));
+        QCOMPARE(text("lblListCount"), QStringLiteral("参与人员(0)"));
+        QCOMPARE(rows()->rowCount(), 0);
     }
 
     void otherTypeChangesNeitherPageNorTitle()
     {
-        ContactFixture contacts;
-        contacts.addContact(QStringLiteral("ann"),
-                            ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
-        CVoipWidget window;
-        const ShownCall shown(window);
-        window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+        m_pContacts->addContact(QStringLiteral("ann"),
+                                ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
 
-        window.setVoipCallInfo({QStringLiteral("bob")}, CVoipWidget::VoipType(7), false, true);
+        m_pWindow->setVoipCallInfo({QStringLiteral("bob")}, CVoipWidget::VoipType(7), false, true);
 
-        QCOMPARE(window.windowTitle(), QStringLiteral("语音通话"));
-        QCOMPARE(shown.page("displayPane"), 0);
-        QCOMPARE(shown.page("controlPane"), 1);
-        QCOMPARE(shown.text("lblStatus"), QStringLiteral("正在连接..."));
-        QCOMPARE(shown.text("lblVoipTipMsg"), QStringLiteral("与Ann(Annie)(ann)通话中"));
+        QCOMPARE(m_pWindow->windowTitle(), QStringLiteral("语音通话"));
+        QCOMPARE(page("displayPane"), 0);
+        QCOMPARE(page("controlPane"), 1);
+        QCOMPARE(text("lblStatus"), QStringLiteral("正在连接..."));
+        QCOMPARE(text("lblVoipTipMsg"), QStringLiteral("与Ann(Annie)(ann)通话中"));
     }
 
     void connectedAtOnceShowsTheCallingControls()
     {
-        ContactFixture contacts;
-        CVoipWidget window;
-        window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, true);
-        QCOMPARE(ShownCall(window).page("controlPane"), 1);
-        window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
-        QCOMPARE(ShownCall(window).page("controlPane"), 0);
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, true);
+        QCOMPARE(page("controlPane"), 1);
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+        QCOMPARE(page("controlPane"), 0);
     }
 
     void connectingStartsTheClock()
     {
-        ContactFixture contacts;
-        CVoipWidget window;
-        const ShownCall shown(window);
-        const auto *clock = window.findChild<QTimer *>(QStringLiteral("m_callTimeTimer"));
-        window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+        const auto *clock = m_pWindow->findChild<QTimer *>(QStringLiteral("m_callTimeTimer"));
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
         QVERIFY(!clock->isActive());
 
-        window.setVoipCallStatus(true);
+        m_pWindow->setVoipCallStatus(true);
 
         QVERIFY(clock->isActive());
         QVERIFY(!clock->isSingleShot());
         QCOMPARE(clock->interval(), 1000);
-        QCOMPARE(shown.page("controlPane"), 1);
-        QCOMPARE(shown.text("lblStatus"), QStringLiteral("已接通"));
-        QVERIFY(!shown.label("currentPlayTimeLabel")->isHidden());
+        QCOMPARE(page("controlPane"), 1);
+        QCOMPARE(text("lblStatus"), QStringLiteral("已接通"));
+        QVERIFY(!part<QLabel>("currentPlayTimeLabel")->isHidden());
     }
 
     void droppedStatusGoesBackToRequestControlsAndTheClockRunsOn()
     {
-        ContactFixture contacts;
-        CVoipWidget window;
-        const ShownCall shown(window);
-        const auto *clock = window.findChild<QTimer *>(QStringLiteral("m_callTimeTimer"));
-        window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, false, false);
-        window.setVoipCallStatus(true);
+        const auto *clock = m_pWindow->findChild<QTimer *>(QStringLiteral("m_callTimeTimer"));
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, false, false);
+        m_pWindow->setVoipCallStatus(true);
 
-        window.setVoipCallStatus(false);
+        m_pWindow->setVoipCallStatus(false);
 
-        QCOMPARE(shown.page("controlPane"), 0);
-        QCOMPARE(shown.text("lblStatus"), QStringLiteral("正在呼叫..."));
+        QCOMPARE(page("controlPane"), 0);
+        QCOMPARE(text("lblStatus"), QStringLiteral("正在呼叫..."));
         QVERIFY(clock->isActive());
-        QVERIFY(!shown.label("currentPlayTimeLabel")->isHidden());
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window, cPatienceMs));
-        QVERIFY(!shown.label("currentPlayTimeLabel")->isVisible());
-        window.close();
+        QVERIFY(!part<QLabel>("currentPlayTimeLabel")->isHidden());
+        showWindow();
+        QVERIFY(!part<QLabel>("currentPlayTimeLabel")->isVisible());
+        m_pWindow->close();
         QVERIFY(clock->isActive());
     }
 
     void clockShowsTheSecondsSinceConnecting()
     {
-        ContactFixture contacts;
-        CVoipWidget window;
-        const ShownCall shown(window);
-        window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
-        window.setVoipCallStatus(true);
-        QCOMPARE(shown.text("currentPlayTimeLabel"), QString());
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+        m_pWindow->setVoipCallStatus(true);
+        QCOMPARE(text("currentPlayTimeLabel"), QString());
 
-        auto *clock = window.findChild<QTimer *>(QStringLiteral("m_callTimeTimer"));
+        auto *clock = m_pWindow->findChild<QTimer *>(QStringLiteral("m_callTimeTimer"));
         clock->setInterval(0);
 
-        QTRY_VERIFY_WITH_TIMEOUT(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")), cPatienceMs);
     }
 
     void clockWritesAgainAfterTheCallWasCleared()
     {
-        ContactFixture contacts;
-        CVoipWidget window;
-        const ShownCall shown(window);
-        window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
-        window.setVoipCallStatus(true);
-        window.close();
-        QCOMPARE(shown.text("currentPlayTimeLabel"), QString());
-        QVERIFY(!shown.label("currentPlayTimeLabel")->isHidden());
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+        m_pWindow->setVoipCallStatus(true);
+        m_pWindow->close();
+        QCOMPARE(text("currentPlayTimeLabel"), QString());
+        QVERIFY(!part<QLabel>("currentPlayTimeLabel")->isHidden());
 
-        window.findChild<QTimer *>(QStringLiteral("m_callTimeTimer"))->setInterval(0);
+        m_pWindow->findChild<QTimer *>(QStringLiteral("m_callTimeTimer"))->setInterval(0);
 
-        QTRY_VERIFY_WITH_TIMEOUT(shown.text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(text("currentPlayTimeLabel").startsWith(QStringLiteral("00:00:")), cPatienceMs);
     }
 
     void clockRunsNegativeAcrossMidnight()
     {
         DayTime time;
         time.makeIt(14);
-        ContactFixture contacts;
-        CVoipWidget window;
-        window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
-        window.setVoipCallStatus(true);
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+        m_pWindow->setVoipCallStatus(true);
 
         time.makeIt(12);
-        QVERIFY(QMetaObject::invokeMethod(&window, "slot_RefreshTime"));
+        QVERIFY(QMetaObject::invokeMethod(m_pWindow.get(), "slot_RefreshTime"));
 
-        const QString strClock = ShownCall(window).text("currentPlayTimeLabel");
+        const QString strClock = text("currentPlayTimeLabel");
         // A second may have begun since the call connected.
         QVERIFY2(strClock == QLatin1String("0-2:00:00") || strClock.startsWith(QLatin1String("0-1:0-59:0-")),
                  qPrintable(strClock));
@@ -298,32 +255,28 @@ private slots:
     {
         DayTime time;
         time.makeIt(12);
-        ContactFixture contacts;
-        CVoipWidget window;
-        window.setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
-        window.setVoipCallStatus(true);
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann")}, CVoipWidget::Voice, true, false);
+        m_pWindow->setVoipCallStatus(true);
         time.makeIt(14);
-        window.setVoipCallStatus(true);
+        m_pWindow->setVoipCallStatus(true);
 
-        QVERIFY(QMetaObject::invokeMethod(&window, "slot_RefreshTime"));
+        QVERIFY(QMetaObject::invokeMethod(m_pWindow.get(), "slot_RefreshTime"));
 
-        const QString strClock = ShownCall(window).text("currentPlayTimeLabel");
+        const QString strClock = text("currentPlayTimeLabel");
         QVERIFY2(strClock.startsWith(QLatin1String("00:00:")), qPrintable(strClock));
     }
 
     void newCallAfterACloseStartsWithAnEmptyList()
     {
-        ContactFixture contacts;
-        CVoipWidget window;
-        const ShownCall shown(window);
-        window.setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, CVoipWidget::Conference, true, false);
-        window.close();
-        QCOMPARE(shown.rows()->rowCount(), 0);
+        m_pWindow->setVoipCallInfo({QStringLiteral("ann"), QStringLiteral("bob")}, CVoipWidget::Conference, true,
+                                   false);
+        m_pWindow->close();
+        QCOMPARE(rows()->rowCount(), 0);
 
-        window.setVoipCallInfo({QStringLiteral("cat")}, CVoipWidget::Conference, false, false);
+        m_pWindow->setVoipCallInfo({QStringLiteral("cat")}, CVoipWidget::Conference, false, false);
 
-        QCOMPARE(shown.rows()->rowCount(), 1);
-        QCOMPARE(shown.text("lblListCount"), QStringLiteral("参与人员(1)"));
+        QCOMPARE(rows()->rowCount(), 1);
+        QCOMPARE(text("lblListCount"), QStringLiteral("参与人员(1)"));
     }
 };
 
