@@ -225,12 +225,13 @@ bool WindowProbe::savePicture(QWidget *window, const QString &strFile)
     if (window == nullptr || !window->isVisible()) {
         return false;
     }
-    const QRect frame = window->frameGeometry();
     const QSize least = leastSize(*window);
-    if (frame.width() < least.width() || frame.height() < least.height()) {
+    if (window->width() < least.width() || window->height() < least.height()) {
         window->resize(window->size().expandedTo(least));
         return false;
     }
+    // Asked while the window manager puts its frame around the window, Qt takes one pixel for the whole frame for good.
+    const QRect frame = window->frameGeometry().united(window->geometry());
     return QGuiApplication::primaryScreen()
         ->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height())
         .save(strFile, "PNG");
@@ -241,11 +242,10 @@ QString WindowProbe::sizeWords(const QWidget *window)
     if (window == nullptr || !window->isVisible()) {
         return QStringLiteral("not shown");
     }
-    const QSize size = window->frameGeometry().size();
     const QSize least = leastSize(*window);
-    return QStringLiteral("%1x%2 with its frame, at least %3x%4 wanted")
-        .arg(size.width())
-        .arg(size.height())
+    return QStringLiteral("%1x%2, at least %3x%4 wanted")
+        .arg(window->width())
+        .arg(window->height())
         .arg(least.width())
         .arg(least.height());
 }

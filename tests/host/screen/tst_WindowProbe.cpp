@@ -12,6 +12,10 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <cstdlib>
+#include <memory>
+#include <xcb/xcb.h>
+
 namespace {
 
 constexpr int cIdRole = Qt::UserRole + 90;
@@ -132,7 +136,35 @@ private slots:
         QVERIFY(!WindowProbe::savePicture(nullptr, file));
     }
 
+    // Qt may ask for the frame before the window manager has given it its size.
+    void windowOfAFrameThatIsSmallerThanItselfIsInThePicture()
+    {
+        const QString file = QDir::current().filePath(QStringLiteral("frame.png"));
+        QVERIFY(QTest::qWaitForWindowExposed(window(), cPatienceMs));
+        std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> display(xcb_connect(nullptr, nullptr),
+                                                                             xcb_disconnect);
+        const xcb_atom_t extents = atom(display.get(), "_NET_FRAME_EXTENTS");
+        const auto pixel = [](int iSide) { return 1 - iSide; };
+        const qint32 onePixel[] = {0, pixel(window()->width() + 1), 0, pixel(window()->height())};
+        xcb_change_property(display.get(), XCB_PROP_MODE_REPLACE, xcb_window_t(window()->winId()), extents,
+                            XCB_ATOM_CARDINAL, 32, 4, onePixel);
+        xcb_flush(display.get());
+        window()->resize(window()->width() + 1, window()->height());
+        QTRY_COMPARE_WITH_TIMEOUT(window()->frameGeometry().size(), QSize(1, 1), cPatienceMs);
+
+        QVERIFY(WindowProbe::savePicture(window(), file));
+        QCOMPARE(QImage(file).size(), window()->size());
+    }
+
 private:
+    static xcb_atom_t atom(xcb_connection_t *display, const QByteArray &name)
+    {
+        const xcb_intern_atom_cookie_t asked =
+            xcb_intern_atom(display, 0, static_cast<uint16_t>(name.size()), name.constData());
+        const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
+            xcb_intern_atom_reply(display, asked, nullptr), std::free);
+        return reply->atom;
+    }
     QWidget *window() const { return m_window.get(); }
 
     std::unique_ptr<QWidget> m_window;
