@@ -259,6 +259,8 @@ void CLineEditEx::addDeleteBtn()
     m_pDeleteBtn->setFixedSize(ADAPT_DPI_SIZE(cDeleteButtonSize));
     m_pDeleteBtn->setCursor(Qt::ArrowCursor);
     m_pDeleteBtn->setIconFont(IconGlyph::text(IconGlyph::Close), CIconButtonEx::SmallGlyph, CIconButtonEx::HoverStyle);
+    m_pDeleteBtn->setCheckable(false);
+    m_pDeleteBtn->setAccessibleName(QObject::tr("clear"));
     m_pDeleteLine = new QLabel(ui->lineEdit);
     m_pDeleteLine->setFixedSize(ADAPT_DPI_SIZE(cDeleteLineSize));
     m_pDeleteLine->setStyleSheet(m_strLineStyle.arg(currentSkin().m_strLineColor));
