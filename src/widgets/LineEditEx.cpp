@@ -70,7 +70,8 @@ void CLineEditEx::setStyles()
         m_strEditStyle.arg(skin.m_strEditBackgroundColor, skin.m_strEditBorderColor, strCOLOR_MAININFO_LIGHT_BLACK) +
         m_strEditHoverStyle.arg(skin.m_strEditHoverBorderColor));
     // The padding of the menu's entries stays unfilled on purpose: this sheet is the one that the field's standard
-    // context menu has always had. Set again it would only repeat the warning with which Qt refuses it.
+    // context menu has always had. Set again it would only repeat the warning with which Qt refuses it, and which
+    // QtWarningFilter keeps out of the programs' output.
     const QString strMenu = strMenuStyle + strMenuItemStyle + strMenuItemSelectStyle + strMenuItemDisableStyle;
     if (styleSheet() != strMenu) {
         setStyleSheet(strMenu);
