@@ -11,6 +11,7 @@ set(VOIP_HOST_HEADERS
     common/CommonFun.h
     common/CustomLogger.h
     common/Palette.h
+    common/log/QtWarningFilter.h
     model/AvatarFiles.h
     model/CommonData.h
     model/LoginData.h

@@ -5,6 +5,7 @@
 #include "client/HostCatalogue.h"
 #include "client/HostLanguage.h"
 #include "client/WindowFont.h"
+#include "common/log/QtWarningFilter.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -78,6 +79,7 @@ int main(int argc, char **argv)
     // The same on every desktop, so that pictures can be compared.
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication app(argc, argv);
+    const QtWarningFilter filter;
     const Options options = readOptions(app);
     const GalleryPage *page = GalleryPages::find(options.page);
     if (page == nullptr && !options.page.isEmpty()) {

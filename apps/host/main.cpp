@@ -4,6 +4,7 @@
 #include "client/HostLanguage.h"
 #include "client/HostSession.h"
 #include "client/WindowFont.h"
+#include "common/log/QtWarningFilter.h"
 #include "happenings/DebugChannel.h"
 #include "happenings/TraceFolder.h"
 #include "panes/MainWindow.h"
@@ -99,6 +100,7 @@ int main(int argc, char **argv)
     ::umask(cOwnerOnly);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication app(argc, argv);
+    const QtWarningFilter filter;
     const QString folder = readTourFolder(app);
     QString traceFile;
     std::unique_ptr<DebugChannel> debug;

@@ -1,5 +1,7 @@
 #include "model/MemberRoles.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace {
@@ -24,6 +26,12 @@ const ConferenceStatusRow *statusRow(int iStatus)
     return pRow == cConferenceStatusTable.end() ? nullptr : pRow;
 }
 
+const char *statusText(int iStatus)
+{
+    const ConferenceStatusRow *const pRow = statusRow(iStatus);
+    return pRow != nullptr ? pRow->pText : QT_TRANSLATE_NOOP("ConferenceRow", "未接通");
+}
+
 } // namespace
 
 bool areRolesShown(const QVector<int> &roles)
@@ -33,8 +41,12 @@ bool areRolesShown(const QVector<int> &roles)
 
 QString conferenceStatusText(int iStatus)
 {
-    const ConferenceStatusRow *const pRow = statusRow(iStatus);
-    return pRow != nullptr ? QString::fromUtf8(pRow->pText) : QStringLiteral("未接通");
+    return QString::fromUtf8(statusText(iStatus));
+}
+
+QString conferenceStatusWords(int iStatus)
+{
+    return QCoreApplication::translate("ConferenceRow", statusText(iStatus));
 }
 
 QColor conferenceStatusColor(int iStatus)
@@ -46,6 +58,16 @@ QColor conferenceStatusColor(int iStatus)
 bool isInviteOver(const QTime &inviteTime, const QTime &now)
 {
     return inviteTime.msecsTo(now) >= cInviteLimit;
+}
+
+bool canRemove(int iStatus)
+{
+    return iStatus != ConferenceCalling;
+}
+
+bool canMute(int iStatus)
+{
+    return iStatus == ConferenceConnected;
 }
 
 bool canReInvite(int iStatus)

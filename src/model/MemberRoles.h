@@ -34,6 +34,9 @@ enum ConferenceStatus : int
 /// The colour of a connected member's status and of the mute button under the cursor.
 constexpr QColor cMute_Button_Hover_Color(0, 185, 31);
 
+/// A status code outside the table, as that of a conference that nobody joined.
+constexpr int cNotReached = -1;
+
 /// One status code, its text in UTF-8, and its text colour: not valid where it is the painter's own.
 struct ConferenceStatusRow
 {
@@ -58,12 +61,21 @@ constexpr int cInviteLimit = 120001;
 /// The text of a status code; any code outside the table gives "未接通".
 QString conferenceStatusText(int iStatus);
 
+/// The same in the user's language, for a screen reader.
+QString conferenceStatusWords(int iStatus);
+
 /// The text colour of a status code; not valid where the painter's own is to stay.
 QColor conferenceStatusColor(int iStatus);
 
 /// Whether an invitation at `inviteTime` is past the limit at `now`. Both are times of the day: an invitation before
 /// midnight does not run out after it.
 bool isInviteOver(const QTime &inviteTime, const QTime &now);
+
+/// Whether the one who placed the conference can take a member of this status out of it.
+bool canRemove(int iStatus);
+
+/// Whether the one who placed the conference can mute a member of this status.
+bool canMute(int iStatus);
 
 /// Whether a member of this status can be called again.
 bool canReInvite(int iStatus);

@@ -38,6 +38,7 @@ void CConfDetailMemberTableView::initTableView()
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setItemDelegate(m_pDelegate);
     setMouseTracking(true);
+    setUpKeys();
     connect(&m_signTimer, SIGNAL(timeout()), this, SLOT(slot_ShowSign()));
 }
 
@@ -50,6 +51,10 @@ void CConfDetailMemberTableView::setMemList(QList<QString> list)
     const QPointer<CConfDetailMemberTableView> self = this;
     for (int i = 0; self && i < list.size(); ++i) {
         placeMember(i / cColumns, i % cColumns, list.at(i));
+    }
+    // With the focus already, which finds no first member in an empty grid.
+    if (self && hasFocus() && !currentIndex().isValid()) {
+        setCurrentIndex(m_pModel->index(0, 0));
     }
 }
 
@@ -67,6 +72,7 @@ std::unique_ptr<QStandardItem> CConfDetailMemberTableView::creatMemberItem(const
     pItem->setData(strUserID, ROLE_USER_ID);
     pItem->setData(member.record.displayName(), ROLE_DISPLAY_NAME);
     pItem->setData(member.strHeadPath, ROLE_HEAD_PATH);
+    pItem->setData(member.record.displayName(), Qt::AccessibleTextRole);
     return pItem;
 }
 

@@ -16,6 +16,7 @@
 #include <memory>
 
 class CConfDetailTableViewDelegate;
+class FocusRing;
 class QStandardItem;
 class QStandardItemModel;
 
@@ -38,6 +39,8 @@ protected:
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QVector<int> &roles = QVector<int>()) override;
     void scrollContentsBy(int dx, int dy) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
 
@@ -48,6 +51,8 @@ private:
     void initTableView();
     static std::unique_ptr<QStandardItem> creatMemberItem(const QString &strUserID);
     void placeMember(int iRow, int iColumn, const QString &strUserID);
+    void setUpKeys();
+    void nameParts();
     void hoverItem(const QModelIndex &index, const QPoint &position);
 
     QStandardItemModel *m_pModel;
@@ -57,4 +62,5 @@ private:
     QTimer m_signTimer;
     QPoint m_signPos;
     QString m_strSignJid;
+    FocusRing *m_pRing = nullptr;
 };

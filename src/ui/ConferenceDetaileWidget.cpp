@@ -4,6 +4,7 @@
 #include "common/pictures/IconGlyphs.h"
 #include "model/UserIds.h"
 #include "ui/ConferenceTexts.h"
+#include "ui/RowWords.h"
 #include "ui/ShownContact.h"
 #include "ui_ConferenceDetaileWidget.h"
 
@@ -44,6 +45,7 @@ void CConferenceDetaileWidget::setConferenceDetail(ConfInfoData confInfo)
     ui->lblCallTime->setText(ConferenceTexts::callLength(confInfo.m_strCallTime));
     const bool bCreatedByMe = confInfo.m_strCreatUserID == UserIds::getLoginUID();
     ui->isCreatorIcon->setText(IconGlyph::text(bCreatedByMe ? IconGlyph::CreatedByMe : IconGlyph::JoinedByMe));
+    nameDirection();
     ui->lblCreateTime->setText(ConferenceTexts::titleLine(confInfo.m_strCreatTime));
     ui->tableView->setMemList(confInfo.m_listMember);
 }
@@ -54,6 +56,20 @@ void CConferenceDetaileWidget::showCreator(const ShownContact &creator)
     const QString strName = creator.record.displayName();
     if (!strName.isEmpty()) {
         ui->CreatName->setText(strName);
+    }
+}
+
+void CConferenceDetaileWidget::nameDirection()
+{
+    ui->isCreatorIcon->setAccessibleName(
+        RowWords::direction(m_confInfoData.m_strCreatUserID == UserIds::getLoginUID()));
+}
+
+void CConferenceDetaileWidget::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        nameDirection();
     }
 }
 

@@ -31,8 +31,12 @@ public:
     /// Empties the page.
     void clearDetail();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void initWidget();
+    void nameDirection();
     void showCreator(const ShownContact &creator);
 
     std::unique_ptr<Ui::CConferenceDetaileWidget> ui;

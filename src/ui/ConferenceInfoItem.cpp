@@ -4,6 +4,7 @@
 #include "model/MemberRoles.h"
 #include "store/DBConfInfo.h"
 #include "ui/ConferenceTexts.h"
+#include "ui/RowWords.h"
 
 #include <QSize>
 #include <QVariant>
@@ -45,6 +46,9 @@ QVariant ConferenceInfoItem::recordData(int iRole) const
         return m_bIsConnect;
     case ROLE_CREATED_BY_ME:
         return m_pCreator->bIsMe;
+    case Qt::AccessibleTextRole:
+        return RowWords::ofConference(m_pCreator->strName, m_bIsConnect, m_strCallTime, m_strCreatTime,
+                                      m_pCreator->bIsMe);
     case Qt::SizeHintRole:
         return ADAPT_DPI_SIZE(cRowSize);
     default:

@@ -19,10 +19,10 @@
 
 namespace {
 
-/// Where a menu of this length begins along one axis: at the cursor, or ending there where the screen has no room.
-int menuStart(int iCursor, int iMenu, int iScreen)
+/// Where a menu of this length begins along one axis: at its place, or ending there where the screen has no room.
+int menuStart(int iPlace, int iMenu, int iScreen)
 {
-    return iCursor + iMenu > iScreen ? iCursor - 1 - (iMenu - 1) : iCursor;
+    return iPlace + iMenu > iScreen ? iPlace - 1 - (iMenu - 1) : iPlace;
 }
 
 } // namespace
@@ -45,6 +45,7 @@ CConferenceInfoListView::CConferenceInfoListView(QWidget *parent)
     setUniformItemSizes(true);
     installEventFilter(this);
     setItemDelegateForColumn(0, m_pDelegate);
+    setUpKeys();
     setModel(m_pModel);
     m_pMenu->addAction(m_pRecallAction);
     m_pMenu->addAction(m_pDeleteAction);
@@ -196,7 +197,7 @@ void CConferenceInfoListView::mouseReleaseEvent(QMouseEvent *event)
         clickRow(index, position);
         event->accept();
     } else if (event->button() == Qt::RightButton) {
-        showMenu(m_pModel->itemFromIndex(index));
+        showMenu(m_pModel->itemFromIndex(index), QCursor::pos());
         event->ignore();
     } else {
         QListView::mouseReleaseEvent(event);
@@ -217,7 +218,7 @@ void CConferenceInfoListView::clickRow(const QModelIndex &index, const QPoint &p
     }
 }
 
-void CConferenceInfoListView::showMenu(const QStandardItem *pItem)
+void CConferenceInfoListView::showMenu(const QStandardItem *pItem, const QPoint &place)
 {
     if (pItem == nullptr) {
         LOG_DEBUG << "selected is null"
@@ -232,10 +233,9 @@ void CConferenceInfoListView::showMenu(const QStandardItem *pItem)
     }
     m_pMenu->addAction(m_pDeleteAction);
     m_pMenu->show();
-    const QPoint cursor = QCursor::pos();
     const QSize screen = ScreenPlace::workArea().size();
-    m_pMenu->move(menuStart(cursor.x(), m_pMenu->width(), screen.width()),
-                  menuStart(cursor.y(), m_pMenu->height(), screen.height()));
+    m_pMenu->move(menuStart(place.x(), m_pMenu->width(), screen.width()),
+                  menuStart(place.y(), m_pMenu->height(), screen.height()));
 }
 
 void CConferenceInfoListView::slot_selectAction(QAction *pAction)

@@ -19,6 +19,7 @@
 
 class CConferenceInfoListViewDelegate;
 class CMenuEx;
+class FocusRing;
 class QAction;
 class QStandardItem;
 class QStandardItemModel;
@@ -54,6 +55,8 @@ protected:
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QVector<int> &roles = QVector<int>()) override;
     void scrollContentsBy(int dx, int dy) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -70,7 +73,10 @@ private:
                                         const std::shared_ptr<const ConferenceCreator> &pCreator);
     void hoverRow(const QModelIndex &index, const QPoint &position);
     void clickRow(const QModelIndex &index, const QPoint &position);
-    void showMenu(const QStandardItem *pItem);
+    void showMenu(const QStandardItem *pItem, const QPoint &place);
+    void setUpKeys();
+    void nameParts();
+    void showKeyMenu(const QModelIndex &index);
 
 protected:
     CConferenceInfoListViewDelegate *m_pDelegate;
@@ -84,4 +90,7 @@ protected:
     QTimer m_signTimer;
     QPoint m_signPos;
     QString m_strSignJid;
+
+private:
+    FocusRing *m_pRing = nullptr;
 };

@@ -9,7 +9,9 @@
 #include "model/MemberRoles.h"
 #include "model/UserIds.h"
 #include "ui/ConferenceListViewDelegate.h"
+#include "ui/MemberListModel.h"
 #include "ui/ShownContact.h"
+#include "widgets/FocusRing.h"
 
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -50,7 +52,7 @@ void showTip(const QString &strTip)
 } // namespace
 
 CConferenceListView::CConferenceListView(QWidget *parent)
-    : QListView(parent), m_pDelegate(new CConferenceListViewDelegate(this)), m_pModel(new QStandardItemModel(this)),
+    : QListView(parent), m_pDelegate(new CConferenceListViewDelegate(this)), m_pModel(new MemberListModel(this)),
       m_statusTimer(this)
 {
     setMouseTracking(true);
@@ -63,6 +65,7 @@ CConferenceListView::CConferenceListView(QWidget *parent)
     installEventFilter(this);
     connect(&m_statusTimer, SIGNAL(timeout()), this, SLOT(slot_UpdateCallStatu()));
     setItemDelegateForColumn(0, m_pDelegate);
+    setUpKeys();
     setModel(m_pModel);
 }
 
@@ -270,10 +273,15 @@ void CConferenceListView::clickItem(QStandardItem *pItem, const QPoint &position
     if (pItem->data(ROLE_REMOVE_RECT).toRect().contains(position)) {
         emit signal_RemoveUser(strUserID);
     } else if (pItem->data(ROLE_MUTE_RECT).toRect().contains(position)) {
-        const bool bMute = !pItem->data(ROLE_MUTED).toBool();
-        pItem->setData(bMute, ROLE_MUTED);
-        emit signal_MuteUser(strUserID, bMute);
+        muteMember(pItem);
     }
+}
+
+void CConferenceListView::muteMember(QStandardItem *pItem)
+{
+    const bool bMute = !pItem->data(ROLE_MUTED).toBool();
+    pItem->setData(bMute, ROLE_MUTED);
+    emit signal_MuteUser(pItem->data(ROLE_USER_ID).toString(), bMute);
 }
 
 void CConferenceListView::mouseDoubleClickEvent(QMouseEvent *event)
@@ -295,12 +303,17 @@ void CConferenceListView::mouseDoubleClickEvent(QMouseEvent *event)
                   << "\n";
         return;
     }
+    reInviteMember(pItem);
+    QAbstractItemView::mouseDoubleClickEvent(event);
+}
+
+void CConferenceListView::reInviteMember(QStandardItem *pItem)
+{
     // The status stays until the manager changes it, so the row keeps its failed look while the new call goes out.
     if (canReInvite(pItem->data(ROLE_CALL_STATUS).toInt())) {
         pItem->setData(LocalClock::now(), ROLE_INVITE_TIME);
         emit signal_ReInviteConfUser(pItem->data(ROLE_USER_ID).toString());
     }
-    QAbstractItemView::mouseDoubleClickEvent(event);
 }
 
 void CConferenceListView::scrollContentsBy(int dx, int dy)

@@ -15,6 +15,7 @@
 #include <QTimer>
 
 class CConferenceListViewDelegate;
+class FocusRing;
 class QStandardItem;
 class QStandardItemModel;
 class VcardInfo;
@@ -75,6 +76,9 @@ protected:
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QVector<int> &roles = QVector<int>()) override;
     void scrollContentsBy(int dx, int dy) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -87,6 +91,18 @@ private slots:
 private:
     void hoverItem(QStandardItem *pItem, const QPoint &position);
     void clickItem(QStandardItem *pItem, const QPoint &position);
+    void reInviteMember(QStandardItem *pItem);
+    void muteMember(QStandardItem *pItem);
+    void setUpKeys();
+    void nameParts();
+    QStandardItem *currentItem() const;
+    QVector<int> keyParts() const;
+    int keyPart() const;
+    QRect keyPlace() const;
+    void moveKeyPart(int iSteps);
+    void pressKeyPart();
+    void removeByKey();
+    void showKeyMenu();
     QStandardItem *creatUserItem(const QString &strUserID);
     void appendUserItem(const QString &strUserID);
 
@@ -98,6 +114,8 @@ private:
     bool m_bIsCallByMe = true;
     QTimer m_statusTimer;
     UidIndex m_userIndex; ///< of m_userList
+    FocusRing *m_pRing = nullptr;
+    int m_iKeyPart = 0; ///< the part of the current row that keys press: the role of a button's place, 0 for the row
     /// The members last marked as connected, as long as no row has come and no status has changed since: the same list
     /// again, as most updates bring it, has nothing to mark.
     QList<QString> m_connectedList;

@@ -87,7 +87,7 @@ void paintButtons(QPainter &painter, LineCache &lines, const RowPlaces &places, 
         index.data(ROLE_REMOVE_HOVER).toBool() ? cRemove_Button_Hover_Color : cDefault_Button_Color;
     RowPainter::drawGlyph(painter, lines, places.remove, IconGlyph::Remove, dpi(cGlyphPixels), removeColor);
     RowPainter::keepRect(index, ROLE_REMOVE_RECT, places.remove);
-    if (iStatus != ConferenceConnected) {
+    if (!canMute(iStatus)) {
         return;
     }
     const QColor muteColor = index.data(ROLE_MUTE_HOVER).toBool() ? cMute_Button_Hover_Color : cDefault_Button_Color;
@@ -113,7 +113,7 @@ void CConferenceListViewDelegate::paint(QPainter *painter, const QStyleOptionVie
     paintHead(*painter, row, index);
     const QRect creator = paintName(*painter, m_lines, row, places.status, index.data(ROLE_DISPLAY_NAME).toString());
     paintStatus(*painter, m_lines, places.status, iStatus);
-    if (bCallByMe && iStatus != ConferenceCalling) {
+    if (bCallByMe && canRemove(iStatus)) {
         paintButtons(*painter, m_lines, places, iStatus, index);
     }
     if (index.data(ROLE_IS_CREATOR).toBool()) {

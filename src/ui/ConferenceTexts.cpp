@@ -14,6 +14,11 @@ qint64 cutToSeconds(double dSeconds)
 
 } // namespace
 
+qint64 ConferenceTexts::wholeSeconds(const QString &strCallTime)
+{
+    return qMax<qint64>(0, cutToSeconds(strCallTime.toDouble()));
+}
+
 QString ConferenceTexts::titleLine(const QString &strCreatTime)
 {
     return QStringLiteral("【语音会议】 ") + strCreatTime;

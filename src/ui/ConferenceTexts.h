@@ -13,4 +13,7 @@ QString titleLine(const QString &strCreatTime);
 /// that is no number counts as 0, one beyond 64 bits as the nearest number of 64 bits. 0 and less give the empty text.
 QString callLength(const QString &strCallTime);
 
+/// The seconds that callLength writes, never less than 0.
+qint64 wholeSeconds(const QString &strCallTime);
+
 } // namespace ConferenceTexts

@@ -62,6 +62,7 @@ void CVoiceConferenceWidget::initWidget()
     initTitle();
     initButtons();
     connectParts();
+    setUpKeys();
     showPage(cListPage);
 }
 
@@ -93,12 +94,13 @@ void CVoiceConferenceWidget::setTips()
     ui->btnClose->setToolTip(tr("close"));
 }
 
-// All other texts are the same in each language.
+// All texts that are painted are the same in each language.
 void CVoiceConferenceWidget::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         setTips();
+        nameParts();
     }
 }
 
@@ -153,9 +155,13 @@ void CVoiceConferenceWidget::addConferenceInfo(ConfInfoData confInfo)
 
 void CVoiceConferenceWidget::showPage(int iPage)
 {
+    const bool bByKeys = isFocusShown();
     ui->contentStackedWidget->setCurrentIndex(iPage);
     ui->backBtn->setVisible(iPage == cDetailPage);
     ui->creatConferenceBtn->setVisible(iPage == cListPage);
+    if (bByKeys) {
+        showFocus();
+    }
 }
 
 void CVoiceConferenceWidget::slot_ShowConfDetail(QString strConfID)

@@ -40,6 +40,8 @@ signals:
 protected:
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    /// Escape leads from the details to the list, and from there out of the window.
+    void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -57,6 +59,10 @@ private:
     void initTitle();
     void initButtons();
     void setTips();
+    void setUpKeys();
+    void nameParts();
+    bool isFocusShown() const;
+    void showFocus();
     void insetDetailPage();
     void connectParts();
     void initListView();

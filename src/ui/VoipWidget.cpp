@@ -223,6 +223,7 @@ void CVoipWidget::SetCameraButton(bool bEnable)
 {
     LOG_DEBUG << "set camera bEnable = " << bEnable << "\n";
     setFace(ui->btnCamera, bEnable ? IconGlyph::CameraOn : IconGlyph::CameraOff);
+    nameParts();
 }
 
 void CVoipWidget::setMuteAllButton(bool bMute)
@@ -233,6 +234,7 @@ void CVoipWidget::setMuteAllButton(bool bMute)
                                 CIconButtonEx::LargeGlyph,
                                 bMute ? CIconButtonEx::StillStyle : CIconButtonEx::HoverStyle);
     ui->btnMuteAll->setToolTip(bMute ? QStringLiteral("取消全体静音") : QStringLiteral("全体静音"));
+    nameParts();
 }
 
 // The window lives as long as the host, which may change its language at any time.
@@ -252,6 +254,7 @@ void CVoipWidget::changeEvent(QEvent *event)
     if (!ui->btnChangeWindow->toolTip().isEmpty()) {
         ui->btnChangeWindow->setToolTip(m_bFullScreen ? tr("restore") : tr("fullscreen"));
     }
+    nameParts();
 }
 
 void CVoipWidget::slot_HangUpCall()

@@ -161,8 +161,9 @@ protected:
     bool event(QEvent *event) override;
     /// Escape in the window or one of its watched controls asks whether to hang up; leaving them is swallowed.
     bool eventFilter(QObject *obj, QEvent *event) override;
-    /// A change of language renews the words of the buttons and their tips, nothing else.
+    /// A change of language renews the words of the buttons, their tips and their names, nothing else.
     void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -190,6 +191,8 @@ private slots:
 
 private:
     void setUpForm();
+    void setUpKeys();
+    void nameParts();
     QSlider *newVolumeSlider();
     void connectControls();
     void connectConferenceControls();

@@ -63,6 +63,7 @@ CVoipWidget::CVoipWidget(QWidget *parent) : QWidget(parent), ui(std::make_unique
     SetSpeakerButton(m_bSpeakerMute);
     SetCameraButton(m_bCameraEnable);
     setMuteAllButton(m_bMuteAll);
+    setUpKeys();
     ADAPT_DPI_WIDGET(this);
 }
 

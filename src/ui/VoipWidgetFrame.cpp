@@ -177,6 +177,7 @@ void CVoipWidget::slot_WindowChangeButtonClicked()
         ui->btnChangeWindow->setIconColor(cFaceColor);
         ui->btnChangeWindow->setToolTip(tr("restore"));
     }
+    nameParts();
 }
 
 bool CVoipWidget::eventFilter(QObject *obj, QEvent *event)

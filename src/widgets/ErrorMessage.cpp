@@ -91,6 +91,7 @@ void ErrorMessage::setUpWindow()
     ui->backWidget->setTitleHeight(cTitleHeight);
     ui->backWidget->setPaintPic(false);
     ui->btnClose->setAutoDefault(false);
+    ui->btnClose->setCheckable(false);
     ui->btnClose->setIconFont(IconGlyph::text(IconGlyph::Close), CIconButtonEx::SmallGlyph, CIconButtonEx::RedStyle);
 }
 

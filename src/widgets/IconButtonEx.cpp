@@ -7,7 +7,9 @@
 #include "common/system/DpiScale.h"
 #include "model/SkinContext.h"
 #include "model/SysUIData.h"
+#include "widgets/FocusRing.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 #include <array>
@@ -43,6 +45,8 @@ CIconButtonEx::CIconButtonEx(QWidget *parent) : QWidget(parent), ui(std::make_un
     ui->widgetBG->installEventFilter(this);
     ui->pushButton->installEventFilter(this);
     ui->pushButton->setEnabled(true);
+    // The mouse never clicks the inner button, see eventFilter.
+    connect(ui->pushButton, &QPushButton::clicked, this, &CIconButtonEx::passKeyClick);
     setStyles();
 }
 
@@ -64,7 +68,7 @@ void CIconButtonEx::setIconFont(QString glyph, int size, int type)
         font.setPixelSize(ADAPT_DPI_INT(size));
     }
     ui->pushButton->setFont(font);
-    ui->pushButton->setText(glyph);
+    showText(glyph);
     m_strGlyph = glyph;
     m_iGlyphSize = size;
     m_iStyleType = type;
@@ -161,8 +165,49 @@ void CIconButtonEx::showBackground(const QString &color, const QString &hoverCol
 
 void CIconButtonEx::setText(const QString &text)
 {
-    ui->pushButton->setText(text);
+    showText(text);
     ui->pushButton->setFlat(true);
+}
+
+void CIconButtonEx::showText(const QString &strText)
+{
+    ui->pushButton->setText(strText);
+    // A new text takes the keys away, but for the letter that it marks itself.
+    if (!m_keys.isEmpty()) {
+        ui->pushButton->setShortcut(m_keys);
+    }
+}
+
+void CIconButtonEx::setShortcut(const QKeySequence &keys)
+{
+    m_keys = keys;
+    ui->pushButton->setShortcut(keys);
+}
+
+void CIconButtonEx::setKeyFocus(bool bTakes)
+{
+    ui->pushButton->setFocusPolicy(bTakes ? Qt::TabFocus : Qt::NoFocus);
+    if (bTakes && m_pRing == nullptr) {
+        m_pRing = new FocusRing(ui->pushButton, this);
+    }
+}
+
+void CIconButtonEx::setAccessibleName(const QString &strName)
+{
+    m_strName = strName;
+    nameInner();
+}
+
+void CIconButtonEx::nameInner()
+{
+    ui->pushButton->setAccessibleName(m_strName.isEmpty() ? toolTip() : m_strName);
+}
+
+void CIconButtonEx::passKeyClick()
+{
+    // The inner button has changed its state by itself; what is shown as checked stays the owner's affair.
+    ui->pushButton->setChecked(m_bCheckedState);
+    emit clicked();
 }
 
 void CIconButtonEx::setFlat(bool bFlat)
@@ -242,6 +287,14 @@ void CIconButtonEx::setBackGroundDark(bool bDark)
     m_bBackGroundDark = bDark;
 }
 
+bool CIconButtonEx::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTipChange) {
+        nameInner();
+    }
+    return QWidget::event(event);
+}
+
 void CIconButtonEx::enterEvent(QEvent *)
 {
     if (m_bEnabled) {
@@ -269,6 +322,11 @@ bool CIconButtonEx::eventFilter(QObject *watched, QEvent *event)
                 return true;
             }
             break;
+        case QEvent::KeyPress:
+            if (takeKey(*static_cast<QKeyEvent *>(event))) {
+                return true;
+            }
+            break;
         default:
             break;
         }
@@ -286,5 +344,16 @@ bool CIconButtonEx::takeRelease(const QMouseEvent &event)
         return false;
     }
     emit clicked();
+    return true;
+}
+
+bool CIconButtonEx::takeKey(const QKeyEvent &event)
+{
+    if ((event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter) || !ui->pushButton->hasFocus()) {
+        return false;
+    }
+    if (!event.isAutoRepeat()) {
+        ui->pushButton->click();
+    }
     return true;
 }

@@ -3,11 +3,17 @@
 // A button that shows one glyph of the icon font on a small background. What the glyph and the background look like at
 // rest and under the mouse is chosen by a style type; colours are taken from the current skin at each restyle.
 // GUI thread only; Qt's ownership by parent applies. Several operations hide those of QWidget that have the same name:
-// call them through this class. The button takes no keyboard focus: only the mouse clicks it.
+// call them through this class. The button takes no keyboard focus unless setKeyFocus lets it; a screen reader can
+// always press it, by the name that setAccessibleName or else the tool tip gives.
 
+#include <QKeySequence>
 #include <QWidget>
 
 #include <memory>
+
+class FocusRing;
+class QKeyEvent;
+class QMouseEvent;
 
 namespace Ui {
 class CIconButtonEx;
@@ -95,6 +101,15 @@ public:
     /// What setEnabled was told last; true at first. A disabled parent does not count.
     bool isEnabled() const { return m_bEnabled; }
 
+    /// Whether Tab stops at the button, where blank and return click it and a ring shows; it does not at first.
+    void setKeyFocus(bool bTakes);
+
+    /// The keys that click the button, as long as it is to be seen in the active window. Empty means none.
+    void setShortcut(const QKeySequence &keys);
+
+    /// What a screen reader calls the button. Empty, as at first, is the tool tip, or the text where there is none.
+    void setAccessibleName(const QString &strName);
+
     /// True gives a checked button a background of its own as well.
     void setChangeBackgroundOnChecked(bool bChange);
 
@@ -102,10 +117,12 @@ public:
     void setBackGroundDark(bool bDark);
 
 signals:
-    /// A mouse button other than the right one was released over the enabled button.
+    /// A mouse button other than the right one was released over the enabled button, or keys or a screen reader pressed
+    /// it.
     void clicked();
 
 protected:
+    bool event(QEvent *event) override;
     void enterEvent(QEvent *event) override;
     void leaveEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -120,6 +137,10 @@ private:
     void showBackground(const QString &color, const QString &hoverColor);
     QString backgroundOf(const QString &color, int iAlpha) const;
     bool takeRelease(const QMouseEvent &event);
+    bool takeKey(const QKeyEvent &event);
+    void showText(const QString &strText);
+    void nameInner();
+    void passKeyClick();
 
     std::unique_ptr<Ui::CIconButtonEx> ui;
     bool m_bChecked = false;
@@ -137,4 +158,7 @@ private:
     QString m_strGlyph;
     int m_iGlyphSize = 0;
     bool m_bBackGroundDark = false;
+    QKeySequence m_keys;
+    QString m_strName;
+    FocusRing *m_pRing = nullptr; ///< made when the button first may take the focus
 };

@@ -70,7 +70,8 @@ void CLineEditEx::setStyles()
         m_strEditStyle.arg(skin.m_strEditBackgroundColor, skin.m_strEditBorderColor, strCOLOR_MAININFO_LIGHT_BLACK) +
         m_strEditHoverStyle.arg(skin.m_strEditHoverBorderColor));
     // The padding of the menu's entries stays unfilled on purpose: this sheet is the one that the field's standard
-    // context menu has always had. Set again it would only repeat the warning with which Qt refuses it.
+    // context menu has always had. Set again it would only repeat the warning with which Qt refuses it, and which
+    // QtWarningFilter keeps out of the programs' output.
     const QString strMenu = strMenuStyle + strMenuItemStyle + strMenuItemSelectStyle + strMenuItemDisableStyle;
     if (styleSheet() != strMenu) {
         setStyleSheet(strMenu);
@@ -259,6 +260,8 @@ void CLineEditEx::addDeleteBtn()
     m_pDeleteBtn->setFixedSize(ADAPT_DPI_SIZE(cDeleteButtonSize));
     m_pDeleteBtn->setCursor(Qt::ArrowCursor);
     m_pDeleteBtn->setIconFont(IconGlyph::text(IconGlyph::Close), CIconButtonEx::SmallGlyph, CIconButtonEx::HoverStyle);
+    m_pDeleteBtn->setCheckable(false);
+    m_pDeleteBtn->setAccessibleName(QObject::tr("clear"));
     m_pDeleteLine = new QLabel(ui->lineEdit);
     m_pDeleteLine->setFixedSize(ADAPT_DPI_SIZE(cDeleteLineSize));
     m_pDeleteLine->setStyleSheet(m_strLineStyle.arg(currentSkin().m_strLineColor));

@@ -5,6 +5,7 @@
 #include "common/system/DpiScale.h"
 #include "model/SkinContext.h"
 #include "model/SysUIData.h"
+#include "widgets/FocusRing.h"
 
 namespace {
 
@@ -22,6 +23,7 @@ PushButtonEx::PushButtonEx(QWidget *parent) : QWidget(parent), ui(std::make_uniq
     ui->setupUi(this);
     connect(ui->btnEx, SIGNAL(clicked()), this, SLOT(slot_btnClicked()));
     ui->btnEx->setEnabled(true);
+    new FocusRing(ui->btnEx, this);
     QFont font(QStringLiteral("微软雅黑"));
     font.setPixelSize(ADAPT_DPI_INT(12));
     ui->btnEx->setFont(font);
@@ -63,6 +65,16 @@ void PushButtonEx::applySet(const StyleSet &set)
 void PushButtonEx::setText(QString text)
 {
     ui->btnEx->setText(text);
+    // A new text takes the keys away, but for the letter that it marks itself.
+    if (!m_keys.isEmpty()) {
+        ui->btnEx->setShortcut(m_keys);
+    }
+}
+
+void PushButtonEx::setShortcut(const QKeySequence &keys)
+{
+    m_keys = keys;
+    ui->btnEx->setShortcut(keys);
 }
 
 QString PushButtonEx::text() const

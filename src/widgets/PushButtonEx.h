@@ -5,6 +5,7 @@
 // GUI thread only; Qt's ownership by parent applies. Several operations hide those of QWidget that have the same name:
 // call them through this class.
 
+#include <QKeySequence>
 #include <QWidget>
 
 #include <memory>
@@ -49,6 +50,9 @@ public:
 
     /// What setEnabled was told last; true at first. A disabled parent does not count.
     bool isEnabled() const { return m_bEnabled; }
+
+    /// The keys that click the button, as long as it is to be seen in the active window. Empty means none.
+    void setShortcut(const QKeySequence &keys);
 
     /// Without a frame of the button's own.
     void setFlat(bool bFlat);
@@ -100,6 +104,7 @@ private:
 
     std::unique_ptr<Ui::PushButtonEx> ui;
     bool m_bEnabled = true;
+    QKeySequence m_keys;
     int m_iBtnType = DefaultButton;
     StyleSet m_setA;
     StyleSet m_setB;

@@ -26,10 +26,12 @@ struct GalleryRun
         process.waitForFinished(-1);
         exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
         error = QString::fromLocal8Bit(process.readAllStandardError());
+        output = QString::fromLocal8Bit(process.readAllStandardOutput());
     }
 
     int exitCode = 0;
     QString error;
+    QString output;
 };
 
 QStringList picturesIn(const QString &strFolder, const QString &strPattern)
@@ -54,6 +56,9 @@ private slots:
     {
         const GalleryRun run({"--picture", m_folder.path()});
         QVERIFY2(run.exitCode == 0, qPrintable(run.error));
+        // Of Qt's not a line, and what the common code says of the pictures that it scales.
+        QVERIFY2(!run.error.contains(QStringLiteral("stylesheet")), qPrintable(run.error));
+        QCOMPARE(run.output, QString());
     }
 
     void runWritesEveryPageAndEveryDialog()

@@ -162,17 +162,28 @@ private slots:
 
     void typedKeysEndNoCall()
     {
-        // A call window that comes up under typing hands takes the next blank: it must not press a button with it.
-        for (const bool bConnected : {false, true}) {
-            startCall(CVoipWidget::Voice, bConnected);
-            showWindow();
-            m_pWindow->activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
-            for (const int iKey : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return}) {
-                QTest::keyClick(m_pWindow->windowHandle(), Qt::Key(iKey));
+        // A call window that comes up under typing hands takes the next blank: it must not press a button with it, and
+        // Tab leads to none that ends the call.
+        for (const CVoipWidget::VoipType type : {CVoipWidget::Voice, CVoipWidget::Conference}) {
+            for (const bool bConnected : {false, true}) {
+                startAnew();
+                startCall(type, bConnected);
+                showWindow();
+                m_pWindow->activateWindow();
+                QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
+                for (const int iKey : {Qt::Key_Space, Qt::Key_Return, Qt::Key_A}) {
+                    QTest::keyClick(m_pWindow->windowHandle(), Qt::Key(iKey));
+                }
+                QCOMPARE(m_sent, QStringList());
+                for (int i = 0; i < 8; ++i) {
+                    for (const int iKey : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return}) {
+                        QTest::keyClick(m_pWindow->windowHandle(), Qt::Key(iKey));
+                    }
+                }
+                QVERIFY(!m_sent.contains("hangup"));
+                QCOMPARE(m_sent.contains("mic-"), bConnected);
             }
         }
-        QCOMPARE(m_sent, QStringList());
     }
 
     void leavingIsSwallowed_data()

@@ -1,5 +1,7 @@
 #include "happenings/DebugChannel.h"
 
+#include "common/log/QtWarningFilter.h"
+
 #include <QFile>
 #include <QMutex>
 #include <QMutexLocker>
@@ -13,6 +15,7 @@ struct Channel
     QMutex mutex;
     QFile file;
     QStringList warnings;
+    QtMessageHandler before = nullptr;
 };
 
 Channel &channel()
@@ -27,6 +30,9 @@ void handle(QtMsgType type, const QMessageLogContext &, const QString &strText)
     const QMutexLocker lock(&channel().mutex);
     channel().file.write(line);
     channel().file.flush();
+    if (QtWarningFilter::isKnown(type, strText)) {
+        return;
+    }
     if (type == QtWarningMsg || type == QtCriticalMsg || type == QtFatalMsg) {
         channel().warnings.append(strText);
         std::fwrite(line.constData(), 1, size_t(line.size()), stderr);
@@ -45,12 +51,12 @@ DebugChannel::DebugChannel(const QString &strFile)
             return;
         }
     }
-    qInstallMessageHandler(handle);
+    channel().before = qInstallMessageHandler(handle);
 }
 
 DebugChannel::~DebugChannel()
 {
-    qInstallMessageHandler(nullptr);
+    qInstallMessageHandler(channel().before);
     const QMutexLocker lock(&channel().mutex);
     channel().file.close();
 }

@@ -539,6 +539,102 @@
     </message>
 </context>
 <context>
+    <name>CConferenceListView</name>
+    <message>
+        <source>Members of the conference</source>
+        <translation>Members of the conference</translation>
+    </message>
+</context>
+<context>
+    <name>CConfDetailMemberTableView</name>
+    <message>
+        <source>Members of the conference</source>
+        <translation>Members of the conference</translation>
+    </message>
+</context>
+<context>
+    <name>CConferenceInfoListView</name>
+    <message>
+        <source>Past conferences</source>
+        <translation>Past conferences</translation>
+    </message>
+</context>
+<context>
+    <name>ConferenceRow</name>
+    <message>
+        <source>呼叫中</source>
+        <translation>being called</translation>
+    </message>
+    <message>
+        <source>已接通</source>
+        <translation>connected</translation>
+    </message>
+    <message>
+        <source>呼叫失败</source>
+        <translation>not reached</translation>
+    </message>
+    <message>
+        <source>对方正忙</source>
+        <translation>busy</translation>
+    </message>
+    <message>
+        <source>已挂断</source>
+        <translation>hung up</translation>
+    </message>
+    <message>
+        <source>已拒绝</source>
+        <translation>declined</translation>
+    </message>
+    <message>
+        <source>未接通</source>
+        <translation>not connected</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>muted</source>
+        <translation>muted</translation>
+    </message>
+    <message>
+        <source>created the conference</source>
+        <translation>created the conference</translation>
+    </message>
+    <message>
+        <source>called by you</source>
+        <translation>called by you</translation>
+    </message>
+    <message>
+        <source>called by another</source>
+        <translation>called by another</translation>
+    </message>
+    <message>
+        <source>取消静音</source>
+        <translation>Unmute</translation>
+    </message>
+    <message>
+        <source>静音</source>
+        <translation>Mute</translation>
+    </message>
+    <message>
+        <source>移出会议</source>
+        <translation>Remove from the conference</translation>
+    </message>
+    <message>
+        <source>再次呼叫</source>
+        <translation>Call again</translation>
+    </message>
+</context>
+<context>
     <name>CVoipManage</name>
     <message>
         <source>tip</source>
@@ -554,6 +650,14 @@
     <message>
         <source>close</source>
         <translation>Close</translation>
+    </message>
+    <message>
+        <source>Back to the past conferences</source>
+        <translation>Back to the past conferences</translation>
+    </message>
+    <message>
+        <source>Start a voice conference</source>
+        <translation>Start a voice conference</translation>
     </message>
 </context>
 <context>
@@ -625,6 +729,34 @@
     <message>
         <source>挂断</source>
         <translation>Hang up</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 of %3</translation>
+    </message>
+    <message>
+        <source>Switch the camera off</source>
+        <translation>Switch the camera off</translation>
+    </message>
+    <message>
+        <source>Switch the camera on</source>
+        <translation>Switch the camera on</translation>
+    </message>
+    <message>
+        <source>Unmute all members</source>
+        <translation>Unmute all members</translation>
+    </message>
+    <message>
+        <source>Mute all members</source>
+        <translation>Mute all members</translation>
+    </message>
+    <message>
+        <source>Microphone volume</source>
+        <translation>Microphone volume</translation>
+    </message>
+    <message>
+        <source>Speaker volume</source>
+        <translation>Speaker volume</translation>
     </message>
 </context>
 <context>

@@ -539,6 +539,102 @@
     </message>
 </context>
 <context>
+    <name>CConferenceListView</name>
+    <message>
+        <source>Members of the conference</source>
+        <translation>会议成员</translation>
+    </message>
+</context>
+<context>
+    <name>CConfDetailMemberTableView</name>
+    <message>
+        <source>Members of the conference</source>
+        <translation>会议成员</translation>
+    </message>
+</context>
+<context>
+    <name>CConferenceInfoListView</name>
+    <message>
+        <source>Past conferences</source>
+        <translation>会议记录</translation>
+    </message>
+</context>
+<context>
+    <name>ConferenceRow</name>
+    <message>
+        <source>呼叫中</source>
+        <translation>呼叫中</translation>
+    </message>
+    <message>
+        <source>已接通</source>
+        <translation>已接通</translation>
+    </message>
+    <message>
+        <source>呼叫失败</source>
+        <translation>呼叫失败</translation>
+    </message>
+    <message>
+        <source>对方正忙</source>
+        <translation>对方正忙</translation>
+    </message>
+    <message>
+        <source>已挂断</source>
+        <translation>已挂断</translation>
+    </message>
+    <message>
+        <source>已拒绝</source>
+        <translation>已拒绝</translation>
+    </message>
+    <message>
+        <source>未接通</source>
+        <translation>未接通</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 小时</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>muted</source>
+        <translation>已静音</translation>
+    </message>
+    <message>
+        <source>created the conference</source>
+        <translation>会议发起人</translation>
+    </message>
+    <message>
+        <source>called by you</source>
+        <translation>由您发起</translation>
+    </message>
+    <message>
+        <source>called by another</source>
+        <translation>由他人发起</translation>
+    </message>
+    <message>
+        <source>取消静音</source>
+        <translation>取消静音</translation>
+    </message>
+    <message>
+        <source>静音</source>
+        <translation>静音</translation>
+    </message>
+    <message>
+        <source>移出会议</source>
+        <translation>移出会议</translation>
+    </message>
+    <message>
+        <source>再次呼叫</source>
+        <translation>再次呼叫</translation>
+    </message>
+</context>
+<context>
     <name>CVoipManage</name>
     <message>
         <source>tip</source>
@@ -554,6 +650,14 @@
     <message>
         <source>close</source>
         <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Back to the past conferences</source>
+        <translation>返回会议记录</translation>
+    </message>
+    <message>
+        <source>Start a voice conference</source>
+        <translation>发起语音会议</translation>
     </message>
 </context>
 <context>
@@ -625,6 +729,34 @@
     <message>
         <source>挂断</source>
         <translation>挂断</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1：%2，最大为 %3</translation>
+    </message>
+    <message>
+        <source>Switch the camera off</source>
+        <translation>关闭摄像头</translation>
+    </message>
+    <message>
+        <source>Switch the camera on</source>
+        <translation>打开摄像头</translation>
+    </message>
+    <message>
+        <source>Unmute all members</source>
+        <translation>取消全体静音</translation>
+    </message>
+    <message>
+        <source>Mute all members</source>
+        <translation>全体静音</translation>
+    </message>
+    <message>
+        <source>Microphone volume</source>
+        <translation>麦克风音量</translation>
+    </message>
+    <message>
+        <source>Speaker volume</source>
+        <translation>扬声器音量</translation>
     </message>
 </context>
 <context>

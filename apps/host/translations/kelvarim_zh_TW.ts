@@ -539,6 +539,102 @@
     </message>
 </context>
 <context>
+    <name>CConferenceListView</name>
+    <message>
+        <source>Members of the conference</source>
+        <translation>會議成員</translation>
+    </message>
+</context>
+<context>
+    <name>CConfDetailMemberTableView</name>
+    <message>
+        <source>Members of the conference</source>
+        <translation>會議成員</translation>
+    </message>
+</context>
+<context>
+    <name>CConferenceInfoListView</name>
+    <message>
+        <source>Past conferences</source>
+        <translation>會議記錄</translation>
+    </message>
+</context>
+<context>
+    <name>ConferenceRow</name>
+    <message>
+        <source>呼叫中</source>
+        <translation>呼叫中</translation>
+    </message>
+    <message>
+        <source>已接通</source>
+        <translation>已接通</translation>
+    </message>
+    <message>
+        <source>呼叫失败</source>
+        <translation>呼叫失敗</translation>
+    </message>
+    <message>
+        <source>对方正忙</source>
+        <translation>對方忙線中</translation>
+    </message>
+    <message>
+        <source>已挂断</source>
+        <translation>已掛斷</translation>
+    </message>
+    <message>
+        <source>已拒绝</source>
+        <translation>已拒絕</translation>
+    </message>
+    <message>
+        <source>未接通</source>
+        <translation>未接通</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 小時</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>muted</source>
+        <translation>已靜音</translation>
+    </message>
+    <message>
+        <source>created the conference</source>
+        <translation>會議發起人</translation>
+    </message>
+    <message>
+        <source>called by you</source>
+        <translation>由您發起</translation>
+    </message>
+    <message>
+        <source>called by another</source>
+        <translation>由他人發起</translation>
+    </message>
+    <message>
+        <source>取消静音</source>
+        <translation>取消靜音</translation>
+    </message>
+    <message>
+        <source>静音</source>
+        <translation>靜音</translation>
+    </message>
+    <message>
+        <source>移出会议</source>
+        <translation>移出會議</translation>
+    </message>
+    <message>
+        <source>再次呼叫</source>
+        <translation>再次呼叫</translation>
+    </message>
+</context>
+<context>
     <name>CVoipManage</name>
     <message>
         <source>tip</source>
@@ -554,6 +650,14 @@
     <message>
         <source>close</source>
         <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Back to the past conferences</source>
+        <translation>返回會議記錄</translation>
+    </message>
+    <message>
+        <source>Start a voice conference</source>
+        <translation>發起語音會議</translation>
     </message>
 </context>
 <context>
@@ -625,6 +729,34 @@
     <message>
         <source>挂断</source>
         <translation>掛斷</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1：%2，最大為 %3</translation>
+    </message>
+    <message>
+        <source>Switch the camera off</source>
+        <translation>關閉攝影機</translation>
+    </message>
+    <message>
+        <source>Switch the camera on</source>
+        <translation>開啟攝影機</translation>
+    </message>
+    <message>
+        <source>Unmute all members</source>
+        <translation>取消全體靜音</translation>
+    </message>
+    <message>
+        <source>Mute all members</source>
+        <translation>全體靜音</translation>
+    </message>
+    <message>
+        <source>Microphone volume</source>
+        <translation>麥克風音量</translation>
+    </message>
+    <message>
+        <source>Speaker volume</source>
+        <translation>喇叭音量</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,8 @@
 #include <QTextCodec>
 #include <QXmlStreamReader>
 
+#include <vector>
+
 namespace {
 
 // A key with its context, and its text when it is finished.
@@ -99,10 +101,10 @@ QString without(const QStringList &names, const QStringList &others)
     return left.join(QLatin1String(", "));
 }
 
-QStringList sourceFiles()
+QStringList sourceFiles(const std::vector<const char *> &folders)
 {
     QStringList files;
-    for (const char *folder : {VOIP_SOURCES, VOIP_PROGRAMS}) {
+    for (const char *folder : folders) {
         QDirIterator walk(QLatin1String(folder), {"*.cpp", "*.h", "*.def", "*.ui"}, QDir::Files,
                           QDirIterator::Subdirectories);
         while (walk.hasNext()) {
@@ -110,6 +112,22 @@ QStringList sourceFiles()
         }
     }
     return files;
+}
+
+/// What Qt's own tool finds in the sources of these folders.
+QList<Entry> entriesOfSources(const std::vector<const char *> &folders)
+{
+    const QTemporaryDir folder;
+    const QString strFound = folder.filePath(QStringLiteral("found.ts"));
+    QFile list(folder.filePath(QStringLiteral("files.lst")));
+    if (!list.open(QIODevice::WriteOnly)) {
+        return {};
+    }
+    list.write(sourceFiles(folders).join(QLatin1Char('\n')).toUtf8());
+    list.close();
+    return QProcess::execute(QStringLiteral(VOIP_LUPDATE), {"-silent", "@" + list.fileName(), "-ts", strFound}) == 0
+               ? readFile(strFound)
+               : QList<Entry>();
 }
 
 QString wordsFile(const QString &strLanguage)
@@ -134,15 +152,7 @@ class tst_Translations : public QObject
 private slots:
     void initTestCase()
     {
-        const QTemporaryDir folder;
-        const QString strFound = folder.filePath(QStringLiteral("found.ts"));
-        QFile list(folder.filePath(QStringLiteral("files.lst")));
-        QVERIFY(list.open(QIODevice::WriteOnly));
-        list.write(sourceFiles().join(QLatin1Char('\n')).toUtf8());
-        list.close();
-        QCOMPARE(QProcess::execute(QStringLiteral(VOIP_LUPDATE), {"-silent", "@" + list.fileName(), "-ts", strFound}),
-                 0);
-        m_wanted = readFile(strFound);
+        m_wanted = entriesOfSources({VOIP_SOURCES, VOIP_PROGRAMS});
         // One of each way in which a key can stand in the sources: a class's own, another's, in a table, in a list, in
         // a form of the plug-in.
         const QStringList names = namesOf(m_wanted);
@@ -169,6 +179,37 @@ private slots:
         for (const Entry &entry : entries) {
             QVERIFY2(!entry.text.trimmed().isEmpty(), qPrintable(entry.name));
         }
+    }
+
+    // Who writes a host of his own reads there what his catalogue needs.
+    void hostContractListsTheKeysOfThePlugin()
+    {
+        QStringList wanted;
+        for (const Entry &entry : entriesOfSources({VOIP_SOURCES})) {
+            wanted.append(entry.name);
+        }
+        wanted.sort();
+        QVERIFY2(wanted.size() > 80, qPrintable(QString::number(wanted.size())));
+        QFile document(QStringLiteral(VOIP_HOST_CONTRACT));
+        QVERIFY(document.open(QIODevice::ReadOnly));
+        static const QRegularExpression row(QStringLiteral("^\\| `(\\w+)` \\| `([^`]+)` \\| (.*) \\|$"),
+                                            QRegularExpression::MultilineOption);
+        QStringList listed;
+        QStringList english;
+        for (auto rows = row.globalMatch(QString::fromUtf8(document.readAll())); rows.hasNext();) {
+            const QRegularExpressionMatch match = rows.next();
+            listed.append(entryName(match.captured(1), match.captured(2)));
+            english.append(listed.last() + ": " + match.captured(3));
+        }
+        listed.sort();
+        QCOMPARE(without(wanted, listed), QString());
+        QCOMPARE(without(listed, wanted), QString());
+        QCOMPARE(listed, wanted);
+        QStringList catalogued;
+        for (const Entry &entry : readFile(wordsFile(QStringLiteral("en")))) {
+            catalogued.append(entry.name + ": " + entry.text.trimmed());
+        }
+        QCOMPARE(without(english, catalogued), QString());
     }
 
     void compiledCatalogueGivesTheTexts_data() { addLanguages(); }

@@ -34,6 +34,13 @@ private slots:
         QVERIFY2(demo.exitStatus() == QProcess::NormalExit && demo.exitCode() == 0, words.right(900).constData());
         QVERIFY2(!words.contains("MISS"), words.right(900).constData());
         QVERIFY(words.contains("steps had their effect"));
+        // What is filtered out is not shown either, and no line is a number that nobody can place.
+        QVERIFY2(!words.contains("stylesheet"), words.constData());
+        for (const QByteArray &line : words.split('\n')) {
+            bool bNumber = false;
+            line.trimmed().toLongLong(&bNumber);
+            QVERIFY2(!bNumber, line.constData());
+        }
         // Closing the window quits, and so does the end of the program behind it.
         QCOMPARE(words.count("4763 quit"), 1);
     }

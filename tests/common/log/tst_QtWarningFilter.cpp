@@ -1,0 +1,47 @@
+// The filter of Qt's channel: it takes away the one warning that is required, and nothing else.
+
+#include "common/log/QtWarningFilter.h"
+
+#include <QDebug>
+#include <QStringList>
+#include <QTest>
+
+class tst_QtWarningFilter : public QObject
+{
+    Q_OBJECT
+
+private:
+    static void keep(QtMsgType, const QMessageLogContext &, const QString &strText) { s_lines.append(strText); }
+
+    static QStringList s_lines;
+
+private slots:
+    void onlyTheRequiredWarningIsTakenAway()
+    {
+        s_lines.clear();
+        const QtMessageHandler before = qInstallMessageHandler(keep);
+        {
+            const QtWarningFilter filter;
+            qWarning("Could not parse stylesheet of object CLineEditEx(0x55d0, name = \"lineEdit\")");
+            qWarning("Could not parse stylesheet of object CLineEditExtra(0x55d0)");
+            qWarning("Could not parse stylesheet of object QLabel(0x55d0)");
+            qWarning("Could not parse application stylesheet");
+            qCritical("Could not parse stylesheet of object CLineEditEx(0x55d0)");
+            qDebug("1");
+        }
+        qWarning("Could not parse stylesheet of object CLineEditEx(0x55d0)");
+        qInstallMessageHandler(before);
+        QCOMPARE(s_lines, (QStringList{"Could not parse stylesheet of object CLineEditExtra(0x55d0)",
+                                       "Could not parse stylesheet of object QLabel(0x55d0)",
+                                       "Could not parse application stylesheet",
+                                       "Could not parse stylesheet of object CLineEditEx(0x55d0)", "1",
+                                       "Could not parse stylesheet of object CLineEditEx(0x55d0)"}));
+    }
+};
+
+QStringList tst_QtWarningFilter::s_lines;
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_QtWarningFilter, Guiless)
+
+#include "tst_QtWarningFilter.moc"
