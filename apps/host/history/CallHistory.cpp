@@ -27,10 +27,7 @@ CallEntry entryOf(const ConfInfoData &record)
 
 bool isOlder(const CallEntry &one, const CallEntry &other)
 {
-    const auto key = [](const CallEntry &entry) {
-        return std::make_pair(entry.begun.isValid() ? entry.begun.toMSecsSinceEpoch() : qint64(0), entry.id);
-    };
-    return key(one) < key(other);
+    return one.begun < other.begun || (!(other.begun < one.begun) && one.id < other.id);
 }
 
 } // namespace
