@@ -42,7 +42,7 @@ bool HostSession::start(const QString &strModule, QString *strError)
 {
     m_context.signIn(ContactBook::ownUid(), loginDomain(), m_book);
     SharedContext::setCommonData(m_context.data());
-    m_history.open(SystemSetData::instance()->m_strUserFolder);
+    m_history.open(SystemSetData::instance()->m_strUserFolder, ContactBook::ownUid());
     openStore();
 
     QPluginLoader loader(strModule);

@@ -1,29 +1,11 @@
 #include "history/CallHistory.h"
 
-#include "client/ContactBook.h"
-
 #include "store/DBConfInfo.h"
 
 #include <algorithm>
 #include <iterator>
 
 namespace {
-
-CallEntry entryOf(const ConfInfoData &record)
-{
-    CallEntry entry;
-    entry.conference = true;
-    entry.confId = record.m_strConfID;
-    entry.uid = record.m_strCreatUserID;
-    entry.caller = record.m_strCreatUserID == ContactBook::ownUid();
-    entry.begun = QDateTime::fromString(record.m_strCreatTime, QStringLiteral("yyyy-MM-dd hh:mm:ss"));
-    entry.seconds = record.m_strCallTime.toLongLong();
-    entry.members = record.m_listMember;
-    entry.members.removeAll(ContactBook::ownUid());
-    entry.connected = record.m_bIsConnect;
-    entry.outcome = record.m_bIsConnect ? int(resultHungUp) : int(outcomeNoAnswer);
-    return entry;
-}
 
 bool isOlder(const CallEntry &one, const CallEntry &other)
 {
@@ -32,8 +14,30 @@ bool isOlder(const CallEntry &one, const CallEntry &other)
 
 } // namespace
 
-bool CallHistory::open(const QString &strFolder)
+QStringList CallHistory::others(QStringList members) const
 {
+    members.removeAll(m_strOwner);
+    return members;
+}
+
+CallEntry CallHistory::entryOf(const ConfInfoData &record) const
+{
+    CallEntry entry;
+    entry.conference = true;
+    entry.confId = record.m_strConfID;
+    entry.uid = record.m_strCreatUserID;
+    entry.caller = record.m_strCreatUserID == m_strOwner;
+    entry.begun = QDateTime::fromString(record.m_strCreatTime, QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    entry.seconds = record.m_strCallTime.toLongLong();
+    entry.members = others(record.m_listMember);
+    entry.connected = record.m_bIsConnect;
+    entry.outcome = record.m_bIsConnect ? int(resultHungUp) : int(outcomeNoAnswer);
+    return entry;
+}
+
+bool CallHistory::open(const QString &strFolder, const QString &strOwner)
+{
+    m_strOwner = strOwner;
     const bool ok = m_file.open(strFolder);
     m_entries = m_file.load();
     m_conferences = m_file.knownConferences();

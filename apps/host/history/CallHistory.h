@@ -19,12 +19,18 @@ class CallHistory : public QObject
 public:
     using QObject::QObject;
 
-    /// Reads the file in the folder; see CallFile::open. What it cannot keep is kept until the end of the session.
-    bool open(const QString &strFolder);
+    /// Reads the file, in the folder, of the user `strOwner` (an id); see CallFile::open. What it cannot keep is kept
+    /// until the end of the session.
+    bool open(const QString &strFolder, const QString &strOwner);
     /// Closes the file. The entries stay.
     void close() { m_file.close(); }
     /// What the person has to know of the file; see CallFile::reports.
     const QStringList &reports() const { return m_file.reports(); }
+
+    /// The user id given to open(); empty before.
+    QString owner() const { return m_strOwner; }
+    /// A conference's members without the user.
+    QStringList others(QStringList members) const;
 
     /// All calls, oldest first.
     const std::vector<CallEntry> &entries() const { return m_entries; }
@@ -68,9 +74,11 @@ signals:
     void reported();
 
 private:
+    CallEntry entryOf(const ConfInfoData &record) const;
     void put(std::vector<CallEntry> entries);
     void keep(std::vector<CallEntry> &entries);
 
+    QString m_strOwner;
     CallFile m_file;
     std::vector<CallEntry> m_entries;
     std::vector<CallEntry> m_removed;

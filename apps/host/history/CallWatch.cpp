@@ -1,6 +1,5 @@
 #include "history/CallWatch.h"
 
-#include "client/ContactBook.h"
 #include "history/CallHistory.h"
 
 #include "plugin/EMsgId.h"
@@ -81,7 +80,7 @@ void CallWatch::noteCommand(int iMsgId, const QByteArray &payload)
         break;
     case MSG_CALL_CONFERENCE:
         wish.conference = true;
-        wish.uid = ContactBook::ownUid();
+        wish.uid = m_history.owner();
         wish.members = in.takeTexts();
         place(wish);
         break;
@@ -235,8 +234,7 @@ void CallWatch::finishConference()
         m_call.confId = own->m_strConfID;
         m_call.seconds = own->m_strCallTime.toLongLong();
         m_call.connected = own->m_bIsConnect;
-        m_call.members = own->m_listMember;
-        m_call.members.removeAll(ContactBook::ownUid());
+        m_call.members = m_history.others(own->m_listMember);
     }
     end(conferenceOutcome());
 }
