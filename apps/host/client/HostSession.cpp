@@ -9,6 +9,7 @@
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"
 #include "plugin/PluginInterface.h"
+#include "store/DBConfInfo.h"
 
 #include <QCoreApplication>
 #include <QPluginLoader>
@@ -18,11 +19,16 @@ QString HostSession::loginDomain()
     return QStringLiteral("im.example.org");
 }
 
-HostSession::HostSession(ContactBook &book, QObject *parent) : QObject(parent), m_book(book), m_mailbox(book)
+HostSession::HostSession(ContactBook &book, QObject *parent)
+    : QObject(parent), m_book(book), m_mailbox(book), m_calls(m_history, [this] {
+          // Without the module nobody knows, and what the events have said goes on.
+          QByteArray answer;
+          return !askQuietly(MSG_IS_EXIST_CALL, &answer) || PayloadReader(answer).take<bool>();
+      })
 {
     connect(&m_mailbox, &HostMailbox::eventReceived, this,
             [this](int iMsgId, const QString &strWords, const QString &strAnswer, const QByteArray &payload,
-                   const QByteArray &reply) { emit eventPassed(true, iMsgId, strWords, strAnswer, payload, reply); });
+                   const QByteArray &reply) { pass(true, iMsgId, strWords, strAnswer, payload, reply); });
     connect(&m_mailbox, &HostMailbox::cardsWanted, this, &HostSession::sendCards);
 }
 
@@ -36,6 +42,7 @@ bool HostSession::start(const QString &strModule, QString *strError)
 {
     m_context.signIn(ContactBook::ownUid(), loginDomain(), m_book);
     SharedContext::setCommonData(m_context.data());
+    m_history.open(SystemSetData::instance()->m_strUserFolder, ContactBook::ownUid());
     openStore();
 
     QPluginLoader loader(strModule);
@@ -55,7 +62,18 @@ bool HostSession::start(const QString &strModule, QString *strError)
 
 bool HostSession::openStore()
 {
-    return m_store.open(ContactBook::ownUid(), SystemSetData::instance()->m_strMsgFilePath);
+    const bool bOpen = m_store.open(ContactBook::ownUid(), SystemSetData::instance()->m_strMsgFilePath);
+    if (bOpen) {
+        m_history.adopt(DBConfInfo::getAllConfInfo());
+    }
+    return bOpen;
+}
+
+void HostSession::pass(bool bFromPlugin, int iMsgId, const QString &strWords, const QString &strAnswer,
+                       const QByteArray &payload, const QByteArray &reply)
+{
+    m_calls.note(bFromPlugin, iMsgId, payload);
+    emit eventPassed(bFromPlugin, iMsgId, strWords, strAnswer, payload, reply);
 }
 
 void HostSession::post(EMsgId msgId, const QByteArray &payload)
@@ -63,20 +81,31 @@ void HostSession::post(EMsgId msgId, const QByteArray &payload)
     if (m_pPlugin.isNull()) {
         return;
     }
-    emit eventPassed(false, msgId, EventWords::describe(msgId, payload), QString(), payload, QByteArray());
     QCoreApplication::postEvent(m_pPlugin, new BaseEvent(msgId, sessionPluginId(), voipPluginId(), true, payload));
+    // Behind the command, so that whoever looks again from the event loop finds it carried out.
+    pass(false, msgId, EventWords::describe(msgId, payload), QString(), payload, QByteArray());
 }
 
 bool HostSession::ask(EMsgId msgId)
+{
+    QByteArray answer;
+    if (!askQuietly(msgId, &answer)) {
+        return false;
+    }
+    pass(false, msgId, EventWords::describe(msgId, QByteArray()), EventWords::answer(msgId, answer), QByteArray(),
+         answer);
+    return PayloadReader(answer).take<bool>();
+}
+
+bool HostSession::askQuietly(EMsgId msgId, QByteArray *pAnswer) const
 {
     if (m_pPlugin.isNull()) {
         return false;
     }
     BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false);
-    const QString words = EventWords::describe(msgId, event.data);
     QCoreApplication::sendEvent(m_pPlugin, &event);
-    emit eventPassed(false, msgId, words, EventWords::answer(msgId, event.data), QByteArray(), event.data);
-    return PayloadReader(event.data).take<bool>();
+    *pAnswer = event.data;
+    return true;
 }
 
 void HostSession::setOnline(bool bOnline)
@@ -132,11 +161,13 @@ void HostSession::quit()
         return;
     }
     m_bQuit = true;
-    emit eventPassed(false, MSG_EXIT_VOIP, EventWords::describe(MSG_EXIT_VOIP, QByteArray()), QString(), QByteArray(),
-                     QByteArray());
+    pass(false, MSG_EXIT_VOIP, EventWords::describe(MSG_EXIT_VOIP, QByteArray()), QString(), QByteArray(),
+         QByteArray());
     // Delivered at once: the process may end before the queue is read again.
     BaseEvent event(MSG_EXIT_VOIP, sessionPluginId(), voipPluginId(), false);
     QCoreApplication::sendEvent(m_pPlugin, &event);
     // Only now: the end of a conference still writes its record.
+    m_calls.look();
+    m_history.close();
     m_store.close();
 }

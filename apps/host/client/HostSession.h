@@ -5,6 +5,8 @@
 #include "client/HostMailbox.h"
 #include "client/HostSettings.h"
 #include "client/HostStore.h"
+#include "history/CallHistory.h"
+#include "history/CallWatch.h"
 
 #include "plugin/EMsgId.h"
 
@@ -67,6 +69,10 @@ public:
     HostMailbox &mailbox() { return m_mailbox; }
     /// The user's local store: whether it is open, and what has to be told of it.
     const HostStore &store() const { return m_store; }
+    /// The user's calls, from start on those of the file too.
+    CallHistory &history() { return m_history; }
+    /// The call that is on.
+    const CallWatch &calls() const { return m_calls; }
     /// The user's settings; to be used after start.
     HostSettings &settings() { return m_settings; }
     /// The plug-in's own words about itself, "FileManagePlugin {2EFF...}"; empty before start.
@@ -85,6 +91,9 @@ signals:
 private:
     void post(EMsgId msgId, const QByteArray &payload);
     bool ask(EMsgId msgId);
+    bool askQuietly(EMsgId msgId, QByteArray *pAnswer) const;
+    void pass(bool bFromPlugin, int iMsgId, const QString &strWords, const QString &strAnswer,
+              const QByteArray &payload, const QByteArray &reply);
     void sendCards(const QStringList &uids);
 
     ContactBook &m_book;
@@ -92,6 +101,8 @@ private:
     HostStore m_store;
     HostMailbox m_mailbox;
     HostSettings m_settings;
+    CallHistory m_history;
+    CallWatch m_calls;
     QPointer<QObject> m_pPlugin;
     QString m_strPlugin;
     bool m_bOnline = false;

@@ -1,23 +1,18 @@
 #include "client/HostStore.h"
 
+#include "client/FileAside.h"
+
 #include "common/CLogManger.h"
 #include "store/DB.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
 
-#include <algorithm>
-#include <iterator>
-
 namespace {
 
-// What SQLite keeps beside a file. It belongs to that file: it may hold the half of a write that was cut short.
-constexpr const char *cCompanions[] = {"-journal", "-wal", "-shm"};
 // SQLite's primary result code for a file that another connection has locked; the upper bytes tell details.
 constexpr int cBusyCode = 5;
 constexpr int cPrimaryCodeMask = 0xff;
@@ -78,32 +73,6 @@ bool isSound(const QString &strFolder)
     return DB::checkDB(strFolder, true) && DB::checkDB(strFolder, false);
 }
 
-/// Moves the file with its companions, or nothing at all.
-bool moveFile(const QString &strFrom, const QString &strTo)
-{
-    QStringList moved;
-    const auto move = [&](const QString &strSuffix) {
-        const bool ok = QFile::rename(strFrom + strSuffix, strTo + strSuffix);
-        if (ok) {
-            moved.append(strSuffix);
-        }
-        return ok;
-    };
-    // The companions go first: one that was left behind would be taken for that of the next file.
-    const bool all = std::all_of(std::begin(cCompanions), std::end(cCompanions),
-                                 [&](const char *companion) {
-                                     const QString suffix = QLatin1String(companion);
-                                     return !QFileInfo::exists(strFrom + suffix) || move(suffix);
-                                 }) &&
-                     move(QString());
-    if (!all) {
-        for (const QString &suffix : moved) {
-            QFile::rename(strTo + suffix, strFrom + suffix);
-        }
-    }
-    return all;
-}
-
 enum class Writing
 {
     Possible,
@@ -127,23 +96,6 @@ Writing tryWriting(const QString &strFile)
 HostStore::~HostStore()
 {
     close();
-}
-
-QString HostStore::asidePath(const QString &strFolder, const QDateTime &when)
-{
-    const QString stem =
-        strFolder + QStringLiteral("/localData.damaged-") + when.toString(QStringLiteral("yyyyMMdd-hhmmss"));
-    const auto isTaken = [](const QString &strPath) {
-        return QFileInfo::exists(strPath) ||
-               std::any_of(std::begin(cCompanions), std::end(cCompanions), [&](const char *companion) {
-                   return QFileInfo::exists(strPath + QLatin1String(companion));
-               });
-    };
-    QString path = stem + QStringLiteral(".db");
-    for (int i = 2; isTaken(path); ++i) {
-        path = QStringLiteral("%1-%2.db").arg(stem).arg(i);
-    }
-    return path;
 }
 
 bool HostStore::open(const QString &strUid, const QString &strBase)
@@ -199,8 +151,8 @@ bool HostStore::putAside(const QString &strFolder, const QString &strFile)
     if (isSound(strFolder)) {
         return true;
     }
-    const QString aside = asidePath(strFolder, QDateTime::currentDateTime());
-    if (!moveFile(strFile, aside)) {
+    const QString aside = FileAside::path(strFile, QDateTime::currentDateTime());
+    if (!FileAside::move(strFile, aside)) {
         report(tr("The local store %1 is damaged and cannot be moved aside. Nothing of this session will be kept.")
                    .arg(strFile));
         return false;

@@ -4,8 +4,6 @@
 #include <QString>
 #include <QStringList>
 
-class QDateTime;
-
 /// The signed-in user's local store as this client keeps it, from login to quit. The store's own class gives verdicts
 /// only; this one has the rule for them: a damaged file is moved aside and never deleted, one that another program
 /// holds is left alone, the file of an older client is left as it is, and each of these is told. GUI thread. The shared
@@ -37,10 +35,6 @@ public:
     /// What the person has to know of the last open(), a sentence or two each, in the client's language; empty when all
     /// was well. They stand in the log as well.
     const QStringList &reports() const { return m_reports; }
-
-    /// The path, in the folder `strFolder`, to which a file found damaged at that time is moved: one that neither a
-    /// file nor what SQLite would keep beside it has yet.
-    static QString asidePath(const QString &strFolder, const QDateTime &when);
 
 private:
     bool putAside(const QString &strFolder, const QString &strFile);

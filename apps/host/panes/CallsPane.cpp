@@ -1,77 +1,323 @@
 #include "panes/CallsPane.h"
 #include "ui_CallsPane.h"
 
+#include "client/ContactBook.h"
+#include "history/CallHistory.h"
+#include "history/CallSentences.h"
+
+#include <QButtonGroup>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QShortcut>
+#include <QToolButton>
+
+#include <algorithm>
+#include <functional>
+
+namespace {
+
+// Of what the user has still to be told of so many lines stand in the notice; the others are counted.
+constexpr size_t cNoticeLines = 3;
+
+} // namespace
 
 CallsPane::CallsPane(QWidget *parent) : QWidget(parent), ui(std::make_unique<Ui::CallsPane>())
 {
     ui->setupUi(this);
-    ui->tableRecords->installEventFilter(this);
+    for (QWidget *part : {static_cast<QWidget *>(ui->tableRecords), ui->tableRecords->viewport(),
+                          static_cast<QWidget *>(ui->editCallSearch)}) {
+        part->installEventFilter(this);
+    }
+    nameClearButton();
+    setUpFilters();
+    setUpKeys();
     connect(ui->btnCentre, &QPushButton::clicked, this, &CallsPane::centreWanted);
     connect(ui->tableRecords, &QTableView::doubleClicked, this, &CallsPane::redial);
+    connect(ui->tableRecords, &QWidget::customContextMenuRequested, this, &CallsPane::openMenu);
+    connect(ui->btnMissed, &QPushButton::clicked, this, &CallsPane::showMissed);
+    connect(ui->btnUndo, &QPushButton::clicked, this, &CallsPane::bringBack);
+    connect(ui->btnSeen, &QPushButton::clicked, this, &CallsPane::markSeen);
+    connect(ui->btnCallAgain, &QPushButton::clicked, this, [this] {
+        const std::vector<CallEntry> unseen = m_pHistory->unseen();
+        markSeen();
+        redialEntry(unseen.front());
+    });
 }
 
 CallsPane::~CallsPane() = default;
 
-void CallsPane::setModel(CallRecordModel *pModel)
+void CallsPane::show(CallHistory *pHistory, const ContactBook *pBook)
 {
-    m_pModel = pModel;
-    ui->tableRecords->setModel(pModel);
+    m_pHistory = pHistory;
+    m_pBook = pBook;
+    m_pModel = std::make_unique<CallHistoryModel>(*pHistory, *pBook);
+    ui->tableRecords->setModel(m_pModel.get());
     setUpColumns();
-    connect(pModel, &QAbstractItemModel::rowsInserted, this, &CallsPane::showWhetherEmpty);
-    showWhetherEmpty();
+    connect(ui->editCallSearch, &QLineEdit::textChanged, m_pModel.get(), &CallHistoryModel::setSearch);
+    connect(m_pModel.get(), &QAbstractItemModel::modelReset, this, &CallsPane::showWhetherEmpty);
+    connect(m_pModel.get(), &QAbstractItemModel::rowsInserted, this, &CallsPane::showWhetherEmpty);
+    connect(m_pModel.get(), &QAbstractItemModel::rowsRemoved, this, &CallsPane::showWhetherEmpty);
+    connect(pHistory, &CallHistory::added, this, &CallsPane::showNotice);
+    connect(pHistory, &CallHistory::changed, this, &CallsPane::showNotice);
+    connect(pHistory, &CallHistory::reset, this, &CallsPane::showNotice);
+    connect(pHistory, &CallHistory::allSeen, this, &CallsPane::showNotice);
+    showWords();
 }
 
 void CallsPane::setUpColumns()
 {
     QHeaderView *header = ui->tableRecords->horizontalHeader();
-    header->setSectionResizeMode(CallRecordModel::Who, QHeaderView::Stretch);
-    header->resizeSection(CallRecordModel::Direction, 130);
-    for (const int column :
-         {CallRecordModel::Outcome, CallRecordModel::Connected, CallRecordModel::Duration, CallRecordModel::EndedAt}) {
-        header->resizeSection(column, 84);
-    }
+    header->setSectionResizeMode(CallHistoryModel::Who, QHeaderView::Stretch);
+    header->setMinimumSectionSize(56);
+    header->resizeSection(CallHistoryModel::Direction, 122);
+    header->resizeSection(CallHistoryModel::Outcome, 80);
+    header->resizeSection(CallHistoryModel::Duration, 58);
+    header->resizeSection(CallHistoryModel::When, 122);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui->tableRecords->verticalHeader()->setDefaultSectionSize(32);
 }
 
+void CallsPane::setUpFilters()
+{
+    auto *group = new QButtonGroup(this);
+    group->addButton(ui->btnFilterAll, CallHistoryModel::All);
+    group->addButton(ui->btnFilterMissed, CallHistoryModel::Missed);
+    group->addButton(ui->btnFilterConferences, CallHistoryModel::Conferences);
+    connect(group, &QButtonGroup::idToggled, this, [this](int iFilter, bool bOn) {
+        if (bOn && m_pModel != nullptr) {
+            m_pModel->setFilter(CallHistoryModel::Filter(iFilter));
+        }
+        if (bOn && iFilter == CallHistoryModel::Missed) {
+            markSeen();
+        }
+    });
+}
+
+void CallsPane::setUpKeys()
+{
+    const auto add = [this](const QKeySequence &keys, void (CallsPane::*act)()) {
+        const auto *shortcut = new QShortcut(keys, ui->tableRecords, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, act);
+    };
+    add(QKeySequence::Delete, &CallsPane::removeChosen);
+    add(QKeySequence::Undo, &CallsPane::bringBack);
+}
+
+void CallsPane::showMissed()
+{
+    ui->editCallSearch->clear();
+    ui->btnFilterMissed->setChecked(true);
+    ui->tableRecords->setFocus(Qt::ShortcutFocusReason);
+}
+
 void CallsPane::showWhetherEmpty()
 {
-    const bool bEmpty = m_pModel->rowCount() == 0;
+    const bool bEmpty = m_pModel == nullptr || m_pModel->rowCount() == 0;
+    const bool bNone = m_pHistory == nullptr || m_pHistory->entries().empty();
+    ui->lblNoCalls->setText(bNone ? tr("No calls yet") : tr("No call matches"));
     ui->lblNoCalls->setVisible(bEmpty);
     ui->tableRecords->setVisible(!bEmpty);
+}
+
+void CallsPane::showNotice()
+{
+    const std::vector<CallEntry> unseen = m_pHistory->unseen();
+    QStringList lines;
+    for (const CallEntry &call : unseen) {
+        if (size_t(lines.size()) == cNoticeLines) {
+            lines << tr("and %n more", nullptr, int(unseen.size() - cNoticeLines));
+            break;
+        }
+        lines << CallSentences::notice(call, *m_pBook) + QStringLiteral("  ·  ") +
+                     CallHistoryModel::whenText(call.begun, QDate::currentDate());
+    }
+    ui->lblCallNotice->setText(lines.join(QLatin1Char('\n')));
+    ui->callNotice->setVisible(!unseen.empty());
+    ui->callNotice->setAccessibleName(ui->lblCallNotice->text());
+    const int missed = int(std::count_if(unseen.begin(), unseen.end(), std::mem_fn(&CallEntry::isMissed)));
+    ui->btnMissed->setText(tr("%n missed", nullptr, missed));
+    ui->btnMissed->setVisible(missed > 0);
+}
+
+void CallsPane::markSeen()
+{
+    if (m_pHistory != nullptr) {
+        m_pHistory->setAllSeen();
+    }
+}
+
+void CallsPane::setObstacle(const QString &strReason)
+{
+    m_strObstacle = strReason;
+    ui->btnCallAgain->setEnabled(strReason.isEmpty());
+    ui->btnCallAgain->setToolTip(strReason.isEmpty() ? tr("Call who stands in the first line") : strReason);
 }
 
 void CallsPane::redial(const QModelIndex &index)
 {
     if (index.isValid()) {
-        const CallRecord &record = m_pModel->records().at(index.row());
-        emit callWanted(record.uid, record.video);
+        redialEntry(m_pModel->entryAt(index.row()));
     }
+}
+
+void CallsPane::redialEntry(const CallEntry &entry)
+{
+    if (!entry.conference) {
+        emit callWanted(entry.uid, entry.video);
+        return;
+    }
+    QStringList uids = entry.members;
+    if (!entry.caller && !uids.contains(entry.uid)) {
+        uids.prepend(entry.uid);
+    }
+    emit conferenceWanted(uids);
+}
+
+void CallsPane::removeChosen()
+{
+    const QModelIndexList rows = ui->tableRecords->selectionModel()->selectedRows();
+    QSet<qint64> ids;
+    int first = m_pModel->rowCount();
+    for (const QModelIndex &index : rows) {
+        ids.insert(m_pModel->entryAt(index.row()).id);
+        first = qMin(first, index.row());
+    }
+    m_iRemoved = m_pHistory->remove(ids);
+    showRemoved();
+    // The keyboard goes on where it was.
+    if (m_pModel->rowCount() > 0) {
+        ui->tableRecords->setCurrentIndex(m_pModel->index(qMin(first, m_pModel->rowCount() - 1), 0));
+    } else {
+        ui->btnUndo->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void CallsPane::bringBack()
+{
+    m_pHistory->restore();
+    showRemoved();
+    ui->tableRecords->setFocus(Qt::OtherFocusReason);
+}
+
+void CallsPane::showRemoved()
+{
+    const bool bShown = m_pHistory != nullptr && m_pHistory->canRestore();
+    ui->removed->setVisible(bShown);
+    if (bShown) {
+        ui->lblRemoved->setText(tr("%n call(s) deleted", nullptr, m_iRemoved));
+    }
+}
+
+void CallsPane::openMenu(const QPoint &place)
+{
+    const QModelIndex index = ui->tableRecords->currentIndex();
+    if (!index.isValid()) {
+        return;
+    }
+    const CallEntry entry = m_pModel->entryAt(index.row());
+    QMenu menu(this);
+    const auto addCall = [&](const QString &strWords, const std::function<void()> &act) {
+        QAction *action = menu.addAction(strWords);
+        action->setEnabled(m_strObstacle.isEmpty());
+        action->setToolTip(m_strObstacle);
+        connect(action, &QAction::triggered, this, act);
+    };
+    menu.setToolTipsVisible(true);
+    if (entry.conference) {
+        addCall(tr("Call together again..."), [this, entry] { redialEntry(entry); });
+    } else {
+        addCall(tr("Call"), [this, entry] { emit callWanted(entry.uid, false); });
+        addCall(tr("Call by video"), [this, entry] { emit callWanted(entry.uid, true); });
+    }
+    menu.addSeparator();
+    connect(menu.addAction(tr("Delete")), &QAction::triggered, this, &CallsPane::removeChosen);
+    menu.exec(ui->tableRecords->viewport()->mapToGlobal(place));
+}
+
+void CallsPane::showWords()
+{
+    setObstacle(m_strObstacle);
+    showWhetherEmpty();
+    if (m_pHistory != nullptr) {
+        showNotice();
+        showRemoved();
+    }
+}
+
+void CallsPane::nameClearButton()
+{
+    // The button is the edit field's own part, so the form cannot name it.
+    auto *button = ui->editCallSearch->findChild<QToolButton *>();
+    button->setObjectName(QStringLiteral("btnClearCallSearch"));
+    button->setAccessibleName(tr("Clear the search"));
+    button->setToolTip(button->accessibleName());
 }
 
 void CallsPane::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
+        nameClearButton();
         if (m_pModel != nullptr) {
             m_pModel->retranslate();
         }
+        showWords();
     }
     QWidget::changeEvent(event);
 }
 
+/// The keys of the search field that lead elsewhere.
+bool CallsPane::searchKey(int iKey)
+{
+    if (iKey == Qt::Key_Escape) {
+        ui->editCallSearch->clear();
+        return true;
+    }
+    if (iKey == Qt::Key_Down || iKey == Qt::Key_Return || iKey == Qt::Key_Enter) {
+        ui->tableRecords->setFocus(Qt::TabFocusReason);
+        return true;
+    }
+    return false;
+}
+
+void CallsPane::turnedTo(Qt::FocusReason reason)
+{
+    // There is always a call that Enter means.
+    if (!ui->tableRecords->currentIndex().isValid()) {
+        ui->tableRecords->setCurrentIndex(m_pModel->index(0, 0));
+    }
+    // The window that comes to the front gives the focus back by itself: nobody has turned to the list.
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason) {
+        markSeen();
+    }
+}
+
 bool CallsPane::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::KeyPress) {
+    if (m_pModel == nullptr) {
+        return QWidget::eventFilter(watched, event);
+    }
+    if (watched == ui->editCallSearch) {
+        return event->type() == QEvent::KeyPress && searchKey(static_cast<QKeyEvent *>(event)->key());
+    }
+    switch (event->type()) {
+    case QEvent::KeyPress: {
+        markSeen();
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
             redial(ui->tableRecords->currentIndex());
             return true;
         }
-    } else if (event->type() == QEvent::FocusIn && !ui->tableRecords->currentIndex().isValid() && m_pModel != nullptr) {
-        // There is always a record that Enter means.
-        ui->tableRecords->setCurrentIndex(m_pModel->index(0, 0));
+        break;
+    }
+    case QEvent::MouseButtonPress:
+        markSeen();
+        break;
+    case QEvent::FocusIn:
+        turnedTo(static_cast<QFocusEvent *>(event)->reason());
+        break;
+    default:
+        break;
     }
     return QWidget::eventFilter(watched, event);
 }

@@ -68,6 +68,13 @@ bool ContactList::enter()
     return bShown;
 }
 
+void ContactList::setObstacle(const QString &strReason)
+{
+    for (ContactRow *row : m_rows) {
+        row->setObstacle(strReason);
+    }
+}
+
 void ContactList::takeSkin()
 {
     for (ContactRow *row : qAsConst(m_rows)) {

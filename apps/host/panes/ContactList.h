@@ -26,6 +26,8 @@ public:
     void followInTabOrder(QWidget *before);
     /// Gives the focus to the current row; false when there is none.
     bool enter();
+    /// Says why nobody can be called now; empty when one can be.
+    void setObstacle(const QString &strReason);
     /// Draws the rows in the colours of the current skin.
     void takeSkin();
 

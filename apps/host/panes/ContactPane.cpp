@@ -11,14 +11,14 @@ ContactPane::ContactPane(QWidget *parent) : QWidget(parent), ui(std::make_unique
     ui->setupUi(this);
     ui->editSearch->installEventFilter(this);
     nameClearButton();
+    showObstacle();
     connect(ui->editSearch, &QLineEdit::textChanged, this, &ContactPane::search);
     connect(ui->contactArea, &ContactList::callClicked, this, &ContactPane::callWanted);
     connect(ui->contactArea, &ContactList::leftUpwards, this, &ContactPane::startSearch);
     connect(ui->btnConference, &QPushButton::clicked, this, &ContactPane::conferenceWanted);
     connect(ui->btnCallNumber, &QPushButton::clicked, this, &ContactPane::callNumber);
     connect(ui->editNumber, &QLineEdit::returnPressed, this, &ContactPane::callNumber);
-    connect(ui->editNumber, &QLineEdit::textChanged, this,
-            [this](const QString &strText) { ui->btnCallNumber->setEnabled(!strText.trimmed().isEmpty()); });
+    connect(ui->editNumber, &QLineEdit::textChanged, this, &ContactPane::showObstacle);
 }
 
 ContactPane::~ContactPane() = default;
@@ -51,11 +51,34 @@ void ContactPane::search()
 void ContactPane::callNumber()
 {
     const QString number = ui->editNumber->text().trimmed();
-    if (number.isEmpty()) {
+    // The number stays where it cannot be called now.
+    if (number.isEmpty() || !m_strObstacle.isEmpty()) {
         return;
     }
     ui->editNumber->clear();
     emit callWanted(number, false);
+}
+
+void ContactPane::setObstacle(const QString &strReason)
+{
+    m_strObstacle = strReason;
+    ui->contactArea->setObstacle(strReason);
+    showObstacle();
+}
+
+void ContactPane::showObstacle()
+{
+    const bool bFree = m_strObstacle.isEmpty();
+    const bool bNumber = !ui->editNumber->text().trimmed().isEmpty();
+    ui->btnConference->setEnabled(bFree);
+    ui->btnConference->setToolTip(bFree ? tr("Call several people together") : m_strObstacle);
+    ui->btnCallNumber->setEnabled(bFree && bNumber);
+    ui->btnCallNumber->setToolTip(!bFree    ? m_strObstacle
+                                  : bNumber ? tr("Call this number")
+                                            : tr("Enter a number first"));
+    for (QWidget *button : {static_cast<QWidget *>(ui->btnConference), static_cast<QWidget *>(ui->btnCallNumber)}) {
+        button->setAccessibleDescription(button->toolTip());
+    }
 }
 
 void ContactPane::nameClearButton()
@@ -72,6 +95,7 @@ void ContactPane::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
         nameClearButton();
+        showObstacle();
     }
     QWidget::changeEvent(event);
 }

@@ -24,6 +24,8 @@ public:
     void fill(const ContactBook &book);
     /// Gives the focus to the search field.
     void startSearch();
+    /// Says why nobody can be called now: every button that would is disabled with it in its tip. Empty when one can.
+    void setObstacle(const QString &strReason);
     /// Draws the contacts in the colours of the current skin.
     void takeSkin();
 
@@ -42,6 +44,8 @@ private:
     void search();
     void callNumber();
     void nameClearButton();
+    void showObstacle();
 
     std::unique_ptr<Ui::ContactPane> ui;
+    QString m_strObstacle;
 };

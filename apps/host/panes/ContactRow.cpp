@@ -66,7 +66,24 @@ void ContactRow::showWords()
     ui->btnVideo->setToolTip(tr("Call %1 by video").arg(name));
     for (QToolButton *button : {ui->btnCall, ui->btnVideo}) {
         button->setAccessibleName(button->toolTip());
+        button->setAccessibleDescription(m_strObstacle);
+        if (!m_strObstacle.isEmpty()) {
+            button->setToolTip(m_strObstacle);
+        }
     }
+}
+
+void ContactRow::setObstacle(const QString &strReason)
+{
+    m_strObstacle = strReason;
+    // Focus on a button that goes would jump to another contact.
+    if (!strReason.isEmpty() && (ui->btnCall->hasFocus() || ui->btnVideo->hasFocus())) {
+        setFocus(Qt::OtherFocusReason);
+    }
+    for (QToolButton *button : {ui->btnCall, ui->btnVideo}) {
+        button->setEnabled(strReason.isEmpty());
+    }
+    showWords();
 }
 
 void ContactRow::changeEvent(QEvent *event)

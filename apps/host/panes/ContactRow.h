@@ -27,6 +27,8 @@ public:
     void setTabStop(bool bStop);
     /// Makes row and buttons follow `before` in the order of the Tab key; returns the last of them.
     QWidget *followInTabOrder(QWidget *before);
+    /// Says why this contact cannot be called now: the buttons are disabled with it in their tips. Empty: it can be.
+    void setObstacle(const QString &strReason);
     /// Draws the buttons in the colours of the current skin.
     void takeSkin();
 
@@ -48,4 +50,5 @@ private:
 
     std::unique_ptr<Ui::ContactRow> ui;
     ContactBook::Entry m_entry;
+    QString m_strObstacle;
 };

@@ -9,23 +9,28 @@
 #include "happenings/TraceFolder.h"
 #include "panes/MemberPicker.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QMessageBox>
 #include <QScreen>
 #include <QShortcut>
 
 #include <utility>
 
 MainWindow::MainWindow(HostSession &session, const ContactBook &book)
-    : ui(std::make_unique<Ui::MainWindow>()), m_session(session), m_book(book), m_records(book), m_prompt(book),
-      m_signature(book), m_settingsPage(session.settings())
+    : ui(std::make_unique<Ui::MainWindow>()), m_session(session), m_book(book), m_status(*this, session.calls(), book),
+      m_prompt(book), m_signature(book), m_settingsPage(session.settings())
 {
     ui->setupUi(this);
+    // The call window is in front when a tip has to say why nobody else can be called.
+    setAttribute(Qt::WA_AlwaysShowToolTips);
     fillHeader();
     ui->contactPane->fill(m_book);
-    ui->callsPane->setModel(&m_records);
+    ui->callsPane->show(&m_session.history(), &m_book);
     setUpHappenings();
     connectParts();
     connectSession();
+    connectCalls();
     takeSkin();
     showNotice();
     showOnline(m_session.isOnline());
@@ -46,8 +51,10 @@ void MainWindow::connectParts()
     connect(ui->btnOnline, &QPushButton::clicked, this, [this](bool bChecked) { m_session.setOnline(bChecked); });
     connect(ui->btnTryStore, &QPushButton::clicked, this, &MainWindow::tryStoreAgain);
     connect(ui->contactPane, &ContactPane::callWanted, this, &MainWindow::call);
-    connect(ui->contactPane, &ContactPane::conferenceWanted, this, [this] { startConference(QStringList()); });
+    connect(ui->contactPane, &ContactPane::conferenceWanted, this, [this] { startConference(QStringList(), false); });
     connect(ui->callsPane, &CallsPane::callWanted, this, &MainWindow::call);
+    connect(ui->callsPane, &CallsPane::conferenceWanted, this,
+            [this](const QStringList &uids) { startConference(uids, false); });
     connect(ui->callsPane, &CallsPane::centreWanted, &m_session, &HostSession::showConferenceCentre);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, ui->contactPane, &ContactPane::startSearch);
     connect(new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_I), this), &QShortcut::activated, &m_prompt,
@@ -93,34 +100,72 @@ void MainWindow::connectSession()
     HostMailbox &mailbox = m_session.mailbox();
     connect(&m_session, &HostSession::onlineChanged, this, &MainWindow::showOnline);
     connect(&m_session.settings(), &HostSettings::skinChanged, this, &MainWindow::takeSkin);
-    connect(&mailbox, &HostMailbox::callFinished, this, &MainWindow::showRecord);
-    connect(&mailbox, &HostMailbox::callIncoming, this, [this](const QString &strUid, bool bConference, bool bVideo) {
-        statusBar()->showMessage(tr("%1 is calling").arg(m_book.nameOf(strUid)));
-        m_prompt.prompt(strUid, bConference, bVideo);
-    });
+    connect(&mailbox, &HostMailbox::callIncoming, &m_prompt, &IncomingPrompt::prompt);
     connect(&mailbox, &HostMailbox::promptWithdrawn, &m_prompt, &IncomingPrompt::withdraw);
     connect(&m_prompt, &IncomingPrompt::answered, this, [this](const QString &strUid, bool bAccept) {
         const QString name = m_book.nameOf(strUid);
-        statusBar()->showMessage(bAccept ? tr("Call of %1 accepted").arg(name) : tr("Call of %1 rejected").arg(name));
+        m_status.hold(bAccept ? tr("Call of %1 accepted").arg(name) : tr("Call of %1 rejected").arg(name));
         m_session.answerCall(bAccept);
     });
-    connect(&mailbox, &HostMailbox::conferenceWanted, this, &MainWindow::startConference);
+    connect(&mailbox, &HostMailbox::conferenceWanted, this,
+            [this](const QStringList &uids) { startConference(uids, true); });
     connect(&mailbox, &HostMailbox::signatureShown, &m_signature, &SignatureCard::showCard);
     connect(&mailbox, &HostMailbox::signatureHidden, &m_signature, &QWidget::hide);
     mailbox.setMemberPicker(
         [this](const QStringList &present) { return MemberPicker::pickMore(m_book, present, this); });
 }
 
-void MainWindow::call(const QString &strUid, bool bVideo)
+void MainWindow::connectCalls()
 {
-    statusBar()->showMessage(tr("Calling %1").arg(m_book.nameOf(strUid)));
-    m_session.callUser(strUid, bVideo);
+    const CallWatch &calls = m_session.calls();
+    connect(&calls, &CallWatch::changed, this, [this, &calls] { m_readiness.setInCall(calls.hasCall()); });
+    connect(&calls, &CallWatch::ended, this, [this](const CallEntry &call) {
+        if (!call.seen) {
+            QApplication::alert(this);
+        }
+    });
+    connect(&m_session.history(), &CallHistory::reported, this, &MainWindow::showNotice);
+    connect(&m_readiness, &CallReadiness::changed, this, &MainWindow::showReadiness);
+    m_readiness.setInCall(calls.hasCall());
+    showReadiness();
 }
 
-void MainWindow::startConference(const QStringList &named)
+void MainWindow::showReadiness()
 {
-    if (const std::optional<ConferenceWish> wish = MemberPicker::pickNew(m_book, named, this)) {
-        statusBar()->showMessage(tr("Starting a conference with %n other(s)", nullptr, wish->uids.size()));
+    const QString reason = m_readiness.reason();
+    ui->contactPane->setObstacle(reason);
+    ui->callsPane->setObstacle(reason);
+}
+
+bool MainWindow::refuses(bool bInBox)
+{
+    if (m_readiness.isReady()) {
+        return false;
+    }
+    m_status.say(m_readiness.reason());
+    if (bInBox) {
+        QMessageBox::information(this, windowTitle(), m_readiness.reason());
+    }
+    return true;
+}
+
+void MainWindow::call(const QString &strUid, bool bVideo)
+{
+    if (!refuses(false)) {
+        m_status.hold(tr("Calling %1").arg(m_book.nameOf(strUid)));
+        m_session.callUser(strUid, bVideo);
+    }
+}
+
+void MainWindow::startConference(const QStringList &named, bool bFromPlugin)
+{
+    if (refuses(bFromPlugin)) {
+        return;
+    }
+    const std::optional<ConferenceWish> wish = MemberPicker::pickNew(m_book, named, this);
+    // Somebody may have called meanwhile.
+    if (wish && !refuses(true)) {
+        m_status.hold(tr("Starting a conference with %n other(s)", nullptr, wish->uids.size()));
         m_session.callConference(*wish);
     }
 }
@@ -133,12 +178,13 @@ void MainWindow::showOnline(bool bOnline)
                                                  m_book.card(ContactBook::ownUid())->m_strPhotoPath));
     ui->btnOnline->setChecked(bOnline);
     ui->btnOnline->setText(bOnline ? tr("&Online") : tr("&Offline"));
-    statusBar()->showMessage(bOnline ? tr("Signed in as %1").arg(name) : tr("Signed out"));
+    m_readiness.setSignedIn(bOnline);
+    m_status.say(bOnline ? tr("Signed in as %1").arg(name) : tr("Signed out"));
 }
 
 void MainWindow::showNotice()
 {
-    const QStringList &reports = m_session.store().reports();
+    const QStringList reports = m_session.store().reports() + m_session.history().reports();
     ui->lblNotice->setText(reports.join(QLatin1Char('\n')));
     ui->notice->setVisible(!reports.isEmpty());
     ui->btnTryStore->setVisible(m_session.store().isHeldByAnother());
@@ -149,18 +195,8 @@ void MainWindow::tryStoreAgain()
     m_session.openStore();
     showNotice();
     if (m_session.store().reports().isEmpty()) {
-        statusBar()->showMessage(tr("The local store is open"));
+        m_status.say(tr("The local store is open"));
     }
-}
-
-void MainWindow::showRecord(const CallRecord &record)
-{
-    m_records.add(record);
-    const QString name = m_book.nameOf(record.uid);
-    const QString outcome = outcomeWord(record.result);
-    statusBar()->showMessage(record.connected
-                                 ? tr("Call with %1: %2 after %3").arg(name, outcome, durationText(record.seconds))
-                                 : tr("Call with %1: %2").arg(name, outcome));
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -168,6 +204,7 @@ void MainWindow::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
         showOnline(m_session.isOnline());
+        showReadiness();
     }
     QMainWindow::changeEvent(event);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "panes/CallRecordModel.h"
+#include "history/CallReadiness.h"
+#include "panes/CallStatusLine.h"
 #include "panes/IncomingPrompt.h"
 #include "panes/SettingsPage.h"
 #include "panes/SignatureCard.h"
@@ -17,7 +18,7 @@ namespace Ui {
 class MainWindow;
 }
 
-/// The demo's window: contacts on the left, the records of finished calls on the right, settings and the login switch
+/// The demo's window: contacts on the left, the history of calls on the right, settings and the login switch
 /// on top, and below them what has to be told of the local store; rightmost, on demand, what happens. It owns the
 /// prompt of incoming calls, the signature card and the settings page. Ctrl+F goes to the search field, Ctrl+I to the
 /// prompt, Ctrl+Shift+H shows and hides what happens. GUI thread; session and book must outlive it.
@@ -29,8 +30,8 @@ public:
     MainWindow(HostSession &session, const ContactBook &book);
     ~MainWindow() override;
 
-    /// The records shown.
-    const CallRecordModel &records() const { return m_records; }
+    /// Whether calls can be placed, which the controls show.
+    CallReadiness &readiness() { return m_readiness; }
     /// The prompt of incoming calls, hidden while none rings.
     IncomingPrompt &prompt() { return m_prompt; }
     /// The signature card, hidden while none is asked for.
@@ -52,16 +53,21 @@ private:
     void takeSkin();
     void call(const QString &strUid, bool bVideo);
     /// Lets the user pick people, those named checked from the start, and calls them together.
-    void startConference(const QStringList &named);
+    /// `bFromPlugin`: one of its windows has asked for it.
+    void startConference(const QStringList &named, bool bFromPlugin);
     void showOnline(bool bOnline);
     void showNotice();
     void tryStoreAgain();
-    void showRecord(const CallRecord &record);
+    void connectCalls();
+    void showReadiness();
+    /// Says why no call can be placed now, in a box where the user looks elsewhere; false when one can.
+    bool refuses(bool bInBox);
 
     std::unique_ptr<Ui::MainWindow> ui;
     HostSession &m_session;
     const ContactBook &m_book;
-    CallRecordModel m_records;
+    CallReadiness m_readiness;
+    CallStatusLine m_status;
     IncomingPrompt m_prompt;
     SignatureCard m_signature;
     SettingsPage m_settingsPage;

@@ -9,6 +9,9 @@
 
 namespace {
 
+// What X calls the Return key.
+constexpr unsigned int cReturnSymbol = 0xff0d;
+
 struct Freed
 {
     void operator()(void *reply) const { std::free(reply); }
@@ -65,4 +68,13 @@ bool ScreenKeys::type(const QString &strText)
         std::for_each(codes.begin(), codes.end(), [this](unsigned char code) { press(code); });
     }
     return bAll;
+}
+
+bool ScreenKeys::enter()
+{
+    const unsigned char code = codeOf(cReturnSymbol);
+    if (code != 0) {
+        press(code);
+    }
+    return code != 0;
 }

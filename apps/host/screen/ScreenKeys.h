@@ -17,6 +17,8 @@ public:
 
     /// Types small Latin letters, digits and spaces; false, with nothing typed, when the keyboard lacks one of them.
     bool type(const QString &strText);
+    /// Presses the Return key; false when the keyboard lacks it.
+    bool enter();
 
 private:
     unsigned char codeOf(unsigned int keysym) const;

@@ -19,6 +19,8 @@ public:
 
     // Actions: clicks on real buttons with the real mouse.
     Action pressContact(const char *strUid, const char *strButton) const;
+    /// Rests the mouse on it, whether it can be pressed or not.
+    Action hoverContact(const char *strUid, const char *strButton) const;
     Action pressMain(const char *strButton) const;
     Action pressSettings(const QString &strButton) const;
     Action pressCallWindow(const char *strButton) const;
@@ -71,6 +73,7 @@ public:
     TourCheck record(int iResult, bool bCaller, bool bConnected) const;
     TourCheck mainSays(const char *strPart, const QString &strText) const;
     TourCheck mainShows(const char *strPart, bool bShown) const;
+    static TourCheck tipSays(const QString &strText);
     static TourCheck shows(const char *strPart, const QString &strText);
     static TourCheck clockRuns();
     static TourCheck windowGone();

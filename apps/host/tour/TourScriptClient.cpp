@@ -8,12 +8,28 @@
 #include "tour/TourHand.h"
 
 #include <QApplication>
+#include <QToolTip>
 
 TourScript::Action TourScript::pressContact(const char *strUid, const char *strButton) const
 {
     return click([window = &m_stage.window, strUid, strButton] {
         return WindowProbe::button(window->findChild<QWidget *>(QLatin1String(strUid)), strButton);
     });
+}
+
+TourScript::Action TourScript::hoverContact(const char *strUid, const char *strButton) const
+{
+    return hover([window = &m_stage.window, strUid, strButton] {
+        const auto *row = window->findChild<QWidget *>(QLatin1String(strUid));
+        auto *button = row->findChild<QWidget *>(QLatin1String(strButton));
+        return WindowProbe::Spot{button, button->rect().center()};
+    });
+}
+
+TourCheck TourScript::tipSays(const QString &strText)
+{
+    return {QStringLiteral("the tip says %1").arg(strText),
+            [strText] { return QToolTip::isVisible() && QToolTip::text() == strText; }};
 }
 
 TourScript::Action TourScript::pressMain(const char *strButton) const

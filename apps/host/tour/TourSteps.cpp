@@ -10,6 +10,7 @@
 #include "screen/WindowProbe.h"
 #include "tour/TourCast.h"
 #include "tour/TourConference.h"
+#include "tour/TourHistory.h"
 #include "tour/TourScript.h"
 #include "tour/TourSettings.h"
 #include "tour/TourWatch.h"
@@ -31,7 +32,7 @@ namespace {
 constexpr const char *cVoiceTitle = "语音通话";
 constexpr const char *cCalling = "正在呼叫...";
 constexpr const char *cConnected = "已接通";
-constexpr const char *cLineInUse = "You are in a call already. Please end it first.";
+constexpr const char *cLineInUse = "You are in a call. End it first.";
 constexpr const char *cNoProcess = "音频通话初始化失败，请尝试重启客户端解决";
 constexpr const char *cSureToClose = "Do you want to end this call?";
 
@@ -149,15 +150,13 @@ Steps duringCall(const TourScript &s)
         {u("Switch the microphone off"),
          s.pressCallWindow("btnMic"),
          {s.command(Command::SetMicEnable, u("\"param1\":false"))}},
-        {u("Try a second call meanwhile"),
-         s.pressContact(busy, "btnCall"),
-         {s.boxSays(u(cLineInUse))},
+        {u("Rest the mouse on Maria Silva's phone: its tip says why nobody can be called now"),
+         s.hoverContact(busy, "btnCall"),
+         {s.tipSays(u(cLineInUse))},
          cUsualLimitMs,
-         u("message"),
-         s.messageBox()},
-        {u("Close the message; the call goes on"),
-         s.pressBox("closeBtn"),
-         {s.boxGone(), s.shows("lblStatus", u(cConnected))}},
+         u("second-call"),
+         s.mainWindow()},
+        {u("Take the mouse away; the call goes on"), s.leave(), {s.shows("lblStatus", u(cConnected))}},
     };
 }
 
@@ -325,6 +324,6 @@ QList<TourStep> tourSteps(const TourStage &stage)
            unanswered(s, fails, "Call 赵强: the call fails", Code::CallFailed, "failed", resultFailed) +
            call(s, "Call 李雷, who answers", u("call-voice")) + duringCall(s) + hangUp(s, "Hang up") + video(s, stage) +
            farEnd(s) + incoming(s) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
-           call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + happenings(s, stage) +
-           settingsSteps(stage) + leave(s, stage);
+           call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + historySteps(stage) +
+           happenings(s, stage) + settingsSteps(stage) + leave(s, stage) + restartSteps(stage);
 }

@@ -920,7 +920,69 @@
     </message>
 </context>
 <context>
-    <name>CallRecordModel</name>
+    <name>CallEntry</name>
+    <message>
+        <source>now</source>
+        <translation>now</translation>
+    </message>
+    <message>
+        <source>missed</source>
+        <translation>missed</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>cut off</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>no answer</translation>
+    </message>
+</context>
+<context>
+    <name>CallFile</name>
+    <message>
+        <source>The list of calls %1 is damaged and cannot be moved aside. Calls of this session will not be kept.</source>
+        <translation>The list of calls %1 is damaged and cannot be moved aside. Calls of this session will not be kept.</translation>
+    </message>
+    <message>
+        <source>The list of calls was damaged. The file is kept as %1; a new one has been started.</source>
+        <translation>The list of calls was damaged. The file is kept as %1; a new one has been started.</translation>
+    </message>
+    <message>
+        <source>The list of calls %1 cannot be written to. Calls of this session will not be kept.</source>
+        <translation>The list of calls %1 cannot be written to. Calls of this session will not be kept.</translation>
+    </message>
+    <message>
+        <source>The list of calls %1 is in use by another program. Calls of this session will not be kept.</source>
+        <translation>The list of calls %1 is in use by another program. Calls of this session will not be kept.</translation>
+    </message>
+    <message>
+        <source>The list of calls %1 was written by a newer client and stays as it is. Calls of this session will not be kept.</source>
+        <translation>The list of calls %1 was written by a newer client and stays as it is. Calls of this session will not be kept.</translation>
+    </message>
+    <message>
+        <source>The list of calls %1 cannot be opened. Calls of this session will not be kept.</source>
+        <translation>The list of calls %1 cannot be opened. Calls of this session will not be kept.</translation>
+    </message>
+</context>
+<context>
+    <name>CallHistoryModel</name>
+    <message>
+        <source>Conference</source>
+        <translation>Conference</translation>
+    </message>
+    <message>
+        <source>Conference: %1</source>
+        <translation>Conference: %1</translation>
+    </message>
+    <message>
+        <source>Today %1</source>
+        <translation>Today %1</translation>
+    </message>
+    <message>
+        <source>Yesterday %1</source>
+        <translation>Yesterday %1</translation>
+    </message>
     <message>
         <source>outgoing video</source>
         <translation>outgoing video</translation>
@@ -938,14 +1000,6 @@
         <translation>incoming</translation>
     </message>
     <message>
-        <source>yes</source>
-        <translation>yes</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>no</translation>
-    </message>
-    <message>
         <source>Who</source>
         <translation>Who</translation>
     </message>
@@ -958,16 +1012,125 @@
         <translation>Outcome</translation>
     </message>
     <message>
-        <source>Connected</source>
-        <translation>Connected</translation>
+        <source>Length</source>
+        <translation>Length</translation>
     </message>
     <message>
-        <source>Duration</source>
-        <translation>Duration</translation>
+        <source>When</source>
+        <translation>When</translation>
+    </message>
+</context>
+<context>
+    <name>CallReadiness</name>
+    <message>
+        <source>You are in a call. End it first.</source>
+        <translation>You are in a call. End it first.</translation>
     </message>
     <message>
-        <source>Ended at</source>
-        <translation>Ended at</translation>
+        <source>You are signed out. Sign in first.</source>
+        <translation>You are signed out. Sign in first.</translation>
+    </message>
+    <message>
+        <source>The call service cannot be reached.</source>
+        <translation>The call service cannot be reached.</translation>
+    </message>
+</context>
+<context>
+    <name>CallSentences</name>
+    <message>
+        <source>Your conference ended after %1</source>
+        <translation>Your conference ended after %1</translation>
+    </message>
+    <message>
+        <source>Nobody joined your conference</source>
+        <translation>Nobody joined your conference</translation>
+    </message>
+    <message>
+        <source>Your conference was cancelled</source>
+        <translation>Your conference was cancelled</translation>
+    </message>
+    <message>
+        <source>Your conference was cut off</source>
+        <translation>Your conference was cut off</translation>
+    </message>
+    <message>
+        <source>Your conference could not be held</source>
+        <translation>Your conference could not be held</translation>
+    </message>
+    <message>
+        <source>%1 gave up the call</source>
+        <translation>%1 gave up the call</translation>
+    </message>
+    <message>
+        <source>Missed an invitation to a conference from %1</source>
+        <translation>Missed an invitation to a conference from %1</translation>
+    </message>
+    <message>
+        <source>Missed call from %1</source>
+        <translation>Missed call from %1</translation>
+    </message>
+    <message>
+        <source>The conference of %1 was cut off</source>
+        <translation>The conference of %1 was cut off</translation>
+    </message>
+    <message>
+        <source>The call with %1 was cut off</source>
+        <translation>The call with %1 was cut off</translation>
+    </message>
+    <message>
+        <source>%1 did not answer</source>
+        <translation>%1 did not answer</translation>
+    </message>
+    <message>
+        <source>The call with %1 was cancelled</source>
+        <translation>The call with %1 was cancelled</translation>
+    </message>
+    <message>
+        <source>The conference of %1 ended after %2</source>
+        <translation>The conference of %1 ended after %2</translation>
+    </message>
+    <message>
+        <source>%1 hung up after %2</source>
+        <translation>%1 hung up after %2</translation>
+    </message>
+    <message>
+        <source>%1 was busy</source>
+        <translation>%1 was busy</translation>
+    </message>
+    <message>
+        <source>%1 rejected the call</source>
+        <translation>%1 rejected the call</translation>
+    </message>
+    <message>
+        <source>The conference of %1 failed</source>
+        <translation>The conference of %1 failed</translation>
+    </message>
+    <message>
+        <source>The call with %1 failed</source>
+        <translation>The call with %1 failed</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2 after %3</source>
+        <translation>Call with %1: %2 after %3</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2</source>
+        <translation>Call with %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CallStatusLine</name>
+    <message>
+        <source>%1 is calling</source>
+        <translation>%1 is calling</translation>
+    </message>
+    <message>
+        <source>The conference was not started</source>
+        <translation>The conference was not started</translation>
+    </message>
+    <message>
+        <source>The call of %1 was not placed</source>
+        <translation>The call of %1 was not placed</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1138,10 @@
     <message>
         <source>Calls</source>
         <translation>Calls</translation>
+    </message>
+    <message>
+        <source>Show the missed calls</source>
+        <translation>Show the missed calls</translation>
     </message>
     <message>
         <source>Past conferences: look at them, call them again, delete them</source>
@@ -985,16 +1152,117 @@
         <translation>Conference ce&amp;ntre</translation>
     </message>
     <message>
-        <source>Double click or Enter calls again</source>
-        <translation>Double click or Enter calls again</translation>
+        <source>Call again</source>
+        <translation>Call again</translation>
     </message>
     <message>
-        <source>Enter calls again</source>
-        <translation>Enter calls again</translation>
+        <source>I have seen it: take this away</source>
+        <translation>I have seen it: take this away</translation>
+    </message>
+    <message>
+        <source>Seen</source>
+        <translation>Seen</translation>
+    </message>
+    <message>
+        <source>Search the calls</source>
+        <translation>Search the calls</translation>
+    </message>
+    <message>
+        <source>Search the calls by name, number or initials</source>
+        <translation>Search the calls by name, number or initials</translation>
+    </message>
+    <message>
+        <source>All calls</source>
+        <translation>All calls</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>Missed calls alone</source>
+        <translation>Missed calls alone</translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <translation>Missed</translation>
+    </message>
+    <message>
+        <source>Conferences alone</source>
+        <translation>Conferences alone</translation>
+    </message>
+    <message>
+        <source>Conferences</source>
+        <translation>Conferences</translation>
+    </message>
+    <message>
+        <source>Double click or Enter calls again, Delete deletes</source>
+        <translation>Double click or Enter calls again, Delete deletes</translation>
+    </message>
+    <message>
+        <source>Enter calls again, Delete deletes, Ctrl+Z brings back</source>
+        <translation>Enter calls again, Delete deletes, Ctrl+Z brings back</translation>
+    </message>
+    <message>
+        <source>Bring back what was deleted (Ctrl+Z in the list)</source>
+        <translation>Bring back what was deleted (Ctrl+Z in the list)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
     </message>
     <message>
         <source>No calls yet</source>
         <translation>No calls yet</translation>
+    </message>
+    <message>
+        <source>No call matches</source>
+        <translation>No call matches</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missed</source>
+        <translation>
+            <numerusform>%n missed</numerusform>
+            <numerusform>%n missed</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call who stands in the first line</source>
+        <translation>Call who stands in the first line</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s) deleted</source>
+        <translation>
+            <numerusform>%n call deleted</numerusform>
+            <numerusform>%n calls deleted</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call together again...</source>
+        <translation>Call together again...</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Call</translation>
+    </message>
+    <message>
+        <source>Call by video</source>
+        <translation>Call by video</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Clear the search</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1310,14 @@
     <message>
         <source>Clear the search</source>
         <translation>Clear the search</translation>
+    </message>
+    <message>
+        <source>Call this number</source>
+        <translation>Call this number</translation>
+    </message>
+    <message>
+        <source>Enter a number first</source>
+        <translation>Enter a number first</translation>
     </message>
 </context>
 <context>
@@ -1170,10 +1446,6 @@
         <translation>&amp;Try again</translation>
     </message>
     <message>
-        <source>%1 is calling</source>
-        <translation>%1 is calling</translation>
-    </message>
-    <message>
         <source>Call of %1 accepted</source>
         <translation>Call of %1 accepted</translation>
     </message>
@@ -1207,14 +1479,6 @@
     <message>
         <source>Signed out</source>
         <translation>Signed out</translation>
-    </message>
-    <message>
-        <source>Call with %1: %2 after %3</source>
-        <translation>Call with %1: %2 after %3</translation>
-    </message>
-    <message>
-        <source>Call with %1: %2</source>
-        <translation>Call with %1: %2</translation>
     </message>
     <message>
         <source>The local store is open</source>

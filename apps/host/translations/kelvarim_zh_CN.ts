@@ -920,7 +920,69 @@
     </message>
 </context>
 <context>
-    <name>CallRecordModel</name>
+    <name>CallEntry</name>
+    <message>
+        <source>now</source>
+        <translation>通话中</translation>
+    </message>
+    <message>
+        <source>missed</source>
+        <translation>未接</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>中断</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>无人接听</translation>
+    </message>
+</context>
+<context>
+    <name>CallFile</name>
+    <message>
+        <source>The list of calls %1 is damaged and cannot be moved aside. Calls of this session will not be kept.</source>
+        <translation>通话记录 %1 已损坏，且无法移走。本次会话的通话将不会保存。</translation>
+    </message>
+    <message>
+        <source>The list of calls was damaged. The file is kept as %1; a new one has been started.</source>
+        <translation>通话记录已损坏。该文件保留为 %1，并已新建一个。</translation>
+    </message>
+    <message>
+        <source>The list of calls %1 cannot be written to. Calls of this session will not be kept.</source>
+        <translation>通话记录 %1 无法写入。本次会话的通话将不会保存。</translation>
+    </message>
+    <message>
+        <source>The list of calls %1 is in use by another program. Calls of this session will not be kept.</source>
+        <translation>通话记录 %1 正被另一个程序使用。本次会话的通话将不会保存。</translation>
+    </message>
+    <message>
+        <source>The list of calls %1 was written by a newer client and stays as it is. Calls of this session will not be kept.</source>
+        <translation>通话记录 %1 由更新版本的客户端写入，将保持原样。本次会话的通话将不会保存。</translation>
+    </message>
+    <message>
+        <source>The list of calls %1 cannot be opened. Calls of this session will not be kept.</source>
+        <translation>通话记录 %1 无法打开。本次会话的通话将不会保存。</translation>
+    </message>
+</context>
+<context>
+    <name>CallHistoryModel</name>
+    <message>
+        <source>Conference</source>
+        <translation>会议</translation>
+    </message>
+    <message>
+        <source>Conference: %1</source>
+        <translation>会议：%1</translation>
+    </message>
+    <message>
+        <source>Today %1</source>
+        <translation>今天 %1</translation>
+    </message>
+    <message>
+        <source>Yesterday %1</source>
+        <translation>昨天 %1</translation>
+    </message>
     <message>
         <source>outgoing video</source>
         <translation>呼出视频</translation>
@@ -938,43 +1000,148 @@
         <translation>呼入</translation>
     </message>
     <message>
-        <source>yes</source>
-        <translation>是</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>否</translation>
-    </message>
-    <message>
         <source>Who</source>
-        <translation>联系人</translation>
+        <translation>对方</translation>
     </message>
     <message>
         <source>Call</source>
-        <translation>呼叫</translation>
+        <translation>通话</translation>
     </message>
     <message>
         <source>Outcome</source>
         <translation>结果</translation>
     </message>
     <message>
-        <source>Connected</source>
-        <translation>接通</translation>
-    </message>
-    <message>
-        <source>Duration</source>
+        <source>Length</source>
         <translation>时长</translation>
     </message>
     <message>
-        <source>Ended at</source>
-        <translation>结束时间</translation>
+        <source>When</source>
+        <translation>时间</translation>
+    </message>
+</context>
+<context>
+    <name>CallReadiness</name>
+    <message>
+        <source>You are in a call. End it first.</source>
+        <translation>您正在通话中，请先结束通话。</translation>
+    </message>
+    <message>
+        <source>You are signed out. Sign in first.</source>
+        <translation>您已离线，请先上线。</translation>
+    </message>
+    <message>
+        <source>The call service cannot be reached.</source>
+        <translation>无法连接通话服务。</translation>
+    </message>
+</context>
+<context>
+    <name>CallSentences</name>
+    <message>
+        <source>Your conference ended after %1</source>
+        <translation>您的会议在 %1 后结束</translation>
+    </message>
+    <message>
+        <source>Nobody joined your conference</source>
+        <translation>无人加入您的会议</translation>
+    </message>
+    <message>
+        <source>Your conference was cancelled</source>
+        <translation>您的会议已取消</translation>
+    </message>
+    <message>
+        <source>Your conference was cut off</source>
+        <translation>您的会议已中断</translation>
+    </message>
+    <message>
+        <source>Your conference could not be held</source>
+        <translation>您的会议未能进行</translation>
+    </message>
+    <message>
+        <source>%1 gave up the call</source>
+        <translation>%1 放弃了通话</translation>
+    </message>
+    <message>
+        <source>Missed an invitation to a conference from %1</source>
+        <translation>未接 %1 的会议邀请</translation>
+    </message>
+    <message>
+        <source>Missed call from %1</source>
+        <translation>%1 的未接来电</translation>
+    </message>
+    <message>
+        <source>The conference of %1 was cut off</source>
+        <translation>%1 的会议已中断</translation>
+    </message>
+    <message>
+        <source>The call with %1 was cut off</source>
+        <translation>与 %1 的通话已中断</translation>
+    </message>
+    <message>
+        <source>%1 did not answer</source>
+        <translation>%1 未接听</translation>
+    </message>
+    <message>
+        <source>The call with %1 was cancelled</source>
+        <translation>与 %1 的通话已取消</translation>
+    </message>
+    <message>
+        <source>The conference of %1 ended after %2</source>
+        <translation>%1 的会议在 %2 后结束</translation>
+    </message>
+    <message>
+        <source>%1 hung up after %2</source>
+        <translation>%1 在 %2 后挂断</translation>
+    </message>
+    <message>
+        <source>%1 was busy</source>
+        <translation>%1 正忙</translation>
+    </message>
+    <message>
+        <source>%1 rejected the call</source>
+        <translation>%1 拒绝了通话</translation>
+    </message>
+    <message>
+        <source>The conference of %1 failed</source>
+        <translation>%1 的会议失败</translation>
+    </message>
+    <message>
+        <source>The call with %1 failed</source>
+        <translation>与 %1 的通话失败</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2 after %3</source>
+        <translation>与 %1 的通话：%3 后%2</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2</source>
+        <translation>与 %1 的通话：%2</translation>
+    </message>
+</context>
+<context>
+    <name>CallStatusLine</name>
+    <message>
+        <source>%1 is calling</source>
+        <translation>%1 来电</translation>
+    </message>
+    <message>
+        <source>The conference was not started</source>
+        <translation>会议未发起</translation>
+    </message>
+    <message>
+        <source>The call of %1 was not placed</source>
+        <translation>未能呼叫 %1</translation>
     </message>
 </context>
 <context>
     <name>CallsPane</name>
     <message>
         <source>Calls</source>
-        <translation>通话记录</translation>
+        <translation>通话</translation>
+    </message>
+    <message>
+        <source>Show the missed calls</source>
+        <translation>显示未接来电</translation>
     </message>
     <message>
         <source>Past conferences: look at them, call them again, delete them</source>
@@ -985,16 +1152,114 @@
         <translation>会议中心(&amp;N)</translation>
     </message>
     <message>
-        <source>Double click or Enter calls again</source>
-        <translation>双击或按回车键再次呼叫</translation>
+        <source>Call again</source>
+        <translation>再次呼叫</translation>
     </message>
     <message>
-        <source>Enter calls again</source>
-        <translation>按回车键再次呼叫</translation>
+        <source>I have seen it: take this away</source>
+        <translation>我已看到，不再显示</translation>
+    </message>
+    <message>
+        <source>Seen</source>
+        <translation>知道了</translation>
+    </message>
+    <message>
+        <source>Search the calls</source>
+        <translation>搜索通话</translation>
+    </message>
+    <message>
+        <source>Search the calls by name, number or initials</source>
+        <translation>按姓名、号码或首字母搜索通话</translation>
+    </message>
+    <message>
+        <source>All calls</source>
+        <translation>全部通话</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Missed calls alone</source>
+        <translation>仅未接来电</translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <translation>未接</translation>
+    </message>
+    <message>
+        <source>Conferences alone</source>
+        <translation>仅会议</translation>
+    </message>
+    <message>
+        <source>Conferences</source>
+        <translation>会议</translation>
+    </message>
+    <message>
+        <source>Double click or Enter calls again, Delete deletes</source>
+        <translation>双击或按 Enter 再次呼叫，按 Delete 删除</translation>
+    </message>
+    <message>
+        <source>Enter calls again, Delete deletes, Ctrl+Z brings back</source>
+        <translation>按 Enter 再次呼叫，按 Delete 删除，按 Ctrl+Z 恢复</translation>
+    </message>
+    <message>
+        <source>Bring back what was deleted (Ctrl+Z in the list)</source>
+        <translation>恢复已删除的内容（在列表中按 Ctrl+Z）</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
     </message>
     <message>
         <source>No calls yet</source>
         <translation>还没有通话</translation>
+    </message>
+    <message>
+        <source>No call matches</source>
+        <translation>没有符合的通话</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>还有 %n 个</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missed</source>
+        <translation>
+            <numerusform>%n 个未接</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call who stands in the first line</source>
+        <translation>呼叫第一行中的人</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s) deleted</source>
+        <translation>
+            <numerusform>已删除 %n 个通话</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call together again...</source>
+        <translation>再次发起会议...</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>呼叫</translation>
+    </message>
+    <message>
+        <source>Call by video</source>
+        <translation>视频呼叫</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>清除搜索</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1307,14 @@
     <message>
         <source>Clear the search</source>
         <translation>清除搜索</translation>
+    </message>
+    <message>
+        <source>Call this number</source>
+        <translation>呼叫此号码</translation>
+    </message>
+    <message>
+        <source>Enter a number first</source>
+        <translation>请先输入号码</translation>
     </message>
 </context>
 <context>
@@ -1170,10 +1443,6 @@
         <translation>重试(&amp;T)</translation>
     </message>
     <message>
-        <source>%1 is calling</source>
-        <translation>%1 来电</translation>
-    </message>
-    <message>
         <source>Call of %1 accepted</source>
         <translation>已接听 %1 的来电</translation>
     </message>
@@ -1206,14 +1475,6 @@
     <message>
         <source>Signed out</source>
         <translation>已退出登录</translation>
-    </message>
-    <message>
-        <source>Call with %1: %2 after %3</source>
-        <translation>与 %1 的通话：%2，时长 %3</translation>
-    </message>
-    <message>
-        <source>Call with %1: %2</source>
-        <translation>与 %1 的通话：%2</translation>
     </message>
     <message>
         <source>The local store is open</source>

@@ -920,7 +920,69 @@
     </message>
 </context>
 <context>
-    <name>CallRecordModel</name>
+    <name>CallEntry</name>
+    <message>
+        <source>now</source>
+        <translation>通話中</translation>
+    </message>
+    <message>
+        <source>missed</source>
+        <translation>未接</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>中斷</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>無人接聽</translation>
+    </message>
+</context>
+<context>
+    <name>CallFile</name>
+    <message>
+        <source>The list of calls %1 is damaged and cannot be moved aside. Calls of this session will not be kept.</source>
+        <translation>通話記錄 %1 已損壞，且無法移走。本次工作階段的通話將不會儲存。</translation>
+    </message>
+    <message>
+        <source>The list of calls was damaged. The file is kept as %1; a new one has been started.</source>
+        <translation>通話記錄已損壞。該檔案保留為 %1，並已新建一個。</translation>
+    </message>
+    <message>
+        <source>The list of calls %1 cannot be written to. Calls of this session will not be kept.</source>
+        <translation>通話記錄 %1 無法寫入。本次工作階段的通話將不會儲存。</translation>
+    </message>
+    <message>
+        <source>The list of calls %1 is in use by another program. Calls of this session will not be kept.</source>
+        <translation>通話記錄 %1 正被另一個程式使用。本次工作階段的通話將不會儲存。</translation>
+    </message>
+    <message>
+        <source>The list of calls %1 was written by a newer client and stays as it is. Calls of this session will not be kept.</source>
+        <translation>通話記錄 %1 由較新版本的用戶端寫入，將保持原樣。本次工作階段的通話將不會儲存。</translation>
+    </message>
+    <message>
+        <source>The list of calls %1 cannot be opened. Calls of this session will not be kept.</source>
+        <translation>通話記錄 %1 無法開啟。本次工作階段的通話將不會儲存。</translation>
+    </message>
+</context>
+<context>
+    <name>CallHistoryModel</name>
+    <message>
+        <source>Conference</source>
+        <translation>會議</translation>
+    </message>
+    <message>
+        <source>Conference: %1</source>
+        <translation>會議：%1</translation>
+    </message>
+    <message>
+        <source>Today %1</source>
+        <translation>今天 %1</translation>
+    </message>
+    <message>
+        <source>Yesterday %1</source>
+        <translation>昨天 %1</translation>
+    </message>
     <message>
         <source>outgoing video</source>
         <translation>撥出視訊</translation>
@@ -938,43 +1000,148 @@
         <translation>撥入</translation>
     </message>
     <message>
-        <source>yes</source>
-        <translation>是</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>否</translation>
-    </message>
-    <message>
         <source>Who</source>
-        <translation>聯絡人</translation>
+        <translation>對方</translation>
     </message>
     <message>
         <source>Call</source>
-        <translation>呼叫</translation>
+        <translation>通話</translation>
     </message>
     <message>
         <source>Outcome</source>
         <translation>結果</translation>
     </message>
     <message>
-        <source>Connected</source>
-        <translation>接通</translation>
-    </message>
-    <message>
-        <source>Duration</source>
+        <source>Length</source>
         <translation>時長</translation>
     </message>
     <message>
-        <source>Ended at</source>
-        <translation>結束時間</translation>
+        <source>When</source>
+        <translation>時間</translation>
+    </message>
+</context>
+<context>
+    <name>CallReadiness</name>
+    <message>
+        <source>You are in a call. End it first.</source>
+        <translation>您正在通話中，請先結束通話。</translation>
+    </message>
+    <message>
+        <source>You are signed out. Sign in first.</source>
+        <translation>您已離線，請先上線。</translation>
+    </message>
+    <message>
+        <source>The call service cannot be reached.</source>
+        <translation>無法連線到通話服務。</translation>
+    </message>
+</context>
+<context>
+    <name>CallSentences</name>
+    <message>
+        <source>Your conference ended after %1</source>
+        <translation>您的會議在 %1 後結束</translation>
+    </message>
+    <message>
+        <source>Nobody joined your conference</source>
+        <translation>無人加入您的會議</translation>
+    </message>
+    <message>
+        <source>Your conference was cancelled</source>
+        <translation>您的會議已取消</translation>
+    </message>
+    <message>
+        <source>Your conference was cut off</source>
+        <translation>您的會議已中斷</translation>
+    </message>
+    <message>
+        <source>Your conference could not be held</source>
+        <translation>您的會議未能進行</translation>
+    </message>
+    <message>
+        <source>%1 gave up the call</source>
+        <translation>%1 放棄了通話</translation>
+    </message>
+    <message>
+        <source>Missed an invitation to a conference from %1</source>
+        <translation>未接 %1 的會議邀請</translation>
+    </message>
+    <message>
+        <source>Missed call from %1</source>
+        <translation>%1 的未接來電</translation>
+    </message>
+    <message>
+        <source>The conference of %1 was cut off</source>
+        <translation>%1 的會議已中斷</translation>
+    </message>
+    <message>
+        <source>The call with %1 was cut off</source>
+        <translation>與 %1 的通話已中斷</translation>
+    </message>
+    <message>
+        <source>%1 did not answer</source>
+        <translation>%1 未接聽</translation>
+    </message>
+    <message>
+        <source>The call with %1 was cancelled</source>
+        <translation>與 %1 的通話已取消</translation>
+    </message>
+    <message>
+        <source>The conference of %1 ended after %2</source>
+        <translation>%1 的會議在 %2 後結束</translation>
+    </message>
+    <message>
+        <source>%1 hung up after %2</source>
+        <translation>%1 在 %2 後掛斷</translation>
+    </message>
+    <message>
+        <source>%1 was busy</source>
+        <translation>%1 忙線中</translation>
+    </message>
+    <message>
+        <source>%1 rejected the call</source>
+        <translation>%1 拒絕了通話</translation>
+    </message>
+    <message>
+        <source>The conference of %1 failed</source>
+        <translation>%1 的會議失敗</translation>
+    </message>
+    <message>
+        <source>The call with %1 failed</source>
+        <translation>與 %1 的通話失敗</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2 after %3</source>
+        <translation>與 %1 的通話：%3 後%2</translation>
+    </message>
+    <message>
+        <source>Call with %1: %2</source>
+        <translation>與 %1 的通話：%2</translation>
+    </message>
+</context>
+<context>
+    <name>CallStatusLine</name>
+    <message>
+        <source>%1 is calling</source>
+        <translation>%1 來電</translation>
+    </message>
+    <message>
+        <source>The conference was not started</source>
+        <translation>會議未發起</translation>
+    </message>
+    <message>
+        <source>The call of %1 was not placed</source>
+        <translation>未能撥打 %1</translation>
     </message>
 </context>
 <context>
     <name>CallsPane</name>
     <message>
         <source>Calls</source>
-        <translation>通話記錄</translation>
+        <translation>通話</translation>
+    </message>
+    <message>
+        <source>Show the missed calls</source>
+        <translation>顯示未接來電</translation>
     </message>
     <message>
         <source>Past conferences: look at them, call them again, delete them</source>
@@ -985,16 +1152,114 @@
         <translation>會議中心(&amp;N)</translation>
     </message>
     <message>
-        <source>Double click or Enter calls again</source>
-        <translation>按兩下或按 Enter 鍵再次呼叫</translation>
+        <source>Call again</source>
+        <translation>再次撥打</translation>
     </message>
     <message>
-        <source>Enter calls again</source>
-        <translation>按 Enter 鍵再次呼叫</translation>
+        <source>I have seen it: take this away</source>
+        <translation>我已看到，不再顯示</translation>
+    </message>
+    <message>
+        <source>Seen</source>
+        <translation>知道了</translation>
+    </message>
+    <message>
+        <source>Search the calls</source>
+        <translation>搜尋通話</translation>
+    </message>
+    <message>
+        <source>Search the calls by name, number or initials</source>
+        <translation>按姓名、號碼或首字母搜尋通話</translation>
+    </message>
+    <message>
+        <source>All calls</source>
+        <translation>全部通話</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Missed calls alone</source>
+        <translation>僅未接來電</translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <translation>未接</translation>
+    </message>
+    <message>
+        <source>Conferences alone</source>
+        <translation>僅會議</translation>
+    </message>
+    <message>
+        <source>Conferences</source>
+        <translation>會議</translation>
+    </message>
+    <message>
+        <source>Double click or Enter calls again, Delete deletes</source>
+        <translation>按兩下或按 Enter 再次撥打，按 Delete 刪除</translation>
+    </message>
+    <message>
+        <source>Enter calls again, Delete deletes, Ctrl+Z brings back</source>
+        <translation>按 Enter 再次撥打，按 Delete 刪除，按 Ctrl+Z 復原</translation>
+    </message>
+    <message>
+        <source>Bring back what was deleted (Ctrl+Z in the list)</source>
+        <translation>復原已刪除的內容（在清單中按 Ctrl+Z）</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>復原</translation>
     </message>
     <message>
         <source>No calls yet</source>
         <translation>還沒有通話</translation>
+    </message>
+    <message>
+        <source>No call matches</source>
+        <translation>沒有符合的通話</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>還有 %n 個</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missed</source>
+        <translation>
+            <numerusform>%n 個未接</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call who stands in the first line</source>
+        <translation>撥打第一行中的人</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n call(s) deleted</source>
+        <translation>
+            <numerusform>已刪除 %n 個通話</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call together again...</source>
+        <translation>再次發起會議...</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>撥打</translation>
+    </message>
+    <message>
+        <source>Call by video</source>
+        <translation>視訊撥打</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>刪除</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>清除搜尋</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1307,14 @@
     <message>
         <source>Clear the search</source>
         <translation>清除搜尋</translation>
+    </message>
+    <message>
+        <source>Call this number</source>
+        <translation>撥打此號碼</translation>
+    </message>
+    <message>
+        <source>Enter a number first</source>
+        <translation>請先輸入號碼</translation>
     </message>
 </context>
 <context>
@@ -1170,10 +1443,6 @@
         <translation>重試(&amp;T)</translation>
     </message>
     <message>
-        <source>%1 is calling</source>
-        <translation>%1 來電</translation>
-    </message>
-    <message>
         <source>Call of %1 accepted</source>
         <translation>已接聽 %1 的來電</translation>
     </message>
@@ -1206,14 +1475,6 @@
     <message>
         <source>Signed out</source>
         <translation>已登出</translation>
-    </message>
-    <message>
-        <source>Call with %1: %2 after %3</source>
-        <translation>與 %1 的通話：%2，時長 %3</translation>
-    </message>
-    <message>
-        <source>Call with %1: %2</source>
-        <translation>與 %1 的通話：%2</translation>
     </message>
     <message>
         <source>The local store is open</source>

@@ -1,3 +1,4 @@
+#include "client/FileAside.h"
 #include "client/HostStore.h"
 
 #include "fakes/LogCapture.h"
@@ -160,7 +161,8 @@ private slots:
             QVERIFY(write(taken, "kept before"));
         }
         const QDateTime when(QDate(2024, 3, 1), QTime(10, 11, 12));
-        QCOMPARE(HostStore::asidePath(m_strFolder, when), m_strFolder + QLatin1Char('/') + name);
+        QCOMPARE(FileAside::path(m_strFolder + QStringLiteral("/localData.db"), when),
+                 m_strFolder + QLatin1Char('/') + name);
     }
 
     void damagedFileThatCannotBeMovedStaysAndIsTold()

@@ -2,6 +2,7 @@
 #include "client/HostLanguage.h"
 #include "client/HostSession.h"
 #include "fakes/Patience.h"
+#include "host/history/CallRows.h"
 #include "panes/MainWindow.h"
 #include "panes/MemberPicker.h"
 
@@ -10,6 +11,7 @@
 #include <QLabel>
 #include <QMap>
 #include <QRegularExpression>
+#include <QTableView>
 #include <QTest>
 
 /// Every window of the demo in every language: what the keyboard can reach has a name, no letter is given away twice,
@@ -27,14 +29,22 @@ private slots:
         m_pSession = std::make_unique<HostSession>(m_book);
         QString error;
         m_pSession->start(QStringLiteral("/no/module.so"), &error);
+        m_pSession->setOnline(true);
         m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
         if (QTest::currentDataTag() != nullptr) {
             QVERIFY(m_pLanguage->use(QLatin1String(QTest::currentDataTag())));
             m_pWindow->findChild<QAbstractButton *>(QStringLiteral("happeningsButton"))->setChecked(true);
         }
-        CallRecord record;
-        record.uid = QStringLiteral("30010001");
-        emit m_pSession->mailbox().callFinished(record);
+        // With a notice, a count, and something to undo.
+        m_pWindow->show();
+        m_pWindow->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
+        auto *calls = m_pWindow->findChild<QTableView *>(QStringLiteral("tableRecords"));
+        m_pSession->history().add(callRow("30010001", 2));
+        calls->setFocus();
+        QTest::keyClick(calls, Qt::Key_Delete);
+        m_pSession->history().add(missedRow("30010001", 1));
+        m_pSession->history().add(missedRow("30010002"));
         m_pPicker = std::make_unique<MemberPicker>(m_book, MemberPicker::NewConference, QStringList(), nullptr);
         m_pWindow->prompt().prompt(QStringLiteral("30010002"), false, false);
         m_pWindow->signature().showCard(QStringLiteral("30010002@example.org"), QPoint(300, 0), 100);
@@ -124,13 +134,14 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
         m_pWindow->findChild<QWidget *>(QStringLiteral("editSearch"))->setFocus();
         QStringList stops;
-        for (int i = 0; i < 10; ++i) {
+        for (int i = 0; i < 14; ++i) {
             stops.append(m_pWindow->focusWidget()->objectName());
             QTest::keyClick(m_pWindow->focusWidget(), Qt::Key_Tab);
         }
         QCOMPARE(stops, (QStringList{"editSearch", "30010001", "btnCall", "btnVideo", "editNumber", "btnConference",
-                                     "btnCentre", "tableRecords", "happeningsButton", "btnSettings"}));
-        QCOMPARE(m_pWindow->focusWidget()->objectName(), QStringLiteral("btnOnline"));
+                                     "btnMissed", "btnCentre", "btnCallAgain", "btnSeen", "editCallSearch",
+                                     "btnFilterAll", "tableRecords", "btnUndo"}));
+        QCOMPARE(m_pWindow->focusWidget()->objectName(), QStringLiteral("happeningsButton"));
     }
 
 private:

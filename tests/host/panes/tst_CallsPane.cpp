@@ -1,13 +1,20 @@
 #include "client/ContactBook.h"
 #include "fakes/Patience.h"
+#include "history/CallHistory.h"
+#include "host/history/CallRows.h"
+#include "host/panes/PressButton.h"
 #include "panes/CallsPane.h"
 #include "screen/WindowProbe.h"
 
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 
-/// The records of calls, by the mouse and by the keyboard.
+/// The history of calls, by the mouse and by the keyboard.
 class tst_CallsPane : public QObject
 {
     Q_OBJECT
@@ -16,9 +23,9 @@ private slots:
     void init()
     {
         m_pPane.reset();
-        m_pModel = std::make_unique<CallRecordModel>(m_book);
+        m_pHistory = std::make_unique<CallHistory>();
         m_pPane = std::make_unique<CallsPane>();
-        m_pPane->setModel(m_pModel.get());
+        m_pPane->show(m_pHistory.get(), &m_book);
         m_pPane->resize(640, 400);
         m_pPane->show();
         m_pPane->activateWindow();
@@ -26,18 +33,24 @@ private slots:
         m_pTable = m_pPane->findChild<QTableView *>();
     }
 
-    void withoutRecordsItSaysSo()
+    void withoutCallsItSaysSo()
     {
         QCOMPARE(WindowProbe::text(m_pPane.get(), "lblNoCalls"), QStringLiteral("No calls yet"));
-        add("30010001", false);
+        m_pHistory->add(callRow("30010001"));
         QVERIFY(!WindowProbe::isShown(m_pPane.get(), "lblNoCalls"));
+        QVERIFY(m_pTable->isVisible());
+        QTest::keyClicks(m_pPane->findChild<QLineEdit *>(), QStringLiteral("zz"));
+        QCOMPARE(WindowProbe::text(m_pPane.get(), "lblNoCalls"), QStringLiteral("No call matches"));
+        QTest::keyClick(m_pPane->findChild<QLineEdit *>(), Qt::Key_Escape);
         QVERIFY(m_pTable->isVisible());
     }
 
     void doubleClickCallsAgain()
     {
-        add("30010001", true);
-        add("30010002", false);
+        CallEntry video = callRow("30010001", 1);
+        video.video = true;
+        m_pHistory->add(video);
+        m_pHistory->add(callRow("30010002"));
         QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
         QTest::mouseClick(m_pTable->viewport(), Qt::LeftButton, Qt::NoModifier, middle(1));
         QTest::mouseDClick(m_pTable->viewport(), Qt::LeftButton, Qt::NoModifier, middle(1));
@@ -45,10 +58,10 @@ private slots:
         QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), true}));
     }
 
-    void enterCallsTheChosenRecordAgain()
+    void enterCallsTheChosenCallAgain()
     {
-        add("30010001", false);
-        add("30010002", false);
+        m_pHistory->add(callRow("30010001", 1));
+        m_pHistory->add(callRow("30010002"));
         QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
         m_pTable->setFocus();
         QTest::keyClick(m_pTable, Qt::Key_Down);
@@ -57,10 +70,27 @@ private slots:
         QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), false}));
     }
 
-    void focusChoosesTheNewestRecord()
+    void conferenceIsCalledTogetherAgain()
     {
-        add("30010001", false);
-        add("30010002", false);
+        CallEntry invitation = conferenceRow("30010002", "30010004");
+        invitation.caller = false;
+        invitation.uid = QStringLiteral("30010008");
+        m_pHistory->add(conferenceRow("30010001", "30010002", 1));
+        m_pHistory->add(invitation);
+        QSignalSpy wanted(m_pPane.get(), &CallsPane::conferenceWanted);
+        m_pTable->setFocus();
+        QTest::keyClick(m_pTable, Qt::Key_Return);
+        QTest::keyClick(m_pTable, Qt::Key_Down);
+        QTest::keyClick(m_pTable, Qt::Key_Return);
+        QCOMPARE(wanted.count(), 2);
+        QCOMPARE(wanted.at(0).at(0).toStringList(), (QStringList{"30010008", "30010002", "30010004"}));
+        QCOMPARE(wanted.at(1).at(0).toStringList(), (QStringList{"30010001", "30010002"}));
+    }
+
+    void focusChoosesTheNewestCall()
+    {
+        m_pHistory->add(callRow("30010001", 1));
+        m_pHistory->add(callRow("30010002"));
         QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
         m_pTable->setFocus();
         QTest::keyClick(m_pTable, Qt::Key_Enter);
@@ -69,32 +99,203 @@ private slots:
 
     void clickAloneCallsNobody()
     {
-        add("30010001", false);
+        m_pHistory->add(callRow("30010001"));
         QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
         QTest::mouseClick(m_pTable->viewport(), Qt::LeftButton, Qt::NoModifier, middle(0));
         QCOMPARE(called.count(), 0);
     }
 
-    void tabLeavesTheTable()
+    void deletedByKeyAndBroughtBackByButtonOrKey_data()
     {
-        add("30010001", false);
+        QTest::addColumn<bool>("key");
+        QTest::newRow("by the button") << false;
+        QTest::newRow("by the key") << true;
+    }
+
+    void deletedByKeyAndBroughtBackByButtonOrKey()
+    {
+        QFETCH(bool, key);
+        for (int i = 0; i < 4; ++i) {
+            m_pHistory->add(callRow("30010001", 10 - i));
+        }
+        QVERIFY(!WindowProbe::isShown(m_pPane.get(), "btnUndo"));
         m_pTable->setFocus();
-        QTest::keyClick(m_pTable, Qt::Key_Tab);
-        QCOMPARE(m_pPane->focusWidget()->objectName(), QStringLiteral("btnCentre"));
+        QTest::keyClick(m_pTable, Qt::Key_Down);
+        QTest::keyClick(m_pTable, Qt::Key_Down, Qt::ShiftModifier);
+        QTest::keyClick(m_pTable, Qt::Key_Delete);
+        QCOMPARE(m_pTable->model()->rowCount(), 2);
+        QCOMPARE(m_pTable->currentIndex().row(), 1);
+        QCOMPARE(WindowProbe::text(m_pPane.get(), "lblRemoved"), QStringLiteral("2 call(s) deleted"));
+        if (key) {
+            QTest::keyClick(m_pTable, Qt::Key_Z, Qt::ControlModifier);
+        } else {
+            QVERIFY(pressButton(m_pPane.get(), "btnUndo"));
+        }
+        QCOMPARE(m_pTable->model()->rowCount(), 4);
+        QVERIFY(!WindowProbe::isShown(m_pPane.get(), "btnUndo"));
+    }
+
+    void lastCallDeletedLeavesTheKeyboardAtUndo()
+    {
+        m_pHistory->add(callRow("30010001"));
+        m_pTable->setFocus();
+        QTest::keyClick(m_pTable, Qt::Key_Delete);
+        QCOMPARE(WindowProbe::text(m_pPane.get(), "lblNoCalls"), QStringLiteral("No calls yet"));
+        QCOMPARE(m_pPane->focusWidget()->objectName(), QStringLiteral("btnUndo"));
+        QTest::keyClick(m_pPane->focusWidget(), Qt::Key_Space);
+        QCOMPARE(m_pTable->model()->rowCount(), 1);
+    }
+
+    void menuCallsAndDeletes()
+    {
+        m_pHistory->add(callRow("30010001"));
+        QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
+        chooseFromMenu(QStringLiteral("Call by video"));
+        QCOMPARE(called.value(0), (QList<QVariant>{QStringLiteral("30010001"), true}));
+        chooseFromMenu(QStringLiteral("Delete"));
+        QVERIFY(m_pHistory->entries().empty());
+    }
+
+    void missedAreCountedUntilTheUserTurnsToThem_data()
+    {
+        QTest::addColumn<QByteArray>("way");
+        for (const char *way :
+             {"press the count", "press Seen", "filter", "click into the list", "Tab into the list"}) {
+            QTest::newRow(way) << QByteArray(way);
+        }
+    }
+
+    void missedAreCountedUntilTheUserTurnsToThem()
+    {
+        QFETCH(QByteArray, way);
+        m_pHistory->add(missedRow("30010002", 2));
+        m_pHistory->add(callRow("30010001", 1));
+        m_pHistory->add(missedRow("30010004"));
+        QCoreApplication::processEvents();
+        QCOMPARE(WindowProbe::text(m_pPane.get(), "btnMissed"), QStringLiteral("2 missed"));
+        const QString notice = WindowProbe::text(m_pPane.get(), "lblCallNotice");
+        QVERIFY2(notice.startsWith(QStringLiteral("Missed call from Tom Baker")), qPrintable(notice));
+        QVERIFY(m_pTable->model()->index(0, 0).data(Qt::FontRole).value<QFont>().bold());
+        if (way == "press the count") {
+            QVERIFY(pressButton(m_pPane.get(), "btnMissed"));
+            QCOMPARE(m_pTable->model()->rowCount(), 2);
+            QVERIFY(m_pTable->hasFocus());
+        } else if (way == "press Seen") {
+            QVERIFY(pressButton(m_pPane.get(), "btnSeen"));
+        } else if (way == "filter") {
+            QVERIFY(pressButton(m_pPane.get(), "btnFilterMissed"));
+            QCOMPARE(m_pTable->model()->rowCount(), 2);
+        } else if (way == "click into the list") {
+            QTest::mouseClick(m_pTable->viewport(), Qt::LeftButton, Qt::NoModifier, middle(1));
+            QCOMPARE(m_pTable->currentIndex().row(), 1);
+        } else {
+            m_pPane->findChild<QWidget *>(QStringLiteral("btnFilterAll"))->setFocus();
+            QTest::keyClick(m_pPane->focusWidget(), Qt::Key_Tab);
+        }
+        QVERIFY(!WindowProbe::isShown(m_pPane.get(), "btnMissed"));
+        QVERIFY(!WindowProbe::isShown(m_pPane.get(), "callNotice"));
+        QVERIFY(!m_pTable->model()->index(0, 0).data(Qt::FontRole).isValid());
+    }
+
+    void noticeSaysWhoDidWhat_data()
+    {
+        QTest::addColumn<int>("outcome");
+        QTest::addColumn<bool>("caller");
+        QTest::addColumn<bool>("connected");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("busy") << int(resultBusy) << true << false << QStringLiteral("Maria Silva was busy");
+        QTest::newRow("rejected") << int(resultRejected) << true << false
+                                  << QStringLiteral("Maria Silva rejected the call");
+        QTest::newRow("failed") << int(resultFailed) << true << false
+                                << QStringLiteral("The call with Maria Silva failed");
+        QTest::newRow("no answer") << int(outcomeNoAnswer) << true << false
+                                   << QStringLiteral("Maria Silva did not answer");
+        QTest::newRow("hung up") << int(resultHungUp) << true << true
+                                 << QStringLiteral("Maria Silva hung up after 0:10");
+        QTest::newRow("given up") << int(resultHungUp) << true << false
+                                  << QStringLiteral("Maria Silva gave up the call");
+        QTest::newRow("missed") << int(outcomeMissed) << false << false
+                                << QStringLiteral("Missed call from Maria Silva");
+        QTest::newRow("cut off") << int(outcomeCutOff) << true << false
+                                 << QStringLiteral("The call with Maria Silva was cut off");
+    }
+
+    void noticeSaysWhoDidWhat()
+    {
+        QFETCH(QString, words);
+        CallEntry call = callRow("30010002");
+        call.seen = false;
+        call.seconds = 10;
+        QFETCH(int, outcome);
+        QFETCH(bool, caller);
+        QFETCH(bool, connected);
+        call.outcome = outcome;
+        call.caller = caller;
+        call.connected = connected;
+        m_pHistory->add(call);
+        const QString notice = WindowProbe::text(m_pPane.get(), "lblCallNotice");
+        QVERIFY2(notice.startsWith(words), qPrintable(notice));
+        // The notice stays; what it tells is called again by its button.
+        QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
+        QVERIFY(pressButton(m_pPane.get(), "btnCallAgain"));
+        QCOMPARE(called.value(0), (QList<QVariant>{QStringLiteral("30010002"), false}));
+        QVERIFY(!WindowProbe::isShown(m_pPane.get(), "callNotice"));
+    }
+
+    void noticeOfManyCountsTheRest()
+    {
+        for (int i = 0; i < 7; ++i) {
+            m_pHistory->add(missedRow("30010002", 10 - i));
+        }
+        const QStringList lines = WindowProbe::text(m_pPane.get(), "lblCallNotice").split('\n');
+        QCOMPARE(lines.size(), 4);
+        QCOMPARE(lines.last(), QStringLiteral("and 4 more"));
+    }
+
+    void obstacleStandsInTheTips()
+    {
+        m_pHistory->add(missedRow("30010002"));
+        m_pPane->setObstacle(QStringLiteral("No."));
+        auto *again = m_pPane->findChild<QPushButton *>(QStringLiteral("btnCallAgain"));
+        QVERIFY(!again->isEnabled());
+        QCOMPARE(again->toolTip(), QStringLiteral("No."));
+        m_pPane->setObstacle(QString());
+        QVERIFY(again->isEnabled());
+        QVERIFY(again->toolTip() != QStringLiteral("No."));
+    }
+
+    void tabGoesThroughTheParts()
+    {
+        m_pHistory->add(missedRow("30010001"));
+        m_pPane->findChild<QWidget *>(QStringLiteral("btnMissed"))->setFocus();
+        QStringList stops;
+        for (int i = 0; i < 7; ++i) {
+            stops << m_pPane->focusWidget()->objectName();
+            QTest::keyClick(m_pPane->focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(stops, (QStringList{"btnMissed", "btnCentre", "btnCallAgain", "btnSeen", "editCallSearch",
+                                     "btnFilterAll", "tableRecords"}));
     }
 
 private:
-    void add(const char *strUid, bool bVideo)
+    void chooseFromMenu(const QString &strItem)
     {
-        CallRecord record;
-        record.uid = QLatin1String(strUid);
-        record.video = bVideo;
-        m_pModel->add(record);
+        m_pTable->setCurrentIndex(m_pTable->model()->index(0, 0));
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            const WindowProbe::Spot spot = WindowProbe::menuItem(strItem);
+            if (spot.widget != nullptr) {
+                timer.stop();
+                QTest::mouseClick(spot.widget, Qt::LeftButton, Qt::NoModifier, spot.place);
+            }
+        });
+        timer.start(10);
+        emit m_pTable->customContextMenuRequested(middle(0));
     }
-    QPoint middle(int iRow) const { return m_pTable->visualRect(m_pModel->index(iRow, 2)).center(); }
+    QPoint middle(int iRow) const { return m_pTable->visualRect(m_pTable->model()->index(iRow, 2)).center(); }
 
     ContactBook m_book{QStringLiteral("example.org")};
-    std::unique_ptr<CallRecordModel> m_pModel;
+    std::unique_ptr<CallHistory> m_pHistory;
     std::unique_ptr<CallsPane> m_pPane;
     QTableView *m_pTable = nullptr;
 };

@@ -11,10 +11,13 @@
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QSignalSpy>
@@ -22,6 +25,9 @@
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
+
+#include <algorithm>
+#include <iterator>
 
 /// The window beside a session whose plug-in is not loaded: what comes from the plug-in is delivered by hand.
 class tst_MainWindow : public QObject
@@ -32,6 +38,7 @@ private slots:
     void init()
     {
         m_pSession = std::make_unique<HostSession>(m_book);
+        m_pSession->setOnline(true);
         m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
         m_pWindow->show();
         QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
@@ -190,7 +197,7 @@ private slots:
     {
         deliver(MSG_CALL_FINISHED, sessionPluginId(),
                 packPayload(false, QStringLiteral("30010001"), qint32(24), true, true, qint64(5)));
-        QCOMPARE(m_pWindow->records().records().size(), 1);
+        QCOMPARE(m_pSession->history().entries().size(), size_t(1));
         QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Call with 李雷: hung up after 0:05"));
         deliver(MSG_CALL_FINISHED, sessionPluginId(),
                 packPayload(false, QStringLiteral("30010002"), qint32(25), true, false, qint64(0)));
@@ -199,6 +206,7 @@ private slots:
 
     void onlineSwitchFollowsTheSession()
     {
+        m_pSession->setOnline(false);
         QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Offline"));
         QVERIFY(pressButton(m_pWindow.get(), "btnOnline"));
         QTRY_VERIFY_WITH_TIMEOUT(m_pSession->isOnline(), cPatienceMs);
@@ -207,6 +215,102 @@ private slots:
         m_pSession->setOnline(false);
         QCOMPARE(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Offline"));
         QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Signed out"));
+    }
+
+    void statusLineTellsTheOutcomeAndClears_data()
+    {
+        QTest::addColumn<int>("result");
+        QTest::addColumn<bool>("caller");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("busy") << 25 << true << QStringLiteral("Call with Maria Silva: busy");
+        QTest::newRow("refused") << 26 << true << QStringLiteral("Call with Maria Silva: rejected");
+        QTest::newRow("failed") << 22 << true << QStringLiteral("Call with Maria Silva: failed");
+        QTest::newRow("missed") << 21 << false << QStringLiteral("Missed call from Maria Silva");
+    }
+
+    void statusLineTellsTheOutcomeAndClears()
+    {
+        QFETCH(int, result);
+        QFETCH(bool, caller);
+        QFETCH(QString, words);
+        deliver(MSG_CALL_FINISHED, sessionPluginId(),
+                packPayload(false, QStringLiteral("30010002"), qint32(result), caller, false, qint64(0)));
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), words);
+        if (result == resultBusy) {
+            // The notice stays when the status line is empty again.
+            QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->statusBar()->currentMessage(), QString(), cPatienceMs);
+        }
+        QVERIFY(WindowProbe::text(m_pWindow.get(), "lblCallNotice").contains(QStringLiteral("Maria Silva")));
+        QVERIFY(pressButton(m_pWindow.get(), "btnSeen"));
+        QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "lblCallNotice"));
+    }
+
+    void whatCannotBeDoneNowIsDisabledWithTheReason_data()
+    {
+        QTest::addColumn<QByteArray>("state");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("in a call") << QByteArray("call") << QStringLiteral("You are in a call. End it first.");
+        QTest::newRow("signed out") << QByteArray("out") << QStringLiteral("You are signed out. Sign in first.");
+        QTest::newRow("no call service") << QByteArray("service")
+                                         << QStringLiteral("The call service cannot be reached.");
+    }
+
+    void whatCannotBeDoneNowIsDisabledWithTheReason()
+    {
+        QFETCH(QByteArray, state);
+        QFETCH(QString, reason);
+        deliver(MSG_CALL_FINISHED, sessionPluginId(),
+                packPayload(false, QStringLiteral("30010002"), qint32(25), true, false, qint64(0)));
+        m_pWindow->findChild<QLineEdit *>(QStringLiteral("editNumber"))->setText(QStringLiteral("4711"));
+        QCOMPARE(disabledTips(), QStringList());
+        enter(state, true);
+        QCOMPARE(disabledTips().size(), callers().size());
+        QCOMPARE(disabledTips().filter(reason).size(), callers().size());
+        QString asked;
+        QTimer timer;
+        cancelThePicker(timer, asked);
+        // A click, a key and a double click do nothing but say why.
+        QVERIFY(!pressButton(m_pWindow.get(), "btnConference"));
+        auto *row = m_pWindow->findChild<QWidget *>(QStringLiteral("30010002"));
+        QTest::keyClick(row, Qt::Key_Return);
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), reason);
+        auto *number = m_pWindow->findChild<QLineEdit *>(QStringLiteral("editNumber"));
+        QTest::keyClick(number, Qt::Key_Return);
+        QCOMPARE(number->text(), QStringLiteral("4711"));
+        QVERIFY(asked.isNull());
+        enter(state, false);
+        QCOMPARE(disabledTips(), QStringList());
+    }
+
+    void wishOfThePlugInIsRefusedBeforePicking()
+    {
+        ring(QStringLiteral("30010006"));
+        QString said;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (box != nullptr) {
+                timer.stop();
+                said = box->text();
+                QTest::keyClick(box, Qt::Key_Return);
+            }
+            QVERIFY(WindowProbe::memberPicker() == nullptr);
+        });
+        timer.start(10);
+        deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(), packPayload(QStringList{QStringLiteral("30010001")}));
+        QCOMPARE(said, QStringLiteral("You are in a call. End it first."));
+    }
+
+    void keyboardStaysWithTheContactWhoIsCalled()
+    {
+        m_pWindow->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
+        auto *row = m_pWindow->findChild<QWidget *>(QStringLiteral("30010002"));
+        row->setFocus();
+        QTest::keyClick(row, Qt::Key_Tab);
+        QCOMPARE(m_pWindow->focusWidget()->objectName(), QStringLiteral("btnCall"));
+        m_pWindow->readiness().setInCall(true);
+        QCOMPARE(m_pWindow->focusWidget(), row);
     }
 
     void numberCanBeCalledOnlyWhenThereIsOne()
@@ -368,6 +472,40 @@ private slots:
     }
 
 private:
+    /// The buttons that place a call.
+    QList<QAbstractButton *> callers() const
+    {
+        QList<QAbstractButton *> found;
+        const QList<QAbstractButton *> all = m_pWindow->findChildren<QAbstractButton *>();
+        const QStringList names{"btnCall", "btnVideo", "btnConference", "btnCallNumber", "btnCallAgain"};
+        std::copy_if(all.begin(), all.end(), std::back_inserter(found),
+                     [&](const QAbstractButton *button) { return names.contains(button->objectName()); });
+        return found;
+    }
+    QStringList disabledTips() const
+    {
+        QStringList tips;
+        const QList<QAbstractButton *> all = callers();
+        for (const QAbstractButton *button : all) {
+            if (!button->isEnabled()) {
+                tips << button->toolTip();
+            }
+        }
+        return tips;
+    }
+    void enter(const QByteArray &state, bool bInto)
+    {
+        if (state == "out") {
+            m_pSession->setOnline(!bInto);
+        } else if (state == "service") {
+            m_pWindow->readiness().setServed(!bInto);
+        } else if (bInto) {
+            ring(QStringLiteral("30010006"));
+        } else {
+            deliver(MSG_CALL_FINISHED, sessionPluginId(),
+                    packPayload(false, QStringLiteral("30010006"), qint32(21), false, false, qint64(0)));
+        }
+    }
     /// Cancels the picker as soon as it is open, with what it asked left in `asked`.
     void cancelThePicker(QTimer &timer, QString &asked)
     {

@@ -66,9 +66,12 @@ private slots:
                                         QStringLiteral("desktop.png"),
                                         QStringLiteral("happenings-conference.png"),
                                         QStringLiteral("happenings.png"),
+                                        QStringLiteral("history-restarted.png"),
+                                        QStringLiteral("history-search.png"),
+                                        QStringLiteral("history.png"),
                                         QStringLiteral("incoming-prompt.png"),
                                         QStringLiteral("message-no-process.png"),
-                                        QStringLiteral("message.png"),
+                                        QStringLiteral("second-call.png"),
                                         QStringLiteral("settings.png")}));
         for (const QString &picture : pictures) {
             const QImage image(QStringLiteral("tour/") + picture);

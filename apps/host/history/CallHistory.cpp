@@ -1,0 +1,183 @@
+#include "history/CallHistory.h"
+
+#include "store/DBConfInfo.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+bool isOlder(const CallEntry &one, const CallEntry &other)
+{
+    return one.begun < other.begun || (!(other.begun < one.begun) && one.id < other.id);
+}
+
+} // namespace
+
+QStringList CallHistory::others(QStringList members) const
+{
+    members.removeAll(m_strOwner);
+    return members;
+}
+
+CallEntry CallHistory::entryOf(const ConfInfoData &record) const
+{
+    CallEntry entry;
+    entry.conference = true;
+    entry.confId = record.m_strConfID;
+    entry.uid = record.m_strCreatUserID;
+    entry.caller = record.m_strCreatUserID == m_strOwner;
+    entry.begun = QDateTime::fromString(record.m_strCreatTime, QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    entry.seconds = record.m_strCallTime.toLongLong();
+    entry.members = others(record.m_listMember);
+    entry.connected = record.m_bIsConnect;
+    entry.outcome = record.m_bIsConnect ? int(resultHungUp) : int(outcomeNoAnswer);
+    return entry;
+}
+
+bool CallHistory::open(const QString &strFolder, const QString &strOwner)
+{
+    m_strOwner = strOwner;
+    const bool ok = m_file.open(strFolder);
+    m_entries = m_file.load();
+    m_conferences = m_file.knownConferences();
+    m_removed.clear();
+    emit reset();
+    emit reported();
+    return ok;
+}
+
+int CallHistory::placeOf(qint64 id) const
+{
+    // What is asked for is most often new.
+    const auto found =
+        std::find_if(m_entries.rbegin(), m_entries.rend(), [id](const CallEntry &entry) { return entry.id == id; });
+    return int(std::distance(found, m_entries.rend())) - 1;
+}
+
+const CallEntry *CallHistory::find(qint64 id) const
+{
+    const int place = placeOf(id);
+    return place < 0 ? nullptr : &m_entries[size_t(place)];
+}
+
+/// Writes them into the file and gives each its id.
+void CallHistory::keep(std::vector<CallEntry> &entries)
+{
+    const int before = reports().size();
+    if (!m_file.add(entries)) {
+        for (CallEntry &entry : entries) {
+            entry.id = entry.id == 0 ? --m_iUnkept : entry.id;
+        }
+    }
+    if (reports().size() != before) {
+        emit reported();
+    }
+}
+
+qint64 CallHistory::add(CallEntry entry)
+{
+    std::vector<CallEntry> one{std::move(entry)};
+    keep(one);
+    m_entries.push_back(std::move(one.front()));
+    emit added();
+    return m_entries.back().id;
+}
+
+void CallHistory::change(const CallEntry &entry)
+{
+    const int place = placeOf(entry.id);
+    if (place < 0) {
+        return;
+    }
+    m_entries[size_t(place)] = entry;
+    m_file.change(entry);
+    if (!entry.confId.isEmpty()) {
+        m_conferences.insert(entry.confId);
+    }
+    emit changed(place);
+}
+
+QList<ConfInfoData> CallHistory::unknown(const QList<ConfInfoData> &records) const
+{
+    QList<ConfInfoData> found;
+    std::copy_if(records.begin(), records.end(), std::back_inserter(found), [this](const ConfInfoData &record) {
+        return !record.m_strConfID.isEmpty() && !m_conferences.contains(record.m_strConfID);
+    });
+    return found;
+}
+
+void CallHistory::adopt(const QList<ConfInfoData> &records)
+{
+    const QList<ConfInfoData> fresh = unknown(records);
+    std::vector<CallEntry> entries;
+    for (const ConfInfoData &record : fresh) {
+        entries.push_back(entryOf(record));
+        m_conferences.insert(record.m_strConfID);
+    }
+    if (!entries.empty()) {
+        put(std::move(entries));
+    }
+}
+
+/// Adds entries of any time.
+void CallHistory::put(std::vector<CallEntry> entries)
+{
+    keep(entries);
+    std::move(entries.begin(), entries.end(), std::back_inserter(m_entries));
+    std::sort(m_entries.begin(), m_entries.end(), isOlder);
+    emit reset();
+}
+
+int CallHistory::remove(const QSet<qint64> &ids)
+{
+    const auto goes = [&](const CallEntry &entry) { return ids.contains(entry.id) && !entry.isRunning(); };
+    const auto first =
+        std::stable_partition(m_entries.begin(), m_entries.end(), [&](const CallEntry &entry) { return !goes(entry); });
+    if (first == m_entries.end()) {
+        return 0;
+    }
+    m_removed.assign(std::make_move_iterator(first), std::make_move_iterator(m_entries.end()));
+    m_entries.erase(first, m_entries.end());
+    QSet<qint64> gone;
+    for (const CallEntry &entry : m_removed) {
+        gone.insert(entry.id);
+    }
+    m_file.remove(gone);
+    emit reset();
+    return int(m_removed.size());
+}
+
+void CallHistory::restore()
+{
+    std::vector<CallEntry> back;
+    back.swap(m_removed);
+    if (!back.empty()) {
+        put(std::move(back));
+    }
+}
+
+void CallHistory::setAllSeen()
+{
+    bool any = false;
+    for (CallEntry &entry : m_entries) {
+        any = any || !entry.seen;
+        entry.seen = true;
+    }
+    // What is brought back later has been seen as well.
+    for (CallEntry &entry : m_removed) {
+        entry.seen = true;
+    }
+    if (any) {
+        m_file.setAllSeen();
+        emit allSeen();
+    }
+}
+
+std::vector<CallEntry> CallHistory::unseen() const
+{
+    std::vector<CallEntry> found;
+    std::copy_if(m_entries.rbegin(), m_entries.rend(), std::back_inserter(found),
+                 [](const CallEntry &entry) { return !entry.seen && !entry.isRunning(); });
+    return found;
+}

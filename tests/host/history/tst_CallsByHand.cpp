@@ -1,0 +1,231 @@
+#include "client/CallProcess.h"
+#include "client/ContactBook.h"
+#include "client/HostSession.h"
+#include "fakes/Patience.h"
+#include "happenings/TraceFolder.h"
+#include "happenings/WireTrace.h"
+#include "panes/MainWindow.h"
+#include "panes/MemberPicker.h"
+#include "screen/ScreenPointer.h"
+#include "screen/WindowProbe.h"
+#include "tour/TourHand.h"
+
+#include "plugin/EMsgId.h"
+#include "store/DBConfInfo.h"
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTableView>
+#include <QTest>
+#include <QTimer>
+#include <QToolTip>
+
+#include <algorithm>
+
+/// Calls as a person makes them: the client's window, the built module and a real call process full of robots, under
+/// the pointer of the X server.
+class tst_CallsByHand : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        m_strTrace = QDir::current().absoluteFilePath(QStringLiteral("wire.txt"));
+        qputenv(TraceFolder::cVariable, QFile::encodeName(m_strTrace));
+        qputenv("VOIPSDK_SPEED", "4");
+        QVERIFY(QDir::setCurrent(QCoreApplication::applicationDirPath()));
+        QString error;
+        m_pSession = std::make_unique<HostSession>(m_book);
+        QVERIFY2(m_pSession->start(QStringLiteral("libVoipManage.so"), &error), qPrintable(error));
+        m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
+        m_pWindow->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
+        m_pTable = m_pWindow->findChild<QTableView *>(QStringLiteral("tableRecords"));
+        QVERIFY(m_hand.isReady());
+        // By a timer, as the picker runs an event loop of its own.
+        connect(&m_timer, &QTimer::timeout, this, [this] { m_hand.work(); });
+        m_timer.start(10);
+        m_pSession->setOnline(true);
+        QTRY_VERIFY_WITH_TIMEOUT(isTraced(QStringLiteral("RegeditUser")), cPatienceMs);
+    }
+
+    void cleanupTestCase()
+    {
+        m_pSession->quit();
+        CallProcess(m_strTrace).kill();
+        m_pWindow.reset();
+        m_pSession.reset();
+    }
+
+    void cleanup()
+    {
+        m_pSession->history().setAllSeen();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_pSession->calls().hasCall(), cPatienceMs);
+    }
+
+    void doubleClickOnAPhoneIsOneCall()
+    {
+        QSignalSpy passed(m_pSession.get(), &HostSession::eventPassed);
+        QSignalSpy began(&m_pSession->calls(), &CallWatch::began);
+        const auto *row = m_pWindow->findChild<QWidget *>(QStringLiteral("30010004"));
+        const WindowProbe::Spot spot = WindowProbe::button(row, "btnCall");
+        ScreenPointer pointer;
+        pointer.moveTo(spot.widget->mapToGlobal(spot.place));
+        pointer.click(Qt::LeftButton);
+        pointer.click(Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(began.count(), 1, cPatienceMs);
+        QVERIFY(!spot.widget->isEnabled());
+        QVERIFY(pressInCallWindow("btnCancelCall"));
+        QTRY_VERIFY_WITH_TIMEOUT(!m_pSession->calls().hasCall(), cPatienceMs);
+        QVERIFY(WindowProbe::messageBox() == nullptr);
+        const auto isCall = [](const QList<QVariant> &event) { return event.at(1).toInt() == MSG_CALL_SINGLE_USER; };
+        QCOMPARE(std::count_if(passed.begin(), passed.end(), isCall), 1);
+        QCOMPARE(rowText(0), QStringLiteral("Tom Baker → outgoing cancelled"));
+        // The user has ended it: there is nothing to be told.
+        QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "callNotice"));
+        QTRY_VERIFY_WITH_TIMEOUT(spot.widget->isEnabled(), cPatienceMs);
+    }
+
+    void outcomeThatTheUserDidNotCauseStaysUntilSeen_data()
+    {
+        QTest::addColumn<QByteArray>("uid");
+        QTest::addColumn<QString>("row");
+        QTest::addColumn<QString>("notice");
+        QTest::newRow("busy") << QByteArray("30010002") << QStringLiteral("Maria Silva → outgoing busy")
+                              << QStringLiteral("Maria Silva was busy");
+        QTest::newRow("rejected") << QByteArray("30010003") << QStringLiteral("王芳 → outgoing rejected")
+                                  << QStringLiteral("王芳 rejected the call");
+        QTest::newRow("failed") << QByteArray("30010005") << QStringLiteral("赵强 → outgoing failed")
+                                << QStringLiteral("The call with 赵强 failed");
+        QTest::newRow("hung up") << QByteArray("30010006") << QStringLiteral("Anna Novak → outgoing hung up")
+                                 << QStringLiteral("Anna Novak hung up after ");
+    }
+
+    void outcomeThatTheUserDidNotCauseStaysUntilSeen()
+    {
+        QFETCH(QByteArray, uid);
+        QFETCH(QString, row);
+        QFETCH(QString, notice);
+        QSignalSpy ended(&m_pSession->calls(), &CallWatch::ended);
+        QVERIFY(pressContact(uid.constData()));
+        QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, cPatienceMs);
+        QCOMPARE(rowText(0), row);
+        QVERIFY(WindowProbe::text(m_pWindow.get(), "lblCallNotice").startsWith(notice));
+        QVERIFY(!m_pWindow->statusBar()->currentMessage().isEmpty());
+        QVERIFY(press([this] { return WindowProbe::button(m_pWindow.get(), "btnSeen"); }));
+        QTRY_VERIFY_WITH_TIMEOUT(!WindowProbe::isShown(m_pWindow.get(), "callNotice"), cPatienceMs);
+    }
+
+    void callThatTheUserHangsUpLeavesNoNotice()
+    {
+        QVERIFY(pressContact("30010001"));
+        QTRY_COMPARE_WITH_TIMEOUT(WindowProbe::text(WindowProbe::callWindow(), "lblStatus"), QStringLiteral("已接通"),
+                                  cPatienceMs);
+        QCOMPARE(rowText(0), QStringLiteral("李雷 → outgoing now"));
+        QVERIFY(pressInCallWindow("HangUp"));
+        QTRY_COMPARE_WITH_TIMEOUT(rowText(0), QStringLiteral("李雷 → outgoing hung up"), cPatienceMs);
+        QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "callNotice"));
+        // A double click on the row calls again.
+        QSignalSpy began(&m_pSession->calls(), &CallWatch::began);
+        QVERIFY(press([this] { return middle(0); }, 2));
+        QTRY_COMPARE_WITH_TIMEOUT(began.count(), 1, cPatienceMs);
+        QVERIFY(pressInCallWindow("btnCancelCall"));
+    }
+
+    void tipOfADisabledPhoneSaysWhy()
+    {
+        QVERIFY(pressContact("30010004"));
+        QTRY_VERIFY_WITH_TIMEOUT(m_pSession->calls().hasCall() && WindowProbe::callWindow()->isVisible(), cPatienceMs);
+        auto *phone = m_pWindow->findChild<QWidget *>(QStringLiteral("30010002"))
+                          ->findChild<QWidget *>(QStringLiteral("btnCall"));
+        m_hand.hover([phone] { return WindowProbe::Spot{phone, phone->rect().center()}; });
+        QVERIFY(QTest::qWaitFor([this] { return m_hand.isIdle(); }, cPatienceMs));
+        QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QStringLiteral("You are in a call. End it first."), cPatienceMs);
+        m_hand.rest();
+        QVERIFY(pressInCallWindow("btnCancelCall"));
+    }
+
+    void conferenceStandsAmongTheCallsAsTheStoreHasIt()
+    {
+        m_hand.click([this] { return WindowProbe::button(m_pWindow.get(), "btnConference"); });
+        for (const char *uid : {"30010001", "30010006"}) {
+            m_hand.click([uid] {
+                return WindowProbe::rowMiddle(WindowProbe::memberPicker(),
+                                              {"listPeople", MemberPicker::cUidRole, QLatin1String(uid)});
+            });
+        }
+        QVERIFY(press([] { return WindowProbe::button(WindowProbe::memberPicker(), "btnInvite"); }));
+        QTRY_COMPARE_WITH_TIMEOUT(rowText(0), QStringLiteral("Conference: 李雷, Anna Novak → outgoing now"),
+                                  cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::isShown(WindowProbe::callWindow(), "currentPlayTimeLabel"), cPatienceMs);
+        QVERIFY(pressInCallWindow("HangUp"));
+        QTRY_COMPARE_WITH_TIMEOUT(rowText(0), QStringLiteral("Conference: 李雷, Anna Novak → outgoing hung up"),
+                                  cPatienceMs);
+        QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "callNotice"));
+        const QList<ConfInfoData> records = DBConfInfo::getAllConfInfo();
+        QCOMPARE(records.size(), 1);
+        QCOMPARE(m_pSession->history().entries().back().confId, records.at(0).m_strConfID);
+        QCOMPARE(m_pSession->history().entries().back().seconds, records.at(0).m_strCallTime.toLongLong());
+    }
+
+    void conferenceInACallIsRefusedBeforePicking()
+    {
+        QVERIFY(pressContact("30010004"));
+        QTRY_VERIFY_WITH_TIMEOUT(m_pSession->calls().hasCall() && WindowProbe::callWindow()->isVisible(), cPatienceMs);
+        const auto *button = m_pWindow->findChild<QWidget *>(QStringLiteral("btnConference"));
+        ScreenPointer pointer;
+        pointer.moveTo(button->mapToGlobal(button->rect().center()));
+        pointer.click(Qt::LeftButton);
+        QVERIFY(pressInCallWindow("btnCancelCall"));
+        QVERIFY(WindowProbe::memberPicker() == nullptr);
+    }
+
+private:
+    bool press(const TourHand::Finder &where, int iTimes = 1)
+    {
+        m_hand.click(where, Qt::LeftButton, iTimes);
+        return QTest::qWaitFor([this] { return m_hand.isIdle(); }, cPatienceMs);
+    }
+    bool pressContact(const char *strUid)
+    {
+        return press([this, strUid] {
+            return WindowProbe::button(m_pWindow->findChild<QWidget *>(QLatin1String(strUid)), "btnCall");
+        });
+    }
+    bool pressInCallWindow(const char *strButton)
+    {
+        return press([strButton] { return WindowProbe::button(WindowProbe::callWindow(), strButton); });
+    }
+    WindowProbe::Spot middle(int iRow) const
+    {
+        return {m_pTable->viewport(), m_pTable->visualRect(m_pTable->model()->index(iRow, 0)).center()};
+    }
+    QString rowText(int iRow) const
+    {
+        QStringList words;
+        for (int column = 0; column < 3; ++column) {
+            words << m_pTable->model()->index(iRow, column).data().toString();
+        }
+        return words.join(QLatin1Char(' '));
+    }
+    bool isTraced(const QString &strText) const
+    {
+        const QList<WireLine> lines = WireTrace(m_strTrace).readNew();
+        return std::any_of(lines.begin(), lines.end(),
+                           [&](const WireLine &line) { return line.text.contains(strText); });
+    }
+
+    ContactBook m_book{HostSession::loginDomain()};
+    QString m_strTrace;
+    TourHand m_hand;
+    QTimer m_timer;
+    std::unique_ptr<HostSession> m_pSession;
+    std::unique_ptr<MainWindow> m_pWindow;
+    QTableView *m_pTable = nullptr;
+};
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CallsByHand, Widgets)
+#include "tst_CallsByHand.moc"
