@@ -49,6 +49,7 @@ bool HostSession::start(const QString &strModule, QString *strError)
     plugin->setCommonData(m_context.data());
     plugin->setSendEventHandle(&m_mailbox);
     m_pPlugin = plugin->getReceiveEventHandle();
+    m_pPlugin->installEventFilter(this);
     m_strPlugin = plugin->getPluginName() + QLatin1Char(' ') + plugin->getPluginId();
     return true;
 }
@@ -84,6 +85,7 @@ void HostSession::setOnline(bool bOnline)
     m_bOnline = bOnline;
     emit onlineChanged(bOnline);
     post(MSG_CLIENT_CONNECT_STATUS, packPayload(bOnline));
+    m_callService.setWanted(bOnline && !m_pPlugin.isNull());
 }
 
 void HostSession::callUser(const QString &strUid, bool bVideo)
@@ -126,17 +128,34 @@ bool HostSession::isVideoCall()
     return ask(MSG_IS_VIDEO_CALL);
 }
 
+bool HostSession::eventFilter(QObject *watched, QEvent *event)
+{
+    m_bSpoken = m_bSpoken || event->type() == QEvent::User;
+    return QObject::eventFilter(watched, event);
+}
+
 void HostSession::quit()
 {
     if (m_bQuit || m_pPlugin.isNull()) {
         return;
     }
     m_bQuit = true;
+    // A plug-in that was never spoken to would begin its work now.
+    QCoreApplication::removePostedEvents(m_pPlugin, QEvent::User);
+    if (m_bSpoken) {
+        takeLeave();
+    }
+    // Only now: the end of a conference still writes its record.
+    m_store.close();
+}
+
+void HostSession::takeLeave()
+{
+    const bool connected = CallChannel::peer() != 0;
     emit eventPassed(false, MSG_EXIT_VOIP, EventWords::describe(MSG_EXIT_VOIP, QByteArray()), QString(), QByteArray(),
                      QByteArray());
     // Delivered at once: the process may end before the queue is read again.
     BaseEvent event(MSG_EXIT_VOIP, sessionPluginId(), voipPluginId(), false);
     QCoreApplication::sendEvent(m_pPlugin, &event);
-    // Only now: the end of a conference still writes its record.
-    m_store.close();
+    m_callService.end(connected);
 }

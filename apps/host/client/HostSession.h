@@ -1,5 +1,6 @@
 #pragma once
 
+#include "client/CallService.h"
 #include "client/ConferenceWish.h"
 #include "client/HostContext.h"
 #include "client/HostMailbox.h"
@@ -60,13 +61,16 @@ public:
     /// What the plug-in answers to the question for a video call.
     bool isVideoCall();
 
-    /// Tells the plug-in that the client quits and closes the store behind it. A second call does nothing.
+    /// Tells the plug-in that the client quits and closes the store behind it. No call process is left behind, however
+    /// early this comes. A second call does nothing.
     void quit();
 
     /// Where the plug-in's events arrive.
     HostMailbox &mailbox() { return m_mailbox; }
     /// The user's local store: whether it is open, and what has to be told of it.
     const HostStore &store() const { return m_store; }
+    /// The watch over the call process.
+    CallService &callService() { return m_callService; }
     /// The user's settings; to be used after start.
     HostSettings &settings() { return m_settings; }
     /// The plug-in's own words about itself, "FileManagePlugin {2EFF...}"; empty before start.
@@ -82,9 +86,14 @@ signals:
     /// The login came up or went down, by setOnline(). The plug-in is told after this.
     void onlineChanged(bool bOnline);
 
+protected:
+    /// Sees the plug-in's first command, with which it begins its work.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void post(EMsgId msgId, const QByteArray &payload);
     bool ask(EMsgId msgId);
+    void takeLeave();
     void sendCards(const QStringList &uids);
 
     ContactBook &m_book;
@@ -92,8 +101,10 @@ private:
     HostStore m_store;
     HostMailbox m_mailbox;
     HostSettings m_settings;
+    CallService m_callService;
     QPointer<QObject> m_pPlugin;
     QString m_strPlugin;
     bool m_bOnline = false;
+    bool m_bSpoken = false; // a command has reached the plug-in
     bool m_bQuit = false;
 };

@@ -7,6 +7,7 @@
 #include "client/HostSkins.h"
 #include "happenings/HappeningsPanel.h"
 #include "happenings/TraceFolder.h"
+#include "panes/CallServiceBar.h"
 #include "panes/MemberPicker.h"
 
 #include <QCloseEvent>
@@ -24,6 +25,7 @@ MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     ui->contactPane->fill(m_book);
     ui->callsPane->setModel(&m_records);
     setUpHappenings();
+    setUpCallService();
     connectParts();
     connectSession();
     takeSkin();
@@ -125,15 +127,33 @@ void MainWindow::startConference(const QStringList &named)
     }
 }
 
+void MainWindow::setUpCallService()
+{
+    const int place = ui->centralLayout->indexOf(ui->header) + 1;
+    ui->centralLayout->insertWidget(place, new CallServiceBar(m_session.callService(), ui->central));
+    connect(&m_session.callService(), &CallService::changed, this, &MainWindow::showService);
+}
+
 void MainWindow::showOnline(bool bOnline)
 {
     const QString name = m_book.nameOf(ContactBook::ownUid());
-    ui->lblOwnHead->setPixmap(HostPictures::head(name, ContactBook::ownUid(), 44,
-                                                 bOnline ? Presence::Online : Presence::Offline,
-                                                 m_book.card(ContactBook::ownUid())->m_strPhotoPath));
-    ui->btnOnline->setChecked(bOnline);
-    ui->btnOnline->setText(bOnline ? tr("&Online") : tr("&Offline"));
+    showService();
     statusBar()->showMessage(bOnline ? tr("Signed in as %1").arg(name) : tr("Signed out"));
+}
+
+void MainWindow::showService()
+{
+    const QString uid = ContactBook::ownUid();
+    const CallService::State state = m_session.callService().state();
+    const bool isLost = state == CallService::Lost || state == CallService::GivenUp;
+    const bool isReady = state == CallService::Ready;
+    ui->lblOwnHead->setPixmap(HostPictures::head(
+        m_book.nameOf(uid), uid, 44, isReady ? Presence::Online : Presence::Offline, m_book.card(uid)->m_strPhotoPath));
+    ui->btnOnline->setChecked(m_session.isOnline());
+    ui->btnOnline->setText(!m_session.isOnline() ? tr("&Offline")
+                           : isReady             ? tr("&Online")
+                           : isLost              ? tr("N&o call service")
+                                                 : tr("C&onnecting..."));
 }
 
 void MainWindow::showNotice()

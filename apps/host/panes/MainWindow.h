@@ -53,7 +53,10 @@ private:
     void call(const QString &strUid, bool bVideo);
     /// Lets the user pick people, those named checked from the start, and calls them together.
     void startConference(const QStringList &named);
+    void setUpCallService();
     void showOnline(bool bOnline);
+    /// Shows in the header whether the user is registered.
+    void showService();
     void showNotice();
     void tryStoreAgain();
     void showRecord(const CallRecord &record);

@@ -11,6 +11,7 @@
 #include "tour/TourCast.h"
 #include "tour/TourConference.h"
 #include "tour/TourScript.h"
+#include "tour/TourService.h"
 #include "tour/TourSettings.h"
 #include "tour/TourWatch.h"
 
@@ -258,9 +259,13 @@ Steps killed(const TourScript &s, const TourStage &stage)
 {
     return call(s, "Call 李雷 once more") +
            Steps{
-               {u("Kill the call process: the call stays on the screen and its clock runs on"),
-                done([process = &stage.process] { process->kill(); }),
-                {s.processes(0), s.shows("lblStatus", u(cConnected)), s.clockRuns()}},
+               {u("Kill the call process, and let none stay: the call stays on the screen and its clock runs on"),
+                done([process = &stage.process] {
+                    TourService::refuseToStart();
+                    process->kill();
+                }),
+                {s.processes(0), s.shows("lblStatus", u(cConnected)), s.clockRuns(),
+                 s.mainSays("btnOnline", u("No call service")), s.mainShows("CallServiceBar", true)}},
                {u("Hang up: the call is over although nobody hears of it"),
                 s.pressCallWindow("HangUp"),
                 {s.record(resultHungUp, true, true), s.windowGone()}},
@@ -271,11 +276,8 @@ Steps killed(const TourScript &s, const TourStage &stage)
                 u("message-no-process"),
                 s.messageBox()},
                {u("Close the message"), s.pressBox("closeBtn"), {s.boxGone()}},
-               {u("Start the call process again: the plug-in finds it by itself and registers the user"),
-                [process = &stage.process] { return process->start(); },
-                {s.processes(1), s.command(Command::RegeditUser, param1(ContactBook::cOwnId))},
-                2 * cUsualLimitMs},
-           };
+           } +
+           TourService::steps(stage);
 }
 
 TourCheck onlyMatchesShown(const TourStage &stage)

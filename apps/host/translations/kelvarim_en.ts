@@ -1088,6 +1088,14 @@
         <source>The local store is open</source>
         <translation>The local store is open</translation>
     </message>
+    <message>
+        <source>N&amp;o call service</source>
+        <translation>N&amp;o call service</translation>
+    </message>
+    <message>
+        <source>C&amp;onnecting...</source>
+        <translation>C&amp;onnecting...</translation>
+    </message>
 </context>
 <context>
     <name>MemberPicker</name>
@@ -1247,6 +1255,55 @@
     <message>
         <source>(no signature)</source>
         <translation>(no signature)</translation>
+    </message>
+</context>
+<context>
+    <name>CallServiceBar</name>
+    <message>
+        <source>Start the call service without waiting</source>
+        <translation>Start the call service without waiting</translation>
+    </message>
+    <message>
+        <source>Start it no&amp;w</source>
+        <translation>Start it no&amp;w</translation>
+    </message>
+    <message>
+        <source>Call service lost for a moment: it runs again, and the connection comes back by itself within a minute.</source>
+        <translation>Call service lost for a moment: it runs again, and the connection comes back by itself within a minute.</translation>
+    </message>
+    <message>
+        <source>The call service has not registered you, so nobody can call you. Sign out and in again.</source>
+        <translation>The call service has not registered you, so nobody can call you. Sign out and in again.</translation>
+    </message>
+    <message>
+        <source>It is being started again (try %1 of %2).</source>
+        <translation>It is being started again (try %1 of %2).</translation>
+    </message>
+    <message numerus="yes">
+        <source>It is started again in %n second(s) (try %1 of %2).</source>
+        <translation>
+            <numerusform>It is started again in %n second (try %1 of %2).</numerusform>
+            <numerusform>It is started again in %n seconds (try %1 of %2).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call service lost: no calls for the moment, and one that is still on the screen is over. %1 The client itself need not be restarted.</source>
+        <translation>Call service lost: no calls for the moment, and one that is still on the screen is over. %1 The client itself need not be restarted.</translation>
+    </message>
+    <message>
+        <source>The program cannot be started: %1</source>
+        <translation>The program cannot be started: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>It was started %n time(s) and did not stay.</source>
+        <translation>
+            <numerusform>It was started %n time and did not stay.</numerusform>
+            <numerusform>It was started %n times and did not stay.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call service lost, and given up. %1 Start it by the button; if that does not help, quit the client and start it again.</source>
+        <translation>Call service lost, and given up. %1 Start it by the button; if that does not help, quit the client and start it again.</translation>
     </message>
 </context>
 </TS>

@@ -43,6 +43,7 @@ private slots:
         const QStringList pictures = QDir(QStringLiteral("tour")).entryList({QStringLiteral("*.png")});
         QCOMPARE(pictures, (QStringList{QStringLiteral("call-incoming.png"),
                                         QStringLiteral("call-outgoing.png"),
+                                        QStringLiteral("call-service-lost.png"),
                                         QStringLiteral("call-video.png"),
                                         QStringLiteral("call-voice.png"),
                                         QStringLiteral("centre-card.png"),
