@@ -34,7 +34,7 @@ HostSession::~HostSession()
 
 bool HostSession::start(const QString &strModule, QString *strError)
 {
-    m_context.signIn(ContactBook::ownUid(), loginDomain(), m_book);
+    m_context.signIn(m_book.ownUid(), loginDomain(), m_book);
     SharedContext::setCommonData(m_context.data());
     openStore();
 
@@ -56,7 +56,7 @@ bool HostSession::start(const QString &strModule, QString *strError)
 
 bool HostSession::openStore()
 {
-    return m_store.open(ContactBook::ownUid(), SystemSetData::instance()->m_strMsgFilePath);
+    return m_store.open(m_book.ownUid(), SystemSetData::instance()->m_strMsgFilePath);
 }
 
 void HostSession::post(EMsgId msgId, const QByteArray &payload)

@@ -38,8 +38,9 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::fillHeader()
 {
-    ui->lblOwnName->setText(m_book.nameOf(ContactBook::ownUid()));
-    ui->lblOwnUid->setText(ContactBook::ownUid());
+    ui->lblOwnName->setText(m_book.nameOf(m_book.ownUid()));
+    ui->lblOwnUid->setText(m_book.ownUid());
+    setWindowTitle(QStringLiteral("%1 (%2) - %3").arg(ui->lblOwnName->text(), m_book.ownUid(), tr("KelvarIM demo")));
 }
 
 void MainWindow::connectParts()
@@ -136,14 +137,14 @@ void MainWindow::setUpCallService()
 
 void MainWindow::showOnline(bool bOnline)
 {
-    const QString name = m_book.nameOf(ContactBook::ownUid());
+    const QString name = m_book.nameOf(m_book.ownUid());
     showService();
     statusBar()->showMessage(bOnline ? tr("Signed in as %1").arg(name) : tr("Signed out"));
 }
 
 void MainWindow::showService()
 {
-    const QString uid = ContactBook::ownUid();
+    const QString uid = m_book.ownUid();
     const CallService::State state = m_session.callService().state();
     const bool isLost = state == CallService::Lost || state == CallService::GivenUp;
     const bool isReady = state == CallService::Ready;
@@ -183,10 +184,19 @@ void MainWindow::showRecord(const CallRecord &record)
                                  : tr("Call with %1: %2").arg(name, outcome));
 }
 
+void MainWindow::comeToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
 void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
+        fillHeader();
         showOnline(m_session.isOnline());
     }
     QMainWindow::changeEvent(event);

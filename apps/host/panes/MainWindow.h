@@ -38,6 +38,9 @@ public:
     /// The settings page, hidden while it is not asked for.
     SettingsPage &settingsPage() { return m_settingsPage; }
 
+    /// Shows the window above the others, out of the task bar where it was minimized, and asks for the keyboard.
+    void comeToFront();
+
 protected:
     void changeEvent(QEvent *event) override;
     /// Tells the plug-in that the client quits.

@@ -13,6 +13,7 @@
 #include "tour/TourScript.h"
 #include "tour/TourService.h"
 #include "tour/TourSettings.h"
+#include "tour/TourUsers.h"
 #include "tour/TourWatch.h"
 
 #include "plugin/EMsgId.h"
@@ -331,5 +332,5 @@ QList<TourStep> tourSteps(const TourStage &stage)
            call(s, "Call 李雷, who answers", u("call-voice")) + duringCall(s) + hangUp(s, "Hang up") + video(s, stage) +
            farEnd(s) + incoming(s) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
            call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + happenings(s, stage) +
-           settingsSteps(stage) + leave(s, stage);
+           settingsSteps(stage) + userSteps(stage) + leave(s, stage);
 }

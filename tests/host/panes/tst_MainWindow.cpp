@@ -332,7 +332,7 @@ private slots:
     {
         SystemSetData *settings = SystemSetData::instance();
         settings->initCommonData();
-        settings->initData(ContactBook::ownUid());
+        settings->initData(m_book.ownUid());
         QVERIFY(QDir().mkpath(settings->m_strUserFolder));
         QFile file(settings->m_strDatabasePath);
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no database") > 0);

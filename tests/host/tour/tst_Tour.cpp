@@ -63,6 +63,7 @@ private slots:
                                         QStringLiteral("incoming-prompt.png"),
                                         QStringLiteral("message-no-process.png"),
                                         QStringLiteral("message.png"),
+                                        QStringLiteral("second-user.png"),
                                         QStringLiteral("settings.png")}));
         for (const QString &picture : pictures) {
             const QImage image(QStringLiteral("tour/") + picture);
