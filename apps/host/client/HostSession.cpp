@@ -120,7 +120,8 @@ void HostSession::sendCards(const QStringList &uids)
 
 bool HostSession::isExistCall()
 {
-    return ask(MSG_IS_EXIST_CALL);
+    // A plug-in that was never spoken to would begin its work.
+    return m_bSpoken && ask(MSG_IS_EXIST_CALL);
 }
 
 bool HostSession::isVideoCall()

@@ -9,6 +9,7 @@
 #include "happenings/TraceFolder.h"
 #include "panes/CallServiceBar.h"
 #include "panes/MemberPicker.h"
+#include "panes/QuitQuestion.h"
 
 #include <QCloseEvent>
 #include <QScreen>
@@ -202,8 +203,30 @@ void MainWindow::changeEvent(QEvent *event)
     QMainWindow::changeEvent(event);
 }
 
+bool MainWindow::mayQuit()
+{
+    if (m_bQuitAgreed || !m_session.isExistCall()) {
+        return true;
+    }
+    if (auto *asked = findChild<QuitQuestion *>()) {
+        asked->activateWindow();
+        return false;
+    }
+    auto *question = new QuitQuestion(this);
+    connect(question, &QDialog::accepted, this, [this] {
+        m_bQuitAgreed = true;
+        close();
+    });
+    question->open();
+    return false;
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    if (!mayQuit()) {
+        event->ignore();
+        return;
+    }
     m_prompt.hide();
     m_signature.hide();
     m_settingsPage.hide();

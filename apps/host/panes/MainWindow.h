@@ -43,7 +43,7 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
-    /// Tells the plug-in that the client quits.
+    /// Tells the plug-in that the client quits; where a call is on, only when the person agrees.
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -62,6 +62,7 @@ private:
     void showService();
     void showNotice();
     void tryStoreAgain();
+    bool mayQuit();
     void showRecord(const CallRecord &record);
 
     std::unique_ptr<Ui::MainWindow> ui;
@@ -73,4 +74,5 @@ private:
     SettingsPage m_settingsPage;
     HappeningsPanel *m_pHappenings = nullptr;
     int m_iGrown = 0;
+    bool m_bQuitAgreed = false;
 };

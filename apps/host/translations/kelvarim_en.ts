@@ -1306,4 +1306,27 @@
         <translation>Call service lost, and given up. %1 Start it by the button; if that does not help, quit the client and start it again.</translation>
     </message>
 </context>
+<context>
+    <name>QuitQuestion</name>
+    <message>
+        <source>Quit</source>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>A call is on.</source>
+        <translation>A call is on.</translation>
+    </message>
+    <message>
+        <source>Quitting ends it.</source>
+        <translation>Quitting ends it.</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the call</source>
+        <translation>&amp;Keep the call</translation>
+    </message>
+</context>
 </TS>

@@ -1303,4 +1303,27 @@
         <translation>通话服务已中断，不再自动启动。%1请按按钮启动；如果无效，请退出客户端后重新启动。</translation>
     </message>
 </context>
+<context>
+    <name>QuitQuestion</name>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>A call is on.</source>
+        <translation>正在通话中。</translation>
+    </message>
+    <message>
+        <source>Quitting ends it.</source>
+        <translation>退出将结束通话。</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the call</source>
+        <translation>继续通话(&amp;K)</translation>
+    </message>
+</context>
 </TS>

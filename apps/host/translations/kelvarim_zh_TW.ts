@@ -1303,4 +1303,27 @@
         <translation>通話服務已中斷，不再自動啟動。%1請按按鈕啟動；如果無效，請結束用戶端後重新啟動。</translation>
     </message>
 </context>
+<context>
+    <name>QuitQuestion</name>
+    <message>
+        <source>Quit</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>A call is on.</source>
+        <translation>正在通話中。</translation>
+    </message>
+    <message>
+        <source>Quitting ends it.</source>
+        <translation>結束程式將結束通話。</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>結束(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the call</source>
+        <translation>繼續通話(&amp;K)</translation>
+    </message>
+</context>
 </TS>
