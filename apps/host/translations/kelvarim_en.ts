@@ -1329,4 +1329,31 @@
         <translation>&amp;Keep the call</translation>
     </message>
 </context>
+<context>
+    <name>TraceNote</name>
+    <message>
+        <source>it was started without a trace</source>
+        <translation>it was started without a trace</translation>
+    </message>
+    <message>
+        <source>it writes its trace to standard error</source>
+        <translation>it writes its trace to standard error</translation>
+    </message>
+    <message>
+        <source>it has not written its trace, %1</source>
+        <translation>it has not written its trace, %1</translation>
+    </message>
+    <message>
+        <source>its trace cannot be read: %1</source>
+        <translation>its trace cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>No lines of the wire can be shown. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</source>
+        <translation>No lines of the wire can be shown. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</translation>
+    </message>
+    <message>
+        <source>another user's</source>
+        <translation>another user's</translation>
+    </message>
+</context>
 </TS>

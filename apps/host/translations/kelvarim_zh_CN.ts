@@ -1326,4 +1326,31 @@
         <translation>继续通话(&amp;K)</translation>
     </message>
 </context>
+<context>
+    <name>TraceNote</name>
+    <message>
+        <source>it was started without a trace</source>
+        <translation>它启动时没有启用跟踪</translation>
+    </message>
+    <message>
+        <source>it writes its trace to standard error</source>
+        <translation>它把跟踪写到标准错误输出</translation>
+    </message>
+    <message>
+        <source>it has not written its trace, %1</source>
+        <translation>它没有写跟踪文件 %1</translation>
+    </message>
+    <message>
+        <source>its trace cannot be read: %1</source>
+        <translation>它的跟踪文件无法读取：%1</translation>
+    </message>
+    <message>
+        <source>No lines of the wire can be shown. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</source>
+        <translation>无法显示线路内容。通话进程是 %1（进程 %2），%3。请结束该进程，客户端会重新启动一个可以跟踪的；或者自行启动，并用 %4 指定一个文件。</translation>
+    </message>
+    <message>
+        <source>another user's</source>
+        <translation>另一用户的程序</translation>
+    </message>
+</context>
 </TS>

@@ -1326,4 +1326,31 @@
         <translation>繼續通話(&amp;K)</translation>
     </message>
 </context>
+<context>
+    <name>TraceNote</name>
+    <message>
+        <source>it was started without a trace</source>
+        <translation>它啟動時沒有啟用追蹤</translation>
+    </message>
+    <message>
+        <source>it writes its trace to standard error</source>
+        <translation>它把追蹤寫到標準錯誤輸出</translation>
+    </message>
+    <message>
+        <source>it has not written its trace, %1</source>
+        <translation>它沒有寫追蹤檔 %1</translation>
+    </message>
+    <message>
+        <source>its trace cannot be read: %1</source>
+        <translation>它的追蹤檔無法讀取：%1</translation>
+    </message>
+    <message>
+        <source>No lines of the wire can be shown. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</source>
+        <translation>無法顯示線路內容。通話行程是 %1（行程 %2），%3。請結束該行程，用戶端會重新啟動一個可以追蹤的；或者自行啟動，並用 %4 指定一個檔案。</translation>
+    </message>
+    <message>
+        <source>another user's</source>
+        <translation>另一使用者的程式</translation>
+    </message>
+</context>
 </TS>
