@@ -1348,8 +1348,8 @@
         <translation>its trace cannot be read: %1</translation>
     </message>
     <message>
-        <source>No lines of the wire can be shown. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</source>
-        <translation>No lines of the wire can be shown. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</translation>
+        <source>Lines of the wire cannot be shown at present. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</source>
+        <translation>Lines of the wire cannot be shown at present. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</translation>
     </message>
     <message>
         <source>another user's</source>

@@ -1345,7 +1345,7 @@
         <translation>它的跟踪文件无法读取：%1</translation>
     </message>
     <message>
-        <source>No lines of the wire can be shown. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</source>
+        <source>Lines of the wire cannot be shown at present. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</source>
         <translation>无法显示线路内容。通话进程是 %1（进程 %2），%3。请结束该进程，客户端会重新启动一个可以跟踪的；或者自行启动，并用 %4 指定一个文件。</translation>
     </message>
     <message>

@@ -1345,7 +1345,7 @@
         <translation>它的追蹤檔無法讀取：%1</translation>
     </message>
     <message>
-        <source>No lines of the wire can be shown. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</source>
+        <source>Lines of the wire cannot be shown at present. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</source>
         <translation>無法顯示線路內容。通話行程是 %1（行程 %2），%3。請結束該行程，用戶端會重新啟動一個可以追蹤的；或者自行啟動，並用 %4 指定一個檔案。</translation>
     </message>
     <message>
