@@ -1,13 +1,9 @@
 #include "callprocess/SocketClaim.h"
 
+#include "wire/SocketProbe.h"
+
 #include <QDir>
 #include <QFile>
-
-#include <cerrno>
-#include <cstring>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 namespace {
 
@@ -29,21 +25,5 @@ QString SocketClaim::socketPath(const QString &serverName)
 
 bool SocketClaim::isAnswered(const QString &socketFile)
 {
-    const QByteArray path = QFile::encodeName(socketFile);
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    if (path.size() >= static_cast<int>(sizeof(address.sun_path))) {
-        return false;
-    }
-    std::memcpy(address.sun_path, path.constData(), static_cast<size_t>(path.size()));
-    // A datagram socket that connects to a live stream socket gets EPROTOTYPE, and ECONNREFUSED from a file that a dead
-    // process left. A stream connection would tell as much, but a live process would take it for its client's return.
-    const int probe = ::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-    if (probe < 0) {
-        return false;
-    }
-    const int result = ::connect(probe, reinterpret_cast<const sockaddr *>(&address), sizeof(address));
-    const bool taken = result == 0 || errno == EPROTOTYPE;
-    ::close(probe);
-    return taken;
+    return Wire::isAnswered(QFile::encodeName(socketFile).toStdString());
 }

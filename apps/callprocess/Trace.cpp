@@ -25,7 +25,9 @@ bool Trace::open(const QString &path, QString *error)
     // Appended and unbuffered: a predecessor's records stay, and a killed process leaves all of its own.
     const QIODevice::OpenMode mode = QIODevice::Append | QIODevice::Unbuffered;
     m_file.setFileName(path);
-    const bool open = m_onStandardError ? m_file.open(stderr, mode) : m_file.open(mode);
+    // Standard error may be a pipe, which has no end to append at.
+    const bool open =
+        m_onStandardError ? m_file.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered) : m_file.open(mode);
     if (!open) {
         *error = QStringLiteral("cannot write the trace %1: %2").arg(path, m_file.errorString());
     }

@@ -2,6 +2,7 @@
 #include "GalleryUser.h"
 #include "GalleryWindow.h"
 #include "PictureRun.h"
+#include "client/EndSignals.h"
 #include "client/HostCatalogue.h"
 #include "client/HostLanguage.h"
 #include "client/WindowFont.h"
@@ -18,6 +19,8 @@ namespace {
 
 // Exit code for bad arguments.
 constexpr int cBadArguments = 2;
+// Exit code of a gallery that was ended by a signal.
+constexpr int cEndedFromOutside = 130;
 constexpr int cFontPixels = 12;
 
 struct Options
@@ -54,12 +57,13 @@ Options readOptions(const QCoreApplication &app)
             parser.value(language)};
 }
 
-int run(const Options &options, const GalleryPage *page)
+int run(const Options &options, const GalleryPage *page, const EndSignals &endSignals)
 {
     if (options.pictureFolder.isNull()) {
         GalleryWindow window(page);
         window.show();
-        return QApplication::exec();
+        // The pages make pictures of windows, for which events are dealt with.
+        return endSignals.isEndRequested() ? cEndedFromOutside : QApplication::exec();
     }
     // A text cursor that does not blink is in every picture or in none.
     QApplication::setCursorFlashTime(0);
@@ -95,6 +99,9 @@ int main(int argc, char **argv)
     HostCatalogue catalogue;
     catalogue.read(HostCatalogue::folder(), options.language);
     QCoreApplication::installTranslator(&catalogue);
+    // So that the folder of the user goes then, too.
+    const EndSignals endSignals;
+    QObject::connect(&endSignals, &EndSignals::endRequested, &app, [] { QCoreApplication::exit(cEndedFromOutside); });
     const GalleryUser user;
-    return run(options, page);
+    return run(options, page, endSignals);
 }

@@ -3,6 +3,8 @@
 #include "client/EndSignals.h"
 #include "client/HostLanguage.h"
 #include "client/HostSession.h"
+#include "client/PrivateTemp.h"
+#include "client/SingleInstance.h"
 #include "client/WindowFont.h"
 #include "common/log/QtWarningFilter.h"
 #include "happenings/DebugChannel.h"
@@ -30,13 +32,28 @@ namespace {
 constexpr const char *cTourSpeed = "2";
 // Leaves room for the call window beside the client's.
 constexpr QPoint cTourCorner(20, 20);
+// Exit code for bad arguments.
+constexpr int cBadArguments = 2;
 // Exit code of a client that was ended by a signal.
 constexpr int cEndedFromOutside = 130;
 // Log, store and settings tell who calls whom, the log also what this client signs in with: nobody else reads them.
 constexpr mode_t cOwnerOnly = 077;
 
-/// The folder given by --tour, or a null text. Ends the program itself for --help and for bad arguments.
-QString readTourFolder(const QCoreApplication &app)
+struct Options
+{
+    QString tourFolder; ///< null: no tour
+    QString user;
+    bool isUserNamed = false;
+};
+
+int complain(int iExitCode, const QString &strWords)
+{
+    QTextStream(stderr) << strWords << '\n';
+    return iExitCode;
+}
+
+/// Ends the program itself for --help and for bad arguments.
+Options readOptions(const QCoreApplication &app)
 {
     QCommandLineParser options;
     options.setApplicationDescription(QStringLiteral("KelvarIM demo: a client with the voice and video call plug-in"));
@@ -44,9 +61,38 @@ QString readTourFolder(const QCoreApplication &app)
     const QCommandLineOption tour(QStringLiteral("tour"),
                                   QStringLiteral("Runs the guided tour; pictures and traces go to this folder."),
                                   QStringLiteral("folder"));
-    options.addOption(tour);
+    const QCommandLineOption user(QStringLiteral("user"),
+                                  QStringLiteral("Signs in as this contact, with a temporary folder and a call process "
+                                                 "of its own."),
+                                  QStringLiteral("ID"), QString::fromLatin1(ContactBook::cOwnId));
+    options.addOptions({tour, user});
     options.process(app);
-    return options.isSet(tour) ? QDir(options.value(tour)).absolutePath() : QString();
+    const Options read{options.isSet(tour) ? QDir(options.value(tour)).absolutePath() : QString(), options.value(user),
+                       options.isSet(user)};
+    if (!ContactBook::users().contains(read.user)) {
+        std::exit(complain(cBadArguments, QStringLiteral("no contact %1; there are %2")
+                                              .arg(read.user, ContactBook::users().join(QStringLiteral(", ")))));
+    }
+    if (options.isSet(tour) && options.isSet(user)) {
+        std::exit(complain(cBadArguments, QStringLiteral("the tour chooses its user itself")));
+    }
+    return read;
+}
+
+/// Whether this client goes on: it is the first one of its user. If not, the exit code is set.
+bool isFirst(SingleInstance &instance, bool bTour, int *iExitCode)
+{
+    const SingleInstance::Outcome outcome = instance.claim(!bTour);
+    if (outcome == SingleInstance::Second) {
+        *iExitCode = complain(EXIT_SUCCESS, QStringLiteral("This user's client runs already, as process %1; its window "
+                                                           "has come to the front")
+                                                .arg(instance.other()));
+    } else if (outcome == SingleInstance::Silent) {
+        *iExitCode = complain(
+            EXIT_FAILURE,
+            QStringLiteral("This user's client runs already, as process %1; end it first").arg(instance.other()));
+    }
+    return outcome == SingleInstance::First;
 }
 
 /// Makes the folder and tells the call process, by the environment that it inherits, how the tour wants it.
@@ -101,7 +147,17 @@ int main(int argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication app(argc, argv);
     const QtWarningFilter filter;
-    const QString folder = readTourFolder(app);
+    const Options options = readOptions(app);
+    const QString &folder = options.tourFolder;
+    QString error;
+    if (!PrivateTemp::use(options.user, options.isUserNamed, &error)) {
+        return complain(EXIT_FAILURE, error);
+    }
+    SingleInstance instance(options.user);
+    int exitCode = 0;
+    if (!isFirst(instance, !folder.isNull(), &exitCode)) {
+        return exitCode;
+    }
     QString traceFile;
     std::unique_ptr<DebugChannel> debug;
     if (!folder.isNull()) {
@@ -121,14 +177,13 @@ int main(int argc, char **argv)
     if (!language.use(folder.isNull() ? HostSettings::language() : QStringLiteral("en"))) {
         QTextStream(stderr) << "No translations in " << HostCatalogue::folder() << '\n';
     }
-    ContactBook book(HostSession::loginDomain());
+    ContactBook book(HostSession::loginDomain(), options.user);
     HostSession session(book);
-    QString error;
     if (!session.start(QCoreApplication::applicationDirPath() + QStringLiteral("/libVoipManage.so"), &error)) {
-        QTextStream(stderr) << error << '\n';
-        return EXIT_FAILURE;
+        return complain(EXIT_FAILURE, error);
     }
     QObject::connect(&session.settings(), &HostSettings::languageChanged, &language, &HostLanguage::use);
     MainWindow window(session, book);
+    QObject::connect(&instance, &SingleInstance::frontWanted, &window, &MainWindow::comeToFront);
     return folder.isNull() ? runByHand(session, window) : runTour(session, window, folder, traceFile);
 }

@@ -43,10 +43,30 @@ constexpr bool everyRobotIsThere()
 }
 static_assert(everyRobotIsThere(), "a robot that is in nobody's list of contacts");
 
-constexpr const char *cOwnName = "小明";
+// Who signs in where nobody is named: no robot, so nobody takes a call there.
+constexpr Row cOwner{ContactBook::cOwnId, "小明",  "Takes no calls", "每天都是新的一天", true,
+                     Presence::Offline,   "16.jpg"};
 constexpr const char *cOwnAlternative = "You";
-constexpr const char *cOwnPhoto = "16.jpg";
-constexpr const char *cOwnSignature = "每天都是新的一天";
+
+ContactBook::Entry entryOf(const Row &row)
+{
+    return {QString::fromLatin1(row.uid),
+            QString::fromUtf8(row.nick),
+            QString::fromLatin1(row.alternative),
+            row.known,
+            row.presence,
+            QString::fromLatin1(row.photo)};
+}
+
+/// The same person, as seen by oneself.
+ContactBook::Entry ownEntryOf(const Row &row)
+{
+    ContactBook::Entry entry = entryOf(row);
+    entry.alternative = QString::fromLatin1(cOwnAlternative);
+    entry.known = true;
+    entry.presence = Presence::Online;
+    return entry;
+}
 
 VcardInfo makeCard(const ContactBook::Entry &entry, const char *strSignature)
 {
@@ -62,21 +82,32 @@ VcardInfo makeCard(const ContactBook::Entry &entry, const char *strSignature)
 
 } // namespace
 
-ContactBook::ContactBook(const QString &strDomain) : m_strDomain(strDomain)
+ContactBook::ContactBook(const QString &strDomain, const QString &strOwnUid)
+    : m_strDomain(strDomain), m_strOwnUid(strOwnUid)
 {
     for (const Row &row : cRows) {
-        const Entry entry{QString::fromLatin1(row.uid),
-                          QString::fromUtf8(row.nick),
-                          QString::fromLatin1(row.alternative),
-                          row.known,
-                          row.presence,
-                          QString::fromLatin1(row.photo)};
-        m_entries.append(entry);
-        add(entry, row.signature);
+        if (m_strOwnUid == QLatin1String(row.uid)) {
+            add(ownEntryOf(row), row.signature);
+            continue;
+        }
+        m_entries.append(entryOf(row));
+        add(m_entries.constLast(), row.signature);
     }
-    add({ownUid(), QString::fromUtf8(cOwnName), QString::fromLatin1(cOwnAlternative), true, Presence::Online,
-         QString::fromLatin1(cOwnPhoto)},
-        cOwnSignature);
+    if (m_strOwnUid == QLatin1String(cOwner.uid)) {
+        add(ownEntryOf(cOwner), cOwner.signature);
+    } else {
+        m_entries.append(entryOf(cOwner));
+        add(m_entries.constLast(), cOwner.signature);
+    }
+}
+
+QStringList ContactBook::users()
+{
+    QStringList uids{QString::fromLatin1(cOwner.uid)};
+    for (const Row &row : cRows) {
+        uids << QString::fromLatin1(row.uid);
+    }
+    return uids;
 }
 
 void ContactBook::add(const Entry &entry, const char *strSignature)
@@ -89,11 +120,6 @@ void ContactBook::add(const Entry &entry, const char *strSignature)
     FriendData record(jidOf(entry.uid));
     record.setVcardInfo(card);
     m_friends.emplace(jidOf(entry.uid), record);
-}
-
-QString ContactBook::ownUid()
-{
-    return QString::fromLatin1(cOwnId);
 }
 
 QMap<QString, FriendData> ContactBook::friendMap() const

@@ -8,6 +8,7 @@
 #include <QList>
 #include <QMap>
 #include <QString>
+#include <QStringList>
 
 #include <map>
 
@@ -29,13 +30,17 @@ public:
         QString photo; ///< name of the built-in head picture; empty for none
     };
 
-    /// Builds the records for the login domain `strDomain`.
-    explicit ContactBook(const QString &strDomain);
-
-    /// User id of the signed-in user, for tables.
+    /// User id of the user who signs in where nobody is named.
     static constexpr const char *cOwnId = Robots::cOwnUser;
-    /// The same as a text.
-    static QString ownUid();
+
+    /// Builds the records for the login domain `strDomain`, as the user `strOwnUid` has them.
+    explicit ContactBook(const QString &strDomain, const QString &strOwnUid = QString::fromLatin1(cOwnId));
+
+    /// The ids of all who may sign in.
+    static QStringList users();
+
+    /// User id of the signed-in user.
+    QString ownUid() const { return m_strOwnUid; }
 
     /// Everybody but the own user, in the order of the list.
     const QList<Entry> &entries() const { return m_entries; }
@@ -73,6 +78,7 @@ private:
     static const FriendData *find(const std::map<QString, FriendData> &records, const QString &strJid);
 
     QString m_strDomain;
+    QString m_strOwnUid;
     QList<Entry> m_entries;
     std::map<QString, FriendData> m_friends;
     std::map<QString, FriendData> m_strangers;

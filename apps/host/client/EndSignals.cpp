@@ -50,5 +50,6 @@ void EndSignals::read()
 {
     char bytes[16];
     static_cast<void>(!::read(ends[1], bytes, sizeof bytes));
+    m_bRequested = true;
     emit endRequested();
 }

@@ -14,6 +14,10 @@ public:
     ~EndSignals() override;
     Q_DISABLE_COPY(EndSignals)
 
+    /// Whether one of the signals has come. Nobody ends an event loop that has not begun, so a program looks before it
+    /// begins its own.
+    bool isEndRequested() const { return m_bRequested; }
+
 signals:
     /// One of the signals has come.
     void endRequested();
@@ -22,4 +26,5 @@ private:
     void read();
 
     QSocketNotifier m_notifier;
+    bool m_bRequested = false;
 };

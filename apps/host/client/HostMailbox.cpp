@@ -95,7 +95,7 @@ void HostMailbox::createConference(BaseEvent &event)
     for (const QString &jid : asked) {
         uids << ContactBook::uidOf(jid);
     }
-    uids.removeAll(ContactBook::ownUid());
+    uids.removeAll(m_book.ownUid());
     uids.removeAll(QString());
     uids.removeDuplicates();
     emit conferenceWanted(uids);

@@ -40,9 +40,9 @@ HostSession::~HostSession()
 
 bool HostSession::start(const QString &strModule, QString *strError)
 {
-    m_context.signIn(ContactBook::ownUid(), loginDomain(), m_book);
+    m_context.signIn(m_book.ownUid(), loginDomain(), m_book);
     SharedContext::setCommonData(m_context.data());
-    m_history.open(SystemSetData::instance()->m_strUserFolder, ContactBook::ownUid());
+    m_history.open(SystemSetData::instance()->m_strUserFolder, m_book.ownUid());
     openStore();
 
     QPluginLoader loader(strModule);
@@ -56,13 +56,14 @@ bool HostSession::start(const QString &strModule, QString *strError)
     plugin->setCommonData(m_context.data());
     plugin->setSendEventHandle(&m_mailbox);
     m_pPlugin = plugin->getReceiveEventHandle();
+    m_pPlugin->installEventFilter(this);
     m_strPlugin = plugin->getPluginName() + QLatin1Char(' ') + plugin->getPluginId();
     return true;
 }
 
 bool HostSession::openStore()
 {
-    const bool bOpen = m_store.open(ContactBook::ownUid(), SystemSetData::instance()->m_strMsgFilePath);
+    const bool bOpen = m_store.open(m_book.ownUid(), SystemSetData::instance()->m_strMsgFilePath);
     if (bOpen) {
         m_history.adopt(DBConfInfo::getAllConfInfo());
     }
@@ -99,7 +100,8 @@ bool HostSession::ask(EMsgId msgId)
 
 bool HostSession::askQuietly(EMsgId msgId, QByteArray *pAnswer) const
 {
-    if (m_pPlugin.isNull()) {
+    // A plug-in that was never spoken to would begin its work.
+    if (m_pPlugin.isNull() || !m_bSpoken) {
         return false;
     }
     BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false);
@@ -113,6 +115,7 @@ void HostSession::setOnline(bool bOnline)
     m_bOnline = bOnline;
     emit onlineChanged(bOnline);
     post(MSG_CLIENT_CONNECT_STATUS, packPayload(bOnline));
+    m_callService.setWanted(bOnline && !m_pPlugin.isNull());
 }
 
 void HostSession::callUser(const QString &strUid, bool bVideo)
@@ -147,12 +150,19 @@ void HostSession::sendCards(const QStringList &uids)
 
 bool HostSession::isExistCall()
 {
-    return ask(MSG_IS_EXIST_CALL);
+    // A plug-in that was never spoken to would begin its work.
+    return m_bSpoken && ask(MSG_IS_EXIST_CALL);
 }
 
 bool HostSession::isVideoCall()
 {
     return ask(MSG_IS_VIDEO_CALL);
+}
+
+bool HostSession::eventFilter(QObject *watched, QEvent *event)
+{
+    m_bSpoken = m_bSpoken || event->type() == QEvent::User;
+    return QObject::eventFilter(watched, event);
 }
 
 void HostSession::quit()
@@ -161,13 +171,24 @@ void HostSession::quit()
         return;
     }
     m_bQuit = true;
+    // A plug-in that was never spoken to would begin its work now.
+    QCoreApplication::removePostedEvents(m_pPlugin, QEvent::User);
+    if (m_bSpoken) {
+        takeLeave();
+    }
+    // Only now: the end of a conference still writes its record.
+    m_calls.look();
+    m_history.close();
+    m_store.close();
+}
+
+void HostSession::takeLeave()
+{
+    const bool connected = CallChannel::peer() != 0;
     pass(false, MSG_EXIT_VOIP, EventWords::describe(MSG_EXIT_VOIP, QByteArray()), QString(), QByteArray(),
          QByteArray());
     // Delivered at once: the process may end before the queue is read again.
     BaseEvent event(MSG_EXIT_VOIP, sessionPluginId(), voipPluginId(), false);
     QCoreApplication::sendEvent(m_pPlugin, &event);
-    // Only now: the end of a conference still writes its record.
-    m_calls.look();
-    m_history.close();
-    m_store.close();
+    m_callService.end(connected);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "client/CallService.h"
 #include "client/ConferenceWish.h"
 #include "client/HostContext.h"
 #include "client/HostMailbox.h"
@@ -62,7 +63,8 @@ public:
     /// What the plug-in answers to the question for a video call.
     bool isVideoCall();
 
-    /// Tells the plug-in that the client quits and closes the store behind it. A second call does nothing.
+    /// Tells the plug-in that the client quits and closes the store behind it. No call process is left behind, however
+    /// early this comes. A second call does nothing.
     void quit();
 
     /// Where the plug-in's events arrive.
@@ -73,6 +75,8 @@ public:
     CallHistory &history() { return m_history; }
     /// The call that is on.
     const CallWatch &calls() const { return m_calls; }
+    /// The watch over the call process.
+    CallService &callService() { return m_callService; }
     /// The user's settings; to be used after start.
     HostSettings &settings() { return m_settings; }
     /// The plug-in's own words about itself, "FileManagePlugin {2EFF...}"; empty before start.
@@ -88,12 +92,17 @@ signals:
     /// The login came up or went down, by setOnline(). The plug-in is told after this.
     void onlineChanged(bool bOnline);
 
+protected:
+    /// Sees the plug-in's first command, with which it begins its work.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void post(EMsgId msgId, const QByteArray &payload);
     bool ask(EMsgId msgId);
     bool askQuietly(EMsgId msgId, QByteArray *pAnswer) const;
     void pass(bool bFromPlugin, int iMsgId, const QString &strWords, const QString &strAnswer,
               const QByteArray &payload, const QByteArray &reply);
+    void takeLeave();
     void sendCards(const QStringList &uids);
 
     ContactBook &m_book;
@@ -103,8 +112,10 @@ private:
     HostSettings m_settings;
     CallHistory m_history;
     CallWatch m_calls;
+    CallService m_callService;
     QPointer<QObject> m_pPlugin;
     QString m_strPlugin;
     bool m_bOnline = false;
+    bool m_bSpoken = false; // a command has reached the plug-in
     bool m_bQuit = false;
 };

@@ -36,6 +36,14 @@ HappeningsFeed::HappeningsFeed(HostSession &session, const QString &strTraceFile
     m_timer.start(cLookEveryMs);
 }
 
+void HappeningsFeed::follow(const QString &strTraceFile)
+{
+    if (m_trace.file() != strTraceFile) {
+        look();
+        m_trace = WireTrace(strTraceFile);
+    }
+}
+
 void HappeningsFeed::setPaused(bool bPaused)
 {
     m_bPaused = bPaused;

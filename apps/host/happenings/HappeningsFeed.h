@@ -23,6 +23,9 @@ public:
     HappeningsFeed(HostSession &session, const QString &strTraceFile, HappeningsModel &model,
                    QObject *parent = nullptr);
 
+    /// Follows another trace from now on, from its beginning; the one that is followed already goes on.
+    void follow(const QString &strTraceFile);
+
     /// While paused, what happens waits, as many rows as the model has place for: the oldest are dropped.
     void setPaused(bool bPaused);
     bool isPaused() const { return m_bPaused; }

@@ -1,6 +1,9 @@
 #include "happenings/HappeningsPanel.h"
 #include "ui_HappeningsPanel.h"
 
+#include "client/HostSession.h"
+#include "happenings/TraceNote.h"
+
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -9,13 +12,15 @@
 #include <algorithm>
 
 HappeningsPanel::HappeningsPanel(HostSession &session, const QString &strTraceFile, QWidget *parent)
-    : QWidget(parent), ui(std::make_unique<Ui::HappeningsPanel>()), m_filter(m_model),
+    : QWidget(parent), ui(std::make_unique<Ui::HappeningsPanel>()), m_service(session.callService()), m_filter(m_model),
       m_feed(session, strTraceFile, m_model)
 {
     ui->setupUi(this);
     setUpView();
     setUpActions();
     connectFilter();
+    takeTrace();
+    connect(&m_service, &CallService::changed, this, &HappeningsPanel::takeTrace);
     connect(&m_feed, &HappeningsFeed::aboutToTake, this, &HappeningsPanel::rememberPlace);
     connect(&m_feed, &HappeningsFeed::taken, this, &HappeningsPanel::restorePlace);
     connect(ui->btnPause, &QPushButton::toggled, &m_feed, &HappeningsFeed::setPaused);
@@ -32,6 +37,16 @@ HappeningsPanel::~HappeningsPanel()
     // of that.
     ui->viewHappenings->verticalScrollBar()->disconnect(this);
     ui->viewHappenings->selectionModel()->disconnect(this);
+}
+
+void HappeningsPanel::takeTrace()
+{
+    // While nobody is connected, the next one is expected to write where the last one did.
+    if (m_service.process() != 0) {
+        m_feed.follow(m_service.trace().file);
+    }
+    ui->lblTrace->setText(TraceNote::of(m_service));
+    ui->lblTrace->setVisible(!ui->lblTrace->text().isEmpty());
 }
 
 QSize HappeningsPanel::sizeHint() const
@@ -198,6 +213,7 @@ void HappeningsPanel::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
         m_model.retranslate();
+        takeTrace();
         showDetail();
         showCount();
     }

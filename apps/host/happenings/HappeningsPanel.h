@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class CallService;
 class HostSession;
 
 namespace Ui {
@@ -22,7 +23,9 @@ class HappeningsPanel : public QWidget
     Q_OBJECT
 
 public:
-    /// `strTraceFile` is where the call process writes its trace; empty for none: then only events show.
+    /// `strTraceFile` is where the call process that is about to be started writes its trace; empty for none. Another one
+    /// that the plug-in is connected to is followed where it writes its own; where it writes none, the panel says so, and
+    /// how to get one, and only events show.
     HappeningsPanel(HostSession &session, const QString &strTraceFile, QWidget *parent = nullptr);
     ~HappeningsPanel() override;
 
@@ -40,6 +43,7 @@ protected:
 
 private:
     void setUpView();
+    void takeTrace();
     void setUpActions();
     void connectFilter();
     void setFollowing(bool bFollow);
@@ -55,6 +59,7 @@ private:
     QModelIndexList shownRows() const;
 
     std::unique_ptr<Ui::HappeningsPanel> ui;
+    const CallService &m_service;
     HappeningsModel m_model;
     HappeningsFilter m_filter;
     HappeningsFeed m_feed;

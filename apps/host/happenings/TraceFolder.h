@@ -5,6 +5,8 @@
 
 /// Sees to it that the call process, which inherits this process's environment, writes its trace where it can be
 /// followed: a place that is named in the environment stays, else it is a temporary folder that goes with this object.
+/// What clients that were killed have left in the temporary folder goes too, as soon as no call process writes there
+/// any more.
 class TraceFolder
 {
 public:
@@ -12,6 +14,7 @@ public:
     static constexpr const char *cVariable = "VOIPSDK_TRACE";
 
     TraceFolder();
+    Q_DISABLE_COPY(TraceFolder)
 
     /// The file that the environment names; empty when there is none to follow.
     static QString file();

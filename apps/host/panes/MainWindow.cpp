@@ -7,7 +7,9 @@
 #include "client/HostSkins.h"
 #include "happenings/HappeningsPanel.h"
 #include "happenings/TraceFolder.h"
+#include "panes/CallServiceBar.h"
 #include "panes/MemberPicker.h"
+#include "panes/QuitQuestion.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -28,6 +30,7 @@ MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     ui->contactPane->fill(m_book);
     ui->callsPane->show(&m_session.history(), &m_book);
     setUpHappenings();
+    setUpCallService();
     connectParts();
     connectSession();
     connectCalls();
@@ -41,8 +44,9 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::fillHeader()
 {
-    ui->lblOwnName->setText(m_book.nameOf(ContactBook::ownUid()));
-    ui->lblOwnUid->setText(ContactBook::ownUid());
+    ui->lblOwnName->setText(m_book.nameOf(m_book.ownUid()));
+    ui->lblOwnUid->setText(m_book.ownUid());
+    setWindowTitle(QStringLiteral("%1 (%2) - %3").arg(ui->lblOwnName->text(), m_book.ownUid(), tr("KelvarIM demo")));
 }
 
 void MainWindow::connectParts()
@@ -170,16 +174,34 @@ void MainWindow::startConference(const QStringList &named, bool bFromPlugin)
     }
 }
 
+void MainWindow::setUpCallService()
+{
+    const int place = ui->centralLayout->indexOf(ui->header) + 1;
+    ui->centralLayout->insertWidget(place, new CallServiceBar(m_session.callService(), ui->central));
+    connect(&m_session.callService(), &CallService::changed, this, &MainWindow::showService);
+}
+
 void MainWindow::showOnline(bool bOnline)
 {
-    const QString name = m_book.nameOf(ContactBook::ownUid());
-    ui->lblOwnHead->setPixmap(HostPictures::head(name, ContactBook::ownUid(), 44,
-                                                 bOnline ? Presence::Online : Presence::Offline,
-                                                 m_book.card(ContactBook::ownUid())->m_strPhotoPath));
-    ui->btnOnline->setChecked(bOnline);
-    ui->btnOnline->setText(bOnline ? tr("&Online") : tr("&Offline"));
+    const QString name = m_book.nameOf(m_book.ownUid());
+    showService();
     m_readiness.setSignedIn(bOnline);
     m_status.say(bOnline ? tr("Signed in as %1").arg(name) : tr("Signed out"));
+}
+
+void MainWindow::showService()
+{
+    const QString uid = m_book.ownUid();
+    const CallService::State state = m_session.callService().state();
+    const bool isLost = state == CallService::Lost || state == CallService::GivenUp;
+    const bool isReady = state == CallService::Ready;
+    ui->lblOwnHead->setPixmap(HostPictures::head(
+        m_book.nameOf(uid), uid, 44, isReady ? Presence::Online : Presence::Offline, m_book.card(uid)->m_strPhotoPath));
+    ui->btnOnline->setChecked(m_session.isOnline());
+    ui->btnOnline->setText(!m_session.isOnline() ? tr("&Offline")
+                           : isReady             ? tr("&Online")
+                           : isLost              ? tr("N&o call service")
+                                                 : tr("C&onnecting..."));
 }
 
 void MainWindow::showNotice()
@@ -199,18 +221,49 @@ void MainWindow::tryStoreAgain()
     }
 }
 
+void MainWindow::comeToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
 void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
+        fillHeader();
         showOnline(m_session.isOnline());
         showReadiness();
     }
     QMainWindow::changeEvent(event);
 }
 
+bool MainWindow::mayQuit()
+{
+    if (m_bQuitAgreed || !m_session.isExistCall()) {
+        return true;
+    }
+    if (auto *asked = findChild<QuitQuestion *>()) {
+        asked->activateWindow();
+        return false;
+    }
+    auto *question = new QuitQuestion(this);
+    connect(question, &QDialog::accepted, this, [this] {
+        m_bQuitAgreed = true;
+        close();
+    });
+    question->open();
+    return false;
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    if (!mayQuit()) {
+        event->ignore();
+        return;
+    }
     m_prompt.hide();
     m_signature.hide();
     m_settingsPage.hide();

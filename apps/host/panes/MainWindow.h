@@ -39,9 +39,12 @@ public:
     /// The settings page, hidden while it is not asked for.
     SettingsPage &settingsPage() { return m_settingsPage; }
 
+    /// Shows the window above the others, out of the task bar where it was minimized, and asks for the keyboard.
+    void comeToFront();
+
 protected:
     void changeEvent(QEvent *event) override;
-    /// Tells the plug-in that the client quits.
+    /// Tells the plug-in that the client quits; where a call is on, only when the person agrees.
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -55,13 +58,17 @@ private:
     /// Lets the user pick people, those named checked from the start, and calls them together.
     /// `bFromPlugin`: one of its windows has asked for it.
     void startConference(const QStringList &named, bool bFromPlugin);
+    void setUpCallService();
     void showOnline(bool bOnline);
+    /// Shows in the header whether the user is registered.
+    void showService();
     void showNotice();
     void tryStoreAgain();
     void connectCalls();
     void showReadiness();
     /// Says why no call can be placed now, in a box where the user looks elsewhere; false when one can.
     bool refuses(bool bInBox);
+    bool mayQuit();
 
     std::unique_ptr<Ui::MainWindow> ui;
     HostSession &m_session;
@@ -73,4 +80,5 @@ private:
     SettingsPage m_settingsPage;
     HappeningsPanel *m_pHappenings = nullptr;
     int m_iGrown = 0;
+    bool m_bQuitAgreed = false;
 };

@@ -136,8 +136,8 @@ Steps end(const TourScript &s)
     return Steps{{u("Hang up: the conference is over for this side"),
                   s.pressCallWindow("HangUp"),
                   {s.command(Command::HangupConf), s.windowGone()}}} +
-           stored("Look into the user's store", ContactBook::ownUid(),
-                  {busy, rejects, silent, fails, hangsUp, ContactBook::ownUid(), comesBack});
+           stored("Look into the user's store", QLatin1String(ContactBook::cOwnId),
+                  {busy, rejects, silent, fails, hangsUp, QLatin1String(ContactBook::cOwnId), comesBack});
 }
 
 Steps invited(const TourScript &s)
@@ -157,7 +157,7 @@ Steps invited(const TourScript &s)
                 s.callWindow()},
                {u("Wait for Ivan Petrov to end it"), {}, {s.code(Code::CallEnded, "ended"), s.windowGone()}},
            } +
-           stored("Look into the user's store again", invites, {invites, ContactBook::ownUid(), answers});
+           stored("Look into the user's store again", invites, {invites, QLatin1String(ContactBook::cOwnId), answers});
 }
 
 Steps refused(const TourScript &s)

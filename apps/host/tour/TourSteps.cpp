@@ -12,7 +12,9 @@
 #include "tour/TourConference.h"
 #include "tour/TourHistory.h"
 #include "tour/TourScript.h"
+#include "tour/TourService.h"
 #include "tour/TourSettings.h"
+#include "tour/TourUsers.h"
 #include "tour/TourWatch.h"
 
 #include "plugin/EMsgId.h"
@@ -32,6 +34,7 @@ namespace {
 constexpr const char *cVoiceTitle = "语音通话";
 constexpr const char *cCalling = "正在呼叫...";
 constexpr const char *cConnected = "已接通";
+constexpr const char *cNoService = "The call service cannot be reached.";
 constexpr const char *cLineInUse = "You are in a call. End it first.";
 constexpr const char *cNoProcess = "音频通话初始化失败，请尝试重启客户端解决";
 constexpr const char *cSureToClose = "Do you want to end this call?";
@@ -254,24 +257,28 @@ Steps killed(const TourScript &s, const TourStage &stage)
 {
     return call(s, "Call 李雷 once more") +
            Steps{
-               {u("Kill the call process: the call stays on the screen and its clock runs on"),
-                done([process = &stage.process] { process->kill(); }),
-                {s.processes(0), s.shows("lblStatus", u(cConnected)), s.clockRuns()}},
+               {u("Kill the call process, and let none stay: the call stays on the screen and its clock runs on"),
+                done([process = &stage.process] {
+                    TourService::refuseToStart();
+                    process->kill();
+                }),
+                {s.processes(0), s.shows("lblStatus", u(cConnected)), s.clockRuns(),
+                 s.mainSays("btnOnline", u("No call service")), s.mainShows("CallServiceBar", true)}},
                {u("Hang up: the call is over although nobody hears of it"),
                 s.pressCallWindow("HangUp"),
                 {s.record(resultHungUp, true, true), s.windowGone()}},
-               {u("Call 李雷: refused while there is no call process"),
-                s.pressContact(answers, "btnCall"),
+               {u("Rest the mouse on 李雷's phone: its tip says that nobody can be called now"),
+                s.hoverContact(answers, "btnCall"),
+                {s.tipSays(u(cNoService))}},
+               {u("A call that the client places all the same is refused by the plug-in"),
+                done([session = &stage.session] { session->callUser(answers, false); }),
                 {s.boxSays(u(cNoProcess))},
                 cUsualLimitMs,
                 u("message-no-process"),
                 s.messageBox()},
                {u("Close the message"), s.pressBox("closeBtn"), {s.boxGone()}},
-               {u("Start the call process again: the plug-in finds it by itself and registers the user"),
-                [process = &stage.process] { return process->start(); },
-                {s.processes(1), s.command(Command::RegeditUser, param1(ContactBook::cOwnId))},
-                2 * cUsualLimitMs},
-           };
+           } +
+           TourService::steps(stage);
 }
 
 TourCheck onlyMatchesShown(const TourStage &stage)
@@ -325,5 +332,5 @@ QList<TourStep> tourSteps(const TourStage &stage)
            call(s, "Call 李雷, who answers", u("call-voice")) + duringCall(s) + hangUp(s, "Hang up") + video(s, stage) +
            farEnd(s) + incoming(s) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
            call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + historySteps(stage) +
-           happenings(s, stage) + settingsSteps(stage) + leave(s, stage) + restartSteps(stage);
+           happenings(s, stage) + settingsSteps(stage) + userSteps(stage) + leave(s, stage) + restartSteps(stage);
 }

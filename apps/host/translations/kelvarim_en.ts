@@ -1484,6 +1484,14 @@
         <source>The local store is open</source>
         <translation>The local store is open</translation>
     </message>
+    <message>
+        <source>N&amp;o call service</source>
+        <translation>N&amp;o call service</translation>
+    </message>
+    <message>
+        <source>C&amp;onnecting...</source>
+        <translation>C&amp;onnecting...</translation>
+    </message>
 </context>
 <context>
     <name>MemberPicker</name>
@@ -1643,6 +1651,105 @@
     <message>
         <source>(no signature)</source>
         <translation>(no signature)</translation>
+    </message>
+</context>
+<context>
+    <name>CallServiceBar</name>
+    <message>
+        <source>Start the call service without waiting</source>
+        <translation>Start the call service without waiting</translation>
+    </message>
+    <message>
+        <source>Start it no&amp;w</source>
+        <translation>Start it no&amp;w</translation>
+    </message>
+    <message>
+        <source>Call service lost for a moment: it runs again, and the connection comes back by itself within a minute.</source>
+        <translation>Call service lost for a moment: it runs again, and the connection comes back by itself within a minute.</translation>
+    </message>
+    <message>
+        <source>The call service has not registered you, so nobody can call you. Sign out and in again.</source>
+        <translation>The call service has not registered you, so nobody can call you. Sign out and in again.</translation>
+    </message>
+    <message>
+        <source>It is being started again (try %1 of %2).</source>
+        <translation>It is being started again (try %1 of %2).</translation>
+    </message>
+    <message numerus="yes">
+        <source>It is started again in %n second(s) (try %1 of %2).</source>
+        <translation>
+            <numerusform>It is started again in %n second (try %1 of %2).</numerusform>
+            <numerusform>It is started again in %n seconds (try %1 of %2).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call service lost: no calls for the moment, and one that is still on the screen is over. %1 The client itself need not be restarted.</source>
+        <translation>Call service lost: no calls for the moment, and one that is still on the screen is over. %1 The client itself need not be restarted.</translation>
+    </message>
+    <message>
+        <source>The program cannot be started: %1</source>
+        <translation>The program cannot be started: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>It was started %n time(s) and did not stay.</source>
+        <translation>
+            <numerusform>It was started %n time and did not stay.</numerusform>
+            <numerusform>It was started %n times and did not stay.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call service lost, and given up. %1 Start it by the button; if that does not help, quit the client and start it again.</source>
+        <translation>Call service lost, and given up. %1 Start it by the button; if that does not help, quit the client and start it again.</translation>
+    </message>
+</context>
+<context>
+    <name>QuitQuestion</name>
+    <message>
+        <source>Quit</source>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>A call is on.</source>
+        <translation>A call is on.</translation>
+    </message>
+    <message>
+        <source>Quitting ends it.</source>
+        <translation>Quitting ends it.</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the call</source>
+        <translation>&amp;Keep the call</translation>
+    </message>
+</context>
+<context>
+    <name>TraceNote</name>
+    <message>
+        <source>it was started without a trace</source>
+        <translation>it was started without a trace</translation>
+    </message>
+    <message>
+        <source>it writes its trace to standard error</source>
+        <translation>it writes its trace to standard error</translation>
+    </message>
+    <message>
+        <source>it has not written its trace, %1</source>
+        <translation>it has not written its trace, %1</translation>
+    </message>
+    <message>
+        <source>its trace cannot be read: %1</source>
+        <translation>its trace cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>Lines of the wire cannot be shown at present. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</source>
+        <translation>Lines of the wire cannot be shown at present. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</translation>
+    </message>
+    <message>
+        <source>another user's</source>
+        <translation>another user's</translation>
     </message>
 </context>
 </TS>

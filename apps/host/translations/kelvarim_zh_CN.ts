@@ -1480,6 +1480,14 @@
         <source>The local store is open</source>
         <translation>本地数据库已打开</translation>
     </message>
+    <message>
+        <source>N&amp;o call service</source>
+        <translation>无通话服务(&amp;O)</translation>
+    </message>
+    <message>
+        <source>C&amp;onnecting...</source>
+        <translation>正在连接(&amp;O)</translation>
+    </message>
 </context>
 <context>
     <name>MemberPicker</name>
@@ -1639,6 +1647,103 @@
     <message>
         <source>(no signature)</source>
         <translation>（没有签名）</translation>
+    </message>
+</context>
+<context>
+    <name>CallServiceBar</name>
+    <message>
+        <source>Start the call service without waiting</source>
+        <translation>立即启动通话服务，不再等待</translation>
+    </message>
+    <message>
+        <source>Start it no&amp;w</source>
+        <translation>立即启动(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Call service lost for a moment: it runs again, and the connection comes back by itself within a minute.</source>
+        <translation>通话服务曾中断，现已重新运行，将在一分钟内自动恢复连接。</translation>
+    </message>
+    <message>
+        <source>The call service has not registered you, so nobody can call you. Sign out and in again.</source>
+        <translation>通话服务没有登记您，别人无法呼叫您。请退出后重新登录。</translation>
+    </message>
+    <message>
+        <source>It is being started again (try %1 of %2).</source>
+        <translation>正在重新启动（第 %1 次，共 %2 次）。</translation>
+    </message>
+    <message numerus="yes">
+        <source>It is started again in %n second(s) (try %1 of %2).</source>
+        <translation>
+            <numerusform>将在 %n 秒后重新启动（第 %1 次，共 %2 次）。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call service lost: no calls for the moment, and one that is still on the screen is over. %1 The client itself need not be restarted.</source>
+        <translation>通话服务已中断：暂时无法通话，屏幕上的通话也已结束。%1无需重新启动客户端。</translation>
+    </message>
+    <message>
+        <source>The program cannot be started: %1</source>
+        <translation>无法启动程序：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>It was started %n time(s) and did not stay.</source>
+        <translation>
+            <numerusform>已启动 %n 次，均未能保持运行。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call service lost, and given up. %1 Start it by the button; if that does not help, quit the client and start it again.</source>
+        <translation>通话服务已中断，不再自动启动。%1请按按钮启动；如果无效，请退出客户端后重新启动。</translation>
+    </message>
+</context>
+<context>
+    <name>QuitQuestion</name>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>A call is on.</source>
+        <translation>正在通话中。</translation>
+    </message>
+    <message>
+        <source>Quitting ends it.</source>
+        <translation>退出将结束通话。</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the call</source>
+        <translation>继续通话(&amp;K)</translation>
+    </message>
+</context>
+<context>
+    <name>TraceNote</name>
+    <message>
+        <source>it was started without a trace</source>
+        <translation>它启动时没有启用跟踪</translation>
+    </message>
+    <message>
+        <source>it writes its trace to standard error</source>
+        <translation>它把跟踪写到标准错误输出</translation>
+    </message>
+    <message>
+        <source>it has not written its trace, %1</source>
+        <translation>它没有写跟踪文件 %1</translation>
+    </message>
+    <message>
+        <source>its trace cannot be read: %1</source>
+        <translation>它的跟踪文件无法读取：%1</translation>
+    </message>
+    <message>
+        <source>Lines of the wire cannot be shown at present. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</source>
+        <translation>无法显示线路内容。通话进程是 %1（进程 %2），%3。请结束该进程，客户端会重新启动一个可以跟踪的；或者自行启动，并用 %4 指定一个文件。</translation>
+    </message>
+    <message>
+        <source>another user's</source>
+        <translation>另一用户的程序</translation>
     </message>
 </context>
 </TS>

@@ -1480,6 +1480,14 @@
         <source>The local store is open</source>
         <translation>本機資料庫已開啟</translation>
     </message>
+    <message>
+        <source>N&amp;o call service</source>
+        <translation>無通話服務(&amp;O)</translation>
+    </message>
+    <message>
+        <source>C&amp;onnecting...</source>
+        <translation>正在連線(&amp;O)</translation>
+    </message>
 </context>
 <context>
     <name>MemberPicker</name>
@@ -1639,6 +1647,103 @@
     <message>
         <source>(no signature)</source>
         <translation>（沒有簽名）</translation>
+    </message>
+</context>
+<context>
+    <name>CallServiceBar</name>
+    <message>
+        <source>Start the call service without waiting</source>
+        <translation>立即啟動通話服務，不再等待</translation>
+    </message>
+    <message>
+        <source>Start it no&amp;w</source>
+        <translation>立即啟動(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Call service lost for a moment: it runs again, and the connection comes back by itself within a minute.</source>
+        <translation>通話服務曾中斷，現已重新執行，將在一分鐘內自動恢復連線。</translation>
+    </message>
+    <message>
+        <source>The call service has not registered you, so nobody can call you. Sign out and in again.</source>
+        <translation>通話服務沒有登記您，別人無法呼叫您。請登出後重新登入。</translation>
+    </message>
+    <message>
+        <source>It is being started again (try %1 of %2).</source>
+        <translation>正在重新啟動（第 %1 次，共 %2 次）。</translation>
+    </message>
+    <message numerus="yes">
+        <source>It is started again in %n second(s) (try %1 of %2).</source>
+        <translation>
+            <numerusform>將在 %n 秒後重新啟動（第 %1 次，共 %2 次）。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call service lost: no calls for the moment, and one that is still on the screen is over. %1 The client itself need not be restarted.</source>
+        <translation>通話服務已中斷：暫時無法通話，畫面上的通話也已結束。%1不必重新啟動用戶端。</translation>
+    </message>
+    <message>
+        <source>The program cannot be started: %1</source>
+        <translation>無法啟動程式：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>It was started %n time(s) and did not stay.</source>
+        <translation>
+            <numerusform>已啟動 %n 次，均未能保持執行。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Call service lost, and given up. %1 Start it by the button; if that does not help, quit the client and start it again.</source>
+        <translation>通話服務已中斷，不再自動啟動。%1請按按鈕啟動；如果無效，請結束用戶端後重新啟動。</translation>
+    </message>
+</context>
+<context>
+    <name>QuitQuestion</name>
+    <message>
+        <source>Quit</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>A call is on.</source>
+        <translation>正在通話中。</translation>
+    </message>
+    <message>
+        <source>Quitting ends it.</source>
+        <translation>結束程式將結束通話。</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>結束(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the call</source>
+        <translation>繼續通話(&amp;K)</translation>
+    </message>
+</context>
+<context>
+    <name>TraceNote</name>
+    <message>
+        <source>it was started without a trace</source>
+        <translation>它啟動時沒有啟用追蹤</translation>
+    </message>
+    <message>
+        <source>it writes its trace to standard error</source>
+        <translation>它把追蹤寫到標準錯誤輸出</translation>
+    </message>
+    <message>
+        <source>it has not written its trace, %1</source>
+        <translation>它沒有寫追蹤檔 %1</translation>
+    </message>
+    <message>
+        <source>its trace cannot be read: %1</source>
+        <translation>它的追蹤檔無法讀取：%1</translation>
+    </message>
+    <message>
+        <source>Lines of the wire cannot be shown at present. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</source>
+        <translation>無法顯示線路內容。通話行程是 %1（行程 %2），%3。請結束該行程，用戶端會重新啟動一個可以追蹤的；或者自行啟動，並用 %4 指定一個檔案。</translation>
+    </message>
+    <message>
+        <source>another user's</source>
+        <translation>另一使用者的程式</translation>
     </message>
 </context>
 </TS>

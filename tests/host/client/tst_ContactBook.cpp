@@ -18,7 +18,7 @@ private slots:
         }
         QCOMPARE(m_book.entries().size(), 10);
         QCOMPARE(uids.size(), 10);
-        QVERIFY(!uids.contains(ContactBook::ownUid()));
+        QVERIFY(!uids.contains(m_book.ownUid()));
     }
 
     void friendMapHoldsContactsAndTheOwnUser()
@@ -26,7 +26,7 @@ private slots:
         const QMap<QString, FriendData> map = m_book.friendMap();
         QCOMPARE(map.size(), 10);
         QVERIFY(map.contains(QStringLiteral("30010001@example.org")));
-        QVERIFY(map.contains(ContactBook::ownUid() + QStringLiteral("@example.org")));
+        QVERIFY(map.contains(m_book.ownUid() + QStringLiteral("@example.org")));
         for (auto it = map.begin(); it != map.end(); ++it) {
             QCOMPARE(it.value().m_strJid, it.key());
         }
@@ -41,7 +41,7 @@ private slots:
         QVERIFY(!m_book.isFriend(QStringLiteral("4711@example.org")));
     }
 
-    void ownUserIsNoFriend() { QVERIFY(!m_book.isFriend(m_book.jidOf(ContactBook::ownUid()))); }
+    void ownUserIsNoFriend() { QVERIFY(!m_book.isFriend(m_book.jidOf(m_book.ownUid()))); }
 
     void recordsNeverMove()
     {
@@ -95,7 +95,7 @@ private slots:
         QVERIFY(m_book.presenceOf(QStringLiteral("30010002")) == Presence::Busy);
         QVERIFY(m_book.presenceOf(QStringLiteral("30010004")) == Presence::Away);
         QVERIFY(m_book.presenceOf(QStringLiteral("30010005")) == Presence::Offline);
-        QVERIFY(m_book.presenceOf(ContactBook::ownUid()) == Presence::Online);
+        QVERIFY(m_book.presenceOf(m_book.ownUid()) == Presence::Online);
         QVERIFY(m_book.presenceOf(QStringLiteral("4711")) == Presence::Offline);
     }
 

@@ -25,7 +25,7 @@ private slots:
     {
         SystemSetData *settings = SystemSetData::instance();
         settings->initCommonData();
-        settings->initData(ContactBook::ownUid());
+        settings->initData(QString::fromLatin1(ContactBook::cOwnId));
         QVERIFY(QDir().mkpath(settings->m_strUserFolder));
         QVERIFY(QFile(settings->m_strDatabasePath).open(QIODevice::WriteOnly));
         constexpr int hold = 120000;

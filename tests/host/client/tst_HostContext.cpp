@@ -14,15 +14,15 @@ private slots:
     void signInFillsTheContext()
     {
         HostContext context;
-        context.signIn(ContactBook::ownUid(), QStringLiteral("example.org"), m_book);
+        context.signIn(m_book.ownUid(), QStringLiteral("example.org"), m_book);
         CommonData *data = context.data();
         QVERIFY(data->getCustomLogger() != nullptr);
         QVERIFY(data->getLogThread() != nullptr && data->getLogThread()->isRunning());
         QVERIFY(data->getNetWorkManager() != nullptr);
         QVERIFY(data->getServerSettings() != nullptr);
         QCOMPARE(data->getSystemSetData(), SystemSetData::instance());
-        QCOMPARE(data->getSystemSetData()->m_strUserName, ContactBook::ownUid());
-        QCOMPARE(data->getLoginData()->m_strUid, ContactBook::ownUid());
+        QCOMPARE(data->getSystemSetData()->m_strUserName, m_book.ownUid());
+        QCOMPARE(data->getLoginData()->m_strUid, m_book.ownUid());
         QCOMPARE(data->getLoginData()->m_strDomain, QStringLiteral("example.org"));
         QVERIFY(!data->getLoginData()->m_strRegValue.isEmpty());
         QCOMPARE(data->getFriendDataMap().size(), m_book.friendMap().size());
@@ -35,7 +35,7 @@ private slots:
         QString path;
         {
             HostContext context;
-            context.signIn(ContactBook::ownUid(), QStringLiteral("example.org"), m_book);
+            context.signIn(m_book.ownUid(), QStringLiteral("example.org"), m_book);
             path = context.logFile();
             context.data()->getLogThread()->printLog(CustomLog::Info, QStringLiteral("here:1"),
                                                      QStringLiteral("words"));

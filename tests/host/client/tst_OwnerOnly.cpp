@@ -160,7 +160,7 @@ private slots:
     void anotherUserCannotReadOrWriteAFile()
     {
         QFETCH(QString, name);
-        const QString found = name == "VoipSDK.lock" ? QDir::tempPath() + "/VoipSDK.lock" : find(name);
+        const QString found = name == "VoipSDK.lock" ? meetingPlace() + "/VoipSDK.lock" : find(name);
         const QByteArray path = QFile::encodeName(found);
         for (const int flags : {O_RDONLY, O_WRONLY, O_RDWR, O_WRONLY | O_TRUNC}) {
             QVERIFY(!isDoneByAnother([&] { return canOpen(path, flags); }));
@@ -170,7 +170,7 @@ private slots:
 
     void anotherUserCannotUseTheChannel()
     {
-        const QByteArray path = QFile::encodeName(QDir::tempPath() + "/VoipSDK");
+        const QByteArray path = QFile::encodeName(meetingPlace() + "/VoipSDK");
         QVERIFY(S_ISSOCK(modeOf(QFile::decodeName(path))));
         QVERIFY(!isDoneByAnother([&] { return canConnect(path); }));
         QVERIFY(!isDoneByAnother([&] { return ::unlink(path.constData()) == 0; }));
@@ -193,6 +193,12 @@ private:
         QDirIterator walk(box(), {strName}, QDir::AllEntries | QDir::Hidden | QDir::System,
                           QDirIterator::Subdirectories);
         return walk.hasNext() ? walk.next() : QString();
+    }
+
+    /// The folder that the client makes for itself where the temporary directory is everybody's.
+    static QString meetingPlace()
+    {
+        return QDir::tempPath() + QStringLiteral("/kelvarim-%1-30010000").arg(::geteuid());
     }
 
     static QString box() { return QDir::cleanPath(QDir::currentPath() + QStringLiteral("/..")); }

@@ -24,7 +24,7 @@ private slots:
         m_strFolder = QDir::current().absoluteFilePath(QStringLiteral("round%1").arg(++m_iRound));
         QVERIFY(QDir().mkpath(m_strFolder));
         m_pHistory = std::make_unique<CallHistory>();
-        QVERIFY(m_pHistory->open(m_strFolder, ContactBook::ownUid()));
+        QVERIFY(m_pHistory->open(m_strFolder, QLatin1String(ContactBook::cOwnId)));
         m_pModel = std::make_unique<CallHistoryModel>(*m_pHistory, m_book);
     }
 
@@ -243,7 +243,7 @@ private:
     {
         m_pModel.reset();
         m_pHistory = std::make_unique<CallHistory>();
-        QVERIFY(m_pHistory->open(m_strFolder, ContactBook::ownUid()));
+        QVERIFY(m_pHistory->open(m_strFolder, QLatin1String(ContactBook::cOwnId)));
         m_pModel = std::make_unique<CallHistoryModel>(*m_pHistory, m_book);
     }
     QStringList whos() const

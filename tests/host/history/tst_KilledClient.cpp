@@ -96,7 +96,7 @@ private:
     {
         SystemSetData settings;
         settings.initCommonData();
-        settings.initData(ContactBook::ownUid());
+        settings.initData(QLatin1String(ContactBook::cOwnId));
         bool kept = false;
         const QString name = QStringLiteral("look");
         {

@@ -39,7 +39,7 @@ private slots:
         CallFile file;
         QVERIFY(file.open(m_strFolder));
         QVERIFY(file.add(entries));
-        QVERIFY(m_history.open(m_strFolder, ContactBook::ownUid()));
+        QVERIFY(m_history.open(m_strFolder, QLatin1String(ContactBook::cOwnId)));
         m_pane.show(&m_history, &m_book);
         m_pane.resize(640, 500);
         m_pane.show();
@@ -52,7 +52,7 @@ private slots:
     {
         check([this] {
             CallHistory history;
-            QVERIFY(history.open(m_strFolder, ContactBook::ownUid()));
+            QVERIFY(history.open(m_strFolder, QLatin1String(ContactBook::cOwnId)));
             QCOMPARE(history.entries().size(), size_t(cCalls));
         });
     }

@@ -50,6 +50,7 @@ private slots:
         const QStringList pictures = QDir(QStringLiteral("tour")).entryList({QStringLiteral("*.png")});
         QCOMPARE(pictures, (QStringList{QStringLiteral("call-incoming.png"),
                                         QStringLiteral("call-outgoing.png"),
+                                        QStringLiteral("call-service-lost.png"),
                                         QStringLiteral("call-video.png"),
                                         QStringLiteral("call-voice.png"),
                                         QStringLiteral("centre-card.png"),
@@ -72,6 +73,7 @@ private slots:
                                         QStringLiteral("incoming-prompt.png"),
                                         QStringLiteral("message-no-process.png"),
                                         QStringLiteral("second-call.png"),
+                                        QStringLiteral("second-user.png"),
                                         QStringLiteral("settings.png")}));
         for (const QString &picture : pictures) {
             const QImage image(QStringLiteral("tour/") + picture);
