@@ -15,6 +15,7 @@
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
 #include "ui/VoipWidget.h"
+#include "wire/Commands.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -248,7 +249,7 @@ int main(int argc, char **argv)
     Host host;
     VoipManageMessageProcess::instance()->setSendEvent(&host);
     QLocalServer server;
-    if (!server.listen(QStringLiteral("VoipSDK"))) {
+    if (!server.listen(QLatin1String(Wire::cServerName))) {
         return 1;
     }
 

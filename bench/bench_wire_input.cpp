@@ -10,6 +10,8 @@
 #include "engine/VoipManage.h"
 #include "model/CommonData.h"
 #include "model/SharedContext.h"
+#include "wire/Commands.h"
+#include "wire/Notifications.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -21,6 +23,7 @@
 #include <malloc.h>
 
 #include <optional>
+#include <vector>
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
@@ -257,8 +260,13 @@ void registerAll()
         benchmark::RegisterBenchmark("leastOfRead", leastOfRead, cNoAction)->Arg(lines)->UseManualTime();
     }
     // A line without effect, which is read and leaves no record; all that have an action, and one that has none.
-    for (const int code :
-         {cNoNotification, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12, 13, 17, 18, 19, 20, 21, 22, 23, 24, 25, 999}) {
+    std::vector<int> codes{cNoNotification, cNoAction};
+    for (const Wire::NotificationRow &row : Wire::cNotifications) {
+        if (row.content != Wire::Content::Open) {
+            codes.push_back(static_cast<int>(row.code));
+        }
+    }
+    for (const int code : codes) {
         const std::string suffix = "Code" + std::to_string(code);
         benchmark::RegisterBenchmark(("callback" + suffix).c_str(), fromReadyRead, code)
             ->Arg(cLinesOfACode)
@@ -284,7 +292,7 @@ int main(int argc, char **argv)
     data.setCustomLogThread(&*g_logThread);
     SharedContext::setCommonData(&data);
     QLocalServer server;
-    if (!server.listen(QStringLiteral("VoipSDK"))) {
+    if (!server.listen(QLatin1String(Wire::cServerName))) {
         return 1;
     }
     g_server = &server;

@@ -9,6 +9,7 @@
 #include "plugin/BaseEvent.h"
 #include "plugin/PluginIds.h"
 #include "plugin/PluginInterface.h"
+#include "wire/Commands.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -70,9 +71,9 @@ int main(int argc, char **argv)
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     const QByteArray word = argv[1];
     // The child before this one ended without tidying up.
-    QLocalServer::removeServer(QStringLiteral("VoipSDK"));
+    QLocalServer::removeServer(QLatin1String(Wire::cServerName));
     QLocalServer server;
-    server.listen(QStringLiteral("VoipSDK"));
+    server.listen(QLatin1String(Wire::cServerName));
     CommonData data;
     QObject host;
 

@@ -31,8 +31,8 @@ const OpenRow cOpenTexts[] = {
     {Wire::Command::RequestConference, 1, ownId},
     {Wire::Command::Add2Conference,    2, ownId},
     {Wire::Command::Add2Conference,    3, ownId},
-    {Wire::Command::ControlConf,       1, [](const PluginUser &) { return QStringLiteral("mute"); }},
-    {Wire::Command::ControlConf,       2, [](const PluginUser &) { return QStringLiteral("non_moderator"); }},
+    {Wire::Command::ControlConf,       1, [](const PluginUser &) { return QString::fromLatin1(Wire::cMute); }},
+    {Wire::Command::ControlConf,       2, [](const PluginUser &) { return QString::fromLatin1(Wire::cEverybody); }},
 };
 // clang-format on
 

@@ -1,6 +1,7 @@
 #include "callcheck/Replay.h"
 
 #include "callcheck/Subject.h"
+#include "wire/Commands.h"
 
 #include <algorithm>
 #include <utility>
@@ -108,7 +109,7 @@ bool Replay::say(const Statement &statement)
     if (name == QLatin1String(Wire::cQuitLine)) {
         return expectQuit();
     }
-    if (name == QLatin1String("RegeditUser")) {
+    if (name == QLatin1String(Wire::nameOf(Wire::Command::RegeditUser))) {
         for (const ExpectedParameter &parameter : statement.parameters) {
             m_user.id = parameter.key == QLatin1String("param1") ? parameter.text : m_user.id;
         }

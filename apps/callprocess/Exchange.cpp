@@ -16,7 +16,7 @@ struct ExchangeRow
 const ExchangeRow &ExchangeRow::of(Wire::Command command)
 {
     // clang-format off
-    static constexpr std::array<ExchangeRow, Wire::cCommands.size()> ROWS{{
+    static constexpr std::array<ExchangeRow, Wire::cCommands.size()> rows{{
         {Wire::Command::RegeditUser,       &Exchange::registerUser},
         {Wire::Command::UnReg,             &Exchange::unregisterUser},
         {Wire::Command::CallUser,          &Exchange::callUser},
@@ -36,8 +36,8 @@ const ExchangeRow &ExchangeRow::of(Wire::Command command)
         {Wire::Command::SetSpeakerVolume,  nullptr},
     }};
     // clang-format on
-    static_assert(Wire::tellOfEveryCommand(ROWS), "a command that nobody serves");
-    return ROWS.at(static_cast<std::size_t>(command));
+    static_assert(Wire::tellOfEveryCommand(rows), "a command that nobody serves");
+    return rows.at(static_cast<std::size_t>(command));
 }
 
 Exchange::Exchange(Channel &channel, Trace &trace, double speed, QObject *parent)

@@ -54,7 +54,7 @@ QString AppInfo::getLanguageFileSuffix(QLocale::Language language, QLocale::Coun
         const bool bTraditional = country == QLocale::Taiwan || country == QLocale::HongKong;
         strSuffix = bTraditional ? QStringLiteral("zh_TW") : QStringLiteral("zh_CN");
     }
-    // Deliberate, not to be tidied away: the result is one of the two Chinese suffixes and nothing else.
+    // Deliberate: the result is one of the two Chinese suffixes and nothing else.
     if (strSuffix == QLatin1String("uk") || strSuffix == QLatin1String("ja")) {
         strSuffix = QStringLiteral("zh_CN");
     }

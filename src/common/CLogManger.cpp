@@ -107,7 +107,7 @@ CLogManger &CLogManger::operator<<(const char *szText)
     if (!szText) {
         return *this;
     }
-    // UTF-8 on purpose: the sources' own Chinese texts come this way, and a text stream alone would read Latin-1.
+    // Deliberate, UTF-8: the sources' own Chinese texts come this way, and a text stream alone would read Latin-1.
     const QLatin1String text(szText);
     if (text == QLatin1String("\n")) {
         closeRecord();

@@ -1,7 +1,7 @@
 #pragma once
 
-// The common code's front door: every function is called CommonFun::name, and the header of its topic documents it.
-// For the upper floors; the topics themselves call each other by their own classes.
+// All static helpers of the common code under one name, for hosts; the header of its topic documents each. Sources of
+// this system include the topics that they use and call the topics' own classes.
 
 #include "common/AppInfo.h"
 #include "common/digests/FileDigest.h"

@@ -134,7 +134,7 @@ void CVoipManage::slot_VoipSDKDataRecevie()
         recevieVoipMessage(line);
     }
 
-    // While a handler runs an event loop of its own, no signal tells of what comes meanwhile.
+    // What came while a handler ran an event loop of its own gave no signal.
     if (m_pVoipSocket && m_pVoipSocket->bytesAvailable() > 0) {
         QMetaObject::invokeMethod(this, "slot_VoipSDKDataRecevie", Qt::QueuedConnection);
     }

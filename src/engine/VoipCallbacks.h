@@ -1,7 +1,7 @@
 #pragma once
 
 // Public entry points with the shape of a call library's direct callbacks. The local socket has taken their place and
-// nothing in the plug-in calls them: kept deliberately. Both make sure that the call manager exists, and belong to the
+// nothing in the plug-in calls them. Deliberate. Both make sure that the call manager exists, and belong to the
 // GUI thread.
 
 #include <QString>

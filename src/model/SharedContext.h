@@ -2,7 +2,7 @@
 
 // The way to the host's CommonData: keeps its address and wraps its operations under the same names. Without a context
 // everything reads as unset: null, empty, 0 or false, and what would store does nothing. The context belongs to the
-// host. On the GUI thread. Reached as CommonFun::name.
+// host. On the GUI thread.
 
 #include "model/CommonData.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 // The current skin of the client, as the shared context holds it; made on first need where the host set none. On the
-// GUI thread. Reached as CommonFun::name.
+// GUI thread.
 
 #include "model/SysUIData.h"
 

@@ -48,8 +48,8 @@ public:
     }
 
 private:
-    /// Whether `uid` stands behind the one found so last, or behind that, or first: ids are mostly asked for in the
-    /// list's own order, which spares their look-up.
+    /// Tries the place behind the last hit, the one after it and the first: ids are mostly asked for in the list's own
+    /// order, which spares their look-up.
     bool isNext(const QList<QString> &uids, const QString &uid)
     {
         for (const int place : {m_next, m_next + 1, 0}) {

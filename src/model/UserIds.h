@@ -2,8 +2,7 @@
 
 // The id rules of the client: how a user id becomes a jid, a jid a session id, and what kind of party a text names.
 // Everything else asks here and builds no such text by itself. Stateless; the signed-in identity comes from the
-// LoginData of the shared context and reads as empty while there is none. On the GUI thread. Reached as
-// CommonFun::name.
+// LoginData of the shared context and reads as empty while there is none. On the GUI thread.
 //
 // Forms: user jid uid@domain; room id "of..." or "room...", room jid id@c.domain; channel id "KFCNL..."; session id:
 // the room id, or the two ids joined by "_", the smaller one (QString's operator<) first.

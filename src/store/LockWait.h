@@ -20,8 +20,8 @@ public:
     /// What all statements may wait, in milliseconds.
     static constexpr int cLimitMs = 1800;
 
-    /// Opens the connection for such a flow; false when it cannot be opened. Its statements do not wait by themselves
-    /// then, but when it is opened once more by itself, they do.
+    /// Opens the connection for such a flow; false when it cannot be opened. Opened so, the
+    /// connection's statements do not wait for locks by themselves; after a plain open they do.
     static bool open(QSqlDatabase &db);
     /// Whether the statement failed because another connection has locked the file.
     static bool isLockedOut(const QSqlError &error);

@@ -10,7 +10,7 @@ StoreOpening::StoreOpening(const QSqlDatabase &db) : m_wait(db)
 {
     s_pCurrent = this;
     QSqlQuery query(db);
-    // Nothing later would tell that it is missing.
+    // No later statement would show that this setting is missing.
     if (!execute(query, QStringLiteral("PRAGMA synchronous = OFF"))) {
         shutOutBy(query.lastError());
     }

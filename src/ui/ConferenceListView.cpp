@@ -60,7 +60,7 @@ CConferenceListView::CConferenceListView(QWidget *parent)
     verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
     setContextMenuPolicy(Qt::NoContextMenu);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    // All rows are of one size; so placing a thousand asks for one.
+    // All rows have one size, so Qt asks for it once.
     setUniformItemSizes(true);
     installEventFilter(this);
     connect(&m_statusTimer, SIGNAL(timeout()), this, SLOT(slot_UpdateCallStatu()));

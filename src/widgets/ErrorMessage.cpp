@@ -105,7 +105,7 @@ void ErrorMessage::connectControls()
     connect(ui->label_11, SIGNAL(linkActivated(const QString &)), this, SLOT(slot_linkActivated(QString)));
 }
 
-// Keys and presses reach the control inside each of the kit's widgets first, and mostly end there.
+// The kit's widgets pass on few of the keys and presses that their inner controls get, so these are watched too.
 void ErrorMessage::watchControls()
 {
     for (QWidget *pControl : {static_cast<QWidget *>(ui->acceptBtn), static_cast<QWidget *>(ui->closeBtn),
@@ -195,7 +195,7 @@ QString ErrorMessage::modifyShow(QString title)
     ui->lineEdit->show();
     ui->acceptBtn->setEnabled(false);
     connect(ui->lineEdit, SIGNAL(textChanged(const QString &)), this, SLOT(slot_textChanged(QString)));
-    // Enabled after all, on purpose: the callers let an empty name through to their own check.
+    // Deliberate, enabled after all: the callers let an empty name through to their own check.
     ui->acceptBtn->setEnabled(true);
     ui->lineEdit->clear();
     ui->lineEdit->setFocus();

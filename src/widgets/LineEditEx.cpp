@@ -69,7 +69,7 @@ void CLineEditEx::setStyles()
     ui->lineEdit->setStyleSheet(
         m_strEditStyle.arg(skin.m_strEditBackgroundColor, skin.m_strEditBorderColor, strCOLOR_MAININFO_LIGHT_BLACK) +
         m_strEditHoverStyle.arg(skin.m_strEditHoverBorderColor));
-    // The padding of the menu's entries stays unfilled on purpose: this sheet is the one that the field's standard
+    // Deliberate, the padding of the menu's entries stays unfilled: this sheet is the one that the field's standard
     // context menu has always had. Set again it would only repeat the warning with which Qt refuses it, and which
     // QtWarningFilter keeps out of the programs' output.
     const QString strMenu = strMenuStyle + strMenuItemStyle + strMenuItemSelectStyle + strMenuItemDisableStyle;
@@ -187,7 +187,7 @@ void CLineEditEx::setMaxLength(int iLength)
 
 void CLineEditEx::setNewMaxLength(int iLength)
 {
-    // Tested by count but cut by width, on purpose: the fields that count characters start with short texts.
+    // Deliberate, tested by count but cut by width: the fields that count characters start with short texts.
     if (ui->lineEdit->text().size() > iLength) {
         cutToWidth(iLength);
     }
@@ -219,7 +219,7 @@ void CLineEditEx::slot_cursorchanged(int oldPos, int newPos)
     if (iExcess == 0) {
         return;
     }
-    // One excess character goes at the old position, not at the end, on purpose: a key typed at the limit is dropped,
+    // One excess character goes at the old position, not at the end. Deliberate: a key typed at the limit is dropped,
     // and a paste that is one too long loses its first character.
     const int iFrom = iExcess == 1 ? oldPos : iFitEnd;
     const int iTo = iExcess == 1 ? oldPos + TextLimit::unitsAt(strText, oldPos) : newPos;
@@ -248,7 +248,7 @@ void CLineEditEx::setSearchBtn(bool)
             Qt::UniqueConnection);
 }
 
-// The search field has no picture to change on this system; the connection is kept for the forms that make one.
+// Does nothing: the search field has no picture to change here, and forms still connect to it.
 void CLineEditEx::slot_changeSearchBtnImg(QString) {}
 
 void CLineEditEx::addDeleteBtn()

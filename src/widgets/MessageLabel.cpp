@@ -15,8 +15,7 @@ namespace {
 // More characters than any label of a dialog shows: the rest of a long plain text is not laid out.
 constexpr int cMostCharacters = 4096;
 
-/// The position in the text at which the last line ends that lies whole above `iBottom`; 0 when not even the first one
-/// does.
+/// The position behind the last line that lies wholly above `iBottom`; 0 when there is none.
 int endOfWholeLines(const QTextDocument &document, int iBottom)
 {
     int iEnd = 0;
@@ -118,7 +117,7 @@ int MessageLabel::topOf(int iHeight) const
     return alignment().testFlag(Qt::AlignVCenter) ? iRoom / 2 : alignment().testFlag(Qt::AlignBottom) ? iRoom : 0;
 }
 
-// Neither markup is read nor lines are broken again where only a repaint is asked for.
+// Laid out anew only when something that it depends on has changed.
 const MessageLabel::Layout &MessageLabel::layOut() const
 {
     Layout::Causes causes(text(), textFormat(), font(), alignment(), wordWrap(), contentsRect(), m_iLowestLine);
@@ -154,7 +153,7 @@ std::unique_ptr<QTextDocument> MessageLabel::wholeText() const
     return pDocument;
 }
 
-// Links lie where they are shown.
+// The base looks for links where it would paint the text itself: the place is shifted by as much as the text is raised.
 bool MessageLabel::event(QEvent *event)
 {
     const auto *pMouse = dynamic_cast<QMouseEvent *>(event);

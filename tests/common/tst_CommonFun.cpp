@@ -5,6 +5,8 @@
 
 #include <type_traits>
 
+static_assert(std::is_base_of_v<SharedContext, CommonFun> && std::is_base_of_v<UserIds, CommonFun>);
+
 class tst_CommonFun : public QObject
 {
     Q_OBJECT

@@ -5,10 +5,12 @@
 #include "FuzzApplication.h"
 #include "FuzzTargets.h"
 #include "fakes/FileBytes.h"
+#include "wire/Notifications.h"
 
 #include <QDir>
 #include <QTest>
 
+#include <algorithm>
 #include <random>
 
 namespace {
@@ -178,6 +180,17 @@ private slots:
         QVERIFY(inputs.size() > 4);
         for (auto input = inputs.cbegin(); input != inputs.cend(); ++input) {
             QVERIFY2(input->size() <= target.longest, qPrintable(input.key()));
+        }
+    }
+
+    void wireDictionaryHasEveryNotification()
+    {
+        const QList<QByteArray> words = dictionaryOf(*findFuzzTarget("wire"));
+        for (const Wire::NotificationRow &row : Wire::cNotifications) {
+            const QByteArray line = "{\"resultCode\":" + QByteArray::number(static_cast<int>(row.code)) + ",";
+            const bool known = std::any_of(words.begin(), words.end(),
+                                           [&line](const QByteArray &word) { return word.startsWith(line); });
+            QVERIFY2(known || row.content == Wire::Content::Open, line.constData());
         }
     }
 

@@ -1,4 +1,3 @@
-#include "common/CommonFun.h"
 #include "model/CommonData.h"
 #include "model/SharedContext.h"
 #include "passport/PassportLoginServer.h"
@@ -8,11 +7,6 @@
 #include <QSslConfiguration>
 #include <QTest>
 #include <QUrl>
-
-#include <type_traits>
-
-// The front derives from each topic's class.
-static_assert(std::is_base_of_v<SharedContext, CommonFun> && std::is_base_of_v<UserIds, CommonFun>);
 
 class tst_CoverNetworkRequest : public QObject
 {

@@ -55,7 +55,7 @@ const QStringList cNewTables = {
 
 const QString cAllTables = QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY rowid");
 
-// What hosts call, by these names, with these arguments. A text taken by value is so on purpose.
+// What hosts call, by these names, with these arguments. Deliberate: texts taken by value.
 template <typename Signature, auto... functions>
 constexpr bool cAllAre = (std::is_same_v<decltype(functions), Signature> && ...);
 

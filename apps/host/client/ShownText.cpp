@@ -2,6 +2,8 @@
 
 #include "happenings/WireTrace.h"
 
+#include "wire/Commands.h"
+
 #include <QCoreApplication>
 #include <QRegularExpression>
 
@@ -143,6 +145,6 @@ QString SecretMask::masked(const QString &strText) const
     for (const QString &secret : m_secrets) {
         text.replace(secret, mark());
     }
-    const bool registration = text.contains(QLatin1String("RegeditUser"));
+    const bool registration = text.contains(QLatin1String(Wire::nameOf(Wire::Command::RegeditUser)));
     return maskedValues(text, registration ? keysOfRegistration : keys);
 }

@@ -171,6 +171,7 @@ void Tour::end(bool bOk)
         TourWatch::say(QStringLiteral("Tour: all %1 steps had their effect").arg(m_steps.size()));
     } else {
         TourWatch::say(QStringLiteral("Tour: FAILED at step %1: %2").arg(m_iStep + 1).arg(step().title));
+        WindowProbe::saveScreen(m_strFolder + QStringLiteral("/missed.png"));
     }
     emit finished(bOk);
 }

@@ -205,7 +205,7 @@ void HtmlCost::open(const HtmlTag &tag, const QString &strKept, const QString &s
 {
     const Kind kind = kindOf(tag.strName);
     if (kind == Nameless) {
-        // Qt makes an empty element of it, and may then count the element that follows it twice.
+        // Qt reads a tag without a name as an empty element, and may then count the element that follows it twice.
         m_dCost += cInline + cLevel * m_listOpen.size();
         m_bAfterNameless = true;
         return;

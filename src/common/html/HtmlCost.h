@@ -41,8 +41,8 @@ public:
     QString writtenName(const QString &strName) const;
     /// Text between two tags.
     void text(const QStringRef &text);
-    /// A style sheet of `iUnits` characters: Qt tries its rules on each later element. With `bSiblings` the rules also
-    /// ask for the elements that stand before one.
+    /// A style sheet of `iUnits` characters: Qt tries its rules on each later element. With `bSiblings` its rules
+    /// have selectors with + or ~.
     void addSheet(int iUnits, bool bSiblings);
 
     bool isTooHigh() const { return m_dCost > m_dMost || m_listOpen.size() > cMostDepth; }

@@ -3,8 +3,7 @@
 // The images in a message's HTML: where their files lie, and the ids by which they are fetched. Only what stands
 // between the first "<body" and the last "</body>" is looked at. An img element counts when it is well-formed XML and
 // has three attributes whose names are among those that the function tells, in any order. The time grows with the
-// length of the HTML. GUI thread, because the user's folder is read from the shared settings; no state. Reached as
-// CommonFun::name.
+// length of the HTML. GUI thread, because the user's folder is read from the shared settings; no state.
 
 #include "common/pictures/CImageData.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 // Addresses in a message's HTML become links that the chat view opens in a browser. Time grows with the length of the
-// text only. Any thread; no state. Reached as CommonFun::name.
+// text only. Any thread; no state.
 
 #include <QString>
 

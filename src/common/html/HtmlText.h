@@ -2,7 +2,7 @@
 
 // Small replacements in texts that go into HTML, come out of it or become part of an address. Those that take a
 // reference change the text in place; all leave an empty text empty, but for replaceLineBreakToParagraph. One pass over
-// the text for each replacement. Any thread; no state. Reached as CommonFun::name.
+// the text for each replacement. Any thread; no state.
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// A message's HTML as the chat view shows it. GUI thread; no state. Reached as CommonFun::name.
+// A message's HTML as the chat view shows it. GUI thread; no state.
 
 #include <QString>
 

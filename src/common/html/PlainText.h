@@ -1,6 +1,6 @@
 #pragma once
 
-// What a message's HTML reads as without markup. GUI thread; no state. Reached as CommonFun::name.
+// What a message's HTML reads as without markup. GUI thread; no state.
 
 #include <QString>
 

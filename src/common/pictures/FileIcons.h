@@ -2,7 +2,7 @@
 
 // The icons of file types as the system draws them, asked once per suffix and kept as PNG files, which are read from
 // then on and never verified: a damaged one stays until the user removes it and reads as a null pixmap. The folders of
-// the caches are made when first needed. GUI thread; no state. Reached as CommonFun::name.
+// the caches are made when first needed. GUI thread; no state.
 
 #include <QPixmap>
 #include <QString>

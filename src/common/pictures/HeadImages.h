@@ -1,7 +1,7 @@
 #pragma once
 
 // Head images: stored under the account's name, cut to size and to round or other shapes. A picture that cannot be
-// read gives a null pixmap. GUI thread; no state: a changed file shows at the next call. Reached as CommonFun::name.
+// read gives a null pixmap. GUI thread; no state: a changed file shows at the next call.
 
 #include <QPixmap>
 #include <QSize>

@@ -2,7 +2,7 @@
 
 // The client's icon font, whose symbols are private-use characters: drawn as text or as small pictures. The host hands
 // the font over in the shared context; without that the font file beside the executable is used, which is loaded once.
-// GUI thread. Reached as CommonFun::name.
+// GUI thread.
 
 #include <QFont>
 #include <QPixmap>

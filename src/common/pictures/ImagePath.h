@@ -1,7 +1,7 @@
 #pragma once
 
 // Picture files whose suffix does not tell what they hold: they are renamed, because the chat view and the other
-// programs that open them go by the suffix. GUI thread. Reached as CommonFun::name.
+// programs that open them go by the suffix. GUI thread.
 
 #include <QString>
 

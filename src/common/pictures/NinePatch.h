@@ -1,7 +1,7 @@
 #pragma once
 
 // A frame of any size from one small picture: the corners stay, the edges and the middle are stretched.
-// GUI thread; no state. Reached as CommonFun::name.
+// GUI thread; no state.
 
 #include <QPixmap>
 #include <QSize>

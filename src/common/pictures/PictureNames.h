@@ -1,7 +1,7 @@
 #pragma once
 
 // Names and suffixes of picture files, as save dialogs and file lists need them. GUI thread.
-// Reached as CommonFun::name.
+//
 
 #include <QString>
 #include <QStringList>

@@ -1,7 +1,7 @@
 #pragma once
 
 // The diagonal watermark behind the chat area. One picture per account and colour is kept on the disk.
-// GUI thread; no state. Reached as CommonFun::name.
+// GUI thread; no state.
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 // Texts of digits: numbers of fixed length and telephone numbers.
-// Any thread; no state. Reached as CommonFun::name.
+// Any thread; no state.
 
 #include <QString>
 

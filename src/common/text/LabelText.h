@@ -1,7 +1,7 @@
 #pragma once
 
 // Texts broken into lines by their width in pixels. A character is never torn, and one that is wider than a line stands
-// in a line of its own. GUI thread; no state. Reached as CommonFun::name.
+// in a line of its own. GUI thread; no state.
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 // Long texts in small places: broken into lines for a tool tip, or cut to a few characters. Widths are in columns, two
-// for a Chinese character and one for every other UTF-16 unit. Pure functions; any thread. Reached as CommonFun::name.
+// for a Chinese character and one for every other UTF-16 unit. Pure functions; any thread.
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 // Sizes and speeds of transfers as short texts. Units go by powers of 1024; there is no blank before the unit.
-// Any thread; no state. Reached as CommonFun::name.
+// Any thread; no state.
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 // Comparisons of texts: versions, members of joined lists, and the key that sorts names.
-// Any thread; no state. Reached as CommonFun::name.
+// Any thread; no state.
 
 #include <QString>
 

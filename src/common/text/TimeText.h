@@ -2,7 +2,7 @@
 // Times as texts for the user's eye, told from the present moment where it matters: `now` is the local clock unless the
 // caller gives another. Words are looked up in the translations of QObject. A time that cannot be read gives the empty
 // text.
-// Any thread; no state. Reached as CommonFun::name.
+// Any thread; no state.
 
 #include <QDateTime>
 #include <QString>
