@@ -21,4 +21,7 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt5multimedia5-plugins, libqt5sql5-sqlite")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-noto-cjk")
 # For building a host.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "cmake, g++, libjsoncpp-dev, qtbase5-dev")
+# CPack takes the module, one folder below lib, for a library that every program links, and would renew the linker's cache for
+# it. It writes no script of a name that it is given a file for, and packs no file that is not there.
+set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_BINARY_DIR}/none/postinst ${CMAKE_CURRENT_BINARY_DIR}/none/postrm)
 include(CPack)

@@ -136,7 +136,9 @@ QString CheckOptions::helpText()
                        "Started without arguments in the place of a call process, it records into the file that %1\n"
                        "names, with the call process that %2 names.")
             .arg(QLatin1String(cOutVariable), QLatin1String(cProgramVariable)));
-    parser.addPositionalArgument(QStringLiteral("record"), QString(), QStringLiteral("record|replay [SCENARIO]"));
+    parser.addPositionalArgument(QStringLiteral("COMMAND"),
+                                 QStringLiteral("record, or replay and the scenario to play"),
+                                 QStringLiteral("record|replay [SCENARIO]"));
     parser.addPositionalArgument(QStringLiteral("PROGRAM"), QStringLiteral("the call process and its arguments"),
                                  QStringLiteral("[-- PROGRAM ARGUMENTS...]"));
     return parser.helpText();

@@ -5,14 +5,17 @@
 #include "client/EndSignals.h"
 #include "client/HostCatalogue.h"
 #include "client/HostLanguage.h"
+#include "client/HostPictures.h"
 #include "client/WindowFont.h"
 #include "common/log/QtWarningFilter.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QIcon>
 #include <QTextStream>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace {
@@ -30,6 +33,23 @@ struct Options
     QString language;
 };
 
+/// Whether the kit has words in that language.
+bool isLanguage(const QString &strLanguage)
+{
+    const auto &choices = HostLanguage::choices();
+    return std::any_of(choices.begin(), choices.end(),
+                       [&](const HostLanguage::Choice &choice) { return choice.setting == strLanguage; });
+}
+
+QString languageNames()
+{
+    QStringList names;
+    for (const HostLanguage::Choice &choice : HostLanguage::choices()) {
+        names << choice.setting;
+    }
+    return names.join(QStringLiteral(", "));
+}
+
 /// Ends the program itself for --help and for arguments that it does not know.
 Options readOptions(const QCoreApplication &app)
 {
@@ -43,14 +63,9 @@ Options readOptions(const QCoreApplication &app)
     const QCommandLineOption page(QStringLiteral("page"),
                                   QStringLiteral("Only this page, or this page first: %1.").arg(GalleryPages::names()),
                                   QStringLiteral("name"));
-    QStringList languages;
-    for (const HostLanguage::Choice &choice : HostLanguage::choices()) {
-        languages << choice.setting;
-    }
-    const QCommandLineOption language(
-        QStringLiteral("language"),
-        QStringLiteral("Language of the kit's words: %1.").arg(languages.join(QStringLiteral(", "))),
-        QStringLiteral("language"), QStringLiteral("zh_CN"));
+    const QCommandLineOption language(QStringLiteral("language"),
+                                      QStringLiteral("Language of the kit's words: %1.").arg(languageNames()),
+                                      QStringLiteral("language"), QStringLiteral("zh_CN"));
     parser.addOptions({picture, page, language});
     parser.process(app);
     return {parser.isSet(picture) ? QDir(parser.value(picture)).absolutePath() : QString(), parser.value(page),
@@ -90,8 +105,13 @@ int main(int argc, char **argv)
         QTextStream(stderr) << "no page " << options.page << "; there are " << GalleryPages::names() << '\n';
         return cBadArguments;
     }
+    if (!isLanguage(options.language)) {
+        QTextStream(stderr) << "no language " << options.language << "; there are " << languageNames() << '\n';
+        return cBadArguments;
+    }
     // Resources are found relative to the working directory.
     QDir::setCurrent(QCoreApplication::applicationDirPath());
+    QApplication::setWindowIcon(QIcon(HostPictures::windowIcon()));
     WindowFont::substituteMissing();
     QFont font(WindowFont::families().constFirst());
     font.setPixelSize(cFontPixels);

@@ -2,6 +2,7 @@
 #include "client/ContactBook.h"
 #include "client/EndSignals.h"
 #include "client/HostLanguage.h"
+#include "client/HostPictures.h"
 #include "client/HostSession.h"
 #include "client/PrivateTemp.h"
 #include "client/SingleInstance.h"
@@ -171,6 +172,7 @@ int main(int argc, char **argv)
     const EndSignals endSignals;
     QObject::connect(&endSignals, &EndSignals::endRequested, &app, [] { QCoreApplication::exit(cEndedFromOutside); });
 
+    QApplication::setWindowIcon(QIcon(HostPictures::windowIcon()));
     WindowFont::substituteMissing();
     HostLanguage language(HostCatalogue::folder());
     // The tour knows the windows by their English words.

@@ -143,6 +143,16 @@ private slots:
         QCOMPARE(picturesIn(folder.path(), "*"), QStringList());
     }
 
+    void unknownLanguageIsRefused()
+    {
+        const QTemporaryDir folder;
+        const GalleryRun run({"--picture", folder.path(), "--language", "fr"});
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.error.contains(QStringLiteral("no language fr; there are zh_CN, zh_TW, en")),
+                 qPrintable(run.error));
+        QCOMPARE(picturesIn(folder.path(), "*"), QStringList());
+    }
+
     void folderThatCannotBeMadeIsTold()
     {
         const GalleryRun run({"--picture", QStringLiteral(VOIP_GALLERY "/pictures")});

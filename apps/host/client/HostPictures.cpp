@@ -58,6 +58,11 @@ QPixmap HostPictures::head(const QString &strName, const QString &strUid, int iS
     return pixmap;
 }
 
+QString HostPictures::windowIcon()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/Resources/Images/SysTrayIcon/MiniToTaskBar.png");
+}
+
 QIcon HostPictures::call(const QColor &colour)
 {
     constexpr int size = 36;

@@ -13,6 +13,9 @@ namespace HostPictures {
 /// empty, the default head's or no picture, the first character of `strName` in a colour that follows from `strUid`.
 QPixmap head(const QString &strName, const QString &strUid, int iSize, Presence presence, const QString &strPhoto);
 
+/// The file of the picture that stands for the programs in the desktop's lists of windows.
+QString windowIcon();
+
 /// A telephone handset.
 QIcon call(const QColor &colour);
 

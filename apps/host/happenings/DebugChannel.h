@@ -3,7 +3,8 @@
 #include <QStringList>
 
 /// Takes Qt's debug channel while the tour runs: everything goes to a file, warnings and worse to standard error too,
-/// so that they stand out, and are remembered, but for the one that is required (common/log/QtWarningFilter.h). One at a time, for the life of the program; any thread may write.
+/// so that they stand out, and are remembered, but for the one that is required (common/log/QtWarningFilter.h). One at
+/// a time, for the life of the program; any thread may write.
 class DebugChannel
 {
 public:

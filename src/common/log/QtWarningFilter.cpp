@@ -19,7 +19,8 @@ void passOn(QtMsgType type, const QMessageLogContext &context, const QString &st
 
 bool QtWarningFilter::isKnown(QtMsgType type, const QString &strText)
 {
-    return type == QtWarningMsg && strText.startsWith(QLatin1String("Could not parse stylesheet of object CLineEditEx("));
+    return type == QtWarningMsg &&
+           strText.startsWith(QLatin1String("Could not parse stylesheet of object CLineEditEx("));
 }
 
 QtWarningFilter::QtWarningFilter()
