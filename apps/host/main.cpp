@@ -68,8 +68,8 @@ Options readOptions(const QCoreApplication &app)
                                   QStringLiteral("ID"), QString::fromLatin1(ContactBook::cOwnId));
     options.addOptions({tour, user});
     options.process(app);
-    const Options read{options.isSet(tour) ? QDir(options.value(tour)).absolutePath() : QString(), options.value(user),
-                       options.isSet(user)};
+    Options read{options.isSet(tour) ? QDir(options.value(tour)).absolutePath() : QString(), options.value(user),
+                 options.isSet(user)};
     if (!ContactBook::users().contains(read.user)) {
         std::exit(complain(cBadArguments, QStringLiteral("no contact %1; there are %2")
                                               .arg(read.user, ContactBook::users().join(QStringLiteral(", ")))));
