@@ -24,11 +24,14 @@ constexpr int cCorruptCode = 11;
 constexpr int cNoDatabaseCode = 26;
 constexpr int cErrorCode = 1;
 
-/// What takes a file from a schema to the next: those of version n begin behind the n-th null.
-constexpr const char *cSteps[] = {
+constexpr const char *cFirstTable =
     "CREATE TABLE calls (id INTEGER PRIMARY KEY AUTOINCREMENT, begun INTEGER NOT NULL, seconds INTEGER NOT NULL, "
     "uid TEXT NOT NULL, members TEXT NOT NULL, outcome INTEGER NOT NULL, conference INTEGER NOT NULL, "
-    "video INTEGER NOT NULL, caller INTEGER NOT NULL, connected INTEGER NOT NULL, seen INTEGER NOT NULL)",
+    "video INTEGER NOT NULL, caller INTEGER NOT NULL, connected INTEGER NOT NULL, seen INTEGER NOT NULL)";
+
+/// What takes a file from a schema to the next: those of version n begin behind the n-th null.
+constexpr const char *cSteps[] = {
+    cFirstTable,
     nullptr,
     // The conferences that stand in the store: which of them have an entry here, or had one that was deleted.
     "ALTER TABLE calls ADD COLUMN confid TEXT NOT NULL DEFAULT ''",

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QShortcut>
+#include <QStyledItemDelegate>
 #include <QToolButton>
 
 #include <algorithm>
@@ -18,6 +19,23 @@ namespace {
 
 // Of what the user has still to be told of so many lines stand in the notice; the others are counted.
 constexpr size_t cNoticeLines = 3;
+
+/// Shortens a text before it is laid out: the style places a shortened one by the height of the whole, which letters of
+/// another script may have made larger.
+class ShorteningDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const int margin =
+            option->widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, option, option->widget) + 1;
+        option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, option->rect.width() - 2 * margin);
+    }
+};
 
 } // namespace
 
@@ -74,6 +92,7 @@ void CallsPane::setUpColumns()
     header->resizeSection(CallHistoryModel::Duration, 58);
     header->resizeSection(CallHistoryModel::When, 122);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    ui->tableRecords->setItemDelegate(new ShorteningDelegate(ui->tableRecords));
     ui->tableRecords->verticalHeader()->setDefaultSectionSize(32);
 }
 

@@ -295,7 +295,10 @@ private slots:
                 said = box->text();
                 QTest::keyClick(box, Qt::Key_Return);
             }
-            QVERIFY(WindowProbe::memberPicker() == nullptr);
+            if (pressButton(WindowProbe::memberPicker(), "btnCancel")) {
+                timer.stop();
+                said = QStringLiteral("the picker");
+            }
         });
         timer.start(10);
         deliver(MSG_CREATE_VOICE_CONFERENCE, sessionPluginId(), packPayload(QStringList{QStringLiteral("30010001")}));
