@@ -11,9 +11,9 @@
 
 namespace {
 
-const QKeySequence cBackKeys(Qt::ALT | Qt::Key_Left);
-const QKeySequence cCreateKeys(Qt::CTRL | Qt::Key_N);
-const QKeySequence cCloseKeys(Qt::CTRL | Qt::Key_W);
+const QKeySequence cBackKeys(QStringLiteral("Alt+Left"));
+const QKeySequence cCreateKeys(QStringLiteral("Ctrl+N"));
+const QKeySequence cCloseKeys(QStringLiteral("Ctrl+W"));
 
 } // namespace
 

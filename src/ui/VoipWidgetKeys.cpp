@@ -16,15 +16,15 @@
 
 namespace {
 
-const QKeySequence cMuteMicKeys(Qt::CTRL | Qt::Key_M);
-const QKeySequence cMuteSpeakerKeys(Qt::CTRL | Qt::SHIFT | Qt::Key_M);
-const QKeySequence cMuteAllKeys(Qt::CTRL | Qt::SHIFT | Qt::Key_A);
-const QKeySequence cSpeakerUpKeys(Qt::CTRL | Qt::Key_Up);
-const QKeySequence cSpeakerDownKeys(Qt::CTRL | Qt::Key_Down);
-const QKeySequence cMicUpKeys(Qt::CTRL | Qt::SHIFT | Qt::Key_Up);
-const QKeySequence cMicDownKeys(Qt::CTRL | Qt::SHIFT | Qt::Key_Down);
-const QKeySequence cEndKeys(Qt::CTRL | Qt::Key_E);
-const QKeySequence cCloseKeys(Qt::CTRL | Qt::Key_W);
+const QKeySequence cMuteMicKeys(QStringLiteral("Ctrl+M"));
+const QKeySequence cMuteSpeakerKeys(QStringLiteral("Ctrl+Shift+M"));
+const QKeySequence cMuteAllKeys(QStringLiteral("Ctrl+Shift+A"));
+const QKeySequence cSpeakerUpKeys(QStringLiteral("Ctrl+Up"));
+const QKeySequence cSpeakerDownKeys(QStringLiteral("Ctrl+Down"));
+const QKeySequence cMicUpKeys(QStringLiteral("Ctrl+Shift+Up"));
+const QKeySequence cMicDownKeys(QStringLiteral("Ctrl+Shift+Down"));
+const QKeySequence cEndKeys(QStringLiteral("Ctrl+E"));
+const QKeySequence cCloseKeys(QStringLiteral("Ctrl+W"));
 
 } // namespace
 
