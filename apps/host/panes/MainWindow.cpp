@@ -8,6 +8,8 @@
 #include "happenings/HappeningsPanel.h"
 #include "happenings/TraceFolder.h"
 #include "panes/MemberPicker.h"
+#include "panes/OverModal.h"
+#include "screen/WindowProbe.h"
 
 #include <QCloseEvent>
 #include <QScreen>
@@ -50,8 +52,6 @@ void MainWindow::connectParts()
     connect(ui->callsPane, &CallsPane::callWanted, this, &MainWindow::call);
     connect(ui->callsPane, &CallsPane::centreWanted, &m_session, &HostSession::showConferenceCentre);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, ui->contactPane, &ContactPane::startSearch);
-    connect(new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_I), this), &QShortcut::activated, &m_prompt,
-            &IncomingPrompt::enter);
 }
 
 void MainWindow::takeSkin()
@@ -102,6 +102,10 @@ void MainWindow::connectSession()
     connect(&m_prompt, &IncomingPrompt::answered, this, [this](const QString &strUid, bool bAccept) {
         const QString name = m_book.nameOf(strUid);
         statusBar()->showMessage(bAccept ? tr("Call of %1 accepted").arg(name) : tr("Call of %1 rejected").arg(name));
+        if (bAccept) {
+            // The call is answered over what is open, so it must be ended over that, too.
+            OverModal::liftOverCurrent(WindowProbe::callWindow());
+        }
         m_session.answerCall(bAccept);
     });
     connect(&mailbox, &HostMailbox::conferenceWanted, this, &MainWindow::startConference);
