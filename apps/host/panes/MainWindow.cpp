@@ -5,17 +5,17 @@
 #include "client/HostPictures.h"
 #include "client/HostSession.h"
 #include "client/HostSkins.h"
+#include "happenings/HappeningsDock.h"
 #include "happenings/HappeningsPanel.h"
 #include "happenings/TraceFolder.h"
 #include "panes/MemberPicker.h"
 #include "panes/OverModal.h"
+#include "panes/WindowPlace.h"
 #include "screen/WindowProbe.h"
 
 #include <QCloseEvent>
-#include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
-
-#include <utility>
 
 MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     : ui(std::make_unique<Ui::MainWindow>()), m_session(session), m_book(book), m_records(book), m_prompt(book),
@@ -25,6 +25,7 @@ MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     fillHeader();
     ui->contactPane->fill(m_book);
     ui->callsPane->setModel(&m_records);
+    setUpPlace();
     setUpHappenings();
     connectParts();
     connectSession();
@@ -60,32 +61,40 @@ void MainWindow::takeSkin()
     ui->contactPane->takeSkin();
 }
 
-void MainWindow::setUpHappenings()
+void MainWindow::setUpPlace()
 {
-    m_pHappenings = new HappeningsPanel(m_session, TraceFolder::file(), this);
-    m_pHappenings->hide();
-    ui->splitter->addWidget(m_pHappenings);
-    ui->happeningsButton->setText(m_pHappenings->windowTitle());
-    connect(m_pHappenings, &QWidget::windowTitleChanged, ui->happeningsButton, &QAbstractButton::setText);
-    connect(ui->happeningsButton, &QAbstractButton::toggled, this, &MainWindow::showHappenings);
-    const auto *shortcut = new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_H, this);
-    connect(shortcut, &QShortcut::activated, ui->happeningsButton, &QAbstractButton::toggle);
+    // On a screen that is smaller than what stands in the window, that is scrolled.
+    auto *whole = new QScrollArea(this);
+    whole->setObjectName(QStringLiteral("whole"));
+    whole->setWidgetResizable(true);
+    whole->setFocusPolicy(Qt::NoFocus);
+    QWidget *content = takeCentralWidget();
+    whole->setWidget(content);
+    setCentralWidget(whole);
+    const QSize screen = WindowPlace::insides().value(0).size();
+    whole->setMinimumWidth(qMin(content->minimumSizeHint().width(), screen.width()));
+    m_pPlace = new WindowPlace(this, QLatin1String(WindowPlace::cMainKey));
 }
 
-void MainWindow::showHappenings(bool bShown)
+void MainWindow::setUpHappenings()
 {
-    m_pHappenings->setVisible(bShown);
-    if (isMaximized() || isFullScreen()) {
-        return;
-    }
-    // The window grows by the width of the panel, as far as the screen has room, and shrinks by the same when the panel
-    // goes.
-    int grown = -std::exchange(m_iGrown, 0);
-    if (bShown) {
-        const int wanted = m_pHappenings->sizeHint().width() + ui->splitter->handleWidth();
-        grown = m_iGrown = qBound(0, screen()->availableGeometry().right() - frameGeometry().right(), wanted);
-    }
-    resize(width() + grown, height());
+    auto *panel = new HappeningsPanel(m_session, TraceFolder::file(), this);
+    m_pHappenings = new HappeningsDock(panel, this);
+    ui->happeningsButton->setText(panel->windowTitle());
+    connect(panel, &QWidget::windowTitleChanged, ui->happeningsButton, &QAbstractButton::setText);
+    connect(ui->happeningsButton, &QAbstractButton::toggled, m_pHappenings, &HappeningsDock::setShown);
+    // Its own cross closes it, too; a window that is hidden as a whole does not. Queued: it hides for a moment while it
+    // is taken out of this window.
+    connect(
+        m_pHappenings, &QDockWidget::visibilityChanged, this,
+        [this] {
+            if (!isHidden()) {
+                ui->happeningsButton->setChecked(!m_pHappenings->isHidden());
+            }
+        },
+        Qt::QueuedConnection);
+    const auto *shortcut = new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_H, this);
+    connect(shortcut, &QShortcut::activated, ui->happeningsButton, &QAbstractButton::toggle);
 }
 
 void MainWindow::connectSession()
@@ -181,6 +190,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     m_prompt.hide();
     m_signature.hide();
     m_settingsPage.hide();
+    m_pPlace->remember(m_pHappenings->grown());
     m_session.quit();
     QMainWindow::closeEvent(event);
 }
