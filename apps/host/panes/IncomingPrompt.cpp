@@ -3,10 +3,12 @@
 
 #include "client/ContactBook.h"
 #include "client/HostPictures.h"
+#include "panes/OverModal.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QScreen>
+#include <QShortcut>
 
 namespace {
 
@@ -29,6 +31,11 @@ IncomingPrompt::IncomingPrompt(const ContactBook &book, QWidget *parent)
     setAttribute(Qt::WA_QuitOnClose, false);
     connect(ui->btnAccept, &QPushButton::clicked, this, [this] { answer(true); });
     connect(ui->btnReject, &QPushButton::clicked, this, [this] { answer(false); });
+    new OverModal(this);
+    // The prompt's own: a shortcut of another window would fall silent while a dialog is modal.
+    auto *shortcut = new QShortcut(Qt::CTRL + Qt::Key_I, this);
+    shortcut->setContext(Qt::ApplicationShortcut);
+    connect(shortcut, &QShortcut::activated, this, &IncomingPrompt::enter);
 }
 
 IncomingPrompt::~IncomingPrompt() = default;

@@ -12,8 +12,9 @@ class IncomingPrompt;
 
 /// The prompt of an incoming call, in the lower right corner of the screen: who calls, accept, reject. Not modal.
 /// Enter accepts, Escape or closing the window rejects. It takes the keyboard when it comes up, unless the user is
-/// typing something or works in another program: a key meant for that must not answer the call. GUI thread; it does not
-/// count for Qt's quit-on-last-window-closed.
+/// typing something, has a dialog open or works in another program: a key meant for that must not answer the call.
+/// Ctrl+I gives it the keyboard from any window of this program. It can be answered over every modal window, which
+/// stays as it is. GUI thread; it does not count for Qt's quit-on-last-window-closed.
 class IncomingPrompt : public QDialog
 {
     Q_OBJECT

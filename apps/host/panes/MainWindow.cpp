@@ -5,19 +5,21 @@
 #include "client/HostPictures.h"
 #include "client/HostSession.h"
 #include "client/HostSkins.h"
+#include "happenings/HappeningsDock.h"
 #include "happenings/HappeningsPanel.h"
 #include "happenings/TraceFolder.h"
 #include "panes/CallServiceBar.h"
 #include "panes/MemberPicker.h"
+#include "panes/OverModal.h"
 #include "panes/QuitQuestion.h"
+#include "panes/WindowPlace.h"
+#include "screen/WindowProbe.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMessageBox>
-#include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
-
-#include <utility>
 
 MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     : ui(std::make_unique<Ui::MainWindow>()), m_session(session), m_book(book), m_status(*this, session.calls(), book),
@@ -29,6 +31,7 @@ MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     fillHeader();
     ui->contactPane->fill(m_book);
     ui->callsPane->show(&m_session.history(), &m_book);
+    setUpPlace();
     setUpHappenings();
     setUpCallService();
     connectParts();
@@ -61,8 +64,6 @@ void MainWindow::connectParts()
             [this](const QStringList &uids) { startConference(uids, false); });
     connect(ui->callsPane, &CallsPane::centreWanted, &m_session, &HostSession::showConferenceCentre);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, ui->contactPane, &ContactPane::startSearch);
-    connect(new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_I), this), &QShortcut::activated, &m_prompt,
-            &IncomingPrompt::enter);
 }
 
 void MainWindow::takeSkin()
@@ -71,32 +72,40 @@ void MainWindow::takeSkin()
     ui->contactPane->takeSkin();
 }
 
-void MainWindow::setUpHappenings()
+void MainWindow::setUpPlace()
 {
-    m_pHappenings = new HappeningsPanel(m_session, TraceFolder::file(), this);
-    m_pHappenings->hide();
-    ui->splitter->addWidget(m_pHappenings);
-    ui->happeningsButton->setText(m_pHappenings->windowTitle());
-    connect(m_pHappenings, &QWidget::windowTitleChanged, ui->happeningsButton, &QAbstractButton::setText);
-    connect(ui->happeningsButton, &QAbstractButton::toggled, this, &MainWindow::showHappenings);
-    const auto *shortcut = new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_H, this);
-    connect(shortcut, &QShortcut::activated, ui->happeningsButton, &QAbstractButton::toggle);
+    // On a screen that is smaller than what stands in the window, that is scrolled.
+    auto *whole = new QScrollArea(this);
+    whole->setObjectName(QStringLiteral("whole"));
+    whole->setWidgetResizable(true);
+    whole->setFocusPolicy(Qt::NoFocus);
+    QWidget *content = takeCentralWidget();
+    whole->setWidget(content);
+    setCentralWidget(whole);
+    const QSize screen = WindowPlace::insides().value(0).size();
+    whole->setMinimumWidth(qMin(content->minimumSizeHint().width(), screen.width()));
+    m_pPlace = new WindowPlace(this, QLatin1String(WindowPlace::cMainKey));
 }
 
-void MainWindow::showHappenings(bool bShown)
+void MainWindow::setUpHappenings()
 {
-    m_pHappenings->setVisible(bShown);
-    if (isMaximized() || isFullScreen()) {
-        return;
-    }
-    // The window grows by the width of the panel, as far as the screen has room, and shrinks by the same when the panel
-    // goes.
-    int grown = -std::exchange(m_iGrown, 0);
-    if (bShown) {
-        const int wanted = m_pHappenings->sizeHint().width() + ui->splitter->handleWidth();
-        grown = m_iGrown = qBound(0, screen()->availableGeometry().right() - frameGeometry().right(), wanted);
-    }
-    resize(width() + grown, height());
+    auto *panel = new HappeningsPanel(m_session, TraceFolder::file(), this);
+    m_pHappenings = new HappeningsDock(panel, this);
+    ui->happeningsButton->setText(panel->windowTitle());
+    connect(panel, &QWidget::windowTitleChanged, ui->happeningsButton, &QAbstractButton::setText);
+    connect(ui->happeningsButton, &QAbstractButton::toggled, m_pHappenings, &HappeningsDock::setShown);
+    // Its own cross closes it, too; a window that is hidden as a whole does not. Queued: it hides for a moment while it
+    // is taken out of this window.
+    connect(
+        m_pHappenings, &QDockWidget::visibilityChanged, this,
+        [this] {
+            if (!isHidden()) {
+                ui->happeningsButton->setChecked(!m_pHappenings->isHidden());
+            }
+        },
+        Qt::QueuedConnection);
+    const auto *shortcut = new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_H, this);
+    connect(shortcut, &QShortcut::activated, ui->happeningsButton, &QAbstractButton::toggle);
 }
 
 void MainWindow::connectSession()
@@ -109,6 +118,10 @@ void MainWindow::connectSession()
     connect(&m_prompt, &IncomingPrompt::answered, this, [this](const QString &strUid, bool bAccept) {
         const QString name = m_book.nameOf(strUid);
         m_status.hold(bAccept ? tr("Call of %1 accepted").arg(name) : tr("Call of %1 rejected").arg(name));
+        if (bAccept) {
+            // The call is answered over what is open, so it must be ended over that, too.
+            OverModal::liftOverCurrent(WindowProbe::callWindow());
+        }
         m_session.answerCall(bAccept);
     });
     connect(&mailbox, &HostMailbox::conferenceWanted, this,
@@ -202,6 +215,7 @@ void MainWindow::showService()
                            : isReady             ? tr("&Online")
                            : isLost              ? tr("N&o call service")
                                                  : tr("C&onnecting..."));
+    m_readiness.setServed(!isLost && state != CallService::Returning);
 }
 
 void MainWindow::showNotice()
@@ -267,6 +281,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     m_prompt.hide();
     m_signature.hide();
     m_settingsPage.hide();
+    m_pPlace->remember(m_pHappenings->grown());
     m_session.quit();
     QMainWindow::closeEvent(event);
 }

@@ -11,17 +11,18 @@
 #include <memory>
 
 class ContactBook;
-class HappeningsPanel;
+class HappeningsDock;
 class HostSession;
+class WindowPlace;
 
 namespace Ui {
 class MainWindow;
 }
 
-/// The demo's window: contacts on the left, the history of calls on the right, settings and the login switch
-/// on top, and below them what has to be told of the local store; rightmost, on demand, what happens. It owns the
-/// prompt of incoming calls, the signature card and the settings page. Ctrl+F goes to the search field, Ctrl+I to the
-/// prompt, Ctrl+Shift+H shows and hides what happens. GUI thread; session and book must outlive it.
+/// The demo's window: contacts on the left, the history of calls on the right, settings and the login switch on top, and
+/// below them what has to be told of the local store; rightmost, on demand, what happens, or in a window of its own. It
+/// owns the prompt of incoming calls, the signature card and the settings page. Ctrl+F goes to the search field,
+/// Ctrl+Shift+H shows and hides what happens. GUI thread; session and book must outlive it.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -49,8 +50,8 @@ protected:
 
 private:
     void fillHeader();
+    void setUpPlace();
     void setUpHappenings();
-    void showHappenings(bool bShown);
     void connectParts();
     void connectSession();
     void takeSkin();
@@ -78,7 +79,7 @@ private:
     IncomingPrompt m_prompt;
     SignatureCard m_signature;
     SettingsPage m_settingsPage;
-    HappeningsPanel *m_pHappenings = nullptr;
-    int m_iGrown = 0;
+    WindowPlace *m_pPlace = nullptr;
+    HappeningsDock *m_pHappenings = nullptr;
     bool m_bQuitAgreed = false;
 };

@@ -1,0 +1,126 @@
+#pragma once
+
+// What a person does by the real mouse and the real keys, one thing after another, while event loops of dialogs come
+// and go. GUI thread.
+
+#include "fakes/Patience.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTest>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+/// Deeds that are done in their order, each as soon as it says so itself.
+class Deeds : public QObject
+{
+public:
+    /// One attempt; true when it is done.
+    using Deed = std::function<bool()>;
+
+    explicit Deeds(std::vector<Deed> deeds) : m_deeds(std::move(deeds))
+    {
+        connect(&m_timer, &QTimer::timeout, this, &Deeds::goOn);
+        m_timer.start(20);
+        m_clock.start();
+    }
+
+    /// Waits until all are done. False when one cannot be done; dialogs that are modal then are closed.
+    bool finish()
+    {
+        return QTest::qWaitFor([this] { return done() || (m_bStuck && QApplication::activeModalWidget() == nullptr); },
+                               2 * cPatienceMs) &&
+               done();
+    }
+    /// Whether all are done; false as long as one is not.
+    bool done() const { return m_next == m_deeds.size(); }
+
+    /// Clicks with the real mouse in the middle of the part of that name, once it is seen in a window that is shown and
+    /// stands still, and again, as a person does, as long as that has no effect.
+    template <typename Find>
+    static Deed click(Find window, const QByteArray &strPart, const std::function<bool()> &hasEffect)
+    {
+        return [window, strPart, hasEffect, last = QPoint(), same = 0]() mutable {
+            if (hasEffect()) {
+                return true;
+            }
+            const QWidget *top = window();
+            const auto *part = top == nullptr || !top->isVisible()
+                                   ? nullptr
+                                   : top->template findChild<QWidget *>(QLatin1String(strPart));
+            if (part != nullptr && part->isVisible() && part->isEnabled()) {
+                const QPoint place = part->mapToGlobal(part->rect().center());
+                same = std::exchange(last, place) == place ? same + 1 : 0;
+                if (same % cLooks == cLooks / 5) {
+                    clickAt(place);
+                }
+            }
+            return false;
+        };
+    }
+
+    /// Presses a key of the real keyboard, "ctrl+i", "Return".
+    static Deed key(const QByteArray &strKey)
+    {
+        return [strKey] {
+            return QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("key"), QLatin1String(strKey)}) == 0;
+        };
+    }
+
+    /// Waits until that is so.
+    static Deed until(std::function<bool()> isSo) { return isSo; }
+    /// Does that, once.
+    static Deed act(std::function<void()> what)
+    {
+        return [what = std::move(what)] {
+            what();
+            return true;
+        };
+    }
+
+    /// Clicks with the real mouse at that place of the screen.
+    static bool clickAt(const QPoint &place)
+    {
+        const QPoint pixel = place * qGuiApp->devicePixelRatio();
+        return QProcess::execute(QStringLiteral("xdotool"),
+                                 {QStringLiteral("mousemove"), QString::number(pixel.x()), QString::number(pixel.y()),
+                                  QStringLiteral("click"), QStringLiteral("1")}) == 0;
+    }
+
+private:
+    // So many looks at a part that stands still go from one click to the next; the first comes after a fifth of them.
+    static constexpr int cLooks = 50;
+
+    void goOn()
+    {
+        if (m_bBusy || done()) {
+            return;
+        }
+        m_bBusy = true;
+        if (m_deeds.at(m_next)()) {
+            ++m_next;
+            m_clock.start();
+        } else if (m_clock.hasExpired(cPatienceMs)) {
+            qWarning("deed %d cannot be done", int(m_next));
+            m_bStuck = true;
+        }
+        // The loops of the dialogs end, so that the test goes on and fails.
+        QWidget *modal = m_bStuck ? QApplication::activeModalWidget() : nullptr;
+        if (modal != nullptr) {
+            modal->close();
+        }
+        m_bBusy = false;
+    }
+
+    std::vector<Deed> m_deeds;
+    std::size_t m_next = 0;
+    bool m_bBusy = false;
+    bool m_bStuck = false;
+    QTimer m_timer;
+    QElapsedTimer m_clock;
+};
