@@ -50,11 +50,13 @@ private slots:
 
     void opening()
     {
-        check([this] {
-            CallHistory history;
-            QVERIFY(history.open(m_strFolder, QLatin1String(ContactBook::cOwnId)));
-            QCOMPARE(history.entries().size(), size_t(cCalls));
-        });
+        check(
+            [this] {
+                CallHistory history;
+                QVERIFY(history.open(m_strFolder, QLatin1String(ContactBook::cOwnId)));
+                QCOMPARE(history.entries().size(), size_t(cCalls));
+            },
+            0.6);
     }
 
     void aLetterOfTheSearch()
@@ -119,7 +121,7 @@ private slots:
                 m_history.restore();
                 QCOMPARE(m_pTable->model()->rowCount(), cCalls);
             },
-            0.5);
+            1.2);
     }
 
 private:
