@@ -7,18 +7,18 @@ set(VOIP_HOST_HEADERS
     common/BuiltInPictures.h
     common/CLogManger.h
     common/CLogThread.h
-    common/CServerSettings.h
     common/CommonFun.h
+    common/CServerSettings.h
     common/CustomLogger.h
-    common/Palette.h
     common/log/QtWarningFilter.h
+    common/Palette.h
     model/AvatarFiles.h
     model/CommonData.h
     model/LoginData.h
     model/MemberRoles.h
     model/SharedContext.h
-    model/SysUIData.h
     model/SystemSetData.h
+    model/SysUIData.h
     plugin/BaseEvent.h
     plugin/EMsgId.h
     plugin/EventPayload.h

@@ -3,9 +3,10 @@
 #include <QAudioDeviceInfo>
 #include <QDeadlineTimer>
 
-#include <memory>
 #include <pulse/context.h>
 #include <pulse/mainloop.h>
+
+#include <memory>
 
 namespace {
 

@@ -1,4 +1,5 @@
 #include "callprocess/CallProcess.h"
+
 #include "fakes/Patience.h"
 
 #include <QDeadlineTimer>

@@ -1,16 +1,15 @@
+#include "fakes/BuiltInAvatar.h"
 #include "model/CSUtils.h"
 #include "model/CServiceNumData.h"
 #include "model/CommonData.h"
 #include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 
-#include "fakes/BuiltInAvatar.h"
+#include <QFile>
+#include <QTest>
 
 #include <json/reader.h>
 #include <json/value.h>
-
-#include <QFile>
-#include <QTest>
 
 namespace {
 

@@ -2,10 +2,10 @@
 
 #include "model/CServiceNumData.h"
 
+#include <QTest>
+
 #include <json/reader.h>
 #include <json/value.h>
-
-#include <QTest>
 
 namespace {
 

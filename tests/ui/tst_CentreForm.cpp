@@ -10,7 +10,6 @@
 #include <QLayout>
 #include <QMetaMethod>
 #include <QPushButton>
-
 #include <QTranslator>
 
 Q_DECLARE_METATYPE(QMargins)
