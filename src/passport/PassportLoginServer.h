@@ -2,10 +2,10 @@
 
 // The holder of the single-sign-on session: the cookies that the passport service gave the user, and the signals that
 // tell the client when they change or lapse. The host creates one, registers it with CommonData and owns it; plug-ins
-// reach it through SharedContext::getPassportLoginServer. The host's login code stores the cookies, and each request that
-// goes through SharedContext::CoverNetworkRequest carries the authorisation identifier of that moment.
-// It keeps nothing alive by itself: refresh and expiry log their call and return, and the timers and flags stand ready
-// for a refresh. On the GUI thread; there is no lock.
+// reach it through SharedContext::getPassportLoginServer. The host's login code stores the cookies, and each request
+// that goes through SharedContext::CoverNetworkRequest carries the authorisation identifier of that moment. It keeps
+// nothing alive by itself: refresh and expiry log their call and return, and the timers and flags stand ready for a
+// refresh. On the GUI thread; there is no lock.
 
 #include <QObject>
 #include <QString>

@@ -16,8 +16,8 @@ class QSqlQuery;
 class StoreOpening
 {
 public:
-    /// Begins over `db`, opened by LockWait::open(), with the session's setting: SQLite does not wait for the disk. Setting
-    /// it reads the schema, so a lock that stays makes the opening fail here.
+    /// Begins over `db`, opened by LockWait::open(), with the session's setting: SQLite does not wait for the disk.
+    /// Setting it reads the schema, so a lock that stays makes the opening fail here.
     explicit StoreOpening(const QSqlDatabase &db);
     /// The session's statements wait again as Qt's driver lets them.
     ~StoreOpening();

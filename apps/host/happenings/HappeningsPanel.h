@@ -23,9 +23,9 @@ class HappeningsPanel : public QWidget
     Q_OBJECT
 
 public:
-    /// `strTraceFile` is where the call process that is about to be started writes its trace; empty for none. Another one
-    /// that the plug-in is connected to is followed where it writes its own; where it writes none, the panel says so, and
-    /// how to get one, and only events show.
+    /// `strTraceFile` is where the call process that is about to be started writes its trace; empty for none. Another
+    /// one that the plug-in is connected to is followed where it writes its own; where it writes none, the panel says
+    /// so, and how to get one, and only events show.
     HappeningsPanel(HostSession &session, const QString &strTraceFile, QWidget *parent = nullptr);
     ~HappeningsPanel() override;
 
