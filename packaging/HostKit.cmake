@@ -28,7 +28,8 @@ set(VOIP_HOST_HEADERS
     store/DB.h
     store/DBConfInfo.h
     wire/Commands.h
-    wire/Notifications.h)
+    wire/Notifications.h
+    wire/SocketProbe.h)
 set(installed_headers)
 while(VOIP_HOST_HEADERS)
   list(POP_FRONT VOIP_HOST_HEADERS header)
