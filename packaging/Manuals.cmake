@@ -7,6 +7,7 @@ install(
     ${PROJECT_SOURCE_DIR}/docs/call-process-kit.md
     ${PROJECT_SOURCE_DIR}/docs/host-contract.md
     ${PROJECT_SOURCE_DIR}/docs/scenario-language.md
+    ${PROJECT_SOURCE_DIR}/docs/server-addresses.md
     ${PROJECT_SOURCE_DIR}/docs/wire-protocol.md
   DESTINATION ${manuals})
 

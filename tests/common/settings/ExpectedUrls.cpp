@@ -1,266 +1,91 @@
 #include "common/settings/ExpectedUrls.h"
 
+#include <QFile>
+#include <QHash>
+
 namespace {
 
-constexpr char cNowhere[] = "";
-constexpr char cMain[] = "http://center.kelvar.example";
-constexpr char cMainInternal[] = "http://center.internal.kelvar.example";
-constexpr char cSso[] = "http://sso.kelvar.example";
-constexpr char cPassport[] = "http://passport.kelvar.example";
-constexpr char cPassportInternal[] = "http://passport.internal.kelvar.example";
-constexpr char cImage[] = "http://image.kelvar.example";
-constexpr char cMonitor[] = "http://monitor.kelvar.example";
-constexpr char cAgentPlatform[] = "http://agent.kelvar.example";
-constexpr char cAdmin[] = "http://admin.kelvar.example";
-constexpr char cObjectStore[] = "http://objectstore.kelvar.example";
+using Getter = std::variant<QString (*)(), QString (*)(const QString &)>;
 
-// clang-format off
-const ExpectedUrl cExpectedUrls[] = {
-    // Login, account and passport
-    {"userLoginInfoUrl", "/TwoStageLogin/theurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::userLoginInfoUrl},
-    {"pasWordChangUrl", "/modifypwd/theurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::pasWordChangUrl},
-    {"getPassportLoginUrl", "/Passport/loginurl", cSso, "/ids/login", UrlForm::Plain, &CUrlInfo::getPassportLoginUrl},
-    {"getIMAppAuthUrl", "/Passport/imauthurl", cMain, "/center/auth", UrlForm::Plain, &CUrlInfo::getIMAppAuthUrl},
-    {"getIMAppLoginPassportUrl", "/Passport/impassportloginurl", cMain, "/center/handshake.do", UrlForm::Plain, &CUrlInfo::getIMAppLoginPassportUrl},
-    {"getNeedPassportLoginVerifyCodeUrl", "/Passport/needverifycodeurl", cSso, "/ids/needVerifyCode", UrlForm::Plain, &CUrlInfo::getNeedPassportLoginVerifyCodeUrl},
-    {"getPassportLoginVerifyCodeUrl", "/Passport/verifycodeurl", cImage, "/vcs/imageCode.htm", UrlForm::Plain, &CUrlInfo::getPassportLoginVerifyCodeUrl},
-    {"getPassportKeeperUrl", "/Passport/passportkeeperurl", cMain, "/center/version.do", UrlForm::Plain, &CUrlInfo::getPassportKeeperUrl},
-    {"getInternalPassportLoginUrl", "/Passport/internalpassporturl", cPassport, "/ids/login", UrlForm::Plain, &CUrlInfo::getInternalPassportLoginUrl},
-    {"getClientID", "/Passport/client_id", cNowhere, "im_01", UrlForm::Plain, &CUrlInfo::getClientID},
-    {"getPassportAuthorize", "/Passport/passportauthorize", cSso, "/ids/oauth20/authorize", UrlForm::Plain, &CUrlInfo::getPassportAuthorize},
-    {"getForgetPwdUrl", "/Passport/forgetpwdurl", cPassport, "/ids/toResetPwd", UrlForm::Plain, &CUrlInfo::getForgetPwdUrl},
-    {"getModifyPwdUrl", "/Passport/modifypwdurl", cPassport, "/ids/toEditPwd", UrlForm::Plain, &CUrlInfo::getModifyPwdUrl},
-    {"getModifyUrl", "/Passport/modifyurl", cPassport, "/ids/login", UrlForm::Plain, &CUrlInfo::getModifyUrl},
-    {"getSuperTicketUrl", "/Passport/superticketurl", cPassport, "/ids/superTicket", UrlForm::Plain, &CUrlInfo::getSuperTicketUrl},
-    {"getSMSVerifyCode", "/Passport/resendsms", cPassportInternal, "/ids/sendSmsVerifyCode", UrlForm::Plain, &CUrlInfo::getSMSVerifyCode},
-    {"getMobileVerifyCode", "/Passport/sendmobile", cPassport, "/ids/sendMobileVerifyCode", UrlForm::Plain, &CUrlInfo::getMobileVerifyCode},
-    {"getCheckMobileRegisterUrl", "/Passport/checkmobileregister", cPassport, "/ids/checkMobileRegister", UrlForm::Plain, &CUrlInfo::getCheckMobileRegisterUrl},
-    {"getNewUserRegisterUrl", "/Passport/personalregister", cPassport, "/ids/personalAccountRegister", UrlForm::Plain, &CUrlInfo::getNewUserRegisterUrl},
-    {"getCompanyRegisterUrl", "/Passport/companyregister", cMain, "/center/company/companyRegister.do", UrlForm::Plain, &CUrlInfo::getCompanyRegisterUrl},
-    {"scanLoginImageUrl", "/Passport/scanloginurl", cPassport, "/ids/qrLoginUuidGenerate", UrlForm::Plain, &CUrlInfo::scanLoginImageUrl},
-    {"scanLoginStateUrl", "/Passport/scanloginstateurl", cPassport, "/ids/qrLoginStateProbe", UrlForm::Plain, &CUrlInfo::scanLoginStateUrl},
-    {"getCheckPasswordUrl", "/Passport/checkpassword", cMain, "/center/mobile/verifyPassword.do", UrlForm::Plain, &CUrlInfo::getCheckPasswordUrl},
-    {"getModifyPhoneNumberUrl", "/Passport/modifyphonenumer", cMain, "/center/mobile/changeNumber.do", UrlForm::Plain, &CUrlInfo::getModifyPhoneNumberUrl},
-    {"getCreateTaskUrl", "/Passport/createtask", cMain, "/center/task/create.do", UrlForm::Plain, &CUrlInfo::getCreateTaskUrl},
-    {"userVcardUrl", "/vcard/loadurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::userVcardUrl},
-    {"updateUserVcardUrl", "/vcard/updateurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::updateUserVcardUrl},
-    {"getEmailUrl", "/vcard/emailurl", cMain, "/center/user/getEmails.do", UrlForm::Plain, &CUrlInfo::getEmailUrl},
-    {"getPersonalSettings", "/vcard/getPersonalSettingsUrl", cMain, "/center/user/getPersonalSettings.do", UrlForm::Plain, &CUrlInfo::getPersonalSettings},
-    {"setPersonalSettings", "/vcard/setPersonalSettingsUrl", cMain, "/center/user/setPersonalSettings.do", UrlForm::Plain, &CUrlInfo::setPersonalSettings},
-    {"userTagsUrl", "/tags/loadurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::userTagsUrl},
-    {"addUserTagUrl", "/tags/updateurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::addUserTagUrl},
-    {"deleteUserTagUrl", "/tags/deleteurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::deleteUserTagUrl},
-    {"confirmUserTagUrl", "/tags/confirmurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::confirmUserTagUrl},
+/// The class's functions by their names: a document has no pointers.
+const QHash<QString, Getter> &getters()
+{
+    static const QHash<QString, Getter> s_getters = {
+#define URL_GETTER(name, key, endpoint, path, form) {#name, &CUrlInfo::name},
+#include "common/CUrlInfo.def"
+    };
+    return s_getters;
+}
 
-    // Contacts and organisation
-    {"innerQueryUrl", "/innerquery/theurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::innerQueryUrl},
-    {"contactGroupsUrl", "/roster/contactgroupurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::contactGroupsUrl},
-    {"userContactsUrl", "/roster/contactsurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::userContactsUrl},
-    {"usersByGroupIdUrl", "roster/contactsbygroupidurl/", cNowhere, "", UrlForm::Arg, &CUrlInfo::usersByGroupIdUrl},
-    {"createGroupUrl", "/roster/creategroupurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::createGroupUrl},
-    {"changeGroupNameUrl", "roster/modifygroupurl/", cNowhere, "", UrlForm::Arg, &CUrlInfo::changeGroupNameUrl},
-    {"deleteGroupUrl", "roster/deletegroupurl/", cNowhere, "", UrlForm::Arg, &CUrlInfo::deleteGroupUrl},
-    {"createContactsUrl", "/roster/createcontactsurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::createContactsUrl},
-    {"deleteContactsUrl", "roster/deletecontactsurl/", cNowhere, "", UrlForm::Arg, &CUrlInfo::deleteContactsUrl},
-    {"moveContactsUrl", "/roster/movecontactsurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::moveContactsUrl},
-    {"modifyRemarkNameUrl", "/roster/modifydescurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::modifyRemarkNameUrl},
-    {"friendsRecommendUrl", "/roster/friendsrecommendurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::friendsRecommendUrl},
-    {"getBatchAddFriendUrl", "/roster/batchAddFriendUrl", cMain, "/center/roster//batchCreateRosterItem.do", UrlForm::Plain, &CUrlInfo::getBatchAddFriendUrl},
-    {"searchOutsideFriendUrl", "/roster/searchOutsideFriendUrl", cMain, "/center/friend/search.do", UrlForm::Plain, &CUrlInfo::searchOutsideFriendUrl},
-    {"addOutsideFriendUrl", "/roster/addOutsideFriendUrl", cMain, "/center/friend/addFriendRequest.do", UrlForm::Plain, &CUrlInfo::addOutsideFriendUrl},
-    {"deleteOutsideFriendUrl", "/roster/deleteOutsideFriendUrl", cMain, "/center/friend/removeFriend.do", UrlForm::Plain, &CUrlInfo::deleteOutsideFriendUrl},
-    {"getOutsideFriendListUrl", "/roster/getOutsideFriendListUrl", cMain, "/center/friend/getFriendList.do", UrlForm::Plain, &CUrlInfo::getOutsideFriendListUrl},
-    {"confirmOutsideFriendUrl", "/roster/confirmOutsideFriendUrl", cMain, "/center/friend/confirmAddFriend.do", UrlForm::Plain, &CUrlInfo::confirmOutsideFriendUrl},
-    {"createFriendGroupUrl", "/roster/createFriendGroupUrl", cMain, "/center/friend/createFriendGroup.do", UrlForm::Plain, &CUrlInfo::createFriendGroupUrl},
-    {"renameFriendGroupUrl", "/roster/renameFriendGroupUrl", cMain, "/center/friend/renameFriendGroup.do", UrlForm::Plain, &CUrlInfo::renameFriendGroupUrl},
-    {"removeFriendGroupUrl", "/roster/removeFriendGroupUrl", cMain, "/center/friend/removeFriendGroup.do", UrlForm::Plain, &CUrlInfo::removeFriendGroupUrl},
-    {"moveFriendItemUrl", "/roster/moveFriendItemUrl", cMain, "/center/friend/moveFriendItem.do", UrlForm::Plain, &CUrlInfo::moveFriendItemUrl},
-    {"contactSearchUrl", "/searchfriend/theurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::contactSearchUrl},
-    {"searchOrgUrl", "/searchOrg/searchorgurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::searchOrgUrl},
-    {"LocateOrgUrl", "/searchOrg/locateorgurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::LocateOrgUrl},
-    {"FuzzySearchOrgUrl", "/searchOrg/fuzzysearchorgurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::FuzzySearchOrgUrl},
+/// The cells of a row of a table; none of another line.
+QStringList cellsOf(const QString &line)
+{
+    QStringList cells = line.split('|');
+    if (cells.size() < 3 || !line.startsWith("| ")) {
+        return {};
+    }
+    cells.removeFirst();
+    cells.removeLast();
+    for (QString &cell : cells) {
+        cell = cell.trimmed();
+    }
+    return cells;
+}
 
-    // File transfer
-    {"uploadPointUrl", "/ImFile/uploadFileUrl", cMain, "/center/im/uploadFile.do", UrlForm::Plain, &CUrlInfo::uploadPointUrl},
-    {"downloadPointUrl", "/ImFile/downloadPointUrl", cNowhere, "", UrlForm::Plain, &CUrlInfo::downloadPointUrl},
-    {"queryObjectIdUrl", "/ImFile/queryObjectIdUrl", cMain, "/center/im/getObjectId.do", UrlForm::Plain, &CUrlInfo::queryObjectIdUrl},
-    {"GetTransmitFileUrl", "/ImFile/transmitFileUrl", cMain, "/center/im/fileForward.do", UrlForm::Plain, &CUrlInfo::GetTransmitFileUrl},
-    {"getUploadMultiPartFileUrl", "/ImFile/uploadMultiFileUrl", cMain, "/center/im/uploadMultipart.do", UrlForm::Plain, &CUrlInfo::getUploadMultiPartFileUrl},
-    {"getUploadMultiPartCompleteUrl", "/ImFile/completeUploadMultiFileUrl", cMain, "/center/im/uploadMultipartComplete.do", UrlForm::Plain, &CUrlInfo::getUploadMultiPartCompleteUrl},
-    {"getUploadMultiPartAbortUrl", "/ImFile/abortUploadMultiFileUrl", cMain, "/center/im/uploadMultipartAbort.do", UrlForm::Plain, &CUrlInfo::getUploadMultiPartAbortUrl},
-    {"getUpdateUploadMultiPartAuthrationUrl", "/ImFile/updateUploadMultiFileAuthUrl", cMain, "/center/im/updateUploadMultipartAuth.do", UrlForm::Plain, &CUrlInfo::getUpdateUploadMultiPartAuthrationUrl},
-    {"getObjstCallbackUrl", "/objst/objstCallbackUrl", cMain, "/center/im/objstCallback.do", UrlForm::Plain, &CUrlInfo::getObjstCallbackUrl},
-    {"GetRecoverFileUrl", "/RecoverFile/Url", cNowhere, "", UrlForm::Plain, &CUrlInfo::GetRecoverFileUrl},
-    {"GetSearchFileRecoverStatus", "/SearchFileRecoverStatus/Url", cNowhere, "", UrlForm::Plain, &CUrlInfo::GetSearchFileRecoverStatus},
-    {"getShareFileInfoURL", "/sharefiledown/theurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::getShareFileInfoURL},
-    {"getShareFileUpLoadInfoURL", "/sharefileup/theurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::getShareFileUpLoadInfoURL},
-    {"getShareFileDeleteURL", "/sharefiledele/theurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::getShareFileDeleteURL},
+/// Reads line by line. The table of the services comes before those that name them.
+class DocumentReader
+{
+public:
+    void read(const QString &line)
+    {
+        const QStringList cells = cellsOf(line);
+        if (cells.size() == 3) {
+            m_bases.insert(cells[0], cells[1]);
+        } else if (cells.size() == 5 && cells[0].startsWith('`')) {
+            readGetter(cells);
+        } else if (!cells.isEmpty() && cells[0] != "function") {
+            qFatal("No row of an address: %s", qPrintable(line));
+        }
+    }
 
-    // Cloud drive
-    {"panUploadPointUrl", "/Cloud/uploadpointurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::panUploadPointUrl},
-    {"SaveOfflineFileToCloudUrl", "/Cloud/saveofflinefiletopan", cNowhere, "", UrlForm::Plain, &CUrlInfo::SaveOfflineFileToCloudUrl},
-    {"SaveCloudFiletoCloudUrl", "/Cloud/savecloudfiletopan", cNowhere, "", UrlForm::Plain, &CUrlInfo::SaveCloudFiletoCloudUrl},
-    {"QueryCloudAccountDataUrl", "/Cloud/queryclouduser", cNowhere, "", UrlForm::Plain, &CUrlInfo::QueryCloudAccountDataUrl},
-    {"DownLoadCloudFileUrl", "/Cloud/downcloudfile", cNowhere, "", UrlForm::Plain, &CUrlInfo::DownLoadCloudFileUrl},
-    {"getCloudObjstCallbackUrl", "/CloudObjst/cloudObjstCallback", cMain, "/center/cloud/reportObjstCallback.do", UrlForm::Plain, &CUrlInfo::getCloudObjstCallbackUrl},
-    {"getPanListUrl", "/CloudFile/queryCloudFile", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanListUrl},
-    {"getPanCategritListUrl", "/CloudFile/queryCategroy", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanCategritListUrl},
-    {"getPanSearchUrl", "/CloudFile/searchUrl", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanSearchUrl},
-    {"getPanRenameFileUrl", "/CloudFile/renameFile", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanRenameFileUrl},
-    {"getPanRenameFolderUrl", "/CloudFile/renameFolder", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanRenameFolderUrl},
-    {"getPanDeleteUrl", "/CloudFile/deleteurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanDeleteUrl},
-    {"getPanCreatFolerUrl", "/CloudFile/creatFolder", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanCreatFolerUrl},
-    {"getPanQueryCloudSizeUrl", "/CloudFile/querysizeurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanQueryCloudSizeUrl},
-    {"getPanUpLoadCloudFileUrl", "/CloudFile/uploadurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanUpLoadCloudFileUrl},
-    {"getPanDownLoadCloudFileUrl", "/CloudFile/downloadurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanDownLoadCloudFileUrl},
-    {"getPanQueryRecycledFileUrl", "/CloudFile/queryrecycle", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanQueryRecycledFileUrl},
-    {"getPanDeleteFileFromRecycledUrl", "/CloudFile/deleterecycle", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanDeleteFileFromRecycledUrl},
-    {"getPanRestroeFileFromRecycledUrl", "/CloudFile/restorerecycle", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanRestroeFileFromRecycledUrl},
-    {"getPanClearRecycleUrl", "/CloudFile/clearrecycle", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPanClearRecycleUrl},
-    {"getCloudUploadMultiPartFileUrl", "/CloudFile/uploadMultiFileUrl", cMain, "/center/cloud/uploadMultipart.do", UrlForm::Plain, &CUrlInfo::getCloudUploadMultiPartFileUrl},
-    {"getCloudUploadMultiPartCompleteUrl", "/CloudFile/completeUploadMultiFileUrl", cMain, "/center/cloud/uploadMultipartComplete.do", UrlForm::Plain, &CUrlInfo::getCloudUploadMultiPartCompleteUrl},
-    {"getCloudUploadMultiPartAbortUrl", "/CloudFile/abortUploadMultiFileUrl", cMain, "/center/cloud/uploadMultipartAbort.do", UrlForm::Plain, &CUrlInfo::getCloudUploadMultiPartAbortUrl},
-    {"getCloudUpdateUploadMultiPartAuthrationUrl", "/CloudFile/updateUploadMultiFileAuthUrl", cMain, "/center/cloud/updateUploadMultipartAuth.do", UrlForm::Plain, &CUrlInfo::getCloudUpdateUploadMultiPartAuthrationUrl},
-    {"getBindCloudUrl", "/bindCloud/bindUrl", cNowhere, "", UrlForm::Plain, &CUrlInfo::getBindCloudUrl},
-    {"getRelieveBindCloudUrl", "/bindCloud/relieveBindUrl", cNowhere, "", UrlForm::Plain, &CUrlInfo::getRelieveBindCloudUrl},
-    {"getCloudAccountUrl", "/bindCloud/panAccountUrl", cNowhere, "", UrlForm::Plain, &CUrlInfo::getCloudAccountUrl},
-    {"GetCloudQueryUrl", "/QueryCloudFile/queryUrl", cNowhere, "", UrlForm::Plain, &CUrlInfo::GetCloudQueryUrl},
-    {"GetCategroyQueryUrl", "/CategroyQuery/queryUrl", cNowhere, "", UrlForm::Plain, &CUrlInfo::GetCategroyQueryUrl},
-    {"GetSearchCloudFileUrl", "/SearchCloudFile/searchUrl", cNowhere, "", UrlForm::Plain, &CUrlInfo::GetSearchCloudFileUrl},
+    std::vector<ExpectedUrl> take() { return std::move(m_urls); }
 
-    // Client operation
-    {"logUploadUrl", "/logupload/theurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::logUploadUrl},
-    {"getMonitorSamplingUrl", "/logupload/monitorSmapling", cMonitor, "/httpampling.gif", UrlForm::Plain, &CUrlInfo::getMonitorSamplingUrl},
-    {"getMonitorPerfUrl", "/logupload/monitorPerf", cMonitor, "/perfSDK.gif", UrlForm::Plain, &CUrlInfo::getMonitorPerfUrl},
-    {"getMonitorCrashUrl", "/logupload/monitorCrash", cMonitor, "/crashSDK.gif", UrlForm::Plain, &CUrlInfo::getMonitorCrashUrl},
-    {"getMonitorCustomUrl", "/logupload/motitorCustom", cMonitor, "/customSDK.gif", UrlForm::Plain, &CUrlInfo::getMonitorCustomUrl},
-    {"upgradeUrl", "/upgrade/theurl", cMain, "/center/clientVersion/check.do", UrlForm::Plain, &CUrlInfo::upgradeUrl},
-    {"upgradeIP", "/upgrade/ip", cNowhere, "", UrlForm::Plain, &CUrlInfo::upgradeIP},
-    {"upgradePort", "/upgrade/port", cNowhere, "", UrlForm::Plain, &CUrlInfo::upgradePort},
-    {"questionReportUrl", "/questionreport/theurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::questionReportUrl},
-    {"getClientSettingUrl", "/ClientSetting/settingUrl", cMain, "/center/clientsettings/getClientSettings.do", UrlForm::Plain, &CUrlInfo::getClientSettingUrl},
-    {"getFeatureListUrl", "/featurelist/theurl", cMain, "/center/cauth/listCAuth.do", UrlForm::Plain, &CUrlInfo::getFeatureListUrl},
-    {"getPluginList", "/plugins/dlls", cNowhere, "VoipManage.dll,SessionManage.dll,ContactManage.dll,VcardManage.dll,MsgBoxManage.dll,SignListManage.dll,FileTransManage.dll,SystemSetManage.dll,ServiceNumManage.dll", UrlForm::Plain, &CUrlInfo::getPluginList},
-    {"getWeatherUrl", "/weatherupdate/theurl", cMain, "/center/weather/getWeather.do", UrlForm::Plain, &CUrlInfo::getWeatherUrl},
-    {"getImportTemplateUrl", "/ImportTemp/importTemplateUrl", cObjectStore, "/client/template/importMembers.txt?accessKeyId=KELVARCLIENT01&expires=4102444800&signature=Zk9wQ2xpZW50VGVtcGxhdGU%3D", UrlForm::Plain, &CUrlInfo::getImportTemplateUrl},
-    {"getEnterpriseBackgroundUrl", "/enterprise/enterpriseBackgroundUrl", cAdmin, "/eadmin-web", UrlForm::Plain, &CUrlInfo::getEnterpriseBackgroundUrl},
-    {"getEnterpriseBackgroundSingleUrl", "/enterprise/enterpriseBackgroundSingleUrl", cPassport, "/ids/login?service=http%3A%2F%2Fadmin.kelvar.example%2Feadmin-web%2Fauth%3FtargetUrl%3Dhttp%253A%252F%252Fadmin.kelvar.example%252Feadmin-web%252Flogin%252Flogin.do&loginTheme=eadmin-web", UrlForm::Plain, &CUrlInfo::getEnterpriseBackgroundSingleUrl},
+private:
+    void readGetter(const QStringList &cells)
+    {
+        static const QHash<QString, UrlForm> forms = {
+            {"", UrlForm::Plain}, {"cached", UrlForm::Cached}, {"text", UrlForm::Arg}};
+        const QString name = cells[0].mid(1, cells[0].size() - 2);
+        const QString &service = cells[2];
+        if (!getters().contains(name) || !forms.contains(cells[4]) ||
+            !(service.isEmpty() || m_bases.contains(service))) {
+            qFatal("No function, service or form: %s", qPrintable(cells.join(" | ")));
+        }
+        m_urls.push_back(
+            {name.toLatin1(), cells[1], m_bases.value(service) + cells[3], forms[cells[4]], getters()[name]});
+    }
 
-    // Message history, rooms, video conference
-    {"getServerMessageUrl", "/historymsg/servermsg", cMain, "/center/message/searchById.do", UrlForm::Cached, &CUrlInfo::getServerMessageUrl},
-    {"getDeleteMessageBySequencUrl", "/historymsg/deleteMsgBySequence", cMain, "/center/message/delete.do", UrlForm::Cached, &CUrlInfo::getDeleteMessageBySequencUrl},
-    {"getDeleteMessageByTimeUrl", "/historymsg/deleteMsgByTime", cMain, "/center/message/deleteByTime.do", UrlForm::Cached, &CUrlInfo::getDeleteMessageByTimeUrl},
-    {"getDeleteMessageBySeqListUrl", "/historymsg/deleteMsgBySeqList", cMain, "/center/message/deleteBySeqList.do", UrlForm::Cached, &CUrlInfo::getDeleteMessageBySeqListUrl},
-    {"getMucQrCodeUrl", "/mucInfo/getRoomQrCode", cMain, "/center/qr/getRoomQrCode.do", UrlForm::Plain, &CUrlInfo::getMucQrCodeUrl},
-    {"getMyVideoConfListUrl", "/videoconf/getmylist", cMain, "/center/vc/getMyVideoRoomList.do", UrlForm::Plain, &CUrlInfo::getMyVideoConfListUrl},
-    {"getVideoConfMembersUrl", "/videoconf/getconfmemeber", cMain, "/center/vc/getVideoRoomJoinedList.do", UrlForm::Plain, &CUrlInfo::getVideoConfMembersUrl},
-    {"getDeleteVideoConfRecordUrl", "/videoconf/deletevideoconf", cMain, "/center/vc/deleteMyVideoRoom.do", UrlForm::Plain, &CUrlInfo::getDeleteVideoConfRecordUrl},
-
-    // Social feed, notices, votes, favourites
-    {"getPublishDynamicUrl", "/dynamic/publishdynamic", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPublishDynamicUrl},
-    {"getDeleteDynamicUrl", "/dynamic/deletedynamic", cNowhere, "", UrlForm::Plain, &CUrlInfo::getDeleteDynamicUrl},
-    {"getGetDynamicUrl", "/dynamic/getdynamic", cNowhere, "", UrlForm::Plain, &CUrlInfo::getGetDynamicUrl},
-    {"getGetTopicDynamicUrl", "/dynamic/gettopicdynamic", cNowhere, "", UrlForm::Plain, &CUrlInfo::getGetTopicDynamicUrl},
-    {"getGetTopicListUrl", "/dynamic/gettopiclist", cNowhere, "", UrlForm::Plain, &CUrlInfo::getGetTopicListUrl},
-    {"getUpdateCommentCountUrl", "/dynamic/updatecommentcount", cNowhere, "", UrlForm::Plain, &CUrlInfo::getUpdateCommentCountUrl},
-    {"getCommentDynamicUrl", "/dynamic/commentdynamic", cNowhere, "", UrlForm::Plain, &CUrlInfo::getCommentDynamicUrl},
-    {"getDeleteCommentUrl", "/dynamic/deletecomment", cNowhere, "", UrlForm::Plain, &CUrlInfo::getDeleteCommentUrl},
-    {"getPraiseDynamicUrl", "/dynamic/praisedynamic", cNowhere, "", UrlForm::Plain, &CUrlInfo::getPraiseDynamicUrl},
-    {"getCancelPraiseUrl", "/dynamic/cancelpraise", cNowhere, "", UrlForm::Plain, &CUrlInfo::getCancelPraiseUrl},
-    {"getGetNoticeCountUrl", "/dynamic/getnoticecount", cMain, "/center/notice/getCount.do", UrlForm::Plain, &CUrlInfo::getGetNoticeCountUrl},
-    {"getClearNoticeUrl", "/dynamic/clearnotice", cNowhere, "", UrlForm::Plain, &CUrlInfo::getClearNoticeUrl},
-    {"getGetNoticeContentUrl", "/dynamic/getnoticecontent", cNowhere, "", UrlForm::Plain, &CUrlInfo::getGetNoticeContentUrl},
-    {"getGetCommentcontentUrl", "/dynamic/getcommentcontent", cNowhere, "", UrlForm::Plain, &CUrlInfo::getGetCommentcontentUrl},
-    {"getGetClassListUrl", "/dynamic/getclasslist", cNowhere, "", UrlForm::Plain, &CUrlInfo::getGetClassListUrl},
-    {"getGetTopiclistByIdUrl", "/dynamic/gettopiclistbyid", cNowhere, "", UrlForm::Plain, &CUrlInfo::getGetTopiclistByIdUrl},
-    {"getSearchTopicUrl", "/dynamic/searchtopic", cNowhere, "", UrlForm::Plain, &CUrlInfo::getSearchTopicUrl},
-    {"getLatestTopicUrl", "/dynamic/latesttopic", cNowhere, "", UrlForm::Plain, &CUrlInfo::getLatestTopicUrl},
-    {"getDynamicByIdUrl", "/dynamic/showbyid", cNowhere, "", UrlForm::Plain, &CUrlInfo::getDynamicByIdUrl},
-    {"getHomeTimelineUrl", "/dynamic/homeTimeline", cMain, "/center/user/getEmails.do", UrlForm::Plain, &CUrlInfo::getHomeTimelineUrl},
-    {"getSquareListUrl", "/dynamic/getSquareList", cMain, "/center/status/getSquareStatus.do", UrlForm::Plain, &CUrlInfo::getSquareListUrl},
-    {"getHotTopicsUrl", "/dynamic/getHotTopics", cMain, "/center/topic/getHotTopics.do", UrlForm::Plain, &CUrlInfo::getHotTopicsUrl},
-    {"getHotStatus", "/dynamic/getHotStatus", cMain, "/center/status/getHotStatus.do", UrlForm::Plain, &CUrlInfo::getHotStatus},
-    {"getLatestStatusId", "/dynamic/getLatestStatusId", cMain, "/center/status/getSquareLatestStatusId.do", UrlForm::Plain, &CUrlInfo::getLatestStatusId},
-    {"getForumEssenseStatusUrl", "/dynamic/getForumEssenseStatus", cMain, "/center/status/getEssenseStatus.do", UrlForm::Plain, &CUrlInfo::getForumEssenseStatusUrl},
-    {"setForumTopUrl", "/dynamic/setForumTop", cMain, "/center/status/top.do", UrlForm::Plain, &CUrlInfo::setForumTopUrl},
-    {"setForumEssenseUrl", "/dynamic/setForumEssense", cMain, "/center/status/doEssense.do", UrlForm::Plain, &CUrlInfo::setForumEssenseUrl},
-    {"addForumBlackListUrl", "/dynamic/addForumBlackList", cMain, "/center/status/addBlackList.do", UrlForm::Plain, &CUrlInfo::addForumBlackListUrl},
-    {"queryForumAdminUrl", "/dynamic/queryForumAdmin", cMain, "/center/topic/queryAdmin.do", UrlForm::Plain, &CUrlInfo::queryForumAdminUrl},
-    {"getAnnounceNoticeUrl", "/Notice/announceNotice", cNowhere, "", UrlForm::Plain, &CUrlInfo::getAnnounceNoticeUrl},
-    {"getEditNoticeUrl", "/Notice/editNotice", cNowhere, "", UrlForm::Plain, &CUrlInfo::getEditNoticeUrl},
-    {"getGetNoticesUrl", "/Notice/getNotices", cNowhere, "", UrlForm::Plain, &CUrlInfo::getGetNoticesUrl},
-    {"getDeleteNoticeUrl", "/Notice/deleteNotice", cNowhere, "", UrlForm::Plain, &CUrlInfo::getDeleteNoticeUrl},
-    {"getCreateVoteUrl", "/vote/createVote", cMain, "/center/vote/createVote.do", UrlForm::Plain, &CUrlInfo::getCreateVoteUrl},
-    {"getRemoveVoteUrl", "/vote/removeVote", cMain, "/center/vote/removeVote.do", UrlForm::Plain, &CUrlInfo::getRemoveVoteUrl},
-    {"getVotelistUrl", "/vote/getVotelist", cMain, "/center/vote/getVotelistByDetail.do", UrlForm::Plain, &CUrlInfo::getVotelistUrl},
-    {"getVoteInfoUrl", "/vote/getVoteInfo", cMain, "/center/vote/getVoteInfo.do", UrlForm::Plain, &CUrlInfo::getVoteInfoUrl},
-    {"getSendVoteResultUrl", "/vote/sendVoteResult", cMain, "/center/vote/sendVoteResult.do", UrlForm::Plain, &CUrlInfo::getSendVoteResultUrl},
-    {"getQueryVoteStatusUrl", "/vote/queryVoteStatus", cMain, "/center/vote/queryVoteStatus.do", UrlForm::Plain, &CUrlInfo::getQueryVoteStatusUrl},
-    {"getQueryVoteUserUrl", "/vote/queryVoteUser", cMainInternal, "/center/vote/queryVoteUser.do", UrlForm::Plain, &CUrlInfo::getQueryVoteUserUrl},
-    {"getReminderUrl", "/remindermsg/getReminder", cMain, "/center/reminder/getReminder.do", UrlForm::Plain, &CUrlInfo::getReminderUrl},
-    {"getFavoriteListUrl", "/favorite/getlisturl", cMain, "/center/favorites/getFavoriteList.do", UrlForm::Cached, &CUrlInfo::getFavoriteListUrl},
-    {"getRemoveFavoriteUrl", "/favorite/removeUrl", cMain, "/center/favorites/removeFavorite.do", UrlForm::Cached, &CUrlInfo::getRemoveFavoriteUrl},
-    {"getAddFavoriteUrl", "/favorite/addUrl", cMain, "/center/favorites/addFavorite.do", UrlForm::Cached, &CUrlInfo::getAddFavoriteUrl},
-
-    // Public accounts, applications, service numbers, agents
-    {"SearchSubedUrl", "/publicaccount/searchsubedurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::SearchSubedUrl},
-    {"SearchPubAccUrl", "/publicaccount/searchpubaccurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::SearchPubAccUrl},
-    {"GetPubAccDetailUrl", "/publicaccount/getpubaccdetailurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::GetPubAccDetailUrl},
-    {"GetPubMsgUrl", "/publicaccount/getpubmsgurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::GetPubMsgUrl},
-    {"GetPubMsgDetailUrl", "/publicaccount/getpubmsgdetailurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::GetPubMsgDetailUrl},
-    {"GetMsgSummaryUrl", "/publicaccount/getpubmsgsummaryurl", cNowhere, "", UrlForm::Plain, &CUrlInfo::GetMsgSummaryUrl},
-    {"getApplicationListUrl", "/ApplicationCenter/list", cMain, "/center/iapp/listApps.do", UrlForm::Plain, &CUrlInfo::getApplicationListUrl},
-    {"subApplicationUrl", "/ApplicationCenter/sub", cMain, "/center/iapp/subApp.do", UrlForm::Plain, &CUrlInfo::subApplicationUrl},
-    {"getApplicationInfoUrl", "/ApplicationCenter/getinfo", cMainInternal, "/center/iapp/getAppInfo.do", UrlForm::Plain, &CUrlInfo::getApplicationInfoUrl},
-    {"unSubApplicationUrl", "/ApplicationCenter/unsub", cMain, "/center/iapp/unsubApp.do", UrlForm::Plain, &CUrlInfo::unSubApplicationUrl},
-    {"myApplicationUrl", "/ApplicationCenter/myApplicationUrl", cMain, "/center/iapp/myAppsByPC.do", UrlForm::Plain, &CUrlInfo::myApplicationUrl},
-    {"searchServiceNumUrl", "/servicenum/searchServiceNumUrl", cMain, "/center/isrv/listIsrv.do", UrlForm::Plain, &CUrlInfo::searchServiceNumUrl},
-    {"subServiceNumUrl", "/servicenum/subServiceNumUrl", cMain, "/center/iapp/subApp.do", UrlForm::Plain, &CUrlInfo::subServiceNumUrl},
-    {"cancelServiceNumUrl", "/servicenum/cancelServiceNumUrl", cMain, "/center/iapp/unsubApp.do", UrlForm::Plain, &CUrlInfo::cancelServiceNumUrl},
-    {"myServiceNumUrl", "/servicenum/myServiceNumUrl", cMain, "/center/isrv/myIsrv.do", UrlForm::Plain, &CUrlInfo::myServiceNumUrl},
-    {"getServiceNumInfoUrl", "/servicenum/getServiceNumInfoUrl", cMain, "/center/isrv/getIsrvInfo.do", UrlForm::Plain, &CUrlInfo::getServiceNumInfoUrl},
-    {"getServiceNumInfoListUrl", "/servicenum/getServiceNumInfoListUrl", cMain, "/center/isrv/getIsrvByCodes.do", UrlForm::Plain, &CUrlInfo::getServiceNumInfoListUrl},
-    {"getServiceNoRecordUrl", "/servicenum/getServiceNoRecordUrl", cMain, "/center/isrvHis/pcMsg.do", UrlForm::Plain, &CUrlInfo::getServiceNoRecordUrl},
-    {"getAgentQuickRepliesUrl", "/agent/getAgentQuickReplies", cMain, "/center/agent/getAgentQuickReplies.do", UrlForm::Plain, &CUrlInfo::getAgentQuickRepliesUrl},
-    {"getChannelQuickRepliesUrl", "/agent/getChannelQuickReplies", cMain, "/center/agent/getChannelQuickReplies.do", UrlForm::Plain, &CUrlInfo::getChannelQuickRepliesUrl},
-    {"addAgentQuickReplyUrl", "/agent/addAgentQuickReply", cMain, "/center/agent/addAgentQuickReply.do", UrlForm::Plain, &CUrlInfo::addAgentQuickReplyUrl},
-    {"updateAgentQuickReplyUrl", "/agent/updateAgentQuickReply", cMain, "/center/agent/updateAgentQuickReply.do", UrlForm::Plain, &CUrlInfo::updateAgentQuickReplyUrl},
-    {"deleteAgentQuickReplyUrl", "/agent/deleteAgentQuickReply", cMain, "/center/agent/deleteAgentQuickReply.do", UrlForm::Plain, &CUrlInfo::deleteAgentQuickReplyUrl},
-    {"getCommentAgentSessionUrl", "/agent/commentAgentSession", cMain, "/center/agent/commentAgentSession.do", UrlForm::Plain, &CUrlInfo::getCommentAgentSessionUrl},
-    {"getChatSumListUrl", "/agent/getChannelSummaryTypeList", cMain, "/center/agent/getChannelSummaryTypeList.do", UrlForm::Plain, &CUrlInfo::getChatSumListUrl},
-    {"getReportChatSumUrl", "/agent/reportSessionSummary", cMain, "/center/agent/reportSessionSummary.do", UrlForm::Plain, &CUrlInfo::getReportChatSumUrl},
-    {"getCustomerPlatUrl", "/agent/customerPlat", cAgentPlatform, "/imcsp-web", UrlForm::Plain, &CUrlInfo::getCustomerPlatUrl},
-
-    // Virtual teams
-    {"getMyVirtualTeamUrl", "/virtualTeam/getMyVirtualTeamUrl", cMain, "/center/vt/getAllVirtualTeam.do", UrlForm::Plain, &CUrlInfo::getMyVirtualTeamUrl},
-    {"getSearchVirtualTeamMemberUrl", "/virtualTeam/searchVirtualTeamMemberUrl", cMain, "/center/vt/searchMember.do", UrlForm::Plain, &CUrlInfo::getSearchVirtualTeamMemberUrl},
-    {"getCreatVirtualTeamUrl", "/virtualTeam/getCreatVirtualTeamUrl", cMain, "/center/vt/createVirtualTeam.do", UrlForm::Plain, &CUrlInfo::getCreatVirtualTeamUrl},
-    {"inviteVirtualTeamUrl", "/virtualTeam/inviteVirtualTeamUrl", cMain, "/center/vt/inviteVirtualTeam.do", UrlForm::Plain, &CUrlInfo::inviteVirtualTeamUrl},
-    {"getAuditingVirtualTeamUrl", "/virtualTeam/auditingVirtualTeamUrl", cMain, "/center/vt/auditVirtualTeam.do", UrlForm::Plain, &CUrlInfo::getAuditingVirtualTeamUrl},
-    {"getVirtualTeamCreatDetailUrl", "/virtualTeam/getVirtualTeamCreatDetailUrl", cMain, "/center/vt/auditVirtualTeamDetail.do", UrlForm::Plain, &CUrlInfo::getVirtualTeamCreatDetailUrl},
-    {"getVirtualTeamJoinDetailUrl", "/virtualTeam/getVirtualTeamJoinDetailUrl", cMain, "/center/vt/joinVirtualTeamStatus.do", UrlForm::Plain, &CUrlInfo::getVirtualTeamJoinDetailUrl},
-    {"responseJoinVirtualTeamRequestUrl", "/virtualTeam/responseJoinVirtualTeamRequestUrl", cMain, "/center/vt/confirmJoinVirtualTeam.do", UrlForm::Plain, &CUrlInfo::responseJoinVirtualTeamRequestUrl},
-    {"getVirtualTeamStructureUrl", "/virtualTeam/getVirtualTeamStructureUrl", cMain, "/center/vt/getVirtualTeamGroup.do", UrlForm::Plain, &CUrlInfo::getVirtualTeamStructureUrl},
-    {"deleteVirtualTeamMemberUrl", "/virtualTeam/deleteVirtualTeamMemberUrl", cMain, "/center/vt/deleteVirtualTeamMember.do", UrlForm::Plain, &CUrlInfo::deleteVirtualTeamMemberUrl},
-    {"modifyVirtualTeamNameUrl", "/virtualTeam/modifyVirtualTeamNameUrl", cMain, "/center/vt/modifyVirtualTeamInfo.do", UrlForm::Plain, &CUrlInfo::modifyVirtualTeamNameUrl},
-    {"modifyVirtualTeamPersonalInfoUrl", "/virtualTeam/modifyVirtualTeamPersonalInfoUrl", cMain, "/center/vt/modifyVirtualTeamMemberInfo.do", UrlForm::Plain, &CUrlInfo::modifyVirtualTeamPersonalInfoUrl},
-    {"dissolveVirtualTeamUrl", "/virtualTeam/dissolveVirtualTeamUrl", cMain, "/center/vt/dissolveVirtualTeam.do", UrlForm::Plain, &CUrlInfo::dissolveVirtualTeamUrl},
-    {"quitVirtualTeamUrl", "/virtualTeam/quitVirtualTeamUrl", cMain, "/center/vt/quitVirtualTeam.do", UrlForm::Plain, &CUrlInfo::quitVirtualTeamUrl},
-    {"addVirtualTeamMembersUrl", "/virtualTeam/addVirtualTeamMembersUrl", cMain, "/center/vt/batchAddVirtualTeamMember.do", UrlForm::Plain, &CUrlInfo::addVirtualTeamMembersUrl},
-    {"grantVirtualTeamAuthorityUrl", "/virtualTeam/grantVirtualTeamAuthorityUrl", cMain, "/center/vt/grantVirtualTeamAuthority.do", UrlForm::Plain, &CUrlInfo::grantVirtualTeamAuthorityUrl},
-    {"fuzzySearchVirtualTeamMemberUrl", "/virtualTeam/fuzzySearchVirtualTeamMemberUrl", cMain, "/center/vt/fuzzySearchVirtualTeamMember.do", UrlForm::Plain, &CUrlInfo::fuzzySearchVirtualTeamMemberUrl},
-    {"modifyVirtualTeamGroupUrl", "/virtualTeam/modifyVirtualTeamGroupUrl", cMain, "/center/vt/modifyVirtualTeamGroup.do", UrlForm::Plain, &CUrlInfo::modifyVirtualTeamGroupUrl},
-    {"addVirtualTeamGroupUrl", "/virtualTeam/addVirtualTeamGroupUrl", cMain, "/center/vt/addVirtualTeamGroup.do", UrlForm::Plain, &CUrlInfo::addVirtualTeamGroupUrl},
-    {"deleteVirtualTeamGroupUrl", "/virtualTeam/deleteVirtualTeamGroupUrl", cMain, "/center/vt/deleteVirtualTeamGroup.do", UrlForm::Plain, &CUrlInfo::deleteVirtualTeamGroupUrl},
-    {"transferVirtualTeamMemberUrl", "/virtualTeam/transferVirtualTeamMemberUrl", cMain, "/center/vt/transferVirtualTeamMember.do", UrlForm::Plain, &CUrlInfo::transferVirtualTeamMemberUrl},
+    /// The base address of each service.
+    QHash<QString, QString> m_bases;
+    std::vector<ExpectedUrl> m_urls;
 };
-// clang-format on
 
 } // namespace
 
-std::vector<ExpectedUrl> expectedUrls()
+const std::vector<ExpectedUrl> &expectedUrls()
 {
-    return {std::begin(cExpectedUrls), std::end(cExpectedUrls)};
+    static const std::vector<ExpectedUrl> s_urls = [] {
+        QFile document(VOIP_ADDRESS_DOCUMENT);
+        if (!document.open(QIODevice::ReadOnly)) {
+            qFatal("%s cannot be read.", VOIP_ADDRESS_DOCUMENT);
+        }
+        DocumentReader reader;
+        for (const QString &line : QString::fromUtf8(document.readAll()).split('\n')) {
+            reader.read(line);
+        }
+        return reader.take();
+    }();
+    return s_urls;
 }
 
 QStringList everyAnswer()

@@ -1,5 +1,6 @@
 #pragma once
-// The addresses as the client's other plug-ins expect them, written out apart from the list that the getters come from.
+// The addresses as docs/server-addresses.md tells them to those who run the client, apart from the list that the
+// getters come from.
 
 #include "common/CUrlInfo.h"
 
@@ -15,14 +16,11 @@ enum class UrlForm
 
 struct ExpectedUrl
 {
-    const char *name;
-    const char *key;
-    const char *base;
-    const char *path;
+    QByteArray name;
+    QString key;
+    QString defaultValue;
     UrlForm form;
     std::variant<QString (*)(), QString (*)(const QString &)> getter;
-
-    QString defaultValue() const { return QString::fromLatin1(base) + path; }
 
     /// The getter's answer; `text` goes to one of the form Arg.
     QString ask(const QString &text = {}) const
@@ -31,8 +29,8 @@ struct ExpectedUrl
     }
 };
 
-/// All of them, in no order that matters.
-std::vector<ExpectedUrl> expectedUrls();
+/// All of them, in the document's order. A row that cannot be understood ends the test.
+const std::vector<ExpectedUrl> &expectedUrls();
 
 /// What each of them answers now, in the same order; those of the form Arg to "group 7".
 QStringList everyAnswer();

@@ -26,9 +26,9 @@ template <typename Value>
 QByteArray fileWithEveryKey(Value value)
 {
     QMap<QString, QString> sections;
-    const std::vector<ExpectedUrl> rows = expectedUrls();
+    const std::vector<ExpectedUrl> &rows = expectedUrls();
     for (size_t i = 0; i < rows.size(); ++i) {
-        QStringList parts = QString(rows[i].key).split('/');
+        QStringList parts = rows[i].key.split('/');
         parts.removeAll(QString());
         sections[parts.at(0)] += parts.at(1) + "=" + value(rows[i], i) + "\n";
     }
@@ -64,7 +64,7 @@ class tst_CUrlInfo : public QObject
 private slots:
     void theListHasEveryGetterWithItsKeyAndForm()
     {
-        const std::vector<ExpectedUrl> rows = expectedUrls();
+        const std::vector<ExpectedUrl> &rows = expectedUrls();
         QCOMPARE(static_cast<int>(rows.size()), cGetters);
         QMap<QString, QPair<QString, QString>> listed;
         int count = 0;
@@ -78,7 +78,7 @@ private slots:
         int withText = 0;
         for (const ExpectedUrl &row : rows) {
             QVERIFY2(listed.contains(row.name), row.name);
-            QCOMPARE(listed.value(row.name).first, QString(row.key));
+            QCOMPARE(listed.value(row.name).first, row.key);
             QVERIFY2(isForm(listed.value(row.name).second, row.form), row.name);
             cached += row.form == UrlForm::Cached ? 1 : 0;
             withText += row.form == UrlForm::Arg ? 1 : 0;
@@ -113,7 +113,7 @@ private slots:
         IN_A_CLIENT_WITH(file)
         for (const ExpectedUrl &row : expectedUrls()) {
             const QString answer = row.ask("group 7");
-            QVERIFY2(answer == row.defaultValue(), qPrintable(row.name + (": " + answer)));
+            QVERIFY2(answer == row.defaultValue, qPrintable(row.name + (": " + answer)));
         }
     }
 
@@ -129,7 +129,7 @@ private slots:
         QFETCH(QString, quote);
         IN_A_CLIENT_WITH(fileWithEveryKey(
             [&quote](const ExpectedUrl &row, size_t number) { return quote + setEntry(row, number) + quote; }))
-        const std::vector<ExpectedUrl> rows = expectedUrls();
+        const std::vector<ExpectedUrl> &rows = expectedUrls();
         for (size_t i = 0; i < rows.size(); ++i) {
             const QString answer = rows[i].ask("group 7");
             QVERIFY2(answer == setAnswer(rows[i], i), qPrintable(rows[i].name + (": " + answer)));
@@ -151,7 +151,7 @@ private slots:
         QVERIFY(writeFile(addressFile(),
                           fileWithEveryKey([](const ExpectedUrl &, size_t) { return QString("http://new.example"); })));
         CSettingsManager::instance()->getUrlSettings()->sync();
-        const std::vector<ExpectedUrl> rows = expectedUrls();
+        const std::vector<ExpectedUrl> &rows = expectedUrls();
         for (size_t i = 0; i < rows.size(); ++i) {
             const QString expected =
                 rows[i].form == UrlForm::Cached ? before.at(static_cast<int>(i)) : QString("http://new.example");
@@ -237,7 +237,7 @@ private slots:
     {
         IN_A_CLIENT_WITH(fileWithEveryKey(setEntry))
         QStringList expected;
-        const std::vector<ExpectedUrl> rows = expectedUrls();
+        const std::vector<ExpectedUrl> &rows = expectedUrls();
         for (size_t i = 0; i < rows.size(); ++i) {
             expected << setAnswer(rows[i], i);
         }
