@@ -22,7 +22,10 @@ bool isAscii(QLatin1String text)
     return std::all_of(text.begin(), text.end(), [](char character) { return (character & 0x80) == 0; });
 }
 
-/// Whether a number comes out of the stream as plain digits, as it does until someone sets the stream otherwise.
+/// Whether a number comes out of the stream as plain digits, as it does until someone sets the stream otherwise. The
+/// stream is public and a record's text is what it would write, so each setting that changes a number's text is looked
+/// at: base, sign and prefix, padding, the locale's digits and groups. All of them together cost a small part of what
+/// the stream takes for one number.
 bool writesPlainDigits(const QTextStream &stream)
 {
     static const QLocale s_plain = QLocale::c();
