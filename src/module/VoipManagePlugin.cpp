@@ -1,6 +1,7 @@
 #include "plugin/VoipManagePlugin.h"
 
 #include "model/SharedContext.h"
+#include "module/HostCommandTable.h"
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 
@@ -19,6 +20,8 @@ qint64 VoipManagePlugin::getWindowHandle(QWidget *parent)
 
 QObject *VoipManagePlugin::getReceiveEventHandle()
 {
+    // A host has no other way to the mailbox, so the commands are known before it can give one.
+    enterHostCommands();
     return VoipManageMessageProcess::instance();
 }
 

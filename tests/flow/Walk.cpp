@@ -2,7 +2,7 @@
 
 #include "fakes/Patience.h"
 #include "plugin/PluginIds.h"
-#include "plugin/VoipManageMessageProcess.h"
+#include "plugin/VoipManagePlugin.h"
 #include "ui/VoipWidget.h"
 
 #include <QCoreApplication>
@@ -66,7 +66,7 @@ template <class... Fields>
 QByteArray Walk::command(EMsgId id, const Fields &...fields)
 {
     BaseEvent event(id, sessionPluginId(), voipPluginId(), false, packPayload(fields...));
-    QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &event);
+    QCoreApplication::sendEvent(VoipManagePlugin().getReceiveEventHandle(), &event);
     return event.data;
 }
 
