@@ -7,9 +7,7 @@
 #include "common/CLogManger.h"
 #include "common/pictures/IconGlyphs.h"
 #include "common/text/TimeText.h"
-#include "model/FriendData.h"
 #include "model/UserIds.h"
-#include "plugin/VoipManageEventProcess.h"
 #include "ui/ShownContact.h"
 #include "widgets/ErrorMessage.h"
 
@@ -108,17 +106,16 @@ void CVoipWidget::showConference()
 
 void CVoipWidget::showPeer()
 {
-    const FriendData peer = VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(m_strPeerUid));
-    const QString strShownName = showPeerCard(peer.m_vcardInfo);
+    const ShownContact peer = ShownContact::ofUser(m_strPeerUid);
+    const QString strShownName = showPeerCard(peer.record.m_vcardInfo, peer.strHeadPath);
     ui->lblStatus->setText(m_bIsMyCall ? QStringLiteral("正在呼叫...") : QStringLiteral("正在连接..."));
     showPeerTitle(strShownName);
     ui->btnMuteAll->hide();
 }
 
-QString CVoipWidget::showPeerCard(const VcardInfo &vcard)
+QString CVoipWidget::showPeerCard(const VcardInfo &vcard, const QString &strPhotoPath)
 {
     QString strShownName = cardName(vcard);
-    const QString strPhotoPath = ShownContact::headPathOf(vcard);
     LOG_DEBUG << "voip userName=" << strShownName << "\n";
     LOG_DEBUG << "voip photourl = " << strPhotoPath << "\n";
     ui->lblPhotoIcon->setHeadPictrue(strPhotoPath);
@@ -202,7 +199,7 @@ void CVoipWidget::updateUserInfo(QString strJid, VcardInfo vcard)
     if (strJid != UserIds::getJidByUid(m_strPeerUid)) {
         return;
     }
-    showPeerTitle(showPeerCard(vcard));
+    showPeerTitle(showPeerCard(vcard, ShownContact::headPathOf(vcard)));
 }
 
 void CVoipWidget::SetMicButton(bool bMute)

@@ -198,7 +198,7 @@ private:
     void connectConferenceControls();
     void showConference();
     void showPeer();
-    QString showPeerCard(const VcardInfo &vcard);
+    QString showPeerCard(const VcardInfo &vcard, const QString &strPhotoPath);
     void showPeerTitle(const QString &strShownName);
     void refreshMemberCount();
     bool askToEndTheCall();
