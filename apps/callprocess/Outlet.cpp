@@ -10,7 +10,7 @@ Outlet::Outlet(Channel &channel, Trace &trace, double speed) : m_channel(channel
 
 void Outlet::notify(Wire::Code code, const QString &content)
 {
-    m_channel.write(notificationLine(static_cast<int>(code), content));
+    m_channel.write(notificationLine(code, content));
 }
 
 void Outlet::note(const QString &text)

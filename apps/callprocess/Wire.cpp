@@ -115,6 +115,11 @@ QString shapeFault(const Command &command)
     return {};
 }
 
+QByteArray notificationLine(Wire::Code code, const QString &content)
+{
+    return notificationLine(static_cast<int>(code), content);
+}
+
 QByteArray notificationLine(int code, const QString &content)
 {
     const QJsonObject object{{QStringLiteral("resultCode"), code}, {QStringLiteral("content"), content}};

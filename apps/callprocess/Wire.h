@@ -45,4 +45,7 @@ std::optional<Command> parseCommand(const QByteArray &line, QString *reason);
 QString shapeFault(const Command &command);
 
 /// One notification as a whole line with its line feed.
+QByteArray notificationLine(Wire::Code code, const QString &content);
+
+/// The same for any number, also one that no notification has.
 QByteArray notificationLine(int code, const QString &content);

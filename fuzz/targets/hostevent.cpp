@@ -6,6 +6,7 @@
 #include "plugin/HostEvents.h"
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
+#include "wire/Notifications.h"
 
 #include <QDataStream>
 
@@ -103,7 +104,7 @@ void deliver(EngineBench &bench, int place, uchar choices, const QByteArray &pay
         return;
     }
     if (choices & CallComesIn) {
-        bench.manager->callbackMessage(0, QStringLiteral("anna"));
+        bench.manager->callbackMessage(int(Wire::Code::IncomingCall), QStringLiteral("anna"));
     }
     if (isAllowed(command, bench)) {
         sendToPlugin(command, choices, payload);

@@ -18,6 +18,8 @@
 #include <memory>
 #include <sys/stat.h>
 
+using Wire::Code;
+
 namespace {
 
 const char *const cOpening = "# Recorded by kelvarim-callcheck.\n"
@@ -140,9 +142,9 @@ private slots:
         run.start();
         QVERIFY(run.connectClient());
         run.say(registration());
-        QCOMPARE(run.hear(), notificationLine(17, "true"));
+        QCOMPARE(run.hear(), notificationLine(Code::SdkFlag, "true"));
         run.say(commandLine("CallUser", {"30010001", false}));
-        QCOMPARE(run.hear(), notificationLine(18, ""));
+        QCOMPARE(run.hear(), notificationLine(Code::CallConnected, ""));
         run.say(commandLine("HangUpCall", {}) + "quit\n");
         QCOMPARE(run.exitCode(), 0);
         QCOMPARE(run.steps(), cRegistered + "send 17 true\nexpect CallUser param1=30010001 param2=false\n"
@@ -184,7 +186,7 @@ private slots:
         run.start();
         QVERIFY(run.connectClient());
         run.say(registration());
-        const QByteArray busy = notificationLine(22, "");
+        const QByteArray busy = notificationLine(Code::PeerBusy, "");
         QCOMPARE(run.hear(), busy.left(10));
         QCOMPARE(run.hear(), busy.mid(10));
         QCOMPARE(run.hear(), QByteArray("\xFF\0no json\n", 10));
@@ -192,8 +194,8 @@ private slots:
         while (!log.endsWith('\n')) {
             log += run.hear();
         }
-        QCOMPARE(log, notificationLine(999, long_));
-        QCOMPARE(run.hear(), notificationLine(18, "") + notificationLine(8, ""));
+        QCOMPARE(log, notificationLine(Code::SdkLog, long_));
+        QCOMPARE(run.hear(), notificationLine(Code::CallConnected, "") + notificationLine(Code::PeerHangup, ""));
         run.say(commandLine("SetMicVolume", {7}) + "qu");
         run.say("it\n");
         QCOMPARE(run.exitCode(), 0);
@@ -210,14 +212,14 @@ private slots:
         run.start();
         QVERIFY(run.connectClient());
         run.say(registration());
-        QCOMPARE(run.hear(), notificationLine(17, "true"));
+        QCOMPARE(run.hear(), notificationLine(Code::SdkFlag, "true"));
         QVERIFY(run.waitDisconnected());
         QVERIFY(run.connectClient());
         run.say(registration());
-        QCOMPARE(run.hear(), notificationLine(18, ""));
+        QCOMPARE(run.hear(), notificationLine(Code::CallConnected, ""));
         run.client->disconnectFromServer();
         QVERIFY(run.connectClient());
-        QCOMPARE(run.hear(), notificationLine(8, ""));
+        QCOMPARE(run.hear(), notificationLine(Code::PeerHangup, ""));
         run.say(commandLine("HangUpCall", {}) + "quit\n");
         QCOMPARE(run.exitCode(), 0);
         QCOMPARE(run.steps(), cRegistered + "send 17 true\ndrop\nawait-client\n" + cRegistered +
@@ -231,7 +233,7 @@ private slots:
         run.start();
         QVERIFY(run.connectClient());
         run.say(registration());
-        QCOMPARE(run.hear(), notificationLine(17, "true"));
+        QCOMPARE(run.hear(), notificationLine(Code::SdkFlag, "true"));
         QVERIFY(QTest::qWaitFor([&run] { return run.recorded().endsWith("stop-listen\n"); }, cPatienceMs));
         QLocalSocket refused;
         refused.connectToServer("VoipSDK");
@@ -240,7 +242,7 @@ private slots:
         QVERIFY(run.waitDisconnected());
         QVERIFY(run.connectClient());
         run.say(registration());
-        QCOMPARE(run.hear(), notificationLine(18, ""));
+        QCOMPARE(run.hear(), notificationLine(Code::CallConnected, ""));
         run.say("quit\n");
         QCOMPARE(run.exitCode(), 0);
         QCOMPARE(run.steps(), cRegistered + "send 17 true\nstop-listen\nexpect HangUpCall\ndrop\nrestart-listen\n" +
@@ -253,7 +255,7 @@ private slots:
         run.start();
         QVERIFY(run.connectClient());
         run.say(registration());
-        QCOMPARE(run.hear(), notificationLine(17, "true"));
+        QCOMPARE(run.hear(), notificationLine(Code::SdkFlag, "true"));
         QVERIFY(run.waitDisconnected());
         QCOMPARE(run.exitCode(), 9);
         QCOMPARE(run.steps(), cRegistered + "send 17 true\ndie\n# The call process ended with code 9.\n");
@@ -301,7 +303,7 @@ private slots:
         run.start();
         QVERIFY(run.connectClient());
         run.say(registration());
-        QCOMPARE(run.hear(), notificationLine(17, "true"));
+        QCOMPARE(run.hear(), notificationLine(Code::SdkFlag, "true"));
         run.process.terminate();
         QCOMPARE(run.exitCode(), 0);
         QVERIFY(run.waitDisconnected());
@@ -346,7 +348,7 @@ private slots:
             QCOMPARE(QFile::symLinkTarget(streams.arg(stream)), QStringLiteral("/dev/null"));
         }
         run.say(registration());
-        QCOMPARE(run.hear(), notificationLine(17, "true"));
+        QCOMPARE(run.hear(), notificationLine(Code::SdkFlag, "true"));
         run.say("quit\n");
         QCOMPARE(run.exitCode(), 0);
         QCOMPARE(run.steps(), cRegistered + "send 17 true\nexpect quit\n");

@@ -7,6 +7,8 @@
 #include <QJsonArray>
 #include <QtTest>
 
+using Wire::Code;
+
 namespace {
 
 /// What is written after the opening.
@@ -88,10 +90,10 @@ private slots:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QByteArray>("statement");
-        QTest::newRow("no content") << notificationLine(18, "") << QByteArray("send 18\n");
-        QTest::newRow("id") << notificationLine(0, "30010001") << QByteArray("send 0 30010001\n");
-        QTest::newRow("blank") << notificationLine(999, "a line") << QByteArray("send 999 'a line'\n");
-        QTest::newRow("document") << notificationLine(20, R"({"result":{"confId":"7"}})")
+        QTest::newRow("no content") << notificationLine(Code::CallConnected, "") << QByteArray("send 18\n");
+        QTest::newRow("id") << notificationLine(Code::IncomingCall, "30010001") << QByteArray("send 0 30010001\n");
+        QTest::newRow("blank") << notificationLine(Code::SdkLog, "a line") << QByteArray("send 999 'a line'\n");
+        QTest::newRow("document") << notificationLine(Code::ConfCreated, R"({"result":{"confId":"7"}})")
                                   << QByteArray("send 20 {\"result\":{\"confId\":\"7\"}}\n");
         QTest::newRow("other writing") << QByteArray("{\"resultCode\": 18, \"content\": \"\"}\n")
                                        << QByteArray("send 18\n");
@@ -120,7 +122,8 @@ private slots:
     void oneReadIsOneStatement()
     {
         Recording recording;
-        const QByteArray read = notificationLine(18, "") + "garbage\n" + notificationLine(8, "");
+        const QByteArray read =
+            notificationLine(Code::CallConnected, "") + "garbage\n" + notificationLine(Code::PeerHangup, "");
         recording.writer.written(0, read);
         QCOMPARE(recording.text, QByteArray("join {\n    send 18\n    raw \"garbage\\n\"\n    send 8\n}\n"));
         QCOMPARE(recording.scenario()->statements.constFirst().bytes, read);
@@ -129,10 +132,10 @@ private slots:
     void brokenLineIsASplit()
     {
         Recording recording;
-        const QByteArray line = notificationLine(22, "");
+        const QByteArray line = notificationLine(Code::PeerBusy, "");
         recording.writer.written(1000, line.left(10));
         recording.writer.written(1205, line.mid(10));
-        recording.writer.written(1205, notificationLine(18, ""));
+        recording.writer.written(1205, notificationLine(Code::CallConnected, ""));
         QCOMPARE(recording.text, QByteArray("wait 1s\nsplit 10 205ms 22\nsend 18\n"));
         QCOMPARE(recording.scenario()->statements.at(1).bytes, line);
     }
@@ -153,7 +156,7 @@ private slots:
     {
         Recording recording;
         for (const qint64 now : {49, 99, 560, 2060}) {
-            recording.writer.written(now, notificationLine(18, ""));
+            recording.writer.written(now, notificationLine(Code::CallConnected, ""));
         }
         recording.writer.happened(2560, "drop");
         QCOMPARE(
@@ -165,7 +168,7 @@ private slots:
     {
         Recording recording;
         recording.writer.said(5000, commandLine("AcceptCall", {}).trimmed());
-        recording.writer.written(5200, notificationLine(18, ""));
+        recording.writer.written(5200, notificationLine(Code::CallConnected, ""));
         QCOMPARE(recording.text, QByteArray("expect AcceptCall\nwait 200ms\nsend 18\n"));
     }
 
@@ -173,7 +176,7 @@ private slots:
     {
         Recording recording;
         recording.writer.said(0, "quit");
-        recording.writer.written(500, notificationLine(18, ""));
+        recording.writer.written(500, notificationLine(Code::CallConnected, ""));
         recording.writer.happened(600, "await-gone");
         recording.writer.end("It ended.");
         QCOMPARE(recording.text, QByteArray("expect quit\n# It ended.\n"));

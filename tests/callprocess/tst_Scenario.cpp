@@ -2,6 +2,8 @@
 
 #include <QtTest>
 
+using Wire::Code;
+
 namespace {
 
 Scenario good(const QByteArray &text)
@@ -58,11 +60,11 @@ private slots:
         QCOMPARE(list.at(2).commands.size(), 2);
         QCOMPARE(list.at(3).milliseconds, 1500);
         QCOMPARE(list.at(4).milliseconds, 250);
-        QCOMPARE(list.at(5).bytes, notificationLine(18, {}));
+        QCOMPARE(list.at(5).bytes, notificationLine(Code::CallConnected, {}));
         QCOMPARE(list.at(6).bytes, QByteArray("a\nb"));
         QCOMPARE(list.at(7).count, 10);
         QCOMPARE(list.at(7).milliseconds, 20);
-        QCOMPARE(list.at(7).bytes, notificationLine(0, QStringLiteral("30010001")));
+        QCOMPARE(list.at(7).bytes, notificationLine(Code::IncomingCall, QStringLiteral("30010001")));
         QCOMPARE(list.at(9).milliseconds, 2000);
         QCOMPARE(list.at(9).line, 13);
         QCOMPARE(list.at(10).count, 3);
@@ -74,9 +76,9 @@ private slots:
         const Scenario scenario =
             good("# a comment\n\n   \t\r\nsend 999 a#b # behind\n  # indented\nsend 999 \"# text\"");
         QCOMPARE(scenario.statements.size(), 2);
-        QCOMPARE(scenario.statements.at(0).bytes, notificationLine(999, QStringLiteral("a#b")));
+        QCOMPARE(scenario.statements.at(0).bytes, notificationLine(Code::SdkLog, QStringLiteral("a#b")));
         QCOMPARE(scenario.statements.at(0).line, 4);
-        QCOMPARE(scenario.statements.at(1).bytes, notificationLine(999, QStringLiteral("# text")));
+        QCOMPARE(scenario.statements.at(1).bytes, notificationLine(Code::SdkLog, QStringLiteral("# text")));
     }
 
     void quotesAndEscapes()
@@ -94,15 +96,15 @@ private slots:
         const Scenario scenario = good("send 999 \"呼\\0叫\"\n");
         QCOMPARE(scenario.statements.size(), 1);
         QCOMPARE(scenario.statements.at(0).bytes,
-                 notificationLine(999, QStringLiteral("呼") + QChar(0) + QStringLiteral("叫")));
+                 notificationLine(Code::SdkLog, QStringLiteral("呼") + QChar(0) + QStringLiteral("叫")));
     }
 
     void joinGathersItsLines()
     {
         const Scenario scenario = good("join {\n send 18\n raw x\n send 8 y\n}\n");
         QCOMPARE(scenario.statements.size(), 1);
-        QCOMPARE(scenario.statements.at(0).bytes,
-                 notificationLine(18, {}) + "x" + notificationLine(8, QStringLiteral("y")));
+        QCOMPARE(scenario.statements.at(0).bytes, notificationLine(Code::CallConnected, {}) + "x" +
+                                                      notificationLine(Code::PeerHangup, QStringLiteral("y")));
     }
 
     void joinTakesNothingButSendAndRaw_data()

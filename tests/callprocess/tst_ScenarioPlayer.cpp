@@ -6,6 +6,8 @@
 
 #include <QtTest>
 
+using Wire::Code;
+
 class tst_ScenarioPlayer : public CallProcessTest
 {
     Q_OBJECT
@@ -130,7 +132,7 @@ private slots:
         peer.startScenario("await-client\nrepeat 100 {\n send 999 same\n}\n");
         QVERIFY(peer.connectClient());
         for (int i = 0; i < 100; ++i) {
-            QCOMPARE(peer.nextRead(), notificationLine(999, QStringLiteral("same")));
+            QCOMPARE(peer.nextRead(), notificationLine(Code::SdkLog, QStringLiteral("same")));
         }
     }
 
@@ -139,7 +141,8 @@ private slots:
         CallProcess peer;
         peer.startScenario("await-client\njoin {\n send 18\n raw \"x\\n\"\n send 8\n}\n");
         QVERIFY(peer.connectClient());
-        QCOMPARE(peer.nextRead(), notificationLine(18, {}) + "x\n" + notificationLine(8, {}));
+        QCOMPARE(peer.nextRead(),
+                 notificationLine(Code::CallConnected, {}) + "x\n" + notificationLine(Code::PeerHangup, {}));
         QVERIFY(peer.waitTrace(
             QStringLiteral("> {\"content\":\"\",\"resultCode\":18}␊x␊{\"content\":\"\",\"resultCode\":8}")));
     }
@@ -149,10 +152,10 @@ private slots:
         CallProcess peer;
         peer.startScenario("await-client\nsplit 10 20ms 22\nsend 18\n");
         QVERIFY(peer.connectClient());
-        const QByteArray line = notificationLine(22, {});
+        const QByteArray line = notificationLine(Code::PeerBusy, {});
         QCOMPARE(peer.nextRead(), line.left(10));
         QCOMPARE(peer.nextRead(), line.mid(10));
-        QCOMPARE(peer.nextRead(), notificationLine(18, {}));
+        QCOMPARE(peer.nextRead(), notificationLine(Code::CallConnected, {}));
         QVERIFY(peer.waitTrace(QStringLiteral("> {\"content\"…")));
     }
 

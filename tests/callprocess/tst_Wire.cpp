@@ -5,6 +5,8 @@
 
 #include <QtTest>
 
+using Wire::Code;
+
 class tst_Wire : public QObject
 {
     Q_OBJECT
@@ -95,14 +97,14 @@ private slots:
 
     void notificationIsOneCompactLine()
     {
-        QCOMPARE(notificationLine(22, {}), QByteArray("{\"content\":\"\",\"resultCode\":22}\n"));
-        QCOMPARE(notificationLine(999, QStringLiteral("a\nb")),
+        QCOMPARE(notificationLine(Code::PeerBusy, {}), QByteArray("{\"content\":\"\",\"resultCode\":22}\n"));
+        QCOMPARE(notificationLine(Code::SdkLog, QStringLiteral("a\nb")),
                  QByteArray("{\"content\":\"a\\nb\",\"resultCode\":999}\n"));
     }
 
     void nonAsciiContentIsUtf8()
     {
-        const QByteArray line = notificationLine(999, QStringLiteral("呼叫"));
+        const QByteArray line = notificationLine(Code::SdkLog, QStringLiteral("呼叫"));
         QVERIFY(line.contains("\xE5\x91\xBC\xE5\x8F\xAB"));
     }
 

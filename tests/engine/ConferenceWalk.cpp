@@ -69,7 +69,7 @@ void ConferenceWalk::line(int code, const QString &content)
     engine.manager->recevieVoipMessage(QString::fromUtf8(FakeCallProcess::line(code, content)));
 }
 
-void ConferenceWalk::document(int code)
+void ConferenceWalk::document(Code code)
 {
     const QString conf = someConf();
     QStringList members;
@@ -83,7 +83,7 @@ void ConferenceWalk::document(int code)
     const bool ours = !conf.isEmpty() && (call().confId.isEmpty() || call().confId == conf);
     if (ours) {
         m_confs.insert(conf);
-        if (code != 2) {
+        if (code != Code::IncomingConf) {
             m_connected = members;
         }
     }
@@ -95,22 +95,25 @@ void ConferenceWalk::created()
 {
     const int dice = upTo(10);
     if (dice == 0) {
-        line(20);
+        line(Code::ConfCreated);
         return;
     }
     const QString conf = dice == 1 ? QString() : someConf();
     m_confs.insert(conf);
-    line(20, dice == 1 ? QString("no document") : QString(R"({"result":{"confId":"%1"}})").arg(conf));
+    line(Code::ConfCreated, dice == 1 ? QString("no document") : QString(R"({"result":{"confId":"%1"}})").arg(conf));
 }
 
 void ConferenceWalk::addResult()
 {
-    line(21, upTo(4) == 0 ? QString() : QString(R"({"status":1,"result":{"failedNums":["%1"]}})").arg(someMember()));
+    line(Code::ConfAddResult,
+         upTo(4) == 0 ? QString() : QString(R"({"status":1,"result":{"failedNums":["%1"]}})").arg(someMember()));
 }
 
 void ConferenceWalk::end()
 {
-    static const QList<int> s_codes{3, 4, 7, 8, 9, 10, 19, 22, 23, 24};
+    static const QList<Code> s_codes{Code::RejectRequest, Code::PeerCanceled,  Code::CallEnded,  Code::PeerHangup,
+                                     Code::PeerHangupAlt, Code::PeerRejected,  Code::CallFailed, Code::PeerBusy,
+                                     Code::CallFailedAlt, Code::CallFailedAlt2};
     if (upTo(4) == 0) {
         engine.manager->hangupVoipCall();
     } else {
@@ -120,7 +123,7 @@ void ConferenceWalk::end()
 
 void ConferenceWalk::rejection()
 {
-    line(upTo(2) == 0 ? 5 : 25, upTo(8) == 0 ? QString("me") : someMember());
+    line(upTo(2) == 0 ? Code::UserRejected : Code::ConfMemberRejected, upTo(8) == 0 ? QString("me") : someMember());
 }
 
 void ConferenceWalk::noise()
@@ -138,7 +141,7 @@ void ConferenceWalk::noise()
 void ConferenceWalk::single()
 {
     if (upTo(2) == 0) {
-        line(upTo(2), "p1");
+        line(upTo(2) == 0 ? Code::IncomingCall : Code::IncomingCallAlt, "p1");
     } else {
         engine.manager->callSingleUser("p2", upTo(2) == 0);
     }

@@ -44,15 +44,16 @@ private:
     QString someConf();
     QString someMember();
     QStringList someHostIds();
-    void line(int code, const QString &content = QString());
-    void document(int code);
+    void line(Code code, const QString &content = QString()) { line(int(code), content); }
+    void line(int code, const QString &content);
+    void document(Code code);
 
-    void update() { document(12); }
-    void left() { document(13); }
-    void invitation() { document(2); }
+    void update() { document(Code::ConfUpdate); }
+    void left() { document(Code::ConfMemberLeft); }
+    void invitation() { document(Code::IncomingConf); }
     void created();
     void addResult();
-    void connected() { line(18); }
+    void connected() { line(Code::CallConnected); }
     void end();
     void rejection();
     void noise();

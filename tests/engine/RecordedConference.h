@@ -20,14 +20,15 @@ inline void enterZoneOfRecords()
 inline void createConference(RecordedEngine &f)
 {
     f.createConference();
-    f.notify(12, R"({"content":{"confId":"c1","conventioneer":["me","anna","carl"],)" + cCreateTime + "}}");
+    f.notify(Code::ConfUpdate,
+             R"({"content":{"confId":"c1","conventioneer":["me","anna","carl"],)" + cCreateTime + "}}");
 }
 
 /// Anna has invited this side to c1, where bert is too; it has accepted.
 inline void joinConference(RecordedEngine &f)
 {
     f.manager->m_strUserId = "me";
-    f.notify(2, R"({"content":{"confId":"c1","from":"anna",)" + cCreateTime + "}}");
-    f.notify(12, R"({"content":{"confId":"c1","conventioneer":["anna","me","bert"]}})");
+    f.notify(Code::IncomingConf, R"({"content":{"confId":"c1","from":"anna",)" + cCreateTime + "}}");
+    f.notify(Code::ConfUpdate, R"({"content":{"confId":"c1","conventioneer":["anna","me","bert"]}})");
     f.manager->responseVoipRequest(true);
 }

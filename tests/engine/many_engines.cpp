@@ -34,7 +34,7 @@ bool works(std::minstd_rand &random)
     EngineFixture fixture;
     for (auto calls = random() % 3; calls > 0; --calls) {
         pass(random);
-        fixture.notify(0, QStringLiteral("bert"));
+        fixture.notify(Code::IncomingCall, QStringLiteral("bert"));
         if (!rings(fixture)) {
             return false;
         }

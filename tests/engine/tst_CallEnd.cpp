@@ -40,11 +40,11 @@ private slots:
     void endWithoutACallStopsRingAndTimers()
     {
         // A call of nobody is none, but it rings.
-        m_f->notify(0, "");
+        m_f->notify(Code::IncomingCall, "");
         m_f->manager->m_inviteTimer.start(60000);
         QCOMPARE(m_f->state(), QString("idle, invite, receive, ring"));
         m_f->takeJournal();
-        m_f->notify(4);
+        m_f->notify(Code::PeerCanceled);
         QCOMPARE(m_f->state(), QString("idle"));
         QCOMPARE(m_f->takeJournal(), QStringList());
     }
@@ -71,21 +71,21 @@ private slots:
             "21: a refusal by nobody, before the own id is known",
             [](EngineFixture &f) {
                 f.manager->callSingleUser("anna", false);
-                f.notify(5, "");
+                f.notify(Code::UserRejected, "");
             },
             QStringList{"CallUser \"anna\" false", annasPrompt, "4478 false anna 21 true false"} + cWindowCloses);
         add(
             "22: the call failed",
             [](EngineFixture &f) {
                 f.manager->callSingleUser("anna", true);
-                f.notify(19);
+                f.notify(Code::CallFailed);
             },
             QStringList{"CallUser \"anna\" true", annasPrompt, "4478 true anna 22 true false"} + cWindowCloses);
         add(
             "24: hanging up a connected call",
             [](EngineFixture &f) {
                 f.manager->callSingleUser("anna", true);
-                f.notify(18);
+                f.notify(Code::CallConnected);
                 f.manager->hangupVoipCall();
             },
             QStringList{"CallUser \"anna\" true", "HangUpCall", annasPrompt, "4478 true anna 24 true true"} +
@@ -94,13 +94,13 @@ private slots:
             "25: busy",
             [](EngineFixture &f) {
                 f.manager->callSingleUser("anna", false);
-                f.notify(22);
+                f.notify(Code::PeerBusy);
             },
             QStringList{"CallUser \"anna\" false", annasPrompt, "4478 false anna 25 true false"} + cWindowCloses);
         add(
             "26: rejecting an incoming call",
             [](EngineFixture &f) {
-                f.notify(0, "bert");
+                f.notify(Code::IncomingCall, "bert");
                 f.manager->responseVoipRequest(false);
             },
             QStringList{"4639 bert false false", "RejectCall", bertsPrompt, "4478 false bert 26 false false"} +
@@ -108,7 +108,7 @@ private slots:
         add(
             "26: hanging up an incoming call",
             [](EngineFixture &f) {
-                f.notify(0, "bert");
+                f.notify(Code::IncomingCall, "bert");
                 f.manager->hangupVoipCall();
             },
             QStringList{"4639 bert false false", "RejectCall", bertsPrompt, "4478 false bert 26 false false"} +
@@ -116,7 +116,7 @@ private slots:
         add(
             "26: hanging up an accepted call that never connected",
             [](EngineFixture &f) {
-                f.notify(0, "bert");
+                f.notify(Code::IncomingCall, "bert");
                 f.manager->responseVoipRequest(true);
                 f.manager->hangupVoipCall();
             },
@@ -126,10 +126,10 @@ private slots:
         add(
             "24: the far end hangs up an accepted call",
             [](EngineFixture &f) {
-                f.notify(0, "bert");
+                f.notify(Code::IncomingCall, "bert");
                 f.manager->responseVoipRequest(true);
-                f.notify(18);
-                f.notify(8);
+                f.notify(Code::CallConnected);
+                f.notify(Code::PeerHangup);
             },
             QStringList{"4639 bert false false", "AcceptCall", bertsPrompt, "4478 false bert 24 false true"} +
                 cWindowCloses);
@@ -176,13 +176,13 @@ private slots:
         if (caller) {
             m_f->manager->callSingleUser("anna", false);
         } else {
-            m_f->notify(0, "anna");
+            m_f->notify(Code::IncomingCall, "anna");
         }
         if (connected) {
-            m_f->notify(18);
+            m_f->notify(Code::CallConnected);
             m_f->manager->m_callData.connectTime = m_f->manager->m_callData.connectTime.addSecs(-age);
         }
-        m_f->notify(7);
+        m_f->notify(Code::CallEnded);
         QCOMPARE(m_f->takeJournal().filter("4478 "), QStringList(record));
         QVERIFY(m_f->lastSeconds() >= least);
         QVERIFY(m_f->lastSeconds() <= most);
@@ -191,9 +191,9 @@ private slots:
     void secondEndOfACallTellsTheHostNothing()
     {
         m_f->manager->callSingleUser("anna", false);
-        m_f->notify(7);
+        m_f->notify(Code::CallEnded);
         m_f->takeJournal();
-        m_f->notify(7);
+        m_f->notify(Code::CallEnded);
         m_f->manager->callFinished(CallData::FinishHangup);
         QCOMPARE(m_f->takeJournal(), QStringList());
         QCOMPARE(m_f->host.received(MSG_CALL_FINISHED).size(), 1);
@@ -209,18 +209,18 @@ private slots:
 
     void promptOfAFullJidIsTakenAwayByThatJid()
     {
-        m_f->notify(0, "bert@other.im");
+        m_f->notify(Code::IncomingCall, "bert@other.im");
         m_f->takeJournal();
-        m_f->notify(4);
+        m_f->notify(Code::PeerCanceled);
         QCOMPARE(m_f->takeJournal().constFirst(), QString("4345 bert@other.im"));
     }
 
     void windowNeverShownSendsThePairToo()
     {
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         QVERIFY(!m_f->manager->m_pVoipWidget->isVisible());
         m_f->takeJournal();
-        m_f->notify(4);
+        m_f->notify(Code::PeerCanceled);
         QCOMPARE(m_f->takeJournal(),
                  QStringList({"4345 bert@kelvar.im", "4478 false bert 21 false false"}) + cWindowCloses);
     }
@@ -228,7 +228,7 @@ private slots:
     void userClosingTheWindowSendsThePairBeforeTheHangUp()
     {
         m_f->manager->callSingleUser("anna", false);
-        m_f->notify(18);
+        m_f->notify(Code::CallConnected);
         m_f->takeJournal();
         m_f->manager->m_pVoipWidget->close();
         QCOMPARE(m_f->takeJournal(),
@@ -240,7 +240,7 @@ private slots:
     void managerEndingTheCallSendsThePairAfterTheHangUp()
     {
         m_f->manager->callSingleUser("anna", false);
-        m_f->notify(18);
+        m_f->notify(Code::CallConnected);
         m_f->takeJournal();
         emit m_f->manager->m_pVoipWidget->findChild<PushButtonEx *>("HangUp")->clicked();
         QCOMPARE(m_f->takeJournal(),
@@ -266,7 +266,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->isExistCall(), cPatienceMs);
         QVERIFY(!m_f->manager->m_inviteTimer.isActive());
         QVERIFY(!m_f->manager->m_pVoipWidget->isVisible());
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         m_f->manager->m_recevieTimer.start(0);
         QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->isExistCall(), cPatienceMs);
         QVERIFY(!m_f->manager->m_recevieTimer.isActive());

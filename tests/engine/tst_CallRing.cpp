@@ -28,7 +28,7 @@ private slots:
         for (int round = 0; round < 3; ++round) {
             EngineFixture f;
             QCOMPARE(f.manager->m_pRingSound, first);
-            f.notify(0, "bert");
+            f.notify(Code::IncomingCall, "bert");
             QCOMPARE(f.state(), QString("incoming bert, receive, ring"));
         }
         QCOMPARE(gone.count(), 0);
@@ -39,7 +39,7 @@ private slots:
     {
         {
             EngineFixture f;
-            f.notify(0, "bert");
+            f.notify(Code::IncomingCall, "bert");
             QVERIFY(!CallRing::player()->isFinished());
         }
         QVERIFY(CallRing::player()->isFinished());

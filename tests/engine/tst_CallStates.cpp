@@ -15,9 +15,9 @@ Q_DECLARE_METATYPE(Event)
 
 namespace {
 
-Event code(int number, const QString &content = QString())
+Event notification(Code code, const QString &content = QString())
 {
-    return [number, content](EngineFixture &f) { f.notify(number, content); };
+    return [code, content](EngineFixture &f) { f.notify(code, content); };
 }
 
 /// What a state's row expects.
@@ -81,13 +81,13 @@ private slots:
         addRow("host command to call", [](EngineFixture &f) { f.manager->callSingleUser("carl", false); },
                {{"CallUser \"carl\" false"}, "outgoing carl, invite"}, {nothing, cOutgoing}, {nothing, cIncoming},
                {nothing, cConnected});
-        for (const int number : {0, 1}) {
-            addRow(number == 0 ? "code 0" : "code 1", code(number, "carl"), {{cNewPrompt}, cIncomingCarl},
-                   {{cNewPrompt}, "incoming carl, invite, receive, ring"}, {{cNewPrompt}, cIncomingCarl},
-                   {{cNewPrompt}, "connected carl, receive, ring"});
+        for (const Code code : {Code::IncomingCall, Code::IncomingCallAlt}) {
+            addRow(code == Code::IncomingCall ? "code 0" : "code 1", notification(code, "carl"),
+                   {{cNewPrompt}, cIncomingCarl}, {{cNewPrompt}, "incoming carl, invite, receive, ring"},
+                   {{cNewPrompt}, cIncomingCarl}, {{cNewPrompt}, "connected carl, receive, ring"});
         }
-        addRow("code 18", code(18), {nothing, cIdle}, {nothing, cConnected}, {nothing, "connected bert, ring"},
-               {nothing, cConnected});
+        addRow("code 18", notification(Code::CallConnected), {nothing, cIdle}, {nothing, cConnected},
+               {nothing, "connected bert, ring"}, {nothing, cConnected});
         addHangUp(
             "the user's hang-up", [](EngineFixture &f) { f.manager->slot_HangupCurrentCall(); }, nothing);
         addHangUp("the host's loss of its login", [](EngineFixture &f) { f.manager->clientConnectStatus(false); },
@@ -96,24 +96,24 @@ private slots:
                {{"AcceptCall"}, cIdle}, {{"AcceptCall"}, cOutgoing}, {{"AcceptCall"}, "incoming bert, receive"},
                {{"AcceptCall"}, cConnected});
         addReject("the host's reject", [](EngineFixture &f) { f.manager->responseVoipRequest(false); });
-        addReject("code 3", code(3));
-        addEnd("code 4", code(4), 21, 21);
+        addReject("code 3", notification(Code::RejectRequest));
+        addEnd("code 4", notification(Code::PeerCanceled), 21, 21);
         addEnd(
             "code 5 with the own id",
             [](EngineFixture &f) {
                 f.manager->m_strUserId = "me";
-                f.notify(5, "me");
+                f.notify(Code::UserRejected, "me");
             },
             21, 21);
-        addEnd("code 5 with another id", code(5, "anna"), 26, 26);
-        addEnd("code 7", code(7), 21, 24);
-        addEnd("code 8", code(8), 24, 24);
-        addEnd("code 9", code(9), 24, 24);
-        addEnd("code 10", code(10), 26, 26);
-        addEnd("code 19", code(19), 22, 22);
-        addEnd("code 23", code(23), 22, 22);
-        addEnd("code 24", code(24), 22, 22);
-        addEnd("code 22", code(22), 25, 25);
+        addEnd("code 5 with another id", notification(Code::UserRejected, "anna"), 26, 26);
+        addEnd("code 7", notification(Code::CallEnded), 21, 24);
+        addEnd("code 8", notification(Code::PeerHangup), 24, 24);
+        addEnd("code 9", notification(Code::PeerHangupAlt), 24, 24);
+        addEnd("code 10", notification(Code::PeerRejected), 26, 26);
+        addEnd("code 19", notification(Code::CallFailed), 22, 22);
+        addEnd("code 23", notification(Code::CallFailedAlt), 22, 22);
+        addEnd("code 24", notification(Code::CallFailedAlt2), 22, 22);
+        addEnd("code 22", notification(Code::PeerBusy), 25, 25);
         addRow("the invite timer", [](EngineFixture &f) { f.manager->slot_inviteCallTimeout(); }, {nothing, cIdle},
                {QStringList("HangUpCall") + ended("anna", 21, true, false), cIdle}, {nothing, cIncoming},
                {QStringList("HangUpCall") + ended("anna", 24, true, true), cIdle});
@@ -139,17 +139,17 @@ private slots:
 
         QTest::newRow("the user's hang-up") << Event([](EngineFixture &f) { f.manager->hangupVoipCall(); })
                                             << QStringList("HangUpCall") + ended("bert", 24, false, true);
-        QTest::newRow("the far end's hang-up") << code(8) << ended("bert", 24, false, true);
-        QTest::newRow("the call's end") << code(7) << ended("bert", 24, false, true);
+        QTest::newRow("the far end's hang-up") << notification(Code::PeerHangup) << ended("bert", 24, false, true);
+        QTest::newRow("the call's end") << notification(Code::CallEnded) << ended("bert", 24, false, true);
     }
 
     void endOfAnAnsweredIncomingCall()
     {
         QFETCH(Event, event);
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         m_f->manager->responseVoipRequest(true);
         QCOMPARE(m_f->state(), QString("incoming bert, receive"));
-        m_f->notify(18);
+        m_f->notify(Code::CallConnected);
         QCOMPARE(m_f->state(), QString("connected bert"));
         m_f->takeJournal();
         event(*m_f);
@@ -201,7 +201,7 @@ private slots:
     {
         enter(*m_f, "Outgoing");
         QCOMPARE(m_f->manager->m_inviteTimer.interval(), 60000);
-        m_f->notify(4);
+        m_f->notify(Code::PeerCanceled);
         enter(*m_f, "Incoming");
         QCOMPARE(m_f->manager->m_recevieTimer.interval(), 60000);
     }
@@ -210,8 +210,8 @@ private slots:
     {
         QTest::addColumn<Event>("ring");
 
-        QTest::newRow("call") << code(0, "bert");
-        QTest::newRow("conference") << code(2, cInvitation);
+        QTest::newRow("call") << notification(Code::IncomingCall, "bert");
+        QTest::newRow("conference") << notification(Code::IncomingConf, cInvitation);
     }
 
     void acceptingDoesNotStartTheReceiveTimerAgain()
@@ -228,15 +228,15 @@ private slots:
     {
         QTest::addColumn<Event>("ring");
 
-        QTest::newRow("code 0") << code(0, "carl");
-        QTest::newRow("code 1") << code(1, "carl");
-        QTest::newRow("code 2") << code(2, cInvitation);
+        QTest::newRow("code 0") << notification(Code::IncomingCall, "carl");
+        QTest::newRow("code 1") << notification(Code::IncomingCallAlt, "carl");
+        QTest::newRow("code 2") << notification(Code::IncomingConf, cInvitation);
     }
 
     void secondIncomingCallStartsTheReceiveTimerAgain()
     {
         QFETCH(Event, ring);
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         m_f->manager->m_recevieTimer.start(30000);
         ring(*m_f);
         QVERIFY(m_f->manager->m_recevieTimer.isActive());
@@ -246,7 +246,7 @@ private slots:
     void inviteTimerOfAnIncomingCallOnlyStops()
     {
         enter(*m_f, "Outgoing");
-        m_f->notify(0, "carl");
+        m_f->notify(Code::IncomingCall, "carl");
         m_f->takeJournal();
         m_f->manager->slot_inviteCallTimeout();
         QCOMPARE(m_f->takeJournal(), QStringList());
@@ -265,7 +265,7 @@ private slots:
     void receiveTimerOfASecondCallHangsUpTheConnectedOne()
     {
         enter(*m_f, "Connected");
-        m_f->notify(0, "carl");
+        m_f->notify(Code::IncomingCall, "carl");
         m_f->takeJournal();
         QVERIFY(m_f->manager->m_recevieTimer.isActive());
         m_f->manager->slot_recevieCallTimeout();
@@ -276,13 +276,13 @@ private slots:
     void secondIncomingCallKeepsFlagTimeListsAndWindow()
     {
         m_f->manager->callSingleUser("anna", true);
-        m_f->notify(18);
+        m_f->notify(Code::CallConnected);
         CallData &call = m_f->manager->m_callData;
         call.memberList = QStringList{"x"};
         call.connectedList = QStringList{"y"};
         const QDateTime connectTime = call.connectTime;
         const QString title = m_f->manager->m_pVoipWidget->windowTitle();
-        m_f->notify(1, "carl");
+        m_f->notify(Code::IncomingCallAlt, "carl");
         QCOMPARE(call.peerId, QString("carl"));
         QVERIFY(!call.bIsConf);
         QVERIFY(!call.bIsVideo);
@@ -297,7 +297,7 @@ private slots:
 
     void codeEighteenInIdleLeavesFlagAndTime()
     {
-        m_f->notify(18);
+        m_f->notify(Code::CallConnected);
         QVERIFY(m_f->manager->m_callData.bIsConnected);
         QVERIFY(m_f->manager->m_callData.connectTime.isValid());
         QCOMPARE(m_f->manager->m_callData.connectTime.timeSpec(), Qt::UTC);
@@ -313,7 +313,7 @@ private slots:
     {
         enter(*m_f, "Connected");
         m_f->manager->m_callData.connectTime = QDateTime::currentDateTimeUtc().addSecs(-3600);
-        m_f->notify(18);
+        m_f->notify(Code::CallConnected);
         QVERIFY(m_f->manager->m_callData.connectTime > QDateTime::currentDateTimeUtc().addSecs(-1800));
     }
 
@@ -343,10 +343,10 @@ private:
             f.manager->callSingleUser("anna", false);
         }
         if (state == "Incoming") {
-            f.notify(0, "bert");
+            f.notify(Code::IncomingCall, "bert");
         }
         if (state == "Connected") {
-            f.notify(18);
+            f.notify(Code::CallConnected);
         }
         f.takeJournal();
     }

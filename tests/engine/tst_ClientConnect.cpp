@@ -53,7 +53,7 @@ private slots:
     {
         m_f->manager->clientConnectStatus(true);
         m_f->manager->callSingleUser("anna", false);
-        m_f->notify(18);
+        m_f->notify(Code::CallConnected);
         m_f->takeJournal();
         m_f->manager->clientConnectStatus(false);
         QCOMPARE(m_f->takeJournal(),

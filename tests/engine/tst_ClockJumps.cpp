@@ -58,7 +58,7 @@ private slots:
         ShiftedClock::holdTimeOfDay();
         RecordedEngine f;
         f.createConference();
-        f.notify(18);
+        f.notify(Code::CallConnected);
         ShiftedClock::setTimeOfDay(-cHour);
         f.manager->hangupVoipCall();
         QCOMPARE(f.count(), 1);
@@ -130,7 +130,7 @@ private slots:
         if (outgoing) {
             f.manager->callSingleUser(QStringLiteral("anna"), false);
         } else {
-            f.notify(0, QStringLiteral("anna"));
+            f.notify(Code::IncomingCall, QStringLiteral("anna"));
         }
         f.takeJournal();
         sleepAnHour();
@@ -161,7 +161,7 @@ private slots:
         ShiftedClock::holdTimeOfDay();
         RecordedEngine f;
         f.createConference();
-        f.notify(18);
+        f.notify(Code::CallConnected);
         f.notify(
             12,
             R"({"content":{"from":"anna","conventioneer":["me","anna"],"confId":"c1","createTime":1700000000000}})");
@@ -199,7 +199,7 @@ private slots:
         f.manager->m_strUserId = f.login.m_strUid;
         f.manager->m_strRegValue = f.login.m_strRegValue;
         f.manager->callConference({QStringLiteral("anna"), QStringLiteral("bert")}, false, QString());
-        f.notify(0, QStringLiteral("carl"));
+        f.notify(Code::IncomingCall, QStringLiteral("carl"));
         f.process.close();
         QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_reconnectTimer.isActive(), cPatienceMs);
         f.process.open();
@@ -223,7 +223,7 @@ private:
     {
         f.manager->m_strUserId = f.login.m_strUid;
         f.manager->callSingleUser(QStringLiteral("anna"), false);
-        f.notify(18);
+        f.notify(Code::CallConnected);
         f.takeJournal();
     }
 
@@ -245,7 +245,7 @@ private:
         f.takeJournal();
         f.manager->callSingleUser(QStringLiteral("bert"), false);
         QCOMPARE(f.state(), QStringLiteral("outgoing bert, invite"));
-        f.notify(18);
+        f.notify(Code::CallConnected);
         f.manager->hangupVoipCall();
         QCOMPARE(f.takeJournal(),
                  QStringList({R"(CallUser "bert" false)", "HangUpCall", "4345 bert@kelvar.im",

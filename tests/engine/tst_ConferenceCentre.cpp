@@ -120,7 +120,7 @@ private slots:
         save({"d9", "d8"});
         open(*m_f);
         m_f->createConference();
-        m_f->notify(7);
+        m_f->notify(Code::CallEnded);
         QCOMPARE(shown(*m_f), QStringList({"c1", "d9", "d8"}));
         QCOMPARE(list(*m_f)->model()->index(0, 0).data(ROLE_CREATED_BY_ME), QVariant(true));
         QCOMPARE(stored(*m_f), QStringList({"'c1'", "'d8'", "'d9'"}));
@@ -130,7 +130,7 @@ private slots:
     {
         save({"d9"});
         open(*m_f);
-        m_f->notify(2, R"({"content":{"confId":"c7","from":"anna"}})");
+        m_f->notify(Code::IncomingConf, R"({"content":{"confId":"c7","from":"anna"}})");
         m_f->manager->rejectVoipCall();
         QCOMPARE(shown(*m_f).size(), m_f->count());
         QCOMPARE(m_f->count(), 2);
@@ -152,7 +152,7 @@ private slots:
         save({"c2", "c1"});
         open(*m_f);
         m_f->createConference();
-        m_f->notify(7);
+        m_f->notify(Code::CallEnded);
         QCOMPARE(shown(*m_f), QStringList({"c2", "c1"}));
         QCOMPARE(list(*m_f)->model()->index(1, 0).data(ROLE_USER_ID).toString(), QString("anna"));
     }
@@ -160,7 +160,7 @@ private slots:
     void conferenceEndedWithTheCentreClosedIsThereAtTheNextOpening()
     {
         m_f->createConference();
-        m_f->notify(7);
+        m_f->notify(Code::CallEnded);
         QVERIFY(!m_f->manager->m_pVoiceConfWidget);
         open(*m_f);
         QCOMPARE(shown(*m_f), QStringList{"c1"});
@@ -217,7 +217,7 @@ private slots:
         save({"c2"});
         open(*m_f);
         m_f->createConference();
-        m_f->notify(7);
+        m_f->notify(Code::CallEnded);
         save({"c3"});
         QCOMPARE(shown(*m_f), QStringList({"c1", "c2"}));
         m_f->manager->m_pVoiceConfWidget->close();
@@ -236,8 +236,8 @@ private slots:
     void singleCallChangesNothing()
     {
         open(*m_f);
-        m_f->notify(0, "bert");
-        m_f->notify(4);
+        m_f->notify(Code::IncomingCall, "bert");
+        m_f->notify(Code::PeerCanceled);
         QCOMPARE(shown(*m_f), QStringList());
     }
 };

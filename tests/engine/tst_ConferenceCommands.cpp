@@ -23,7 +23,7 @@ private slots:
     {
         m_f->manager->m_strUserId = "me";
         // An invitation without an id leaves its flag behind, so that the video call is a conference as well.
-        m_f->notify(2, conferenceContent(R"("from":"anna","confId":"")"));
+        m_f->notify(Code::IncomingConf, conferenceContent(R"("from":"anna","confId":"")"));
         m_f->manager->callSingleUser("bert", true);
         m_f->manager->m_callData.connectedList = QStringList{"bert"};
         m_f->takeLines();

@@ -123,7 +123,7 @@ private slots:
         QFETCH(QString, message);
         begin(channel ? EngineFixture::WithCallProcess : EngineFixture::NoCallProcess);
         if (call) {
-            m_f->notify(0, "bert");
+            m_f->notify(Code::IncomingCall, "bert");
         }
         m_f->takeJournal();
         m_f->manager->callConference({"anna"}, false, "");
@@ -162,11 +162,11 @@ private slots:
     void createdIdLetsTheUpdatesPass()
     {
         startConference(*m_f);
-        m_f->notify(20, R"({"result":{"confId":"c1"}})");
-        m_f->notify(12, R"({"content":{"confId":"c1","conventioneer":["me","bert","carl"]}})");
+        m_f->notify(Code::ConfCreated, R"({"result":{"confId":"c1"}})");
+        m_f->notify(Code::ConfUpdate, R"({"content":{"confId":"c1","conventioneer":["me","bert","carl"]}})");
         QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl"}));
         QCOMPARE(m_f->members(), QStringList({"anna 0", "bert 1", "carl 1"}));
-        m_f->notify(18);
+        m_f->notify(Code::CallConnected);
         QVERIFY(m_f->manager->m_callData.bIsConnected);
         QVERIFY(!m_f->manager->m_inviteTimer.isActive());
     }
@@ -233,8 +233,8 @@ private slots:
     {
         beInvited(*m_f);
         m_f->manager->responseVoipRequest(true);
-        m_f->notify(18);
-        m_f->notify(12, R"({"content":{"confId":"c1","conventioneer":["anna","me","bert"]}})");
+        m_f->notify(Code::CallConnected);
+        m_f->notify(Code::ConfUpdate, R"({"content":{"confId":"c1","conventioneer":["anna","me","bert"]}})");
         QCOMPARE(m_f->members(), QStringList({"anna 1*", "bert 1"}));
         QCOMPARE(m_f->state(), QString("connected anna"));
     }
@@ -270,7 +270,7 @@ private slots:
             beInvited(*m_f);
             m_f->manager->responseVoipRequest(true);
         }
-        m_f->notify(18);
+        m_f->notify(Code::CallConnected);
         m_f->takeJournal();
         m_f->manager->hangupVoipCall();
         QTEST(m_f->takeJournal(), "journal");
@@ -281,10 +281,10 @@ private slots:
     void conferenceEndTakesAwayThePromptOfTheCreator()
     {
         beInvited(*m_f);
-        m_f->notify(4);
+        m_f->notify(Code::PeerCanceled);
         QCOMPARE(m_f->takeJournal(), QStringList({"4345 anna@kelvar.im", "SetMicEnable true", "SetSpeakerEnble true"}));
         startConference(*m_f);
-        m_f->notify(7);
+        m_f->notify(Code::CallEnded);
         QCOMPARE(m_f->takeJournal(), QStringList({"SetMicEnable true", "SetSpeakerEnble true"}));
     }
 
@@ -293,7 +293,7 @@ private:
     static void beInvited(EngineFixture &f)
     {
         f.manager->m_strUserId = "me";
-        f.notify(2, R"({"content":{"from":"anna","confId":"c1"}})");
+        f.notify(Code::IncomingConf, R"({"content":{"from":"anna","confId":"c1"}})");
         f.takeJournal();
     }
 };

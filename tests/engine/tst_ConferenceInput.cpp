@@ -50,12 +50,12 @@ private slots:
         QFETCH(QStringList, added);
         RecordedEngine f;
         f.createConference();
-        for (int code : {12, 13, 12}) {
+        for (const Code code : {Code::ConfUpdate, Code::ConfMemberLeft, Code::ConfUpdate}) {
             line(f, code, content);
             QCOMPARE(f.manager->m_callData.memberList, QStringList({"anna", "bert", "me"}) + added);
             QTEST(f.manager->m_callData.connectedList, "connected");
         }
-        line(f, 7, QString());
+        line(f, Code::CallEnded, QString());
         QCOMPARE(f.count(), 1);
         QCOMPARE(f.state(), QString("idle"));
     }
@@ -91,16 +91,16 @@ private slots:
         QFETCH(QString, content);
         EngineFixture f;
         f.createConference();
-        f.notify(18);
+        f.notify(Code::CallConnected);
         const QString before = f.callText();
         const QStringList members = f.members();
-        for (int code : {12, 13, 21}) {
+        for (const Code code : {Code::ConfUpdate, Code::ConfMemberLeft, Code::ConfAddResult}) {
             line(f, code, content);
             QCOMPARE(f.callText(), before);
             QCOMPARE(f.members(), members);
         }
         // An invitation has its first step: this side counts as the creator no more.
-        line(f, 2, content);
+        line(f, Code::IncomingConf, content);
         QCOMPARE(f.callText(), QString(before).replace("1|0|1|1|", "1|0|0|1|"));
         QCOMPARE(f.members(), members);
         QCOMPARE(f.takeJournal(), QStringList());
@@ -128,7 +128,7 @@ private slots:
         QFETCH(QString, content);
         EngineFixture f;
         f.createConference();
-        line(f, 21, content);
+        line(f, Code::ConfAddResult, content);
         QTEST(f.members(), "members");
     }
 
@@ -156,7 +156,7 @@ private slots:
         QFETCH(QString, fields);
         QFETCH(QString, record);
         RecordedEngine f;
-        line(f, 2, R"({"content":{)" + fields + "}}");
+        line(f, Code::IncomingConf, R"({"content":{)" + fields + "}}");
         f.manager->responseVoipRequest(false);
         // Without a sender there is nobody and nothing that could end.
         QCOMPARE(f.records(), record.isEmpty() ? QStringList() : QStringList{record});
@@ -171,23 +171,23 @@ private slots:
         const QString content = "{\"content\":{\"confId\":\"c1\",\"conventioneer\":[\"" + ids.join(R"(",")") + "\"]}}";
         RecordedEngine f;
         f.createConference();
-        line(f, 12, content);
-        line(f, 12, content);
-        line(f, 13, content);
+        line(f, Code::ConfUpdate, content);
+        line(f, Code::ConfUpdate, content);
+        line(f, Code::ConfMemberLeft, content);
         const QStringList all = QStringList{"anna", "bert", "me"} + ids;
         QCOMPARE(f.manager->m_callData.memberList, all);
         QCOMPARE(f.manager->m_callData.connectedList, ids);
         QCOMPARE(f.members().size(), 10002);
         f.manager->addConferenceMember(ids);
         QCOMPARE(f.manager->m_callData.memberList, all);
-        line(f, 7, QString());
+        line(f, Code::CallEnded, QString());
         QCOMPARE(DBConfInfo::getAllConfInfo().constFirst().m_listMember, all);
         QCOMPARE(f.members(), QStringList());
     }
 
 private:
     /// One line of the wire.
-    static void line(EngineFixture &f, int code, const QString &content)
+    static void line(EngineFixture &f, Code code, const QString &content)
     {
         f.manager->recevieVoipMessage(QString::fromUtf8(FakeCallProcess::line(code, content)));
     }

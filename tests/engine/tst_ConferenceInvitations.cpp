@@ -23,8 +23,9 @@ class tst_ConferenceInvitations : public EngineTest<EngineFixture>
 private slots:
     void invitationSetsTheConference()
     {
-        m_f->notify(2, conferenceContent(
-                           R"("from":"anna","conventioneer":["anna","me"],"confId":"c1","createTime":1600000000123)"));
+        m_f->notify(Code::IncomingConf,
+                    conferenceContent(
+                        R"("from":"anna","conventioneer":["anna","me"],"confId":"c1","createTime":1600000000123)"));
         const CallData &call = m_f->manager->m_callData;
         QVERIFY(call.bIsConf);
         QVERIFY(!call.bIsVideo);
@@ -55,7 +56,7 @@ private slots:
             m_f->manager->m_pVoipWidget->addConferenceMember("anna");
             membersMeanwhile = m_f->members();
         };
-        m_f->notify(2, conferenceContent(R"("from":"anna","confId":"c1")"));
+        m_f->notify(Code::IncomingConf, conferenceContent(R"("from":"anna","confId":"c1")"));
         // The window knows the creator by then; the timer runs from the prompt's end.
         QCOMPARE(stateMeanwhile, QString("incoming anna, ring"));
         QCOMPARE(membersMeanwhile, QStringList{"anna 0*"});
@@ -80,7 +81,7 @@ private slots:
         m_f->manager->m_callData.confId = "c1";
         m_f->manager->m_callData.bIsCaller = true;
         m_f->manager->m_callData.bIsVideo = true;
-        m_f->notify(2, content);
+        m_f->notify(Code::IncomingConf, content);
         QCOMPARE(m_f->callText(), QString("1|0|0|0||||c1||"));
         QCOMPARE(m_f->state(), QString("idle"));
         QCOMPARE(m_f->takeJournal(), QStringList());
@@ -88,7 +89,7 @@ private slots:
 
     void callAfterARefusedInvitationGoesOnAsAConference()
     {
-        m_f->notify(2, conferenceContent(R"("from":"anna","confId":"")"));
+        m_f->notify(Code::IncomingConf, conferenceContent(R"("from":"anna","confId":"")"));
         // Placing a call does not write the flag, so its end is that of a conference: no record for the host.
         m_f->manager->callSingleUser("bert", false);
         QVERIFY(m_f->manager->m_callData.bIsConf);
@@ -101,9 +102,9 @@ private slots:
 
     void invitationWithoutSenderKeepsThePeer()
     {
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         m_f->takeJournal();
-        m_f->notify(2, conferenceContent(R"("confId":"c1")"));
+        m_f->notify(Code::IncomingConf, conferenceContent(R"("confId":"c1")"));
         QCOMPARE(m_f->manager->m_callData.peerId, QString("bert"));
         QCOMPARE(m_f->takeJournal(), QStringList{"4639  true false"});
         // The creator is the sender, not whoever stands as the peer.
@@ -113,8 +114,8 @@ private slots:
 
     void invitationOfTheSameConferenceIsTakenAgain()
     {
-        m_f->notify(2, conferenceContent(R"("from":"anna","confId":"c1","createTime":1600000000123)"));
-        m_f->notify(2, conferenceContent(R"("from":"bert","confId":"c1")"));
+        m_f->notify(Code::IncomingConf, conferenceContent(R"("from":"anna","confId":"c1","createTime":1600000000123)"));
+        m_f->notify(Code::IncomingConf, conferenceContent(R"("from":"bert","confId":"c1")"));
         QCOMPARE(m_f->manager->m_callData.peerId, QString("bert"));
         QCOMPARE(m_f->manager->m_callData.createTime, QDateTime::fromMSecsSinceEpoch(cCreated));
         QCOMPARE(m_f->takeJournal(), QStringList({"4639 anna true false", "4639 bert true false"}));
@@ -124,7 +125,7 @@ private slots:
     {
         m_f->createConference();
         QVERIFY(m_f->manager->m_callData.bIsCaller);
-        m_f->notify(2, conferenceContent(R"("from":"dora","confId":"c2")"));
+        m_f->notify(Code::IncomingConf, conferenceContent(R"("from":"dora","confId":"c2")"));
         QCOMPARE(m_f->takeJournal(), QStringList());
         QVERIFY(!m_f->manager->m_callData.bIsCaller);
         m_f->manager->slot_ReInviteConfUser("anna");
@@ -137,7 +138,7 @@ private slots:
         QTest::addColumn<QString>("number");
         QTest::addColumn<QDateTime>("createTime");
 
-        for (const int code : {2, 12}) {
+        for (const int code : {int(Code::IncomingConf), int(Code::ConfUpdate)}) {
             const auto add = [code](const char *name, const char *number, const QDateTime &time) {
                 QTest::addRow("code %d, %s", code, name) << code << QString(number) << time;
             };
@@ -179,7 +180,7 @@ private slots:
     {
         QFETCH(QString, id);
         m_f->createConference();
-        m_f->notify(5, id);
+        m_f->notify(Code::UserRejected, id);
         QTEST(m_f->takeJournal(), "journal");
         QTEST(m_f->state(), "state");
         QTEST(m_f->members(), "members");
@@ -189,16 +190,16 @@ private slots:
     {
         m_f->manager->callConference({"anna"}, false, "");
         QCOMPARE(m_f->manager->m_callData.confId, QString());
-        m_f->notify(20, R"({"result":{"confId":"c1"}})");
+        m_f->notify(Code::ConfCreated, R"({"result":{"confId":"c1"}})");
         QCOMPARE(m_f->manager->m_callData.confId, QString("c1"));
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["carl"])"));
+        m_f->notify(Code::ConfUpdate, conferenceContent(R"("confId":"c1","conventioneer":["carl"])"));
         QVERIFY(m_f->manager->m_callData.memberList.contains("carl"));
     }
 
     void createdAnswerThatDoesNotParseClearsTheId()
     {
         m_f->createConference();
-        m_f->notify(20, R"({"result":{"confId":"c9"})");
+        m_f->notify(Code::ConfCreated, R"({"result":{"confId":"c9"})");
         QCOMPARE(m_f->manager->m_callData.confId, QString());
         QCOMPARE(m_f->state(), QString("outgoing anna+bert+me, invite"));
         QCOMPARE(m_f->takeJournal(), QStringList());
@@ -208,19 +209,19 @@ private slots:
     {
         m_f->manager->callSingleUser("anna", false);
         m_f->takeJournal();
-        m_f->notify(20);
+        m_f->notify(Code::ConfCreated);
         QCOMPARE(m_f->takeJournal(), QStringList({"4345 anna@kelvar.im", "4478 false anna 22 true false",
                                                   "SetMicEnable true", "SetSpeakerEnble true"}));
         QCOMPARE(m_f->state(), QString("idle"));
         m_f->createConference();
-        m_f->notify(20);
+        m_f->notify(Code::ConfCreated);
         QCOMPARE(m_f->takeJournal(), QStringList({"SetMicEnable true", "SetSpeakerEnble true"}));
         QCOMPARE(m_f->state(), QString("idle"));
     }
 
     void createdIdOutsideACallIsTaken()
     {
-        m_f->notify(20, R"({"result":{"confId":"c1"}})");
+        m_f->notify(Code::ConfCreated, R"({"result":{"confId":"c1"}})");
         QCOMPARE(m_f->manager->m_callData.confId, QString("c1"));
         QCOMPARE(m_f->state(), QString("idle"));
     }
@@ -245,7 +246,7 @@ private slots:
         QFETCH(QString, content);
         m_f->createConference();
         const QString before = m_f->callText();
-        m_f->notify(21, content);
+        m_f->notify(Code::ConfAddResult, content);
         QTEST(m_f->members(), "members");
         QCOMPARE(m_f->callText(), before);
         QCOMPARE(m_f->takeJournal(), QStringList());
@@ -264,7 +265,7 @@ private slots:
     {
         QFETCH(QString, content);
         const QtMessages messages;
-        m_f->notify(21, content);
+        m_f->notify(Code::ConfAddResult, content);
         QTEST(messages.debugLines, "lines");
     }
 
@@ -284,7 +285,7 @@ private slots:
         m_f->manager->m_callData.bIsConf = conference;
         const QString before = m_f->callText();
         const QtMessages messages;
-        m_f->notify(25, "bert");
+        m_f->notify(Code::ConfMemberRejected, "bert");
         QTEST(m_f->members(), "members");
         QCOMPARE(messages.debugLines, QStringList{"voipsdk:bert"});
         QCOMPARE(m_f->callText(), before);

@@ -79,7 +79,7 @@ private slots:
         m_f->whileHandled = [this](BaseEvent &event) {
             // Dora joins while the user picks.
             if (event.msgId == MSG_ADD_CONFERENCE_MEMBER) {
-                m_f->notify(12, R"({"content":{"confId":"c1","conventioneer":["dora"]}})");
+                m_f->notify(Code::ConfUpdate, R"({"content":{"confId":"c1","conventioneer":["dora"]}})");
             }
         };
         m_f->manager->slot_AddConfMember();
@@ -140,7 +140,7 @@ private slots:
         QFETCH(bool, conference);
         QFETCH(bool, caller);
         startConference(*m_f);
-        m_f->notify(5, "bert");
+        m_f->notify(Code::UserRejected, "bert");
         m_f->manager->m_callData.bIsConf = conference;
         m_f->manager->m_callData.bIsCaller = caller;
         m_f->manager->slot_ReInviteConfUser("bert");

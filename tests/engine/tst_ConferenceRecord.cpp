@@ -26,7 +26,7 @@ private slots:
 
     void rejectedInvitationIsStored()
     {
-        m_f->notify(2, R"({"content":{"confId":"c1","from":"anna",)" + cCreateTime + "}}");
+        m_f->notify(Code::IncomingConf, R"({"content":{"confId":"c1","from":"anna",)" + cCreateTime + "}}");
         m_f->manager->responseVoipRequest(false);
         QCOMPARE(m_f->records(), QStringList{"'c1' 'anna' '2023-11-15 06:13:20' '0' '' 0"});
         QCOMPARE(m_f->takeJournal(), QStringList({"4639 anna true false", "RejectConf", "4345 anna@kelvar.im",
@@ -35,7 +35,7 @@ private slots:
 
     void invitationThatTimesOutIsStored()
     {
-        m_f->notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
+        m_f->notify(Code::IncomingConf, R"({"content":{"confId":"c1","from":"anna"}})");
         m_f->manager->slot_recevieCallTimeout();
         QCOMPARE(m_f->records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
         QCOMPARE(m_f->state(), QString("idle"));
@@ -47,7 +47,7 @@ private slots:
         // An empty id is a key like any other: the second record finds it taken.
         for (int round = 0; round < 2; ++round) {
             m_f->manager->callConference({"anna"}, false, "");
-            m_f->notify(20);
+            m_f->notify(Code::ConfCreated);
             QCOMPARE(m_f->records(), QStringList{"'' 'me' '' '0' 'anna,me,' 0"});
             QCOMPARE(m_f->state(), QString("idle"));
         }
@@ -56,17 +56,17 @@ private slots:
     void missingTimeIsAnEmptyTextNotNull()
     {
         m_f->createConference();
-        m_f->notify(7);
+        m_f->notify(Code::CallEnded);
         QCOMPARE(m_f->records(), QStringList{"'c1' 'me' '' '0' 'anna,bert,me,' 0"});
     }
 
     void sameConferenceAgainKeepsItsFirstRecord()
     {
-        m_f->notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
+        m_f->notify(Code::IncomingConf, R"({"content":{"confId":"c1","from":"anna"}})");
         m_f->manager->responseVoipRequest(false);
         joinConference(*m_f);
-        m_f->notify(18);
-        m_f->notify(8);
+        m_f->notify(Code::CallConnected);
+        m_f->notify(Code::PeerHangup);
         QCOMPARE(m_f->records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
         QCOMPARE(m_f->state(), QString("idle"));
     }
@@ -74,28 +74,28 @@ private slots:
     void nextConferenceHasNothingOfTheOneBefore()
     {
         createConference(*m_f);
-        m_f->notify(18);
+        m_f->notify(Code::CallConnected);
         m_f->connectedFor(65);
-        m_f->notify(8);
-        m_f->notify(2, R"({"content":{"confId":"c2","from":"dora"}})");
-        m_f->notify(12, R"({"content":{"confId":"c2","conventioneer":["dora"]}})");
-        m_f->notify(4);
+        m_f->notify(Code::PeerHangup);
+        m_f->notify(Code::IncomingConf, R"({"content":{"confId":"c2","from":"dora"}})");
+        m_f->notify(Code::ConfUpdate, R"({"content":{"confId":"c2","conventioneer":["dora"]}})");
+        m_f->notify(Code::PeerCanceled);
         QCOMPARE(m_f->records().constLast(), QString("'c2' 'dora' '' '0' 'dora,' 0"));
         QCOMPARE(m_f->count(), 2);
     }
 
     void secondInvitationLeavesTheFirstOne()
     {
-        m_f->notify(2, R"({"content":{"confId":"c1","from":"anna"}})");
-        m_f->notify(2, R"({"content":{"confId":"c2","from":"bert",)" + cCreateTime + "}}");
-        m_f->notify(12, R"({"content":{"confId":"c2","conventioneer":["bert","me"]}})");
+        m_f->notify(Code::IncomingConf, R"({"content":{"confId":"c1","from":"anna"}})");
+        m_f->notify(Code::IncomingConf, R"({"content":{"confId":"c2","from":"bert",)" + cCreateTime + "}}");
+        m_f->notify(Code::ConfUpdate, R"({"content":{"confId":"c2","conventioneer":["bert","me"]}})");
         QCOMPARE(m_f->takeJournal(), QStringList{"4639 anna true false"});
         QCOMPARE(m_f->state(), QString("incoming anna, receive, ring"));
         m_f->manager->responseVoipRequest(true);
-        m_f->notify(7);
+        m_f->notify(Code::CallEnded);
         QCOMPARE(m_f->records(), QStringList{"'c1' 'anna' '' '0' '' 0"});
         // The second one is free to come again.
-        m_f->notify(2, R"({"content":{"confId":"c2","from":"bert"}})");
+        m_f->notify(Code::IncomingConf, R"({"content":{"confId":"c2","from":"bert"}})");
         m_f->manager->responseVoipRequest(false);
         QCOMPARE(m_f->records().constLast(), QString("'c2' 'bert' '' '0' '' 0"));
     }
@@ -103,15 +103,15 @@ private slots:
     void creatorInvitedElsewhereIsNoCreatorInTheRecord()
     {
         createConference(*m_f);
-        m_f->notify(18);
+        m_f->notify(Code::CallConnected);
         m_f->takeJournal();
-        m_f->notify(2, R"({"content":{"confId":"c2","from":"dora"}})");
+        m_f->notify(Code::IncomingConf, R"({"content":{"confId":"c2","from":"dora"}})");
         QCOMPARE(m_f->takeJournal(), QStringList());
         m_f->manager->slot_ReInviteConfUser("bert");
         QCOMPARE(m_f->takeJournal(), QStringList());
         m_f->manager->slot_MuteAll(true);
         QCOMPARE(m_f->takeJournal(), QStringList{"ControlConf \"mute\" \"non_moderator\""});
-        m_f->notify(8);
+        m_f->notify(Code::PeerHangup);
         QCOMPARE(m_f->records(), QStringList{"'c1' '' '2023-11-15 06:13:20' '0' 'anna,bert,me,carl,' 1"});
         QCOMPARE(m_f->state(), QString("idle"));
     }
@@ -119,8 +119,8 @@ private slots:
     void callThatOverwritesAConferenceLeavesNoConferenceRecord()
     {
         createConference(*m_f);
-        m_f->notify(0, "dora");
-        m_f->notify(4);
+        m_f->notify(Code::IncomingCall, "dora");
+        m_f->notify(Code::PeerCanceled);
         QCOMPARE(m_f->count(), 0);
         QCOMPARE(m_f->takeJournal().filter("4478"), QStringList{"4478 false dora 21 false false"});
         QCOMPARE(m_f->state(), QString("idle"));
@@ -132,7 +132,7 @@ private slots:
         m_f->manager->slot_RemoveConferenceMember("anna");
         m_f->manager->addConferenceMember({"dora", "anna"});
         m_f->manager->slot_RemoveConferenceMember("bert");
-        m_f->notify(7);
+        m_f->notify(Code::CallEnded);
         QCOMPARE(m_f->rows().constFirst().at(4), QString("'me,carl,dora,anna,'"));
     }
 
@@ -163,8 +163,8 @@ private slots:
         QFETCH(QString, text);
         m_f->manager->m_strUserId = "me";
         m_f->manager->callConference(users, false, "");
-        m_f->notify(20, R"({"result":{"confId":"c1"}})");
-        m_f->notify(4);
+        m_f->notify(Code::ConfCreated, R"({"result":{"confId":"c1"}})");
+        m_f->notify(Code::PeerCanceled);
         QCOMPARE(m_f->rows().constFirst().at(4), "'" + text + "'");
         QTEST(QStringList(DBConfInfo::getAllConfInfo().constFirst().m_listMember), "readBack");
     }
@@ -193,8 +193,8 @@ private slots:
     void oddConferenceIds()
     {
         QFETCH(QString, id);
-        m_f->notify(2, "{\"content\":{\"confId\":\"" + id + "\",\"from\":\"anna\"}}");
-        m_f->notify(4);
+        m_f->notify(Code::IncomingConf, "{\"content\":{\"confId\":\"" + id + "\",\"from\":\"anna\"}}");
+        m_f->notify(Code::PeerCanceled);
         QCOMPARE(m_f->count(), 1);
         QTEST(m_f->rows().constFirst().constFirst(), "stored");
     }

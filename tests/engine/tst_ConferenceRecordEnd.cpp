@@ -40,18 +40,18 @@ struct End
 const QList<End> &ends()
 {
     static const QList<End> s_ends{
-        {"code 3", Both, AnyTime, [](RecordedEngine &f) { f.notify(3); }},
-        {"code 4", Both, AnyTime, [](RecordedEngine &f) { f.notify(4); }},
-        {"code 5 with the own id", Both, AnyTime, [](RecordedEngine &f) { f.notify(5, "me"); }},
-        {"code 7", Both, AnyTime, [](RecordedEngine &f) { f.notify(7); }},
-        {"code 8", Both, AnyTime, [](RecordedEngine &f) { f.notify(8); }},
-        {"code 9", Both, AnyTime, [](RecordedEngine &f) { f.notify(9); }},
-        {"code 10", Both, AnyTime, [](RecordedEngine &f) { f.notify(10); }},
-        {"code 19", Both, AnyTime, [](RecordedEngine &f) { f.notify(19); }},
-        {"code 20 without content", Both, AnyTime, [](RecordedEngine &f) { f.notify(20); }},
-        {"code 22", Both, AnyTime, [](RecordedEngine &f) { f.notify(22); }},
-        {"code 23", Both, AnyTime, [](RecordedEngine &f) { f.notify(23); }},
-        {"code 24", Both, AnyTime, [](RecordedEngine &f) { f.notify(24); }},
+        {"code 3", Both, AnyTime, [](RecordedEngine &f) { f.notify(Code::RejectRequest); }},
+        {"code 4", Both, AnyTime, [](RecordedEngine &f) { f.notify(Code::PeerCanceled); }},
+        {"code 5 with the own id", Both, AnyTime, [](RecordedEngine &f) { f.notify(Code::UserRejected, "me"); }},
+        {"code 7", Both, AnyTime, [](RecordedEngine &f) { f.notify(Code::CallEnded); }},
+        {"code 8", Both, AnyTime, [](RecordedEngine &f) { f.notify(Code::PeerHangup); }},
+        {"code 9", Both, AnyTime, [](RecordedEngine &f) { f.notify(Code::PeerHangupAlt); }},
+        {"code 10", Both, AnyTime, [](RecordedEngine &f) { f.notify(Code::PeerRejected); }},
+        {"code 19", Both, AnyTime, [](RecordedEngine &f) { f.notify(Code::CallFailed); }},
+        {"code 20 without content", Both, AnyTime, [](RecordedEngine &f) { f.notify(Code::ConfCreated); }},
+        {"code 22", Both, AnyTime, [](RecordedEngine &f) { f.notify(Code::PeerBusy); }},
+        {"code 23", Both, AnyTime, [](RecordedEngine &f) { f.notify(Code::CallFailedAlt); }},
+        {"code 24", Both, AnyTime, [](RecordedEngine &f) { f.notify(Code::CallFailedAlt2); }},
         {"hung up", Both, AnyTime, [](RecordedEngine &f) { f.manager->hangupVoipCall(); }},
         {"the window closed", Both, AnyTime, [](RecordedEngine &f) { f.manager->m_pVoipWidget->close(); }},
         {"the client offline", Both, AnyTime, [](RecordedEngine &f) { f.manager->clientConnectStatus(false); }},
@@ -116,7 +116,7 @@ private slots:
         RecordedEngine f;
         creator ? createConference(f) : joinConference(f);
         if (connected) {
-            f.notify(18);
+            f.notify(Code::CallConnected);
             f.connectedFor(65);
         }
         run(f);
@@ -137,10 +137,10 @@ private slots:
     {
         RecordedEngine f;
         createConference(f);
-        f.notify(7);
+        f.notify(Code::CallEnded);
         const QStringList records = f.records();
         DBConfInfo::deleteConfInfo("c1");
-        f.notify(7);
+        f.notify(Code::CallEnded);
         f.manager->hangupVoipCall();
         f.manager->callFinished(CallData::FinishHangup);
         QCOMPARE(records.size(), 1);
@@ -151,7 +151,7 @@ private slots:
     {
         RecordedEngine f;
         joinConference(f);
-        f.notify(18);
+        f.notify(Code::CallConnected);
         int prompts = 0;
         f.whileHandled = [&](BaseEvent &event) {
             // Once only: the end within the end takes the prompt away as well.
@@ -159,7 +159,7 @@ private slots:
                 f.manager->callFinished(CallData::FinishHangup);
             }
         };
-        f.notify(7);
+        f.notify(Code::CallEnded);
         QCOMPARE(prompts, 2);
         QCOMPARE(f.records(), QStringList{"'c1' 'anna' '2023-11-15 06:13:20' '0' 'anna,me,bert,' 1"});
         QCOMPARE(f.state(), QString("idle"));
@@ -169,10 +169,10 @@ private slots:
     {
         RecordedEngine f;
         f.manager->callSingleUser("anna", false);
-        f.notify(18);
-        f.notify(8);
-        f.notify(0, "bert");
-        f.notify(4);
+        f.notify(Code::CallConnected);
+        f.notify(Code::PeerHangup);
+        f.notify(Code::IncomingCall, "bert");
+        f.notify(Code::PeerCanceled);
         QCOMPARE(f.host.received(MSG_CALL_FINISHED).size(), 2);
         QCOMPARE(f.count(), 0);
     }
@@ -183,7 +183,7 @@ private slots:
         createConference(f);
         QList<int> counts;
         connect(f.manager->m_pVoipWidget, &CVoipWidget::signal_HangupCurrentCall, this, [&] { counts << f.count(); });
-        f.notify(7);
+        f.notify(Code::CallEnded);
         QCOMPARE(counts, QList<int>{1});
     }
 
@@ -191,7 +191,7 @@ private slots:
     {
         EngineFixture f;
         f.createConference();
-        f.notify(7);
+        f.notify(Code::CallEnded);
         QCOMPARE(f.state(), QString("idle"));
         QVERIFY(!f.manager->m_pVoipWidget->isVisible());
         f.manager->slot_DeleteConfInfoData("c1");

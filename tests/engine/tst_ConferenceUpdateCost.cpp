@@ -54,7 +54,7 @@ private slots:
         f.createConference();
         const QString content = update();
         zoneLookUps = 0;
-        f.notify(12, content);
+        f.notify(Code::ConfUpdate, content);
         QCOMPARE(f.members().size(), cMembers + 2);
         // Once a second, and however slow the machine is, it is no matter of minutes.
         QVERIFY2(zoneLookUps < cMembers / 10, qPrintable(QString::number(zoneLookUps.load())));
@@ -65,7 +65,7 @@ private slots:
         EngineFixture f;
         f.createConference();
         f.host.events.clear();
-        f.notify(12, update());
+        f.notify(Code::ConfUpdate, update());
         const QList<ReceivedEvent> events = f.host.events;
         QCOMPARE(events.size(), 3 * cMembers);
         for (int i = 0; i < cMembers; ++i) {
@@ -94,7 +94,7 @@ private slots:
             f.host.rawAnswers = {{MSG_IS_EXIST_FRIEND, packPayload(false)},
                                  {MSG_GET_FRIEND_INFO, packPayload(qint64(reinterpret_cast<quintptr>(&unknown)))}};
             const ProcessorClock updateClock;
-            f.notify(12, content);
+            f.notify(Code::ConfUpdate, content);
             dUpdate = std::min(dUpdate, updateClock.seconds());
             QCOMPARE(f.members().size(), cMembers + 2);
             const ProcessorClock questionClock;

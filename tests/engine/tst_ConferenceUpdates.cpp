@@ -18,14 +18,16 @@ private slots:
     {
         m_f->createConference();
         const CallData &call = m_f->manager->m_callData;
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["me","carl","carl","anna"])"));
+        m_f->notify(Code::ConfUpdate,
+                    conferenceContent(R"("confId":"c1","conventioneer":["me","carl","carl","anna"])"));
         QCOMPARE(call.memberList, QStringList({"anna", "bert", "me", "carl"}));
         QCOMPARE(call.connectedList, QStringList({"me", "carl", "carl", "anna"}));
         QCOMPARE(m_f->members(), QStringList({"anna 1", "bert 0", "carl 1"}));
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["me","carl","carl","anna"])"));
+        m_f->notify(Code::ConfUpdate,
+                    conferenceContent(R"("confId":"c1","conventioneer":["me","carl","carl","anna"])"));
         QCOMPARE(call.memberList, QStringList({"anna", "bert", "me", "carl"}));
         QCOMPARE(m_f->members(), QStringList({"anna 1", "bert 0", "carl 1"}));
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["bert"])"));
+        m_f->notify(Code::ConfUpdate, conferenceContent(R"("confId":"c1","conventioneer":["bert"])"));
         QCOMPARE(call.connectedList, QStringList{"bert"});
         QCOMPARE(m_f->members(), QStringList({"anna 1", "bert 1", "carl 1"}));
     }
@@ -47,17 +49,18 @@ private slots:
             m_f->host.events.clear();
             return lists;
         };
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["carl","dora","kv6005626532","emil"])"));
+        m_f->notify(Code::ConfUpdate,
+                    conferenceContent(R"("confId":"c1","conventioneer":["carl","dora","kv6005626532","emil"])"));
         QCOMPARE(asked(), QStringList{"carl+emil|-1+-1|1"});
         // Known members are not asked for again.
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["carl","dora"])"));
+        m_f->notify(Code::ConfUpdate, conferenceContent(R"("confId":"c1","conventioneer":["carl","dora"])"));
         QCOMPARE(asked(), QStringList{"||1"});
     }
 
     void updateAsksForTheOwnIdToo()
     {
         m_f->manager->m_strUserId = "me";
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["me"])"));
+        m_f->notify(Code::ConfUpdate, conferenceContent(R"("confId":"c1","conventioneer":["me"])"));
         QCOMPARE(m_f->host.received(MSG_IS_EXIST_FRIEND).size(), 1);
         EngineFixture::deliverPosted();
         QCOMPARE(m_f->host.received(MSG_GET_STRANGER_SMALL_VCARD).constLast().reader().takeTexts(), QStringList{"me"});
@@ -66,7 +69,7 @@ private slots:
     void updateNeverTakesAMemberAway()
     {
         m_f->createConference();
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":[])"));
+        m_f->notify(Code::ConfUpdate, conferenceContent(R"("confId":"c1","conventioneer":[])"));
         QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "bert", "me"}));
         QCOMPARE(m_f->manager->m_callData.connectedList, QStringList());
         QCOMPARE(m_f->members(), QStringList({"anna 0", "bert 0"}));
@@ -75,8 +78,8 @@ private slots:
     void updateLeavesTheOwnIdOutOfTheWindow()
     {
         m_f->manager->m_strUserId = "me";
-        m_f->notify(2, conferenceContent(R"("from":"anna","confId":"c1")"));
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["anna","me"])"));
+        m_f->notify(Code::IncomingConf, conferenceContent(R"("from":"anna","confId":"c1")"));
+        m_f->notify(Code::ConfUpdate, conferenceContent(R"("confId":"c1","conventioneer":["anna","me"])"));
         QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "me"}));
         QCOMPARE(m_f->members(), QStringList{"anna 1*"});
     }
@@ -96,7 +99,7 @@ private slots:
         QFETCH(QString, content);
         m_f->createConference();
         const QString before = m_f->callText();
-        m_f->notify(12, content);
+        m_f->notify(Code::ConfUpdate, content);
         QCOMPARE(m_f->callText(), before);
         EngineFixture::deliverPosted();
         QCOMPARE(m_f->host.commands(), QList<int>());
@@ -104,12 +107,13 @@ private slots:
 
     void updateInIdleHasItsEffects()
     {
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["anna"],"createTime":1600000000123)"));
+        m_f->notify(Code::ConfUpdate,
+                    conferenceContent(R"("confId":"c1","conventioneer":["anna"],"createTime":1600000000123)"));
         QCOMPARE(m_f->manager->m_callData.confId, QString("c1"));
         QCOMPARE(m_f->manager->m_callData.memberList, QStringList{"anna"});
         QVERIFY(!m_f->manager->m_callData.bIsConf);
         QVERIFY(m_f->manager->isExistCall());
-        m_f->notify(13, conferenceContent(R"("confId":"c1","conventioneer":[])"));
+        m_f->notify(Code::ConfMemberLeft, conferenceContent(R"("confId":"c1","conventioneer":[])"));
         QCOMPARE(m_f->manager->m_callData.connectedList, QStringList());
     }
 
@@ -122,7 +126,7 @@ private slots:
                 members.append("dora");
             }
         };
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["carl","dora"])"));
+        m_f->notify(Code::ConfUpdate, conferenceContent(R"("confId":"c1","conventioneer":["carl","dora"])"));
         QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "bert", "me", "carl", "dora"}));
     }
 
@@ -138,14 +142,15 @@ private slots:
             members.removeOne("anna");
             members.append("dora");
         };
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["carl","dora","anna"])"));
+        m_f->notify(Code::ConfUpdate, conferenceContent(R"("confId":"c1","conventioneer":["carl","dora","anna"])"));
         QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"bert", "me", "carl", "dora", "anna"}));
     }
 
     void updateTakesIdAndTimeBeforeTheHostIsAsked()
     {
         WhileAsked asked(*m_f);
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["anna"],"createTime":1600000000123)"));
+        m_f->notify(Code::ConfUpdate,
+                    conferenceContent(R"("confId":"c1","conventioneer":["anna"],"createTime":1600000000123)"));
         const QString time = QDateTime::fromMSecsSinceEpoch(1600000000123).toString(Qt::ISODateWithMs);
         QCOMPARE(asked.call, "0|0|0|0|anna|||c1||" + time);
     }
@@ -163,7 +168,7 @@ private slots:
             membersMeanwhile = m_f->members();
             connectedMeanwhile = m_f->manager->m_callData.connectedList;
         };
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["me","carl"])"));
+        m_f->notify(Code::ConfUpdate, conferenceContent(R"("confId":"c1","conventioneer":["me","carl"])"));
         QCOMPARE(membersMeanwhile, QStringList({"anna 0", "bert 0", "carl 0"}));
         QCOMPARE(connectedMeanwhile, QStringList{"me"});
     }
@@ -171,20 +176,22 @@ private slots:
     void leavingMarksTheMemberAndReplacesTheConnected()
     {
         m_f->createConference();
-        m_f->notify(12, conferenceContent(R"("confId":"c1","conventioneer":["me","anna","bert"])"));
-        m_f->notify(13, conferenceContent(R"("confId":"c1","from":"bert","conventioneer":["me","anna"])"));
+        m_f->notify(Code::ConfUpdate, conferenceContent(R"("confId":"c1","conventioneer":["me","anna","bert"])"));
+        m_f->notify(Code::ConfMemberLeft,
+                    conferenceContent(R"("confId":"c1","from":"bert","conventioneer":["me","anna"])"));
         QCOMPARE(m_f->members(), QStringList({"anna 1", "bert 4"}));
         QCOMPARE(m_f->manager->m_callData.connectedList, QStringList({"me", "anna"}));
         QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "bert", "me"}));
         // Without a sender only the lists follow.
-        m_f->notify(13, conferenceContent(R"("confId":"c1","conventioneer":["me"])"));
+        m_f->notify(Code::ConfMemberLeft, conferenceContent(R"("confId":"c1","conventioneer":["me"])"));
         QCOMPARE(m_f->members(), QStringList({"anna 1", "bert 4"}));
         QCOMPARE(m_f->manager->m_callData.connectedList, QStringList{"me"});
     }
 
     void leavingTakesNoTime()
     {
-        m_f->notify(13, conferenceContent(R"("confId":"c1","conventioneer":["anna"],"createTime":1600000000123)"));
+        m_f->notify(Code::ConfMemberLeft,
+                    conferenceContent(R"("confId":"c1","conventioneer":["anna"],"createTime":1600000000123)"));
         QCOMPARE(m_f->manager->m_callData.confId, QString("c1"));
         QCOMPARE(m_f->manager->m_callData.connectedList, QStringList{"anna"});
         QVERIFY(m_f->manager->m_callData.createTime.isNull());
@@ -193,7 +200,7 @@ private slots:
     void leavingOutsideAConferenceMarksNobody()
     {
         m_f->manager->m_pVoipWidget->addConferenceMember("bert");
-        m_f->notify(13, conferenceContent(R"("confId":"c1","from":"bert")"));
+        m_f->notify(Code::ConfMemberLeft, conferenceContent(R"("confId":"c1","from":"bert")"));
         QCOMPARE(m_f->members(), QStringList{"bert 0"});
     }
 
@@ -201,7 +208,7 @@ private slots:
     {
         m_f->createConference();
         const QString before = m_f->callText();
-        m_f->notify(13, conferenceContent(R"("confId":"c2","from":"bert","conventioneer":["anna"])"));
+        m_f->notify(Code::ConfMemberLeft, conferenceContent(R"("confId":"c2","from":"bert","conventioneer":["anna"])"));
         QCOMPARE(m_f->callText(), before);
         QCOMPARE(m_f->members(), QStringList({"anna 0", "bert 0"}));
     }

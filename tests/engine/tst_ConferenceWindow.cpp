@@ -62,30 +62,40 @@ private slots:
         const auto add = [](const char *name, const Step &run, const QStringList &changes) {
             QTest::newRow(name) << run << changes;
         };
-        add("code 5 naming another member: rejected", [](EngineFixture &f) { f.notify(5, "bert"); }, {"bert to 5"});
-        add("code 5 naming an unknown one: nothing", [](EngineFixture &f) { f.notify(5, "zoe"); }, {});
-        add("code 25: rejected", [](EngineFixture &f) { f.notify(25, "bert"); }, {"bert to 5"});
+        add("code 5 naming another member: rejected", [](EngineFixture &f) { f.notify(Code::UserRejected, "bert"); },
+            {"bert to 5"});
+        add("code 5 naming an unknown one: nothing", [](EngineFixture &f) { f.notify(Code::UserRejected, "zoe"); }, {});
+        add("code 25: rejected", [](EngineFixture &f) { f.notify(Code::ConfMemberRejected, "bert"); }, {"bert to 5"});
         add("code 13: hung up, then the list's status",
-            [](EngineFixture &f) { f.notify(13, document(R"("from":"bert","conventioneer":["me","anna"])")); },
+            [](EngineFixture &f) {
+                f.notify(Code::ConfMemberLeft, document(R"("from":"bert","conventioneer":["me","anna"])"));
+            },
             {"bert to 4", "anna to 1"});
         add("code 13 of one who is still there: hung up, then connected",
-            [](EngineFixture &f) { f.notify(13, document(R"("from":"bert","conventioneer":["bert"])")); },
+            [](EngineFixture &f) {
+                f.notify(Code::ConfMemberLeft, document(R"("from":"bert","conventioneer":["bert"])"));
+            },
             {"bert to 4", "bert to 1"});
         add("code 13 without a sender: the list's status alone",
-            [](EngineFixture &f) { f.notify(13, document(R"("conventioneer":["bert"])")); }, {"bert to 1"});
+            [](EngineFixture &f) { f.notify(Code::ConfMemberLeft, document(R"("conventioneer":["bert"])")); },
+            {"bert to 1"});
         add("code 12: new rows, then the list's status",
-            [](EngineFixture &f) { f.notify(12, document(R"("conventioneer":["me","bert","carl","dora"])")); },
+            [](EngineFixture &f) {
+                f.notify(Code::ConfUpdate, document(R"("conventioneer":["me","bert","carl","dora"])"));
+            },
             {"carl new 0", "dora new 0", "bert to 1", "carl to 1", "dora to 1"});
         add("code 12 without members: nothing",
-            [](EngineFixture &f) { f.notify(12, document(R"("conventioneer":[])")); }, {});
+            [](EngineFixture &f) { f.notify(Code::ConfUpdate, document(R"("conventioneer":[])")); }, {});
         add("code 21: the failed ones",
-            [](EngineFixture &f) { f.notify(21, R"({"status":1,"result":{"failedNums":["bert","zoe","anna"]}})"); },
+            [](EngineFixture &f) {
+                f.notify(Code::ConfAddResult, R"({"status":1,"result":{"failedNums":["bert","zoe","anna"]}})");
+            },
             {"bert to 2", "anna to 2"});
         add("code 21 without failed ones: nothing",
-            [](EngineFixture &f) { f.notify(21, R"({"status":0,"result":{}})"); }, {});
+            [](EngineFixture &f) { f.notify(Code::ConfAddResult, R"({"status":0,"result":{}})"); }, {});
         add("invited again: calling",
             [](EngineFixture &f) {
-                f.notify(25, "bert");
+                f.notify(Code::ConfMemberRejected, "bert");
                 f.manager->slot_ReInviteConfUser("bert");
             },
             {"bert to 5", "bert to 0"});
@@ -103,13 +113,13 @@ private slots:
     void membersBeforeTheAcceptStandInTheListTwice()
     {
         m_f->manager->m_strUserId = "me";
-        m_f->notify(2, document(R"("from":"anna")"));
-        m_f->notify(12, document(R"("conventioneer":["anna","me","bert"])"));
+        m_f->notify(Code::IncomingConf, document(R"("from":"anna")"));
+        m_f->notify(Code::ConfUpdate, document(R"("conventioneer":["anna","me","bert"])"));
         QCOMPARE(m_f->members(), QStringList({"anna 1*", "bert 1"}));
         m_f->manager->responseVoipRequest(true);
         // Deliberate: the accept adds the members without a look at the rows that are there.
         QCOMPARE(m_f->members(), QStringList({"anna 1*", "bert 1", "anna 0*", "bert 0"}));
-        m_f->notify(12, document(R"("conventioneer":["anna","me","bert"])"));
+        m_f->notify(Code::ConfUpdate, document(R"("conventioneer":["anna","me","bert"])"));
         QCOMPARE(m_f->members(), QStringList({"anna 1*", "bert 1", "anna 1*", "bert 1"}));
         QCOMPARE(m_f->manager->m_callData.memberList, QStringList({"anna", "me", "bert"}));
     }
@@ -119,11 +129,11 @@ private slots:
         m_f->createConference();
         const auto *count = m_f->manager->m_pVoipWidget->findChild<QLabel *>("lblListCount");
         QCOMPARE(count->text(), QStringLiteral("参与人员(2)"));
-        m_f->notify(12, document(R"("conventioneer":["me","anna","carl"])"));
+        m_f->notify(Code::ConfUpdate, document(R"("conventioneer":["me","anna","carl"])"));
         QCOMPARE(count->text(), QStringLiteral("参与人员(3)"));
         m_f->manager->slot_RemoveConferenceMember("carl");
         QCOMPARE(count->text(), QStringLiteral("参与人员(2)"));
-        m_f->notify(12, document(R"("conventioneer":["carl"])"));
+        m_f->notify(Code::ConfUpdate, document(R"("conventioneer":["carl"])"));
         QCOMPARE(count->text(), QStringLiteral("参与人员(3)"));
         QCOMPARE(m_f->members(), QStringList({"anna 1", "bert 0", "carl 1"}));
     }
@@ -131,11 +141,11 @@ private slots:
     void endForgetsTheMembersShown()
     {
         m_f->createConference();
-        m_f->notify(7);
+        m_f->notify(Code::CallEnded);
         QCOMPARE(m_f->members(), QStringList());
-        m_f->notify(2, R"({"content":{"confId":"c2","from":"anna"}})");
+        m_f->notify(Code::IncomingConf, R"({"content":{"confId":"c2","from":"anna"}})");
         m_f->manager->responseVoipRequest(true);
-        m_f->notify(12, R"({"content":{"confId":"c2","conventioneer":["anna","bert"]}})");
+        m_f->notify(Code::ConfUpdate, R"({"content":{"confId":"c2","conventioneer":["anna","bert"]}})");
         QCOMPARE(m_f->members(), QStringList({"anna 1*", "bert 1"}));
     }
 

@@ -81,7 +81,7 @@ private slots:
 
     void acceptedCallIsSetUpThenAnsweredThenShown()
     {
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         const Moments moments(*m_f);
         m_f->manager->responseVoipRequest(true);
         QCOMPARE(moments.noted,
@@ -91,7 +91,7 @@ private slots:
     void acceptedInvitationIsSetUpThenAnsweredThenShown()
     {
         m_f->manager->m_strUserId = "me";
-        m_f->notify(2, cDocument.arg(R"("from":"anna")"));
+        m_f->notify(Code::IncomingConf, cDocument.arg(R"("from":"anna")"));
         m_f->manager->m_callData.memberList = QStringList{"anna", "me", "bert"};
         const Moments moments(*m_f);
         m_f->manager->responseVoipRequest(true);
@@ -129,7 +129,7 @@ private slots:
     {
         m_f->createConference();
         const Moments moments(*m_f);
-        m_f->notify(12, cDocument.arg(R"("conventioneer":["carl","dora"])"));
+        m_f->notify(Code::ConfUpdate, cDocument.arg(R"("conventioneer":["carl","dora"])"));
         const QString carl(": outgoing anna+bert+me+carl, invite");
         const QString dora(": outgoing anna+bert+me+carl+dora, invite");
         // Each one's row, which asks for the card, then whether that one is a stranger.
@@ -139,11 +139,11 @@ private slots:
 
     void endIsToldWhenNothingRingsOrRunsAnyMore()
     {
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         m_f->manager->m_inviteTimer.start(60000);
         QCOMPARE(m_f->state(), QString("incoming bert, invite, receive, ring"));
         const Moments moments(*m_f);
-        m_f->notify(4);
+        m_f->notify(Code::PeerCanceled);
         QCOMPARE(moments.noted, QStringList({"4345: incoming bert", "4478: incoming bert"}));
     }
 
@@ -152,7 +152,7 @@ private slots:
         bool bCame = false;
         m_f->whileHandled = [&](BaseEvent &event) {
             if (event.msgId == MSG_IS_EXIST_FRIEND && !std::exchange(bCame, true)) {
-                m_f->notify(0, "bert");
+                m_f->notify(Code::IncomingCall, "bert");
             }
         };
         m_f->manager->callSingleUser("anna", true);

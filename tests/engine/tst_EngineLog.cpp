@@ -63,12 +63,13 @@ private slots:
         add("DEBUG SetCameraEnable = 1", [](EngineFixture &f) { f.manager->slot_SetCameraEnable(true); });
         add("DEBUG Voip Sdk call back msg iCode=6, string=text", [](EngineFixture &f) { f.notify(6, "text"); });
         add("DEBUG Voip Sdk call back msg iCode=-7, string=", [](EngineFixture &f) { f.notify(-7); });
-        add("DEBUG voipsdk:text", [](EngineFixture &f) { f.notify(999, "text"); });
-        add("DEBUG voipsdk:bert", [](EngineFixture &f) { f.notify(25, "bert"); });
-        add("DEBUG add conf member result={}", [](EngineFixture &f) { f.notify(21, "{}"); });
+        add("DEBUG voipsdk:text", [](EngineFixture &f) { f.notify(Code::SdkLog, "text"); });
+        add("DEBUG voipsdk:bert", [](EngineFixture &f) { f.notify(Code::ConfMemberRejected, "bert"); });
+        add("DEBUG add conf member result={}", [](EngineFixture &f) { f.notify(Code::ConfAddResult, "{}"); });
         add("DEBUG user singlecall touser = anna, isVideo = 1",
             [](EngineFixture &f) { f.manager->callSingleUser("anna", true); });
-        add("DEBUG recevie call user=bert, bIsConf=0, bIsVideo=0", [](EngineFixture &f) { f.notify(0, "bert"); });
+        add("DEBUG recevie call user=bert, bIsConf=0, bIsVideo=0",
+            [](EngineFixture &f) { f.notify(Code::IncomingCall, "bert"); });
         add("DEBUG recevie call user=anna, bIsConf=1, bIsVideo=1",
             [](EngineFixture &f) { f.manager->notifyRecevieVoipCall("anna", true, true); });
         add("DEBUG use response voip request, baccept = 0",
@@ -82,8 +83,8 @@ private slots:
         add("DEBUG reject call!", [](EngineFixture &f) { f.manager->rejectVoipCall(); });
         add("DEBUG hangup voip call!", [](EngineFixture &f) { f.manager->hangupVoipCall(); });
         add("DEBUG call finish!", [](EngineFixture &f) {
-            f.notify(0, "bert");
-            f.notify(4);
+            f.notify(Code::IncomingCall, "bert");
+            f.notify(Code::PeerCanceled);
         });
         add("DEBUG client connected, regedit user!", [](EngineFixture &f) { f.manager->clientConnectStatus(true); });
         add("DEBUG client disconnect, hangupcall, unrededit user!",
@@ -147,7 +148,7 @@ private slots:
     void wholeCallReadsInItsOrder()
     {
         takeTexts();
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         m_f->manager->responseVoipRequest(false);
         const QStringList texts = takeTexts();
         QCOMPARE(texts.mid(0, 11),
@@ -174,7 +175,7 @@ private slots:
     {
         QFETCH(Step, run);
         QFETCH(QString, text);
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         takeTexts();
         run(*m_f);
         QCOMPARE(m_f->boxes.texts.size(), 1);

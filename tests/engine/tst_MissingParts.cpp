@@ -24,7 +24,7 @@ private slots:
         f.createConference();
         delete std::exchange(f.manager->m_pVoipWidget, nullptr);
         const QString before = f.callText();
-        f.notify(5, "anna");
+        f.notify(Code::UserRejected, "anna");
         QCOMPARE(f.callText(), before);
         QCOMPARE(f.takeJournal(), QStringList());
     }
@@ -33,7 +33,7 @@ private slots:
     {
         EngineFixture f;
         QSound *pRing = std::exchange(f.manager->m_pRingSound, nullptr);
-        f.notify(0, "bert");
+        f.notify(Code::IncomingCall, "bert");
         f.manager->responseVoipRequest(false);
         f.manager->m_pRingSound = pRing;
         QCOMPARE(f.state(), QString("idle"));
@@ -57,7 +57,8 @@ private slots:
                 f.manager->exitVoip();
             }
         };
-        f.process.send(FakeCallProcess::line(0, "bert") + FakeCallProcess::line(5, "bert"));
+        f.process.send(FakeCallProcess::line(Code::IncomingCall, "bert") +
+                       FakeCallProcess::line(Code::UserRejected, "bert"));
         QTRY_VERIFY_WITH_TIMEOUT(f.manager->m_pVoipSocket == nullptr, cPatienceMs);
         EngineFixture::deliverPosted();
         QVERIFY(!f.manager->m_bSocketConnected);

@@ -45,7 +45,7 @@ private slots:
         begin(channel ? EngineFixture::WithCallProcess : EngineFixture::NoCallProcess);
         QVERIFY(!m_f->manager->getIsHasAudioInputDevice());
         if (call) {
-            m_f->notify(0, "bert");
+            m_f->notify(Code::IncomingCall, "bert");
         }
         m_f->takeJournal();
         const QString before = m_f->state();
@@ -64,7 +64,7 @@ private slots:
 
     void acceptSaysSoAndRejects()
     {
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         m_f->takeJournal();
         m_f->boxes.whileOpen = [this] { QCOMPARE(m_f->state(), QString("incoming bert, receive")); };
         m_f->manager->responseVoipRequest(true);
@@ -76,7 +76,7 @@ private slots:
 
     void acceptOfAConferenceRejectsTheConference()
     {
-        m_f->notify(2, R"({"content":{"from":"anna","confId":"c1"}})");
+        m_f->notify(Code::IncomingConf, R"({"content":{"from":"anna","confId":"c1"}})");
         m_f->takeJournal();
         m_f->manager->responseVoipRequest(true);
         QCOMPARE(m_f->boxes.texts, QStringList{cCannotAccept});
@@ -86,7 +86,7 @@ private slots:
 
     void ringStopsBeforeTheMessage()
     {
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         QString stateWhileOpen = m_f->state();
         QVERIFY(stateWhileOpen.contains("ring"));
         m_f->boxes.whileOpen = [&] { stateWhileOpen = m_f->state(); };
@@ -96,7 +96,7 @@ private slots:
 
     void receiveTimerMayEndTheCallWhileTheMessageIsOpen()
     {
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         m_f->takeJournal();
         QStringList journalWhileOpen;
         m_f->boxes.whileOpen = [&] {
@@ -112,11 +112,11 @@ private slots:
 
     void socketLinesAreHandledWhileTheMessageIsOpen()
     {
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         m_f->takeJournal();
         bool endedWhileOpen = false;
         m_f->boxes.whileOpen = [&] {
-            m_f->process.send(FakeCallProcess::line(4));
+            m_f->process.send(FakeCallProcess::line(Code::PeerCanceled));
             QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->isExistCall(), cPatienceMs);
             endedWhileOpen = true;
         };

@@ -41,8 +41,8 @@ private slots:
     {
         QTest::addColumn<int>("code");
 
-        QTest::newRow("code 0") << 0;
-        QTest::newRow("code 1") << 1;
+        QTest::newRow("code 0") << int(Code::IncomingCall);
+        QTest::newRow("code 1") << int(Code::IncomingCallAlt);
     }
 
     void incomingCallSetsTheCall()
@@ -76,7 +76,7 @@ private slots:
         QFETCH(QString, content);
         QFETCH(bool, flag);
         m_f->manager->m_bSdkFlag = !flag;
-        m_f->notify(17, content);
+        m_f->notify(Code::SdkFlag, content);
         QCOMPARE(m_f->manager->m_bSdkFlag, flag);
     }
 
@@ -86,7 +86,7 @@ private slots:
         const auto *controls = m_f->manager->m_pVoipWidget->findChild<QStackedWidget *>("controlPane");
         QCOMPARE(controls->currentIndex(), 0);
         const QDateTime before = QDateTime::currentDateTimeUtc();
-        m_f->notify(18, "not read");
+        m_f->notify(Code::CallConnected, "not read");
         const QDateTime after = QDateTime::currentDateTimeUtc();
         QCOMPARE(controls->currentIndex(), 1);
         QVERIFY(m_f->manager->m_callData.bIsConnected);
@@ -99,7 +99,7 @@ private slots:
         m_f->createConference();
         const QString before = m_f->callText();
         const QtMessages messages;
-        m_f->notify(999, "media up");
+        m_f->notify(Code::SdkLog, "media up");
         QCOMPARE(messages.debugLines, QStringList{"voipsdk:media up"});
         QCOMPARE(m_f->callText(), before);
         QCOMPARE(m_f->members(), QStringList({"anna 0", "bert 0"}));

@@ -122,7 +122,7 @@ private slots:
         QVERIFY(!m_f->manager->m_reconnectTimer.isActive());
         // One connection of the signal, not one for each attempt.
         const QtMessages messages;
-        m_f->process.send(FakeCallProcess::line(999, "once"));
+        m_f->process.send(FakeCallProcess::line(Code::SdkLog, "once"));
         QTRY_COMPARE_WITH_TIMEOUT(deliveredPayloads(messages), QStringList{"once"}, cPatienceMs);
     }
 

@@ -11,7 +11,7 @@
 
 namespace {
 
-QByteArray line(int code, const QString &content = QString())
+QByteArray line(Code code, const QString &content = QString())
 {
     return FakeCallProcess::line(code, content);
 }
@@ -110,8 +110,8 @@ private slots:
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QStringList>("payloads");
 
-        const QByteArray a = line(999, "a");
-        const QByteArray b = line(999, "b");
+        const QByteArray a = line(Code::SdkLog, "a");
+        const QByteArray b = line(Code::SdkLog, "b");
         QTest::newRow("one") << a << QStringList{"a"};
         QTest::newRow("two in order") << b + a << QStringList{"b", "a"};
         QTest::newRow("two equal ones") << a + a << QStringList{"a"};
@@ -123,7 +123,8 @@ private slots:
             << QStringList{"a", "b"};
         QTest::newRow("empty line between") << a + "\n" + b << QStringList{"a"};
         QTest::newRow("carriage returns") << QByteArray(a).replace("\n", "\r\n") + b << QStringList{"a", "b"};
-        QTest::newRow("outside ASCII") << line(999, QStringLiteral("呼叫")) << QStringList{QStringLiteral("呼叫")};
+        QTest::newRow("outside ASCII") << line(Code::SdkLog, QStringLiteral("呼叫"))
+                                       << QStringList{QStringLiteral("呼叫")};
     }
 
     void linesOfOneReadAreDelivered()
@@ -139,10 +140,10 @@ private slots:
     void lineSplitOverTwoReadsIsLost()
     {
         const QtMessages messages;
-        const QByteArray split = line(999, "split in the middle");
+        const QByteArray split = line(Code::SdkLog, "split in the middle");
         m_f->process.send(split.left(20));
         QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, cPatienceMs);
-        m_f->process.send(split.mid(20) + line(999, "next"));
+        m_f->process.send(split.mid(20) + line(Code::SdkLog, "next"));
         QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, cPatienceMs);
         QCOMPARE(deliveredPayloads(messages), QStringList{"next"});
     }
@@ -151,9 +152,9 @@ private slots:
     {
         const QtMessages messages;
         // The line feed behind the byte would give the next line a clean start.
-        m_f->process.send(line(999, "before") + '\0' + '\n' + line(999, "behind"));
+        m_f->process.send(line(Code::SdkLog, "before") + '\0' + '\n' + line(Code::SdkLog, "behind"));
         QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 1, cPatienceMs);
-        m_f->process.send(line(999, "later"));
+        m_f->process.send(line(Code::SdkLog, "later"));
         QTRY_COMPARE_WITH_TIMEOUT(readCount(messages), 2, cPatienceMs);
         QCOMPARE(deliveredPayloads(messages), QStringList({"before", "later"}));
     }
@@ -188,13 +189,13 @@ private slots:
             if (event.msgId != MSG_RECEVIE_VOIP_CALL) {
                 return;
             }
-            m_f->process.send(line(18));
+            m_f->process.send(line(Code::CallConnected));
             QEventLoop loop;
             while (m_f->manager->m_pVoipSocket->bytesAvailable() == 0) {
                 loop.processEvents(QEventLoop::WaitForMoreEvents);
             }
         };
-        m_f->process.send(line(0, "bert"));
+        m_f->process.send(line(Code::IncomingCall, "bert"));
         QTRY_VERIFY_WITH_TIMEOUT(!m_f->manager->m_callData.peerId.isEmpty(), cPatienceMs);
         QTRY_VERIFY_WITH_TIMEOUT(m_f->manager->m_callData.bIsConnected, cPatienceMs);
         QVERIFY(!m_f->manager->m_recevieTimer.isActive());
@@ -203,7 +204,7 @@ private slots:
     void readIsWrittenToTheDebugLog()
     {
         const QtMessages messages;
-        const QByteArray bytes = line(998, QStringLiteral("呼叫"));
+        const QByteArray bytes = FakeCallProcess::line(998, QStringLiteral("呼叫"));
         m_f->process.send(bytes);
         QTRY_COMPARE_WITH_TIMEOUT(messages.debugLines,
                                   QStringList{QStringLiteral("Voip返回数据") + QString::fromUtf8(bytes)}, cPatienceMs);

@@ -99,10 +99,10 @@ private slots:
         QTest::newRow("outgoing") << Step([](EngineFixture &f) { f.manager->callSingleUser("anna", false); })
                                   << "outgoing anna, invite";
         QTest::newRow("incoming, only ringing")
-            << Step([](EngineFixture &f) { f.notify(0, "bert"); }) << "incoming bert, receive, ring";
+            << Step([](EngineFixture &f) { f.notify(Code::IncomingCall, "bert"); }) << "incoming bert, receive, ring";
         QTest::newRow("connected") << Step([](EngineFixture &f) {
             f.manager->callSingleUser("anna", false);
-            f.notify(18);
+            f.notify(Code::CallConnected);
         }) << "connected anna";
         QTest::newRow("conference") << Step([](EngineFixture &f) { f.manager->callConference({"anna"}, false, ""); })
                                     << "outgoing anna+, invite";
@@ -136,7 +136,7 @@ private slots:
     void existingCallIsToldBeforeTheMissingChannel()
     {
         begin(EngineFixture::NoCallProcess);
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         m_f->manager->callSingleUser("anna", false);
         QCOMPARE(m_f->boxes.texts, QStringList{"soundfailedinsound"});
     }
@@ -175,7 +175,7 @@ private slots:
     {
         QFETCH(QString, user);
         m_f->host.friendJids.insert(EngineFixture::jid("bert"));
-        m_f->notify(0, user);
+        m_f->notify(Code::IncomingCall, user);
         QTEST(strangerRequests(*m_f), "requests");
     }
 
@@ -188,7 +188,7 @@ private slots:
             }
             stateMeanwhile = m_f->state();
         };
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         QCOMPARE(m_f->host.commands(), QList<int>({MSG_GET_FRIEND_INFO, MSG_IS_EXIST_FRIEND, MSG_RECEVIE_VOIP_CALL}));
         QCOMPARE(stateMeanwhile, QString("incoming bert, ring"));
         QCOMPARE(m_f->state(), QString("incoming bert, receive, ring"));
@@ -196,7 +196,7 @@ private slots:
 
     void acceptShowsTheWindowAndKeepsTheTimer()
     {
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         m_f->takeJournal();
         m_f->manager->responseVoipRequest(true);
         QCOMPARE(m_f->takeJournal(), QStringList{"AcceptCall"});
@@ -243,12 +243,12 @@ private slots:
         m_f->manager->slot_SetCameraEnable(true);
         m_f->manager->slot_SetMicVolume(50);
         m_f->manager->slot_SetSpeakerVolume(50);
-        m_f->notify(0, "bert");
+        m_f->notify(Code::IncomingCall, "bert");
         m_f->manager->rejectVoipCall();
-        m_f->notify(0, "bert");
-        m_f->notify(18);
+        m_f->notify(Code::IncomingCall, "bert");
+        m_f->notify(Code::CallConnected);
         m_f->manager->hangupVoipCall();
-        m_f->notify(2, R"({"content":{"from":"anna","confId":"c1"}})");
+        m_f->notify(Code::IncomingConf, R"({"content":{"from":"anna","confId":"c1"}})");
         m_f->manager->addConferenceMember({"carl"});
         m_f->manager->slot_MuteAll(true);
         m_f->manager->rejectVoipCall();

@@ -52,7 +52,7 @@ private slots:
     void silentServerLetsTheRingRing()
     {
         EngineFixture f;
-        f.notify(0, "bert");
+        f.notify(Code::IncomingCall, "bert");
         QCOMPARE(f.state(), QString("incoming bert, receive, ring"));
         f.manager->responseVoipRequest(true);
         QCOMPARE(f.state(), QString("incoming bert, receive"));

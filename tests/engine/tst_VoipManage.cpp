@@ -140,7 +140,7 @@ private slots:
     void clearingTouchesTheCallOnly()
     {
         EngineFixture f;
-        f.notify(0, "bert");
+        f.notify(Code::IncomingCall, "bert");
         f.manager->m_pVoipWidget->show();
         f.manager->m_inviteTimer.start(60000);
         CallData &call = f.manager->m_callData;
@@ -253,7 +253,7 @@ private slots:
         QFETCH(QString, closeVoice);
         EngineFixture f;
         f.settings.m_strCloseVoice = closeVoice;
-        f.notify(0, "bert");
+        f.notify(Code::IncomingCall, "bert");
         QTEST(f.state(), "state");
         QCOMPARE(f.takeJournal(), QStringList{"4639 bert false false"});
     }
@@ -289,12 +289,12 @@ private slots:
         SharedContext::setCommonData(nullptr);
         VoipManageMessageProcess::instance()->setSendEvent(nullptr);
         f.manager->clientConnectStatus(true);
-        f.notify(0, "bert");
+        f.notify(Code::IncomingCall, "bert");
         f.manager->responseVoipRequest(true);
-        f.notify(18);
-        f.notify(7);
+        f.notify(Code::CallConnected);
+        f.notify(Code::CallEnded);
         f.manager->callConference({"anna"}, false, "");
-        f.notify(12, R"({"content":{"confId":"c1","conventioneer":["anna","carl"]}})");
+        f.notify(Code::ConfUpdate, R"({"content":{"confId":"c1","conventioneer":["anna","carl"]}})");
         // Nobody picks: the question's own list is read as the answer, and nobody in it is new.
         f.manager->slot_AddConfMember();
         f.manager->clientConnectStatus(false);

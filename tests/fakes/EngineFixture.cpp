@@ -73,7 +73,7 @@ void EngineFixture::createConference()
 {
     manager->m_strUserId = login.m_strUid;
     manager->callConference({QStringLiteral("anna"), QStringLiteral("bert")}, false, QString());
-    notify(20, QStringLiteral(R"({"result":{"confId":"c1"}})"));
+    notify(Code::ConfCreated, QStringLiteral(R"({"result":{"confId":"c1"}})"));
     takeJournal();
     deliverPosted();
     host.events.clear();

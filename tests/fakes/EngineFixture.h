@@ -34,6 +34,8 @@ public:
     static QString jid(const QString &uid) { return uid + QStringLiteral("@kelvar.im"); }
 
     /// Sends a notification straight into the engine.
+    void notify(Code code, const QString &content = QString()) { notify(int(code), content); }
+    /// The same for any number, also one that no notification has.
     void notify(int code, const QString &content = QString()) { manager->callbackMessage(code, content); }
 
     /// Lets the user "me" create the conference c1 with anna and bert, and forgets what went out for it.

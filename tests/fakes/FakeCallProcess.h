@@ -4,12 +4,16 @@
 // whole lines and sends whatever bytes it is told. It reads without an event loop, so that a test can look at what has
 // been written so far from inside any handler. GUI thread.
 
+#include "wire/Notifications.h"
+
 #include <QByteArray>
 #include <QLocalServer>
 #include <QPointer>
 #include <QStringList>
 
 class QLocalSocket;
+
+using Wire::Code;
 
 class FakeCallProcess
 {
@@ -30,6 +34,8 @@ public:
     /// Writes bytes as they stand.
     void send(const QByteArray &bytes);
     /// One notification as a line.
+    static QByteArray line(Code code, const QString &content = QString()) { return line(int(code), content); }
+    /// The same for any number, also one that no notification has.
     static QByteArray line(int code, const QString &content = QString());
     /// A line from the plug-in, with its line feed, as takeLines() shows it.
     static QString shown(const QByteArray &line);

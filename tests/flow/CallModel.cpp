@@ -3,9 +3,12 @@
 #include "engine/ConferenceDocument.h"
 #include "engine/SdkLine.h"
 #include "model/UserIds.h"
+#include "wire/Notifications.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
+
+using Wire::Code;
 
 namespace {
 
@@ -266,50 +269,50 @@ void CallModel::ring(const QString &uid)
 
 void CallModel::notify(int code, const QString &content)
 {
-    switch (code) {
-    case 0:
-    case 1:
+    switch (Code{code}) {
+    case Code::IncomingCall:
+    case Code::IncomingCallAlt:
         call.bIsConf = call.bIsVideo = call.bIsCaller = false;
         call.peerId = content;
         return ring(content);
-    case 2:
+    case Code::IncomingConf:
         return invitation(content);
-    case 3:
+    case Code::RejectRequest:
         return reject();
-    case 4:
+    case Code::PeerCanceled:
         return finish(21);
-    case 5:
+    case Code::UserRejected:
         if (content == m_strOwnId || !call.bIsConf) {
             finish(content == m_strOwnId ? 21 : 26);
         }
         return;
-    case 7:
+    case Code::CallEnded:
         return finish(call.bIsConnected ? 24 : 21);
-    case 8:
-    case 9:
+    case Code::PeerHangup:
+    case Code::PeerHangupAlt:
         return finish(24);
-    case 10:
+    case Code::PeerRejected:
         return finish(26);
-    case 12:
+    case Code::ConfUpdate:
         return update(content);
-    case 13:
+    case Code::ConfMemberLeft:
         return memberLeft(content);
-    case 18:
+    case Code::CallConnected:
         call.bIsConnected = true;
         call.connectTime = QDateTime::currentDateTimeUtc();
         inviteRuns = recevieRuns = false;
         return;
-    case 20:
+    case Code::ConfCreated:
         if (content.isEmpty()) {
             return finish(22);
         }
         call.confId = createdConferenceId(content);
         return;
-    case 22:
+    case Code::PeerBusy:
         return finish(25);
-    case 19:
-    case 23:
-    case 24:
+    case Code::CallFailed:
+    case Code::CallFailedAlt:
+    case Code::CallFailedAlt2:
         return finish(22);
     default:
         return;

@@ -1,8 +1,12 @@
 #include "flow/WireNoise.h"
 
+#include "wire/Notifications.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+using Wire::Code;
 
 namespace {
 
@@ -62,16 +66,16 @@ QString WireNoise::content(int code)
     if (chance(12)) {
         return text();
     }
-    switch (code) {
-    case 2:
-    case 12:
-    case 13:
+    switch (Code{code}) {
+    case Code::IncomingConf:
+    case Code::ConfUpdate:
+    case Code::ConfMemberLeft:
         return conferenceDocument();
-    case 20:
+    case Code::ConfCreated:
         return chance(3) ? QString() : compact({{"result", QJsonObject{{"confId", chance(3) ? "c2" : "c1"}}}});
-    case 21:
+    case Code::ConfAddResult:
         return compact({{"status", 0}, {"result", QJsonObject{{"failedNums", QJsonArray::fromStringList(uids())}}}});
-    case 17:
+    case Code::SdkFlag:
         return chance(2) ? "true" : "false";
     default:
         return uid();
@@ -81,11 +85,14 @@ QString WireNoise::content(int code)
 int WireNoise::code()
 {
     if (chance(20)) {
-        return chance(2) ? 999 : below(100000) - 1000;
+        return chance(2) ? int(Code::SdkLog) : below(100000) - 1000;
     }
     // The ends are many among the codes; the rest has to come more often, or no call would last.
-    static const QList<int> s_lasting{0, 1, 2, 12, 12, 13, 17, 18, 18, 20, 21, 25};
-    return chance(4) ? below(27) : s_lasting.at(below(s_lasting.size()));
+    static const QList<Code> s_lasting{Code::IncomingCall, Code::IncomingCallAlt, Code::IncomingConf,
+                                       Code::ConfUpdate,   Code::ConfUpdate,      Code::ConfMemberLeft,
+                                       Code::SdkFlag,      Code::CallConnected,   Code::CallConnected,
+                                       Code::ConfCreated,  Code::ConfAddResult,   Code::ConfMemberRejected};
+    return chance(4) ? below(27) : int(s_lasting.at(below(s_lasting.size())));
 }
 
 QString WireNoise::line()

@@ -82,7 +82,7 @@ void call(EngineFixture &fixture)
 void ringing(EngineFixture &fixture)
 {
     signIn(fixture);
-    fixture.notify(0, QStringLiteral("30010007"));
+    fixture.notify(Code::IncomingCall, QStringLiteral("30010007"));
 }
 
 void requested(EngineFixture &fixture)
@@ -94,7 +94,7 @@ void requested(EngineFixture &fixture)
 void conference(EngineFixture &fixture)
 {
     requested(fixture);
-    fixture.notify(20, QStringLiteral(R"({"result":{"confId":"700001"}})"));
+    fixture.notify(Code::ConfCreated, QStringLiteral(R"({"result":{"confId":"700001"}})"));
 }
 
 void joined(EngineFixture &fixture)
