@@ -1,10 +1,12 @@
 #include "GalleryUser.h"
 
+#include "robots/RobotIds.h"
+
 #include "model/SharedContext.h"
 
 GalleryUser::GalleryUser()
 {
-    m_login.m_strUid = QStringLiteral("30010000");
+    m_login.m_strUid = QLatin1String(Robots::cOwnUser);
     m_settings.m_strUserFolder = m_folder.path();
     m_settings.m_strHeadImageFolder = m_folder.filePath(QStringLiteral("heads/"));
     m_context.setLoginData(&m_login);

@@ -1,6 +1,7 @@
 #include "KitFields.h"
 
 #include "Sheet.h"
+#include "robots/RobotIds.h"
 
 #include "common/pictures/IconFont.h"
 #include "common/pictures/IconGlyphs.h"
@@ -44,7 +45,7 @@ CLineEditEx *limitedEdit(const QString &strText)
 
 CLineEditEx *deletableEdit(bool bShown)
 {
-    CLineEditEx *edit = lineEdit(QStringLiteral("张三 30010001"));
+    CLineEditEx *edit = lineEdit(QStringLiteral("张三 ") + QLatin1String(Robots::answers));
     edit->addDeleteBtn();
     edit->showDeleteBtn(bShown);
     return edit;

@@ -1,5 +1,7 @@
 #include "PicturesPage.h"
 
+#include "robots/RobotIds.h"
+
 #include "common/Palette.h"
 #include "common/pictures/HeadImages.h"
 #include "common/pictures/NinePatch.h"
@@ -144,7 +146,7 @@ void PicturesPage::addWaterMark()
 {
     section(QStringLiteral("generateWaterMark"));
     QString name = QStringLiteral("李明");
-    QString id = QStringLiteral("30010000");
+    QString id = QLatin1String(Robots::cOwnUser);
     QString path;
     const bool made = WaterMark::generateWaterMark(name, id, path);
     row(QStringLiteral("a part of it"),

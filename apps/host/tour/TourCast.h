@@ -17,4 +17,10 @@ inline QString u(const char *strText)
     return QString::fromUtf8(strText);
 }
 
+/// The same with a user id for its %1.
+inline QString u(const char *strText, const char *strUid)
+{
+    return u(strText).arg(QLatin1String(strUid));
+}
+
 } // namespace TourCast

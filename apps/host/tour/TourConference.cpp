@@ -21,7 +21,7 @@ using Steps = QList<TourStep>;
 /// A list with this one text, as it stands on the wire.
 QString only(const char *strUid)
 {
-    return QStringLiteral("[\"%1\"]").arg(QLatin1String(strUid));
+    return u(R"(["%1"])", strUid);
 }
 
 Steps start(const TourScript &s)
@@ -38,7 +38,7 @@ Steps start(const TourScript &s)
          s.picker()},
         {u("Invite them: some join, one is busy, one rejects, one never answers, one cannot be reached"),
          s.pressPicker("btnInvite"),
-         {s.pickerGone(), s.asked(MSG_CALL_CONFERENCE, u("members=[30010001, 30010002")),
+         {s.pickerGone(), s.asked(MSG_CALL_CONFERENCE, u("members=[%1, ", answers) + QLatin1String(busy)),
           s.command(Command::RequestConference), s.memberCount(6), s.code(Code::ConfCreated, "conference created"),
           s.code(Code::CallConnected, "connected"), s.code(Code::ConfUpdate, "members"),
           s.code(Code::ConfAddResult, "result of adding"), s.member(fails, "赵强", ConferenceFailed),
@@ -60,22 +60,22 @@ Steps control(const TourScript &s)
         {u("Mute everybody"),
          s.pressCallWindow("btnMuteAll"),
          {s.command(Command::ControlConf, u("\"param1\":\"mute\",\"param2\":\"non_moderator\"")),
-          s.happened(u("muted now: [30010001]"))},
+          s.happened(u("muted now: [%1]", answers))},
          cUsualLimitMs,
          u("conference-muted"),
          s.callWindow()},
         {u("Let 李雷 speak again, by the button of the row"),
          s.pressMember(answers, ROLE_MUTE_RECT),
-         {s.command(Command::ControlConf, u("\"param1\":\"unmute\",\"param2\":\"30010001\"")),
-          s.happened(u("unmuted 30010001"))}},
+         {s.command(Command::ControlConf, u(R"("param1":"unmute","param2":"%1")", answers)),
+          s.happened(u("unmuted %1", answers))}},
         {u("Call Anna Novak again, by a double click on her row"),
          s.doubleClickMember(hangsUp),
          {s.command(Command::Add2Conference, only(hangsUp)), s.member(hangsUp, "Anna Novak", ConferenceCalling),
           s.code(Code::ConfAddResult, "result of adding"), s.member(hangsUp, "Anna Novak", ConferenceConnected)}},
         {u("Remove 李雷, by the button of the row"),
          s.pressMember(answers, ROLE_REMOVE_RECT),
-         {s.command(Command::ControlConf, u("\"param1\":\"kick\",\"param2\":\"30010001\"")),
-          s.happened(u("kicked 30010001")), s.code(Code::ConfMemberLeft, "a member has left"),
+         {s.command(Command::ControlConf, u(R"("param1":"kick","param2":"%1")", answers)),
+          s.happened(u("kicked %1", answers)), s.code(Code::ConfMemberLeft, "a member has left"),
           s.memberGone(answers, "李雷"), s.memberCount(5)}},
     };
 }
@@ -92,7 +92,7 @@ Steps addMore(const TourScript &s)
         {u("Pick 林涛"), s.pick({comesBack}), {s.pickerSays("btnInvite", u("Invite (1)"))}},
         {u("Invite: the picker's answer goes back within the question"),
          s.pressPicker("btnInvite"),
-         {s.pickerGone(), s.told(MSG_ADD_CONFERENCE_MEMBER, u("users=[30010009]")),
+         {s.pickerGone(), s.told(MSG_ADD_CONFERENCE_MEMBER, u("users=[%1]", comesBack)),
           s.command(Command::Add2Conference, only(comesBack)), s.memberCount(6),
           s.member(comesBack, "林涛", ConferenceConnected)}},
     };

@@ -169,7 +169,7 @@ Steps video(const TourScript &s, const TourStage &stage)
         {u("Call 李雷 by video"),
          s.pressContact(answers, "btnVideo"),
          {s.command(Command::CallUser, u("\"param2\":true")), s.code(Code::CallConnected, "connected"),
-          s.shows("lblVoipTipMsg", u("与李雷(Answers)(30010001)通话中")), s.clockRuns()},
+          s.shows("lblVoipTipMsg", u("与李雷(Answers)(%1)通话中", answers)), s.clockRuns()},
          cUsualLimitMs,
          u("call-video"),
          s.callWindow()},
@@ -199,9 +199,9 @@ Steps farEnd(const TourScript &s)
     };
 }
 
-Steps callBack(const TourScript &s, const char *strTitle, const QString &strPicture)
+Steps callBack(const TourScript &s, const QString &strTitle, const QString &strPicture)
 {
-    return {{u(strTitle),
+    return {{strTitle,
              s.pressContact(callsBack, "btnCall"),
              {s.told(MSG_GET_STRANGER_SMALL_VCARD, QLatin1String(callsBack)), s.asked(MSG_UPDATE_USER_INFO),
               s.shows("lblUserName", u("韩梅梅(Calls you back)")), s.code(Code::PeerRejected, "rejected"),
@@ -214,8 +214,10 @@ Steps callBack(const TourScript &s, const char *strTitle, const QString &strPict
 
 Steps incoming(const TourScript &s)
 {
-    return callBack(s, "Call the stranger 30010007: a card is fetched, the call rejected, and the stranger calls back",
-                    u("incoming-prompt")) +
+    return callBack(
+               s,
+               u("Call the stranger %1: a card is fetched, the call rejected, and the stranger calls back", callsBack),
+               u("incoming-prompt")) +
            Steps{
                {u("Accept"),
                 s.pressPrompt("btnAccept"),
@@ -230,7 +232,7 @@ Steps incoming(const TourScript &s)
                 {s.code(Code::PeerHangup, "hung up by the other side"), s.record(resultHungUp, false, true),
                  s.windowGone()}},
            } +
-           callBack(s, "Let the stranger call once more", QString()) +
+           callBack(s, u("Let the stranger call once more"), QString()) +
            Steps{{u("Reject"),
                   s.pressPrompt("btnReject"),
                   {s.asked(MSG_RESPONSE_VOIP_REQUEST, u("accept=no")), s.command(Command::RejectCall), s.promptGone(),
