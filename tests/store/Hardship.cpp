@@ -1,4 +1,4 @@
-#include "Hardship.h"
+#include "store/Hardship.h"
 
 #include <QFile>
 

@@ -1,4 +1,4 @@
-#include "StoreFolder.h"
+#include "store/StoreFolder.h"
 
 #include "model/SharedContext.h"
 

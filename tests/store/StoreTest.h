@@ -2,8 +2,8 @@
 
 // What the tests of the store's session share: a store of its own for each test, and no warning of Qt's in any.
 
-#include "StoreFixture.h"
 #include "store/DB.h"
+#include "store/StoreFixture.h"
 
 #include <QTest>
 

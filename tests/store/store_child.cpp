@@ -6,7 +6,7 @@
 //   store_child write BASE FIRST         says "start", opens the store of "user", then saves the numbered records from
 //                                        FIRST on and says each number once the record is saved
 
-#include "NumberedRecord.h"
+#include "store/NumberedRecord.h"
 
 #include "model/SharedContext.h"
 #include "store/DB.h"

@@ -1,5 +1,5 @@
-#include "StoreTest.h"
 #include "fakes/FileBytes.h"
+#include "store/StoreTest.h"
 
 #include <type_traits>
 

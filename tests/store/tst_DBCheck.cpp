@@ -1,5 +1,5 @@
-#include "StoreTest.h"
 #include "fakes/FileBytes.h"
+#include "store/StoreTest.h"
 
 #include <QTest>
 #include <QTranslator>

@@ -1,5 +1,5 @@
-#include "StoreTest.h"
 #include "store/DBConfInfo.h"
+#include "store/StoreTest.h"
 
 #include <QTest>
 

@@ -1,8 +1,8 @@
-#include "StoreTest.h"
 #include "common/CLogManger.h"
 #include "fakes/LogCapture.h"
 #include "model/SharedContext.h"
 #include "store/DBLastTime.h"
+#include "store/StoreTest.h"
 
 #include <QRegularExpression>
 #include <QTest>

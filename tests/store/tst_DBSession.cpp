@@ -1,6 +1,6 @@
 // The session connection: how a user's store is opened, switched and closed, and where the context points meanwhile.
 
-#include "StoreTest.h"
+#include "store/StoreTest.h"
 
 #include "common/AppPaths.h"
 #include "model/SharedContext.h"

@@ -1,4 +1,4 @@
-#include "StoreFixture.h"
+#include "store/StoreFixture.h"
 
 #include "model/CServiceNumData.h"
 

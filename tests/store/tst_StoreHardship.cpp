@@ -1,5 +1,5 @@
-#include "Hardship.h"
-#include "StoreFolder.h"
+#include "store/Hardship.h"
+#include "store/StoreFolder.h"
 
 #include <QDir>
 #include <QFile>

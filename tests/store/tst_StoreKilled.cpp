@@ -1,5 +1,5 @@
-#include "StoreFolder.h"
 #include "fakes/Patience.h"
+#include "store/StoreFolder.h"
 
 #include <QFile>
 #include <QProcess>

@@ -1,5 +1,5 @@
-#include "LockHolder.h"
-#include "StoreFolder.h"
+#include "store/LockHolder.h"
+#include "store/StoreFolder.h"
 
 #include "model/SharedContext.h"
 #include "store/LockWait.h"

@@ -1,8 +1,8 @@
 // The statements themselves, as they reach the database: an existing file is read and written by exactly these.
 
-#include "SchemaFile.h"
 #include "store/DBConfInfo.h"
 #include "store/DBLastTime.h"
+#include "store/SchemaFile.h"
 
 #include <QTest>
 
