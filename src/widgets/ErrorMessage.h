@@ -86,6 +86,9 @@ private slots:
     void slot_paste();
 
 private:
+    static constexpr int cTagMode = 3;     ///< the one mode that has a number; all others have 0
+    static constexpr int cTagColumns = 14; ///< the limit of a tag: 7 Chinese characters
+
     void setUpWindow();
     void connectControls();
     void watchControls();
