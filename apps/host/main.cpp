@@ -96,6 +96,14 @@ bool isFirst(SingleInstance &instance, bool bTour, int *iExitCode)
     return outcome == SingleInstance::First;
 }
 
+/// Loads the words of the user's language; for the tour, which knows the windows by their English words, those.
+void speak(HostLanguage &language, bool bTour)
+{
+    if (!language.use(bTour ? QStringLiteral("en") : HostSettings::language())) {
+        QTextStream(stderr) << "No translations in " << HostCatalogue::folder() << '\n';
+    }
+}
+
 /// Makes the folder and tells the call process, by the environment that it inherits, how the tour wants it.
 QString prepareTour(const QString &strFolder)
 {
@@ -175,10 +183,7 @@ int main(int argc, char **argv)
     QApplication::setWindowIcon(QIcon(HostPictures::windowIcon()));
     WindowFont::substituteMissing();
     HostLanguage language(HostCatalogue::folder());
-    // The tour knows the windows by their English words.
-    if (!language.use(folder.isNull() ? HostSettings::language() : QStringLiteral("en"))) {
-        QTextStream(stderr) << "No translations in " << HostCatalogue::folder() << '\n';
-    }
+    speak(language, !folder.isNull());
     ContactBook book(HostSession::loginDomain(), options.user);
     HostSession session(book);
     if (!session.start(QCoreApplication::applicationDirPath() + QStringLiteral("/libVoipManage.so"), &error)) {
