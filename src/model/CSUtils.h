@@ -7,8 +7,9 @@
 class CSUtils
 {
 public:
-    /// The path of a channel's picture. Empty, or the default picture's own path: the default picture. Else the system
-    /// avatar of that name (".jpg" is added to a name without "."), and when there is none, the folder of head images
-    /// followed by `photoName` as it was given, deliberately without the added ".jpg".
+    /// The path of a channel's picture. For an empty `photoName`, and for the default picture's own path, that is the
+    /// default picture. Else it is the system avatar of that name, to which ".jpg" is added where it has no "."; and
+    /// where there is no such avatar, the folder of head images followed by `photoName` as it was given, deliberately
+    /// without the added ".jpg".
     static QString getChannelIconPath(const QString &photoName);
 };

@@ -32,8 +32,8 @@ public:
     /// The record of `strJid`: from the shared friend map when it is there, else by asking the contact plug-in. Without
     /// an answer a default record.
     static FriendData getFriendInfoByJid(QString strJid);
-    /// Whether the contact plug-in knows `strJid` as a contact. Without an answer the first byte of the question
-    /// counts, which is false for any text but a null one.
+    /// Whether the contact plug-in knows `strJid` as a contact. The answer replaces the question in the event; without
+    /// one the question is read as if it were the answer, by its first byte: false for any text but a null one.
     static bool isExistFriend(QString strJid);
     /// Asks the vCard plug-in, by a queued event, for the cards of `ids`; `versions` holds for each id the decimal
     /// version of the card at hand. The cards come back as MSG_UPDATE_USER_INFO. The engine always passes `flag` as

@@ -13,7 +13,7 @@ inline QString current(const QString &folder)
     return QFileInfo(folder + QStringLiteral("/localData.db")).absoluteFilePath();
 }
 
-/// The absolute path that the generation before has. Such a file is never opened here.
+/// The absolute path of the file that older clients kept in `folder`. Such a file is never opened here.
 inline QString older(const QString &folder)
 {
     return QFileInfo(folder + QStringLiteral("/data.db")).absoluteFilePath();

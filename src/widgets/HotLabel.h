@@ -1,7 +1,8 @@
 #pragma once
 
-// The label of the dialog's hot key page that behaves like a link: under the mouse its words become one. The words are
-// fixed, the text set by a form is replaced at the first visit of the mouse. GUI thread only; Qt's ownership by parent.
+// The label of the dialog's hot key page that looks like a link while the mouse is over it. From the mouse's first
+// visit on it shows words of its own ("modifyhotkey"), whatever text was set. GUI thread only; Qt's ownership by
+// parent.
 
 #include <QLabel>
 

@@ -130,7 +130,7 @@ char Sha1::nibble_to_hex_char1(int nibble)
 const char *Sha1::octet_string_hex_string1(const void *data, int n)
 {
     const auto *octets = static_cast<const uint8_t *>(data);
-    // A text that would not fit ends one character short of the buffer's 64, deliberately: it always was cut there.
+    // Deliberate: what would need more than 64 digits is cut at 63, not at 64.
     const int length = n > 32 ? 63 : std::max(2 * n, 0);
     for (int i = 0; i < length; ++i) {
         const int octet = octets[i / 2];

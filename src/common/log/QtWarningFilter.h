@@ -10,8 +10,8 @@ class QString;
 class QtWarningFilter
 {
 public:
-    /// Whether Qt warns of the sheet of the edit fields' menus (widgets/LineEditEx.cpp), once for each part of a field
-    /// and each time that it is shown. No other warning, of another sheet or another class, is known.
+    /// Whether this is that warning: Qt cannot read the style sheet that the edit fields give their menus
+    /// (widgets/LineEditEx.cpp). It comes for each part of a field, each time that the field is shown.
     static bool isKnown(QtMsgType type, const QString &strText);
 
     /// From now on the channel's handler, or Qt's own where there is none, is not given that warning.
