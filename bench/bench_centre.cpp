@@ -23,6 +23,7 @@
 #include <QWindow>
 
 #include <benchmark/benchmark.h>
+
 #include <malloc.h>
 
 namespace {

@@ -24,6 +24,7 @@
 
 #include <benchmark/benchmark.h>
 #include <json/reader.h>
+
 #include <malloc.h>
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"

@@ -20,8 +20,8 @@
 
 #include <benchmark/benchmark.h>
 #include <json/reader.h>
-#include <malloc.h>
 
+#include <malloc.h>
 #include <optional>
 #include <vector>
 

@@ -1,8 +1,7 @@
 #include "GalleryUser.h"
 
-#include "robots/RobotIds.h"
-
 #include "model/SharedContext.h"
+#include "robots/RobotIds.h"
 
 GalleryUser::GalleryUser()
 {

@@ -1,4 +1,5 @@
 #include "GalleryWindow.h"
+
 #include "ui_GalleryWindow.h"
 
 #include "GalleryPages.h"

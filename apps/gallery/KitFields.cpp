@@ -1,11 +1,11 @@
 #include "KitFields.h"
 
 #include "Sheet.h"
-#include "robots/RobotIds.h"
 
 #include "common/pictures/IconFont.h"
 #include "common/pictures/IconGlyphs.h"
 #include "model/SkinContext.h"
+#include "robots/RobotIds.h"
 #include "widgets/LineEditEx.h"
 #include "widgets/MenuEx.h"
 #include "widgets/PushButtonEx.h"

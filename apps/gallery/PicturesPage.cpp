@@ -1,11 +1,10 @@
 #include "PicturesPage.h"
 
-#include "robots/RobotIds.h"
-
 #include "common/Palette.h"
 #include "common/pictures/HeadImages.h"
 #include "common/pictures/NinePatch.h"
 #include "common/pictures/WaterMark.h"
+#include "robots/RobotIds.h"
 
 #include <QGridLayout>
 

@@ -7,6 +7,7 @@
 #include "client/HostLanguage.h"
 #include "client/HostPictures.h"
 #include "client/WindowFont.h"
+
 #include "common/log/QtWarningFilter.h"
 
 #include <QApplication>

@@ -7,13 +7,14 @@
 #include "client/PrivateTemp.h"
 #include "client/SingleInstance.h"
 #include "client/WindowFont.h"
-#include "common/log/QtWarningFilter.h"
 #include "happenings/DebugChannel.h"
 #include "happenings/TraceFolder.h"
 #include "panes/MainWindow.h"
 #include "tour/TourHand.h"
 #include "tour/TourSteps.h"
 #include "tour/TourWatch.h"
+
+#include "common/log/QtWarningFilter.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -1,7 +1,8 @@
+#include "model/Jid.h"
+
 #include "FuzzTargets.h"
 
 #include "model/CommonData.h"
-#include "model/Jid.h"
 #include "model/LoginData.h"
 #include "model/SharedContext.h"
 #include "model/UserIds.h"

@@ -1,6 +1,7 @@
 // The check of a store for damage, on a connection and a file that the session has not opened.
 
 #include "store/DB.h"
+
 #include "store/LockWait.h"
 #include "store/StoreFiles.h"
 

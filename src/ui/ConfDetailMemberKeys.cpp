@@ -1,9 +1,8 @@
 // The grid of members by keys, and what a screen reader calls it.
 
-#include "ui/ConfDetailMemberTableView.h"
-
 #include "model/MemberRoles.h"
 #include "model/UserIds.h"
+#include "ui/ConfDetailMemberTableView.h"
 #include "ui/SignCard.h"
 #include "widgets/FocusRing.h"
 

@@ -1,12 +1,13 @@
 #include "ui/ConferenceDetaileWidget.h"
 
+#include "ui_ConferenceDetaileWidget.h"
+
 #include "common/pictures/IconFont.h"
 #include "common/pictures/IconGlyphs.h"
 #include "model/UserIds.h"
 #include "ui/ConferenceTexts.h"
 #include "ui/RowWords.h"
 #include "ui/ShownContact.h"
-#include "ui_ConferenceDetaileWidget.h"
 
 #include <QPointer>
 

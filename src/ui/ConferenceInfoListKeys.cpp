@@ -1,8 +1,7 @@
 // The history list by keys, and what a screen reader calls it.
 
-#include "ui/ConferenceInfoListView.h"
-
 #include "model/MemberRoles.h"
+#include "ui/ConferenceInfoListView.h"
 #include "widgets/FocusRing.h"
 #include "widgets/MenuEx.h"
 

@@ -1,8 +1,7 @@
 // The member list by keys: which part of the current row they press, its menu, and what a screen reader calls the list.
 
-#include "ui/ConferenceListView.h"
-
 #include "model/MemberRoles.h"
+#include "ui/ConferenceListView.h"
 #include "ui/RowWords.h"
 #include "widgets/FocusRing.h"
 #include "widgets/MenuEx.h"

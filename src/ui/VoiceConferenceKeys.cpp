@@ -1,10 +1,9 @@
 // The conference centre by keys, and what a screen reader calls its buttons. The form gives those no focus, so they
 // have keys of their own.
 
-#include "ui/VoiceConferenceWidget.h"
-
 #include "ui_VoiceConferenceWidget.h"
 
+#include "ui/VoiceConferenceWidget.h"
 #include "widgets/FocusRing.h"
 
 #include <QKeyEvent>

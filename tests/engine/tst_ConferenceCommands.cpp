@@ -1,6 +1,7 @@
 // The commands of a conference where their parameters are out of the ordinary.
 
 #include "ConferenceContent.h"
+
 #include "fakes/EngineTest.h"
 
 #include <QTest>

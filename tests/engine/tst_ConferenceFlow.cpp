@@ -2,6 +2,7 @@
 
 #include "StartedConference.h"
 #include "WhileAsked.h"
+
 #include "fakes/EngineTest.h"
 #include "ui/VoipWidget.h"
 

@@ -2,6 +2,7 @@
 // to its creation, the additions that failed, the rejections.
 
 #include "ConferenceContent.h"
+
 #include "fakes/EngineTest.h"
 #include "fakes/QtMessages.h"
 #include "ui/VoipWidget.h"

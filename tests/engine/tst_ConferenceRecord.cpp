@@ -1,6 +1,7 @@
 // What the record of a conference holds: its id, creator, time, length and members, whatever became of it.
 
 #include "RecordedConference.h"
+
 #include "fakes/EngineTest.h"
 #include "store/DBConfInfo.h"
 

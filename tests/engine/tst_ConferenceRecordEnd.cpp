@@ -1,6 +1,7 @@
 // When a conference is recorded: once, at its end, whoever ends it and however.
 
 #include "RecordedConference.h"
+
 #include "fakes/Patience.h"
 #include "store/DBConfInfo.h"
 #include "ui/VoipWidget.h"

@@ -2,12 +2,12 @@
 
 #include "ConferenceContent.h"
 #include "ProcessorClock.h"
+
 #include "fakes/EngineFixture.h"
 
 #include <QTest>
 
 #include <algorithm>
-
 #include <atomic>
 #include <ctime>
 #include <dlfcn.h>

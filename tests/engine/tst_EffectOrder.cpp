@@ -2,6 +2,7 @@
 // comes up: what has been sent, which timers run, whether it still rings.
 
 #include "StartedConference.h"
+
 #include "fakes/EngineTest.h"
 #include "ui/VoipWidget.h"
 

@@ -1,6 +1,7 @@
 // The socket to the call process: connecting, the back-off after a loss, the orderly end.
 
 #include "ReadLines.h"
+
 #include "fakes/EngineTest.h"
 #include "fakes/Patience.h"
 #include "fakes/QtMessages.h"

@@ -2,6 +2,7 @@
 // what is lost.
 
 #include "ReadLines.h"
+
 #include "fakes/EngineTest.h"
 #include "fakes/Patience.h"
 #include "fakes/QtMessages.h"

@@ -4,6 +4,7 @@
 
 #include "FuzzApplication.h"
 #include "FuzzTargets.h"
+
 #include "fakes/FileBytes.h"
 #include "wire/Notifications.h"
 

@@ -1,6 +1,7 @@
 // The settings of a user: the keys that are read, the field of each, its default.
 
 #include "SystemSetTest.h"
+
 #include "common/AppPaths.h"
 
 #include <QFileInfo>

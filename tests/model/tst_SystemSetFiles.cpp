@@ -1,6 +1,7 @@
 // The files behind the settings: where they are, how they are read, what is repaired in them and when they are damaged.
 
 #include "SystemSetTest.h"
+
 #include "common/AppPaths.h"
 #include "fakes/FileBytes.h"
 

@@ -1,10 +1,10 @@
+#include "ProcessorClock.h"
+
+#include "fakes/BuiltInAvatar.h"
 #include "model/CommonData.h"
 #include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 #include "model/VcardInfo.h"
-
-#include "ProcessorClock.h"
-#include "fakes/BuiltInAvatar.h"
 
 #include <QRandomGenerator>
 #include <QTest>

@@ -1,4 +1,5 @@
 #include "SlotOrder.h"
+
 #include "fakes/FakeHost.h"
 #include "model/SharedContext.h"
 #include "plugin/BaseEvent.h"

@@ -10,7 +10,6 @@
 #include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
 #include <utility>
 
 namespace {

@@ -3,6 +3,7 @@
 #include "ComparedPicture.h"
 #include "Ink.h"
 #include "PictureSetting.h"
+
 #include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "ui/ConferenceListView.h"

@@ -2,6 +2,7 @@
 
 #include "ComparedPicture.h"
 #include "PictureSetting.h"
+
 #include "fakes/Patience.h"
 #include "model/SkinContext.h"
 #include "model/SysUIData.h"

@@ -1,13 +1,12 @@
 #include "soak/FastClock.h"
 
+#include <array>
+#include <csignal>
+#include <ctime>
 #include <poll.h>
 #include <sys/syscall.h>
 #include <sys/time.h>
 #include <unistd.h>
-
-#include <array>
-#include <csignal>
-#include <ctime>
 
 namespace {
 

@@ -1,11 +1,10 @@
 #include "soak/SoakClient.h"
 
-#include "soak/FastClock.h"
-
 #include "common/CLogManger.h"
 #include "common/CustomLogger.h"
 #include "fakes/ClickTarget.h"
 #include "model/MemberRoles.h"
+#include "soak/FastClock.h"
 #include "store/DB.h"
 
 #include <QApplication>

@@ -4,6 +4,7 @@
 #include "client/CallRecord.h"
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
+
 #include "soak/UndeletedEvents.h"
 
 #include <QString>

@@ -1,8 +1,7 @@
 #include "soak/UndeletedEvents.h"
 
-#include "soak/Footprint.h"
-
 #include "plugin/BaseEvent.h"
+#include "soak/Footprint.h"
 
 #include <algorithm>
 

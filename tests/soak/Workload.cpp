@@ -1,9 +1,8 @@
 #include "soak/Workload.h"
 
-#include "soak/SoakClient.h"
-
 #include "model/MemberRoles.h"
 #include "robots/RobotIds.h"
+#include "soak/SoakClient.h"
 
 #include <QDeadlineTimer>
 #include <QTime>

@@ -3,12 +3,10 @@
 // The base of tests that look at the store's file from outside: a folder for each test function, a sound file to start
 // from, and the check that no test makes Qt warn or leaves the session open.
 
-#include "store/NumberedRecord.h"
-
 #include "fakes/QtMessages.h"
-#include "store/DB.h"
-
 #include "model/CommonData.h"
+#include "store/DB.h"
+#include "store/NumberedRecord.h"
 
 #include <QByteArray>
 #include <QObject>

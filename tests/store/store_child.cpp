@@ -6,10 +6,9 @@
 //   store_child write BASE FIRST         says "start", opens the store of "user", then saves the numbered records from
 //                                        FIRST on and says each number once the record is saved
 
-#include "store/NumberedRecord.h"
-
 #include "model/SharedContext.h"
 #include "store/DB.h"
+#include "store/NumberedRecord.h"
 
 #include <QCoreApplication>
 #include <QSqlDatabase>

@@ -1,9 +1,8 @@
 // The session connection: how a user's store is opened, switched and closed, and where the context points meanwhile.
 
-#include "store/StoreTest.h"
-
 #include "common/AppPaths.h"
 #include "model/SharedContext.h"
+#include "store/StoreTest.h"
 
 namespace {
 

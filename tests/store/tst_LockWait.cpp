@@ -1,7 +1,6 @@
 #include "store/LockHolder.h"
-#include "store/StoreFolder.h"
-
 #include "store/LockWait.h"
+#include "store/StoreFolder.h"
 
 #include <QElapsedTimer>
 #include <QSqlError>

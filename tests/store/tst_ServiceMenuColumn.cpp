@@ -1,6 +1,5 @@
-#include "store/StoreFixture.h"
-
 #include "model/CServiceNumData.h"
+#include "store/StoreFixture.h"
 
 #include <QTest>
 

@@ -1,8 +1,7 @@
-#include "store/LockHolder.h"
-#include "store/StoreFolder.h"
-
 #include "model/SharedContext.h"
+#include "store/LockHolder.h"
 #include "store/LockWait.h"
+#include "store/StoreFolder.h"
 #include "store/StoreOpening.h"
 
 #include <QSqlQuery>

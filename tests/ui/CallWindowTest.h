@@ -4,6 +4,7 @@
 // name, all that it sends, and what it logs. Derive the test class from it. GUI thread.
 
 #include "ContactFixture.h"
+
 #include "common/pictures/IconGlyphs.h"
 #include "fakes/ClickTarget.h"
 #include "fakes/LogCapture.h"

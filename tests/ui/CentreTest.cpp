@@ -1,6 +1,7 @@
 #include "CentreTest.h"
 
 #include "ShippedFiles.h"
+
 #include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "plugin/VoipManageMessageProcess.h"

@@ -4,6 +4,7 @@
 // window with its parts and pages. Derive the test class from it. GUI thread.
 
 #include "ContactFixture.h"
+
 #include "fakes/FakeHost.h"
 #include "store/DBConfInfo.h"
 #include "ui/ConferenceInfoListView.h"

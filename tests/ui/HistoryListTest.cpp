@@ -2,6 +2,7 @@
 
 #include "RealCursor.h"
 #include "ShippedFiles.h"
+
 #include "fakes/Patience.h"
 #include "plugin/EMsgId.h"
 #include "plugin/VoipManageMessageProcess.h"

@@ -4,6 +4,7 @@
 // host, its rows' data and places, its menu, and its picture. Derive the test class from it. GUI thread.
 
 #include "ListTest.h"
+
 #include "fakes/FakeHost.h"
 #include "model/MemberRoles.h"
 #include "ui/ConferenceInfoListView.h"

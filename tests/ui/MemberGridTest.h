@@ -5,6 +5,7 @@
 
 #include "ContactFixture.h"
 #include "ShippedFiles.h"
+
 #include "fakes/FakeHost.h"
 #include "fakes/Patience.h"
 #include "model/MemberRoles.h"

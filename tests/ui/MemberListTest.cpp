@@ -1,6 +1,7 @@
 #include "MemberListTest.h"
 
 #include "ShippedFiles.h"
+
 #include "fakes/Patience.h"
 
 #include <QStandardItemModel>

@@ -4,6 +4,7 @@
 // rows' data and places, and its picture. Derive the test class from it. GUI thread.
 
 #include "ListTest.h"
+
 #include "model/MemberRoles.h"
 #include "ui/ConferenceListView.h"
 

@@ -2,6 +2,7 @@
 // shows where the keys are.
 
 #include "CallWindowTest.h"
+
 #include "fakes/MessageBoxes.h"
 #include "fakes/Patience.h"
 #include "widgets/FocusRing.h"

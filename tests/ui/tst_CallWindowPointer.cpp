@@ -2,8 +2,9 @@
 // screen shows it.
 
 #include "ContactFixture.h"
-#include "fakes/Patience.h"
 #include "screen/ScreenPointer.h"
+
+#include "fakes/Patience.h"
 #include "ui/VoipWidget.h"
 #include "widgets/MyRubberBand.h"
 

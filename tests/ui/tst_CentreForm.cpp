@@ -1,6 +1,7 @@
 // The conference centre's form: names, sizes, texts, styles, signals and slots.
 
 #include "CentreTest.h"
+
 #include "common/pictures/IconFont.h"
 #include "fakes/Patience.h"
 #include "widgets/BaseFormEx.h"

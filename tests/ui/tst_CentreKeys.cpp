@@ -1,6 +1,7 @@
 // The conference centre by keys alone: the list with its menu, both pages, the grid of members, and the ring.
 
 #include "CentreTest.h"
+
 #include "fakes/Patience.h"
 #include "plugin/EMsgId.h"
 

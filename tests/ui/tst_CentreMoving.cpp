@@ -1,6 +1,7 @@
 // The conference centre is closed and moved.
 
 #include "CentreTest.h"
+
 #include "widgets/IconButtonEx.h"
 
 #include <QApplication>

@@ -2,6 +2,7 @@
 // members. They are text and nothing else.
 
 #include "CentreTest.h"
+
 #include "fakes/ForeignText.h"
 
 class tst_CentreNames : public CentreTest

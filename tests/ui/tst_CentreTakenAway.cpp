@@ -1,6 +1,7 @@
 // The host destroys a part of the conference centre, or all of it, while it takes that part's request.
 
 #include "CentreTest.h"
+
 #include "plugin/EMsgId.h"
 #include "ui/ConfDetailMemberTableView.h"
 #include "ui/ConferenceDetaileWidget.h"

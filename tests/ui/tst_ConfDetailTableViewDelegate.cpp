@@ -5,6 +5,7 @@
 #include "PaintCost.h"
 #include "PaintedPicture.h"
 #include "ShippedFiles.h"
+
 #include "common/BuiltInPictures.h"
 #include "fakes/Patience.h"
 #include "model/MemberRoles.h"

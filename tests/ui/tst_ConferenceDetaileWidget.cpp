@@ -3,6 +3,7 @@
 #include "ContactFixture.h"
 #include "PaintedPicture.h"
 #include "ShippedFiles.h"
+
 #include "common/pictures/IconFont.h"
 #include "fakes/FakeHost.h"
 #include "fakes/Patience.h"

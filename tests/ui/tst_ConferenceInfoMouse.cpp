@@ -1,6 +1,7 @@
 // The mouse on the conference history list: the detail button and the signature card.
 
 #include "HistoryListTest.h"
+
 #include "fakes/Patience.h"
 
 #include <QApplication>

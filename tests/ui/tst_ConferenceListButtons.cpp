@@ -2,6 +2,7 @@
 // there.
 
 #include "MemberListTest.h"
+
 #include "fakes/Patience.h"
 
 #include <QApplication>

@@ -2,6 +2,7 @@
 
 #include "MemberListTest.h"
 #include "ProcessorClock.h"
+
 #include "fakes/Allocations.h"
 #include "model/FriendData.h"
 #include "model/UserIds.h"

@@ -1,6 +1,7 @@
 // A double click in the conference member list calls members again who were not reached.
 
 #include "MemberListTest.h"
+
 #include "fakes/LogCapture.h"
 
 #include <QApplication>

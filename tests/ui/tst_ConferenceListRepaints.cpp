@@ -3,6 +3,7 @@
 
 #include "MemberListTest.h"
 #include "PaintCost.h"
+
 #include "fakes/Patience.h"
 
 #include <QScrollBar>

@@ -1,6 +1,7 @@
 // The conference member list: its construction, and how members come and go.
 
 #include "MemberListTest.h"
+
 #include "common/Palette.h"
 
 #include <QApplication>

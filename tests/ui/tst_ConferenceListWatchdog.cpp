@@ -1,6 +1,7 @@
 // The watchdog of the conference member list: at whose side it runs, and whom it gives up.
 
 #include "MemberListTest.h"
+
 #include "fakes/Patience.h"
 
 #include <QTimer>

@@ -1,6 +1,5 @@
-#include "ui/HeadCache.h"
-
 #include "common/pictures/PictureFile.h"
+#include "ui/HeadCache.h"
 
 #include <QDateTime>
 #include <QFile>

@@ -1,7 +1,6 @@
-#include "ui/RowPainter.h"
-
 #include "common/pictures/IconFont.h"
 #include "ui/LineCache.h"
+#include "ui/RowPainter.h"
 
 #include <QFontMetrics>
 #include <QPainter>

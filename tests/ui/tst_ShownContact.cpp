@@ -2,6 +2,7 @@
 // name or the default head.
 
 #include "ContactFixture.h"
+
 #include "fakes/FakeHost.h"
 #include "fakes/PictureFiles.h"
 #include "plugin/VoipManageMessageProcess.h"

@@ -2,6 +2,7 @@
 
 #include "CentreTest.h"
 #include "RealCursor.h"
+
 #include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "plugin/EMsgId.h"

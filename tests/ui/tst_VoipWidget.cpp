@@ -1,6 +1,7 @@
 // The call window's plain operations, and its full screen.
 
 #include "CallWindowTest.h"
+
 #include "fakes/Patience.h"
 #include "ui/CallWindowStyle.h"
 

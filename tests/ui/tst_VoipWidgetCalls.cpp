@@ -1,6 +1,7 @@
 // How the call window is set up for each kind of call, and what it shows while the call runs.
 
 #include "CallWindowTest.h"
+
 #include "fakes/Patience.h"
 
 #include <QDateTime>

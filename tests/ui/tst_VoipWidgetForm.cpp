@@ -1,6 +1,7 @@
 // The call window as it is built: its parts, their places and sizes, texts, faces and style sheets.
 
 #include "CallWindowTest.h"
+
 #include "ui/CallWindowStyle.h"
 #include "widgets/IconButtonEx.h"
 

@@ -1,6 +1,7 @@
 // The events that the call window watches in itself and its controls: Escape asks, leaving is swallowed.
 
 #include "CallWindowTest.h"
+
 #include "fakes/MessageBoxes.h"
 #include "fakes/Patience.h"
 

@@ -1,6 +1,7 @@
 // How the mouse moves and resizes the call window: events through the window system, from the press to the release.
 
 #include "CallWindowTest.h"
+
 #include "fakes/Patience.h"
 #include "widgets/MyRubberBand.h"
 

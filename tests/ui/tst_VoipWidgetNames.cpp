@@ -1,6 +1,7 @@
 // Names that come from the network: shown as plain text, cut to their place, never interpreted.
 
 #include "CallWindowTest.h"
+
 #include "widgets/ElidedLabel.h"
 
 class tst_VoipWidgetNames : public CallWindowTest

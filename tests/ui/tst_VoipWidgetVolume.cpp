@@ -1,6 +1,7 @@
 // The call window's volume sliders, and its snapshot of the video.
 
 #include "CallWindowTest.h"
+
 #include "common/pictures/PictureNames.h"
 #include "fakes/FileBytes.h"
 #include "fakes/Patience.h"

@@ -1,6 +1,5 @@
-#include "widgets/BaseFormEx.h"
-
 #include "fakes/Patience.h"
+#include "widgets/BaseFormEx.h"
 #include "widgets/OwnSkin.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,6 @@
 // The picture of the painted form beside one painted by the bare numbers.
 
 #include "widgets/BaseFormEx.h"
-
 #include "widgets/OwnSkin.h"
 
 #include <QPainter>

@@ -2,6 +2,7 @@
 // tests of their own.
 
 #include "ShownDialog.h"
+
 #include "fakes/Patience.h"
 #include "widgets/Brackets.h"
 

@@ -1,7 +1,6 @@
 // The message dialog's form: its parts, their places, words and sheets.
 
 #include "ShownDialog.h"
-#include "widgets/OwnSkin.h"
 
 #include "common/Palette.h"
 #include "widgets/BaseFormEx.h"
@@ -9,6 +8,7 @@
 #include "widgets/HotLabel.h"
 #include "widgets/IconButtonEx.h"
 #include "widgets/LineEditEx.h"
+#include "widgets/OwnSkin.h"
 #include "widgets/TextEditEx.h"
 
 #include <QLayout>

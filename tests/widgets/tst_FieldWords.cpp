@@ -1,8 +1,7 @@
 // The words that the edit fields say by themselves, in a language that has them.
 
-#include "widgets/Brackets.h"
-
 #include "fakes/Patience.h"
+#include "widgets/Brackets.h"
 #include "widgets/LineEditEx.h"
 #include "widgets/MenuEx.h"
 #include "widgets/TextEditEx.h"

@@ -1,7 +1,6 @@
-#include "widgets/HotLabel.h"
-
 #include "fakes/Patience.h"
 #include "widgets/BareWindow.h"
+#include "widgets/HotLabel.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,8 +1,7 @@
-#include "common/pictures/IconFont.h"
-#include "widgets/IconButtonTest.h"
-
 #include "common/Palette.h"
+#include "common/pictures/IconFont.h"
 #include "fakes/Patience.h"
+#include "widgets/IconButtonTest.h"
 
 #include <QLayout>
 

@@ -1,10 +1,8 @@
-#include "widgets/LineEditTest.h"
-
-#include "widgets/OwnSkin.h"
-
 #include "fakes/ClickTarget.h"
 #include "fakes/QtMessages.h"
 #include "widgets/IconButtonEx.h"
+#include "widgets/LineEditTest.h"
+#include "widgets/OwnSkin.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,7 +1,6 @@
-#include "widgets/MenuEx.h"
-
 #include "common/Palette.h"
 #include "fakes/Patience.h"
+#include "widgets/MenuEx.h"
 
 #include <QShowEvent>
 #include <QSignalSpy>

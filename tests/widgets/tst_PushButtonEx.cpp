@@ -1,8 +1,7 @@
-#include "widgets/PushButtonEx.h"
-
 #include "fakes/Patience.h"
 #include "widgets/BareWindow.h"
 #include "widgets/OwnSkin.h"
+#include "widgets/PushButtonEx.h"
 
 #include <QDialog>
 #include <QLayout>

@@ -1,10 +1,8 @@
-#include "widgets/TextEditEx.h"
-
-#include "widgets/OwnSkin.h"
-
 #include "common/Palette.h"
 #include "fakes/Patience.h"
 #include "widgets/MenuEx.h"
+#include "widgets/OwnSkin.h"
+#include "widgets/TextEditEx.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,6 +1,5 @@
-#include "widgets/TextLimit.h"
-
 #include "common/text/TextMeasure.h"
+#include "widgets/TextLimit.h"
 
 #include <QTest>
 

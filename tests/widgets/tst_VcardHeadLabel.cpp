@@ -1,8 +1,6 @@
-#include "widgets/VcardHeadLabel.h"
-
-#include "fakes/PictureFiles.h"
-
 #include "common/BuiltInPictures.h"
+#include "fakes/PictureFiles.h"
+#include "widgets/VcardHeadLabel.h"
 
 #include <QTest>
 

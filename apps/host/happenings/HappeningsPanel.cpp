@@ -1,4 +1,5 @@
 #include "happenings/HappeningsPanel.h"
+
 #include "ui_HappeningsPanel.h"
 
 #include "client/HostSession.h"

@@ -1,4 +1,5 @@
 #include "panes/CallServiceBar.h"
+
 #include "ui_CallServiceBar.h"
 
 #include "client/CallProcess.h"

@@ -1,4 +1,5 @@
 #include "panes/CallsPane.h"
+
 #include "ui_CallsPane.h"
 
 #include "client/ContactBook.h"

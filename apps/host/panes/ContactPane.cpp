@@ -1,4 +1,5 @@
 #include "panes/ContactPane.h"
+
 #include "ui_ContactPane.h"
 
 #include "client/ContactBook.h"

@@ -1,8 +1,10 @@
 #include "panes/ContactRow.h"
+
 #include "ui_ContactRow.h"
 
 #include "client/HostPictures.h"
 #include "client/HostSkins.h"
+
 #include "model/AvatarFiles.h"
 
 #include <QKeyEvent>

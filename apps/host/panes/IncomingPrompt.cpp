@@ -1,4 +1,5 @@
 #include "panes/IncomingPrompt.h"
+
 #include "ui_IncomingPrompt.h"
 
 #include "client/ContactBook.h"

@@ -1,4 +1,5 @@
 #include "panes/MainWindow.h"
+
 #include "ui_MainWindow.h"
 
 #include "client/ContactBook.h"

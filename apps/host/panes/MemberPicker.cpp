@@ -1,8 +1,10 @@
 #include "panes/MemberPicker.h"
+
 #include "ui_MemberPicker.h"
 
 #include "client/HostPictures.h"
 #include "client/HostSkins.h"
+
 #include "model/AvatarFiles.h"
 
 #include <QPushButton>

@@ -1,4 +1,5 @@
 #include "panes/SettingsPage.h"
+
 #include "ui_SettingsPage.h"
 
 #include "client/HostLanguage.h"

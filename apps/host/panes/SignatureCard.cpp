@@ -1,4 +1,5 @@
 #include "panes/SignatureCard.h"
+
 #include "ui_SignatureCard.h"
 
 #include "client/ContactBook.h"

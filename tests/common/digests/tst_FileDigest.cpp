@@ -1,5 +1,4 @@
 #include "common/digests/FileDigest.h"
-
 #include "fakes/FileBytes.h"
 
 #include <QCryptographicHash>

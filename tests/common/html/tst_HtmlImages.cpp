@@ -1,8 +1,7 @@
 #include "common/html/HtmlImages.h"
+#include "common/html/RandomMessage.h"
 #include "model/SharedContext.h"
 #include "model/SystemSetData.h"
-
-#include "common/html/RandomMessage.h"
 
 #include <QDomDocument>
 #include <QRegExp>

@@ -1,5 +1,4 @@
 #include "common/html/HtmlLinks.h"
-
 #include "common/html/RandomMessage.h"
 #include "common/html/WebLink.h"
 

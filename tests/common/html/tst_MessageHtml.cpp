@@ -1,11 +1,10 @@
 #include "common/html/HtmlLinks.h"
 #include "common/html/HtmlText.h"
 #include "common/html/MessageHtml.h"
-#include "model/SharedContext.h"
-#include "model/SysUIData.h"
-
 #include "common/html/RandomMessage.h"
 #include "common/html/WebLink.h"
+#include "model/SharedContext.h"
+#include "model/SysUIData.h"
 
 #include <QDomDocument>
 #include <QTest>

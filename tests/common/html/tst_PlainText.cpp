@@ -1,6 +1,6 @@
-#include "common/html/PlainText.h"
-
 #include "ProcessorClock.h"
+
+#include "common/html/PlainText.h"
 #include "common/html/RandomMessage.h"
 #include "fakes/SanitizedBuild.h"
 

@@ -1,8 +1,7 @@
-#include "fakes/FileBytes.h"
-
 #include "common/CLogManger.h"
 #include "common/CLogThread.h"
 #include "common/CustomLogger.h"
+#include "fakes/FileBytes.h"
 #include "fakes/Patience.h"
 #include "model/SharedContext.h"
 

@@ -1,7 +1,6 @@
-#include "common/log/ClientLogFile.h"
-
 #include "common/CLogThread.h"
 #include "common/CustomLogger.h"
+#include "common/log/ClientLogFile.h"
 #include "fakes/Patience.h"
 
 #include <QDateTime>

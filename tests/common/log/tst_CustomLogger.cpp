@@ -1,7 +1,6 @@
+#include "common/CustomLogger.h"
 #include "common/log/ClientLogFile.h"
 #include "common/system/OwnProcess.h"
-
-#include "common/CustomLogger.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -1,6 +1,5 @@
-#include "common/log/ClientLogFile.h"
-
 #include "common/CustomLogger.h"
+#include "common/log/ClientLogFile.h"
 
 #include <QtTest>
 

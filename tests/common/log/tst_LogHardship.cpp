@@ -1,9 +1,8 @@
 // What befalls the log's file and folder while the client writes: the file goes, is made read-only, a folder stands in
 // its place, the disk is full. Lines may be lost; the logger goes on, warns of nothing and touches nothing else.
 
-#include "common/log/ClientLogFile.h"
-
 #include "common/CustomLogger.h"
+#include "common/log/ClientLogFile.h"
 #include "fakes/QtMessages.h"
 #include "store/Hardship.h"
 

@@ -1,11 +1,10 @@
 // The log from several threads at once while its file rolls over again and again: no record is lost, doubled or torn,
 // and each thread's records keep their order.
 
-#include "fakes/FileBytes.h"
-
 #include "common/CLogManger.h"
 #include "common/CLogThread.h"
 #include "common/CustomLogger.h"
+#include "fakes/FileBytes.h"
 #include "model/CommonData.h"
 #include "model/SharedContext.h"
 

@@ -1,7 +1,6 @@
+#include "common/LogUtils.h"
 #include "common/system/OwnProcess.h"
 #include "fakes/FileBytes.h"
-
-#include "common/LogUtils.h"
 
 #include <QDir>
 #include <QtTest>

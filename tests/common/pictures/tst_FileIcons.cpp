@@ -1,7 +1,5 @@
 #include "common/pictures/FileIcons.h"
-
 #include "common/pictures/PictureFolders.h"
-
 #include "fakes/PictureFiles.h"
 
 #include <QFileIconProvider>

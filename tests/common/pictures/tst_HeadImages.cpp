@@ -1,9 +1,7 @@
 #include "common/pictures/HeadImages.h"
-
+#include "fakes/PictureFiles.h"
 #include "model/SharedContext.h"
 #include "model/SystemSetData.h"
-
-#include "fakes/PictureFiles.h"
 
 #include <QBitmap>
 #include <QPainter>

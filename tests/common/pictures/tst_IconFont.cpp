@@ -1,5 +1,4 @@
 #include "common/pictures/IconFont.h"
-
 #include "common/pictures/IconGlyphs.h"
 #include "model/SharedContext.h"
 

@@ -1,5 +1,4 @@
 #include "common/pictures/ImagePath.h"
-
 #include "fakes/Allocations.h"
 #include "fakes/FileBytes.h"
 #include "fakes/PictureFiles.h"

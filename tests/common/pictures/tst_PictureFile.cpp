@@ -1,5 +1,4 @@
 #include "common/pictures/PictureFile.h"
-
 #include "fakes/PictureFiles.h"
 
 #include <QtTest>

@@ -1,11 +1,9 @@
-#include "common/PictureFun.h"
-
 #include "common/AppPaths.h"
+#include "common/PictureFun.h"
 #include "common/pictures/PictureFolders.h"
+#include "fakes/BuiltInAvatar.h"
 #include "model/SharedContext.h"
 #include "model/SystemSetData.h"
-
-#include "fakes/BuiltInAvatar.h"
 
 #include <QtTest>
 

@@ -1,5 +1,4 @@
 #include "common/pictures/PictureNames.h"
-
 #include "fakes/PictureFiles.h"
 
 #include <QtTest>

@@ -1,6 +1,5 @@
-#include "common/pictures/WaterMark.h"
-
 #include "common/AppPaths.h"
+#include "common/pictures/WaterMark.h"
 #include "model/LoginData.h"
 #include "model/SharedContext.h"
 #include "model/SkinContext.h"

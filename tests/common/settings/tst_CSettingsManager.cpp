@@ -1,6 +1,5 @@
-#include "common/system/ClientFolder.h"
-
 #include "common/CSettingsManager.h"
+#include "common/system/ClientFolder.h"
 
 #include <QPointer>
 

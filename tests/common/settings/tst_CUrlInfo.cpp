@@ -1,7 +1,6 @@
+#include "common/CSettingsManager.h"
 #include "common/settings/ExpectedUrls.h"
 #include "common/system/ClientFolder.h"
-
-#include "common/CSettingsManager.h"
 
 #include <QMap>
 #include <QSet>

@@ -1,6 +1,5 @@
-#include "common/system/ClientFolder.h"
-
 #include "common/CUrlInfo.h"
+#include "common/system/ClientFolder.h"
 
 #include <QTranslator>
 

@@ -1,6 +1,5 @@
-#include "fakes/FileBytes.h"
-
 #include "common/settings/ConfigFile.h"
+#include "fakes/FileBytes.h"
 
 #include <QDir>
 #include <QSettings>

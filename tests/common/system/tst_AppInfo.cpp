@@ -1,9 +1,8 @@
-#include "common/system/OwnProcess.h"
-#include "fakes/FileBytes.h"
-
 #include "common/AppInfo.h"
 #include "common/AppPaths.h"
 #include "common/settings/ConfigFile.h"
+#include "common/system/OwnProcess.h"
+#include "fakes/FileBytes.h"
 
 #include <QDir>
 #include <QTranslator>

@@ -1,6 +1,5 @@
-#include "fakes/FileBytes.h"
-
 #include "common/AppPaths.h"
+#include "fakes/FileBytes.h"
 
 #include <QDir>
 #include <QtTest>

@@ -1,5 +1,4 @@
 #include "common/system/FolderCopy.h"
-
 #include "fakes/FileBytes.h"
 
 #include <QDir>

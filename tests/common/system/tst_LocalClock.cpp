@@ -1,5 +1,4 @@
 #include "common/system/LocalClock.h"
-
 #include "fakes/ShiftedClock.h"
 
 #include <QTest>

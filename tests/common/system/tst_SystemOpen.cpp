@@ -1,7 +1,6 @@
 #include "common/CSettingsManager.h"
 #include "common/system/LocalAddress.h"
 #include "common/system/SystemOpen.h"
-
 #include "fakes/FileBytes.h"
 #include "fakes/Patience.h"
 

@@ -1,5 +1,4 @@
 #include "common/system/WeatherFiles.h"
-
 #include "fakes/FileBytes.h"
 #include "fakes/QtMessages.h"
 

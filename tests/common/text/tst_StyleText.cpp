@@ -1,5 +1,4 @@
 #include "common/text/StyleText.h"
-
 #include "fakes/FileBytes.h"
 
 #include <QFile>

@@ -6,11 +6,11 @@
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
 #include "happenings/TraceFolder.h"
-#include "host/panes/PressButton.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
 
 #include "fakes/Patience.h"
+#include "host/panes/PressButton.h"
 
 #include <QFile>
 #include <QProcess>

@@ -1,4 +1,5 @@
 #include "client/EndSignals.h"
+
 #include "fakes/Patience.h"
 
 #include <QSignalSpy>

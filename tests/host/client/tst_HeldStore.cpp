@@ -3,13 +3,13 @@
 
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
-#include "host/panes/PressButton.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
-#include "store/LockHolder.h"
 
 #include "fakes/Patience.h"
+#include "host/panes/PressButton.h"
 #include "model/SystemSetData.h"
+#include "store/LockHolder.h"
 
 #include <QDir>
 #include <QFile>

@@ -7,11 +7,11 @@
 #include "client/HostSession.h"
 #include "happenings/HappeningsPanel.h"
 #include "happenings/TraceFolder.h"
-#include "host/panes/PressButton.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
 
 #include "fakes/Patience.h"
+#include "host/panes/PressButton.h"
 
 #include <QDir>
 #include <QProcess>

@@ -1,4 +1,5 @@
 #include "happenings/HappeningsModel.h"
+
 #include "host/happenings/HappeningRows.h"
 #include "host/tour/Waves.h"
 

@@ -1,10 +1,10 @@
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
 #include "happenings/HappeningsPanel.h"
-#include "host/panes/PressButton.h"
-#include "host/tour/Waves.h"
 
 #include "fakes/Patience.h"
+#include "host/panes/PressButton.h"
+#include "host/tour/Waves.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"

@@ -1,6 +1,5 @@
-#include "happenings/WireWords.h"
-
 #include "client/ShownText.h"
+#include "happenings/WireWords.h"
 
 #include "wire/Commands.h"
 #include "wire/Notifications.h"

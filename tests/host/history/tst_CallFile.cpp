@@ -1,8 +1,8 @@
 #include "client/FileAside.h"
 #include "history/CallFile.h"
-#include "host/history/CallRows.h"
 
 #include "fakes/LogCapture.h"
+#include "host/history/CallRows.h"
 #include "store/Hardship.h"
 #include "store/LockHolder.h"
 

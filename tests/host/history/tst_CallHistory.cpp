@@ -1,9 +1,9 @@
 #include "client/ContactBook.h"
 #include "history/CallHistory.h"
 #include "history/CallHistoryModel.h"
-#include "host/history/CallRows.h"
 
 #include "fakes/LogCapture.h"
+#include "host/history/CallRows.h"
 #include "store/DBConfInfo.h"
 
 #include <QDir>

@@ -1,7 +1,6 @@
 #include "client/CallProcess.h"
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
-#include "fakes/Patience.h"
 #include "happenings/TraceFolder.h"
 #include "happenings/WireTrace.h"
 #include "panes/MainWindow.h"
@@ -10,6 +9,7 @@
 #include "screen/WindowProbe.h"
 #include "tour/TourHand.h"
 
+#include "fakes/Patience.h"
 #include "plugin/EMsgId.h"
 #include "store/DBConfInfo.h"
 

@@ -1,13 +1,13 @@
 #include "client/CallProcess.h"
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
-#include "fakes/Patience.h"
 #include "happenings/TraceFolder.h"
 #include "happenings/WireTrace.h"
 #include "panes/MainWindow.h"
 #include "screen/ScreenKeys.h"
 #include "screen/WindowProbe.h"
 
+#include "fakes/Patience.h"
 #include "model/SystemSetData.h"
 
 #include <QDir>

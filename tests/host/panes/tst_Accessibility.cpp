@@ -1,10 +1,11 @@
 #include "client/ContactBook.h"
 #include "client/HostLanguage.h"
 #include "client/HostSession.h"
-#include "fakes/Patience.h"
-#include "host/history/CallRows.h"
 #include "panes/MainWindow.h"
 #include "panes/MemberPicker.h"
+
+#include "fakes/Patience.h"
+#include "host/history/CallRows.h"
 
 #include <QAbstractButton>
 #include <QAccessible>

@@ -1,6 +1,7 @@
 // The call window on a real accessibility bus, read and pressed as a screen reader does it: by calls of D-Bus alone.
 
 #include "client/HostLanguage.h"
+
 #include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "ui/ConferenceListView.h"

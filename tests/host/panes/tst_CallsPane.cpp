@@ -1,10 +1,11 @@
 #include "client/ContactBook.h"
-#include "fakes/Patience.h"
 #include "history/CallHistory.h"
-#include "host/history/CallRows.h"
-#include "host/panes/PressButton.h"
 #include "panes/CallsPane.h"
 #include "screen/WindowProbe.h"
+
+#include "fakes/Patience.h"
+#include "host/history/CallRows.h"
+#include "host/panes/PressButton.h"
 
 #include <QLineEdit>
 #include <QMenu>

@@ -1,10 +1,10 @@
+#include "ProcessorClock.h"
 #include "client/ContactBook.h"
-#include "fakes/Patience.h"
 #include "history/CallHistory.h"
-#include "host/history/CallRows.h"
 #include "panes/CallsPane.h"
 
-#include "ProcessorClock.h"
+#include "fakes/Patience.h"
+#include "host/history/CallRows.h"
 
 #include <QDir>
 #include <QLineEdit>

@@ -1,8 +1,9 @@
 #include "client/ContactBook.h"
-#include "fakes/Patience.h"
-#include "host/panes/PressButton.h"
 #include "panes/ContactPane.h"
 #include "screen/WindowProbe.h"
+
+#include "fakes/Patience.h"
+#include "host/panes/PressButton.h"
 
 #include <QApplication>
 #include <QLineEdit>

@@ -1,11 +1,11 @@
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
 #include "happenings/HappeningsPanel.h"
-#include "host/panes/PressButton.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
 
 #include "fakes/Patience.h"
+#include "host/panes/PressButton.h"
 #include "model/SystemSetData.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"

@@ -1,8 +1,9 @@
 #include "client/ContactBook.h"
-#include "fakes/Patience.h"
-#include "host/panes/PressButton.h"
 #include "panes/MemberPicker.h"
 #include "screen/WindowProbe.h"
+
+#include "fakes/Patience.h"
+#include "host/panes/PressButton.h"
 
 #include <QCheckBox>
 #include <QLineEdit>

@@ -1,10 +1,10 @@
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
-#include "host/panes/Deeds.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
 
 #include "fakes/Patience.h"
+#include "host/panes/Deeds.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"

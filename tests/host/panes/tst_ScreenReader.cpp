@@ -2,6 +2,7 @@
 // has a name in that language, no glyph and no key is read out, and each row of the lists says all that it shows.
 
 #include "client/HostLanguage.h"
+
 #include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "ui/ConferenceInfoListView.h"

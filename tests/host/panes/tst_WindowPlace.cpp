@@ -1,12 +1,12 @@
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
 #include "happenings/HappeningsPanel.h"
-#include "host/panes/PressButton.h"
 #include "panes/MainWindow.h"
 #include "panes/WindowPlace.h"
 
 #include "common/settings/ConfigFile.h"
 #include "fakes/Patience.h"
+#include "host/panes/PressButton.h"
 
 #include <QAbstractButton>
 #include <QDockWidget>

@@ -6,8 +6,9 @@
 #include <QProcess>
 #include <QTest>
 
-#include <memory>
 #include <xcb/xcb.h>
+
+#include <memory>
 
 class tst_WindowIcon : public QObject
 {

@@ -1,5 +1,6 @@
-#include "fakes/Patience.h"
 #include "screen/WindowProbe.h"
+
+#include "fakes/Patience.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,9 +13,10 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <xcb/xcb.h>
+
 #include <cstdlib>
 #include <memory>
-#include <xcb/xcb.h>
 
 namespace {
 

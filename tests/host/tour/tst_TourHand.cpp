@@ -1,9 +1,10 @@
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
-#include "fakes/Patience.h"
 #include "tour/Tour.h"
 #include "tour/TourHand.h"
 #include "tour/TourWatch.h"
+
+#include "fakes/Patience.h"
 
 #include <QMenu>
 #include <QMouseEvent>
