@@ -1,6 +1,6 @@
 // What a walk around conferences does.
 
-#include "ConferenceWalk.h"
+#include "engine/ConferenceWalk.h"
 
 #include "fakes/Patience.h"
 #include "model/VcardInfo.h"

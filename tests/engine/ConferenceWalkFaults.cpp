@@ -1,6 +1,6 @@
 // What must hold on a walk around conferences.
 
-#include "ConferenceWalk.h"
+#include "engine/ConferenceWalk.h"
 
 #include <QHash>
 

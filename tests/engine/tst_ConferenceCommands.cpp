@@ -1,7 +1,6 @@
 // The commands of a conference where their parameters are out of the ordinary.
 
-#include "ConferenceContent.h"
-
+#include "engine/ConferenceContent.h"
 #include "fakes/EngineTest.h"
 
 #include <QTest>

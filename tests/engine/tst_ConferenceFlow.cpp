@@ -1,8 +1,7 @@
 // A conference as a whole: starting it, being invited to it, its end.
 
-#include "StartedConference.h"
-#include "WhileAsked.h"
-
+#include "engine/StartedConference.h"
+#include "engine/WhileAsked.h"
 #include "fakes/EngineTest.h"
 #include "ui/VoipWidget.h"
 

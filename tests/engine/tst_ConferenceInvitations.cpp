@@ -1,8 +1,7 @@
 // The notifications of being asked to a conference: this side's invitation, and in a conference of its own the answer
 // to its creation, the additions that failed, the rejections.
 
-#include "ConferenceContent.h"
-
+#include "engine/ConferenceContent.h"
 #include "fakes/EngineTest.h"
 #include "fakes/QtMessages.h"
 #include "ui/VoipWidget.h"

@@ -1,7 +1,6 @@
 // The members of a conference: adding them, inviting again, removing and muting, their cards.
 
-#include "StartedConference.h"
-
+#include "engine/StartedConference.h"
 #include "fakes/EngineTest.h"
 #include "ui/VoipWidget.h"
 

@@ -1,7 +1,6 @@
 // What the record of a conference holds: its id, creator, time, length and members, whatever became of it.
 
-#include "RecordedConference.h"
-
+#include "engine/RecordedConference.h"
 #include "fakes/EngineTest.h"
 #include "store/DBConfInfo.h"
 

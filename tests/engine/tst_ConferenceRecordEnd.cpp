@@ -1,7 +1,6 @@
 // When a conference is recorded: once, at its end, whoever ends it and however.
 
-#include "RecordedConference.h"
-
+#include "engine/RecordedConference.h"
 #include "fakes/Patience.h"
 #include "store/DBConfInfo.h"
 #include "ui/VoipWidget.h"

@@ -1,8 +1,8 @@
 // What an update of very many new members costs: what it asks of the system and of the host, and its processor time.
 
-#include "ConferenceContent.h"
 #include "ProcessorClock.h"
 
+#include "engine/ConferenceContent.h"
 #include "fakes/EngineFixture.h"
 
 #include <QTest>

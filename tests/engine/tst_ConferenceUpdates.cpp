@@ -1,8 +1,7 @@
 // The notifications of who is in a conference: the update of its members, and that one has left.
 
-#include "ConferenceContent.h"
-#include "WhileAsked.h"
-
+#include "engine/ConferenceContent.h"
+#include "engine/WhileAsked.h"
 #include "fakes/EngineTest.h"
 #include "ui/VoipWidget.h"
 

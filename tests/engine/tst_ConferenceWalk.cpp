@@ -1,7 +1,7 @@
 // Ten thousand wire lines, host commands and clicks in random order around conferences, with what must always hold
 // looked at after each.
 
-#include "ConferenceWalk.h"
+#include "engine/ConferenceWalk.h"
 
 #include <QTest>
 

@@ -1,8 +1,7 @@
 // The order of an operation's effects, as the host sees it at each question and the user at the moment when the window
 // comes up: what has been sent, which timers run, whether it still rings.
 
-#include "StartedConference.h"
-
+#include "engine/StartedConference.h"
 #include "fakes/EngineTest.h"
 #include "ui/VoipWidget.h"
 

@@ -1,7 +1,6 @@
 // The socket to the call process: connecting, the back-off after a loss, the orderly end.
 
-#include "ReadLines.h"
-
+#include "engine/ReadLines.h"
 #include "fakes/EngineTest.h"
 #include "fakes/Patience.h"
 #include "fakes/QtMessages.h"

@@ -1,8 +1,7 @@
 // What goes over the channel to the call process: the registration at each connection, what of a read is delivered,
 // what is lost.
 
-#include "ReadLines.h"
-
+#include "engine/ReadLines.h"
 #include "fakes/EngineTest.h"
 #include "fakes/Patience.h"
 #include "fakes/QtMessages.h"

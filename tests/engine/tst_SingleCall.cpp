@@ -1,7 +1,6 @@
 // One call between two people: placing, receiving and accepting it, and what goes out meanwhile.
 
-#include "WhileAsked.h"
-
+#include "engine/WhileAsked.h"
 #include "fakes/EngineTest.h"
 #include "ui/VoipWidget.h"
 #include "widgets/PushButtonEx.h"

@@ -1,8 +1,7 @@
 // The settings of a user: the keys that are read, the field of each, its default.
 
-#include "SystemSetTest.h"
-
 #include "common/AppPaths.h"
+#include "model/SystemSetTest.h"
 
 #include <QFileInfo>
 #include <QTest>

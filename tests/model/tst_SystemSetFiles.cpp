@@ -1,9 +1,8 @@
 // The files behind the settings: where they are, how they are read, what is repaired in them and when they are damaged.
 
-#include "SystemSetTest.h"
-
 #include "common/AppPaths.h"
 #include "fakes/FileBytes.h"
+#include "model/SystemSetTest.h"
 
 #include <QDir>
 #include <QSettings>

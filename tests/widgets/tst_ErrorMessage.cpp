@@ -1,10 +1,9 @@
 // The dialog itself: its window, its buttons, its moving, and what a new language does. The form and the modes have
 // tests of their own.
 
-#include "ShownDialog.h"
-
 #include "fakes/Patience.h"
 #include "widgets/Brackets.h"
+#include "widgets/ShownDialog.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,10 +1,9 @@
 // What the message dialog's fields let in and give back: the reply of several lines and the name. The tag has a test of
 // its own.
 
-#include "ShownDialog.h"
-
 #include "fakes/Patience.h"
 #include "widgets/LineEditEx.h"
+#include "widgets/ShownDialog.h"
 #include "widgets/TextEditEx.h"
 
 #include <QClipboard>

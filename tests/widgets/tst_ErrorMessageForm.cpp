@@ -1,7 +1,5 @@
 // The message dialog's form: its parts, their places, words and sheets.
 
-#include "ShownDialog.h"
-
 #include "common/Palette.h"
 #include "widgets/BaseFormEx.h"
 #include "widgets/ElidedLabel.h"
@@ -9,6 +7,7 @@
 #include "widgets/IconButtonEx.h"
 #include "widgets/LineEditEx.h"
 #include "widgets/OwnSkin.h"
+#include "widgets/ShownDialog.h"
 #include "widgets/TextEditEx.h"
 
 #include <QLayout>

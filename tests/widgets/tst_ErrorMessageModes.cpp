@@ -1,8 +1,7 @@
 // The modes of the message dialog: what each shows. What their fields let in has a test of its own.
 
-#include "ShownDialog.h"
-
 #include "fakes/Patience.h"
+#include "widgets/ShownDialog.h"
 
 #include <QApplication>
 #include <QSignalSpy>

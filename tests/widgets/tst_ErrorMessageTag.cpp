@@ -1,8 +1,7 @@
 // The message dialog's tag: what its field takes, the paste of its own, and how long its mode lasts.
 
-#include "ShownDialog.h"
-
 #include "widgets/LineEditEx.h"
+#include "widgets/ShownDialog.h"
 
 using namespace ShownDialog;
 

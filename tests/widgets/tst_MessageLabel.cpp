@@ -1,10 +1,10 @@
 // A message that is too long for its place: in the label by itself, and in the dialog as the screen shows it.
 
 #include "ProcessorClock.h"
-#include "ShownDialog.h"
 
 #include "widgets/BaseFormEx.h"
 #include "widgets/MessageLabel.h"
+#include "widgets/ShownDialog.h"
 
 #include <QPainter>
 #include <QTest>

@@ -1,9 +1,8 @@
 // Hints are told from typed text by their colour: in the pixels of the fields, alone and in the dialog.
 
-#include "ShownDialog.h"
-
 #include "widgets/LineEditEx.h"
 #include "widgets/PlaceholderColor.h"
+#include "widgets/ShownDialog.h"
 #include "widgets/TextEditEx.h"
 
 #include <QLineEdit>
