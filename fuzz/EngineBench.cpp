@@ -3,7 +3,6 @@
 #include "FuzzTargets.h"
 
 #include "model/SharedContext.h"
-#include "module/HostCommandTable.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
 #include "ui/VoiceConferenceWidget.h"
@@ -59,7 +58,6 @@ EngineBench::EngineBench()
     m_context.setSystemSetData(&m_settings);
     SharedContext::setCommonData(&m_context);
     VoipManageMessageProcess::instance()->setSendEvent(&host);
-    enterHostCommands();
     manager = std::make_unique<VoipManageProbe>();
     manager->use();
     m_pWindow = manager->m_pVoipWidget;

@@ -1,7 +1,6 @@
 #include "plugin/VoipManagePlugin.h"
 
 #include "model/SharedContext.h"
-#include "module/HostCommandTable.h"
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 
@@ -20,8 +19,6 @@ qint64 VoipManagePlugin::getWindowHandle(QWidget *parent)
 
 QObject *VoipManagePlugin::getReceiveEventHandle()
 {
-    // A host has no other way to the mailbox, so the commands are known before it can give one.
-    enterHostCommands();
     return VoipManageMessageProcess::instance();
 }
 

@@ -4,6 +4,7 @@
 
 namespace {
 
+// The rows enter themselves while static objects are built, so these two must have their values before any of those.
 const HostCommand *firstCommand = nullptr;
 int commandCount = 0;
 

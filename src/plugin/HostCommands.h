@@ -1,8 +1,8 @@
 #pragma once
 
 // The commands that the host may give, each with the function that carries it out. The mailbox knows only this header:
-// the rows themselves stand on the top floor, beside the engine they call, and the plug-in's root object enters them
-// when the host takes the mailbox. GUI thread only.
+// the rows themselves stand on the top floor, beside the engine they call, and put themselves in here when the program
+// or the module is loaded. GUI thread only.
 
 #include "plugin/EMsgId.h"
 
@@ -15,8 +15,7 @@ struct HostCommand
     void (*run)(BaseEvent &event);
 };
 
-/// Makes `count` rows from `first` on the known commands, in place of those before. They must live as long as the
-/// process.
+/// Makes `count` rows from `first` on the known commands. They must live as long as the process.
 void setHostCommands(const HostCommand *first, int count);
 
 /// The row of `msgId`, or null for an unknown command.

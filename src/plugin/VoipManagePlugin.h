@@ -23,8 +23,7 @@ public:
     QString getPluginName() override;
     /// Ignores its argument and returns 0.
     qint64 getWindowHandle(QWidget *parent) override;
-    /// The mailbox, VoipManageMessageProcess::instance(), which from now on knows the commands. Not owned by the
-    /// caller.
+    /// The mailbox, VoipManageMessageProcess::instance(). Not owned by the caller.
     QObject *getReceiveEventHandle() override;
     /// Takes the object that all outbound events are delivered to from now on. Not owned; null means none.
     void setSendEventHandle(QObject *handle) override;

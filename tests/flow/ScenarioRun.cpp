@@ -4,7 +4,7 @@
 #include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "plugin/PluginIds.h"
-#include "plugin/VoipManagePlugin.h"
+#include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
 #include "ui/VoipWidget.h"
 
@@ -151,7 +151,7 @@ int ScenarioRun::statements(const QString &strName)
 QByteArray ScenarioRun::deliver(EMsgId id, const QByteArray &payload)
 {
     BaseEvent event(id, sessionPluginId(), voipPluginId(), false, payload);
-    QCoreApplication::sendEvent(VoipManagePlugin().getReceiveEventHandle(), &event);
+    QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &event);
     return event.data;
 }
 

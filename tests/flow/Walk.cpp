@@ -2,7 +2,7 @@
 
 #include "fakes/Patience.h"
 #include "plugin/PluginIds.h"
-#include "plugin/VoipManagePlugin.h"
+#include "plugin/VoipManageMessageProcess.h"
 #include "ui/VoipWidget.h"
 
 #include <QCoreApplication>
@@ -66,7 +66,7 @@ template <class... Fields>
 QByteArray Walk::command(EMsgId id, const Fields &...fields)
 {
     BaseEvent event(id, sessionPluginId(), voipPluginId(), false, packPayload(fields...));
-    QCoreApplication::sendEvent(VoipManagePlugin().getReceiveEventHandle(), &event);
+    QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &event);
     return event.data;
 }
 

@@ -2,7 +2,6 @@
 // is read field by field as its row says.
 
 #include "fakes/FakeHost.h"
-#include "module/HostCommandTable.h"
 #include "plugin/EMsgId.h"
 #include "plugin/EventPayload.h"
 #include "plugin/HostCommands.h"
@@ -147,8 +146,6 @@ class tst_HostContractDocument : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { enterHostCommands(); }
-
     void init()
     {
         m_host.events.clear();

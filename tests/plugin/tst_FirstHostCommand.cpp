@@ -5,7 +5,7 @@
 #include "plugin/BaseEvent.h"
 #include "plugin/HostEvents.h"
 #include "plugin/PluginIds.h"
-#include "plugin/VoipManagePlugin.h"
+#include "plugin/VoipManageMessageProcess.h"
 
 #include <QApplication>
 #include <QTest>
@@ -69,7 +69,7 @@ private:
     static void deliver(int msgId, const QString &receiver)
     {
         BaseEvent event(static_cast<EMsgId>(msgId), sessionPluginId(), receiver, false);
-        QCoreApplication::sendEvent(VoipManagePlugin().getReceiveEventHandle(), &event);
+        QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &event);
     }
 };
 

@@ -10,7 +10,7 @@
 #include "plugin/HostCommands.h"
 #include "plugin/HostEvents.h"
 #include "plugin/PluginIds.h"
-#include "plugin/VoipManagePlugin.h"
+#include "plugin/VoipManageMessageProcess.h"
 #include "ui/VoipWidget.h"
 
 #include <QApplication>
@@ -82,7 +82,7 @@ private slots:
         m_login.m_strDomain = QStringLiteral("d");
         m_login.m_strRegValue = QStringLiteral("value");
         m_log.context.setLoginData(&m_login);
-        VoipManagePlugin().setSendEventHandle(&m_host);
+        VoipManageMessageProcess::instance()->setSendEvent(&m_host);
         // The first command creates the manager and its link, so that each test finds both, whichever is chosen.
         query(MSG_IS_EXIST_CALL, QByteArray());
         QTRY_VERIFY_WITH_TIMEOUT(m_server.hasPendingConnections(), cPatienceMs);
@@ -323,14 +323,14 @@ private:
     void command(EMsgId msgId, const QByteArray &payload = QByteArray())
     {
         BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false, payload);
-        QCoreApplication::sendEvent(VoipManagePlugin().getReceiveEventHandle(), &event);
+        QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &event);
         QCOMPARE(event.data, payload);
     }
 
     QByteArray query(EMsgId msgId, const QByteArray &payload)
     {
         BaseEvent event(msgId, sessionPluginId(), voipPluginId(), false, payload);
-        QCoreApplication::sendEvent(VoipManagePlugin().getReceiveEventHandle(), &event);
+        QCoreApplication::sendEvent(VoipManageMessageProcess::instance(), &event);
         return event.data;
     }
 
