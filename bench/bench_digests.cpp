@@ -28,7 +28,7 @@ QByteArray bytesOf(qint64 size)
 // The file of the wanted size, in the current folder.
 QString fileOf(const benchmark::State &state)
 {
-    const QString path = QStringLiteral("digest%1.bin").arg(state.range(0));
+    QString path = QStringLiteral("digest%1.bin").arg(state.range(0));
     QFile file(path);
     if (!file.exists() && file.open(QIODevice::WriteOnly)) {
         file.write(bytesOf(state.range(0)));
