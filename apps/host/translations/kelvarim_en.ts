@@ -1645,6 +1645,10 @@
         <source>Choose a folder</source>
         <translation>Choose a folder</translation>
     </message>
+    <message>
+        <source>Nothing was changed: %1 cannot be written to.</source>
+        <translation>Nothing was changed: %1 cannot be written to.</translation>
+    </message>
 </context>
 <context>
     <name>SignatureCard</name>

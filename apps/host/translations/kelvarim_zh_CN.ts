@@ -1641,6 +1641,10 @@
         <source>Choose a folder</source>
         <translation>选择文件夹</translation>
     </message>
+    <message>
+        <source>Nothing was changed: %1 cannot be written to.</source>
+        <translation>未作更改：无法写入 %1。</translation>
+    </message>
 </context>
 <context>
     <name>SignatureCard</name>

@@ -1641,6 +1641,10 @@
         <source>Choose a folder</source>
         <translation>選擇資料夾</translation>
     </message>
+    <message>
+        <source>Nothing was changed: %1 cannot be written to.</source>
+        <translation>未作變更：無法寫入 %1。</translation>
+    </message>
 </context>
 <context>
     <name>SignatureCard</name>
