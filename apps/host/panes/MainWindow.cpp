@@ -250,6 +250,7 @@ void MainWindow::changeEvent(QEvent *event)
         fillHeader();
         showOnline(m_session.isOnline());
         showReadiness();
+        showNotice();
     }
     QMainWindow::changeEvent(event);
 }
