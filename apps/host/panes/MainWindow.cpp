@@ -112,6 +112,8 @@ void MainWindow::connectSession()
 {
     HostMailbox &mailbox = m_session.mailbox();
     connect(&m_session, &HostSession::onlineChanged, this, &MainWindow::showOnline);
+    connect(&m_session, &HostSession::strangerMet, this,
+            [this](const QString &strUid) { ui->contactPane->showPerson(*m_book.entry(strUid)); });
     connect(&m_session.settings(), &HostSettings::skinChanged, this, &MainWindow::takeSkin);
     connect(&mailbox, &HostMailbox::callIncoming, &m_prompt, &IncomingPrompt::prompt);
     connect(&mailbox, &HostMailbox::promptWithdrawn, &m_prompt, &IncomingPrompt::withdraw);
@@ -248,6 +250,7 @@ void MainWindow::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
         fillHeader();
+        m_session.takeLanguage();
         showOnline(m_session.isOnline());
         showReadiness();
         showNotice();

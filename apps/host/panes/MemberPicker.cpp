@@ -62,7 +62,7 @@ void MemberPicker::addPeople(const ContactBook &book, Purpose purpose, const QSt
     for (const QString &uid : named) {
         const auto isThis = [&](const ContactBook::Entry &entry) { return entry.uid == uid; };
         if (fresh && std::none_of(book.entries().begin(), book.entries().end(), isThis)) {
-            addPerson({uid, uid, QString(), false, Presence::Offline, QString()}, true);
+            addPerson({uid, uid, "", false, Presence::Offline, QString()}, true);
         }
     }
 }
@@ -70,7 +70,7 @@ void MemberPicker::addPeople(const ContactBook &book, Purpose purpose, const QSt
 void MemberPicker::addPerson(const ContactBook::Entry &entry, bool bChecked)
 {
     const QString words =
-        entry.alternative.isEmpty() ? entry.nick : entry.nick + QStringLiteral(" · ") + entry.alternative;
+        *entry.habit == '\0' ? entry.nick : entry.nick + QStringLiteral(" · ") + entry.alternative();
     auto *item = new QListWidgetItem(words, ui->listPeople);
     item->setIcon(QIcon(
         HostPictures::head(entry.nick, entry.uid, cHeadSize, entry.presence, AvatarFiles::systemAvatar(entry.photo))));

@@ -1756,4 +1756,55 @@
         <translation>another user's</translation>
     </message>
 </context>
+<context>
+    <name>ContactBook</name>
+    <message>
+        <source>Answers</source>
+        <translation>Answers</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>Busy</translation>
+    </message>
+    <message>
+        <source>Rejects</source>
+        <translation>Rejects</translation>
+    </message>
+    <message>
+        <source>Never answers</source>
+        <translation>Never answers</translation>
+    </message>
+    <message>
+        <source>Call fails</source>
+        <translation>Call fails</translation>
+    </message>
+    <message>
+        <source>Hangs up after 10 s</source>
+        <translation>Hangs up after 10 s</translation>
+    </message>
+    <message>
+        <source>Calls you back</source>
+        <translation>Calls you back</translation>
+    </message>
+    <message>
+        <source>Invites you</source>
+        <translation>Invites you</translation>
+    </message>
+    <message>
+        <source>Leaves and returns</source>
+        <translation>Leaves and returns</translation>
+    </message>
+    <message>
+        <source>Invites, lines crossed</source>
+        <translation>Invites, lines crossed</translation>
+    </message>
+    <message>
+        <source>Takes no calls</source>
+        <translation>Takes no calls</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <translation>You</translation>
+    </message>
+</context>
 </TS>

@@ -1750,4 +1750,55 @@
         <translation>另一用户的程序</translation>
     </message>
 </context>
+<context>
+    <name>ContactBook</name>
+    <message>
+        <source>Answers</source>
+        <translation>会接听</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>正忙</translation>
+    </message>
+    <message>
+        <source>Rejects</source>
+        <translation>会拒接</translation>
+    </message>
+    <message>
+        <source>Never answers</source>
+        <translation>从不接听</translation>
+    </message>
+    <message>
+        <source>Call fails</source>
+        <translation>呼叫失败</translation>
+    </message>
+    <message>
+        <source>Hangs up after 10 s</source>
+        <translation>10 秒后挂断</translation>
+    </message>
+    <message>
+        <source>Calls you back</source>
+        <translation>会回拨给您</translation>
+    </message>
+    <message>
+        <source>Invites you</source>
+        <translation>会邀请您开会</translation>
+    </message>
+    <message>
+        <source>Leaves and returns</source>
+        <translation>离开后再回来</translation>
+    </message>
+    <message>
+        <source>Invites, lines crossed</source>
+        <translation>邀请您时线路交叉</translation>
+    </message>
+    <message>
+        <source>Takes no calls</source>
+        <translation>不接电话</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <translation>您</translation>
+    </message>
+</context>
 </TS>

@@ -1750,4 +1750,55 @@
         <translation>另一使用者的程式</translation>
     </message>
 </context>
+<context>
+    <name>ContactBook</name>
+    <message>
+        <source>Answers</source>
+        <translation>會接聽</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>忙線中</translation>
+    </message>
+    <message>
+        <source>Rejects</source>
+        <translation>會拒接</translation>
+    </message>
+    <message>
+        <source>Never answers</source>
+        <translation>從不接聽</translation>
+    </message>
+    <message>
+        <source>Call fails</source>
+        <translation>呼叫失敗</translation>
+    </message>
+    <message>
+        <source>Hangs up after 10 s</source>
+        <translation>10 秒後掛斷</translation>
+    </message>
+    <message>
+        <source>Calls you back</source>
+        <translation>會回撥給您</translation>
+    </message>
+    <message>
+        <source>Invites you</source>
+        <translation>會邀請您開會</translation>
+    </message>
+    <message>
+        <source>Leaves and returns</source>
+        <translation>離開後再回來</translation>
+    </message>
+    <message>
+        <source>Invites, lines crossed</source>
+        <translation>邀請您時線路交叉</translation>
+    </message>
+    <message>
+        <source>Takes no calls</source>
+        <translation>不接電話</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <translation>您</translation>
+    </message>
+</context>
 </TS>
