@@ -1871,4 +1871,15 @@
         <translation>You</translation>
     </message>
 </context>
+<context>
+    <name>VideoCard</name>
+    <message>
+        <source>No picture here: the call process draws none into this window. You can talk as in a voice call.</source>
+        <translation>No picture here: the call process draws none into this window. You can talk as in a voice call.</translation>
+    </message>
+    <message>
+        <source>Video call with %1</source>
+        <translation>Video call with %1</translation>
+    </message>
+</context>
 </TS>

@@ -1865,4 +1865,15 @@
         <translation>您</translation>
     </message>
 </context>
+<context>
+    <name>VideoCard</name>
+    <message>
+        <source>No picture here: the call process draws none into this window. You can talk as in a voice call.</source>
+        <translation>这里没有画面：通话进程没有在此窗口中绘制画面。您可以像语音通话一样交谈。</translation>
+    </message>
+    <message>
+        <source>Video call with %1</source>
+        <translation>与 %1 的视频通话</translation>
+    </message>
+</context>
 </TS>

@@ -1865,4 +1865,15 @@
         <translation>您</translation>
     </message>
 </context>
+<context>
+    <name>VideoCard</name>
+    <message>
+        <source>No picture here: the call process draws none into this window. You can talk as in a voice call.</source>
+        <translation>這裡沒有畫面：通話程序沒有在此視窗中繪製畫面。您可以像語音通話一樣交談。</translation>
+    </message>
+    <message>
+        <source>Video call with %1</source>
+        <translation>與 %1 的視訊通話</translation>
+    </message>
+</context>
 </TS>
