@@ -55,6 +55,9 @@ public:
     /// Starts a conference.
     void callConference(const ConferenceWish &wish);
 
+    /// The client has another language, in which from now on the cards of the contacts speak.
+    void takeLanguage();
+
     /// Opens the plug-in's window of past conferences, or brings it to the front.
     void showConferenceCentre();
 
@@ -91,6 +94,9 @@ signals:
                      const QByteArray &payload, const QByteArray &reply);
     /// The login came up or went down, by setOnline(). The plug-in is told after this.
     void onlineChanged(bool bOnline);
+    /// A stranger calls, and the contact book has the name and the head of that entry from now on. Who called before,
+    /// as the history has it, is known from start on.
+    void strangerMet(const QString &strUid);
 
 protected:
     /// Sees the plug-in's first command, with which it begins its work.
@@ -104,6 +110,7 @@ private:
               const QByteArray &payload, const QByteArray &reply);
     void takeLeave();
     void sendCards(const QStringList &uids);
+    void meet(const CallEntry &call);
 
     ContactBook &m_book;
     HostContext m_context;

@@ -3,9 +3,9 @@
 
 #include "client/HostLanguage.h"
 #include "client/HostPictures.h"
-#include "client/HostSettings.h"
 #include "client/HostSkins.h"
 
+#include <QAccessible>
 #include <QDir>
 #include <QFileDialog>
 #include <QRadioButton>
@@ -26,7 +26,8 @@ SettingsPage::SettingsPage(HostSettings &settings, QWidget *parent)
     orderTabs();
     connectFolders();
     HostSkins::dress(this);
-    connect(ui->boxSilent, &QCheckBox::clicked, this, &HostSettings::setSilent);
+    connect(ui->boxSilent, &QCheckBox::clicked, this,
+            [this](bool bSilent) { tellKept(HostSettings::setSilent(bSilent), HostSettings::userFile()); });
     connect(ui->btnClose, &QPushButton::clicked, this, &QDialog::close);
     connect(&m_settings, &HostSettings::skinChanged, this, [this] { HostSkins::dress(this); });
 }
@@ -38,7 +39,8 @@ void SettingsPage::addLanguages()
     for (const HostLanguage::Choice &choice : HostLanguage::choices()) {
         auto *button = new QRadioButton(choice.ownName, ui->languages);
         button->setObjectName(QStringLiteral("language_") + choice.setting);
-        connect(button, &QRadioButton::clicked, this, [this, choice] { m_settings.setLanguage(choice.setting); });
+        connect(button, &QRadioButton::clicked, this,
+                [this, choice] { tellKept(m_settings.setLanguage(choice.setting), HostSettings::commonFile()); });
         ui->languagesLayout->addWidget(button);
     }
     ui->languagesLayout->addStretch();
@@ -51,7 +53,8 @@ void SettingsPage::addSkins()
         button->setObjectName(QStringLiteral("skin_") + name);
         button->setIcon(HostPictures::swatch(HostSkins::mainColour(name), cSwatchSize));
         button->setIconSize(QSize(cSwatchSize, cSwatchSize));
-        connect(button, &QRadioButton::clicked, this, [this, name] { m_settings.setSkin(name); });
+        connect(button, &QRadioButton::clicked, this,
+                [this, name] { tellKept(m_settings.setSkin(name), HostSettings::userFile()); });
         ui->skinsLayout->addWidget(button);
     }
     ui->skinsLayout->addStretch();
@@ -80,10 +83,13 @@ void SettingsPage::orderTabs()
 
 void SettingsPage::connectFolders()
 {
-    connect(ui->editDataFolder, &QLineEdit::editingFinished, this,
-            [this] { takeFolder(ui->editDataFolder, HostSettings::dataFolder(), &HostSettings::setDataFolder); });
+    connect(ui->editDataFolder, &QLineEdit::editingFinished, this, [this] {
+        takeFolder(ui->editDataFolder, HostSettings::dataFolder(), &HostSettings::setDataFolder,
+                   HostSettings::commonFile());
+    });
     connect(ui->editReceiveFolder, &QLineEdit::editingFinished, this, [this] {
-        takeFolder(ui->editReceiveFolder, HostSettings::receiveFolder(), &HostSettings::setReceiveFolder);
+        takeFolder(ui->editReceiveFolder, HostSettings::receiveFolder(), &HostSettings::setReceiveFolder,
+                   HostSettings::userFile());
     });
     connect(ui->btnDataFolder, &QPushButton::clicked, this, [this] { browse(ui->editDataFolder); });
     connect(ui->btnReceiveFolder, &QPushButton::clicked, this, [this] { browse(ui->editReceiveFolder); });
@@ -91,7 +97,7 @@ void SettingsPage::connectFolders()
 
 void SettingsPage::open()
 {
-    ui->lblFolderError->clear();
+    clearErrors();
     showSettings();
     show();
     raise();
@@ -113,16 +119,37 @@ void SettingsPage::showSettings()
                           QDir::toNativeSeparators(HostSettings::commonFile()));
 }
 
-void SettingsPage::takeFolder(const QLineEdit *edit, const QString &strBefore, FolderSetter set)
+/// Says what became of a choice: one that its file has not taken gives way to what is in force.
+void SettingsPage::tellKept(bool bKept, const QString &strFile)
+{
+    showSettings();
+    if (bKept) {
+        ui->lblNotKept->clear();
+        return;
+    }
+    ui->lblNotKept->setText(tr("Nothing was changed: %1 cannot be written to.").arg(QDir::toNativeSeparators(strFile)));
+    QAccessibleEvent alert(ui->lblNotKept, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void SettingsPage::clearErrors()
+{
+    ui->lblFolderError->clear();
+    ui->lblNotKept->clear();
+}
+
+void SettingsPage::takeFolder(const QLineEdit *edit, const QString &strBefore, FolderSetter set, const QString &strFile)
 {
     const QString wanted = QDir::fromNativeSeparators(edit->text().trimmed());
+    ui->lblFolderError->clear();
     if (wanted == strBefore) {
-        ui->lblFolderError->clear();
-    } else if (set(wanted)) {
-        ui->lblFolderError->clear();
-        showSettings();
-    } else {
+        return;
+    }
+    const HostSettings::FolderOutcome outcome = set(wanted);
+    if (outcome == HostSettings::FolderOutcome::Unusable) {
         ui->lblFolderError->setText(tr("This folder cannot be used: %1").arg(wanted));
+    } else {
+        tellKept(outcome == HostSettings::FolderOutcome::Taken, strFile);
     }
 }
 
@@ -140,7 +167,7 @@ void SettingsPage::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
         nameSkins();
-        ui->lblFolderError->clear();
+        clearErrors();
         showSettings();
     }
     QDialog::changeEvent(event);

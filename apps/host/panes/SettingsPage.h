@@ -1,10 +1,11 @@
 #pragma once
 
+#include "client/HostSettings.h"
+
 #include <QDialog>
 
 #include <memory>
 
-class HostSettings;
 class QLineEdit;
 
 namespace Ui {
@@ -12,8 +13,9 @@ class SettingsPage;
 }
 
 /// The window of the settings that the calls and the client's common code read: ring, language, colour, folders. Each
-/// change is written at once and takes effect at once, but for the data folder, of which the page says so. Not modal.
-/// GUI thread; the settings must outlive it.
+/// change is written at once and takes effect at once, but for the data folder, of which the page says so. One that
+/// cannot be written has no effect: the page shows what is in force, and says why. Not modal. GUI thread; the settings
+/// must outlive it.
 class SettingsPage : public QDialog
 {
     Q_OBJECT
@@ -29,7 +31,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    using FolderSetter = bool (*)(const QString &);
+    using FolderSetter = HostSettings::FolderOutcome (*)(const QString &);
 
     void addLanguages();
     void addSkins();
@@ -37,7 +39,9 @@ private:
     void connectFolders();
     void nameSkins();
     void showSettings();
-    void takeFolder(const QLineEdit *edit, const QString &strBefore, FolderSetter set);
+    void tellKept(bool bKept, const QString &strFile);
+    void clearErrors();
+    void takeFolder(const QLineEdit *edit, const QString &strBefore, FolderSetter set, const QString &strFile);
     void browse(QLineEdit *edit);
 
     std::unique_ptr<Ui::SettingsPage> ui;

@@ -1500,18 +1500,6 @@
         <translation>People</translation>
     </message>
     <message>
-        <source>Text passed on to the call process</source>
-        <translation>Text passed on to the call process</translation>
-    </message>
-    <message>
-        <source>Passed on to the call process</source>
-        <translation>Passed on to the call process</translation>
-    </message>
-    <message>
-        <source>Flag</source>
-        <translation>Flag</translation>
-    </message>
-    <message>
         <source>New conference</source>
         <translation>New conference</translation>
     </message>
@@ -1532,16 +1520,92 @@
         <translation>Asked for a conference with: %1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Cancel</translation>
-    </message>
-    <message>
         <source>Invite (%1)</source>
         <translation>Invite (%1)</translation>
     </message>
     <message>
         <source>Invite</source>
         <translation>Invite</translation>
+    </message>
+    <message>
+        <source>Down and Enter lead into the list, Escape shows everybody again</source>
+        <translation>Down and Enter lead into the list, Escape shows everybody again</translation>
+    </message>
+    <message>
+        <source>Filter the people</source>
+        <translation>Filter the people</translation>
+    </message>
+    <message>
+        <source>Filter by name, number or initials</source>
+        <translation>Filter by name, number or initials</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>Clear the filter</translation>
+    </message>
+    <message>
+        <source>Nobody matches</source>
+        <translation>Nobody matches</translation>
+    </message>
+    <message>
+        <source>Somebody who is no contact; several numbers with a space or a comma between them</source>
+        <translation>Somebody who is no contact; several numbers with a space or a comma between them</translation>
+    </message>
+    <message>
+        <source>Another number</source>
+        <translation>Another number</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Add</translation>
+    </message>
+    <message>
+        <source>Enter a number first</source>
+        <translation>Enter a number first</translation>
+    </message>
+    <message>
+        <source>Put it on the list</source>
+        <translation>Put it on the list</translation>
+    </message>
+    <message>
+        <source>%1 is your own number.</source>
+        <translation>%1 is your own number.</translation>
+    </message>
+    <message>
+        <source>%1 is in the conference already.</source>
+        <translation>%1 is in the conference already.</translation>
+    </message>
+    <message>
+        <source>For the call process; the robots make nothing of it</source>
+        <translation>For the call process; the robots make nothing of it</translation>
+    </message>
+    <message>
+        <source>A text that the call process gets with the request for the conference. It may take it as a title, say; neither client nor plug-in reads it.</source>
+        <translation>A text that the call process gets with the request for the conference. It may take it as a title, say; neither client nor plug-in reads it.</translation>
+    </message>
+    <message>
+        <source>Text for the call process</source>
+        <translation>Text for the call process</translation>
+    </message>
+    <message>
+        <source>Text, such as a title</source>
+        <translation>Text, such as a title</translation>
+    </message>
+    <message>
+        <source>A yes or no that the call process gets with the request for the conference. What it means is the call process's affair; neither client nor plug-in reads it.</source>
+        <translation>A yes or no that the call process gets with the request for the conference. What it means is the call process's affair; neither client nor plug-in reads it.</translation>
+    </message>
+    <message>
+        <source>Flag for the call process</source>
+        <translation>Flag for the call process</translation>
+    </message>
+    <message>
+        <source>&amp;Flag (yes or no)</source>
+        <translation>&amp;Flag (yes or no)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancel</translation>
     </message>
 </context>
 <context>
@@ -1644,6 +1708,10 @@
     <message>
         <source>Choose a folder</source>
         <translation>Choose a folder</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 cannot be written to.</source>
+        <translation>Nothing was changed: %1 cannot be written to.</translation>
     </message>
 </context>
 <context>
@@ -1750,6 +1818,68 @@
     <message>
         <source>another user's</source>
         <translation>another user's</translation>
+    </message>
+</context>
+<context>
+    <name>ContactBook</name>
+    <message>
+        <source>Answers</source>
+        <translation>Answers</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>Busy</translation>
+    </message>
+    <message>
+        <source>Rejects</source>
+        <translation>Rejects</translation>
+    </message>
+    <message>
+        <source>Never answers</source>
+        <translation>Never answers</translation>
+    </message>
+    <message>
+        <source>Call fails</source>
+        <translation>Call fails</translation>
+    </message>
+    <message>
+        <source>Hangs up after 10 s</source>
+        <translation>Hangs up after 10 s</translation>
+    </message>
+    <message>
+        <source>Calls you back</source>
+        <translation>Calls you back</translation>
+    </message>
+    <message>
+        <source>Invites you</source>
+        <translation>Invites you</translation>
+    </message>
+    <message>
+        <source>Leaves and returns</source>
+        <translation>Leaves and returns</translation>
+    </message>
+    <message>
+        <source>Invites, lines crossed</source>
+        <translation>Invites, lines crossed</translation>
+    </message>
+    <message>
+        <source>Takes no calls</source>
+        <translation>Takes no calls</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <translation>You</translation>
+    </message>
+</context>
+<context>
+    <name>VideoCard</name>
+    <message>
+        <source>No picture here: the call process draws none into this window. You can talk as in a voice call.</source>
+        <translation>No picture here: the call process draws none into this window. You can talk as in a voice call.</translation>
+    </message>
+    <message>
+        <source>Video call with %1</source>
+        <translation>Video call with %1</translation>
     </message>
 </context>
 </TS>

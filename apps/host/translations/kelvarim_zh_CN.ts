@@ -1496,18 +1496,6 @@
         <translation>人员</translation>
     </message>
     <message>
-        <source>Text passed on to the call process</source>
-        <translation>传给通话进程的文字</translation>
-    </message>
-    <message>
-        <source>Passed on to the call process</source>
-        <translation>传给通话进程</translation>
-    </message>
-    <message>
-        <source>Flag</source>
-        <translation>标志</translation>
-    </message>
-    <message>
         <source>New conference</source>
         <translation>新会议</translation>
     </message>
@@ -1528,16 +1516,92 @@
         <translation>请求与以下人员开会：%1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
         <source>Invite (%1)</source>
         <translation>邀请 (%1)</translation>
     </message>
     <message>
         <source>Invite</source>
         <translation>邀请</translation>
+    </message>
+    <message>
+        <source>Down and Enter lead into the list, Escape shows everybody again</source>
+        <translation>按向下键或 Enter 进入列表，按 Esc 重新显示所有人</translation>
+    </message>
+    <message>
+        <source>Filter the people</source>
+        <translation>筛选人员</translation>
+    </message>
+    <message>
+        <source>Filter by name, number or initials</source>
+        <translation>按姓名、号码或拼音首字母筛选</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>清除筛选</translation>
+    </message>
+    <message>
+        <source>Nobody matches</source>
+        <translation>没有匹配的人员</translation>
+    </message>
+    <message>
+        <source>Somebody who is no contact; several numbers with a space or a comma between them</source>
+        <translation>不在联系人中的人；多个号码之间用空格或逗号分隔</translation>
+    </message>
+    <message>
+        <source>Another number</source>
+        <translation>其他号码</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Enter a number first</source>
+        <translation>请先输入号码</translation>
+    </message>
+    <message>
+        <source>Put it on the list</source>
+        <translation>加入列表</translation>
+    </message>
+    <message>
+        <source>%1 is your own number.</source>
+        <translation>%1 是您自己的号码。</translation>
+    </message>
+    <message>
+        <source>%1 is in the conference already.</source>
+        <translation>%1 已在会议中。</translation>
+    </message>
+    <message>
+        <source>For the call process; the robots make nothing of it</source>
+        <translation>供通话进程使用；机器人不理会这些内容</translation>
+    </message>
+    <message>
+        <source>A text that the call process gets with the request for the conference. It may take it as a title, say; neither client nor plug-in reads it.</source>
+        <translation>随会议请求交给通话进程的文字。通话进程可以把它当作会议标题等；客户端和插件都不读取它。</translation>
+    </message>
+    <message>
+        <source>Text for the call process</source>
+        <translation>给通话进程的文字</translation>
+    </message>
+    <message>
+        <source>Text, such as a title</source>
+        <translation>文字，例如标题</translation>
+    </message>
+    <message>
+        <source>A yes or no that the call process gets with the request for the conference. What it means is the call process's affair; neither client nor plug-in reads it.</source>
+        <translation>随会议请求交给通话进程的是或否。其含义由通话进程决定；客户端和插件都不读取它。</translation>
+    </message>
+    <message>
+        <source>Flag for the call process</source>
+        <translation>给通话进程的标志</translation>
+    </message>
+    <message>
+        <source>&amp;Flag (yes or no)</source>
+        <translation>标志（是或否）(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -1640,6 +1704,10 @@
     <message>
         <source>Choose a folder</source>
         <translation>选择文件夹</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 cannot be written to.</source>
+        <translation>未作更改：无法写入 %1。</translation>
     </message>
 </context>
 <context>
@@ -1744,6 +1812,68 @@
     <message>
         <source>another user's</source>
         <translation>另一用户的程序</translation>
+    </message>
+</context>
+<context>
+    <name>ContactBook</name>
+    <message>
+        <source>Answers</source>
+        <translation>会接听</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>正忙</translation>
+    </message>
+    <message>
+        <source>Rejects</source>
+        <translation>会拒接</translation>
+    </message>
+    <message>
+        <source>Never answers</source>
+        <translation>从不接听</translation>
+    </message>
+    <message>
+        <source>Call fails</source>
+        <translation>呼叫失败</translation>
+    </message>
+    <message>
+        <source>Hangs up after 10 s</source>
+        <translation>10 秒后挂断</translation>
+    </message>
+    <message>
+        <source>Calls you back</source>
+        <translation>会回拨给您</translation>
+    </message>
+    <message>
+        <source>Invites you</source>
+        <translation>会邀请您开会</translation>
+    </message>
+    <message>
+        <source>Leaves and returns</source>
+        <translation>离开后再回来</translation>
+    </message>
+    <message>
+        <source>Invites, lines crossed</source>
+        <translation>邀请您时线路交叉</translation>
+    </message>
+    <message>
+        <source>Takes no calls</source>
+        <translation>不接电话</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <translation>您</translation>
+    </message>
+</context>
+<context>
+    <name>VideoCard</name>
+    <message>
+        <source>No picture here: the call process draws none into this window. You can talk as in a voice call.</source>
+        <translation>这里没有画面：通话进程没有在此窗口中绘制画面。您可以像语音通话一样交谈。</translation>
+    </message>
+    <message>
+        <source>Video call with %1</source>
+        <translation>与 %1 的视频通话</translation>
     </message>
 </context>
 </TS>

@@ -1496,18 +1496,6 @@
         <translation>人員</translation>
     </message>
     <message>
-        <source>Text passed on to the call process</source>
-        <translation>傳給通話處理程序的文字</translation>
-    </message>
-    <message>
-        <source>Passed on to the call process</source>
-        <translation>傳給通話處理程序</translation>
-    </message>
-    <message>
-        <source>Flag</source>
-        <translation>旗標</translation>
-    </message>
-    <message>
         <source>New conference</source>
         <translation>新會議</translation>
     </message>
@@ -1528,16 +1516,92 @@
         <translation>請求與以下人員開會：%1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
         <source>Invite (%1)</source>
         <translation>邀請 (%1)</translation>
     </message>
     <message>
         <source>Invite</source>
         <translation>邀請</translation>
+    </message>
+    <message>
+        <source>Down and Enter lead into the list, Escape shows everybody again</source>
+        <translation>按向下鍵或 Enter 進入清單，按 Esc 重新顯示所有人</translation>
+    </message>
+    <message>
+        <source>Filter the people</source>
+        <translation>篩選人員</translation>
+    </message>
+    <message>
+        <source>Filter by name, number or initials</source>
+        <translation>按姓名、號碼或拼音首字母篩選</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>清除篩選</translation>
+    </message>
+    <message>
+        <source>Nobody matches</source>
+        <translation>沒有符合的人員</translation>
+    </message>
+    <message>
+        <source>Somebody who is no contact; several numbers with a space or a comma between them</source>
+        <translation>不在聯絡人中的人；多個號碼之間用空格或逗號分隔</translation>
+    </message>
+    <message>
+        <source>Another number</source>
+        <translation>其他號碼</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>加入(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Enter a number first</source>
+        <translation>請先輸入號碼</translation>
+    </message>
+    <message>
+        <source>Put it on the list</source>
+        <translation>加入清單</translation>
+    </message>
+    <message>
+        <source>%1 is your own number.</source>
+        <translation>%1 是您自己的號碼。</translation>
+    </message>
+    <message>
+        <source>%1 is in the conference already.</source>
+        <translation>%1 已在會議中。</translation>
+    </message>
+    <message>
+        <source>For the call process; the robots make nothing of it</source>
+        <translation>供通話程序使用；機器人不理會這些內容</translation>
+    </message>
+    <message>
+        <source>A text that the call process gets with the request for the conference. It may take it as a title, say; neither client nor plug-in reads it.</source>
+        <translation>隨會議請求交給通話程序的文字。通話程序可以把它當作會議標題等；用戶端和外掛都不讀取它。</translation>
+    </message>
+    <message>
+        <source>Text for the call process</source>
+        <translation>給通話程序的文字</translation>
+    </message>
+    <message>
+        <source>Text, such as a title</source>
+        <translation>文字，例如標題</translation>
+    </message>
+    <message>
+        <source>A yes or no that the call process gets with the request for the conference. What it means is the call process's affair; neither client nor plug-in reads it.</source>
+        <translation>隨會議請求交給通話程序的是或否。其含義由通話程序決定；用戶端和外掛都不讀取它。</translation>
+    </message>
+    <message>
+        <source>Flag for the call process</source>
+        <translation>給通話程序的標誌</translation>
+    </message>
+    <message>
+        <source>&amp;Flag (yes or no)</source>
+        <translation>標誌（是或否）(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -1640,6 +1704,10 @@
     <message>
         <source>Choose a folder</source>
         <translation>選擇資料夾</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 cannot be written to.</source>
+        <translation>未作變更：無法寫入 %1。</translation>
     </message>
 </context>
 <context>
@@ -1744,6 +1812,68 @@
     <message>
         <source>another user's</source>
         <translation>另一使用者的程式</translation>
+    </message>
+</context>
+<context>
+    <name>ContactBook</name>
+    <message>
+        <source>Answers</source>
+        <translation>會接聽</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>忙線中</translation>
+    </message>
+    <message>
+        <source>Rejects</source>
+        <translation>會拒接</translation>
+    </message>
+    <message>
+        <source>Never answers</source>
+        <translation>從不接聽</translation>
+    </message>
+    <message>
+        <source>Call fails</source>
+        <translation>呼叫失敗</translation>
+    </message>
+    <message>
+        <source>Hangs up after 10 s</source>
+        <translation>10 秒後掛斷</translation>
+    </message>
+    <message>
+        <source>Calls you back</source>
+        <translation>會回撥給您</translation>
+    </message>
+    <message>
+        <source>Invites you</source>
+        <translation>會邀請您開會</translation>
+    </message>
+    <message>
+        <source>Leaves and returns</source>
+        <translation>離開後再回來</translation>
+    </message>
+    <message>
+        <source>Invites, lines crossed</source>
+        <translation>邀請您時線路交叉</translation>
+    </message>
+    <message>
+        <source>Takes no calls</source>
+        <translation>不接電話</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <translation>您</translation>
+    </message>
+</context>
+<context>
+    <name>VideoCard</name>
+    <message>
+        <source>No picture here: the call process draws none into this window. You can talk as in a voice call.</source>
+        <translation>這裡沒有畫面：通話程序沒有在此視窗中繪製畫面。您可以像語音通話一樣交談。</translation>
+    </message>
+    <message>
+        <source>Video call with %1</source>
+        <translation>與 %1 的視訊通話</translation>
     </message>
 </context>
 </TS>
