@@ -92,20 +92,28 @@ private slots:
             said(QStringLiteral("xdotool"), {QStringLiteral("windowactivate"), windowsOf(cOther).constFirst()});
             QTRY_VERIFY_WITH_TIMEOUT(isActive(cOther), cPatienceMs);
         }
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(QStringLiteral("first.txt"), "30010000"), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(QStringLiteral("other.txt"), "30010001"), cPatienceMs);
         QVERIFY(quit(*first));
         QVERIFY(quit(*other));
+        QTRY_VERIFY_WITH_TIMEOUT(hasEnded(QStringLiteral("first.txt")), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(hasEnded(QStringLiteral("other.txt")), cPatienceMs);
     }
 
     void afterAKilledOneTheNextIsTheFirst()
     {
         const auto first = start({}, QStringLiteral("killed.txt"));
         QTRY_COMPARE_WITH_TIMEOUT(windowsOf(cOwner).size(), 1, cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(QStringLiteral("killed.txt"), "30010000"), cPatienceMs);
         first->kill();
         QVERIFY(first->waitForFinished(cPatienceMs));
         QTRY_COMPARE_WITH_TIMEOUT(windowsOf(cOwner).size(), 0, cPatienceMs);
         const auto next = start({}, QStringLiteral("next.txt"));
         QTRY_COMPARE_WITH_TIMEOUT(windowsOf(cOwner).size(), 1, cPatienceMs);
+        // It registers with the call process that the killed one has left, and ends it.
+        QTRY_COMPARE_WITH_TIMEOUT(bytesOf(QStringLiteral("killed.txt")).count("\"resultCode\":17"), 2, cPatienceMs);
         QVERIFY(quit(*next));
+        QTRY_VERIFY_WITH_TIMEOUT(hasEnded(QStringLiteral("killed.txt")), cPatienceMs);
     }
 
     void twoUsersHaveEachACallProcess()
@@ -120,10 +128,10 @@ private slots:
         QVERIFY(S_ISSOCK(modeOf(temp(QStringLiteral("VoipSDK")))));
         // The end of one is none of the other's.
         QVERIFY(quit(*one));
-        QTRY_VERIFY_WITH_TIMEOUT(bytesOf(QStringLiteral("one.txt")).contains("stopped listening"), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(hasEnded(QStringLiteral("one.txt")), cPatienceMs);
         QVERIFY(!bytesOf(QStringLiteral("two.txt")).contains("disconnected"));
         QVERIFY(quit(*two));
-        QTRY_VERIFY_WITH_TIMEOUT(bytesOf(QStringLiteral("two.txt")).contains("stopped listening"), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(hasEnded(QStringLiteral("two.txt")), cPatienceMs);
     }
 
     void inASharedTemporaryFolderUsersOfTheMachineDoNotMeet()
@@ -196,6 +204,9 @@ private:
         const QByteArray trace = bytesOf(strTrace);
         return trace.contains("\"param1\":\"" + uid + '"') && trace.contains("\"resultCode\":17");
     }
+
+    /// Whether the call process that writes there has ended, and the next client starts another.
+    static bool hasEnded(const QString &strTrace) { return bytesOf(strTrace).contains("stopped listening"); }
 
     static bool quit(QProcess &demo)
     {

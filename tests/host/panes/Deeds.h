@@ -54,10 +54,10 @@ public:
                                    ? nullptr
                                    : top->template findChild<QWidget *>(QLatin1String(strPart));
             if (part != nullptr && part->isVisible() && part->isEnabled()) {
-                const QPoint place = part->mapToGlobal(part->rect().center());
+                const QPoint place = part->mapTo(top, part->rect().center());
                 same = std::exchange(last, place) == place ? same + 1 : 0;
                 if (same % cLooks == cLooks / 5) {
-                    clickAt(place);
+                    clickIn(*top, place);
                 }
             }
             return false;
@@ -83,13 +83,15 @@ public:
         };
     }
 
-    /// Clicks with the real mouse at that place of the screen.
-    static bool clickAt(const QPoint &place)
+    /// Clicks with the real mouse at that place of a window, wherever the server has it: where a window manager is
+    /// late, Qt may have the window's own place wrong.
+    static bool clickIn(const QWidget &window, const QPoint &place)
     {
-        const QPoint pixel = place * qGuiApp->devicePixelRatio();
+        const QPoint pixel = place * window.devicePixelRatioF();
         return QProcess::execute(QStringLiteral("xdotool"),
-                                 {QStringLiteral("mousemove"), QString::number(pixel.x()), QString::number(pixel.y()),
-                                  QStringLiteral("click"), QStringLiteral("1")}) == 0;
+                                 {QStringLiteral("mousemove"), QStringLiteral("--window"),
+                                  QString::number(window.winId()), QString::number(pixel.x()),
+                                  QString::number(pixel.y()), QStringLiteral("click"), QStringLiteral("1")}) == 0;
     }
 
 private:

@@ -117,7 +117,7 @@ private slots:
     {
         Deeds deeds({openPicker(), Deeds::act([this] { ring(); }), Deeds::act([this] {
                          const auto *button = m_pWindow->findChild<QWidget *>(QStringLiteral("btnSettings"));
-                         Deeds::clickAt(button->mapToGlobal(button->rect().center()));
+                         Deeds::clickIn(*m_pWindow, button->mapTo(m_pWindow.get(), button->rect().center()));
                      }),
                      answer("btnReject"), leave(WindowProbe::memberPicker, "btnCancel")});
         QVERIFY(deeds.finish());
@@ -163,7 +163,8 @@ private:
                 return false;
             }
             const QRect row = list->visualItemRect(list->item(0));
-            return checkedRows() == 1 || (Deeds::clickAt(list->viewport()->mapToGlobal(row.center())) && false);
+            return checkedRows() == 1 ||
+                   (Deeds::clickIn(*list->window(), list->viewport()->mapTo(list->window(), row.center())) && false);
         };
     }
 
