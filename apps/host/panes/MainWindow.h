@@ -1,8 +1,10 @@
 #pragma once
 
+#include "desktop/PromptKey.h"
 #include "history/CallReadiness.h"
 #include "panes/CallStatusLine.h"
 #include "panes/IncomingPrompt.h"
+#include "panes/PromptNotice.h"
 #include "panes/SettingsPage.h"
 #include "panes/SignatureCard.h"
 
@@ -19,10 +21,10 @@ namespace Ui {
 class MainWindow;
 }
 
-/// The demo's window: contacts on the left, the history of calls on the right, settings and the login switch on top, and
-/// below them what has to be told of the local store; rightmost, on demand, what happens, or in a window of its own. It
-/// owns the prompt of incoming calls, the signature card and the settings page. Ctrl+F goes to the search field,
-/// Ctrl+Shift+H shows and hides what happens. GUI thread; session and book must outlive it.
+/// The demo's window: contacts on the left, the history of calls on the right, settings and the login switch on top,
+/// and below them what has to be told of the local store; rightmost, on demand, what happens, or in a window of its
+/// own. It owns the prompt of incoming calls, the signature card and the settings page. Ctrl+F goes to the search
+/// field, Ctrl+Shift+H shows and hides what happens. GUI thread; session and book must outlive it.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -77,6 +79,8 @@ private:
     CallReadiness m_readiness;
     CallStatusLine m_status;
     IncomingPrompt m_prompt;
+    PromptNotice m_promptNotice;
+    PromptKey m_promptKey;
     SignatureCard m_signature;
     SettingsPage m_settingsPage;
     WindowPlace *m_pPlace = nullptr;
