@@ -1,6 +1,7 @@
 #include "desktop/CallNotice.h"
 
-#include <QApplication>
+#include "client/HostPictures.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -129,7 +130,7 @@ void CallNotice::showInTray(const QString &strTitle, const QString &strText)
     if (!QSystemTrayIcon::isSystemTrayAvailable()) {
         return;
     }
-    m_pTray = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
+    m_pTray = std::make_unique<QSystemTrayIcon>(QIcon(HostPictures::windowIcon()));
     m_pTray->setToolTip(strTitle + QLatin1Char(' ') + strText);
     connect(m_pTray.get(), &QSystemTrayIcon::activated, this, &CallNotice::chosen);
     connect(m_pTray.get(), &QSystemTrayIcon::messageClicked, this, &CallNotice::chosen);

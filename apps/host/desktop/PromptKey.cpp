@@ -1,8 +1,6 @@
 #include "desktop/PromptKey.h"
 
-#include "client/HostSettings.h"
-
-#include "common/settings/ConfigFile.h"
+#include "client/UserSetting.h"
 
 namespace {
 
@@ -24,23 +22,19 @@ void PromptKey::start()
 
 bool PromptKey::isWanted()
 {
-    return ConfigFile::getConfigValue(HostSettings::userFile(), cWantedKey).toString() == QLatin1String("1");
+    return UserSetting::read(cWantedKey) == QLatin1String("1");
 }
 
 QKeySequence PromptKey::key()
 {
-    const QKeySequence stored(ConfigFile::getConfigValue(HostSettings::userFile(), cSequenceKey).toString(),
-                              QKeySequence::PortableText);
+    const QKeySequence stored(UserSetting::read(cSequenceKey), QKeySequence::PortableText);
     return HotKey::isFit(stored) ? QKeySequence(stored[0]) : QKeySequence(Qt::CTRL + Qt::ALT + Qt::Key_I);
 }
 
 bool PromptKey::set(bool bWanted, const QKeySequence &key)
 {
-    const QString file = HostSettings::userFile();
-    if (!file.isEmpty()) {
-        ConfigFile::changeConfigValue(file, cWantedKey, bWanted ? QStringLiteral("1") : QStringLiteral("0"));
-        ConfigFile::changeConfigValue(file, cSequenceKey, key.toString(QKeySequence::PortableText));
-    }
+    const bool bKept = UserSetting::write(cSequenceKey, key.toString(QKeySequence::PortableText)) &&
+                       UserSetting::write(cWantedKey, bWanted ? QStringLiteral("1") : QStringLiteral("0"));
     start();
-    return isWanted() == bWanted && PromptKey::key() == key;
+    return bKept;
 }

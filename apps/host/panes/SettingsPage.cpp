@@ -81,6 +81,10 @@ void SettingsPage::fitScreen()
     // What is not polished yet has not its style sheet's size.
     const QList<QWidget *> parts = findChildren<QWidget *>();
     std::for_each(parts.begin(), parts.end(), [](const QWidget *part) { part->ensurePolished(); });
+    for (const PageArea *area : findChildren<PageArea *>()) {
+        area->widget()->layout()->invalidate();
+        area->widget()->layout()->activate();
+    }
     ui->tabs->updateGeometry();
     const QList<QRect> screens = WindowPlace::insides();
     // As large as it was made by hand, or as it wants to be.

@@ -1,9 +1,7 @@
 #include "sound/SoundChoice.h"
 
 #include "client/CallChannel.h"
-#include "client/HostSettings.h"
-
-#include "common/settings/ConfigFile.h"
+#include "client/UserSetting.h"
 
 #include <algorithm>
 #include <utility>
@@ -24,18 +22,6 @@ constexpr std::array<RoleRow, SoundChoice::cRoles> cRows{{
 }};
 
 constexpr std::array<SoundChoice::Role, SoundChoice::cRoles> cEach{SoundChoice::Microphone, SoundChoice::Speaker};
-
-QString stored(const char *strKey)
-{
-    return ConfigFile::getConfigValue(HostSettings::userFile(), QLatin1String(strKey)).toString();
-}
-
-void store(const char *strKey, const QString &strValue)
-{
-    if (!HostSettings::userFile().isEmpty()) {
-        ConfigFile::changeConfigValue(HostSettings::userFile(), QLatin1String(strKey), strValue);
-    }
-}
 
 /// Touches the environment only where it changes: other threads read it.
 void setVariable(const char *strName, const QByteArray &value)
@@ -65,7 +51,8 @@ void SoundChoice::start(std::function<void()> then)
     if (!std::exchange(m_bStarted, true)) {
         for (const Role role : cEach) {
             m_inherited.at(role) = qgetenv(variable(role));
-            m_chosen.at(role) = {stored(cRows.at(role).nameKey), stored(cRows.at(role).shownKey)};
+            m_chosen.at(role) = {UserSetting::read(QLatin1String(cRows.at(role).nameKey)),
+                                 UserSetting::read(QLatin1String(cRows.at(role).shownKey))};
         }
         tellEnvironment();
         m_devices.start();
@@ -95,16 +82,11 @@ bool SoundChoice::isMissing(Role role) const
 void SoundChoice::choose(Role role, const SoundDevices::Device &device)
 {
     m_chosen.at(role) = device;
-    store(cRows.at(role).nameKey, device.name);
-    store(cRows.at(role).shownKey, device.name.isEmpty() ? QString() : device.shown);
+    m_bKept =
+        UserSetting::write(QLatin1String(cRows.at(role).nameKey), device.name) &&
+        UserSetting::write(QLatin1String(cRows.at(role).shownKey), device.name.isEmpty() ? QString() : device.shown);
     tellEnvironment();
     emit changed();
-}
-
-bool SoundChoice::isKept() const
-{
-    return std::all_of(cEach.begin(), cEach.end(),
-                       [this](Role role) { return stored(cRows.at(role).nameKey) == chosen(role).name; });
 }
 
 bool SoundChoice::isHeededBy(qint64 pid)

@@ -43,8 +43,8 @@ public:
     /// on.
     void choose(Role role, const SoundDevices::Device &device);
 
-    /// Whether the user's settings have taken what was chosen; if not it holds until this process ends.
-    bool isKept() const;
+    /// Whether the user's settings have taken what was chosen last; if not it holds until this process ends.
+    bool isKept() const { return m_bKept; }
 
     /// Whether the call process of that id was started with what holds now.
     static bool isHeededBy(qint64 pid);
@@ -64,4 +64,5 @@ private:
     std::array<QByteArray, cRoles> m_inherited;
     std::function<void()> m_then;
     bool m_bStarted = false;
+    bool m_bKept = true;
 };
