@@ -24,7 +24,9 @@ QSize PageArea::sizeHint() const
         return QScrollArea::sizeHint();
     }
     const int iWidth = qMax(page->sizeHint().width(), window()->minimumWidth());
-    return {iWidth, page->hasHeightForWidth() ? page->heightForWidth(iWidth) : page->sizeHint().height()};
+    // The area scrolls below the page's least size, which knows nothing of lines that are broken.
+    const int iLeast = qMax(page->sizeHint().height(), page->minimumSizeHint().height());
+    return {iWidth, qMax(iLeast, page->heightForWidth(iWidth))};
 }
 
 QSize PageArea::minimumSizeHint() const
