@@ -78,14 +78,14 @@ void SettingsPage::namePages()
 
 void SettingsPage::fitScreen()
 {
-    // What is not polished yet has not its style sheet's size.
+    // What is not polished yet has not its style sheet's size, and who holds it does not know, from inside to outside.
     const QList<QWidget *> parts = findChildren<QWidget *>();
     std::for_each(parts.begin(), parts.end(), [](const QWidget *part) { part->ensurePolished(); });
+    std::for_each(parts.rbegin(), parts.rend(), [](QWidget *part) { part->updateGeometry(); });
     for (const PageArea *area : findChildren<PageArea *>()) {
         area->widget()->layout()->invalidate();
         area->widget()->layout()->activate();
     }
-    ui->tabs->updateGeometry();
     const QList<QRect> screens = WindowPlace::insides();
     // As large as it was made by hand, or as it wants to be.
     const QSize wanted = testAttribute(Qt::WA_Resized) ? size() : sizeHint().expandedTo(minimumSize());
