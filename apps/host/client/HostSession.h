@@ -8,6 +8,7 @@
 #include "client/HostStore.h"
 #include "history/CallHistory.h"
 #include "history/CallWatch.h"
+#include "sound/SoundChoice.h"
 
 #include "plugin/EMsgId.h"
 
@@ -80,6 +81,8 @@ public:
     const CallWatch &calls() const { return m_calls; }
     /// The watch over the call process.
     CallService &callService() { return m_callService; }
+    /// The microphone and the speaker of calls.
+    SoundChoice &sound() { return m_sound; }
     /// The user's settings; to be used after start.
     HostSettings &settings() { return m_settings; }
     /// The plug-in's own words about itself, "FileManagePlugin {2EFF...}"; empty before start.
@@ -120,6 +123,7 @@ private:
     CallHistory m_history;
     CallWatch m_calls;
     CallService m_callService;
+    SoundChoice m_sound;
     QPointer<QObject> m_pPlugin;
     QString m_strPlugin;
     bool m_bOnline = false;

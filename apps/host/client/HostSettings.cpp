@@ -2,6 +2,7 @@
 
 #include "client/HostLanguage.h"
 #include "client/HostSkins.h"
+#include "client/SettingsFile.h"
 
 #include "common/AppPaths.h"
 #include "common/settings/ConfigFile.h"
@@ -12,7 +13,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
-#include <QSettings>
 #include <QWidget>
 
 #include <algorithm>
@@ -24,32 +24,11 @@ const QString cDataKey = QStringLiteral("/msgSetting/msgfilepath");
 const QString cLanguageKey = QStringLiteral("/languageSetting/language");
 const QString cSkinKey = QStringLiteral("/skinSetting/skinName");
 
-/// Writes the value to the file. False, and all who read the file here find what they found before, where that cannot
-/// be written to.
-bool write(const QString &strFile, const QString &strKey, const QString &strValue)
-{
-    QSettings settings(strFile, QSettings::IniFormat);
-    settings.setIniCodec("UTF-8");
-    const QVariant before = settings.value(strKey);
-    settings.setValue(strKey, strValue);
-    settings.sync();
-    if (settings.status() == QSettings::NoError) {
-        return true;
-    }
-    // What could not be written stays with Qt, which would give it to the next reader and write it one day.
-    if (before.isValid()) {
-        settings.setValue(strKey, before);
-    } else {
-        settings.remove(strKey);
-    }
-    return false;
-}
-
 /// Writes the value to the user's file and has the shared settings take it.
 bool writeForUser(const QString &strKey, const QString &strValue)
 {
     SystemSetData *settings = SystemSetData::instance();
-    if (!write(settings->m_strUserConfigPath, strKey, strValue)) {
+    if (!SettingsFile::write(settings->m_strUserConfigPath, {{strKey, strValue}})) {
         return false;
     }
     settings->initData(settings->m_strUserName);
@@ -95,7 +74,8 @@ HostSettings::FolderOutcome HostSettings::setDataFolder(const QString &strFolder
     if (!strFolder.isEmpty() && !canHold(strFolder)) {
         return FolderOutcome::Unusable;
     }
-    return write(commonFile(), cDataKey, strFolder) ? FolderOutcome::Taken : FolderOutcome::NotWritten;
+    return SettingsFile::write(commonFile(), {{cDataKey, strFolder}}) ? FolderOutcome::Taken
+                                                                      : FolderOutcome::NotWritten;
 }
 
 bool HostSettings::isDataFolderPending()
@@ -129,7 +109,7 @@ QString HostSettings::language()
 
 bool HostSettings::setLanguage(const QString &strLanguage)
 {
-    if (!write(commonFile(), cLanguageKey, strLanguage)) {
+    if (!SettingsFile::write(commonFile(), {{cLanguageKey, strLanguage}})) {
         return false;
     }
     emit languageChanged(strLanguage);
@@ -144,7 +124,7 @@ QString HostSettings::skin()
 
 bool HostSettings::setSkin(const QString &strName)
 {
-    if (!write(userFile(), cSkinKey, strName)) {
+    if (!SettingsFile::write(userFile(), {{cSkinKey, strName}})) {
         return false;
     }
     const QList<SysUIData> *skins = SkinContext::getSysUIDataList();

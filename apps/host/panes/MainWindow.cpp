@@ -23,7 +23,7 @@
 
 MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     : ui(std::make_unique<Ui::MainWindow>()), m_session(session), m_book(book), m_status(*this, session.calls(), book),
-      m_prompt(book), m_signature(book), m_videoCard(book), m_settingsPage(session.settings())
+      m_prompt(book), m_promptNotice(m_prompt), m_signature(book), m_videoCard(book), m_settingsPage(session.settings())
 {
     ui->setupUi(this);
     // The call window is in front when a tip has to say why nobody else can be called.
@@ -34,6 +34,8 @@ MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     setUpPlace();
     setUpHappenings();
     setUpCallService();
+    m_settingsPage.addSound(m_session.sound(), m_session.callService());
+    m_settingsPage.addKeys(m_promptKey);
     connectParts();
     connectSession();
     connectCalls();
@@ -116,6 +118,8 @@ void MainWindow::connectSession()
             [this](const QString &strUid) { ui->contactPane->showPerson(*m_book.entry(strUid)); });
     connect(&m_session.settings(), &HostSettings::skinChanged, this, &MainWindow::takeSkin);
     connect(&mailbox, &HostMailbox::callIncoming, &m_prompt, &IncomingPrompt::prompt);
+    connect(&m_promptKey, &PromptKey::pressed, &m_prompt, &IncomingPrompt::enter);
+    m_promptKey.start();
     connect(&mailbox, &HostMailbox::promptWithdrawn, &m_prompt, &IncomingPrompt::withdraw);
     connect(&m_prompt, &IncomingPrompt::answered, this, [this](const QString &strUid, bool bAccept) {
         const QString name = m_book.nameOf(strUid);

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "desktop/PromptKey.h"
 #include "history/CallReadiness.h"
 #include "panes/CallStatusLine.h"
 #include "panes/IncomingPrompt.h"
+#include "panes/PromptNotice.h"
 #include "panes/SettingsPage.h"
 #include "panes/SignatureCard.h"
 #include "panes/VideoCard.h"
@@ -82,6 +84,8 @@ private:
     CallReadiness m_readiness;
     CallStatusLine m_status;
     IncomingPrompt m_prompt;
+    PromptNotice m_promptNotice;
+    PromptKey m_promptKey;
     SignatureCard m_signature;
     VideoCard m_videoCard;
     SettingsPage m_settingsPage;

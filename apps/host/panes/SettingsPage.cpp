@@ -4,15 +4,23 @@
 #include "client/HostLanguage.h"
 #include "client/HostPictures.h"
 #include "client/HostSkins.h"
+#include "panes/KeysPane.h"
+#include "panes/PageArea.h"
+#include "panes/SoundPane.h"
+#include "panes/WindowPlace.h"
 
 #include <QAccessible>
 #include <QDir>
 #include <QFileDialog>
 #include <QRadioButton>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int cSwatchSize = 18;
+// The property in which a page keeps what it is called, before the translation.
+constexpr const char *cName = "pageName";
 
 } // namespace
 
@@ -33,6 +41,63 @@ SettingsPage::SettingsPage(HostSettings &settings, QWidget *parent)
 }
 
 SettingsPage::~SettingsPage() = default;
+
+void SettingsPage::addSound(SoundChoice &choice, CallService &service)
+{
+    auto *pane = new SoundPane(choice, service);
+    connect(pane, &SoundPane::taken, this, [this](bool bKept) { tellKept(bKept, HostSettings::userFile()); });
+    addPage(pane, QT_TR_NOOP("&Sound"));
+}
+
+void SettingsPage::addKeys(PromptKey &key)
+{
+    auto *pane = new KeysPane(key);
+    connect(pane, &KeysPane::taken, this, [this](bool bKept) { tellKept(bKept, HostSettings::userFile()); });
+    addPage(pane, QT_TR_NOOP("&Keyboard"));
+}
+
+void SettingsPage::addPage(QWidget *page, const char *strName)
+{
+    auto *area = new PageArea(ui->tabs);
+    area->setWidget(page);
+    area->setProperty(cName, strName);
+    ui->tabs->addTab(area, tr(strName));
+    // The button below all pages comes after each.
+    const QList<QWidget *> parts = page->findChildren<QWidget *>();
+    const auto last = std::find_if(parts.rbegin(), parts.rend(), [this](const QWidget *part) {
+        return part->window() == this && (part->focusPolicy() & Qt::TabFocus) != 0;
+    });
+    if (last != parts.rend()) {
+        setTabOrder(*last, ui->btnClose);
+    }
+    HostSkins::dress(this);
+}
+
+/// The form names the page that it has itself.
+void SettingsPage::namePages()
+{
+    for (int page = 1; page < ui->tabs->count(); ++page) {
+        ui->tabs->setTabText(page, tr(ui->tabs->widget(page)->property(cName).toByteArray()));
+    }
+}
+
+void SettingsPage::fitScreen()
+{
+    // What is not polished yet has not its style sheet's size, and who holds it does not know, from inside to outside.
+    const QList<QWidget *> parts = findChildren<QWidget *>();
+    std::for_each(parts.begin(), parts.end(), [](const QWidget *part) { part->ensurePolished(); });
+    std::for_each(parts.rbegin(), parts.rend(), [](QWidget *part) { part->updateGeometry(); });
+    for (const PageArea *area : findChildren<PageArea *>()) {
+        area->widget()->layout()->invalidate();
+        area->widget()->layout()->activate();
+    }
+    const QList<QRect> screens = WindowPlace::insides();
+    // As large as it was made by hand, or as it wants to be.
+    const QSize wanted = testAttribute(Qt::WA_Resized) ? size() : sizeHint().expandedTo(minimumSize());
+    if (!screens.isEmpty()) {
+        resize(wanted.boundedTo(screens.first().size()));
+    }
+}
 
 void SettingsPage::addLanguages()
 {
@@ -99,6 +164,9 @@ void SettingsPage::open()
 {
     clearErrors();
     showSettings();
+    if (!isVisible()) {
+        fitScreen();
+    }
     show();
     raise();
     activateWindow();
@@ -167,6 +235,7 @@ void SettingsPage::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
         nameSkins();
+        namePages();
         clearErrors();
         showSettings();
     }

@@ -1713,6 +1713,22 @@
         <source>Nothing was changed: %1 cannot be written to.</source>
         <translation>Nothing was changed: %1 cannot be written to.</translation>
     </message>
+    <message>
+        <source>Pages of the settings</source>
+        <translation>Pages of the settings</translation>
+    </message>
+    <message>
+        <source>&amp;General</source>
+        <translation>&amp;General</translation>
+    </message>
+    <message>
+        <source>&amp;Sound</source>
+        <translation>&amp;Sound</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard</source>
+        <translation>&amp;Keyboard</translation>
+    </message>
 </context>
 <context>
     <name>SignatureCard</name>
@@ -1880,6 +1896,142 @@
     <message>
         <source>Video call with %1</source>
         <translation>Video call with %1</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceBox</name>
+    <message>
+        <source>As the desktop has it</source>
+        <translation>As the desktop has it</translation>
+    </message>
+    <message>
+        <source>As the desktop has it (%1)</source>
+        <translation>As the desktop has it (%1)</translation>
+    </message>
+    <message>
+        <source>%1 (not there)</source>
+        <translation>%1 (not there)</translation>
+    </message>
+</context>
+<context>
+    <name>SoundPane</name>
+    <message>
+        <source>&amp;Microphone</source>
+        <translation>&amp;Microphone</translation>
+    </message>
+    <message>
+        <source>Microphone of calls</source>
+        <translation>Microphone of calls</translation>
+    </message>
+    <message>
+        <source>Level of the microphone</source>
+        <translation>Level of the microphone</translation>
+    </message>
+    <message>
+        <source>S&amp;peaker</source>
+        <translation>S&amp;peaker</translation>
+    </message>
+    <message>
+        <source>Speaker of calls</source>
+        <translation>Speaker of calls</translation>
+    </message>
+    <message>
+        <source>Play a &amp;tone</source>
+        <translation>Play a &amp;tone</translation>
+    </message>
+    <message>
+        <source>The sound server does not answer. What was chosen holds, and nothing can be tried.</source>
+        <translation>The sound server does not answer. What was chosen holds, and nothing can be tried.</translation>
+    </message>
+    <message>
+        <source>There is no sound server, so there is nothing to choose from. As soon as one is there, its devices are shown.</source>
+        <translation>There is no sound server, so there is nothing to choose from. As soon as one is there, its devices are shown.</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is not there. Until it is, calls take the desktop's, which the bar shows.</source>
+        <translation>The chosen microphone is not there. Until it is, calls take the desktop's, which the bar shows.</translation>
+    </message>
+    <message>
+        <source>This microphone cannot be opened.</source>
+        <translation>This microphone cannot be opened.</translation>
+    </message>
+    <message>
+        <source>Speak: the bar shows what the microphone hears.</source>
+        <translation>Speak: the bar shows what the microphone hears.</translation>
+    </message>
+    <message>
+        <source>A tone is being played.</source>
+        <translation>A tone is being played.</translation>
+    </message>
+    <message>
+        <source>The tone could not be played.</source>
+        <translation>The tone could not be played.</translation>
+    </message>
+    <message>
+        <source>The tone was played. If you have not heard it, choose another speaker, or turn this one up.</source>
+        <translation>The tone was played. If you have not heard it, choose another speaker, or turn this one up.</translation>
+    </message>
+    <message>
+        <source>The chosen speaker is not there. Until it is, calls take the desktop's.</source>
+        <translation>The chosen speaker is not there. Until it is, calls take the desktop's.</translation>
+    </message>
+    <message>
+        <source>The tone goes to the speaker above.</source>
+        <translation>The tone goes to the speaker above.</translation>
+    </message>
+    <message>
+        <source>Takes effect when the call service starts the next time, at the latest when the client does.</source>
+        <translation>Takes effect when the call service starts the next time, at the latest when the client does.</translation>
+    </message>
+    <message>
+        <source>The call service was started with this choice.</source>
+        <translation>The call service was started with this choice.</translation>
+    </message>
+</context>
+<context>
+    <name>KeysPane</name>
+    <message>
+        <source>Ringing calls</source>
+        <translation>Ringing calls</translation>
+    </message>
+    <message>
+        <source>&amp;Use a key of the whole desktop</source>
+        <translation>&amp;Use a key of the whole desktop</translation>
+    </message>
+    <message>
+        <source>Key of the whole desktop: press the one that you want</source>
+        <translation>Key of the whole desktop: press the one that you want</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing. Press a key together with Ctrl, Alt or the Windows key, or one of F1 to F35.</source>
+        <translation>%1 is needed for typing. Press a key together with Ctrl, Alt or the Windows key, or one of F1 to F35.</translation>
+    </message>
+    <message>
+        <source>%1 goes to the prompt of a ringing call from every program. Press another key in the field to change it.</source>
+        <translation>%1 goes to the prompt of a ringing call from every program. Press another key in the field to change it.</translation>
+    </message>
+    <message>
+        <source>The desktop refuses %1: another program has it. Press another key in the field.</source>
+        <translation>The desktop refuses %1: another program has it. Press another key in the field.</translation>
+    </message>
+    <message>
+        <source>This keyboard has no %1. Press another key in the field.</source>
+        <translation>This keyboard has no %1. Press another key in the field.</translation>
+    </message>
+    <message>
+        <source>This desktop gives no program a key of its own. In its own settings you may find a way; in the client's windows Ctrl+I goes to the prompt.</source>
+        <translation>This desktop gives no program a key of its own. In its own settings you may find a way; in the client's windows Ctrl+I goes to the prompt.</translation>
+    </message>
+    <message>
+        <source>In the client's windows Ctrl+I goes to the prompt of a ringing call; this key does so from every program.</source>
+        <translation>In the client's windows Ctrl+I goes to the prompt of a ringing call; this key does so from every program.</translation>
+    </message>
+</context>
+<context>
+    <name>CallNotice</name>
+    <message>
+        <source>Answer</source>
+        <translation>Answer</translation>
     </message>
 </context>
 </TS>

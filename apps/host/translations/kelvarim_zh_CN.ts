@@ -1709,6 +1709,22 @@
         <source>Nothing was changed: %1 cannot be written to.</source>
         <translation>未作更改：无法写入 %1。</translation>
     </message>
+    <message>
+        <source>Pages of the settings</source>
+        <translation>设置页面</translation>
+    </message>
+    <message>
+        <source>&amp;General</source>
+        <translation>常规(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Sound</source>
+        <translation>声音(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard</source>
+        <translation>键盘(&amp;K)</translation>
+    </message>
 </context>
 <context>
     <name>SignatureCard</name>
@@ -1874,6 +1890,142 @@
     <message>
         <source>Video call with %1</source>
         <translation>与 %1 的视频通话</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceBox</name>
+    <message>
+        <source>As the desktop has it</source>
+        <translation>跟随系统</translation>
+    </message>
+    <message>
+        <source>As the desktop has it (%1)</source>
+        <translation>跟随系统（%1）</translation>
+    </message>
+    <message>
+        <source>%1 (not there)</source>
+        <translation>%1（未连接）</translation>
+    </message>
+</context>
+<context>
+    <name>SoundPane</name>
+    <message>
+        <source>&amp;Microphone</source>
+        <translation>麦克风(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Microphone of calls</source>
+        <translation>通话用麦克风</translation>
+    </message>
+    <message>
+        <source>Level of the microphone</source>
+        <translation>麦克风音量</translation>
+    </message>
+    <message>
+        <source>S&amp;peaker</source>
+        <translation>扬声器(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Speaker of calls</source>
+        <translation>通话用扬声器</translation>
+    </message>
+    <message>
+        <source>Play a &amp;tone</source>
+        <translation>播放测试音(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The sound server does not answer. What was chosen holds, and nothing can be tried.</source>
+        <translation>声音服务没有响应。已选择的设备仍然有效，但暂时无法测试。</translation>
+    </message>
+    <message>
+        <source>There is no sound server, so there is nothing to choose from. As soon as one is there, its devices are shown.</source>
+        <translation>没有声音服务，因此没有可选的设备。声音服务启动后，设备会显示在这里。</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is not there. Until it is, calls take the desktop's, which the bar shows.</source>
+        <translation>所选的麦克风未连接。连接之前，通话使用系统的麦克风，音量条显示的也是它。</translation>
+    </message>
+    <message>
+        <source>This microphone cannot be opened.</source>
+        <translation>无法打开此麦克风。</translation>
+    </message>
+    <message>
+        <source>Speak: the bar shows what the microphone hears.</source>
+        <translation>请说话：音量条显示麦克风收到的声音。</translation>
+    </message>
+    <message>
+        <source>A tone is being played.</source>
+        <translation>正在播放测试音。</translation>
+    </message>
+    <message>
+        <source>The tone could not be played.</source>
+        <translation>无法播放测试音。</translation>
+    </message>
+    <message>
+        <source>The tone was played. If you have not heard it, choose another speaker, or turn this one up.</source>
+        <translation>测试音已播放。如果没有听到，请选择其他扬声器或调高音量。</translation>
+    </message>
+    <message>
+        <source>The chosen speaker is not there. Until it is, calls take the desktop's.</source>
+        <translation>所选的扬声器未连接。连接之前，通话使用系统的扬声器。</translation>
+    </message>
+    <message>
+        <source>The tone goes to the speaker above.</source>
+        <translation>测试音从上面的扬声器播放。</translation>
+    </message>
+    <message>
+        <source>Takes effect when the call service starts the next time, at the latest when the client does.</source>
+        <translation>通话服务下次启动时生效，最迟在客户端下次启动时。</translation>
+    </message>
+    <message>
+        <source>The call service was started with this choice.</source>
+        <translation>通话服务正在使用此选择。</translation>
+    </message>
+</context>
+<context>
+    <name>KeysPane</name>
+    <message>
+        <source>Ringing calls</source>
+        <translation>来电</translation>
+    </message>
+    <message>
+        <source>&amp;Use a key of the whole desktop</source>
+        <translation>使用全局快捷键(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Key of the whole desktop: press the one that you want</source>
+        <translation>全局快捷键：请按下想用的键</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing. Press a key together with Ctrl, Alt or the Windows key, or one of F1 to F35.</source>
+        <translation>打字需要 %1。请与 Ctrl、Alt 或 Windows 键一起按，或使用 F1 至 F35。</translation>
+    </message>
+    <message>
+        <source>%1 goes to the prompt of a ringing call from every program. Press another key in the field to change it.</source>
+        <translation>在任何程序中按 %1 都会转到来电提示。要更改，请在输入框中按下另一个键。</translation>
+    </message>
+    <message>
+        <source>The desktop refuses %1: another program has it. Press another key in the field.</source>
+        <translation>系统拒绝 %1：已被其他程序占用。请在输入框中按下另一个键。</translation>
+    </message>
+    <message>
+        <source>This keyboard has no %1. Press another key in the field.</source>
+        <translation>此键盘没有 %1。请在输入框中按下另一个键。</translation>
+    </message>
+    <message>
+        <source>This desktop gives no program a key of its own. In its own settings you may find a way; in the client's windows Ctrl+I goes to the prompt.</source>
+        <translation>此桌面不允许程序使用全局快捷键。可在桌面自己的设置中另行设法；在客户端窗口中按 Ctrl+I 可转到来电提示。</translation>
+    </message>
+    <message>
+        <source>In the client's windows Ctrl+I goes to the prompt of a ringing call; this key does so from every program.</source>
+        <translation>在客户端窗口中按 Ctrl+I 可转到来电提示；此快捷键在任何程序中都有效。</translation>
+    </message>
+</context>
+<context>
+    <name>CallNotice</name>
+    <message>
+        <source>Answer</source>
+        <translation>接听</translation>
     </message>
 </context>
 </TS>

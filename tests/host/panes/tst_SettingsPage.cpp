@@ -19,6 +19,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -363,6 +366,16 @@ private slots:
         stops.removeDuplicates();
         QCOMPARE(stops, (QStringList{"language", "skin", "editDataFolder", "btnDataFolder", "editReceiveFolder",
                                      "btnReceiveFolder", "btnClose"}));
+    }
+
+    void pageIsAsHighAsItsContentAndNoHigherThanTheScreen()
+    {
+        const SettingsPage &page = m_pWindow->settingsPage();
+        const auto *area = page.findChild<QScrollArea *>(QStringLiteral("generalArea"));
+        QVERIFY(page.frameGeometry().height() <= page.screen()->availableGeometry().height());
+        QVERIFY(page.frameGeometry().width() <= page.screen()->availableGeometry().width());
+        QCOMPARE(area->verticalScrollBar()->maximum(), 0);
+        QVERIFY(area->widget()->width() <= area->viewport()->width());
     }
 
     void escapeClosesThePage()
