@@ -243,10 +243,14 @@ private slots:
         QFETCH(QString, language);
         HostLanguage words(QStringLiteral(VOIP_TRANSLATIONS));
         connect(&m_pSession->settings(), &HostSettings::languageChanged, &words, &HostLanguage::use);
+        QFETCH(QString, contacts);
+        // From another language, so that there is something to change whichever was spoken before.
+        const char *other = language == QLatin1String("zh_TW") ? "zh_CN" : "zh_TW";
+        QVERIFY(pressButton(&m_pWindow->settingsPage(), qPrintable(QStringLiteral("language_") + other)));
+        QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::text(m_pWindow.get(), "lblContacts") != contacts, cPatienceMs);
         QVERIFY(pressButton(&m_pWindow->settingsPage(), qPrintable(QStringLiteral("language_") + language)));
         QTRY_COMPARE_WITH_TIMEOUT(stored(HostSettings::commonFile(), "/languageSetting/language"), language,
                                   cPatienceMs);
-        QFETCH(QString, contacts);
         QTRY_COMPARE_WITH_TIMEOUT(WindowProbe::text(m_pWindow.get(), "lblContacts"), contacts, cPatienceMs);
         QTEST(WindowProbe::text(m_pWindow->findChild<QWidget *>(QStringLiteral("30010001")), "lblPresence"),
               "presence");
@@ -282,7 +286,8 @@ private slots:
         QVERIFY2(english.contains(QStringLiteral("\nThe list of calls was damaged.")), qPrintable(english));
         QVERIFY(pressButton(&m_pWindow->settingsPage(), "language_zh_CN"));
         QTRY_VERIFY_WITH_TIMEOUT(
-            WindowProbe::text(m_pWindow.get(), "lblNotice").startsWith(QStringLiteral("本地存储已损坏")), cPatienceMs);
+            WindowProbe::text(m_pWindow.get(), "lblNotice").startsWith(QStringLiteral("本地数据库已损坏")),
+            cPatienceMs);
         const QString chinese = WindowProbe::text(m_pWindow.get(), "lblNotice");
         QCOMPARE(chinese, (m_pSession->store().reports() + m_pSession->history().reports()).join(QLatin1Char('\n')));
         QCOMPARE(chinese.count(QLatin1Char('\n')), 1);

@@ -4,10 +4,12 @@
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
 
+#include "model/SystemSetData.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"
 
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -19,7 +21,12 @@ class tst_StrangerCalls : public QObject
 
 private slots:
     void init() { start(); }
-    void cleanup() { end(); }
+    void cleanup()
+    {
+        end();
+        // Who has called is remembered by the list of calls.
+        QVERIFY(QFile::remove(SystemSetData::instance()->m_strUserFolder + QStringLiteral("/callHistory.db")));
+    }
 
     void callMakesTheStrangerKnownAtOnce()
     {
