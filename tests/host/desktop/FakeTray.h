@@ -3,7 +3,7 @@
 // The tray of a desktop on the X server: takes the icons that ask for a place, and shows them in a corner of the
 // screen. GUI thread.
 
-#include <QPoint>
+#include <QProcess>
 
 #include <cstdlib>
 #include <cstring>
@@ -14,9 +14,6 @@
 class FakeTray
 {
 public:
-    /// Where the middle of an icon is.
-    static constexpr int cMiddle = 16;
-
     FakeTray() : m_pServer(xcb_connect(nullptr, nullptr))
     {
         const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(m_pServer)).data;
@@ -61,6 +58,14 @@ public:
         }
         return int(m_icons.size());
     }
+    /// Clicks with the real mouse in the middle of the first icon.
+    bool click() const
+    {
+        const QString middle = QString::number(cMiddle);
+        return QProcess::execute(QStringLiteral("xdotool"),
+                                 {QStringLiteral("mousemove"), QStringLiteral("--window"), QString::number(m_window),
+                                  middle, middle, QStringLiteral("click"), QStringLiteral("1")}) == 0;
+    }
     /// Whether the last icon is still there.
     bool isShown()
     {
@@ -70,6 +75,9 @@ public:
     }
 
 private:
+    // Where the middle of an icon is.
+    static constexpr int cMiddle = 16;
+
     struct Freed
     {
         void operator()(void *reply) const { std::free(reply); }

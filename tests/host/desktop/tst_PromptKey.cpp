@@ -231,12 +231,10 @@ private:
     {
         const auto *bar = m_pWindow->settingsPage().findChild<QTabBar *>();
         m_pWindow->comeToFront();
-        Deeds deeds({Deeds::click([this] { return m_pWindow.get(); }, "btnSettings",
-                                  [this] { return m_pWindow->settingsPage().isActiveWindow(); }),
-                     [bar, this] {
-                         return box()->isVisible() ||
-                                (Deeds::clickAt(bar->mapToGlobal(bar->tabRect(2).center())) && false);
-                     }});
+        Deeds deeds(
+            {Deeds::click([this] { return m_pWindow.get(); }, "btnSettings",
+                          [this] { return m_pWindow->settingsPage().isActiveWindow(); }),
+             [bar, this] { return box()->isVisible() || (Deeds::clickOn(*bar, bar->tabRect(2).center()) && false); }});
         QVERIFY(deeds.finish());
     }
     void switchOn()

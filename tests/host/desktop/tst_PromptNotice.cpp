@@ -197,9 +197,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(tray.icons(), 1, cPatienceMs);
         QTRY_VERIFY_WITH_TIMEOUT(tray.isShown(), cPatienceMs);
         QVERIFY(!prompt().isActiveWindow());
-        Deeds click({[this] {
-            return prompt().isActiveWindow() || (Deeds::clickAt({FakeTray::cMiddle, FakeTray::cMiddle}) && false);
-        }});
+        Deeds click({[this, &tray] { return prompt().isActiveWindow() || (tray.click() && false); }});
         QVERIFY(click.finish());
         QTRY_VERIFY_WITH_TIMEOUT(!tray.isShown(), cPatienceMs);
         QVERIFY(prompt().isVisible());

@@ -44,7 +44,7 @@ private slots:
         auto *bar = page().findChild<QTabBar *>();
         Deeds open({[bar, this] {
             return WindowProbe::isShown(&page(), "SoundPane") ||
-                   (Deeds::clickAt(bar->mapToGlobal(bar->tabRect(1).center())) && false);
+                   (Deeds::clickOn(*bar, bar->tabRect(1).center()) && false);
         }});
         QVERIFY(open.finish());
         QTRY_COMPARE_WITH_TIMEOUT(microphone()->count(), 3, cPatienceMs);
@@ -341,7 +341,7 @@ private:
     {
         const WindowProbe::Spot spot = WindowProbe::button(&page(), strName);
         QVERIFY(spot.widget != nullptr);
-        QVERIFY(Deeds::clickAt(spot.widget->mapToGlobal(spot.place)));
+        QVERIFY(Deeds::clickOn(*spot.widget, spot.place));
         QTest::qWait(200);
     }
     /// With the real mouse: opens the list, and takes the row of that text.
@@ -354,10 +354,12 @@ private:
             }
             if (looks++ % 25 == 0) {
                 const QModelIndex row = box->model()->index(box->findText(strText), 0);
-                const QPoint place = box->view()->isVisible()
-                                         ? box->view()->viewport()->mapToGlobal(box->view()->visualRect(row).center())
-                                         : box->mapToGlobal(box->rect().center());
-                Deeds::clickAt(place);
+                const QAbstractItemView *view = box->view();
+                if (view->isVisible()) {
+                    Deeds::clickOn(*view->viewport(), view->visualRect(row).center());
+                } else {
+                    Deeds::clickOn(*box, box->rect().center());
+                }
             }
             return false;
         }});
