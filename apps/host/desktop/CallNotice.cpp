@@ -65,7 +65,8 @@ void CallNotice::show(const QString &strTitle, const QString &strText)
         const QDBusPendingReply<uint> reply = *watcher;
         const bool isLate = iTurn != m_iTurn;
         if (reply.isError()) {
-            if (!isLate) {
+            // Nor is there a tray where nobody answered: to find out about it Qt would wait for the same bus.
+            if (!isLate && reply.error().type() != QDBusError::NoReply) {
                 showInTray(strTitle, strText);
             }
         } else if (!isLate) {
@@ -100,8 +101,8 @@ void CallNotice::listen()
     QDBusConnection bus = QDBusConnection::sessionBus();
     for (const auto &[signal, slot] : {std::pair("ActionInvoked", SLOT(actionInvoked(uint, QString))),
                                        std::pair("NotificationClosed", SLOT(notificationClosed(uint, uint)))}) {
-        bus.connect(QLatin1String(cService), QLatin1String(cPath), QLatin1String(cService), QLatin1String(signal), this,
-                    slot);
+        // From whichever service: to find out whose the name is Qt would wait for the bus, be it stalled.
+        bus.connect(QString(), QLatin1String(cPath), QLatin1String(cService), QLatin1String(signal), this, slot);
     }
 }
 

@@ -4,6 +4,8 @@
 #include "client/CallService.h"
 #include "sound/SoundChoice.h"
 
+#include <utility>
+
 SoundPane::SoundPane(SoundChoice &choice, CallService &service, QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::SoundPane>()), m_choice(choice), m_service(service)
 {
@@ -16,10 +18,17 @@ SoundPane::SoundPane(SoundChoice &choice, CallService &service, QWidget *parent)
     }
     connect(&m_choice, &SoundChoice::changed, this, &SoundPane::follow);
     connect(&m_service, &CallService::changed, this, &SoundPane::showWords);
-    connect(&m_meter, &SoundMeter::levelChanged, ui->barLevel, &QProgressBar::setValue);
+    connect(&m_meter, &SoundMeter::levelChanged, this, [this](int iLevel) {
+        ui->barLevel->setValue(iLevel);
+        // It was late, and counted as failed.
+        if (std::exchange(m_bDeaf, false)) {
+            showWords();
+        }
+    });
     connect(&m_meter, &SoundMeter::failed, this, [this] {
         m_bDeaf = true;
         ui->barLevel->setValue(0);
+        m_choice.lookAgain();
         showWords();
     });
     connect(ui->btnTone, &QPushButton::clicked, this, [this] {
@@ -114,6 +123,10 @@ QString SoundPane::serverWords() const
 
 QString SoundPane::microphoneWords() const
 {
+    // Above stands why nothing is heard.
+    if (!serverWords().isEmpty()) {
+        return QString();
+    }
     if (m_choice.isMissing(SoundChoice::Microphone)) {
         return tr("The chosen microphone is not there. Until it is, calls take the desktop's, which the bar shows.");
     }
@@ -130,6 +143,9 @@ QString SoundPane::speakerWords() const
     case Played:
         return tr("The tone was played. If you have not heard it, choose another speaker, or turn this one up.");
     default:
+        if (!serverWords().isEmpty()) {
+            return QString();
+        }
         return m_choice.isMissing(SoundChoice::Speaker)
                    ? tr("The chosen speaker is not there. Until it is, calls take the desktop's.")
                    : tr("The tone goes to the speaker above.");

@@ -33,6 +33,8 @@ public:
 
     /// The devices of the machine.
     const SoundDevices &devices() const { return m_devices; }
+    /// Has the sound server asked anew, since a device was found to say nothing.
+    void lookAgain() { m_devices.lookAgain(); }
     /// Those of that kind that are there.
     const QList<SoundDevices::Device> &present(Role role) const;
     /// What is chosen; with an empty name what the desktop has chosen.

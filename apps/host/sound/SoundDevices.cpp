@@ -132,6 +132,14 @@ void SoundDevices::start()
     }
 }
 
+void SoundDevices::lookAgain()
+{
+    // One that is asked already, or will be, says it.
+    if (!m_patience.isActive() && !m_pause.isActive()) {
+        connectToServer();
+    }
+}
+
 void SoundDevices::connectToServer()
 {
     m_patience.start();

@@ -48,6 +48,8 @@ public:
 
     /// Begins to ask; a second call does nothing.
     void start();
+    /// Asks anew, by a new connection: the one there is may have stalled.
+    void lookAgain();
     State state() const { return m_state; }
     /// Empty until the server has answered. What it said last stays when it falls silent or goes.
     const Lists &lists() const { return m_lists; }

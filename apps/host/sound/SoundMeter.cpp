@@ -76,18 +76,26 @@ private:
     SoundLink m_link;
 };
 
-SoundMeter::SoundMeter(QObject *parent) : QObject(parent) {}
+SoundMeter::SoundMeter(QObject *parent) : QObject(parent)
+{
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(cPatienceMs);
+    connect(&m_patience, &QTimer::timeout, this, &SoundMeter::failed);
+    connect(this, &SoundMeter::levelChanged, &m_patience, QOverload<>::of(&QTimer::start));
+}
 
 SoundMeter::~SoundMeter() = default;
 
 void SoundMeter::listen(const QString &strDevice)
 {
     m_pEar.reset();
+    m_patience.start();
     m_pEar = std::make_unique<Ear>(*this, strDevice);
 }
 
 void SoundMeter::stop()
 {
+    m_patience.stop();
     m_pEar.reset();
 }
 

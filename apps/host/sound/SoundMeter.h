@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include <memory>
 
@@ -16,6 +17,8 @@ class SoundMeter : public QObject
 public:
     /// The quietest sound that is told from silence, in decibels of the loudest one.
     static constexpr int cQuietest = -60;
+    /// How long a device may say nothing, not even that it is silent, in milliseconds, before it counts as failed.
+    static constexpr int cPatienceMs = 2000;
 
     explicit SoundMeter(QObject *parent = nullptr);
     ~SoundMeter() override;
@@ -33,11 +36,12 @@ public:
 signals:
     /// How loud it is now, from 0 to 100; some 25 times a second.
     void levelChanged(int iLevel);
-    /// The device cannot be listened to, or has gone.
+    /// The device cannot be listened to, has gone, or the server has stalled.
     void failed();
 
 private:
     class Ear;
 
     std::unique_ptr<Ear> m_pEar;
+    QTimer m_patience;
 };

@@ -257,7 +257,7 @@ Steps overDialog(const TourScript &s, const TourStage &stage)
         {u("Accept: the call is there, and the dialog stays as it was"),
          s.pressPrompt("btnAccept"),
          {s.asked(MSG_RESPONSE_VOIP_REQUEST, u("accept=yes")), s.command(Command::AcceptCall), s.promptGone(),
-          s.code(Code::CallConnected, "connected"), asBefore},
+          s.code(Code::CallConnected, "connected"), s.clockRuns(), asBefore},
          cUsualLimitMs,
          u("answered-over-dialog"),
          {}},

@@ -17,6 +17,8 @@
 #include <QProcess>
 #include <QTest>
 
+#include <csignal>
+
 class tst_PromptNotice : public QObject
 {
     Q_OBJECT
@@ -55,6 +57,7 @@ private slots:
 
     void cleanup()
     {
+        stopTheBus(false);
         m_pWindow.reset();
         m_pSession.reset();
         m_pBook.reset();
@@ -159,6 +162,23 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(m_pDesktop->closed, QList<uint>{1}, cPatienceMs);
     }
 
+    void busThatStallsHoldsUpNothing()
+    {
+        lookElsewhere();
+        stopTheBus(true);
+        ring("30010006");
+        QVERIFY(prompt().isVisible());
+        stopTheBus(false);
+        QTRY_COMPARE_WITH_TIMEOUT(m_pDesktop->notices.size(), 1, cPatienceMs);
+        // Whoever had waited for the bus in vain would not know whose words these are.
+        QTRY_VERIFY_WITH_TIMEOUT(
+            [this] {
+                emit m_pDesktop->ActionInvoked(m_pDesktop->lastId, QStringLiteral("default"));
+                return prompt().isActiveWindow();
+            }(),
+            cPatienceMs);
+    }
+
     void nextCallHasANoticeOfItsOwn()
     {
         const uint id = ringElsewhere();
@@ -215,6 +235,7 @@ private slots:
     }
 
 private:
+    void stopTheBus(bool bStop) const { ::kill(pid_t(m_daemon.processId()), bStop ? SIGSTOP : SIGCONT); }
     IncomingPrompt &prompt() { return m_pWindow->prompt(); }
     /// No window of the client has the keyboard any more.
     void lookElsewhere()

@@ -304,6 +304,24 @@ private slots:
         QCOMPARE(pane.findChild<QComboBox *>(QStringLiteral("boxSpeaker"))->count(), 4);
     }
 
+    void serverThatStallsWhileItIsHeardIsTold()
+    {
+        choose(microphone(), QStringLiteral("USB"));
+        const auto voice = SoundMachine::speak();
+        QTRY_COMPARE_WITH_TIMEOUT(level(), 90, cPatienceMs);
+        m_machine.freeze();
+        QTRY_VERIFY_WITH_TIMEOUT(said("lblServer").startsWith(QStringLiteral("The sound server does not answer.")),
+                                 cPatienceMs);
+        QCOMPARE(level(), 0);
+        QCOMPARE(said("lblMicrophoneNote"), QString());
+        m_machine.goOn();
+        QTRY_VERIFY_WITH_TIMEOUT(!WindowProbe::isShown(&page(), "lblServer"), cPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(level(), 90, cPatienceMs);
+        QVERIFY(said("lblMicrophoneNote").startsWith(QStringLiteral("Speak:")));
+        voice->kill();
+        voice->waitForFinished(cPatienceMs);
+    }
+
     /// The last one: it ends the server.
     void serverThatGoesAndComesBackIsFound()
     {
