@@ -1,11 +1,13 @@
 #include "panes/PageArea.h"
 
+#include <QEvent>
 #include <QScrollBar>
 
 namespace {
 
 // Some rows, above and below which the rest is scrolled away.
 constexpr int cLeastHeight = 120;
+constexpr int cGap = 8;
 
 } // namespace
 
@@ -15,6 +17,7 @@ PageArea::PageArea(QWidget *parent) : QScrollArea(parent)
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    verticalScrollBar()->installEventFilter(this);
 }
 
 QSize PageArea::sizeHint() const
@@ -33,4 +36,12 @@ QSize PageArea::minimumSizeHint() const
 {
     const int iWidth = widget() == nullptr ? 0 : widget()->minimumSizeHint().width();
     return {iWidth + verticalScrollBar()->sizeHint().width(), cLeastHeight};
+}
+
+bool PageArea::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == verticalScrollBar() && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
+        setViewportMargins(0, 0, event->type() == QEvent::Show ? cGap : 0, 0);
+    }
+    return QScrollArea::eventFilter(watched, event);
 }

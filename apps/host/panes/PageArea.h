@@ -15,4 +15,8 @@ public:
     QSize sizeHint() const override;
     /// Wide enough never to be scrolled sideways.
     QSize minimumSizeHint() const override;
+
+protected:
+    /// Keeps the page off the bar by which it is scrolled.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 };

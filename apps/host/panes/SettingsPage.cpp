@@ -92,11 +92,14 @@ void SettingsPage::fitScreen()
         area->widget()->layout()->activate();
     }
     const QList<QRect> screens = WindowPlace::insides();
+    if (screens.isEmpty()) {
+        return;
+    }
+    const QSize room = screens.first().size();
+    setMinimumSize(minimumSize().boundedTo(room));
     // As large as it was made by hand, or as it wants to be.
     const QSize wanted = testAttribute(Qt::WA_Resized) ? size() : sizeHint().expandedTo(minimumSize());
-    if (!screens.isEmpty()) {
-        resize(wanted.boundedTo(screens.first().size()));
-    }
+    resize(wanted.boundedTo(room));
 }
 
 void SettingsPage::addLanguages()

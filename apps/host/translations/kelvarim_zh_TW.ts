@@ -1533,7 +1533,7 @@
     </message>
     <message>
         <source>Filter by name, number or initials</source>
-        <translation>按姓名、號碼或拼音首字母篩選</translation>
+        <translation>以姓名、號碼或拼音首字母篩選</translation>
     </message>
     <message>
         <source>Clear the filter</source>
