@@ -142,8 +142,9 @@ int runTour(HostSession &session, MainWindow &window, const QString &strFolder, 
 int runByHand(HostSession &session, MainWindow &window)
 {
     window.show();
-    // After the window is up: the plug-in's start may take a second.
-    QTimer::singleShot(0, &session, [&session] { session.setOnline(true); });
+    // After the window is up: the plug-in's start may take a second. It starts the call process, which has to find the
+    // devices in its environment.
+    QTimer::singleShot(0, &session, [&session] { session.sound().start([&session] { session.setOnline(true); }); });
     const int status = QApplication::exec();
     session.quit();
     return status;

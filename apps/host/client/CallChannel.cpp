@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
 
 QString procOf(qint64 pid, const char *strFile)
@@ -33,17 +35,6 @@ QByteArray traceOption(const QList<QByteArray> &arguments)
         }
         if (arguments.at(i).startsWith(option + '=')) {
             return arguments.at(i).mid(option.size() + 1);
-        }
-    }
-    return {};
-}
-
-QByteArray traceVariable(const QList<QByteArray> &environment)
-{
-    const QByteArray name = QByteArray(TraceFolder::cVariable) + '=';
-    for (const QByteArray &variable : environment) {
-        if (variable.startsWith(name)) {
-            return variable.mid(name.size());
         }
     }
     return {};
@@ -109,7 +100,7 @@ CallChannel::Trace CallChannel::traceOf(qint64 pid)
 {
     QByteArray place = traceOption(textsOf(pid, "cmdline"));
     if (place.isEmpty()) {
-        place = traceVariable(textsOf(pid, "environ"));
+        place = variableOf(pid, TraceFolder::cVariable);
     }
     if (place.isEmpty()) {
         return {};
@@ -119,6 +110,15 @@ CallChannel::Trace CallChannel::traceOf(qint64 pid)
     }
     const QDir folder(QFile::symLinkTarget(procOf(pid, "cwd")));
     return {Trace::File, QDir::cleanPath(folder.absoluteFilePath(QFile::decodeName(place)))};
+}
+
+QByteArray CallChannel::variableOf(qint64 pid, const QByteArray &name)
+{
+    const QByteArray beginning = name + '=';
+    const QList<QByteArray> environment = textsOf(pid, "environ");
+    const auto found = std::find_if(environment.begin(), environment.end(),
+                                    [&](const QByteArray &variable) { return variable.startsWith(beginning); });
+    return found == environment.end() ? QByteArray() : found->mid(beginning.size());
 }
 
 QString CallChannel::programOf(qint64 pid)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 /// The channel between plug-in and call process as the operating system sees it, since the plug-in tells nobody whether
@@ -31,6 +32,10 @@ struct Trace
 
 /// What the process was told, by its option or, where that is missing, its environment. Nowhere for one that has gone.
 Trace traceOf(qint64 pid);
+
+/// What the variable was in the environment that the process was started with; null where it had none, and for a process
+/// that has gone or is another user's.
+QByteArray variableOf(qint64 pid, const QByteArray &name);
 
 /// The program that the process runs; empty for one that has gone or is another user's.
 QString programOf(qint64 pid);

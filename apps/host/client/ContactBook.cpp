@@ -1,5 +1,7 @@
 #include "client/ContactBook.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <string_view>
 
@@ -9,7 +11,7 @@ struct Row
 {
     const char *uid;
     const char *nick;
-    const char *alternative;
+    const char *habit;
     const char *signature;
     bool known;
     Presence presence;
@@ -18,17 +20,26 @@ struct Row
 
 // The robots of the stand-in call process, in the order of their ids.
 constexpr Row cRows[] = {
-    {Robots::answers, "李雷", "Answers", "学而时习之，不亦说乎", true, Presence::Online, "1.jpg"},
-    {Robots::busy, "Maria Silva", "Busy", "Back in five minutes", true, Presence::Busy, "15.jpg"},
-    {Robots::rejects, "王芳", "Rejects", "Please write instead", true, Presence::Online, "11.jpg"},
-    {Robots::silent, "Tom Baker", "Never answers", "Counting clouds", true, Presence::Away, "10.jpg"},
-    {Robots::fails, "赵强", "Call fails", "出差中，下周回来", true, Presence::Offline, "7.jpg"},
-    {Robots::hangsUp, "Anna Novak", "Hangs up after 10 s", "Short and sweet", true, Presence::Online, "6.jpg"},
-    {Robots::callsBack, "韩梅梅", "Calls you back", "", false, Presence::Online, "9.jpg"},
-    {Robots::invites, "Ivan Petrov", "Invites you", "One meeting a day keeps the mail away", true, Presence::Online,
-     "19.jpg"},
-    {Robots::comesBack, "林涛", "Leaves and returns", "去去就来", true, Presence::Online, "4.jpg"},
-    {Robots::crosses, "Sara Klein", "Invites, lines crossed", "Crossing the streams", true, Presence::Online, "17.jpg"},
+    {Robots::answers, "李雷", QT_TRANSLATE_NOOP("ContactBook", "Answers"), "学而时习之，不亦说乎", true,
+     Presence::Online, "1.jpg"},
+    {Robots::busy, "Maria Silva", QT_TRANSLATE_NOOP("ContactBook", "Busy"), "Back in five minutes", true,
+     Presence::Busy, "15.jpg"},
+    {Robots::rejects, "王芳", QT_TRANSLATE_NOOP("ContactBook", "Rejects"), "Please write instead", true,
+     Presence::Online, "11.jpg"},
+    {Robots::silent, "Tom Baker", QT_TRANSLATE_NOOP("ContactBook", "Never answers"), "Counting clouds", true,
+     Presence::Away, "10.jpg"},
+    {Robots::fails, "赵强", QT_TRANSLATE_NOOP("ContactBook", "Call fails"), "出差中，下周回来", true, Presence::Offline,
+     "7.jpg"},
+    {Robots::hangsUp, "Anna Novak", QT_TRANSLATE_NOOP("ContactBook", "Hangs up after 10 s"), "Short and sweet", true,
+     Presence::Online, "6.jpg"},
+    {Robots::callsBack, "韩梅梅", QT_TRANSLATE_NOOP("ContactBook", "Calls you back"), "", false, Presence::Online,
+     "9.jpg"},
+    {Robots::invites, "Ivan Petrov", QT_TRANSLATE_NOOP("ContactBook", "Invites you"),
+     "One meeting a day keeps the mail away", true, Presence::Online, "19.jpg"},
+    {Robots::comesBack, "林涛", QT_TRANSLATE_NOOP("ContactBook", "Leaves and returns"), "去去就来", true,
+     Presence::Online, "4.jpg"},
+    {Robots::crosses, "Sara Klein", QT_TRANSLATE_NOOP("ContactBook", "Invites, lines crossed"), "Crossing the streams",
+     true, Presence::Online, "17.jpg"},
 };
 
 constexpr bool everyRobotIsThere()
@@ -44,17 +55,14 @@ constexpr bool everyRobotIsThere()
 static_assert(everyRobotIsThere(), "a robot that is in nobody's list of contacts");
 
 // Who signs in where nobody is named: no robot, so nobody takes a call there.
-constexpr Row cOwner{ContactBook::cOwnId, "小明",  "Takes no calls", "每天都是新的一天", true,
-                     Presence::Offline,   "16.jpg"};
-constexpr const char *cOwnAlternative = "You";
+constexpr Row cOwner{
+    ContactBook::cOwnId, "小明",  QT_TRANSLATE_NOOP("ContactBook", "Takes no calls"), "每天都是新的一天", true,
+    Presence::Offline,   "16.jpg"};
+constexpr const char *cOwnHabit = QT_TRANSLATE_NOOP("ContactBook", "You");
 
 ContactBook::Entry entryOf(const Row &row)
 {
-    return {QString::fromLatin1(row.uid),
-            QString::fromUtf8(row.nick),
-            QString::fromLatin1(row.alternative),
-            row.known,
-            row.presence,
+    return {QString::fromLatin1(row.uid),  QString::fromUtf8(row.nick), row.habit, row.known, row.presence,
             QString::fromLatin1(row.photo)};
 }
 
@@ -62,7 +70,7 @@ ContactBook::Entry entryOf(const Row &row)
 ContactBook::Entry ownEntryOf(const Row &row)
 {
     ContactBook::Entry entry = entryOf(row);
-    entry.alternative = QString::fromLatin1(cOwnAlternative);
+    entry.habit = cOwnHabit;
     entry.known = true;
     entry.presence = Presence::Online;
     return entry;
@@ -72,7 +80,7 @@ VcardInfo makeCard(const ContactBook::Entry &entry, const char *strSignature)
 {
     VcardInfo card;
     card.m_strNickName = entry.nick;
-    card.m_strAlternativeName = entry.alternative;
+    card.m_strAlternativeName = entry.alternative();
     card.m_strSignature = QString::fromUtf8(strSignature);
     card.m_iSmallVersion = 1;
     card.m_iFullVersion = 1;
@@ -82,19 +90,26 @@ VcardInfo makeCard(const ContactBook::Entry &entry, const char *strSignature)
 
 } // namespace
 
+QString ContactBook::Entry::alternative() const
+{
+    return *habit == '\0' ? QString() : QCoreApplication::translate("ContactBook", habit);
+}
+
 ContactBook::ContactBook(const QString &strDomain, const QString &strOwnUid)
     : m_strDomain(strDomain), m_strOwnUid(strOwnUid)
 {
     for (const Row &row : cRows) {
         if (m_strOwnUid == QLatin1String(row.uid)) {
-            add(ownEntryOf(row), row.signature);
+            m_own = ownEntryOf(row);
+            add(m_own, row.signature);
             continue;
         }
         m_entries.append(entryOf(row));
         add(m_entries.constLast(), row.signature);
     }
     if (m_strOwnUid == QLatin1String(cOwner.uid)) {
-        add(ownEntryOf(cOwner), cOwner.signature);
+        m_own = ownEntryOf(cOwner);
+        add(m_own, cOwner.signature);
     } else {
         m_entries.append(entryOf(cOwner));
         add(m_entries.constLast(), cOwner.signature);
@@ -152,6 +167,40 @@ void ContactBook::learn(const QString &strUid)
     m_strangers.emplace(jid, record);
 }
 
+const ContactBook::Entry *ContactBook::entry(const QString &strUid) const
+{
+    const auto found =
+        std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry &entry) { return entry.uid == strUid; });
+    return found == m_entries.end() ? nullptr : &*found;
+}
+
+bool ContactBook::meet(const QString &strUid)
+{
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [&](const Entry &entry) { return entry.uid == strUid && !entry.known; });
+    const bool isNew = found != m_entries.end();
+    if (isNew) {
+        found->known = true;
+    }
+    return isNew;
+}
+
+void ContactBook::takeLanguage()
+{
+    const auto say = [this](const Entry &entry) {
+        const QString words = entry.alternative();
+        m_cards[entry.uid].m_strAlternativeName = words;
+        for (std::map<QString, FriendData> *records : {&m_friends, &m_strangers}) {
+            const auto found = records->find(jidOf(entry.uid));
+            if (found != records->end()) {
+                found->second.m_vcardInfo.m_strAlternativeName = words;
+            }
+        }
+    };
+    std::for_each(m_entries.cbegin(), m_entries.cend(), say);
+    say(m_own);
+}
+
 bool ContactBook::isFriend(const QString &strJid) const
 {
     return uidOf(strJid) != ownUid() && m_friends.count(strJid) != 0;
@@ -165,9 +214,8 @@ const VcardInfo *ContactBook::card(const QString &strUid) const
 
 Presence ContactBook::presenceOf(const QString &strUid) const
 {
-    const auto found =
-        std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry &entry) { return entry.uid == strUid; });
-    return strUid == ownUid() ? Presence::Online : found == m_entries.end() ? Presence::Offline : found->presence;
+    const Entry *found = entry(strUid);
+    return strUid == ownUid() ? Presence::Online : found == nullptr ? Presence::Offline : found->presence;
 }
 
 QString ContactBook::nameOf(const QString &strUid) const

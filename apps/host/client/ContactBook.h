@@ -22,12 +22,17 @@ public:
     /// One row of the contact list.
     struct Entry
     {
-        QString uid;         ///< user id
-        QString nick;        ///< nick name of the card
-        QString alternative; ///< alternative name of the card: what this contact does
-        bool known = true;   ///< false: a stranger, not a contact of this user
+        QString uid;            ///< user id
+        QString nick;           ///< nick name of the card
+        const char *habit = ""; ///< what this contact does, in English; alternative() says it
+        bool known = true;      ///< false: a stranger of whom the client has nothing but the number
         Presence presence = Presence::Online;
         QString photo; ///< name of the built-in head picture; empty for none
+
+        /// The alternative name of the card, what this contact does, in the client's language.
+        QString alternative() const;
+        /// The nick name; of a stranger the number.
+        QString shownName() const { return known ? nick : uid; }
     };
 
     /// User id of the user who signs in where nobody is named.
@@ -58,8 +63,18 @@ public:
     /// The card of the user, contact or stranger; a default card for an unknown id. Never null, owned by the book.
     const VcardInfo *card(const QString &strUid) const;
 
+    /// The entry of the user; null for the own user and for an unknown id. Valid as long as the book.
+    const Entry *entry(const QString &strUid) const;
+
     /// The stranger's card has been fetched: from now on there is a record with it. Others stay as they are.
     void learn(const QString &strUid);
+
+    /// The stranger has called: the entry has name and head from now on, though this is still no contact. False, and
+    /// nothing changes, for anybody else.
+    bool meet(const QString &strUid);
+
+    /// The client has another language: the cards, where they stand, say in it what the people do.
+    void takeLanguage();
 
     /// Presence of the user; offline for an unknown id.
     Presence presenceOf(const QString &strUid) const;
@@ -79,6 +94,7 @@ private:
 
     QString m_strDomain;
     QString m_strOwnUid;
+    Entry m_own;
     QList<Entry> m_entries;
     std::map<QString, FriendData> m_friends;
     std::map<QString, FriendData> m_strangers;

@@ -98,6 +98,11 @@ void HostContext::startLog(const QString &strFolder)
     m_logThread.start();
 }
 
+void HostContext::setContacts(const ContactBook &book)
+{
+    m_data.setFriendDataMap(book.friendMap());
+}
+
 void HostContext::fillContacts(const ContactBook &book)
 {
     QMap<QString, PresenceData> presence;
@@ -107,6 +112,6 @@ void HostContext::fillContacts(const ContactBook &book)
         data.m_iStateA = presenceState(entry.presence);
         presence.insert(data.m_strJid, data);
     }
-    m_data.setFriendDataMap(book.friendMap());
+    setContacts(book);
     m_data.setPresenceDataMap(presence);
 }

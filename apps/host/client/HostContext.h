@@ -31,6 +31,9 @@ public:
     /// the context from the book.
     void signIn(const QString &strUid, const QString &strDomain, const ContactBook &book);
 
+    /// The records of the contacts are those of the book now, where they have changed.
+    void setContacts(const ContactBook &book);
+
     /// The context to hand to plug-ins; owned here.
     CommonData *data() { return &m_data; }
 

@@ -2,6 +2,7 @@
 
 #include "common/BuiltInPictures.h"
 #include "common/pictures/HeadImages.h"
+#include "model/AvatarFiles.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -56,6 +57,12 @@ QPixmap HostPictures::head(const QString &strName, const QString &strUid, int iS
     painter.setBrush(presenceColour(presence));
     painter.drawEllipse(QRectF(iSize - dot - 1, iSize - dot - 1, dot, dot));
     return pixmap;
+}
+
+QPixmap HostPictures::head(const ContactBook::Entry &entry, int iSize)
+{
+    return entry.known ? head(entry.nick, entry.uid, iSize, entry.presence, AvatarFiles::systemAvatar(entry.photo))
+                       : head(QStringLiteral("?"), entry.uid, iSize, entry.presence, QString());
 }
 
 QString HostPictures::windowIcon()

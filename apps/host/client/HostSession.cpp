@@ -30,6 +30,7 @@ HostSession::HostSession(ContactBook &book, QObject *parent)
             [this](int iMsgId, const QString &strWords, const QString &strAnswer, const QByteArray &payload,
                    const QByteArray &reply) { pass(true, iMsgId, strWords, strAnswer, payload, reply); });
     connect(&m_mailbox, &HostMailbox::cardsWanted, this, &HostSession::sendCards);
+    connect(&m_calls, &CallWatch::began, this, &HostSession::meet);
 }
 
 HostSession::~HostSession()
@@ -44,6 +45,9 @@ bool HostSession::start(const QString &strModule, QString *strError)
     SharedContext::setCommonData(m_context.data());
     m_history.open(SystemSetData::instance()->m_strUserFolder, m_book.ownUid());
     openStore();
+    for (const CallEntry &call : m_history.entries()) {
+        meet(call);
+    }
 
     QPluginLoader loader(strModule);
     QObject *root = loader.instance();
@@ -146,6 +150,19 @@ void HostSession::sendCards(const QStringList &uids)
         const auto address = qint64(reinterpret_cast<quintptr>(m_book.card(uid)));
         post(MSG_UPDATE_USER_INFO, packPayload(m_book.jidOf(uid), address));
     }
+}
+
+void HostSession::meet(const CallEntry &call)
+{
+    if (!call.caller && m_book.meet(call.uid)) {
+        emit strangerMet(call.uid);
+    }
+}
+
+void HostSession::takeLanguage()
+{
+    m_book.takeLanguage();
+    m_context.setContacts(m_book);
 }
 
 bool HostSession::isExistCall()

@@ -8,6 +8,7 @@
 #include "client/HostStore.h"
 #include "history/CallHistory.h"
 #include "history/CallWatch.h"
+#include "sound/SoundChoice.h"
 
 #include "plugin/EMsgId.h"
 
@@ -55,6 +56,9 @@ public:
     /// Starts a conference.
     void callConference(const ConferenceWish &wish);
 
+    /// The client has another language, in which from now on the cards of the contacts speak.
+    void takeLanguage();
+
     /// Opens the plug-in's window of past conferences, or brings it to the front.
     void showConferenceCentre();
 
@@ -77,6 +81,8 @@ public:
     const CallWatch &calls() const { return m_calls; }
     /// The watch over the call process.
     CallService &callService() { return m_callService; }
+    /// The microphone and the speaker of calls.
+    SoundChoice &sound() { return m_sound; }
     /// The user's settings; to be used after start.
     HostSettings &settings() { return m_settings; }
     /// The plug-in's own words about itself, "FileManagePlugin {2EFF...}"; empty before start.
@@ -91,6 +97,9 @@ signals:
                      const QByteArray &payload, const QByteArray &reply);
     /// The login came up or went down, by setOnline(). The plug-in is told after this.
     void onlineChanged(bool bOnline);
+    /// A stranger calls, and the contact book has the name and the head of that entry from now on. Who called before,
+    /// as the history has it, is known from start on.
+    void strangerMet(const QString &strUid);
 
 protected:
     /// Sees the plug-in's first command, with which it begins its work.
@@ -104,6 +113,7 @@ private:
               const QByteArray &payload, const QByteArray &reply);
     void takeLeave();
     void sendCards(const QStringList &uids);
+    void meet(const CallEntry &call);
 
     ContactBook &m_book;
     HostContext m_context;
@@ -113,6 +123,7 @@ private:
     CallHistory m_history;
     CallWatch m_calls;
     CallService m_callService;
+    SoundChoice m_sound;
     QPointer<QObject> m_pPlugin;
     QString m_strPlugin;
     bool m_bOnline = false;

@@ -2,6 +2,7 @@
 
 #include "client/HostLanguage.h"
 #include "client/HostSkins.h"
+#include "client/SettingsFile.h"
 
 #include "common/AppPaths.h"
 #include "common/settings/ConfigFile.h"
@@ -24,11 +25,14 @@ const QString cLanguageKey = QStringLiteral("/languageSetting/language");
 const QString cSkinKey = QStringLiteral("/skinSetting/skinName");
 
 /// Writes the value to the user's file and has the shared settings take it.
-void writeForUser(const QString &strKey, const QString &strValue)
+bool writeForUser(const QString &strKey, const QString &strValue)
 {
     SystemSetData *settings = SystemSetData::instance();
-    ConfigFile::changeConfigValue(settings->m_strUserConfigPath, strKey, strValue);
+    if (!SettingsFile::write(settings->m_strUserConfigPath, {{strKey, strValue}})) {
+        return false;
+    }
     settings->initData(settings->m_strUserName);
+    return true;
 }
 
 /// Whether the folder is there, or can be made, and takes files.
@@ -54,9 +58,9 @@ bool HostSettings::isSilent()
     return SystemSetData::instance()->m_strCloseVoice == QLatin1String("1");
 }
 
-void HostSettings::setSilent(bool bSilent)
+bool HostSettings::setSilent(bool bSilent)
 {
-    writeForUser(QLatin1String(cSilentKey), bSilent ? QStringLiteral("1") : QStringLiteral("0"));
+    return writeForUser(QLatin1String(cSilentKey), bSilent ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
 QString HostSettings::dataFolder()
@@ -65,13 +69,13 @@ QString HostSettings::dataFolder()
     return stored.isEmpty() ? SystemSetData::instance()->m_strDefaultDataRoot : stored;
 }
 
-bool HostSettings::setDataFolder(const QString &strFolder)
+HostSettings::FolderOutcome HostSettings::setDataFolder(const QString &strFolder)
 {
-    const bool bOk = strFolder.isEmpty() || canHold(strFolder);
-    if (bOk) {
-        ConfigFile::changeConfigValue(commonFile(), cDataKey, strFolder);
+    if (!strFolder.isEmpty() && !canHold(strFolder)) {
+        return FolderOutcome::Unusable;
     }
-    return bOk;
+    return SettingsFile::write(commonFile(), {{cDataKey, strFolder}}) ? FolderOutcome::Taken
+                                                                      : FolderOutcome::NotWritten;
 }
 
 bool HostSettings::isDataFolderPending()
@@ -84,13 +88,12 @@ QString HostSettings::receiveFolder()
     return SystemSetData::instance()->m_strTransFilePath;
 }
 
-bool HostSettings::setReceiveFolder(const QString &strFolder)
+HostSettings::FolderOutcome HostSettings::setReceiveFolder(const QString &strFolder)
 {
-    const bool bOk = strFolder.isEmpty() || canHold(strFolder);
-    if (bOk) {
-        writeForUser(cReceiveKey, strFolder);
+    if (!strFolder.isEmpty() && !canHold(strFolder)) {
+        return FolderOutcome::Unusable;
     }
-    return bOk;
+    return writeForUser(cReceiveKey, strFolder) ? FolderOutcome::Taken : FolderOutcome::NotWritten;
 }
 
 QString HostSettings::language()
@@ -104,10 +107,13 @@ QString HostSettings::language()
     return language;
 }
 
-void HostSettings::setLanguage(const QString &strLanguage)
+bool HostSettings::setLanguage(const QString &strLanguage)
 {
-    ConfigFile::changeConfigValue(commonFile(), cLanguageKey, strLanguage);
+    if (!SettingsFile::write(commonFile(), {{cLanguageKey, strLanguage}})) {
+        return false;
+    }
     emit languageChanged(strLanguage);
+    return true;
 }
 
 QString HostSettings::skin()
@@ -116,12 +122,14 @@ QString HostSettings::skin()
     return HostSkins::names().contains(stored) ? stored : HostSkins::standardName();
 }
 
-void HostSettings::setSkin(const QString &strName)
+bool HostSettings::setSkin(const QString &strName)
 {
-    ConfigFile::changeConfigValue(userFile(), cSkinKey, strName);
+    if (!SettingsFile::write(userFile(), {{cSkinKey, strName}})) {
+        return false;
+    }
     const QList<SysUIData> *skins = SkinContext::getSysUIDataList();
     if (skins == nullptr) {
-        return;
+        return true;
     }
     const auto found = std::find_if(skins->begin(), skins->end(),
                                     [&](const SysUIData &skin) { return skin.m_strSkinName == strName; });
@@ -132,4 +140,5 @@ void HostSettings::setSkin(const QString &strName)
         const QWidgetList widgets = QApplication::allWidgets();
         std::for_each(widgets.begin(), widgets.end(), [](QWidget *widget) { widget->update(); });
     }
+    return true;
 }

@@ -2,7 +2,6 @@
 
 #include "client/FileAside.h"
 
-#include "common/CLogManger.h"
 #include "store/DB.h"
 
 #include <QDateTime>
@@ -113,8 +112,10 @@ bool HostStore::open(const QString &strUid, const QString &strBase)
         return false;
     }
     if (DB::isNeedUpdate(folder)) {
-        report(tr("%1 is the store of an older client. It stays as it is; what it holds is not shown here.")
-                   .arg(folder + QStringLiteral("/data.db")));
+        report(
+            QT_TRANSLATE_NOOP(
+                "HostStore", "%1 is the store of an older client. It stays as it is; what it holds is not shown here."),
+            folder + QStringLiteral("/data.db"));
     }
     m_bOpen = DB::initByUserName(strUid, strBase, true);
     if (m_bOpen) {
@@ -126,7 +127,9 @@ bool HostStore::open(const QString &strUid, const QString &strBase)
     if (isShutAgainstReading(file, 0)) {
         reportHeld(file);
     } else {
-        report(tr("The local store %1 cannot be opened. Nothing of this session will be kept.").arg(file));
+        report(QT_TRANSLATE_NOOP("HostStore",
+                                 "The local store %1 cannot be opened. Nothing of this session will be kept."),
+               file);
     }
     return false;
 }
@@ -153,11 +156,15 @@ bool HostStore::putAside(const QString &strFolder, const QString &strFile)
     }
     const QString aside = FileAside::path(strFile, QDateTime::currentDateTime());
     if (!FileAside::move(strFile, aside)) {
-        report(tr("The local store %1 is damaged and cannot be moved aside. Nothing of this session will be kept.")
-                   .arg(strFile));
+        report(QT_TRANSLATE_NOOP(
+                   "HostStore",
+                   "The local store %1 is damaged and cannot be moved aside. Nothing of this session will be kept."),
+               strFile);
         return false;
     }
-    report(tr("The local store was damaged. The file is kept as %1; a new one has been started.").arg(aside));
+    report(QT_TRANSLATE_NOOP("HostStore",
+                             "The local store was damaged. The file is kept as %1; a new one has been started."),
+           aside);
     return true;
 }
 
@@ -167,7 +174,9 @@ void HostStore::reportWriting(const QString &strFile)
     if (writing == Writing::Held) {
         reportHeld(strFile);
     } else if (writing == Writing::Refused) {
-        report(tr("The local store %1 cannot be written to. Nothing of this session will be kept.").arg(strFile));
+        report(QT_TRANSLATE_NOOP("HostStore",
+                                 "The local store %1 cannot be written to. Nothing of this session will be kept."),
+               strFile);
     }
 }
 
@@ -175,12 +184,13 @@ void HostStore::reportHeld(const QString &strFile)
 {
     m_bHeld = true;
     report(
-        tr("The local store %1 is in use by another program. Until that lets it go, nothing of this session is kept.")
-            .arg(strFile));
+        QT_TRANSLATE_NOOP(
+            "HostStore",
+            "The local store %1 is in use by another program. Until that lets it go, nothing of this session is kept."),
+        strFile);
 }
 
-void HostStore::report(const QString &strWords)
+void HostStore::report(const char *words, const QString &strFile)
 {
-    m_reports.append(strWords);
-    LOG_WARN << strWords << "\n";
+    m_reports.add("HostStore", words, strFile);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QCoreApplication>
+#include "client/FileReports.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -10,8 +11,6 @@
 /// context must be set before open() and outlive this object; it keeps the connection that plug-ins use.
 class HostStore
 {
-    Q_DECLARE_TR_FUNCTIONS(HostStore)
-
 public:
     /// Nothing is opened yet.
     HostStore() = default;
@@ -32,17 +31,17 @@ public:
     /// Whether another program kept the last open() from the file, or from writing to it: the next one may go better.
     bool isHeldByAnother() const { return m_bHeld; }
 
-    /// What the person has to know of the last open(), a sentence or two each, in the client's language; empty when all
-    /// was well. They stand in the log as well.
-    const QStringList &reports() const { return m_reports; }
+    /// What the person has to know of the last open(), a sentence or two each, in the language that the client has now;
+    /// empty when all was well. They stand in the log as well.
+    QStringList reports() const { return m_reports.texts(); }
 
 private:
     bool putAside(const QString &strFolder, const QString &strFile);
     void reportWriting(const QString &strFile);
     void reportHeld(const QString &strFile);
-    void report(const QString &strWords);
+    void report(const char *words, const QString &strFile);
 
     bool m_bOpen = false;
     bool m_bHeld = false;
-    QStringList m_reports;
+    FileReports m_reports;
 };

@@ -2,8 +2,6 @@
 
 #include "client/FileAside.h"
 
-#include "common/CLogManger.h"
-
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
@@ -114,12 +112,16 @@ bool CallFile::open(const QString &strFolder)
         letGo();
         const QString aside = FileAside::path(m_strFile, QDateTime::currentDateTime());
         if (!FileAside::move(m_strFile, aside)) {
-            report(tr("The list of calls %1 is damaged and cannot be moved aside. Calls of this session will not be "
-                      "kept.")
-                       .arg(m_strFile));
+            report(QT_TRANSLATE_NOOP(
+                       "CallFile",
+                       "The list of calls %1 is damaged and cannot be moved aside. Calls of this session will not be "
+                       "kept."),
+                   m_strFile);
             return false;
         }
-        report(tr("The list of calls was damaged. The file is kept as %1; a new one has been started.").arg(aside));
+        report(QT_TRANSLATE_NOOP("CallFile",
+                                 "The list of calls was damaged. The file is kept as %1; a new one has been started."),
+               aside);
         state = tryOpen(m_strFile);
     }
     m_bOpen = state == State::Sound;
@@ -246,8 +248,10 @@ bool CallFile::inOne(const std::function<bool()> &deed)
         m_iError = error;
         if (m_bOpen && !m_bWriteReported) {
             m_bWriteReported = true;
-            report(tr("The list of calls %1 cannot be written to. Calls of this session will not be kept.")
-                       .arg(m_strFile));
+            report(
+                QT_TRANSLATE_NOOP("CallFile",
+                                  "The list of calls %1 cannot be written to. Calls of this session will not be kept."),
+                m_strFile);
         }
     }
     return ok;
@@ -343,21 +347,26 @@ void CallFile::reportUnusable(State state, const QString &strFile)
 {
     switch (state) {
     case State::Held:
-        report(tr("The list of calls %1 is in use by another program. Calls of this session will not be kept.")
-                   .arg(strFile));
+        report(QT_TRANSLATE_NOOP(
+                   "CallFile",
+                   "The list of calls %1 is in use by another program. Calls of this session will not be kept."),
+               strFile);
         break;
     case State::Newer:
-        report(tr("The list of calls %1 was written by a newer client and stays as it is. Calls of this session will "
-                  "not be kept.")
-                   .arg(strFile));
+        report(QT_TRANSLATE_NOOP(
+                   "CallFile",
+                   "The list of calls %1 was written by a newer client and stays as it is. Calls of this session will "
+                   "not be kept."),
+               strFile);
         break;
     default:
-        report(tr("The list of calls %1 cannot be opened. Calls of this session will not be kept.").arg(strFile));
+        report(QT_TRANSLATE_NOOP("CallFile",
+                                 "The list of calls %1 cannot be opened. Calls of this session will not be kept."),
+               strFile);
     }
 }
 
-void CallFile::report(const QString &strWords)
+void CallFile::report(const char *words, const QString &strFile)
 {
-    m_reports.append(strWords);
-    LOG_WARN << strWords << "\n";
+    m_reports.add("CallFile", words, strFile);
 }

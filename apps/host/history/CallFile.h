@@ -1,8 +1,8 @@
 #pragma once
 
+#include "client/FileReports.h"
 #include "history/CallEntry.h"
 
-#include <QCoreApplication>
 #include <QSet>
 #include <QSqlDatabase>
 #include <QStringList>
@@ -19,8 +19,6 @@ class QSqlQuery;
 /// process takes nothing away. GUI thread.
 class CallFile
 {
-    Q_DECLARE_TR_FUNCTIONS(CallFile)
-
 public:
     /// The schema that this client writes.
     static int newestVersion();
@@ -38,8 +36,9 @@ public:
     void close();
     bool isOpen() const { return m_bOpen; }
 
-    /// What the person has to know of the file, a sentence each, in the client's language; empty when all is well.
-    const QStringList &reports() const { return m_reports; }
+    /// What the person has to know of the file, a sentence each, in the language that the client has now; empty when
+    /// all is well.
+    QStringList reports() const { return m_reports.texts(); }
 
     /// All calls, oldest first. Those that were running when the client ended have become missed or cut off.
     std::vector<CallEntry> load();
@@ -74,12 +73,12 @@ private:
     bool inOne(const std::function<bool()> &deed);
     void letGo();
     void reportUnusable(State state, const QString &strFile);
-    void report(const QString &strWords);
+    void report(const char *words, const QString &strFile);
 
     QSqlDatabase m_db;
     QString m_strFile;
     int m_iError = 0; // SQLite's code of the last statement that failed
     bool m_bOpen = false;
     bool m_bWriteReported = false;
-    QStringList m_reports;
+    FileReports m_reports;
 };

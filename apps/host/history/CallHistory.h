@@ -25,7 +25,7 @@ public:
     /// Closes the file. The entries stay.
     void close() { m_file.close(); }
     /// What the person has to know of the file; see CallFile::reports.
-    const QStringList &reports() const { return m_file.reports(); }
+    QStringList reports() const { return m_file.reports(); }
 
     /// The user id given to open(); empty before.
     QString owner() const { return m_strOwner; }

@@ -38,11 +38,27 @@ void ContactList::add(const QList<ContactBook::Entry> &entries)
 
 int ContactList::filter(const QString &strText)
 {
+    m_strFilter = strText;
     for (ContactRow *row : qAsConst(m_rows)) {
         row->setVisible(ContactSearch::finds(row->entry(), strText));
     }
     const QList<ContactRow *> shown = shownRows();
     if (!shown.isEmpty()) {
+        setCurrent(shown.first());
+    }
+    return shown.size();
+}
+
+int ContactList::showPerson(const ContactBook::Entry &entry)
+{
+    const auto found = std::find_if(m_rows.begin(), m_rows.end(),
+                                    [&](const ContactRow *row) { return row->entry().uid == entry.uid; });
+    if (found != m_rows.end()) {
+        (*found)->setEntry(entry);
+        (*found)->setVisible(ContactSearch::finds(entry, m_strFilter));
+    }
+    const QList<ContactRow *> shown = shownRows();
+    if (!shown.isEmpty() && !shown.contains(m_pCurrent)) {
         setCurrent(shown.first());
     }
     return shown.size();

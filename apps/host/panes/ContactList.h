@@ -22,6 +22,8 @@ public:
     /// Leaves the rows that the text finds, see ContactSearch, the first of them as the current one; returns their
     /// number.
     int filter(const QString &strText);
+    /// Shows what is known of that person now; returns the number of rows that the last filter() finds.
+    int showPerson(const ContactBook::Entry &entry);
     /// Makes the rows follow `before` in the order of the Tab key.
     void followInTabOrder(QWidget *before);
     /// Gives the focus to the current row; false when there is none.
@@ -45,6 +47,7 @@ private:
     void setCurrent(ContactRow *row);
     void go(int iTo);
 
+    QString m_strFilter;
     QVBoxLayout *m_pLayout;
     QList<ContactRow *> m_rows;
     ContactRow *m_pCurrent = nullptr;

@@ -2,8 +2,6 @@
 
 #include "ui_ContactPane.h"
 
-#include "client/ContactBook.h"
-
 #include <QKeyEvent>
 #include <QToolButton>
 
@@ -44,9 +42,18 @@ void ContactPane::takeSkin()
 
 void ContactPane::search()
 {
-    const int found = ui->contactArea->filter(ui->editSearch->text());
-    ui->contactArea->setVisible(found > 0);
-    ui->lblNoMatch->setVisible(found == 0);
+    showFound(ui->contactArea->filter(ui->editSearch->text()));
+}
+
+void ContactPane::showPerson(const ContactBook::Entry &entry)
+{
+    showFound(ui->contactArea->showPerson(entry));
+}
+
+void ContactPane::showFound(int iRows)
+{
+    ui->contactArea->setVisible(iRows > 0);
+    ui->lblNoMatch->setVisible(iRows == 0);
 }
 
 void ContactPane::callNumber()

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "client/ContactBook.h"
+
 #include <QWidget>
 
 #include <memory>
-
-class ContactBook;
 
 namespace Ui {
 class ContactPane;
@@ -22,6 +22,8 @@ public:
 
     /// Puts the book's contacts into the list.
     void fill(const ContactBook &book);
+    /// Shows what is known of that contact now.
+    void showPerson(const ContactBook::Entry &entry);
     /// Gives the focus to the search field.
     void startSearch();
     /// Says why nobody can be called now: every button that would is disabled with it in its tip. Empty when one can.
@@ -42,6 +44,7 @@ protected:
 
 private:
     void search();
+    void showFound(int iRows);
     void callNumber();
     void nameClearButton();
     void showObstacle();

@@ -5,9 +5,13 @@
 #include "client/HostPictures.h"
 #include "client/HostSkins.h"
 
-#include "model/AvatarFiles.h"
-
 #include <QKeyEvent>
+
+namespace {
+
+constexpr int cHeadSize = 40;
+
+} // namespace
 
 ContactRow::ContactRow(const ContactBook::Entry &entry, QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::ContactRow>()), m_entry(entry)
@@ -15,9 +19,6 @@ ContactRow::ContactRow(const ContactBook::Entry &entry, QWidget *parent)
     ui->setupUi(this);
     setAttribute(Qt::WA_StyledBackground);
     setObjectName(entry.uid);
-    ui->lblHead->setPixmap(HostPictures::head(entry.known ? entry.nick : QStringLiteral("?"), entry.uid, 40,
-                                              entry.presence,
-                                              entry.known ? AvatarFiles::systemAvatar(entry.photo) : QString()));
     for (QToolButton *button : {ui->btnCall, ui->btnVideo}) {
         button->installEventFilter(this);
     }
@@ -25,10 +26,22 @@ ContactRow::ContactRow(const ContactBook::Entry &entry, QWidget *parent)
     connect(ui->btnVideo, &QToolButton::clicked, this, [this] { emit callClicked(m_entry.uid, true); });
     setTabStop(false);
     takeSkin();
-    showWords();
+    showEntry();
 }
 
 ContactRow::~ContactRow() = default;
+
+void ContactRow::setEntry(const ContactBook::Entry &entry)
+{
+    m_entry = entry;
+    showEntry();
+}
+
+void ContactRow::showEntry()
+{
+    ui->lblHead->setPixmap(HostPictures::head(m_entry, cHeadSize));
+    showWords();
+}
 
 void ContactRow::setTabStop(bool bStop)
 {
@@ -55,10 +68,10 @@ void ContactRow::takeSkin()
 void ContactRow::showWords()
 {
     // A stranger goes by the number: who that is, the client does not know yet.
-    const QString name = m_entry.known ? m_entry.nick : m_entry.uid;
+    const QString name = m_entry.shownName();
     const QString presence = presenceWord(m_entry.presence);
     const QString detail =
-        (m_entry.known ? m_entry.uid : tr("not a contact")) + QStringLiteral(" · ") + m_entry.alternative;
+        (m_entry.known ? m_entry.uid : tr("not a contact")) + QStringLiteral(" · ") + m_entry.alternative();
     ui->lblName->setText(name);
     ui->lblPresence->setText(presence);
     ui->lblDetail->setText(detail);

@@ -23,6 +23,8 @@ public:
 
     const ContactBook::Entry &entry() const { return m_entry; }
 
+    /// Shows what is known of the same person now.
+    void setEntry(const ContactBook::Entry &entry);
     /// Whether the row and its buttons are stations of the Tab key: those of one row of a list are.
     void setTabStop(bool bStop);
     /// Makes row and buttons follow `before` in the order of the Tab key; returns the last of them.
@@ -46,6 +48,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void showEntry();
     void showWords();
 
     std::unique_ptr<Ui::ContactRow> ui;

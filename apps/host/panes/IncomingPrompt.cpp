@@ -63,6 +63,17 @@ void IncomingPrompt::prompt(const QString &strUid, bool bConference, bool bVideo
     if (bTakesKeys) {
         activateWindow();
     }
+    emit prompted();
+}
+
+QString IncomingPrompt::caller() const
+{
+    return ui->lblName->text();
+}
+
+QString IncomingPrompt::kind() const
+{
+    return ui->lblKind->text();
 }
 
 void IncomingPrompt::showWords()

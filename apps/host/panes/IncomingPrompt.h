@@ -26,6 +26,10 @@ public:
     /// Shows the prompt for the call of this user; a prompt that is still up changes over to the new call.
     void prompt(const QString &strUid, bool bConference, bool bVideo);
 
+    /// Who calls, and what for, as the prompt says it.
+    QString caller() const;
+    QString kind() const;
+
     /// Gives the keyboard to the prompt if it is up.
     void enter();
 
@@ -33,6 +37,8 @@ public:
     void withdraw(const QString &strUid);
 
 signals:
+    /// The prompt is up for another call.
+    void prompted();
     /// The user has answered; the prompt is gone.
     void answered(const QString &strUid, bool bAccept);
 

@@ -24,7 +24,7 @@
 
 MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     : ui(std::make_unique<Ui::MainWindow>()), m_session(session), m_book(book), m_status(*this, session.calls(), book),
-      m_prompt(book), m_signature(book), m_settingsPage(session.settings())
+      m_prompt(book), m_promptNotice(m_prompt), m_signature(book), m_videoCard(book), m_settingsPage(session.settings())
 {
     ui->setupUi(this);
     // The call window is in front when a tip has to say why nobody else can be called.
@@ -35,6 +35,8 @@ MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     setUpPlace();
     setUpHappenings();
     setUpCallService();
+    m_settingsPage.addSound(m_session.sound(), m_session.callService());
+    m_settingsPage.addKeys(m_promptKey);
     connectParts();
     connectSession();
     connectCalls();
@@ -113,8 +115,12 @@ void MainWindow::connectSession()
 {
     HostMailbox &mailbox = m_session.mailbox();
     connect(&m_session, &HostSession::onlineChanged, this, &MainWindow::showOnline);
+    connect(&m_session, &HostSession::strangerMet, this,
+            [this](const QString &strUid) { ui->contactPane->showPerson(*m_book.entry(strUid)); });
     connect(&m_session.settings(), &HostSettings::skinChanged, this, &MainWindow::takeSkin);
     connect(&mailbox, &HostMailbox::callIncoming, &m_prompt, &IncomingPrompt::prompt);
+    connect(&m_promptKey, &PromptKey::pressed, &m_prompt, &IncomingPrompt::enter);
+    m_promptKey.start();
     connect(&mailbox, &HostMailbox::promptWithdrawn, &m_prompt, &IncomingPrompt::withdraw);
     connect(&m_prompt, &IncomingPrompt::answered, this, [this](const QString &strUid, bool bAccept) {
         const QString name = m_book.nameOf(strUid);
@@ -137,7 +143,13 @@ void MainWindow::connectCalls()
 {
     const CallWatch &calls = m_session.calls();
     connect(&calls, &CallWatch::changed, this, [this, &calls] { m_readiness.setInCall(calls.hasCall()); });
+    connect(&calls, &CallWatch::began, this, [this](const CallEntry &call) {
+        if (call.video) {
+            m_videoCard.accompany(WindowProbe::callWindow(), call.uid);
+        }
+    });
     connect(&calls, &CallWatch::ended, this, [this](const CallEntry &call) {
+        m_videoCard.leave();
         if (!call.seen) {
             QApplication::alert(this);
         }
@@ -249,8 +261,10 @@ void MainWindow::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
         fillHeader();
+        m_session.takeLanguage();
         showOnline(m_session.isOnline());
         showReadiness();
+        showNotice();
     }
     QMainWindow::changeEvent(event);
 }
@@ -281,6 +295,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     }
     m_prompt.hide();
     m_signature.hide();
+    m_videoCard.leave();
     m_settingsPage.hide();
     m_pPlace->remember(m_pHappenings->grown());
     m_session.quit();

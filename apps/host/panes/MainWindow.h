@@ -1,10 +1,13 @@
 #pragma once
 
+#include "desktop/PromptKey.h"
 #include "history/CallReadiness.h"
 #include "panes/CallStatusLine.h"
 #include "panes/IncomingPrompt.h"
+#include "panes/PromptNotice.h"
 #include "panes/SettingsPage.h"
 #include "panes/SignatureCard.h"
+#include "panes/VideoCard.h"
 
 #include <QMainWindow>
 
@@ -21,8 +24,9 @@ class MainWindow;
 
 /// The demo's window: contacts on the left, the history of calls on the right, settings and the login switch on top,
 /// and below them what has to be told of the local store; rightmost, on demand, what happens, or in a window of its
-/// own. It owns the prompt of incoming calls, the signature card and the settings page. Ctrl+F goes to the search
-/// field, Ctrl+Shift+H shows and hides what happens. GUI thread; session and book must outlive it.
+/// own. It owns the prompt of incoming calls, the signature card, the card of video calls without a picture and the
+/// settings page. Ctrl+F goes to the search field, Ctrl+Shift+H shows and hides what happens. GUI thread; session and
+/// book must outlive it.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -39,6 +43,9 @@ public:
     SignatureCard &signature() { return m_signature; }
     /// The settings page, hidden while it is not asked for.
     SettingsPage &settingsPage() { return m_settingsPage; }
+
+    /// The card over the call window, hidden while no video call without a picture is on.
+    VideoCard &videoCard() { return m_videoCard; }
 
     /// Shows the window above the others, out of the task bar where it was minimized, and asks for the keyboard.
     void comeToFront();
@@ -77,7 +84,10 @@ private:
     CallReadiness m_readiness;
     CallStatusLine m_status;
     IncomingPrompt m_prompt;
+    PromptNotice m_promptNotice;
+    PromptKey m_promptKey;
     SignatureCard m_signature;
+    VideoCard m_videoCard;
     SettingsPage m_settingsPage;
     WindowPlace *m_pPlace = nullptr;
     HappeningsDock *m_pHappenings = nullptr;

@@ -4,6 +4,7 @@
 #include "client/ContactBook.h"
 
 #include <QDialog>
+#include <QList>
 #include <QStringList>
 
 #include <memory>
@@ -12,9 +13,12 @@
 namespace Ui {
 class MemberPicker;
 }
+class QListWidgetItem;
 
 /// The session plug-in's picker: a list of people with check marks, for a new conference or for further members of a
-/// running one. It says above the list what the call plug-in has asked. GUI thread.
+/// running one. It says above the list what the call plug-in has asked. A filter leaves those that it finds, as the
+/// search of the contacts does, and takes no mark away; a number that is no contact can be put on the list. In the
+/// filter's field Down and Enter lead into the list and Escape empties it. GUI thread.
 class MemberPicker : public QDialog
 {
     Q_OBJECT
@@ -42,11 +46,27 @@ public:
     /// Runs the dialog for further members; returns the picked user ids, none when it was cancelled.
     static QStringList pickMore(const ContactBook &book, const QStringList &present, QWidget *parent);
 
+protected:
+    /// The keys of the fields.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void setUpNumber();
+    void setUpFilter();
+    void filter();
+    bool filterKey(int iKey);
+    void enterList();
+    void addNumbers();
+    QString refusal(const QString &strUid) const;
+    void pick(const QString &strUid);
+    QListWidgetItem *find(const QString &strUid) const;
     void addPeople(const ContactBook &book, Purpose purpose, const QStringList &named);
     void addPerson(const ContactBook::Entry &entry, bool bChecked);
     void showPicked();
 
     std::unique_ptr<Ui::MemberPicker> ui;
+    const QString m_strOwnUid;
+    QStringList m_present;                   // whom the list leaves out
+    QList<ContactBook::Entry> m_people;      // those of the list, in its order
     std::optional<Qt::CheckState> m_pressed; // the mark at the press, when that was beside the box
 };

@@ -1,21 +1,17 @@
 #include "screen/ScreenKeys.h"
 
+#include "screen/KeyCodes.h"
+
 #include <xcb/xtest.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <memory>
 #include <vector>
 
 namespace {
 
 // What X calls the Return key.
 constexpr unsigned int cReturnSymbol = 0xff0d;
-
-struct Freed
-{
-    void operator()(void *reply) const { std::free(reply); }
-};
 
 } // namespace
 
@@ -26,26 +22,9 @@ ScreenKeys::~ScreenKeys()
     xcb_disconnect(m_pConnection);
 }
 
-/// The key that gives the symbol without a modifier; 0 when there is none.
 unsigned char ScreenKeys::codeOf(unsigned int keysym) const
 {
-    if (xcb_connection_has_error(m_pConnection) != 0) {
-        return 0;
-    }
-    const xcb_setup_t *setup = xcb_get_setup(m_pConnection);
-    const auto count = std::uint8_t(setup->max_keycode - setup->min_keycode + 1);
-    const std::unique_ptr<xcb_get_keyboard_mapping_reply_t, Freed> map(xcb_get_keyboard_mapping_reply(
-        m_pConnection, xcb_get_keyboard_mapping(m_pConnection, setup->min_keycode, count), nullptr));
-    if (map == nullptr) {
-        return 0;
-    }
-    const xcb_keysym_t *symbols = xcb_get_keyboard_mapping_keysyms(map.get());
-    for (int key = 0; key < count; ++key) {
-        if (symbols[std::ptrdiff_t(key) * map->keysyms_per_keycode] == keysym) {
-            return std::uint8_t(setup->min_keycode + key);
-        }
-    }
-    return 0;
+    return KeyCodes::codeOf(m_pConnection, keysym, KeyCodes::Plain);
 }
 
 void ScreenKeys::press(unsigned char code)

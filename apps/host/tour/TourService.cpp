@@ -58,6 +58,11 @@ QList<TourStep> TourService::steps(const TourStage &stage)
          },
          {s.mainShows("CallServiceBar", true), registered, s.processes(1)},
          2 * cUsualLimitMs},
-        {u("Wait until the user is online again"), {}, wellAgain},
+        {u("Wait until the user is online again"),
+         {},
+         wellAgain,
+         cUsualLimitMs,
+         u("call-service-again"),
+         s.mainWindow()},
     };
 }

@@ -239,6 +239,37 @@ Steps incoming(const TourScript &s)
                    s.record(resultRejected, false, false), s.windowGone()}}};
 }
 
+/// The stranger is called behind the dialog, as no person could, so that the answer comes while it is open, however
+/// slow the machine.
+Steps overDialog(const TourScript &s, const TourStage &stage)
+{
+    const TourCheck asBefore = s.pickerSays("btnInvite", u("Invite (1)"));
+    return {
+        {u("Begin to pick people for a conference"),
+         s.pressMain("btnConference"),
+         {s.pickerSays("lblAsked", u("Whom to call together?"))}},
+        {u("Pick Tom Baker"), s.pick({silent}), {asBefore}},
+        {u("Let the stranger call while the dialog is open: the prompt stands over it"),
+         done([session = &stage.session] { session->callUser(callsBack, false); }),
+         {s.record(resultRejected, true, false), s.code(Code::IncomingCall, "incoming call"), s.prompted(u("韩梅梅")),
+          asBefore},
+         cUsualLimitMs,
+         u("prompt-over-dialog"),
+         {}},
+        {u("Accept: the call is there, and the dialog stays as it was"),
+         s.pressPrompt("btnAccept"),
+         {s.asked(MSG_RESPONSE_VOIP_REQUEST, u("accept=yes")), s.command(Command::AcceptCall), s.promptGone(),
+          s.code(Code::CallConnected, "connected"), s.clockRuns(), asBefore},
+         cUsualLimitMs,
+         u("answered-over-dialog"),
+         {}},
+        {u("Leave the dialog, and wait for the other side to hang up"),
+         s.pressPicker("btnCancel"),
+         {s.pickerGone(), s.code(Code::PeerHangup, "hung up by the other side"), s.record(resultHungUp, false, true),
+          s.windowGone()}},
+    };
+}
+
 Steps offline(const TourScript &s)
 {
     return call(s, "Call 李雷 again") +
@@ -332,7 +363,7 @@ QList<TourStep> tourSteps(const TourStage &stage)
            unanswered(s, rejects, "Call 王芳, who rejects", Code::PeerRejected, "rejected", resultRejected) +
            unanswered(s, fails, "Call 赵强: the call fails", Code::CallFailed, "failed", resultFailed) +
            call(s, "Call 李雷, who answers", u("call-voice")) + duringCall(s) + hangUp(s, "Hang up") + video(s, stage) +
-           farEnd(s) + incoming(s) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
+           farEnd(s) + incoming(s) + overDialog(s, stage) + conferenceSteps(stage) + offline(s) + killed(s, stage) +
            call(s, "Call 李雷 over the new call process") + hangUp(s, "Hang up") + historySteps(stage) +
            happenings(s, stage) + settingsSteps(stage) + userSteps(stage) + leave(s, stage) + restartSteps(stage);
 }

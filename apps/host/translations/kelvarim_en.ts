@@ -1500,18 +1500,6 @@
         <translation>People</translation>
     </message>
     <message>
-        <source>Text passed on to the call process</source>
-        <translation>Text passed on to the call process</translation>
-    </message>
-    <message>
-        <source>Passed on to the call process</source>
-        <translation>Passed on to the call process</translation>
-    </message>
-    <message>
-        <source>Flag</source>
-        <translation>Flag</translation>
-    </message>
-    <message>
         <source>New conference</source>
         <translation>New conference</translation>
     </message>
@@ -1532,16 +1520,92 @@
         <translation>Asked for a conference with: %1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Cancel</translation>
-    </message>
-    <message>
         <source>Invite (%1)</source>
         <translation>Invite (%1)</translation>
     </message>
     <message>
         <source>Invite</source>
         <translation>Invite</translation>
+    </message>
+    <message>
+        <source>Down and Enter lead into the list, Escape shows everybody again</source>
+        <translation>Down and Enter lead into the list, Escape shows everybody again</translation>
+    </message>
+    <message>
+        <source>Filter the people</source>
+        <translation>Filter the people</translation>
+    </message>
+    <message>
+        <source>Filter by name, number or initials</source>
+        <translation>Filter by name, number or initials</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>Clear the filter</translation>
+    </message>
+    <message>
+        <source>Nobody matches</source>
+        <translation>Nobody matches</translation>
+    </message>
+    <message>
+        <source>Somebody who is no contact; several numbers with a space or a comma between them</source>
+        <translation>Somebody who is no contact; several numbers with a space or a comma between them</translation>
+    </message>
+    <message>
+        <source>Another number</source>
+        <translation>Another number</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Add</translation>
+    </message>
+    <message>
+        <source>Enter a number first</source>
+        <translation>Enter a number first</translation>
+    </message>
+    <message>
+        <source>Put it on the list</source>
+        <translation>Put it on the list</translation>
+    </message>
+    <message>
+        <source>%1 is your own number.</source>
+        <translation>%1 is your own number.</translation>
+    </message>
+    <message>
+        <source>%1 is in the conference already.</source>
+        <translation>%1 is in the conference already.</translation>
+    </message>
+    <message>
+        <source>For the call process; the robots make nothing of it</source>
+        <translation>For the call process; the robots make nothing of it</translation>
+    </message>
+    <message>
+        <source>A text that the call process gets with the request for the conference. It may take it as a title, say; neither client nor plug-in reads it.</source>
+        <translation>A text that the call process gets with the request for the conference. It may take it as a title, say; neither client nor plug-in reads it.</translation>
+    </message>
+    <message>
+        <source>Text for the call process</source>
+        <translation>Text for the call process</translation>
+    </message>
+    <message>
+        <source>Text, such as a title</source>
+        <translation>Text, such as a title</translation>
+    </message>
+    <message>
+        <source>A yes or no that the call process gets with the request for the conference. What it means is the call process's affair; neither client nor plug-in reads it.</source>
+        <translation>A yes or no that the call process gets with the request for the conference. What it means is the call process's affair; neither client nor plug-in reads it.</translation>
+    </message>
+    <message>
+        <source>Flag for the call process</source>
+        <translation>Flag for the call process</translation>
+    </message>
+    <message>
+        <source>&amp;Flag (yes or no)</source>
+        <translation>&amp;Flag (yes or no)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancel</translation>
     </message>
 </context>
 <context>
@@ -1644,6 +1708,26 @@
     <message>
         <source>Choose a folder</source>
         <translation>Choose a folder</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 cannot be written to.</source>
+        <translation>Nothing was changed: %1 cannot be written to.</translation>
+    </message>
+    <message>
+        <source>Pages of the settings</source>
+        <translation>Pages of the settings</translation>
+    </message>
+    <message>
+        <source>&amp;General</source>
+        <translation>&amp;General</translation>
+    </message>
+    <message>
+        <source>&amp;Sound</source>
+        <translation>&amp;Sound</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard</source>
+        <translation>&amp;Keyboard</translation>
     </message>
 </context>
 <context>
@@ -1750,6 +1834,204 @@
     <message>
         <source>another user's</source>
         <translation>another user's</translation>
+    </message>
+</context>
+<context>
+    <name>ContactBook</name>
+    <message>
+        <source>Answers</source>
+        <translation>Answers</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>Busy</translation>
+    </message>
+    <message>
+        <source>Rejects</source>
+        <translation>Rejects</translation>
+    </message>
+    <message>
+        <source>Never answers</source>
+        <translation>Never answers</translation>
+    </message>
+    <message>
+        <source>Call fails</source>
+        <translation>Call fails</translation>
+    </message>
+    <message>
+        <source>Hangs up after 10 s</source>
+        <translation>Hangs up after 10 s</translation>
+    </message>
+    <message>
+        <source>Calls you back</source>
+        <translation>Calls you back</translation>
+    </message>
+    <message>
+        <source>Invites you</source>
+        <translation>Invites you</translation>
+    </message>
+    <message>
+        <source>Leaves and returns</source>
+        <translation>Leaves and returns</translation>
+    </message>
+    <message>
+        <source>Invites, lines crossed</source>
+        <translation>Invites, lines crossed</translation>
+    </message>
+    <message>
+        <source>Takes no calls</source>
+        <translation>Takes no calls</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <translation>You</translation>
+    </message>
+</context>
+<context>
+    <name>VideoCard</name>
+    <message>
+        <source>No picture here: the call process draws none into this window. You can talk as in a voice call.</source>
+        <translation>No picture here: the call process draws none into this window. You can talk as in a voice call.</translation>
+    </message>
+    <message>
+        <source>Video call with %1</source>
+        <translation>Video call with %1</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceBox</name>
+    <message>
+        <source>As the desktop has it</source>
+        <translation>As the desktop has it</translation>
+    </message>
+    <message>
+        <source>As the desktop has it (%1)</source>
+        <translation>As the desktop has it (%1)</translation>
+    </message>
+    <message>
+        <source>%1 (not there)</source>
+        <translation>%1 (not there)</translation>
+    </message>
+</context>
+<context>
+    <name>SoundPane</name>
+    <message>
+        <source>&amp;Microphone</source>
+        <translation>&amp;Microphone</translation>
+    </message>
+    <message>
+        <source>Microphone of calls</source>
+        <translation>Microphone of calls</translation>
+    </message>
+    <message>
+        <source>Level of the microphone</source>
+        <translation>Level of the microphone</translation>
+    </message>
+    <message>
+        <source>S&amp;peaker</source>
+        <translation>S&amp;peaker</translation>
+    </message>
+    <message>
+        <source>Speaker of calls</source>
+        <translation>Speaker of calls</translation>
+    </message>
+    <message>
+        <source>Play a &amp;tone</source>
+        <translation>Play a &amp;tone</translation>
+    </message>
+    <message>
+        <source>The sound server does not answer. What was chosen holds, and nothing can be tried.</source>
+        <translation>The sound server does not answer. What was chosen holds, and nothing can be tried.</translation>
+    </message>
+    <message>
+        <source>There is no sound server, so there is nothing to choose from. As soon as one is there, its devices are shown.</source>
+        <translation>There is no sound server, so there is nothing to choose from. As soon as one is there, its devices are shown.</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is not there. Until it is, calls take the desktop's, which the bar shows.</source>
+        <translation>The chosen microphone is not there. Until it is, calls take the desktop's, which the bar shows.</translation>
+    </message>
+    <message>
+        <source>This microphone cannot be opened.</source>
+        <translation>This microphone cannot be opened.</translation>
+    </message>
+    <message>
+        <source>Speak: the bar shows what the microphone hears.</source>
+        <translation>Speak: the bar shows what the microphone hears.</translation>
+    </message>
+    <message>
+        <source>A tone is being played.</source>
+        <translation>A tone is being played.</translation>
+    </message>
+    <message>
+        <source>The tone could not be played.</source>
+        <translation>The tone could not be played.</translation>
+    </message>
+    <message>
+        <source>The tone was played. If you have not heard it, choose another speaker, or turn this one up.</source>
+        <translation>The tone was played. If you have not heard it, choose another speaker, or turn this one up.</translation>
+    </message>
+    <message>
+        <source>The chosen speaker is not there. Until it is, calls take the desktop's.</source>
+        <translation>The chosen speaker is not there. Until it is, calls take the desktop's.</translation>
+    </message>
+    <message>
+        <source>The tone goes to the speaker above.</source>
+        <translation>The tone goes to the speaker above.</translation>
+    </message>
+    <message>
+        <source>Takes effect when the call service starts the next time, at the latest when the client does.</source>
+        <translation>Takes effect when the call service starts the next time, at the latest when the client does.</translation>
+    </message>
+    <message>
+        <source>The call service was started with this choice.</source>
+        <translation>The call service was started with this choice.</translation>
+    </message>
+</context>
+<context>
+    <name>KeysPane</name>
+    <message>
+        <source>Ringing calls</source>
+        <translation>Ringing calls</translation>
+    </message>
+    <message>
+        <source>&amp;Use a key of the whole desktop</source>
+        <translation>&amp;Use a key of the whole desktop</translation>
+    </message>
+    <message>
+        <source>Key of the whole desktop: press the one that you want</source>
+        <translation>Key of the whole desktop: press the one that you want</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing. Press a key together with Ctrl, Alt or the Windows key, or one of F1 to F35.</source>
+        <translation>%1 is needed for typing. Press a key together with Ctrl, Alt or the Windows key, or one of F1 to F35.</translation>
+    </message>
+    <message>
+        <source>%1 goes to the prompt of a ringing call from every program. Press another key in the field to change it.</source>
+        <translation>%1 goes to the prompt of a ringing call from every program. Press another key in the field to change it.</translation>
+    </message>
+    <message>
+        <source>The desktop refuses %1: another program has it. Press another key in the field.</source>
+        <translation>The desktop refuses %1: another program has it. Press another key in the field.</translation>
+    </message>
+    <message>
+        <source>This keyboard has no %1. Press another key in the field.</source>
+        <translation>This keyboard has no %1. Press another key in the field.</translation>
+    </message>
+    <message>
+        <source>This desktop gives no program a key of its own. In its own settings you may find a way; in the client's windows Ctrl+I goes to the prompt.</source>
+        <translation>This desktop gives no program a key of its own. In its own settings you may find a way; in the client's windows Ctrl+I goes to the prompt.</translation>
+    </message>
+    <message>
+        <source>In the client's windows Ctrl+I goes to the prompt of a ringing call; this key does so from every program.</source>
+        <translation>In the client's windows Ctrl+I goes to the prompt of a ringing call; this key does so from every program.</translation>
+    </message>
+</context>
+<context>
+    <name>CallNotice</name>
+    <message>
+        <source>Answer</source>
+        <translation>Answer</translation>
     </message>
 </context>
 </TS>

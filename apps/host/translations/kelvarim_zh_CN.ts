@@ -1496,18 +1496,6 @@
         <translation>人员</translation>
     </message>
     <message>
-        <source>Text passed on to the call process</source>
-        <translation>传给通话进程的文字</translation>
-    </message>
-    <message>
-        <source>Passed on to the call process</source>
-        <translation>传给通话进程</translation>
-    </message>
-    <message>
-        <source>Flag</source>
-        <translation>标志</translation>
-    </message>
-    <message>
         <source>New conference</source>
         <translation>新会议</translation>
     </message>
@@ -1528,16 +1516,92 @@
         <translation>请求与以下人员开会：%1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
         <source>Invite (%1)</source>
         <translation>邀请 (%1)</translation>
     </message>
     <message>
         <source>Invite</source>
         <translation>邀请</translation>
+    </message>
+    <message>
+        <source>Down and Enter lead into the list, Escape shows everybody again</source>
+        <translation>按向下键或 Enter 进入列表，按 Esc 重新显示所有人</translation>
+    </message>
+    <message>
+        <source>Filter the people</source>
+        <translation>筛选人员</translation>
+    </message>
+    <message>
+        <source>Filter by name, number or initials</source>
+        <translation>按姓名、号码或拼音首字母筛选</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>清除筛选</translation>
+    </message>
+    <message>
+        <source>Nobody matches</source>
+        <translation>没有匹配的人员</translation>
+    </message>
+    <message>
+        <source>Somebody who is no contact; several numbers with a space or a comma between them</source>
+        <translation>不在联系人中的人；多个号码之间用空格或逗号分隔</translation>
+    </message>
+    <message>
+        <source>Another number</source>
+        <translation>其他号码</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Enter a number first</source>
+        <translation>请先输入号码</translation>
+    </message>
+    <message>
+        <source>Put it on the list</source>
+        <translation>加入列表</translation>
+    </message>
+    <message>
+        <source>%1 is your own number.</source>
+        <translation>%1 是您自己的号码。</translation>
+    </message>
+    <message>
+        <source>%1 is in the conference already.</source>
+        <translation>%1 已在会议中。</translation>
+    </message>
+    <message>
+        <source>For the call process; the robots make nothing of it</source>
+        <translation>供通话进程使用；机器人不理会这些内容</translation>
+    </message>
+    <message>
+        <source>A text that the call process gets with the request for the conference. It may take it as a title, say; neither client nor plug-in reads it.</source>
+        <translation>随会议请求交给通话进程的文字。通话进程可以把它当作会议标题等；客户端和插件都不读取它。</translation>
+    </message>
+    <message>
+        <source>Text for the call process</source>
+        <translation>给通话进程的文字</translation>
+    </message>
+    <message>
+        <source>Text, such as a title</source>
+        <translation>文字，例如标题</translation>
+    </message>
+    <message>
+        <source>A yes or no that the call process gets with the request for the conference. What it means is the call process's affair; neither client nor plug-in reads it.</source>
+        <translation>随会议请求交给通话进程的是或否。其含义由通话进程决定；客户端和插件都不读取它。</translation>
+    </message>
+    <message>
+        <source>Flag for the call process</source>
+        <translation>给通话进程的标志</translation>
+    </message>
+    <message>
+        <source>&amp;Flag (yes or no)</source>
+        <translation>标志（是或否）(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -1640,6 +1704,26 @@
     <message>
         <source>Choose a folder</source>
         <translation>选择文件夹</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 cannot be written to.</source>
+        <translation>未作更改：无法写入 %1。</translation>
+    </message>
+    <message>
+        <source>Pages of the settings</source>
+        <translation>设置页面</translation>
+    </message>
+    <message>
+        <source>&amp;General</source>
+        <translation>常规(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Sound</source>
+        <translation>声音(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard</source>
+        <translation>键盘(&amp;K)</translation>
     </message>
 </context>
 <context>
@@ -1744,6 +1828,204 @@
     <message>
         <source>another user's</source>
         <translation>另一用户的程序</translation>
+    </message>
+</context>
+<context>
+    <name>ContactBook</name>
+    <message>
+        <source>Answers</source>
+        <translation>会接听</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>正忙</translation>
+    </message>
+    <message>
+        <source>Rejects</source>
+        <translation>会拒接</translation>
+    </message>
+    <message>
+        <source>Never answers</source>
+        <translation>从不接听</translation>
+    </message>
+    <message>
+        <source>Call fails</source>
+        <translation>呼叫失败</translation>
+    </message>
+    <message>
+        <source>Hangs up after 10 s</source>
+        <translation>10 秒后挂断</translation>
+    </message>
+    <message>
+        <source>Calls you back</source>
+        <translation>会回拨给您</translation>
+    </message>
+    <message>
+        <source>Invites you</source>
+        <translation>会邀请您开会</translation>
+    </message>
+    <message>
+        <source>Leaves and returns</source>
+        <translation>离开后再回来</translation>
+    </message>
+    <message>
+        <source>Invites, lines crossed</source>
+        <translation>邀请您时线路交叉</translation>
+    </message>
+    <message>
+        <source>Takes no calls</source>
+        <translation>不接电话</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <translation>您</translation>
+    </message>
+</context>
+<context>
+    <name>VideoCard</name>
+    <message>
+        <source>No picture here: the call process draws none into this window. You can talk as in a voice call.</source>
+        <translation>这里没有画面：通话进程没有在此窗口中绘制画面。您可以像语音通话一样交谈。</translation>
+    </message>
+    <message>
+        <source>Video call with %1</source>
+        <translation>与 %1 的视频通话</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceBox</name>
+    <message>
+        <source>As the desktop has it</source>
+        <translation>跟随系统</translation>
+    </message>
+    <message>
+        <source>As the desktop has it (%1)</source>
+        <translation>跟随系统（%1）</translation>
+    </message>
+    <message>
+        <source>%1 (not there)</source>
+        <translation>%1（未连接）</translation>
+    </message>
+</context>
+<context>
+    <name>SoundPane</name>
+    <message>
+        <source>&amp;Microphone</source>
+        <translation>麦克风(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Microphone of calls</source>
+        <translation>通话用麦克风</translation>
+    </message>
+    <message>
+        <source>Level of the microphone</source>
+        <translation>麦克风音量</translation>
+    </message>
+    <message>
+        <source>S&amp;peaker</source>
+        <translation>扬声器(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Speaker of calls</source>
+        <translation>通话用扬声器</translation>
+    </message>
+    <message>
+        <source>Play a &amp;tone</source>
+        <translation>播放测试音(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The sound server does not answer. What was chosen holds, and nothing can be tried.</source>
+        <translation>声音服务没有响应。已选择的设备仍然有效，但暂时无法测试。</translation>
+    </message>
+    <message>
+        <source>There is no sound server, so there is nothing to choose from. As soon as one is there, its devices are shown.</source>
+        <translation>没有声音服务，因此没有可选的设备。声音服务启动后，设备会显示在这里。</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is not there. Until it is, calls take the desktop's, which the bar shows.</source>
+        <translation>所选的麦克风未连接。连接之前，通话使用系统的麦克风，音量条显示的也是它。</translation>
+    </message>
+    <message>
+        <source>This microphone cannot be opened.</source>
+        <translation>无法打开此麦克风。</translation>
+    </message>
+    <message>
+        <source>Speak: the bar shows what the microphone hears.</source>
+        <translation>请说话：音量条显示麦克风收到的声音。</translation>
+    </message>
+    <message>
+        <source>A tone is being played.</source>
+        <translation>正在播放测试音。</translation>
+    </message>
+    <message>
+        <source>The tone could not be played.</source>
+        <translation>无法播放测试音。</translation>
+    </message>
+    <message>
+        <source>The tone was played. If you have not heard it, choose another speaker, or turn this one up.</source>
+        <translation>测试音已播放。如果没有听到，请选择其他扬声器或调高音量。</translation>
+    </message>
+    <message>
+        <source>The chosen speaker is not there. Until it is, calls take the desktop's.</source>
+        <translation>所选的扬声器未连接。连接之前，通话使用系统的扬声器。</translation>
+    </message>
+    <message>
+        <source>The tone goes to the speaker above.</source>
+        <translation>测试音从上面的扬声器播放。</translation>
+    </message>
+    <message>
+        <source>Takes effect when the call service starts the next time, at the latest when the client does.</source>
+        <translation>通话服务下次启动时生效，最迟在客户端下次启动时。</translation>
+    </message>
+    <message>
+        <source>The call service was started with this choice.</source>
+        <translation>通话服务正在使用此选择。</translation>
+    </message>
+</context>
+<context>
+    <name>KeysPane</name>
+    <message>
+        <source>Ringing calls</source>
+        <translation>来电</translation>
+    </message>
+    <message>
+        <source>&amp;Use a key of the whole desktop</source>
+        <translation>使用全局快捷键(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Key of the whole desktop: press the one that you want</source>
+        <translation>全局快捷键：请按下想用的键</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing. Press a key together with Ctrl, Alt or the Windows key, or one of F1 to F35.</source>
+        <translation>打字需要 %1。请与 Ctrl、Alt 或 Windows 键一起按，或使用 F1 至 F35。</translation>
+    </message>
+    <message>
+        <source>%1 goes to the prompt of a ringing call from every program. Press another key in the field to change it.</source>
+        <translation>在任何程序中按 %1 都会转到来电提示。要更改，请在输入框中按下另一个键。</translation>
+    </message>
+    <message>
+        <source>The desktop refuses %1: another program has it. Press another key in the field.</source>
+        <translation>系统拒绝 %1：已被其他程序占用。请在输入框中按下另一个键。</translation>
+    </message>
+    <message>
+        <source>This keyboard has no %1. Press another key in the field.</source>
+        <translation>此键盘没有 %1。请在输入框中按下另一个键。</translation>
+    </message>
+    <message>
+        <source>This desktop gives no program a key of its own. In its own settings you may find a way; in the client's windows Ctrl+I goes to the prompt.</source>
+        <translation>此桌面不允许程序使用全局快捷键。可在桌面自己的设置中另行设法；在客户端窗口中按 Ctrl+I 可转到来电提示。</translation>
+    </message>
+    <message>
+        <source>In the client's windows Ctrl+I goes to the prompt of a ringing call; this key does so from every program.</source>
+        <translation>在客户端窗口中按 Ctrl+I 可转到来电提示；此快捷键在任何程序中都有效。</translation>
+    </message>
+</context>
+<context>
+    <name>CallNotice</name>
+    <message>
+        <source>Answer</source>
+        <translation>接听</translation>
     </message>
 </context>
 </TS>

@@ -1496,18 +1496,6 @@
         <translation>人員</translation>
     </message>
     <message>
-        <source>Text passed on to the call process</source>
-        <translation>傳給通話處理程序的文字</translation>
-    </message>
-    <message>
-        <source>Passed on to the call process</source>
-        <translation>傳給通話處理程序</translation>
-    </message>
-    <message>
-        <source>Flag</source>
-        <translation>旗標</translation>
-    </message>
-    <message>
         <source>New conference</source>
         <translation>新會議</translation>
     </message>
@@ -1528,16 +1516,92 @@
         <translation>請求與以下人員開會：%1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
         <source>Invite (%1)</source>
         <translation>邀請 (%1)</translation>
     </message>
     <message>
         <source>Invite</source>
         <translation>邀請</translation>
+    </message>
+    <message>
+        <source>Down and Enter lead into the list, Escape shows everybody again</source>
+        <translation>按向下鍵或 Enter 進入清單，按 Esc 重新顯示所有人</translation>
+    </message>
+    <message>
+        <source>Filter the people</source>
+        <translation>篩選人員</translation>
+    </message>
+    <message>
+        <source>Filter by name, number or initials</source>
+        <translation>以姓名、號碼或拼音首字母篩選</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>清除篩選</translation>
+    </message>
+    <message>
+        <source>Nobody matches</source>
+        <translation>沒有符合的人員</translation>
+    </message>
+    <message>
+        <source>Somebody who is no contact; several numbers with a space or a comma between them</source>
+        <translation>不在聯絡人中的人；多個號碼之間用空格或逗號分隔</translation>
+    </message>
+    <message>
+        <source>Another number</source>
+        <translation>其他號碼</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>加入(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Enter a number first</source>
+        <translation>請先輸入號碼</translation>
+    </message>
+    <message>
+        <source>Put it on the list</source>
+        <translation>加入清單</translation>
+    </message>
+    <message>
+        <source>%1 is your own number.</source>
+        <translation>%1 是您自己的號碼。</translation>
+    </message>
+    <message>
+        <source>%1 is in the conference already.</source>
+        <translation>%1 已在會議中。</translation>
+    </message>
+    <message>
+        <source>For the call process; the robots make nothing of it</source>
+        <translation>供通話程序使用；機器人不理會這些內容</translation>
+    </message>
+    <message>
+        <source>A text that the call process gets with the request for the conference. It may take it as a title, say; neither client nor plug-in reads it.</source>
+        <translation>隨會議請求交給通話程序的文字。通話程序可以把它當作會議標題等；用戶端和外掛都不讀取它。</translation>
+    </message>
+    <message>
+        <source>Text for the call process</source>
+        <translation>給通話程序的文字</translation>
+    </message>
+    <message>
+        <source>Text, such as a title</source>
+        <translation>文字，例如標題</translation>
+    </message>
+    <message>
+        <source>A yes or no that the call process gets with the request for the conference. What it means is the call process's affair; neither client nor plug-in reads it.</source>
+        <translation>隨會議請求交給通話程序的是或否。其含義由通話程序決定；用戶端和外掛都不讀取它。</translation>
+    </message>
+    <message>
+        <source>Flag for the call process</source>
+        <translation>給通話程序的標誌</translation>
+    </message>
+    <message>
+        <source>&amp;Flag (yes or no)</source>
+        <translation>標誌（是或否）(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -1640,6 +1704,26 @@
     <message>
         <source>Choose a folder</source>
         <translation>選擇資料夾</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 cannot be written to.</source>
+        <translation>未作變更：無法寫入 %1。</translation>
+    </message>
+    <message>
+        <source>Pages of the settings</source>
+        <translation>設定頁面</translation>
+    </message>
+    <message>
+        <source>&amp;General</source>
+        <translation>一般(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Sound</source>
+        <translation>聲音(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard</source>
+        <translation>鍵盤(&amp;K)</translation>
     </message>
 </context>
 <context>
@@ -1744,6 +1828,204 @@
     <message>
         <source>another user's</source>
         <translation>另一使用者的程式</translation>
+    </message>
+</context>
+<context>
+    <name>ContactBook</name>
+    <message>
+        <source>Answers</source>
+        <translation>會接聽</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>忙線中</translation>
+    </message>
+    <message>
+        <source>Rejects</source>
+        <translation>會拒接</translation>
+    </message>
+    <message>
+        <source>Never answers</source>
+        <translation>從不接聽</translation>
+    </message>
+    <message>
+        <source>Call fails</source>
+        <translation>呼叫失敗</translation>
+    </message>
+    <message>
+        <source>Hangs up after 10 s</source>
+        <translation>10 秒後掛斷</translation>
+    </message>
+    <message>
+        <source>Calls you back</source>
+        <translation>會回撥給您</translation>
+    </message>
+    <message>
+        <source>Invites you</source>
+        <translation>會邀請您開會</translation>
+    </message>
+    <message>
+        <source>Leaves and returns</source>
+        <translation>離開後再回來</translation>
+    </message>
+    <message>
+        <source>Invites, lines crossed</source>
+        <translation>邀請您時線路交叉</translation>
+    </message>
+    <message>
+        <source>Takes no calls</source>
+        <translation>不接電話</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <translation>您</translation>
+    </message>
+</context>
+<context>
+    <name>VideoCard</name>
+    <message>
+        <source>No picture here: the call process draws none into this window. You can talk as in a voice call.</source>
+        <translation>這裡沒有畫面：通話程序沒有在此視窗中繪製畫面。您可以像語音通話一樣交談。</translation>
+    </message>
+    <message>
+        <source>Video call with %1</source>
+        <translation>與 %1 的視訊通話</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceBox</name>
+    <message>
+        <source>As the desktop has it</source>
+        <translation>依系統設定</translation>
+    </message>
+    <message>
+        <source>As the desktop has it (%1)</source>
+        <translation>依系統設定（%1）</translation>
+    </message>
+    <message>
+        <source>%1 (not there)</source>
+        <translation>%1（未連接）</translation>
+    </message>
+</context>
+<context>
+    <name>SoundPane</name>
+    <message>
+        <source>&amp;Microphone</source>
+        <translation>麥克風(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Microphone of calls</source>
+        <translation>通話用麥克風</translation>
+    </message>
+    <message>
+        <source>Level of the microphone</source>
+        <translation>麥克風音量</translation>
+    </message>
+    <message>
+        <source>S&amp;peaker</source>
+        <translation>揚聲器(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Speaker of calls</source>
+        <translation>通話用揚聲器</translation>
+    </message>
+    <message>
+        <source>Play a &amp;tone</source>
+        <translation>播放測試音(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The sound server does not answer. What was chosen holds, and nothing can be tried.</source>
+        <translation>聲音服務沒有回應。已選擇的裝置仍然有效，但暫時無法測試。</translation>
+    </message>
+    <message>
+        <source>There is no sound server, so there is nothing to choose from. As soon as one is there, its devices are shown.</source>
+        <translation>沒有聲音服務，因此沒有可選的裝置。聲音服務啟動後，裝置會顯示在這裡。</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is not there. Until it is, calls take the desktop's, which the bar shows.</source>
+        <translation>所選的麥克風未連接。連接之前，通話使用系統的麥克風，音量條顯示的也是它。</translation>
+    </message>
+    <message>
+        <source>This microphone cannot be opened.</source>
+        <translation>無法開啟此麥克風。</translation>
+    </message>
+    <message>
+        <source>Speak: the bar shows what the microphone hears.</source>
+        <translation>請說話：音量條顯示麥克風收到的聲音。</translation>
+    </message>
+    <message>
+        <source>A tone is being played.</source>
+        <translation>正在播放測試音。</translation>
+    </message>
+    <message>
+        <source>The tone could not be played.</source>
+        <translation>無法播放測試音。</translation>
+    </message>
+    <message>
+        <source>The tone was played. If you have not heard it, choose another speaker, or turn this one up.</source>
+        <translation>測試音已播放。如果沒有聽到，請選擇其他揚聲器或調高音量。</translation>
+    </message>
+    <message>
+        <source>The chosen speaker is not there. Until it is, calls take the desktop's.</source>
+        <translation>所選的揚聲器未連接。連接之前，通話使用系統的揚聲器。</translation>
+    </message>
+    <message>
+        <source>The tone goes to the speaker above.</source>
+        <translation>測試音從上面的揚聲器播放。</translation>
+    </message>
+    <message>
+        <source>Takes effect when the call service starts the next time, at the latest when the client does.</source>
+        <translation>通話服務下次啟動時生效，最遲在用戶端下次啟動時。</translation>
+    </message>
+    <message>
+        <source>The call service was started with this choice.</source>
+        <translation>通話服務正在使用此選擇。</translation>
+    </message>
+</context>
+<context>
+    <name>KeysPane</name>
+    <message>
+        <source>Ringing calls</source>
+        <translation>來電</translation>
+    </message>
+    <message>
+        <source>&amp;Use a key of the whole desktop</source>
+        <translation>使用全域快速鍵(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Key of the whole desktop: press the one that you want</source>
+        <translation>全域快速鍵：請按下想用的鍵</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing. Press a key together with Ctrl, Alt or the Windows key, or one of F1 to F35.</source>
+        <translation>打字需要 %1。請與 Ctrl、Alt 或 Windows 鍵一起按，或使用 F1 至 F35。</translation>
+    </message>
+    <message>
+        <source>%1 goes to the prompt of a ringing call from every program. Press another key in the field to change it.</source>
+        <translation>在任何程式中按 %1 都會轉到來電提示。要變更，請在輸入框中按下另一個鍵。</translation>
+    </message>
+    <message>
+        <source>The desktop refuses %1: another program has it. Press another key in the field.</source>
+        <translation>系統拒絕 %1：已被其他程式佔用。請在輸入框中按下另一個鍵。</translation>
+    </message>
+    <message>
+        <source>This keyboard has no %1. Press another key in the field.</source>
+        <translation>此鍵盤沒有 %1。請在輸入框中按下另一個鍵。</translation>
+    </message>
+    <message>
+        <source>This desktop gives no program a key of its own. In its own settings you may find a way; in the client's windows Ctrl+I goes to the prompt.</source>
+        <translation>此桌面不允許程式使用全域快速鍵。可在桌面自己的設定中另行設法；在用戶端視窗中按 Ctrl+I 可轉到來電提示。</translation>
+    </message>
+    <message>
+        <source>In the client's windows Ctrl+I goes to the prompt of a ringing call; this key does so from every program.</source>
+        <translation>在用戶端視窗中按 Ctrl+I 可轉到來電提示；此快速鍵在任何程式中都有效。</translation>
+    </message>
+</context>
+<context>
+    <name>CallNotice</name>
+    <message>
+        <source>Answer</source>
+        <translation>接聽</translation>
     </message>
 </context>
 </TS>

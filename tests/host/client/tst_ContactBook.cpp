@@ -14,7 +14,7 @@ private slots:
         for (const ContactBook::Entry &entry : m_book.entries()) {
             uids.insert(entry.uid);
             QVERIFY(!entry.nick.isEmpty());
-            QVERIFY(!entry.alternative.isEmpty());
+            QVERIFY(!entry.alternative().isEmpty());
         }
         QCOMPARE(m_book.entries().size(), 10);
         QCOMPARE(uids.size(), 10);
@@ -87,6 +87,21 @@ private slots:
         book.learn(QStringLiteral("4711"));
         QCOMPARE(book.record(QStringLiteral("30010001@example.org")), contact);
         QVERIFY(book.record(QStringLiteral("4711@example.org"))->m_strJid.isEmpty());
+    }
+
+    void strangerWhoHasBeenMetHasANameAndIsStillNoFriend()
+    {
+        ContactBook book(QStringLiteral("example.org"));
+        const ContactBook::Entry *stranger = book.entry(QStringLiteral("30010007"));
+        QCOMPARE(stranger->shownName(), QStringLiteral("30010007"));
+        QVERIFY(book.meet(QStringLiteral("30010007")));
+        QCOMPARE(stranger->shownName(), QStringLiteral("韩梅梅"));
+        QVERIFY(!book.isFriend(QStringLiteral("30010007@example.org")));
+        QVERIFY(!book.friendMap().contains(QStringLiteral("30010007@example.org")));
+        // Nobody is met for the first time twice, and contacts and unknown numbers never.
+        for (const char *uid : {"30010007", "30010001", "4711"}) {
+            QVERIFY2(!book.meet(QLatin1String(uid)), uid);
+        }
     }
 
     void presenceIsTheContacts()

@@ -170,6 +170,38 @@ private slots:
         QCOMPARE(m_pSession->history().entries().back().seconds, records.at(0).m_strCallTime.toLongLong());
     }
 
+    void strangerWhoCallsIsKnownFromThenOn()
+    {
+        const auto *row = m_pWindow->findChild<QWidget *>(QStringLiteral("30010007"));
+        QCOMPARE(WindowProbe::text(row, "lblName"), QStringLiteral("30010007"));
+        QVERIFY(pressContact("30010007"));
+        // She rejects, and calls a little later.
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->prompt().isVisible(), cPatienceMs);
+        QCOMPARE(WindowProbe::text(row, "lblName"), QStringLiteral("韩梅梅"));
+        QCOMPARE(WindowProbe::text(row, "lblDetail"), QStringLiteral("30010007 · Calls you back"));
+        QVERIFY(press([this] { return WindowProbe::button(&m_pWindow->prompt(), "btnReject"); }));
+    }
+
+    void emptyVideoCallIsExplained()
+    {
+        QVERIFY(press([this] {
+            return WindowProbe::button(m_pWindow->findChild<QWidget *>(QStringLiteral("30010001")), "btnVideo");
+        }));
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->videoCard().isVisible(), cPatienceMs);
+        QCOMPARE(WindowProbe::text(&m_pWindow->videoCard(), "lblName"), QStringLiteral("李雷"));
+        QVERIFY(WindowProbe::callWindow()->geometry().contains(m_pWindow->videoCard().geometry()));
+        QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::button(WindowProbe::callWindow(), "HangUp").widget != nullptr,
+                                 cPatienceMs);
+        QVERIFY(m_pWindow->videoCard().isVisible());
+        QVERIFY(pressInCallWindow("HangUp"));
+        QTRY_VERIFY_WITH_TIMEOUT(!m_pWindow->videoCard().isVisible(), cPatienceMs);
+        // A voice call shows a head of its own.
+        QVERIFY(pressContact("30010004"));
+        QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::callWindow()->isVisible(), cPatienceMs);
+        QVERIFY(!m_pWindow->videoCard().isVisible());
+        QVERIFY(pressInCallWindow("btnCancelCall"));
+    }
+
     void conferenceInACallIsRefusedBeforePicking()
     {
         QVERIFY(pressContact("30010004"));

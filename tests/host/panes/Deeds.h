@@ -94,6 +94,12 @@ public:
                                   QString::number(pixel.y()), QStringLiteral("click"), QStringLiteral("1")}) == 0;
     }
 
+    /// The same on a part of a window, at that place of the part.
+    static bool clickOn(const QWidget &part, const QPoint &place)
+    {
+        return clickIn(*part.window(), part.mapTo(part.window(), place));
+    }
+
 private:
     // So many looks at a part that stands still go from one click to the next; the first comes after a fifth of them.
     static constexpr int cLooks = 50;

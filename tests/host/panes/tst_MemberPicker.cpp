@@ -1,15 +1,19 @@
 #include "client/ContactBook.h"
+#include "client/HostSkins.h"
+#include "fakes/Patience.h"
+#include "host/panes/PressButton.h"
 #include "panes/MemberPicker.h"
 #include "screen/WindowProbe.h"
 
-#include "fakes/Patience.h"
-#include "host/panes/PressButton.h"
 
 #include <QCheckBox>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 namespace {
 
@@ -99,6 +103,161 @@ private slots:
         QVERIFY(fresh.wish().flag);
     }
 
+    void filterFindsAsTheContactSearchDoes_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QStringList>("found");
+        QTest::newRow("name") << QStringLiteral("maria") << QStringList{cBusy};
+        QTest::newRow("number") << QStringLiteral("0010005") << QStringList{QStringLiteral("30010005")};
+        QTest::newRow("initials") << QStringLiteral("wf") << QStringList{QStringLiteral("30010003")};
+        QTest::newRow("nobody") << QStringLiteral("zzz") << QStringList();
+        // Nothing is known of a stranger but the number.
+        QTest::newRow("stranger") << QStringLiteral("hmm") << QStringList();
+    }
+
+    void filterFindsAsTheContactSearchDoes()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QStringList, found);
+        MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
+        show(picker);
+        // The first thing that the keys reach.
+        QTest::keyClicks(picker.focusWidget(), typed);
+        QCOMPARE(shown(picker), found);
+        QCOMPARE(WindowProbe::isShown(&picker, "lblNoMatch"), found.isEmpty());
+        QCOMPARE(list(picker)->isVisible(), !found.isEmpty());
+    }
+
+    void picksAreKeptWhileTheFilterHidesThem()
+    {
+        MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
+        show(picker);
+        // Filter, go to the one that is found, pick it; and once more.
+        for (const char *name : {"maria", "ll"}) {
+            part<QLineEdit>(picker, "editFilter")->setFocus();
+            part<QLineEdit>(picker, "editFilter")->selectAll();
+            QTest::keyClicks(picker.focusWidget(), QLatin1String(name));
+            QTest::keyClick(picker.focusWidget(), Qt::Key_Down);
+            QCOMPARE(picker.focusWidget(), list(picker));
+            QTest::keyClick(picker.focusWidget(), Qt::Key_Space);
+        }
+        QCOMPARE(shown(picker), QStringList{cAnswers});
+        QCOMPARE(WindowProbe::text(&picker, "btnInvite"), QStringLiteral("Invite (2)"));
+        QCOMPARE(picker.wish().uids, (QStringList{cAnswers, cBusy}));
+    }
+
+    void escapeEmptiesTheFilterFirst()
+    {
+        MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
+        show(picker);
+        QTest::keyClicks(picker.focusWidget(), QStringLiteral("zzz"));
+        QTest::keyClick(picker.focusWidget(), Qt::Key_Escape);
+        QVERIFY(picker.isVisible());
+        QCOMPARE(shown(picker).size(), m_book.entries().size());
+        QTest::keyClick(picker.focusWidget(), Qt::Key_Escape);
+        QVERIFY(!picker.isVisible());
+    }
+
+    void enterInTheFilterLeadsIntoTheListAndDoesNotInvite()
+    {
+        MemberPicker picker(m_book, MemberPicker::NewConference, {cBusy}, nullptr);
+        show(picker);
+        QTest::keyClicks(picker.focusWidget(), QStringLiteral("wf"));
+        QTest::keyClick(picker.focusWidget(), Qt::Key_Return);
+        QVERIFY(picker.isVisible());
+        QCOMPARE(list(picker)->currentItem()->data(MemberPicker::cUidRole).toString(), QStringLiteral("30010003"));
+    }
+
+    void freeNumberIsPutOnTheListByEnter()
+    {
+        MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
+        show(picker);
+        auto *number = part<QLineEdit>(picker, "editNumber");
+        QVERIFY(!pressButton(&picker, "btnAdd"));
+        number->setFocus();
+        for (int i = 0; i < 2; ++i) {
+            QTest::keyClicks(number, QStringLiteral(" 4711 "));
+            QTest::keyClick(number, Qt::Key_Return);
+            QVERIFY(picker.isVisible());
+            QVERIFY(number->text().isEmpty());
+        }
+        QCOMPARE(picker.wish().uids, QStringList{QStringLiteral("4711")});
+        QCOMPARE(list(picker)->count(), m_book.entries().size() + 1);
+        // With nothing to add, Enter is the window's key as everywhere.
+        QTest::keyClick(number, Qt::Key_Return);
+        QCOMPARE(picker.result(), int(QDialog::Accepted));
+    }
+
+    void freeNumbersOfAContactPickTheContact()
+    {
+        MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
+        show(picker);
+        QTest::keyClicks(part<QLineEdit>(picker, "editFilter"), QStringLiteral("wf"));
+        QTest::keyClicks(part<QLineEdit>(picker, "editNumber"), cBusy + QStringLiteral(", 4711@example.org"));
+        QVERIFY(pressButton(&picker, "btnAdd"));
+        QCOMPARE(picker.wish().uids, (QStringList{cBusy, QStringLiteral("4711")}));
+        QCOMPARE(list(picker)->count(), m_book.entries().size() + 1);
+        // What was added is seen.
+        QCOMPARE(shown(picker).size(), list(picker)->count());
+        QVERIFY(list(picker)->viewport()->rect().intersects(list(picker)->visualItemRect(list(picker)->currentItem())));
+    }
+
+    void numberThatCannotBeInvitedStaysInTheFieldWithTheReason_data()
+    {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("own") << m_book.ownUid() << m_book.ownUid() + QStringLiteral(" is your own number.");
+        QTest::newRow("present") << cBusy << cBusy + QStringLiteral(" is in the conference already.");
+    }
+
+    void numberThatCannotBeInvitedStaysInTheFieldWithTheReason()
+    {
+        QFETCH(QString, number);
+        MemberPicker picker(m_book, MemberPicker::MoreMembers, {cBusy}, nullptr);
+        show(picker);
+        auto *edit = part<QLineEdit>(picker, "editNumber");
+        QTest::keyClicks(edit, number + QStringLiteral(" 4711"));
+        QVERIFY(pressButton(&picker, "btnAdd"));
+        QTEST(WindowProbe::text(&picker, "lblNumberNote"), "reason");
+        QCOMPARE(edit->text(), number);
+        QCOMPARE(picker.wish().uids, QStringList{QStringLiteral("4711")});
+        edit->clear();
+        QTest::keyClicks(edit, QStringLiteral("4712"));
+        QVERIFY(pressButton(&picker, "btnAdd"));
+        QVERIFY(!WindowProbe::isShown(&picker, "lblNumberNote"));
+    }
+
+    void buttonsHaveTheClientsColours()
+    {
+        MemberPicker picker(m_book, MemberPicker::NewConference, {cBusy}, nullptr);
+        show(picker);
+        const auto *invite = part<QPushButton>(picker, "btnInvite");
+        const QImage image = picker.grab().toImage();
+        const QPoint inside = (invite->mapTo(&picker, QPoint(6, 6)) * image.devicePixelRatio());
+        QCOMPARE(image.pixelColor(inside), HostSkins::darkColour());
+    }
+
+    void textAndFlagSayWhatTheyAreFor_data()
+    {
+        QTest::addColumn<QByteArray>("field");
+        QTest::newRow("text") << QByteArray("editText");
+        QTest::newRow("flag") << QByteArray("boxFlag");
+    }
+
+    void textAndFlagSayWhatTheyAreFor()
+    {
+        QFETCH(QByteArray, field);
+        MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
+        show(picker);
+        QVERIFY(WindowProbe::text(&picker, "lblPassedOn").startsWith(QStringLiteral("For the call process")));
+        auto *widget = part<QWidget>(picker, field);
+        const QPoint place = widget->rect().center();
+        QHelpEvent hover(QEvent::ToolTip, place, widget->mapToGlobal(place));
+        QCoreApplication::sendEvent(widget, &hover);
+        QVERIFY2(QToolTip::text().contains(QStringLiteral("the call process gets with the request for the conference")),
+                 qPrintable(QToolTip::text()));
+    }
+
     void cancelledPickerGivesNothing()
     {
         pressWhenOpen("btnCancel");
@@ -117,10 +276,27 @@ private slots:
 
 private:
     static QListWidget *list(const MemberPicker &picker) { return picker.findChild<QListWidget *>(); }
+    template <typename Part>
+    static Part *part(const MemberPicker &picker, const char *strName)
+    {
+        return picker.findChild<Part *>(QLatin1String(strName));
+    }
+    /// The ids of the rows that a person can see or scroll to.
+    static QStringList shown(const MemberPicker &picker)
+    {
+        QStringList uids;
+        for (int row = 0; row < list(picker)->count(); ++row) {
+            if (!list(picker)->item(row)->isHidden()) {
+                uids << list(picker)->item(row)->data(MemberPicker::cUidRole).toString();
+            }
+        }
+        return uids;
+    }
     static void show(MemberPicker &picker)
     {
         picker.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&picker, cPatienceMs));
+        picker.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&picker, cPatienceMs));
     }
     /// Presses the button of the picker that comes up next, as soon as it is there.
     static void pressWhenOpen(const char *button)

@@ -3,6 +3,7 @@
 #include "client/HostSession.h"
 #include "client/HostSkins.h"
 #include "panes/MainWindow.h"
+#include "panes/WindowPlace.h"
 #include "screen/WindowProbe.h"
 
 #include "common/AppInfo.h"
@@ -19,6 +20,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -219,18 +223,20 @@ private slots:
         QTest::addColumn<QString>("silent");
         QTest::addColumn<QString>("online");
         QTest::addColumn<QString>("outcome");
+        QTest::addColumn<QString>("habit");
         QTest::newRow("zh_CN") << "zh_CN" << QStringLiteral("联系人") << QStringLiteral("在线")
                                << QStringLiteral("来电不响铃(&R)") << QStringLiteral("离线(O)")
-                               << QStringLiteral("忙线");
+                               << QStringLiteral("忙线") << QStringLiteral("10 秒后挂断");
         QTest::newRow("zh_TW") << "zh_TW" << QStringLiteral("聯絡人") << QStringLiteral("線上")
                                << QStringLiteral("來電不響鈴(&R)") << QStringLiteral("離線(O)")
-                               << QStringLiteral("忙線");
+                               << QStringLiteral("忙線") << QStringLiteral("10 秒後掛斷");
         QTest::newRow("en") << "en"
                             << "Contacts"
                             << "online"
                             << "Keep the &ring of incoming calls silent"
                             << "Offline"
-                            << "busy";
+                            << "busy"
+                            << "Hangs up after 10 s";
     }
 
     void languageChangesTheOpenWindows()
@@ -238,17 +244,57 @@ private slots:
         QFETCH(QString, language);
         HostLanguage words(QStringLiteral(VOIP_TRANSLATIONS));
         connect(&m_pSession->settings(), &HostSettings::languageChanged, &words, &HostLanguage::use);
+        QFETCH(QString, contacts);
+        // From another language, so that there is something to change whichever was spoken before.
+        const char *other = language == QLatin1String("zh_TW") ? "zh_CN" : "zh_TW";
+        QVERIFY(pressButton(&m_pWindow->settingsPage(), qPrintable(QStringLiteral("language_") + other)));
+        QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::text(m_pWindow.get(), "lblContacts") != contacts, cPatienceMs);
         QVERIFY(pressButton(&m_pWindow->settingsPage(), qPrintable(QStringLiteral("language_") + language)));
         QTRY_COMPARE_WITH_TIMEOUT(stored(HostSettings::commonFile(), "/languageSetting/language"), language,
                                   cPatienceMs);
-        QFETCH(QString, contacts);
         QTRY_COMPARE_WITH_TIMEOUT(WindowProbe::text(m_pWindow.get(), "lblContacts"), contacts, cPatienceMs);
         QTEST(WindowProbe::text(m_pWindow->findChild<QWidget *>(QStringLiteral("30010001")), "lblPresence"),
               "presence");
         QTEST(part<QCheckBox>("boxSilent")->text(), "silent");
         QTEST(WindowProbe::text(m_pWindow.get(), "btnOnline"), "online");
         QTEST(outcomeWord(25), "outcome");
+        QFETCH(QString, habit);
+        const QString uid = QStringLiteral("30010006");
+        QCOMPARE(WindowProbe::text(m_pWindow->findChild<QWidget *>(uid), "lblDetail"), uid + " · " + habit);
+        // The call window reads it from the card: of the record, or of the shared context.
+        const QString jid = m_book.jidOf(uid);
+        QCOMPARE(m_book.card(uid)->m_strAlternativeName, habit);
+        QCOMPARE(m_book.record(jid)->m_vcardInfo.m_strAlternativeName, habit);
+        QCOMPARE(SharedContext::getFriendDataMap().value(jid).m_vcardInfo.m_strAlternativeName, habit);
         QVERIFY(part<QRadioButton>(qPrintable(QStringLiteral("language_") + language))->isChecked());
+    }
+
+    void yellowBarFollowsTheLanguage()
+    {
+        m_pWindow.reset();
+        m_pSession.reset();
+        const SystemSetData *settings = SystemSetData::instance();
+        for (const QString &name : {settings->m_strDatabasePath, settings->m_strUserFolder + "/callHistory.db"}) {
+            QFile file(name);
+            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write("no database") > 0);
+        }
+        start();
+        HostLanguage words(QStringLiteral(VOIP_TRANSLATIONS));
+        connect(&m_pSession->settings(), &HostSettings::languageChanged, &words, &HostLanguage::use);
+        const QString english = WindowProbe::text(m_pWindow.get(), "lblNotice");
+        QVERIFY2(english.startsWith(QStringLiteral("The local store was damaged. The file is kept as ")),
+                 qPrintable(english));
+        QVERIFY2(english.contains(QStringLiteral("\nThe list of calls was damaged.")), qPrintable(english));
+        QVERIFY(pressButton(&m_pWindow->settingsPage(), "language_zh_CN"));
+        QTRY_VERIFY_WITH_TIMEOUT(
+            WindowProbe::text(m_pWindow.get(), "lblNotice").startsWith(QStringLiteral("本地数据库已损坏")),
+            cPatienceMs);
+        const QString chinese = WindowProbe::text(m_pWindow.get(), "lblNotice");
+        QCOMPARE(chinese, (m_pSession->store().reports() + m_pSession->history().reports()).join(QLatin1Char('\n')));
+        QCOMPARE(chinese.count(QLatin1Char('\n')), 1);
+        QVERIFY(!chinese.contains(QStringLiteral("damaged.")));
+        QVERIFY(pressButton(&m_pWindow->settingsPage(), "language_en"));
+        QTRY_COMPARE_WITH_TIMEOUT(WindowProbe::text(m_pWindow.get(), "lblNotice"), english, cPatienceMs);
     }
 
     void languageOfAnotherClientShowsAsTheOneInForce()
@@ -326,6 +372,17 @@ private slots:
         stops.removeDuplicates();
         QCOMPARE(stops, (QStringList{"language", "skin", "editDataFolder", "btnDataFolder", "editReceiveFolder",
                                      "btnReceiveFolder", "btnClose"}));
+    }
+
+    void pageIsAsHighAsItsContentAndNoHigherThanTheScreen()
+    {
+        const SettingsPage &page = m_pWindow->settingsPage();
+        const auto *area = page.findChild<QScrollArea *>(QStringLiteral("generalArea"));
+        QVERIFY(page.frameGeometry().height() <= page.screen()->availableGeometry().height());
+        QVERIFY(page.frameGeometry().width() <= page.screen()->availableGeometry().width());
+        // It is scrolled only where the screen has no more room.
+        QVERIFY(area->verticalScrollBar()->maximum() == 0 || page.height() == WindowPlace::insides().first().height());
+        QVERIFY(area->widget()->width() <= area->viewport()->width());
     }
 
     void escapeClosesThePage()

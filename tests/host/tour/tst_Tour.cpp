@@ -48,8 +48,10 @@ private slots:
     void pictureOfEveryWindowIsTaken()
     {
         const QStringList pictures = QDir(QStringLiteral("tour")).entryList({QStringLiteral("*.png")});
-        QCOMPARE(pictures, (QStringList{QStringLiteral("call-incoming.png"),
+        QCOMPARE(pictures, (QStringList{QStringLiteral("answered-over-dialog.png"),
+                                        QStringLiteral("call-incoming.png"),
                                         QStringLiteral("call-outgoing.png"),
+                                        QStringLiteral("call-service-again.png"),
                                         QStringLiteral("call-service-lost.png"),
                                         QStringLiteral("call-video.png"),
                                         QStringLiteral("call-voice.png"),
@@ -72,6 +74,7 @@ private slots:
                                         QStringLiteral("history.png"),
                                         QStringLiteral("incoming-prompt.png"),
                                         QStringLiteral("message-no-process.png"),
+                                        QStringLiteral("prompt-over-dialog.png"),
                                         QStringLiteral("second-call.png"),
                                         QStringLiteral("second-user.png"),
                                         QStringLiteral("settings.png")}));

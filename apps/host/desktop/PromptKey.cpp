@@ -1,0 +1,45 @@
+#include "desktop/PromptKey.h"
+
+#include "client/HostSettings.h"
+#include "client/SettingsFile.h"
+
+#include "common/settings/ConfigFile.h"
+
+namespace {
+
+const QString cWantedKey = QStringLiteral("/keySetting/promptKeyOn");
+const QString cSequenceKey = QStringLiteral("/keySetting/promptKey");
+
+} // namespace
+
+PromptKey::PromptKey(QObject *parent) : QObject(parent)
+{
+    connect(&m_key, &HotKey::pressed, this, &PromptKey::pressed);
+}
+
+void PromptKey::start()
+{
+    m_key.take(isWanted() ? key() : QKeySequence());
+    emit changed();
+}
+
+bool PromptKey::isWanted()
+{
+    return ConfigFile::getConfigValue(HostSettings::userFile(), cWantedKey).toString() == QLatin1String("1");
+}
+
+QKeySequence PromptKey::key()
+{
+    const QKeySequence stored(ConfigFile::getConfigValue(HostSettings::userFile(), cSequenceKey).toString(),
+                              QKeySequence::PortableText);
+    return HotKey::isFit(stored) ? QKeySequence(stored[0]) : QKeySequence(Qt::CTRL + Qt::ALT + Qt::Key_I);
+}
+
+bool PromptKey::set(bool bWanted, const QKeySequence &key)
+{
+    const bool bKept = SettingsFile::write(HostSettings::userFile(),
+                                           {{cSequenceKey, key.toString(QKeySequence::PortableText)},
+                                            {cWantedKey, bWanted ? QStringLiteral("1") : QStringLiteral("0")}});
+    start();
+    return bKept;
+}
