@@ -5,12 +5,13 @@
 #include <QGuiApplication>
 #include <QSocketNotifier>
 
+#include <xcb/xcb.h>
+
 #include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <memory>
 #include <utility>
-#include <xcb/xcb.h>
 
 namespace {
 

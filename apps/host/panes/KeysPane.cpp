@@ -1,4 +1,5 @@
 #include "panes/KeysPane.h"
+
 #include "ui_KeysPane.h"
 
 #include "desktop/PromptKey.h"

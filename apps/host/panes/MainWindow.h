@@ -1,6 +1,5 @@
 #pragma once
 
-#include "desktop/PromptKey.h"
 #include "history/CallReadiness.h"
 #include "panes/CallStatusLine.h"
 #include "panes/IncomingPrompt.h"
@@ -8,6 +7,8 @@
 #include "panes/SettingsPage.h"
 #include "panes/SignatureCard.h"
 #include "panes/VideoCard.h"
+
+#include "desktop/PromptKey.h"
 
 #include <QMainWindow>
 

@@ -1,7 +1,9 @@
 #include "panes/SoundPane.h"
+
 #include "ui_SoundPane.h"
 
 #include "client/CallService.h"
+
 #include "sound/SoundChoice.h"
 
 #include <utility>

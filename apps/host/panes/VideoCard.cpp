@@ -1,4 +1,5 @@
 #include "panes/VideoCard.h"
+
 #include "ui_VideoCard.h"
 
 #include "client/ContactBook.h"

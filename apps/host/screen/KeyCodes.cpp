@@ -2,11 +2,12 @@
 
 #include <QtGlobal>
 
+#include <xcb/xcb.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
-#include <xcb/xcb.h>
 
 namespace {
 

@@ -2,6 +2,7 @@
 
 #include <pulse/introspect.h>
 #include <pulse/subscribe.h>
+
 #include <utility>
 
 namespace {

@@ -2,11 +2,12 @@
 
 #include <QObject>
 
-#include <functional>
-#include <memory>
 #include <pulse/context.h>
 #include <pulse/stream.h>
 #include <pulse/thread-mainloop.h>
+
+#include <functional>
+#include <memory>
 
 /// A connection to the sound server with a thread of its own, on which everything that comes from there is heard: a
 /// server that takes clients and answers none holds nobody up. No sound server is started for it. To be made and

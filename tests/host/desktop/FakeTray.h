@@ -5,11 +5,12 @@
 
 #include <QProcess>
 
+#include <xcb/xcb.h>
+
 #include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <vector>
-#include <xcb/xcb.h>
 
 class FakeTray
 {

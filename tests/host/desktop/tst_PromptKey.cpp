@@ -3,13 +3,13 @@
 
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
-#include "desktop/HotKey.h"
-#include "host/panes/Deeds.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
 
 #include "common/settings/ConfigFile.h"
+#include "desktop/HotKey.h"
 #include "fakes/Patience.h"
+#include "host/panes/Deeds.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"

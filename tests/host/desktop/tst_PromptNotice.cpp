@@ -3,12 +3,12 @@
 
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
-#include "host/desktop/FakeDesktop.h"
-#include "host/desktop/FakeTray.h"
-#include "host/panes/Deeds.h"
 #include "panes/MainWindow.h"
 
 #include "fakes/Patience.h"
+#include "host/desktop/FakeDesktop.h"
+#include "host/desktop/FakeTray.h"
+#include "host/panes/Deeds.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"

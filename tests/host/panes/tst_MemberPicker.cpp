@@ -1,10 +1,10 @@
 #include "client/ContactBook.h"
 #include "client/HostSkins.h"
-#include "fakes/Patience.h"
-#include "host/panes/PressButton.h"
 #include "panes/MemberPicker.h"
 #include "screen/WindowProbe.h"
 
+#include "fakes/Patience.h"
+#include "host/panes/PressButton.h"
 
 #include <QCheckBox>
 #include <QHelpEvent>

@@ -1,16 +1,16 @@
 #include "client/ContactBook.h"
 #include "client/HostLanguage.h"
 #include "client/HostSession.h"
-#include "fakes/Patience.h"
-#include "host/panes/PressButton.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
-#include "store/Hardship.h"
 
 #include "common/settings/ConfigFile.h"
+#include "fakes/Patience.h"
+#include "host/panes/PressButton.h"
 #include "model/SharedContext.h"
 #include "model/SkinContext.h"
 #include "model/SystemSetData.h"
+#include "store/Hardship.h"
 
 #include <QCheckBox>
 #include <QDir>

@@ -1,9 +1,9 @@
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
-#include "fakes/Patience.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
 
+#include "fakes/Patience.h"
 #include "model/SystemSetData.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"

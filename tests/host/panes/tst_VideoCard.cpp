@@ -1,10 +1,10 @@
 #include "client/ContactBook.h"
 #include "client/HostLanguage.h"
-#include "fakes/Patience.h"
 #include "panes/VideoCard.h"
 #include "screen/ScreenPointer.h"
 #include "screen/WindowProbe.h"
 
+#include "fakes/Patience.h"
 #include "ui/VoipWidget.h"
 
 #include <QApplication>

@@ -5,15 +5,15 @@
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
 #include "happenings/TraceFolder.h"
-#include "host/panes/Deeds.h"
-#include "host/panes/PressButton.h"
-#include "host/sound/SoundMachine.h"
 #include "panes/MainWindow.h"
 #include "panes/SoundPane.h"
 #include "screen/WindowProbe.h"
-#include "sound/SoundMeter.h"
 
 #include "common/settings/ConfigFile.h"
+#include "host/panes/Deeds.h"
+#include "host/panes/PressButton.h"
+#include "host/sound/SoundMachine.h"
+#include "sound/SoundMeter.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
