@@ -12,8 +12,9 @@ namespace {
 
 constexpr int cLookMs = 10;
 constexpr int cConnectMs = 1000;
-/// A process that dies closes its socket first, so it takes a moment to tell a death from a drop.
-constexpr int cDeathShowsMs = 300;
+/// A process that ends closes its socket and its server first, so it takes a while to tell an end from what only looks
+/// so.
+constexpr int cEndShowsMs = 2000;
 constexpr int cLooksToBelieve = 3;
 
 } // namespace
@@ -23,10 +24,10 @@ Relay::Relay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject
 {
     m_clock.start();
     m_lookTimer.setInterval(cLookMs);
-    m_dropTimer.setInterval(cDeathShowsMs);
-    m_dropTimer.setSingleShot(true);
+    m_doubtTimer.setInterval(cEndShowsMs);
+    m_doubtTimer.setSingleShot(true);
     connect(&m_lookTimer, &QTimer::timeout, this, &Relay::look);
-    connect(&m_dropTimer, &QTimer::timeout, this, [this] { settleDrop("drop"); });
+    connect(&m_doubtTimer, &QTimer::timeout, this, &Relay::settleDoubts);
     connect(&m_channel, &Channel::clientArrived, this, &Relay::clientArrives);
     connect(&m_channel, &Channel::clientGone, this, &Relay::clientGoes);
     connect(&m_channel, &Channel::bytesReceived, this, &Relay::passOn);
@@ -68,6 +69,9 @@ void Relay::stop()
 void Relay::look()
 {
     const bool listening = m_subject.isListening();
+    if (!listening && m_looksUnanswered == 0) {
+        m_silentTime = m_clock.elapsed();
+    }
     m_looksUnanswered = listening ? 0 : m_looksUnanswered + 1;
     if (listening && !m_open) {
         openServer();
@@ -90,7 +94,7 @@ void Relay::openServer()
     }
     m_open = true;
     if (m_wasOpen) {
-        settleDrop("drop");
+        settleDoubts();
         m_writer.happened(m_clock.elapsed(), "restart-listen");
     }
     m_wasOpen = true;
@@ -98,17 +102,14 @@ void Relay::openServer()
 
 void Relay::closeServer()
 {
-    if (m_dropTimer.isActive()) {
-        return; // it may be dying
-    }
     m_open = false;
     m_channel.stopListening();
-    m_writer.happened(m_clock.elapsed(), "stop-listen");
+    doubt(m_silentTime, "stop-listen");
 }
 
 void Relay::clientArrives()
 {
-    settleDrop("drop");
+    settleDoubts();
     releaseFarEnd();
     m_closing = false;
     m_farEnd = new QLocalSocket(this);
@@ -157,10 +158,7 @@ void Relay::subjectCloses()
 {
     takeAnswer();
     m_closing = true;
-    m_dropTime = m_clock.elapsed();
-    if (!m_quit) {
-        m_dropTimer.start();
-    }
+    doubt(m_clock.elapsed(), "drop");
     dropClient();
     settleEnd();
 }
@@ -173,18 +171,30 @@ void Relay::dropClient()
     }
 }
 
-void Relay::settleDrop(const char *statement)
+/// What may be the beginning of the end is told when it has shown to be none.
+void Relay::doubt(qint64 time, const char *statement)
 {
-    if (m_dropTime > 0 && !m_quit) {
-        m_dropTimer.stop();
-        m_writer.happened(std::exchange(m_dropTime, 0), statement);
+    if (m_quit) {
+        return;
+    }
+    if (m_doubts.empty()) {
+        m_doubtTimer.start();
+    }
+    m_doubts.emplace_back(time, statement);
+}
+
+void Relay::settleDoubts()
+{
+    m_doubtTimer.stop();
+    for (const auto &[time, statement] : std::exchange(m_doubts, {})) {
+        m_writer.happened(time, statement);
     }
 }
 
 void Relay::subjectEnds()
 {
     m_lookTimer.stop();
-    m_dropTimer.stop();
+    m_doubtTimer.stop();
     m_ended = true;
     settleEnd();
 }
@@ -217,7 +227,7 @@ void Relay::tellEnd()
     const int exitCode = m_subject.process().exitCode();
     const bool failed = killed || exitCode != 0;
     if (!m_quit) {
-        m_writer.happened(m_dropTime > 0 ? m_dropTime : m_clock.elapsed(), failed ? "die" : "end");
+        m_writer.happened(m_doubts.empty() ? m_clock.elapsed() : m_doubts.front().first, failed ? "die" : "end");
     }
     m_writer.end(failed ? QStringLiteral("The call process ended with %1.").arg(m_subject.ending()) : QString());
     emit finished(exitCode, killed || (failed && !m_quit));

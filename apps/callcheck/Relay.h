@@ -10,6 +10,9 @@
 #include <QObject>
 #include <QTimer>
 
+#include <utility>
+#include <vector>
+
 class Channel;
 class QLocalSocket;
 class Subject;
@@ -45,7 +48,8 @@ private:
     void takeAnswer();
     void subjectCloses();
     void dropClient();
-    void settleDrop(const char *statement);
+    void doubt(qint64 time, const char *statement);
+    void settleDoubts();
     void subjectEnds();
     void settleEnd();
     void tellEnd();
@@ -56,10 +60,11 @@ private:
     ScenarioWriter &m_writer;
     QLocalSocket *m_farEnd = nullptr;
     QTimer m_lookTimer;
-    QTimer m_dropTimer;
+    QTimer m_doubtTimer;
     QElapsedTimer m_clock;
-    qint64 m_heardTime = 0; // when the plug-in's latest bytes came
-    qint64 m_dropTime = 0;  // of a closed connection whose reason is not known yet
+    qint64 m_heardTime = 0;                                // when the plug-in's latest bytes came
+    qint64 m_silentTime = 0;                               // when nobody was found to listen for the first time
+    std::vector<std::pair<qint64, const char *>> m_doubts; // what happened and may have been the end
     int m_looksUnanswered = 0;
     bool m_wasOpen = false; // the server has been open before
     bool m_open = false;
