@@ -33,8 +33,8 @@ struct Trace
 /// What the process was told, by its option or, where that is missing, its environment. Nowhere for one that has gone.
 Trace traceOf(qint64 pid);
 
-/// What the variable was in the environment that the process was started with; null where it had none, and for a process
-/// that has gone or is another user's.
+/// What the variable was in the environment that the process was started with; null where it had none, and for a
+/// process that has gone or is another user's.
 QByteArray variableOf(qint64 pid, const QByteArray &name);
 
 /// The program that the process runs; empty for one that has gone or is another user's.
