@@ -29,6 +29,8 @@ VideoCard::VideoCard(const ContactBook &book, QWidget *parent)
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_StyledBackground);
+    winId();
+    windowHandle()->installEventFilter(this);
 }
 
 VideoCard::~VideoCard() = default;
@@ -83,7 +85,6 @@ void VideoCard::follow()
         return;
     }
     // Above the call window, and below all that is above that.
-    winId();
     windowHandle()->setTransientParent(window->windowHandle());
     QRect place = rect();
     place.moveCenter(page->mapToGlobal(page->rect().center()));
@@ -108,8 +109,22 @@ void VideoCard::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
 }
 
+/// Says once more that the card takes no mouse: a window manager that has put a frame around it hears of that only when
+/// it changes, and until then the frame takes the mouse.
+void VideoCard::leaveMouse()
+{
+    windowHandle()->setFlag(Qt::WindowTransparentForInput, false);
+    windowHandle()->setFlag(Qt::WindowTransparentForInput, true);
+}
+
 bool VideoCard::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == windowHandle()) {
+        if (event->type() == QEvent::Expose && windowHandle()->isExposed()) {
+            leaveMouse();
+        }
+        return QWidget::eventFilter(watched, event);
+    }
     switch (event->type()) {
     case QEvent::Move:
     case QEvent::Hide:

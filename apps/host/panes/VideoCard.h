@@ -31,13 +31,14 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
-    /// Where the call window goes, and what its page gets.
+    /// Where the call window goes, and what its page gets; when the card itself has come up.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void showPerson();
     void follow();
     void followLater();
+    void leaveMouse();
 
     std::unique_ptr<Ui::VideoCard> ui;
     const ContactBook &m_book;
