@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QHash>
 #include <QProcess>
 #include <QTest>
 #include <QTimer>
@@ -98,6 +99,23 @@ public:
     static bool clickOn(const QWidget &part, const QPoint &place)
     {
         return clickIn(*part.window(), part.mapTo(part.window(), place));
+    }
+
+    /// Where the server has the window, without its frame; empty while it has none such.
+    static QRect placeOf(const QWidget &window)
+    {
+        QProcess process;
+        process.start(QStringLiteral("xdotool"), {QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"),
+                                                  QString::number(window.winId())});
+        process.waitForFinished(cPatienceMs);
+        QHash<QByteArray, int> values;
+        for (const QByteArray &line : process.readAllStandardOutput().split('\n')) {
+            const QList<QByteArray> words = line.split('=');
+            values.insert(words.first(), words.last().toInt());
+        }
+        const qreal ratio = window.devicePixelRatioF();
+        return {qRound(values.value("X") / ratio), qRound(values.value("Y") / ratio),
+                qRound(values.value("WIDTH") / ratio), qRound(values.value("HEIGHT") / ratio)};
     }
 
 private:
