@@ -312,8 +312,8 @@ private slots:
         m_machine.freeze();
         QTRY_VERIFY_WITH_TIMEOUT(said("lblServer").startsWith(QStringLiteral("The sound server does not answer.")),
                                  cPatienceMs);
-        QCOMPARE(level(), 0);
-        QCOMPARE(said("lblMicrophoneNote"), QString());
+        QTRY_COMPARE_WITH_TIMEOUT(level(), 0, cPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(said("lblMicrophoneNote"), QString(), cPatienceMs);
         m_machine.goOn();
         QTRY_VERIFY_WITH_TIMEOUT(!WindowProbe::isShown(&page(), "lblServer"), cPatienceMs);
         QTRY_COMPARE_WITH_TIMEOUT(level(), 90, cPatienceMs);
