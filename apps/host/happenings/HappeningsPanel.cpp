@@ -156,7 +156,7 @@ void HappeningsPanel::showCount()
     const int all = m_model.rowCount();
     const int shown = m_filter.rowCount();
     QStringList parts;
-    parts << (shown == all ? tr("%1 lines").arg(all) : tr("%1 of %2 lines").arg(shown).arg(all));
+    parts << (shown == all ? tr("%n lines", nullptr, all) : tr("%1 of %2 lines").arg(shown).arg(all));
     if (m_feed.isPaused()) {
         parts << tr("paused, %1 waiting").arg(m_feed.waiting());
     }

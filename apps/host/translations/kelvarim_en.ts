@@ -293,9 +293,12 @@
         <source>Copy all lines shown</source>
         <translation>Copy all lines shown</translation>
     </message>
-    <message>
-        <source>%1 lines</source>
-        <translation>%1 lines</translation>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n line</numerusform>
+            <numerusform>%n lines</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 lines</source>
@@ -1426,8 +1429,8 @@
         <translation>What client, plug-in and call process tell each other (Ctrl+Shift+H)</translation>
     </message>
     <message>
-        <source>Ring, language, colour and folders</source>
-        <translation>Ring, language, colour and folders</translation>
+        <source>Ring, sound, keys, language, colour and folders</source>
+        <translation>Ring, sound, keys, language, colour and folders</translation>
     </message>
     <message>
         <source>&amp;Settings</source>
@@ -1698,8 +1701,8 @@
         <translation>Takes effect at the next start; what is in the old folder stays there.</translation>
     </message>
     <message>
-        <source>Holds the settings, the conference records and the log of each user.</source>
-        <translation>Holds the settings, the conference records and the log of each user.</translation>
+        <source>Holds the settings, the calls, the conference records and the log of each user.</source>
+        <translation>Holds the settings, the calls, the conference records and the log of each user.</translation>
     </message>
     <message>
         <source>This folder cannot be used: %1</source>

@@ -293,9 +293,11 @@
         <source>Copy all lines shown</source>
         <translation>复制显示的全部记录</translation>
     </message>
-    <message>
-        <source>%1 lines</source>
-        <translation>%1 条</translation>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n 条</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 lines</source>
@@ -1423,8 +1425,8 @@
         <translation>客户端、插件和通话进程之间的往来 (Ctrl+Shift+H)</translation>
     </message>
     <message>
-        <source>Ring, language, colour and folders</source>
-        <translation>铃声、语言、颜色和文件夹</translation>
+        <source>Ring, sound, keys, language, colour and folders</source>
+        <translation>铃声、声音、快捷键、语言、颜色和文件夹</translation>
     </message>
     <message>
         <source>&amp;Settings</source>
@@ -1694,8 +1696,8 @@
         <translation>下次启动时生效；旧文件夹中的内容保留在原处。</translation>
     </message>
     <message>
-        <source>Holds the settings, the conference records and the log of each user.</source>
-        <translation>存放每个用户的设置、会议记录和日志。</translation>
+        <source>Holds the settings, the calls, the conference records and the log of each user.</source>
+        <translation>存放每个用户的设置、通话、会议记录和日志。</translation>
     </message>
     <message>
         <source>This folder cannot be used: %1</source>
@@ -1919,7 +1921,7 @@
     </message>
     <message>
         <source>Level of the microphone</source>
-        <translation>麦克风音量</translation>
+        <translation>麦克风输入电平</translation>
     </message>
     <message>
         <source>S&amp;peaker</source>

@@ -293,9 +293,11 @@
         <source>Copy all lines shown</source>
         <translation>複製顯示的全部記錄</translation>
     </message>
-    <message>
-        <source>%1 lines</source>
-        <translation>%1 條</translation>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n 條</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 lines</source>
@@ -1423,8 +1425,8 @@
         <translation>用戶端、外掛和通話程序之間的往來 (Ctrl+Shift+H)</translation>
     </message>
     <message>
-        <source>Ring, language, colour and folders</source>
-        <translation>鈴聲、語言、色彩和資料夾</translation>
+        <source>Ring, sound, keys, language, colour and folders</source>
+        <translation>鈴聲、聲音、快速鍵、語言、色彩和資料夾</translation>
     </message>
     <message>
         <source>&amp;Settings</source>
@@ -1694,8 +1696,8 @@
         <translation>下次啟動時生效；舊資料夾中的內容保留在原處。</translation>
     </message>
     <message>
-        <source>Holds the settings, the conference records and the log of each user.</source>
-        <translation>存放每位使用者的設定、會議記錄和日誌。</translation>
+        <source>Holds the settings, the calls, the conference records and the log of each user.</source>
+        <translation>存放每位使用者的設定、通話、會議記錄和日誌。</translation>
     </message>
     <message>
         <source>This folder cannot be used: %1</source>
@@ -1823,7 +1825,7 @@
     </message>
     <message>
         <source>Lines of the wire cannot be shown at present. The call process is %1 (process %2), and %3. End that process: the client then starts one that it can follow. Or start it yourself with %4 naming a file.</source>
-        <translation>無法顯示線路內容。通話行程是 %1（行程 %2），%3。請結束該行程，用戶端會重新啟動一個可以追蹤的；或者自行啟動，並用 %4 指定一個檔案。</translation>
+        <translation>無法顯示線路內容。通話程序是 %1（程序 %2），%3。請結束該程序，用戶端會重新啟動一個可以追蹤的；或者自行啟動，並用 %4 指定一個檔案。</translation>
     </message>
     <message>
         <source>another user's</source>
@@ -1919,15 +1921,15 @@
     </message>
     <message>
         <source>Level of the microphone</source>
-        <translation>麥克風音量</translation>
+        <translation>麥克風輸入電平</translation>
     </message>
     <message>
         <source>S&amp;peaker</source>
-        <translation>揚聲器(&amp;P)</translation>
+        <translation>喇叭(&amp;P)</translation>
     </message>
     <message>
         <source>Speaker of calls</source>
-        <translation>通話用揚聲器</translation>
+        <translation>通話用喇叭</translation>
     </message>
     <message>
         <source>Play a &amp;tone</source>
@@ -1963,15 +1965,15 @@
     </message>
     <message>
         <source>The tone was played. If you have not heard it, choose another speaker, or turn this one up.</source>
-        <translation>測試音已播放。如果沒有聽到，請選擇其他揚聲器或調高音量。</translation>
+        <translation>測試音已播放。如果沒有聽到，請選擇其他喇叭或調高音量。</translation>
     </message>
     <message>
         <source>The chosen speaker is not there. Until it is, calls take the desktop's.</source>
-        <translation>所選的揚聲器未連接。連接之前，通話使用系統的揚聲器。</translation>
+        <translation>所選的喇叭未連接。連接之前，通話使用系統的喇叭。</translation>
     </message>
     <message>
         <source>The tone goes to the speaker above.</source>
-        <translation>測試音從上面的揚聲器播放。</translation>
+        <translation>測試音從上面的喇叭播放。</translation>
     </message>
     <message>
         <source>Takes effect when the call service starts the next time, at the latest when the client does.</source>
