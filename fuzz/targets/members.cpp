@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QSqlQuery>
+#include <QVariant>
 
 namespace {
 
