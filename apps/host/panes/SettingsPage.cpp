@@ -184,9 +184,10 @@ void SettingsPage::showSettings()
     ui->skins->findChild<QRadioButton *>(QStringLiteral("skin_") + HostSettings::skin())->setChecked(true);
     ui->editDataFolder->setText(QDir::toNativeSeparators(HostSettings::dataFolder()));
     ui->editReceiveFolder->setText(QDir::toNativeSeparators(HostSettings::receiveFolder()));
-    ui->lblDataNote->setText(HostSettings::isDataFolderPending()
-                                 ? tr("Takes effect at the next start; what is in the old folder stays there.")
-                                 : tr("Holds the settings, the calls, the conference records and the log of each user."));
+    ui->lblDataNote->setText(
+        HostSettings::isDataFolderPending()
+            ? tr("Takes effect at the next start; what is in the old folder stays there.")
+            : tr("Holds the settings, the calls, the conference records and the log of each user."));
     ui->lblFiles->setText(QDir::toNativeSeparators(HostSettings::userFile()) + QLatin1Char('\n') +
                           QDir::toNativeSeparators(HostSettings::commonFile()));
 }
