@@ -96,6 +96,12 @@ void TourHand::finish()
     }
 }
 
+bool TourHand::isInPlace() const
+{
+    const WindowProbe::Spot spot = m_gestures.head().where();
+    return spot.widget != nullptr && spot.widget->mapToGlobal(spot.place) == m_place;
+}
+
 void TourHand::settle()
 {
     // The click may have led to the next gesture already.
@@ -112,8 +118,10 @@ bool TourHand::eventFilter(QObject *watched, QEvent *event)
     }
     if (event->type() == QEvent::MouseMove && m_phase == Reaching) {
         m_phase = static_cast<QMouseEvent *>(event)->globalPos() == m_place ? Arrived : Reaching;
-    } else if (event->type() == QEvent::MouseButtonPress && m_phase == Pressed) {
-        m_bPressSeen = true;
+    } else if (event->type() == QEvent::MouseButtonPress && m_phase == Pressed && !m_bPressSeen) {
+        // What moved while the press was under way has been missed, and is reached for again.
+        m_bPressSeen = isInPlace();
+        m_phase = m_bPressSeen ? Pressed : Waiting;
     } else if (event->type() == QEvent::MouseButtonRelease && m_bPressSeen && --m_iReleases == 0) {
         finish();
     }

@@ -63,6 +63,7 @@ private:
     void reach(const WindowProbe::Spot &spot, const QPoint &place);
     void press(const Gesture &gesture);
     void finish();
+    bool isInPlace() const;
     void settle();
 
     ScreenPointer m_pointer;

@@ -12,6 +12,10 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
+
+#include <functional>
+#include <utility>
 
 namespace {
 
@@ -27,6 +31,29 @@ protected:
         shown = true;
         QTimer::singleShot(0, this, [this] { shown = false; });
     }
+};
+
+/// Hears of every press in a window before anybody else does.
+class PressWatch : public QObject
+{
+public:
+    PressWatch(QWindow *window, std::function<void()> heard) : m_pWindow(window), m_heard(std::move(heard))
+    {
+        qApp->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == m_pWindow && event->type() == QEvent::MouseButtonPress) {
+            m_heard();
+        }
+        return false;
+    }
+
+private:
+    QWindow *m_pWindow;
+    std::function<void()> m_heard;
 };
 
 } // namespace
@@ -107,6 +134,21 @@ private slots:
         m_hand->work();
         button.move(600, 400);
         QVERIFY(finished());
+        QCOMPARE(clicked.count(), 1);
+    }
+
+    void targetThatMovesUnderThePressIsReachedForAgain()
+    {
+        QWidget window;
+        QPushButton target(&window);
+        target.resize(100, 50);
+        show(window, {100, 100});
+        const QSignalSpy clicked(&target, &QPushButton::clicked);
+        // It goes as soon as the press has reached the program, before any widget has heard of it.
+        const PressWatch watch(window.windowHandle(), [&target] { target.move(90, 50); });
+        m_hand->click(at(&target));
+        QVERIFY(finished());
+        QCOMPARE(target.pos(), QPoint(90, 50));
         QCOMPARE(clicked.count(), 1);
     }
 
