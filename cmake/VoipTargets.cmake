@@ -42,9 +42,11 @@ voip_precompiled(voip_pch HEADERS ${headers})
 
 # What a test does itself runs once, so it is compiled with less effort; under the sanitizers, where that takes longest, with
 # the least, and undefined behaviour is looked for in what is tested. A test that meets a null pointer crashes, which tells.
-set(VOIP_TEST_OPTIONS -Wno-null-dereference $<$<CONFIG:RelWithDebInfo>:-O1>)
+set(VOIP_TEST_OPTIONS -Wno-null-dereference)
 if(VOIP_SANITIZE MATCHES "undefined")
-  set(VOIP_TEST_OPTIONS -Wno-null-dereference $<$<CONFIG:RelWithDebInfo>:-O0> -fno-sanitize=undefined)
+  list(APPEND VOIP_TEST_OPTIONS $<$<CONFIG:RelWithDebInfo>:-O0> -fno-sanitize=undefined)
+else()
+  list(APPEND VOIP_TEST_OPTIONS $<$<CONFIG:RelWithDebInfo>:-O1>)
 endif()
 if(VOIP_TESTS)
   voip_precompiled(voip_test_pch HEADERS ${headers} <QtTest/QtTest> OPTIONS ${VOIP_TEST_OPTIONS})

@@ -12,8 +12,7 @@ namespace {
 
 constexpr int cLookMs = 10;
 constexpr int cConnectMs = 1000;
-/// A process that ends closes its socket and its server first, so it takes a while to tell an end from what only looks
-/// so.
+/// A process that ends closes its sockets first, so it takes a while to tell an end from what only looks so.
 constexpr int cEndShowsMs = 2000;
 constexpr int cLooksToBelieve = 3;
 
@@ -36,6 +35,7 @@ Relay::Relay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject
         settleEnd();
     });
     connect(&m_channel, &Channel::lineReceived, this, [this](const QByteArray &line) {
+        settleDoubts();
         m_quit = m_quit || line == Wire::cQuitLine;
         m_writer.said(m_heardTime, line);
     });
@@ -128,6 +128,7 @@ void Relay::clientArrives()
 void Relay::clientGoes()
 {
     if (m_farEnd != nullptr && !m_closing) {
+        settleDoubts();
         m_writer.pluginDid(m_clock.elapsed(), "await-gone");
     }
     releaseFarEnd();
@@ -149,6 +150,7 @@ void Relay::takeAnswer()
 {
     const QByteArray bytes = m_farEnd->readAll();
     if (!bytes.isEmpty()) {
+        settleDoubts();
         m_writer.written(m_clock.elapsed(), bytes);
         m_channel.write(bytes);
     }

@@ -249,6 +249,22 @@ private slots:
                                   "await-client\n" + cRegistered + "send 18\nexpect quit\n");
     }
 
+    void whatFollowsAClosedServerStandsBehindIt()
+    {
+        Recording run("await RegeditUser\nsend 17 true\nstop-listen\nexpect HangUpCall\nsend 8\nexpect quit\n");
+        run.start();
+        QVERIFY(run.connectClient());
+        run.say(registration());
+        QCOMPARE(run.hear(), notificationLine(Code::SdkFlag, "true"));
+        const QString server = QDir(QDir::tempPath()).filePath("VoipSDK");
+        QVERIFY(QTest::qWaitFor([&server] { return !QFile::exists(server); }, cPatienceMs));
+        run.say(commandLine("HangUpCall", {}));
+        QCOMPARE(run.hear(), notificationLine(Code::PeerHangup, ""));
+        run.say("quit\n");
+        QCOMPARE(run.exitCode(), 0);
+        QCOMPARE(run.steps(), cRegistered + "send 17 true\nstop-listen\nexpect HangUpCall\nsend 8\nexpect quit\n");
+    }
+
     void deathIsRecordedAndMirrored()
     {
         Recording run("await RegeditUser\nsend 17 true\ndie\n");

@@ -8,9 +8,9 @@
 #include "client/HostStore.h"
 #include "history/CallHistory.h"
 #include "history/CallWatch.h"
+#include "sound/SoundChoice.h"
 
 #include "plugin/EMsgId.h"
-#include "sound/SoundChoice.h"
 
 #include <QByteArray>
 #include <QObject>

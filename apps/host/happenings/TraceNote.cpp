@@ -30,9 +30,9 @@ QString TraceNote::of(const CallService &service)
         return {};
     }
     const QString program = CallChannel::programOf(service.process());
-    return tr("Lines of the wire cannot be shown at present. The call process is %1 (process %2), and %3. End that "
-              "process: the "
-              "client then starts one that it can follow. Or start it yourself with %4 naming a file.")
+    return tr("Lines of the wire cannot be shown at present. The call process is %1 (process %2), and %3. "
+              "End that process: the client then starts one that it can follow. "
+              "Or start it yourself with %4 naming a file.")
         .arg(program.isEmpty() ? tr("another user's") : program)
         .arg(service.process())
         .arg(why, QLatin1String(TraceFolder::cVariable));

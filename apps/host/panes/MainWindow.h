@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/PromptKey.h"
 #include "history/CallReadiness.h"
 #include "panes/CallStatusLine.h"
 #include "panes/IncomingPrompt.h"
@@ -7,8 +8,6 @@
 #include "panes/SettingsPage.h"
 #include "panes/SignatureCard.h"
 #include "panes/VideoCard.h"
-
-#include "desktop/PromptKey.h"
 
 #include <QMainWindow>
 

@@ -183,7 +183,7 @@ void MemberPicker::addNumbers()
 void MemberPicker::pick(const QString &strUid)
 {
     if (find(strUid) == nullptr) {
-        addPerson({strUid, strUid, "", false, Presence::Offline, QString()}, true);
+        addNumber(strUid);
     }
     QListWidgetItem *item = find(strUid);
     item->setCheckState(Qt::Checked);
@@ -209,9 +209,15 @@ void MemberPicker::addPeople(const ContactBook &book, Purpose purpose, const QSt
     }
     for (const QString &uid : named) {
         if (fresh && find(uid) == nullptr) {
-            addPerson({uid, uid, "", false, Presence::Offline, QString()}, true);
+            addNumber(uid);
         }
     }
+}
+
+/// Puts somebody on the list, checked, of whom nothing is known but the number.
+void MemberPicker::addNumber(const QString &strUid)
+{
+    addPerson({strUid, strUid, "", false, Presence::Offline, QString()}, true);
 }
 
 void MemberPicker::addPerson(const ContactBook::Entry &entry, bool bChecked)

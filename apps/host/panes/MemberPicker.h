@@ -61,6 +61,7 @@ private:
     void pick(const QString &strUid);
     QListWidgetItem *find(const QString &strUid) const;
     void addPeople(const ContactBook &book, Purpose purpose, const QStringList &named);
+    void addNumber(const QString &strUid);
     void addPerson(const ContactBook::Entry &entry, bool bChecked);
     void showPicked();
 

@@ -3,7 +3,6 @@
 #include "ui_SoundPane.h"
 
 #include "client/CallService.h"
-
 #include "sound/SoundChoice.h"
 
 #include <utility>

@@ -3,11 +3,11 @@
 
 #include "client/ContactBook.h"
 #include "client/HostSession.h"
+#include "desktop/HotKey.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
 
 #include "common/settings/ConfigFile.h"
-#include "desktop/HotKey.h"
 #include "fakes/Patience.h"
 #include "host/panes/Deeds.h"
 #include "plugin/BaseEvent.h"

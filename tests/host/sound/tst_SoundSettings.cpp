@@ -8,12 +8,12 @@
 #include "panes/MainWindow.h"
 #include "panes/SoundPane.h"
 #include "screen/WindowProbe.h"
+#include "sound/SoundMeter.h"
 
 #include "common/settings/ConfigFile.h"
 #include "host/panes/Deeds.h"
 #include "host/panes/PressButton.h"
 #include "host/sound/SoundMachine.h"
-#include "sound/SoundMeter.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
