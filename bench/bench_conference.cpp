@@ -53,7 +53,7 @@ protected:
     }
 
 private:
-    const FriendData m_record;
+    const FriendData m_record{};
 };
 
 /// Whether a widget has been painted since the last look.

@@ -63,6 +63,7 @@ bool isNested(int code)
 std::vector<std::string> documents(int code, int count)
 {
     std::vector<std::string> lines;
+    lines.reserve(count);
     for (int i = 0; i < count; ++i) {
         lines.push_back(R"({"content":")" + payload(code, i) + R"(","resultCode":)" + std::to_string(code) + "}\n");
     }

@@ -4,6 +4,8 @@
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 
+#include <QWidget>
+
 VoipManagePlugin::VoipManagePlugin(QObject *parent) : QObject(parent) {}
 
 QString VoipManagePlugin::getPluginName()

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QWidget>
 
 VoipManageMessageProcess *VoipManageMessageProcess::m_pInstance = nullptr;
 

@@ -1,5 +1,8 @@
 #include "widgets/CustomIconStyle.h"
 
+#include <QStyleOption>
+#include <QWidget>
+
 void CustomIconStyle::SetCustomSize(int iSize)
 {
     m_iSize = iSize;

@@ -1,5 +1,7 @@
 #include "widgets/QtWin.h"
 
+#include <QWidget>
+
 bool QtWin::isCompositionEnabled()
 {
     return false;

@@ -5,7 +5,9 @@
 
 #include <QFont>
 #include <QMetaType>
+#include <QSqlDatabase>
 #include <QTest>
+#include <QTranslator>
 
 namespace {
 

@@ -4,7 +4,9 @@
 #include "model/Somewhere.h"
 #include "model/SystemSetData.h"
 
+#include <QSqlDatabase>
 #include <QTest>
+#include <QTranslator>
 
 class tst_SharedContext : public QObject
 {

@@ -7,6 +7,7 @@
 #include "history/CallSentences.h"
 
 #include <QButtonGroup>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QShortcut>

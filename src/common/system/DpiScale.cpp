@@ -1,5 +1,7 @@
 #include "common/system/DpiScale.h"
 
+#include <QWidget>
+
 namespace {
 
 // Deliberately kept, though nothing on this platform reads it.

@@ -3,6 +3,8 @@
 #include "model/SharedContext.h"
 
 #include <QFontDatabase>
+#include <QGlyphRun>
+#include <QTextLayout>
 #include <QtTest>
 
 #include <memory>
