@@ -4,8 +4,6 @@
 #include "plugin/PluginIds.h"
 #include "plugin/VoipManageMessageProcess.h"
 
-#include <QWidget>
-
 VoipManagePlugin::VoipManagePlugin(QObject *parent) : QObject(parent) {}
 
 QString VoipManagePlugin::getPluginName()

@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 #include <QDebug>
-#include <QWidget>
 
 VoipManageMessageProcess *VoipManageMessageProcess::m_pInstance = nullptr;
 

@@ -1,7 +1,5 @@
 #include "widgets/QtWin.h"
 
-#include <QWidget>
-
 bool QtWin::isCompositionEnabled()
 {
     return false;

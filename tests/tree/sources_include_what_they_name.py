@@ -30,7 +30,8 @@ class Includes:
     def __init__(self, root, qt):
         self.qt_folders = [path for path in sorted(qt.iterdir()) if path.is_dir()]
         programs = [path for path in sorted((root / "apps").iterdir()) if path.is_dir()]
-        self.folders = [root / "src", root / "apps", *programs, root / "tests", root / "bench", root / "fuzz", qt, *self.qt_folders]
+        others = [root / folder for folder in FOLDERS if folder != "apps"]
+        self.folders = [*others, root / "apps", *programs, qt, *self.qt_folders]
         self.qt = qt
 
     @functools.lru_cache(maxsize=None)
@@ -67,6 +68,15 @@ class Includes:
         return {header for path in named for header in (path, *self.direct(path))}
 
 
+def is_only_handed_on(name, file, includes):
+    """Whether the file knows the class by a forward declaration and only passes pointers to it on."""
+    text = text_of(file)
+    if not any(re.search(rf"^class {name};$", text_of(path), re.MULTILINE) for path in (file, *includes.of(file))):
+        return False
+    pointers = re.findall(rf"\b{name} \*(\w*)", text)
+    return len(pointers) == len(re.findall(rf"\b{name}\b", text)) and not any(f"{p}->" in text for p in pointers if p)
+
+
 def main():
     root, qt = (pathlib.Path(argument) for argument in sys.argv[1:3])
     includes = Includes(root, qt)
@@ -78,7 +88,7 @@ def main():
         for name in sorted(names):
             headers = includes.headers_of(name)
             named += bool(headers)
-            if headers and not headers & includes.of(file):
+            if headers and not headers & includes.of(file) and not is_only_handed_on(name, file, includes):
                 problems.append(f"{file.relative_to(root)} names {name} and includes no header that has it")
     if not named:
         problems.append("no class of Qt's found")

@@ -1,7 +1,5 @@
 #include "common/system/DpiScale.h"
 
-#include <QWidget>
-
 namespace {
 
 // Deliberately kept, though nothing on this platform reads it.
