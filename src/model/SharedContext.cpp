@@ -1,9 +1,5 @@
 #include "model/SharedContext.h"
 
-#include <QNetworkAccessManager>
-#include <QSqlDatabase>
-#include <QTranslator>
-
 namespace {
 
 constexpr qint64 cDefaultRoomSize = 1500;

@@ -73,7 +73,7 @@ def is_only_handed_on(name, file, includes):
     text = text_of(file)
     if not any(re.search(rf"^class {name};$", text_of(path), re.MULTILINE) for path in (file, *includes.of(file))):
         return False
-    pointers = re.findall(rf"\b{name} \*(\w*)", text)
+    pointers = re.findall(rf"\b{name} [*&](\w*)", text)
     return len(pointers) == len(re.findall(rf"\b{name}\b", text)) and not any(f"{p}->" in text for p in pointers if p)
 
 
