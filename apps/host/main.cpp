@@ -3,16 +3,16 @@
 #include "client/EndSignals.h"
 #include "client/HostLanguage.h"
 #include "client/HostPictures.h"
-#include "client/HostSession.h"
 #include "client/PrivateTemp.h"
 #include "client/SingleInstance.h"
 #include "client/WindowFont.h"
 #include "happenings/DebugChannel.h"
-#include "happenings/TraceFolder.h"
 #include "panes/MainWindow.h"
+#include "session/HostSession.h"
 #include "tour/TourHand.h"
 #include "tour/TourSteps.h"
 #include "tour/TourWatch.h"
+#include "traffic/TraceFolder.h"
 
 #include "common/log/QtWarningFilter.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "client/CallProcess.h"
-#include "client/CallRecord.h"
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
+#include "session/HostSession.h"
+#include "traffic/CallRecord.h"
 
 #include "soak/UndeletedEvents.h"
 

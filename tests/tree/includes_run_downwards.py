@@ -5,7 +5,8 @@ Usage: includes_run_downwards.py SOURCE PARTS
 PARTS has a line "target NAME" for each target of src/ and apps/, behind it its lines "source PATH" and "link NAME", and the same
 for each module of Qt that they link, with lines "headers FOLDER". Every file there belongs to a target and includes only files
 of its own target and of those that this links. A target names just those modules of Qt whose headers it includes; those that a
-named one needs itself may be left out. No targets link each other in a circle, and no files include each other in one.
+named one needs itself may be left out. No targets link each other in a circle, and no files include each other in one, nor do
+the rooms of a program.
 """
 
 import collections
@@ -75,6 +76,15 @@ def includes_among(files, root):
     }
 
 
+def rooms_of(graph, program):
+    """Which folders of a program include from which others."""
+    rooms = collections.defaultdict(set)
+    for file, reached in graph.items():
+        if program in file.parent.parents:
+            rooms[file.parent].update(found.parent for found in reached if program in found.parent.parents)
+    return {room: reached - {room} for room, reached in rooms.items()}
+
+
 def module_of(header, modules):
     """The module of Qt that <header> belongs to; None for a header of none of these."""
     return next((module for module, folders in modules.items() for folder in folders
@@ -119,6 +129,11 @@ def main():
                 " does not link" for found in sorted(graph[file]) if owners[found] and not owners[found] & within[target]
             ]
     problems += qt_problems(sources, links, modules)
+    for program in sorted(path for path in (root / "apps").iterdir() if path.is_dir()):
+        problems += [
+            f"circle of rooms: {' > '.join(str(room.relative_to(root)) for room in road)}"
+            for road in circles(rooms_of(graph, program))
+        ]
     problems += [f"circle of targets: {' > '.join(road)}" for road in circles(links)]
     problems += [
         f"circle of files: {' > '.join(str(file.relative_to(root)) for file in road)}" for road in circles(graph)

@@ -1,6 +1,6 @@
 #include "client/CallProcess.h"
 
-#include "happenings/TraceFolder.h"
+#include "traffic/TraceFolder.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,8 +1,8 @@
 #include "client/CallService.h"
 
 #include "client/CallProcess.h"
-#include "happenings/TraceFolder.h"
-#include "happenings/WireWords.h"
+#include "traffic/TraceFolder.h"
+#include "traffic/WireWords.h"
 
 #include "common/CLogManger.h"
 #include "wire/Commands.h"

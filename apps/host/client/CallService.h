@@ -1,7 +1,7 @@
 #pragma once
 
-#include "client/CallChannel.h"
-#include "happenings/WireTrace.h"
+#include "traffic/CallChannel.h"
+#include "traffic/WireTrace.h"
 
 #include <QElapsedTimer>
 #include <QObject>

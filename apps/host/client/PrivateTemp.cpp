@@ -1,6 +1,6 @@
 #include "client/PrivateTemp.h"
 
-#include "client/CallChannel.h"
+#include "traffic/CallChannel.h"
 
 #include <QDir>
 #include <QFile>

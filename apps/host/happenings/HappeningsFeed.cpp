@@ -1,8 +1,8 @@
 #include "happenings/HappeningsFeed.h"
 
-#include "client/HostSession.h"
-#include "happenings/EventWords.h"
-#include "happenings/WireWords.h"
+#include "session/HostSession.h"
+#include "traffic/EventWords.h"
+#include "traffic/WireWords.h"
 
 #include <QDateTime>
 

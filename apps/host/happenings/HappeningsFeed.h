@@ -1,8 +1,8 @@
 #pragma once
 
-#include "client/ShownText.h"
 #include "happenings/HappeningsModel.h"
-#include "happenings/WireTrace.h"
+#include "traffic/ShownText.h"
+#include "traffic/WireTrace.h"
 
 #include <QObject>
 #include <QTimer>

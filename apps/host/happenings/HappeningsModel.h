@@ -1,6 +1,6 @@
 #pragma once
 
-#include "happenings/Sentence.h"
+#include "traffic/Sentence.h"
 
 #include <QAbstractTableModel>
 #include <QList>

@@ -2,8 +2,8 @@
 
 #include "ui_HappeningsPanel.h"
 
-#include "client/HostSession.h"
 #include "happenings/TraceNote.h"
+#include "session/HostSession.h"
 
 #include <QAction>
 #include <QClipboard>

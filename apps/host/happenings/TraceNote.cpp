@@ -1,7 +1,7 @@
 #include "happenings/TraceNote.h"
 
 #include "client/CallService.h"
-#include "happenings/TraceFolder.h"
+#include "traffic/TraceFolder.h"
 
 #include <QFileInfo>
 

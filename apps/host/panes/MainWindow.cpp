@@ -4,17 +4,17 @@
 
 #include "client/ContactBook.h"
 #include "client/HostPictures.h"
-#include "client/HostSession.h"
 #include "client/HostSkins.h"
-#include "happenings/HappeningsDock.h"
 #include "happenings/HappeningsPanel.h"
-#include "happenings/TraceFolder.h"
 #include "panes/CallServiceBar.h"
+#include "panes/HappeningsDock.h"
 #include "panes/MemberPicker.h"
 #include "panes/OverModal.h"
 #include "panes/QuitQuestion.h"
 #include "panes/WindowPlace.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
+#include "traffic/TraceFolder.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -1,8 +1,8 @@
 #include "sound/SoundChoice.h"
 
-#include "client/CallChannel.h"
 #include "client/HostSettings.h"
 #include "client/SettingsFile.h"
+#include "traffic/CallChannel.h"
 
 #include "common/settings/ConfigFile.h"
 

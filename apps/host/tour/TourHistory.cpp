@@ -1,9 +1,9 @@
 #include "tour/TourHistory.h"
 
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
 #include "tour/TourCast.h"
 #include "tour/TourScript.h"
 

@@ -1,12 +1,12 @@
 #include "tour/TourScript.h"
 
 #include "client/CallProcess.h"
-#include "client/CallRecord.h"
 #include "panes/MainWindow.h"
 #include "panes/MemberPicker.h"
 #include "screen/WindowProbe.h"
 #include "tour/TourHand.h"
 #include "tour/TourWatch.h"
+#include "traffic/CallRecord.h"
 
 #include "model/MemberRoles.h"
 

@@ -2,7 +2,7 @@
 
 #include "client/CallProcess.h"
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
+#include "session/HostSession.h"
 #include "tour/TourCast.h"
 #include "tour/TourScript.h"
 

@@ -1,13 +1,12 @@
 #include "tour/TourSteps.h"
 
 #include "client/CallProcess.h"
-#include "client/CallRecord.h"
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
 #include "happenings/DebugChannel.h"
 #include "happenings/HappeningsPanel.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
 #include "tour/TourCast.h"
 #include "tour/TourConference.h"
 #include "tour/TourHistory.h"
@@ -16,6 +15,7 @@
 #include "tour/TourSettings.h"
 #include "tour/TourUsers.h"
 #include "tour/TourWatch.h"
+#include "traffic/CallRecord.h"
 
 #include "plugin/EMsgId.h"
 

@@ -1,7 +1,7 @@
 #include "tour/TourWatch.h"
 
-#include "client/HostSession.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
 
 #include "wire/Commands.h"
 

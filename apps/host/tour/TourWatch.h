@@ -1,7 +1,7 @@
 #pragma once
 
-#include "client/CallRecord.h"
-#include "happenings/WireTrace.h"
+#include "traffic/CallRecord.h"
+#include "traffic/WireTrace.h"
 
 #include <QList>
 #include <QObject>

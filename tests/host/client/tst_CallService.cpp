@@ -1,13 +1,13 @@
 // The client with the real plug-in and a real call process, which dies, does not come back, does not answer or was
 // started by somebody else. What the person sees is looked at in the window, and its buttons are pressed.
 
-#include "client/CallChannel.h"
 #include "client/CallProcess.h"
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
-#include "happenings/TraceFolder.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
+#include "traffic/CallChannel.h"
+#include "traffic/TraceFolder.h"
 
 #include "fakes/Patience.h"
 #include "host/panes/PressButton.h"

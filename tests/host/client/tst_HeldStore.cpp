@@ -2,9 +2,9 @@
 // first client of a process.
 
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
 
 #include "fakes/Patience.h"
 #include "host/panes/PressButton.h"

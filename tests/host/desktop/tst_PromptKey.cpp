@@ -2,10 +2,10 @@
 // chosen in the settings by mouse and keys.
 
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
 #include "desktop/HotKey.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
 
 #include "common/settings/ConfigFile.h"
 #include "fakes/Patience.h"

@@ -2,8 +2,8 @@
 // puts on a bus of its own, or by a tray.
 
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
 #include "panes/MainWindow.h"
+#include "session/HostSession.h"
 
 #include "fakes/Patience.h"
 #include "host/desktop/FakeDesktop.h"

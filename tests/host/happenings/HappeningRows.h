@@ -2,8 +2,8 @@
 
 // Rows for a HappeningsModel, made by hand.
 
-#include "happenings/EventWords.h"
 #include "happenings/HappeningsModel.h"
+#include "traffic/EventWords.h"
 
 #include "plugin/EventPayload.h"
 

@@ -1,14 +1,14 @@
 // The panel "What happens" beside a call process that somebody else has started: with a trace of its own, it is
 // followed; without one, the panel says so, and what it says to do helps.
 
-#include "client/CallChannel.h"
 #include "client/CallProcess.h"
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
 #include "happenings/HappeningsPanel.h"
-#include "happenings/TraceFolder.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
+#include "traffic/CallChannel.h"
+#include "traffic/TraceFolder.h"
 
 #include "fakes/Patience.h"
 #include "host/panes/PressButton.h"

@@ -1,6 +1,6 @@
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
 #include "happenings/HappeningsFeed.h"
+#include "session/HostSession.h"
 
 #include "fakes/Patience.h"
 #include "plugin/BaseEvent.h"

@@ -1,6 +1,6 @@
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
 #include "happenings/HappeningsPanel.h"
+#include "session/HostSession.h"
 
 #include "fakes/Patience.h"
 #include "host/panes/PressButton.h"

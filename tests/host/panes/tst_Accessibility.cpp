@@ -1,8 +1,8 @@
 #include "client/ContactBook.h"
 #include "client/HostLanguage.h"
-#include "client/HostSession.h"
 #include "panes/MainWindow.h"
 #include "panes/MemberPicker.h"
+#include "session/HostSession.h"
 
 #include "fakes/Patience.h"
 #include "host/history/CallRows.h"

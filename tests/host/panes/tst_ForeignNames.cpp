@@ -2,12 +2,12 @@
 // client does not know is named by its id, so an id stands for a name here.
 
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
 #include "panes/IncomingPrompt.h"
 #include "panes/MainWindow.h"
 #include "panes/MemberPicker.h"
 #include "panes/SignatureCard.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
 
 #include "fakes/ForeignText.h"
 #include "plugin/BaseEvent.h"

@@ -1,8 +1,8 @@
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
 #include "happenings/HappeningsPanel.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
 
 #include "fakes/Patience.h"
 #include "host/panes/PressButton.h"

@@ -1,11 +1,11 @@
 // Closing the window while a call rings, with the real plug-in and a real call process.
 
-#include "client/CallChannel.h"
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
-#include "happenings/TraceFolder.h"
 #include "panes/MainWindow.h"
 #include "panes/QuitQuestion.h"
+#include "session/HostSession.h"
+#include "traffic/CallChannel.h"
+#include "traffic/TraceFolder.h"
 
 #include "fakes/Patience.h"
 

@@ -1,8 +1,8 @@
 #include "client/ContactBook.h"
 #include "client/HostLanguage.h"
-#include "client/HostSession.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
 
 #include "common/settings/ConfigFile.h"
 #include "fakes/Patience.h"

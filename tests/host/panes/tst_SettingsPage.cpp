@@ -1,10 +1,10 @@
 #include "client/ContactBook.h"
 #include "client/HostLanguage.h"
-#include "client/HostSession.h"
 #include "client/HostSkins.h"
 #include "panes/MainWindow.h"
 #include "panes/WindowPlace.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
 
 #include "common/AppInfo.h"
 #include "common/settings/ConfigFile.h"

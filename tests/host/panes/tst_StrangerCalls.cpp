@@ -1,7 +1,7 @@
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
 
 #include "fakes/Patience.h"
 #include "model/SystemSetData.h"

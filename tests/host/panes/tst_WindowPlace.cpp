@@ -1,8 +1,8 @@
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
 #include "happenings/HappeningsPanel.h"
 #include "panes/MainWindow.h"
 #include "panes/WindowPlace.h"
+#include "session/HostSession.h"
 
 #include "common/settings/ConfigFile.h"
 #include "fakes/Patience.h"

@@ -1,14 +1,14 @@
 // Microphone and speaker in the settings, on a real sound server with devices that come and go, chosen by the real
 // mouse, with the real plug-in and its call process.
 
-#include "client/CallChannel.h"
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
-#include "happenings/TraceFolder.h"
 #include "panes/MainWindow.h"
 #include "panes/SoundPane.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
 #include "sound/SoundMeter.h"
+#include "traffic/CallChannel.h"
+#include "traffic/TraceFolder.h"
 
 #include "common/settings/ConfigFile.h"
 #include "host/panes/Deeds.h"

@@ -1,4 +1,4 @@
-#include "happenings/WireTrace.h"
+#include "traffic/WireTrace.h"
 
 #include "fakes/Patience.h"
 

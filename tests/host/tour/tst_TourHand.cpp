@@ -1,5 +1,5 @@
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
+#include "session/HostSession.h"
 #include "tour/Tour.h"
 #include "tour/TourHand.h"
 #include "tour/TourWatch.h"

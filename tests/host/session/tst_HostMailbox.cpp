@@ -1,5 +1,5 @@
 #include "client/ContactBook.h"
-#include "client/HostMailbox.h"
+#include "session/HostMailbox.h"
 
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"

@@ -1,6 +1,6 @@
-#include "happenings/WireWords.h"
+#include "traffic/WireWords.h"
 
-#include "client/ShownText.h"
+#include "traffic/ShownText.h"
 
 #include "wire/Commands.h"
 #include "wire/Notifications.h"

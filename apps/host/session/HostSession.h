@@ -2,12 +2,12 @@
 
 #include "client/CallService.h"
 #include "client/ConferenceWish.h"
-#include "client/HostContext.h"
-#include "client/HostMailbox.h"
 #include "client/HostSettings.h"
 #include "client/HostStore.h"
 #include "history/CallHistory.h"
 #include "history/CallWatch.h"
+#include "session/HostContext.h"
+#include "session/HostMailbox.h"
 #include "sound/SoundChoice.h"
 
 #include "plugin/EMsgId.h"

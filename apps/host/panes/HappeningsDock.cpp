@@ -1,4 +1,4 @@
-#include "happenings/HappeningsDock.h"
+#include "panes/HappeningsDock.h"
 
 #include "happenings/HappeningsPanel.h"
 #include "panes/WindowPlace.h"

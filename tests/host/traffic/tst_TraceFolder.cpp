@@ -1,4 +1,4 @@
-#include "happenings/TraceFolder.h"
+#include "traffic/TraceFolder.h"
 
 #include <QDir>
 #include <QFileInfo>

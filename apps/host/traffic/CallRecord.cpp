@@ -1,4 +1,4 @@
-#include "client/CallRecord.h"
+#include "traffic/CallRecord.h"
 
 #include <QCoreApplication>
 

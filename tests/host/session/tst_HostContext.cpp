@@ -1,5 +1,5 @@
 #include "client/ContactBook.h"
-#include "client/HostContext.h"
+#include "session/HostContext.h"
 
 #include "model/SystemSetData.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "happenings/Sentence.h"
-#include "happenings/WireTrace.h"
+#include "traffic/Sentence.h"
+#include "traffic/WireTrace.h"
 
 #include <QString>
 #include <QStringList>

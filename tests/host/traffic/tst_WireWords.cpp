@@ -1,5 +1,5 @@
-#include "client/ShownText.h"
-#include "happenings/WireWords.h"
+#include "traffic/ShownText.h"
+#include "traffic/WireWords.h"
 
 #include "wire/Commands.h"
 #include "wire/Notifications.h"

@@ -1,4 +1,4 @@
-#include "client/HostContext.h"
+#include "session/HostContext.h"
 
 #include "client/ContactBook.h"
 #include "client/HostSettings.h"

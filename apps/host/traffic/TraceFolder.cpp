@@ -1,6 +1,6 @@
-#include "happenings/TraceFolder.h"
+#include "traffic/TraceFolder.h"
 
-#include "client/CallChannel.h"
+#include "traffic/CallChannel.h"
 
 #include <QCoreApplication>
 #include <QDir>

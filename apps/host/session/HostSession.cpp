@@ -1,7 +1,7 @@
-#include "client/HostSession.h"
+#include "session/HostSession.h"
 
 #include "client/ContactBook.h"
-#include "happenings/EventWords.h"
+#include "traffic/EventWords.h"
 
 #include "model/SharedContext.h"
 #include "model/SystemSetData.h"

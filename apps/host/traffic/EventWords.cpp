@@ -1,6 +1,6 @@
-#include "happenings/EventWords.h"
+#include "traffic/EventWords.h"
 
-#include "client/CallRecord.h"
+#include "traffic/CallRecord.h"
 
 #include "plugin/EventPayload.h"
 #include "plugin/HostEvents.h"

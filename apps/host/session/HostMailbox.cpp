@@ -1,7 +1,7 @@
-#include "client/HostMailbox.h"
+#include "session/HostMailbox.h"
 
 #include "client/ContactBook.h"
-#include "happenings/EventWords.h"
+#include "traffic/EventWords.h"
 
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"

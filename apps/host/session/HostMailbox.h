@@ -1,6 +1,6 @@
 #pragma once
 
-#include "client/CallRecord.h"
+#include "traffic/CallRecord.h"
 
 #include <QObject>
 #include <QPoint>

@@ -1,6 +1,6 @@
-#include "happenings/Sentence.h"
+#include "traffic/Sentence.h"
 
-#include "client/ShownText.h"
+#include "traffic/ShownText.h"
 
 #include <QCoreApplication>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "happenings/EventWords.h"
+#include "traffic/EventWords.h"
 
 #include "plugin/EventPayload.h"
 #include "plugin/HostEvents.h"

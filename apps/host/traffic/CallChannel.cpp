@@ -1,6 +1,6 @@
-#include "client/CallChannel.h"
+#include "traffic/CallChannel.h"
 
-#include "happenings/TraceFolder.h"
+#include "traffic/TraceFolder.h"
 
 #include "wire/Commands.h"
 #include "wire/SocketProbe.h"

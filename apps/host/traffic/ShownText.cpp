@@ -1,6 +1,6 @@
-#include "client/ShownText.h"
+#include "traffic/ShownText.h"
 
-#include "happenings/WireTrace.h"
+#include "traffic/WireTrace.h"
 
 #include "wire/Commands.h"
 

@@ -1,4 +1,4 @@
-#include "client/ShownText.h"
+#include "traffic/ShownText.h"
 
 #include <QTest>
 
