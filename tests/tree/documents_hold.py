@@ -26,8 +26,8 @@ FOREIGN = {
 # document, and how it stands there.
 TOLD = (
     ("apps/robots/Robots.def", r'^ROBOT\(\w+, +"(\d+)"', "README.md", r"\({}\)"),
-    ("apps/host/Languages.def", r"^LANGUAGE\((\w+),", "docs/gallery.md", r"\b{}\b"),
-    ("apps/host/Languages.def", r"^LANGUAGE\((\w+),", "packaging/share/man/man1/kelvarim-gallery.1", r"\b{}\b"),
+    ("apps/host/client/Languages.def", r"^LANGUAGE\((\w+),", "docs/gallery.md", r"\b{}\b"),
+    ("apps/host/client/Languages.def", r"^LANGUAGE\((\w+),", "packaging/share/man/man1/kelvarim-gallery.1", r"\b{}\b"),
     ("apps/callprocess/Options.cpp", r'^constexpr OptionRow \w+ *\{"([\w-]+)"', "docs/wire-protocol.md", r"^\| `--{}[ `]"),
     ("fuzz/FuzzTargets.h", r'^    \{"(\w+)", ', "docs/reliability.md", r"^\| `{}` \| "),
 )

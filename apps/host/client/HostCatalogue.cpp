@@ -16,7 +16,7 @@ struct Language
 
 constexpr Language cLanguages[] = {
 #define LANGUAGE(suffix, ownName) {#suffix, #suffix},
-#include "Languages.def"
+#include "client/Languages.def"
 #undef LANGUAGE
     {"uk", "en"}, // its older name
 };

@@ -12,7 +12,7 @@ const std::vector<HostLanguage::Choice> &HostLanguage::choices()
 {
     static const std::vector<Choice> all = {
 #define LANGUAGE(suffix, ownName) {QStringLiteral(#suffix), QStringLiteral(ownName)},
-#include "Languages.def"
+#include "client/Languages.def"
 #undef LANGUAGE
     };
     return all;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "tour/TourSteps.h"
+#include "tour/Tour.h"
+#include "tour/TourStage.h"
 
 /// The steps in the search field of the contacts.
 QList<TourStep> searchSteps(const TourStage &stage);
