@@ -2,9 +2,9 @@
 
 // A shared context with a signed-in user, in place for as long as the object lives.
 
+#include "fakes/GivenContext.h"
 #include "model/CommonData.h"
 #include "model/LoginData.h"
-#include "model/SharedContext.h"
 
 #include <QString>
 
@@ -15,12 +15,10 @@ struct SignedInContext
         m_login.m_strUid = strUid;
         m_login.m_strDomain = strDomain;
         m_context.setLoginData(&m_login);
-        SharedContext::setCommonData(&m_context);
     }
-    ~SignedInContext() { SharedContext::setCommonData(nullptr); }
-    SignedInContext(const SignedInContext &) = delete;
-    SignedInContext &operator=(const SignedInContext &) = delete;
+    Q_DISABLE_COPY_MOVE(SignedInContext)
 
     LoginData m_login;
     CommonData m_context;
+    GivenContext m_given{m_context};
 };

@@ -1,3 +1,4 @@
+#include "model/SharedContext.h"
 #include "model/SignedInContext.h"
 #include "model/UserIds.h"
 

@@ -5,7 +5,6 @@
 
 #include "fakes/QtMessages.h"
 #include "model/CommonData.h"
-#include "model/SharedContext.h"
 #include "store/DB.h"
 
 #include <QDir>
@@ -65,16 +64,8 @@ private:
 class StoreFixture
 {
 public:
-    StoreFixture() { SharedContext::setCommonData(&context); }
-    ~StoreFixture()
-    {
-        SharedContext::setCommonData(&context);
-        if (!context.getSqlDatabase()) {
-            context.setSqlDatabase(&DB::m_db);
-        }
-        DB::closeDB();
-        SharedContext::setCommonData(nullptr);
-    }
+    StoreFixture();
+    ~StoreFixture();
     StoreFixture(const StoreFixture &) = delete;
     StoreFixture &operator=(const StoreFixture &) = delete;
 

@@ -3,10 +3,10 @@
 // A host context with one signed-in user and a few contacts, for the tests of the windows. Sets the shared context
 // while it lives and takes it away at its end.
 
+#include "fakes/GivenContext.h"
 #include "model/CommonData.h"
 #include "model/FriendData.h"
 #include "model/LoginData.h"
-#include "model/SharedContext.h"
 
 #include <QFont>
 
@@ -18,11 +18,8 @@ public:
         m_login.m_strUid = QStringLiteral("me");
         m_login.m_strDomain = QStringLiteral("kelvar.im");
         m_data.setLoginData(&m_login);
-        SharedContext::setCommonData(&m_data);
     }
-    ~ContactFixture() { SharedContext::setCommonData(nullptr); }
-    ContactFixture(const ContactFixture &) = delete;
-    ContactFixture &operator=(const ContactFixture &) = delete;
+    Q_DISABLE_COPY_MOVE(ContactFixture)
 
     /// The user jid of `strUid` in the user's own domain.
     static QString jid(const QString &strUid) { return strUid + QStringLiteral("@kelvar.im"); }
@@ -59,4 +56,5 @@ private:
     LoginData m_login;
     QFont m_iconFont;
     CommonData m_data;
+    GivenContext m_given{m_data};
 };
