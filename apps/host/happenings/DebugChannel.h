@@ -3,7 +3,7 @@
 #include <QStringList>
 
 /// Takes Qt's debug channel while the tour runs: everything goes to a file, warnings and worse to standard error too,
-/// so that they stand out, and are remembered, but for the one that is required (common/log/QtWarningFilter.h). One at
+/// so that they stand out, and are remembered, but for the known ones (common/log/QtWarningFilter.h). One at
 /// a time, for the life of the program; any thread may write.
 class DebugChannel
 {
@@ -15,6 +15,6 @@ public:
     DebugChannel(const DebugChannel &) = delete;
     DebugChannel &operator=(const DebugChannel &) = delete;
 
-    /// The warnings so far, oldest first.
+    /// The warnings so far that are not known, oldest first.
     static QStringList warnings();
 };

@@ -1,7 +1,8 @@
 #pragma once
 
-// Keeps the one warning of Qt's that the system's own windows cause on purpose from Qt's debug channel, in programs and
-// tests alike, so that any other is seen. Any thread may write to the channel; make the object on the GUI thread.
+// Keeps the warnings of Qt's that the system's own windows cause on purpose, and those that nobody causes, from Qt's
+// debug channel, in programs and tests alike, so that any other is seen. Any thread may write to the channel; make the
+// object on the GUI thread.
 
 #include <QtGlobal>
 
@@ -10,11 +11,21 @@ class QString;
 class QtWarningFilter
 {
 public:
-    /// Whether this is that warning: Qt cannot read the style sheet that the edit fields give their menus
-    /// (widgets/LineEditEx.cpp). It comes for each part of a field, each time that the field is shown.
+    /// Why a warning comes.
+    enum Reason
+    {
+        Unknown,           ///< nobody expects it
+        MenuSheet,         ///< for each part of an edit field, each time that it is shown
+        RefusedConnection, ///< two lines, when the engine is made
+        WindowGone         ///< at any time, where windows come and go
+    };
+
+    /// Why a line of the channel comes. Unknown for whatever is no warning.
+    static Reason reasonOf(QtMsgType type, const QString &strText);
+    /// Whether the line's reason is known.
     static bool isKnown(QtMsgType type, const QString &strText);
 
-    /// From now on the channel's handler, or Qt's own where there is none, is not given that warning.
+    /// From now on the channel's handler, or Qt's own where there is none, is given no known line.
     QtWarningFilter();
     /// Gives the channel back to that handler.
     ~QtWarningFilter();
