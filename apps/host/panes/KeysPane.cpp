@@ -4,16 +4,27 @@
 
 #include "desktop/PromptKey.h"
 
+#include <QLineEdit>
+
 KeysPane::KeysPane(PromptKey &key, QWidget *parent) : QWidget(parent), ui(std::make_unique<Ui::KeysPane>()), m_key(key)
 {
     ui->setupUi(this);
     setAttribute(Qt::WA_StyledBackground);
+    nameField();
     connect(ui->boxPromptKey, &QCheckBox::clicked, this, [this](bool bChecked) { set(bChecked, PromptKey::key()); });
     connect(ui->editPromptKey, &QKeySequenceEdit::editingFinished, this, &KeysPane::takeKey);
     connect(&m_key, &PromptKey::changed, this, &KeysPane::showKey);
 }
 
 KeysPane::~KeysPane() = default;
+
+/// A screen reader meets the field's own line too, which has no name of itself.
+void KeysPane::nameField()
+{
+    for (QLineEdit *line : ui->editPromptKey->findChildren<QLineEdit *>()) {
+        line->setAccessibleName(ui->editPromptKey->accessibleName());
+    }
+}
 
 void KeysPane::takeKey()
 {
@@ -75,6 +86,7 @@ void KeysPane::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
+        nameField();
         showKey();
     }
     QWidget::changeEvent(event);

@@ -31,6 +31,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void nameField();
     void takeKey();
     void set(bool bWanted, const QKeySequence &key);
     void showKey();

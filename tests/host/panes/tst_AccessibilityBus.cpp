@@ -3,100 +3,25 @@
 #include "client/HostLanguage.h"
 
 #include "fakes/Patience.h"
+#include "host/panes/BusReader.h"
 #include "model/MemberRoles.h"
 #include "ui/ConferenceListView.h"
 #include "ui/ContactFixture.h"
 #include "ui/VoipWidget.h"
 
-#include <QAccessible>
-#include <QApplication>
-#include <QDBusArgument>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusObjectPath>
-#include <QDBusPendingCall>
-#include <QDBusVariant>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
-#include <functional>
+#include <memory>
 
 class tst_AccessibilityBus : public QObject
 {
     Q_OBJECT
 
 private:
-    /// A part on the bus.
-    struct Part
-    {
-        QString service;
-        QString path;
-        QString role;
-        QString name;
-    };
+    using Part = BusReader::Part;
 
-    static constexpr const char *cAccessible = "org.a11y.atspi.Accessible";
-
-    /// What a method answers. Qt's own side of the bus answers from the event loop, so that runs meanwhile.
-    static QVariantList ask(const QDBusConnection &bus, const QString &strService, const QString &strPath,
-                            const char *pInterface, const char *pMethod, const QVariantList &arguments = {})
-    {
-        QDBusMessage question =
-            QDBusMessage::createMethodCall(strService, strPath, QLatin1String(pInterface), QLatin1String(pMethod));
-        question.setArguments(arguments);
-        const QDBusPendingCall call = bus.asyncCall(question);
-        if (!QTest::qWaitFor([&call] { return call.isFinished(); }, cPatienceMs) || call.isError()) {
-            return {call.error().message()};
-        }
-        return call.reply().arguments();
-    }
-    QList<Part> childrenOf(const QString &strService, const QString &strPath) const
-    {
-        QList<Part> parts;
-        const QVariantList answer = ask(*m_pReader, strService, strPath, cAccessible, "GetChildren");
-        if (answer.isEmpty() || !answer.first().canConvert<QDBusArgument>()) {
-            return parts;
-        }
-        const auto list = answer.first().value<QDBusArgument>();
-        list.beginArray();
-        while (!list.atEnd()) {
-            Part part;
-            QDBusObjectPath path;
-            list.beginStructure();
-            list >> part.service >> path;
-            list.endStructure();
-            part.path = path.path();
-            parts.append(part);
-        }
-        list.endArray();
-        return parts;
-    }
-    void read(Part &part) const
-    {
-        part.role = ask(*m_pReader, part.service, part.path, cAccessible, "GetRoleName").value(0).toString();
-        part.name = ask(*m_pReader, part.service, part.path, "org.freedesktop.DBus.Properties", "Get",
-                        {QLatin1String(cAccessible), QStringLiteral("Name")})
-                        .value(0)
-                        .value<QDBusVariant>()
-                        .variant()
-                        .toString();
-    }
-    void readAll(const QString &strService, const QString &strPath, QList<Part> &found) const
-    {
-        for (Part &part : childrenOf(strService, strPath)) {
-            read(part);
-            found.append(part);
-            readAll(part.service, part.path, found);
-        }
-    }
-    /// All parts of all windows of the only application on the bus.
-    QList<Part> everything() const
-    {
-        QList<Part> found;
-        readAll(QStringLiteral("org.a11y.atspi.Registry"), QStringLiteral("/org/a11y/atspi/accessible/root"), found);
-        return found;
-    }
+    QList<Part> everything() const { return m_reader.everything(); }
     static QStringList namesOf(const QList<Part> &parts, const QString &strRole)
     {
         QStringList names;
@@ -108,12 +33,7 @@ private:
         return names;
     }
 
-    int m_iArguments = 1;
-    char m_name[5] = "test";
-    char *m_arguments[2] = {m_name, nullptr};
-    QProcess m_daemon;
-    std::unique_ptr<QApplication> m_pApplication;
-    std::unique_ptr<QDBusConnection> m_pReader;
+    BusReader m_reader;
     std::unique_ptr<HostLanguage> m_pLanguage;
     std::unique_ptr<ContactFixture> m_pContacts;
     std::unique_ptr<CVoipWidget> m_pWindow;
@@ -121,37 +41,12 @@ private:
 private slots:
     void initTestCase()
     {
-        m_daemon.start(QStringLiteral("dbus-daemon"), {"--session", "--nofork", "--print-address=1"});
-        QVERIFY2(m_daemon.waitForReadyRead(cPatienceMs), qPrintable(m_daemon.errorString()));
-        qputenv("DBUS_SESSION_BUS_ADDRESS", m_daemon.readLine().trimmed());
-        qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
-        m_pApplication = std::make_unique<QApplication>(m_iArguments, m_arguments);
-        // The question starts the accessibility bus, as a screen reader's does.
-        const QString strAddress = ask(QDBusConnection::sessionBus(), QStringLiteral("org.a11y.Bus"),
-                                       QStringLiteral("/org/a11y/bus"), "org.a11y.Bus", "GetAddress")
-                                       .value(0)
-                                       .toString();
-        QTRY_VERIFY_WITH_TIMEOUT(QAccessible::isActive(), cPatienceMs);
-        m_pReader =
-            std::make_unique<QDBusConnection>(QDBusConnection::connectToBus(strAddress, QStringLiteral("reader")));
-        QVERIFY2(m_pReader->isConnected(), qPrintable(strAddress));
+        QVERIFY(m_reader.start());
         m_pLanguage = std::make_unique<HostLanguage>(QStringLiteral(VOIP_TRANSLATIONS));
         QVERIFY(m_pLanguage->use(QStringLiteral("en")));
-        QTRY_COMPARE_WITH_TIMEOUT(
-            childrenOf(QStringLiteral("org.a11y.atspi.Registry"), QStringLiteral("/org/a11y/atspi/accessible/root"))
-                .size(),
-            1, cPatienceMs);
     }
 
-    void cleanupTestCase()
-    {
-        m_pLanguage.reset();
-        m_pReader.reset();
-        QDBusConnection::disconnectFromBus(QStringLiteral("reader"));
-        m_pApplication.reset();
-        m_daemon.terminate();
-        m_daemon.waitForFinished(cPatienceMs);
-    }
+    void cleanupTestCase() { m_pLanguage.reset(); }
 
     void init()
     {
@@ -195,7 +90,7 @@ private slots:
         QSignalSpy enabled(m_pWindow.get(), SIGNAL(signal_SetMicEnable(bool)));
         for (const Part &part : everything()) {
             if (part.name == QLatin1String("Mute the microphone")) {
-                ask(*m_pReader, part.service, part.path, "org.a11y.atspi.Action", "DoAction", {0});
+                m_reader.press(part);
                 QTRY_COMPARE_WITH_TIMEOUT(enabled.size(), 1, cPatienceMs);
             }
         }

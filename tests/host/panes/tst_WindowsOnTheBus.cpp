@@ -1,0 +1,372 @@
+// Every window on a real accessibility bus, in a language with Latin and one with Chinese letters: what takes the
+// keyboard and every button has a role and a name in that language, and the real Tab key leads to each.
+
+#include "client/ContactBook.h"
+#include "client/HostLanguage.h"
+#include "client/HostSession.h"
+#include "panes/ContactRow.h"
+#include "panes/MainWindow.h"
+#include "panes/MemberPicker.h"
+#include "panes/QuitQuestion.h"
+
+#include "fakes/Patience.h"
+#include "host/history/CallRows.h"
+#include "host/panes/BusReader.h"
+#include "ui/ContactFixture.h"
+#include "ui/VoiceConferenceWidget.h"
+#include "ui/VoipWidget.h"
+#include "widgets/ErrorMessage.h"
+
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace {
+
+/// Counts how often the Tab key has come up in this process, whatever it did.
+class TabCounter : public QObject
+{
+public:
+    TabCounter() { qApp->installEventFilter(this); }
+    int count() const { return m_iCount; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::KeyRelease && watched->isWindowType() &&
+            static_cast<QKeyEvent *>(event)->key() == Qt::Key_Tab) {
+            // Once the window has dealt with it.
+            QTimer::singleShot(0, this, [this] { ++m_iCount; });
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    int m_iCount = 0;
+};
+
+/// The client, signed in without a plug-in, with calls of each kind, and what the plug-in's windows show.
+class Windows
+{
+public:
+    using Open = std::function<QWidget *(Windows &)>;
+
+    QWidget *main()
+    {
+        startClient();
+        m_pSession->history().add(callRow("30010001", 2));
+        m_pWindow->show();
+        auto *calls = m_pWindow->findChild<QWidget *>(QStringLiteral("tableRecords"));
+        calls->setFocus();
+        QTest::keyClick(calls, Qt::Key_Delete);
+        m_pSession->history().add(conferenceRow("30010001", "30010002", 1));
+        m_pSession->history().add(missedRow("30010002"));
+        m_pWindow->findChild<QAbstractButton *>(QStringLiteral("happeningsButton"))->setChecked(true);
+        return m_pWindow.get();
+    }
+    QWidget *settings(int iPage)
+    {
+        startClient();
+        m_pWindow->settingsPage().open();
+        m_pWindow->settingsPage().findChild<QTabWidget *>()->setCurrentIndex(iPage);
+        return &m_pWindow->settingsPage();
+    }
+    QWidget *prompt()
+    {
+        startClient();
+        m_pWindow->prompt().prompt(QStringLiteral("30010002"), false, false);
+        return &m_pWindow->prompt();
+    }
+    QWidget *quitQuestion()
+    {
+        startClient();
+        m_pWindow->show();
+        return keep(new QuitQuestion(m_pWindow.get()));
+    }
+    QWidget *picker() { return keep(new MemberPicker(m_book, MemberPicker::NewConference, QStringList(), nullptr)); }
+    QWidget *messageBox()
+    {
+        auto *box = new ErrorMessage(QString(), QString(), nullptr);
+        box->setBtnText(CVoipWidget::tr("sure"), CVoipWidget::tr("cancel"));
+        return keep(box);
+    }
+    QWidget *centre(bool bDetail)
+    {
+        addContact();
+        ConfInfoData info;
+        info.m_strConfID = QStringLiteral("c1");
+        info.m_strCreatUserID = QStringLiteral("1001");
+        info.m_strCreatTime = QStringLiteral("2024-03-05 09:08:07");
+        info.m_strCallTime = QStringLiteral("3675");
+        info.m_listMember = QStringList{QStringLiteral("1001")};
+        info.m_bIsConnect = true;
+        auto *centre = new CVoiceConferenceWidget;
+        centre->addConferenceInfo(info);
+        if (bDetail) {
+            QMetaObject::invokeMethod(centre, "slot_ShowConfDetail", Q_ARG(QString, info.m_strConfID));
+        }
+        return keep(centre);
+    }
+    QWidget *callWindow(CVoipWidget::VoipType type, bool bConnected)
+    {
+        addContact();
+        auto *window = new CVoipWidget;
+        window->setVoipCallInfo({QStringLiteral("1001")}, type, true, bConnected);
+        return keep(window);
+    }
+
+    /// What stands in the windows as it is, whatever the language.
+    QStringList namesOfPeople() const
+    {
+        QStringList names;
+        for (const ContactBook::Entry &entry : m_book.entries()) {
+            names.append(entry.shownName());
+        }
+        for (const HostLanguage::Choice &choice : HostLanguage::choices()) {
+            names.append(choice.ownName);
+        }
+        return names;
+    }
+
+private:
+    void startClient()
+    {
+        m_pSession = std::make_unique<HostSession>(m_book);
+        QString error;
+        m_pSession->start(QStringLiteral("/no/module.so"), &error);
+        m_pSession->setOnline(true);
+        m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
+    }
+    void addContact()
+    {
+        m_pContacts = std::make_unique<ContactFixture>();
+        m_pContacts->addContact(QStringLiteral("1001"), ContactFixture::card(QStringLiteral("1001"), {}));
+    }
+    QWidget *keep(QWidget *window)
+    {
+        m_pOther.reset(window);
+        return window;
+    }
+
+    ContactBook m_book{QStringLiteral("example.org")};
+    std::unique_ptr<ContactFixture> m_pContacts;
+    std::unique_ptr<HostSession> m_pSession;
+    std::unique_ptr<MainWindow> m_pWindow;
+    std::unique_ptr<QWidget> m_pOther;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Windows::Open)
+
+class tst_WindowsOnTheBus : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(m_reader.start());
+        m_pLanguage = std::make_unique<HostLanguage>(QStringLiteral(VOIP_TRANSLATIONS));
+    }
+
+    void cleanupTestCase() { m_pLanguage.reset(); }
+
+    void init()
+    {
+        QFETCH(QString, language);
+        QFETCH(Windows::Open, open);
+        QVERIFY(m_pLanguage->use(language));
+        m_pWindows = std::make_unique<Windows>();
+        m_pWindow = open(*m_pWindows);
+        m_pWindow->show();
+        m_pWindow->raise();
+        m_pWindow->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pWindow, cPatienceMs));
+    }
+
+    void cleanup()
+    {
+        m_pWindow = nullptr;
+        m_pWindows.reset();
+    }
+
+    void whatCanBeUsedHasRoleAndName_data() { addWindows({"en", "zh_CN"}); }
+
+    void whatCanBeUsedHasRoleAndName()
+    {
+        QFETCH(QString, language);
+        QStringList faults;
+        int iUsable = 0;
+        for (const Part &part : m_reader.shownIn(*m_pWindow)) {
+            static const QRegularExpression privateUse(QStringLiteral("[\uE000-\uF8FF]"));
+            if (part.name.contains(privateUse)) {
+                faults.append(QStringLiteral("a glyph: ") + wordsOf(part));
+            }
+            if (!isUsable(part)) {
+                continue;
+            }
+            ++iUsable;
+            if (part.role.isEmpty() || part.role == QLatin1String("unknown") || part.role == QLatin1String("invalid")) {
+                faults.append(QStringLiteral("no role: ") + wordsOf(part));
+            }
+            // A cell that shows nothing says nothing.
+            if (part.name.trimmed().isEmpty() && part.role != QLatin1String("cell")) {
+                faults.append(QStringLiteral("no name: ") + wordsOf(part));
+            } else if (!isIn(language, part.name)) {
+                faults.append(QStringLiteral("not in the language: ") + wordsOf(part));
+            }
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+        QFETCH(int, least);
+        QVERIFY2(iUsable >= least, qPrintable(QString::number(iUsable)));
+    }
+
+    void tabLeadsToEverything_data() { addWindows({"en"}); }
+
+    void tabLeadsToEverything()
+    {
+        QStringList missed;
+        const QStringList stops = tabStops(missed);
+        const QList<Part> parts = m_reader.shownIn(*m_pWindow);
+        for (const Part &part : parts) {
+            if (part.is(BusReader::Focusable) && part.is(BusReader::Enabled) && !isReached(part, stops, parts)) {
+                missed.append(wordsOf(part));
+            }
+        }
+        QVERIFY2(missed.isEmpty(), qPrintable(missed.join('\n')));
+    }
+
+private:
+    using Part = BusReader::Part;
+
+    static void addWindows(const std::vector<const char *> &languages)
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<Windows::Open>("open");
+        QTest::addColumn<int>("least");
+        const auto add = [&languages](const char *strName, int iLeast, const Windows::Open &open) {
+            for (const char *language : languages) {
+                QTest::addRow("%s, %s", strName, language) << QString::fromLatin1(language) << open << iLeast;
+            }
+        };
+        add("main window", 30, [](Windows &w) { return w.main(); });
+        add("settings of calls", 8, [](Windows &w) { return w.settings(0); });
+        add("settings of sound", 3, [](Windows &w) { return w.settings(1); });
+        add("settings of keys", 2, [](Windows &w) { return w.settings(2); });
+        add("prompt", 2, [](Windows &w) { return w.prompt(); });
+        add("picker", 4, [](Windows &w) { return w.picker(); });
+        add("quit question", 2, [](Windows &w) { return w.quitQuestion(); });
+        add("message box", 2, [](Windows &w) { return w.messageBox(); });
+        add("centre", 2, [](Windows &w) { return w.centre(false); });
+        add("conference in the centre", 2, [](Windows &w) { return w.centre(true); });
+        add("outgoing call", 2, [](Windows &w) { return w.callWindow(CVoipWidget::Voice, false); });
+        add("voice call", 2, [](Windows &w) { return w.callWindow(CVoipWidget::Voice, true); });
+        add("video call", 2, [](Windows &w) { return w.callWindow(CVoipWidget::Video, true); });
+        add("conference", 6, [](Windows &w) { return w.callWindow(CVoipWidget::Conference, true); });
+    }
+    static QObject *objectOf(const Part &part)
+    {
+        return QAccessible::accessibleInterface(part.path.section('/', -1).toUInt())->object();
+    }
+    static QString wordsOf(const Part &part)
+    {
+        const QObject *object = objectOf(part);
+        return QStringLiteral("%1 '%2' %3").arg(part.role, part.name, object ? object->objectName() : QString());
+    }
+    static bool isUsable(const Part &part)
+    {
+        static const QStringList roles{"push button", "toggle button", "check box", "radio button",
+                                       "combo box",   "slider",        "page tab",  "list item"};
+        return part.is(BusReader::Focusable) || roles.contains(part.role);
+    }
+    /// Whether a name's own words are of that language; numbers and what people are called are of each.
+    bool isIn(const QString &strLanguage, QString strName) const
+    {
+        for (const QString &strPerson : m_pWindows->namesOfPeople()) {
+            strName.remove(strPerson);
+        }
+        static const QRegularExpression file(QStringLiteral("/\\S+"));
+        strName.remove(file);
+        static const QRegularExpression chinese(QStringLiteral("[\u4e00-\u9fa5]"));
+        static const QRegularExpression latin(QStringLiteral("[A-Za-z]{2}"));
+        return strLanguage == QLatin1String("en") ? !strName.contains(chinese)
+                                                  : strName.contains(chinese) || !strName.contains(latin);
+    }
+    /// Where the keyboard stops while Tab goes round; those that the bus does not know the focus to be at, too.
+    QStringList tabStops(QStringList &silent) const
+    {
+        const TabCounter tabs;
+        const Part application = m_reader.applications().value(0);
+        QStringList stops;
+        while (QApplication::focusWidget() != nullptr) {
+            Part stop;
+            stop.service = application.service;
+            stop.path = BusReader::pathOf(*QApplication::focusWidget());
+            if (stops.contains(stop.path)) {
+                break;
+            }
+            stops.append(stop.path);
+            stop = m_reader.read(stop);
+            // In a list of either kind its cell has the focus.
+            static const QStringList lists{"list", "table", "tree"};
+            if (!stop.is(BusReader::Focused) && !lists.contains(stop.role)) {
+                silent.append(wordsOf(stop));
+            }
+            const int pressed = tabs.count() + 1;
+            QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("key"), QStringLiteral("Tab")});
+            if (!QTest::qWaitFor([&] { return tabs.count() >= pressed; }, cPatienceMs)) {
+                silent.append(QStringLiteral("the key did not come"));
+                break;
+            }
+        }
+        return stops;
+    }
+    /// Whether Tab leads there, or to where arrow keys lead on from.
+    static bool isReached(const Part &part, const QStringList &stops, const QList<Part> &parts)
+    {
+        // Words that can be chosen with the mouse are read without the keyboard being there.
+        if (stops.contains(part.path) || part.role == QLatin1String("label")) {
+            return true;
+        }
+        const auto *widget = qobject_cast<const QWidget *>(objectOf(part));
+        if (widget != nullptr && widget->focusProxy() != nullptr) {
+            return stops.contains(BusReader::pathOf(*widget->focusProxy()));
+        }
+        const auto *button = qobject_cast<const QAbstractButton *>(widget);
+        const bool bOneOfMany = button != nullptr && (button->autoExclusive() || button->group() != nullptr);
+        return qobject_cast<const ContactRow *>(widget) != nullptr || bOneOfMany
+                   ? hasReachedNeighbour(part, stops, parts)
+                   : widget == nullptr && isIn(part, stops, parts);
+    }
+    static bool hasReachedNeighbour(const Part &part, const QStringList &stops, const QList<Part> &parts)
+    {
+        return std::any_of(parts.begin(), parts.end(), [&](const Part &other) {
+            return other.parent == part.parent && other.role == part.role && stops.contains(other.path);
+        });
+    }
+    /// Whether an item is one of a list, a table, a box or a bar of tabs that Tab leads to.
+    static bool isIn(const Part &item, const QStringList &stops, const QList<Part> &parts)
+    {
+        return stops.contains(item.parent) || std::any_of(parts.begin(), parts.end(), [&](const Part &holder) {
+                   return holder.path == item.parent && isIn(holder, stops, parts);
+               });
+    }
+
+    BusReader m_reader;
+    std::unique_ptr<HostLanguage> m_pLanguage;
+    std::unique_ptr<Windows> m_pWindows;
+    QWidget *m_pWindow = nullptr;
+};
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_WindowsOnTheBus, Appless)
+#include "tst_WindowsOnTheBus.moc"
