@@ -1,5 +1,7 @@
 #include "support/TestProgram.h"
 
+#include "common/log/QtWarningFilter.h"
+
 #include <QApplication>
 #include <QtTest>
 
@@ -41,6 +43,13 @@ std::unique_ptr<QCoreApplication> surroundingsOf(const TestClass &testClass, int
     return application;
 }
 
+/// Runs what QTest::qInit has prepared. QTest's own handler of messages stands already, so the filter is asked first.
+int runFiltered()
+{
+    const QtWarningFilter filter;
+    return QTest::qRun();
+}
+
 int usage(const char *program)
 {
     std::fprintf(stderr, "usage: %s CLASS [ARGUMENTS OF QT TEST...]\n\nIts classes:\n", program);
@@ -70,5 +79,8 @@ int main(int argc, char *argv[])
     const std::unique_ptr<QCoreApplication> application = surroundingsOf(*testClass, argc, argv);
     const std::unique_ptr<QObject> tests = testClass->make();
     QTest::setMainSourcePath(testClass->source);
-    return QTest::qExec(tests.get(), argc, argv);
+    QTest::qInit(tests.get(), argc, argv);
+    const int result = runFiltered();
+    QTest::qCleanup();
+    return result;
 }

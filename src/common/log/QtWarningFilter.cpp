@@ -50,14 +50,21 @@ bool QtWarningFilter::isKnown(QtMsgType type, const QString &strText)
     return reasonOf(type, strText) != Unknown;
 }
 
-QtWarningFilter::QtWarningFilter()
+QtWarningFilter::QtWarningFilter() : m_outer(s_previous)
 {
     // Known before the first message comes.
-    s_previous = qInstallMessageHandler(nullptr);
+    m_previous = qInstallMessageHandler(nullptr);
+    if (m_previous != passOn) {
+        s_previous = m_previous;
+    }
     qInstallMessageHandler(passOn);
 }
 
 QtWarningFilter::~QtWarningFilter()
 {
-    qInstallMessageHandler(s_previous);
+    qInstallMessageHandler(m_previous);
+    // Another thread may still be in passOn, so there is always one to pass on to.
+    if (m_outer != nullptr) {
+        s_previous = m_outer;
+    }
 }

@@ -8,6 +8,7 @@
 
 class QString;
 
+/// Filters may stand in one another; the outer one is the last to go.
 class QtWarningFilter
 {
 public:
@@ -31,4 +32,8 @@ public:
     ~QtWarningFilter();
     QtWarningFilter(const QtWarningFilter &) = delete;
     QtWarningFilter &operator=(const QtWarningFilter &) = delete;
+
+private:
+    QtMessageHandler m_outer;              // whom the filter around this one passes lines on to; null without one
+    QtMessageHandler m_previous = nullptr; // whose the channel was
 };

@@ -48,6 +48,41 @@ private slots:
                                        "Could not parse stylesheet of object CLineEditEx(0x55d0)", "1",
                                        "Could not parse stylesheet of object CLineEditEx(0x55d0)"}));
     }
+
+    void filterWithinAFilterGoesAloneAndRepeatsNothing()
+    {
+        s_lines.clear();
+        const QtMessageHandler before = qInstallMessageHandler(keep);
+        {
+            const QtWarningFilter outer;
+            {
+                const QtWarningFilter inner;
+                qWarning("within both");
+                qWarning("QObject::connect:  (sender name:   'CVoipWidget')");
+            }
+            qWarning("within one");
+            qWarning("QObject::connect:  (sender name:   'CVoipWidget')");
+        }
+        qWarning("within none");
+        qInstallMessageHandler(before);
+        QCOMPARE(s_lines, (QStringList{"within both", "within one", "within none"}));
+    }
+
+    void handlerBetweenTwoFiltersHearsWhatTheInnerOneLeaves()
+    {
+        s_lines.clear();
+        const QtWarningFilter outer;
+        const QtMessageHandler before = qInstallMessageHandler(keep);
+        {
+            const QtWarningFilter inner;
+            qWarning("heard");
+        }
+        qInstallMessageHandler(before);
+        QTest::ignoreMessage(QtWarningMsg, "not heard");
+        qWarning("not heard");
+        qWarning("QObject::connect:  (sender name:   'CVoipWidget')");
+        QCOMPARE(s_lines, QStringList{"heard"});
+    }
 };
 
 QStringList tst_QtWarningFilter::s_lines;
