@@ -8,7 +8,10 @@
 #include "panes/MainWindow.h"
 #include "panes/MemberPicker.h"
 #include "panes/QuitQuestion.h"
+#include "panes/VideoCard.h"
+#include "screen/WindowProbe.h"
 
+#include "common/CLogManger.h"
 #include "fakes/Patience.h"
 #include "host/history/CallRows.h"
 #include "host/panes/BusReader.h"
@@ -72,6 +75,16 @@ public:
         m_pWindow->findChild<QAbstractButton *>(QStringLiteral("happeningsButton"))->setChecked(true);
         return m_pWindow.get();
     }
+    /// With the bar that tells of a lost call service; null where it does not come.
+    QWidget *lostService()
+    {
+        startClient();
+        m_pSession->callService().setPauses({0});
+        m_pSession->callService().setWanted(true);
+        m_pWindow->show();
+        const auto isTold = [this] { return WindowProbe::isShown(m_pWindow.get(), "btnStartService"); };
+        return QTest::qWaitFor(isTold, cPatienceMs) ? m_pWindow.get() : nullptr;
+    }
     QWidget *settings(int iPage)
     {
         startClient();
@@ -122,6 +135,16 @@ public:
         window->setVoipCallInfo({QStringLiteral("1001")}, type, true, bConnected);
         return keep(window);
     }
+    /// A video call without a picture; null where its card does not come.
+    QWidget *callUnderItsCard()
+    {
+        QWidget *window = callWindow(CVoipWidget::Video, true);
+        window->show();
+        m_pCard = std::make_unique<VideoCard>(m_book);
+        m_pCard->accompany(window, QStringLiteral("30010001"));
+        return QTest::qWaitFor([this] { return m_pCard->isVisible(); }, cPatienceMs) ? window : nullptr;
+    }
+    QWidget &card() { return *m_pCard; }
 
     /// What stands in the windows as it is, whatever the language.
     QStringList namesOfPeople() const
@@ -161,6 +184,7 @@ private:
     std::unique_ptr<HostSession> m_pSession;
     std::unique_ptr<MainWindow> m_pWindow;
     std::unique_ptr<QWidget> m_pOther;
+    std::unique_ptr<VideoCard> m_pCard;
 };
 
 } // namespace
@@ -175,6 +199,8 @@ private slots:
     void initTestCase()
     {
         QVERIFY(m_reader.start());
+        // The log keeps for good the writer that it first finds, and each session brings its own.
+        CLogManger::instance();
         m_pLanguage = std::make_unique<HostLanguage>(QStringLiteral(VOIP_TRANSLATIONS));
     }
 
@@ -187,6 +213,7 @@ private slots:
         QVERIFY(m_pLanguage->use(language));
         m_pWindows = std::make_unique<Windows>();
         m_pWindow = open(*m_pWindows);
+        QVERIFY(m_pWindow != nullptr);
         m_pWindow->show();
         m_pWindow->raise();
         m_pWindow->activateWindow();
@@ -245,6 +272,27 @@ private slots:
         QVERIFY2(missed.isEmpty(), qPrintable(missed.join('\n')));
     }
 
+    void cardOfAVideoCallSaysWhoItIsAndWhyNothingIsSeen_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<Windows::Open>("open");
+        QTest::addColumn<QString>("why");
+        const Windows::Open open = [](Windows &w) { return w.callUnderItsCard(); };
+        QTest::newRow("en") << QStringLiteral("en") << open << QStringLiteral("No picture here");
+        QTest::newRow("zh_CN") << QStringLiteral("zh_CN") << open << QStringLiteral("这里没有画面");
+    }
+
+    void cardOfAVideoCallSaysWhoItIsAndWhyNothingIsSeen()
+    {
+        QFETCH(QString, why);
+        QStringList words;
+        for (const Part &part : m_reader.shownIn(m_pWindows->card())) {
+            words.append(part.name);
+        }
+        QVERIFY2(words.contains(QStringLiteral("李雷")), qPrintable(words.join('\n')));
+        QVERIFY2(!words.filter(why).isEmpty(), qPrintable(words.join('\n')));
+    }
+
 private:
     using Part = BusReader::Part;
 
@@ -259,6 +307,7 @@ private:
             }
         };
         add("main window", 30, [](Windows &w) { return w.main(); });
+        add("lost call service", 25, [](Windows &w) { return w.lostService(); });
         add("settings of calls", 8, [](Windows &w) { return w.settings(0); });
         add("settings of sound", 3, [](Windows &w) { return w.settings(1); });
         add("settings of keys", 2, [](Windows &w) { return w.settings(2); });
@@ -271,6 +320,7 @@ private:
         add("outgoing call", 2, [](Windows &w) { return w.callWindow(CVoipWidget::Voice, false); });
         add("voice call", 2, [](Windows &w) { return w.callWindow(CVoipWidget::Voice, true); });
         add("video call", 2, [](Windows &w) { return w.callWindow(CVoipWidget::Video, true); });
+        add("video call under its card", 2, [](Windows &w) { return w.callUnderItsCard(); });
         add("conference", 6, [](Windows &w) { return w.callWindow(CVoipWidget::Conference, true); });
     }
     static QObject *objectOf(const Part &part)
