@@ -3,11 +3,14 @@
 // What a person does by the real mouse and the real keys, one thing after another, while event loops of dialogs come
 // and go. GUI thread.
 
+#include "screen/WindowProbe.h"
+
 #include "fakes/Patience.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QHash>
+#include <QMenu>
 #include <QProcess>
 #include <QTest>
 #include <QTimer>
@@ -72,6 +75,37 @@ public:
             return QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("key"), QLatin1String(strKey)}) == 0;
         };
     }
+    /// Does that, and again, as a person does, as long as it has no effect.
+    static Deed again(const Deed &what, const std::function<bool()> &hasEffect)
+    {
+        return [what, hasEffect, looks = 0]() mutable {
+            if (hasEffect()) {
+                return true;
+            }
+            if (looks++ % cLooks == 0) {
+                what();
+            }
+            return false;
+        };
+    }
+
+    /// Opens a menu in that way and chooses the item of that text in it, by the real keys or the real mouse.
+    static std::vector<Deed> choose(const Deed &open, bool bByKeys, const QString &strItem,
+                                    const std::function<bool()> &hasEffect)
+    {
+        const auto isCurrent = [strItem] {
+            const auto *menu = qobject_cast<const QMenu *>(QApplication::activePopupWidget());
+            return menu != nullptr && menu->activeAction() != nullptr && menu->activeAction()->text() == strItem;
+        };
+        const auto clickItem = [strItem] {
+            const WindowProbe::Spot item = WindowProbe::menuItem(strItem);
+            return item.widget != nullptr && clickOn(*item.widget, item.place);
+        };
+        const Deed isOpen = [] { return !WindowProbe::menuTexts().isEmpty(); };
+        return bByKeys ? std::vector<Deed>{again(open, isOpen), again(key("Down"), isCurrent),
+                                           again(key("Return"), hasEffect)}
+                       : std::vector<Deed>{again(open, isOpen), again(clickItem, hasEffect)};
+    }
 
     /// Waits until that is so.
     static Deed until(std::function<bool()> isSo) { return isSo; }
@@ -84,21 +118,30 @@ public:
         };
     }
 
+    /// How the mouse is clicked.
+    enum Click
+    {
+        Single,
+        Double,
+        Right
+    };
     /// Clicks with the real mouse at that place of a window, wherever the server has it: where a window manager is
     /// late, Qt may have the window's own place wrong.
-    static bool clickIn(const QWidget &window, const QPoint &place)
+    static bool clickIn(const QWidget &window, const QPoint &place, Click click = Single)
     {
         const QPoint pixel = place * window.devicePixelRatioF();
         return QProcess::execute(QStringLiteral("xdotool"),
                                  {QStringLiteral("mousemove"), QStringLiteral("--window"),
                                   QString::number(window.winId()), QString::number(pixel.x()),
-                                  QString::number(pixel.y()), QStringLiteral("click"), QStringLiteral("1")}) == 0;
+                                  QString::number(pixel.y()), QStringLiteral("click"), QStringLiteral("--repeat"),
+                                  QString::number(click == Double ? 2 : 1), QStringLiteral("--delay"),
+                                  QStringLiteral("10"), QString::number(click == Right ? 3 : 1)}) == 0;
     }
 
     /// The same on a part of a window, at that place of the part.
-    static bool clickOn(const QWidget &part, const QPoint &place)
+    static bool clickOn(const QWidget &part, const QPoint &place, Click click = Single)
     {
-        return clickIn(*part.window(), part.mapTo(part.window(), place));
+        return clickIn(*part.window(), part.mapTo(part.window(), place), click);
     }
 
     /// Where the server has the window, without its frame; empty while it has none such.

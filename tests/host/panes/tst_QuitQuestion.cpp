@@ -8,6 +8,7 @@
 #include "traffic/TraceFolder.h"
 
 #include "fakes/Patience.h"
+#include "host/panes/Deeds.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -42,50 +43,61 @@ private slots:
     void escapeKeepsTheCall()
     {
         m_session.setOnline(true);
-        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->prompt().isVisible(), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->prompt().isActiveWindow(), cPatienceMs);
         QVERIFY(m_session.isExistCall());
-        QVERIFY(!m_pWindow->close());
-        QVERIFY(question() != nullptr);
-        QVERIFY(QTest::qWaitForWindowActive(question(), cPatienceMs));
+        QVERIFY(closeWindow());
         QCOMPARE(question()->text(), QStringLiteral("A call is on."));
-        QTest::keyClick(question(), Qt::Key_Escape);
-        QTRY_VERIFY_WITH_TIMEOUT(question() == nullptr, cPatienceMs);
+        QVERIFY(answerBy("Escape"));
         QVERIFY(m_pWindow->isVisible());
         QVERIFY(m_session.isExistCall());
     }
 
     void theKeyboardBeginsOnTheAnswerThatKeepsTheCall()
     {
-        QVERIFY(!m_pWindow->close());
-        QVERIFY(QTest::qWaitForWindowActive(question(), cPatienceMs));
-        QTest::keyClick(question()->focusWidget(), Qt::Key_Return);
-        QTRY_VERIFY_WITH_TIMEOUT(question() == nullptr, cPatienceMs);
+        QVERIFY(closeWindow());
+        QVERIFY(answerBy("Return"));
         QVERIFY(m_pWindow->isVisible() && m_session.isExistCall());
     }
 
     void secondCloseAsksNoSecondTime()
     {
-        QVERIFY(!m_pWindow->close());
+        QVERIFY(closeWindow());
+        // As a window manager may ask all the same.
         QVERIFY(!m_pWindow->close());
         QCOMPARE(m_pWindow->findChildren<QuitQuestion *>().size(), 1);
     }
 
     void quitEndsTheCallAndTheClient()
     {
-        QAbstractButton *quit = nullptr;
+        const QAbstractButton *quit = nullptr;
         const QList<QAbstractButton *> buttons = question()->buttons();
         for (QAbstractButton *button : buttons) {
             quit = question()->buttonRole(button) == QMessageBox::AcceptRole ? button : quit;
         }
         QVERIFY(quit != nullptr);
-        QTest::mouseClick(quit, Qt::LeftButton);
-        QTRY_VERIFY_WITH_TIMEOUT(!m_pWindow->isVisible(), cPatienceMs);
+        Deeds deeds({Deeds::again([quit] { return quit != nullptr && Deeds::clickOn(*quit, quit->rect().center()); },
+                                  [this] { return !m_pWindow->isVisible(); })});
+        QVERIFY(deeds.finish());
         QVERIFY(!m_pWindow->prompt().isVisible());
         QTRY_VERIFY_WITH_TIMEOUT(!CallChannel::isListening(), cPatienceMs);
     }
 
 private:
     QuitQuestion *question() const { return m_pWindow->findChild<QuitQuestion *>(); }
+    /// Closes the client's window by the window manager's own keys; true when the question is in front.
+    bool closeWindow()
+    {
+        m_pWindow->comeToFront();
+        Deeds deeds({Deeds::until([this] { return m_pWindow->isActiveWindow(); }), Deeds::key("alt+F4"),
+                     Deeds::until([this] { return question() != nullptr && question()->isActiveWindow(); })});
+        return deeds.finish();
+    }
+    /// Answers the question by the real keyboard; true when it has gone.
+    bool answerBy(const QByteArray &strKey)
+    {
+        Deeds deeds({Deeds::key(strKey), Deeds::until([this] { return question() == nullptr; })});
+        return deeds.finish();
+    }
 
     const TraceFolder m_traces;
     ContactBook m_book{HostSession::loginDomain()};
