@@ -58,7 +58,7 @@ void CallNotice::show(const QString &strTitle, const QString &strText)
     // Its text may be read as markup.
     const QDBusMessage call = callOf(
         "Notify", {QStringLiteral("KelvarIM"), m_id, QStringLiteral("kelvarim-demo"), strTitle, strText.toHtmlEscaped(),
-                   QStringList{QLatin1String(cDefaultAction), tr("Answer")}, hints(), cStays});
+                   QStringList{QLatin1String(cDefaultAction), tr("Show")}, hints(), cStays});
     auto *watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call, cAnswerMs), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, iTurn, strTitle, strText] {
         watcher->deleteLater();

@@ -2033,8 +2033,8 @@
 <context>
     <name>CallNotice</name>
     <message>
-        <source>Answer</source>
-        <translation>Answer</translation>
+        <source>Show</source>
+        <translation>Show</translation>
     </message>
 </context>
 </TS>

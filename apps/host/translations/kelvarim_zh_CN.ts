@@ -2026,8 +2026,8 @@
 <context>
     <name>CallNotice</name>
     <message>
-        <source>Answer</source>
-        <translation>接听</translation>
+        <source>Show</source>
+        <translation>查看</translation>
     </message>
 </context>
 </TS>

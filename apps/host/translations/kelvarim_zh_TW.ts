@@ -2026,8 +2026,8 @@
 <context>
     <name>CallNotice</name>
     <message>
-        <source>Answer</source>
-        <translation>接聽</translation>
+        <source>Show</source>
+        <translation>檢視</translation>
     </message>
 </context>
 </TS>

@@ -86,7 +86,7 @@ private slots:
         QCOMPARE(notice.program, QStringLiteral("KelvarIM"));
         QCOMPARE(notice.title, QStringLiteral("Anna Novak"));
         QTEST(notice.text, "text");
-        QCOMPARE(notice.actions, (QStringList{"default", "Answer"}));
+        QCOMPARE(notice.actions, (QStringList{"default", "Show"}));
         QCOMPARE(notice.hints.value(QStringLiteral("urgency")).toInt(), 2);
         // It stays as long as it rings.
         QCOMPARE(notice.expires, 0);
