@@ -214,13 +214,32 @@ QString CallHistoryModel::directionText(const CallEntry &entry)
     return entry.caller ? tr("outgoing") : tr("incoming");
 }
 
+QString CallHistoryModel::shownDirection(const CallEntry &entry)
+{
+    return QString(QChar(entry.caller ? 0x2192 : 0x2190)) + QLatin1Char(' ') + directionText(entry);
+}
+
+QStringList CallHistoryModel::directions()
+{
+    QStringList texts;
+    for (const bool video : {false, true}) {
+        for (const bool caller : {false, true}) {
+            CallEntry entry;
+            entry.video = video;
+            entry.caller = caller;
+            texts << shownDirection(entry);
+        }
+    }
+    return texts;
+}
+
 QString CallHistoryModel::text(const CallEntry &entry, int column) const
 {
     switch (column) {
     case Who:
         return whoText(entry, m_book);
     case Direction:
-        return QString(QChar(entry.caller ? 0x2192 : 0x2190)) + QLatin1Char(' ') + directionText(entry);
+        return shownDirection(entry);
     case Outcome:
         return historyWord(entry);
     case Duration:

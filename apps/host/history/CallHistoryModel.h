@@ -54,6 +54,8 @@ public:
     static QString whoText(const CallEntry &entry, const ContactBook &book);
     /// Day and time in words: "Today 09:08", "Yesterday 09:08", "2024-05-03 09:08"; empty where there is none.
     static QString whenText(const QDateTime &when, const QDate &today);
+    /// All that the column of directions can say, in the language of the moment.
+    static QStringList directions();
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -67,6 +69,7 @@ private:
     bool isLeft(const CallEntry &entry) const;
     bool isFound(const QString &strUid) const;
     static QString directionText(const CallEntry &entry);
+    static QString shownDirection(const CallEntry &entry);
     QString text(const CallEntry &entry, int column) const;
 
     const CallHistory &m_history;

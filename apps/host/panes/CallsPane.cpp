@@ -21,6 +21,8 @@ namespace {
 
 // Of what the user has still to be told of so many lines stand in the notice; the others are counted.
 constexpr size_t cNoticeLines = 3;
+// What a cell needs beside its text, with something to spare for letters that lean out.
+constexpr int cCellMargin = 16;
 
 /// Shortens a text before it is laid out: the style places a shortened one by the height of the whole, which letters of
 /// another script may have made larger.
@@ -52,6 +54,11 @@ CallsPane::CallsPane(QWidget *parent) : QWidget(parent), ui(std::make_unique<Ui:
     setUpFilters();
     setUpKeys();
     connect(ui->btnCentre, &QPushButton::clicked, this, &CallsPane::centreWanted);
+    connect(ui->tableRecords, &QTableView::clicked, this, [this](const QModelIndex &index) {
+        if (m_pModel->entryAt(index.row()).isRunning()) {
+            emit callWindowWanted();
+        }
+    });
     connect(ui->tableRecords, &QTableView::doubleClicked, this, &CallsPane::redial);
     connect(ui->tableRecords, &QWidget::customContextMenuRequested, this, &CallsPane::openMenu);
     connect(ui->btnMissed, &QPushButton::clicked, this, &CallsPane::showMissed);
@@ -89,13 +96,27 @@ void CallsPane::setUpColumns()
     QHeaderView *header = ui->tableRecords->horizontalHeader();
     header->setSectionResizeMode(CallHistoryModel::Who, QHeaderView::Stretch);
     header->setMinimumSectionSize(56);
-    header->resizeSection(CallHistoryModel::Direction, 122);
+    fitDirections();
     header->resizeSection(CallHistoryModel::Outcome, 80);
     header->resizeSection(CallHistoryModel::Duration, 58);
     header->resizeSection(CallHistoryModel::When, 122);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui->tableRecords->setItemDelegate(new ShorteningDelegate(ui->tableRecords));
     ui->tableRecords->verticalHeader()->setDefaultSectionSize(32);
+}
+
+/// Makes room for the longest direction in the bold letters of what nobody has seen yet.
+void CallsPane::fitDirections()
+{
+    ui->tableRecords->ensurePolished();
+    QFont font = ui->tableRecords->font();
+    font.setBold(true);
+    const QFontMetrics metrics(font, ui->tableRecords);
+    int width = 0;
+    for (const QString &text : CallHistoryModel::directions()) {
+        width = qMax(width, metrics.horizontalAdvance(text));
+    }
+    ui->tableRecords->horizontalHeader()->resizeSection(CallHistoryModel::Direction, width + cCellMargin);
 }
 
 void CallsPane::setUpFilters()
@@ -183,6 +204,10 @@ void CallsPane::redial(const QModelIndex &index)
 
 void CallsPane::redialEntry(const CallEntry &entry)
 {
+    if (entry.isRunning()) {
+        emit callWindowWanted();
+        return;
+    }
     if (!entry.conference) {
         emit callWanted(entry.uid, entry.video);
         return;
@@ -281,6 +306,7 @@ void CallsPane::changeEvent(QEvent *event)
         nameClearButton();
         if (m_pModel != nullptr) {
             m_pModel->retranslate();
+            fitDirections();
         }
         showWords();
     }

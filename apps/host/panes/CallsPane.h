@@ -15,9 +15,9 @@ class CallsPane;
 }
 
 /// The right half of the main window: the history of calls with its search and its filters, what the user has still to
-/// be told of, and the way to the conference centre. A double click on a call, or Enter, calls again in the same way;
-/// Delete deletes what is chosen, and Ctrl+Z or a button brings it back. Whoever turns to the list, or confirms the
-/// notice, has seen what there is. GUI thread.
+/// be told of, and the way to the conference centre. A double click on a call, or Enter, calls again in the same way; a
+/// click on the one that is on, or Enter, asks for its window. Delete deletes what is chosen, and Ctrl+Z or a button
+/// brings it back. Whoever turns to the list, or confirms the notice, has seen what there is. GUI thread.
 class CallsPane : public QWidget
 {
     Q_OBJECT
@@ -41,6 +41,8 @@ signals:
     void callWanted(const QString &strUid, bool bVideo);
     /// The user wants to call the people of a conference (user ids) together again.
     void conferenceWanted(const QStringList &uids);
+    /// The user wants to see the window of the call that is on.
+    void callWindowWanted();
     /// The button for the conference centre was pressed.
     void centreWanted();
 
@@ -51,6 +53,7 @@ protected:
 
 private:
     void setUpColumns();
+    void fitDirections();
     void setUpFilters();
     void setUpKeys();
     void showMissed();

@@ -5,7 +5,12 @@
 #include "client/HostPictures.h"
 #include "client/HostSkins.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
+
+#include <algorithm>
 
 namespace {
 
@@ -109,6 +114,37 @@ void ContactRow::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
 }
 
+void ContactRow::contextMenuEvent(QContextMenuEvent *event)
+{
+    setFocus(Qt::MouseFocusReason);
+    QMenu menu(this);
+    menu.setToolTipsVisible(true);
+    for (QToolButton *button : {ui->btnCall, ui->btnVideo}) {
+        QAction *action = menu.addAction(button->icon(), button->accessibleName());
+        action->setEnabled(button->isEnabled());
+        action->setToolTip(button->toolTip());
+        connect(action, &QAction::triggered, button, &QToolButton::click);
+    }
+    menu.exec(event->globalPos());
+}
+
+/// Goes from the row to its buttons and back; false for a key that does not lead there, and where there is no way on.
+bool ContactRow::goSideways(int iKey)
+{
+    QList<QWidget *> places{this, ui->btnCall, ui->btnVideo};
+    if (iKey == Qt::Key_Left) {
+        std::reverse(places.begin(), places.end());
+    } else if (iKey != Qt::Key_Right) {
+        return false;
+    }
+    const int next = places.indexOf(QApplication::focusWidget()) + 1;
+    if (next == 0 || next == places.size() || !places.at(next)->isEnabled()) {
+        return false;
+    }
+    places.at(next)->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
 void ContactRow::focusInEvent(QFocusEvent *event)
 {
     emit entered();
@@ -119,7 +155,7 @@ void ContactRow::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         emit callClicked(m_entry.uid, false);
-    } else {
+    } else if (!goSideways(event->key())) {
         QWidget::keyPressEvent(event);
     }
 }
@@ -132,6 +168,11 @@ bool ContactRow::eventFilter(QObject *watched, QEvent *event)
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
             static_cast<QToolButton *>(watched)->click();
+            return true;
+        }
+        if (key == Qt::Key_Left || key == Qt::Key_Right) {
+            // A button would go to others that stand beside it.
+            goSideways(key);
             return true;
         }
         if (key == Qt::Key_Up || key == Qt::Key_Down) {

@@ -10,8 +10,8 @@ namespace Ui {
 class ContactRow;
 }
 
-/// One contact in the list: head, name, presence, what calling it does, and the two call buttons. Enter calls. GUI
-/// thread.
+/// One contact in the list: head, name, presence, what calling it does, and the two call buttons. Enter calls, Right
+/// and Left go to the buttons and back, the right mouse button or the Menu key opens a menu of both calls. GUI thread.
 class ContactRow : public QWidget
 {
     Q_OBJECT
@@ -42,6 +42,7 @@ signals:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     /// Leaves the keys that move through the list to the list when a button has the focus.
@@ -50,6 +51,7 @@ protected:
 private:
     void showEntry();
     void showWords();
+    bool goSideways(int iKey);
 
     std::unique_ptr<Ui::ContactRow> ui;
     ContactBook::Entry m_entry;

@@ -11,6 +11,7 @@
 #include "panes/MemberPicker.h"
 #include "panes/OverModal.h"
 #include "panes/QuitQuestion.h"
+#include "panes/WayToCall.h"
 #include "panes/WindowPlace.h"
 #include "screen/WindowProbe.h"
 #include "session/HostSession.h"
@@ -142,6 +143,8 @@ void MainWindow::connectSession()
 void MainWindow::connectCalls()
 {
     const CallWatch &calls = m_session.calls();
+    const auto *way = new WayToCall(*this, calls);
+    connect(ui->callsPane, &CallsPane::callWindowWanted, way, &WayToCall::go);
     connect(&calls, &CallWatch::changed, this, [this, &calls] { m_readiness.setInCall(calls.hasCall()); });
     connect(&calls, &CallWatch::began, this, [this](const CallEntry &call) {
         if (call.video) {

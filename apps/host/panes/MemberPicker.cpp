@@ -33,7 +33,7 @@ MemberPicker::MemberPicker(const ContactBook &book, Purpose purpose, const QStri
     ui->listPeople->setIconSize(QSize(cHeadSize, cHeadSize));
     const bool fresh = purpose == NewConference;
     setWindowTitle(fresh ? tr("New conference") : tr("Invite to the conference"));
-    ui->passedOn->setVisible(fresh);
+    ui->btnMore->setVisible(fresh);
     QStringList names;
     std::transform(named.begin(), named.end(), std::back_inserter(names),
                    [&](const QString &uid) { return book.nameOf(uid); });
@@ -237,7 +237,7 @@ void MemberPicker::showPicked()
 {
     const int count = wish().uids.size();
     ui->btnInvite->setEnabled(count > 0);
-    ui->btnInvite->setText(count > 0 ? tr("Invite (%1)").arg(count) : tr("Invite"));
+    ui->btnInvite->setText(count > 0 ? tr("&Invite (%1)").arg(count) : tr("&Invite"));
 }
 
 ConferenceWish MemberPicker::wish() const

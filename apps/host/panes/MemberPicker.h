@@ -27,7 +27,8 @@ public:
     /// For which question the picker is opened.
     enum Purpose
     {
-        NewConference, ///< the people named (user ids) are checked from the start; text and flag can be given
+        NewConference, ///< the people named (user ids) are checked from the start; text and flag can be given, under
+                       ///< "More"
         MoreMembers    ///< the people named are in the conference and left out of the list
     };
 

@@ -1523,12 +1523,12 @@
         <translation>Asked for a conference with: %1</translation>
     </message>
     <message>
-        <source>Invite (%1)</source>
-        <translation>Invite (%1)</translation>
+        <source>&amp;Invite (%1)</source>
+        <translation>&amp;Invite (%1)</translation>
     </message>
     <message>
-        <source>Invite</source>
-        <translation>Invite</translation>
+        <source>&amp;Invite</source>
+        <translation>&amp;Invite</translation>
     </message>
     <message>
         <source>Down and Enter lead into the list, Escape shows everybody again</source>
@@ -1609,6 +1609,14 @@
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Cancel</translation>
+    </message>
+    <message>
+        <source>&amp;More</source>
+        <translation>&amp;More</translation>
+    </message>
+    <message>
+        <source>What the call process can be told with the request</source>
+        <translation>What the call process can be told with the request</translation>
     </message>
 </context>
 <context>
@@ -2035,6 +2043,13 @@
     <message>
         <source>Show</source>
         <translation>Show</translation>
+    </message>
+</context>
+<context>
+    <name>WayToCall</name>
+    <message>
+        <source>Show the call window</source>
+        <translation>Show the call window</translation>
     </message>
 </context>
 </TS>

@@ -1518,12 +1518,12 @@
         <translation>请求与以下人员开会：%1</translation>
     </message>
     <message>
-        <source>Invite (%1)</source>
-        <translation>邀请 (%1)</translation>
+        <source>&amp;Invite (%1)</source>
+        <translation>邀请 (%1)(&amp;I)</translation>
     </message>
     <message>
-        <source>Invite</source>
-        <translation>邀请</translation>
+        <source>&amp;Invite</source>
+        <translation>邀请(&amp;I)</translation>
     </message>
     <message>
         <source>Down and Enter lead into the list, Escape shows everybody again</source>
@@ -1604,6 +1604,14 @@
     <message>
         <source>&amp;Cancel</source>
         <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;More</source>
+        <translation>更多(&amp;M)</translation>
+    </message>
+    <message>
+        <source>What the call process can be told with the request</source>
+        <translation>请求中还可以告诉通话进程的内容</translation>
     </message>
 </context>
 <context>
@@ -2028,6 +2036,13 @@
     <message>
         <source>Show</source>
         <translation>查看</translation>
+    </message>
+</context>
+<context>
+    <name>WayToCall</name>
+    <message>
+        <source>Show the call window</source>
+        <translation>显示通话窗口</translation>
     </message>
 </context>
 </TS>

@@ -10,10 +10,12 @@
 #include "traffic/WireTrace.h"
 
 #include "fakes/Patience.h"
+#include "host/panes/Deeds.h"
 #include "plugin/EMsgId.h"
 #include "store/DBConfInfo.h"
 
 #include <QDir>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTableView>
@@ -157,6 +159,8 @@ private slots:
             });
         }
         QVERIFY(press([] { return WindowProbe::button(WindowProbe::memberPicker(), "btnInvite"); }));
+        // The keyboard is where the call is.
+        QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::callWindow()->isActiveWindow(), cPatienceMs);
         QTRY_COMPARE_WITH_TIMEOUT(rowText(0), QStringLiteral("Conference: 李雷, Anna Novak → outgoing now"),
                                   cPatienceMs);
         QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::isShown(WindowProbe::callWindow(), "currentPlayTimeLabel"), cPatienceMs);
@@ -199,6 +203,43 @@ private slots:
         QVERIFY(pressContact("30010004"));
         QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::callWindow()->isVisible(), cPatienceMs);
         QVERIFY(!m_pWindow->videoCard().isVisible());
+        QVERIFY(pressInCallWindow("btnCancelCall"));
+    }
+
+    void callWindowIsBroughtBack_data()
+    {
+        QTest::addColumn<bool>("minimised");
+        QTest::addColumn<bool>("byStatusLine");
+        QTest::newRow("minimised, by the row") << true << false;
+        QTest::newRow("minimised, by the status line") << true << true;
+        QTest::newRow("behind, by the row") << false << false;
+        QTest::newRow("behind, by the status line") << false << true;
+    }
+
+    void callWindowIsBroughtBack()
+    {
+        QFETCH(bool, minimised);
+        QFETCH(bool, byStatusLine);
+        QVERIFY(pressContact("30010004"));
+        QTRY_VERIFY_WITH_TIMEOUT(m_pSession->calls().hasCall() && WindowProbe::callWindow()->isActiveWindow(),
+                                 cPatienceMs);
+        QWidget *call = WindowProbe::callWindow();
+        if (minimised) {
+            QCOMPARE(QProcess::execute(QStringLiteral("xdotool"),
+                                       {QStringLiteral("windowminimize"), QString::number(call->winId())}),
+                     0);
+            QTRY_VERIFY_WITH_TIMEOUT(call->isMinimized(), cPatienceMs);
+        }
+        m_pWindow->comeToFront();
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->isActiveWindow(), cPatienceMs);
+        const QWidget *bar = m_pWindow->statusBar();
+        Deeds deeds({Deeds::again(
+            [this, byStatusLine, bar] {
+                return byStatusLine ? Deeds::clickOn(*bar, QPoint(20, bar->height() / 2))
+                                    : Deeds::clickOn(*m_pTable->viewport(), middle(0).place);
+            },
+            [call] { return call->isActiveWindow() && !call->isMinimized(); })});
+        QVERIFY(deeds.finish());
         QVERIFY(pressInCallWindow("btnCancelCall"));
     }
 

@@ -1,19 +1,20 @@
 #include "client/ContactBook.h"
+#include "client/HostLanguage.h"
 #include "history/CallHistory.h"
 #include "panes/CallsPane.h"
 #include "screen/WindowProbe.h"
 
 #include "fakes/Patience.h"
 #include "host/history/CallRows.h"
+#include "host/panes/Deeds.h"
 #include "host/panes/PressButton.h"
 
 #include <QLineEdit>
-#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStyle>
 #include <QTableView>
 #include <QTest>
-#include <QTimer>
 
 /// The history of calls, by the mouse and by the keyboard.
 class tst_CallsPane : public QObject
@@ -53,8 +54,9 @@ private slots:
         m_pHistory->add(video);
         m_pHistory->add(callRow("30010002"));
         QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
-        QTest::mouseClick(m_pTable->viewport(), Qt::LeftButton, Qt::NoModifier, middle(1));
-        QTest::mouseDClick(m_pTable->viewport(), Qt::LeftButton, Qt::NoModifier, middle(1));
+        Deeds deeds({Deeds::again([this] { return Deeds::clickOn(*m_pTable->viewport(), middle(1), Deeds::Double); },
+                                  [&called] { return called.count() > 0; })});
+        QVERIFY(deeds.finish());
         QCOMPARE(called.count(), 1);
         QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), true}));
     }
@@ -65,8 +67,9 @@ private slots:
         m_pHistory->add(callRow("30010002"));
         QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
         m_pTable->setFocus();
-        QTest::keyClick(m_pTable, Qt::Key_Down);
-        QTest::keyClick(m_pTable, Qt::Key_Return);
+        Deeds deeds({Deeds::key("Down"), Deeds::until([this] { return m_pTable->currentIndex().row() == 1; }),
+                     Deeds::key("Return"), Deeds::until([&called] { return called.count() > 0; })});
+        QVERIFY(deeds.finish());
         QCOMPARE(called.count(), 1);
         QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), false}));
     }
@@ -86,6 +89,58 @@ private slots:
         QCOMPARE(wanted.count(), 2);
         QCOMPARE(wanted.at(0).at(0).toStringList(), (QStringList{"30010008", "30010002", "30010004"}));
         QCOMPARE(wanted.at(1).at(0).toStringList(), (QStringList{"30010001", "30010002"}));
+    }
+
+    void callThatIsOnLeadsToItsWindow_data()
+    {
+        QTest::addColumn<bool>("byKeys");
+        QTest::newRow("by a click") << false;
+        QTest::newRow("by Enter") << true;
+    }
+
+    void callThatIsOnLeadsToItsWindow()
+    {
+        QFETCH(bool, byKeys);
+        CallEntry running = callRow("30010001");
+        running.outcome = outcomeRunning;
+        m_pHistory->add(running);
+        QSignalSpy wanted(m_pPane.get(), &CallsPane::callWindowWanted);
+        QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
+        m_pTable->setFocus();
+        const Deeds::Deed click = [this] { return Deeds::clickOn(*m_pTable->viewport(), middle(0)); };
+        Deeds deeds({Deeds::again(byKeys ? Deeds::key("Return") : click, [&wanted] { return wanted.count() > 0; })});
+        QVERIFY(deeds.finish());
+        QCOMPARE(called.count(), 0);
+    }
+
+    void everyDirectionIsShownWholeInBoldLetters_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char *language : {"en", "zh_CN", "zh_TW"}) {
+            QTest::newRow(language) << QString::fromLatin1(language);
+        }
+    }
+
+    void everyDirectionIsShownWholeInBoldLetters()
+    {
+        QFETCH(QString, language);
+        HostLanguage words(QStringLiteral(VOIP_TRANSLATIONS));
+        QVERIFY(words.use(language));
+        CallEntry call = missedRow("30010001");
+        call.video = true;
+        m_pHistory->add(call);
+        call.caller = true;
+        m_pHistory->add(call);
+        m_pTable->scrollTo(m_pTable->model()->index(0, 0));
+        for (int row = 0; row < 2; ++row) {
+            const QModelIndex index = m_pTable->model()->index(row, CallHistoryModel::Direction);
+            QFont font = m_pTable->font();
+            font.setBold(index.data(Qt::FontRole).value<QFont>().bold());
+            QVERIFY(font.bold());
+            const int margin = m_pTable->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_pTable) + 1;
+            const int needed = QFontMetrics(font).horizontalAdvance(index.data().toString()) + 2 * margin;
+            QVERIFY2(needed <= m_pTable->visualRect(index).width(), qPrintable(QString::number(needed)));
+        }
     }
 
     void focusChoosesTheNewestCall()
@@ -121,18 +176,16 @@ private slots:
         }
         QVERIFY(!WindowProbe::isShown(m_pPane.get(), "btnUndo"));
         m_pTable->setFocus();
-        QTest::keyClick(m_pTable, Qt::Key_Down);
-        QTest::keyClick(m_pTable, Qt::Key_Down, Qt::ShiftModifier);
-        QTest::keyClick(m_pTable, Qt::Key_Delete);
-        QCOMPARE(m_pTable->model()->rowCount(), 2);
+        const auto rows = [this] { return m_pTable->model()->rowCount(); };
+        Deeds remove({Deeds::key("Down"), Deeds::key("shift+Down"), Deeds::key("Delete"),
+                      Deeds::until([rows] { return rows() == 2; })});
+        QVERIFY(remove.finish());
         QCOMPARE(m_pTable->currentIndex().row(), 1);
         QCOMPARE(WindowProbe::text(m_pPane.get(), "lblRemoved"), QStringLiteral("2 call(s) deleted"));
-        if (key) {
-            QTest::keyClick(m_pTable, Qt::Key_Z, Qt::ControlModifier);
-        } else {
-            QVERIFY(pressButton(m_pPane.get(), "btnUndo"));
-        }
-        QCOMPARE(m_pTable->model()->rowCount(), 4);
+        const auto isBack = [rows] { return rows() == 4; };
+        Deeds restore({key ? Deeds::again(Deeds::key("ctrl+z"), isBack)
+                           : Deeds::click([this] { return m_pPane.get(); }, "btnUndo", isBack)});
+        QVERIFY(restore.finish());
         QVERIFY(!WindowProbe::isShown(m_pPane.get(), "btnUndo"));
     }
 
@@ -147,14 +200,24 @@ private slots:
         QCOMPARE(m_pTable->model()->rowCount(), 1);
     }
 
+    void menuCallsAndDeletes_data()
+    {
+        QTest::addColumn<bool>("byKeys");
+        QTest::newRow("by the right button") << false;
+        QTest::newRow("by the Menu key") << true;
+    }
+
     void menuCallsAndDeletes()
     {
+        QFETCH(bool, byKeys);
+        m_pHistory->add(callRow("30010002"));
         m_pHistory->add(callRow("30010001"));
         QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
-        chooseFromMenu(QStringLiteral("Call by video"));
+        m_pTable->setFocus();
+        QVERIFY(chooseFromMenu(byKeys, QStringLiteral("Call by video"), [&called] { return called.count() > 0; }));
         QCOMPARE(called.value(0), (QList<QVariant>{QStringLiteral("30010001"), true}));
-        chooseFromMenu(QStringLiteral("Delete"));
-        QVERIFY(m_pHistory->entries().empty());
+        QVERIFY(chooseFromMenu(byKeys, QStringLiteral("Delete"), [this] { return m_pHistory->entries().size() < 2; }));
+        QCOMPARE(m_pHistory->entries().at(0).uid, QStringLiteral("30010002"));
     }
 
     void missedAreCountedUntilTheUserTurnsToThem_data()
@@ -279,19 +342,11 @@ private slots:
     }
 
 private:
-    void chooseFromMenu(const QString &strItem)
+    /// Chooses that item in the menu of the newest call, by the real mouse or the real keys.
+    bool chooseFromMenu(bool bByKeys, const QString &strItem, const std::function<bool()> &hasEffect) const
     {
-        m_pTable->setCurrentIndex(m_pTable->model()->index(0, 0));
-        QTimer timer;
-        connect(&timer, &QTimer::timeout, this, [&] {
-            const WindowProbe::Spot spot = WindowProbe::menuItem(strItem);
-            if (spot.widget != nullptr) {
-                timer.stop();
-                QTest::mouseClick(spot.widget, Qt::LeftButton, Qt::NoModifier, spot.place);
-            }
-        });
-        timer.start(10);
-        emit m_pTable->customContextMenuRequested(middle(0));
+        const Deeds::Deed click = [this] { return Deeds::clickOn(*m_pTable->viewport(), middle(0), Deeds::Right); };
+        return Deeds(Deeds::choose(bByKeys ? Deeds::key("Menu") : click, bByKeys, strItem, hasEffect)).finish();
     }
     QPoint middle(int iRow) const { return m_pTable->visualRect(m_pTable->model()->index(iRow, 2)).center(); }
 

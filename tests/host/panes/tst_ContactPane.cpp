@@ -3,6 +3,7 @@
 #include "screen/WindowProbe.h"
 
 #include "fakes/Patience.h"
+#include "host/panes/Deeds.h"
 #include "host/panes/PressButton.h"
 
 #include <QApplication>
@@ -179,6 +180,69 @@ private slots:
         QCOMPARE(focus(), QStringLiteral("30010002"));
     }
 
+    void rightAndLeftGoToTheButtonsAndBack()
+    {
+        press(Qt::Key_Down);
+        Deeds deeds({key("Right", "btnCall"), key("Right", "btnVideo"), key("Left", "btnCall"), key("Left", "30010001"),
+                     key("Down", "30010002"), key("Right", "btnCall")});
+        QVERIFY(deeds.finish());
+        QCOMPARE(m_pPane->window()->focusWidget()->parentWidget(), row("30010002"));
+        // There is nothing further on.
+        Deeds end({key("Right", "btnVideo"), Deeds::key("Right"), key("Down", "30010003")});
+        QVERIFY(end.finish());
+    }
+
+    void disabledButtonsAreNoWayOn()
+    {
+        m_pPane->setObstacle(QStringLiteral("No."));
+        press(Qt::Key_Down);
+        Deeds deeds({Deeds::key("Right"), key("Down", "30010002")});
+        QVERIFY(deeds.finish());
+    }
+
+    void menuOfARowCallsInBothWays_data()
+    {
+        QTest::addColumn<bool>("byKeys");
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<bool>("video");
+        QTest::newRow("Menu key, voice") << true << QStringLiteral("Call Maria Silva") << false;
+        QTest::newRow("Menu key, video") << true << QStringLiteral("Call Maria Silva by video") << true;
+        QTest::newRow("right button, video") << false << QStringLiteral("Call Maria Silva by video") << true;
+    }
+
+    void menuOfARowCallsInBothWays()
+    {
+        QFETCH(bool, byKeys);
+        QFETCH(QString, item);
+        QFETCH(bool, video);
+        QSignalSpy called(m_pPane.get(), &ContactPane::callWanted);
+        press(Qt::Key_Down);
+        press(Qt::Key_Down);
+        const QWidget *chosen = row("30010002");
+        const Deeds::Deed click = [chosen] { return Deeds::clickOn(*chosen, chosen->rect().center(), Deeds::Right); };
+        Deeds deeds(
+            Deeds::choose(byKeys ? Deeds::key("Menu") : click, byKeys, item, [&called] { return called.count() > 0; }));
+        QVERIFY(deeds.finish());
+        QCOMPARE(called.count(), 1);
+        QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010002"), video}));
+    }
+
+    void menuSaysWhyNobodyCanBeCalled()
+    {
+        m_pPane->setObstacle(QStringLiteral("No."));
+        press(Qt::Key_Down);
+        QStringList tips;
+        Deeds deeds({Deeds::again(Deeds::key("Menu"), [] { return !WindowProbe::menuTexts().isEmpty(); }),
+                     Deeds::act([&tips] {
+                         for (const QAction *action : QApplication::activePopupWidget()->actions()) {
+                             tips << (action->isEnabled() ? QString() : action->toolTip());
+                         }
+                     }),
+                     Deeds::again(Deeds::key("Escape"), [] { return WindowProbe::menuTexts().isEmpty(); })});
+        QVERIFY(deeds.finish());
+        QCOMPARE(tips, (QStringList{"No.", "No."}));
+    }
+
     void clickMakesTheRowTheTabStop()
     {
         QTest::mouseClick(row("30010003"), Qt::LeftButton);
@@ -222,6 +286,14 @@ private:
         return shown;
     }
 
+    /// Presses a real key, and waits until the focus is there.
+    Deeds::Deed key(const QByteArray &strKey, const char *strFocus) const
+    {
+        return [press = Deeds::key(strKey), strFocus, bPressed = false, this]() mutable {
+            bPressed = bPressed || press();
+            return focus() == QLatin1String(strFocus);
+        };
+    }
     void press(Qt::Key key) { QTest::keyClick(m_pPane->window()->focusWidget(), key); }
     QString focus() const { return m_pPane->window()->focusWidget()->objectName(); }
     QWidget *row(const char *strUid) const { return m_pPane->findChild<QWidget *>(QLatin1String(strUid)); }

@@ -4,6 +4,7 @@
 #include "screen/WindowProbe.h"
 
 #include "fakes/Patience.h"
+#include "host/panes/Deeds.h"
 #include "host/panes/PressButton.h"
 
 #include <QCheckBox>
@@ -94,9 +95,12 @@ private slots:
     {
         MemberPicker more(m_book, MemberPicker::MoreMembers, {}, nullptr);
         show(more);
+        QVERIFY(!WindowProbe::isShown(&more, "btnMore"));
         QVERIFY(!WindowProbe::isShown(&more, "editText"));
         MemberPicker fresh(m_book, MemberPicker::NewConference, {}, nullptr);
         show(fresh);
+        QVERIFY(!WindowProbe::isShown(&fresh, "editText"));
+        QVERIFY(pressButton(&fresh, "btnMore"));
         QTest::keyClicks(fresh.findChild<QLineEdit *>(QStringLiteral("editText")), QStringLiteral("talk"));
         fresh.findChild<QCheckBox *>(QStringLiteral("boxFlag"))->click();
         QCOMPARE(fresh.wish().text, QStringLiteral("talk"));
@@ -249,6 +253,7 @@ private slots:
         QFETCH(QByteArray, field);
         MemberPicker picker(m_book, MemberPicker::NewConference, {}, nullptr);
         show(picker);
+        QVERIFY(pressButton(&picker, "btnMore"));
         QVERIFY(WindowProbe::text(&picker, "lblPassedOn").startsWith(QStringLiteral("For the call process")));
         auto *widget = part<QWidget>(picker, field);
         const QPoint place = widget->rect().center();
@@ -256,6 +261,16 @@ private slots:
         QCoreApplication::sendEvent(widget, &hover);
         QVERIFY2(QToolTip::text().contains(QStringLiteral("the call process gets with the request for the conference")),
                  qPrintable(QToolTip::text()));
+    }
+
+    void letterOfTheButtonInvitesAndThatOfMoreOpensIt()
+    {
+        MemberPicker picker(m_book, MemberPicker::NewConference, {cBusy}, nullptr);
+        show(picker);
+        Deeds deeds({Deeds::again(Deeds::key("alt+m"), [&picker] { return WindowProbe::isShown(&picker, "boxFlag"); }),
+                     Deeds::key("alt+i"), Deeds::until([&picker] { return !picker.isVisible(); })});
+        QVERIFY(deeds.finish());
+        QCOMPARE(picker.result(), int(QDialog::Accepted));
     }
 
     void cancelledPickerGivesNothing()

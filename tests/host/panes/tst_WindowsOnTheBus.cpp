@@ -104,7 +104,12 @@ public:
         m_pWindow->show();
         return keep(new QuitQuestion(m_pWindow.get()));
     }
-    QWidget *picker() { return keep(new MemberPicker(m_book, MemberPicker::NewConference, QStringList(), nullptr)); }
+    QWidget *picker()
+    {
+        auto *picker = new MemberPicker(m_book, MemberPicker::NewConference, QStringList(), nullptr);
+        picker->findChild<QAbstractButton *>(QStringLiteral("btnMore"))->setChecked(true);
+        return keep(picker);
+    }
     QWidget *messageBox()
     {
         auto *box = new ErrorMessage(QString(), QString(), nullptr);
@@ -312,7 +317,7 @@ private:
         add("settings of sound", 3, [](Windows &w) { return w.settings(1); });
         add("settings of keys", 2, [](Windows &w) { return w.settings(2); });
         add("prompt", 2, [](Windows &w) { return w.prompt(); });
-        add("picker", 4, [](Windows &w) { return w.picker(); });
+        add("picker", 6, [](Windows &w) { return w.picker(); });
         add("quit question", 2, [](Windows &w) { return w.quitQuestion(); });
         add("message box", 2, [](Windows &w) { return w.messageBox(); });
         add("centre", 2, [](Windows &w) { return w.centre(false); });
