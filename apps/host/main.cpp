@@ -116,7 +116,8 @@ QString prepareTour(const QString &strFolder)
     return traceFile;
 }
 
-int runTour(HostSession &session, MainWindow &window, const QString &strFolder, const QString &strTraceFile)
+int runTour(HostSession &session, MainWindow &window, SingleInstance &instance, const QString &strFolder,
+            const QString &strTraceFile)
 {
     QApplication::setQuitOnLastWindowClosed(false);
     TourHand hand;
@@ -129,7 +130,7 @@ int runTour(HostSession &session, MainWindow &window, const QString &strFolder, 
     window.show();
     const CallProcess process(strTraceFile);
     TourWatch watch(session, strTraceFile);
-    Tour tour(watch, hand, tourSteps({session, window, watch, hand, process}), strFolder);
+    Tour tour(watch, hand, tourSteps({session, window, watch, hand, process, instance}), strFolder);
     QObject::connect(&tour, &Tour::finished, qApp, [](bool bOk) { QCoreApplication::exit(bOk ? 0 : 1); });
     tour.start();
     const int status = QApplication::exec();
@@ -194,5 +195,5 @@ int main(int argc, char **argv)
     QObject::connect(&session.settings(), &HostSettings::languageChanged, &language, &HostLanguage::use);
     MainWindow window(session, book);
     QObject::connect(&instance, &SingleInstance::frontWanted, &window, &MainWindow::comeToFront);
-    return folder.isNull() ? runByHand(session, window) : runTour(session, window, folder, traceFile);
+    return folder.isNull() ? runByHand(session, window) : runTour(session, window, instance, folder, traceFile);
 }

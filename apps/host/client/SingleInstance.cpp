@@ -51,9 +51,16 @@ SingleInstance::SingleInstance(const QString &strUid)
 
 SingleInstance::~SingleInstance()
 {
+    release();
+}
+
+void SingleInstance::release()
+{
     if (m_server.isListening()) {
         QFile::remove(addressFile(m_strFolder));
+        m_server.close();
     }
+    m_lock.unlock();
 }
 
 SingleInstance::Outcome SingleInstance::claim(bool bAsk)

@@ -1,15 +1,20 @@
 #include "tour/TourHistory.h"
 
 #include "client/ContactBook.h"
+#include "client/HostSession.h"
+#include "client/SingleInstance.h"
 #include "panes/MainWindow.h"
-#include "screen/WindowProbe.h"
-#include "session/HostSession.h"
+#include "tour/OtherClient.h"
 #include "tour/TourCast.h"
 #include "tour/TourScript.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPixmap>
+#include <QScreen>
 #include <QTableView>
 
+#include <cstring>
 #include <memory>
 
 using namespace TourCast;
@@ -46,21 +51,60 @@ TourCheck everyCall(const TourStage &stage)
             }};
 }
 
-/// The client's session that comes after the one of the stage.
-struct NextSession
+QImage pixels(const QPixmap &picture)
 {
-    ContactBook book{HostSession::loginDomain()};
-    std::unique_ptr<HostSession> session;
-    std::unique_ptr<MainWindow> window;
+    return picture.toImage().convertToFormat(QImage::Format_RGB888);
+}
 
-    bool start()
+/// Whether the picture stands at that place of the whole, pixel by pixel.
+bool standsAt(const QPoint &place, const QImage &picture, const QImage &whole)
+{
+    constexpr qsizetype bytes = 3;
+    for (int row = 0; row < picture.height(); ++row) {
+        const uchar *line = whole.constScanLine(place.y() + row) + bytes * place.x();
+        if (std::memcmp(line, picture.constScanLine(row), size_t(bytes) * size_t(picture.width())) != 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Whether the picture stands somewhere in the whole.
+bool standsIn(const QImage &picture, const QImage &whole)
+{
+    for (int y = 0; y <= whole.height() - picture.height(); ++y) {
+        for (int x = 0; x <= whole.width() - picture.width(); ++x) {
+            if (standsAt({x, y}, picture, whole)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+/// What the list of calls shows, and the client that is to show it again.
+struct NextStart
+{
+    OtherClient client;
+    QImage list;
+    QRect place;
+
+    /// Looks at the list of a window that is closed, without a row that is chosen; false when it has none.
+    bool remember(const MainWindow &window)
     {
-        session = std::make_unique<HostSession>(book);
-        QString error;
-        const bool ok =
-            session->start(QCoreApplication::applicationDirPath() + QStringLiteral("/libVoipManage.so"), &error);
-        window = std::make_unique<MainWindow>(*session, book);
-        return ok;
+        auto *table = window.findChild<QTableView *>(u("tableRecords"));
+        table->setCurrentIndex(QModelIndex());
+        list = pixels(table->viewport()->grab());
+        place = {table->viewport()->mapToGlobal(QPoint()), table->viewport()->size()};
+        return !shownCalls(&window).isEmpty();
+    }
+    /// Whether the screen shows the list where it was, but for what a window's frame may shift it.
+    bool isOnScreen() const
+    {
+        constexpr int frame = 40;
+        QScreen *screen = QGuiApplication::primaryScreen();
+        const QRect around = place.adjusted(-frame, -frame, frame, frame) & screen->geometry();
+        return standsIn(list, pixels(screen->grabWindow(0, around.x(), around.y(), around.width(), around.height())));
     }
 };
 
@@ -93,25 +137,21 @@ QList<TourStep> historySteps(const TourStage &stage)
 
 QList<TourStep> restartSteps(const TourStage &stage)
 {
-    const auto next = std::make_shared<NextSession>();
-    const auto kept = [next, window = &stage.window] {
-        return next->window != nullptr && !shownCalls(window).isEmpty() &&
-               shownCalls(next->window.get()) == shownCalls(window);
-    };
+    const auto next = std::make_shared<NextStart>();
     return {
-        {u("Start the client's session again"),
-         [next] {
-             const bool ok = next->start();
-             next->window->move(20, 20);
-             next->window->show();
-             return ok;
+        {u("Start the client again"),
+         [next, stage] {
+             stage.instance.release();
+             return next->remember(stage.window) && next->client.start({});
          },
-         {{u("the list of calls is as it was"), kept}},
+         {{u("it has registered the user again"), [next] { return next->client.hasRegistered(ContactBook::cOwnId); }},
+          {u("its list of calls is as it was"), [next] { return next->isOnScreen(); }}},
          cUsualLimitMs,
          u("history-restarted"),
-         [next] { return next->window.get(); }},
-        {u("Close the window"),
-         [next] { return next->window->close(); },
-         {{u("it is gone"), [next] { return !next->window->isVisible(); }}}},
+         {}},
+        {u("End it"),
+         [next] { return next->client.terminate(); },
+         {{u("it has ended"), [next] { return next->client.hasEnded(130); }},
+          {u("its call process has ended with it"), [next] { return next->client.hasTraced("stopped listening"); }}}},
     };
 }

@@ -3,6 +3,7 @@
 class CallProcess;
 class HostSession;
 class MainWindow;
+class SingleInstance;
 class TourHand;
 class TourWatch;
 
@@ -14,4 +15,5 @@ struct TourStage
     TourWatch &watch;
     TourHand &hand;
     const CallProcess &process;
+    SingleInstance &instance;
 };
