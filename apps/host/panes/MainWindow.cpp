@@ -221,7 +221,8 @@ void MainWindow::showOnline(bool bOnline)
 void MainWindow::showService()
 {
     const QString uid = m_book.ownUid();
-    const CallService::State state = m_session.callService().state();
+    const CallService &service = m_session.callService();
+    const CallService::State state = service.state();
     const bool isLost = state == CallService::Lost || state == CallService::GivenUp;
     const bool isReady = state == CallService::Ready;
     ui->lblOwnHead->setPixmap(HostPictures::head(
@@ -231,7 +232,8 @@ void MainWindow::showService()
                            : isReady             ? tr("&Online")
                            : isLost              ? tr("N&o call service")
                                                  : tr("C&onnecting..."));
-    m_readiness.setServed(!isLost && state != CallService::Returning);
+    const bool isAwaited = state == CallService::Coming && service.process() == 0;
+    m_readiness.setServed(!isLost && !isAwaited && state != CallService::Returning);
 }
 
 void MainWindow::showNotice()

@@ -51,6 +51,7 @@ private slots:
         m_timer.start(10);
         m_pSession->setOnline(true);
         QTRY_VERIFY_WITH_TIMEOUT(isTraced(QStringLiteral("RegeditUser")), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->readiness().isReady(), cPatienceMs);
     }
 
     void cleanupTestCase()
