@@ -61,17 +61,24 @@ const CallEntry *CallHistory::find(qint64 id) const
     return place < 0 ? nullptr : &m_entries[size_t(place)];
 }
 
+/// Writes to the file, and says so when that has something to report. Returns whether it is written.
+bool CallHistory::write(const std::function<bool()> &deed)
+{
+    const int before = reports().size();
+    const bool ok = deed();
+    if (reports().size() != before) {
+        emit reported();
+    }
+    return ok;
+}
+
 /// Writes them into the file and gives each its id.
 void CallHistory::keep(std::vector<CallEntry> &entries)
 {
-    const int before = reports().size();
-    if (!m_file.add(entries)) {
+    if (!write([&] { return m_file.add(entries); })) {
         for (CallEntry &entry : entries) {
             entry.id = entry.id == 0 ? --m_iUnkept : entry.id;
         }
-    }
-    if (reports().size() != before) {
-        emit reported();
     }
 }
 
@@ -91,7 +98,7 @@ void CallHistory::change(const CallEntry &entry)
         return;
     }
     m_entries[size_t(place)] = entry;
-    m_file.change(entry);
+    write([&] { return m_file.change(entry); });
     if (!entry.confId.isEmpty()) {
         m_conferences.insert(entry.confId);
     }
@@ -143,7 +150,7 @@ int CallHistory::remove(const QSet<qint64> &ids)
     for (const CallEntry &entry : m_removed) {
         gone.insert(entry.id);
     }
-    m_file.remove(gone);
+    write([&] { return m_file.remove(gone); });
     emit reset();
     return int(m_removed.size());
 }
@@ -169,7 +176,7 @@ void CallHistory::setAllSeen()
         entry.seen = true;
     }
     if (any) {
-        m_file.setAllSeen();
+        write([this] { return m_file.setAllSeen(); });
         emit allSeen();
     }
 }

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QSet>
 
+#include <functional>
 #include <vector>
 
 struct ConfInfoData;
@@ -76,6 +77,7 @@ signals:
 private:
     CallEntry entryOf(const ConfInfoData &record) const;
     void put(std::vector<CallEntry> entries);
+    bool write(const std::function<bool()> &deed);
     void keep(std::vector<CallEntry> &entries);
 
     QString m_strOwner;

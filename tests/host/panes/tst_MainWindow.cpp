@@ -10,6 +10,7 @@
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
 #include "plugin/PluginIds.h"
+#include "store/Hardship.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -461,6 +462,41 @@ private slots:
         QVERIFY(!WindowProbe::isShown(&window, "btnTryStore"));
     }
 
+    void callsThatCannotBeWrittenAreToldBelowTheHeader_data()
+    {
+        QTest::addColumn<QByteArray>("deed");
+        for (const char *deed : {"the call ends", "Seen", "Delete"}) {
+            QTest::newRow(deed) << QByteArray(deed);
+        }
+    }
+
+    void callsThatCannotBeWrittenAreToldBelowTheHeader()
+    {
+        QFETCH(QByteArray, deed);
+        QString error;
+        QVERIFY(!m_pSession->start(QStringLiteral("/no/module.so"), &error));
+        QVERIFY(m_pSession->history().reports().isEmpty());
+        ring(QStringLiteral("30010006"));
+        if (deed != "the call ends") {
+            missCall();
+        }
+        QVERIFY(!WindowProbe::text(m_pWindow.get(), "lblNotice").contains(QStringLiteral("list of calls")));
+        bool pressed = true;
+        {
+            const FullDisk disk(0);
+            if (deed == "the call ends") {
+                missCall();
+            } else if (deed == "Seen") {
+                pressed = pressButton(m_pWindow.get(), "btnSeen");
+            } else {
+                m_pSession->history().remove({m_pSession->history().entries().back().id});
+            }
+        }
+        QVERIFY(pressed);
+        QVERIFY(WindowProbe::isShown(m_pWindow.get(), "lblNotice"));
+        QVERIFY(WindowProbe::text(m_pWindow.get(), "lblNotice").contains(QStringLiteral("cannot be written to")));
+    }
+
     void closingTheWindowTakesTheOthersAlong()
     {
         ring(QStringLiteral("30010006"));
@@ -506,9 +542,14 @@ private:
         } else if (bInto) {
             ring(QStringLiteral("30010006"));
         } else {
-            deliver(MSG_CALL_FINISHED, sessionPluginId(),
-                    packPayload(false, QStringLiteral("30010006"), qint32(21), false, false, qint64(0)));
+            missCall();
         }
+    }
+    /// The call that ring() has begun with Anna Novak ends.
+    void missCall()
+    {
+        deliver(MSG_CALL_FINISHED, sessionPluginId(),
+                packPayload(false, QStringLiteral("30010006"), qint32(21), false, false, qint64(0)));
     }
     /// Cancels the picker as soon as it is open, with what it asked left in `asked`.
     void cancelThePicker(QTimer &timer, QString &asked)
