@@ -2,9 +2,9 @@
 
 #include <utility>
 
-void CallReadiness::set(bool &bMember, bool bValue)
+template <typename Value> void CallReadiness::set(Value &member, Value value)
 {
-    if (std::exchange(bMember, bValue) != bValue) {
+    if (std::exchange(member, value) != value) {
         emit changed();
     }
 }
@@ -19,9 +19,9 @@ void CallReadiness::setInCall(bool bInCall)
     set(m_bInCall, bInCall);
 }
 
-void CallReadiness::setServed(bool bServed)
+void CallReadiness::setService(Service service)
 {
-    set(m_bServed, bServed);
+    set(m_service, service);
 }
 
 QString CallReadiness::reason() const
@@ -32,5 +32,12 @@ QString CallReadiness::reason() const
     if (!m_bSignedIn) {
         return tr("You are signed out. Sign in first.");
     }
-    return m_bServed ? QString() : tr("The call service cannot be reached.");
+    switch (m_service) {
+    case Service::Awaited:
+        return tr("The call service is being reached. Wait a moment.");
+    case Service::Lost:
+        return tr("The call service cannot be reached.");
+    default:
+        return QString();
+    }
 }

@@ -9,17 +9,25 @@ class CallReadiness : public QObject
     Q_OBJECT
 
 public:
+    /// How far the call service is.
+    enum class Service
+    {
+        Reached,
+        Awaited, ///< it is not there yet, and comes by itself
+        Lost
+    };
+
     using QObject::QObject;
 
     /// Whether the user is signed in; false before.
     void setSignedIn(bool bSignedIn);
     /// Whether there is a call, in any state; false before.
     void setInCall(bool bInCall);
-    /// Whether the call service can be reached; true before.
-    void setServed(bool bServed);
+    /// How far the call service is; reached before.
+    void setService(Service service);
 
     /// Whether a call can be placed.
-    bool isReady() const { return m_bSignedIn && m_bServed && !m_bInCall; }
+    bool isReady() const { return m_bSignedIn && m_service == Service::Reached && !m_bInCall; }
     /// The reason, in the client's language, a sentence; empty while a call can be placed.
     QString reason() const;
 
@@ -28,9 +36,9 @@ signals:
     void changed();
 
 private:
-    void set(bool &bMember, bool bValue);
+    template <typename Value> void set(Value &member, Value value);
 
     bool m_bSignedIn = false;
     bool m_bInCall = false;
-    bool m_bServed = true;
+    Service m_service = Service::Reached;
 };

@@ -232,8 +232,11 @@ void MainWindow::showService()
                            : isReady             ? tr("&Online")
                            : isLost              ? tr("N&o call service")
                                                  : tr("C&onnecting..."));
-    const bool isAwaited = state == CallService::Coming && service.process() == 0;
-    m_readiness.setServed(!isLost && !isAwaited && state != CallService::Returning);
+    const bool isAwaited =
+        state == CallService::Returning || (state == CallService::Coming && service.process() == 0);
+    m_readiness.setService(isLost      ? CallReadiness::Service::Lost
+                           : isAwaited ? CallReadiness::Service::Awaited
+                                       : CallReadiness::Service::Reached);
 }
 
 void MainWindow::showNotice()

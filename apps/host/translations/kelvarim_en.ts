@@ -1037,6 +1037,10 @@
         <source>The call service cannot be reached.</source>
         <translation>The call service cannot be reached.</translation>
     </message>
+    <message>
+        <source>The call service is being reached. Wait a moment.</source>
+        <translation>The call service is being reached. Wait a moment.</translation>
+    </message>
 </context>
 <context>
     <name>CallSentences</name>

@@ -1036,6 +1036,10 @@
         <source>The call service cannot be reached.</source>
         <translation>无法连接通话服务。</translation>
     </message>
+    <message>
+        <source>The call service is being reached. Wait a moment.</source>
+        <translation>正在连接通话服务，请稍候。</translation>
+    </message>
 </context>
 <context>
     <name>CallSentences</name>

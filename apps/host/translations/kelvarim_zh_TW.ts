@@ -1036,6 +1036,10 @@
         <source>The call service cannot be reached.</source>
         <translation>無法連線到通話服務。</translation>
     </message>
+    <message>
+        <source>The call service is being reached. Wait a moment.</source>
+        <translation>正在連線到通話服務，請稍候。</translation>
+    </message>
 </context>
 <context>
     <name>CallSentences</name>

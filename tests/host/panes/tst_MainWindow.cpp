@@ -255,6 +255,8 @@ private slots:
         QTest::newRow("signed out") << QByteArray("out") << QStringLiteral("You are signed out. Sign in first.");
         QTest::newRow("no call service") << QByteArray("service")
                                          << QStringLiteral("The call service cannot be reached.");
+        QTest::newRow("call service on its way")
+            << QByteArray("wait") << QStringLiteral("The call service is being reached. Wait a moment.");
     }
 
     void whatCannotBeDoneNowIsDisabledWithTheReason()
@@ -538,7 +540,10 @@ private:
         if (state == "out") {
             m_pSession->setOnline(!bInto);
         } else if (state == "service") {
-            m_pWindow->readiness().setServed(!bInto);
+            m_pWindow->readiness().setService(bInto ? CallReadiness::Service::Lost : CallReadiness::Service::Reached);
+        } else if (state == "wait") {
+            m_pWindow->readiness().setService(bInto ? CallReadiness::Service::Awaited
+                                                    : CallReadiness::Service::Reached);
         } else if (bInto) {
             ring(QStringLiteral("30010006"));
         } else {
