@@ -144,22 +144,22 @@ int CallHistory::remove(const QSet<qint64> &ids)
     if (first == m_entries.end()) {
         return 0;
     }
-    m_removed.assign(std::make_move_iterator(first), std::make_move_iterator(m_entries.end()));
+    m_removed.emplace_back(std::make_move_iterator(first), std::make_move_iterator(m_entries.end()));
     m_entries.erase(first, m_entries.end());
     QSet<qint64> gone;
-    for (const CallEntry &entry : m_removed) {
+    for (const CallEntry &entry : m_removed.back()) {
         gone.insert(entry.id);
     }
     write([&] { return m_file.remove(gone); });
     emit reset();
-    return int(m_removed.size());
+    return gone.size();
 }
 
 void CallHistory::restore()
 {
-    std::vector<CallEntry> back;
-    back.swap(m_removed);
-    if (!back.empty()) {
+    if (!m_removed.empty()) {
+        std::vector<CallEntry> back = std::move(m_removed.back());
+        m_removed.pop_back();
         put(std::move(back));
     }
 }
@@ -172,8 +172,10 @@ void CallHistory::setAllSeen()
         entry.seen = true;
     }
     // What is brought back later has been seen as well.
-    for (CallEntry &entry : m_removed) {
-        entry.seen = true;
+    for (std::vector<CallEntry> &entries : m_removed) {
+        for (CallEntry &entry : entries) {
+            entry.seen = true;
+        }
     }
     if (any) {
         write([this] { return m_file.setAllSeen(); });

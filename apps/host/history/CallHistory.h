@@ -52,10 +52,11 @@ public:
 
     /// Deletes the entries with these ids, but for a call that is not over. Returns how many.
     int remove(const QSet<qint64> &ids);
-    /// Brings back what the last remove() took.
+    /// Brings back what the last remove() took; called again, what the one before took, until all of this session is
+    /// back.
     void restore();
-    /// Whether there is something for restore() to bring back.
-    bool canRestore() const { return !m_removed.empty(); }
+    /// How many entries restore() would bring back; 0 when nothing is deleted.
+    int restorable() const { return m_removed.empty() ? 0 : int(m_removed.back().size()); }
 
     /// Nothing is left that the user has still to be told of.
     void setAllSeen();
@@ -83,7 +84,7 @@ private:
     QString m_strOwner;
     CallFile m_file;
     std::vector<CallEntry> m_entries;
-    std::vector<CallEntry> m_removed;
+    std::vector<std::vector<CallEntry>> m_removed; // what each remove() took, the last one at the end
     QSet<QString> m_conferences;
     qint64 m_iUnkept = 0; // ids of entries that are not in the file count down from here
 };

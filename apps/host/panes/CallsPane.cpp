@@ -41,6 +41,11 @@ protected:
     }
 };
 
+QString runningReason()
+{
+    return CallsPane::tr("A call that is on cannot be deleted.");
+}
+
 } // namespace
 
 CallsPane::CallsPane(QWidget *parent) : QWidget(parent), ui(std::make_unique<Ui::CallsPane>())
@@ -137,12 +142,11 @@ void CallsPane::setUpFilters()
 
 void CallsPane::setUpKeys()
 {
-    const auto add = [this](const QKeySequence &keys, void (CallsPane::*act)()) {
-        const auto *shortcut = new QShortcut(keys, ui->tableRecords, nullptr, nullptr, Qt::WidgetShortcut);
-        connect(shortcut, &QShortcut::activated, this, act);
-    };
-    add(QKeySequence::Delete, &CallsPane::removeChosen);
-    add(QKeySequence::Undo, &CallsPane::bringBack);
+    const auto *remove = new QShortcut(QKeySequence::Delete, ui->tableRecords, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(remove, &QShortcut::activated, this, &CallsPane::removeChosen);
+    // Of the whole pane: without a call there is no table that could have the keyboard.
+    const auto *undo = new QShortcut(QKeySequence::Undo, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    connect(undo, &QShortcut::activated, this, &CallsPane::bringBack);
 }
 
 void CallsPane::showMissed()
@@ -219,16 +223,27 @@ void CallsPane::redialEntry(const CallEntry &entry)
     emit conferenceWanted(uids);
 }
 
+QModelIndexList CallsPane::chosenRows() const
+{
+    return ui->tableRecords->selectionModel()->selectedRows();
+}
+
 void CallsPane::removeChosen()
 {
-    const QModelIndexList rows = ui->tableRecords->selectionModel()->selectedRows();
+    const QModelIndexList rows = chosenRows();
     QSet<qint64> ids;
     int first = m_pModel->rowCount();
     for (const QModelIndex &index : rows) {
         ids.insert(m_pModel->entryAt(index.row()).id);
         first = qMin(first, index.row());
     }
-    m_iRemoved = m_pHistory->remove(ids);
+    const int removed = m_pHistory->remove(ids);
+    if (removed < ids.size()) {
+        emit refused(runningReason());
+    }
+    if (removed == 0) {
+        return;
+    }
     showRemoved();
     // The keyboard goes on where it was.
     if (m_pModel->rowCount() > 0) {
@@ -247,11 +262,9 @@ void CallsPane::bringBack()
 
 void CallsPane::showRemoved()
 {
-    const bool bShown = m_pHistory != nullptr && m_pHistory->canRestore();
-    ui->removed->setVisible(bShown);
-    if (bShown) {
-        ui->lblRemoved->setText(tr("%n call(s) deleted", nullptr, m_iRemoved));
-    }
+    const int restorable = m_pHistory == nullptr ? 0 : m_pHistory->restorable();
+    ui->removed->setVisible(restorable > 0);
+    ui->lblRemoved->setText(tr("%n call(s) deleted", nullptr, restorable));
 }
 
 void CallsPane::openMenu(const QPoint &place)
@@ -262,21 +275,25 @@ void CallsPane::openMenu(const QPoint &place)
     }
     const CallEntry entry = m_pModel->entryAt(index.row());
     QMenu menu(this);
-    const auto addCall = [&](const QString &strWords, const std::function<void()> &act) {
+    const auto add = [&](const QString &strWords, const QString &strReason, const std::function<void()> &act) {
         QAction *action = menu.addAction(strWords);
-        action->setEnabled(m_strObstacle.isEmpty());
-        action->setToolTip(m_strObstacle);
+        action->setEnabled(strReason.isEmpty());
+        action->setToolTip(strReason);
         connect(action, &QAction::triggered, this, act);
     };
     menu.setToolTipsVisible(true);
     if (entry.conference) {
-        addCall(tr("Call together again..."), [this, entry] { redialEntry(entry); });
+        add(tr("Call together again..."), m_strObstacle, [this, entry] { redialEntry(entry); });
     } else {
-        addCall(tr("Call"), [this, entry] { emit callWanted(entry.uid, false); });
-        addCall(tr("Call by video"), [this, entry] { emit callWanted(entry.uid, true); });
+        add(tr("Call"), m_strObstacle, [this, entry] { emit callWanted(entry.uid, false); });
+        add(tr("Call by video"), m_strObstacle, [this, entry] { emit callWanted(entry.uid, true); });
     }
     menu.addSeparator();
-    connect(menu.addAction(tr("Delete")), &QAction::triggered, this, &CallsPane::removeChosen);
+    const QModelIndexList chosen = chosenRows();
+    const bool bAllRun = std::all_of(chosen.begin(), chosen.end(), [this](const QModelIndex &row) {
+        return m_pModel->entryAt(row.row()).isRunning();
+    });
+    add(tr("Delete"), bAllRun ? runningReason() : QString(), [this] { removeChosen(); });
     menu.exec(ui->tableRecords->viewport()->mapToGlobal(place));
 }
 

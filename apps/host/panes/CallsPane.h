@@ -17,7 +17,8 @@ class CallsPane;
 /// The right half of the main window: the history of calls with its search and its filters, what the user has still to
 /// be told of, and the way to the conference centre. A double click on a call, or Enter, calls again in the same way; a
 /// click on the one that is on, or Enter, asks for its window. Delete deletes what is chosen, and Ctrl+Z or a button
-/// brings it back. Whoever turns to the list, or confirms the notice, has seen what there is. GUI thread.
+/// brings it back, each deletion for itself, the last one first. Whoever turns to the list, or confirms the notice, has
+/// seen what there is. GUI thread.
 class CallsPane : public QWidget
 {
     Q_OBJECT
@@ -43,6 +44,8 @@ signals:
     void conferenceWanted(const QStringList &uids);
     /// The user wants to see the window of the call that is on.
     void callWindowWanted();
+    /// What the user wants cannot be done; the reason, a sentence in the client's language.
+    void refused(const QString &strReason);
     /// The button for the conference centre was pressed.
     void centreWanted();
 
@@ -62,6 +65,7 @@ private:
     void showRemoved();
     void showWords();
     void openMenu(const QPoint &place);
+    QModelIndexList chosenRows() const;
     bool searchKey(int iKey);
     void turnedTo(Qt::FocusReason reason);
     void redial(const QModelIndex &index);
@@ -76,5 +80,4 @@ private:
     const ContactBook *m_pBook = nullptr;
     std::unique_ptr<CallHistoryModel> m_pModel;
     QString m_strObstacle;
-    int m_iRemoved = 0;
 };

@@ -66,6 +66,7 @@ void MainWindow::connectParts()
     connect(ui->callsPane, &CallsPane::callWanted, this, &MainWindow::call);
     connect(ui->callsPane, &CallsPane::conferenceWanted, this,
             [this](const QStringList &uids) { startConference(uids, false); });
+    connect(ui->callsPane, &CallsPane::refused, &m_status, &CallStatusLine::say);
     connect(ui->callsPane, &CallsPane::centreWanted, &m_session, &HostSession::showConferenceCentre);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, ui->contactPane, &ContactPane::startSearch);
 }
@@ -232,8 +233,7 @@ void MainWindow::showService()
                            : isReady             ? tr("&Online")
                            : isLost              ? tr("N&o call service")
                                                  : tr("C&onnecting..."));
-    const bool isAwaited =
-        state == CallService::Returning || (state == CallService::Coming && service.process() == 0);
+    const bool isAwaited = state == CallService::Returning || (state == CallService::Coming && service.process() == 0);
     m_readiness.setService(isLost      ? CallReadiness::Service::Lost
                            : isAwaited ? CallReadiness::Service::Awaited
                                        : CallReadiness::Service::Reached);

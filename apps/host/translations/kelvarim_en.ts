@@ -1211,10 +1211,6 @@
         <translation>Enter calls again, Delete deletes, Ctrl+Z brings back</translation>
     </message>
     <message>
-        <source>Bring back what was deleted (Ctrl+Z in the list)</source>
-        <translation>Bring back what was deleted (Ctrl+Z in the list)</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>Undo</translation>
     </message>
@@ -1270,6 +1266,14 @@
     <message>
         <source>Clear the search</source>
         <translation>Clear the search</translation>
+    </message>
+    <message>
+        <source>Bring back what was deleted last (Ctrl+Z)</source>
+        <translation>Bring back what was deleted last (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>A call that is on cannot be deleted.</source>
+        <translation>A call that is on cannot be deleted.</translation>
     </message>
 </context>
 <context>

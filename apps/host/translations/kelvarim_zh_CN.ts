@@ -1210,10 +1210,6 @@
         <translation>按 Enter 再次呼叫，按 Delete 删除，按 Ctrl+Z 恢复</translation>
     </message>
     <message>
-        <source>Bring back what was deleted (Ctrl+Z in the list)</source>
-        <translation>恢复已删除的内容（在列表中按 Ctrl+Z）</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>撤销</translation>
     </message>
@@ -1266,6 +1262,14 @@
     <message>
         <source>Clear the search</source>
         <translation>清除搜索</translation>
+    </message>
+    <message>
+        <source>Bring back what was deleted last (Ctrl+Z)</source>
+        <translation>恢复上一次删除的内容（Ctrl+Z）</translation>
+    </message>
+    <message>
+        <source>A call that is on cannot be deleted.</source>
+        <translation>正在进行的通话不能删除。</translation>
     </message>
 </context>
 <context>

@@ -1210,10 +1210,6 @@
         <translation>按 Enter 再次撥打，按 Delete 刪除，按 Ctrl+Z 復原</translation>
     </message>
     <message>
-        <source>Bring back what was deleted (Ctrl+Z in the list)</source>
-        <translation>復原已刪除的內容（在清單中按 Ctrl+Z）</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>復原</translation>
     </message>
@@ -1266,6 +1262,14 @@
     <message>
         <source>Clear the search</source>
         <translation>清除搜尋</translation>
+    </message>
+    <message>
+        <source>Bring back what was deleted last (Ctrl+Z)</source>
+        <translation>復原上一次刪除的內容（Ctrl+Z）</translation>
+    </message>
+    <message>
+        <source>A call that is on cannot be deleted.</source>
+        <translation>正在進行的通話不能刪除。</translation>
     </message>
 </context>
 <context>

@@ -143,17 +143,36 @@ private slots:
         QCOMPARE(whos(), (QStringList{"Tom Baker", "李雷"}));
         reopen();
         QCOMPARE(whos(), (QStringList{"Tom Baker", "李雷"}));
-        QVERIFY(!m_pHistory->canRestore());
+        QCOMPARE(m_pHistory->restorable(), 0);
 
         const qint64 first = m_pHistory->entries().front().id;
         QCOMPARE(m_pHistory->remove({first, 4711}), 1);
-        QVERIFY(m_pHistory->canRestore());
+        QCOMPARE(m_pHistory->restorable(), 1);
         m_pHistory->restore();
-        QVERIFY(!m_pHistory->canRestore());
+        QCOMPARE(m_pHistory->restorable(), 0);
         QCOMPARE(whos(), (QStringList{"Tom Baker", "李雷"}));
         reopen();
         QCOMPARE(whos(), (QStringList{"Tom Baker", "李雷"}));
         QCOMPARE(m_pHistory->entries().front().id, first);
+    }
+
+    void eachDeletionComesBackForItself()
+    {
+        const qint64 first = m_pHistory->add(callRow("30010001", 3));
+        const qint64 second = m_pHistory->add(missedRow("30010002", 2));
+        const qint64 third = m_pHistory->add(callRow("30010004", 1));
+        QCOMPARE(m_pHistory->remove({first, third}), 2);
+        QCOMPARE(m_pHistory->remove({second}), 1);
+        // What is deleted counts as seen with the others.
+        m_pHistory->setAllSeen();
+        m_pHistory->restore();
+        QCOMPARE(whos(), QStringList{"Maria Silva"});
+        QCOMPARE(m_pHistory->restorable(), 2);
+        m_pHistory->restore();
+        QCOMPARE(whos(), (QStringList{"Tom Baker", "Maria Silva", "李雷"}));
+        m_pHistory->restore();
+        QCOMPARE(whos().size(), 3);
+        QVERIFY(m_pHistory->unseen().empty());
     }
 
     void callThatIsOnCannotBeDeleted()

@@ -189,15 +189,78 @@ private slots:
         QVERIFY(!WindowProbe::isShown(m_pPane.get(), "btnUndo"));
     }
 
+    void lastCallDeletedLeavesTheKeyboardAtUndo_data()
+    {
+        QTest::addColumn<QByteArray>("key");
+        QTest::newRow("the button") << QByteArray("space");
+        QTest::newRow("Ctrl+Z") << QByteArray("ctrl+z");
+    }
+
     void lastCallDeletedLeavesTheKeyboardAtUndo()
     {
+        QFETCH(QByteArray, key);
         m_pHistory->add(callRow("30010001"));
         m_pTable->setFocus();
-        QTest::keyClick(m_pTable, Qt::Key_Delete);
+        QVERIFY(press("Delete", [this] { return m_pTable->model()->rowCount() == 0; }));
         QCOMPARE(WindowProbe::text(m_pPane.get(), "lblNoCalls"), QStringLiteral("No calls yet"));
         QCOMPARE(m_pPane->focusWidget()->objectName(), QStringLiteral("btnUndo"));
-        QTest::keyClick(m_pPane->focusWidget(), Qt::Key_Space);
+        QVERIFY(press(key, [this] { return m_pTable->model()->rowCount() == 1; }));
+        QVERIFY(m_pTable->hasFocus());
+    }
+
+    void eachUndoBringsBackTheDeletionBefore()
+    {
+        for (int i = 0; i < 3; ++i) {
+            m_pHistory->add(callRow("30010001", 10 - i));
+        }
+        const auto rows = [this](int iRows) {
+            return [this, iRows] { return m_pTable->model()->rowCount() == iRows; };
+        };
+        m_pTable->setFocus();
+        m_pTable->selectRow(0);
+        QVERIFY(press("Delete", rows(2)));
+        QVERIFY(press("shift+Down", [this] { return m_pTable->selectionModel()->selectedRows().size() == 2; }));
+        QVERIFY(press("Delete", rows(0)));
+        QCOMPARE(WindowProbe::text(m_pPane.get(), "lblRemoved"), QStringLiteral("2 call(s) deleted"));
+        QVERIFY(press("ctrl+z", rows(2)));
+        QCOMPARE(WindowProbe::text(m_pPane.get(), "lblRemoved"), QStringLiteral("1 call(s) deleted"));
+        QVERIFY(press("ctrl+z", rows(3)));
+        QVERIFY(!WindowProbe::isShown(m_pPane.get(), "btnUndo"));
+    }
+
+    void callThatIsOnStaysAndSaysWhy()
+    {
+        CallEntry running = callRow("30010001");
+        running.outcome = outcomeRunning;
+        m_pHistory->add(callRow("30010002", 1));
+        m_pHistory->add(running);
+        QSignalSpy refused(m_pPane.get(), &CallsPane::refused);
+        m_pTable->setFocus();
+        m_pTable->selectRow(1);
+        QVERIFY(press("Delete", [this] { return m_pTable->model()->rowCount() == 1; }));
+        QCOMPARE(refused.count(), 0);
+        QVERIFY(press("Delete", [&] { return refused.count() == 1; }));
+        QCOMPARE(refused.at(0).at(0).toString(), QStringLiteral("A call that is on cannot be deleted."));
         QCOMPARE(m_pTable->model()->rowCount(), 1);
+        // What was deleted before is told as it is.
+        QCOMPARE(WindowProbe::text(m_pPane.get(), "lblRemoved"), QStringLiteral("1 call(s) deleted"));
+
+        QAction *entry = nullptr;
+        bool disabled = false;
+        QString tip;
+        Deeds deeds({Deeds::key("Menu"), Deeds::until([&] {
+                         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+                         entry = menu == nullptr ? nullptr : menu->actions().constLast();
+                         return entry != nullptr;
+                     }),
+                     Deeds::act([&] {
+                         disabled = entry->text() == QStringLiteral("Delete") && !entry->isEnabled();
+                         tip = entry->toolTip();
+                     }),
+                     Deeds::key("Escape"), Deeds::until([] { return QApplication::activePopupWidget() == nullptr; })});
+        QVERIFY(deeds.finish());
+        QVERIFY(disabled);
+        QCOMPARE(tip, QStringLiteral("A call that is on cannot be deleted."));
     }
 
     void menuCallsAndDeletes_data()
@@ -342,6 +405,11 @@ private slots:
     }
 
 private:
+    /// Presses a key of the real keyboard and waits until that is so.
+    static bool press(const QByteArray &strKey, const std::function<bool()> &hasEffect)
+    {
+        return Deeds({Deeds::key(strKey), Deeds::until(hasEffect)}).finish();
+    }
     /// Chooses that item in the menu of the newest call, by the real mouse or the real keys.
     bool chooseFromMenu(bool bByKeys, const QString &strItem, const std::function<bool()> &hasEffect) const
     {
