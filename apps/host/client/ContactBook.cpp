@@ -152,7 +152,21 @@ const FriendData *ContactBook::record(const QString &strJid) const
 {
     const FriendData *contact = find(m_friends, strJid);
     const FriendData *stranger = find(m_strangers, strJid);
-    return contact != nullptr ? contact : stranger != nullptr ? stranger : &m_unknown;
+    return contact != nullptr ? contact : stranger != nullptr ? stranger : numberOnly(strJid);
+}
+
+const FriendData *ContactBook::numberOnly(const QString &strJid) const
+{
+    if (uidOf(strJid).isEmpty()) {
+        return &m_unknown;
+    }
+    const auto [place, isNew] = m_numbers.try_emplace(strJid, strJid);
+    if (isNew) {
+        VcardInfo card;
+        card.m_strNickName = uidOf(strJid);
+        place->second.setVcardInfo(card);
+    }
+    return &place->second;
 }
 
 void ContactBook::learn(const QString &strUid)
@@ -209,7 +223,7 @@ bool ContactBook::isFriend(const QString &strJid) const
 const VcardInfo *ContactBook::card(const QString &strUid) const
 {
     const auto found = m_cards.find(strUid);
-    return found == m_cards.end() ? &m_unknownCard : &found->second;
+    return found == m_cards.end() ? &numberOnly(jidOf(strUid))->m_vcardInfo : &found->second;
 }
 
 Presence ContactBook::presenceOf(const QString &strUid) const
@@ -220,8 +234,8 @@ Presence ContactBook::presenceOf(const QString &strUid) const
 
 QString ContactBook::nameOf(const QString &strUid) const
 {
-    const QString nick = card(strUid)->m_strNickName;
-    return nick.isEmpty() ? strUid : nick;
+    const auto found = m_cards.find(strUid);
+    return found == m_cards.end() || found->second.m_strNickName.isEmpty() ? strUid : found->second.m_strNickName;
 }
 
 QString ContactBook::jidOf(const QString &strUid) const

@@ -53,14 +53,15 @@ public:
     /// Records by jid of all contacts and of the own user; strangers are left out.
     QMap<QString, FriendData> friendMap() const;
 
-    /// The record of `strJid`; a default record for anybody who is neither a contact nor a stranger whose card has been
-    /// fetched. Never null, owned by the book.
+    /// The record of `strJid`; for anybody who is neither a contact nor a stranger whose card has been fetched one that
+    /// has the number as its name and no card, for an empty jid a default record. Never null, owned by the book.
     const FriendData *record(const QString &strJid) const;
 
     /// True for contacts, false for strangers, for the own user's jid and for unknown jids.
     bool isFriend(const QString &strJid) const;
 
-    /// The card of the user, contact or stranger; a default card for an unknown id. Never null, owned by the book.
+    /// The card of the user, contact or stranger; for an unknown id the one that its record has. Never null, owned by
+    /// the book.
     const VcardInfo *card(const QString &strUid) const;
 
     /// The entry of the user; null for the own user and for an unknown id. Valid as long as the book.
@@ -90,6 +91,7 @@ public:
 
 private:
     void add(const Entry &entry, const char *strSignature);
+    const FriendData *numberOnly(const QString &strJid) const;
     static const FriendData *find(const std::map<QString, FriendData> &records, const QString &strJid);
 
     QString m_strDomain;
@@ -98,7 +100,7 @@ private:
     QList<Entry> m_entries;
     std::map<QString, FriendData> m_friends;
     std::map<QString, FriendData> m_strangers;
+    mutable std::map<QString, FriendData> m_numbers; // of whom nothing but the number is known, as they are asked for
     std::map<QString, VcardInfo> m_cards;
     FriendData m_unknown;
-    VcardInfo m_unknownCard;
 };

@@ -52,20 +52,37 @@ private slots:
         QCOMPARE(m_book.card(QStringLiteral("30010007")), card);
     }
 
-    void unknownJidGetsADefaultRecord()
+    void unknownJidGoesByItsNumber_data()
     {
-        const FriendData *record = m_book.record(QStringLiteral("4711@example.org"));
-        QVERIFY(record != nullptr);
-        QVERIFY(record->m_strJid.isEmpty());
+        QTest::addColumn<QString>("number");
+        QTest::newRow("nobody") << QStringLiteral("4711");
+        QTest::newRow("stranger whose card was not fetched") << QStringLiteral("30010007");
+    }
+
+    void unknownJidGoesByItsNumber()
+    {
+        QFETCH(QString, number);
+        const QString jid = number + QStringLiteral("@example.org");
+        const FriendData *record = m_book.record(jid);
+        QCOMPARE(record->displayName(), number);
+        // No version: the card is still to be fetched.
         QCOMPARE(record->m_vcardInfo.m_iSmallVersion, -1);
-        QCOMPARE(m_book.record(QStringLiteral("30010007@example.org")), record);
+        QCOMPARE(m_book.record(jid), record);
+        QVERIFY(!m_book.isFriend(jid));
+        QVERIFY(!m_book.friendMap().contains(jid));
+    }
+
+    void emptyJidGetsADefaultRecord()
+    {
+        for (const char *jid : {"", "@example.org"}) {
+            QVERIFY2(m_book.record(QLatin1String(jid))->displayName().isEmpty(), jid);
+        }
     }
 
     void cardsAreThereForStrangersToo()
     {
         QCOMPARE(m_book.card(QStringLiteral("30010007"))->m_strNickName, QStringLiteral("韩梅梅"));
-        QVERIFY(m_book.card(QStringLiteral("4711")) != nullptr);
-        QVERIFY(m_book.card(QStringLiteral("4711"))->m_strNickName.isEmpty());
+        QCOMPARE(m_book.card(QStringLiteral("4711"))->m_strNickName, QStringLiteral("4711"));
     }
 
     void learntStrangerHasARecordAndIsStillNoFriend()
@@ -86,7 +103,7 @@ private slots:
         book.learn(QStringLiteral("30010001"));
         book.learn(QStringLiteral("4711"));
         QCOMPARE(book.record(QStringLiteral("30010001@example.org")), contact);
-        QVERIFY(book.record(QStringLiteral("4711@example.org"))->m_strJid.isEmpty());
+        QCOMPARE(book.record(QStringLiteral("4711@example.org"))->m_vcardInfo.m_iSmallVersion, -1);
     }
 
     void strangerWhoHasBeenMetHasANameAndIsStillNoFriend()
