@@ -24,7 +24,7 @@ CallHistoryModel::CallHistoryModel(const CallHistory &history, const ContactBook
     connect(&history, &CallHistory::added, this, &CallHistoryModel::takeAdded);
     connect(&history, &CallHistory::changed, this, &CallHistoryModel::takeChanged);
     connect(&history, &CallHistory::reset, this, &CallHistoryModel::fill);
-    connect(&history, &CallHistory::allSeen, this, &CallHistoryModel::retranslate);
+    connect(&history, &CallHistory::allSeen, this, &CallHistoryModel::refresh);
     fill();
 }
 
@@ -42,6 +42,7 @@ void CallHistoryModel::setSearch(const QString &strText)
     if (m_strSearch != wanted) {
         m_strSearch = wanted;
         m_found.clear();
+        m_foundOutcomes.clear();
         fill();
     }
 }
@@ -93,7 +94,7 @@ bool CallHistoryModel::isLeft(const CallEntry &entry) const
     if ((m_filter == Missed && !entry.isMissed()) || (m_filter == Conferences && !entry.conference)) {
         return false;
     }
-    return m_strSearch.isEmpty() || isFound(entry.uid) ||
+    return m_strSearch.isEmpty() || isFound(entry.uid) || isOutcomeFound(entry) ||
            std::any_of(entry.members.begin(), entry.members.end(), [this](const QString &uid) { return isFound(uid); });
 }
 
@@ -111,7 +112,25 @@ bool CallHistoryModel::isFound(const QString &strUid) const
     return found;
 }
 
+bool CallHistoryModel::isOutcomeFound(const CallEntry &entry) const
+{
+    auto known = m_foundOutcomes.constFind(entry.outcome);
+    if (known == m_foundOutcomes.constEnd()) {
+        known = m_foundOutcomes.insert(entry.outcome, historyWord(entry).contains(m_strSearch, Qt::CaseInsensitive));
+    }
+    return *known;
+}
+
 void CallHistoryModel::retranslate()
+{
+    if (!m_strSearch.isEmpty()) {
+        m_foundOutcomes.clear();
+        fill();
+    }
+    refresh();
+}
+
+void CallHistoryModel::refresh()
 {
     emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
     if (!m_places.empty()) {

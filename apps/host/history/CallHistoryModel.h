@@ -41,7 +41,8 @@ public:
     /// Leaves these calls.
     void setFilter(Filter filter);
     Filter filter() const { return m_filter; }
-    /// Leaves of these the calls in which somebody is found by the text; see ContactSearch. The empty text leaves all.
+    /// Leaves of these the calls in which somebody is found by the text, see ContactSearch, and those whose outcome has
+    /// it in its word. The empty text leaves all.
     void setSearch(const QString &strText);
 
     /// Says the words anew after a change of the language or of the day.
@@ -64,10 +65,12 @@ public:
 
 private:
     void fill();
+    void refresh();
     void takeAdded();
     void takeChanged(int iPlace);
     bool isLeft(const CallEntry &entry) const;
     bool isFound(const QString &strUid) const;
+    bool isOutcomeFound(const CallEntry &entry) const;
     static QString directionText(const CallEntry &entry);
     static QString shownDirection(const CallEntry &entry);
     QString text(const CallEntry &entry, int column) const;
@@ -76,6 +79,7 @@ private:
     const ContactBook &m_book;
     Filter m_filter = All;
     QString m_strSearch;
-    mutable QHash<QString, bool> m_found; // by user id, for the present text
-    std::vector<int> m_places;            // of what is left in the history, oldest first
+    mutable QHash<QString, bool> m_found;     // by user id, for the present text
+    mutable QHash<int, bool> m_foundOutcomes; // by what became of a call, likewise
+    std::vector<int> m_places;                // of what is left in the history, oldest first
 };

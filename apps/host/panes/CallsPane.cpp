@@ -3,6 +3,7 @@
 #include "ui_CallsPane.h"
 
 #include "client/ContactBook.h"
+#include "client/DayWatch.h"
 #include "history/CallHistory.h"
 #include "history/CallSentences.h"
 
@@ -58,6 +59,7 @@ CallsPane::CallsPane(QWidget *parent) : QWidget(parent), ui(std::make_unique<Ui:
     nameClearButton();
     setUpFilters();
     setUpKeys();
+    connect(new DayWatch(this), &DayWatch::dayChanged, this, &CallsPane::showDay);
     connect(ui->btnCentre, &QPushButton::clicked, this, &CallsPane::centreWanted);
     connect(ui->tableRecords, &QTableView::clicked, this, [this](const QModelIndex &index) {
         if (m_pModel->entryAt(index.row()).isRunning()) {
@@ -160,9 +162,22 @@ void CallsPane::showWhetherEmpty()
 {
     const bool bEmpty = m_pModel == nullptr || m_pModel->rowCount() == 0;
     const bool bNone = m_pHistory == nullptr || m_pHistory->entries().empty();
-    ui->lblNoCalls->setText(bNone ? tr("No calls yet") : tr("No call matches"));
+    ui->lblNoCalls->setText(bNone ? tr("No calls yet") : noneLeftWords());
     ui->lblNoCalls->setVisible(bEmpty);
     ui->tableRecords->setVisible(!bEmpty);
+}
+
+QString CallsPane::noneLeftWords() const
+{
+    const bool bSearched = !ui->editCallSearch->text().trimmed().isEmpty();
+    switch (m_pModel->filter()) {
+    case CallHistoryModel::Missed:
+        return bSearched ? tr("No missed call matches") : tr("No missed calls");
+    case CallHistoryModel::Conferences:
+        return bSearched ? tr("No conference matches") : tr("No conferences");
+    default:
+        return tr("No call matches");
+    }
 }
 
 void CallsPane::showNotice()
@@ -197,6 +212,7 @@ void CallsPane::setObstacle(const QString &strReason)
     m_strObstacle = strReason;
     ui->btnCallAgain->setEnabled(strReason.isEmpty());
     ui->btnCallAgain->setToolTip(strReason.isEmpty() ? tr("Call who stands in the first line") : strReason);
+    ui->btnCallAgain->setAccessibleDescription(ui->btnCallAgain->toolTip());
 }
 
 void CallsPane::redial(const QModelIndex &index)
@@ -304,6 +320,15 @@ void CallsPane::showWords()
     if (m_pHistory != nullptr) {
         showNotice();
         showRemoved();
+    }
+}
+
+/// "Today" and "Yesterday" are others.
+void CallsPane::showDay()
+{
+    if (m_pModel != nullptr) {
+        m_pModel->retranslate();
+        showNotice();
     }
 }
 

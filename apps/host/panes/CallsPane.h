@@ -61,7 +61,9 @@ private:
     void setUpKeys();
     void showMissed();
     void showWhetherEmpty();
+    QString noneLeftWords() const;
     void showNotice();
+    void showDay();
     void showRemoved();
     void showWords();
     void openMenu(const QPoint &place);

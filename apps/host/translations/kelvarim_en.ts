@@ -1175,10 +1175,6 @@
         <translation>Search the calls</translation>
     </message>
     <message>
-        <source>Search the calls by name, number or initials</source>
-        <translation>Search the calls by name, number or initials</translation>
-    </message>
-    <message>
         <source>All calls</source>
         <translation>All calls</translation>
     </message>
@@ -1279,6 +1275,26 @@
 <context>
     <name>ContactPane</name>
     <message>
+    <message>
+        <source>Search the calls by name, number, initials or outcome</source>
+        <translation>Search the calls by name, number, initials or outcome</translation>
+    </message>
+    <message>
+        <source>No missed calls</source>
+        <translation>No missed calls</translation>
+    </message>
+    <message>
+        <source>No missed call matches</source>
+        <translation>No missed call matches</translation>
+    </message>
+    <message>
+        <source>No conferences</source>
+        <translation>No conferences</translation>
+    </message>
+    <message>
+        <source>No conference matches</source>
+        <translation>No conference matches</translation>
+    </message>
         <source>Contacts</source>
         <translation>Contacts</translation>
     </message>

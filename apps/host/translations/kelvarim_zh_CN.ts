@@ -1174,10 +1174,6 @@
         <translation>搜索通话</translation>
     </message>
     <message>
-        <source>Search the calls by name, number or initials</source>
-        <translation>按姓名、号码或首字母搜索通话</translation>
-    </message>
-    <message>
         <source>All calls</source>
         <translation>全部通话</translation>
     </message>
@@ -1275,6 +1271,26 @@
 <context>
     <name>ContactPane</name>
     <message>
+    <message>
+        <source>Search the calls by name, number, initials or outcome</source>
+        <translation>按姓名、号码、首字母或结果搜索通话</translation>
+    </message>
+    <message>
+        <source>No missed calls</source>
+        <translation>没有未接来电</translation>
+    </message>
+    <message>
+        <source>No missed call matches</source>
+        <translation>没有符合的未接来电</translation>
+    </message>
+    <message>
+        <source>No conferences</source>
+        <translation>没有会议</translation>
+    </message>
+    <message>
+        <source>No conference matches</source>
+        <translation>没有符合的会议</translation>
+    </message>
         <source>Contacts</source>
         <translation>联系人</translation>
     </message>

@@ -1174,10 +1174,6 @@
         <translation>搜尋通話</translation>
     </message>
     <message>
-        <source>Search the calls by name, number or initials</source>
-        <translation>按姓名、號碼或首字母搜尋通話</translation>
-    </message>
-    <message>
         <source>All calls</source>
         <translation>全部通話</translation>
     </message>
@@ -1275,6 +1271,26 @@
 <context>
     <name>ContactPane</name>
     <message>
+    <message>
+        <source>Search the calls by name, number, initials or outcome</source>
+        <translation>按姓名、號碼、首字母或結果搜尋通話</translation>
+    </message>
+    <message>
+        <source>No missed calls</source>
+        <translation>沒有未接來電</translation>
+    </message>
+    <message>
+        <source>No missed call matches</source>
+        <translation>沒有符合的未接來電</translation>
+    </message>
+    <message>
+        <source>No conferences</source>
+        <translation>沒有會議</translation>
+    </message>
+    <message>
+        <source>No conference matches</source>
+        <translation>沒有符合的會議</translation>
+    </message>
         <source>Contacts</source>
         <translation>聯絡人</translation>
     </message>

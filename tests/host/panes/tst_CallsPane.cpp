@@ -2,6 +2,7 @@
 #include "client/HostLanguage.h"
 #include "history/CallHistory.h"
 #include "panes/CallsPane.h"
+#include "screen/ScreenKeys.h"
 #include "screen/WindowProbe.h"
 
 #include "fakes/Patience.h"
@@ -45,6 +46,50 @@ private slots:
         QCOMPARE(WindowProbe::text(m_pPane.get(), "lblNoCalls"), QStringLiteral("No call matches"));
         QTest::keyClick(m_pPane->findChild<QLineEdit *>(), Qt::Key_Escape);
         QVERIFY(m_pTable->isVisible());
+    }
+
+    void emptyFilterSaysWhatThereIsNoneOf_data()
+    {
+        QTest::addColumn<QByteArray>("button");
+        QTest::addColumn<QString>("none");
+        QTest::addColumn<QString>("noneFound");
+        QTest::newRow("missed") << QByteArray("btnFilterMissed") << QStringLiteral("No missed calls")
+                                << QStringLiteral("No missed call matches");
+        QTest::newRow("conferences") << QByteArray("btnFilterConferences") << QStringLiteral("No conferences")
+                                     << QStringLiteral("No conference matches");
+    }
+
+    void emptyFilterSaysWhatThereIsNoneOf()
+    {
+        QFETCH(QByteArray, button);
+        QFETCH(QString, none);
+        QFETCH(QString, noneFound);
+        m_pHistory->add(callRow("30010001"));
+        auto *filter = m_pPane->findChild<QPushButton *>(QLatin1String(button));
+        auto *search = m_pPane->findChild<QLineEdit *>();
+        QVERIFY(Deeds({Deeds::click([this] { return m_pPane.get(); }, button, [&] { return filter->isChecked(); })})
+                    .finish());
+        QCOMPARE(WindowProbe::text(m_pPane.get(), "lblNoCalls"), none);
+        search->setFocus();
+        QVERIFY(press("z", [&] { return search->text() == QLatin1String("z"); }));
+        QCOMPARE(WindowProbe::text(m_pPane.get(), "lblNoCalls"), noneFound);
+    }
+
+    void searchFindsTheWordOfTheOutcome()
+    {
+        m_pHistory->add(missedRow("30010001", 1));
+        m_pHistory->add(callRow("30010002"));
+        auto *search = m_pPane->findChild<QLineEdit *>();
+        search->setFocus();
+        QVERIFY(ScreenKeys().type(QStringLiteral("miss")));
+        QTRY_COMPARE_WITH_TIMEOUT(search->text(), QStringLiteral("miss"), cPatienceMs);
+        QCOMPARE(m_pTable->model()->rowCount(), 1);
+        QCOMPARE(m_pPane->model()->entryAt(0).uid, QStringLiteral("30010001"));
+        QVERIFY(press("Escape", [&] { return search->text().isEmpty(); }));
+        QVERIFY(ScreenKeys().type(QStringLiteral("busy")));
+        QTRY_COMPARE_WITH_TIMEOUT(search->text(), QStringLiteral("busy"), cPatienceMs);
+        QCOMPARE(m_pTable->model()->rowCount(), 1);
+        QCOMPARE(m_pPane->model()->entryAt(0).uid, QStringLiteral("30010002"));
     }
 
     void doubleClickCallsAgain()
@@ -386,6 +431,7 @@ private slots:
         auto *again = m_pPane->findChild<QPushButton *>(QStringLiteral("btnCallAgain"));
         QVERIFY(!again->isEnabled());
         QCOMPARE(again->toolTip(), QStringLiteral("No."));
+        QCOMPARE(again->accessibleDescription(), QStringLiteral("No."));
         m_pPane->setObstacle(QString());
         QVERIFY(again->isEnabled());
         QVERIFY(again->toolTip() != QStringLiteral("No."));
