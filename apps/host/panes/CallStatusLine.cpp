@@ -7,6 +7,8 @@
 #include <QMainWindow>
 #include <QStatusBar>
 
+#include <utility>
+
 namespace {
 
 // Long enough to be read by somebody who looks up from the call window.
@@ -20,11 +22,16 @@ CallStatusLine::CallStatusLine(QMainWindow &window, const CallWatch &calls, cons
     connect(&calls, &CallWatch::refused, this, &CallStatusLine::sayRefused);
     connect(&calls, &CallWatch::began, this, [this](const CallEntry &call) {
         if (!call.caller) {
-            hold(tr("%1 is calling").arg(m_book.nameOf(call.uid)));
+            hold([this, uid = call.uid] { return tr("%1 is calling").arg(m_book.nameOf(uid)); });
         }
     });
     connect(&calls, &CallWatch::ended, this,
-            [this](const CallEntry &call) { say(CallSentences::outcome(call, m_book)); });
+            [this](const CallEntry &call) { end(CallSentences::outcome(call, m_book)); });
+    connect(window.statusBar(), &QStatusBar::messageChanged, this, [this](const QString &strShown) {
+        if (strShown.isEmpty()) {
+            sayHeld();
+        }
+    });
 }
 
 void CallStatusLine::say(const QString &strWords)
@@ -32,13 +39,32 @@ void CallStatusLine::say(const QString &strWords)
     m_window.statusBar()->showMessage(strWords, cShownMs);
 }
 
-void CallStatusLine::hold(const QString &strWords)
+void CallStatusLine::hold(Words words)
 {
-    m_window.statusBar()->showMessage(strWords);
+    m_held = std::move(words);
+    sayHeld();
+}
+
+void CallStatusLine::sayHeld()
+{
+    if (m_held) {
+        m_window.statusBar()->showMessage(m_held());
+    }
+}
+
+void CallStatusLine::retranslate()
+{
+    sayHeld();
+}
+
+void CallStatusLine::end(const QString &strWords)
+{
+    m_held = nullptr;
+    say(strWords);
 }
 
 void CallStatusLine::sayRefused(const CallEntry &wish)
 {
-    say(wish.conference ? tr("The conference was not started")
+    end(wish.conference ? tr("The conference was not started")
                         : tr("The call of %1 was not placed").arg(m_book.nameOf(wish.uid)));
 }

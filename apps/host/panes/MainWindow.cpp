@@ -125,8 +125,9 @@ void MainWindow::connectSession()
     m_promptKey.start();
     connect(&mailbox, &HostMailbox::promptWithdrawn, &m_prompt, &IncomingPrompt::withdraw);
     connect(&m_prompt, &IncomingPrompt::answered, this, [this](const QString &strUid, bool bAccept) {
-        const QString name = m_book.nameOf(strUid);
-        m_status.hold(bAccept ? tr("Call of %1 accepted").arg(name) : tr("Call of %1 rejected").arg(name));
+        m_status.hold([this, strUid, bAccept] {
+            return (bAccept ? tr("Call of %1 accepted") : tr("Call of %1 rejected")).arg(m_book.nameOf(strUid));
+        });
         if (bAccept) {
             // The call is answered over what is open, so it must be ended over that, too.
             OverModal::liftOverCurrent(WindowProbe::callWindow());
@@ -186,7 +187,7 @@ bool MainWindow::refuses(bool bInBox)
 void MainWindow::call(const QString &strUid, bool bVideo)
 {
     if (!refuses(false)) {
-        m_status.hold(tr("Calling %1").arg(m_book.nameOf(strUid)));
+        m_status.hold([this, strUid] { return tr("Calling %1").arg(m_book.nameOf(strUid)); });
         m_session.callUser(strUid, bVideo);
     }
 }
@@ -199,7 +200,8 @@ void MainWindow::startConference(const QStringList &named, bool bFromPlugin)
     const std::optional<ConferenceWish> wish = MemberPicker::pickNew(m_book, named, this);
     // Somebody may have called meanwhile.
     if (wish && !refuses(true)) {
-        m_status.hold(tr("Starting a conference with %n other(s)", nullptr, wish->uids.size()));
+        m_status.hold(
+            [others = wish->uids.size()] { return tr("Starting a conference with %n other(s)", nullptr, others); });
         m_session.callConference(*wish);
     }
 }
@@ -292,6 +294,7 @@ bool MainWindow::mayQuit()
         close();
     });
     question->open();
+        m_status.retranslate();
     return false;
 }
 

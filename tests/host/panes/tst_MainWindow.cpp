@@ -1,4 +1,6 @@
 #include "client/ContactBook.h"
+#include "client/HostLanguage.h"
+#include "client/HostSession.h"
 #include "happenings/HappeningsPanel.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
@@ -245,6 +247,30 @@ private slots:
         QVERIFY(WindowProbe::text(m_pWindow.get(), "lblCallNotice").contains(QStringLiteral("Maria Silva")));
         QVERIFY(pressButton(m_pWindow.get(), "btnSeen"));
         QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "lblCallNotice"));
+    }
+
+    void statusLineComesBackToTheCallThatIsOn()
+    {
+        ring(QStringLiteral("30010006"));
+        QTest::keyClick(m_pWindow->findChild<QWidget *>(QStringLiteral("30010002")), Qt::Key_Return);
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("You are in a call. End it first."));
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Anna Novak is calling"),
+                                  cPatienceMs);
+        missCall();
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Missed call from Anna Novak"));
+        QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->statusBar()->currentMessage(), QString(), cPatienceMs);
+    }
+
+    void statusLineTellsTheCallThatIsOnInTheNewLanguage()
+    {
+        HostLanguage language(QStringLiteral(VOIP_TRANSLATIONS));
+        ring(QStringLiteral("30010006"));
+        QVERIFY(language.use(QStringLiteral("zh_CN")));
+        QCoreApplication::processEvents();
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Anna Novak 来电"));
+        QVERIFY(language.use(QStringLiteral("en")));
+        QCoreApplication::processEvents();
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Anna Novak is calling"));
     }
 
     void whatCannotBeDoneNowIsDisabledWithTheReason_data()
