@@ -147,6 +147,8 @@ int runByHand(HostSession &session, MainWindow &window)
     // devices in its environment.
     QTimer::singleShot(0, &session, [&session] { session.sound().start([&session] { session.setOnline(true); }); });
     const int status = QApplication::exec();
+    // Where a signal has ended it, the window has not been closed.
+    window.rememberPlace();
     session.quit();
     return status;
 }

@@ -270,6 +270,13 @@ void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
+void MainWindow::rememberPlace() const
+{
+    if (isVisible()) {
+        m_pPlace->remember(m_pHappenings->grown());
+    }
+}
+
         fillHeader();
         m_session.takeLanguage();
         showOnline(m_session.isOnline());
@@ -308,7 +315,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     m_signature.hide();
     m_videoCard.leave();
     m_settingsPage.hide();
-    m_pPlace->remember(m_pHappenings->grown());
+    rememberPlace();
     m_session.quit();
     QMainWindow::closeEvent(event);
 }

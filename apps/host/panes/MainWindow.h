@@ -47,6 +47,9 @@ public:
     /// The card over the call window, hidden while no video call without a picture is on.
     VideoCard &videoCard() { return m_videoCard; }
 
+    /// Keeps place and size for the next start, as closing the window does; nothing happens while it is hidden.
+    void rememberPlace() const;
+
     /// Shows the window above the others, out of the task bar where it was minimized, and asks for the keyboard.
     void comeToFront();
 

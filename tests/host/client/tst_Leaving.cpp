@@ -102,6 +102,39 @@ private slots:
         }
     }
 
+    void windowComesBackWhereASignalHasEndedIt_data()
+    {
+        QTest::addColumn<int>("number");
+        QTest::newRow("Ctrl-C") << SIGINT;
+        QTest::newRow("end of the session") << SIGTERM;
+    }
+
+    void windowComesBackWhereASignalHasEndedIt()
+    {
+        QFETCH(int, number);
+        const QSize size(number == SIGINT ? 901 : 911, 641);
+        QProcess demo;
+        start(demo, QString());
+        const QByteArray window = xdotool({"search", "--sync", "--onlyvisible", "--name", "KelvarIM demo"}).trimmed();
+        QVERIFY(!window.isEmpty() && !window.contains('\n'));
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(foldersNamed("kelvarim-trace-*")), cPatienceMs);
+        const QByteArray wanted = QByteArray::number(size.width()) + 'x' + QByteArray::number(size.height());
+        xdotool({"windowsize", "--sync", window, QByteArray::number(size.width()), QByteArray::number(size.height())});
+        QTRY_VERIFY_WITH_TIMEOUT(xdotool({"getwindowgeometry", window}).contains(wanted), cPatienceMs);
+        ::kill(pid_t(demo.processId()), number);
+        QVERIFY(demo.waitForFinished(cPatienceMs));
+        QCOMPARE(demo.exitCode(), 130);
+        QTRY_VERIFY_WITH_TIMEOUT(callProcesses().isEmpty(), cPatienceMs);
+
+        QProcess next;
+        start(next, QString());
+        const QByteArray again = xdotool({"search", "--sync", "--onlyvisible", "--name", "KelvarIM demo"}).trimmed();
+        QTRY_VERIFY_WITH_TIMEOUT(xdotool({"getwindowgeometry", again}).contains(wanted), cPatienceMs);
+        next.terminate();
+        QVERIFY(next.waitForFinished(cPatienceMs));
+        QTRY_VERIFY_WITH_TIMEOUT(callProcesses().isEmpty(), cPatienceMs);
+    }
+
     void tracesOfAKilledClientGoWithItsCallProcess()
     {
         QProcess first;
@@ -155,6 +188,18 @@ private slots:
     }
 
 private:
+    /// What that program says; it works on the test's screen.
+    static QByteArray xdotool(const QList<QByteArray> &arguments)
+    {
+        QStringList words;
+        for (const QByteArray &argument : arguments) {
+            words << QString::fromUtf8(argument);
+        }
+        QProcess process;
+        process.start(QStringLiteral("xdotool"), words);
+        process.waitForFinished(cPatienceMs);
+        return process.readAllStandardOutput();
+    }
     /// Starts the client; its call process writes to that file, without one where the client says.
     static void start(QProcess &demo, const QString &strTrace)
     {
