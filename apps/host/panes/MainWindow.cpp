@@ -155,6 +155,9 @@ void MainWindow::connectCalls()
     });
     connect(&calls, &CallWatch::ended, this, [this](const CallEntry &call) {
         m_videoCard.leave();
+        if (auto *asked = findChild<QuitQuestion *>()) {
+            asked->reject();
+        }
         if (!call.seen) {
             QApplication::alert(this);
         }

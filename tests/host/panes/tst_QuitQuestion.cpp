@@ -15,6 +15,8 @@
 #include <QFile>
 #include <QTest>
 
+#include <csignal>
+
 class tst_QuitQuestion : public QObject
 {
     Q_OBJECT
@@ -57,6 +59,19 @@ private slots:
         QVERIFY(closeWindow());
         QVERIFY(answerBy("Return"));
         QVERIFY(m_pWindow->isVisible() && m_session.isExistCall());
+    }
+
+    void questionGoesWithTheCall()
+    {
+        QVERIFY(!m_pWindow->close());
+        QVERIFY(QTest::qWaitForWindowActive(question(), cPatienceMs));
+        QCOMPARE(::kill(pid_t(m_session.callService().process()), SIGKILL), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(question() == nullptr, cPatienceMs);
+        QVERIFY(m_pWindow->isVisible());
+        // The next call process begins as the first one did.
+        QTRY_VERIFY_WITH_TIMEOUT(!m_pWindow->prompt().isVisible(), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->prompt().isVisible(), cPatienceMs);
+        QVERIFY(m_session.isExistCall());
     }
 
     void secondCloseAsksNoSecondTime()
