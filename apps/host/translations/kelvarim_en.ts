@@ -1925,10 +1925,6 @@
 <context>
     <name>VideoCard</name>
     <message>
-        <source>No picture here: the call process draws none into this window. You can talk as in a voice call.</source>
-        <translation>No picture here: the call process draws none into this window. You can talk as in a voice call.</translation>
-    </message>
-    <message>
         <source>Video call with %1</source>
         <translation>Video call with %1</translation>
     </message>
@@ -1940,6 +1936,10 @@
         <translation>As the desktop has it</translation>
     </message>
     <message>
+    <message>
+        <source>No picture here: the call process draws none into this window. Everything else is as in a voice call.</source>
+        <translation>No picture here: the call process draws none into this window. Everything else is as in a voice call.</translation>
+    </message>
         <source>As the desktop has it (%1)</source>
         <translation>As the desktop has it (%1)</translation>
     </message>

@@ -1918,10 +1918,6 @@
 <context>
     <name>VideoCard</name>
     <message>
-        <source>No picture here: the call process draws none into this window. You can talk as in a voice call.</source>
-        <translation>这里没有画面：通话进程没有在此窗口中绘制画面。您可以像语音通话一样交谈。</translation>
-    </message>
-    <message>
         <source>Video call with %1</source>
         <translation>与 %1 的视频通话</translation>
     </message>
@@ -1933,6 +1929,10 @@
         <translation>跟随系统</translation>
     </message>
     <message>
+    <message>
+        <source>No picture here: the call process draws none into this window. Everything else is as in a voice call.</source>
+        <translation>这里没有画面：通话进程没有在此窗口中绘制。其他与语音通话相同。</translation>
+    </message>
         <source>As the desktop has it (%1)</source>
         <translation>跟随系统（%1）</translation>
     </message>

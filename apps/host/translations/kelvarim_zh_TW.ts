@@ -1918,10 +1918,6 @@
 <context>
     <name>VideoCard</name>
     <message>
-        <source>No picture here: the call process draws none into this window. You can talk as in a voice call.</source>
-        <translation>這裡沒有畫面：通話程序沒有在此視窗中繪製畫面。您可以像語音通話一樣交談。</translation>
-    </message>
-    <message>
         <source>Video call with %1</source>
         <translation>與 %1 的視訊通話</translation>
     </message>
@@ -1933,6 +1929,10 @@
         <translation>依系統設定</translation>
     </message>
     <message>
+    <message>
+        <source>No picture here: the call process draws none into this window. Everything else is as in a voice call.</source>
+        <translation>這裡沒有畫面：通話程序沒有在此視窗中繪製。其他與語音通話相同。</translation>
+    </message>
         <source>As the desktop has it (%1)</source>
         <translation>依系統設定（%1）</translation>
     </message>
