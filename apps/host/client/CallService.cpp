@@ -125,11 +125,17 @@ void CallService::setState(State state)
 void CallService::takePeer()
 {
     const qint64 peer = CallChannel::peer();
-    if (std::exchange(m_iPeer, peer) == peer) {
+    if (m_iPeer == peer) {
         return;
     }
+    // What the one before has said to its last comes before its end.
+    readTrace();
+    const qint64 before = std::exchange(m_iPeer, peer);
     m_bFlag = false;
     m_bTraced = false;
+    if (before != 0) {
+        emit lost();
+    }
     if (peer != 0) {
         m_sinceConnected.start();
         m_place = CallChannel::traceOf(peer);
@@ -164,12 +170,15 @@ void CallService::heed(WireLine::Direction direction, const QString &strText)
         return;
     }
     const QJsonObject line = QJsonDocument::fromJson(strText.toUtf8()).object();
+    const int code = line.value(QLatin1String("resultCode")).toInt(-1);
     if (direction == WireLine::FromPlugin) {
         const bool registers = isCommand(line, Wire::Command::RegeditUser);
         m_bTraced = m_bTraced || registers;
         m_bFlag = m_bFlag && !registers && !isCommand(line, Wire::Command::UnReg);
-    } else if (line.value(QLatin1String("resultCode")).toInt(-1) == int(Wire::Code::SdkFlag)) {
+    } else if (code == int(Wire::Code::SdkFlag)) {
         m_bFlag = line.value(QLatin1String("content")).toString() == QLatin1String("true");
+    } else if (code == int(Wire::Code::CallConnected)) {
+        emit callConnected();
     }
 }
 

@@ -65,6 +65,10 @@ public:
 signals:
     /// State, tries, seconds or the place of the trace have changed.
     void changed();
+    /// The call process that the plug-in was connected to has gone, and with it whatever call it had.
+    void lost();
+    /// The call process has told the plug-in that the call is on. Not said where its trace cannot be read.
+    void callConnected();
 
 private:
     void setState(State state);

@@ -11,7 +11,8 @@ enum CallOutcome
 {
     outcomeRunning = 0,   ///< it is not over
     outcomeMissed = 1,    ///< it came in, and the user neither took nor refused it
-    outcomeCutOff = 2,    ///< its end was not seen, since the client ended first or another call took its place
+    outcomeCutOff = 2,    ///< its end was not seen, since the client or the call process ended first or another call
+                          ///< took its place
     outcomeNoAnswer = 3,  ///< nobody took it within the time that a call may ring
     outcomeRunningIn = 4, ///< it is not over, came in, and the user has not taken it
 };

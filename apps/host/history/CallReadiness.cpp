@@ -2,7 +2,8 @@
 
 #include <utility>
 
-template <typename Value> void CallReadiness::set(Value &member, Value value)
+template <typename Value>
+void CallReadiness::set(Value &member, Value value)
 {
     if (std::exchange(member, value) != value) {
         emit changed();
@@ -14,9 +15,9 @@ void CallReadiness::setSignedIn(bool bSignedIn)
     set(m_bSignedIn, bSignedIn);
 }
 
-void CallReadiness::setInCall(bool bInCall)
+void CallReadiness::setCall(Call call)
 {
-    set(m_bInCall, bInCall);
+    set(m_call, call);
 }
 
 void CallReadiness::setService(Service service)
@@ -26,8 +27,9 @@ void CallReadiness::setService(Service service)
 
 QString CallReadiness::reason() const
 {
-    if (m_bInCall) {
-        return tr("You are in a call. End it first.");
+    if (m_call != Call::None) {
+        return m_call == Call::On ? tr("You are in a call. End it first.")
+                                  : tr("The window of the lost call is still open. Hang up there first.");
     }
     if (!m_bSignedIn) {
         return tr("You are signed out. Sign in first.");

@@ -17,17 +17,25 @@ public:
         Lost
     };
 
+    /// What call there is.
+    enum class Call
+    {
+        None,
+        On,  ///< in any state
+        Lost ///< it is over, and its window is still open
+    };
+
     using QObject::QObject;
 
     /// Whether the user is signed in; false before.
     void setSignedIn(bool bSignedIn);
-    /// Whether there is a call, in any state; false before.
-    void setInCall(bool bInCall);
+    /// What call there is; none before.
+    void setCall(Call call);
     /// How far the call service is; reached before.
     void setService(Service service);
 
     /// Whether a call can be placed.
-    bool isReady() const { return m_bSignedIn && m_service == Service::Reached && !m_bInCall; }
+    bool isReady() const { return m_bSignedIn && m_service == Service::Reached && m_call == Call::None; }
     /// The reason, in the client's language, a sentence; empty while a call can be placed.
     QString reason() const;
 
@@ -36,9 +44,10 @@ signals:
     void changed();
 
 private:
-    template <typename Value> void set(Value &member, Value value);
+    template <typename Value>
+    void set(Value &member, Value value);
 
     bool m_bSignedIn = false;
-    bool m_bInCall = false;
+    Call m_call = Call::None;
     Service m_service = Service::Reached;
 };

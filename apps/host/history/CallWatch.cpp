@@ -6,6 +6,7 @@
 #include "plugin/EventPayload.h"
 #include "store/DBConfInfo.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QWidget>
 
@@ -16,8 +17,6 @@
 namespace {
 
 constexpr int cLookEveryMs = 250;
-// A call that the user ends is over before the click or the key that did it has been dealt with.
-constexpr qint64 cDeedMs = 1000;
 
 bool isPluginWindow(const QWidget *window)
 {
@@ -32,6 +31,10 @@ CallWatch::CallWatch(CallHistory &history, Question question, QObject *parent)
     m_timer.setInterval(cLookEveryMs);
     connect(&m_timer, &QTimer::timeout, this, &CallWatch::look);
     QCoreApplication::instance()->installEventFilter(this);
+    // A call that the user ends is over before the click or the key that did it has been dealt with: before the event
+    // loop, be it that of a box which has asked back, waits for something new.
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            [this] { m_bTouched = false; });
 }
 
 bool CallWatch::eventFilter(QObject *watched, QEvent *event)
@@ -40,14 +43,14 @@ bool CallWatch::eventFilter(QObject *watched, QEvent *event)
     const bool touch = type == QEvent::MouseButtonRelease || type == QEvent::KeyPress || type == QEvent::Shortcut ||
                        (type == QEvent::Close && event->spontaneous());
     if (touch && watched->isWidgetType() && isPluginWindow(static_cast<const QWidget *>(watched)->window())) {
-        m_sinceTouch.start();
+        m_bTouched = true;
     }
     return QObject::eventFilter(watched, event);
 }
 
 bool CallWatch::isUsersDeed() const
 {
-    return m_bLeaving || m_answer == Answer::Refused || (m_sinceTouch.isValid() && !m_sinceTouch.hasExpired(cDeedMs));
+    return m_bLeaving || m_answer == Answer::Refused || m_bTouched || m_bEndTouched;
 }
 
 void CallWatch::note(bool bFromPlugin, int iMsgId, const QByteArray &payload)
@@ -63,6 +66,7 @@ void CallWatch::note(bool bFromPlugin, int iMsgId, const QByteArray &payload)
         finishSingle(payload);
     } else if (iMsgId == MSG_CLOSE_AV_MSGBOX) {
         // Said before a conference's record is written.
+        m_bEndTouched = m_bTouched;
         QMetaObject::invokeMethod(this, &CallWatch::look, Qt::QueuedConnection);
     }
 }
@@ -127,7 +131,7 @@ void CallWatch::settle()
 void CallWatch::ring(const QString &strUid, bool bConference, bool bVideo)
 {
     // The invitation to the conference that is on may be said again.
-    if (m_call.id != 0 && bConference && m_call.conference && m_call.uid == strUid) {
+    if (m_call.id != 0 && !m_bLost && bConference && m_call.conference && m_call.uid == strUid) {
         return;
     }
     if (m_call.id != 0) {
@@ -149,7 +153,9 @@ void CallWatch::begin(CallEntry call)
     call.id = m_history.add(call);
     m_call = call;
     m_answer = Answer::None;
-    m_sinceTouch.invalidate();
+    m_bTouched = false;
+    m_bEndTouched = false;
+    m_sinceConnected.invalidate();
     m_timer.start();
     emit changed();
     emit began(m_call);
@@ -157,7 +163,7 @@ void CallWatch::begin(CallEntry call)
 
 void CallWatch::answer(bool bAccept)
 {
-    if (m_call.id == 0 || m_call.caller) {
+    if (m_call.id == 0 || m_call.caller || m_bLost) {
         return;
     }
     m_answer = bAccept ? Answer::Taken : Answer::Refused;
@@ -200,8 +206,7 @@ void CallWatch::finishSingle(const QByteArray &payload)
     }
     m_call.video = video;
     m_call.caller = caller;
-    m_call.connected = connected;
-    m_call.seconds = seconds;
+    takeLength(connected, seconds);
     end(singleOutcome(result));
 }
 
@@ -232,8 +237,7 @@ void CallWatch::finishConference()
                                   [this](const ConfInfoData &record) { return record.m_strCreatUserID == m_call.uid; });
     if (own != records.end()) {
         m_call.confId = own->m_strConfID;
-        m_call.seconds = own->m_strCallTime.toLongLong();
-        m_call.connected = own->m_bIsConnect;
+        takeLength(own->m_bIsConnect, own->m_strCallTime.toLongLong());
         m_call.members = m_history.others(own->m_listMember);
     }
     end(conferenceOutcome());
@@ -257,20 +261,67 @@ int CallWatch::conferenceOutcome() const
     }
 }
 
+void CallWatch::noteConnected()
+{
+    if (m_call.id != 0 && !m_bLost) {
+        m_sinceConnected.start();
+    }
+}
+
+void CallWatch::lose()
+{
+    if (m_call.id == 0 || m_bLost) {
+        return;
+    }
+    m_call.connected = m_sinceConnected.isValid();
+    m_call.seconds = m_call.connected ? m_sinceConnected.elapsed() / 1000 : 0;
+    m_sinceLost.start();
+    m_bLost = true;
+    conclude(isRinging() ? outcomeMissed : outcomeCutOff);
+    emit changed();
+    emit ended(CallEntry(m_call));
+}
+
+/// Takes what the plug-in says of the length, without what has passed since the call was lost.
+void CallWatch::takeLength(bool bConnected, qint64 iSeconds)
+{
+    const qint64 lost = m_bLost ? m_sinceLost.elapsed() / 1000 : 0;
+    if (!m_bLost || !m_call.connected) {
+        m_call.connected = bConnected;
+        m_call.seconds = qMax<qint64>(0, iSeconds - lost);
+    }
+}
+
 /// The call is gone, and nobody has said how.
 void CallWatch::cutOff()
 {
-    end(m_call.outcome == outcomeRunningIn && m_answer == Answer::None ? outcomeMissed : outcomeCutOff);
+    end(isRinging() ? outcomeMissed : outcomeCutOff);
+}
+
+/// Writes down how the call has ended.
+void CallWatch::conclude(int iOutcome)
+{
+    m_call.outcome = iOutcome;
+    m_call.seen = isUsersDeed();
+    m_history.change(m_call);
 }
 
 void CallWatch::end(int iOutcome)
 {
+    const bool bTold = std::exchange(m_bLost, false);
+    if (bTold) {
+        // What the plug-in knows of it comes only now.
+        const CallEntry *kept = m_history.find(m_call.id);
+        m_call.seen = kept == nullptr || kept->seen;
+        m_history.change(m_call);
+    } else {
+        conclude(iOutcome);
+    }
     m_timer.stop();
-    m_call.outcome = iOutcome;
-    m_call.seen = isUsersDeed();
-    m_history.change(m_call);
     const CallEntry call = std::exchange(m_call, CallEntry());
     m_answer = Answer::None;
     emit changed();
-    emit ended(call);
+    if (!bTold) {
+        emit ended(call);
+    }
 }

@@ -30,8 +30,19 @@ public:
     /// Looks whether the call is over, as it does by itself from time to time.
     void look();
 
-    /// Whether there is a call, or one has been asked for and the plug-in has not decided yet.
+    /// The other side has taken the call that is on.
+    void noteConnected();
+    /// The call process has gone, and with it the call that was on: it has ended here, although the plug-in keeps it
+    /// until the user hangs up.
+    void lose();
+
+    /// Whether there is a call, or one has been asked for and the plug-in has not decided yet. The plug-in takes no
+    /// other one while it has one that is lost.
     bool hasCall() const { return m_bPlacing || m_call.id != 0; }
+    /// Whether a call comes in that the user has neither taken nor refused.
+    bool isRinging() const { return m_call.outcome == outcomeRunningIn && m_answer == Answer::None; }
+    /// The call that is lost, and that the plug-in still has; null while there is none.
+    const CallEntry *lostCall() const { return m_bLost ? &m_call : nullptr; }
 
 signals:
     /// hasCall() may answer otherwise.
@@ -65,8 +76,10 @@ private:
     void finishConference();
     int singleOutcome(int iResult) const;
     int conferenceOutcome() const;
+    void takeLength(bool bConnected, qint64 iSeconds);
     void cutOff();
     void end(int iOutcome);
+    void conclude(int iOutcome);
     bool isUsersDeed() const;
 
     CallHistory &m_history;
@@ -76,6 +89,10 @@ private:
     CallEntry m_call; // id 0: none
     Answer m_answer = Answer::None;
     bool m_bPlacing = false;
-    bool m_bLeaving = false; // the user has signed out, or quits
-    QElapsedTimer m_sinceTouch;
+    bool m_bLeaving = false;    // the user has signed out, or quits
+    bool m_bLost = false;       // the call is over, and the plug-in still has it
+    bool m_bTouched = false;    // the user's last deed on one of the plug-in's windows is still being dealt with
+    bool m_bEndTouched = false; // it was when the plug-in ended a conference, which is seen only later
+    QElapsedTimer m_sinceConnected;
+    QElapsedTimer m_sinceLost;
 };

@@ -4,16 +4,19 @@
 
 #include "client/CallProcess.h"
 #include "client/CallService.h"
+#include "history/CallSentences.h"
+#include "history/CallWatch.h"
 
 #include <QAccessible>
 
-CallServiceBar::CallServiceBar(CallService &service, QWidget *parent)
-    : QWidget(parent), ui(std::make_unique<Ui::CallServiceBar>()), m_service(service)
+CallServiceBar::CallServiceBar(CallService &service, const CallWatch &calls, const ContactBook &book, QWidget *parent)
+    : QWidget(parent), ui(std::make_unique<Ui::CallServiceBar>()), m_service(service), m_calls(calls), m_book(book)
 {
     ui->setupUi(this);
     // A plain widget paints its sheet's ground only when it is told to.
     setAttribute(Qt::WA_StyledBackground);
     connect(&m_service, &CallService::changed, this, &CallServiceBar::showState);
+    connect(&m_calls, &CallWatch::changed, this, &CallServiceBar::showState);
     connect(ui->btnStartService, &QPushButton::clicked, &m_service, &CallService::startNow);
     showState();
 }
@@ -22,21 +25,40 @@ CallServiceBar::~CallServiceBar() = default;
 
 void CallServiceBar::showState()
 {
+    QStringList words{callWords(), stateWords()};
+    words.removeAll(QString());
+    if (words.isEmpty()) {
+        hide();
+        return;
+    }
+    const CallService::State state = m_service.state();
+    show(words.join(QLatin1Char('\n')), state == CallService::Lost || state == CallService::GivenUp);
+}
+
+QString CallServiceBar::stateWords() const
+{
     switch (m_service.state()) {
     case CallService::Lost:
-        return show(lostWords(), true);
+        return lostWords();
     case CallService::GivenUp:
-        return show(givenUpWords(), true);
+        return givenUpWords();
     case CallService::Returning:
-        return show(tr("Call service lost for a moment: it runs again, and the connection comes back by itself within "
-                       "a minute."),
-                    false);
+        return tr("Call service lost for a moment: it runs again, and the connection comes back by itself within a "
+                  "minute.");
     case CallService::Unregistered:
-        return show(tr("The call service has not registered you, so nobody can call you. Sign out and in again."),
-                    false);
+        return tr("The call service has not registered you, so nobody can call you. Sign out and in again.");
     default:
-        hide();
+        return QString();
     }
+}
+
+QString CallServiceBar::callWords() const
+{
+    const CallEntry *call = m_calls.lostCall();
+    // One that rang is taken away.
+    return call == nullptr || call->isMissed() ? QString()
+                                               : tr("%1. Its window is still open: hang up there, and then call again.")
+                                                     .arg(CallSentences::notice(*call, m_book));
 }
 
 void CallServiceBar::show(const QString &strText, bool bButton)
@@ -62,8 +84,7 @@ QString CallServiceBar::lostWords() const
     const QString doing = seconds == 0 ? tr("It is being started again (try %1 of %2).")
                                        : tr("It is started again in %n second(s) (try %1 of %2).", nullptr, seconds);
     const int number = qMin(tries, seconds == 0 ? qMax(1, m_service.attempt()) : m_service.attempt() + 1);
-    return tr("Call service lost: no calls for the moment, and one that is still on the screen is over. %1 The client "
-              "itself need not be restarted.")
+    return tr("Call service lost: no calls for the moment. %1 The client itself need not be restarted.")
         .arg(doing.arg(number).arg(tries));
 }
 

@@ -5,20 +5,22 @@
 #include <memory>
 
 class CallService;
+class CallWatch;
+class ContactBook;
 
 namespace Ui {
 class CallServiceBar;
 }
 
 /// Says below the header what is wrong with the call service, what is done about it and what the person can do, with a
-/// button that starts it at once. Hidden while all is well or nobody is signed in. GUI thread; the service must outlive
-/// it.
+/// button that starts it at once, and whose call was lost with it, until its window is closed. Hidden while all is well
+/// or nobody is signed in. GUI thread; service, watch and book must outlive it.
 class CallServiceBar : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit CallServiceBar(CallService &service, QWidget *parent = nullptr);
+    CallServiceBar(CallService &service, const CallWatch &calls, const ContactBook &book, QWidget *parent = nullptr);
     ~CallServiceBar() override;
 
 protected:
@@ -28,9 +30,13 @@ protected:
 private:
     void show(const QString &strText, bool bButton);
     void showState();
+    QString stateWords() const;
+    QString callWords() const;
     QString lostWords() const;
     QString givenUpWords() const;
 
     std::unique_ptr<Ui::CallServiceBar> ui;
     CallService &m_service;
+    const CallWatch &m_calls;
+    const ContactBook &m_book;
 };

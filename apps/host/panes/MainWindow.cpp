@@ -147,7 +147,7 @@ void MainWindow::connectCalls()
     const CallWatch &calls = m_session.calls();
     const auto *way = new WayToCall(*this, calls);
     connect(ui->callsPane, &CallsPane::callWindowWanted, way, &WayToCall::go);
-    connect(&calls, &CallWatch::changed, this, [this, &calls] { m_readiness.setInCall(calls.hasCall()); });
+    connect(&calls, &CallWatch::changed, this, &MainWindow::showCall);
     connect(&calls, &CallWatch::began, this, [this](const CallEntry &call) {
         if (call.video) {
             m_videoCard.accompany(WindowProbe::callWindow(), call.uid);
@@ -164,8 +164,16 @@ void MainWindow::connectCalls()
     });
     connect(&m_session.history(), &CallHistory::reported, this, &MainWindow::showNotice);
     connect(&m_readiness, &CallReadiness::changed, this, &MainWindow::showReadiness);
-    m_readiness.setInCall(calls.hasCall());
+    showCall();
     showReadiness();
+}
+
+void MainWindow::showCall()
+{
+    const CallWatch &calls = m_session.calls();
+    m_readiness.setCall(calls.lostCall() != nullptr ? CallReadiness::Call::Lost
+                        : calls.hasCall()           ? CallReadiness::Call::On
+                                                    : CallReadiness::Call::None);
 }
 
 void MainWindow::showReadiness()
@@ -212,7 +220,8 @@ void MainWindow::startConference(const QStringList &named, bool bFromPlugin)
 void MainWindow::setUpCallService()
 {
     const int place = ui->centralLayout->indexOf(ui->header) + 1;
-    ui->centralLayout->insertWidget(place, new CallServiceBar(m_session.callService(), ui->central));
+    ui->centralLayout->insertWidget(
+        place, new CallServiceBar(m_session.callService(), m_session.calls(), m_book, ui->central));
     connect(&m_session.callService(), &CallService::changed, this, &MainWindow::showService);
 }
 
@@ -261,6 +270,13 @@ void MainWindow::tryStoreAgain()
     }
 }
 
+void MainWindow::rememberPlace() const
+{
+    if (isVisible()) {
+        m_pPlace->remember(m_pHappenings->grown());
+    }
+}
+
 void MainWindow::comeToFront()
 {
     setWindowState(windowState() & ~Qt::WindowMinimized);
@@ -273,25 +289,19 @@ void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
-void MainWindow::rememberPlace() const
-{
-    if (isVisible()) {
-        m_pPlace->remember(m_pHappenings->grown());
-    }
-}
-
         fillHeader();
         m_session.takeLanguage();
-        showOnline(m_session.isOnline());
+        showService();
         showReadiness();
         showNotice();
+        m_status.retranslate();
     }
     QMainWindow::changeEvent(event);
 }
 
 bool MainWindow::mayQuit()
 {
-    if (m_bQuitAgreed || !m_session.isExistCall()) {
+    if (m_bQuitAgreed || m_session.calls().lostCall() != nullptr || !m_session.isExistCall()) {
         return true;
     }
     if (auto *asked = findChild<QuitQuestion *>()) {
@@ -304,7 +314,6 @@ bool MainWindow::mayQuit()
         close();
     });
     question->open();
-        m_status.retranslate();
     return false;
 }
 

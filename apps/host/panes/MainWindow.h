@@ -76,6 +76,7 @@ private:
     void showNotice();
     void tryStoreAgain();
     void connectCalls();
+    void showCall();
     void showReadiness();
     /// Says why no call can be placed now, in a box where the user looks elsewhere; false when one can.
     bool refuses(bool bInBox);

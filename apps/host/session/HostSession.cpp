@@ -31,6 +31,8 @@ HostSession::HostSession(ContactBook &book, QObject *parent)
                    const QByteArray &reply) { pass(true, iMsgId, strWords, strAnswer, payload, reply); });
     connect(&m_mailbox, &HostMailbox::cardsWanted, this, &HostSession::sendCards);
     connect(&m_calls, &CallWatch::began, this, &HostSession::meet);
+    connect(&m_callService, &CallService::lost, this, &HostSession::loseCall);
+    connect(&m_callService, &CallService::callConnected, &m_calls, &CallWatch::noteConnected);
 }
 
 HostSession::~HostSession()
@@ -156,6 +158,17 @@ void HostSession::meet(const CallEntry &call)
 {
     if (!call.caller && m_book.meet(call.uid)) {
         emit strangerMet(call.uid);
+    }
+}
+
+/// The plug-in keeps the call of a call process that has gone. One that still rings is rejected, so that the ring and
+/// the prompt end; the window of any other stands until the user hangs up.
+void HostSession::loseCall()
+{
+    const bool bRings = m_calls.isRinging();
+    m_calls.lose();
+    if (bRings) {
+        answerCall(false);
     }
 }
 

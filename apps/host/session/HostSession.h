@@ -114,6 +114,7 @@ private:
     void takeLeave();
     void sendCards(const QStringList &uids);
     void meet(const CallEntry &call);
+    void loseCall();
 
     ContactBook &m_book;
     HostContext m_context;

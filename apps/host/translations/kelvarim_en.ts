@@ -1041,6 +1041,10 @@
         <source>The call service is being reached. Wait a moment.</source>
         <translation>The call service is being reached. Wait a moment.</translation>
     </message>
+    <message>
+        <source>The window of the lost call is still open. Hang up there first.</source>
+        <translation>The window of the lost call is still open. Hang up there first.</translation>
+    </message>
 </context>
 <context>
     <name>CallSentences</name>
@@ -1271,10 +1275,6 @@
         <source>A call that is on cannot be deleted.</source>
         <translation>A call that is on cannot be deleted.</translation>
     </message>
-</context>
-<context>
-    <name>ContactPane</name>
-    <message>
     <message>
         <source>Search the calls by name, number, initials or outcome</source>
         <translation>Search the calls by name, number, initials or outcome</translation>
@@ -1295,6 +1295,10 @@
         <source>No conference matches</source>
         <translation>No conference matches</translation>
     </message>
+</context>
+<context>
+    <name>ContactPane</name>
+    <message>
         <source>Contacts</source>
         <translation>Contacts</translation>
     </message>
@@ -1802,10 +1806,6 @@
         </translation>
     </message>
     <message>
-        <source>Call service lost: no calls for the moment, and one that is still on the screen is over. %1 The client itself need not be restarted.</source>
-        <translation>Call service lost: no calls for the moment, and one that is still on the screen is over. %1 The client itself need not be restarted.</translation>
-    </message>
-    <message>
         <source>The program cannot be started: %1</source>
         <translation>The program cannot be started: %1</translation>
     </message>
@@ -1819,6 +1819,14 @@
     <message>
         <source>Call service lost, and given up. %1 Start it by the button; if that does not help, quit the client and start it again.</source>
         <translation>Call service lost, and given up. %1 Start it by the button; if that does not help, quit the client and start it again.</translation>
+    </message>
+    <message>
+        <source>Call service lost: no calls for the moment. %1 The client itself need not be restarted.</source>
+        <translation>Call service lost: no calls for the moment. %1 The client itself need not be restarted.</translation>
+    </message>
+    <message>
+        <source>%1. Its window is still open: hang up there, and then call again.</source>
+        <translation>%1. Its window is still open: hang up there, and then call again.</translation>
     </message>
 </context>
 <context>
@@ -1928,6 +1936,10 @@
         <source>Video call with %1</source>
         <translation>Video call with %1</translation>
     </message>
+    <message>
+        <source>No picture here: the call process draws none into this window. Everything else is as in a voice call.</source>
+        <translation>No picture here: the call process draws none into this window. Everything else is as in a voice call.</translation>
+    </message>
 </context>
 <context>
     <name>DeviceBox</name>
@@ -1936,10 +1948,6 @@
         <translation>As the desktop has it</translation>
     </message>
     <message>
-    <message>
-        <source>No picture here: the call process draws none into this window. Everything else is as in a voice call.</source>
-        <translation>No picture here: the call process draws none into this window. Everything else is as in a voice call.</translation>
-    </message>
         <source>As the desktop has it (%1)</source>
         <translation>As the desktop has it (%1)</translation>
     </message>

@@ -1040,6 +1040,10 @@
         <source>The call service is being reached. Wait a moment.</source>
         <translation>正在连接通话服务，请稍候。</translation>
     </message>
+    <message>
+        <source>The window of the lost call is still open. Hang up there first.</source>
+        <translation>中断的通话的窗口仍然打开，请先在其中挂断。</translation>
+    </message>
 </context>
 <context>
     <name>CallSentences</name>
@@ -1267,10 +1271,6 @@
         <source>A call that is on cannot be deleted.</source>
         <translation>正在进行的通话不能删除。</translation>
     </message>
-</context>
-<context>
-    <name>ContactPane</name>
-    <message>
     <message>
         <source>Search the calls by name, number, initials or outcome</source>
         <translation>按姓名、号码、首字母或结果搜索通话</translation>
@@ -1291,6 +1291,10 @@
         <source>No conference matches</source>
         <translation>没有符合的会议</translation>
     </message>
+</context>
+<context>
+    <name>ContactPane</name>
+    <message>
         <source>Contacts</source>
         <translation>联系人</translation>
     </message>
@@ -1796,10 +1800,6 @@
         </translation>
     </message>
     <message>
-        <source>Call service lost: no calls for the moment, and one that is still on the screen is over. %1 The client itself need not be restarted.</source>
-        <translation>通话服务已中断：暂时无法通话，屏幕上的通话也已结束。%1无需重新启动客户端。</translation>
-    </message>
-    <message>
         <source>The program cannot be started: %1</source>
         <translation>无法启动程序：%1</translation>
     </message>
@@ -1812,6 +1812,14 @@
     <message>
         <source>Call service lost, and given up. %1 Start it by the button; if that does not help, quit the client and start it again.</source>
         <translation>通话服务已中断，不再自动启动。%1请按按钮启动；如果无效，请退出客户端后重新启动。</translation>
+    </message>
+    <message>
+        <source>Call service lost: no calls for the moment. %1 The client itself need not be restarted.</source>
+        <translation>通话服务已中断：暂时无法通话。%1无需重新启动客户端。</translation>
+    </message>
+    <message>
+        <source>%1. Its window is still open: hang up there, and then call again.</source>
+        <translation>%1。通话窗口仍然打开：请先在其中挂断，再重新呼叫。</translation>
     </message>
 </context>
 <context>
@@ -1921,6 +1929,10 @@
         <source>Video call with %1</source>
         <translation>与 %1 的视频通话</translation>
     </message>
+    <message>
+        <source>No picture here: the call process draws none into this window. Everything else is as in a voice call.</source>
+        <translation>这里没有画面：通话进程没有在此窗口中绘制。其他与语音通话相同。</translation>
+    </message>
 </context>
 <context>
     <name>DeviceBox</name>
@@ -1929,10 +1941,6 @@
         <translation>跟随系统</translation>
     </message>
     <message>
-    <message>
-        <source>No picture here: the call process draws none into this window. Everything else is as in a voice call.</source>
-        <translation>这里没有画面：通话进程没有在此窗口中绘制。其他与语音通话相同。</translation>
-    </message>
         <source>As the desktop has it (%1)</source>
         <translation>跟随系统（%1）</translation>
     </message>

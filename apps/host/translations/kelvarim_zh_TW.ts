@@ -1040,6 +1040,10 @@
         <source>The call service is being reached. Wait a moment.</source>
         <translation>正在連線到通話服務，請稍候。</translation>
     </message>
+    <message>
+        <source>The window of the lost call is still open. Hang up there first.</source>
+        <translation>中斷的通話的視窗仍然開著，請先在其中掛斷。</translation>
+    </message>
 </context>
 <context>
     <name>CallSentences</name>
@@ -1267,10 +1271,6 @@
         <source>A call that is on cannot be deleted.</source>
         <translation>正在進行的通話不能刪除。</translation>
     </message>
-</context>
-<context>
-    <name>ContactPane</name>
-    <message>
     <message>
         <source>Search the calls by name, number, initials or outcome</source>
         <translation>按姓名、號碼、首字母或結果搜尋通話</translation>
@@ -1291,6 +1291,10 @@
         <source>No conference matches</source>
         <translation>沒有符合的會議</translation>
     </message>
+</context>
+<context>
+    <name>ContactPane</name>
+    <message>
         <source>Contacts</source>
         <translation>聯絡人</translation>
     </message>
@@ -1796,10 +1800,6 @@
         </translation>
     </message>
     <message>
-        <source>Call service lost: no calls for the moment, and one that is still on the screen is over. %1 The client itself need not be restarted.</source>
-        <translation>通話服務已中斷：暫時無法通話，畫面上的通話也已結束。%1不必重新啟動用戶端。</translation>
-    </message>
-    <message>
         <source>The program cannot be started: %1</source>
         <translation>無法啟動程式：%1</translation>
     </message>
@@ -1812,6 +1812,14 @@
     <message>
         <source>Call service lost, and given up. %1 Start it by the button; if that does not help, quit the client and start it again.</source>
         <translation>通話服務已中斷，不再自動啟動。%1請按按鈕啟動；如果無效，請結束用戶端後重新啟動。</translation>
+    </message>
+    <message>
+        <source>Call service lost: no calls for the moment. %1 The client itself need not be restarted.</source>
+        <translation>通話服務已中斷：暫時無法通話。%1不必重新啟動用戶端。</translation>
+    </message>
+    <message>
+        <source>%1. Its window is still open: hang up there, and then call again.</source>
+        <translation>%1。通話視窗仍然開著：請先在其中掛斷，再重新撥打。</translation>
     </message>
 </context>
 <context>
@@ -1921,6 +1929,10 @@
         <source>Video call with %1</source>
         <translation>與 %1 的視訊通話</translation>
     </message>
+    <message>
+        <source>No picture here: the call process draws none into this window. Everything else is as in a voice call.</source>
+        <translation>這裡沒有畫面：通話程序沒有在此視窗中繪製。其他與語音通話相同。</translation>
+    </message>
 </context>
 <context>
     <name>DeviceBox</name>
@@ -1929,10 +1941,6 @@
         <translation>依系統設定</translation>
     </message>
     <message>
-    <message>
-        <source>No picture here: the call process draws none into this window. Everything else is as in a voice call.</source>
-        <translation>這裡沒有畫面：通話程序沒有在此視窗中繪製。其他與語音通話相同。</translation>
-    </message>
         <source>As the desktop has it (%1)</source>
         <translation>依系統設定（%1）</translation>
     </message>

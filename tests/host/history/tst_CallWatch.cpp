@@ -114,6 +114,56 @@ private slots:
         QCOMPARE(m_pHistory->entries()[1].outcome, int(outcomeRunningIn));
     }
 
+    void lengthOfALostCallEndsWithTheCallProcess_data()
+    {
+        QTest::addColumn<bool>("traced");
+        QTest::newRow("with a trace") << true;
+        // Then the plug-in tells it, as late as the user hangs up.
+        QTest::newRow("without a trace") << false;
+    }
+
+    void lengthOfALostCallEndsWithTheCallProcess()
+    {
+        QFETCH(bool, traced);
+        m_bExists = true;
+        begin(true);
+        if (traced) {
+            m_pWatch->noteConnected();
+        }
+        QSignalSpy ended(m_pWatch.get(), &CallWatch::ended);
+        m_pWatch->lose();
+        QCOMPARE(ended.count(), 1);
+        const CallEntry &call = m_pHistory->entries()[0];
+        QCOMPARE(call.outcome, int(outcomeCutOff));
+        QCOMPARE(call.connected, traced);
+        QVERIFY(m_pWatch->lostCall() != nullptr && m_pWatch->hasCall());
+        // Once is enough.
+        m_pWatch->lose();
+        m_pHistory->setAllSeen();
+        QTest::qWait(2000);
+        finish(24, true, true);
+        QCOMPARE(ended.count(), 1);
+        QCOMPARE(call.outcome, int(outcomeCutOff));
+        QVERIFY(call.connected && call.seen);
+        // The plug-in says ten seconds, and two of them at least have passed since.
+        QVERIFY2(traced ? call.seconds == 0 : call.seconds <= 8, qPrintable(QString::number(call.seconds)));
+        QVERIFY(m_pWatch->lostCall() == nullptr && !m_pWatch->hasCall());
+        QCOMPARE(m_pHistory->entries().size(), size_t(1));
+    }
+
+    void lostCallThatRingsIsMissed()
+    {
+        m_bExists = true;
+        begin(false);
+        QVERIFY(m_pWatch->isRinging());
+        m_pWatch->lose();
+        QCOMPARE(m_pHistory->entries()[0].outcome, int(outcomeMissed));
+        command(MSG_RESPONSE_VOIP_REQUEST, packPayload(false));
+        finish(26, false, false);
+        QCOMPARE(m_pHistory->entries()[0].outcome, int(outcomeMissed));
+        QVERIFY(!m_pHistory->entries()[0].seen);
+    }
+
     void repeatedInvitationIsOneConference()
     {
         m_bExists = true;

@@ -2,6 +2,7 @@
 #include "client/ContactBook.h"
 #include "panes/MainWindow.h"
 #include "panes/MemberPicker.h"
+#include "screen/ScreenKeys.h"
 #include "screen/ScreenPointer.h"
 #include "screen/WindowProbe.h"
 #include "session/HostSession.h"
@@ -24,6 +25,33 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <csignal>
+
+namespace {
+
+/// Lets a button take longer to hear of the mouse than any click lasts, as on a machine that is busy.
+class SlowAtRelease : public QObject
+{
+public:
+    explicit SlowAtRelease(QWidget *button) : QObject(button) { button->installEventFilter(this); }
+
+    bool hasBeen() const { return m_bBeen; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::MouseButtonRelease) {
+            m_bBeen = true;
+            QTest::qSleep(1500);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    bool m_bBeen = false;
+};
+
+} // namespace
 
 /// Calls as a person makes them: the client's window, the built module and a real call process full of robots, under
 /// the pointer of the X server.
@@ -137,6 +165,34 @@ private slots:
         QVERIFY(pressInCallWindow("btnCancelCall"));
     }
 
+    void callThatTheUserCancelsLeavesNoNoticeHoweverSlowTheMachine()
+    {
+        QVERIFY(pressContact("30010004"));
+        QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::button(WindowProbe::callWindow(), "btnCancelCall").widget != nullptr,
+                                 cPatienceMs);
+        const SlowAtRelease slow(WindowProbe::button(WindowProbe::callWindow(), "btnCancelCall").widget);
+        QVERIFY(pressInCallWindow("btnCancelCall"));
+        QTRY_VERIFY_WITH_TIMEOUT(!m_pSession->calls().hasCall(), cPatienceMs);
+        QVERIFY(slow.hasBeen());
+        QVERIFY(newest().seen);
+        QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "callNotice"));
+    }
+
+    void numberThatIsDialledIsTheNameInTheCallWindow()
+    {
+        QString name;
+        QSignalSpy ended(&m_pSession->calls(), &CallWatch::ended);
+        const auto look = connect(&m_pSession->calls(), &CallWatch::began, this,
+                                  [&name] { name = WindowProbe::text(WindowProbe::callWindow(), "lblUserName"); });
+        m_pWindow->findChild<QWidget *>(QStringLiteral("editNumber"))->setFocus();
+        ScreenKeys keys;
+        QVERIFY(keys.type(QStringLiteral("4711")) && keys.enter());
+        QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, cPatienceMs);
+        disconnect(look);
+        // The window puts the alternative name, which there is none of, in brackets behind it.
+        QCOMPARE(name, QStringLiteral("4711()"));
+    }
+
     void tipOfADisabledPhoneSaysWhy()
     {
         QVERIFY(pressContact("30010004"));
@@ -152,14 +208,8 @@ private slots:
 
     void conferenceStandsAmongTheCallsAsTheStoreHasIt()
     {
-        m_hand.click([this] { return WindowProbe::button(m_pWindow.get(), "btnConference"); });
-        for (const char *uid : {"30010001", "30010006"}) {
-            m_hand.click([uid] {
-                return WindowProbe::rowMiddle(WindowProbe::memberPicker(),
-                                              {"listPeople", MemberPicker::cUidRole, QLatin1String(uid)});
-            });
-        }
-        QVERIFY(press([] { return WindowProbe::button(WindowProbe::memberPicker(), "btnInvite"); }));
+        const int before = DBConfInfo::getAllConfInfo().size();
+        QVERIFY(startConference());
         // The keyboard is where the call is.
         QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::callWindow()->isActiveWindow(), cPatienceMs);
         QTRY_COMPARE_WITH_TIMEOUT(rowText(0), QStringLiteral("Conference: 李雷, Anna Novak → outgoing now"),
@@ -170,9 +220,12 @@ private slots:
                                   cPatienceMs);
         QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "callNotice"));
         const QList<ConfInfoData> records = DBConfInfo::getAllConfInfo();
-        QCOMPARE(records.size(), 1);
-        QCOMPARE(m_pSession->history().entries().back().confId, records.at(0).m_strConfID);
-        QCOMPARE(m_pSession->history().entries().back().seconds, records.at(0).m_strCallTime.toLongLong());
+        QCOMPARE(records.size(), before + 1);
+        const auto own = std::find_if(records.begin(), records.end(), [this](const ConfInfoData &record) {
+            return record.m_strConfID == newest().confId;
+        });
+        QVERIFY(own != records.end());
+        QCOMPARE(newest().seconds, own->m_strCallTime.toLongLong());
     }
 
     void strangerWhoCallsIsKnownFromThenOn()
@@ -244,6 +297,49 @@ private slots:
         QVERIFY(pressInCallWindow("btnCancelCall"));
     }
 
+    void callOfADeadCallProcessIsCutOffAtOnceAndTheBarSaysWhoseItWas()
+    {
+        QVERIFY(pressContact("30010001"));
+        QTRY_COMPARE_WITH_TIMEOUT(WindowProbe::text(WindowProbe::callWindow(), "lblStatus"), QStringLiteral("已接通"),
+                                  cPatienceMs);
+        const size_t calls = m_pSession->history().entries().size();
+        QVERIFY(newest().isRunning());
+        killCallProcess();
+        QTRY_COMPARE_WITH_TIMEOUT(newest().outcome, int(outcomeCutOff), cPatienceMs);
+        QVERIFY(newest().connected && !newest().seen);
+        const qint64 seconds = newest().seconds;
+        QTRY_VERIFY_WITH_TIMEOUT(bar().contains(QStringLiteral("Call service lost")), cPatienceMs);
+        const QString whose = QStringLiteral("The call with 李雷 was cut off. Its window is still open: hang up there");
+        QVERIFY2(bar().startsWith(whose), qPrintable(bar()));
+        QVERIFY(WindowProbe::text(m_pWindow.get(), "lblCallNotice").startsWith("The call with 李雷 was cut off"));
+        // The service is there again long before somebody looks; what is said of the call stays.
+        QTRY_COMPARE_WITH_TIMEOUT(WindowProbe::text(m_pWindow.get(), "btnOnline"), QStringLiteral("Online"),
+                                  cPatienceMs);
+        QVERIFY2(bar().startsWith(whose), qPrintable(bar()));
+        QCOMPARE(m_pWindow->readiness().reason(),
+                 QStringLiteral("The window of the lost call is still open. Hang up there first."));
+        QVERIFY(pressInCallWindow("HangUp"));
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->readiness().isReady(), cPatienceMs);
+        QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "CallServiceBar"));
+        // What the call window went on counting counts for nothing.
+        QCOMPARE(m_pSession->history().entries().size(), calls);
+        QCOMPARE(newest().outcome, int(outcomeCutOff));
+        QCOMPARE(newest().seconds, seconds);
+        QVERIFY(!newest().seen);
+    }
+
+    void callThatRingsFromADeadCallProcessIsMissedAndItsPromptGoes()
+    {
+        // She rejects, and calls a little later.
+        QVERIFY(pressContact("30010007"));
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->prompt().isVisible(), cPatienceMs);
+        killCallProcess();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_pWindow->prompt().isVisible(), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_pSession->calls().hasCall(), cPatienceMs);
+        QVERIFY(newest().isMissed() && !newest().seen && !newest().caller);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->readiness().isReady(), cPatienceMs);
+    }
+
     void conferenceInACallIsRefusedBeforePicking()
     {
         QVERIFY(pressContact("30010004"));
@@ -268,10 +364,25 @@ private:
             return WindowProbe::button(m_pWindow->findChild<QWidget *>(QLatin1String(strUid)), "btnCall");
         });
     }
+    bool startConference()
+    {
+        m_hand.click([this] { return WindowProbe::button(m_pWindow.get(), "btnConference"); });
+        for (const char *uid : {"30010001", "30010006"}) {
+            m_hand.click([uid] {
+                return WindowProbe::rowMiddle(WindowProbe::memberPicker(),
+                                              {"listPeople", MemberPicker::cUidRole, QLatin1String(uid)});
+            });
+        }
+        return press([] { return WindowProbe::button(WindowProbe::memberPicker(), "btnInvite"); });
+    }
     bool pressInCallWindow(const char *strButton)
     {
         return press([strButton] { return WindowProbe::button(WindowProbe::callWindow(), strButton); });
     }
+    CallEntry newest() const { return m_pSession->history().entries().back(); }
+    QString bar() const { return WindowProbe::text(m_pWindow.get(), "lblService"); }
+    /// As a crash would.
+    void killCallProcess() { QCOMPARE(::kill(pid_t(m_pSession->callService().process()), SIGKILL), 0); }
     WindowProbe::Spot middle(int iRow) const
     {
         return {m_pTable->viewport(), m_pTable->visualRect(m_pTable->model()->index(iRow, 0)).center()};

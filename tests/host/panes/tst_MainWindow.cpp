@@ -342,7 +342,7 @@ private slots:
         row->setFocus();
         QTest::keyClick(row, Qt::Key_Tab);
         QCOMPARE(m_pWindow->focusWidget()->objectName(), QStringLiteral("btnCall"));
-        m_pWindow->readiness().setInCall(true);
+        m_pWindow->readiness().setCall(CallReadiness::Call::On);
         QCOMPARE(m_pWindow->focusWidget(), row);
     }
 
