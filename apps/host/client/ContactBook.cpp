@@ -76,6 +76,12 @@ ContactBook::Entry ownEntryOf(const Row &row)
     return entry;
 }
 
+/// Stands behind the number of whom nothing else is known.
+QString numberWords()
+{
+    return QCoreApplication::translate("ContactRow", "not a contact");
+}
+
 VcardInfo makeCard(const ContactBook::Entry &entry, const char *strSignature)
 {
     VcardInfo card;
@@ -164,6 +170,7 @@ const FriendData *ContactBook::numberOnly(const QString &strJid) const
     if (isNew) {
         VcardInfo card;
         card.m_strNickName = uidOf(strJid);
+        card.m_strAlternativeName = numberWords();
         place->second.setVcardInfo(card);
     }
     return &place->second;
@@ -213,6 +220,9 @@ void ContactBook::takeLanguage()
     };
     std::for_each(m_entries.cbegin(), m_entries.cend(), say);
     say(m_own);
+    for (auto &[jid, record] : m_numbers) {
+        record.m_vcardInfo.m_strAlternativeName = numberWords();
+    }
 }
 
 bool ContactBook::isFriend(const QString &strJid) const
