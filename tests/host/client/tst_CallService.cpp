@@ -35,8 +35,7 @@ private slots:
         QCOMPARE(online(), QStringLiteral("Connecting..."));
         // Without a connection the plug-in would only say that the client has to be restarted.
         QVERIFY(!pressButton(m_pWindow.get(), "btnConference"));
-        QCOMPARE(m_pWindow->readiness().reason(),
-                 QStringLiteral("The call service is being reached. Wait a moment."));
+        QCOMPARE(m_pWindow->readiness().reason(), QStringLiteral("The call service is being reached. Wait a moment."));
         QTRY_COMPARE_WITH_TIMEOUT(online(), QStringLiteral("Online"), cPatienceMs);
         QVERIFY(m_pWindow->readiness().isReady());
         QVERIFY(!isBarShown());
