@@ -1,6 +1,6 @@
 #include "tour/OtherClient.h"
 
-#include "happenings/TraceFolder.h"
+#include "traffic/TraceFolder.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,9 +1,9 @@
 #include "tour/TourHistory.h"
 
 #include "client/ContactBook.h"
-#include "client/HostSession.h"
 #include "client/SingleInstance.h"
 #include "panes/MainWindow.h"
+#include "session/HostSession.h"
 #include "tour/OtherClient.h"
 #include "tour/TourCast.h"
 #include "tour/TourScript.h"

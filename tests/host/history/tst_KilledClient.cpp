@@ -1,9 +1,9 @@
 #include "client/CallProcess.h"
 #include "client/ContactBook.h"
-#include "happenings/TraceFolder.h"
-#include "happenings/WireTrace.h"
 #include "history/CallEntry.h"
 #include "screen/ScreenKeys.h"
+#include "traffic/TraceFolder.h"
+#include "traffic/WireTrace.h"
 
 #include "fakes/Patience.h"
 #include "host/panes/BusReader.h"

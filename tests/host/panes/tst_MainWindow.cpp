@@ -1,6 +1,5 @@
 #include "client/ContactBook.h"
 #include "client/HostLanguage.h"
-#include "client/HostSession.h"
 #include "happenings/HappeningsPanel.h"
 #include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"

@@ -3,13 +3,13 @@
 
 #include "client/ContactBook.h"
 #include "client/HostLanguage.h"
-#include "client/HostSession.h"
 #include "panes/ContactRow.h"
 #include "panes/MainWindow.h"
 #include "panes/MemberPicker.h"
 #include "panes/QuitQuestion.h"
 #include "panes/VideoCard.h"
 #include "screen/WindowProbe.h"
+#include "session/HostSession.h"
 
 #include "common/CLogManger.h"
 #include "fakes/Patience.h"
