@@ -1,5 +1,6 @@
 #include "callcheck/PluginCommand.h"
 
+#include "callcheck/CommandUse.h"
 #include "robots/RobotIds.h"
 
 #include <QJsonArray>
@@ -8,33 +9,27 @@
 
 namespace {
 
-/// A text parameter that is the user's own or has a value that means something.
-struct OpenRow
+QString openText(CommandUse::Text text, const PluginUser &user)
 {
-    Wire::Command command;
-    int parameter;
-    QString (*value)(const PluginUser &user);
-};
-
-QString ownId(const PluginUser &user)
-{
-    return user.id;
+    switch (text) {
+    case CommandUse::Text::OwnId:
+        return user.id;
+    case CommandUse::Text::NickName:
+        return user.nickName;
+    case CommandUse::Text::Registration:
+        return user.registration;
+    case CommandUse::Text::CalledId:
+        return QString::fromLatin1(Robots::answers);
+    case CommandUse::Text::Control:
+        return QString::fromLatin1(Wire::cMute);
+    case CommandUse::Text::Member:
+        return QString::fromLatin1(Wire::cEverybody);
+    case CommandUse::Text::Empty:
+    case CommandUse::Text::Nothing:
+        break;
+    }
+    return QString();
 }
-
-// clang-format off
-const OpenRow cOpenTexts[] = {
-    {Wire::Command::RegeditUser,       1, ownId},
-    {Wire::Command::RegeditUser,       2, [](const PluginUser &user) { return user.nickName; }},
-    {Wire::Command::RegeditUser,       3, [](const PluginUser &user) { return user.registration; }},
-    {Wire::Command::UnReg,             1, ownId},
-    {Wire::Command::CallUser,          1, [](const PluginUser &) { return QString::fromLatin1(Robots::answers); }},
-    {Wire::Command::RequestConference, 1, ownId},
-    {Wire::Command::Add2Conference,    2, ownId},
-    {Wire::Command::Add2Conference,    3, ownId},
-    {Wire::Command::ControlConf,       1, [](const PluginUser &) { return QString::fromLatin1(Wire::cMute); }},
-    {Wire::Command::ControlConf,       2, [](const PluginUser &) { return QString::fromLatin1(Wire::cEverybody); }},
-};
-// clang-format on
 
 QJsonValue openValue(const Wire::CommandRow &command, int parameter, const PluginUser &user)
 {
@@ -46,14 +41,8 @@ QJsonValue openValue(const Wire::CommandRow &command, int parameter, const Plugi
     case 'a':
         return QJsonValue::Null;
     default:
-        break;
+        return openText(CommandUse::textOf(command.command, parameter), user);
     }
-    for (const OpenRow &row : cOpenTexts) {
-        if (row.command == command.command && row.parameter == parameter) {
-            return row.value(user);
-        }
-    }
-    return QString();
 }
 
 QJsonValue namedValue(const ExpectedParameter &parameter, char type)

@@ -1,5 +1,6 @@
 #include "callcheck/ScenarioWriter.h"
 
+#include "callcheck/CommandUse.h"
 #include "callcheck/LineMatch.h"
 #include "callprocess/Wire.h"
 
@@ -13,11 +14,6 @@
 namespace {
 
 constexpr qint64 cRoundedToMs = 100;
-
-/// The controls of the call window, which the user may move at any time.
-constexpr Wire::Command cIgnored[] = {Wire::Command::SetMicEnable, Wire::Command::SetSpeakerEnble,
-                                      Wire::Command::SetCamreraEnable, Wire::Command::SetMicVolume,
-                                      Wire::Command::SetSpeakerVolume};
 
 bool isControl(char character)
 {
@@ -76,7 +72,8 @@ QByteArray writtenLine(const QByteArray &line)
 /// Whether a parameter is the user's own and of no use to anybody else.
 bool isPrivate(Wire::Command command, int parameter)
 {
-    return command == Wire::Command::RegeditUser && (parameter == 2 || parameter == 3);
+    const CommandUse::Text text = CommandUse::textOf(command, parameter);
+    return text == CommandUse::Text::NickName || text == CommandUse::Text::Registration;
 }
 
 QByteArray parameterWord(const QJsonValue &value)
@@ -119,8 +116,10 @@ ScenarioWriter::ScenarioWriter(std::function<void(const QByteArray &)> write) : 
 void ScenarioWriter::begin()
 {
     QByteArray ignored = "ignore";
-    for (const Wire::Command command : cIgnored) {
-        ignored += ' ' + QByteArray(Wire::nameOf(command));
+    for (const CommandUse::Row &row : CommandUse::cRows) {
+        if (row.moment == CommandUse::Moment::Whenever) {
+            ignored += ' ' + QByteArray(Wire::nameOf(row.command));
+        }
     }
     m_write("# Recorded by kelvarim-callcheck.\n" + ignored + "\ntimeout 0s\n");
 }

@@ -1,5 +1,6 @@
 // docs/scenario-language.md beside the language and the ready scenarios.
 
+#include "callcheck/CommandUse.h"
 #include "callprocess/Scenario.h"
 
 #include <QDir>
@@ -50,6 +51,27 @@ private slots:
         there.sort();
         QCOMPARE(listed, there);
         QVERIFY(listed.size() >= 20);
+    }
+
+    void everyReadyScenarioIgnoresWhatTheUserMayMoveAtAnyTime()
+    {
+        const QFileInfoList files = QDir(QStringLiteral(VOIPSDK_SCENARIOS)).entryInfoList(QDir::Files);
+        for (const QFileInfo &info : files) {
+            QFile file(info.filePath());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QString error;
+            const std::optional<Scenario> scenario = Scenario::parse(info.fileName(), file.readAll(), &error);
+            QVERIFY2(scenario, qPrintable(error));
+            QStringList ignored;
+            for (const Statement &statement : scenario->statements) {
+                ignored += statement.kind == StatementKind::Ignore ? statement.commands : QStringList();
+            }
+            for (const CommandUse::Row &row : CommandUse::cRows) {
+                const bool bWhenever = row.moment == CommandUse::Moment::Whenever;
+                QVERIFY2(!bWhenever || ignored.contains(QLatin1String(Wire::nameOf(row.command))),
+                         qPrintable(info.fileName() + QLatin1Char(' ') + QLatin1String(Wire::nameOf(row.command))));
+            }
+        }
     }
 
     void everyStatementHasItsRow()
