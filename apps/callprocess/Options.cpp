@@ -1,5 +1,7 @@
 #include "callprocess/Options.h"
 
+#include "robots/StandIn.h"
+
 #include <QCommandLineParser>
 
 #include <algorithm>
@@ -28,11 +30,11 @@ QString socketNameByDefault(const Options &options)
 }
 
 // clang-format off
-constexpr OptionRow cScenario    {"scenario",     "VOIPSDK_SCENARIO",     "FILE",   "run this scenario instead of the exchange of robots", nullptr};
-constexpr OptionRow cTrace       {"trace",        "VOIPSDK_TRACE",        "FILE",   "append a record of every line to this file, \"-\" for standard error", nullptr};
-constexpr OptionRow cSpeed       {"speed",        "VOIPSDK_SPEED",        "FACTOR", "divide all delays by this", nullptr};
-constexpr OptionRow cIdle        {"idle-seconds", "VOIPSDK_IDLE_SECONDS", "N",      "end after this long without a client", idleByDefault};
-constexpr OptionRow cSocketName {"socket-name",  "",                     "NAME",   "name of the local server", socketNameByDefault};
+constexpr OptionRow cScenario    {"scenario",     StandIn::cScenarioVariable, "FILE",   "run this scenario instead of the exchange of robots", nullptr};
+constexpr OptionRow cTrace       {"trace",        StandIn::cTraceVariable,    "FILE",   "append a record of every line to this file, \"-\" for standard error", nullptr};
+constexpr OptionRow cSpeed       {"speed",        StandIn::cSpeedVariable,    "FACTOR", "divide all delays by this", nullptr};
+constexpr OptionRow cIdle        {"idle-seconds", StandIn::cIdleVariable,     "N",      "end after this long without a client", idleByDefault};
+constexpr OptionRow cSocketName  {"socket-name",  "",                         "NAME",   "name of the local server", socketNameByDefault};
 // clang-format on
 
 QCommandLineOption optionOf(const OptionRow &row)

@@ -15,6 +15,7 @@
 #include "traffic/TraceFolder.h"
 
 #include "common/log/QtWarningFilter.h"
+#include "robots/StandIn.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -112,7 +113,7 @@ QString prepareTour(const QString &strFolder)
     QDir().mkpath(strFolder);
     QFile::remove(traceFile);
     qputenv(TraceFolder::cVariable, QFile::encodeName(traceFile));
-    qputenv("VOIPSDK_SPEED", cTourSpeed);
+    qputenv(StandIn::cSpeedVariable, cTourSpeed);
     return traceFile;
 }
 

@@ -6,11 +6,12 @@
 #include "tour/TourCast.h"
 #include "tour/TourScript.h"
 
+#include "robots/StandIn.h"
+
 using namespace TourCast;
 
 namespace {
 
-constexpr const char *cScenarioVariable = "VOIPSDK_SCENARIO";
 // Time for the pointer to reach the button before the next try takes the button away.
 constexpr int cEnoughSeconds = 4;
 
@@ -21,7 +22,7 @@ TourScript::Action startByButton(const TourScript &s, const TourStage &stage)
         if (service->state() != CallService::GivenUp && service->secondsToNext() < cEnoughSeconds) {
             return false;
         }
-        qunsetenv(cScenarioVariable);
+        qunsetenv(StandIn::cScenarioVariable);
         return press();
     };
 }
@@ -30,7 +31,7 @@ TourScript::Action startByButton(const TourScript &s, const TourStage &stage)
 
 void TourService::refuseToStart()
 {
-    qputenv(cScenarioVariable, "/none");
+    qputenv(StandIn::cScenarioVariable, "/none");
 }
 
 QList<TourStep> TourService::steps(const TourStage &stage)

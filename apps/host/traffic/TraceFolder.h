@@ -1,5 +1,7 @@
 #pragma once
 
+#include "robots/StandIn.h"
+
 #include <QString>
 #include <QTemporaryDir>
 
@@ -11,7 +13,7 @@ class TraceFolder
 {
 public:
     /// The variable of the environment in which the call process looks for its trace's file.
-    static constexpr const char *cVariable = "VOIPSDK_TRACE";
+    static constexpr const char *cVariable = StandIn::cTraceVariable;
 
     TraceFolder();
     Q_DISABLE_COPY(TraceFolder)
