@@ -145,6 +145,19 @@ private slots:
         QCOMPARE(options.socketName, QStringLiteral("VoipSDK"));
     }
 
+    void environmentAloneTells()
+    {
+        qputenv("VOIPSDK_SCENARIO", "a.scn");
+        qputenv("VOIPSDK_SPEED", "4");
+        Options options;
+        QString error;
+        QVERIFY(options.read({QStringLiteral("VoipSDK")}, &error));
+        qunsetenv("VOIPSDK_SCENARIO");
+        qunsetenv("VOIPSDK_SPEED");
+        QCOMPARE(options.scenario, QStringLiteral("a.scn"));
+        QCOMPARE(options.speed, 4.0);
+    }
+
     void badOptionsAreRefused_data()
     {
         QTest::addColumn<QStringList>("arguments");
