@@ -21,6 +21,7 @@
 #include <benchmark/benchmark.h>
 #include <json/reader.h>
 
+#include <algorithm>
 #include <malloc.h>
 #include <optional>
 #include <vector>
@@ -30,8 +31,21 @@
 namespace {
 
 constexpr int cLinesOfACode = 1000;
-constexpr int cNoAction = 6;
 constexpr int cNoNotification = -1;
+
+/// A code that has no action.
+int openCode()
+{
+    const auto open = std::find_if(Wire::cNotifications.begin(), Wire::cNotifications.end(),
+                                   [](const auto &row) { return row.content == Wire::Content::Open; });
+    return static_cast<int>(open->code);
+}
+
+/// Whether the code comes in a conference whose members are known.
+bool isInConference(int code)
+{
+    return Wire::Code(code) == Wire::Code::ConfUpdate || Wire::Code(code) == Wire::Code::ConfMemberLeft;
+}
 
 QLocalServer *g_server = nullptr;
 std::optional<CLogThread> g_logThread;
@@ -40,19 +54,21 @@ std::optional<CLogThread> g_logThread;
 std::string payload(int code, int number)
 {
     const std::string digits = std::to_string(number);
-    switch (code) {
-    case 2:
-    case 12:
-    case 13:
+    const Wire::NotificationRow *row = Wire::findNotification(code);
+    switch (row == nullptr ? Wire::Content::Open : row->content) {
+    case Wire::Content::Conference:
         return R"({\"content\":{\"confId\":\"c1\",\"conventioneer\":[\"30010001\",\"30010002\"],\"createTime\":)" +
                std::to_string(1462266764000 + number) + R"(,\"from\":\"30010001\"}})";
-    case 20:
+    case Wire::Content::Creation:
         return R"({\"result\":{\"confId\":\"c)" + digits + R"(\"}})";
-    case 21:
+    case Wire::Content::Addition:
         return R"({\"result\":{\"failedNums\":[\"3001)" + digits + R"(\"]},\"status\":0})";
-    default:
-        return "3001" + digits;
+    case Wire::Content::None:
+    case Wire::Content::Text:
+    case Wire::Content::Open:
+        break;
     }
+    return "3001" + digits;
 }
 
 bool isNested(int code)
@@ -76,10 +92,10 @@ public:
     QLocalSocket *socket() { return m_pVoipSocket; }
     bool flag() const { return m_bSdkFlag; }
 
-    /// In the state in which the code comes: updates and leavings in a conference whose members are known.
+    /// In the state in which the code comes.
     void prepare(int code)
     {
-        const bool inConference = code == 12 || code == 13;
+        const bool inConference = isInConference(code);
         clearLocalCallData();
         m_callData.bIsConf = inConference;
         if (inConference) {
@@ -150,39 +166,44 @@ QString members(const Json::Value &document)
 /// The records and debug lines that a code leaves beside that of the notification, in the state of Engine::prepare().
 void logFurther(int code, const QString &content, const Json::Value &inner)
 {
-    switch (code) {
-    case 3:
+    switch (Wire::Code(code)) {
+    case Wire::Code::RejectRequest:
         LOG_DEBUG << "reject call!"
                   << "\n";
         LOG_DEBUG << "sendVoipMsg = " << QStringLiteral("{\"messagetype\":\"RejectCall\"}\n") << "\n";
         [[fallthrough]];
-    case 4:
-    case 5:
-    case 7:
-    case 8:
-    case 9:
-    case 10:
-    case 19:
-    case 22:
-    case 23:
-    case 24:
+    case Wire::Code::PeerCanceled:
+    case Wire::Code::UserRejected:
+    case Wire::Code::CallEnded:
+    case Wire::Code::PeerHangup:
+    case Wire::Code::PeerHangupAlt:
+    case Wire::Code::PeerRejected:
+    case Wire::Code::CallFailed:
+    case Wire::Code::PeerBusy:
+    case Wire::Code::CallFailedAlt:
+    case Wire::Code::CallFailedAlt2:
         LOG_DEBUG << "stop ring!"
                   << "\n";
         return;
-    case 12:
-    case 13:
+    case Wire::Code::ConfUpdate:
+    case Wire::Code::ConfMemberLeft:
         LOG_DEBUG << "update conf connected users = " << members(inner) << "\n";
         return;
-    case 21:
+    case Wire::Code::ConfAddResult:
         qDebug().noquote().nospace() << content;
         LOG_DEBUG << "add conf member result=" << content << "\n";
         return;
-    case 25:
-    case 999:
+    case Wire::Code::ConfMemberRejected:
+    case Wire::Code::SdkLog:
         qDebug().noquote().nospace() << "voipsdk:" << content;
         LOG_DEBUG << "voipsdk:" << content << "\n";
         return;
-    default:
+    case Wire::Code::IncomingCall:
+    case Wire::Code::IncomingCallAlt:
+    case Wire::Code::IncomingConf:
+    case Wire::Code::SdkFlag:
+    case Wire::Code::CallConnected:
+    case Wire::Code::ConfCreated:
         return;
     }
 }
@@ -239,11 +260,13 @@ void socketToCallback(benchmark::State &state)
         return;
     }
     QLocalSocket *peer = g_server->nextPendingConnection();
+    const QByteArray rest = R"(","resultCode":)" + QByteArray::number(static_cast<int>(Wire::Code::SdkFlag)) + "}\n";
+    const QByteArray on = R"({"content":"true)" + rest;
+    const QByteArray off = R"({"content":"false)" + rest;
     bool flag = false;
     for (auto _ : state) {
         flag = !flag;
-        peer->write(flag ? "{\"content\":\"true\",\"resultCode\":17}\n"
-                         : "{\"content\":\"false\",\"resultCode\":17}\n");
+        peer->write(flag ? on : off);
         peer->flush();
         while (engine.flag() != flag) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
@@ -257,11 +280,11 @@ void registerAll()
 {
     benchmark::RegisterBenchmark("socketToCallback", socketToCallback);
     for (const int lines : {1, 10, 100, 1000, 10000}) {
-        benchmark::RegisterBenchmark("readyReadToCallback", fromReadyRead, cNoAction)->Arg(lines)->UseManualTime();
-        benchmark::RegisterBenchmark("leastOfRead", leastOfRead, cNoAction)->Arg(lines)->UseManualTime();
+        benchmark::RegisterBenchmark("readyReadToCallback", fromReadyRead, openCode())->Arg(lines)->UseManualTime();
+        benchmark::RegisterBenchmark("leastOfRead", leastOfRead, openCode())->Arg(lines)->UseManualTime();
     }
     // A line without effect, which is read and leaves no record; all that have an action, and one that has none.
-    std::vector<int> codes{cNoNotification, cNoAction};
+    std::vector<int> codes{cNoNotification, openCode()};
     for (const Wire::NotificationRow &row : Wire::cNotifications) {
         if (row.content != Wire::Content::Open) {
             codes.push_back(static_cast<int>(row.code));

@@ -22,13 +22,14 @@ FOREIGN = {
     "DURATION", "CONTENT", "BYTES", "CODE", "VALUE", "paramN", "pkill", "diff", "callgrind", "myatlist", "quikrply",
     "sqlite_autoindex_", "uXXXX",
 }
-# Names that stand in a table of the sources and have to stand in a document as well: the table, how a name is read off it, the
-# document, and how it stands there.
+# Names that stand in a table of the sources and have to stand in a document, or in what the bench measures, as well: the table,
+# how a name is read off it, the document, and how it stands there.
 TOLD = (
     ("apps/robots/Robots.def", r'^ROBOT\(\w+, +"(\d+)"', "README.md", r"\({}\)"),
     ("apps/host/client/Languages.def", r"^LANGUAGE\((\w+),", "docs/gallery.md", r"\b{}\b"),
     ("apps/host/client/Languages.def", r"^LANGUAGE\((\w+),", "packaging/share/man/man1/kelvarim-gallery.1", r"\b{}\b"),
     ("apps/callprocess/Options.cpp", r'^constexpr OptionRow \w+ *\{"([\w-]+)"', "docs/wire-protocol.md", r"^\| `--{}[ `]"),
+    ("src/wire/Notifications.def", r"^WIRE_NOTIFICATION\((\d+),", "bench/goals", r"callbackCode{}/"),
     ("fuzz/FuzzTargets.h", r'^    \{"(\w+)", ', "docs/reliability.md", r"^\| `{}` \| "),
 )
 SOURCES = (".cpp", ".h", ".def", ".ui", ".cmake", ".txt", ".map", ".scn", ".py", ".ts", ".in", ".json", "")
