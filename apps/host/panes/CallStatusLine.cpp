@@ -27,11 +27,6 @@ CallStatusLine::CallStatusLine(QMainWindow &window, const CallWatch &calls, cons
     });
     connect(&calls, &CallWatch::ended, this,
             [this](const CallEntry &call) { end(CallSentences::outcome(call, m_book)); });
-    connect(window.statusBar(), &QStatusBar::messageChanged, this, [this](const QString &strShown) {
-        if (strShown.isEmpty()) {
-            sayHeld();
-        }
-    });
 }
 
 void CallStatusLine::say(const QString &strWords)
@@ -42,7 +37,16 @@ void CallStatusLine::say(const QString &strWords)
 void CallStatusLine::hold(Words words)
 {
     m_held = std::move(words);
+    // Only now: the window gets its bar later than its status line.
+    connect(m_window.statusBar(), &QStatusBar::messageChanged, this, &CallStatusLine::comeBack, Qt::UniqueConnection);
     sayHeld();
+}
+
+void CallStatusLine::comeBack(const QString &strShown)
+{
+    if (strShown.isEmpty()) {
+        sayHeld();
+    }
 }
 
 void CallStatusLine::sayHeld()

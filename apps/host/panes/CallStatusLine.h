@@ -32,6 +32,7 @@ public:
 private:
     void end(const QString &strWords);
     void sayHeld();
+    void comeBack(const QString &strShown);
     void sayRefused(const CallEntry &wish);
 
     QMainWindow &m_window;
