@@ -128,8 +128,10 @@ void CallService::takePeer()
     if (m_iPeer == peer) {
         return;
     }
-    // What the one before has said to its last comes before its end.
-    readTrace();
+    if (peer == 0) {
+        // What it has said to its last comes before its end. Lines of a new one count only from here on.
+        readTrace();
+    }
     const qint64 before = std::exchange(m_iPeer, peer);
     m_bFlag = false;
     m_bTraced = false;
