@@ -8,15 +8,20 @@
 #include "model/SkinContext.h"
 #include "widgets/BaseFormEx.h"
 #include "widgets/CustomIconStyle.h"
+#include "widgets/ElidedLabel.h"
 #include "widgets/HotLabel.h"
+#include "widgets/MessageLabel.h"
 #include "widgets/MyRubberBand.h"
+#include "widgets/PushButtonEx.h"
 #include "widgets/VcardHeadLabel.h"
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QPushButton>
 
 namespace {
 
@@ -25,6 +30,7 @@ constexpr QSize cFieldSize(130, 72);
 constexpr int cTitleHeight = 30;
 // The inset of a window with a list at its left.
 constexpr int cLineOffset = 40;
+constexpr int cMessageWidth = 170;
 
 CBaseFormEx *form(int iTitleHeight)
 {
@@ -62,6 +68,43 @@ HotLabel *hotLabelUnderMouse()
     QEvent enter(QEvent::Enter);
     QCoreApplication::sendEvent(label, &enter);
     return label;
+}
+
+QString darkText(int iPixels)
+{
+    return QStringLiteral("font:%1px 微软雅黑;color:%2;").arg(iPixels).arg(strCOLOR_MAININFO_LIGHT_BLACK);
+}
+
+ElidedLabel *elidedLabel(int iWidth)
+{
+    auto *label = new ElidedLabel;
+    label->setStyleSheet(darkText(14));
+    label->setText(QStringLiteral("张三 from the Northern Office"));
+    label->setFixedWidth(iWidth);
+    return label;
+}
+
+MessageLabel *messageLabel(int iHeight)
+{
+    auto *label = new MessageLabel;
+    label->setStyleSheet(darkText(12));
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    label->setText(
+        QStringLiteral("The call could not be placed. Look whether a microphone is there, and try it again."));
+    label->setFixedSize(cMessageWidth, iHeight);
+    return label;
+}
+
+PushButtonEx *buttonReachedByKeys(int iType)
+{
+    auto *button = new PushButtonEx;
+    button->setFixedSize(70, 30);
+    button->setText(QStringLiteral("确定"));
+    button->setBtnType(iType);
+    QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(button->findChild<QPushButton *>(), &focus);
+    return button;
 }
 
 VcardHeadLabel *headLabel(int iWidth, const QString &strPath)
@@ -137,6 +180,14 @@ void KitForms::addForms(Sheet &sheet)
                                                   QStringLiteral("line offset"), QStringLiteral("no body")});
     sheet.row(QStringLiteral("on dark ground"), {form(cTitleHeight), form(0), formWithOffset(), formWithoutBody()},
               true);
+}
+
+void KitForms::addLabels(Sheet &sheet)
+{
+    sheet.section(QStringLiteral("Labels, and the focus of the keys"));
+    sheet.row(QStringLiteral("ElidedLabel; too long for its place"), {elidedLabel(220), elidedLabel(120)});
+    sheet.row(QStringLiteral("MessageLabel; without room"), {messageLabel(60), messageLabel(36)});
+    sheet.row(QStringLiteral("FocusRing"), {buttonReachedByKeys(1), buttonReachedByKeys(0)});
 }
 
 void KitForms::addSmallParts(Sheet &sheet)

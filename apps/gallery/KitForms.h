@@ -9,6 +9,9 @@ namespace KitForms {
 /// The painted background of the windows with and without its parts.
 void addForms(Sheet &sheet);
 
+/// Labels with and without room for their text, and buttons that keys have reached.
+void addLabels(Sheet &sheet);
+
 /// Hot label, head label, icon style and rubber band.
 void addSmallParts(Sheet &sheet);
 

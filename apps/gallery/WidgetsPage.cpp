@@ -13,5 +13,6 @@ WidgetsPage::WidgetsPage(QWidget *parent) : Sheet(parent)
     KitFields::addTextEdits(*this);
     KitFields::addMenus(*this);
     KitForms::addForms(*this);
+    KitForms::addLabels(*this);
     KitForms::addSmallParts(*this);
 }

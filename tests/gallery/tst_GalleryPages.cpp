@@ -12,11 +12,14 @@
 #include "fakes/Patience.h"
 #include "model/AvatarFiles.h"
 #include "widgets/BaseFormEx.h"
+#include "widgets/ElidedLabel.h"
 #include "widgets/ErrorMessage.h"
+#include "widgets/FocusRing.h"
 #include "widgets/HotLabel.h"
 #include "widgets/IconButtonEx.h"
 #include "widgets/LineEditEx.h"
 #include "widgets/MenuEx.h"
+#include "widgets/MessageLabel.h"
 #include "widgets/MyRubberBand.h"
 #include "widgets/PushButtonEx.h"
 #include "widgets/TextEditEx.h"
@@ -31,6 +34,8 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
+
+#include <algorithm>
 
 class tst_GalleryPages : public QObject
 {
@@ -84,8 +89,8 @@ private slots:
         const WidgetsPage page;
         // Eight types in six states, and the delete buttons of two fields.
         QCOMPARE(page.findChildren<CIconButtonEx *>().size(), 8 * 6 + 2);
-        // Two looks in five states, three font sizes, and a button below each menu.
-        QCOMPARE(page.findChildren<PushButtonEx *>().size(), 2 * 5 + 3 + 3);
+        // Two looks in five states and with the focus of the keys, three font sizes, and a button below each menu.
+        QCOMPARE(page.findChildren<PushButtonEx *>().size(), 2 * (5 + 1) + 3 + 3);
         QCOMPARE(page.findChildren<QCheckBox *>().size(), 5);
         QCOMPARE(page.findChildren<QRadioButton *>().size(), 5);
         QCOMPARE(page.findChildren<CLineEditEx *>().size(), 10);
@@ -93,6 +98,10 @@ private slots:
         QCOMPARE(page.findChildren<CBaseFormEx *>().size(), 4);
         QCOMPARE(page.findChildren<HotLabel *>().size(), 2);
         QCOMPARE(page.findChildren<VcardHeadLabel *>().size(), 4);
+        QCOMPARE(page.findChildren<ElidedLabel *>().size(), 2);
+        QCOMPARE(page.findChildren<MessageLabel *>().size(), 2);
+        const QList<FocusRing *> rings = page.findChildren<FocusRing *>();
+        QCOMPARE(std::count_if(rings.begin(), rings.end(), [](const FocusRing *ring) { return ring->isShown(); }), 2);
         QCOMPARE(page.findChildren<MyRubberBand *>().size(), 1);
         QCOMPARE(page.findChildren<CMenuEx *>(QStringLiteral("openedMenu")).size(), 3);
     }
