@@ -21,7 +21,6 @@
 #include <benchmark/benchmark.h>
 #include <json/reader.h>
 
-#include <algorithm>
 #include <malloc.h>
 #include <optional>
 #include <vector>
@@ -34,12 +33,16 @@ constexpr int cLinesOfACode = 1000;
 constexpr int cNoNotification = -1;
 
 /// A code that has no action.
-int openCode()
+constexpr int openCode()
 {
-    const auto open = std::find_if(Wire::cNotifications.begin(), Wire::cNotifications.end(),
-                                   [](const auto &row) { return row.content == Wire::Content::Open; });
-    return static_cast<int>(open->code);
+    for (const Wire::NotificationRow &row : Wire::cNotifications) {
+        if (row.content == Wire::Content::Open) {
+            return static_cast<int>(row.code);
+        }
+    }
+    return cNoNotification;
 }
+static_assert(openCode() != cNoNotification, "every code has an action: there is none to measure the bare road with");
 
 /// Whether the code comes in a conference whose members are known.
 bool isInConference(int code)
