@@ -5,6 +5,7 @@
 #include "screen/WindowProbe.h"
 #include "session/HostSession.h"
 
+#include "common/CLogManger.h"
 #include "fakes/Patience.h"
 #include "host/panes/PressButton.h"
 #include "model/SystemSetData.h"
@@ -37,6 +38,12 @@ class tst_MainWindow : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase()
+    {
+        // The log keeps for good the writer that it first finds, and each session brings its own.
+        CLogManger::instance();
+    }
+
     void init()
     {
         m_pSession = std::make_unique<HostSession>(m_book);

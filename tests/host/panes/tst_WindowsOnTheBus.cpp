@@ -4,6 +4,7 @@
 #include "client/ContactBook.h"
 #include "client/HostLanguage.h"
 #include "panes/ContactRow.h"
+#include "panes/DeviceBox.h"
 #include "panes/MainWindow.h"
 #include "panes/MemberPicker.h"
 #include "panes/QuitQuestion.h"
@@ -21,6 +22,7 @@
 #include "widgets/ErrorMessage.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QRegularExpression>
 #include <QTabWidget>
@@ -160,6 +162,13 @@ public:
         }
         for (const HostLanguage::Choice &choice : HostLanguage::choices()) {
             names.append(choice.ownName);
+        }
+        // What the sound server calls its devices, as soon as it has told.
+        for (const QWidget *widget : QApplication::allWidgets()) {
+            const auto *box = qobject_cast<const DeviceBox *>(widget);
+            for (int i = 1; box != nullptr && i < box->count(); ++i) {
+                names.append(box->itemText(i));
+            }
         }
         return names;
     }
