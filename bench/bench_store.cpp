@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QSqlDatabase>
 #include <QSqlQuery>
+#include <QVariant>
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
@@ -183,7 +184,7 @@ void closeByQt(QSqlDatabase &db)
 /// The base folder of a store with that many records, made at the first call.
 QString storeWith(int records)
 {
-    const QString base = baseOf(QStringLiteral("with%1").arg(records));
+    QString base = baseOf(QStringLiteral("with%1").arg(records));
     if (!QFile::exists(fileOf(base))) {
         DB::initByUserName(cUser, base, true);
         DB::closeDB();
@@ -201,7 +202,7 @@ QString storeWith(int records)
 /// A user's folder without a store in it.
 QString emptyFolder()
 {
-    const QString base = baseOf(QStringLiteral("fresh"));
+    QString base = baseOf(QStringLiteral("fresh"));
     QFile::remove(fileOf(base));
     QDir().mkpath(base + QLatin1Char('/') + cUser);
     return base;

@@ -57,7 +57,7 @@ void formatWithControl(benchmark::State &state)
 }
 
 BENCHMARK(countedCharacter)->Arg(cMiddle)->Arg(cLong);
-BENCHMARK(shortString)->Arg(cMiddle)->Arg(cLong)->Arg(10 * cLong)->Arg(100 * cLong);
+BENCHMARK(shortString)->Arg(cMiddle)->Arg(cLong)->Arg(10L * cLong)->Arg(100L * cLong);
 BENCHMARK(lineWrapText)->Arg(cMiddle)->Arg(cLong);
 BENCHMARK(formatWithControl)->Arg(cMiddle)->Arg(cLong);
 

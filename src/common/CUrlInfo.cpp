@@ -6,9 +6,11 @@
 #include <QStringList>
 #include <QUrl>
 
-// The base address of each endpoint: where a client without an address file goes.
+// The base address of each endpoint: where a client without an address file goes. The names are those of the table's
+// rows.
 namespace Endpoint {
 namespace {
+// NOLINTBEGIN(readability-identifier-naming)
 const QLatin1String NoDefault("");
 const QLatin1String Text("");
 const QLatin1String Main("http://center.kelvar.example");
@@ -22,6 +24,7 @@ const QLatin1String AgentPlatform("http://agent.kelvar.example");
 const QLatin1String Admin("http://admin.kelvar.example");
 const QLatin1String ObjectStore("http://objectstore.kelvar.example");
 const QLatin1String SipRegistration("sip.kelvar.example");
+// NOLINTEND(readability-identifier-naming)
 } // namespace
 } // namespace Endpoint
 
