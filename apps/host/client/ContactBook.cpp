@@ -156,24 +156,25 @@ const FriendData *ContactBook::find(const std::map<QString, FriendData> &records
 
 const FriendData *ContactBook::record(const QString &strJid) const
 {
-    const FriendData *contact = find(m_friends, strJid);
-    const FriendData *stranger = find(m_strangers, strJid);
-    return contact != nullptr ? contact : stranger != nullptr ? stranger : numberOnly(strJid);
+    for (const auto *records : {&m_friends, &m_strangers, &m_numbers}) {
+        const FriendData *found = find(*records, strJid);
+        if (found != nullptr) {
+            return found;
+        }
+    }
+    return &m_unknown;
 }
 
-const FriendData *ContactBook::numberOnly(const QString &strJid) const
+void ContactBook::takeNumber(const QString &strUid)
 {
-    if (uidOf(strJid).isEmpty()) {
-        return &m_unknown;
+    const QString jid = jidOf(strUid);
+    if (strUid.isEmpty() || record(jid) != &m_unknown) {
+        return;
     }
-    const auto [place, isNew] = m_numbers.try_emplace(strJid, strJid);
-    if (isNew) {
-        VcardInfo card;
-        card.m_strNickName = uidOf(strJid);
-        card.m_strAlternativeName = numberWords();
-        place->second.setVcardInfo(card);
-    }
-    return &place->second;
+    VcardInfo card;
+    card.m_strNickName = strUid;
+    card.m_strAlternativeName = numberWords();
+    m_numbers.try_emplace(jid, jid).first->second.setVcardInfo(card);
 }
 
 void ContactBook::learn(const QString &strUid)
@@ -233,7 +234,7 @@ bool ContactBook::isFriend(const QString &strJid) const
 const VcardInfo *ContactBook::card(const QString &strUid) const
 {
     const auto found = m_cards.find(strUid);
-    return found == m_cards.end() ? &numberOnly(jidOf(strUid))->m_vcardInfo : &found->second;
+    return found == m_cards.end() ? &record(jidOf(strUid))->m_vcardInfo : &found->second;
 }
 
 Presence ContactBook::presenceOf(const QString &strUid) const

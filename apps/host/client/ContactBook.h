@@ -53,20 +53,23 @@ public:
     /// Records by jid of all contacts and of the own user; strangers are left out.
     QMap<QString, FriendData> friendMap() const;
 
-    /// The record of `strJid`; for anybody who is neither a contact nor a stranger whose card has been fetched one that
-    /// has the number as its name and no card, for an empty jid a default record. Never null, owned by the book.
+    /// The record of `strJid`; a default record for anybody who is neither a contact nor a stranger whose card has been
+    /// fetched nor called by the number. Never null, owned by the book.
     const FriendData *record(const QString &strJid) const;
 
     /// True for contacts, false for strangers, for the own user's jid and for unknown jids.
     bool isFriend(const QString &strJid) const;
 
-    /// The card of the user, contact or stranger; for an unknown id the one that its record has. Never null, owned by
+    /// The card of the user, contact or stranger; for anybody else the one that the record has. Never null, owned by
     /// the book.
     const VcardInfo *card(const QString &strUid) const;
 
     /// The entry of the user; null for the own user and for an unknown id. Valid as long as the book.
     const Entry *entry(const QString &strUid) const;
 
+    /// The user calls somebody by the number: who has no card has a record from now on whose name it is. An empty id
+    /// has none.
+    void takeNumber(const QString &strUid);
     /// The stranger's card has been fetched: from now on there is a record with it. Others stay as they are.
     void learn(const QString &strUid);
 
@@ -91,7 +94,6 @@ public:
 
 private:
     void add(const Entry &entry, const char *strSignature);
-    const FriendData *numberOnly(const QString &strJid) const;
     static const FriendData *find(const std::map<QString, FriendData> &records, const QString &strJid);
 
     QString m_strDomain;
@@ -100,7 +102,7 @@ private:
     QList<Entry> m_entries;
     std::map<QString, FriendData> m_friends;
     std::map<QString, FriendData> m_strangers;
-    mutable std::map<QString, FriendData> m_numbers; // of whom nothing but the number is known, as they are asked for
+    std::map<QString, FriendData> m_numbers; // of whom nothing but the number is known
     std::map<QString, VcardInfo> m_cards;
     FriendData m_unknown;
 };

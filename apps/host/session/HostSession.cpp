@@ -126,6 +126,7 @@ void HostSession::setOnline(bool bOnline)
 
 void HostSession::callUser(const QString &strUid, bool bVideo)
 {
+    m_book.takeNumber(strUid);
     post(MSG_CALL_SINGLE_USER, packPayload(bVideo, strUid));
 }
 
@@ -136,6 +137,9 @@ void HostSession::answerCall(bool bAccept)
 
 void HostSession::callConference(const ConferenceWish &wish)
 {
+    for (const QString &uid : wish.uids) {
+        m_book.takeNumber(uid);
+    }
     post(MSG_CALL_CONFERENCE, packPayload(wish.uids, wish.text, wish.flag));
 }
 
