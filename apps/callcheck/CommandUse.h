@@ -61,19 +61,24 @@ inline constexpr std::array cRows{
 // clang-format on
 static_assert(Wire::tellOfEveryCommand(cRows), "a command of which the checker knows nothing");
 
+/// How many of these parameters are texts.
+constexpr std::size_t textsAmong(std::string_view parameters)
+{
+    std::size_t texts = 0;
+    for (const char type : parameters) {
+        texts += type == 's' ? 1 : 0;
+    }
+    return texts;
+}
+
 /// What the parameter says, counted from 1; Nothing for one that is no text.
 constexpr Text textOf(Wire::Command command, int parameter)
 {
     const std::string_view types = Wire::rowOf(command).parameters;
     const auto place = static_cast<std::size_t>(parameter - 1);
-    if (types.at(place) != 's') {
-        return Text::Nothing;
-    }
-    std::size_t text = 0;
-    for (const char type : types.substr(0, place)) {
-        text += type == 's' ? 1 : 0;
-    }
-    return cRows.at(static_cast<std::size_t>(command)).texts.at(text);
+    return types.at(place) == 's'
+               ? cRows.at(static_cast<std::size_t>(command)).texts.at(textsAmong(types.substr(0, place)))
+               : Text::Nothing;
 }
 
 /// Whether each text parameter of the wire has its meaning, and nothing else has one.
@@ -84,11 +89,7 @@ constexpr bool tellsOfEveryText()
         while (known < row.texts.size() && row.texts.at(known) != Text::Nothing) {
             ++known;
         }
-        std::size_t texts = 0;
-        for (const char type : std::string_view(Wire::rowOf(row.command).parameters)) {
-            texts += type == 's' ? 1 : 0;
-        }
-        if (known != texts) {
+        if (known != textsAmong(Wire::rowOf(row.command).parameters)) {
             return false;
         }
     }

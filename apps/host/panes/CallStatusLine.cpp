@@ -42,13 +42,6 @@ void CallStatusLine::hold(Words words)
     sayHeld();
 }
 
-void CallStatusLine::comeBack(const QString &strShown)
-{
-    if (strShown.isEmpty()) {
-        sayHeld();
-    }
-}
-
 void CallStatusLine::sayHeld()
 {
     if (m_held) {
@@ -56,9 +49,11 @@ void CallStatusLine::sayHeld()
     }
 }
 
-void CallStatusLine::retranslate()
+void CallStatusLine::comeBack(const QString &strShown)
 {
-    sayHeld();
+    if (strShown.isEmpty()) {
+        sayHeld();
+    }
 }
 
 void CallStatusLine::end(const QString &strWords)

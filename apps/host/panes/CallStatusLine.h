@@ -26,12 +26,11 @@ public:
     void say(const QString &strWords);
     /// Says this until the call is over.
     void hold(Words words);
-    /// Says what is held in the language that the client has now.
-    void retranslate();
+    /// Says what is held again, in the language that the client has now; nothing where nothing is held.
+    void sayHeld();
 
 private:
     void end(const QString &strWords);
-    void sayHeld();
     void comeBack(const QString &strShown);
     void sayRefused(const CallEntry &wish);
 

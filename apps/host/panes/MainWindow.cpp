@@ -294,7 +294,7 @@ void MainWindow::changeEvent(QEvent *event)
         showService();
         showReadiness();
         showNotice();
-        m_status.retranslate();
+        m_status.sayHeld();
     }
     QMainWindow::changeEvent(event);
 }

@@ -14,7 +14,7 @@ namespace {
 /// Before the window is shown, so that the window manager leaves it where it is put.
 void putOnScreen(QWidget &window)
 {
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect screen = window.screen()->availableGeometry();
     if (window.height() > screen.height()) {
         window.move(screen.left() + (screen.width() - window.width()) / 2, screen.bottom() + 1 - window.height());
     }

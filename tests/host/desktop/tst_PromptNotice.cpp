@@ -8,6 +8,7 @@
 #include "fakes/Patience.h"
 #include "host/desktop/FakeDesktop.h"
 #include "host/desktop/FakeTray.h"
+#include "host/desktop/SessionBus.h"
 #include "host/panes/Deeds.h"
 #include "plugin/BaseEvent.h"
 #include "plugin/EventPayload.h"
@@ -26,22 +27,17 @@ class tst_PromptNotice : public QObject
 private slots:
     void initTestCase()
     {
-        m_daemon.start(QStringLiteral("dbus-daemon"), {"--session", "--nofork", "--print-address=1"});
-        QVERIFY2(m_daemon.waitForReadyRead(cPatienceMs), qPrintable(m_daemon.errorString()));
-        const QByteArray address = m_daemon.readLine().trimmed();
-        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
-        m_pApplication = std::make_unique<QApplication>(m_iArguments, m_arguments);
+        m_pSessionBus = std::make_unique<SessionBus>();
+        QVERIFY(m_pSessionBus->start());
         m_pBus = std::make_unique<QDBusConnection>(
-            QDBusConnection::connectToBus(QString::fromLatin1(address), QStringLiteral("desktop")));
+            QDBusConnection::connectToBus(m_pSessionBus->address(), QStringLiteral("desktop")));
     }
 
     void cleanupTestCase()
     {
         m_pBus.reset();
         QDBusConnection::disconnectFromBus(QStringLiteral("desktop"));
-        m_pApplication.reset();
-        m_daemon.terminate();
-        m_daemon.waitForFinished(cPatienceMs);
+        m_pSessionBus.reset();
     }
 
     void init()
@@ -235,7 +231,7 @@ private slots:
     }
 
 private:
-    void stopTheBus(bool bStop) const { ::kill(pid_t(m_daemon.processId()), bStop ? SIGSTOP : SIGCONT); }
+    void stopTheBus(bool bStop) const { ::kill(pid_t(m_pSessionBus->process()), bStop ? SIGSTOP : SIGCONT); }
     IncomingPrompt &prompt() { return m_pWindow->prompt(); }
     /// No window of the client has the keyboard any more.
     void lookElsewhere()
@@ -264,11 +260,7 @@ private:
         return bTold ? m_pDesktop->lastId : 0;
     }
 
-    int m_iArguments = 1;
-    char m_name[5] = "test";
-    char *m_arguments[2] = {m_name, nullptr};
-    QProcess m_daemon;
-    std::unique_ptr<QApplication> m_pApplication;
+    std::unique_ptr<SessionBus> m_pSessionBus;
     std::unique_ptr<QDBusConnection> m_pBus;
     std::unique_ptr<FakeDesktop> m_pDesktop;
     std::unique_ptr<ContactBook> m_pBook;

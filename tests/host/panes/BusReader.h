@@ -4,9 +4,9 @@
 // D-Bus alone. GUI thread.
 
 #include "fakes/Patience.h"
+#include "host/desktop/SessionBus.h"
 
 #include <QAccessible>
-#include <QApplication>
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -14,7 +14,6 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
 #include <QEventLoop>
-#include <QProcess>
 #include <QTest>
 #include <QTimer>
 #include <QWidget>
@@ -50,9 +49,6 @@ public:
     {
         m_pBus.reset();
         QDBusConnection::disconnectFromBus(QStringLiteral("reader"));
-        m_pApplication.reset();
-        m_daemon.terminate();
-        m_daemon.waitForFinished(cPatienceMs);
     }
     BusReader() = default;
     BusReader(const BusReader &) = delete;
@@ -61,13 +57,10 @@ public:
     /// Starts bus, application and reader; returns when the application is on the bus, false where it does not come.
     bool start()
     {
-        m_daemon.start(QStringLiteral("dbus-daemon"), {"--session", "--nofork", "--print-address=1"});
-        if (!m_daemon.waitForReadyRead(cPatienceMs)) {
+        qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+        if (!m_session.start()) {
             return false;
         }
-        qputenv("DBUS_SESSION_BUS_ADDRESS", m_daemon.readLine().trimmed());
-        qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
-        m_pApplication = std::make_unique<QApplication>(m_iArguments, m_arguments);
         // The question starts the accessibility bus, as a screen reader's does.
         const QString strAddress = ask(QDBusConnection::sessionBus(), QStringLiteral("org.a11y.Bus"),
                                        QStringLiteral("/org/a11y/bus"), "org.a11y.Bus", "GetAddress")
@@ -193,10 +186,6 @@ private:
         }
     }
 
-    int m_iArguments = 1;
-    char m_name[5] = "test";
-    char *m_arguments[2] = {m_name, nullptr};
-    QProcess m_daemon;
-    std::unique_ptr<QApplication> m_pApplication;
+    SessionBus m_session;
     std::unique_ptr<QDBusConnection> m_pBus;
 };

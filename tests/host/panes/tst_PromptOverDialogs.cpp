@@ -1,13 +1,8 @@
-#include "client/ContactBook.h"
-#include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
-#include "session/HostSession.h"
 
 #include "fakes/Patience.h"
+#include "host/panes/ClientTest.h"
 #include "host/panes/Deeds.h"
-#include "plugin/BaseEvent.h"
-#include "plugin/EventPayload.h"
-#include "plugin/PluginIds.h"
 #include "widgets/ErrorMessage.h"
 
 #include <QDialog>
@@ -17,26 +12,21 @@
 #include <QTimer>
 
 /// A call rings while a dialog is open: it is answered by the real mouse and the real keys, and what was open stays.
-class tst_PromptOverDialogs : public QObject
+class tst_PromptOverDialogs : public ClientTest
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_pSession = std::make_unique<HostSession>(m_book);
-        m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
-        m_pSession->setOnline(true);
-        m_pWindow->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
+        ClientTest::init();
         m_pAnswered = std::make_unique<QSignalSpy>(&prompt(), &IncomingPrompt::answered);
     }
 
     void cleanup()
     {
         m_pAnswered.reset();
-        m_pWindow.reset();
-        m_pSession.reset();
+        ClientTest::cleanup();
     }
 
     void mouseAnswersOverThePicker_data()
@@ -141,12 +131,7 @@ private:
         return Deeds::click(window, strButton, [window] { return window() == nullptr; });
     }
 
-    void ring()
-    {
-        BaseEvent event(MSG_RECEVIE_VOIP_CALL, voipPluginId(), sessionPluginId(), false,
-                        packPayload(QStringLiteral("30010006"), false, false));
-        QCoreApplication::sendEvent(&m_pSession->mailbox(), &event);
-    }
+    void ring() { ClientTest::ring(QStringLiteral("30010006")); }
 
     static QListWidget *people()
     {
@@ -178,9 +163,6 @@ private:
         return count;
     }
 
-    ContactBook m_book{HostSession::loginDomain()};
-    std::unique_ptr<HostSession> m_pSession;
-    std::unique_ptr<MainWindow> m_pWindow;
     std::unique_ptr<QSignalSpy> m_pAnswered;
 };
 

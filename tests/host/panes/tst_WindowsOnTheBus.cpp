@@ -24,6 +24,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QTabWidget>
 #include <QTest>
@@ -153,8 +154,8 @@ public:
     }
     QWidget &card() { return *m_pCard; }
 
-    /// What stands in the windows as it is, whatever the language.
-    QStringList namesOfPeople() const
+    /// What people, languages and devices are called, whatever the language of the window.
+    QStringList properNames() const
     {
         QStringList names;
         for (const ContactBook::Entry &entry : m_book.entries()) {
@@ -352,11 +353,11 @@ private:
                                        "combo box",   "slider",        "page tab",  "list item"};
         return part.is(BusReader::Focusable) || roles.contains(part.role);
     }
-    /// Whether a name's own words are of that language; numbers and what people are called are of each.
+    /// Whether a name's own words are of that language; numbers and proper names are of each.
     bool isIn(const QString &strLanguage, QString strName) const
     {
-        for (const QString &strPerson : m_pWindows->namesOfPeople()) {
-            strName.remove(strPerson);
+        for (const QString &strProper : m_pWindows->properNames()) {
+            strName.remove(strProper);
         }
         static const QRegularExpression file(QStringLiteral("/\\S+"));
         strName.remove(file);
@@ -409,7 +410,7 @@ private:
         const bool bOneOfMany = button != nullptr && (button->autoExclusive() || button->group() != nullptr);
         return qobject_cast<const ContactRow *>(widget) != nullptr || bOneOfMany
                    ? hasReachedNeighbour(part, stops, parts)
-                   : widget == nullptr && isIn(part, stops, parts);
+                   : widget == nullptr && isHeldByStop(part, stops, parts);
     }
     static bool hasReachedNeighbour(const Part &part, const QStringList &stops, const QList<Part> &parts)
     {
@@ -418,10 +419,10 @@ private:
         });
     }
     /// Whether an item is one of a list, a table, a box or a bar of tabs that Tab leads to.
-    static bool isIn(const Part &item, const QStringList &stops, const QList<Part> &parts)
+    static bool isHeldByStop(const Part &item, const QStringList &stops, const QList<Part> &parts)
     {
         return stops.contains(item.parent) || std::any_of(parts.begin(), parts.end(), [&](const Part &holder) {
-                   return holder.path == item.parent && isIn(holder, stops, parts);
+                   return holder.path == item.parent && isHeldByStop(holder, stops, parts);
                });
     }
 
