@@ -139,17 +139,16 @@ private:
                                                       : WindowProbe::memberPicker()->findChild<QListWidget *>();
     }
 
-    /// Picks the first of the picker's people with the mouse.
+    /// Picks the first of the picker's people with the mouse: one click, a second one would take it back.
     static Deeds::Deed pickFirst()
     {
-        return [] {
+        return [bClicked = false]() mutable {
             const QListWidget *list = people();
-            if (list == nullptr || !QApplication::activeWindow()) {
-                return false;
+            if (!bClicked && list != nullptr && list->window()->isActiveWindow()) {
+                const QRect row = list->visualItemRect(list->item(0));
+                bClicked = Deeds::clickIn(*list->window(), list->viewport()->mapTo(list->window(), row.center()));
             }
-            const QRect row = list->visualItemRect(list->item(0));
-            return checkedRows() == 1 ||
-                   (Deeds::clickIn(*list->window(), list->viewport()->mapTo(list->window(), row.center())) && false);
+            return checkedRows() == 1;
         };
     }
 

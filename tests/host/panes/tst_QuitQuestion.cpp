@@ -68,9 +68,9 @@ private slots:
         QCOMPARE(::kill(pid_t(m_session.callService().process()), SIGKILL), 0);
         QTRY_VERIFY_WITH_TIMEOUT(question() == nullptr, cPatienceMs);
         QVERIFY(m_pWindow->isVisible());
-        // The next call process begins as the first one did.
+        // The next call process begins as the first one did. Its prompt comes in front when it will, and would take the next key.
         QTRY_VERIFY_WITH_TIMEOUT(!m_pWindow->prompt().isVisible(), cPatienceMs);
-        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->prompt().isVisible(), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->prompt().isActiveWindow(), cPatienceMs);
         QVERIFY(m_session.isExistCall());
     }
 
