@@ -144,6 +144,16 @@ public:
         return clickIn(*part.window(), part.mapTo(part.window(), place), click);
     }
 
+    /// Whether the server gives the keys to the window. Qt may be ahead of it; keys that the window manager takes go
+    /// there.
+    static bool hasKeys(const QWidget &window)
+    {
+        QProcess process;
+        process.start(QStringLiteral("xdotool"), {QStringLiteral("getwindowfocus")});
+        process.waitForFinished(cPatienceMs);
+        return process.readAllStandardOutput().trimmed() == QByteArray::number(window.winId());
+    }
+
     /// Where the server has the window, without its frame; empty while it has none such.
     static QRect placeOf(const QWidget &window)
     {

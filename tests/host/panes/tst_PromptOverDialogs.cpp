@@ -65,7 +65,7 @@ private slots:
         Deeds deeds({openPicker(), Deeds::act([this] { ring(); }), pickFirst(),
                      // Not by itself: the picker has the keys until they are asked for.
                      Deeds::until([] { return QApplication::activeWindow() == WindowProbe::memberPicker(); }),
-                     Deeds::key("ctrl+i"), Deeds::until([this] { return prompt().isActiveWindow(); }), Deeds::key(key),
+                     Deeds::key("ctrl+i"), Deeds::until([this] { return Deeds::hasKeys(prompt()); }), Deeds::key(key),
                      Deeds::until([this] { return m_pAnswered->count() == 1; }),
                      // The keys are the picker's again.
                      Deeds::until([] { return QApplication::activeWindow() == WindowProbe::memberPicker(); }),

@@ -68,7 +68,8 @@ private slots:
         QCOMPARE(::kill(pid_t(m_session.callService().process()), SIGKILL), 0);
         QTRY_VERIFY_WITH_TIMEOUT(question() == nullptr, cPatienceMs);
         QVERIFY(m_pWindow->isVisible());
-        // The next call process begins as the first one did. Its prompt comes in front when it will, and would take the next key.
+        // The next call process begins as the first one did. Its prompt comes in front when it will, and would take the
+        // next key.
         QTRY_VERIFY_WITH_TIMEOUT(!m_pWindow->prompt().isVisible(), cPatienceMs);
         QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->prompt().isActiveWindow(), cPatienceMs);
         QVERIFY(m_session.isExistCall());
@@ -102,8 +103,11 @@ private:
     /// Closes the client's window by the window manager's own keys; true when the question is in front.
     bool closeWindow()
     {
-        m_pWindow->comeToFront();
-        Deeds deeds({Deeds::until([this] { return m_pWindow->isActiveWindow(); }), Deeds::key("alt+F4"),
+        const auto comeToFront = [this] {
+            m_pWindow->comeToFront();
+            return true;
+        };
+        Deeds deeds({Deeds::again(comeToFront, [this] { return Deeds::hasKeys(*m_pWindow); }), Deeds::key("alt+F4"),
                      Deeds::until([this] { return question() != nullptr && question()->isActiveWindow(); })});
         return deeds.finish();
     }
