@@ -1,7 +1,7 @@
 #include "callcheck/LineMatch.h"
 
-#include "callprocess/Trace.h"
-#include "callprocess/Wire.h"
+#include "endpoint/Trace.h"
+#include "endpoint/Wire.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

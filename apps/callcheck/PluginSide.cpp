@@ -1,6 +1,6 @@
 #include "callcheck/PluginSide.h"
 
-#include "callprocess/Trace.h"
+#include "endpoint/Trace.h"
 
 #include <QDeadlineTimer>
 #include <QThread>

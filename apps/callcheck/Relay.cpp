@@ -1,8 +1,8 @@
 #include "callcheck/Relay.h"
 
 #include "callcheck/Subject.h"
-#include "callprocess/Channel.h"
-#include "callprocess/Wire.h"
+#include "endpoint/Channel.h"
+#include "endpoint/Wire.h"
 
 #include <QLocalSocket>
 

@@ -2,7 +2,7 @@
 
 #include "callcheck/CommandUse.h"
 #include "callcheck/LineMatch.h"
-#include "callprocess/Wire.h"
+#include "endpoint/Wire.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
 #include "callcheck/Subject.h"
 
-#include "callprocess/SocketClaim.h"
+#include "endpoint/SocketClaim.h"
 #include "wire/Commands.h"
 
 #include <QDeadlineTimer>

@@ -5,11 +5,11 @@
 #include "callcheck/Replay.h"
 #include "callcheck/ScenarioWriter.h"
 #include "callcheck/Subject.h"
-#include "callprocess/Channel.h"
 #include "callprocess/Scenario.h"
-#include "callprocess/SocketClaim.h"
-#include "callprocess/Streams.h"
-#include "callprocess/Trace.h"
+#include "endpoint/Channel.h"
+#include "endpoint/SocketClaim.h"
+#include "endpoint/Streams.h"
+#include "endpoint/Trace.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -7,7 +7,7 @@ constexpr int cConnectAfterMs = 300;
 
 } // namespace
 
-CallDesk::CallDesk(Outlet &outlet, QObject *parent) : QObject(parent), m_outlet(outlet) {}
+CallDesk::CallDesk(PacedOutlet &outlet, QObject *parent) : QObject(parent), m_outlet(outlet) {}
 
 CallDesk::~CallDesk() = default;
 

@@ -3,7 +3,7 @@
 // The single calls of the exchange: at most one at a time, placed by the plug-in or by a robot. Owned by the exchange;
 // main thread.
 
-#include "callprocess/Outlet.h"
+#include "callprocess/PacedOutlet.h"
 #include "callprocess/RobotTable.h"
 
 #include <QObject>
@@ -16,7 +16,7 @@ class CallDesk : public QObject
 
 public:
     /// `outlet` outlives the desk.
-    explicit CallDesk(Outlet &outlet, QObject *parent = nullptr);
+    explicit CallDesk(PacedOutlet &outlet, QObject *parent = nullptr);
     ~CallDesk() override;
 
     /// Whether a call is being placed, rings or is connected.
@@ -50,7 +50,7 @@ private:
     void connectCall(const Robot &robot);
     void finish(Wire::Code code);
 
-    Outlet &m_outlet;
+    PacedOutlet &m_outlet;
     Phase m_phase = Phase::None;
     const Robot *m_robot = nullptr;
     std::unique_ptr<QObject> m_timers; // context of the present phase's timers: they go with it

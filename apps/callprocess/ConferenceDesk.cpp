@@ -33,7 +33,7 @@ QString compact(const QJsonObject &object)
 
 } // namespace
 
-ConferenceDesk::ConferenceDesk(Outlet &outlet, QObject *parent) : QObject(parent), m_outlet(outlet) {}
+ConferenceDesk::ConferenceDesk(PacedOutlet &outlet, QObject *parent) : QObject(parent), m_outlet(outlet) {}
 
 ConferenceDesk::~ConferenceDesk() = default;
 

@@ -3,7 +3,7 @@
 // The conferences of the exchange: at most one at a time, requested by the plug-in or by a robot that invites it. It
 // knows who is connected and tells the plug-in of each change. Owned by the exchange; main thread.
 
-#include "callprocess/Outlet.h"
+#include "callprocess/PacedOutlet.h"
 #include "callprocess/RobotTable.h"
 
 #include <QObject>
@@ -18,7 +18,7 @@ class ConferenceDesk : public QObject
 
 public:
     /// `outlet` outlives the desk.
-    explicit ConferenceDesk(Outlet &outlet, QObject *parent = nullptr);
+    explicit ConferenceDesk(PacedOutlet &outlet, QObject *parent = nullptr);
     ~ConferenceDesk() override;
 
     /// Whether a conference is being created, the plug-in is invited to one or is in one.
@@ -64,7 +64,7 @@ private:
     QString document(const QString &from) const;
     static QString document(const QString &confId, const QString &from, const QStringList &members, qint64 createTime);
 
-    Outlet &m_outlet;
+    PacedOutlet &m_outlet;
     Phase m_phase = Phase::None;
     QString m_ownId;
     QString m_creator;

@@ -1,22 +1,20 @@
 #include "callprocess/Exchange.h"
 
-#include "callprocess/Trace.h"
+#include "endpoint/ServiceTable.h"
 
 #include <array>
 
-/// Which function serves a command, null for one that a robot would not notice.
-struct ExchangeRow
+Exchange::Exchange(Channel &channel, Trace &trace, double speed, QObject *parent)
+    : QObject(parent), m_trace(trace), m_outlet(channel, trace, speed), m_calls(m_outlet), m_conferences(m_outlet)
 {
-    Wire::Command command;
-    void (Exchange::*serve)(const Command &);
+    connect(&m_calls, &CallDesk::returnWanted, this, &Exchange::letRobotReturn);
+}
 
-    static const ExchangeRow &of(Wire::Command command);
-};
-
-const ExchangeRow &ExchangeRow::of(Wire::Command command)
+void Exchange::handleLine(const QByteArray &line)
 {
+    // What a robot would not notice has no effect.
     // clang-format off
-    static constexpr std::array<ExchangeRow, Wire::cCommands.size()> rows{{
+    static constexpr std::array<ServiceRow<Exchange>, Wire::cCommands.size()> rows{{
         {Wire::Command::RegeditUser,       &Exchange::registerUser},
         {Wire::Command::UnReg,             &Exchange::unregisterUser},
         {Wire::Command::CallUser,          &Exchange::callUser},
@@ -37,33 +35,7 @@ const ExchangeRow &ExchangeRow::of(Wire::Command command)
     }};
     // clang-format on
     static_assert(Wire::tellOfEveryCommand(rows), "a command that nobody serves");
-    return rows.at(static_cast<std::size_t>(command));
-}
-
-Exchange::Exchange(Channel &channel, Trace &trace, double speed, QObject *parent)
-    : QObject(parent), m_trace(trace), m_outlet(channel, trace, speed), m_calls(m_outlet), m_conferences(m_outlet)
-{
-    connect(&m_calls, &CallDesk::returnWanted, this, &Exchange::letRobotReturn);
-}
-
-void Exchange::handleLine(const QByteArray &line)
-{
-    QString reason;
-    const std::optional<Command> command = parseCommand(line, &reason);
-    if (!command) {
-        m_trace.complaint(reason);
-        return;
-    }
-    reason = shapeFault(*command);
-    if (!reason.isEmpty()) {
-        m_trace.complaint(reason);
-        return;
-    }
-    // What has the right shape has a row.
-    const ExchangeRow &row = ExchangeRow::of(findCommand(command->name)->command);
-    if (row.serve != nullptr) {
-        (this->*row.serve)(*command);
-    }
+    serveLine(*this, rows, line, m_trace);
 }
 
 void Exchange::registerUser(const Command &command)

@@ -6,7 +6,7 @@
 
 #include "callprocess/CallDesk.h"
 #include "callprocess/ConferenceDesk.h"
-#include "callprocess/Outlet.h"
+#include "callprocess/PacedOutlet.h"
 
 #include <QObject>
 
@@ -22,8 +22,6 @@ public:
     void handleLine(const QByteArray &line);
 
 private:
-    friend struct ExchangeRow;
-
     void registerUser(const Command &command);
     void unregisterUser(const Command &command);
     void callUser(const Command &command);
@@ -39,7 +37,7 @@ private:
     void endAll();
 
     Trace &m_trace;
-    Outlet m_outlet;
+    PacedOutlet m_outlet;
     CallDesk m_calls;
     ConferenceDesk m_conferences;
     QString m_userId; // empty while nobody is registered

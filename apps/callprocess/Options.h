@@ -1,21 +1,17 @@
 #pragma once
 
-// What the call process can be told at its start, by options or, since the plug-in starts it without any, by the
+// What the stand-in can be told at its start, by options or, since the plug-in starts it without any, by the
 // environment. An option wins over its variable. Values only.
 
-#include "wire/Commands.h"
+#include "endpoint/EndpointOptions.h"
 
 #include <QString>
 #include <QStringList>
 
-struct Options
+struct Options : EndpointOptions
 {
-    QString scenario;                                            ///< path; empty: the exchange of robots
-    QString trace;                                               ///< path, "-" for standard error; empty: none
-    double speed = 1.0;                                          ///< greater than 0
-    double idleSeconds = 600.0;                                  ///< 0 or more
-    QString socketName = QString::fromLatin1(Wire::cServerName); ///< never empty
-    bool help = false;
+    QString scenario;   ///< path; empty: the exchange of robots
+    double speed = 1.0; ///< greater than 0
 
     /// Reads the arguments, the program's name first, and the environment. False with `error` set for an unknown
     /// option, a surplus argument or a bad number.

@@ -4,7 +4,7 @@
 // language is told in docs/scenario-language.md. Values only; reading has no effects.
 
 #include "callprocess/ScenarioWords.h"
-#include "callprocess/Wire.h"
+#include "endpoint/Wire.h"
 
 #include <QByteArray>
 #include <QJsonValue>

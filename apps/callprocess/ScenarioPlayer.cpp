@@ -1,8 +1,8 @@
 #include "callprocess/ScenarioPlayer.h"
 
-#include "callprocess/Channel.h"
 #include "callprocess/Options.h"
-#include "callprocess/Trace.h"
+#include "endpoint/Channel.h"
+#include "endpoint/Trace.h"
 
 #include <cstdlib>
 #include <utility>

@@ -1,50 +1,32 @@
 // Starts the call process: reads what it is told, steps back when another one lives, and serves its client as the
 // exchange of robots or by a scenario until it is told to quit.
 
-#include "callprocess/Channel.h"
 #include "callprocess/Exchange.h"
 #include "callprocess/Options.h"
 #include "callprocess/Scenario.h"
 #include "callprocess/ScenarioPlayer.h"
-#include "callprocess/Streams.h"
-#include "callprocess/Trace.h"
+#include "endpoint/Channel.h"
+#include "endpoint/ProcessFrame.h"
+#include "endpoint/Streams.h"
+#include "endpoint/Trace.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
 #include <QTimer>
 
 #include <csignal>
 #include <cstdio>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 
 namespace {
 
-constexpr int cExitCannotListen = 1;
-constexpr int cExitBadInput = 2;
-
-int complain(int exitCode, const QString &text)
-{
-    std::fprintf(stderr, "VoipSDK: %s\n", qPrintable(text));
-    return exitCode;
-}
-
-/// Ends the process when it has had no client for the given time.
-void watchIdleness(const Channel &channel, Trace &trace, double seconds, QTimer &timer)
-{
-    timer.setSingleShot(true);
-    timer.setInterval(static_cast<int>(seconds * 1000));
-    QObject::connect(&timer, &QTimer::timeout, qApp, [&trace] {
-        trace.event(QStringLiteral("idle"));
-        QCoreApplication::exit(0);
-    });
-    QObject::connect(&channel, &Channel::clientArrived, &timer, &QTimer::stop);
-    QObject::connect(&channel, &Channel::clientGone, &timer, qOverload<>(&QTimer::start));
-    timer.start();
-}
+constexpr const char *cProgram = "VoipSDK";
 
 int serve(const Options &options, std::optional<Scenario> scenario, Channel &channel, Trace &trace)
 {
-    QTimer idleTimer;
-    watchIdleness(channel, trace, options.idleSeconds, idleTimer);
+    endWhenIdle(channel, trace, options.idleSeconds);
     if (!scenario) {
         Exchange exchange(channel, trace, options.speed);
         QObject::connect(&channel, &Channel::lineReceived, &exchange, [&](const QByteArray &line) {
@@ -75,13 +57,16 @@ int serve(const Options &options, std::optional<Scenario> scenario, Channel &cha
 int main(int argc, char *argv[])
 {
     std::signal(SIGPIPE, SIG_IGN);
+    // The front has put this program in its place and handed its name on: who looks for the call process looks for
+    // that.
+    ::prctl(PR_SET_NAME, qPrintable(QFileInfo(QFile::decodeName(argv[0])).fileName()));
     // The trace holds what clients sign in with.
     ::umask(S_IRWXG | S_IRWXO);
     const QCoreApplication application(argc, argv);
     Options options;
     QString error;
     if (!options.read(QCoreApplication::arguments(), &error)) {
-        return complain(cExitBadInput, error);
+        return complain(cExitBadInput, cProgram, error);
     }
     if (options.help) {
         std::fputs(qPrintable(Options::helpText()), stdout);
@@ -91,23 +76,17 @@ int main(int argc, char *argv[])
     if (!options.scenario.isEmpty()) {
         scenario = Scenario::load(options.scenario, &error);
         if (!scenario) {
-            return complain(cExitBadInput, error);
+            return complain(cExitBadInput, cProgram, error);
         }
     }
     Trace trace;
     if (!trace.open(options.trace, &error)) {
-        return complain(cExitBadInput, error);
+        return complain(cExitBadInput, cProgram, error);
     }
     trace.event(QStringLiteral("started, process %1").arg(QCoreApplication::applicationPid()));
     Channel channel(options.socketName, trace);
-    switch (channel.listen(&error)) {
-    case Channel::Listen::Listening:
-        break;
-    case Channel::Listen::AnotherLives:
-        trace.event(QStringLiteral("stepped back"));
-        return complain(0, QStringLiteral("another call process is alive, this one steps back"));
-    case Channel::Listen::Failed:
-        return complain(cExitCannotListen, QStringLiteral("cannot listen: %1").arg(error));
+    if (const std::optional<int> exitCode = exitCodeUnlessListening(cProgram, channel, trace)) {
+        return *exitCode;
     }
     letGoOfStreams(trace.isOnStandardError());
     return serve(options, std::move(scenario), channel, trace);

@@ -1,5 +1,5 @@
 #include "callcheck/LineMatch.h"
-#include "callprocess/Wire.h"
+#include "endpoint/Wire.h"
 
 #include <QtTest>
 

@@ -2,7 +2,7 @@
 
 #include "callcheck/PluginCommand.h"
 #include "callprocess/Scenario.h"
-#include "callprocess/Wire.h"
+#include "endpoint/Wire.h"
 #include "fakes/FileBytes.h"
 #include "fakes/Patience.h"
 

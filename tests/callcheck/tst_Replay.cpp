@@ -1,6 +1,6 @@
 // The checker's replay, as the program that it is, against the stand-in and against call processes that do wrong.
 
-#include "callprocess/Wire.h"
+#include "endpoint/Wire.h"
 #include "fakes/FileBytes.h"
 #include "fakes/Patience.h"
 

@@ -2,7 +2,7 @@
 #include "callcheck/ScenarioWriter.h"
 #include "callprocess/Scenario.h"
 #include "callprocess/ScenarioWords.h"
-#include "callprocess/Wire.h"
+#include "endpoint/Wire.h"
 
 #include <QJsonArray>
 #include <QtTest>

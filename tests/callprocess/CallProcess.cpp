@@ -9,7 +9,9 @@
 #include <QTest>
 #include <QUuid>
 
-CallProcess::CallProcess() : m_tracePath(QUuid::createUuid().toString(QUuid::WithoutBraces) + QStringLiteral(".trace"))
+CallProcess::CallProcess()
+    : m_program(QStringLiteral(VOIPSDK_PROGRAM)),
+      m_tracePath(QUuid::createUuid().toString(QUuid::WithoutBraces) + QStringLiteral(".trace"))
 {
 }
 
@@ -23,7 +25,7 @@ CallProcess::~CallProcess()
 
 void CallProcess::start(const QStringList &options)
 {
-    m_process.start(QStringLiteral(VOIPSDK_PROGRAM), QStringList{QStringLiteral("--trace"), m_tracePath} + options);
+    m_process.start(m_program, QStringList{QStringLiteral("--trace"), m_tracePath} + options);
     m_process.waitForStarted(cPatienceMs);
 }
 
@@ -43,7 +45,7 @@ bool CallProcess::connectClient()
     m_client = std::make_unique<QLocalSocket>();
     const QDeadlineTimer deadline(cWaitMs);
     while (!deadline.hasExpired() && m_process.state() != QProcess::NotRunning) {
-        m_client->connectToServer(QStringLiteral("VoipSDK"));
+        m_client->connectToServer(m_socketName);
         if (m_client->waitForConnected(cWaitMs)) {
             return true;
         }

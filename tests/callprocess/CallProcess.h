@@ -23,6 +23,12 @@ public:
     /// Kills the child when it still runs.
     ~CallProcess();
 
+    /// Where clients connect, if the child's options have it listen at another name than VoipSDK.
+    void setSocketName(const QString &name) { m_socketName = name; }
+    const QString &socketName() const { return m_socketName; }
+
+    /// What is started instead of the program that these tests are about.
+    void setProgram(const QString &program) { m_program = program; }
     /// Starts the child with a trace and these options besides. It need not be listening yet.
     void start(const QStringList &options = {});
     /// The same with a scenario of this text.
@@ -62,5 +68,7 @@ private:
     QProcess m_process;
     std::unique_ptr<QLocalSocket> m_client;
     QByteArray m_input;
+    QString m_program;
+    QString m_socketName = QStringLiteral("VoipSDK");
     QString m_tracePath;
 };

@@ -1,4 +1,5 @@
 #include "callprocess/CallProcessTest.h"
+#include "callprocess/RobotTable.h"
 
 #include <QtTest>
 
@@ -7,6 +8,19 @@ class tst_Robots : public CallProcessTest
     Q_OBJECT
 
 private slots:
+    void robotIdsArePlainUserIds()
+    {
+        QSet<QString> ids;
+        for (const Robot &robot : cRobots) {
+            const QString id = QString::fromLatin1(robot.id);
+            QVERIFY(id.contains(QRegularExpression(QStringLiteral("^300100(0[1-9]|10)$"))));
+            QCOMPARE(findRobot(id), &robot);
+            ids.insert(id);
+        }
+        QCOMPARE(ids.size(), 10);
+        QVERIFY(findRobot(QStringLiteral("30010011")) == nullptr);
+    }
+
     void outcomeOfACall_data()
     {
         QTest::addColumn<QString>("id");

@@ -1,7 +1,7 @@
 // What the player of scenarios does: expectations, the bytes that go out, the connection, the end.
 
 #include "callprocess/CallProcessTest.h"
-#include "callprocess/Wire.h"
+#include "endpoint/Wire.h"
 #include "fakes/Patience.h"
 
 #include <QtTest>

@@ -1,4 +1,4 @@
-#include "callprocess/Streams.h"
+#include "endpoint/Streams.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -10,6 +10,8 @@
 #include <QFile>
 #include <QString>
 
+#include <functional>
+
 class Trace
 {
 public:
@@ -22,8 +24,14 @@ public:
     /// Whether the records go to standard error.
     bool isOnStandardError() const { return m_onStandardError; }
 
+    /// Has what comes in recorded as `veil` gives it back: what a line must not leave behind on the disk. Without one a
+    /// line is recorded as it came.
+    void setVeil(std::function<QByteArray(const QByteArray &line)> veil);
+
     /// One line that came in, without its line feed.
     void received(const QByteArray &line);
+    /// The complaint about a line that came in without its end.
+    void receivedHalf(const QByteArray &line);
     /// The bytes of one write: a final line feed is not shown, bytes that end in the middle of a line end in "…".
     void sent(const QByteArray &bytes);
     /// Something that happened to the call process, in words.
@@ -37,7 +45,9 @@ public:
 
 private:
     void record(char direction, const QString &text);
+    QString veiled(const QByteArray &line) const;
 
+    std::function<QByteArray(const QByteArray &line)> m_veil;
     QElapsedTimer m_clock;
     QFile m_file;
     bool m_onStandardError = false;

@@ -1,8 +1,9 @@
-#include "callprocess/Trace.h"
+#include "endpoint/Trace.h"
 
-#include "callprocess/Wire.h"
+#include "endpoint/Wire.h"
 
 #include <cstdio>
+#include <utility>
 
 namespace {
 
@@ -34,9 +35,19 @@ bool Trace::open(const QString &path, QString *error)
     return open;
 }
 
+void Trace::setVeil(std::function<QByteArray(const QByteArray &line)> veil)
+{
+    m_veil = std::move(veil);
+}
+
 void Trace::received(const QByteArray &line)
 {
-    record('<', printable(line));
+    record('<', veiled(line));
+}
+
+void Trace::receivedHalf(const QByteArray &line)
+{
+    complaint(QStringLiteral("line without an end: ") + veiled(line));
 }
 
 void Trace::sent(const QByteArray &bytes)
@@ -77,6 +88,11 @@ QString Trace::printable(const QByteArray &bytes)
         }
     }
     return text;
+}
+
+QString Trace::veiled(const QByteArray &line) const
+{
+    return printable(m_veil ? m_veil(line) : line);
 }
 
 void Trace::record(char direction, const QString &text)

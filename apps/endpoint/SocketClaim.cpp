@@ -1,4 +1,4 @@
-#include "callprocess/SocketClaim.h"
+#include "endpoint/SocketClaim.h"
 
 #include "wire/SocketProbe.h"
 

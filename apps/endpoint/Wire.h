@@ -10,6 +10,7 @@
 #include <QByteArray>
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -43,6 +44,10 @@ std::optional<Command> parseCommand(const QByteArray &line, QString *reason);
 /// What is wrong with the command's parameters, empty when they are as the catalogue has them: an unknown name, a
 /// missing, wrongly typed or superfluous key.
 QString shapeFault(const Command &command);
+
+/// Reads one line as a command of the catalogue in its own shape. Nothing for any other; what is wrong with it is then
+/// in `fault`.
+std::optional<Command> readCommand(const QByteArray &line, QString *fault);
 
 /// One notification as a whole line with its line feed.
 QByteArray notificationLine(Wire::Code code, const QString &content);

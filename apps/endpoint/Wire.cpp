@@ -1,8 +1,7 @@
-#include "callprocess/Wire.h"
+#include "endpoint/Wire.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QStringList>
 #include <QTextCodec>
 
 #include <algorithm>
@@ -113,6 +112,15 @@ QString shapeFault(const Command &command)
         return QStringLiteral("%1 has keys that it does not use").arg(command.name);
     }
     return {};
+}
+
+std::optional<Command> readCommand(const QByteArray &line, QString *fault)
+{
+    std::optional<Command> command = parseCommand(line, fault);
+    if (command) {
+        *fault = shapeFault(*command);
+    }
+    return fault->isEmpty() ? command : std::nullopt;
 }
 
 QByteArray notificationLine(Wire::Code code, const QString &content)

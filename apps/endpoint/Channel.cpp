@@ -1,7 +1,7 @@
-#include "callprocess/Channel.h"
+#include "endpoint/Channel.h"
 
-#include "callprocess/SocketClaim.h"
-#include "callprocess/Trace.h"
+#include "endpoint/SocketClaim.h"
+#include "endpoint/Trace.h"
 
 #include <QLocalSocket>
 #include <QScopedValueRollback>
@@ -17,6 +17,14 @@ namespace {
 
 constexpr int cPumpIntervalMs = 1;
 constexpr int cInputLimit = 64 * 1024 * 1024;
+
+/// The process at the other end of a socket, 0 when it cannot be told.
+qint64 peerOf(int descriptor)
+{
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    return ::getsockopt(descriptor, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 ? peer.pid : 0;
+}
 
 } // namespace
 
@@ -101,6 +109,7 @@ void Channel::acceptClient()
         connect(client, &QLocalSocket::readyRead, this, &Channel::readClient);
         connect(client, &QLocalSocket::disconnected, this, &Channel::endClient);
         m_spareDescriptor = ::fcntl(static_cast<int>(client->socketDescriptor()), F_DUPFD_CLOEXEC, 0);
+        m_clientProcess = peerOf(m_spareDescriptor);
         m_trace.event(QStringLiteral("connected"));
         emit clientArrived();
         readClient();
@@ -122,7 +131,7 @@ void Channel::endClient()
 void Channel::releaseClient()
 {
     if (!m_input.isEmpty()) {
-        m_trace.complaint(QStringLiteral("line without an end: ") + Trace::printable(m_input));
+        m_trace.receivedHalf(m_input);
     }
     m_input.clear();
     m_output.clear();

@@ -38,6 +38,8 @@ public:
 
     /// Whether a client is connected.
     bool hasClient() const { return m_client != nullptr; }
+    /// The process id of the client that came last, be it still connected or not; 0 before the first one.
+    qint64 clientProcess() const { return m_clientProcess; }
     /// Closes the client's connection, unwritten bytes with it. Without a client: no effect.
     void drop();
 
@@ -75,6 +77,7 @@ private:
     QLocalSocket *m_client = nullptr;
     // The client's connection once more. A failed write has Qt close its own with the client's last words still unread.
     int m_spareDescriptor = -1;
+    qint64 m_clientProcess = 0;
     QByteArray m_input;
     // Read and not handled yet: what a line leads to may bring the next ones in.
     QList<QByteArray> m_lines;

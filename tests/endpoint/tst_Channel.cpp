@@ -1,7 +1,7 @@
 // What the call process's end of the socket makes of a client that goes.
 
-#include "callprocess/Channel.h"
-#include "callprocess/Trace.h"
+#include "endpoint/Channel.h"
+#include "endpoint/Trace.h"
 #include "fakes/Patience.h"
 
 #include <QFile>
@@ -71,6 +71,14 @@ private slots:
         closeClient();
         QTRY_COMPARE_WITH_TIMEOUT(order.size(), 2, cPatienceMs);
         QCOMPARE(order, (QStringList{QStringLiteral("last"), QStringLiteral("gone")}));
+    }
+
+    void clientsProcessIsKnownToItsSuccessor()
+    {
+        QCOMPARE(m_channel->clientProcess(), QCoreApplication::applicationPid());
+        closeClient();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_channel->hasClient(), cPatienceMs);
+        QCOMPARE(m_channel->clientProcess(), QCoreApplication::applicationPid());
     }
 
 private:

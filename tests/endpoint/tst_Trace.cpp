@@ -1,0 +1,51 @@
+#include "endpoint/Trace.h"
+
+#include <QtTest>
+
+class tst_Trace : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void printableKeepsOneLine_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("plain") << QByteArray("{\"a\":1}") << QStringLiteral("{\"a\":1}");
+        QTest::newRow("utf-8") << QByteArray("\xE5\x91\xBC") << QStringLiteral("呼");
+        QTest::newRow("line feed and NUL") << QByteArray("a\nb\0c", 5) << QStringLiteral("a␊b␀c");
+        QTest::newRow("no utf-8") << QByteArray("a\xFF\nb") << QStringLiteral("a\\xFF␊b");
+        QTest::newRow("half a character") << QByteArray("a\xE5\x91") << QStringLiteral("a\\xE5\\x91");
+        QTest::newRow("delete") << QByteArray("\x7F") << QStringLiteral("␡");
+    }
+
+    void printableKeepsOneLine()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, text);
+        QCOMPARE(Trace::printable(bytes), text);
+    }
+
+    void veilCoversWhatCameInAlone()
+    {
+        Trace trace;
+        QString error;
+        QVERIFY(trace.open(QStringLiteral("veiled.trace"), &error));
+        trace.setVeil([](const QByteArray &line) { return QByteArray(line).replace("secret", "..."); });
+        trace.received("a secret");
+        trace.receivedHalf("half a secret");
+        trace.sent("no secret\n");
+        QFile file(QStringLiteral("veiled.trace"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QStringList records;
+        for (const QByteArray &record : file.readAll().split('\n')) {
+            records << QString::fromUtf8(record.mid(record.indexOf(' ') + 1));
+        }
+        QCOMPARE(records, (QStringList{QStringLiteral("< a ..."), QStringLiteral("! line without an end: half a ..."),
+                                       QStringLiteral("> no secret"), QString()}));
+    }
+};
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Trace, Appless)
+#include "tst_Trace.moc"
