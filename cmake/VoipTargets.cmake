@@ -89,6 +89,24 @@ function(voip_library name)
   target_link_libraries(voip_${name} PUBLIC ${ARG_LINKS} Qt5::Core)
 endfunction()
 
+# voip_call_part(name SOURCES ... LINKS ...): the static library voip_name, known as Voip::name, of a program on the call process's
+# side of the wire: Qt's core and network, and no windows. Includes are written from apps/ ("endpoint/Trace.h"). The first one,
+# the endpoint, makes the precompiled header of all.
+function(voip_call_part name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(voip_${name} STATIC ${ARG_SOURCES})
+  add_library(Voip::${name} ALIAS voip_${name})
+  target_compile_options(voip_${name} PRIVATE ${VOIP_WARNINGS} ${VOIP_COMPILER})
+  target_compile_definitions(voip_${name} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
+  target_include_directories(voip_${name} PUBLIC ${PROJECT_SOURCE_DIR}/apps)
+  if(name STREQUAL "endpoint")
+    target_precompile_headers(voip_${name} PRIVATE <QtCore/QtCore> <QtNetwork/QtNetwork>)
+  else()
+    target_precompile_headers(voip_${name} REUSE_FROM voip_endpoint)
+  endif()
+  target_link_libraries(voip_${name} PUBLIC ${ARG_LINKS} Qt5::Core)
+endfunction()
+
 # moc for a test program, by itself: CMake's own search starts two processes and compiles one more file for each of them. A
 # source tst_X.cpp includes its tst_X.moc at its end; headers with a QObject are named among the program's sources.
 function(voip_moc target)

@@ -12,7 +12,7 @@ import sys
 # Where a path in a document may begin, beside the folder of the project and that of the document.
 BEGINNINGS = ("src", "tests", "apps", "apps/host", "apps/callprocess", "apps/callprocess/scenarios", "resources")
 # What is there only once something was built, installed or run; tests/packaging looks at it.
-MADE = re.compile(r"build(-\w+)?/|~/|/usr/|(bin|include|lib|share)/|Resources/|VoipSDK/|lib\w+\.(so|a)$|allurl\.ini$|data\.db$|.*localData\.db$")
+MADE = re.compile(r"build(-\w+)?/|~/|/(usr|etc|run|tmp)/|(bin|include|lib|share)/|Resources/|VoipSDK/|lib\w+\.(so|a)$|allurl\.ini$|data\.db$|.*localData\.db$")
 # Files of the reader's own.
 READERS = {"main.cpp", "CMakeLists.txt", "run.scn"}
 # Texts that look like paths: a key of the settings, the id of the interface.
@@ -30,6 +30,8 @@ TOLD = (
     ("apps/host/client/Languages.def", r"^LANGUAGE\((\w+),", "packaging/share/man/man1/kelvarim-gallery.1", r"\b{}\b"),
     ("apps/callprocess/Options.cpp", r'^constexpr OptionRow \w+ *\{"([\w-]+)"', "docs/wire-protocol.md", r"^\| `--{}[ `]"),
     ("src/wire/Notifications.def", r"^WIRE_NOTIFICATION\((\d+),", "bench/goals", r"callbackCode{}/"),
+    ("apps/endpoint/EndpointOptions.cpp", r'^constexpr OptionRow \w+ *\{"([\w-]+)"', "docs/wire-protocol.md", r"^\| `--{}[ `]"),
+    ("apps/calls/settings/CallsSettings.def", r'^CALLS_SETTING\(\w+, +\w+, +"\w+", +"([\w-]+)"', "docs/real-calls.md", r"^\| `\w+/{}` \| "),
     ("fuzz/FuzzTargets.h", r'^    \{"(\w+)", ', "docs/reliability.md", r"^\| `{}` \| "),
 )
 SOURCES = (".cpp", ".h", ".def", ".ui", ".cmake", ".txt", ".map", ".scn", ".py", ".ts", ".in", ".json", "")
@@ -117,9 +119,16 @@ def complaints_about_folders(root):
         yield f"architecture.md: the floors are {' '.join(told)}, those of src/CMakeLists.txt {' '.join(listed)}"
 
 
+def settings(root):
+    """Keys of calls.ini, which look like paths."""
+    row = re.compile(r'^CALLS_SETTING\(\w+, +\w+, +"(\w+)", +"([\w-]+)"', re.MULTILINE)
+    return {"/".join(key) for key in row.findall((root / "apps/calls/settings/CallsSettings.def").read_text())}
+
+
 def main():
     root = pathlib.Path(sys.argv[1]).resolve()
     words = words_of_the_code(root)
+    KEYS.update(settings(root))
     complaints = []
     reached = {document: links(document) for document in documents(root)}
     for document, targets in reached.items():
