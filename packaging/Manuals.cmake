@@ -6,10 +6,17 @@ install(
     share/doc/copyright
     ${PROJECT_SOURCE_DIR}/docs/call-process-kit.md
     ${PROJECT_SOURCE_DIR}/docs/host-contract.md
+    ${PROJECT_SOURCE_DIR}/docs/real-calls.md
     ${PROJECT_SOURCE_DIR}/docs/scenario-language.md
     ${PROJECT_SOURCE_DIR}/docs/server-addresses.md
     ${PROJECT_SOURCE_DIR}/docs/wire-protocol.md
   DESTINATION ${manuals})
+
+install(
+  FILES
+    ${PROJECT_SOURCE_DIR}/apps/calls/settings/calls.ini
+    ${PROJECT_BINARY_DIR}/apps/calls/exchange/kamailio.cfg
+  DESTINATION ${manuals}/examples)
 
 find_program(VOIP_GZIP gzip REQUIRED)
 # packed_file(file folder): installs the file into the folder, packed without name and time.
@@ -20,6 +27,7 @@ function(packed_file file folder)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.gz DESTINATION ${folder})
 endfunction()
 packed_file(share/doc/changelog ${manuals})
-foreach(program kelvarim-callcheck kelvarim-demo kelvarim-gallery VoipSDK)
+foreach(program kelvarim-callcheck kelvarim-demo kelvarim-exchange kelvarim-gallery VoipSDK)
   packed_file(share/man/man1/${program}.1 share/man/man1)
 endforeach()
+packed_file(share/man/man5/calls.ini.5 share/man/man5)

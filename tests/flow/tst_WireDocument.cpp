@@ -3,7 +3,7 @@
 
 #include "callcheck/PluginCommand.h"
 #include "callprocess/RobotTable.h"
-#include "callprocess/Wire.h"
+#include "endpoint/Wire.h"
 #include "engine/SdkLine.h"
 #include "fakes/EngineFixture.h"
 #include "fakes/QtMessages.h"

@@ -1,5 +1,6 @@
 #include "client/CallProcess.h"
 
+#include "calls/settings/CallKinds.h"
 #include "traffic/TraceFolder.h"
 
 #include <QCoreApplication>
@@ -10,6 +11,24 @@
 
 #include <csignal>
 
+namespace {
+
+/// The program that is started, and those beside it that it becomes. Without links, as the system tells them.
+QStringList programs()
+{
+    const QFileInfo front(QFileInfo(CallProcess::program()).canonicalFilePath());
+    QStringList found;
+    if (front.isFile()) {
+        found.append(front.filePath());
+        for (const QString &kind : QString::fromLatin1(CallKinds::cAll).split(QLatin1Char('|'))) {
+            found.append(front.path() + QLatin1Char('/') + QLatin1String(CallKinds::cPrefix) + kind);
+        }
+    }
+    return found;
+}
+
+} // namespace
+
 CallProcess::CallProcess(const QString &strTraceFile) : m_strTraceFile(strTraceFile) {}
 
 QString CallProcess::program()
@@ -19,7 +38,7 @@ QString CallProcess::program()
 
 QList<qint64> CallProcess::pids() const
 {
-    const QString wanted = QFileInfo(program()).canonicalFilePath();
+    const QStringList wanted = programs();
     const QByteArray mark = QByteArray(TraceFolder::cVariable) + '=' + QFile::encodeName(m_strTraceFile);
     const QByteArray folder = "TMPDIR=" + qgetenv("TMPDIR");
     QList<qint64> found;
@@ -28,7 +47,7 @@ QList<qint64> CallProcess::pids() const
         bool isPid = false;
         const qint64 pid = entry.toLongLong(&isPid);
         const QString place = QStringLiteral("/proc/") + entry;
-        if (!isPid || wanted.isEmpty() || QFile::symLinkTarget(place + QStringLiteral("/exe")) != wanted) {
+        if (!isPid || !wanted.contains(QFile::symLinkTarget(place + QStringLiteral("/exe")))) {
             continue;
         }
         QFile file(place + QStringLiteral("/environ"));

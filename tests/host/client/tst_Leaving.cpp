@@ -26,7 +26,7 @@ QList<qint64> callProcesses()
     const QStringList entries = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString &entry : entries) {
         const QString folder = QStringLiteral("/proc/") + entry;
-        if (QFile::symLinkTarget(folder + QStringLiteral("/exe")).endsWith(QStringLiteral("/VoipSDK")) &&
+        if (QFile::symLinkTarget(folder + QStringLiteral("/exe")).contains(QStringLiteral("/VoipSDK/Contents/")) &&
             bytesOf(folder + QStringLiteral("/environ")).split('\0').contains(mark)) {
             found << entry.toLongLong();
         }

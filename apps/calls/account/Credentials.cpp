@@ -1,0 +1,66 @@
+#include "calls/account/Credentials.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+constexpr int cPasswordLimit = 4096;
+constexpr qint64 cFileLimit = 1048576;
+
+Credentials checked(const Credentials &credentials, QString *fault)
+{
+    if (credentials.password.isEmpty()) {
+        *fault = QStringLiteral("no password");
+    } else if (credentials.password.size() > cPasswordLimit || credentials.name.size() > cPasswordLimit) {
+        *fault = QStringLiteral("a password beyond %1 characters").arg(cPasswordLimit);
+    }
+    return fault->isEmpty() ? credentials : Credentials();
+}
+
+} // namespace
+
+Credentials passwordCredentials(const QString &userId, const QString &registrationValue, QString *fault)
+{
+    fault->clear();
+    return checked({userId, registrationValue}, fault);
+}
+
+Credentials tokenCredentials(const QString &userId, const QString &registrationValue, QString *fault)
+{
+    fault->clear();
+    const QJsonObject token = QJsonDocument::fromJson(registrationValue.toUtf8()).object();
+    const QString name = token.value(QStringLiteral("username")).toString();
+    // The end of a token stands before its user: "1700000000:30010001".
+    if (name != userId && !name.endsWith(QLatin1Char(':') + userId)) {
+        *fault = name.isEmpty() ? QStringLiteral("the registration value is no token")
+                                : QStringLiteral("the token is made out to somebody else");
+        return {};
+    }
+    return checked({name, token.value(QStringLiteral("password")).toString()}, fault);
+}
+
+Credentials fileCredentials(const QString &userId, const QString &file, QString *fault)
+{
+    fault->clear();
+    QFile lines(file);
+    if (!lines.open(QIODevice::ReadOnly)) {
+        *fault = QStringLiteral("cannot read %1: %2").arg(file, lines.errorString());
+        return {};
+    }
+    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    if ((lines.permissions() & others) != 0) {
+        *fault = QStringLiteral("%1 is open to other users").arg(file);
+        return {};
+    }
+    const QList<QByteArray> rows = lines.read(cFileLimit).split('\n');
+    for (const QByteArray &row : rows) {
+        const QString text = QString::fromUtf8(row);
+        if (text.section(QLatin1Char(':'), 0, 0) == userId) {
+            return checked({userId, text.section(QLatin1Char(':'), 1).trimmed()}, fault);
+        }
+    }
+    *fault = QStringLiteral("%1 has no line of this user").arg(file);
+    return {};
+}

@@ -1,0 +1,24 @@
+#include "calls/agent/FarText.h"
+
+#include <algorithm>
+
+QString farText(const std::string &bytes, int limit)
+{
+    // A character has at most four bytes: no more than these can be within the limit.
+    const auto bounded = static_cast<int>(std::min(bytes.size(), static_cast<std::size_t>(limit) * 4));
+    QString text = QString::fromUtf8(bytes.data(), bounded).left(limit);
+    for (QChar &character : text) {
+        if (character.category() == QChar::Other_Control || character.category() == QChar::Separator_Line ||
+            character.category() == QChar::Separator_Paragraph) {
+            character = QLatin1Char(' ');
+        }
+    }
+    return text;
+}
+
+bool isUserId(const QString &id)
+{
+    return !id.isEmpty() && id.size() <= cUserIdLimit && std::none_of(id.begin(), id.end(), [](QChar character) {
+        return character.category() == QChar::Other_Control;
+    });
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+// What comes from the far end is text and no more: bounded, on one line. Any thread.
+
+#include <QString>
+
+#include <string>
+
+inline constexpr int cUserIdLimit = 128;
+inline constexpr int cRemarkLimit = 400;
+
+/// UTF-8 from the far end, control characters as blanks, cut at `limit` characters.
+QString farText(const std::string &bytes, int limit);
+
+/// Whether a user id from the plug-in or the far end can be one: not empty, within the limit, without control
+/// characters.
+bool isUserId(const QString &id);

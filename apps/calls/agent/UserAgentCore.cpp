@@ -1,0 +1,372 @@
+#include "calls/agent/UserAgentCore.h"
+
+#include "calls/agent/AgentCore.h"
+#include "calls/agent/FarText.h"
+#include "calls/agent/Guard.h"
+#include "calls/settings/CallsSettings.h"
+#include "calls/sound/SoundDevices.h"
+
+#include <unistd.h>
+#include <utility>
+
+namespace {
+
+constexpr int cIdleIterateMs = 20;
+constexpr int cBusyIterateMs = 4;
+constexpr int cHurryMs = 3000;
+constexpr int cStopSteps = 150;
+constexpr int cStopStepUs = 10000;
+
+// What the library says of a call that it ended for want of sound.
+constexpr int cStatusMediaLost = 503;
+constexpr int cStatusBusy = 486;
+constexpr int cStatusDeclined = 603;
+
+bool isOver(linphone::Call::State state)
+{
+    return state == linphone::Call::State::End || state == linphone::Call::State::Error ||
+           state == linphone::Call::State::Released;
+}
+
+bool isArrival(linphone::Call::State state)
+{
+    return state == linphone::Call::State::IncomingReceived || state == linphone::Call::State::PushIncomingReceived;
+}
+
+} // namespace
+
+template <class Action>
+void UserAgent::Core::guard(const Action &action)
+{
+    guarded(action, [this](const char *what) {
+        emit m_agent.remarked(QStringLiteral("the SIP library failed: %1").arg(farText(what, cRemarkLimit)));
+    });
+}
+
+UserAgent::Core::Core(UserAgent &agent, const CallsSettings &settings, const ExchangeAccess &access, QString folder)
+    : m_agent(agent), m_settings(settings), m_access(access), m_folder(std::move(folder)), m_tones(m_folder),
+      m_devices(settings)
+{
+    m_iterateTimer.setTimerType(Qt::PreciseTimer);
+    m_iterateTimer.setInterval(cIdleIterateMs);
+    QObject::connect(&m_iterateTimer, &QTimer::timeout, &m_agent, [this] { iterate(); });
+    m_nextServerTimer.setSingleShot(true);
+    m_nextServerTimer.setInterval(settings.retry * 1000);
+    QObject::connect(&m_nextServerTimer, &QTimer::timeout, &m_agent, [this] {
+        guard([this] { m_registration->tryNextServer(); });
+        hurry();
+    });
+}
+
+bool UserAgent::Core::start(QString *error)
+{
+    bool started = false;
+    guard([&] {
+        m_library = makeCore(m_settings, m_access, m_folder);
+        m_library->addListener(shared_from_this());
+        m_library->setRingback(m_tones.ringBack().toStdString());
+        started = m_library->start() == 0;
+        m_registration = std::make_unique<Registration>(*m_library, m_access, m_settings.expires);
+        refreshDevices();
+    });
+    if (!started) {
+        *error = QStringLiteral("the SIP library does not start");
+    } else {
+        m_iterateTimer.start();
+    }
+    return started;
+}
+
+void UserAgent::Core::stop()
+{
+    if (!m_library) {
+        return;
+    }
+    m_iterateTimer.stop();
+    m_nextServerTimer.stop();
+    guard([this] {
+        end();
+        const bool registered = m_registration->isRegistered();
+        m_registration->signOut();
+        // The exchange may be gone: what it does not answer is not waited for.
+        for (int i = 0; i < cStopSteps && (m_library->getCallsNb() > 0 || (registered && i < cStopSteps / 5)); ++i) {
+            m_library->iterate();
+            ::usleep(cStopStepUs);
+        }
+    });
+    guard([this] {
+        m_tones.stop();
+        m_library->removeListener(shared_from_this());
+        m_library->stop();
+    });
+    m_registration.reset();
+    m_library.reset();
+}
+
+void UserAgent::Core::takeExchange()
+{
+    guard([this] { verifyServers(*m_library, m_access); });
+}
+
+void UserAgent::Core::loseExchange()
+{
+    m_nextServerTimer.stop();
+    m_registration->forget();
+}
+
+void UserAgent::Core::signIn(const QString &userId, const QString &nickName, const Credentials &credentials)
+{
+    guard([&] { m_registration->signIn(userId, nickName, credentials); });
+    hurry();
+}
+
+void UserAgent::Core::signOut()
+{
+    m_nextServerTimer.stop();
+    guard([this] { m_registration->signOut(); });
+    hurry();
+}
+
+bool UserAgent::Core::place(const QString &userId)
+{
+    end();
+    guard([&] {
+        const auto address = m_registration->addressOf(userId);
+        refreshDevices();
+        m_placing = true;
+        m_mediaRan = false;
+        m_call = address ? m_library->inviteAddressWithParams(address, parameters(nullptr)) : nullptr;
+    });
+    m_placing = false;
+    hurry();
+    return m_call != nullptr;
+}
+
+void UserAgent::Core::accept()
+{
+    guard([this] {
+        if (m_call && isArrival(m_call->getState())) {
+            refreshDevices();
+            m_call->acceptWithParams(parameters(m_call));
+        }
+    });
+    hurry();
+}
+
+void UserAgent::Core::end()
+{
+    guard([this] {
+        m_tones.stop();
+        if (const auto call = std::exchange(m_call, nullptr)) {
+            if (isArrival(call->getState())) {
+                call->decline(linphone::Reason::Declined);
+            } else if (!isOver(call->getState())) {
+                call->terminate();
+            }
+        }
+    });
+    hurry();
+}
+
+void UserAgent::Core::refuse()
+{
+    guard([this] {
+        if (const auto call = std::exchange(m_call, nullptr)) {
+            call->decline(linphone::Reason::TemporarilyUnavailable);
+        }
+    });
+}
+
+void UserAgent::Core::applyLoudness()
+{
+    if (m_library) {
+        guard([this] { m_loudness.apply(*m_library, m_call.get()); });
+    }
+}
+
+std::shared_ptr<linphone::CallParams> UserAgent::Core::parameters(const std::shared_ptr<linphone::Call> &call)
+{
+    auto parameters = m_library->createCallParams(call);
+    parameters->enableVideo(false);
+    parameters->enableAudio(true);
+    return parameters;
+}
+
+void UserAgent::Core::refreshDevices()
+{
+    const QString chosen = m_devices.refresh(*m_library);
+    if (!chosen.isEmpty()) {
+        emit m_agent.remarked(chosen);
+    }
+}
+
+void UserAgent::Core::hurry()
+{
+    m_sinceHurry.start();
+    if (m_iterateTimer.isActive()) {
+        m_iterateTimer.start(cBusyIterateMs);
+    }
+}
+
+void UserAgent::Core::iterate()
+{
+    if (m_iterateTimer.interval() == cBusyIterateMs && m_sinceHurry.hasExpired(cHurryMs)) {
+        m_iterateTimer.start(cIdleIterateMs);
+    }
+    guard([this] { m_library->iterate(); });
+}
+
+void UserAgent::Core::onAccountRegistrationStateChanged(const std::shared_ptr<linphone::Core> & /*core*/,
+                                                        const std::shared_ptr<linphone::Account> &account,
+                                                        linphone::RegistrationState state, const std::string &message)
+{
+    guard([&] {
+        QString why;
+        switch (m_registration ? m_registration->take(account, state, message, &why) : Registration::Change::None) {
+        case Registration::Change::Registered:
+            m_nextServerTimer.stop();
+            emit m_agent.registered();
+            break;
+        case Registration::Change::Lost:
+            if (m_registration->mayTryNextServer()) {
+                m_nextServerTimer.start();
+            }
+            emit m_agent.registrationLost(why);
+            break;
+        case Registration::Change::None:
+            break;
+        }
+    });
+}
+
+void UserAgent::Core::onCallStateChanged(const std::shared_ptr<linphone::Core> & /*core*/,
+                                         const std::shared_ptr<linphone::Call> &call, linphone::Call::State state,
+                                         const std::string & /*message*/)
+{
+    guard([&] {
+        hurry();
+        if (m_call && call == m_call) {
+            takeOwn(state);
+        } else {
+            takeStranger(call, state);
+        }
+    });
+}
+
+void UserAgent::Core::takeStranger(const std::shared_ptr<linphone::Call> &call, linphone::Call::State state)
+{
+    if (isArrival(state)) {
+        takeArrival(call);
+    } else if (state == linphone::Call::State::OutgoingInit && !m_placing) {
+        // The far end may ask the library to call somebody else.
+        call->terminate();
+        emit m_agent.remarked(QStringLiteral("a call that nobody here has placed was ended"));
+    }
+}
+
+void UserAgent::Core::takeArrival(const std::shared_ptr<linphone::Call> &call)
+{
+    const auto address = call->getRemoteAddress();
+    const QString userId = farText(address->getUsername(), cUserIdLimit + 1);
+    const auto remote = call->getRemoteParams();
+    if (m_call && !isOver(m_call->getState())) {
+        call->decline(linphone::Reason::Busy);
+    } else if (!isUserId(userId) || address->getDomain() != m_access.domain.toStdString()) {
+        // Another domain's user would read as the user of the same name here.
+        call->decline(linphone::Reason::Forbidden);
+        emit m_agent.remarked(QStringLiteral("refused a call from %1: not of this exchange")
+                                  .arg(farText(address->asStringUriOnly(), cRemarkLimit)));
+    } else if (remote && !remote->getCustomHeader("X-Conference").empty()) {
+        call->decline(linphone::Reason::NotImplemented);
+    } else {
+        m_tones.stop();
+        m_call = call;
+        m_mediaRan = false;
+        emit m_agent.callArrived(userId);
+    }
+}
+
+void UserAgent::Core::takeOwn(linphone::Call::State state)
+{
+    switch (state) {
+    case linphone::Call::State::OutgoingRinging:
+    case linphone::Call::State::OutgoingEarlyMedia:
+        emit m_agent.ringsThere();
+        break;
+    case linphone::Call::State::StreamsRunning:
+        takeRunningStreams();
+        break;
+    case linphone::Call::State::End:
+    case linphone::Call::State::Error:
+    case linphone::Call::State::Released:
+        takeEnd();
+        break;
+    default:
+        break;
+    }
+}
+
+void UserAgent::Core::takeRunningStreams()
+{
+    m_loudness.apply(*m_library, m_call.get());
+    const bool encrypted = m_call->getCurrentParams()->getMediaEncryption() != linphone::MediaEncryption::None;
+    // Keys that the two ends agree on between themselves come after the streams.
+    if (encrypted && !m_mediaRan) {
+        m_mediaRan = true;
+        emit m_agent.mediaRuns();
+    }
+}
+
+void UserAgent::Core::takeEnd()
+{
+    const auto call = std::exchange(m_call, nullptr);
+    CallEnd end;
+    if (const auto error = call->getErrorInfo()) {
+        end.status = error->getProtocolCode();
+        end.why = farText(error->getPhrase(), cRemarkLimit);
+        end.mediaLost = m_mediaRan && end.status == cStatusMediaLost;
+    }
+    playEnd(end, call->getDir() == linphone::Call::Dir::Outgoing);
+    emit m_agent.callEnded(end);
+}
+
+void UserAgent::Core::playEnd(const CallEnd &end, bool placedHere)
+{
+    if (end.mediaLost) {
+        m_tones.playFailed(*m_library);
+    } else if (placedHere && !m_mediaRan) {
+        const bool busy = end.status == cStatusBusy || end.status == cStatusDeclined;
+        busy ? m_tones.playBusy(*m_library) : m_tones.playFailed(*m_library);
+    }
+}
+
+void UserAgent::Core::onCallEncryptionChanged(const std::shared_ptr<linphone::Core> & /*core*/,
+                                              const std::shared_ptr<linphone::Call> &call, bool encrypted,
+                                              const std::string & /*token*/)
+{
+    guard([&] {
+        if (encrypted && m_call && call == m_call && call->getState() == linphone::Call::State::StreamsRunning) {
+            takeRunningStreams();
+        }
+    });
+}
+
+void UserAgent::Core::onCallLogUpdated(const std::shared_ptr<linphone::Core> & /*core*/,
+                                       const std::shared_ptr<linphone::CallLog> &log)
+{
+    guard([&] {
+        // The library refuses on its own what it cannot agree with, and a call that nobody hears of has an entry alone.
+        if (log->getStatus() == linphone::Call::Status::EarlyAborted &&
+            log->getDir() == linphone::Call::Dir::Incoming) {
+            const auto error = log->getErrorInfo();
+            emit m_agent.remarked(QStringLiteral("refused a call from %1: no common encryption or codec (%2)")
+                                      .arg(farText(log->getFromAddress()->getUsername(), cUserIdLimit))
+                                      .arg(error ? error->getProtocolCode() : 0));
+        }
+    });
+}
+
+void UserAgent::Core::onAudioDevicesListUpdated(const std::shared_ptr<linphone::Core> & /*core*/)
+{
+    guard([this] { refreshDevices(); });
+}

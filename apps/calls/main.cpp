@@ -1,0 +1,175 @@
+// Starts the call process for calls between people: reads what it is set to, steps back when another one lives, and
+// serves its client until it is told to quit. Without a server it is one of those who share this user's own exchange.
+
+#include "calls/CallsOptions.h"
+#include "calls/agent/UserAgent.h"
+#include "calls/desk/Desk.h"
+#include "calls/exchange/EmbeddedExchange.h"
+#include "calls/settings/CallsSettings.h"
+
+#include "endpoint/Channel.h"
+#include "endpoint/ProcessFrame.h"
+#include "endpoint/Streams.h"
+#include "endpoint/Trace.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSocketNotifier>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <cstdio>
+#include <sys/prctl.h>
+#include <sys/signalfd.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr const char *cProgram = "kelvarim-calls";
+
+bool readSettings(const CallsOptions &options, CallsSettings *settings, QString *error)
+{
+    // The client's, as the front takes it.
+    const std::string folder =
+        QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1String("/../../..")).toStdString();
+    const auto files = options.settings.isEmpty() ? CallsSettings::files(folder)
+                                                  : std::vector<std::string>{options.settings.toStdString()};
+    std::string fault;
+    const bool read = settings->read(files, &fault);
+    *error = QString::fromStdString(fault);
+    return read;
+}
+
+ExchangeAccess accessOf(const CallsSettings &settings)
+{
+    ExchangeAccess access;
+    for (const CallsServer &server : settings.servers) {
+        const QString host = QString::fromStdString(server.host);
+        const QString written = host.contains(QLatin1Char(':')) ? QStringLiteral("[%1]").arg(host) : host;
+        access.servers << QStringLiteral("sip:%1:%2;transport=tls").arg(written).arg(server.port);
+    }
+    access.caFile = QString::fromStdString(settings.caFile);
+    access.domain = QString::fromStdString(
+        settings.domain.empty() && !settings.servers.empty() ? settings.servers.front().host : settings.domain);
+    const QString secretFile = QString::fromStdString(settings.secretFile);
+    if (settings.secret == "token") {
+        access.credentials = tokenCredentials;
+    } else if (settings.secret == "file") {
+        access.credentials = [secretFile](const QString &userId, const QString & /*value*/, QString *fault) {
+            return fileCredentials(userId, secretFile, fault);
+        };
+    } else {
+        access.credentials = passwordCredentials;
+    }
+    return access;
+}
+
+/// Where no server is set, `access` follows the exchange of this user's own, wherever it is, and the desk is told.
+void follow(EmbeddedExchange &exchange, ExchangeAccess &access, Desk &desk)
+{
+    access.credentials = [&exchange](const QString &userId, const QString & /*value*/, QString *fault) {
+        fault->clear();
+        return Credentials{userId, exchange.place().passwordOf(userId)};
+    };
+    QObject::connect(&exchange, &EmbeddedExchange::ready, &desk, [&] {
+        access.servers = QStringList{exchange.place().proxy};
+        access.caFile = exchange.place().caFile;
+        access.domain = exchange.place().domain;
+        desk.takeExchange();
+    });
+    QObject::connect(&exchange, &EmbeddedExchange::lost, &desk, [&] {
+        access.servers.clear();
+        desk.loseExchange(QStringLiteral("the exchange has gone"));
+    });
+    QObject::connect(&exchange, &EmbeddedExchange::failed, &desk, &Desk::loseExchange);
+    exchange.join();
+}
+
+/// The event loop ends when the process is asked to. The signals must have been blocked.
+void obeySignals(const sigset_t &stopSignals)
+{
+    const int descriptor = ::signalfd(-1, &stopSignals, SFD_CLOEXEC | SFD_NONBLOCK);
+    auto *notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, qApp);
+    QObject::connect(notifier, &QSocketNotifier::activated, qApp, [notifier] {
+        notifier->setEnabled(false);
+        QCoreApplication::exit(0);
+    });
+}
+
+int serve(const CallsSettings &settings, Channel &channel, Trace &trace)
+{
+    EmbeddedExchange exchange(QString::fromStdString(settings.exchangeFolder),
+                              QString::fromStdString(settings.exchangeProgram),
+                              QCoreApplication::applicationDirPath() + QLatin1String("/kelvarim-exchange"));
+    ExchangeAccess access = accessOf(settings);
+    const QTemporaryDir folder;
+    UserAgent agent(settings, access, folder.path());
+    Desk desk(channel, trace, agent, access);
+    QString error;
+    if (!agent.start(&error)) {
+        trace.complaint(error);
+        return cExitCannotListen;
+    }
+    QObject::connect(&channel, &Channel::lineReceived, &desk, [&](const QByteArray &line) {
+        if (line == Wire::cQuitLine) {
+            trace.event(QStringLiteral("quit"));
+            QCoreApplication::exit(0);
+        } else {
+            desk.handleLine(line);
+        }
+    });
+    if (settings.servers.empty()) {
+        follow(exchange, access, desk);
+    }
+    const int exitCode = QCoreApplication::exec();
+    channel.stopListening();
+    agent.stop();
+    return exitCode;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    std::signal(SIGPIPE, SIG_IGN);
+    // The front has put this program in its place and handed its name on: who looks for the call process looks for
+    // that.
+    ::prctl(PR_SET_NAME, qPrintable(QFileInfo(QFile::decodeName(argv[0])).fileName()));
+    // Before any thread: each inherits it.
+    sigset_t stopSignals;
+    sigemptyset(&stopSignals);
+    sigaddset(&stopSignals, SIGTERM);
+    sigaddset(&stopSignals, SIGINT);
+    ::sigprocmask(SIG_BLOCK, &stopSignals, nullptr);
+    ::umask(S_IRWXG | S_IRWXO);
+    const QCoreApplication application(argc, argv);
+    CallsOptions options;
+    QString error;
+    if (!options.read(QCoreApplication::arguments(), &error)) {
+        return complain(cExitBadInput, cProgram, error);
+    }
+    if (options.help) {
+        std::fputs(qPrintable(CallsOptions::helpText()), stdout);
+        return 0;
+    }
+    CallsSettings settings;
+    if (!readSettings(options, &settings, &error)) {
+        return complain(cExitBadInput, cProgram, error);
+    }
+    Trace trace;
+    trace.setVeil(&Desk::withoutSecret);
+    if (!trace.open(options.trace, &error)) {
+        return complain(cExitBadInput, cProgram, error);
+    }
+    trace.event(QStringLiteral("started, process %1").arg(QCoreApplication::applicationPid()));
+    Channel channel(options.socketName, trace);
+    if (const std::optional<int> exitCode = exitCodeUnlessListening(cProgram, channel, trace)) {
+        return *exitCode;
+    }
+    letGoOfStreams(trace.isOnStandardError());
+    obeySignals(stopSignals);
+    endWhenIdle(channel, trace, options.idleSeconds);
+    return serve(settings, channel, trace);
+}

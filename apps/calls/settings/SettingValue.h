@@ -1,0 +1,21 @@
+#pragma once
+
+// How a value of calls.ini is read into what its type keeps.
+
+#include "calls/settings/CallsSettings.h"
+
+#include <string>
+#include <vector>
+
+/// The parts of the text between any of these separators, without the empty ones.
+std::vector<std::string> parts(const std::string &text, const char *separators);
+
+// Each gives what is wrong with the text, in words, or nothing and the value.
+std::string readChoice(const std::string &text, const CallsSettings::Row &row, CallsSettings::Choice *value);
+std::string readChoices(const std::string &text, const CallsSettings::Row &row, CallsSettings::Choices *value);
+std::string readFlag(const std::string &text, const CallsSettings::Row &row, CallsSettings::Flag *value);
+std::string readNumber(const std::string &text, const CallsSettings::Row &row, CallsSettings::Number *value);
+std::string readPath(const std::string &text, const CallsSettings::Row &row, CallsSettings::Path *value);
+std::string readPorts(const std::string &text, const CallsSettings::Row &row, CallsSettings::Ports *value);
+std::string readServers(const std::string &text, const CallsSettings::Row &row, CallsSettings::Servers *value);
+std::string readText(const std::string &text, const CallsSettings::Row &row, CallsSettings::Text *value);

@@ -1,0 +1,92 @@
+#include "calls/Person.h"
+
+#include "calls/SoundBox.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QProcessEnvironment>
+
+Person::Person(const TestExchange &exchange, QString id) : m_id(std::move(id))
+{
+    set(QStringLiteral("exchange/servers"), QStringLiteral("%1:%2").arg(TestExchange::host()).arg(exchange.port()));
+    set(QStringLiteral("exchange/domain"), TestExchange::domain());
+    set(QStringLiteral("exchange/ca-file"), exchange.caFile());
+    setSound();
+}
+
+Person::Person(const QString &exchangeFolder, QString id) : m_id(std::move(id)), m_byFront(true)
+{
+    m_peer.setProgram(QStringLiteral(VOIP_FRONT));
+    set(QStringLiteral("process/kind"), QStringLiteral("calls"));
+    set(QStringLiteral("exchange/folder"), exchangeFolder);
+    setSound();
+}
+
+void Person::setSound()
+{
+    m_peer.setSocketName(QStringLiteral("VoipSDK-") + m_id);
+    set(QStringLiteral("sound/microphone"), SoundBox::microphoneOf(m_id));
+    set(QStringLiteral("sound/speaker"), SoundBox::speakerOf(m_id));
+    // A pure tone is what it takes away.
+    set(QStringLiteral("sound/echo-cancelling"), QStringLiteral("no"));
+    set(QStringLiteral("sound/noise-handling"), QStringLiteral("no"));
+}
+
+bool Person::start()
+{
+    QFile file(m_id + QStringLiteral(".ini"));
+    if (!file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    for (auto setting = m_settings.cbegin(); setting != m_settings.cend(); ++setting) {
+        const QStringList name = setting.key().split(QLatin1Char('/'));
+        file.write(QStringLiteral("[%1]\n%2 = %3\n").arg(name.at(0), name.at(1), setting.value()).toUtf8());
+    }
+    file.close();
+    QStringList options{QStringLiteral("--socket-name"), m_peer.socketName()};
+    if (m_byFront) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(QStringLiteral("VOIPSDK_KIND"));
+        environment.remove(QStringLiteral("VOIPSDK_EXCHANGE_FOLDER"));
+        environment.insert(QStringLiteral("VOIPSDK_CALLS_INI"), QFileInfo(file).absoluteFilePath());
+        m_peer.process().setProcessEnvironment(environment);
+    } else {
+        options << QStringLiteral("--settings") << file.fileName();
+    }
+    m_peer.start(options);
+    return m_peer.connectClient();
+}
+
+bool Person::arrive()
+{
+    if (!start()) {
+        return false;
+    }
+    signIn(TestExchange::secretOf(m_id));
+    return hears() == QLatin1String("17 true");
+}
+
+void Person::signIn(const QString &registrationValue)
+{
+    say("RegeditUser", {m_id, QStringLiteral("Nick"), registrationValue, false});
+}
+
+bool Person::reaches(Person &other)
+{
+    call(other);
+    if (other.hears() != QStringLiteral("0 ") + m_id) {
+        return false;
+    }
+    other.say("AcceptCall");
+    return other.hears() == QLatin1String("18") && hears() == QLatin1String("18");
+}
+
+QString Person::hears()
+{
+    const QString remark = QStringLiteral("999 ");
+    QString notification = m_peer.nextNotification();
+    for (; notification.startsWith(remark); notification = m_peer.nextNotification()) {
+        m_remarks << notification.mid(remark.size());
+    }
+    return notification;
+}

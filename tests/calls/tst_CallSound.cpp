@@ -1,0 +1,182 @@
+// What is heard: each person's microphone gives a tone of its own, and what the loudspeakers get is measured.
+
+#include "calls/CallsTest.h"
+
+class tst_CallSound : public CallsTest
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_caller = std::make_unique<Person>(m_exchange, QStringLiteral("100"));
+        m_called = std::make_unique<Person>(m_exchange, QStringLiteral("200"));
+        QVERIFY(m_sound.speak(m_caller->id(), cCallersHz) && m_sound.speak(m_called->id(), cCalledsHz));
+        QVERIFY(m_sound.listen(m_caller->id()) && m_sound.listen(m_called->id()));
+        QVERIFY(m_caller->arrive() && m_called->arrive());
+    }
+
+    void cleanup()
+    {
+        m_caller.reset();
+        m_called.reset();
+    }
+
+    void eachHearsTheOtherAndNotHimself()
+    {
+        QVERIFY(connectCall(*m_caller, *m_called));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_called, cCallersHz), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_caller, cCalledsHz), cPatienceMs);
+        QVERIFY(m_sound.heard(m_caller->id(), cCallersHz) < cSilence);
+        QVERIFY(m_sound.heard(m_called->id(), cCalledsHz) < cSilence);
+        m_caller->say("HangUpCall");
+        QCOMPARE(m_called->hears(), QStringLiteral("8"));
+        QTRY_VERIFY_WITH_TIMEOUT(isSilent(*m_called, cCallersHz), cPatienceMs);
+    }
+
+    void switchesAndVolumesAreHeard_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QJsonValue>("value");
+        QTest::addColumn<QJsonValue>("back");
+        QTest::addColumn<bool>("byCaller");
+        QTest::addColumn<double>("part"); // of the tone that is left
+        const auto row = [](const char *name, const char *command, const QJsonValue &value, const QJsonValue &back,
+                            bool byCaller, double part) {
+            QTest::newRow(name) << QString::fromLatin1(command) << value << back << byCaller << part;
+        };
+        row("microphone off", "SetMicEnable", false, true, true, 0);
+        row("microphone at 7", "SetMicVolume", 7, 10, true, 0.355);
+        row("microphone at 4", "SetMicVolume", 4, 10, true, 0.126);
+        row("microphone at 0", "SetMicVolume", 0, 10, true, 0);
+        row("speaker off", "SetSpeakerEnble", false, true, false, 0);
+        row("speaker at 7", "SetSpeakerVolume", 7, 10, false, 0.355);
+        row("speaker at 0", "SetSpeakerVolume", 0, 10, false, 0);
+        row("speaker beyond", "SetSpeakerVolume", 11, 10, false, 1);
+    }
+
+    void switchesAndVolumesAreHeard()
+    {
+        QFETCH(QString, command);
+        QFETCH(QJsonValue, value);
+        QFETCH(QJsonValue, back);
+        QFETCH(bool, byCaller);
+        QFETCH(double, part);
+        QVERIFY(connectCall(*m_caller, *m_called));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_called, cCallersHz), cPatienceMs);
+        Person &person = byCaller ? *m_caller : *m_called;
+        person.peer().command(command, {value});
+        const double expected = part * cFull;
+        const auto follows = [&](double level) {
+            const double heard = m_sound.heard(m_called->id(), cCallersHz);
+            return std::abs(heard - level) < std::max(0.15 * level, cSilence);
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(follows(expected), cPatienceMs);
+        person.peer().command(command, {back});
+        QTRY_VERIFY_WITH_TIMEOUT(follows(cFull), cPatienceMs);
+    }
+
+    void switchBeforeTheCallHoldsInIt()
+    {
+        m_caller->say("SetMicEnable", {false});
+        m_called->say("SetSpeakerVolume", {4});
+        QVERIFY(connectCall(*m_caller, *m_called));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_caller, cCalledsHz), cPatienceMs);
+        QVERIFY(m_sound.heard(m_called->id(), cCallersHz) < cSilence);
+        m_caller->say("SetMicEnable", {true});
+        QTRY_VERIFY_WITH_TIMEOUT(std::abs(m_sound.heard(m_called->id(), cCallersHz) - 0.126 * cFull) < 0.03 * cFull,
+                                 cPatienceMs);
+    }
+
+    void speechPassesWhatIsOnByDefault()
+    {
+        m_caller = std::make_unique<Person>(m_exchange, QStringLiteral("300"));
+        m_caller->set(QStringLiteral("sound/echo-cancelling"), QStringLiteral("yes"));
+        m_caller->set(QStringLiteral("sound/noise-handling"), QStringLiteral("yes"));
+        QVERIFY(m_sound.speak(m_caller->id(), cCallersHz, true));
+        QVERIFY(m_caller->arrive());
+        QVERIFY(connectCall(*m_caller, *m_called));
+        QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_called->id(), cCallersHz, 0.2) > cLoud, cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_called->id(), cCallersHz, 0.2) < cSilence, cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_called->id(), cCallersHz, 0.2) > cLoud, cPatienceMs);
+    }
+
+    void eachCallGoesWhereTheDesktopHasChosen()
+    {
+        QVERIFY(m_sound.chooseSpeaker(m_called->id()));
+        m_caller = std::make_unique<Person>(m_exchange, QStringLiteral("300"));
+        m_caller->set(QStringLiteral("sound/speaker"), QString());
+        QVERIFY(m_sound.listen(m_caller->id()));
+        QVERIFY(m_caller->arrive());
+        QVERIFY(connectCall(*m_caller, *m_called));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_called, cCalledsHz), cPatienceMs);
+        QVERIFY(m_sound.chooseSpeaker(m_caller->id()));
+        m_caller->say("HangUpCall");
+        QCOMPARE(m_called->hears(), QStringLiteral("8"));
+        QVERIFY(connectCall(*m_caller, *m_called));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_caller, cCalledsHz), cPatienceMs);
+        QVERIFY(isSilent(*m_called, cCalledsHz));
+    }
+
+    void lostLoudspeakerEndsNoCall()
+    {
+        QVERIFY(connectCall(*m_caller, *m_called));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_caller, cCalledsHz), cPatienceMs);
+        QVERIFY(m_sound.takeSpeaker(m_caller->id()));
+        // The sound server moves the sound to what there is: the called one's loudspeaker gets both.
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_called, cCallersHz), cPatienceMs);
+        QVERIFY(m_sound.giveSpeaker(m_caller->id()));
+        QVERIFY(m_sound.listen(m_caller->id()));
+        m_called->say("HangUpCall");
+        QCOMPARE(m_caller->hears(), QStringLiteral("8"));
+        // The next call finds the loudspeaker that has come back.
+        QVERIFY(connectCall(*m_caller, *m_called));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_caller, cCalledsHz), cPatienceMs);
+    }
+
+    void callerHearsItRing()
+    {
+        m_caller->call(*m_called);
+        QCOMPARE(m_called->hears(), QStringLiteral("0 100"));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_caller, cToneHz), cPatienceMs);
+        m_called->say("AcceptCall");
+        QCOMPARE(m_caller->hears(), QStringLiteral("18"));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_caller, cCalledsHz) && isSilent(*m_caller, cToneHz), cPatienceMs);
+    }
+
+    void callerHearsHowItEnded_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QString>("word");
+        QTest::newRow("busy") << QStringLiteral("100") << QStringLiteral("22");
+        QTest::newRow("nobody") << QStringLiteral("nobody") << QStringLiteral("23");
+    }
+
+    void callerHearsHowItEnded()
+    {
+        QFETCH(QString, id);
+        QFETCH(QString, word);
+        m_caller->say("CallUser", {id, false});
+        QCOMPARE(m_caller->hears(), word);
+        QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_caller->id(), cToneHz, 0.1) > cLoud, cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_caller->id(), cToneHz, 1) < cSilence, cPatienceMs);
+    }
+
+private:
+    static constexpr int cCallersHz = 440;
+    static constexpr int cCalledsHz = 660;
+    static constexpr int cToneHz = 425;
+    static constexpr double cFull = 6000;
+    static constexpr double cLoud = 2000;
+    static constexpr double cSilence = 120;
+
+    bool isLoud(const Person &person, int hertz) const { return m_sound.heard(person.id(), hertz) > cLoud; }
+    bool isSilent(const Person &person, int hertz) const { return m_sound.heard(person.id(), hertz) < cSilence; }
+
+    std::unique_ptr<Person> m_caller;
+    std::unique_ptr<Person> m_called;
+};
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_CallSound, Guiless)
+#include "tst_CallSound.moc"

@@ -1,0 +1,35 @@
+#include "calls/agent/FarText.h"
+
+#include <QtTest>
+
+class tst_FarText : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void textIsBoundedAndOnOneLine()
+    {
+        QCOMPARE(farText("a\r\nb\tc\x01", 10), QStringLiteral("a  b c "));
+        QCOMPARE(farText("\xE6\x9D\x8E\xE9\x9B\xB7", 1), QStringLiteral("李"));
+        QCOMPARE(farText(std::string(1000000, 'x'), 5), QStringLiteral("xxxxx"));
+        QCOMPARE(farText("\xFF", 5), QString(QChar(QChar::ReplacementCharacter)));
+        QCOMPARE(farText("a\xE2\x80\xA8"
+                         "b",
+                         5),
+                 QStringLiteral("a b"));
+    }
+
+    void userIdIsShortAndPlain()
+    {
+        QVERIFY(isUserId(QStringLiteral("30010001")));
+        QVERIFY(isUserId(QStringLiteral("李雷")));
+        QVERIFY(isUserId(QString(128, QLatin1Char('x'))));
+        QVERIFY(!isUserId(QString(129, QLatin1Char('x'))));
+        QVERIFY(!isUserId(QString()));
+        QVERIFY(!isUserId(QStringLiteral("a\nb")));
+    }
+};
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_FarText, Appless)
+#include "tst_FarText.moc"

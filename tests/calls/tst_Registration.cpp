@@ -1,0 +1,145 @@
+// Signing in at an exchange: what the plug-in hears of it, and what becomes of the user before.
+
+#include "calls/CallsTest.h"
+
+class tst_Registration : public CallsTest
+{
+    Q_OBJECT
+
+private slots:
+    void signInIsAnsweredEachTime()
+    {
+        Person person(m_exchange, QStringLiteral("100"));
+        QVERIFY(person.arrive());
+        person.signIn(TestExchange::secretOf(person.id()));
+        QCOMPARE(person.hears(), QStringLiteral("17 true"));
+        QVERIFY(person.remarks().contains(QStringLiteral("registered 100")));
+    }
+
+    void wrongSecretIsRefused()
+    {
+        Person person(m_exchange, QStringLiteral("100"));
+        QVERIFY(person.start());
+        person.signIn(QStringLiteral("wrong"));
+        QCOMPARE(person.hears(), QStringLiteral("17 false"));
+        person.call(person);
+        QCOMPARE(person.hears(), QStringLiteral("19"));
+        person.signIn(TestExchange::secretOf(person.id()));
+        QCOMPARE(person.hears(), QStringLiteral("17 true"));
+    }
+
+    void secretThatIsNoneIsRefused_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QString>("value");
+        QTest::newRow("no user") << QString() << QStringLiteral("secret");
+        QTest::newRow("no secret") << QStringLiteral("100") << QString();
+    }
+
+    void secretThatIsNoneIsRefused()
+    {
+        QFETCH(QString, id);
+        QFETCH(QString, value);
+        Person person(m_exchange, QStringLiteral("100"));
+        QVERIFY(person.start());
+        person.say("RegeditUser", {id, QStringLiteral("Nick"), value, false});
+        QCOMPARE(person.hears(), QStringLiteral("17 false"));
+    }
+
+    void serverWithACertificateOfSomebodyElseIsNotSpokenTo()
+    {
+        TestExchange other;
+        QVERIFY(other.start());
+        Person person(m_exchange, QStringLiteral("100"));
+        person.set(QStringLiteral("exchange/ca-file"), other.caFile());
+        QVERIFY(person.start());
+        person.signIn(TestExchange::secretOf(person.id()));
+        QCOMPARE(person.hears(), QStringLiteral("17 false"));
+    }
+
+    void serverWithACertificateOfAnotherNameIsNotSpokenTo()
+    {
+        Person person(m_exchange, QStringLiteral("100"));
+        person.set(QStringLiteral("exchange/servers"), QStringLiteral("127.0.0.1:%1").arg(m_exchange.port()));
+        QVERIFY(person.start());
+        person.signIn(TestExchange::secretOf(person.id()));
+        QCOMPARE(person.hears(), QStringLiteral("17 false"));
+    }
+
+    void anotherUserTakesTheFirstOnesPlace()
+    {
+        Person person(m_exchange, QStringLiteral("100"));
+        Person caller(m_exchange, QStringLiteral("300"));
+        QVERIFY(person.arrive() && caller.arrive());
+        person.say("RegeditUser", {QStringLiteral("200"), QStringLiteral("Other"),
+                                   TestExchange::secretOf(QStringLiteral("200")), false});
+        QCOMPARE(person.hears(), QStringLiteral("17 true"));
+        caller.say("CallUser", {QStringLiteral("200"), false});
+        QCOMPARE(person.hears(), QStringLiteral("0 300"));
+        person.say("RejectCall");
+        QCOMPARE(caller.hears(), QStringLiteral("10"));
+        // The registration of the first is taken back meanwhile.
+        const auto isGone = [&] {
+            caller.say("CallUser", {QStringLiteral("100"), false});
+            return caller.hears() == QLatin1String("23");
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(isGone(), cPatienceMs);
+    }
+
+    void whoUnregistersCannotBeReached()
+    {
+        Person person(m_exchange, QStringLiteral("100"));
+        Person caller(m_exchange, QStringLiteral("300"));
+        QVERIFY(person.arrive() && caller.arrive());
+        person.say("UnReg", {person.id()});
+        const auto isGone = [&] {
+            caller.call(person);
+            return caller.hears() == QLatin1String("23");
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(isGone(), cPatienceMs);
+        person.call(caller);
+        QCOMPARE(person.hears(), QStringLiteral("19"));
+    }
+
+    void quitTakesTheRegistrationBack()
+    {
+        Person caller(m_exchange, QStringLiteral("300"));
+        QVERIFY(caller.arrive());
+        Person person(m_exchange, QStringLiteral("100"));
+        QVERIFY(person.arrive());
+        person.peer().write("quit\n");
+        QCOMPARE(person.peer().exitCode(), 0);
+        caller.call(person);
+        QCOMPARE(caller.hears(), QStringLiteral("23"));
+    }
+
+    void lostExchangeIsToldAndFoundAgain()
+    {
+        TestExchange exchange;
+        QVERIFY(exchange.start());
+        Person person(exchange, QStringLiteral("100"));
+        QVERIFY(person.arrive());
+        QVERIFY(exchange.kill());
+        QCOMPARE(person.hears(), QStringLiteral("17 false"));
+        person.call(person);
+        QCOMPARE(person.hears(), QStringLiteral("19"));
+        QVERIFY(exchange.start());
+        QCOMPARE(person.hears(), QStringLiteral("17 true"));
+    }
+
+    void nextServerIsTakenWhereOneDoesNotAnswer()
+    {
+        TestExchange gone;
+        Person person(m_exchange, QStringLiteral("100"));
+        person.set(QStringLiteral("exchange/servers"),
+                   QStringLiteral("localhost:%1, localhost:%2").arg(gone.port()).arg(m_exchange.port()));
+        QVERIFY(person.start());
+        person.signIn(TestExchange::secretOf(person.id()));
+        QCOMPARE(person.hears(), QStringLiteral("17 false"));
+        QCOMPARE(person.hears(), QStringLiteral("17 true"));
+    }
+};
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_Registration, Guiless)
+#include "tst_Registration.moc"
