@@ -109,6 +109,12 @@ QString CallProcess::nextNotification()
     return (code + QLatin1Char(' ') + object.value(QStringLiteral("content")).toString()).trimmed();
 }
 
+bool CallProcess::isNotified()
+{
+    m_input += m_client->readAll();
+    return m_input.contains('\n');
+}
+
 bool CallProcess::waitDisconnected()
 {
     return m_client->state() == QLocalSocket::UnconnectedState || m_client->waitForDisconnected(cWaitMs);

@@ -52,6 +52,8 @@ public:
     QByteArray nextRead();
     /// The next line as "code content", empty when none comes.
     QString nextNotification();
+    /// Whether the next one has come already.
+    bool isNotified();
     /// Whether the child closes the connection.
     bool waitDisconnected();
     /// The child's exit code, -1 when it does not end.

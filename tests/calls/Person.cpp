@@ -83,10 +83,36 @@ bool Person::reaches(Person &other)
 
 QString Person::hears()
 {
-    const QString remark = QStringLiteral("999 ");
     QString notification = m_peer.nextNotification();
-    for (; notification.startsWith(remark); notification = m_peer.nextNotification()) {
-        m_remarks << notification.mid(remark.size());
+    while (isRemark(notification)) {
+        notification = m_peer.nextNotification();
     }
     return notification;
+}
+
+QString Person::hasHeard()
+{
+    QString notification;
+    while (m_peer.isNotified() && isRemark(notification = m_peer.nextNotification())) {
+    }
+    return isRemark(notification) ? QString() : notification;
+}
+
+bool Person::isRemark(const QString &notification)
+{
+    const QString remark = QStringLiteral("999 ");
+    if (!notification.startsWith(remark)) {
+        return false;
+    }
+    m_remarks << notification.mid(remark.size());
+    return true;
+}
+
+bool Person::hearsAtLast(const QString &word)
+{
+    QString next = hears();
+    while (!next.isEmpty() && next != word) {
+        next = hears();
+    }
+    return next == word;
 }

@@ -35,11 +35,16 @@ public:
     bool reaches(Person &other);
     /// The next notification that is no remark, as "code content".
     QString hears();
+    /// The next one that has come already; empty: there is none.
+    QString hasHeard();
+    /// Waits for that notification; what comes before it is forgotten. Whether it comes.
+    bool hearsAtLast(const QString &word);
     /// The remarks that came so far.
     const QStringList &remarks() const { return m_remarks; }
 
 private:
     void setSound();
+    bool isRemark(const QString &notification);
 
     QString m_id;
     QMap<QString, QString> m_settings;

@@ -66,9 +66,9 @@ void UserAgent::end()
     m_core->end();
 }
 
-void UserAgent::refuse()
+void UserAgent::refuse(bool asBusy)
 {
-    m_core->refuse();
+    m_core->refuse(asBusy);
 }
 
 void UserAgent::setEnabled(Loudness::Side side, bool enabled)

@@ -46,8 +46,8 @@ public:
     void accept();
     /// Cancels, rejects or hangs up the call, without a signal. Without one: no effect.
     void end();
-    /// Refuses the call that has arrived, since nobody could answer it here, without a signal.
-    void refuse();
+    /// Refuses the call that has arrived, without a signal: as that of one who is busy, or as of nobody who could answer.
+    void refuse(bool asBusy);
 
     /// The switches and volumes, which outlive the call.
     void setEnabled(Loudness::Side side, bool enabled);

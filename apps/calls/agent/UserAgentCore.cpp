@@ -168,11 +168,11 @@ void UserAgent::Core::end()
     hurry();
 }
 
-void UserAgent::Core::refuse()
+void UserAgent::Core::refuse(bool asBusy)
 {
-    guard([this] {
+    guard([&] {
         if (const auto call = std::exchange(m_call, nullptr)) {
-            call->decline(linphone::Reason::TemporarilyUnavailable);
+            call->decline(asBusy ? linphone::Reason::Busy : linphone::Reason::TemporarilyUnavailable);
         }
     });
 }
@@ -356,12 +356,14 @@ void UserAgent::Core::onCallLogUpdated(const std::shared_ptr<linphone::Core> & /
 {
     guard([&] {
         // The library refuses on its own what it cannot agree with, and a call that nobody hears of has an entry alone.
+        // One that it refuses because the line is busy is no matter of an operator's.
+        const auto error = log->getErrorInfo();
+        const int status = error ? error->getProtocolCode() : 0;
         if (log->getStatus() == linphone::Call::Status::EarlyAborted &&
-            log->getDir() == linphone::Call::Dir::Incoming) {
-            const auto error = log->getErrorInfo();
+            log->getDir() == linphone::Call::Dir::Incoming && status != cStatusBusy) {
             emit m_agent.remarked(QStringLiteral("refused a call from %1: no common encryption or codec (%2)")
                                       .arg(farText(log->getFromAddress()->getUsername(), cUserIdLimit))
-                                      .arg(error ? error->getProtocolCode() : 0));
+                                      .arg(status));
         }
     });
 }

@@ -30,7 +30,7 @@ public:
     bool place(const QString &userId);
     void accept();
     void end();
-    void refuse();
+    void refuse(bool asBusy);
     void applyLoudness();
 
     Loudness &loudness() { return m_loudness; }

@@ -14,6 +14,8 @@ namespace {
 // microphone must not stay open.
 constexpr int cAwayMs = 90000;
 
+constexpr int cStatusBusy = 486;
+
 QString documentText(const QJsonObject &object)
 {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
@@ -153,8 +155,12 @@ void Desk::callUser(const Command &command)
     if (command.parameter(2).toBool()) {
         m_outlet.note(QStringLiteral("a video call goes out by voice"));
     }
-    m_phase = CallPhase::Calling;
-    if (!m_agent.isRegistered()) {
+    const bool rang = std::exchange(m_phase, CallPhase::Calling) == CallPhase::Ringing;
+    if (rang) {
+        // Both have called at once, and the plug-in, which calls nobody while it rings, has seen this one too late.
+        m_agent.refuse(true);
+        takeEnd({cStatusBusy, false, QStringLiteral("both have called at once")});
+    } else if (!m_agent.isRegistered()) {
         takeEnd({0, false, QStringLiteral("the caller is not registered")});
     } else if (!m_agent.call(command.text(1))) {
         takeEnd({0, false, QStringLiteral("the call cannot be placed")});
@@ -239,7 +245,7 @@ void Desk::takeRegistrationLoss(const QString &why)
 void Desk::takeArrival(const QString &userId)
 {
     if (!m_channel.hasClient()) {
-        m_agent.refuse();
+        m_agent.refuse(false);
         return;
     }
     m_phase = CallPhase::Ringing;
