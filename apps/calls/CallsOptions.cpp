@@ -6,11 +6,15 @@
 
 namespace {
 
-constexpr OptionRow cSettings{"settings", "", "FILE", "take the settings from this file instead of calls.ini"};
+// clang-format off
+constexpr OptionRow cSettings {"settings", "", "FILE", "take the settings from this file instead of calls.ini"};
+constexpr OptionRow cEcho     {"echo",     "", "ID",   "serve no client: sign in as this user and repeat to every caller what he says"};
+// clang-format on
 
 void addOptions(QCommandLineParser &parser)
 {
     addOption(parser, cSettings);
+    addOption(parser, cEcho);
     EndpointOptions::addTrace(parser);
     EndpointOptions::addOthers(parser);
 }
@@ -25,6 +29,7 @@ bool CallsOptions::read(const QStringList &arguments, QString *error)
         return false;
     }
     settings = valueOf(parser, cSettings);
+    echo = valueOf(parser, cEcho);
     return EndpointOptions::read(parser, error);
 }
 

@@ -10,6 +10,7 @@
 struct CallsOptions : EndpointOptions
 {
     QString settings; ///< path of the settings; empty: where calls.ini is looked for
+    QString echo;     ///< id of the user as whom every call is answered with an echo, without a client; empty: none
 
     /// Reads the arguments, the program's name first, and the environment. False with `error` set for an unknown
     /// option, a surplus argument or a bad number.

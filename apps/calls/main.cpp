@@ -4,6 +4,7 @@
 #include "calls/CallsOptions.h"
 #include "calls/agent/UserAgent.h"
 #include "calls/desk/Desk.h"
+#include "calls/desk/Echo.h"
 #include "calls/exchange/EmbeddedExchange.h"
 #include "calls/settings/CallsSettings.h"
 
@@ -21,6 +22,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <memory>
 #include <sys/prctl.h>
 #include <sys/signalfd.h>
 #include <sys/stat.h>
@@ -66,24 +68,26 @@ ExchangeAccess accessOf(const CallsSettings &settings)
     return access;
 }
 
-/// Where no server is set, `access` follows the exchange of this user's own, wherever it is, and the desk is told.
-void follow(EmbeddedExchange &exchange, ExchangeAccess &access, Desk &desk)
+/// Where no server is set, `access` follows the exchange of this user's own, wherever it is, and the desk or the echo
+/// is told.
+template <class Told>
+void follow(EmbeddedExchange &exchange, ExchangeAccess &access, Told &told)
 {
     access.credentials = [&exchange](const QString &userId, const QString & /*value*/, QString *fault) {
         fault->clear();
         return Credentials{userId, exchange.place().passwordOf(userId)};
     };
-    QObject::connect(&exchange, &EmbeddedExchange::ready, &desk, [&] {
+    QObject::connect(&exchange, &EmbeddedExchange::ready, &told, [&] {
         access.servers = QStringList{exchange.place().proxy};
         access.caFile = exchange.place().caFile;
         access.domain = exchange.place().domain;
-        desk.takeExchange();
+        told.takeExchange();
     });
-    QObject::connect(&exchange, &EmbeddedExchange::lost, &desk, [&] {
+    QObject::connect(&exchange, &EmbeddedExchange::lost, &told, [&] {
         access.servers.clear();
-        desk.loseExchange(QStringLiteral("the exchange has gone"));
+        told.loseExchange(QStringLiteral("the exchange has gone"));
     });
-    QObject::connect(&exchange, &EmbeddedExchange::failed, &desk, &Desk::loseExchange);
+    QObject::connect(&exchange, &EmbeddedExchange::failed, &told, &Told::loseExchange);
     exchange.join();
 }
 
@@ -98,11 +102,16 @@ void obeySignals(const sigset_t &stopSignals)
     });
 }
 
+std::unique_ptr<EmbeddedExchange> exchangeOf(const CallsSettings &settings)
+{
+    return std::make_unique<EmbeddedExchange>(
+        QString::fromStdString(settings.exchangeFolder), QString::fromStdString(settings.exchangeProgram),
+        QCoreApplication::applicationDirPath() + QLatin1String("/kelvarim-exchange"));
+}
+
 int serve(const CallsSettings &settings, Channel &channel, Trace &trace)
 {
-    EmbeddedExchange exchange(QString::fromStdString(settings.exchangeFolder),
-                              QString::fromStdString(settings.exchangeProgram),
-                              QCoreApplication::applicationDirPath() + QLatin1String("/kelvarim-exchange"));
+    const auto exchange = exchangeOf(settings);
     ExchangeAccess access = accessOf(settings);
     const QTemporaryDir folder;
     UserAgent agent(settings, access, folder.path());
@@ -121,10 +130,36 @@ int serve(const CallsSettings &settings, Channel &channel, Trace &trace)
         }
     });
     if (settings.servers.empty()) {
-        follow(exchange, access, desk);
+        follow(*exchange, access, desk);
     }
     const int exitCode = QCoreApplication::exec();
     channel.stopListening();
+    agent.stop();
+    return exitCode;
+}
+
+int echo(const QString &userId, CallsSettings settings, Trace &trace)
+{
+    // What comes back is what was said.
+    settings.echoCancelling = false;
+    settings.noiseHandling = false;
+    settings.wavIn.clear();
+    settings.wavOut.clear();
+    const auto exchange = exchangeOf(settings);
+    ExchangeAccess access = accessOf(settings);
+    const QTemporaryDir folder;
+    UserAgent agent(settings, access, folder.path(), UserAgent::Sound::Echo);
+    Echo echo(userId, trace, agent, access);
+    QString error;
+    if (!agent.start(&error)) {
+        return complain(cExitCannotListen, cProgram, error);
+    }
+    if (settings.servers.empty()) {
+        follow(*exchange, access, echo);
+    } else {
+        echo.takeExchange();
+    }
+    const int exitCode = QCoreApplication::exec();
     agent.stop();
     return exitCode;
 }
@@ -164,6 +199,10 @@ int main(int argc, char *argv[])
         return complain(cExitBadInput, cProgram, error);
     }
     trace.event(QStringLiteral("started, process %1").arg(QCoreApplication::applicationPid()));
+    if (!options.echo.isEmpty()) {
+        obeySignals(stopSignals);
+        return echo(options.echo, settings, trace);
+    }
     Channel channel(options.socketName, trace);
     if (const std::optional<int> exitCode = exitCodeUnlessListening(cProgram, channel, trace)) {
         return *exitCode;

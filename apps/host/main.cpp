@@ -47,12 +47,24 @@ struct Options
     QString tourFolder; ///< null: no tour
     QString user;
     bool isUserNamed = false;
+    ContactBook::World world = ContactBook::World::Robots;
+    WindowPlace::Side side = WindowPlace::Side::Whole;
 };
 
 int complain(int iExitCode, const QString &strWords)
 {
     QTextStream(stderr) << strWords << '\n';
     return iExitCode;
+}
+
+/// Ends the program itself for what is no side.
+WindowPlace::Side sideOf(const QString &strHalf, bool bNamed)
+{
+    const bool left = strHalf == QLatin1String("left");
+    if (bNamed && !left && strHalf != QLatin1String("right")) {
+        std::exit(complain(cBadArguments, QStringLiteral("--side is left or right, not %1").arg(strHalf)));
+    }
+    return !bNamed ? WindowPlace::Side::Whole : left ? WindowPlace::Side::Left : WindowPlace::Side::Right;
 }
 
 /// Ends the program itself for --help and for bad arguments.
@@ -68,10 +80,20 @@ Options readOptions(const QCoreApplication &app)
                                   QStringLiteral("Signs in as this contact, with a temporary folder and a call process "
                                                  "of its own."),
                                   QStringLiteral("ID"), QString::fromLatin1(ContactBook::cOwnId));
-    options.addOptions({tour, user});
+    const QCommandLineOption real(QStringLiteral("real"), QStringLiteral("The contacts are people, whom a call process "
+                                                                         "for real calls reaches, and an echo."));
+    const QCommandLineOption side(QStringLiteral("side"),
+                                  QStringLiteral("Keeps to this half of the screen, left or right, beside another "
+                                                 "client."),
+                                  QStringLiteral("half"));
+    options.addOptions({tour, user, real, side});
     options.process(app);
-    Options read{options.isSet(tour) ? QDir(options.value(tour)).absolutePath() : QString(), options.value(user),
-                 options.isSet(user)};
+    Options read;
+    read.tourFolder = options.isSet(tour) ? QDir(options.value(tour)).absolutePath() : QString();
+    read.user = options.value(user);
+    read.isUserNamed = options.isSet(user);
+    read.world = options.isSet(real) ? ContactBook::World::People : ContactBook::World::Robots;
+    read.side = sideOf(options.value(side), options.isSet(side));
     if (!ContactBook::users().contains(read.user)) {
         std::exit(complain(cBadArguments, QStringLiteral("no contact %1; there are %2")
                                               .arg(read.user, ContactBook::users().join(QStringLiteral(", ")))));
@@ -190,13 +212,13 @@ int main(int argc, char **argv)
     WindowFont::substituteMissing();
     HostLanguage language(HostCatalogue::folder());
     speak(language, !folder.isNull());
-    ContactBook book(HostSession::loginDomain(), options.user);
+    ContactBook book(HostSession::loginDomain(), options.user, options.world);
     HostSession session(book);
     if (!session.start(QCoreApplication::applicationDirPath() + QStringLiteral("/libVoipManage.so"), &error)) {
         return complain(EXIT_FAILURE, error);
     }
     QObject::connect(&session.settings(), &HostSettings::languageChanged, &language, &HostLanguage::use);
-    MainWindow window(session, book);
+    MainWindow window(session, book, options.side);
     QObject::connect(&instance, &SingleInstance::frontWanted, &window, &MainWindow::comeToFront);
     return folder.isNull() ? runByHand(session, window) : runTour(session, window, instance, folder, traceFile);
 }

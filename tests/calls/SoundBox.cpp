@@ -18,6 +18,33 @@ constexpr double cTurn = 6.283185307179586;
 const QStringList cFormat{QStringLiteral("--format=s16le"), QStringLiteral("--rate=%1").arg(cRate),
                           QStringLiteral("--channels=1"), QStringLiteral("--raw")};
 
+/// A second that begins with so many samples of the tone.
+QByteArray toneOf(int hertz, int samples)
+{
+    QByteArray second;
+    for (int i = 0; i < cRate; ++i) {
+        const auto sample = static_cast<qint16>(i >= samples ? 0 : cAmplitude * std::sin(cTurn * hertz * i / cRate));
+        second.append(char(sample & 0xFF)).append(char(sample >> 8));
+    }
+    return second;
+}
+
+/// How loud the tone is in these samples.
+double levelOf(const QByteArray &bytes, int hertz)
+{
+    // Goertzel's filter: the share of one frequency.
+    const int count = bytes.size() / 2;
+    const double turn = 2 * std::cos(cTurn * hertz / cRate);
+    double last = 0;
+    double beforeLast = 0;
+    for (int i = 0; i < count; ++i) {
+        const auto sample = static_cast<qint16>(uchar(bytes[2 * i]) | uchar(bytes[2 * i + 1]) << 8);
+        const double next = sample + turn * last - beforeLast;
+        beforeLast = std::exchange(last, next);
+    }
+    return std::sqrt(std::max(0.0, last * last + beforeLast * beforeLast - turn * last * beforeLast)) * 2 / count;
+}
+
 } // namespace
 
 SoundBox::SoundBox() : m_folder(QDir::current().absoluteFilePath(QStringLiteral("sound")))
@@ -56,23 +83,38 @@ bool SoundBox::start(const QStringList &people)
 
 bool SoundBox::speak(const QString &name, int hertz, bool withPauses)
 {
-    QFile speech(file(name, ".speech"));
-    if (!speech.open(QIODevice::WriteOnly)) {
-        return false;
-    }
-    QByteArray second;
-    for (int i = 0; i < cRate; ++i) {
-        const bool pause = withPauses && i > cRate / 2;
-        const auto sample = static_cast<qint16>(pause ? 0 : cAmplitude * std::sin(cTurn * hertz * i / cRate));
-        second.append(char(sample & 0xFF)).append(char(sample >> 8));
-    }
-    speech.write(second.repeated(cSpeechSeconds));
-    speech.close();
-    m_voices[name] = std::make_shared<ChildProgram>(m_folder + QStringLiteral("/log"));
-    return m_voices[name]->begin(QStringLiteral("pacat"),
-                                 QStringList{QStringLiteral("--playback"), QStringLiteral("--latency-msec=100"),
-                                             QStringLiteral("--device=mic-") + name} +
-                                     cFormat + QStringList{speech.fileName()});
+    const QByteArray second = toneOf(hertz, withPauses ? cRate / 2 : cRate);
+    const QString speech = file(name, ".speech");
+    return write(speech, second.repeated(cSpeechSeconds)) && play(name, QStringLiteral("mic-") + name, speech);
+}
+
+bool SoundBox::loop(const QString &name)
+{
+    return control({QStringLiteral("load-module"), QStringLiteral("module-remap-source"),
+                    QStringLiteral("source_name=") + loopOf(name),
+                    QStringLiteral("master=%1.monitor").arg(speakerOf(name)),
+                    QStringLiteral("source_properties=device.description=") + loopOf(name)});
+}
+
+bool SoundBox::beep(const QString &name, int hertz)
+{
+    const QString sound = file(name, ".beep");
+    return write(sound, toneOf(hertz, cRate / 2)) && play(name, speakerOf(name), sound);
+}
+
+bool SoundBox::write(const QString &file, const QByteArray &sound) const
+{
+    QFile speech(file);
+    return speech.open(QIODevice::WriteOnly) && speech.write(sound) == sound.size();
+}
+
+bool SoundBox::play(const QString &voice, const QString &sink, const QString &file)
+{
+    m_voices[voice] = std::make_shared<ChildProgram>(m_folder + QStringLiteral("/log"));
+    return m_voices[voice]->begin(QStringLiteral("pacat"),
+                                  QStringList{QStringLiteral("--playback"), QStringLiteral("--latency-msec=100"),
+                                              QStringLiteral("--device=") + sink} +
+                                      cFormat + QStringList{file});
 }
 
 bool SoundBox::listen(const QString &name)
@@ -92,17 +134,27 @@ double SoundBox::heard(const QString &name, int hertz, double seconds) const
         return 0;
     }
     recording.seek(recording.size() / 2 * 2 - 2 * count);
-    const QByteArray bytes = recording.read(2 * count);
-    // Goertzel's filter: the share of one frequency.
-    const double turn = 2 * std::cos(cTurn * hertz / cRate);
-    double last = 0;
-    double beforeLast = 0;
-    for (int i = 0; i < count; ++i) {
-        const auto sample = static_cast<qint16>(uchar(bytes[2 * i]) | uchar(bytes[2 * i + 1]) << 8);
-        const double next = sample + turn * last - beforeLast;
-        beforeLast = std::exchange(last, next);
+    return levelOf(recording.read(2 * count), hertz);
+}
+
+QList<double> SoundBox::begins(const QString &name, int hertz) const
+{
+    constexpr int step = cRate / 50;
+    constexpr double loud = 500;
+    QFile recording(file(name, ".heard"));
+    QList<double> begins;
+    if (!recording.open(QIODevice::ReadOnly)) {
+        return begins;
     }
-    return std::sqrt(std::max(0.0, last * last + beforeLast * beforeLast - turn * last * beforeLast)) * 2 / count;
+    int silence = cRate;
+    for (int at = 0; recording.bytesAvailable() >= 2 * step; at += step) {
+        const bool heard = levelOf(recording.read(2 * step), hertz) > loud;
+        if (heard && silence > cRate / 5) {
+            begins << double(at) / cRate;
+        }
+        silence = heard ? 0 : silence + step;
+    }
+    return begins;
 }
 
 bool SoundBox::takeSpeaker(const QString &name)

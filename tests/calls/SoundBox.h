@@ -26,6 +26,11 @@ public:
 
     /// Has the person speak: a tone, from now on, with pauses for breath when asked for.
     bool speak(const QString &name, int hertz, bool withPauses = false);
+    /// Has the person's microphone "loop-NAME" hear what his loudspeaker gets. Whether the server obeyed.
+    bool loop(const QString &name);
+    static QString loopOf(const QString &name) { return QStringLiteral("loop-") + name; }
+    /// Plays a tone to the person's loudspeaker, half a second once.
+    bool beep(const QString &name, int hertz);
     /// Takes the person's loudspeaker away, or gives it back. Whether the server obeyed.
     bool takeSpeaker(const QString &name);
     bool giveSpeaker(const QString &name);
@@ -35,11 +40,15 @@ public:
     bool listen(const QString &name);
     /// How loud a tone was in the last part of what the loudspeaker got, 0 to 32767; 0 before there is as much.
     double heard(const QString &name, int hertz, double seconds = 0.5) const;
+    /// When the tone began in what was recorded, in seconds of the recording, each time after a silence.
+    QList<double> begins(const QString &name, int hertz) const;
 
 private:
     static QString speakerModule(const QString &name);
     bool control(const QStringList &arguments) const;
     QString file(const QString &name, const char *ending) const;
+    bool write(const QString &file, const QByteArray &sound) const;
+    bool play(const QString &voice, const QString &sink, const QString &file);
 
     QString m_folder;
     std::unique_ptr<ChildProgram> m_server;

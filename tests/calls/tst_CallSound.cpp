@@ -162,7 +162,57 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_caller->id(), cToneHz, 1) < cSilence, cPatienceMs);
     }
 
+    void echoRepeatsAfterASecond()
+    {
+        ChildProgram echo;
+        QVERIFY(startEcho(echo));
+        m_caller = std::make_unique<Person>(m_exchange, QStringLiteral("300"));
+        m_caller->set(QStringLiteral("sound/microphone"), SoundBox::loopOf(m_caller->id()));
+        QVERIFY(m_sound.loop(m_caller->id()) && m_sound.listen(m_caller->id()));
+        QVERIFY(m_caller->arrive());
+        m_caller->say("CallUser", {QStringLiteral("echo"), false});
+        QCOMPARE(m_caller->hears(), QStringLiteral("18"));
+        // The caller's microphone stands before his loudspeaker: what comes back goes out once more.
+        QVERIFY(m_sound.beep(m_caller->id(), cCallersHz));
+        QTRY_VERIFY_WITH_TIMEOUT(m_sound.begins(m_caller->id(), cCallersHz).size() > 2, cPatienceMs);
+        const QList<double> begins = m_sound.begins(m_caller->id(), cCallersHz);
+        for (int i = 1; i < begins.size(); ++i) {
+            const double later = begins.at(i) - begins.at(i - 1);
+            QVERIFY2(later >= 1 && later < 3, qPrintable(QString::number(later)));
+        }
+    }
+
 private:
+    /// The process that answers every call as "echo". Whether it has begun.
+    bool startEcho(ChildProgram &echo) const
+    {
+        QFile secrets(QStringLiteral("secrets"));
+        QFile settings(QStringLiteral("echo.ini"));
+        if (!secrets.open(QIODevice::WriteOnly) || !settings.open(QIODevice::WriteOnly)) {
+            return false;
+        }
+        secrets.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+        secrets.write("echo:" + TestExchange::secretOf(QStringLiteral("echo")).toUtf8() + '\n');
+        settings.write(QStringLiteral("[exchange]\nservers = %1:%2\ndomain = %3\nca-file = %4\n"
+                                      "[account]\nsecret = file\nsecret-file = %5\n")
+                           .arg(TestExchange::host())
+                           .arg(m_exchange.port())
+                           .arg(TestExchange::domain(), m_exchange.caFile(), QFileInfo(secrets).absoluteFilePath())
+                           .toUtf8());
+        secrets.close();
+        settings.close();
+        const QString trace = QDir::current().absoluteFilePath(QStringLiteral("echo.trace"));
+        return echo.begin(QStringLiteral(VOIPSDK_PROGRAM),
+                          {QStringLiteral("--settings"), settings.fileName(), QStringLiteral("--echo"),
+                           QStringLiteral("echo"), QStringLiteral("--trace"), trace}) &&
+               QTest::qWaitFor(
+                   [&] {
+                       QFile file(trace);
+                       return file.open(QIODevice::ReadOnly) && file.readAll().contains("the echo is registered");
+                   },
+                   cPatienceMs);
+    }
+
     static constexpr int cCallersHz = 440;
     static constexpr int cCalledsHz = 660;
     static constexpr int cToneHz = 425;

@@ -4,8 +4,9 @@
 
 #include <utility>
 
-UserAgent::UserAgent(const CallsSettings &settings, const ExchangeAccess &access, QString folder, QObject *parent)
-    : QObject(parent), m_core(std::make_shared<Core>(*this, settings, access, std::move(folder)))
+UserAgent::UserAgent(const CallsSettings &settings, const ExchangeAccess &access, QString folder, Sound sound,
+                     QObject *parent)
+    : QObject(parent), m_core(std::make_shared<Core>(*this, settings, access, std::move(folder), sound))
 {
 }
 

@@ -18,8 +18,16 @@ class UserAgent : public QObject
     Q_OBJECT
 
 public:
+    /// Whose ears and voice.
+    enum class Sound
+    {
+        OfSettings, ///< devices or files, as the settings have them
+        Echo        ///< whoever speaks hears himself
+    };
+
     /// `settings` and `access` outlive the agent; `folder` is private to this user.
-    UserAgent(const CallsSettings &settings, const ExchangeAccess &access, QString folder, QObject *parent = nullptr);
+    UserAgent(const CallsSettings &settings, const ExchangeAccess &access, QString folder,
+              Sound sound = Sound::OfSettings, QObject *parent = nullptr);
     ~UserAgent() override;
 
     /// The exchange is at another place, or has come anew: who signs in from now on does so there.
@@ -46,7 +54,8 @@ public:
     void accept();
     /// Cancels, rejects or hangs up the call, without a signal. Without one: no effect.
     void end();
-    /// Refuses the call that has arrived, without a signal: as that of one who is busy, or as of nobody who could answer.
+    /// Refuses the call that has arrived, without a signal: as that of one who is busy, or as of nobody who could
+    /// answer.
     void refuse(bool asBusy);
 
     /// The switches and volumes, which outlive the call.

@@ -4,6 +4,7 @@
 #include "calls/agent/FarText.h"
 #include "calls/agent/Guard.h"
 #include "calls/settings/CallsSettings.h"
+#include "calls/sound/EchoCard.h"
 #include "calls/sound/SoundDevices.h"
 
 #include <unistd.h>
@@ -43,9 +44,10 @@ void UserAgent::Core::guard(const Action &action)
     });
 }
 
-UserAgent::Core::Core(UserAgent &agent, const CallsSettings &settings, const ExchangeAccess &access, QString folder)
-    : m_agent(agent), m_settings(settings), m_access(access), m_folder(std::move(folder)), m_tones(m_folder),
-      m_devices(settings)
+UserAgent::Core::Core(UserAgent &agent, const CallsSettings &settings, const ExchangeAccess &access, QString folder,
+                      Sound sound)
+    : m_agent(agent), m_settings(settings), m_access(access), m_folder(std::move(folder)), m_sound(sound),
+      m_tones(m_folder), m_devices(settings)
 {
     m_iterateTimer.setTimerType(Qt::PreciseTimer);
     m_iterateTimer.setInterval(cIdleIterateMs);
@@ -65,7 +67,7 @@ bool UserAgent::Core::start(QString *error)
         m_library = makeCore(m_settings, m_access, m_folder);
         m_library->addListener(shared_from_this());
         m_library->setRingback(m_tones.ringBack().toStdString());
-        started = m_library->start() == 0;
+        started = m_library->start() == 0 && (m_sound == Sound::OfSettings || useEchoCard(*m_library));
         m_registration = std::make_unique<Registration>(*m_library, m_access, m_settings.expires);
         refreshDevices();
     });
@@ -194,7 +196,7 @@ std::shared_ptr<linphone::CallParams> UserAgent::Core::parameters(const std::sha
 
 void UserAgent::Core::refreshDevices()
 {
-    const QString chosen = m_devices.refresh(*m_library);
+    const QString chosen = m_sound == Sound::Echo ? QString() : m_devices.refresh(*m_library);
     if (!chosen.isEmpty()) {
         emit m_agent.remarked(chosen);
     }

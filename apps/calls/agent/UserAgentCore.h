@@ -16,7 +16,7 @@
 class UserAgent::Core : public linphone::CoreListener, public std::enable_shared_from_this<UserAgent::Core>
 {
 public:
-    Core(UserAgent &agent, const CallsSettings &settings, const ExchangeAccess &access, QString folder);
+    Core(UserAgent &agent, const CallsSettings &settings, const ExchangeAccess &access, QString folder, Sound sound);
 
     bool start(QString *error);
     void stop();
@@ -67,6 +67,7 @@ private:
     const CallsSettings &m_settings;
     const ExchangeAccess &m_access;
     QString m_folder;
+    Sound m_sound;
     std::shared_ptr<linphone::Core> m_library;
     std::unique_ptr<Registration> m_registration;
     Loudness m_loudness;

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 
 namespace {
@@ -58,6 +59,10 @@ static_assert(everyRobotIsThere(), "a robot that is in nobody's list of contacts
 constexpr Row cOwner{
     ContactBook::cOwnId, "小明",  QT_TRANSLATE_NOOP("ContactBook", "Takes no calls"), "每天都是新的一天", true,
     Presence::Offline,   "16.jpg"};
+// Who is there to be called by one person alone, beside people.
+constexpr Row cEcho{
+    ContactBook::cEchoId, "Echo", QT_TRANSLATE_NOOP("ContactBook", "Repeats what it hears"), "...", true,
+    Presence::Online,     ""};
 constexpr const char *cOwnHabit = QT_TRANSLATE_NOOP("ContactBook", "You");
 
 ContactBook::Entry entryOf(const Row &row)
@@ -82,11 +87,20 @@ QString numberWords()
     return QCoreApplication::translate("ContactRow", "not a contact");
 }
 
+/// The same person in a world of people, of whom nobody knows what they do.
+Row asPerson(Row row)
+{
+    row.habit = "";
+    row.known = true;
+    row.presence = Presence::Online;
+    return row;
+}
+
 VcardInfo makeCard(const ContactBook::Entry &entry, const char *strSignature)
 {
     VcardInfo card;
     card.m_strNickName = entry.nick;
-    card.m_strAlternativeName = entry.alternative();
+    card.m_strAlternativeName = entry.cardAlternative();
     card.m_strSignature = QString::fromUtf8(strSignature);
     card.m_iSmallVersion = 1;
     card.m_iFullVersion = 1;
@@ -101,24 +115,27 @@ QString ContactBook::Entry::alternative() const
     return *habit == '\0' ? QString() : QCoreApplication::translate("ContactBook", habit);
 }
 
-ContactBook::ContactBook(const QString &strDomain, const QString &strOwnUid)
+ContactBook::ContactBook(const QString &strDomain, const QString &strOwnUid, World world)
     : m_strDomain(strDomain), m_strOwnUid(strOwnUid)
 {
-    for (const Row &row : cRows) {
+    const auto take = [this](const Row &row) {
         if (m_strOwnUid == QLatin1String(row.uid)) {
             m_own = ownEntryOf(row);
             add(m_own, row.signature);
-            continue;
+        } else {
+            m_entries.append(entryOf(row));
+            add(m_entries.constLast(), row.signature);
         }
-        m_entries.append(entryOf(row));
-        add(m_entries.constLast(), row.signature);
+    };
+    if (world == World::Robots) {
+        std::for_each(std::begin(cRows), std::end(cRows), take);
+        take(cOwner);
+        return;
     }
-    if (m_strOwnUid == QLatin1String(cOwner.uid)) {
-        m_own = ownEntryOf(cOwner);
-        add(m_own, cOwner.signature);
-    } else {
-        m_entries.append(entryOf(cOwner));
-        add(m_entries.constLast(), cOwner.signature);
+    take(cEcho);
+    take(asPerson(cOwner));
+    for (const Row &row : cRows) {
+        take(asPerson(row));
     }
 }
 
@@ -210,7 +227,7 @@ bool ContactBook::meet(const QString &strUid)
 void ContactBook::takeLanguage()
 {
     const auto say = [this](const Entry &entry) {
-        const QString words = entry.alternative();
+        const QString words = entry.cardAlternative();
         m_cards[entry.uid].m_strAlternativeName = words;
         for (std::map<QString, FriendData> *records : {&m_friends, &m_strangers}) {
             const auto found = records->find(jidOf(entry.uid));

@@ -12,7 +12,8 @@
 
 #include <map>
 
-/// Who the demo's user knows: the contacts of a made-up company, each named for what happens when one calls it.
+/// Who the demo's user knows: the contacts of a made-up company, each named for what happens when one calls it, if
+/// robots answer for them.
 ///
 /// It plays the contact plug-in's memory. The records live as long as the book and never move, because their addresses
 /// are handed to the call plug-in. GUI thread.
@@ -31,6 +32,8 @@ public:
 
         /// The alternative name of the card, what this contact does, in the client's language.
         QString alternative() const;
+        /// The same for a card, which always has one: the number of who does what he likes.
+        QString cardAlternative() const { return *habit == '\0' ? uid : alternative(); }
         /// The nick name; of a stranger the number.
         QString shownName() const { return known ? nick : uid; }
     };
@@ -38,8 +41,20 @@ public:
     /// User id of the user who signs in where nobody is named.
     static constexpr const char *cOwnId = Robots::cOwnUser;
 
+    /// User id of who is there to be called by one person alone, where people are called.
+    static constexpr const char *cEchoId = "echo";
+
+    /// What is behind the contacts: the robots of the stand-in call process, or people, who do what they like, and the
+    /// echo.
+    enum class World
+    {
+        Robots,
+        People
+    };
+
     /// Builds the records for the login domain `strDomain`, as the user `strOwnUid` has them.
-    explicit ContactBook(const QString &strDomain, const QString &strOwnUid = QString::fromLatin1(cOwnId));
+    explicit ContactBook(const QString &strDomain, const QString &strOwnUid = QString::fromLatin1(cOwnId),
+                         World world = World::Robots);
 
     /// The ids of all who may sign in.
     static QStringList users();

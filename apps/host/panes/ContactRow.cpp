@@ -75,8 +75,10 @@ void ContactRow::showWords()
     // A stranger goes by the number: who that is, the client does not know yet.
     const QString name = m_entry.shownName();
     const QString presence = presenceWord(m_entry.presence);
-    const QString detail =
-        (m_entry.known ? m_entry.uid : tr("not a contact")) + QStringLiteral(" · ") + m_entry.alternative();
+    QString detail = m_entry.known ? m_entry.uid : tr("not a contact");
+    if (!m_entry.alternative().isEmpty()) {
+        detail += QStringLiteral(" · ") + m_entry.alternative();
+    }
     ui->lblName->setText(name);
     ui->lblPresence->setText(presence);
     ui->lblDetail->setText(detail);

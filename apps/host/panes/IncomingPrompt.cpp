@@ -24,9 +24,9 @@ bool isUserBusy()
 
 } // namespace
 
-IncomingPrompt::IncomingPrompt(const ContactBook &book, QWidget *parent)
+IncomingPrompt::IncomingPrompt(const ContactBook &book, WindowPlace::Side side, QWidget *parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowStaysOnTopHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
-      ui(std::make_unique<Ui::IncomingPrompt>()), m_book(book)
+      ui(std::make_unique<Ui::IncomingPrompt>()), m_book(book), m_side(side)
 {
     ui->setupUi(this);
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -52,7 +52,7 @@ void IncomingPrompt::prompt(const QString &strUid, bool bConference, bool bVideo
     ui->lblName->setText(name);
     showWords();
     adjustSize();
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect screen = WindowPlace::part(QGuiApplication::primaryScreen()->availableGeometry(), m_side);
     constexpr int gap = 24;
     move(screen.right() - width() - gap, screen.bottom() - height() - 2 * gap);
     const bool bTakesKeys = !isUserBusy();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "panes/WindowPlace.h"
+
 #include <QDialog>
 
 #include <memory>
@@ -20,7 +22,9 @@ class IncomingPrompt : public QDialog
     Q_OBJECT
 
 public:
-    explicit IncomingPrompt(const ContactBook &book, QWidget *parent = nullptr);
+    /// `side` is the part of the screen whose corner it takes.
+    explicit IncomingPrompt(const ContactBook &book, WindowPlace::Side side = WindowPlace::Side::Whole,
+                            QWidget *parent = nullptr);
     ~IncomingPrompt() override;
 
     /// Shows the prompt for the call of this user; a prompt that is still up changes over to the new call.
@@ -55,6 +59,7 @@ private:
 
     std::unique_ptr<Ui::IncomingPrompt> ui;
     const ContactBook &m_book;
+    WindowPlace::Side m_side;
     QString m_strUid;
     bool m_bConference = false;
     bool m_bVideo = false;

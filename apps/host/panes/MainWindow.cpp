@@ -12,7 +12,6 @@
 #include "panes/OverModal.h"
 #include "panes/QuitQuestion.h"
 #include "panes/WayToCall.h"
-#include "panes/WindowPlace.h"
 #include "screen/WindowProbe.h"
 #include "session/HostSession.h"
 #include "traffic/TraceFolder.h"
@@ -23,9 +22,10 @@
 #include <QScrollArea>
 #include <QShortcut>
 
-MainWindow::MainWindow(HostSession &session, const ContactBook &book)
+MainWindow::MainWindow(HostSession &session, const ContactBook &book, WindowPlace::Side side)
     : ui(std::make_unique<Ui::MainWindow>()), m_session(session), m_book(book), m_status(*this, session.calls(), book),
-      m_prompt(book), m_promptNotice(m_prompt), m_signature(book), m_videoCard(book), m_settingsPage(session.settings())
+      m_prompt(book, side), m_promptNotice(m_prompt), m_signature(book), m_videoCard(book), m_callWindowSide(side),
+      m_settingsPage(session.settings())
 {
     ui->setupUi(this);
     // The call window is in front when a tip has to say why nobody else can be called.
@@ -33,7 +33,7 @@ MainWindow::MainWindow(HostSession &session, const ContactBook &book)
     fillHeader();
     ui->contactPane->fill(m_book);
     ui->callsPane->show(&m_session.history(), &m_book);
-    setUpPlace();
+    setUpPlace(side);
     setUpHappenings();
     setUpCallService();
     m_settingsPage.addSound(m_session.sound(), m_session.callService());
@@ -77,7 +77,7 @@ void MainWindow::takeSkin()
     ui->contactPane->takeSkin();
 }
 
-void MainWindow::setUpPlace()
+void MainWindow::setUpPlace(WindowPlace::Side side)
 {
     // On a screen that is smaller than what stands in the window, that is scrolled.
     auto *whole = new QScrollArea(this);
@@ -87,9 +87,9 @@ void MainWindow::setUpPlace()
     QWidget *content = takeCentralWidget();
     whole->setWidget(content);
     setCentralWidget(whole);
-    const QSize screen = WindowPlace::insides().value(0).size();
-    whole->setMinimumWidth(qMin(content->minimumSizeHint().width(), screen.width()));
-    m_pPlace = new WindowPlace(this, QLatin1String(WindowPlace::cMainKey));
+    const QSize inside = WindowPlace::part(WindowPlace::insides().value(0), side).size();
+    whole->setMinimumWidth(qMin(content->minimumSizeHint().width(), inside.width()));
+    m_pPlace = new WindowPlace(this, QLatin1String(WindowPlace::cMainKey), side);
 }
 
 void MainWindow::setUpHappenings()

@@ -3,11 +3,13 @@
 #include "desktop/PromptKey.h"
 #include "history/CallReadiness.h"
 #include "panes/CallStatusLine.h"
+#include "panes/CallWindowSide.h"
 #include "panes/IncomingPrompt.h"
 #include "panes/PromptNotice.h"
 #include "panes/SettingsPage.h"
 #include "panes/SignatureCard.h"
 #include "panes/VideoCard.h"
+#include "panes/WindowPlace.h"
 
 #include <QMainWindow>
 
@@ -16,7 +18,6 @@
 class ContactBook;
 class HappeningsDock;
 class HostSession;
-class WindowPlace;
 
 namespace Ui {
 class MainWindow;
@@ -32,7 +33,8 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    MainWindow(HostSession &session, const ContactBook &book);
+    /// `side` is the part of the screen that it and the prompt keep to.
+    MainWindow(HostSession &session, const ContactBook &book, WindowPlace::Side side = WindowPlace::Side::Whole);
     ~MainWindow() override;
 
     /// Whether calls can be placed, which the controls show.
@@ -60,7 +62,7 @@ protected:
 
 private:
     void fillHeader();
-    void setUpPlace();
+    void setUpPlace(WindowPlace::Side side);
     void setUpHappenings();
     void connectParts();
     void connectSession();
@@ -92,6 +94,7 @@ private:
     PromptKey m_promptKey;
     SignatureCard m_signature;
     VideoCard m_videoCard;
+    CallWindowSide m_callWindowSide;
     SettingsPage m_settingsPage;
     WindowPlace *m_pPlace = nullptr;
     HappeningsDock *m_pHappenings = nullptr;

@@ -29,9 +29,17 @@ int area(const QRect &rect)
 
 } // namespace
 
-WindowPlace::WindowPlace(QWidget *window, const QString &strKey) : QObject(window), m_pWindow(window), m_strKey(strKey)
+WindowPlace::WindowPlace(QWidget *window, const QString &strKey, Side side)
+    : QObject(window), m_pWindow(window), m_strKey(strKey), m_side(side)
 {
-    restore();
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    if (m_side == Side::Whole || screen == nullptr) {
+        restore();
+    } else {
+        const QRect inside = insideOf(part(screen->availableGeometry(), m_side));
+        const QSize size(inside.width(), qMin(inside.height(), m_pWindow->height()));
+        m_pWindow->setGeometry(QRect(inside.topLeft(), size));
+    }
     m_pWindow->installEventFilter(this);
 }
 
@@ -48,6 +56,18 @@ QRect WindowPlace::fit(const QRect &wanted, const QList<QRect> &screens)
     fitted.moveLeft(qBound(screen.left(), fitted.left(), screen.right() + 1 - fitted.width()));
     fitted.moveTop(qBound(screen.top(), fitted.top(), screen.bottom() + 1 - fitted.height()));
     return fitted;
+}
+
+QRect WindowPlace::part(const QRect &screen, Side side)
+{
+    if (side == Side::Whole) {
+        return screen;
+    }
+    QRect half(screen.topLeft(), QSize(screen.width() / 2, screen.height()));
+    if (side == Side::Right) {
+        half.moveRight(screen.right());
+    }
+    return half;
 }
 
 QRect WindowPlace::insideOf(const QRect &screen)
@@ -91,7 +111,7 @@ void WindowPlace::restore()
 
 void WindowPlace::remember(int iGrown) const
 {
-    if (HostSettings::userFile().isEmpty()) {
+    if (m_side != Side::Whole || HostSettings::userFile().isEmpty()) {
         return;
     }
     const bool bMaximized = m_pWindow->isMaximized() || m_pWindow->isFullScreen();
@@ -124,7 +144,7 @@ void WindowPlace::fitFrame()
     if (m_pWindow->isMaximized() || m_pWindow->isFullScreen() || m_pWindow->screen() == nullptr) {
         return;
     }
-    const QRect fitted = fit(frame, {m_pWindow->screen()->availableGeometry()});
+    const QRect fitted = fit(frame, {part(m_pWindow->screen()->availableGeometry(), m_side)});
     if (fitted != frame) {
         m_pWindow->resize(m_pWindow->size() - (frame.size() - fitted.size()));
         m_pWindow->move(fitted.topLeft());

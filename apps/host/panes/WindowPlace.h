@@ -18,9 +18,21 @@ public:
     /// The key of the main window's place in the user's file: "x,y,width,height", and ",maximized" behind it.
     static constexpr const char *cMainKey = "/windowSetting/mainWindow";
 
+    /// The part of the first screen that a client keeps to.
+    enum class Side
+    {
+        Whole,
+        Left, ///< a half, beside another client
+        Right
+    };
+
     /// Looks after `window`, which is not shown yet, and puts it where the settings have it under `strKey`, or in the
-    /// middle of the first screen with the size that it has.
-    WindowPlace(QWidget *window, const QString &strKey);
+    /// middle of the first screen with the size that it has. One that keeps to a side fills that, wherever it was
+    /// before, and its place is not remembered.
+    WindowPlace(QWidget *window, const QString &strKey, Side side = Side::Whole);
+
+    /// That part of `screen`.
+    static QRect part(const QRect &screen, Side side);
 
     /// `wanted`, made smaller and moved as far as it takes to stand within one of `screens`: the one that it shares
     /// most with, the first where it shares nothing with any. `wanted` itself when there is no screen.
@@ -43,5 +55,6 @@ private:
 
     QWidget *m_pWindow;
     QString m_strKey;
+    Side m_side;
     bool m_bPlaced = false;
 };

@@ -1929,6 +1929,10 @@
         <source>You</source>
         <translation>You</translation>
     </message>
+    <message>
+        <source>Repeats what it hears</source>
+        <translation>Repeats what it hears</translation>
+    </message>
 </context>
 <context>
     <name>VideoCard</name>

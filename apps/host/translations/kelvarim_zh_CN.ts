@@ -1922,6 +1922,10 @@
         <source>You</source>
         <translation>您</translation>
     </message>
+    <message>
+        <source>Repeats what it hears</source>
+        <translation>重复听到的话</translation>
+    </message>
 </context>
 <context>
     <name>VideoCard</name>

@@ -1922,6 +1922,10 @@
         <source>You</source>
         <translation>您</translation>
     </message>
+    <message>
+        <source>Repeats what it hears</source>
+        <translation>重複聽到的話</translation>
+    </message>
 </context>
 <context>
     <name>VideoCard</name>

@@ -21,6 +21,25 @@ private slots:
         QVERIFY(!uids.contains(m_book.ownUid()));
     }
 
+    void whereRobotsAreNotThereAreSaidToBePeople()
+    {
+        const ContactBook book(QStringLiteral("example.org"), QStringLiteral("30010001"), ContactBook::World::People);
+        QCOMPARE(book.entries().size(), ContactBook::users().size());
+        const ContactBook::Entry echo = book.entries().first();
+        QCOMPARE(echo.uid, QStringLiteral("echo"));
+        QCOMPARE(echo.alternative(), QStringLiteral("Repeats what it hears"));
+        QCOMPARE(book.card(echo.uid)->m_strAlternativeName, echo.alternative());
+        for (const ContactBook::Entry &entry : book.entries().mid(1)) {
+            QVERIFY(entry.known && entry.alternative().isEmpty() && entry.presence == Presence::Online);
+            // The plug-in's windows show it in brackets behind the name.
+            QCOMPARE(book.card(entry.uid)->m_strAlternativeName, entry.uid);
+            QVERIFY(book.isFriend(book.jidOf(entry.uid)));
+        }
+        QVERIFY(book.entry(QString::fromLatin1(ContactBook::cOwnId)) != nullptr);
+        QVERIFY(book.entry(QStringLiteral("30010001")) == nullptr);
+        QCOMPARE(book.nameOf(QStringLiteral("30010001")), QStringLiteral("李雷"));
+    }
+
     void friendMapHoldsContactsAndTheOwnUser()
     {
         const QMap<QString, FriendData> map = m_book.friendMap();

@@ -16,6 +16,8 @@
 #include <QScrollBar>
 #include <QTest>
 
+Q_DECLARE_METATYPE(WindowPlace::Side)
+
 /// Where the main window stands: whole on a screen, and where it was left. The class runs on screens of several sizes.
 class tst_WindowPlace : public QObject
 {
@@ -49,6 +51,39 @@ private slots:
         QFETCH(QRect, wanted);
         QTEST(WindowPlace::fit(wanted, {QRect(0, 0, 800, 600), QRect(800, 0, 400, 300)}), "fitted");
         QCOMPARE(WindowPlace::fit(wanted, {}), wanted);
+    }
+
+    void halvesOfAScreenAreItsParts()
+    {
+        const QRect screen(10, 20, 801, 600);
+        QCOMPARE(WindowPlace::part(screen, WindowPlace::Side::Whole), screen);
+        QCOMPARE(WindowPlace::part(screen, WindowPlace::Side::Left), QRect(10, 20, 400, 600));
+        QCOMPARE(WindowPlace::part(screen, WindowPlace::Side::Right), QRect(411, 20, 400, 600));
+    }
+
+    void clientBesideAnotherKeepsToItsHalf_data()
+    {
+        QTest::addColumn<WindowPlace::Side>("side");
+        QTest::newRow("left") << WindowPlace::Side::Left;
+        QTest::newRow("right") << WindowPlace::Side::Right;
+    }
+
+    void clientBesideAnotherKeepsToItsHalf()
+    {
+        QFETCH(WindowPlace::Side, side);
+        const QString kept = QStringLiteral("17,19,700,500");
+        ConfigFile::changeConfigValue(HostSettings::userFile(), QLatin1String(WindowPlace::cMainKey), kept);
+        m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book, side);
+        m_pWindow->show();
+        const QRect half = WindowPlace::part(QGuiApplication::primaryScreen()->availableGeometry(), side);
+        QTRY_VERIFY_WITH_TIMEOUT(half.contains(m_pWindow->frameGeometry()), cPatienceMs);
+        m_pWindow->prompt().prompt(QStringLiteral("30010001"), false, false);
+        QTRY_VERIFY_WITH_TIMEOUT(half.contains(m_pWindow->prompt().frameGeometry()), cPatienceMs);
+        m_pWindow->prompt().hide();
+        // Where the client stood alone is where it will stand alone again.
+        m_pWindow->close();
+        QCOMPARE(ConfigFile::getConfigValue(HostSettings::userFile(), QLatin1String(WindowPlace::cMainKey)).toString(),
+                 kept);
     }
 
     void windowIsNeverLargerThanTheScreen() { QTRY_VERIFY_WITH_TIMEOUT(isOnScreen(m_pWindow.get()), cPatienceMs); }
