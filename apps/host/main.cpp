@@ -10,6 +10,7 @@
 #include "panes/MainWindow.h"
 #include "session/HostSession.h"
 #include "tour/TourHand.h"
+#include "tour/TourPeople.h"
 #include "tour/TourSteps.h"
 #include "tour/TourWatch.h"
 #include "traffic/TraceFolder.h"
@@ -49,6 +50,13 @@ struct Options
     bool isUserNamed = false;
     ContactBook::World world = ContactBook::World::Robots;
     WindowPlace::Side side = WindowPlace::Side::Whole;
+
+    /// A text file of the tour's; where several clients go through one, of this client's.
+    QString tourFile(const char *strName) const
+    {
+        const QString of = world == ContactBook::World::People ? QLatin1Char('-') + user : QString();
+        return QStringLiteral("%1/%2%3.txt").arg(tourFolder, QLatin1String(strName), of);
+    }
 };
 
 int complain(int iExitCode, const QString &strWords)
@@ -98,8 +106,9 @@ Options readOptions(const QCoreApplication &app)
         std::exit(complain(cBadArguments, QStringLiteral("no contact %1; there are %2")
                                               .arg(read.user, ContactBook::users().join(QStringLiteral(", ")))));
     }
-    if (options.isSet(tour) && options.isSet(user)) {
-        std::exit(complain(cBadArguments, QStringLiteral("the tour chooses its user itself")));
+    if (options.isSet(tour) && options.isSet(user) != options.isSet(real)) {
+        std::exit(complain(cBadArguments, QStringLiteral("the tour chooses its user itself, but for that of real "
+                                                         "calls, which has several clients")));
     }
     return read;
 }
@@ -129,17 +138,17 @@ void speak(HostLanguage &language, bool bTour)
 }
 
 /// Makes the folder and tells the call process, by the environment that it inherits, how the tour wants it.
-QString prepareTour(const QString &strFolder)
+QString prepareTour(const Options &options)
 {
-    QString traceFile = strFolder + QStringLiteral("/wire.txt");
-    QDir().mkpath(strFolder);
+    QString traceFile = options.tourFile("wire");
+    QDir().mkpath(options.tourFolder);
     QFile::remove(traceFile);
     qputenv(TraceFolder::cVariable, QFile::encodeName(traceFile));
     qputenv(StandIn::cSpeedVariable, cTourSpeed);
     return traceFile;
 }
 
-int runTour(HostSession &session, MainWindow &window, SingleInstance &instance, const QString &strFolder,
+int runTour(HostSession &session, MainWindow &window, SingleInstance &instance, const Options &options,
             const QString &strTraceFile)
 {
     QApplication::setQuitOnLastWindowClosed(false);
@@ -149,11 +158,17 @@ int runTour(HostSession &session, MainWindow &window, SingleInstance &instance, 
         return EXIT_FAILURE;
     }
     hand.rest();
-    window.move(cTourCorner);
+    if (options.side == WindowPlace::Side::Whole) {
+        window.move(cTourCorner);
+    }
     window.show();
     const CallProcess process(strTraceFile);
     TourWatch watch(session, strTraceFile);
-    Tour tour(watch, hand, tourSteps({session, window, watch, hand, process, instance}), strFolder);
+    const TourStage stage{session, window, watch, hand, process, instance};
+    Tour tour(watch, hand,
+              options.world == ContactBook::World::People ? TourPeople::steps(stage, options.user, options.tourFolder)
+                                                          : tourSteps(stage),
+              options.tourFolder);
     QObject::connect(&tour, &Tour::finished, qApp, [](bool bOk) { QCoreApplication::exit(bOk ? 0 : 1); });
     tour.start();
     const int status = QApplication::exec();
@@ -198,8 +213,8 @@ int main(int argc, char **argv)
     QString traceFile;
     std::unique_ptr<DebugChannel> debug;
     if (!folder.isNull()) {
-        traceFile = prepareTour(folder);
-        debug = std::make_unique<DebugChannel>(folder + QStringLiteral("/debug.txt"));
+        traceFile = prepareTour(options);
+        debug = std::make_unique<DebugChannel>(options.tourFile("debug"));
     }
     const TraceFolder traces;
     // Ring and resources are found relative to the working directory.
@@ -220,5 +235,5 @@ int main(int argc, char **argv)
     QObject::connect(&session.settings(), &HostSettings::languageChanged, &language, &HostLanguage::use);
     MainWindow window(session, book, options.side);
     QObject::connect(&instance, &SingleInstance::frontWanted, &window, &MainWindow::comeToFront);
-    return folder.isNull() ? runByHand(session, window) : runTour(session, window, instance, folder, traceFile);
+    return folder.isNull() ? runByHand(session, window) : runTour(session, window, instance, options, traceFile);
 }

@@ -1,6 +1,7 @@
 #include "calls/SoundBox.h"
 
 #include "fakes/Patience.h"
+#include "host/tour/ToneLevel.h"
 
 #include <QDir>
 #include <QFile>
@@ -27,22 +28,6 @@ QByteArray toneOf(int hertz, int samples)
         second.append(char(sample & 0xFF)).append(char(sample >> 8));
     }
     return second;
-}
-
-/// How loud the tone is in these samples.
-double levelOf(const QByteArray &bytes, int hertz)
-{
-    // Goertzel's filter: the share of one frequency.
-    const int count = bytes.size() / 2;
-    const double turn = 2 * std::cos(cTurn * hertz / cRate);
-    double last = 0;
-    double beforeLast = 0;
-    for (int i = 0; i < count; ++i) {
-        const auto sample = static_cast<qint16>(uchar(bytes[2 * i]) | uchar(bytes[2 * i + 1]) << 8);
-        const double next = sample + turn * last - beforeLast;
-        beforeLast = std::exchange(last, next);
-    }
-    return std::sqrt(std::max(0.0, last * last + beforeLast * beforeLast - turn * last * beforeLast)) * 2 / count;
 }
 
 } // namespace
@@ -134,7 +119,7 @@ double SoundBox::heard(const QString &name, int hertz, double seconds) const
         return 0;
     }
     recording.seek(recording.size() / 2 * 2 - 2 * count);
-    return levelOf(recording.read(2 * count), hertz);
+    return toneLevel(recording.read(2 * count), hertz, cRate);
 }
 
 QList<double> SoundBox::begins(const QString &name, int hertz) const
@@ -148,7 +133,7 @@ QList<double> SoundBox::begins(const QString &name, int hertz) const
     }
     int silence = cRate;
     for (int at = 0; recording.bytesAvailable() >= 2 * step; at += step) {
-        const bool heard = levelOf(recording.read(2 * step), hertz) > loud;
+        const bool heard = toneLevel(recording.read(2 * step), hertz, cRate) > loud;
         if (heard && silence > cRate / 5) {
             begins << double(at) / cRate;
         }

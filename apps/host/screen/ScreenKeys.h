@@ -19,9 +19,13 @@ public:
     bool type(const QString &strText);
     /// Presses the Return key; false when the keyboard lacks it.
     bool enter();
+    /// Presses the arrow upwards or downwards so many times while Ctrl is held; false, with nothing pressed, when the
+    /// keyboard lacks one of them.
+    bool turn(bool bUp, int iTimes);
 
 private:
     unsigned char codeOf(unsigned int keysym) const;
+    void send(unsigned char type, unsigned char code);
     void press(unsigned char code);
 
     xcb_connection_t *m_pConnection;
