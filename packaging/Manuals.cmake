@@ -12,22 +12,35 @@ install(
     ${PROJECT_SOURCE_DIR}/docs/wire-protocol.md
   DESTINATION ${manuals})
 
-install(
-  FILES
-    ${PROJECT_SOURCE_DIR}/apps/calls/settings/calls.ini
-    ${PROJECT_BINARY_DIR}/apps/calls/exchange/kamailio.cfg
-  DESTINATION ${manuals}/examples)
-
 find_program(VOIP_GZIP gzip REQUIRED)
-# packed_file(file folder): installs the file into the folder, packed without name and time.
+# packed_file(file folder [component]): installs the file into the folder, packed without name and time.
 function(packed_file file folder)
+  set(component voip)
+  if(ARGC GREATER 2)
+    set(component ${ARGV2})
+  endif()
   get_filename_component(name ${file} NAME)
-  configure_file(${file} ${CMAKE_CURRENT_BINARY_DIR}/${name})
-  execute_process(COMMAND ${VOIP_GZIP} -9nf ${CMAKE_CURRENT_BINARY_DIR}/${name} COMMAND_ERROR_IS_FATAL ANY)
-  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.gz DESTINATION ${folder})
+  configure_file(${file} ${CMAKE_CURRENT_BINARY_DIR}/${component}/${name})
+  execute_process(COMMAND ${VOIP_GZIP} -9nf ${CMAKE_CURRENT_BINARY_DIR}/${component}/${name} COMMAND_ERROR_IS_FATAL ANY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${component}/${name}.gz DESTINATION ${folder} COMPONENT ${component})
 endfunction()
 packed_file(share/doc/changelog ${manuals})
-foreach(program kelvarim-callcheck kelvarim-demo kelvarim-exchange kelvarim-gallery VoipSDK)
+foreach(program kelvarim-callcheck kelvarim-demo kelvarim-gallery VoipSDK)
   packed_file(share/man/man1/${program}.1 share/man/man1)
 endforeach()
 packed_file(share/man/man5/calls.ini.5 share/man/man5)
+
+if(TARGET kelvarim-calls)
+  set(manuals share/doc/kelvarim-voip-calls)
+  install(FILES share/doc/calls/copyright DESTINATION ${manuals} COMPONENT calls)
+  install(
+    FILES
+      ${PROJECT_SOURCE_DIR}/apps/calls/settings/calls.ini
+      ${PROJECT_BINARY_DIR}/apps/calls/exchange/kamailio.cfg
+    DESTINATION ${manuals}/examples
+    COMPONENT calls)
+  packed_file(share/doc/calls/changelog ${manuals} calls)
+  foreach(program kelvarim-calls kelvarim-exchange)
+    packed_file(share/man/man1/${program}.1 share/man/man1 calls)
+  endforeach()
+endif()
