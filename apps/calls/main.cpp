@@ -91,6 +91,17 @@ void follow(EmbeddedExchange &exchange, ExchangeAccess &access, Told &told)
     exchange.join();
 }
 
+/// The signals that ask the process to end come by descriptor alone. Before any thread: each inherits it.
+sigset_t blockStopSignals()
+{
+    sigset_t stopSignals;
+    sigemptyset(&stopSignals);
+    sigaddset(&stopSignals, SIGTERM);
+    sigaddset(&stopSignals, SIGINT);
+    ::sigprocmask(SIG_BLOCK, &stopSignals, nullptr);
+    return stopSignals;
+}
+
 /// The event loop ends when the process is asked to. The signals must have been blocked.
 void obeySignals(const sigset_t &stopSignals)
 {
@@ -172,12 +183,7 @@ int main(int argc, char *argv[])
     // The front has put this program in its place and handed its name on: who looks for the call process looks for
     // that.
     ::prctl(PR_SET_NAME, qPrintable(QFileInfo(QFile::decodeName(argv[0])).fileName()));
-    // Before any thread: each inherits it.
-    sigset_t stopSignals;
-    sigemptyset(&stopSignals);
-    sigaddset(&stopSignals, SIGTERM);
-    sigaddset(&stopSignals, SIGINT);
-    ::sigprocmask(SIG_BLOCK, &stopSignals, nullptr);
+    const sigset_t stopSignals = blockStopSignals();
     ::umask(S_IRWXG | S_IRWXO);
     const QCoreApplication application(argc, argv);
     CallsOptions options;

@@ -93,7 +93,7 @@ QByteArray ScriptedPeer::nextAnswer()
     for (;;) {
         const int end = m_input.indexOf("\r\n\r\n");
         if (end >= 0) {
-            const QByteArray answer = m_input.left(end);
+            QByteArray answer = m_input.left(end);
             const QRegularExpression length(QStringLiteral("Content-Length: *(\\d+)"));
             m_input.remove(0, end + 4 + length.match(QString::fromUtf8(answer)).captured(1).toInt());
             if (statusOf(answer) >= 200) {

@@ -84,7 +84,7 @@ bool SoundBox::loop(const QString &name)
 bool SoundBox::beep(const QString &name, int hertz)
 {
     const QString sound = file(name, ".beep");
-    return write(sound, toneOf(hertz, cRate / 2)) && play(name, speakerOf(name), sound);
+    return write(sound, toneOf(hertz, cRate / 10)) && play(name, speakerOf(name), sound);
 }
 
 bool SoundBox::write(const QString &file, const QByteArray &sound) const
@@ -114,17 +114,18 @@ bool SoundBox::listen(const QString &name)
 double SoundBox::heard(const QString &name, int hertz, double seconds) const
 {
     QFile recording(file(name, ".heard"));
-    const auto count = static_cast<int>(cRate * seconds);
-    if (!recording.open(QIODevice::ReadOnly) || recording.size() < 2 * count) {
+    const qint64 bytes = 2 * static_cast<qint64>(cRate * seconds);
+    if (!recording.open(QIODevice::ReadOnly) || recording.size() < bytes) {
         return 0;
     }
-    recording.seek(recording.size() / 2 * 2 - 2 * count);
-    return toneLevel(recording.read(2 * count), hertz, cRate);
+    recording.seek(recording.size() / 2 * 2 - bytes);
+    return toneLevel(recording.read(bytes), hertz, cRate);
 }
 
 QList<double> SoundBox::begins(const QString &name, int hertz) const
 {
     constexpr int step = cRate / 50;
+    constexpr qint64 stepBytes = 2LL * step;
     constexpr double loud = 500;
     QFile recording(file(name, ".heard"));
     QList<double> begins;
@@ -132,9 +133,9 @@ QList<double> SoundBox::begins(const QString &name, int hertz) const
         return begins;
     }
     int silence = cRate;
-    for (int at = 0; recording.bytesAvailable() >= 2 * step; at += step) {
-        const bool heard = toneLevel(recording.read(2 * step), hertz, cRate) > loud;
-        if (heard && silence > cRate / 5) {
+    for (int at = 0; recording.bytesAvailable() >= stepBytes; at += step) {
+        const bool heard = toneLevel(recording.read(stepBytes), hertz, cRate) > loud;
+        if (heard && silence > cRate / 3) {
             begins << double(at) / cRate;
         }
         silence = heard ? 0 : silence + step;

@@ -29,7 +29,7 @@ public:
     /// Has the person's microphone "loop-NAME" hear what his loudspeaker gets. Whether the server obeyed.
     bool loop(const QString &name);
     static QString loopOf(const QString &name) { return QStringLiteral("loop-") + name; }
-    /// Plays a tone to the person's loudspeaker, half a second once.
+    /// Plays a tone to the person's loudspeaker, a tenth of a second once.
     bool beep(const QString &name, int hertz);
     /// Takes the person's loudspeaker away, or gives it back. Whether the server obeyed.
     bool takeSpeaker(const QString &name);

@@ -6,6 +6,7 @@
 
 #include "fakes/Patience.h"
 
+#include <QTcpServer>
 #include <QtTest>
 
 #include <csignal>

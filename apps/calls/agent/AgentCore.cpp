@@ -2,7 +2,7 @@
 
 #include "calls/agent/ExchangeAccess.h"
 #include "calls/settings/CallsSettings.h"
-#include "calls/sound/SoundDevices.h"
+#include "calls/sound/DeviceChoice.h"
 
 #include <QFile>
 

@@ -4,8 +4,8 @@
 #include "calls/agent/FarText.h"
 #include "calls/agent/Guard.h"
 #include "calls/settings/CallsSettings.h"
+#include "calls/sound/DeviceChoice.h"
 #include "calls/sound/EchoCard.h"
-#include "calls/sound/SoundDevices.h"
 
 #include <unistd.h>
 #include <utility>

@@ -5,7 +5,7 @@
 
 #include "calls/agent/Registration.h"
 #include "calls/agent/UserAgent.h"
-#include "calls/sound/SoundDevices.h"
+#include "calls/sound/DeviceChoice.h"
 #include "calls/sound/TonePlayer.h"
 
 #include <QElapsedTimer>

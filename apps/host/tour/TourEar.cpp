@@ -8,7 +8,7 @@
 namespace {
 
 constexpr int cRate = 16000;
-constexpr int cBytes = 2;
+constexpr qint64 cBytes = 2;
 
 } // namespace
 
@@ -19,7 +19,7 @@ double TourEar::seconds() const
 
 double TourEar::level(int hertz) const
 {
-    constexpr qint64 piece = cRate / 2 * cBytes;
+    constexpr qint64 piece = cBytes * cRate / 2;
     QFile recording(m_strFile);
     if (!recording.open(QIODevice::ReadOnly) || recording.size() < piece) {
         return 0;

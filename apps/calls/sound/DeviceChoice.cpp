@@ -1,4 +1,4 @@
-#include "calls/sound/SoundDevices.h"
+#include "calls/sound/DeviceChoice.h"
 
 #include "calls/settings/CallsSettings.h"
 #include "calls/sound/SoundServer.h"
