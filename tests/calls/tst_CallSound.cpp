@@ -1,6 +1,8 @@
 // What is heard: each person's microphone gives a tone of its own, and what the loudspeakers get is measured.
 
 #include "calls/CallsTest.h"
+#include "calls/sound/Tones.h"
+#include "host/tour/ToneLevel.h"
 
 class tst_CallSound : public CallsTest
 {
@@ -162,6 +164,25 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_caller->id(), cToneHz, 1) < cSilence, cPatienceMs);
     }
 
+    void filesTakeThePlaceOfDevices()
+    {
+        m_caller = std::make_unique<Person>(m_exchange, QStringLiteral("300"));
+        const QDir here = QDir::current();
+        m_caller->set(QStringLiteral("sound/wav-in"), here.absoluteFilePath(QStringLiteral("voice.wav")));
+        m_caller->set(QStringLiteral("sound/wav-out"), here.absoluteFilePath(QStringLiteral("heard.wav")));
+        QVERIFY(writeTone(QStringLiteral("voice.wav"), Tone{cFileHz, 1000, 0}, 600));
+        QVERIFY(m_caller->arrive());
+        QVERIFY(connectCall(*m_caller, *m_called));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_called, cFileHz), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(levelAtTheEndOf(QStringLiteral("heard.wav"), cCalledsHz) > cLoud, cPatienceMs);
+        m_caller->say("HangUpCall");
+        QCOMPARE(m_called->hears(), QStringLiteral("8"));
+        // What was heard is a whole file now.
+        QFile heard(QStringLiteral("heard.wav"));
+        QVERIFY(heard.open(QIODevice::ReadOnly));
+        QTRY_VERIFY_WITH_TIMEOUT(heard.seek(0) && heard.read(12).endsWith("WAVE"), cPatienceMs);
+    }
+
     void echoRepeatsAfterASecond()
     {
         ChildProgram echo;
@@ -183,6 +204,17 @@ private slots:
     }
 
 private:
+    /// How loud a tone is at the end of a WAV file of one channel with 48000 samples a second.
+    static double levelAtTheEndOf(const QString &name, int hertz)
+    {
+        constexpr int rate = 48000;
+        QFile file(name);
+        if (!file.open(QIODevice::ReadOnly) || file.size() < 2 * rate || !file.seek((file.size() - rate) / 2 * 2)) {
+            return 0;
+        }
+        return toneLevel(file.readAll(), hertz, rate);
+    }
+
     /// The process that answers every call as "echo". Whether it has begun.
     bool startEcho(ChildProgram &echo) const
     {
@@ -216,6 +248,7 @@ private:
     static constexpr int cCallersHz = 440;
     static constexpr int cCalledsHz = 660;
     static constexpr int cToneHz = 425;
+    static constexpr int cFileHz = 1000;
     static constexpr double cFull = 6000;
     static constexpr double cLoud = 2000;
     static constexpr double cSilence = 120;
