@@ -32,9 +32,9 @@ void Person::setSound()
     set(QStringLiteral("sound/noise-handling"), QStringLiteral("no"));
 }
 
-bool Person::start()
+bool Person::writeSettings() const
 {
-    QFile file(m_id + QStringLiteral(".ini"));
+    QFile file(settingsFile());
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
     }
@@ -42,16 +42,23 @@ bool Person::start()
         const QStringList name = setting.key().split(QLatin1Char('/'));
         file.write(QStringLiteral("[%1]\n%2 = %3\n").arg(name.at(0), name.at(1), setting.value()).toUtf8());
     }
-    file.close();
+    return true;
+}
+
+bool Person::start()
+{
+    if (!writeSettings()) {
+        return false;
+    }
     QStringList options{QStringLiteral("--socket-name"), m_peer.socketName()};
     if (m_byFront) {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.remove(QStringLiteral("VOIPSDK_KIND"));
         environment.remove(QStringLiteral("VOIPSDK_EXCHANGE_FOLDER"));
-        environment.insert(QStringLiteral("VOIPSDK_CALLS_INI"), QFileInfo(file).absoluteFilePath());
+        environment.insert(QStringLiteral("VOIPSDK_CALLS_INI"), QFileInfo(settingsFile()).absoluteFilePath());
         m_peer.process().setProcessEnvironment(environment);
     } else {
-        options << QStringLiteral("--settings") << file.fileName();
+        options << QStringLiteral("--settings") << settingsFile();
     }
     m_peer.start(options);
     return m_peer.connectClient();

@@ -17,6 +17,9 @@ public:
 
     /// Settings of his own, before the start: "section/key", value.
     void set(const QString &key, const QString &value) { m_settings[key] = value; }
+    /// Writes them to his file. Whether it could be.
+    bool writeSettings() const;
+    QString settingsFile() const { return m_id + QStringLiteral(".ini"); }
     /// Starts his call process and connects; not registered yet.
     bool start();
     /// Both, and registers him.

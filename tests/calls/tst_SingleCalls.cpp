@@ -2,7 +2,10 @@
 
 #include "calls/CallsTest.h"
 
-#include <csignal>
+#include "wire/Commands.h"
+
+#include <QFile>
+#include <QRegularExpression>
 
 class tst_SingleCalls : public CallsTest
 {
@@ -242,6 +245,26 @@ private slots:
         QCOMPARE(person.hears(), QStringLiteral("21 {\"result\":{\"failedNums\":[\"200\"]},\"status\":0}"));
         person.say("AcceptConf");
         QCOMPARE(person.hears(), QStringLiteral("7"));
+    }
+
+    void everyExampleOfTheDocumentIsServed()
+    {
+        QFile document(QStringLiteral(VOIP_DOCUMENT));
+        QVERIFY(document.open(QIODevice::ReadOnly));
+        const QStringList examples = QString::fromUtf8(document.readAll())
+                                         .split('\n')
+                                         .filter(QRegularExpression(QStringLiteral("^\\{\"messagetype\"")));
+        QVERIFY(examples.size() >= int(Wire::cCommands.size()));
+        Person person(m_exchange, QStringLiteral("100"));
+        QVERIFY(person.arrive());
+        for (const QString &example : examples) {
+            person.peer().write(example.toUtf8() + '\n');
+        }
+        person.say("HangUpCall");
+        person.signIn(TestExchange::secretOf(person.id()));
+        QVERIFY(person.hearsAtLast(QStringLiteral("17 true")));
+        const QStringList complaints = person.peer().trace().filter(QRegularExpression(QStringLiteral("^! ")));
+        QVERIFY2(complaints.isEmpty(), qPrintable(complaints.join('\n')));
     }
 
     void callWithoutAClientIsNotOffered()
