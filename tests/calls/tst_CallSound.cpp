@@ -201,7 +201,7 @@ private:
     {
         constexpr int rate = 48000;
         QFile file(name);
-        if (!file.open(QIODevice::ReadOnly) || file.size() < 2 * rate || !file.seek((file.size() - rate) / 2 * 2)) {
+        if (!file.open(QIODevice::ReadOnly) || file.size() < 2LL * rate || !file.seek((file.size() - rate) / 2 * 2)) {
             return 0;
         }
         return toneLevel(file.readAll(), hertz, rate);
