@@ -1,7 +1,6 @@
 #include "tour/TourPeople.h"
 
 #include "client/CallProcess.h"
-#include "client/CallRecord.h"
 #include "client/ContactBook.h"
 #include "panes/MainWindow.h"
 #include "screen/ScreenKeys.h"
@@ -10,6 +9,7 @@
 #include "tour/TourHand.h"
 #include "tour/TourScript.h"
 #include "tour/TourTurns.h"
+#include "traffic/CallRecord.h"
 
 #include <algorithm>
 #include <array>
