@@ -244,7 +244,8 @@ void Desk::takeRegistrationLoss(const QString &why)
 
 void Desk::takeArrival(const QString &userId)
 {
-    if (!m_channel.hasClient()) {
+    // Until the exchange has taken note that the user has gone it hands his calls on.
+    if (!m_channel.hasClient() || m_userId.isEmpty()) {
         m_agent.refuse(false);
         return;
     }
