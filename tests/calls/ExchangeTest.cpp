@@ -9,6 +9,26 @@
 #include <csignal>
 #include <sys/stat.h>
 
+namespace {
+
+/// Processes whose first argument is this option with this value.
+QList<qint64> runningWith(const QByteArray &option, const QString &value)
+{
+    QList<qint64> found;
+    const QStringList entries = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &entry : entries) {
+        QFile file(QStringLiteral("/proc/%1/cmdline").arg(entry));
+        const QList<QByteArray> arguments =
+            file.open(QIODevice::ReadOnly) ? file.readAll().split('\0') : QList<QByteArray>();
+        if (arguments.value(1) == option && arguments.value(2) == QFile::encodeName(value)) {
+            found.append(entry.toLongLong());
+        }
+    }
+    return found;
+}
+
+} // namespace
+
 QByteArray ExchangeTest::bytesOf(const QString &file)
 {
     QFile opened(file);
@@ -78,27 +98,14 @@ bool ExchangeTest::says(QProcess &member, const QByteArray &begin)
         cPatienceMs);
 }
 
-QList<qint64> ExchangeTest::runningWith(const QByteArray &option, const QString &value) const
+QList<qint64> ExchangeTest::keepersOf(const QString &folder)
 {
-    QList<qint64> found;
-    const QStringList entries = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QString &entry : entries) {
-        const QList<QByteArray> arguments = bytesOf(QStringLiteral("/proc/%1/cmdline").arg(entry)).split('\0');
-        if (arguments.value(1) == option && arguments.value(2) == QFile::encodeName(value)) {
-            found.append(entry.toLongLong());
-        }
-    }
-    return found;
+    return runningWith("--folder", folder);
 }
 
-QList<qint64> ExchangeTest::keepers() const
+QList<qint64> ExchangeTest::serversOf(const QString &folder)
 {
-    return runningWith("--folder", folder());
-}
-
-QList<qint64> ExchangeTest::servers() const
-{
-    return runningWith("-f", file("kamailio.cfg"));
+    return runningWith("-f", folder + QLatin1String("/kamailio.cfg"));
 }
 
 qint64 ExchangeTest::firstServer() const
@@ -113,9 +120,9 @@ qint64 ExchangeTest::firstServer() const
     return 0;
 }
 
-bool ExchangeTest::isAllGone() const
+bool ExchangeTest::isAllGoneOf(const QString &folder)
 {
-    return QTest::qWaitFor([this] { return keepers().isEmpty() && servers().isEmpty(); }, cPatienceMs);
+    return QTest::qWaitFor([&] { return keepersOf(folder).isEmpty() && serversOf(folder).isEmpty(); }, cPatienceMs);
 }
 
 void ExchangeTest::killAndWait(qint64 pid)

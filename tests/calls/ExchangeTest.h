@@ -40,15 +40,17 @@ protected:
     static bool says(QProcess &member, const QByteArray &begin);
 
     /// Process ids of this folder's keeper; of all processes of its Kamailio; of Kamailio's first.
-    QList<qint64> keepers() const;
-    QList<qint64> servers() const;
+    QList<qint64> keepers() const { return keepersOf(folder()); }
+    QList<qint64> servers() const { return serversOf(folder()); }
     qint64 firstServer() const;
-    /// Whether nothing runs any more for this folder, within the patience.
-    bool isAllGone() const;
+    /// Whether nothing runs any more for this folder, or for that one, within the patience.
+    bool isAllGone() const { return isAllGoneOf(folder()); }
+    static bool isAllGoneOf(const QString &folder);
     static void killAndWait(qint64 pid);
 
 private:
-    QList<qint64> runningWith(const QByteArray &option, const QString &value) const;
+    static QList<qint64> keepersOf(const QString &folder);
+    static QList<qint64> serversOf(const QString &folder);
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };

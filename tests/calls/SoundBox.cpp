@@ -69,8 +69,9 @@ bool SoundBox::start(const QStringList &people)
 bool SoundBox::speak(const QString &name, int hertz, bool withPauses)
 {
     const QByteArray second = toneOf(hertz, withPauses ? cRate / 2 : cRate);
-    const QString speech = file(name, ".speech");
-    return write(speech, second.repeated(cSpeechSeconds)) && play(name, QStringLiteral("mic-") + name, speech);
+    const QString speech = file(QStringLiteral("%1-%2").arg(hertz).arg(withPauses), ".speech");
+    return (QFile::exists(speech) || write(speech, second.repeated(cSpeechSeconds))) &&
+           play(name, QStringLiteral("mic-") + name, speech);
 }
 
 bool SoundBox::loop(const QString &name)

@@ -11,6 +11,8 @@
 
 namespace {
 
+constexpr int cStarts = 5;
+
 int freePort()
 {
     QTcpServer server;
@@ -30,9 +32,22 @@ TestExchange::~TestExchange() = default;
 
 bool TestExchange::start()
 {
-    if (!QFile::exists(caFile()) && !makeCertificate()) {
+    const bool first = !QFile::exists(caFile());
+    if (first && !makeCertificate()) {
         return false;
     }
+    for (int i = 0; i < cStarts; ++i) {
+        if (begin()) {
+            return true;
+        }
+        // Somebody else has taken it meanwhile.
+        m_port = first ? freePort() : m_port;
+    }
+    return false;
+}
+
+bool TestExchange::begin()
+{
     QFile tls(m_folder + QStringLiteral("/tls.cfg"));
     if (!tls.open(QIODevice::WriteOnly)) {
         return false;

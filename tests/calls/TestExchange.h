@@ -14,7 +14,8 @@ public:
     TestExchange();
     ~TestExchange();
 
-    /// Starts it at its port and waits until it takes connections. Whether it does.
+    /// Starts it at its port, at the first time at another one where somebody has taken that, and waits until it takes
+    /// connections. Whether it does.
     bool start();
     /// Kills it with all its processes. Whether nobody takes connections then.
     bool kill();
@@ -27,6 +28,7 @@ public:
     QString caFile() const { return m_folder + QStringLiteral("/certificate.pem"); }
 
 private:
+    bool begin();
     bool makeCertificate() const;
     bool takesConnections() const;
 

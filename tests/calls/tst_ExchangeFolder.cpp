@@ -43,8 +43,7 @@ private slots:
         QFETCH(QByteArray, name);
         QFETCH(QByteArray, bytes);
         QFETCH(int, mode);
-        QVERIFY(joined());
-        QVERIFY(isAllGone());
+        makeUsedFolder();
         QVERIFY(write(file(name), bytes, mode));
         const auto exchange = joined();
         QVERIFY(exchange);
@@ -192,6 +191,26 @@ private slots:
         QCOMPARE(bytesOf(folder() + "-log"), QByteArray("begins anew\n"));
         QCOMPARE(bytesOf(folder() + "-log.1").size(), 4090);
     }
+
+private:
+    /// The folder as an exchange has left it, which is started for the first one alone.
+    void makeUsedFolder()
+    {
+        if (m_left.isEmpty()) {
+            QVERIFY(joined());
+            QVERIFY(isAllGone());
+            for (const QString &name : QDir(folder()).entryList(QDir::Files)) {
+                m_left.insert(name, bytesOf(folder() + '/' + name));
+            }
+            return;
+        }
+        QVERIFY(QDir().mkdir(folder()));
+        for (auto left = m_left.cbegin(); left != m_left.cend(); ++left) {
+            QVERIFY(write(folder() + '/' + left.key(), left.value()));
+        }
+    }
+
+    QMap<QString, QByteArray> m_left;
 };
 
 #include "support/TestProgram.h"

@@ -80,16 +80,16 @@ private:
     static bool reaches(Person &other)
     {
         const auto rings = [&] { return other.peer().trace().filter(QStringLiteral("it rings there")).size() > 0; };
-        for (;;) {
+        const QDeadlineTimer deadline(cPatienceMs);
+        QString word = QStringLiteral("23");
+        while (word == QLatin1String("23") && !deadline.hasExpired()) {
             other.say("CallUser", {cUser, false});
-            QString word;
+            word.clear();
             if (!QTest::qWaitFor([&] { return rings() || !(word = other.hasHeard()).isEmpty(); }, cPatienceMs)) {
                 return false;
             }
-            if (word != QLatin1String("23")) {
-                return word.isEmpty();
-            }
         }
+        return word.isEmpty();
     }
 
     /// The ready scenario of this row, with that user called.
