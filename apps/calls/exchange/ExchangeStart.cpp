@@ -32,7 +32,7 @@ constexpr int cSecretBytes = 32;
 // Below stand those of the system.
 constexpr int cFirstPort = 1024;
 constexpr int cPortsTried = 50;
-constexpr int cPortMs = 400;
+constexpr int cPortMs = 1000;
 
 QByteArray lineOf(const QString &state, const QJsonObject &more = {})
 {
