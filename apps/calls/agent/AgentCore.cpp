@@ -16,6 +16,10 @@ namespace {
 // The plug-in gives up after 60 seconds, and the word that it then gives must be the first one: a limit of the library
 // that ran out before would read as a busy line.
 constexpr int cUnansweredSeconds = 150;
+// Where sound comes unevenly the library waits longer by itself; where it does not, its own 60 ms are heard as a pause.
+constexpr int cJitterMs = 20;
+// Samples at 8 kHz that the echo canceller waits for; its own 128 come 25 ms later.
+constexpr int cEchoFrame = 64;
 constexpr int cNoListener = -2; // the library's word for a transport that only dials out
 
 constexpr std::array<const char *, 3> cSystemCertificates{"/etc/ssl/certs/ca-certificates.crt",
@@ -38,6 +42,8 @@ std::shared_ptr<linphone::Config> makeConfig(const CallsSettings &settings)
     config->setBool("net", "dns_srv_enabled", false);
     config->setBool("misc", "conference_event_log_enabled", false);
     config->setInt("rtp", "nortp_timeout", settings.noMedia);
+    config->setInt("rtp", "audio_jitt_comp", cJitterMs);
+    config->setInt("sound", "ec_framesize", cEchoFrame);
     return config;
 }
 

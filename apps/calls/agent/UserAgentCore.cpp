@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int cIdleIterateMs = 20;
+constexpr int cIdleIterateMs = 40;
 constexpr int cBusyIterateMs = 4;
 constexpr int cHurryMs = 3000;
 constexpr int cStopSteps = 150;
