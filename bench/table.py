@@ -19,32 +19,34 @@ SUFFIX = re.compile(r"/(iterations:\d+|min_time:[\d.]+|repeats:\d+|manual_time|r
 
 
 class Figure:
-    """program:benchmark or program:benchmark@counter, or a bare number in seconds."""
+    """program:benchmark or program:benchmark@counter, or a number: of seconds, of a core's hundredths (0.5 %), of MB."""
 
     def __init__(self, text):
         self.constant = None
         self.program = self.name = self.counter = ""
-        if re.fullmatch(r"[\d.e-]+", text):
-            self.constant = float(text)
+        if number := re.fullmatch(r"([\d.e-]+)(?: (%|MB))?", text):
+            self.constant = float(number[1]) * (1024 if number[2] == "MB" else 1)
+            self.counter = {"%": "_percent", "MB": "_KiB"}.get(number[2], "")
             return
         program, _, rest = text.partition(":")
         self.program = "bench_" + program
         self.name, _, self.counter = rest.partition("@")
 
     def values(self, results):
-        """What each turn gave; seconds, or the counter as it is."""
+        """What each turn gave; seconds, or the counter, of nanoseconds in seconds, of anything else as it is."""
         if self.constant is not None:
             return [self.constant]
         found = results.get((self.program, self.name), [])
-        return [turn[self.counter] if self.counter else turn["seconds"] for turn in found]
+        unit = 1e-9 if self.counter.endswith("_ns") else 1
+        return [turn[self.counter] * unit if self.counter else turn["seconds"] for turn in found]
 
     def text(self, value):
         if self.counter.endswith("_KiB"):
             return f"{value / 1024:.1f} MB"
         if self.counter.endswith("_bytes"):
             return f"{value:.0f} bytes"
-        if self.counter.endswith("_ns"):
-            value *= 1e-9
+        if self.counter.endswith("_percent"):
+            return f"{value:.2g} %"
         for factor, unit in ((1, "s"), (1e3, "ms"), (1e6, "µs")):
             if value * factor >= 0.9995:
                 return f"{value * factor:.3g} {unit}"
@@ -92,6 +94,8 @@ def judge(goal, ours, reference):
         middle = statistics.median(more) / 1024
         text = f"{middle:+.1f} MB ({more[0] / 1024:+.1f} to {more[-1] / 1024:+.1f})"
         return text, f"at most {goal} MB", middle <= float(goal)
+    if goal == "-" and not all(reference):
+        return "", "", None
     backwards = goal.startswith(("faster", "reach"))
     ratios = sorted(b / a if backwards else a / b for a, b in zip(ours, reference))
     middle = statistics.median(ratios)
