@@ -5,7 +5,6 @@
 #include "store/LockWait.h"
 #include "store/StoreFiles.h"
 #include "store/StoreOpening.h"
-#include "store/StoreSchema.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,12 +17,6 @@ QSqlDatabase DB::m_db;
 namespace {
 
 const QString cSessionConnection = QStringLiteral("KelvarIM");
-
-// Whole tables that newer ones have taken the place of.
-constexpr const char *cRetiredTables[] = {
-    "deletedfriend", "grouptableNew", "groupfriendversion", "localfriend",      "latestfriend", "friendlist",
-    "muclocalmsg",   "msglist",       "appnumber",          "appnumberversion",
-};
 
 constexpr void (*cTableCreators[])() = {
     DB::createLoginTable,
@@ -204,15 +197,6 @@ bool DB::isExistIndex(const QString &table, const QString &suffix)
     return StoreOpening::ask(query, QStringLiteral("SELECT * FROM sqlite_master"
                                                    " WHERE type = 'index' AND tbl_name = ") +
                                         addYinHao(table) + QStringLiteral(" AND name = ") + addYinHao(table + suffix));
-}
-
-void DB::dropNoUseTable()
-{
-    for (const char *table : cRetiredTables) {
-        if (isExistTable(table)) {
-            StoreSchema::run(QStringLiteral("drop table %1;").arg(table));
-        }
-    }
 }
 
 bool DB::replaceFiled(const QSqlDatabase &db, const QString &table, const QString &field, const QString &from,

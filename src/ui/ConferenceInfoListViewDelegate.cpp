@@ -40,7 +40,7 @@ void paintDetailButton(QPainter &painter, LineCache &lines, const QRect &row, co
 {
     const QRect place(row.right() + 1 - dpi(cMargin) - dpi(cGlyphSide), row.top() + dpi(10) + dpi(5) + dpi(20),
                       dpi(cGlyphSide), dpi(cGlyphSide));
-    RowPainter::drawGlyph(painter, lines, place, IconGlyph::Detail, cDetailPixels, cButtonColor);
+    lines.drawGlyph(painter, place, IconGlyph::Detail, cDetailPixels, cButtonColor);
     RowPainter::keepRect(index, ROLE_REMOVE_RECT, place);
 }
 
@@ -68,10 +68,9 @@ void paintFirstLine(QPainter &painter, LineCache &lines, const QRect &row, const
 
 void paintDirection(QPainter &painter, LineCache &lines, const QRect &row, bool bCreatedByMe)
 {
-    RowPainter::drawGlyph(
-        painter, lines,
-        QRect(row.left() + dpi(cTextLeft), row.top() + dpi(cSecondTop), dpi(cGlyphSide), dpi(cGlyphSide)),
-        bCreatedByMe ? IconGlyph::CreatedByMe : IconGlyph::JoinedByMe, dpi(cDirectionPixels), QColor());
+    lines.drawGlyph(painter,
+                    QRect(row.left() + dpi(cTextLeft), row.top() + dpi(cSecondTop), dpi(cGlyphSide), dpi(cGlyphSide)),
+                    bCreatedByMe ? IconGlyph::CreatedByMe : IconGlyph::JoinedByMe, dpi(cDirectionPixels), QColor());
 }
 
 /// The line that tells when. Deliberate: it is drawn in the icon font that the direction has left in the painter.

@@ -85,14 +85,14 @@ void paintButtons(QPainter &painter, LineCache &lines, const RowPlaces &places, 
 {
     const QColor removeColor =
         index.data(ROLE_REMOVE_HOVER).toBool() ? cRemove_Button_Hover_Color : cDefault_Button_Color;
-    RowPainter::drawGlyph(painter, lines, places.remove, IconGlyph::Remove, dpi(cGlyphPixels), removeColor);
+    lines.drawGlyph(painter, places.remove, IconGlyph::Remove, dpi(cGlyphPixels), removeColor);
     RowPainter::keepRect(index, ROLE_REMOVE_RECT, places.remove);
     if (!canMute(iStatus)) {
         return;
     }
     const QColor muteColor = index.data(ROLE_MUTE_HOVER).toBool() ? cMute_Button_Hover_Color : cDefault_Button_Color;
     const ushort glyph = index.data(ROLE_MUTED).toBool() ? IconGlyph::MemberMuted : IconGlyph::MemberUnmuted;
-    RowPainter::drawGlyph(painter, lines, places.mute, glyph, dpi(cGlyphPixels), muteColor);
+    lines.drawGlyph(painter, places.mute, glyph, dpi(cGlyphPixels), muteColor);
     RowPainter::keepRect(index, ROLE_MUTE_RECT, places.mute);
 }
 
@@ -117,8 +117,7 @@ void CConferenceListViewDelegate::paint(QPainter *painter, const QStyleOptionVie
         paintButtons(*painter, m_lines, places, iStatus, index);
     }
     if (index.data(ROLE_IS_CREATOR).toBool()) {
-        RowPainter::drawGlyph(*painter, m_lines, creator, IconGlyph::Creator, dpi(cGlyphPixels),
-                              strCOLOR_ICON_MID_GREY);
+        m_lines.drawGlyph(*painter, creator, IconGlyph::Creator, dpi(cGlyphPixels), strCOLOR_ICON_MID_GREY);
     }
     RowPainter::drawBottomLine(*painter, row.left() + dpi(cMargin), row.right() - dpi(cMargin), row.bottom());
 }

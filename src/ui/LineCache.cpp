@@ -1,5 +1,6 @@
 #include "ui/LineCache.h"
 
+#include "common/pictures/IconFont.h"
 #include "ui/RowPainter.h"
 
 #include <QPainter>
@@ -8,6 +9,9 @@ namespace {
 
 // A list that shows more texts than this starts its cache anew.
 constexpr int cMostLines = 4096;
+
+// Wider than any glyph, so that none is ever cut.
+constexpr int cGlyphRoom = 1024;
 
 QStaticText laidOut(const QString &strLine, const QFont &font)
 {
@@ -36,4 +40,15 @@ const LineCache::Line &LineCache::line(const QPainter &painter, const QString &s
     const QFontMetrics metrics = painter.fontMetrics();
     return *m_lines.insert(key, {laidOut(RowPainter::elidedLine(metrics, strText, iWidth), key.font),
                                  RowPainter::lineWidth(metrics, strText, iWidth)});
+}
+
+void LineCache::drawGlyph(QPainter &painter, const QRect &place, ushort glyph, int iPixels, const QColor &color)
+{
+    QFont font = IconFont::getIconFont();
+    font.setPixelSize(iPixels);
+    painter.setFont(font);
+    if (color.isValid()) {
+        painter.setPen(color);
+    }
+    RowPainter::drawLine(painter, place, line(painter, QString(QChar(glyph)), cGlyphRoom).text);
 }

@@ -1,13 +1,15 @@
 #pragma once
 
-// One-line texts of a list's rows, laid out once and drawn as often as the list is painted: laying out costs several
-// times as much as drawing. Owned by a delegate; GUI thread only.
+// One-line texts and glyphs of a list's rows, laid out once and drawn as often as the list is painted: laying out costs
+// several times as much as drawing. Owned by a delegate; GUI thread only.
 
 #include <QFont>
 #include <QHash>
 #include <QStaticText>
 
+class QColor;
 class QPainter;
+class QRect;
 
 class LineCache
 {
@@ -24,6 +26,10 @@ public:
     /// `strText` in the font of `painter` as one line of at most `iWidth` pixels, as RowPainter::elidedLine cuts it.
     /// Valid until the next call.
     const Line &line(const QPainter &painter, const QString &strText, int iWidth);
+
+    /// Draws a character of the icon font, `iPixels` high, from `place`'s top left corner. The painter keeps the icon
+    /// font and, if `color` is valid, a pen of that colour; one that is not leaves the pen as it is.
+    void drawGlyph(QPainter &painter, const QRect &place, ushort glyph, int iPixels, const QColor &color);
 
 private:
     struct Key

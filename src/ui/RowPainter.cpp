@@ -1,21 +1,17 @@
 #include "ui/RowPainter.h"
 
-#include "common/pictures/IconFont.h"
 #include "common/system/DpiScale.h"
-#include "ui/LineCache.h"
 
 #include <QAbstractItemModel>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QStaticText>
 #include <QTextOption>
 
 namespace {
 
 constexpr int cTextPixels = 12;
 constexpr QColor cLineColor(224, 224, 224);
-
-// Wider than any glyph, so that none is ever cut.
-constexpr int cGlyphRoom = 1024;
 
 // The most characters of a line that are measured. More would fit into a line only if they had no width.
 constexpr int cMostCharacters = 2048;
@@ -95,18 +91,6 @@ void RowPainter::drawLine(QPainter &painter, const QRect &place, const QStaticTe
     if (bClipped) {
         painter.restore();
     }
-}
-
-void RowPainter::drawGlyph(QPainter &painter, LineCache &lines, const QRect &place, ushort glyph, int iPixels,
-                           const QColor &color)
-{
-    QFont font = IconFont::getIconFont();
-    font.setPixelSize(iPixels);
-    painter.setFont(font);
-    if (color.isValid()) {
-        painter.setPen(color);
-    }
-    drawLine(painter, place, lines.line(painter, QString(QChar(glyph)), cGlyphRoom).text);
 }
 
 void RowPainter::drawBottomLine(QPainter &painter, int iLeft, int iRight, int iBottom)

@@ -1,14 +1,14 @@
 #pragma once
 
-// What the delegates of the member list, the history list and the detail page paint alike: one-line texts, buttons of
-// the icon font, the line below a row, and the way a hit rectangle goes back into its item. No state; GUI thread only.
+// What the delegates of the member list, the history list and the detail page paint alike: one-line texts, the line
+// below a row, and the way a hit rectangle goes back into its item. What they draw again and again is laid out by
+// LineCache. No state; GUI thread only.
 
 #include <QColor>
 #include <QFont>
 #include <QPen>
 #include <QString>
 
-class LineCache;
 class QFontMetrics;
 class QModelIndex;
 class QPainter;
@@ -50,12 +50,6 @@ public:
 
     /// The same with a line that is laid out already.
     static void drawLine(QPainter &painter, const QRect &place, const QStaticText &line);
-
-    /// Draws a character of the icon font, `iPixels` high, from `place`'s top left corner, laid out by `lines`. The
-    /// painter keeps the icon font and, if `color` is valid, a pen of that colour; one that is not leaves the pen as it
-    /// is.
-    static void drawGlyph(QPainter &painter, LineCache &lines, const QRect &place, ushort glyph, int iPixels,
-                          const QColor &color);
 
     /// The line below a row: from `iLeft` to `iRight`, both covered, at the height `iBottom`.
     static void drawBottomLine(QPainter &painter, int iLeft, int iRight, int iBottom);

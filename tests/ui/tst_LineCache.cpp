@@ -1,3 +1,4 @@
+#include "common/pictures/IconFont.h"
 #include "ui/LineCache.h"
 #include "ui/RowPainter.h"
 
@@ -93,6 +94,36 @@ private slots:
                 QCOMPARE(lines.line(painter, QString::number(i), 150).text.text(), QString::number(i));
             }
             QCOMPARE(lines.line(painter, "0", 150).text.text(), QString("0"));
+        });
+    }
+
+    void glyphStandsInTheIconFontAtItsPlace()
+    {
+        LineCache lines;
+        const QRect place(30, 10, 18, 18);
+        const QImage expected = painted(1, [&](QPainter &painter) {
+            QFont font = IconFont::getIconFont();
+            font.setPixelSize(14);
+            painter.setFont(font);
+            painter.setPen(QColor(255, 97, 88));
+            painter.drawText(place, QStringLiteral("A"), QTextOption());
+        });
+        QCOMPARE(painted(1,
+                         [&](QPainter &painter) {
+                             lines.drawGlyph(painter, place, ushort('A'), 14, QColor(255, 97, 88));
+                             QCOMPARE(painter.font().pixelSize(), 14);
+                             QCOMPARE(painter.pen().color(), QColor(255, 97, 88));
+                         }),
+                 expected);
+    }
+
+    void glyphWithoutAColourKeepsThePen()
+    {
+        painted(1, [](QPainter &painter) {
+            LineCache lines;
+            painter.setPen(Qt::blue);
+            lines.drawGlyph(painter, QRect(0, 0, 18, 18), ushort('A'), 14, QColor());
+            QCOMPARE(painter.pen().color(), QColor(Qt::blue));
         });
     }
 };

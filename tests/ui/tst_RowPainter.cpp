@@ -1,5 +1,3 @@
-#include "common/pictures/IconFont.h"
-#include "ui/LineCache.h"
 #include "ui/RowPainter.h"
 
 #include <QFontMetrics>
@@ -120,35 +118,6 @@ private slots:
                 QCOMPARE(image.pixel(x, y), qRgb(255, 255, 255));
             }
         }
-    }
-
-    void glyphStandsInTheIconFontAtItsPlace()
-    {
-        LineCache lines;
-        const QRect place(30, 10, 18, 18);
-        const QImage expected = painted([&](QPainter &painter) {
-            QFont font = IconFont::getIconFont();
-            font.setPixelSize(14);
-            painter.setFont(font);
-            painter.setPen(QColor(255, 97, 88));
-            painter.drawText(place, QStringLiteral("A"), QTextOption());
-        });
-        QCOMPARE(painted([&](QPainter &painter) {
-                     RowPainter::drawGlyph(painter, lines, place, ushort('A'), 14, QColor(255, 97, 88));
-                     QCOMPARE(painter.font().pixelSize(), 14);
-                     QCOMPARE(painter.pen().color(), QColor(255, 97, 88));
-                 }),
-                 expected);
-    }
-
-    void glyphWithoutAColourKeepsThePen()
-    {
-        painted([](QPainter &painter) {
-            LineCache lines;
-            painter.setPen(Qt::blue);
-            RowPainter::drawGlyph(painter, lines, QRect(0, 0, 18, 18), ushort('A'), 14, QColor());
-            QCOMPARE(painter.pen().color(), QColor(Qt::blue));
-        });
     }
 
     void bottomLineCoversBothEnds()
