@@ -49,9 +49,10 @@ void readValues(const QByteArray &bytes)
 {
     const QString path = QDir::current().absoluteFilePath(freshName() + QLatin1String(".ini"));
     writeFile(path, bytes);
-    ConfigFile::getConfigValue(path, QStringLiteral("basicSetting/closeVoice")).toString();
+    ConfigFile::getConfigValue(path, QLatin1String(SystemSetData::cCloseVoiceKey)).toString();
     AccountMap::getUIDByAccountNo(path, QStringLiteral("anna"));
-    ConfigFile::changeConfigValue(path, QStringLiteral("msgSetting/transfilepath"), QString::fromUtf8(bytes.left(40)));
+    ConfigFile::changeConfigValue(path, QLatin1String(SystemSetData::cTransFilePathKey),
+                                  QString::fromUtf8(bytes.left(40)));
     QFile::remove(path);
 }
 
@@ -84,7 +85,7 @@ void readCommon(const QByteArray &bytes)
     const QString path = strAPP_INFO_FILE_PATH();
     writeFile(path, bytes);
     // The folder that the file names is made: none but one below the working directory may be.
-    const QString folder = ConfigFile::getConfigValue(path, QStringLiteral("/msgSetting/msgfilepath")).toString();
+    const QString folder = ConfigFile::getConfigValue(path, QLatin1String(SystemSetData::cMsgFilePathKey)).toString();
     if (folder.isEmpty()) {
         SystemSetData settings;
         settings.initCommonData();

@@ -36,8 +36,7 @@ bool AppInfo::IsPubicVersion()
 
 QString AppInfo::getApplicationLanguage()
 {
-    QString strLanguage =
-        ConfigFile::getConfigValue(strAPP_INFO_FILE_PATH(), QStringLiteral("/languageSetting/language")).toString();
+    QString strLanguage = ConfigFile::getConfigValue(strAPP_INFO_FILE_PATH(), QLatin1String(cLanguageKey)).toString();
     if (!strLanguage.isEmpty()) {
         return strLanguage;
     }

@@ -8,6 +8,9 @@
 class AppInfo
 {
 public:
+    /// The key of the language in the common settings file.
+    static constexpr const char *cLanguageKey = "/languageSetting/language";
+
     /// The client's version number, a constant and not a value read from a file.
     static QString getIMVertion();
 

@@ -179,7 +179,7 @@ constexpr SettingRow cCommonRows[] = {
     {"/msgSetting/SaveToRoot",                 plain<&Data::m_strSaveToRoot>},
     {"/msgSetting/SaveToMyDoc",                plain<&Data::m_strSaveToMyDoc>},
     {"/msgSetting/SaveToMyChosen",             plain<&Data::m_strSaveToMyChosen>},
-    {"/msgSetting/msgfilepath",                dataRoot},
+    {Data::cMsgFilePathKey,                    dataRoot},
 };
 
 constexpr SettingRow cUserRows[] = {
@@ -189,12 +189,12 @@ constexpr SettingRow cUserRows[] = {
     {"/basicSetting/mainwindowWarn",           plain<&Data::m_strMainwindowWarn>},
     {"/basicSetting/hideMainWindow",           plain<&Data::m_strHideMainWindow>},
     {"/basicSetting/closeMainWindow",          plain<&Data::m_strCloseMainWindow>},
-    {"/basicSetting/closeVoice",               plain<&Data::m_strCloseVoice>},
+    {Data::cCloseVoiceKey,                     plain<&Data::m_strCloseVoice>},
     {"/basicSetting/openUnColsedDialog",       plain<&Data::m_strOpenUnColsedDialog>},
     {"/basicSetting/alwaysCloseAllDialog",     plain<&Data::m_strAlwaysCloseAllDialog>},
     {"/basicSetting/notAllIMUser",             plain<&Data::m_strNotAllIMUser>},
     {"/basicSetting/haveExistFriend",          plain<&Data::m_strHaveExistFriend>},
-    {"/msgSetting/transfilepath",              receiveFolder},
+    {Data::cTransFilePathKey,                  receiveFolder},
     {"/msgSetting/allowShaked",                plain<&Data::m_strAllowShaked>},
     {"/msgSetting/msgSync",                    plain<&Data::m_strMsgSync>},
     {"/msgSetting/NotAutoSort",                trueForEmptyOrZero<&Data::m_bNotAutoSort>},

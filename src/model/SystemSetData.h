@@ -30,6 +30,14 @@ struct ChatFont
 class SystemSetData
 {
 public:
+    // The keys that hosts write as well.
+    /// Key of m_strCloseVoice, in the user's file.
+    static constexpr const char *cCloseVoiceKey = "/basicSetting/closeVoice";
+    /// Key of m_strMsgFilePath, in the file that all users share.
+    static constexpr const char *cMsgFilePathKey = "/msgSetting/msgfilepath";
+    /// Key of m_strTransFilePath, in the user's file.
+    static constexpr const char *cTransFilePathKey = "/msgSetting/transfilepath";
+
     // Texts of the keys named, as they are stored and empty when they are not; what a text means is up to its reader.
 
     // Section basicSetting.

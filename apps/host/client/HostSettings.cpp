@@ -4,6 +4,7 @@
 #include "client/HostSkins.h"
 #include "client/SettingsFile.h"
 
+#include "common/AppInfo.h"
 #include "common/AppPaths.h"
 #include "common/settings/ConfigFile.h"
 #include "model/SkinContext.h"
@@ -19,9 +20,9 @@
 
 namespace {
 
-const QString cReceiveKey = QStringLiteral("/msgSetting/transfilepath");
-const QString cDataKey = QStringLiteral("/msgSetting/msgfilepath");
-const QString cLanguageKey = QStringLiteral("/languageSetting/language");
+const QString cReceiveKey = QLatin1String(SystemSetData::cTransFilePathKey);
+const QString cDataKey = QLatin1String(SystemSetData::cMsgFilePathKey);
+const QString cLanguageKey = QLatin1String(AppInfo::cLanguageKey);
 const QString cSkinKey = QStringLiteral("/skinSetting/skinName");
 
 /// Writes the value to the user's file and has the shared settings take it.
@@ -60,7 +61,8 @@ bool HostSettings::isSilent()
 
 bool HostSettings::setSilent(bool bSilent)
 {
-    return writeForUser(QLatin1String(cSilentKey), bSilent ? QStringLiteral("1") : QStringLiteral("0"));
+    return writeForUser(QLatin1String(SystemSetData::cCloseVoiceKey),
+                        bSilent ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
 QString HostSettings::dataFolder()

@@ -22,9 +22,6 @@ public:
         NotWritten ///< the settings cannot be written to
     };
 
-    /// The key of isSilent() in the user's file.
-    static constexpr const char *cSilentKey = "/basicSetting/closeVoice";
-
     /// The file of the signed-in user's settings.
     static QString userFile();
     /// The file of the settings that all users of this computer share.

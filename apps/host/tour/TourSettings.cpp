@@ -7,6 +7,7 @@
 
 #include "common/settings/ConfigFile.h"
 #include "model/SkinContext.h"
+#include "model/SystemSetData.h"
 
 using namespace TourCast;
 
@@ -15,7 +16,8 @@ namespace {
 TourCheck silentInFile(const char *strValue)
 {
     return {QStringLiteral("the user's settings file says closeVoice=%1").arg(QLatin1String(strValue)), [strValue] {
-                return ConfigFile::getConfigValue(HostSettings::userFile(), QLatin1String(HostSettings::cSilentKey))
+                return ConfigFile::getConfigValue(HostSettings::userFile(),
+                                                  QLatin1String(SystemSetData::cCloseVoiceKey))
                            .toString() == QLatin1String(strValue);
             }};
 }
