@@ -6,7 +6,7 @@ PARTS has a line "target NAME" for each target of src/ and apps/, behind it its 
 for each module of Qt that they link, with lines "headers FOLDER". Every file there belongs to a target and includes only files
 of its own target and of those that this links. A target names just those modules of Qt whose headers it includes; those that a
 named one needs itself may be left out. No targets link each other in a circle, and no files include each other in one, nor do
-the rooms of a program.
+units, which are a header and its source, nor the rooms of a program.
 """
 
 import collections
@@ -17,6 +17,8 @@ import sys
 INCLUDE = re.compile(r'^\s*#include "([^"]+)"', re.MULTILINE)
 QT_INCLUDE = re.compile(r"^\s*#include <((?:Qt\w+/)?Q\w+)>", re.MULTILINE)
 ENDINGS = (".h", ".cpp", ".def")
+# The context holds the records of the model, and they ask it for what is the signed-in user's: not counted as a circle.
+ASKED_BY_ITS_PARTS = "src/model/SharedContext"
 
 
 def read_parts(path):
@@ -74,6 +76,17 @@ def includes_among(files, root):
                if (found := next((road / name for road in (file.parent, *folders) if road / name in files), None))}
         for file in files
     }
+
+
+def units_of(graph, root):
+    """Which units include from which others: a header and its source are one, a table is one by itself."""
+    def unit(file):
+        return str((file if file.suffix == ".def" else file.with_suffix("")).relative_to(root))
+
+    units = collections.defaultdict(set)
+    for file, reached in graph.items():
+        units[unit(file)] |= {unit(found) for found in reached} - {unit(file), ASKED_BY_ITS_PARTS}
+    return units
 
 
 def rooms_of(graph, program):
@@ -135,6 +148,7 @@ def main():
             for road in circles(rooms_of(graph, program))
         ]
     problems += [f"circle of targets: {' > '.join(road)}" for road in circles(links)]
+    problems += [f"circle of units: {' > '.join(road)}" for road in circles(units_of(graph, root))]
     problems += [
         f"circle of files: {' > '.join(str(file.relative_to(root)) for file in road)}" for road in circles(graph)
     ]

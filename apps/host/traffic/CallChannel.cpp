@@ -1,7 +1,6 @@
 #include "traffic/CallChannel.h"
 
-#include "traffic/TraceFolder.h"
-
+#include "robots/StandIn.h"
 #include "wire/Commands.h"
 #include "wire/SocketProbe.h"
 
@@ -100,7 +99,7 @@ CallChannel::Trace CallChannel::traceOf(qint64 pid)
 {
     QByteArray place = traceOption(textsOf(pid, "cmdline"));
     if (place.isEmpty()) {
-        place = variableOf(pid, TraceFolder::cVariable);
+        place = variableOf(pid, StandIn::cTraceVariable);
     }
     if (place.isEmpty()) {
         return {};
