@@ -25,12 +25,16 @@ public:
 
     /// Makes the bench's context the process's; the engine has its call window from here on, or not.
     void begin(bool withWindow);
+
     /// Whether it has.
     bool usesWindow() const { return manager->m_pVoipWidget != nullptr; }
+
     /// Has the engine find `bytes` as one read of its channel. Nothing happens without a channel or bytes.
     void receive(const QByteArray &bytes);
+
     /// Delivers what the engine posted to the host and to its windows.
     static void deliverPosted();
+
     /// Takes everything back that an input has done.
     void reset();
 

@@ -11,24 +11,34 @@ namespace FuzzTargets {
 /// Reads of the channel, cut into lines and acted on by a call engine without its call window, and what user and host
 /// do meanwhile.
 void wire(const QByteArray &input);
+
 /// The same with the call window, the conference centre and message boxes, which take most of the time.
 void window(const QByteArray &input);
+
 /// Events of the host with payloads of any bytes, for a call engine without its call window.
 void hostevent(const QByteArray &input);
+
 /// The same with the call window, the conference centre and message boxes.
 void hostwindow(const QByteArray &input);
+
 /// A jid as text and in parts, and the rules of user ids.
 void jid(const QByteArray &input);
+
 /// The JSON of service numbers, their menus and channels.
 void service(const QByteArray &input);
+
 /// A message's HTML: links, plain text, images, bounds, labels.
 void html(const QByteArray &input);
+
 /// INI files: a user's settings, the addresses, the old file's translation.
 void settings(const QByteArray &input);
+
 /// Picture files: kinds, reading, scaling, heads, frames.
 void picture(const QByteArray &input);
+
 /// The members of conference documents and of stored records.
 void members(const QByteArray &input);
+
 /// Bubble pictures and margins, colours, versions.
 void bubble(const QByteArray &input);
 

@@ -19,6 +19,7 @@ struct Notification
 
     /// Nothing for a line that is not an object with just a whole number `resultCode` and a text `content`.
     static std::optional<Notification> read(const QByteArray &line);
+
     /// The code, its name and the content, for messages.
     QString shown() const;
 };
@@ -32,6 +33,7 @@ public:
 
     /// The line for messages: a notification taken apart, any other as it stands.
     static QString shown(const QByteArray &line);
+
     /// Whether the line is a log line of the call process, which may differ, be missing or come at any time.
     static bool isLog(const QByteArray &line);
 

@@ -21,20 +21,25 @@ public:
 
     /// Connects anew to the server at `path`, trying again at most so long.
     bool connectTo(const QString &path, int milliseconds);
+
     /// Closes the connection; lines that have come before can still be taken.
     void disconnect();
+
     /// Whether the connection stands.
     bool isConnected() const { return m_socket && m_socket->state() == QLocalSocket::ConnectedState; }
 
     /// Writes the bytes. False without a connection.
     bool write(const QByteArray &bytes);
+
     /// The next line without its line feed; waits for it at most so long, and not at all without a connection.
     std::optional<QByteArray> nextLine(int milliseconds);
+
     /// Waits, at most so long, until the far end has closed the connection. True without one.
     bool waitClosed(int milliseconds);
 
     /// What has come behind the last whole line.
     const QByteArray &rest() const { return m_input; }
+
     /// Whether a read so far ended inside a line: the plug-in would have lost that line.
     bool hasBrokenRead() const { return m_hasBrokenRead; }
 

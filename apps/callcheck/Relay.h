@@ -28,6 +28,7 @@ public:
 
     /// Begins.
     void start();
+
     /// Ends the recording and the call process with it, as a signal from outside does.
     void stop();
 

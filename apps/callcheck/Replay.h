@@ -25,8 +25,10 @@ public:
 
     /// What was wrong, with the scenario's name and line.
     const QString &fault() const { return m_fault; }
+
     /// Whether `fault()` is that the call process was never reached.
     bool wasUnreachable() const { return m_unreachable; }
+
     /// How many commands were said and how many notifications came.
     int commandCount() const { return m_commandCount; }
     int notificationCount() const { return m_notificationCount; }

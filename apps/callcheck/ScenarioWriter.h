@@ -22,12 +22,16 @@ public:
     /// One line from the plug-in, without its line feed. After "quit" nothing more is recorded but how the call process
     /// ended.
     void said(qint64 now, const QByteArray &line);
+
     /// What one read has brought from the call process.
     void written(qint64 now, const QByteArray &bytes);
+
     /// What the call process does besides: a statement without arguments, "drop", "die", ...
     void happened(qint64 now, const char *statement);
+
     /// What the plug-in does besides: "await-client" or "await-gone".
     void pluginDid(qint64 now, const char *statement);
+
     /// The recording is over, for a reason that no statement tells; empty: none is needed.
     void end(const QString &remark);
 

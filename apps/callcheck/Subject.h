@@ -26,6 +26,7 @@ class Subject
 {
 public:
     Subject() = default;
+
     /// Kills the child when it still runs.
     ~Subject();
     Subject(const Subject &) = delete;
@@ -33,25 +34,31 @@ public:
 
     /// Starts the program, which inherits the standard streams. False with `error` set when that fails.
     bool start(const QString &program, const QStringList &arguments, QString *error);
+
     /// Takes the call process that listens at this name or path.
     void attach(const QString &name);
 
     /// Whether it was started here, so that its end is seen.
     bool isChild() const { return m_process != nullptr; }
+
     /// The child; only when there is one.
     QProcess &process() const { return *m_process; }
 
     /// Where it listens, as a path.
     const QString &socketPath() const { return m_socketPath; }
+
     /// Whether it listens at present. It does not notice the question.
     bool isListening() const;
+
     /// The permission bits of its socket file, 0 without one.
     unsigned socketMode() const;
 
     /// Waits, at most so long, until it listens; false at once when the child has ended.
     bool waitListening(int milliseconds) const;
+
     /// Waits, at most so long, until it does not listen.
     bool waitSilent(int milliseconds) const;
+
     /// Waits, at most so long, until it has ended; one that is no child, until it does not listen.
     bool waitEnded(int milliseconds) const;
 

@@ -24,10 +24,13 @@ public:
 
     /// The plug-in calls `userId`; a call that was still there ends without a word. An id without a robot fails.
     void placeCall(const QString &userId);
+
     /// A robot calls the plug-in.
     void ring(const Robot &robot);
+
     /// The plug-in accepts the call that rings, otherwise no effect.
     void accept();
+
     /// The plug-in rejects or hangs up; the other side learns it and has nothing to say.
     void end();
 

@@ -27,15 +27,20 @@ public:
     /// The plug-in's user `ownId` asks for a conference with `members`; one that was still there ends without a word.
     /// When none of the members can be reached there is no conference, unless nobody was to be called.
     void request(const QString &ownId, const QStringList &members);
+
     /// A robot invites `ownId` to a conference of its own.
     void invite(const Robot &robot, const QString &ownId);
+
     /// The plug-in accepts the invitation, otherwise no effect.
     void accept();
+
     /// The plug-in adds `users`; those who are in already are passed over. Answered by the list of failed ones.
     void add(const QStringList &users);
+
     /// The plug-in removes, mutes or unmutes a connected member, or every one but the creator ("non_moderator"). The
     /// trace says who obeyed; only a removal is told to the plug-in.
     void control(const QString &operation, const QString &userId);
+
     /// The plug-in rejects or hangs up: the conference is over for it.
     void end();
 
@@ -52,6 +57,7 @@ private:
     void afterInConference(int delayMs, const std::function<void()> &action);
     void join(const Robot *creator);
     bool canReach(const QString &id) const;
+
     /// Calls each of the users; gives the ids that cannot be reached.
     QStringList callMembers(const QStringList &users);
     void callMember(const Robot &robot);

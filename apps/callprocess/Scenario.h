@@ -62,6 +62,7 @@ struct Statement
 
     /// Whether a command is the one that an Expect or Await means.
     bool matches(const Command &command) const;
+
     /// An Expect or Await as written, for messages.
     QString expectation() const;
 };
@@ -106,6 +107,7 @@ struct Scenario
 
     /// Reads a scenario's text. Nothing on a fault; `error` then begins with "name:line: ".
     static std::optional<Scenario> parse(const QString &name, const QByteArray &text, QString *error);
+
     /// Reads the file at `path`. Nothing when it cannot be read or has a fault; `error` then says which.
     static std::optional<Scenario> load(const QString &path, QString *error);
 };

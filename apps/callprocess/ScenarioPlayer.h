@@ -29,8 +29,10 @@ public:
 
     /// Begins; to be called once, when the channel listens.
     void start();
+
     /// Takes one line without its line feed. A malformed one is traced and has no other effect.
     void handleLine(const QByteArray &line);
+
     /// The line "quit" has come. What is still expected must have come before it; then the process ends.
     void handleQuit();
 

@@ -33,18 +33,22 @@ public:
     /// Opens the server for the same user only. A socket file that nobody answers at is taken away first. On `Failed`
     /// `error` has the reason.
     Listen listen(QString *error);
+
     /// Closes the server and removes its socket file; a client that is connected stays. Without a server: no effect.
     void stopListening();
 
     /// Whether a client is connected.
     bool hasClient() const { return m_client != nullptr; }
+
     /// The process id of the client that came last, be it still connected or not; 0 before the first one.
     qint64 clientProcess() const { return m_clientProcess; }
+
     /// Closes the client's connection, unwritten bytes with it. Without a client: no effect.
     void drop();
 
     /// Queues the bytes as one write. False, with a record in the trace, when there is no client.
     bool write(const QByteArray &bytes);
+
     /// Whether all that was queued has been written. Always true without a client.
     bool isAllWritten() const;
 

@@ -18,12 +18,14 @@ struct EndpointOptions
 
     /// Makes the parser know the trace: options of the program's own may follow it.
     static void addTrace(QCommandLineParser &parser);
+
     /// Makes the parser know the others, the help last.
     static void addOthers(QCommandLineParser &parser);
 
     /// Has the parser read the arguments, the program's name first. False with `error` set for an unknown option or a
     /// surplus argument.
     static bool parse(QCommandLineParser &parser, const QStringList &arguments, QString *error);
+
     /// Takes from the parser what is the endpoint's. False with `error` set for a bad number.
     bool read(const QCommandLineParser &parser, QString *error);
 };

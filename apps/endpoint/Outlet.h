@@ -16,6 +16,7 @@ public:
 
     /// Sends one notification, as one line of its own. Without a client it is lost.
     void notify(Wire::Code code, const QString &content = {});
+
     /// Writes an event to the trace.
     void note(const QString &text);
 

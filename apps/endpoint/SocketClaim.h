@@ -17,6 +17,7 @@ public:
 
     /// Whether a live process has the socket file.
     bool isTaken() const { return isAnswered(m_path); }
+
     /// Whether a live process listens at the socket file of this path, lock or no lock. It is not noticed there: no
     /// connection arrives.
     static bool isAnswered(const QString &socketFile);

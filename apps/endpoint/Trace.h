@@ -30,12 +30,16 @@ public:
 
     /// One line that came in, without its line feed.
     void received(const QByteArray &line);
+
     /// The complaint about a line that came in without its end.
     void receivedHalf(const QByteArray &line);
+
     /// The bytes of one write: a final line feed is not shown, bytes that end in the middle of a line end in "…".
     void sent(const QByteArray &bytes);
+
     /// Something that happened to the call process, in words.
     void event(const QString &text);
+
     /// Something that should not be, in words.
     void complaint(const QString &text);
 

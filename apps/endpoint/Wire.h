@@ -28,8 +28,10 @@ struct Command
 
     /// The value of "param<number>"; undefined when the key is absent.
     QJsonValue parameter(int number) const;
+
     /// "param<number>" as text, empty when it is no text.
     QString text(int number) const;
+
     /// "param<number>" as a list of texts, empty when it is null or no array; entries that are no texts are left out.
     QStringList texts(int number) const;
 };

@@ -13,8 +13,10 @@ struct DialogMode
     const char *id;
     /// What the mode is for.
     const char *use;
+
     /// Runs the dialog in this mode and gives what it returned, as a text. The hot key modes return at once.
     QString (*run)(ErrorMessage &dialog);
+
     /// Does what leads to the look that is meant, once the dialog is shown; null where showing is enough.
     void (*act)(ErrorMessage &dialog);
 };

@@ -11,6 +11,7 @@ struct GalleryPage
 {
     /// Names the page in the window, in the arguments and, in lower case, its picture.
     const char *name;
+
     /// Makes the page, which belongs to the caller or to `parent`.
     QWidget *(*create)(QWidget *parent);
 };

@@ -23,6 +23,7 @@ public:
 
     /// Keeps what it hears from now on, and nothing of what was before; or keeps nothing any more.
     void listen(bool listens);
+
     /// When the tone began in what is kept, each time after a fifth of a second or more without it: seconds of the
     /// steady clock.
     std::vector<double> begins(int hertz) const;

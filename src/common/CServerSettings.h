@@ -15,21 +15,25 @@ public:
 
     /// Whether the server offers calls; true until the server says otherwise.
     void setSupportVoIPFlag(bool bSupport);
+
     /// Whether the server offers calls, as stored.
     bool getSupportVoIPFlag() const;
 
     /// Largest file that may be sent, in bytes; 0 when the server said nothing. Values are stored unchecked.
     void setFileTransferMaxSize(qint64 iSize);
+
     /// The stored size in bytes.
     qint64 getFileTransferMaxSize() const;
 
     /// Largest number of members of a room; 0 when the server said nothing. Values are stored unchecked.
     void setMaxMucRoomSize(qint64 iSize);
+
     /// The stored number of members.
     qint64 getMaxMucRoomSize() const;
 
     /// Whether the user may change the password in the client.
     void setCanModifyPassword(bool bCan);
+
     /// Whether the password can be changed; false unless set.
     bool getCanModifyPassword() const;
 

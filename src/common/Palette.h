@@ -14,16 +14,22 @@
 namespace StyleSheets {
 /// Makes strVerticalScrollBarNormalStyle.
 QString verticalScrollBarNormal();
+
 /// Makes strVerticalScrollBarHoverStyle.
 QString verticalScrollBarHover();
+
 /// Makes strMenuStyle.
 QString menu();
+
 /// Makes strMenuItemStyle, "%2" still open.
 QString menuItem();
+
 /// Makes strMenuItemSelectStyle.
 QString menuItemSelect();
+
 /// Makes strMenuItemDisableStyle.
 QString menuItemDisable();
+
 /// Makes the style of a checked item's tick; `strKind` is "exclusive" or "non-exclusive", as style sheets know them.
 QString menuChecked(const QString &strKind);
 } // namespace StyleSheets

@@ -51,33 +51,45 @@ public:
     // Core.
     /// Starts the call process and makes the first attempt to connect.
     void initVoipSDK();
+
     /// Builds the hidden call window and connects its signals.
     void initVoipWidget();
+
     /// The host's exit: hangs up, tells the call process to quit, closes the channel.
     void exitVoip();
+
     /// Forgets the current call. Timers, ring and window are the caller's business. Deliberately no slot: the call
     /// window's signal of the same purpose does not reach it.
     void clearLocalCallData();
+
     /// Whether the machine has any audio input. Waits a second at most for a silent sound server, and is true then.
     bool getIsHasAudioInputDevice();
+
     /// Whether there is a call in any state, one that only rings included.
     bool isExistCall();
+
     /// Rings until stopRinging(), unless the user's setting closeVoice is "1".
     void playReceviceCall();
+
     /// Stops the ring; harmless when nothing rings.
     void stopRinging();
 
     // Channel to the call process.
     /// Starts the call process, detached and without arguments. A failure shows only as a socket that never connects.
     void creatVoipSDK();
+
     /// Connects to the call process, waiting up to one second; a failure arms the back-off.
     void creatVoipSDKSocket();
+
     /// Tells the call process to quit and drops the socket.
     void disconnectVoipSDKSocket();
+
     /// Writes one line as it stands (it brings its line feed). Lost when the socket has gone away.
     void sendVoipMessage(QString strMessage);
+
     /// Acts on one inbound line; a line that is malformed or has a negative code has no effect.
     void recevieVoipMessage(QString strLine);
+
     /// Arms the back-off timer: 1, 4, 9, 16, 25, 36, 49, 60 seconds, then again from 1. A connect resets it.
     void reconnectVoipSDK();
 
@@ -85,12 +97,14 @@ public:
     /// Stores the user, socket up or not, and registers it at the call process; repeated by itself after each
     /// reconnection.
     void regeditVoipUser(QString strUserId, QString strNickName, QString strRegValue);
+
     /// Takes the stored user off the call process. The stored values stay, so a reconnection registers it again.
     void unRegeditCurrentVoipUser();
 
     // Notifications of the call process.
     /// Acts on one notification; an unknown code is only logged.
     void callbackMessage(int iCode, QString content);
+
     /// Takes a tracking record; does nothing.
     void voipLogPrint(QString url, QString value);
 
@@ -98,21 +112,29 @@ public:
     /// Calls `strUser`. Without a microphone, with a call in any state or without the call process it says so in a
     /// message box and changes nothing.
     void callSingleUser(QString strUser, bool bVideo);
+
     /// Tells the host of an incoming call and limits how long it may stay unconnected.
     void notifyRecevieVoipCall(QString strUser, bool bIsConf, bool bIsVideo);
+
     /// Accepts the incoming call and shows the window; without a microphone it says so and rejects.
     void acceptVoipCall();
+
     /// Refuses the call and ends it with result 26.
     void rejectVoipCall();
+
     /// Ends the call: rejects one that this side has not answered, hangs up any other. Harmless without a call.
     void hangupVoipCall();
+
     /// The user's answer to the host's prompt.
     void responseVoipRequest(bool bAccept);
+
     /// The one end of every call: timers, ring, the host's prompt, the record (the host writes that of a single call, a
     /// conference's goes into the store), the call data, the window. A second end of the same call does nothing.
     void callFinished(CallData::FinishResult result);
+
     /// The host's report on its own login: registers the user, or hangs up and unregisters.
     void clientConnectStatus(bool bConnected);
+
     /// Always false, during a video call too: deliberate.
     bool isVideoCall();
 
@@ -120,15 +142,20 @@ public:
     /// Starts a conference with `userList`, this side added when it is not in it; flag and text go to the call process
     /// unread. Same refusals as callSingleUser(); an empty list is none.
     void callConference(QList<QString> userList, bool bFlag, QString strText);
+
     /// Adds members to the list, to the window and, inside a conference, to that of the call process, which is asked
     /// for an empty list too.
     void addConferenceMember(QList<QString> userList);
+
     /// Sends a control command for one member, or for everybody; dropped outside a conference.
     void controlConference(ConfControlSignal iOperation, bool bIsAllMember, QString strUserId);
+
     /// Marks the connected members in the window.
     void updateConferenceListStatus();
+
     /// Hands a contact's card on to the window.
     void updateUserInfo(QString strUserId, VcardInfo vcard);
+
     /// Opens the conference centre, or brings the open one to the front.
     void showVoiceConf();
 

@@ -25,8 +25,10 @@ public:
     /// The name to show: the first that is not empty of the user's own name for the contact, nick name, alternative
     /// name and the jid's part before "@". Empty when all are.
     QString displayName() const;
+
     /// Stores the name that the user gave this contact; empty takes it away.
     void setMySetFriendName(const QString &strName);
+
     /// Replaces the card whole.
     void setVcardInfo(const VcardInfo &vcardInfo);
 };

@@ -69,18 +69,25 @@ class CSAgentSessionTransfer
 public:
     /// The session's id.
     const QString &getSessionId() const { return m_strSessionId; }
+
     /// Sets the session's id.
     void setSessionId(const QString &strId) { m_strSessionId = strId; }
+
     /// The id of the asking agent's side of the session.
     const QString &getAgentSessionId() const { return m_strAgentSessionId; }
+
     /// Sets the id of the asking agent's side of the session.
     void setAgentSessionId(const QString &strId) { m_strAgentSessionId = strId; }
+
     /// The agent who asks.
     const QString &getRequestAgentId() const { return m_strRequestAgentId; }
+
     /// Sets the agent who asks.
     void setRequestAgentId(const QString &strId) { m_strRequestAgentId = strId; }
+
     /// The agent who is asked.
     const QString &getTargetAgentId() const { return m_strTargetAgentId; }
+
     /// Sets the agent who is asked.
     void setTargetAgentId(const QString &strId) { m_strTargetAgentId = strId; }
 
@@ -97,10 +104,13 @@ class CSAgentSessionTransferAsk : public CSAgentSessionTransfer
 public:
     /// The work group that serves the session.
     const QString &getWorkGroupId() const { return m_strWorkGroupId; }
+
     /// Sets the work group that serves the session.
     void setWorkGroupId(const QString &strId) { m_strWorkGroupId = strId; }
+
     /// Why the session is to be handed over.
     const QString &getReason() const { return m_strReason; }
+
     /// Sets why the session is to be handed over.
     void setReason(const QString &strReason) { m_strReason = strReason; }
 
@@ -115,10 +125,13 @@ class CSAgentSessionTransferReply : public CSAgentSessionTransfer
 public:
     /// The shown name of the agent who was asked.
     const QString &getTargetAgentName() const { return m_strTargetAgentName; }
+
     /// Sets the shown name of the agent who was asked.
     void setTargetAgentName(const QString &strName) { m_strTargetAgentName = strName; }
+
     /// The server's code of the answer.
     int getResponseCode() const { return m_iResponseCode; }
+
     /// Sets the server's code of the answer.
     void setResponseCode(int iCode) { m_iResponseCode = iCode; }
 

@@ -33,8 +33,10 @@ public:
 
     /// All empty.
     FriendData() = default;
+
     /// The contact of that jid, normalised and without its resource; a malformed jid leaves the key empty.
     FriendData(const QString &strJid);
+
     /// The user's own profile as a contact.
     FriendData(const MyProfileData &profile);
 

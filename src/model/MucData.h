@@ -62,6 +62,7 @@ public:
 
     /// A room with no jid and the default picture.
     MucData() = default;
+
     /// The room of that jid, taken as it is. The head image stays empty, deliberately.
     MucData(const QString &strRoomJid);
 
@@ -76,8 +77,10 @@ class MucDataUtils
 public:
     /// The store's text for the local exist flag: "T" or "F".
     static QString getLocalExistString(bool bExist);
+
     /// True exactly for "T".
     static bool getLocalExistFlag(const QString &strExist);
+
     /// True when both rooms have the same owner, managers, names, member count, head image, notice title, place at the
     /// top and switches. The rest does not take part: a new version alone is no change.
     static bool compareMucInfo(const MucData &first, const MucData &second);

@@ -27,6 +27,7 @@ public:
     /// Takes over the other skin member by member, with two exceptions: position 4 takes its position 3, and position 8
     /// its position 7.
     void resetData(const SysUIData &other);
+
     /// Hooks of the host's that do nothing.
     void initData() {}
     void initBaseStyle() {}
@@ -34,6 +35,7 @@ public:
     /// The colour of eight hexadecimal digits: red, green, blue, alpha, without "#". Of six digits blue is alpha as
     /// well; the empty text gives opaque black. What is no number counts 0.
     static QColor transformToRGBA(const QString &strColor);
+
     /// A colour "#rrggbb" in decimal: "51,175,86". The last two digits are blue; what is no number counts 0.
     static QString transformToRGBStr(const QString &strColor);
 
@@ -42,6 +44,7 @@ public:
     /// not have read as empty texts.
     void setLeftChatBubble(const QString &strPath);
     void setRightChatBubble(const QString &strPath);
+
     /// Sets the margin of the text in a bubble: from four pixel values, "10px 12px 10px 12px", what is left of each
     /// inside the border. With fewer than four values, or no bubble set, the margin is stored as it is.
     void setLeftBubbleMargin(const QString &strMargin);

@@ -193,12 +193,15 @@ public:
     /// Reads the settings that all users share and makes the folder of all users' folders when it is missing. To run
     /// before initData. A missing or unreadable file gives the defaults.
     void initCommonData();
+
     /// Derives the paths of that user and reads the user's settings; values that need a repair are written back. A
     /// missing or unreadable file gives the defaults. A further user overwrites all that is read or derived here, but
     /// the default folder for received files, which only a user without a folder of their own sets.
     void initData(QString strUserName);
+
     /// Replaces the list of automatic replies.
     void setAutoReplylist(const QStringList &listReply) { m_listAutoReplyList = listReply; }
+
     /// Replaces the list of quick replies.
     void setFastReplylist(const QStringList &listReply) { m_listFastReplyList = listReply; }
 

@@ -17,6 +17,7 @@ public:
         follow(uids);
         return isNext(uids, uid) || m_counts.contains(uid);
     }
+
     /// Appends `uid`, whether or not it is there already.
     void append(QList<QString> &uids, const QString &uid)
     {
@@ -30,6 +31,7 @@ public:
         uids.append(uid);
         m_seen = uids;
     }
+
     /// Removes the first `uid`; false when there is none.
     bool removeOne(QList<QString> &uids, const QString &uid)
     {

@@ -62,6 +62,7 @@ public:
     /// Stores the blank-separated mobile numbers without repeats. A number that already stands inside the text kept so
     /// far counts as a repeat, also as a part of a longer one. An empty text is stored as it is.
     void setDisPlayMobile(const QString &strMobile);
+
     /// Stores the photo's name and derives path and system avatar flag from it: the built-in default for an empty name,
     /// a built-in picture when the application has one of that name, else a file of the user's head image folder. A
     /// name without "." stands for a ".jpg".

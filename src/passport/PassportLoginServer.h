@@ -23,23 +23,31 @@ public:
 
     /// Stores the ticket-granting cookie; an empty value leaves the stored one.
     void SetPassportTGCCookie(const QString &strCookie);
+
     /// Stores the remember-me cookie; an empty value leaves the stored one. Emits nothing.
     void SetPassportRemCookie(const QString &strCookie);
+
     /// Stores the authorisation identifier; an empty value leaves the stored one.
     void SetPassportAuthIDCookie(const QString &strAuthId);
+
     /// The ticket-granting cookie; empty until the first was stored.
     QString GetPassportTGCCookie() const { return m_strTgcCookie; }
+
     /// The remember-me cookie; empty until the first was stored.
     QString GetPassportRemCookie() const { return m_strRemCookie; }
+
     /// The authorisation identifier that goes on every server request; empty until the first was stored.
     QString GetAuthIDByPassport() const { return m_strAuthId; }
 
     /// Logs the three values in clear and returns: no request, no change, no signal.
     void ManualRefreshAuthID();
+
     /// Logs its call and returns; emits nothing.
     void UserOverdue();
+
     /// Tells the client that the session ended; the cookies stay.
     void UserCookieExpire();
+
     /// False at all times: nothing keeps the session alive.
     bool IsPassportKeeplived() const { return m_bIsPassportKeeplived; }
 

@@ -19,6 +19,7 @@ public:
     /// `bAsync`; `payload` becomes `data`.
     BaseEvent(EMsgId command, const QString &sender, const QString &receiver, bool queued,
               const QByteArray &payload = QByteArray());
+
     /// Frees each element of `extraList` as a plain memory block, then the list.
     ~BaseEvent() override;
 

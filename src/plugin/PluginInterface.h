@@ -21,20 +21,28 @@ public:
 
     /// The plug-in's name as the host shows or records it.
     virtual QString getPluginName() = 0;
+
     /// A native handle of the plug-in's window inside `parent`; 0 when it has none.
     virtual qint64 getWindowHandle(QWidget *parent) = 0;
+
     /// The object that the host delivers its events to. Owned by the plug-in, the same one on each call.
     virtual QObject *getReceiveEventHandle() = 0;
+
     /// Takes the object that the plug-in delivers its events to. It stays owned by the host; null means none.
     virtual void setSendEventHandle(QObject *handle) = 0;
+
     /// The id by which events address the plug-in, a GUID text in braces.
     virtual QString getPluginId() = 0;
+
     /// Subscribes `to` to the command `msgId` of `from`. Returns false when refused.
     virtual bool attachplugin(const QString &from, EMsgId msgId, const QString &to) = 0;
+
     /// Takes a subscription back. Returns false when refused.
     virtual bool disattachplugin(const QString &from, EMsgId msgId, const QString &to) = 0;
+
     /// The ids of the subscribers to the command `msgId` of `id`.
     virtual QStringList getRecListByMsgId(const QString &id, EMsgId msgId) = 0;
+
     /// Takes the shared client context. It stays owned by the host.
     virtual void setCommonData(CommonData *data) = 0;
 };

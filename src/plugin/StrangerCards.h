@@ -17,6 +17,7 @@ struct StrangerCards
     /// Asks the host about the user id `uid` and notes it when it is a stranger: no contact, and not the fixed system
     /// account. Returns whether it is one.
     bool test(const QString &uid);
+
     /// Asks for the cards of all strangers noted, with one queued request, also when there are none.
     void request() const;
 };

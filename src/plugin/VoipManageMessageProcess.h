@@ -21,12 +21,15 @@ public:
 
     /// Ignores its argument and returns 0: the plug-in has no window inside the host's.
     qint64 getWindowHandle(QWidget *parent);
+
     /// Takes the object that outbound events are delivered to, not owned. With null, or once the object is gone,
     /// outbound events are dropped.
     void setSendEvent(QObject *handle);
+
     /// Runs the command of `event`, which must be a BaseEvent: its type is not tested. A null event is logged; an event
     /// for another plug-in is dropped silently; an unknown command writes one debug message.
     void customEvent(QEvent *event) override;
+
     /// Delivers `event` to the send handle. With `bAsync` it is posted and no longer the caller's, and deleted when
     /// there is no handle; otherwise the receiver has handled it on return and it stays the caller's. Null is ignored.
     void sendCommand(BaseEvent *event);

@@ -21,20 +21,28 @@ public:
 
     /// "FileManagePlugin".
     QString getPluginName() override;
+
     /// Ignores its argument and returns 0.
     qint64 getWindowHandle(QWidget *parent) override;
+
     /// The mailbox, VoipManageMessageProcess::instance(). Not owned by the caller.
     QObject *getReceiveEventHandle() override;
+
     /// Takes the object that all outbound events are delivered to from now on. Not owned; null means none.
     void setSendEventHandle(QObject *handle) override;
+
     /// The plug-in's id.
     QString getPluginId() override;
+
     /// Ignores its arguments and returns true: events reach the plug-in by the receiver's id, not by subscription.
     bool attachplugin(const QString &from, EMsgId msgId, const QString &to) override;
+
     /// Ignores its arguments and returns true.
     bool disattachplugin(const QString &from, EMsgId msgId, const QString &to) override;
+
     /// Ignores its arguments and returns an empty list.
     QStringList getRecListByMsgId(const QString &id, EMsgId msgId) override;
+
     /// Takes the shared client context for all common code. Not owned; null means none.
     void setCommonData(CommonData *data) override;
 };

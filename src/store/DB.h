@@ -82,14 +82,19 @@ public:
 
     /// `latestfriendnew`
     static void createLatestFrdTable();
+
     /// `deletedfriendnew`
     static void creatDeletedFrdTable();
+
     /// `msgrecord`
     static void createMessageTable();
+
     /// `message_session`
     static void createSessionTable();
+
     /// `message_unread_session`
     static void createUnreadSessionTable();
+
     /// `unclosesession` and `unclosesessionorder`
     static void createUnCloseSessionTable();
 
@@ -97,18 +102,25 @@ public:
 
     /// `localfriendNew`
     static void createLocalFrdTable();
+
     /// `mucrecord`
     static void createMuctable();
+
     /// `mucmembers`
     static void createMucMembersTable();
+
     /// `grouptable`
     static void createGroupTable();
+
     /// `groupfriendversionNew`
     static void createGroupFriendVersion();
+
     /// `friendGrouptable`
     static void createFriendGroupTable();
+
     /// `outsidegroupfriendversionNew`
     static void createOutsideGroupFriendVersion();
+
     /// `roomnotice`
     static void createRoomNoticeTable();
 
@@ -116,52 +128,76 @@ public:
 
     /// `filereceviestatus`
     static void createFileRecevieStatusTable();
+
     /// `cloudfilelocalinfo`
     static void creatCloudFileLocalInfo();
+
     /// `sharefilelocalinfo`
     static void creatShareFileLocalInfo();
+
     /// `filestatuslocalinfo`
     static void creatFileStatusLocalInfo();
+
     /// `videoinfo`
     static void creatVideoInfo();
+
     /// `filedisplayinfo`
     static void creatFileDisplayStatusInfo();
+
     /// `servicenumber` and `localservicenumber`
     static void createServiceTable();
+
     /// `servicenumberversion`
     static void createServiceVersion();
+
     /// `appnumbernew`
     static void createApplicationNewTableNew();
+
     /// `appnumberversionnew`
     static void createApplicationVersionNew();
+
     /// `favorite`
     static void createFavoriteTable();
+
     /// `favoriteFileLocalInfo`
     static void createFavoriteFileTable();
+
     /// `cs_agentInfo`
     static void creatAgentInfoTable();
+
     /// `cs_channel`
     static void createCSChannelTable();
+
     /// `cs_workgroup`
     static void createCSWorkgroupTable();
+
     /// `cs_quikrply`
     static void createCSQuickrplyTable();
+
     /// `cs_agent_session`
     static void createCSAgentSessionTable();
+
     /// `cs_comment`
     static void createCSCommentTable();
+
     /// `cs_chatsummary`
     static void createCSChatSumTable();
+
     /// `cs_channelquikrply`
     static void createCSChannelQuickrplyTable();
+
     /// `cs_topchannelIdlist`
     static void createCSChannelTopListTable();
+
     /// `cs_chatsum`
     static void createCSChatSumAgentTable();
+
     /// `cs_chatandquickversion`
     static void createCSChatAndQuickVersionTable();
+
     /// `dingmsginfo` and `dingsmsgfileoinfo`
     static void createDingMsgTable();
+
     /// `dingmsgversion`. Deliberately outside createTable(): no file has it unless the host asks for it.
     static void createDingVersion();
 
@@ -169,6 +205,7 @@ public:
 
     /// `last_time`, with its one row when the table is new.
     static void createLastTimeTable();
+
     /// `voipConferenceInfo`
     static void creatVoipConferenceInfoTable();
 };

@@ -23,6 +23,7 @@ public:
     /// Opens the connection for such a flow; false when it cannot be opened. Opened so, the
     /// connection's statements do not wait for locks by themselves; after a plain open they do.
     static bool open(QSqlDatabase &db);
+
     /// Whether the statement failed because another connection has locked the file.
     static bool isLockedOut(const QSqlError &error);
 
@@ -32,9 +33,11 @@ public:
     /// Executes a statement on the connection; whether it ran. One that a lock keeps from it is tried again until what
     /// all statements together may wait is used up; the error in `query` is the last try's.
     bool execute(QSqlQuery &query, const QString &statement);
+
     /// The same for one that is made ready in some way: `tryOnce` executes `query`, each time from the beginning, and
     /// returns whether it ran.
     bool execute(const QSqlQuery &query, const std::function<bool()> &tryOnce);
+
     /// Gives the connection, for whatever follows, the waiting time of Qt's driver for each statement.
     void end();
 

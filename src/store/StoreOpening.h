@@ -19,6 +19,7 @@ public:
     /// Begins over `db`, opened by LockWait::open(), with the session's setting: SQLite does not wait for the disk.
     /// Setting it reads the schema, so a lock that stays makes the opening fail here.
     explicit StoreOpening(const QSqlDatabase &db);
+
     /// The session's statements wait again as Qt's driver lets them.
     ~StoreOpening();
     StoreOpening(const StoreOpening &) = delete;
@@ -27,9 +28,11 @@ public:
     /// Whether there is an opening whose setting or whose question about the schema met a lock that stayed. It goes no
     /// further then.
     static bool isShutOut();
+
     /// Executes a statement that changes something; true when it ran. When a lock kept it from running, the opening
     /// goes on.
     static bool execute(QSqlQuery &query, const QString &statement);
+
     /// Executes a question about the schema; true when there is a row, on which `query` then stands.
     static bool ask(QSqlQuery &query, const QString &statement);
 

@@ -21,8 +21,10 @@ QString direction(bool bCreatedByMe);
 
 /// "Mute", or "Unmute" for one who is muted.
 QString muteOrUnmute(bool bMuted);
+
 /// Taking a member out of the conference.
 QString removal();
+
 /// Calling a member again.
 QString callAgain();
 

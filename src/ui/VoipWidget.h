@@ -159,8 +159,10 @@ signals:
 protected:
     /// The cursor over any part of the window decides at which edges it stands, as long as no drag of it is on.
     bool event(QEvent *event) override;
+
     /// Escape in the window or one of its watched controls asks whether to hang up; leaving them is swallowed.
     bool eventFilter(QObject *obj, QEvent *event) override;
+
     /// A change of language renews the words of the buttons, their tips and their names, nothing else.
     void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;

@@ -36,50 +36,71 @@ public:
 
     /// How the text is shown: in clear or as a password.
     void setEchoMode(QLineEdit::EchoMode mode);
+
     /// Gives the keyboard focus to the inner edit.
     void setFocus();
+
     /// Takes the keyboard focus from the inner edit.
     void clearFocus();
+
     /// Selects the whole text.
     void selectAll();
+
     /// Replaces the text, which the limit then holds for as far as the cursor moves right.
     void setText(const QString &text);
+
     /// The text as typed.
     QString text() const;
+
     /// The text cursor's position, in UTF-16 units.
     int cursorPosition() const;
+
     /// Moves the text cursor; a position outside the text goes to its nearest end.
     void setCursorPosition(int iPosition);
+
     /// Empties the field.
     void clear();
+
     /// Lets the text be read only, or edited.
     void setReadOnly(bool bReadOnly);
+
     /// Gives the inner edit a frame, or none, as far as the style sheet leaves it one.
     void setFrame(bool bFrame);
+
     /// Lets the field take input, or greys it out.
     void setEnabled(bool bEnabled);
+
     /// Accepts only input that passes `pValidator`, which stays the caller's; null takes any.
     void setValidator(const QValidator *pValidator);
+
     /// The hint in the empty field, in the colour of the text; may be empty.
     void setPlaceholderText(const QString &text);
+
     /// Who makes the context menu of the inner edit.
     void setContextMenuPolicy(Qt::ContextMenuPolicy policy);
+
     /// The inner edit, which belongs to this widget. Never null.
     QLineEdit *getLineEdit() const;
 
     /// Limits the width of the text to `iLength` columns and cuts a text that is wider, backwards from the cursor.
     /// 0 or less lets no text stand.
     void setMaxLength(int iLength);
+
     /// Limits the number of characters to `iLength`. A present text of more characters is cut to `iLength` columns.
     void setNewMaxLength(int iLength);
+
     /// Makes a password field with the login window's placeholder.
     void setlogin();
+
     /// Sets what the field is for.
     void setType(LineEditType type);
+
     /// Treats the field as a search field, whatever `bSearch` is.
     void setSearchBtn(bool bSearch);
+
     /// Puts a delete button behind a thin line into the right end of the field; a second call does nothing.
     void addDeleteBtn();
+
     /// Shows or hides the delete button and its line; nothing happens as long as there are none.
     void showDeleteBtn(bool bShow);
 

@@ -17,8 +17,10 @@ public:
 
     /// With true, the menu's entry for pasting sends signal_paste() and does not paste. False at first.
     void setEmitPaste(bool bEmitPaste);
+
     /// With true, the field no longer sets its style sheet, for an owner that sets one of its own. False at first.
     void setBSelfStyle(bool bSelfStyle);
+
     /// Of a longer text that is pasted or dropped, only the first `iUnits` UTF-16 units are inserted, as plain text.
     /// This is for an owner that cuts the text to a few characters anyway: millions of them would be laid out before. A
     /// negative number, as at first, inserts everything.

@@ -21,6 +21,7 @@ protected:
                peer.nextNotification().startsWith(QLatin1String("12 ")) &&
                peer.nextNotification().startsWith(QLatin1String("12 "));
     }
+
     /// A conference of the user 100 with these members; the lines up to their own are taken.
     static bool requestConference(CallProcess &peer, const QJsonArray &members)
     {
@@ -29,6 +30,7 @@ protected:
                peer.nextNotification() == QLatin1String("18") &&
                peer.nextNotification().startsWith(QLatin1String("12 "));
     }
+
     /// The line by which a conference of the two is to have these users too.
     static QByteArray addLine(const QJsonValue &users)
     {
@@ -36,6 +38,7 @@ protected:
                                  {users, QStringLiteral("100"), QStringLiteral("100"), false, QString(),
                                   QJsonArray{QStringLiteral("100"), QStringLiteral("30010001")}});
     }
+
     /// The word of the conference's creator about that user.
     static void control(CallProcess &peer, const char *operation, const char *user)
     {

@@ -20,15 +20,19 @@ public:
 
     /// Speaks and hears by these devices of the sound server instead.
     void useDevices(const QString &microphone, const QString &speaker);
+
     /// Answers when it is told to, and not by itself.
     void waitToAnswer() { m_answers = false; }
 
     /// Starts it and waits until it has registered. Whether it has.
     bool start();
+
     /// Starts it without its account. Whether it takes commands.
     bool startSignedOff();
+
     /// Signs in with the account. Whether the telephone took the command.
     bool signIn();
+
     /// Calls a user. Whether the telephone took the command.
     bool call(const QString &userId);
     bool accept() { return command("accept", {}); }
@@ -36,6 +40,7 @@ public:
 
     /// Waits for a report of this kind, such as CALL_ESTABLISHED; those before it are forgotten. Whether it comes.
     bool reports(const QByteArray &kind);
+
     /// Waits for a text in what it says.
     bool waitSaid(const QString &text) const;
 

@@ -13,13 +13,16 @@ class ChildProgram : public QProcess
 public:
     /// Its output goes to `log`, a file in the test's folder.
     explicit ChildProgram(const QString &log = QStringLiteral("children.log"));
+
     /// Ends the child, by force when it does not obey.
     ~ChildProgram() override;
 
     /// Starts the program. Whether it has been.
     bool begin(const QString &program, const QStringList &arguments);
+
     /// Asks the child to end, and makes it and its own children after a while.
     void finish();
+
     /// Kills the child and its own children.
     void killAll();
 

@@ -16,6 +16,7 @@ class ExchangeTest : public QObject
 protected:
     /// Begins with a folder of its own.
     void begin();
+
     /// Waits until nothing of the exchange runs any more, or fails.
     void end();
 
@@ -27,8 +28,10 @@ protected:
 
     /// This process as one that will join.
     std::unique_ptr<EmbeddedExchange> exchange(const QString &kamailio = {}) const;
+
     /// The same, joined; null when the exchange does not come.
     std::unique_ptr<EmbeddedExchange> joined() const;
+
     /// Another process that joins, and is killed with its object.
     struct Killed
     {
@@ -36,6 +39,7 @@ protected:
     };
     using Member = std::unique_ptr<QProcess, Killed>;
     Member member() const;
+
     /// Whether the member says a line that begins so; what it says before it is forgotten.
     static bool says(QProcess &member, const QByteArray &begin);
 
@@ -43,6 +47,7 @@ protected:
     QList<qint64> keepers() const { return keepersOf(folder()); }
     QList<qint64> servers() const { return serversOf(folder()); }
     qint64 firstServer() const;
+
     /// Whether nothing runs any more for this folder, or for that one, within the patience.
     bool isAllGone() const { return isAllGoneOf(folder()); }
     static bool isAllGoneOf(const QString &folder);

@@ -15,6 +15,7 @@ public:
 
     /// Connects to the exchange. Whether it has.
     bool connect();
+
     /// How he calls himself in From instead of his id and the exchange's domain.
     void setFrom(const QString &user, const QString &domain);
 

@@ -19,10 +19,13 @@ struct SipMessage
     QList<QByteArray> headers;
 
     bool isEmpty() const { return firstLine.isEmpty(); }
+
     /// Of an answer; 0 for a request.
     int code() const;
+
     /// The value of the first header of this name; empty when there is none.
     QByteArray header(const char *name) const;
+
     /// All headers of this name, whole.
     QList<QByteArray> headersNamed(const char *name) const;
 };
@@ -40,8 +43,10 @@ public:
     bool connectToExchange();
     bool isConnected() const { return m_socket->state() == QAbstractSocket::ConnectedState; }
     void disconnectFromExchange();
+
     /// Its own end of the connection.
     quint16 localPort() const { return m_socket->localPort(); }
+
     /// What went wrong with the connection.
     QString error() const { return m_socket->errorString(); }
 
@@ -55,20 +60,26 @@ public:
         QByteArray more; ///< headers, each with its line end
         bool sign = true;
     };
+
     /// Sends the request, and signs it once it is asked to.
     void begin(const Wish &wish);
+
     /// The final answer to it; 0 when none comes.
     int finish();
+
     /// Both.
     int request(const Wish &wish);
+
     /// The same for a registration; `from` other than the user is a lie.
     int registerUser(int expires = 60, const QByteArray &from = {});
+
     /// The same for a call to a user that nobody has to answer.
     int call(const QByteArray &user) { return request(callTo(user)); }
     Wish callTo(const QByteArray &user) const { return {"INVITE", uriOf(user), {}, {}, {}}; }
 
     /// The next message; empty when none comes.
     SipMessage next();
+
     /// Answers a request.
     void answer(const SipMessage &request, const QByteArray &status);
 

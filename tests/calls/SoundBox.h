@@ -26,20 +26,27 @@ public:
 
     /// Has the person speak: a tone, from now on, with pauses for breath when asked for.
     bool speak(const QString &name, int hertz, bool withPauses = false);
+
     /// Has the person's microphone "loop-NAME" hear what his loudspeaker gets. Whether the server obeyed.
     bool loop(const QString &name);
     static QString loopOf(const QString &name) { return QStringLiteral("loop-") + name; }
+
     /// Plays a tone to the person's loudspeaker, a tenth of a second once.
     bool beep(const QString &name, int hertz);
+
     /// Takes the person's loudspeaker away, or gives it back. Whether the server obeyed.
     bool takeSpeaker(const QString &name);
     bool giveSpeaker(const QString &name);
+
     /// Has the desktop choose this person's loudspeaker. Whether the server obeyed.
     bool chooseSpeaker(const QString &name);
+
     /// Has the person's loudspeaker recorded, from now on.
     bool listen(const QString &name);
+
     /// How loud a tone was in the last part of what the loudspeaker got, 0 to 32767; 0 before there is as much.
     double heard(const QString &name, int hertz, double seconds = 0.5) const;
+
     /// When the tone began in what was recorded, in seconds of the recording, each time after a silence.
     QList<double> begins(const QString &name, int hertz) const;
 

@@ -22,6 +22,7 @@ public:
 
     /// Does one thing and looks. Empty when all is as it should be, else what is wrong.
     QString step();
+
     /// Compares the records with what the ends should have left.
     QString recordFault() const;
 

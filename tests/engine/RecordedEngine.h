@@ -11,14 +11,17 @@ class RecordedEngine : public EngineFixture
 {
 public:
     explicit RecordedEngine(Start start = WithCallProcess);
+
     /// Closes the store.
     ~RecordedEngine();
 
     /// The conference records as the file holds them, by id: each column as an SQL literal, in the table's order, so
     /// that an empty text ('') and none (NULL) differ.
     QList<QStringList> rows() const;
+
     /// The rows, each with its columns joined by blanks.
     QStringList records() const;
+
     /// How many records the file holds.
     int count() const;
 

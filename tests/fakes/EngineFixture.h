@@ -35,6 +35,7 @@ public:
 
     /// Sends a notification straight into the engine.
     void notify(Code code, const QString &content = QString()) { notify(int(code), content); }
+
     /// The same for any number, also one that no notification has.
     void notify(int code, const QString &content = QString()) { manager->callbackMessage(code, content); }
 

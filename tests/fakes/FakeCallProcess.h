@@ -26,17 +26,22 @@ public:
 
     /// Opens the server again after close().
     void open();
+
     /// Closes the server and the connection, as the death of the process does.
     void close();
+
     /// Closes the connection alone.
     void dropClient();
 
     /// Writes bytes as they stand.
     void send(const QByteArray &bytes);
+
     /// One notification as a line.
     static QByteArray line(Code code, const QString &content = QString()) { return line(int(code), content); }
+
     /// The same for any number, also one that no notification has.
     static QByteArray line(int code, const QString &content = QString());
+
     /// A line from the plug-in, with its line feed, as takeLines() shows it.
     static QString shown(const QByteArray &line);
 
@@ -44,6 +49,7 @@ public:
     /// connections since the last call. A command is given as its name and its parameters in compact JSON ("CallUser
     /// "anna" false"), any other line as it stands.
     QStringList takeLines(QLocalSocket *client);
+
     /// The same after the client has closed its end.
     QStringList takeLastLines();
 

@@ -45,6 +45,7 @@ public:
 
     /// The events of the command `msgId`, oldest first.
     QList<ReceivedEvent> received(int msgId) const;
+
     /// The command numbers received, oldest first.
     QList<int> commands() const;
 

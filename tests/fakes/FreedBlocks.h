@@ -7,6 +7,7 @@ namespace FreedBlocks {
 
 /// A new block from ::operator new that is watched from now on. At most 16 in one program.
 void *watched();
+
 /// Whether the watched `block` has been freed.
 bool isFreed(const void *block);
 

@@ -16,6 +16,7 @@ class LogCapture
 public:
     /// Starts the writer, sets `context` as the shared client context and makes the log manager.
     LogCapture();
+
     /// Stops the writer.
     ~LogCapture();
 

@@ -16,6 +16,7 @@ public:
 
     /// Makes this the process's manager until it is destroyed.
     void use() { CVoipManage::m_pInstance = this; }
+
     /// Whether the process has a manager.
     static bool exists() { return CVoipManage::m_pInstance != nullptr; }
 

@@ -45,6 +45,7 @@ public:
     void inviteAgain(const QString &uid);
     void removeMember(const QString &uid);
     void control(const QString &operation, const QString &uid);
+
     /// A device command of the window, as the journal shows it.
     void device(const QString &command) { send(command); }
 
@@ -75,5 +76,6 @@ QString shownCall(const CallData &call);
 
 /// A value in compact JSON.
 QString shownJson(const QString &text);
+
 /// A list in compact JSON; null for an empty one.
 QString shownJson(const QStringList &texts);

@@ -22,8 +22,10 @@ public:
     /// The commands that came from the plug-in, each as its name and its parameters in compact JSON ("CallUser "anna"
     /// false"); any other line as it stands.
     QStringList commands() const;
+
     /// The commands' names alone; an empty one for a line that is no command.
     QStringList commandNames() const;
+
     /// Codes of the notifications sent to the plug-in; -1 for a write that is no notification.
     QList<int> codes() const;
 

@@ -38,23 +38,29 @@ public:
 
     /// Names of the commands that the call process has got, oldest first.
     QStringList commandsOnWire() const;
+
     /// How often the command is on the wire.
     int countOnWire(const QString &name) const;
+
     /// Codes of the notifications that the call process has sent, oldest first.
     QList<int> codesOnWire() const;
 
     /// Process id of the youngest call process; 0 when none was started.
     qint64 callProcessId() const;
     bool callProcessLives() const;
+
     /// Ends it without a chance to say anything; true once it is gone.
     bool killCallProcess();
+
     /// Starts another one, as an operator would.
     bool startCallProcess();
 
     /// The call window, shown or hidden; null before the first command.
     QWidget *callWindow() const;
+
     /// Text of a label of the call window.
     QString callWindowText(const char *label) const;
+
     /// What takes the clicks on a button of the call window.
     QWidget *callWindowButton(const char *name) const;
 

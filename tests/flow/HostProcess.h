@@ -16,6 +16,7 @@ class HostWorld
 public:
     /// Starts a call process that lives on when a host ends.
     HostWorld();
+
     /// Ends the call process.
     ~HostWorld();
     HostWorld(const HostWorld &) = delete;
@@ -27,10 +28,13 @@ public:
     /// Why the store is not sound, or which record is not whole; empty when all is well. With `bMayLackCall` a record
     /// may be one of a conference that was never heard of again.
     QString fault(bool bMayLackCall) const;
+
     /// The ids of the conference records in the store; one may be empty.
     QStringList records() const;
+
     /// The ids of the conferences that the call process has told a host as created.
     QStringList created() const;
+
     /// What the call process wrote down.
     QByteArray trace() const;
 

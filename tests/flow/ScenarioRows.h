@@ -32,10 +32,13 @@ QList<Row> scenarioRows();
 
 /// A call that the host places to `uid`, up and shown in its window.
 Step call(const QString &uid);
+
 /// The user presses a button of the call window.
 Step press(const char *button);
+
 /// The call is up on both sides.
 Step untilConnected();
+
 /// The call is over on this side: nothing of it is left.
 Step untilIdle();
 

@@ -19,8 +19,10 @@ class ScenarioRun
 public:
     /// Starts the engine, which starts the call process with the scenario `strName`; its delays are much shortened.
     explicit ScenarioRun(const QString &strName);
+
     /// Plays only the first `iStatements` of the scenario. Whatever is waited for, the waiting ends with the last one.
     ScenarioRun(const QString &strName, int iStatements);
+
     /// Ends the call process in any case.
     ~ScenarioRun();
     ScenarioRun(const ScenarioRun &) = delete;
@@ -28,8 +30,10 @@ public:
 
     /// Where the ready scenarios stand.
     static QString folder();
+
     /// The names of all ready scenarios, sorted.
     static QStringList names();
+
     /// How many statements of the scenario `strName` can be played and leave its process alive; a block counts as one,
     /// one that only prepares the rest as none.
     static int statements(const QString &strName);
@@ -43,29 +47,37 @@ public:
 
     /// Lets the event loop run until `condition` holds; false when it does not come to that.
     bool waitFor(const std::function<bool()> &condition) const;
+
     /// Whether the call process has gone through its scenario.
     bool isPlayed() const { return trace.texts('=').contains("scenario played"); }
+
     /// Tries to connect until the call process is there, without waiting for the back-off.
     bool connectChannel();
+
     /// Presses a button of the call window; false when the window has none of this name or does not show it.
     bool press(const char *button);
+
     /// Clicks into the rectangle that stands in the role `rectRole` of the member's row in the call window; false when
     /// there is no such row or it has none.
     bool clickMember(const QString &strUid, int rectRole);
+
     /// Double-clicks on the member's row; false when there is none.
     bool doubleClickMember(const QString &strUid);
 
     /// Whether nothing waits in the channel to be read; nothing does in one that is gone.
     bool hasReadAll() const;
+
     /// Kills the call process once the engine has read all that it wrote. False when either does not happen, or when
     /// the engine does not see the loss.
     bool killCallProcess();
+
     /// Starts another call process with the scenario `strName`, as an operator would. From here on `trace` is its own.
     bool startAnother(const QString &strName);
 
     /// Waits until the scenario has been gone through or its process has died of it, gives the host's exit command, and
     /// returns the exit code of the call process; -1 when it did not end.
     int finish();
+
     /// What the call process found wrong with what the plug-in sent.
     QList<QByteArray> complaints() const { return trace.texts('!'); }
 

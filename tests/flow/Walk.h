@@ -14,6 +14,7 @@ public:
 
     /// Does one thing. Its name stands in `last`.
     void step();
+
     /// Why the engine does not stand as the model after the last step; empty when it does. Takes out what both have
     /// said.
     QString fault();

@@ -17,10 +17,13 @@ public:
 
     /// A user id: the own one, one of a few others, now and then an odd one.
     QString uid();
+
     /// Up to five user ids; one may stand twice.
     QStringList uids();
+
     /// A document of the kind that the code carries, or something else.
     QString content(int code);
+
     /// A line with its line feed: a notification, or something broken.
     QString line();
 

@@ -20,6 +20,7 @@ protected:
 
     /// A path in the folder of this test function.
     QString inFolder(const QString &strPath) const { return m_folder->filePath(strPath); }
+
     /// The file of cUser's settings.
     QString userFile() const { return m_folder->filePath(QString(cUser) + "/newConfig.ini"); }
 

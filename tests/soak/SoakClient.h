@@ -29,6 +29,7 @@ class SoakClient
 public:
     /// The call process's robots are to be `speed` times as fast.
     explicit SoakClient(int speed);
+
     /// Quits, and ends a call process that is still there.
     ~SoakClient();
     SoakClient(const SoakClient &) = delete;
@@ -40,35 +41,47 @@ public:
 
     /// Places a call; there is one when this returns.
     void call(const QString &uid, bool video = false);
+
     /// Starts a conference; there is one when this returns.
     void callConference(const QStringList &uids);
+
     /// Calls a robot that rejects and comes back; waits until the call or the invitation that it makes rings.
     void letCallBack(const QString &uid);
+
     /// Answers what rings.
     void answer(bool accept);
 
     /// Waits until one more call has ended, by the host's record, and gives the record.
     CallRecord finished();
+
     /// Waits until there is no call in any state.
     void waitForNoCall();
+
     /// Waits until the call window says that the call is connected; false when the call has ended before.
     bool waitForConnection();
+
     /// Waits until the conference has ended or the member's row in the call window has another status than that of
     /// being called.
     void waitForStatus(const QString &uid);
+
     /// Waits until the conference has ended or the member's row has this status.
     void waitForStatus(const QString &uid, int status);
+
     /// Waits until the call process has answered to a registration: nothing that it said before is still on its way.
     void waitForSilence();
+
     /// Waits until the call process has registered the user once more than when `before` was taken.
     void waitForRegistration(int before);
+
     /// How often the call process has registered the user.
     int registrations() const;
 
     /// Clicks on a part of the call window.
     void click(const char *name);
+
     /// Closes the call window.
     void closeWindow();
+
     /// Opens the conference centre, moves the mouse over its list and out of it, closes it.
     void visitCentre();
 

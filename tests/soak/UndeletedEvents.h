@@ -22,6 +22,7 @@ public:
 
     /// How many of a kind were taken.
     qint64 taken(EMsgId kind) const;
+
     /// What all that were taken held on the heap, in bytes.
     qint64 takenBytes() const { return m_bytes; }
 

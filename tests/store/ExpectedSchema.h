@@ -15,19 +15,25 @@ struct ExpectedTable : DocumentedTable
 
     /// The text that a fresh file keeps of the table.
     QString createSql() const;
+
     /// The text that the file keeps of a table with only these of its columns.
     QString createSql(const QStringList &ofColumns) const;
+
     /// The statement that makes one of its indexes.
     QString indexSql(const ExpectedIndex &index) const;
+
     /// The names of its indexes, sorted.
     QStringList indexNames() const;
+
     /// The columns of the first release.
     QStringList oldestColumns() const;
 };
 
 /// All tables of a fresh file.
 const QVector<ExpectedTable> &expectedTables();
+
 /// The one of that name; it must be there.
 const ExpectedTable &expectedTable(const QString &name);
+
 /// The table that has a creator and is no part of a fresh file.
 const ExpectedTable &expectedDingVersionTable();

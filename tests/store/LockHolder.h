@@ -21,10 +21,13 @@ public:
                         {QStringLiteral("hold"), strFile, strStatements, QString::number(iMilliseconds)});
         m_bHeld = m_process.waitForReadyRead(cPatienceMs) && m_process.readLine() == "held\n";
     }
+
     /// Whether it got its lock.
     bool hasHeld() const { return m_bHeld; }
+
     /// Whether it still has it.
     bool holds() { return !m_process.waitForReadyRead(0) && m_process.state() == QProcess::Running; }
+
     /// Ends it; whether all went well with it.
     bool letGo()
     {

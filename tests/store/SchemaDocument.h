@@ -39,6 +39,7 @@ SchemaDocument readSchemaDocument(const QString &text);
 
 /// The first word of a column's line.
 QString columnName(const QString &column);
+
 /// What PRAGMA table_info says of a column's line: name, type, not null, default as SQL, place in the primary key;
 /// empty for a text that is no column.
 QString columnInfo(const QString &column);

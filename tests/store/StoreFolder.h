@@ -26,10 +26,13 @@ private slots:
 protected:
     /// Puts a store with these bytes into the folder.
     bool putFile(const QByteArray &bytes) const;
+
     /// What the store's file holds.
     QByteArray fileBytes() const;
+
     /// The names of all files in the user's folder.
     QStringList fileNames() const;
+
     /// Column 0 of the statement's first row, by a connection of the test's own; empty for none.
     QString ask(const QString &strStatement) const;
 

@@ -16,6 +16,7 @@ class StoreTest : public QObject
 protected:
     /// Runs a statement beside the session, in the file of "anna"; false when it fails.
     bool run(const QString &statement) { return BesideFile(m_store->file()).run(statement); }
+
     /// The rows that a query gives there.
     QStringList stored(const QString &statement) { return BesideFile(m_store->file()).rows(statement); }
 

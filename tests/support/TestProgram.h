@@ -24,6 +24,7 @@ struct TestClass
     /// Its source, which Qt Test's findTestData starts from.
     const char *source;
     TestSurroundings surroundings;
+
     /// A new object of it, made once its surroundings stand.
     std::unique_ptr<QObject> (*make)();
 };

@@ -27,14 +27,19 @@ protected:
         return m_pWindow->findChild<Widget *>(QLatin1String(name));
     }
     CConferenceInfoListView *list() const { return part<CConferenceInfoListView>("listView"); }
+
     /// The conference ids of all rows from the top.
     QStringList ids() const;
+
     /// Compares the page that is shown, and its button, with the page of that number.
     void expectPage(int iPage) const;
+
     /// Runs a slot of the window with a conference id.
     void call(const char *pSlot, const QString &strConfID);
+
     /// A record of a conference that "ann" called.
     static ConfInfoData record(const QString &strConfID, const QStringList &members = {"ann", "me"});
+
     /// A window over a store with these records.
     void open(const QStringList &confIds);
     void showAt(const QPoint &corner);

@@ -40,22 +40,30 @@ protected:
     static ConfInfoData record(const QString &strConfID, bool bConnected = true,
                                const QString &strCreator = QStringLiteral("ann"),
                                const QString &strCallTime = QStringLiteral("75"));
+
     /// The conference ids of all rows from the top.
     QStringList ids() const;
+
     /// The records in rows on the screen, painted.
     void show(const QList<ConfInfoData> &records);
 
     void moveTo(const QPoint &position);
+
     /// Moves the cursor onto the row, away from head and button, and waits for the row to be painted so.
     void hover(int iRow);
+
     /// Opens the menu of the row with the right button.
     void openMenu(int iRow);
+
     /// The texts of the menu's entries.
     QStringList entries() const;
+
     /// Clicks the menu's entry.
     void choose(int iEntry);
+
     /// The delay of the signature card is over.
     void signDelayIsOver() { QVERIFY(QMetaObject::invokeMethod(m_pList.get(), "slot_ShowSign")); }
+
     /// What the host has been told of the signature card since the last call: its fields, or "close".
     QStringList takeSigns();
 

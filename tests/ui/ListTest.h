@@ -17,10 +17,13 @@ class ListTest : public QObject
 protected:
     QModelIndex index(int iRow) const { return m_pList->model()->index(iRow, 0); }
     QVariant data(int iRow, int iRole) const { return index(iRow).data(iRole); }
+
     /// Where a hit rectangle stands as the item has it.
     QRect place(int iRow, int iRole) const { return data(iRow, iRole).toRect(); }
+
     /// Where the row stands in the viewport.
     QRect row(int iRow) const { return m_pList->visualRect(index(iRow)); }
+
     /// The list as it is painted now. The rows move to their new places from the event loop.
     QImage picture() const
     {

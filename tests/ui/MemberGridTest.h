@@ -72,6 +72,7 @@ protected:
         delay()->blockSignals(true);
         m_pHost->events.clear();
     }
+
     /// Moves the screen's cursor there and waits for the grid to learn of it.
     void moveTo(const QPoint &position)
     {

@@ -20,12 +20,14 @@ protected:
     int rowCount() const { return m_pList->model()->rowCount(); }
     int status(int iRow) const { return data(iRow, ROLE_CALL_STATUS).toInt(); }
     QTimer *watchdog() const;
+
     /// What the watchdog does every two minutes.
     void tick() { QVERIFY(QMetaObject::invokeMethod(m_pList.get(), "slot_UpdateCallStatu")); }
     void addContact(const char *uid, const QString &strNick, const QString &strPhoto = {});
 
     /// `iRows` members of this status in a list of 523 by 280 pixels on the screen, painted.
     void showMembers(int iRows, int iStatus = ConferenceConnected);
+
     /// Puts the list with what it holds on the screen.
     void showList();
 

@@ -31,6 +31,7 @@ public:
     }
     int count() const { return m_regions.size(); }
     QRegion last() const { return m_regions.last(); }
+
     /// Whether anything waits to be painted: a repaint of one pixel takes along what is due.
     bool isAnyDue() const
     {

@@ -25,9 +25,11 @@ public:
         moveOut();
         QCoreApplication::processEvents();
     }
+
     /// Moves the mouse to a point of the shown window, or to its corner, where no part stands.
     void moveTo(const QPoint &point) { QTest::mouseMove(windowHandle(), point); }
     void moveOut() { moveTo(QPoint(2, 2)); }
+
     /// Deletes the part and hides the window, the mouse in its corner.
     void takeAway(QWidget *part)
     {

@@ -32,6 +32,7 @@ public:
 
     /// Signs the user in, again if he is; another one's registration is taken back. The answer is reported.
     void signIn(const QString &userId, const QString &nickName, const Credentials &credentials);
+
     /// Takes the registration back. Without one: no effect.
     void signOut();
 
@@ -43,8 +44,10 @@ public:
                 const std::string &message, QString *why);
 
     bool isRegistered() const { return m_registered; }
+
     /// Whether the last loss was one of the connection, and there is another server to try.
     bool mayTryNextServer() const { return m_unreachable && m_access.servers.size() > 1; }
+
     /// Registers at the server after the present one, behind the last one at the first again.
     void tryNextServer();
 

@@ -32,11 +32,13 @@ public:
 
     /// The exchange is at another place, or has come anew: who signs in from now on does so there.
     void takeExchange();
+
     /// The exchange has gone: nobody is registered, until `registered` says so anew. No signal; a call goes on.
     void loseExchange();
 
     /// Starts the library. False with `error` set when it cannot be.
     bool start(QString *error);
+
     /// Ends the call, takes the registration back, stops the library. Takes seconds at most, with the exchange gone
     /// too.
     void stop();
@@ -44,16 +46,20 @@ public:
     /// Signs the user in, again if he is; ends a call of another user and takes that one's registration back.
     /// `registered` or `registrationLost` follows.
     void signIn(const QString &userId, const QString &nickName, const Credentials &credentials);
+
     /// Ends the call and takes the registration back, without a signal.
     void signOut();
     bool isRegistered() const;
 
     /// Calls a user; what there was of a call ends without a signal. False when it cannot be placed.
     bool call(const QString &userId);
+
     /// Accepts the call that has arrived, otherwise no effect.
     void accept();
+
     /// Cancels, rejects or hangs up the call, without a signal. Without one: no effect.
     void end();
+
     /// Refuses the call that has arrived, without a signal: as that of one who is busy, or as of nobody who could
     /// answer.
     void refuse(bool asBusy);

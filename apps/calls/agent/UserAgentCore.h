@@ -51,6 +51,7 @@ private:
     /// Runs what may throw; the exception ends here with a remark.
     template <class Action>
     void guard(const Action &action);
+
     /// The library is asked more often for a while: something is under way.
     void hurry();
     void refreshDevices();

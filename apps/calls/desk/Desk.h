@@ -25,6 +25,7 @@ public:
 
     /// `access` names the exchange of one's own, for the first time or anew: whoever is signed in registers there.
     void takeExchange();
+
     /// That exchange has gone or cannot be started, for this reason.
     void loseExchange(const QString &why);
 

@@ -20,6 +20,7 @@ public:
 
     /// `access` names the exchange, for the first time or anew: the echo registers there.
     void takeExchange();
+
     /// The exchange has gone or cannot be started, for this reason.
     void loseExchange(const QString &why);
 

@@ -29,6 +29,7 @@ class EmbeddedExchange : public QObject
 public:
     /// `folder` and `kamailio` as calls.ini has them, empty: by itself; `keeper` is the program kelvarim-exchange.
     EmbeddedExchange(QString folder, QString kamailio, QString keeper, QObject *parent = nullptr);
+
     /// Leaves. The last one that leaves ends the exchange, and so does its death.
     ~EmbeddedExchange() override;
 
@@ -38,6 +39,7 @@ public:
 
     /// Whether `ready` was the last that was said.
     bool isReady() const { return m_ready; }
+
     /// Where it was when it last was ready.
     const ExchangePlace &place() const { return m_place; }
 

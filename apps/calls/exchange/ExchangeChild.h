@@ -11,6 +11,7 @@ class ExchangeChild : public QProcess
 
 public:
     explicit ExchangeChild(QObject *parent = nullptr);
+
     /// Ends the group.
     ~ExchangeChild() override;
 

@@ -37,6 +37,7 @@ public:
 
     /// `folder` as ExchangeFolder::take gave it; `program` is Kamailio, empty: looked for.
     ExchangeKeeper(QString folder, QString program, QObject *parent = nullptr);
+
     /// Ends the exchange.
     ~ExchangeKeeper() override;
 

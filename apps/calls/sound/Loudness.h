@@ -22,6 +22,7 @@ public:
     };
 
     void setEnabled(Side side, bool enabled) { of(side).enabled = enabled; }
+
     /// 0 is silence, 10 unchanged; others are taken as the nearer of both.
     void setVolume(Side side, int volume) { of(side).volume = volume; }
 

@@ -24,6 +24,7 @@ public:
 
     void playBusy(linphone::Core &core) { play(core, m_busy); }
     void playFailed(linphone::Core &core) { play(core, m_failed); }
+
     /// Silence. Without a tone: no effect.
     void stop();
 

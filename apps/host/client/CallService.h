@@ -34,24 +34,31 @@ public:
     explicit CallService(QObject *parent = nullptr);
 
     State state() const { return m_state; }
+
     /// How many tries were made.
     int attempt() const { return m_iAttempt; }
+
     /// How many tries there are.
     int attempts() const { return int(m_pauses.size()); }
+
     /// Sets the pauses before the tries, in milliseconds, as many as there are tries. For tests.
     void setPauses(std::vector<int> pauses) { m_pauses = std::move(pauses); }
+
     /// Seconds until the next try, rounded up; 0 when none is waited for.
     int secondsToNext() const;
+
     /// Whether the last try did not even start the program.
     bool isProgramMissing() const { return m_bMissing; }
 
     /// Process id of the call process that the plug-in is connected to; 0 for none.
     qint64 process() const { return m_iPeer; }
+
     /// Where the call process writes its trace, whoever started it; where this client's own would, while there is none.
     const CallChannel::Trace &trace() const { return m_place; }
 
     /// The user is signed in from now on, or no longer.
     void setWanted(bool bWanted);
+
     /// Starts the call process now and gives it all tries anew; nothing happens while one runs or nobody is signed in.
     void startNow();
 

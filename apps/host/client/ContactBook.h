@@ -32,8 +32,10 @@ public:
 
         /// The alternative name of the card, what this contact does, in the client's language.
         QString alternative() const;
+
         /// The same for a card, which always has one: the number of who does what he likes.
         QString cardAlternative() const { return *habit == '\0' ? uid : alternative(); }
+
         /// The nick name; of a stranger the number.
         QString shownName() const { return known ? nick : uid; }
     };
@@ -85,6 +87,7 @@ public:
     /// The user calls somebody by the number: who has no card has a record from now on whose name it is. An empty id
     /// has none.
     void takeNumber(const QString &strUid);
+
     /// The stranger's card has been fetched: from now on there is a record with it. Others stay as they are.
     void learn(const QString &strUid);
 

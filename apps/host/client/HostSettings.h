@@ -24,33 +24,40 @@ public:
 
     /// The file of the signed-in user's settings.
     static QString userFile();
+
     /// The file of the settings that all users of this computer share.
     static QString commonFile();
 
     /// Whether the ring of an incoming call is kept silent.
     static bool isSilent();
+
     /// Writes it; the plug-in follows with the next call. False where it cannot be written.
     static bool setSilent(bool bSilent);
 
     /// The root of all users' folders from the next start on.
     static QString dataFolder();
+
     /// Sets it; the empty text means the default one. Nothing is changed where it is not taken.
     static FolderOutcome setDataFolder(const QString &strFolder);
+
     /// Whether dataFolder() is another one than the folder in use.
     static bool isDataFolderPending();
 
     /// The folder for received files.
     static QString receiveFolder();
+
     /// Sets it, as setDataFolder does.
     static FolderOutcome setReceiveFolder(const QString &strFolder);
 
     /// The language in the settings. At the very first start there is none, and one is chosen and written.
     static QString language();
+
     /// Writes it and says so by languageChanged(). False where it cannot be written.
     bool setLanguage(const QString &strLanguage);
 
     /// The name of the skin in the settings; the standard one where they name none that there is.
     static QString skin();
+
     /// Writes it and makes it the current skin of the shared context, for the plug-in's windows too. False where it
     /// cannot be written.
     bool setSkin(const QString &strName);

@@ -14,6 +14,7 @@ class HostStore
 public:
     /// Nothing is opened yet.
     HostStore() = default;
+
     /// Closes the store.
     ~HostStore();
     HostStore(const HostStore &) = delete;
@@ -23,8 +24,10 @@ public:
     /// missing; an open one is closed first. Returns whether the store is open. Waits some two seconds for a file that
     /// another program holds, and may be called again later.
     bool open(const QString &strUid, const QString &strBase);
+
     /// Closes the store and takes the connection from the shared context. Without an open store nothing happens.
     void close();
+
     /// Whether the last open() succeeded and close() has not been called since.
     bool isOpen() const { return m_bOpen; }
 

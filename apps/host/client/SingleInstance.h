@@ -28,6 +28,7 @@ public:
     /// Finds out, and asks the other one to come to the front; for `bAsk` false it is left alone: Silent. Takes some
     /// seconds at most.
     Outcome claim(bool bAsk);
+
     /// Lets another client of this user be the first: this one has left.
     void release();
 

@@ -16,13 +16,16 @@ class CallNotice : public QObject
 
 public:
     explicit CallNotice(QObject *parent = nullptr);
+
     /// Takes the notice away.
     ~CallNotice() override;
 
     /// Shows the notice; one that is still there changes over to this one. Both texts are plain.
     void show(const QString &strTitle, const QString &strText);
+
     /// Takes it away.
     void withdraw();
+
     /// Whether a notice is asked for.
     bool isShown() const { return m_bShown; }
 

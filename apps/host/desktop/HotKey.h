@@ -25,13 +25,16 @@ public:
     };
 
     explicit HotKey(QObject *parent = nullptr);
+
     /// Gives the key back.
     ~HotKey() override;
 
     /// Takes the first key of the sequence instead of the one before; the empty sequence gives that back.
     Outcome take(const QKeySequence &key);
+
     /// What came of it.
     Outcome outcome() const { return m_outcome; }
+
     /// The key that is taken or was refused.
     const QKeySequence &key() const { return m_key; }
 

@@ -16,10 +16,13 @@ public:
 
     /// Whether it is wanted.
     static bool isWanted();
+
     /// The key in the settings; Ctrl+Alt+I where they name none.
     static QKeySequence key();
+
     /// Writes it, and takes the key or gives it back. False where the settings do not take it: then nothing changes.
     bool set(bool bWanted, const QKeySequence &key);
+
     /// What came of it.
     HotKey::Outcome outcome() const { return m_key.outcome(); }
 

@@ -10,6 +10,7 @@ class DebugChannel
 public:
     /// Opens the file and takes the channel over. A file that cannot be opened takes nothing.
     explicit DebugChannel(const QString &strFile);
+
     /// Gives the channel back.
     ~DebugChannel();
     DebugChannel(const DebugChannel &) = delete;

@@ -29,6 +29,7 @@ public:
     /// While paused, what happens waits, as many rows as the model has place for: the oldest are dropped.
     void setPaused(bool bPaused);
     bool isPaused() const { return m_bPaused; }
+
     /// Rows that wait for the end of a pause.
     int waiting() const { return int(m_waiting.size()); }
 

@@ -34,6 +34,7 @@ public:
 
     /// All rows, whatever the filter shows.
     const HappeningsModel &model() const { return m_model; }
+
     /// Where the rows come from. For tests.
     HappeningsFeed &feed() { return m_feed; }
 

@@ -35,6 +35,7 @@ struct CallEntry
 
     /// Whether it is not over.
     bool isRunning() const { return outcome == outcomeRunning || outcome == outcomeRunningIn; }
+
     /// Whether it came in and was missed.
     bool isMissed() const { return outcome == outcomeMissed; }
 };

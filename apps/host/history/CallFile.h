@@ -25,6 +25,7 @@ public:
 
     /// Nothing is opened yet.
     CallFile() = default;
+
     /// Closes the file.
     ~CallFile();
     CallFile(const CallFile &) = delete;
@@ -42,6 +43,7 @@ public:
 
     /// All calls, oldest first. Those that were running when the client ended have become missed or cut off.
     std::vector<CallEntry> load();
+
     /// The ids of all conferences that have ever been added.
     QSet<QString> knownConferences();
 
@@ -50,6 +52,7 @@ public:
     bool add(std::vector<CallEntry> &entries);
     bool change(const CallEntry &entry);
     bool remove(const QSet<qint64> &ids);
+
     /// Nothing is left that the user has still to be told of.
     bool setAllSeen();
 

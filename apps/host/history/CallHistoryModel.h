@@ -28,6 +28,7 @@ public:
         When,
         ColumnCount
     };
+
     /// Which calls are left.
     enum Filter
     {
@@ -41,6 +42,7 @@ public:
     /// Leaves these calls.
     void setFilter(Filter filter);
     Filter filter() const { return m_filter; }
+
     /// Leaves of these the calls in which somebody is found by the text, see ContactSearch, and those whose outcome has
     /// it in its word. The empty text leaves all.
     void setSearch(const QString &strText);
@@ -53,8 +55,10 @@ public:
 
     /// Who is in the call, in words: the other party, or "Conference: " and its members.
     static QString whoText(const CallEntry &entry, const ContactBook &book);
+
     /// Day and time in words: "Today 09:08", "Yesterday 09:08", "2024-05-03 09:08"; empty where there is none.
     static QString whenText(const QDateTime &when, const QDate &today);
+
     /// All that the column of directions can say, in the language of the moment.
     static QStringList directions();
 

@@ -29,13 +29,16 @@ public:
 
     /// Whether the user is signed in; false before.
     void setSignedIn(bool bSignedIn);
+
     /// What call there is; none before.
     void setCall(Call call);
+
     /// How far the call service is; reached before.
     void setService(Service service);
 
     /// Whether a call can be placed.
     bool isReady() const { return m_bSignedIn && m_service == Service::Reached && m_call == Call::None; }
+
     /// The reason, in the client's language, a sentence; empty while a call can be placed.
     QString reason() const;
 

@@ -32,6 +32,7 @@ public:
 
     /// The other side has taken the call that is on.
     void noteConnected();
+
     /// The call process has gone, and with it the call that was on: it has ended here, although the plug-in keeps it
     /// until the user hangs up.
     void lose();
@@ -39,8 +40,10 @@ public:
     /// Whether there is a call, or one has been asked for and the plug-in has not decided yet. The plug-in takes no
     /// other one while it has one that is lost.
     bool hasCall() const { return m_bPlacing || m_call.id != 0; }
+
     /// Whether a call comes in that the user has neither taken nor refused.
     bool isRinging() const { return m_call.outcome == outcomeRunningIn && m_answer == Answer::None; }
+
     /// The call that is lost, and that the plug-in still has; null while there is none.
     const CallEntry *lostCall() const { return m_bLost ? &m_call : nullptr; }
 

@@ -24,8 +24,10 @@ public:
 
     /// Says this for a while.
     void say(const QString &strWords);
+
     /// Says this until the call is over.
     void hold(Words words);
+
     /// Says what is held again, in the language that the client has now; nothing where nothing is held.
     void sayHeld();
 

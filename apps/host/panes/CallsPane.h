@@ -51,6 +51,7 @@ signals:
 
 protected:
     void changeEvent(QEvent *event) override;
+
     /// Keys of table and search field, and the user's turning to the table.
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -19,17 +19,23 @@ public:
 
     /// Puts a row for each of these into the list, below those that are there.
     void add(const QList<ContactBook::Entry> &entries);
+
     /// Leaves the rows that the text finds, see ContactSearch, the first of them as the current one; returns their
     /// number.
     int filter(const QString &strText);
+
     /// Shows what is known of that person now; returns the number of rows that the last filter() finds.
     int showPerson(const ContactBook::Entry &entry);
+
     /// Makes the rows follow `before` in the order of the Tab key.
     void followInTabOrder(QWidget *before);
+
     /// Gives the focus to the current row; false when there is none.
     bool enter();
+
     /// Says why nobody can be called now; empty when one can be.
     void setObstacle(const QString &strReason);
+
     /// Draws the rows in the colours of the current skin.
     void takeSkin();
 

@@ -22,12 +22,16 @@ public:
 
     /// Puts the book's contacts into the list.
     void fill(const ContactBook &book);
+
     /// Shows what is known of that contact now.
     void showPerson(const ContactBook::Entry &entry);
+
     /// Gives the focus to the search field.
     void startSearch();
+
     /// Says why nobody can be called now: every button that would is disabled with it in its tip. Empty when one can.
     void setObstacle(const QString &strReason);
+
     /// Draws the contacts in the colours of the current skin.
     void takeSkin();
 
@@ -39,6 +43,7 @@ signals:
 
 protected:
     void changeEvent(QEvent *event) override;
+
     /// The search field's keys.
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -25,12 +25,16 @@ public:
 
     /// Shows what is known of the same person now.
     void setEntry(const ContactBook::Entry &entry);
+
     /// Whether the row and its buttons are stations of the Tab key: those of one row of a list are.
     void setTabStop(bool bStop);
+
     /// Makes row and buttons follow `before` in the order of the Tab key; returns the last of them.
     QWidget *followInTabOrder(QWidget *before);
+
     /// Says why this contact cannot be called now: the buttons are disabled with it in their tips. Empty: it can be.
     void setObstacle(const QString &strReason);
+
     /// Draws the buttons in the colours of the current skin.
     void takeSkin();
 
@@ -45,6 +49,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+
     /// Leaves the keys that move through the list to the list when a button has the focus.
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -23,8 +23,10 @@ signals:
 protected:
     /// Draws the arrow, which a form's style sheet cannot.
     void paintEvent(QPaintEvent *event) override;
+
     /// Says everything anew when the language changes.
     void changeEvent(QEvent *event) override;
+
     /// Only the open list is turned by the wheel: a page that is scrolled must not choose another device.
     void wheelEvent(QWheelEvent *event) override;
 

@@ -18,6 +18,7 @@ public:
 
     /// Shows or hides the panel.
     void setShown(bool bShown);
+
     /// By how much the main window is wider for it than the user made it.
     int grown() const { return m_iGrown; }
 

@@ -27,6 +27,7 @@ signals:
 protected:
     /// Shows what stands in the settings.
     void showEvent(QShowEvent *event) override;
+
     /// Says everything anew when the language changes.
     void changeEvent(QEvent *event) override;
 

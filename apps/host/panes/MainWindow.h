@@ -39,10 +39,13 @@ public:
 
     /// Whether calls can be placed, which the controls show.
     CallReadiness &readiness() { return m_readiness; }
+
     /// The prompt of incoming calls, hidden while none rings.
     IncomingPrompt &prompt() { return m_prompt; }
+
     /// The signature card, hidden while none is asked for.
     SignatureCard &signature() { return m_signature; }
+
     /// The settings page, hidden while it is not asked for.
     SettingsPage &settingsPage() { return m_settingsPage; }
 
@@ -57,6 +60,7 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
+
     /// Tells the plug-in that the client quits; where a call is on, only when the person agrees.
     void closeEvent(QCloseEvent *event) override;
 
@@ -68,11 +72,13 @@ private:
     void connectSession();
     void takeSkin();
     void call(const QString &strUid, bool bVideo);
+
     /// Lets the user pick people, those named checked from the start, and calls them together.
     /// `bFromPlugin`: one of its windows has asked for it.
     void startConference(const QStringList &named, bool bFromPlugin);
     void setUpCallService();
     void showOnline(bool bOnline);
+
     /// Shows in the header whether the user is registered.
     void showService();
     void showNotice();
@@ -80,6 +86,7 @@ private:
     void connectCalls();
     void showCall();
     void showReadiness();
+
     /// Says why no call can be placed now, in a box where the user looks elsewhere; false when one can.
     bool refuses(bool bInBox);
     bool mayQuit();

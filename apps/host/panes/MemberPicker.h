@@ -44,6 +44,7 @@ public:
 
     /// Runs the dialog for a new conference; nothing when it was cancelled or nobody was picked.
     static std::optional<ConferenceWish> pickNew(const ContactBook &book, const QStringList &named, QWidget *parent);
+
     /// Runs the dialog for further members; returns the picked user ids, none when it was cancelled.
     static QStringList pickMore(const ContactBook &book, const QStringList &present, QWidget *parent);
 

@@ -13,6 +13,7 @@ public:
 
     /// Of all lines that are broken at the width that the page wants.
     QSize sizeHint() const override;
+
     /// Wide enough never to be scrolled sideways.
     QSize minimumSizeHint() const override;
 

@@ -32,8 +32,10 @@ signals:
 protected:
     /// Begins to listen to the microphone.
     void showEvent(QShowEvent *event) override;
+
     /// Lets the microphone go.
     void hideEvent(QHideEvent *event) override;
+
     /// Says everything anew when the language changes.
     void changeEvent(QEvent *event) override;
 

@@ -26,11 +26,13 @@ public:
     /// A video call with this user is on: from now on the card stands over the call window whenever that shows an empty
     /// video page. Does nothing for a null `callWindow`, or for one without such a page.
     void accompany(QWidget *callWindow, const QString &strUid);
+
     /// The call is over.
     void leave();
 
 protected:
     void changeEvent(QEvent *event) override;
+
     /// Where the call window goes, and what its page gets; when the card itself has come up.
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -37,8 +37,10 @@ public:
     /// `wanted`, made smaller and moved as far as it takes to stand within one of `screens`: the one that it shares
     /// most with, the first where it shares nothing with any. `wanted` itself when there is no screen.
     static QRect fit(const QRect &wanted, const QList<QRect> &screens);
+
     /// What a screen has for a window's inside, when the frame around it has its usual size.
     static QRect insideOf(const QRect &screen);
+
     /// The insides of all screens, the first one first.
     static QList<QRect> insides();
 

@@ -17,8 +17,10 @@ public:
 
     /// Types small Latin letters, digits and spaces; false, with nothing typed, when the keyboard lacks one of them.
     bool type(const QString &strText);
+
     /// Presses the Return key; false when the keyboard lacks it.
     bool enter();
+
     /// Presses the arrow upwards or downwards so many times while Ctrl is held; false, with nothing pressed, when the
     /// keyboard lacks one of them.
     bool turn(bool bUp, int iTimes);

@@ -21,10 +21,13 @@ public:
 
     /// Moves the pointer.
     void moveTo(const QPoint &place);
+
     /// Presses the left, middle or right button where the pointer is, and holds it.
     void press(Qt::MouseButton button);
+
     /// Lets that button go.
     void release(Qt::MouseButton button);
+
     /// Presses and releases the button.
     void click(Qt::MouseButton button);
 

@@ -22,6 +22,7 @@ class HostContext
 public:
     /// Nothing is opened yet.
     HostContext() = default;
+
     /// Lets the log thread write what is queued, for two seconds at most, stops it and closes the log file.
     ~HostContext();
     HostContext(const HostContext &) = delete;

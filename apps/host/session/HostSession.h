@@ -28,6 +28,7 @@ class HostSession : public QObject
 
 public:
     explicit HostSession(ContactBook &book, QObject *parent = nullptr);
+
     /// Closes the store and takes the shared context away from this client's own code.
     ~HostSession() override;
 
@@ -46,13 +47,16 @@ public:
     /// Tells the plug-in that the login came up or went down. The first command makes the plug-in start its call
     /// process, which may take up to a second.
     void setOnline(bool bOnline);
+
     /// What setOnline() was told last; false before.
     bool isOnline() const { return m_bOnline; }
 
     /// Calls the user.
     void callUser(const QString &strUid, bool bVideo);
+
     /// Answers the prompt of an incoming call.
     void answerCall(bool bAccept);
+
     /// Starts a conference.
     void callConference(const ConferenceWish &wish);
 
@@ -64,6 +68,7 @@ public:
 
     /// Whether the plug-in has a call, in any state.
     bool isExistCall();
+
     /// What the plug-in answers to the question for a video call.
     bool isVideoCall();
 
@@ -73,20 +78,28 @@ public:
 
     /// Where the plug-in's events arrive.
     HostMailbox &mailbox() { return m_mailbox; }
+
     /// The user's local store: whether it is open, and what has to be told of it.
     const HostStore &store() const { return m_store; }
+
     /// The user's calls, from start on those of the file too.
     CallHistory &history() { return m_history; }
+
     /// The call that is on.
     const CallWatch &calls() const { return m_calls; }
+
     /// The watch over the call process.
     CallService &callService() { return m_callService; }
+
     /// The microphone and the speaker of calls.
     SoundChoice &sound() { return m_sound; }
+
     /// The user's settings; to be used after start.
     HostSettings &settings() { return m_settings; }
+
     /// The plug-in's own words about itself, "FileManagePlugin {2EFF...}"; empty before start.
     QString pluginWords() const { return m_strPlugin; }
+
     /// Path of the client's log file.
     QString logFile() const { return m_context.logFile(); }
 

@@ -33,20 +33,26 @@ public:
 
     /// The devices of the machine.
     const SoundDevices &devices() const { return m_devices; }
+
     /// Has the sound server asked anew, since a device was found to say nothing.
     void lookAgain() { m_devices.lookAgain(); }
+
     /// Those of that kind that are there.
     const QList<SoundDevices::Device> &present(Role role) const;
+
     /// What is chosen; with an empty name what the desktop has chosen.
     const SoundDevices::Device &chosen(Role role) const { return m_chosen.at(role); }
+
     /// Whether the chosen device is known not to be there.
     bool isMissing(Role role) const;
+
     /// Chooses the device; one without a name leaves it to the desktop. For call processes that are started from now
     /// on. False, and nothing is changed, where the user's settings cannot be written to.
     bool choose(Role role, const SoundDevices::Device &device);
 
     /// Whether the call process of that id was started with what holds now.
     static bool isHeededBy(qint64 pid);
+
     /// The variable of the environment.
     static const char *variable(Role role);
 

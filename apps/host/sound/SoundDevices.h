@@ -24,6 +24,7 @@ public:
 
         bool operator==(const Device &other) const { return name == other.name && shown == other.shown; }
     };
+
     /// What the server has.
     struct Lists
     {
@@ -48,9 +49,11 @@ public:
 
     /// Begins to ask; a second call does nothing.
     void start();
+
     /// Asks anew, by a new connection: the one there is may have stalled.
     void lookAgain();
     State state() const { return m_state; }
+
     /// Empty until the server has answered. What it said last stays when it falls silent or goes.
     const Lists &lists() const { return m_lists; }
 

@@ -25,8 +25,10 @@ public:
 
     /// Listens to the device of that name, to the desktop's where it is empty; to none that was listened to before.
     void listen(const QString &strDevice);
+
     /// Listens no longer: the microphone is let go.
     void stop();
+
     /// Whether listen() was called last.
     bool isListening() const { return m_pEar != nullptr; }
 

@@ -24,6 +24,7 @@ public:
 
     /// Plays the tone at the device of that name, at the desktop's where it is empty; one that still sounds ends.
     void play(const QString &strDevice);
+
     /// Ends it at once; nothing more is told of it.
     void stop();
 

@@ -11,8 +11,10 @@ public:
 
     /// How much has been recorded.
     double seconds() const;
+
     /// The level of the tone in the last half second, 0 to 32767; 0 before there is as much.
     double level(int hertz) const;
+
     /// Whether the tone is there, or nothing of it.
     bool hears(int hertz) const { return level(hertz) > cLoud; }
     bool hearsNothingOf(int hertz) const { return seconds() > 1 && level(hertz) < cSilent; }

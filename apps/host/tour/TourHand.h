@@ -27,13 +27,16 @@ public:
 
     /// Clicks, `iTimes` times in quick succession.
     void click(const Finder &where, Qt::MouseButton button = Qt::LeftButton, int iTimes = 1);
+
     /// Moves there and stays.
     void hover(const Finder &where);
+
     /// Takes the pointer out of the way, into the lower right corner of the screen.
     void rest();
 
     /// Whether everything has been done.
     bool isIdle() const { return m_gestures.isEmpty(); }
+
     /// Goes on with what is to be done; to be called often.
     void work();
 

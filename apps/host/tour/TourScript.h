@@ -19,6 +19,7 @@ public:
 
     // Actions: clicks on real buttons with the real mouse.
     Action pressContact(const char *strUid, const char *strButton) const;
+
     /// Rests the mouse on it, whether it can be pressed or not.
     Action hoverContact(const char *strUid, const char *strButton) const;
     Action pressMain(const char *strButton) const;
@@ -28,8 +29,10 @@ public:
     Action pressBox(const char *strButton) const;
     Action pressPicker(const char *strButton) const;
     Action pressCentre(const char *strButton) const;
+
     /// Turns the check marks of these people (user ids) in the picker.
     Action pick(const QStringList &uids) const;
+
     /// Clicks on a member's button in the call window, by the role that holds its rectangle.
     Action pressMember(const char *strUid, int rectRole) const;
     Action doubleClickMember(const char *strUid) const;
@@ -39,10 +42,13 @@ public:
     Action rightPressRecord(const char *strUid) const;
     Action hoverRecord(const char *strUid) const;
     Action hoverRecordHead(const char *strUid) const;
+
     /// Moves over the head of a member on the centre's detail page.
     Action hoverDetailHead(const char *strUid) const;
+
     /// Chooses from the menu that is open.
     Action choose(const char *strText) const;
+
     /// Takes the mouse out of the way.
     Action leave() const;
 
@@ -93,6 +99,7 @@ public:
     static TourCheck centreShows(const char *strPart, const QString &strText);
     static TourCheck centreGone();
     static TourCheck recordCount(int iCount);
+
     /// The place of that role in the record's row is shown.
     static TourCheck recordHas(const char *strUid, int rectRole, const QString &strWords);
     static TourCheck detailCount(int iCount);

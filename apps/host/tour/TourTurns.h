@@ -13,8 +13,10 @@ public:
 
     /// This client has come to the step of that number, from 0 on, and looks for what happens in it.
     void arrive(int iStep);
+
     /// Whether all have come to that step.
     bool areAllAt(int iStep) const;
+
     /// Writes down that something happens now, at so many seconds of the recordings.
     void mark(double seconds, const QString &strWhat) const;
 

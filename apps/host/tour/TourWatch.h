@@ -26,19 +26,26 @@ public:
 
     /// A command of the plug-in with this "messagetype"; `strPart` must stand in the same line.
     bool commanded(const QString &strType, const QString &strPart = QString()) const;
+
     /// Number of such commands.
     int commandCount(const QString &strType, const QString &strPart = QString()) const;
+
     /// Whether the first command of type `strFirst` came before the first of type `strSecond`.
     bool commandedInOrder(const QString &strFirst, const QString &strSecond) const;
+
     /// The line "quit" of the plug-in.
     bool quitLine() const;
+
     /// A notification of the call process with this code.
     bool notified(int iCode) const;
+
     /// Something that happened to the call process or that it did, whose words contain `strPart`.
     bool happened(const QString &strPart) const;
+
     /// An event from the plug-in, or to it, whose words or answer contain `strPart`.
     bool told(int iMsgId, const QString &strPart = QString()) const;
     bool asked(int iMsgId, const QString &strPart = QString()) const;
+
     /// A record with this result and direction.
     bool recorded(int iResult, bool bCaller, bool bConnected) const;
 

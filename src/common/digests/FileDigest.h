@@ -10,11 +10,13 @@ class FileDigest
 public:
     /// MD5 of the text's UTF-8 form, 32 digits.
     static QString getMd5(QString strText);
+
     /// SHA-1 of the text's UTF-8 form, 40 digits.
     static QString getSha1(QString strText);
 
     /// MD5 of a file, read in pieces of 4096 bytes. Empty for a file that does not open or cannot be read to its end.
     static QString getFileMd5(QString strPath);
+
     /// SHA-1 of a file, likewise.
     static QString getFileSha1(QString strPath);
 

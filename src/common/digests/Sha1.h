@@ -23,15 +23,19 @@ public:
 
     /// Starts a digest anew.
     static void sha1_init(sha1_ctx_t *context);
+
     /// Adds `length` octets; 0 or less adds none.
     static void sha1_update(sha1_ctx_t *context, const uint8_t *message, int length);
+
     /// Ends the digest and writes it as sha1 does; the context can then only be started anew.
     static void sha1_final(sha1_ctx_t *context, uint32_t *digest);
+
     /// Works one block of 64 octets into the five state words.
     static void sha1_core(const uint8_t *block, uint32_t *state);
 
     /// The lower-case digit of a nibble, 0 to 15; only the low four bits count.
     static char nibble_to_hex_char1(int nibble);
+
     /// `n` octets as lower-case hexadecimal text of 2n characters, of more than 32 octets the first 63. The text lies
     /// in a buffer of the process that the next call overwrites; 0 or less gives the empty text.
     static const char *octet_string_hex_string1(const void *data, int n);

@@ -17,6 +17,7 @@ constexpr int cLongestEntity = 64;
 /// Parses XML into `document`. False, with `document` empty, for text that is not well-formed, nests deeper than
 /// cDeepest or declares an entity that stands for too much.
 bool parse(const QString &strText, QDomDocument &document);
+
 /// The same for bytes, whose XML head names their codec.
 bool parse(const QByteArray &bytes, QDomDocument &document);
 

@@ -17,6 +17,7 @@ class HtmlCost
 public:
     /// How many elements may lie in each other; more are too many, whatever they cost.
     static constexpr int cMostDepth = 256;
+
     /// What HTML of so many units may cost in all. A short text gets a share for each of its units, so that it cannot
     /// cost as much as a long one; the most that any text gets leaves reading a million units below a second. The
     /// fuzzers give their texts, which are short, no more time than this.
@@ -34,26 +35,34 @@ public:
     /// An opening tag. `strKept` holds those of its attributes that are kept; `strWritten` is the name, in lower case,
     /// that is written for Qt to read.
     void open(const HtmlTag &tag, const QString &strKept, const QString &strWritten);
+
     /// A closing tag. Gives how many closing tags with the written name of the element have to be written in its place:
     /// 1 and one more for each open element within that has the same written name. 0 when the tag closes no element.
     int close(const QString &strName);
+
     /// The written name of the element that a closing tag `strName` would close; empty when it would close none.
     QString writtenName(const QString &strName) const;
+
     /// Text between two tags.
     void text(const QStringRef &text);
+
     /// A style sheet of `iUnits` characters: Qt tries its rules on each later element. With `bSiblings` its rules
     /// have selectors with + or ~.
     void addSheet(int iUnits, bool bSiblings);
 
     bool isTooHigh() const { return m_dCost > m_dMost || m_listOpen.size() > cMostDepth; }
+
     /// Whether a style element is the innermost open one, so that a text is part of a style sheet.
     bool isInStyle() const { return m_listOpen.last().kind == Style && !m_bAfterNameless; }
     bool hasSheets() const { return m_iSheetUnits > 0; }
+
     /// Whether a text at this place is shown as part of a line. It is not where it is hidden, where it stands in a
     /// table or list outside their cells or items, and within an element that has attributes which were kept.
     bool isPlainLine() const;
+
     /// Whether the list in which an item would open now has cMostItems items already.
     bool isListFull() const;
+
     /// The name of the innermost open list and its attributes that were kept; both empty when no list is open.
     QPair<QString, QString> openList() const;
 

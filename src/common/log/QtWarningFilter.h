@@ -23,11 +23,13 @@ public:
 
     /// Why a line of the channel comes. Unknown for whatever is no warning.
     static Reason reasonOf(QtMsgType type, const QString &strText);
+
     /// Whether the line's reason is known.
     static bool isKnown(QtMsgType type, const QString &strText);
 
     /// From now on the channel's handler, or Qt's own where there is none, is given no known line.
     QtWarningFilter();
+
     /// Gives the channel back to that handler.
     ~QtWarningFilter();
     QtWarningFilter(const QtWarningFilter &) = delete;

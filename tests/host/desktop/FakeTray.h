@@ -59,6 +59,7 @@ public:
         }
         return int(m_icons.size());
     }
+
     /// Clicks with the real mouse in the middle of the first icon.
     bool click() const
     {
@@ -67,6 +68,7 @@ public:
                                  {QStringLiteral("mousemove"), QStringLiteral("--window"), QString::number(m_window),
                                   middle, middle, QStringLiteral("click"), QStringLiteral("1")}) == 0;
     }
+
     /// Whether the last icon is still there.
     bool isShown()
     {

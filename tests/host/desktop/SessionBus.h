@@ -36,8 +36,10 @@ public:
         m_pApplication = std::make_unique<QApplication>(m_iArguments, m_arguments);
         return true;
     }
+
     /// Where others reach the bus; empty before it is started.
     QString address() const { return QString::fromLatin1(m_address); }
+
     /// The bus's process; 0 before it is started.
     qint64 process() const { return m_daemon.processId(); }
 

@@ -32,6 +32,7 @@ public:
         Focused = 12,
         Showing = 25
     };
+
     /// A part on the bus.
     struct Part
     {
@@ -78,6 +79,7 @@ public:
     {
         return childrenOf(QStringLiteral("org.a11y.atspi.Registry"), QStringLiteral("/org/a11y/atspi/accessible/root"));
     }
+
     /// All parts of all windows of the only application on the bus.
     QList<Part> everything() const
     {
@@ -87,6 +89,7 @@ public:
         }
         return found;
     }
+
     /// What a window shows, read from the application down; empty where the application has no such window.
     QList<Part> shownIn(QWidget &window) const
     {
@@ -100,6 +103,7 @@ public:
         }
         return found;
     }
+
     /// The part as it is now.
     Part read(Part part) const
     {
@@ -114,11 +118,13 @@ public:
         part.states = quint64(halves.value(0)) | quint64(halves.value(1)) << 32U;
         return part;
     }
+
     /// Does the first of what can be done with a part.
     void press(const Part &part) const
     {
         ask(*m_pBus, part.service, part.path, "org.a11y.atspi.Action", "DoAction", {0});
     }
+
     /// Where a part of this process stands on the bus.
     static QString pathOf(QWidget &widget)
     {
@@ -137,6 +143,7 @@ private:
         question.setArguments(arguments);
         return bus.asyncCall(question, cPatienceMs);
     }
+
     /// What a method answers. Qt's own side of the bus answers from the event loop, so that runs meanwhile.
     static QVariantList answerOf(const QDBusPendingCall &sent)
     {

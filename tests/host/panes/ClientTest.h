@@ -52,11 +52,13 @@ protected:
         QCoreApplication::sendEvent(&m_pSession->mailbox(), &event);
         return event.data;
     }
+
     /// A call of that user comes in.
     void ring(const QString &strUid)
     {
         deliver(MSG_RECEVIE_VOIP_CALL, sessionPluginId(), packPayload(strUid, false, false));
     }
+
     /// The call that ring() has begun with Anna Novak ends.
     void missCall()
     {

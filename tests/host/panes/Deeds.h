@@ -41,6 +41,7 @@ public:
                                2 * cPatienceMs) &&
                done();
     }
+
     /// Whether all are done; false as long as one is not.
     bool done() const { return m_next == m_deeds.size(); }
 
@@ -75,6 +76,7 @@ public:
             return QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("key"), QLatin1String(strKey)}) == 0;
         };
     }
+
     /// Does that, and again, as a person does, as long as it has no effect.
     static Deed again(const Deed &what, const std::function<bool()> &hasEffect)
     {
@@ -109,6 +111,7 @@ public:
 
     /// Waits until that is so.
     static Deed until(std::function<bool()> isSo) { return isSo; }
+
     /// Does that, once.
     static Deed act(std::function<void()> what)
     {
@@ -125,6 +128,7 @@ public:
         Double,
         Right
     };
+
     /// Clicks with the real mouse at that place of a window, wherever the server has it: where a window manager is
     /// late, Qt may have the window's own place wrong.
     static bool clickIn(const QWidget &window, const QPoint &place, Click click = Single)

@@ -52,6 +52,7 @@ public:
         m_server.terminate();
         m_server.waitForFinished(cPatienceMs);
     }
+
     /// The server neither hears nor says anything, until goOn().
     void freeze() { ::kill(pid_t(m_server.processId()), SIGSTOP); }
     void goOn()
@@ -86,8 +87,10 @@ public:
         writeVoice();
         return run({"--playback", "--device=voice", cVoice});
     }
+
     /// The same tone, played by a program that asks for no device.
     static std::unique_ptr<QProcess> play() { return run({"--playback", cVoice}); }
+
     /// How many streams take sound from a microphone or a recording.
     static int listeners()
     {
@@ -100,6 +103,7 @@ public:
         }
         return count;
     }
+
     /// Records what the speaker plays; the caller reads it from the process.
     static std::unique_ptr<QProcess> record(const QString &strSpeaker)
     {
