@@ -19,6 +19,8 @@ QT_INCLUDE = re.compile(r"^\s*#include <((?:Qt\w+/)?Q\w+)>", re.MULTILINE)
 ENDINGS = (".h", ".cpp", ".def")
 # The context holds the records of the model, and they ask it for what is the signed-in user's: not counted as a circle.
 ASKED_BY_ITS_PARTS = "src/model/SharedContext"
+# The inside of a class, apart so that its header need not know a library's types, is one unit with it.
+INSIDES = {"apps/calls/agent/UserAgentCore": "apps/calls/agent/UserAgent"}
 
 
 def read_parts(path):
@@ -81,7 +83,8 @@ def includes_among(files, root):
 def units_of(graph, root):
     """Which units include from which others: a header and its source are one, a table is one by itself."""
     def unit(file):
-        return str((file if file.suffix == ".def" else file.with_suffix("")).relative_to(root))
+        name = str((file if file.suffix == ".def" else file.with_suffix("")).relative_to(root))
+        return INSIDES.get(name, name)
 
     units = collections.defaultdict(set)
     for file, reached in graph.items():

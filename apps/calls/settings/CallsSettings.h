@@ -5,59 +5,13 @@
 // environment.
 
 #include "calls/settings/CallKinds.h"
+#include "calls/settings/SettingTypes.h"
 
 #include <string>
 #include <vector>
 
-/// A server of the exchange.
-struct CallsServer
+struct CallsSettings : SettingTypes
 {
-    std::string host; ///< name or address; IPv6 without brackets
-    int port = 0;     ///< 1..65535
-};
-
-/// A range of ports, both included.
-struct CallsPorts
-{
-    int first = 0;
-    int last = 0;
-};
-
-struct CallsSettings
-{
-    // How each type of the table is kept.
-    using Choice = std::string;               ///< one of the words of its row
-    using Choices = std::vector<std::string>; ///< some of them, each once, at least one
-    using Flag = bool;
-    using Number = int;       ///< within the bounds of its row
-    using Path = std::string; ///< absolute, or empty
-    using Ports = CallsPorts;
-    using Servers = std::vector<CallsServer>;
-    using Text = std::string; ///< UTF-8 without control characters, at most 255 bytes
-
-    /// A row of the table.
-    struct Row
-    {
-        enum class Type
-        {
-            Choice,
-            Choices,
-            Flag,
-            Number,
-            Path,
-            Ports,
-            Servers,
-            Text
-        };
-        Type type;
-        const char *section;
-        const char *key;
-        const char *allowed;
-        const char *byDefault;
-        const char *variable; ///< empty: none
-        const char *meaning;
-    };
-
 #define CALLS_SETTING(type, member, section, key, allowed, byDefault, variable, meaning) type member{};
 #include "calls/settings/CallsSettings.def"
 #undef CALLS_SETTING

@@ -88,7 +88,7 @@ std::vector<std::string> parts(const std::string &text, const char *separators)
     return found;
 }
 
-std::string readChoice(const std::string &text, const CallsSettings::Row &row, CallsSettings::Choice *value)
+std::string readChoice(const std::string &text, const SettingTypes::Row &row, SettingTypes::Choice *value)
 {
     const std::vector<std::string> allowed = parts(row.allowed, "|");
     if (!contains(allowed, text)) {
@@ -98,7 +98,7 @@ std::string readChoice(const std::string &text, const CallsSettings::Row &row, C
     return {};
 }
 
-std::string readChoices(const std::string &text, const CallsSettings::Row &row, CallsSettings::Choices *value)
+std::string readChoices(const std::string &text, const SettingTypes::Row &row, SettingTypes::Choices *value)
 {
     const std::vector<std::string> allowed = parts(row.allowed, "|");
     const std::vector<std::string> chosen = parts(text, ", \t");
@@ -114,7 +114,7 @@ std::string readChoices(const std::string &text, const CallsSettings::Row &row, 
     return {};
 }
 
-std::string readFlag(const std::string &text, const CallsSettings::Row & /*row*/, CallsSettings::Flag *value)
+std::string readFlag(const std::string &text, const SettingTypes::Row & /*row*/, SettingTypes::Flag *value)
 {
     const bool yes = contains({"yes", "true", "on", "1"}, text);
     if (!yes && !contains({"no", "false", "off", "0"}, text)) {
@@ -124,7 +124,7 @@ std::string readFlag(const std::string &text, const CallsSettings::Row & /*row*/
     return {};
 }
 
-std::string readNumber(const std::string &text, const CallsSettings::Row &row, CallsSettings::Number *value)
+std::string readNumber(const std::string &text, const SettingTypes::Row &row, SettingTypes::Number *value)
 {
     const std::vector<std::string> bounds = parts(row.allowed, "|");
     const std::optional<int> number = numberOf(text, std::atoi(bounds[0].c_str()), std::atoi(bounds[1].c_str()));
@@ -135,7 +135,7 @@ std::string readNumber(const std::string &text, const CallsSettings::Row &row, C
     return {};
 }
 
-std::string readPath(const std::string &text, const CallsSettings::Row & /*row*/, CallsSettings::Path *value)
+std::string readPath(const std::string &text, const SettingTypes::Row & /*row*/, SettingTypes::Path *value)
 {
     const char *home = std::getenv("HOME");
     std::string path = text;
@@ -149,7 +149,7 @@ std::string readPath(const std::string &text, const CallsSettings::Row & /*row*/
     return {};
 }
 
-std::string readPorts(const std::string &text, const CallsSettings::Row & /*row*/, CallsSettings::Ports *value)
+std::string readPorts(const std::string &text, const SettingTypes::Row & /*row*/, SettingTypes::Ports *value)
 {
     const std::size_t dash = std::min(text.find('-'), text.size());
     const std::optional<int> first = numberOf(trimmed(text.substr(0, dash)), 1024, cGreatestPort);
@@ -163,7 +163,7 @@ std::string readPorts(const std::string &text, const CallsSettings::Row & /*row*
     return {};
 }
 
-std::string readServers(const std::string &text, const CallsSettings::Row & /*row*/, CallsSettings::Servers *value)
+std::string readServers(const std::string &text, const SettingTypes::Row & /*row*/, SettingTypes::Servers *value)
 {
     std::vector<CallsServer> servers;
     for (const std::string &word : parts(text, ", \t")) {
@@ -180,7 +180,7 @@ std::string readServers(const std::string &text, const CallsSettings::Row & /*ro
     return {};
 }
 
-std::string readText(const std::string &text, const CallsSettings::Row & /*row*/, CallsSettings::Text *value)
+std::string readText(const std::string &text, const SettingTypes::Row & /*row*/, SettingTypes::Text *value)
 {
     const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; };
     if (text.size() > cLongestText || std::any_of(text.begin(), text.end(), isControl)) {
