@@ -52,9 +52,12 @@ void IncomingPrompt::prompt(const QString &strUid, bool bConference, bool bVideo
     ui->lblName->setText(name);
     showWords();
     adjustSize();
-    const QRect screen = WindowPlace::part(QGuiApplication::primaryScreen()->availableGeometry(), m_side);
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect room = WindowPlace::part(screen, m_side);
     constexpr int gap = 24;
-    move(screen.right() - width() - gap, screen.bottom() - height() - 2 * gap);
+    const QPoint corner(room.right() - width() - gap, room.bottom() - height() - 2 * gap);
+    // On a small screen it is wider than half of it.
+    move(WindowPlace::fit({corner, size()}, {screen}).topLeft());
     const bool bTakesKeys = !isUserBusy();
     setAttribute(Qt::WA_ShowWithoutActivating, !bTakesKeys);
     ui->btnAccept->setFocus();
