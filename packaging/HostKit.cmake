@@ -17,9 +17,11 @@ set(VOIP_HOST_HEADERS
     model/LoginData.h
     model/MemberRoles.h
     model/SharedContext.h
+    model/StoreFileName.h
     model/SystemSetData.h
     model/SysUIData.h
     plugin/BaseEvent.h
+    plugin/CallResult.h
     plugin/EMsgId.h
     plugin/EventPayload.h
     plugin/HostEvents.h
@@ -27,14 +29,20 @@ set(VOIP_HOST_HEADERS
     plugin/PluginInterface.h
     store/DB.h
     store/DBConfInfo.h
+    store/SqliteCode.h
     wire/Commands.h
     wire/Notifications.h
     wire/SocketProbe.h)
+# Where they stand: below src/, or below the floor whose folder takes theirs in.
+set(header_roots ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/src/commonfun)
 set(installed_headers)
+set(header_files)
 while(VOIP_HOST_HEADERS)
   list(POP_FRONT VOIP_HOST_HEADERS header)
   list(APPEND installed_headers ${header})
-  file(STRINGS ${PROJECT_SOURCE_DIR}/src/${header} includes REGEX "^#include \"")
+  find_file(file ${header} PATHS ${header_roots} NO_CACHE REQUIRED NO_DEFAULT_PATH)
+  list(APPEND header_files ${file})
+  file(STRINGS ${file} includes REGEX "^#include \"")
   foreach(include ${includes})
     string(REGEX REPLACE "^#include \"(.*)\".*" "\\1" include ${include})
     list(APPEND VOIP_HOST_HEADERS ${include})
@@ -42,7 +50,8 @@ while(VOIP_HOST_HEADERS)
   list(REMOVE_DUPLICATES VOIP_HOST_HEADERS)
   list(REMOVE_ITEM VOIP_HOST_HEADERS ${installed_headers})
   # A changed header may include another one.
-  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${header})
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
+  unset(file)
 endwhile()
 
 # The floors behind these headers as one archive.
@@ -64,7 +73,7 @@ add_custom_command(TARGET voip_host_kit POST_BUILD
   VERBATIM)
 target_compile_features(voip_host_kit INTERFACE cxx_std_17)
 target_include_directories(voip_host_kit INTERFACE
-  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src> $<INSTALL_INTERFACE:${headers}>)
+  "$<BUILD_INTERFACE:${header_roots}>" $<INSTALL_INTERFACE:${headers}>)
 target_link_libraries(voip_host_kit INTERFACE
   Qt5::Core Qt5::Gui Qt5::Widgets Qt5::Network Qt5::Sql Qt5::Xml JsonCpp::JsonCpp)
 

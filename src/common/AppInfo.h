@@ -1,4 +1,5 @@
 #pragma once
+
 // What the client knows of itself: version, window title, language, and a few facts of the platform.
 // Any thread; no state but the fixed build flag. Nothing here reports a failure.
 

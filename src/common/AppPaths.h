@@ -1,4 +1,5 @@
 #pragma once
+
 // Where the client's folders and its common INI files lie. All paths use the forward slash.
 // Every call computes its path anew from the system's settings; nothing is created on the disk.
 // Any thread; no state.

@@ -1,4 +1,5 @@
 #pragma once
+
 // The queue of log records and the thread that takes them to the log file, so that no caller waits for the disk.
 // printLog and the two accessors of the logger may be called from any thread. The queue has no limit and drops nothing.
 // The host creates, starts, stops and destroys the object.

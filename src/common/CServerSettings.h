@@ -1,4 +1,5 @@
 #pragma once
+
 // What the server tells the client about itself after login.
 // GUI thread. The host creates, fills and owns it and hands it to the client context (CommonData::setServerSettings).
 // Plug-ins read the limits through SharedContext; its getMucRoomMaxMemberSize is the room size to go by when none was

@@ -1,4 +1,5 @@
 #pragma once
+
 // The settings object of "allurl.ini", the client's address file, which lies beside the executable.
 // One for the process and never deleted, so that other plug-ins may read addresses while the client ends. It is created
 // without a lock: call instance() once, after the application object stands, before threads do. Then any thread reads.

@@ -1,4 +1,5 @@
 #pragma once
+
 // Every server address that the client knows: one static getter each, answered from "allurl.ini" beside the executable
 // or, without an entry there, from a compiled-in default. CUrlInfo.def is the list: getter, key, endpoint, default,
 // form. Any thread, once the first getter has returned, which has to be after the application object was created: the

@@ -1,4 +1,5 @@
 #pragma once
+
 // The log file: UTF-8 lines, a size limit, numbered backups.
 // The writer thread calls printLog; the other operations may come from any thread. The mutex is not recursive and is
 // never held across close() or reopen(). The host creates and owns the object. No failure is ever reported: a file that

@@ -1,4 +1,5 @@
 #pragma once
+
 // The line format of the log file, the texts of the levels, texts made from the log templates, and the separators that
 // the client's other modules use. Any thread, but for getLogByTemplate. The constants live to the end of the process.
 

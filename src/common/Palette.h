@@ -1,4 +1,5 @@
 #pragma once
+
 // The thirty colours and the style sheets that all widgets share.
 // The constants are created before the first use, in the order of this header, and never change: a style sheet is built
 // from colours that stand already. Any thread may read them; they live to the end of the process.

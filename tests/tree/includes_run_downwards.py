@@ -6,7 +6,7 @@ PARTS has a line "target NAME" for each target of src/ and apps/, behind it its 
 for each module of Qt that they link, with lines "headers FOLDER". Every file there belongs to a target and includes only files
 of its own target and of those that this links. A target names just those modules of Qt whose headers it includes; those that a
 named one needs itself may be left out. No targets link each other in a circle, and no files include each other in one, nor do
-units, which are a header and its source, nor the rooms of a program.
+units, which are a header and its source, the folders of src/ or the rooms of a program.
 """
 
 import collections
@@ -71,8 +71,8 @@ def circles(graph):
 
 
 def includes_among(files, root):
-    """For each of the files those of them that it includes: by its own folder, from src/ and apps/ or a program's folder."""
-    folders = [root / "src", root / "apps", *sorted(path for path in (root / "apps").iterdir() if path.is_dir())]
+    """For each of the files those of them that it includes: by its own folder, from src/ and apps/ or a folder of these."""
+    folders = [root / "src", root / "apps", *sorted(path for path in (*root.glob("src/*"), *root.glob("apps/*")) if path.is_dir())]
     return {
         file: {found for name in INCLUDE.findall(file.read_text(encoding="utf-8"))
                if (found := next((road / name for road in (file.parent, *folders) if road / name in files), None))}
@@ -99,6 +99,16 @@ def rooms_of(graph, program):
         if program in file.parent.parents:
             rooms[file.parent].update(found.parent for found in reached if program in found.parent.parents)
     return {room: reached - {room} for room, reached in rooms.items()}
+
+
+def folders_of(graph, top):
+    """Which folders of `top`, with all their rooms, include from which others."""
+    folders = collections.defaultdict(set)
+    for file, reached in graph.items():
+        names = [found.relative_to(top).parts[0] for found in (file, *reached) if top in found.parents]
+        if top in file.parents:
+            folders[names[0]].update(set(names) - {names[0]})
+    return folders
 
 
 def module_of(header, modules):
@@ -150,6 +160,7 @@ def main():
             f"circle of rooms: {' > '.join(str(room.relative_to(root)) for room in road)}"
             for road in circles(rooms_of(graph, program))
         ]
+    problems += [f"circle of folders: {' > '.join(road)}" for road in circles(folders_of(graph, root / "src"))]
     problems += [f"circle of targets: {' > '.join(road)}" for road in circles(links)]
     problems += [f"circle of units: {' > '.join(road)}" for road in circles(units_of(graph, root))]
     problems += [

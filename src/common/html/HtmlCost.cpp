@@ -243,7 +243,7 @@ void HtmlCost::addElement(const Element &element, const HtmlTag &tag)
     }
 }
 
-// Adds what an element costs that gets a place in the text; a hidden one gets none.
+// Adds the cost of a visible element.
 void HtmlCost::addShown(const Element &element, const HtmlTag &tag)
 {
     m_bUnevenCells = m_bUnevenCells || (element.kind == Table && !element.strKept.isEmpty());

@@ -1,4 +1,5 @@
 #pragma once
+
 // One log record on its way from the caller to the writer thread, and the levels of records.
 // A plain value that is copied freely between threads.
 

@@ -1,4 +1,5 @@
 #pragma once
+
 // The place of a log statement, "VoipWidget.cpp:835": the source's name without its folders, a colon, the line.
 // The compiler finds where the name begins and joins the line to it, and the text is made when the statement is first
 // reached. Any thread. The texts live to the end of the process, also when the module that made them is unloaded: the

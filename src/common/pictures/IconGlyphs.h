@@ -1,4 +1,5 @@
 #pragma once
+
 // The code points of the icon font "kelvarimiconfont", by name, so that no window writes a bare number.
 // The table stands in IconGlyphs.def; each glyph is drawn in resources/icons and built into the font by
 // tools/make_icon_font.py. The texts made of them are shown in the font of IconFont::getIconFont.

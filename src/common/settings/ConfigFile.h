@@ -1,4 +1,5 @@
 #pragma once
+
 // Access to the client's INI files, in UTF-8, with a fresh settings object for each call.
 // Any thread; no state. Two writers of one file race as QSettings lets them. Nothing here reports a failure: a file
 // that does not exist reads as empty, a failed write is ignored.

@@ -1,4 +1,5 @@
 #pragma once
+
 // The scale helpers for high-resolution screens. All layout code passes its pixel values through them.
 // On this platform nothing is scaled: the family keeps its interface and returns what it gets.
 // GUI thread; no state that anybody reads.

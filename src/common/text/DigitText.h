@@ -1,4 +1,5 @@
 #pragma once
+
 // Texts of digits: numbers of fixed length and telephone numbers.
 // Any thread; no state.
 

@@ -1,4 +1,5 @@
 #pragma once
+
 // Sizes and speeds of transfers as short texts. Units go by powers of 1024; there is no blank before the unit.
 // Any thread; no state.
 

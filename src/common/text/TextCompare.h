@@ -1,4 +1,5 @@
 #pragma once
+
 // Comparisons of texts: versions, members of joined lists, and the key that sorts names.
 // Any thread; no state.
 

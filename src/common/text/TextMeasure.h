@@ -1,4 +1,5 @@
 #pragma once
+
 // The width of texts in columns: a character from U+4E00 to U+9FA5 takes two, every other UTF-16 unit one, so that a
 // character outside the basic plane takes two as a pair. All in one walk over the text.
 // Any thread; no state.

@@ -1,4 +1,5 @@
 #pragma once
+
 // Times as texts for the user's eye, told from the present moment where it matters: `now` is the local clock unless the
 // caller gives another. Words are looked up in the translations of QObject. A time that cannot be read gives the empty
 // text.

@@ -1,4 +1,5 @@
 #pragma once
+
 // The log facade that all callers use: LOG_DEBUG << "text" << number << "\n"; queues one record for the log thread.
 // The item "\n" ends the record; nothing else does. Level, location and text stand in plain fields without a lock, so
 // two threads that log at once can mix their texts in one record; the queue behind them is thread-safe. One object for
