@@ -1,4 +1,5 @@
 #pragma once
+
 // How much processor time a stretch of code takes of its thread, in seconds: what other programs take of the machine
 // meanwhile does not count. The cost of reading the clock itself is left out.
 

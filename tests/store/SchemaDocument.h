@@ -1,4 +1,5 @@
 #pragma once
+
 // The document for readers of the file, docs/store-schema.md, read as a schema: a section "### name" a table, in it a
 // row a column and a row an index.
 

@@ -1,4 +1,5 @@
 #pragma once
+
 // What makes a program of test classes: `tests tst_Jid parsesAFullText -v2` runs one class as if it were a program of
 // its own, the arguments behind its name are Qt Test's. One process runs one class, so nothing of another class has
 // happened in it but the initialisation of what stands at file scope.

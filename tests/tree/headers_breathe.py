@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Checks that a documented function or type of a header stands behind a blank line, unless it is the first in its braces or behind a
-word like public:. Fields, signals and slots are lists, which may do without.
+word like public:. Fields, signals and slots are lists, which may do without. A blank line stands behind #pragma once as well.
 
 Usage: headers_breathe.py SOURCE
 """
@@ -30,10 +30,12 @@ def is_field(lines, start):
 
 
 def crowded(lines):
-    """The lines of a header, counted from 0, at which a documented function or type lacks its blank line."""
+    """The lines of a header, counted from 0, at which a blank line is missing."""
     is_list = False
     for place, line in enumerate(lines):
         text = line.strip()
+        if text and place > 0 and lines[place - 1] == "#pragma once":
+            yield place
         label = LABEL.match(text)
         if label:
             is_list = "slots" in text or "ignals" in text
@@ -53,7 +55,7 @@ def main():
                 for place in crowded(header.read_text(encoding="utf-8").split("\n"))]
     if not headers:
         problems.append("no headers found")
-    print("\n".join(problems) or f"{len(headers)} headers, every documented function behind a blank line")
+    print("\n".join(problems) or f"{len(headers)} headers, with their blank lines")
     return 1 if problems else 0
 
 

@@ -1,4 +1,5 @@
 #pragma once
+
 // The log file of a test in its working directory, its backups and its lines.
 
 #include "fakes/FileBytes.h"

@@ -1,4 +1,5 @@
 #pragma once
+
 // The addresses as docs/server-addresses.md tells them to those who run the client, apart from the list that the
 // getters come from.
 

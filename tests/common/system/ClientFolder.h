@@ -1,4 +1,5 @@
 #pragma once
+
 // A client of a test's own: a folder with a copy of the test program, so that "allurl.ini" can lie beside it.
 
 #include "common/system/OwnProcess.h"

@@ -1,4 +1,5 @@
 #pragma once
+
 // A test function in a process of its own, for what is read once for a process: the locale, a cached file.
 
 #include "fakes/Patience.h"
