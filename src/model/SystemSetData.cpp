@@ -1,6 +1,7 @@
 #include "model/SystemSetData.h"
 
 #include "common/AppPaths.h"
+#include "model/StoreFileName.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -300,5 +301,6 @@ void SystemSetData::initUserPaths(const QString &strUserName)
     m_strUserConfigPath = m_strUserFolder + QLatin1String("/newConfig.ini");
     m_strUsersInfoPath = m_strMsgFilePath + QLatin1String("/allusers/usersInfo.ini");
     m_strAppInfoPath = strAPP_INFO_FILE_PATH();
-    m_strDatabasePath = absolute(m_strMsgFilePath) + QLatin1Char('/') + strUserName + QLatin1String("/localData.db");
+    m_strDatabasePath =
+        absolute(m_strMsgFilePath) + QLatin1Char('/') + strUserName + QLatin1Char('/') + QLatin1String(cStoreFileName);
 }

@@ -27,6 +27,7 @@ public:
             m_counts.reserve(4 * m_counts.size());
         }
         ++m_counts[uid];
+        // Else the change would copy the whole list.
         m_seen.clear();
         uids.append(uid);
         m_seen = uids;
@@ -43,6 +44,7 @@ public:
         if (--*count == 0) {
             m_counts.erase(count);
         }
+        // Else the change would copy the whole list.
         m_seen.clear();
         uids.removeOne(uid);
         m_seen = uids;

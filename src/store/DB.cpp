@@ -89,7 +89,7 @@ bool provideFile(const QString &folder, const QString &fileName)
         return true;
     }
     QFile file(fileName);
-    // Nothing is cut off what another client puts there at this very moment.
+    // Appending cuts nothing off: another client may be writing there at this moment.
     return file.open(QIODevice::Append);
 }
 

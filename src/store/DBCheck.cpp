@@ -3,6 +3,7 @@
 #include "store/DB.h"
 
 #include "store/LockWait.h"
+#include "store/SqliteCode.h"
 #include "store/StoreFiles.h"
 
 #include <QFileInfo>
@@ -18,14 +19,6 @@ const QString cCheckConnection = QStringLiteral("my_sql_db");
 // to the quick check's verdict, which hosts rely on.
 const QString cDuplicateText = QStringLiteral("column id is not unique 不能获取行");
 const QString cMalformedText = QStringLiteral("database disk image is malformed 不能获取行");
-
-// SQLite's own code, the low byte of an extended one.
-constexpr int cConstraintCode = 19;
-
-int sqliteCode(const QSqlError &error)
-{
-    return error.nativeErrorCode().toInt() & 0xff;
-}
 
 bool quickCheck(QSqlQuery &query, LockWait &wait)
 {
@@ -62,7 +55,7 @@ bool trialWrite(QSqlQuery &query, LockWait &wait)
     const bool bSound = quickCheck(query, wait);
     // A row that an earlier check left behind, in the words of this SQLite. Any other constraint's refusal, a trigger's
     // too, has the same code and leads here as well: the id is no message's, so nothing is lost.
-    if (sqliteCode(error) == cConstraintCode) {
+    if (SqliteCode::of(error) == SqliteCode::cConstraint) {
         deleteTrialRow(query, wait);
     }
     return bSound;

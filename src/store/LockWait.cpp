@@ -1,5 +1,7 @@
 #include "store/LockWait.h"
 
+#include "store/SqliteCode.h"
+
 #include <QElapsedTimer>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -12,9 +14,6 @@ constexpr int cDriverMs = 5000;
 // The rests grow: what holds a file for a moment delays no longer than that, what holds it for long is not asked often.
 constexpr int cFirstRestMs = 1;
 constexpr int cLongestRestMs = 32;
-// SQLite's primary result code for a file that another connection has locked; the upper bytes tell details.
-constexpr int cBusyCode = 5;
-constexpr int cPrimaryCodeMask = 0xff;
 
 } // namespace
 
@@ -28,7 +27,7 @@ bool LockWait::open(QSqlDatabase &db)
 
 bool LockWait::isLockedOut(const QSqlError &error)
 {
-    return (error.nativeErrorCode().toInt() & cPrimaryCodeMask) == cBusyCode;
+    return SqliteCode::of(error) == SqliteCode::cBusy;
 }
 
 LockWait::LockWait(const QSqlDatabase &db) : m_db(db) {}
