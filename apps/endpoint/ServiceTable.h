@@ -24,7 +24,7 @@ void serveLine(Server &server, const Rows &rows, const QByteArray &line, Trace &
         trace.complaint(fault);
         return;
     }
-    // What has the right shape has a row.
+    // The shape has been checked, so the name is known.
     const auto place = static_cast<std::size_t>(findCommand(command->name)->command);
     if (const auto serve = rows.at(place).serve) {
         (server.*serve)(*command);

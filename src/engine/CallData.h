@@ -6,22 +6,22 @@
 // There is no state variable: a call exists when `peerId` or `memberList` is not empty, and its state follows from the
 // flags.
 
+#include "plugin/CallResult.h"
+
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
 
 struct CallData
 {
-    /// Why a call ended. The numbers go to the host with the call record and are part of its contract.
+    /// Why a call ended: the numbers that the host is told, under the engine's own names.
     enum FinishResult
     {
-        /// ended before it connected, by this side or by the caller; also notification 4, or 5 naming the own user, at
-        /// any time
-        FinishCanceled = 21,
-        FinishFailed = 22,   ///< the call process could not make the call
-        FinishHangup = 24,   ///< ended after it connected, or by the far end
-        FinishBusy = 25,     ///< the far end is in another call
-        FinishRejected = 26, ///< refused, here or there
+        FinishCanceled = resultCancelled,
+        FinishFailed = resultFailed,
+        FinishHangup = resultHungUp,
+        FinishBusy = resultBusy,
+        FinishRejected = resultRejected,
     };
 
     bool bIsConf = false;      ///< a conference, else a single call

@@ -1,6 +1,7 @@
 #include "engine/ConferenceDocument.h"
 
 #include "engine/JsonText.h"
+#include "wire/Notifications.h"
 
 namespace {
 
@@ -16,23 +17,23 @@ Json::Value parsed(const QString &content)
 ConferenceDocument ConferenceDocument::read(const QString &content)
 {
     const Json::Value root = parsed(content);
-    const Json::Value &body = JsonText::member(root, "content");
+    const Json::Value &body = JsonText::member(root, Wire::cKeyContent);
     ConferenceDocument document;
-    document.from = JsonText::text(JsonText::member(body, "from"));
-    document.conventioneer = JsonText::texts(JsonText::member(body, "conventioneer"));
-    document.confId = JsonText::text(JsonText::member(body, "confId"));
-    document.createTime = JsonText::integer(JsonText::member(body, "createTime"));
+    document.from = JsonText::text(JsonText::member(body, Wire::cKeyFrom));
+    document.conventioneer = JsonText::texts(JsonText::member(body, Wire::cKeyConventioneer));
+    document.confId = JsonText::text(JsonText::member(body, Wire::cKeyConfId));
+    document.createTime = JsonText::integer(JsonText::member(body, Wire::cKeyCreateTime));
     return document;
 }
 
 QString createdConferenceId(const QString &content)
 {
     const Json::Value root = parsed(content);
-    return JsonText::text(JsonText::member(JsonText::member(root, "result"), "confId"));
+    return JsonText::text(JsonText::member(JsonText::member(root, Wire::cKeyResult), Wire::cKeyConfId));
 }
 
 QStringList failedNumbers(const QString &content)
 {
     const Json::Value root = parsed(content);
-    return JsonText::texts(JsonText::member(JsonText::member(root, "result"), "failedNums"));
+    return JsonText::texts(JsonText::member(JsonText::member(root, Wire::cKeyResult), Wire::cKeyFailedNums));
 }

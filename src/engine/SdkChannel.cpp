@@ -23,7 +23,7 @@ QString serverName()
 
 QString programPath()
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/VoipSDK/Contents/MacOS/VoipSDK");
+    return QCoreApplication::applicationDirPath() + QLatin1String(Wire::cProgram);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "engine/SdkLine.h"
 
 #include "engine/JsonText.h"
+#include "wire/Notifications.h"
 
 #include <exception>
 #include <string>
@@ -30,10 +31,10 @@ Json::Value json(const QStringList &texts)
 QString lineOf(Wire::Command command, std::initializer_list<Json::Value> parameters)
 {
     Json::Value root(Json::objectValue);
-    root["messagetype"] = Wire::nameOf(command);
+    root[Wire::cKeyMessageType] = Wire::nameOf(command);
     int number = 0;
     for (const Json::Value &parameter : parameters) {
-        root["param" + std::to_string(++number)] = parameter;
+        root[Wire::cKeyParameter + std::to_string(++number)] = parameter;
     }
     return JsonText::write(root);
 }
@@ -47,11 +48,11 @@ Notification read(const QString &line)
     // Through a constant reference, asking for an absent key does not add it.
     const Json::Value &root = document;
     try {
-        const int code = root["resultCode"].asInt();
+        const int code = root[Wire::cKeyResultCode].asInt();
         if (code < 0) {
             return {};
         }
-        const Json::Value &content = root["content"];
+        const Json::Value &content = root[Wire::cKeyContent];
         return {code, content.isString() ? JsonText::text(content) : QString::fromStdString(content.asString())};
     } catch (const std::exception &) {
         return {};

@@ -1,8 +1,8 @@
 #pragma once
 
 // Public entry points with the shape of a call library's direct callbacks. The local socket has taken their place and
-// nothing in the plug-in calls them. Deliberate. Both make sure that the call manager exists, and belong to the
-// GUI thread.
+// nothing in the plug-in calls them: deliberately kept for whoever else does. Both make sure that the call manager
+// exists, and belong to the GUI thread.
 
 #include <QString>
 

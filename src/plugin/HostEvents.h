@@ -5,7 +5,9 @@
 
 #include "plugin/EMsgId.h"
 
+#include <algorithm>
 #include <array>
+#include <string_view>
 
 /// Which way an event goes.
 enum class EventWay
@@ -52,6 +54,32 @@ constexpr bool isHostEvent(int iMsgId)
     }
     return false;
 }
+
+/// Whether each field of a payload is "type:name" and has one of the table's types.
+constexpr bool areFieldsKnown(std::string_view fields)
+{
+    while (!fields.empty()) {
+        const std::string_view field = fields.substr(0, fields.find(' '));
+        if (field.size() < 3 || field[1] != ':' ||
+            std::string_view("biqslpr").find(field[0]) == std::string_view::npos) {
+            return false;
+        }
+        fields.remove_prefix(std::min(field.size() + 1, fields.size()));
+    }
+    return true;
+}
+
+/// Whether those of every event are.
+constexpr bool areFieldsKnown()
+{
+    for (const HostEvent &event : cHostEvents) {
+        if (!areFieldsKnown(event.fields) || !areFieldsKnown(event.answer)) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(areFieldsKnown(), "a field of an event is a letter of b, i, q, s, l, p and r, a colon and a name");
 
 /// Whether `rows`, which have a member `msgId`, tell of each event that goes this way once, and of no other.
 template <class Rows>

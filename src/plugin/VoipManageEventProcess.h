@@ -20,7 +20,7 @@ public:
     /// MSG_RESPONSE_VOIP_REQUEST.
     static void notifyRecevieVoipCall(QString strUserId, bool bIsConf, bool bIsVideo);
 
-    /// Tells the session plug-in that a call with `strUserId` has ended: `iResult` is a CallData::FinishResult,
+    /// Tells the session plug-in that a call with `strUserId` has ended: `iResult` is a CallResult,
     /// `iSeconds` the length of the call in seconds.
     static void notifyCallFinished(bool bIsVideo, QString strUserId, int iResult, bool bIsCaller, bool bIsConnected,
                                    qint64 iSeconds);

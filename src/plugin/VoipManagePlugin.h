@@ -1,8 +1,8 @@
 #pragma once
 
 // The object that the host gets when it loads the plug-in: Qt's loader creates it once, with no parent, and it lives as
-// long as the library is loaded. It keeps nothing: what it is given goes to the mailbox and to CommonFun. Creating it
-// starts no process, opens no socket and shows no window. GUI thread only.
+// long as the library is loaded. It keeps nothing: what it is given goes to the mailbox and to the shared context.
+// Creating it starts no process, opens no socket and shows no window. GUI thread only.
 
 #include "plugin/PluginInterface.h"
 

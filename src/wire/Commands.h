@@ -13,6 +13,13 @@ namespace Wire {
 /// The local server's name.
 inline constexpr const char *cServerName = "VoipSDK";
 
+/// The call process's program, below the client's folder.
+inline constexpr const char *cProgram = "/VoipSDK/Contents/MacOS/VoipSDK";
+
+/// The key of a command's name. Its parameters have the next one with their number, from 1 on.
+inline constexpr const char *cKeyMessageType = "messagetype";
+inline constexpr const char *cKeyParameter = "param";
+
 /// The line that ends the call process, without its line feed: the only one that is no JSON.
 inline constexpr const char *cQuitLine = "quit";
 
@@ -28,7 +35,7 @@ enum class Command : int
 struct CommandRow
 {
     Command command;
-    const char *name;       ///< "messagetype"
+    const char *name;       ///< what stands at cKeyMessageType
     const char *parameters; ///< one letter for each of param1, param2, ...: s, b, i or a
 };
 

@@ -28,6 +28,19 @@ enum class Content
     Open,       ///< not settled
 };
 
+/// The keys of a notification.
+inline constexpr const char *cKeyResultCode = "resultCode";
+inline constexpr const char *cKeyContent =
+    "content"; ///< of a text; in a Conference that is this text, the inner object
+
+// The keys of the documents in such a text.
+inline constexpr const char *cKeyFrom = "from";                   ///< Conference: who caused it
+inline constexpr const char *cKeyConventioneer = "conventioneer"; ///< Conference: who is connected
+inline constexpr const char *cKeyConfId = "confId";               ///< Conference, Creation
+inline constexpr const char *cKeyCreateTime = "createTime";       ///< Conference
+inline constexpr const char *cKeyResult = "result";               ///< Creation, Addition: the inner object
+inline constexpr const char *cKeyFailedNums = "failedNums";       ///< Addition
+
 /// One notification.
 struct NotificationRow
 {

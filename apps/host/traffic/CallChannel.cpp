@@ -1,6 +1,6 @@
 #include "traffic/CallChannel.h"
 
-#include "robots/StandIn.h"
+#include "endpoint/EndpointVariables.h"
 #include "wire/Commands.h"
 #include "wire/SocketProbe.h"
 
@@ -99,7 +99,7 @@ CallChannel::Trace CallChannel::traceOf(qint64 pid)
 {
     QByteArray place = traceOption(textsOf(pid, "cmdline"));
     if (place.isEmpty()) {
-        place = variableOf(pid, StandIn::cTraceVariable);
+        place = variableOf(pid, EndpointVariables::cTrace);
     }
     if (place.isEmpty()) {
         return {};

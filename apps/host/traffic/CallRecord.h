@@ -1,18 +1,10 @@
 #pragma once
 
+#include "plugin/CallResult.h"
+
 #include <QDateTime>
 #include <QMetaType>
 #include <QString>
-
-/// Why a call ended, as command 4478 says it.
-enum CallResult
-{
-    resultCancelled = 21, ///< before it was answered, by this side or by the caller
-    resultFailed = 22,    ///< it could not be made
-    resultHungUp = 24,    ///< after it was answered, or by the far end
-    resultBusy = 25,      ///< the far end was in another call
-    resultRejected = 26   ///< here or there
-};
 
 /// One finished call, as the session plug-in is told of it by command 4478. A value; GUI thread.
 struct CallRecord

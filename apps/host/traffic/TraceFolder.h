@@ -1,6 +1,6 @@
 #pragma once
 
-#include "robots/StandIn.h"
+#include "endpoint/EndpointVariables.h"
 
 #include <QString>
 #include <QTemporaryDir>
@@ -13,7 +13,7 @@ class TraceFolder
 {
 public:
     /// The variable of the environment in which the call process looks for its trace's file.
-    static constexpr const char *cVariable = StandIn::cTraceVariable;
+    static constexpr const char *cVariable = EndpointVariables::cTrace;
 
     TraceFolder();
     Q_DISABLE_COPY(TraceFolder)

@@ -171,17 +171,17 @@ Draft readCommand(const QString &strText)
     if (strText == QLatin1String(Wire::cQuitLine)) {
         return {&cQuitForm, {}};
     }
-    if (!parse(strText, &object) || !object.value(QStringLiteral("messagetype")).isString()) {
+    if (!parse(strText, &object) || !object.value(QLatin1String(Wire::cKeyMessageType)).isString()) {
         return badDraft(cBrokenForm, strText);
     }
-    const QString name = object.value(QStringLiteral("messagetype")).toString();
+    const QString name = object.value(QLatin1String(Wire::cKeyMessageType)).toString();
     const Wire::CommandRow *row = Wire::findCommand(name.toStdString());
     if (row == nullptr) {
         return badDraft(cUnknownCommandForm, name);
     }
     QVariantList values;
     for (int number = 1; number <= Wire::parameterCount(*row); ++number) {
-        values << parameterOf(object.value(QStringLiteral("param%1").arg(number)));
+        values << parameterOf(object.value(QLatin1String(Wire::cKeyParameter) + QString::number(number)));
     }
     return {&formOf(row->command), values};
 }
@@ -190,19 +190,19 @@ Draft readCommand(const QString &strText)
 bool readDocument(Wire::Content content, const QString &strContent, QVariantList *values)
 {
     QJsonObject object;
-    const QString inner = content == Wire::Content::Conference ? QStringLiteral("content") : QStringLiteral("result");
+    const QLatin1String inner(content == Wire::Content::Conference ? Wire::cKeyContent : Wire::cKeyResult);
     if (!parse(strContent, &object) || !object.value(inner).isObject()) {
         return false;
     }
     const QJsonObject part = object.value(inner).toObject();
-    const QVariant id = part.value(QStringLiteral("confId")).toVariant();
+    const QVariant id = part.value(QLatin1String(Wire::cKeyConfId)).toVariant();
     if (content == Wire::Content::Conference) {
-        *values = {part.value(QStringLiteral("from")).toVariant(), textsOf(part.value(QStringLiteral("conventioneer"))),
-                   id};
+        *values = {part.value(QLatin1String(Wire::cKeyFrom)).toVariant(),
+                   textsOf(part.value(QLatin1String(Wire::cKeyConventioneer))), id};
     } else if (content == Wire::Content::Creation) {
         *values = {id};
     } else {
-        *values = {textsOf(part.value(QStringLiteral("failedNums")))};
+        *values = {textsOf(part.value(QLatin1String(Wire::cKeyFailedNums)))};
     }
     return true;
 }
@@ -235,8 +235,8 @@ Draft readFromCallProcess(const QString &strText)
     if (!parse(strText, &object)) {
         return badDraft(cBrokenForm, strText);
     }
-    const double number = object.value(QStringLiteral("resultCode")).toDouble(NAN);
-    const QJsonValue content = object.value(QStringLiteral("content"));
+    const double number = object.value(QLatin1String(Wire::cKeyResultCode)).toDouble(NAN);
+    const QJsonValue content = object.value(QLatin1String(Wire::cKeyContent));
     if (std::trunc(number) != number || std::abs(number) > INT_MAX || !(content.isString() || content.isUndefined())) {
         return badDraft(cBrokenForm, strText);
     }
