@@ -2,6 +2,7 @@
 
 #include "endpoint/Trace.h"
 #include "endpoint/Wire.h"
+#include "wire/Notifications.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -27,8 +28,8 @@ QStringList sortedTexts(const QJsonArray &array)
 std::optional<Notification> Notification::read(const QByteArray &line)
 {
     const QJsonObject object = QJsonDocument::fromJson(line).object();
-    const QJsonValue code = object.value(QStringLiteral("resultCode"));
-    const QJsonValue content = object.value(QStringLiteral("content"));
+    const QJsonValue code = object.value(QLatin1String(Wire::cKeyResultCode));
+    const QJsonValue content = object.value(QLatin1String(Wire::cKeyContent));
     if (object.size() != 2 || !content.isString() || !code.isDouble() || code.toDouble() != code.toInt(-1)) {
         return std::nullopt;
     }
@@ -82,10 +83,10 @@ bool LineMatch::valueMatches(const QString &key, const QJsonValue &recorded, con
     if (recorded.type() != value.type()) {
         return false;
     }
-    if (key == QLatin1String("confId") && recorded.isString()) {
+    if (key == QLatin1String(Wire::cKeyConfId) && recorded.isString()) {
         return idMatches(recorded.toString(), value.toString());
     }
-    if (key == QLatin1String("createTime") && recorded.isDouble()) {
+    if (key == QLatin1String(Wire::cKeyCreateTime) && recorded.isDouble()) {
         return (recorded.toDouble() > 0) == (value.toDouble() > 0);
     }
     if (recorded.isArray()) {

@@ -77,7 +77,7 @@ QByteArray pluginLine(const Statement &statement, const PluginUser &user)
 
 QByteArray commandLine(const QString &name, const QJsonArray &parameters)
 {
-    QJsonObject object{{QStringLiteral("messagetype"), name}};
+    QJsonObject object{{QString::fromLatin1(Wire::cKeyMessageType), name}};
     for (int i = 0; i < parameters.size(); ++i) {
         object.insert(parameterKey(i + 1), parameters.at(i));
     }

@@ -1,7 +1,7 @@
 // Checks a call process of the plug-in: records a run of one as a scenario, or replays a scenario against one.
 
 #include "callcheck/CheckOptions.h"
-#include "callcheck/Relay.h"
+#include "callcheck/RecordingRelay.h"
 #include "callcheck/Replay.h"
 #include "callcheck/ScenarioWriter.h"
 #include "callcheck/Subject.h"
@@ -50,7 +50,7 @@ bool openForOneself(QFile &file)
 
 /// The call process is asked to end when this process is, so that the recording comes to its end too. The signals must
 /// have been blocked.
-void obeySignals(const sigset_t &stopSignals, Relay &relay)
+void obeySignals(const sigset_t &stopSignals, RecordingRelay &relay)
 {
     const int descriptor = ::signalfd(-1, &stopSignals, SFD_CLOEXEC | SFD_NONBLOCK);
     auto *notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, &relay);
@@ -84,11 +84,11 @@ int record(const CheckOptions &options, Trace &trace)
     sigprocmask(SIG_BLOCK, &stopSignals, nullptr);
     ScenarioWriter writer([&file](const QByteArray &text) { file.write(text); });
     Channel channel(options.socketName, trace);
-    Relay relay(subject, channel, writer);
+    RecordingRelay relay(subject, channel, writer);
     obeySignals(stopSignals, relay);
-    QObject::connect(&relay, &Relay::failed, qApp,
+    QObject::connect(&relay, &RecordingRelay::failed, qApp,
                      [](const QString &reason) { QCoreApplication::exit(complain(CheckExit::CannotStart, reason)); });
-    QObject::connect(&relay, &Relay::finished, qApp, [&subject](int exitCode, bool died) {
+    QObject::connect(&relay, &RecordingRelay::finished, qApp, [&subject](int exitCode, bool died) {
         if (died) {
             // As if this process had died itself: the socket file stays.
             subject.removeFolder();
@@ -99,7 +99,7 @@ int record(const CheckOptions &options, Trace &trace)
     if (options.inPlace) {
         letGoOfStreams(trace.isOnStandardError());
     }
-    QTimer::singleShot(0, &relay, &Relay::start);
+    QTimer::singleShot(0, &relay, &RecordingRelay::start);
     return QCoreApplication::exec();
 }
 

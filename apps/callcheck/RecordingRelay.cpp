@@ -1,4 +1,4 @@
-#include "callcheck/Relay.h"
+#include "callcheck/RecordingRelay.h"
 
 #include "callcheck/Subject.h"
 #include "endpoint/Channel.h"
@@ -18,18 +18,18 @@ constexpr int cLooksToBelieve = 3;
 
 } // namespace
 
-Relay::Relay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject *parent)
+RecordingRelay::RecordingRelay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject *parent)
     : QObject(parent), m_subject(subject), m_channel(channel), m_writer(writer)
 {
     m_clock.start();
     m_lookTimer.setInterval(cLookMs);
     m_doubtTimer.setInterval(cEndShowsMs);
     m_doubtTimer.setSingleShot(true);
-    connect(&m_lookTimer, &QTimer::timeout, this, &Relay::look);
-    connect(&m_doubtTimer, &QTimer::timeout, this, &Relay::settleDoubts);
-    connect(&m_channel, &Channel::clientArrived, this, &Relay::clientArrives);
-    connect(&m_channel, &Channel::clientGone, this, &Relay::clientGoes);
-    connect(&m_channel, &Channel::bytesReceived, this, &Relay::passOn);
+    connect(&m_lookTimer, &QTimer::timeout, this, &RecordingRelay::look);
+    connect(&m_doubtTimer, &QTimer::timeout, this, &RecordingRelay::settleDoubts);
+    connect(&m_channel, &Channel::clientArrived, this, &RecordingRelay::clientArrives);
+    connect(&m_channel, &Channel::clientGone, this, &RecordingRelay::clientGoes);
+    connect(&m_channel, &Channel::bytesReceived, this, &RecordingRelay::passOn);
     connect(&m_channel, &Channel::allWritten, this, [this] {
         dropClient();
         settleEnd();
@@ -41,14 +41,14 @@ Relay::Relay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject
     });
 }
 
-void Relay::start()
+void RecordingRelay::start()
 {
     m_writer.begin();
     if (m_subject.isChild()) {
         connect(&m_subject.process(), qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
-                &Relay::subjectEnds);
+                &RecordingRelay::subjectEnds);
         if (m_subject.process().state() == QProcess::NotRunning) {
-            QTimer::singleShot(0, this, &Relay::subjectEnds);
+            QTimer::singleShot(0, this, &RecordingRelay::subjectEnds);
             return;
         }
     }
@@ -56,7 +56,7 @@ void Relay::start()
     look();
 }
 
-void Relay::stop()
+void RecordingRelay::stop()
 {
     m_stopped = true;
     if (m_subject.isChild()) {
@@ -66,7 +66,7 @@ void Relay::stop()
     }
 }
 
-void Relay::look()
+void RecordingRelay::look()
 {
     const bool listening = m_subject.isListening();
     if (!listening && m_looksUnanswered == 0) {
@@ -84,7 +84,7 @@ void Relay::look()
     }
 }
 
-void Relay::openServer()
+void RecordingRelay::openServer()
 {
     QString error;
     if (m_channel.listen(&error) != Channel::Listen::Listening) {
@@ -100,21 +100,21 @@ void Relay::openServer()
     m_wasOpen = true;
 }
 
-void Relay::closeServer()
+void RecordingRelay::closeServer()
 {
     m_open = false;
     m_channel.stopListening();
     doubt(m_silentTime, "stop-listen");
 }
 
-void Relay::clientArrives()
+void RecordingRelay::clientArrives()
 {
     settleDoubts();
     releaseFarEnd();
     m_closing = false;
     m_farEnd = new QLocalSocket(this);
-    connect(m_farEnd, &QLocalSocket::readyRead, this, &Relay::takeAnswer);
-    connect(m_farEnd, &QLocalSocket::disconnected, this, &Relay::subjectCloses);
+    connect(m_farEnd, &QLocalSocket::readyRead, this, &RecordingRelay::takeAnswer);
+    connect(m_farEnd, &QLocalSocket::disconnected, this, &RecordingRelay::subjectCloses);
     m_farEnd->connectToServer(m_subject.socketPath(), QIODevice::ReadWrite);
     if (m_farEnd->waitForConnected(cConnectMs)) {
         m_writer.pluginDid(m_clock.elapsed(), "await-client");
@@ -125,7 +125,7 @@ void Relay::clientArrives()
 }
 
 /// The plug-in has gone, or has been sent away here.
-void Relay::clientGoes()
+void RecordingRelay::clientGoes()
 {
     if (m_farEnd != nullptr && !m_closing) {
         settleDoubts();
@@ -135,7 +135,7 @@ void Relay::clientGoes()
     settleEnd();
 }
 
-void Relay::passOn(const QByteArray &bytes)
+void RecordingRelay::passOn(const QByteArray &bytes)
 {
     // The time is taken before the bytes go on: the call process counts its pauses from their arrival, so no recorded
     // pause is shorter than it was.
@@ -146,7 +146,7 @@ void Relay::passOn(const QByteArray &bytes)
     }
 }
 
-void Relay::takeAnswer()
+void RecordingRelay::takeAnswer()
 {
     const QByteArray bytes = m_farEnd->readAll();
     if (!bytes.isEmpty()) {
@@ -156,7 +156,7 @@ void Relay::takeAnswer()
     }
 }
 
-void Relay::subjectCloses()
+void RecordingRelay::subjectCloses()
 {
     takeAnswer();
     m_closing = true;
@@ -166,7 +166,7 @@ void Relay::subjectCloses()
 }
 
 /// Closes the plug-in's connection when the call process has closed its own and all it wrote has been passed on.
-void Relay::dropClient()
+void RecordingRelay::dropClient()
 {
     if (m_closing && m_channel.isAllWritten()) {
         m_channel.drop();
@@ -174,7 +174,7 @@ void Relay::dropClient()
 }
 
 /// What may be the beginning of the end is told when it has shown to be none.
-void Relay::doubt(qint64 time, const char *statement)
+void RecordingRelay::doubt(qint64 time, const char *statement)
 {
     if (m_quit) {
         return;
@@ -185,7 +185,7 @@ void Relay::doubt(qint64 time, const char *statement)
     m_doubts.emplace_back(time, statement);
 }
 
-void Relay::settleDoubts()
+void RecordingRelay::settleDoubts()
 {
     m_doubtTimer.stop();
     for (const auto &[time, statement] : std::exchange(m_doubts, {})) {
@@ -193,7 +193,7 @@ void Relay::settleDoubts()
     }
 }
 
-void Relay::subjectEnds()
+void RecordingRelay::subjectEnds()
 {
     m_lookTimer.stop();
     m_doubtTimer.stop();
@@ -202,7 +202,7 @@ void Relay::subjectEnds()
 }
 
 /// The end is told when all that the call process wrote before it has been passed on.
-void Relay::settleEnd()
+void RecordingRelay::settleEnd()
 {
     const bool heardOut = m_farEnd == nullptr || m_closing || !m_subject.isChild();
     if (!m_ended || m_told || !heardOut || !m_channel.isAllWritten()) {
@@ -218,7 +218,7 @@ void Relay::settleEnd()
     tellEnd();
 }
 
-void Relay::tellEnd()
+void RecordingRelay::tellEnd()
 {
     if (m_stopped || !m_subject.isChild()) {
         m_writer.end(m_stopped ? QStringLiteral("The recording was stopped.") : QString());
@@ -235,7 +235,7 @@ void Relay::tellEnd()
     emit finished(exitCode, killed || (failed && !m_quit));
 }
 
-void Relay::releaseFarEnd()
+void RecordingRelay::releaseFarEnd()
 {
     QLocalSocket *farEnd = std::exchange(m_farEnd, nullptr);
     if (farEnd != nullptr) {

@@ -17,14 +17,14 @@ class Channel;
 class QLocalSocket;
 class Subject;
 
-class Relay : public QObject
+class RecordingRelay : public QObject
 {
     Q_OBJECT
 
 public:
     /// `subject` has been started or attached to; `channel`, which is for the plug-in, does not listen yet. All three
     /// outlive the relay.
-    Relay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject *parent = nullptr);
+    RecordingRelay(Subject &subject, Channel &channel, ScenarioWriter &writer, QObject *parent = nullptr);
 
     /// Begins.
     void start();
