@@ -49,7 +49,8 @@ void ConferenceDesk::request(const QString &ownId, const QStringList &members)
             return;
         }
         m_outlet.notify(Wire::Code::ConfCreated,
-                        compact({{QStringLiteral("result"), QJsonObject{{QStringLiteral("confId"), m_confId}}}}));
+                        compact({{QString::fromLatin1(Wire::cKeyResult),
+                                  QJsonObject{{QString::fromLatin1(Wire::cKeyConfId), m_confId}}}}));
         afterInConference(cConnectAfterMs, [this, members] {
             join(nullptr);
             const QStringList failed = callMembers(members);
@@ -261,9 +262,9 @@ void ConferenceDesk::tellOfAnotherConference()
 
 void ConferenceDesk::tellAddResult(const QStringList &failed)
 {
-    const QJsonObject result{{QStringLiteral("failedNums"), QJsonArray::fromStringList(failed)}};
+    const QJsonObject result{{QString::fromLatin1(Wire::cKeyFailedNums), QJsonArray::fromStringList(failed)}};
     m_outlet.notify(Wire::Code::ConfAddResult,
-                    compact({{QStringLiteral("status"), 0}, {QStringLiteral("result"), result}}));
+                    compact({{QStringLiteral("status"), 0}, {QString::fromLatin1(Wire::cKeyResult), result}}));
 }
 
 QString ConferenceDesk::document(const QString &from) const
@@ -274,11 +275,11 @@ QString ConferenceDesk::document(const QString &from) const
 QString ConferenceDesk::document(const QString &confId, const QString &from, const QStringList &members,
                                  qint64 createTime)
 {
-    QJsonObject body{{QStringLiteral("from"), from},
-                     {QStringLiteral("conventioneer"), QJsonArray::fromStringList(members)},
-                     {QStringLiteral("confId"), confId}};
+    QJsonObject body{{QString::fromLatin1(Wire::cKeyFrom), from},
+                     {QString::fromLatin1(Wire::cKeyConventioneer), QJsonArray::fromStringList(members)},
+                     {QString::fromLatin1(Wire::cKeyConfId), confId}};
     if (createTime > 0) {
-        body.insert(QStringLiteral("createTime"), static_cast<double>(createTime));
+        body.insert(QLatin1String(Wire::cKeyCreateTime), static_cast<double>(createTime));
     }
-    return compact({{QStringLiteral("content"), body}});
+    return compact({{QString::fromLatin1(Wire::cKeyContent), body}});
 }

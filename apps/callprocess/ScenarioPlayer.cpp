@@ -100,11 +100,7 @@ void ScenarioPlayer::run(const Statement &statement)
     switch (statement.kind) {
     case StatementKind::Expect:
     case StatementKind::Await:
-        m_waiting = Waiting::Line;
-        if (m_timeoutMs > 0) {
-            m_timer.start(m_timeoutMs);
-        }
-        serveArrivals();
+        runExpect();
         break;
     case StatementKind::Ignore:
         m_ignored += QSet<QString>(statement.commands.begin(), statement.commands.end());
@@ -131,10 +127,8 @@ void ScenarioPlayer::run(const Statement &statement)
         m_frames.append({&statement.body, 0, statement.count});
         break;
     case StatementKind::AwaitClient:
-        m_waiting = m_channel.hasClient() || m_quit ? Waiting::Nothing : Waiting::Client;
-        break;
     case StatementKind::AwaitGone:
-        m_waiting = !m_channel.hasClient() || m_quit ? Waiting::Nothing : Waiting::NoClient;
+        runAwait(statement.kind == StatementKind::AwaitClient);
         break;
     case StatementKind::Drop:
         m_channel.drop();
@@ -152,6 +146,21 @@ void ScenarioPlayer::run(const Statement &statement)
         finish(0, QStringLiteral("scenario ended"));
         break;
     }
+}
+
+void ScenarioPlayer::runExpect()
+{
+    m_waiting = Waiting::Line;
+    if (m_timeoutMs > 0) {
+        m_timer.start(m_timeoutMs);
+    }
+    serveArrivals();
+}
+
+void ScenarioPlayer::runAwait(bool client)
+{
+    const bool over = m_channel.hasClient() == client || m_quit;
+    m_waiting = over ? Waiting::Nothing : client ? Waiting::Client : Waiting::NoClient;
 }
 
 void ScenarioPlayer::runDelay(Waiting waiting, int milliseconds)

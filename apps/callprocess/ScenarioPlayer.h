@@ -69,6 +69,8 @@ private:
     void step();
     bool moveOn();
     void run(const Statement &statement);
+    void runExpect();
+    void runAwait(bool client);
     void runDelay(Waiting waiting, int milliseconds);
     void runSplit(const Statement &statement);
     void runWrite(const Statement &statement, const QByteArray &bytes);

@@ -7,6 +7,7 @@
 #include "callprocess/ScenarioPlayer.h"
 #include "endpoint/Channel.h"
 #include "endpoint/ProcessFrame.h"
+#include "endpoint/SecretVeil.h"
 #include "endpoint/Streams.h"
 #include "endpoint/Trace.h"
 
@@ -80,6 +81,9 @@ int main(int argc, char *argv[])
         }
     }
     Trace trace;
+    if (options.hideSecrets) {
+        trace.setVeil(&withoutSecret);
+    }
     if (!trace.open(options.trace, &error)) {
         return complain(cExitBadInput, cProgram, error);
     }

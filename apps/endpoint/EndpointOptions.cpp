@@ -1,5 +1,6 @@
 #include "endpoint/EndpointOptions.h"
 
+#include "endpoint/EndpointVariables.h"
 #include "endpoint/OptionTable.h"
 
 #include <QCommandLineParser>
@@ -7,9 +8,9 @@
 namespace {
 
 // clang-format off
-constexpr OptionRow cTrace      {"trace",        "VOIPSDK_TRACE",        "FILE", "append a record of every line to this file, \"-\" for standard error"};
-constexpr OptionRow cIdle       {"idle-seconds", "VOIPSDK_IDLE_SECONDS", "N",    "end after this long without a client"};
-constexpr OptionRow cSocketName {"socket-name",  "",                     "NAME", "name of the local server"};
+constexpr OptionRow cTrace      {"trace",        EndpointVariables::cTrace, "FILE", "append a record of every line to this file, \"-\" for standard error"};
+constexpr OptionRow cIdle       {"idle-seconds", EndpointVariables::cIdle,  "N",    "end after this long without a client"};
+constexpr OptionRow cSocketName {"socket-name",  "",                        "NAME", "name of the local server"};
 // clang-format on
 
 } // namespace

@@ -31,7 +31,7 @@ bool hasType(const QJsonValue &value, char type)
 
 QString parameterKey(int number)
 {
-    return QStringLiteral("param%1").arg(number);
+    return QLatin1String(Wire::cKeyParameter) + QString::number(number);
 }
 
 bool isUtf8(const QByteArray &bytes)
@@ -82,7 +82,7 @@ std::optional<Command> parseCommand(const QByteArray &line, QString *reason)
     }
     Command command;
     command.object = document.object();
-    const QJsonValue name = command.object.value(QStringLiteral("messagetype"));
+    const QJsonValue name = command.object.value(QLatin1String(Wire::cKeyMessageType));
     if (!name.isString()) {
         *reason = QStringLiteral("no text \"messagetype\"");
         return std::nullopt;
@@ -130,6 +130,7 @@ QByteArray notificationLine(Wire::Code code, const QString &content)
 
 QByteArray notificationLine(int code, const QString &content)
 {
-    const QJsonObject object{{QStringLiteral("resultCode"), code}, {QStringLiteral("content"), content}};
+    const QJsonObject object{{QString::fromLatin1(Wire::cKeyResultCode), code},
+                             {QString::fromLatin1(Wire::cKeyContent), content}};
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }

@@ -82,8 +82,8 @@ void tellPlugin(const std::string &folder, std::vector<std::string> arguments, c
         // Whoever ends the front ends this too.
         ::prctl(PR_SET_PDEATHSIG, SIGTERM);
         if (::getppid() == front) {
-            arguments.insert(arguments.end(),
-                             {"--scenario", "/dev/fd/" + std::to_string(scenario), "--idle-seconds", "10"});
+            arguments.insert(arguments.end(), {"--scenario", "/dev/fd/" + std::to_string(scenario), "--idle-seconds",
+                                               "10", "--hide-secrets"});
             become(robots, arguments);
         }
         ::_exit(cExitNoProgram);

@@ -245,8 +245,8 @@ private slots:
         peer.start({QStringLiteral("--help")});
         QCOMPARE(peer.exitCode(), 0);
         const QByteArray text = peer.process().readAllStandardOutput();
-        for (const char *option : {"--scenario", "--trace", "--speed", "--idle-seconds", "--socket-name",
-                                   "VOIPSDK_TRACE", "(600)", "(VoipSDK)"}) {
+        for (const char *option : {"--scenario", "--trace", "--speed", "--hide-secrets", "--idle-seconds",
+                                   "--socket-name", "VOIPSDK_TRACE", "(600)", "(VoipSDK)"}) {
             QVERIFY2(text.contains(option), option);
         }
     }
