@@ -1,81 +1,27 @@
 #include "calls/sound/EchoCard.h"
 
+#include "calls/sound/EchoLine.h"
+
 #include <linphone++/linphone.hh>
 
-#include <algorithm>
-#include <deque>
 #include <linphone/core.h>
 #include <mediastreamer2/msfilter.h>
 #include <mediastreamer2/mssndcard.h>
 #include <mediastreamer2/msticker.h>
-#include <mutex>
 #include <string>
 
 namespace {
 
-constexpr int cTickMs = 10;
-constexpr int cMsPerSecond = 1000;
-
-/// What is on its way from the loudspeaker to the microphone. Both are served by threads of the library.
-class Line
-{
-public:
-    void setFormat(int rate, int channels)
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_rate = rate;
-        m_channels = channels;
-    }
-    int rate() const { return m_rate; }
-    int channels() const { return m_channels; }
-
-    /// A new call: the microphone hears nothing of the one before.
-    void clear()
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_samples.assign(second(), 0);
-    }
-
-    void put(const int16_t *samples, std::size_t count)
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_samples.insert(m_samples.end(), samples, samples + count);
-        // Where the microphone is not heard in time, the echo must not come later and later.
-        if (m_samples.size() > 2 * second()) {
-            m_samples.erase(m_samples.begin(), m_samples.end() - std::ptrdiff_t(second()));
-        }
-    }
-
-    std::size_t samplesOfATick() const { return std::size_t(m_rate) * m_channels * cTickMs / cMsPerSecond; }
-
-    void take(int16_t *samples)
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        const std::size_t wanted = samplesOfATick();
-        const auto end = m_samples.begin() + std::ptrdiff_t(std::min(wanted, m_samples.size()));
-        std::fill(std::copy(m_samples.begin(), end, samples), samples + wanted, int16_t(0));
-        m_samples.erase(m_samples.begin(), end);
-    }
-
-private:
-    std::size_t second() const { return std::size_t(m_rate) * m_channels * cEchoSeconds; }
-
-    std::mutex m_mutex;
-    std::deque<int16_t> m_samples;
-    int m_rate = 16000;
-    int m_channels = 1;
-};
-
 /// The process has one call at a time, so there is one.
-Line &theLine()
+EchoLine &theLine()
 {
-    static Line line;
+    static EchoLine line;
     return line;
 }
 
 int setRate(MSFilter * /*filter*/, void *rate)
 {
-    theLine().setFormat(*static_cast<int *>(rate), theLine().channels());
+    theLine().setRate(*static_cast<int *>(rate));
     return 0;
 }
 
@@ -87,7 +33,7 @@ int getRate(MSFilter * /*filter*/, void *rate)
 
 int setChannels(MSFilter * /*filter*/, void *channels)
 {
-    theLine().setFormat(theLine().rate(), *static_cast<int *>(channels));
+    theLine().setChannels(*static_cast<int *>(channels));
     return 0;
 }
 
@@ -110,9 +56,11 @@ void beginToHear(MSFilter * /*filter*/)
 
 void hear(MSFilter *filter)
 {
-    const std::size_t bytes = theLine().samplesOfATick() * sizeof(int16_t);
+    // Another thread may set the format in between.
+    const std::size_t samples = theLine().samplesOfATick();
+    const std::size_t bytes = samples * sizeof(int16_t);
     mblk_t *block = allocb(bytes, 0);
-    theLine().take(reinterpret_cast<int16_t *>(block->b_wptr));
+    theLine().take(reinterpret_cast<int16_t *>(block->b_wptr), samples);
     block->b_wptr += bytes;
     ms_queue_put(filter->outputs[0], block);
 }

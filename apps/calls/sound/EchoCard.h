@@ -6,8 +6,5 @@ namespace linphone {
 class Core;
 }
 
-/// How much later the microphone hears it.
-inline constexpr int cEchoSeconds = 1;
-
 /// Gives a core that is started this card, and has it use no other. False when the library will not have it.
 bool useEchoCard(linphone::Core &core);
