@@ -24,7 +24,7 @@ constexpr int cKnockPauseMs = 10;
 constexpr int cStartMs = 30000;
 constexpr int cFirstPauseMs = 100;
 constexpr int cLongestPauseMs = 5000;
-// An exchange that ended sooner was not long for this world.
+// An exchange that ended sooner counts as one that cannot live, and is started anew with a pause.
 constexpr int cShortLifeMs = 2000;
 // Starts in a row that came to nothing, after which the clients are told.
 constexpr int cMostFailures = 3;
