@@ -2,6 +2,7 @@
 // serves its client until it is told to quit. Without a server it is one of those who share this user's own exchange.
 
 #include "calls/CallsOptions.h"
+#include "calls/ProcessFolder.h"
 #include "calls/agent/UserAgent.h"
 #include "calls/desk/Desk.h"
 #include "calls/desk/Echo.h"
@@ -10,6 +11,7 @@
 
 #include "endpoint/Channel.h"
 #include "endpoint/ProcessFrame.h"
+#include "endpoint/SecretVeil.h"
 #include "endpoint/Streams.h"
 #include "endpoint/Trace.h"
 
@@ -18,7 +20,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSocketNotifier>
-#include <QTemporaryDir>
 
 #include <csignal>
 #include <cstdio>
@@ -48,13 +49,12 @@ ExchangeAccess accessOf(const CallsSettings &settings)
 {
     ExchangeAccess access;
     for (const CallsServer &server : settings.servers) {
-        const QString host = QString::fromStdString(server.host);
-        const QString written = host.contains(QLatin1Char(':')) ? QStringLiteral("[%1]").arg(host) : host;
-        access.servers << QStringLiteral("sip:%1:%2;transport=tls").arg(written).arg(server.port);
+        access.servers
+            << QStringLiteral("sip:%1:%2;transport=tls").arg(QString::fromStdString(server.written())).arg(server.port);
     }
     access.caFile = QString::fromStdString(settings.caFile);
     access.domain = QString::fromStdString(
-        settings.domain.empty() && !settings.servers.empty() ? settings.servers.front().host : settings.domain);
+        settings.domain.empty() && !settings.servers.empty() ? settings.servers.front().written() : settings.domain);
     const QString secretFile = QString::fromStdString(settings.secretFile);
     if (settings.secret == "token") {
         access.credentials = tokenCredentials;
@@ -124,12 +124,12 @@ int serve(const CallsSettings &settings, Channel &channel, Trace &trace)
 {
     const auto exchange = exchangeOf(settings);
     ExchangeAccess access = accessOf(settings);
-    const QTemporaryDir folder;
+    const ProcessFolder folder;
     UserAgent agent(settings, access, folder.path());
     Desk desk(channel, trace, agent, access);
     QString error;
-    if (!agent.start(&error)) {
-        trace.complaint(error);
+    if (!folder.isValid() || !agent.start(&error)) {
+        trace.complaint(folder.isValid() ? error : folder.fault());
         return cExitCannotListen;
     }
     QObject::connect(&channel, &Channel::lineReceived, &desk, [&](const QByteArray &line) {
@@ -158,7 +158,15 @@ int echo(const QString &userId, CallsSettings settings, Trace &trace)
     settings.wavOut.clear();
     const auto exchange = exchangeOf(settings);
     ExchangeAccess access = accessOf(settings);
-    const QTemporaryDir folder;
+    QString fault;
+    if (!settings.servers.empty() && access.credentials(userId, QString(), &fault).password.isEmpty()) {
+        // No client brings one: account/secret has to be file.
+        return complain(cExitBadInput, cProgram, QStringLiteral("the echo cannot sign in: %1").arg(fault));
+    }
+    const ProcessFolder folder;
+    if (!folder.isValid()) {
+        return complain(cExitCannotListen, cProgram, folder.fault());
+    }
     UserAgent agent(settings, access, folder.path(), UserAgent::Sound::Echo);
     Echo echo(userId, trace, agent, access);
     QString error;
@@ -200,7 +208,7 @@ int main(int argc, char *argv[])
         return complain(cExitBadInput, cProgram, error);
     }
     Trace trace;
-    trace.setVeil(&Desk::withoutSecret);
+    trace.setVeil(&withoutSecret);
     if (!trace.open(options.trace, &error)) {
         return complain(cExitBadInput, cProgram, error);
     }

@@ -3,6 +3,7 @@
 #include "calls/agent/ExchangeAccess.h"
 #include "calls/settings/CallsSettings.h"
 #include "calls/sound/DeviceChoice.h"
+#include "calls/sound/EchoCanceller.h"
 
 #include <QFile>
 
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
 namespace {
 
@@ -17,9 +19,9 @@ namespace {
 // that ran out before would read as a busy line.
 constexpr int cUnansweredSeconds = 150;
 // Where sound comes unevenly the library waits longer by itself; where it does not, its own 60 ms are heard as a pause.
-constexpr int cJitterMs = 20;
-// Samples at 8 kHz that the echo canceller waits for; its own 128 come 25 ms later.
-constexpr int cEchoFrame = 64;
+constexpr int cJitterMs = 10;
+// Of Opus, 0 to 10: the library's own 9 takes twice as long, and no tone comes out otherwise.
+constexpr const char *cOpusEffort = "3";
 constexpr int cNoListener = -2; // the library's word for a transport that only dials out
 
 constexpr std::array<const char *, 3> cSystemCertificates{"/etc/ssl/certs/ca-certificates.crt",
@@ -32,7 +34,7 @@ std::shared_ptr<linphone::Config> makeConfig(const CallsSettings &settings)
     config->setString("storage", "uri", "null");
     config->setString("sound", "remote_ring", "");
     config->setBool("sound", "noisegate", settings.noiseHandling);
-    // The tones are the process's own: the library's break off.
+    // The process plays tones of its own: the library cuts its own short.
     config->setBool("misc", "tone_indications", false);
     config->setInt("sip", "delayed_timeout", cUnansweredSeconds);
     config->setInt("sip", "keepalive_period", 15000);
@@ -43,7 +45,6 @@ std::shared_ptr<linphone::Config> makeConfig(const CallsSettings &settings)
     config->setBool("misc", "conference_event_log_enabled", false);
     config->setInt("rtp", "nortp_timeout", settings.noMedia);
     config->setInt("rtp", "audio_jitt_comp", cJitterMs);
-    config->setInt("sound", "ec_framesize", cEchoFrame);
     return config;
 }
 
@@ -55,7 +56,7 @@ void closeAllDoors(linphone::Core &core)
     transports->setDtlsPort(0);
     transports->setTlsPort(cNoListener);
     core.setTransports(transports);
-    // A message would look for a data base that there is none of.
+    // Messages need a data base, which is switched off.
     core.disableChat(linphone::Reason::NotImplemented);
     core.enableFriendListSubscription(false);
     core.enableNativeRinging(false);
@@ -133,5 +134,7 @@ std::shared_ptr<linphone::Core> makeCore(const CallsSettings &settings, const Ex
     core->setIncTimeout(cUnansweredSeconds);
     core->setNortpTimeout(settings.noMedia);
     chooseSound(*core, settings);
+    useEchoCanceller(*core);
+    ::setenv("MS2_OPUS_COMPLEXITY", cOpusEffort, 0);
     return core;
 }

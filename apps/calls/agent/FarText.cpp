@@ -2,13 +2,23 @@
 
 #include <algorithm>
 
+namespace {
+
+/// What is not seen itself, and turns round or hides what stands beside it.
+bool isControl(QChar character)
+{
+    return character.category() == QChar::Other_Control || character.category() == QChar::Other_Format;
+}
+
+} // namespace
+
 QString farText(const std::string &bytes, int limit)
 {
     // A character has at most four bytes: no more than these can be within the limit.
     const auto bounded = static_cast<int>(std::min(bytes.size(), static_cast<std::size_t>(limit) * 4));
     QString text = QString::fromUtf8(bytes.data(), bounded).left(limit);
     for (QChar &character : text) {
-        if (character.category() == QChar::Other_Control || character.category() == QChar::Separator_Line ||
+        if (isControl(character) || character.category() == QChar::Separator_Line ||
             character.category() == QChar::Separator_Paragraph) {
             character = QLatin1Char(' ');
         }
@@ -18,7 +28,5 @@ QString farText(const std::string &bytes, int limit)
 
 bool isUserId(const QString &id)
 {
-    return !id.isEmpty() && id.size() <= cUserIdLimit && std::none_of(id.begin(), id.end(), [](QChar character) {
-        return character.category() == QChar::Other_Control;
-    });
+    return !id.isEmpty() && id.size() <= cUserIdLimit && std::none_of(id.begin(), id.end(), isControl);
 }

@@ -4,6 +4,8 @@
 
 #include <linphone++/linphone.hh>
 
+#include <stdexcept>
+
 Registration::Registration(linphone::Core &core, const ExchangeAccess &access, int expires)
     : m_core(core), m_access(access), m_expires(expires)
 {
@@ -19,6 +21,10 @@ void Registration::signIn(const QString &userId, const QString &nickName, const 
     }
     signOut();
     m_forgotten = false;
+    const auto identity = addressOf(userId);
+    if (!identity) {
+        throw std::invalid_argument("no address for the user in the domain " + m_access.domain.toStdString());
+    }
     if (m_server >= m_access.servers.size()) {
         m_server = 0;
     }
@@ -29,7 +35,6 @@ void Registration::signIn(const QString &userId, const QString &nickName, const 
                                                                 credentials.password.toStdString(), "", "",
                                                                 m_access.domain.toStdString()));
     const auto parameters = m_core.createAccountParams();
-    const auto identity = addressOf(userId);
     identity->setDisplayName(nickName.left(cUserIdLimit).toStdString());
     parameters->setIdentityAddress(identity);
     parameters->setExpires(m_expires);
@@ -95,6 +100,9 @@ void Registration::registerAt(int server)
     const auto parameters = m_account->getParams()->clone();
     m_place = m_access.servers.at(server);
     const auto address = m_core.createAddress(m_place.toStdString());
+    if (!address) {
+        throw std::invalid_argument("no address of a server: " + m_place.toStdString());
+    }
     parameters->setServerAddress(address);
     parameters->setRoutesAddresses({address});
     parameters->enableRegister(true);
@@ -109,4 +117,11 @@ std::shared_ptr<linphone::Address> Registration::addressOf(const QString &userId
         address->setUsername(userId.toStdString());
     }
     return address;
+}
+
+bool Registration::isOfThisExchange(const linphone::Address &address) const
+{
+    // As the library writes it: an IPv6 address may have its brackets or not.
+    const auto own = m_core.createAddress(QStringLiteral("sip:%1").arg(m_access.domain).toStdString());
+    return own && address.getDomain() == own->getDomain();
 }

@@ -51,8 +51,11 @@ public:
     /// Registers at the server after the present one, behind the last one at the first again.
     void tryNextServer();
 
-    /// The SIP address of a user of the same exchange.
+    /// The SIP address of a user of the same exchange; null where its domain is none.
     std::shared_ptr<linphone::Address> addressOf(const QString &userId) const;
+
+    /// Whether the address is one of the exchange's users.
+    bool isOfThisExchange(const linphone::Address &address) const;
 
 private:
     void registerAt(int server);

@@ -72,6 +72,11 @@ void UserAgent::refuse(bool asBusy)
     m_core->refuse(asBusy);
 }
 
+void UserAgent::playFailure(const CallEnd &end)
+{
+    m_core->playFailure(end);
+}
+
 void UserAgent::setEnabled(Loudness::Side side, bool enabled)
 {
     m_core->loudness().setEnabled(side, enabled);

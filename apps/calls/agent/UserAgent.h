@@ -64,6 +64,9 @@ public:
     /// answer.
     void refuse(bool asBusy);
 
+    /// Plays the tone for a call of one's own that came to nothing before it was placed.
+    void playFailure(const CallEnd &end);
+
     /// The switches and volumes, which outlive the call.
     void setEnabled(Loudness::Side side, bool enabled);
     void setVolume(Loudness::Side side, int volume);

@@ -22,6 +22,7 @@ constexpr int cStopStepUs = 10000;
 constexpr int cStatusMediaLost = 503;
 constexpr int cStatusBusy = 486;
 constexpr int cStatusDeclined = 603;
+constexpr int cStatusNothingInCommon = 488;
 
 bool isOver(linphone::Call::State state)
 {
@@ -88,8 +89,10 @@ void UserAgent::Core::stop()
     m_nextServerTimer.stop();
     guard([this] {
         end();
-        const bool registered = m_registration->isRegistered();
-        m_registration->signOut();
+        const bool registered = isRegistered();
+        if (m_registration) {
+            m_registration->signOut();
+        }
         // The exchange may be gone: what it does not answer is not waited for.
         for (int i = 0; i < cStopSteps && (m_library->getCallsNb() > 0 || (registered && i < cStopSteps / 5)); ++i) {
             m_library->iterate();
@@ -118,7 +121,14 @@ void UserAgent::Core::loseExchange()
 
 void UserAgent::Core::signIn(const QString &userId, const QString &nickName, const Credentials &credentials)
 {
-    guard([&] { m_registration->signIn(userId, nickName, credentials); });
+    bool asked = false;
+    guard([&] {
+        m_registration->signIn(userId, nickName, credentials);
+        asked = true;
+    });
+    if (!asked) {
+        emit m_agent.registrationLost(QStringLiteral("the exchange cannot be asked"));
+    }
     hurry();
 }
 
@@ -149,7 +159,11 @@ void UserAgent::Core::accept()
     guard([this] {
         if (m_call && isArrival(m_call->getState())) {
             refreshDevices();
-            m_call->acceptWithParams(parameters(m_call));
+            if (m_call->acceptWithParams(parameters(m_call)) != 0) {
+                const auto call = std::exchange(m_call, nullptr);
+                call->terminate();
+                reportEnd({0, false, QStringLiteral("the library does not accept it")}, false);
+            }
         }
     });
     hurry();
@@ -176,6 +190,14 @@ void UserAgent::Core::refuse(bool asBusy)
         if (const auto call = std::exchange(m_call, nullptr)) {
             call->decline(asBusy ? linphone::Reason::Busy : linphone::Reason::TemporarilyUnavailable);
         }
+    });
+}
+
+void UserAgent::Core::playFailure(const CallEnd &end)
+{
+    guard([&] {
+        m_mediaRan = false;
+        playEnd(end, true);
     });
 }
 
@@ -273,7 +295,7 @@ void UserAgent::Core::takeArrival(const std::shared_ptr<linphone::Call> &call)
     const auto remote = call->getRemoteParams();
     if (m_call && !isOver(m_call->getState())) {
         call->decline(linphone::Reason::Busy);
-    } else if (!isUserId(userId) || address->getDomain() != m_access.domain.toStdString()) {
+    } else if (!isUserId(userId) || !m_registration->isOfThisExchange(*address)) {
         // Another domain's user would read as the user of the same name here.
         call->decline(linphone::Reason::Forbidden);
         emit m_agent.remarked(QStringLiteral("refused a call from %1: not of this exchange")
@@ -286,6 +308,12 @@ void UserAgent::Core::takeArrival(const std::shared_ptr<linphone::Call> &call)
         m_mediaRan = false;
         emit m_agent.callArrived(userId);
     }
+}
+
+bool UserAgent::Core::isBeingPlacedTo(const linphone::Address &address) const
+{
+    return m_call && m_call->getDir() == linphone::Call::Dir::Outgoing && !m_mediaRan &&
+           m_call->getRemoteAddress()->weakEqual(address.clone());
 }
 
 void UserAgent::Core::takeOwn(linphone::Call::State state)
@@ -328,7 +356,12 @@ void UserAgent::Core::takeEnd()
         end.why = farText(error->getPhrase(), cRemarkLimit);
         end.mediaLost = m_mediaRan && end.status == cStatusMediaLost;
     }
-    playEnd(end, call->getDir() == linphone::Call::Dir::Outgoing);
+    reportEnd(end, call->getDir() == linphone::Call::Dir::Outgoing);
+}
+
+void UserAgent::Core::reportEnd(const CallEnd &end, bool placedHere)
+{
+    playEnd(end, placedHere);
     emit m_agent.callEnded(end);
 }
 
@@ -361,11 +394,22 @@ void UserAgent::Core::onCallLogUpdated(const std::shared_ptr<linphone::Core> & /
         // One that it refuses because the line is busy is no matter of an operator's.
         const auto error = log->getErrorInfo();
         const int status = error ? error->getProtocolCode() : 0;
-        if (log->getStatus() == linphone::Call::Status::EarlyAborted &&
-            log->getDir() == linphone::Call::Dir::Incoming && status != cStatusBusy) {
-            emit m_agent.remarked(QStringLiteral("refused a call from %1: no common encryption or codec (%2)")
-                                      .arg(farText(log->getFromAddress()->getUsername(), cUserIdLimit))
+        if (!error || log->getStatus() != linphone::Call::Status::EarlyAborted ||
+            log->getDir() != linphone::Call::Dir::Incoming) {
+            return;
+        }
+        if (status != cStatusBusy) {
+            const QString why = status == cStatusNothingInCommon ? QStringLiteral("no common encryption or codec")
+                                                                 : farText(error->getPhrase(), cRemarkLimit);
+            emit m_agent.remarked(QStringLiteral("refused a call from %1: %2 (%3)")
+                                      .arg(farText(log->getFromAddress()->getUsername(), cUserIdLimit), why)
                                       .arg(status));
+        } else if (isBeingPlacedTo(*log->getFromAddress())) {
+            // Each has called the other: the library has told that one that the line is busy, and where both hear the
+            // same in turn one call would be left to ring.
+            const auto own = std::exchange(m_call, nullptr);
+            own->terminate();
+            reportEnd({cStatusBusy, false, QStringLiteral("both have called at once")}, true);
         }
     });
 }

@@ -31,6 +31,7 @@ public:
     void accept();
     void end();
     void refuse(bool asBusy);
+    void playFailure(const CallEnd &end);
     void applyLoudness();
 
     Loudness &loudness() { return m_loudness; }
@@ -60,6 +61,10 @@ private:
     void takeArrival(const std::shared_ptr<linphone::Call> &call);
     void takeOwn(linphone::Call::State state);
     void takeEnd();
+    void reportEnd(const CallEnd &end, bool placedHere);
+
+    /// Whether the call that is on was placed to this one, and does not stand yet.
+    bool isBeingPlacedTo(const linphone::Address &address) const;
     void takeRunningStreams();
     void playEnd(const CallEnd &end, bool placedHere);
     std::shared_ptr<linphone::CallParams> parameters(const std::shared_ptr<linphone::Call> &call);

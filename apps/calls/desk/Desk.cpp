@@ -1,5 +1,7 @@
 #include "calls/desk/Desk.h"
 
+#include "calls/agent/FarText.h"
+
 #include "endpoint/Channel.h"
 #include "endpoint/ServiceTable.h"
 
@@ -14,6 +16,7 @@ namespace {
 // microphone must not stay open.
 constexpr int cAwayMs = 90000;
 
+constexpr int cStatusUnknown = 404;
 constexpr int cStatusBusy = 486;
 
 QString documentText(const QJsonObject &object)
@@ -73,20 +76,6 @@ void Desk::handleLine(const QByteArray &line)
     serveLine(*this, rows, line, m_trace);
 }
 
-QByteArray Desk::withoutSecret(const QByteArray &line)
-{
-    if (!line.contains(Wire::nameOf(Wire::Command::RegeditUser))) {
-        return line;
-    }
-    QString reason;
-    std::optional<Command> command = parseCommand(line, &reason);
-    if (!command) {
-        return QByteArrayLiteral("(half a sign-in)");
-    }
-    command->object.insert(parameterKey(3), QStringLiteral("..."));
-    return QJsonDocument(command->object).toJson(QJsonDocument::Compact);
-}
-
 void Desk::registerUser(const Command &command)
 {
     const QString userId = command.text(1);
@@ -104,7 +93,7 @@ void Desk::registerUser(const Command &command)
 void Desk::signIn()
 {
     QString fault;
-    if (m_userId.isEmpty()) {
+    if (!isUserId(m_userId)) {
         fault = QStringLiteral("no user id");
     } else if (m_access.servers.isEmpty()) {
         // The exchange of one's own is about to come, or its failure to be told.
@@ -159,11 +148,13 @@ void Desk::callUser(const Command &command)
     if (rang) {
         // Both have called at once, and the plug-in, which calls nobody while it rings, has seen this one too late.
         m_agent.refuse(true);
-        takeEnd({cStatusBusy, false, QStringLiteral("both have called at once")});
+        failCall({cStatusBusy, false, QStringLiteral("both have called at once")});
     } else if (!m_agent.isRegistered()) {
-        takeEnd({0, false, QStringLiteral("the caller is not registered")});
+        failCall({0, false, QStringLiteral("the caller is not registered")});
+    } else if (!isUserId(command.text(1))) {
+        failCall({cStatusUnknown, false, QStringLiteral("nobody has such an id")});
     } else if (!m_agent.call(command.text(1))) {
-        takeEnd({0, false, QStringLiteral("the call cannot be placed")});
+        failCall({0, false, QStringLiteral("the call cannot be placed")});
     }
 }
 
@@ -267,8 +258,16 @@ void Desk::takeEnd(const CallEnd &end)
     }
     m_outlet.notify(codeOf(phase, end));
     if (phase != CallPhase::Running || end.mediaLost) {
-        m_remarks.tell(QStringLiteral("the call ended: %1 %2").arg(end.status).arg(end.why));
+        const QString status = end.status == 0 ? QString() : QStringLiteral("%1 ").arg(end.status);
+        m_remarks.tell(QStringLiteral("the call ended: ") + status + end.why);
     }
+}
+
+/// A call of one's own that does not get as far as the exchange.
+void Desk::failCall(const CallEnd &end)
+{
+    takeEnd(end);
+    m_agent.playFailure(end);
 }
 
 void Desk::takeClient()

@@ -29,9 +29,6 @@ public:
     /// That exchange has gone or cannot be started, for this reason.
     void loseExchange(const QString &why);
 
-    /// A line as the trace may keep it: without the secret that a user signs in with.
-    static QByteArray withoutSecret(const QByteArray &line);
-
 private:
     void registerUser(const Command &command);
     void unregisterUser(const Command &command);
@@ -52,6 +49,7 @@ private:
     void takeArrival(const QString &userId);
     void takeMedia();
     void takeEnd(const CallEnd &end);
+    void failCall(const CallEnd &end);
     void takeClient();
 
     Channel &m_channel;

@@ -7,10 +7,17 @@
 Echo::Echo(QString userId, Trace &trace, UserAgent &agent, const ExchangeAccess &access, QObject *parent)
     : QObject(parent), m_userId(std::move(userId)), m_trace(trace), m_agent(agent), m_access(access)
 {
-    connect(&agent, &UserAgent::registered, this, [this] { m_trace.event(QStringLiteral("the echo is registered")); });
-    connect(&agent, &UserAgent::registrationLost, this,
-            [this](const QString &why) { m_trace.event(QStringLiteral("the echo is not registered: %1").arg(why)); });
-    // Behind the library's report of the call.
+    connect(&agent, &UserAgent::registered, this, [this] {
+        m_lossTold = false;
+        m_trace.event(QStringLiteral("the echo is registered"));
+    });
+    connect(&agent, &UserAgent::registrationLost, this, [this](const QString &why) {
+        // It is tried again by itself, each second perhaps.
+        if (!std::exchange(m_lossTold, true)) {
+            m_trace.event(QStringLiteral("the echo is not registered: %1").arg(why));
+        }
+    });
+    // Queued: the library still reports the call, and must have done so before it is answered.
     connect(
         &agent, &UserAgent::callArrived, this,
         [this](const QString &caller) {

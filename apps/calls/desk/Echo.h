@@ -29,4 +29,5 @@ private:
     Trace &m_trace;
     UserAgent &m_agent;
     const ExchangeAccess &m_access;
+    bool m_lossTold = false; // since it was last registered
 };

@@ -1,8 +1,8 @@
 #pragma once
 
-// What calls.ini says about the call process: which kind there is, the exchange that it signs in at, sound, log. Values
-// only, without Qt, since the front that starts the call process reads it too. Any thread; `read` looks into the
-// environment.
+// What calls.ini says about the call process: which kind there is, the exchange that it signs in at, account, media,
+// sound. Values only, without Qt, since the front that starts the call process reads it too. Any thread; `read` looks
+// into the environment.
 
 #include "calls/settings/CallKinds.h"
 #include "calls/settings/SettingTypes.h"

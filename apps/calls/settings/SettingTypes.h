@@ -10,6 +10,9 @@ struct CallsServer
 {
     std::string host; ///< name or address; IPv6 without brackets
     int port = 0;     ///< 1..65535
+
+    /// The host as it stands in a URI: IPv6 in brackets.
+    std::string written() const { return host.find(':') == std::string::npos ? host : '[' + host + ']'; }
 };
 
 /// A range of ports, both included.
@@ -25,6 +28,7 @@ struct SettingTypes
     using Choice = std::string;               ///< one of the words of its row
     using Choices = std::vector<std::string>; ///< some of them, each once, at least one
     using Flag = bool;
+    using Host = std::string; ///< a name or an address, IPv6 in brackets, as it stands behind an @; or empty
     using Number = int;       ///< within the bounds of its row
     using Path = std::string; ///< absolute, or empty
     using Ports = CallsPorts;
@@ -39,6 +43,7 @@ struct SettingTypes
             Choice,
             Choices,
             Flag,
+            Host,
             Number,
             Path,
             Ports,

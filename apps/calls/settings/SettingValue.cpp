@@ -124,6 +124,16 @@ std::string readFlag(const std::string &text, const SettingTypes::Row & /*row*/,
     return {};
 }
 
+std::string readHost(const std::string &text, const SettingTypes::Row & /*row*/, SettingTypes::Host *value)
+{
+    const bool inBrackets = !text.empty() && text[0] == '[' && text.back() == ']' && serverOf(text);
+    if (!text.empty() && !isHost(text) && !inBrackets) {
+        return "is a host's name, or an address, IPv6 in brackets";
+    }
+    *value = text;
+    return {};
+}
+
 std::string readNumber(const std::string &text, const SettingTypes::Row &row, SettingTypes::Number *value)
 {
     const std::vector<std::string> bounds = parts(row.allowed, "|");

@@ -14,6 +14,7 @@ std::vector<std::string> parts(const std::string &text, const char *separators);
 std::string readChoice(const std::string &text, const SettingTypes::Row &row, SettingTypes::Choice *value);
 std::string readChoices(const std::string &text, const SettingTypes::Row &row, SettingTypes::Choices *value);
 std::string readFlag(const std::string &text, const SettingTypes::Row &row, SettingTypes::Flag *value);
+std::string readHost(const std::string &text, const SettingTypes::Row &row, SettingTypes::Host *value);
 std::string readNumber(const std::string &text, const SettingTypes::Row &row, SettingTypes::Number *value);
 std::string readPath(const std::string &text, const SettingTypes::Row &row, SettingTypes::Path *value);
 std::string readPorts(const std::string &text, const SettingTypes::Row &row, SettingTypes::Ports *value);
