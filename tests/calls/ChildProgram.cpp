@@ -33,6 +33,12 @@ bool ChildProgram::begin(const QString &program, const QStringList &arguments)
     return started;
 }
 
+bool ChildProgram::beginOn(const QStringList &enter, const QString &program, const QStringList &arguments)
+{
+    const QStringList line = enter + QStringList{program} + arguments;
+    return begin(line.first(), line.mid(1));
+}
+
 void ChildProgram::finish()
 {
     if (state() != NotRunning) {

@@ -20,6 +20,9 @@ public:
     /// Starts the program. Whether it has been.
     bool begin(const QString &program, const QStringList &arguments);
 
+    /// The same behind another one and its arguments, which becomes the program: on another machine. Empty: here.
+    bool beginOn(const QStringList &enter, const QString &program, const QStringList &arguments);
+
     /// Asks the child to end, and makes it and its own children after a while.
     void finish();
 

@@ -8,7 +8,7 @@
 
 Person::Person(const TestExchange &exchange, QString id) : m_id(std::move(id))
 {
-    set(QStringLiteral("exchange/servers"), QStringLiteral("%1:%2").arg(TestExchange::host()).arg(exchange.port()));
+    set(QStringLiteral("exchange/servers"), QStringLiteral("%1:%2").arg(exchange.host()).arg(exchange.port()));
     set(QStringLiteral("exchange/domain"), TestExchange::domain());
     set(QStringLiteral("exchange/ca-file"), exchange.caFile());
     setSound();

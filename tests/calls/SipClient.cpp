@@ -89,7 +89,7 @@ QByteArray SipClient::uriOf(const QByteArray &user) const
 
 void SipClient::begin(const Wish &wish)
 {
-    const QByteArray callId = unique();
+    const QByteArray callId = wish.callId.isEmpty() ? unique() : wish.callId;
     write(wish, callId, {});
     m_answer = {};
     const SipMessage first = next();

@@ -59,6 +59,7 @@ public:
         QByteArray to;   ///< empty: the uri
         QByteArray more; ///< headers, each with its line end
         bool sign = true;
+        QByteArray callId = {}; ///< empty: one of its own
     };
 
     /// Sends the request, and signs it once it is asked to.

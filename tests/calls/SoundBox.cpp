@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr int cRate = 16000;
-constexpr int cSpeechSeconds = 600;
+constexpr int cRate = 24000;
+constexpr int cSpeechSeconds = 400;
 constexpr double cAmplitude = 6000;
 constexpr double cTurn = 6.283185307179586;
 const QStringList cFormat{QStringLiteral("--format=s16le"), QStringLiteral("--rate=%1").arg(cRate),
@@ -46,15 +46,12 @@ bool SoundBox::start(const QStringList &people)
     qputenv("PULSE_STATE_PATH", QFile::encodeName(m_folder));
     QStringList arguments{QStringLiteral("-n"), QStringLiteral("--daemonize=no"), QStringLiteral("--exit-idle-time=-1"),
                           QStringLiteral("--use-pid-file=no"), QStringLiteral("--disable-shm=yes")};
-    const auto load = [&](const QString &module) { arguments << QStringLiteral("-L") << module; };
-    load(QStringLiteral("module-native-protocol-unix socket=%1 auth-anonymous=1").arg(socket));
+    const auto add = [&](const QString &module) { arguments << QStringLiteral("-L") << module; };
+    add(QStringLiteral("module-native-protocol-unix socket=%1 auth-anonymous=1").arg(socket));
     for (const QString &name : people) {
-        load(
-            QStringLiteral("module-null-sink sink_name=%1 sink_properties=device.description=%1").arg(speakerOf(name)));
-        load(QStringLiteral("module-null-sink sink_name=mic-%1").arg(name));
-        load(QStringLiteral("module-remap-source source_name=%1 master=mic-%2.monitor "
-                            "source_properties=device.description=%1")
-                 .arg(microphoneOf(name), name));
+        add(speakerModule(name));
+        add(QStringLiteral("module-null-sink sink_name=mic-%1").arg(name));
+        add(microphoneModule(name));
     }
     m_server = std::make_unique<ChildProgram>(m_folder + QStringLiteral("/log"));
     qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(socket));
@@ -144,32 +141,33 @@ QList<double> SoundBox::begins(const QString &name, int hertz) const
     return begins;
 }
 
-bool SoundBox::takeSpeaker(const QString &name)
+bool SoundBox::unload(const QString &module) const
 {
     // By its kind, a module that was loaded with these arguments cannot be named.
-    ChildProgram list(file(name, ".modules"));
-    if (!list.begin(QStringLiteral("pactl"),
-                    {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("modules")}) ||
-        !list.waitForFinished(cPatienceMs)) {
+    const QString list = file(QStringLiteral("now"), ".modules");
+    QFile::remove(list);
+    ChildProgram pactl(list);
+    if (!pactl.begin(QStringLiteral("pactl"),
+                     {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("modules")}) ||
+        !pactl.waitForFinished(cPatienceMs)) {
         return false;
     }
-    QFile modules(file(name, ".modules"));
+    QFile modules(list);
     if (!modules.open(QIODevice::ReadOnly)) {
         return false;
     }
-    for (const QByteArray &row : modules.readAll().split('\n')) {
-        if (row.contains(speakerModule(name).toUtf8())) {
-            modules.remove();
-            return control({QStringLiteral("unload-module"), QString::fromUtf8(row.split('\t').first())});
+    const QByteArray row = QString(module).replace(module.indexOf(QLatin1Char(' ')), 1, QLatin1Char('\t')).toUtf8();
+    for (const QByteArray &one : modules.readAll().split('\n')) {
+        if (one.contains(row)) {
+            return control({QStringLiteral("unload-module"), QString::fromUtf8(one.split('\t').first())});
         }
     }
     return false;
 }
 
-bool SoundBox::giveSpeaker(const QString &name)
+bool SoundBox::load(const QString &module) const
 {
-    return control(QStringList{QStringLiteral("load-module"), QStringLiteral("module-null-sink")} +
-                   speakerModule(name).split(QLatin1Char(' ')));
+    return control(QStringList{QStringLiteral("load-module")} + module.split(QLatin1Char(' ')));
 }
 
 bool SoundBox::chooseSpeaker(const QString &name)
@@ -179,7 +177,14 @@ bool SoundBox::chooseSpeaker(const QString &name)
 
 QString SoundBox::speakerModule(const QString &name)
 {
-    return QStringLiteral("sink_name=%1 sink_properties=device.description=%1").arg(speakerOf(name));
+    return QStringLiteral("module-null-sink sink_name=%1 sink_properties=device.description=%1").arg(speakerOf(name));
+}
+
+QString SoundBox::microphoneModule(const QString &name)
+{
+    return QStringLiteral("module-remap-source source_name=%1 master=mic-%2.monitor "
+                          "source_properties=device.description=%1")
+        .arg(microphoneOf(name), name);
 }
 
 bool SoundBox::control(const QStringList &arguments) const

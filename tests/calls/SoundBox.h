@@ -35,8 +35,12 @@ public:
     bool beep(const QString &name, int hertz);
 
     /// Takes the person's loudspeaker away, or gives it back. Whether the server obeyed.
-    bool takeSpeaker(const QString &name);
-    bool giveSpeaker(const QString &name);
+    bool takeSpeaker(const QString &name) { return unload(speakerModule(name)); }
+    bool giveSpeaker(const QString &name) { return load(speakerModule(name)); }
+
+    /// The same for his microphone.
+    bool takeMicrophone(const QString &name) { return unload(microphoneModule(name)); }
+    bool giveMicrophone(const QString &name) { return load(microphoneModule(name)); }
 
     /// Has the desktop choose this person's loudspeaker. Whether the server obeyed.
     bool chooseSpeaker(const QString &name);
@@ -51,7 +55,11 @@ public:
     QList<double> begins(const QString &name, int hertz) const;
 
 private:
+    /// A module of the server's and its arguments.
     static QString speakerModule(const QString &name);
+    static QString microphoneModule(const QString &name);
+    bool load(const QString &module) const;
+    bool unload(const QString &module) const;
     bool control(const QStringList &arguments) const;
     QString file(const QString &name, const char *ending) const;
     bool write(const QString &file, const QByteArray &sound) const;

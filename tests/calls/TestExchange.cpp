@@ -22,8 +22,9 @@ int freePort()
 
 } // namespace
 
-TestExchange::TestExchange()
-    : m_folder(QDir::current().absoluteFilePath(QUuid::createUuid().toString(QUuid::WithoutBraces))), m_port(freePort())
+TestExchange::TestExchange(const TestMachine &machine)
+    : m_machine(machine),
+      m_folder(QDir::current().absoluteFilePath(QUuid::createUuid().toString(QUuid::WithoutBraces))), m_port(freePort())
 {
     QDir().mkpath(m_folder);
 }
@@ -57,24 +58,34 @@ bool TestExchange::begin()
                   .arg(m_folder)
                   .toUtf8());
     tls.close();
+    m_child = std::make_unique<ChildProgram>(m_folder + QStringLiteral("/log"));
+    return m_child->beginOn(m_machine.enter, QStringLiteral("/usr/sbin/kamailio"), options(tls.fileName())) &&
+           QTest::qWaitFor([this] { return takesConnections() || m_child->state() == QProcess::NotRunning; },
+                           cPatienceMs) &&
+           takesConnections();
+}
+
+QStringList TestExchange::options(const QString &tlsFile) const
+{
     const auto define = [](const char *name, const QString &value) {
         return QStringLiteral("%1=%2").arg(QLatin1String(name), value);
     };
     const QString quoted = QStringLiteral("\"%1\"");
-    m_child = std::make_unique<ChildProgram>(m_folder + QStringLiteral("/log"));
-    const QStringList arguments{QStringLiteral("-f"),  QStringLiteral(CALLS_TEST_FOLDER "/exchange.cfg"),
-                                QStringLiteral("-DD"), QStringLiteral("-E"),
-                                QStringLiteral("-m"),  QStringLiteral("32"),
-                                QStringLiteral("-M"),  QStringLiteral("4"),
-                                QStringLiteral("-Y"),  m_folder,
-                                QStringLiteral("-w"),  m_folder,
-                                QStringLiteral("-A"),  define("LISTEN", QStringLiteral("tls:127.0.0.1:%1").arg(m_port)),
-                                QStringLiteral("-A"),  define("TLSCFG", quoted.arg(tls.fileName())),
-                                QStringLiteral("-A"),  define("DOMAIN", quoted.arg(domain()))};
-    return m_child->begin(QStringLiteral("/usr/sbin/kamailio"), arguments) &&
-           QTest::qWaitFor([this] { return takesConnections() || m_child->state() == QProcess::NotRunning; },
-                           cPatienceMs) &&
-           takesConnections();
+    QStringList given{
+        QStringLiteral("-f"),  QStringLiteral(CALLS_TEST_FOLDER "/exchange.cfg"),
+        QStringLiteral("-DD"), QStringLiteral("-E"),
+        QStringLiteral("-m"),  QStringLiteral("32"),
+        QStringLiteral("-M"),  QStringLiteral("4"),
+        QStringLiteral("-Y"),  m_folder,
+        QStringLiteral("-w"),  m_folder,
+        QStringLiteral("-A"),  define("LISTEN", QStringLiteral("tls:%1:%2").arg(m_machine.address).arg(m_port)),
+        QStringLiteral("-A"),  define("TLSCFG", quoted.arg(tlsFile)),
+        QStringLiteral("-A"),  define("DOMAIN", quoted.arg(domain()))};
+    if (m_peerPort > 0) {
+        given << QStringLiteral("-A") << define("PEER", quoted.arg(QStringLiteral("sip:127.0.0.1:%1").arg(m_peerPort)))
+              << QStringLiteral("-A") << define("PEERSIDE", QStringLiteral("udp:127.0.0.1:%1").arg(m_port));
+    }
+    return given;
 }
 
 bool TestExchange::kill()
@@ -109,7 +120,13 @@ bool TestExchange::makeCertificate() const
 
 bool TestExchange::takesConnections() const
 {
-    QTcpSocket socket;
-    socket.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(m_port));
-    return socket.waitForConnected(cPatienceMs);
+    if (m_machine.enter.isEmpty()) {
+        QTcpSocket socket;
+        socket.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(m_port));
+        return socket.waitForConnected(cPatienceMs);
+    }
+    ChildProgram probe;
+    const QString connects = QStringLiteral("exec 3<>/dev/tcp/%1/%2").arg(m_machine.address).arg(m_port);
+    return probe.beginOn(m_machine.enter, QStringLiteral("bash"), {QStringLiteral("-c"), connects}) &&
+           probe.waitForFinished(cPatienceMs) && probe.exitCode() == 0;
 }

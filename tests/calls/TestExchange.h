@@ -1,8 +1,10 @@
 #pragma once
 
-// A registrar and proxy on a free loopback port, with a certificate of its own, in the test's folder. Main thread.
+// A registrar and proxy on a free port, of the loopback by default, with a certificate of its own, in the test's
+// folder. Main thread.
 
 #include "calls/ChildProgram.h"
+#include "calls/TestNetwork.h"
 
 #include <QString>
 
@@ -11,8 +13,11 @@
 class TestExchange
 {
 public:
-    TestExchange();
+    explicit TestExchange(const TestMachine &machine = {});
     ~TestExchange();
+
+    /// Has calls to "peer-..." go to who listens at this UDP port, from the next start on.
+    void setPeer(int port) { m_peerPort = port; }
 
     /// Starts it at its port, at the first time at another one where somebody has taken that, and waits until it takes
     /// connections. Whether it does.
@@ -26,15 +31,18 @@ public:
     static QString secretOf(const QString &userId) { return QStringLiteral("secret-") + userId; }
 
     /// The name at which it is reached, which its certificate has.
-    static QString host() { return QStringLiteral("localhost"); }
+    QString host() const { return m_machine.name; }
     QString caFile() const { return m_folder + QStringLiteral("/certificate.pem"); }
 
 private:
     bool begin();
+    QStringList options(const QString &tlsFile) const;
     bool makeCertificate() const;
     bool takesConnections() const;
 
+    TestMachine m_machine;
     QString m_folder;
     int m_port = 0;
+    int m_peerPort = 0; // 0: there is none
     std::unique_ptr<ChildProgram> m_child;
 };

@@ -1,5 +1,8 @@
 #include "calls/desk/CallPhase.h"
 
+#include <QFile>
+#include <QMap>
+#include <QRegularExpression>
 #include <QtTest>
 
 class tst_CallPhase : public QObject
@@ -42,6 +45,35 @@ private slots:
         QFETCH(bool, mediaLost);
         QFETCH(int, code);
         QCOMPARE(static_cast<int>(codeOf(static_cast<CallPhase>(phase), {status, mediaLost, {}})), code);
+    }
+
+    void theDocumentTellsEachStatusThatHasACodeOfItsOwn()
+    {
+        QFile file(QStringLiteral(VOIP_CALLS_DOCUMENT));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QMap<int, int> told;
+        for (const QString &line : QString::fromUtf8(file.readAll()).split('\n')) {
+            const QStringList cells = line.split(QStringLiteral(" | "));
+            bool isCode = false;
+            const int code = cells.value(1).toInt(&isCode);
+            if (cells.size() != 3 || !isCode) {
+                continue;
+            }
+            auto status = QRegularExpression(QStringLiteral("\\b[456]\\d\\d\\b")).globalMatch(cells.first());
+            while (status.hasNext()) {
+                told.insert(status.next().captured().toInt(), code);
+            }
+        }
+        // "Anything else from 400 on".
+        QCOMPARE(told.take(400), static_cast<int>(Wire::Code::CallFailed));
+        QMap<int, int> known;
+        for (int status = 400; status < 700; ++status) {
+            const Wire::Code code = codeOf(CallPhase::Calling, {status, false, {}});
+            if (code != Wire::Code::CallFailed) {
+                known.insert(status, static_cast<int>(code));
+            }
+        }
+        QCOMPARE(told, known);
     }
 };
 

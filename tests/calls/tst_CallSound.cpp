@@ -5,6 +5,8 @@
 
 #include "host/tour/ToneLevel.h"
 
+#include <QProcess>
+
 class tst_CallSound : public CallsTest
 {
     Q_OBJECT
@@ -83,17 +85,41 @@ private slots:
                                  cPatienceMs);
     }
 
+    void speechPassesWhatIsOnByDefault_data()
+    {
+        QTest::addColumn<int>("hertz");
+        QTest::newRow("a voice") << cCallersHz;
+        QTest::newRow("an s") << 7000;
+    }
+
     void speechPassesWhatIsOnByDefault()
     {
+        QFETCH(int, hertz);
         m_caller = std::make_unique<Person>(m_exchange, QStringLiteral("300"));
         m_caller->set(QStringLiteral("sound/echo-cancelling"), QStringLiteral("yes"));
         m_caller->set(QStringLiteral("sound/noise-handling"), QStringLiteral("yes"));
-        QVERIFY(m_sound.speak(m_caller->id(), cCallersHz, true));
+        QVERIFY(m_sound.speak(m_caller->id(), hertz, true));
         QVERIFY(m_caller->arrive());
         QVERIFY(connectCall(*m_caller, *m_called));
-        QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_called->id(), cCallersHz, 0.2) > cLoud, cPatienceMs);
-        QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_called->id(), cCallersHz, 0.2) < cSilence, cPatienceMs);
-        QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_called->id(), cCallersHz, 0.2) > cLoud, cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_called->id(), hertz, 0.2) > cLoud, cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_called->id(), hertz, 0.2) < cSilence, cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_called->id(), hertz, 0.2) > cLoud, cPatienceMs);
+    }
+
+    void speakerHeardByTheMicrophoneDoesNotComeBack()
+    {
+        m_caller = std::make_unique<Person>(m_exchange, QStringLiteral("300"));
+        m_caller->set(QStringLiteral("sound/echo-cancelling"), QStringLiteral("yes"));
+        m_caller->set(QStringLiteral("sound/microphone"), SoundBox::loopOf(m_caller->id()));
+        QVERIFY(m_sound.loop(m_caller->id()) && m_sound.listen(m_caller->id()));
+        QVERIFY(m_sound.speak(m_called->id(), cCalledsHz, true));
+        QVERIFY(m_caller->arrive());
+        QVERIFY(connectCall(*m_caller, *m_called));
+        // A loudspeaker that has begun so often has been heard by the microphone for as many seconds.
+        QTRY_VERIFY_WITH_TIMEOUT(m_sound.begins(m_caller->id(), cCalledsHz).size() > 5, cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(10 * m_sound.heard(m_called->id(), cCalledsHz, 1) <
+                                     m_sound.heard(m_caller->id(), cCalledsHz, 1),
+                                 cPatienceMs);
     }
 
     void eachCallGoesWhereTheDesktopHasChosen()
@@ -130,6 +156,51 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_caller, cCalledsHz), cPatienceMs);
     }
 
+    void lostMicrophoneEndsNoCall()
+    {
+        QVERIFY(connectCall(*m_caller, *m_called));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_called, cCallersHz), cPatienceMs);
+        QVERIFY(m_sound.takeMicrophone(m_caller->id()));
+        QTRY_VERIFY_WITH_TIMEOUT(isSilent(*m_called, cCallersHz), cPatienceMs);
+        QVERIFY(m_sound.giveMicrophone(m_caller->id()));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_caller, cCalledsHz), cPatienceMs);
+        m_called->say("HangUpCall");
+        QCOMPARE(m_caller->hears(), QStringLiteral("8"));
+        // The sound server leaves a call at the microphone that it was moved to.
+        QVERIFY(connectCall(*m_caller, *m_called));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_called, cCallersHz), cPatienceMs);
+    }
+
+    void alsaCarriesTheSoundWhereNoSoundServerAnswers()
+    {
+        const QString home = QDir::current().absoluteFilePath(QStringLiteral("alsa"));
+        QVERIFY(QDir().mkpath(home));
+        QFile devices(home + QStringLiteral("/.asoundrc"));
+        QVERIFY(devices.open(QIODevice::WriteOnly));
+        const QString id = QStringLiteral("300");
+        devices.write(
+            QStringLiteral("pcm.!default {\n type asym\n"
+                           " playback.pcm { type pulse server \"%1\" device \"%2\" }\n"
+                           " capture.pcm { type pulse server \"%1\" device \"%3\" }\n}\n")
+                .arg(qEnvironmentVariable("PULSE_SERVER"), SoundBox::speakerOf(id), SoundBox::microphoneOf(id))
+                .toUtf8());
+        devices.close();
+        m_caller = std::make_unique<Person>(m_exchange, id);
+        m_caller->set(QStringLiteral("sound/microphone"), QStringLiteral("default"));
+        m_caller->set(QStringLiteral("sound/speaker"), QStringLiteral("default"));
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("HOME"), home);
+        environment.insert(QStringLiteral("PULSE_SERVER"), QStringLiteral("unix:/nowhere"));
+        m_caller->peer().process().setProcessEnvironment(environment);
+        QVERIFY(m_sound.speak(id, cCallersHz) && m_sound.listen(id));
+        QVERIFY(m_caller->arrive());
+        QVERIFY2(!m_caller->peer().trace().filter(QStringLiteral("ALSA")).isEmpty(),
+                 qPrintable(m_caller->peer().trace().join('\n')));
+        QVERIFY(connectCall(*m_caller, *m_called));
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_called, cCallersHz), cPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(isLoud(*m_caller, cCalledsHz), cPatienceMs);
+    }
+
     void callerHearsItRing()
     {
         m_caller->call(*m_called);
@@ -146,12 +217,16 @@ private slots:
         QTest::addColumn<QString>("word");
         QTest::newRow("busy") << QStringLiteral("100") << QStringLiteral("22");
         QTest::newRow("nobody") << QStringLiteral("nobody") << QStringLiteral("23");
+        QTest::newRow("not registered") << QStringLiteral("200") << QStringLiteral("19");
     }
 
     void callerHearsHowItEnded()
     {
         QFETCH(QString, id);
         QFETCH(QString, word);
+        if (word == QLatin1String("19")) {
+            m_caller->say("UnReg", {m_caller->id()});
+        }
         m_caller->say("CallUser", {id, false});
         QCOMPARE(m_caller->hears(), word);
         QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_caller->id(), cToneHz, 0.1) > cLoud, cPatienceMs);
@@ -197,6 +272,20 @@ private slots:
         }
     }
 
+    void echoWithoutAPasswordSaysSoAndGoes()
+    {
+        QFile settings(QStringLiteral("mute.ini"));
+        QVERIFY(settings.open(QIODevice::WriteOnly));
+        settings.write("[exchange]\nservers = voice.test\n");
+        settings.close();
+        QProcess echo;
+        echo.start(QStringLiteral(VOIPSDK_PROGRAM), {QStringLiteral("--settings"), settings.fileName(),
+                                                     QStringLiteral("--echo"), QStringLiteral("echo")});
+        QVERIFY(echo.waitForFinished(cPatienceMs));
+        QCOMPARE(echo.exitCode(), 2);
+        QCOMPARE(echo.readAllStandardError(), QByteArray("kelvarim-calls: the echo cannot sign in: no password\n"));
+    }
+
 private:
     /// How loud a tone is at the end of a WAV file of one channel with 48000 samples a second.
     static double levelAtTheEndOf(const QString &name, int hertz)
@@ -221,7 +310,7 @@ private:
         secrets.write("echo:" + TestExchange::secretOf(QStringLiteral("echo")).toUtf8() + '\n');
         settings.write(QStringLiteral("[exchange]\nservers = %1:%2\ndomain = %3\nca-file = %4\n"
                                       "[account]\nsecret = file\nsecret-file = %5\n")
-                           .arg(TestExchange::host())
+                           .arg(m_exchange.host())
                            .arg(m_exchange.port())
                            .arg(TestExchange::domain(), m_exchange.caFile(), QFileInfo(secrets).absoluteFilePath())
                            .toUtf8());

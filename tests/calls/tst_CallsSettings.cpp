@@ -93,6 +93,18 @@ private slots:
         QCOMPARE(m_settings.wavIn, std::string("/home/somebody/in.wav"));
     }
 
+    void aDomainIsAHost()
+    {
+        for (const char *domain : {"", "example.org", "10.0.0.7", "[fd00::1]"}) {
+            const std::string file = write("calls.ini", QByteArray("[exchange]\ndomain = ") + domain + '\n');
+            QVERIFY2(read({file}), m_fault.c_str());
+            QCOMPARE(m_settings.domain, std::string(domain));
+        }
+        QVERIFY2(read({write("calls.ini", "[exchange]\nservers = [fd00::1], a.example")}), m_fault.c_str());
+        QCOMPARE(m_settings.servers[0].written(), std::string("[fd00::1]"));
+        QCOMPARE(m_settings.servers[1].written(), std::string("a.example"));
+    }
+
     void eachKeyComesFromTheFirstFileThatHasIt()
     {
         const std::string users = write("user.ini", "[sound]\nmicrophone=mine\n");
@@ -185,6 +197,14 @@ private slots:
             ":2: exchange/servers has servers as host or host:port, and \"a.example:0\" is none, not \"a.example:0\"");
         row("address", "[exchange]\nservers=[::1\n",
             ":2: exchange/servers has servers as host or host:port, and \"[::1\" is none, not \"[::1\"");
+        for (const char *domain :
+             {"two words", "a@b", "fd00::1", "[fd00::1", "[name]", "sip:a", "a.example:5061", "[::1]:7", "-a"}) {
+            const QByteArray text = QByteArray("[exchange]\ndomain=") + domain + '\n';
+            const QByteArray fault =
+                QByteArray(":2: exchange/domain is a host's name, or an address, IPv6 in brackets, not \"") + domain +
+                '"';
+            row(domain, text, fault);
+        }
         row("uri", "[exchange]\nservers=sip:a.example\n",
             ":2: exchange/servers has servers as host or host:port, and \"sip:a.example\" is none, not "
             "\"sip:a.example\"");

@@ -88,6 +88,17 @@ private slots:
         QCOMPARE(client.request(wish), code);
     }
 
+    void callIdThatReadsAsTwoIsRefused()
+    {
+        SipClient client(m_exchange->place(), "30010001");
+        SipClient called(m_exchange->place(), "30010002");
+        QVERIFY(client.connectToExchange() && called.connectToExchange());
+        QCOMPARE(called.registerUser(), 200);
+        SipClient::Wish wish = client.callTo("30010002");
+        wish.callId = "one|0";
+        QCOMPARE(client.request(wish), 400);
+    }
+
     void itCarriesNothingElsewhere()
     {
         SipClient client(m_exchange->place(), "30010001");
@@ -141,6 +152,50 @@ private slots:
         called.disconnectFromExchange();
         // Until he is taken off the list a call to him is one that nobody answers.
         QTRY_COMPARE_WITH_TIMEOUT(caller.call("30010007"), 480, cPatienceMs);
+    }
+
+    void ringsNoMoreWhereTheCallerIsLost()
+    {
+        SipClient caller(m_exchange->place(), "30010001");
+        SipClient called(m_exchange->place(), "30010008");
+        QVERIFY(caller.connectToExchange() && called.connectToExchange());
+        QCOMPARE(called.registerUser(), 200);
+        caller.begin(caller.callTo("30010008"));
+        const SipMessage invitation = ring(called);
+        caller.disconnectFromExchange();
+        const SipMessage end = called.next();
+        QVERIFY2(end.firstLine.startsWith("CANCEL "), end.firstLine);
+        QCOMPARE(end.header("Call-ID"), invitation.header("Call-ID"));
+    }
+
+    void callerHearsThatTheCalledIsLost()
+    {
+        SipClient caller(m_exchange->place(), "30010001");
+        SipClient called(m_exchange->place(), "30010009");
+        QVERIFY(caller.connectToExchange() && called.connectToExchange());
+        QCOMPARE(called.registerUser(), 200);
+        caller.begin(caller.callTo("30010009"));
+        ring(called);
+        called.disconnectFromExchange();
+        QCOMPARE(caller.finish(), 480);
+    }
+
+    void ringsOnAsLongAsItRingsAnywhere()
+    {
+        SipClient caller(m_exchange->place(), "30010001");
+        SipClient here(m_exchange->place(), "30010010");
+        SipClient there(m_exchange->place(), "30010010");
+        QVERIFY(caller.connectToExchange() && here.connectToExchange() && there.connectToExchange());
+        QCOMPARE(here.registerUser(), 200);
+        QCOMPARE(there.registerUser(), 200);
+        caller.begin(caller.callTo("30010010"));
+        ring(here);
+        const SipMessage invitation = ring(there);
+        here.disconnectFromExchange();
+        // Who was lost later has been noticed, so has who was lost first.
+        callerHearsThatTheCalledIsLost();
+        there.answer(invitation, "200 OK");
+        QCOMPARE(caller.finish(), 200);
     }
 
     void callsEndAsTheOtherEndSays_data()
@@ -202,6 +257,14 @@ private slots:
     }
 
 private:
+    /// Has it ring there. The invitation; empty when none comes.
+    static SipMessage ring(SipClient &called)
+    {
+        const SipMessage invitation = called.next();
+        called.answer(invitation, "180 Ringing");
+        return invitation;
+    }
+
     std::unique_ptr<EmbeddedExchange> m_exchange;
 };
 

@@ -17,6 +17,8 @@ private slots:
                          "b",
                          5),
                  QStringLiteral("a b"));
+        // Turns round what follows.
+        QCOMPARE(farText("a\xE2\x80\xAEtxt.exe", 10), QStringLiteral("a txt.exe"));
     }
 
     void userIdIsShortAndPlain()
@@ -27,6 +29,7 @@ private slots:
         QVERIFY(!isUserId(QString(129, QLatin1Char('x'))));
         QVERIFY(!isUserId(QString()));
         QVERIFY(!isUserId(QStringLiteral("a\nb")));
+        QVERIFY(!isUserId(QStringLiteral("a\u202Eb")));
     }
 };
 

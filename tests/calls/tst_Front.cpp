@@ -149,6 +149,30 @@ private slots:
         QVERIFY(bytesOf(m_folder->filePath("trace")).contains("> {"));
     }
 
+    void whatASecretIsCanBeKeptOutOfTheTrace_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<bool>("kept");
+        QTest::newRow("not hidden") << QStringList() << true;
+        QTest::newRow("hidden") << QStringList{"--hide-secrets"} << false;
+    }
+
+    void whatASecretIsCanBeKeptOutOfTheTrace()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(bool, kept);
+        start(options << "--trace" << m_folder->filePath("trace"));
+        QVERIFY(connectClient());
+        m_client.write(
+            R"({"messagetype":"RegeditUser","param1":"100","param2":"Nick","param3":"t0psecret","param4":false})"
+            "\nquit\n");
+        QVERIFY(m_client.waitForBytesWritten(cPatienceMs));
+        QVERIFY(m_front->waitForFinished(cPatienceMs));
+        const QByteArray trace = bytesOf(m_folder->filePath("trace"));
+        QVERIFY(trace.contains("RegeditUser"));
+        QCOMPARE(trace.contains("t0psecret"), kept);
+    }
+
     void withNoProgramAtAllItSaysSoAndGoes()
     {
         QVERIFY(QFile::remove(program("kelvarim-robots")));
@@ -165,6 +189,9 @@ private slots:
         start({"--trace", m_folder->filePath("trace")});
         QTRY_VERIFY_WITH_TIMEOUT(!childrenOf(m_front->processId()).isEmpty(), cPatienceMs);
         const QList<qint64> children = childrenOf(m_front->processId());
+        // Its trace is the one that the calls would write.
+        QTRY_VERIFY_WITH_TIMEOUT(bytesOf(procOf(children.first(), "cmdline")).split('\0').contains("--hide-secrets"),
+                                 cPatienceMs);
         m_front->kill();
         QVERIFY(m_front->waitForFinished(cPatienceMs));
         QVERIFY(!children.isEmpty());

@@ -33,6 +33,7 @@ private slots:
         QTest::addColumn<QString>("id");
         QTest::addColumn<QString>("value");
         QTest::newRow("no user") << QString() << QStringLiteral("secret");
+        QTest::newRow("hidden letters") << QStringLiteral("1\u202E00") << QStringLiteral("secret");
         QTest::newRow("no secret") << QStringLiteral("100") << QString();
     }
 

@@ -137,6 +137,14 @@ private slots:
         QCOMPARE(called.hears(), connected ? QStringLiteral("8") : QStringLiteral("4"));
     }
 
+    void bothAtOnceEndsWithAWordForBoth_data()
+    {
+        QTest::addColumn<int>("round");
+        for (int round = 0; round < 5; ++round) {
+            QTest::addRow("%d", round) << round;
+        }
+    }
+
     void bothAtOnceEndsWithAWordForBoth()
     {
         Person one(m_exchange, QStringLiteral("100"));
@@ -144,20 +152,13 @@ private slots:
         QVERIFY(one.arrive() && other.arrive());
         one.call(other);
         other.call(one);
-        // Both lines are busy, or it rings at the one who was told so first.
-        QStringList heard;
-        QTRY_VERIFY_WITH_TIMEOUT((heard << one.hasHeard() << other.hasHeard()).contains(QStringLiteral("22")),
-                                 cPatienceMs);
-        // Whichever call was left over goes, and both lines are free before the next one comes.
-        for (Person *person : {&one, &other}) {
-            person->say("HangUpCall");
-            person->signIn(TestExchange::secretOf(person->id()));
-            QVERIFY(person->hearsAtLast(QStringLiteral("17 true")));
-        }
-        one.call(other);
-        QVERIFY(other.hearsAtLast(QStringLiteral("0 100")));
-        other.say("AcceptCall");
-        QCOMPARE(other.hears(), QStringLiteral("18"));
+        // It may have rung first at one whose process is slow to read.
+        QVERIFY(one.hearsAtLast(QStringLiteral("22")) && other.hearsAtLast(QStringLiteral("22")));
+        // No call is left over, and nothing more is said of it.
+        QVERIFY(connectCall(one, other));
+        one.say("HangUpCall");
+        QCOMPARE(other.hears(), QStringLiteral("8"));
+        QVERIFY(connectCall(other, one));
     }
 
     void callOfOneWhoIsAboutToBeRungEndsBusyForBoth()
