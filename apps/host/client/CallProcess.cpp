@@ -3,6 +3,8 @@
 #include "calls/settings/CallKinds.h"
 #include "traffic/TraceFolder.h"
 
+#include "wire/Commands.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -33,7 +35,7 @@ CallProcess::CallProcess(const QString &strTraceFile) : m_strTraceFile(strTraceF
 
 QString CallProcess::program()
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/VoipSDK/Contents/MacOS/VoipSDK");
+    return QCoreApplication::applicationDirPath() + QLatin1String(Wire::cProgram);
 }
 
 QList<qint64> CallProcess::pids() const

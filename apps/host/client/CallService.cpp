@@ -40,7 +40,7 @@ CallChannel::Trace ownTrace()
 
 bool isCommand(const QJsonObject &line, Wire::Command command)
 {
-    return line.value(QLatin1String("messagetype")).toString() == QLatin1String(Wire::nameOf(command));
+    return line.value(QLatin1String(Wire::cKeyMessageType)).toString() == QLatin1String(Wire::nameOf(command));
 }
 
 } // namespace
@@ -172,13 +172,13 @@ void CallService::heed(WireLine::Direction direction, const QString &strText)
         return;
     }
     const QJsonObject line = QJsonDocument::fromJson(strText.toUtf8()).object();
-    const int code = line.value(QLatin1String("resultCode")).toInt(-1);
+    const int code = line.value(QLatin1String(Wire::cKeyResultCode)).toInt(-1);
     if (direction == WireLine::FromPlugin) {
         const bool registers = isCommand(line, Wire::Command::RegeditUser);
         m_bTraced = m_bTraced || registers;
         m_bFlag = m_bFlag && !registers && !isCommand(line, Wire::Command::UnReg);
     } else if (code == int(Wire::Code::SdkFlag)) {
-        m_bFlag = line.value(QLatin1String("content")).toString() == QLatin1String("true");
+        m_bFlag = line.value(QLatin1String(Wire::cKeyContent)).toString() == QLatin1String("true");
     } else if (code == int(Wire::Code::CallConnected)) {
         emit callConnected();
     }

@@ -87,12 +87,12 @@ QString numberWords()
     return QCoreApplication::translate("ContactRow", "not a contact");
 }
 
-/// The same person in a world of people, of whom nobody knows what they do.
+/// The same person in a world of people, of whom nobody knows what they do and whether they are there.
 Row asPerson(Row row)
 {
     row.habit = "";
     row.known = true;
-    row.presence = Presence::Online;
+    row.presence = Presence::Unknown;
     return row;
 }
 

@@ -98,7 +98,7 @@ public:
     /// The client has another language: the cards, where they stand, say in it what the people do.
     void takeLanguage();
 
-    /// Presence of the user; offline for an unknown id.
+    /// Presence of the user; offline for an id that is not in the book.
     Presence presenceOf(const QString &strUid) const;
 
     /// The nick name of the user, or the id where there is none.

@@ -52,9 +52,13 @@ QPixmap HostPictures::head(const QString &strName, const QString &strUid, int iS
         painter.drawPixmap(QRect(0, 0, iSize, iSize), photo);
     }
 
+    const QColor colour = presenceColour(presence);
+    if (!colour.isValid()) {
+        return pixmap;
+    }
     const qreal dot = iSize * 0.28;
     painter.setPen(QPen(Qt::white, iSize * 0.05));
-    painter.setBrush(presenceColour(presence));
+    painter.setBrush(colour);
     painter.drawEllipse(QRectF(iSize - dot - 1, iSize - dot - 1, dot, dot));
     return pixmap;
 }

@@ -10,8 +10,9 @@
 /// The demo's own drawings, made by code at the screen's resolution. GUI thread.
 namespace HostPictures {
 
-/// A round head picture of `iSize` pixels with a presence dot: the picture of the file `strPhoto`, or, where that is
-/// empty, the default head's or no picture, the first character of `strName` in a colour that follows from `strUid`.
+/// A round head picture of `iSize` pixels with a presence dot, if that is known: the picture of the file `strPhoto`,
+/// or, where that is empty, the default head's or no picture, the first character of `strName` in a colour that follows
+/// from `strUid`.
 QPixmap head(const QString &strName, const QString &strUid, int iSize, Presence presence, const QString &strPhoto);
 
 /// The head of somebody in a list; of a stranger nothing is known yet.

@@ -67,7 +67,7 @@ bool HostSettings::setSilent(bool bSilent)
 
 QString HostSettings::dataFolder()
 {
-    const QString stored = ConfigFile::getConfigValue(commonFile(), cDataKey).toString();
+    const QString stored = SettingsFile::read(commonFile(), cDataKey);
     return stored.isEmpty() ? SystemSetData::instance()->m_strDefaultDataRoot : stored;
 }
 
@@ -100,7 +100,7 @@ HostSettings::FolderOutcome HostSettings::setReceiveFolder(const QString &strFol
 
 QString HostSettings::language()
 {
-    QString language = ConfigFile::getConfigValue(commonFile(), cLanguageKey).toString();
+    QString language = SettingsFile::read(commonFile(), cLanguageKey);
     if (language.isEmpty()) {
         // Written down, so that everybody who asks the settings finds the language that the windows speak.
         language = HostLanguage::firstLanguage(QLocale::system().name());
@@ -120,7 +120,7 @@ bool HostSettings::setLanguage(const QString &strLanguage)
 
 QString HostSettings::skin()
 {
-    const QString stored = ConfigFile::getConfigValue(userFile(), cSkinKey).toString();
+    const QString stored = SettingsFile::read(userFile(), cSkinKey);
     return HostSkins::names().contains(stored) ? stored : HostSkins::standardName();
 }
 

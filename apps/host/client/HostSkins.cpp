@@ -53,7 +53,7 @@ const SkinRow &rowOf(const QString &strName)
 
 const SkinRow &currentRow()
 {
-    return rowOf(SkinContext::getSkinData()->m_strSkinName);
+    return rowOf(HostSkins::currentName());
 }
 
 /// The text with the standard skin's colours replaced by the row's.
@@ -82,6 +82,11 @@ SysUIData makeSkin(const SysUIData &standard, const SkinRow &row)
 QString HostSkins::standardName()
 {
     return QLatin1String(rows().first().name);
+}
+
+QString HostSkins::currentName()
+{
+    return SkinContext::getSkinData()->m_strSkinName;
 }
 
 QList<SysUIData> HostSkins::makeAll()

@@ -15,6 +15,9 @@ namespace HostSkins {
 /// The name of the skin that is chosen from the start, "ThemeGreen".
 QString standardName();
 
+/// The name of the current skin, as the shared context has it.
+QString currentName();
+
 /// All skins, the standard one first, as they stand in the shared context's list. They are made from the built-in one
 /// with its greens replaced, so without a shared context or before the context has a skin.
 QList<SysUIData> makeAll();

@@ -2,7 +2,9 @@
 
 #include "client/FileAside.h"
 
+#include "model/StoreFileName.h"
 #include "store/DB.h"
+#include "store/SqliteCode.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -11,10 +13,6 @@
 #include <QSqlQuery>
 
 namespace {
-
-// SQLite's primary result code for a file that another connection has locked; the upper bytes tell details.
-constexpr int cBusyCode = 5;
-constexpr int cPrimaryCodeMask = 0xff;
 
 // How long the first look at the file waits for another program, in milliseconds.
 constexpr int cPatience = 1800;
@@ -46,7 +44,7 @@ public:
         QSqlQuery query(m_db);
         const bool ok = query.exec(QLatin1String(statement));
         if (!ok) {
-            m_bMetALock = (query.lastError().nativeErrorCode().toInt() & cPrimaryCodeMask) == cBusyCode;
+            m_bMetALock = SqliteCode::of(query.lastError()) == SqliteCode::cBusy;
         }
         return ok;
     }
@@ -103,7 +101,7 @@ bool HostStore::open(const QString &strUid, const QString &strBase)
     m_reports.clear();
     m_bHeld = false;
     const QString folder = QDir(strBase + QLatin1Char('/') + strUid).absolutePath();
-    const QString file = folder + QStringLiteral("/localData.db");
+    const QString file = folder + QLatin1Char('/') + QLatin1String(cStoreFileName);
     if (isShutAgainstReading(file, cPatience)) {
         reportHeld(file);
         return false;

@@ -14,7 +14,7 @@ struct PresenceRow
     const QString &colour;
 };
 
-/// In the order of the enumeration.
+/// In the order of the enumeration, without the unknown.
 const PresenceRow &rowOf(Presence presence)
 {
     static const PresenceRow rows[] = {
@@ -30,15 +30,23 @@ const PresenceRow &rowOf(Presence presence)
 
 QString presenceWord(Presence presence)
 {
+    if (presence == Presence::Unknown) {
+        return QString();
+    }
     return QCoreApplication::translate("Presence", rowOf(presence).word);
+}
+
+QString withPresence(const QString &strName, Presence presence)
+{
+    return presence == Presence::Unknown ? strName : QStringLiteral("%1, %2").arg(strName, presenceWord(presence));
 }
 
 QColor presenceColour(Presence presence)
 {
-    return QColor(rowOf(presence).colour);
+    return presence == Presence::Unknown ? QColor() : QColor(rowOf(presence).colour);
 }
 
 int presenceState(Presence presence)
 {
-    return int(presence);
+    return int(presence == Presence::Unknown ? Presence::Online : presence);
 }

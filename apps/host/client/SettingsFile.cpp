@@ -1,9 +1,16 @@
 #include "client/SettingsFile.h"
 
+#include "common/settings/ConfigFile.h"
+
 #include <QSettings>
 #include <QVariant>
 
 #include <vector>
+
+QString SettingsFile::read(const QString &strFile, const QString &strKey)
+{
+    return ConfigFile::getConfigValue(strFile, strKey).toString();
+}
 
 bool SettingsFile::write(const QString &strFile, std::initializer_list<Entry> entries)
 {

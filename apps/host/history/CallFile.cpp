@@ -2,6 +2,8 @@
 
 #include "client/FileAside.h"
 
+#include "store/SqliteCode.h"
+
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
@@ -13,14 +15,6 @@ namespace {
 
 // How long a statement waits for another program, in milliseconds.
 constexpr int cPatience = 1800;
-
-// SQLite's primary result codes; the upper bytes of a code tell details.
-constexpr int cPrimaryCodeMask = 0xff;
-constexpr int cBusyCode = 5;
-constexpr int cLockedCode = 6;
-constexpr int cCorruptCode = 11;
-constexpr int cNoDatabaseCode = 26;
-constexpr int cErrorCode = 1;
 
 constexpr const char *cFirstTable =
     "CREATE TABLE calls (id INTEGER PRIMARY KEY AUTOINCREMENT, begun INTEGER NOT NULL, seconds INTEGER NOT NULL, "
@@ -173,12 +167,12 @@ CallFile::State CallFile::tryOpen(const QString &strFile)
 CallFile::State CallFile::verdict() const
 {
     switch (m_iError) {
-    case cBusyCode:
-    case cLockedCode:
+    case SqliteCode::cBusy:
+    case SqliteCode::cLocked:
         return State::Held;
-    case cErrorCode: // a table that is not as its version says
-    case cCorruptCode:
-    case cNoDatabaseCode:
+    case SqliteCode::cError: // a table that is not as its version says
+    case SqliteCode::cCorrupt:
+    case SqliteCode::cNoDatabase:
         return State::Damaged;
     default:
         return State::Unusable;
@@ -222,7 +216,7 @@ CallFile::State CallFile::upgrade()
 bool CallFile::noted(bool bOk, const QSqlQuery &query)
 {
     if (!bOk) {
-        m_iError = query.lastError().nativeErrorCode().toInt() & cPrimaryCodeMask;
+        m_iError = SqliteCode::of(query.lastError());
     }
     return bOk;
 }

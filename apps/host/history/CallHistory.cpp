@@ -49,7 +49,7 @@ bool CallHistory::open(const QString &strFolder, const QString &strOwner)
 
 int CallHistory::placeOf(qint64 id) const
 {
-    // What is asked for is most often new.
+    // Recent calls are asked for most, so the search begins at the end.
     const auto found =
         std::find_if(m_entries.rbegin(), m_entries.rend(), [id](const CallEntry &entry) { return entry.id == id; });
     return int(std::distance(found, m_entries.rend())) - 1;

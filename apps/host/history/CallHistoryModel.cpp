@@ -121,6 +121,14 @@ bool CallHistoryModel::isOutcomeFound(const CallEntry &entry) const
     return *known;
 }
 
+void CallHistoryModel::setArrowsAlone(bool bAlone)
+{
+    if (m_bArrowsAlone != bAlone) {
+        m_bArrowsAlone = bAlone;
+        refresh();
+    }
+}
+
 void CallHistoryModel::retranslate()
 {
     if (!m_strSearch.isEmpty()) {
@@ -164,9 +172,7 @@ QVariant CallHistoryModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return text(entry, index.column());
     case Qt::ToolTipRole:
-        // Names come from anywhere, and a tip would take some of them for more than text.
-        return index.column() == Who && !Qt::mightBeRichText(text(entry, Who)) ? QVariant(text(entry, Who))
-                                                                               : QVariant();
+        return tip(entry, index.column());
     case Qt::AccessibleTextRole:
         if (index.column() == Who) {
             // The row in one sentence: a screen reader may stop at its first cell.
@@ -233,9 +239,14 @@ QString CallHistoryModel::directionText(const CallEntry &entry)
     return entry.caller ? tr("outgoing") : tr("incoming");
 }
 
+QString CallHistoryModel::arrow(const CallEntry &entry)
+{
+    return QString(QChar(entry.caller ? 0x2192 : 0x2190));
+}
+
 QString CallHistoryModel::shownDirection(const CallEntry &entry)
 {
-    return QString(QChar(entry.caller ? 0x2192 : 0x2190)) + QLatin1Char(' ') + directionText(entry);
+    return arrow(entry) + QLatin1Char(' ') + directionText(entry);
 }
 
 QStringList CallHistoryModel::directions()
@@ -252,13 +263,23 @@ QStringList CallHistoryModel::directions()
     return texts;
 }
 
+QString CallHistoryModel::tip(const CallEntry &entry, int column) const
+{
+    if (column == Direction) {
+        return m_bArrowsAlone ? directionText(entry) : QString();
+    }
+    // Names come from anywhere, and a tip would take some of them for more than text.
+    const QString who = text(entry, Who);
+    return column == Who && !Qt::mightBeRichText(who) ? who : QString();
+}
+
 QString CallHistoryModel::text(const CallEntry &entry, int column) const
 {
     switch (column) {
     case Who:
         return whoText(entry, m_book);
     case Direction:
-        return shownDirection(entry);
+        return m_bArrowsAlone ? arrow(entry) : shownDirection(entry);
     case Outcome:
         return historyWord(entry);
     case Duration:

@@ -47,6 +47,9 @@ public:
     /// it in its word. The empty text leaves all.
     void setSearch(const QString &strText);
 
+    /// Whether a direction is shown as its arrow alone, with the word as its tip. At first it is not.
+    void setArrowsAlone(bool bAlone);
+
     /// Says the words anew after a change of the language or of the day.
     void retranslate();
 
@@ -76,12 +79,15 @@ private:
     bool isFound(const QString &strUid) const;
     bool isOutcomeFound(const CallEntry &entry) const;
     static QString directionText(const CallEntry &entry);
+    static QString arrow(const CallEntry &entry);
     static QString shownDirection(const CallEntry &entry);
+    QString tip(const CallEntry &entry, int column) const;
     QString text(const CallEntry &entry, int column) const;
 
     const CallHistory &m_history;
     const ContactBook &m_book;
     Filter m_filter = All;
+    bool m_bArrowsAlone = false;
     QString m_strSearch;
     mutable QHash<QString, bool> m_found;     // by user id, for the present text
     mutable QHash<int, bool> m_foundOutcomes; // by what became of a call, likewise

@@ -65,7 +65,7 @@ QString CallSentences::notice(const CallEntry &call, const ContactBook &book)
     }
     const QString words = sentence(call);
     const QString name = book.nameOf(call.uid);
-    // Both at once: a name may look like a place.
+    // In one call of arg(): a "%2" in a name must not be replaced.
     return words.contains(QLatin1String("%2")) ? words.arg(name, durationText(call.seconds)) : words.arg(name);
 }
 

@@ -65,7 +65,7 @@ void CallWatch::note(bool bFromPlugin, int iMsgId, const QByteArray &payload)
     } else if (iMsgId == MSG_CALL_FINISHED) {
         finishSingle(payload);
     } else if (iMsgId == MSG_CLOSE_AV_MSGBOX) {
-        // Said before a conference's record is written.
+        // The prompt is withdrawn before the conference's record is written, so that is looked for later.
         m_bEndTouched = m_bTouched;
         QMetaObject::invokeMethod(this, &CallWatch::look, Qt::QueuedConnection);
     }
@@ -130,7 +130,7 @@ void CallWatch::settle()
 
 void CallWatch::ring(const QString &strUid, bool bConference, bool bVideo)
 {
-    // The invitation to the conference that is on may be said again.
+    // The call process may repeat the invitation to the conference that is on.
     if (m_call.id != 0 && !m_bLost && bConference && m_call.conference && m_call.uid == strUid) {
         return;
     }
@@ -216,7 +216,7 @@ int CallWatch::singleOutcome(int iResult) const
         return iResult;
     }
     if (m_call.caller) {
-        // The plug-in gives up by itself what nobody answers.
+        // Cancelled, but not by the user: the plug-in's own limit has run out.
         return iResult == resultCancelled && !isUsersDeed() ? int(outcomeNoAnswer) : iResult;
     }
     switch (m_answer) {
@@ -265,6 +265,7 @@ void CallWatch::noteConnected()
 {
     if (m_call.id != 0 && !m_bLost) {
         m_sinceConnected.start();
+        emit connected(m_call);
     }
 }
 
@@ -310,7 +311,7 @@ void CallWatch::end(int iOutcome)
 {
     const bool bTold = std::exchange(m_bLost, false);
     if (bTold) {
-        // What the plug-in knows of it comes only now.
+        // The history was told when the call process died; what the plug-in knows of the call comes only now.
         const CallEntry *kept = m_history.find(m_call.id);
         m_call.seen = kept == nullptr || kept->seen;
         m_history.change(m_call);

@@ -52,6 +52,8 @@ signals:
     void changed();
     /// A call of this user, or one that comes in, is on.
     void began(const CallEntry &call);
+    /// The other side has taken the call that is on.
+    void connected(const CallEntry &call);
     /// The plug-in has refused a call that was asked for. It says so itself.
     void refused(const CallEntry &wish);
     /// The call is over, and the history says how.

@@ -55,7 +55,7 @@ QString CallServiceBar::stateWords() const
 QString CallServiceBar::callWords() const
 {
     const CallEntry *call = m_calls.lostCall();
-    // One that rang is taken away.
+    // The client has closed a call that only rang: there is nothing to hang up.
     return call == nullptr || call->isMissed() ? QString()
                                                : tr("%1. Its window is still open: hang up there, and then call again.")
                                                      .arg(CallSentences::notice(*call, m_book));
@@ -64,7 +64,7 @@ QString CallServiceBar::callWords() const
 void CallServiceBar::show(const QString &strText, bool bButton)
 {
     const bool isNews = isHidden() || ui->btnStartService->isHidden() == bButton;
-    // A selection of the person's stays while nothing changes.
+    // The same text again would drop what the user has selected of it.
     if (ui->lblService->text() != strText) {
         ui->lblService->setText(strText);
     }

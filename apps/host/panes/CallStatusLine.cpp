@@ -25,6 +25,11 @@ CallStatusLine::CallStatusLine(QMainWindow &window, const CallWatch &calls, cons
             hold([this, uid = call.uid] { return tr("%1 is calling").arg(m_book.nameOf(uid)); });
         }
     });
+    connect(&calls, &CallWatch::connected, this, [this](const CallEntry &call) {
+        if (!call.conference) {
+            hold([this, uid = call.uid] { return tr("In a call with %1").arg(m_book.nameOf(uid)); });
+        }
+    });
     connect(&calls, &CallWatch::ended, this,
             [this](const CallEntry &call) { end(CallSentences::outcome(call, m_book)); });
 }

@@ -10,8 +10,9 @@ class CallWatch;
 class ContactBook;
 class QMainWindow;
 
-/// What the status bar of a window says of calls: who is being called or calls, until that is over, whatever else is
-/// said in between, and then how it ended, for a while. GUI thread; window, watch and book must outlive it.
+/// What the status bar of a window says of calls: who is being called, calls or has answered, until that is over,
+/// whatever else is said in between, and then how it ended, for a while. GUI thread; window, watch and book must
+/// outlive it.
 class CallStatusLine : public QObject
 {
     Q_OBJECT

@@ -6,13 +6,12 @@
 #include "client/DayWatch.h"
 #include "history/CallHistory.h"
 #include "history/CallSentences.h"
+#include "panes/CallsTable.h"
 
 #include <QButtonGroup>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QShortcut>
-#include <QStyledItemDelegate>
 #include <QToolButton>
 
 #include <algorithm>
@@ -20,27 +19,8 @@
 
 namespace {
 
-// Of what the user has still to be told of so many lines stand in the notice; the others are counted.
+// So many calls are listed in the notice; the others are counted.
 constexpr size_t cNoticeLines = 3;
-// What a cell needs beside its text, with something to spare for letters that lean out.
-constexpr int cCellMargin = 16;
-
-/// Shortens a text before it is laid out: the style places a shortened one by the height of the whole, which letters of
-/// another script may have made larger.
-class ShorteningDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        const int margin =
-            option->widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, option, option->widget) + 1;
-        option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, option->rect.width() - 2 * margin);
-    }
-};
 
 QString runningReason()
 {
@@ -61,12 +41,12 @@ CallsPane::CallsPane(QWidget *parent) : QWidget(parent), ui(std::make_unique<Ui:
     setUpKeys();
     connect(new DayWatch(this), &DayWatch::dayChanged, this, &CallsPane::showDay);
     connect(ui->btnCentre, &QPushButton::clicked, this, &CallsPane::centreWanted);
-    connect(ui->tableRecords, &QTableView::clicked, this, [this](const QModelIndex &index) {
+    connect(ui->tableRecords, &CallsTable::clicked, this, [this](const QModelIndex &index) {
         if (m_pModel->entryAt(index.row()).isRunning()) {
             emit callWindowWanted();
         }
     });
-    connect(ui->tableRecords, &QTableView::doubleClicked, this, &CallsPane::redial);
+    connect(ui->tableRecords, &CallsTable::doubleClicked, this, &CallsPane::redial);
     connect(ui->tableRecords, &QWidget::customContextMenuRequested, this, &CallsPane::openMenu);
     connect(ui->btnMissed, &QPushButton::clicked, this, &CallsPane::showMissed);
     connect(ui->btnUndo, &QPushButton::clicked, this, &CallsPane::bringBack);
@@ -85,8 +65,7 @@ void CallsPane::show(CallHistory *pHistory, const ContactBook *pBook)
     m_pHistory = pHistory;
     m_pBook = pBook;
     m_pModel = std::make_unique<CallHistoryModel>(*pHistory, *pBook);
-    ui->tableRecords->setModel(m_pModel.get());
-    setUpColumns();
+    ui->tableRecords->showCalls(m_pModel.get());
     connect(ui->editCallSearch, &QLineEdit::textChanged, m_pModel.get(), &CallHistoryModel::setSearch);
     connect(m_pModel.get(), &QAbstractItemModel::modelReset, this, &CallsPane::showWhetherEmpty);
     connect(m_pModel.get(), &QAbstractItemModel::rowsInserted, this, &CallsPane::showWhetherEmpty);
@@ -96,34 +75,6 @@ void CallsPane::show(CallHistory *pHistory, const ContactBook *pBook)
     connect(pHistory, &CallHistory::reset, this, &CallsPane::showNotice);
     connect(pHistory, &CallHistory::allSeen, this, &CallsPane::showNotice);
     showWords();
-}
-
-void CallsPane::setUpColumns()
-{
-    QHeaderView *header = ui->tableRecords->horizontalHeader();
-    header->setSectionResizeMode(CallHistoryModel::Who, QHeaderView::Stretch);
-    header->setMinimumSectionSize(56);
-    fitDirections();
-    header->resizeSection(CallHistoryModel::Outcome, 80);
-    header->resizeSection(CallHistoryModel::Duration, 58);
-    header->resizeSection(CallHistoryModel::When, 122);
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    ui->tableRecords->setItemDelegate(new ShorteningDelegate(ui->tableRecords));
-    ui->tableRecords->verticalHeader()->setDefaultSectionSize(32);
-}
-
-/// Makes room for the longest direction in the bold letters of what nobody has seen yet.
-void CallsPane::fitDirections()
-{
-    ui->tableRecords->ensurePolished();
-    QFont font = ui->tableRecords->font();
-    font.setBold(true);
-    const QFontMetrics metrics(font, ui->tableRecords);
-    int width = 0;
-    for (const QString &text : CallHistoryModel::directions()) {
-        width = qMax(width, metrics.horizontalAdvance(text));
-    }
-    ui->tableRecords->horizontalHeader()->resizeSection(CallHistoryModel::Direction, width + cCellMargin);
 }
 
 void CallsPane::setUpFilters()
@@ -348,7 +299,7 @@ void CallsPane::changeEvent(QEvent *event)
         nameClearButton();
         if (m_pModel != nullptr) {
             m_pModel->retranslate();
-            fitDirections();
+            ui->tableRecords->takeLanguage();
         }
         showWords();
     }
@@ -371,11 +322,11 @@ bool CallsPane::searchKey(int iKey)
 
 void CallsPane::turnedTo(Qt::FocusReason reason)
 {
-    // There is always a call that Enter means.
+    // Enter always has a row to act on.
     if (!ui->tableRecords->currentIndex().isValid()) {
         ui->tableRecords->setCurrentIndex(m_pModel->index(0, 0));
     }
-    // The window that comes to the front gives the focus back by itself: nobody has turned to the list.
+    // Focus that comes back with the window's activation does not mean that the user looked at the list.
     if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason) {
         markSeen();
     }

@@ -56,8 +56,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void setUpColumns();
-    void fitDirections();
     void setUpFilters();
     void setUpKeys();
     void showMissed();

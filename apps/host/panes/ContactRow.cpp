@@ -74,15 +74,14 @@ void ContactRow::showWords()
 {
     // A stranger goes by the number: who that is, the client does not know yet.
     const QString name = m_entry.shownName();
-    const QString presence = presenceWord(m_entry.presence);
     QString detail = m_entry.known ? m_entry.uid : tr("not a contact");
     if (!m_entry.alternative().isEmpty()) {
         detail += QStringLiteral(" · ") + m_entry.alternative();
     }
     ui->lblName->setText(name);
-    ui->lblPresence->setText(presence);
+    ui->lblPresence->setText(presenceWord(m_entry.presence));
     ui->lblDetail->setText(detail);
-    setAccessibleName(QStringLiteral("%1, %2").arg(name, presence));
+    setAccessibleName(withPresence(name, m_entry.presence));
     setAccessibleDescription(detail);
     ui->btnCall->setToolTip(tr("Call %1").arg(name));
     ui->btnVideo->setToolTip(tr("Call %1 by video").arg(name));
@@ -162,6 +161,13 @@ void ContactRow::keyPressEvent(QKeyEvent *event)
     }
 }
 
+void ContactRow::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton) {
+        emit callClicked(m_entry.uid, false);
+    }
+}
+
 bool ContactRow::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FocusIn) {
@@ -173,7 +179,7 @@ bool ContactRow::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
         if (key == Qt::Key_Left || key == Qt::Key_Right) {
-            // A button would go to others that stand beside it.
+            // QAbstractButton would move the focus to a button of a neighbouring row.
             goSideways(key);
             return true;
         }

@@ -10,8 +10,9 @@ namespace Ui {
 class ContactRow;
 }
 
-/// One contact in the list: head, name, presence, what calling it does, and the two call buttons. Enter calls, Right
-/// and Left go to the buttons and back, the right mouse button or the Menu key opens a menu of both calls. GUI thread.
+/// One contact in the list: head, name, presence, what calling it does, and the two call buttons. A double click or
+/// Enter calls, Right and Left go to the buttons and back, the right mouse button or the Menu key opens a menu of both
+/// calls. GUI thread.
 class ContactRow : public QWidget
 {
     Q_OBJECT
@@ -49,6 +50,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
 
     /// Leaves the keys that move through the list to the list when a button has the focus.
     bool eventFilter(QObject *watched, QEvent *event) override;

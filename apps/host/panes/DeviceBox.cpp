@@ -83,7 +83,7 @@ void DeviceBox::fill()
 void DeviceBox::take(int iRow)
 {
     const QString name = itemData(iRow).toString();
-    // The one that is not there keeps what it is called.
+    // A missing device that stays chosen is not stored again: its row adds "(not there)" to its name.
     if (name != m_pChoice->chosen(m_role).name) {
         emit taken(m_pChoice->choose(m_role, {name, itemText(iRow)}));
     }

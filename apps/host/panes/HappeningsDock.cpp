@@ -38,7 +38,7 @@ HappeningsDock::HappeningsDock(HappeningsPanel *panel, QMainWindow *window)
     area->setWidget(panel);
     setWidget(area);
     panel->setContentsMargins(cMargins);
-    // The frame says it already.
+    // The dock's title says the same.
     panel->findChild<QWidget *>(QStringLiteral("lblTitle"))->hide();
     setWindowTitle(panel->windowTitle());
     connect(panel, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);

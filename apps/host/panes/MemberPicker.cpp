@@ -229,7 +229,7 @@ void MemberPicker::addPerson(const ContactBook::Entry &entry, bool bChecked)
     auto *item = new QListWidgetItem(words.join(QStringLiteral(" · ")), ui->listPeople);
     item->setIcon(QIcon(HostPictures::head(entry, cHeadSize)));
     item->setData(cUidRole, entry.uid);
-    item->setData(Qt::AccessibleTextRole, QStringLiteral("%1, %2").arg(item->text(), presenceWord(entry.presence)));
+    item->setData(Qt::AccessibleTextRole, withPresence(item->text(), entry.presence));
     item->setCheckState(bChecked ? Qt::Checked : Qt::Unchecked);
 }
 

@@ -27,7 +27,7 @@ QSize PageArea::sizeHint() const
         return QScrollArea::sizeHint();
     }
     const int iWidth = qMax(page->sizeHint().width(), window()->minimumWidth());
-    // The area scrolls below the page's least size, which knows nothing of lines that are broken.
+    // A page's least size takes no account of labels that wrap, so the height for this width is asked for as well.
     const int iLeast = qMax(page->sizeHint().height(), page->minimumSizeHint().height());
     return {iWidth, qMax(iLeast, page->heightForWidth(iWidth))};
 }

@@ -13,6 +13,6 @@ QuitQuestion::QuitQuestion(QWidget *parent)
     QPushButton *stay = addButton(tr("&Keep the call"), QMessageBox::RejectRole);
     setDefaultButton(stay);
     setEscapeButton(stay);
-    // The box's own result for buttons that are not its own says nothing.
+    // QMessageBox gives buttons that are added no result of their own, so accepted() is sent from here.
     connect(quit, &QAbstractButton::clicked, this, &QDialog::accepted);
 }

@@ -63,7 +63,7 @@ void SettingsPage::addPage(QWidget *page, const char *strName)
     area->setWidget(page);
     area->setProperty(cName, strName);
     ui->tabs->addTab(area, tr(strName));
-    // The button below all pages comes after each.
+    // Tab goes from a page's last control to the Close button.
     const QList<QWidget *> parts = page->findChildren<QWidget *>();
     const auto last = std::find_if(parts.rbegin(), parts.rend(), [this](const QWidget *part) {
         return part->window() == this && (part->focusPolicy() & Qt::TabFocus) != 0;
@@ -84,7 +84,7 @@ void SettingsPage::namePages()
 
 void SettingsPage::fitScreen()
 {
-    // What is not polished yet has not its style sheet's size, and who holds it does not know, from inside to outside.
+    // A style sheet changes sizes once a part is polished, and no layout notices: all are told, inner ones first.
     const QList<QWidget *> parts = findChildren<QWidget *>();
     std::for_each(parts.begin(), parts.end(), [](const QWidget *part) { part->ensurePolished(); });
     std::for_each(parts.rbegin(), parts.rend(), [](QWidget *part) { part->updateGeometry(); });

@@ -21,7 +21,7 @@ SoundPane::SoundPane(SoundChoice &choice, CallService &service, QWidget *parent)
     connect(&m_service, &CallService::changed, this, &SoundPane::showWords);
     connect(&m_meter, &SoundMeter::levelChanged, this, [this](int iLevel) {
         ui->barLevel->setValue(iLevel);
-        // It was late, and counted as failed.
+        // A level has come after all: the device was slow, not dead.
         if (std::exchange(m_bDeaf, false)) {
             showWords();
         }
@@ -47,7 +47,7 @@ void SoundPane::follow()
     if (isVisible()) {
         listen();
     }
-    // What was heard before tells nothing of another speaker.
+    // The last test tone was for the speaker before.
     if (m_toneState != Playing) {
         m_toneState = Unheard;
     }
@@ -58,7 +58,7 @@ void SoundPane::listen()
 {
     const QString wanted =
         m_choice.isMissing(SoundChoice::Microphone) ? QString() : m_choice.chosen(SoundChoice::Microphone).name;
-    // One that could not be opened is tried again when something has changed.
+    // A microphone that could not be opened is tried again at each change.
     if (m_meter.isListening() && !m_bDeaf && wanted == m_strHeard) {
         return;
     }
@@ -124,7 +124,7 @@ QString SoundPane::serverWords() const
 
 QString SoundPane::microphoneWords() const
 {
-    // Above stands why nothing is heard.
+    // The line above says already why nothing is heard.
     if (!serverWords().isEmpty()) {
         return QString();
     }

@@ -84,7 +84,7 @@ void VideoCard::follow()
         hide();
         return;
     }
-    // Above the call window, and below all that is above that.
+    // A transient window stays above its call window, and below what is above that.
     windowHandle()->setTransientParent(window->windowHandle());
     QRect place = rect();
     place.moveCenter(page->mapToGlobal(page->rect().center()));
@@ -132,7 +132,7 @@ bool VideoCard::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::ZOrderChange:
     case QEvent::WindowActivate:
-        // Where no window manager keeps it there.
+        // Without a window manager nobody keeps the card above, so it raises itself.
         if (isVisible()) {
             raise();
         }

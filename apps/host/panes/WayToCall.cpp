@@ -49,7 +49,7 @@ void WayToCall::accompany()
 {
     QWidget *window = WindowProbe::callWindow();
     if (window != nullptr) {
-        // Once, however often it is said.
+        // Installing a filter again has no further effect.
         window->installEventFilter(this);
         putOnScreen(*window);
     }

@@ -1,6 +1,7 @@
 #include "panes/WindowPlace.h"
 
 #include "client/HostSettings.h"
+#include "client/SettingsFile.h"
 
 #include "common/settings/ConfigFile.h"
 
@@ -86,8 +87,7 @@ QList<QRect> WindowPlace::insides()
 
 void WindowPlace::restore()
 {
-    const QStringList words =
-        ConfigFile::getConfigValue(HostSettings::userFile(), m_strKey).toString().split(QLatin1Char(','));
+    const QStringList words = SettingsFile::read(HostSettings::userFile(), m_strKey).split(QLatin1Char(','));
     QList<int> numbers;
     for (int word = 0; word < qMin(cNumbers, words.size()); ++word) {
         bool bNumber = false;

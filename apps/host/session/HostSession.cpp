@@ -106,7 +106,6 @@ bool HostSession::ask(EMsgId msgId)
 
 bool HostSession::askQuietly(EMsgId msgId, QByteArray *pAnswer) const
 {
-    // A plug-in that was never spoken to would begin its work.
     if (m_pPlugin.isNull() || !m_bSpoken) {
         return false;
     }
@@ -184,7 +183,6 @@ void HostSession::takeLanguage()
 
 bool HostSession::isExistCall()
 {
-    // A plug-in that was never spoken to would begin its work.
     return m_bSpoken && ask(MSG_IS_EXIST_CALL);
 }
 
@@ -205,12 +203,12 @@ void HostSession::quit()
         return;
     }
     m_bQuit = true;
-    // A plug-in that was never spoken to would begin its work now.
+    // What still waits for the plug-in could create its call manager now.
     QCoreApplication::removePostedEvents(m_pPlugin, QEvent::User);
     if (m_bSpoken) {
         takeLeave();
     }
-    // Only now: the end of a conference still writes its record.
+    // The store closes last: the end of a conference still writes its record.
     m_calls.look();
     m_history.close();
     m_store.close();

@@ -141,6 +141,6 @@ private:
     QPointer<QObject> m_pPlugin;
     QString m_strPlugin;
     bool m_bOnline = false;
-    bool m_bSpoken = false; // a command has reached the plug-in
+    bool m_bSpoken = false; // a command has reached the plug-in; until then a question would create its call manager
     bool m_bQuit = false;
 };

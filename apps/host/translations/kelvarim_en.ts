@@ -1136,6 +1136,10 @@
         <translation>%1 is calling</translation>
     </message>
     <message>
+        <source>In a call with %1</source>
+        <translation>In a call with %1</translation>
+    </message>
+    <message>
         <source>The conference was not started</source>
         <translation>The conference was not started</translation>
     </message>

@@ -1135,6 +1135,10 @@
         <translation>%1 来电</translation>
     </message>
     <message>
+        <source>In a call with %1</source>
+        <translation>正在与 %1 通话</translation>
+    </message>
+    <message>
         <source>The conference was not started</source>
         <translation>会议未发起</translation>
     </message>

@@ -1135,6 +1135,10 @@
         <translation>%1 來電</translation>
     </message>
     <message>
+        <source>In a call with %1</source>
+        <translation>正在與 %1 通話</translation>
+    </message>
+    <message>
         <source>The conference was not started</source>
         <translation>會議未發起</translation>
     </message>
