@@ -88,7 +88,7 @@ void CallNotice::withdraw()
     }
     if (m_pTray != nullptr) {
         m_pTray->hide();
-        // It may be what has just said that it was chosen.
+        // The tray icon may be the sender of the signal that is running.
         m_pTray.release()->deleteLater();
     }
 }

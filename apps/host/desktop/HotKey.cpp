@@ -123,7 +123,7 @@ HotKey::Outcome HotKey::take(const QKeySequence &key)
 
 bool HotKey::reachServer()
 {
-    // A server of X that only serves old programs has no say over the keys.
+    // Xwayland gets no keys of other programs.
     if (QGuiApplication::platformName() != QLatin1String("xcb") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
         return false;
     }
@@ -167,7 +167,7 @@ HotKey::Outcome HotKey::grab()
                                                                   XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC)));
         bFree = bFree && error == nullptr;
     }
-    // What came beside the answers is read already, and nobody is told of it.
+    // Waiting for the answers has read events into the queue too, and nothing signals those.
     QMetaObject::invokeMethod(this, &HotKey::read, Qt::QueuedConnection);
     return bFree ? On : Taken;
 }

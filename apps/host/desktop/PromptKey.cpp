@@ -3,8 +3,6 @@
 #include "client/HostSettings.h"
 #include "client/SettingsFile.h"
 
-#include "common/settings/ConfigFile.h"
-
 namespace {
 
 const QString cWantedKey = QStringLiteral("/keySetting/promptKeyOn");
@@ -25,13 +23,12 @@ void PromptKey::start()
 
 bool PromptKey::isWanted()
 {
-    return ConfigFile::getConfigValue(HostSettings::userFile(), cWantedKey).toString() == QLatin1String("1");
+    return SettingsFile::read(HostSettings::userFile(), cWantedKey) == QLatin1String("1");
 }
 
 QKeySequence PromptKey::key()
 {
-    const QKeySequence stored(ConfigFile::getConfigValue(HostSettings::userFile(), cSequenceKey).toString(),
-                              QKeySequence::PortableText);
+    const QKeySequence stored(SettingsFile::read(HostSettings::userFile(), cSequenceKey), QKeySequence::PortableText);
     return HotKey::isFit(stored) ? QKeySequence(stored[0]) : QKeySequence(Qt::CTRL + Qt::ALT + Qt::Key_I);
 }
 

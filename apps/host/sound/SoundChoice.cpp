@@ -4,8 +4,6 @@
 #include "client/SettingsFile.h"
 #include "traffic/CallChannel.h"
 
-#include "common/settings/ConfigFile.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -28,7 +26,7 @@ constexpr std::array<SoundChoice::Role, SoundChoice::cRoles> cEach{SoundChoice::
 
 QString stored(const char *strKey)
 {
-    return ConfigFile::getConfigValue(HostSettings::userFile(), QLatin1String(strKey)).toString();
+    return SettingsFile::read(HostSettings::userFile(), QLatin1String(strKey));
 }
 
 /// Touches the environment only where it changes: other threads read it.

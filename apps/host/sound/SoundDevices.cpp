@@ -135,7 +135,7 @@ void SoundDevices::start()
 
 void SoundDevices::lookAgain()
 {
-    // One that is asked already, or will be, says it.
+    // A question that is under way or due answers this one as well.
     if (!m_patience.isActive() && !m_pause.isActive()) {
         connectToServer();
     }
@@ -162,7 +162,7 @@ void SoundDevices::take(State state, const Lists &lists)
     if (state == Answering) {
         m_lists = lists;
     }
-    // A speaker that was turned up is none.
+    // A changed volume is no news.
     if (isNews) {
         emit changed();
     }

@@ -52,7 +52,7 @@ private:
     QObject *m_pOwner;
     Ears m_ears;
     std::shared_ptr<bool> m_pThere = std::make_shared<bool>(true);
-    // Destroyed from the last to the first, behind the end of the thread.
+    // Members go in reverse order; the destructor has ended the thread by then.
     std::unique_ptr<pa_threaded_mainloop, Free> m_pLoop;
     std::unique_ptr<pa_context, Free> m_pContext;
     std::unique_ptr<pa_stream, Free> m_pStream;

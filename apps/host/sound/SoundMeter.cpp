@@ -55,7 +55,7 @@ private:
         std::size_t bytes = 0;
         float peak = 0;
         while (pa_stream_readable_size(stream) > 0 && pa_stream_peek(stream, &data, &bytes) >= 0 && bytes > 0) {
-            // Without data it is a hole.
+            // No data means silence that was not transmitted.
             const auto *samples = static_cast<const float *>(data);
             for (std::size_t i = 0; samples != nullptr && i < bytes / sizeof(float); ++i) {
                 peak = std::max(peak, std::fabs(samples[i]));
@@ -101,7 +101,7 @@ void SoundMeter::stop()
 
 int SoundMeter::levelOf(float peak)
 {
-    // Also for what is no number.
+    // A NaN gives 0 too.
     if (!(peak > 0)) {
         return 0;
     }

@@ -9,6 +9,7 @@
 #include "model/MemberRoles.h"
 #include "plugin/EMsgId.h"
 #include "store/DBConfInfo.h"
+#include "wire/Commands.h"
 
 using namespace TourCast;
 using Wire::Code;
@@ -22,6 +23,12 @@ using Steps = QList<TourStep>;
 QString only(const char *strUid)
 {
     return u(R"(["%1"])", strUid);
+}
+
+/// What ControlConf says to or of this user, as it stands on the wire.
+QString controlOf(const char *strWord, const char *strUid)
+{
+    return u(R"("param1":"%1","param2":"%2")").arg(QLatin1String(strWord), QLatin1String(strUid));
 }
 
 Steps start(const TourScript &s)
@@ -59,24 +66,22 @@ Steps control(const TourScript &s)
     return {
         {u("Mute everybody"),
          s.pressCallWindow("btnMuteAll"),
-         {s.command(Command::ControlConf, u("\"param1\":\"mute\",\"param2\":\"non_moderator\"")),
+         {s.command(Command::ControlConf, controlOf(Wire::cMute, Wire::cEverybody)),
           s.happened(u("muted now: [%1]", answers))},
          cUsualLimitMs,
          u("conference-muted"),
          s.callWindow()},
         {u("Let 李雷 speak again, by the button of the row"),
          s.pressMember(answers, ROLE_MUTE_RECT),
-         {s.command(Command::ControlConf, u(R"("param1":"unmute","param2":"%1")", answers)),
-          s.happened(u("unmuted %1", answers))}},
+         {s.command(Command::ControlConf, controlOf(Wire::cUnmute, answers)), s.happened(u("unmuted %1", answers))}},
         {u("Call Anna Novak again, by a double click on her row"),
          s.doubleClickMember(hangsUp),
          {s.command(Command::Add2Conference, only(hangsUp)), s.member(hangsUp, "Anna Novak", ConferenceCalling),
           s.code(Code::ConfAddResult, "result of adding"), s.member(hangsUp, "Anna Novak", ConferenceConnected)}},
         {u("Remove 李雷, by the button of the row"),
          s.pressMember(answers, ROLE_REMOVE_RECT),
-         {s.command(Command::ControlConf, u(R"("param1":"kick","param2":"%1")", answers)),
-          s.happened(u("kicked %1", answers)), s.code(Code::ConfMemberLeft, "a member has left"),
-          s.memberGone(answers, "李雷"), s.memberCount(5)}},
+         {s.command(Command::ControlConf, controlOf(Wire::cKick, answers)), s.happened(u("kicked %1", answers)),
+          s.code(Code::ConfMemberLeft, "a member has left"), s.memberGone(answers, "李雷"), s.memberCount(5)}},
     };
 }
 

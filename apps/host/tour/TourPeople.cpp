@@ -55,7 +55,8 @@ class Words
 {
 public:
     Words(const TourStage &stage, const QString &strFolder, const char *strUid)
-        : m_stage(stage), s(stage), m_ear(QStringLiteral("%1/heard-%2.raw").arg(strFolder, QLatin1String(strUid)))
+        : m_stage(stage), m_script(stage),
+          m_ear(QStringLiteral("%1/heard-%2.raw").arg(strFolder, QLatin1String(strUid)))
     {
     }
 
@@ -117,9 +118,11 @@ private:
 
     SharedStep signIn(Person person) const
     {
-        SharedStep step{QStringLiteral("%1 signs in").arg(u(cNames.at(person))), person, s.pressMain("btnOnline"), {}};
-        step.seen.at(person) = {s.command(Command::RegeditUser, QLatin1String(cUids.at(person))),
-                                s.code(Code::SdkFlag, "registered"), s.mainSays("btnOnline", u("Online"))};
+        SharedStep step{
+            QStringLiteral("%1 signs in").arg(u(cNames.at(person))), person, m_script.pressMain("btnOnline"), {}};
+        step.seen.at(person) = {m_script.command(Command::RegeditUser, QLatin1String(cUids.at(person))),
+                                m_script.code(Code::SdkFlag, "registered"),
+                                m_script.mainSays("btnOnline", u("Online"))};
         return step;
     }
     Steps signIns() const { return {signIn(Third), putAway(), signIn(First), signIn(Second)}; }
@@ -129,10 +132,10 @@ private:
     {
         return {u(strTitle),
                 First,
-                s.pressContact(cUids.at(Second), "btnCall"),
-                {{{s.command(Command::CallUser, QLatin1String(cUids.at(Second))), s.shows("lblStatus", u(cCalling)),
-                   hears(cRingBackHz)},
-                  {s.code(Code::IncomingCall, "incoming call"), s.prompted(u(cNames.at(First)))},
+                m_script.pressContact(cUids.at(Second), "btnCall"),
+                {{{m_script.command(Command::CallUser, QLatin1String(cUids.at(Second))),
+                   m_script.shows("lblStatus", u(cCalling)), hears(cRingBackHz)},
+                  {m_script.code(Code::IncomingCall, "incoming call"), m_script.prompted(u(cNames.at(First)))},
                   {}}},
                 strPicture};
     }
@@ -140,11 +143,11 @@ private:
     {
         return {u("李雷 answers: they hear one another, and neither himself"),
                 Second,
-                s.pressPrompt("btnAccept"),
-                {{{s.code(Code::CallConnected, "connected"), s.shows("lblStatus", u(cConnected)), s.clockRuns(),
-                   hears(cSecondHz), hearsNothingOf(cFirstHz)},
-                  {s.command(Command::AcceptCall), s.code(Code::CallConnected, "connected"), s.promptGone(),
-                   s.clockRuns(), hears(cFirstHz), hearsNothingOf(cSecondHz)},
+                m_script.pressPrompt("btnAccept"),
+                {{{m_script.code(Code::CallConnected, "connected"), m_script.shows("lblStatus", u(cConnected)),
+                   m_script.clockRuns(), hears(cSecondHz), hearsNothingOf(cFirstHz)},
+                  {m_script.command(Command::AcceptCall), m_script.code(Code::CallConnected, "connected"),
+                   m_script.promptGone(), m_script.clockRuns(), hears(cFirstHz), hearsNothingOf(cSecondHz)},
                   {}}},
                 strPicture};
     }
@@ -152,11 +155,11 @@ private:
     {
         return {u("小明 hangs up: it is quiet"),
                 First,
-                s.pressCallWindow("HangUp"),
-                {{{s.command(Command::HangUpCall), s.record(resultHungUp, true, true), s.windowGone(),
-                   hearsNothingOf(cSecondHz)},
-                  {s.code(Code::PeerHangup, "hung up by the other side"), s.record(resultHungUp, false, true),
-                   s.windowGone(), hearsNothingOf(cFirstHz)},
+                m_script.pressCallWindow("HangUp"),
+                {{{m_script.command(Command::HangUpCall), m_script.record(resultHungUp, true, true),
+                   m_script.windowGone(), hearsNothingOf(cSecondHz)},
+                  {m_script.code(Code::PeerHangup, "hung up by the other side"),
+                   m_script.record(resultHungUp, false, true), m_script.windowGone(), hearsNothingOf(cFirstHz)},
                   {}}}};
     }
 
@@ -166,37 +169,38 @@ private:
     {
         return {{u("小明 switches the microphone off"),
                  First,
-                 s.pressCallWindow("btnMic"),
-                 {{{s.command(Command::SetMicEnable, u("\"param1\":false")), hears(cSecondHz)},
+                 m_script.pressCallWindow("btnMic"),
+                 {{{m_script.command(Command::SetMicEnable, u("\"param1\":false")), hears(cSecondHz)},
                    {hearsNothingOf(cFirstHz)},
                    {}}}},
                 {u("小明 switches it on again"),
                  First,
-                 s.pressCallWindow("btnMic"),
-                 {{{s.command(Command::SetMicEnable, u("\"param1\":true"))}, {hears(cFirstHz)}, {}}}},
+                 m_script.pressCallWindow("btnMic"),
+                 {{{m_script.command(Command::SetMicEnable, u("\"param1\":true"))}, {hears(cFirstHz)}, {}}}},
                 {u("李雷 switches the loudspeaker off"),
                  Second,
-                 s.pressCallWindow("btnSpeaker"),
+                 m_script.pressCallWindow("btnSpeaker"),
                  {{{hears(cSecondHz)},
-                   {s.command(Command::SetSpeakerEnble, u("\"param1\":false")), hearsNothingOf(cFirstHz)},
+                   {m_script.command(Command::SetSpeakerEnble, u("\"param1\":false")), hearsNothingOf(cFirstHz)},
                    {}}}},
                 {u("李雷 switches it on again"),
                  Second,
-                 s.pressCallWindow("btnSpeaker"),
-                 {{{}, {s.command(Command::SetSpeakerEnble, u("\"param1\":true")), hears(cFirstHz)}, {}}}}};
+                 m_script.pressCallWindow("btnSpeaker"),
+                 {{{}, {m_script.command(Command::SetSpeakerEnble, u("\"param1\":true")), hears(cFirstHz)}, {}}}}};
     }
 
     Steps volume() const
     {
         // The window begins at 5 of 10, and the plug-in hands on a tenth: 0 or 1.
-        return {{u("李雷 turns the loudspeaker down: it is quiet"),
-                 Second,
-                 turnSpeaker(false, 1),
-                 {{{}, {s.command(Command::SetSpeakerVolume, u("\"param1\":0")), hearsNothingOf(cFirstHz)}, {}}}},
-                {u("李雷 turns it up: something is heard"),
-                 Second,
-                 turnSpeaker(true, 6),
-                 {{{}, {s.command(Command::SetSpeakerVolume, u("\"param1\":1")), hearsSoftly(cFirstHz)}, {}}}}};
+        return {
+            {u("李雷 turns the loudspeaker down: it is quiet"),
+             Second,
+             turnSpeaker(false, 1),
+             {{{}, {m_script.command(Command::SetSpeakerVolume, u("\"param1\":0")), hearsNothingOf(cFirstHz)}, {}}}},
+            {u("李雷 turns it up: something is heard"),
+             Second,
+             turnSpeaker(true, 6),
+             {{{}, {m_script.command(Command::SetSpeakerVolume, u("\"param1\":1")), hearsSoftly(cFirstHz)}, {}}}}};
     }
 
     Steps hungUp() const { return {hangUp()}; }
@@ -205,15 +209,17 @@ private:
     {
         return {{u("李雷 calls 小明"),
                  Second,
-                 s.pressContact(cUids.at(First), "btnCall"),
-                 {{{s.code(Code::IncomingCall, "incoming call"), s.prompted(u(cNames.at(Second)))},
-                   {s.command(Command::CallUser), s.shows("lblStatus", u(cCalling))},
+                 m_script.pressContact(cUids.at(First), "btnCall"),
+                 {{{m_script.code(Code::IncomingCall, "incoming call"), m_script.prompted(u(cNames.at(Second)))},
+                   {m_script.command(Command::CallUser), m_script.shows("lblStatus", u(cCalling))},
                    {}}}},
                 {u("小明 rejects"),
                  First,
-                 s.pressPrompt("btnReject"),
-                 {{{s.command(Command::RejectCall), s.promptGone(), s.record(resultRejected, false, false)},
-                   {s.code(Code::PeerRejected, "rejected"), s.record(resultRejected, true, false), s.windowGone()},
+                 m_script.pressPrompt("btnReject"),
+                 {{{m_script.command(Command::RejectCall), m_script.promptGone(),
+                    m_script.record(resultRejected, false, false)},
+                   {m_script.code(Code::PeerRejected, "rejected"), m_script.record(resultRejected, true, false),
+                    m_script.windowGone()},
                    {}}}}};
     }
 
@@ -222,11 +228,11 @@ private:
         return {call("小明 calls 李雷 again"), answer(),
                 SharedStep{u("Maria Silva calls 李雷, who is in a call and hears nothing of it"),
                            Third,
-                           inFront(s.pressContact(cUids.at(Second), "btnCall")),
+                           inFront(m_script.pressContact(cUids.at(Second), "btnCall")),
                            {{{hears(cSecondHz)},
-                             {hears(cFirstHz), s.promptGone()},
-                             {s.command(Command::CallUser), s.code(Code::PeerBusy, "busy"),
-                              s.record(resultBusy, true, false), s.windowGone()}}}},
+                             {hears(cFirstHz), m_script.promptGone()},
+                             {m_script.command(Command::CallUser), m_script.code(Code::PeerBusy, "busy"),
+                              m_script.record(resultBusy, true, false), m_script.windowGone()}}}},
                 putAway(), hangUp()};
     }
 
@@ -235,9 +241,11 @@ private:
         return {call("小明 calls once more"),
                 {u("小明 thinks better of it"),
                  First,
-                 s.pressCallWindow("btnCancelCall"),
-                 {{{s.command(Command::HangUpCall), s.record(resultCancelled, true, false), s.windowGone()},
-                   {s.code(Code::PeerCanceled, "cancelled"), s.promptGone(), s.record(resultCancelled, false, false)},
+                 m_script.pressCallWindow("btnCancelCall"),
+                 {{{m_script.command(Command::HangUpCall), m_script.record(resultCancelled, true, false),
+                    m_script.windowGone()},
+                   {m_script.code(Code::PeerCanceled, "cancelled"), m_script.promptGone(),
+                    m_script.record(resultCancelled, false, false)},
                    {}}}}};
     }
 
@@ -252,22 +260,23 @@ private:
                Steps{SharedStep{u("李雷's call process is killed: it is quiet, and a new one comes"),
                                 Second,
                                 kill,
-                                {{{s.code(Code::PeerHangupAlt, "no sound any more"), s.record(resultHungUp, true, true),
-                                   s.windowGone(), hearsNothingOf(cSecondHz)},
-                                  {s.command(Command::RegeditUser), s.code(Code::SdkFlag, "registered"), s.processes(1),
-                                   hearsNothingOf(cFirstHz)},
+                                {{{m_script.code(Code::PeerHangupAlt, "no sound any more"),
+                                   m_script.record(resultHungUp, true, true), m_script.windowGone(),
+                                   hearsNothingOf(cSecondHz)},
+                                  {m_script.command(Command::RegeditUser), m_script.code(Code::SdkFlag, "registered"),
+                                   m_script.processes(1), hearsNothingOf(cFirstHz)},
                                   {}}},
                                 u("killed")},
                      {u("李雷 hangs up what is left on the screen"),
                       Second,
-                      s.pressCallWindow("HangUp"),
-                      {{{}, {s.record(resultHungUp, false, true), s.windowGone()}, {}}}}};
+                      m_script.pressCallWindow("HangUp"),
+                      {{{}, {m_script.record(resultHungUp, false, true), m_script.windowGone()}, {}}}}};
     }
 
     Steps afterwards() const { return {call("小明 calls over the new call process"), answer(), hangUp()}; }
 
     TourStage m_stage;
-    TourScript s;
+    TourScript m_script;
     TourEar m_ear;
 };
 

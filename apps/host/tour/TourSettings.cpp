@@ -1,12 +1,12 @@
 #include "tour/TourSettings.h"
 
 #include "client/HostSettings.h"
+#include "client/HostSkins.h"
+#include "client/SettingsFile.h"
 #include "panes/MainWindow.h"
 #include "tour/TourCast.h"
 #include "tour/TourScript.h"
 
-#include "common/settings/ConfigFile.h"
-#include "model/SkinContext.h"
 #include "model/SystemSetData.h"
 
 using namespace TourCast;
@@ -16,16 +16,15 @@ namespace {
 TourCheck silentInFile(const char *strValue)
 {
     return {QStringLiteral("the user's settings file says closeVoice=%1").arg(QLatin1String(strValue)), [strValue] {
-                return ConfigFile::getConfigValue(HostSettings::userFile(),
-                                                  QLatin1String(SystemSetData::cCloseVoiceKey))
-                           .toString() == QLatin1String(strValue);
+                return SettingsFile::read(HostSettings::userFile(), QLatin1String(SystemSetData::cCloseVoiceKey)) ==
+                       QLatin1String(strValue);
             }};
 }
 
 TourCheck skinIs(const QString &strName)
 {
     return {QStringLiteral("the shared context has the skin %1").arg(strName),
-            [strName] { return SkinContext::getSkinData()->m_strSkinName == strName; }};
+            [strName] { return HostSkins::currentName() == strName; }};
 }
 
 } // namespace
