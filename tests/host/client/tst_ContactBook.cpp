@@ -30,7 +30,7 @@ private slots:
         QCOMPARE(echo.alternative(), QStringLiteral("Repeats what it hears"));
         QCOMPARE(book.card(echo.uid)->m_strAlternativeName, echo.alternative());
         for (const ContactBook::Entry &entry : book.entries().mid(1)) {
-            QVERIFY(entry.known && entry.alternative().isEmpty() && entry.presence == Presence::Online);
+            QVERIFY(entry.known && entry.alternative().isEmpty() && entry.presence == Presence::Unknown);
             // The plug-in's windows show it in brackets behind the name.
             QCOMPARE(book.card(entry.uid)->m_strAlternativeName, entry.uid);
             QVERIFY(book.isFriend(book.jidOf(entry.uid)));
@@ -158,6 +158,16 @@ private slots:
         QVERIFY(m_book.presenceOf(QStringLiteral("30010005")) == Presence::Offline);
         QVERIFY(m_book.presenceOf(m_book.ownUid()) == Presence::Online);
         QVERIFY(m_book.presenceOf(QStringLiteral("4711")) == Presence::Offline);
+    }
+
+    void whoseStateNobodyTellsMayBeThere()
+    {
+        const ContactBook book(QStringLiteral("example.org"), QStringLiteral("30010001"), ContactBook::World::People);
+        const Presence presence = book.presenceOf(QStringLiteral("30010002"));
+        QCOMPARE(presenceState(presence), presenceState(Presence::Online));
+        QVERIFY(!presenceColour(presence).isValid() && presenceWord(presence).isEmpty());
+        QCOMPARE(withPresence(QStringLiteral("Maria Silva"), presence), QStringLiteral("Maria Silva"));
+        QCOMPARE(withPresence(QStringLiteral("Maria Silva"), Presence::Busy), QStringLiteral("Maria Silva, busy"));
     }
 
     void displayNameIsTheNickName()

@@ -1,18 +1,13 @@
 // The key of the whole desktop that leads to the prompt, pressed on the real keyboard while other programs have it, and
 // chosen in the settings by mouse and keys.
 
-#include "client/ContactBook.h"
+#include "client/HostSettings.h"
+#include "client/SettingsFile.h"
 #include "desktop/HotKey.h"
-#include "panes/MainWindow.h"
 #include "screen/WindowProbe.h"
-#include "session/HostSession.h"
 
-#include "common/settings/ConfigFile.h"
-#include "fakes/Patience.h"
+#include "host/panes/ClientTest.h"
 #include "host/panes/Deeds.h"
-#include "plugin/BaseEvent.h"
-#include "plugin/EventPayload.h"
-#include "plugin/PluginIds.h"
 
 #include <QCheckBox>
 #include <QDir>
@@ -21,21 +16,14 @@
 #include <QTabBar>
 #include <QTest>
 
-class tst_PromptKey : public QObject
+class tst_PromptKey : public ClientTest
 {
     Q_OBJECT
 
+public:
+    tst_PromptKey() : ClientTest(Begin::SignedIn) {}
+
 private slots:
-    void init() { start(); }
-
-    void cleanup()
-    {
-        m_pWindow.reset();
-        const QString userFile = HostSettings::userFile();
-        m_pSession.reset();
-        QFile::remove(userFile);
-    }
-
     void fitKeysLeaveTypingAlone_data()
     {
         QTest::addColumn<QString>("key");
@@ -166,8 +154,7 @@ private slots:
     {
         showKeys();
         switchOn();
-        m_pWindow.reset();
-        m_pSession.reset();
+        end();
         start();
         ringElsewhere();
         QVERIFY(press("ctrl+alt+i"));
@@ -204,15 +191,6 @@ private slots:
     }
 
 private:
-    void start()
-    {
-        m_pSession = std::make_unique<HostSession>(m_book);
-        QString error;
-        QVERIFY(!m_pSession->start(QStringLiteral("/no/module.so"), &error));
-        m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
-        m_pWindow->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
-    }
     std::function<QWidget *()> page()
     {
         return [this] { return &m_pWindow->settingsPage(); };
@@ -223,7 +201,7 @@ private:
     QString said(const char *strLabel) { return WindowProbe::text(&m_pWindow->settingsPage(), strLabel); }
     static QString stored(const char *strKey)
     {
-        return ConfigFile::getConfigValue(HostSettings::userFile(), QStringLiteral("/keySetting/") + strKey).toString();
+        return SettingsFile::read(HostSettings::userFile(), QStringLiteral("/keySetting/") + strKey);
     }
     static bool press(const QByteArray &key) { return Deeds::key(key)(); }
     /// Opens the page of the keyboard by the mouse.
@@ -257,17 +235,11 @@ private:
     {
         m_pWindow->showMinimized();
         QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::applicationState(), Qt::ApplicationInactive, cPatienceMs);
-        BaseEvent event(MSG_RECEVIE_VOIP_CALL, voipPluginId(), sessionPluginId(), false,
-                        packPayload(QStringLiteral("30010006"), false, false));
-        QCoreApplication::sendEvent(&m_pSession->mailbox(), &event);
+        ring(QStringLiteral("30010006"));
         QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->prompt().isVisible(), cPatienceMs);
         QVERIFY(QTest::qWaitForWindowExposed(&m_pWindow->prompt(), cPatienceMs));
         QVERIFY(!m_pWindow->prompt().isActiveWindow());
     }
-
-    ContactBook m_book{HostSession::loginDomain()};
-    std::unique_ptr<HostSession> m_pSession;
-    std::unique_ptr<MainWindow> m_pWindow;
 };
 
 #include "support/TestProgram.h"

@@ -1,18 +1,11 @@
 // A call rings while the user looks elsewhere: the desktop tells of it, by a service of notifications that the test
 // puts on a bus of its own, or by a tray.
 
-#include "client/ContactBook.h"
-#include "panes/MainWindow.h"
-#include "session/HostSession.h"
-
-#include "fakes/Patience.h"
 #include "host/desktop/FakeDesktop.h"
 #include "host/desktop/FakeTray.h"
 #include "host/desktop/SessionBus.h"
+#include "host/panes/ClientTest.h"
 #include "host/panes/Deeds.h"
-#include "plugin/BaseEvent.h"
-#include "plugin/EventPayload.h"
-#include "plugin/PluginIds.h"
 
 #include <QApplication>
 #include <QProcess>
@@ -20,7 +13,7 @@
 
 #include <csignal>
 
-class tst_PromptNotice : public QObject
+class tst_PromptNotice : public ClientTest
 {
     Q_OBJECT
 
@@ -31,6 +24,7 @@ private slots:
         QVERIFY(m_pSessionBus->start());
         m_pBus = std::make_unique<QDBusConnection>(
             QDBusConnection::connectToBus(m_pSessionBus->address(), QStringLiteral("desktop")));
+        ClientTest::initTestCase();
     }
 
     void cleanupTestCase()
@@ -44,19 +38,13 @@ private slots:
     {
         m_pDesktop = std::make_unique<FakeDesktop>();
         QVERIFY(m_pDesktop->begin(*m_pBus));
-        m_pBook = std::make_unique<ContactBook>(HostSession::loginDomain());
-        m_pSession = std::make_unique<HostSession>(*m_pBook);
-        m_pWindow = std::make_unique<MainWindow>(*m_pSession, *m_pBook);
-        m_pWindow->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
+        ClientTest::init();
     }
 
     void cleanup()
     {
         stopTheBus(false);
-        m_pWindow.reset();
-        m_pSession.reset();
-        m_pBook.reset();
+        ClientTest::cleanup();
         FakeDesktop::end(*m_pBus);
         m_pDesktop.reset();
     }
@@ -243,12 +231,6 @@ private:
         }
         QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::applicationState(), Qt::ApplicationInactive, cPatienceMs);
     }
-    void ring(const char *strUid, bool bConference = false, bool bVideo = false)
-    {
-        BaseEvent event(MSG_RECEVIE_VOIP_CALL, voipPluginId(), sessionPluginId(), false,
-                        packPayload(QString::fromLatin1(strUid), bConference, bVideo));
-        QCoreApplication::sendEvent(&m_pSession->mailbox(), &event);
-    }
     /// A call whose notice is up; its number.
     uint ringElsewhere()
     {
@@ -263,9 +245,6 @@ private:
     std::unique_ptr<SessionBus> m_pSessionBus;
     std::unique_ptr<QDBusConnection> m_pBus;
     std::unique_ptr<FakeDesktop> m_pDesktop;
-    std::unique_ptr<ContactBook> m_pBook;
-    std::unique_ptr<HostSession> m_pSession;
-    std::unique_ptr<MainWindow> m_pWindow;
 };
 
 #include "support/TestProgram.h"

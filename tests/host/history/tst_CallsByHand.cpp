@@ -1,30 +1,13 @@
-#include "client/CallProcess.h"
-#include "client/ContactBook.h"
-#include "panes/MainWindow.h"
 #include "panes/MemberPicker.h"
-#include "screen/ScreenKeys.h"
 #include "screen/ScreenPointer.h"
-#include "screen/WindowProbe.h"
-#include "session/HostSession.h"
-#include "tour/TourHand.h"
-#include "traffic/TraceFolder.h"
-#include "traffic/WireTrace.h"
 
-#include "fakes/Patience.h"
-#include "host/panes/Deeds.h"
+#include "host/history/ByHandTest.h"
 #include "plugin/EMsgId.h"
 #include "store/DBConfInfo.h"
 
-#include <QDir>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QStatusBar>
-#include <QTableView>
-#include <QTest>
-#include <QTimer>
-#include <QToolTip>
 
-#include <algorithm>
 #include <csignal>
 
 namespace {
@@ -53,49 +36,12 @@ private:
 
 } // namespace
 
-/// Calls as a person makes them: the client's window, the built module and a real call process full of robots, under
-/// the pointer of the X server.
-class tst_CallsByHand : public QObject
+/// Calls as a person makes them, and what the list of calls says of them.
+class tst_CallsByHand : public ByHandTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        m_strTrace = QDir::current().absoluteFilePath(QStringLiteral("wire.txt"));
-        qputenv(TraceFolder::cVariable, QFile::encodeName(m_strTrace));
-        qputenv("VOIPSDK_SPEED", "4");
-        QVERIFY(QDir::setCurrent(QCoreApplication::applicationDirPath()));
-        QString error;
-        m_pSession = std::make_unique<HostSession>(m_book);
-        QVERIFY2(m_pSession->start(QStringLiteral("libVoipManage.so"), &error), qPrintable(error));
-        m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
-        m_pWindow->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
-        m_pTable = m_pWindow->findChild<QTableView *>(QStringLiteral("tableRecords"));
-        QVERIFY(m_hand.isReady());
-        // By a timer, as the picker runs an event loop of its own.
-        connect(&m_timer, &QTimer::timeout, this, [this] { m_hand.work(); });
-        m_timer.start(10);
-        m_pSession->setOnline(true);
-        QTRY_VERIFY_WITH_TIMEOUT(isTraced(QStringLiteral("RegeditUser")), cPatienceMs);
-        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->readiness().isReady(), cPatienceMs);
-    }
-
-    void cleanupTestCase()
-    {
-        m_pSession->quit();
-        CallProcess(m_strTrace).kill();
-        m_pWindow.reset();
-        m_pSession.reset();
-    }
-
-    void cleanup()
-    {
-        m_pSession->history().setAllSeen();
-        QTRY_VERIFY_WITH_TIMEOUT(!m_pSession->calls().hasCall(), cPatienceMs);
-    }
-
     void doubleClickOnAPhoneIsOneCall()
     {
         QSignalSpy passed(m_pSession.get(), &HostSession::eventPassed);
@@ -178,33 +124,6 @@ private slots:
         QVERIFY(!WindowProbe::isShown(m_pWindow.get(), "callNotice"));
     }
 
-    void numberThatIsDialledIsTheNameInTheCallWindow()
-    {
-        QString name;
-        QSignalSpy ended(&m_pSession->calls(), &CallWatch::ended);
-        const auto look = connect(&m_pSession->calls(), &CallWatch::began, this,
-                                  [&name] { name = WindowProbe::text(WindowProbe::callWindow(), "lblUserName"); });
-        m_pWindow->findChild<QWidget *>(QStringLiteral("editNumber"))->setFocus();
-        ScreenKeys keys;
-        QVERIFY(keys.type(QStringLiteral("4711")) && keys.enter());
-        QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, cPatienceMs);
-        disconnect(look);
-        QCOMPARE(name, QStringLiteral("4711(not a contact)"));
-    }
-
-    void tipOfADisabledPhoneSaysWhy()
-    {
-        QVERIFY(pressContact("30010004"));
-        QTRY_VERIFY_WITH_TIMEOUT(m_pSession->calls().hasCall() && WindowProbe::callWindow()->isVisible(), cPatienceMs);
-        auto *phone = m_pWindow->findChild<QWidget *>(QStringLiteral("30010002"))
-                          ->findChild<QWidget *>(QStringLiteral("btnCall"));
-        m_hand.hover([phone] { return WindowProbe::Spot{phone, phone->rect().center()}; });
-        QVERIFY(QTest::qWaitFor([this] { return m_hand.isIdle(); }, cPatienceMs));
-        QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QStringLiteral("You are in a call. End it first."), cPatienceMs);
-        m_hand.rest();
-        QVERIFY(pressInCallWindow("btnCancelCall"));
-    }
-
     void conferenceStandsAmongTheCallsAsTheStoreHasIt()
     {
         const int before = DBConfInfo::getAllConfInfo().size();
@@ -237,63 +156,6 @@ private slots:
         QCOMPARE(WindowProbe::text(row, "lblName"), QStringLiteral("韩梅梅"));
         QCOMPARE(WindowProbe::text(row, "lblDetail"), QStringLiteral("30010007 · Calls you back"));
         QVERIFY(press([this] { return WindowProbe::button(&m_pWindow->prompt(), "btnReject"); }));
-    }
-
-    void emptyVideoCallIsExplained()
-    {
-        QVERIFY(press([this] {
-            return WindowProbe::button(m_pWindow->findChild<QWidget *>(QStringLiteral("30010001")), "btnVideo");
-        }));
-        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->videoCard().isVisible(), cPatienceMs);
-        QCOMPARE(WindowProbe::text(&m_pWindow->videoCard(), "lblName"), QStringLiteral("李雷"));
-        QVERIFY(WindowProbe::callWindow()->geometry().contains(m_pWindow->videoCard().geometry()));
-        QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::button(WindowProbe::callWindow(), "HangUp").widget != nullptr,
-                                 cPatienceMs);
-        QVERIFY(m_pWindow->videoCard().isVisible());
-        QVERIFY(pressInCallWindow("HangUp"));
-        QTRY_VERIFY_WITH_TIMEOUT(!m_pWindow->videoCard().isVisible(), cPatienceMs);
-        // A voice call shows a head of its own.
-        QVERIFY(pressContact("30010004"));
-        QTRY_VERIFY_WITH_TIMEOUT(WindowProbe::callWindow()->isVisible(), cPatienceMs);
-        QVERIFY(!m_pWindow->videoCard().isVisible());
-        QVERIFY(pressInCallWindow("btnCancelCall"));
-    }
-
-    void callWindowIsBroughtBack_data()
-    {
-        QTest::addColumn<bool>("minimised");
-        QTest::addColumn<bool>("byStatusLine");
-        QTest::newRow("minimised, by the row") << true << false;
-        QTest::newRow("minimised, by the status line") << true << true;
-        QTest::newRow("behind, by the row") << false << false;
-        QTest::newRow("behind, by the status line") << false << true;
-    }
-
-    void callWindowIsBroughtBack()
-    {
-        QFETCH(bool, minimised);
-        QFETCH(bool, byStatusLine);
-        QVERIFY(pressContact("30010004"));
-        QTRY_VERIFY_WITH_TIMEOUT(m_pSession->calls().hasCall() && WindowProbe::callWindow()->isActiveWindow(),
-                                 cPatienceMs);
-        QWidget *call = WindowProbe::callWindow();
-        if (minimised) {
-            QCOMPARE(QProcess::execute(QStringLiteral("xdotool"),
-                                       {QStringLiteral("windowminimize"), QString::number(call->winId())}),
-                     0);
-            QTRY_VERIFY_WITH_TIMEOUT(call->isMinimized(), cPatienceMs);
-        }
-        m_pWindow->comeToFront();
-        QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->isActiveWindow(), cPatienceMs);
-        const QWidget *bar = m_pWindow->statusBar();
-        Deeds deeds({Deeds::again(
-            [this, byStatusLine, bar] {
-                return byStatusLine ? Deeds::clickOn(*bar, QPoint(20, bar->height() / 2))
-                                    : Deeds::clickOn(*m_pTable->viewport(), middle(0).place);
-            },
-            [call] { return call->isActiveWindow() && !call->isMinimized(); })});
-        QVERIFY(deeds.finish());
-        QVERIFY(pressInCallWindow("btnCancelCall"));
     }
 
     void callOfADeadCallProcessIsCutOffAtOnceAndTheBarSaysWhoseItWas()
@@ -339,30 +201,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(m_pWindow->readiness().isReady(), cPatienceMs);
     }
 
-    void conferenceInACallIsRefusedBeforePicking()
-    {
-        QVERIFY(pressContact("30010004"));
-        QTRY_VERIFY_WITH_TIMEOUT(m_pSession->calls().hasCall() && WindowProbe::callWindow()->isVisible(), cPatienceMs);
-        const auto *button = m_pWindow->findChild<QWidget *>(QStringLiteral("btnConference"));
-        ScreenPointer pointer;
-        pointer.moveTo(button->mapToGlobal(button->rect().center()));
-        pointer.click(Qt::LeftButton);
-        QVERIFY(pressInCallWindow("btnCancelCall"));
-        QVERIFY(WindowProbe::memberPicker() == nullptr);
-    }
-
 private:
-    bool press(const TourHand::Finder &where, int iTimes = 1)
-    {
-        m_hand.click(where, Qt::LeftButton, iTimes);
-        return QTest::qWaitFor([this] { return m_hand.isIdle(); }, cPatienceMs);
-    }
-    bool pressContact(const char *strUid)
-    {
-        return press([this, strUid] {
-            return WindowProbe::button(m_pWindow->findChild<QWidget *>(QLatin1String(strUid)), "btnCall");
-        });
-    }
     bool startConference()
     {
         m_hand.click([this] { return WindowProbe::button(m_pWindow.get(), "btnConference"); });
@@ -374,18 +213,10 @@ private:
         }
         return press([] { return WindowProbe::button(WindowProbe::memberPicker(), "btnInvite"); });
     }
-    bool pressInCallWindow(const char *strButton)
-    {
-        return press([strButton] { return WindowProbe::button(WindowProbe::callWindow(), strButton); });
-    }
     CallEntry newest() const { return m_pSession->history().entries().back(); }
     QString bar() const { return WindowProbe::text(m_pWindow.get(), "lblService"); }
     /// As a crash would.
     void killCallProcess() { QCOMPARE(::kill(pid_t(m_pSession->callService().process()), SIGKILL), 0); }
-    WindowProbe::Spot middle(int iRow) const
-    {
-        return {m_pTable->viewport(), m_pTable->visualRect(m_pTable->model()->index(iRow, 0)).center()};
-    }
     QString rowText(int iRow) const
     {
         QStringList words;
@@ -394,20 +225,6 @@ private:
         }
         return words.join(QLatin1Char(' '));
     }
-    bool isTraced(const QString &strText) const
-    {
-        const QList<WireLine> lines = WireTrace(m_strTrace).readNew();
-        return std::any_of(lines.begin(), lines.end(),
-                           [&](const WireLine &line) { return line.text.contains(strText); });
-    }
-
-    ContactBook m_book{HostSession::loginDomain()};
-    QString m_strTrace;
-    TourHand m_hand;
-    QTimer m_timer;
-    std::unique_ptr<HostSession> m_pSession;
-    std::unique_ptr<MainWindow> m_pWindow;
-    QTableView *m_pTable = nullptr;
 };
 
 #include "support/TestProgram.h"

@@ -1,11 +1,8 @@
-#include "client/ContactBook.h"
 #include "client/HostLanguage.h"
-#include "panes/MainWindow.h"
 #include "panes/MemberPicker.h"
-#include "session/HostSession.h"
 
-#include "fakes/Patience.h"
 #include "host/history/CallRows.h"
+#include "host/panes/ClientTest.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -17,36 +14,37 @@
 
 /// Every window of the demo in every language: what the keyboard can reach has a name, no letter is given away twice,
 /// and no words are cut off.
-class tst_Accessibility : public QObject
+class tst_Accessibility : public ClientTest
 {
     Q_OBJECT
 
+public:
+    tst_Accessibility() : ClientTest(Begin::SignedIn) {}
+
 private slots:
-    void initTestCase() { QAccessible::setActive(true); }
+    void initTestCase()
+    {
+        ClientTest::initTestCase();
+        QAccessible::setActive(true);
+    }
 
     void init()
     {
         m_pLanguage = std::make_unique<HostLanguage>(QStringLiteral(VOIP_TRANSLATIONS));
-        m_pSession = std::make_unique<HostSession>(m_book);
-        QString error;
-        m_pSession->start(QStringLiteral("/no/module.so"), &error);
+        ClientTest::init();
         m_pSession->setOnline(true);
-        m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
         if (QTest::currentDataTag() != nullptr) {
             QVERIFY(m_pLanguage->use(QLatin1String(QTest::currentDataTag())));
             m_pWindow->findChild<QAbstractButton *>(QStringLiteral("happeningsButton"))->setChecked(true);
         }
         // With a notice, a count, and something to undo.
-        m_pWindow->show();
-        m_pWindow->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
         auto *calls = m_pWindow->findChild<QTableView *>(QStringLiteral("tableRecords"));
         m_pSession->history().add(callRow("30010001", 2));
         calls->setFocus();
         QTest::keyClick(calls, Qt::Key_Delete);
         m_pSession->history().add(missedRow("30010001", 1));
         m_pSession->history().add(missedRow("30010002"));
-        m_pPicker = std::make_unique<MemberPicker>(m_book, MemberPicker::NewConference, QStringList(), nullptr);
+        m_pPicker = std::make_unique<MemberPicker>(*m_pBook, MemberPicker::NewConference, QStringList(), nullptr);
         m_pWindow->prompt().prompt(QStringLiteral("30010002"), false, false);
         m_pWindow->signature().showCard(QStringLiteral("30010002@example.org"), QPoint(300, 0), 100);
         for (QWidget *window : windows()) {
@@ -60,8 +58,7 @@ private slots:
     void cleanup()
     {
         m_pPicker.reset();
-        m_pWindow.reset();
-        m_pSession.reset();
+        ClientTest::cleanup();
         m_pLanguage.reset();
     }
 
@@ -167,10 +164,7 @@ private:
                  QLatin1String(widget->window()->metaObject()->className()));
     }
 
-    ContactBook m_book{QStringLiteral("example.org")};
     std::unique_ptr<HostLanguage> m_pLanguage;
-    std::unique_ptr<HostSession> m_pSession;
-    std::unique_ptr<MainWindow> m_pWindow;
     std::unique_ptr<MemberPicker> m_pPicker;
 };
 

@@ -1,41 +1,34 @@
-#include "client/ContactBook.h"
 #include "client/HostLanguage.h"
-#include "history/CallHistory.h"
-#include "panes/CallsPane.h"
 #include "screen/ScreenKeys.h"
 #include "screen/WindowProbe.h"
 
-#include "fakes/Patience.h"
 #include "host/history/CallRows.h"
+#include "host/panes/CallsPaneTest.h"
 #include "host/panes/Deeds.h"
 #include "host/panes/PressButton.h"
 
+#include <QApplication>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStyle>
-#include <QTableView>
 #include <QTest>
 
+namespace {
+
+// What the pane has of the half of a screen 1600 pixels wide.
+constexpr int cHalfScreen = 376;
+
+} // namespace
+
 /// The history of calls, by the mouse and by the keyboard.
-class tst_CallsPane : public QObject
+class tst_CallsPane : public CallsPaneTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_pPane.reset();
-        m_pHistory = std::make_unique<CallHistory>();
-        m_pPane = std::make_unique<CallsPane>();
-        m_pPane->show(m_pHistory.get(), &m_book);
-        m_pPane->resize(640, 400);
-        m_pPane->show();
-        m_pPane->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_pPane.get(), cPatienceMs));
-        m_pTable = m_pPane->findChild<QTableView *>();
-    }
-
     void withoutCallsItSaysSo()
     {
         QCOMPARE(WindowProbe::text(m_pPane.get(), "lblNoCalls"), QStringLiteral("No calls yet"));
@@ -161,8 +154,8 @@ private slots:
     void everyDirectionIsShownWholeInBoldLetters_data()
     {
         QTest::addColumn<QString>("language");
-        for (const char *language : {"en", "zh_CN", "zh_TW"}) {
-            QTest::newRow(language) << QString::fromLatin1(language);
+        for (const HostLanguage::Choice &choice : HostLanguage::choices()) {
+            QTest::newRow(qPrintable(choice.setting)) << choice.setting;
         }
     }
 
@@ -178,14 +171,45 @@ private slots:
         m_pHistory->add(call);
         m_pTable->scrollTo(m_pTable->model()->index(0, 0));
         for (int row = 0; row < 2; ++row) {
-            const QModelIndex index = m_pTable->model()->index(row, CallHistoryModel::Direction);
-            QFont font = m_pTable->font();
-            font.setBold(index.data(Qt::FontRole).value<QFont>().bold());
-            QVERIFY(font.bold());
-            const int margin = m_pTable->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_pTable) + 1;
-            const int needed = QFontMetrics(font).horizontalAdvance(index.data().toString()) + 2 * margin;
-            QVERIFY2(needed <= m_pTable->visualRect(index).width(), qPrintable(QString::number(needed)));
+            QVERIFY(isShownWholeInBoldLetters(m_pTable->model()->index(row, CallHistoryModel::Direction)));
         }
+    }
+
+    void narrowPaneHasAllColumnsAndArrowsForDirections_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char *language : {"en", "zh_CN", "zh_TW"}) {
+            QTest::newRow(language) << QString::fromLatin1(language);
+        }
+    }
+
+    void narrowPaneHasAllColumnsAndArrowsForDirections()
+    {
+        QFETCH(QString, language);
+        HostLanguage words(QStringLiteral(VOIP_TRANSLATIONS));
+        QVERIFY(words.use(language));
+        m_pHistory->add(missedRow("30010001"));
+        const auto columnsEnd = [this] {
+            const QHeaderView *header = m_pTable->horizontalHeader();
+            return header->sectionViewportPosition(CallHistoryModel::When) +
+                   header->sectionSize(CallHistoryModel::When);
+        };
+        const QModelIndex direction = m_pTable->model()->index(0, CallHistoryModel::Direction);
+        const QString whole = direction.data().toString();
+        QVERIFY(whole.size() > 1);
+        m_pPane->resize(cHalfScreen, 400);
+        QTRY_COMPARE_WITH_TIMEOUT(direction.data().toString(), whole.left(1), cPatienceMs);
+        QVERIFY(whole.endsWith(direction.data(Qt::ToolTipRole).toString()));
+        QVERIFY(direction.data(Qt::AccessibleTextRole).toString().size() > 1);
+        QTRY_COMPARE_WITH_TIMEOUT(columnsEnd(), m_pTable->viewport()->width(), cPatienceMs);
+        for (int column = CallHistoryModel::Outcome; column <= CallHistoryModel::When; ++column) {
+            const QModelIndex index = m_pTable->model()->index(0, column);
+            QVERIFY2(isShownWholeInBoldLetters(index), qPrintable(index.data().toString()));
+        }
+        QVERIFY(m_pTable->columnWidth(CallHistoryModel::Who) >= 72);
+        m_pPane->resize(640, 400);
+        QTRY_COMPARE_WITH_TIMEOUT(direction.data().toString(), whole, cPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(columnsEnd(), m_pTable->viewport()->width(), cPatienceMs);
     }
 
     void focusChoosesTheNewestCall()
@@ -328,115 +352,6 @@ private slots:
         QCOMPARE(m_pHistory->entries().at(0).uid, QStringLiteral("30010002"));
     }
 
-    void missedAreCountedUntilTheUserTurnsToThem_data()
-    {
-        QTest::addColumn<QByteArray>("way");
-        for (const char *way :
-             {"press the count", "press Seen", "filter", "click into the list", "Tab into the list"}) {
-            QTest::newRow(way) << QByteArray(way);
-        }
-    }
-
-    void missedAreCountedUntilTheUserTurnsToThem()
-    {
-        QFETCH(QByteArray, way);
-        m_pHistory->add(missedRow("30010002", 2));
-        m_pHistory->add(callRow("30010001", 1));
-        m_pHistory->add(missedRow("30010004"));
-        QCoreApplication::processEvents();
-        QCOMPARE(WindowProbe::text(m_pPane.get(), "btnMissed"), QStringLiteral("2 missed"));
-        const QString notice = WindowProbe::text(m_pPane.get(), "lblCallNotice");
-        QVERIFY2(notice.startsWith(QStringLiteral("Missed call from Tom Baker")), qPrintable(notice));
-        QVERIFY(m_pTable->model()->index(0, 0).data(Qt::FontRole).value<QFont>().bold());
-        if (way == "press the count") {
-            QVERIFY(pressButton(m_pPane.get(), "btnMissed"));
-            QCOMPARE(m_pTable->model()->rowCount(), 2);
-            QVERIFY(m_pTable->hasFocus());
-        } else if (way == "press Seen") {
-            QVERIFY(pressButton(m_pPane.get(), "btnSeen"));
-        } else if (way == "filter") {
-            QVERIFY(pressButton(m_pPane.get(), "btnFilterMissed"));
-            QCOMPARE(m_pTable->model()->rowCount(), 2);
-        } else if (way == "click into the list") {
-            QTest::mouseClick(m_pTable->viewport(), Qt::LeftButton, Qt::NoModifier, middle(1));
-            QCOMPARE(m_pTable->currentIndex().row(), 1);
-        } else {
-            m_pPane->findChild<QWidget *>(QStringLiteral("btnFilterAll"))->setFocus();
-            QTest::keyClick(m_pPane->focusWidget(), Qt::Key_Tab);
-        }
-        QVERIFY(!WindowProbe::isShown(m_pPane.get(), "btnMissed"));
-        QVERIFY(!WindowProbe::isShown(m_pPane.get(), "callNotice"));
-        QVERIFY(!m_pTable->model()->index(0, 0).data(Qt::FontRole).isValid());
-    }
-
-    void noticeSaysWhoDidWhat_data()
-    {
-        QTest::addColumn<int>("outcome");
-        QTest::addColumn<bool>("caller");
-        QTest::addColumn<bool>("connected");
-        QTest::addColumn<QString>("words");
-        QTest::newRow("busy") << int(resultBusy) << true << false << QStringLiteral("Maria Silva was busy");
-        QTest::newRow("rejected") << int(resultRejected) << true << false
-                                  << QStringLiteral("Maria Silva rejected the call");
-        QTest::newRow("failed") << int(resultFailed) << true << false
-                                << QStringLiteral("The call with Maria Silva failed");
-        QTest::newRow("no answer") << int(outcomeNoAnswer) << true << false
-                                   << QStringLiteral("Maria Silva did not answer");
-        QTest::newRow("hung up") << int(resultHungUp) << true << true
-                                 << QStringLiteral("Maria Silva hung up after 0:10");
-        QTest::newRow("given up") << int(resultHungUp) << true << false
-                                  << QStringLiteral("Maria Silva gave up the call");
-        QTest::newRow("missed") << int(outcomeMissed) << false << false
-                                << QStringLiteral("Missed call from Maria Silva");
-        QTest::newRow("cut off") << int(outcomeCutOff) << true << false
-                                 << QStringLiteral("The call with Maria Silva was cut off");
-    }
-
-    void noticeSaysWhoDidWhat()
-    {
-        QFETCH(QString, words);
-        CallEntry call = callRow("30010002");
-        call.seen = false;
-        call.seconds = 10;
-        QFETCH(int, outcome);
-        QFETCH(bool, caller);
-        QFETCH(bool, connected);
-        call.outcome = outcome;
-        call.caller = caller;
-        call.connected = connected;
-        m_pHistory->add(call);
-        const QString notice = WindowProbe::text(m_pPane.get(), "lblCallNotice");
-        QVERIFY2(notice.startsWith(words), qPrintable(notice));
-        // The notice stays; what it tells is called again by its button.
-        QSignalSpy called(m_pPane.get(), &CallsPane::callWanted);
-        QVERIFY(pressButton(m_pPane.get(), "btnCallAgain"));
-        QCOMPARE(called.value(0), (QList<QVariant>{QStringLiteral("30010002"), false}));
-        QVERIFY(!WindowProbe::isShown(m_pPane.get(), "callNotice"));
-    }
-
-    void noticeOfManyCountsTheRest()
-    {
-        for (int i = 0; i < 7; ++i) {
-            m_pHistory->add(missedRow("30010002", 10 - i));
-        }
-        const QStringList lines = WindowProbe::text(m_pPane.get(), "lblCallNotice").split('\n');
-        QCOMPARE(lines.size(), 4);
-        QCOMPARE(lines.last(), QStringLiteral("and 4 more"));
-    }
-
-    void obstacleStandsInTheTips()
-    {
-        m_pHistory->add(missedRow("30010002"));
-        m_pPane->setObstacle(QStringLiteral("No."));
-        auto *again = m_pPane->findChild<QPushButton *>(QStringLiteral("btnCallAgain"));
-        QVERIFY(!again->isEnabled());
-        QCOMPARE(again->toolTip(), QStringLiteral("No."));
-        QCOMPARE(again->accessibleDescription(), QStringLiteral("No."));
-        m_pPane->setObstacle(QString());
-        QVERIFY(again->isEnabled());
-        QVERIFY(again->toolTip() != QStringLiteral("No."));
-    }
-
     void tabGoesThroughTheParts()
     {
         m_pHistory->add(missedRow("30010001"));
@@ -451,6 +366,15 @@ private slots:
     }
 
 private:
+    bool isShownWholeInBoldLetters(const QModelIndex &index) const
+    {
+        QFont font = m_pTable->font();
+        font.setBold(index.data(Qt::FontRole).value<QFont>().bold());
+        const int margin = m_pTable->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_pTable) + 1;
+        const int needed = QFontMetrics(font).horizontalAdvance(index.data().toString()) + 2 * margin;
+        return font.bold() && needed <= m_pTable->visualRect(index).width();
+    }
+
     /// Presses a key of the real keyboard and waits until that is so.
     static bool press(const QByteArray &strKey, const std::function<bool()> &hasEffect)
     {
@@ -462,12 +386,6 @@ private:
         const Deeds::Deed click = [this] { return Deeds::clickOn(*m_pTable->viewport(), middle(0), Deeds::Right); };
         return Deeds(Deeds::choose(bByKeys ? Deeds::key("Menu") : click, bByKeys, strItem, hasEffect)).finish();
     }
-    QPoint middle(int iRow) const { return m_pTable->visualRect(m_pTable->model()->index(iRow, 2)).center(); }
-
-    ContactBook m_book{QStringLiteral("example.org")};
-    std::unique_ptr<CallHistory> m_pHistory;
-    std::unique_ptr<CallsPane> m_pPane;
-    QTableView *m_pTable = nullptr;
 };
 
 #include "support/TestProgram.h"

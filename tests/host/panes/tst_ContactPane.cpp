@@ -7,6 +7,7 @@
 #include "host/panes/PressButton.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -147,6 +148,36 @@ private slots:
         press(Qt::Key_Return);
         QCOMPARE(called.count(), 1);
         QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), false}));
+    }
+
+    void doubleClickCallsTheRow()
+    {
+        QSignalSpy called(m_pPane.get(), &ContactPane::callWanted);
+        QWidget *contact = row("30010001");
+        Deeds deeds(
+            {Deeds::again([contact] { return Deeds::clickOn(*contact, contact->rect().center(), Deeds::Double); },
+                          [&called] { return called.count() > 0; })});
+        QVERIFY(deeds.finish());
+        QCOMPARE(called.count(), 1);
+        QCOMPARE(called.at(0), (QList<QVariant>{QStringLiteral("30010001"), false}));
+    }
+
+    void whoseStateNobodyTellsHasNeitherWordNorDot()
+    {
+        ContactPane pane;
+        pane.fill(ContactBook(QStringLiteral("example.org"), QString::fromLatin1(ContactBook::cOwnId),
+                              ContactBook::World::People));
+        auto *maria = pane.findChild<QWidget *>(QStringLiteral("30010002"));
+        QCOMPARE(maria->accessibleName(), QStringLiteral("Maria Silva"));
+        QCOMPARE(WindowProbe::text(maria, "lblPresence"), QString());
+        const auto *head = maria->findChild<QLabel *>(QStringLiteral("lblHead"));
+        const auto *known = row("30010002")->findChild<QLabel *>(QStringLiteral("lblHead"));
+        const QImage without = head->pixmap(Qt::ReturnByValue).toImage();
+        const QImage with = known->pixmap(Qt::ReturnByValue).toImage();
+        const QRect dot(without.width() * 3 / 4, without.height() * 3 / 4, without.width() / 8, without.height() / 8);
+        QVERIFY(without.copy(dot) != with.copy(dot));
+        const QRect rest(0, 0, without.width() / 2, without.height());
+        QCOMPARE(without.copy(rest), with.copy(rest));
     }
 
     void enterOnAButtonPressesIt_data()

@@ -25,7 +25,7 @@ class tst_MainWindow : public ClientTest
 private slots:
     void everyContactHasBothCallButtons()
     {
-        for (const ContactBook::Entry &entry : m_book.entries()) {
+        for (const ContactBook::Entry &entry : m_pBook->entries()) {
             const auto *row = m_pWindow->findChild<QWidget *>(entry.uid);
             QVERIFY2(row != nullptr, qPrintable(entry.uid));
             QVERIFY(WindowProbe::isShown(row, "btnCall"));
@@ -109,7 +109,7 @@ private slots:
     {
         SystemSetData *settings = SystemSetData::instance();
         settings->initCommonData();
-        settings->initData(m_book.ownUid());
+        settings->initData(m_pBook->ownUid());
         QVERIFY(QDir().mkpath(settings->m_strUserFolder));
         QFile file(settings->m_strDatabasePath);
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no database") > 0);
@@ -119,7 +119,7 @@ private slots:
         QString error;
         QVERIFY(!m_pSession->start(QStringLiteral("/no/module.so"), &error));
         QVERIFY(m_pSession->store().isOpen());
-        MainWindow window(*m_pSession, m_book);
+        MainWindow window(*m_pSession, *m_pBook);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window, cPatienceMs));
         QVERIFY(WindowProbe::isShown(&window, "lblNotice"));

@@ -67,6 +67,15 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(m_pWindow->statusBar()->currentMessage(), QString(), cPatienceMs);
     }
 
+    void statusLineTellsThatTheCallIsAnswered()
+    {
+        ring(QStringLiteral("30010006"));
+        emit m_pSession->callService().callConnected();
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("In a call with Anna Novak"));
+        missCall();
+        QCOMPARE(m_pWindow->statusBar()->currentMessage(), QStringLiteral("Missed call from Anna Novak"));
+    }
+
     void statusLineTellsTheCallThatIsOnInTheNewLanguage()
     {
         HostLanguage language(QStringLiteral(VOIP_TRANSLATIONS));

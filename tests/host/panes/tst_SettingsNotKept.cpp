@@ -1,14 +1,9 @@
-#include "client/ContactBook.h"
 #include "client/HostLanguage.h"
-#include "panes/MainWindow.h"
+#include "client/HostSkins.h"
 #include "screen/WindowProbe.h"
-#include "session/HostSession.h"
 
-#include "common/settings/ConfigFile.h"
-#include "fakes/Patience.h"
-#include "host/panes/PressButton.h"
+#include "host/panes/SettingsPageTest.h"
 #include "model/SharedContext.h"
-#include "model/SkinContext.h"
 #include "model/SystemSetData.h"
 #include "store/Hardship.h"
 
@@ -16,12 +11,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 #include <QTest>
 
 /// The settings where their files cannot be written: what the page shows is what is in force, and it says why.
-class tst_SettingsNotKept : public QObject
+class tst_SettingsNotKept : public SettingsPageTest
 {
     Q_OBJECT
 
@@ -29,16 +23,11 @@ private slots:
     void init()
     {
         m_pWords = std::make_unique<HostLanguage>(QStringLiteral(VOIP_TRANSLATIONS));
-        m_pSession = std::make_unique<HostSession>(m_book);
-        QString error;
-        QVERIFY(!m_pSession->start(QStringLiteral("/no/module.so"), &error));
+        SettingsPageTest::init();
         connect(&m_pSession->settings(), &HostSettings::languageChanged, m_pWords.get(), &HostLanguage::use);
         m_pSession->settings().setLanguage(QStringLiteral("en"));
         m_pSession->settings().setSkin(QStringLiteral("ThemeGreen"));
-        m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
-        m_pWindow->show();
-        QVERIFY(pressButton(m_pWindow.get(), "btnSettings"));
-        QVERIFY(QTest::qWaitForWindowActive(&page(), cPatienceMs));
+        page().open();
         QCoreApplication::processEvents();
         setWritable(false);
     }
@@ -46,12 +35,8 @@ private slots:
     void cleanup()
     {
         setWritable(true);
-        m_pWindow.reset();
-        const QString userFile = HostSettings::userFile();
-        m_pSession.reset();
+        SettingsPageTest::cleanup();
         m_pWords.reset();
-        QFile::remove(userFile);
-        QFile::remove(HostSettings::commonFile());
     }
 
     void languageStaysWithItsButton()
@@ -81,7 +66,7 @@ private slots:
     {
         const OrdinaryRights rights;
         QVERIFY(pressButton(&page(), "skin_ThemeBlue"));
-        QCOMPARE(SkinContext::getSkinData()->m_strSkinName, QStringLiteral("ThemeGreen"));
+        QCOMPARE(HostSkins::currentName(), QStringLiteral("ThemeGreen"));
         QVERIFY(m_pWindow->styleSheet().contains(QStringLiteral("#2f8038")));
         QVERIFY(part<QRadioButton>("skin_ThemeGreen")->isChecked());
         tellsThatNothingWasChanged(HostSettings::userFile());
@@ -129,7 +114,8 @@ private slots:
         // Another change goes into the same files.
         part<QCheckBox>("boxSilent")->setFocus();
         QTest::keyClick(part<QCheckBox>("boxSilent"), Qt::Key_Space);
-        ConfigFile::changeConfigValue(HostSettings::commonFile(), QStringLiteral("/test/other"), QStringLiteral("x"));
+        QVERIFY(
+            SettingsFile::write(HostSettings::commonFile(), {{QStringLiteral("/test/other"), QStringLiteral("x")}}));
         QVERIFY(part<QCheckBox>("boxSilent")->isChecked());
         QCOMPARE(part<QLabel>("lblNotKept")->text(), QString());
         QCOMPARE(HostSettings::language(), QStringLiteral("en"));
@@ -152,12 +138,6 @@ private slots:
     }
 
 private:
-    SettingsPage &page() { return m_pWindow->settingsPage(); }
-    template <typename Part>
-    Part *part(const char *strName)
-    {
-        return page().findChild<Part *>(QLatin1String(strName));
-    }
     void tellsThatNothingWasChanged(const QString &strFile)
     {
         const auto *words = part<QLabel>("lblNotKept");
@@ -175,10 +155,7 @@ private:
         }
     }
 
-    ContactBook m_book{QStringLiteral("example.org")};
     std::unique_ptr<HostLanguage> m_pWords;
-    std::unique_ptr<HostSession> m_pSession;
-    std::unique_ptr<MainWindow> m_pWindow;
 };
 
 #include "support/TestProgram.h"

@@ -1,16 +1,14 @@
-#include "client/ContactBook.h"
+#include "client/HostSettings.h"
+#include "client/SettingsFile.h"
 #include "happenings/HappeningsPanel.h"
-#include "panes/MainWindow.h"
 #include "panes/WindowPlace.h"
-#include "session/HostSession.h"
 
 #include "common/settings/ConfigFile.h"
-#include "fakes/Patience.h"
+#include "host/panes/ClientTest.h"
 #include "host/panes/PressButton.h"
 
 #include <QAbstractButton>
 #include <QDockWidget>
-#include <QFile>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -19,21 +17,14 @@
 Q_DECLARE_METATYPE(WindowPlace::Side)
 
 /// Where the main window stands: whole on a screen, and where it was left. The class runs on screens of several sizes.
-class tst_WindowPlace : public QObject
+class tst_WindowPlace : public ClientTest
 {
     Q_OBJECT
 
+public:
+    tst_WindowPlace() : ClientTest(Begin::SignedIn) {}
+
 private slots:
-    void init() { start(); }
-
-    void cleanup()
-    {
-        const QString userFile = HostSettings::userFile();
-        m_pWindow.reset();
-        m_pSession.reset();
-        QFile::remove(userFile);
-    }
-
     void fitsTheScreenThatItSharesMostWith_data()
     {
         QTest::addColumn<QRect>("wanted");
@@ -73,7 +64,7 @@ private slots:
         QFETCH(WindowPlace::Side, side);
         const QString kept = QStringLiteral("17,19,700,500");
         ConfigFile::changeConfigValue(HostSettings::userFile(), QLatin1String(WindowPlace::cMainKey), kept);
-        m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book, side);
+        m_pWindow = std::make_unique<MainWindow>(*m_pSession, *m_pBook, side);
         m_pWindow->show();
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         const QRect half = WindowPlace::part(screen, side);
@@ -84,8 +75,7 @@ private slots:
         m_pWindow->prompt().hide();
         // Where the client stood alone is where it will stand alone again.
         m_pWindow->close();
-        QCOMPARE(ConfigFile::getConfigValue(HostSettings::userFile(), QLatin1String(WindowPlace::cMainKey)).toString(),
-                 kept);
+        QCOMPARE(SettingsFile::read(HostSettings::userFile(), QLatin1String(WindowPlace::cMainKey)), kept);
     }
 
     void windowIsNeverLargerThanTheScreen() { QTRY_VERIFY_WITH_TIMEOUT(isOnScreen(m_pWindow.get()), cPatienceMs); }
@@ -135,7 +125,7 @@ private slots:
         QFETCH(QString, kept);
         ConfigFile::changeConfigValue(HostSettings::userFile(), QLatin1String(WindowPlace::cMainKey), kept);
         m_pWindow.reset();
-        show();
+        openWindow();
         QTRY_VERIFY_WITH_TIMEOUT(isOnScreen(m_pWindow.get()), cPatienceMs);
     }
 
@@ -171,26 +161,11 @@ private slots:
     }
 
 private:
-    void start()
-    {
-        m_pSession = std::make_unique<HostSession>(m_book);
-        QString error;
-        m_pSession->start(QStringLiteral("/no/module.so"), &error);
-        show();
-    }
-
-    void show()
-    {
-        m_pWindow = std::make_unique<MainWindow>(*m_pSession, m_book);
-        m_pWindow->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_pWindow.get(), cPatienceMs));
-    }
-
     void restart()
     {
         m_pWindow->close();
         m_pWindow.reset();
-        show();
+        openWindow();
     }
 
     static bool isOnScreen(const QWidget *window)
@@ -202,10 +177,6 @@ private:
     {
         return m_pWindow->findChild<QAbstractButton *>(QLatin1String(strName))->isChecked();
     }
-
-    ContactBook m_book{HostSession::loginDomain()};
-    std::unique_ptr<HostSession> m_pSession;
-    std::unique_ptr<MainWindow> m_pWindow;
 };
 
 #include "support/TestProgram.h"

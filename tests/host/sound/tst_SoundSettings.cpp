@@ -2,6 +2,7 @@
 // mouse, with the real plug-in and its call process.
 
 #include "client/ContactBook.h"
+#include "client/SettingsFile.h"
 #include "panes/MainWindow.h"
 #include "panes/SoundPane.h"
 #include "screen/WindowProbe.h"
@@ -10,7 +11,6 @@
 #include "traffic/CallChannel.h"
 #include "traffic/TraceFolder.h"
 
-#include "common/settings/ConfigFile.h"
 #include "host/panes/Deeds.h"
 #include "host/panes/PressButton.h"
 #include "host/sound/SoundMachine.h"
@@ -353,7 +353,7 @@ private:
     }
     static QString stored(const char *strKey)
     {
-        return ConfigFile::getConfigValue(HostSettings::userFile(), QLatin1String(strKey)).toString();
+        return SettingsFile::read(HostSettings::userFile(), QLatin1String(strKey));
     }
     void clickButton(const char *strName)
     {
