@@ -1,11 +1,10 @@
 // The conference detail page: its widgets, and what it shows of a record.
 
 #include "ContactFixture.h"
-#include "PaintedPicture.h"
 #include "ShippedFiles.h"
 
-#include "common/pictures/IconFont.h"
 #include "fakes/FakeHost.h"
+#include "fakes/PaintedPicture.h"
 #include "fakes/Patience.h"
 #include "model/MemberRoles.h"
 #include "model/SharedContext.h"
@@ -170,7 +169,7 @@ private slots:
         QCOMPARE(pIcon->maximumSize(), QSize(42, 42));
         QCOMPARE(grid()->frameShape(), QFrame::NoFrame);
         QCOMPARE(text("lblTableViewTitle"), QStringLiteral("参与人员"));
-        QCOMPARE(label("isCreatorIcon")->font().family(), IconFont::getIconFont().family());
+        QCOMPARE(label("isCreatorIcon")->font().family(), QStringLiteral("kelvarimiconfont"));
         QCOMPARE(m_pPage->objectName(), QStringLiteral("CConferenceDetaileWidget"));
     }
 

@@ -2,11 +2,10 @@
 // leaves in the item.
 
 #include "HistoryListTest.h"
-#include "PaintedPicture.h"
 
 #include "common/pictures/IconFont.h"
+#include "fakes/PaintedPicture.h"
 
-#include <QBitmap>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStandardItemModel>
@@ -37,26 +36,6 @@ class tst_ConferenceInfoPainting : public HistoryListTest
     Q_OBJECT
 
 private:
-    static void paintHeadByNumbers(QPainter &painter, const QRect &r, const QString &strPath)
-    {
-        const qreal ratio = painter.device()->devicePixelRatioF();
-        const int iTwice = qRound(40 * ratio) * 2;
-        QBitmap mask(iTwice, iTwice);
-        mask.fill(Qt::white);
-        QPainter round(&mask);
-        round.setRenderHint(QPainter::Antialiasing);
-        round.setPen(Qt::NoPen);
-        round.setBrush(Qt::black);
-        round.drawEllipse(mask.rect());
-        round.end();
-        QPixmap head(strPath);
-        head = head.scaled(iTwice, iTwice, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        head.setMask(mask);
-        head = head.scaled(iTwice / 2, iTwice / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        head.setDevicePixelRatio(ratio);
-        painter.drawPixmap(r.left() + 10, r.top() + 10, head);
-    }
-
     /// The row by its numbers, with nothing kept from one painting to the next.
     static void paintByNumbers(QPainter &painter, const QRect &r, const QModelIndex &index, bool bHovered)
     {
@@ -64,7 +43,7 @@ private:
         const bool bConnected = index.data(Qt::UserRole + 139).toBool();
         const QString strStatus = bConnected ? index.data(Qt::UserRole + 147).toString() : QStringLiteral("未接通");
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        paintHeadByNumbers(painter, r, index.data(Qt::UserRole + 2).toString());
+        paintHeadByNumbers(painter, r.topLeft() + QPoint(10, 10), index.data(Qt::UserRole + 2).toString(), 40);
         QFont icons = IconFont::getIconFont();
         if (bConnected && bHovered) {
             icons.setPixelSize(16);

@@ -2,12 +2,11 @@
 // answer after scrolling and changes.
 
 #include "MemberListTest.h"
-#include "PaintedPicture.h"
 
 #include "common/pictures/IconFont.h"
+#include "fakes/PaintedPicture.h"
 #include "fakes/Patience.h"
 
-#include <QBitmap>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -41,7 +40,7 @@ private:
         const QRect mute(remove.left() - 18 - 18, r.top() + 10, 18, 18);
         const bool bMine = row.data(Qt::UserRole + 13).toBool();
         const QRect status(bMine ? mute.left() - 100 - 50 : r.right() + 1 - 50 - 20, r.top() + 10, 50, r.height());
-        paintHeadByNumbers(painter, r, row.data(Qt::UserRole + 2).toString());
+        paintHeadByNumbers(painter, r.topLeft() + QPoint(20, 8), row.data(Qt::UserRole + 2).toString(), 22);
 
         QFont font(cFont);
         font.setPixelSize(12);
@@ -80,29 +79,6 @@ private:
         painter.fillRect(QRect(QPoint(r.left() + 20, r.bottom()), QPoint(r.right() - 20, r.bottom())),
                          QColor(224, 224, 224));
         painter.setPen(pen);
-    }
-
-    static void paintHeadByNumbers(QPainter &painter, const QRect &r, const QString &strPath)
-    {
-        QPixmap head(strPath);
-        if (head.isNull()) {
-            return;
-        }
-        const qreal dRatio = painter.device()->devicePixelRatioF();
-        const int iTwice = qRound(44 * dRatio);
-        QBitmap mask(iTwice, iTwice);
-        mask.fill(Qt::white);
-        QPainter maskPainter(&mask);
-        maskPainter.setRenderHint(QPainter::Antialiasing);
-        maskPainter.setPen(Qt::NoPen);
-        maskPainter.setBrush(Qt::black);
-        maskPainter.drawEllipse(mask.rect());
-        maskPainter.end();
-        head = head.scaled(iTwice, iTwice, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        head.setMask(mask);
-        head = head.scaled(iTwice / 2, iTwice / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        head.setDevicePixelRatio(dRatio);
-        painter.drawPixmap(r.left() + 20, r.top() + 8, head);
     }
 
     QImage pictureByNumbers() const

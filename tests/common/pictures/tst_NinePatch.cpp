@@ -1,4 +1,5 @@
 #include "common/pictures/NinePatch.h"
+#include "fakes/PaintedPicture.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -36,11 +37,10 @@ QImage drawn(const QSize &size, const QPixmap &picture)
     return NinePatch::drawNinePatch(size, picture).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-QImage transparent(const QSize &size)
+/// Nothing of that size, but for one colour in a part of it.
+QImage onlyWith(const QSize &size, const QRect &part, const QColor &color)
 {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    return image;
+    return paintedOnNothing(size, [&](QPainter &painter) { painter.fillRect(part, color); });
 }
 
 } // namespace
@@ -78,38 +78,46 @@ private slots:
         for (const QPoint &spot : spots) {
             image.setPixelColor(spot, Qt::green);
         }
-        const QImage frame = drawn(QSize(100, 80), QPixmap::fromImage(image));
+        QImage expected = expectedFrame(QSize(100, 80), 89, 69);
         for (const QPoint &spot : spots) {
-            const QPoint moved(spot.x() < 10 ? spot.x() : spot.x() + 70, spot.y() < 10 ? spot.y() : spot.y() + 50);
-            QCOMPARE(frame.pixelColor(moved), QColor(Qt::green));
+            expected.setPixelColor(spot.x() < 10 ? spot.x() : spot.x() + 70, spot.y() < 10 ? spot.y() : spot.y() + 50,
+                                   Qt::green);
         }
-        QCOMPARE(frame.pixelColor(10, 10), cParts[1][1]);
-        QCOMPARE(frame.pixelColor(88, 68), cParts[1][1]);
+        QCOMPARE(drawn(QSize(100, 80), QPixmap::fromImage(image)), expected);
+    }
+
+    void lastPixelBeforeTheCornerIsStretched()
+    {
+        QImage image = source(QSize(30, 30)).toImage();
+        QImage expected = expectedFrame(QSize(48, 48), 37, 37);
+        QPainter(&image).fillRect(18, 18, 1, 1, Qt::green);
+        QPainter(&expected).fillRect(34, 34, 3, 3, Qt::green);
+        QCOMPARE(drawn(QSize(48, 48), QPixmap::fromImage(image)), expected);
     }
 
     void transparentPartsStayTransparent()
     {
         QImage image = source(QSize(30, 30)).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        QImage expected = expectedFrame(QSize(100, 80), 89, 69);
+        const QRgb half = qPremultiply(qRgba(0, 0, 255, 128));
         image.setPixel(0, 0, 0);
-        image.setPixel(29, 29, qPremultiply(qRgba(0, 0, 255, 128)));
-        const QImage frame = drawn(QSize(100, 80), QPixmap::fromImage(image));
-        QCOMPARE(frame.pixel(0, 0), QRgb(0));
-        QCOMPARE(qAlpha(frame.pixel(99, 79)), 128);
+        expected.setPixel(0, 0, 0);
+        image.setPixel(29, 29, half);
+        expected.setPixel(99, 79, half);
+        QCOMPARE(drawn(QSize(100, 80), QPixmap::fromImage(image)), expected);
     }
 
     void pictureSmallerThanTheCutsHasNoFarParts()
     {
-        const QImage frame = drawn(QSize(60, 60), source(QSize(15, 15)));
-        QCOMPARE(frame.pixelColor(0, 0), cParts[0][0]);
-        QCOMPARE(frame.pixelColor(9, 9), cParts[0][0]);
+        const QRect corner(0, 0, 10, 10);
+        QCOMPARE(drawn(QSize(60, 60), source(QSize(15, 15))).copy(corner),
+                 onlyWith(corner.size(), corner, cParts[0][0]));
     }
 
     void targetSmallerThanTheCornersShowsTheLastOfThem()
     {
-        const QImage frame = drawn(QSize(12, 12), source(QSize(40, 40)));
-        QCOMPARE(frame.size(), QSize(12, 12));
-        QCOMPARE(frame.pixelColor(0, 0), cParts[2][2]);
-        QCOMPARE(frame.pixelColor(11, 11), cParts[2][2]);
+        const QRect all(0, 0, 12, 12);
+        QCOMPARE(drawn(all.size(), source(QSize(40, 40))), onlyWith(all.size(), all, cParts[2][2]));
     }
 
     void stretchWithoutRoomIsNotPainted()
@@ -122,14 +130,14 @@ private slots:
                 }
             }
         }
-        const QImage frame = drawn(QSize(20, 20), QPixmap::fromImage(image));
-        QCOMPARE(frame.pixelColor(9, 9), cParts[0][0]);
-        QCOMPARE(frame.pixel(10, 5), QRgb(0));
-        QCOMPARE(frame.pixel(5, 10), QRgb(0));
-        QCOMPARE(frame.pixel(10, 10), QRgb(0));
+        QCOMPARE(drawn(QSize(20, 20), QPixmap::fromImage(image)),
+                 onlyWith(QSize(20, 20), QRect(0, 0, 10, 10), cParts[0][0]));
     }
 
-    void noPictureGivesATransparentFrame() { QCOMPARE(drawn(QSize(40, 30), QPixmap()), transparent(QSize(40, 30))); }
+    void noPictureGivesATransparentFrame()
+    {
+        QCOMPARE(drawn(QSize(40, 30), QPixmap()), onlyWith(QSize(40, 30), QRect(), {}));
+    }
 
     void emptySizeGivesANullPixmap_data()
     {
