@@ -52,7 +52,7 @@ void CConfDetailMemberTableView::setMemList(QList<QString> list)
     for (int i = 0; self && i < list.size(); ++i) {
         placeMember(i / cColumns, i % cColumns, list.at(i));
     }
-    // With the focus already, which finds no first member in an empty grid.
+    // The empty grid may have had the focus, without a current cell.
     if (self && hasFocus() && !currentIndex().isValid()) {
         setCurrentIndex(m_pModel->index(0, 0));
     }

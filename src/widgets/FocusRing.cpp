@@ -92,7 +92,7 @@ bool FocusRing::eventFilter(QObject *watched, QEvent *event)
 {
     const bool bClicked = event->type() == QEvent::MouseButtonPress;
     const bool bChanged = (watched == m_pPart || bClicked) && m_focus.heed(*event);
-    // Whatever moves the place paints the frame anew.
+    // A part that moves has its frame painted anew, so Paint stands for that.
     const bool bMoved =
         isShown() && watched == m_pFrame && (event->type() == QEvent::Resize || event->type() == QEvent::Paint);
     if (bChanged || bMoved) {

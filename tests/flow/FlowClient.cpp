@@ -16,7 +16,8 @@
 
 #include <csignal>
 
-FlowClient::FlowClient(const QByteArray &speed) : m_trace(QDir::current().filePath(QStringLiteral("wire.trace")))
+FlowClient::FlowClient(const QByteArray &speed, const QString &strUid, const QString &strRegValue)
+    : m_trace(QDir::current().filePath(QStringLiteral("wire.trace")))
 {
     // The plug-in starts the call process with this environment, and rings with a file under the working directory.
     qputenv("VOIPSDK_TRACE", QFile::encodeName(m_trace.file()));
@@ -24,10 +25,10 @@ FlowClient::FlowClient(const QByteArray &speed) : m_trace(QDir::current().filePa
     QFile::link(QCoreApplication::applicationDirPath() + QStringLiteral("/Resources"), QStringLiteral("Resources"));
 
     m_login.m_strDomain = QStringLiteral("example.org");
-    m_login.m_strUid = QStringLiteral("30010000");
-    m_login.m_strRegValue = QStringLiteral("registration");
+    m_login.m_strUid = strUid;
+    m_login.m_strRegValue = strRegValue;
     m_data.setLoginData(&m_login);
-    FriendData me(QStringLiteral("30010000@example.org"));
+    FriendData me(strUid + QStringLiteral("@example.org"));
     me.m_vcardInfo.m_strNickName = QStringLiteral("自己");
     host.setRecord(me.m_strJid, me);
 }

@@ -17,8 +17,9 @@ class QWidget;
 class FlowClient
 {
 public:
-    /// Signs the user 30010000 in. The robots' delays are divided by `speed`.
-    explicit FlowClient(const QByteArray &speed);
+    /// Signs that user in. The robots' delays are divided by `speed`.
+    explicit FlowClient(const QByteArray &speed, const QString &strUid = QStringLiteral("30010000"),
+                        const QString &strRegValue = QStringLiteral("registration"));
 
     /// Loads the module and hands it the context and the event handle.
     bool load();

@@ -10,7 +10,7 @@ import subprocess
 import sys
 
 # Where a path in a document may begin, beside the folder of the project and that of the document.
-BEGINNINGS = ("src", "tests", "apps", "apps/host", "apps/callprocess", "apps/callprocess/scenarios", "resources")
+BEGINNINGS = ("src", "src/commonfun", "tests", "apps", "apps/host", "apps/callprocess", "apps/callprocess/scenarios", "resources")
 # What is there only once something was built, installed or run; tests/packaging looks at it.
 MADE = re.compile(r"build(-\w+)?/|~/|/(usr|etc|run|tmp)/|(bin|include|lib|share)/|Resources/|VoipSDK/|lib\w+\.(so|a)$|allurl\.ini$|data\.db$|.*localData\.db$")
 # Files of the reader's own.
@@ -31,6 +31,7 @@ TOLD = (
     ("apps/callprocess/Options.cpp", r'^constexpr OptionRow \w+ *\{"([\w-]+)"', "docs/wire-protocol.md", r"^\| `--{}[ `]"),
     ("src/wire/Notifications.def", r"^WIRE_NOTIFICATION\((\d+),", "bench/goals", r"callbackCode{}/"),
     ("apps/endpoint/EndpointOptions.cpp", r'^constexpr OptionRow \w+ *\{"([\w-]+)"', "docs/wire-protocol.md", r"^\| `--{}[ `]"),
+    ("apps/calls/CallsOptions.cpp", r'^constexpr OptionRow \w+ *\{"([\w-]+)"', "docs/real-calls.md", r"^\| `--{}[ `]"),
     ("apps/calls/settings/CallsSettings.def", r'^CALLS_SETTING\(\w+, +\w+, +"\w+", +"([\w-]+)"', "docs/real-calls.md", r"^\| `\w+/{}` \| "),
     ("fuzz/FuzzTargets.h", r'^    \{"(\w+)", ', "docs/reliability.md", r"^\| `{}` \| "),
 )
@@ -108,7 +109,7 @@ def complaints_about_told(root):
 def complaints_about_folders(root):
     """Folders that docs/architecture.md does not name, and floors that stand in its table otherwise than in CMake."""
     text = (root / "docs/architecture.md").read_text()
-    for beginning in ("src", "apps", "tests", "src/common", "apps/host"):
+    for beginning in ("src", "apps", "tests", "src/common", "apps/host", "apps/calls"):
         for folder in sorted((root / beginning).iterdir()):
             if folder.is_dir() and f"`{folder.relative_to(root)}/`" not in text:
                 yield f"architecture.md: does not name {folder.relative_to(root)}/"

@@ -31,7 +31,7 @@ class Includes:
         self.qt_folders = [path for path in sorted(qt.iterdir()) if path.is_dir()]
         programs = [path for path in sorted((root / "apps").iterdir()) if path.is_dir()]
         others = [root / folder for folder in FOLDERS if folder != "apps"]
-        self.folders = [*others, root / "apps", *programs, qt, *self.qt_folders]
+        self.folders = [*others, root / "src/commonfun", root / "apps", *programs, qt, *self.qt_folders]
         self.qt = qt
 
     @functools.lru_cache(maxsize=None)

@@ -11,6 +11,7 @@
 #include <QtTest>
 
 #include <atomic>
+#include <functional>
 #include <thread>
 #include <vector>
 
@@ -42,6 +43,34 @@ QStringList messages()
     return all;
 }
 
+/// Writes cRecords statements from each of cCallers threads, and some from this one as long as they run; how many of
+/// this one. Each time it flushes, `each` is called.
+int writeFromAllThreads(CLogManger *log, const std::function<void()> &each)
+{
+    std::atomic<int> running{cCallers};
+    std::vector<std::thread> callers;
+    callers.reserve(cCallers);
+    for (int caller = 0; caller < cCallers; ++caller) {
+        callers.emplace_back([log, caller, &running] {
+            for (int i = 0; i < cRecords; ++i) {
+                log->printLog(CustomLog::Info, LOG_LOCATION, QStringLiteral("%1:%2").arg(caller).arg(i));
+            }
+            --running;
+        });
+    }
+    // Statements build their text in fields without a lock, so one thread alone makes them.
+    int own = 0;
+    while (running > 0) {
+        LOG_DEBUG << cCallers << ":" << own++ << "\n";
+        log->flushLog();
+        each();
+    }
+    for (std::thread &caller : callers) {
+        caller.join();
+    }
+    return own;
+}
+
 } // namespace
 
 class tst_LogStress : public QObject
@@ -63,27 +92,7 @@ private slots:
         CLogManger *log = CLogManger::instance();
         writer.start();
 
-        std::atomic<int> running{cCallers};
-        std::vector<std::thread> callers;
-        callers.reserve(cCallers);
-        for (int caller = 0; caller < cCallers; ++caller) {
-            callers.emplace_back([log, caller, &running] {
-                for (int i = 0; i < cRecords; ++i) {
-                    log->printLog(CustomLog::Info, LOG_LOCATION, QStringLiteral("%1:%2").arg(caller).arg(i));
-                }
-                --running;
-            });
-        }
-        // Statements build their text in fields without a lock, so one thread alone makes them.
-        int own = 0;
-        while (running > 0) {
-            LOG_DEBUG << cCallers << ":" << own++ << "\n";
-            log->flushLog();
-            QCOMPARE(writer.getCustomLogger(), &logger);
-        }
-        for (std::thread &caller : callers) {
-            caller.join();
-        }
+        const int own = writeFromAllThreads(log, [&] { QCOMPARE(writer.getCustomLogger(), &logger); });
         LOG_DEBUG << "last"
                   << "\n";
         const auto lastIsWritten = [log] {
