@@ -60,6 +60,27 @@ void command(QObject *mailbox, EMsgId id, const QByteArray &data)
     QCoreApplication::sendEvent(mailbox, &event);
 }
 
+/// Loads the module and goes as far with it as the word says; false where it cannot be loaded.
+bool load(QPluginLoader &loader, const QByteArray &word, CommonData *data, QObject *host)
+{
+    QObject *root = loader.instance();
+    if (!root) {
+        return false;
+    }
+    auto *plugin = qobject_cast<PluginInterface *>(root);
+    if (word == "command" || word == "call" || word == "idle") {
+        plugin->setCommonData(data);
+        plugin->setSendEventHandle(host);
+        command(plugin->getReceiveEventHandle(), MSG_IS_EXIST_CALL, {});
+    }
+    if (word == "call") {
+        QByteArray payload;
+        QDataStream(&payload, QIODevice::WriteOnly) << false << QStringLiteral("30010001");
+        command(plugin->getReceiveEventHandle(), MSG_CALL_SINGLE_USER, payload);
+    }
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -86,22 +107,8 @@ int main(int argc, char **argv)
         QCoreApplication::processEvents();
     }
     QPluginLoader loader(QString::fromLocal8Bit(argv[2]));
-    if (word != "none" && word != "window") {
-        QObject *root = loader.instance();
-        if (!root) {
-            return 1;
-        }
-        auto *plugin = qobject_cast<PluginInterface *>(root);
-        if (word == "command" || word == "call" || word == "idle") {
-            plugin->setCommonData(&data);
-            plugin->setSendEventHandle(&host);
-            command(plugin->getReceiveEventHandle(), MSG_IS_EXIST_CALL, {});
-        }
-        if (word == "call") {
-            QByteArray payload;
-            QDataStream(&payload, QIODevice::WriteOnly) << false << QStringLiteral("30010001");
-            command(plugin->getReceiveEventHandle(), MSG_CALL_SINGLE_USER, payload);
-        }
+    if (word != "none" && word != "window" && !load(loader, word, &data, &host)) {
+        return 1;
     }
     const qint64 microseconds = clock.nsecsElapsed() / 1000;
     QCoreApplication::processEvents();

@@ -7,6 +7,26 @@
 #include "calls/Person.h"
 #include "calls/SoundBox.h"
 
+/// Both of them, with telephones of one make.
+template <class Somebody>
+class TelephonePair
+{
+public:
+    bool arrive() { return m_caller.start() && m_called.start() && m_caller.signIn() && m_called.signIn(); }
+
+    /// Of the one who is called.
+    qint64 processId() { return m_called.processId(); }
+
+protected:
+    TelephonePair(const TestExchange &exchange, const char *caller, const char *called)
+        : m_caller(exchange, QLatin1String(caller)), m_called(exchange, QLatin1String(called))
+    {
+    }
+
+    Somebody m_caller;
+    Somebody m_called;
+};
+
 /// With the settings that hold by default, but for server and devices.
 class OurPerson
 {
@@ -32,18 +52,14 @@ private:
     Person m_person;
 };
 
-class OurPair
+class OurPair : public TelephonePair<OurPerson>
 {
 public:
     static constexpr const char *cCaller = "100";
     static constexpr const char *cCalled = "200";
 
-    explicit OurPair(const TestExchange &exchange)
-        : m_caller(exchange, QLatin1String(cCaller)), m_called(exchange, QLatin1String(cCalled))
-    {
-    }
+    explicit OurPair(const TestExchange &exchange) : TelephonePair(exchange, cCaller, cCalled) {}
 
-    bool arrive() { return m_caller.start() && m_called.start() && m_caller.signIn() && m_called.signIn(); }
     bool call()
     {
         m_caller.person().call(m_called.person());
@@ -59,11 +75,6 @@ public:
         m_caller.person().say("HangUpCall");
         return m_called.hears("8");
     }
-    qint64 processId() { return m_called.processId(); }
-
-private:
-    OurPerson m_caller;
-    OurPerson m_called;
 };
 
 class BaresipPerson : public Baresip
@@ -79,27 +90,18 @@ public:
     bool signIn() { return Baresip::signIn() && reports("REGISTER_OK"); }
 };
 
-class BaresipPair
+class BaresipPair : public TelephonePair<BaresipPerson>
 {
 public:
     static constexpr const char *cCaller = "300";
     static constexpr const char *cCalled = "400";
 
-    explicit BaresipPair(const TestExchange &exchange)
-        : m_caller(exchange, QLatin1String(cCaller)), m_called(exchange, QLatin1String(cCalled))
-    {
-    }
+    explicit BaresipPair(const TestExchange &exchange) : TelephonePair(exchange, cCaller, cCalled) {}
 
-    bool arrive() { return m_caller.start() && m_called.start() && m_caller.signIn() && m_called.signIn(); }
     bool call() { return m_caller.call(QLatin1String(cCalled)) && m_called.reports("CALL_INCOMING"); }
     bool answer()
     {
         return m_called.accept() && m_called.reports("CALL_ESTABLISHED") && m_caller.reports("CALL_ESTABLISHED");
     }
     bool hangUp() { return m_caller.hangUp() && m_called.reports("CALL_CLOSED") && m_caller.reports("CALL_CLOSED"); }
-    qint64 processId() { return m_called.processId(); }
-
-private:
-    BaresipPerson m_caller;
-    BaresipPerson m_called;
 };
