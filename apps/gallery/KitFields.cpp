@@ -2,9 +2,7 @@
 
 #include "Sheet.h"
 
-#include "common/pictures/IconFont.h"
 #include "common/pictures/IconGlyphs.h"
-#include "model/SkinContext.h"
 #include "robots/RobotIds.h"
 #include "widgets/LineEditEx.h"
 #include "widgets/MenuEx.h"
@@ -80,8 +78,7 @@ QString longText()
 
 QIcon menuIcon(ushort glyph)
 {
-    const QColor color(SkinContext::getSkinData()->m_strIconColor);
-    return QIcon(IconFont::getIconFontPixmap(IconGlyph::text(glyph), color, QSize(16, 16), 16));
+    return Sheet::glyphIcon(glyph, 16);
 }
 
 void fillIconMenu(CMenuEx &menu)

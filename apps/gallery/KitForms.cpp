@@ -3,9 +3,7 @@
 #include "Sheet.h"
 
 #include "common/Palette.h"
-#include "common/pictures/IconFont.h"
 #include "common/pictures/IconGlyphs.h"
-#include "model/SkinContext.h"
 #include "widgets/BaseFormEx.h"
 #include "widgets/CustomIconStyle.h"
 #include "widgets/ElidedLabel.h"
@@ -124,10 +122,8 @@ QWidget *styledList(int iSize)
     style->setParent(list);
     style->SetCustomSize(iSize);
     list->setStyle(style);
-    const QColor color(SkinContext::getSkinData()->m_strIconColor);
     for (const ushort glyph : {IconGlyph::Messages, IconGlyph::Contacts}) {
-        const QIcon icon(IconFont::getIconFontPixmap(IconGlyph::text(glyph), color, QSize(64, 64), 64));
-        list->addItem(new QListWidgetItem(icon, QStringLiteral("%1 px").arg(iSize)));
+        list->addItem(new QListWidgetItem(Sheet::glyphIcon(glyph, 64), QStringLiteral("%1 px").arg(iSize)));
     }
     return list;
 }

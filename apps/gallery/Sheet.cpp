@@ -1,6 +1,9 @@
 #include "Sheet.h"
 
 #include "common/Palette.h"
+#include "common/pictures/IconFont.h"
+#include "common/pictures/IconGlyphs.h"
+#include "model/SkinContext.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
@@ -104,6 +107,12 @@ QWidget *Sheet::picture(const QPixmap &pixmap)
     auto *label = new QLabel;
     label->setPixmap(pixmap);
     return label;
+}
+
+QIcon Sheet::glyphIcon(ushort glyph, int iSide)
+{
+    const QColor color(SkinContext::getSkinData()->m_strIconColor);
+    return QIcon(IconFont::getIconFontPixmap(IconGlyph::text(glyph), color, QSize(iSide, iSide), iSide));
 }
 
 QWidget *Sheet::hovered(QWidget *widget)

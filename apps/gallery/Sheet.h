@@ -3,6 +3,7 @@
 // A page of the gallery: sections one below the other, each with a heading and a grid of specimens under column titles.
 // GUI thread; Qt's ownership by parent applies.
 
+#include <QIcon>
 #include <QStringList>
 #include <QWidget>
 
@@ -29,6 +30,9 @@ public:
 
     /// A label that shows the picture.
     static QWidget *picture(const QPixmap &pixmap);
+
+    /// The glyph in the colour of the skin's icons, `iSide` pixels high and wide.
+    static QIcon glyphIcon(ushort glyph, int iSide);
 
     /// Lets the widget and all within it look as if the mouse stood over them. Returns the widget.
     static QWidget *hovered(QWidget *widget);
