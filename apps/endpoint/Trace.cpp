@@ -2,6 +2,8 @@
 
 #include "endpoint/Wire.h"
 
+#include <QFileInfo>
+
 #include <cstdio>
 #include <utility>
 
@@ -24,11 +26,13 @@ bool Trace::open(const QString &path, QString *error)
     }
     m_onStandardError = path == QLatin1String("-");
     // Appended and unbuffered: a predecessor's records stay, and a killed process leaves all of its own.
-    const QIODevice::OpenMode mode = QIODevice::Append | QIODevice::Unbuffered;
+    const QIODevice::OpenMode appended = QIODevice::Append | QIODevice::Unbuffered;
+    // A pipe or a device, which standard error may be too, has no end to append at.
+    const QIODevice::OpenMode streamed = QIODevice::WriteOnly | QIODevice::Unbuffered;
     m_file.setFileName(path);
-    // Standard error may be a pipe, which has no end to append at.
-    const bool open =
-        m_onStandardError ? m_file.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered) : m_file.open(mode);
+    const QFileInfo place(path);
+    const bool open = m_onStandardError ? m_file.open(stderr, streamed)
+                                        : m_file.open(place.exists() && !place.isFile() ? streamed : appended);
     if (!open) {
         *error = QStringLiteral("cannot write the trace %1: %2").arg(path, m_file.errorString());
     }

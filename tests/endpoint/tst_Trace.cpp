@@ -2,6 +2,10 @@
 
 #include <QtTest>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 class tst_Trace : public QObject
 {
     Q_OBJECT
@@ -24,6 +28,27 @@ private slots:
         QFETCH(QByteArray, bytes);
         QFETCH(QString, text);
         QCOMPARE(Trace::printable(bytes), text);
+    }
+
+    void pipeIsWrittenWithoutAWarning()
+    {
+        QCOMPARE(mkfifo("pipe.trace", 0600), 0);
+        const int reader = ::open("pipe.trace", O_RDONLY | O_NONBLOCK);
+        static int s_warnings;
+        s_warnings = 0;
+        const auto before = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext &, const QString &) { ++s_warnings; });
+        Trace trace;
+        QString error;
+        const bool open = trace.open(QStringLiteral("pipe.trace"), &error);
+        trace.event(QStringLiteral("listening"));
+        qInstallMessageHandler(before);
+        QByteArray written(100, '\0');
+        written.truncate(int(qMax<ssize_t>(0, ::read(reader, written.data(), size_t(written.size())))));
+        ::close(reader);
+        QVERIFY2(open, qPrintable(error));
+        QVERIFY(written.endsWith(" = listening\n"));
+        QCOMPARE(s_warnings, 0);
     }
 
     void veilCoversWhatCameInAlone()

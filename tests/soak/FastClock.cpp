@@ -15,10 +15,15 @@ constexpr std::int64_t cNanoPerMilli = 1000000;
 constexpr std::int64_t cNanoPerMicro = 1000;
 constexpr int cClocks = CLOCK_BOOTTIME + 1;
 
-// Time begins to run fast at these readings.
-std::array<std::int64_t, cClocks> s_from{};
-// Of this thread; 1 is real time.
-thread_local std::int64_t t_factor = 1;
+// Where a clock stood, by the system and for the thread, when the pace was set.
+struct Reading
+{
+    std::int64_t real = 0;
+    std::int64_t told = 0;
+};
+std::array<Reading, cClocks> s_from{};
+// Of this thread; 0 where it has set none, and keeps the real time.
+thread_local std::int64_t t_factor = 0;
 
 std::int64_t nanoOf(const timespec &time)
 {
@@ -40,29 +45,33 @@ std::int64_t realNano(clockid_t clock)
 bool isFast(clockid_t clock)
 {
     // Not the clocks that count the processor's time.
-    return t_factor != 1 && clock >= 0 && clock < cClocks && clock != CLOCK_PROCESS_CPUTIME_ID &&
+    return t_factor != 0 && clock >= 0 && clock < cClocks && clock != CLOCK_PROCESS_CPUTIME_ID &&
            clock != CLOCK_THREAD_CPUTIME_ID;
 }
 
 std::int64_t nano(clockid_t clock)
 {
     const std::int64_t real = realNano(clock);
-    const std::int64_t from = isFast(clock) ? s_from.at(std::size_t(clock)) : real;
-    return from + (real - from) * t_factor;
+    if (!isFast(clock)) {
+        return real;
+    }
+    const Reading &from = s_from.at(std::size_t(clock));
+    return from.told + (real - from.real) * t_factor;
 }
 
 int pollFor(pollfd *files, nfds_t count, std::int64_t nanoseconds, const sigset_t *mask)
 {
-    timespec rest = timeOf((nanoseconds + t_factor - 1) / t_factor);
+    const std::int64_t factor = t_factor == 0 ? 1 : t_factor;
+    timespec rest = timeOf((nanoseconds + factor - 1) / factor);
     return int(syscall(SYS_ppoll, files, count, nanoseconds < 0 ? nullptr : &rest, mask, _NSIG / 8));
 }
 
 } // namespace
 
-void FastClock::start(int factor)
+void FastClock::pace(int factor)
 {
     for (int clock = 0; clock < cClocks; ++clock) {
-        s_from.at(std::size_t(clock)) = realNano(clock);
+        s_from.at(std::size_t(clock)) = {realNano(clock), nano(clock)};
     }
     t_factor = factor;
 }

@@ -9,9 +9,9 @@
 
 namespace FastClock {
 
-/// From now on time runs `factor` times as fast for the calling thread. Once in a process, before the event loop is
-/// made; 1 changes nothing.
-void start(int factor);
+/// From now on time runs `factor` times as fast for the calling thread, from the moment that it has reached. The first
+/// time before the event loop is made; a thread that never says so keeps the real time.
+void pace(int factor);
 
 /// Milliseconds of real time since some point in the past, at any speed.
 std::int64_t realMs();

@@ -27,6 +27,10 @@ public:
 class SoakClient
 {
 public:
+    /// How much faster the day's clock runs where somebody has to answer in time, the call process above all: a minute
+    /// is three seconds then, which a busy machine still has.
+    static constexpr int workPace = 20;
+
     /// The call process's robots are to be `speed` times as fast.
     explicit SoakClient(int speed);
 
@@ -89,7 +93,7 @@ public:
     void killCallProcess();
     void startCallProcess();
 
-    /// Handles events for this long by the thread's own clock.
+    /// Handles events for this long by the thread's own clock, which runs faster meanwhile. For days alone.
     void pass(qint64 seconds);
 
     /// Comes to rest before a measurement: deferred deletions done, log written, caches that are bounded by a size of

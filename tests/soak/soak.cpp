@@ -18,8 +18,6 @@ namespace {
 
 // A robot answers within some ten milliseconds then, and lets it ring for three tenths of a second.
 constexpr int cFullSpeed = 100;
-// An hour takes eighteen seconds then, the limits of a minute three tenths of a second.
-constexpr int cDaySpeed = 200;
 constexpr int cWarmUpCalls = 100;
 constexpr int cWarmUpHours = 1;
 // What is held is shown after each of them.
@@ -204,7 +202,7 @@ void tellMoreObjects(const Footprint &early, const Footprint &late)
 
 bool run(const Plan &plan)
 {
-    SoakClient client(plan.hours > 0 ? cDaySpeed : cFullSpeed);
+    SoakClient client(plan.hours > 0 ? SoakClient::workPace : cFullSpeed);
     client.start();
     Course course;
     course.start = measure(client, QStringLiteral("at the start"));
@@ -237,7 +235,7 @@ int main(int argc, char **argv)
     // The day's work has the clock run fast from before the event loop is made; who asks for hours says so first.
     for (int i = 1; i < argc; ++i) {
         if (QByteArray(argv[i]).startsWith("--hours")) {
-            FastClock::start(cDaySpeed);
+            FastClock::pace(SoakClient::workPace);
         }
     }
     const QApplication app(argc, argv);

@@ -35,7 +35,8 @@ QList<WireLine> WireTrace::readNew()
 {
     QList<WireLine> lines;
     QFile file(m_strFile);
-    if (!file.open(QIODevice::ReadOnly)) {
+    // A pipe's or a device's records are for whoever reads there, and to open a pipe waits for its writer.
+    if (!QFileInfo(m_strFile).isFile() || !file.open(QIODevice::ReadOnly)) {
         return lines;
     }
     if (file.size() < m_iRead) {

@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QTest>
 
+#include <sys/stat.h>
+
 class tst_WireTrace : public QObject
 {
     Q_OBJECT
@@ -17,6 +19,12 @@ private slots:
         QVERIFY(trace.readNew().isEmpty());
         append("1 = late\n");
         QCOMPARE(trace.readNew().size(), 1);
+    }
+
+    void pipeIsLeftToItsReader()
+    {
+        QCOMPARE(mkfifo(qPrintable(m_strFile), 0600), 0);
+        QVERIFY(WireTrace(m_strFile).readNew().isEmpty());
     }
 
     void directionsAreTold()
