@@ -36,8 +36,8 @@ private slots:
         const int reader = ::open("pipe.trace", O_RDONLY | O_NONBLOCK);
         static int s_warnings;
         s_warnings = 0;
-        const auto before = qInstallMessageHandler(
-            [](QtMsgType, const QMessageLogContext &, const QString &) { ++s_warnings; });
+        const auto before =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) { ++s_warnings; });
         Trace trace;
         QString error;
         const bool open = trace.open(QStringLiteral("pipe.trace"), &error);
