@@ -21,7 +21,7 @@ constexpr int cUnansweredSeconds = 150;
 // Where sound comes unevenly the library waits longer by itself; where it does not, its own 60 ms are heard as a pause.
 constexpr int cJitterMs = 10;
 // Of Opus, 0 to 10: the library's own 9 takes twice as long, and no tone comes out otherwise.
-constexpr const char *cOpusEffort = "3";
+constexpr const char *cOpusEffort = "1";
 constexpr int cNoListener = -2; // the library's word for a transport that only dials out
 
 constexpr std::array<const char *, 3> cSystemCertificates{"/etc/ssl/certs/ca-certificates.crt",
