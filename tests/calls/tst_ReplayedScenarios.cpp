@@ -66,7 +66,7 @@ private slots:
                        scenario(called), QStringLiteral("--"), QStringLiteral(VOIPSDK_PROGRAM),
                        QStringLiteral("--settings"), QFileInfo(user.settingsFile()).absoluteFilePath()});
         checker.write(TestExchange::secretOf(cUser).toUtf8() + '\n');
-        checker.closeWriteChannel();
+        QVERIFY(checker.waitForBytesWritten(cPatienceMs));
         const bool done = deed(other);
         QTRY_COMPARE_WITH_TIMEOUT(checker.state(), QProcess::NotRunning, 2 * cPatienceMs);
         const QByteArray said = checker.readAll();
