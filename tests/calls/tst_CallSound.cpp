@@ -337,6 +337,7 @@ private:
         secrets.close();
         settings.close();
         const QString trace = QDir::current().absoluteFilePath(QStringLiteral("echo.trace"));
+        QFile::remove(trace);
         return before() &&
                echo.begin(QStringLiteral(VOIPSDK_PROGRAM),
                           {QStringLiteral("--settings"), settings.fileName(), QStringLiteral("--echo"),
