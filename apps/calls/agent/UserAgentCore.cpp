@@ -414,11 +414,9 @@ void UserAgent::Core::onCallLogUpdated(const std::shared_ptr<linphone::Core> & /
             return;
         }
         if (status != SipStatus::cBusy) {
-            const QString why = status == SipStatus::cNothingInCommon ? QStringLiteral("no common encryption or codec")
-                                                                      : farText(error->getPhrase(), cRemarkLimit);
-            emit m_agent.remarked(QStringLiteral("refused a call from %1: %2 (%3)")
-                                      .arg(farText(log->getFromAddress()->getUsername(), cUserIdLimit), why)
-                                      .arg(status));
+            emit m_agent.remarked(QStringLiteral("refused a call from %1: %2")
+                                      .arg(farText(log->getFromAddress()->getUsername(), cUserIdLimit),
+                                           whyRefused(status, error->getPhrase())));
         } else if (isBeingPlacedTo(*log->getFromAddress())) {
             // Each has called the other: the library has told that one that the line is busy, and where both hear the
             // same in turn one call would be left to ring.
