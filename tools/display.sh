@@ -5,6 +5,8 @@
 #                                         unless it is bare; exports DISPLAY
 #   start_sound                    sound server with a null sink and a null source; exports PULSE_SERVER
 #   stop_all                       ends what was started, by process id, and removes the folder
+#   end_detached SIGNAL PROGRAMS TEMPORARY   ends what the programs of a folder have started detached, which is known by the
+#                                            program's folder and by its temporary folder or one below it
 
 voip_pids=()
 voip_box=
@@ -77,6 +79,16 @@ start_sound() {
         return 1
     fi
     export PULSE_SERVER=unix:$voip_box/pulse
+}
+
+end_detached() {
+    local exe
+    for exe in /proc/[0-9]*/exe; do
+        [[ $(readlink "$exe" 2>/dev/null) == "$2/"* ]] || continue
+        grep -qz "^TMPDIR=$3" "${exe%exe}environ" 2>/dev/null || continue
+        exe=${exe#/proc/}
+        kill -s "$1" "${exe%/exe}" 2>/dev/null
+    done
 }
 
 stop_all() {

@@ -28,12 +28,14 @@ constexpr OptionRow cTrace        {"trace",        "FILE",    "",             "a
 constexpr OptionRow cPatience     {"patience",     "SECONDS", "10",           "replay: how much later than recorded an answer may come"};
 constexpr OptionRow cUser         {"user",         "ID",      Robots::cOwnUser, "replay: user id, where the scenario names none"};
 constexpr OptionRow cNickName    {"nick",         "NAME",    "callcheck",    "replay: nick name, where the scenario names none"};
-constexpr OptionRow cRegistration {"registration", "VALUE",   "registration", "replay: registration value, where the scenario names none"};
+constexpr OptionRow cRegistration {"registration", "VALUE",   "registration", "replay: registration value, where the scenario names none; others see it in the list of processes"};
+constexpr OptionRow cRegistrationFile {"registration-file", "FILE", "",       "replay: a file with a secret one, \"-\" for standard input"};
 // clang-format on
 
 void addOptions(QCommandLineParser &parser)
 {
-    for (const OptionRow &row : {cOut, cSocketName, cAttach, cTrace, cPatience, cUser, cNickName, cRegistration}) {
+    for (const OptionRow &row :
+         {cOut, cSocketName, cAttach, cTrace, cPatience, cUser, cNickName, cRegistration, cRegistrationFile}) {
         parser.addOption({QString::fromLatin1(row.option), QString::fromLatin1(row.text),
                           QString::fromLatin1(row.value), QString::fromLatin1(row.byDefault)});
     }
@@ -75,6 +77,7 @@ void takeValues(const QCommandLineParser &parser, CheckOptions &options)
     options.userId = valueOf(parser, cUser);
     options.nickName = valueOf(parser, cNickName);
     options.registration = valueOf(parser, cRegistration);
+    options.registrationFile = valueOf(parser, cRegistrationFile);
     bool number = false;
     const double patience = valueOf(parser, cPatience).toDouble(&number);
     options.patience = number ? patience : 0.0;
@@ -121,7 +124,9 @@ bool CheckOptions::read(const QStringList &commandLine, QString *error)
     if (!takeWords(words, *this, error)) {
         return false;
     }
-    *error = faultOf(*this);
+    *error = parser.isSet(QLatin1String(cRegistration.option)) && !registrationFile.isEmpty()
+                 ? QStringLiteral("either --registration or --registration-file")
+                 : faultOf(*this);
     return error->isEmpty();
 }
 

@@ -26,18 +26,19 @@ struct CheckOptions
     };
 
     Mode mode = Mode::Help;
-    bool inPlace = false;  ///< recording in the place of the call process, told by the environment
-    QString output;        ///< recording: the scenario's path
-    QString scenario;      ///< replay: the scenario's path
-    QString trace;         ///< path, "-" for standard error; empty: none
-    QString attachTo;      ///< name or path of a running call process's socket; empty: `program` is started
-    QString program;       ///< the call process; empty when there is one to attach to
-    QStringList arguments; ///< its arguments
-    double patience = 0.0; ///< replay: seconds that an answer may come later than it was recorded
-    QString userId;        ///< replay: who signs in where the scenario does not say
-    QString nickName;      ///< the same
-    QString registration;  ///< the same: the registration value
-    QString socketName;    ///< recording: where the plug-in connects; never empty
+    bool inPlace = false;     ///< recording in the place of the call process, told by the environment
+    QString output;           ///< recording: the scenario's path
+    QString scenario;         ///< replay: the scenario's path
+    QString trace;            ///< path, "-" for standard error; empty: none
+    QString attachTo;         ///< name or path of a running call process's socket; empty: `program` is started
+    QString program;          ///< the call process; empty when there is one to attach to
+    QStringList arguments;    ///< its arguments
+    double patience = 0.0;    ///< replay: seconds that an answer may come later than it was recorded
+    QString userId;           ///< replay: who signs in where the scenario does not say
+    QString nickName;         ///< the same
+    QString registration;     ///< the same: the registration value
+    QString registrationFile; ///< path of a file that has it instead, "-" for standard input; empty: none
+    QString socketName;       ///< recording: where the plug-in connects; never empty
 
     /// Reads the command line, the program's name first, and the environment; only then the fields hold the defaults of
     /// the options that were not given. False with `error` set.

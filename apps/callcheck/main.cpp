@@ -7,6 +7,7 @@
 #include "callcheck/Subject.h"
 #include "callprocess/Scenario.h"
 #include "endpoint/Channel.h"
+#include "endpoint/ProcessFrame.h"
 #include "endpoint/SocketClaim.h"
 #include "endpoint/Streams.h"
 #include "endpoint/Trace.h"
@@ -24,10 +25,31 @@
 
 namespace {
 
+constexpr qint64 cRegistrationLimit = 65536;
+
 int complain(CheckExit exitCode, const QString &text)
 {
-    std::fprintf(stderr, "kelvarim-callcheck: %s\n", qPrintable(text));
-    return static_cast<int>(exitCode);
+    return complain(static_cast<int>(exitCode), "kelvarim-callcheck", text);
+}
+
+/// Takes the registration value from the file that is named, its first line. False with `error` set when there is none.
+bool readRegistration(CheckOptions &options, QString *error)
+{
+    if (options.registrationFile.isEmpty()) {
+        return true;
+    }
+    QFile file(options.registrationFile);
+    const bool open = options.registrationFile == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
+                                                                     : file.open(QIODevice::ReadOnly);
+    const QByteArray line = open ? file.readLine(cRegistrationLimit).trimmed() : QByteArray();
+    if (line.isEmpty()) {
+        *error =
+            QStringLiteral("no registration value in %1: %2")
+                .arg(options.registrationFile, open ? QStringLiteral("its first line is empty") : file.errorString());
+        return false;
+    }
+    options.registration = QString::fromUtf8(line);
+    return true;
 }
 
 bool makeSubject(const CheckOptions &options, Subject &subject, QString *error)
@@ -132,7 +154,7 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     CheckOptions options;
     QString error;
-    if (!options.read(QCoreApplication::arguments(), &error)) {
+    if (!options.read(QCoreApplication::arguments(), &error) || !readRegistration(options, &error)) {
         return complain(CheckExit::BadInput, error);
     }
     if (options.mode == CheckOptions::Mode::Help) {

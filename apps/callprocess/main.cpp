@@ -12,13 +12,10 @@
 #include "endpoint/Trace.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
 #include <QTimer>
 
 #include <csignal>
 #include <cstdio>
-#include <sys/prctl.h>
 #include <sys/stat.h>
 
 namespace {
@@ -58,9 +55,7 @@ int serve(const Options &options, std::optional<Scenario> scenario, Channel &cha
 int main(int argc, char *argv[])
 {
     std::signal(SIGPIPE, SIG_IGN);
-    // The front has put this program in its place and handed its name on: who looks for the call process looks for
-    // that.
-    ::prctl(PR_SET_NAME, qPrintable(QFileInfo(QFile::decodeName(argv[0])).fileName()));
+    takeNameFrom(argv[0]);
     // The trace holds what clients sign in with.
     ::umask(S_IRWXG | S_IRWXO);
     const QCoreApplication application(argc, argv);

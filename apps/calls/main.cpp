@@ -17,20 +17,20 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <csignal>
 #include <cstdio>
 #include <memory>
-#include <sys/prctl.h>
 #include <sys/signalfd.h>
 #include <sys/stat.h>
 
 namespace {
 
 constexpr const char *cProgram = "kelvarim-calls";
+constexpr int cFirstPauseMs = 1000;
+constexpr int cLongestPauseMs = 60000;
 
 bool readSettings(const CallsOptions &options, CallsSettings *settings, QString *error)
 {
@@ -120,6 +120,22 @@ std::unique_ptr<EmbeddedExchange> exchangeOf(const CallsSettings &settings)
         QCoreApplication::applicationDirPath() + QLatin1String("/kelvarim-exchange"));
 }
 
+/// Starts the agent. Where it cannot be, the desk is told, and it is tried again with growing pauses: what is missing
+/// may come, and the client starts no other call process while this one lives.
+void startAgent(UserAgent &agent, Desk &desk, Trace &trace, int pauseMs = cFirstPauseMs)
+{
+    QString error;
+    if (agent.start(&error)) {
+        desk.takeAgent();
+        return;
+    }
+    trace.complaint(error);
+    desk.lackAgent(error);
+    QTimer::singleShot(pauseMs, &desk, [&agent, &desk, &trace, pauseMs] {
+        startAgent(agent, desk, trace, qMin(2 * pauseMs, cLongestPauseMs));
+    });
+}
+
 int serve(const CallsSettings &settings, Channel &channel, Trace &trace)
 {
     const auto exchange = exchangeOf(settings);
@@ -127,10 +143,11 @@ int serve(const CallsSettings &settings, Channel &channel, Trace &trace)
     const ProcessFolder folder;
     UserAgent agent(settings, access, folder.path());
     Desk desk(channel, trace, agent, access);
-    QString error;
-    if (!folder.isValid() || !agent.start(&error)) {
-        trace.complaint(folder.isValid() ? error : folder.fault());
-        return cExitCannotListen;
+    if (folder.isValid()) {
+        startAgent(agent, desk, trace);
+    } else {
+        trace.complaint(folder.fault());
+        desk.lackAgent(folder.fault());
     }
     QObject::connect(&channel, &Channel::lineReceived, &desk, [&](const QByteArray &line) {
         if (line == Wire::cQuitLine) {
@@ -158,10 +175,17 @@ int echo(const QString &userId, CallsSettings settings, Trace &trace)
     settings.wavOut.clear();
     const auto exchange = exchangeOf(settings);
     ExchangeAccess access = accessOf(settings);
-    QString fault;
-    if (!settings.servers.empty() && access.credentials(userId, QString(), &fault).password.isEmpty()) {
-        // No client brings one: account/secret has to be file.
-        return complain(cExitBadInput, cProgram, QStringLiteral("the echo cannot sign in: %1").arg(fault));
+    if (!settings.servers.empty()) {
+        // No client brings one: account/secret has to be file, which is read this once.
+        QString fault;
+        const Credentials own = access.credentials(userId, QString(), &fault);
+        if (!fault.isEmpty()) {
+            return complain(cExitBadInput, cProgram, QStringLiteral("the echo cannot sign in: %1").arg(fault));
+        }
+        access.credentials = [own](const QString & /*userId*/, const QString & /*value*/, QString *none) {
+            none->clear();
+            return own;
+        };
     }
     const ProcessFolder folder;
     if (!folder.isValid()) {
@@ -188,9 +212,7 @@ int echo(const QString &userId, CallsSettings settings, Trace &trace)
 int main(int argc, char *argv[])
 {
     std::signal(SIGPIPE, SIG_IGN);
-    // The front has put this program in its place and handed its name on: who looks for the call process looks for
-    // that.
-    ::prctl(PR_SET_NAME, qPrintable(QFileInfo(QFile::decodeName(argv[0])).fileName()));
+    takeNameFrom(argv[0]);
     const sigset_t stopSignals = blockStopSignals();
     ::umask(S_IRWXG | S_IRWXO);
     const QCoreApplication application(argc, argv);

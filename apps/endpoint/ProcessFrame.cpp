@@ -4,9 +4,17 @@
 #include "endpoint/Trace.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
 #include <QTimer>
 
 #include <cstdio>
+#include <sys/prctl.h>
+
+void takeNameFrom(const char *firstArgument)
+{
+    ::prctl(PR_SET_NAME, qPrintable(QFileInfo(QFile::decodeName(firstArgument)).fileName()));
+}
 
 int complain(int exitCode, const char *program, const QString &text)
 {

@@ -13,6 +13,10 @@ class Trace;
 inline constexpr int cExitCannotListen = 1;
 inline constexpr int cExitBadInput = 2;
 
+/// Has the system call this process by the file name in the first argument: the front has put the program in its place
+/// and handed its own name on, and who looks for the call process looks for that.
+void takeNameFrom(const char *firstArgument);
+
 /// Says the text on standard error, behind the program's name, and gives the code back.
 int complain(int exitCode, const char *program, const QString &text);
 

@@ -81,6 +81,8 @@ private slots:
         QTest::newRow("two peers") << QStringList{"replay", "--attach", "x", "a", "peer"};
         QTest::newRow("no patience") << QStringList{"replay", "--patience", "0", "a", "peer"};
         QTest::newRow("patience in words") << QStringList{"replay", "--patience", "long", "a", "peer"};
+        QTest::newRow("two registration values")
+            << QStringList{"replay", "--registration", "a", "--registration-file", "b", "a", "peer"};
         QTest::newRow("no socket name") << QStringList{"record", "--socket-name", "", "--out", "a", "peer"};
     }
 

@@ -103,6 +103,35 @@ private slots:
         QCOMPARE(outcome.exitCode, 0);
     }
 
+    void secretRegistrationComesFromAFile_data()
+    {
+        QTest::addColumn<QByteArray>("text"); // of the file; null: there is none
+        QTest::addColumn<QString>("told");
+        QTest::newRow("whole") << QByteArray("open sesame\nmore\n") << QString();
+        QTest::newRow("without a line's end") << QByteArray("open sesame") << QString();
+        QTest::newRow("another") << QByteArray("open barley\n") << QString("expected 17 (SdkFlag) true");
+        QTest::newRow("empty") << QByteArray("\nopen sesame\n")
+                               << QString("no registration value in %1: its first line is empty");
+        QTest::newRow("none") << QByteArray() << QString("no registration value in %1: No such file or directory");
+    }
+
+    void secretRegistrationComesFromAFile()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, told);
+        const QString played = QDir::current().filePath("opens.scn");
+        QVERIFY(writeFile(played, "expect RegeditUser param3=\"open sesame\"\nsend 17 true\nexpect quit\n"));
+        const QString secret = QDir::current().filePath("registration");
+        QFile::remove(secret);
+        QVERIFY(text.isNull() || writeFile(secret, text));
+        const QString scenario = scenarioFile("expect RegeditUser\nsend 17 true\nexpect quit\n");
+        const Outcome outcome = check(QStringList{"replay", "--patience", QString::number(cImpatient),
+                                                  "--registration-file", secret, scenario, "--"} +
+                                      standIn({"--scenario", played}));
+        QCOMPARE(outcome.exitCode == 0, told.isEmpty());
+        QVERIFY2(outcome.said.contains(told.replace("%1", secret)), qPrintable(outcome.said));
+    }
+
     void whatIsNotAsRecordedIsTold_data()
     {
         QTest::addColumn<QByteArray>("instead");

@@ -52,9 +52,10 @@ bool Desktop::start()
     m_client->setStandardOutputFile(file("said"));
     m_client->setWorkingDirectory(m_folder);
     m_client->setProcessEnvironment(environment);
-    if (!m_client->beginOn(m_machine.enter, QStringLiteral(CALLS_DESKTOP), {id(), TestExchange::secretOf(id())})) {
+    if (!m_client->beginOn(m_machine.enter, QStringLiteral(CALLS_DESKTOP), {id()})) {
         return false;
     }
+    tell(TestExchange::secretOf(id()));
     tell(QStringLiteral("online"));
     return QTest::qWaitFor([this] { return isRegistered(); }, cPatienceMs);
 }

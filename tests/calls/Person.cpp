@@ -99,10 +99,13 @@ QString Person::hears()
 
 QString Person::hasHeard()
 {
-    QString notification;
-    while (m_peer.isNotified() && isRemark(notification = m_peer.nextNotification())) {
+    while (m_peer.isNotified()) {
+        QString notification = m_peer.nextNotification();
+        if (!isRemark(notification)) {
+            return notification;
+        }
     }
-    return isRemark(notification) ? QString() : notification;
+    return {};
 }
 
 bool Person::isRemark(const QString &notification)

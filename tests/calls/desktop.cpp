@@ -1,9 +1,9 @@
 // Somebody's client as a process of its own: it loads the built module, does what it is told on standard input and says
 // on standard output what came of it, a line each. It quits when its standard input ends.
 //
-//   desktop USER REGISTRATION
+//   desktop USER
 //
-// told     "online", "call USER", "accept", "hang up"
+// told     the registration value first; then "online", "call USER", "accept", "hang up"
 // says     "rings USER", "finished USER RESULT connected", "finished USER RESULT", and "shows TEXT" for the status
 //          in the open call window
 
@@ -53,6 +53,17 @@ void obey(FlowClient &client, const QString &order)
     }
 }
 
+/// The first line of standard input; what is behind it stays there.
+QString firstLine()
+{
+    QByteArray line;
+    char byte = 0;
+    while (::read(STDIN_FILENO, &byte, 1) == 1 && byte != '\n') {
+        line.append(byte);
+    }
+    return QString::fromUtf8(line);
+}
+
 /// Obeys all whole lines of what was read, and keeps the rest.
 void obeyAll(FlowClient &client, QByteArray *pRead)
 {
@@ -69,8 +80,7 @@ int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    const QStringList arguments = QApplication::arguments();
-    FlowClient client("1", arguments.value(1), arguments.value(2));
+    FlowClient client("1", QApplication::arguments().value(1), firstLine());
     client.host.whileHandled = [&client](BaseEvent & /*event*/) { sayWhatCame(client.host.events.constLast()); };
     if (!client.load()) {
         return EXIT_FAILURE;

@@ -7,6 +7,9 @@
 
 #include <QProcess>
 
+#include <functional>
+#include <sys/inotify.h>
+
 class tst_CallSound : public CallsTest
 {
     Q_OBJECT
@@ -215,20 +218,26 @@ private slots:
     {
         QTest::addColumn<QString>("id");
         QTest::addColumn<QString>("word");
-        QTest::newRow("busy") << QStringLiteral("100") << QStringLiteral("22");
-        QTest::newRow("nobody") << QStringLiteral("nobody") << QStringLiteral("23");
-        QTest::newRow("not registered") << QStringLiteral("200") << QStringLiteral("19");
+        QTest::addColumn<QString>("remark");
+        QTest::newRow("busy") << QStringLiteral("100") << QStringLiteral("22") << QStringLiteral("486 ");
+        QTest::newRow("nobody") << QStringLiteral("nobody") << QStringLiteral("23") << QStringLiteral("404 Not found");
+        QTest::newRow("nobody's id") << QStringLiteral("1\u202E00") << QStringLiteral("23")
+                                     << QStringLiteral("404 nobody has such an id");
+        QTest::newRow("not registered") << QStringLiteral("200") << QStringLiteral("19")
+                                        << QStringLiteral("the caller is not registered");
     }
 
     void callerHearsHowItEnded()
     {
         QFETCH(QString, id);
         QFETCH(QString, word);
+        QFETCH(QString, remark);
         if (word == QLatin1String("19")) {
             m_caller->say("UnReg", {m_caller->id()});
         }
         m_caller->say("CallUser", {id, false});
         QCOMPARE(m_caller->hears(), word);
+        QVERIFY(m_caller->peer().waitTrace(QStringLiteral("the call ended: ") + remark));
         QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_caller->id(), cToneHz, 0.1) > cLoud, cPatienceMs);
         QTRY_VERIFY_WITH_TIMEOUT(m_sound.heard(m_caller->id(), cToneHz, 1) < cSilence, cPatienceMs);
     }
@@ -272,6 +281,16 @@ private slots:
         }
     }
 
+    void secretOfTheEchoIsReadOnce()
+    {
+        const int watch = ::inotify_init1(IN_CLOEXEC | IN_NONBLOCK);
+        QFile looks;
+        QVERIFY(looks.open(watch, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle));
+        ChildProgram echo;
+        QVERIFY(startEcho(echo, [&] { return ::inotify_add_watch(watch, "secrets", IN_OPEN) >= 0; }));
+        QCOMPARE(looks.read(10 * sizeof(inotify_event)).size(), int(sizeof(inotify_event)));
+    }
+
     void echoWithoutAPasswordSaysSoAndGoes()
     {
         QFile settings(QStringLiteral("mute.ini"));
@@ -298,8 +317,9 @@ private:
         return toneLevel(file.readAll(), hertz, rate);
     }
 
-    /// The process that answers every call as "echo". Whether it has begun.
-    bool startEcho(ChildProgram &echo) const
+    /// The process that answers every call as "echo"; its files are written `before`. Whether it has begun.
+    bool startEcho(
+        ChildProgram &echo, const std::function<bool()> &before = [] { return true; }) const
     {
         QFile secrets(QStringLiteral("secrets"));
         QFile settings(QStringLiteral("echo.ini"));
@@ -317,7 +337,9 @@ private:
         secrets.close();
         settings.close();
         const QString trace = QDir::current().absoluteFilePath(QStringLiteral("echo.trace"));
-        return echo.begin(QStringLiteral(VOIPSDK_PROGRAM),
+        QFile::remove(trace);
+        return before() &&
+               echo.begin(QStringLiteral(VOIPSDK_PROGRAM),
                           {QStringLiteral("--settings"), settings.fileName(), QStringLiteral("--echo"),
                            QStringLiteral("echo"), QStringLiteral("--trace"), trace}) &&
                QTest::qWaitFor(

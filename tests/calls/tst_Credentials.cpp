@@ -3,6 +3,9 @@
 #include <QFile>
 #include <QtTest>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 class tst_Credentials : public QObject
 {
     Q_OBJECT
@@ -65,6 +68,25 @@ private slots:
         QVERIFY(fault.contains(QStringLiteral("open to other users")));
         fileCredentials(cUser, QStringLiteral("absent"), &fault);
         QVERIFY(fault.startsWith(QStringLiteral("cannot read")));
+    }
+
+    void whatIsNoFileOfOnesOwnIsNotRead()
+    {
+        QString fault;
+        // Nobody ever writes into this pipe.
+        QCOMPARE(::mkfifo("pipe", S_IRUSR | S_IWUSR), 0);
+        QCOMPARE(fileCredentials(cUser, QStringLiteral("pipe"), &fault).password, QString());
+        QCOMPARE(fault, QStringLiteral("pipe is no file"));
+        QString foreign = QStringLiteral("/etc/passwd");
+        if (::geteuid() == 0) {
+            QFile file(QStringLiteral("foreign"));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write("100:secret\n") > 0);
+            QCOMPARE(::fchown(file.handle(), 65534, 65534), 0);
+            QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+            foreign = file.fileName();
+        }
+        QCOMPARE(fileCredentials(cUser, foreign, &fault).password, QString());
+        QCOMPARE(fault, foreign + QStringLiteral(" is another user's"));
     }
 
 private:

@@ -6,6 +6,7 @@
 
 #include "fakes/Patience.h"
 
+#include <QLocalServer>
 #include <QTcpServer>
 #include <QtTest>
 
@@ -219,12 +220,17 @@ private slots:
     void saysWhatKamailioSaid()
     {
         const QString program = folder() + "-broken";
-        QVERIFY(write(program, "#!/bin/sh\necho ' 0(1) ERROR: the reason' >&2\nexit 1\n", 0700));
+        // Another number each time, as that of its process is.
+        QVERIFY(write(program, "#!/bin/sh\necho \" 0($$) ERROR: the reason\" >&2\nexit 1\n", 0700));
         const auto exchange = this->exchange(program);
         QSignalSpy failed(exchange.get(), &EmbeddedExchange::failed);
         exchange->join();
         QTRY_COMPARE_WITH_TIMEOUT(failed.size(), 1, cPatienceMs);
-        QCOMPARE(failed.at(0).at(0).toString(), QString(" 0(1) ERROR: the reason"));
+        QCOMPARE(failed.at(0).at(0).toString(), QString("ERROR: the reason"));
+        // It has been tried once more by then, for the same reason.
+        QTRY_VERIFY_WITH_TIMEOUT(bytesOf(file("exchange.log")).count("the reason") > 3, cPatienceMs);
+        QTest::qWait(100);
+        QCOMPARE(failed.size(), 1);
     }
 
     void saysThatItsKeeperIsMissing()
@@ -234,6 +240,76 @@ private slots:
         exchange.join();
         QTRY_COMPARE_WITH_TIMEOUT(failed.size(), 1, cPatienceMs);
         QCOMPARE(failed.at(0).at(0).toString(), QString("/nowhere/kelvarim-exchange cannot be started"));
+    }
+
+    void keeperThatCannotLiveIsStartedWithGrowingPausesAndToldOnce()
+    {
+        QVERIFY(QDir().mkdir(folder()));
+        QCOMPARE(::chmod(qPrintable(folder()), 0700), 0);
+        const QString starts = folder() + "-starts";
+        const QString keeper = folder() + "-keeper";
+        QVERIFY(write(keeper, "#!/bin/sh\necho >>" + starts.toUtf8() + "\n", 0700));
+        const auto started = [&] { return bytesOf(starts).size(); };
+        // Its socket is this test's, which lets each one in and goes.
+        int seen = 0;
+        std::unique_ptr<QLocalServer> socket;
+        QTimer look;
+        connect(&look, &QTimer::timeout, this, [&] {
+            if (started() > seen) {
+                seen = started();
+                socket = std::make_unique<QLocalServer>();
+                QVERIFY(socket->listen(file("keeper")));
+            } else if (socket && socket->hasPendingConnections()) {
+                socket.reset();
+            }
+        });
+        look.start(1);
+        EmbeddedExchange exchange(folder(), {}, keeper);
+        QSignalSpy failed(&exchange, &EmbeddedExchange::failed);
+        QElapsedTimer clock;
+        clock.start();
+        exchange.join();
+        // The second comes at once, those behind it after 250, 500, 1000 and 2000 ms.
+        QTRY_COMPARE_WITH_TIMEOUT(started(), 6, cPatienceMs);
+        QVERIFY2(clock.elapsed() >= 3750, qPrintable(QString::number(clock.elapsed())));
+        QCOMPARE(failed.size(), 1);
+        QCOMPARE(failed.at(0).at(0).toString(), keeper + " does not keep the exchange in " + folder());
+    }
+
+    void keeperThatCannotKeepSaysWhyInItsLog_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("lock") << QByteArray("lock");
+        QTest::newRow("socket") << QByteArray("keeper");
+    }
+
+    void keeperThatCannotKeepSaysWhyInItsLog()
+    {
+        QFETCH(QByteArray, name);
+        QVERIFY(QDir().mkpath(file(name) + "/inside"));
+        QCOMPARE(::chmod(qPrintable(folder()), 0700), 0);
+        QProcess keeper;
+        keeper.start(VOIP_KEEPER, {"--folder", folder()});
+        QVERIFY(keeper.waitForFinished(cPatienceMs));
+        QCOMPARE(keeper.exitCode(), 1);
+        const QString told = file(name) + ": Is a directory\n";
+        QCOMPARE(QString::fromUtf8(keeper.readAllStandardError()), "kelvarim-exchange: " + told);
+        QCOMPARE(QString::fromUtf8(bytesOf(file("exchange.log"))), told);
+    }
+
+    void whoLooksAtTheConfigurationIsNoRestOfAnExchange()
+    {
+        QVERIFY(QDir().mkdir(folder()));
+        QVERIFY(write(file("kamailio.cfg"), "of a keeper that was killed\n"));
+        QProcess reader;
+        reader.start("/usr/bin/tail", {"-f", file("kamailio.cfg")});
+        QVERIFY(reader.waitForStarted(cPatienceMs));
+        const bool came = joined() != nullptr;
+        const QProcess::ProcessState state = reader.state();
+        reader.kill();
+        QVERIFY(reader.waitForFinished(cPatienceMs));
+        QVERIFY(came);
+        QCOMPARE(state, QProcess::Running);
     }
 
     void noSecretIsSeenFromOutside()
@@ -310,6 +386,14 @@ private slots:
             for (const QString &each : all) {
                 QVERIFY2(linkOf(descriptors.filePath(each)) != own,
                          "a connection of the starter's is open in the exchange");
+            }
+        }
+        for (const qint64 pid : servers()) {
+            const QDir descriptors(QString("/proc/%1/fd").arg(pid));
+            for (const QString &each : descriptors.entryList(QDir::Files | QDir::System)) {
+                const QByteArray target = linkOf(descriptors.filePath(each));
+                QVERIFY2(!target.startsWith(QFile::encodeName(folder()) + '/'),
+                         "Kamailio holds what is the keeper's: " + target);
             }
         }
         ::close(copy);

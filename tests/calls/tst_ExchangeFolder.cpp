@@ -142,6 +142,22 @@ private slots:
         QCOMPARE(failed.at(0).at(0).toString(), QString("the exchange has no folder, %1: %2").arg(set, reason));
     }
 
+    void theLongestPathThatIsTakenHasRoomForTheSocket()
+    {
+        QString set = folder() + QString(100, 'x');
+        QString error;
+        while (ExchangeFolder::take(set, &error).isEmpty()) {
+            QVERIFY2(error.endsWith(": its path is too long") && set.size() > folder().size(), qPrintable(error));
+            set.chop(1);
+        }
+        {
+            EmbeddedExchange exchange(set, {}, VOIP_KEEPER);
+            exchange.join();
+            QVERIFY(QTest::qWaitFor([&] { return exchange.isReady(); }, cPatienceMs));
+        }
+        QVERIFY(isAllGoneOf(set));
+    }
+
     void itStandsInTheRunTimeFolder()
     {
         QVERIFY(QDir().mkdir(folder()));
@@ -180,7 +196,9 @@ private slots:
         log.write(" 0(9) CRITICAL: the la");
         QVERIFY(log.lastError().isEmpty());
         log.write("st\nmore\n");
-        QCOMPARE(log.lastError(), QByteArray(" 0(9) CRITICAL: the last"));
+        QCOMPARE(log.lastError(), QByteArray("CRITICAL: the last"));
+        log.forgetError();
+        QCOMPARE(log.lastError(), QByteArray());
     }
 
     void aFullLogBeginsAnewAndKeepsTheOneBefore()

@@ -7,6 +7,16 @@ class tst_FarText : public QObject
     Q_OBJECT
 
 private slots:
+    void refusalIsToldInWords()
+    {
+        QCOMPARE(whyRefused(488, "Not Acceptable Here"), QStringLiteral("no common encryption or codec (488)"));
+        QCOMPARE(whyRefused(415, "Unsupported\r\nMedia"), QStringLiteral("Unsupported  Media (415)"));
+        QCOMPARE(whyRefused(503, ""), QStringLiteral(" (503)"));
+        QCOMPARE(whyRefused(500, std::string(1000, 'x')).size(), cRemarkLimit + int(qstrlen(" (500)")));
+        // What stands for a place in the text is text too.
+        QCOMPARE(whyRefused(500, "%1 %2 %3"), QStringLiteral("%1 %2 %3 (500)"));
+    }
+
     void textIsBoundedAndOnOneLine()
     {
         QCOMPARE(farText("a\r\nb\tc\x01", 10), QStringLiteral("a  b c "));

@@ -1,5 +1,6 @@
 // Whoever takes part in a call dies at each of its steps: what the others tell their clients, and that nothing is left
-// over. Two fronts at the exchange that the first of them has started.
+// over. Two fronts for each step, at the exchange that the first of all has started; the callers of all steps are
+// killed in one go, and so are the exchange and the called ones.
 
 #include "calls/ExchangeTest.h"
 #include "calls/Person.h"
@@ -73,56 +74,104 @@ private slots:
     void initTestCase()
     {
         begin();
-        QVERIFY(m_sound.start({cCaller, cCalled}));
+        QStringList people;
+        for (size_t i = 0; i < cSteps; ++i) {
+            m_pairs.at(i).step = Step(i);
+            people << m_pairs.at(i).callersId() << m_pairs.at(i).calledsId();
+        }
+        QVERIFY(m_sound.start(people));
         callAnew();
     }
 
     void cleanupTestCase()
     {
-        m_caller.reset();
-        m_called.reset();
+        for (Pair &pair : m_pairs) {
+            pair.caller.reset();
+            pair.called.reset();
+        }
         end();
     }
 
     void isToldToTheOthers_data()
     {
-        QTest::addColumn<int>("row");
-        for (size_t i = 0; i < cRows.size(); ++i) {
-            QTest::newRow(cRows[i].name) << int(i);
-        }
+        QTest::addColumn<int>("victim");
+        QTest::newRow("caller") << int(Victim::Caller);
+        QTest::newRow("exchange") << int(Victim::Exchange);
+        QTest::newRow("called") << int(Victim::Called);
     }
 
     void isToldToTheOthers()
     {
-        QFETCH(int, row);
-        const Row &now = cRows.at(size_t(row));
-        QVERIFY(m_caller && m_called);
+        QFETCH(int, victim);
+        const auto each = [&](auto deed) {
+            for (Pair &pair : m_pairs) {
+                if (!QTest::currentTestFailed()) {
+                    deed(pair, rowOf(pair.step, Victim(victim)));
+                }
+            }
+        };
         std::map<const Person *, int> sockets;
-        for (Person *person : {m_caller.get(), m_called.get()}) {
+        for (Person *person : everybody()) {
             sockets[person] = socketsOf(*person);
         }
-        comeTo(now.step, now.victim);
-        if (!QTest::currentTestFailed()) {
-            kill(now.victim);
-            hearsAll(m_caller.get(), now.callerHears);
-            hearsAll(m_called.get(), now.calledHears);
-        }
+        each([](Pair &pair, const Row & /*row*/) { comeTo(pair); });
+        each([&](Pair &pair, const Row & /*row*/) { stop(pair, Victim(victim)); });
+        each([](Pair &pair, const Row & /*row*/) { takeStep(pair); });
+        each([&](Pair &pair, const Row & /*row*/) { kill(pair, Victim(victim)); });
+        each([](Pair &pair, const Row &row) {
+            hearsAll(pair.caller.get(), row.name, row.callerHears);
+            hearsAll(pair.called.get(), row.name, row.calledHears);
+        });
+        each([](Pair &pair, const Row &row) {
+            if (row.step == Step::Talking && row.victim == Victim::Exchange) {
+                pair.caller->say("HangUpCall");
+                QCOMPARE(pair.called->hears(), QStringLiteral("8"));
+            }
+        });
         if (QTest::currentTestFailed()) {
             return;
         }
-        if (now.step == Step::Talking && now.victim == Victim::Exchange) {
-            m_caller->say("HangUpCall");
-            QCOMPARE(m_called->hears(), QStringLiteral("8"));
-        }
-        for (Person *person : {m_caller.get(), m_called.get()}) {
-            if (person != nullptr) {
-                QTRY_COMPARE_WITH_TIMEOUT(socketsOf(*person), sockets[person], cPatienceMs);
-            }
+        for (Person *person : everybody()) {
+            QTRY_COMPARE_WITH_TIMEOUT(socketsOf(*person), sockets[person], cPatienceMs);
         }
         callAnew();
     }
 
 private:
+    static constexpr size_t cSteps = size_t(Step::HangingUp) + 1;
+    static_assert(cRows.size() == cSteps * (size_t(Victim::Called) + 1), "a row for each step and victim");
+
+    /// Two who call each other, for one step.
+    struct Pair
+    {
+        Step step{};
+        std::unique_ptr<Person> caller;
+        std::unique_ptr<Person> called;
+
+        QString callersId() const { return QString::number(100 + 10 * int(step)); }
+        QString calledsId() const { return QString::number(101 + 10 * int(step)); }
+    };
+
+    static const Row &rowOf(Step step, Victim victim)
+    {
+        return *std::find_if(cRows.begin(), cRows.end(),
+                             [&](const Row &row) { return row.step == step && row.victim == victim; });
+    }
+
+    /// Who lives.
+    QList<Person *> everybody()
+    {
+        QList<Person *> people;
+        for (Pair &pair : m_pairs) {
+            for (Person *person : {pair.caller.get(), pair.called.get()}) {
+                if (person != nullptr) {
+                    people << person;
+                }
+            }
+        }
+        return people;
+    }
+
     std::unique_ptr<Person> arrived(const QString &id) const
     {
         auto person = std::make_unique<Person>(folder(), id);
@@ -130,60 +179,69 @@ private:
         return person->arrive() ? std::move(person) : nullptr;
     }
 
-    /// Brings them to the step. Whoever dies in what is over at once is stopped before.
-    void comeTo(Step step, Victim victim)
+    /// Brings them to where the step begins.
+    static void comeTo(Pair &pair)
     {
-        if (step == Step::Registering) {
-            m_caller->say("UnReg");
-            QVERIFY(m_caller->peer().waitTrace(QStringLiteral("UnReg")));
-            stop(victim);
-            m_caller->signIn(QStringLiteral("any"));
+        if (pair.step == Step::Registering) {
+            pair.caller->say("UnReg");
+            QVERIFY(pair.caller->peer().waitTrace(QStringLiteral("UnReg")));
             return;
         }
-        m_caller->call(*m_called);
-        QCOMPARE(m_called->hears(), QStringLiteral("0 ") + m_caller->id());
-        QVERIFY(m_caller->peer().waitTrace(QStringLiteral("it rings there")));
-        if (step == Step::Ringing) {
-            return;
-        }
-        if (step == Step::Accepting) {
-            stop(victim);
-            m_called->say("AcceptCall");
-            return;
-        }
-        m_called->say("AcceptCall");
-        QCOMPARE(m_called->hears(), QStringLiteral("18"));
-        QCOMPARE(m_caller->hears(), QStringLiteral("18"));
-        if (step == Step::HangingUp) {
-            stop(victim);
-            m_caller->say("HangUpCall");
+        pair.caller->call(*pair.called);
+        QCOMPARE(pair.called->hears(), QStringLiteral("0 ") + pair.caller->id());
+        QVERIFY(pair.caller->peer().waitTrace(QStringLiteral("it rings there")));
+        if (pair.step == Step::Talking || pair.step == Step::HangingUp) {
+            pair.called->say("AcceptCall");
+            QCOMPARE(pair.called->hears(), QStringLiteral("18"));
+            QCOMPARE(pair.caller->hears(), QStringLiteral("18"));
         }
     }
 
-    QList<qint64> processesOf(Victim victim) const
+    /// What is over at once: whoever dies in it is stopped before.
+    static void takeStep(Pair &pair)
+    {
+        if (pair.step == Step::Registering) {
+            pair.caller->signIn(QStringLiteral("any"));
+        } else if (pair.step == Step::Accepting) {
+            pair.called->say("AcceptCall");
+        } else if (pair.step == Step::HangingUp) {
+            pair.caller->say("HangUpCall");
+        }
+    }
+
+    QList<qint64> processesOf(const Pair &pair, Victim victim) const
     {
         switch (victim) {
         case Victim::Caller:
-            return {m_caller->peer().process().processId()};
+            return {pair.caller->peer().process().processId()};
         case Victim::Called:
-            return {m_called->peer().process().processId()};
+            return {pair.called->peer().process().processId()};
         case Victim::Exchange:
             break;
         }
         return servers();
     }
 
-    void stop(Victim victim) const
+    void stop(const Pair &pair, Victim victim) const
     {
-        for (const qint64 pid : processesOf(victim)) {
+        if (pair.step == Step::Ringing || pair.step == Step::Talking) {
+            return;
+        }
+        for (const qint64 pid : processesOf(pair, victim)) {
             QCOMPARE(::kill(pid_t(pid), SIGSTOP), 0);
         }
     }
 
-    void kill(Victim victim)
+    void kill(Pair &pair, Victim victim)
     {
-        if (victim == Victim::Exchange) {
-            // Its parent last: those whom a stopped one leaves behind go on, and one that runs ends the others.
+        if (victim != Victim::Exchange) {
+            std::unique_ptr<Person> &person = victim == Victim::Caller ? pair.caller : pair.called;
+            killAndWait(person->peer().process().processId());
+            QVERIFY(person->peer().process().waitForFinished(cPatienceMs));
+            person.reset();
+        } else if (&pair == &m_pairs.front()) {
+            // One for all. Its parent last: those whom a stopped one leaves behind go on, and one that runs ends the
+            // others.
             const qint64 parent = firstServer();
             for (const qint64 pid : servers()) {
                 if (pid != parent) {
@@ -191,16 +249,11 @@ private:
                 }
             }
             ::kill(pid_t(parent), SIGKILL);
-        } else {
-            std::unique_ptr<Person> &person = victim == Victim::Caller ? m_caller : m_called;
-            killAndWait(person->peer().process().processId());
-            QVERIFY(person->peer().process().waitForFinished(cPatienceMs));
-            person.reset();
         }
     }
 
     /// Waits until he has heard all of that, in any order, and nothing else.
-    static void hearsAll(Person *person, const char *words)
+    static void hearsAll(Person *person, const char *row, const char *words)
     {
         QStringList due = QString::fromLatin1(words).split(QLatin1Char(','), Qt::SkipEmptyParts);
         while (person != nullptr && !due.isEmpty()) {
@@ -209,29 +262,31 @@ private:
                 return QRegularExpression(QRegularExpression::anchoredPattern(word)).match(heard).hasMatch();
             };
             const auto found = std::find_if(due.begin(), due.end(), fits);
-            QVERIFY2(
-                found != due.end(),
-                qPrintable(
-                    QStringLiteral("%1 heard \"%2\", due: %3").arg(person->id(), heard, due.join(QLatin1Char(',')))));
+            QVERIFY2(found != due.end(),
+                     qPrintable(QStringLiteral("%1: %2 heard \"%3\", due: %4")
+                                    .arg(QString::fromLatin1(row), person->id(), heard, due.join(QLatin1Char(',')))));
             due.erase(found);
         }
     }
 
-    /// Whoever died comes again, and the two can call each other.
+    /// Whoever died comes again, and the two of each pair can call each other.
     void callAnew()
     {
-        for (auto *person : {&m_caller, &m_called}) {
-            if (!*person) {
-                *person = arrived(person == &m_caller ? cCaller : cCalled);
+        for (Pair &pair : m_pairs) {
+            if (!pair.caller) {
+                pair.caller = arrived(pair.callersId());
             }
-            QVERIFY(*person);
+            if (!pair.called) {
+                pair.called = arrived(pair.calledsId());
+            }
+            QVERIFY(pair.caller && pair.called);
+            QVERIFY(pair.called->reaches(*pair.caller));
+            pair.called->say("HangUpCall");
+            QCOMPARE(pair.caller->hears(), QStringLiteral("8"));
+            QVERIFY(pair.caller->reaches(*pair.called));
+            pair.caller->say("HangUpCall");
+            QCOMPARE(pair.called->hears(), QStringLiteral("8"));
         }
-        QVERIFY(m_called->reaches(*m_caller));
-        m_called->say("HangUpCall");
-        QCOMPARE(m_caller->hears(), QStringLiteral("8"));
-        QVERIFY(m_caller->reaches(*m_called));
-        m_caller->say("HangUpCall");
-        QCOMPARE(m_called->hears(), QStringLiteral("8"));
         QCOMPARE(keepers().size(), 1);
     }
 
@@ -246,16 +301,9 @@ private:
         return sockets;
     }
 
-    static const QString cCaller;
-    static const QString cCalled;
-
     SoundBox m_sound;
-    std::unique_ptr<Person> m_caller;
-    std::unique_ptr<Person> m_called;
+    std::array<Pair, cSteps> m_pairs;
 };
-
-const QString tst_KilledParts::cCaller = QStringLiteral("100");
-const QString tst_KilledParts::cCalled = QStringLiteral("200");
 
 #include "support/TestProgram.h"
 VOIP_TEST(tst_KilledParts, Guiless)

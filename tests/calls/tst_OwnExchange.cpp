@@ -7,6 +7,7 @@
 
 #include "fakes/Patience.h"
 
+#include <QDir>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -56,6 +57,27 @@ private slots:
         m_caller->say("HangUpCall");
         QCOMPARE(m_called->hears(), QStringLiteral("8"));
         QVERIFY(m_called->reaches(*m_caller));
+    }
+
+    void echoTellsTheLossOnce()
+    {
+        const QString trace = QDir::current().absoluteFilePath(QStringLiteral("echo.trace"));
+        const auto told = [&trace](const char *text) { return bytesOf(trace).count(text); };
+        QVERIFY(write(QStringLiteral("echo.ini"), "[exchange]\nfolder = " + folder().toUtf8() + "\n"));
+        ChildProgram echo;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(QStringLiteral("VOIPSDK_EXCHANGE_FOLDER"));
+        echo.setProcessEnvironment(environment);
+        QVERIFY(echo.begin(QStringLiteral(VOIPSDK_PROGRAM),
+                           {QStringLiteral("--settings"), QStringLiteral("echo.ini"), QStringLiteral("--echo"),
+                            QStringLiteral("echo"), QStringLiteral("--trace"), trace}));
+        for (int losses = 0; losses < 3; ++losses) {
+            QTRY_COMPARE_WITH_TIMEOUT(told("the echo is registered"), losses + 1, cPatienceMs);
+            QCOMPARE(told("the echo is not registered: "), losses);
+            QCOMPARE(bytesOf(trace).count('\n'), 2 * losses + 2);
+            killAndWait(firstServer());
+        }
+        echo.finish();
     }
 
     void missingKamailioIsToldAndComesLater()

@@ -1,6 +1,9 @@
 // Signing in at an exchange: what the plug-in hears of it, and what becomes of the user before.
 
 #include "calls/CallsTest.h"
+#include "calls/sound/Tones.h"
+
+#include <QDir>
 
 class tst_Registration : public CallsTest
 {
@@ -65,6 +68,26 @@ private slots:
         QVERIFY(person.start());
         person.signIn(TestExchange::secretOf(person.id()));
         QCOMPARE(person.hears(), QStringLiteral("17 false"));
+    }
+
+    void telephoneThatCannotStartIsToldAndStartsLater()
+    {
+        Person person(m_exchange, QStringLiteral("100"));
+        const QString voice = QDir::current().absoluteFilePath(QStringLiteral("late.wav"));
+        person.set(QStringLiteral("sound/wav-in"), voice);
+        QVERIFY(person.start());
+        const QString fault =
+            QStringLiteral("not registered: sound/wav-in is %1: No such file or directory").arg(voice);
+        for (int i = 0; i < 2; ++i) {
+            person.signIn(TestExchange::secretOf(person.id()));
+            QCOMPARE(person.hears(), QStringLiteral("17 false"));
+            QVERIFY(person.peer().waitTrace(fault));
+        }
+        person.call(person);
+        QCOMPARE(person.hears(), QStringLiteral("19"));
+        QVERIFY(writeTone(voice, cRingBackTone, 1));
+        QCOMPARE(person.hears(), QStringLiteral("17 true"));
+        QCOMPARE(person.remarks().filter(fault).size(), 2);
     }
 
     void anotherUserTakesTheFirstOnesPlace()

@@ -62,9 +62,11 @@ private slots:
         checker.setProcessChannelMode(QProcess::MergedChannels);
         checker.start(QStringLiteral(VOIP_CALLCHECK),
                       {QStringLiteral("replay"), QStringLiteral("--patience"), QString::number(cPatienceMs / 1000),
-                       QStringLiteral("--user"), cUser, QStringLiteral("--registration"), TestExchange::secretOf(cUser),
+                       QStringLiteral("--user"), cUser, QStringLiteral("--registration-file"), QStringLiteral("-"),
                        scenario(called), QStringLiteral("--"), QStringLiteral(VOIPSDK_PROGRAM),
                        QStringLiteral("--settings"), QFileInfo(user.settingsFile()).absoluteFilePath()});
+        checker.write(TestExchange::secretOf(cUser).toUtf8() + '\n');
+        QVERIFY(checker.waitForBytesWritten(cPatienceMs));
         const bool done = deed(other);
         QTRY_COMPARE_WITH_TIMEOUT(checker.state(), QProcess::NotRunning, 2 * cPatienceMs);
         const QByteArray said = checker.readAll();

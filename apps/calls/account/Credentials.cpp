@@ -4,6 +4,11 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace {
 
 constexpr int cPasswordLimit = 4096;
@@ -17,6 +22,19 @@ Credentials checked(const Credentials &credentials, QString *fault)
         *fault = QStringLiteral("a password beyond %1 characters").arg(cPasswordLimit);
     }
     return fault->isEmpty() ? credentials : Credentials();
+}
+
+/// Why nobody's secret is read from what is open there; empty: it is a file of this user's alone.
+QString faultOf(int descriptor)
+{
+    struct stat status = {};
+    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+        return QStringLiteral("is no file");
+    }
+    if (status.st_uid != ::geteuid()) {
+        return QStringLiteral("is another user's");
+    }
+    return (status.st_mode & (S_IRWXG | S_IRWXO)) != 0 ? QStringLiteral("is open to other users") : QString();
 }
 
 } // namespace
@@ -44,14 +62,17 @@ Credentials tokenCredentials(const QString &userId, const QString &registrationV
 Credentials fileCredentials(const QString &userId, const QString &file, QString *fault)
 {
     fault->clear();
-    QFile lines(file);
-    if (!lines.open(QIODevice::ReadOnly)) {
-        *fault = QStringLiteral("cannot read %1: %2").arg(file, lines.errorString());
+    // What is looked at is what is read, whoever moves files meanwhile; nobody may ever write into a pipe.
+    const int descriptor = ::open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0) {
+        *fault = QStringLiteral("cannot read %1: %2").arg(file, qt_error_string(errno));
         return {};
     }
-    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
-    if ((lines.permissions() & others) != 0) {
-        *fault = QStringLiteral("%1 is open to other users").arg(file);
+    QFile lines;
+    lines.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+    const QString wrong = faultOf(descriptor);
+    if (!wrong.isEmpty()) {
+        *fault = file + QLatin1Char(' ') + wrong;
         return {};
     }
     const QList<QByteArray> rows = lines.read(cFileLimit).split('\n');

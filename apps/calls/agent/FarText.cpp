@@ -1,5 +1,7 @@
 #include "calls/agent/FarText.h"
 
+#include "calls/agent/CallEnd.h"
+
 #include <algorithm>
 
 namespace {
@@ -24,6 +26,13 @@ QString farText(const std::string &bytes, int limit)
         }
     }
     return text;
+}
+
+QString whyRefused(int status, const std::string &phrase)
+{
+    const QString why = status == SipStatus::cNothingInCommon ? QStringLiteral("no common encryption or codec")
+                                                              : farText(phrase, cRemarkLimit);
+    return QStringLiteral("%1 (%2)").arg(why, QString::number(status));
 }
 
 bool isUserId(const QString &id)

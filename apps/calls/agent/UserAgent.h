@@ -36,7 +36,8 @@ public:
     /// The exchange has gone: nobody is registered, until `registered` says so anew. No signal; a call goes on.
     void loseExchange();
 
-    /// Starts the library. False with `error` set when it cannot be.
+    /// Starts the library. False with `error` set when it cannot be; it may be tried again. Until it has been nobody is
+    /// signed in, and nothing else has an effect.
     bool start(QString *error);
 
     /// Ends the call, takes the registration back, stops the library. Takes seconds at most, with the exchange gone

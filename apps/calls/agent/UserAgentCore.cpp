@@ -20,9 +20,6 @@ constexpr int cStopStepUs = 10000;
 
 // What the library says of a call that it ended for want of sound.
 constexpr int cStatusMediaLost = 503;
-constexpr int cStatusBusy = 486;
-constexpr int cStatusDeclined = 603;
-constexpr int cStatusNothingInCommon = 488;
 
 bool isOver(linphone::Call::State state)
 {
@@ -63,21 +60,29 @@ UserAgent::Core::Core(UserAgent &agent, const CallsSettings &settings, const Exc
 
 bool UserAgent::Core::start(QString *error)
 {
-    bool started = false;
-    guard([&] {
-        m_library = makeCore(m_settings, m_access, m_folder);
-        m_library->addListener(shared_from_this());
-        m_library->setRingback(m_tones.ringBack().toStdString());
-        started = m_library->start() == 0 && (m_sound == Sound::OfSettings || useEchoCard(*m_library));
-        m_registration = std::make_unique<Registration>(*m_library, m_access, m_settings.expires);
-        refreshDevices();
-    });
-    if (!started) {
-        *error = QStringLiteral("the SIP library does not start");
-    } else {
-        m_iterateTimer.start();
+    *error = faultOfFiles(m_settings);
+    if (!error->isEmpty()) {
+        return false;
     }
-    return started;
+    bool started = false;
+    *error = QStringLiteral("the SIP library does not start");
+    guarded(
+        [&] {
+            m_library = makeCore(m_settings, m_access, m_folder);
+            m_library->addListener(shared_from_this());
+            m_library->setRingback(m_tones.ringBack().toStdString());
+            started = m_library->start() == 0 && (m_sound == Sound::OfSettings || useEchoCard(*m_library));
+        },
+        [&](const char *what) { *error += QStringLiteral(": ") + farText(what, cRemarkLimit); });
+    if (!started) {
+        stop();
+        return false;
+    }
+    error->clear();
+    m_registration = std::make_unique<Registration>(*m_library, m_access, m_settings.expires);
+    guard([this] { refreshDevices(); });
+    m_iterateTimer.start();
+    return true;
 }
 
 void UserAgent::Core::stop()
@@ -110,22 +115,28 @@ void UserAgent::Core::stop()
 
 void UserAgent::Core::takeExchange()
 {
-    guard([this] { verifyServers(*m_library, m_access); });
+    if (m_library) {
+        guard([this] { verifyServers(*m_library, m_access); });
+    }
 }
 
 void UserAgent::Core::loseExchange()
 {
     m_nextServerTimer.stop();
-    m_registration->forget();
+    if (m_registration) {
+        m_registration->forget();
+    }
 }
 
 void UserAgent::Core::signIn(const QString &userId, const QString &nickName, const Credentials &credentials)
 {
     bool asked = false;
-    guard([&] {
-        m_registration->signIn(userId, nickName, credentials);
-        asked = true;
-    });
+    if (m_registration) {
+        guard([&] {
+            m_registration->signIn(userId, nickName, credentials);
+            asked = true;
+        });
+    }
     if (!asked) {
         emit m_agent.registrationLost(QStringLiteral("the exchange cannot be asked"));
     }
@@ -135,7 +146,9 @@ void UserAgent::Core::signIn(const QString &userId, const QString &nickName, con
 void UserAgent::Core::signOut()
 {
     m_nextServerTimer.stop();
-    guard([this] { m_registration->signOut(); });
+    if (m_registration) {
+        guard([this] { m_registration->signOut(); });
+    }
     hurry();
 }
 
@@ -195,10 +208,12 @@ void UserAgent::Core::refuse(bool asBusy)
 
 void UserAgent::Core::playFailure(const CallEnd &end)
 {
-    guard([&] {
-        m_mediaRan = false;
-        playEnd(end, true);
-    });
+    if (m_library) {
+        guard([&] {
+            m_mediaRan = false;
+            playEnd(end, true);
+        });
+    }
 }
 
 void UserAgent::Core::applyLoudness()
@@ -370,7 +385,7 @@ void UserAgent::Core::playEnd(const CallEnd &end, bool placedHere)
     if (end.mediaLost) {
         m_tones.playFailed(*m_library);
     } else if (placedHere && !m_mediaRan) {
-        const bool busy = end.status == cStatusBusy || end.status == cStatusDeclined;
+        const bool busy = end.status == SipStatus::cBusy || end.status == SipStatus::cDeclined;
         busy ? m_tones.playBusy(*m_library) : m_tones.playFailed(*m_library);
     }
 }
@@ -398,18 +413,16 @@ void UserAgent::Core::onCallLogUpdated(const std::shared_ptr<linphone::Core> & /
             log->getDir() != linphone::Call::Dir::Incoming) {
             return;
         }
-        if (status != cStatusBusy) {
-            const QString why = status == cStatusNothingInCommon ? QStringLiteral("no common encryption or codec")
-                                                                 : farText(error->getPhrase(), cRemarkLimit);
-            emit m_agent.remarked(QStringLiteral("refused a call from %1: %2 (%3)")
-                                      .arg(farText(log->getFromAddress()->getUsername(), cUserIdLimit), why)
-                                      .arg(status));
+        if (status != SipStatus::cBusy) {
+            emit m_agent.remarked(QStringLiteral("refused a call from %1: %2")
+                                      .arg(farText(log->getFromAddress()->getUsername(), cUserIdLimit),
+                                           whyRefused(status, error->getPhrase())));
         } else if (isBeingPlacedTo(*log->getFromAddress())) {
             // Each has called the other: the library has told that one that the line is busy, and where both hear the
             // same in turn one call would be left to ring.
             const auto own = std::exchange(m_call, nullptr);
             own->terminate();
-            reportEnd({cStatusBusy, false, QStringLiteral("both have called at once")}, true);
+            reportEnd({SipStatus::cBusy, false, QStringLiteral("both have called at once")}, true);
         }
     });
 }

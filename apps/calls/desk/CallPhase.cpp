@@ -22,22 +22,22 @@ struct EndRow
 // The first row that fits counts.
 // clang-format off
 constexpr std::array cEnds{
-    EndRow{CallPhase::Calling,  486, Wire::Code::PeerBusy},
-    EndRow{CallPhase::Calling,  600, Wire::Code::PeerBusy},
-    EndRow{CallPhase::Calling,  603, Wire::Code::PeerRejected},
-    EndRow{CallPhase::Calling,  404, Wire::Code::CallFailedAlt},  // nobody there
-    EndRow{CallPhase::Calling,  408, Wire::Code::CallFailedAlt},
-    EndRow{CallPhase::Calling,  410, Wire::Code::CallFailedAlt},
-    EndRow{CallPhase::Calling,  480, Wire::Code::CallFailedAlt},
-    EndRow{CallPhase::Calling,  604, Wire::Code::CallFailedAlt},
-    EndRow{CallPhase::Calling,  415, Wire::Code::CallFailedAlt2}, // no common encryption or codec
-    EndRow{CallPhase::Calling,  488, Wire::Code::CallFailedAlt2},
-    EndRow{CallPhase::Calling,  606, Wire::Code::CallFailedAlt2},
-    EndRow{CallPhase::Calling,  cAnyStatus, Wire::Code::CallFailed},
-    EndRow{CallPhase::Ringing,  cAnyStatus, Wire::Code::PeerCanceled},
-    EndRow{CallPhase::Accepted, 488, Wire::Code::CallFailedAlt2},
-    EndRow{CallPhase::Accepted, cAnyStatus, Wire::Code::PeerCanceled},
-    EndRow{CallPhase::Running,  cAnyStatus, Wire::Code::PeerHangup},
+    EndRow{CallPhase::Calling,  SipStatus::cBusy,            Wire::Code::PeerBusy},
+    EndRow{CallPhase::Calling,  600,                         Wire::Code::PeerBusy},
+    EndRow{CallPhase::Calling,  SipStatus::cDeclined,        Wire::Code::PeerRejected},
+    EndRow{CallPhase::Calling,  SipStatus::cUnknown,         Wire::Code::CallFailedAlt},  // nobody there
+    EndRow{CallPhase::Calling,  408,                         Wire::Code::CallFailedAlt},
+    EndRow{CallPhase::Calling,  410,                         Wire::Code::CallFailedAlt},
+    EndRow{CallPhase::Calling,  480,                         Wire::Code::CallFailedAlt},
+    EndRow{CallPhase::Calling,  604,                         Wire::Code::CallFailedAlt},
+    EndRow{CallPhase::Calling,  415,                         Wire::Code::CallFailedAlt2}, // no common encryption or codec
+    EndRow{CallPhase::Calling,  SipStatus::cNothingInCommon, Wire::Code::CallFailedAlt2},
+    EndRow{CallPhase::Calling,  606,                         Wire::Code::CallFailedAlt2},
+    EndRow{CallPhase::Calling,  cAnyStatus,                  Wire::Code::CallFailed},
+    EndRow{CallPhase::Ringing,  cAnyStatus,                  Wire::Code::PeerCanceled},
+    EndRow{CallPhase::Accepted, SipStatus::cNothingInCommon, Wire::Code::CallFailedAlt2},
+    EndRow{CallPhase::Accepted, cAnyStatus,                  Wire::Code::PeerCanceled},
+    EndRow{CallPhase::Running,  cAnyStatus,                  Wire::Code::PeerHangup},
 };
 // clang-format on
 

@@ -16,9 +16,6 @@ namespace {
 // microphone must not stay open.
 constexpr int cAwayMs = 90000;
 
-constexpr int cStatusUnknown = 404;
-constexpr int cStatusBusy = 486;
-
 QString documentText(const QJsonObject &object)
 {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
@@ -95,6 +92,9 @@ void Desk::signIn()
     QString fault;
     if (!isUserId(m_userId)) {
         fault = QStringLiteral("no user id");
+    } else if (!m_agentFault.isEmpty()) {
+        takeRegistrationLoss(m_agentFault);
+        return;
     } else if (m_access.servers.isEmpty()) {
         // The exchange of one's own is about to come, or its failure to be told.
         if (!m_exchangeFault.isEmpty()) {
@@ -129,6 +129,20 @@ void Desk::loseExchange(const QString &why)
     takeRegistrationLoss(why);
 }
 
+void Desk::takeAgent()
+{
+    m_agentFault.clear();
+    if (!m_userId.isEmpty()) {
+        signIn();
+    }
+}
+
+void Desk::lackAgent(const QString &why)
+{
+    m_agentFault = why;
+    takeRegistrationLoss(why);
+}
+
 void Desk::unregisterUser(const Command & /*command*/)
 {
     m_agent.signOut();
@@ -148,11 +162,11 @@ void Desk::callUser(const Command &command)
     if (rang) {
         // Both have called at once, and the plug-in, which calls nobody while it rings, has seen this one too late.
         m_agent.refuse(true);
-        failCall({cStatusBusy, false, QStringLiteral("both have called at once")});
+        failCall({SipStatus::cBusy, false, QStringLiteral("both have called at once")});
     } else if (!m_agent.isRegistered()) {
         failCall({0, false, QStringLiteral("the caller is not registered")});
     } else if (!isUserId(command.text(1))) {
-        failCall({cStatusUnknown, false, QStringLiteral("nobody has such an id")});
+        failCall({SipStatus::cUnknown, false, QStringLiteral("nobody has such an id")});
     } else if (!m_agent.call(command.text(1))) {
         failCall({0, false, QStringLiteral("the call cannot be placed")});
     }

@@ -29,6 +29,12 @@ public:
     /// That exchange has gone or cannot be started, for this reason.
     void loseExchange(const QString &why);
 
+    /// The agent has started: whoever is signed in registers.
+    void takeAgent();
+
+    /// The agent cannot be started, for this reason: whoever signs in, or is, is told so.
+    void lackAgent(const QString &why);
+
 private:
     void registerUser(const Command &command);
     void unregisterUser(const Command &command);
@@ -62,6 +68,7 @@ private:
     QString m_userId;   // empty while nobody is signed in
     QString m_nickName; // what he has signed in with
     QString m_registrationValue;
+    QString m_agentFault;       // why the agent has not started; empty: it has
     QString m_exchangeFault;    // why one's own exchange is not there; empty: it is, or is about to come first
     bool m_answerDue = false;   // to the last RegeditUser
     bool m_saidTrue = false;    // the last word about the registration

@@ -11,12 +11,7 @@ Echo::Echo(QString userId, Trace &trace, UserAgent &agent, const ExchangeAccess 
         m_lossTold = false;
         m_trace.event(QStringLiteral("the echo is registered"));
     });
-    connect(&agent, &UserAgent::registrationLost, this, [this](const QString &why) {
-        // It is tried again by itself, each second perhaps.
-        if (!std::exchange(m_lossTold, true)) {
-            m_trace.event(QStringLiteral("the echo is not registered: %1").arg(why));
-        }
-    });
+    connect(&agent, &UserAgent::registrationLost, this, &Echo::tellLoss);
     // Queued: the library still reports the call, and must have done so before it is answered.
     connect(
         &agent, &UserAgent::callArrived, this,
@@ -42,6 +37,14 @@ void Echo::takeExchange()
 
 void Echo::loseExchange(const QString &why)
 {
-    m_trace.event(why);
+    tellLoss(why);
     m_agent.loseExchange();
+}
+
+void Echo::tellLoss(const QString &why)
+{
+    // It is tried again by itself, each second perhaps.
+    if (!std::exchange(m_lossTold, true)) {
+        m_trace.event(QStringLiteral("the echo is not registered: %1").arg(why));
+    }
 }

@@ -25,6 +25,8 @@ public:
     void loseExchange(const QString &why);
 
 private:
+    void tellLoss(const QString &why);
+
     QString m_userId;
     Trace &m_trace;
     UserAgent &m_agent;

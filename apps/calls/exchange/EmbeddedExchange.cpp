@@ -12,9 +12,22 @@
 
 namespace {
 
-constexpr int cRetryMs = 10;
+constexpr int cFirstLookMs = 10;
+constexpr int cLongestLookMs = 500;
 // A keeper that has not opened its socket by now is taken for one that could not.
 constexpr int cKeeperMs = 15000;
+// One that was killed is followed at once; one that was joined for less than this cannot live, and is with a pause.
+constexpr int cShortLifeMs = 2000;
+constexpr int cFirstPauseMs = 250;
+constexpr int cLongestPauseMs = 60000;
+constexpr int cMostDoublings = 8;
+constexpr int cLivesUntilTold = 3;
+
+/// How long to wait behind so many keepers in a row that could not live.
+int pauseAfter(int shortLives)
+{
+    return shortLives <= 1 ? 0 : qMin(cFirstPauseMs << qMin(shortLives - 2, cMostDoublings), cLongestPauseMs);
+}
 
 } // namespace
 
@@ -30,11 +43,11 @@ EmbeddedExchange::EmbeddedExchange(QString folder, QString kamailio, QString kee
     m_retry.setSingleShot(true);
     connect(&m_retry, &QTimer::timeout, this, &EmbeddedExchange::connectToKeeper);
     connect(&m_socket, &QLocalSocket::readyRead, this, &EmbeddedExchange::readLines);
-    connect(&m_socket, &QLocalSocket::connected, this, [this] { m_started.invalidate(); });
-    connect(&m_socket, &QLocalSocket::disconnected, this, [this] {
-        lose();
-        m_retry.start(0);
+    connect(&m_socket, &QLocalSocket::connected, this, [this] {
+        m_started.invalidate();
+        m_joinedSince.start();
     });
+    connect(&m_socket, &QLocalSocket::disconnected, this, &EmbeddedExchange::loseKeeper);
     connect(&m_socket, &QLocalSocket::errorOccurred, this, [this](QLocalSocket::LocalSocketError error) {
         // An end of the connection is told once more as such.
         if (error != QLocalSocket::PeerClosedError) {
@@ -67,10 +80,20 @@ void EmbeddedExchange::connectToKeeper()
     m_socket.connectToServer(ExchangeFolder::path(m_folder, ExchangeFolder::cKeeper));
 }
 
+void EmbeddedExchange::loseKeeper()
+{
+    lose();
+    m_shortLives = m_joinedSince.elapsed() < cShortLifeMs ? m_shortLives + 1 : 0;
+    if (m_shortLives >= cLivesUntilTold) {
+        complainOfKeeper();
+    }
+    m_retry.start(pauseAfter(m_shortLives));
+}
+
 /// Nobody keeps the exchange: this one starts a keeper, and joins it as soon as it is there.
 void EmbeddedExchange::startKeeper()
 {
-    if (!m_started.isValid() || m_started.elapsed() >= cKeeperMs) {
+    if (!m_started.isValid() || m_started.elapsed() >= m_patienceMs) {
         QProcess keeper;
         keeper.setProgram(m_keeper);
         keeper.setArguments({QStringLiteral("--folder"), m_folder, QStringLiteral("--kamailio"), m_kamailio});
@@ -81,11 +104,15 @@ void EmbeddedExchange::startKeeper()
         if (!keeper.startDetached()) {
             complain(QStringLiteral("%1 cannot be started").arg(m_keeper));
         } else if (m_started.isValid()) {
-            complain(QStringLiteral("%1 does not keep the exchange in %2").arg(m_keeper, m_folder));
+            complainOfKeeper();
         }
+        // In vain, so far.
+        m_patienceMs = m_started.isValid() ? qMin(2 * m_patienceMs, cLongestPauseMs) : cKeeperMs;
+        m_lookMs = cFirstLookMs;
         m_started.start();
     }
-    m_retry.start(cRetryMs);
+    m_retry.start(m_lookMs);
+    m_lookMs = qMin(m_lookMs + m_lookMs / 2, cLongestLookMs);
 }
 
 void EmbeddedExchange::readLines()
@@ -125,6 +152,11 @@ void EmbeddedExchange::lose()
     if (std::exchange(m_ready, false)) {
         emit lost();
     }
+}
+
+void EmbeddedExchange::complainOfKeeper()
+{
+    complain(QStringLiteral("%1 does not keep the exchange in %2").arg(m_keeper, m_folder));
 }
 
 void EmbeddedExchange::complain(const QString &reason)

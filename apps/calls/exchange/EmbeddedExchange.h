@@ -54,10 +54,12 @@ signals:
 private:
     void connectToKeeper();
     void startKeeper();
+    void loseKeeper();
     void readLines();
     void take(const QByteArray &line);
     void takeReady(quint16 port);
     void lose();
+    void complainOfKeeper();
     void complain(const QString &reason);
 
     const QString m_set;
@@ -66,7 +68,11 @@ private:
     QString m_folder;
     QLocalSocket m_socket;
     QTimer m_retry;
-    QElapsedTimer m_started; // since a keeper was last started
+    QElapsedTimer m_started;     // since a keeper was last started, until it is joined
+    QElapsedTimer m_joinedSince; // the last keeper
+    int m_shortLives = 0;        // of keepers in a row
+    int m_patienceMs = 0;        // with the one that was started
+    int m_lookMs = 0;            // until it is looked for the next time
     bool m_joined = false;
     bool m_ready = false;
     ExchangePlace m_place;

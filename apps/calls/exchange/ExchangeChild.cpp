@@ -31,7 +31,9 @@ bool killRemains(const QByteArray &configuration)
         if (isPid && pid != ::getpid() && ::stat(QFile::encodeName(place).constData(), &status) == 0 &&
             status.st_uid == ::geteuid() && file.open(QIODevice::ReadOnly)) {
             const QList<QByteArray> arguments = file.readAll().split('\0');
-            if (arguments.value(1) == "-f" && arguments.value(2) == configuration) {
+            // Somebody may just look at the file.
+            if (arguments.value(1) == "-f" && arguments.value(2) == configuration &&
+                arguments.value(3) == ExchangeChild::cStaysInFront) {
                 ::kill(pid_t(pid), SIGKILL);
                 found = true;
             }

@@ -19,6 +19,9 @@ public:
     /// alone.
     void endGroup();
 
+    /// Kamailio's option behind that of its configuration: it does not leave the process that was started.
+    static constexpr const char *cStaysInFront = "-DD";
+
     /// Ends what a keeper or a first process that was killed has left, the processes of this user that run with this
     /// configuration, and waits until they have let go of their port: some seconds at most.
     static void endRemains(const QString &configuration);

@@ -17,6 +17,8 @@ constexpr mode_t cOthers = S_IRWXG | S_IRWXO;
 // Names below /tmp that another user of the machine may have taken first.
 constexpr int cNamesTried = 10;
 constexpr qint64 cMostBytes = 65536;
+// Behind the socket's name while it is made: a point and the greatest number of a process.
+constexpr int cRoomForDraft = 8;
 
 bool isPrivate(const struct stat &status)
 {
@@ -38,7 +40,7 @@ QString fault(const QString &folder)
 {
     const QByteArray path = QFile::encodeName(folder);
     struct stat status = {};
-    if (ExchangeFolder::path(folder, ExchangeFolder::cKeeper).toLocal8Bit().size() >=
+    if (QFile::encodeName(ExchangeFolder::path(folder, ExchangeFolder::cKeeper)).size() + cRoomForDraft >=
         int(sizeof(sockaddr_un::sun_path))) {
         return QStringLiteral("its path is too long");
     }

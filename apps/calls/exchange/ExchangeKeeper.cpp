@@ -9,6 +9,8 @@
 #include <QLocalSocket>
 #include <QThread>
 
+#include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -62,36 +64,49 @@ ExchangeKeeper::~ExchangeKeeper()
 
 ExchangeKeeper::Begin ExchangeKeeper::begin(QString *error)
 {
-    if (!takeLock()) {
-        if (Wire::isAnswered(
-                QFile::encodeName(ExchangeFolder::path(m_folder, ExchangeFolder::cKeeper)).toStdString())) {
-            return Begin::AnotherLives;
-        }
-        *error = QStringLiteral("%1 cannot be locked").arg(m_folder);
+    const bool locked = takeLock(error);
+    if (!locked &&
+        Wire::isAnswered(QFile::encodeName(ExchangeFolder::path(m_folder, ExchangeFolder::cKeeper)).toStdString())) {
+        return Begin::AnotherLives;
+    }
+    if (!locked || !openSocket(error)) {
+        // Who started it does not read what it says.
+        m_log.write(error->toUtf8() + '\n');
         return Begin::Failed;
     }
-    ExchangeChild::endRemains(ExchangeFolder::path(m_folder, ExchangeFolder::cConfiguration));
-    const QString socketFile = ExchangeFolder::path(m_folder, ExchangeFolder::cKeeper);
-    // The server removes the name that it was made with, which by then could be another keeper's.
-    const QString madeAs = socketFile + QLatin1Char('.') + QString::number(::getpid());
-    QFile::remove(madeAs);
-    QFile::remove(socketFile);
-    if (!m_server.listen(madeAs) || !QFile::rename(madeAs, socketFile)) {
-        *error = QStringLiteral("%1: %2").arg(socketFile, m_server.errorString());
-        return Begin::Failed;
-    }
-    m_socketFile = numberOf(socketFile);
     m_watcher.addPath(m_folder);
     m_lonely.start();
     start();
     return Begin::Begun;
 }
 
-/// Waits for a keeper that is about to end. False when one lives, or there is no lock.
-bool ExchangeKeeper::takeLock()
+bool ExchangeKeeper::openSocket(QString *error)
 {
-    const QByteArray file = QFile::encodeName(ExchangeFolder::path(m_folder, ExchangeFolder::cLock));
-    m_lock = ::open(file.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
+    ExchangeChild::endRemains(ExchangeFolder::path(m_folder, ExchangeFolder::cConfiguration));
+    const QString socketFile = ExchangeFolder::path(m_folder, ExchangeFolder::cKeeper);
+    // The server removes the name that it was made with, which by then could be another keeper's.
+    const QString madeAs = socketFile + QLatin1Char('.') + QString::number(::getpid());
+    QFile::remove(madeAs);
+    QFile::remove(socketFile);
+    if (!m_server.listen(madeAs)) {
+        *error = QStringLiteral("%1: %2").arg(madeAs, m_server.errorString());
+        return false;
+    }
+    if (::rename(QFile::encodeName(madeAs).constData(), QFile::encodeName(socketFile).constData()) != 0) {
+        *error = QStringLiteral("%1: %2").arg(socketFile, qt_error_string(errno));
+        return false;
+    }
+    m_socketFile = numberOf(socketFile);
+    return true;
+}
+
+/// Waits for a keeper that is about to end. False when one lives, or there is no lock.
+bool ExchangeKeeper::takeLock(QString *error)
+{
+    const QString path = ExchangeFolder::path(m_folder, ExchangeFolder::cLock);
+    m_lock = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
+    *error = QStringLiteral("%1: %2").arg(path, m_lock < 0 ? qt_error_string(errno)
+                                                           : QStringLiteral("held by a process that answers nobody"));
     const QDeadlineTimer deadline(cLockWaitMs);
     const std::string socketFile =
         QFile::encodeName(ExchangeFolder::path(m_folder, ExchangeFolder::cKeeper)).toStdString();

@@ -50,7 +50,8 @@ signals:
     void over();
 
 private:
-    bool takeLock();
+    bool takeLock(QString *error);
+    bool openSocket(QString *error);
     bool isKept() const;
     void end();
 
@@ -62,7 +63,7 @@ private:
     void choosePort();
     bool makeFiles(QString *error);
     bool mendFiles() const;
-    void fail(const QString &reason);
+    void fail(const QString &reason, int pauseMs);
     void childEnded();
     void tryAgain();
     void endKnock();

@@ -54,7 +54,11 @@ void ExchangeLog::append(const QByteArray &bytes)
 
 void ExchangeLog::keepLine(const QByteArray &line)
 {
-    if (line.contains("ERROR") || line.contains("CRITICAL")) {
-        m_lastError = line.left(cLongestLine);
+    for (const char *word : {"CRITICAL", "ERROR"}) {
+        const int begin = line.indexOf(word);
+        if (begin >= 0) {
+            m_lastError = line.mid(begin, cLongestLine);
+            return;
+        }
     }
 }

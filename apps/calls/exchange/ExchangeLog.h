@@ -16,8 +16,10 @@ public:
     /// Writes the bytes, and keeps their last whole line. What the file does not take is dropped.
     void write(const QByteArray &bytes);
 
-    /// The last line that told of an error; empty when none did.
+    /// The last line that told of an error, from that word on: what stands before it is another number each time. Empty
+    /// when none did since the begin or `forgetError`.
     QByteArray lastError() const { return m_lastError; }
+    void forgetError() { m_lastError.clear(); }
 
 private:
     void append(const QByteArray &bytes);

@@ -23,7 +23,9 @@ constexpr int cKnockPauseMs = 10;
 // How long Kamailio may take to answer, on a machine that is busy with other work.
 constexpr int cStartMs = 30000;
 constexpr int cFirstPauseMs = 100;
-constexpr int cLongestPauseMs = 5000;
+constexpr int cLookPauseMs = 5000;
+constexpr int cLongestPauseMs = 60000;
+constexpr int cMostDoublings = 10;
 // An exchange that ended sooner counts as one that cannot live, and is started anew with a pause.
 constexpr int cShortLifeMs = 2000;
 // Starts in a row that came to nothing, after which the clients are told.
@@ -39,6 +41,11 @@ QByteArray lineOf(const QString &state, const QJsonObject &more = {})
     QJsonObject line = more;
     line.insert(QStringLiteral("state"), state);
     return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+}
+
+int pauseAfter(int firstMs, int doublings)
+{
+    return qMin(firstMs << qMin(doublings, cMostDoublings), cLongestPauseMs);
 }
 
 bool isSecret(const QByteArray &text)
@@ -59,14 +66,16 @@ void ExchangeKeeper::start()
 {
     const QString program = ExchangeChild::program(m_program);
     QString error;
+    m_log.forgetError();
     if (program.isEmpty()) {
         fail(m_program.isEmpty() ? QStringLiteral("Kamailio is not there (Debian: kamailio and kamailio-tls-modules)")
-                                 : QStringLiteral("%1 is no program").arg(m_program));
+                                 : QStringLiteral("%1 is no program").arg(m_program),
+             cLookPauseMs);
         return;
     }
     choosePort();
     if (!makeFiles(&error)) {
-        fail(error);
+        fail(error, cLookPauseMs);
         return;
     }
     m_child = std::make_unique<ExchangeChild>();
@@ -84,9 +93,9 @@ void ExchangeKeeper::start()
     });
     // Shared and private memory in MiB: enough for a hundred calls. What endRemains looks for comes first.
     m_child->start(program, {QStringLiteral("-f"), ExchangeFolder::path(m_folder, ExchangeFolder::cConfiguration),
-                             QStringLiteral("-DD"), QStringLiteral("-E"), QStringLiteral("-m"), QStringLiteral("32"),
-                             QStringLiteral("-M"), QStringLiteral("4"), QStringLiteral("-w"), m_folder,
-                             QStringLiteral("-Y"), m_folder});
+                             QLatin1String(ExchangeChild::cStaysInFront), QStringLiteral("-E"), QStringLiteral("-m"),
+                             QStringLiteral("32"), QStringLiteral("-M"), QStringLiteral("4"), QStringLiteral("-w"),
+                             m_folder, QStringLiteral("-Y"), m_folder});
     m_patience.start(cStartMs);
     m_knockTimer.start(cKnockPauseMs);
     tellAll(lineOf(QStringLiteral("starting")));
@@ -154,11 +163,11 @@ bool ExchangeKeeper::mendFiles() const
     return written;
 }
 
-void ExchangeKeeper::fail(const QString &reason)
+/// What is missing may come: it is tried again after the pause.
+void ExchangeKeeper::fail(const QString &reason, int pauseMs)
 {
     tellAll(lineOf(QStringLiteral("failed"), {{QStringLiteral("reason"), reason}}));
-    // What is missing may come.
-    m_startTimer.start(cLongestPauseMs);
+    m_startTimer.start(pauseMs);
 }
 
 void ExchangeKeeper::childEnded()
@@ -180,11 +189,12 @@ void ExchangeKeeper::tryAgain()
 {
     if (m_failures >= cMostFailures) {
         const QByteArray said = m_log.lastError();
-        fail(said.isEmpty() ? QStringLiteral("Kamailio does not answer") : QString::fromUtf8(said));
+        fail(said.isEmpty() ? QStringLiteral("Kamailio does not answer") : QString::fromUtf8(said),
+             pauseAfter(cLookPauseMs, m_failures - cMostFailures));
         return;
     }
     // One that was killed comes back at once; one that dies time and again does not keep the machine busy.
-    m_startTimer.start(m_shortLives <= 1 ? 0 : qMin(cFirstPauseMs << qMin(m_shortLives, 6), cLongestPauseMs));
+    m_startTimer.start(m_shortLives <= 1 ? 0 : pauseAfter(cFirstPauseMs, m_shortLives));
     tellAll(lineOf(QStringLiteral("starting")));
 }
 

@@ -4,6 +4,8 @@
 #include "calls/exchange/ExchangeFolder.h"
 #include "calls/exchange/ExchangeKeeper.h"
 
+#include "endpoint/ProcessFrame.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
@@ -14,14 +16,8 @@
 
 namespace {
 
+constexpr const char *cProgram = "kelvarim-exchange";
 constexpr int cExitCannotKeep = 1;
-constexpr int cExitBadInput = 2;
-
-int complain(int exitCode, const QString &text)
-{
-    std::fprintf(stderr, "kelvarim-exchange: %s\n", qPrintable(text));
-    return exitCode;
-}
 
 } // namespace
 
@@ -47,7 +43,7 @@ int main(int argc, char *argv[])
     const QCommandLineOption helpOption(QStringLiteral("help"), QStringLiteral("print this"));
     parser.addOptions({folderOption, programOption, helpOption});
     if (!parser.parse(QCoreApplication::arguments()) || !parser.positionalArguments().isEmpty()) {
-        return complain(cExitBadInput, QStringLiteral("bad options; --help tells them"));
+        return complain(cExitBadInput, cProgram, QStringLiteral("bad options; --help tells them"));
     }
     if (parser.isSet(helpOption)) {
         std::fputs(qPrintable(parser.helpText()), stdout);
@@ -56,7 +52,7 @@ int main(int argc, char *argv[])
     QString error;
     const QString folder = ExchangeFolder::take(parser.value(folderOption), &error);
     if (folder.isEmpty()) {
-        return complain(cExitCannotKeep, error);
+        return complain(cExitCannotKeep, cProgram, error);
     }
     ExchangeKeeper keeper(folder, parser.value(programOption));
     QObject::connect(&keeper, &ExchangeKeeper::over, &application, &QCoreApplication::quit);
@@ -68,5 +64,5 @@ int main(int argc, char *argv[])
     case ExchangeKeeper::Begin::Failed:
         break;
     }
-    return complain(cExitCannotKeep, error);
+    return complain(cExitCannotKeep, cProgram, error);
 }

@@ -5,6 +5,12 @@
 
 #include <linphone++/linphone.hh>
 
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace {
 
 using Device = std::shared_ptr<linphone::AudioDevice>;
@@ -48,7 +54,50 @@ QString idOf(const Device &device)
     return device ? QString::fromStdString(device->getId()) : QStringLiteral("the library's choice");
 }
 
+/// What is wrong with a file to play; empty: nothing. Nobody may ever write into a pipe.
+QString faultOfPlayed(const std::string &file)
+{
+    const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0) {
+        return qt_error_string(errno);
+    }
+    std::array<char, 12> head{}; // "RIFF", a size, "WAVE"
+    const bool whole = ::read(descriptor, head.data(), head.size()) == ssize_t(head.size());
+    ::close(descriptor);
+    const bool sound = whole && std::memcmp(head.data(), "RIFF", 4) == 0 && std::memcmp(&head[8], "WAVE", 4) == 0;
+    return sound ? QString() : QStringLiteral("no WAV file");
+}
+
+/// The same for one to write, which is not there afterwards if it was not before.
+QString faultOfWritten(const std::string &file)
+{
+    constexpr int how = O_WRONLY | O_CLOEXEC | O_NONBLOCK;
+    int descriptor = ::open(file.c_str(), how | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
+    if (descriptor >= 0) {
+        ::unlink(file.c_str());
+    } else if (errno == EEXIST) {
+        descriptor = ::open(file.c_str(), how);
+    }
+    if (descriptor < 0) {
+        return qt_error_string(errno);
+    }
+    ::close(descriptor);
+    return {};
+}
+
 } // namespace
+
+QString faultOfFiles(const CallsSettings &settings)
+{
+    const auto fault = [](const char *setting, const std::string &file, QString (*faultOf)(const std::string &)) {
+        const QString wrong = file.empty() ? QString() : faultOf(file);
+        return wrong.isEmpty()
+                   ? QString()
+                   : QStringLiteral("%1 is %2: %3").arg(QLatin1String(setting), QString::fromStdString(file), wrong);
+    };
+    const QString played = fault("sound/wav-in", settings.wavIn, &faultOfPlayed);
+    return played.isEmpty() ? fault("sound/wav-out", settings.wavOut, &faultOfWritten) : played;
+}
 
 void chooseSound(linphone::Core &core, const CallsSettings &settings)
 {

@@ -11,6 +11,9 @@ namespace linphone {
 class Core;
 }
 
+/// What is wrong with the files that take the place of devices, with the setting that names it; empty: nothing.
+QString faultOfFiles(const CallsSettings &settings);
+
 /// Chooses between devices and files, and echo cancelling, for a core that is not started yet.
 void chooseSound(linphone::Core &core, const CallsSettings &settings);
 
