@@ -2,7 +2,7 @@
 #include "common/pictures/WaterMark.h"
 #include "model/LoginData.h"
 #include "model/SharedContext.h"
-#include "model/SkinContext.h"
+#include "model/SysUIData.h"
 #include "model/SystemSetData.h"
 
 #include <QPainter>
