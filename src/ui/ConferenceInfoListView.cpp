@@ -111,8 +111,8 @@ void CConferenceInfoListView::removeConfInfoData(QString strConfID)
 std::shared_ptr<const ConferenceCreator> CConferenceInfoListView::creatorOf(const QString &strUserID)
 {
     const ShownContact creator = ShownContact::ofUser(strUserID);
-    return std::make_shared<const ConferenceCreator>(ConferenceCreator{
-        strUserID, creator.record.displayName(), creator.strHeadPath, creator.bIsMe});
+    return std::make_shared<const ConferenceCreator>(
+        ConferenceCreator{strUserID, creator.record.displayName(), creator.strHeadPath, creator.bIsMe});
 }
 
 QStandardItem *CConferenceInfoListView::creatListItem(const ConfInfoData &confInfo,
