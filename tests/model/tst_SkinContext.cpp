@@ -1,4 +1,5 @@
 #include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "model/SkinContext.h"
 #include "model/Somewhere.h"
 

@@ -1,5 +1,6 @@
 #include "fakes/FakeHost.h"
 #include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "model/LoginData.h"
 #include "plugin/StrangerCards.h"
 #include "plugin/VoipManageMessageProcess.h"

@@ -1,6 +1,7 @@
 #include "fakes/FakeHost.h"
 #include "fakes/FreedBlocks.h"
 #include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "plugin/HostRequests.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "plugin/VoipManageMessageProcess.h"

@@ -7,6 +7,7 @@
 //                                        FIRST on and says each number once the record is saved
 
 #include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "store/DB.h"
 #include "store/NumberedRecord.h"
 

@@ -1,6 +1,7 @@
 #include "common/html/HtmlImages.h"
 #include "common/html/RandomMessage.h"
 #include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "model/SystemSetData.h"
 
 #include <QDomDocument>

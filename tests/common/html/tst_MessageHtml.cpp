@@ -4,6 +4,7 @@
 #include "common/html/RandomMessage.h"
 #include "common/html/WebLink.h"
 #include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "model/SysUIData.h"
 
 #include <QDomDocument>

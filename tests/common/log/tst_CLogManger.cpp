@@ -4,6 +4,7 @@
 #include "fakes/FileBytes.h"
 #include "fakes/GivenContext.h"
 #include "fakes/Patience.h"
+#include "model/CommonData.h"
 
 #include <QtTest>
 

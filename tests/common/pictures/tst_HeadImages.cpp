@@ -2,6 +2,7 @@
 #include "fakes/GivenContext.h"
 #include "fakes/PaintedPicture.h"
 #include "fakes/PictureFiles.h"
+#include "model/CommonData.h"
 #include "model/SystemSetData.h"
 
 #include <QPainter>

@@ -1,6 +1,7 @@
 #include "common/pictures/IconFont.h"
 #include "common/pictures/IconGlyphs.h"
 #include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 
 #include <QFontDatabase>
 #include <QGlyphRun>

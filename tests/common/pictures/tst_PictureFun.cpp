@@ -3,6 +3,7 @@
 #include "common/pictures/PictureFolders.h"
 #include "fakes/BuiltInAvatar.h"
 #include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "model/SystemSetData.h"
 
 #include <QtTest>

@@ -1,6 +1,7 @@
 #include "common/AppPaths.h"
 #include "common/pictures/WaterMark.h"
 #include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "model/LoginData.h"
 #include "model/SysUIData.h"
 #include "model/SystemSetData.h"
