@@ -191,6 +191,22 @@ int runByHand(HostSession &session, MainWindow &window)
     return status;
 }
 
+/// The client from signing in on. The tour's trace file is empty without a tour.
+int runClient(const Options &options, SingleInstance &instance, HostLanguage &language, const QString &strTraceFile)
+{
+    ContactBook book(HostSession::loginDomain(), options.user, options.world);
+    HostSession session(book);
+    QString error;
+    if (!session.start(QCoreApplication::applicationDirPath() + QStringLiteral("/libVoipManage.so"), &error)) {
+        return complain(EXIT_FAILURE, error);
+    }
+    QObject::connect(&session.settings(), &HostSettings::languageChanged, &language, &HostLanguage::use);
+    MainWindow window(session, book, options.side);
+    QObject::connect(&instance, &SingleInstance::frontWanted, &window, &MainWindow::comeToFront);
+    return options.tourFolder.isNull() ? runByHand(session, window)
+                                       : runTour(session, window, instance, options, strTraceFile);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -227,13 +243,5 @@ int main(int argc, char **argv)
     WindowFont::substituteMissing();
     HostLanguage language(HostCatalogue::folder());
     speak(language, !folder.isNull());
-    ContactBook book(HostSession::loginDomain(), options.user, options.world);
-    HostSession session(book);
-    if (!session.start(QCoreApplication::applicationDirPath() + QStringLiteral("/libVoipManage.so"), &error)) {
-        return complain(EXIT_FAILURE, error);
-    }
-    QObject::connect(&session.settings(), &HostSettings::languageChanged, &language, &HostLanguage::use);
-    MainWindow window(session, book, options.side);
-    QObject::connect(&instance, &SingleInstance::frontWanted, &window, &MainWindow::comeToFront);
-    return folder.isNull() ? runByHand(session, window) : runTour(session, window, instance, options, traceFile);
+    return runClient(options, instance, language, traceFile);
 }

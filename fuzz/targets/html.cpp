@@ -12,8 +12,8 @@
 #include "common/text/LabelText.h"
 #include "common/text/ShortText.h"
 #include "common/text/TextMeasure.h"
+#include "fakes/GivenContext.h"
 #include "model/CommonData.h"
-#include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 
 #include <QDomDocument>
@@ -141,7 +141,7 @@ void FuzzTargets::html(const QByteArray &input)
     static CommonData s_context;
     static SystemSetData s_settings;
     s_context.setSystemSetData(&s_settings);
-    SharedContext::setCommonData(&s_context);
+    const GivenContext given(s_context);
 
     if (input.isEmpty()) {
         return;

@@ -2,9 +2,9 @@
 
 #include "FuzzTargets.h"
 
+#include "fakes/GivenContext.h"
 #include "model/CommonData.h"
 #include "model/LoginData.h"
-#include "model/SharedContext.h"
 #include "model/UserIds.h"
 
 #include <QList>
@@ -61,7 +61,7 @@ void FuzzTargets::jid(const QByteArray &input)
     s_login.m_strUid = QStringLiteral("me");
     s_login.m_strDomain = QStringLiteral("kelvar.im");
     s_context.setLoginData(&s_login);
-    SharedContext::setCommonData(&s_context);
+    const GivenContext given(s_context);
 
     const Jid whole(input.toStdString());
     requireSound(whole);

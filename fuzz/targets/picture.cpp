@@ -6,8 +6,8 @@
 #include "common/pictures/NinePatch.h"
 #include "common/pictures/PictureFile.h"
 #include "common/pictures/PictureNames.h"
+#include "fakes/GivenContext.h"
 #include "model/CommonData.h"
-#include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 
 #include <QDir>
@@ -82,7 +82,7 @@ void FuzzTargets::picture(const QByteArray &input)
     static SystemSetData s_settings;
     s_settings.m_strHeadImageFolder = QDir::currentPath() + QLatin1String("/heads/");
     s_context.setSystemSetData(&s_settings);
-    SharedContext::setCommonData(&s_context);
+    const GivenContext given(s_context);
 
     if (input.isEmpty()) {
         return;

@@ -1,9 +1,9 @@
 #include "FuzzTargets.h"
 
+#include "fakes/GivenContext.h"
 #include "model/CSUtils.h"
 #include "model/CServiceNumData.h"
 #include "model/CommonData.h"
-#include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 
 #include <json/reader.h>
@@ -75,7 +75,7 @@ void FuzzTargets::service(const QByteArray &input)
     static CommonData s_context;
     static SystemSetData s_settings;
     s_context.setSystemSetData(&s_settings);
-    SharedContext::setCommonData(&s_context);
+    const GivenContext given(s_context);
 
     CServiceNumData data;
     try {

@@ -4,7 +4,7 @@
 #include "common/AppPaths.h"
 #include "common/CSettingsManager.h"
 #include "common/CUrlInfo.h"
-#include "common/settings/AccountMap.h"
+#include "common/AccountMap.h"
 #include "common/settings/ConfigFile.h"
 #include "model/SystemSetData.h"
 

@@ -1,7 +1,6 @@
 // The grid of members by keys, and what a screen reader calls it.
 
 #include "model/MemberRoles.h"
-#include "model/UserIds.h"
 #include "ui/ConfDetailMemberTableView.h"
 #include "ui/SignCard.h"
 #include "widgets/FocusRing.h"
@@ -34,10 +33,9 @@ void CConfDetailMemberTableView::changeEvent(QEvent *event)
 void CConfDetailMemberTableView::keyPressEvent(QKeyEvent *event)
 {
     m_pRing->heedKey();
-    const QString strUserID = currentIndex().data(ROLE_USER_ID).toString();
     const bool bEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (bEnter && !strUserID.isEmpty()) {
-        m_strSignJid = UserIds::getJidByUid(strUserID);
+    if (bEnter && !currentIndex().data(ROLE_USER_ID).toString().isEmpty()) {
+        m_strSignJid = signCardJid(currentIndex());
         m_signPos = signCardPlace(*this, currentIndex().data(ROLE_HEAD_RECT).toRect());
         showSignCard(*this, m_signTimer, m_strSignJid, m_signPos);
     } else if (cancelSignCard(*this, m_signTimer)) {

@@ -2,7 +2,6 @@
 
 #include "common/system/DpiScale.h"
 #include "model/MemberRoles.h"
-#include "model/UserIds.h"
 #include "ui/ConfDetailTableViewDelegate.h"
 #include "ui/ShownContact.h"
 #include "ui/SignCard.h"
@@ -131,7 +130,7 @@ void CConfDetailMemberTableView::hoverItem(const QModelIndex &index, const QPoin
     const QRect head = index.data(ROLE_HEAD_RECT).toRect();
     if (head.contains(position)) {
         m_signPos = signCardPlace(*this, head);
-        m_strSignJid = UserIds::getJidByUid(index.data(ROLE_USER_ID).toString());
+        m_strSignJid = signCardJid(index);
         // Each move inside the head starts the delay anew.
         m_signTimer.start(cSignDelay);
     } else if (!cancelSignCard(*this, m_signTimer)) {

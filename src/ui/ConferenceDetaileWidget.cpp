@@ -44,8 +44,7 @@ void CConferenceDetaileWidget::setConferenceDetail(ConfInfoData confInfo)
     }
     showCreator(creator);
     ui->lblCallTime->setText(ConferenceTexts::callLength(confInfo.m_strCallTime));
-    const bool bCreatedByMe = confInfo.m_strCreatUserID == UserIds::getLoginUID();
-    ui->isCreatorIcon->setText(IconGlyph::text(bCreatedByMe ? IconGlyph::CreatedByMe : IconGlyph::JoinedByMe));
+    ui->isCreatorIcon->setText(IconGlyph::text(creator.bIsMe ? IconGlyph::CreatedByMe : IconGlyph::JoinedByMe));
     nameDirection();
     ui->lblCreateTime->setText(ConferenceTexts::titleLine(confInfo.m_strCreatTime));
     ui->tableView->setMemList(confInfo.m_listMember);

@@ -4,7 +4,6 @@
 #include "common/Palette.h"
 #include "common/system/ScreenPlace.h"
 #include "model/MemberRoles.h"
-#include "model/UserIds.h"
 #include "ui/ConferenceInfoItem.h"
 #include "ui/ConferenceInfoListViewDelegate.h"
 #include "ui/ShownContact.h"
@@ -112,8 +111,8 @@ void CConferenceInfoListView::removeConfInfoData(QString strConfID)
 std::shared_ptr<const ConferenceCreator> CConferenceInfoListView::creatorOf(const QString &strUserID)
 {
     const ShownContact creator = ShownContact::ofUser(strUserID);
-    return std::make_shared<const ConferenceCreator>(ConferenceCreator{
-        strUserID, creator.record.displayName(), creator.strHeadPath, strUserID == UserIds::getLoginUID()});
+    return std::make_shared<const ConferenceCreator>(
+        ConferenceCreator{strUserID, creator.record.displayName(), creator.strHeadPath, creator.bIsMe});
 }
 
 QStandardItem *CConferenceInfoListView::creatListItem(const ConfInfoData &confInfo,
@@ -168,7 +167,7 @@ void CConferenceInfoListView::hoverRow(const QModelIndex &index, const QPoint &p
     }
     if (head.contains(position)) {
         m_signPos = signCardPlace(*this, head);
-        m_strSignJid = UserIds::getJidByUid(index.data(ROLE_USER_ID).toString());
+        m_strSignJid = signCardJid(index);
         // Each move inside the head starts the delay anew.
         m_signTimer.start(cSignDelay);
     } else if (!cancelSignCard(*this, m_signTimer)) {

@@ -8,7 +8,7 @@
 ShownContact ShownContact::ofUser(const QString &strUserID)
 {
     const FriendData record = VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(strUserID));
-    return {record, headPathOf(record.m_vcardInfo)};
+    return {record, headPathOf(record.m_vcardInfo), strUserID == UserIds::getLoginUID()};
 }
 
 QString ShownContact::headPathOf(const VcardInfo &vcard)

@@ -11,6 +11,8 @@ struct ShownContact
     FriendData record;
     /// The path of the head picture, as headPathOf gives it for the record's card.
     QString strHeadPath;
+    /// Whether it was looked up by the signed-in user's own id; false for the jid.
+    bool bIsMe = false;
 
     /// Looks up the user id `strUserID`, which may also be a jid. A user who is not in the client's friend map is asked
     /// for at the host, whose handler runs to its end in here: it may destroy the caller's window.

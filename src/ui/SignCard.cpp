@@ -1,11 +1,19 @@
 #include "ui/SignCard.h"
 
+#include "model/MemberRoles.h"
+#include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 
+#include <QModelIndex>
 #include <QPointer>
 #include <QRect>
 #include <QTimer>
 #include <QWidget>
+
+QString signCardJid(const QModelIndex &index)
+{
+    return UserIds::getJidByUid(index.data(ROLE_USER_ID).toString());
+}
 
 QPoint signCardPlace(const QWidget &view, const QRect &head)
 {

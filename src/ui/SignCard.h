@@ -4,6 +4,7 @@
 // while, at the list's left edge beside that head. The host may destroy the list while it takes a request. No state;
 // GUI thread only.
 
+class QModelIndex;
 class QPoint;
 class QRect;
 class QString;
@@ -12,6 +13,9 @@ class QWidget;
 
 /// How long the cursor rests on a head before its card comes, in milliseconds.
 constexpr int cSignDelay = 500;
+
+/// The jid that the card of the user in the cell `index` is asked for by.
+QString signCardJid(const QModelIndex &index);
 
 /// Where on the screen the card of a head belongs that stands at `head` in `view`.
 QPoint signCardPlace(const QWidget &view, const QRect &head);

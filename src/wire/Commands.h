@@ -19,6 +19,8 @@ inline constexpr const char *cProgram = "/VoipSDK/Contents/MacOS/VoipSDK";
 /// The key of a command's name. Its parameters have the next one with their number, from 1 on.
 inline constexpr const char *cKeyMessageType = "messagetype";
 inline constexpr const char *cKeyParameter = "param";
+/// The key of the value that RegeditUser registers a user with, which nobody else is to see.
+inline constexpr const char *cKeyRegistrationValue = "param3";
 
 /// The line that ends the call process, without its line feed: the only one that is no JSON.
 inline constexpr const char *cQuitLine = "quit";

@@ -2,7 +2,6 @@
 
 #include "fakes/EngineFixture.h"
 #include "fakes/QtMessages.h"
-#include "model/SharedContext.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/VoipWidget.h"
 
@@ -286,7 +285,7 @@ private slots:
     void lifeWithoutAHost()
     {
         EngineFixture f;
-        SharedContext::setCommonData(nullptr);
+        f.given.reset();
         VoipManageMessageProcess::instance()->setSendEvent(nullptr);
         f.manager->clientConnectStatus(true);
         f.notify(Code::IncomingCall, "bert");

@@ -2,7 +2,6 @@
 
 #include "fakes/QtMessages.h"
 #include "model/MemberRoles.h"
-#include "model/SharedContext.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConferenceListView.h"
 #include "ui/VoipWidget.h"
@@ -41,7 +40,7 @@ EngineFixture::EngineFixture(Start start) : m_start(start)
     login.m_strRegValue = QStringLiteral("ticket");
     context.setLoginData(&login);
     context.setSystemSetData(&settings);
-    SharedContext::setCommonData(&context);
+    given.emplace(context);
 
     host.whileHandled = [this](BaseEvent &event) {
         noteEvent(event);
@@ -66,7 +65,7 @@ EngineFixture::~EngineFixture()
     process.close();
     manager.reset();
     VoipManageMessageProcess::instance()->setSendEvent(nullptr);
-    SharedContext::setCommonData(nullptr);
+    given.reset();
 }
 
 void EngineFixture::createConference()

@@ -5,6 +5,7 @@
 
 #include "fakes/FakeCallProcess.h"
 #include "fakes/FakeHost.h"
+#include "fakes/GivenContext.h"
 #include "fakes/MessageBoxes.h"
 #include "fakes/VoipManageProbe.h"
 #include "model/CommonData.h"
@@ -13,6 +14,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class EngineFixture
 {
@@ -67,6 +69,7 @@ public:
     static void deliverPosted();
 
     CommonData context;
+    std::optional<GivenContext> given; ///< a test may take the context away
     LoginData login;
     SystemSetData settings;
     FakeHost host;

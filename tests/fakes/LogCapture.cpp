@@ -2,7 +2,6 @@
 
 #include "common/CLogManger.h"
 #include "fakes/Patience.h"
-#include "model/SharedContext.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -19,7 +18,6 @@ LogCapture::LogCapture() : m_logger(cLogFileName)
     m_thread.setCustomLogger(&m_logger);
     context.setCustomLogger(&m_logger);
     context.setCustomLogThread(&m_thread);
-    SharedContext::setCommonData(&context);
     CLogManger::instance();
     m_thread.start();
 }
@@ -30,7 +28,6 @@ LogCapture::~LogCapture()
     // The writer leaves only after one more record.
     m_thread.printLog(CustomLog::Debug, QString(), QString());
     m_thread.wait();
-    SharedContext::setCommonData(nullptr);
 }
 
 QString LogCapture::written()

@@ -6,6 +6,7 @@
 
 #include "common/CLogThread.h"
 #include "common/CustomLogger.h"
+#include "fakes/GivenContext.h"
 #include "model/CommonData.h"
 
 #include <QStringList>
@@ -38,4 +39,5 @@ private:
     CLogThread m_thread;
     int m_takeCount = 0;
     int m_readLines = 0;
+    GivenContext m_given{context};
 };

@@ -298,16 +298,9 @@ void CallModel::notify(int code, const QString &content)
     case Code::ConfMemberLeft:
         return memberLeft(content);
     case Code::CallConnected:
-        call.bIsConnected = true;
-        call.connectTime = QDateTime::currentDateTimeUtc();
-        inviteRuns = recevieRuns = false;
-        return;
+        return connected();
     case Code::ConfCreated:
-        if (content.isEmpty()) {
-            return finish(22);
-        }
-        call.confId = createdConferenceId(content);
-        return;
+        return created(content);
     case Code::PeerBusy:
         return finish(25);
     case Code::CallFailed:
@@ -317,6 +310,21 @@ void CallModel::notify(int code, const QString &content)
     default:
         return;
     }
+}
+
+void CallModel::connected()
+{
+    call.bIsConnected = true;
+    call.connectTime = QDateTime::currentDateTimeUtc();
+    inviteRuns = recevieRuns = false;
+}
+
+void CallModel::created(const QString &content)
+{
+    if (content.isEmpty()) {
+        return finish(22);
+    }
+    call.confId = createdConferenceId(content);
 }
 
 void CallModel::invitation(const QString &content)

@@ -61,6 +61,8 @@ private:
     void closeShownWindow();
     void ring(const QString &uid);
     void notify(int code, const QString &content);
+    void connected();
+    void created(const QString &content);
     void invitation(const QString &content);
     void update(const QString &content);
     void memberLeft(const QString &content);

@@ -8,10 +8,10 @@
 // BASE is the folder with the users' folders. PATIENCE is how many milliseconds a conference may take to connect, since
 // a channel that another client has taken answers never.
 
+#include "fakes/GivenContext.h"
 #include "fakes/MessageBoxes.h"
 #include "flow/FlowClient.h"
 #include "model/MemberRoles.h"
-#include "model/SharedContext.h"
 #include "store/DB.h"
 
 #include <QAbstractItemView>
@@ -86,7 +86,7 @@ int main(int argc, char **argv)
     QApplication::setQuitOnLastWindowClosed(false);
     qInstallMessageHandler(countRegistrations);
     FlowClient client("1000");
-    SharedContext::setCommonData(&client.context());
+    const GivenContext given(client.context());
     if (argc != 3 || !DB::initByUserName(QStringLiteral("30010000"), QString::fromLocal8Bit(argv[1]), true) ||
         !client.load()) {
         return EXIT_FAILURE;

@@ -81,17 +81,22 @@ private slots:
             }
         }
         QVERIFY2(nested > 100, "the host has done things inside its handlers");
-
         walk.engine.whileHandled = nullptr;
         walk.engine.boxes.whileOpen = nullptr;
-        walk.engine.boxes.texts.clear();
-        walk.engine.manager->exitVoip();
-        QVERIFY(!walk.engine.manager->isExistCall());
-        walk.engine.manager->slot_ReConnectVoipSDK();
-        walk.engine.manager->callSingleUser("anna", false);
-        QVERIFY2(walk.engine.manager->isExistCall(), "the engine still takes a call");
-        QVERIFY(walk.engine.manager->m_pVoipWidget->isVisible());
-        QCOMPARE(walk.engine.boxes.texts, QStringList());
+        takesACall(walk.engine);
+    }
+
+private:
+    static void takesACall(EngineFixture &engine)
+    {
+        engine.boxes.texts.clear();
+        engine.manager->exitVoip();
+        QVERIFY(!engine.manager->isExistCall());
+        engine.manager->slot_ReConnectVoipSDK();
+        engine.manager->callSingleUser("anna", false);
+        QVERIFY2(engine.manager->isExistCall(), "the engine still takes a call");
+        QVERIFY(engine.manager->m_pVoipWidget->isVisible());
+        QCOMPARE(engine.boxes.texts, QStringList());
     }
 };
 

@@ -1,8 +1,8 @@
 #include "fakes/BuiltInAvatar.h"
+#include "fakes/GivenContext.h"
 #include "model/CSUtils.h"
 #include "model/CServiceNumData.h"
 #include "model/CommonData.h"
-#include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 
 #include <QFile>
@@ -10,6 +10,8 @@
 
 #include <json/reader.h>
 #include <json/value.h>
+
+#include <optional>
 
 namespace {
 
@@ -47,10 +49,10 @@ private slots:
     {
         m_settings.m_strHeadImageFolder = "/data/me/designHeadImage/";
         m_context.setSystemSetData(&m_settings);
-        SharedContext::setCommonData(&m_context);
+        m_given.emplace(m_context);
     }
 
-    void cleanup() { SharedContext::setCommonData(nullptr); }
+    void cleanup() { m_given.reset(); }
 
     void aFreshRecordWasNeverReceived()
     {
@@ -386,6 +388,7 @@ private slots:
 private:
     SystemSetData m_settings;
     CommonData m_context;
+    std::optional<GivenContext> m_given;
 };
 
 #include "support/TestProgram.h"

@@ -1,4 +1,5 @@
-#include "model/SharedContext.h"
+#include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "model/SkinContext.h"
 #include "model/Somewhere.h"
 
@@ -101,12 +102,10 @@ class tst_SkinContext : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { SharedContext::setCommonData(nullptr); }
-
     void theBuiltInSkinHasEveryDefault()
     {
         CommonData context;
-        SharedContext::setCommonData(&context);
+        const GivenContext given(context);
         const std::map<int, QString> texts = textsOf(*SkinContext::getSkinData());
         QCOMPARE(texts.size(), size_t(62));
         for (const auto &[iPosition, strText] : texts) {
@@ -129,7 +128,7 @@ private slots:
     void theFirstRequestMakesTheSkinAndLaterOnesGetTheSame()
     {
         CommonData context;
-        SharedContext::setCommonData(&context);
+        const GivenContext given(context);
         SysUIData *pSkin = SkinContext::getSkinData();
         QVERIFY(pSkin);
         QCOMPARE(context.getSkinData(), pSkin);
@@ -142,7 +141,7 @@ private slots:
         SysUIData skin;
         CommonData context;
         context.setSkinData(&skin);
-        SharedContext::setCommonData(&context);
+        const GivenContext given(context);
         QCOMPARE(SkinContext::getSkinData(), &skin);
         QVERIFY(skin.m_strSkinName.isEmpty());
     }
@@ -150,13 +149,13 @@ private slots:
     void aSecondContextGetsASkinOfItsOwn()
     {
         CommonData first;
-        SharedContext::setCommonData(&first);
+        const GivenContext given(first);
         SysUIData changed;
         changed.m_strMainColor = "#123456";
         SkinContext::getSkinData();
         SkinContext::setSkinData(changed);
         CommonData second;
-        SharedContext::setCommonData(&second);
+        const GivenContext alsoGiven(second);
         QCOMPARE(SkinContext::getSkinData()->m_strMainColor, QString("#33af56"));
         QVERIFY(first.getSkinData() != second.getSkinData());
         QCOMPARE(first.getSkinData()->m_strMainColor, QString("#123456"));
@@ -179,7 +178,7 @@ private slots:
         Renamer renamer;
         QVERIFY(QCoreApplication::installTranslator(&renamer));
         CommonData context;
-        SharedContext::setCommonData(&context);
+        const GivenContext given(context);
         QCOMPARE(SkinContext::getSkinData()->m_strShownName, QString("Fresh green"));
         QCOMPARE(SkinContext::getSkinData()->m_strSkinName, QString("ThemeGreen"));
         QCOMPARE(SkinContext::getSkinData()->m_strSkinFolderName, QString("ThemeGreen"));
@@ -191,7 +190,7 @@ private slots:
         SysUIData current;
         CommonData context;
         context.setSkinData(&current);
-        SharedContext::setCommonData(&context);
+        const GivenContext given(context);
         SysUIData grey;
         grey.m_strSkinName = "ThemeGrey";
         grey.m_strShownName = "Grey";
@@ -205,7 +204,7 @@ private slots:
     void setSkinDataMakesNoSkin()
     {
         CommonData context;
-        SharedContext::setCommonData(&context);
+        const GivenContext given(context);
         SkinContext::setSkinData(SysUIData());
         QVERIFY(!context.getSkinData());
     }
@@ -215,7 +214,7 @@ private slots:
         QVERIFY(!SkinContext::getSysUIDataList());
         QVERIFY(!SkinContext::getChatBubblesList());
         CommonData context;
-        SharedContext::setCommonData(&context);
+        const GivenContext given(context);
         QVERIFY(!SkinContext::getSysUIDataList());
         QVERIFY(!SkinContext::getChatBubblesList());
         context.setListSysUIData(somewhere<QList<SysUIData>>(1));

@@ -1,8 +1,9 @@
-#include "model/SharedContext.h"
 #include "model/SignedInContext.h"
 #include "model/UserIds.h"
 
 #include <QTest>
+
+#include <optional>
 
 class tst_UserIds : public QObject
 {
@@ -40,7 +41,10 @@ private slots:
     {
         QFETCH(bool, context);
         CommonData emptyContext;
-        SharedContext::setCommonData(context ? &emptyContext : nullptr);
+        std::optional<GivenContext> given;
+        if (context) {
+            given.emplace(emptyContext);
+        }
         UserIds::setMychannelID("KFCNL1");
         QCOMPARE(UserIds::getLoginUID(), QString());
         QCOMPARE(UserIds::getLoginDomain(), QString());
@@ -51,7 +55,6 @@ private slots:
         QVERIFY(!UserIds::getIsAgentUser());
         QCOMPARE(UserIds::getJidByUid("a"), QString("a@"));
         QCOMPARE(UserIds::getSessionIdByChatJid("a"), QString("_a"));
-        SharedContext::setCommonData(nullptr);
     }
 
     void aJidIsMadeOfAnId_data()

@@ -1,13 +1,15 @@
 #include "ProcessorClock.h"
 
 #include "fakes/BuiltInAvatar.h"
+#include "fakes/GivenContext.h"
 #include "model/CommonData.h"
-#include "model/SharedContext.h"
 #include "model/SystemSetData.h"
 #include "model/VcardInfo.h"
 
 #include <QRandomGenerator>
 #include <QTest>
+
+#include <optional>
 
 namespace {
 
@@ -48,10 +50,10 @@ private slots:
     {
         m_settings.m_strHeadImageFolder = "/data/me/designHeadImage/";
         m_context.setSystemSetData(&m_settings);
-        SharedContext::setCommonData(&m_context);
+        m_given.emplace(m_context);
     }
 
-    void cleanup() { SharedContext::setCommonData(nullptr); }
+    void cleanup() { m_given.reset(); }
 
     void aNewCardHasNoVersionsAndABuiltInPicture()
     {
@@ -211,12 +213,12 @@ private slots:
 
     void withoutSettingsTheUsersFolderIsEmpty()
     {
-        SharedContext::setCommonData(nullptr);
+        m_given.reset();
         VcardInfo card;
         card.setPhotoName("tst_own");
         QCOMPARE(card.m_strPhotoPath, QString("tst_own.jpg"));
         CommonData contextWithoutSettings;
-        SharedContext::setCommonData(&contextWithoutSettings);
+        m_given.emplace(contextWithoutSettings);
         card.setPhotoName("tst_other");
         QCOMPARE(card.m_strPhotoPath, QString("tst_other.jpg"));
     }
@@ -224,6 +226,7 @@ private slots:
 private:
     SystemSetData m_settings;
     CommonData m_context;
+    std::optional<GivenContext> m_given;
 };
 
 #include "support/TestProgram.h"

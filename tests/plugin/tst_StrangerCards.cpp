@@ -1,6 +1,7 @@
 #include "fakes/FakeHost.h"
+#include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "model/LoginData.h"
-#include "model/SharedContext.h"
 #include "plugin/StrangerCards.h"
 #include "plugin/VoipManageMessageProcess.h"
 
@@ -9,6 +10,7 @@
 
 #include <limits>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -28,14 +30,14 @@ private slots:
         m_login.m_strDomain = QStringLiteral("d");
         m_context.setLoginData(&m_login);
         m_context.setFriendDataMap({});
-        SharedContext::setCommonData(&m_context);
+        m_given.emplace(m_context);
         VoipManageMessageProcess::instance()->setSendEvent(m_host.get());
     }
 
     void cleanup()
     {
         m_host.reset();
-        SharedContext::setCommonData(nullptr);
+        m_given.reset();
     }
 
     void strangerIsNotedWithTheVersionAtHand_data()
@@ -181,6 +183,7 @@ private:
 
     std::unique_ptr<FakeHost> m_host;
     CommonData m_context;
+    std::optional<GivenContext> m_given;
     LoginData m_login;
 };
 

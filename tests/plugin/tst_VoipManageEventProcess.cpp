@@ -1,6 +1,7 @@
 #include "fakes/FakeHost.h"
 #include "fakes/FreedBlocks.h"
-#include "model/SharedContext.h"
+#include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "plugin/HostRequests.h"
 #include "plugin/VoipManageEventProcess.h"
 #include "plugin/VoipManageMessageProcess.h"
@@ -11,6 +12,7 @@
 #include <functional>
 #include <iterator>
 #include <limits>
+#include <optional>
 
 using Requests = VoipManageEventProcess;
 
@@ -32,13 +34,13 @@ private slots:
         m_host = std::make_unique<FakeHost>();
         VoipManageMessageProcess::instance()->setSendEvent(host());
         m_context.setFriendDataMap({});
-        SharedContext::setCommonData(&m_context);
+        m_given.emplace(m_context);
     }
 
     void cleanup()
     {
         m_host.reset();
-        SharedContext::setCommonData(nullptr);
+        m_given.reset();
     }
 
     void thereAreTenRequests()
@@ -218,7 +220,7 @@ private slots:
         m_context.setFriendDataMap({{cJid, FriendData()}});
         FriendData copy = Requests::getFriendInfoByJid(cJid);
         copy.m_vcardInfo.m_strNickName = QStringLiteral("changed");
-        QVERIFY(SharedContext::getFriendDataMap().value(cJid).m_vcardInfo.m_strNickName.isEmpty());
+        QVERIFY(m_context.getFriendDataMap().value(cJid).m_vcardInfo.m_strNickName.isEmpty());
     }
 
     void friendIsAskedForWhenTheMapHasAnother()
@@ -324,7 +326,7 @@ private slots:
     void requestsWithoutHostReturnDefaults()
     {
         VoipManageMessageProcess::instance()->setSendEvent(nullptr);
-        SharedContext::setCommonData(nullptr);
+        m_given.reset();
         QVERIFY(Requests::getFriendInfoByJid(cJid).m_strJid.isEmpty());
         QVERIFY(!Requests::isExistFriend(cJid));
         QCOMPARE(Requests::addMemberToConference({}), QStringList());
@@ -355,6 +357,7 @@ private:
 
     std::unique_ptr<FakeHost> m_host;
     CommonData m_context;
+    std::optional<GivenContext> m_given;
 };
 
 #include "support/TestProgram.h"

@@ -3,6 +3,7 @@
 // What a test of the store stands on: a client context, a folder of its own, Qt's messages taken down, and a way to the
 // file that does not lead through the code under test.
 
+#include "fakes/GivenContext.h"
 #include "fakes/QtMessages.h"
 #include "model/CommonData.h"
 #include "store/DB.h"
@@ -15,6 +16,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QVariant>
+
+#include <optional>
 
 /// A file opened beside the session, with a connection of its own.
 class BesideFile
@@ -64,7 +67,7 @@ private:
 class StoreFixture
 {
 public:
-    StoreFixture();
+    StoreFixture() = default;
     ~StoreFixture();
     StoreFixture(const StoreFixture &) = delete;
     StoreFixture &operator=(const StoreFixture &) = delete;
@@ -88,6 +91,7 @@ public:
     }
 
     CommonData context;
+    std::optional<GivenContext> given{context}; ///< a test may take the context away
     QtMessages messages;
 
 private:

@@ -1,7 +1,5 @@
 #include "store/StoreFolder.h"
 
-#include "model/SharedContext.h"
-
 #include <QDir>
 #include <QFile>
 #include <QSqlDatabase>
@@ -10,7 +8,7 @@
 
 void StoreFolder::initTestCase()
 {
-    SharedContext::setCommonData(&m_data);
+    m_given.emplace(m_data);
     init();
     QVERIFY(DB::initByUserName(m_strUser, m_strBase, true));
     for (int i = 0; i < m_iRecords; ++i) {

@@ -3,6 +3,7 @@
 // The base of tests that look at the store's file from outside: a folder for each test function, a sound file to start
 // from, and the check that no test makes Qt warn or leaves the session open.
 
+#include "fakes/GivenContext.h"
 #include "fakes/QtMessages.h"
 #include "model/CommonData.h"
 #include "store/DB.h"
@@ -13,6 +14,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
 class StoreFolder : public QObject
 {
@@ -52,5 +54,6 @@ protected:
 private:
     int m_iRound = 0;
     CommonData m_data;
+    std::optional<GivenContext> m_given;
     std::unique_ptr<QtMessages> m_pMessages;
 };

@@ -6,7 +6,8 @@
 //   store_child write BASE FIRST         says "start", opens the store of "user", then saves the numbered records from
 //                                        FIRST on and says each number once the record is saved
 
-#include "model/SharedContext.h"
+#include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "store/DB.h"
 #include "store/NumberedRecord.h"
 
@@ -53,7 +54,7 @@ int hold(const QString &strFile, const QString &strStatements, int iMilliseconds
 int write(const QString &strBase, int iFirst)
 {
     CommonData data;
-    SharedContext::setCommonData(&data);
+    const GivenContext given(data);
     say("start");
     if (!DB::initByUserName(QStringLiteral("user"), strBase, true)) {
         return EXIT_FAILURE;

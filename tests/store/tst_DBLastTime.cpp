@@ -1,6 +1,5 @@
 #include "common/CLogManger.h"
 #include "fakes/LogCapture.h"
-#include "model/SharedContext.h"
 #include "store/DBLastTime.h"
 #include "store/StoreTest.h"
 
@@ -143,11 +142,11 @@ private slots:
     void aFirstOpenWithoutAContextLeavesTheRowMissingForGood()
     {
         DB::closeDB();
-        SharedContext::setCommonData(nullptr);
+        m_store->given.reset();
         QVERIFY(m_store->open("bert"));
         QCOMPARE(loggedErrors(), QStringList(saveFailed(QString()) + cNoConnection));
         QVERIFY(m_store->open("bert"));
-        SharedContext::setCommonData(&m_store->context);
+        m_store->given.emplace(m_store->context);
         QVERIFY(m_store->open("bert"));
         QVERIFY(DB::isExistTable("last_time"));
         QCOMPARE(BesideFile(m_store->file("bert")).rows("SELECT * FROM last_time"), QStringList());

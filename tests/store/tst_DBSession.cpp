@@ -1,7 +1,6 @@
 // The session connection: how a user's store is opened, switched and closed, and where the context points meanwhile.
 
 #include "common/AppPaths.h"
-#include "model/SharedContext.h"
 #include "store/StoreTest.h"
 
 namespace {
@@ -152,7 +151,7 @@ private slots:
         DB::closeDB();
         QVERIFY(DB::m_db.isOpen());
         QVERIFY(DB::isExistTable("loginInfo"));
-        SharedContext::setCommonData(nullptr);
+        m_store->given.reset();
         DB::closeDB();
         QVERIFY(DB::m_db.isOpen());
         QVERIFY(QSqlDatabase::contains("KelvarIM"));
@@ -202,7 +201,7 @@ private slots:
 
     void withoutAContextTheFileOpensAndNothingPointsToIt()
     {
-        SharedContext::setCommonData(nullptr);
+        m_store->given.reset();
         QVERIFY(!DB::getDB().isValid());
         DB::closeDB();
         QVERIFY(m_store->open("anna"));

@@ -6,7 +6,8 @@ PARTS has a line "target NAME" for each target of src/ and apps/, behind it its 
 for each module of Qt that they link, with lines "headers FOLDER". Every file there belongs to a target and includes only files
 of its own target and of those that this links. A target names just those modules of Qt whose headers it includes; those that a
 named one needs itself may be left out. No targets link each other in a circle, and no files include each other in one, nor do
-units, which are a header and its source, the folders of src/ or the rooms of a program.
+units, which are a header and its source, the folders of src/, the rooms of a program, or those of such a folder and the folder
+itself.
 """
 
 import collections
@@ -101,6 +102,15 @@ def rooms_of(graph, program):
     return {room: reached - {room} for room, reached in rooms.items()}
 
 
+def places_of(graph, folder):
+    """Which rooms of a folder of src/, and the folder itself, include from which others."""
+    places = collections.defaultdict(set)
+    for file, reached in graph.items():
+        if folder in file.parents:
+            places[file.parent].update(found.parent for found in reached if folder in found.parents)
+    return {place: reached - {place} for place, reached in places.items()}
+
+
 def folders_of(graph, top):
     """Which folders of `top`, with all their rooms, include from which others."""
     folders = collections.defaultdict(set)
@@ -159,6 +169,11 @@ def main():
         problems += [
             f"circle of rooms: {' > '.join(str(room.relative_to(root)) for room in road)}"
             for road in circles(rooms_of(graph, program))
+        ]
+    for folder in sorted(path for path in (root / "src").iterdir() if path.is_dir()):
+        problems += [
+            f"circle of rooms: {' > '.join(str(room.relative_to(root)) for room in road)}"
+            for road in circles(places_of(graph, folder))
         ]
     problems += [f"circle of folders: {' > '.join(road)}" for road in circles(folders_of(graph, root / "src"))]
     problems += [f"circle of targets: {' > '.join(road)}" for road in circles(links)]

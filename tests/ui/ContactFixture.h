@@ -10,6 +10,8 @@
 
 #include <QFont>
 
+#include <optional>
+
 class ContactFixture
 {
 public:
@@ -52,9 +54,12 @@ public:
         m_data.setIconFont(&m_iconFont);
     }
 
+    /// Takes the context away as a host does that ends.
+    void takeAway() { m_given.reset(); }
+
 private:
     LoginData m_login;
     QFont m_iconFont;
     CommonData m_data;
-    GivenContext m_given{m_data};
+    std::optional<GivenContext> m_given{m_data};
 };

@@ -3,7 +3,6 @@
 #include "MemberGridTest.h"
 
 #include "fakes/Patience.h"
-#include "model/SharedContext.h"
 
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -163,7 +162,7 @@ private slots:
         show(1);
         moveTo(head(0, 0).center());
         m_pHost.reset();
-        SharedContext::setCommonData(nullptr);
+        m_pContacts->takeAway();
         runOut();
         moveTo(cell(0, 0) + QPoint(40, 70));
         QVERIFY(!delay()->isActive());

@@ -7,7 +7,6 @@
 #include "fakes/PaintedPicture.h"
 #include "fakes/Patience.h"
 #include "model/MemberRoles.h"
-#include "model/SharedContext.h"
 #include "plugin/VoipManageMessageProcess.h"
 #include "ui/ConfDetailMemberTableView.h"
 #include "ui/ConferenceDetaileWidget.h"
@@ -373,7 +372,7 @@ private slots:
 
     void pageWorksWithoutAHost()
     {
-        SharedContext::setCommonData(nullptr);
+        m_pContacts->takeAway();
         m_pHost.reset();
         m_pPage->setConferenceDetail(record(QStringLiteral("ann"), QStringLiteral("75"), {QStringLiteral("a")}));
         QCOMPARE(text("lblCallTime"), QStringLiteral("1分15秒"));

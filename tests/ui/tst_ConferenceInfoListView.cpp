@@ -4,7 +4,6 @@
 
 #include "common/Palette.h"
 #include "fakes/Patience.h"
-#include "model/SharedContext.h"
 #include "plugin/EMsgId.h"
 
 #include <QMetaMethod>
@@ -44,7 +43,7 @@ private slots:
         m_pContacts->addContact(QStringLiteral("ann"),
                                 ContactFixture::card(QStringLiteral("Ann"), QStringLiteral("Annie")));
         m_pList->addConfInfoList({record(QStringLiteral("c1"))});
-        QCOMPARE(data(0, Qt::UserRole + 1).toString(), SharedContext::getFriendDataMap().first().displayName());
+        QCOMPARE(data(0, Qt::UserRole + 1).toString(), QStringLiteral("Ann"));
         QCOMPARE(data(0, Qt::UserRole + 2).toString(), QStringLiteral("Resources/images/FriendDetail/defaultHead.png"));
         QCOMPARE(data(0, Qt::UserRole + 8).toString(), QStringLiteral("c1"));
         QCOMPARE(data(0, Qt::UserRole + 90).toString(), QStringLiteral("ann"));

@@ -5,7 +5,6 @@
 
 #include "fakes/Allocations.h"
 #include "model/FriendData.h"
-#include "model/UserIds.h"
 #include "plugin/VoipManageEventProcess.h"
 
 #include <QStandardItem>
@@ -63,8 +62,9 @@ private slots:
                 row.setData(role.value(), role.key());
             }
         });
-        const int question = Allocations::during(
-            [&] { VoipManageEventProcess::getFriendInfoByJid(UserIds::getJidByUid(bob)).displayName(); });
+        const QString jid = ContactFixture::jid(bob);
+        const int question =
+            Allocations::during([&] { VoipManageEventProcess::getFriendInfoByJid(jid).displayName(); });
         QVERIFY2(whole - question < roleByRole,
                  qPrintable(QStringLiteral("%1, %2 of them for the question; role by role %3")
                                 .arg(whole)

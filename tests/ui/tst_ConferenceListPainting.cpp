@@ -32,14 +32,39 @@ class tst_ConferenceListPainting : public MemberListTest
     Q_OBJECT
 
 private:
+    /// The glyphs of a row whose name is so wide.
+    static void paintGlyphsByNumbers(QPainter &painter, const QRect &r, const QModelIndex &row, int iName)
+    {
+        const QRect remove(r.right() + 1 - 20 - 18, r.top() + 10, 18, 18);
+        const QRect mute(remove.left() - 18 - 18, r.top() + 10, 18, 18);
+        const bool bMine = row.data(Qt::UserRole + 13).toBool();
+        const int iStatus = row.data(Qt::UserRole + 139).toInt();
+        QFont font = IconFont::getIconFont();
+        font.setPixelSize(14);
+        painter.setFont(font);
+        if (bMine && iStatus != 0) {
+            painter.setPen(row.data(Qt::UserRole + 141).toBool() ? QColor(255, 97, 88) : QColor(158, 158, 158));
+            painter.drawText(remove, QString(QChar(0xE726)), QTextOption());
+        }
+        if (bMine && iStatus == 1) {
+            painter.setPen(row.data(Qt::UserRole + 143).toBool() ? QColor(0, 185, 31) : QColor(158, 158, 158));
+            painter.drawText(mute, QString(QChar(row.data(Qt::UserRole + 144).toBool() ? 0xF64C : 0xF64D)),
+                             QTextOption());
+        }
+        if (row.data(Qt::UserRole + 85).toBool()) {
+            painter.setPen(QColor(0x7c, 0x7c, 0x7c));
+            painter.drawText(QRect(r.left() + 52 + iName + 18, r.top() + 10, 18, 18), QString(QChar(0xE65C)),
+                             QTextOption());
+        }
+    }
+
     /// The row by its numbers, with nothing kept from one painting to the next.
     static void paintByNumbers(QPainter &painter, const QRect &r, const QModelIndex &row)
     {
         const QPen pen = painter.pen();
-        const QRect remove(r.right() + 1 - 20 - 18, r.top() + 10, 18, 18);
-        const QRect mute(remove.left() - 18 - 18, r.top() + 10, 18, 18);
         const bool bMine = row.data(Qt::UserRole + 13).toBool();
-        const QRect status(bMine ? mute.left() - 100 - 50 : r.right() + 1 - 50 - 20, r.top() + 10, 50, r.height());
+        const QRect status(bMine ? r.right() + 1 - 20 - 18 - 18 - 18 - 100 - 50 : r.right() + 1 - 50 - 20, r.top() + 10,
+                           50, r.height());
         paintHeadByNumbers(painter, r.topLeft() + QPoint(20, 8), row.data(Qt::UserRole + 2).toString(), 22);
 
         QFont font(cFont);
@@ -59,23 +84,7 @@ private:
         painter.setPen(iStatus == 1 ? QPen(QColor(0, 185, 31)) : pen);
         painter.drawText(status, words.value(iStatus, QStringLiteral("未接通")), QTextOption());
 
-        font = IconFont::getIconFont();
-        font.setPixelSize(14);
-        painter.setFont(font);
-        if (bMine && iStatus != 0) {
-            painter.setPen(row.data(Qt::UserRole + 141).toBool() ? QColor(255, 97, 88) : QColor(158, 158, 158));
-            painter.drawText(remove, QString(QChar(0xE726)), QTextOption());
-        }
-        if (bMine && iStatus == 1) {
-            painter.setPen(row.data(Qt::UserRole + 143).toBool() ? QColor(0, 185, 31) : QColor(158, 158, 158));
-            painter.drawText(mute, QString(QChar(row.data(Qt::UserRole + 144).toBool() ? 0xF64C : 0xF64D)),
-                             QTextOption());
-        }
-        if (row.data(Qt::UserRole + 85).toBool()) {
-            painter.setPen(QColor(0x7c, 0x7c, 0x7c));
-            painter.drawText(QRect(r.left() + 52 + iWidth + 18, r.top() + 10, 18, 18), QString(QChar(0xE65C)),
-                             QTextOption());
-        }
+        paintGlyphsByNumbers(painter, r, row, iWidth);
         painter.fillRect(QRect(QPoint(r.left() + 20, r.bottom()), QPoint(r.right() - 20, r.bottom())),
                          QColor(224, 224, 224));
         painter.setPen(pen);

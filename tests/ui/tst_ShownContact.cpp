@@ -80,6 +80,22 @@ private slots:
         QCOMPARE(nobody.strHeadPath, m_strDefaultHead);
     }
 
+    void theSignedInUserIsToldByTheId_data()
+    {
+        QTest::addColumn<QString>("user");
+        QTest::addColumn<bool>("me");
+        QTest::newRow("own id") << "me" << true;
+        QTest::newRow("own jid") << "me@kelvar.im" << false;
+        QTest::newRow("another") << "ann" << false;
+        QTest::newRow("none") << QString() << false;
+    }
+
+    void theSignedInUserIsToldByTheId()
+    {
+        QFETCH(QString, user);
+        QTEST(ShownContact::ofUser(user).bIsMe, "me");
+    }
+
     void aWronglyNamedPictureIsRenamed()
     {
         const QString strWrong = written(QStringLiteral("wrong.png"), "JPG");

@@ -1,6 +1,7 @@
 #include "calls/agent/UserAgentCore.h"
 
 #include "calls/agent/AgentCore.h"
+#include "calls/agent/CallState.h"
 #include "calls/agent/FarText.h"
 #include "calls/agent/Guard.h"
 #include "calls/settings/CallsSettings.h"
@@ -20,17 +21,6 @@ constexpr int cStopStepUs = 10000;
 
 // What the library says of a call that it ended for want of sound.
 constexpr int cStatusMediaLost = 503;
-
-bool isOver(linphone::Call::State state)
-{
-    return state == linphone::Call::State::End || state == linphone::Call::State::Error ||
-           state == linphone::Call::State::Released;
-}
-
-bool isArrival(linphone::Call::State state)
-{
-    return state == linphone::Call::State::IncomingReceived || state == linphone::Call::State::PushIncomingReceived;
-}
 
 } // namespace
 
@@ -290,39 +280,6 @@ void UserAgent::Core::onCallStateChanged(const std::shared_ptr<linphone::Core> &
             takeStranger(call, state);
         }
     });
-}
-
-void UserAgent::Core::takeStranger(const std::shared_ptr<linphone::Call> &call, linphone::Call::State state)
-{
-    if (isArrival(state)) {
-        takeArrival(call);
-    } else if (state == linphone::Call::State::OutgoingInit && !m_placing) {
-        // The far end may ask the library to call somebody else.
-        call->terminate();
-        emit m_agent.remarked(QStringLiteral("a call that nobody here has placed was ended"));
-    }
-}
-
-void UserAgent::Core::takeArrival(const std::shared_ptr<linphone::Call> &call)
-{
-    const auto address = call->getRemoteAddress();
-    const QString userId = farText(address->getUsername(), cUserIdLimit + 1);
-    const auto remote = call->getRemoteParams();
-    if (m_call && !isOver(m_call->getState())) {
-        call->decline(linphone::Reason::Busy);
-    } else if (!isUserId(userId) || !m_registration->isOfThisExchange(*address)) {
-        // Another domain's user would read as the user of the same name here.
-        call->decline(linphone::Reason::Forbidden);
-        emit m_agent.remarked(QStringLiteral("refused a call from %1: not of this exchange")
-                                  .arg(farText(address->asStringUriOnly(), cRemarkLimit)));
-    } else if (remote && !remote->getCustomHeader("X-Conference").empty()) {
-        call->decline(linphone::Reason::NotImplemented);
-    } else {
-        m_tones.stop();
-        m_call = call;
-        m_mediaRan = false;
-        emit m_agent.callArrived(userId);
-    }
 }
 
 bool UserAgent::Core::isBeingPlacedTo(const linphone::Address &address) const

@@ -180,9 +180,9 @@ void Desk::requestConference(const Command & /*command*/)
 
 void Desk::addToConference(const Command &command)
 {
-    const QJsonObject failed{{QStringLiteral("failedNums"), QJsonArray::fromStringList(command.texts(1))}};
+    const QJsonObject failed{{QString::fromLatin1(Wire::cKeyFailedNums), QJsonArray::fromStringList(command.texts(1))}};
     m_outlet.notify(Wire::Code::ConfAddResult,
-                    documentText({{QStringLiteral("status"), 0}, {QStringLiteral("result"), failed}}));
+                    documentText({{QStringLiteral("status"), 0}, {QString::fromLatin1(Wire::cKeyResult), failed}}));
 }
 
 void Desk::acceptCall(const Command & /*command*/)

@@ -7,7 +7,6 @@
 #include "common/AppInfo.h"
 #include "common/AppPaths.h"
 #include "common/settings/ConfigFile.h"
-#include "model/SkinContext.h"
 #include "model/SystemSetData.h"
 
 #include <QApplication>
@@ -129,14 +128,7 @@ bool HostSettings::setSkin(const QString &strName)
     if (!SettingsFile::write(userFile(), {{cSkinKey, strName}})) {
         return false;
     }
-    const QList<SysUIData> *skins = SkinContext::getSysUIDataList();
-    if (skins == nullptr) {
-        return true;
-    }
-    const auto found = std::find_if(skins->begin(), skins->end(),
-                                    [&](const SysUIData &skin) { return skin.m_strSkinName == strName; });
-    if (found != skins->end()) {
-        SkinContext::setSkinData(*found);
+    if (HostSkins::use(strName)) {
         emit skinChanged();
         // The plug-in's windows fetch the colour of their frame at each paint.
         const QWidgetList widgets = QApplication::allWidgets();

@@ -89,6 +89,21 @@ QString HostSkins::currentName()
     return SkinContext::getSkinData()->m_strSkinName;
 }
 
+bool HostSkins::use(const QString &strName)
+{
+    const QList<SysUIData> *skins = SkinContext::getSysUIDataList();
+    if (skins == nullptr) {
+        return false;
+    }
+    const auto found = std::find_if(skins->begin(), skins->end(),
+                                    [&](const SysUIData &skin) { return skin.m_strSkinName == strName; });
+    if (found == skins->end()) {
+        return false;
+    }
+    SkinContext::setSkinData(*found);
+    return true;
+}
+
 QList<SysUIData> HostSkins::makeAll()
 {
     const SysUIData standard = *SkinContext::getSkinData();

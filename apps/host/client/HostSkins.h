@@ -18,6 +18,10 @@ QString standardName();
 /// The name of the current skin, as the shared context has it.
 QString currentName();
 
+/// Makes the skin of that name of the shared context's list the current one. False where the list has none such, or
+/// where there is no list.
+bool use(const QString &strName);
+
 /// All skins, the standard one first, as they stand in the shared context's list. They are made from the built-in one
 /// with its greens replaced, so without a shared context or before the context has a skin.
 QList<SysUIData> makeAll();

@@ -2,6 +2,9 @@
 
 #include "traffic/TraceFolder.h"
 
+#include "wire/Commands.h"
+#include "wire/Notifications.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QProcessEnvironment>
@@ -55,5 +58,7 @@ bool OtherClient::hasTraced(const QByteArray &words) const
 
 bool OtherClient::hasRegistered(const QByteArray &uid) const
 {
-    return hasTraced("\"param1\":\"" + uid) && hasTraced("\"resultCode\":17");
+    const QByteArray quote("\"");
+    return hasTraced(quote + Wire::cKeyParameter + "1\":\"" + uid) &&
+           hasTraced(quote + Wire::cKeyResultCode + "\":" + QByteArray::number(static_cast<int>(Wire::Code::SdkFlag)));
 }

@@ -4,6 +4,7 @@
 #include "session/HostSession.h"
 
 #include "wire/Commands.h"
+#include "wire/Notifications.h"
 
 #include <QRegularExpression>
 
@@ -20,7 +21,8 @@ void sayFrom(const QString &strWho, const QString &strWhat)
 bool isCommand(const WireLine &line, const QString &strType, const QString &strPart)
 {
     return line.direction == WireLine::FromPlugin &&
-           line.text.contains(QStringLiteral("\"messagetype\":\"%1\"").arg(strType)) && line.text.contains(strPart);
+           line.text.contains(QStringLiteral("\"%1\":\"%2\"").arg(QLatin1String(Wire::cKeyMessageType), strType)) &&
+           line.text.contains(strPart);
 }
 
 } // namespace
@@ -107,7 +109,8 @@ bool TourWatch::quitLine() const
 
 bool TourWatch::notified(int iCode) const
 {
-    const QRegularExpression code(QStringLiteral("\"resultCode\":\\s*%1\\b").arg(iCode));
+    const QRegularExpression code(
+        QStringLiteral("\"%1\":\\s*%2\\b").arg(QLatin1String(Wire::cKeyResultCode)).arg(iCode));
     return std::any_of(m_lines.begin(), m_lines.end(), [&](const WireLine &line) {
         return line.direction == WireLine::ToPlugin && line.text.contains(code);
     });

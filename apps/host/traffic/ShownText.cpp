@@ -138,9 +138,9 @@ QString SecretMask::masked(const QString &strText) const
     static const QString names =
         QStringLiteral("cookie|passw(?:or)?d|passphrase|pwd|token|secret|credential|authori[sz]ation|regvalue");
     static const QRegularExpression keys(form.arg(names), QRegularExpression::CaseInsensitiveOption);
-    // The third parameter of a registration is the value with which the user is registered.
-    static const QRegularExpression keysOfRegistration(form.arg(names + QStringLiteral("|param3")),
-                                                       QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression keysOfRegistration(
+        form.arg(names + QLatin1Char('|') + QLatin1String(Wire::cKeyRegistrationValue)),
+        QRegularExpression::CaseInsensitiveOption);
     QString text = strText;
     for (const QString &secret : m_secrets) {
         text.replace(secret, mark());

@@ -306,5 +306,5 @@ QString WireWords::secretOf(const QString &strText)
     if (!strText.contains(QLatin1String(Wire::nameOf(Wire::Command::RegeditUser))) || !parse(strText, &object)) {
         return QString();
     }
-    return object.value(QStringLiteral("param3")).toString();
+    return object.value(QLatin1String(Wire::cKeyRegistrationValue)).toString();
 }

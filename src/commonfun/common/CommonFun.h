@@ -3,6 +3,7 @@
 // All static helpers of the common code under one name, for hosts; the header of its topic documents each. Sources of
 // this system include the topics that they use and call the topics' own classes.
 
+#include "common/AccountMap.h"
 #include "common/AppInfo.h"
 #include "common/digests/FileDigest.h"
 #include "common/digests/Identifiers.h"
@@ -19,7 +20,6 @@
 #include "common/pictures/NinePatch.h"
 #include "common/pictures/PictureNames.h"
 #include "common/pictures/WaterMark.h"
-#include "common/settings/AccountMap.h"
 #include "common/settings/ConfigFile.h"
 #include "common/system/FolderCopy.h"
 #include "common/system/ScreenPlace.h"

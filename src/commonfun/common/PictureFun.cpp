@@ -3,36 +3,15 @@
 #include "common/AppPaths.h"
 #include "common/BuiltInPictures.h"
 #include "common/pictures/PictureFolders.h"
+#include "common/pictures/PictureKinds.h"
 #include "model/AvatarFiles.h"
 
 #include <QDir>
 
 namespace {
 
-constexpr int cSignatureLength = 4;
-
 constexpr int cFirstNumberedAvatar = 1;
 constexpr int cLastNumberedAvatar = 20;
-
-struct TypeRow
-{
-    int m_iType;
-    const char *m_pSuffix;
-    // Null for a kind that is not told by its first bytes.
-    const char *m_pSignature;
-};
-
-// Deliberately all four bytes count: the client's callers rely on bitmaps of other sizes and JPEGs of other markers
-// being unknown.
-// clang-format off
-constexpr TypeRow cTypeRows[] = {
-    {1, "bmp",  "\x42\x4D\xE6\x52"},
-    {2, "jpg",  "\xFF\xD8\xFF\xE0"},
-    {3, "gif",  "\x47\x49\x46\x38"},
-    {4, "png",  "\x89\x50\x4E\x47"},
-    {5, "jpeg", nullptr},
-};
-// clang-format on
 
 QString systemAvatarPath(const QString &strFile)
 {
@@ -48,27 +27,17 @@ QString systemAvatarPath(const QString &strFile)
 
 int PictureFun::getFileType(const QByteArray &data)
 {
-    for (const TypeRow &row : cTypeRows) {
-        if (row.m_pSignature != nullptr && data.startsWith(QByteArray(row.m_pSignature, cSignatureLength))) {
-            return row.m_iType;
-        }
-    }
-    return 0;
+    return PictureKinds::of(data);
 }
 
 QString PictureFun::getSuffixOfType(int iType)
 {
-    for (const TypeRow &row : cTypeRows) {
-        if (row.m_iType == iType) {
-            return QLatin1String(row.m_pSuffix);
-        }
-    }
-    return {};
+    return PictureKinds::suffix(iType);
 }
 
 QString PictureFun::saveByteArrayToLocalFile(const QByteArray &data, const QString &strName)
 {
-    if (data.size() < cSignatureLength || strName.isEmpty()) {
+    if (data.size() < PictureKinds::cSignatureLength || strName.isEmpty()) {
         return strDEFAULT_HEAD_PATH;
     }
     QDir().mkpath(strAPP_DOCUMENT_IM_FILES_PATH());

@@ -1,11 +1,14 @@
 #include "common/html/HtmlImages.h"
 #include "common/html/RandomMessage.h"
-#include "model/SharedContext.h"
+#include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "model/SystemSetData.h"
 
 #include <QDomDocument>
 #include <QRegExp>
 #include <QTest>
+
+#include <optional>
 
 namespace {
 
@@ -88,9 +91,9 @@ private slots:
     {
         SystemSetData::instance()->m_strUserFolder = cFolder;
         m_context.setSystemSetData(SystemSetData::instance());
-        SharedContext::setCommonData(&m_context);
+        m_given.emplace(m_context);
     }
-    void cleanup() { SharedContext::setCommonData(nullptr); }
+    void cleanup() { m_given.reset(); }
 
     void imagesAreListedByTheirFiles_data()
     {
@@ -151,7 +154,7 @@ private slots:
 
     void withoutSettingsThePathsStartAtTheRoot()
     {
-        SharedContext::setCommonData(nullptr);
+        m_given.reset();
         QCOMPARE(paths(inBody("<img src=\"a.png\" type=\"\" style=\"\"/>")), QStringList("/picRec/a.png"));
     }
 
@@ -264,6 +267,7 @@ private slots:
 
 private:
     CommonData m_context;
+    std::optional<GivenContext> m_given;
 };
 
 #include "support/TestProgram.h"

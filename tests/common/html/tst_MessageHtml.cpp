@@ -3,7 +3,8 @@
 #include "common/html/MessageHtml.h"
 #include "common/html/RandomMessage.h"
 #include "common/html/WebLink.h"
-#include "model/SharedContext.h"
+#include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "model/SysUIData.h"
 
 #include <QDomDocument>
@@ -69,8 +70,6 @@ class tst_MessageHtml : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { SharedContext::setCommonData(nullptr); }
-
     void bodyBecomesWhatTheViewShows_data()
     {
         QTest::addColumn<QString>("body");
@@ -163,7 +162,7 @@ private slots:
         data.m_strMainColor = "#123456";
         CommonData context;
         context.setSkinData(&data);
-        SharedContext::setCommonData(&context);
+        const GivenContext given(context);
         QVERIFY(MessageHtml::convertMessageBody(inDocument("<p><span style=\"x;\">www.a</span></p>"), false)
                     .contains(link("www.a", styled("x;color: " + colour + ";"))));
     }

@@ -2,10 +2,13 @@
 #include "common/CLogThread.h"
 #include "common/CustomLogger.h"
 #include "fakes/FileBytes.h"
+#include "fakes/GivenContext.h"
 #include "fakes/Patience.h"
-#include "model/SharedContext.h"
+#include "model/CommonData.h"
 
 #include <QtTest>
+
+#include <optional>
 
 namespace {
 
@@ -16,12 +19,12 @@ struct Host
     {
         context.setCustomLogger(&logger);
         context.setCustomLogThread(&thread);
-        SharedContext::setCommonData(&context);
+        given.emplace(context);
     }
 
     ~Host()
     {
-        SharedContext::setCommonData(nullptr);
+        given.reset();
         thread.stop();
         thread.printLog(CustomLog::Debug, {}, {});
         thread.wait();
@@ -54,6 +57,7 @@ struct Host
     CustomLogger logger;
     CLogThread thread;
     CommonData context;
+    std::optional<GivenContext> given;
 };
 
 /// For the process's one facade, which takes what stands at its creation.
@@ -78,7 +82,7 @@ private slots:
     {
         processHost = new Host("process.log");
         QVERIFY(CLogManger::instance());
-        SharedContext::setCommonData(nullptr);
+        processHost->given.reset();
     }
 
     void cleanupTestCase() { delete processHost; }

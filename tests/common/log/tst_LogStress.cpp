@@ -5,8 +5,8 @@
 #include "common/CLogThread.h"
 #include "common/CustomLogger.h"
 #include "fakes/FileBytes.h"
+#include "fakes/GivenContext.h"
 #include "model/CommonData.h"
-#include "model/SharedContext.h"
 
 #include <QtTest>
 
@@ -87,7 +87,7 @@ private slots:
         CommonData data;
         data.setCustomLogger(&logger);
         data.setCustomLogThread(&writer);
-        SharedContext::setCommonData(&data);
+        const GivenContext given(data);
         // Made before the threads: its creation has no lock.
         CLogManger *log = CLogManger::instance();
         writer.start();
@@ -104,7 +104,6 @@ private slots:
         log->printLog(CustomLog::Debug, {}, {});
         QVERIFY(writer.wait());
         logger.close();
-        SharedContext::setCommonData(nullptr);
 
         QVERIFY2(QFile::exists(cLog + QStringLiteral(".1")), "the file has not rolled over");
         const QStringList all = messages();

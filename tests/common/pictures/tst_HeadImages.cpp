@@ -1,11 +1,14 @@
 #include "common/pictures/HeadImages.h"
+#include "fakes/GivenContext.h"
 #include "fakes/PaintedPicture.h"
 #include "fakes/PictureFiles.h"
-#include "model/SharedContext.h"
+#include "model/CommonData.h"
 #include "model/SystemSetData.h"
 
 #include <QPainter>
 #include <QtTest>
+
+#include <optional>
 
 using namespace PictureFiles;
 
@@ -44,11 +47,11 @@ private slots:
     {
         m_settings.m_strUserFolder = QDir::current().absoluteFilePath(QStringLiteral("me"));
         m_context.setSystemSetData(&m_settings);
-        SharedContext::setCommonData(&m_context);
+        m_given.emplace(m_context);
         QDir(m_settings.m_strUserFolder).removeRecursively();
         QVERIFY(QDir().mkpath(m_settings.m_strUserFolder));
     }
-    void cleanup() { SharedContext::setCommonData(nullptr); }
+    void cleanup() { m_given.reset(); }
 
     void scaledPictureIsCutAroundTheMiddle_data()
     {
@@ -317,6 +320,7 @@ private:
     }
 
     CommonData m_context;
+    std::optional<GivenContext> m_given;
     SystemSetData m_settings;
 };
 

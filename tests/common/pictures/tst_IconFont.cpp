@@ -1,6 +1,7 @@
 #include "common/pictures/IconFont.h"
 #include "common/pictures/IconGlyphs.h"
-#include "model/SharedContext.h"
+#include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 
 #include <QFontDatabase>
 #include <QGlyphRun>
@@ -57,8 +58,6 @@ private slots:
         QVERIFY(m_strFamily != QFont().family());
     }
 
-    void cleanup() { SharedContext::setCommonData(nullptr); }
-
     void fontOfTheFileHasTwelvePixels()
     {
         const QFont font = IconFont::getIconFont();
@@ -96,7 +95,7 @@ private slots:
         hosts.setPixelSize(33);
         hosts.setStyleStrategy(QFont::NoAntialias);
         CommonData context;
-        SharedContext::setCommonData(&context);
+        const GivenContext given(context);
         QCOMPARE(IconFont::getIconFont().family(), m_strFamily);
         context.setIconFont(&hosts);
         QCOMPARE(IconFont::getIconFont(), hosts);

@@ -2,10 +2,13 @@
 #include "common/PictureFun.h"
 #include "common/pictures/PictureFolders.h"
 #include "fakes/BuiltInAvatar.h"
-#include "model/SharedContext.h"
+#include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "model/SystemSetData.h"
 
 #include <QtTest>
+
+#include <optional>
 
 namespace {
 
@@ -24,10 +27,10 @@ private slots:
         m_settings.m_strUserName = QStringLiteral("me");
         m_settings.m_strUserFolder = QDir::current().absoluteFilePath(QStringLiteral("data/me"));
         m_context.setSystemSetData(&m_settings);
-        SharedContext::setCommonData(&m_context);
+        m_given.emplace(m_context);
         QVERIFY(QDir().mkpath(m_settings.m_strUserFolder));
     }
-    void cleanup() { SharedContext::setCommonData(nullptr); }
+    void cleanup() { m_given.reset(); }
 
     void firstBytesTellTheKind_data()
     {
@@ -168,12 +171,13 @@ private slots:
 
     void headImageFolderWithoutSettings()
     {
-        SharedContext::setCommonData(nullptr);
+        m_given.reset();
         QCOMPARE(PictureFolders::headImages(), strAPP_DOCUMENT_IM_FILES_PATH() + "/designHeadImage/");
     }
 
 private:
     CommonData m_context;
+    std::optional<GivenContext> m_given;
     SystemSetData m_settings;
 };
 

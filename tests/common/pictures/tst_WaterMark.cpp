@@ -1,8 +1,9 @@
 #include "common/AppPaths.h"
 #include "common/pictures/WaterMark.h"
+#include "fakes/GivenContext.h"
+#include "model/CommonData.h"
 #include "model/LoginData.h"
-#include "model/SharedContext.h"
-#include "model/SkinContext.h"
+#include "model/SysUIData.h"
 #include "model/SystemSetData.h"
 
 #include <QPainter>
@@ -11,6 +12,7 @@
 #include <QtTest>
 
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -96,9 +98,9 @@ private slots:
         m_context.setSystemSetData(&m_settings);
         m_context.setLoginData(&m_login);
         m_context.setSkinData(&m_skin);
-        SharedContext::setCommonData(&m_context);
+        m_given.emplace(m_context);
     }
-    void cleanup() { SharedContext::setCommonData(nullptr); }
+    void cleanup() { m_given.reset(); }
 
     void pictureIsNamedByAccountAndColour()
     {
@@ -196,7 +198,7 @@ private slots:
 
     void noSettingsAndNoLoginGiveAPathBelowTheDocuments()
     {
-        SharedContext::setCommonData(nullptr);
+        m_given.reset();
         const QString strPath = generate("Name", "1001");
         QVERIFY(m_bResult);
         QCOMPARE(strPath, strAPP_DOCUMENT_IM_FILES_PATH() + "/waterMark/_#e8e9eb.png");
@@ -205,6 +207,7 @@ private slots:
 private:
     bool m_bResult = false;
     CommonData m_context;
+    std::optional<GivenContext> m_given;
     SystemSetData m_settings;
     LoginData m_login;
     SysUIData m_skin;

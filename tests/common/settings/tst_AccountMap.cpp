@@ -1,4 +1,4 @@
-#include "common/settings/AccountMap.h"
+#include "common/AccountMap.h"
 
 #include <QFile>
 #include <QTest>

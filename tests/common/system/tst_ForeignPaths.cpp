@@ -8,11 +8,11 @@
 #include "common/pictures/HeadImages.h"
 #include "common/pictures/ImagePath.h"
 #include "common/pictures/WaterMark.h"
+#include "fakes/GivenContext.h"
 #include "fakes/PictureFiles.h"
 #include "model/CServiceNumData.h"
 #include "model/CommonData.h"
 #include "model/LoginData.h"
-#include "model/SharedContext.h"
 #include "model/SysUIData.h"
 #include "model/SystemSetData.h"
 
@@ -26,6 +26,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <optional>
 
 class tst_ForeignPaths : public QObject
 {
@@ -43,7 +44,7 @@ private slots:
         m_context.setSystemSetData(&m_settings);
         m_context.setLoginData(&m_login);
         m_context.setSkinData(&m_skin);
-        SharedContext::setCommonData(&m_context);
+        m_given.emplace(m_context);
         QVERIFY(QDir().mkpath(m_settings.m_strHeadImageFolder + "folder"));
         QVERIFY(QDir().mkpath(m_settings.m_strUserFolder + "/waterMark/me_folder"));
         const QStringList folders{QDir::currentPath(), m_pWorld->path(), m_pWorld->filePath(QStringLiteral("files")),
@@ -63,7 +64,7 @@ private slots:
         const QMap<QString, QByteArray> after = outside();
         QCOMPARE(after.keys(), m_before.keys());
         QCOMPARE(after, m_before);
-        SharedContext::setCommonData(nullptr);
+        m_given.reset();
         m_pWorld.reset();
     }
 
@@ -195,6 +196,7 @@ private:
     LoginData m_login;
     SysUIData m_skin;
     CommonData m_context;
+    std::optional<GivenContext> m_given;
 };
 
 #include "support/TestProgram.h"

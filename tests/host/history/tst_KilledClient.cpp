@@ -58,17 +58,7 @@ private slots:
         QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), {"search", "--sync", "--onlyvisible", "--name",
                                                                "KelvarIM", "windowactivate", "--sync"}),
                  0);
-        // The keyboard stands in the search field: the first Return leads to who was found, the second calls, once the
-        // client has noticed that it is connected; until then a Return does nothing.
-        ScreenKeys keys;
-        QVERIFY(keys.type(uid) && keys.enter());
-        bool called = false;
-        for (int i = 0; i < cMostReturns && !called; ++i) {
-            QVERIFY(keys.enter());
-            called = QTest::qWaitFor([&] { return isTraced(trace, QStringLiteral("CallUser")); },
-                                     cPatienceMs / cMostReturns);
-        }
-        QVERIFY(called);
+        QVERIFY(call(uid, trace));
         QTRY_VERIFY_WITH_TIMEOUT(isTraced(trace, begun), cPatienceMs);
         // What the trace says the client may still have to read; what it has read stands in its file.
         QTRY_VERIFY_WITH_TIMEOUT(isKept(), cPatienceMs);
@@ -100,6 +90,21 @@ private:
         demo.setProcessEnvironment(environment);
         demo.setProcessChannelMode(QProcess::ForwardedChannels);
         demo.start(QStringLiteral(VOIP_BIN_DIR "/kelvarim-demo"), QStringList());
+    }
+    /// Types the id and calls; false where the client does not.
+    static bool call(const QString &strUid, const QString &strTrace)
+    {
+        // The keyboard stands in the search field: the first Return leads to who was found, the second calls, once the
+        // client has noticed that it is connected; until then a Return does nothing.
+        ScreenKeys keys;
+        bool able = keys.type(strUid) && keys.enter();
+        bool called = false;
+        for (int i = 0; i < cMostReturns && able && !called; ++i) {
+            able = keys.enter();
+            called = QTest::qWaitFor([&] { return isTraced(strTrace, QStringLiteral("CallUser")); },
+                                     cPatienceMs / cMostReturns);
+        }
+        return called;
     }
     /// Whether a client on the bus shows a part of that role whose name begins so.
     bool shows(const QString &strRole, const QString &strBegin) const

@@ -1,6 +1,6 @@
 #include "common/pictures/ImagePath.h"
 
-#include "common/PictureFun.h"
+#include "common/pictures/PictureKinds.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -33,8 +33,8 @@ QString withSuffix(const QString &strPath, const QString &strSuffix)
 // The path of the file once its suffix is right. A file that cannot be copied keeps its name, so that it is not lost.
 QString corrected(const QString &strPath, const QByteArray &head)
 {
-    const int iType = PictureFun::getFileType(head);
-    const QString strSuffix = PictureFun::getSuffixOfType(iType);
+    const int iType = PictureKinds::of(head);
+    const QString strSuffix = PictureKinds::suffix(iType);
     if (iType == 0 || QFileInfo(strPath).suffix() == strSuffix) {
         return strPath;
     }

@@ -1,15 +1,12 @@
 #include "common/pictures/PictureNames.h"
 
-#include "common/PictureFun.h"
 #include "common/pictures/PictureFile.h"
+#include "common/pictures/PictureKinds.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 namespace {
-
-// Enough for the first bytes that tell the kind of a picture.
-constexpr int cHeadLength = 8;
 
 struct FilterRow
 {
@@ -37,8 +34,8 @@ QString PictureNames::getImageType(const QString &strPath)
     if (!readPictureFile(strPath).isNull() || !info.isFile() || !file.open(QIODevice::ReadOnly)) {
         return info.suffix();
     }
-    const int iType = PictureFun::getFileType(file.read(cHeadLength));
-    return iType == 0 ? info.suffix() : PictureFun::getSuffixOfType(iType);
+    const int iType = PictureKinds::of(file.read(PictureKinds::cSignatureLength));
+    return iType == 0 ? info.suffix() : PictureKinds::suffix(iType);
 }
 
 QStringList PictureNames::GetPictureSuffix()

@@ -1,4 +1,4 @@
-#include "common/settings/AccountMap.h"
+#include "common/AccountMap.h"
 
 #include "common/AppInfo.h"
 #include "common/settings/ConfigFile.h"
