@@ -1,10 +1,10 @@
 #include "FuzzTargets.h"
 
+#include "common/AccountMap.h"
 #include "common/AppInfo.h"
 #include "common/AppPaths.h"
 #include "common/CSettingsManager.h"
 #include "common/CUrlInfo.h"
-#include "common/AccountMap.h"
 #include "common/settings/ConfigFile.h"
 #include "model/SystemSetData.h"
 
