@@ -1,8 +1,8 @@
 // The life of the exchange that the call processes of one user start for themselves: when it comes, what it outlives,
 // what brings it back, and that nothing of it stays. Processes are real and are really killed.
 
-#include "calls/ExchangeTest.h"
-#include "calls/SipClient.h"
+#include "calls/exchange/ExchangeTest.h"
+#include "calls/exchange/SipClient.h"
 
 #include "fakes/Patience.h"
 
