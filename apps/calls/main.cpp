@@ -178,7 +178,7 @@ int echo(const QString &userId, CallsSettings settings, Trace &trace)
     if (!settings.servers.empty()) {
         // No client brings one: account/secret has to be file, which is read this once.
         QString fault;
-        const Credentials own = access.credentials(userId, QString(), &fault);
+        Credentials own = access.credentials(userId, QString(), &fault);
         if (!fault.isEmpty()) {
             return complain(cExitBadInput, cProgram, QStringLiteral("the echo cannot sign in: %1").arg(fault));
         }

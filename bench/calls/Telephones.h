@@ -3,9 +3,9 @@
 // Two who call each other, with a telephone of ours or with baresip: what both can do, by the same names. Main thread;
 // every operation says whether it was seen to be done.
 
-#include "calls/Baresip.h"
-#include "calls/Person.h"
-#include "calls/SoundBox.h"
+#include "calls/peers/Baresip.h"
+#include "calls/peers/Person.h"
+#include "calls/sound/SoundBox.h"
 
 /// Both of them, with telephones of one make.
 template <class Somebody>

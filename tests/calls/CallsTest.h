@@ -3,9 +3,9 @@
 // What the tests of calls between people share: an exchange and a sound server, which all functions of a class use.
 // Derive the test class from it.
 
-#include "calls/Person.h"
-#include "calls/SoundBox.h"
-#include "calls/TestExchange.h"
+#include "calls/peers/Person.h"
+#include "calls/peers/TestExchange.h"
+#include "calls/sound/SoundBox.h"
 
 #include <QObject>
 #include <QtTest>

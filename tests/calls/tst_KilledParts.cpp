@@ -2,9 +2,9 @@
 // over. Two fronts for each step, at the exchange that the first of all has started; the callers of all steps are
 // killed in one go, and so are the exchange and the called ones.
 
-#include "calls/ExchangeTest.h"
-#include "calls/Person.h"
-#include "calls/SoundBox.h"
+#include "calls/exchange/ExchangeTest.h"
+#include "calls/peers/Person.h"
+#include "calls/sound/SoundBox.h"
 
 #include "fakes/Patience.h"
 

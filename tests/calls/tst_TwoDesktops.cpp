@@ -2,8 +2,8 @@
 // what each one's loudspeaker gets. On this machine's loopback, and where this machine allows it on three machines with
 // a network between them.
 
-#include "calls/Desktop.h"
-#include "calls/SoundBox.h"
+#include "calls/peers/Desktop.h"
+#include "calls/sound/SoundBox.h"
 
 #include "fakes/Patience.h"
 

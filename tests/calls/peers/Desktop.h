@@ -3,8 +3,8 @@
 // Somebody's desktop: a client with the built module and its call process, in a home and a temporary folder of its own,
 // on the machine that it is told. Main thread.
 
-#include "calls/Person.h"
-#include "calls/TestNetwork.h"
+#include "calls/peers/Person.h"
+#include "calls/peers/TestNetwork.h"
 
 #include "flow/CallTrace.h"
 

@@ -3,7 +3,7 @@
 // Whoever is called as "peer-486" at a test's exchange: sipp, which answers each call with the status in its name. Main
 // thread.
 
-#include "calls/ChildProgram.h"
+#include "calls/peers/ChildProgram.h"
 
 #include <QList>
 

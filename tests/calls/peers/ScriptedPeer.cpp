@@ -1,4 +1,4 @@
-#include "calls/ScriptedPeer.h"
+#include "calls/peers/ScriptedPeer.h"
 
 #include "fakes/Patience.h"
 

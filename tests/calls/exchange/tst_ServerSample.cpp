@@ -1,9 +1,9 @@
 // The sample of a server's kamailio.cfg, run as it is but for the places of its files and its port: users sign in by a
 // password of its table and by a token, and call each other.
 
-#include "calls/SipClient.h"
 #include "calls/exchange/EmbeddedExchange.h"
 #include "calls/exchange/ExchangeCertificates.h"
+#include "calls/exchange/SipClient.h"
 
 #include "fakes/Patience.h"
 

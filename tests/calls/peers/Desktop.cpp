@@ -1,4 +1,4 @@
-#include "calls/Desktop.h"
+#include "calls/peers/Desktop.h"
 
 #include "fakes/Patience.h"
 

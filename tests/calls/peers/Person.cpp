@@ -1,6 +1,6 @@
-#include "calls/Person.h"
+#include "calls/peers/Person.h"
 
-#include "calls/SoundBox.h"
+#include "calls/sound/SoundBox.h"
 
 #include <QFile>
 #include <QFileInfo>

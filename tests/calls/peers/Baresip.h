@@ -3,8 +3,8 @@
 // A telephone of another make: it speaks a tone, answers by itself, and writes what it hears to a file, unless it is
 // told otherwise before its start. Main thread; everything is bounded by cPatienceMs.
 
-#include "calls/ChildProgram.h"
-#include "calls/TestExchange.h"
+#include "calls/peers/ChildProgram.h"
+#include "calls/peers/TestExchange.h"
 
 #include <QString>
 #include <QTcpSocket>

@@ -1,8 +1,8 @@
 // What nobody gets from a call process: a door, a secret, plain sound, or an end.
 
-#include "calls/Baresip.h"
 #include "calls/CallsTest.h"
-#include "calls/ScriptedPeer.h"
+#include "calls/peers/Baresip.h"
+#include "calls/peers/ScriptedPeer.h"
 
 #include <QDirIterator>
 

@@ -2,7 +2,7 @@
 
 // Somebody with a telephone: a running kelvarim-calls with a client at its socket. Main thread.
 
-#include "calls/TestExchange.h"
+#include "calls/peers/TestExchange.h"
 
 #include "callprocess/CallProcess.h"
 

@@ -3,7 +3,7 @@
 // A sound server of the test's own, with a pair of null devices for each person: what is played to the sink "mic-NAME"
 // is what the source "voice-NAME" hears, and what is played to the sink "ear-NAME" can be listened to. Main thread.
 
-#include "calls/ChildProgram.h"
+#include "calls/peers/ChildProgram.h"
 
 #include <QMap>
 #include <QString>

@@ -2,7 +2,7 @@
 
 // Somebody who speaks SIP by hand, with an account at the exchange and any intention. Main thread.
 
-#include "calls/TestExchange.h"
+#include "calls/peers/TestExchange.h"
 
 #include <QByteArray>
 #include <QSslSocket>

@@ -1,4 +1,4 @@
-#include "calls/ExchangeTest.h"
+#include "calls/exchange/ExchangeTest.h"
 
 #include "fakes/Patience.h"
 

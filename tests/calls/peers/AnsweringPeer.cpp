@@ -1,4 +1,4 @@
-#include "calls/AnsweringPeer.h"
+#include "calls/peers/AnsweringPeer.h"
 
 #include <QFile>
 #include <QUdpSocket>

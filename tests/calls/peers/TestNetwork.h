@@ -3,7 +3,7 @@
 // Three machines on a network of their own, an exchange's and two desktops', where this one lets a test make network
 // namespaces. They have no names, and go with the last process that stands in them. Main thread.
 
-#include "calls/ChildProgram.h"
+#include "calls/peers/ChildProgram.h"
 
 #include <QString>
 #include <QStringList>

@@ -3,8 +3,8 @@
 // A registrar and proxy on a free port, of the loopback by default, with a certificate of its own, in the test's
 // folder. Main thread.
 
-#include "calls/ChildProgram.h"
-#include "calls/TestNetwork.h"
+#include "calls/peers/ChildProgram.h"
+#include "calls/peers/TestNetwork.h"
 
 #include <QString>
 

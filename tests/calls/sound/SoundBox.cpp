@@ -1,4 +1,4 @@
-#include "calls/SoundBox.h"
+#include "calls/sound/SoundBox.h"
 
 #include "fakes/Patience.h"
 #include "host/tour/ToneLevel.h"

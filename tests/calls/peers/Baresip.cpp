@@ -1,4 +1,4 @@
-#include "calls/Baresip.h"
+#include "calls/peers/Baresip.h"
 
 #include "fakes/Patience.h"
 
@@ -59,7 +59,7 @@ QString Baresip::account() const
 
 bool Baresip::begin(const QString &account)
 {
-    QFile source(QStringLiteral(CALLS_TEST_FOLDER "/baresip.conf"));
+    QFile source(QStringLiteral(CALLS_TEST_FOLDER "/peers/baresip.conf"));
     QFile configuration(m_folder + QStringLiteral("/config"));
     QFile accounts(m_folder + QStringLiteral("/accounts"));
     QFile contacts(m_folder + QStringLiteral("/contacts"));

@@ -1,4 +1,4 @@
-#include "calls/TestExchange.h"
+#include "calls/peers/TestExchange.h"
 
 #include "fakes/Patience.h"
 
@@ -72,7 +72,7 @@ QStringList TestExchange::options(const QString &tlsFile) const
     };
     const QString quoted = QStringLiteral("\"%1\"");
     QStringList given{
-        QStringLiteral("-f"),  QStringLiteral(CALLS_TEST_FOLDER "/exchange.cfg"),
+        QStringLiteral("-f"),  QStringLiteral(CALLS_TEST_FOLDER "/peers/exchange.cfg"),
         QStringLiteral("-DD"), QStringLiteral("-E"),
         QStringLiteral("-m"),  QStringLiteral("32"),
         QStringLiteral("-M"),  QStringLiteral("4"),

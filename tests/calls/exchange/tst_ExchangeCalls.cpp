@@ -1,7 +1,7 @@
 // What the exchange lets users do, by real SIP over TLS: who may sign in, who is reached, and how calls to others end.
 
-#include "calls/ExchangeTest.h"
-#include "calls/SipClient.h"
+#include "calls/exchange/ExchangeTest.h"
+#include "calls/exchange/SipClient.h"
 
 #include "fakes/Patience.h"
 

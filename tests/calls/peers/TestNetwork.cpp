@@ -1,4 +1,4 @@
-#include "calls/TestNetwork.h"
+#include "calls/peers/TestNetwork.h"
 
 #include "fakes/Patience.h"
 
@@ -30,8 +30,8 @@ bool TestNetwork::startBy(const QStringList &unshare, const QStringList &enter)
     m_holder = std::make_unique<ChildProgram>(QStringLiteral("network.refused"));
     m_holder->setStandardInputFile(QString());
     m_holder->setStandardOutputFile(file, QIODevice::Truncate);
-    const bool begun =
-        m_holder->begin(QStringLiteral("unshare"), unshare + QStringList{QStringLiteral(CALLS_TEST_FOLDER "/network")});
+    const bool begun = m_holder->begin(QStringLiteral("unshare"),
+                                       unshare + QStringList{QStringLiteral(CALLS_TEST_FOLDER "/peers/network")});
     const auto stands = [] { return said("network.machines").endsWith('\n'); };
     if (!begun ||
         !QTest::qWaitFor([&] { return stands() || m_holder->state() == QProcess::NotRunning; }, cPatienceMs) ||

@@ -1,9 +1,9 @@
 // What the called one's telephone may answer, sent by a telephone of another make through the exchange: the word that
 // the caller's client gets for it.
 
-#include "calls/AnsweringPeer.h"
-#include "calls/Person.h"
-#include "calls/SoundBox.h"
+#include "calls/peers/AnsweringPeer.h"
+#include "calls/peers/Person.h"
+#include "calls/sound/SoundBox.h"
 
 #include <QtTest>
 

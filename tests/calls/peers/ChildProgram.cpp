@@ -1,4 +1,4 @@
-#include "calls/ChildProgram.h"
+#include "calls/peers/ChildProgram.h"
 
 #include "fakes/Patience.h"
 

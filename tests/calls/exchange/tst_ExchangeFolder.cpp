@@ -1,10 +1,10 @@
 // The folder of the exchange: who may look into it, and how what is damaged in it is made anew.
 
-#include "calls/ExchangeTest.h"
-#include "calls/SipClient.h"
 #include "calls/exchange/ExchangeCertificates.h"
 #include "calls/exchange/ExchangeFolder.h"
 #include "calls/exchange/ExchangeLog.h"
+#include "calls/exchange/ExchangeTest.h"
+#include "calls/exchange/SipClient.h"
 
 #include "fakes/Patience.h"
 

@@ -1,9 +1,9 @@
 // Two people without a server: each front becomes the call process that his calls.ini names, and both meet at the
 // exchange that the first of them has started.
 
-#include "calls/ExchangeTest.h"
-#include "calls/Person.h"
-#include "calls/SoundBox.h"
+#include "calls/exchange/ExchangeTest.h"
+#include "calls/peers/Person.h"
+#include "calls/sound/SoundBox.h"
 
 #include "fakes/Patience.h"
 

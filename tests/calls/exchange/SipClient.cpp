@@ -1,4 +1,4 @@
-#include "calls/SipClient.h"
+#include "calls/exchange/SipClient.h"
 
 #include "calls/exchange/EmbeddedExchange.h"
 
