@@ -1,16 +1,8 @@
 #include "calls/agent/FarText.h"
 
+#include "conference/UserId.h"
+
 #include <algorithm>
-
-namespace {
-
-/// What is not seen itself, and turns round or hides what stands beside it.
-bool isControl(QChar character)
-{
-    return character.category() == QChar::Other_Control || character.category() == QChar::Other_Format;
-}
-
-} // namespace
 
 QString farText(const std::string &bytes, int limit)
 {
@@ -24,9 +16,4 @@ QString farText(const std::string &bytes, int limit)
         }
     }
     return text;
-}
-
-bool isUserId(const QString &id)
-{
-    return !id.isEmpty() && id.size() <= cUserIdLimit && std::none_of(id.begin(), id.end(), isControl);
 }

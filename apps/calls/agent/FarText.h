@@ -6,12 +6,7 @@
 
 #include <string>
 
-inline constexpr int cUserIdLimit = 128;
 inline constexpr int cRemarkLimit = 400;
 
 /// UTF-8 from the far end, control and format characters as blanks, cut at `limit` characters.
 QString farText(const std::string &bytes, int limit);
-
-/// Whether a user id from the plug-in or the far end can be one: not empty, within the limit, without control and
-/// format characters.
-bool isUserId(const QString &id);

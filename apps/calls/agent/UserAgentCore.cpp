@@ -7,6 +7,8 @@
 #include "calls/sound/DeviceChoice.h"
 #include "calls/sound/EchoCard.h"
 
+#include "conference/UserId.h"
+
 #include <unistd.h>
 #include <utility>
 

@@ -1,7 +1,6 @@
 #include "calls/desk/Desk.h"
 
-#include "calls/agent/FarText.h"
-
+#include "conference/UserId.h"
 #include "endpoint/Channel.h"
 #include "endpoint/ServiceTable.h"
 
