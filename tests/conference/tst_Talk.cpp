@@ -26,7 +26,7 @@ Talk::Message filled(Word word)
     message.connected = QStringList{"anna"};
     message.muted = QStringList{"bert"};
     message.flag = true;
-    message.text = QStringLiteral("a \"title\"\r\n中\U0001F600");
+    message.text = QStringLiteral("a \"title\"\r\n\u007f\u00e9中\U0001F600");
     message.users = QStringList{"carl"};
     message.user = QStringLiteral("non_moderator");
     message.joined = QStringList{"anna"};
@@ -115,7 +115,7 @@ private slots:
         QCOMPARE(created.message->id, QStringLiteral("7-a"));
         QCOMPARE(created.message->members, (QStringList{"anna", "bert", "李雷"}));
         QCOMPARE(created.message->flag, true);
-        QCOMPARE(created.message->text, QStringLiteral("a \"title\"\r\n中\U0001F600"));
+        QCOMPARE(created.message->text, QStringLiteral("a \"title\"\r\n\u007f\u00e9中\U0001F600"));
         const Talk::Heard members = Talk::read(Talk::written(filled(Word::Members)), Road::InfoDown);
         QVERIFY(members.message);
         QCOMPARE(members.message->createTime, Q_INT64_C(1700000000000));

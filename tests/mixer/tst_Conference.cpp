@@ -38,6 +38,24 @@ private slots:
         QCOMPARE(message.members, (QStringList{"anna", "bert"}));
     }
 
+    void nobodyIsCalledBeforeTheCreatorIsThere()
+    {
+        const LegId anna = arrive("anna", creation("c", {"bert", "carl"}));
+        arriveAndStay("bert", creation("c", {}));
+        QCOMPARE(side->takeLog(), (QStringList{"answer 1", "answer 2"}));
+        hall->takeUp(anna);
+        QCOMPARE(side->takeLog(), QStringList("ring 3 carl"));
+    }
+
+    void whoIsCalledBelongsToItForEverybody()
+    {
+        const QList<LegId> legs = gathering({"bert"});
+        say(legs.at(1), addition({"carl"}));
+        const Talk::Message message = told(legs);
+        QCOMPARE(message.members, (QStringList{"anna", "bert", "carl"}));
+        QCOMPARE(message.connected, (QStringList{"anna", "bert"}));
+    }
+
     void anInvitationSaysWhoIsConnected()
     {
         const qint64 before = QDateTime::currentMSecsSinceEpoch();

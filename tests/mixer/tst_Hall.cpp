@@ -89,7 +89,7 @@ private slots:
         QTest::addColumn<int>("legs");
         QTest::addColumn<QString>("refusal");
         QTest::addColumn<QString>("why");
-        // "c" has two members and two legs; "d" wants three.
+        // "c" has two members and two legs; "d" wants three, since who makes it stands among them.
         QTest::newRow("as many as may be") << 2 << 3 << 5 << ""
                                            << "";
         QTest::newRow("conferences") << 1 << 3 << 5 << "503"
@@ -109,7 +109,7 @@ private slots:
         QFETCH(const QString, why);
         make({conferences, members, legs, 60});
         gathering({"bert"});
-        const LegId leg = arriveAndStay("dora", creation("d", {"emil", "fred"}));
+        const LegId leg = arriveAndStay("dora", creation("d", {"dora", "emil", "fred"}));
         const QString expected = refusal.isEmpty() ? "answer %1" : "refuse %1 " + refusal;
         QCOMPARE(side->takeLog().value(0), expected.arg(leg));
         QCOMPARE(side->reasons.value(0), why);

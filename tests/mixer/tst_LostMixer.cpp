@@ -63,6 +63,16 @@ private slots:
         QCOMPARE(hall->conferenceCount(), 0);
     }
 
+    void aCreatorWhoComesLateWaitsForNobody()
+    {
+        const LegId bert = arriveAndStay("bert", lastWord());
+        expire("await");
+        const LegId anna = arriveAndStay("anna", lastWord());
+        hall->takeEnd(bert);
+        hall->takeEnd(anna);
+        QCOMPARE(hall->conferenceCount(), 0);
+    }
+
     void theCreatorsWordIsTheLast()
     {
         Talk::Message wrong = lastWord();

@@ -141,7 +141,6 @@ void Conference::takeUp(const QString &userId)
         return;
     }
     settle(member, State::Connected);
-    member.askers.clear();
     if (member.muted) {
         m_side.setSilent(member.leg, true);
     }

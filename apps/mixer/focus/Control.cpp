@@ -16,7 +16,7 @@ Verdict judged(const Talk::Message &message, const Roster &roster, const QString
         verdict.users.removeAll(sender);
     } else if (message.user == QLatin1String(Wire::cEverybody)) {
         verdict.users = roster.ids();
-        verdict.users.removeAll(roster.creator());
+        // Who says this is the creator, so these are all but both.
         verdict.users.removeAll(sender);
     } else if (roster.find(message.user) == nullptr) {
         verdict.refusal = QStringLiteral("%1 does not belong to the conference").arg(message.user);
