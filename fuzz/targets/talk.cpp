@@ -2,6 +2,7 @@
 
 #include "FuzzTargets.h"
 
+#include "conference/Attendance.h"
 #include "conference/UserId.h"
 
 #include <QSet>
@@ -41,6 +42,31 @@ void readOn(Talk::Road road, const QByteArray &input)
     }
 }
 
+void requireLines(const ConferenceLines &lines, const QByteArray &input)
+{
+    requirePromise(lines.size() <= input.size() + 2, "lines come from the words");
+}
+
+/// A call process that is invited by these bytes, and one that asks for a conference and hears them.
+void attend(const QByteArray &input)
+{
+    Attendance invited;
+    requireLines(invited.takeInvitation(input), input);
+    requireLines(invited.takeBody(input), input);
+    requireLines(invited.takeMedia(), input);
+    requireLines(invited.takeEnd(), input);
+    requirePromise(!invited.isThere(), "a conference that has ended is gone");
+
+    Attendance asking;
+    const QByteArray id = asking.request(QStringLiteral("anna"), {}, false, {}).id.toLatin1();
+    QByteArray word = input;
+    word.replace("7f3c", id);
+    requireLines(asking.takeBody(word), word);
+    requireLines(asking.takeMedia(), word);
+    requireLines(asking.takeBody(word), word);
+    requirePromise(!Talk::written(asking.resumption()).isEmpty(), "what was heard of it can be said");
+}
+
 } // namespace
 
 void FuzzTargets::talk(const QByteArray &input)
@@ -49,4 +75,5 @@ void FuzzTargets::talk(const QByteArray &input)
          {Talk::Road::InviteUp, Talk::Road::InviteDown, Talk::Road::InfoUp, Talk::Road::InfoDown}) {
         readOn(road, input);
     }
+    attend(input);
 }

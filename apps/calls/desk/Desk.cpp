@@ -1,11 +1,9 @@
 #include "calls/desk/Desk.h"
 
+#include "conference/Documents.h"
 #include "conference/UserId.h"
 #include "endpoint/Channel.h"
 #include "endpoint/ServiceTable.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
 
 #include <array>
 
@@ -17,11 +15,6 @@ constexpr int cAwayMs = 90000;
 
 constexpr int cStatusUnknown = 404;
 constexpr int cStatusBusy = 486;
-
-QString documentText(const QJsonObject &object)
-{
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
 
 } // namespace
 
@@ -165,9 +158,7 @@ void Desk::requestConference(const Command & /*command*/)
 
 void Desk::addToConference(const Command &command)
 {
-    const QJsonObject failed{{QStringLiteral("failedNums"), QJsonArray::fromStringList(command.texts(1))}};
-    m_outlet.notify(Wire::Code::ConfAddResult,
-                    documentText({{QStringLiteral("status"), 0}, {QStringLiteral("result"), failed}}));
+    m_outlet.notify(Wire::Code::ConfAddResult, additionDocument(command.texts(1)));
 }
 
 void Desk::acceptCall(const Command & /*command*/)
