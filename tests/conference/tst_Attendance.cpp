@@ -58,7 +58,7 @@ private:
     /// In a conference that this user has made, with the first news told.
     QString running(Attendance *attendance)
     {
-        const QString id = attendance->request("anna", {"bert", "carl"}, true, "title").id;
+        QString id = attendance->request("anna", {"bert", "carl"}, true, "title").id;
         attendance->takeAnswer();
         attendance->takeMedia();
         attendance->takeBody(Talk::written(membersOf(id, {"anna"}, {"anna"})));
@@ -251,6 +251,14 @@ private slots:
         attendance.takeAnswer();
         attendance.takeMedia();
         QCOMPARE(Talk::written(attendance.resumption()), Talk::written(first));
+    }
+
+    void aTimeThatIsUnknownIsLeftOut()
+    {
+        QCOMPARE(conferenceDocument("7", "anna", {}, 0),
+                 QStringLiteral(R"({"content":{"confId":"7","conventioneer":[],"from":"anna"}})"));
+        QCOMPARE(conferenceDocument("7", "anna", {}, 1),
+                 QStringLiteral(R"({"content":{"confId":"7","conventioneer":[],"createTime":1,"from":"anna"}})"));
     }
 
     void theDocumentTellsEachCode()

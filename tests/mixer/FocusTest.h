@@ -15,6 +15,9 @@ class FocusTest : public QObject
 public:
     using LegId = Focus::LegId;
 
+    std::unique_ptr<RecordingSide> side;
+    std::unique_ptr<Focus::Hall> hall;
+
 protected:
     static Talk::Message word(Talk::Word saying, const QString &user = {})
     {
@@ -123,9 +126,6 @@ protected:
         }
         return last;
     }
-
-    std::unique_ptr<RecordingSide> side;
-    std::unique_ptr<Focus::Hall> hall;
 
 private slots:
     void init() { make(); }
