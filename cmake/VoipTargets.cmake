@@ -90,7 +90,7 @@ function(voip_library name)
 endfunction()
 
 # voip_call_part(name SOURCES ... LINKS ...): the static library voip_name, known as Voip::name, of a program on the call process's
-# side of the wire: Qt's core and network, and no windows. Includes are written from apps/ ("endpoint/Trace.h"). The first one,
+# side of the wire: Qt's core, perhaps its network, and no windows. Includes are written from apps/ ("endpoint/Trace.h"). The first one,
 # the endpoint, makes the precompiled header of all.
 function(voip_call_part name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
@@ -103,6 +103,9 @@ function(voip_call_part name)
     target_precompile_headers(voip_${name} PRIVATE <QtCore/QtCore> <QtNetwork/QtNetwork>)
   else()
     target_precompile_headers(voip_${name} REUSE_FROM voip_endpoint)
+    # For a part that has no use for the network, or the precompiled header would not fit it.
+    target_include_directories(voip_${name} SYSTEM PRIVATE $<TARGET_PROPERTY:Qt5::Network,INTERFACE_INCLUDE_DIRECTORIES>)
+    target_compile_definitions(voip_${name} PRIVATE $<TARGET_PROPERTY:Qt5::Network,INTERFACE_COMPILE_DEFINITIONS>)
   endif()
   target_link_libraries(voip_${name} PUBLIC ${ARG_LINKS} Qt5::Core)
 endfunction()

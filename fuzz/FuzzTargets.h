@@ -42,6 +42,12 @@ void members(const QByteArray &input);
 /// Bubble pictures and margins, colours, versions.
 void bubble(const QByteArray &input);
 
+/// The words between call process and mixer, on each of their roads.
+void talk(const QByteArray &input);
+
+/// A mixer's conferences: arrivals, words, ends and times that have passed, as the input says.
+void focus(const QByteArray &input);
+
 } // namespace FuzzTargets
 
 /// One target.
@@ -68,6 +74,8 @@ inline constexpr FuzzTarget cFuzzTargets[] = {
     {"picture", "picture", FuzzTargets::picture, 2048, 100},
     {"members", "members", FuzzTargets::members, 2048, 100},
     {"bubble", "bubble", FuzzTargets::bubble, 512, 100},
+    {"talk", "talk", FuzzTargets::talk, 4096, 100},
+    {"focus", "focus", FuzzTargets::focus, 1024, 100},
     // clang-format on
 };
 

@@ -1,10 +1,9 @@
 #include "callprocess/ConferenceDesk.h"
 
+#include "conference/Documents.h"
 #include "robots/RobotIds.h"
 
 #include <QDateTime>
-#include <QJsonArray>
-#include <QJsonDocument>
 
 #include <algorithm>
 #include <array>
@@ -26,11 +25,6 @@ struct ControlRow
 constexpr std::array<ControlRow, 3> cControls{
     {{Wire::cKick, "kicked"}, {Wire::cMute, "muted"}, {Wire::cUnmute, "unmuted"}}};
 
-QString compact(const QJsonObject &object)
-{
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
-
 } // namespace
 
 ConferenceDesk::ConferenceDesk(PacedOutlet &outlet, QObject *parent) : QObject(parent), m_outlet(outlet) {}
@@ -48,9 +42,7 @@ void ConferenceDesk::request(const QString &ownId, const QStringList &members)
             m_outlet.notify(Wire::Code::ConfCreated);
             return;
         }
-        m_outlet.notify(Wire::Code::ConfCreated,
-                        compact({{QString::fromLatin1(Wire::cKeyResult),
-                                  QJsonObject{{QString::fromLatin1(Wire::cKeyConfId), m_confId}}}}));
+        m_outlet.notify(Wire::Code::ConfCreated, creationDocument(m_confId));
         afterInConference(cConnectAfterMs, [this, members] {
             join(nullptr);
             const QStringList failed = callMembers(members);
@@ -255,31 +247,17 @@ void ConferenceDesk::tellOfAnotherConference()
     const QString another = QString::fromLatin1(cAnotherConference);
     const QString member = QString::fromLatin1(Robots::hangsUp);
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    m_outlet.notify(Wire::Code::ConfUpdate, document(another, member, {member}, now));
-    m_outlet.notify(Wire::Code::ConfMemberLeft, document(another, m_creator, {}, now));
-    m_outlet.notify(Wire::Code::IncomingConf, document(another, member, {member}, now));
+    m_outlet.notify(Wire::Code::ConfUpdate, conferenceDocument(another, member, {member}, now));
+    m_outlet.notify(Wire::Code::ConfMemberLeft, conferenceDocument(another, m_creator, {}, now));
+    m_outlet.notify(Wire::Code::IncomingConf, conferenceDocument(another, member, {member}, now));
 }
 
 void ConferenceDesk::tellAddResult(const QStringList &failed)
 {
-    const QJsonObject result{{QString::fromLatin1(Wire::cKeyFailedNums), QJsonArray::fromStringList(failed)}};
-    m_outlet.notify(Wire::Code::ConfAddResult,
-                    compact({{QStringLiteral("status"), 0}, {QString::fromLatin1(Wire::cKeyResult), result}}));
+    m_outlet.notify(Wire::Code::ConfAddResult, additionDocument(failed));
 }
 
 QString ConferenceDesk::document(const QString &from) const
 {
-    return document(m_confId, from, m_connected, m_createTime);
-}
-
-QString ConferenceDesk::document(const QString &confId, const QString &from, const QStringList &members,
-                                 qint64 createTime)
-{
-    QJsonObject body{{QString::fromLatin1(Wire::cKeyFrom), from},
-                     {QString::fromLatin1(Wire::cKeyConventioneer), QJsonArray::fromStringList(members)},
-                     {QString::fromLatin1(Wire::cKeyConfId), confId}};
-    if (createTime > 0) {
-        body.insert(QLatin1String(Wire::cKeyCreateTime), static_cast<double>(createTime));
-    }
-    return compact({{QString::fromLatin1(Wire::cKeyContent), body}});
+    return conferenceDocument(m_confId, from, m_connected, m_createTime);
 }

@@ -68,7 +68,6 @@ private:
     void tellOfAnotherConference();
     void tellAddResult(const QStringList &failed);
     QString document(const QString &from) const;
-    static QString document(const QString &confId, const QString &from, const QStringList &members, qint64 createTime);
 
     PacedOutlet &m_outlet;
     Phase m_phase = Phase::None;

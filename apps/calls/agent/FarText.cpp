@@ -2,17 +2,9 @@
 
 #include "calls/agent/CallEnd.h"
 
+#include "conference/UserId.h"
+
 #include <algorithm>
-
-namespace {
-
-/// What is not seen itself, and turns round or hides what stands beside it.
-bool isControl(QChar character)
-{
-    return character.category() == QChar::Other_Control || character.category() == QChar::Other_Format;
-}
-
-} // namespace
 
 QString farText(const std::string &bytes, int limit)
 {
@@ -33,9 +25,4 @@ QString whyRefused(int status, const std::string &phrase)
     const QString why = status == SipStatus::cNothingInCommon ? QStringLiteral("no common encryption or codec")
                                                               : farText(phrase, cRemarkLimit);
     return QStringLiteral("%1 (%2)").arg(why, QString::number(status));
-}
-
-bool isUserId(const QString &id)
-{
-    return !id.isEmpty() && id.size() <= cUserIdLimit && std::none_of(id.begin(), id.end(), isControl);
 }

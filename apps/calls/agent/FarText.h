@@ -6,7 +6,6 @@
 
 #include <string>
 
-inline constexpr int cUserIdLimit = 128;
 inline constexpr int cRemarkLimit = 400;
 
 /// UTF-8 from the far end, control and format characters as blanks, cut at `limit` characters.
@@ -15,7 +14,3 @@ QString farText(const std::string &bytes, int limit);
 /// Why a call was refused with this status of SIP, in words for an operator: those of the library, where there are no
 /// better ones.
 QString whyRefused(int status, const std::string &phrase);
-
-/// Whether a user id from the plug-in or the far end can be one: not empty, within the limit, without control and
-/// format characters.
-bool isUserId(const QString &id);

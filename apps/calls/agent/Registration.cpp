@@ -2,6 +2,8 @@
 
 #include "calls/agent/FarText.h"
 
+#include "conference/UserId.h"
+
 #include <linphone++/linphone.hh>
 
 #include <stdexcept>

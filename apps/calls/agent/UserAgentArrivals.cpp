@@ -4,6 +4,8 @@
 #include "calls/agent/FarText.h"
 #include "calls/agent/UserAgentCore.h"
 
+#include "conference/UserId.h"
+
 void UserAgent::Core::takeStranger(const std::shared_ptr<linphone::Call> &call, linphone::Call::State state)
 {
     if (isArrival(state)) {

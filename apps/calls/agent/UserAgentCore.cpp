@@ -8,6 +8,8 @@
 #include "calls/sound/DeviceChoice.h"
 #include "calls/sound/EchoCard.h"
 
+#include "conference/UserId.h"
+
 #include <unistd.h>
 #include <utility>
 

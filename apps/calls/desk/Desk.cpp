@@ -1,12 +1,9 @@
 #include "calls/desk/Desk.h"
 
-#include "calls/agent/FarText.h"
-
+#include "conference/Documents.h"
+#include "conference/UserId.h"
 #include "endpoint/Channel.h"
 #include "endpoint/ServiceTable.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
 
 #include <array>
 
@@ -15,11 +12,6 @@ namespace {
 // Longer than the plug-in's longest pause between two tries to connect: who stays away beyond has ended, and the
 // microphone must not stay open.
 constexpr int cAwayMs = 90000;
-
-QString documentText(const QJsonObject &object)
-{
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
 
 } // namespace
 
@@ -180,9 +172,7 @@ void Desk::requestConference(const Command & /*command*/)
 
 void Desk::addToConference(const Command &command)
 {
-    const QJsonObject failed{{QString::fromLatin1(Wire::cKeyFailedNums), QJsonArray::fromStringList(command.texts(1))}};
-    m_outlet.notify(Wire::Code::ConfAddResult,
-                    documentText({{QStringLiteral("status"), 0}, {QString::fromLatin1(Wire::cKeyResult), failed}}));
+    m_outlet.notify(Wire::Code::ConfAddResult, additionDocument(command.texts(1)));
 }
 
 void Desk::acceptCall(const Command & /*command*/)

@@ -30,17 +30,6 @@ private slots:
         // Turns round what follows.
         QCOMPARE(farText("a\xE2\x80\xAEtxt.exe", 10), QStringLiteral("a txt.exe"));
     }
-
-    void userIdIsShortAndPlain()
-    {
-        QVERIFY(isUserId(QStringLiteral("30010001")));
-        QVERIFY(isUserId(QStringLiteral("李雷")));
-        QVERIFY(isUserId(QString(128, QLatin1Char('x'))));
-        QVERIFY(!isUserId(QString(129, QLatin1Char('x'))));
-        QVERIFY(!isUserId(QString()));
-        QVERIFY(!isUserId(QStringLiteral("a\nb")));
-        QVERIFY(!isUserId(QStringLiteral("a\u202Eb")));
-    }
 };
 
 #include "support/TestProgram.h"

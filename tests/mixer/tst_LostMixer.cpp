@@ -1,0 +1,149 @@
+// A conference that comes to a mixer which knows nothing of it, since its own was lost.
+
+#include "mixer/FocusTest.h"
+
+using Talk::Word;
+
+class tst_LostMixer : public FocusTest
+{
+    Q_OBJECT
+
+private:
+    /// What the members were told last: "anna" had made it, "dora" had left, "bert" was muted.
+    static Talk::Message lastWord()
+    {
+        Talk::Message message = word(Word::Resume);
+        message.id = QStringLiteral("c");
+        message.creator = QStringLiteral("anna");
+        message.createTime = 1700000000000;
+        message.members = QStringList{"anna", "bert", "carl", "dora"};
+        message.connected = QStringList{"anna", "bert", "carl"};
+        message.muted = QStringList{"bert"};
+        return message;
+    }
+
+private slots:
+    void theFirstWhoComesBringsItBack()
+    {
+        const LegId bert = arriveAndStay("bert", lastWord());
+        QCOMPARE(side->takeLog(), (QStringList{"answer 1", "silence 1"}));
+        const Talk::Message first = told({bert});
+        QCOMPARE(first.creator, QStringLiteral("anna"));
+        QCOMPARE(first.createTime, Q_INT64_C(1700000000000));
+        QCOMPARE(first.members, lastWord().members);
+        QCOMPARE(first.connected, QStringList("bert"));
+        QCOMPARE(first.muted, QStringList("bert"));
+        QCOMPARE(first.left, QStringList());
+        const LegId carl = arriveAndStay("carl", lastWord());
+        QCOMPARE(told({bert, carl}).joined, QStringList("carl"));
+        QCOMPARE(hall->conferenceCount(), 1);
+        QVERIFY(side->rung.isEmpty());
+    }
+
+    void whoDoesNotComeHasLeft()
+    {
+        const LegId anna = arriveAndStay("anna", lastWord());
+        arriveAndStay("bert", lastWord());
+        told({anna});
+        QCOMPARE(hall->findChildren<QTimer *>("await").value(0)->interval(), Focus::cAwaitMs);
+        expire("await");
+        const Talk::Message message = told({anna});
+        QCOMPARE(message.left, QStringList("carl"));
+        QCOMPARE(message.connected, (QStringList{"anna", "bert"}));
+        const LegId carl = arriveAndStay("carl", lastWord());
+        QCOMPARE(told({anna, carl}).joined, QStringList("carl"));
+    }
+
+    void theAwaitedKeepItUp()
+    {
+        const LegId bert = arriveAndStay("bert", lastWord());
+        hall->takeEnd(bert);
+        QCOMPARE(hall->conferenceCount(), 1);
+        expire("await");
+        QCOMPARE(hall->conferenceCount(), 0);
+    }
+
+    void aCreatorWhoComesLateWaitsForNobody()
+    {
+        const LegId bert = arriveAndStay("bert", lastWord());
+        expire("await");
+        const LegId anna = arriveAndStay("anna", lastWord());
+        hall->takeEnd(bert);
+        hall->takeEnd(anna);
+        QCOMPARE(hall->conferenceCount(), 0);
+    }
+
+    void theCreatorsWordIsTheLast()
+    {
+        Talk::Message wrong = lastWord();
+        wrong.members << "emil";
+        wrong.connected << "emil";
+        wrong.muted = QStringList{"carl"};
+        wrong.createTime = 5;
+        const LegId emil = arriveAndStay("emil", wrong);
+        const LegId carl = arriveAndStay("carl", wrong);
+        tellNow();
+        side->takeLog();
+        const LegId anna = arriveAndStay("anna", lastWord());
+        QCOMPARE(side->takeLog(),
+                 (QStringList{QStringLiteral("send %1 over").arg(emil), QStringLiteral("end %1").arg(emil),
+                              QStringLiteral("hear %1").arg(carl), "answer 3"}));
+        const Talk::Message message = told({anna, carl});
+        QCOMPARE(message.members, lastWord().members);
+        QCOMPARE(message.muted, QStringList("bert"));
+        QCOMPARE(message.createTime, Q_INT64_C(1700000000000));
+        QCOMPARE(message.left, QStringList("emil"));
+    }
+
+    void theCreatorHasTheLastWordOnce()
+    {
+        const LegId anna = arriveAndStay("anna", lastWord());
+        const LegId bert = arriveAndStay("bert", lastWord());
+        say(anna, addition({"emil"}));
+        const LegId emil = accept("emil");
+        hall->takeEnd(anna);
+        tellNow();
+        side->bodies.clear();
+        const LegId back = arriveAndStay("anna", lastWord());
+        QCOMPARE(told({back, bert, emil}).connected, (QStringList{"anna", "bert", "emil"}));
+    }
+
+    void aConferenceThatWasMadeHereTakesNobodysWord()
+    {
+        const QList<LegId> legs = gathering({"bert"});
+        hall->takeEnd(legs.at(0));
+        tellNow();
+        side->bodies.clear();
+        const LegId anna = arriveAndStay("anna", lastWord());
+        const Talk::Message message = told({anna, legs.at(1)});
+        QCOMPARE(message.members, (QStringList{"anna", "bert"}));
+        QCOMPARE(message.muted, QStringList());
+    }
+
+    void aStrangerDoesNotBringItBack()
+    {
+        arrive("emil", lastWord());
+        QCOMPARE(side->takeLog(), QStringList("refuse 1 403"));
+        QCOMPARE(hall->conferenceCount(), 0);
+        arriveAndStay("bert", lastWord());
+        Talk::Message claim = lastWord();
+        claim.members << "emil";
+        arrive("emil", claim);
+        QCOMPARE(side->takeLog().last(), QStringLiteral("refuse 3 403"));
+    }
+
+    void aCreatorWhoIsNotListedBelongsToIt()
+    {
+        Talk::Message message = lastWord();
+        message.members.removeAll("anna");
+        const LegId anna = arriveAndStay("anna", message);
+        QCOMPARE(told({anna}).connected, QStringList("anna"));
+        const LegId bert = arriveAndStay("bert", message);
+        say(anna, word(Word::Unmute, "bert"));
+        QCOMPARE(told({anna, bert}).muted, QStringList());
+    }
+};
+
+#include "support/TestProgram.h"
+VOIP_TEST(tst_LostMixer, Guiless)
+#include "tst_LostMixer.moc"
