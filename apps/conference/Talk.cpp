@@ -5,9 +5,11 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace Talk {
 
@@ -16,6 +18,7 @@ namespace {
 constexpr const char *cKeyWord = "say";
 constexpr double cGreatestTime = 9007199254740992; // up to there JSON's numbers are exact
 constexpr int cShownLetters = 40;
+constexpr int cDeepest = 2; // a list in an object
 
 QString nameOf(const FieldRow &row)
 {
@@ -167,6 +170,54 @@ Heard readFields(const QJsonObject &object, const WordRow &row)
     return heard;
 }
 
+/// Where the string that begins at `begin` ends.
+int endOfString(const QByteArray &bytes, int begin)
+{
+    int end = begin + 1;
+    while (end < bytes.size() && bytes.at(end) != '"') {
+        end += bytes.at(end) == '\\' ? 2 : 1;
+    }
+    return std::min(end, bytes.size());
+}
+
+bool isKey(const QByteArray &bytes, int end)
+{
+    const auto *const next = std::find_if_not(bytes.begin() + std::min(end + 1, bytes.size()), bytes.end(),
+                                              [](char byte) { return std::strchr(" \t\r\n", byte) != nullptr; });
+    return next != bytes.end() && *next == ':';
+}
+
+/// Whether an object has lists at the deepest and each key once. Qt's parser never gives a list back whose key comes
+/// again, and a mixer would grow with each such body.
+bool isPlain(const QByteArray &bytes)
+{
+    QSet<QByteArray> keys;
+    int depth = 0;
+    for (int i = 0; i < bytes.size(); ++i) {
+        const char byte = bytes.at(i);
+        if (byte == '{' || byte == '[') {
+            ++depth;
+        } else if (byte == '}' || byte == ']') {
+            --depth;
+        } else if (byte == '"') {
+            const int end = endOfString(bytes, i);
+            const QByteArray text = bytes.mid(i, end - i);
+            if (depth == 1 && isKey(bytes, end)) {
+                // Letters that are said by their number could hide that it is the same key.
+                if (text.contains('\\') || keys.contains(text)) {
+                    return false;
+                }
+                keys.insert(text);
+            }
+            i = end;
+        }
+        if (depth > cDeepest) {
+            return false;
+        }
+    }
+    return true;
+}
+
 /// One line of ASCII, whatever the texts have: a header bears no more.
 QByteArray ascii(const QString &json)
 {
@@ -188,6 +239,9 @@ Heard read(const QByteArray &bytes, Road road)
 {
     if (bytes.size() > longestOn(road)) {
         return {std::nullopt, QStringLiteral("%1 bytes are too many").arg(bytes.size())};
+    }
+    if (!isPlain(bytes)) {
+        return {std::nullopt, QStringLiteral("more than lists in an object, or a key twice")};
     }
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);

@@ -255,6 +255,14 @@ private slots:
         row("nothing", "", "no JSON object, at byte 0");
         row("text", "hello", "no JSON object, at byte 1");
         row("array", "[]", "no JSON object, at byte 0");
+        const char *unplain = "more than lists in an object, or a key twice";
+        row("list twice", "{\"say\":\"add\",\"users\":[\"a\"],\"users\" \t\r\n:[\"b\"]}", unplain);
+        row("list behind many blanks",
+            "{\"say\":\"add\",\"users\":[\"a\"],\"users\"" + QByteArray(1000, ' ') + ":[\"b\"]}", unplain);
+        row("key by numbers", "{\"say\":\"add\",\"users\":[\"a\"],\"\\u0075sers\":[\"b\"]}", unplain);
+        row("list in a list", "{\"say\":\"add\",\"users\":[[\"a\"]]}", unplain);
+        row("string without an end", "{\"say\":\"add\",\"users", "no JSON object, at byte 20");
+        row("string that ends in an escape", "{\"say\":\"add\\", "no JSON object, at byte 12");
         row("empty object", "{}", "no word here: that name");
         row("another word", R"({"say":"dance"})", "no word here: \"dance\"");
         row("a word of control characters", R"({"say":"a\nb"})", "no word here: that name");
