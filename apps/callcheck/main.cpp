@@ -35,17 +35,19 @@ int complain(CheckExit exitCode, const QString &text)
 /// Takes the registration value from the file that is named, its first line. False with `error` set when there is none.
 bool readRegistration(CheckOptions &options, QString *error)
 {
-    if (options.registrationFile.isEmpty()) {
+    if (options.mode != CheckOptions::Mode::Replay || options.registrationFile.isEmpty()) {
         return true;
     }
     QFile file(options.registrationFile);
     const bool open = options.registrationFile == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
                                                                      : file.open(QIODevice::ReadOnly);
     const QByteArray line = open ? file.readLine(cRegistrationLimit).trimmed() : QByteArray();
-    if (line.isEmpty()) {
-        *error =
-            QStringLiteral("no registration value in %1: %2")
-                .arg(options.registrationFile, open ? QStringLiteral("its first line is empty") : file.errorString());
+    const QString fault = !open                                   ? file.errorString()
+                          : line.isEmpty()                        ? QStringLiteral("its first line is empty")
+                          : line.size() >= cRegistrationLimit - 1 ? QStringLiteral("its first line is too long")
+                                                                  : QString();
+    if (!fault.isEmpty()) {
+        *error = QStringLiteral("no registration value in %1: %2").arg(options.registrationFile, fault);
         return false;
     }
     options.registration = QString::fromUtf8(line);

@@ -141,14 +141,13 @@ int serve(const CallsSettings &settings, Channel &channel, Trace &trace)
     const auto exchange = exchangeOf(settings);
     ExchangeAccess access = accessOf(settings);
     const ProcessFolder folder;
+    if (!folder.isValid()) {
+        trace.complaint(folder.fault());
+        return cExitCannotListen;
+    }
     UserAgent agent(settings, access, folder.path());
     Desk desk(channel, trace, agent, access);
-    if (folder.isValid()) {
-        startAgent(agent, desk, trace);
-    } else {
-        trace.complaint(folder.fault());
-        desk.lackAgent(folder.fault());
-    }
+    startAgent(agent, desk, trace);
     QObject::connect(&channel, &Channel::lineReceived, &desk, [&](const QByteArray &line) {
         if (line == Wire::cQuitLine) {
             trace.event(QStringLiteral("quit"));

@@ -4,13 +4,17 @@
 
 #include <QFileInfo>
 
+#include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 #include <utility>
 
 namespace {
 
 constexpr ushort cControlPictures = 0x2400;
 constexpr ushort cDeletePicture = 0x2421;
+// A pipe or a device, which standard error may be too, has no end to append at.
+constexpr QIODevice::OpenMode cStreamed = QIODevice::WriteOnly | QIODevice::Unbuffered;
 
 } // namespace
 
@@ -26,17 +30,24 @@ bool Trace::open(const QString &path, QString *error)
     }
     m_onStandardError = path == QLatin1String("-");
     // Appended and unbuffered: a predecessor's records stay, and a killed process leaves all of its own.
-    const QIODevice::OpenMode appended = QIODevice::Append | QIODevice::Unbuffered;
-    // A pipe or a device, which standard error may be too, has no end to append at.
-    const QIODevice::OpenMode streamed = QIODevice::WriteOnly | QIODevice::Unbuffered;
-    m_file.setFileName(path);
     const QFileInfo place(path);
-    const bool open = m_onStandardError ? m_file.open(stderr, streamed)
-                                        : m_file.open(place.exists() && !place.isFile() ? streamed : appended);
+    m_file.setFileName(path);
+    const bool open = m_onStandardError                   ? m_file.open(stderr, cStreamed)
+                      : place.exists() && !place.isFile() ? openPipe(path)
+                                                          : m_file.open(QIODevice::Append | QIODevice::Unbuffered);
     if (!open) {
-        *error = QStringLiteral("cannot write the trace %1: %2").arg(path, m_file.errorString());
+        const QString why = m_file.error() == QFileDevice::NoError ? qt_error_string(errno) : m_file.errorString();
+        *error = QStringLiteral("cannot write the trace %1: %2").arg(path, why);
     }
     return open;
+}
+
+/// A pipe that nobody reads is an error, and records that its reader has no room for are left out: the call process
+/// waits for neither.
+bool Trace::openPipe(const QString &path)
+{
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+    return descriptor >= 0 && m_file.open(descriptor, cStreamed, QFileDevice::AutoCloseHandle);
 }
 
 void Trace::setVeil(std::function<QByteArray(const QByteArray &line)> veil)

@@ -18,7 +18,8 @@ public:
     Trace();
 
     /// Appends to the file at `path`, "-" being standard error. An empty path leaves the trace off. False with `error`
-    /// set when the file cannot be opened.
+    /// set when the file cannot be opened. A named pipe has to have its reader already; what it has no room for is left
+    /// out.
     bool open(const QString &path, QString *error);
 
     /// Whether the records go to standard error.
@@ -48,6 +49,7 @@ public:
     static QString printable(const QByteArray &bytes);
 
 private:
+    bool openPipe(const QString &path);
     void record(char direction, const QString &text);
     QString veiled(const QByteArray &line) const;
 

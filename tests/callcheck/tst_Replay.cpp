@@ -112,6 +112,8 @@ private slots:
         QTest::newRow("another") << QByteArray("open barley\n") << QString("expected 17 (SdkFlag) true");
         QTest::newRow("empty") << QByteArray("\nopen sesame\n")
                                << QString("no registration value in %1: its first line is empty");
+        QTest::newRow("too long") << QByteArray(70000, 'a')
+                                  << QString("no registration value in %1: its first line is too long");
         QTest::newRow("none") << QByteArray() << QString("no registration value in %1: No such file or directory");
     }
 

@@ -51,6 +51,29 @@ private slots:
         QCOMPARE(s_warnings, 0);
     }
 
+    void pipeIsWaitedForNeitherAtItsBeginNorLater()
+    {
+        QCOMPARE(mkfifo("full.trace", 0600), 0);
+        QString error;
+        QVERIFY(!Trace().open(QStringLiteral("full.trace"), &error));
+        QCOMPARE(error, QStringLiteral("cannot write the trace full.trace: No such device or address"));
+        const int reader = ::open("full.trace", O_RDONLY | O_NONBLOCK);
+        Trace trace;
+        QVERIFY2(trace.open(QStringLiteral("full.trace"), &error), qPrintable(error));
+        const QString text(4000, QLatin1Char('x'));
+        for (int records = 0; records < 100; ++records) {
+            trace.event(text);
+        }
+        QByteArray written(1 << 20, '\0');
+        const ssize_t size = ::read(reader, written.data(), size_t(written.size()));
+        QVERIFY(size > 10000 && size < 100 * 4000);
+        trace.event(QStringLiteral("room again"));
+        written.fill('\0');
+        QVERIFY(::read(reader, written.data(), size_t(written.size())) > 0);
+        ::close(reader);
+        QVERIFY(written.contains(" = room again\n"));
+    }
+
     void veilCoversWhatCameInAlone()
     {
         Trace trace;

@@ -4,6 +4,7 @@
 #include "calls/agent/FarText.h"
 #include "calls/agent/UserAgentCore.h"
 
+#include "conference/Talk.h"
 #include "conference/UserId.h"
 
 void UserAgent::Core::takeStranger(const std::shared_ptr<linphone::Call> &call, linphone::Call::State state)
@@ -29,7 +30,7 @@ void UserAgent::Core::takeArrival(const std::shared_ptr<linphone::Call> &call)
         call->decline(linphone::Reason::Forbidden);
         emit m_agent.remarked(QStringLiteral("refused a call from %1: not of this exchange")
                                   .arg(farText(address->asStringUriOnly(), cRemarkLimit)));
-    } else if (remote && !remote->getCustomHeader("X-Conference").empty()) {
+    } else if (remote && !remote->getCustomHeader(Talk::cHeader).empty()) {
         call->decline(linphone::Reason::NotImplemented);
     } else {
         m_tones.stop();

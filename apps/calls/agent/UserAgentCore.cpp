@@ -147,6 +147,9 @@ void UserAgent::Core::signOut()
 bool UserAgent::Core::place(const QString &userId)
 {
     end();
+    if (!m_library) {
+        return false;
+    }
     guard([&] {
         const auto address = m_registration->addressOf(userId);
         refreshDevices();

@@ -70,8 +70,10 @@ ExchangeKeeper::Begin ExchangeKeeper::begin(QString *error)
         return Begin::AnotherLives;
     }
     if (!locked || !openSocket(error)) {
-        // Who started it does not read what it says.
-        m_log.write(error->toUtf8() + '\n');
+        // Who started it does not read what it says. The log is the holder's of the lock, where there is one.
+        if (locked || m_lock < 0) {
+            m_log.write(error->toUtf8() + '\n');
+        }
         return Begin::Failed;
     }
     m_watcher.addPath(m_folder);
@@ -105,13 +107,15 @@ bool ExchangeKeeper::takeLock(QString *error)
 {
     const QString path = ExchangeFolder::path(m_folder, ExchangeFolder::cLock);
     m_lock = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
-    *error = QStringLiteral("%1: %2").arg(path, m_lock < 0 ? qt_error_string(errno)
-                                                           : QStringLiteral("held by a process that answers nobody"));
+    *error = QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
     const QDeadlineTimer deadline(cLockWaitMs);
     const std::string socketFile =
         QFile::encodeName(ExchangeFolder::path(m_folder, ExchangeFolder::cKeeper)).toStdString();
     while (m_lock >= 0 && ::flock(m_lock, LOCK_EX | LOCK_NB) != 0) {
-        if (deadline.hasExpired() || Wire::isAnswered(socketFile)) {
+        const bool held = errno == EWOULDBLOCK || errno == EINTR;
+        *error = QStringLiteral("%1: %2").arg(path, held ? QStringLiteral("held by a process that answers nobody")
+                                                         : qt_error_string(errno));
+        if (!held || deadline.hasExpired() || Wire::isAnswered(socketFile)) {
             return false;
         }
         QThread::msleep(cLockPauseMs);

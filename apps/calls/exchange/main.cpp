@@ -19,18 +19,22 @@ namespace {
 constexpr const char *cProgram = "kelvarim-exchange";
 constexpr int cExitCannotKeep = 1;
 
+/// What whoever started it has left open (sound devices, connections) is not to stay open as long as the exchange
+/// lives, nor are the signals to stay blocked that he waits for in his own way.
+void partFromStarter()
+{
+    ::close_range(STDERR_FILENO + 1, ~0U, 0);
+    sigset_t none;
+    sigemptyset(&none);
+    ::sigprocmask(SIG_SETMASK, &none, nullptr);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    // What whoever started it has left open (sound devices, connections) is not to stay open as long as the exchange
-    // lives.
-    ::close_range(STDERR_FILENO + 1, ~0U, 0);
+    partFromStarter();
     ::umask(S_IRWXG | S_IRWXO);
-    // Nor are the signals to stay blocked that whoever started it waits for in its own way.
-    sigset_t none;
-    sigemptyset(&none);
-    ::sigprocmask(SIG_SETMASK, &none, nullptr);
     std::signal(SIGPIPE, SIG_IGN);
     const QCoreApplication application(argc, argv);
     QCommandLineParser parser;

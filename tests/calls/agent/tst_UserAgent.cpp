@@ -99,6 +99,7 @@ private slots:
         agent.signIn(QStringLiteral("100"), QStringLiteral("Nick"), {QStringLiteral("100"), QStringLiteral("secret")});
         QCOMPARE(lost.size(), 1);
         agent.loseExchange();
+        QVERIFY(!agent.call(QStringLiteral("200")));
         agent.accept();
         agent.refuse(true);
         agent.playFailure({SipStatus::cBusy, false, QString()});
