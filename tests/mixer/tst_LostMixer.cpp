@@ -124,6 +124,21 @@ private slots:
         QCOMPARE(message.muted, QStringList("bert"));
     }
 
+    void theCreatorsWordMakesRoomForHimself()
+    {
+        make({1, 3, 9, 60});
+        Talk::Message wrong = lastWord();
+        wrong.members = QStringList{"anna", "bert", "emil", "fred"};
+        wrong.connected = QStringList{"bert", "emil", "fred"};
+        const LegId bert = arriveAndStay("bert", wrong);
+        Talk::Message right = lastWord();
+        right.members.removeAll("dora");
+        const LegId anna = arriveAndStay("anna", right);
+        const Talk::Message message = told({anna, bert});
+        QCOMPARE(message.members, (QStringList{"anna", "bert", "carl"}));
+        QCOMPARE(message.left, (QStringList{"emil", "fred"}));
+    }
+
     void theCreatorsWordIsHeldToTheLimitsToo()
     {
         make({1, 3, 9, 60});

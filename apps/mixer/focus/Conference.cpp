@@ -129,6 +129,9 @@ void Conference::admit(LegId leg, const QString &userId, const Talk::Message &me
         m_side.refuse(leg, cStatusForbidden, QStringLiteral("%1 does not belong to the conference").arg(userId));
         return;
     }
+    if (userId == m_roster.creator() && message.saying == Talk::Word::Resume && std::exchange(m_creatorSpeaks, false)) {
+        adopt(message);
+    }
     if (!member->isPresent() && m_roster.presentCount() >= m_limits.members) {
         m_side.refuse(leg, cStatusForbidden, fullness());
         return;
@@ -141,9 +144,6 @@ void Conference::admit(LegId leg, const QString &userId, const Talk::Message &me
     member->state = State::Arriving;
     m_book.erase(earlier);
     m_book.enter(leg, {m_id, userId});
-    if (userId == m_roster.creator() && message.saying == Talk::Word::Resume && std::exchange(m_creatorSpeaks, false)) {
-        adopt(message);
-    }
     if (earlier != cNoLeg) {
         m_side.end(earlier);
     }
