@@ -1,17 +1,20 @@
 #include "conference/Attendance.h"
 
 #include "conference/Documents.h"
+#include "conference/UserId.h"
 
 #include <QUuid>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
-constexpr int cMostHeld = 100; // lines
+constexpr int cMostHeld = 100; // lines of those who are busy or refuse
 
-ConferenceLine remark(const QString &text)
+ConferenceLine remark(QString text)
 {
+    std::replace_if(text.begin(), text.end(), isControl, QLatin1Char(' '));
     return {Wire::Code::SdkLog, text};
 }
 
@@ -91,7 +94,7 @@ ConferenceLines Attendance::takeMedia()
     if (!m_cameMeanwhile.isEmpty()) {
         lines.append(lineOf(Wire::Code::ConfUpdate, m_last, m_cameMeanwhile));
     }
-    return lines + std::exchange(m_held, {});
+    return lines + linesOf(std::exchange(m_held, {}));
 }
 
 ConferenceLines Attendance::takeBody(const QByteArray &body)
@@ -144,11 +147,14 @@ ConferenceLines Attendance::takeMembers(const Talk::Message &message)
 
 ConferenceLines Attendance::takeOutcome(const Talk::Message &message)
 {
-    const ConferenceLines lines = linesOf(message);
     if (m_phase == Phase::Running) {
-        return lines;
+        return linesOf(message);
     }
-    m_held = (m_held + lines).mid(0, cMostHeld);
+    m_held.busy += message.busy.mid(0, cMostHeld - m_held.busy.size() - m_held.refused.size());
+    m_held.refused += message.refused.mid(0, cMostHeld - m_held.busy.size() - m_held.refused.size());
+    m_held.failed += message.failed;
+    m_held.failed.removeDuplicates();
+    m_held.failed = m_held.failed.mid(0, Talk::cMostUsers);
     return {};
 }
 
@@ -173,6 +179,7 @@ Talk::Message Attendance::resumption() const
     Talk::Message message = m_last;
     if (message.saying != Talk::Word::Create) {
         message.saying = Talk::Word::Resume;
+        message = Talk::shortened(message);
     }
     return message;
 }

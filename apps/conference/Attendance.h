@@ -53,8 +53,8 @@ public:
     ConferenceLines takeEnd();
 
     /// What is to be said where the mixer was lost and the conference is called again. It goes on as if nothing had
-    /// been: neither answer nor sound are told twice. What was asked for is asked for again where nothing was heard of
-    /// it yet.
+    /// been: neither answer nor sound are told twice. It always fits its header: where many are remembered, those who
+    /// are away are left out first. What was asked for is asked for again where nothing was heard of it yet.
     Talk::Message resumption() const;
 
     /// The user has left, or declined.
@@ -78,5 +78,5 @@ private:
     Talk::Message m_last; // how it stood last; before, what was asked for or invited to
     // Until the sound has been told:
     QString m_cameMeanwhile; // the last one
-    ConferenceLines m_held;
+    Talk::Message m_held;    // the outcomes of all
 };

@@ -115,6 +115,25 @@ QJsonValue valueOf(const QStringList &field)
     return QJsonArray::fromStringList(field);
 }
 
+/// Whether a field may be written as it is.
+template <class Field>
+bool isShort(const Field & /*field*/)
+{
+    return true;
+}
+
+bool isShort(const QStringList &field)
+{
+    return field.size() <= cMostUsers;
+}
+
+/// Leaves those in the list who stay.
+void keep(QStringList *list, const QSet<QString> &stay)
+{
+    const auto goes = [&](const QString &id) { return !stay.contains(id); };
+    list->erase(std::remove_if(list->begin(), list->end(), goes), list->end());
+}
+
 /// Every field of the message with its row, those that the word does not have too.
 template <class SomeMessage, class Visitor>
 void forEachField(SomeMessage &message, const Visitor &visit)
@@ -260,14 +279,41 @@ QByteArray written(const Message &message)
 {
     const WordRow &row = rowOf(message.saying);
     const QStringList wanted = fieldsOf(row);
+    bool fits = true;
     QJsonObject object{{QString::fromLatin1(cKeyWord), QString::fromLatin1(row.name)}};
     forEachField(message, [&](const FieldRow &field, const auto &value) {
         if (wanted.contains(nameOf(field))) {
             object.insert(nameOf(field), valueOf(value));
+            fits = fits && isShort(value);
         }
     });
+    if (!fits) {
+        return {};
+    }
     const QByteArray line = ascii(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
     return line.size() > longestOn(row.road) ? QByteArray() : line;
+}
+
+Message shortened(Message message)
+{
+    if (!written(message).isEmpty()) {
+        return message;
+    }
+    QSet<QString> stay(message.connected.begin(), message.connected.end());
+    stay.insert(message.creator);
+    keep(&message.members, stay + QSet<QString>(message.muted.begin(), message.muted.end()));
+    if (!written(message).isEmpty()) {
+        return message;
+    }
+    keep(&message.members, stay);
+    keep(&message.muted, stay);
+    while (written(message).isEmpty() && !message.members.isEmpty()) {
+        const int half = message.members.size() / 2;
+        for (QStringList *list : {&message.members, &message.connected, &message.muted}) {
+            *list = list->mid(0, half);
+        }
+    }
+    return message;
 }
 
 } // namespace Talk

@@ -144,7 +144,13 @@ constexpr int longestOn(Road road)
 /// Reads any bytes as a word of this road. Fields that the word does not have are passed over, with a remark.
 Heard read(const QByteArray &bytes, Road road);
 
-/// The word as it travels: one line of ASCII. Empty where it would be longer than its road bears.
+/// The word as it travels: one line of ASCII. Empty where it would be longer than its road bears, or a list has more
+/// than cMostUsers.
 QByteArray written(const Message &message);
+
+/// How it stands, a Members or a Resume, with as many in `members`, `connected` and `muted` as can be written: all,
+/// else without those who are neither in it nor muted nor the creator, else without all who are not in it but the
+/// creator, else with the first ones alone of those.
+Message shortened(Message message);
 
 } // namespace Talk

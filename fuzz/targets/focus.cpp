@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QHash>
 #include <QList>
 #include <QSet>
 #include <QTimer>
@@ -22,18 +23,18 @@ constexpr int cConferences = 4;
 class Side : public Focus::LegSide
 {
 public:
-    LegId ring(const QString & /*conferenceId*/, const QString &userId, const QByteArray &header) override
+    LegId ring(const QString &conferenceId, const QString &userId, const QByteArray &header) override
     {
         requirePromise(Talk::read(header, Talk::Road::InviteDown).message.has_value(), "an invitation is a word");
         // This one can never be reached.
         if (userId == QLatin1String("7")) {
             return Focus::cNoLeg;
         }
-        open.insert(++lastLeg);
+        enter(++lastLeg, conferenceId);
         return lastLeg;
     }
 
-    void answer(LegId leg) override { open.insert(leg); }
+    void answer(LegId leg) override { enter(leg, arrivals.value(leg)); }
     void refuse(LegId leg, int status, const QString &why) override
     {
         requirePromise(!open.contains(leg) && status >= 400 && !why.isEmpty(), "a refusal has its reason");
@@ -41,7 +42,7 @@ public:
 
     void end(LegId leg) override
     {
-        requirePromise(open.remove(leg), "what is ended is there");
+        requirePromise(open.remove(leg) > 0, "what is ended is there");
         up.remove(leg);
         hall->takeEnd(leg);
     }
@@ -59,10 +60,25 @@ public:
 
     void note(const QString & /*text*/) override {}
 
+    void forget(LegId leg)
+    {
+        open.remove(leg);
+        up.remove(leg);
+    }
+
     Focus::Hall *hall = nullptr;
     LegId lastLeg = Focus::cNoLeg;
-    QSet<LegId> open;
+    QHash<LegId, QString> arrivals; // which conference they are for
+    QHash<LegId, QString> open;     // in which conference
     QSet<LegId> up;
+
+private:
+    void enter(LegId leg, const QString &conferenceId)
+    {
+        open.insert(leg, conferenceId);
+        const QStringList places = open.values();
+        requirePromise(places.count(conferenceId) <= cNarrow.members, "a conference has its limit");
+    }
 };
 
 QString userOf(int number)
@@ -125,7 +141,8 @@ void arrive(Focus::Hall &hall, Side &side, const Step &step)
         message.muted = usersOf(step.third & 0x15);
         header = Talk::written(message);
     }
-    hall.takeArrival(++side.lastLeg, id, userOf(step.first + (step.letter == 'Q' ? 1 : 0)), header);
+    side.arrivals.insert(++side.lastLeg, id);
+    hall.takeArrival(side.lastLeg, id, userOf(step.first + (step.letter == 'Q' ? 1 : 0)), header);
 }
 
 void say(Focus::Hall &hall, LegId leg, const Step &step)
@@ -158,8 +175,7 @@ void takeStep(Focus::Hall &hall, Side &side, const Step &step)
         break;
     case 'X':
     case 'D':
-        side.open.remove(leg);
-        side.up.remove(leg);
+        side.forget(leg);
         step.letter == 'X' ? hall.takeEnd(leg) : hall.takeRefusal(leg, 400 + step.second);
         break;
     case 'B':
@@ -185,9 +201,9 @@ void FuzzTargets::focus(const QByteArray &input)
     for (const QByteArray &line : input.split('\n')) {
         takeStep(hall, side, Step(line));
     }
-    const QSet<LegId> left = side.open;
+    const QList<LegId> left = side.open.keys();
     for (const LegId leg : left) {
-        if (side.open.remove(leg)) {
+        if (side.open.remove(leg) > 0) {
             hall.takeEnd(leg);
         }
     }

@@ -30,8 +30,11 @@ void readOn(Talk::Road road, const QByteArray &input)
         return;
     }
     requirePromise(Talk::rowOf(heard.message->saying).road == road, "a word is one of its road");
-    requireUsers(heard.message->members);
-    requireUsers(heard.message->users);
+    for (const QStringList &users : {heard.message->members, heard.message->connected, heard.message->muted,
+                                     heard.message->users, heard.message->joined, heard.message->left,
+                                     heard.message->busy, heard.message->refused, heard.message->failed}) {
+        requireUsers(users);
+    }
     const QByteArray line = Talk::written(*heard.message);
     requirePromise(line.size() <= Talk::longestOn(road), "no word is written longer than it may be read");
     // Letters beyond ASCII take more room as it travels.
@@ -45,6 +48,11 @@ void readOn(Talk::Road road, const QByteArray &input)
 void requireLines(const ConferenceLines &lines, const QByteArray &input)
 {
     requirePromise(lines.size() <= input.size() + 2, "lines come from the words");
+    for (const ConferenceLine &line : lines) {
+        requirePromise(line.code != Wire::Code::SdkLog ||
+                           std::none_of(line.content.begin(), line.content.end(), isControl),
+                       "a remark is one line");
+    }
 }
 
 /// A call process that is invited by these bytes, and one that asks for a conference and hears them.

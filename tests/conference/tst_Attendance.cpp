@@ -130,6 +130,29 @@ private slots:
         QCOMPARE(lines.size(), 102);
     }
 
+    void whoFailsBeforeTheSoundIsToldHoweverManyAreBusy()
+    {
+        Attendance attendance;
+        attendance.request("anna", {"bert"}, true, {});
+        Talk::Message outcome;
+        outcome.saying = Word::Outcome;
+        for (int i = 0; i < 99; ++i) {
+            outcome.busy << QString::number(i);
+        }
+        outcome.refused = QStringList{"dora", "emil"};
+        outcome.failed = QStringList{"fred"};
+        attendance.takeBody(Talk::written(outcome));
+        outcome.failed << "gerd";
+        attendance.takeBody(Talk::written(outcome));
+        const QStringList lines = said(attendance.takeMedia());
+        QCOMPARE(lines.size(), 103);
+        QCOMPARE(lines.at(101), QStringLiteral("25 dora"));
+        QCOMPARE(lines.last(), QStringLiteral(R"(21 {"result":{"failedNums":["fred","gerd"]},"status":0})"));
+        attendance.leave();
+        attendance.request("anna", {"bert"}, true, {});
+        QCOMPARE(said(attendance.takeMedia()).size(), 2);
+    }
+
     void anInvitationIsTakenThenHeard()
     {
         Attendance attendance;
@@ -202,6 +225,21 @@ private slots:
                  (QStringList{"999 of the conference: over has no \"colour\"", "999 the conference ends here: so"}));
     }
 
+    void aLogLineIsOneLine()
+    {
+        Attendance attendance;
+        running(&attendance);
+        Talk::Message message;
+        message.saying = Word::Denied;
+        message.word = QStringLiteral("ki\nck");
+        message.why = QStringLiteral("a\r\nb\u202ec\u0085d");
+        QCOMPARE(said(attendance.takeBody(Talk::written(message))),
+                 QStringList("999 the conference refuses ki ck: a  b c d"));
+        QCOMPARE(said(attendance.takeRefusal("so")), QStringList("7"));
+        attendance.request("anna", {}, false, {});
+        QCOMPARE(said(attendance.takeRefusal("a\nb")), (QStringList{"999 no conference: a b", "20"}));
+    }
+
     void itsEndDependsOnHowFarItHasCome()
     {
         Attendance attendance;
@@ -242,6 +280,43 @@ private slots:
         QCOMPARE(said(attendance.takeAnswer() + attendance.takeMedia()), QStringList());
         QCOMPARE(said(attendance.takeBody(Talk::written(membersOf(id, {"anna"}, {"anna"})))), QStringList("12 anna"));
         QCOMPARE(said(attendance.takeRefusal("no mixer")), QStringList("7"));
+    }
+
+    void aLostMixerIsCalledAgainHoweverManyAreRemembered_data()
+    {
+        QTest::addColumn<int>("length");
+        QTest::addColumn<bool>("allAreMuted");
+        QTest::addColumn<int>("belong");
+        QTest::addColumn<int>("muted");
+        QTest::newRow("all fit") << 8 << true << 200 << 200;
+        QTest::newRow("who is away is left out") << 60 << false << 101 << 1;
+        QTest::newRow("who is away and muted is left out") << 36 << true << 100 << 100;
+        QTest::newRow("half of those who are in it") << 100 << true << 50 << 50;
+    }
+
+    void aLostMixerIsCalledAgainHoweverManyAreRemembered()
+    {
+        QFETCH(const int, length);
+        QFETCH(const bool, allAreMuted);
+        QFETCH(const int, belong);
+        QFETCH(const int, muted);
+        Talk::Message last = membersOf("7", {}, {});
+        last.members.clear();
+        for (int i = 0; i < 200; ++i) {
+            last.members << QString::number(i).rightJustified(length, '0');
+        }
+        last.creator = last.members.first();
+        last.connected = last.members.mid(0, 100);
+        last.muted = allAreMuted ? last.members : last.members.mid(199);
+        Attendance attendance;
+        attendance.takeInvitation(invitation("7"));
+        QCOMPARE(said(attendance.takeBody(Talk::written(last))), QStringList());
+        const Talk::Heard heard = Talk::read(Talk::written(attendance.resumption()), Talk::Road::InviteUp);
+        QVERIFY2(heard.message, qPrintable(heard.remark));
+        QCOMPARE(heard.message->members.size(), belong);
+        QCOMPARE(heard.message->members.mid(0, 50), last.members.mid(0, 50));
+        QCOMPARE(heard.message->connected, last.connected.mid(0, std::min(belong, 100)));
+        QCOMPARE(heard.message->muted.size(), muted);
     }
 
     void whatWasNeverHeardOfIsAskedForAgain()

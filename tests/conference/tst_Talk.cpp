@@ -308,8 +308,45 @@ private slots:
         }
         QCOMPARE(Talk::written(message), QByteArray());
         message.saying = Word::Add;
-        message.users = message.members;
+        message.users = message.members.mid(message.members.size() - Talk::cMostUsers);
         QVERIFY(Talk::written(message).size() > Talk::cLongestHeader);
+        message.users << "one more";
+        QCOMPARE(Talk::written(message), QByteArray());
+    }
+
+    void howItStandsIsShortenedFromThoseWhoAreAway_data()
+    {
+        QTest::addColumn<int>("length");
+        QTest::addColumn<int>("belong");
+        QTest::addColumn<int>("connected");
+        QTest::addColumn<int>("muted");
+        // The creator, 100 who are in it, and 400 who are not, the last 100 of them muted.
+        QTest::newRow("all fit") << 80 << 500 << 99 << 100;
+        QTest::newRow("without who is away") << 128 << 200 << 99 << 100;
+        QTest::newRow("without who is away and muted") << 220 << 100 << 99 << 0;
+        QTest::newRow("the first half") << 560 << 50 << 50 << 0;
+    }
+
+    void howItStandsIsShortenedFromThoseWhoAreAway()
+    {
+        QFETCH(const int, length);
+        QFETCH(const int, belong);
+        QFETCH(const int, connected);
+        QFETCH(const int, muted);
+        Talk::Message message;
+        message.saying = Word::Members;
+        for (int i = 0; i < Talk::cMostUsers; ++i) {
+            message.members << QString::number(i).rightJustified(length - 3, '0');
+        }
+        message.creator = message.members.first();
+        message.connected = message.members.mid(1, 99);
+        message.muted = message.members.mid(400);
+        const Talk::Message shorter = Talk::shortened(message);
+        QVERIFY(!Talk::written(shorter).isEmpty());
+        QCOMPARE(shorter.members.size(), belong);
+        QCOMPARE(shorter.members.first(), message.creator);
+        QCOMPARE(shorter.connected, QStringList(message.connected.mid(0, connected)));
+        QCOMPARE(shorter.muted.size(), muted);
     }
 };
 

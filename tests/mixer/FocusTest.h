@@ -19,6 +19,15 @@ public:
     std::unique_ptr<Focus::Hall> hall;
 
 protected:
+    static QStringList people(const QString &prefix, int count)
+    {
+        QStringList ids;
+        for (int i = 0; i < count; ++i) {
+            ids << prefix + QString::number(i);
+        }
+        return ids;
+    }
+
     static Talk::Message word(Talk::Word saying, const QString &user = {})
     {
         Talk::Message message;
@@ -63,10 +72,30 @@ protected:
         return leg;
     }
 
+    void comeUp(LegId leg)
+    {
+        if (side->open.contains(leg)) {
+            side->up.insert(leg);
+        }
+        hall->takeUp(leg);
+    }
+
+    void leave(LegId leg)
+    {
+        side->forget(leg);
+        hall->takeEnd(leg);
+    }
+
+    void decline(LegId leg, int status)
+    {
+        side->forget(leg);
+        hall->takeRefusal(leg, status);
+    }
+
     LegId arriveAndStay(const QString &user, const Talk::Message &message)
     {
         const LegId leg = arrive(user, message);
-        hall->takeUp(leg);
+        comeUp(leg);
         return leg;
     }
 
@@ -74,7 +103,7 @@ protected:
     LegId accept(const QString &user)
     {
         const LegId leg = side->legOf(user);
-        hall->takeUp(leg);
+        comeUp(leg);
         return leg;
     }
 

@@ -42,6 +42,7 @@ void RecordingSide::end(LegId leg)
     if (!open.remove(leg)) {
         QTest::qFail("what is ended is a leg that is there", __FILE__, __LINE__);
     }
+    up.remove(leg);
     if (hall != nullptr) {
         hall->takeEnd(leg);
     }
@@ -50,14 +51,17 @@ void RecordingSide::end(LegId leg)
 void RecordingSide::setSilent(LegId leg, bool isSilent)
 {
     log.append(QStringLiteral("%1 %2").arg(isSilent ? "silence" : "hear").arg(leg));
+    if (!up.contains(leg)) {
+        QTest::qFail("who is silenced is heard", __FILE__, __LINE__);
+    }
     silent[leg] = isSilent;
 }
 
 void RecordingSide::send(LegId leg, const QByteArray &body)
 {
     const Talk::Heard heard = Talk::read(body, Talk::Road::InfoDown);
-    if (!open.contains(leg) || !heard.message || !heard.remark.isEmpty()) {
-        QTest::qFail("what is sent is a word for a leg that is there", __FILE__, __LINE__);
+    if (!up.contains(leg) || !heard.message || !heard.remark.isEmpty()) {
+        QTest::qFail("what is sent is a word for a leg that is up", __FILE__, __LINE__);
         return;
     }
     log.append(QStringLiteral("send %1 %2").arg(leg).arg(Talk::rowOf(heard.message->saying).name));

@@ -25,6 +25,13 @@ public:
     /// A leg for a test's own arrival.
     Focus::LegId nextLeg() { return ++m_lastLeg; }
 
+    /// A leg has ended without the focus.
+    void forget(Focus::LegId leg)
+    {
+        open.remove(leg);
+        up.remove(leg);
+    }
+
     /// What was wanted since the last time, as "answer 1", "ring 2 bert", "send 1 members" ...
     QStringList takeLog();
 
@@ -44,6 +51,7 @@ public:
     QMap<Focus::LegId, QList<Talk::Message>> bodies;
     QMap<Focus::LegId, bool> silent;
     QSet<Focus::LegId> open; ///< answered or ringing, and not ended
+    QSet<Focus::LegId> up;   ///< those of them that are heard and hear, as a test says
 
 private:
     Focus::LegId m_lastLeg = Focus::cNoLeg;

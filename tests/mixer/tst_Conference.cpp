@@ -2,6 +2,8 @@
 
 #include "mixer/FocusTest.h"
 
+#include <limits>
+
 using Talk::Word;
 
 class tst_Conference : public FocusTest
@@ -28,7 +30,7 @@ private slots:
         QCOMPARE(side->takeLog(), QStringList("answer 1"));
         tellNow();
         QCOMPARE(side->takeLog(), QStringList());
-        hall->takeUp(leg);
+        comeUp(leg);
         QCOMPARE(side->takeLog(), QStringList("ring 2 bert"));
         tellNow();
         QCOMPARE(side->takeLog(), QStringList("send 1 members"));
@@ -43,7 +45,7 @@ private slots:
         const LegId anna = arrive("anna", creation("c", {"bert", "carl"}));
         arriveAndStay("bert", creation("c", {}));
         QCOMPARE(side->takeLog(), (QStringList{"answer 1", "answer 2"}));
-        hall->takeUp(anna);
+        comeUp(anna);
         QCOMPARE(side->takeLog(), QStringList("ring 3 carl"));
     }
 
@@ -96,8 +98,8 @@ private slots:
         for (int i = 0; i < 200; ++i) {
             say(legs.at(0), word(i % 2 == 0 ? Word::Mute : Word::Unmute, "bert"));
         }
-        hall->takeEnd(legs.at(2));
-        hall->takeEnd(legs.at(3));
+        leave(legs.at(2));
+        leave(legs.at(3));
         side->takeLog();
         const Talk::Message message = told({legs.at(0), legs.at(1)});
         QCOMPARE(side->takeLog(), (QStringList{"send 1 members", "send 2 members"}));
@@ -144,7 +146,7 @@ private slots:
         QFETCH(const QString, field);
         const QList<LegId> legs = gathering({"bert"});
         say(legs.at(1), addition({"carl"}));
-        hall->takeRefusal(side->legOf("carl"), status);
+        decline(side->legOf("carl"), status);
         const Talk::Message message = own(legs.at(1), Word::Outcome);
         const QStringList carl("carl");
         QCOMPARE(message.busy, field == "busy" ? carl : QStringList());
@@ -158,11 +160,11 @@ private slots:
     {
         side->unreachable.insert("dora");
         const LegId leg = arriveAndStay("anna", creation("c", {"bert", "carl", "dora", "anna"}));
-        hall->takeRefusal(side->legOf("bert"), 486);
-        hall->takeEnd(side->legOf("carl"));
+        decline(side->legOf("bert"), 486);
+        leave(side->legOf("carl"));
         const Talk::Message message = own(leg, Word::Outcome);
         QCOMPARE(message.busy, QStringList("bert"));
-        QCOMPARE(message.failed, (QStringList{"carl", "dora"}));
+        QCOMPARE(message.failed, (QStringList{"dora", "carl"}));
     }
 
     void bothWhoCallSomebodyHearOfHim()
@@ -171,7 +173,7 @@ private slots:
         say(legs.at(1), addition({"carl"}));
         say(legs.at(0), addition({"carl"}));
         QCOMPARE(side->takeLog(), QStringList("ring 3 carl"));
-        hall->takeRefusal(3, 603);
+        decline(3, 603);
         QCOMPARE(own(legs.at(0), Word::Outcome).refused, QStringList("carl"));
         QCOMPARE(own(legs.at(1), Word::Outcome).refused, QStringList("carl"));
     }
@@ -180,7 +182,7 @@ private slots:
     {
         const LegId leg = arriveAndStay("anna", creation("c", {"bert"}));
         for (int i = 0; i < 2; ++i) {
-            hall->takeRefusal(side->legOf("bert"), 603);
+            decline(side->legOf("bert"), 603);
             QCOMPARE(own(leg, Word::Outcome).refused, QStringList("bert"));
             say(leg, addition({"bert"}));
         }
@@ -205,7 +207,7 @@ private slots:
         const Talk::Message before = told(legs);
         QCOMPARE(before.muted, QStringList("bert"));
         if (hasLeft) {
-            hall->takeEnd(legs.at(1));
+            leave(legs.at(1));
             QCOMPARE(told({legs.at(0), legs.at(2)}).left, QStringList("bert"));
         }
         side->takeLog();
@@ -228,8 +230,8 @@ private slots:
     {
         const QList<LegId> legs = gathering({"bert"});
         const LegId leg = arriveAndStay("bert", creation("c", {}));
-        hall->takeEnd(legs.at(1));
-        hall->takeRefusal(legs.at(1), 603);
+        leave(legs.at(1));
+        decline(legs.at(1), 603);
         say(legs.at(1), addition({"carl"}));
         QCOMPARE(told({legs.at(0), leg}).connected, (QStringList{"anna", "bert"}));
         QVERIFY(!side->rung.contains("carl"));
@@ -269,15 +271,17 @@ private slots:
         QCOMPARE(message.word, name);
         QCOMPARE(message.why, QStringLiteral("the creator alone may do that, and 3 more"));
         QCOMPARE(side->notes, QStringList("conference c refuses bert, " + name + ": " + message.why));
-        const Talk::Message members = told({legs.at(0), legs.at(2), legs.at(3)});
+        side->bodies.clear();
+        say(legs.at(0), FocusTest::word(Word::Mute, "carl"));
+        const Talk::Message members = told(legs);
         QCOMPARE(members.connected.size(), 4);
-        QCOMPARE(members.muted, QStringList("dora"));
+        QCOMPARE(members.muted, (QStringList{"carl", "dora"}));
     }
 
     void theCreatorIsKnownByHisLegAlsoAfterHisReturn()
     {
         const QList<LegId> legs = gathering({"bert", "carl"});
-        hall->takeEnd(legs.at(0));
+        leave(legs.at(0));
         tellNow();
         side->bodies.clear();
         Talk::Message claim = word(Word::Resume);
@@ -297,7 +301,7 @@ private slots:
     void everybodyIsAllButTheCreator()
     {
         const QList<LegId> legs = gathering({"bert", "carl", "dora"});
-        hall->takeEnd(legs.at(3));
+        leave(legs.at(3));
         tellNow();
         side->takeLog();
         say(legs.at(0), word(Word::Mute, "non_moderator"));
@@ -352,11 +356,11 @@ private slots:
         side->hall = atOnce ? hall.get() : nullptr;
         const LegId anna = arriveAndStay("anna", creation("c", {"bert", "carl"}));
         const LegId bert = accept("bert");
-        hall->takeEnd(anna);
+        leave(anna);
         QCOMPARE(hall->conferenceCount(), 1);
         tellNow();
         side->takeLog();
-        hall->takeEnd(bert);
+        leave(bert);
         QCOMPARE(side->takeLog(), QStringList("end 3"));
         QCOMPARE(side->notes.last(), QStringLiteral("conference c is over: nobody is in it any more"));
         QCOMPARE(hall->conferenceCount(), 0);
@@ -368,7 +372,7 @@ private slots:
     void itIsOverWhenItsCreatorNeverCame()
     {
         const LegId anna = arrive("anna", creation("c", {"bert"}));
-        hall->takeEnd(anna);
+        leave(anna);
         QCOMPARE(side->takeLog(), QStringList("answer 1"));
         QCOMPARE(hall->conferenceCount(), 0);
     }
@@ -376,11 +380,11 @@ private slots:
     void whoIsAnsweredKeepsItUp()
     {
         const QList<LegId> legs = gathering({"bert"});
-        hall->takeEnd(legs.at(1));
+        leave(legs.at(1));
         const LegId bert = arrive("bert", creation("c", {}));
-        hall->takeEnd(legs.at(0));
+        leave(legs.at(0));
         QCOMPARE(hall->conferenceCount(), 1);
-        hall->takeEnd(bert);
+        leave(bert);
         QCOMPARE(hall->conferenceCount(), 0);
     }
 
@@ -400,13 +404,23 @@ private slots:
         QCOMPARE(hall->legCount(), 0);
     }
 
+    void aLongLifeIsNoShortOne()
+    {
+        Focus::Limits limits;
+        limits.lifetime = std::numeric_limits<int>::max();
+        make(limits);
+        gathering({});
+        const int interval = hall->findChildren<QTimer *>("life").value(0)->interval();
+        QVERIFY2(interval > 24 * 86400 * 1000, qPrintable(QString::number(interval)));
+    }
+
     void anyBodyIsTakenWithoutHarm_data()
     {
         QTest::addColumn<QByteArray>("body");
         QTest::addColumn<QString>("why");
         QTest::newRow("nothing") << QByteArray() << "no JSON object, at byte 0";
         QTest::newRow("binary") << QByteArray("\xff\x00\xfe", 3) << "no JSON object, at byte 1";
-        QTest::newRow("deep") << QByteArray(60000, '[') << "no JSON object, at byte 1025";
+        QTest::newRow("deep") << QByteArray(60000, '[') << "more than lists in an object, or a key twice";
         QTest::newRow("long") << QByteArray(1000000, '[') << "1000000 bytes are too many";
         QTest::newRow("a word of the mixer's") << QByteArray(R"({"say":"over","why":""})") << "no word here: \"over\"";
         QTest::newRow("a word of an INVITE") << QByteArray(R"({"say":"create"})") << "no word here: \"create\"";
@@ -421,7 +435,17 @@ private slots:
         hall->takeBody(legs.at(0), body);
         QCOMPARE(side->takeLog(), QStringList());
         QCOMPARE(own(legs.at(0), Word::Denied).why, why);
-        QCOMPARE(told({legs.at(1)}).connected, (QStringList{"anna", "bert"}));
+        // Nothing has changed, so nobody is told how it stands.
+        QCOMPARE(side->takeLog(), QStringList("send 1 denied"));
+    }
+
+    void aNameFromOutsideIsToldAsItIs()
+    {
+        const QList<LegId> legs = gathering({"bert"});
+        const QByteArray body = R"({"say":"add","users":[],"%1":0})";
+        hall->takeBody(legs.at(1), body);
+        hall->takeBody(legs.at(1), body);
+        QCOMPARE(own(legs.at(1), Word::Denied).why, QStringLiteral("add has no \"%1\", and 1 more"));
     }
 
     void whoIsNotInItYetHasNoSay()
@@ -448,9 +472,140 @@ private slots:
         QCOMPARE(bodies.size(), 3);
         QCOMPARE(bodies.at(1).failed, (QStringList{"dora", "emil"}));
         QCOMPARE(bodies.at(2).why, QStringLiteral("the conference has 3 members, as many as it may, and 1 more"));
-        hall->takeRefusal(3, 603);
+        decline(3, 603);
         say(legs.at(1), addition({"dora"}));
         QCOMPARE(side->takeLog().last(), QStringLiteral("ring 4 dora"));
+    }
+
+    void aMemberLimitHoldsForTheOnesWhoCall()
+    {
+        Focus::Limits limits;
+        limits.members = 3;
+        make(limits);
+        const QList<LegId> legs = gathering({"bert", "carl"});
+        leave(legs.at(2));
+        say(legs.at(0), addition({"dora"}));
+        accept("dora");
+        const LegId carl = arrive("carl", creation("c", {}));
+        QCOMPARE(side->takeLog().last(), QStringLiteral("refuse %1 403").arg(carl));
+        QCOMPARE(side->reasons, QStringList("the conference has 3 members, as many as it may"));
+        // Who is in it needs no other place.
+        const LegId bert = arriveAndStay("bert", creation("c", {}));
+        QCOMPARE(side->takeLog(), (QStringList{"end 2", QStringLiteral("answer %1").arg(bert)}));
+        leave(bert);
+        arriveAndStay("carl", creation("c", {}));
+        QCOMPARE(hall->legCount(), 3);
+    }
+
+    void whoLeftIsToldAlsoWhenHeIsCalledAtOnce()
+    {
+        const QList<LegId> legs = gathering({"bert", "carl"});
+        leave(legs.at(1));
+        say(legs.at(2), addition({"bert"}));
+        decline(side->legOf("bert"), 486);
+        tellNow();
+        QCOMPARE(side->takeBodies(legs.at(0)).value(0).left, QStringList("bert"));
+        const QList<Talk::Message> bodies = side->takeBodies(legs.at(2));
+        QCOMPARE(bodies.value(0).left, QStringList("bert"));
+        QCOMPARE(bodies.value(1).busy, QStringList("bert"));
+    }
+
+    void whoWasNeverInItHasNotLeft_data()
+    {
+        QTest::addColumn<bool>("isRemoved");
+        QTest::newRow("his leg ends") << false;
+        QTest::newRow("he is removed") << true;
+    }
+
+    void whoWasNeverInItHasNotLeft()
+    {
+        QFETCH(const bool, isRemoved);
+        const QList<LegId> legs = gathering({"bert"});
+        say(legs.at(1), addition({"carl"}));
+        const LegId carl = arrive("carl", creation("c", {}));
+        if (isRemoved) {
+            say(legs.at(0), word(Word::Kick, "carl"));
+        } else {
+            leave(carl);
+        }
+        tellNow();
+        QCOMPARE(side->takeBodies(legs.at(0)).value(0).left, QStringList());
+        QCOMPARE(side->takeBodies(legs.at(1)).value(1).failed, QStringList("carl"));
+    }
+
+    void whoLosesHisLegWhileHeComesBackHasLeft()
+    {
+        const QList<LegId> legs = gathering({"bert"});
+        const LegId bert = arrive("bert", creation("c", {}));
+        leave(bert);
+        QCOMPARE(told({legs.at(0)}).left, QStringList("bert"));
+    }
+
+    void whoWaitsForSomebodyHearsThatHeIsRemoved()
+    {
+        const QList<LegId> legs = gathering({"bert"});
+        say(legs.at(1), addition({"carl"}));
+        say(legs.at(0), addition({"carl"}));
+        say(legs.at(0), word(Word::Kick, "carl"));
+        QCOMPARE(own(legs.at(1), Word::Outcome).failed, QStringList("carl"));
+        // Who has removed him knows.
+        QCOMPARE(side->takeBodies(legs.at(0)).size(), 1);
+    }
+
+    void anInvitationThatDoesNotFitIsAFailure()
+    {
+        const QStringList crowd = people(QString(120, QChar(0x20ac)), 25);
+        const QList<LegId> legs = gathering({"bert"});
+        say(legs.at(0), addition(crowd));
+        for (const QString &id : crowd) {
+            accept(id);
+        }
+        tellNow();
+        side->bodies.clear();
+        say(legs.at(1), addition({"zoe", "yve"}));
+        QVERIFY(!side->rung.contains("zoe"));
+        tellNow();
+        const QList<Talk::Message> bodies = side->takeBodies(legs.at(1));
+        QCOMPARE(bodies.size(), 3);
+        QCOMPARE(bodies.at(1).failed, (QStringList{"zoe", "yve"}));
+        const QString why = "more are in it than an invitation can tell, and 1 more";
+        QCOMPARE(bodies.at(2).why, why);
+        QVERIFY(side->notes.last().endsWith("add: " + why));
+    }
+
+    void manyWhoFailAtOnceAreAllTold()
+    {
+        Focus::Limits limits;
+        limits.members = 2;
+        make(limits);
+        const QList<LegId> legs = gathering({"bert"});
+        say(legs.at(1), addition(people("a", 300)));
+        say(legs.at(1), addition(people("b", 300)));
+        tellNow();
+        QStringList failed;
+        for (const Talk::Message &message : side->takeBodies(legs.at(1))) {
+            failed += message.failed;
+        }
+        QCOMPARE(failed, people("a", 300) + people("b", 300));
+    }
+
+    void whatDoesNotFitIsOmittedFromHowItStands()
+    {
+        // Each of these has 726 bytes where it is told.
+        const QStringList crowd = people(QString(120, QChar(0x20ac)), 90);
+        const LegId anna = arriveAndStay("anna", creation("c", {}));
+        say(anna, addition(crowd.mid(0, 60)));
+        say(anna, addition(crowd.mid(60)));
+        say(anna, addition({"bert"}));
+        const LegId bert = accept("bert");
+        say(anna, word(Word::Kick, "nobody"));
+        tellNow();
+        const QList<Talk::Message> bodies = side->takeBodies(anna);
+        QCOMPARE(bodies.size(), 2);
+        QCOMPARE(bodies.at(0).connected, (QStringList{"anna", "bert"}));
+        QCOMPARE(bodies.at(0).members, (QStringList{"anna", "bert"}));
+        QCOMPARE(bodies.at(1).word, QStringLiteral("kick"));
+        QCOMPARE(side->takeBodies(bert).size(), 1);
     }
 
     void strangersAreNotRememberedForEver()
@@ -461,9 +616,11 @@ private slots:
         const QList<LegId> legs = gathering({"bert"});
         for (int i = 0; i < 100; ++i) {
             say(legs.at(0), addition({QString::number(i)}));
-            hall->takeRefusal(side->legOf(QString::number(i)), 603);
+            decline(side->legOf(QString::number(i)), 603);
         }
-        const Talk::Message message = told(legs);
+        const Talk::Message outcome = own(legs.at(0), Word::Outcome);
+        QCOMPARE(outcome.refused, people(QString(), 100));
+        const Talk::Message message = told({legs.at(1)});
         QCOMPARE(message.members.size(), 10);
         QCOMPARE(message.members.mid(0, 2), (QStringList{"anna", "bert"}));
         QCOMPARE(message.members.last(), QStringLiteral("99"));

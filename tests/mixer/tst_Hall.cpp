@@ -7,13 +7,14 @@ class tst_Hall : public FocusTest
     Q_OBJECT
 
 private:
-    static QStringList people(const QString &prefix, int count)
+    static Talk::Message revival(const QStringList &members, const QStringList &connected)
     {
-        QStringList ids;
-        for (int i = 0; i < count; ++i) {
-            ids << prefix + QString::number(i);
-        }
-        return ids;
+        Talk::Message message = word(Word::Resume);
+        message.id = QStringLiteral("c");
+        message.creator = QStringLiteral("anna");
+        message.members = members;
+        message.connected = connected;
+        return message;
     }
 
 private slots:
@@ -31,8 +32,8 @@ private slots:
         say(dora, word(Word::Kick, "carl"));
         say(dora, word(Word::Mute, "non_moderator"));
         QCOMPARE(side->takeLog(), QStringList("silence %1").replaceInStrings("%1", QString::number(bert)));
-        hall->takeEnd(dora);
-        hall->takeEnd(bert);
+        leave(dora);
+        leave(bert);
         tellNow();
         QCOMPARE(hall->conferenceCount(), 1);
         QVERIFY(!side->bodies.contains(anna));
@@ -41,7 +42,7 @@ private slots:
 
     void anIdIsFreeAgainAfterwards()
     {
-        hall->takeEnd(arriveAndStay("anna", creation("c", {})));
+        leave(arriveAndStay("anna", creation("c", {})));
         const LegId dora = arriveAndStay("dora", creation("c", {"anna"}));
         QCOMPARE(told({dora}).creator, QStringLiteral("dora"));
         QCOMPARE(hall->conferenceCount(), 1);
@@ -118,21 +119,74 @@ private slots:
         QCOMPARE(hall->legCount(), refusal.isEmpty() ? 5 : 2);
     }
 
+    void aConferenceThatComesBackIsHeldToTheLimitsToo_data()
+    {
+        QTest::addColumn<QStringList>("members");
+        QTest::addColumn<QStringList>("connected");
+        QTest::addColumn<bool>("comes");
+        // Two may be in it at once, four may belong to it; "anna" calls, who has made it.
+        const QStringList four{"anna", "bert", "carl", "dora"};
+        QTest::newRow("as many as may be") << four << QStringList{"anna", "bert"} << true;
+        QTest::newRow("too many belong to it")
+            << QStringList{"anna", "bert", "carl", "dora", "emil"} << QStringList{"anna"} << false;
+        QTest::newRow("too many with her") << people("u", 4) << QStringList() << false;
+        QTest::newRow("too many are in it") << four << QStringList{"anna", "bert", "carl"} << false;
+        QTest::newRow("too many are in it with her") << four << QStringList{"bert", "carl"} << false;
+    }
+
     void aConferenceThatComesBackIsHeldToTheLimitsToo()
     {
+        QFETCH(const QStringList, members);
+        QFETCH(const QStringList, connected);
+        QFETCH(const bool, comes);
         make({1, 2, 2, 60});
-        Talk::Message message = creation("c", {"anna", "bert", "carl"});
-        message.saying = Word::Resume;
-        message.creator = QStringLiteral("anna");
-        arrive("anna", message);
-        QCOMPARE(side->takeLog(), QStringList("refuse 1 403"));
-        message.members.removeLast();
+        Talk::Message message = revival(members, connected);
         arriveAndStay("anna", message);
-        arriveAndStay("bert", message);
+        QCOMPARE(side->takeLog(), QStringList(comes ? "answer 1" : "refuse 1 403"));
+        QCOMPARE(hall->conferenceCount(), comes ? 1 : 0);
+        if (comes) {
+            arriveAndStay("bert", message);
+            QCOMPARE(hall->legCount(), 2);
+            message.id = QStringLiteral("d");
+            arrive("anna", message);
+            QCOMPARE(side->takeLog().last(), QStringLiteral("refuse 3 503"));
+        }
+    }
+
+    void whatAFullConferenceWasToldBringsItBack()
+    {
+        Focus::Limits limits;
+        limits.members = 5;
+        make(limits);
+        QList<LegId> legs = gathering({"bert"});
+        for (const QString &id : people("u", 20)) {
+            say(legs.at(0), addition({id}));
+            decline(side->legOf(id), 603);
+        }
+        const Talk::Message last = told(legs);
+        QVERIFY(last.members.size() > limits.members);
+        make(limits);
+        legs = {arriveAndStay("bert", resumption(last)), arriveAndStay("anna", resumption(last))};
+        QCOMPARE(told(legs).members, last.members);
         QCOMPARE(hall->legCount(), 2);
-        message.id = QStringLiteral("d");
-        arrive("anna", message);
-        QCOMPARE(side->takeLog().last(), QStringLiteral("refuse 4 503"));
+    }
+
+    void manyArrivalsThatDoNotFitAreFewNotes()
+    {
+        for (int i = 0; i < 1000; ++i) {
+            hall->takeArrival(side->nextLeg(), "c", "anna", i % 2 == 0 ? "{}" : Talk::written(revival({"bert"}, {})));
+            hall->takeArrival(side->nextLeg(), "c", "emil", Talk::written(revival({"bert"}, {})));
+        }
+        QCOMPARE(hall->conferenceCount(), 1);
+        expire("notes");
+        // One more tells that a conference goes on here.
+        QCOMPARE(side->notes.size(), 12);
+        QCOMPARE(side->notes.last(), QStringLiteral("of arrivals, 491 more notes in a minute"));
+        side->notes.clear();
+        expire("notes");
+        QCOMPARE(side->notes, QStringList());
+        hall->takeArrival(side->nextLeg(), "c", "anna", "{}");
+        QCOMPARE(side->notes.size(), 1);
     }
 
     void noLegIsLeftForWhoIsCalledOrCalls()
@@ -142,9 +196,9 @@ private slots:
         say(legs.at(0), addition({"dora"}));
         tellNow();
         const QList<Talk::Message> bodies = side->takeBodies(legs.at(0));
-        QCOMPARE(bodies.value(1).failed, QStringList("dora"));
-        QCOMPARE(bodies.value(2).why, QStringLiteral("the mixer has no leg left"));
-        hall->takeEnd(legs.at(2));
+        QCOMPARE(bodies.value(0).failed, QStringList("dora"));
+        QCOMPARE(bodies.value(1).why, QStringLiteral("the mixer has no leg left"));
+        leave(legs.at(2));
         arriveAndStay("emil", creation("e", {}));
         const LegId carl = arrive("carl", creation("c", {}));
         QCOMPARE(side->takeLog().last(), QStringLiteral("refuse %1 503").arg(carl));
@@ -170,7 +224,7 @@ private slots:
             QTest::qWait(15);
         }
         for (const QString &id : crowd) {
-            hall->takeEnd(side->legOf(id));
+            leave(side->legOf(id));
             QTest::qWait(15);
         }
         const qint64 most = timer.elapsed() / Focus::cGatherMs + 1;
@@ -188,10 +242,10 @@ private slots:
     {
         const QList<LegId> legs = gathering({"bert"});
         for (const LegId leg : {Focus::cNoLeg, -1, 99}) {
-            hall->takeUp(leg);
-            hall->takeRefusal(leg, 486);
+            comeUp(leg);
+            decline(leg, 486);
             hall->takeBody(leg, Talk::written(addition({"carl"})));
-            hall->takeEnd(leg);
+            leave(leg);
         }
         tellNow();
         QCOMPARE(side->takeLog(), QStringList());

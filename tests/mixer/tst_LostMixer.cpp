@@ -57,7 +57,7 @@ private slots:
     void theAwaitedKeepItUp()
     {
         const LegId bert = arriveAndStay("bert", lastWord());
-        hall->takeEnd(bert);
+        leave(bert);
         QCOMPARE(hall->conferenceCount(), 1);
         expire("await");
         QCOMPARE(hall->conferenceCount(), 0);
@@ -68,8 +68,8 @@ private slots:
         const LegId bert = arriveAndStay("bert", lastWord());
         expire("await");
         const LegId anna = arriveAndStay("anna", lastWord());
-        hall->takeEnd(bert);
-        hall->takeEnd(anna);
+        leave(bert);
+        leave(anna);
         QCOMPARE(hall->conferenceCount(), 0);
     }
 
@@ -101,17 +101,67 @@ private slots:
         const LegId bert = arriveAndStay("bert", lastWord());
         say(anna, addition({"emil"}));
         const LegId emil = accept("emil");
-        hall->takeEnd(anna);
+        leave(anna);
         tellNow();
         side->bodies.clear();
         const LegId back = arriveAndStay("anna", lastWord());
         QCOMPARE(told({back, bert, emil}).connected, (QStringList{"anna", "bert", "emil"}));
     }
 
+    void aCreatorWhoComesLateHasNoLastWord()
+    {
+        const LegId bert = arriveAndStay("bert", lastWord());
+        say(bert, addition({"emil"}));
+        const LegId emil = accept("emil");
+        expire("await");
+        tellNow();
+        side->bodies.clear();
+        Talk::Message late = lastWord();
+        late.muted = QStringList{"carl"};
+        const LegId anna = arriveAndStay("anna", late);
+        const Talk::Message message = told({anna, bert, emil});
+        QCOMPARE(message.connected, (QStringList{"anna", "bert", "emil"}));
+        QCOMPARE(message.muted, QStringList("bert"));
+    }
+
+    void theCreatorsWordMakesRoomForHimself()
+    {
+        make({1, 3, 9, 60});
+        Talk::Message wrong = lastWord();
+        wrong.members = QStringList{"anna", "bert", "emil", "fred"};
+        wrong.connected = QStringList{"bert", "emil", "fred"};
+        const LegId bert = arriveAndStay("bert", wrong);
+        Talk::Message right = lastWord();
+        right.members.removeAll("dora");
+        const LegId anna = arriveAndStay("anna", right);
+        const Talk::Message message = told({anna, bert});
+        QCOMPARE(message.members, (QStringList{"anna", "bert", "carl"}));
+        QCOMPARE(message.left, (QStringList{"emil", "fred"}));
+    }
+
+    void theCreatorsWordIsHeldToTheLimitsToo()
+    {
+        make({1, 3, 9, 60});
+        Talk::Message first = lastWord();
+        first.members = QStringList{"anna", "bert", "carl"};
+        first.connected = first.members;
+        const LegId bert = arriveAndStay("bert", first);
+        Talk::Message more = first;
+        more.members += people("u", 20);
+        more.connected = QStringList{"anna"} + people("u", 20);
+        const LegId anna = arriveAndStay("anna", more);
+        QCOMPARE(told({anna, bert}).members, (QStringList{"anna", "bert", "carl", "u0", "u1", "u2"}));
+        // "carl" is awaited still, so there is no place for another one.
+        const LegId stranger = arrive("u0", more);
+        QCOMPARE(side->takeLog().last(), QStringLiteral("refuse %1 403").arg(stranger));
+        const LegId carl = arriveAndStay("carl", first);
+        QCOMPARE(told({anna, bert, carl}).connected, (QStringList{"anna", "bert", "carl"}));
+    }
+
     void aConferenceThatWasMadeHereTakesNobodysWord()
     {
         const QList<LegId> legs = gathering({"bert"});
-        hall->takeEnd(legs.at(0));
+        leave(legs.at(0));
         tellNow();
         side->bodies.clear();
         const LegId anna = arriveAndStay("anna", lastWord());

@@ -3,8 +3,11 @@
 #include "mixer/focus/Control.h"
 
 #include <QDateTime>
+#include <QSet>
 
+#include <algorithm>
 #include <array>
+#include <limits>
 #include <utility>
 
 namespace Focus {
@@ -13,8 +16,7 @@ namespace {
 
 using State = Member::State;
 
-// Members who are not there are remembered, muted ones for one, up to so many times the limit.
-constexpr int cRememberedFactor = 2;
+constexpr int cLongestLifetime = std::numeric_limits<int>::max() / 1000; // in seconds, as a timer bears it
 
 struct RefusalRow
 {
@@ -58,7 +60,7 @@ Conference::Conference(const Talk::Message &opening, const QString &opener, LegS
     connect(&m_awaitTimer, &QTimer::timeout, this, &Conference::stopAwaiting);
     connect(&m_lifeTimer, &QTimer::timeout, this,
             [this] { finish(QStringLiteral("it has lasted as long as a conference may")); });
-    m_lifeTimer.start(m_limits.lifetime * 1000);
+    m_lifeTimer.start(std::min(m_limits.lifetime, cLongestLifetime) * 1000);
     open(opening, opener);
 }
 
@@ -82,7 +84,8 @@ void Conference::open(const Talk::Message &opening, const QString &opener)
     }
 }
 
-/// What somebody has last heard of a conference whose mixer was lost counts, until its creator says otherwise.
+/// What somebody has last heard of a conference whose mixer was lost counts, until its creator says otherwise. What is
+/// beyond the limits does not.
 void Conference::adopt(const Talk::Message &message)
 {
     if (message.createTime > 0) {
@@ -94,20 +97,29 @@ void Conference::adopt(const Talk::Message &message)
             remove(id, "the creator knows nothing of him");
         }
     }
+    const QSet<QString> connected(message.connected.begin(), message.connected.end());
+    int belonging = static_cast<int>(m_roster.members().size());
+    int present = m_roster.presentCount();
     for (const QString &id : message.members) {
-        const bool isNew = m_roster.find(id) == nullptr;
-        Member &member = m_roster.take(id);
-        if (isNew) {
-            member.state = State::Left;
+        if (m_roster.find(id) == nullptr) {
+            if (belonging >= m_limits.belonging()) {
+                continue;
+            }
+            m_roster.take(id).state = State::Left;
+            ++belonging;
         }
-        if (member.state == State::Left && message.connected.contains(id) && m_awaitTimer.isActive()) {
+        Member &member = *m_roster.find(id);
+        if (member.state == State::Left && connected.contains(id) && present < m_limits.members) {
             member.state = State::Awaited;
+            member.isIn = true;
+            ++present;
         }
     }
     const QStringList all = m_roster.ids();
     for (const QString &id : all) {
         setMuted(id, message.muted.contains(id));
     }
+    m_bulletin.noteChange();
 }
 
 void Conference::admit(LegId leg, const QString &userId, const Talk::Message &message)
@@ -115,6 +127,13 @@ void Conference::admit(LegId leg, const QString &userId, const Talk::Message &me
     Member *member = m_roster.find(userId);
     if (member == nullptr) {
         m_side.refuse(leg, cStatusForbidden, QStringLiteral("%1 does not belong to the conference").arg(userId));
+        return;
+    }
+    if (userId == m_roster.creator() && message.saying == Talk::Word::Resume && std::exchange(m_creatorSpeaks, false)) {
+        adopt(message);
+    }
+    if (!member->isPresent() && m_roster.presentCount() >= m_limits.members) {
+        m_side.refuse(leg, cStatusForbidden, fullness());
         return;
     }
     if (m_book.room() == 0 && member->leg == cNoLeg) {
@@ -125,9 +144,6 @@ void Conference::admit(LegId leg, const QString &userId, const Talk::Message &me
     member->state = State::Arriving;
     m_book.erase(earlier);
     m_book.enter(leg, {m_id, userId});
-    if (userId == m_roster.creator() && message.saying == Talk::Word::Resume && std::exchange(m_creatorSpeaks, false)) {
-        adopt(message);
-    }
     if (earlier != cNoLeg) {
         m_side.end(earlier);
     }
@@ -172,7 +188,13 @@ QByteArray Conference::invitation() const
 void Conference::ring(Member &member, const QByteArray &header)
 {
     member.state = State::Invited;
-    member.leg = m_book.room() > 0 ? m_side.ring(m_id, member.id, header) : cNoLeg;
+    m_bulletin.noteChange();
+    if (header.isEmpty()) {
+        for (const QString &asker : qAsConst(member.askers)) {
+            deny(asker, QStringLiteral("add"), QStringLiteral("more are in it than an invitation can tell"));
+        }
+    }
+    member.leg = m_book.room() > 0 && !header.isEmpty() ? m_side.ring(m_id, member.id, header) : cNoLeg;
     if (member.leg == cNoLeg) {
         settle(member, State::Failed);
     } else {
@@ -244,12 +266,12 @@ void Conference::add(const QStringList &users, const QString &sender)
         }
         const QString refusal = rings ? QString() : refusalOfOneMore();
         if (!refusal.isEmpty()) {
-            m_bulletin.noteFailure(sender, id);
+            m_bulletin.noteOutcome(sender, State::Failed, id);
             deny(sender, QStringLiteral("add"), refusal);
             continue;
         }
         if (known == nullptr) {
-            m_roster.forgetAbsent(cRememberedFactor * m_limits.members - 1);
+            m_roster.forgetAbsent(m_limits.belonging() - 1);
         }
         Member &member = m_roster.take(id);
         if (!member.askers.contains(sender)) {
@@ -266,21 +288,24 @@ void Conference::add(const QStringList &users, const QString &sender)
 QString Conference::refusalOfOneMore() const
 {
     if (m_roster.presentCount() >= m_limits.members) {
-        return QStringLiteral("the conference has %1 members, as many as it may").arg(m_limits.members);
+        return fullness();
     }
     return m_book.room() == 0 ? QStringLiteral("the mixer has no leg left") : QString();
 }
 
+QString Conference::fullness() const
+{
+    return QStringLiteral("the conference has %1 members, as many as it may").arg(m_limits.members);
+}
+
+/// By the creator's will, which everybody who waits for him is told but the creator.
 void Conference::remove(const QString &userId, const char *why)
 {
     Member *member = m_roster.find(userId);
-    const bool wasIn = member->isPresent() && member->state != State::Invited;
     dropLeg(*member, QLatin1String(why));
-    if (wasIn) {
-        m_bulletin.noteRemoved(userId);
-    }
+    member->askers.removeAll(m_roster.creator());
+    settle(*member, State::Left);
     m_roster.forget(userId);
-    gather();
 }
 
 void Conference::setMuted(const QString &userId, bool muted)
@@ -292,13 +317,27 @@ void Conference::setMuted(const QString &userId, bool muted)
     if (member.state == State::Connected) {
         m_side.setSilent(member.leg, muted);
     }
+    m_bulletin.noteChange();
     gather();
 }
 
 void Conference::settle(Member &member, State state)
 {
+    const bool comes = state == State::Connected;
     member.state = state;
-    member.hasNews = true;
+    const bool wasIn = std::exchange(member.isIn, comes);
+    if (comes) {
+        m_bulletin.noteJoined(member.id);
+    } else if (wasIn) {
+        m_bulletin.noteLeft(member.id);
+    }
+    const QStringList askers = std::exchange(member.askers, {});
+    for (const QString &asker : askers) {
+        if (!comes) {
+            m_bulletin.noteOutcome(asker, state, member.id);
+        }
+    }
+    m_bulletin.noteChange();
     gather();
 }
 
@@ -339,17 +378,22 @@ void Conference::tell()
     for (const QString &text : qAsConst(notes)) {
         m_side.note(QStringLiteral("conference %1 refuses %2").arg(m_id, text));
     }
+    bool fits = true;
     for (const Letter &letter : letters) {
         if (letter.body.isEmpty()) {
-            m_side.note(QStringLiteral("conference %1 has more to tell than fits").arg(m_id));
-            return;
+            fits = false;
+        } else {
+            m_side.send(letter.leg, letter.body);
         }
-        m_side.send(letter.leg, letter.body);
+    }
+    if (!fits) {
+        m_side.note(QStringLiteral("conference %1 has more to tell than fits").arg(m_id));
     }
 }
 
 void Conference::stopAwaiting()
 {
+    m_creatorSpeaks = false;
     for (const std::unique_ptr<Member> &member : m_roster.members()) {
         if (member->state == State::Awaited) {
             settle(*member, State::Left);

@@ -67,6 +67,7 @@ private:
     void apply(const Talk::Message &message, const QString &sender, const QStringList &users);
     void add(const QStringList &users, const QString &sender);
     QString refusalOfOneMore() const;
+    QString fullness() const;
     void remove(const QString &userId, const char *why);
     void setMuted(const QString &userId, bool muted);
     void settle(Member &member, Member::State state);
@@ -89,7 +90,7 @@ private:
     QTimer m_gatherTimer;
     QTimer m_awaitTimer;
     QTimer m_lifeTimer;
-    bool m_creatorSpeaks = false; // of a conference that is revived: its creator has not come back yet
+    bool m_creatorSpeaks = false; // of a conference that is revived: its creator may still say how it stood
     bool m_over = false;
 };
 

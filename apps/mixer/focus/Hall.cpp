@@ -2,11 +2,26 @@
 
 #include "conference/UserId.h"
 
+#include <utility>
+
 namespace Focus {
+
+namespace {
+
+// Anybody may call, as often as he likes: of what is wrong there so many notes are made in so long.
+constexpr int cMostArrivalNotes = 10;
+constexpr int cNotesMs = 60000;
+
+} // namespace
 
 Hall::Hall(LegSide &side, const Limits &limits, QObject *parent)
     : QObject(parent), m_side(side), m_limits(limits), m_book(limits.legs)
 {
+    m_noteTimer.setObjectName(QStringLiteral("notes"));
+    m_noteTimer.setParent(this);
+    m_noteTimer.setSingleShot(true);
+    m_noteTimer.setInterval(cNotesMs);
+    connect(&m_noteTimer, &QTimer::timeout, this, &Hall::closeNotes);
 }
 
 Hall::~Hall() = default;
@@ -15,7 +30,7 @@ void Hall::takeArrival(LegId leg, const QString &conferenceId, const QString &us
 {
     const Talk::Heard heard = Talk::read(header, Talk::Road::InviteUp);
     if (!heard.remark.isEmpty()) {
-        m_side.note(QStringLiteral("of an arrival: %1").arg(heard.remark));
+        noteArrival(QStringLiteral("of an arrival: %1").arg(heard.remark));
     }
     if (!heard.message) {
         m_side.refuse(leg, cStatusMalformed, heard.remark);
@@ -37,7 +52,7 @@ void Hall::open(LegId leg, const QString &userId, const Talk::Message &message)
     }
     const QString refusal = refusalOf(opening, userId, &status);
     if (!refusal.isEmpty()) {
-        m_side.note(QStringLiteral("no conference %1 for %2: %3").arg(opening.id, userId, refusal));
+        noteArrival(QStringLiteral("no conference %1 for %2: %3").arg(opening.id, userId, refusal));
         m_side.refuse(leg, status, refusal);
         return;
     }
@@ -57,15 +72,19 @@ QString Hall::refusalOf(const Talk::Message &message, const QString &userId, int
     if (!isNew && message.creator != userId && !message.members.contains(userId)) {
         return QStringLiteral("%1 does not belong to the conference").arg(userId);
     }
-    const int members = message.members.size() + (isNew ? 1 : 0);
-    if (members > m_limits.members) {
+    const int members = message.members.size() + (isNew || !message.members.contains(message.creator) ? 1 : 0);
+    const int present = isNew ? members : message.connected.size() + (message.connected.contains(userId) ? 0 : 1);
+    if (present > m_limits.members) {
         return QStringLiteral("a conference has %1 members at most").arg(m_limits.members);
+    }
+    if (members > m_limits.belonging()) {
+        return QStringLiteral("a conference remembers %1 members at most").arg(m_limits.belonging());
     }
     *status = cStatusFull;
     if (conferenceCount() >= m_limits.conferences) {
         return QStringLiteral("the mixer has %1 conferences, as many as it may").arg(m_limits.conferences);
     }
-    if (m_book.room() < (isNew ? members : 1)) {
+    if (m_book.room() < (isNew ? present : 1)) {
         return QStringLiteral("the mixer has only %1 legs left").arg(m_book.room());
     }
     return {};
@@ -90,6 +109,24 @@ void Hall::takeEnd(LegId leg)
 void Hall::takeBody(LegId leg, const QByteArray &body)
 {
     withConferenceOf(leg, [&](Conference &conference, const QString &userId) { conference.takeBody(userId, body); });
+}
+
+void Hall::noteArrival(const QString &text)
+{
+    if (!m_noteTimer.isActive()) {
+        m_noteTimer.start();
+    }
+    if (++m_arrivalNotes <= cMostArrivalNotes) {
+        m_side.note(text);
+    }
+}
+
+void Hall::closeNotes()
+{
+    const int more = std::exchange(m_arrivalNotes, 0) - cMostArrivalNotes;
+    if (more > 0) {
+        m_side.note(QStringLiteral("of arrivals, %1 more notes in a minute").arg(more));
+    }
 }
 
 /// It still runs when it says that it is over.

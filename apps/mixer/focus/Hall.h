@@ -11,6 +11,7 @@
 #include <QByteArray>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include <map>
 #include <memory>
@@ -51,6 +52,8 @@ private:
     void open(LegId leg, const QString &userId, const Talk::Message &message);
     QString refusalOf(const Talk::Message &message, const QString &userId, int *status) const;
     void close(const QString &id);
+    void noteArrival(const QString &text);
+    void closeNotes();
 
     template <class Action>
     void withConferenceOf(LegId leg, const Action &action);
@@ -58,6 +61,8 @@ private:
     LegSide &m_side;
     Limits m_limits;
     LegBook m_book;
+    QTimer m_noteTimer;
+    int m_arrivalNotes = 0;                                       // since it was started
     std::map<QString, std::unique_ptr<Conference>> m_conferences; // by id
 };
 

@@ -30,7 +30,7 @@ struct Member
     QString id;
     State state = State::Invited;
     bool muted = false;
-    bool hasNews = false; ///< how it stands with him is to be told
+    bool isIn = false; ///< the others take him for one who is in it: nobody has been told that he had left
     LegId leg = cNoLeg;
     QStringList askers; ///< who has called him and waits for the outcome
 
