@@ -330,6 +330,11 @@ void UserAgent::Core::takeEnd()
         end.why = farText(error->getPhrase(), cRemarkLimit);
         end.mediaLost = m_mediaRan && end.status == cStatusMediaLost;
     }
+    if (call->getState() == linphone::Call::State::Error && end.status == 0 &&
+        call->getCallLog()->getStatus() == linphone::Call::Status::Success) {
+        // It was taken, but in a way that the library does not agree with: it ends that without a status.
+        end = {SipStatus::cNothingInCommon, false, nothingInCommon()};
+    }
     reportEnd(end, call->getDir() == linphone::Call::Dir::Outgoing);
 }
 
