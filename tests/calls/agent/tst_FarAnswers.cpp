@@ -67,6 +67,17 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(!m_caller.peer().trace().filter(why).isEmpty(), cPatienceMs);
     }
 
+    void keysThatAreNeverAgreedOnEndTheCall()
+    {
+        Person caller(m_exchange, QStringLiteral("200"));
+        caller.set(QStringLiteral("media/encryption"), QStringLiteral("zrtp"));
+        QVERIFY(caller.arrive());
+        caller.say("CallUser", {QStringLiteral("peer-200"), false});
+        auto x = caller.hears();
+        qInfo() << caller.peer().trace().filter("DBG");
+        QCOMPARE(x, QStringLiteral("24"));
+    }
+
 private:
     TestExchange m_exchange;
     AnsweringPeer m_peer;
