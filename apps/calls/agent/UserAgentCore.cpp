@@ -275,8 +275,6 @@ void UserAgent::Core::onCallStateChanged(const std::shared_ptr<linphone::Core> &
     guard([&] {
         hurry();
         if (m_call && call == m_call) {
-            emit m_agent.remarked(
-                QStringLiteral("DBG %1 %2").arg(int(state)).arg(int(call->getCurrentParams()->getMediaEncryption())));
             takeOwn(state);
         } else {
             takeStranger(call, state);
