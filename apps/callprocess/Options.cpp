@@ -14,13 +14,11 @@ namespace {
 constexpr OptionRow cScenario {"scenario", StandIn::cScenarioVariable, "FILE",   "run this scenario instead of the exchange of robots"};
 constexpr OptionRow cSpeed    {"speed",    StandIn::cSpeedVariable,    "FACTOR", "divide all delays by this"};
 // clang-format on
-const QString cHideSecrets = QStringLiteral("hide-secrets");
 
 void addOptions(QCommandLineParser &parser)
 {
     addOption(parser, cScenario);
     EndpointOptions::addTrace(parser);
-    parser.addOption({cHideSecrets, QStringLiteral("keep what users sign in with out of the trace")});
     addOption(parser, cSpeed);
     EndpointOptions::addOthers(parser);
 }
@@ -34,7 +32,6 @@ bool Options::read(const QStringList &arguments, QString *error)
     if (!parse(parser, arguments, error)) {
         return false;
     }
-    hideSecrets = parser.isSet(cHideSecrets);
     scenario = valueOf(parser, cScenario);
     return readNumber(parser, cSpeed, 0.001, &speed, error) && EndpointOptions::read(parser, error);
 }

@@ -13,8 +13,6 @@ struct Options : EndpointOptions
     QString scenario;   ///< path; empty: the exchange of robots
     double speed = 1.0; ///< greater than 0
 
-    bool hideSecrets = false; ///< what a user signs in with does not come into the trace
-
     /// Reads the arguments, the program's name first, and the environment. False with `error` set for an unknown
     /// option, a surplus argument or a bad number.
     bool read(const QStringList &arguments, QString *error);

@@ -12,12 +12,14 @@ constexpr OptionRow cTrace      {"trace",        EndpointVariables::cTrace, "FIL
 constexpr OptionRow cIdle       {"idle-seconds", EndpointVariables::cIdle,  "N",    "end after this long without a client"};
 constexpr OptionRow cSocketName {"socket-name",  "",                        "NAME", "name of the local server"};
 // clang-format on
+const QString cHideSecrets = QStringLiteral("hide-secrets");
 
 } // namespace
 
 void EndpointOptions::addTrace(QCommandLineParser &parser)
 {
     addOption(parser, cTrace);
+    parser.addOption({cHideSecrets, QStringLiteral("keep what users sign in with out of the trace")});
 }
 
 void EndpointOptions::addOthers(QCommandLineParser &parser)
@@ -45,6 +47,7 @@ bool EndpointOptions::read(const QCommandLineParser &parser, QString *error)
 {
     help = parser.isSet(QStringLiteral("help"));
     trace = valueOf(parser, cTrace);
+    hideSecrets = parser.isSet(cHideSecrets);
     const QString name = valueOf(parser, cSocketName);
     if (!name.isEmpty()) {
         socketName = name;

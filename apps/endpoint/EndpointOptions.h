@@ -12,11 +12,12 @@ class QStringList;
 struct EndpointOptions
 {
     QString trace;                                               ///< path, "-" for standard error; empty: none
+    bool hideSecrets = false;                                    ///< what a user signs in with is not traced
     double idleSeconds = 600.0;                                  ///< 0 or more
     QString socketName = QString::fromLatin1(Wire::cServerName); ///< never empty
     bool help = false;
 
-    /// Makes the parser know the trace: options of the program's own may follow it.
+    /// Makes the parser know the trace and what is kept out of it: options of the program's own may follow it.
     static void addTrace(QCommandLineParser &parser);
 
     /// Makes the parser know the others, the help last.

@@ -20,9 +20,13 @@ QString farText(const std::string &bytes, int limit)
     return text;
 }
 
+QString nothingInCommon()
+{
+    return QStringLiteral("no common encryption or codec");
+}
+
 QString whyRefused(int status, const std::string &phrase)
 {
-    const QString why = status == SipStatus::cNothingInCommon ? QStringLiteral("no common encryption or codec")
-                                                              : farText(phrase, cRemarkLimit);
+    const QString why = status == SipStatus::cNothingInCommon ? nothingInCommon() : farText(phrase, cRemarkLimit);
     return QStringLiteral("%1 (%2)").arg(why, QString::number(status));
 }

@@ -18,11 +18,9 @@ namespace {
 constexpr int cIdleIterateMs = 40;
 constexpr int cBusyIterateMs = 4;
 constexpr int cHurryMs = 3000;
+constexpr int cKeysMs = 8000;
 constexpr int cStopSteps = 150;
 constexpr int cStopStepUs = 10000;
-
-// What the library says of a call that it ended for want of sound.
-constexpr int cStatusMediaLost = 503;
 
 } // namespace
 
@@ -300,6 +298,9 @@ void UserAgent::Core::takeOwn(linphone::Call::State state)
     case linphone::Call::State::OutgoingEarlyMedia:
         emit m_agent.ringsThere();
         break;
+    case linphone::Call::State::Connected:
+        endUnlessKeysAreAgreedOn();
+        break;
     case linphone::Call::State::StreamsRunning:
         takeRunningStreams();
         break;
@@ -324,32 +325,14 @@ void UserAgent::Core::takeRunningStreams()
     }
 }
 
-void UserAgent::Core::takeEnd()
+void UserAgent::Core::endUnlessKeysAreAgreedOn()
 {
-    const auto call = std::exchange(m_call, nullptr);
-    CallEnd end;
-    if (const auto error = call->getErrorInfo()) {
-        end.status = error->getProtocolCode();
-        end.why = farText(error->getPhrase(), cRemarkLimit);
-        end.mediaLost = m_mediaRan && end.status == cStatusMediaLost;
-    }
-    reportEnd(end, call->getDir() == linphone::Call::Dir::Outgoing);
-}
-
-void UserAgent::Core::reportEnd(const CallEnd &end, bool placedHere)
-{
-    playEnd(end, placedHere);
-    emit m_agent.callEnded(end);
-}
-
-void UserAgent::Core::playEnd(const CallEnd &end, bool placedHere)
-{
-    if (end.mediaLost) {
-        m_tones.playFailed(*m_library);
-    } else if (placedHere && !m_mediaRan) {
-        const bool busy = end.status == SipStatus::cBusy || end.status == SipStatus::cDeclined;
-        busy ? m_tones.playBusy(*m_library) : m_tones.playFailed(*m_library);
-    }
+    const auto endIt = [this, waiting = std::weak_ptr<linphone::Call>(m_call)] {
+        if (m_call && m_call == waiting.lock() && !m_mediaRan) {
+            guard([this] { endForWantOfKeys(); });
+        }
+    };
+    QTimer::singleShot(cKeysMs, &m_agent, endIt);
 }
 
 void UserAgent::Core::onCallEncryptionChanged(const std::shared_ptr<linphone::Core> & /*core*/,

@@ -66,6 +66,8 @@ private:
     /// Whether the call that is on was placed to this one, and does not stand yet.
     bool isBeingPlacedTo(const linphone::Address &address) const;
     void takeRunningStreams();
+    void endUnlessKeysAreAgreedOn();
+    void endForWantOfKeys();
     void playEnd(const CallEnd &end, bool placedHere);
     std::shared_ptr<linphone::CallParams> parameters(const std::shared_ptr<linphone::Call> &call);
 

@@ -267,9 +267,10 @@ void Desk::takeEnd(const CallEnd &end)
     }
 }
 
-/// A call of one's own that does not get as far as the exchange.
+/// A call of one's own that does not get as far as the exchange. It ends the one that is on, as any other does.
 void Desk::failCall(const CallEnd &end)
 {
+    m_agent.end();
     takeEnd(end);
     m_agent.playFailure(end);
 }

@@ -5,6 +5,8 @@
 #include "calls/peers/Person.h"
 #include "calls/sound/SoundBox.h"
 
+#include "fakes/Patience.h"
+
 #include <QtTest>
 
 #include <array>
@@ -17,10 +19,11 @@ struct Row
     const char *word;
 };
 // clang-format off
-constexpr std::array<Row, 27> cRows{{
-    {400, "19"}, {403, "19"}, {404, "23"}, {405, "19"}, {406, "19"}, {408, "23"}, {410, "23"}, {413, "19"}, {415, "24"},
-    {416, "19"}, {420, "19"}, {480, "23"}, {481, "19"}, {482, "19"}, {483, "19"}, {484, "19"}, {485, "19"}, {486, "22"},
-    {487, "19"}, {488, "24"}, {500, "19"}, {501, "19"}, {503, "19"}, {600, "22"}, {603, "10"}, {604, "23"}, {606, "24"},
+constexpr std::array<Row, 28> cRows{{
+    {200, "24"}, {400, "19"}, {403, "19"}, {404, "23"}, {405, "19"}, {406, "19"}, {408, "23"}, {410, "23"}, {413, "19"},
+    {415, "24"}, {416, "19"}, {420, "19"}, {480, "23"}, {481, "19"}, {482, "19"}, {483, "19"}, {484, "19"}, {485, "19"},
+    {486, "22"}, {487, "19"}, {488, "24"}, {500, "19"}, {501, "19"}, {503, "19"}, {600, "22"}, {603, "10"}, {604, "23"},
+    {606, "24"},
 }};
 // clang-format on
 
@@ -54,6 +57,23 @@ private slots:
         QFETCH(QString, word);
         m_caller.say("CallUser", {QStringLiteral("peer-") + QString::fromLatin1(QTest::currentDataTag()), false});
         QCOMPARE(m_caller.hears(), word);
+    }
+
+    void plainAnswerIsToldToAnOperator()
+    {
+        m_caller.say("CallUser", {QStringLiteral("peer-200"), false});
+        QCOMPARE(m_caller.hears(), QStringLiteral("24"));
+        const QString why = QStringLiteral("the call ended: 488 no common encryption or codec");
+        QTRY_VERIFY_WITH_TIMEOUT(!m_caller.peer().trace().filter(why).isEmpty(), cPatienceMs);
+    }
+
+    void keysThatAreNeverAgreedOnEndTheCall()
+    {
+        Person caller(m_exchange, QStringLiteral("200"));
+        caller.set(QStringLiteral("media/encryption"), QStringLiteral("zrtp"));
+        QVERIFY(caller.arrive());
+        caller.say("CallUser", {QStringLiteral("peer-200"), false});
+        QCOMPARE(caller.hears(), QStringLiteral("24"));
     }
 
 private:

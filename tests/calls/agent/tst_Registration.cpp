@@ -167,6 +167,20 @@ private slots:
         QCOMPARE(person.hears(), QStringLiteral("17 true"));
     }
 
+    void callThatRingsEndsWithTheExchange()
+    {
+        TestExchange exchange;
+        QVERIFY(exchange.start());
+        Person caller(exchange, QStringLiteral("100"));
+        Person called(exchange, QStringLiteral("200"));
+        QVERIFY(caller.arrive() && called.arrive());
+        caller.call(called);
+        QCOMPARE(called.hears(), QStringLiteral("0 100"));
+        QVERIFY(exchange.kill());
+        QVERIFY(caller.hearsAtLast(QStringLiteral("19")));
+        QVERIFY(called.hearsAtLast(QStringLiteral("4")));
+    }
+
     void nextServerIsTakenWhereOneDoesNotAnswer()
     {
         TestExchange gone;

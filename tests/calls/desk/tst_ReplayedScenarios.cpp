@@ -40,6 +40,7 @@ private slots:
         QTest::newRow("call-hung-up") << QString() << Deed([accepts](Person &other) {
             return accepts(other) && (other.say("HangUpCall"), true);
         });
+        QTest::newRow("conference-refused") << QString() << nothing;
         QTest::newRow("incoming-accepted") << QString() << Deed([](Person &other) {
             return reaches(other) && other.hears() == QLatin1String("18") && (other.say("HangUpCall"), true);
         });

@@ -197,6 +197,17 @@ private slots:
         QCOMPARE(caller.hears(), QStringLiteral("18"));
     }
 
+    void nextCallThatComesToNothingEndsTheOneThatIsOn()
+    {
+        Person caller(m_exchange, QStringLiteral("100"));
+        Person called(m_exchange, QStringLiteral("200"));
+        QVERIFY(caller.arrive() && called.arrive());
+        QVERIFY(connectCall(caller, called));
+        caller.say("CallUser", {QString(), false});
+        QCOMPARE(caller.hears(), QStringLiteral("23"));
+        QCOMPARE(called.hears(), QStringLiteral("8"));
+    }
+
     void killedFarEndIsNoticedByItsSilence()
     {
         Person caller(m_exchange, QStringLiteral("100"));

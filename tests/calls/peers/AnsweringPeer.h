@@ -1,7 +1,7 @@
 #pragma once
 
-// Whoever is called as "peer-486" at a test's exchange: sipp, which answers each call with the status in its name. Main
-// thread.
+// Whoever is called as "peer-486" at a test's exchange: sipp, which answers each call with the status in its name, and
+// as "peer-200" takes it with sound that is not encrypted. Main thread.
 
 #include "calls/peers/ChildProgram.h"
 
@@ -20,6 +20,7 @@ public:
 
 private:
     static QByteArray scenario(const QList<int> &statuses);
+    static QByteArray answer(int status);
 
     int m_port;
     ChildProgram m_sipp;
