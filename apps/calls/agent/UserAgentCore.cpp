@@ -299,7 +299,9 @@ void UserAgent::Core::takeOwn(linphone::Call::State state)
         emit m_agent.ringsThere();
         break;
     case linphone::Call::State::Connected:
-        endUnlessKeysAreAgreedOn();
+        if (m_library->getMediaEncryption() == linphone::MediaEncryption::ZRTP) {
+            endUnlessKeysAreAgreedOn();
+        }
         break;
     case linphone::Call::State::StreamsRunning:
         takeRunningStreams();
