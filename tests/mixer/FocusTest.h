@@ -137,6 +137,18 @@ protected:
 
     void tellNow() { expire("gather"); }
 
+    /// What `leg` alone was told as Outcome or Denied since the last time.
+    Talk::Message own(LegId leg, Talk::Word saying)
+    {
+        tellNow();
+        for (const Talk::Message &message : side->takeBodies(leg)) {
+            if (message.saying == saying) {
+                return message;
+            }
+        }
+        return {};
+    }
+
     /// How it stands, as each of these was told last: each the same.
     Talk::Message told(const QList<LegId> &legs)
     {
